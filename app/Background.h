@@ -1,0 +1,33 @@
+// One way to work away from the main thread and come back.
+// Thread: call it on the owner's thread; `job` runs on the global thread pool, `done` on the owner's thread.
+#pragma once
+
+#include <QFutureWatcher>
+#include <QObject>
+#include <QtConcurrent>
+
+#include <type_traits>
+#include <utility>
+
+namespace Quorbel {
+
+/// Runs `job` in the background and hands its result to `done`. The job must capture values, never the owner: it
+/// runs to its end whatever happens. When the owner is gone by then, `done` is not called at all. What the job
+/// throws must be caught in the job and returned as part of its result.
+template <typename Job, typename Done>
+void runInBackground(QObject* owner, Job job, Done done)
+{
+    // Not QFuture::then(context, …): when the context dies first, Qt 6.4 asserts or calls through null.
+    using Result = std::invoke_result_t<Job>;
+    auto* watcher = new QFutureWatcher<Result>(owner);
+    QObject::connect(watcher, &QFutureWatcherBase::finished, owner, [watcher, done = std::move(done)]() mutable {
+        watcher->deleteLater();
+        if constexpr (std::is_void_v<Result>)
+            done();
+        else
+            done(watcher->future().takeResult());
+    });
+    watcher->setFuture(QtConcurrent::run(std::move(job)));
+}
+
+}  // namespace Quorbel

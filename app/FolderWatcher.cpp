@@ -1,0 +1,1 @@
+#include "app/FolderWatcher.h"

@@ -1,0 +1,1 @@
+#include "app/SelfTest.h"

@@ -1,0 +1,24 @@
+// Positions as texts, "48.858370, 2.294481", in signed decimal degrees. Thread: any. Pure.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace Quorbel::Coordinates {
+
+struct Point {
+    double latitude = 0;   ///< degrees, north positive
+    double longitude = 0;  ///< degrees, east positive
+    bool operator==(const Point&) const = default;
+};
+
+/// Two decimal numbers with a comma between, each with an optional compass letter behind. No range check.
+std::optional<Point> parse(const QString& text);
+/// Six decimals, comma and space.
+QString displayString(const Point& point);
+/// The four GPS assignments; four deletions for a blank text; none for a text that does not parse.
+QStringList writeArgs(const QString& text);
+
+}  // namespace Quorbel::Coordinates
