@@ -11,17 +11,17 @@ namespace Quorbel {
 
 struct MapRequest {
     GeoPoint centre{};
-    QSizeF size{};           ///< device-independent pixels
+    QSizeF size{};  ///< device-independent pixels
     qreal devicePixelRatio = 1;
     double kilometresAcross = 150;
     bool dark = false;
-    bool widen = true;       ///< zooms out until there is something to see
+    bool widen = true;  ///< zooms out until there is something to see
 };
 
 struct MapImage {
-    QImage image{};          ///< with its device pixel ratio set; no marker on it
+    QImage image{};  ///< with its device pixel ratio set; no marker on it
     double kilometresAcross = 0;  ///< what was drawn, after widening
-    QString attribution{};   ///< to show on the map; empty when no licence asks for it
+    QString attribution{};  ///< to show on the map; empty when no licence asks for it
 };
 
 class MapRenderer {

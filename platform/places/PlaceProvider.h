@@ -6,6 +6,7 @@
 #include <QList>
 #include <QLocale>
 #include <QString>
+#include <QUrl>
 
 #include <functional>
 #include <memory>
@@ -14,7 +15,7 @@
 namespace Quorbel {
 
 struct GeoPoint {
-    double latitude = 0;   ///< degrees, north positive, -90…90
+    double latitude = 0;  ///< degrees, north positive, -90…90
     double longitude = 0;  ///< degrees, east positive, -180…180
     bool isValid() const { return latitude >= -90 && latitude <= 90 && longitude >= -180 && longitude <= 180; }
     bool operator==(const GeoPoint&) const = default;
@@ -32,9 +33,9 @@ struct Placemark {
 };
 
 struct PlaceSuggestion {
-    QString title{};     ///< "Springfield"
+    QString title{};  ///< "Springfield"
     QString subtitle{};  ///< "Illinois, United States"
-    QString id{};        ///< opaque; tells the provider which place it was
+    QString id{};  ///< opaque; tells the provider which place it was
     std::optional<Placemark> placemark{};  ///< set when the suggestion already holds all of it
     bool operator==(const PlaceSuggestion&) const = default;
 };
@@ -79,5 +80,18 @@ public:
     /// Credits of the data, for the About text.
     virtual QString attribution() const = 0;
 };
+
+struct PlaceOptions {
+    QString dataFolder{};  ///< share/quorbel/places; where files are missing, suggest answers noData
+    QUrl endpoint{};  ///< of an online service, asked besides the files here; empty: never go online
+};
+
+/// The service's address as a person typed it, or nothing when it is none that may be asked: https anywhere, http on
+/// this machine only, without user name and password.
+std::optional<QUrl> placeEndpoint(const QString& typed);
+
+/// Places from the files in the data folder and, below them, from the endpoint when it is one that placeEndpoint
+/// accepts. Never null. The provider owns a database connection: use and destroy it on the thread that made it.
+std::unique_ptr<PlaceProvider> makePlaceProvider(const PlaceOptions& options);
 
 }  // namespace Quorbel
