@@ -9,7 +9,7 @@
 namespace Quorbel::Coordinates {
 
 struct Point {
-    double latitude = 0;   ///< degrees, north positive
+    double latitude = 0;  ///< degrees, north positive
     double longitude = 0;  ///< degrees, east positive
     bool operator==(const Point&) const = default;
 };

@@ -26,12 +26,12 @@ struct RawValues<FieldSection> {
 };
 
 struct FieldSpec {
-    QString id{};     ///< stable key of drafts, records and plans
+    QString id{};  ///< stable key of drafts, records and plans
     QString label{};  ///< name shown to the user
     FieldKind kind = FieldKind::text;
     FieldSection section = FieldSection::common;
     QStringList writeTags{};  ///< tags that a save assigns, in order, each with its specific group
-    QStringList readTags{};   ///< group-0 tags consulted when reading, the preferred one first
+    QStringList readTags{};  ///< group-0 tags consulted when reading, the preferred one first
     QString namespaceHint{};  ///< where the value lands, as shown to the user
     bool alwaysShown = false;
     QString addNote{};  ///< one line for the add-field sheet

@@ -10,7 +10,7 @@
 namespace Quorbel::FileNaming {
 
 struct Token {
-    QString label{};        ///< shown to the user
+    QString label{};  ///< shown to the user
     QString placeholder{};  ///< stands in a pattern, "%Date%"
     bool operator==(const Token&) const = default;
 };

@@ -30,17 +30,17 @@ struct CustomValue {
 };
 
 struct ImageRecord {
-    QUrl url{};         ///< the photo; the record's identity
+    QUrl url{};  ///< the photo; the record's identity
     QString fileName{};  ///< last path component of the URL
     QString fileType{};  ///< ExifTool's file type, or the extension in upper case
     std::optional<int> pixelWidth{};
     std::optional<int> pixelHeight{};
     std::optional<qint64> fileSize{};  ///< bytes
-    QMap<QString, QString> values{};    ///< field id to display text; a field without a value has no entry
+    QMap<QString, QString> values{};  ///< field id to display text; a field without a value has no entry
     QMap<QString, QStringList> lists{};  ///< field id to items, in file order (keywords, people)
-    QList<CustomValue> custom{};        ///< sorted by name
+    QList<CustomValue> custom{};  ///< sorted by name
     QList<CameraRow> camera{};
-    std::optional<QDateTime> creationDate{};             ///< the file system's
+    std::optional<QDateTime> creationDate{};  ///< the file system's
     std::optional<QDateTime> contentModificationDate{};  ///< the file system's, to the millisecond
 
     const QUrl& id() const { return url; }
@@ -52,7 +52,9 @@ struct ImageRecord {
     bool operator==(const ImageRecord&) const = default;
 };
 
-/// A size as a file manager shows it: powers of 1000; kilobytes, megabytes or gigabytes.
+/// A size as a file manager shows it: powers of 1000, a decimal point, no trailing zeros. "Zero KB" for nothing, one
+/// significant digit under a kilobyte ("0.5 KB"), whole kilobytes ("9 KB"), tenths of megabytes ("2.4 MB"), hundredths
+/// of gigabytes ("1.25 GB") beyond. A size that rounds to 1000 takes the next unit.
 QString formattedFileSize(qint64 bytes);
 
 namespace ImageTypes {

@@ -9,12 +9,12 @@
 namespace Quorbel::LocationFill {
 
 struct Result {
-    QString name{};                ///< the place's own name
-    QString locality{};            ///< town; may be empty
+    QString name{};  ///< the place's own name
+    QString locality{};  ///< town; may be empty
     QString administrativeArea{};  ///< state, province or region; may be empty
-    QString country{};             ///< may be empty
-    double latitude = 0;           ///< degrees
-    double longitude = 0;          ///< degrees
+    QString country{};  ///< may be empty
+    double latitude = 0;  ///< degrees
+    double longitude = 0;  ///< degrees
     bool operator==(const Result&) const = default;
 };
 

@@ -10,7 +10,7 @@ namespace Quorbel::MetadataWriter {
 
 enum class ListMode {
     replace,  ///< the new items replace the tag's list
-    append,   ///< the new items are added, without duplicates
+    append,  ///< the new items are added, without duplicates
 };
 
 /// ExifTool's family-1 group of the custom fields.

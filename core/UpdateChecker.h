@@ -18,8 +18,8 @@ namespace Quorbel {
 
 struct UpdateManifest {
     QString version{};  ///< display text; never compared
-    qint64 build = 0;   ///< the only value compared
-    QString url{};      ///< where the new version is downloaded
+    qint64 build = 0;  ///< the only value compared
+    QString url{};  ///< where the new version is downloaded
     std::optional<QString> notes{};
     bool operator==(const UpdateManifest&) const = default;
 };
