@@ -24,6 +24,7 @@ private:
 /// The file system refused something: names the file and gives the system's reason.
 class FileError final : public Error {
 public:
+    /// `action` opens the sentence ("Cannot move"); `reason` is the system's own text, without a full stop.
     FileError(const QString& action, const QUrl& file, const QString& reason);
 };
 
@@ -47,8 +48,9 @@ public:
         bool operator==(const PerlNotFound&) const = default;
     };
     struct ExecFailed {
+        /// The exit status; the number of the signal for a tool that was killed by one.
         qint32 code = 0;
-        QString standardError{};
+        QString standardError{};  ///< what the tool printed as its error; its standard output when that is empty
         bool operator==(const ExecFailed&) const = default;
     };
     struct DecodeFailed {

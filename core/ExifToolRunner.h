@@ -26,7 +26,7 @@ struct ReadControl {
 
 struct ExifToolRunner {
     QUrl exiftoolURL{};  ///< the ExifTool script, given to Perl as its first argument
-    QUrl perlURL{};      ///< the Perl interpreter; locate() always sets /usr/bin/perl
+    QUrl perlURL{};  ///< the Perl interpreter; locate() always sets /usr/bin/perl
 
     /// Finds the tool: the environment variable QUORBEL_EXIFTOOL, then <prefix>/share/quorbel/exiftool/exiftool of
     /// the running program, then vendor/exiftool/exiftool in the six directories from the one that holds the
@@ -35,8 +35,9 @@ struct ExifToolRunner {
     /// The same search for a program installed under `prefix` (bin/, share/ below it).
     static std::optional<ExifToolRunner> locate(const QString& prefix);
 
-    /// The main read: group-0 keys, one object a file that the tool could print. Throws ToolError, LaunchError
-    /// or CancelledError.
+    /// The main read: group-0 keys, one object a file that the tool could print; one empty object a file when it
+    /// printed nothing at all. Throws ToolError, LaunchError (also for more than about 6 MiB of paths) or
+    /// CancelledError.
     QList<JSONObject> read(const QStringList& tags, const QList<QUrl>& files, const ReadControl& control = {}) const;
     /// Reads the custom group "XMP-Quorbel" alone, with group-1 keys. Throws like read().
     QList<JSONObject> readCustomNamespace(const QList<QUrl>& files, const ReadControl& control = {}) const;
@@ -45,7 +46,7 @@ struct ExifToolRunner {
     /// LaunchError.
     QString write(const QStringList& args, const QList<QUrl>& files, bool backup,
         const std::optional<QUrl>& configPath = std::nullopt) const;
-    /// The bytes of one binary tag ("PreviewImage") of one file; empty when the file holds none.
+    /// The bytes of one binary tag ("PreviewImage") of one file; empty when the file holds none. Throws like read().
     QByteArray readBinary(const QString& tag, const QUrl& file, const std::stop_token& stop = {}) const;
     /// The tool's version, trimmed.
     QString version() const;
@@ -53,9 +54,11 @@ struct ExifToolRunner {
     bool operator==(const ExifToolRunner&) const = default;
 
 private:
-    using OutputWatch = std::function<void(const QByteArray& chunk)>;
+    /// Sees everything printed so far, each time more of it has arrived.
+    using OutputWatch = std::function<void(const QByteArray& output)>;
 
-    QList<JSONObject> readJSON(const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const;
+    QList<JSONObject> readJSON(
+        const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const;
     QString run(const QStringList& arguments) const;
     QByteArray runForBytes(
         const QStringList& arguments, const OutputWatch& watch = {}, const std::stop_token& stop = {}) const;

@@ -1,1 +1,192 @@
 #include "core/MetadataService.h"
+
+#include "core/FieldSchema.h"
+#include "core/MetadataReader.h"
+#include "core/MetadataWriter.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QScopeGuard>
+#include <QUuid>
+
+#include <cerrno>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace Quorbel {
+
+namespace {
+
+/// The objects by the path of the file that they are about: as the tool printed it, and tidied up.
+QMap<QString, JSONObject> indexBySourceFile(const QList<JSONObject>& objects)
+{
+    const QString key = QStringLiteral("SourceFile");
+    QMap<QString, JSONObject> index;
+    for (const auto& object : objects) {
+        const auto member = object.value(key);
+        if (const auto* path = std::get_if<QString>(&member.payload)) {
+            index.insert(*path, object);
+            index.insert(QDir::cleanPath(*path), object);
+        }
+    }
+    return index;
+}
+
+void addFileDates(ImageRecord& record)
+{
+    const QFileInfo file(record.url.toLocalFile());
+    if (!file.exists())
+        return;
+    if (const auto created = file.birthTime(); created.isValid())
+        record.creationDate = created;
+    if (const auto modified = file.lastModified(); modified.isValid())
+        record.contentModificationDate = modified;
+}
+
+QStringList assignments(const EditPlan& plan)
+{
+    QStringList args;
+    for (auto it = plan.scalars.cbegin(); it != plan.scalars.cend(); ++it)
+        if (const FieldSpec* field = FieldSchema::spec(it.key()))
+            args += MetadataWriter::scalarArgs(*field, it.value());
+    for (auto it = plan.lists.cbegin(); it != plan.lists.cend(); ++it)
+        if (const FieldSpec* field = FieldSchema::spec(it.key()))
+            args += MetadataWriter::listArgs(*field, it.value(), plan.listMode);
+    for (const auto& custom : plan.customs)
+        args += MetadataWriter::customArgs(custom.name, custom.value);
+    return args;
+}
+
+/// Writes the definitions of the custom group for one save. Readable by the user alone: names may be private.
+QUrl writeTempConfig(const QList<CustomValue>& customs)
+{
+    QStringList names;
+    for (const auto& custom : customs)
+        names.append(custom.name);
+    const QByteArray text = MetadataWriter::customConfig(names).toUtf8();
+
+    const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
+    const QUrl url = QUrl::fromLocalFile(QDir::tempPath() + QStringLiteral("/quorbel-") + id + QStringLiteral(".conf"));
+    QSaveFile file(url.toLocalFile());
+    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
+        || file.write(text) != text.size() || !file.commit())
+        throw FileError(QStringLiteral("Cannot write"), url, file.errorString());
+    return url;
+}
+
+QString withExtension(const QString& path, const QString& extension)
+{
+    const auto nameAt = path.lastIndexOf(u'/') + 1;
+    const auto dot = path.lastIndexOf(u'.');
+    // A leading dot makes a hidden file, not an extension.
+    return (dot > nameAt ? path.left(dot) : path) + u'.' + extension;
+}
+
+QString sidecarPath(const QString& imagePath)
+{
+    return withExtension(imagePath, QStringLiteral("xmp"));
+}
+
+QString backupPath(const QString& imagePath)
+{
+    return imagePath + QStringLiteral("_original");
+}
+
+void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& images)
+{
+    for (const auto& image : images) {
+        const QString path = image.toLocalFile();
+        try {
+            runner.write({ QStringLiteral("-tagsfromfile"), path, QStringLiteral("-xmp:all") },
+                { QUrl::fromLocalFile(sidecarPath(path)) }, false);
+        } catch (const Error&) {
+            // The photo itself is saved; a sidecar is a courtesy beside it.
+        }
+    }
+}
+
+/// Moves a file unless something has the new name already, in one step where the file system can do that.
+/// Zero, or the system's error number.
+int moveWithoutReplacing(const QString& from, const QString& to)
+{
+    const QByteArray source = QFile::encodeName(from);
+    const QByteArray destination = QFile::encodeName(to);
+    if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, destination.constData(), RENAME_NOREPLACE) == 0)
+        return 0;
+    if (errno != EINVAL && errno != ENOSYS)
+        return errno;
+    // A second name and then the loss of the first is as safe, if the file system knows hard links.
+    if (link(source.constData(), destination.constData()) == 0)
+        return unlink(source.constData()) == 0 ? 0 : errno;
+    if (errno != EPERM && errno != EOPNOTSUPP && errno != ENOSYS)
+        return errno;
+    if (faccessat(AT_FDCWD, destination.constData(), F_OK, AT_SYMLINK_NOFOLLOW) == 0)
+        return EEXIST;
+    return std::rename(source.constData(), destination.constData()) == 0 ? 0 : errno;
+}
+
+}  // namespace
+
+std::optional<MetadataService> MetadataService::locate()
+{
+    const auto runner = ExifToolRunner::locate();
+    return runner ? std::optional(MetadataService{ *runner }) : std::nullopt;
+}
+
+QList<ImageRecord> MetadataService::read(const QList<QUrl>& urls, const ReadControl& control) const
+{
+    if (urls.isEmpty())
+        return {};
+    const auto main = runner.read(MetadataReader::readTags(), urls, control);
+    const auto custom = runner.readCustomNamespace(urls, { .progress = {}, .stop = control.stop });
+    const auto mainByPath = indexBySourceFile(main);
+    const auto customByPath = indexBySourceFile(custom);
+
+    QList<ImageRecord> records;
+    records.reserve(urls.size());
+    for (qsizetype i = 0; i < urls.size(); ++i) {
+        const QString path = urls[i].toLocalFile();
+        // A name that is no text comes back changed, but at its place: the objects are in the files' order.
+        const auto found = mainByPath.constFind(path);
+        const auto object = found != mainByPath.cend() ? *found : main.value(i);
+        auto record = MetadataReader::parse(urls[i], object, customByPath.value(path));
+        addFileDates(record);
+        records.append(record);
+    }
+    return records;
+}
+
+QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options) const
+{
+    if (plan.isEmpty() || targets.isEmpty())
+        return {};
+    const QStringList args = assignments(plan);
+    if (args.isEmpty())
+        return {};
+    std::optional<QUrl> config;
+    if (!plan.customs.isEmpty())
+        config = writeTempConfig(plan.customs);
+    const auto removeConfig = qScopeGuard([&config] {
+        if (config)
+            QFile::remove(config->toLocalFile());
+    });
+    const QString output = runner.write(args, targets, options.backupOriginals, config);
+    if (options.writeSidecar)
+        writeSidecars(runner, targets);
+    return output;
+}
+
+void MetadataService::renameFile(const QUrl& source, const QUrl& destination) const
+{
+    const QString from = source.toLocalFile();
+    const QString to = destination.toLocalFile();
+    if (const int error = moveWithoutReplacing(from, to))
+        throw FileError(QStringLiteral("Cannot move"), source, qt_error_string(error));
+    moveWithoutReplacing(sidecarPath(from), sidecarPath(to));
+    moveWithoutReplacing(backupPath(from), backupPath(to));
+}
+
+}  // namespace Quorbel

@@ -23,8 +23,9 @@ struct MetadataService {
     /// Writes the plan to all targets in one run (plus one a file when sidecars are on) and returns the tool's
     /// standard output; "" when nothing was run. Throws the runner's errors and FileError.
     QString write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options) const;
-    /// Moves the photo, and with it its sidecar and its backup as far as they exist. Never replaces a file:
-    /// throws FileError when the destination exists or the main move fails.
+    /// Moves the photo within its file system, and with it its sidecar and its backup as far as they exist. Never
+    /// replaces a file: throws FileError when the destination exists or the main move fails; a companion whose
+    /// new name is taken stays where it is.
     void renameFile(const QUrl& source, const QUrl& destination) const;
 
     bool operator==(const MetadataService&) const = default;
