@@ -1,1 +1,317 @@
 #include "tests/support/Support.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QRegularExpression>
+
+namespace Quorbel::Test {
+
+namespace {
+
+void require(bool condition, const QString& what)
+{
+    if (!condition)
+        qFatal("Test set-up failed: %s", qPrintable(what));
+}
+
+QByteArray run(const QString& program, const QStringList& arguments, const QList<int>& allowedExits = { 0 })
+{
+    QProcess process;
+    process.start(program, arguments);
+    require(process.waitForStarted() && process.waitForFinished(60'000) && process.exitStatus() == QProcess::NormalExit
+            && allowedExits.contains(process.exitCode()),
+        program + u' ' + arguments.join(u' ') + u'\n' + QString::fromUtf8(process.readAllStandardError()));
+    return process.readAllStandardOutput();
+}
+
+/// Records the call in a directory of its own (making it also numbers the call, whatever runs at once), then
+/// does what the answer's files say.
+const char* const fakeToolScript = R"perl(#!/usr/bin/perl
+use strict; use warnings;
+my ($dir) = $0 =~ m{^(.*)/};
+my $n = 1;
+$n++ until mkdir "$dir/call-$n";
+open my $args, '>:raw', "$dir/call-$n/partial" or die;
+print $args map { "$_\0" } @ARGV;
+close $args;
+rename "$dir/call-$n/partial", "$dir/call-$n/arguments";
+my $answer = -d "$dir/answer-$n" ? "$dir/answer-$n" : "$dir/answer-always";
+exit 0 unless -d $answer;
+sub content { local $/; open my $f, '<:raw', "$answer/$_[0]" or return ''; my $c = <$f>; $c // '' }
+binmode STDOUT; binmode STDERR; $| = 1;
+my $noise = content('noise') || 0;
+my $block = ('x' x 65535) . "\n";
+for (; $noise > 0; $noise -= length $block) { print STDERR substr $block, 0, $noise }
+print STDERR content('stderr');
+my ($output, $size) = (content('stdout'), content('piece') || 0);
+if ($size) {
+    for (my $at = 0; $at < length $output; $at += $size) { print substr $output, $at, $size; select undef, undef, undef, 0.001 }
+} else {
+    print $output;
+}
+if (-e "$answer/holds") { select undef, undef, undef, 0.01 until -e "$dir/released" }
+my $removes = content('removes');
+unlink $removes if $removes ne '';
+my $signal = content('signal') || 0;
+if ($signal) { kill $signal, $$; sleep 10 }
+exit(content('exit') || 0);
+)perl";
+
+QByteArray bigEndian32(quint32 value)
+{
+    QByteArray bytes(4, '\0');
+    for (int i = 0; i < 4; ++i)
+        bytes[i] = static_cast<char>(value >> (24 - 8 * i));
+    return bytes;
+}
+
+QByteArray bigEndian16(int value)
+{
+    return bigEndian32(static_cast<quint32>(value)).mid(2);
+}
+
+QByteArray littleEndian(quint32 value, int size)
+{
+    QByteArray bytes;
+    for (int i = 0; i < size; ++i)
+        bytes.append(static_cast<char>(value >> (8 * i)));
+    return bytes;
+}
+
+QByteArray pngChunk(const QByteArray& type, const QByteArray& data)
+{
+    const QByteArray body = type + data;
+    quint32 crc = 0xFFFFFFFF;
+    for (const char byte : body) {
+        crc ^= static_cast<quint8>(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            crc = (crc >> 1) ^ ((crc & 1) ? 0xEDB88320 : 0);
+    }
+    return bigEndian32(static_cast<quint32>(data.size())) + body + bigEndian32(~crc);
+}
+
+}  // namespace
+
+QByteArray jpegBytes(int width, int height)
+{
+    // Huffman tables of one code each: "difference 0" and "end of block", so that every block is the two bits 00.
+    const auto table = [](char id) { return QByteArray("\xFF\xC4\x00\x14", 4) + id + '\x01' + QByteArray(16, '\0'); };
+    const int blocks = ((width + 7) / 8) * ((height + 7) / 8);
+    QByteArray scan((blocks + 3) / 4, '\0');
+    if (blocks % 4)
+        scan.back() = static_cast<char>(0xFF >> (2 * (blocks % 4)));  // the rest of the last byte is ones
+    return QByteArray("\xFF\xD8\xFF\xE0\x00\x10JFIF\x00\x01\x01\x00\x00\x01\x00\x01\x00\x00", 20)
+        + QByteArray("\xFF\xDB\x00\x43\x00", 5) + QByteArray(64, '\x01') + QByteArray("\xFF\xC0\x00\x0B\x08", 5)
+        + bigEndian16(height) + bigEndian16(width) + QByteArray("\x01\x01\x11\x00", 4) + table('\x00') + table('\x10')
+        + QByteArray("\xFF\xDA\x00\x08\x01\x01\x00\x00\x3F\x00", 10) + scan + QByteArray("\xFF\xD9", 2);
+}
+
+QByteArray pngBytes(int width, int height)
+{
+    const QByteArray rows((width + 1) * height, '\0');  // each row: filter type, then grey pixels
+    return QByteArray("\x89PNG\r\n\x1A\n", 8)
+        + pngChunk("IHDR",
+            bigEndian32(static_cast<quint32>(width)) + bigEndian32(static_cast<quint32>(height))
+                + QByteArray("\x08\x00\x00\x00\x00", 5))
+        + pngChunk("IDAT", qCompress(rows).mid(4)) + pngChunk("IEND", {});
+}
+
+QByteArray tiffBytes(int width, int height)
+{
+    struct Entry {
+        quint32 tag;
+        quint32 value;
+    };
+    const auto w = static_cast<quint32>(width);
+    const auto h = static_cast<quint32>(height);
+    constexpr quint32 header = 8;
+    const QList<Entry> entries{ { 256, w }, { 257, h }, { 258, 8 }, { 259, 1 }, { 262, 1 }, { 273, header }, { 277, 1 },
+        { 278, h }, { 279, w * h } };
+    const quint32 directoryAt = (header + w * h + 1) & ~1U;
+    QByteArray bytes = QByteArray("II*\0", 4) + littleEndian(directoryAt, 4);
+    bytes += QByteArray(directoryAt - header, '\0') + littleEndian(static_cast<quint32>(entries.size()), 2);
+    for (const auto& entry : entries)
+        bytes += littleEndian(entry.tag, 2) + littleEndian(4, 2) + littleEndian(1, 4) + littleEndian(entry.value, 4);
+    return bytes + littleEndian(0, 4);
+}
+
+QByteArray webpBytes()
+{
+    // One pixel, lossless.
+    return QByteArray::fromHex("524946461a000000574542505650384c0d0000002f00000010071011118888fe0700");
+}
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    require(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(), path);
+}
+
+QByteArray readFile(const QString& path)
+{
+    QFile file(path);
+    require(file.open(QIODevice::ReadOnly), path);
+    return file.readAll();
+}
+
+PhotoFolder::PhotoFolder()
+{
+    require(m_directory.isValid(), m_directory.errorString());
+}
+
+QUrl PhotoFolder::add(const QString& name) const
+{
+    const QString extension = QFileInfo(name).suffix().toLower();
+    if (extension == QLatin1String("png"))
+        return add(name, pngBytes());
+    if (extension == QLatin1String("tif") || extension == QLatin1String("tiff"))
+        return add(name, tiffBytes());
+    return add(name, extension == QLatin1String("webp") ? webpBytes() : jpegBytes());
+}
+
+QUrl PhotoFolder::add(const QString& name, const QByteArray& bytes) const
+{
+    writeFile(path(name), bytes);
+    return url(name);
+}
+
+QStringList PhotoFolder::names() const
+{
+    return QDir(path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+TemporaryFilesProbe::TemporaryFilesProbe()
+    : m_before(qgetenv("TMPDIR"))
+{
+    qputenv("TMPDIR", QFile::encodeName(m_folder.path()));
+}
+
+TemporaryFilesProbe::~TemporaryFilesProbe()
+{
+    if (m_before.isEmpty())
+        qunsetenv("TMPDIR");
+    else
+        qputenv("TMPDIR", m_before);
+}
+
+ExifToolRunner realTool()
+{
+    const QString share = qEnvironmentVariable("QUORBEL_TEST_SHARE");
+    if (share.isEmpty()) {
+        const auto located = ExifToolRunner::locate();
+        require(located.has_value(), QStringLiteral("ExifTool not found"));
+        return *located;
+    }
+    return { QUrl::fromLocalFile(share + QStringLiteral("/exiftool/exiftool")),
+        QUrl::fromLocalFile(QStringLiteral("/usr/bin/perl")) };
+}
+
+QByteArray exiftool(const QStringList& arguments)
+{
+    return run(QStringLiteral("/usr/bin/perl"), QStringList{ realTool().exiftoolURL.toLocalFile() } + arguments);
+}
+
+QString exiftoolValue(const QUrl& file, const QString& tag)
+{
+    return QString::fromUtf8(exiftool({ QStringLiteral("-s3"), QStringLiteral("-sep"), QStringLiteral("|"),
+                                 QStringLiteral("-m"), tag, file.toLocalFile() }))
+        .trimmed();
+}
+
+QMap<QString, QStringList> exiv2Values(const QUrl& file)
+{
+    // Key and plain value; exiv2's warnings about unknown fields are not of interest. Exit 253: no metadata.
+    const QString output = QString::fromUtf8(run(
+        QStringLiteral("exiv2"), { QStringLiteral("-q"), QStringLiteral("-PEIXkv"), file.toLocalFile() }, { 0, 253 }));
+    static const QRegularExpression line(QStringLiteral("^((?:Exif|Iptc|Xmp)\\.\\S+) *(.*)$"));
+    QMap<QString, QStringList> values;
+    QString key;
+    for (const auto& text : output.split(u'\n')) {
+        const auto match = line.match(text);
+        if (match.hasMatch()) {
+            key = match.captured(1);
+            values[key].append(match.captured(2));
+        } else if (!key.isEmpty() && !text.isEmpty()) {
+            values[key].last() += u'\n' + text;  // a value of several lines
+        }
+    }
+    return values;
+}
+
+QByteArray toolJson(const QList<QJsonObject>& objects)
+{
+    QList<QByteArray> printed;
+    for (QJsonObject object : objects) {
+        const auto source = object.take(QStringLiteral("SourceFile"));
+        QList<QByteArray> members;
+        const auto add = [&members](const QString& key, const QJsonValue& value) {
+            const auto pair = QJsonDocument(QJsonObject{ { key, value } }).toJson(QJsonDocument::Compact);
+            members.append("  " + pair.mid(1, pair.size() - 2));
+        };
+        add(QStringLiteral("SourceFile"), source);
+        members.last().replace("\":", "\": ");
+        for (auto it = object.constBegin(); it != object.constEnd(); ++it)
+            add(it.key(), it.value());
+        printed.append("{\n" + members.join(",\n") + "\n}");
+    }
+    return '[' + printed.join(",\n") + "]\n";
+}
+
+FakeTool::FakeTool()
+{
+    require(m_directory.isValid(), m_directory.errorString());
+    writeFile(scriptPath(), fakeToolScript);
+}
+
+void FakeTool::answer(int run, const Answer& answer)
+{
+    store(QStringLiteral("answer-%1").arg(calls().size() + run), answer);
+}
+
+void FakeTool::answerAlways(const Answer& answer)
+{
+    store(QStringLiteral("answer-always"), answer);
+}
+
+void FakeTool::release()
+{
+    writeFile(m_directory.filePath(QStringLiteral("released")), {});
+}
+
+ExifToolRunner FakeTool::runner() const
+{
+    return { QUrl::fromLocalFile(scriptPath()), QUrl::fromLocalFile(QStringLiteral("/usr/bin/perl")) };
+}
+
+QList<QStringList> FakeTool::calls() const
+{
+    QList<QStringList> calls;
+    for (int n = 1;; ++n) {
+        const QString path = m_directory.filePath(QStringLiteral("call-%1/arguments").arg(n));
+        if (!QFileInfo::exists(path))
+            return calls;
+        auto arguments = QString::fromUtf8(readFile(path)).split(QChar(u'\0'));
+        arguments.removeLast();  // behind the last separator
+        calls.append(arguments);
+    }
+}
+
+void FakeTool::store(const QString& name, const Answer& answer)
+{
+    const QString directory = m_directory.filePath(name) + u'/';
+    require(QDir().mkpath(directory), directory);
+    writeFile(directory + QStringLiteral("stdout"), answer.standardOutput);
+    writeFile(directory + QStringLiteral("stderr"), answer.standardError);
+    writeFile(directory + QStringLiteral("exit"), QByteArray::number(answer.exitCode));
+    writeFile(directory + QStringLiteral("signal"), QByteArray::number(answer.signal));
+    writeFile(directory + QStringLiteral("noise"), QByteArray::number(answer.noiseBytes));
+    writeFile(directory + QStringLiteral("piece"), QByteArray::number(answer.pieceSize));
+    writeFile(directory + QStringLiteral("removes"), QFile::encodeName(answer.removes));
+    if (answer.holds)
+        writeFile(directory + QStringLiteral("holds"), {});
+}
+
+}  // namespace Quorbel::Test
