@@ -1,0 +1,135 @@
+// Buttons: text buttons of four kinds, icon buttons, flat text buttons and token chips. All extend QAbstractButton and
+// so keep its keyboard, focus and accessibility; clicked() is the action.
+// Thread: the main thread. They know nothing of what they do.
+#pragma once
+
+#include <QAbstractButton>
+
+namespace Quorbel {
+
+/// Where a press or the pointer is, eased over time; shared by everything that can be hovered.
+class HoverFade final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit HoverFade(QWidget* widget);
+    qreal hover() const { return m_hover; }  ///< 0…1
+    qreal pressed() const { return m_pressed; }  ///< 0…1
+    void setPressed(bool on);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void setHover(bool on);
+    void animate(qreal HoverFade::*value, qreal target);
+
+    QWidget* m_widget;
+    qreal m_hover = 0;
+    qreal m_pressed = 0;
+};
+
+/// What all our buttons share: hover and pressed shades, a focus ring for keyboard focus, restyling.
+class ThemedButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit ThemedButton(const QString& text, QWidget* parent = nullptr);
+
+protected:
+    HoverFade* fade() const { return m_fade; }
+    /// 1, or the opacity of a disabled control.
+    qreal opacity(qreal whenDisabled = .42) const { return isEnabled() ? 1 : whenDisabled; }
+
+private:
+    HoverFade* m_fade;
+};
+
+enum class QBButtonKind { primary, secondary, dashed, destructive };
+
+/// A rounded text button, 30 points high. Disabled: reacts to nothing and is drawn dimmed.
+class QBButton final : public ThemedButton {
+    Q_OBJECT
+
+public:
+    explicit QBButton(const QString& title, QBButtonKind kind = QBButtonKind::secondary, QWidget* parent = nullptr);
+    QBButtonKind kind() const { return m_kind; }
+    void setKind(QBButtonKind kind);
+    /// Points between the border and the title; 16 for primary, 14 otherwise, unless set here ("Now" takes 11).
+    void setSidePadding(qreal points);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QBButtonKind m_kind;
+    qreal m_sidePadding = -1;
+};
+
+/// A square with an icon; its name is its tooltip and its accessible name. 32×30 points unless given another size.
+class QBIconButton final : public ThemedButton {
+    Q_OBJECT
+
+public:
+    QBIconButton(const QString& icon, const QString& name, QWidget* parent = nullptr);
+    void setIconName(const QString& icon);
+    const QString& iconName() const { return m_icon; }
+    /// Also the tooltip.
+    void setName(const QString& name);
+    /// Points of the button and of the icon in it; line width in the icon's own 24×24 drawing (0: as drawn).
+    void setSizes(QSizeF button, qreal icon, qreal stroke = 0, qreal radius = 7);
+    /// Keeps the hover ground while what the button stands for is shown.
+    void setHighlighted(bool on);
+    /// Drawn in `muted` at rest instead of `label`: small crosses inside other things.
+    void setQuiet(bool on);
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_icon;
+    QSizeF m_buttonSize{ 32, 30 };
+    qreal m_iconSize = 18;
+    qreal m_stroke = 0;
+    qreal m_radius = 7;
+    bool m_highlighted = false;
+    bool m_quiet = false;
+};
+
+/// A flat text button in 12-point type, with an optional key ("Ctrl+A") after its title; 26 points high.
+class QBTextButton final : public ThemedButton {
+    Q_OBJECT
+
+public:
+    explicit QBTextButton(const QString& title, QWidget* parent = nullptr);
+    void setKeyHint(const QString& keys);
+    /// Drawn as a link: no ground, underlined while hovered, no side padding.
+    void setLink(bool on);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_keys;
+    bool m_link = false;
+};
+
+/// A capsule that inserts something: the tokens of a rename pattern. 26 points high.
+class TokenChip final : public ThemedButton {
+    Q_OBJECT
+
+public:
+    explicit TokenChip(const QString& title, QWidget* parent = nullptr);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace Quorbel

@@ -1,0 +1,78 @@
+// Keywords as chips, with an entry behind them.
+// Thread: the main thread. The chips belong to the owner: the editor asks with added() and removed() and shows what
+// setChips() then says.
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+
+namespace Quorbel {
+
+class FlowLayout;
+class KeywordChip;
+class KeywordEntry;
+class SuggestionList;
+class HoverFade;
+
+class KeywordEditor final : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The likeliest keywords that begin with the text, best first.
+    using Completions = std::function<QStringList(const QString& prefix)>;
+
+    explicit KeywordEditor(QWidget* parent = nullptr);
+    ~KeywordEditor() override;
+
+    const QStringList& chips() const { return m_chips; }
+    void setChips(const QStringList& chips);
+    /// Draws the chips in amber: they will be added to all selected photos.
+    void setAmber(bool amber);
+    /// The edited look of the whole frame.
+    void setEdited(bool edited);
+    void setPlaceholder(const QString& text);
+    void setCompletions(Completions completions);
+    /// What is being typed.
+    QString entryText() const;
+    void clearEntry();
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+
+signals:
+    /// A keyword, trimmed and not empty. Whether one that is there already is added again is the owner's decision.
+    void added(const QString& keyword);
+    void removed(const QString& keyword);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool entryKey(QKeyEvent* event);
+    bool chipKey(KeywordChip* chip, QKeyEvent* event);
+    void commit();
+    void add(const QStringList& keywords);
+    void complete();
+    void acceptCompletion(int row);
+    void removeChip(KeywordChip* chip);
+    void updateHeight();
+
+    QStringList m_chips;
+    QList<KeywordChip*> m_chipWidgets;
+    FlowLayout* m_flow;
+    KeywordEntry* m_entry;
+    SuggestionList* m_suggestions;
+    HoverFade* m_fade;
+    Completions m_completions;
+    bool m_amber = false;
+    bool m_edited = false;
+    int m_height = 0;
+};
+
+}  // namespace Quorbel

@@ -1,0 +1,106 @@
+#include "ui/Metrics.h"
+
+#include "ui/Theme.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QStyle>
+#include <QWidget>
+
+#include <cmath>
+
+namespace Quorbel {
+
+namespace {
+
+// Desktops differ in what they call standard: 9 points (12 pixels) without settings, 10 in KDE, 11 in GNOME. All of
+// these are 1; only sizes beyond them are the user's wish for larger or smaller text.
+constexpr qreal smallestStandard = 12;
+constexpr qreal largestStandard = 14.7;
+
+QString installedFamily(const QString& wanted, QFontDatabase::SystemFont fallback)
+{
+    return QFontDatabase::hasFamily(wanted) ? wanted : QFontDatabase::systemFont(fallback).family();
+}
+
+QFont makeFont(const QString& family, qreal points, QFont::Weight weight)
+{
+    QFont font(family);
+    font.setPixelSize(px(points));
+    font.setWeight(weight);
+    return font;
+}
+
+/// Runs a widget's restyle function at the events that call for it.
+class Restyler final : public QObject {
+public:
+    Restyler(QWidget* widget, std::function<void()> restyle)
+        : QObject(widget)
+        , m_restyle(std::move(restyle))
+    {
+        widget->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const QEvent::Type type = event->type();
+        if (type == QEvent::Polish || type == QEvent::ApplicationFontChange || type == themeChangeEvent())
+            m_restyle();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    std::function<void()> m_restyle;
+};
+
+}  // namespace
+
+qreal textScale()
+{
+    const QFontInfo info(QApplication::font());
+    const qreal pixels = info.pixelSize();
+    if (pixels > largestStandard)
+        return pixels / largestStandard;
+    return pixels < smallestStandard && pixels > 0 ? pixels / smallestStandard : 1;
+}
+
+int px(qreal points)
+{
+    return int(std::lround(pxF(points)));
+}
+
+qreal pxF(qreal points)
+{
+    return points * textScale();
+}
+
+QFont sansFont(qreal points, QFont::Weight weight)
+{
+    return makeFont(installedFamily(QStringLiteral("Inter"), QFontDatabase::GeneralFont), points, weight);
+}
+
+QFont monoFont(qreal points)
+{
+    QFont font =
+        makeFont(installedFamily(QStringLiteral("JetBrains Mono"), QFontDatabase::FixedFont), points, QFont::Normal);
+    font.setStyleHint(QFont::Monospace);
+    return font;
+}
+
+bool motionEnabled(const QWidget* widget)
+{
+    if (qEnvironmentVariableIntValue("QUORBEL_REDUCE_MOTION") != 0)
+        return false;
+    return widget->style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, widget) > 0;
+}
+
+void onRestyle(QWidget* widget, std::function<void()> restyle)
+{
+    restyle();
+    new Restyler(widget, std::move(restyle));
+}
+
+}  // namespace Quorbel

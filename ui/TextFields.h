@@ -1,0 +1,85 @@
+// The one-line text field and the growing text area.
+// Thread: the main thread. The text belongs to whoever binds it: setBoundText() shows a value, textEdited() hands back
+// what the user made of it.
+#pragma once
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+namespace Quorbel {
+
+class HoverFade;
+
+/// A plain one-line field, 30 points high.
+class QBTextField : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit QBTextField(QWidget* parent = nullptr);
+    /// Shows the value; keeps the cursor and the undo history when it is what the field shows already. Emits no
+    /// textEdited().
+    void setBoundText(const QString& text);
+    void setPlaceholder(const QString& text, bool italic = false);
+    bool isEdited() const { return m_edited; }
+    void setEdited(bool edited);
+    void setMono(bool mono);
+    /// An icon at the left ("magnifyingglass"); none when empty.
+    void setLeadingIcon(const QString& icon);
+    /// Without its own ground and border: for use inside another frame.
+    void setBare(bool bare);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    void restyle();
+    void paintPlaceholder();
+
+    HoverFade* m_fade;
+    QString m_icon;
+    bool m_edited = false;
+    bool m_mono = false;
+    bool m_bare = false;
+    bool m_italicPlaceholder = false;
+};
+
+/// A plain multi-line field at least 54 points high that grows with its text. Tab leaves it.
+class QBTextArea : public QPlainTextEdit {
+    Q_OBJECT
+
+public:
+    explicit QBTextArea(QWidget* parent = nullptr);
+    QString text() const { return toPlainText(); }
+    void setBoundText(const QString& text);
+    void setPlaceholder(const QString& text, bool italic = false);
+    bool isEdited() const { return m_edited; }
+    void setEdited(bool edited);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+signals:
+    /// The user changed the text; not emitted by setBoundText().
+    void textEdited(const QString& text);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void restyle();
+    void grow();
+
+    HoverFade* m_fade;
+    bool m_edited = false;
+    bool m_italicPlaceholder = false;
+    bool m_binding = false;
+    int m_height = 0;
+};
+
+}  // namespace Quorbel

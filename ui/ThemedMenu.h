@@ -1,0 +1,32 @@
+// Menus in our own look: 28-point rows, a check mark before what is on, a dark row under the pointer.
+// Thread: the main thread.
+#pragma once
+
+#include <QMenu>
+
+namespace Quorbel {
+
+/// A QMenu that paints itself; actions, shortcuts, keyboard and accessibility are QMenu's. The theme is that of its
+/// parent widget.
+class ThemedMenu final : public QMenu {
+    Q_OBJECT
+
+public:
+    explicit ThemedMenu(QWidget* parent = nullptr);
+    explicit ThemedMenu(const QString& title, QWidget* parent = nullptr);
+    /// A line in small muted type above a group of items; cannot be chosen.
+    QAction* addHeader(const QString& title);
+    ThemedMenu* addThemedMenu(const QString& title);
+    /// Shows the menu under a widget, aligned with its left or right edge; returns at once. Deletes itself when
+    /// closed if `once`.
+    void popUpUnder(const QWidget* anchor, Qt::Alignment edge = Qt::AlignLeft, bool once = false);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void setUp();
+    void paintItem(QPainter& painter, const QAction* action, const QRect& rect);
+};
+
+}  // namespace Quorbel
