@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
 #include <QRegularExpression>
@@ -39,7 +40,13 @@ print $args map { "$_\0" } @ARGV;
 close $args;
 rename "$dir/call-$n/partial", "$dir/call-$n/arguments";
 my $answer = -d "$dir/answer-$n" ? "$dir/answer-$n" : "$dir/answer-always";
+if (@ARGV and $ARGV[0] eq '-config') {
+    open my $in, '<:raw', $ARGV[1] or die; local $/;
+    open my $out, '>:raw', "$dir/call-$n/config" or die;
+    printf $out "%o\n%s", (stat $in)[2] & 07777, scalar <$in>;
+}
 exit 0 unless -d $answer;
+$SIG{TERM} = 'IGNORE' if -e "$answer/deaf";
 sub content { local $/; open my $f, '<:raw', "$answer/$_[0]" or return ''; my $c = <$f>; $c // '' }
 binmode STDOUT; binmode STDERR; $| = 1;
 my $noise = content('noise') || 0;
@@ -214,11 +221,11 @@ QByteArray exiftool(const QStringList& arguments)
     return run(QStringLiteral("/usr/bin/perl"), QStringList{ realTool().exiftoolURL.toLocalFile() } + arguments);
 }
 
-QString exiftoolValue(const QUrl& file, const QString& tag)
+QJsonObject exiftoolValues(const QUrl& file)
 {
-    return QString::fromUtf8(exiftool({ QStringLiteral("-s3"), QStringLiteral("-sep"), QStringLiteral("|"),
-                                 QStringLiteral("-m"), tag, file.toLocalFile() }))
-        .trimmed();
+    const auto json = exiftool({ QStringLiteral("-json"), QStringLiteral("-G0"), QStringLiteral("-struct"),
+        QStringLiteral("-c"), QStringLiteral("%+.6f"), file.toLocalFile() });
+    return QJsonDocument::fromJson(json).array().first().toObject();
 }
 
 QMap<QString, QStringList> exiv2Values(const QUrl& file)
@@ -299,6 +306,12 @@ QList<QStringList> FakeTool::calls() const
     }
 }
 
+QByteArray FakeTool::config(int run) const
+{
+    const QString path = m_directory.filePath(QStringLiteral("call-%1/config").arg(run));
+    return QFileInfo::exists(path) ? readFile(path) : QByteArray();
+}
+
 void FakeTool::store(const QString& name, const Answer& answer)
 {
     const QString directory = m_directory.filePath(name) + u'/';
@@ -312,6 +325,8 @@ void FakeTool::store(const QString& name, const Answer& answer)
     writeFile(directory + QStringLiteral("removes"), QFile::encodeName(answer.removes));
     if (answer.holds)
         writeFile(directory + QStringLiteral("holds"), {});
+    if (answer.deaf)
+        writeFile(directory + QStringLiteral("deaf"), {});
 }
 
 }  // namespace Quorbel::Test

@@ -58,8 +58,8 @@ private:
 ExifToolRunner realTool();
 /// Standard output of the real tool, run apart from the code under test; its exit status must be 0.
 QByteArray exiftool(const QStringList& arguments);
-/// The one value of a tag ("-XMP-dc:Title") as the real tool prints it; list items are joined with "|".
-QString exiftoolValue(const QUrl& file, const QString& tag);
+/// The tags of one file as the real tool prints them, keys in the form "XMP:Title".
+QJsonObject exiftoolValues(const QUrl& file);
 
 /// Every metadatum that exiv2 finds, by its key ("Xmp.dc.title"); repeated ones in file order.
 QMap<QString, QStringList> exiv2Values(const QUrl& file);
@@ -79,6 +79,7 @@ public:
         qsizetype pieceSize = 0;  ///< when not 0, standard output comes in pieces of so many bytes
         QString removes{};  ///< a file that is gone when the tool ends
         bool holds = false;  ///< the tool stays, after printing, until release()
+        bool deaf = false;  ///< the tool ignores being asked to end
     };
 
     FakeTool();
@@ -93,6 +94,9 @@ public:
     QString scriptPath() const { return m_directory.filePath(QStringLiteral("exiftool")); }
     /// The arguments of each run so far, in order.
     QList<QStringList> calls() const;
+    /// What a file passed with "-config" held in the n-th run (the first is 1): its mode in octal, a line feed, its
+    /// text. Empty when there was none.
+    QByteArray config(int run) const;
 
 private:
     void store(const QString& name, const Answer& answer);
