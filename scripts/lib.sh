@@ -3,6 +3,11 @@
 say() { printf '%s\n' "$*" >&2; }
 die() { say "$*"; exit 1; }
 
+# Runs a command as root, through sudo when need be.
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else command -v sudo >/dev/null && sudo "$@"; fi
+}
+
 # Installs those of the named Debian packages that are missing; asks apt only when some are.
 install_packages() {
     local missing=() name
