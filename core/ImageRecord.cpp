@@ -22,7 +22,7 @@ QString joinedParts(QStringList parts)
 // bytes ÷ step, halves rounded up, without overflow near the end of the range.
 qint64 roundedQuotient(qint64 bytes, qint64 step)
 {
-    return bytes / step + (bytes % step >= step / 2 ? 1 : 0);
+    return bytes / step + (bytes % step * 2 >= step ? 1 : 0);
 }
 
 // `count` in units of 10^-digits, without trailing zeros: (105, 1) is "10.5", (110, 1) is "11".

@@ -8,10 +8,10 @@ QStringList updated(const QStringList& current, const QStringList& adding, int l
 {
     QStringList result;
     QSet<QString> added;
-    for (auto path = adding.crbegin(); path != adding.crend(); ++path) {
-        if (!added.contains(*path)) {
-            added.insert(*path);
-            result.append(*path);
+    for (qsizetype i = adding.size() - 1; i >= 0; --i) {
+        if (!added.contains(adding[i])) {
+            added.insert(adding[i]);
+            result.append(adding[i]);
         }
     }
     for (const QString& path : current)
