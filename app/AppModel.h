@@ -12,15 +12,23 @@
 #include "core/MetadataService.h"
 #include "core/RecordSortOrder.h"
 
+#include "app/FolderScan.h"
+#include "app/PhotoReader.h"
+#include "app/RecordIndex.h"
+
 #include <QDateTime>
 #include <QObject>
 #include <QSet>
 #include <QSettings>
 #include <QStringList>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stop_token>
+#include <type_traits>
+#include <vector>
 
 namespace Quorbel {
 
@@ -43,10 +51,10 @@ struct AppModelServices {
     std::shared_ptr<QSettings> preferences{};  ///< required
     /// Shows the open panel (files and directories, several); calls back with the chosen URLs, none on cancel.
     std::function<void(std::function<void(const QList<QUrl>&)>)> openPanel{};
-    std::function<void()> endEditing{};                   ///< makes the field being typed into commit its text
-    std::function<void(const QUrl&)> openUrl{};           ///< opens a file in the user's default application
-    std::function<QDateTime()> now{};                     ///< local wall clock; the system's when empty
-    std::function<void()> quit{};                         ///< ends the program; called by requestQuit()
+    std::function<void()> endEditing{};  ///< makes the field being typed into commit its text
+    std::function<void(const QUrl&)> openUrl{};  ///< opens a file in the user's default application
+    std::function<QDateTime()> now{};  ///< local wall clock; the system's when empty
+    std::function<void()> quit{};  ///< ends the program; called by requestQuit()
 };
 
 class AppModel final : public QObject {
@@ -89,8 +97,8 @@ class AppModel final : public QObject {
     Q_PROPERTY(bool saveDontAsk READ saveDontAsk WRITE setSaveDontAsk NOTIFY saveDontAskChanged)
     Q_PROPERTY(QString renamePattern READ renamePattern WRITE setRenamePattern NOTIFY renamePatternChanged)
     Q_PROPERTY(bool stripSpecialChars READ stripSpecialChars WRITE setStripSpecialChars NOTIFY stripSpecialCharsChanged)
-    Q_PROPERTY(std::optional<ColorScheme> colorOverride READ colorOverride WRITE setColorOverride NOTIFY
-            colorOverrideChanged)
+    Q_PROPERTY(
+        std::optional<ColorScheme> colorOverride READ colorOverride WRITE setColorOverride NOTIFY colorOverrideChanged)
     Q_PROPERTY(QStringList recentPaths READ recentPaths NOTIFY recentPathsChanged)
 
 public:
@@ -124,6 +132,8 @@ public:
     /// The record with this URL; null when there is none. Valid until the records change.
     const ImageRecord* record(const QUrl& url) const;
     QList<ImageRecord> selectedRecords() const;
+    /// Positions in records() of the selected photos, ascending. Memoised like visibleRows().
+    const QList<int>& selectedRows() const;
     QString folderCountText() const;
 
     void openPanel();
@@ -134,7 +144,9 @@ public:
     /// Compares the open folder with the records and re-reads what differs. Needs an open folder.
     void refresh();
     bool canRefresh() const;
-    /// load(), closeFolder() and the end of the program, through the save dialog when there are unsaved edits.
+    /// load(), closeFolder() and the end of the program, through the save dialog when there are unsaved edits: they
+    /// happen after its save or discard, or not at all. One photo's edits are saved without asking where the user
+    /// chose so. A save that runs is waited for.
     void requestLoad(const QList<QUrl>& urls);
     void requestClose();
     void requestQuit();
@@ -197,6 +209,8 @@ public:
     void confirmSaveDialog();
     void discardSaveDialog();
     void cancelSaveDialog();
+    /// Whether something waits for the save dialog's answer: the dialog then stands in the way of leaving.
+    bool isLeaving() const { return m_waiting != nullptr; }
 
     // --- Renaming ---
     bool renameOpen() const { return m_renameOpen; }
@@ -268,20 +282,146 @@ signals:
     void stripSpecialCharsChanged();
     void colorOverrideChanged();
     void recentPathsChanged();
-    /// The photos that pass the search, or their order, changed: visibleRows() has a new answer.
+    /// The photos that pass the search, or their order, changed: visibleRows() has a new answer, or the same
+    /// positions hold other photos. Not announced when photos were only read again.
     void visibleRowsChanged();
 
 private:
-    // Completed by whoever implements it: see AppModel*.cpp.
+    using Signal = void (AppModel::*)();
+    /// While one lives, announcements are collected; the outermost one makes them at its end, each once. So an
+    /// observer never sees half of a change.
+    class Update {
+    public:
+        explicit Update(AppModel& model);
+        ~Update();
+        Q_DISABLE_COPY_MOVE(Update)
+
+    private:
+        AppModel& m_model;
+    };
+    struct PendingSelection {
+        QSet<QUrl> selection{};
+        std::optional<QUrl> anchor{};
+        std::optional<QUrl> primary{};
+    };
+    /// A read or a write that the user waits for.
+    struct Task {
+        int id = 0;
+        bool isLoad = false;
+        std::shared_ptr<TaskProgress> progress{};
+        std::stop_source stop{};
+    };
+    /// What was unsaved when a save began: what differs from it afterwards was typed meanwhile.
+    struct SaveSnapshot {
+        QList<QUrl> urls{};
+        int selectionSerial = 0;
+        std::optional<QUrl> primary{};
+        ExternalRefresh::Drafts drafts{};
+        QSet<QString> edited{};
+        QSet<QString> added{};
+        QSet<QString> batchInclude{};
+        QMap<QString, QString> batchValues{};
+        QMap<QString, QStringList> batchLists{};
+        QList<CustomValue> batchCustoms{};
+    };
+    /// What the selected photos hold together; see selectionSummary().
+    struct SelectionSummary {
+        struct Field {
+            QString id{};
+            QString value{};
+            bool isShared = true;
+        };
+        std::vector<Field> fields{};  ///< every scalar field that a selected photo holds, by id
+        QSet<QString> heldIDs{};  ///< the same, and the list fields
+        QStringList customNames{};  ///< ascending
+    };
+
+    template <typename T>
+    bool assign(T& member, std::type_identity_t<T> value, Signal changed)
+    {
+        if (member == value)
+            return false;
+        member = std::move(value);
+        announce(changed);
+        return true;
+    }
+    void announce(Signal changed);
+
+    // Library
+    void reload(const PhotoListing& listing);
+    void finishReload(const PhotoListing& listing, PhotoReader::Result result);
+    void publishRecords(QList<ImageRecord> records);
+    bool replaceRecords(const QList<ImageRecord>& fresh);
+    void recordContentChanged();
+    void updateVisibleRows(bool photosChanged);
+    Task beginTask(qsizetype total, bool isLoad);
+    void endTask(int id);
+    void publishProgress();
+    void beginGeneration();
+    void startWatching();
+    // Selection
+    PendingSelection selectionAfterTap(const QUrl& url, bool shift, bool command) const;
+    std::optional<QSet<QUrl>> visibleRange(const QUrl& from, const QUrl& to) const;
+    void changeSelection(const PendingSelection& next);
+    void commitSelection(const PendingSelection& next);
+    void selectFirstVisible();
+    void holdBack(std::function<void()> action);
+    void goOn();
+    std::optional<QUrl> nearestSelected(const QSet<QUrl>& gone) const;
+    void pruneSelectionToRecords(const std::optional<QUrl>& heir = std::nullopt);
+    const SelectionSummary& selectionSummary() const;
+    // Refresh
+    void applyScan(const FolderScan& scan);
+    void removeRecords(const QList<int>& positions);
+    void readChanged(const QList<QUrl>& urls);
+    void readAdded(const QList<QUrl>& urls);
+    void readForRefresh(const QList<QUrl>& urls, std::function<void(const QList<ImageRecord>&)> take);
+    void takeChanged(const QList<ImageRecord>& fresh);
+    void takeAdded(const QList<ImageRecord>& fresh);
+    void endRefreshStep();
+    // Drafts and batch
+    ExternalRefresh::Drafts drafts() const;
+    void setDrafts(ExternalRefresh::Drafts drafts);
+    void reinitializeDrafts();
+    void clearBatch();
+    void foldBatchIntoDraft();
+    bool isShown(const FieldSpec& field) const;
+    bool isFieldEmpty(const QString& id) const;
+    // Saving
+    void saveSingle();
+    void saveBatch();
+    void runWrite(const EditPlan& plan, const QList<QUrl>& urls);
+    void refreshAfterSave(const SaveSnapshot& saved);
+    void takeSaved(const QList<ImageRecord>& fresh, const SaveSnapshot& saved);
+    void dropSavedBatch(const SaveSnapshot& saved);
+    QSet<QString> editsSince(const SaveSnapshot& saved) const;
+    void endSave(bool succeeded);
+    // Renaming
+    QMap<QString, QString> renameValues(const ImageRecord& record) const;
+    QString newFileName(const ImageRecord& record) const;
+    void takeRenamed(const QUrl& source, const QUrl& destination);
+    // Preferences
+    void readPreferences();
+    template <typename T>
+    void setPreference(T& member, const T& value, Signal changed, const QString& key);
+    void recordRecent(const QList<QUrl>& urls);
+    void storeRecents(const QStringList& paths);
+
     AppModelServices m_services;
     QList<ImageRecord> m_records;
+    RecordIndex m_index;
+    QList<int> m_visibleRows;
     QString m_folderName;
     std::optional<QUrl> m_folderURL;
     QString m_search;
+    QString m_needle;  ///< the search as it is compared: trimmed, lower case
     RecordSortOrder m_sortOrder = RecordSortOrder::nameAsc;
     QSet<QUrl> m_selection;
     std::optional<QUrl> m_primary;
     std::optional<QUrl> m_anchor;
+    mutable std::optional<QList<int>> m_selectedRows;
+    mutable std::optional<SelectionSummary> m_selectionSummary;
+    mutable std::optional<QStringList> m_keywordsByUse;
     bool m_isWorking = false;
     bool m_isSaving = false;
     std::optional<Progress> m_progress;
@@ -309,6 +449,23 @@ private:
     std::optional<ColorScheme> m_colorOverride;
     QStringList m_recentPaths;
     std::unique_ptr<FolderWatcher> m_watcher;
+
+    std::vector<Task> m_tasks;
+    int m_lastTaskID = 0;
+    QTimer m_progressTimer;
+    std::function<void()> m_waiting;  ///< asked for again after a save or a discard
+    QSet<QUrl> m_beingWritten;
+    int m_selectionSerial = 0;  ///< counts committed selections
+    int m_generation = 0;  ///< counts what was opened; results for an earlier one are dropped
+    int m_diskSerial = 0;  ///< counts our own doings that make a look at the folder out of date
+    int m_saveSerial = 0;  ///< counts beginnings and ends of saves
+    bool m_isRefreshing = false;
+    bool m_refreshAgain = false;
+    int m_refreshReads = 0;
+    bool m_passedOverWritten = false;  ///< a refresh left out photos that were being written
+    std::stop_source m_refreshStop;
+    int m_updateDepth = 0;
+    std::vector<Signal> m_announcements;
 };
 
 }  // namespace Quorbel

@@ -1,1 +1,278 @@
+// Saving: when to ask, the one write in the background, and the re-read that follows it.
 #include "app/AppModel.h"
+
+#include "app/Background.h"
+#include "app/MainThread.h"
+#include "app/ReplacedFiles.h"
+
+#include <QPointer>
+
+#include <algorithm>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView customPrefix("custom:");
+
+/// What a key of editedSingle stands for in these drafts: an item list, or a single text.
+QStringList draftOf(const ExternalRefresh::Drafts& drafts, const QString& key)
+{
+    if (key.startsWith(customPrefix)) {
+        const QString name = key.mid(customPrefix.size());
+        for (const CustomValue& custom : drafts.customs)
+            if (custom.name == name)
+                return { custom.value };
+        return {};
+    }
+    const FieldSpec* field = FieldSchema::spec(key);
+    return field && field->isList() ? drafts.lists.value(key) : QStringList{ drafts.values.value(key) };
+}
+
+/// Writes, and counts meanwhile the files that are done. The error's description when it failed.
+std::optional<QString> write(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets,
+    const WriteOptions& options, TaskProgress& progress)
+{
+    const ReplacedFilesPoll poll(targets, progress.done);
+    try {
+        service.write(plan, targets, options);
+    } catch (const Error& error) {
+        return error.description();
+    } catch (const std::exception& error) {
+        return QString::fromUtf8(error.what());
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+void AppModel::setSaveOpen(bool open)
+{
+    requireMainThread("setSaveOpen");
+    if (!open)
+        m_waiting = nullptr;
+    assign(m_saveOpen, open, &AppModel::saveOpenChanged);
+}
+
+void AppModel::setBatchDontAskSession(bool on)
+{
+    requireMainThread("setBatchDontAskSession");
+    assign(m_batchDontAskSession, on, &AppModel::batchDontAskSessionChanged);
+}
+
+void AppModel::requestSave()
+{
+    requireMainThread("requestSave");
+    if (unsavedCount() < 1 || m_isSaving)
+        return;
+    if (!isBatch()) {
+        if (m_saveDontAsk)
+            saveSingle();
+        else
+            assign(m_saveOpen, true, &AppModel::saveOpenChanged);
+    } else if (m_confirmMassEdit && !m_batchDontAskSession) {
+        assign(m_saveOpen, true, &AppModel::saveOpenChanged);
+    } else {
+        saveBatch();
+    }
+}
+
+void AppModel::confirmSaveDialog()
+{
+    requireMainThread("confirmSaveDialog");
+    assign(m_saveOpen, false, &AppModel::saveOpenChanged);
+    // What waits is asked for again when the running save ends, and saves then.
+    if (m_isSaving)
+        return;
+    if (isBatch())
+        saveBatch();
+    else
+        saveSingle();
+}
+
+void AppModel::discardSaveDialog()
+{
+    requireMainThread("discardSaveDialog");
+    {
+        const Update update(*this);
+        assign(m_saveOpen, false, &AppModel::saveOpenChanged);
+        clearBatch();
+        reinitializeDrafts();
+    }
+    goOn();
+}
+
+void AppModel::cancelSaveDialog()
+{
+    setSaveOpen(false);
+}
+
+void AppModel::saveSingle()
+{
+    if (!primaryRecord())
+        return goOn();
+    EditPlan plan;
+    plan.listMode = MetadataWriter::ListMode::replace;
+    for (const QString& key : std::as_const(m_editedSingle)) {
+        const FieldSpec* field = FieldSchema::spec(key);
+        if (key.startsWith(customPrefix)) {
+            const QStringList value = draftOf(drafts(), key);
+            if (!value.isEmpty())
+                plan.customs.append({ key.mid(customPrefix.size()), value.constFirst() });
+        } else if (field && field->isList()) {
+            plan.lists.insert(key, m_draftLists.value(key));
+        } else {
+            plan.scalars.insert(key, m_draftValues.value(key));
+        }
+    }
+    runWrite(plan, { *m_primary });
+}
+
+void AppModel::saveBatch()
+{
+    EditPlan plan;
+    plan.listMode = MetadataWriter::ListMode::append;
+    for (const QString& id : std::as_const(m_batchInclude)) {
+        const FieldSpec* field = FieldSchema::spec(id);
+        if (!field || !field->isList())
+            plan.scalars.insert(id, m_batchValues.value(id));
+    }
+    plan.lists = nonEmptyBatchLists();
+    plan.customs = m_batchCustoms;
+    QList<QUrl> urls;
+    urls.reserve(selectedRows().size());
+    for (const int row : selectedRows())
+        urls.append(m_records.at(row).url);
+    runWrite(plan, urls);
+}
+
+void AppModel::runWrite(const EditPlan& plan, const QList<QUrl>& urls)
+{
+    const Update update(*this);
+    if (!m_services.service || plan.isEmpty()) {
+        // Edits that amount to nothing must not hold back for ever what waits.
+        if (m_waiting)
+            discardSaveDialog();
+        return;
+    }
+    assign(m_isSaving, true, &AppModel::isSavingChanged);
+    m_beingWritten = QSet<QUrl>(urls.cbegin(), urls.cend());
+    ++m_saveSerial;
+    ++m_diskSerial;
+    const Task task = beginTask(urls.size(), false);
+    const WriteOptions options{ m_backupOriginals, m_writeSidecar };
+    const SaveSnapshot saved{ urls, m_selectionSerial, m_primary, drafts(), m_editedSingle, m_sessionAddedKnownIDs,
+        m_batchInclude, m_batchValues, m_batchLists, m_batchCustoms };
+    runInBackground(
+        this,
+        [service = *m_services.service, plan, urls, options, progress = task.progress] {
+            return write(service, plan, urls, options, *progress);
+        },
+        [this, saved, id = task.id](const std::optional<QString>& error) {
+            const Update update(*this);
+            if (!error)
+                refreshAfterSave(saved);
+            endTask(id);
+            if (error) {
+                setErrorMessage(u"Could not save: "_s + *error);
+                endSave(false);
+            }
+        });
+}
+
+void AppModel::refreshAfterSave(const SaveSnapshot& saved)
+{
+    const Task task = beginTask(saved.urls.size(), false);
+    runInBackground(
+        this,
+        [service = *m_services.service, urls = saved.urls, progress = task.progress] {
+            return PhotoReader::read(service, urls, *progress, {});
+        },
+        [this, saved, id = task.id](const PhotoReader::Result& result) {
+            bool succeeded = false;
+            {
+                const Update update(*this);
+                endTask(id);
+                if (result.error)
+                    setErrorMessage(u"Could not read metadata: "_s + *result.error);
+                else
+                    takeSaved(result.records, saved);
+                succeeded = !result.error;
+            }
+            endSave(succeeded);
+        });
+}
+
+/// The files hold now what was written; what the user typed since the save began stays unsaved.
+void AppModel::takeSaved(const QList<ImageRecord>& fresh, const SaveSnapshot& saved)
+{
+    replaceRecords(fresh);
+    if (saved.selectionSerial == m_selectionSerial)
+        dropSavedBatch(saved);
+    const ImageRecord* record = primaryRecord();
+    if (!record || !saved.urls.contains(*m_primary))
+        return;
+    const QSet<QString> edited = editsSince(saved);
+    setDrafts(ExternalRefresh::mergeDrafts(*record, drafts(), edited));
+    assign(m_editedSingle, edited, &AppModel::editedSingleChanged);
+    if (saved.selectionSerial == m_selectionSerial)
+        assign(m_sessionAddedKnownIDs, QSet(m_sessionAddedKnownIDs).subtract(saved.added),
+            &AppModel::sessionAddedKnownIDsChanged);
+}
+
+/// The edited keys whose draft is not what was written.
+QSet<QString> AppModel::editsSince(const SaveSnapshot& saved) const
+{
+    QSet<QString> edited = m_editedSingle;
+    if (saved.primary != m_primary)
+        return edited;
+    const ExternalRefresh::Drafts now = drafts();
+    edited.removeIf([&](const QString& key) {
+        return saved.edited.contains(key) && draftOf(saved.drafts, key) == draftOf(now, key);
+    });
+    return edited;
+}
+
+void AppModel::dropSavedBatch(const SaveSnapshot& saved)
+{
+    QSet<QString> include = m_batchInclude;
+    QMap<QString, QString> values = m_batchValues;
+    for (const QString& id : saved.batchInclude) {
+        if (values.value(id) != saved.batchValues.value(id))
+            continue;
+        include.remove(id);
+        values.remove(id);
+    }
+    values.removeIf([&](const auto& entry) { return saved.batchValues.value(entry.key()) == entry.value(); });
+    QMap<QString, QStringList> lists = m_batchLists;
+    for (auto list = lists.begin(); list != lists.end(); ++list)
+        for (const QString& item : saved.batchLists.value(list.key()))
+            list->removeAll(item);
+    lists.removeIf([](const auto& entry) { return entry.value().isEmpty(); });
+    QList<CustomValue> customs = m_batchCustoms;
+    customs.removeIf([&](const CustomValue& custom) { return saved.batchCustoms.contains(custom); });
+    assign(m_batchInclude, include, &AppModel::batchIncludeChanged);
+    assign(m_batchValues, values, &AppModel::batchValuesChanged);
+    assign(m_batchLists, lists, &AppModel::batchListsChanged);
+    assign(m_batchCustoms, customs, &AppModel::batchCustomsChanged);
+}
+
+/// Then goes on with what waited. After a failure it is dropped: nobody leaves edits that could not be saved.
+void AppModel::endSave(bool succeeded)
+{
+    m_beingWritten.clear();
+    ++m_saveSerial;
+    ++m_diskSerial;
+    assign(m_isSaving, false, &AppModel::isSavingChanged);
+    // A failed write may have done some of its files, and a look at the folder meanwhile passed them over.
+    if (!succeeded || std::exchange(m_passedOverWritten, false))
+        refresh();
+    if (succeeded)
+        goOn();
+    else
+        m_waiting = nullptr;
+}
+
+}  // namespace Quorbel

@@ -4,6 +4,7 @@
 
 #include <QFutureWatcher>
 #include <QObject>
+#include <QThreadPool>
 #include <QtConcurrent>
 
 #include <type_traits>
@@ -11,9 +12,18 @@
 
 namespace Quorbel {
 
+/// Lets the pool run one more job while this one waits for a tool: a read that hangs must not keep others waiting.
+class PoolThreadLoan final {
+public:
+    PoolThreadLoan() { QThreadPool::globalInstance()->releaseThread(); }
+    ~PoolThreadLoan() { QThreadPool::globalInstance()->reserveThread(); }
+    Q_DISABLE_COPY_MOVE(PoolThreadLoan)
+};
+
 /// Runs `job` in the background and hands its result to `done`. The job must capture values, never the owner: it
 /// runs to its end whatever happens. When the owner is gone by then, `done` is not called at all. What the job
-/// throws must be caught in the job and returned as part of its result.
+/// throws must be caught in the job and returned as part of its result. Jobs wait far more than they compute, so any
+/// number of them runs at once; work that keeps a core busy belongs in a pool of its own.
 template <typename Job, typename Done>
 void runInBackground(QObject* owner, Job job, Done done)
 {
@@ -27,7 +37,10 @@ void runInBackground(QObject* owner, Job job, Done done)
         else
             done(watcher->future().takeResult());
     });
-    watcher->setFuture(QtConcurrent::run(std::move(job)));
+    watcher->setFuture(QtConcurrent::run([job = std::move(job)]() mutable {
+        const PoolThreadLoan loan;
+        return job();
+    }));
 }
 
 }  // namespace Quorbel

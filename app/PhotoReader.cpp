@@ -1,0 +1,97 @@
+#include "app/PhotoReader.h"
+
+#include "app/FolderScan.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Quorbel::PhotoReader {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What may be said about one path before ExifTool sees it.
+struct Check {
+    bool isReadable = false;
+    QString reason{};  ///< why not; empty: not a file at all, nothing to say
+};
+
+QString systemReason(int error)
+{
+    return QString::fromLocal8Bit(std::strerror(error)).toLower();
+}
+
+Check check(const QUrl& url)
+{
+    const QByteArray path = QFile::encodeName(url.toLocalFile());
+    struct stat status { };
+    if (stat(path.constData(), &status) != 0) {
+        const int error = errno;
+        const bool isLink = lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
+        return { false, isLink && (error == ENOENT || error == ELOOP) ? u"broken link"_s : systemReason(error) };
+    }
+    if (!S_ISREG(status.st_mode))
+        return {};
+    if (status.st_size == 0)
+        return { false, u"empty"_s };
+    // The effective user is the one that ExifTool will run as.
+    if (faccessat(AT_FDCWD, path.constData(), R_OK, AT_EACCESS) != 0)
+        return { false, systemReason(errno) };
+    return { true, {} };
+}
+
+}  // namespace
+
+Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgress& progress, std::stop_token stop)
+{
+    Result result;
+    QList<QUrl> readable;
+    QList<std::optional<QDateTime>> modified;
+    for (const QUrl& url : urls) {
+        const Check checked = check(url);
+        if (checked.isReadable) {
+            readable.append(url);
+            modified.append(modificationDate(url.toLocalFile()));
+        } else if (!checked.reason.isEmpty()) {
+            result.leftOut.append({ url.fileName(), checked.reason });
+        }
+    }
+    progress.total = readable.size();
+    try {
+        const ReadControl control{ [&progress](qsizetype done) { progress.done = done; }, std::move(stop) };
+        result.records = service.read(readable, control);
+    } catch (const CancelledError&) {
+        result.isCancelled = true;
+    } catch (const Error& error) {
+        result.error = error.description();
+    } catch (const std::exception& error) {
+        result.error = QString::fromUtf8(error.what());
+    }
+    for (qsizetype i = 0; i < std::min(result.records.size(), modified.size()); ++i)
+        result.records[i].contentModificationDate = modified[i];
+    return result;
+}
+
+QString leftOutText(const QList<LeftOut>& files)
+{
+    constexpr qsizetype mostNamed = 5;
+    QStringList named;
+    for (const LeftOut& file : files.first(std::min(files.size(), mostNamed)))
+        named.append(u"%1 (%2)"_s.arg(file.fileName, file.reason));
+    QString text = files.size() == 1
+        ? u"1 file could not be read and was left out: "_s
+        : QString::number(files.size()) + u" files could not be read and were left out: "_s;
+    text += named.join(u", "_s);
+    if (files.size() > mostNamed)
+        text += u" and %1 more"_s.arg(files.size() - mostNamed);
+    return text;
+}
+
+}  // namespace Quorbel::PhotoReader

@@ -1,0 +1,47 @@
+// Reads photos for the model: leaves out what ExifTool would stumble over, and turns failures into texts.
+// Thread: any but the main one; read() blocks on ExifTool.
+#pragma once
+
+#include "core/MetadataService.h"
+
+#include <atomic>
+#include <memory>
+#include <optional>
+#include <stop_token>
+
+namespace Quorbel {
+
+/// How far a background task has come, in files; written there, looked at on the main thread.
+struct TaskProgress {
+    std::atomic<qsizetype> done = 0;
+    std::atomic<qsizetype> total = 0;
+};
+
+namespace PhotoReader {
+
+/// A file that could not be read, and why, in a few words.
+struct LeftOut {
+    QString fileName{};
+    QString reason{};
+    bool operator==(const LeftOut&) const = default;
+};
+
+struct Result {
+    QList<ImageRecord> records{};  ///< of the files that were read, in their order
+    QList<LeftOut> leftOut{};
+    std::optional<QString> error{};  ///< the read failed as a whole: its description; there are no records
+    bool isCancelled = false;
+};
+
+/// Never throws. One empty, unreadable or dangling file makes ExifTool report failure for all, a pipe blocks it
+/// for ever, and it walks into directories: so the first three are left out and named, and whatever else is no
+/// regular file is left out silently. A record bears the modification date that its file had before the read,
+/// so that a change during the read is noticed by the next look at the folder.
+Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgress& progress, std::stop_token stop);
+
+/// The banner's text for these files; at least one.
+QString leftOutText(const QList<LeftOut>& files);
+
+}  // namespace PhotoReader
+
+}  // namespace Quorbel
