@@ -68,8 +68,12 @@ QUrl writeTempConfig(const QList<CustomValue>& customs)
         names.append(custom.name);
     const QByteArray text = MetadataWriter::customConfig(names).toUtf8();
 
+    const QString directory = QDir::tempPath();
+    if (directory.isEmpty())  // Qt's answer for a TMPDIR that does not exist
+        throw FileError(QStringLiteral("Cannot write to"), QUrl::fromLocalFile(qEnvironmentVariable("TMPDIR")),
+            qt_error_string(ENOENT));
     const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
-    const QUrl url = QUrl::fromLocalFile(QDir::tempPath() + QStringLiteral("/quorbel-") + id + QStringLiteral(".conf"));
+    const QUrl url = QUrl::fromLocalFile(directory + QStringLiteral("/quorbel-") + id + QStringLiteral(".conf"));
     QSaveFile file(url.toLocalFile());
     if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
         || file.write(text) != text.size() || !file.commit())

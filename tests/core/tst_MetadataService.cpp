@@ -1,0 +1,247 @@
+// The service against a recorded tool: exact command lines, matching, failures, what is left behind.
+#include "core/MetadataReader.h"
+#include "core/MetadataService.h"
+#include "tests/support/Support.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+
+namespace {
+
+QJsonObject titled(const QString& sourceFile, const QString& title)
+{
+    return { { "SourceFile", sourceFile }, { "XMP:Title", title } };
+}
+
+QStringList titles(const QList<ImageRecord>& records)
+{
+    QStringList list;
+    for (const auto& record : records)
+        list.append(record.values.value(QStringLiteral("title"), QStringLiteral("-")));
+    return list;
+}
+
+template <typename Call>
+bool failsWith(qint32 code, Call call)
+{
+    try {
+        call();
+    } catch (const ToolError& error) {
+        const auto* failure = std::get_if<ToolError::ExecFailed>(&error.payload());
+        return failure && failure->code == code;
+    }
+    return false;
+}
+
+}  // namespace
+
+class tst_MetadataService : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    void readsInTwoRuns()
+    {
+        FakeTool tool;
+        const QList<QUrl> urls{ QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")),
+            QUrl::fromLocalFile(QStringLiteral("/p/b.jpg")) };
+        const auto records = MetadataService{ tool.runner() }.read(urls);
+        QStringList main{ "-json", "-G0", "-struct", "-c", "%.6f" };
+        for (const auto& tag : MetadataReader::readTags())
+            main.append(u'-' + tag);
+        QCOMPARE(tool.calls(),
+            (QList<QStringList>{ main + QStringList{ "/p/a.jpg", "/p/b.jpg" },
+                { "-json", "-G1", "-struct", "-XMP-Quorbel:all", "/p/a.jpg", "/p/b.jpg" } }));
+        QCOMPARE(records.size(), 2);  // silence: records that hold names only
+        QCOMPARE(records[1].fileName, QStringLiteral("b.jpg"));
+        QCOMPARE(records[1].fileType, QStringLiteral("JPG"));
+        QVERIFY(!records[1].contentModificationDate);
+        QVERIFY(MetadataService{ tool.runner() }.read({}).isEmpty());
+        QCOMPARE(tool.calls().size(), 2);
+    }
+
+    void matchesObjectsToFiles_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<QStringList>("expected");
+        const auto row = [](const char* name, const QList<QJsonObject>& objects, const QStringList& expected) {
+            QTest::addRow("%s", name) << toolJson(objects) << expected;
+        };
+        row("any order", { titled("/p/c.jpg", "C"), titled("/p/a.jpg", "A"), titled("/p/b.jpg", "B") },
+            { "A", "B", "C" });
+        row("path spelled differently",
+            { titled("/p/c.jpg", "C"), titled("/p/./b.jpg", "B"), titled("/p/x/..//a.jpg", "A") }, { "A", "B", "C" });
+        row("unknown path: by position",
+            { titled("/p/a.jpg", "A"), titled("/p/?.jpg", "second"), titled("/p/c.jpg", "C") }, { "A", "second", "C" });
+        row("fewer objects than files", { titled("/p/b.jpg", "B") }, { "B", "B", "-" });
+        row("a later object replaces an earlier one",
+            { titled("/p/a.jpg", "A"), titled("/p/b.jpg", "old"), titled("/p/b.jpg", "B") }, { "A", "B", "B" });
+    }
+
+    void matchesObjectsToFiles()
+    {
+        QFETCH(QByteArray, json);
+        QFETCH(QStringList, expected);
+        FakeTool tool;
+        tool.answer(1, { .standardOutput = json });
+        // The custom run has no say by position, and is matched by path as well.
+        tool.answer(2,
+            { .standardOutput = toolJson({ { { "SourceFile", "/p/z.jpg" }, { "XMP-Quorbel:Mood", "lost" } },
+                  { { "SourceFile", "/p/c.jpg" }, { "XMP-Quorbel:Mood", "calm" } } }) });
+        const auto records = MetadataService{ tool.runner() }.read({ QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")),
+            QUrl::fromLocalFile(QStringLiteral("/p/b.jpg")), QUrl::fromLocalFile(QStringLiteral("/p/c.jpg")) });
+        QCOMPARE(titles(records), expected);
+        QVERIFY(records[0].custom.isEmpty() && records[1].custom.isEmpty());
+        QCOMPARE(records[2].custom, (QList<CustomValue>{ { "Mood", "calm" } }));
+    }
+
+    void eitherRunCanFailARead()
+    {
+        const QList<QUrl> urls{ QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")) };
+        for (const int failing : { 1, 2 }) {
+            FakeTool tool;
+            tool.answerAlways({ .standardOutput = toolJson({ titled("/p/a.jpg", "A") }) });
+            tool.answer(failing, { .standardOutput = "[{}]", .standardError = "Error", .exitCode = 7 });
+            QVERIFY(failsWith(7, [&] { MetadataService{ tool.runner() }.read(urls); }));
+            QCOMPARE(tool.calls().size(), failing);
+        }
+    }
+
+    void writes_data()
+    {
+        QTest::addColumn<EditPlan>("plan");
+        QTest::addColumn<WriteOptions>("options");
+        QTest::addColumn<QList<QStringList>>("calls");  // CONFIG stands for the configuration file
+        const auto row = [](const char* name, const EditPlan& plan, const WriteOptions& options,
+                             const QList<QStringList>& calls) {
+            QTest::addRow("%s", name) << plan << options << calls;
+        };
+        const QStringList files{ "/p/a.jpg", "/p/b.c.png" };
+        row("nothing", {}, {}, {});
+        row("unknown fields only", { .scalars = { { "Title", "x" } }, .lists = { { "no", { "x" } } } }, {}, {});
+        row("a custom name that cannot be stored", { .customs = { { "123", "x" } } }, { true, true }, {});
+        row("scalars, then lists, then customs",
+            { .scalars = { { "category", "SPO" }, { "offsetOriginal", "" } },
+                .lists = { { "people", { "Ann", " Bo " } } },
+                .customs = { { "My mood", "calm" }, { "A", "" } } },
+            {},
+            { QStringList{ "-config", "CONFIG", "-overwrite_original", "-m", "-IPTC:Category=SPO",
+                  "-EXIF:OffsetTimeOriginal=", "-XMP-iptcExt:PersonInImage=", "-XMP-iptcExt:PersonInImage=Ann",
+                  "-XMP-iptcExt:PersonInImage=Bo", "-XMP-Quorbel:Mymood=calm", "-XMP-Quorbel:A=" }
+                + files });
+        row("appended, with backups",
+            { .lists = { { "people", { "Ann" } } }, .listMode = MetadataWriter::ListMode::append }, { true, false },
+            { QStringList{ "-m", "-XMP-iptcExt:PersonInImage-=Ann", "-XMP-iptcExt:PersonInImage+=Ann" } + files });
+        row("sidecars", { .scalars = { { "category", "x" } } }, { true, true },
+            { QStringList{ "-m", "-IPTC:Category=x" } + files,
+                { "-overwrite_original", "-m", "-tagsfromfile", "/p/a.jpg", "-xmp:all", "/p/a.xmp" },
+                { "-overwrite_original", "-m", "-tagsfromfile", "/p/b.c.png", "-xmp:all", "/p/b.c.xmp" } });
+    }
+
+    void writes()
+    {
+        QFETCH(EditPlan, plan);
+        QFETCH(WriteOptions, options);
+        QFETCH(QList<QStringList>, calls);
+        FakeTool tool;
+        const TemporaryFilesProbe temporary;
+        tool.answerAlways({ .standardError = "a sidecar's failure", .exitCode = 1 });
+        tool.answer(1, { .standardOutput = "2 image files updated\n" });
+        const QString output = MetadataService{ tool.runner() }.write(plan,
+            { QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")), QUrl::fromLocalFile(QStringLiteral("/p/b.c.png")) },
+            options);
+        QCOMPARE(output, calls.isEmpty() ? QString() : QStringLiteral("2 image files updated\n"));
+        auto made = tool.calls();
+        if (!made.isEmpty() && made.first().first() == QLatin1String("-config")) {
+            static const QRegularExpression name(
+                QStringLiteral("/quorbel-[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\.conf$"));
+            QVERIFY2(made.first()[1].startsWith(temporary.path()) && name.match(made.first()[1]).hasMatch(),
+                qPrintable(made.first()[1]));
+            made.first()[1] = QStringLiteral("CONFIG");
+            QCOMPARE(tool.config(1), "600\n" + MetadataWriter::customConfig({ "A", "My mood" }).toUtf8());
+        }
+        QCOMPARE(made, calls);
+        QCOMPARE(temporary.names(), QStringList{});
+        QCOMPARE(MetadataService{ tool.runner() }.write(plan, {}, options), QString());
+    }
+
+    void failedWriteLeavesNothing()
+    {
+        FakeTool tool;
+        const TemporaryFilesProbe temporary;
+        const QList<QUrl> targets{ QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")) };
+        const EditPlan plan{ .customs = { { "Mood", "calm" } } };
+        tool.answer(1, { .standardOutput = "half", .signal = 9 });
+        QVERIFY(failsWith(9, [&] { MetadataService{ tool.runner() }.write(plan, targets, { false, true }); }));
+        QCOMPARE(tool.calls().size(), 1);  // no sidecar after a failed write
+        auto withoutPerl = tool.runner();
+        withoutPerl.perlURL = QUrl::fromLocalFile(QStringLiteral("/nowhere/perl"));
+        QVERIFY_THROWS_EXCEPTION(ToolError, MetadataService{ withoutPerl }.write(plan, targets, {}));
+        QCOMPARE(temporary.names(), QStringList{});
+    }
+
+    void configurationThatCannotBeWritten()
+    {
+        FakeTool tool;
+        const QByteArray before = qgetenv("TMPDIR");
+        for (const char* directory : { "/nowhere", "/dev/null" }) {
+            qputenv("TMPDIR", directory);
+            QString text;
+            try {
+                MetadataService{ tool.runner() }.write(
+                    { .customs = { { "Mood", "calm" } } }, { QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")) }, {});
+            } catch (const FileError& error) {
+                text = error.description();
+            }
+            QVERIFY2(text.contains(QLatin1String(directory)), qPrintable(text));
+        }
+        qputenv("TMPDIR", before);
+        QVERIFY(tool.calls().isEmpty());
+    }
+
+    void renames_data()
+    {
+        QTest::addColumn<QStringList>("before");
+        QTest::addColumn<QStringList>("after");  // name=first owner of the content
+        QTest::addRow("alone") << QStringList{ "a.jpg" } << QStringList{ "b.jpg=a.jpg" };
+        QTest::addRow("with companions") << QStringList{ "a.jpg", "a.xmp",
+            "a.jpg_original" } << QStringList{ "b.jpg=a.jpg", "b.jpg_original=a.jpg_original", "b.xmp=a.xmp" };
+        QTest::addRow("never replaces a photo")
+            << QStringList{ "a.jpg", "a.xmp", "b.jpg" } << QStringList{ "a.jpg=a.jpg", "a.xmp=a.xmp", "b.jpg=b.jpg" };
+        QTest::addRow("never replaces a companion")
+            << QStringList{ "a.jpg", "a.xmp", "b.xmp", "a.jpg_original", "b.jpg_original" }
+            << QStringList{ "a.jpg_original=a.jpg_original", "a.xmp=a.xmp", "b.jpg=a.jpg",
+                   "b.jpg_original=b.jpg_original", "b.xmp=b.xmp" };
+        QTest::addRow("source is gone") << QStringList{ "a.xmp" } << QStringList{ "a.xmp=a.xmp" };
+    }
+
+    void renames()
+    {
+        QFETCH(QStringList, before);
+        QFETCH(QStringList, after);
+        const PhotoFolder folder;
+        for (const auto& name : before)
+            folder.add(name, name.toUtf8());
+        const MetadataService service;
+        const bool moves = after.contains(QStringLiteral("b.jpg=a.jpg"));
+        QString error;
+        try {
+            service.renameFile(folder.url(QStringLiteral("a.jpg")), folder.url(QStringLiteral("b.jpg")));
+        } catch (const FileError& failure) {
+            error = failure.description();
+        }
+        QCOMPARE(error.isEmpty(), moves);
+        QVERIFY(moves || error.contains(folder.path(QStringLiteral("a.jpg"))));
+        QStringList found;
+        for (const auto& name : folder.names())
+            found.append(name + u'=' + QString::fromUtf8(readFile(folder.path(name))));
+        QCOMPARE(found, after);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_MetadataService)
+#include "tst_MetadataService.moc"
