@@ -1,0 +1,15 @@
+// The preview inside a raw file that no library here reads, taken out by ExifTool.
+// Thread: any; blocks for up to three runs of the tool, some tenths of a second each.
+#pragma once
+
+#include "core/ExifToolRunner.h"
+
+#include <QImage>
+
+namespace Quorbel {
+
+/// Upright, sRGB, its long side at most `longSide` pixels; null when the file holds no preview that can be decoded,
+/// when the tool fails, or when stopped.
+QImage rawPreview(const ExifToolRunner& tool, const QString& path, int longSide, const std::stop_token& stop);
+
+}  // namespace Quorbel
