@@ -1,0 +1,327 @@
+// What a save really puts into files, as the real ExifTool and, independently of it, exiv2 find it there.
+#include "core/FieldSchema.h"
+#include "core/MetadataService.h"
+#include "tests/support/Support.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <cmath>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+
+namespace {
+
+const MetadataService& service()
+{
+    static const MetadataService theService{ realTool() };
+    return theService;
+}
+
+ImageRecord readOne(const QUrl& photo)
+{
+    return service().read({ photo }).first();
+}
+
+void write(const EditPlan& plan, const QUrl& photo, const WriteOptions& options = {})
+{
+    service().write(plan, { photo }, options);
+}
+
+/// "XMP-dc:Title" as the key under which ExifTool prints it with group-0 names.
+QString printedKey(QString tag)
+{
+    return tag.replace(QRegularExpression(QStringLiteral("^XMP-[^:]+")), QStringLiteral("XMP"));
+}
+
+/// exiv2's name for a write tag.
+QString exiv2Key(const QString& tag)
+{
+    static const QMap<QString, QString> names{ { "EXIF:ImageDescription", "Exif.Image.ImageDescription" },
+        { "EXIF:Artist", "Exif.Image.Artist" }, { "EXIF:Copyright", "Exif.Image.Copyright" },
+        { "EXIF:Software", "Exif.Image.Software" }, { "EXIF:DateTimeOriginal", "Exif.Photo.DateTimeOriginal" },
+        { "EXIF:CreateDate", "Exif.Photo.DateTimeDigitized" },
+        { "EXIF:OffsetTimeOriginal", "Exif.Photo.OffsetTimeOriginal" },
+        { "EXIF:OffsetTimeDigitized", "Exif.Photo.OffsetTimeDigitized" }, { "IPTC:Caption-Abstract", "Caption" },
+        { "IPTC:By-line", "Byline" }, { "IPTC:CopyrightNotice", "Copyright" },
+        { "IPTC:Province-State", "ProvinceState" }, { "IPTC:Country-PrimaryLocationName", "CountryName" },
+        { "IPTC:Sub-location", "SubLocation" }, { "IPTC:Writer-Editor", "Writer" },
+        { "IPTC:OriginalTransmissionReference", "TransmissionReference" } };
+    const QString group = tag.section(u':', 0, 0);
+    QString name = tag.section(u':', 1);
+    if (group == QLatin1String("EXIF"))
+        return names.value(tag);
+    if (group == QLatin1String("IPTC"))
+        return QStringLiteral("Iptc.Application2.") + names.value(tag, name);
+    const QString prefix = group == QLatin1String("XMP") ? QStringLiteral("xmp")
+        : group == QLatin1String("XMP-iptcCore")         ? QStringLiteral("iptc")
+                                                         : group.mid(4);
+    if (prefix == QLatin1String("dc"))
+        name[0] = name[0].toLower();
+    return QStringLiteral("Xmp.") + prefix + u'.' + name;
+}
+
+/// A value of its own for each scalar field, in the form in which it is typed.
+QString typedValue(const FieldSpec& field)
+{
+    switch (field.kind) {
+    case FieldKind::date:
+        return field.id == QLatin1String("date") ? QStringLiteral("2023-05-01 14:30")
+                                                 : QStringLiteral("2024-02-29 08:05");
+    case FieldKind::rating:
+        return QStringLiteral("4");
+    case FieldKind::offset:
+        return field.id == QLatin1String("offsetOriginal") ? QStringLiteral("+05:45") : QStringLiteral("-03:30");
+    case FieldKind::multiline:
+        return QStringLiteral("First \"line\", $HOME\nsecond & <last>");
+    default:
+        break;
+    }
+    static const QMap<QString, QString> fixed{ { "coords", "48.858370, 2.294481" }, { "category", "SPO" },
+        { "urgency", "3" }, { "scene", "011221" } };
+    return fixed.value(field.id, field.label + QStringLiteral(" \\ 'of' the = photo"));
+}
+
+/// What ExifTool stores for a typed value.
+QString storedValue(const FieldSpec& field)
+{
+    const QString typed = typedValue(field);
+    return field.kind == FieldKind::date ? QString(typed).replace(u'-', u':') + QStringLiteral(":00") : typed;
+}
+
+QString exiv2Text(const QMap<QString, QStringList>& values, const QString& key)
+{
+    QString text = values.value(key).join(QStringLiteral(", "));
+    return text.remove(QStringLiteral("lang=\"x-default\" "));
+}
+
+double degrees(const QString& rationals)
+{
+    double value = 0;
+    double unit = 1;
+    for (const auto& part : rationals.split(u' ')) {
+        value += part.section(u'/', 0, 0).toDouble() / part.section(u'/', 1).toDouble() / unit;
+        unit *= 60;
+    }
+    return value;
+}
+
+EditPlan planOfAllFields()
+{
+    EditPlan plan;
+    for (const auto& field : FieldSchema::all()) {
+        if (field.isList())
+            plan.lists[field.id] =
+                QStringList{ field.id + QStringLiteral(" one"), QStringLiteral("two's"), QStringLiteral("3") };
+        else
+            plan.scalars[field.id] = typedValue(field);
+    }
+    return plan;
+}
+
+}  // namespace
+
+class tst_MetadataFiles : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    void everyField_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("holdsIptc");
+        QTest::addRow("JPEG") << "a.jpg" << true;
+        QTest::addRow("PNG") << "a.png" << true;
+        QTest::addRow("TIFF") << "a.tif" << true;
+        QTest::addRow("WebP") << "a.webp" << false;
+    }
+
+    void everyField()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, holdsIptc);
+        const PhotoFolder folder;
+        const QUrl photo = folder.add(name);
+        const EditPlan plan = planOfAllFields();
+        write(plan, photo);
+        const auto byExifTool = exiftoolValues(photo);
+        const auto byExiv2 = exiv2Values(photo);
+        const auto record = readOne(photo);
+        QCOMPARE(folder.names(), QStringList{ name });
+        int tagsSeen = 0;
+        for (const auto& field : FieldSchema::all()) {
+            if (field.kind == FieldKind::coordinates)
+                continue;  // a test of its own
+            for (const auto& tag : field.writeTags) {
+                const bool held = holdsIptc || !tag.startsWith(QLatin1String("IPTC:"));
+                const auto stored = JSONValue::fromJson(byExifTool.value(printedKey(tag)));
+                QString other = exiv2Text(byExiv2, exiv2Key(tag));
+                const QString expected = !held ? QString()
+                    : field.isList()           ? plan.lists[field.id].join(QStringLiteral(", "))
+                                               : storedValue(field);
+                if (field.kind == FieldKind::date && tag.startsWith(QLatin1String("XMP")))
+                    other.replace(u'-', u':').replace(u'T', u' ');  // XMP's own form
+                QVERIFY2(stored.stringValue().value_or(QString()) == expected,
+                    qPrintable(tag + QStringLiteral(" is, for ExifTool: ") + stored.stringValue().value_or(QString())));
+                QVERIFY2(other == expected, qPrintable(tag + QStringLiteral(" is, for exiv2: ") + other));
+                tagsSeen += held;
+            }
+            const bool readable = field.id != QLatin1String("category") || holdsIptc;  // in IPTC alone
+            if (field.isList())
+                QCOMPARE(record.lists.value(field.id), plan.lists[field.id]);
+            else
+                QCOMPARE(record.values.value(field.id), readable ? typedValue(field) : QString());
+        }
+        QCOMPARE(tagsSeen, holdsIptc ? 52 : 35);
+    }
+
+    void deletesWhatIsEmptied()
+    {
+        const PhotoFolder folder;
+        const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+        EditPlan plan = planOfAllFields();
+        write(plan, photo);
+        for (auto& value : plan.scalars)
+            value.clear();
+        for (auto& items : plan.lists)
+            items = QStringList{ QStringLiteral("  ") };
+        write(plan, photo);
+        const auto record = readOne(photo);
+        QVERIFY(record.values.isEmpty());
+        QVERIFY(record.lists.isEmpty());
+        const auto left = exiv2Values(photo);
+        for (const auto& field : FieldSchema::all())
+            for (const auto& tag : field.writeTags)
+                QVERIFY2(!left.contains(exiv2Key(tag)), qPrintable(tag));
+        QVERIFY(!left.contains(QStringLiteral("Exif.GPSInfo.GPSLatitude")));
+    }
+
+    void positions()
+    {
+        struct Position {
+            double latitude;
+            double longitude;
+        };
+        // All four quarters of the world, its origin and a corner.
+        const QList<Position> positions{ { 48.85837, 2.294481 }, { 40.689247, -74.044502 }, { -33.856784, 151.215297 },
+            { -22.951916, -43.210487 }, { 0, 0 }, { -90, 180 } };
+        const PhotoFolder folder;
+        QList<QUrl> photos;
+        QStringList texts;
+        for (const auto& [latitude, longitude] : positions) {
+            photos.append(folder.add(QString::number(photos.size())));
+            texts.append(QString::asprintf("%.6f, %.6f", latitude, longitude));
+            write({ .scalars = { { "coords", texts.last() } } }, photos.last());
+        }
+        const auto records = service().read(photos);
+        for (qsizetype i = 0; i < photos.size(); ++i) {
+            QCOMPARE(records[i].values.value(QStringLiteral("coords")), texts[i]);
+            const auto values = exiv2Values(photos[i]);
+            const auto value = [&](const char* name) {
+                return values.value(QStringLiteral("Exif.GPSInfo.GPS") + QLatin1String(name)).value(0);
+            };
+            const auto [latitude, longitude] = positions[i];
+            QCOMPARE(value("LatitudeRef"), latitude < 0 ? QStringLiteral("S") : QStringLiteral("N"));
+            QCOMPARE(value("LongitudeRef"), longitude < 0 ? QStringLiteral("W") : QStringLiteral("E"));
+            QVERIFY(std::abs(degrees(value("Latitude")) - std::abs(latitude)) < 1e-6);
+            QVERIFY(std::abs(degrees(value("Longitude")) - std::abs(longitude)) < 1e-6);
+        }
+    }
+
+    void lists()
+    {
+        const PhotoFolder folder;
+        const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+        const auto keywords = [&] { return readOne(photo).lists.value(QStringLiteral("keywords")); };
+        const auto save = [&](const QStringList& items, MetadataWriter::ListMode mode) {
+            write({ .lists = { { "keywords", items } }, .listMode = mode }, photo);
+        };
+        save({ "cat", "dog" }, MetadataWriter::ListMode::replace);
+        save({ "dog", "Cat", " owl " }, MetadataWriter::ListMode::append);
+        QStringList expected{ "cat", "dog", "Cat", "owl" };
+        auto found = keywords();
+        found.sort();
+        expected.sort();
+        QCOMPARE(found, expected);
+        save({}, MetadataWriter::ListMode::append);
+        QCOMPARE(keywords().size(), 4);
+        save({ "z", "a" }, MetadataWriter::ListMode::replace);
+        QCOMPARE(keywords(), (QStringList{ "z", "a" }));
+        QCOMPARE(exiv2Values(photo).value(QStringLiteral("Iptc.Application2.Keywords")), (QStringList{ "z", "a" }));
+        QCOMPARE(exiv2Values(photo).value(QStringLiteral("Xmp.dc.subject")), QStringList{ "z, a" });
+    }
+
+    void customs()
+    {
+        const TemporaryFilesProbe temporary;
+        const PhotoFolder folder;
+        const QUrl photo = folder.add(QStringLiteral("a.png"));
+        write({ .customs = { { "Project code", "Zürich 東京" }, { "Mood", "= calm" }, { "!!!", "nowhere" } } }, photo);
+        QCOMPARE(readOne(photo).custom, (QList<CustomValue>{ { "Mood", "= calm" }, { "Projectcode", "Zürich 東京" } }));
+        QVERIFY(readFile(photo.toLocalFile()).contains("http://quorbel.app/ns/1.0/"));
+        QCOMPARE(exiv2Values(photo).value(QStringLiteral("Xmp.Quorbel.Projectcode")), QStringList{ "Zürich 東京" });
+        write({ .customs = { { "Mood", "" } } }, photo);
+        QCOMPARE(readOne(photo).custom, (QList<CustomValue>{ { "Projectcode", "Zürich 東京" } }));
+        QCOMPARE(temporary.names(), QStringList{ folder.path().section(u'/', -1) });
+    }
+
+    void backupAndSidecar()
+    {
+        const PhotoFolder folder;
+        const QByteArray original = jpegBytes(300, 200);
+        const QUrl photo = folder.add(QStringLiteral("IMG 1.JPG"), original);
+        write({ .scalars = { { "headline", "Alps" } } }, photo, { .backupOriginals = true, .writeSidecar = true });
+        QCOMPARE(folder.names(), (QStringList{ "IMG 1.JPG", "IMG 1.JPG_original", "IMG 1.xmp" }));
+        QCOMPARE(readFile(folder.path(QStringLiteral("IMG 1.JPG_original"))), original);
+        write({ .scalars = { { "headline", "Andes" } } }, photo, { .backupOriginals = false, .writeSidecar = true });
+        QCOMPARE(
+            exiftoolValues(folder.url(QStringLiteral("IMG 1.xmp"))).value(QStringLiteral("XMP:Headline")).toString(),
+            QStringLiteral("Andes"));
+        service().renameFile(photo, folder.url(QStringLiteral("b.jpg")));
+        QCOMPARE(folder.names(), (QStringList{ "b.jpg", "b.jpg_original", "b.xmp" }));
+        const auto record = readOne(folder.url(QStringLiteral("b.jpg")));
+        QCOMPARE(record.sidebarLine().section(u' ', 0, 0), QStringLiteral("300×200"));
+        QCOMPARE(record.fileSize.value_or(-1), QFileInfo(folder.path(QStringLiteral("b.jpg"))).size());
+        QCOMPARE(record.contentModificationDate.value_or(QDateTime()),
+            QFileInfo(folder.path(QStringLiteral("b.jpg"))).lastModified());
+    }
+
+    void oddNames()
+    {
+        const PhotoFolder folder;
+        const QStringList names{ "a b.jpg", "it's \"it\".jpg", "$HOME `x` \\n;.jpg", "line\nbreak.jpg", "%d@-x.jpg",
+            "日本 é.jpg" };
+        QList<QUrl> photos;
+        for (const auto& name : names)
+            photos.append(folder.add(name));
+        service().write({ .scalars = { { "title", "odd" } } }, photos, {});
+        const auto records = service().read(photos);
+        for (qsizetype i = 0; i < photos.size(); ++i) {
+            QCOMPARE(records[i].fileName, names[i]);
+            QCOMPARE(records[i].values.value(QStringLiteral("title")), QStringLiteral("odd"));
+        }
+        QCOMPARE(folder.names().size(), names.size());
+    }
+
+    void failuresKeepFiles()
+    {
+        const PhotoFolder folder;
+        const QUrl good = folder.add(QStringLiteral("good.jpg"));
+        const QUrl empty = folder.add(QStringLiteral("empty.jpg"), {});
+        const QUrl text = folder.add(QStringLiteral("text.jpg"), "not an image");
+        QVERIFY_THROWS_EXCEPTION(ToolError, service().read({ good, empty }));
+        QVERIFY_THROWS_EXCEPTION(ToolError, service().write({ .scalars = { { "title", "x" } } }, { good, text }, {}));
+        QCOMPARE(readFile(text.toLocalFile()), QByteArray("not an image"));
+        QCOMPARE(readOne(good).values.value(QStringLiteral("title")), QStringLiteral("x"));
+        QCOMPARE(folder.names().size(), 3);
+        // The photo goes away between the two runs.
+        const auto vanish = [&](qsizetype) { QFile::remove(good.toLocalFile()); };
+        QVERIFY_THROWS_EXCEPTION(ToolError, service().read({ good }, { .progress = vanish }));
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_MetadataFiles)
+#include "tst_MetadataFiles.moc"
