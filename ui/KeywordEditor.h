@@ -39,8 +39,8 @@ public:
     void clearEntry();
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    bool hasHeightForWidth() const override { return true; }
-    int heightForWidth(int width) const override;
+    /// It fixes its own height to what its width asks for.
+    bool hasHeightForWidth() const override { return false; }
 
 signals:
     /// A keyword, trimmed and not empty. Whether one that is there already is added again is the owner's decision.
@@ -55,12 +55,14 @@ protected:
 
 private:
     bool entryKey(QKeyEvent* event);
-    bool chipKey(KeywordChip* chip, QKeyEvent* event);
+    bool chipKey(int index, QKeyEvent* event);
+    void makeChip();
+    void focusChip(int index);
     void commit();
-    void add(const QStringList& keywords);
+    void addAll(const QStringList& keywords);
     void complete();
     void acceptCompletion(int row);
-    void removeChip(KeywordChip* chip);
+    void removeChip(int index);
     void updateHeight();
 
     QStringList m_chips;
@@ -72,7 +74,6 @@ private:
     Completions m_completions;
     bool m_amber = false;
     bool m_edited = false;
-    int m_height = 0;
 };
 
 }  // namespace Quorbel

@@ -28,18 +28,17 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    bool event(QEvent* event) override;
 
 private:
     void ask();
     void paintMarker(QPainter& painter, QPointF tip) const;
+    void paintAttribution(QPainter& painter) const;
 
     MapRenderer* m_renderer;
     Coordinates::Point m_point{};
     PlaceToken m_request;
     QTimer m_delay;  ///< gathers the sizes of a window being resized
     MapImage m_map{};
-    Coordinates::Point m_mapPoint{};
 };
 
 }  // namespace Quorbel

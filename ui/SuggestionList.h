@@ -37,7 +37,6 @@ signals:
     void activated(int row);
 
 protected:
-    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -47,6 +46,7 @@ protected:
 
 private:
     void place();
+    void paintRow(QPainter& painter, int row);
     int rowAt(QPoint pos) const;
     int rowHeight() const;
 

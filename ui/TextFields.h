@@ -19,6 +19,7 @@ public:
     /// Shows the value; keeps the cursor and the undo history when it is what the field shows already. Emits no
     /// textEdited().
     void setBoundText(const QString& text);
+    const QString& placeholder() const { return m_placeholder; }
     void setPlaceholder(const QString& text, bool italic = false);
     bool isEdited() const { return m_edited; }
     void setEdited(bool edited);
@@ -31,12 +32,17 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    /// What Paste does, from the keyboard and from the menu.
+    virtual void pasteText() { paste(); }
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void restyle();
-    void paintPlaceholder();
+    QRect textRect() const;
+
+    QString m_placeholder;
 
     HoverFade* m_fade;
     QString m_icon;
@@ -53,6 +59,7 @@ class QBTextArea : public QPlainTextEdit {
 public:
     explicit QBTextArea(QWidget* parent = nullptr);
     QString text() const { return toPlainText(); }
+    const QString& placeholder() const { return m_placeholder; }
     void setBoundText(const QString& text);
     void setPlaceholder(const QString& text, bool italic = false);
     bool isEdited() const { return m_edited; }
@@ -65,8 +72,9 @@ signals:
     void textEdited(const QString& text);
 
 protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    bool viewportEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -75,11 +83,11 @@ private:
     void restyle();
     void grow();
 
+    QString m_placeholder;
     HoverFade* m_fade;
     bool m_edited = false;
     bool m_italicPlaceholder = false;
     bool m_binding = false;
-    int m_height = 0;
 };
 
 }  // namespace Quorbel
