@@ -7,7 +7,7 @@
 namespace Quorbel {
 
 struct EditPlan {
-    QMap<QString, QString> scalars{};    ///< field id to new text; empty text deletes the field's tags
+    QMap<QString, QString> scalars{};  ///< field id to new text; empty text deletes the field's tags
     QMap<QString, QStringList> lists{};  ///< field id to new items
     QList<CustomValue> customs{};
     MetadataWriter::ListMode listMode = MetadataWriter::ListMode::replace;
@@ -19,7 +19,7 @@ struct EditPlan {
 
 struct WriteOptions {
     bool backupOriginals = false;  ///< ExifTool keeps each file's "_original" copy
-    bool writeSidecar = false;     ///< an XMP sidecar beside each image is brought up to date
+    bool writeSidecar = false;  ///< an XMP sidecar beside each image is brought up to date
     bool operator==(const WriteOptions&) const = default;
 };
 

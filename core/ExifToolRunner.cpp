@@ -209,6 +209,11 @@ QList<JSONObject> ExifToolRunner::readJSON(
     return output.isEmpty() ? QList<JSONObject>(files.size()) : decode(output);
 }
 
+QByteArray ExifToolRunner::readXML(const QStringList& selection, const QList<QUrl>& files) const
+{
+    return files.isEmpty() ? QByteArray() : runForBytes(selection + paths(files));
+}
+
 QString ExifToolRunner::write(
     const QStringList& args, const QList<QUrl>& files, bool backup, const std::optional<QUrl>& configPath) const
 {

@@ -41,6 +41,9 @@ struct ExifToolRunner {
     QList<JSONObject> read(const QStringList& tags, const QList<QUrl>& files, const ReadControl& control = {}) const;
     /// Reads the custom group "XMP-Quorbel" alone, with group-1 keys. Throws like read().
     QList<JSONObject> readCustomNamespace(const QList<QUrl>& files, const ReadControl& control = {}) const;
+    /// The tool's XML answer to a selection ("-X", "-n", "-IPTC:City"): texts as they are, where JSON would turn
+    /// "1.10" into a number. Throws ToolError or LaunchError.
+    QByteArray readXML(const QStringList& selection, const QList<QUrl>& files) const;
     /// Runs assignments over the files and returns the tool's standard output; nothing is run, and "" returned,
     /// when either list is empty. `backup` lets the tool keep its "_original" copies. Throws ToolError or
     /// LaunchError.

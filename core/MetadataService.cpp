@@ -1,8 +1,9 @@
 #include "core/MetadataService.h"
 
-#include "core/FieldSchema.h"
+#include "core/IptcEncoding.h"
 #include "core/MetadataReader.h"
 #include "core/MetadataWriter.h"
+#include "core/SaveGuard.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -46,26 +47,9 @@ void addFileDates(ImageRecord& record)
         record.contentModificationDate = modified;
 }
 
-QStringList assignments(const EditPlan& plan)
-{
-    QStringList args;
-    for (auto it = plan.scalars.cbegin(); it != plan.scalars.cend(); ++it)
-        if (const FieldSpec* field = FieldSchema::spec(it.key()))
-            args += MetadataWriter::scalarArgs(*field, it.value());
-    for (auto it = plan.lists.cbegin(); it != plan.lists.cend(); ++it)
-        if (const FieldSpec* field = FieldSchema::spec(it.key()))
-            args += MetadataWriter::listArgs(*field, it.value(), plan.listMode);
-    for (const auto& custom : plan.customs)
-        args += MetadataWriter::customArgs(custom.name, custom.value);
-    return args;
-}
-
 /// Writes the definitions of the custom group for one save. Readable by the user alone: names may be private.
-QUrl writeTempConfig(const QList<CustomValue>& customs)
+QUrl writeTempConfig(const QStringList& names)
 {
-    QStringList names;
-    for (const auto& custom : customs)
-        names.append(custom.name);
     const QByteArray text = MetadataWriter::customConfig(names).toUtf8();
 
     const QString directory = QDir::tempPath();
@@ -110,6 +94,29 @@ void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& images)
             // The photo itself is saved; a sidecar is a courtesy beside it.
         }
     }
+}
+
+/// One write of assignments, with what ExifTool would lose looked after: the files behind links, text that the
+/// files' IPTC encoding cannot hold, extended attributes, mode and owner.
+QString writeSafely(const ExifToolRunner& runner, const QStringList& args, const QList<QUrl>& targets, bool backup,
+    const QStringList& customNames)
+{
+    const auto files = SaveGuard::filesBehindLinks(targets);
+    SaveGuard::requireWritable(files);
+    SaveGuard::clearLeftovers(files);
+    std::optional<QUrl> config;
+    if (!customNames.isEmpty())
+        config = writeTempConfig(customNames);
+    const auto removeConfig = qScopeGuard([&config] {
+        if (config)
+            QFile::remove(config->toLocalFile());
+    });
+    const SaveGuard::AttributeKeeper attributes(files);
+    // After a failure too: some of the files may have been replaced.
+    const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });
+    if (IptcEncoding::needsUtf8(args))
+        runner.write(IptcEncoding::conversionArgs(), files, backup);
+    return runner.write(args, files, backup, config);
 }
 
 /// Moves a file unless something has the new name already, in one step where the file system can do that.
@@ -167,20 +174,61 @@ QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets,
 {
     if (plan.isEmpty() || targets.isEmpty())
         return {};
-    const QStringList args = assignments(plan);
+    const QStringList args = MetadataWriter::assignments(plan);
     if (args.isEmpty())
         return {};
-    std::optional<QUrl> config;
-    if (!plan.customs.isEmpty())
-        config = writeTempConfig(plan.customs);
-    const auto removeConfig = qScopeGuard([&config] {
-        if (config)
-            QFile::remove(config->toLocalFile());
-    });
-    const QString output = runner.write(args, targets, options.backupOriginals, config);
+    QStringList customNames;
+    for (const auto& custom : plan.customs)
+        customNames.append(custom.name);
+    const QString output = writeSafely(runner, args, targets, options.backupOriginals, customNames);
     if (options.writeSidecar)
         writeSidecars(runner, targets);
     return output;
+}
+
+JournalEntry MetadataService::journalEntry(const EditPlan& plan, const QList<QUrl>& targets) const
+{
+    JournalEntry entry{ .savedAt = QDateTime::currentDateTimeUtc(), .writtenTags = SaveJournal::writtenTags(plan) };
+    for (const auto& custom : plan.customs)
+        entry.customNames.append(custom.name);
+    if (entry.writtenTags.isEmpty() || targets.isEmpty())
+        return entry;
+    const auto files = SaveGuard::filesBehindLinks(targets);
+    const auto tagsByPath = SaveJournal::parseTags(runner.readXML(SaveJournal::readArgs(entry.writtenTags), files));
+    for (const auto& file : files) {
+        const QString path = file.toLocalFile();
+        const auto stamp = FileStamp::of(path);
+        const auto tags = tagsByPath.constFind(path);
+        if (stamp && tags != tagsByPath.cend())
+            entry.files.append({ .path = path, .before = *stamp, .after = *stamp, .tags = *tags });
+    }
+    return entry;
+}
+
+UndoOutcome MetadataService::undo(const JournalEntry& entry) const
+{
+    UndoOutcome outcome;
+    QMap<QStringList, QList<QUrl>> filesByArgs;
+    for (const auto& file : entry.files) {
+        const QUrl url = QUrl::fromLocalFile(file.path);
+        if (FileStamp::of(file.path) != file.after)
+            outcome.changedSince.append(url);
+        else
+            filesByArgs[SaveJournal::restoreArgs(entry, file)].append(url);
+    }
+    for (auto it = filesByArgs.cbegin(); it != filesByArgs.cend(); ++it) {
+        QList<FileFailure> failures;
+        try {
+            writeSafely(runner, it.key(), *it, false, entry.customNames);
+        } catch (const ToolError& error) {
+            failures = writeFailures(error, *it);
+        }
+        outcome.failed += failures;
+        for (const auto& url : *it)
+            if (std::none_of(failures.cbegin(), failures.cend(), [&url](const auto& f) { return f.file == url; }))
+                outcome.restored.append(url);
+    }
+    return outcome;
 }
 
 void MetadataService::renameFile(const QUrl& source, const QUrl& destination) const

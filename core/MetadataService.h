@@ -5,10 +5,19 @@
 #include "core/EditPlan.h"
 #include "core/ExifToolRunner.h"
 #include "core/ImageRecord.h"
+#include "core/SaveJournal.h"
+#include "core/WriteFailures.h"
 
 #include <optional>
 
 namespace Quorbel {
+
+/// What taking a save back came to.
+struct UndoOutcome {
+    QList<QUrl> restored{};
+    QList<QUrl> changedSince{};  ///< left alone: somebody else changed or removed them after the save
+    QList<FileFailure> failed{};
+};
 
 struct MetadataService {
     ExifToolRunner runner{};
@@ -21,8 +30,16 @@ struct MetadataService {
     /// run. Throws the runner's errors; then there are no records at all.
     QList<ImageRecord> read(const QList<QUrl>& urls, const ReadControl& control = {}) const;
     /// Writes the plan to all targets in one run (plus one a file when sidecars are on) and returns the tool's
-    /// standard output; "" when nothing was run. Throws the runner's errors and FileError.
+    /// standard output; "" when nothing was run. A symbolic link stands for the file that it points to; extended
+    /// attributes, mode and owner survive. Text that a file's IPTC cannot hold as it is encoded is preceded by one
+    /// run that re-encodes it. Throws the runner's errors, FileError, and SaveGuard::FileProblem when a file is
+    /// read-only or blocked; then nothing was changed.
     QString write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options) const;
+    /// What the plan is about to replace in the targets, read in one run. Throws the runner's errors.
+    JournalEntry journalEntry(const EditPlan& plan, const QList<QUrl>& targets) const;
+    /// Writes the old values of a save back, one run for each distinct set of them, without new backups.
+    /// Throws SaveGuard::FileProblem, LaunchError and FileError.
+    UndoOutcome undo(const JournalEntry& entry) const;
     /// Moves the photo within its file system, and with it its sidecar and its backup as far as they exist. Never
     /// replaces a file: throws FileError when the destination exists or the main move fails; a companion whose
     /// new name is taken stays where it is.

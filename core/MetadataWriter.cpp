@@ -1,6 +1,7 @@
 #include "core/MetadataWriter.h"
 
 #include "core/Coordinates.h"
+#include "core/EditPlan.h"
 #include "core/Product.h"
 #include "core/Text.h"
 
@@ -137,6 +138,20 @@ QStringList customArgs(const QString& name, const QString& value)
     return { assignment(customNamespacePrefix() + u':' + *tag, u"="_s, value) };
 }
 
+QStringList assignments(const EditPlan& plan)
+{
+    QStringList args;
+    for (auto it = plan.scalars.cbegin(); it != plan.scalars.cend(); ++it)
+        if (const FieldSpec* field = FieldSchema::spec(it.key()))
+            args += scalarArgs(*field, it.value());
+    for (auto it = plan.lists.cbegin(); it != plan.lists.cend(); ++it)
+        if (const FieldSpec* field = FieldSchema::spec(it.key()))
+            args += listArgs(*field, it.value(), plan.listMode);
+    for (const auto& custom : plan.customs)
+        args += customArgs(custom.name, custom.value);
+    return args;
+}
+
 QString customConfig(const QStringList& names)
 {
     QStringList tags;
@@ -176,6 +191,26 @@ std::optional<QString> sanitizeCustomName(const QString& name)
     if (kept.isEmpty())
         return std::nullopt;
     return kept;
+}
+
+std::optional<QString> customNameProblem(const QString& name)
+{
+    // The keys with a meaning of their own in ExifTool's tag tables (%specialTags of its main module), as far as
+    // they are letters only.
+    static const QStringList reserved{ QStringLiteral("AVOID"), QStringLiteral("DATAMEMBER"), QStringLiteral("FORMAT"),
+        QStringLiteral("GROUPS"), QStringLiteral("NAMESPACE"), QStringLiteral("NOTES"), QStringLiteral("PERMANENT"),
+        QStringLiteral("PREFERRED"), QStringLiteral("PRIORITY"), QStringLiteral("VARS"), QStringLiteral("WRITABLE") };
+    const auto stored = sanitizeCustomName(name);
+    if (!stored)
+        return std::nullopt;
+    const bool ascii = std::all_of(stored->cbegin(), stored->cend(), [](QChar c) { return c.unicode() < 0x80; });
+    if (!ascii)
+        return QStringLiteral("Only the letters A–Z and digits can be stored in a name.");
+    if (stored->size() == 1)
+        return QStringLiteral("A name needs at least two letters or digits.");
+    if (reserved.contains(*stored))
+        return QStringLiteral("“%1” is a reserved word; choose another name.").arg(*stored);
+    return std::nullopt;
 }
 
 QString normalizeDate(const QString& text)

@@ -6,6 +6,10 @@
 
 #include <optional>
 
+namespace Quorbel {
+struct EditPlan;
+}
+
 namespace Quorbel::MetadataWriter {
 
 enum class ListMode {
@@ -26,10 +30,16 @@ QStringList scalarArgs(const FieldSpec& field, const QString& value);
 QStringList listArgs(const FieldSpec& field, const QStringList& values, ListMode mode);
 /// One assignment, or none when the name has no storable character.
 QStringList customArgs(const QString& name, const QString& value);
+/// All assignments of one save: scalars, lists, custom values. Field ids that the schema does not know are skipped.
+QStringList assignments(const EditPlan& plan);
 /// The ExifTool user-definition file that declares the custom group with these names.
 QString customConfig(const QStringList& names);
 /// Letters, marks and digits of any script, without leading digits; nothing when that leaves nothing.
 std::optional<QString> sanitizeCustomName(const QString& name);
+
+/// Why ExifTool could not store a custom field of this typed name, in one line for the user; nothing when it can,
+/// and nothing for a name of which sanitizeCustomName leaves nothing. One such name spoils its whole save.
+std::optional<QString> customNameProblem(const QString& name);
 
 /// A typed date as "yyyy:MM:dd HH:mm:ss" in wall-clock time; what does not parse is passed on trimmed.
 QString normalizeDate(const QString& text);

@@ -6,12 +6,21 @@
 namespace Quorbel::Product {
 
 /// Organisation and application name: of the settings file, the window class and the desktop entry.
-inline QString name() { return QStringLiteral("Quorbel"); }
+inline QString name()
+{
+    return QStringLiteral("Quorbel");
+}
 
 /// URI of the custom XMP group. It stands in every file written, so it never changes.
-inline QString customNamespaceURI() { return QStringLiteral("http://quorbel.app/ns/1.0/"); }
+inline QString customNamespaceURI()
+{
+    return QStringLiteral("http://quorbel.app/ns/1.0/");
+}
 
 /// Path of the update feed on its host; the host is a build setting (QUORBEL_FEED_HOST).
-inline QString feedPath() { return QStringLiteral("/quorbel/appcast.json"); }
+inline QString feedPath()
+{
+    return QStringLiteral("/quorbel/appcast.json");
+}
 
 }  // namespace Quorbel::Product

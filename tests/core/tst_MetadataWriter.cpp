@@ -168,6 +168,25 @@ private slots:
         plan.lists.insert(u"keywords"_s, {});
         QVERIFY(!plan.isEmpty());
     }
+
+    void saysWhichNamesCannotBeStored_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("stored");
+        QTest::addRow("plain") << "Project code" << true;
+        QTest::addRow("two characters") << "a1" << true;
+        QTest::addRow("nothing left") << "!!!" << true;
+        QTest::addRow("one character") << "9 X" << false;
+        QTest::addRow("accent") << QStringLiteral("Café") << false;
+        QTest::addRow("reserved") << "GROUPS" << false;
+        QTest::addRow("reserved after cleaning") << "NOTES!" << false;
+        QTest::addRow("reserved in another case") << "Groups" << true;
+    }
+    void saysWhichNamesCannotBeStored()
+    {
+        QFETCH(QString, name);
+        QTEST(!MetadataWriter::customNameProblem(name), "stored");
+    }
 };
 
 QTEST_GUILESS_MAIN(TestMetadataWriter)

@@ -1,0 +1,21 @@
+// Whether texts bound for IPTC fit the encoding that ExifTool stores them in.
+// Thread: any. Pure: starts nothing, touches no file.
+//
+// A file that does not declare CodedCharacterSet gets its IPTC in Windows Latin 1, where ExifTool replaces what
+// does not fit by question marks, with exit status 0. Declaring UTF-8 in the same command would garble the values
+// that are already there; a run of its own beforehand re-encodes them.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Quorbel::IptcEncoding {
+
+/// Whether every character exists in Windows Latin 1 (code page 1252).
+bool fitsWindowsLatin1(const QString& text);
+/// Whether some assignment argument ("-IPTC:City=東京") binds a text for IPTC that does not fit.
+bool needsUtf8(const QStringList& assignments);
+/// Arguments of the run that turns all IPTC of a file into declared UTF-8.
+QStringList conversionArgs();
+
+}  // namespace Quorbel::IptcEncoding

@@ -1,0 +1,75 @@
+// What the last saves replaced, so that they can be taken back, also after a restart.
+// Thread: any, one at a time on one journal file. Knows nothing of processes: MetadataService reads the old values
+// and writes them back.
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <optional>
+
+namespace Quorbel {
+
+struct EditPlan;
+
+/// Enough of a file's state to tell whether somebody else changed it since.
+struct FileStamp {
+    qint64 modified = 0;  ///< milliseconds since 1970, UTC
+    qint64 size = 0;  ///< bytes
+    bool operator==(const FileStamp&) const = default;
+
+    /// Nothing when there is no such file.
+    static std::optional<FileStamp> of(const QString& path);
+};
+
+struct JournalFile {
+    QString path{};
+    FileStamp before{};
+    FileStamp after{};
+    /// ExifTool tag ("XMP-dc:Title-de") to the values that it held before the save. A written tag that is not here
+    /// was absent.
+    QMap<QString, QStringList> tags{};
+    bool operator==(const JournalFile&) const = default;
+};
+
+/// One save.
+struct JournalEntry {
+    QDateTime savedAt{};
+    QStringList writtenTags{};  ///< the tags that the save assigned, as its assignments name them
+    QStringList customNames{};  ///< names of the custom fields among them
+    QList<JournalFile> files{};
+    bool operator==(const JournalEntry&) const = default;
+};
+
+namespace SaveJournal {
+
+/// Saves that are kept.
+constexpr qsizetype limit = 20;
+
+/// The tags that the plan assigns ("XMP-dc:Title", "GPSLatitude"), without duplicates, in the order of the plan.
+QStringList writtenTags(const EditPlan& plan);
+/// Arguments that read those tags losslessly, language variants and custom fields included.
+QStringList readArgs(const QStringList& writtenTags);
+/// The values in ExifTool's XML answer, by path.
+QMap<QString, QMap<QString, QStringList>> parseTags(const QByteArray& xml);
+/// Assignments that put the old values back into one file.
+QStringList restoreArgs(const JournalEntry& entry, const JournalFile& file);
+
+/// The journal's saves, oldest first; none for a file that is missing or damaged.
+QList<JournalEntry> load(const QString& journalPath);
+/// Writes them, the newest `limit` of them. False when the file system refuses; the old journal is then intact.
+bool store(const QString& journalPath, const QList<JournalEntry>& entries);
+/// Follows a photo that got another name.
+void rename(QList<JournalEntry>& entries, const QString& from, const QString& to);
+/// Takes the newest save out after it was undone. Files that it had found as an earlier save left them are, as they
+/// now stand, again what that earlier save left.
+void removeUndone(QList<JournalEntry>& entries);
+
+}  // namespace SaveJournal
+
+}  // namespace Quorbel

@@ -1,0 +1,375 @@
+// What a save keeps: every script in every standard, links, attributes, read-only files, and the way back.
+#include "core/IptcEncoding.h"
+#include "core/MetadataService.h"
+#include "core/SaveGuard.h"
+#include "core/SaveVerification.h"
+#include "tests/support/Support.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <utime.h>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+
+namespace {
+
+MetadataService realService()
+{
+    return { realTool() };
+}
+
+/// The one value of a tag ("-XMP-dc:Title") as ExifTool prints it.
+QString exiftoolValue(const QUrl& file, const QString& tag)
+{
+    return QString::fromUtf8(exiftool({ QStringLiteral("-s3"), tag, file.toLocalFile() })).trimmed();
+}
+
+EditPlan titlePlan(const QString& title)
+{
+    return { .scalars = { { "title", title } } };
+}
+
+QString problem(const std::function<void()>& call)
+{
+    try {
+        call();
+    } catch (const Error& error) {
+        return error.description();
+    }
+    return {};
+}
+
+void makeOld(const QString& path, qint64 seconds)
+{
+    const time_t then = time(nullptr) - seconds;
+    const utimbuf times{ then, then };
+    QCOMPARE(utime(QFile::encodeName(path).constData(), &times), 0);
+}
+
+}  // namespace
+
+class tst_SaveSafety : public QObject {
+    Q_OBJECT
+
+private slots:
+    void knowsWindowsLatin1_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("fits");
+        QTest::addRow("ASCII") << "plain\ttext\n" << true;
+        QTest::addRow("Latin 1") << "Zürich ÿ £" << true;
+        QTest::addRow("the page's own") << "€ “quotes” … – — Œ Ž ™" << true;
+        QTest::addRow("Central European") << "Łódź" << false;
+        QTest::addRow("decomposed") << QStringLiteral("Zu\u0308rich") << false;
+        QTest::addRow("Chinese") << "東京" << false;
+        QTest::addRow("emoji") << "🏔" << false;
+        QTest::addRow("C1 control") << QString(QChar(0x81)) << false;
+    }
+    void knowsWindowsLatin1()
+    {
+        QFETCH(QString, text);
+        QTEST(IptcEncoding::fitsWindowsLatin1(text), "fits");
+        QCOMPARE(IptcEncoding::needsUtf8({ "-XMP-dc:Title=" + text, "-IPTC:City=" + text }),
+            !IptcEncoding::fitsWindowsLatin1(text));
+        QVERIFY(!IptcEncoding::needsUtf8({ "-XMP-dc:Title=" + text }));
+    }
+
+    void reencodesInARunOfItsOwn()
+    {
+        FakeTool tool;
+        const QList<QUrl> files{ QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")) };
+        const EditPlan plan{ .scalars = { { "category", QStringLiteral("東京") } } };
+        MetadataService{ tool.runner() }.write(plan, files, { .backupOriginals = false });
+        QCOMPARE(tool.calls(),
+            (QList<QStringList>{ { "-overwrite_original", "-m", "-tagsfromfile", "@", "-iptc:all",
+                                     "-IPTC:CodedCharacterSet=UTF8", "/p/a.jpg" },
+                { "-overwrite_original", "-m", QStringLiteral("-IPTC:Category=東京"), "/p/a.jpg" } }));
+
+        FakeTool failing;
+        failing.answerAlways({ .standardError = "no", .exitCode = 1 });
+        QVERIFY(!problem([&] { MetadataService{ failing.runner() }.write(plan, files, {}); }).isEmpty());
+        QCOMPARE(failing.calls().size(), 1);  // the write itself was not begun
+    }
+
+    void keepsEveryScript_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addRow("Latin") << "Zürich Łódź Ærø";
+        QTest::addRow("Cyrillic") << "Москва";
+        QTest::addRow("Greek") << "Αθήνα";
+        QTest::addRow("Hebrew") << "ירושלים";
+        QTest::addRow("Arabic") << "القاهرة";
+        QTest::addRow("Devanagari") << "वाराणसी";
+        QTest::addRow("Chinese") << "北京故宫";
+        QTest::addRow("Japanese") << "東京タワー";
+        QTest::addRow("Korean") << "서울";
+        QTest::addRow("emoji") << "🏔️👩‍👩‍👧 sky";
+        QTest::addRow("combining marks") << QStringLiteral("Zu\u0308rich ạ̈");
+    }
+    void keepsEveryScript()
+    {
+        QFETCH(QString, text);
+        PhotoFolder folder;
+        const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+        // What is there already, undeclared and thus Latin 1, must survive the change of encoding.
+        exiftool({ "-q", "-overwrite_original", "-IPTC:Contact=Jürg", "-IPTC:Keywords=Süd", photo.toLocalFile() });
+
+        EditPlan plan{ .lists = { { "keywords", { text, "Süd" } }, { "people", { text } } },
+            .listMode = MetadataWriter::ListMode::append };
+        for (const auto& field : FieldSchema::all())
+            if (field.kind == FieldKind::text || field.kind == FieldKind::multiline)
+                plan.scalars.insert(field.id, text);
+        plan.scalars.remove(QStringLiteral("urgency"));  // a digit by its standard
+        const auto service = realService();
+        service.write(plan, { photo }, {});
+
+        const auto record = service.read({ photo }).constFirst();
+        QCOMPARE(SaveVerification::differences(plan, record), QStringList());
+        QCOMPARE(record.lists.value(QStringLiteral("keywords")), QStringList({ text, "Süd" }));
+        QCOMPARE(exiftoolValue(photo, QStringLiteral("-IPTC:Contact")), QStringLiteral("Jürg"));
+        const auto exiv2 = exiv2Values(photo);
+        QStringList tags;
+        for (const auto& field : FieldSchema::all())
+            if (plan.scalars.contains(field.id))
+                for (const auto& tag : field.writeTags)
+                    tags.append(u'-' + tag);
+        const auto stored = exiftool(QStringList{ "-s3" } + tags + QStringList(photo.toLocalFile()));
+        QCOMPARE(QString::fromUtf8(stored).trimmed().split(u'\n'), QStringList(tags.size(), text));
+        for (const auto* key : { "Iptc.Application2.City", "Iptc.Application2.Caption", "Iptc.Application2.ObjectName",
+                 "Xmp.photoshop.City", "Xmp.photoshop.Headline", "Exif.Image.Artist" })
+            QCOMPARE(exiv2.value(QString::fromLatin1(key)), QStringList(text));
+    }
+
+    void verifiesInTheNormalFormOfTheKind_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<QString>("found");
+        QTest::addColumn<bool>("same");
+        QTest::addRow("text") << "title"
+                              << "a"
+                              << "a" << true;
+        QTest::addRow("text lost") << "title"
+                                   << "東京"
+                                   << "??" << false;
+        QTest::addRow("text that looks like a number") << "title"
+                                                       << "1.10"
+                                                       << "1.1" << true;
+        QTest::addRow("text that looks like a boolean") << "title"
+                                                        << "TRUE"
+                                                        << "true" << true;
+        QTest::addRow("case of a text") << "title"
+                                        << "A"
+                                        << "a" << false;
+        QTest::addRow("date") << "date"
+                              << "2024-5-6"
+                              << "2024-05-06 00:00" << true;
+        QTest::addRow("date refused") << "date"
+                                      << "last summer"
+                                      << "" << false;
+        QTest::addRow("stars") << "rating"
+                               << "7"
+                               << "5" << true;
+        QTest::addRow("rating refused") << "rating"
+                                        << "five"
+                                        << "" << false;
+        QTest::addRow("position") << "coords"
+                                  << "48.8584 N, 2.2945 W"
+                                  << "48.858400, -2.294500" << true;
+        QTest::addRow("position that does not parse") << "coords"
+                                                      << "abc"
+                                                      << "48.858400, 2.294500" << false;
+        QTest::addRow("deleted") << "title"
+                                 << ""
+                                 << "" << true;
+        QTest::addRow("not deleted") << "title"
+                                     << ""
+                                     << "old" << false;
+    }
+    void verifiesInTheNormalFormOfTheKind()
+    {
+        QFETCH(QString, id);
+        QFETCH(QString, written);
+        QFETCH(QString, found);
+        ImageRecord record;
+        if (!found.isEmpty())
+            record.values.insert(id, found);
+        const auto keys = SaveVerification::differences({ .scalars = { { id, written } } }, record);
+        QTEST(keys.isEmpty(), "same");
+    }
+
+    void verifiesListsAndCustoms()
+    {
+        using Mode = MetadataWriter::ListMode;
+        const ImageRecord record{ .lists = { { "keywords", { "a", "b", "5" } } }, .custom = { { "Mood", "calm" } } };
+        const auto keys = [&record](const QStringList& items, Mode mode, const QString& mood) {
+            return SaveVerification::differences(
+                { .lists = { { "keywords", items } }, .customs = { { "mood", mood } }, .listMode = mode }, record);
+        };
+        QCOMPARE(keys({ " a", "b", "", "5" }, Mode::replace, "calm"), QStringList());
+        QCOMPARE(keys({ "b", "a", "5" }, Mode::replace, "calm"), QStringList("keywords"));
+        QCOMPARE(keys({ "a" }, Mode::replace, "calm"), QStringList("keywords"));
+        QCOMPARE(keys({ "5", "a" }, Mode::append, "wild"), QStringList("custom:mood"));
+        QCOMPARE(keys({ "c" }, Mode::append, "calm"), QStringList("keywords"));
+        QCOMPARE(SaveVerification::labels({ "jobId", "coords", "custom:mood" }),
+            QStringList({ "Job ID", "Coordinates", "mood" }));
+    }
+
+    void writesThroughLinksAndKeepsAttributes()
+    {
+        PhotoFolder folder;
+        PhotoFolder elsewhere;
+        const QUrl photo = elsewhere.add(QStringLiteral("real.jpg"));
+        const QByteArray path = QFile::encodeName(photo.toLocalFile());
+        QVERIFY(QFile::link(photo.toLocalFile(), folder.path(QStringLiteral("link.jpg"))));
+        if (setxattr(path.constData(), "user.rated", "yes", 3, 0) != 0)
+            QSKIP("the temporary folder's file system has no extended attributes");
+        QCOMPARE(chmod(path.constData(), 0640), 0);
+
+        for (const bool backup : { true, false }) {
+            realService().write(titlePlan(QStringLiteral("東京")), { folder.url(QStringLiteral("link.jpg")) },
+                { .backupOriginals = backup });
+            QVERIFY(QFileInfo(folder.path(QStringLiteral("link.jpg"))).isSymLink());
+            QCOMPARE(exiftoolValue(photo, QStringLiteral("-IPTC:ObjectName")), QStringLiteral("東京"));
+            struct stat status { };
+            QCOMPARE(stat(path.constData(), &status), 0);
+            QCOMPARE(status.st_mode & 07777, mode_t(0640));
+            char value[4] = {};
+            QCOMPARE(getxattr(path.constData(), "user.rated", value, 3), ssize_t(3));
+        }
+    }
+
+    void refusesReadOnlyFiles()
+    {
+        PhotoFolder folder;
+        QList<QUrl> urls;
+        for (const auto* name : { "a.jpg", "b.jpg", "c.jpg" })
+            urls.append(folder.add(QString::fromLatin1(name)));
+        QVERIFY(QFile::setPermissions(urls[1].toLocalFile(), QFile::ReadOwner | QFile::ReadGroup));
+        const QByteArray before = readFile(urls[0].toLocalFile());
+        const auto service = realService();
+        QCOMPARE(
+            problem([&] { service.write(titlePlan("x"), { urls[1] }, {}); }), QStringLiteral("b.jpg is read-only."));
+        QCOMPARE(problem([&] { service.write(titlePlan("x"), urls, {}); }),
+            QStringLiteral("1 of 3 photos is read-only: b.jpg; nothing was written."));
+        QCOMPARE(readFile(urls[0].toLocalFile()), before);
+    }
+
+    void dealsWithLeftovers()
+    {
+        PhotoFolder folder;
+        const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+        const QString leftover = folder.path(QStringLiteral("a.jpg_exiftool_tmp"));
+        writeFile(leftover, "half");
+        const auto service = realService();
+        QVERIFY(problem([&] {
+            service.write(titlePlan("x"), { photo }, {});
+        }).contains(QStringLiteral("a.jpg_exiftool_tmp")));
+        QVERIFY(QFile::exists(leftover));
+        makeOld(leftover, 25 * 60 * 60);
+        service.write(titlePlan("x"), { photo }, {});
+        QCOMPARE(exiftoolValue(photo, QStringLiteral("-XMP-dc:Title")), QStringLiteral("x"));
+        QCOMPARE(folder.names(), QStringList("a.jpg"));
+    }
+
+    void namesTheFilesThatFailed()
+    {
+        PhotoFolder folder;
+        const QUrl good = folder.add(QStringLiteral("a.jpg"));
+        const QUrl bad = folder.add(QStringLiteral("b - c.jpg"), "text, no photo");
+        try {
+            realService().write(titlePlan("x"), { good, bad }, {});
+            QFAIL("a file that is no photo was written to");
+        } catch (const ToolError& error) {
+            const auto failures = writeFailures(error, { good, bad });
+            QCOMPARE(failures.size(), 1);
+            QCOMPARE(failures[0].file, bad);
+            QVERIFY2(failures[0].reason.startsWith(QStringLiteral("Not a valid JPG")), qPrintable(failures[0].reason));
+        }
+        QCOMPARE(exiftoolValue(good, QStringLiteral("-XMP-dc:Title")), QStringLiteral("x"));
+        const ToolError silent(ToolError::ExecFailed{ 9, {} });
+        QCOMPARE(writeFailures(silent, { good, bad }).size(), 2);
+    }
+
+    void takesASaveBack()
+    {
+        PhotoFolder folder;
+        const QUrl a = folder.add(QStringLiteral("a & 'b' <c>.jpg"));
+        const QUrl b = folder.add(QStringLiteral("b.png"));
+        const QUrl c = folder.add(QStringLiteral("c.jpg"));
+        exiftool({ "-q", "-overwrite_original", "-XMP-dc:Title=1.10", "-XMP-dc:Title-de=Zwei\nZeilen & <mehr>",
+            "-IPTC:ObjectName=1.10", "-IPTC:Keywords=Süd", "-IPTC:Keywords=b", "-XMP-dc:Subject=Süd",
+            "-GPSLatitude=33.5", "-GPSLatitudeRef=S", "-GPSLongitude=70.25", "-GPSLongitudeRef=W", "-IPTC:Urgency=5",
+            "-EXIF:DateTimeOriginal=2020:01:02 03:04:05", a.toLocalFile() });
+        const auto tags = [](const QUrl& url) {
+            auto lines =
+                exiftool({ "-G1", "-a", "-s", "-n", "-XMP:all", "-IPTC:all", "-EXIF:all", "--XMPToolkit",
+                             "--CodedCharacterSet", "--EnvelopeRecordVersion", "--GPSVersionID", url.toLocalFile() })
+                    .split('\n');
+            std::sort(lines.begin(), lines.end());  // the order inside a file may change
+            return lines;
+        };
+        const auto beforeA = tags(a);
+        const auto beforeB = tags(b);
+
+        const auto service = realService();
+        const EditPlan plan{ .scalars = { { "title", QStringLiteral("東京") }, { "coords", "1, 2" }, { "urgency", "" },
+                                 { "date", "2024-05-06" } },
+            .lists = { { "keywords", { QStringLiteral("新") } } },
+            .customs = { { "mood", "calm" } } };
+        const QList<QUrl> all{ a, b, c };
+        JournalEntry entry = service.journalEntry(plan, all);
+        QCOMPARE(entry.files.size(), 3);
+        service.write(plan, all, {});
+        for (auto& file : entry.files)
+            file.after = *FileStamp::of(file.path);
+        QVERIFY(tags(a) != beforeA);
+
+        PhotoFolder state;
+        const QString journal = state.path(QStringLiteral("new/journal.json"));
+        QVERIFY(SaveJournal::store(journal, { entry }));
+        const auto loaded = SaveJournal::load(journal);
+        QCOMPARE(loaded, QList<JournalEntry>{ entry });
+
+        writeFile(c.toLocalFile(), jpegBytes(9, 9));  // somebody else was there
+        const auto outcome = service.undo(loaded.constFirst());
+        QCOMPARE(outcome.restored.size(), 2);
+        QCOMPARE(outcome.changedSince, QList<QUrl>{ c });
+        QVERIFY(outcome.failed.isEmpty());
+        QCOMPARE(tags(a), beforeA);
+        QCOMPARE(tags(b), beforeB);
+        QCOMPARE(readFile(c.toLocalFile()), jpegBytes(9, 9));
+    }
+
+    void journalKeepsTheNewestAndFollows()
+    {
+        PhotoFolder folder;
+        const QString path = folder.path(QStringLiteral("journal.json"));
+        const QString photo = folder.add(QStringLiteral("a.jpg")).toLocalFile();
+        QList<JournalEntry> entries;
+        for (int i = 0; i < SaveJournal::limit + 5; ++i)
+            entries.append({ .savedAt = QDateTime::fromMSecsSinceEpoch(i, Qt::UTC),
+                .writtenTags = { QString::number(i) },
+                .files = { { .path = photo, .before = { i, i }, .after = { i + 1, i + 1 } } } });
+        QVERIFY(SaveJournal::store(path, entries));
+        entries = SaveJournal::load(path);
+        QCOMPARE(entries.size(), SaveJournal::limit);
+        QCOMPARE(entries.constLast().writtenTags, QStringList(QString::number(SaveJournal::limit + 4)));
+
+        SaveJournal::removeUndone(entries);  // the file now stands as the save before left it
+        QCOMPARE(entries.constLast().files[0].after, FileStamp::of(photo).value());
+        SaveJournal::rename(entries, photo, QStringLiteral("/elsewhere.jpg"));
+        QCOMPARE(entries.constFirst().files[0].path, QStringLiteral("/elsewhere.jpg"));
+
+        writeFile(path, "{ half a journal");
+        QVERIFY(SaveJournal::load(path).isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_SaveSafety)
+#include "tst_SaveSafety.moc"
