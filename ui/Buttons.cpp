@@ -148,7 +148,7 @@ QBButton::QBButton(const QString& title, QBButtonKind kind, QWidget* parent)
         setFont(sansFont(13, QFont::Medium));
         updateGeometry();
     });
-    installFocusRing(this, RingShape::button, 7);
+    installFocusRing(this, { RingShape::button, 7, {}, {} });
 }
 
 void QBButton::setKind(QBButtonKind kind)
@@ -189,7 +189,7 @@ QBIconButton::QBIconButton(const QString& icon, const QString& name, QWidget* pa
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setName(name);
     onRestyle(this, [this] { updateGeometry(); });
-    installFocusRing(this, RingShape::tight, 7);
+    installFocusRing(this, { RingShape::tight, 7, {}, {} });
 }
 
 void QBIconButton::setIconName(const QString& icon)
@@ -226,6 +226,12 @@ void QBIconButton::setQuiet(bool on)
     update();
 }
 
+void QBIconButton::setAmber(bool on)
+{
+    m_amber = on;
+    update();
+}
+
 QSize QBIconButton::sizeHint() const
 {
     return { px(m_buttonSize.width()), px(m_buttonSize.height()) };
@@ -236,8 +242,9 @@ void QBIconButton::paintEvent(QPaintEvent*)
     const Theme& theme = Theme::of(this);
     const QColor rest = m_highlighted ? theme.derived.hover : QColor(Qt::transparent);
     const QColor ground = stateColor(*fade(), rest, theme.derived.hover, theme.derived.pressed);
-    const QColor quiet = m_quiet ? theme.muted : theme.derived.label;
-    const QColor ink = m_highlighted ? theme.text : stateColor(*fade(), quiet, theme.text, theme.text);
+    const QColor plain = m_quiet ? theme.muted : theme.derived.label;
+    const QColor resting = m_amber ? theme.amber : plain;
+    const QColor ink = m_highlighted ? theme.text : stateColor(*fade(), resting, theme.text, theme.text);
     QPainter painter(this);
     painter.setOpacity(opacity(.38));
     paintBox(painter, rect(), pxF(m_radius), ground, Qt::NoPen);
@@ -252,7 +259,7 @@ QBTextButton::QBTextButton(const QString& title, QWidget* parent)
         setFont(sansFont(12));
         updateGeometry();
     });
-    installFocusRing(this, RingShape::tight, 6);
+    installFocusRing(this, { RingShape::tight, 6, {}, {} });
 }
 
 void QBTextButton::setKeyHint(const QString& keys)
@@ -307,7 +314,7 @@ TokenChip::TokenChip(const QString& title, QWidget* parent)
         setFont(sansFont(12));
         updateGeometry();
     });
-    installFocusRing(this, RingShape::tight, 13);
+    installFocusRing(this, { RingShape::tight, 13, {}, {} });
 }
 
 QSize TokenChip::sizeHint() const

@@ -84,6 +84,8 @@ public:
     void setHighlighted(bool on);
     /// Drawn in `muted` at rest instead of `label`: small crosses inside other things.
     void setQuiet(bool on);
+    /// Drawn in amber at rest: the cross of an amber chip.
+    void setAmber(bool on);
     QSize sizeHint() const override;
 
 protected:
@@ -97,6 +99,7 @@ private:
     qreal m_radius = 7;
     bool m_highlighted = false;
     bool m_quiet = false;
+    bool m_amber = false;
 };
 
 /// A flat text button in 12-point type, with an optional key ("Ctrl+A") after its title; 26 points high.

@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QFocusEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QVariantAnimation>
 
 namespace Quorbel {
@@ -36,12 +37,10 @@ bool cameByKeyboard(Qt::FocusReason reason)
 /// The ring itself, and the watch over the control and everything between it and the host.
 class FocusRing final : public QWidget {
 public:
-    FocusRing(QWidget* control, QWidget* host, RingShape shape, qreal radius, std::function<bool()> amber)
+    FocusRing(QWidget* control, QWidget* host, const FocusRingOptions& options)
         : QWidget(host)
         , m_control(control)
-        , m_shape(shape)
-        , m_radius(radius)
-        , m_amber(std::move(amber))
+        , m_options(options)
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setFocusPolicy(Qt::NoFocus);
@@ -82,12 +81,12 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setOpacity(m_opacity);
-        const bool amber = m_amber && m_amber();
-        if (m_shape == RingShape::field) {
+        const bool amber = m_options.amber && m_options.amber();
+        if (m_options.shape == RingShape::field) {
             stroke(painter, 0, 2, amber ? theme.derived.ringAmber : theme.derived.ring);
             return;
         }
-        const qreal gap = m_shape == RingShape::button ? 1.5 : 0;
+        const qreal gap = m_options.shape == RingShape::button ? 1.5 : 0;
         stroke(painter, gap, 2, theme.focus);
         stroke(painter, gap, .75, theme.derived.focusStrong);
     }
@@ -99,8 +98,9 @@ private:
     {
         if (!m_control || !parentWidget())
             return;
-        const QPoint topLeft = m_control->mapTo(parentWidget(), QPoint(0, 0));
-        setGeometry(QRect(topLeft, m_control->size()).adjusted(-margin, -margin, margin, margin));
+        const QRect box = m_options.box ? m_options.box().toAlignedRect() : m_control->rect();
+        const QPoint topLeft = m_control->mapTo(parentWidget(), box.topLeft());
+        setGeometry(QRect(topLeft, box.size()).adjusted(-margin, -margin, margin, margin));
         setVisible(m_control->isVisibleTo(parentWidget()));
         raise();
         update();
@@ -113,7 +113,7 @@ private:
         const QRectF rect = QRectF(this->rect()).adjusted(margin, margin, -margin, -margin);
         painter.setPen(QPen(color, width));
         painter.setBrush(Qt::NoBrush);
-        const qreal radius = pxF(m_radius) + outset;
+        const qreal radius = pxF(m_options.radius) + outset;
         painter.drawRoundedRect(rect.adjusted(-outset, -outset, outset, outset), radius, radius);
     }
 
@@ -133,21 +133,17 @@ private:
     }
 
     QPointer<QWidget> m_control;
-    RingShape m_shape;
-    qreal m_radius;
-    std::function<bool()> m_amber;
+    FocusRingOptions m_options;
     qreal m_opacity = 1;
 };
 
 /// Makes and removes the ring as the focus comes and goes.
 class FocusWatch final : public QObject {
 public:
-    FocusWatch(QWidget* control, RingShape shape, qreal radius, std::function<bool()> amber)
+    FocusWatch(QWidget* control, FocusRingOptions options)
         : QObject(control)
         , m_control(control)
-        , m_shape(shape)
-        , m_radius(radius)
-        , m_amber(std::move(amber))
+        , m_options(std::move(options))
     {
         control->installEventFilter(this);
     }
@@ -159,13 +155,13 @@ protected:
     {
         if (event->type() == QEvent::FocusIn) {
             const auto reason = static_cast<QFocusEvent*>(event)->reason();
-            if (m_shape == RingShape::field || cameByKeyboard(reason))
+            if (m_options.shape == RingShape::field || cameByKeyboard(reason))
                 showRing();
         } else if (event->type() == QEvent::FocusOut) {
             // A menu that the control opened has the focus for a while, the ring stays with the control.
             if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
                 delete m_ring.data();
-        } else if (event->type() == QEvent::KeyPress && m_control->hasFocus()) {
+        } else if (event->type() == QEvent::KeyPress && static_cast<QWidget*>(watched)->hasFocus()) {
             showRing();
         }
         return QObject::eventFilter(watched, event);
@@ -176,21 +172,19 @@ private:
     {
         QWidget* host = m_ring ? nullptr : ringHost(m_control);
         if (host)
-            m_ring = new FocusRing(m_control, host, m_shape, m_radius, m_amber);
+            m_ring = new FocusRing(m_control, host, m_options);
     }
 
     QWidget* m_control;
-    RingShape m_shape;
-    qreal m_radius;
-    std::function<bool()> m_amber;
+    FocusRingOptions m_options;
     QPointer<QWidget> m_ring;
 };
 
 }  // namespace
 
-void installFocusRing(QWidget* control, RingShape shape, qreal radius, std::function<bool()> amber)
+QObject* installFocusRing(QWidget* control, FocusRingOptions options)
 {
-    new FocusWatch(control, shape, radius, std::move(amber));
+    return new FocusWatch(control, std::move(options));
 }
 
 }  // namespace Quorbel

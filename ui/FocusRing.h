@@ -2,7 +2,7 @@
 // Thread: the main thread.
 #pragma once
 
-#include <QPointer>
+#include <QRectF>
 #include <QWidget>
 
 #include <functional>
@@ -15,9 +15,16 @@ enum class RingShape {
     tight,  ///< 2 points, no gap; only for focus that came by keyboard
 };
 
-/// Gives a control its ring. `radius` is the control's own corner radius in points, `amber` (may be empty) says
-/// whether the control shows an edited value. Leave 4 points around a control, or its ring is clipped by its
-/// parent's nearest scrolling area or window.
-void installFocusRing(QWidget* control, RingShape shape, qreal radius, std::function<bool()> amber = {});
+struct FocusRingOptions {
+    RingShape shape = RingShape::button;
+    qreal radius = 7;  ///< the control's own corner radius, in points
+    std::function<bool()> amber{};  ///< whether the control shows an edited value; never when empty
+    std::function<QRectF()> box{};  ///< the part of the control that the ring goes round; all of it when empty
+};
+
+/// Gives a control its ring. Leave 4 points around a control, or its ring is clipped by its nearest scrolling area or
+/// window. What is returned belongs to the control; installed as an event filter on a widget inside the control, it
+/// shows the control's ring for that widget's focus too.
+QObject* installFocusRing(QWidget* control, FocusRingOptions options);
 
 }  // namespace Quorbel

@@ -51,6 +51,7 @@ public:
     void setKeyword(const QString& keyword, bool amber)
     {
         m_amber = amber;
+        m_cross->setAmber(amber);
         if (keyword != m_keyword) {
             m_keyword = keyword;
             setAccessibleName(keyword);
@@ -145,6 +146,8 @@ KeywordEditor::KeywordEditor(QWidget* parent)
     setFocusProxy(m_entry);
     setCursor(Qt::IBeamCursor);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_ring = installFocusRing(this, { RingShape::field, 7, [this] { return m_edited; }, {} });
+    m_entry->installEventFilter(m_ring);
     m_entry->installEventFilter(this);
     m_entry->setAccessibleName(QStringLiteral("New keyword"));
     connect(m_entry, &QLineEdit::textEdited, this, &KeywordEditor::complete);
@@ -158,6 +161,7 @@ KeywordEditor::~KeywordEditor() = default;
 void KeywordEditor::makeChip()
 {
     auto* chip = new KeywordChip(this);
+    chip->installEventFilter(m_ring);
     chip->installEventFilter(this);
     connect(chip, &KeywordChip::crossed, this, [this, chip] { removeChip(int(m_chipWidgets.indexOf(chip))); });
     m_flow->insertWidget(int(m_chipWidgets.size()), chip);

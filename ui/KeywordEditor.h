@@ -71,6 +71,7 @@ private:
     KeywordEntry* m_entry;
     SuggestionList* m_suggestions;
     HoverFade* m_fade;
+    QObject* m_ring = nullptr;
     Completions m_completions;
     bool m_amber = false;
     bool m_edited = false;

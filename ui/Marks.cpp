@@ -27,7 +27,7 @@ QBCheckbox::QBCheckbox(const QString& title, QWidget* parent)
         setFont(sansFont(13));
         updateGeometry();
     });
-    installFocusRing(this, RingShape::button, 4.5);
+    installFocusRing(this, { RingShape::button, 4.5, {}, [this] { return box(); } });
 }
 
 void QBCheckbox::setAmber(bool amber)
@@ -51,11 +51,17 @@ QSize QBCheckbox::sizeHint() const
     return { side + px(8) + fontMetrics().horizontalAdvance(text()), qMax(side, px(18)) };
 }
 
+QRectF QBCheckbox::box() const
+{
+    const qreal side = pxF(m_side);
+    return { 0, (height() - side) / 2, side, side };
+}
+
 void QBCheckbox::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
     const qreal side = pxF(m_side);
-    const QRectF box(0, (height() - side) / 2, side, side);
+    const QRectF box = this->box();
     const QColor on = m_amber ? theme.amber : theme.accent;
     const QColor ground = isChecked() ? on : mixed(theme.field, theme.derived.secondaryHover, fade()->hover());
     const QColor line = isChecked() ? on : mixed(theme.muted, theme.derived.label, fade()->hover());
@@ -77,7 +83,7 @@ QBSwitch::QBSwitch(QWidget* parent)
     setCheckable(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     onRestyle(this, [this] { updateGeometry(); });
-    installFocusRing(this, RingShape::button, 10);
+    installFocusRing(this, { RingShape::button, 10, {}, {} });
 }
 
 QSize QBSwitch::sizeHint() const
@@ -142,7 +148,7 @@ SegmentedPicker::SegmentedPicker(const QStringList& titles, QWidget* parent)
         setFont(sansFont(13));
         updateGeometry();
     });
-    installFocusRing(this, RingShape::tight, 7);
+    installFocusRing(this, { RingShape::tight, 7, {}, {} });
 }
 
 void SegmentedPicker::setCurrentIndex(int index)

@@ -29,6 +29,8 @@ protected:
     void nextCheckState() override { }
 
 private:
+    QRectF box() const;
+
     bool m_amber = false;
     qreal m_side = 16;
 };

@@ -23,7 +23,7 @@ OffsetPicker::OffsetPicker(const QString& blank, QWidget* parent)
         setFont(sansFont(13));
         updateGeometry();
     });
-    installFocusRing(this, RingShape::field, 7, [this] { return m_edited; });
+    installFocusRing(this, { RingShape::field, 7, [this] { return m_edited; }, {} });
     connect(this, &QAbstractButton::clicked, this, &OffsetPicker::openMenu);
 }
 

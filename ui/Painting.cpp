@@ -16,20 +16,20 @@ void paintBox(QPainter& painter, const QRectF& rect, qreal radius, const QColor&
 
 void paintShadow(QPainter& painter, const QRectF& box, qreal radius, const QColor& shadow)
 {
-    // A blur of 28 pixels, 8 lower than the box, as a stack of outlines that fade towards the outside.
-    constexpr int steps = 14;
-    constexpr qreal reach = 18;
-    constexpr qreal drop = 6;
+    // A blur as a stack of outlines from far outside to as far inside: half of the colour at the edge, none at `reach`.
+    const auto blur = [&](qreal reach, qreal drop, qreal alpha) {
+        constexpr int steps = 16;
+        painter.setBrush(withAlpha(shadow, alpha / steps));
+        for (int i = 0; i < steps; ++i) {
+            const qreal grow = reach * (1 - 2 * (i + .5) / steps);
+            const qreal corner = qMax(1.0, radius + grow);
+            painter.drawRoundedRect(box.adjusted(-grow, -grow + drop, grow, grow + drop), corner, corner);
+        }
+    };
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    QColor layer = shadow;
-    layer.setAlphaF(shadow.alphaF() / steps);
-    painter.setBrush(layer);
-    for (int i = 0; i < steps; ++i) {
-        const qreal grow = reach * (1 - qreal(i) / steps) - reach / 3;
-        painter.drawRoundedRect(
-            box.adjusted(-grow, -grow + drop, grow, grow + drop), radius + qMax(0.0, grow), radius + qMax(0.0, grow));
-    }
+    blur(18, 7, shadow.alphaF());
+    blur(2, 1, shadow.alphaF() * .6);
 }
 
 void paintFieldFrame(QPainter& painter, const QRectF& rect, const FieldState& state, const Theme& theme)

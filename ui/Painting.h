@@ -12,7 +12,7 @@ struct Theme;
 
 /// A filled rounded rectangle; its border, if any, lies inside `rect`.
 void paintBox(QPainter& painter, const QRectF& rect, qreal radius, const QColor& fill, const QPen& border);
-/// A soft shadow below a rounded rectangle, within the 24 pixels around it. For menus, notices and dropdowns.
+/// A soft shadow below a rounded rectangle, within the 25 pixels around it. For menus, notices and dropdowns.
 void paintShadow(QPainter& painter, const QRectF& box, qreal radius, const QColor& shadow);
 
 struct FieldState {

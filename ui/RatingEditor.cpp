@@ -26,7 +26,7 @@ RatingEditor::RatingEditor(QWidget* parent)
     setAccessibleName(QStringLiteral("Rating"));
     setToolTip(QStringLiteral("0 to 5 stars; click the current rating to clear it"));
     onRestyle(this, [this] { updateGeometry(); });
-    installFocusRing(this, RingShape::tight, 6);
+    installFocusRing(this, { RingShape::tight, 6, {}, {} });
 }
 
 void RatingEditor::setValue(const QString& value)

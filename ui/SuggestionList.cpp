@@ -14,7 +14,7 @@ namespace Quorbel {
 
 namespace {
 
-constexpr int shadowMargin = 20;  // device-independent pixels around the box
+constexpr int shadowMargin = 25;  // device-independent pixels around the box
 constexpr qreal widest = 320;  // points
 constexpr qreal padding = 5;  // points, between the border and the rows
 constexpr qreal tallRow = 44;  // points, with a subtitle

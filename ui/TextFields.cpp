@@ -79,7 +79,7 @@ QBTextField::QBTextField(QWidget* parent)
     setFrame(false);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     onRestyle(this, [this] { restyle(); });
-    installFocusRing(this, RingShape::field, 7, [this] { return m_edited; });
+    m_ring = installFocusRing(this, { RingShape::field, 7, [this] { return m_edited; }, {} });
 }
 
 void QBTextField::restyle()
@@ -129,6 +129,10 @@ void QBTextField::setLeadingIcon(const QString& icon)
 void QBTextField::setBare(bool bare)
 {
     m_bare = bare;
+    // The frame around it has the ring.
+    removeEventFilter(m_ring);
+    if (!bare)
+        installEventFilter(m_ring);
     restyle();
 }
 
@@ -210,7 +214,7 @@ QBTextArea::QBTextArea(QWidget* parent)
     viewport()->setAutoFillBackground(false);
     document()->setDocumentMargin(0);
     onRestyle(this, [this] { restyle(); });
-    installFocusRing(this, RingShape::field, 7, [this] { return m_edited; });
+    installFocusRing(this, { RingShape::field, 7, [this] { return m_edited; }, {} });
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         grow();
         viewport()->update();

@@ -42,9 +42,9 @@ private:
     void restyle();
     QRect textRect() const;
 
-    QString m_placeholder;
-
     HoverFade* m_fade;
+    QObject* m_ring = nullptr;
+    QString m_placeholder;
     QString m_icon;
     bool m_edited = false;
     bool m_mono = false;
