@@ -1,0 +1,112 @@
+#include "ui/MessageSheet.h"
+
+#include "ui/Buttons.h"
+#include "ui/Icon.h"
+#include "ui/Labels.h"
+#include "ui/Metrics.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr qreal sheetWidth = 470;
+constexpr qreal padding = 24;
+constexpr qreal tileSize = 46;
+constexpr qreal tileRadius = 11;
+
+/// The square with a symbol at the left of a message.
+class Tile final : public QWidget {
+public:
+    explicit Tile(const QString& icon)
+        : m_icon(icon)
+    {
+        onRestyle(this, [this] { setFixedSize(px(tileSize), px(tileSize)); });
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const Theme& theme = Theme::of(this);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(theme.amberLine);
+        painter.setBrush(theme.amberBg);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), pxF(tileRadius), pxF(tileRadius));
+        Icon::paint(painter, rect(), m_icon, pxF(22), theme.amber);
+    }
+
+private:
+    QString m_icon;
+};
+
+}  // namespace
+
+MessageSheet::MessageSheet(const QString& icon, const QString& message, const QString& informativeText,
+    const QStringList& buttons, QWidget* parent)
+    : SheetBody(parent)
+    , m_last(buttons.size() - 1)
+{
+    setAccessibleName(message);
+    setAccessibleDescription(informativeText);
+    auto* row = new QHBoxLayout(this);
+    row->addWidget(new Tile(icon), 0, Qt::AlignTop);
+    auto* column = new QVBoxLayout;
+    auto* title = new ThemedLabel(message, TextRole::text, 15, QFont::DemiBold);
+    title->setWordWrap(true);
+    auto* text = new ThemedLabel(informativeText, TextRole::label, 13);
+    text->setWordWrap(true);
+    column->addWidget(title);
+    column->addWidget(text);
+    auto* line = new QHBoxLayout;
+    addButtons(line, buttons);
+    column->addLayout(line);
+    row->addLayout(column, 1);
+    onRestyle(this, [=, this] {
+        setFixedWidth(px(sheetWidth));
+        row->setContentsMargins(px(padding), px(padding), px(padding), px(padding));
+        row->setSpacing(px(16));
+        column->setSpacing(px(5));
+        line->setSpacing(px(8));
+        line->setContentsMargins(0, px(22 - 5), 0, 0);
+    });
+}
+
+// The default button stands at the right.
+void MessageSheet::addButtons(QHBoxLayout* line, const QStringList& buttons)
+{
+    line->addStretch();
+    for (qsizetype i = buttons.size() - 1; i >= 0; --i) {
+        auto* button = new QBButton(buttons.at(i), i == 0 ? QBButtonKind::primary : QBButtonKind::secondary);
+        connect(button, &QAbstractButton::clicked, this, [this, i] { emit answered(i); });
+        line->addWidget(button);
+    }
+}
+
+void MessageSheet::confirm()
+{
+    emit answered(0);
+}
+
+void MessageSheet::cancel()
+{
+    emit answered(m_last);
+}
+
+void presentMessage(SheetHost& host, const QString& icon, const QString& message, const QString& informativeText,
+    const QStringList& buttons, std::function<void(qsizetype)> answered)
+{
+    auto* sheet = new MessageSheet(icon, message, informativeText, buttons);
+    QObject::connect(sheet, &MessageSheet::answered, &host, [&host, sheet, answered](qsizetype button) {
+        host.dismiss(sheet);
+        if (answered)
+            answered(button);
+    });
+    host.present(sheet);
+}
+
+}  // namespace Quorbel
