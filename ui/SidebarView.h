@@ -1,0 +1,51 @@
+// The left column: how many photos are selected, the search, the sort order, the list, and long work at its foot.
+// Thread: the main thread. Shows AppModel and calls it.
+#pragma once
+
+#include <QWidget>
+
+namespace Quorbel {
+
+class AppModel;
+class ProgressFoot;
+class QBIconButton;
+class QBTextField;
+class SidebarList;
+class ThumbnailStore;
+
+class SidebarView final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(SidebarView)
+
+public:
+    /// The store may be null: rows then have empty thumbnails.
+    SidebarView(AppModel& model, ThumbnailStore* thumbs, QWidget* parent = nullptr);
+
+    SidebarList* list() const { return m_list; }
+    /// Puts the keyboard into the search field.
+    void focusSearch();
+    /// y of the hairline between the search field and the list, device-independent pixels.
+    int listTop() const;
+    /// Where the foot of long work is; empty while there is none.
+    QRect footRect() const;
+
+signals:
+    /// The foot appeared or went.
+    void footChanged();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QWidget* buildHeader();
+    QWidget* buildFind();
+    void openSortMenu();
+
+    AppModel& m_model;
+    QBTextField* m_search = nullptr;
+    QBIconButton* m_sort = nullptr;
+    SidebarList* m_list = nullptr;
+    ProgressFoot* m_foot = nullptr;
+};
+
+}  // namespace Quorbel
