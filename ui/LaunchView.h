@@ -1,0 +1,30 @@
+// What fills the window while nothing is open: a box to drop things on, and two buttons.
+// Thread: the main thread. The window handles the drops; this shows that one hovers.
+#pragma once
+
+#include <QWidget>
+
+namespace Quorbel {
+
+class AppModel;
+class DropBox;
+
+class LaunchView final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(LaunchView)
+
+public:
+    explicit LaunchView(AppModel& model, QWidget* parent = nullptr);
+
+    bool isTargeted() const;
+    /// True while a drag hovers over the window.
+    void setTargeted(bool targeted);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    DropBox* m_box;
+};
+
+}  // namespace Quorbel

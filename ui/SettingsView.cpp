@@ -1,0 +1,226 @@
+#include "ui/SettingsView.h"
+
+#include "app/AppModel.h"
+#include "ui/Labels.h"
+#include "ui/Marks.h"
+#include "ui/Metrics.h"
+#include "ui/OverlayScrollBar.h"
+#include "ui/TextFields.h"
+#include "ui/Theme.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr QSizeF windowSize{ 460, 320 };
+constexpr qreal sidePadding = 20;
+constexpr qreal groupRadius = 9;
+constexpr qreal rowHeight = 40;
+constexpr qreal fieldRowHeight = 44;
+constexpr qreal patternWidth = 216;
+
+/// A white box with rows, lines between them.
+class Group final : public QWidget {
+public:
+    Group()
+        : m_rows(new QVBoxLayout(this))
+    {
+        m_rows->setContentsMargins(0, 0, 0, 0);
+        m_rows->setSpacing(1);
+    }
+
+    /// A control with its name at the left, and a help line under both unless that is empty.
+    void addRow(const QString& name, QWidget* control, const QString& help = {})
+    {
+        auto* row = new QWidget;
+        auto* column = new QVBoxLayout(row);
+        column->setSpacing(0);
+        auto* line = new QHBoxLayout;
+        line->addWidget(new ThemedLabel(name));
+        line->addStretch();
+        line->addWidget(control);
+        column->addLayout(line);
+        control->setAccessibleName(name);
+        control->setAccessibleDescription(help);
+        ThemedLabel* note = nullptr;
+        if (!help.isEmpty()) {
+            note = new ThemedLabel(help, TextRole::label, 11.5);
+            note->setWordWrap(true);
+            column->addWidget(note);
+        }
+        const bool tall = qobject_cast<QLineEdit*>(control);
+        onRestyle(row, [=] {
+            column->setContentsMargins(px(14), tall ? px(4) : 0, px(12), note ? px(10) : 0);
+            line->setContentsMargins(0, 0, 0, 0);
+            line->setSpacing(px(16));
+            control->parentWidget()->setMinimumHeight(px(tall ? fieldRowHeight : rowHeight));
+            if (note)
+                note->setContentsMargins(0, px(tall ? 2 : -2), px(tall ? 0 : 52), 0);
+        });
+        m_rows->addWidget(row);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const Theme& theme = Theme::of(this);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(theme.line);
+        painter.setBrush(theme.field);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), pxF(groupRadius), pxF(groupRadius));
+        for (int i = 1; i < m_rows->count(); ++i)
+            painter.fillRect(1, m_rows->itemAt(i)->geometry().top() - 1, width() - 2, 1, theme.line);
+    }
+
+private:
+    QVBoxLayout* m_rows;
+};
+
+Group* addGroup(QVBoxLayout* column, const QString& title)
+{
+    auto* heading = new ThemedLabel(title, TextRole::label, 12, QFont::DemiBold);
+    onRestyle(heading,
+        [heading, first = column->isEmpty()] { heading->setContentsMargins(px(2), first ? 0 : px(14), 0, px(6)); });
+    column->addWidget(heading);
+    auto* group = new Group;
+    group->setAccessibleName(title);
+    column->addWidget(group);
+    return group;
+}
+
+int indexOf(std::optional<ColorScheme> scheme)
+{
+    return !scheme ? 0 : *scheme == ColorScheme::light ? 1 : 2;
+}
+
+}  // namespace
+
+SettingsView::SettingsView(AppModel& model, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+{
+    setWindowTitle(QStringLiteral("Settings"));
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    OverlayScrollBar::attach(area);
+    auto* page = new QWidget;
+    auto* column = new QVBoxLayout(page);
+    column->setSpacing(0);
+    addDisplay(column);
+    addSaving(column);
+    addRenaming(column);
+    column->addStretch();
+    area->setWidget(page);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(area);
+    onRestyle(this, [this, column] {
+        column->setContentsMargins(px(sidePadding), px(14), px(sidePadding), px(14));
+        setMinimumSize(sizeHint());
+    });
+}
+
+QSize SettingsView::sizeHint() const
+{
+    return { px(windowSize.width()), px(windowSize.height()) };
+}
+
+void SettingsView::addDisplay(QVBoxLayout* column)
+{
+    Group* group = addGroup(column, QStringLiteral("Display"));
+    group->addRow(QStringLiteral("Appearance"), appearancePicker());
+    group->addRow(QStringLiteral("Show namespace details"),
+        toggle(QStringLiteral("Show namespace details"), &AppModel::showNamespace, &AppModel::setShowNamespace,
+            &AppModel::showNamespaceChanged),
+        QStringLiteral("Adds the source tags (EXIF / IPTC / XMP) under each field."));
+}
+
+void SettingsView::addSaving(QVBoxLayout* column)
+{
+    Group* group = addGroup(column, QStringLiteral("Saving"));
+    group->addRow(QStringLiteral("Back up original before writing"),
+        toggle(QStringLiteral("Back up original before writing"), &AppModel::backupOriginals,
+            &AppModel::setBackupOriginals, &AppModel::backupOriginalsChanged));
+    group->addRow(QStringLiteral("Confirm before mass-applying to multiple files"),
+        toggle(QStringLiteral("Confirm before mass-applying to multiple files"), &AppModel::confirmMassEdit,
+            &AppModel::setConfirmMassEdit, &AppModel::confirmMassEditChanged));
+    group->addRow(QStringLiteral("Also write a sidecar .xmp file"),
+        toggle(QStringLiteral("Also write a sidecar .xmp file"), &AppModel::writeSidecar, &AppModel::setWriteSidecar,
+            &AppModel::writeSidecarChanged),
+        QStringLiteral("Mirrors XMP metadata into <name>.xmp next to each image."));
+}
+
+void SettingsView::addRenaming(QVBoxLayout* column)
+{
+    Group* group = addGroup(column, QStringLiteral("Renaming"));
+    group->addRow(QStringLiteral("Filename pattern"), patternField(),
+        QStringLiteral("Tokens: %Date% %Time% %Title% %Creator% %Place% %Original%. The extension is kept "
+                       "automatically."));
+    group->addRow(QStringLiteral("Strip special characters"),
+        toggle(QStringLiteral("Strip special characters"), &AppModel::stripSpecialChars,
+            &AppModel::setStripSpecialChars, &AppModel::stripSpecialCharsChanged),
+        QStringLiteral("Keeps only letters and numbers (accents become plain, e.g. Café → Cafe). Off leaves "
+                       "characters like @ and ' in place."));
+}
+
+QWidget* SettingsView::appearancePicker()
+{
+    auto* picker = new SegmentedPicker({ QStringLiteral("System"), QStringLiteral("Light"), QStringLiteral("Dark") });
+    const auto show = [this, picker] { picker->setCurrentIndex(indexOf(m_model.colorOverride())); };
+    connect(&m_model, &AppModel::colorOverrideChanged, picker, show);
+    show();
+    connect(picker, &SegmentedPicker::picked, &m_model, [this](int index) {
+        static const std::optional<ColorScheme> schemes[]{ std::nullopt, ColorScheme::light, ColorScheme::dark };
+        m_model.setColorOverride(schemes[index]);
+    });
+    return picker;
+}
+
+QWidget* SettingsView::patternField()
+{
+    auto* field = new QBTextField;
+    field->setMono(true);
+    field->setBoundText(m_model.renamePattern());
+    onRestyle(field, [field] { field->setFixedWidth(px(patternWidth)); });
+    connect(field, &QLineEdit::textEdited, &m_model, &AppModel::setRenamePattern);
+    connect(&m_model, &AppModel::renamePatternChanged, field,
+        [this, field] { field->setBoundText(m_model.renamePattern()); });
+    return field;
+}
+
+QWidget* SettingsView::toggle(
+    const QString& name, bool (AppModel::*get)() const, void (AppModel::*set)(bool), void (AppModel::*changed)())
+{
+    auto* toggle = new QBSwitch;
+    toggle->setAccessibleName(name);
+    toggle->setChecked((m_model.*get)());
+    connect(toggle, &QAbstractButton::toggled, &m_model, set);
+    connect(&m_model, changed, toggle, [this, toggle, get] { toggle->setChecked((m_model.*get)()); });
+    return toggle;
+}
+
+void SettingsView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape || event->matches(QKeySequence::Close))
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void SettingsView::paintEvent(QPaintEvent*)
+{
+    QPainter(this).fillRect(rect(), Theme::of(this).panel);
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,37 @@
+// The settings window: every preference of the model, in three groups. Thread: the main thread.
+// Each control shows its preference and writes it at once; there is nothing to apply.
+#pragma once
+
+#include <QWidget>
+
+class QVBoxLayout;
+
+namespace Quorbel {
+
+class AppModel;
+
+class SettingsView final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(SettingsView)
+
+public:
+    explicit SettingsView(AppModel& model, QWidget* parent = nullptr);
+    QSize sizeHint() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void addDisplay(QVBoxLayout* column);
+    void addSaving(QVBoxLayout* column);
+    void addRenaming(QVBoxLayout* column);
+    QWidget* appearancePicker();
+    QWidget* patternField();
+    QWidget* toggle(
+        const QString& name, bool (AppModel::*get)() const, void (AppModel::*set)(bool), void (AppModel::*changed)());
+
+    AppModel& m_model;
+};
+
+}  // namespace Quorbel
