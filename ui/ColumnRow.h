@@ -1,0 +1,61 @@
+// The three columns of the window: sidebar, inspector and, where there is room, the preview.
+// Thread: the main thread. Knows nothing of what the columns show; it gives them their widths.
+#pragma once
+
+#include <QWidget>
+
+class QVariantAnimation;
+
+namespace Quorbel {
+
+class ResizeHandle;
+
+namespace Columns {
+constexpr double minSidebar = 200;
+constexpr double maxSidebar = 420;
+constexpr double defaultSidebar = 288;
+constexpr int previewThreshold = 1100;  ///< row width from which the preview has room
+constexpr int minInspector = 430;
+
+/// The inspector's width beside a shown preview, for a row `width` wide.
+int inspectorWidth(int width, int sidebar, int handle);
+}  // namespace Columns
+
+class ColumnRow final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ColumnRow)
+
+public:
+    /// Takes the three columns over. `sidebarWidth` is brought into its limits.
+    ColumnRow(QWidget* sidebar, QWidget* inspector, QWidget* preview, double sidebarWidth, QWidget* parent = nullptr);
+
+    bool previewWanted() const { return m_wanted; }
+    void setPreviewWanted(bool wanted);
+    /// Wanted, and the row is wide enough.
+    bool previewShown() const;
+    double sidebarWidth() const;
+
+signals:
+    void previewShownChanged(bool shown);
+    /// The user let go of the handle.
+    void sidebarWidthSettled(double width);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void arrange();
+    void slidePreview();
+
+    QWidget* m_sidebar;
+    ResizeHandle* m_handle;
+    QWidget* m_inspector;
+    QWidget* m_preview;
+    QVariantAnimation* m_slide;
+    bool m_wanted = true;
+    bool m_wasShown = false;
+    qreal m_reveal = 0;  ///< 0 the preview is away … 1 it is there, while it slides
+};
+
+}  // namespace Quorbel

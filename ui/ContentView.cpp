@@ -1,0 +1,215 @@
+#include "ui/ContentView.h"
+
+#include "app/AppModel.h"
+#include "core/Product.h"
+#include "ui/ColumnRow.h"
+#include "ui/ErrorBanner.h"
+#include "ui/FileDrop.h"
+#include "ui/LaunchView.h"
+#include "ui/Metrics.h"
+#include "ui/PreviewColumnView.h"
+#include "ui/Sheet.h"
+#include "ui/SidebarView.h"
+#include "ui/SystemScheme.h"
+#include "ui/Theme.h"
+#include "ui/WindowBar.h"
+#include "ui/WindowGrowth.h"
+
+#include <QPainter>
+#include <QPropertyAnimation>
+#include <QScreen>
+
+namespace Quorbel {
+
+namespace {
+
+QString sidebarWidthKey()
+{
+    return QStringLiteral("sidebarWidth");
+}
+
+QString previewEnabledKey()
+{
+    return QStringLiteral("previewEnabled");
+}
+
+/// Pixels beyond the threshold to which a window is grown for the preview, so that the column really appears.
+constexpr int growthBeyondThreshold = 80;
+// Points: from the banner to the footers, and to the lower edge of the launch view.
+constexpr qreal bannerOverFooter = 54 + 16;
+constexpr qreal bannerOverEdge = 20;
+
+/// A stored number, or the default where there is none.
+double storedWidth(const QSettings& preferences)
+{
+    bool isNumber = false;
+    const double width = preferences.value(sidebarWidthKey()).toDouble(&isNumber);
+    return isNumber ? width : Columns::defaultSidebar;
+}
+
+}  // namespace
+
+ContentView::ContentView(
+    AppModel& model, ThumbnailStore* thumbs, SystemScheme& systemScheme, QWidget* window, ContentFactories factories)
+    : QWidget(window)
+    , m_model(model)
+    , m_systemScheme(systemScheme)
+    , m_window(window)
+    , m_factories(std::move(factories))
+    , m_bar(new WindowBar(model, this))
+    , m_launch(new LaunchView(model, this))
+    , m_banner(new ErrorBanner(model, this))
+    , m_sheets(new SheetHost(window))
+    , m_drop(new FileDrop(window))
+{
+    applyTheme();
+    buildColumns(thumbs);
+    m_banner->raise();
+    connectModel();
+    connectSheets();
+    connect(m_bar, &WindowBar::previewToggled, this, &ContentView::togglePreview);
+    connect(m_drop, &FileDrop::targetedChanged, m_launch, &LaunchView::setTargeted);
+    connect(m_drop, &FileDrop::dropped, &model, &AppModel::requestLoad);
+    showRecords();
+    showTitle();
+}
+
+ContentView::~ContentView() = default;
+
+void ContentView::buildColumns(ThumbnailStore* thumbs)
+{
+    m_sidebar = new SidebarView(m_model, thumbs);
+    m_inspector = m_factories.inspector(this);
+    m_columns = new ColumnRow(
+        m_sidebar, m_inspector, new PreviewColumnView(m_model, thumbs), storedWidth(m_model.preferences()), this);
+    m_columns->setPreviewWanted(m_model.preferences().value(previewEnabledKey(), true).toBool());
+    connect(m_columns, &ColumnRow::sidebarWidthSettled, this,
+        [this](double width) { m_model.preferences().setValue(sidebarWidthKey(), width); });
+    connect(m_columns, &ColumnRow::previewShownChanged, m_bar, &WindowBar::setPreviewShown);
+    connect(m_columns, &ColumnRow::previewShownChanged, this, &ContentView::previewShownChanged);
+}
+
+void ContentView::connectModel()
+{
+    connect(&m_model, &AppModel::recordsChanged, this, &ContentView::showRecords);
+    for (const auto change : { &AppModel::folderNameChanged, &AppModel::recordsChanged, &AppModel::selectionChanged })
+        connect(&m_model, change, this, &ContentView::showTitle);
+    connect(&m_model, &AppModel::colorOverrideChanged, this, &ContentView::applyTheme);
+    connect(&m_systemScheme, &SystemScheme::schemeChanged, this, &ContentView::applyTheme);
+    connect(m_banner, &ErrorBanner::sizeChanged, this, &ContentView::placeBanner);
+}
+
+void ContentView::connectSheets()
+{
+    connect(m_sheets, &SheetHost::openChanged, this, [this](bool open) {
+        m_drop->setEnabled(!open);
+        m_bar->setEnabledMenus(!open);
+    });
+    const auto add = [this] { followFlag(m_model.addOpen(), m_addSheet, m_factories.addField); };
+    const auto save = [this] { followFlag(m_model.saveOpen(), m_saveSheet, m_factories.save); };
+    const auto rename = [this] { followFlag(m_model.renameOpen(), m_renameSheet, m_factories.rename); };
+    connect(&m_model, &AppModel::addOpenChanged, this, add);
+    connect(&m_model, &AppModel::saveOpenChanged, this, save);
+    connect(&m_model, &AppModel::renameOpenChanged, this, rename);
+    add();
+    save();
+    rename();
+}
+
+void ContentView::followFlag(bool open, SheetBody*& sheet, const std::function<SheetBody*()>& make)
+{
+    if (open && !sheet && make) {
+        sheet = make();
+        m_sheets->present(sheet);
+    } else if (!open && sheet) {
+        m_sheets->dismiss(sheet);
+        sheet = nullptr;
+    }
+}
+
+bool ContentView::previewShown() const
+{
+    return m_columns->isVisible() && m_columns->previewShown();
+}
+
+void ContentView::togglePreview()
+{
+    const bool wanted = !(m_columns->previewWanted() && m_window->width() >= Columns::previewThreshold);
+    m_model.preferences().setValue(previewEnabledKey(), wanted);
+    m_columns->setPreviewWanted(wanted);
+    if (wanted && m_window->width() < Columns::previewThreshold)
+        growWindow(Columns::previewThreshold + growthBeyondThreshold);
+}
+
+void ContentView::growWindow(int target)
+{
+    const QScreen* screen = m_window->screen();
+    if (!screen || m_window->isMaximized() || m_window->isFullScreen())
+        return;
+    // What the window manager draws around the window has to be on the screen too.
+    const QMargins frame(m_window->geometry().left() - m_window->frameGeometry().left(), 0,
+        m_window->frameGeometry().right() - m_window->geometry().right(), 0);
+    const QRect grown = widened(m_window->geometry(), screen->availableGeometry().marginsRemoved(frame), target);
+    if (grown == m_window->geometry())
+        return;
+    if (!motionEnabled(m_window)) {
+        m_window->setGeometry(grown);
+        return;
+    }
+    auto* animation = new QPropertyAnimation(m_window, "geometry", m_window);
+    animation->setDuration(Duration::column);
+    animation->setEasingCurve(QEasingCurve::OutCubic);
+    animation->setEndValue(grown);
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void ContentView::focusSearch()
+{
+    if (m_columns->isVisible())
+        m_sidebar->focusSearch();
+}
+
+void ContentView::showRecords()
+{
+    const bool any = !m_model.records().isEmpty();
+    m_launch->setVisible(!any);
+    m_columns->setVisible(any);
+    m_bar->setPreviewShown(any && m_columns->previewShown());
+    placeBanner();
+}
+
+void ContentView::showTitle()
+{
+    m_window->setWindowTitle(m_model.folderName().isEmpty() ? Product::name() : m_model.folderName());
+}
+
+void ContentView::applyTheme()
+{
+    const ColorScheme scheme = m_model.colorOverride().value_or(m_systemScheme.scheme());
+    setTheme(m_window, scheme == ColorScheme::dark ? Theme::dark() : Theme::light());
+}
+
+void ContentView::placeBanner()
+{
+    const bool columns = m_columns && !m_columns->isHidden();
+    m_banner->place(height() - px(columns ? bannerOverFooter : bannerOverEdge));
+    if (m_factories.setInspectorInset) {
+        const QRect notice = m_banner->noticeRect();
+        m_factories.setInspectorInset(m_inspector, notice.isEmpty() ? 0 : notice.height() + px(2 * 16));
+    }
+}
+
+void ContentView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    m_launch->setGeometry(rect());
+    m_columns->setGeometry(rect());
+    placeBanner();
+}
+
+void ContentView::paintEvent(QPaintEvent*)
+{
+    QPainter(this).fillRect(rect(), Theme::of(this).bg);
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,89 @@
+// What the main window shows: the launch view or the three columns, the banner over them, sheets over all.
+// Thread: the main thread. Shows AppModel and calls it; keeps two settings of its own, "sidebarWidth" and
+// "previewEnabled", in the same store.
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+namespace Quorbel {
+
+class AppModel;
+class ColumnRow;
+class ErrorBanner;
+class FileDrop;
+class LaunchView;
+class SheetBody;
+class SheetHost;
+class SidebarView;
+class SystemScheme;
+class ThumbnailStore;
+class WindowBar;
+
+/// Makes the views that the window holds but does not know the inside of. Each is handed over with ownership.
+struct ContentFactories {
+    std::function<QWidget*(QWidget* parent)> inspector{};
+    std::function<SheetBody*()> addField{};
+    std::function<SheetBody*()> save{};
+    std::function<SheetBody*()> rename{};
+    /// Keeps this many pixels at the inspector's lower end free, so that its last rows scroll clear of the banner.
+    std::function<void(QWidget* inspector, int pixels)> setInspectorInset{};
+};
+
+class ContentView final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ContentView)
+
+public:
+    static constexpr QSize minimumWindow{ 900, 600 };
+
+    /// `window` is the top-level widget that this view is about to be placed in: it takes the drops, the sheets and
+    /// the theme. The store may be null. Everything passed in must outlive this.
+    ContentView(AppModel& model, ThumbnailStore* thumbs, SystemScheme& systemScheme, QWidget* window,
+        ContentFactories factories);
+    ~ContentView() override;
+
+    WindowBar* bar() const { return m_bar; }
+    SheetHost* sheets() const { return m_sheets; }
+    bool previewShown() const;
+    /// Hides the preview column; or shows it, growing the window where it is too narrow for it.
+    void togglePreview();
+    void focusSearch();
+
+signals:
+    void previewShownChanged(bool shown);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void buildColumns(ThumbnailStore* thumbs);
+    void connectModel();
+    void connectSheets();
+    void followFlag(bool open, SheetBody*& sheet, const std::function<SheetBody*()>& make);
+    void showRecords();
+    void showTitle();
+    void applyTheme();
+    void placeBanner();
+    void growWindow(int target);
+
+    AppModel& m_model;
+    SystemScheme& m_systemScheme;
+    QWidget* m_window;
+    ContentFactories m_factories;
+    WindowBar* m_bar;
+    LaunchView* m_launch;
+    SidebarView* m_sidebar = nullptr;
+    QWidget* m_inspector = nullptr;
+    ColumnRow* m_columns = nullptr;
+    ErrorBanner* m_banner;
+    SheetHost* m_sheets;
+    FileDrop* m_drop;
+    SheetBody* m_addSheet = nullptr;
+    SheetBody* m_saveSheet = nullptr;
+    SheetBody* m_renameSheet = nullptr;
+};
+
+}  // namespace Quorbel

@@ -1,0 +1,138 @@
+#include "ui/ErrorBanner.h"
+
+#include "app/AppModel.h"
+#include "ui/Buttons.h"
+#include "ui/Icon.h"
+#include "ui/Metrics.h"
+#include "ui/Shadow.h"
+#include "ui/Theme.h"
+
+#include <QAccessible>
+#include <QGraphicsOpacityEffect>
+#include <QPainter>
+#include <QVariantAnimation>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr qreal widest = 560;
+constexpr qreal radius = 12;
+constexpr qreal verticalPadding = 13;
+constexpr qreal leftPadding = 16;
+constexpr qreal rightPadding = 12;
+constexpr qreal iconSize = 18;
+constexpr qreal gap = 10;
+constexpr qreal crossSize = 22;
+constexpr qreal shadowRoom = 44;  // on every side of the notice
+constexpr int mostLines = 6;
+
+constexpr int textFlags = Qt::TextWrapAnywhere | Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop;
+
+void fadeIn(QWidget* widget)
+{
+    auto* effect = new QGraphicsOpacityEffect(widget);
+    widget->setGraphicsEffect(effect);
+    auto* animation = new QVariantAnimation(widget);
+    animation->setStartValue(0.0);
+    animation->setEndValue(1.0);
+    animation->setDuration(Duration::banner);
+    QObject::connect(animation, &QVariantAnimation::valueChanged, effect,
+        [effect](const QVariant& value) { effect->setOpacity(value.toReal()); });
+    QObject::connect(animation, &QVariantAnimation::finished, widget, [widget] { widget->setGraphicsEffect(nullptr); });
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+}  // namespace
+
+ErrorBanner::ErrorBanner(AppModel& model, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_close(new QBIconButton(QStringLiteral("xmark"), QStringLiteral("Dismiss"), this))
+{
+    hide();
+    m_close->setSizes({ crossSize, crossSize }, 14, 0, 6);
+    m_close->setQuiet(true);
+    connect(m_close, &QAbstractButton::clicked, &model, [&model] { model.setErrorMessage(std::nullopt); });
+    connect(&model, &AppModel::errorMessageChanged, this, &ErrorBanner::follow);
+    follow();
+}
+
+QString ErrorBanner::message() const
+{
+    return m_model.errorMessage().value_or(QString());
+}
+
+void ErrorBanner::follow()
+{
+    const bool wanted = m_model.errorMessage().has_value();
+    setAccessibleName(message());
+    setToolTip(message());
+    if (wanted && isHidden() && motionEnabled(this) && parentWidget() && parentWidget()->isVisible())
+        fadeIn(this);
+    setVisible(wanted);
+    if (wanted) {
+        raise();
+        QAccessibleEvent event(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
+    update();
+    emit sizeChanged();
+}
+
+void ErrorBanner::place(int bottom)
+{
+    if (isHidden() || !parentWidget())
+        return;
+    const QFontMetrics metrics(sansFont(13));
+    const int width = qMin(px(widest), parentWidget()->width() - 2 * px(20));
+    const int textWidth = width - px(leftPadding + iconSize + gap + gap + crossSize + rightPadding);
+    const int textHeight = qMin(metrics.boundingRect(0, 0, textWidth, 10'000, textFlags, message()).height(),
+        mostLines * metrics.lineSpacing());
+    const int height = qMax(textHeight, px(18)) + 2 * px(verticalPadding);
+    const int room = px(shadowRoom);
+    setGeometry(
+        (parentWidget()->width() - width) / 2 - room, bottom - height - room, width + 2 * room, height + 2 * room);
+    setMask(notice().adjusted(-room, -room, room, room));
+    m_close->move(notice().right() + 1 - px(rightPadding) - m_close->sizeHint().width(),
+        notice().top() + px(verticalPadding) - px(2));
+    m_close->resize(m_close->sizeHint());
+}
+
+QRect ErrorBanner::notice() const
+{
+    const int room = px(shadowRoom);
+    return rect().adjusted(room, room, -room, -room);
+}
+
+QRect ErrorBanner::noticeRect() const
+{
+    return isHidden() ? QRect() : notice().translated(pos());
+}
+
+QRect ErrorBanner::textRect() const
+{
+    return notice().adjusted(px(leftPadding + iconSize + gap), px(verticalPadding), -px(gap + crossSize + rightPadding),
+        -px(verticalPadding));
+}
+
+void ErrorBanner::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintShadow(painter, notice(), pxF(radius), Shadow::menu, theme);
+    painter.setPen(theme.line);
+    painter.setBrush(theme.panel);
+    painter.drawRoundedRect(QRectF(notice()).adjusted(.5, .5, -.5, -.5), pxF(radius), pxF(radius));
+    const QRectF icon(
+        notice().left() + px(leftPadding), notice().top() + px(verticalPadding), px(iconSize), px(iconSize));
+    Icon::paint(painter, icon, QStringLiteral("exclamationmark.triangle.fill"), pxF(iconSize), theme.amber);
+    painter.setPen(theme.text);
+    painter.setFont(sansFont(13));
+    painter.setClipRect(textRect());
+    painter.drawText(textRect(), textFlags, message());
+}
+
+}  // namespace Quorbel

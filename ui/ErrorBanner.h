@@ -1,0 +1,41 @@
+// The notice at the bottom of the window while AppModel holds an error message.
+// Thread: the main thread. It hides only when the message goes; its cross takes the message away.
+#pragma once
+
+#include <QWidget>
+
+namespace Quorbel {
+
+class AppModel;
+class QBIconButton;
+
+class ErrorBanner final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(ErrorBanner)
+
+public:
+    explicit ErrorBanner(AppModel& model, QWidget* parent = nullptr);
+
+    /// Lays it out centred in its parent, its lower edge at `bottom`; at most 560 points wide, its shadow beyond.
+    void place(int bottom);
+    /// The notice itself, in the parent's coordinates; empty while there is none.
+    QRect noticeRect() const;
+
+signals:
+    /// It appeared, went, or took another size: place() it again.
+    void sizeChanged();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void follow();
+    QString message() const;
+    QRect notice() const;
+    QRect textRect() const;
+
+    AppModel& m_model;
+    QBIconButton* m_close;
+};
+
+}  // namespace Quorbel
