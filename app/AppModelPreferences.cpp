@@ -74,7 +74,7 @@ void AppModel::readPreferences()
 template <typename T>
 void AppModel::setPreference(T& member, const T& value, Signal changed, const QString& key)
 {
-    requireMainThread("setPreference");
+    requireMainThread(qUtf8Printable(key));
     if (member == value)
         return;
     m_services.preferences->setValue(key, value);

@@ -4,11 +4,12 @@
 #include "core/Text.h"
 
 #include <QDir>
-#include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
+#include <filesystem>
 #include <utility>
 #include <vector>
 
@@ -16,21 +17,22 @@ namespace Quorbel {
 
 namespace {
 
-constexpr QDir::Filters everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-
-QList<QUrl> imageEntries(const QString& folder)
+/// Nothing when the folder cannot be listed to its end: half a listing would pass for files removed.
+std::optional<QList<QUrl>> imageEntries(const QString& folder)
 {
+    namespace fs = std::filesystem;
     const QString clean = QDir::cleanPath(folder);
     const QString prefix = clean.endsWith(u'/') ? clean : clean + u'/';
     QList<QUrl> entries;
-    QDirIterator iterator(clean, everything);
-    while (iterator.hasNext()) {
-        iterator.next();
-        const QUrl url = QUrl::fromLocalFile(prefix + iterator.fileName());
+    std::error_code error;
+    fs::directory_iterator entry(QFile::encodeName(clean).toStdString(), error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        const std::string name = entry->path().filename().string();
+        const QUrl url = QUrl::fromLocalFile(prefix + QFile::decodeName(name.c_str()));
         if (ImageTypes::isImage(url))
             entries.append(url);
     }
-    return entries;
+    return error ? std::nullopt : std::optional(entries);
 }
 
 QList<QUrl> inNaturalOrder(const QList<QUrl>& urls)
@@ -74,7 +76,7 @@ PhotoListing PhotoListing::of(const QList<QUrl>& urls)
         if (info.isDir()) {
             listing.label = QDir(path).dirName();
             listing.folder = url;
-            files.append(imageEntries(path));
+            files.append(imageEntries(path).value_or(QList<QUrl>()));
         } else if (ImageTypes::isImage(url)) {
             files.append(QUrl::fromLocalFile(path));
         }
@@ -90,12 +92,9 @@ PhotoListing PhotoListing::of(const QList<QUrl>& urls)
 FolderScan FolderScan::of(const QUrl& folder)
 {
     FolderScan scan;
-    const QFileInfo info(folder.toLocalFile());
-    scan.isListed = info.isDir() && info.isReadable() && info.isExecutable();
-    if (!scan.isListed)
-        return scan;
-    const QList<QUrl> entries = imageEntries(folder.toLocalFile());
-    for (const QUrl& url : entries) {
+    const auto entries = imageEntries(folder.toLocalFile());
+    scan.isListed = entries.has_value();
+    for (const QUrl& url : entries.value_or(QList<QUrl>())) {
         const QFileInfo file(url.toLocalFile());
         if (!file.exists())
             scan.photos.insert(url, std::nullopt);
