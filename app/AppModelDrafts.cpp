@@ -254,8 +254,10 @@ QStringList AppModel::keywordCompletions(const QString& prefix, int limit) const
                 ++uses[keyword];
         QStringList keywords = uses.keys();
         std::sort(keywords.begin(), keywords.end(), [&uses](const QString& a, const QString& b) {
-            const int difference = uses.value(a) - uses.value(b);
-            return difference != 0 ? difference > 0 : Text::naturalCompare(a, b) < 0;
+            if (const int difference = uses.value(a) - uses.value(b))
+                return difference > 0;
+            const int order = Text::naturalCompare(a, b);
+            return order != 0 ? order < 0 : a < b;
         });
         m_keywordsByUse = std::move(keywords);
     }

@@ -51,7 +51,8 @@ std::optional<QString> write(const MetadataService& service, const EditPlan& pla
 void AppModel::setSaveOpen(bool open)
 {
     requireMainThread("setSaveOpen");
-    if (!open)
+    // A sheet that closes itself after an answer says so too: then it is no cancel any more.
+    if (!open && m_saveOpen)
         m_waiting = nullptr;
     assign(m_saveOpen, open, &AppModel::saveOpenChanged);
 }

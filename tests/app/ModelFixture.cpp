@@ -1,11 +1,70 @@
 #include "tests/app/ModelFixture.h"
 
 #include <QFileInfo>
+#include <QMetaMethod>
 #include <QTest>
 
 namespace Quorbel::Test {
 
 using namespace Qt::StringLiterals;
+
+GatedTool::GatedTool()
+{
+    QByteArray script = R"perl(#!/usr/bin/perl
+my ($dir) = $0 =~ m{^(.*)/};
+my $text = '';
+if (open my $f, '<', "$dir/shut") { local $/; $text = <$f> // '' }
+if (grep { index($_, $text) >= 0 } @ARGV and -e "$dir/shut") {
+    open my $f, '>', "$dir/waits";
+    close $f;
+    select undef, undef, undef, 0.005 while -e "$dir/shut";
+}
+exec $^X, 'TOOL', @ARGV;
+)perl";
+    script.replace("TOOL", realTool().exiftoolURL.toLocalFile().toUtf8());
+    writeFile(m_directory.filePath(u"exiftool"_s), script);
+}
+
+MetadataService GatedTool::service() const
+{
+    return { { QUrl::fromLocalFile(m_directory.filePath(u"exiftool"_s)), realTool().perlURL } };
+}
+
+void GatedTool::shut(const QByteArray& text) const
+{
+    writeFile(m_directory.filePath(u"shut"_s), text);
+}
+
+void GatedTool::open() const
+{
+    QFile::remove(m_directory.filePath(u"shut"_s));
+    QFile::remove(m_directory.filePath(u"waits"_s));
+}
+
+bool GatedTool::waitForRun() const
+{
+    return QTest::qWaitFor([this] { return QFile::exists(m_directory.filePath(u"waits"_s)); }, 30000);
+}
+
+Announcements::Announcements(AppModel& model)
+{
+    const QMetaObject& meta = AppModel::staticMetaObject;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        const QMetaMethod method = meta.method(i);
+        if (method.methodType() != QMetaMethod::Signal)
+            continue;
+        m_spies.emplace_back(QString::fromLatin1(method.name()), std::make_unique<QSignalSpy>(&model, method));
+    }
+}
+
+QMap<QString, int> Announcements::counts() const
+{
+    QMap<QString, int> counts;
+    for (const auto& [name, spy] : m_spies)
+        if (spy->count() > 0)
+            counts.insert(name, int(spy->count()));
+    return counts;
+}
 
 ModelFixture::ModelFixture()
     : ModelFixture(MetadataService{ realTool() })

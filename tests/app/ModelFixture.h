@@ -5,7 +5,37 @@
 #include "app/AppModel.h"
 #include "tests/support/Support.h"
 
+#include <QSignalSpy>
+
 namespace Quorbel::Test {
+
+/// The real tool behind a gate: while it is shut, runs wait before they begin; only those with an argument that
+/// holds the text, where one is given.
+class GatedTool {
+public:
+    GatedTool();
+    ~GatedTool() { open(); }
+    Q_DISABLE_COPY_MOVE(GatedTool)
+    MetadataService service() const;
+    void shut(const QByteArray& text = {}) const;
+    void open() const;
+    /// Waits until a run stands at the gate.
+    bool waitForRun() const;
+
+private:
+    QTemporaryDir m_directory;
+};
+
+/// Which signals the model emits while this lives, and how often.
+class Announcements {
+public:
+    explicit Announcements(AppModel& model);
+    /// By the signal's name; signals that were not emitted are not among them.
+    QMap<QString, int> counts() const;
+
+private:
+    std::vector<std::pair<QString, std::unique_ptr<QSignalSpy>>> m_spies;
+};
 
 class ModelFixture {
 public:
