@@ -66,6 +66,8 @@ void MapPreview::ask()
     request.size = size();
     request.devicePixelRatio = devicePixelRatioF();
     request.dark = Theme::of(this).isDark;
+    request.font = sansFont(10);
+    request.textScale = pxF(1);
     m_request = m_renderer->render(request, [this](const PlaceResult<MapImage>& result) {
         m_map = result.error == PlaceError::none ? result.value : MapImage{};
         update();

@@ -4,6 +4,7 @@
 
 #include "platform/places/PlaceProvider.h"
 
+#include <QFont>
 #include <QImage>
 #include <QSizeF>
 
@@ -15,20 +16,28 @@ struct MapRequest {
     qreal devicePixelRatio = 1;
     double kilometresAcross = 150;
     bool dark = false;
+    QFont font{};  ///< its family; the sizes are the map's own
+    qreal textScale = 1;  ///< how much larger than at the desktop's normal font size
     bool widen = true;  ///< zooms out until there is something to see
 };
 
 struct MapImage {
     QImage image{};  ///< with its device pixel ratio set; no marker on it
     double kilometresAcross = 0;  ///< what was drawn, after widening
-    QString attribution{};  ///< to show on the map; empty when no licence asks for it
+    QString attribution{};  ///< to show on the map, bottom right, where room is left for it
 };
 
 class MapRenderer {
 public:
     virtual ~MapRenderer() = default;
-    /// noData when the map files are missing.
+    /// Answers later, never within the call: noData when the map files are missing or the request asks for nothing
+    /// (no size, no valid centre). Requests are drawn in order, one at a time.
     virtual PlaceToken render(const MapRequest& request, PlaceCallback<MapImage> answer) = 0;
 };
+
+/// From the map files in the data folder, share/quorbel/places.
+std::unique_ptr<MapRenderer> makeMapRenderer(const QString& dataFolder);
+/// Credits of the map's data, for the About text.
+QString mapCredits();
 
 }  // namespace Quorbel

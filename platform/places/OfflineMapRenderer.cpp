@@ -1,0 +1,102 @@
+#include "platform/places/OfflineMapRenderer.h"
+
+#include "platform/places/MapPainter.h"
+
+#include <QGuiApplication>
+
+#include <atomic>
+#include <cmath>
+
+namespace Quorbel {
+
+namespace {
+
+using Flag = std::shared_ptr<std::atomic<bool>>;
+
+class Token final : public PlaceRequest {
+public:
+    explicit Token(Flag isDropped)
+        : m_isDropped(std::move(isDropped))
+    {
+    }
+    ~Token() override { *m_isDropped = true; }
+    Q_DISABLE_COPY_MOVE(Token)
+
+private:
+    Flag m_isDropped;
+};
+
+bool isDrawable(const MapRequest& request)
+{
+    constexpr double mostPixels = 1 << 14;  // in each direction: more is no preview
+    const auto pixels = request.size * request.devicePixelRatio;
+    const auto isSound = [](double value) { return value >= 1 && value <= mostPixels; };
+    return request.centre.isValid() && isSound(pixels.width()) && isSound(pixels.height())
+        && std::isfinite(request.kilometresAcross) && request.textScale > 0;
+}
+
+PlaceResult<MapImage> draw(const MapData* data, const MapRequest& request, const IsCancelled& isCancelled)
+{
+    if (!data)
+        return { {}, PlaceError::noData, QStringLiteral("The map’s data is not installed.") };
+    if (!isDrawable(request))
+        return { {}, PlaceError::noData, {} };
+    auto map = drawMap(*data, request, isCancelled);
+    if (map.image.isNull())
+        return { {}, PlaceError::cancelled, {} };
+    return { std::move(map), PlaceError::none, {} };
+}
+
+}  // namespace
+
+OfflineMapRenderer::OfflineMapRenderer(const QString& dataFolder)
+    : m_data(MapData::open(dataFolder))
+    , m_isClosing(std::make_shared<std::atomic<bool>>(false))
+    , m_desk(std::make_unique<QObject>())
+{
+    m_worker.setMaxThreadCount(1);
+}
+
+OfflineMapRenderer::~OfflineMapRenderer()
+{
+    *m_isClosing = true;
+    m_worker.clear();
+    m_worker.waitForDone();
+}
+
+PlaceToken OfflineMapRenderer::render(const MapRequest& request, PlaceCallback<MapImage> answer)
+{
+    auto isDropped = std::make_shared<std::atomic<bool>>(false);
+    auto* desk = m_desk.get();
+    // The callback must die in this thread, whoever drops the job last: the job holds it only to pass it on.
+    auto shared = std::make_shared<PlaceCallback<MapImage>>(std::move(answer));
+    m_worker.start(
+        [data = m_data, isClosing = m_isClosing, isDropped, desk, request, shared = std::move(shared)]() mutable {
+            const IsCancelled isCancelled = [&] { return *isDropped || *isClosing; };
+            PlaceResult<MapImage> result{ {}, PlaceError::cancelled, {} };
+            if (!isCancelled())
+                result = draw(data.get(), request, isCancelled);
+            QMetaObject::invokeMethod(
+                desk,
+                [isDropped, shared = std::move(shared), result = std::move(result)] {
+                    if (!*isDropped)
+                        (*shared)(result);
+                },
+                Qt::QueuedConnection);
+        });
+    return std::make_unique<Token>(isDropped);
+}
+
+std::unique_ptr<MapRenderer> makeMapRenderer(const QString& dataFolder)
+{
+    return std::make_unique<OfflineMapRenderer>(dataFolder);
+}
+
+QString mapCredits()
+{
+    return QStringLiteral(
+        "Map: towns © GeoNames (geonames.org), CC BY 4.0, changed. Shorelines, lakes and rivers: GSHHG by "
+        "Paul Wessel and Walter H. F. Smith, LGPL 3 or later. Borders: Natural Earth.");
+}
+
+}  // namespace Quorbel
