@@ -1,20 +1,45 @@
-#include "app/SelfTest.h"
+#include "app/shell/AppDelegate.h"
 #include "core/Product.h"
 
 #include <QApplication>
-#include <QWidget>
+#include <QCommandLineParser>
+#include <QIcon>
+
+namespace {
+
+/// Also answers --help and --version, which end the process.
+QStringList parsedFiles(const QApplication& application)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Reads and edits the words inside photos."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(
+        QStringLiteral("files"), QStringLiteral("A folder of photos, or photos."), QStringLiteral("[files…]"));
+    parser.process(application);
+    return parser.positionalArguments();
+}
+
+}  // namespace
 
 int main(int argc, char* argv[])
 {
-    // Before anything that needs a display.
-    if (qEnvironmentVariableIsSet("QUORBEL_SELFTEST")) {
-        const QCoreApplication application(argc, argv);
-        Quorbel::SelfTest::run(qEnvironmentVariable("QUORBEL_SELFTEST"));
-    }
+    using namespace Quorbel;
+    AppDelegate::willFinishLaunching(argc, argv);
+
+    // The desktop's token for this start; read before Qt takes it out of the environment.
+    const QByteArray activationToken = qgetenv("XDG_ACTIVATION_TOKEN");
     QApplication application(argc, argv);
-    QWidget window;
-    window.setWindowTitle(Quorbel::Product::name());
-    window.resize(1100, 720);
-    window.show();
+    QApplication::setOrganizationName(Product::name());
+    QApplication::setApplicationName(Product::name());
+    QApplication::setApplicationVersion(QStringLiteral(QUORBEL_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("app.quorbel.Quorbel"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("app.quorbel.Quorbel")));
+
+    const QList<QUrl> urls = AppDelegate::urlsOf(parsedFiles(application));
+    AppDelegate delegate;
+    if (delegate.handOver({ urls, activationToken }))
+        return 0;
+    delegate.finishLaunching(urls);
     return QApplication::exec();
 }

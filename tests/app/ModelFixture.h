@@ -14,11 +14,11 @@ namespace Quorbel::Test {
 class GatedTool {
 public:
     GatedTool();
-    ~GatedTool() { release(); }
+    ~GatedTool() { open(); }
     Q_DISABLE_COPY_MOVE(GatedTool)
     MetadataService service() const;
     void shut(const QByteArray& text = {}) const;
-    void release() const;
+    void open() const;
     /// Waits until a run stands at the gate.
     bool waitForRun() const;
 

@@ -4,9 +4,9 @@
 
 #include "tools/map/MapWriter.h"
 
-namespace Quorbel::MapBuild {
+namespace Quorbel::MapData {
 
 /// Lines of MapFormat::BorderType.
 MapWriter readBorders(const QString& geopackage);
 
-}  // namespace Quorbel::MapBuild
+}  // namespace Quorbel::MapData

@@ -6,7 +6,7 @@
 #include <array>
 #include <vector>
 
-namespace Quorbel::MapBuild {
+namespace Quorbel::MapData {
 
 namespace {
 
@@ -296,4 +296,4 @@ MapWriter readRivers(const QString& path)
     return writer;
 }
 
-}  // namespace Quorbel::MapBuild
+}  // namespace Quorbel::MapData

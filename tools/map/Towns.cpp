@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Quorbel::MapBuild {
+namespace Quorbel::MapData {
 
 namespace {
 
@@ -96,4 +96,4 @@ MapWriter readTowns(const QString& cities, const QString& landmarks)
     return writer;
 }
 
-}  // namespace Quorbel::MapBuild
+}  // namespace Quorbel::MapData

@@ -4,9 +4,9 @@
 
 #include "tools/map/MapWriter.h"
 
-namespace Quorbel::MapBuild {
+namespace Quorbel::MapData {
 
 /// From cities500.txt and landmarks.tsv.
 MapWriter readTowns(const QString& cities, const QString& landmarks);
 
-}  // namespace Quorbel::MapBuild
+}  // namespace Quorbel::MapData

@@ -9,7 +9,7 @@
 
 #include <cstdio>
 
-using namespace Quorbel::MapBuild;
+using namespace Quorbel::MapData;
 
 namespace {
 

@@ -1,0 +1,68 @@
+#include "app/shell/AboutSheet.h"
+
+#include "ui/Buttons.h"
+#include "ui/Labels.h"
+#include "ui/Metrics.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr qreal sheetWidth = 470;
+constexpr qreal padding = 24;
+
+QString version()
+{
+    return QStringLiteral("Version %1 (build %2)")
+        .arg(QStringLiteral(QUORBEL_VERSION), QStringLiteral(QUORBEL_BUILD_NUMBER));
+}
+
+QStringList licences()
+{
+    return {
+        QStringLiteral("© 2026 The Quorbel developers. Free software under the MIT License."),
+        QStringLiteral("Reads and writes photos with ExifTool by Phil Harvey (Artistic License or GPL). Built with "
+                       "Qt %1 (LGPL 3), LibRaw (LGPL 2.1 or CDDL), libheif (LGPL 3), libjxl (BSD), OpenJPEG (BSD) "
+                       "and Little CMS (MIT).")
+            .arg(QString::fromLatin1(qVersion())),
+    };
+}
+
+ThemedLabel* paragraph(const QString& text, TextRole role, qreal points)
+{
+    auto* label = new ThemedLabel(text, role, points);
+    label->setWordWrap(true);
+    return label;
+}
+
+}  // namespace
+
+AboutSheet::AboutSheet(const QString& credits, QWidget* parent)
+    : SheetBody(parent)
+{
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(new ThemedLabel(QStringLiteral("Quorbel"), TextRole::text, 20, QFont::DemiBold));
+    column->addWidget(new ThemedLabel(version(), TextRole::label, 12));
+    for (const QString& text : licences())
+        column->addWidget(paragraph(text, TextRole::text, 13));
+    if (!credits.isEmpty())
+        column->addWidget(paragraph(credits, TextRole::label, 12));
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    auto* ok = new QBButton(QStringLiteral("OK"), QBButtonKind::primary);
+    connect(ok, &QAbstractButton::clicked, this, &AboutSheet::closed);
+    buttons->addWidget(ok);
+    column->addLayout(buttons);
+    onRestyle(this, [this, column, buttons] {
+        setFixedWidth(px(sheetWidth));
+        column->setContentsMargins(px(padding), px(padding), px(padding), px(padding));
+        column->setSpacing(px(8));
+        buttons->setContentsMargins(0, px(14), 0, 0);
+    });
+}
+
+}  // namespace Quorbel

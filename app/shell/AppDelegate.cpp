@@ -1,0 +1,206 @@
+#include "app/shell/AppDelegate.h"
+
+#include "app/SelfTest.h"
+#include "app/shell/AboutSheet.h"
+#include "app/shell/MainWindowDelegate.h"
+#include "app/shell/Menus.h"
+#include "app/shell/OpenPanel.h"
+#include "app/shell/StartTrace.h"
+#include "core/Product.h"
+#include "ui/ContentView.h"
+#include "ui/HelpView.h"
+#include "ui/MessageSheet.h"
+#include "ui/SettingsView.h"
+#include "ui/SystemScheme.h"
+#include "ui/Theme.h"
+#include "ui/ToolTips.h"
+#include "ui/WindowBar.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QInputMethod>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTimer>
+
+namespace Quorbel {
+
+namespace {
+
+/// Whether the window may be active: with it, another program's start lets this one come to the front.
+constexpr auto activationVariable = "XDG_ACTIVATION_TOKEN";
+
+}  // namespace
+
+void AppDelegate::willFinishLaunching(int argc, char* argv[])
+{
+    if (!qEnvironmentVariableIsSet("QUORBEL_SELFTEST"))
+        return;
+    const QCoreApplication application(argc, argv);
+    SelfTest::run(qEnvironmentVariable("QUORBEL_SELFTEST"));
+}
+
+AppDelegate::AppDelegate()
+    : m_instance(SingleInstance::defaultSocketPath())
+    , m_systemScheme(new SystemScheme(this))
+{
+}
+
+AppDelegate::~AppDelegate()
+{
+    // Views before what they show.
+    delete m_settings;
+    delete m_help;
+    m_window.reset();
+}
+
+QList<QUrl> AppDelegate::urlsOf(const QStringList& arguments)
+{
+    QList<QUrl> urls;
+    for (const QString& argument : arguments) {
+        const QUrl url(argument);
+        if (url.scheme() == QLatin1String("file"))
+            urls.append(url);
+        else
+            urls.append(QUrl::fromLocalFile(QDir::cleanPath(QDir::current().absoluteFilePath(argument))));
+    }
+    return urls;
+}
+
+bool AppDelegate::handOver(const HandOver& what) const
+{
+    return m_instance.handOver(what);
+}
+
+void AppDelegate::finishLaunching(const QList<QUrl>& urls)
+{
+    new ToolTips(this);
+    m_app = std::make_unique<QuorbelApp>(hooks());
+    buildWindow();
+    StartTrace::watch(m_window.get());
+    m_window->show();
+    if (!urls.isEmpty())
+        m_app->model().requestLoad(urls);
+    m_instance.listen([this](const HandOver& what) { received(what); });
+    // Once the window is there.
+    QTimer::singleShot(0, this, [this] {
+        if (QuorbelApp::checksForUpdates())
+            m_app->updatePresenter().checkAutomatically();
+    });
+}
+
+WindowHooks AppDelegate::hooks()
+{
+    return {
+        .openPanel =
+            [this](std::function<void(const QList<QUrl>&)> chosen) {
+                OpenPanel::open(m_window.get(), Theme::of(m_window.get()), std::move(chosen));
+            },
+        .endEditing = [this] { endEditing(); },
+        .quit = [this] { m_windowDelegate->quit(); },
+        .show = [this](const Notice& notice,
+                    std::function<void(qsizetype)> answered) { showNotice(notice, std::move(answered)); },
+    };
+}
+
+void AppDelegate::buildWindow()
+{
+    AppModel& model = m_app->model();
+    m_window = std::make_unique<QMainWindow>();
+    ContentFactories factories;
+    factories.inspector = [](QWidget* parent) { return new QWidget(parent); };
+    m_content = new ContentView(model, &m_app->thumbnails(), *m_systemScheme, m_window.get(), factories);
+    m_window->setMenuWidget(m_content->bar());
+    m_window->setCentralWidget(m_content);
+
+    MenuCommands commands{ .openSettings = [this] { openSettings(); },
+        .openHelp = [this] { openHelp(); },
+        .showAbout = [this] { showAbout(); } };
+    if (QuorbelApp::checksForUpdates())
+        commands.checkForUpdates = [this] { m_app->updatePresenter().checkManually(); };
+    new Menus(model, *m_content, commands);
+
+    m_windowDelegate = new MainWindowDelegate(model, *m_window, *m_content->sheets());
+    m_windowDelegate->restoreGeometry();
+    m_app->thumbnails().setDevicePixelRatio(m_window->devicePixelRatioF());
+    connect(&model, &AppModel::colorOverrideChanged, this, &AppDelegate::applyThemes);
+    connect(m_systemScheme, &SystemScheme::schemeChanged, this, &AppDelegate::applyThemes);
+}
+
+/// A second start: its files go where a drop would go, and the window comes to the front.
+void AppDelegate::received(const HandOver& what)
+{
+    if (!what.activationToken.isEmpty())
+        qputenv(activationVariable, what.activationToken);
+    if (m_window->isMinimized())
+        m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+    if (!what.urls.isEmpty())
+        m_app->model().requestLoad(what.urls);
+}
+
+// The main window's theme is its content's business; the other windows follow it.
+void AppDelegate::applyThemes()
+{
+    const ColorScheme scheme = m_app->model().colorOverride().value_or(m_systemScheme->scheme());
+    const Theme& theme = scheme == ColorScheme::dark ? Theme::dark() : Theme::light();
+    if (m_settings)
+        setTheme(m_settings, theme);
+    if (m_help)
+        setTheme(m_help, theme);
+}
+
+void AppDelegate::openSettings()
+{
+    if (!m_settings) {
+        m_settings = new SettingsView(m_app->model());
+        m_settings->setAttribute(Qt::WA_DeleteOnClose);
+        m_settings->setAttribute(Qt::WA_QuitOnClose, false);
+        applyThemes();
+        m_settings->resize(m_settings->sizeHint());
+    }
+    m_settings->show();
+    m_settings->raise();
+    m_settings->activateWindow();
+}
+
+void AppDelegate::openHelp()
+{
+    if (!m_help) {
+        m_help = new HelpView;
+        m_help->setAttribute(Qt::WA_DeleteOnClose);
+        m_help->setAttribute(Qt::WA_QuitOnClose, false);
+        applyThemes();
+    }
+    m_help->show();
+    m_help->raise();
+    m_help->activateWindow();
+}
+
+void AppDelegate::showAbout()
+{
+    const PlaceProvider* places = m_app->placeProvider();
+    auto* sheet = new AboutSheet(places ? places->attribution() : QString());
+    connect(sheet, &AboutSheet::closed, m_content, [this, sheet] { m_content->sheets()->dismiss(sheet); });
+    m_content->sheets()->present(sheet);
+}
+
+void AppDelegate::showNotice(const Notice& notice, std::function<void(qsizetype)> answered)
+{
+    presentMessage(*m_content->sheets(), QStringLiteral("sparkles"), notice.message, notice.informativeText,
+        notice.buttons, std::move(answered));
+}
+
+/// Makes the field being typed into commit what the input method still holds, and takes the focus from it.
+void AppDelegate::endEditing()
+{
+    QWidget* focus = m_window ? m_window->focusWidget() : nullptr;
+    if (!qobject_cast<QLineEdit*>(focus) && !qobject_cast<QPlainTextEdit*>(focus))
+        return;
+    QGuiApplication::inputMethod()->commit();
+    focus->clearFocus();
+}
+
+}  // namespace Quorbel

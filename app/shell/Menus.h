@@ -1,0 +1,58 @@
+// The main window's menus and their shortcuts. Thread: the main thread.
+#pragma once
+
+#include <QKeySequence>
+#include <QMenu>
+#include <QObject>
+
+#include <functional>
+
+class QAction;
+class QMenuBar;
+
+namespace Quorbel {
+
+class AppModel;
+class ContentView;
+class ThemedMenu;
+
+/// The commands that are not the model's own.
+struct MenuCommands {
+    std::function<void()> openSettings{};
+    std::function<void()> openHelp{};
+    std::function<void()> checkForUpdates{};  ///< empty: not offered
+    std::function<void()> showAbout{};
+};
+
+class Menus final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(Menus)
+
+public:
+    /// Fills the content's menu bar; belongs to the content.
+    Menus(AppModel& model, ContentView& content, MenuCommands commands);
+
+private:
+    void addFileMenu(const MenuCommands& commands);
+    void addEditMenu();
+    void addViewMenu();
+    void addHelpMenu(const MenuCommands& commands);
+    ThemedMenu* addMenu(const QString& title);
+    QAction* add(QMenu* menu, const QString& text, const QList<QKeySequence>& keys, std::function<void()> run);
+    void addEditing(QMenu* menu, const QString& text, QKeySequence::StandardKey key, const char* slot,
+        std::function<bool(const QWidget&)> possible);
+    void fillRecents();
+    void followState();
+
+    AppModel& m_model;
+    ContentView& m_content;
+    ThemedMenu* m_recents = nullptr;
+    QAction* m_save = nullptr;
+    QAction* m_rename = nullptr;
+    QAction* m_refresh = nullptr;
+    QAction* m_close = nullptr;
+    QAction* m_preview = nullptr;
+    QAction* m_find = nullptr;
+};
+
+}  // namespace Quorbel

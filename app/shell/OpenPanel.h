@@ -1,0 +1,28 @@
+// The panel in which folders and image files are chosen, several at once. Thread: the main thread.
+#pragma once
+
+#include <QFileDialog>
+#include <QUrl>
+
+#include <functional>
+
+namespace Quorbel {
+
+/// Qt's own dialog, not the desktop's: no desktop's dialog takes files and folders alike. Open takes what is selected,
+/// or the folder that is shown when nothing is.
+class OpenPanel final : public QFileDialog {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(OpenPanel)
+
+public:
+    explicit OpenPanel(QWidget* parent);
+
+    /// Shows the panel over the window and returns at once; `chosen` is called with what was chosen, or with nothing
+    /// on cancel. The panel deletes itself.
+    static void open(QWidget* window, const struct Theme& theme, std::function<void(const QList<QUrl>&)> chosen);
+
+protected:
+    void accept() override;
+};
+
+}  // namespace Quorbel

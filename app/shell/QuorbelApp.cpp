@@ -1,0 +1,65 @@
+#include "app/shell/QuorbelApp.h"
+
+#include "core/Product.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+
+namespace Quorbel {
+
+namespace {
+
+/// <prefix>/share/quorbel/places, seen from <prefix>/bin.
+QString placesFolder()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/quorbel/places"));
+}
+
+QDateTime now()
+{
+    return QDateTime::currentDateTime();
+}
+
+void openUrl(const QUrl& url)
+{
+    QDesktopServices::openUrl(url);
+}
+
+}  // namespace
+
+QuorbelApp::QuorbelApp(const WindowHooks& hooks)
+    : m_preferences(
+        std::make_shared<QSettings>(QSettings::IniFormat, QSettings::UserScope, Product::name(), Product::name()))
+{
+    const auto service = MetadataService::locate();
+    ThumbnailStoreOptions images = ThumbnailStoreOptions::forUser();
+    if (service)
+        images.tool = service->runner;
+    m_thumbnails = std::make_unique<ThumbnailStore>(images);
+    m_placeProvider = makePlaceProvider({ .dataFolder = placesFolder() });
+
+    AppModelServices services;
+    services.service = service;
+    services.preferences = m_preferences;
+    services.openPanel = hooks.openPanel;
+    services.endEditing = hooks.endEditing;
+    services.openUrl = openUrl;
+    services.now = now;
+    services.quit = hooks.quit;
+    m_model = std::make_unique<AppModel>(services);
+    m_model->onImagesModified = [this](const QList<QUrl>& urls) { m_thumbnails->invalidate(urls); };
+
+    m_updatePresenter = std::make_unique<UpdatePresenter>(UpdatePresenter::feedURL(QStringLiteral(QUORBEL_FEED_HOST)),
+        UpdatePresenter::buildNumber(QStringLiteral(QUORBEL_BUILD_NUMBER)),
+        UpdatePresenterServices{ m_preferences, now, hooks.show, openUrl });
+}
+
+QuorbelApp::~QuorbelApp() = default;
+
+bool QuorbelApp::checksForUpdates()
+{
+    return !QStringLiteral(QUORBEL_FEED_HOST).isEmpty();
+}
+
+}  // namespace Quorbel

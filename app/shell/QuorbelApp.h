@@ -1,0 +1,48 @@
+// The objects that live as long as the process, and what each of them needs from outside.
+// Thread: the main thread. Knows no window: what has to appear in one comes in as functions.
+#pragma once
+
+#include "app/AppModel.h"
+#include "app/ThumbnailStore.h"
+#include "app/shell/UpdatePresenter.h"
+#include "platform/places/MapRenderer.h"
+#include "platform/places/PlaceProvider.h"
+
+#include <memory>
+
+namespace Quorbel {
+
+/// What the main window lends to the objects that have none.
+struct WindowHooks {
+    std::function<void(std::function<void(const QList<QUrl>&)>)> openPanel{};
+    std::function<void()> endEditing{};
+    std::function<void()> quit{};
+    std::function<void(const Notice&, std::function<void(qsizetype)>)> show{};
+};
+
+class QuorbelApp final {
+    Q_DISABLE_COPY_MOVE(QuorbelApp)
+
+public:
+    /// Reads the preferences and locates the tool; where that is missing, the model says so in its error message.
+    explicit QuorbelApp(const WindowHooks& hooks);
+    ~QuorbelApp();
+
+    AppModel& model() { return *m_model; }
+    ThumbnailStore& thumbnails() { return *m_thumbnails; }
+    UpdatePresenter& updatePresenter() { return *m_updatePresenter; }
+    PlaceProvider* placeProvider() { return m_placeProvider.get(); }
+    MapRenderer* mapRenderer() { return m_mapRenderer.get(); }
+    /// False in a build without a feed host: there is then nothing to offer in a menu.
+    static bool checksForUpdates();
+
+private:
+    std::shared_ptr<QSettings> m_preferences;
+    std::unique_ptr<ThumbnailStore> m_thumbnails;
+    std::unique_ptr<PlaceProvider> m_placeProvider;
+    std::unique_ptr<MapRenderer> m_mapRenderer;
+    std::unique_ptr<AppModel> m_model;
+    std::unique_ptr<UpdatePresenter> m_updatePresenter;
+};
+
+}  // namespace Quorbel
