@@ -1,12 +1,13 @@
 #include "ui/Buttons.h"
 
+#include "ui/Accessibility.h"
 #include "ui/FocusRing.h"
 #include "ui/Icon.h"
 #include "ui/Metrics.h"
 #include "ui/Painting.h"
 #include "ui/Theme.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QVariantAnimation>
 
@@ -133,10 +134,20 @@ ThemedButton::ThemedButton(const QString& text, QWidget* parent)
     : QAbstractButton(parent)
     , m_fade(new HoverFade(this))
 {
+    installAccessibility();
     setText(text);
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QAbstractButton::pressed, this, [this] { m_fade->setPressed(true); });
     connect(this, &QAbstractButton::released, this, [this] { m_fade->setPressed(false); });
+}
+
+void ThemedButton::keyPressEvent(QKeyEvent* event)
+{
+    // Space is QAbstractButton's; a focused button answers to Return too.
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !event->isAutoRepeat())
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
 }
 
 QBButton::QBButton(const QString& title, QBButtonKind kind, QWidget* parent)

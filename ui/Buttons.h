@@ -37,6 +37,7 @@ public:
     explicit ThemedButton(const QString& text, QWidget* parent = nullptr);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     HoverFade* fade() const { return m_fade; }
     /// 1, or the opacity of a disabled control.
     qreal opacity(qreal whenDisabled = .42) const { return isEnabled() ? 1 : whenDisabled; }

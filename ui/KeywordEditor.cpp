@@ -1,5 +1,6 @@
 #include "ui/KeywordEditor.h"
 
+#include "ui/Accessibility.h"
 #include "ui/Buttons.h"
 #include "ui/FlowLayout.h"
 #include "ui/FocusRing.h"
@@ -116,6 +117,7 @@ public:
     }
 
     QSize sizeHint() const override { return { px(entryWidth), px(28) }; }
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
 signals:
     void pastedSeveral(const QStringList& keywords);
@@ -126,8 +128,9 @@ protected:
         static const QRegularExpression separators(QStringLiteral("[,\\r\\n\\x{2028}\\x{2029}]"));
         const QMimeData* data = QGuiApplication::clipboard()->mimeData();
         const QString text = data ? data->text() : QString();
+        // One keyword, perhaps copied with the end of its line.
         if (!text.trimmed().contains(separators))
-            return QBTextField::pasteText();
+            return insert(text.contains(separators) ? text.trimmed() : text);
         // What was typed before the paste belongs to the first keyword, as it would have in a plain field.
         emit pastedSeveral((this->text() + text).split(separators));
     }
@@ -140,6 +143,7 @@ KeywordEditor::KeywordEditor(QWidget* parent)
     , m_suggestions(new SuggestionList(m_entry))
     , m_fade(new HoverFade(this))
 {
+    installAccessibility();
     m_flow->setContentsMargins(3, 1, 3, 1);
     m_flow->setLastItemFills(true);
     m_flow->addWidget(m_entry);

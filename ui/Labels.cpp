@@ -1,5 +1,6 @@
 #include "ui/Labels.h"
 
+#include "ui/Accessibility.h"
 #include "ui/Metrics.h"
 
 #include <QEvent>
@@ -125,6 +126,7 @@ SectionHeader::SectionHeader(const QString& title, bool muted, const QString& tr
     , m_muted(muted)
     , m_note(trailingNote)
 {
+    installAccessibility();
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAccessibleName(title);
     setAccessibleDescription(trailingNote);
@@ -164,6 +166,7 @@ LabeledDivider::LabeledDivider(const QString& caption, bool muted, const QString
     , m_muted(muted)
     , m_note(note)
 {
+    installAccessibility();
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAccessibleName(caption);
     setAccessibleDescription(note);

@@ -1,5 +1,6 @@
 #include "ui/MapPreview.h"
 
+#include "ui/Accessibility.h"
 #include "ui/Metrics.h"
 #include "ui/Painting.h"
 #include "ui/Theme.h"
@@ -21,6 +22,7 @@ MapPreview::MapPreview(MapRenderer* renderer, QWidget* parent)
     : QWidget(parent)
     , m_renderer(renderer)
 {
+    installAccessibility();
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_delay.setSingleShot(true);
     m_delay.setInterval(resizePause);

@@ -1,5 +1,6 @@
 #include "ui/Marks.h"
 
+#include "ui/Accessibility.h"
 #include "ui/FocusRing.h"
 #include "ui/Icon.h"
 #include "ui/Metrics.h"
@@ -142,6 +143,7 @@ SegmentedPicker::SegmentedPicker(const QStringList& titles, QWidget* parent)
     : QWidget(parent)
     , m_titles(titles)
 {
+    installAccessibility();
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     onRestyle(this, [this] {

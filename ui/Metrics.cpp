@@ -20,6 +20,14 @@ namespace {
 constexpr qreal smallestStandard = 12;
 constexpr qreal largestStandard = 14.7;
 
+qreal scaleOf(const QFont& font)
+{
+    const qreal pixels = QFontInfo(font).pixelSize();
+    if (pixels > largestStandard)
+        return pixels / largestStandard;
+    return pixels < smallestStandard && pixels > 0 ? pixels / smallestStandard : 1;
+}
+
 QString installedFamily(const QString& wanted, QFontDatabase::SystemFont fallback)
 {
     return QFontDatabase::hasFamily(wanted) ? wanted : QFontDatabase::systemFont(fallback).family();
@@ -60,11 +68,15 @@ private:
 
 qreal textScale()
 {
-    const QFontInfo info(QApplication::font());
-    const qreal pixels = info.pixelSize();
-    if (pixels > largestStandard)
-        return pixels / largestStandard;
-    return pixels < smallestStandard && pixels > 0 ? pixels / smallestStandard : 1;
+    // Asked for at every stroke that is painted; the answer changes when the desktop's font does.
+    static QFont font;
+    static qreal scale = 0;
+    const QFont current = QApplication::font();
+    if (scale == 0 || !current.isCopyOf(font)) {
+        font = current;
+        scale = scaleOf(font);
+    }
+    return scale;
 }
 
 int px(qreal points)
@@ -79,13 +91,14 @@ qreal pxF(qreal points)
 
 QFont sansFont(qreal points, QFont::Weight weight)
 {
-    return makeFont(installedFamily(QStringLiteral("Inter"), QFontDatabase::GeneralFont), points, weight);
+    static const QString family = installedFamily(QStringLiteral("Inter"), QFontDatabase::GeneralFont);
+    return makeFont(family, points, weight);
 }
 
 QFont monoFont(qreal points)
 {
-    QFont font =
-        makeFont(installedFamily(QStringLiteral("JetBrains Mono"), QFontDatabase::FixedFont), points, QFont::Normal);
+    static const QString family = installedFamily(QStringLiteral("JetBrains Mono"), QFontDatabase::FixedFont);
+    QFont font = makeFont(family, points, QFont::Normal);
     font.setStyleHint(QFont::Monospace);
     return font;
 }

@@ -1,5 +1,6 @@
 #include "ui/RatingEditor.h"
 
+#include "ui/Accessibility.h"
 #include "ui/FocusRing.h"
 #include "ui/Icon.h"
 #include "ui/Metrics.h"
@@ -20,6 +21,7 @@ constexpr int stars = 5;
 RatingEditor::RatingEditor(QWidget* parent)
     : QWidget(parent)
 {
+    installAccessibility();
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setMouseTracking(true);

@@ -1,5 +1,6 @@
 #include "ui/ResizeHandle.h"
 
+#include "ui/Accessibility.h"
 #include "ui/Metrics.h"
 #include "ui/Theme.h"
 
@@ -16,6 +17,7 @@ ResizeHandle::ResizeHandle(double width, double minWidth, double maxWidth, doubl
     , m_maxWidth(maxWidth)
     , m_defaultWidth(defaultWidth)
 {
+    installAccessibility();
     setCursor(Qt::SplitHCursor);
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);

@@ -1,5 +1,6 @@
 #include "ui/SuggestionList.h"
 
+#include "ui/Accessibility.h"
 #include "ui/Metrics.h"
 #include "ui/Painting.h"
 #include "ui/Theme.h"
@@ -28,7 +29,10 @@ SuggestionList::SuggestionList(QWidget* field)
     : QWidget(field)
     , m_field(field)
 {
-    setFocusPolicy(Qt::NoFocus);
+    installAccessibility();
+    // A click hands the focus to the field, which has it already: whatever lies behind must not get it.
+    setFocusPolicy(Qt::ClickFocus);
+    setFocusProxy(field);
     setMouseTracking(true);
     setAccessibleName(QStringLiteral("Suggestions"));
     hide();

@@ -1,5 +1,6 @@
 #include "ui/ThumbnailView.h"
 
+#include "ui/Accessibility.h"
 #include "ui/Metrics.h"
 #include "ui/Painting.h"
 #include "ui/Theme.h"
@@ -16,6 +17,7 @@ ThumbnailView::ThumbnailView(ThumbnailStore* thumbs, qreal size, qreal corner, Q
     , m_size(size)
     , m_corner(corner)
 {
+    installAccessibility();
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     onRestyle(this, [this] { updateGeometry(); });
     if (!m_thumbs)
