@@ -23,6 +23,7 @@ constexpr int middleRank = 147;  ///< 80,000
 constexpr double gap = 4;  ///< points between a dot and its name
 constexpr double marginAcross = 7;  ///< points between names
 constexpr double marginAbove = 2;
+constexpr double marginReserved = 3;
 constexpr double pointsPerLabel = 46;  ///< of width: more names would be a crowd
 
 QFont labelFont(QFont font, int rank, qreal textScale)
@@ -67,9 +68,9 @@ std::array<QRectF, 6> candidates(const QPointF& dot, const QSizeF& text, const Q
         QRectF(centre.x() - besideMarker - w, centre.y() - h - 2, w, h) };
 }
 
-bool touchesAny(const QRectF& box, const QList<QRectF>& others)
+bool touchesAny(const QRectF& box, const QList<QRectF>& others, double across, double above)
 {
-    const auto wide = box.adjusted(-marginAcross, -marginAbove, marginAcross, marginAbove);
+    const auto wide = box.adjusted(-across, -above, across, above);
     return std::any_of(others.begin(), others.end(), [&](const QRectF& other) { return other.intersects(wide); });
 }
 
@@ -125,7 +126,8 @@ QList<MapLabel> placeLabels(QList<SeenTown> towns, const MapProjection& projecti
         const QRectF dot(town.at - QPointF(3, 3), QSizeF(6, 6));
         const auto isFree = [&](const QRectF& box) {
             // What is reserved may lie over the dot: the marker does, at the centre.
-            return room.contains(box) && !touchesAny(box, reserved) && !touchesAny(box.united(dot), taken);
+            return room.contains(box) && !touchesAny(box, reserved, marginReserved, 0)
+                && !touchesAny(box.united(dot), taken, marginAcross, marginAbove);
         };
         const auto* const end = places.data() + (isAtCentre ? 6 : 4);
         const auto* const place = std::find_if(places.data(), end, isFree);

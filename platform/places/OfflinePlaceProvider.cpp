@@ -1,13 +1,40 @@
 #include "platform/places/OfflinePlaceProvider.h"
 
+#include "platform/places/PlaceDatabase.h"
+#include "platform/places/PlaceSearch.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
 namespace Quorbel {
 
 namespace {
+
+const QString idPrefix = QStringLiteral("place:");
 
 template <typename T>
 PlaceResult<T> noData()
 {
     return { {}, PlaceError::noData, QStringLiteral("Place search is not installed") };
+}
+
+/// The other name that was found, if it was one; then state and country. An airport's or landmark's town comes first.
+QString subtitleOf(const PlaceHit& hit, const Placemark& place)
+{
+    QStringList parts;
+    for (const auto& part : { place.locality, place.administrativeArea, place.country }) {
+        if (!part.isEmpty() && part != place.name && !parts.contains(part))
+            parts << part;
+    }
+    const auto where = parts.join(u", "_s);
+    return hit.matched.isEmpty() ? where : hit.matched + u" · "_s + where;
+}
+
+PlaceSuggestion suggestionOf(const PlaceDatabase& database, const PlaceHit& hit)
+{
+    const auto place = placemarkOf(database, hit.row);
+    return { place.name, subtitleOf(hit, place), idPrefix + QString::number(hit.row.id), place };
 }
 
 }  // namespace
@@ -17,31 +44,65 @@ OfflinePlaceProvider::OfflinePlaceProvider(QString dataFolder)
 {
 }
 
-PlaceToken OfflinePlaceProvider::suggest(const PlaceQuery&, PlaceCallback<QList<PlaceSuggestion>> answer)
+OfflinePlaceProvider::~OfflinePlaceProvider() = default;
+
+PlaceDatabase* OfflinePlaceProvider::database()
 {
-    answer(noData<QList<PlaceSuggestion>>());
+    if (!m_database || !m_database->isOpen())
+        m_database = std::make_unique<PlaceDatabase>(QDir(m_dataFolder).filePath(u"places.db"_s));
+    return m_database->isOpen() ? m_database.get() : nullptr;
+}
+
+PlaceToken OfflinePlaceProvider::suggest(const PlaceQuery& query, PlaceCallback<QList<PlaceSuggestion>> answer)
+{
+    auto* const places = database();
+    if (!places) {
+        answer(noData<QList<PlaceSuggestion>>());
+        return nullptr;
+    }
+    PlaceResult<QList<PlaceSuggestion>> result;
+    for (const auto& hit : findPlaces(*places, query))
+        result.value.append(suggestionOf(*places, hit));
+    answer(result);
     return nullptr;
 }
 
 PlaceToken OfflinePlaceProvider::resolve(const PlaceSuggestion& suggestion, PlaceCallback<Placemark> answer)
 {
-    if (suggestion.placemark)
+    if (suggestion.placemark) {
         answer({ *suggestion.placemark, PlaceError::none, {} });
+        return nullptr;
+    }
+    auto* const places = database();
+    const auto row = places && suggestion.id.startsWith(idPrefix)
+        ? places->place(suggestion.id.mid(idPrefix.size()).toInt())
+        : std::nullopt;
+    if (row)
+        answer({ placemarkOf(*places, *row), PlaceError::none, {} });
     else
-        answer(noData<Placemark>());
+        answer({ {}, PlaceError::noResult, {} });
     return nullptr;
 }
 
-PlaceToken OfflinePlaceProvider::reverse(const GeoPoint&, const QLocale&, PlaceCallback<Placemark> answer)
+PlaceToken OfflinePlaceProvider::reverse(const GeoPoint& point, const QLocale&, PlaceCallback<Placemark> answer)
 {
-    answer(noData<Placemark>());
+    auto* const places = database();
+    if (!places) {
+        answer(noData<Placemark>());
+        return nullptr;
+    }
+    const auto place = point.isValid() ? placeAt(*places, point) : std::nullopt;
+    if (place)
+        answer({ *place, PlaceError::none, {} });
+    else
+        answer({ {}, PlaceError::noResult, {} });
     return nullptr;
 }
 
 QString OfflinePlaceProvider::attribution() const
 {
-    return QStringLiteral("Places: GeoNames (CC BY 4.0, modified), OurAirports, Natural Earth, "
-                          "i18n-iso-countries (MIT). Map: GSHHG by Wessel & Smith (LGPL 3 or later), Natural Earth.");
+    return u"Places: GeoNames (CC BY 4.0, modified), OurAirports, Natural Earth, i18n-iso-countries (MIT). "
+           "Map: GSHHG by Wessel & Smith (LGPL 3 or later), Natural Earth."_s;
 }
 
 }  // namespace Quorbel

@@ -35,7 +35,7 @@ void GatedTool::shut(const QByteArray& text) const
     writeFile(m_directory.filePath(u"shut"_s), text);
 }
 
-void GatedTool::open() const
+void GatedTool::release() const
 {
     QFile::remove(m_directory.filePath(u"shut"_s));
     QFile::remove(m_directory.filePath(u"waits"_s));

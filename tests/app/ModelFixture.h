@@ -14,11 +14,11 @@ namespace Quorbel::Test {
 class GatedTool {
 public:
     GatedTool();
-    ~GatedTool() { open(); }
+    ~GatedTool() { release(); }
     Q_DISABLE_COPY_MOVE(GatedTool)
     MetadataService service() const;
     void shut(const QByteArray& text = {}) const;
-    void open() const;
+    void release() const;
     /// Waits until a run stands at the gate.
     bool waitForRun() const;
 

@@ -261,7 +261,7 @@ void TestAppModelLibrary::lastReadToEndWinsAsAWhole()
     QTRY_COMPARE(f->folderName(), u"fast"_s);
     QCOMPARE(f.visible(), QStringList{ u"fast.jpg"_s });
     QCOMPARE(f->folderURL(), std::optional(f.url(u"fast"_s)));
-    tool.open();
+    tool.release();
     QVERIFY(f.waitUntilIdle());
     QCOMPARE(f->folderName(), u"slow"_s);
     QCOMPARE(f.visible(), QStringList{ u"slow.jpg"_s });

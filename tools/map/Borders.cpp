@@ -10,7 +10,7 @@
 #include <cmath>
 #include <cstring>
 
-namespace Quorbel::MapData {
+namespace Quorbel::MapBuild {
 
 namespace {
 
@@ -179,4 +179,4 @@ MapWriter readBorders(const QString& geopackage)
     return writer;
 }
 
-}  // namespace Quorbel::MapData
+}  // namespace Quorbel::MapBuild

@@ -4,9 +4,9 @@
 
 #include "tools/map/MapWriter.h"
 
-namespace Quorbel::MapData {
+namespace Quorbel::MapBuild {
 
 /// Lines of MapFormat::BorderType.
 MapWriter readBorders(const QString& geopackage);
 
-}  // namespace Quorbel::MapData
+}  // namespace Quorbel::MapBuild

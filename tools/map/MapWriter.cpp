@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Quorbel::MapData {
+namespace Quorbel::MapBuild {
 
 namespace {
 
@@ -134,4 +134,4 @@ void MapWriter::write(const QString& path) const
         throw BuildError(path + QStringLiteral(": ") + file.errorString());
 }
 
-}  // namespace Quorbel::MapData
+}  // namespace Quorbel::MapBuild

@@ -10,7 +10,7 @@
 
 #include <stdexcept>
 
-namespace Quorbel::MapData {
+namespace Quorbel::MapBuild {
 
 class BuildError : public std::runtime_error {
 public:
@@ -70,4 +70,4 @@ private:
     QList<QByteArray> m_bins{};
 };
 
-}  // namespace Quorbel::MapData
+}  // namespace Quorbel::MapBuild

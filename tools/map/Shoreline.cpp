@@ -6,7 +6,7 @@
 #include <array>
 #include <vector>
 
-namespace Quorbel::MapData {
+namespace Quorbel::MapBuild {
 
 namespace {
 
@@ -296,4 +296,4 @@ MapWriter readRivers(const QString& path)
     return writer;
 }
 
-}  // namespace Quorbel::MapData
+}  // namespace Quorbel::MapBuild

@@ -5,11 +5,11 @@
 
 #include "tools/map/MapWriter.h"
 
-namespace Quorbel::MapData {
+namespace Quorbel::MapBuild {
 
 /// Polygons of MapFormat::ShoreType.
 MapWriter readShores(const QString& path);
 /// Permanent rivers, types 0 (wide) to 4 (minor).
 MapWriter readRivers(const QString& path);
 
-}  // namespace Quorbel::MapData
+}  // namespace Quorbel::MapBuild

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Quorbel::MapData {
+namespace Quorbel::MapBuild {
 
 namespace {
 
@@ -96,4 +96,4 @@ MapWriter readTowns(const QString& cities, const QString& landmarks)
     return writer;
 }
 
-}  // namespace Quorbel::MapData
+}  // namespace Quorbel::MapBuild

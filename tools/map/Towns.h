@@ -4,9 +4,9 @@
 
 #include "tools/map/MapWriter.h"
 
-namespace Quorbel::MapData {
+namespace Quorbel::MapBuild {
 
 /// From cities500.txt and landmarks.tsv.
 MapWriter readTowns(const QString& cities, const QString& landmarks);
 
-}  // namespace Quorbel::MapData
+}  // namespace Quorbel::MapBuild

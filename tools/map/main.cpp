@@ -9,7 +9,7 @@
 
 #include <cstdio>
 
-using namespace Quorbel::MapData;
+using namespace Quorbel::MapBuild;
 
 namespace {
 

@@ -1,0 +1,289 @@
+#include "tools/places/StateRaster.h"
+
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QVariant>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstring>
+
+namespace Quorbel::Places {
+
+namespace {
+
+constexpr quint16 sea = 0xFFFF;
+
+using Ring = QList<Point>;
+
+/// One row of the polygons' table.
+struct Polygon {
+    QList<Ring> rings{};
+    QString country{};  ///< ISO alpha-2, or something else where the source knows none
+    QString name{};
+};
+
+/// Reads the geometry of a geopackage: a header, then well-known binary.
+class GeometryReader {
+public:
+    explicit GeometryReader(const QByteArray& bytes)
+        : m_bytes(bytes)
+    {
+    }
+
+    QList<Ring> rings()
+    {
+        constexpr std::array<qsizetype, 5> envelopeSizes{ 0, 32, 48, 48, 64 };
+        skip(3);
+        const auto flags = take<quint8>();
+        const auto envelope = (flags >> 1U) & 7U;
+        if (envelope >= envelopeSizes.size())
+            throw BuildError(QStringLiteral("a geometry with an unknown header"));
+        skip(4 + envelopeSizes[envelope]);
+        QList<Ring> all;
+        readGeometry(all);
+        return all;
+    }
+
+private:
+    static constexpr quint32 polygonType = 3;
+    static constexpr quint32 multiPolygonType = 6;
+
+    void readGeometry(QList<Ring>& all)
+    {
+        if (take<quint8>() != 1)
+            throw BuildError(QStringLiteral("a geometry that is not little-endian"));
+        const auto type = take<quint32>();
+        const auto count = take<quint32>();
+        for (quint32 i = 0; i < count; ++i) {
+            if (type == multiPolygonType)
+                readGeometry(all);
+            else if (type == polygonType)
+                all.append(readRing());
+            else
+                throw BuildError(QStringLiteral("a geometry that is no polygon"));
+        }
+    }
+
+    Ring readRing()
+    {
+        Ring ring;
+        for (auto left = take<quint32>(); left > 0; --left) {
+            const auto longitude = take<double>();
+            ring.append({ take<double>(), longitude });
+        }
+        return ring;
+    }
+
+    void skip(qsizetype count)
+    {
+        if (m_bytes.size() - m_at < count)
+            throw BuildError(QStringLiteral("a geometry that ends too early"));
+        m_at += count;
+    }
+
+    template <typename T>
+    T take()
+    {
+        const auto from = m_at;
+        skip(sizeof(T));
+        T value{};
+        std::memcpy(&value, m_bytes.constData() + from, sizeof(T));
+        return value;
+    }
+
+    const QByteArray& m_bytes;
+    qsizetype m_at = 0;
+};
+
+QList<Polygon> readPolygons(const QString& path)
+{
+    const auto connection = QStringLiteral("polygons");
+    QList<Polygon> polygons;
+    {
+        auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
+        database.setDatabaseName(path);
+        database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+        if (!database.open())
+            throw BuildError(path, database.lastError().text());
+        QSqlQuery query(database);
+        if (!query.exec(QStringLiteral("SELECT geom, iso_a2, name FROM states_provinces ORDER BY fid")))
+            throw BuildError(path, query.lastError().text());
+        while (query.next()) {
+            const auto geometry = query.value(0).toByteArray();
+            if (!geometry.isEmpty())
+                polygons.append(
+                    { GeometryReader(geometry).rings(), query.value(1).toString(), query.value(2).toString() });
+        }
+    }
+    QSqlDatabase::removeDatabase(connection);
+    return polygons;
+}
+
+int rowOf(double latitude)
+{
+    return std::clamp(int(std::floor((latitude + 90) * StateRaster::cellsPerDegree)), 0, StateRaster::rows - 1);
+}
+
+int columnOf(double longitude)
+{
+    const int column = int(std::floor((longitude + 180) * StateRaster::cellsPerDegree));
+    return ((column % StateRaster::columns) + StateRaster::columns) % StateRaster::columns;
+}
+
+double middle(int cell, double start)
+{
+    return start + (cell + 0.5) / StateRaster::cellsPerDegree;
+}
+
+/// Calls visit(row, first column, past the last) for the cells whose middles lie inside the rings (even-odd).
+template <typename Visit>
+void visitInside(const QList<Ring>& rings, Visit visit)
+{
+    QMap<int, QList<double>> crossings;
+    for (const auto& ring : rings) {
+        for (qsizetype i = 1; i < ring.size(); ++i) {
+            const auto [low, high] =
+                std::minmax(ring[i - 1], ring[i], [](auto a, auto b) { return a.latitude < b.latitude; });
+            for (int row = rowOf(low.latitude); row <= rowOf(high.latitude); ++row) {
+                const double y = middle(row, -90);
+                if (low.latitude <= y && y < high.latitude) {
+                    const double along = (y - low.latitude) / (high.latitude - low.latitude);
+                    crossings[row].append(low.longitude + along * (high.longitude - low.longitude));
+                }
+            }
+        }
+    }
+    const auto firstFrom = [](double x) {
+        return std::clamp(int(std::ceil((x + 180) * StateRaster::cellsPerDegree - 0.5)), 0, StateRaster::columns);
+    };
+    for (auto it = crossings.begin(); it != crossings.end(); ++it) {
+        auto& xs = it.value();
+        std::sort(xs.begin(), xs.end());
+        for (qsizetype i = 1; i < xs.size(); i += 2)
+            visit(it.key(), firstFrom(xs[i - 1]), firstFrom(xs[i]));
+    }
+}
+
+using Votes = QMap<int, int>;
+
+int winner(const Votes& votes, int otherwise)
+{
+    int best = otherwise;
+    int most = 0;
+    for (auto it = votes.begin(); it != votes.end(); ++it) {
+        if (it.value() > most) {
+            most = it.value();
+            best = it.key();
+        }
+    }
+    return best;
+}
+
+}  // namespace
+
+StateRaster::StateRaster(const QString& geopackage, const Gazetteer& gazetteer)
+    : m_gazetteer(&gazetteer)
+{
+    const auto polygons = readPolygons(geopackage);
+    if (polygons.size() >= sea)
+        throw BuildError(geopackage, QStringLiteral("too many polygons"));
+    m_cells = QList<quint16>(qsizetype(rows) * columns, sea);
+    for (int i = 0; i < polygons.size(); ++i) {
+        visitInside(polygons[i].rings, [&](int row, int from, int to) {
+            auto* const cells = m_cells.data() + qsizetype(row) * columns;
+            std::fill(cells + from, cells + std::max(from, to), quint16(i));
+        });
+    }
+    // Islets and spits may hold no cell's middle: every cell with a corner of the shore is land too.
+    for (int i = 0; i < polygons.size(); ++i) {
+        for (const auto& ring : polygons[i].rings) {
+            for (const auto& point : ring) {
+                auto& cell = m_cells[qsizetype(rowOf(point.latitude)) * columns + columnOf(point.longitude)];
+                if (cell == sea)
+                    cell = quint16(i);
+            }
+        }
+    }
+
+    QList<Votes> countries(polygons.size());
+    QList<Votes> states(polygons.size());
+    for (const auto& town : gazetteer.entries) {
+        const auto cell = m_cells[qsizetype(rowOf(town.point.latitude)) * columns + columnOf(town.point.longitude)];
+        if (town.kind != Kind::town || cell == sea)
+            continue;
+        ++countries[cell][town.country];
+        if (town.state >= 0)
+            ++states[cell][town.state];
+    }
+    QMap<std::pair<int, int>, quint16> areaNumbers;
+    QList<quint16> areaOf(polygons.size());
+    for (int i = 0; i < polygons.size(); ++i) {
+        Area area;
+        area.country = winner(countries[i], gazetteer.countryOf(polygons[i].country));
+        area.state = winner(states[i], gazetteer.stateNamed(area.country, polygons[i].name));
+        if (area.state >= 0 && gazetteer.states[area.state].country != area.country)
+            area.state = -1;
+        if (area.country < 0) {
+            areaOf[i] = sea;
+            continue;
+        }
+        const auto key = std::pair(area.country, area.state);
+        if (!areaNumbers.contains(key)) {
+            areaNumbers[key] = quint16(m_areas.size());
+            m_areas.append(area);
+        }
+        areaOf[i] = areaNumbers[key];
+    }
+    for (auto& cell : m_cells) {
+        if (cell != sea)
+            cell = areaOf[cell];
+    }
+}
+
+int StateRaster::areaNear(Point point) const
+{
+    if (isEmpty())
+        return -1;
+    const int row = rowOf(point.latitude);
+    const int column = columnOf(point.longitude);
+    if (const auto cell = m_cells[qsizetype(row) * columns + column]; cell != sea)
+        return cell;
+    for (int y = std::max(0, row - 1); y <= std::min(rows - 1, row + 1); ++y) {
+        for (int x = column - 1; x <= column + 1; ++x) {
+            const auto cell = m_cells[qsizetype(y) * columns + (x + columns) % columns];
+            if (cell != sea)
+                return cell;
+        }
+    }
+    return -1;
+}
+
+int StateRaster::stateNear(Point point) const
+{
+    const int area = areaNear(point);
+    return area < 0 ? -1 : m_areas[area].state;
+}
+
+QByteArray StateRaster::runsOfRow(int row) const
+{
+    QByteArray runs;
+    if (isEmpty())
+        return runs;
+    const auto* const cells = m_cells.constData() + qsizetype(row) * columns;
+    bool hasLand = false;
+    for (int column = 0; column < columns; ++column) {
+        if (column > 0 && cells[column] == cells[column - 1])
+            continue;
+        hasLand = hasLand || cells[column] != sea;
+        for (const auto number : { quint16(column), cells[column] }) {
+            runs.append(char(number & 0xFFU));
+            runs.append(char(number >> 8U));
+        }
+    }
+    return hasLand ? runs : QByteArray();
+}
+
+}  // namespace Quorbel::Places
