@@ -43,6 +43,12 @@ public:
         , m_from(cmsOpenProfileFromMemTHR(m_context.get(), icc.constData(), cmsUInt32Number(icc.size())))
     {
     }
+    /// CIE L*a*b* under D50.
+    ToSRGB()
+        : m_context(cmsCreateContext(nullptr, nullptr))
+        , m_from(cmsCreateLab4ProfileTHR(m_context.get(), nullptr))
+    {
+    }
     bool describes(cmsColorSpaceSignature channels) const
     {
         return m_from && cmsGetColorSpace(m_from.get()) == channels;
@@ -130,6 +136,19 @@ QImage ColorManagement::fromCMYK(const QByteArray& pixels, QSize size, const QBy
             to[x] = qRgb((255 - ink[0]) * light / 255, (255 - ink[1]) * light / 255, (255 - ink[2]) * light / 255);
         }
     }
+    return result;
+}
+
+QImage ColorManagement::fromLab(const QByteArray& pixels, QSize size)
+{
+    QImage result(size, QImage::Format_RGB32);
+    const qsizetype rowLength = qsizetype(size.width()) * 3;
+    ToSRGB lab;
+    if (result.isNull() || pixels.size() < rowLength * size.height() || !lab.prepare(TYPE_Lab_8, TYPE_BGRA_8))
+        return {};
+    result.fill(Qt::black);
+    for (int y = 0; y < size.height(); ++y)
+        lab.row(reinterpret_cast<const uchar*>(pixels.constData()) + y * rowLength, result.scanLine(y), size.width());
     return result;
 }
 

@@ -15,4 +15,7 @@ QImage toSRGB(const QImage& image, const QByteArray& icc);
 /// Without a CMYK profile: the plain formula.
 QImage fromCMYK(const QByteArray& pixels, QSize size, const QByteArray& icc);
 
+/// sRGB pixels of CIE L*a*b* in bytes (L from 0 to 255, a and b around 128): width × height × 3 bytes.
+QImage fromLab(const QByteArray& pixels, QSize size);
+
 }  // namespace Quorbel::ColorManagement

@@ -1,16 +1,20 @@
 #include "platform/images/ImageDecoder.h"
 
+#include "platform/images/CmykJpeg.h"
 #include "platform/images/ColorManagement.h"
 #include "platform/images/ExifThumbnail.h"
 #include "platform/images/GuardedFile.h"
 #include "platform/images/HeaderGate.h"
+#include "platform/images/HeifFormat.h"
+#include "platform/images/Jpeg2000Format.h"
+#include "platform/images/JxlFormat.h"
 #include "platform/images/Orientation.h"
+#include "platform/images/PsdFormat.h"
 #include "platform/images/QtFormats.h"
+#include "platform/images/RawFormat.h"
+#include "platform/images/WholeFrameTurn.h"
 
 #include <QBuffer>
-
-#include <chrono>
-#include <mutex>
 
 namespace Quorbel {
 
@@ -18,28 +22,16 @@ namespace {
 
 using Outcome = DecodedImage::Outcome;
 
-/// Held while a large frame is in memory: two at once could double a quarter of a gigabyte on every core.
-class WholeFrameTurn {
-public:
-    /// Waits for its turn, unless the frame is small or the request is cancelled.
-    WholeFrameTurn(qint64 pixels, const std::stop_token& cancel)
-    {
-        constexpr qint64 smallFrame = 4'000'000;
-        static std::timed_mutex turn;
-        if (pixels <= smallFrame)
-            return;
-        m_lock = std::unique_lock(turn, std::defer_lock);
-        while (!cancel.stop_requested() && !m_lock.try_lock_for(std::chrono::milliseconds(20))) { }
-    }
-
-private:
-    std::unique_lock<std::timed_mutex> m_lock;
-};
-
 DecodedFrame withOutcome(Outcome outcome)
 {
     DecodedFrame frame;
     frame.outcome = outcome;
+    return frame;
+}
+
+DecodedFrame turnedAs(const ImageHeader& header, DecodedFrame frame)
+{
+    frame.orientation = header.orientation;
     return frame;
 }
 
@@ -50,8 +42,9 @@ DecodedFrame decodeQtFormat(const DecodeSource& source, ImageFormat format)
         return withOutcome(Outcome::damaged);
     if (!HeaderGate::allows(*header, source.device.size()))
         return withOutcome(Outcome::tooLarge);
-    const qint64 pixels = qint64(header->size.width()) * header->size.height();
-    const WholeFrameTurn turn(header->wholeFrame ? pixels : 0, source.cancel);
+    if (format == ImageFormat::jpeg && header->components == 4)
+        return turnedAs(*header, CmykJpeg::decode(source));
+    const WholeFrameTurn turn(header->wholeFrame ? header->size : QSize(), source.cancel);
     return QtFormats::decode(source, format, *header);
 }
 
@@ -64,8 +57,18 @@ DecodedFrame decodeFrame(const DecodeSource& source)
     case ImageFormat::webp:
     case ImageFormat::tiff:
         return decodeQtFormat(source, format);
+    case ImageFormat::heif:
+    case ImageFormat::avif:
+        return HeifFormat::decode(source);
+    case ImageFormat::jxl:
+        return JxlFormat::decode(source);
+    case ImageFormat::jp2:
+    case ImageFormat::j2k:
+        return Jpeg2000Format::decode(source, format);
+    case ImageFormat::psd:
+        return PsdFormat::decode(source);
     case ImageFormat::raw:
-        return withOutcome(Outcome::needsTool);
+        return RawFormat::decode(source);
     default:
         return withOutcome(Outcome::unsupported);
     }
@@ -122,15 +125,24 @@ bool ImageDecoder::hasOrientation(const QByteArray& bytes)
 
 QImage ImageDecoder::embeddedThumbnail(const QString& path, const std::stop_token& cancel)
 {
+    constexpr int placeholderSide = 320;
     GuardedFile file(path, cancel);
     if (!file.openRegular())
         return {};
     const ImageFormat format = detectFormat(file, path);
-    const auto header = HeaderGate::read(file, format);
-    if (!header)
+    const DecodeSource source{ .device = file, .path = path, .longSide = placeholderSide, .cancel = cancel };
+    DecodedFrame frame;
+    if (format == ImageFormat::heif || format == ImageFormat::avif) {
+        frame = HeifFormat::thumbnail(source);
+    } else if (format == ImageFormat::psd) {
+        frame = PsdFormat::thumbnail(source);
+    } else if (const auto header = HeaderGate::read(file, format)) {
+        frame.image = ExifThumbnail::croppedToAspect(ExifThumbnail::read(file, *header), header->size);
+        frame.orientation = header->orientation;
+    }
+    if (frame.image.isNull())
         return {};
-    const QImage image = ExifThumbnail::croppedToAspect(ExifThumbnail::read(file, *header), header->size);
-    return image.isNull() ? image : Orientation::upright(ColorManagement::toSRGB(image, {}), header->orientation);
+    return Orientation::upright(ColorManagement::toSRGB(frame.image, frame.icc), frame.orientation);
 }
 
 }  // namespace Quorbel
