@@ -100,9 +100,9 @@ std::optional<ImageHeader> readPng(QIODevice& device)
     const int depth = quint8(start[24]), colourType = quint8(start[25]), interlace = quint8(start[28]);
     const bool trueColour = colourType == 2 || colourType == 6;
     header.wholeFrame = interlace != 0 || !trueColour || depth != 8;
-    bool tagged = false;
+    bool tagged = false, pixelsBegun = false;
     qint64 at = 33;
-    for (int i = 0; i < maxChunks && header.exifAt < 0; ++i) {
+    for (int i = 0; i < maxChunks && (!pixelsBegun || header.exifAt < 0); ++i) {
         device.seek(at);
         const QByteArray chunk = device.read(12);
         if (chunk.size() < 12)
@@ -114,6 +114,8 @@ std::optional<ImageHeader> readPng(QIODevice& device)
             tagged = true;
         else if (name == "eXIf")
             header.exifAt = at + 8;
+        else if (name == "IDAT")
+            pixelsBegun = true;  // a profile stands before the pixels, EXIF may follow them
         else if (name == "IEND")
             break;
         at += 12 + qint64(big32(chunk, 0));

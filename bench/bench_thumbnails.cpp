@@ -1,0 +1,262 @@
+// What thumbnails and previews cost, in user processor time, against the programs that are known to be quick at it.
+// Both sides decode the same distinct files in one run and end in a JPEG. The baseline's start-up is taken off.
+// Usage: bench_thumbnails   (QUORBEL_TEST_PHOTOS may name a folder of real photos, which then join in)
+#include "platform/images/ImageDecoder.h"
+#include "tests/platform/ImageFiles.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QPainter>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Quorbel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Something with the statistics of a photo: soft shapes at all scales, and grain.
+QImage scene(QSize size, quint32 seed)
+{
+    QRandomGenerator random(seed);
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::gray);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    for (int across = 4; across <= 1024; across *= 3) {
+        QImage octave(across, across * 2 / 3, QImage::Format_RGB32);
+        for (int y = 0; y < octave.height(); ++y)
+            for (int x = 0; x < across; ++x)
+                octave.setPixel(x, y, random.generate() | 0xFF000000);
+        painter.setOpacity(across == 4 ? 1 : 0.35);
+        painter.drawImage(image.rect(), octave);
+    }
+    painter.end();
+    for (int y = 0; y < size.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < size.width(); ++x) {
+            const int grain = int(random.generate() & 7) - 4;
+            const auto part = [&](int value) { return qBound(0, value + grain, 255); };
+            row[x] = qRgb(part(qRed(row[x])), part(qGreen(row[x])), part(qBlue(row[x])));
+        }
+    }
+    return image;
+}
+
+double seconds(const timeval& time)
+{
+    return double(time.tv_sec) + double(time.tv_usec) / 1e6;
+}
+
+/// User seconds of a child that does `work` and ends.
+double userTime(const std::function<void()>& work)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        work();
+        _exit(0);
+    }
+    int status = 0;
+    rusage usage{};
+    wait4(child, &status, 0, &usage);
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
+        std::printf("   (a run failed: status %d)\n", status);
+    return seconds(usage.ru_utime);
+}
+
+double programTime(const QStringList& command)
+{
+    std::vector<QByteArray> bytes;
+    for (const QString& argument : command)
+        bytes.push_back(QFile::encodeName(argument));
+    std::vector<char*> pointers;
+    for (QByteArray& argument : bytes)
+        pointers.push_back(argument.data());
+    pointers.push_back(nullptr);
+    return userTime([&] {
+        setenv("VIPS_CONCURRENCY", "1", 1);
+        setenv("MAGICK_THREAD_LIMIT", "1", 1);
+        execvp(pointers[0], pointers.data());
+        _exit(127);
+    });
+}
+
+QByteArray asJpeg(const QImage& image)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, "jpeg");
+    writer.setQuality(75);  // as vipsthumbnail does
+    writer.write(image);
+    return bytes;
+}
+
+void decodeAll(const QStringList& files, int longSide)
+{
+    for (const QString& file : files) {
+        const DecodedImage image = ImageDecoder::decode(file, longSide);
+        if (asJpeg(image.image).isEmpty())
+            std::printf("   (not decoded: %s)\n", qPrintable(file));
+    }
+}
+
+void embeddedAll(const QStringList& files)
+{
+    for (const QString& file : files)
+        ImageDecoder::embeddedThumbnail(file);
+}
+
+class Bench {
+public:
+    void run()
+    {
+        const QStringList large = synthetic("large.jpg", 6, { 6000, 4000 }, &Bench::jpeg);
+        compare("JPEG of 24 megapixels to 256", 0.90, large, 256);
+        compare("JPEG of 24 megapixels to 1,400", 0.65, large, 1400);
+        const QStringList folder =
+            synthetic("camera.jpg", 30, { 2400, 1600 }, &Bench::jpeg) + real(u"jpg"_s, 1'000'000);
+        compare("folder of camera JPEGs to 256", 0.65, folder, 256);
+        compare("first pass from embedded thumbnails", 0.05, folder, 256, true);
+        const QStringList phones = real(u"heic"_s, 8'000'000);
+        if (!phones.isEmpty())
+            compare("real HEIC with a thumbnail to 256", 0.20, phones, 256);
+        compare("HEIC of 6 megapixels with a thumbnail to 256", 0.20,
+            synthetic("thumb.heic", 3, middle, &Bench::heicWithThumbnail), 256);
+        compare("HEIC of 6 megapixels, whole, to 1,400", 1.10, synthetic("whole.heic", 3, middle, &Bench::heic), 1400);
+        compare("AVIF of 6 megapixels to 256", 1.10, synthetic("a.avif", 3, middle, &Bench::avif), 256);
+        compare("JPEG XL of 6 megapixels to 256", 1.10, synthetic("a.jxl", 3, middle, &Bench::jxl), 256);
+        compare("PNG of 6 megapixels to 256", 1.10, synthetic("a.png", 4, middle, &Bench::png), 256);
+        compare("PNG of 6 megapixels to 1,400", 1.10, synthetic("b.png", 4, middle, &Bench::png), 1400);
+        compare("WebP of 6 megapixels to 256", 1.10, synthetic("a.webp", 4, middle, &Bench::webp), 256);
+        compareWithMagick("JPEG 2000 of 6 megapixels to 256", 0.05, synthetic("a.jp2", 2, middle, &Bench::jp2), 256);
+        bombs();
+    }
+
+private:
+    static constexpr QSize middle{ 3000, 2000 };
+
+    static QByteArray jpeg(const QImage& image)
+    {
+        const QImage small = image.scaled(160, 107, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        const QByteArray exif = ImageFiles::exifBlock(1, ImageFiles::written(small, "jpg", 80));
+        return ImageFiles::withExif(ImageFiles::written(image, "jpg", 90), exif);
+    }
+    static QByteArray heic(const QImage& image) { return ImageFiles::heif(image, false); }
+    static QByteArray heicWithThumbnail(const QImage& image) { return ImageFiles::heif(image, false, 320); }
+    static QByteArray avif(const QImage& image) { return ImageFiles::heif(image, true); }
+    static QByteArray jxl(const QImage& image) { return ImageFiles::jxl(image); }
+    static QByteArray png(const QImage& image) { return ImageFiles::written(image, "png", 50); }
+    static QByteArray webp(const QImage& image) { return ImageFiles::written(image, "webp", 85); }
+    static QByteArray jp2(const QImage& image) { return ImageFiles::jpeg2000(image, true); }
+
+    QStringList synthetic(const char* name, int count, QSize size, QByteArray (*encode)(const QImage&))
+    {
+        QStringList files;
+        for (int i = 0; i < count; ++i) {
+            QFile file(m_folder.filePath(u"%1-%2"_s.arg(i).arg(QLatin1StringView(name))));
+            if (file.open(QIODevice::WriteOnly) && file.write(encode(scene(size, quint32(i + 1)))) > 0)
+                files.append(file.fileName());
+        }
+        return files;
+    }
+
+    /// Real photos of that extension with at least so many pixels (JPEG) or which hold a thumbnail (HEIC).
+    static QStringList real(const QString& extension, qint64 pixels)
+    {
+        QStringList files;
+        const QString root = qEnvironmentVariable("QUORBEL_TEST_PHOTOS") + u"/valid"_s;
+        for (QDirIterator it(root, { u"*."_s + extension }, QDir::Files); it.hasNext();) {
+            const QString path = it.next();
+            const QSize size = QImageReader(path).size();
+            if (extension == u"heic" ? !ImageDecoder::embeddedThumbnail(path).isNull()
+                                     : qint64(size.width()) * size.height() >= pixels)
+                files.append(path);
+        }
+        return files;
+    }
+
+    void compare(const char* what, double target, const QStringList& files, int longSide, bool embedded = false)
+    {
+        const QString out = m_folder.filePath(u"out-%s.jpg"_s);
+        const QStringList command{ u"vipsthumbnail"_s, u"--size"_s, QString::number(longSide), u"-o"_s, out };
+        QImage dot(1, 1, QImage::Format_RGB32);
+        const QString dotFile = m_folder.filePath(u"dot.jpg"_s);
+        dot.save(dotFile);
+        report(
+            what, target, files.size(), [&] { embedded ? embeddedAll(files) : decodeAll(files, longSide); },
+            [&] { return programTime(command + files) - programTime(command + QStringList{ dotFile }); },
+            "vipsthumbnail");
+    }
+
+    void compareWithMagick(const char* what, double target, const QStringList& files, int longSide)
+    {
+        const QString size = u"%1x%1"_s.arg(longSide);
+        report(
+            what, target, files.size(), [&] { decodeAll(files, longSide); },
+            [&] {
+                double sum = 0;
+                for (const QString& file : files)
+                    sum += programTime(
+                        { u"/usr/bin/convert-im6.q16"_s, file, u"-resize"_s, size, m_folder.filePath(u"m.jpg"_s) });
+                return sum;
+            },
+            "convert");
+    }
+
+    /// The least of three rounds on each side: what the machine does besides only ever adds.
+    static void report(const char* what, double target, qsizetype count, const std::function<void()>& ours,
+        const std::function<double()>& baseline, const char* name)
+    {
+        double mine = 1e9, theirs = 1e9;
+        for (int round = 0; round < 3; ++round) {
+            mine = std::min(mine, userTime(ours));
+            theirs = std::min(theirs, baseline());
+        }
+        std::printf("%-48s %3d files  %8.2f ms  %s %8.2f ms  ratio %.3f  (at most %.2f)%s\n", what, int(count),
+            mine * 1000 / double(count), name, theirs * 1000 / double(count), mine / theirs, target,
+            mine <= target * theirs ? "" : "  MISSED");
+        std::fflush(stdout);
+    }
+
+    /// Wall time from opening to refusal.
+    void bombs()
+    {
+        for (const char* format : { "progressive jpg", "png", "gif", "webp", "tiff", "psd", "j2k", "j2k of many tiles",
+                 "jxl", "heic", "avif" }) {
+            QFile file(m_folder.filePath(u"bomb"_s));
+            if (!file.open(QIODevice::WriteOnly))
+                return;
+            file.write(ImageFiles::bomb(format));
+            file.close();
+            QElapsedTimer clock;
+            clock.start();
+            const auto outcome = ImageDecoder::decode(file.fileName(), 256).outcome;
+            const double ms = double(clock.nsecsElapsed()) / 1e6;
+            std::printf("bomb header, %-35s %8.2f ms  (at most 50)%s\n", format, ms,
+                outcome == DecodedImage::Outcome::tooLarge && ms <= 50 ? "" : "  MISSED");
+        }
+    }
+
+    QTemporaryDir m_folder;
+};
+
+}  // namespace
+
+int main()
+{
+    Bench().run();
+    return 0;
+}
