@@ -16,6 +16,8 @@ using State = ThumbnailStore::State;
 
 namespace {
 
+constexpr int longest = 20000;  // milliseconds; only a failing test, or a very busy machine, waits that long
+
 QUrl photo(int number)
 {
     return QUrl::fromLocalFile(u"/photos/%1.jpg"_s.arg(number));
@@ -39,7 +41,7 @@ DecodedImage picture(QSize size, QColor color = Qt::gray)
 /// QTRY_ looks ten milliseconds apart, which is long for thousands of small jobs.
 bool becomesReady(const ThumbnailStore& store, const QUrl& url, Kind kind)
 {
-    const QDeadlineTimer end(5000);
+    const QDeadlineTimer end(20000);
     while (store.entry(url, kind).state != State::ready && !end.hasExpired()) {
         QCoreApplication::processEvents();
         QThread::usleep(50);
@@ -56,6 +58,7 @@ public:
         options.workers = 1;
         options.embedded = [](const QString&, const std::stop_token&) { return QImage(); };
         options.decode = [this](const QString& path, int longSide, const std::stop_token& stop) {
+            ++m_entered;
             while (m_closed && !stop.stop_requested())
                 QThread::msleep(1);
             const std::scoped_lock lock(m_mutex);
@@ -65,6 +68,13 @@ public:
         return options;
     }
     void setClosed(bool closed) { m_closed = closed; }
+    /// Lets the store come as far as its first decoding, at the closed gate.
+    bool waitForEntry() const
+    {
+        const bool entered = QTest::qWaitFor([this] { return m_entered > 0; }, 20000);
+        QCoreApplication::processEvents();
+        return entered;
+    }
     QList<QUrl> decoded()
     {
         const std::scoped_lock lock(m_mutex);
@@ -73,6 +83,7 @@ public:
 
 private:
     std::atomic<bool> m_closed = false;
+    std::atomic<int> m_entered = 0;
     std::mutex m_mutex;
     QList<QUrl> m_decoded;
 };
@@ -95,8 +106,8 @@ private slots:
         QCOMPARE(store.entry(url, Kind::small).state, State::none);
         QCOMPARE(store.request(url, Kind::small).state, State::loading);
         store.request(url, Kind::preview);
-        QTRY_COMPARE(store.entry(url, Kind::small).state, State::ready);
-        QTRY_COMPARE(store.entry(url, Kind::preview).state, State::ready);
+        QTRY_COMPARE_WITH_TIMEOUT(store.entry(url, Kind::small).state, State::ready, longest);
+        QTRY_COMPARE_WITH_TIMEOUT(store.entry(url, Kind::preview).state, State::ready, longest);
         QCOMPARE(store.entry(url, Kind::small).image.size(), QSize(90, 60));
         QCOMPARE(store.entry(url, Kind::preview).image.size(), QSize(600, 400));
     }
@@ -111,7 +122,7 @@ private slots:
             QTest::qWait(2);
         }
         fake.setClosed(false);
-        QTRY_COMPARE(store.entry(photo(1), Kind::small).state, State::ready);
+        QTRY_COMPARE_WITH_TIMEOUT(store.entry(photo(1), Kind::small).state, State::ready, longest);
         QCOMPARE(fake.decoded().size(), 1);
     }
 
@@ -136,7 +147,7 @@ private slots:
         for (const QUrl& url : last)
             store.request(url, Kind::small);
         fake.setClosed(false);
-        QTRY_COMPARE(painted.size(), 2 * rows);
+        QTRY_COMPARE_WITH_TIMEOUT(painted.size(), 2 * rows, longest);
         QTest::qWait(20);
 
         QList<QUrl> shown = fake.decoded();
@@ -182,12 +193,12 @@ private slots:
         ThumbnailStore store(fake.options());
         store.request(photo(0), Kind::small);
         store.request(photo(1), Kind::small);
-        QTest::qWait(20);  // both have been looked at; the one worker and its reserve hold them
+        QVERIFY(fake.waitForEntry());  // now the one worker and its reserve hold both
         for (const QUrl& url : photos(2, 6))
             store.request(url, Kind::small);
         store.request(photo(9), Kind::preview);
         fake.setClosed(false);
-        QTRY_COMPARE(fake.decoded().size(), 7);
+        QTRY_COMPARE_WITH_TIMEOUT(fake.decoded().size(), 7, longest);
         QCOMPARE(fake.decoded().sliced(2), (QList<QUrl>{ photo(9), photo(5), photo(4), photo(3), photo(2) }));
     }
 
@@ -199,10 +210,10 @@ private slots:
         options.embedded = [](const QString&, const std::stop_token&) { return picture(QSize(16, 12), Qt::red).image; };
         ThumbnailStore store(options);
         store.request(photo(1), Kind::small);
-        QTRY_COMPARE(store.entry(photo(1), Kind::small).state, State::placeholder);
+        QTRY_COMPARE_WITH_TIMEOUT(store.entry(photo(1), Kind::small).state, State::placeholder, longest);
         QCOMPARE(store.entry(photo(1), Kind::small).image.size(), QSize(16, 12));
         fake.setClosed(false);
-        QTRY_COMPARE(store.entry(photo(1), Kind::small).state, State::ready);
+        QTRY_COMPARE_WITH_TIMEOUT(store.entry(photo(1), Kind::small).state, State::ready, longest);
         QCOMPARE(store.entry(photo(1), Kind::small).image.size(), QSize(90, 60));
     }
 
@@ -217,7 +228,7 @@ private slots:
         ThumbnailStore store;
         QSignalSpy changes(&store, &ThumbnailStore::entryChanged);
         store.request(url, Kind::small);
-        QTRY_COMPARE(store.entry(url, Kind::small).state, State::badge);
+        QTRY_COMPARE_WITH_TIMEOUT(store.entry(url, Kind::small).state, State::badge, longest);
         QCOMPARE(store.request(url, Kind::small).state, State::badge);
         QTest::qWait(20);
         QCOMPARE(changes.size(), 1);
@@ -226,7 +237,7 @@ private slots:
         store.invalidate({ url });
         QCOMPARE(store.entry(url, Kind::small).state, State::none);
         store.request(url, Kind::small);
-        QTRY_COMPARE(store.entry(url, Kind::small).state, State::ready);
+        QTRY_COMPARE_WITH_TIMEOUT(store.entry(url, Kind::small).state, State::ready, longest);
     }
 
     void invalidatedPhotoIsMadeAnewFromDisk()
@@ -239,12 +250,12 @@ private slots:
         options.cacheFolder = folder.filePath(u"cache"_s);
         ThumbnailStore store(options);
         store.request(url, Kind::small);
-        QTRY_COMPARE(store.entry(url, Kind::small).state, State::ready);
+        QTRY_COMPARE_WITH_TIMEOUT(store.entry(url, Kind::small).state, State::ready, longest);
         QVERIFY(picture(QSize(30, 20), Qt::blue).image.save(path));
         store.invalidate({ url });
         QCOMPARE(store.entry(url, Kind::small).state, State::placeholder);
         store.request(url, Kind::small);
-        QTRY_COMPARE(store.entry(url, Kind::small).state, State::ready);
+        QTRY_COMPARE_WITH_TIMEOUT(store.entry(url, Kind::small).state, State::ready, longest);
         QCOMPARE(store.entry(url, Kind::small).image.pixelColor(5, 5), QColor(Qt::blue));
     }
 
@@ -255,10 +266,10 @@ private slots:
         ThumbnailStore store(fake.options());
         QSignalSpy changes(&store, &ThumbnailStore::entryChanged);
         store.request(photo(1), Kind::small);
-        QTest::qWait(20);
+        QVERIFY(fake.waitForEntry());
         store.invalidate({ photo(1) });
         fake.setClosed(false);
-        QTRY_VERIFY(!fake.decoded().isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(!fake.decoded().isEmpty(), longest);
         QTest::qWait(20);
         QCOMPARE(store.entry(photo(1), Kind::small).state, State::none);
         QCOMPARE(changes.size(), 1);
@@ -269,11 +280,11 @@ private slots:
         FakeDecoder fake;
         ThumbnailStore store(fake.options());
         store.request(photo(1), Kind::small);
-        QTRY_COMPARE(store.entry(photo(1), Kind::small).state, State::ready);
+        QTRY_COMPARE_WITH_TIMEOUT(store.entry(photo(1), Kind::small).state, State::ready, longest);
         store.setDevicePixelRatio(2);
         QCOMPARE(store.entry(photo(1), Kind::small).state, State::placeholder);
         store.request(photo(1), Kind::small);
-        QTRY_COMPARE(store.entry(photo(1), Kind::small).image.width(), 180);
+        QTRY_COMPARE_WITH_TIMEOUT(store.entry(photo(1), Kind::small).image.width(), 180, longest);
     }
 
     void secondStoreReadsTheDiskCache()
@@ -288,7 +299,7 @@ private slots:
         for (int run = 0; run < 2; ++run) {
             ThumbnailStore store(options);
             store.request(url, Kind::small);
-            QTRY_COMPARE(store.entry(url, Kind::small).state, State::ready);
+            QTRY_COMPARE_WITH_TIMEOUT(store.entry(url, Kind::small).state, State::ready, longest);
             QCOMPARE(store.entry(url, Kind::small).image.size(), QSize(90, 60));
         }
         QCOMPARE(fake.decoded().size(), 1);
@@ -304,7 +315,7 @@ private slots:
             ThumbnailStore store(fake.options());
             for (const QUrl& url : photos(0, 100))
                 store.request(url, Kind::small);
-            QTest::qWait(20);
+            QVERIFY(fake.waitForEntry());
         }
         // Nothing is left that waits at the gate: the fake may go too.
         QVERIFY(fake.decoded().size() <= 2);
