@@ -178,6 +178,11 @@ public:
     QList<CustomValue> visibleCustomFields() const;
     /// Lays a picked place into the place fields of the draft or the batch.
     void applyLocation(const LocationFill::Result& result);
+    /// The same without the position: names for coordinates that are there already.
+    void fillPlaceNames(const LocationFill::Result& result);
+    /// Whether a field of one value holds nothing but blanks now, in the draft or the batch. One whose photos differ
+    /// is not empty.
+    bool isFieldEmpty(const QString& id) const;
     /// Keywords of the open photos that begin with the text (any case), the most used first; at most `limit`.
     QStringList keywordCompletions(const QString& prefix, int limit) const;
 
@@ -195,6 +200,8 @@ public:
     void removeBatchListItem(const QString& id, const QString& item);
     /// Empties a list field's batch entry (its tick taken out).
     void clearBatchList(const QString& id);
+    /// Takes a custom field out of what will be written, or puts it in, empty.
+    void toggleBatchCustom(const QString& name);
 
     // --- Saving ---
     bool saveOpen() const { return m_saveOpen; }
@@ -386,7 +393,7 @@ private:
     void clearBatch();
     void foldBatchIntoDraft();
     bool isShown(const FieldSpec& field) const;
-    bool isFieldEmpty(const QString& id) const;
+    void assignPlace(const LocationFill::Result& result, bool withPosition);
     // Saving
     void saveSingle();
     void saveBatch();

@@ -75,6 +75,15 @@ void AppModel::clearBatchList(const QString& id)
         announce(&AppModel::batchListsChanged);
 }
 
+void AppModel::toggleBatchCustom(const QString& name)
+{
+    requireMainThread("toggleBatchCustom");
+    QList<CustomValue> customs = m_batchCustoms;
+    if (customs.removeIf([&name](const CustomValue& custom) { return custom.name == name; }) == 0)
+        customs.append({ name, QString() });
+    assign(m_batchCustoms, customs, &AppModel::batchCustomsChanged);
+}
+
 void AppModel::clearBatch()
 {
     const Update update(*this);

@@ -222,6 +222,7 @@ QList<CustomValue> AppModel::visibleCustomFields() const
 
 bool AppModel::isFieldEmpty(const QString& id) const
 {
+    requireMainThread("isFieldEmpty");
     if (!isBatch())
         return Text::trimmed(m_draftValues.value(id)).isEmpty();
     if (m_batchInclude.contains(id))
@@ -234,9 +235,22 @@ bool AppModel::isFieldEmpty(const QString& id) const
 void AppModel::applyLocation(const LocationFill::Result& result)
 {
     requireMainThread("applyLocation");
+    assignPlace(result, true);
+}
+
+void AppModel::fillPlaceNames(const LocationFill::Result& result)
+{
+    requireMainThread("fillPlaceNames");
+    assignPlace(result, false);
+}
+
+void AppModel::assignPlace(const LocationFill::Result& result, bool withPosition)
+{
     const Update update(*this);
     const auto assignments = LocationFill::assignments(result, [this](const QString& id) { return isFieldEmpty(id); });
     for (const LocationFill::Assignment& assignment : assignments) {
+        if (!withPosition && assignment.id == u"coords"_s)
+            continue;
         if (isBatch())
             setBatch(assignment.id, assignment.value);
         else

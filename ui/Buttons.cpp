@@ -306,7 +306,7 @@ void QBTextButton::paintEvent(QPaintEvent*)
         paintBox(painter, rect(), pxF(6), ground, Qt::NoPen);
     }
     QFont titleFont = font();
-    titleFont.setUnderline(m_link && (fade()->hover() > .5));
+    titleFont.setUnderline(m_link);
     painter.setFont(titleFont);
     painter.setPen(stateColor(*fade(), theme.derived.label, theme.text, theme.text));
     const int padding = px(m_link ? 2 : 8);

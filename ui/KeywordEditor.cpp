@@ -199,6 +199,8 @@ void KeywordEditor::setChips(const QStringList& chips)
 
 void KeywordEditor::setAmber(bool amber)
 {
+    if (amber == m_amber)
+        return;
     m_amber = amber;
     setChips(m_chips);
 }

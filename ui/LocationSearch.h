@@ -32,8 +32,9 @@ public:
     void update(const QString& query);
     /// Drops the pending query and the answer under way; the suggestions stay.
     void cancel();
-    /// Calls back once, unless a later resolve() or the end of this object comes first.
+    /// Calls back once, unless a later resolve(), abandonPick() or the end of this object comes first.
     void resolve(const PlaceSuggestion& suggestion, std::function<void(const Answer&)> done);
+    void abandonPick() { m_resolving.reset(); }
     /// Places near this point come first among equals.
     void setBias(std::optional<GeoPoint> point) { m_bias = point; }
 

@@ -98,6 +98,13 @@ void LocationSearchField::close()
     m_list->dismiss();
 }
 
+void LocationSearchField::abandon()
+{
+    m_programmaticText.reset();
+    close();
+    m_search.abandonPick();
+}
+
 void LocationSearchField::keyPressEvent(QKeyEvent* event)
 {
     const bool closing = event->key() == Qt::Key_Escape && showsSuggestions();

@@ -19,6 +19,8 @@ public:
     void setBias(std::optional<GeoPoint> point);
     /// Whether the dropdown is open.
     bool showsSuggestions() const;
+    /// Drops the search and the pick under way: the field shows the place of another thing now.
+    void abandon();
 
 signals:
     /// A place was picked and resolved; the owner fills the place fields with it.

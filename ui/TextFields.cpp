@@ -235,8 +235,12 @@ void QBTextArea::restyle()
 
 void QBTextArea::setBoundText(const QString& text)
 {
-    if (text == toPlainText())
-        return;
+    if (text != toPlainText())
+        startText(text);
+}
+
+void QBTextArea::startText(const QString& text)
+{
     m_binding = true;
     setPlainText(text);
     m_binding = false;

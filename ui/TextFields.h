@@ -19,6 +19,8 @@ public:
     /// Shows the value; keeps the cursor and the undo history when it is what the field shows already. Emits no
     /// textEdited().
     void setBoundText(const QString& text);
+    /// The same, for the value of another thing: forgets the undo history even when the texts are equal.
+    void startText(const QString& text) { setText(text); }
     const QString& placeholder() const { return m_placeholder; }
     void setPlaceholder(const QString& text, bool italic = false);
     bool isEdited() const { return m_edited; }
@@ -61,6 +63,8 @@ public:
     QString text() const { return toPlainText(); }
     const QString& placeholder() const { return m_placeholder; }
     void setBoundText(const QString& text);
+    /// As QBTextField::startText().
+    void startText(const QString& text);
     void setPlaceholder(const QString& text, bool italic = false);
     bool isEdited() const { return m_edited; }
     void setEdited(bool edited);

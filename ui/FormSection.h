@@ -1,0 +1,37 @@
+// A section of the inspector's form: its title, its rows, and what belongs under them.
+// Thread: the main thread.
+#pragma once
+
+#include <QWidget>
+
+class QVBoxLayout;
+
+namespace Quorbel {
+
+class FieldRow;
+
+class FormSection final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(FormSection)
+
+public:
+    explicit FormSection(const QString& title, const QString& note = {}, QWidget* parent = nullptr);
+    /// Points left free at the left of everything, for the edited dots.
+    static constexpr qreal dotRoom = 12;
+
+    /// Shows these rows, in this order; those shown before and not among them are hidden. The rows stay the caller's,
+    /// and become children of this.
+    void setRows(const QList<FieldRow*>& rows);
+    const QList<FieldRow*>& rows() const { return m_rows; }
+    void setUnderRows(QWidget* widget);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QVBoxLayout* m_column;
+    QVBoxLayout* m_rowColumn;
+    QList<FieldRow*> m_rows;
+};
+
+}  // namespace Quorbel

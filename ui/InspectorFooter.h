@@ -1,0 +1,38 @@
+// The bar under the inspector's form: what is unsaved, and the buttons.
+// Thread: the main thread. Shows the model and calls it.
+#pragma once
+
+#include <QWidget>
+
+namespace Quorbel {
+
+class AppModel;
+class QBButton;
+class TwoLineLabel;
+
+class InspectorFooter final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(InspectorFooter)
+
+public:
+    /// The model must outlive this.
+    explicit InspectorFooter(AppModel& model, QWidget* parent = nullptr);
+    /// Reads the model again. Without a photo to edit the bar stays empty.
+    void refresh(bool hasPhoto);
+    QString unsavedText() const;
+    QBButton* renameButton() const { return m_rename; }
+    QBButton* addButton() const { return m_add; }
+    QBButton* saveButton() const { return m_save; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    AppModel& m_model;
+    TwoLineLabel* m_unsaved;
+    QBButton* m_rename;
+    QBButton* m_add;
+    QBButton* m_save;
+};
+
+}  // namespace Quorbel

@@ -1,0 +1,49 @@
+// The middle column: the form in which the metadata of the selected photos is read and edited, and its footer.
+// Thread: the main thread. Keeps no state of its own: it shows AppModel and calls it.
+#pragma once
+
+#include <QWidget>
+
+class QScrollArea;
+
+namespace Quorbel {
+
+class AppModel;
+class InspectorFooter;
+class InspectorForm;
+class MapRenderer;
+class PlaceProvider;
+class ThemedLabel;
+class ThumbnailStore;
+
+class InspectorView final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(InspectorView)
+
+public:
+    /// All but the model may be null. Nothing is owned, and everything must outlive this.
+    InspectorView(
+        AppModel& model, ThumbnailStore* thumbs, PlaceProvider* places, MapRenderer* maps, QWidget* parent = nullptr);
+
+    /// Keeps this many pixels free below the last row, so that the form scrolls clear of what is laid over it.
+    void setBottomInset(int pixels);
+    InspectorForm* form() const { return m_form; }
+    InspectorFooter* footer() const { return m_footer; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void connectModel();
+    void refresh();
+    void revealFocus();
+
+    AppModel& m_model;
+    QScrollArea* m_scroll;
+    InspectorForm* m_form;
+    ThemedLabel* m_nothing;
+    InspectorFooter* m_footer;
+};
+
+}  // namespace Quorbel
