@@ -1,6 +1,8 @@
 #include "platform/places/PlaceProvider.h"
 
+#include "platform/places/CombinedPlaceProvider.h"
 #include "platform/places/OfflinePlaceProvider.h"
+#include "platform/places/OnlinePlaceProvider.h"
 
 #include <QHostAddress>
 
@@ -27,7 +29,13 @@ std::optional<QUrl> placeEndpoint(const QString& typed)
 
 std::unique_ptr<PlaceProvider> makePlaceProvider(const PlaceOptions& options)
 {
-    return std::make_unique<OfflinePlaceProvider>(options.dataFolder);
+    auto offline = std::make_unique<OfflinePlaceProvider>(options.dataFolder);
+    const auto endpoint = placeEndpoint(options.endpoint.toString(QUrl::FullyEncoded));
+    if (!endpoint)
+        return offline;
+    OnlinePlaceOptions online;
+    online.endpoint = *endpoint;
+    return std::make_unique<CombinedPlaceProvider>(std::move(offline), std::make_unique<OnlinePlaceProvider>(online));
 }
 
 }  // namespace Quorbel
