@@ -63,8 +63,9 @@ protected:
             follow();
             break;
         case QEvent::Paint:
-            // The control repaints when its edited state changes: so must the ring.
-            if (watched == m_control)
+            // The control repaints when its edited state changes: so must the ring. Only then: the ring lies over the
+            // control's edge, and its repaint is another one of the control.
+            if (watched == m_control && isAmber() != m_paintedAmber)
                 update();
             break;
         default:
@@ -81,9 +82,9 @@ protected:
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setOpacity(m_opacity);
-        const bool amber = m_options.amber && m_options.amber();
+        m_paintedAmber = isAmber();
         if (m_options.shape == RingShape::field) {
-            stroke(painter, 0, 2, amber ? theme.derived.ringAmber : theme.derived.ring);
+            stroke(painter, 0, 2, m_paintedAmber ? theme.derived.ringAmber : theme.derived.ring);
             return;
         }
         const qreal gap = m_options.shape == RingShape::button ? 1.5 : 0;
@@ -94,6 +95,8 @@ protected:
 private:
     static constexpr int margin = 4;  // device-independent pixels around the control
 
+    bool isAmber() const { return m_options.amber && m_options.amber(); }
+
     void follow()
     {
         if (!m_control || !parentWidget())
@@ -101,6 +104,9 @@ private:
         const QRect box = m_options.box ? m_options.box().toAlignedRect() : m_control->rect();
         const QPoint topLeft = m_control->mapTo(parentWidget(), box.topLeft());
         setGeometry(QRect(topLeft, box.size()).adjusted(-margin, -margin, margin, margin));
+        // Only the rim belongs to the ring: what changes inside the control is no concern of it.
+        const int rim = margin + 2 + int(pxF(m_options.radius) / 2);
+        setMask(QRegion(rect()) - QRegion(rect().adjusted(rim, rim, -rim, -rim)));
         setVisible(m_control->isVisibleTo(parentWidget()));
         raise();
         update();
@@ -134,6 +140,7 @@ private:
 
     QPointer<QWidget> m_control;
     FocusRingOptions m_options;
+    bool m_paintedAmber = false;
     qreal m_opacity = 1;
 };
 

@@ -62,6 +62,7 @@ void ThumbnailView::paint(QPainter& painter, const QRectF& rect, qreal corner, c
         const QSizeF size = QSizeF(entry.image.size());
         const qreal side = qMin(size.width(), size.height());
         const QRectF source((size.width() - side) / 2, (size.height() - side) / 2, side, side);
+        painter.fillPath(shape, theme.panel);  // behind a transparent picture
         painter.setClipPath(shape);
         painter.drawImage(rect, entry.image, source);
         painter.setClipping(false);
@@ -80,5 +81,3 @@ void ThumbnailView::paintEvent(QPaintEvent*)
 }
 
 }  // namespace Quorbel
-
-#include "moc_ThumbnailView.cpp"

@@ -1,3 +1,5 @@
+#include "app/ThumbnailStore.h"
+#include "tests/support/Support.h"
 #include "tests/ui/UiSupport.h"
 #include "ui/Components.h"
 
@@ -17,6 +19,26 @@ int ringPixels(QWidget* control)
     const QRect around = QRect(topLeft, control->size()).adjusted(-5, -5, 5, 5);
     return Test::pixelsLike(control->window()->grab(around).toImage(), Theme::of(control).focus);
 }
+
+class PaintCounter final : public QObject {
+public:
+    explicit PaintCounter(QWidget* widget)
+        : QObject(widget)
+    {
+        widget->installEventFilter(this);
+    }
+    int count() const { return m_count; }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        m_count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+private:
+    int m_count = 0;
+};
 
 }  // namespace
 
@@ -178,6 +200,50 @@ private slots:
         QCOMPARE(ringPixels(button), shown);
         button->move(40, 220);
         QCOMPARE(ringPixels(button), shown);
+    }
+
+    void aFocusedControlAtRestPaintsNothing()
+    {
+        Test::Stage stage;
+        auto* button = stage.add(new QBButton(u"Save"_s));
+        stage.show();
+        button->setFocus(Qt::TabFocusReason);
+        QTest::qWait(50);
+        PaintCounter counter(button);
+        QTest::qWait(100);
+        QCOMPARE(counter.count(), 0);
+        button->update();
+        QTest::qWait(50);
+        QCOMPARE(counter.count(), 1);
+    }
+
+    void aThumbnailIsAskedForWhenItIsShown()
+    {
+        ThumbnailStoreOptions options;
+        QStringList decoded;
+        options.workers = 1;
+        options.embedded = [](const QString&, const std::stop_token&) { return QImage(); };
+        options.decode = [&decoded](const QString& path, int longSide, const std::stop_token&) {
+            decoded.append(path);
+            DecodedImage result;
+            result.outcome = DecodedImage::Outcome::decoded;
+            result.image = QImage(longSide, longSide / 2, QImage::Format_RGB32);
+            result.image.fill(Qt::green);
+            return result;
+        };
+        const Test::PhotoFolder folder;
+        const QUrl photo = folder.add(u"lake.jpg"_s);
+        ThumbnailStore store(options);
+        Test::Stage stage;
+        auto* view = stage.add(new ThumbnailView(&store, 60, 9));
+        view->setUrl(photo);
+        QCOMPARE(view->accessibleName(), u"Thumbnail of lake.jpg"_s);
+        QCOMPARE(store.entry(photo, ThumbnailStore::Kind::small).state, ThumbnailStore::State::none);
+        stage.show();
+        QTRY_COMPARE(Test::colorAt(view, { 30, 3 }), QColor(Qt::green));
+        QCOMPARE(decoded, QStringList(photo.toLocalFile()));
+        // Clipped to the rounded corner: what shows there is the window behind.
+        QVERIFY(Test::colorAt(view, { 0, 0 }) != QColor(Qt::green));
     }
 
     void screenReadersAreToldWhatThingsAre_data()
