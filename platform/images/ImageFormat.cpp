@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QSet>
+#include <QtEndian>
 
 #include <array>
 
