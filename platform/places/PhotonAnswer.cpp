@@ -77,7 +77,9 @@ int secondsToWait(const QByteArray& retryAfter, int refusals, const QDateTime& n
     bool isNumber = false;
     qint64 seconds = retryAfter.trimmed().toLongLong(&isNumber);
     if (!isNumber) {
-        const auto date = QDateTime::fromString(QString::fromLatin1(retryAfter.trimmed()), Qt::RFC2822Date);
+        // HTTP names the zone, which Qt does not read.
+        const auto text = QString::fromLatin1(retryAfter.trimmed()).replace(u"GMT"_s, u"+0000"_s);
+        const auto date = QDateTime::fromString(text, Qt::RFC2822Date);
         seconds = date.isValid() ? now.secsTo(date) : firstWait * (qint64(1) << std::clamp(refusals - 1, 0, 10));
     }
     return int(std::clamp<qint64>(seconds, 1, longestWait));

@@ -21,7 +21,7 @@ constexpr double wholeNameScore = 1.4;
 constexpr double typedShareScore = 2.0;
 constexpr double contextScore = -1;
 constexpr double misspeltScore = -3.0;
-constexpr double codeScore = 6.0;  // an airport by its code in capitals
+constexpr double codeScore = 10;  // an airport by its code in capitals, above any city
 constexpr double nearScore = 0.8;
 constexpr double nearDistance = 500;  // km
 
@@ -103,6 +103,7 @@ public:
     {
         if (m_words.isEmpty())
             return {};
+        askForCode();
         askForWholeText();
         for (auto named = m_words.size() - 1; named >= 1 && m_hits.size() < m_query.limit; --named)
             askWithContext(named);
@@ -159,13 +160,21 @@ private:
         return terms;
     }
 
-    void ask(const QString& expression, const TypedName& typedName)
+    /// Three capitals are meant as an airport's code, whatever else begins with them.
+    void askForCode()
     {
-        for (const auto& row : m_database.matching(expression, rowsPerQuestion))
-            add(row, typedName);
+        const auto text = m_query.text.trimmed();
+        if (text.size() == 3 && std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'A' && c <= u'Z'; }))
+            ask(u"context : "_s + phrase(codeWord(text)), { m_typed, false }, codeScore);
     }
 
-    void add(const PlaceRow& row, const TypedName& typedName)
+    void ask(const QString& expression, const TypedName& typedName, double bonus = 0)
+    {
+        for (const auto& row : m_database.matching(expression, rowsPerQuestion))
+            add(row, typedName, bonus);
+    }
+
+    void add(const PlaceRow& row, const TypedName& typedName, double bonus)
     {
         if (m_seen.contains(row.id))
             return;
@@ -179,16 +188,8 @@ private:
                 hit.matched = other.name;
             }
         }
-        hit.score = row.rank + match.score + (typedName.isFinished ? contextScore : 0) + codeBonus(hit) + nearness(row);
+        hit.score = row.rank + match.score + (typedName.isFinished ? contextScore : 0) + bonus + nearness(row);
         m_hits.append(hit);
-    }
-
-    double codeBonus(const PlaceHit& hit) const
-    {
-        const auto text = m_query.text.trimmed();
-        const bool isCode = text.size() == 3 && text == hit.matched
-            && std::all_of(text.begin(), text.end(), [](QChar c) { return c.isUpper(); });
-        return isCode && hit.row.kind == PlaceKind::airport ? codeScore : 0;
     }
 
     double nearness(const PlaceRow& row) const

@@ -116,6 +116,11 @@ QString townWord(const QString& word)
     return QChar(contextMark) + QStringLiteral("t") + word;
 }
 
+QString codeWord(const QString& code)
+{
+    return QChar(contextMark) + QStringLiteral("k") + code.toLower();
+}
+
 bool isMisspeltStart(QByteArrayView typed, QByteArrayView name)
 {
     const auto* const t = typed.data();

@@ -28,6 +28,9 @@ QString initialsWord(const QString& initials);
 /// A word of the name of the town that an airport or landmark belongs to.
 QString townWord(const QString& word);
 
+/// An airport's code of three letters.
+QString codeWord(const QString& code);
+
 inline constexpr qsizetype initialsSize = 2;
 
 }  // namespace Quorbel

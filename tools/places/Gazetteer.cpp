@@ -247,6 +247,7 @@ void readAirports(const Sources& sources, const QHash<QString, int>& regions, Ga
         Entry airport;
         airport.kind = Kind::airport;
         airport.name = text(object, "name");
+        airport.code = text(object, "iata_code");
         airport.town = text(object, "municipality");
         airport.point = { text(object, "latitude_deg").toDouble(), text(object, "longitude_deg").toDouble() };
         airport.country = gazetteer.countryOf(text(object, "iso_country"));
@@ -257,7 +258,7 @@ void readAirports(const Sources& sources, const QHash<QString, int>& regions, Ga
         if (airport.state < 0 && nearest >= 0 && gazetteer.entries[nearest].country == airport.country)
             airport.state = gazetteer.entries[nearest].state;
         airport.alternates = usefulAlternates(airport.name,
-            QStringList{ text(object, "iata_code"), text(object, "ident"),
+            QStringList{ airport.code, text(object, "ident"),
                 airport.town.isEmpty() ? QString() : airport.town + QStringLiteral(" Airport") }
                 + text(object, "keywords").split(u','));
         airport.rank = text(object, "type") == u"large_airport" ? 5 : 3;

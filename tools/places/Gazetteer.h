@@ -52,6 +52,7 @@ struct Entry {
     Kind kind = Kind::town;
     QString name{};
     QStringList alternates{};  ///< none twice when folded
+    QString code{};  ///< an airport's three letters; may be empty
     QString town{};  ///< of an airport or landmark
     Point point{};
     qint64 population = 0;

@@ -115,6 +115,8 @@ QString contextOf(const Entry& entry, const Gazetteer& gazetteer)
     }
     for (const auto& word : foldPlaceName(entry.town).split(u' ', Qt::SkipEmptyParts))
         context << townWord(word);
+    if (!entry.code.isEmpty())
+        context << codeWord(entry.code);
     context.removeDuplicates();
     return context.join(u' ');
 }
