@@ -89,7 +89,7 @@ std::optional<QString> readHeadline(const MetadataService& service, const QUrl& 
 
 int testFiles(const MetadataService& service, const QList<QUrl>& files)
 {
-    const QUrl target = files.first();
+    const QUrl& target = files.first();
     const auto records = service.read(files);
     say(QStringLiteral("SELFTEST read ") + QString::number(records.size()) + QStringLiteral(" record(s)"));
     if (!records.isEmpty())

@@ -125,12 +125,14 @@ ToolError undecodable(const QString& reason, const QByteArray& output)
     return ToolError(ToolError::DecodeFailed{ reason + QStringLiteral(" — output: ") + quoted });
 }
 
-QList<JSONObject> decode(const QByteArray& output)
+QList<JSONObject> decode(QByteArray output)
 {
     QJsonParseError error;
     const auto document = QJsonDocument::fromJson(output, &error);
     if (error.error != QJsonParseError::NoError)
         throw undecodable(error.errorString(), output);
+    output.truncate(4 * quotedCharacters);
+    output.squeeze();  // of a hundred thousand photos this is a hundred megabytes
     auto objects = document.isArray() ? objectsFromJson(document.array()) : std::nullopt;
     if (!objects)
         throw undecodable(QStringLiteral("not an array of objects"), output);
@@ -206,7 +208,7 @@ QList<JSONObject> ExifToolRunner::readJSON(
     if (!QUtf8StringView(output).isValidUtf8())
         output.clear();
     output = std::move(output).trimmed();
-    return output.isEmpty() ? QList<JSONObject>(files.size()) : decode(output);
+    return output.isEmpty() ? QList<JSONObject>(files.size()) : decode(std::move(output));
 }
 
 QByteArray ExifToolRunner::readXML(const QStringList& selection, const QList<QUrl>& files) const

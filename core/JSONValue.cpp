@@ -23,7 +23,10 @@ QString numberText(double number)
     return Text::shortestForm(number);
 }
 
-/// Builds values, keeping one copy of each key text.
+/// Texts up to this length are worth looking up: names of keys, cameras and lenses, dates, exposures.
+constexpr qsizetype sharedLength = 40;
+
+/// Builds values, keeping one copy of each short text, however often it occurs.
 class Decoder {
 public:
     JSONValue value(const QJsonValue& json)
@@ -34,7 +37,7 @@ public:
         case QJsonValue::Double:
             return JSONValue(json.toDouble());
         case QJsonValue::String:
-            return JSONValue(json.toString());
+            return JSONValue(shared(json.toString()));
         case QJsonValue::Array:
             return JSONValue(array(json.toArray()));
         case QJsonValue::Object:
@@ -65,9 +68,9 @@ private:
         return elements;
     }
 
-    QString shared(const QString& key) { return *m_keys.insert(key); }
+    QString shared(const QString& text) { return text.size() <= sharedLength ? *m_texts.insert(text) : text; }
 
-    QSet<QString> m_keys;
+    QSet<QString> m_texts;
 };
 
 }  // namespace

@@ -1,0 +1,180 @@
+// What the engine adds to ExifTool: reading 1,000 JPEGs and saving 200, each against the bare runs of the tool that
+// the same work needs (same arguments, output thrown away). Runs alternate; medians are compared.
+// Photos: the JPEGs below the folder named by QUORBEL_TEST_PHOTOS, copied over and over; without it, generated ones.
+#include "core/MetadataReader.h"
+#include "core/MetadataService.h"
+#include "tests/support/Support.h"
+
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QProcess>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+
+#include <sys/resource.h>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+
+namespace {
+
+constexpr int readCount = 1000;
+constexpr int saveCount = 200;
+constexpr int rounds = 5;
+
+struct Cost {
+    double wall = 0;  ///< milliseconds
+    double cpu = 0;  ///< milliseconds, this process and its children, user and system
+};
+
+double cpuTime()
+{
+    double milliseconds = 0;
+    for (const int who : { RUSAGE_SELF, RUSAGE_CHILDREN }) {
+        rusage usage{};
+        getrusage(who, &usage);
+        for (const auto& time : { usage.ru_utime, usage.ru_stime })
+            milliseconds += static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+    }
+    return milliseconds;
+}
+
+Cost measure(const std::function<void()>& work)
+{
+    QElapsedTimer timer;
+    const double before = cpuTime();
+    timer.start();
+    work();
+    return { static_cast<double>(timer.nsecsElapsed()) / 1e6, cpuTime() - before };
+}
+
+double median(const QList<Cost>& costs, double Cost::*part)
+{
+    QList<double> values;
+    for (const auto& cost : costs)
+        values.append(cost.*part);
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+void compare(const char* name, const std::function<void(int round)>& ours, const std::function<void(int round)>& bare)
+{
+    QList<Cost> oursCosts;
+    QList<Cost> bareCosts;
+    for (int round = 0; round < rounds; ++round) {
+        const auto runOurs = [&] { oursCosts.append(measure([&] { ours(2 * round); })); };
+        const auto runBare = [&] { bareCosts.append(measure([&] { bare(2 * round + 1); })); };
+        // Whoever goes second finds warmer caches; take turns.
+        if (round % 2) {
+            runBare();
+            runOurs();
+        } else {
+            runOurs();
+            runBare();
+        }
+    }
+    std::printf(
+        "%s: wall %.0f ms against %.0f ms bare, ratio %.3f (target 1.03); CPU %.0f ms against %.0f ms, ratio %.3f\n",
+        name, median(oursCosts, &Cost::wall), median(bareCosts, &Cost::wall),
+        median(oursCosts, &Cost::wall) / median(bareCosts, &Cost::wall), median(oursCosts, &Cost::cpu),
+        median(bareCosts, &Cost::cpu), median(oursCosts, &Cost::cpu) / median(bareCosts, &Cost::cpu));
+    std::fflush(stdout);
+}
+
+void runBareTool(const QStringList& arguments)
+{
+    QProcess process;
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.start(QStringLiteral("/usr/bin/perl"), QStringList{ realTool().exiftoolURL.toLocalFile() } + arguments);
+    process.waitForFinished(-1);
+    if (process.exitCode() != 0)
+        qFatal("The bare run failed: %s", process.readAllStandardError().constData());
+}
+
+QList<QByteArray> samplePhotos()
+{
+    QList<QByteArray> samples;
+    QDirIterator files(qEnvironmentVariable("QUORBEL_TEST_PHOTOS", QStringLiteral("/nonexistent")),
+        { QStringLiteral("*.jpg"), QStringLiteral("*.jpeg") }, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        if (const QString path = files.next();
+            path.contains(QLatin1String("/valid/")) || !path.contains(QLatin1String("/malformed/")))
+            samples.append(readFile(path));
+    if (samples.isEmpty())
+        samples.append(jpegBytes(640, 480));
+    return samples;
+}
+
+QList<QUrl> makePhotos(const PhotoFolder& folder, const QList<QByteArray>& samples)
+{
+    QList<QUrl> photos;
+    for (int i = 0; i < readCount; ++i)
+        photos.append(
+            folder.add(QStringLiteral("IMG_%1.jpg").arg(i, 4, 10, QLatin1Char('0')), samples[i % samples.size()]));
+    std::printf("%d photos, copies of %d\n", readCount, int(samples.size()));
+    return photos;
+}
+
+QStringList paths(const QList<QUrl>& photos)
+{
+    QStringList list;
+    for (const auto& photo : photos)
+        list.append(photo.toLocalFile());
+    return list;
+}
+
+EditPlan planOf(int round)
+{
+    return { .scalars = { { "headline", QString::number(round) } }, .lists = { { "people", { "Ann", "Bo" } } } };
+}
+
+/// Copies of those samples that the tool agrees to write to: what a camera made can still be refused.
+QList<QUrl> writable(const MetadataService& service, const QList<QUrl>& photos, qsizetype sampleCount)
+{
+    QList<bool> accepted(sampleCount, true);
+    for (qsizetype sample = 0; sample < sampleCount; ++sample) {
+        try {
+            service.write(planOf(-1), { photos[sample] }, {});
+        } catch (const ToolError&) {
+            accepted[sample] = false;
+        }
+    }
+    QList<QUrl> targets;
+    for (qsizetype i = 0; i < photos.size() && targets.size() < saveCount; ++i)
+        if (accepted[i % sampleCount])
+            targets.append(photos[i]);
+    return targets;
+}
+
+}  // namespace
+
+int main()
+{
+    const MetadataService service{ realTool() };
+    const PhotoFolder folder;
+    const auto samples = samplePhotos();
+    const auto photos = makePhotos(folder, samples);
+    QStringList mainRead{ "-json", "-G0", "-struct", "-c", "%.6f" };
+    for (const auto& tag : MetadataReader::readTags())
+        mainRead.append(QLatin1Char('-') + tag);
+    compare(
+        "read of 1,000 JPEGs", [&](int) { service.read(photos); },
+        [&](int) {
+            runBareTool(mainRead + paths(photos));
+            runBareTool(QStringList{ "-json", "-G1", "-struct", "-XMP-Quorbel:all" } + paths(photos));
+        });
+
+    const auto targets = writable(service, photos, samples.size());
+    compare(
+        "save of 200 photos", [&](int round) { service.write(planOf(round), targets, {}); },
+        [&](int round) {
+            runBareTool(QStringList{ "-overwrite_original", "-m", "-XMP-photoshop:Headline=" + QString::number(round),
+                            "-IPTC:Headline=" + QString::number(round), "-XMP-iptcExt:PersonInImage=",
+                            "-XMP-iptcExt:PersonInImage=Ann", "-XMP-iptcExt:PersonInImage=Bo" }
+                + paths(targets));
+        });
+    return 0;
+}
