@@ -40,7 +40,8 @@ struct Ring {
 class Geometry {
 public:
     Geometry(const QByteArray& bytes, QString country, QList<Ring>& rings)
-        : m_bytes(bytes)
+        : m_next(bytes.constData())
+        , m_left(bytes.size())
         , m_country(std::move(country))
         , m_rings(rings)
     {
@@ -51,7 +52,7 @@ public:
         if (magic != 0x5047 || kind >= envelope.size())
             throw BuildError(QStringLiteral("a geometry of unknown form"));
         take<quint32>();
-        m_at += envelope[kind];
+        skip(envelope[kind]);
         readShape();
     }
 
@@ -85,19 +86,26 @@ private:
         m_rings.append(ring);
     }
 
+    void skip(qsizetype count)
+    {
+        if (count > m_left)
+            throw BuildError(QStringLiteral("a geometry that ends too early"));
+        m_next += count;
+        m_left -= count;
+    }
+
     template <typename T>
     T take()
     {
+        const char* const from = m_next;
+        skip(sizeof(T));
         T value{};
-        if (m_at > m_bytes.size() - qsizetype(sizeof value))
-            throw BuildError(QStringLiteral("a geometry that ends too early"));
-        std::memcpy(&value, m_bytes.constData() + m_at, sizeof value);
-        m_at += sizeof value;
+        std::memcpy(&value, from, sizeof value);
         return value;
     }
 
-    const QByteArray& m_bytes;
-    qsizetype m_at = 0;
+    const char* m_next;
+    qsizetype m_left;
     QString m_country;
     QList<Ring>& m_rings;
 };
