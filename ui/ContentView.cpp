@@ -9,6 +9,7 @@
 #include "ui/Metrics.h"
 #include "ui/PreviewColumnView.h"
 #include "ui/Sheet.h"
+#include "ui/SidebarList.h"
 #include "ui/SidebarView.h"
 #include "ui/SystemScheme.h"
 #include "ui/Theme.h"
@@ -172,8 +173,11 @@ void ContentView::focusSearch()
 void ContentView::showRecords()
 {
     const bool any = !m_model.records().isEmpty();
+    const bool appears = any && m_columns->isHidden();
     m_launch->setVisible(!any);
     m_columns->setVisible(any);
+    if (appears)  // the arrow keys go through the photos at once
+        m_sidebar->list()->setFocus(Qt::OtherFocusReason);
     m_bar->setPreviewShown(any && m_columns->previewShown());
     placeBanner();
 }
@@ -193,10 +197,8 @@ void ContentView::placeBanner()
 {
     const bool columns = m_columns && !m_columns->isHidden();
     m_banner->place(height() - px(columns ? bannerOverFooter : bannerOverEdge));
-    if (m_factories.setInspectorInset) {
-        const QRect notice = m_banner->noticeRect();
-        m_factories.setInspectorInset(m_inspector, notice.isEmpty() ? 0 : notice.height() + px(2 * 16));
-    }
+    if (m_factories.setInspectorInset)
+        m_factories.setInspectorInset(m_inspector, m_banner->isHidden() ? 0 : m_banner->height() + px(2 * 16));
 }
 
 void ContentView::resizeEvent(QResizeEvent* event)

@@ -8,6 +8,7 @@
 #include "ui/Theme.h"
 
 #include <QAccessible>
+#include <QFontMetrics>
 #include <QGraphicsOpacityEffect>
 #include <QPainter>
 #include <QVariantAnimation>
@@ -30,6 +31,24 @@ constexpr int mostLines = 6;
 
 constexpr int textFlags = Qt::TextWrapAnywhere | Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop;
 
+/// The banner's shadow: a widget of its own below it, so that clicks beside the notice reach what they are meant for.
+class Cast final : public QWidget {
+public:
+    explicit Cast(QWidget* parent)
+        : QWidget(parent)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const int room = px(shadowRoom);
+        QPainter painter(this);
+        paintShadow(painter, rect().adjusted(room, room, -room, -room), pxF(radius), Shadow::menu, Theme::of(this));
+    }
+};
+
 void fadeIn(QWidget* widget)
 {
     auto* effect = new QGraphicsOpacityEffect(widget);
@@ -49,6 +68,7 @@ void fadeIn(QWidget* widget)
 ErrorBanner::ErrorBanner(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
+    , m_cast(new Cast(parent))
     , m_close(new QBIconButton(QStringLiteral("xmark"), QStringLiteral("Dismiss"), this))
 {
     hide();
@@ -71,8 +91,10 @@ void ErrorBanner::follow()
     setToolTip(message());
     if (wanted && isHidden() && motionEnabled(this) && parentWidget() && parentWidget()->isVisible())
         fadeIn(this);
+    m_cast->setVisible(wanted);
     setVisible(wanted);
     if (wanted) {
+        m_cast->raise();
         raise();
         QAccessibleEvent event(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&event);
@@ -91,29 +113,16 @@ void ErrorBanner::place(int bottom)
     const int textHeight = qMin(metrics.boundingRect(0, 0, textWidth, 10'000, textFlags, message()).height(),
         mostLines * metrics.lineSpacing());
     const int height = qMax(textHeight, px(18)) + 2 * px(verticalPadding);
+    setGeometry((parentWidget()->width() - width) / 2, bottom - height, width, height);
     const int room = px(shadowRoom);
-    setGeometry(
-        (parentWidget()->width() - width) / 2 - room, bottom - height - room, width + 2 * room, height + 2 * room);
-    setMask(notice().adjusted(-room, -room, room, room));
-    m_close->move(notice().right() + 1 - px(rightPadding) - m_close->sizeHint().width(),
-        notice().top() + px(verticalPadding) - px(2));
+    m_cast->setGeometry(geometry().adjusted(-room, -room, room, room));
     m_close->resize(m_close->sizeHint());
-}
-
-QRect ErrorBanner::notice() const
-{
-    const int room = px(shadowRoom);
-    return rect().adjusted(room, room, -room, -room);
-}
-
-QRect ErrorBanner::noticeRect() const
-{
-    return isHidden() ? QRect() : notice().translated(pos());
+    m_close->move(width - px(rightPadding) - m_close->width(), px(verticalPadding) - px(2));
 }
 
 QRect ErrorBanner::textRect() const
 {
-    return notice().adjusted(px(leftPadding + iconSize + gap), px(verticalPadding), -px(gap + crossSize + rightPadding),
+    return rect().adjusted(px(leftPadding + iconSize + gap), px(verticalPadding), -px(gap + crossSize + rightPadding),
         -px(verticalPadding));
 }
 
@@ -122,12 +131,10 @@ void ErrorBanner::paintEvent(QPaintEvent*)
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    paintShadow(painter, notice(), pxF(radius), Shadow::menu, theme);
     painter.setPen(theme.line);
     painter.setBrush(theme.panel);
-    painter.drawRoundedRect(QRectF(notice()).adjusted(.5, .5, -.5, -.5), pxF(radius), pxF(radius));
-    const QRectF icon(
-        notice().left() + px(leftPadding), notice().top() + px(verticalPadding), px(iconSize), px(iconSize));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), pxF(radius), pxF(radius));
+    const QRectF icon(px(leftPadding), px(verticalPadding), px(iconSize), px(iconSize));
     Icon::paint(painter, icon, QStringLiteral("exclamationmark.triangle.fill"), pxF(iconSize), theme.amber);
     painter.setPen(theme.text);
     painter.setFont(sansFont(13));

@@ -16,10 +16,8 @@ class ErrorBanner final : public QWidget {
 public:
     explicit ErrorBanner(AppModel& model, QWidget* parent = nullptr);
 
-    /// Lays it out centred in its parent, its lower edge at `bottom`; at most 560 points wide, its shadow beyond.
+    /// Lays it out centred in its parent, its lower edge at `bottom`; at most 560 points wide.
     void place(int bottom);
-    /// The notice itself, in the parent's coordinates; empty while there is none.
-    QRect noticeRect() const;
 
 signals:
     /// It appeared, went, or took another size: place() it again.
@@ -31,10 +29,10 @@ protected:
 private:
     void follow();
     QString message() const;
-    QRect notice() const;
     QRect textRect() const;
 
     AppModel& m_model;
+    QWidget* m_cast;  ///< paints the shadow
     QBIconButton* m_close;
 };
 

@@ -7,6 +7,8 @@
 
 #include <functional>
 
+class QHBoxLayout;
+
 namespace Quorbel {
 
 class QBButton;
@@ -28,7 +30,7 @@ signals:
     void answered(qsizetype button);
 
 private:
-    void addButtons(class QHBoxLayout* line, const QStringList& buttons);
+    void addButtons(QHBoxLayout* line, const QStringList& buttons);
 
     qsizetype m_last;
 };

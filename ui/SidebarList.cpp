@@ -10,6 +10,9 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
+
+#include <algorithm>
 
 namespace Quorbel {
 
@@ -266,11 +269,13 @@ void SidebarList::requestThumbnails()
     if (!m_thumbs || !isVisible())
         return;
     QList<QUrl> urls;
+    QList<QUrl> near;
     const auto [first, last] = rowsOnScreen();
-    for (int row = first; row <= last; ++row)
+    const int screenful = last - first + 1;
+    for (int row = first - screenful; row <= last + screenful; ++row)
         if (const ImageRecord* photo = m_rows.record(row))
-            urls.append(photo->url);
-    m_thumbs->setVisible(urls);
+            (row >= first && row <= last ? urls : near).append(photo->url);
+    m_thumbs->setVisible(urls, near);
     // The newest request is served first: ask from the bottom, so that the list fills from the top.
     for (auto url = urls.crbegin(); url != urls.crend(); ++url)
         m_thumbs->request(*url, ThumbnailStore::Kind::small);
@@ -282,7 +287,8 @@ void SidebarList::repaintThumbnail(const QUrl& url)
     for (int row = first; row <= last; ++row)
         if (const ImageRecord* photo = m_rows.record(row); photo && photo->url == url) {
             update(m_rows.index(row));
-            m_thumbnailsSoon.start(0);  // forgotten images are asked for again
+            if (m_thumbs->entry(url, ThumbnailStore::Kind::small).state == ThumbnailStore::State::none)
+                m_thumbnailsSoon.start(0);  // forgotten: asked for again
         }
 }
 

@@ -3,8 +3,9 @@
 #include "ui/Metrics.h"
 #include "ui/Theme.h"
 
+#include <QAction>
+#include <QMenu>
 #include <QPainter>
-#include <QStyle>
 
 namespace Quorbel {
 
@@ -31,8 +32,8 @@ void ThemedMenuBar::paintEvent(QPaintEvent*)
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const int mnemonics =
-        style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+    // The letters to press are marked once the keyboard is in the menus.
+    const int mnemonics = hasFocus() || activeAction() ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     for (const QAction* action : actions()) {
         QRect item = actionGeometry(const_cast<QAction*>(action));  // Qt asks for a pointer that it does not write to
         if (!action->isVisible() || !item.isValid())

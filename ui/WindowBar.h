@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+class QHBoxLayout;
+
 namespace Quorbel {
 
 class AppModel;
@@ -34,7 +36,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QBIconButton* addTool(class QHBoxLayout* line, const QString& icon, const QString& name);
+    QBIconButton* addTool(QHBoxLayout* line, const QString& icon, const QString& name);
     void openSettingsMenu();
     void follow();
     QString shownTitle() const;

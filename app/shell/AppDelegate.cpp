@@ -9,6 +9,7 @@
 #include "core/Product.h"
 #include "ui/ContentView.h"
 #include "ui/HelpView.h"
+#include "ui/InspectorView.h"
 #include "ui/MessageSheet.h"
 #include "ui/SettingsView.h"
 #include "ui/SystemScheme.h"
@@ -78,6 +79,7 @@ void AppDelegate::finishLaunching(const QList<QUrl>& urls)
     m_app = std::make_unique<QuorbelApp>(hooks());
     buildWindow();
     StartTrace::watch(m_window.get());
+    m_content->setFocus();  // no button looks chosen before anybody chose it
     m_window->show();
     if (!urls.isEmpty())
         m_app->model().requestLoad(urls);
@@ -108,7 +110,13 @@ void AppDelegate::buildWindow()
     AppModel& model = m_app->model();
     m_window = std::make_unique<QMainWindow>();
     ContentFactories factories;
-    factories.inspector = [](QWidget* parent) { return new QWidget(parent); };
+    factories.inspector = [this](QWidget* parent) {
+        return new InspectorView(
+            m_app->model(), &m_app->thumbnails(), m_app->placeProvider(), m_app->mapRenderer(), parent);
+    };
+    factories.setInspectorInset = [](QWidget* inspector, int pixels) {
+        static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
+    };
     m_content = new ContentView(model, &m_app->thumbnails(), *m_systemScheme, m_window.get(), factories);
     m_window->setMenuWidget(m_content->bar());
     m_window->setCentralWidget(m_content);

@@ -38,6 +38,7 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
         images.tool = service->runner;
     m_thumbnails = std::make_unique<ThumbnailStore>(images);
     m_placeProvider = makePlaceProvider({ .dataFolder = placesFolder() });
+    m_mapRenderer = makeMapRenderer(placesFolder());
 
     AppModelServices services;
     services.service = service;

@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QJsonValue>
 #include <QLocalSocket>
 #include <QStandardPaths>
 
@@ -84,13 +85,13 @@ bool SingleInstance::listen(std::function<void(const HandOver&)> received)
     QLockFile lock(m_path + QStringLiteral(".lock"));
     if (!lock.tryLock(connectTimeout))
         return false;
-    if (m_server.listen(m_path))
-        return true;
+    // Asked first: a server with access options takes a path over even while another one listens there.
     QLocalSocket probe;
     probe.connectToServer(m_path);
     if (probe.waitForConnected(connectTimeout))
         return false;
-    return QLocalServer::removeServer(m_path) && m_server.listen(m_path);
+    QLocalServer::removeServer(m_path);
+    return m_server.listen(m_path);
 }
 
 void SingleInstance::accept()

@@ -8,7 +8,9 @@
 #include <QObject>
 #include <QSettings>
 #include <QStringList>
+#include <QUrl>
 
+#include <functional>
 #include <memory>
 
 class QNetworkAccessManager;
