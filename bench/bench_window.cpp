@@ -140,6 +140,7 @@ void benchScrolling()
     const double theirs = median(scrollFrames(plain, plain));
     std::printf("scroll 50,000 rows, median frame: %.2f ms (bound 4), a QListView of names %.2f ms, ratio %.2f\n", ours,
         theirs, ours / theirs);
+    std::fflush(stdout);
 }
 
 /// Milliseconds from the start of a process to its line "first paint" on standard error; then it is killed.
@@ -155,6 +156,7 @@ double startTime(const QString& program, const QStringList& arguments)
     process.setProcessEnvironment(environment);
     QElapsedTimer clock;
     clock.start();
+    process.setReadChannel(QProcess::StandardError);
     process.start(program, arguments);
     QByteArray said;
     while (!said.contains("first paint"))

@@ -34,6 +34,7 @@ public:
     /// Wanted, and the row is wide enough.
     bool previewShown() const;
     double sidebarWidth() const;
+    ResizeHandle* handle() const { return m_handle; }
 
 signals:
     void previewShownChanged(bool shown);

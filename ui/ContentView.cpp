@@ -8,6 +8,7 @@
 #include "ui/LaunchView.h"
 #include "ui/Metrics.h"
 #include "ui/PreviewColumnView.h"
+#include "ui/ResizeHandle.h"
 #include "ui/Sheet.h"
 #include "ui/SidebarList.h"
 #include "ui/SidebarView.h"
@@ -39,6 +40,41 @@ constexpr int growthBeyondThreshold = 80;
 // Points: from the banner to the footers, and to the lower edge of the launch view.
 constexpr qreal bannerOverFooter = 54 + 16;
 constexpr qreal bannerOverEdge = 20;
+
+/// Carries the sidebar's hairlines on across the empty part of the resize handle beside it.
+class HandleLines final : public QWidget {
+public:
+    HandleLines(SidebarView* sidebar, ResizeHandle* handle)
+        : QWidget(handle)
+        , m_sidebar(sidebar)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        handle->installEventFilter(this);
+        connect(sidebar, &SidebarView::footChanged, this, qOverload<>(&QWidget::update));
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Resize)
+            resize(parentWidget()->width() - 1, parentWidget()->height());  // the handle's own line stays
+        return QWidget::eventFilter(watched, event);
+    }
+
+    void paintEvent(QPaintEvent*) override
+    {
+        const Theme& theme = Theme::of(this);
+        QPainter painter(this);
+        painter.fillRect(0, m_sidebar->listTop() - 1, width(), 1, theme.hair);
+        if (const QRect foot = m_sidebar->footRect(); !foot.isEmpty()) {
+            painter.fillRect(0, foot.top(), width(), foot.height(), theme.bg);
+            painter.fillRect(0, foot.top(), width(), 1, theme.line);
+        }
+    }
+
+private:
+    SidebarView* m_sidebar;
+};
 
 /// A stored number, or the default where there is none.
 double storedWidth(const QSettings& preferences)

@@ -47,6 +47,7 @@ public:
     Restyler(QWidget* widget, std::function<void()> restyle)
         : QObject(widget)
         , m_restyle(std::move(restyle))
+        , m_seen(&Theme::of(widget))
     {
         widget->installEventFilter(this);
     }
@@ -55,13 +56,19 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         const QEvent::Type type = event->type();
-        if (type == QEvent::Polish || type == QEvent::ApplicationFontChange || type == themeChangeEvent())
+        const Theme* theme = &Theme::of(static_cast<QWidget*>(watched));
+        // A layout may polish a widget before it is put into its window: then only Show finds the window's theme.
+        if (type == QEvent::Polish || type == QEvent::ApplicationFontChange || type == themeChangeEvent()
+            || (type == QEvent::Show && theme != m_seen)) {
+            m_seen = theme;
             m_restyle();
+        }
         return QObject::eventFilter(watched, event);
     }
 
 private:
     std::function<void()> m_restyle;
+    const Theme* m_seen;  ///< only compared, never read
 };
 
 }  // namespace

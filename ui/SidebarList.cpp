@@ -47,7 +47,10 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     viewport()->setAttribute(Qt::WA_Hover);
     OverlayScrollBar::attach(this);
     onRestyle(this, [this] {
-        setViewportMargins(px(inset), px(inset), px(inset), px(inset));
+        QPalette colors = paletteFor(Theme::of(this));
+        colors.setColor(QPalette::Base, Theme::of(this).bg);
+        setPalette(colors);
+        setViewportMargins(px(inset), px(inset), 0, px(inset));
         verticalScrollBar()->setSingleStep(SidebarDelegate::pitch() / 2);
         scheduleDelayedItemsLayout();
     });

@@ -22,6 +22,7 @@ namespace {
 // Points.
 constexpr qreal headerHeight = 40;
 constexpr qreal sidePadding = 12;
+constexpr qreal rightPadding = 2;  // room for a focus ring: the handle beside it is empty space too
 constexpr qreal findHeight = 41;  // the field, 10 below it, the hairline
 
 /// "3 / 120", the selected ones stronger.
@@ -107,7 +108,7 @@ QWidget* SidebarView::buildHeader()
     connect(all, &QAbstractButton::clicked, &m_model, &AppModel::selectAllPhotos);
     line->addWidget(all);
     onRestyle(header, [header, line] {
-        line->setContentsMargins(px(sidePadding), px(2), px(6), 0);
+        line->setContentsMargins(px(sidePadding), px(2), px(rightPadding), 0);
         header->setFixedHeight(px(headerHeight));
     });
     return header;
@@ -131,7 +132,7 @@ QWidget* SidebarView::buildFind()
     line->addWidget(m_sort);
     onRestyle(find, [find, line] {
         line->setSpacing(px(4));
-        line->setContentsMargins(px(sidePadding), 0, px(4), px(11));
+        line->setContentsMargins(px(sidePadding), 0, px(rightPadding), px(11));
         find->setFixedHeight(px(findHeight));
     });
     return find;
