@@ -307,6 +307,50 @@ private slots:
         QVERIFY(!(QFile::permissions(options.cacheFolder) & others));
     }
 
+    /// What the libraries refuse is asked of the tool: tag by tag, last in the queue, once for both sizes.
+    void rawPreviewComesFromTheTool()
+    {
+        QTemporaryDir folder;
+        const auto path = [&](const char* name) { return folder.filePath(QString::fromLatin1(name)); };
+        QVERIFY(picture(QSize(600, 400), Qt::red).image.save(path("preview.jpg")));
+        const auto write = [](const QString& file, const QByteArray& bytes) {
+            QFile out(file);
+            return out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size();
+        };
+        QVERIFY(write(path("tool"), R"(
+            my $folder = $0 =~ s{/[^/]*$}{}r;
+            open my $log, '>>', "$folder/log"; print $log join(' ', @ARGV[0 .. $#ARGV - 1]), "\n"; close $log;
+            if ($ARGV[0] eq '-json') { print '[{"SourceFile": "a", "EXIF:Orientation": "Rotate 90 CW"}]'; exit }
+            exit 1 if $ARGV[1] ne '-JpgFromRaw';
+            open my $preview, '<:raw', "$folder/preview.jpg"; binmode STDOUT; print <$preview>;
+        )"));
+        for (const char* name : { "a.cr3", "b.jpg" })
+            QVERIFY(write(path(name), "bytes"));
+        FakeDecoder fake;
+        ThumbnailStoreOptions options = fake.options();
+        options.cacheFolder = path("cache");
+        options.tool = ExifToolRunner{ QUrl::fromLocalFile(path("tool")), QUrl::fromLocalFile(u"/usr/bin/perl"_s) };
+        const auto decode = options.decode;
+        options.decode = [decode](const QString& file, int longSide, const std::stop_token& stop) {
+            return file.endsWith(u".cr3") ? DecodedImage{ DecodedImage::Outcome::needsTool, {} }
+                                          : decode(file, longSide, stop);
+        };
+        ThumbnailStore store(options);
+        QList<QUrl> finished;
+        connect(&store, &ThumbnailStore::entryChanged, this, [&](const QUrl& url) { finished.append(url); });
+        const QUrl raw = QUrl::fromLocalFile(path("a.cr3")), other = QUrl::fromLocalFile(path("b.jpg"));
+        store.request(other, Kind::small);
+        store.request(raw, Kind::preview);
+        store.request(raw, Kind::small);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 3, longest);
+        QCOMPARE(finished.first(), other);
+        QCOMPARE(store.entry(raw, Kind::preview).image.size(), QSize(400, 600));
+        QCOMPARE(store.entry(raw, Kind::small).image.size(), QSize(60, 90));
+        QFile log(path("log"));
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        QCOMPARE(log.readAll(), "-b -PreviewImage\n-b -JpgFromRaw\n-json -G0 -struct -c %.6f -EXIF:Orientation\n");
+    }
+
     void destroyedStoreEndsItsWork()
     {
         FakeDecoder fake;
