@@ -1,6 +1,7 @@
 #include "platform/images/ImageDecoder.h"
 
 #include "platform/images/CmykJpeg.h"
+#include "platform/images/CmykTiff.h"
 #include "platform/images/ColorManagement.h"
 #include "platform/images/ExifThumbnail.h"
 #include "platform/images/GuardedFile.h"
@@ -44,6 +45,12 @@ DecodedFrame decodeQtFormat(const DecodeSource& source, ImageFormat format)
         return withOutcome(Outcome::tooLarge);
     if (format == ImageFormat::jpeg && header->components == 4)
         return turnedAs(*header, CmykJpeg::decode(source));
+    if (format == ImageFormat::tiff && header->components >= 4) {
+        const DecodedFrame inks = CmykTiff::decode(source);
+        source.device.seek(0);
+        if (inks.outcome != Outcome::unsupported)
+            return turnedAs(*header, inks);
+    }
     const WholeFrameTurn turn(header->wholeFrame ? header->size : QSize(), source.cancel);
     return QtFormats::decode(source, format, *header);
 }

@@ -1,5 +1,7 @@
 #include "platform/images/PsdReader.h"
 
+#include "platform/images/PackBits.h"
+
 #include <QList>
 #include <QtEndian>
 
@@ -10,27 +12,6 @@
 namespace Quorbel {
 
 namespace {
-
-/// Unpacks one row of PackBits; what the input does not fill stays as it is.
-void unpack(QByteArrayView packed, QByteArray& row)
-{
-    qsizetype at = 0, to = 0;
-    while (at < packed.size() && to < row.size()) {
-        const int control = qint8(packed[at++]);
-        if (control == -128)
-            continue;
-        const qsizetype count = qMin<qsizetype>(control >= 0 ? control + 1 : 1 - control, row.size() - to);
-        if (control < 0) {
-            if (at < packed.size())
-                std::fill_n(row.begin() + to, count, packed[at++]);
-        } else {
-            const qsizetype there = qMin(count, packed.size() - at);
-            std::copy_n(packed.begin() + at, there, row.begin() + to);
-            at += there;
-        }
-        to += count;
-    }
-}
 
 /// The value of one sample in the range of a byte.
 int sampleAt(const QByteArray& row, int x, int depth)
@@ -54,9 +35,9 @@ int sampleAt(const QByteArray& row, int x, int depth)
 /// Averages squares of pixels while rows arrive.
 class Reducer {
 public:
-    Reducer(PsdPlanes& planes, int width, int depth, int factor)
+    Reducer(PsdPlanes& planes, QSize size, int depth, int factor)
         : m_planes(planes)
-        , m_width(width)
+        , m_size(size)
         , m_depth(depth)
         , m_factor(factor)
         , m_sums(planes.size.width())
@@ -68,19 +49,20 @@ public:
             std::ranges::fill(m_sums, 0);
         const int columns = m_planes.size.width() * m_factor;
         for (int x = 0; x < columns; ++x)
-            m_sums[x / m_factor] += sampleAt(row, qMin(x, m_width - 1), m_depth);
+            m_sums[x / m_factor] += sampleAt(row, qMin(x, m_size.width() - 1), m_depth);
         const int target = y / m_factor;
-        if (target >= m_planes.size.height())
+        const bool complete = (y + 1) % m_factor == 0 || y + 1 == m_size.height();
+        if (!complete || target >= m_planes.size.height())
             return;
         char* to = m_planes.samples.data() + (qsizetype(channel) * m_planes.size.height() + target) * m_sums.size();
         const int count = m_factor * (y % m_factor + 1);
-        for (qsizetype i = 0; i < m_sums.size() && (y + 1) % m_factor == 0; ++i)
+        for (qsizetype i = 0; i < m_sums.size(); ++i)
             to[i] = char(m_sums[i] / count);
     }
 
 private:
     PsdPlanes& m_planes;
-    int m_width;
+    QSize m_size;
     int m_depth;
     int m_factor;
     QList<int> m_sums;
@@ -124,7 +106,7 @@ public:
         if (bytes.size() < length)
             return false;
         if (m_packed)
-            unpack(bytes, m_row);
+            unpackBits(bytes, m_row);
         else
             m_row = bytes;
         return true;
@@ -264,7 +246,7 @@ PsdPlanes PsdReader::planes(const PsdHeader& header, int longSide, const std::st
         return {};
     planes.samples = QByteArray(qsizetype(planes.count) * planes.size.height() * planes.size.width(), '\xff');
     for (int channel = 0; channel < planes.count; ++channel) {
-        Reducer reducer(planes, header.size.width(), header.depth, factor);
+        Reducer reducer(planes, header.size, header.depth, factor);
         for (int y = 0; y < header.size.height(); ++y) {
             if (cancel.stop_requested())
                 return {};

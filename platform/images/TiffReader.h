@@ -34,6 +34,7 @@ public:
 
     static bool isTiff(QByteArrayView head);
     bool isValid() const { return m_valid; }
+    bool isLittleEndian() const { return m_littleEndian; }
     quint32 firstDirectory() const { return m_first; }
     /// Empty when the offset lies outside or the directory is broken.
     TiffDirectory directory(quint32 offset) const;

@@ -1,6 +1,7 @@
 #include "tests/platform/ImageFiles.h"
 
 #include <QBuffer>
+#include <QHash>
 #include <QImageWriter>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -43,6 +44,45 @@ QByteArray little(T value)
     QByteArray bytes(sizeof(T), '\0');
     qToLittleEndian<T>(value, bytes.data());
     return bytes;
+}
+
+/// TIFF's LZW: codes grow from 9 to 12 bits, most significant bit first, and the table is cleared when full.
+QByteArray lzwCoded(const QByteArray& bytes)
+{
+    constexpr int clearCode = 256, endCode = 257, firstFree = 258, full = 4093;
+    QByteArray out, string;
+    QHash<QByteArray, int> table;
+    quint64 bits = 0;
+    int held = 0, count = firstFree;
+    const auto put = [&](int code) {
+        const int width = count >= 2048 ? 12 : count >= 1024 ? 11 : count >= 512 ? 10 : 9;
+        bits = bits << width | quint64(code);
+        for (held += width; held >= 8; held -= 8)
+            out += char(bits >> (held - 8) & 0xFF);
+    };
+    const auto codeOf = [&](const QByteArray& known) {
+        return known.size() == 1 ? quint8(known[0]) : table.value(known);
+    };
+    put(clearCode);
+    for (const char byte : bytes) {
+        const QByteArray longer = string + byte;
+        if (longer.size() == 1 || table.contains(longer)) {
+            string = longer;
+            continue;
+        }
+        put(codeOf(string));
+        table.insert(longer, count++);
+        if (count == full) {
+            put(clearCode);
+            table.clear();
+            count = firstFree;
+        }
+        string = QByteArray(1, byte);
+    }
+    put(codeOf(string));
+    ++count;
+    put(endCode);
+    return out + char(bits << (8 - held) & 0xFF);
 }
 
 }  // namespace
@@ -271,6 +311,46 @@ QByteArray cmykJpeg(QSize size, const QByteArray& inks, const QByteArray& icc)
     jpeg_destroy_compress(&info);
     free(out);
     return bytes;
+}
+
+QByteArray inksOf(const QImage& image)
+{
+    QByteArray inks;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            inks +=
+                QByteArray() + char(255 - qRed(pixel)) + char(255 - qGreen(pixel)) + char(255 - qBlue(pixel)) + '\0';
+        }
+    return inks;
+}
+
+QByteArray cmykTiff(QSize size, const QByteArray& inks, const QByteArray& icc, bool lzw)
+{
+    QByteArray strip = inks;
+    const qsizetype row = qsizetype(size.width()) * 4;
+    for (qsizetype i = strip.size() - 1; lzw && i >= 0; --i)
+        if (i % row >= 4)
+            strip[i] = char(strip[i] - strip[i - 4]);
+    if (lzw)
+        strip = lzwCoded(strip);
+    constexpr quint32 entries = 11, bitsAt = 8 + 2 + entries * 12 + 4, stripAt = bitsAt + 8;
+    QByteArray bytes = QByteArray("II*\0", 4) + little<quint32>(8) + little<quint16>(entries);
+    const auto entry = [&](quint16 tag, quint16 type, quint32 count, quint32 value) {
+        bytes += little(tag) + little(type) + little(count) + little(value);
+    };
+    entry(256, 4, 1, quint32(size.width()));
+    entry(257, 4, 1, quint32(size.height()));
+    entry(258, 3, 4, bitsAt);
+    entry(259, 3, 1, lzw ? 5 : 1);
+    entry(262, 3, 1, 5);
+    entry(273, 4, 1, stripAt);
+    entry(277, 3, 1, 4);
+    entry(278, 4, 1, quint32(size.height()));
+    entry(279, 4, 1, quint32(strip.size()));
+    entry(317, 3, 1, lzw ? 2 : 1);
+    entry(34675, 7, quint32(icc.size()), stripAt + quint32(strip.size()));
+    return bytes + little<quint32>(0) + little<quint16>(8).repeated(4) + strip + icc;
 }
 
 QByteArray grayInkProfile()

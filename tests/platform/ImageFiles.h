@@ -21,6 +21,10 @@ QByteArray psd(const QImage& image, int mode, bool packed, bool large = false, i
 QByteArray gif(const QImage& image);
 /// Four inks, 255 meaning full, as Adobe's programs write them.
 QByteArray cmykJpeg(QSize size, const QByteArray& inks, const QByteArray& icc = {});
+/// The same as a TIFF of one strip, stored or by LZW with differences.
+QByteArray cmykTiff(QSize size, const QByteArray& inks, const QByteArray& icc, bool lzw);
+/// The picture's colours as amounts of ink, no black.
+QByteArray inksOf(const QImage& image);
 /// An ICC profile that shows every mix of inks as the same middle gray.
 QByteArray grayInkProfile();
 

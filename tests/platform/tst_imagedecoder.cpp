@@ -36,6 +36,10 @@ QList<std::pair<QByteArray, Maker>> makers()
         { "webp", [=] { return ImageFiles::written(image(), "webp"); } },
         { "tiff", [=] { return ImageFiles::written(image(), "tiff"); } },
         { "deep.tif", [=] { return ImageFiles::written(image().convertToFormat(QImage::Format_RGBX64), "tiff"); } },
+        { "cmyk.tif",
+            [=] {
+                return ImageFiles::cmykTiff({ 320, 200 }, ImageFiles::inksOf(image()), {}, true);
+            } },
         { "heic", [=] { return ImageFiles::heif(image(), false); } },
         { "thumbnail.hif", [=] { return ImageFiles::heif(image(), false, 160); } },
         { "avif", [=] { return ImageFiles::heif(image(), true); } },
@@ -290,11 +294,14 @@ private slots:
         QFETCH(QByteArray, inks);
         QFETCH(bool, profile);
         QFETCH(QColor, colour);
-        const QByteArray bytes = ImageFiles::cmykJpeg(
-            { 64, 48 }, inks.repeated(64 * 48), profile ? ImageFiles::grayInkProfile() : QByteArray());
-        const QImage image = ImageDecoder::decode(stored(bytes, "a"), 32).image;
-        QCOMPARE(image.size(), QSize(32, 24));
-        QVERIFY2(isNear(image.pixel(16, 12), colour.rgb(), 4), qPrintable(image.pixelColor(16, 12).name()));
+        const QByteArray icc = profile ? ImageFiles::grayInkProfile() : QByteArray(), all = inks.repeated(64 * 48);
+        for (const QByteArray& bytes :
+            { ImageFiles::cmykJpeg({ 64, 48 }, all, icc), ImageFiles::cmykTiff({ 64, 48 }, all, icc, false),
+                ImageFiles::cmykTiff({ 64, 48 }, all, icc, true) }) {
+            const QImage image = ImageDecoder::decode(stored(bytes, "a"), 32).image;
+            QCOMPARE(image.size(), QSize(32, 24));
+            QVERIFY2(isNear(image.pixel(16, 12), colour.rgb(), 4), qPrintable(image.pixelColor(16, 12).name()));
+        }
     }
 
     void transparencyIsKept()
