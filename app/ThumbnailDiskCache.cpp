@@ -22,7 +22,7 @@ namespace Quorbel {
 namespace {
 
 /// A thumbnail of these bytes was made by this store, or it is not worth reading.
-constexpr qint64 largestFile = 8 * 1024 * 1024;
+constexpr qint64 largestFile = 8LL * 1024 * 1024;
 constexpr int mostPixelsOnASide = 4096;
 
 QImage readSmallImage(const QString& file, const char* format)

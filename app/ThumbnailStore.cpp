@@ -14,6 +14,7 @@
 
 #include <chrono>
 #include <cmath>
+#include <ranges>
 #include <utility>
 
 #include <sys/resource.h>
@@ -217,8 +218,8 @@ void ThumbnailStore::setVisible(const QList<QUrl>& urls, const QList<QUrl>& near
     }
     for (const Key& key : std::as_const(gone))
         drop(key);
-    for (auto it = near.crbegin(); it != near.crend(); ++it)
-        request(*it, Kind::small);
+    for (const QUrl& url : near | std::views::reverse)
+        request(url, Kind::small);
     dispatch();
     for (const Key& key : std::as_const(gone))
         emit entryChanged(key.url, key.kind);
@@ -400,5 +401,3 @@ void ThumbnailStore::keep(const Key& key, const QImage& image, bool final)
 }
 
 }  // namespace Quorbel
-
-#include "moc_ThumbnailStore.cpp"

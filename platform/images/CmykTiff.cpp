@@ -46,7 +46,7 @@ struct Layout {
 std::optional<Layout> layoutOf(const TiffReader& tiff)
 {
     constexpr quint32 inks = 5, interleaved = 1;
-    constexpr qsizetype mostStrips = 400'000, mostProfile = 16 * 1024 * 1024;
+    constexpr qsizetype mostStrips = 400'000, mostProfile = 16LL * 1024 * 1024;
     const TiffDirectory first = tiff.directory(tiff.firstDirectory());
     const auto number = [&](Tag tag, quint32 otherwise) { return first.number(tag).value_or(otherwise); };
     if (number(photometricTag, 0) != inks || number(planarTag, interleaved) != interleaved)
@@ -185,7 +185,7 @@ public:
             const qsizetype column = qMin(x, m_layout.size.width() - 1);
             const char* pixel = row + column * m_layout.samples * m_layout.sampleBytes + m_highByte;
             for (int ink = 0; ink < 4; ++ink)
-                m_sums[qsizetype(x / m_factor) * 4 + ink] += quint8(pixel[ink * m_layout.sampleBytes]);
+                m_sums[qsizetype(x / m_factor) * 4 + ink] += quint8(pixel[qsizetype(ink) * m_layout.sampleBytes]);
         }
         const int target = y / m_factor;
         const bool complete = (y + 1) % m_factor == 0 || y + 1 == m_layout.size.height();

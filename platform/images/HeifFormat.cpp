@@ -138,7 +138,7 @@ QByteArray profileOfCodePoints(const Handle& handle)
 
 QByteArray profileOf(const Handle& handle)
 {
-    constexpr size_t largest = 16 * 1024 * 1024;
+    constexpr size_t largest = 16UL * 1024 * 1024;
     const size_t length = heif_image_handle_get_raw_color_profile_size(handle.get());
     if (length == 0 || length > largest)
         return profileOfCodePoints(handle);

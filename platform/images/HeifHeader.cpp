@@ -76,7 +76,7 @@ QSize sizeOfHevcSequence(QByteArrayView unit)
         levels += in.bits(1);
     }
     if (subLayers > 0)
-        in.skip(2 * (8 - subLayers));
+        in.skip(2 * (8 - qsizetype(subLayers)));
     in.skip(88LL * profiles + 8LL * levels);
     in.golomb();  // sequence id
     if (in.golomb() == 3)
@@ -193,7 +193,7 @@ void eachProperty(QIODevice& device, qint64 at, qint64 end, const BoxVisit& visi
 
 QSize largestCodedFrame(QIODevice& device)
 {
-    constexpr qint64 longestRecord = 64 * 1024;
+    constexpr qint64 longestRecord = 64LL * 1024;
     QSize largest;
     eachProperty(device, 0, device.size(), [&](QByteArrayView type, qint64 at, qint64 end) {
         if (type != "hvcC" && type != "av1C")

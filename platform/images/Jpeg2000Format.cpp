@@ -65,7 +65,9 @@ std::optional<CodestreamSize> readSize(QIODevice& device, ImageFormat format)
     device.seek(0);
     if (at < 0 || head.size() < 42 || !head.startsWith(QByteArrayView("\xff\x4f\xff\x51", 4)))
         return std::nullopt;
-    const auto number = [&](int index) { return qint64(qFromBigEndian<quint32>(head.constData() + 8 + index * 4)); };
+    const auto number = [&](int index) {
+        return qint64(qFromBigEndian<quint32>(head.constData() + 8 + qsizetype(index) * 4));
+    };
     const qint64 right = number(0), bottom = number(1), left = number(2), top = number(3);
     const qint64 tileWidth = number(4), tileHeight = number(5), tileLeft = number(6), tileTop = number(7);
     if (right <= left || bottom <= top || right - left > INT_MAX || bottom - top > INT_MAX || tileWidth <= 0

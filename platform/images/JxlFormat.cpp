@@ -54,7 +54,7 @@ private:
     /// The decoder gives back what it did not use, and wants it again in front of the next piece.
     void feed()
     {
-        constexpr qint64 piece = 256 * 1024;
+        constexpr qint64 piece = 256LL * 1024;
         const size_t unused = JxlDecoderReleaseInput(m_decoder.get());
         m_input = m_input.right(qsizetype(unused)) + m_source.device.read(piece);
         m_ended = m_source.cancel.stop_requested() || m_input.size() <= qsizetype(unused)
@@ -81,7 +81,7 @@ private:
 
     void takeProfile()
     {
-        constexpr size_t largest = 16 * 1024 * 1024;
+        constexpr size_t largest = 16UL * 1024 * 1024;
         constexpr auto pixels = JXL_COLOR_PROFILE_TARGET_DATA;
         size_t length = 0;
         if (JxlDecoderGetICCProfileSize(m_decoder.get(), nullptr, pixels, &length) != JXL_DEC_SUCCESS

@@ -8,7 +8,7 @@ void unpackBits(QByteArrayView packed, QByteArray& row)
 {
     qsizetype at = 0, to = 0;
     while (at < packed.size() && to < row.size()) {
-        const int control = qint8(packed[at++]);
+        const int byte = quint8(packed[at++]), control = byte < 128 ? byte : byte - 256;
         if (control == -128)
             continue;
         const qsizetype count = qMin<qsizetype>(control >= 0 ? control + 1 : 1 - control, row.size() - to);

@@ -30,14 +30,15 @@ QByteArray readerName(ImageFormat format)
 DecodedFrame QtFormats::decode(const DecodeSource& source, ImageFormat format, const ImageHeader& header)
 {
     // The gate has judged the size; the reader's own limit must let through what the gate does: 16 bits a channel.
-    constexpr int megabytes = int(HeaderGate::maxWholePixels * 8 / (1024 * 1024)) + 1;
+    constexpr int megabytes = int(HeaderGate::maxWholePixels * 8 / (1024LL * 1024)) + 1;
     static std::once_flag limitSet;
     std::call_once(limitSet, [] { QImageReader::setAllocationLimit(megabytes); });
 
     QImageReader reader(&source.device, readerName(format));
     // The reader's own turning drops the colour profile of quarter turns.
     reader.setAutoTransform(false);
-    if (qMax(header.size.width(), header.size.height()) > source.longSide) {
+    const bool held = format == ImageFormat::png && header.wholeFrame;
+    if (!held && qMax(header.size.width(), header.size.height()) > source.longSide) {
         const QSize target = header.size.scaled(source.longSide, source.longSide, Qt::KeepAspectRatio);
         reader.setScaledSize(target.expandedTo(QSize(1, 1)));
     }

@@ -77,7 +77,7 @@ DecodedFrame bitmapPreview(LibRaw& raw)
     if (!made || made->type != LIBRAW_IMAGE_BITMAP || made->bits != 8 || (made->colors != 3 && made->colors != 1)
         || made->data_size < quint64(made->width) * made->height * made->colors)
         return frame;
-    frame.image = QImage(made->data, made->width, made->height, made->width * made->colors,
+    frame.image = QImage(made->data, made->width, made->height, qsizetype(made->width) * made->colors,
         made->colors == 3 ? QImage::Format_RGB888 : QImage::Format_Grayscale8)
                       .copy();
     frame.outcome = frame.image.isNull() ? Outcome::damaged : Outcome::decoded;
@@ -117,7 +117,7 @@ DecodedFrame developed(LibRaw& raw)
     if (!made || made->type != LIBRAW_IMAGE_BITMAP || made->bits != 8 || (made->colors != 3 && made->colors != 1)
         || made->data_size < quint64(made->width) * made->height * made->colors)
         return frame;
-    frame.image = QImage(made->data, made->width, made->height, made->width * made->colors,
+    frame.image = QImage(made->data, made->width, made->height, qsizetype(made->width) * made->colors,
         made->colors == 3 ? QImage::Format_RGB888 : QImage::Format_Grayscale8)
                       .copy();
     frame.outcome = frame.image.isNull() ? Outcome::damaged : Outcome::decoded;
