@@ -22,7 +22,7 @@ bool MapFile::map(const QString& path, MapFormat::Kind kind)
     m_bytes = m_file.map(0, m_size);
     if (!m_bytes || std::memcmp(m_bytes, MapFormat::magic, sizeof MapFormat::magic) != 0)
         return false;
-    const auto number = [this](int index) {
+    const auto number = [this](qsizetype index) {
         return qFromLittleEndian<quint16>(m_bytes + sizeof MapFormat::magic + 2 * index);
     };
     m_columns = number(1);

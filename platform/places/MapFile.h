@@ -43,7 +43,11 @@ public:
     int rows() const { return m_rows; }
     double degrees() const { return 360.0 / m_columns; }  ///< width and height of a bin
     double west(int bin) const { return bin % m_columns * degrees(); }  ///< longitude, 0…360
-    double south(int bin) const { return 90 - (double(bin / m_columns) + 1) * degrees(); }
+    double south(int bin) const
+    {
+        const int row = bin / m_columns;
+        return 90 - (row + 1) * degrees();
+    }
 
     /// Calls visit(const MapShape&) for the shapes of a bin, as far as they are whole.
     template <typename Visit>

@@ -37,7 +37,5 @@ public:
 
 /// From the map files in the data folder, share/quorbel/places.
 std::unique_ptr<MapRenderer> makeMapRenderer(const QString& dataFolder);
-/// Credits of the map's data, for the About text.
-QString mapCredits();
 
 }  // namespace Quorbel

@@ -2,7 +2,8 @@
 
 #include "platform/places/MapPainter.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
+#include <QEvent>
 
 #include <atomic>
 #include <cmath>
@@ -47,12 +48,47 @@ PlaceResult<MapImage> draw(const MapData* data, const MapRequest& request, const
     return { std::move(map), PlaceError::none, {} };
 }
 
+/// A finished map on its way to the main thread.
+class Delivery final : public QEvent {
+public:
+    Delivery(Flag isDropped, std::shared_ptr<PlaceCallback<MapImage>> answer, PlaceResult<MapImage> result)
+        : QEvent(User)
+        , m_isDropped(std::move(isDropped))
+        , m_answer(std::move(answer))
+        , m_result(std::move(result))
+    {
+    }
+    void deliver() const
+    {
+        if (!*m_isDropped)
+            (*m_answer)(m_result);
+    }
+
+private:
+    Flag m_isDropped;
+    std::shared_ptr<PlaceCallback<MapImage>> m_answer;
+    PlaceResult<MapImage> m_result;
+};
+
+/// Receives nothing but deliveries; those still on their way when it goes are thrown away.
+class Desk final : public QObject {
+public:
+    bool event(QEvent* event) override
+    {
+        const auto* const delivery = dynamic_cast<Delivery*>(event);
+        if (!delivery)
+            return QObject::event(event);
+        delivery->deliver();
+        return true;
+    }
+};
+
 }  // namespace
 
 OfflineMapRenderer::OfflineMapRenderer(const QString& dataFolder)
     : m_data(MapData::open(dataFolder))
     , m_isClosing(std::make_shared<std::atomic<bool>>(false))
-    , m_desk(std::make_unique<QObject>())
+    , m_desk(std::make_unique<Desk>())
 {
     m_worker.setMaxThreadCount(1);
 }
@@ -76,13 +112,7 @@ PlaceToken OfflineMapRenderer::render(const MapRequest& request, PlaceCallback<M
             PlaceResult<MapImage> result{ {}, PlaceError::cancelled, {} };
             if (!isCancelled())
                 result = draw(data.get(), request, isCancelled);
-            QMetaObject::invokeMethod(
-                desk,
-                [isDropped, shared = std::move(shared), result = std::move(result)] {
-                    if (!*isDropped)
-                        (*shared)(result);
-                },
-                Qt::QueuedConnection);
+            QCoreApplication::postEvent(desk, new Delivery(isDropped, std::move(shared), std::move(result)));
         });
     return std::make_unique<Token>(isDropped);
 }
@@ -90,13 +120,6 @@ PlaceToken OfflineMapRenderer::render(const MapRequest& request, PlaceCallback<M
 std::unique_ptr<MapRenderer> makeMapRenderer(const QString& dataFolder)
 {
     return std::make_unique<OfflineMapRenderer>(dataFolder);
-}
-
-QString mapCredits()
-{
-    return QStringLiteral(
-        "Map: towns © GeoNames (geonames.org), CC BY 4.0, changed. Shorelines, lakes and rivers: GSHHG by "
-        "Paul Wessel and Walter H. F. Smith, LGPL 3 or later. Borders: Natural Earth.");
 }
 
 }  // namespace Quorbel

@@ -82,12 +82,13 @@ struct Segments {
 
     QList<BinPoint> points(const NetCdf& file, int segment, int count) const
     {
-        const int first = firstPoint[size_t(segment)];
-        if (first < 0 || size_t(first) + size_t(count) > x.size())
+        const int start = firstPoint[size_t(segment)];
+        if (start < 0 || size_t(start) + size_t(count) > x.size())
             file.fail(QStringLiteral("segment %1 lies outside the points").arg(segment));
+        const auto first = size_t(start);
         QList<BinPoint> all(count);
         for (int i = 0; i < count; ++i)
-            all[i] = { quint16(x[size_t(first + i)]), quint16(y[size_t(first + i)]) };
+            all[i] = { quint16(x[first + size_t(i)]), quint16(y[first + size_t(i)]) };
         return all;
     }
 
