@@ -17,7 +17,13 @@ constexpr double nearestAcross = 1;  // km: the data knows nothing finer
 /// From the centre to a corner, in km: less than the earth's radius, so that the horizon stays out of sight.
 constexpr double farthestCorner = 4700;
 constexpr double widening = 2.5;
-constexpr int fewestLabels = 2;
+
+/// How many names make a map worth showing. A lone town on an island or in a desert is shown with what surrounds it,
+/// not from so far that it becomes a speck; from farther still, one name says too little again.
+int fewestLabels(double kilometresAcross)
+{
+    return kilometresAcross >= 300 && kilometresAcross < 1000 ? 1 : 2;
+}
 
 constexpr double statesUpTo = 1200;  // km across; beyond, state lines would be a thicket
 constexpr double graticuleFrom = 300;  // km across
@@ -67,7 +73,7 @@ private:
     bool m_hasLand = false;
 };
 
-/// Widens until there is something to name, before anything is drawn.
+/// Widens until there is something to see, before anything is drawn.
 MapProjection Scene::chooseScale()
 {
     const auto& size = m_request.size;
@@ -77,7 +83,7 @@ MapProjection Scene::chooseScale()
         const MapProjection projection(m_request.centre, size, across);
         m_towns = seenTowns(*m_data.towns, projection);
         m_labels = placeLabels(m_towns, projection, m_request.font, m_request.textScale, reservedBoxes());
-        if (!m_request.widen || m_labels.size() >= fewestLabels || across >= farthest || m_isCancelled())
+        if (!m_request.widen || m_labels.size() >= fewestLabels(across) || across >= farthest || m_isCancelled())
             return projection;
         across = std::min(across * widening, farthest);
     }
@@ -135,14 +141,17 @@ void Scene::drawLand(QPainter& painter)
     const auto areas =
         mapAreas(m_data.shores(m_kilometresPerPixel), m_projection, m_request.devicePixelRatio, m_isCancelled);
     m_hasLand = areas.contains(MapFormat::land);
-    painter.fillPath(areas.value(MapFormat::land), m_palette.land);
+    // Water is a hole in the land, through which the sea will show.
+    for (int type = MapFormat::land; type <= MapFormat::pondOnIsland; ++type) {
+        painter.setCompositionMode(
+            type % 2 == 1 ? QPainter::CompositionMode_SourceOver : QPainter::CompositionMode_DestinationOut);
+        painter.fillPath(areas.value(type), m_palette.land);
+    }
     drawSettlements(painter);
-    for (int type = MapFormat::lake; type <= MapFormat::pondOnIsland; ++type)
-        painter.fillPath(areas.value(type), type % 2 == 1 ? m_palette.land : m_palette.sea);
 }
 
-/// Patches, as large as that many people need, fading outwards; where they meet they grow together. The sea is not
-/// drawn yet and so stays free of them.
+/// Patches, as large as that many people need, fading outwards; where they meet they grow together. Water is
+/// not drawn yet and so stays free of them.
 void Scene::drawSettlements(QPainter& painter) const
 {
     constexpr double radiusOfThousand = 0.15;  // km
