@@ -72,7 +72,8 @@ public:
     /// go even where the texts are equal; otherwise an editor that shows its text already is left alone.
     void setState(const FieldRowState& state, bool fresh);
     const FieldRowState& state() const { return m_state; }
-    QWidget* editor() const { return m_editor.widget; }
+    /// The part of the editor that takes the keyboard.
+    QWidget* input() const { return m_editor.input; }
     QBCheckbox* tick() const { return m_tick; }  ///< null until the row was in a batch
     QBIconButton* removeButton() const { return m_remove; }  ///< null until the row was removable
     /// What takes Tab, in order.

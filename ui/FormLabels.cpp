@@ -40,6 +40,18 @@ QStringList atSpaces(const QString& text, const QFontMetrics& metrics, int width
     return lines;
 }
 
+QStringList anywhere(const QString& text, const QFontMetrics& metrics, int width)
+{
+    QStringList lines{ QString() };
+    for (const QChar c : text) {
+        // Not between the halves of a character.
+        if (!c.isLowSurrogate() && metrics.horizontalAdvance(lines.constLast() + c) > width)
+            lines.append(QString());
+        lines.last() += c;
+    }
+    return lines;
+}
+
 }  // namespace
 
 TwoLineLabel::TwoLineLabel(TextRole role, qreal points, QWidget* parent)
@@ -117,9 +129,16 @@ void WrappedLine::setText(const QString& text)
     breakText();
 }
 
+void WrappedLine::setBreaksAnywhere(bool on)
+{
+    m_breaksAnywhere = on;
+    breakText();
+}
+
 void WrappedLine::breakText()
 {
-    m_lines = atSpaces(text(), fontMetrics(), qMax(px(60), width()));
+    const int room = qMax(px(60), width());
+    m_lines = m_breaksAnywhere ? anywhere(text(), fontMetrics(), room) : atSpaces(text(), fontMetrics(), room);
     const int wanted = px(m_lineHeight) * qMax(1, int(m_lines.size()));
     if (wanted != minimumHeight() || wanted != maximumHeight()) {
         setFixedHeight(wanted);

@@ -37,6 +37,8 @@ public:
     /// `lineHeight` in points.
     WrappedLine(TextRole role, qreal points, qreal lineHeight, QWidget* parent = nullptr);
     void setText(const QString& text);
+    /// Between any two letters, for a text that is one long word; otherwise only at spaces.
+    void setBreaksAnywhere(bool on);
     QSize sizeHint() const override { return { 0, height() }; }
     QSize minimumSizeHint() const override { return { 0, height() }; }
 
@@ -49,6 +51,7 @@ private:
     void breakText();
 
     qreal m_lineHeight;
+    bool m_breaksAnywhere = false;
     QStringList m_lines;
 };
 

@@ -89,6 +89,17 @@ void InspectorForm::refresh()
     showCamera();
     if (std::exchange(m_tabOrderStale, false))
         orderTabStops();
+    announceAdded(fresh);
+}
+
+void InspectorForm::announceAdded(bool fresh)
+{
+    const QSet<QString> before = std::exchange(m_added, m_model.sessionAddedKnownIDs());
+    if (fresh)
+        return;
+    const QSet<QString> added = m_added - before;
+    for (const QString& id : added)
+        emit fieldAdded(id);
 }
 
 void InspectorForm::showHeader()

@@ -49,6 +49,10 @@ public:
     LocationMap* locationMap() const { return m_map; }
     CameraSection* camera() const { return m_camera; }
 
+signals:
+    /// The user added this field to those on screen.
+    void fieldAdded(const QString& id);
+
 private:
     /// What the form is about: when it changes, texts that stay equal belong to other photos all the same.
     struct Subject {
@@ -62,6 +66,7 @@ private:
     void showCustoms(bool fresh);
     void showMap(bool fresh);
     void showCamera();
+    void announceAdded(bool fresh);
     FieldRow* makeRow(const QString& key, const FieldRowParts& parts);
     FieldRow* rowOf(const FieldSpec& field);
     FieldRow* rowOf(const CustomValue& custom);
@@ -74,6 +79,7 @@ private:
     AppModel& m_model;
     PlaceProvider* m_places;
     Subject m_subject{};
+    QSet<QString> m_added{};  ///< the fields that were added when the model was last read
     bool m_tabOrderStale = true;
     QHash<QString, FieldRow*> m_pool;  ///< by field id, or by the key of a custom field
     QVBoxLayout* m_column;

@@ -1,6 +1,7 @@
 #include "ui/InspectorView.h"
 
 #include "app/AppModel.h"
+#include "ui/FieldRow.h"
 #include "ui/InspectorFooter.h"
 #include "ui/InspectorForm.h"
 #include "ui/Labels.h"
@@ -46,6 +47,8 @@ InspectorView::InspectorView(
         if (now && m_form->isAncestorOf(now))
             revealFocus();
     });
+    // Later: the sheet in which the field was picked still gives the focus back to where it was.
+    connect(m_form, &InspectorForm::fieldAdded, this, &InspectorView::focusField, Qt::QueuedConnection);
     connectModel();
     refresh();
 }
@@ -82,6 +85,12 @@ void InspectorView::revealFocus()
         return;
     // Around the caret: enough for a field, its ring and the line under it.
     m_scroll->ensureWidgetVisible(focus, 0, px(48));
+}
+
+void InspectorView::focusField(const QString& id)
+{
+    if (const FieldRow* row = m_form->row(id))
+        row->input()->setFocus(Qt::OtherFocusReason);
 }
 
 bool InspectorView::eventFilter(QObject* watched, QEvent* event)

@@ -38,6 +38,7 @@ private:
     void connectModel();
     void refresh();
     void revealFocus();
+    void focusField(const QString& id);
 
     AppModel& m_model;
     QScrollArea* m_scroll;

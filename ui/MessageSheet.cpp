@@ -1,12 +1,11 @@
 #include "ui/MessageSheet.h"
 
 #include "ui/Buttons.h"
-#include "ui/Icon.h"
 #include "ui/Labels.h"
 #include "ui/Metrics.h"
+#include "ui/SheetParts.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 #include <QVBoxLayout>
 
 namespace Quorbel {
@@ -16,33 +15,6 @@ namespace {
 // Points.
 constexpr qreal sheetWidth = 470;
 constexpr qreal padding = 24;
-constexpr qreal tileSize = 46;
-constexpr qreal tileRadius = 11;
-
-/// The square with a symbol at the left of a message.
-class Tile final : public QWidget {
-public:
-    explicit Tile(const QString& icon)
-        : m_icon(icon)
-    {
-        onRestyle(this, [this] { setFixedSize(px(tileSize), px(tileSize)); });
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        const Theme& theme = Theme::of(this);
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(theme.amberLine);
-        painter.setBrush(theme.amberBg);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), pxF(tileRadius), pxF(tileRadius));
-        Icon::paint(painter, rect(), m_icon, pxF(22), theme.amber);
-    }
-
-private:
-    QString m_icon;
-};
 
 }  // namespace
 
@@ -54,7 +26,7 @@ MessageSheet::MessageSheet(const QString& icon, const QString& message, const QS
     setAccessibleName(message);
     setAccessibleDescription(informativeText);
     auto* row = new QHBoxLayout(this);
-    row->addWidget(new Tile(icon), 0, Qt::AlignTop);
+    row->addWidget(new SymbolTile(icon), 0, Qt::AlignTop);
     auto* column = new QVBoxLayout;
     auto* title = new ThemedLabel(message, TextRole::text, 15, QFont::DemiBold);
     title->setWordWrap(true);

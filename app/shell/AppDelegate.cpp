@@ -7,10 +7,13 @@
 #include "app/shell/OpenPanel.h"
 #include "app/shell/StartTrace.h"
 #include "core/Product.h"
+#include "ui/AddFieldSheet.h"
 #include "ui/ContentView.h"
 #include "ui/HelpView.h"
 #include "ui/InspectorView.h"
 #include "ui/MessageSheet.h"
+#include "ui/RenameSheet.h"
+#include "ui/SaveDialogView.h"
 #include "ui/SettingsView.h"
 #include "ui/SystemScheme.h"
 #include "ui/Theme.h"
@@ -114,6 +117,9 @@ void AppDelegate::buildWindow()
         return new InspectorView(
             m_app->model(), &m_app->thumbnails(), m_app->placeProvider(), m_app->mapRenderer(), parent);
     };
+    factories.addField = [&model] { return new AddFieldSheet(model); };
+    factories.save = [&model] { return new SaveDialogView(model); };
+    factories.rename = [&model] { return new RenameSheet(model); };
     factories.setInspectorInset = [](QWidget* inspector, int pixels) {
         static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
     };

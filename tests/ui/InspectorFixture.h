@@ -46,6 +46,7 @@ public:
     static void settle();
 
     AppModel& model() const { return *photos.model; }
+    /// By field id, or "custom:" and the name; null when the row is not on screen.
     FieldRow* row(const QString& id) const { return view->form()->row(id); }
     /// The first editor of this class in a row; null when the row is not on screen.
     template <typename Editor>

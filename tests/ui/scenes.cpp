@@ -1,6 +1,10 @@
 // Draws the inspector in many situations into PNG files, for looking at: scenes FOLDER. QT_SCALE_FACTOR=2 doubles
 // the pixels.
 #include "tests/ui/InspectorFixture.h"
+#include "ui/AddFieldSheet.h"
+#include "ui/RenameSheet.h"
+#include "ui/SaveDialogView.h"
+#include "ui/TextFields.h"
 #include "ui/Theme.h"
 
 #include <QApplication>
@@ -25,6 +29,24 @@ void grab(InspectorFixture& f, const QString& folder, const QString& name)
             f.window->grab().save(
                 u"%1/%2-%3-%4-%5x.png"_s.arg(folder, name, dark ? u"dark"_s : u"light"_s).arg(width).arg(scale));
         }
+    }
+}
+
+/// A sheet over an empty window, in both appearances.
+void grabSheet(const std::function<SheetBody*()>& make, const QString& folder, const QString& name)
+{
+    for (const bool dark : { false, true }) {
+        QWidget window;
+        window.setAutoFillBackground(true);
+        window.resize(560, 700);
+        setTheme(&window, dark ? Theme::dark() : Theme::light());
+        window.show();
+        window.activateWindow();
+        auto* host = new SheetHost(&window);
+        host->present(make());
+        QTest::qWait(400);
+        window.grab().save(u"%1/sheet-%2-%3-%4x.png"_s.arg(folder, name, dark ? u"dark"_s : u"light"_s)
+                               .arg(window.devicePixelRatio()));
     }
 }
 
@@ -65,6 +87,15 @@ int main(int argc, char** argv)
         return 1;
     f.model().setSingle(u"title"_s, u"Last light on the lake"_s);
     f.model().setSingle(u"copyright"_s, u"© 2024 Mara Lindqvist"_s);
+    grabSheet([&f] { return new SaveDialogView(f.model()); }, folder, u"save"_s);
+    grabSheet([&f] { return new RenameSheet(f.model()); }, folder, u"rename"_s);
+    grabSheet([&f] { return new AddFieldSheet(f.model()); }, folder, u"add"_s);
+    const auto judged = [&f] {
+        auto* sheet = new AddFieldSheet(f.model());
+        sheet->findChildren<QBTextField*>().at(1)->setText(u"Größe"_s);
+        return sheet;
+    };
+    grabSheet(judged, folder, u"add-refused"_s);
     grab(f, folder, u"single"_s);
     f.model().setShowNamespace(true);
     grab(f, folder, u"namespaces"_s);
@@ -90,6 +121,12 @@ int main(int argc, char** argv)
     f.model().setBatch(u"copyright"_s, u"© 2024 Mara Lindqvist"_s);
     f.model().addKnownField(u"headline"_s);
     grab(f, folder, u"batch"_s);
+    grabSheet([&f] { return new SaveDialogView(f.model()); }, folder, u"apply"_s);
+    const QStringList more{ u"title"_s, u"description"_s, u"creator"_s, u"place"_s, u"credit"_s, u"source"_s,
+        u"event"_s };
+    for (const QString& id : more)
+        f.model().setBatch(id, u"A value that is long enough to need more than one line of the list of changes"_s);
+    grabSheet([&f] { return new SaveDialogView(f.model()); }, folder, u"apply-many"_s);
     f.model().setShowNamespace(true);
     f.window->resize(520, 1500);
     grab(f, folder, u"batch-namespaces"_s);
