@@ -15,6 +15,7 @@
 #include "app/FolderScan.h"
 #include "app/PhotoReader.h"
 #include "app/RecordIndex.h"
+#include "app/SaveJob.h"
 
 #include <QDateTime>
 #include <QObject>
@@ -320,6 +321,7 @@ private:
     };
     /// What was unsaved when a save began: what differs from it afterwards was typed meanwhile.
     struct SaveSnapshot {
+        EditPlan plan{};
         QList<QUrl> urls{};
         int selectionSerial = 0;
         std::optional<QUrl> primary{};
@@ -398,10 +400,12 @@ private:
     void saveSingle();
     void saveBatch();
     void runWrite(const EditPlan& plan, const QList<QUrl>& urls);
-    void refreshAfterSave(const SaveSnapshot& saved);
-    void takeSaved(const QList<ImageRecord>& fresh, const SaveSnapshot& saved);
-    void dropSavedBatch(const SaveSnapshot& saved);
-    QSet<QString> editsSince(const SaveSnapshot& saved) const;
+    void checkSave(const SaveSnapshot& saved, const SaveJob::Written& written);
+    void takeSaved(const SaveJob::Checked& checked, const SaveSnapshot& saved);
+    void reportSave(const SaveJob::Checked& checked, const SaveSnapshot& saved, const SaveJob::Written& written);
+    bool selectUnsaved(const QList<QUrl>& urls, const SaveSnapshot& saved);
+    void dropSavedBatch(const SaveSnapshot& saved, const QSet<QString>& differing);
+    QSet<QString> editsSince(const SaveSnapshot& saved, const QSet<QString>& differing) const;
     void endSave(bool succeeded);
     // Renaming
     QMap<QString, QString> renameValues(const ImageRecord& record) const;
@@ -465,6 +469,7 @@ private:
     int m_selectionSerial = 0;  ///< counts committed selections
     int m_generation = 0;  ///< counts what was opened; results for an earlier one are dropped
     int m_diskSerial = 0;  ///< counts our own doings that make a look at the folder out of date
+    bool m_lastSaveFailed = false;  ///< some of its edits are still unsaved
     int m_saveSerial = 0;  ///< counts beginnings and ends of saves
     bool m_isRefreshing = false;
     bool m_refreshAgain = false;

@@ -3,7 +3,7 @@
 
 #include "app/Background.h"
 #include "app/MainThread.h"
-#include "app/ReplacedFiles.h"
+#include "app/SaveJob.h"
 
 #include <QPointer>
 
@@ -29,21 +29,6 @@ QStringList draftOf(const ExternalRefresh::Drafts& drafts, const QString& key)
     }
     const FieldSpec* field = FieldSchema::spec(key);
     return field && field->isList() ? drafts.lists.value(key) : QStringList{ drafts.values.value(key) };
-}
-
-/// Writes, and counts meanwhile the files that are done. The error's description when it failed.
-std::optional<QString> write(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets,
-    const WriteOptions& options, TaskProgress& progress)
-{
-    const ReplacedFilesPoll poll(targets, progress.done);
-    try {
-        service.write(plan, targets, options);
-    } catch (const Error& error) {
-        return error.description();
-    } catch (const std::exception& error) {
-        return QString::fromUtf8(error.what());
-    }
-    return std::nullopt;
 }
 
 }  // namespace
@@ -164,96 +149,156 @@ void AppModel::runWrite(const EditPlan& plan, const QList<QUrl>& urls)
     ++m_diskSerial;
     const Task task = beginTask(urls.size(), false);
     const WriteOptions options{ m_backupOriginals, m_writeSidecar };
-    const SaveSnapshot saved{ urls, m_selectionSerial, m_primary, drafts(), m_editedSingle, m_sessionAddedKnownIDs,
-        m_batchInclude, m_batchValues, m_batchLists, m_batchCustoms };
+    const SaveSnapshot saved{ plan, urls, m_selectionSerial, m_primary, drafts(), m_editedSingle,
+        m_sessionAddedKnownIDs, m_batchInclude, m_batchValues, m_batchLists, m_batchCustoms };
     runInBackground(
         this,
         [service = *m_services.service, plan, urls, options, progress = task.progress] {
-            return write(service, plan, urls, options, *progress);
+            return SaveJob::run(service, plan, urls, options, *progress);
         },
-        [this, saved, id = task.id](const std::optional<QString>& error) {
+        [this, saved, id = task.id](const SaveJob::Written& written) {
             const Update update(*this);
-            if (!error)
-                refreshAfterSave(saved);
+            const bool mayBeSaved = !written.error || (written.isPartial && saved.urls.size() > 1);
+            if (mayBeSaved)
+                checkSave(saved, written);
             endTask(id);
-            if (error) {
-                setErrorMessage(u"Could not save: "_s + *error);
+            if (!mayBeSaved) {
+                setErrorMessage(u"Could not save: "_s + *written.error);
                 endSave(false);
             }
         });
 }
 
-void AppModel::refreshAfterSave(const SaveSnapshot& saved)
+void AppModel::checkSave(const SaveSnapshot& saved, const SaveJob::Written& written)
 {
     const Task task = beginTask(saved.urls.size(), false);
     runInBackground(
         this,
-        [service = *m_services.service, urls = saved.urls, progress = task.progress] {
-            return PhotoReader::read(service, urls, *progress, {});
+        [service = *m_services.service, plan = saved.plan, urls = saved.urls, written, progress = task.progress] {
+            return SaveJob::check(service, plan, urls, written, *progress);
         },
-        [this, saved, id = task.id](const PhotoReader::Result& result) {
-            bool succeeded = false;
+        [this, saved, written, id = task.id](const SaveJob::Checked& checked) {
             {
                 const Update update(*this);
                 endTask(id);
-                if (result.error)
-                    setErrorMessage(u"Could not read metadata: "_s + *result.error);
-                else
-                    takeSaved(result.records, saved);
-                succeeded = !result.error;
+                if (!checked.error)
+                    takeSaved(checked, saved);
+                reportSave(checked, saved, written);
             }
-            endSave(succeeded);
+            endSave(!checked.error && checked.failures.isEmpty() && checked.differences.isEmpty());
         });
 }
 
-/// The files hold now what was written; what the user typed since the save began stays unsaved.
-void AppModel::takeSaved(const QList<ImageRecord>& fresh, const SaveSnapshot& saved)
+void AppModel::reportSave(const SaveJob::Checked& checked, const SaveSnapshot& saved, const SaveJob::Written& written)
 {
-    replaceRecords(fresh);
-    if (saved.selectionSerial == m_selectionSerial)
-        dropSavedBatch(saved);
+    if (checked.error && written.error)
+        return setErrorMessage(u"Could not save: "_s + *written.error);
+    if (checked.error)
+        return setErrorMessage(u"Could not read metadata: "_s + *checked.error);
+    QStringList texts;
+    if (!checked.failures.isEmpty())
+        texts.append(SaveJob::failuresText(checked.failures, saved.urls.size()));
+    if (!checked.differences.isEmpty())
+        texts.append(SaveJob::differencesText(checked.differences));
+    if (!texts.isEmpty())
+        setErrorMessage(texts.join(u". "_s));
+}
+
+/// What the files hold now as it was written is no edit any more. What they hold otherwise, what could not be
+/// written, and what the user typed since the save began stays unsaved.
+void AppModel::takeSaved(const SaveJob::Checked& checked, const SaveSnapshot& saved)
+{
+    replaceRecords(checked.records);
+    const bool isSameSelection = saved.selectionSerial == m_selectionSerial;
+    if (!checked.failures.isEmpty()) {
+        QList<QUrl> failed;
+        for (const FileFailure& failure : checked.failures)
+            failed.append(failure.file);
+        selectUnsaved(failed, saved);
+        return;
+    }
+    const QSet<QString> differing(checked.differences.cbegin(), checked.differences.cend());
+    if (isSameSelection || (!differing.isEmpty() && selectUnsaved(saved.urls, saved)))
+        dropSavedBatch(saved, differing);
     const ImageRecord* record = primaryRecord();
     if (!record || !saved.urls.contains(*m_primary))
         return;
-    const QSet<QString> edited = editsSince(saved);
+    const QSet<QString> edited = editsSince(saved, differing);
     setDrafts(ExternalRefresh::mergeDrafts(*record, drafts(), edited));
     assign(m_editedSingle, edited, &AppModel::editedSingleChanged);
-    if (saved.selectionSerial == m_selectionSerial)
+    if (isSameSelection)
         assign(m_sessionAddedKnownIDs, QSet(m_sessionAddedKnownIDs).subtract(saved.added),
             &AppModel::sessionAddedKnownIDsChanged);
 }
 
-/// The edited keys whose draft is not what was written.
-QSet<QString> AppModel::editsSince(const SaveSnapshot& saved) const
+/// Selects the photos that still wait for their edits, with these edits, so that Save tries just them again. Not
+/// when the user edits other photos by now: those edits would be lost instead. Whether it did.
+bool AppModel::selectUnsaved(const QList<QUrl>& urls, const SaveSnapshot& saved)
+{
+    const bool isSameSelection = saved.selectionSerial == m_selectionSerial;
+    PendingSelection next;
+    for (const QUrl& url : urls)
+        if (m_index.position(url) >= 0)
+            next.selection.insert(url);
+    if (saved.urls.size() < 2 || next.selection.isEmpty() || (!isSameSelection && unsavedCount() > 0))
+        return false;
+    const bool keepsPrimary = m_primary && next.selection.contains(*m_primary);
+    next.primary = keepsPrimary ? *m_primary : urls.constFirst();
+    if (!next.selection.contains(*next.primary))
+        next.primary = *next.selection.cbegin();
+    next.anchor = next.primary;
+    const auto include = isSameSelection ? m_batchInclude : saved.batchInclude;
+    const auto values = isSameSelection ? m_batchValues : saved.batchValues;
+    const auto lists = isSameSelection ? m_batchLists : saved.batchLists;
+    const auto customs = isSameSelection ? m_batchCustoms : saved.batchCustoms;
+    const auto added = isSameSelection ? m_sessionAddedKnownIDs : saved.added;
+    commitSelection(next);
+    assign(m_batchInclude, include, &AppModel::batchIncludeChanged);
+    assign(m_batchValues, values, &AppModel::batchValuesChanged);
+    assign(m_batchLists, lists, &AppModel::batchListsChanged);
+    assign(m_batchCustoms, customs, &AppModel::batchCustomsChanged);
+    assign(m_sessionAddedKnownIDs, added, &AppModel::sessionAddedKnownIDsChanged);
+    if (!isBatch())
+        foldBatchIntoDraft();
+    return true;
+}
+
+/// The edited keys whose draft is not what was written, or whose field does not hold what was written.
+QSet<QString> AppModel::editsSince(const SaveSnapshot& saved, const QSet<QString>& differing) const
 {
     QSet<QString> edited = m_editedSingle;
     if (saved.primary != m_primary)
         return edited;
     const ExternalRefresh::Drafts now = drafts();
     edited.removeIf([&](const QString& key) {
-        return saved.edited.contains(key) && draftOf(saved.drafts, key) == draftOf(now, key);
+        return saved.edited.contains(key) && !differing.contains(key)
+            && draftOf(saved.drafts, key) == draftOf(now, key);
     });
     return edited;
 }
 
-void AppModel::dropSavedBatch(const SaveSnapshot& saved)
+void AppModel::dropSavedBatch(const SaveSnapshot& saved, const QSet<QString>& differing)
 {
     QSet<QString> include = m_batchInclude;
     QMap<QString, QString> values = m_batchValues;
     for (const QString& id : saved.batchInclude) {
-        if (values.value(id) != saved.batchValues.value(id))
+        if (differing.contains(id) || values.value(id) != saved.batchValues.value(id))
             continue;
         include.remove(id);
         values.remove(id);
     }
-    values.removeIf([&](const auto& entry) { return saved.batchValues.value(entry.key()) == entry.value(); });
+    values.removeIf([&](const auto& entry) {
+        return !differing.contains(entry.key()) && saved.batchValues.value(entry.key()) == entry.value();
+    });
     QMap<QString, QStringList> lists = m_batchLists;
     for (auto list = lists.begin(); list != lists.end(); ++list)
-        for (const QString& item : saved.batchLists.value(list.key()))
+        for (const QString& item : differing.contains(list.key()) ? QStringList() : saved.batchLists.value(list.key()))
             list->removeAll(item);
     lists.removeIf([](const auto& entry) { return entry.value().isEmpty(); });
     QList<CustomValue> customs = m_batchCustoms;
-    customs.removeIf([&](const CustomValue& custom) { return saved.batchCustoms.contains(custom); });
+    customs.removeIf([&](const CustomValue& custom) {
+        return !differing.contains(customPrefix + custom.name) && saved.batchCustoms.contains(custom);
+    });
     assign(m_batchInclude, include, &AppModel::batchIncludeChanged);
     assign(m_batchValues, values, &AppModel::batchValuesChanged);
     assign(m_batchLists, lists, &AppModel::batchListsChanged);
@@ -263,6 +308,7 @@ void AppModel::dropSavedBatch(const SaveSnapshot& saved)
 /// Then goes on with what waited. After a failure it is dropped: nobody leaves edits that could not be saved.
 void AppModel::endSave(bool succeeded)
 {
+    m_lastSaveFailed = !succeeded;
     m_beingWritten.clear();
     ++m_saveSerial;
     ++m_diskSerial;

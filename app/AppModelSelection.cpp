@@ -112,6 +112,7 @@ void AppModel::changeSelection(const PendingSelection& next)
 void AppModel::commitSelection(const PendingSelection& next)
 {
     const Update update(*this);
+    m_lastSaveFailed = false;
     ++m_selectionSerial;
     m_anchor = next.anchor;
     if (assign(m_selection, next.selection, &AppModel::selectionChanged)) {
@@ -139,7 +140,8 @@ void AppModel::holdBack(std::function<void()> action)
     m_waiting = std::move(action);
     if (m_isSaving)
         return;
-    if (m_saveDontAsk && !isBatch())
+    // Edits that cannot be saved need the question all the same: else there would be no way to leave them.
+    if (m_saveDontAsk && !isBatch() && !m_lastSaveFailed)
         saveSingle();
     else
         assign(m_saveOpen, true, &AppModel::saveOpenChanged);

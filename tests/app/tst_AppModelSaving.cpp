@@ -323,6 +323,8 @@ void TestAppModelSaving::failuresKeepEdits()
     QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
     QCOMPARE(readFile(url.toLocalFile()), before);
     // Saving is possible again, and what waited for the failed save is forgotten.
+    tool.answer(
+        2, { .standardOutput = toolJson({ { { u"SourceFile"_s, url.toLocalFile() }, { u"XMP:Title"_s, u"X"_s } } }) });
     f->requestSave();
     QVERIFY(f->isSaving());
     QVERIFY(f.waitUntilIdle());

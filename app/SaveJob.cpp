@@ -1,0 +1,118 @@
+#include "app/SaveJob.h"
+
+#include "app/ReplacedFiles.h"
+#include "core/SaveGuard.h"
+#include "core/SaveVerification.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace Quorbel::SaveJob {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The tool is given the files behind symbolic links and names those; told of the targets that stand for them.
+QList<FileFailure> namedFailures(const ToolError::ExecFailed& failed, const QList<QUrl>& targets)
+{
+    const QList<QUrl> files = SaveGuard::filesBehindLinks(targets);
+    const QList<FileFailure> named = writeFailures(failed.standardError, files);
+    QList<FileFailure> failures;
+    for (const FileFailure& failure : named)
+        for (qsizetype i = 0; i < files.size(); ++i)
+            if (files.at(i) == failure.file)
+                failures.append({ targets.at(i), failure.reason });
+    return failures;
+}
+
+QHash<QUrl, QString> reasonsByFile(const QList<FileFailure>& failures)
+{
+    QHash<QUrl, QString> reasons;
+    for (const FileFailure& failure : failures)
+        reasons.insert(failure.file, failure.reason);
+    return reasons;
+}
+
+}  // namespace
+
+Written run(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets,
+    const WriteOptions& options, TaskProgress& progress)
+{
+    const ReplacedFilesPoll poll(targets, progress.done);
+    Written written;
+    try {
+        service.write(plan, targets, options);
+    } catch (const ToolError& error) {
+        written.error = error.description();
+        if (const auto* failed = std::get_if<ToolError::ExecFailed>(&error.payload())) {
+            written.isPartial = true;
+            written.failures = namedFailures(*failed, targets);
+        }
+    } catch (const Error& error) {
+        written.error = error.description();
+    } catch (const std::exception& error) {
+        written.error = QString::fromUtf8(error.what());
+    }
+    return written;
+}
+
+Checked check(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const Written& written,
+    TaskProgress& progress)
+{
+    Checked checked;
+    const PhotoReader::Result read = PhotoReader::read(service, targets, progress, {});
+    if (read.error) {
+        checked.error = read.error;
+        return checked;
+    }
+    QHash<QUrl, const ImageRecord*> records;
+    for (const ImageRecord& record : read.records)
+        records.insert(record.url, &record);
+    const QHash<QUrl, QString> reasons = reasonsByFile(written.failures);
+    QSet<QString> differing;
+    for (const QUrl& target : targets) {
+        const ImageRecord* record = records.value(target);
+        const QStringList differences = record ? SaveVerification::differences(plan, *record) : QStringList();
+        if (reasons.contains(target)) {
+            checked.failures.append({ target, reasons.value(target) });
+        } else if (!record) {
+            checked.failures.append({ target, u"cannot be read any more"_s });
+        } else if (written.error && !differences.isEmpty()) {
+            checked.failures.append({ target, u"not written"_s });
+        } else {
+            checked.records.append(*record);
+            differing.unite(QSet<QString>(differences.cbegin(), differences.cend()));
+        }
+    }
+    for (const FieldSpec& field : FieldSchema::all())
+        if (differing.remove(field.id))
+            checked.differences.append(field.id);
+    QStringList customs(differing.cbegin(), differing.cend());
+    customs.sort();
+    checked.differences += customs;
+    return checked;
+}
+
+QString differencesText(const QStringList& keys)
+{
+    const QString labels = SaveVerification::labels(keys).join(u", "_s);
+    if (keys.size() == 1)
+        return u"Saved, but 1 field reads back differently: "_s + labels;
+    return u"Saved, but %1 fields read back differently: "_s.arg(keys.size()) + labels;
+}
+
+QString failuresText(const QList<FileFailure>& failures, qsizetype targetCount)
+{
+    constexpr qsizetype mostNamed = 5;
+    QStringList named;
+    for (const FileFailure& failure : failures.first(std::min(failures.size(), mostNamed)))
+        named.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
+    QString text = u"Could not save %1 of %2 photos: "_s.arg(failures.size()).arg(targetCount) + named.join(u", "_s);
+    if (failures.size() > mostNamed)
+        text += u" and %1 more"_s.arg(failures.size() - mostNamed);
+    return text;
+}
+
+}  // namespace Quorbel::SaveJob

@@ -1,0 +1,193 @@
+// What a save proves to the user: values that read back differently, photos of a batch that failed, and the way back.
+#include "tests/app/ModelFixture.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Photos "a", "b" and "c" before a tool that claims to have written and reads nothing back.
+struct ForgetfulPhotos : FakeTool, ModelFixture {
+    ForgetfulPhotos()
+        : ModelFixture(MetadataService{ runner() })
+    {
+        for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
+            folder.add(name);
+        model->setSaveDontAsk(true);
+        model->setConfirmMassEdit(false);
+    }
+};
+
+/// Photos "a" and "c", and texts with the names of photos; all are open and selected.
+struct MixedPhotos : ModelFixture {
+    explicit MixedPhotos(const QStringList& texts)
+    {
+        for (const QString& name : { u"a.jpg"_s, u"c.jpg"_s })
+            folder.add(name);
+        for (const QString& name : texts)
+            folder.add(name, "a text\n");
+        model->setConfirmMassEdit(false);
+        model->setSaveDontAsk(true);
+        model->setBackupOriginals(false);
+    }
+};
+
+}  // namespace
+
+class TestAppModelSafety : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
+    void valueThatCannotBeHeld();
+    void differencesOfOnePhoto();
+    void differencesOfABatch();
+    void differencesAfterAnotherSelection();
+    void partialBatch_data();
+    void partialBatch();
+    void partialBatchIsTriedAgain();
+};
+
+void TestAppModelSafety::valueThatCannotBeHeld()
+{
+    ModelFixture f;
+    f.folder.add(u"a.jpg"_s);
+    QVERIFY(f.open());
+    f->setSaveDontAsk(true);
+    f->setSingle(u"title"_s, u"X"_s);
+    f->setSingle(u"coords"_s, u"behind the church"_s);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), u"Saved, but 1 field reads back differently: Coordinates"_s);
+    QCOMPARE(f->editedSingle(), QSet<QString>{ u"coords"_s });
+    QCOMPARE(f->draftValues().value(u"coords"_s), u"behind the church"_s);
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
+}
+
+void TestAppModelSafety::differencesOfOnePhoto()
+{
+    ForgetfulPhotos f;
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"X"_s);
+    f->addSingleListItem(u"keywords"_s, u"sky"_s);
+    f->addCustomField(u"Mood"_s, u"calm"_s);
+    f.click(u"b.jpg"_s);
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), u"Saved, but 3 fields read back differently: Title, Keywords, Mood"_s);
+    // The click that waited for the save does not leave the edits behind.
+    QCOMPARE(f.primary(), u"a.jpg"_s);
+    QCOMPARE(f->unsavedCount(), 3);
+    QCOMPARE(f->draftLists().value(u"keywords"_s), QStringList{ u"sky"_s });
+    QCOMPARE(f->draftCustoms(), (QList<CustomValue>{ { u"Mood"_s, u"calm"_s } }));
+    // The next attempt to leave asks, though saves go without asking: there must be a way to discard.
+    f.click(u"b.jpg"_s);
+    QVERIFY(f->saveOpen() && !f->isSaving());
+    f->discardSaveDialog();
+    QCOMPARE(f.primary(), u"b.jpg"_s);
+}
+
+void TestAppModelSafety::differencesOfABatch()
+{
+    ForgetfulPhotos f;
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    f->setBatch(u"title"_s, u"X"_s);
+    f->setBatch(u"headline"_s, u"Y"_s);
+    f->addBatchListItem(u"keywords"_s, u"sky"_s);
+    // All photos hold the headline afterwards, and one of them does not hold the title.
+    QList<QJsonObject> objects;
+    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
+        objects.append({ { u"SourceFile"_s, f.folder.path(name) }, { u"XMP:Headline"_s, u"Y"_s },
+            { u"XMP:Subject"_s, u"sky"_s }, { u"XMP:Title"_s, name == u"b.jpg" ? u"x"_s : u"X"_s } });
+    f.answer(2, { .standardOutput = toolJson(objects) });
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), u"Saved, but 1 field reads back differently: Title"_s);
+    QCOMPARE(f->batchInclude(), QSet<QString>{ u"title"_s });
+    QCOMPARE(f->batchValues(), (QMap<QString, QString>{ { u"title"_s, u"X"_s } }));
+    QVERIFY(f->nonEmptyBatchLists().isEmpty());
+    QCOMPARE(f->record(f.url(u"b.jpg"_s))->values.value(u"title"_s), u"x"_s);
+}
+
+void TestAppModelSafety::differencesAfterAnotherSelection()
+{
+    ForgetfulPhotos f;
+    QVERIFY(f.open());
+    f.click(u"a.jpg"_s);
+    f.click(u"b.jpg"_s, false, true);
+    f->setBatch(u"title"_s, u"X"_s);
+    f.answer(1, { .holds = true });
+    f->requestSave();
+    QTRY_COMPARE(f.calls().size(), 3);
+    f.click(u"c.jpg"_s);
+    QCOMPARE(f.selected(), QStringList{ u"c.jpg"_s });
+    f.release();
+    QVERIFY(f.waitUntilIdle());
+    // Nothing is being edited there, so the photos whose edits are unsaved come back, with them.
+    QCOMPARE(f.selected(), QStringList({ u"a.jpg"_s, u"b.jpg"_s }));
+    QCOMPARE(f->batchValues(), (QMap<QString, QString>{ { u"title"_s, u"X"_s } }));
+    QCOMPARE(f->unsavedCount(), 1);
+}
+
+void TestAppModelSafety::partialBatch_data()
+{
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<QString>("banner");
+    const QString reason = u" (Not a valid JPG (looks more like a TXT))"_s;
+    QTest::addRow("one fails") << QStringList{ u"b.jpg"_s } << u"Could not save 1 of 3 photos: b.jpg"_s + reason;
+    QTest::addRow("two fail") << QStringList{ u"b.jpg"_s, u"d.jpg"_s }
+                              << u"Could not save 2 of 4 photos: b.jpg"_s + reason + u", d.jpg"_s + reason;
+    QTest::addRow("six fail") << QStringList{
+        u"1.jpg"_s, u"2.jpg"_s, u"3.jpg"_s, u"4.jpg"_s, u"5.jpg"_s, u"6.jpg"_s
+    } << u"Could not save 6 of 8 photos: 1.jpg%1, 2.jpg%1, 3.jpg%1, 4.jpg%1, 5.jpg%1 and 1 more"_s.arg(reason);
+}
+
+void TestAppModelSafety::partialBatch()
+{
+    QFETCH(QStringList, texts);
+    QFETCH(QString, banner);
+    MixedPhotos f(texts);
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    f->setBatch(u"title"_s, u"X"_s);
+    f->addBatchListItem(u"keywords"_s, u"sky"_s);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), banner);
+    QCOMPARE(f.selected(), texts);
+    QCOMPARE(f->unsavedCount(), 2);
+    for (const QString& name : { u"a.jpg"_s, u"c.jpg"_s }) {
+        QCOMPARE(f.onDisk(name, u"XMP:Title"_s), QJsonValue(u"X"_s));
+        QCOMPARE(f->record(f.url(name))->values.value(u"title"_s), u"X"_s);
+    }
+    for (const QString& name : texts)
+        QCOMPARE(readFile(f.folder.path(name)), QByteArray("a text\n"));
+}
+
+void TestAppModelSafety::partialBatchIsTriedAgain()
+{
+    MixedPhotos f({ u"b.jpg"_s, u"d.jpg"_s });
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    f->setBatch(u"title"_s, u"X"_s);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f.selected(), QStringList({ u"b.jpg"_s, u"d.jpg"_s }));
+    const QByteArray saved = readFile(f.folder.path(u"a.jpg"_s));
+    f.folder.add(u"b.jpg"_s, jpegBytes());
+    f.folder.add(u"d.jpg"_s, jpegBytes());
+    f->setErrorMessage({});
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f->unsavedCount(), 0);
+    QCOMPARE(f.onDisk(u"d.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
+    QCOMPARE(readFile(f.folder.path(u"a.jpg"_s)), saved);
+}
+
+QTEST_GUILESS_MAIN(TestAppModelSafety)
+#include "tst_AppModelSafety.moc"
