@@ -241,8 +241,7 @@ void ThumbnailStore::invalidate(const QList<QUrl>& urls)
                 held->final = false;
         }
     }
-    for (const Key& key : std::as_const(changed))
-        emit entryChanged(key.url, key.kind);
+    announceStale(changed);
 }
 
 void ThumbnailStore::setDevicePixelRatio(qreal ratio)
@@ -252,19 +251,28 @@ void ThumbnailStore::setDevicePixelRatio(qreal ratio)
     if (longSide(Kind::small) == before)
         return;
     // Requests under way would deliver the old size; what is held serves until it is made anew.
-    QSet<QUrl> changed;
+    QList<Key> changed;
     for (const Key& key : m_jobs.keys()) {
         if (key.kind != Kind::small)
             continue;
         drop(key);
-        changed.insert(key.url);
+        changed.append(key);
     }
     for (const QUrl& url : m_small.keys()) {
         m_small.object(url)->final = false;
-        changed.insert(url);
+        changed.append({ url, Kind::small });
     }
-    for (const QUrl& url : std::as_const(changed))
-        emit entryChanged(url, Kind::small);
+    announceStale(changed);
+}
+
+void ThumbnailStore::announceStale(const QList<Key>& keys)
+{
+    for (const Key& key : keys) {
+        if (key.kind == Kind::small && m_visible && m_visible->contains(key.url))
+            request(key.url, key.kind);
+    }
+    for (const Key& key : keys)
+        emit entryChanged(key.url, key.kind);
 }
 
 qsizetype ThumbnailStore::bytesHeld(Kind kind) const

@@ -77,7 +77,8 @@ public:
     /// The rows on screen, and those near them, which are served next. Requests for small images of other URLs are
     /// dropped: entryChanged tells whoever still shows one of them to ask again.
     void setVisible(const QList<QUrl>& urls, const QList<QUrl>& near = {});
-    /// Forgets what is known of these files: their content changed.
+    /// Forgets what is known of these files: their content changed. What is held serves as a placeholder until it is
+    /// made anew: at once for the rows on screen, on request for others.
     void invalidate(const QList<QUrl>& urls);
     /// The pixels of small images follow the screen: their long side is 90 points times this ratio (at least 1), so
     /// that an ordinary photo fills a square of 60.
@@ -133,6 +134,7 @@ private:
     void enqueue(const Key& key, Job& job);
     void drop(const Key& key);
     void dropOldPreviews();
+    void announceStale(const QList<Key>& keys);
     void dispatch();
     void start(const Key& key, const Job& job);
     void finish(const Key& key, qint64 ticket, const Outcome& outcome);

@@ -26,6 +26,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTimer>
+#include <QWindow>
 
 namespace Quorbel {
 
@@ -84,6 +85,8 @@ void AppDelegate::finishLaunching(const QList<QUrl>& urls)
     StartTrace::watch(m_window.get());
     m_content->setFocus();  // no button looks chosen before anybody chose it
     m_window->show();
+    connect(m_window->windowHandle(), &QWindow::screenChanged, this,
+        [this] { m_app->thumbnails().setDevicePixelRatio(m_window->devicePixelRatioF()); });
     if (!urls.isEmpty())
         m_app->model().requestLoad(urls);
     m_instance.listen([this](const HandOver& what) { received(what); });

@@ -285,6 +285,10 @@ private slots:
         QCOMPARE(store.entry(photo(1), Kind::small).state, State::placeholder);
         store.request(photo(1), Kind::small);
         QTRY_COMPARE_WITH_TIMEOUT(store.entry(photo(1), Kind::small).image.width(), 180, longest);
+        // The rows on screen are made anew without being asked for.
+        store.setVisible({ photo(1) });
+        store.setDevicePixelRatio(3);
+        QTRY_COMPARE_WITH_TIMEOUT(store.entry(photo(1), Kind::small).image.width(), 270, longest);
     }
 
     void secondStoreReadsTheDiskCache()
