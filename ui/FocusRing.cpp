@@ -99,8 +99,9 @@ private:
 
     void follow()
     {
-        if (!m_control || !parentWidget())
-            return;
+        // Moved into another window or area: that one's ring comes with the next focus.
+        if (!m_control || !parentWidget() || !parentWidget()->isAncestorOf(m_control))
+            return hide();
         const QRect box = m_options.box ? m_options.box().toAlignedRect() : m_control->rect();
         const QPoint topLeft = m_control->mapTo(parentWidget(), box.topLeft());
         setGeometry(QRect(topLeft, box.size()).adjusted(-margin, -margin, margin, margin));

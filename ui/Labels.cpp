@@ -101,8 +101,8 @@ QSize ThemedLabel::minimumSizeHint() const
 
 bool ThemedLabel::event(QEvent* event)
 {
-    // What does not fit is told by the tooltip, unless one was set.
-    if (event->type() == QEvent::Resize && m_elided) {
+    // What does not fit is told by the tooltip.
+    if ((event->type() == QEvent::Resize || event->type() == QEvent::Enter) && m_elided) {
         const bool fits = fontMetrics().horizontalAdvance(text()) <= contentsRect().width();
         setToolTip(fits ? QString() : text());
     }

@@ -80,7 +80,8 @@ void LocationSearchField::pick(int row)
 void LocationSearchField::finish(const LocationSearch::Answer& answer)
 {
     const auto* result = std::get_if<LocationFill::Result>(&answer);
-    m_failed = !result;
+    // Whoever has gone on to another field is not told here.
+    m_failed = !result && hasFocus();
     if (!result)
         return showAnswer();
     if (const std::optional<QString> text = placeText(*result)) {

@@ -35,6 +35,11 @@ SuggestionList::SuggestionList(QWidget* field)
     setFocusProxy(field);
     setMouseTracking(true);
     setAccessibleName(QStringLiteral("Suggestions"));
+    // While it is open it belongs to the window, and would outlive its field.
+    connect(field, &QObject::destroyed, this, [this] {
+        hide();
+        deleteLater();
+    });
     hide();
 }
 
@@ -104,6 +109,8 @@ int SuggestionList::rowAt(QPoint pos) const
 
 void SuggestionList::place()
 {
+    if (!m_field)
+        return;
     QWidget* window = m_field->window();
     if (parentWidget() != window)
         setParent(window);
@@ -194,6 +201,8 @@ bool SuggestionList::handleKey(QKeyEvent* event)
 
 void SuggestionList::paintEvent(QPaintEvent*)
 {
+    if (!m_field)
+        return;
     const Theme& theme = Theme::of(m_field);
     QPainter painter(this);
     const QRectF box = QRectF(rect()).adjusted(shadowMargin, shadowMargin, -shadowMargin, -shadowMargin);

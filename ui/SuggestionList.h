@@ -50,7 +50,7 @@ private:
     int rowAt(QPoint pos) const;
     int rowHeight() const;
 
-    QWidget* m_field;
+    QPointer<QWidget> m_field;
     QList<SuggestionRow> m_rows;
     QString m_message;
     int m_current = -1;

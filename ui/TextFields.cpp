@@ -277,6 +277,8 @@ void QBTextArea::grow()
     if (wanted == height() && wanted == minimumHeight())
         return;
     setFixedHeight(wanted);
+    // At once: were it left to the layout, the view would scroll to the new line first.
+    resize(width(), wanted);
     updateGeometry();
 }
 

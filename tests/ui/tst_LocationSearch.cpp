@@ -246,6 +246,16 @@ private slots:
         QVERIFY(!search.field->showsSuggestions());
     }
 
+    void anOpenDropdownGoesWithItsField()
+    {
+        Search search;
+        search.suggest(zurichs);
+        const QPointer<SuggestionList> list = search.list();
+        delete search.field;
+        QVERIFY(list->isHidden());
+        QTRY_VERIFY(!list);
+    }
+
     void aTextFromOutsideIsNoSearch()
     {
         Search search;
