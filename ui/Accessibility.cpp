@@ -13,6 +13,10 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QPointer>
+
+#include <functional>
+#include <memory>
 
 namespace Quorbel {
 
@@ -206,8 +210,9 @@ public:
         if (index < 0 || index >= childCount())
             return nullptr;
         while (m_rows.size() <= index) {
-            auto* row = new SuggestionRowDescription(m_list, int(m_rows.size()));
-            m_rows.append(QAccessible::registerAccessibleInterface(row));
+            // Qt owns what is registered, until it is told to delete it.
+            auto row = std::make_unique<SuggestionRowDescription>(m_list, int(m_rows.size()));
+            m_rows.append(QAccessible::registerAccessibleInterface(row.release()));
         }
         return QAccessible::accessibleInterface(m_rows.at(index));
     }

@@ -194,7 +194,7 @@ void LabeledDivider::paintEvent(QPaintEvent*)
         painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, m_note);
         right -= QFontMetricsF(sansFont(11)).horizontalAdvance(m_note) + pxF(10);
     }
-    painter.fillRect(QRectF(left, height() / 2, right - left, 1), theme.line);
+    painter.fillRect(QRectF(left, height() / 2.0, right - left, 1), theme.line);
 }
 
 }  // namespace Quorbel
