@@ -1,0 +1,152 @@
+"""Drives the program from outside: finds things by accessibility role and name, uses mouse and keys."""
+
+import json
+import os
+import subprocess
+import time
+
+import pyatspi
+
+PATIENCE = 30  # seconds until something that must appear counts as missing
+
+
+class Missing(AssertionError):
+    pass
+
+
+def wait_for(what, condition, patience=PATIENCE):
+    """The first true answer of condition(); the tree may change under it meanwhile."""
+    end = time.monotonic() + patience
+    while True:
+        try:
+            answer = condition()
+            if answer:
+                return answer
+        except Exception as error:  # a node that went away
+            if time.monotonic() > end:
+                raise Missing(f"{what}: {error}") from error
+        if time.monotonic() > end:
+            raise Missing(what)
+        time.sleep(0.1)
+
+
+def nodes(root):
+    """All nodes on screen below root, in order."""
+    pending = [root]
+    while pending:
+        node = pending.pop()
+        if node is None:
+            continue
+        if node is not root and not node.getState().contains(pyatspi.STATE_SHOWING):
+            if node.getRole() != pyatspi.ROLE_POPUP_MENU:
+                continue
+        yield node
+        pending.extend(node.getChildAtIndex(i) for i in reversed(range(node.childCount)))
+
+
+class Program:
+    def __init__(self, path, stage, pictures):
+        self.path, self.stage, self.pictures = path, stage, pictures
+        self.process = None
+        self.step = 0
+
+    def start(self, *arguments):
+        self.process = subprocess.Popen([self.path, *arguments])
+        wait_for("the program's window", lambda: self.find("frame"))
+
+    def root(self):
+        for application in pyatspi.Registry.getDesktop(0):
+            if application is not None and application.get_process_id() == self.process.pid:
+                return application
+        return None
+
+    def all(self, role, name=None):
+        found = []
+        for node in nodes(self.root()):
+            if node.getRoleName() == role and (name is None or node.name == name):
+                found.append(node)
+        return found
+
+    def find(self, role, name=None, last=False):
+        found = self.all(role, name)
+        return found[-1 if last else 0] if found else None
+
+    def wait(self, role, name=None, last=False):
+        return wait_for(f"{role} “{name}”", lambda: self.find(role, name, last))
+
+    def wait_gone(self, role, name):
+        wait_for(f"{role} “{name}” to go", lambda: not self.find(role, name))
+
+    def picture(self, name):
+        self.step += 1
+        if self.pictures:
+            time.sleep(0.4)
+            file = os.path.join(self.pictures, f"{self.step:02d}-{name}.png")
+            subprocess.run([self.stage, "grab", file], check=True)
+
+
+def run(*arguments):
+    subprocess.run(arguments, check=True)
+
+
+def centre(node):
+    box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    return box.x + box.width // 2, box.y + box.height // 2
+
+
+def settled(node):
+    """Where the node is once it has stopped moving (sheets slide in)."""
+    before = None
+    for _ in range(50):
+        now = centre(node)
+        if now == before:
+            break
+        before = now
+        time.sleep(0.08)
+    return before
+
+
+def click(node, *modifiers):
+    x, y = settled(node)
+    keys = [argument for modifier in modifiers for argument in ("keydown", modifier)]
+    ups = [argument for modifier in modifiers for argument in ("keyup", modifier)]
+    run("xdotool", "mousemove", str(x), str(y), *keys, "click", "1", *ups)
+    time.sleep(0.15)
+
+
+def press(*keys):
+    for key in keys:
+        run("xdotool", "key", "--clearmodifiers", key)
+        time.sleep(0.1)
+
+
+def write(text):
+    run("xdotool", "type", "--clearmodifiers", "--delay", "15", text)
+    time.sleep(0.15)
+
+
+def text_of(node):
+    interface = node.queryText()
+    return interface.getText(0, interface.characterCount)
+
+
+def fill(program, label, text):
+    """Replaces the text of a field of the inspector, as a person does."""
+    click(program.wait("text", label))
+    press("ctrl+a")
+    write(text)
+    wait_for(f"{label} to read “{text}”", lambda: text_of(program.find("text", label)) == text)
+
+
+def tags(path, *names):
+    answer = subprocess.run(
+        ["exiftool", "-json", "-G1", *[f"-{name}" for name in names], path],
+        check=True, capture_output=True, text=True)
+    values = json.loads(answer.stdout)[0]
+    values.pop("SourceFile")
+    return values
+
+
+def expect(what, found, wanted):
+    if found != wanted:
+        raise AssertionError(f"{what}: found {found!r}, wanted {wanted!r}")
