@@ -52,7 +52,8 @@ class Program:
 
     def start(self, *arguments):
         self.process = subprocess.Popen([self.path, *arguments])
-        wait_for("the program's window", lambda: self.find("frame"))
+        wait_for("the program's window to take the keyboard",
+                 lambda: self.find("frame").getState().contains(pyatspi.STATE_ACTIVE))
 
     def root(self):
         for application in pyatspi.Registry.getDesktop(0):
@@ -60,10 +61,15 @@ class Program:
                 return application
         return None
 
+    def windows(self):
+        root = self.root()
+        found = [root.getChildAtIndex(i) for i in range(root.childCount)]
+        return [window for window in found if window is not None and window.getState().contains(pyatspi.STATE_SHOWING)]
+
     def all(self, role, name=None):
         found = []
         for node in nodes(self.root()):
-            if node.getRoleName() == role and (name is None or node.name == name):
+            if role in (None, node.getRoleName()) and name in (None, node.name):
                 found.append(node)
         return found
 

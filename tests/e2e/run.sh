@@ -29,6 +29,8 @@ DISPLAY=:$(cat "$work/display")
 export DISPLAY
 openbox >/dev/null 2>&1 &
 pids+=($!)
+# A window that appears before its manager gets no keyboard.
+for _ in $(seq 100); do xdotool get_num_desktops >/dev/null 2>&1 && break; sleep 0.1; done
 
 dbus-run-session -- sh -c '
     /usr/libexec/at-spi-bus-launcher --launch-immediately >/dev/null 2>&1 &

@@ -44,8 +44,8 @@ protected:
         data->setUrls({ m_url });
         auto* drag = new QDrag(this);
         drag->setMimeData(data);
+        // The program fetches the data after this returns, so the source stays until it is killed.
         drag->exec(Qt::CopyAction);
-        qApp->quit();
     }
 
 private:

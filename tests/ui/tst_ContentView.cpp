@@ -42,6 +42,13 @@ bool drag(QWidget* widget, const QList<QUrl>& urls, const QString& text = {})
     }
 }
 
+/// Ends a drag that is not dropped. Without it Qt keeps the widget under the last one, also when that is gone.
+void endDrag(QWidget* widget)
+{
+    QDragLeaveEvent event;
+    QCoreApplication::sendEvent(widget, &event);
+}
+
 QPalette paletteOf(const QColor& window, const QColor& text)
 {
     QPalette palette = QApplication::palette();
@@ -235,6 +242,7 @@ void tst_ContentView::dropsAnywhere()
     QTRY_COMPARE(fixture.model.visible(), QStringList{ QStringLiteral("b.jpg") });
     QVERIFY(field->text().isEmpty());
     QVERIFY(drag<QDragEnterEvent>(field, {}, QStringLiteral("words")));
+    endDrag(field);
 }
 
 void tst_ContentView::dropsOfNothingUseful()
@@ -254,6 +262,7 @@ void tst_ContentView::dropsOfNothingUseful()
     // Under a sheet the window takes nothing.
     fixture.model->setAddOpen(true);
     QVERIFY(!drag<QDragEnterEvent>(fixture.window.get(), { fixture.model.folderURL() }));
+    endDrag(fixture.window.get());
 }
 
 void tst_ContentView::saveButtonSaysWhatItDoes()
