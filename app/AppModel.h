@@ -15,7 +15,9 @@
 #include "app/FolderScan.h"
 #include "app/PhotoReader.h"
 #include "app/RecordIndex.h"
+#include "app/SaveHistory.h"
 #include "app/SaveJob.h"
+#include "app/StallWatch.h"
 
 #include <QDateTime>
 #include <QObject>
@@ -24,6 +26,7 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -55,6 +58,9 @@ struct AppModelServices {
     std::function<void()> endEditing{};  ///< makes the field being typed into commit its text
     std::function<void(const QUrl&)> openUrl{};  ///< opens a file in the user's default application
     std::function<QDateTime()> now{};  ///< local wall clock; the system's when empty
+    QString journalPath{};  ///< file of the saves that can be undone; empty: none can
+    /// How long a read may be at one file before the user is offered to skip it.
+    std::chrono::milliseconds stallInterval{ 10000 };
     std::function<void()> quit{};  ///< ends the program; called by requestQuit()
 };
 
@@ -72,6 +78,8 @@ class AppModel final : public QObject {
     Q_PROPERTY(bool isWorking READ isWorking NOTIFY isWorkingChanged)
     Q_PROPERTY(bool isSaving READ isSaving NOTIFY isSavingChanged)
     Q_PROPERTY(std::optional<Progress> progress READ progress NOTIFY progressChanged)
+    Q_PROPERTY(std::optional<QString> stalledFile READ stalledFile NOTIFY stalledFileChanged)
+    Q_PROPERTY(bool canUndoSave READ canUndoSave NOTIFY canUndoSaveChanged)
     Q_PROPERTY(std::optional<QString> errorMessage READ errorMessage WRITE setErrorMessage NOTIFY errorMessageChanged)
     // Sheets
     Q_PROPERTY(bool saveOpen READ saveOpen WRITE setSaveOpen NOTIFY saveOpenChanged)
@@ -120,6 +128,8 @@ public:
     bool isSaving() const { return m_isSaving; }
     /// Set while a read or a write runs; nothing otherwise.
     const std::optional<Progress>& progress() const { return m_progress; }
+    /// Name of the file that a load does not get done with; nothing while it gets on.
+    const std::optional<QString>& stalledFile() const { return m_stalledFile; }
     const std::optional<QString>& errorMessage() const { return m_errorMessage; }
     void setErrorMessage(const std::optional<QString>& message);
     bool hasService() const;
@@ -154,6 +164,8 @@ public:
     void openFile(const QUrl& url);
     /// Ends a read that runs; what was open stays.
     void cancelRead();
+    /// Begins the load again without the file that it is stuck at. The file is named when the load ends.
+    void skipStalledFile();
 
     // --- Drafts of one photo ---
     const QMap<QString, QString>& draftValues() const { return m_draftValues; }
@@ -220,6 +232,12 @@ public:
     /// Whether something waits for the save dialog's answer: the dialog then stands in the way of leaving.
     bool isLeaving() const { return m_waiting != nullptr; }
 
+    /// Whether the last save, perhaps of an earlier run of the program, can be taken back now.
+    bool canUndoSave() const { return m_canUndoSave; }
+    /// Puts back, in the background, what the last save replaced. Unsaved edits stay. Files that somebody else changed
+    /// since are left alone and named.
+    void undoSave();
+
     // --- Renaming ---
     bool renameOpen() const { return m_renameOpen; }
     void setRenameOpen(bool open);
@@ -268,6 +286,8 @@ signals:
     void isSavingChanged();
     void progressChanged();
     void errorMessageChanged();
+    void stalledFileChanged();
+    void canUndoSaveChanged();
     void saveOpenChanged();
     void addOpenChanged();
     void renameOpenChanged();
@@ -316,6 +336,8 @@ private:
     struct Task {
         int id = 0;
         bool isLoad = false;
+        QList<QUrl> files{};  ///< of a load
+        std::optional<QUrl> skipped{};  ///< ended because of this file
         std::shared_ptr<TaskProgress> progress{};
         std::stop_source stop{};
     };
@@ -357,14 +379,16 @@ private:
     void announce(Signal changed);
 
     // Library
-    void reload(const PhotoListing& listing);
-    void finishReload(const PhotoListing& listing, PhotoReader::Result result);
+    void reload(const PhotoListing& listing, const QSet<QUrl>& tooSlow = {});
+    void finishReload(const PhotoListing& listing, const QSet<QUrl>& tooSlow, PhotoReader::Result result);
+    Task* shownLoad();
+    void publishStall();
     void publishRecords(QList<ImageRecord> records);
     bool replaceRecords(const QList<ImageRecord>& fresh);
     void recordContentChanged();
     void updateVisibleRows(bool photosChanged);
     Task beginTask(qsizetype total, bool isLoad);
-    void endTask(int id);
+    std::optional<Task> endTask(int id);
     void publishProgress();
     void beginGeneration();
     void startWatching();
@@ -407,6 +431,9 @@ private:
     void dropSavedBatch(const SaveSnapshot& saved, const QSet<QString>& differing);
     QSet<QString> editsSince(const SaveSnapshot& saved, const QSet<QString>& differing) const;
     void endSave(bool succeeded);
+    void openHistory();
+    void updateCanUndoSave();
+    void finishUndo(const SaveHistory::Undone& undone);
     // Renaming
     QMap<QString, QString> renameValues(const ImageRecord& record) const;
     QString newFileName(const ImageRecord& record) const;
@@ -436,6 +463,13 @@ private:
     bool m_isWorking = false;
     bool m_isSaving = false;
     std::optional<Progress> m_progress;
+    std::optional<QString> m_stalledFile;
+    std::optional<QUrl> m_stalledURL;
+    StallWatch m_stallWatch;
+    QSet<QUrl> m_tooSlow;  ///< files of the open folder that the user skipped
+    std::shared_ptr<SaveHistory> m_history;  ///< null when no save can be undone
+    bool m_hasUndo = false;
+    bool m_canUndoSave = false;
     std::optional<QString> m_errorMessage;
     bool m_saveOpen = false;
     bool m_addOpen = false;

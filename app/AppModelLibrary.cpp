@@ -6,6 +6,7 @@
 #include "app/MainThread.h"
 #include "core/Text.h"
 
+#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
@@ -50,11 +51,14 @@ void AppModel::announce(Signal changed)
 AppModel::AppModel(AppModelServices services, QObject* parent)
     : QObject(parent)
     , m_services(std::move(services))
+    , m_stallWatch(m_services.stallInterval)
 {
     requireMainThread("AppModel");
     m_progressTimer.setInterval(progressInterval);
     connect(&m_progressTimer, &QTimer::timeout, this, &AppModel::publishProgress);
+    connect(&m_progressTimer, &QTimer::timeout, this, &AppModel::publishStall);
     readPreferences();
+    openHistory();
     if (!m_services.service)
         m_errorMessage = u"ExifTool could not be found in the app bundle. Metadata cannot be read or written."_s;
 }
@@ -178,29 +182,37 @@ void AppModel::load(const QList<QUrl>& urls)
 
 /// What is open is replaced as a whole when the read has ended: photos, name and watched folder always come from
 /// the same load, whichever of several ends last.
-void AppModel::reload(const PhotoListing& listing)
+void AppModel::reload(const PhotoListing& listing, const QSet<QUrl>& tooSlow)
 {
     if (!m_services.service)
         return;
-    const Task task = beginTask(listing.files.size(), true);
+    QList<QUrl> files = listing.files;
+    files.removeIf([&tooSlow](const QUrl& file) { return tooSlow.contains(file); });
+    const Task task = beginTask(files.size(), true);
+    m_tasks.back().files = files;
     runInBackground(
         this,
-        [service = *m_services.service, files = listing.files, progress = task.progress, stop = task.stop.get_token()] {
+        [service = *m_services.service, files, progress = task.progress, stop = task.stop.get_token()] {
             return PhotoReader::read(service, files, *progress, stop);
         },
-        [this, listing, id = task.id](PhotoReader::Result result) {
+        [this, listing, tooSlow, id = task.id](PhotoReader::Result result) {
             const Update update(*this);
-            endTask(id);
-            finishReload(listing, std::move(result));
+            const std::optional<Task> ended = endTask(id);
+            if (ended && ended->skipped)
+                return reload(listing, QSet(tooSlow) << *ended->skipped);
+            finishReload(listing, tooSlow, std::move(result));
         });
 }
 
-void AppModel::finishReload(const PhotoListing& listing, PhotoReader::Result result)
+void AppModel::finishReload(const PhotoListing& listing, const QSet<QUrl>& tooSlow, PhotoReader::Result result)
 {
     if (result.isCancelled)
         return;
     if (result.error)
         return setErrorMessage(u"Could not read metadata: "_s + *result.error);
+    for (const QUrl& file : listing.files)
+        if (tooSlow.contains(file))
+            result.leftOut.append({ file.fileName(), u"took too long"_s });
     if (!result.leftOut.isEmpty())
         setErrorMessage(PhotoReader::leftOutText(result.leftOut));
     else if (result.records.isEmpty())
@@ -208,6 +220,7 @@ void AppModel::finishReload(const PhotoListing& listing, PhotoReader::Result res
     if (result.records.isEmpty())
         return;
     beginGeneration();
+    m_tooSlow = tooSlow;
     publishRecords(std::move(result.records));
     assign(m_folderName, listing.label, &AppModel::folderNameChanged);
     assign(m_folderURL, listing.folder, &AppModel::folderURLChanged);
@@ -274,6 +287,40 @@ void AppModel::cancelRead()
             task.stop.request_stop();
 }
 
+void AppModel::skipStalledFile()
+{
+    requireMainThread("skipStalledFile");
+    Task* load = shownLoad();
+    if (!load || !m_stalledURL)
+        return;
+    load->skipped = m_stalledURL;
+    load->stop.request_stop();
+    assign(m_stalledFile, std::nullopt, &AppModel::stalledFileChanged);
+}
+
+/// The task that is shown, if it is a load that goes on.
+AppModel::Task* AppModel::shownLoad()
+{
+    if (m_tasks.empty() || !m_tasks.back().isLoad || m_tasks.back().stop.stop_requested())
+        return nullptr;
+    return &m_tasks.back();
+}
+
+void AppModel::publishStall()
+{
+    const Task* load = shownLoad();
+    m_stallWatch.look(load ? load->progress->processID.load() : 0);
+    const QSet<QString> stalled = m_stallWatch.stalled();
+    m_stalledURL.reset();
+    // The system tells paths without links, so the photos' must be looked up: only while something stalls.
+    if (load && !stalled.isEmpty())
+        for (const QUrl& file : load->files)
+            if (stalled.contains(QFileInfo(file.toLocalFile()).canonicalFilePath()))
+                m_stalledURL = file;
+    const auto name = m_stalledURL ? std::optional(m_stalledURL->fileName()) : std::nullopt;
+    assign(m_stalledFile, name, &AppModel::stalledFileChanged);
+}
+
 void AppModel::publishRecords(QList<ImageRecord> records)
 {
     m_index.reset(records);
@@ -319,7 +366,7 @@ void AppModel::updateVisibleRows(bool photosChanged)
 
 AppModel::Task AppModel::beginTask(qsizetype total, bool isLoad)
 {
-    Task task{ ++m_lastTaskID, isLoad, std::make_shared<TaskProgress>(), {} };
+    Task task{ ++m_lastTaskID, isLoad, {}, {}, std::make_shared<TaskProgress>(), {} };
     task.progress->total = total;
     m_tasks.push_back(task);
     m_progressTimer.start();
@@ -328,13 +375,20 @@ AppModel::Task AppModel::beginTask(qsizetype total, bool isLoad)
     return task;
 }
 
-void AppModel::endTask(int id)
+/// The task as it was.
+std::optional<AppModel::Task> AppModel::endTask(int id)
 {
+    std::optional<Task> ended;
+    for (const Task& task : m_tasks)
+        if (task.id == id)
+            ended = task;
     std::erase_if(m_tasks, [id](const Task& task) { return task.id == id; });
     if (m_tasks.empty())
         m_progressTimer.stop();
     assign(m_isWorking, !m_tasks.empty(), &AppModel::isWorkingChanged);
     publishProgress();
+    publishStall();
+    return ended;
 }
 
 /// Of several tasks the one that began last is shown.

@@ -60,7 +60,7 @@ void AppModel::applyScan(const FolderScan& scan)
     changed.removeIf([this](const QUrl& url) { return m_beingWritten.contains(url); });
     QList<QUrl> added;
     for (auto photo = scan.photos.cbegin(); photo != scan.photos.cend(); ++photo)
-        if (m_index.position(photo.key()) < 0)
+        if (m_index.position(photo.key()) < 0 && !m_tooSlow.contains(photo.key()))
             added.append(photo.key());
     std::sort(added.begin(), added.end(),
         [](const QUrl& a, const QUrl& b) { return Text::naturalCompare(a.fileName(), b.fileName()) < 0; });

@@ -1,6 +1,7 @@
 // Renaming the one selected photo from a pattern and its draft.
 #include "app/AppModel.h"
 
+#include "app/Background.h"
 #include "app/MainThread.h"
 #include "core/FileNaming.h"
 #include "core/Text.h"
@@ -89,6 +90,11 @@ void AppModel::performRename()
         m_services.service->renameFile(source, destination);
     } catch (const Error& error) {
         return setErrorMessage(u"Could not rename: "_s + error.description());
+    }
+    if (m_history) {
+        m_history->noteRename(source.toLocalFile(), destination.toLocalFile());
+        runInBackground(
+            this, [history = m_history] { history->storeRenames(); }, [] {});
     }
     takeRenamed(source, destination);
 }

@@ -144,6 +144,7 @@ void AppModel::runWrite(const EditPlan& plan, const QList<QUrl>& urls)
         return;
     }
     assign(m_isSaving, true, &AppModel::isSavingChanged);
+    updateCanUndoSave();
     m_beingWritten = QSet<QUrl>(urls.cbegin(), urls.cend());
     ++m_saveSerial;
     ++m_diskSerial;
@@ -153,11 +154,12 @@ void AppModel::runWrite(const EditPlan& plan, const QList<QUrl>& urls)
         m_sessionAddedKnownIDs, m_batchInclude, m_batchValues, m_batchLists, m_batchCustoms };
     runInBackground(
         this,
-        [service = *m_services.service, plan, urls, options, progress = task.progress] {
-            return SaveJob::run(service, plan, urls, options, *progress);
+        [service = *m_services.service, plan, urls, options, history = m_history, progress = task.progress] {
+            return SaveJob::run(service, plan, urls, options, history.get(), *progress);
         },
         [this, saved, id = task.id](const SaveJob::Written& written) {
             const Update update(*this);
+            m_hasUndo = m_hasUndo || written.canBeUndone;
             const bool mayBeSaved = !written.error || (written.isPartial && saved.urls.size() > 1);
             if (mayBeSaved)
                 checkSave(saved, written);
@@ -313,6 +315,7 @@ void AppModel::endSave(bool succeeded)
     ++m_saveSerial;
     ++m_diskSerial;
     assign(m_isSaving, false, &AppModel::isSavingChanged);
+    updateCanUndoSave();
     // A failed write may have done some of its files, and a look at the folder meanwhile passed them over.
     if (!succeeded || std::exchange(m_passedOverWritten, false))
         refresh();

@@ -65,7 +65,8 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
     }
     progress.total = readable.size();
     try {
-        const ReadControl control{ [&progress](qsizetype done) { progress.done = done; }, std::move(stop) };
+        const ReadControl control{ [&progress](qsizetype done) { progress.done = done; }, std::move(stop),
+            [&progress](qint64 processID) { progress.processID = processID; } };
         result.records = service.read(readable, control);
     } catch (const CancelledError&) {
         result.isCancelled = true;
@@ -74,6 +75,7 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
     } catch (const std::exception& error) {
         result.error = QString::fromUtf8(error.what());
     }
+    progress.processID = 0;
     for (qsizetype i = 0; i < std::min(result.records.size(), modified.size()); ++i)
         result.records[i].contentModificationDate = modified[i];
     return result;

@@ -15,6 +15,7 @@ namespace Quorbel {
 struct TaskProgress {
     std::atomic<qsizetype> done = 0;
     std::atomic<qsizetype> total = 0;
+    std::atomic<qint64> processID = 0;  ///< of the tool while it reads; 0 when none runs
 };
 
 namespace PhotoReader {

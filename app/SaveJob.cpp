@@ -27,6 +27,16 @@ QList<FileFailure> namedFailures(const ToolError::ExecFailed& failed, const QLis
     return failures;
 }
 
+/// What the save is about to replace; nothing when that cannot be found out.
+std::optional<JournalEntry> lookBefore(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets)
+{
+    try {
+        return service.journalEntry(plan, targets);
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+}
+
 QHash<QUrl, QString> reasonsByFile(const QList<FileFailure>& failures)
 {
     QHash<QUrl, QString> reasons;
@@ -38,8 +48,9 @@ QHash<QUrl, QString> reasonsByFile(const QList<FileFailure>& failures)
 }  // namespace
 
 Written run(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets,
-    const WriteOptions& options, TaskProgress& progress)
+    const WriteOptions& options, SaveHistory* history, TaskProgress& progress)
 {
+    const std::optional<JournalEntry> before = history ? lookBefore(service, plan, targets) : std::nullopt;
     const ReplacedFilesPoll poll(targets, progress.done);
     Written written;
     try {
@@ -55,6 +66,8 @@ Written run(const MetadataService& service, const EditPlan& plan, const QList<QU
     } catch (const std::exception& error) {
         written.error = QString::fromUtf8(error.what());
     }
+    // After a failure too: some of the files may have been written.
+    written.canBeUndone = before && history->add(*before);
     return written;
 }
 

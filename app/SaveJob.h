@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/PhotoReader.h"
+#include "app/SaveHistory.h"
 #include "core/MetadataService.h"
 
 namespace Quorbel::SaveJob {
@@ -14,11 +15,13 @@ struct Written {
     /// nothing was changed.
     bool isPartial = false;
     QList<FileFailure> failures{};  ///< the targets that the tool named, with its reasons
+    bool canBeUndone = false;  ///< the history knows what was replaced
 };
 
-/// Writes, and counts meanwhile the files that are done. Never throws.
+/// Writes, and counts meanwhile the files that are done. What it replaces goes into the history, where there is one;
+/// a history that cannot be kept does not stop the save. Never throws.
 Written run(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets,
-    const WriteOptions& options, TaskProgress& progress);
+    const WriteOptions& options, SaveHistory* history, TaskProgress& progress);
 
 /// What the files hold afterwards.
 struct Checked {

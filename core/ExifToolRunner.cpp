@@ -203,8 +203,7 @@ QList<JSONObject> ExifToolRunner::readJSON(
     OutputWatch watch;
     if (control.progress)
         watch = FileCounter(files.size(), control.progress);
-    QByteArray output =
-        runForBytes(QStringList{ QStringLiteral("-json") } + selection + paths(files), watch, control.stop);
+    QByteArray output = runForBytes(QStringList{ QStringLiteral("-json") } + selection + paths(files), watch, control);
     if (!QUtf8StringView(output).isValidUtf8())
         output.clear();
     output = std::move(output).trimmed();
@@ -232,7 +231,8 @@ QString ExifToolRunner::write(
 
 QByteArray ExifToolRunner::readBinary(const QString& tag, const QUrl& file, const std::stop_token& stop) const
 {
-    return runForBytes({ QStringLiteral("-b"), u'-' + tag, file.toLocalFile() }, {}, stop);
+    return runForBytes(
+        { QStringLiteral("-b"), u'-' + tag, file.toLocalFile() }, {}, { .progress = {}, .stop = stop, .started = {} });
 }
 
 QString ExifToolRunner::version() const
@@ -246,8 +246,9 @@ QString ExifToolRunner::run(const QStringList& arguments) const
 }
 
 QByteArray ExifToolRunner::runForBytes(
-    const QStringList& arguments, const OutputWatch& watch, const std::stop_token& stop) const
+    const QStringList& arguments, const OutputWatch& watch, const ReadControl& control) const
 {
+    const std::stop_token& stop = control.stop;
     if (!exists(exiftoolURL))
         throw ToolError(ToolError::ToolNotFound{});
     if (!exists(perlURL))
@@ -257,6 +258,8 @@ QByteArray ExifToolRunner::runForBytes(
 
     QProcess process;
     startProcess(process, perlURL, QStringList{ exiftoolURL.toLocalFile() } + arguments);
+    if (control.started)
+        control.started(process.processId());
     QByteArray output;
     const auto collect = [&] {
         const QByteArray piece = process.readAllStandardOutput();

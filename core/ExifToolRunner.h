@@ -22,6 +22,8 @@ struct ReadControl {
     std::function<void(qsizetype)> progress{};
     /// When triggered, the tool is ended and the read throws CancelledError.
     std::stop_token stop{};
+    /// Called on the reading thread with the tool's process id when it runs, so that others can look what it is at.
+    std::function<void(qint64)> started{};
 };
 
 struct ExifToolRunner {
@@ -64,7 +66,7 @@ private:
         const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const;
     QString run(const QStringList& arguments) const;
     QByteArray runForBytes(
-        const QStringList& arguments, const OutputWatch& watch = {}, const std::stop_token& stop = {}) const;
+        const QStringList& arguments, const OutputWatch& watch = {}, const ReadControl& control = {}) const;
 };
 
 }  // namespace Quorbel

@@ -4,12 +4,12 @@
 #include "core/MetadataReader.h"
 #include "core/MetadataWriter.h"
 #include "core/SaveGuard.h"
+#include "core/TemporaryFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QScopeGuard>
-#include <QUuid>
 
 #include <cerrno>
 #include <cstdio>
@@ -56,8 +56,7 @@ QUrl writeTempConfig(const QStringList& names)
     if (directory.isEmpty())  // Qt's answer for a TMPDIR that does not exist
         throw FileError(QStringLiteral("Cannot write to"), QUrl::fromLocalFile(qEnvironmentVariable("TMPDIR")),
             qt_error_string(ENOENT));
-    const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
-    const QUrl url = QUrl::fromLocalFile(directory + QStringLiteral("/quorbel-") + id + QStringLiteral(".conf"));
+    const QUrl url = QUrl::fromLocalFile(directory + u'/' + TemporaryFiles::newConfigName());
     QSaveFile file(url.toLocalFile());
     if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
         || file.write(text) != text.size() || !file.commit())
@@ -152,7 +151,8 @@ QList<ImageRecord> MetadataService::read(const QList<QUrl>& urls, const ReadCont
     if (urls.isEmpty())
         return {};
     const auto main = runner.read(MetadataReader::readTags(), urls, control);
-    const auto custom = runner.readCustomNamespace(urls, { .progress = {}, .stop = control.stop });
+    const auto custom =
+        runner.readCustomNamespace(urls, { .progress = {}, .stop = control.stop, .started = control.started });
     const auto mainByPath = indexBySourceFile(main);
     const auto customByPath = indexBySourceFile(custom);
 

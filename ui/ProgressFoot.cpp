@@ -79,6 +79,7 @@ ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
     , m_text(new ThemedLabel({}, TextRole::text, 12))
+    , m_skip(new QBTextButton(QStringLiteral("Skip")))
     , m_cancel(new QBTextButton(QStringLiteral("Cancel")))
     , m_bar(new ProgressBar(this))
 {
@@ -88,6 +89,7 @@ ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
     line->setSpacing(0);
     m_text->setElided(true);
     line->addWidget(m_text, 1);
+    line->addWidget(m_skip);
     line->addWidget(m_cancel);
     column->addLayout(line);
     auto* barLine = new QHBoxLayout;
@@ -105,9 +107,11 @@ ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
     m_patience.setSingleShot(true);
     m_patience.setInterval(patience);
     connect(&m_patience, &QTimer::timeout, this, &ProgressFoot::showProgress);
+    connect(m_skip, &QAbstractButton::clicked, &model, &AppModel::skipStalledFile);
     connect(m_cancel, &QAbstractButton::clicked, &model, &AppModel::cancelRead);
     connect(&model, &AppModel::progressChanged, this, &ProgressFoot::follow);
     connect(&model, &AppModel::isSavingChanged, this, &ProgressFoot::follow);
+    connect(&model, &AppModel::stalledFileChanged, this, &ProgressFoot::follow);
     follow();
 }
 
@@ -147,7 +151,10 @@ void ProgressFoot::showProgress()
     const QLocale locale;
     const QString pattern =
         m_model.isSaving() ? QStringLiteral("Saving %1 of %2 photos…") : QStringLiteral("Reading %1 of %2 photos…");
-    m_text->setText(pattern.arg(locale.toString(progress->done), locale.toString(progress->total)));
+    const auto stalled = m_model.stalledFile();
+    m_text->setText(stalled ? QStringLiteral("Stuck at %1").arg(*stalled)
+                            : pattern.arg(locale.toString(progress->done), locale.toString(progress->total)));
+    m_skip->setVisible(stalled.has_value());
     m_bar->setFraction(progress->total > 0 ? static_cast<qreal>(progress->done) / progress->total : 0);
     m_cancel->setVisible(!m_model.isSaving());
     setAccessibleName(m_text->text());

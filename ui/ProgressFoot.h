@@ -1,4 +1,5 @@
-// How far a read or a write has come: a line of text, a bar, and Cancel for what can be cancelled.
+// How far a read or a write has come: a line of text, a bar, and Cancel for what can be cancelled. Names the file that
+// a read is stuck at, with Skip.
 // Thread: the main thread. Shows AppModel::progress(), and only for work that takes long enough to be noticed.
 #pragma once
 
@@ -39,6 +40,7 @@ private:
 
     AppModel& m_model;
     ThemedLabel* m_text;
+    QBTextButton* m_skip;
     QBTextButton* m_cancel;
     ProgressBar* m_bar;
     QTimer m_patience;

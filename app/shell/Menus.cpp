@@ -91,7 +91,7 @@ Menus::Menus(AppModel& model, ContentView& content, MenuCommands commands)
     for (const auto change : { &AppModel::recordsChanged, &AppModel::selectionChanged, &AppModel::folderURLChanged,
              &AppModel::isSavingChanged, &AppModel::isWorkingChanged, &AppModel::editedSingleChanged,
              &AppModel::batchIncludeChanged, &AppModel::batchListsChanged, &AppModel::batchValuesChanged,
-             &AppModel::batchCustomsChanged, &AppModel::renamePatternChanged })
+             &AppModel::batchCustomsChanged, &AppModel::renamePatternChanged, &AppModel::canUndoSaveChanged })
         connect(&model, change, this, &Menus::followState);
     connect(&content, &ContentView::previewShownChanged, this, &Menus::followState);
     followState();
@@ -154,6 +154,7 @@ void Menus::addEditMenu()
     ThemedMenu* menu = addMenu(QStringLiteral("&Edit"));
     addEditing(menu, QStringLiteral("&Undo"), QKeySequence::Undo, "undo", canUndo);
     addEditing(menu, QStringLiteral("&Redo"), QKeySequence::Redo, "redo", canRedo);
+    m_undoSave = add(menu, QStringLiteral("Undo Sa&ve"), {}, [this] { m_model.undoSave(); });
     menu->addSeparator();
     addEditing(menu, QStringLiteral("Cu&t"), QKeySequence::Cut, "cut", hasSelectedText);
     addEditing(menu, QStringLiteral("&Copy"), QKeySequence::Copy, "copy", hasSelectedText);
@@ -217,6 +218,7 @@ void Menus::followState()
     m_save->setEnabled(m_model.unsavedCount() >= 1);
     m_save->setText(
         m_model.isBatch() ? QStringLiteral("&Apply to %1").arg(m_model.selection().size()) : QStringLiteral("&Save"));
+    m_undoSave->setEnabled(m_model.canUndoSave());
     m_rename->setEnabled(m_model.canRename());
     m_refresh->setEnabled(m_model.canRefresh());
     m_close->setEnabled(any);

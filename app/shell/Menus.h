@@ -48,6 +48,7 @@ private:
     ContentView& m_content;
     ThemedMenu* m_recents = nullptr;
     QAction* m_save = nullptr;
+    QAction* m_undoSave = nullptr;
     QAction* m_rename = nullptr;
     QAction* m_refresh = nullptr;
     QAction* m_close = nullptr;

@@ -1,10 +1,12 @@
 #include "app/shell/QuorbelApp.h"
 
 #include "core/Product.h"
+#include "core/TemporaryFiles.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QThreadPool>
 
 namespace Quorbel {
 
@@ -21,6 +23,14 @@ QDateTime now()
     return QDateTime::currentDateTime();
 }
 
+/// Where the desktop keeps what programs remember from one run to the next.
+QString stateFolder()
+{
+    const QString given = qEnvironmentVariable("XDG_STATE_HOME");
+    const QString base = QDir::isAbsolutePath(given) ? given : QDir::homePath() + QStringLiteral("/.local/state");
+    return base + QStringLiteral("/quorbel");
+}
+
 void openUrl(const QUrl& url)
 {
     QDesktopServices::openUrl(url);
@@ -32,6 +42,7 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     : m_preferences(
         std::make_shared<QSettings>(QSettings::IniFormat, QSettings::UserScope, Product::name(), Product::name()))
 {
+    QThreadPool::globalInstance()->start([] { TemporaryFiles::clearAbandoned(); });
     const auto service = MetadataService::locate();
     ThumbnailStoreOptions images = ThumbnailStoreOptions::forUser();
     if (service)
@@ -48,6 +59,7 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     services.openUrl = openUrl;
     services.now = now;
     services.quit = hooks.quit;
+    services.journalPath = stateFolder() + QStringLiteral("/undo.json");
     m_model = std::make_unique<AppModel>(services);
     m_model->onImagesModified = [this](const QList<QUrl>& urls) { m_thumbnails->invalidate(urls); };
 

@@ -36,6 +36,29 @@ struct MixedPhotos : ModelFixture {
     }
 };
 
+/// Photos "a" and "b", each titled with its name, before a model that keeps a journal.
+struct JournaledPhotos : ModelFixture {
+    JournaledPhotos()
+    {
+        addTitled({ u"a.jpg"_s, u"b.jpg"_s });
+        services.journalPath = settings.filePath(u"state/undo.json"_s);
+        relaunch();
+        model->setSaveDontAsk(true);
+        model->setConfirmMassEdit(false);
+        model->setBackupOriginals(false);
+    }
+    bool save()
+    {
+        model->requestSave();
+        return waitUntilIdle();
+    }
+    bool undo()
+    {
+        model->undoSave();
+        return waitUntilIdle();
+    }
+};
+
 }  // namespace
 
 class TestAppModelSafety : public QObject {
@@ -50,6 +73,11 @@ private slots:
     void partialBatch_data();
     void partialBatch();
     void partialBatchIsTriedAgain();
+    void undoSurvivesARestart();
+    void undoFollowsRenames();
+    void undoLeavesOthersWorkAlone();
+    void unwritableJournalDoesNotStopASave();
+    void stalledFileIsSkipped();
 };
 
 void TestAppModelSafety::valueThatCannotBeHeld()
@@ -187,6 +215,112 @@ void TestAppModelSafety::partialBatchIsTriedAgain()
     QCOMPARE(f->unsavedCount(), 0);
     QCOMPARE(f.onDisk(u"d.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
     QCOMPARE(readFile(f.folder.path(u"a.jpg"_s)), saved);
+}
+
+void TestAppModelSafety::undoSurvivesARestart()
+{
+    JournaledPhotos f;
+    QVERIFY(f.open());
+    QVERIFY(!f->canUndoSave());
+    f->selectAllPhotos();
+    f->setBatch(u"title"_s, u"X"_s);
+    f->setBatch(u"creator"_s, u"東京"_s);
+    QVERIFY(f.save());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QVERIFY(f->canUndoSave());
+    f.click(u"a.jpg"_s);
+    f->setSingle(u"title"_s, u"Y"_s);
+    QVERIFY(f.save());
+    f.relaunch();
+    QTRY_VERIFY(f->canUndoSave());
+    QVERIFY(f.open());
+    f->setSingle(u"headline"_s, u"typed"_s);
+    QVERIFY(f.undo());
+    QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
+    // Edits that are not saved yet stay.
+    QCOMPARE(f->draftValues().value(u"headline"_s), u"typed"_s);
+    QCOMPARE(f->editedSingle(), QSet<QString>{ u"headline"_s });
+    QVERIFY(f->canUndoSave());
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QVERIFY(!f->canUndoSave());
+    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s }) {
+        QCOMPARE(f.onDisk(name, u"XMP:Title"_s), QJsonValue(name));
+        QVERIFY(f.onDisk(name, u"XMP:Creator"_s).isUndefined());
+        QCOMPARE(f->record(f.url(name))->values.value(u"title"_s), name);
+    }
+}
+
+void TestAppModelSafety::undoFollowsRenames()
+{
+    JournaledPhotos f;
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"Renamed"_s);
+    QVERIFY(f.save());
+    f->setRenamePattern(u"%Title%"_s);
+    f->performRename();
+    QCOMPARE(f.primary(), u"Renamed.jpg"_s);
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.onDisk(u"Renamed.jpg"_s, u"XMP:Title"_s), QJsonValue(u"a.jpg"_s));
+}
+
+void TestAppModelSafety::undoLeavesOthersWorkAlone()
+{
+    JournaledPhotos f;
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    f->setBatch(u"title"_s, u"X"_s);
+    QVERIFY(f.save());
+    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=another program's"_s, f.folder.path(u"a.jpg"_s) });
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), u"Undone, but 1 photo changed since and was left alone: a.jpg"_s);
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"another program's"_s));
+    QCOMPARE(f.onDisk(u"b.jpg"_s, u"XMP:Title"_s), QJsonValue(u"b.jpg"_s));
+}
+
+void TestAppModelSafety::unwritableJournalDoesNotStopASave()
+{
+    JournaledPhotos f;
+    writeFile(f.settings.filePath(u"state"_s), "a file where a folder should be");
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"X"_s);
+    QVERIFY(f.save());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
+    QVERIFY(!f->canUndoSave());
+}
+
+void TestAppModelSafety::stalledFileIsSkipped()
+{
+    // The real tool, but for ever busy with one photo.
+    const QTemporaryDir tools;
+    const QString script = tools.filePath(u"exiftool"_s);
+    writeFile(script,
+        "#!/usr/bin/perl\nmy ($f) = grep { m{/b\\.jpg$} } @ARGV;\nif ($f) { open my $h, '<', $f; sleep 600 }\n"
+        "exec $^X, '"
+            + realTool().exiftoolURL.toLocalFile().toUtf8() + "', @ARGV;\n");
+    ModelFixture f(MetadataService{ { QUrl::fromLocalFile(script), realTool().perlURL } });
+    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
+        f.folder.add(name);
+    f.services.stallInterval = std::chrono::milliseconds(200);
+    f.relaunch();
+    f->load({ f.folderURL() });
+    QCOMPARE(f->stalledFile(), std::nullopt);
+    QTRY_COMPARE_WITH_TIMEOUT(f->stalledFile(), u"b.jpg"_s, 30000);
+    f->skipStalledFile();
+    QCOMPARE(f->stalledFile(), std::nullopt);
+    QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 2, 30000);
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f.visible(), QStringList({ u"a.jpg"_s, u"c.jpg"_s }));
+    QCOMPARE(f->errorMessage(), u"1 file could not be read and was left out: b.jpg (took too long)"_s);
+    // A look at the folder does not fetch it again: that would hang where nobody sees it.
+    f->refresh();
+    QTest::qWait(500);
+    f.folder.add(u"d.jpg"_s);
+    f->refresh();
+    QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 3, 30000);
+    QCOMPARE(f.visible(), QStringList({ u"a.jpg"_s, u"c.jpg"_s, u"d.jpg"_s }));
 }
 
 QTEST_GUILESS_MAIN(TestAppModelSafety)

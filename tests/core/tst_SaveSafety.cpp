@@ -3,6 +3,7 @@
 #include "core/MetadataService.h"
 #include "core/SaveGuard.h"
 #include "core/SaveVerification.h"
+#include "core/TemporaryFiles.h"
 #include "tests/support/Support.h"
 
 #include <QFile>
@@ -368,6 +369,25 @@ private slots:
 
         writeFile(path, "{ half a journal");
         QVERIFY(SaveJournal::load(path).isEmpty());
+    }
+
+    void clearsOnlyItsAbandonedTemporaryFiles()
+    {
+        const PhotoFolder folder;
+        const QString ours = TemporaryFiles::newConfigName();
+        const QString young = TemporaryFiles::newConfigName();
+        const QStringList others{ QStringLiteral("quorbel-notes.conf"), ours + QStringLiteral(".kept"), young };
+        for (const auto& name : QStringList{ ours, ours + QStringLiteral(".aB3xYz") } + others) {
+            writeFile(folder.path(name), "x");
+            QFile file(folder.path(name));
+            QVERIFY(file.open(QIODevice::ReadWrite));
+            const int age = name == young ? 3500 : 3700;  // seconds
+            QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-age), QFileDevice::FileModificationTime));
+        }
+        QCOMPARE(TemporaryFiles::clearAbandoned(folder.path()), 2);
+        QStringList kept = others;
+        kept.sort();
+        QCOMPARE(folder.names(), kept);
     }
 };
 

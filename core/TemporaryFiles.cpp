@@ -1,0 +1,37 @@
+#include "core/TemporaryFiles.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QUuid>
+
+#include <unistd.h>
+
+namespace Quorbel::TemporaryFiles {
+
+namespace {
+
+constexpr qint64 longestSave = 3600;  // seconds
+
+}  // namespace
+
+QString newConfigName()
+{
+    const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
+    return QStringLiteral("quorbel-") + id + QStringLiteral(".conf");
+}
+
+int clearAbandoned(const QString& folder, const QDateTime& now)
+{
+    // Files are written under a longer name first, which a killed process leaves behind as well.
+    static const QRegularExpression ours(QStringLiteral("^quorbel-[0-9A-F-]{36}\\.conf(\\.\\w{6})?$"));
+    const QFileInfoList files = QDir(folder).entryInfoList(
+        { QStringLiteral("quorbel-*.conf*") }, QDir::Files | QDir::NoSymLinks | QDir::Hidden);
+    int removed = 0;
+    for (const QFileInfo& file : files)
+        if (ours.match(file.fileName()).hasMatch() && file.ownerId() == geteuid()
+            && file.lastModified().secsTo(now) > longestSave && QFile::remove(file.filePath()))
+            ++removed;
+    return removed;
+}
+
+}  // namespace Quorbel::TemporaryFiles
