@@ -67,8 +67,11 @@ void AppModel::readPreferences()
     m_sortOrder = fromRawValue<RecordSortOrder>(text(store, u"sortOrder"_s, {})).value_or(RecordSortOrder::nameAsc);
     m_colorOverride = colorScheme(text(store, u"appearance"_s, {}));
     m_recentPaths = paths(store, u"recentItems"_s);
-    store.setValue(u"renamePattern"_s, m_renamePattern);
-    store.setValue(u"sortOrder"_s, rawValue(m_sortOrder));
+    // Stored at once, so that the defaults become values; a start that changes nothing writes no file.
+    if (store.value(u"renamePattern"_s) != m_renamePattern)
+        store.setValue(u"renamePattern"_s, m_renamePattern);
+    if (store.value(u"sortOrder"_s) != rawValue(m_sortOrder))
+        store.setValue(u"sortOrder"_s, rawValue(m_sortOrder));
 }
 
 template <typename T>

@@ -90,6 +90,7 @@ ContentView::ContentView(
     AppModel& model, ThumbnailStore* thumbs, SystemScheme& systemScheme, QWidget* window, ContentFactories factories)
     : QWidget(window)
     , m_model(model)
+    , m_thumbs(thumbs)
     , m_systemScheme(systemScheme)
     , m_window(window)
     , m_factories(std::move(factories))
@@ -100,8 +101,6 @@ ContentView::ContentView(
     , m_drop(new FileDrop(window))
 {
     applyTheme();
-    buildColumns(thumbs);
-    m_banner->raise();
     connectModel();
     connectSheets();
     connect(m_bar, &WindowBar::previewToggled, this, &ContentView::togglePreview);
@@ -113,17 +112,22 @@ ContentView::ContentView(
 
 ContentView::~ContentView() = default;
 
-void ContentView::buildColumns(ThumbnailStore* thumbs)
+void ContentView::buildColumns()
 {
-    m_sidebar = new SidebarView(m_model, thumbs);
+    if (m_columns)
+        return;
+    m_sidebar = new SidebarView(m_model, m_thumbs);
     m_inspector = m_factories.inspector(this);
     m_columns = new ColumnRow(
-        m_sidebar, m_inspector, new PreviewColumnView(m_model, thumbs), storedWidth(m_model.preferences()), this);
+        m_sidebar, m_inspector, new PreviewColumnView(m_model, m_thumbs), storedWidth(m_model.preferences()), this);
+    m_columns->hide();
+    m_columns->setGeometry(rect());
+    m_columns->stackUnder(m_launch);
+    new HandleLines(m_sidebar, m_columns->handle());
     m_columns->setPreviewWanted(m_model.preferences().value(previewEnabledKey(), true).toBool());
     connect(m_columns, &ColumnRow::sidebarWidthSettled, this,
         [this](double width) { m_model.preferences().setValue(sidebarWidthKey(), width); });
-    connect(m_columns, &ColumnRow::previewShownChanged, m_bar, &WindowBar::setPreviewShown);
-    connect(m_columns, &ColumnRow::previewShownChanged, this, &ContentView::previewShownChanged);
+    connect(m_columns, &ColumnRow::previewShownChanged, this, &ContentView::showPreviewState);
 }
 
 void ContentView::connectModel()
@@ -166,11 +170,18 @@ void ContentView::followFlag(bool open, SheetBody*& sheet, const std::function<S
 
 bool ContentView::previewShown() const
 {
-    return m_columns->isVisible() && m_columns->previewShown();
+    return m_columns && !m_columns->isHidden() && m_columns->previewShown();
+}
+
+void ContentView::showPreviewState()
+{
+    m_bar->setPreviewShown(previewShown());
+    emit previewShownChanged(previewShown());
 }
 
 void ContentView::togglePreview()
 {
+    buildColumns();
     const bool wanted = !(m_columns->previewWanted() && m_window->width() >= Columns::previewThreshold);
     m_model.preferences().setValue(previewEnabledKey(), wanted);
     m_columns->setPreviewWanted(wanted);
@@ -202,19 +213,23 @@ void ContentView::growWindow(int target)
 
 void ContentView::focusSearch()
 {
-    if (m_columns->isVisible())
+    if (m_columns && m_columns->isVisible())
         m_sidebar->focusSearch();
 }
 
 void ContentView::showRecords()
 {
     const bool any = !m_model.records().isEmpty();
-    const bool appears = any && m_columns->isHidden();
+    if (any)
+        buildColumns();
     m_launch->setVisible(!any);
-    m_columns->setVisible(any);
-    if (appears)  // the arrow keys go through the photos at once
-        m_sidebar->list()->setFocus(Qt::OtherFocusReason);
-    m_bar->setPreviewShown(any && m_columns->previewShown());
+    if (m_columns) {
+        const bool appears = any && m_columns->isHidden();
+        m_columns->setVisible(any);
+        if (appears)  // the arrow keys go through the photos at once
+            m_sidebar->list()->setFocus(Qt::OtherFocusReason);
+        showPreviewState();
+    }
     placeBanner();
 }
 
@@ -233,7 +248,7 @@ void ContentView::placeBanner()
 {
     const bool columns = m_columns && !m_columns->isHidden();
     m_banner->place(height() - px(columns ? bannerOverFooter : bannerOverEdge));
-    if (m_factories.setInspectorInset)
+    if (m_inspector && m_factories.setInspectorInset)
         m_factories.setInspectorInset(m_inspector, m_banner->isHidden() ? 0 : m_banner->height() + px(2 * 16));
 }
 
@@ -241,7 +256,8 @@ void ContentView::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     m_launch->setGeometry(rect());
-    m_columns->setGeometry(rect());
+    if (m_columns)
+        m_columns->setGeometry(rect());
     placeBanner();
 }
 

@@ -44,6 +44,9 @@ public:
         ContentFactories factories);
     ~ContentView() override;
 
+    /// Builds what shows photos, if it is not there yet. That happens by itself when photos come; done earlier, at
+    /// leisure, it makes their coming quicker.
+    void buildColumns();
     WindowBar* bar() const { return m_bar; }
     SheetHost* sheets() const { return m_sheets; }
     bool previewShown() const;
@@ -59,17 +62,18 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void buildColumns(ThumbnailStore* thumbs);
     void connectModel();
     void connectSheets();
     void followFlag(bool open, SheetBody*& sheet, const std::function<SheetBody*()>& make);
     void showRecords();
+    void showPreviewState();
     void showTitle();
     void applyTheme();
     void placeBanner();
     void growWindow(int target);
 
     AppModel& m_model;
+    ThumbnailStore* m_thumbs;
     SystemScheme& m_systemScheme;
     QWidget* m_window;
     ContentFactories m_factories;

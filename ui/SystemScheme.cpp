@@ -5,6 +5,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
 #include <QEvent>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -32,6 +33,14 @@ std::optional<ColorScheme> schemeOfPortal(QVariant value)
     default:
         return std::nullopt;
     }
+}
+
+/// Whether the user has a bus: one that is named, or systemd's in the runtime folder.
+bool hasSessionBus()
+{
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")
+        || (!runtime.isEmpty() && QFileInfo::exists(runtime + QStringLiteral("/bus")));
 }
 
 }  // namespace
@@ -66,6 +75,9 @@ bool SystemScheme::eventFilter(QObject* watched, QEvent* event)
 
 void SystemScheme::askPortal()
 {
+    // Without a bus, asking for one would start one, which takes longer than the whole window.
+    if (!hasSessionBus())
+        return;
     auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;

@@ -34,15 +34,12 @@ QString saveTitle(const AppModel& model)
 WindowBar::WindowBar(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
-    , m_menus(new ThemedMenuBar)
+    , m_line(new QHBoxLayout(this))
     , m_tools(new QWidget)
 {
-    auto* bar = new QHBoxLayout(this);
-    bar->setSpacing(0);
-    m_menus->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    bar->addWidget(m_menus, 0, Qt::AlignVCenter);
-    bar->addStretch();
-    bar->addWidget(m_tools);
+    m_line->setSpacing(0);
+    m_line->addStretch();
+    m_line->addWidget(m_tools);
 
     auto* tools = new QHBoxLayout(m_tools);
     QBIconButton* refresh = addTool(tools, QStringLiteral("arrow.clockwise"), QStringLiteral("Refresh folder"));
@@ -57,7 +54,7 @@ WindowBar::WindowBar(AppModel& model, QWidget* parent)
     saveGap->addWidget(m_save);
     tools->addLayout(saveGap);
     onRestyle(this, [=, this] {
-        bar->setContentsMargins(px(4), 0, px(12), 1);
+        m_line->setContentsMargins(px(4), 0, px(12), 1);
         tools->setContentsMargins(0, 0, 0, 0);
         tools->setSpacing(px(4));
         saveGap->setContentsMargins(px(8), 0, 0, 0);
@@ -69,6 +66,17 @@ WindowBar::WindowBar(AppModel& model, QWidget* parent)
              &AppModel::batchListsChanged, &AppModel::batchValuesChanged, &AppModel::batchCustomsChanged })
         connect(&model, change, this, &WindowBar::follow);
     follow();
+}
+
+ThemedMenuBar* WindowBar::menuBar()
+{
+    if (!m_menus) {
+        m_menus = new ThemedMenuBar(this);
+        m_menus->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+        m_line->insertWidget(0, m_menus, 0, Qt::AlignVCenter);
+        m_menus->show();
+    }
+    return m_menus;
 }
 
 QBIconButton* WindowBar::addTool(QHBoxLayout* line, const QString& icon, const QString& name)
@@ -91,7 +99,7 @@ void WindowBar::setPreviewShown(bool shown)
 
 void WindowBar::setEnabledMenus(bool enabled)
 {
-    m_menus->setEnabled(enabled);
+    menuBar()->setEnabled(enabled);
 }
 
 void WindowBar::follow()
@@ -138,7 +146,8 @@ QString WindowBar::shownTitle() const
 void WindowBar::paintTitles(QPainter& painter) const
 {
     const Theme& theme = Theme::of(this);
-    const int side = qMax(m_menus->geometry().right(), width() - m_tools->geometry().left()) + px(titleGap);
+    const int side =
+        qMax(m_menus ? m_menus->geometry().right() : 0, width() - m_tools->geometry().left()) + px(titleGap);
     QRect line(side, px(titleTop), width() - 2 * side, px(titleHeight));
     painter.setFont(sansFont(13, QFont::DemiBold));
     painter.setPen(theme.text);

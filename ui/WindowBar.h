@@ -21,8 +21,9 @@ class WindowBar final : public QWidget {
 public:
     explicit WindowBar(AppModel& model, QWidget* parent = nullptr);
 
-    /// Empty; the program fills it.
-    ThemedMenuBar* menuBar() const { return m_menus; }
+    /// Made by the first call, empty: the program fills it. (Making a menu bar takes Qt longer than all the rest of
+    /// the window, so that a program that starts can show itself first.)
+    ThemedMenuBar* menuBar();
     /// Whether the preview column is shown now: what its button says.
     void setPreviewShown(bool shown);
     /// While off, neither the menus nor their shortcuts do anything: a sheet is open.
@@ -43,7 +44,8 @@ private:
     void paintTitles(QPainter& painter) const;
 
     AppModel& m_model;
-    ThemedMenuBar* m_menus;
+    QHBoxLayout* m_line;
+    ThemedMenuBar* m_menus = nullptr;
     QWidget* m_tools;
     QBIconButton* m_preview = nullptr;
     QBIconButton* m_settings = nullptr;

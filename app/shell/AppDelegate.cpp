@@ -2,10 +2,10 @@
 
 #include "app/SelfTest.h"
 #include "app/shell/AboutSheet.h"
+#include "app/shell/FirstPaint.h"
 #include "app/shell/MainWindowDelegate.h"
 #include "app/shell/Menus.h"
 #include "app/shell/OpenPanel.h"
-#include "app/shell/StartTrace.h"
 #include "core/Product.h"
 #include "ui/AddFieldSheet.h"
 #include "ui/ContentView.h"
@@ -22,6 +22,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QIcon>
 #include <QInputMethod>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -34,6 +35,9 @@ namespace {
 
 /// Whether the window may be active: with it, another program's start lets this one come to the front.
 constexpr auto activationVariable = "XDG_ACTIVATION_TOKEN";
+
+/// Milliseconds after the window's first picture: the network must not slow the first photos down.
+constexpr int updateCheckDelay = 1'500;
 
 }  // namespace
 
@@ -79,22 +83,39 @@ bool AppDelegate::handOver(const HandOver& what) const
 
 void AppDelegate::finishLaunching(const QList<QUrl>& urls)
 {
-    new ToolTips(this);
     m_app = std::make_unique<QuorbelApp>(hooks());
     buildWindow();
-    StartTrace::watch(m_window.get());
     m_content->setFocus();  // no button looks chosen before anybody chose it
+    // Filters run newest first: the trace comes before the work that waits for the same picture.
+    afterFirstPaint(m_window.get(), [this, urls] { finishAfterFirstPaint(urls); });
+    traceFirstPaint(m_window.get());
     m_window->show();
     connect(m_window->windowHandle(), &QWindow::screenChanged, this,
         [this] { m_app->thumbnails().setDevicePixelRatio(m_window->devicePixelRatioF()); });
+}
+
+/// Whatever a window does not need to show its first picture.
+void AppDelegate::finishAfterFirstPaint(const QList<QUrl>& urls)
+{
     if (!urls.isEmpty())
         m_app->model().requestLoad(urls);
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("app.quorbel.Quorbel")));
+    new Menus(m_app->model(), *m_content, menuCommands());
+    m_content->buildColumns();
+    new ToolTips(this);
     m_instance.listen([this](const HandOver& what) { received(what); });
-    // Once the window is there.
-    QTimer::singleShot(0, this, [this] {
-        if (QuorbelApp::checksForUpdates())
-            m_app->updatePresenter().checkAutomatically();
-    });
+    if (QuorbelApp::checksForUpdates())
+        QTimer::singleShot(updateCheckDelay, this, [this] { m_app->updatePresenter().checkAutomatically(); });
+}
+
+MenuCommands AppDelegate::menuCommands()
+{
+    MenuCommands commands{ .openSettings = [this] { openSettings(); },
+        .openHelp = [this] { openHelp(); },
+        .showAbout = [this] { showAbout(); } };
+    if (QuorbelApp::checksForUpdates())
+        commands.checkForUpdates = [this] { m_app->updatePresenter().checkManually(); };
+    return commands;
 }
 
 WindowHooks AppDelegate::hooks()
@@ -129,13 +150,6 @@ void AppDelegate::buildWindow()
     m_content = new ContentView(model, &m_app->thumbnails(), *m_systemScheme, m_window.get(), factories);
     m_window->setMenuWidget(m_content->bar());
     m_window->setCentralWidget(m_content);
-
-    MenuCommands commands{ .openSettings = [this] { openSettings(); },
-        .openHelp = [this] { openHelp(); },
-        .showAbout = [this] { showAbout(); } };
-    if (QuorbelApp::checksForUpdates())
-        commands.checkForUpdates = [this] { m_app->updatePresenter().checkManually(); };
-    new Menus(model, *m_content, commands);
 
     m_windowDelegate = new MainWindowDelegate(model, *m_window, *m_content->sheets());
     m_windowDelegate->restoreGeometry();

@@ -2,6 +2,7 @@
 // The only place where the model and the views are put together.
 #pragma once
 
+#include "app/shell/Menus.h"
 #include "app/shell/QuorbelApp.h"
 #include "app/shell/SingleInstance.h"
 
@@ -39,6 +40,8 @@ public:
 
 private:
     void buildWindow();
+    void finishAfterFirstPaint(const QList<QUrl>& urls);
+    MenuCommands menuCommands();
     WindowHooks hooks();
     void received(const HandOver& what);
     void openSettings();

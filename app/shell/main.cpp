@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QIcon>
 
 namespace {
 
@@ -34,7 +33,6 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(Product::name());
     QApplication::setApplicationVersion(QStringLiteral(QUORBEL_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("app.quorbel.Quorbel"));
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("app.quorbel.Quorbel")));
 
     const QList<QUrl> urls = AppDelegate::urlsOf(parsedFiles(application));
     AppDelegate delegate;

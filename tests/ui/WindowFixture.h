@@ -94,6 +94,7 @@ public:
         factories.save = [this] { return new SampleSheet([this] { model->cancelSaveDialog(); }); };
         factories.rename = [this] { return new SampleSheet([this] { model->setRenameOpen(false); }); };
         content = new ContentView(*model.model, thumbs, scheme, window.get(), factories);
+        content->buildColumns();
         window->setMenuWidget(content->bar());
         window->setCentralWidget(content);
         window->setMinimumSize(ContentView::minimumWindow);

@@ -251,7 +251,7 @@ void tst_ContentView::dropsOfNothingUseful()
     fixture.open({ QStringLiteral("a.jpg") });
     fixture.show();
     QVERIFY(!drag<QDragEnterEvent>(fixture.window.get(), {}, QStringLiteral("words")));
-    QVERIFY(!drag<QDropEvent>(fixture.window.get(), { QUrl(QStringLiteral("https://example.org/a.jpg")) }));
+    QVERIFY(!drag<QDragEnterEvent>(fixture.window.get(), { QUrl(QStringLiteral("https://example.org/a.jpg")) }));
     // A file that is no photo is accepted, and refused in words.
     const QString note = fixture.model.folder.path(QStringLiteral("note.txt"));
     writeFile(note, "x");

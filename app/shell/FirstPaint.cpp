@@ -1,4 +1,4 @@
-#include "app/shell/StartTrace.h"
+#include "app/shell/FirstPaint.h"
 
 #include <QEvent>
 #include <QTimer>
@@ -12,8 +12,9 @@ namespace {
 
 class FirstPaint final : public QObject {
 public:
-    explicit FirstPaint(QWidget* window)
+    FirstPaint(QWidget* window, std::function<void()> then)
         : QObject(window)
+        , m_then(std::move(then))
     {
         window->installEventFilter(this);
     }
@@ -25,20 +26,28 @@ protected:
             watched->removeEventFilter(this);
             // The picture is handed to the screen after this event.
             QTimer::singleShot(0, this, [this] {
-                std::fputs("first paint\n", stderr);
+                m_then();
                 deleteLater();
             });
         }
         return false;
     }
+
+private:
+    std::function<void()> m_then;
 };
 
 }  // namespace
 
-void StartTrace::watch(QWidget* window)
+void afterFirstPaint(QWidget* window, std::function<void()> then)
+{
+    new FirstPaint(window, std::move(then));
+}
+
+void traceFirstPaint(QWidget* window)
 {
     if (qEnvironmentVariableIsSet("QUORBEL_TRACE_START"))
-        new FirstPaint(window);
+        afterFirstPaint(window, [] { std::fputs("first paint\n", stderr); });
 }
 
 }  // namespace Quorbel
