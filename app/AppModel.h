@@ -402,6 +402,8 @@ private:
     void goOn();
     std::optional<QUrl> nearestSelected(const QSet<QUrl>& gone) const;
     void pruneSelectionToRecords(const std::optional<QUrl>& heir = std::nullopt);
+    static void mergeFields(
+        std::vector<SelectionSummary::Field>& fields, const QMap<QString, QString>& values, bool isFirst);
     const SelectionSummary& selectionSummary() const;
     // Refresh
     void applyScan(const FolderScan& scan);

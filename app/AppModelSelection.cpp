@@ -8,7 +8,15 @@
 
 namespace Quorbel {
 
-using namespace Qt::StringLiterals;
+namespace {
+
+/// Records mostly share the texts of their keys, and then nothing has to be compared.
+bool isSameText(const QString& a, const QString& b)
+{
+    return a.constData() == b.constData() ? a.size() == b.size() : a == b;
+}
+
+}  // namespace
 
 QList<ImageRecord> AppModel::selectedRecords() const
 {
@@ -196,34 +204,44 @@ void AppModel::pruneSelectionToRecords(const std::optional<QUrl>& heir)
         foldBatchIntoDraft();
 }
 
+/// Takes one more record's scalar values into the fields. Both sides are sorted by id, so one pass compares them.
+void AppModel::mergeFields(
+    std::vector<SelectionSummary::Field>& fields, const QMap<QString, QString>& values, bool isFirst)
+{
+    auto field = fields.begin();
+    for (auto value = values.cbegin(); value != values.cend(); ++value, ++field) {
+        while (field != fields.end() && !isSameText(field->id, value.key()) && field->id < value.key()) {
+            field->isShared = field->isShared && field->value.isEmpty();
+            ++field;
+        }
+        if (field == fields.end() || !isSameText(field->id, value.key()))
+            field = fields.insert(field, { value.key(), value.value(), isFirst || value->isEmpty() });
+        else if (field->isShared)
+            field->isShared = isSameText(field->value, value.value());
+    }
+    for (; field != fields.end(); ++field)
+        field->isShared = field->isShared && field->value.isEmpty();
+}
+
 const AppModel::SelectionSummary& AppModel::selectionSummary() const
 {
     if (m_selectionSummary)
         return *m_selectionSummary;
     SelectionSummary summary;
+    QStringList heldLists;
     QSet<QString> customNames;
     bool isFirst = true;
     for (const int row : selectedRows()) {
         const ImageRecord& record = m_records.at(row);
-        // Both sides are sorted by id, so one pass over both compares them.
-        auto field = summary.fields.begin();
-        for (auto value = record.values.cbegin(); value != record.values.cend(); ++value, ++field) {
-            for (; field != summary.fields.end() && field->id < value.key(); ++field)
-                field->isShared = field->isShared && field->value.isEmpty();
-            if (field == summary.fields.end() || field->id != value.key())
-                field = summary.fields.insert(field, { value.key(), value.value(), isFirst || value->isEmpty() });
-            else if (field->isShared)
-                field->isShared = field->value == value.value();
-        }
-        for (; field != summary.fields.end(); ++field)
-            field->isShared = field->isShared && field->value.isEmpty();
+        mergeFields(summary.fields, record.values, isFirst);
         for (auto list = record.lists.cbegin(); list != record.lists.cend(); ++list)
-            if (!list->isEmpty())
-                summary.heldIDs.insert(list.key());
+            if (!list->isEmpty() && !heldLists.contains(list.key()))
+                heldLists.append(list.key());
         for (const CustomValue& custom : record.custom)
             customNames.insert(custom.name);
         isFirst = false;
     }
+    summary.heldIDs = QSet<QString>(heldLists.cbegin(), heldLists.cend());
     for (const SelectionSummary::Field& field : summary.fields)
         summary.heldIDs.insert(field.id);
     summary.customNames = customNames.values();

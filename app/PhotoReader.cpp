@@ -3,6 +3,7 @@
 #include "app/FolderScan.h"
 
 #include <QFile>
+#include <QSet>
 
 #include <algorithm>
 #include <cerrno>
@@ -47,6 +48,24 @@ Check check(const QUrl& url)
     return { true, {} };
 }
 
+/// The photos of a folder repeat each other's texts: each text is held once. That saves memory, and tells texts equal
+/// by their address, without looking at them.
+void shareTexts(QList<ImageRecord>& records)
+{
+    QSet<QString> texts;
+    const auto share = [&texts](QString& text) { text = *texts.insert(text); };
+    for (ImageRecord& record : records) {
+        share(record.fileType);
+        std::for_each(record.values.begin(), record.values.end(), share);
+        for (QStringList& items : record.lists)
+            std::for_each(items.begin(), items.end(), share);
+        for (CameraRow& row : record.camera) {
+            share(row.label);
+            share(row.value);
+        }
+    }
+}
+
 }  // namespace
 
 Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgress& progress, std::stop_token stop)
@@ -76,6 +95,7 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
         result.error = QString::fromUtf8(error.what());
     }
     progress.processID = 0;
+    shareTexts(result.records);
     for (qsizetype i = 0; i < std::min(result.records.size(), modified.size()); ++i)
         result.records[i].contentModificationDate = modified[i];
     return result;
