@@ -39,7 +39,7 @@ FileEventStream::~FileEventStream()
 
 void FileEventStream::drain()
 {
-    alignas(inotify_event) std::array<char, 64 * 1024> buffer;
+    alignas(inotify_event) std::array<char, 65536> buffer;
     bool isGone = false;
     for (ssize_t size = 0; (size = read(m_descriptor, buffer.data(), buffer.size())) > 0;) {
         for (ssize_t offset = 0; offset < size;) {
