@@ -14,6 +14,7 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace Quorbel {
 
@@ -29,7 +30,7 @@ namespace {
 using Suggestions = QList<PlaceSuggestion>;
 
 constexpr int fewestLetters = 3;
-constexpr qint64 longestAnswer = 1024 * 1024;  // bytes; eight places take about four thousand
+constexpr qint64 longestAnswer = 1 << 20;  // bytes; eight places take about four thousand
 constexpr int tooManyRequests = 429;
 
 QUrl addressOf(const QUrl& endpoint, const PlaceQuery& query)
@@ -73,15 +74,24 @@ public:
         const auto letters = std::count_if(
             m_query.text.begin(), m_query.text.end(), [](QChar c) { return c.isLetterOrNumber() || c.isSurrogate(); });
         if (letters < fewestLetters)
-            QTimer::singleShot(0, this, [this] { finish({}); });
+            after(0ms, &OnlineRequest::findNothing);
         else
-            QTimer::singleShot(m_service->options.pause, this, [this] { send(); });
+            after(m_service->options.pause, &OnlineRequest::send);
     }
 
     ~OnlineRequest() override { dropReply(); }
     Q_DISABLE_COPY_MOVE(OnlineRequest)
 
 private:
+    /// One thing at a time is waited for.
+    void after(std::chrono::milliseconds delay, void (OnlineRequest::*step)())
+    {
+        m_timer.disconnect(this);
+        connect(&m_timer, &QTimer::timeout, this, step);
+        m_timer.setSingleShot(true);
+        m_timer.start(delay);
+    }
+
     void send()
     {
         if (!m_service->silence.hasExpired()) {
@@ -100,10 +110,11 @@ private:
             if (received > longestAnswer)
                 finish({ {}, PlaceError::badAnswer, u"The place service sent too much"_s });
         });
-        QTimer::singleShot(m_service->options.timeout, this, [this] {
-            finish({ {}, PlaceError::offline, u"The place service did not answer in time"_s });
-        });
+        after(m_service->options.timeout, &OnlineRequest::giveUp);
     }
+
+    void findNothing() { finish({}); }
+    void giveUp() { finish({ {}, PlaceError::offline, u"The place service did not answer in time"_s }); }
 
     void readReply()
     {
@@ -132,6 +143,7 @@ private:
     {
         if (!m_answer)
             return;
+        m_timer.stop();
         dropReply();
         const auto answer = std::exchange(m_answer, nullptr);
         answer(result);
@@ -151,6 +163,7 @@ private:
     PlaceQuery m_query;
     PlaceCallback<Suggestions> m_answer;
     QPointer<QNetworkReply> m_reply{};
+    QTimer m_timer{};
 };
 
 }  // namespace

@@ -16,17 +16,21 @@ double reach(const PlaceRow& town)
     return 0.25 * std::sqrt(double(town.population) / 1000);
 }
 
-std::optional<PlaceRow> townAt(PlaceDatabase& database, const GeoPoint& point, int country)
+/// So near its middle, a town says more than borders drawn cell by cell: in states as small as a cell, and at borders
+/// that run through towns.
+constexpr double surelyInTown = 1;  // km
+
+/// The town of the country with the least distance, less a share of its reach; any country when it is negative.
+const PlaceRow* nearest(const QList<PlaceRow>& towns, const GeoPoint& point, int country, double shareOfReach)
 {
-    std::optional<PlaceRow> best;
+    const PlaceRow* best = nullptr;
     double least = std::numeric_limits<double>::max();
-    for (const auto& town : database.townsAround(point, townDistance)) {
+    for (const auto& town : towns) {
         const double distance = kilometresBetween(point, town.point);
-        if (distance > townDistance || (country >= 0 && town.country != country))
-            continue;
-        if (distance - reach(town) < least) {
-            least = distance - reach(town);
-            best = town;
+        const double seeming = distance - shareOfReach * reach(town);
+        if (distance <= townDistance && (country < 0 || town.country == country) && seeming < least) {
+            least = seeming;
+            best = &town;
         }
     }
     return best;
@@ -36,11 +40,15 @@ std::optional<PlaceRow> townAt(PlaceDatabase& database, const GeoPoint& point, i
 
 std::optional<Placemark> placeAt(PlaceDatabase& database, const GeoPoint& point)
 {
-    const auto area = database.areaAt(point);
-    auto town = townAt(database, point, area ? area->country : -1);
+    const auto towns = database.townsAround(point, townDistance);
+    auto area = database.areaAt(point);
+    const auto* const closest = nearest(towns, point, -1, 0);
+    if (area && closest && closest->country != area->country && kilometresBetween(point, closest->point) < surelyInTown)
+        area = PlaceDatabase::Area{ closest->country, closest->state };
+    const auto* const town = nearest(towns, point, area ? area->country : -1, 1);
     if (!town && !area)
         return std::nullopt;
-    PlaceRow row = town.value_or(PlaceRow());
+    PlaceRow row = town ? *town : PlaceRow();
     if (area) {
         row.country = area->country;
         row.state = area->state;

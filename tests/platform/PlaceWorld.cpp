@@ -36,6 +36,7 @@ constexpr Town towns[] = {
     { "Springfield", "", 37.2, -93.29, "PPL", "US", "MO", 167000 },
     { "Łódź", "", 51.75, 19.46, "PPL", "PL", "", 700000 },
     { "Ghost Town", "", 47.4, 8.5, "PPLH", "CH", "ZH", 900000 },
+    { "Borderton", "", 45, 9.997, "PPL", "AT", "07", 500 },
     // Two degrees of longitude are 25 km here.
     { "Northmost", "", 83.5, 179.9, "PPL", "US", "IL", 100 },
 };

@@ -174,6 +174,7 @@ private slots:
         QTest::addRow("far from towns") << 42.0 << 3.0 << u"|Zurich|CH"_s;
         QTest::addRow("not the town across the border") << 47.17 << 9.99 << u"|Zurich|CH"_s;
         QTest::addRow("just inside the border") << 47.17 << 10.01 << u"Zürs|Tyrol|AT"_s;
+        QTest::addRow("in a town beyond the border as drawn") << 45.0 << 9.995 << u"Borderton|Tyrol|AT"_s;
         QTest::addRow("open sea") << 30.0 << -40.0 << QString();
         QTest::addRow("at sea near a town") << 39.9 << -89.6 << u"Springfield|Illinois|US"_s;
         QTest::addRow("across the antimeridian") << 83.5 << -179.9 << u"Northmost|Illinois|US"_s;
