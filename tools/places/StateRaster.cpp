@@ -16,15 +16,6 @@ namespace {
 
 constexpr quint16 sea = 0xFFFF;
 
-using Ring = QList<Point>;
-
-/// One row of the polygons' table.
-struct Polygon {
-    QList<Ring> rings{};
-    QString country{};  ///< ISO alpha-2, or something else where the source knows none
-    QString name{};
-};
-
 /// Reads the geometry of a geopackage: a header, then well-known binary.
 class GeometryReader {
 public:
@@ -191,26 +182,47 @@ StateRaster::StateRaster(const QString& geopackage, const Gazetteer& gazetteer)
     if (polygons.size() >= sea)
         throw BuildError(geopackage, QStringLiteral("too many polygons"));
     m_cells = QList<quint16>(qsizetype(rows) * columns, sea);
-    for (int i = 0; i < polygons.size(); ++i) {
-        visitInside(polygons[i].rings, [&](int row, int from, int to) {
-            auto* const cells = m_cells.data() + qsizetype(row) * columns;
-            std::fill(cells + from, cells + std::max(from, to), quint16(i));
-        });
-    }
+    m_hasLand = QList<bool>(rows, false);
+    for (int i = 0; i < polygons.size(); ++i)
+        drawInside(polygons[i].rings, quint16(i));
     // Islets and spits may hold no cell's middle: every cell with a corner of the shore is land too.
-    for (int i = 0; i < polygons.size(); ++i) {
-        for (const auto& ring : polygons[i].rings) {
-            for (const auto& point : ring) {
-                auto& cell = m_cells[qsizetype(rowOf(point.latitude)) * columns + columnOf(point.longitude)];
-                if (cell == sea)
-                    cell = quint16(i);
-            }
+    for (int i = 0; i < polygons.size(); ++i)
+        drawCorners(polygons[i].rings, quint16(i));
+    const auto areaOf = findAreas(polygons);
+    for (int row = 0; row < rows; ++row) {
+        if (!m_hasLand[row])
+            continue;
+        auto* const cells = m_cells.data() + qsizetype(row) * columns;
+        std::transform(cells, cells + columns, cells, [&](quint16 cell) { return cell == sea ? sea : areaOf[cell]; });
+    }
+}
+
+void StateRaster::drawInside(const QList<Ring>& rings, quint16 number)
+{
+    visitInside(rings, [&](int row, int from, int to) {
+        auto* const cells = m_cells.data() + qsizetype(row) * columns;
+        std::fill(cells + from, cells + std::max(from, to), number);
+        m_hasLand[row] = true;
+    });
+}
+
+void StateRaster::drawCorners(const QList<Ring>& rings, quint16 number)
+{
+    for (const auto& ring : rings) {
+        for (const auto& point : ring) {
+            const int row = rowOf(point.latitude);
+            auto& cell = m_cells[qsizetype(row) * columns + columnOf(point.longitude)];
+            cell = cell == sea ? number : cell;
+            m_hasLand[row] = true;
         }
     }
+}
 
+QList<quint16> StateRaster::findAreas(const QList<Polygon>& polygons)
+{
     QList<Votes> countries(polygons.size());
     QList<Votes> states(polygons.size());
-    for (const auto& town : gazetteer.entries) {
+    for (const auto& town : m_gazetteer->entries) {
         const auto cell = m_cells[qsizetype(rowOf(town.point.latitude)) * columns + columnOf(town.point.longitude)];
         if (town.kind != Kind::town || cell == sea)
             continue;
@@ -218,29 +230,24 @@ StateRaster::StateRaster(const QString& geopackage, const Gazetteer& gazetteer)
         if (town.state >= 0)
             ++states[cell][town.state];
     }
-    QMap<std::pair<int, int>, quint16> areaNumbers;
-    QList<quint16> areaOf(polygons.size());
+    QMap<std::pair<int, int>, quint16> numbers;
+    QList<quint16> areaOf(polygons.size(), sea);
     for (int i = 0; i < polygons.size(); ++i) {
         Area area;
-        area.country = winner(countries[i], gazetteer.countryOf(polygons[i].country));
-        area.state = winner(states[i], gazetteer.stateNamed(area.country, polygons[i].name));
-        if (area.state >= 0 && gazetteer.states[area.state].country != area.country)
+        area.country = winner(countries[i], m_gazetteer->countryOf(polygons[i].country));
+        area.state = winner(states[i], m_gazetteer->stateNamed(area.country, polygons[i].name));
+        if (area.state >= 0 && m_gazetteer->states[area.state].country != area.country)
             area.state = -1;
-        if (area.country < 0) {
-            areaOf[i] = sea;
+        if (area.country < 0)
             continue;
-        }
-        const auto key = std::pair(area.country, area.state);
-        if (!areaNumbers.contains(key)) {
-            areaNumbers[key] = quint16(m_areas.size());
+        const std::pair key(area.country, area.state);
+        if (!numbers.contains(key)) {
+            numbers[key] = quint16(m_areas.size());
             m_areas.append(area);
         }
-        areaOf[i] = areaNumbers[key];
+        areaOf[i] = numbers[key];
     }
-    for (auto& cell : m_cells) {
-        if (cell != sea)
-            cell = areaOf[cell];
-    }
+    return areaOf;
 }
 
 int StateRaster::areaNear(Point point) const
@@ -270,20 +277,18 @@ int StateRaster::stateNear(Point point) const
 QByteArray StateRaster::runsOfRow(int row) const
 {
     QByteArray runs;
-    if (isEmpty())
+    if (isEmpty() || !m_hasLand[row])
         return runs;
     const auto* const cells = m_cells.constData() + qsizetype(row) * columns;
-    bool hasLand = false;
     for (int column = 0; column < columns; ++column) {
         if (column > 0 && cells[column] == cells[column - 1])
             continue;
-        hasLand = hasLand || cells[column] != sea;
         for (const auto number : { quint16(column), cells[column] }) {
             runs.append(char(number & 0xFFU));
             runs.append(char(number >> 8U));
         }
     }
-    return hasLand ? runs : QByteArray();
+    return runs;
 }
 
 }  // namespace Quorbel::Places

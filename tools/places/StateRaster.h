@@ -8,6 +8,15 @@
 
 namespace Quorbel::Places {
 
+using Ring = QList<Point>;
+
+/// A state as the borders' file has it.
+struct Polygon {
+    QList<Ring> rings{};
+    QString country{};  ///< ISO alpha-2, or something else where the source knows none
+    QString name{};
+};
+
 /// The earth in cells of 1/40 degree (2.8 km at the equator), each holding the polygon at its middle, or none at sea.
 class StateRaster {
 public:
@@ -37,9 +46,15 @@ public:
     QByteArray runsOfRow(int row) const;
 
 private:
+    void drawInside(const QList<Ring>& rings, quint16 number);
+    void drawCorners(const QList<Ring>& rings, quint16 number);
+    /// By polygon: the area that its towns' votes make it part of; 0xFFFF where even the country is unknown.
+    QList<quint16> findAreas(const QList<Polygon>& polygons);
+
     const Gazetteer* m_gazetteer = nullptr;
     QList<Area> m_areas{};
     QList<quint16> m_cells{};  ///< row by row; 0xFFFF at sea
+    QList<bool> m_hasLand{};  ///< by row: most of the world's rows need no second look when little land is known
 };
 
 }  // namespace Quorbel::Places
