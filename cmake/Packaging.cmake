@@ -34,6 +34,6 @@ add_custom_command(OUTPUT ${doc_dir}/changelog.gz ${doc_dir}/quorbel.1.gz
     VERBATIM)
 add_custom_target(package_docs ALL DEPENDS ${doc_dir}/changelog.gz ${doc_dir}/quorbel.1.gz)
 install(FILES ${doc_dir}/quorbel.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES ${doc_dir}/changelog.gz DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME changelog.gz)
-install(FILES ${PROJECT_SOURCE_DIR}/data/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${doc_dir}/changelog.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/quorbel RENAME changelog.gz)
+install(FILES ${PROJECT_SOURCE_DIR}/data/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/quorbel)
 include(CPack)

@@ -10,21 +10,50 @@
 #include <QUrl>
 #include <QWidget>
 
+#include <cmath>
+
 namespace {
+
+/// A line of hills across the picture, its crest at about `height` of the picture's own.
+void paintHills(QPainter& painter, const QSizeF& size, qreal height, qreal phase, const QColor& colour)
+{
+    QPolygonF hills{ QPointF(0, size.height()) };
+    for (qreal x = 0; x <= size.width(); x += 4) {
+        const qreal t = 2 * M_PI * x / size.width();
+        const qreal crest = std::sin(t + phase) * 0.05 + std::sin(2.7 * t + 2 * phase) * 0.025;
+        hills << QPointF(x, size.height() * (height - crest));
+    }
+    hills << QPointF(size.width(), size.height());
+    painter.setBrush(colour);
+    painter.drawPolygon(hills);
+}
+
+/// Evening landscapes, each in its own light.
+QImage landscape(int i, int count)
+{
+    QImage image(1200, 800, QImage::Format_RGB32);
+    const QSizeF size = image.size();
+    const int hue = i * 360 / count;
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    QLinearGradient sky(0, 0, 0, size.height() * 0.7);
+    sky.setColorAt(0, QColor::fromHsv((hue + 210) % 360, 120, 190));
+    sky.setColorAt(1, QColor::fromHsv((hue + 30) % 360, 110, 250));
+    painter.fillRect(image.rect(), sky);
+    painter.setBrush(QColor::fromHsv((hue + 45) % 360, 50, 255));
+    painter.drawEllipse(QPointF(size.width() * (0.25 + 0.06 * (i % 8)), size.height() * 0.4), 52, 52);
+    for (int layer = 0; layer < 4; ++layer)
+        paintHills(painter, size, 0.5 + 0.12 * layer, i * 1.3 + layer * 1.9,
+            QColor::fromHsv((hue + 220) % 360, 70 + 20 * layer, 150 - 34 * layer));
+    return image;
+}
 
 int makePhotos(const QString& folder, int count)
 {
-    for (int i = 0; i < count; ++i) {
-        QImage image(480, 320, QImage::Format_RGB32);
-        QPainter painter(&image);
-        QLinearGradient sky(0, 0, 0, 320);
-        sky.setColorAt(0, QColor::fromHsv(i * 360 / count, 140, 230));
-        sky.setColorAt(1, QColor::fromHsv((i * 360 / count + 40) % 360, 90, 120));
-        painter.fillRect(image.rect(), sky);
-        painter.end();
-        if (!image.save(QStringLiteral("%1/photo %2.jpg").arg(folder).arg(i + 1), "JPEG"))
+    for (int i = 0; i < count; ++i)
+        if (!landscape(i, count).save(QStringLiteral("%1/photo %2.jpg").arg(folder).arg(i + 1), "JPEG", 90))
             return 1;
-    }
     return 0;
 }
 

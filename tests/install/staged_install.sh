@@ -12,7 +12,7 @@ cmake --install "$build" --strip --prefix "$prefix" >/dev/null
 fail() { echo "FAIL: $*"; exit 1; }
 for file in bin/quorbel share/quorbel/exiftool/exiftool share/applications/app.quorbel.Quorbel.desktop \
     share/metainfo/app.quorbel.Quorbel.metainfo.xml share/icons/hicolor/scalable/apps/app.quorbel.Quorbel.svg \
-    share/doc/Quorbel/copyright share/man/man1/quorbel.1.gz; do
+    share/doc/quorbel/copyright share/man/man1/quorbel.1.gz; do
     [ -e "$prefix/$file" ] || fail "$file is not installed"
 done
 desktop-file-validate "$prefix/share/applications/app.quorbel.Quorbel.desktop" || fail "desktop entry"
