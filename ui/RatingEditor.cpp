@@ -16,6 +16,8 @@ namespace Quorbel {
 
 namespace {
 constexpr int stars = 5;
+/// How far the first cell reaches beyond the left edge, so that its star, and not the cell, is in line with the fields.
+constexpr int inset = 6;
 }
 
 RatingEditor::RatingEditor(QWidget* parent)
@@ -54,12 +56,12 @@ int RatingEditor::rating() const
 
 QSize RatingEditor::sizeHint() const
 {
-    return { stars * px(26), px(30) };
+    return { stars * px(26) - px(inset), px(30) };
 }
 
 QRectF RatingEditor::cell(int star) const
 {
-    return { (star - 1) * pxF(26), 0, pxF(26), qreal(height()) };
+    return { (star - 1) * pxF(26) - pxF(inset), 0, pxF(26), qreal(height()) };
 }
 
 int RatingEditor::starAt(QPointF pos) const

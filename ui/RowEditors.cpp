@@ -113,9 +113,6 @@ RowEditor ratingEditor(FieldRow& row)
 {
     auto* stars = new RatingEditor;
     QWidget* holder = leftAligned(stars, row);
-    // The first star, not its cell, stands at the left edge of the fields. The widget's margins and not the layout's:
-    // to a layout a negative margin means the style's own.
-    onRestyle(holder, [holder] { holder->setContentsMargins(-px(4), 0, 0, 0); });
     QObject::connect(stars, &RatingEditor::valueEdited, &row, &FieldRow::textEdited);
     return { holder, stars, { stars }, [stars](const FieldRowState& state, bool) {
                 stars->setValue(state.text);

@@ -354,7 +354,7 @@ private slots:
         stage.show();
         editor->setValue(before);
         if (clickedStar > 0)
-            QTest::mouseClick(editor, Qt::LeftButton, {}, QPoint((clickedStar - 1) * 26 + 13, 15));
+            QTest::mouseClick(editor, Qt::LeftButton, {}, QPoint((clickedStar - 1) * 26 + 7, 15));
         else
             QTest::keyClick(editor, Qt::Key(key));
         QTEST(editor->value(), "after");
@@ -380,7 +380,7 @@ private slots:
         editor->setValue(value);
         const QImage picture = editor->grab().toImage();
         for (int star = 0; star < 5; ++star)
-            QCOMPARE(picture.pixelColor(star * 26 + 13, 15) == Theme::light().text, star < filled);
+            QCOMPARE(picture.pixelColor(star * 26 + 7, 15) == Theme::light().text, star < filled);
         QAccessibleInterface* described = QAccessible::queryAccessibleInterface(editor);
         QCOMPARE(described->role(), QAccessible::Slider);
         QCOMPARE(described->valueInterface()->currentValue().toInt(), filled);
