@@ -19,6 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 // Points.
 constexpr qreal listHeight = 240;
+constexpr qreal leastHeight = 86;
 constexpr qreal rowHeight = 38;
 constexpr qreal inset = 4;
 constexpr qreal plusSize = 21;
@@ -108,7 +109,9 @@ AddableFieldList::AddableFieldList(QWidget* parent)
     OverlayScrollBar::attach(this);
     setAccessibleName(u"Fields"_s);
     onRestyle(this, [this] {
-        setFixedHeight(px(listHeight));
+        // In a low window, or with large type, the list gives way.
+        setMinimumHeight(px(leastHeight));
+        setMaximumHeight(px(listHeight));
         setViewportMargins(1, 1, 1, 1);
         m_column->setContentsMargins(px(inset), px(inset), px(inset + scrollRoom), px(inset));
     });

@@ -14,7 +14,7 @@ namespace Quorbel {
 class AddableFieldRow;
 class ThemedLabel;
 
-/// 240 points high. Up and Down go from row to row, Tab stops at one row only.
+/// 240 points high where there is room. Up and Down go from row to row, Tab stops at one row only.
 class AddableFieldList final : public QScrollArea {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(AddableFieldList)

@@ -290,7 +290,7 @@ void QBTextButton::setLink(bool on)
 
 QSize QBTextButton::sizeHint() const
 {
-    int width = fontMetrics().horizontalAdvance(text()) + 2 * px(m_link ? 2 : 8);
+    int width = fontMetrics().horizontalAdvance(text()) + 2 * px(m_link ? 0 : 8);
     if (!m_keys.isEmpty())
         width += px(6) + QFontMetrics(sansFont(11)).horizontalAdvance(m_keys);
     return { width, px(m_link ? 20 : 26) };
@@ -309,7 +309,7 @@ void QBTextButton::paintEvent(QPaintEvent*)
     titleFont.setUnderline(m_link);
     painter.setFont(titleFont);
     painter.setPen(stateColor(*fade(), theme.derived.label, theme.text, theme.text));
-    const int padding = px(m_link ? 2 : 8);
+    const int padding = px(m_link ? 0 : 8);
     const QRect inner = rect().adjusted(padding, 0, -padding, 0);
     painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
     painter.setFont(sansFont(11));

@@ -110,7 +110,7 @@ class QBTextButton final : public ThemedButton {
 public:
     explicit QBTextButton(const QString& title, QWidget* parent = nullptr);
     void setKeyHint(const QString& keys);
-    /// Drawn as a link: no ground, underlined, hardly any side padding.
+    /// Drawn as a link: no ground, underlined, no side padding.
     void setLink(bool on);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

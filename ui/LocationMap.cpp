@@ -25,6 +25,7 @@ LocationMap::LocationMap(PlaceProvider* places, MapRenderer* maps, QWidget* pare
     column->addWidget(m_map);
     column->addWidget(m_line);
     auto* line = new QHBoxLayout(m_line);
+    line->setContentsMargins(0, 0, 0, 0);
     line->addWidget(m_link);
     line->addWidget(m_failure);
     line->addStretch();
@@ -33,8 +34,6 @@ LocationMap::LocationMap(PlaceProvider* places, MapRenderer* maps, QWidget* pare
     onRestyle(this, [column, line] {
         column->setSpacing(px(6));
         line->setSpacing(px(10));
-        // The link's own padding must not set it off from what stands above.
-        line->setContentsMargins(-px(2), 0, 0, 0);
     });
     connect(m_link, &QAbstractButton::clicked, this, &LocationMap::lookUp);
 }

@@ -17,7 +17,7 @@ OffsetPicker::OffsetPicker(const QString& blank, QWidget* parent)
     : ThemedButton(blank, parent)
     , m_blank(blank)
 {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     setAccessibleName(QStringLiteral("Time-zone offset"));
     onRestyle(this, [this] {
         setFont(sansFont(13));
@@ -89,6 +89,11 @@ void OffsetPicker::keyPressEvent(QKeyEvent* event)
     default:
         ThemedButton::keyPressEvent(event);
     }
+}
+
+QSize OffsetPicker::minimumSizeHint() const
+{
+    return { px(90), px(30) };
 }
 
 void OffsetPicker::paintEvent(QPaintEvent*)

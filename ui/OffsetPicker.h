@@ -17,7 +17,8 @@ public:
     void setValue(const QString& value);
     void setEdited(bool edited);
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    /// In a narrow form the button gives way; the longest offset still fits.
+    QSize minimumSizeHint() const override;
 
 signals:
     void valueEdited(const QString& value);

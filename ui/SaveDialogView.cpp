@@ -2,6 +2,7 @@
 
 #include "app/AppModel.h"
 #include "ui/Buttons.h"
+#include "ui/FocusRing.h"
 #include "ui/Labels.h"
 #include "ui/Marks.h"
 #include "ui/Metrics.h"
@@ -88,13 +89,12 @@ public:
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         setAccessibleName(u"Changes"_s);
         OverlayScrollBar::attach(this);
+        // Only a list that scrolls needs the keyboard.
+        setFocusPolicy(sizeHint().height() < contentHeight() ? Qt::TabFocus : Qt::NoFocus);
+        installFocusRing(this, { RingShape::tight, 7, {}, {} });
     }
 
-    QSize sizeHint() const override
-    {
-        const int width = px(sheetWidth - 2 * padding - 46 - tileGap);
-        return { width, qMin(px(mostListHeight), widget()->heightForWidth(width - 2) + 2) };
-    }
+    QSize sizeHint() const override { return { listWidth(), qMin(px(mostListHeight), contentHeight()) }; }
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
@@ -108,6 +108,10 @@ protected:
         }
         return QScrollArea::event(event);
     }
+
+private:
+    static int listWidth() { return px(sheetWidth - 2 * padding - 46 - tileGap); }
+    int contentHeight() const { return widget()->heightForWidth(listWidth() - 2) + 2; }
 };
 
 }  // namespace

@@ -1,5 +1,5 @@
-// Draws the inspector in many situations into PNG files, for looking at: scenes FOLDER. QT_SCALE_FACTOR=2 doubles
-// the pixels.
+// Draws the inspector in many situations into PNG files, for looking at: scenes FOLDER [PIXELS].
+// QT_SCALE_FACTOR=2 doubles the pixels; PIXELS is the size of the desktop's font.
 #include "tests/ui/InspectorFixture.h"
 #include "ui/AddFieldSheet.h"
 #include "ui/RenameSheet.h"
@@ -67,6 +67,11 @@ int main(int argc, char** argv)
     const QApplication app(argc, argv);
     const QString folder = app.arguments().value(1, u"."_s);
     QDir().mkpath(folder);
+    if (const int pixels = app.arguments().value(2).toInt(); pixels > 0) {
+        QFont font = QApplication::font();
+        font.setPixelSize(pixels);
+        QApplication::setFont(font);
+    }
     InspectorFixture f;
     f.add(u"IMG_4021.jpg"_s, lake);
     f.add(u"IMG_4022.jpg"_s, { u"-XMP-dc:Creator=Mara Lindqvist"_s, u"-XMP-dc:Title=Other"_s });
