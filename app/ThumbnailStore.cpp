@@ -14,7 +14,6 @@
 
 #include <chrono>
 #include <cmath>
-#include <ranges>
 #include <utility>
 
 #include <sys/resource.h>
@@ -218,8 +217,8 @@ void ThumbnailStore::setVisible(const QList<QUrl>& urls, const QList<QUrl>& near
     }
     for (const Key& key : std::as_const(gone))
         drop(key);
-    for (const QUrl& url : near | std::views::reverse)
-        request(url, Kind::small);
+    for (qsizetype i = near.size(); i-- > 0;)  // the newest is served first: the nearest is asked for last
+        request(near[i], Kind::small);
     dispatch();
     for (const Key& key : std::as_const(gone))
         emit entryChanged(key.url, key.kind);

@@ -29,7 +29,7 @@ struct ThumbnailStoreOptions {
     using Decode = std::function<DecodedImage(const QString& path, int longSide, const std::stop_token& stop)>;
     using Embedded = std::function<QImage(const QString& path, const std::stop_token& stop)>;
 
-    qsizetype smallBytes = 64 * 1024 * 1024;  ///< bound of the small images in memory
+    qsizetype smallBytes = 64LL * 1024 * 1024;  ///< bound of the small images in memory
     qsizetype previewBytes = 48LL * 1024 * 1024;  ///< bound of the previews in memory
     QString cacheFolder{};  ///< the store's own folder on disk, made when missing; empty: none
     qint64 cacheFolderBytes = 512LL * 1024 * 1024;  ///< the oldest files beyond this are removed at the start
