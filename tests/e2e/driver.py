@@ -136,12 +136,30 @@ def text_of(node):
     return interface.getText(0, interface.characterCount)
 
 
+def focused_text(program):
+    """The text field that has the keyboard."""
+    return next((node for node in nodes(program.root())
+                 if node.getRoleName() == "text" and node.getState().contains(pyatspi.STATE_FOCUSED)), None)
+
+
+def type_into(field, text):
+    """Replaces a field's text. Letters that the keyboard does not have are remapped on the way, and get lost on a
+    busy machine; a person would see that and type again."""
+    for _ in range(5):
+        press("ctrl+a")
+        write(text)
+        try:
+            return wait_for(f"the text “{text}”", lambda: text_of(field) == text, patience=3)
+        except Missing:
+            continue
+    raise Missing(f"the text “{text}” in “{field.name}”: {text_of(field)!r}")
+
+
 def fill(program, label, text):
     """Replaces the text of a field of the inspector, as a person does."""
-    click(program.wait("text", label))
-    press("ctrl+a")
-    write(text)
-    wait_for(f"{label} to read “{text}”", lambda: text_of(program.find("text", label)) == text)
+    field = program.wait("text", label)
+    click(field)
+    type_into(field, text)
 
 
 def tags(path, *names):

@@ -8,7 +8,8 @@ import subprocess
 import sys
 import time
 
-from driver import Program, click, expect, fill, press, run, settled, tags, text_of, wait_for, write
+from driver import (Program, click, expect, fill, focused_text, press, run, settled, tags, text_of, type_into,
+                    wait_for, write)
 
 
 def names(program):
@@ -29,7 +30,7 @@ def open_folder(program, folder):
     program.picture("launch")
     press("ctrl+o")
     program.wait("dialog")
-    write(folder)
+    type_into(wait_for("the name field to take the keyboard", lambda: focused_text(program)), folder)
     press("Return")
     wait_for("the folder's photos", lambda: len(names(program)) == 8)
     program.picture("folder")
