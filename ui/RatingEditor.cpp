@@ -18,7 +18,7 @@ namespace {
 constexpr int stars = 5;
 /// How far the first cell reaches beyond the left edge, so that its star, and not the cell, is in line with the fields.
 constexpr int inset = 6;
-}
+}  // namespace
 
 RatingEditor::RatingEditor(QWidget* parent)
     : QWidget(parent)
@@ -30,7 +30,9 @@ RatingEditor::RatingEditor(QWidget* parent)
     setAccessibleName(QStringLiteral("Rating"));
     setToolTip(QStringLiteral("0 to 5 stars; click the current rating to clear it"));
     onRestyle(this, [this] { updateGeometry(); });
-    installFocusRing(this, { RingShape::tight, 6, {}, {} });
+    // Round the cells: the first one begins left of the row, so that its star stands at the row's edge.
+    const auto cells = [this] { return cell(1).united(cell(stars)); };
+    installFocusRing(this, { RingShape::tight, 6, {}, cells });
 }
 
 void RatingEditor::setValue(const QString& value)
