@@ -104,6 +104,7 @@ class AppModel final : public QObject {
     Q_PROPERTY(bool writeSidecar READ writeSidecar WRITE setWriteSidecar NOTIFY writeSidecarChanged)
     Q_PROPERTY(bool confirmMassEdit READ confirmMassEdit WRITE setConfirmMassEdit NOTIFY confirmMassEditChanged)
     Q_PROPERTY(bool saveDontAsk READ saveDontAsk WRITE setSaveDontAsk NOTIFY saveDontAskChanged)
+    Q_PROPERTY(QString placeService READ placeService WRITE setPlaceService NOTIFY placeServiceChanged)
     Q_PROPERTY(QString renamePattern READ renamePattern WRITE setRenamePattern NOTIFY renamePatternChanged)
     Q_PROPERTY(bool stripSpecialChars READ stripSpecialChars WRITE setStripSpecialChars NOTIFY stripSpecialCharsChanged)
     Q_PROPERTY(
@@ -257,6 +258,9 @@ public:
     void setConfirmMassEdit(bool on);
     bool saveDontAsk() const { return m_saveDontAsk; }
     void setSaveDontAsk(bool on);
+    /// Address of an online place service that the user turned on; empty: places are looked up on this machine alone.
+    const QString& placeService() const { return m_placeService; }
+    void setPlaceService(const QString& address);
     const QString& renamePattern() const { return m_renamePattern; }
     void setRenamePattern(const QString& pattern);
     bool stripSpecialChars() const { return m_stripSpecialChars; }
@@ -306,6 +310,7 @@ signals:
     void writeSidecarChanged();
     void confirmMassEditChanged();
     void saveDontAskChanged();
+    void placeServiceChanged();
     void renamePatternChanged();
     void stripSpecialCharsChanged();
     void colorOverrideChanged();
@@ -491,6 +496,7 @@ private:
     bool m_writeSidecar = false;
     bool m_confirmMassEdit = true;
     bool m_saveDontAsk = false;
+    QString m_placeService;
     QString m_renamePattern;
     bool m_stripSpecialChars = true;
     std::optional<ColorScheme> m_colorOverride;

@@ -62,6 +62,7 @@ void AppModel::readPreferences()
     m_writeSidecar = boolean(store, u"writeSidecar"_s, false);
     m_confirmMassEdit = boolean(store, u"confirmMassEdit"_s, true);
     m_saveDontAsk = boolean(store, u"saveDontAsk"_s, false);
+    m_placeService = text(store, u"placeService"_s, {});
     m_renamePattern = text(store, u"renamePattern"_s, u"%Date%_%Title%"_s);
     m_stripSpecialChars = boolean(store, u"stripSpecialChars"_s, true);
     m_sortOrder = fromRawValue<RecordSortOrder>(text(store, u"sortOrder"_s, {})).value_or(RecordSortOrder::nameAsc);
@@ -107,6 +108,11 @@ void AppModel::setConfirmMassEdit(bool on)
 void AppModel::setSaveDontAsk(bool on)
 {
     setPreference(m_saveDontAsk, on, &AppModel::saveDontAskChanged, u"saveDontAsk"_s);
+}
+
+void AppModel::setPlaceService(const QString& address)
+{
+    setPreference(m_placeService, address, &AppModel::placeServiceChanged, u"placeService"_s);
 }
 
 void AppModel::setRenamePattern(const QString& pattern)

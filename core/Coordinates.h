@@ -14,7 +14,7 @@ struct Point {
     bool operator==(const Point&) const = default;
 };
 
-/// Two decimal numbers with a comma between, each with an optional compass letter behind. No range check.
+/// Two decimal numbers with a comma between, each with an optional N, S, E or W behind. No range check.
 std::optional<Point> parse(const QString& text);
 /// Six decimals, comma and space.
 QString displayString(const Point& point);

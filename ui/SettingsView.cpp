@@ -1,6 +1,7 @@
 #include "ui/SettingsView.h"
 
 #include "app/AppModel.h"
+#include "platform/places/PlaceProvider.h"
 #include "ui/Labels.h"
 #include "ui/Marks.h"
 #include "ui/Metrics.h"
@@ -43,7 +44,8 @@ public:
         auto* column = new QVBoxLayout(row);
         column->setSpacing(0);
         auto* line = new QHBoxLayout;
-        line->addWidget(new ThemedLabel(name));
+        auto* label = new ThemedLabel(name);
+        line->addWidget(label);
         line->addStretch();
         line->addWidget(control);
         column->addLayout(line);
@@ -60,9 +62,9 @@ public:
             column->setContentsMargins(px(14), tall ? px(4) : 0, px(12), note ? px(10) : 0);
             line->setContentsMargins(0, 0, 0, 0);
             line->setSpacing(px(16));
-            control->parentWidget()->setMinimumHeight(px(tall ? fieldRowHeight : rowHeight));
+            label->setMinimumHeight(px(tall ? fieldRowHeight - 4 : rowHeight));
             if (note)
-                note->setContentsMargins(0, px(tall ? 2 : -2), px(tall ? 0 : 52), 0);
+                note->setContentsMargins(0, tall ? px(2) : 0, px(tall ? 0 : 52), 0);
         });
         m_rows->addWidget(row);
     }
@@ -120,6 +122,7 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     addDisplay(column);
     addSaving(column);
     addRenaming(column);
+    addPlaces(column);
     column->addStretch();
     area->setWidget(page);
     auto* whole = new QVBoxLayout(this);
@@ -174,6 +177,15 @@ void SettingsView::addRenaming(QVBoxLayout* column)
                        "characters like @ and ' in place."));
 }
 
+void SettingsView::addPlaces(QVBoxLayout* column)
+{
+    Group* group = addGroup(column, QStringLiteral("Places"));
+    group->addRow(QStringLiteral("Online place service"), placeServiceField(),
+        QStringLiteral("Empty: places are looked up on this computer alone. With the https address of a "
+                       "Photon-compatible service, what you type in the Place field is sent there; places known here "
+                       "still come first. Takes effect at the next start."));
+}
+
 QWidget* SettingsView::appearancePicker()
 {
     auto* picker = new SegmentedPicker({ QStringLiteral("System"), QStringLiteral("Light"), QStringLiteral("Dark") });
@@ -196,6 +208,24 @@ QWidget* SettingsView::patternField()
     connect(field, &QLineEdit::textEdited, &m_model, &AppModel::setRenamePattern);
     connect(&m_model, &AppModel::renamePatternChanged, field,
         [this, field] { field->setBoundText(m_model.renamePattern()); });
+    return field;
+}
+
+QWidget* SettingsView::placeServiceField()
+{
+    auto* field = new QBTextField;
+    field->setPlaceholderText(QStringLiteral("https://…"));
+    field->setBoundText(m_model.placeService());
+    onRestyle(field, [field] { field->setFixedWidth(px(patternWidth)); });
+    // An address that may not be asked stays in the field, marked, and is not stored.
+    connect(field, &QLineEdit::textEdited, &m_model, [this, field](const QString& text) {
+        const QString address = text.trimmed();
+        const bool isUsable = address.isEmpty() || placeEndpoint(address);
+        field->setEdited(!isUsable);
+        field->setToolTip(isUsable ? QString() : QStringLiteral("Not used: this is no https address."));
+        if (isUsable)
+            m_model.setPlaceService(address);
+    });
     return field;
 }
 

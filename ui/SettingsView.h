@@ -1,4 +1,4 @@
-// The settings window: every preference of the model, in three groups. Thread: the main thread.
+// The settings window: every preference of the model, in groups. Thread: the main thread.
 // Each control shows its preference and writes it at once; there is nothing to apply.
 #pragma once
 
@@ -26,8 +26,10 @@ private:
     void addDisplay(QVBoxLayout* column);
     void addSaving(QVBoxLayout* column);
     void addRenaming(QVBoxLayout* column);
+    void addPlaces(QVBoxLayout* column);
     QWidget* appearancePicker();
     QWidget* patternField();
+    QWidget* placeServiceField();
     QWidget* toggle(
         const QString& name, bool (AppModel::*get)() const, void (AppModel::*set)(bool), void (AppModel::*changed)());
 

@@ -48,7 +48,6 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     if (service)
         images.tool = service->runner;
     m_thumbnails = std::make_unique<ThumbnailStore>(images);
-    m_placeProvider = makePlaceProvider({ .dataFolder = placesFolder() });
     m_mapRenderer = makeMapRenderer(placesFolder());
 
     AppModelServices services;
@@ -61,6 +60,8 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     services.quit = hooks.quit;
     services.journalPath = stateFolder() + QStringLiteral("/undo.json");
     m_model = std::make_unique<AppModel>(services);
+    m_placeProvider = makePlaceProvider(
+        { .dataFolder = placesFolder(), .endpoint = placeEndpoint(m_model->placeService()).value_or(QUrl()) });
     m_model->onImagesModified = [this](const QList<QUrl>& urls) { m_thumbnails->invalidate(urls); };
 
     m_updatePresenter = std::make_unique<UpdatePresenter>(UpdatePresenter::feedURL(QStringLiteral(QUORBEL_FEED_HOST)),

@@ -110,7 +110,7 @@ QSize sizeOfHevcRecord(QByteArrayView record)
     return largest;
 }
 
-/// AV1 specification, 5.5.1: the sequence header names the largest frame.
+/// AV1 bitstream standard, 5.5.1: the sequence header names the largest frame.
 QSize sizeOfAv1Record(QByteArrayView record)
 {
     constexpr qsizetype unitsAt = 4;
