@@ -137,8 +137,8 @@ public:
         compare("JPEG XL of 6 megapixels to 256", 1.10, synthetic("a.jxl", 3, middle, &Bench::jxl), 256);
         compare("PNG of 6 megapixels to 256", 1.10, synthetic("a.png", 4, middle, &Bench::png), 256);
         compare("PNG of 6 megapixels to 1,400", 1.10, synthetic("b.png", 4, middle, &Bench::png), 1400);
-        compare("WebP of 6 megapixels to 256", 1.10, synthetic("a.webp", 4, middle, &Bench::webp), 256);
-        compareWithMagick("JPEG 2000 of 6 megapixels to 256", 0.05, synthetic("a.jp2", 2, middle, &Bench::jp2), 256);
+        compare("WebP of 6 megapixels to 256", 1.10, synthetic("a.webp", 6, middle, &Bench::webp), 256);
+        compareWithMagick("JPEG 2000 of 6 megapixels to 256", 0.05, synthetic("a.jp2", 5, middle, &Bench::jp2), 256);
         bombs();
     }
 

@@ -29,10 +29,29 @@ QImage plain(const QImage& image)
     return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
 }
 
-bool describesSRGB(const QByteArray& icc)
+/// Profiles that are three curves and a matrix, as most cameras' are: Qt reads them, and converts ten times faster
+/// than a general transform is even set up. Invalid for all others.
+QColorSpace simpleSpace(const QByteArray& icc)
 {
-    const QColorSpace space = QColorSpace::fromIccProfile(icc);
-    return space.isValid() && space == QColorSpace(QColorSpace::SRgb);
+    constexpr qsizetype channelsAt = 16;  // ICC.1, 7.2: the header's colour space
+    return icc.mid(channelsAt, 4) == "RGB " ? QColorSpace::fromIccProfile(icc) : QColorSpace();
+}
+
+QImage convertedFrom(const QColorSpace& space, const QImage& image)
+{
+    const QColorSpace sRGB(QColorSpace::SRgb);
+    if (space == sRGB)
+        return plain(image);
+    const bool deep = image.depth() > 32;
+    QImage result = image.convertToFormat(deep ? QImage::Format_RGBA64
+            : image.hasAlphaChannel()          ? QImage::Format_ARGB32
+                                               : QImage::Format_RGB32);
+    result.setColorSpace(space);
+    result.convertToColorSpace(sRGB);
+    result.setColorSpace({});
+    if (deep && !image.hasAlphaChannel())
+        result = std::move(result).convertToFormat(QImage::Format_RGB32);
+    return plain(result);
 }
 
 /// A profile and the transform out of it. The context keeps the library's messages to itself.
@@ -105,8 +124,10 @@ QImage rgbToSRGB(const QImage& image, ToSRGB& profile)
 
 QImage ColorManagement::toSRGB(const QImage& image, const QByteArray& icc)
 {
-    if (image.isNull() || icc.isEmpty() || describesSRGB(icc))
+    if (image.isNull() || icc.isEmpty())
         return plain(image);
+    if (const QColorSpace space = simpleSpace(icc); space.isValid())
+        return convertedFrom(space, image);
     ToSRGB profile(icc);
     if (profile.describes(cmsSigGrayData) && image.allGray())
         return grayToSRGB(image, profile);
