@@ -9,10 +9,12 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QListWidget>
 #include <QPainter>
 #include <QScrollArea>
 #include <QStyledItemDelegate>
+#include <QTextLayout>
 #include <QVBoxLayout>
 
 namespace Quorbel {
@@ -25,6 +27,7 @@ constexpr qreal narrowestTopics = 200;
 constexpr qreal usualTopics = 220;
 constexpr qreal widestTopics = 260;
 constexpr qreal widestText = 620;
+constexpr qreal lineHeight = 20;
 constexpr qreal sidePadding = 36;
 constexpr qreal topicHeight = 34;
 constexpr qreal topicRadius = 7;
@@ -59,6 +62,58 @@ public:
     }
 };
 
+/// Wrapped text with 20 points from line to line, which QLabel cannot be told.
+class Paragraph final : public QLabel {
+public:
+    explicit Paragraph(const QString& text)
+        : QLabel(text)
+    {
+        setTextFormat(Qt::PlainText);
+        QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+        policy.setHeightForWidth(true);
+        setSizePolicy(policy);
+        onRestyle(this, [this] {
+            setFont(sansFont(13));
+            updateGeometry();
+        });
+    }
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override
+    {
+        return forLines(width, [](QTextLine&, qreal) {});
+    }
+    QSize sizeHint() const override { return { px(widestText), heightForWidth(px(widestText)) }; }
+    QSize minimumSizeHint() const override { return { px(100), px(lineHeight) }; }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setPen(Theme::of(this).text);
+        forLines(width(), [&](QTextLine& line, qreal y) {
+            line.draw(&painter, QPointF(0, y + (pxF(lineHeight) - line.height()) / 2));
+        });
+    }
+
+private:
+    /// Calls `use` for each line with its top; the height of all.
+    template <typename Use>
+    int forLines(int width, Use use) const
+    {
+        QTextLayout layout(text(), font());
+        layout.beginLayout();
+        int y = 0;
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(width);
+            use(line, y);
+            y += px(lineHeight);
+        }
+        layout.endLayout();
+        return y;
+    }
+};
+
 /// A line of a bulleted list.
 QWidget* bulletLine(const QString& text)
 {
@@ -76,7 +131,7 @@ QWidget* bulletLine(const QString& text)
             painter.setRenderHint(QPainter::Antialiasing);
             painter.setPen(Qt::NoPen);
             painter.setBrush(Theme::of(this).muted);
-            painter.drawEllipse(QRectF(pxF(3), pxF(6.5), pxF(4), pxF(4)));
+            painter.drawEllipse(QRectF(pxF(3), pxF(8.5), pxF(4), pxF(4)));
         }
     };
     auto* line = new QWidget;
@@ -84,26 +139,22 @@ QWidget* bulletLine(const QString& text)
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     row->addWidget(new Bullet);
-    auto* label = new ThemedLabel(symbolText(text));
-    label->setWordWrap(true);
-    row->addWidget(label, 1);
+    row->addWidget(new Paragraph(symbolText(text)), 1);
     return line;
 }
 
 void addBlock(QVBoxLayout* column, const HelpBlock& block)
 {
     if (const auto* paragraph = std::get_if<HelpParagraph>(&block)) {
-        auto* label = new ThemedLabel(symbolText(paragraph->text));
-        label->setWordWrap(true);
-        column->addWidget(label);
+        column->addWidget(new Paragraph(symbolText(paragraph->text)));
         column->addSpacing(px(12));
         return;
     }
     for (const QString& item : std::get<HelpBullets>(block).items) {
         column->addWidget(bulletLine(item));
-        column->addSpacing(px(7));
+        column->addSpacing(px(5));
     }
-    column->addSpacing(px(7));
+    column->addSpacing(px(9));
 }
 
 QWidget* makePage(HelpTopic topic)

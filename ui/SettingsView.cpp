@@ -43,12 +43,12 @@ public:
         auto* row = new QWidget;
         auto* column = new QVBoxLayout(row);
         column->setSpacing(0);
-        auto* line = new QHBoxLayout;
-        auto* label = new ThemedLabel(name);
-        line->addWidget(label);
+        auto* top = new QWidget;
+        auto* line = new QHBoxLayout(top);
+        line->addWidget(new ThemedLabel(name));
         line->addStretch();
         line->addWidget(control);
-        column->addLayout(line);
+        column->addWidget(top);
         control->setAccessibleName(name);
         control->setAccessibleDescription(help);
         ThemedLabel* note = nullptr;
@@ -57,14 +57,15 @@ public:
             note->setWordWrap(true);
             column->addWidget(note);
         }
-        const bool tall = qobject_cast<QLineEdit*>(control);
+        const bool isField = qobject_cast<QLineEdit*>(control);
         onRestyle(row, [=] {
-            column->setContentsMargins(px(14), tall ? px(4) : 0, px(12), note ? px(10) : 0);
-            line->setContentsMargins(0, 0, 0, 0);
+            column->setContentsMargins(px(14), 0, px(12), note ? px(10) : 0);
+            line->setContentsMargins(0, px(note ? 4 : 0), 0, 0);
             line->setSpacing(px(16));
-            label->setMinimumHeight(px(tall ? fieldRowHeight - 4 : rowHeight));
+            // With a note the line gives up the room below its text.
+            top->setFixedHeight(px(isField ? fieldRowHeight : note ? rowHeight - 4 : rowHeight));
             if (note)
-                note->setContentsMargins(0, tall ? px(2) : 0, px(tall ? 0 : 52), 0);
+                note->setContentsMargins(0, px(isField ? 2 : 0), px(isField ? 0 : 52), 0);
         });
         m_rows->addWidget(row);
     }
@@ -132,6 +133,7 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
         column->setContentsMargins(px(sidePadding), px(14), px(sidePadding), px(14));
         setMinimumSize(sizeHint());
     });
+    setFocus();  // nothing looks chosen before anybody chose it
 }
 
 QSize SettingsView::sizeHint() const

@@ -3,7 +3,9 @@
 #include "core/ImageRecord.h"
 #include "ui/Theme.h"
 
+#include <QDialogButtonBox>
 #include <QFileInfo>
+#include <QPushButton>
 
 namespace Quorbel {
 
@@ -29,6 +31,12 @@ OpenPanel::OpenPanel(QWidget* parent)
     setLabelText(QFileDialog::Accept, QStringLiteral("Open"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
+    // The dialog disables Open while nothing is selected; here that means the folder that is shown.
+    for (auto* box : findChildren<QDialogButtonBox*>())
+        if (QPushButton* button = box->button(QDialogButtonBox::Open)) {
+            button->setEnabled(true);
+            button->installEventFilter(this);
+        }
 }
 
 void OpenPanel::open(QWidget* window, const Theme& theme, std::function<void(const QList<QUrl>&)> chosen)
@@ -37,7 +45,7 @@ void OpenPanel::open(QWidget* window, const Theme& theme, std::function<void(con
     setTheme(panel, theme);
     connect(panel, &QDialog::accepted, panel, [panel, chosen] {
         QList<QUrl> urls;
-        for (const QString& path : panel->selectedFiles())
+        for (const QString& path : std::as_const(panel->m_paths))
             urls.append(QUrl::fromLocalFile(path));
         chosen(urls);
     });
@@ -48,13 +56,20 @@ void OpenPanel::open(QWidget* window, const Theme& theme, std::function<void(con
 // Qt's own accept() would walk into a folder that is selected; a double-click does that still.
 void OpenPanel::accept()
 {
-    const QStringList paths = selectedFiles();
-    for (const QString& path : paths)
+    m_paths = selectedFiles();
+    if (m_paths.isEmpty())
+        m_paths.append(directory().absolutePath());
+    for (const QString& path : std::as_const(m_paths))
         if (!QFileInfo::exists(path))
             return;  // mistyped: the panel stays
-    if (paths.isEmpty())
-        return;
     QDialog::accept();
+}
+
+bool OpenPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (auto* button = qobject_cast<QPushButton*>(watched); button && event->type() == QEvent::EnabledChange)
+        button->setEnabled(true);
+    return QFileDialog::eventFilter(watched, event);
 }
 
 }  // namespace Quorbel

@@ -23,6 +23,10 @@ public:
 
 protected:
     void accept() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QStringList m_paths{};  ///< what was accepted
 };
 
 }  // namespace Quorbel

@@ -2,9 +2,9 @@
 #include "app/shell/AppDelegate.h"
 #include "app/shell/MainWindowDelegate.h"
 #include "app/shell/Menus.h"
+#include "app/shell/OpenPanel.h"
 #include "tests/ui/WindowFixture.h"
 #include "ui/HelpView.h"
-#include "ui/Labels.h"
 #include "ui/Marks.h"
 #include "ui/MessageSheet.h"
 #include "ui/SettingsView.h"
@@ -12,7 +12,11 @@
 #include "ui/TextFields.h"
 #include "ui/ThemedMenuBar.h"
 
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QLabel>
 #include <QListWidget>
+#include <QPushButton>
 #include <QSignalSpy>
 
 using namespace Quorbel;
@@ -34,6 +38,7 @@ private slots:
     void settingsShowAndWritePreferences();
     void helpNamesThisPlatformsKeys();
     void noticesAnswer();
+    void openPanelTakesFoldersAndFiles();
 
 private:
     static QAction* action(const WindowFixture& fixture, const QString& text)
@@ -242,7 +247,7 @@ void tst_Shell::helpNamesThisPlatformsKeys()
     for (int row = 0; row < topics->count(); ++row) {
         topics->setCurrentRow(row);
         QCOMPARE(help.selection(), allCases<HelpTopic>().at(row));
-        const auto labels = help.findChildren<ThemedLabel*>();
+        const auto labels = help.findChildren<QLabel*>();
         titles.append(labels.first()->text());
         for (const auto* label : labels)
             text += label->text() + QLatin1Char('\n');
@@ -276,6 +281,40 @@ void tst_Shell::noticesAnswer()
     QTest::mouseClick(fixture.button(QStringLiteral("Download")), Qt::LeftButton);
     QCOMPARE(answers, (QList<qsizetype>{ 1, 1, 0 }));
     QVERIFY(!sheets.current());
+}
+
+void tst_Shell::openPanelTakesFoldersAndFiles()
+{
+    PhotoFolder folder;
+    folder.add(QStringLiteral("a.jpg"));
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("inner")));
+    QWidget window;
+    const auto choose = [&](const std::function<void(OpenPanel&)>& use) {
+        std::optional<QList<QUrl>> chosen;
+        OpenPanel::open(&window, Theme::light(), [&](const QList<QUrl>& urls) { chosen = urls; });
+        auto* panel = window.findChild<OpenPanel*>();
+        panel->setDirectory(folder.path());
+        use(*panel);
+        QTest::qWait(0);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return chosen;
+    };
+    const auto typed = [](const QString& name) {
+        return [name](OpenPanel& panel) {
+            auto* field = panel.findChild<QLineEdit*>();
+            field->setText(name);  // pasted: typing may bring up completions, which take Return for themselves
+            QTest::keyClick(field, Qt::Key_Return);
+        };
+    };
+    const auto press = [](QDialogButtonBox::StandardButton button) {
+        return [button](OpenPanel& panel) {
+            QTest::mouseClick(panel.findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
+        };
+    };
+    QCOMPARE(choose(typed(QStringLiteral("a.jpg"))), QList<QUrl>{ folder.url(QStringLiteral("a.jpg")) });
+    QCOMPARE(choose(typed(folder.path(QStringLiteral("inner")))), QList<QUrl>{ folder.url(QStringLiteral("inner")) });
+    QCOMPARE(choose(press(QDialogButtonBox::Open)), QList<QUrl>{ QUrl::fromLocalFile(folder.path()) });
+    QCOMPARE(choose(press(QDialogButtonBox::Cancel)), QList<QUrl>{});
 }
 
 int main(int argc, char* argv[])
