@@ -44,6 +44,10 @@ def nodes(root):
         pending.extend(node.getChildAtIndex(i) for i in reversed(range(node.childCount)))
 
 
+def is_active(window):
+    return window.getState().contains(pyatspi.STATE_ACTIVE)
+
+
 class Program:
     def __init__(self, path, stage, pictures):
         self.path, self.stage, self.pictures = path, stage, pictures
@@ -53,7 +57,7 @@ class Program:
     def start(self, *arguments):
         self.process = subprocess.Popen([self.path, *arguments])
         wait_for("the program's window to take the keyboard",
-                 lambda: self.find("frame").getState().contains(pyatspi.STATE_ACTIVE))
+                 lambda: is_active(self.find("frame")))
 
     def root(self):
         for application in pyatspi.Registry.getDesktop(0):

@@ -114,27 +114,6 @@ def preview(program):
     program.wait("push button", "Hide preview")
 
 
-def appearance(program):
-    press("ctrl+comma")
-    wait_for("the settings", lambda: any(frame.name == "Settings" for frame in program.windows()))
-    time.sleep(0.5)
-    press("Right", "Right")  # System, Light, Dark
-    program.picture("dark")
-    expect("the stored appearance", stored("appearance"), "dark")
-    press("Left", "Left", "Escape")
-    wait_for("the settings to close", lambda: len(program.windows()) == 1)
-
-
-def stored(key):
-    """A preference, once it is written."""
-    file = os.path.join(os.environ["XDG_CONFIG_HOME"], "Quorbel", "Quorbel.ini")
-
-    def look():
-        with open(file, encoding="utf-8") as lines:
-            return next((line.split("=", 1)[1].strip() for line in lines if line.startswith(key + "=")), None)
-    return wait_for(f"preference {key}", look)
-
-
 def drop(program, stage, folder):
     source = subprocess.Popen([stage, "drag", folder])
     try:
@@ -189,7 +168,6 @@ def main():
         rename(program, folder)
         search_and_sort(program)
         preview(program)
-        appearance(program)
         drop(program, stage, other)
         quit_with_edits(program, other)
     except BaseException:
