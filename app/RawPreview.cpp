@@ -1,6 +1,6 @@
 #include "app/RawPreview.h"
 
-#include "platform/images/ImageDecoder.h"
+#include "platform/images/ImageModule.h"
 #include "platform/images/Orientation.h"
 
 using namespace Qt::StringLiterals;
@@ -32,13 +32,14 @@ QImage turned(const ExifToolRunner& tool, const QUrl& file, const QImage& image,
 
 QImage rawPreview(const ExifToolRunner& tool, const QString& path, int longSide, const std::stop_token& stop)
 {
+    const ImageModule& decoders = ImageModule::loaded();
     const QUrl file = QUrl::fromLocalFile(path);
     for (const QString& tag : { u"PreviewImage"_s, u"JpgFromRaw"_s, u"ThumbnailImage"_s }) {
         try {
             const QByteArray bytes = tool.readBinary(tag, file, stop);
-            const DecodedImage decoded = ImageDecoder::decode(bytes, longSide, stop);
+            const DecodedImage decoded = decoders.decodeBytes(bytes, longSide, stop);
             if (decoded.outcome == DecodedImage::Outcome::decoded)
-                return ImageDecoder::hasOrientation(bytes) ? decoded.image : turned(tool, file, decoded.image, stop);
+                return decoders.hasOrientation(bytes) ? decoded.image : turned(tool, file, decoded.image, stop);
         } catch (const Error&) {
             // A file that the tool cannot read under one tag it may read under the next.
             if (stop.stop_requested())

@@ -2,7 +2,7 @@
 
 #include "app/RawPreview.h"
 #include "app/ThumbnailDiskCache.h"
-#include "platform/images/ImageDecoder.h"
+#include "platform/images/ImageModule.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -62,10 +62,12 @@ struct ThumbnailStore::Workshop {
     {
         if (!options.decode)
             options.decode = [](const QString& path, int longSide, const std::stop_token& stop) {
-                return ImageDecoder::decode(path, longSide, stop);
+                return ImageModule::loaded().decode(path, longSide, stop);
             };
         if (!options.embedded)
-            options.embedded = &ImageDecoder::embeddedThumbnail;
+            options.embedded = [](const QString& path, const std::stop_token& stop) {
+                return ImageModule::loaded().embeddedThumbnail(path, stop);
+            };
     }
 
     Outcome look(const QString& path, int longSide, const std::stop_token& stop) const

@@ -37,8 +37,8 @@ struct ThumbnailStoreOptions {
     int workers = 0;  ///< threads that decode; 0: one less than the processor has cores, at least one
     qreal devicePixelRatio = 1;
     std::optional<ExifToolRunner> tool{};  ///< takes previews out of raw files that the libraries refuse
-    Decode decode{};  ///< ImageDecoder::decode when empty
-    Embedded embedded{};  ///< ImageDecoder::embeddedThumbnail when empty
+    Decode decode{};  ///< the decoders of ImageModule when empty
+    Embedded embedded{};  ///< the same
 
     /// The defaults with this user's folders.
     static ThumbnailStoreOptions forUser();

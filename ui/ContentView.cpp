@@ -20,6 +20,7 @@
 #include <QPainter>
 #include <QPropertyAnimation>
 #include <QScreen>
+#include <QTimer>
 
 namespace Quorbel {
 
@@ -37,6 +38,8 @@ QString previewEnabledKey()
 
 /// Pixels beyond the threshold to which a window is grown for the preview, so that the column really appears.
 constexpr int growthBeyondThreshold = 80;
+/// Milliseconds for which expected photos keep the launch view away. It shows their progress, which begins then.
+constexpr int launchPatience = 300;
 // Points: from the banner to the footers, and to the lower edge of the launch view.
 constexpr qreal bannerOverFooter = 54 + 16;
 constexpr qreal bannerOverEdge = 20;
@@ -106,7 +109,7 @@ ContentView::ContentView(
     connect(m_bar, &WindowBar::previewToggled, this, &ContentView::togglePreview);
     connect(m_drop, &FileDrop::targetedChanged, m_launch, &LaunchView::setTargeted);
     connect(m_drop, &FileDrop::dropped, &model, &AppModel::requestLoad);
-    showRecords();
+    m_launch->hide();  // until this is shown: it may be for photos only
     showTitle();
 }
 
@@ -128,6 +131,15 @@ void ContentView::buildColumns()
     connect(m_columns, &ColumnRow::sidebarWidthSettled, this,
         [this](double width) { m_model.preferences().setValue(sidebarWidthKey(), width); });
     connect(m_columns, &ColumnRow::previewShownChanged, this, &ContentView::showPreviewState);
+}
+
+void ContentView::expectPhotos()
+{
+    m_expectsPhotos = true;
+    QTimer::singleShot(launchPatience, this, [this] {
+        m_expectsPhotos = false;
+        showRecords();
+    });
 }
 
 void ContentView::connectModel()
@@ -222,7 +234,7 @@ void ContentView::showRecords()
     const bool any = !m_model.records().isEmpty();
     if (any)
         buildColumns();
-    m_launch->setVisible(!any);
+    m_launch->setVisible(!any && !m_expectsPhotos);
     if (m_columns) {
         const bool appears = any && m_columns->isHidden();
         m_columns->setVisible(any);
@@ -250,6 +262,12 @@ void ContentView::placeBanner()
     m_banner->place(height() - px(columns ? bannerOverFooter : bannerOverEdge));
     if (m_inspector && m_factories.setInspectorInset)
         m_factories.setInspectorInset(m_inspector, m_banner->isHidden() ? 0 : m_banner->height() + px(2 * 16));
+}
+
+void ContentView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    showRecords();
 }
 
 void ContentView::resizeEvent(QResizeEvent* event)

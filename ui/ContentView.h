@@ -47,6 +47,8 @@ public:
     /// Builds what shows photos, if it is not there yet. That happens by itself when photos come; done earlier, at
     /// leisure, it makes their coming quicker.
     void buildColumns();
+    /// Photos are about to come: what invites to open some stays away for a moment, or until they are there.
+    void expectPhotos();
     WindowBar* bar() const { return m_bar; }
     SheetHost* sheets() const { return m_sheets; }
     bool previewShown() const;
@@ -58,6 +60,7 @@ signals:
     void previewShownChanged(bool shown);
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -85,6 +88,7 @@ private:
     ErrorBanner* m_banner;
     SheetHost* m_sheets;
     FileDrop* m_drop;
+    bool m_expectsPhotos = false;
     SheetBody* m_addSheet = nullptr;
     SheetBody* m_saveSheet = nullptr;
     SheetBody* m_renameSheet = nullptr;

@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFontDatabase>
-#include <QFontInfo>
+#include <QScreen>
 #include <QStyle>
 #include <QWidget>
 
@@ -19,10 +19,15 @@ namespace {
 // these are 1; only sizes beyond them are the user's wish for larger or smaller text.
 constexpr qreal smallestStandard = 12;
 constexpr qreal largestStandard = 14.7;
+constexpr qreal pointsPerInch = 72;
+constexpr qreal standardDotsPerInch = 96;  // X11's, and Wayland's at a scale of 1
 
 qreal scaleOf(const QFont& font)
 {
-    const qreal pixels = QFontInfo(font).pixelSize();
+    // Not QFontInfo: it loads the desktop's font for this number alone, a tenth of the time to the first picture.
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const qreal dotsPerInch = screen ? screen->logicalDotsPerInchY() : standardDotsPerInch;
+    const qreal pixels = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF() * dotsPerInch / pointsPerInch;
     if (pixels > largestStandard)
         return pixels / largestStandard;
     return pixels < smallestStandard && pixels > 0 ? pixels / smallestStandard : 1;

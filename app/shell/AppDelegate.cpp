@@ -85,6 +85,8 @@ void AppDelegate::finishLaunching(const QList<QUrl>& urls)
 {
     m_app = std::make_unique<QuorbelApp>(hooks());
     buildWindow();
+    if (!urls.isEmpty())
+        m_content->expectPhotos();
     m_content->setFocus();  // no button looks chosen before anybody chose it
     // Filters run newest first: the trace comes before the work that waits for the same picture.
     afterFirstPaint(m_window.get(), [this, urls] { finishAfterFirstPaint(urls); });

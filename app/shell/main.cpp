@@ -4,6 +4,10 @@
 #include <QApplication>
 #include <QCommandLineParser>
 
+#include <fontconfig/fontconfig.h>
+
+#include <thread>
+
 namespace {
 
 /// Also answers --help and --version, which end the process.
@@ -26,18 +30,24 @@ int main(int argc, char* argv[])
     using namespace Quorbel;
     AppDelegate::willFinishLaunching(argc, argv);
 
+    // The fonts' configuration is read meanwhile: Qt asks for it at the first text, and it takes a fifth of the start.
+    const std::jthread fonts([] { FcInit(); });
+
     // The desktop's token for this start; read before Qt takes it out of the environment.
     const QByteArray activationToken = qgetenv("XDG_ACTIVATION_TOKEN");
     QApplication application(argc, argv);
+
     QApplication::setOrganizationName(Product::name());
     QApplication::setApplicationName(Product::name());
     QApplication::setApplicationVersion(QStringLiteral(QUORBEL_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("app.quorbel.Quorbel"));
 
     const QList<QUrl> urls = AppDelegate::urlsOf(parsedFiles(application));
+
     AppDelegate delegate;
     if (delegate.handOver({ urls, activationToken }))
         return 0;
+
     delegate.finishLaunching(urls);
     return QApplication::exec();
 }

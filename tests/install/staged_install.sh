@@ -10,14 +10,14 @@ prefix=$stage/prefix
 cmake --install "$build" --strip --prefix "$prefix" >/dev/null
 
 fail() { echo "FAIL: $*"; exit 1; }
-for file in bin/quorbel share/quorbel/exiftool/exiftool share/applications/app.quorbel.Quorbel.desktop \
+for file in bin/quorbel lib/quorbel/quorbel-images.so share/quorbel/exiftool/exiftool share/applications/app.quorbel.Quorbel.desktop \
     share/metainfo/app.quorbel.Quorbel.metainfo.xml share/icons/hicolor/scalable/apps/app.quorbel.Quorbel.svg \
     share/doc/quorbel/copyright share/man/man1/quorbel.1.gz; do
     [ -e "$prefix/$file" ] || fail "$file is not installed"
 done
 desktop-file-validate "$prefix/share/applications/app.quorbel.Quorbel.desktop" || fail "desktop entry"
 appstreamcli validate --no-net "$prefix/share/metainfo/app.quorbel.Quorbel.metainfo.xml" || fail "metainfo"
-grep -rlF "$build" "$prefix/bin" && fail "the installed program names the build tree"
+grep -rlF "$build" "$prefix/bin" "$prefix/lib" && fail "the installed program names the build tree"
 
 # A photo of one grey pixel, made here, in a folder with blanks and an accent in its name.
 photos="$stage/été à la mer"
