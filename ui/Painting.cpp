@@ -3,6 +3,10 @@
 #include "ui/Metrics.h"
 #include "ui/Theme.h"
 
+#include <QBitmap>
+#include <QGuiApplication>
+#include <QWidget>
+
 namespace Quorbel {
 
 void paintBox(QPainter& painter, const QRectF& rect, qreal radius, const QColor& fill, const QPen& border)
@@ -12,6 +16,20 @@ void paintBox(QPainter& painter, const QRectF& rect, qreal radius, const QColor&
     painter.setPen(border);
     const qreal inset = border.style() == Qt::NoPen ? 0 : border.widthF() / 2;
     painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius - inset, radius - inset);
+}
+
+void cutCorners(QWidget& popup, qreal radius)
+{
+    if (QGuiApplication::platformName() != QLatin1String("xcb"))
+        return;
+    QBitmap shape(popup.size());
+    shape.fill(Qt::color0);
+    QPainter painter(&shape);
+    painter.setPen(Qt::color1);  // half a pixel beyond the edge
+    painter.setBrush(Qt::color1);
+    painter.drawRoundedRect(popup.rect(), radius, radius);
+    painter.end();
+    popup.setMask(shape);
 }
 
 void paintShadow(QPainter& painter, const QRectF& box, qreal radius, const QColor& shadow)

@@ -6,12 +6,17 @@
 #include <QPen>
 #include <QRectF>
 
+class QWidget;
+
 namespace Quorbel {
 
 struct Theme;
 
 /// A filled rounded rectangle; its border, if any, lies inside `rect`.
 void paintBox(QPainter& painter, const QRectF& rect, qreal radius, const QColor& fill, const QPen& border);
+/// Gives a translucent popup on X11 the shape of a rounded rectangle: where nothing composes windows, what is
+/// transparent in one is black. The pixels that smooth the corners stay within the shape. To be called at each resize.
+void cutCorners(QWidget& popup, qreal radius);
 /// A soft shadow below a rounded rectangle, within the 25 pixels around it. For menus, notices and dropdowns.
 void paintShadow(QPainter& painter, const QRectF& box, qreal radius, const QColor& shadow);
 

@@ -12,6 +12,7 @@ namespace Quorbel {
 
 namespace {
 
+constexpr qreal radius = 9;  // points
 constexpr const char* headerProperty = "quorbelHeader";
 
 /// Sizes only: QMenu asks its style how high a row is, and a style sheet is the way to answer without a style of our
@@ -84,13 +85,19 @@ void ThemedMenu::paintEvent(QPaintEvent* event)
 {
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
-    paintBox(painter, rect(), pxF(9), theme.panel, QPen(theme.line, 1));
+    paintBox(painter, rect(), pxF(radius), theme.panel, QPen(theme.line, 1));
     painter.setClipRect(rect().adjusted(0, px(5), 0, -px(5)));
     for (const QAction* action : actions()) {
         const QRect row = actionGeometry(const_cast<QAction*>(action));
         if (action->isVisible() && event->rect().intersects(row))
             paintItem(painter, action, row);
     }
+}
+
+void ThemedMenu::resizeEvent(QResizeEvent* event)
+{
+    QMenu::resizeEvent(event);
+    cutCorners(*this, pxF(radius));
 }
 
 void ThemedMenu::paintItem(QPainter& painter, const QAction* action, const QRect& row)

@@ -15,7 +15,9 @@ namespace Quorbel {
 
 namespace {
 
-constexpr qreal widestTip = 320;  // points
+// Points.
+constexpr qreal widestTip = 320;
+constexpr qreal radius = 6;
 
 /// One tooltip on screen, in the theme of the widget that it explains.
 class Tip final : public QLabel {
@@ -40,10 +42,16 @@ public:
     }
 
 protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QLabel::resizeEvent(event);
+        cutCorners(*this, pxF(radius));
+    }
+
     void paintEvent(QPaintEvent* event) override
     {
         QPainter painter(this);
-        paintBox(painter, rect(), pxF(6), Theme::of(this).sel, Qt::NoPen);
+        paintBox(painter, rect(), pxF(radius), Theme::of(this).sel, Qt::NoPen);
         painter.end();
         QLabel::paintEvent(event);
     }

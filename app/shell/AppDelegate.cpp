@@ -188,11 +188,14 @@ void AppDelegate::applyThemes()
 void AppDelegate::openSettings()
 {
     if (!m_settings) {
-        m_settings = new SettingsView(m_app->model());
+        m_settings = new SettingsView(m_app->model(), m_window.get());
+        m_settings->setWindowFlags(Qt::Dialog);
         m_settings->setAttribute(Qt::WA_DeleteOnClose);
         m_settings->setAttribute(Qt::WA_QuitOnClose, false);
         applyThemes();
-        m_settings->resize(m_settings->sizeHint());
+        QRect place(QPoint(), m_settings->sizeHint());
+        place.moveCenter(m_window->geometry().center());
+        m_settings->setGeometry(place);
     }
     m_settings->show();
     m_settings->raise();

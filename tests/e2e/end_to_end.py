@@ -8,7 +8,7 @@ import subprocess
 import sys
 import time
 
-from driver import (Program, click, expect, fill, focused_text, press, run, settled, tags, text_of, type_into,
+from driver import (Program, click, expect, fill, focused_text, is_active, press, run, settled, tags, text_of, type_into,
                     wait_for, write)
 
 
@@ -114,6 +114,27 @@ def preview(program):
     program.wait("push button", "Hide preview")
 
 
+def appearance(program):
+    press("ctrl+comma")
+    wait_for("the settings to take the keyboard",
+             lambda: any(window.name == "Settings" and is_active(window) for window in program.windows()))
+    press("Tab", "Right", "Right")  # System, Light, Dark
+    expect("the stored appearance", stored("appearance"), "dark")
+    program.picture("dark")
+    press("Left", "Left", "Escape")
+    wait_for("the settings to close", lambda: len(program.windows()) == 1)
+
+
+def stored(key):
+    """A preference, once it is written."""
+    file = os.path.join(os.environ["XDG_CONFIG_HOME"], "Quorbel", "Quorbel.ini")
+
+    def look():
+        with open(file, encoding="utf-8") as lines:
+            return next((line.split("=", 1)[1].strip() for line in lines if line.startswith(key + "=")), None)
+    return wait_for(f"preference {key}", look)
+
+
 def drop(program, stage, folder):
     source = subprocess.Popen([stage, "drag", folder])
     try:
@@ -168,6 +189,7 @@ def main():
         rename(program, folder)
         search_and_sort(program)
         preview(program)
+        appearance(program)
         drop(program, stage, other)
         quit_with_edits(program, other)
     except BaseException:
