@@ -87,6 +87,7 @@ void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& images)
     for (const auto& image : images) {
         const QString path = image.toLocalFile();
         try {
+            SaveGuard::clearLeftovers({ QUrl::fromLocalFile(sidecarPath(path)) });
             runner.write({ QStringLiteral("-tagsfromfile"), path, QStringLiteral("-xmp:all") },
                 { QUrl::fromLocalFile(sidecarPath(path)) }, false);
         } catch (const Error&) {
@@ -113,6 +114,7 @@ QString writeSafely(const ExifToolRunner& runner, const QStringList& args, const
     const SaveGuard::AttributeKeeper attributes(files);
     // After a failure too: some of the files may have been replaced.
     const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });
+    const SaveGuard::BackupKeeper backups(backup ? files : QList<QUrl>());
     if (IptcEncoding::needsUtf8(args))
         runner.write(IptcEncoding::conversionArgs(), files, backup);
     return runner.write(args, files, backup, config);

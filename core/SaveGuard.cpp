@@ -21,6 +21,11 @@ QByteArray nativePath(const QUrl& file)
     return QFile::encodeName(file.toLocalFile());
 }
 
+QByteArray backupOf(const QByteArray& photo)
+{
+    return photo + "_original";
+}
+
 bool isReadOnly(const QUrl& file)
 {
     const QByteArray path = nativePath(file);
@@ -110,6 +115,27 @@ void clearLeftovers(const QList<QUrl>& files, const QDateTime& now)
         QStringLiteral("Another save is under way or was cut off: %1 lies beside the photo. If no other program "
                        "is saving, delete it and save again. Nothing was written.")
             .arg(listed(young)));
+}
+
+BackupKeeper::BackupKeeper(const QList<QUrl>& files)
+{
+    for (const auto& file : files) {
+        const QByteArray photo = nativePath(file);
+        if (link(photo.constData(), backupOf(photo).constData()) == 0)
+            m_made.append(photo);
+    }
+}
+
+BackupKeeper::~BackupKeeper()
+{
+    for (const auto& photo : m_made) {
+        const QByteArray backup = backupOf(photo);
+        struct stat now { };
+        struct stat before { };
+        if (stat(photo.constData(), &now) == 0 && stat(backup.constData(), &before) == 0 && now.st_dev == before.st_dev
+            && now.st_ino == before.st_ino)
+            unlink(backup.constData());
+    }
 }
 
 AttributeKeeper::AttributeKeeper(const QList<QUrl>& files)

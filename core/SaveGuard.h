@@ -33,6 +33,21 @@ public:
     }
 };
 
+/// Makes the backups that ExifTool is about to make ("PHOTO_original", unless there is one), as second names of the
+/// photos. ExifTool itself would take the photo's name away first: when it is killed before it has given it to the new
+/// file, or may not write to the folder any more, no photo is left under its name. File systems without second names
+/// leave it to ExifTool.
+class BackupKeeper {
+public:
+    explicit BackupKeeper(const QList<QUrl>& files);
+    /// Takes back the second names of photos that were not replaced.
+    ~BackupKeeper();
+    Q_DISABLE_COPY_MOVE(BackupKeeper)
+
+private:
+    QList<QByteArray> m_made;  ///< the photos
+};
+
 /// Remembers extended attributes, mode and owner of files, and gives them back to the files that take their place.
 class AttributeKeeper {
 public:

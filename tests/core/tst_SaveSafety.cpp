@@ -45,6 +45,27 @@ QString problem(const std::function<void()>& call)
     return {};
 }
 
+/// The real tool, but killed before it gives a file another name for the n-th time (the first is 0).
+class CutTool {
+public:
+    explicit CutTool(int n)
+    {
+        writeFile(m_folder.path(QStringLiteral("Cut.pm")),
+            "package Cut; my $left = " + QByteArray::number(n)
+                + "; BEGIN { *CORE::GLOBAL::rename = sub { kill 'KILL', $$ unless $left--; CORE::rename($_[0], $_[1]) "
+                  "} } 1;\n");
+        writeFile(script(),
+            "exec $^X, '-I" + m_folder.path().toUtf8() + "', '-MCut', '" + realTool().exiftoolURL.toLocalFile().toUtf8()
+                + "', @ARGV;\n");
+    }
+    MetadataService service() const { return { { QUrl::fromLocalFile(script()), realTool().perlURL } }; }
+
+private:
+    QString script() const { return m_folder.path(QStringLiteral("exiftool")); }
+
+    PhotoFolder m_folder;
+};
+
 void makeOld(const QString& path, qint64 seconds)
 {
     const time_t then = time(nullptr) - seconds;
@@ -276,6 +297,35 @@ private slots:
         service.write(titlePlan("x"), { photo }, {});
         QCOMPARE(exiftoolValue(photo, QStringLiteral("-XMP-dc:Title")), QStringLiteral("x"));
         QCOMPARE(folder.names(), QStringList("a.jpg"));
+    }
+
+    void cutBetweenItsSteps_data()
+    {
+        QTest::addColumn<bool>("backup");
+        QTest::addRow("with a backup") << true;
+        QTest::addRow("without") << false;
+    }
+    void cutBetweenItsSteps()
+    {
+        QFETCH(bool, backup);
+        bool isCut = true;
+        for (int step = 0; isCut; ++step) {
+            PhotoFolder folder;
+            const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+            const QString path = photo.toLocalFile();
+            isCut = !problem([&] {
+                CutTool(step).service().write(titlePlan("x"), { photo }, { .backupOriginals = backup });
+            }).isEmpty();
+            QVERIFY2(QFile::exists(path), "no photo is left under its name");
+            if (isCut)
+                QCOMPARE(readFile(path), jpegBytes());
+            else
+                QCOMPARE(exiftoolValue(photo, QStringLiteral("-XMP-dc:Title")), QStringLiteral("x"));
+            const QString original = path + QStringLiteral("_original");
+            QCOMPARE(QFile::exists(original), backup && !isCut);
+            QVERIFY(!QFile::exists(original) || readFile(original) == jpegBytes());
+            QVERIFY(isCut || step > 0);  // the tool was cut at least once
+        }
     }
 
     void namesTheFilesThatFailed()
