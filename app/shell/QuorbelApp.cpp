@@ -42,7 +42,11 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     : m_preferences(
         std::make_shared<QSettings>(QSettings::IniFormat, QSettings::UserScope, Product::name(), Product::name()))
 {
-    QThreadPool::globalInstance()->start([] { TemporaryFiles::clearAbandoned(); });
+    const QString journalPath = stateFolder() + QStringLiteral("/undo.json");
+    QThreadPool::globalInstance()->start([journalPath] {
+        TemporaryFiles::clearAbandoned();
+        TemporaryFiles::clearHalfWritten(journalPath);
+    });
     const auto service = MetadataService::locate();
     ThumbnailStoreOptions images = ThumbnailStoreOptions::forUser();
     if (service)
@@ -58,7 +62,7 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     services.openUrl = openUrl;
     services.now = now;
     services.quit = hooks.quit;
-    services.journalPath = stateFolder() + QStringLiteral("/undo.json");
+    services.journalPath = journalPath;
     m_model = std::make_unique<AppModel>(services);
     m_placeProvider = makePlaceProvider(
         { .dataFolder = placesFolder(), .endpoint = placeEndpoint(m_model->placeService()).value_or(QUrl()) });

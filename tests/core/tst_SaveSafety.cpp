@@ -426,8 +426,11 @@ private slots:
         const PhotoFolder folder;
         const QString ours = TemporaryFiles::newConfigName();
         const QString young = TemporaryFiles::newConfigName();
-        const QStringList others{ QStringLiteral("quorbel-notes.conf"), ours + QStringLiteral(".kept"), young };
-        for (const auto& name : QStringList{ ours, ours + QStringLiteral(".aB3xYz") } + others) {
+        const QStringList abandoned{ ours, ours + QStringLiteral(".aB3xYz") };
+        const QStringList halfWritten{ QStringLiteral("undo.json.aB3xYz") };
+        const QStringList kept{ QStringLiteral("quorbel-notes.conf"), ours + QStringLiteral(".kept"), young,
+            QStringLiteral("undo.json"), QStringLiteral("undo.json.backup2"), QStringLiteral("my-undo.json.aB3xYz") };
+        for (const auto& name : abandoned + halfWritten + kept) {
             writeFile(folder.path(name), "x");
             QFile file(folder.path(name));
             QVERIFY(file.open(QIODevice::ReadWrite));
@@ -435,9 +438,10 @@ private slots:
             QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-age), QFileDevice::FileModificationTime));
         }
         QCOMPARE(TemporaryFiles::clearAbandoned(folder.path()), 2);
-        QStringList kept = others;
-        kept.sort();
-        QCOMPARE(folder.names(), kept);
+        QCOMPARE(TemporaryFiles::clearHalfWritten(folder.path(QStringLiteral("undo.json"))), 1);
+        QStringList left = kept;
+        left.sort();
+        QCOMPARE(folder.names(), left);
     }
 };
 
