@@ -2,10 +2,12 @@
 
 #include "platform/images/HeaderGate.h"
 #include "platform/images/HeifHeader.h"
+#include "platform/images/HeifThumbnailView.h"
 #include "platform/images/WholeFrameTurn.h"
 
 #include <QColorSpace>
 #include <QThread>
+#include <QtEndian>
 
 #include <libheif/heif.h>
 
@@ -26,7 +28,6 @@ struct Release {
 using Context = std::unique_ptr<heif_context, Release<heif_context_free>>;
 using Handle = std::unique_ptr<heif_image_handle, Release<heif_image_handle_release>>;
 using Image = std::unique_ptr<heif_image, Release<heif_image_release>>;
-using Options = std::unique_ptr<heif_decoding_options, Release<heif_decoding_options_free>>;
 using Nclx = std::unique_ptr<heif_color_profile_nclx, Release<heif_nclx_color_profile_free>>;
 
 bool fine(const heif_error& error)
@@ -34,9 +35,24 @@ bool fine(const heif_error& error)
     return error.code == heif_error_Ok;
 }
 
-QIODevice& deviceOf(void* userdata)
+/// What the library reads of a file.
+struct Input {
+    QIODevice& device;
+    HeifPatch patch{};
+
+    bool read(char* data, qint64 length)
+    {
+        const qint64 from = device.pos();
+        if (device.read(data, length) != length)
+            return false;
+        patch.apply(from, data, length);
+        return true;
+    }
+};
+
+Input& inputOf(void* userdata)
 {
-    return *static_cast<QIODevice*>(userdata);
+    return *static_cast<Input*>(userdata);
 }
 
 /// Reading through our device is what makes cancelling reach the library.
@@ -44,33 +60,43 @@ const heif_reader& deviceReader()
 {
     static const heif_reader reader{
         .reader_api_version = 1,
-        .get_position = [](void* to) -> int64_t { return deviceOf(to).pos(); },
+        .get_position = [](void* to) -> int64_t { return inputOf(to).device.pos(); },
         .read = [](void* data, size_t size, void* to) -> int {
-            return deviceOf(to).read(static_cast<char*>(data), qint64(size)) == qint64(size) ? 0 : 1;
+            return inputOf(to).read(static_cast<char*>(data), qint64(size)) ? 0 : 1;
         },
-        .seek = [](int64_t position, void* to) -> int { return deviceOf(to).seek(position) ? 0 : 1; },
+        .seek = [](int64_t position, void* to) -> int { return inputOf(to).device.seek(position) ? 0 : 1; },
         .wait_for_file_size =
             [](int64_t size, void* to) {
-                return size > deviceOf(to).size() ? heif_reader_grow_status_size_beyond_eof
-                                                  : heif_reader_grow_status_size_reached;
+                return size > inputOf(to).device.size() ? heif_reader_grow_status_size_beyond_eof
+                                                        : heif_reader_grow_status_size_reached;
             },
     };
     return reader;
 }
 
 /// A file opened up to its primary image.
-struct OpenFile {
-    Context context{ heif_context_alloc() };
-    Handle primary{};
+class OpenFile {
+    Q_DISABLE_COPY_MOVE(OpenFile)
 
-    explicit OpenFile(const DecodeSource& source)
+public:
+    explicit OpenFile(const DecodeSource& source, HeifPatch patch = {})
+        : m_input{ source.device, std::move(patch) }
+        , m_context(heif_context_alloc())
     {
-        heif_context_set_max_decoding_threads(context.get(), qMax(1, QThread::idealThreadCount() - 1));
+        source.device.seek(0);
+        heif_context_set_max_decoding_threads(m_context.get(), qMax(1, QThread::idealThreadCount() - 1));
         heif_image_handle* handle = nullptr;
-        if (fine(heif_context_read_from_reader(context.get(), &deviceReader(), &source.device, nullptr))
-            && fine(heif_context_get_primary_image_handle(context.get(), &handle)))
-            primary.reset(handle);
+        if (fine(heif_context_read_from_reader(m_context.get(), &deviceReader(), &m_input, nullptr))
+            && fine(heif_context_get_primary_image_handle(m_context.get(), &handle)))
+            m_primary.reset(handle);
     }
+    /// Null when the file could not be opened.
+    const Handle& primary() const { return m_primary; }
+
+private:
+    Input m_input;
+    Context m_context;
+    Handle m_primary;
 };
 
 QSize sizeOf(const Handle& handle)
@@ -107,7 +133,7 @@ Handle thumbnailHandle(const Handle& primary, int longSide)
         if (!fine(heif_image_handle_get_thumbnail(primary.get(), id, &found)))
             continue;
         Handle thumbnail(found);
-        if (sizeOf(thumbnail).isEmpty() || longSideOf(thumbnail) < longSide
+        if (!HeaderGate::allows(sizeOf(thumbnail), true) || longSideOf(thumbnail) < longSide
             || !sameShape(sizeOf(thumbnail), sizeOf(primary)))
             continue;
         if (!best || longSideOf(thumbnail) < longSideOf(best))
@@ -146,40 +172,93 @@ QByteArray profileOf(const Handle& handle)
     return fine(heif_image_handle_get_raw_color_profile(handle.get(), icc.data())) ? icc : QByteArray();
 }
 
-QImage pixelsOf(const Image& image, bool alpha, bool premultiplied)
+/// One channel of a decoded image, eight bits a sample.
+class Plane {
+public:
+    Plane(const Image& image, heif_channel channel, QSize size)
+        : m_row(size.width(), '\xff')  // a channel that is not there is opaque
+    {
+        if (heif_image_get_width(image.get(), channel) != size.width()
+            || heif_image_get_height(image.get(), channel) != size.height())
+            return;
+        m_bytes = heif_image_get_plane_readonly(image.get(), channel, &m_stride);
+        m_surplus = qMax(0, heif_image_get_bits_per_pixel_range(image.get(), channel) - 8);
+    }
+    bool isThere() const { return m_bytes != nullptr; }
+    /// Valid until the next call.
+    const uchar* row(int y)
+    {
+        auto* row = reinterpret_cast<uchar*>(m_row.data());
+        if (!m_bytes)
+            return row;
+        const uchar* stored = m_bytes + qsizetype(y) * m_stride;
+        if (m_surplus == 0)
+            return stored;
+        // Deep samples lie in two bytes each, in the processor's order.
+        for (qsizetype x = 0; x < m_row.size(); ++x)
+            row[x] = uchar(qMin(255, qFromUnaligned<quint16>(stored + x * 2) >> m_surplus));
+        return row;
+    }
+
+private:
+    const uchar* m_bytes = nullptr;
+    int m_stride = 0;
+    int m_surplus = 0;  ///< bits beyond eight
+    QByteArray m_row;
+};
+
+QImage pixelsOf(const Image& image, bool premultiplied)
 {
-    const int width = heif_image_get_primary_width(image.get()), height = heif_image_get_primary_height(image.get());
-    int stride = 0;
-    const uint8_t* plane = heif_image_get_plane_readonly(image.get(), heif_channel_interleaved, &stride);
-    if (!plane || width <= 0 || height <= 0)
+    const QSize size(heif_image_get_primary_width(image.get()), heif_image_get_primary_height(image.get()));
+    Plane red(image, heif_channel_R, size), green(image, heif_channel_G, size), blue(image, heif_channel_B, size);
+    Plane alpha(image, heif_channel_Alpha, size);
+    if (size.isEmpty() || !red.isThere() || !green.isThere() || !blue.isThere())
         return {};
-    const auto format = !alpha ? QImage::Format_RGB888
-        : premultiplied        ? QImage::Format_RGBA8888_Premultiplied
-                               : QImage::Format_RGBA8888;
-    return QImage(plane, width, height, stride, format);
+    QImage pixels(size,
+        !alpha.isThere()    ? QImage::Format_RGB32
+            : premultiplied ? QImage::Format_ARGB32_Premultiplied
+                            : QImage::Format_ARGB32);
+    for (int y = 0; y < pixels.height(); ++y) {
+        const uchar *r = red.row(y), *g = green.row(y), *b = blue.row(y), *a = alpha.row(y);
+        auto* row = reinterpret_cast<QRgb*>(pixels.scanLine(y));
+        for (int x = 0; x < size.width(); ++x)
+            row[x] = qRgba(r[x], g[x], b[x], a[x]);
+    }
+    return pixels;
 }
 
 DecodedFrame decodeHandle(const Handle& handle, const DecodeSource& source)
 {
-    const bool alpha = heif_image_handle_has_alpha_channel(handle.get()) != 0;
+    // In planes, as the library has it: interleaving is cheaper here than there.
     const bool premultiplied = heif_image_handle_is_premultiplied_alpha(handle.get()) != 0;
-    const Options options(heif_decoding_options_alloc());
-    options->convert_hdr_to_8bit = 1;
     heif_image* decoded = nullptr;
     DecodedFrame frame;
-    if (!fine(heif_decode_image(handle.get(), &decoded, heif_colorspace_RGB,
-            alpha ? heif_chroma_interleaved_RGBA : heif_chroma_interleaved_RGB, options.get())))
+    if (!fine(heif_decode_image(handle.get(), &decoded, heif_colorspace_RGB, heif_chroma_444, nullptr)))
         return frame;
-    const Image image(decoded);
-    const QImage pixels = pixelsOf(image, alpha, premultiplied);
+    QImage pixels = pixelsOf(Image(decoded), premultiplied);
     if (pixels.isNull())
         return frame;
-    // The pixels belong to the library: scale them, or copy them, before they go.
     frame.image = qMax(pixels.width(), pixels.height()) > source.longSide
         ? pixels.scaled(source.longSide, source.longSide, Qt::KeepAspectRatio, Qt::SmoothTransformation)
-        : pixels.copy();
+        : std::move(pixels);
     frame.icc = profileOf(handle);
     frame.outcome = DecodedImage::Outcome::decoded;
+    return frame;
+}
+
+/// The thumbnail out of a view of the file in which nothing else needs to be read.
+DecodedFrame decodeThumbnail(const DecodeSource& source, int longSide)
+{
+    HeifPatch view = onlyThumbnails(source.device);
+    if (view.bytes.isEmpty())
+        return {};
+    const OpenFile file(source, std::move(view));
+    const Handle thumbnail = file.primary() ? thumbnailHandle(file.primary(), longSide) : Handle();
+    if (!thumbnail)
+        return {};
+    DecodedFrame frame = decodeHandle(thumbnail, source);
+    if (frame.icc.isEmpty())
+        frame.icc = profileOf(file.primary());
     return frame;
 }
 
@@ -192,30 +271,21 @@ DecodedFrame HeifFormat::decode(const DecodeSource& source)
     refused.outcome = DecodedImage::Outcome::tooLarge;
     if (!coded.isEmpty() && !HeaderGate::allows(coded, true))
         return refused;
+    if (DecodedFrame frame = decodeThumbnail(source, source.longSide); frame.outcome == DecodedImage::Outcome::decoded)
+        return frame;
     const OpenFile file(source);
-    if (!file.primary)
+    if (!file.primary())
         return {};
-    if (!HeaderGate::allows(sizeOf(file.primary), true))
+    if (!HeaderGate::allows(sizeOf(file.primary()), true))
         return refused;
-    if (const Handle thumbnail = thumbnailHandle(file.primary, source.longSide)) {
-        if (DecodedFrame frame = decodeHandle(thumbnail, source); frame.outcome == DecodedImage::Outcome::decoded) {
-            if (frame.icc.isEmpty())
-                frame.icc = profileOf(file.primary);
-            return frame;
-        }
-    }
-    const WholeFrameTurn turn(sizeOf(file.primary), source.cancel);
-    return source.cancel.stop_requested() ? DecodedFrame() : decodeHandle(file.primary, source);
+    const WholeFrameTurn turn(sizeOf(file.primary()), source.cancel);
+    return source.cancel.stop_requested() ? DecodedFrame() : decodeHandle(file.primary(), source);
 }
 
 DecodedFrame HeifFormat::thumbnail(const DecodeSource& source)
 {
     const QSize coded = largestCodedFrame(source.device);
-    if (!coded.isEmpty() && !HeaderGate::allows(coded, true))
-        return {};
-    const OpenFile file(source);
-    const Handle smallest = file.primary ? thumbnailHandle(file.primary, 1) : Handle();
-    return smallest ? decodeHandle(smallest, source) : DecodedFrame();
+    return coded.isEmpty() || HeaderGate::allows(coded, true) ? decodeThumbnail(source, 1) : DecodedFrame();
 }
 
 }  // namespace Quorbel

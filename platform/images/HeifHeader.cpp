@@ -1,10 +1,11 @@
 #include "platform/images/HeifHeader.h"
 
+#include "platform/images/HeifBoxes.h"
+
 #include <QByteArray>
 #include <QtEndian>
 
 #include <array>
-#include <functional>
 
 namespace Quorbel {
 
@@ -150,52 +151,14 @@ QSize sizeOfAv1Record(QByteArrayView record)
     return clamped(width, in.bits(heightBits) + 1);
 }
 
-using BoxVisit = std::function<void(QByteArrayView type, qint64 bodyAt, qint64 bodyEnd)>;
-
-/// Calls `visit` for each box that lies in [at, end).
-void eachBox(QIODevice& device, qint64 at, qint64 end, const BoxVisit& visit)
-{
-    constexpr int maxBoxes = 4096;
-    for (int i = 0; i < maxBoxes && at + 8 <= end; ++i) {
-        device.seek(at);
-        const QByteArray head = device.read(16);
-        if (head.size() < 8)
-            return;
-        qint64 length = qFromBigEndian<quint32>(head.constData());
-        qint64 body = at + 8;
-        if (length == 1 && head.size() == 16) {
-            length = qFromBigEndian<qint64>(head.constData() + 8);
-            body = at + 16;
-        } else if (length == 0) {
-            length = end - at;
-        }
-        if (length < body - at || length > end - at)
-            return;
-        visit(QByteArrayView(head).sliced(4, 4), body, at + length);
-        at += length;
-    }
-}
-
-/// Visits the item properties, which lie three boxes deep.
-void eachProperty(QIODevice& device, qint64 at, qint64 end, const BoxVisit& visit, int depth = 0)
-{
-    static constexpr std::array path{ "meta", "iprp", "ipco" };
-    constexpr qint64 metaVersion = 4;  // bytes in front of that box's content
-    if (depth == int(path.size()))
-        return eachBox(device, at, end, visit);
-    eachBox(device, at, end, [&](QByteArrayView type, qint64 bodyAt, qint64 bodyEnd) {
-        if (type == path[depth])
-            eachProperty(device, bodyAt + (depth == 0 ? metaVersion : 0), bodyEnd, visit, depth + 1);
-    });
-}
-
 }  // namespace
 
 QSize largestCodedFrame(QIODevice& device)
 {
+    static constexpr std::array properties{ "meta", "iprp", "ipco" };
     constexpr qint64 longestRecord = 64LL * 1024;
     QSize largest;
-    eachProperty(device, 0, device.size(), [&](QByteArrayView type, qint64 at, qint64 end) {
+    eachBoxInside(device, properties, [&](QByteArrayView type, qint64 at, qint64 end) {
         if (type != "hvcC" && type != "av1C")
             return;
         device.seek(at);

@@ -223,6 +223,21 @@ private slots:
         QVERIFY(coded.width() >= 1000 && coded.width() < 1064 && coded.height() >= 600 && coded.height() < 664);
     }
 
+    /// A thumbnail that is large enough is all that is read: what is wrong with the photo itself does not matter then.
+    void heifThumbnailStandsForThePhoto()
+    {
+        QByteArray bytes = ImageFiles::heif(ImageFiles::quarters({ 320, 200 }), false, 160);
+        bytes.replace(bytes.indexOf("mdat") + 4, 4, "\xff\xff\xff\xff");  // the length of the photo's first unit
+        const QString path = stored(bytes, "a.heic");
+        for (const int side : { 80, 160 }) {
+            const QImage image = ImageDecoder::decode(path, side).image;
+            QCOMPARE(image.size(), QSize(side, side * 5 / 8));
+            QCOMPARE(wrongQuarter(image, ImageFiles::quarters({ 320, 200 }), 12), QString());
+        }
+        QCOMPARE(ImageDecoder::embeddedThumbnail(path).size(), QSize(160, 100));
+        QCOMPARE(ImageDecoder::decode(path, 1400).outcome, Outcome::damaged);
+    }
+
     void uprightAndManaged_data()
     {
         QTest::addColumn<int>("orientation");
@@ -294,7 +309,7 @@ private slots:
         QFETCH(QByteArray, inks);
         QFETCH(bool, profile);
         QFETCH(QColor, colour);
-        const QByteArray icc = profile ? ImageFiles::grayInkProfile() : QByteArray(), all = inks.repeated(64 * 48);
+        const QByteArray icc = profile ? ImageFiles::grayInkProfile() : QByteArray(), all = inks.repeated(64LL * 48);
         for (const QByteArray& bytes :
             { ImageFiles::cmykJpeg({ 64, 48 }, all, icc), ImageFiles::cmykTiff({ 64, 48 }, all, icc, false),
                 ImageFiles::cmykTiff({ 64, 48 }, all, icc, true) }) {
