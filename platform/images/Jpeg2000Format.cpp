@@ -9,6 +9,7 @@
 
 #include <array>
 #include <memory>
+#include <vector>
 
 namespace Quorbel {
 
@@ -167,12 +168,22 @@ public:
     {
         return component.data && component.w > 0 && component.h > 0 && component.prec >= 1 && component.prec <= 31;
     }
-    uchar at(int x, int y) const
+    /// Writes one row of the picture, as wide as that is.
+    void read(int y, uchar* to) const
     {
-        const qint64 column = qint64(x) * m_component.w / m_size.width();
+        const int width = m_size.width();
         const qint64 row = qint64(y) * m_component.h / m_size.height();
-        const qint64 value = m_component.data[row * m_component.w + column] + m_offset;
-        return uchar(qBound<qint64>(0, value, m_most) * 255 / m_most);
+        const OPJ_INT32* from = m_component.data + row * m_component.w;
+        if (m_most == 255 && m_component.w == OPJ_UINT32(width)) {
+            const int offset = int(m_offset);
+            for (int x = 0; x < width; ++x)
+                to[x] = uchar(qBound(-offset, from[x], 255 - offset) + offset);
+            return;
+        }
+        for (int x = 0; x < width; ++x) {
+            const qint64 value = from[qint64(x) * m_component.w / width] + m_offset;
+            to[x] = uchar(qBound<qint64>(0, value, m_most) * 255 / m_most);
+        }
     }
 
 private:
@@ -201,30 +212,59 @@ bool isYCC(const opj_image_t& image)
             && image.comps[1].dx > 1 && image.comps[2].dx > 1);
 }
 
+/// The rows of several channels, one at a time.
+class Rows {
+public:
+    Rows(const QList<Channel>& channels, QSize size)
+        : m_channels(channels)
+        , m_width(size_t(size.width()))
+        , m_bytes(size_t(channels.size()) * m_width)
+    {
+    }
+    void read(int y)
+    {
+        for (qsizetype i = 0; i < m_channels.size(); ++i)
+            m_channels[i].read(y, m_bytes.data() + size_t(i) * m_width);
+    }
+    /// Stays where it is from row to row.
+    const uchar* of(int channel) const { return m_bytes.data() + size_t(channel) * m_width; }
+
+private:
+    const QList<Channel>& m_channels;
+    size_t m_width;
+    std::vector<uchar> m_bytes;
+};
+
 QByteArray inksOf(const QList<Channel>& channels, QSize size)
 {
     QByteArray inks(qsizetype(size.width()) * size.height() * 4, Qt::Uninitialized);
     char* to = inks.data();
-    for (int y = 0; y < size.height(); ++y)
+    Rows rows(channels, size);
+    for (int y = 0; y < size.height(); ++y) {
+        rows.read(y);
         for (int x = 0; x < size.width(); ++x)
             for (int channel = 0; channel < 4; ++channel)
-                *to++ = char(channels[channel].at(x, y));
+                *to++ = char(rows.of(channel)[x]);
+    }
     return inks;
 }
 
-QImage coloursOf(const QList<Channel>& channels, const Channel* alpha, QSize size, bool ycc)
+QImage coloursOf(const QList<Channel>& colours, const Channel* alpha, QSize size, bool ycc)
 {
     QImage result(size, alpha ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-    for (int y = 0; y < size.height() && !result.isNull(); ++y) {
+    Rows rows(colours, size);
+    const bool gray = colours.size() < 3;
+    const uchar *first = rows.of(0), *second = rows.of(gray ? 0 : 1), *third = rows.of(gray ? 0 : 2);
+    std::vector<uchar> opacity(size_t(size.width()), 255);
+    for (int y = 0; y < result.height(); ++y) {
         auto* row = reinterpret_cast<QRgb*>(result.scanLine(y));
+        rows.read(y);
+        if (alpha)
+            alpha->read(y, opacity.data());
         for (int x = 0; x < size.width(); ++x) {
-            const int first = channels[0].at(x, y), opacity = alpha ? alpha->at(x, y) : 255;
-            if (channels.size() < 3)
-                row[x] = qRgba(first, first, first, opacity);
-            else if (ycc)
-                row[x] = fromYCC(first, channels[1].at(x, y), channels[2].at(x, y), opacity);
-            else
-                row[x] = qRgba(first, channels[1].at(x, y), channels[2].at(x, y), opacity);
+            const int opaque = opacity[size_t(x)];
+            row[x] = ycc && !gray ? fromYCC(first[x], second[x], third[x], opaque)
+                                  : qRgba(first[x], second[x], third[x], opaque);
         }
     }
     return result;
