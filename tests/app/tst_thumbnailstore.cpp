@@ -311,7 +311,8 @@ private slots:
         QVERIFY(!(QFile::permissions(options.cacheFolder) & others));
     }
 
-    /// What the libraries refuse is asked of the tool: tag by tag, last in the queue, once for both sizes.
+    /// What the libraries refuse is asked of the tool: tag by tag, one file after the other, last in the queue, once
+    /// for both sizes.
     void rawPreviewComesFromTheTool()
     {
         QTemporaryDir folder;
@@ -328,7 +329,7 @@ private slots:
             exit 1 if $ARGV[1] ne '-JpgFromRaw';
             open my $preview, '<:raw', "$folder/preview.jpg"; binmode STDOUT; print <$preview>;
         )"));
-        for (const char* name : { "a.cr3", "b.jpg" })
+        for (const char* name : { "a.cr3", "b.jpg", "c.cr3" })
             QVERIFY(write(path(name), "bytes"));
         FakeDecoder fake;
         ThumbnailStoreOptions options = fake.options();
@@ -343,16 +344,18 @@ private slots:
         QList<QUrl> finished;
         connect(&store, &ThumbnailStore::entryChanged, this, [&](const QUrl& url) { finished.append(url); });
         const QUrl raw = QUrl::fromLocalFile(path("a.cr3")), other = QUrl::fromLocalFile(path("b.jpg"));
+        store.request(QUrl::fromLocalFile(path("c.cr3")), Kind::preview);
         store.request(other, Kind::small);
         store.request(raw, Kind::preview);
         store.request(raw, Kind::small);
-        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 3, longest);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 4, longest);
         QCOMPARE(finished.first(), other);
         QCOMPARE(store.entry(raw, Kind::preview).image.size(), QSize(400, 600));
         QCOMPARE(store.entry(raw, Kind::small).image.size(), QSize(60, 90));
         QFile log(path("log"));
         QVERIFY(log.open(QIODevice::ReadOnly));
-        QCOMPARE(log.readAll(), "-b -PreviewImage\n-b -JpgFromRaw\n-json -G0 -struct -c %.6f -EXIF:Orientation\n");
+        const QByteArray once = "-b -PreviewImage\n-b -JpgFromRaw\n-json -G0 -struct -c %.6f -EXIF:Orientation\n";
+        QCOMPARE(log.readAll(), once.repeated(2));
     }
 
     void destroyedStoreEndsItsWork()

@@ -283,6 +283,8 @@ private slots:
         QTest::newRow("webp") << ImageFiles::written(gray, "webp", 100);
         QTest::newRow("tiff") << ImageFiles::written(gray, "tiff");
         QTest::newRow("psd") << ImageFiles::psd(gray, 3, true);
+        QTest::newRow("heic") << ImageFiles::heif(gray, false);
+        QTest::newRow("avif") << ImageFiles::heif(gray, true);
         QTest::newRow("jxl") << ImageFiles::jxl(gray);
         QTest::newRow("jp2") << ImageFiles::jpeg2000(gray, true);
     }
