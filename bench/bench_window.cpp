@@ -1,7 +1,8 @@
 // The window against Qt's own: painting while a list of 50,000 photos scrolls (off screen), and the time from start to
 // the first picture with a folder of 1,000 photos given, against a program that shows an empty Qt Widgets window. Both
-// programs are started in turn, on an X server of their own when there is one to start, and off screen: without a
-// window system the empty window costs next to nothing, so that bound is for the former.
+// programs are started in turn: on an X server of their own when there is one to start, with the session bus that every
+// desktop has and without one, and off screen. Without a window system the empty window costs next to nothing, so that
+// the bound is for the former.
 #include "app/AppModel.h"
 #include "app/ThumbnailStore.h"
 #include "tests/support/Support.h"
@@ -177,12 +178,43 @@ QProcessEnvironment environmentIn(const QTemporaryDir& home)
     return environment;
 }
 
-void benchStartOn(const QString& platform, const QString& display, const QString& photos)
+/// Starts a server that says its address in its first line, and ends with this object. The address is empty when there
+/// is no such server.
+class Server {
+public:
+    Server(const QString& program, const QStringList& arguments)
+    {
+        m_process.start(program, arguments);
+        if (m_process.waitForStarted() && m_process.waitForReadyRead(10'000))
+            m_address = QString::fromLatin1(m_process.readLine().trimmed());
+    }
+    ~Server()
+    {
+        m_process.terminate();
+        m_process.waitForFinished();
+    }
+    Q_DISABLE_COPY_MOVE(Server)
+    const QString& address() const { return m_address; }
+
+private:
+    QProcess m_process;
+    QString m_address;
+};
+
+struct Desktop {
+    const char* name;
+    QString platform;
+    QString display;
+    QString bus;  ///< the address of the session bus
+};
+
+void benchStartOn(const Desktop& desktop, const QString& photos)
 {
     const QTemporaryDir home;
     QProcessEnvironment environment = environmentIn(home);
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
-    environment.insert(QStringLiteral("DISPLAY"), display);
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), desktop.platform);
+    environment.insert(QStringLiteral("DISPLAY"), desktop.display);
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), desktop.bus);
     const QString here = QCoreApplication::applicationDirPath();
     startTime(here + QStringLiteral("/quorbel"), { photos }, environment);  // once to warm up
     QList<double> ours;
@@ -195,7 +227,7 @@ void benchStartOn(const QString& platform, const QString& display, const QString
     std::sort(empty.begin(), empty.end());
     std::printf("start to first picture on %s, 1,000 photos given, median of %d: %.0f ms, an empty window %.0f ms, "
                 "ratio %.2f; quickest: %.0f ms, %.0f ms, ratio %.2f (bound 1.5)\n",
-        qPrintable(platform), starts, median(ours), median(empty), median(ours) / median(empty), ours.first(),
+        desktop.name, starts, median(ours), median(empty), median(ours) / median(empty), ours.first(),
         empty.first(), ours.first() / empty.first());
     std::fflush(stdout);
 }
@@ -205,19 +237,22 @@ void benchStart()
     const Test::PhotoFolder photos;
     for (int i = 0; i < startPhotos; ++i)
         photos.add(QStringLiteral("IMG_%1.jpg").arg(i, 4, 10, QLatin1Char('0')));
-    QProcess server;
-    server.start(QStringLiteral("Xvfb"),
+    const Server bus(QStringLiteral("dbus-daemon"),
+        { QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address") });
+    const Server windows(QStringLiteral("Xvfb"),
         { QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
             QStringLiteral("1600x1000x24") });
-    if (server.waitForStarted() && server.waitForReadyRead(10'000)) {
-        const QString display = QLatin1Char(':') + QString::fromLatin1(server.readLine().trimmed());
-        benchStartOn(QStringLiteral("xcb"), display, photos.path());
-        server.terminate();
-        server.waitForFinished();
-    } else {
+    const QString noBus = QStringLiteral("disabled:");
+    const QString xcb = QStringLiteral("xcb");
+    const QString display = QLatin1Char(':') + windows.address();
+    if (windows.address().isEmpty()) {
         std::printf("start on xcb: not measured, no Xvfb\n");
+    } else {
+        if (!bus.address().isEmpty())
+            benchStartOn({ "xcb with a session bus", xcb, display, bus.address() }, photos.path());
+        benchStartOn({ "xcb without a session bus", xcb, display, noBus }, photos.path());
     }
-    benchStartOn(QStringLiteral("offscreen"), {}, photos.path());
+    benchStartOn({ "offscreen", QStringLiteral("offscreen"), {}, noBus }, photos.path());
 }
 
 }  // namespace

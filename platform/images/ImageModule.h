@@ -15,9 +15,9 @@ struct ImageModule {
     bool (*hasOrientation)(const QByteArray& bytes);
     QImage (*embeddedThumbnail)(const QString& path, const std::stop_token& cancel);
 
-    /// The module beside the program (<prefix>/lib/quorbel, seen from <prefix>/bin), loaded at the first call. When
-    /// it is missing, or belongs to another version because the program was just replaced, that is logged once and
-    /// the functions find everything unsupported: photos are edited as before, without pictures.
+    /// The module beside the program (<prefix>/lib/quorbel/modules, seen from <prefix>/bin), loaded at the first call.
+    /// When it is missing, or belongs to another version because the program was just replaced, that is logged once
+    /// and the functions find everything unsupported: photos are edited as before, without pictures.
     static const ImageModule& loaded();
     /// The module in this file, or one that finds everything unsupported.
     static ImageModule load(const QString& file);

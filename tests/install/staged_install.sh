@@ -10,7 +10,7 @@ prefix=$stage/prefix
 cmake --install "$build" --strip --prefix "$prefix" >/dev/null
 
 fail() { echo "FAIL: $*"; exit 1; }
-for file in bin/quorbel lib/quorbel/quorbel-images.so share/quorbel/exiftool/exiftool share/applications/app.quorbel.Quorbel.desktop \
+for file in bin/quorbel lib/quorbel/modules/quorbel-images.so share/quorbel/exiftool/exiftool share/applications/app.quorbel.Quorbel.desktop \
     share/metainfo/app.quorbel.Quorbel.metainfo.xml share/icons/hicolor/scalable/apps/app.quorbel.Quorbel.svg \
     share/doc/quorbel/copyright share/man/man1/quorbel.1.gz; do
     [ -e "$prefix/$file" ] || fail "$file is not installed"
