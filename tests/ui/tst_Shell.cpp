@@ -36,6 +36,7 @@ private slots:
     void filesFromACommandLine_data();
     void filesFromACommandLine();
     void settingsShowAndWritePreferences();
+    void onlySecureAddressesOfAPlaceServiceAreKept();
     void helpNamesThisPlatformsKeys();
     void noticesAnswer();
     void openPanelTakesFoldersAndFiles();
@@ -235,6 +236,32 @@ void tst_Shell::settingsShowAndWritePreferences()
     QCOMPARE(model->colorOverride(), ColorScheme::dark);
     model->setColorOverride(std::nullopt);
     QCOMPARE(appearance->currentIndex(), 0);
+}
+
+void tst_Shell::onlySecureAddressesOfAPlaceServiceAreKept()
+{
+    ModelFixture model(std::nullopt);
+    SettingsView view(*model.model);
+    auto* field = view.findChildren<QBTextField*>().last();
+    QCOMPARE(field->placeholderText(), QStringLiteral("https://…"));
+    const auto enter = [field](const QString& text) {
+        field->selectAll();
+        field->insert(text);
+        emit field->textEdited(field->text());
+    };
+    enter(QStringLiteral(" https://places.example/api "));
+    QCOMPARE(model->placeService(), QStringLiteral("https://places.example/api"));
+    QVERIFY(field->toolTip().isEmpty());
+    for (const QString& address : { QStringLiteral("http://places.example"), QStringLiteral("places.example"),
+             QStringLiteral("file:///etc/passwd"), QStringLiteral("https://") }) {
+        enter(address);
+        QCOMPARE(model->placeService(), QStringLiteral("https://places.example/api"));
+        QCOMPARE(field->text(), address);
+        QVERIFY2(!field->toolTip().isEmpty(), qPrintable(address));
+    }
+    enter(QString());
+    QVERIFY(model->placeService().isEmpty());
+    QVERIFY(field->toolTip().isEmpty());
 }
 
 void tst_Shell::helpNamesThisPlatformsKeys()
