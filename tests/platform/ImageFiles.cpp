@@ -112,13 +112,13 @@ QByteArray written(const QImage& image, const char* format, int quality, bool pr
     return bytes;
 }
 
-QByteArray heif(const QImage& image, bool av1, int thumbnail)
+QByteArray heif(const QImage& image, bool av1, int thumbnail, int quality)
 {
     const QImage rgb = image.convertToFormat(QImage::Format_RGB888);
     heif_context* context = heif_context_alloc();
     heif_encoder* encoder = nullptr;
     heif_context_get_encoder_for_format(context, av1 ? heif_compression_AV1 : heif_compression_HEVC, &encoder);
-    heif_encoder_set_lossy_quality(encoder, 90);
+    heif_encoder_set_lossy_quality(encoder, quality);
     heif_encoder_set_parameter(encoder, av1 ? "speed" : "preset", av1 ? "9" : "ultrafast");
     heif_image* pixels = nullptr;
     heif_image_create(rgb.width(), rgb.height(), heif_colorspace_RGB, heif_chroma_interleaved_RGB, &pixels);

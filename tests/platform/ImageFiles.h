@@ -12,7 +12,7 @@ QImage quarters(QSize size, QImage::Format format = QImage::Format_RGB32);
 /// Through Qt's writers: "jpg", "png", "webp", "tiff".
 QByteArray written(const QImage& image, const char* format, int quality = 95, bool progressive = false);
 /// HEVC or AV1 in a HEIF container; `thumbnail` > 0 adds one of that long side.
-QByteArray heif(const QImage& image, bool av1, int thumbnail = 0);
+QByteArray heif(const QImage& image, bool av1, int thumbnail = 0, int quality = 90);
 QByteArray jxl(const QImage& image);
 /// `boxed`: a JP2 file; otherwise the bare codestream.
 QByteArray jpeg2000(const QImage& image, bool boxed);
