@@ -1,5 +1,5 @@
 // The preview inside a raw file that no library here reads, taken out by ExifTool.
-// Thread: any; blocks for up to three runs of the tool, some tenths of a second each.
+// Thread: any; blocks for one run of the tool, some tenths of a second.
 #pragma once
 
 #include "core/ExifToolRunner.h"
@@ -8,7 +8,8 @@
 
 namespace Quorbel {
 
-/// Upright, sRGB, its long side at most `longSide` pixels; null when the file holds no preview that can be decoded,
+/// The first of its previews that is large enough, else the largest: upright, sRGB, its long side at most `longSide`
+/// pixels; null when the file holds no preview that can be decoded,
 /// when the tool fails, or when stopped.
 QImage rawPreview(const ExifToolRunner& tool, const QString& path, int longSide, const std::stop_token& stop);
 

@@ -379,29 +379,43 @@ void ThumbnailStore::finish(const Key& key, qint64 ticket, const Outcome& outcom
         dispatch();  // dropped, or asked for anew since: nobody waits for this one
         return;
     }
-    bool changed = true;
+    QList<Key> changed{ key };
     if (found->step == Step::look && !outcome.final) {
-        changed = !outcome.image.isNull() && !cache(key.kind).contains(key.url);
-        if (changed)
+        if (outcome.image.isNull() || cache(key.kind).contains(key.url))
+            changed.clear();
+        else
             keep(key, outcome.image, false);
         found->step = Step::decode;
         enqueue(key, *found);
     } else if (outcome.needsTool) {
         found->step = Step::tool;
         enqueue(key, *found);
-        changed = false;
+        changed.clear();
     } else {
         m_jobs.erase(found);
-        if (outcome.image.isNull()) {
-            cache(key.kind).remove(key.url);
-            m_badges.insert(key);
-        } else {
+        if (outcome.image.isNull())
+            changed = refuse(key, outcome.fromTool);
+        else
             keep(key, outcome.image, true);
-        }
     }
     dispatch();
-    if (changed)
-        emit entryChanged(key.url, key.kind);
+    for (const Key& one : std::as_const(changed))
+        emit entryChanged(one.url, one.kind);
+}
+
+/// Leaves a badge and returns what changed. What even the tool finds no picture in has none of the other size: a run
+/// for that one would be the same again.
+QList<ThumbnailStore::Key> ThumbnailStore::refuse(const Key& key, bool byTool)
+{
+    const Key other{ key.url, key.kind == Kind::small ? Kind::preview : Kind::small };
+    const QList<Key> refused =
+        byTool && entry(other.url, other.kind).state != State::ready ? QList<Key>{ key, other } : QList<Key>{ key };
+    for (const Key& one : refused) {
+        drop(one);
+        cache(one.kind).remove(one.url);
+        m_badges.insert(one);
+    }
+    return refused;
 }
 
 void ThumbnailStore::keep(const Key& key, const QImage& image, bool final)

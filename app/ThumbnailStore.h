@@ -139,6 +139,7 @@ private:
     void start(const Key& key, const Job& job);
     void finish(const Key& key, qint64 ticket, const Outcome& outcome);
     void keep(const Key& key, const QImage& image, bool final);
+    QList<Key> refuse(const Key& key, bool byTool);
 
     ThumbnailStoreOptions m_options;
     std::shared_ptr<const Workshop> m_workshop;

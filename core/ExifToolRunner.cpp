@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QUtf8StringView>
 
@@ -229,10 +230,27 @@ QString ExifToolRunner::write(
     return run(arguments);
 }
 
-QByteArray ExifToolRunner::readBinary(const QString& tag, const QUrl& file, const std::stop_token& stop) const
+QMap<QString, QByteArray> ExifToolRunner::readBinary(
+    const QStringList& tags, const QUrl& file, const std::stop_token& stop) const
 {
-    return runForBytes(
-        { QStringLiteral("-b"), u'-' + tag, file.toLocalFile() }, {}, { .progress = {}, .stop = stop, .started = {} });
+    constexpr qsizetype mostOutput = 200LL * 1024 * 1024;  // a third of it is the encoding's
+    const QByteArray prefix = "base64:";
+    std::stop_source end;
+    const std::stop_callback forward(stop, [&end] { end.request_stop(); });
+    const OutputWatch watch = [&end](const QByteArray& output) {
+        if (output.size() > mostOutput)
+            end.request_stop();
+    };
+    const QStringList selection{ QStringLiteral("-json"), QStringLiteral("-b"), QStringLiteral("-n") };
+    const QByteArray output = runForBytes(
+        selection + options(tags) + paths({ file }), watch, { .progress = {}, .stop = end.get_token(), .started = {} });
+    const QJsonObject object = QJsonDocument::fromJson(output).array().at(0).toObject();
+    QMap<QString, QByteArray> found;
+    for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
+        const QByteArray value = it.value().toVariant().toString().toUtf8();
+        found.insert(it.key(), value.startsWith(prefix) ? QByteArray::fromBase64(value.sliced(prefix.size())) : value);
+    }
+    return found;
 }
 
 QString ExifToolRunner::version() const

@@ -51,8 +51,10 @@ struct ExifToolRunner {
     /// LaunchError.
     QString write(const QStringList& args, const QList<QUrl>& files, bool backup,
         const std::optional<QUrl>& configPath = std::nullopt) const;
-    /// The bytes of one binary tag ("PreviewImage") of one file; empty when the file holds none. Throws like read().
-    QByteArray readBinary(const QString& tag, const QUrl& file, const std::stop_token& stop = {}) const;
+    /// Those of the tags that one file holds, by their bare names ("PreviewImage"): the bytes of binary ones, the
+    /// stored number or text of others. Throws like read(); CancelledError also when they come to some 150 MiB.
+    QMap<QString, QByteArray> readBinary(
+        const QStringList& tags, const QUrl& file, const std::stop_token& stop = {}) const;
     /// The tool's version, trimmed.
     QString version() const;
 

@@ -311,30 +311,37 @@ private slots:
         QVERIFY(!(QFile::permissions(options.cacheFolder) & others));
     }
 
-    /// What the libraries refuse is asked of the tool: tag by tag, one file after the other, last in the queue, once
-    /// for both sizes.
+    /// What the libraries refuse is asked of the tool: in one run for both sizes, one file after the other, last in
+    /// the queue. A file in which it finds nothing is left alone from then on.
     void rawPreviewComesFromTheTool()
     {
         QTemporaryDir folder;
         const auto path = [&](const char* name) { return folder.filePath(QString::fromLatin1(name)); };
-        QVERIFY(picture(QSize(600, 400), Qt::red).image.save(path("preview.jpg")));
+        const auto url = [&](const char* name) { return QUrl::fromLocalFile(path(name)); };
         const auto write = [](const QString& file, const QByteArray& bytes) {
             QFile out(file);
             return out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size();
         };
+        QVERIFY(picture(QSize(60, 40), Qt::red).image.save(path("small.jpg")));
+        QVERIFY(picture(QSize(600, 400), Qt::red).image.save(path("large.jpg")));
         QVERIFY(write(path("tool"), R"(
+            use MIME::Base64;
             my $folder = $0 =~ s{/[^/]*$}{}r;
-            open my $log, '>>', "$folder/log"; print $log join(' ', @ARGV[0 .. $#ARGV - 1]), "\n"; close $log;
-            if ($ARGV[0] eq '-json') { print '[{"SourceFile": "a", "EXIF:Orientation": "Rotate 90 CW"}]'; exit }
-            exit 1 if $ARGV[1] ne '-JpgFromRaw';
-            open my $preview, '<:raw', "$folder/preview.jpg"; binmode STDOUT; print <$preview>;
+            my $name = $ARGV[-1] =~ s{.+/}{}r;
+            my $note = sub { open my $log, '>>', "$folder/log"; print $log @_; close $log };
+            my $value = sub { open my $in, '<:raw', "$folder/$_[0]"; local $/; 'base64:' . encode_base64(<$in>, '') };
+            $note->("begins $name: ", join(' ', @ARGV[0 .. $#ARGV - 1]), "\n");
+            if ($name eq 'none.cr3') { print '[{"ThumbnailImage": "no picture"}]' }
+            else { printf '[{"PreviewImage": "%s", "JpgFromRaw": "%s", "Orientation": 6}]',
+                $value->('small.jpg'), $value->('large.jpg') }
+            $note->("ends $name\n");
         )"));
-        for (const char* name : { "a.cr3", "b.jpg", "c.cr3" })
+        for (const char* name : { "a.cr3", "b.jpg", "c.cr3", "none.cr3" })
             QVERIFY(write(path(name), "bytes"));
         FakeDecoder fake;
         ThumbnailStoreOptions options = fake.options();
         options.cacheFolder = path("cache");
-        options.tool = ExifToolRunner{ QUrl::fromLocalFile(path("tool")), QUrl::fromLocalFile(u"/usr/bin/perl"_s) };
+        options.tool = ExifToolRunner{ url("tool"), QUrl::fromLocalFile(u"/usr/bin/perl"_s) };
         const auto decode = options.decode;
         options.decode = [decode](const QString& file, int longSide, const std::stop_token& stop) {
             return file.endsWith(u".cr3") ? DecodedImage{ DecodedImage::Outcome::needsTool, {} }
@@ -342,20 +349,26 @@ private slots:
         };
         ThumbnailStore store(options);
         QList<QUrl> finished;
-        connect(&store, &ThumbnailStore::entryChanged, this, [&](const QUrl& url) { finished.append(url); });
-        const QUrl raw = QUrl::fromLocalFile(path("a.cr3")), other = QUrl::fromLocalFile(path("b.jpg"));
-        store.request(QUrl::fromLocalFile(path("c.cr3")), Kind::preview);
-        store.request(other, Kind::small);
-        store.request(raw, Kind::preview);
-        store.request(raw, Kind::small);
-        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 4, longest);
-        QCOMPARE(finished.first(), other);
-        QCOMPARE(store.entry(raw, Kind::preview).image.size(), QSize(400, 600));
-        QCOMPARE(store.entry(raw, Kind::small).image.size(), QSize(60, 90));
+        connect(&store, &ThumbnailStore::entryChanged, this, [&](const QUrl& changed) { finished.append(changed); });
+        store.request(url("none.cr3"), Kind::preview);
+        store.request(url("none.cr3"), Kind::small);
+        store.request(url("c.cr3"), Kind::preview);
+        store.request(url("b.jpg"), Kind::small);
+        store.request(url("a.cr3"), Kind::preview);
+        store.request(url("a.cr3"), Kind::small);
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 6, longest);
+        QCOMPARE(finished.first(), url("b.jpg"));
+        QCOMPARE(store.entry(url("a.cr3"), Kind::preview).image.size(), QSize(400, 600));
+        QCOMPARE(store.entry(url("a.cr3"), Kind::small).image.size(), QSize(60, 90));
+        QCOMPARE(store.request(url("none.cr3"), Kind::preview).state, State::badge);
+        QCOMPARE(store.request(url("none.cr3"), Kind::small).state, State::badge);
         QFile log(path("log"));
         QVERIFY(log.open(QIODevice::ReadOnly));
-        const QByteArray once = "-b -PreviewImage\n-b -JpgFromRaw\n-json -G0 -struct -c %.6f -EXIF:Orientation\n";
-        QCOMPARE(log.readAll(), once.repeated(2));
+        const QByteArray selection = "-json -b -n -PreviewImage -JpgFromRaw -ThumbnailImage -EXIF:Orientation";
+        QByteArray expected;
+        for (const char* name : { "a.cr3", "c.cr3", "none.cr3" })
+            expected += QByteArray("begins ") + name + ": " + selection + "\nends " + name + '\n';
+        QCOMPARE(log.readAll(), expected);
     }
 
     void destroyedStoreEndsItsWork()

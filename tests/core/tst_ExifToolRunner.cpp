@@ -110,7 +110,7 @@ private slots:
         runner.write({ QStringLiteral("-A=$x y"), QStringLiteral("-B=") }, photos, false);
         runner.write({ QStringLiteral("-A=1") }, { odd }, true, config);
         runner.write({ QStringLiteral("-A=1") }, { odd }, false, config);
-        runner.readBinary(QStringLiteral("PreviewImage"), odd);
+        runner.readBinary({ QStringLiteral("PreviewImage"), QStringLiteral("EXIF:Orientation") }, odd);
         // None of these starts the tool.
         runner.write({}, photos, false);
         runner.write({ QStringLiteral("-A=1") }, {}, false);
@@ -122,7 +122,7 @@ private slots:
             { "-overwrite_original", "-m", "-A=$x y", "-B=", oddPath, zero },
             { "-config", "/dev/null", "-m", "-A=1", oddPath },
             { "-config", "/dev/null", "-overwrite_original", "-m", "-A=1", oddPath },
-            { "-b", "-PreviewImage", oddPath },
+            { "-json", "-b", "-n", "-PreviewImage", "-EXIF:Orientation", oddPath },
         };
         QCOMPARE(tool.calls(), expected);
     }
@@ -210,11 +210,13 @@ private slots:
         FakeTool tool;
         tool.answer(1, { .standardOutput = "12.57\n" });
         tool.answer(2, { .standardOutput = "    1 image files updated\n" });
-        tool.answer(3, { .standardOutput = QByteArray("\xFF\xD8\0\n", 4) });
+        tool.answer(3, { .standardOutput = R"([{"SourceFile": "a", "T": "base64:/9gACg==", "U": 6}])" });
         QCOMPARE(tool.runner().version(), QStringLiteral("12.57"));
         QCOMPARE(tool.runner().write({ QStringLiteral("-T=") }, files(1), true),
             QStringLiteral("    1 image files updated\n"));
-        QCOMPARE(tool.runner().readBinary(QStringLiteral("T"), files(1).first()), QByteArray("\xFF\xD8\0\n", 4));
+        const auto found = tool.runner().readBinary({ QStringLiteral("T"), QStringLiteral("U") }, files(1).first());
+        QCOMPARE(found.value(QStringLiteral("T")), QByteArray("\xFF\xD8\0\n", 4));
+        QCOMPARE(found.value(QStringLiteral("U")), QByteArray("6"));
     }
 
     void muchOnBothPipes()
