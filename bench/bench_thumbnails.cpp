@@ -179,7 +179,10 @@ private:
         return ImageFiles::withExif(ImageFiles::written(image, "jpg", 90), exif);
     }
     /// A phone spends about a bit on a pixel.
-    static QByteArray heicWithThumbnail(const QImage& image) { return ImageFiles::heif(image, false, 320, 50); }
+    static QByteArray heicWithThumbnail(const QImage& image)
+    {
+        return ImageFiles::heif(image, false, { .thumbnail = 320, .quality = 50 });
+    }
     static QByteArray avif(const QImage& image) { return ImageFiles::heif(image, true); }
     static QByteArray jxl(const QImage& image) { return ImageFiles::jxl(image); }
     static QByteArray png(const QImage& image) { return ImageFiles::written(image, "png", 50); }

@@ -47,6 +47,12 @@ QSize sensorSize(const LibRaw& raw)
     return { raw.imgdata.sizes.width, raw.imgdata.sizes.height };
 }
 
+/// With the margins that are masked or cut off: what developing has to hold.
+QSize wholeSensorSize(const LibRaw& raw)
+{
+    return sensorSize(raw).expandedTo({ raw.imgdata.sizes.raw_width, raw.imgdata.sizes.raw_height });
+}
+
 /// Some cameras store the preview upright already: then it stands while the sensor lies.
 int previewOrientation(QSize preview, const LibRaw& raw)
 {
@@ -124,9 +130,12 @@ DecodedFrame developed(LibRaw& raw)
     return frame;
 }
 
-bool isLargeEnough(const DecodedFrame& frame, int longSide)
+/// As large as asked, or as what developing would give.
+bool isLargeEnough(const DecodedFrame& frame, int longSide, QSize sensor)
 {
-    return frame.outcome == Outcome::decoded && qMax(frame.image.width(), frame.image.height()) >= longSide;
+    const int developedSide = qMax(sensor.width(), sensor.height()) / 2;
+    return frame.outcome == Outcome::decoded
+        && qMax(frame.image.width(), frame.image.height()) >= qMin(longSide, developedSide);
 }
 
 }  // namespace
@@ -145,9 +154,9 @@ DecodedFrame RawFormat::decode(const DecodeSource& source)
     raw->imgdata.params.max_raw_memory_mb = mostMegabytes;
     if (raw->open_file(QFile::encodeName(source.path).constData()) != LIBRAW_SUCCESS)
         return refused;
-    const QSize sensor = sensorSize(*raw);
+    const QSize sensor = wholeSensorSize(*raw);
     const DecodedFrame preview = previewOf(*raw, source);
-    if (isLargeEnough(preview, source.longSide))
+    if (isLargeEnough(preview, source.longSide, sensorSize(*raw)))
         return preview;
     if (sensor.isEmpty() || !HeaderGate::allows(sensor, true) || cancel.stop_requested())
         return preview.outcome == Outcome::decoded ? preview : refused;

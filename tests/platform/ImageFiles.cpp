@@ -85,6 +85,20 @@ QByteArray lzwCoded(const QByteArray& bytes)
     return out + char(bits << (8 - held) & 0xFF);
 }
 
+/// The pixels as the library takes them.
+heif_image* heifImage(const QImage& image)
+{
+    const QImage rgb = image.convertToFormat(QImage::Format_RGB888);
+    heif_image* pixels = nullptr;
+    heif_image_create(rgb.width(), rgb.height(), heif_colorspace_RGB, heif_chroma_interleaved_RGB, &pixels);
+    heif_image_add_plane(pixels, heif_channel_interleaved, rgb.width(), rgb.height(), 8);
+    int stride = 0;
+    uint8_t* plane = heif_image_get_plane(pixels, heif_channel_interleaved, &stride);
+    for (int y = 0; y < rgb.height(); ++y)
+        memcpy(plane + qsizetype(y) * stride, rgb.constScanLine(y), size_t(rgb.width()) * 3);
+    return pixels;
+}
+
 }  // namespace
 
 QImage quarters(QSize size, QImage::Format format)
@@ -112,25 +126,20 @@ QByteArray written(const QImage& image, const char* format, int quality, bool pr
     return bytes;
 }
 
-QByteArray heif(const QImage& image, bool av1, int thumbnail, int quality)
+QByteArray heif(const QImage& image, bool av1, const HeifExtras& extras)
 {
-    const QImage rgb = image.convertToFormat(QImage::Format_RGB888);
     heif_context* context = heif_context_alloc();
     heif_encoder* encoder = nullptr;
     heif_context_get_encoder_for_format(context, av1 ? heif_compression_AV1 : heif_compression_HEVC, &encoder);
-    heif_encoder_set_lossy_quality(encoder, quality);
+    heif_encoder_set_lossy_quality(encoder, extras.quality);
     heif_encoder_set_parameter(encoder, av1 ? "speed" : "preset", av1 ? "9" : "ultrafast");
-    heif_image* pixels = nullptr;
-    heif_image_create(rgb.width(), rgb.height(), heif_colorspace_RGB, heif_chroma_interleaved_RGB, &pixels);
-    heif_image_add_plane(pixels, heif_channel_interleaved, rgb.width(), rgb.height(), 8);
-    int stride = 0;
-    uint8_t* plane = heif_image_get_plane(pixels, heif_channel_interleaved, &stride);
-    for (int y = 0; y < rgb.height(); ++y)
-        memcpy(plane + qsizetype(y) * stride, rgb.constScanLine(y), size_t(rgb.width()) * 3);
-    heif_image_handle *primary = nullptr, *small = nullptr;
+    heif_image *pixels = heifImage(image), *small = heifImage(extras.thumbnailOf.isNull() ? image : extras.thumbnailOf);
+    if (!extras.icc.isEmpty())
+        heif_image_set_raw_color_profile(pixels, "prof", extras.icc.constData(), size_t(extras.icc.size()));
+    heif_image_handle *primary = nullptr, *thumbnail = nullptr;
     heif_context_encode_image(context, pixels, encoder, nullptr, &primary);
-    if (thumbnail > 0)
-        heif_context_encode_thumbnail(context, pixels, primary, encoder, nullptr, thumbnail, &small);
+    if (extras.thumbnail > 0)
+        heif_context_encode_thumbnail(context, small, primary, encoder, nullptr, extras.thumbnail, &thumbnail);
     QByteArray bytes;
     heif_writer writer{ .writer_api_version = 1,
         .write = [](heif_context*, const void* data, size_t size, void* to) -> heif_error {
@@ -138,15 +147,16 @@ QByteArray heif(const QImage& image, bool av1, int thumbnail, int quality)
             return { heif_error_Ok, heif_suberror_Unspecified, "" };
         } };
     heif_context_write(context, &writer, &bytes);
-    heif_image_handle_release(small);
+    heif_image_handle_release(thumbnail);
     heif_image_handle_release(primary);
+    heif_image_release(small);
     heif_image_release(pixels);
     heif_encoder_release(encoder);
     heif_context_free(context);
     return bytes;
 }
 
-QByteArray jxl(const QImage& image)
+QByteArray jxl(const QImage& image, const QByteArray& icc)
 {
     const bool alpha = image.hasAlphaChannel();
     const QImage rgba = image.convertToFormat(alpha ? QImage::Format_RGBA8888 : QImage::Format_RGBX8888);
@@ -161,7 +171,10 @@ QByteArray jxl(const QImage& image)
     JxlEncoderSetBasicInfo(encoder.get(), &info);
     JxlColorEncoding colour{};
     JxlColorEncodingSetToSRGB(&colour, JXL_FALSE);
-    JxlEncoderSetColorEncoding(encoder.get(), &colour);
+    if (icc.isEmpty())
+        JxlEncoderSetColorEncoding(encoder.get(), &colour);
+    else
+        JxlEncoderSetICCProfile(encoder.get(), reinterpret_cast<const uint8_t*>(icc.constData()), size_t(icc.size()));
     const JxlPixelFormat layout{ 4, JXL_TYPE_UINT8, JXL_NATIVE_ENDIAN, 0 };
     JxlEncoderFrameSettings* settings = JxlEncoderFrameSettingsCreate(encoder.get(), nullptr);
     JxlEncoderFrameSettingsSetOption(settings, JXL_ENC_FRAME_SETTING_EFFORT, 3);
@@ -175,7 +188,7 @@ QByteArray jxl(const QImage& image)
     return bytes;
 }
 
-QByteArray jpeg2000(const QImage& image, bool boxed)
+QByteArray jpeg2000(const QImage& image, bool boxed, const QByteArray& icc)
 {
     const QTemporaryDir folder;
     const QByteArray path = folder.filePath(u"image.jp2"_s).toLocal8Bit();
@@ -217,10 +230,19 @@ QByteArray jpeg2000(const QImage& image, bool boxed)
     opj_destroy_codec(codec);
     opj_image_destroy(planes);
     QFile file(QString::fromLocal8Bit(path));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const qsizetype headerAt = bytes.indexOf("jp2h") - 4, colourAt = bytes.indexOf("colr") - 4;
+    if (icc.isEmpty() || headerAt < 0 || colourAt < 0)
+        return bytes;
+    // The encoder knows the box of colours only with an enumerated space.
+    const QByteArray box = big<quint32>(quint32(icc.size()) + 11) + "colr" + QByteArray("\2\0\0", 3) + icc;
+    const auto before = qFromBigEndian<quint32>(bytes.constData() + colourAt);
+    const auto header = qFromBigEndian<quint32>(bytes.constData() + headerAt);
+    bytes.replace(colourAt, before, box);
+    return bytes.replace(headerAt, 4, big<quint32>(header - before + quint32(box.size())));
 }
 
-QByteArray psd(const QImage& image, int mode, bool packed, bool large, int depth)
+QByteArray psd(const QImage& image, int mode, bool packed, bool large, int depth, const QByteArray& icc)
 {
     const int channels = mode == 4 ? 4 : mode == 1 ? 1 : 3;
     const auto sample = [&](int channel, int x, int y) {
@@ -241,10 +263,14 @@ QByteArray psd(const QImage& image, int mode, bool packed, bool large, int depth
             lengths += large ? big<quint32>(quint32(row.size())) : big<quint16>(quint16(row.size()));
         }
     }
+    const QByteArray resources = icc.isEmpty() ? QByteArray()
+                                               : "8BIM" + big<quint16>(1039) + big<quint16>(0)
+            + big<quint32>(quint32(icc.size())) + icc + QByteArray(icc.size() % 2, '\0');
     return "8BPS" + big<quint16>(large ? 2 : 1) + QByteArray(6, '\0') + big<quint16>(quint16(channels))
         + big<quint32>(quint32(image.height())) + big<quint32>(quint32(image.width())) + big<quint16>(quint16(depth))
-        + big<quint16>(quint16(mode)) + big<quint32>(0) + big<quint32>(0) + (large ? big<quint64>(0) : big<quint32>(0))
-        + big<quint16>(packed ? 1 : 0) + (packed ? lengths : QByteArray()) + rows;
+        + big<quint16>(quint16(mode)) + big<quint32>(0) + big<quint32>(quint32(resources.size())) + resources
+        + (large ? big<quint64>(0) : big<quint32>(0)) + big<quint16>(packed ? 1 : 0) + (packed ? lengths : QByteArray())
+        + rows;
 }
 
 QByteArray gif(const QImage& image)
@@ -416,6 +442,74 @@ QByteArray pngWithChunk(const QByteArray& png, const QByteArray& type, const QBy
         + png.sliced(afterHeader);
 }
 
+QByteArray webpWithExif(QByteArray webp, const QByteArray& exif)
+{
+    constexpr qsizetype flagsAt = 20;
+    constexpr char hasExif = 0x08;
+    webp[flagsAt] = char(webp[flagsAt] | hasExif);
+    webp += "EXIF" + little(quint32(exif.size())) + exif + QByteArray(exif.size() % 2, '\0');
+    return webp.replace(4, 4, little(quint32(webp.size() - 8)));
+}
+
+QByteArray tiffTurned(QByteArray tiff, int orientation)
+{
+    const QByteArray entry = little<quint16>(274) + little<quint16>(3) + little<quint32>(1);
+    const qsizetype at = tiff.indexOf(entry);
+    return at < 0 ? QByteArray() : tiff.replace(at + entry.size(), 2, little(quint16(orientation)));
+}
+
+QByteArray dng(const QImage& image, const QByteArray& preview, QSize claimed)
+{
+    QByteArray directories, blobs, sensor;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            const std::array parts{ qRed(pixel), qGreen(pixel), qBlue(pixel) };
+            sensor += little(quint16(parts[size_t(x % 2 + y % 2)] * 257));
+        }
+    constexpr quint32 firstAt = 8, blobsAt = 1024;
+    const auto kept = [&](const QByteArray& bytes) {
+        const auto at = blobsAt + quint32(blobs.size());
+        blobs += bytes + QByteArray(bytes.size() % 2, '\0');
+        return at;
+    };
+    int entries = 0;
+    const auto entry = [&](quint16 tag, quint16 type, quint32 count, quint32 value) {
+        directories += little(tag) + little(type) + little(count) + little(value);
+        ++entries;
+    };
+    const auto frame = [&](QSize size, quint32 bits, quint32 compression, quint32 photometric, const QByteArray& data,
+                           quint32 samples) {
+        entry(256, 4, 1, quint32(size.width()));
+        entry(257, 4, 1, quint32(size.height()));
+        entry(258, 3, samples, samples == 1 ? bits : kept(little(quint16(bits)).repeated(samples)));
+        entry(259, 3, 1, compression);
+        entry(262, 3, 1, photometric);
+        entry(273, 4, 1, kept(data));
+        entry(277, 3, 1, samples);
+        entry(278, 4, 1, quint32(size.height()));
+        entry(279, 4, 1, quint32(data.size()));
+    };
+    const auto closed = [&] {
+        const QByteArray directory = little(quint16(entries)) + directories + little(quint32(0));
+        directories.clear();
+        entries = 0;
+        return directory;
+    };
+    entry(254, 4, 1, 0);
+    frame(claimed.isValid() ? claimed : image.size(), 16, 1, 32803, sensor, 1);
+    entry(33421, 3, 2, 2 | 2 << 16);
+    entry(33422, 1, 4, 0 | 1 << 8 | 1 << 16 | 2 << 24);
+    const quint32 sensorAt = kept(closed());
+    entry(254, 4, 1, 1);
+    if (!preview.isEmpty())
+        frame(image.size(), 8, 7, 6, preview, 3);
+    entry(330, 4, 1, sensorAt);
+    entry(50706, 1, 4, 1 | 4 << 8);
+    entry(50708, 2, 5, kept(QByteArray("Made\0", 5)));
+    return QByteArray("II*\0", 4) + little(firstAt) + closed().leftJustified(blobsAt - firstAt, '\0') + blobs;
+}
+
 QByteArray bomb(const QByteArray& format)
 {
     const QByteArray jpegStart("\xff\xd8\xff\xe0\x00\x10JFIF\0\1\1\0\0\1\0\1\0\0", 20);
@@ -464,6 +558,10 @@ QByteArray bomb(const QByteArray& format)
             + QByteArray("\0\3\7\1\1\7\1\1\7\1\1", 11) + QByteArray(64, '\0');
     if (format == "jxl")  // a bare codestream whose size header holds two 30-bit numbers of ones
         return QByteArray("\xff\x0a\xfe\xff\xff\xff\xf1\xff\xff\xff\x0f\x50", 12) + QByteArray(64, '\0');
+    if (format == "dng")
+        return dng(quarters({ 64, 48 }), {}, { 60000, 60000 });
+    if (format == "embedded thumbnail")
+        return withExif(written(quarters({ 64, 48 }), "jpg"), exifBlock(1, bomb("progressive jpg")));
     QByteArray file = heif(quarters({ 64, 64 }), format.startsWith("avif"));
     if (format == "heic" || format == "avif")
         return file.replace(file.indexOf("ispe") + 8, 8, big<quint32>(32000) + big<quint32>(32000));

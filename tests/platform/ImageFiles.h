@@ -11,13 +11,20 @@ QImage quarters(QSize size, QImage::Format format = QImage::Format_RGB32);
 
 /// Through Qt's writers: "jpg", "png", "webp", "tiff".
 QByteArray written(const QImage& image, const char* format, int quality = 95, bool progressive = false);
-/// HEVC or AV1 in a HEIF container; `thumbnail` > 0 adds one of that long side.
-QByteArray heif(const QImage& image, bool av1, int thumbnail = 0, int quality = 90);
-QByteArray jxl(const QImage& image);
+struct HeifExtras {
+    int thumbnail = 0;  ///< adds one of that long side
+    QImage thumbnailOf{};  ///< another picture than the file's
+    int quality = 90;
+    QByteArray icc{};
+};
+/// HEVC or AV1 in a HEIF container.
+QByteArray heif(const QImage& image, bool av1, const HeifExtras& extras = {});
+QByteArray jxl(const QImage& image, const QByteArray& icc = {});
 /// `boxed`: a JP2 file; otherwise the bare codestream.
-QByteArray jpeg2000(const QImage& image, bool boxed);
+QByteArray jpeg2000(const QImage& image, bool boxed, const QByteArray& icc = {});
 /// A flattened Photoshop file: 3 is RGB, 1 gray, 4 CMYK, 9 is Lab with `image`'s channels taken as they are.
-QByteArray psd(const QImage& image, int mode, bool packed, bool large = false, int depth = 8);
+QByteArray psd(
+    const QImage& image, int mode, bool packed, bool large = false, int depth = 8, const QByteArray& icc = {});
 QByteArray gif(const QImage& image);
 /// Four inks, 255 meaning full, as Adobe's programs write them.
 QByteArray cmykJpeg(QSize size, const QByteArray& inks, const QByteArray& icc = {});
@@ -31,7 +38,15 @@ QByteArray grayInkProfile();
 /// A TIFF structure with an orientation and, when given, a JPEG thumbnail.
 QByteArray exifBlock(int orientation, const QByteArray& thumbnail = {});
 QByteArray withExif(const QByteArray& jpeg, const QByteArray& exif);
+/// Only for the extended kind of file, which Qt writes for pictures with a colour space.
+QByteArray webpWithExif(QByteArray webp, const QByteArray& exif);
+/// Changes the orientation that Qt's writer has put into a TIFF.
+QByteArray tiffTurned(QByteArray tiff, int orientation);
 QByteArray pngWithChunk(const QByteArray& png, const QByteArray& type, const QByteArray& data);
+
+/// A raw file: the picture as an RGGB sensor sees it, and a JPEG as its preview unless that is empty. `claimed`: the
+/// sensor's size according to the header, when that is not the truth.
+QByteArray dng(const QImage& image, const QByteArray& preview, QSize claimed = {});
 
 /// A header that asks for far more pixels than are allowed, with next to nothing behind it. The names of the formats
 /// are those of the test's rows.
