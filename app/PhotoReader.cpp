@@ -66,27 +66,69 @@ void shareTexts(QList<ImageRecord>& records)
     }
 }
 
+struct Readable {
+    QUrl url{};
+    std::optional<QDateTime> modified{};  ///< before the read
+};
+
+QList<QUrl> urlsOf(const QList<Readable>& photos)
+{
+    QList<QUrl> urls;
+    urls.reserve(photos.size());
+    for (const Readable& photo : photos)
+        urls.append(photo.url);
+    return urls;
+}
+
+/// Leaves out the photos that the tool cannot make sense of. Whether there were any.
+bool leaveOutBroken(
+    const MetadataService& service, QList<Readable>& photos, const ReadControl& control, QList<LeftOut>& leftOut)
+{
+    const QMap<QString, QString> errors = service.runner.readErrors(
+        urlsOf(photos), { .progress = {}, .stop = control.stop, .started = control.started });
+    const auto broken = photos.removeIf([&](const Readable& photo) {
+        const QString reason = errors.value(photo.url.toLocalFile());
+        if (!reason.isEmpty())
+            leftOut.append({ photo.url.fileName(), reason.at(0).toLower() + reason.sliced(1) });
+        return !reason.isEmpty();
+    });
+    return broken > 0;
+}
+
+/// Throws what the service throws.
+void readPhotos(const MetadataService& service, QList<Readable>& photos, TaskProgress& progress,
+    const ReadControl& control, Result& result)
+{
+    progress.total = photos.size();
+    try {
+        result.records = service.read(urlsOf(photos), control);
+    } catch (const ToolError& error) {
+        if (!std::holds_alternative<ToolError::ExecFailed>(error.payload())
+            || !leaveOutBroken(service, photos, control, result.leftOut))
+            throw;
+        progress.done = 0;
+        progress.total = photos.size();
+        result.records = service.read(urlsOf(photos), control);
+    }
+}
+
 }  // namespace
 
 Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgress& progress, std::stop_token stop)
 {
     Result result;
-    QList<QUrl> readable;
-    QList<std::optional<QDateTime>> modified;
+    QList<Readable> photos;
     for (const QUrl& url : urls) {
         const Check checked = check(url);
-        if (checked.isReadable) {
-            readable.append(url);
-            modified.append(modificationDate(url.toLocalFile()));
-        } else if (!checked.reason.isEmpty()) {
+        if (checked.isReadable)
+            photos.append({ url, modificationDate(url.toLocalFile()) });
+        else if (!checked.reason.isEmpty())
             result.leftOut.append({ url.fileName(), checked.reason });
-        }
     }
-    progress.total = readable.size();
+    const ReadControl control{ [&progress](qsizetype done) { progress.done = done; }, std::move(stop),
+        [&progress](qint64 processID) { progress.processID = processID; } };
     try {
-        const ReadControl control{ [&progress](qsizetype done) { progress.done = done; }, std::move(stop),
-            [&progress](qint64 processID) { progress.processID = processID; } };
-        result.records = service.read(readable, control);
+        readPhotos(service, photos, progress, control, result);
     } catch (const CancelledError&) {
         result.isCancelled = true;
     } catch (const Error& error) {
@@ -96,8 +138,8 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
     }
     progress.processID = 0;
     shareTexts(result.records);
-    for (qsizetype i = 0; i < std::min(result.records.size(), modified.size()); ++i)
-        result.records[i].contentModificationDate = modified[i];
+    for (qsizetype i = 0; i < std::min(result.records.size(), photos.size()); ++i)
+        result.records[i].contentModificationDate = photos.at(i).modified;
     return result;
 }
 

@@ -34,10 +34,10 @@ struct Result {
     bool isCancelled = false;
 };
 
-/// Never throws. One empty, unreadable or dangling file makes ExifTool report failure for all, a pipe blocks it
-/// for ever, and it walks into directories: so the first three are left out and named, and whatever else is no
-/// regular file is left out silently. A record bears the modification date that its file had before the read,
-/// so that a change during the read is noticed by the next look at the folder.
+/// Never throws. One empty, unreadable, dangling or broken file makes ExifTool report failure for all, a pipe blocks
+/// it for ever, and it walks into directories: so the first four are left out and named, the broken ones by means of
+/// further runs, and whatever else is no regular file is left out silently. A record bears the modification date that
+/// its file had before the read, so that a change during the read is noticed by the next look at the folder.
 Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgress& progress, std::stop_token stop);
 
 /// The banner's text for these files; at least one.

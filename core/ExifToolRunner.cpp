@@ -211,6 +211,18 @@ QList<JSONObject> ExifToolRunner::readJSON(
     return output.isEmpty() ? QList<JSONObject>(files.size()) : decode(std::move(output));
 }
 
+QMap<QString, QString> ExifToolRunner::readErrors(const QList<QUrl>& files, const ReadControl& control) const
+{
+    QMap<QString, QString> errors;
+    const Ended ended =
+        runToEnd(QStringList{ QStringLiteral("-json"), QStringLiteral("-Error") } + paths(files), {}, control);
+    const QJsonArray objects = QJsonDocument::fromJson(ended.standardOutput).array();
+    for (const auto& object : objects)
+        if (const QString reason = object[QStringLiteral("Error")].toString(); !reason.isEmpty())
+            errors.insert(object[QStringLiteral("SourceFile")].toString(), reason);
+    return errors;
+}
+
 QByteArray ExifToolRunner::readXML(const QStringList& selection, const QList<QUrl>& files) const
 {
     return files.isEmpty() ? QByteArray() : runForBytes(selection + paths(files));
@@ -266,6 +278,17 @@ QString ExifToolRunner::run(const QStringList& arguments) const
 QByteArray ExifToolRunner::runForBytes(
     const QStringList& arguments, const OutputWatch& watch, const ReadControl& control) const
 {
+    Ended ended = runToEnd(arguments, watch, control);
+    if (ended.isGood)
+        return std::move(ended.standardOutput);
+    const QString standardError = strictUtf8(ended.standardError);
+    throw ToolError(ToolError::ExecFailed{
+        ended.exitCode, standardError.isEmpty() ? strictUtf8(ended.standardOutput) : standardError });
+}
+
+ExifToolRunner::Ended ExifToolRunner::runToEnd(
+    const QStringList& arguments, const OutputWatch& watch, const ReadControl& control) const
+{
     const std::stop_token& stop = control.stop;
     if (!exists(exiftoolURL))
         throw ToolError(ToolError::ToolNotFound{});
@@ -295,11 +318,10 @@ QByteArray ExifToolRunner::runForBytes(
     }
     collect();
 
-    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
-        return output;
-    const QString standardError = strictUtf8(process.readAllStandardError());
-    throw ToolError(
-        ToolError::ExecFailed{ process.exitCode(), standardError.isEmpty() ? strictUtf8(output) : standardError });
+    return { .standardOutput = std::move(output),
+        .standardError = process.readAllStandardError(),
+        .exitCode = process.exitCode(),
+        .isGood = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0 };
 }
 
 }  // namespace Quorbel

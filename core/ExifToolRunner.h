@@ -7,6 +7,7 @@
 #include "core/JSONValue.h"
 
 #include <QList>
+#include <QMap>
 #include <QUrl>
 
 #include <functional>
@@ -43,6 +44,9 @@ struct ExifToolRunner {
     QList<JSONObject> read(const QStringList& tags, const QList<QUrl>& files, const ReadControl& control = {}) const;
     /// Reads the custom group "XMP-Quorbel" alone, with group-1 keys. Throws like read().
     QList<JSONObject> readCustomNamespace(const QList<QUrl>& files, const ReadControl& control = {}) const;
+    /// Which of the files make a read fail, and why, as the tool says it ("File format error"), by path. Empty when it
+    /// says nothing. Throws like read(), but not for the tool's exit status.
+    QMap<QString, QString> readErrors(const QList<QUrl>& files, const ReadControl& control = {}) const;
     /// The tool's XML answer to a selection ("-X", "-n", "-IPTC:City"): texts as they are, where JSON would turn
     /// "1.10" into a number. Throws ToolError or LaunchError.
     QByteArray readXML(const QStringList& selection, const QList<QUrl>& files) const;
@@ -64,11 +68,20 @@ private:
     /// Sees everything printed so far, each time more of it has arrived.
     using OutputWatch = std::function<void(const QByteArray& output)>;
 
+    /// What a run that has ended printed, and how it ended.
+    struct Ended {
+        QByteArray standardOutput{};
+        QByteArray standardError{};
+        int exitCode = 0;
+        bool isGood = false;
+    };
+
     QList<JSONObject> readJSON(
         const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const;
     QString run(const QStringList& arguments) const;
     QByteArray runForBytes(
         const QStringList& arguments, const OutputWatch& watch = {}, const ReadControl& control = {}) const;
+    Ended runToEnd(const QStringList& arguments, const OutputWatch& watch, const ReadControl& control) const;
 };
 
 }  // namespace Quorbel

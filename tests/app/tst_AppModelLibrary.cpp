@@ -147,6 +147,12 @@ void TestAppModelLibrary::unreadableFilesAreLeftOutAndNamed()
     QCOMPARE(
         f->errorMessage(), u"2 files could not be read and were left out: empty.jpg (empty), link.jpg (broken link)"_s);
     QCOMPARE(f.visible(), jpgs(u"abcdef"_s));
+    f.folder.add(u"broken.gif"_s, "GIF\x04");
+    QVERIFY(f.open());
+    QCOMPARE(f->errorMessage(),
+        u"3 files could not be read and were left out: empty.jpg (empty), link.jpg (broken link), "
+        "broken.gif (file format error)"_s);
+    QCOMPARE(f.visible(), jpgs(u"abcdef"_s));
 }
 
 void TestAppModelLibrary::permissionDeniedIsNamed()
