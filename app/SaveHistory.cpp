@@ -115,12 +115,16 @@ SaveHistory::Undone SaveHistory::undo(const MetadataService& service, const QLis
     forgetUndone(entries, undone.outcome);
     SaveJournal::store(m_path, entries);
     undone.hasMore = !entries.isEmpty();
-    const QList<QUrl> stale = photosOf(undone.outcome.restored, photos);
+    QList<QUrl> touched = undone.outcome.restored;
+    for (const FileFailure& failure : undone.outcome.failed)
+        touched.append(failure.file);
+    const QList<QUrl> stale = photosOf(touched, photos);
     undone.records = PhotoReader::read(service, stale, progress, {}).records;
     return undone;
 }
 
-/// Only what failed can be tried again: a file that somebody else changed never becomes ours again.
+/// Only what failed can be tried again, from where the failed attempt left it: a file that somebody else changed never
+/// becomes ours again.
 void SaveHistory::forgetUndone(QList<JournalEntry>& entries, const UndoOutcome& outcome)
 {
     JournalEntry rest = entries.constLast();
@@ -128,7 +132,12 @@ void SaveHistory::forgetUndone(QList<JournalEntry>& entries, const UndoOutcome& 
     for (const FileFailure& failure : outcome.failed)
         failed.insert(failure.file.toLocalFile());
     rest.files.removeIf([&failed](const JournalFile& file) { return !failed.contains(file.path); });
-    SaveJournal::removeUndone(entries);
+    for (JournalFile& file : rest.files)
+        file.after = FileStamp::of(file.path).value_or(file.after);
+    QStringList restored;
+    for (const QUrl& file : outcome.restored)
+        restored.append(file.toLocalFile());
+    SaveJournal::removeUndone(entries, restored);
     if (!rest.files.isEmpty())
         entries.append(rest);
 }

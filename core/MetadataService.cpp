@@ -120,6 +120,25 @@ QString writeSafely(const ExifToolRunner& runner, const QStringList& args, const
     return runner.write(args, files, backup, config);
 }
 
+/// The files that may be written to now; why the others may not goes to the failures.
+QList<QUrl> withoutBlocked(const QList<QUrl>& files, QList<FileFailure>& failures)
+{
+    QList<QUrl> writable;
+    for (const auto& file : files) {
+        if (SaveGuard::isReadOnly(file)) {
+            failures.append({ file, QStringLiteral("read-only") });
+            continue;
+        }
+        try {
+            SaveGuard::clearLeftovers({ file });
+            writable.append(file);
+        } catch (const Error& error) {
+            failures.append({ file, error.description() });
+        }
+    }
+    return writable;
+}
+
 /// Moves a file unless something has the new name already, in one step where the file system can do that.
 /// Zero, or the system's error number.
 int moveWithoutReplacing(const QString& from, const QString& to)
@@ -220,10 +239,15 @@ UndoOutcome MetadataService::undo(const JournalEntry& entry) const
     }
     for (auto it = filesByArgs.cbegin(); it != filesByArgs.cend(); ++it) {
         QList<FileFailure> failures;
+        const QList<QUrl> files = withoutBlocked(*it, failures);
         try {
-            writeSafely(runner, it.key(), *it, false, entry.customNames);
+            if (!files.isEmpty())
+                writeSafely(runner, it.key(), files, false, entry.customNames);
         } catch (const ToolError& error) {
-            failures = writeFailures(error, *it);
+            failures += writeFailures(error, files);
+        } catch (const Error& error) {
+            for (const auto& file : files)
+                failures.append({ file, error.description() });
         }
         outcome.failed += failures;
         for (const auto& url : *it)

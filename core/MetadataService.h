@@ -37,8 +37,8 @@ struct MetadataService {
     QString write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options) const;
     /// What the plan is about to replace in the targets, read in one run. Throws the runner's errors.
     JournalEntry journalEntry(const EditPlan& plan, const QList<QUrl>& targets) const;
-    /// Writes the old values of a save back, one run for each distinct set of them, without new backups.
-    /// Throws SaveGuard::FileProblem, LaunchError and FileError.
+    /// Writes the old values of a save back, one run for each distinct set of them, without new backups. A file that
+    /// is read-only or blocked, or whose run fails, is named in the outcome and does not keep others from theirs.
     UndoOutcome undo(const JournalEntry& entry) const;
     /// Moves the photo within its file system, and with it its sidecar and its backup as far as they exist. Never
     /// replaces a file: throws FileError when the destination exists or the main move fails; a companion whose

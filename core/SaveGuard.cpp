@@ -26,17 +26,6 @@ QByteArray backupOf(const QByteArray& photo)
     return photo + "_original";
 }
 
-bool isReadOnly(const QUrl& file)
-{
-    const QByteArray path = nativePath(file);
-    struct stat status { };
-    if (stat(path.constData(), &status) != 0)
-        return false;  // its absence is for the tool to report
-    // The administrator may write to anything; a file without any write bit is still meant to stay as it is.
-    constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
-    return (status.st_mode & anyWrite) == 0 || access(path.constData(), W_OK) != 0;
-}
-
 QString listed(const QStringList& names)
 {
     QString text = names.mid(0, namesListed).join(QStringLiteral(", "));
@@ -79,6 +68,17 @@ QList<QUrl> filesBehindLinks(const QList<QUrl>& targets)
         files.append(real.isEmpty() ? target : QUrl::fromLocalFile(real));
     }
     return files;
+}
+
+bool isReadOnly(const QUrl& file)
+{
+    const QByteArray path = nativePath(file);
+    struct stat status { };
+    if (stat(path.constData(), &status) != 0)
+        return false;  // its absence is for the tool to report
+    // The administrator may write to anything; a file without any write bit is still meant to stay as it is.
+    constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+    return (status.st_mode & anyWrite) == 0 || access(path.constData(), W_OK) != 0;
 }
 
 void requireWritable(const QList<QUrl>& files)

@@ -16,8 +16,11 @@ namespace Quorbel::SaveGuard {
 /// link by an edited copy. A target that is no link is passed on as it stands. Order and number are kept.
 QList<QUrl> filesBehindLinks(const QList<QUrl>& targets);
 
-/// Throws FileProblem when some file may not be written to, though ExifTool would replace it all the same:
-/// "IMG_1.jpg is read-only." or "3 of 40 photos are read-only: …; nothing was written."
+/// Whether the file may not be written to, though ExifTool would replace it all the same.
+bool isReadOnly(const QUrl& file);
+
+/// Throws FileProblem when some file may not be written to: "IMG_1.jpg is read-only." or
+/// "3 of 40 photos are read-only: …; nothing was written."
 void requireWritable(const QList<QUrl>& files);
 
 /// Deals with the temporary files that a killed ExifTool leaves beside a photo and that block every later save of

@@ -250,12 +250,14 @@ void rename(QList<JournalEntry>& entries, const QString& from, const QString& to
                 file.path = to;
 }
 
-void removeUndone(QList<JournalEntry>& entries)
+void removeUndone(QList<JournalEntry>& entries, const QStringList& restored)
 {
     if (entries.isEmpty())
         return;
     const JournalEntry undone = entries.takeLast();
     for (const auto& file : undone.files) {
+        if (!restored.contains(file.path))
+            continue;
         const auto now = FileStamp::of(file.path);
         for (auto& entry : entries)
             for (auto& earlier : entry.files)

@@ -66,9 +66,9 @@ QList<JournalEntry> load(const QString& journalPath);
 bool store(const QString& journalPath, const QList<JournalEntry>& entries);
 /// Follows a photo that got another name.
 void rename(QList<JournalEntry>& entries, const QString& from, const QString& to);
-/// Takes the newest save out after it was undone. Files that it had found as an earlier save left them are, as they
-/// now stand, again what that earlier save left.
-void removeUndone(QList<JournalEntry>& entries);
+/// Takes the newest save out after it was undone in these files (paths). Those that it had found as an earlier save
+/// left them are, as they now stand, again what that earlier save left.
+void removeUndone(QList<JournalEntry>& entries, const QStringList& restored);
 
 }  // namespace SaveJournal
 

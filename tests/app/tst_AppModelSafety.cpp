@@ -38,9 +38,9 @@ struct MixedPhotos : ModelFixture {
 
 /// Photos "a" and "b", each titled with its name, before a model that keeps a journal.
 struct JournaledPhotos : ModelFixture {
-    JournaledPhotos()
+    explicit JournaledPhotos(const QStringList& names = { u"a.jpg"_s, u"b.jpg"_s })
     {
-        addTitled({ u"a.jpg"_s, u"b.jpg"_s });
+        addTitled(names);
         services.journalPath = settings.filePath(u"state/undo.json"_s);
         relaunch();
         model->setSaveDontAsk(true);
@@ -56,6 +56,13 @@ struct JournaledPhotos : ModelFixture {
     {
         model->undoSave();
         return waitUntilIdle();
+    }
+    QMap<QString, QString> titles() const
+    {
+        QMap<QString, QString> titles;
+        for (const ImageRecord& record : model->records())
+            titles.insert(record.fileName, record.values.value(u"title"_s));
+        return titles;
     }
 };
 
@@ -76,6 +83,9 @@ private slots:
     void undoSurvivesARestart();
     void undoFollowsRenames();
     void undoLeavesOthersWorkAlone();
+    void undoThroughALink();
+    void undoThatFailsInPart();
+    void undoIsTriedAgainAfterTheToolWasCut();
     void unwritableJournalDoesNotStopASave();
     void stalledFileIsSkipped();
 };
@@ -270,13 +280,99 @@ void TestAppModelSafety::undoLeavesOthersWorkAlone()
     JournaledPhotos f;
     QVERIFY(f.open());
     f->selectAllPhotos();
-    f->setBatch(u"title"_s, u"X"_s);
-    QVERIFY(f.save());
+    for (const QString& title : { u"X"_s, u"Y"_s }) {
+        f->setBatch(u"title"_s, title);
+        QVERIFY(f.save());
+    }
     exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=another program's"_s, f.folder.path(u"a.jpg"_s) });
     QVERIFY(f.undo());
     QCOMPARE(f->errorMessage(), u"Undone, but 1 photo changed since and was left alone: a.jpg"_s);
     QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"another program's"_s));
+    // Nor does the save before that one become a way to it.
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), u"Undone, but 1 photo changed since and was left alone: a.jpg"_s);
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"another program's"_s));
     QCOMPARE(f.onDisk(u"b.jpg"_s, u"XMP:Title"_s), QJsonValue(u"b.jpg"_s));
+    QVERIFY(!f->canUndoSave());
+}
+
+void TestAppModelSafety::undoThroughALink()
+{
+    JournaledPhotos f({ u"a.jpg"_s });
+    const PhotoFolder elsewhere;
+    const QString link = f.folder.path(u"a.jpg"_s);
+    const QUrl real = elsewhere.add(u"real.jpg"_s, readFile(link));
+    QVERIFY(QFile::remove(link) && QFile::link(real.toLocalFile(), link));
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"X"_s);
+    QVERIFY(f.save());
+    QCOMPARE(exiftoolValues(real).value(u"XMP:Title"_s), QJsonValue(u"X"_s));
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QVERIFY(QFileInfo(link).isSymLink());
+    QCOMPARE(exiftoolValues(real).value(u"XMP:Title"_s), QJsonValue(u"a.jpg"_s));
+    QCOMPARE(f->draftValues().value(u"title"_s), u"a.jpg"_s);
+}
+
+/// Every photo had another title, so each is a run of its own; two of them cannot be written to.
+void TestAppModelSafety::undoThatFailsInPart()
+{
+    const QStringList names{ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s };
+    JournaledPhotos f(names);
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    for (const QString& title : { u"X"_s, u"Y"_s }) {
+        f->setBatch(u"title"_s, title);
+        QVERIFY(f.save());
+    }
+    QVERIFY(QFile::setPermissions(f.folder.path(u"b.jpg"_s), QFile::ReadOwner));
+    const QString leftover = f.folder.add(u"c.jpg_exiftool_tmp"_s, "half").toLocalFile();
+    QVERIFY(f.undo());
+    const QString banner = f->errorMessage().value_or(QString());
+    QVERIFY2(banner.startsWith(u"Could not undo the save of 2 photos: b.jpg (read-only), c.jpg ("_s)
+            && banner.contains(u"c.jpg_exiftool_tmp lies beside the photo"_s),
+        qPrintable(banner));
+    QCOMPARE(f.titles().values(), QStringList({ u"X"_s, u"Y"_s, u"Y"_s }));
+    QVERIFY(f->canUndoSave());
+
+    f->setErrorMessage({});
+    QVERIFY(QFile::setPermissions(f.folder.path(u"b.jpg"_s), QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(QFile::remove(leftover));
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.titles().values(), QStringList({ u"X"_s, u"X"_s, u"X"_s }));
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.titles().values(), names);
+    QVERIFY(!f->canUndoSave());
+}
+
+/// A tool that is killed says nothing about what it has done: what it restored must not pass for another's work.
+void TestAppModelSafety::undoIsTriedAgainAfterTheToolWasCut()
+{
+    JournaledPhotos f({ u"a.jpg"_s, u"b.jpg"_s });
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    f->setBatch(u"headline"_s, u"X"_s);
+    QVERIFY(f.save());
+    const QTemporaryDir tools;
+    const QString script = tools.filePath(u"exiftool"_s);
+    writeFile(script,
+        "system $^X, '" + realTool().exiftoolURL.toLocalFile().toUtf8()
+            + "', @ARGV; kill 'KILL', $$ if grep { $_ eq '-m' } @ARGV;\n");
+    f.services.service = MetadataService{ { QUrl::fromLocalFile(script), realTool().perlURL } };
+    f.relaunch();
+    QTRY_VERIFY(f->canUndoSave());
+    QVERIFY(f.open());
+    QVERIFY(f.undo());
+    QVERIFY(f->errorMessage().value_or(QString()).startsWith(u"Could not undo the save of 2 photos: a.jpg ("_s));
+    QVERIFY(!f->record(f.url(u"a.jpg"_s))->values.contains(u"headline"_s));
+    f.services.service = MetadataService{ realTool() };
+    f.relaunch();
+    QTRY_VERIFY(f->canUndoSave());
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QVERIFY(!f->canUndoSave());
 }
 
 void TestAppModelSafety::unwritableJournalDoesNotStopASave()

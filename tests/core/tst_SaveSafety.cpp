@@ -412,7 +412,7 @@ private slots:
         QCOMPARE(entries.size(), SaveJournal::limit);
         QCOMPARE(entries.constLast().writtenTags, QStringList(QString::number(SaveJournal::limit + 4)));
 
-        SaveJournal::removeUndone(entries);  // the file now stands as the save before left it
+        SaveJournal::removeUndone(entries, { photo });  // the file now stands as the save before left it
         QCOMPARE(entries.constLast().files[0].after, FileStamp::of(photo).value());
         SaveJournal::rename(entries, photo, QStringLiteral("/elsewhere.jpg"));
         QCOMPARE(entries.constFirst().files[0].path, QStringLiteral("/elsewhere.jpg"));
