@@ -129,7 +129,7 @@ public:
     bool isSaving() const { return m_isSaving; }
     /// Set while a read or a write runs; nothing otherwise.
     const std::optional<Progress>& progress() const { return m_progress; }
-    /// Name of the file that a load does not get done with; nothing while it gets on.
+    /// Name of the file that a read does not get done with; nothing while it gets on.
     const std::optional<QString>& stalledFile() const { return m_stalledFile; }
     const std::optional<QString>& errorMessage() const { return m_errorMessage; }
     void setErrorMessage(const std::optional<QString>& message);
@@ -165,7 +165,7 @@ public:
     void openFile(const QUrl& url);
     /// Ends a read that runs; what was open stays.
     void cancelRead();
-    /// Begins the load again without the file that it is stuck at. The file is named when the load ends.
+    /// Begins the read again without the file that it is stuck at. The file is named when the read ends.
     void skipStalledFile();
 
     // --- Drafts of one photo ---
@@ -339,9 +339,15 @@ private:
     };
     /// A read or a write that the user waits for.
     struct Task {
+        enum class Kind {
+            load,
+            write,
+            check,  ///< the read that follows a write: it cannot be cancelled, though a file of it can be skipped
+            refresh,  ///< not shown unless it stalls
+        };
         int id = 0;
-        bool isLoad = false;
-        QList<QUrl> files{};  ///< of a load
+        Kind kind = Kind::load;
+        QList<QUrl> files{};  ///< of a read
         std::optional<QUrl> skipped{};  ///< ended because of this file
         std::shared_ptr<TaskProgress> progress{};
         std::stop_source stop{};
@@ -386,13 +392,14 @@ private:
     // Library
     void reload(const PhotoListing& listing, const QSet<QUrl>& tooSlow = {});
     void finishReload(const PhotoListing& listing, const QSet<QUrl>& tooSlow, PhotoReader::Result result);
-    Task* shownLoad();
+    Task* watchedRead();
     void publishStall();
     void publishRecords(QList<ImageRecord> records);
     bool replaceRecords(const QList<ImageRecord>& fresh);
     void recordContentChanged();
     void updateVisibleRows(bool photosChanged);
-    Task beginTask(qsizetype total, bool isLoad);
+    Task beginTask(qsizetype total, Task::Kind kind, const QList<QUrl>& files = {});
+    void showTask(const Task& task);
     std::optional<Task> endTask(int id);
     void publishProgress();
     void beginGeneration();
@@ -415,7 +422,7 @@ private:
     void removeRecords(const QList<int>& positions);
     void readChanged(const QList<QUrl>& urls);
     void readAdded(const QList<QUrl>& urls);
-    void readForRefresh(const QList<QUrl>& urls, std::function<void(const QList<ImageRecord>&)> take);
+    void readForRefresh(const QList<QUrl>& urls, const std::function<void(const QList<ImageRecord>&)>& take);
     void takeChanged(const QList<ImageRecord>& fresh);
     void takeAdded(const QList<ImageRecord>& fresh);
     void endRefreshStep();
@@ -431,7 +438,7 @@ private:
     void saveSingle();
     void saveBatch();
     void runWrite(const EditPlan& plan, const QList<QUrl>& urls);
-    void checkSave(const SaveSnapshot& saved, const SaveJob::Written& written);
+    void checkSave(const SaveSnapshot& saved, const SaveJob::Written& written, const QSet<QUrl>& tooSlow = {});
     void takeSaved(const SaveJob::Checked& checked, const SaveSnapshot& saved);
     void reportSave(const SaveJob::Checked& checked, const SaveSnapshot& saved, const SaveJob::Written& written);
     bool selectUnsaved(const QList<QUrl>& urls, const SaveSnapshot& saved);
@@ -504,6 +511,7 @@ private:
     std::unique_ptr<FolderWatcher> m_watcher;
 
     std::vector<Task> m_tasks;
+    std::vector<Task> m_quietReads;  ///< reads of a refresh that are not shown
     int m_lastTaskID = 0;
     QTimer m_progressTimer;
     std::function<void()> m_waiting;  ///< asked for again after a save or a discard
@@ -517,7 +525,6 @@ private:
     bool m_refreshAgain = false;
     int m_refreshReads = 0;
     bool m_passedOverWritten = false;  ///< a refresh left out photos that were being written
-    std::stop_source m_refreshStop;
     int m_updateDepth = 0;
     std::vector<Signal> m_announcements;
 };

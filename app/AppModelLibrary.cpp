@@ -66,10 +66,10 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
 /// Reads are given up, a write goes on to its end; neither finds the model again.
 AppModel::~AppModel()
 {
-    for (Task& task : m_tasks)
-        if (task.isLoad)
-            task.stop.request_stop();
-    m_refreshStop.request_stop();
+    for (std::vector<Task>* tasks : { &m_tasks, &m_quietReads })
+        for (Task& task : *tasks)
+            if (task.kind != Task::Kind::write)
+                task.stop.request_stop();
 }
 
 bool AppModel::hasService() const
@@ -188,8 +188,7 @@ void AppModel::reload(const PhotoListing& listing, const QSet<QUrl>& tooSlow)
         return;
     QList<QUrl> files = listing.files;
     files.removeIf([&tooSlow](const QUrl& file) { return tooSlow.contains(file); });
-    const Task task = beginTask(files.size(), true);
-    m_tasks.back().files = files;
+    const Task task = beginTask(files.size(), Task::Kind::load, files);
     runInBackground(
         this,
         [service = *m_services.service, files, progress = task.progress, stop = task.stop.get_token()] {
@@ -283,40 +282,46 @@ void AppModel::cancelRead()
 {
     requireMainThread("cancelRead");
     for (Task& task : m_tasks)
-        if (task.isLoad)
+        if (task.kind == Task::Kind::load || task.kind == Task::Kind::refresh)
             task.stop.request_stop();
 }
 
 void AppModel::skipStalledFile()
 {
     requireMainThread("skipStalledFile");
-    Task* load = shownLoad();
-    if (!load || !m_stalledURL)
+    Task* read = watchedRead();
+    if (!read || !m_stalledURL)
         return;
-    load->skipped = m_stalledURL;
-    load->stop.request_stop();
+    read->skipped = m_stalledURL;
+    read->stop.request_stop();
     assign(m_stalledFile, std::nullopt, &AppModel::stalledFileChanged);
 }
 
-/// The task that is shown, if it is a load that goes on.
-AppModel::Task* AppModel::shownLoad()
+/// The task that is shown, if it is a read that goes on; where nothing is shown, a read of a refresh.
+AppModel::Task* AppModel::watchedRead()
 {
-    if (m_tasks.empty() || !m_tasks.back().isLoad || m_tasks.back().stop.stop_requested())
+    std::vector<Task>& tasks = m_tasks.empty() ? m_quietReads : m_tasks;
+    if (tasks.empty() || tasks.back().kind == Task::Kind::write || tasks.back().stop.stop_requested())
         return nullptr;
-    return &m_tasks.back();
+    return &tasks.back();
 }
 
 void AppModel::publishStall()
 {
-    const Task* load = shownLoad();
-    m_stallWatch.look(load ? load->progress->processID.load() : 0);
+    const Task* read = watchedRead();
+    m_stallWatch.look(read ? read->progress->processID.load() : 0);
     const QSet<QString> stalled = m_stallWatch.stalled();
     m_stalledURL.reset();
     // The system tells paths without links, so the photos' must be looked up: only while something stalls.
-    if (load && !stalled.isEmpty())
-        for (const QUrl& file : load->files)
+    if (read && !stalled.isEmpty())
+        for (const QUrl& file : read->files)
             if (stalled.contains(QFileInfo(file.toLocalFile()).canonicalFilePath()))
                 m_stalledURL = file;
+    if (m_stalledURL && m_tasks.empty()) {
+        const Task quiet = m_quietReads.back();
+        m_quietReads.pop_back();
+        showTask(quiet);
+    }
     const auto name = m_stalledURL ? std::optional(m_stalledURL->fileName()) : std::nullopt;
     assign(m_stalledFile, name, &AppModel::stalledFileChanged);
 }
@@ -364,26 +369,36 @@ void AppModel::updateVisibleRows(bool photosChanged)
         announce(&AppModel::visibleRowsChanged);
 }
 
-AppModel::Task AppModel::beginTask(qsizetype total, bool isLoad)
+AppModel::Task AppModel::beginTask(qsizetype total, Task::Kind kind, const QList<QUrl>& files)
 {
-    Task task{ ++m_lastTaskID, isLoad, {}, {}, std::make_shared<TaskProgress>(), {} };
+    Task task{ ++m_lastTaskID, kind, files, {}, std::make_shared<TaskProgress>(), {} };
     task.progress->total = total;
-    m_tasks.push_back(task);
     m_progressTimer.start();
+    if (kind == Task::Kind::refresh)
+        m_quietReads.push_back(task);
+    else
+        showTask(task);
+    return task;
+}
+
+void AppModel::showTask(const Task& task)
+{
+    m_tasks.push_back(task);
     assign(m_isWorking, true, &AppModel::isWorkingChanged);
     publishProgress();
-    return task;
 }
 
 /// The task as it was.
 std::optional<AppModel::Task> AppModel::endTask(int id)
 {
     std::optional<Task> ended;
-    for (const Task& task : m_tasks)
-        if (task.id == id)
-            ended = task;
-    std::erase_if(m_tasks, [id](const Task& task) { return task.id == id; });
-    if (m_tasks.empty())
+    for (std::vector<Task>* tasks : { &m_tasks, &m_quietReads }) {
+        for (const Task& task : *tasks)
+            if (task.id == id)
+                ended = task;
+        std::erase_if(*tasks, [id](const Task& task) { return task.id == id; });
+    }
+    if (m_tasks.empty() && m_quietReads.empty())
         m_progressTimer.stop();
     assign(m_isWorking, !m_tasks.empty(), &AppModel::isWorkingChanged);
     publishProgress();
@@ -406,8 +421,10 @@ void AppModel::publishProgress()
 void AppModel::beginGeneration()
 {
     ++m_generation;
-    m_refreshStop.request_stop();
-    m_refreshStop = {};
+    for (std::vector<Task>* tasks : { &m_tasks, &m_quietReads })
+        for (Task& task : *tasks)
+            if (task.kind == Task::Kind::refresh)
+                task.stop.request_stop();
     m_refreshReads = 0;
     m_isRefreshing = false;
     m_refreshAgain = false;

@@ -57,7 +57,7 @@ void AppModel::applyScan(const FolderScan& scan)
     }
     QList<QUrl> changed = ExternalRefresh::modifiedURLs(
         m_records, [&scan](const ImageRecord& record) { return scan.photos.value(record.url); });
-    changed.removeIf([this](const QUrl& url) { return m_beingWritten.contains(url); });
+    changed.removeIf([this](const QUrl& url) { return m_beingWritten.contains(url) || m_tooSlow.contains(url); });
     QList<QUrl> added;
     for (auto photo = scan.photos.cbegin(); photo != scan.photos.cend(); ++photo)
         if (m_index.position(photo.key()) < 0 && !m_tooSlow.contains(photo.key()))
@@ -103,21 +103,31 @@ void AppModel::readAdded(const QList<QUrl>& urls)
     readForRefresh(urls, [this](const QList<ImageRecord>& fresh) { takeAdded(fresh); });
 }
 
-/// Silent: what cannot be read stays as it is, or out.
-void AppModel::readForRefresh(const QList<QUrl>& urls, std::function<void(const QList<ImageRecord>&)> take)
+/// Silent: what cannot be read stays as it is, or out. A file that the user skips is not asked for again.
+void AppModel::readForRefresh(const QList<QUrl>& urls, const std::function<void(const QList<ImageRecord>&)>& take)
 {
     m_isRefreshing = true;
     ++m_refreshReads;
+    const Task task = beginTask(urls.size(), Task::Kind::refresh, urls);
     runInBackground(
         this,
-        [service = *m_services.service, urls, stop = m_refreshStop.get_token()] {
-            TaskProgress unused;
-            return PhotoReader::read(service, urls, unused, stop).records;
+        [service = *m_services.service, urls, progress = task.progress, stop = task.stop.get_token()] {
+            return PhotoReader::read(service, urls, *progress, stop).records;
         },
-        [this, take = std::move(take), generation = m_generation, saves = m_saveSerial](
+        [this, urls, take, id = task.id, generation = m_generation, saves = m_saveSerial](
             const QList<ImageRecord>& fresh) {
+            const Update update(*this);
+            const std::optional<Task> ended = endTask(id);
             if (generation != m_generation)
                 return;
+            if (ended && ended->skipped) {
+                m_tooSlow.insert(*ended->skipped);
+                setErrorMessage(PhotoReader::leftOutText({ { ended->skipped->fileName(), u"took too long"_s } }));
+                QList<QUrl> rest = urls;
+                rest.removeAll(*ended->skipped);
+                readForRefresh(rest, take);
+                return endRefreshStep();
+            }
             // What was read before a save of ours must not overwrite what was read after it.
             if (saves == m_saveSerial)
                 take(fresh);

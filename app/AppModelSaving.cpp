@@ -148,7 +148,7 @@ void AppModel::runWrite(const EditPlan& plan, const QList<QUrl>& urls)
     m_beingWritten = QSet<QUrl>(urls.cbegin(), urls.cend());
     ++m_saveSerial;
     ++m_diskSerial;
-    const Task task = beginTask(urls.size(), false);
+    const Task task = beginTask(urls.size(), Task::Kind::write);
     const WriteOptions options{ m_backupOriginals, m_writeSidecar };
     const SaveSnapshot saved{ plan, urls, m_selectionSerial, m_primary, drafts(), m_editedSingle,
         m_sessionAddedKnownIDs, m_batchInclude, m_batchValues, m_batchLists, m_batchCustoms };
@@ -171,18 +171,21 @@ void AppModel::runWrite(const EditPlan& plan, const QList<QUrl>& urls)
         });
 }
 
-void AppModel::checkSave(const SaveSnapshot& saved, const SaveJob::Written& written)
+void AppModel::checkSave(const SaveSnapshot& saved, const SaveJob::Written& written, const QSet<QUrl>& tooSlow)
 {
-    const Task task = beginTask(saved.urls.size(), false);
+    const Task task = beginTask(saved.urls.size(), Task::Kind::check, saved.urls);
     runInBackground(
         this,
-        [service = *m_services.service, plan = saved.plan, urls = saved.urls, written, progress = task.progress] {
-            return SaveJob::check(service, plan, urls, written, *progress);
+        [service = *m_services.service, plan = saved.plan, urls = saved.urls, written, tooSlow,
+            progress = task.progress, stop = task.stop.get_token()] {
+            return SaveJob::check(service, plan, urls, written, tooSlow, *progress, stop);
         },
-        [this, saved, written, id = task.id](const SaveJob::Checked& checked) {
+        [this, saved, written, tooSlow, id = task.id](const SaveJob::Checked& checked) {
             {
                 const Update update(*this);
-                endTask(id);
+                const std::optional<Task> ended = endTask(id);
+                if (ended && ended->skipped)
+                    return checkSave(saved, written, QSet(tooSlow) << *ended->skipped);
                 if (!checked.error)
                     takeSaved(checked, saved);
                 reportSave(checked, saved, written);

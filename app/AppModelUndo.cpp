@@ -41,7 +41,7 @@ void AppModel::undoSave()
     m_beingWritten = QSet<QUrl>(photos.cbegin(), photos.cend());
     ++m_saveSerial;
     ++m_diskSerial;
-    const Task task = beginTask(0, false);
+    const Task task = beginTask(0, Task::Kind::write);
     runInBackground(
         this,
         [service = *m_services.service, history = m_history, photos, progress = task.progress] {

@@ -72,10 +72,12 @@ Written run(const MetadataService& service, const EditPlan& plan, const QList<QU
 }
 
 Checked check(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const Written& written,
-    TaskProgress& progress)
+    const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop)
 {
     Checked checked;
-    const PhotoReader::Result read = PhotoReader::read(service, targets, progress, {});
+    QList<QUrl> readable = targets;
+    readable.removeIf([&tooSlow](const QUrl& target) { return tooSlow.contains(target); });
+    const PhotoReader::Result read = PhotoReader::read(service, readable, progress, stop);
     if (read.error) {
         checked.error = read.error;
         return checked;
@@ -90,6 +92,8 @@ Checked check(const MetadataService& service, const EditPlan& plan, const QList<
         const QStringList differences = record ? SaveVerification::differences(plan, *record) : QStringList();
         if (reasons.contains(target)) {
             checked.failures.append({ target, reasons.value(target) });
+        } else if (tooSlow.contains(target)) {
+            checked.failures.append({ target, u"reading it back took too long"_s });
         } else if (!record) {
             checked.failures.append({ target, u"cannot be read any more"_s });
         } else if (written.error && !differences.isEmpty()) {

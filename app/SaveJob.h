@@ -32,9 +32,10 @@ struct Checked {
 };
 
 /// Reads the targets again and compares them with the plan. After a failed run a target counts as saved when it
-/// holds all of the plan and the tool did not name it. Never throws.
+/// holds all of the plan and the tool did not name it. Targets that are too slow are not read: nobody knows what they
+/// hold, so they count as not saved. Never throws; of a read that was stopped the result means nothing.
 Checked check(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const Written& written,
-    TaskProgress& progress);
+    const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop);
 
 /// "Saved, but 2 fields read back differently: Coordinates, Job ID"; at least one key.
 QString differencesText(const QStringList& keys);

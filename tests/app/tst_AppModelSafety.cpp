@@ -3,6 +3,7 @@
 
 #include <QRegularExpression>
 #include <QTest>
+#include <QThreadPool>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -66,6 +67,60 @@ struct JournaledPhotos : ModelFixture {
     }
 };
 
+/// The real tool; while it stalls, for ever busy with reading a photo "b.jpg".
+class StallingTool {
+public:
+    StallingTool()
+    {
+        QByteArray script = R"perl(#!/usr/bin/perl
+my ($dir) = $0 =~ m{^(.*)/};
+my ($photo) = grep { m{/b\.jpg$} } @ARGV;
+if ($photo and -e "$dir/stall" and not grep { $_ eq '-m' } @ARGV) {
+    open my $open, '<', $photo;
+    open my $mark, '>', "$dir/stalling";
+    sleep 600;
+}
+exec $^X, 'TOOL', @ARGV;
+)perl";
+        script.replace("TOOL", realTool().exiftoolURL.toLocalFile().toUtf8());
+        m_folder.add(u"exiftool"_s, script);
+    }
+    MetadataService service() const { return { { m_folder.url(u"exiftool"_s), realTool().perlURL } }; }
+    void stall(bool on) const
+    {
+        if (on)
+            m_folder.add(u"stall"_s, {});
+        else
+            QFile::remove(m_folder.path(u"stall"_s));
+    }
+    bool isStalling() const { return QFile::exists(m_folder.path(u"stalling"_s)); }
+
+private:
+    PhotoFolder m_folder;
+};
+
+/// Photos "a", "b" and "c" before a tool that may stall at "b".
+struct StallingPhotos : StallingTool, ModelFixture {
+    StallingPhotos()
+        : ModelFixture(service())
+    {
+        for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
+            folder.add(name);
+        services.stallInterval = std::chrono::milliseconds(200);
+        relaunch();
+        model->setConfirmMassEdit(false);
+        model->setSaveDontAsk(true);
+        model->setBackupOriginals(false);
+    }
+    /// Waits for the offer to skip "b", and takes it.
+    bool skipStalled() const
+    {
+        const bool isOffered = QTest::qWaitFor([this] { return model->stalledFile() == u"b.jpg"_s; }, 30000);
+        model->skipStalledFile();
+        return isOffered;
+    }
+};
+
 }  // namespace
 
 class TestAppModelSafety : public QObject {
@@ -88,6 +143,9 @@ private slots:
     void undoIsTriedAgainAfterTheToolWasCut();
     void unwritableJournalDoesNotStopASave();
     void stalledFileIsSkipped();
+    void stalledReReadOfASaveIsSkipped();
+    void stalledRefreshIsSkipped();
+    void quitEndsARead();
 };
 
 void TestAppModelSafety::valueThatCannotBeHeld()
@@ -389,22 +447,11 @@ void TestAppModelSafety::unwritableJournalDoesNotStopASave()
 
 void TestAppModelSafety::stalledFileIsSkipped()
 {
-    // The real tool, but for ever busy with one photo.
-    const QTemporaryDir tools;
-    const QString script = tools.filePath(u"exiftool"_s);
-    writeFile(script,
-        "#!/usr/bin/perl\nmy ($f) = grep { m{/b\\.jpg$} } @ARGV;\nif ($f) { open my $h, '<', $f; sleep 600 }\n"
-        "exec $^X, '"
-            + realTool().exiftoolURL.toLocalFile().toUtf8() + "', @ARGV;\n");
-    ModelFixture f(MetadataService{ { QUrl::fromLocalFile(script), realTool().perlURL } });
-    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
-        f.folder.add(name);
-    f.services.stallInterval = std::chrono::milliseconds(200);
-    f.relaunch();
+    StallingPhotos f;
+    f.stall(true);
     f->load({ f.folderURL() });
     QCOMPARE(f->stalledFile(), std::nullopt);
-    QTRY_COMPARE_WITH_TIMEOUT(f->stalledFile(), u"b.jpg"_s, 30000);
-    f->skipStalledFile();
+    QVERIFY(f.skipStalled());
     QCOMPARE(f->stalledFile(), std::nullopt);
     QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 2, 30000);
     QVERIFY(f.waitUntilIdle());
@@ -412,11 +459,78 @@ void TestAppModelSafety::stalledFileIsSkipped()
     QCOMPARE(f->errorMessage(), u"1 file could not be read and was left out: b.jpg (took too long)"_s);
     // A look at the folder does not fetch it again: that would hang where nobody sees it.
     f->refresh();
-    QTest::qWait(500);
+    QTest::qWait(200);
     f.folder.add(u"d.jpg"_s);
     f->refresh();
     QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 3, 30000);
     QCOMPARE(f.visible(), QStringList({ u"a.jpg"_s, u"c.jpg"_s, u"d.jpg"_s }));
+}
+
+void TestAppModelSafety::stalledReReadOfASaveIsSkipped()
+{
+    StallingPhotos f;
+    QVERIFY(f.open());
+    f.stall(true);
+    f->selectAllPhotos();
+    f->setBatch(u"title"_s, u"X"_s);
+    f->requestSave();
+    QVERIFY(f.skipStalled());
+    QVERIFY(f->isSaving());
+    QVERIFY(f.waitUntilIdle());
+    QVERIFY(!f->isSaving());
+    QCOMPARE(f->errorMessage(), u"Could not save 1 of 3 photos: b.jpg (reading it back took too long)"_s);
+    QCOMPARE(f.selected(), QStringList{ u"b.jpg"_s });
+    QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
+    QCOMPARE(f->unsavedCount(), 1);
+    QCOMPARE(f->record(f.url(u"c.jpg"_s))->values.value(u"title"_s), u"X"_s);
+    f.stall(false);
+    f->setErrorMessage({});
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f->unsavedCount(), 0);
+}
+
+/// Nothing is shown of a refresh, until it does not get on.
+void TestAppModelSafety::stalledRefreshIsSkipped()
+{
+    StallingPhotos f;
+    QVERIFY(f.open());
+    f.click(u"b.jpg"_s);
+    f->setSingle(u"title"_s, u"typed"_s);
+    f.stall(true);
+    f.folder.add(u"b.jpg"_s, jpegBytes(16, 16));
+    f.folder.add(u"a.jpg"_s, jpegBytes(24, 16));
+    f->refresh();
+    QVERIFY(!f->isWorking());
+    QVERIFY(f.skipStalled());
+    QVERIFY(f->isWorking());
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), u"1 file could not be read and was left out: b.jpg (took too long)"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(f->record(f.url(u"a.jpg"_s))->pixelWidth.value_or(0), 24, 30000);
+    QCOMPARE(f->record(f.url(u"b.jpg"_s))->pixelWidth.value_or(0), 8);
+    QCOMPARE(f->draftValues().value(u"title"_s), u"typed"_s);
+    f.folder.add(u"d.jpg"_s);
+    f->refresh();
+    QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 4, 30000);
+}
+
+void TestAppModelSafety::quitEndsARead()
+{
+    StallingPhotos f;
+    int quits = 0;
+    f.services.quit = [&] {
+        ++quits;
+        f.model.reset();
+    };
+    f.relaunch();
+    f.stall(true);
+    f->load({ f.folderURL() });
+    QVERIFY(QTest::qWaitFor([&f] { return f.isStalling(); }, 30000));
+    f->requestQuit();
+    QCOMPARE(quits, 1);
+    // The program ends when the read has, and that does not wait for the tool.
+    QVERIFY(QThreadPool::globalInstance()->waitForDone(30000));
 }
 
 QTEST_GUILESS_MAIN(TestAppModelSafety)
