@@ -190,6 +190,32 @@ QStringList PhotoFolder::names() const
     return QDir(path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 
+QStringList realPhotos(const QString& kind, qsizetype most)
+{
+    const QString root = qEnvironmentVariable("QUORBEL_TEST_PHOTOS");
+    const QDir folder(root + u'/' + kind);
+    QStringList paths;
+    if (!root.isEmpty())
+        for (const auto& name : folder.entryList(QDir::Files))
+            if (name != QStringLiteral("MANIFEST.tsv"))
+                paths.append(folder.filePath(name));
+    if (qEnvironmentVariableIsSet("QUORBEL_SLOW_TESTS") || paths.size() <= most)
+        return paths;
+    QStringList chosen;
+    for (qsizetype i = 0; i < most; ++i)
+        chosen.append(paths.at(i * paths.size() / most));
+    return chosen;
+}
+
+QList<QUrl> copied(const QStringList& paths, const PhotoFolder& folder)
+{
+    QList<QUrl> copies;
+    for (const auto& path : paths)
+        copies.append(
+            folder.add(QStringLiteral("%1-%2").arg(copies.size()).arg(QFileInfo(path).fileName()), readFile(path)));
+    return copies;
+}
+
 TemporaryFilesProbe::TemporaryFilesProbe()
     : m_before(qgetenv("TMPDIR"))
 {

@@ -39,6 +39,12 @@ private:
     QTemporaryDir m_directory;
 };
 
+/// Paths of real photos of a kind ("valid", "malformed"), as many as `most` of them, evenly chosen; all with
+/// QUORBEL_SLOW_TESTS=1. None when QUORBEL_TEST_PHOTOS names no folder.
+QStringList realPhotos(const QString& kind, qsizetype most);
+/// Copies under names that do not collide, in the same order.
+QList<QUrl> copied(const QStringList& paths, const PhotoFolder& folder);
+
 /// Directs the process's temporary files, and those of its children, to a folder of its own while it lives.
 class TemporaryFilesProbe {
 public:
