@@ -31,7 +31,14 @@ namespace {
 constexpr int longestSave = 500;  // ms; a bit more than a save's writing usually takes
 constexpr uid_t nobody = 65534;  // the user without any rights of its own
 
-/// Processes that this one has started and that run.
+/// Whether it is the tool that the test itself reads and writes with.
+bool isOwnTool(pid_t process)
+{
+    QFile commandLine(u"/proc/%1/cmdline"_s.arg(process));
+    return commandLine.open(QIODevice::ReadOnly) && commandLine.readAll().contains("-stay_open");
+}
+
+/// Tools that the model has started and that run.
 QList<pid_t> runningTools()
 {
     QList<pid_t> found;
@@ -39,7 +46,7 @@ QList<pid_t> runningTools()
     for (const QString& thread : threads) {
         const QByteArray list = readFile(u"/proc/self/task/%1/children"_s.arg(thread));
         for (const QByteArray& pid : list.split(' '))
-            if (!pid.trimmed().isEmpty())
+            if (!pid.trimmed().isEmpty() && !isOwnTool(pid.trimmed().toInt()))
                 found.append(pid.trimmed().toInt());
     }
     return found;

@@ -8,6 +8,9 @@
 #include <QProcess>
 #include <QRegularExpression>
 
+#include <csignal>
+#include <sys/prctl.h>
+
 namespace Quorbel::Test {
 
 namespace {
@@ -27,6 +30,45 @@ QByteArray run(const QString& program, const QStringList& arguments, const QList
         program + u' ' + arguments.join(u' ') + u'\n' + QString::fromUtf8(process.readAllStandardError()));
     return process.readAllStandardOutput();
 }
+
+/// The real tool, started once for all its runs: to start takes it longer than to read or write a photo.
+class StayingTool {
+public:
+    QByteArray run(const QStringList& arguments)
+    {
+        if (m_process.state() == QProcess::NotRunning)
+            start();
+        const QStringList lines = arguments
+            + QStringList{ QStringLiteral("-echo3"), QStringLiteral("status ${status}"), QStringLiteral("-execute1\n") };
+        m_process.write(lines.join(u'\n').toUtf8());
+        const QByteArray end("\n{ready1}\n");
+        QByteArray output;
+        while (!output.endsWith(end)) {
+            const bool isMore = m_process.bytesAvailable() > 0 || m_process.waitForReadyRead(60'000);
+            require(isMore, QStringLiteral("no answer to ") + arguments.join(u' '));
+            output += m_process.readAllStandardOutput();
+        }
+        output.chop(end.size());
+        const QByteArray status("status 0");
+        require(output.endsWith(status),
+            arguments.join(u' ') + u'\n' + QString::fromUtf8(m_process.readAllStandardError()));
+        m_process.readAllStandardError();
+        output.chop(status.size());
+        return output;
+    }
+
+private:
+    void start()
+    {
+        m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+        m_process.start(realTool().perlURL.toLocalFile(),
+            { realTool().exiftoolURL.toLocalFile(), QStringLiteral("-stay_open"), QStringLiteral("True"),
+                QStringLiteral("-@"), QStringLiteral("-") });
+        require(m_process.waitForStarted(), QStringLiteral("ExifTool does not start"));
+    }
+
+    QProcess m_process;
+};
 
 /// Records the call in a directory of its own (making it also numbers the call, whatever runs at once), then
 /// does what the answer's files say.
@@ -244,7 +286,13 @@ ExifToolRunner realTool()
 
 QByteArray exiftool(const QStringList& arguments)
 {
-    return run(QStringLiteral("/usr/bin/perl"), QStringList{ realTool().exiftoolURL.toLocalFile() } + arguments);
+    // What a line of its own cannot say to the tool that stays is left to one that is started for it.
+    static const QRegularExpression unlisted(QStringLiteral("^(-config|#.*|\\s.*|)$|\n"));
+    const bool isListed = arguments.filter(unlisted).isEmpty();
+    static auto* const staying = new StayingTool;  // ends with the program
+    return isListed
+        ? staying->run(arguments)
+        : run(QStringLiteral("/usr/bin/perl"), QStringList{ realTool().exiftoolURL.toLocalFile() } + arguments);
 }
 
 QJsonObject exiftoolValues(const QUrl& file)
