@@ -178,10 +178,10 @@ private:
         const QByteArray exif = ImageFiles::exifBlock(1, ImageFiles::written(small, "jpg", 80));
         return ImageFiles::withExif(ImageFiles::written(image, "jpg", 90), exif);
     }
-    /// A phone spends about a bit on a pixel.
+    /// A phone spends about a bit on a pixel; at this quality so do these.
     static QByteArray heicWithThumbnail(const QImage& image)
     {
-        return ImageFiles::heif(image, false, { .thumbnail = 320, .quality = 50 });
+        return ImageFiles::heif(image, false, { .thumbnail = 320, .quality = 35 });
     }
     static QByteArray avif(const QImage& image) { return ImageFiles::heif(image, true); }
     static QByteArray jxl(const QImage& image) { return ImageFiles::jxl(image); }

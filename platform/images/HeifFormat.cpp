@@ -3,6 +3,7 @@
 #include "platform/images/HeaderGate.h"
 #include "platform/images/HeifHeader.h"
 #include "platform/images/HeifThumbnailView.h"
+#include "platform/images/HevcToRgb.h"
 #include "platform/images/WholeFrameTurn.h"
 
 #include <QColorSpace>
@@ -227,15 +228,31 @@ QImage pixelsOf(const Image& image, bool premultiplied)
     return pixels;
 }
 
+/// Null when the library cannot decode it. In planes, as it has them: interleaving is cheaper here than there.
+Image decodedImage(const Handle& handle)
+{
+    heif_image* image = nullptr;
+    const heif_error error = heif_decode_image(handle.get(), &image, heif_colorspace_RGB, heif_chroma_444, nullptr);
+    return Image(fine(error) ? image : nullptr);
+}
+
+/// The same, the quick way when the picture allows it.
+Image quicklyDecodedImage(const Handle& handle)
+{
+    const HevcToRgb quick(handle.get());
+    return decodedImage(handle);
+}
+
 DecodedFrame decodeHandle(const Handle& handle, const DecodeSource& source)
 {
-    // In planes, as the library has it: interleaving is cheaper here than there.
     const bool premultiplied = heif_image_handle_is_premultiplied_alpha(handle.get()) != 0;
-    heif_image* decoded = nullptr;
     DecodedFrame frame;
-    if (!fine(heif_decode_image(handle.get(), &decoded, heif_colorspace_RGB, heif_chroma_444, nullptr)))
+    Image image = quicklyDecodedImage(handle);
+    if (!image && !source.cancel.stop_requested())
+        image = decodedImage(handle);
+    if (!image)
         return frame;
-    QImage pixels = pixelsOf(Image(decoded), premultiplied);
+    QImage pixels = pixelsOf(image, premultiplied);
     if (pixels.isNull())
         return frame;
     frame.image = qMax(pixels.width(), pixels.height()) > source.longSide

@@ -136,10 +136,18 @@ QByteArray heif(const QImage& image, bool av1, const HeifExtras& extras)
     heif_image *pixels = heifImage(image), *small = heifImage(extras.thumbnailOf.isNull() ? image : extras.thumbnailOf);
     if (!extras.icc.isEmpty())
         heif_image_set_raw_color_profile(pixels, "prof", extras.icc.constData(), size_t(extras.icc.size()));
+    heif_color_profile_nclx* nclx = heif_nclx_color_profile_alloc();
+    nclx->matrix_coefficients = heif_matrix_coefficients(extras.matrix);
+    nclx->full_range_flag = extras.fullRange ? 1 : 0;
+    heif_encoding_options* options = heif_encoding_options_alloc();
+    heif_image_set_nclx_color_profile(pixels, nclx);
+    options->macOS_compatibility_workaround_no_nclx_profile = 0;
     heif_image_handle *primary = nullptr, *thumbnail = nullptr;
-    heif_context_encode_image(context, pixels, encoder, nullptr, &primary);
+    heif_context_encode_image(context, pixels, encoder, options, &primary);
     if (extras.thumbnail > 0)
-        heif_context_encode_thumbnail(context, small, primary, encoder, nullptr, extras.thumbnail, &thumbnail);
+        heif_context_encode_thumbnail(context, small, primary, encoder, options, extras.thumbnail, &thumbnail);
+    heif_encoding_options_free(options);
+    heif_nclx_color_profile_free(nclx);
     QByteArray bytes;
     heif_writer writer{ .writer_api_version = 1,
         .write = [](heif_context*, const void* data, size_t size, void* to) -> heif_error {

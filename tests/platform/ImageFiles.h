@@ -16,6 +16,8 @@ struct HeifExtras {
     QImage thumbnailOf{};  ///< another picture than the file's
     int quality = 90;
     QByteArray icc{};
+    int matrix = 6;  ///< of luma and chroma: 1 is BT.709's, 6 BT.601's
+    bool fullRange = true;
 };
 /// HEVC or AV1 in a HEIF container.
 QByteArray heif(const QImage& image, bool av1, const HeifExtras& extras = {});

@@ -391,6 +391,26 @@ private slots:
             QString());
     }
 
+    /// How luma and chroma are meant stands in the container or, when that is silent, in the stream.
+    void heifLumaAndChroma_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        for (const int matrix : { 1, 6, 9, 7 })  // BT.709, BT.601, BT.2020, and one that is left to the library
+            for (const bool full : { true, false }) {
+                const QImage image = ImageFiles::quarters({ 96, 64 });
+                QByteArray bytes = ImageFiles::heif(image, false, { .matrix = matrix, .fullRange = full });
+                QTest::addRow("matrix %d, %s", matrix, full ? "full" : "studio") << bytes;
+                bytes.replace("colrnclx", "freenclx");
+                QTest::addRow("matrix %d, %s, in the stream", matrix, full ? "full" : "studio") << bytes;
+            }
+    }
+    void heifLumaAndChroma()
+    {
+        QFETCH(QByteArray, bytes);
+        const QImage image = ImageDecoder::decode(stored(bytes, "a.heic"), 96).image;
+        QCOMPARE(wrongQuarter(image, ImageFiles::quarters({ 96, 64 }), 4), QString());
+    }
+
     /// A HEIC's thumbnail stands for the photo, so it must not be one with bars.
     void heifThumbnailOfAnotherShapeIsNotThePhoto()
     {
