@@ -137,8 +137,8 @@ Image decodeAt(const DecodeSource& source, ImageFormat format, QSize size)
     opj_dparameters_t parameters{};
     opj_set_default_decoder_parameters(&parameters);
     opj_image_t* header = nullptr;
-    if (!codec || !opj_setup_decoder(codec.get(), &parameters) || !opj_decoder_set_strict_mode(codec.get(), OPJ_FALSE)
-        || !opj_read_header(stream.get(), codec.get(), &header))
+    // Strict, as it is by default: the lenient mode of version 2.5.0 reads beyond its memory when a file is cut off.
+    if (!codec || !opj_setup_decoder(codec.get(), &parameters) || !opj_read_header(stream.get(), codec.get(), &header))
         return {};
     Image image(header);
     opj_codestream_info_v2_t* info = opj_get_cstr_info(codec.get());
