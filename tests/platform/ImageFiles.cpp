@@ -140,8 +140,10 @@ QByteArray heif(const QImage& image, bool av1, const HeifExtras& extras)
     nclx->matrix_coefficients = heif_matrix_coefficients(extras.matrix);
     nclx->full_range_flag = extras.fullRange ? 1 : 0;
     heif_encoding_options* options = heif_encoding_options_alloc();
-    heif_image_set_nclx_color_profile(pixels, nclx);
-    options->macOS_compatibility_workaround_no_nclx_profile = 0;
+    if (extras.matrix != HeifExtras().matrix || !extras.fullRange) {
+        heif_image_set_nclx_color_profile(pixels, nclx);
+        options->macOS_compatibility_workaround_no_nclx_profile = 0;
+    }
     heif_image_handle *primary = nullptr, *thumbnail = nullptr;
     heif_context_encode_image(context, pixels, encoder, options, &primary);
     if (extras.thumbnail > 0)
