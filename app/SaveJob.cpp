@@ -15,10 +15,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The tool is given the files behind symbolic links and names those; told of the targets that stand for them.
-QList<FileFailure> namedFailures(const ToolError::ExecFailed& failed, const QList<QUrl>& targets)
+QList<FileFailure> namedFailures(const ToolError& error, const QList<QUrl>& targets)
 {
     const QList<QUrl> files = SaveGuard::filesBehindLinks(targets);
-    const QList<FileFailure> named = writeFailures(failed.standardError, files);
+    const QList<FileFailure> named = writeFailures(error.messages(), files);
     QList<FileFailure> failures;
     for (const FileFailure& failure : named)
         for (qsizetype i = 0; i < files.size(); ++i)
@@ -57,9 +57,9 @@ Written run(const MetadataService& service, const EditPlan& plan, const QList<QU
         service.write(plan, targets, options);
     } catch (const ToolError& error) {
         written.error = error.description();
-        if (const auto* failed = std::get_if<ToolError::ExecFailed>(&error.payload())) {
+        if (std::holds_alternative<ToolError::ExecFailed>(error.payload())) {
             written.isPartial = true;
-            written.failures = namedFailures(*failed, targets);
+            written.failures = namedFailures(error, targets);
         }
     } catch (const Error& error) {
         written.error = error.description();

@@ -47,9 +47,10 @@ CancelledError::CancelledError()
 {
 }
 
-ToolError::ToolError(Payload payload)
+ToolError::ToolError(Payload payload, const QString& messages)
     : Error(std::visit(Describe{}, payload))
     , m_payload(std::move(payload))
+    , m_messages(messages)
 {
 }
 

@@ -62,12 +62,15 @@ public:
     };
     using Payload = std::variant<PerlNotFound, ExecFailed, DecodeFailed, ToolNotFound>;
 
-    explicit ToolError(Payload payload);
+    explicit ToolError(Payload payload, const QString& messages = {});
     const Payload& payload() const { return m_payload; }
+    /// All that the tool printed to standard error, also when some bytes of it are no text (those are replaced).
+    const QString& messages() const { return m_messages; }
     bool operator==(const ToolError& other) const { return m_payload == other.m_payload; }
 
 private:
     Payload m_payload;
+    QString m_messages;
 };
 
 }  // namespace Quorbel

@@ -282,8 +282,8 @@ QByteArray ExifToolRunner::runForBytes(
     if (ended.isGood)
         return std::move(ended.standardOutput);
     const QString standardError = strictUtf8(ended.standardError);
-    throw ToolError(ToolError::ExecFailed{
-        ended.exitCode, standardError.isEmpty() ? strictUtf8(ended.standardOutput) : standardError });
+    const QString text = standardError.isEmpty() ? strictUtf8(ended.standardOutput) : standardError;
+    throw ToolError(ToolError::ExecFailed{ ended.exitCode, text }, QString::fromUtf8(ended.standardError));
 }
 
 ExifToolRunner::Ended ExifToolRunner::runToEnd(

@@ -25,9 +25,7 @@ QList<FileFailure> writeFailures(const QString& standardError, const QList<QUrl>
 
 QList<FileFailure> writeFailures(const ToolError& error, const QList<QUrl>& targets)
 {
-    QList<FileFailure> failures;
-    if (const auto* exec = std::get_if<ToolError::ExecFailed>(&error.payload()))
-        failures = writeFailures(exec->standardError, targets);
+    QList<FileFailure> failures = writeFailures(error.messages(), targets);
     if (failures.isEmpty())
         for (const auto& target : targets)
             failures.append({ .file = target, .reason = error.description() });

@@ -343,6 +343,17 @@ private slots:
             QVERIFY2(failures[0].reason.startsWith(QStringLiteral("Not a valid JPG")), qPrintable(failures[0].reason));
         }
         QCOMPARE(exiftoolValue(good, QStringLiteral("-XMP-dc:Title")), QStringLiteral("x"));
+        // One byte that is no text, in a warning about another file, does not hide the names.
+        FakeTool tool;
+        tool.answerAlways({ .standardError = "Warning: Odd \xff - /p/x.jpg\nError: Odd - /p/y.jpg\n", .exitCode = 1 });
+        const QList<QUrl> named{ QUrl::fromLocalFile(QStringLiteral("/p/y.jpg")) };
+        try {
+            MetadataService{ tool.runner() }.write(titlePlan("x"), named, {});
+            QFAIL("a failed run passed for a good one");
+        } catch (const ToolError& error) {
+            QCOMPARE(writeFailures(error, named),
+                (QList<FileFailure>{ { .file = named[0], .reason = QStringLiteral("Odd") } }));
+        }
         const ToolError silent(ToolError::ExecFailed{ 9, {} });
         QCOMPARE(writeFailures(silent, { good, bad }).size(), 2);
     }
