@@ -84,8 +84,8 @@ QList<QUrl> urlsOf(const QList<Readable>& photos)
 bool leaveOutBroken(
     const MetadataService& service, QList<Readable>& photos, const ReadControl& control, QList<LeftOut>& leftOut)
 {
-    const QMap<QString, QString> errors = service.runner.readErrors(
-        urlsOf(photos), { .progress = {}, .stop = control.stop, .started = control.started });
+    const QMap<QString, QString> errors =
+        service.runner.readErrors(urlsOf(photos), { .progress = {}, .stop = control.stop, .started = control.started });
     const auto broken = photos.removeIf([&](const Readable& photo) {
         const QString reason = errors.value(photo.url.toLocalFile());
         if (!reason.isEmpty())

@@ -122,16 +122,11 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addRow("Latin") << "Zürich Łódź Ærø";
-        QTest::addRow("Cyrillic") << "Москва";
-        QTest::addRow("Greek") << "Αθήνα";
-        QTest::addRow("Hebrew") << "ירושלים";
-        QTest::addRow("Arabic") << "القاهرة";
-        QTest::addRow("Devanagari") << "वाराणसी";
-        QTest::addRow("Chinese") << "北京故宫";
-        QTest::addRow("Japanese") << "東京タワー";
-        QTest::addRow("Korean") << "서울";
+        QTest::addRow("Cyrillic, Greek") << "Москва Αθήνα";
+        QTest::addRow("Hebrew, Arabic") << "ירושלים القاهرة";
+        QTest::addRow("Devanagari, combining marks") << QStringLiteral("वाराणसी Zu\u0308rich ạ̈");
+        QTest::addRow("Chinese, Japanese, Korean") << "北京 東京タワー 서울";
         QTest::addRow("emoji") << "🏔️👩‍👩‍👧 sky";
-        QTest::addRow("combining marks") << QStringLiteral("Zu\u0308rich ạ̈");
     }
     void keepsEveryScript()
     {

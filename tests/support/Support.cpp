@@ -39,7 +39,8 @@ public:
         if (m_process.state() == QProcess::NotRunning)
             start();
         const QStringList lines = arguments
-            + QStringList{ QStringLiteral("-echo3"), QStringLiteral("status ${status}"), QStringLiteral("-execute1\n") };
+            + QStringList{ QStringLiteral("-echo3"), QStringLiteral("status ${status}"),
+                  QStringLiteral("-execute1\n") };
         m_process.write(lines.join(u'\n').toUtf8());
         const QByteArray end("\n{ready1}\n");
         QByteArray output;
