@@ -105,6 +105,7 @@ QStringList StruckPhotos::unsaved(const QString& title) const
             unsaved.append(name);
     }
     requireKnownNeighbours();
+    unsaved.sort();
     return unsaved;
 }
 

@@ -23,8 +23,8 @@ public:
     explicit StruckPhotos(const QString& folder, uid_t owner = 0);
     QString path(const QString& name) const { return m_folder + u'/' + name; }
     QList<QUrl> urls() const;
-    /// Names of the photos that do not hold the title. One that is damaged, missing, or neither old nor a whole new
-    /// one fails the test, and so does a file that has no business beside them.
+    /// Names of the photos that do not hold the title, sorted. One that is damaged, missing, or neither old nor a whole
+    /// new one fails the test, and so does a file that has no business beside them.
     QStringList unsaved(const QString& title) const;
     /// Names of temporary files that a killed tool left beside them.
     QStringList leftovers() const;
