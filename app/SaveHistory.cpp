@@ -14,7 +14,7 @@ namespace {
 
 constexpr qsizetype mostNamed = 5;
 
-QString joined(QStringList names)
+QString joined(const QStringList& names)
 {
     const qsizetype count = names.size();
     QString text = names.mid(0, mostNamed).join(u", "_s);

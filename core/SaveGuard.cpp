@@ -12,7 +12,7 @@ namespace Quorbel::SaveGuard {
 namespace {
 
 /// A leftover this old belongs to no running tool, in seconds.
-constexpr qint64 leftoverAge = 24 * 60 * 60;
+constexpr qint64 leftoverAge = qint64(24) * 60 * 60;
 /// File names that one message lists.
 constexpr qsizetype namesListed = 5;
 

@@ -201,6 +201,7 @@ void TestSaveFaults::verifyNextStart(const StruckPhotos& photos, const QString& 
         next.verify(photos, u"again"_s);
         for (const QString& name : leftovers)
             makeOld(photos.path(name));
+        next->setErrorMessage({});
         next->requestSave();
         QVERIFY(next.waitUntilIdle());
     }
