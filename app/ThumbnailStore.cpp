@@ -143,6 +143,10 @@ ThumbnailStore::ThumbnailStore(ThumbnailStoreOptions options, QObject* parent)
     m_mailbox->store = this;
     m_pool->setMaxThreadCount(m_lanes);
     m_toolPool->setMaxThreadCount(1);
+}
+
+void ThumbnailStore::pruneDisk()
+{
     m_toolPool->start([workshop = m_workshop] {
         lowerPriority();
         workshop->disk.prune(workshop->options.cacheFolderBytes);

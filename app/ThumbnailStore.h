@@ -32,7 +32,7 @@ struct ThumbnailStoreOptions {
     qsizetype smallBytes = 64LL * 1024 * 1024;  ///< bound of the small images in memory
     qsizetype previewBytes = 48LL * 1024 * 1024;  ///< bound of the previews in memory
     QString cacheFolder{};  ///< the store's own folder on disk, made when missing; empty: none
-    qint64 cacheFolderBytes = 512LL * 1024 * 1024;  ///< the oldest files beyond this are removed at the start
+    qint64 cacheFolderBytes = 512LL * 1024 * 1024;  ///< pruneDisk() removes the oldest files beyond this
     QString sharedFolder{};  ///< thumbnails that other programs share (~/.cache/thumbnails): read, never written
     int workers = 0;  ///< threads that decode; 0: one less than the processor has cores, at least one
     qreal devicePixelRatio = 1;
@@ -83,6 +83,8 @@ public:
     /// The pixels of small images follow the screen: their long side is 90 points times this ratio (at least 1), so
     /// that an ordinary photo fills a square of 60.
     void setDevicePixelRatio(qreal ratio);
+    /// Takes the disk cache back to its bound, in the background.
+    void pruneDisk();
     /// Bytes of pixels in memory.
     qsizetype bytesHeld(Kind kind) const;
 

@@ -106,6 +106,7 @@ void AppDelegate::finishAfterFirstPaint(const QList<QUrl>& urls)
     m_content->buildColumns();
     new ToolTips(this);
     m_instance.listen([this](const HandOver& what) { received(what); });
+    m_app->tidy();
     if (QuorbelApp::checksForUpdates())
         QTimer::singleShot(updateCheckDelay, this, [this] { m_app->updatePresenter().checkAutomatically(); });
 }

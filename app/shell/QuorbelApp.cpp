@@ -24,11 +24,11 @@ QDateTime now()
 }
 
 /// Where the desktop keeps what programs remember from one run to the next.
-QString stateFolder()
+QString journalPath()
 {
     const QString given = qEnvironmentVariable("XDG_STATE_HOME");
     const QString base = QDir::isAbsolutePath(given) ? given : QDir::homePath() + QStringLiteral("/.local/state");
-    return base + QStringLiteral("/quorbel");
+    return base + QStringLiteral("/quorbel/undo.json");
 }
 
 void openUrl(const QUrl& url)
@@ -42,11 +42,6 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     : m_preferences(
         std::make_shared<QSettings>(QSettings::IniFormat, QSettings::UserScope, Product::name(), Product::name()))
 {
-    const QString journalPath = stateFolder() + QStringLiteral("/undo.json");
-    QThreadPool::globalInstance()->start([journalPath] {
-        TemporaryFiles::clearAbandoned();
-        TemporaryFiles::clearHalfWritten(journalPath);
-    });
     const auto service = MetadataService::locate();
     ThumbnailStoreOptions images = ThumbnailStoreOptions::forUser();
     if (service)
@@ -62,7 +57,7 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     services.openUrl = openUrl;
     services.now = now;
     services.quit = hooks.quit;
-    services.journalPath = journalPath;
+    services.journalPath = journalPath();
     m_model = std::make_unique<AppModel>(services);
     m_placeProvider = makePlaceProvider(
         { .dataFolder = placesFolder(), .endpoint = placeEndpoint(m_model->placeService()).value_or(QUrl()) });
@@ -74,6 +69,15 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
 }
 
 QuorbelApp::~QuorbelApp() = default;
+
+void QuorbelApp::tidy()
+{
+    m_thumbnails->pruneDisk();
+    QThreadPool::globalInstance()->start([] {
+        TemporaryFiles::clearAbandoned();
+        TemporaryFiles::clearHalfWritten(journalPath());
+    });
+}
 
 bool QuorbelApp::checksForUpdates()
 {

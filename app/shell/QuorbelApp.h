@@ -33,6 +33,8 @@ public:
     UpdatePresenter& updatePresenter() { return *m_updatePresenter; }
     PlaceProvider* placeProvider() { return m_placeProvider.get(); }
     MapRenderer* mapRenderer() { return m_mapRenderer.get(); }
+    /// Removes in the background what earlier starts have left on disk. Once, when nothing else is waited for.
+    void tidy();
     /// False in a build without a feed host: there is then nothing to offer in a menu.
     static bool checksForUpdates();
 
