@@ -171,8 +171,9 @@ void TestMalformedPhotos::oneByOne()
     f->requestSave();
     QVERIFY(waitPatiently(f));
     const bool isSaved = holdingPlace({ photo }).contains(photo.toLocalFile());
-    QCOMPARE(f->unsavedCount(), isSaved ? 0 : 1);
-    QCOMPARE(f->errorMessage().has_value(), !isSaved);
+    // A photo may hold a tag twice, the new text in one place and another in the one that is read: that is said too.
+    QVERIFY(isSaved || f->unsavedCount() == 1);
+    QCOMPARE(f->errorMessage().has_value(), f->unsavedCount() == 1);
     QCOMPARE(f->draftValues().value(u"place"_s), place);
     const bool isBackedUp = QFile::exists(photo.toLocalFile() + u"_original"_s);
     QCOMPARE(readFile(photo.toLocalFile() + (isBackedUp ? u"_original"_s : QString())) == readFile(path),
