@@ -9,8 +9,7 @@
 namespace Quorbel {
 
 /// The first of its previews that is large enough, else the largest: upright, sRGB, its long side at most `longSide`
-/// pixels; null when the file holds no preview that can be decoded,
-/// when the tool fails, or when stopped.
+/// pixels; null when the file holds no preview that can be decoded, when the tool fails, or when stopped.
 QImage rawPreview(const ExifToolRunner& tool, const QString& path, int longSide, const std::stop_token& stop);
 
 }  // namespace Quorbel
