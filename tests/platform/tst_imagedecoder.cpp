@@ -411,6 +411,19 @@ private slots:
         QCOMPARE(wrongQuarter(image, ImageFiles::quarters({ 96, 64 }), 4), QString());
     }
 
+    void heifContainerGoesBeforeTheStream()
+    {
+        QImage gray(96, 64, QImage::Format_RGB32);
+        gray.fill(qRgb(200, 200, 200));
+        QByteArray bytes = ImageFiles::heif(gray, false, { .matrix = 1, .fullRange = true });
+        const qsizetype range = bytes.indexOf("colrnclx") + 14;
+        QCOMPARE(uchar(bytes.at(range)), 0x80);
+        bytes[range] = 0;  // studio range now; the stream still says full
+        const QImage image = ImageDecoder::decode(stored(bytes, "a.heic"), 96).image;
+        const QRgb stretched = qRgb(214, 214, 214);  // (200 - 16) * 255 / 219
+        QVERIFY2(isNear(image.pixel(48, 32), stretched, 3), qPrintable(image.pixelColor(48, 32).name()));
+    }
+
     /// A HEIC's thumbnail stands for the photo, so it must not be one with bars.
     void heifThumbnailOfAnotherShapeIsNotThePhoto()
     {
