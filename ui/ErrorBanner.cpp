@@ -11,6 +11,7 @@
 #include <QFontMetrics>
 #include <QGraphicsOpacityEffect>
 #include <QPainter>
+#include <QTextLayout>
 #include <QVariantAnimation>
 
 namespace Quorbel {
@@ -29,7 +30,27 @@ constexpr qreal crossSize = 22;
 constexpr qreal shadowRoom = 44;  // on every side of the notice
 constexpr int mostLines = 6;
 
-constexpr int textFlags = Qt::TextWrapAnywhere | Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop;
+/// The message in lines of that width, broken within a word only where that is longer than a line. What does not fit
+/// ends in "…".
+QStringList linesOf(const QString& message, const QFont& font, int width)
+{
+    QTextLayout layout(message, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        if (lines.size() == mostLines - 1) {
+            lines.append(QFontMetrics(font).elidedText(message.mid(line.textStart()), Qt::ElideRight, width));
+            break;
+        }
+        lines.append(message.mid(line.textStart(), line.textLength()).trimmed());
+    }
+    layout.endLayout();
+    return lines;
+}
 
 /// The banner's shadow: a widget of its own below it, so that clicks beside the notice reach what they are meant for.
 class Cast final : public QWidget {
@@ -79,9 +100,10 @@ ErrorBanner::ErrorBanner(AppModel& model, QWidget* parent)
     follow();
 }
 
+/// In one paragraph: only the name of a file could break it, which would read like two names.
 QString ErrorBanner::message() const
 {
-    return m_model.errorMessage().value_or(QString());
+    return m_model.errorMessage().value_or(QString()).replace(u'\n', u' ');
 }
 
 void ErrorBanner::follow()
@@ -107,11 +129,10 @@ void ErrorBanner::place(int bottom)
 {
     if (isHidden() || !parentWidget())
         return;
-    const QFontMetrics metrics(sansFont(13));
     const int width = qMin(px(widest), parentWidget()->width() - 2 * px(20));
     const int textWidth = width - px(leftPadding + iconSize + gap + gap + crossSize + rightPadding);
-    const int textHeight = qMin(metrics.boundingRect(0, 0, textWidth, 10'000, textFlags, message()).height(),
-        mostLines * metrics.lineSpacing());
+    m_lines = linesOf(message(), sansFont(13), textWidth);
+    const int textHeight = int(m_lines.size()) * QFontMetrics(sansFont(13)).lineSpacing();
     const int height = qMax(textHeight, px(18)) + 2 * px(verticalPadding);
     setGeometry((parentWidget()->width() - width) / 2, bottom - height, width, height);
     const int room = px(shadowRoom);
@@ -138,8 +159,7 @@ void ErrorBanner::paintEvent(QPaintEvent*)
     Icon::paint(painter, icon, QStringLiteral("exclamationmark.triangle.fill"), pxF(iconSize), theme.amber);
     painter.setPen(theme.text);
     painter.setFont(sansFont(13));
-    painter.setClipRect(textRect());
-    painter.drawText(textRect(), textFlags, message());
+    painter.drawText(textRect(), Qt::AlignLeft | Qt::AlignVCenter, m_lines.join(u'\n'));
 }
 
 }  // namespace Quorbel

@@ -32,6 +32,7 @@ private:
     QRect textRect() const;
 
     AppModel& m_model;
+    QStringList m_lines;  ///< of the message, as place() broke it
     QWidget* m_cast;  ///< paints the shadow
     QBIconButton* m_close;
 };
