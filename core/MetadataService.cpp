@@ -215,14 +215,13 @@ JournalEntry MetadataService::journalEntry(const EditPlan& plan, const QList<QUr
     if (entry.writtenTags.isEmpty() || targets.isEmpty())
         return entry;
     const auto files = SaveGuard::filesBehindLinks(targets);
-    const auto tagsByPath = SaveJournal::parseTags(runner.readXML(SaveJournal::readArgs(entry.writtenTags), files));
-    for (const auto& file : files) {
-        const QString path = file.toLocalFile();
-        const auto stamp = FileStamp::of(path);
-        const auto tags = tagsByPath.constFind(path);
-        if (stamp && tags != tagsByPath.cend())
-            entry.files.append({ .path = path, .before = *stamp, .after = *stamp, .tags = *tags });
-    }
+    QStringList paths;
+    for (const auto& file : files)
+        paths.append(file.toLocalFile());
+    const auto tags = SaveJournal::parseTags(runner.readXML(SaveJournal::readArgs(entry.writtenTags), files), paths);
+    for (qsizetype i = 0; i < paths.size(); ++i)
+        if (const auto stamp = FileStamp::of(paths[i]); stamp && tags[i])
+            entry.files.append({ .path = paths[i], .before = *stamp, .after = *stamp, .tags = *tags[i] });
     return entry;
 }
 

@@ -44,22 +44,35 @@ bool isPosition(const QString& tag)
     return tag.startsWith(QStringLiteral("GPS")) && !tag.contains(u':');
 }
 
+/// In Base64 where XML cannot hold the text.
+bool isEncoded(const QXmlStreamReader& xml)
+{
+    return xml.attributes().value(QStringLiteral("rdf:datatype")).endsWith(u"base64Binary");
+}
+
+QString decoded(const QString& text, bool encoded)
+{
+    return encoded ? QString::fromUtf8(QByteArray::fromBase64(text.toLatin1())) : text;
+}
+
 QStringList itemsOf(QXmlStreamReader& xml)
 {
     QStringList items;
     while (xml.readNextStartElement()) {
-        if (xml.name() == QStringLiteral("li"))
-            items.append(xml.readElementText(QXmlStreamReader::IncludeChildElements));
-        else
+        if (xml.name() == QStringLiteral("li")) {
+            const bool encoded = isEncoded(xml);
+            items.append(decoded(xml.readElementText(QXmlStreamReader::IncludeChildElements), encoded));
+        } else {
             items += itemsOf(xml);  // the bag around them
+        }
     }
     return items;
 }
 
-/// One tag's element: a text, a text in Base64 where XML cannot hold it, or a bag of items.
+/// One tag's element: a text or a bag of items.
 QStringList valuesOf(QXmlStreamReader& xml)
 {
-    const bool encoded = xml.attributes().value(QStringLiteral("rdf:datatype")).endsWith(u"base64Binary");
+    const bool encoded = isEncoded(xml);
     QString text;
     while (!xml.atEnd()) {
         switch (xml.readNext()) {
@@ -72,12 +85,45 @@ QStringList valuesOf(QXmlStreamReader& xml)
             text += xml.text();
             break;
         case QXmlStreamReader::EndElement:
-            return { encoded ? QString::fromUtf8(QByteArray::fromBase64(text.toLatin1())) : text };
+            return { decoded(text, encoded) };
         default:
             break;
         }
     }
     return {};
+}
+
+/// A path as it is read in ExifTool's XML: there is no tab and no line break in an attribute, and no other control
+/// character in XML at all.
+QString printedPath(QString path)
+{
+    path.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    for (QChar& c : path)
+        if (c < u' ')
+            c = c == u'\t' || c == u'\n' || c == u'\r' ? u' ' : u'.';
+    return path;
+}
+
+/// What was printed for files whose paths are printed alike, in the order of the answer.
+QMap<QString, QList<FileTags>> answersByPrintedPath(const QByteArray& xml)
+{
+    QMap<QString, QList<FileTags>> answers;
+    QXmlStreamReader reader(xml);
+    // Tag names are used as they stand, group and colon included.
+    reader.setNamespaceProcessing(false);
+    QString path;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const QString name = reader.qualifiedName().toString();
+        if (name == QStringLiteral("rdf:Description")) {
+            path = reader.attributes().value(QStringLiteral("rdf:about")).toString();
+            answers[path].append(FileTags());
+        } else if (auto known = answers.find(path); known != answers.end()) {
+            known->last().insert(name, valuesOf(reader));
+        }
+    }
+    return answers;
 }
 
 QJsonObject toJson(const FileStamp& stamp)
@@ -181,25 +227,26 @@ QStringList readArgs(const QStringList& writtenTags)
     return args;
 }
 
-QMap<QString, QMap<QString, QStringList>> parseTags(const QByteArray& xml)
+QList<std::optional<FileTags>> parseTags(const QByteArray& xml, const QStringList& paths)
 {
-    QMap<QString, QMap<QString, QStringList>> files;
-    QXmlStreamReader reader(xml);
-    // Tag names are used as they stand, group and colon included.
-    reader.setNamespaceProcessing(false);
-    QString path;
-    while (!reader.atEnd()) {
-        if (reader.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        const QString name = reader.qualifiedName().toString();
-        if (name == QStringLiteral("rdf:Description")) {
-            path = reader.attributes().value(QStringLiteral("rdf:about")).toString();
-            files.insert(path, {});
-        } else if (name != QStringLiteral("rdf:RDF")) {
-            files[path].insert(name, valuesOf(reader));
+    QMap<QString, QList<FileTags>> answers = answersByPrintedPath(xml);
+    QMap<QString, qsizetype> asked;
+    for (const auto& path : paths)
+        ++asked[printedPath(path)];
+    QList<std::optional<FileTags>> tags;
+    tags.reserve(paths.size());
+    for (const auto& path : paths) {
+        const QString printed = printedPath(path);
+        const auto alike = answers.constFind(printed);
+        // The order tells alike ones apart, unless one of them gave no answer.
+        const bool isKnown = alike != answers.cend() && alike->size() == asked.value(printed);
+        tags.append(isKnown ? std::optional(alike->constFirst()) : std::nullopt);
+        if (isKnown) {
+            answers[printed].removeFirst();
+            --asked[printed];
         }
     }
-    return files;
+    return tags;
 }
 
 QStringList restoreArgs(const JournalEntry& entry, const JournalFile& file)

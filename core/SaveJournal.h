@@ -27,13 +27,15 @@ struct FileStamp {
     static std::optional<FileStamp> of(const QString& path);
 };
 
+/// ExifTool tag ("XMP-dc:Title-de") to its values.
+using FileTags = QMap<QString, QStringList>;
+
 struct JournalFile {
     QString path{};
     FileStamp before{};
     FileStamp after{};
-    /// ExifTool tag ("XMP-dc:Title-de") to the values that it held before the save. A written tag that is not here
-    /// was absent.
-    QMap<QString, QStringList> tags{};
+    /// What they held before the save. A written tag that is not here was absent.
+    FileTags tags{};
     bool operator==(const JournalFile&) const = default;
 };
 
@@ -55,8 +57,8 @@ constexpr qsizetype limit = 20;
 QStringList writtenTags(const EditPlan& plan);
 /// Arguments that read those tags losslessly, language variants and custom fields included.
 QStringList readArgs(const QStringList& writtenTags);
-/// The values in ExifTool's XML answer, by path.
-QMap<QString, QMap<QString, QStringList>> parseTags(const QByteArray& xml);
+/// The values in ExifTool's XML answer about these paths, in their order; nothing for a file without an answer.
+QList<std::optional<FileTags>> parseTags(const QByteArray& xml, const QStringList& paths);
 /// Assignments that put the old values back into one file.
 QStringList restoreArgs(const JournalEntry& entry, const JournalFile& file);
 

@@ -403,6 +403,32 @@ private slots:
         QCOMPARE(readFile(c.toLocalFile()), jpegBytes(9, 9));
     }
 
+    /// XML holds no control characters: names that hold some are printed like others, and such values in Base64.
+    void takesASaveBackDespiteControlCharacters()
+    {
+        PhotoFolder folder;
+        QList<QUrl> photos;
+        QStringList titles;
+        for (const char* name : { "a b.jpg", "a\tb.jpg", "a\nb.jpg", "a\r\nb.jpg", "c.d.jpg", "c\001d.jpg" }) {
+            photos.append(folder.add(QString::fromLatin1(name)));
+            titles.append(QString::number(titles.size()));
+            exiftool({ "-q", "-overwrite_original", "-XMP-dc:Title=" + titles.last(), "-IPTC:Keywords=one\001two",
+                "-IPTC:Keywords=three", photos.last().toLocalFile() });
+        }
+        const auto service = realService();
+        const EditPlan plan{ .scalars = { { "title", "new" } }, .lists = { { "keywords", { "new" } } } };
+        JournalEntry entry = service.journalEntry(plan, photos);
+        QCOMPARE(entry.files.size(), photos.size());
+        service.write(plan, photos, {});
+        for (auto& file : entry.files)
+            file.after = *FileStamp::of(file.path);
+        QCOMPARE(service.undo(entry).restored.size(), photos.size());
+        for (qsizetype i = 0; i < photos.size(); ++i) {
+            QCOMPARE(exiftoolValue(photos[i], QStringLiteral("-XMP-dc:Title")), titles[i]);
+            QCOMPARE(exiftool({ "-b", "-IPTC:Keywords", photos[i].toLocalFile() }), QByteArray("one\001two\nthree"));
+        }
+    }
+
     void journalKeepsTheNewestAndFollows()
     {
         PhotoFolder folder;
