@@ -35,6 +35,9 @@ Check check(const QUrl& url)
     struct stat status { };
     if (stat(path.constData(), &status) != 0) {
         const int error = errno;
+        // Qt holds a name as text, and a byte that is none as this character: the name does not lead back.
+        if (error == ENOENT && url.fileName().contains(QChar::ReplacementCharacter))
+            return { false, u"its name is not UTF-8"_s };
         const bool isLink = lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
         return { false, isLink && (error == ENOENT || error == ELOOP) ? u"broken link"_s : systemReason(error) };
     }

@@ -8,6 +8,7 @@
 
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
@@ -143,15 +144,19 @@ void TestAppModelLibrary::unreadableFilesAreLeftOutAndNamed()
     QVERIFY(QDir(f.folder.path()).mkpath(u"directory.jpg"_s));
     f.folder.add(u"directory.jpg/inside.jpg"_s);
     QCOMPARE(mkfifo(f.folder.path(u"pipe.jpg"_s).toLocal8Bit().constData(), 0600), 0);
+    const std::string otherEncoding = f.folder.path().toStdString() + "/d\xff.jpg";
+    const auto removed = qScopeGuard([&] { std::filesystem::remove(otherEncoding); });  // Qt cannot
+    std::ofstream(otherEncoding) << "a photo";
     QVERIFY(f.open());
-    QCOMPARE(
-        f->errorMessage(), u"2 files could not be read and were left out: empty.jpg (empty), link.jpg (broken link)"_s);
+    QCOMPARE(f->errorMessage(),
+        u"3 files could not be read and were left out: d\ufffd.jpg (its name is not UTF-8), empty.jpg (empty), "
+        "link.jpg (broken link)"_s);
     QCOMPARE(f.visible(), jpgs(u"abcdef"_s));
     f.folder.add(u"broken.gif"_s, "GIF\x04");
     QVERIFY(f.open());
     QCOMPARE(f->errorMessage(),
-        u"3 files could not be read and were left out: empty.jpg (empty), link.jpg (broken link), "
-        "broken.gif (file format error)"_s);
+        u"4 files could not be read and were left out: d\ufffd.jpg (its name is not UTF-8), empty.jpg (empty), "
+        "link.jpg (broken link), broken.gif (file format error)"_s);
     QCOMPARE(f.visible(), jpgs(u"abcdef"_s));
 }
 
