@@ -39,6 +39,14 @@ constexpr auto activationVariable = "XDG_ACTIVATION_TOKEN";
 /// Milliseconds after the window's first picture: the network must not slow the first photos down.
 constexpr int updateCheckDelay = 1'500;
 
+/// Centred on it, in the size that it asks for. Window managers put second windows into corners.
+void placeOver(QWidget& second, const QWidget& window)
+{
+    QRect place(QPoint(), second.sizeHint().expandedTo(second.minimumSize()));
+    place.moveCenter(window.geometry().center());
+    second.setGeometry(place);
+}
+
 }  // namespace
 
 void AppDelegate::willFinishLaunching(int argc, char* argv[])
@@ -194,9 +202,7 @@ void AppDelegate::openSettings()
         m_settings->setAttribute(Qt::WA_DeleteOnClose);
         m_settings->setAttribute(Qt::WA_QuitOnClose, false);
         applyThemes();
-        QRect place(QPoint(), m_settings->sizeHint());
-        place.moveCenter(m_window->geometry().center());
-        m_settings->setGeometry(place);
+        placeOver(*m_settings, *m_window);
     }
     m_settings->show();
     m_settings->raise();
@@ -210,6 +216,7 @@ void AppDelegate::openHelp()
         m_help->setAttribute(Qt::WA_DeleteOnClose);
         m_help->setAttribute(Qt::WA_QuitOnClose, false);
         applyThemes();
+        placeOver(*m_help, *m_window);
     }
     m_help->show();
     m_help->raise();
