@@ -54,6 +54,11 @@ InspectorFooter::InspectorFooter(AppModel& model, QWidget* parent)
     });
 }
 
+QList<QWidget*> InspectorFooter::tabStops() const
+{
+    return { m_rename, m_add, m_save };
+}
+
 QString InspectorFooter::unsavedText() const
 {
     return m_unsaved->text();

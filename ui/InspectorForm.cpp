@@ -256,6 +256,8 @@ void InspectorForm::orderTabStops()
             stops.append(m_map->fillLink());
     }
     take(m_customs);
+    // A row made late stands behind the rest of the window: what follows the form goes there with it.
+    stops.append(m_stopsBehind);
     for (qsizetype i = 1; i < stops.size(); ++i)
         QWidget::setTabOrder(stops.at(i - 1), stops.at(i));
 }

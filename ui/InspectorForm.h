@@ -39,6 +39,8 @@ public:
         AppModel& model, ThumbnailStore* thumbs, PlaceProvider* places, MapRenderer* maps, QWidget* parent = nullptr);
     /// Reads the model again and shows what differs. Needs a selected photo.
     void refresh();
+    /// The controls that Tab comes to behind the form's last.
+    void setTabStopsBehind(const QList<QWidget*>& stops) { m_stopsBehind = stops; }
     /// Pixels kept free at the lower end.
     void setBottomInset(int pixels);
     /// The row of a schema field, by its id; null while it is not on screen.
@@ -81,6 +83,7 @@ private:
     Subject m_subject{};
     QSet<QString> m_added{};  ///< the fields that were added when the model was last read
     bool m_tabOrderStale = true;
+    QList<QWidget*> m_stopsBehind;
     QHash<QString, FieldRow*> m_pool;  ///< by field id, or by the key of a custom field
     QVBoxLayout* m_column;
     PhotoHeader* m_header;

@@ -35,6 +35,7 @@ InspectorView::InspectorView(
     m_scroll->setWidget(m_form);
     m_form->setAutoFillBackground(false);
     m_form->installEventFilter(this);
+    m_form->setTabStopsBehind(m_footer->tabStops());
     OverlayScrollBar::attach(m_scroll);
     m_nothing->setAlignment(Qt::AlignCenter);
     auto* column = new QVBoxLayout(this);

@@ -147,7 +147,6 @@ KeywordEditor::KeywordEditor(QWidget* parent)
     m_flow->setContentsMargins(3, 1, 3, 1);
     m_flow->setLastItemFills(true);
     m_flow->addWidget(m_entry);
-    setFocusProxy(m_entry);
     setCursor(Qt::IBeamCursor);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_ring = installFocusRing(this, { RingShape::field, 7, [this] { return m_edited; }, {} });
@@ -222,6 +221,11 @@ void KeywordEditor::setPlaceholder(const QString& text)
 void KeywordEditor::setCompletions(Completions completions)
 {
     m_completions = std::move(completions);
+}
+
+QLineEdit* KeywordEditor::entry() const
+{
+    return m_entry;
 }
 
 QString KeywordEditor::entryText() const

@@ -8,6 +8,8 @@
 
 #include <functional>
 
+class QLineEdit;
+
 namespace Quorbel {
 
 class FlowLayout;
@@ -34,6 +36,9 @@ public:
     void setEdited(bool edited);
     void setPlaceholder(const QString& text);
     void setCompletions(Completions completions);
+    /// Where one types: what takes the keyboard. No focus proxy of the editor: Qt gives Tab to a widget with a proxy
+    /// as well, at the place where it was made.
+    QLineEdit* entry() const;
     /// What is being typed.
     QString entryText() const;
     void clearEntry();

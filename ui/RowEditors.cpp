@@ -64,7 +64,7 @@ RowEditor keywordEditor(const KeywordEditor::Completions& completions, FieldRow&
     editor->setCompletions(completions);
     QObject::connect(editor, &KeywordEditor::added, &row, &FieldRow::itemAdded);
     QObject::connect(editor, &KeywordEditor::removed, &row, &FieldRow::itemRemoved);
-    return { editor, editor->focusProxy(), { editor->focusProxy() }, [editor](const FieldRowState& state, bool fresh) {
+    return { editor, editor->entry(), { editor->entry() }, [editor](const FieldRowState& state, bool fresh) {
                 if (fresh)
                     editor->clearEntry();
                 editor->setAmber(state.batch);

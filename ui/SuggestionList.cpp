@@ -30,9 +30,8 @@ SuggestionList::SuggestionList(QWidget* field)
     , m_field(field)
 {
     installAccessibility();
-    // A click hands the focus to the field, which has it already: whatever lies behind must not get it.
-    setFocusPolicy(Qt::ClickFocus);
-    setFocusProxy(field);
+    // Neither a focus policy nor a proxy: with either, Tab would find the list, wherever it stands among the window's
+    // controls.
     setMouseTracking(true);
     setAccessibleName(QStringLiteral("Suggestions"));
     // While it is open it belongs to the window, and would outlive its field.
