@@ -270,10 +270,12 @@ QSize QBTextArea::sizeHint() const
 
 void QBTextArea::grow()
 {
-    // The document counts its height in lines.
-    const qreal lines = document()->documentLayout()->documentSize().height();
-    const int text = int(std::ceil(lines * QFontMetricsF(font()).lineSpacing()));
-    const int wanted = qMax(px(54), text + 2 * px(9));
+    // As laid out: lines are whole pixels high, and higher where another font stands in for missing letters.
+    qreal text = 0;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        text += document()->documentLayout()->blockBoundingRect(block).height();
+    // One pixel more: without, QPlainTextEdit thinks that its last line is out of sight, and scrolls the first away.
+    const int wanted = qMax(px(54), int(std::ceil(text)) + 1 + 2 * px(9));
     if (wanted == height() && wanted == minimumHeight())
         return;
     setFixedHeight(wanted);

@@ -6,6 +6,7 @@
 #include "ui/ThemedMenu.h"
 
 #include <QClipboard>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 using namespace Quorbel;
@@ -31,7 +32,7 @@ struct KeywordOwner {
             editor->setChips(left);
         });
         stage.show();
-        editor->setFocus();
+        editor->entry()->setFocus();
     }
     QWidget* focused() const { return QApplication::focusWidget(); }
     void press(std::initializer_list<Qt::Key> keys) const
@@ -175,9 +176,10 @@ private slots:
         stage.show();
         QCOMPARE(area->height(), px(54));
         area->setFocus();
-        for (int line = 1; line < 5; ++line) {
-            QTest::keyClicks(area, u"line"_s);
+        for (int line = 1; line < 9; ++line) {
+            area->insertPlainText(line == 4 ? u"日本語 of another font"_s : u"line"_s);
             QTest::keyClick(area, Qt::Key_Return);
+            QCOMPARE(area->verticalScrollBar()->maximum(), 0);  // no line out of sight
         }
         QTRY_VERIFY(area->height() >= 5 * QFontMetrics(area->font()).height() + 2 * px(8));
         area->setBoundText(QString(400, u'x') + u" words to be wrapped into the width of the field"_s);
