@@ -32,11 +32,13 @@ void paintGround(QPainter& painter, const QStyleOptionViewItem& option, const QR
         painter.setBrush(selected ? theme.sel : theme.derived.rowHover);
         painter.drawRoundedRect(row, pxF(rowRadius), pxF(rowRadius));
     }
-    // The row that the keyboard is on shows only where it is not the selection that shows it.
-    if (option.state & QStyle::State_HasFocus && !selected) {
+    // The row that the keyboard is on: around it, or inside a selected one while keys are in use.
+    if (option.state & QStyle::State_HasFocus && (!selected || option.state & QStyle::State_KeyboardFocusChange)) {
+        const qreal inset = selected ? 3 : 1;
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(theme.derived.focusStrong, pxF(2)));
-        painter.drawRoundedRect(row.adjusted(1, 1, -1, -1), pxF(rowRadius) - 1, pxF(rowRadius) - 1);
+        painter.setPen(QPen(selected ? theme.selSub : theme.derived.focusStrong, pxF(selected ? 1.5 : 2)));
+        painter.drawRoundedRect(
+            row.adjusted(inset, inset, -inset, -inset), pxF(rowRadius) - inset, pxF(rowRadius) - inset);
     }
 }
 

@@ -10,9 +10,11 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace Quorbel {
 
@@ -58,6 +60,7 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     m_thumbnailsSoon.setSingleShot(true);
     connect(&m_thumbnailsSoon, &QTimer::timeout, this, &SidebarList::requestThumbnails);
     connect(&m_rows, &QAbstractItemModel::modelReset, this, &SidebarList::showSelection);
+    connect(&m_rows, &QAbstractItemModel::modelReset, this, [this] { setAccessibleDescription(emptyText()); });
     connect(&model, &AppModel::selectionChanged, this, &SidebarList::showSelection);
     connect(&model, &AppModel::primaryChanged, this, &SidebarList::showPrimary);
     if (thumbs)
@@ -124,10 +127,60 @@ void SidebarList::choose(int row, bool shift, bool command)
         m_model.tap(QUrl(photo->url), shift, command);  // a copy: the records may change under the call
 }
 
+// --- When the search has no hits ---
+
+QString SidebarList::emptyText() const
+{
+    const bool missed = m_rows.rowCount() == 0 && !m_model.records().isEmpty();
+    return missed ? QStringLiteral("No matching photos.") : QString();
+}
+
+void SidebarList::paintEvent(QPaintEvent* event)
+{
+    QListView::paintEvent(event);
+    const QString text = emptyText();
+    if (text.isEmpty())
+        return;
+    QPainter painter(viewport());
+    painter.setFont(sansFont(12));
+    painter.setPen(Theme::of(this).derived.label);
+    const QRect line(0, px(24), viewport()->width(), px(18));
+    painter.drawText(line, Qt::AlignCenter | Qt::TextSingleLine, text);
+}
+
 // --- Keyboard ---
+
+void SidebarList::takeKeyboard()
+{
+    setFocus(Qt::TabFocusReason);
+    if (!m_model.primary() || m_rows.row(*m_model.primary()) < 0)
+        choose(0, false, false);
+}
+
+void SidebarList::focusInEvent(QFocusEvent* event)
+{
+    const Qt::FocusReason reason = event->reason();
+    m_byKeyboard = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+    QListView::focusInEvent(event);
+}
+
+void SidebarList::initViewItemOption(QStyleOptionViewItem* option) const
+{
+    QListView::initViewItemOption(option);
+    option->state.setFlag(QStyle::State_KeyboardFocusChange, m_byKeyboard);
+}
+
+/// Whether the current row has to show that the keyboard is on it.
+void SidebarList::setByKeyboard(bool on)
+{
+    if (on == std::exchange(m_byKeyboard, on))
+        return;
+    update(currentIndex());
+}
 
 void SidebarList::keyPressEvent(QKeyEvent* event)
 {
+    setByKeyboard(true);
     if (event->matches(QKeySequence::SelectAll)) {
         m_model.selectAllPhotos();
     } else if (moveCursor(*event)) {
@@ -214,6 +267,7 @@ void SidebarList::keyboardSearch(const QString& text)
 
 void SidebarList::mousePressEvent(QMouseEvent* event)
 {
+    setByKeyboard(false);
     if (event->button() != Qt::LeftButton)
         return;
     const QModelIndex index = indexAt(event->position().toPoint());

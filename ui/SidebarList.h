@@ -26,6 +26,8 @@ public:
     SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* parent = nullptr);
 
     void keyboardSearch(const QString& text) override;
+    /// Takes the focus for the arrow keys. Selects the first photo shown when the primary one is not among them.
+    void takeKeyboard();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -36,6 +38,9 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
+    void focusInEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 
 private:
@@ -49,11 +54,14 @@ private:
     void requestThumbnails();
     void repaintThumbnail(const QUrl& url);
     std::pair<int, int> rowsOnScreen() const;
+    QString emptyText() const;
+    void setByKeyboard(bool on);
 
     AppModel& m_model;
     QPointer<ThumbnailStore> m_thumbs;
     SidebarModel m_rows;
     QTimer m_thumbnailsSoon;
+    bool m_byKeyboard = false;
     QString m_typed{};
     QElapsedTimer m_sinceTyped{};
 };

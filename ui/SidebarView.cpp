@@ -12,6 +12,7 @@
 
 #include <QActionGroup>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -124,6 +125,7 @@ QWidget* SidebarView::buildFind()
     m_search->setAccessibleName(QStringLiteral("Search"));
     m_search->setBoundText(m_model.search());
     connect(m_search, &QLineEdit::textEdited, &m_model, &AppModel::setSearch);
+    m_search->installEventFilter(this);
     connect(&m_model, &AppModel::searchChanged, m_search, [this] { m_search->setBoundText(m_model.search()); });
     line->addWidget(m_search, 1);
     m_sort = new QBIconButton(QStringLiteral("arrow.up.arrow.down"), QStringLiteral("Sort images"));
@@ -157,6 +159,26 @@ void SidebarView::focusSearch()
 {
     m_search->setFocus(Qt::ShortcutFocusReason);
     m_search->selectAll();
+}
+
+/// From the search field, Down and Return lead to what was found, and Escape shows all photos again.
+bool SidebarView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_search && event->type() == QEvent::KeyPress) {
+        switch (static_cast<QKeyEvent*>(event)->key()) {
+        case Qt::Key_Escape:
+            m_model.setSearch({});
+            return true;
+        case Qt::Key_Down:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            m_list->takeKeyboard();
+            return true;
+        default:
+            break;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 int SidebarView::listTop() const

@@ -40,6 +40,8 @@ private slots:
     void clicks();
     void doubleClickOpensAndSelectsOnce();
     void searchFiltersAndSelectAllTakesWhatIsShown();
+    void searchByKeysAlone();
+    void showsWhereTheKeyboardIsAmongSelectedRows();
     void unsavedEditsHoldTheSelection();
     void rowsHaveNames();
     void onlyRowsOnScreenAskForThumbnails();
@@ -193,6 +195,38 @@ void tst_Sidebar::searchFiltersAndSelectAllTakesWhatIsShown()
     press(Qt::Key_Home);
     QTest::keyClick(search, Qt::Key_Delete);
     QCOMPARE(list()->model()->rowCount(), photoCount);
+}
+
+void tst_Sidebar::searchByKeysAlone()
+{
+    auto* search = m_view->findChild<QLineEdit*>();
+    m_view->focusSearch();
+    QTest::keyClicks(search, QStringLiteral("nowhere"));
+    QCOMPARE(list()->accessibleDescription(), QStringLiteral("No matching photos."));
+    QVERIFY(pixelsLike(list()->viewport()->grab().toImage(), Theme::light().derived.label) > 10);
+    QTest::keyClick(search, Qt::Key_Escape);
+    QCOMPARE(list()->model()->rowCount(), photoCount);
+    QCOMPARE(list()->accessibleDescription(), QString());
+    QCOMPARE(search->text(), QString());
+    QTest::keyClicks(search, QStringLiteral("img_0123"));
+    QTest::keyClick(search, Qt::Key_Down);
+    QVERIFY(list()->hasFocus());
+    QCOMPARE(selected(), QStringList{ nameOf(1230) });
+}
+
+void tst_Sidebar::showsWhereTheKeyboardIsAmongSelectedRows()
+{
+    const auto picture = [this] { return list()->viewport()->grab().toImage(); };
+    QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, middleOf(0));
+    QTest::mouseClick(list()->viewport(), Qt::LeftButton, Qt::ShiftModifier, middleOf(1));
+    const QImage byMouse = picture();
+    press(Qt::Key_Home);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(selected(), (QStringList{ nameOf(0), nameOf(1) }));
+    QVERIFY(picture() != byMouse);
+    press(Qt::Key_Home);
+    QTest::mouseClick(list()->viewport(), Qt::LeftButton, Qt::ShiftModifier, middleOf(1));
+    QCOMPARE(picture(), byMouse);
 }
 
 void tst_Sidebar::unsavedEditsHoldTheSelection()
