@@ -262,6 +262,10 @@ QAccessibleInterface* describe(const QString& className, QObject* object)
         return new QAccessibleWidget(widget, QAccessible::Graphic);
     if (qobject_cast<KeywordEditor*>(object))
         return new QAccessibleWidget(widget, QAccessible::Grouping);
+    if (object->inherits("Quorbel::SheetFrame") || object->inherits("Quorbel::SettingsView"))
+        return new QAccessibleWidget(widget, QAccessible::Dialog);
+    if (object->inherits("Quorbel::HelpView"))
+        return new QAccessibleWidget(widget, QAccessible::Window);
     if (object->inherits("Quorbel::KeywordChip"))
         return new QAccessibleWidget(widget, QAccessible::ListItem);
     return nullptr;

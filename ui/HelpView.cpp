@@ -231,6 +231,7 @@ void HelpView::showTopic()
     QWidget* page = makePage(m_selection);
     page->setAutoFillBackground(false);
     m_page->setWidget(page);
+    m_page->setAccessibleName(title(m_selection));
     page->setAutoFillBackground(false);
 }
 

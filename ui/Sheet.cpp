@@ -1,5 +1,6 @@
 #include "ui/Sheet.h"
 
+#include "ui/Accessibility.h"
 #include "ui/Metrics.h"
 #include "ui/Shadow.h"
 #include "ui/Theme.h"
@@ -32,6 +33,8 @@ SheetBody::SheetBody(QWidget* parent)
 
 /// A body with its title bar, ground and keys.
 class SheetFrame final : public QWidget {
+    Q_OBJECT
+
 public:
     SheetFrame(SheetBody* body, QWidget* parent)
         : QWidget(parent)
@@ -41,7 +44,9 @@ public:
         column->setSpacing(0);
         column->addWidget(body);
         onRestyle(this, [this, column] { column->setContentsMargins(0, hasTitle() ? px(titleHeight) : 0, 0, 0); });
-        setAccessibleName(body->title());
+        installAccessibility();
+        setAccessibleName(hasTitle() ? body->title() : body->accessibleName());
+        setAccessibleDescription(body->accessibleDescription());
         setFocusPolicy(Qt::NoFocus);
     }
 
@@ -291,3 +296,5 @@ void SheetHost::keepFocusInside(QWidget* now)
 }
 
 }  // namespace Quorbel
+
+#include "Sheet.moc"

@@ -30,8 +30,6 @@ SuggestionList::SuggestionList(QWidget* field)
     , m_field(field)
 {
     installAccessibility();
-    // Neither a focus policy nor a proxy: with either, Tab would find the list, wherever it stands among the window's
-    // controls.
     setMouseTracking(true);
     setAccessibleName(QStringLiteral("Suggestions"));
     // While it is open it belongs to the window, and would outlive its field.
@@ -49,6 +47,7 @@ void SuggestionList::showRows(const QList<SuggestionRow>& rows)
         return dismiss();
     if (rows != m_rows || isHidden()) {
         m_rows = rows;
+        setAccessibleName(QStringLiteral("Suggestions"));
         m_current = -1;
         m_first = 0;
     }
@@ -61,7 +60,11 @@ void SuggestionList::showMessage(const QString& message)
     m_current = -1;
     m_first = 0;
     m_message = message;
+    setAccessibleName(message);
     place();
+    // A dead end: worth saying although the focus stays in the field.
+    QAccessibleEvent event(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 void SuggestionList::dismiss()
@@ -71,6 +74,10 @@ void SuggestionList::dismiss()
     m_current = -1;
     if (isHidden())
         return;
+    // Only while it is open: Qt offers Tab to a widget with a proxy, and takes one that is the field's child for a part
+    // of the field, wherever it stands in the order.
+    setFocusProxy(nullptr);
+    setFocusPolicy(Qt::NoFocus);
     hide();
     for (QWidget* w = m_field; w; w = w->parentWidget())
         w->removeEventFilter(this);
@@ -116,6 +123,9 @@ void SuggestionList::place()
     if (isHidden()) {
         for (QWidget* w = m_field; w; w = w->parentWidget())
             w->installEventFilter(this);
+        // A click hands the focus to the field, which has it already: whatever lies behind must not get it.
+        setFocusPolicy(Qt::ClickFocus);
+        setFocusProxy(m_field);
     }
     const int rowsHeight = m_message.isEmpty() ? visibleRows() * rowHeight() : px(flatRow);
     const int boxHeight = rowsHeight + 2 * px(padding);

@@ -209,6 +209,7 @@ private slots:
         QTRY_COMPARE(search.places.queries.size(), 1);
         search.places.suggesting.answerLast({ {}, PlaceError::noData, u"Place data is not installed"_s });
         QCOMPARE(search.list()->message(), u"Place data is not installed"_s);
+        QCOMPARE(search.list()->accessibleName(), search.list()->message());
         QVERIFY(search.field->showsSuggestions());
     }
 

@@ -10,6 +10,7 @@
 #include "ui/SaveDialogView.h"
 #include "ui/TextFields.h"
 
+#include <QAccessible>
 #include <QLabel>
 
 using namespace Quorbel;
@@ -146,6 +147,10 @@ void TestSheets::saveDialogOfOnePhoto()
     QCOMPARE(titles(sheet), QStringList({ u"Don't Save"_s, u"Cancel"_s, u"Save"_s }));
     QVERIFY(button(sheet, u"Save and don’t ask again"_s));
     QCOMPARE(QApplication::focusWidget(), button(sheet, u"Save"_s));
+    const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(sheet->parentWidget());
+    QCOMPARE(told->role(), QAccessible::Dialog);
+    QCOMPARE(told->text(QAccessible::Name), u"Save changes to “a.jpg”?"_s);
+    QCOMPARE(told->text(QAccessible::Description), message);
 }
 
 void TestSheets::saveDialogOfSeveral_data()
