@@ -182,7 +182,9 @@ void SegmentedPicker::paintEvent(QPaintEvent*)
         const bool on = i == m_current;
         if (on) {
             paintBox(painter, box.translated(0, 1), pxF(5), withAlpha(Qt::black, theme.isDark ? .3 : .08), Qt::NoPen);
-            paintBox(painter, box, pxF(5), theme.btn, QPen(theme.btnLine, .5));
+            // A dark button would not stand out from this ground.
+            const QColor edge = theme.isDark ? theme.derived.secondaryHoverLine : theme.btnLine;
+            paintBox(painter, box, pxF(5), theme.isDark ? theme.btnLine : theme.btn, QPen(edge, .5));
         }
         painter.setFont(sansFont(13, on ? QFont::Medium : QFont::Normal));
         painter.setPen(on ? theme.text : theme.derived.label);

@@ -32,6 +32,17 @@ void cutCorners(QWidget& popup, qreal radius)
     popup.setMask(shape);
 }
 
+void paintCutBox(QPainter& painter, const QRect& rect, qreal radius, const QColor& fill, const QColor& edge)
+{
+    if (QGuiApplication::platformName() == QLatin1String("xcb")) {
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setPen(edge);
+        painter.setBrush(edge);
+        painter.drawRoundedRect(rect, radius, radius);
+    }
+    paintBox(painter, rect, radius, fill, QPen(edge, 1));
+}
+
 void paintShadow(QPainter& painter, const QRectF& box, qreal radius, const QColor& shadow)
 {
     // A blur as a stack of outlines from far outside to as far inside: half of the colour at the edge, none at `reach`.

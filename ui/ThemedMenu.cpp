@@ -85,7 +85,7 @@ void ThemedMenu::paintEvent(QPaintEvent* event)
 {
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
-    paintBox(painter, rect(), pxF(radius), theme.panel, QPen(theme.line, 1));
+    paintCutBox(painter, rect(), pxF(radius), theme.panel, theme.line);
     painter.setClipRect(rect().adjusted(0, px(5), 0, -px(5)));
     for (const QAction* action : actions()) {
         const QRect row = actionGeometry(const_cast<QAction*>(action));

@@ -51,7 +51,7 @@ protected:
     void paintEvent(QPaintEvent* event) override
     {
         QPainter painter(this);
-        paintBox(painter, rect(), pxF(radius), Theme::of(this).sel, Qt::NoPen);
+        paintCutBox(painter, rect(), pxF(radius), Theme::of(this).sel, Theme::of(this).sel);
         painter.end();
         QLabel::paintEvent(event);
     }

@@ -194,7 +194,7 @@ void Menus::addViewMenu()
     ThemedMenu* menu = addMenu(QStringLiteral("&View"));
     m_preview = add(menu, QStringLiteral("Show preview"), { Qt::CTRL | Qt::SHIFT | Qt::Key_P },
         [this] { m_content.togglePreview(); });
-    QAction* names = menu->addAction(QStringLiteral("Show namespace details"));
+    QAction* names = menu->addAction(QStringLiteral("Show &namespace details"));
     names->setCheckable(true);
     names->setChecked(m_model.showNamespace());
     connect(names, &QAction::toggled, &m_model, &AppModel::setShowNamespace);
