@@ -53,7 +53,7 @@ public:
     SheetBody* body() const { return m_body; }
 
     /// Fades and moves the sheet in; `step` follows every change.
-    void fadeIn(std::function<void()> step)
+    void fadeIn(const std::function<void()>& step)
     {
         setGraphicsEffect(new QGraphicsOpacityEffect(this));
         auto* animation = new QVariantAnimation(this);

@@ -334,8 +334,8 @@ void SidebarList::requestThumbnails()
             (row >= first && row <= last ? urls : near).append(photo->url);
     m_thumbs->setVisible(urls, near);
     // The newest request is served first: ask from the bottom, so that the list fills from the top.
-    for (auto url = urls.crbegin(); url != urls.crend(); ++url)
-        m_thumbs->request(*url, ThumbnailStore::Kind::small);
+    std::for_each(urls.crbegin(), urls.crend(),
+        [this](const QUrl& url) { m_thumbs->request(url, ThumbnailStore::Kind::small); });
 }
 
 void SidebarList::repaintThumbnail(const QUrl& url)
