@@ -126,10 +126,41 @@ ToolError undecodable(const QString& reason, const QByteArray& output)
     return ToolError(ToolError::DecodeFailed{ reason + QStringLiteral(" — output: ") + quoted });
 }
 
+/// A text like "1e999" is printed as a number, which no double holds and Qt refuses together with all the rest: those
+/// as texts.
+QByteArray withHugeNumbersQuoted(const QByteArray& json)
+{
+    QByteArray quoted;
+    quoted.reserve(json.size() + 2);
+    bool isInString = false;
+    for (qsizetype at = 0; at < json.size(); ++at) {
+        const char c = json[at];
+        if (!isInString && (c == '-' || (c >= '0' && c <= '9'))) {
+            qsizetype end = at;
+            while (end < json.size() && QByteArrayView("+-.0123456789Ee").contains(json[end]))
+                ++end;
+            const QByteArray number = json.sliced(at, end - at);
+            bool fits = false;
+            number.toDouble(&fits);
+            quoted += fits ? number : '"' + number + '"';
+            at = end - 1;
+            continue;
+        }
+        quoted += c;
+        if (c == '"')
+            isInString = !isInString;
+        else if (c == '\\' && at + 1 < json.size())
+            quoted += json[++at];
+    }
+    return quoted;
+}
+
 QList<JSONObject> decode(QByteArray output)
 {
     QJsonParseError error;
-    const auto document = QJsonDocument::fromJson(output, &error);
+    auto document = QJsonDocument::fromJson(output, &error);
+    if (error.error == QJsonParseError::IllegalNumber)
+        document = QJsonDocument::fromJson(withHugeNumbersQuoted(output), &error);
     if (error.error != QJsonParseError::NoError)
         throw undecodable(error.errorString(), output);
     output.truncate(4 * quotedCharacters);
