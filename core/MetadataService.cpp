@@ -82,13 +82,23 @@ QString backupPath(const QString& imagePath)
     return imagePath + QStringLiteral("_original");
 }
 
+/// As the name of a file to copy from to its sidecar: there the tool puts folder and name of the sidecar for "%d" and
+/// "%f", so a photo's own name with such text in it has to be put the same way.
+QString sourceArgument(const QString& path)
+{
+    if (!path.contains(u'%'))
+        return path;
+    const qsizetype nameSize = sidecarPath(path).size() - QStringLiteral(".xmp").size();
+    return QStringLiteral("%d%f") + path.sliced(nameSize);
+}
+
 void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& images)
 {
     for (const auto& image : images) {
         const QString path = image.toLocalFile();
         try {
             SaveGuard::clearLeftovers({ QUrl::fromLocalFile(sidecarPath(path)) });
-            runner.write({ QStringLiteral("-tagsfromfile"), path, QStringLiteral("-xmp:all") },
+            runner.write({ QStringLiteral("-tagsfromfile"), sourceArgument(path), QStringLiteral("-xmp:all") },
                 { QUrl::fromLocalFile(sidecarPath(path)) }, false);
         } catch (const Error&) {
             // The photo itself is saved; a sidecar is a courtesy beside it.

@@ -272,13 +272,13 @@ private slots:
     {
         const PhotoFolder folder;
         const QByteArray original = jpegBytes(300, 200);
-        const QUrl photo = folder.add(QStringLiteral("IMG 1.JPG"), original);
+        const QUrl photo = folder.add(QStringLiteral("IMG %d1.JPG"), original);
         write({ .scalars = { { "headline", "Alps" } } }, photo, { .backupOriginals = true, .writeSidecar = true });
-        QCOMPARE(folder.names(), (QStringList{ "IMG 1.JPG", "IMG 1.JPG_original", "IMG 1.xmp" }));
-        QCOMPARE(readFile(folder.path(QStringLiteral("IMG 1.JPG_original"))), original);
+        QCOMPARE(folder.names(), (QStringList{ "IMG %d1.JPG", "IMG %d1.JPG_original", "IMG %d1.xmp" }));
+        QCOMPARE(readFile(folder.path(QStringLiteral("IMG %d1.JPG_original"))), original);
         write({ .scalars = { { "headline", "Andes" } } }, photo, { .backupOriginals = false, .writeSidecar = true });
         QCOMPARE(
-            exiftoolValues(folder.url(QStringLiteral("IMG 1.xmp"))).value(QStringLiteral("XMP:Headline")).toString(),
+            exiftoolValues(folder.url(QStringLiteral("IMG %d1.xmp"))).value(QStringLiteral("XMP:Headline")).toString(),
             QStringLiteral("Andes"));
         service().renameFile(photo, folder.url(QStringLiteral("b.jpg")));
         QCOMPARE(folder.names(), (QStringList{ "b.jpg", "b.jpg_original", "b.xmp" }));
@@ -289,7 +289,7 @@ private slots:
             QFileInfo(folder.path(QStringLiteral("b.jpg"))).lastModified());
     }
 
-    void oddNames()
+    void oddNamesAndTexts()
     {
         const PhotoFolder folder;
         const QStringList names{ "a b.jpg", "it's \"it\".jpg", "$HOME `x` \\n;.jpg", "line\nbreak.jpg", "%d@-x.jpg",
