@@ -35,8 +35,11 @@ bool needsUtf8(const QStringList& assignments)
 
 QStringList conversionArgs()
 {
+    // Times are left out: the tool would give those without a zone the one of this computer.
     return { QStringLiteral("-tagsfromfile"), QStringLiteral("@"), QStringLiteral("-iptc:all"),
-        QStringLiteral("-IPTC:CodedCharacterSet=UTF8") };
+        QStringLiteral("--iptc:TimeSent"), QStringLiteral("--iptc:ReleaseTime"),
+        QStringLiteral("--iptc:ExpirationTime"), QStringLiteral("--iptc:TimeCreated"),
+        QStringLiteral("--iptc:DigitalCreationTime"), QStringLiteral("-IPTC:CodedCharacterSet=UTF8") };
 }
 
 }  // namespace Quorbel::IptcEncoding

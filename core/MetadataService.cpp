@@ -125,8 +125,21 @@ QString writeSafely(const ExifToolRunner& runner, const QStringList& args, const
     // After a failure too: some of the files may have been replaced.
     const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });
     const SaveGuard::BackupKeeper backups(backup ? files : QList<QUrl>());
-    if (IptcEncoding::needsUtf8(args))
+    if (!IptcEncoding::needsUtf8(args))
+        return runner.write(args, files, backup, config);
+    QList<QUrl> converted = files;
+    try {
         runner.write(IptcEncoding::conversionArgs(), files, backup);
+    } catch (const ToolError& error) {
+        // Those that it names would not take the values either; they do not keep the others from them.
+        const auto failures = writeFailures(error.messages(), files);
+        for (const auto& failure : failures)
+            converted.removeAll(failure.file);
+        if (failures.isEmpty() || converted.isEmpty())
+            throw;
+        runner.write(args, converted, backup, config);
+        throw;
+    }
     return runner.write(args, files, backup, config);
 }
 
