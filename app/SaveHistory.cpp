@@ -160,6 +160,12 @@ std::optional<QString> SaveHistory::text(const Undone& undone)
                          undone.outcome.restored.isEmpty() ? u"Not undone: "_s : u"Undone, but "_s,
                          counted(names.size()), names.size() == 1 ? u"was"_s : u"were"_s)
             + joined(names));
+    names.clear();
+    for (const QUrl& file : undone.outcome.inexact)
+        names.append(file.fileName());
+    if (!names.isEmpty())
+        texts.append(u"Undone, but not every value of %1 could be put back as it was: "_s.arg(counted(names.size()))
+            + joined(names));
     return texts.isEmpty() ? std::nullopt : std::optional(texts.join(u". "_s));
 }
 

@@ -254,9 +254,14 @@ QMap<QString, QString> ExifToolRunner::readErrors(const QList<QUrl>& files, cons
     return errors;
 }
 
-QByteArray ExifToolRunner::readXML(const QStringList& selection, const QList<QUrl>& files) const
+QByteArray ExifToolRunner::readDump(const QStringList& selection, const QList<QUrl>& files) const
 {
-    return files.isEmpty() ? QByteArray() : runForBytes(selection + paths(files));
+    if (files.isEmpty())
+        return {};
+    Ended ended = runToEnd(selection + paths(files), {}, {});
+    if (!ended.isGood && ended.standardOutput.isEmpty())
+        throw failure(ended);
+    return std::move(ended.standardOutput);
 }
 
 QString ExifToolRunner::write(
@@ -312,9 +317,14 @@ QByteArray ExifToolRunner::runForBytes(
     Ended ended = runToEnd(arguments, watch, control);
     if (ended.isGood)
         return std::move(ended.standardOutput);
+    throw failure(ended);
+}
+
+ToolError ExifToolRunner::failure(const Ended& ended)
+{
     const QString standardError = strictUtf8(ended.standardError);
     const QString text = standardError.isEmpty() ? strictUtf8(ended.standardOutput) : standardError;
-    throw ToolError(ToolError::ExecFailed{ ended.exitCode, text }, QString::fromUtf8(ended.standardError));
+    return ToolError(ToolError::ExecFailed{ ended.exitCode, text }, QString::fromUtf8(ended.standardError));
 }
 
 ExifToolRunner::Ended ExifToolRunner::runToEnd(

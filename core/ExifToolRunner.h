@@ -47,9 +47,9 @@ struct ExifToolRunner {
     /// Which of the files make a read fail, and why, as the tool says it ("File format error"), by path. Empty when it
     /// says nothing. Throws like read(), but not for the tool's exit status.
     QMap<QString, QString> readErrors(const QList<QUrl>& files, const ReadControl& control = {}) const;
-    /// The tool's XML answer to a selection ("-X", "-n", "-IPTC:City"): texts as they are, where JSON would turn
-    /// "1.10" into a number. Throws ToolError or LaunchError.
-    QByteArray readXML(const QStringList& selection, const QList<QUrl>& files) const;
+    /// The tool's answer to a selection, as it printed it: also that about the other files when some could not be read.
+    /// Throws ToolError when there is none at all, or LaunchError.
+    QByteArray readDump(const QStringList& selection, const QList<QUrl>& files) const;
     /// Runs assignments over the files and returns the tool's standard output; nothing is run, and "" returned,
     /// when either list is empty. `backup` lets the tool keep its "_original" copies. Throws ToolError or
     /// LaunchError.
@@ -81,6 +81,7 @@ private:
     QString run(const QStringList& arguments) const;
     QByteArray runForBytes(
         const QStringList& arguments, const OutputWatch& watch = {}, const ReadControl& control = {}) const;
+    static ToolError failure(const Ended& ended);
     Ended runToEnd(const QStringList& arguments, const OutputWatch& watch, const ReadControl& control) const;
 };
 

@@ -238,13 +238,13 @@ JournalEntry MetadataService::journalEntry(const EditPlan& plan, const QList<QUr
     if (entry.writtenTags.isEmpty() || targets.isEmpty())
         return entry;
     const auto files = SaveGuard::filesBehindLinks(targets);
-    QStringList paths;
-    for (const auto& file : files)
-        paths.append(file.toLocalFile());
-    const auto tags = SaveJournal::parseTags(runner.readXML(SaveJournal::readArgs(entry.writtenTags), files), paths);
-    for (qsizetype i = 0; i < paths.size(); ++i)
-        if (const auto stamp = FileStamp::of(paths[i]); stamp && tags[i])
-            entry.files.append({ .path = paths[i], .before = *stamp, .after = *stamp, .tags = *tags[i] });
+    const auto tags = TagDump::parse(runner.readDump(SaveJournal::readArgs(entry.writtenTags), files));
+    for (const auto& file : files) {
+        const QString path = file.toLocalFile();
+        const auto before = tags.constFind(QFile::encodeName(path));
+        if (const auto stamp = FileStamp::of(path); stamp && before != tags.cend())
+            entry.files.append({ .path = path, .before = *stamp, .after = *stamp, .tags = *before });
+    }
     return entry;
 }
 
@@ -259,24 +259,53 @@ UndoOutcome MetadataService::undo(const JournalEntry& entry) const
         else
             filesByArgs[SaveJournal::restoreArgs(entry, file)].append(url);
     }
+    QSet<QUrl> doubtful;
     for (auto it = filesByArgs.cbegin(); it != filesByArgs.cend(); ++it) {
-        QList<FileFailure> failures;
-        const QList<QUrl> files = withoutBlocked(*it, failures);
+        const qsizetype failedBefore = outcome.failed.size();
+        const QList<QUrl> files = withoutBlocked(*it, outcome.failed);
         try {
             if (!files.isEmpty())
                 writeSafely(runner, it.key(), files, false, entry.customNames);
         } catch (const ToolError& error) {
-            failures += writeFailures(error, files);
+            outcome.failed += writeFailures(error, files);
+            doubtful.unite(QSet<QUrl>(files.cbegin(), files.cend()));
         } catch (const Error& error) {
             for (const auto& file : files)
-                failures.append({ file, error.description() });
+                outcome.failed.append({ file, error.description() });
         }
-        outcome.failed += failures;
+        const QList<FileFailure> failures = outcome.failed.sliced(failedBefore);
         for (const auto& url : *it)
             if (std::none_of(failures.cbegin(), failures.cend(), [&url](const auto& f) { return f.file == url; }))
                 outcome.restored.append(url);
     }
+    checkRestored(entry, doubtful, outcome);
     return outcome;
+}
+
+/// Looks what the files really hold now: the tool refuses some values that it read, and of a run that failed it need
+/// not name every file that was left out.
+void MetadataService::checkRestored(const JournalEntry& entry, const QSet<QUrl>& doubtful, UndoOutcome& outcome) const
+{
+    QHash<QByteArray, FileTags> now;
+    try {
+        now = TagDump::parse(runner.readDump(SaveJournal::readArgs(entry.writtenTags), outcome.restored));
+    } catch (const Error&) {
+        // Then what the tool said of its runs has to do.
+    }
+    const QSet<QUrl> restored(outcome.restored.cbegin(), outcome.restored.cend());
+    for (const auto& file : entry.files) {
+        const QUrl url = QUrl::fromLocalFile(file.path);
+        const auto held = now.constFind(QFile::encodeName(file.path));
+        const bool isKnown = restored.contains(url) && held != now.cend();
+        if (!isKnown || SaveJournal::isRestored(entry, file, *held))
+            continue;
+        if (doubtful.contains(url)) {
+            outcome.restored.removeAll(url);
+            outcome.failed.append({ url, QStringLiteral("not written") });
+        } else {
+            outcome.inexact.append(url);
+        }
+    }
 }
 
 void MetadataService::renameFile(const QUrl& source, const QUrl& destination) const

@@ -8,6 +8,8 @@
 #include "core/SaveJournal.h"
 #include "core/WriteFailures.h"
 
+#include <QSet>
+
 #include <optional>
 
 namespace Quorbel {
@@ -17,6 +19,7 @@ struct UndoOutcome {
     QList<QUrl> restored{};
     QList<QUrl> changedSince{};  ///< left alone: somebody else changed or removed them after the save
     QList<FileFailure> failed{};
+    QList<QUrl> inexact{};  ///< of the restored: those that do not hold quite what they held
 };
 
 struct MetadataService {
@@ -46,6 +49,9 @@ struct MetadataService {
     void renameFile(const QUrl& source, const QUrl& destination) const;
 
     bool operator==(const MetadataService&) const = default;
+
+private:
+    void checkRestored(const JournalEntry& entry, const QSet<QUrl>& doubtful, UndoOutcome& outcome) const;
 };
 
 }  // namespace Quorbel

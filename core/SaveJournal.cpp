@@ -10,7 +10,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
-#include <QXmlStreamReader>
+#include <QUtf8StringView>
+
+#include <algorithm>
+#include <cmath>
 
 namespace Quorbel {
 
@@ -34,7 +37,8 @@ QString assignedTag(const QString& argument)
 const QStringList& languageTags()
 {
     static const QStringList tags{ QStringLiteral("XMP-dc:Title"), QStringLiteral("XMP-dc:Description"),
-        QStringLiteral("XMP-dc:Rights"), QStringLiteral("XMP-xmpRights:UsageTerms") };
+        QStringLiteral("XMP-dc:Rights"), QStringLiteral("XMP-iptcExt:Event"),
+        QStringLiteral("XMP-xmpRights:UsageTerms") };
     return tags;
 }
 
@@ -44,86 +48,51 @@ bool isPosition(const QString& tag)
     return tag.startsWith(QStringLiteral("GPS")) && !tag.contains(u':');
 }
 
-/// In Base64 where XML cannot hold the text.
-bool isEncoded(const QXmlStreamReader& xml)
+/// As the tool's option "-ec" reads it: whatever an argument cannot hold (NUL, bytes that are no text) as "\xHH".
+QString escaped(const QByteArray& value)
 {
-    return xml.attributes().value(QStringLiteral("rdf:datatype")).endsWith(u"base64Binary");
-}
-
-QString decoded(const QString& text, bool encoded)
-{
-    return encoded ? QString::fromUtf8(QByteArray::fromBase64(text.toLatin1())) : text;
-}
-
-QStringList itemsOf(QXmlStreamReader& xml)
-{
-    QStringList items;
-    while (xml.readNextStartElement()) {
-        if (xml.name() == QStringLiteral("li")) {
-            const bool encoded = isEncoded(xml);
-            items.append(decoded(xml.readElementText(QXmlStreamReader::IncludeChildElements), encoded));
-        } else {
-            items += itemsOf(xml);  // the bag around them
-        }
+    const bool isText = QUtf8StringView(value).isValidUtf8();
+    QByteArray argument;
+    for (const char c : value) {
+        const auto code = uchar(c);
+        const bool isPlain = c == '\t' || c == '\n' || (code >= ' ' && (code < 0x7F || (isText && code > 0x7F)));
+        if (c == '\\')
+            argument += "\\\\";
+        else if (isPlain)
+            argument += c;
+        else
+            argument += "\\x" + QByteArray(1, c).toHex();
     }
-    return items;
+    return QString::fromUtf8(argument);
 }
 
-/// One tag's element: a text or a bag of items.
-QStringList valuesOf(QXmlStreamReader& xml)
+/// The custom group is read as a whole, with fields that the save did not touch. Names in it come back with a capital
+/// first letter.
+bool isConcerned(const JournalEntry& entry, const QString& tag)
 {
-    const bool encoded = isEncoded(xml);
-    QString text;
-    while (!xml.atEnd()) {
-        switch (xml.readNext()) {
-        case QXmlStreamReader::StartElement: {
-            const QStringList items = itemsOf(xml);
-            xml.skipCurrentElement();
-            return items;
-        }
-        case QXmlStreamReader::Characters:
-            text += xml.text();
-            break;
-        case QXmlStreamReader::EndElement:
-            return { decoded(text, encoded) };
-        default:
-            break;
-        }
-    }
-    return {};
+    return !tag.startsWith(customGroupPrefix()) || entry.writtenTags.contains(tag, Qt::CaseInsensitive);
 }
 
-/// A path as it is read in ExifTool's XML: there is no tab and no line break in an attribute, and no other control
-/// character in XML at all.
-QString printedPath(QString path)
+bool isSame(const QByteArray& a, const QByteArray& b)
 {
-    path.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    for (QChar& c : path)
-        if (c < u' ')
-            c = c == u'\t' || c == u'\n' || c == u'\r' ? u' ' : u'.';
-    return path;
+    constexpr double rounding = 1e-8;  // degrees: a millimetre
+    bool areNumbers[2] = {};
+    const double difference = a.toDouble(&areNumbers[0]) - b.toDouble(&areNumbers[1]);
+    return a == b || (areNumbers[0] && areNumbers[1] && std::abs(difference) < rounding);
 }
 
-/// What was printed for files whose paths are printed alike, in the order of the answer.
-QMap<QString, QList<FileTags>> answersByPrintedPath(const QByteArray& xml)
+/// A string of JSON, or, for bytes that are no text, their Base64 in an object.
+QJsonValue toJson(const QByteArray& value)
 {
-    QMap<QString, QList<FileTags>> answers;
-    QXmlStreamReader reader(xml);
-    // Tag names are used as they stand, group and colon included.
-    reader.setNamespaceProcessing(false);
-    QString path;
-    while (!reader.atEnd()) {
-        if (reader.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        const QString name = reader.qualifiedName().toString();
-        if (name == QStringLiteral("rdf:Description")) {
-            path = reader.attributes().value(QStringLiteral("rdf:about")).toString();
-            answers[path].append(FileTags());
-        } else if (auto known = answers.find(path); known != answers.end()) {
-            known->last().insert(name, valuesOf(reader));
-        }
-    }
-    return answers;
+    if (QUtf8StringView(value).isValidUtf8())
+        return QString::fromUtf8(value);
+    return QJsonObject{ { QStringLiteral("base64"), QString::fromLatin1(value.toBase64()) } };
+}
+
+QByteArray bytesFrom(const QJsonValue& value)
+{
+    return value.isObject() ? QByteArray::fromBase64(value[QStringLiteral("base64")].toString().toLatin1())
+                            : value.toString().toUtf8();
 }
 
 QJsonObject toJson(const FileStamp& stamp)
@@ -140,8 +109,12 @@ FileStamp stampFrom(const QJsonValue& value)
 QJsonObject toJson(const JournalFile& file)
 {
     QJsonObject tags;
-    for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it)
-        tags.insert(it.key(), QJsonArray::fromStringList(*it));
+    for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it) {
+        QJsonArray values;
+        for (const auto& value : *it)
+            values.append(toJson(value));
+        tags.insert(it.key(), values);
+    }
     return { { QStringLiteral("path"), file.path }, { QStringLiteral("before"), toJson(file.before) },
         { QStringLiteral("after"), toJson(file.after) }, { QStringLiteral("tags"), tags } };
 }
@@ -161,7 +134,8 @@ JournalFile fileFrom(const QJsonValue& value)
         .after = stampFrom(value[QStringLiteral("after")]) };
     const QJsonObject tags = value[QStringLiteral("tags")].toObject();
     for (auto it = tags.begin(); it != tags.end(); ++it)
-        file.tags.insert(it.key(), stringsFrom(*it));
+        for (const auto& value : it->toArray())
+            file.tags[it.key()].append(bytesFrom(value));
     return file;
 }
 
@@ -210,12 +184,12 @@ QStringList writtenTags(const EditPlan& plan)
 
 QStringList readArgs(const QStringList& writtenTags)
 {
-    QStringList args{ QStringLiteral("-X"), QStringLiteral("-n") };
+    QStringList args = TagDump::options();
     for (const auto& tag : writtenTags) {
         if (tag.startsWith(customGroupPrefix()))
             continue;  // all of the group are read at once, below
         if (isPosition(tag))
-            args << QStringLiteral("-GPS:") + tag << QStringLiteral("-XMP-exif:") + tag;
+            args << QStringLiteral("-GPS:") + tag << QStringLiteral("-XMP:") + tag;
         else
             args << u'-' + tag;
         if (languageTags().contains(tag))
@@ -227,41 +201,30 @@ QStringList readArgs(const QStringList& writtenTags)
     return args;
 }
 
-QList<std::optional<FileTags>> parseTags(const QByteArray& xml, const QStringList& paths)
-{
-    QMap<QString, QList<FileTags>> answers = answersByPrintedPath(xml);
-    QMap<QString, qsizetype> asked;
-    for (const auto& path : paths)
-        ++asked[printedPath(path)];
-    QList<std::optional<FileTags>> tags;
-    tags.reserve(paths.size());
-    for (const auto& path : paths) {
-        const QString printed = printedPath(path);
-        const auto alike = answers.constFind(printed);
-        // The order tells alike ones apart, unless one of them gave no answer.
-        const bool isKnown = alike != answers.cend() && alike->size() == asked.value(printed);
-        tags.append(isKnown ? std::optional(alike->constFirst()) : std::nullopt);
-        if (isKnown) {
-            answers[printed].removeFirst();
-            --asked[printed];
-        }
-    }
-    return tags;
-}
-
 QStringList restoreArgs(const JournalEntry& entry, const JournalFile& file)
 {
-    QStringList args;
+    QStringList args{ QStringLiteral("-ec") };
     for (const auto& tag : entry.writtenTags)
         args.append(u'-' + tag + u'=');
     for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it) {
-        // Custom names come back with a capital first letter, and with fields that this save did not touch.
-        if (it.key().startsWith(customGroupPrefix()) && !entry.writtenTags.contains(it.key(), Qt::CaseInsensitive))
+        if (!isConcerned(entry, it.key()))
             continue;
+        // A tag that is there without a text is not a tag that is not there.
         for (const auto& value : *it)
-            args.append(u'-' + it.key() + QStringLiteral("#=") + value);
+            args.append(
+                u'-' + it.key() + (value.isEmpty() ? QStringLiteral("#^=") : QStringLiteral("#=")) + escaped(value));
     }
     return args;
+}
+
+bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTags& tags)
+{
+    const QStringList keys = file.tags.keys() + tags.keys();
+    return std::all_of(keys.cbegin(), keys.cend(), [&](const QString& key) {
+        const QList<QByteArray> before = file.tags.value(key);
+        const QList<QByteArray> now = tags.value(key);
+        return !isConcerned(entry, key) || std::equal(before.cbegin(), before.cend(), now.cbegin(), now.cend(), isSame);
+    });
 }
 
 QList<JournalEntry> load(const QString& journalPath)

@@ -3,6 +3,8 @@
 // and writes them back.
 #pragma once
 
+#include "core/TagDump.h"
+
 #include <QByteArray>
 #include <QDateTime>
 #include <QList>
@@ -26,9 +28,6 @@ struct FileStamp {
     /// Nothing when there is no such file.
     static std::optional<FileStamp> of(const QString& path);
 };
-
-/// ExifTool tag ("XMP-dc:Title-de") to its values.
-using FileTags = QMap<QString, QStringList>;
 
 struct JournalFile {
     QString path{};
@@ -55,12 +54,13 @@ constexpr qsizetype limit = 20;
 
 /// The tags that the plan assigns ("XMP-dc:Title", "GPSLatitude"), without duplicates, in the order of the plan.
 QStringList writtenTags(const EditPlan& plan);
-/// Arguments that read those tags losslessly, language variants and custom fields included.
+/// Arguments that read those tags for TagDump, language variants and custom fields included.
 QStringList readArgs(const QStringList& writtenTags);
-/// The values in ExifTool's XML answer about these paths, in their order; nothing for a file without an answer.
-QList<std::optional<FileTags>> parseTags(const QByteArray& xml, const QStringList& paths);
 /// Assignments that put the old values back into one file.
 QStringList restoreArgs(const JournalEntry& entry, const JournalFile& file);
+/// Whether these tags, read by readArgs, are those that the file had; numbers up to the rounding of a restored
+/// position.
+bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTags& tags);
 
 /// The journal's saves, oldest first; none for a file that is missing or damaged.
 QList<JournalEntry> load(const QString& journalPath);
