@@ -5,6 +5,7 @@
 #include "ui/SymbolText.h"
 #include "ui/Theme.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QHelpEvent>
 #include <QLabel>
@@ -57,6 +58,15 @@ protected:
     }
 };
 
+/// A widget's own, or that of the row of a list that lies there.
+QString textAt(const QWidget& widget, QPoint pos)
+{
+    const auto* view = qobject_cast<const QAbstractItemView*>(widget.parentWidget());
+    if (view && view->viewport() == &widget)
+        return view->indexAt(pos).data(Qt::ToolTipRole).toString();
+    return widget.toolTip();
+}
+
 }  // namespace
 
 ToolTips::ToolTips(QObject* parent)
@@ -75,9 +85,11 @@ bool ToolTips::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::ToolTip: {
         auto* widget = qobject_cast<QWidget*>(watched);
-        if (!widget || widget->toolTip().isEmpty())
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QString text = widget ? textAt(*widget, help->pos()) : QString();
+        if (text.isEmpty())
             break;
-        show(widget, symbolText(widget->toolTip()), static_cast<QHelpEvent*>(event)->globalPos());
+        show(widget, symbolText(text), help->globalPos());
         return true;
     }
     case QEvent::Leave:

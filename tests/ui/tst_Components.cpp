@@ -2,7 +2,11 @@
 #include "tests/support/Support.h"
 #include "tests/ui/UiSupport.h"
 #include "ui/Components.h"
+#include "ui/ToolTips.h"
 
+#include <QHelpEvent>
+#include <QLabel>
+#include <QListWidget>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -331,6 +335,23 @@ private slots:
         QCOMPARE(label->toolTip(), label->text());
         label->setFixedWidth(450);
         QCOMPARE(label->toolTip(), QString());
+    }
+
+    void rowsOfAListHaveTooltipsOfTheTheme()
+    {
+        Test::Stage stage;
+        const ToolTips tips;
+        auto* list = stage.add(new QListWidget);
+        for (const QString& tip : { u"one"_s, u"<two>"_s })
+            (new QListWidgetItem(u"row"_s, list))->setToolTip(tip);
+        stage.show();
+        const QPoint second = list->visualItemRect(list->item(1)).center();
+        QHelpEvent help(QEvent::ToolTip, second, list->viewport()->mapToGlobal(second));
+        QApplication::sendEvent(list->viewport(), &help);
+        const auto* shown = list->viewport()->findChild<QLabel*>();
+        QVERIFY(shown && shown->isVisible());
+        QCOMPARE(shown->text(), u"<two>"_s);
+        QCOMPARE(shown->palette().color(QPalette::WindowText), Theme::light().selText);
     }
 };
 
