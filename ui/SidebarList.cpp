@@ -160,7 +160,8 @@ void SidebarList::takeKeyboard()
 void SidebarList::focusInEvent(QFocusEvent* event)
 {
     const Qt::FocusReason reason = event->reason();
-    m_byKeyboard = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+    m_byKeyboard =
+        reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
     QListView::focusInEvent(event);
 }
 
@@ -334,8 +335,8 @@ void SidebarList::requestThumbnails()
             (row >= first && row <= last ? urls : near).append(photo->url);
     m_thumbs->setVisible(urls, near);
     // The newest request is served first: ask from the bottom, so that the list fills from the top.
-    std::for_each(urls.crbegin(), urls.crend(),
-        [this](const QUrl& url) { m_thumbs->request(url, ThumbnailStore::Kind::small); });
+    std::for_each(
+        urls.crbegin(), urls.crend(), [this](const QUrl& url) { m_thumbs->request(url, ThumbnailStore::Kind::small); });
 }
 
 void SidebarList::repaintThumbnail(const QUrl& url)
