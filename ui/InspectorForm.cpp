@@ -129,12 +129,18 @@ void InspectorForm::showFields(FieldSection section, bool fresh)
 void InspectorForm::showCustoms(bool fresh)
 {
     QList<FieldRow*> rows;
+    QSet<QString> names;
     const QList<CustomValue> customs = m_model.visibleCustomFields();
     for (const CustomValue& custom : customs) {
         FieldRow* row = rowOf(custom);
         row->setState(InspectorStates::customRow(m_model, custom), fresh);
         rows.append(row);
+        names.insert(custom.name);
+        // One that is edited as it appears is the user's; others may come from another program.
+        if (!fresh && row->state().edited && !m_customNames.contains(custom.name))
+            emit fieldAdded(InspectorStates::customKey(custom.name));
     }
+    m_customNames = names;
     m_customs->setRows(rows);
     m_customs->setVisible(!rows.isEmpty());
 }

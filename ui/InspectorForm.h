@@ -52,7 +52,7 @@ public:
     CameraSection* camera() const { return m_camera; }
 
 signals:
-    /// The user added this field to those on screen.
+    /// The user added this field to those on screen: a field id, or the key of a custom field.
     void fieldAdded(const QString& id);
 
 private:
@@ -82,6 +82,7 @@ private:
     PlaceProvider* m_places;
     Subject m_subject{};
     QSet<QString> m_added{};  ///< the fields that were added when the model was last read
+    QSet<QString> m_customNames{};  ///< of the custom fields on screen
     bool m_tabOrderStale = true;
     QList<QWidget*> m_stopsBehind;
     QHash<QString, FieldRow*> m_pool;  ///< by field id, or by the key of a custom field

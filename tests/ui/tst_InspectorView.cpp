@@ -521,6 +521,15 @@ void TestInspectorView::addedFieldTakesTheFocusAndGoesAgain()
     QVERIFY(!f.row(u"headline"_s));
     QVERIFY(!f.model().sessionAddedKnownIDs().contains(u"headline"_s));
     QVERIFY(!button(f.row(u"title"_s), u"Remove this field"_s));
+    for (const bool several : { false, true }) {
+        if (several) {
+            f.model().discardSaveDialog();
+            f.model().selectAllPhotos();
+        }
+        f.model().addCustomField(several ? u"Weather"_s : u"Mood"_s, u"calm"_s);
+        QTRY_COMPARE(
+            QApplication::focusWidget(), f.editor<QBTextField>(several ? u"custom:Weather"_s : u"custom:Mood"_s));
+    }
 }
 
 void TestInspectorView::namespaceLines()
