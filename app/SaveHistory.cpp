@@ -60,8 +60,10 @@ bool SaveHistory::isEmpty()
 
 bool SaveHistory::add(JournalEntry entry)
 {
-    for (JournalFile& file : entry.files)
+    for (JournalFile& file : entry.files) {
         file.after = FileStamp::of(file.path).value_or(file.before);
+        file.sidecar.after = FileStamp::of(file.sidecar.path);
+    }
     entry.files.removeIf([](const JournalFile& file) { return file.after == file.before; });
     if (entry.files.isEmpty())
         return false;

@@ -28,10 +28,11 @@ QList<FileFailure> namedFailures(const ToolError& error, const QList<QUrl>& targ
 }
 
 /// What the save is about to replace; nothing when that cannot be found out.
-std::optional<JournalEntry> lookBefore(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets)
+std::optional<JournalEntry> lookBefore(
+    const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options)
 {
     try {
-        return service.journalEntry(plan, targets);
+        return service.journalEntry(plan, targets, options);
     } catch (const std::exception&) {
         return std::nullopt;
     }
@@ -50,7 +51,7 @@ QHash<QUrl, QString> reasonsByFile(const QList<FileFailure>& failures)
 Written run(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets,
     const WriteOptions& options, SaveHistory* history, TaskProgress& progress)
 {
-    const std::optional<JournalEntry> before = history ? lookBefore(service, plan, targets) : std::nullopt;
+    const std::optional<JournalEntry> before = history ? lookBefore(service, plan, targets, options) : std::nullopt;
     const ReplacedFilesPoll poll(targets, progress.done);
     Written written;
     try {

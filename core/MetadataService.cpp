@@ -64,19 +64,6 @@ QUrl writeTempConfig(const QStringList& names)
     return url;
 }
 
-QString withExtension(const QString& path, const QString& extension)
-{
-    const auto nameAt = path.lastIndexOf(u'/') + 1;
-    const auto dot = path.lastIndexOf(u'.');
-    // A leading dot makes a hidden file, not an extension.
-    return (dot > nameAt ? path.left(dot) : path) + u'.' + extension;
-}
-
-QString sidecarPath(const QString& imagePath)
-{
-    return withExtension(imagePath, QStringLiteral("xmp"));
-}
-
 QString backupPath(const QString& imagePath)
 {
     return imagePath + QStringLiteral("_original");
@@ -88,7 +75,7 @@ QString sourceArgument(const QString& path)
 {
     if (!path.contains(u'%'))
         return path;
-    const qsizetype nameSize = sidecarPath(path).size() - QStringLiteral(".xmp").size();
+    const qsizetype nameSize = SaveJournal::sidecarPath(path).size() - QStringLiteral(".xmp").size();
     return QStringLiteral("%d%f") + path.sliced(nameSize);
 }
 
@@ -97,9 +84,9 @@ void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& images)
     for (const auto& image : images) {
         const QString path = image.toLocalFile();
         try {
-            SaveGuard::clearLeftovers({ QUrl::fromLocalFile(sidecarPath(path)) });
+            SaveGuard::clearLeftovers({ QUrl::fromLocalFile(SaveJournal::sidecarPath(path)) });
             runner.write({ QStringLiteral("-tagsfromfile"), sourceArgument(path), QStringLiteral("-xmp:all") },
-                { QUrl::fromLocalFile(sidecarPath(path)) }, false);
+                { QUrl::fromLocalFile(SaveJournal::sidecarPath(path)) }, false);
         } catch (const Error&) {
             // The photo itself is saved; a sidecar is a courtesy beside it.
         }
@@ -230,7 +217,8 @@ QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets,
     return output;
 }
 
-JournalEntry MetadataService::journalEntry(const EditPlan& plan, const QList<QUrl>& targets) const
+JournalEntry MetadataService::journalEntry(
+    const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options) const
 {
     JournalEntry entry{ .savedAt = QDateTime::currentDateTimeUtc(), .writtenTags = SaveJournal::writtenTags(plan) };
     for (const auto& custom : plan.customs)
@@ -239,11 +227,15 @@ JournalEntry MetadataService::journalEntry(const EditPlan& plan, const QList<QUr
         return entry;
     const auto files = SaveGuard::filesBehindLinks(targets);
     const auto tags = TagDump::parse(runner.readDump(SaveJournal::readArgs(entry.writtenTags), files));
-    for (const auto& file : files) {
-        const QString path = file.toLocalFile();
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        const QString path = files[i].toLocalFile();
         const auto before = tags.constFind(QFile::encodeName(path));
-        if (const auto stamp = FileStamp::of(path); stamp && before != tags.cend())
-            entry.files.append({ .path = path, .before = *stamp, .after = *stamp, .tags = *before });
+        const auto stamp = FileStamp::of(path);
+        if (!stamp || before == tags.cend())
+            continue;
+        entry.files.append({ .path = path, .before = *stamp, .after = *stamp, .tags = *before });
+        if (options.writeSidecar)
+            entry.files.last().sidecar = JournalSidecar::of(SaveJournal::sidecarPath(targets[i].toLocalFile()));
     }
     return entry;
 }
@@ -279,6 +271,10 @@ UndoOutcome MetadataService::undo(const JournalEntry& entry) const
                 outcome.restored.append(url);
     }
     checkRestored(entry, doubtful, outcome);
+    const QSet<QUrl> restored(outcome.restored.cbegin(), outcome.restored.cend());
+    for (const auto& file : entry.files)
+        if (const QUrl url = QUrl::fromLocalFile(file.path); restored.contains(url) && !file.sidecar.restore())
+            outcome.inexact.append(url);
     return outcome;
 }
 
@@ -314,7 +310,7 @@ void MetadataService::renameFile(const QUrl& source, const QUrl& destination) co
     const QString to = destination.toLocalFile();
     if (const int error = moveWithoutReplacing(from, to))
         throw FileError(QStringLiteral("Cannot move"), source, qt_error_string(error));
-    moveWithoutReplacing(sidecarPath(from), sidecarPath(to));
+    moveWithoutReplacing(SaveJournal::sidecarPath(from), SaveJournal::sidecarPath(to));
     moveWithoutReplacing(backupPath(from), backupPath(to));
 }
 

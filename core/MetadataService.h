@@ -38,8 +38,9 @@ struct MetadataService {
     /// run that re-encodes it. Throws the runner's errors, FileError, and SaveGuard::FileProblem when a file is
     /// read-only or blocked; then nothing was changed.
     QString write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options) const;
-    /// What the plan is about to replace in the targets, read in one run. Throws the runner's errors.
-    JournalEntry journalEntry(const EditPlan& plan, const QList<QUrl>& targets) const;
+    /// What the plan is about to replace in the targets, read in one run, and in their sidecars, if those are written
+    /// as well. Throws the runner's errors.
+    JournalEntry journalEntry(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options = {}) const;
     /// Writes the old values of a save back, one run for each distinct set of them, without new backups. A file that
     /// is read-only or blocked, or whose run fails, is named in the outcome and does not keep others from theirs.
     UndoOutcome undo(const JournalEntry& entry) const;

@@ -106,6 +106,31 @@ FileStamp stampFrom(const QJsonValue& value)
         .size = value[QStringLiteral("size")].toInteger() };
 }
 
+QJsonValue toJson(const JournalSidecar& sidecar)
+{
+    if (sidecar.path.isEmpty())
+        return QJsonValue::Undefined;
+    QJsonObject object{ { QStringLiteral("path"), sidecar.path },
+        { QStringLiteral("text"), QString::fromLatin1(qCompress(sidecar.text).toBase64()) } };
+    if (sidecar.before)
+        object.insert(QStringLiteral("before"), toJson(*sidecar.before));
+    if (sidecar.after)
+        object.insert(QStringLiteral("after"), toJson(*sidecar.after));
+    return object;
+}
+
+JournalSidecar sidecarFrom(const QJsonValue& value)
+{
+    JournalSidecar sidecar{ .path = value[QStringLiteral("path")].toString() };
+    if (value[QStringLiteral("before")].isObject())
+        sidecar.before = stampFrom(value[QStringLiteral("before")]);
+    if (value[QStringLiteral("after")].isObject())
+        sidecar.after = stampFrom(value[QStringLiteral("after")]);
+    if (!sidecar.path.isEmpty())
+        sidecar.text = qUncompress(QByteArray::fromBase64(value[QStringLiteral("text")].toString().toLatin1()));
+    return sidecar;
+}
+
 QJsonObject toJson(const JournalFile& file)
 {
     QJsonObject tags;
@@ -116,7 +141,8 @@ QJsonObject toJson(const JournalFile& file)
         tags.insert(it.key(), values);
     }
     return { { QStringLiteral("path"), file.path }, { QStringLiteral("before"), toJson(file.before) },
-        { QStringLiteral("after"), toJson(file.after) }, { QStringLiteral("tags"), tags } };
+        { QStringLiteral("after"), toJson(file.after) }, { QStringLiteral("tags"), tags },
+        { QStringLiteral("sidecar"), toJson(file.sidecar) } };
 }
 
 QStringList stringsFrom(const QJsonValue& value)
@@ -131,7 +157,8 @@ JournalFile fileFrom(const QJsonValue& value)
 {
     JournalFile file{ .path = value[QStringLiteral("path")].toString(),
         .before = stampFrom(value[QStringLiteral("before")]),
-        .after = stampFrom(value[QStringLiteral("after")]) };
+        .after = stampFrom(value[QStringLiteral("after")]),
+        .sidecar = sidecarFrom(value[QStringLiteral("sidecar")]) };
     const QJsonObject tags = value[QStringLiteral("tags")].toObject();
     for (auto it = tags.begin(); it != tags.end(); ++it)
         for (const auto& value : it->toArray())
@@ -169,6 +196,28 @@ std::optional<FileStamp> FileStamp::of(const QString& path)
     if (!info.exists())
         return std::nullopt;
     return FileStamp{ .modified = info.lastModified().toMSecsSinceEpoch(), .size = info.size() };
+}
+
+JournalSidecar JournalSidecar::of(const QString& path)
+{
+    JournalSidecar sidecar{ .path = path, .before = FileStamp::of(path) };
+    QFile file(path);
+    if (sidecar.before && file.open(QIODevice::ReadOnly))
+        sidecar.text = file.readAll();
+    // What could not be read whole is not written back either.
+    if (sidecar.before && sidecar.text.size() != sidecar.before->size)
+        return {};
+    return sidecar;
+}
+
+bool JournalSidecar::restore() const
+{
+    if (path.isEmpty() || !after || FileStamp::of(path) != after)
+        return true;
+    if (!before)
+        return QFile::remove(path);
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
 }
 
 namespace SaveJournal {
@@ -252,12 +301,23 @@ bool store(const QString& journalPath, const QList<JournalEntry>& entries)
         && file.write(QJsonDocument(saved).toJson(QJsonDocument::Compact)) >= 0 && file.commit();
 }
 
+QString sidecarPath(const QString& photo)
+{
+    const auto nameAt = photo.lastIndexOf(u'/') + 1;
+    const auto dot = photo.lastIndexOf(u'.');
+    // A leading dot makes a hidden file, not an extension.
+    return (dot > nameAt ? photo.left(dot) : photo) + QStringLiteral(".xmp");
+}
+
 void rename(QList<JournalEntry>& entries, const QString& from, const QString& to)
 {
     for (auto& entry : entries)
-        for (auto& file : entry.files)
+        for (auto& file : entry.files) {
             if (file.path == from)
                 file.path = to;
+            if (file.sidecar.path == sidecarPath(from))
+                file.sidecar.path = sidecarPath(to);
+        }
 }
 
 void removeUndone(QList<JournalEntry>& entries, const QStringList& restored)
@@ -269,10 +329,15 @@ void removeUndone(QList<JournalEntry>& entries, const QStringList& restored)
         if (!restored.contains(file.path))
             continue;
         const auto now = FileStamp::of(file.path);
+        const auto sidecarNow = FileStamp::of(file.sidecar.path);
         for (auto& entry : entries)
-            for (auto& earlier : entry.files)
+            for (auto& earlier : entry.files) {
                 if (now && earlier.path == file.path && earlier.after == file.before)
                     earlier.after = *now;
+                auto& sidecar = earlier.sidecar;
+                if (sidecar.after && sidecar.path == file.sidecar.path && sidecar.after == file.sidecar.before)
+                    sidecar.after = sidecarNow;
+            }
     }
 }
 

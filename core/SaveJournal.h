@@ -29,12 +29,27 @@ struct FileStamp {
     static std::optional<FileStamp> of(const QString& path);
 };
 
+/// The XMP file beside a photo that a save has written as well.
+struct JournalSidecar {
+    QString path{};  ///< empty: none was written
+    std::optional<FileStamp> before{};  ///< nothing when there was none
+    std::optional<FileStamp> after{};
+    QByteArray text{};  ///< all that it held before
+    bool operator==(const JournalSidecar&) const = default;
+
+    /// As it is now, before the save.
+    static JournalSidecar of(const QString& path);
+    /// Puts it back unless somebody else changed it since. Whether that worked, or was not to be done.
+    bool restore() const;
+};
+
 struct JournalFile {
     QString path{};
     FileStamp before{};
     FileStamp after{};
     /// What they held before the save. A written tag that is not here was absent.
     FileTags tags{};
+    JournalSidecar sidecar{};
     bool operator==(const JournalFile&) const = default;
 };
 
@@ -66,6 +81,8 @@ bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTa
 QList<JournalEntry> load(const QString& journalPath);
 /// Writes them, the newest `limit` of them. False when the file system refuses; the old journal is then intact.
 bool store(const QString& journalPath, const QList<JournalEntry>& entries);
+/// The sidecar's name: the photo's, with the extension "xmp".
+QString sidecarPath(const QString& photo);
 /// Follows a photo that got another name.
 void rename(QList<JournalEntry>& entries, const QString& from, const QString& to);
 /// Takes the newest save out after it was undone in these files (paths). Those that it had found as an earlier save

@@ -137,6 +137,7 @@ private slots:
     void partialBatchIsTriedAgain();
     void undoSurvivesARestart();
     void undoFollowsRenames();
+    void undoTakesSidecarsBack();
     void undoLeavesOthersWorkAlone();
     void undoThroughALink();
     void undoThatFailsInPart();
@@ -330,6 +331,33 @@ void TestAppModelSafety::undoFollowsRenames()
     QVERIFY(f.undo());
     QCOMPARE(f->errorMessage(), std::nullopt);
     QCOMPARE(f.onDisk(u"Renamed.jpg"_s, u"XMP:Title"_s), QJsonValue(u"a.jpg"_s));
+}
+
+/// Photo "a" has a sidecar of another program's, "b" has none.
+void TestAppModelSafety::undoTakesSidecarsBack()
+{
+    JournaledPhotos f;
+    const QString sidecar = f.folder.path(u"a.xmp"_s);
+    exiftool({ u"-XMP-dc:Title=foreign"_s, u"-XMP-crs:Exposure2012=+1.5"_s, sidecar });
+    const QByteArray foreign = readFile(sidecar);
+    f->setWriteSidecar(true);
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    for (const QString& headline : { u"X"_s, u"Y"_s }) {
+        f->setBatch(u"headline"_s, headline);
+        QVERIFY(f.save());
+    }
+    QVERIFY(readFile(sidecar) != foreign && QFile::exists(f.folder.path(u"b.xmp"_s)));
+    f.click(u"a.jpg"_s);
+    f->setRenamePattern(u"c"_s);
+    f->performRename();
+    QVERIFY(f.undo());
+    QCOMPARE(f.onDisk(u"c.xmp"_s, u"XMP:Headline"_s), QJsonValue(u"X"_s));
+    QCOMPARE(f.onDisk(u"b.xmp"_s, u"XMP:Headline"_s), QJsonValue(u"X"_s));
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(readFile(f.folder.path(u"c.xmp"_s)), foreign);
+    QVERIFY(!QFile::exists(f.folder.path(u"b.xmp"_s)));
 }
 
 void TestAppModelSafety::undoLeavesOthersWorkAlone()
