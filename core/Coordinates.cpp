@@ -2,6 +2,7 @@
 
 #include "core/Text.h"
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
@@ -65,6 +66,23 @@ QStringList writeArgs(const QString& text)
         u"-GPSLongitude="_s + sixDecimals(std::abs(point->longitude)),
         u"-GPSLongitudeRef="_s + (point->longitude >= 0 ? u'E' : u'W'),
     };
+}
+
+QStringList signArgs(const QStringList& writeArgs)
+{
+    QStringList args;
+    bool isSigned = false;
+    for (const auto& [tag, negative] : { std::pair(u"-GPSLatitude"_s, u'S'), std::pair(u"-GPSLongitude"_s, u'W') }) {
+        const QString number = tag + u'=';
+        const auto written = std::find_if(writeArgs.cbegin(), writeArgs.cend(),
+            [&number](const QString& arg) { return arg.startsWith(number) && arg.size() > number.size(); });
+        if (written == writeArgs.cend())
+            return {};
+        const bool isNegative = writeArgs.contains(tag + u"Ref="_s + negative);
+        args << u"-XMP:"_s + tag.sliced(1) + u'=' + (isNegative ? u"-"_s : QString()) + written->sliced(number.size());
+        isSigned |= isNegative;
+    }
+    return isSigned ? QStringList{ u"-n"_s, u"-wm"_s, u"w"_s } + args : QStringList();
 }
 
 }  // namespace Quorbel::Coordinates

@@ -20,5 +20,9 @@ std::optional<Point> parse(const QString& text);
 QString displayString(const Point& point);
 /// The four GPS assignments; four deletions for a blank text; none for a text that does not parse.
 QStringList writeArgs(const QString& text);
+/// What a write with these arguments has to be followed by. ExifTool takes a position that names no group for XMP too,
+/// where no reference stands beside the number: south and west need its sign. Changes only tags that exist. Empty when
+/// the arguments write no position or one whose numbers have no sign.
+QStringList signArgs(const QStringList& writeArgs);
 
 }  // namespace Quorbel::Coordinates

@@ -1,5 +1,6 @@
 #include "core/MetadataService.h"
 
+#include "core/Coordinates.h"
 #include "core/IptcEncoding.h"
 #include "core/MetadataReader.h"
 #include "core/MetadataWriter.h"
@@ -93,6 +94,54 @@ void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& images)
     }
 }
 
+/// One write, after the run that its texts may need.
+QString writeTexts(const ExifToolRunner& runner, const QStringList& args, const QList<QUrl>& files, bool backup,
+    const std::optional<QUrl>& config)
+{
+    if (!IptcEncoding::needsUtf8(args))
+        return runner.write(args, files, backup, config);
+    QList<QUrl> converted = files;
+    try {
+        runner.write(IptcEncoding::conversionArgs(), files, backup);
+    } catch (const ToolError& error) {
+        // Those that it names would not take the values either; they do not keep the others from them.
+        const auto failures = writeFailures(error.messages(), files);
+        for (const auto& failure : failures)
+            converted.removeAll(failure.file);
+        if (failures.isEmpty() || converted.isEmpty())
+            throw;
+        runner.write(args, converted, backup, config);
+        throw;
+    }
+    return runner.write(args, files, backup, config);
+}
+
+/// One write, and the run that its position may need.
+QString writeSigned(const ExifToolRunner& runner, const QStringList& args, const QList<QUrl>& files, bool backup,
+    const std::optional<QUrl>& config)
+{
+    const QStringList signs = Coordinates::signArgs(args);
+    if (signs.isEmpty())
+        return writeTexts(runner, args, files, backup, config);
+    QString output;
+    try {
+        output = writeTexts(runner, args, files, backup, config);
+    } catch (const ToolError& error) {
+        const auto failures = writeFailures(error, files);
+        QList<QUrl> written = files;
+        for (const auto& failure : failures)
+            written.removeAll(failure.file);
+        try {
+            runner.write(signs, written, false);
+        } catch (const Error&) {
+            // The first failure is the one to tell.
+        }
+        throw;
+    }
+    runner.write(signs, files, false);
+    return output;
+}
+
 /// One write of assignments, with what ExifTool would lose looked after: the files behind links, text that the
 /// files' IPTC encoding cannot hold, extended attributes, mode and owner.
 QString writeSafely(const ExifToolRunner& runner, const QStringList& args, const QList<QUrl>& targets, bool backup,
@@ -112,22 +161,7 @@ QString writeSafely(const ExifToolRunner& runner, const QStringList& args, const
     // After a failure too: some of the files may have been replaced.
     const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });
     const SaveGuard::BackupKeeper backups(backup ? files : QList<QUrl>());
-    if (!IptcEncoding::needsUtf8(args))
-        return runner.write(args, files, backup, config);
-    QList<QUrl> converted = files;
-    try {
-        runner.write(IptcEncoding::conversionArgs(), files, backup);
-    } catch (const ToolError& error) {
-        // Those that it names would not take the values either; they do not keep the others from them.
-        const auto failures = writeFailures(error.messages(), files);
-        for (const auto& failure : failures)
-            converted.removeAll(failure.file);
-        if (failures.isEmpty() || converted.isEmpty())
-            throw;
-        runner.write(args, converted, backup, config);
-        throw;
-    }
-    return runner.write(args, files, backup, config);
+    return writeSigned(runner, args, files, backup, config);
 }
 
 /// The files that may be written to now; why the others may not goes to the failures.

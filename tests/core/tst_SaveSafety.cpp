@@ -376,6 +376,42 @@ private slots:
         QCOMPARE(writeFailures(silent, { good, bad }).size(), 2);
     }
 
+    /// XMP knows no reference beside the number of a position: what is written there needs its sign.
+    void positionKeepsItsHemisphereInXmp_data()
+    {
+        QTest::addColumn<QList<double>>("position");
+        QTest::addRow("south, west") << QList{ -33.5, -70.25 };
+        QTest::addRow("south, east") << QList{ -33.5, 151.25 };
+        QTest::addRow("north, west") << QList{ 33.5, -70.25 };
+        QTest::addRow("north, east") << QList{ 33.5, 70.25 };
+    }
+    void positionKeepsItsHemisphereInXmp()
+    {
+        QFETCH(QList<double>, position);
+        PhotoFolder folder;
+        const QUrl inBoth = folder.add(QStringLiteral("a.jpg")), plain = folder.add(QStringLiteral("b.jpg"));
+        const QUrl broken = folder.add(QStringLiteral("c.jpg"), "text, no photo");
+        const QUrl inXmpOnly = folder.add(QStringLiteral("d.gif"),
+            QByteArray("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\1\0\1\0\0\2\2D\1\0;", 35));
+        exiftool({ "-q", "-overwrite_original", "-XMP-exif:GPSLatitude=1", "-XMP-exif:GPSLongitude=2",
+            "-XMP-drone-dji:GPSLatitude=1", "-XMP-drone-dji:GPSLongitude=2", inBoth.toLocalFile() });
+        const EditPlan plan{ .scalars = { { "coords", QStringLiteral("%1, %2").arg(position[0]).arg(position[1]) } } };
+        QVERIFY(!problem([&] { realService().write(plan, { inBoth, plain, broken, inXmpOnly }, {}); }).isEmpty());
+        const auto held = [](const QString& group, const QUrl& photo) {
+            QList<double> numbers;
+            const QByteArray answer = exiftool({ "-n", "-s3", QStringLiteral("-%1:GPSLatitude").arg(group),
+                QStringLiteral("-%1:GPSLongitude").arg(group), photo.toLocalFile() });
+            for (const QByteArray& line : answer.trimmed().split('\n'))
+                numbers.append(line.toDouble());
+            return numbers;
+        };
+        for (const char* group : { "Composite", "XMP-exif", "XMP-drone-dji" })
+            QCOMPARE(held(QString::fromLatin1(group), inBoth), position);
+        QCOMPARE(held(QStringLiteral("Composite"), plain), position);
+        QCOMPARE(exiftool({ "-s3", "-XMP:all", "--XMPToolkit", plain.toLocalFile() }), QByteArray());
+        QCOMPARE(held(QStringLiteral("XMP-exif"), inXmpOnly), position);
+    }
+
     void takesASaveBack()
     {
         PhotoFolder folder;
