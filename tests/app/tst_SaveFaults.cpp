@@ -127,7 +127,7 @@ private slots:
     void permissionIsTaken();
 
 private:
-    int rounds(int few) const { return qEnvironmentVariableIsSet("QUORBEL_SLOW_TESTS") ? few * 20 : few; }
+    int rounds(int few) const { return qEnvironmentVariableIsSet("QUORBEL_SLOW_TESTS") ? few * 30 : few; }
     /// Text that needs the IPTC to be re-encoded by a run of its own, in every other round.
     static QString titleOf(int round) { return (round % 2 ? u"東京 %1"_s : u"Title %1"_s).arg(round); }
     void verifyNextStart(const StruckPhotos& photos, const QString& directory, const QString& state);
@@ -163,7 +163,7 @@ void TestSaveFaults::initTestCase()
 void TestSaveFaults::toolIsKilled()
 {
     int kills = 0;
-    for (int round = 0; round < rounds(6); ++round) {
+    for (int round = 0; round < rounds(4); ++round) {
         Batch batch;
         const StruckPhotos photos(batch.directory);
         QVERIFY(batch.load({ QUrl::fromLocalFile(batch.directory) }));
@@ -215,7 +215,7 @@ void TestSaveFaults::programIsKilled()
 {
     int kills = 0;
     int leftovers = 0;
-    for (int round = 0; round < rounds(4); ++round) {
+    for (int round = 0; round < rounds(2); ++round) {
         const PhotoFolder folder;
         const PhotoFolder state;
         const StruckPhotos photos(folder.path());
@@ -248,7 +248,7 @@ void TestSaveFaults::programIsKilled()
 
 void TestSaveFaults::folderGoesAway()
 {
-    for (int round = 0; round < rounds(3); ++round) {
+    for (int round = 0; round < rounds(2); ++round) {
         Batch batch;
         const StruckPhotos photos(batch.directory);
         // Opened one by one, so that the folder is not watched: what a watched folder loses leaves the screen.
@@ -266,7 +266,7 @@ void TestSaveFaults::folderGoesAway()
 
 void TestSaveFaults::diskIsFull()
 {
-    for (int round = 0; round < rounds(3); ++round) {
+    for (int round = 0; round < rounds(2); ++round) {
         Batch batch;
         const QByteArray mountPoint = batch.directory.toLocal8Bit();
         if (geteuid() != 0 || mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=256k") != 0)
