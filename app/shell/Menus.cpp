@@ -79,7 +79,7 @@ QString literal(QString text)
 
 }  // namespace
 
-Menus::Menus(AppModel& model, ContentView& content, MenuCommands commands)
+Menus::Menus(AppModel& model, ContentView& content, const MenuCommands& commands)
     : QObject(&content)
     , m_model(model)
     , m_content(content)
@@ -174,7 +174,7 @@ void Menus::addEditMenu()
 /// A command for the text field that has the focus. Fields take its keys themselves; the action shows them and
 /// serves the mouse. Asked whether it is possible when the menu opens.
 void Menus::addEditing(QMenu* menu, const QString& text, QKeySequence::StandardKey key, const char* slot,
-    std::function<bool(const QWidget&)> possible)
+    const std::function<bool(const QWidget&)>& possible)
 {
     QAction* action = add(menu, text, QKeySequence::keyBindings(key).mid(0, 1), [slot] {
         if (QWidget* focus = QApplication::focusWidget(); isTextEditor(focus))

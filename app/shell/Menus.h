@@ -30,7 +30,7 @@ class Menus final : public QObject {
 
 public:
     /// Fills the content's menu bar; belongs to the content.
-    Menus(AppModel& model, ContentView& content, MenuCommands commands);
+    Menus(AppModel& model, ContentView& content, const MenuCommands& commands);
 
 private:
     void addFileMenu(const MenuCommands& commands);
@@ -40,7 +40,7 @@ private:
     ThemedMenu* addMenu(const QString& title);
     QAction* add(QMenu* menu, const QString& text, const QList<QKeySequence>& keys, std::function<void()> run);
     void addEditing(QMenu* menu, const QString& text, QKeySequence::StandardKey key, const char* slot,
-        std::function<bool(const QWidget&)> possible);
+        const std::function<bool(const QWidget&)>& possible);
     void fillRecents();
     void followState();
 
