@@ -307,7 +307,8 @@ UndoOutcome MetadataService::undo(const JournalEntry& entry) const
     checkRestored(entry, doubtful, outcome);
     const QSet<QUrl> restored(outcome.restored.cbegin(), outcome.restored.cend());
     for (const auto& file : entry.files)
-        if (const QUrl url = QUrl::fromLocalFile(file.path); restored.contains(url) && !file.sidecar.restore())
+        if (const QUrl url = QUrl::fromLocalFile(file.path);
+            restored.contains(url) && !file.sidecar.restore() && !outcome.inexact.contains(url))
             outcome.inexact.append(url);
     return outcome;
 }
