@@ -2,8 +2,8 @@
 //
 // The yardstick is a plain form of thirty QLineEdits of the same size, given the same key or the same thirty texts,
 // drawn into the same kind of window. Times are this thread's processor time; a frame at 60 Hz is 16.7 ms.
-#include "tests/ui/InspectorFixture.h"
-#include "ui/Theme.h"
+#include "tests/ui/inspector/InspectorFixture.h"
+#include "ui/controls/theme/Theme.h"
 
 #include <QApplication>
 #include <QFormLayout>

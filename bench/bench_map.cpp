@@ -1,7 +1,7 @@
 // How long a map preview takes to draw, at double density and 620 × 96 points: CPU time on one thread, medians, and as
 // a ratio to drawing 10,000 random antialiased lines onto an image of the same size in the same run.
 // Usage: bench_map [PLACES_FOLDER]; the build tree's by default.
-#include "platform/places/MapPainter.h"
+#include "platform/places/map/MapPainter.h"
 
 #include <QGuiApplication>
 #include <QPainter>

@@ -1,8 +1,8 @@
 // What the engine adds to ExifTool: reading 1,000 JPEGs and saving 200, each against the bare runs of the tool that
 // the same work needs (same arguments, output thrown away). Runs alternate; medians are compared.
 // Photos: the JPEGs below the folder named by QUORBEL_TEST_PHOTOS, copied over and over; without it, generated ones.
-#include "core/MetadataReader.h"
 #include "core/MetadataService.h"
+#include "core/tool/MetadataReader.h"
 #include "tests/support/Support.h"
 
 #include <QDirIterator>

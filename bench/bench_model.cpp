@@ -1,8 +1,8 @@
 // The application model over 100,000 photos, against std::sort over as many precomputed sort keys in the same run.
 // Times are the main thread's CPU time, so that other programs on the machine weigh less; medians of many.
-#include "app/AppModel.h"
-#include "core/FieldSchema.h"
-#include "core/Text.h"
+#include "app/model/AppModel.h"
+#include "core/schema/FieldSchema.h"
+#include "core/text/Text.h"
 
 #include <QCoreApplication>
 #include <QDir>

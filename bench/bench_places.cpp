@@ -3,8 +3,8 @@
 // The yardstick of speed is the plain question to the same file, "which names begin with this?", answered by SQLite's
 // own LIKE without an index. The yardstick of being right is the towns, countries and states that OurAirports gives for
 // its airports, whose positions and towns were entered by other people than those of the towns that are searched.
-#include "platform/places/PlaceProvider.h"
-#include "platform/places/PlaceText.h"
+#include "platform/places/search/PlaceProvider.h"
+#include "platform/places/search/PlaceText.h"
 
 #include <QCoreApplication>
 #include <QDir>

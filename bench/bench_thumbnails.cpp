@@ -4,7 +4,7 @@
 // Usage: bench_thumbnails [WORD]   (only the comparisons whose name holds this word; QUORBEL_TEST_PHOTOS may name a
 // folder of real photos, which then join in)
 #include "platform/images/ImageDecoder.h"
-#include "tests/platform/ImageFiles.h"
+#include "tests/platform/images/ImageFiles.h"
 
 #include <QBuffer>
 #include <QCoreApplication>

@@ -3,12 +3,12 @@
 // programs are started in turn: on an X server of their own when there is one to start, with the session bus that every
 // desktop has and without one, and off screen. Without a window system the empty window costs next to nothing, so that
 // the bound is for the former.
-#include "app/AppModel.h"
-#include "app/ThumbnailStore.h"
+#include "app/model/AppModel.h"
+#include "app/model/thumbnails/ThumbnailStore.h"
 #include "tests/support/Support.h"
-#include "ui/SidebarList.h"
-#include "ui/SidebarView.h"
-#include "ui/Theme.h"
+#include "ui/controls/theme/Theme.h"
+#include "ui/sidebar/SidebarList.h"
+#include "ui/sidebar/SidebarView.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

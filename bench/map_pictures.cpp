@@ -1,6 +1,6 @@
 // Draws the map's sample pictures, light and dark, at double density, into one sheet: docs/map.png. For looking at.
 // Usage: map_pictures SHARE_PLACES_FOLDER OUTPUT.png [LATITUDE LONGITUDE KILOMETRES]
-#include "platform/places/MapRenderer.h"
+#include "platform/places/map/MapRenderer.h"
 
 #include <QEventLoop>
 #include <QGuiApplication>

@@ -1,11 +1,11 @@
 #include "core/MetadataService.h"
 
-#include "core/Coordinates.h"
-#include "core/IptcEncoding.h"
-#include "core/MetadataReader.h"
-#include "core/MetadataWriter.h"
-#include "core/SaveGuard.h"
-#include "core/TemporaryFiles.h"
+#include "core/save/SaveGuard.h"
+#include "core/text/Coordinates.h"
+#include "core/tool/IptcEncoding.h"
+#include "core/tool/MetadataReader.h"
+#include "core/tool/MetadataWriter.h"
+#include "core/tool/TemporaryFiles.h"
 
 #include <QDir>
 #include <QFileInfo>

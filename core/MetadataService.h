@@ -2,11 +2,11 @@
 // Thread: any, but never the interface's: every call blocks on ExifTool. Holds no state; copy it freely.
 #pragma once
 
-#include "core/EditPlan.h"
-#include "core/ExifToolRunner.h"
-#include "core/ImageRecord.h"
-#include "core/SaveJournal.h"
-#include "core/WriteFailures.h"
+#include "core/save/EditPlan.h"
+#include "core/save/SaveJournal.h"
+#include "core/schema/ImageRecord.h"
+#include "core/tool/ExifToolRunner.h"
+#include "core/tool/WriteFailures.h"
 
 #include <QSet>
 

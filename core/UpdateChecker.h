@@ -2,7 +2,7 @@
 // Thread: that of the network access manager passed in; check() returns at once.
 #pragma once
 
-#include "core/Errors.h"
+#include "core/text/Errors.h"
 
 #include <QByteArray>
 #include <QUrl>

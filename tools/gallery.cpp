@@ -1,10 +1,10 @@
 // Every control in every state, for looking at while one works on it. Not installed.
 // gallery [--dark] shows a window; gallery --grab FILE.png [--dark] [--scale 2] draws the same into a file, off screen.
-#include "ui/Components.h"
-#include "ui/FieldEditors.h"
-#include "ui/LocationSearchField.h"
-#include "ui/MapPreview.h"
-#include "ui/SuggestionList.h"
+#include "ui/controls/Components.h"
+#include "ui/controls/FieldEditors.h"
+#include "ui/controls/SuggestionList.h"
+#include "ui/places/LocationSearchField.h"
+#include "ui/places/MapPreview.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

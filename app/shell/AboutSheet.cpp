@@ -1,8 +1,8 @@
 #include "app/shell/AboutSheet.h"
 
-#include "ui/Buttons.h"
-#include "ui/Labels.h"
-#include "ui/Metrics.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/theme/Metrics.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

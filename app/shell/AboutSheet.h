@@ -1,7 +1,7 @@
 // Version, licences and the credits of the data that the program ships. Thread: the main thread.
 #pragma once
 
-#include "ui/Sheet.h"
+#include "ui/sheets/Sheet.h"
 
 namespace Quorbel {
 

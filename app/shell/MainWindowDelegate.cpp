@@ -1,8 +1,8 @@
 #include "app/shell/MainWindowDelegate.h"
 
-#include "app/AppModel.h"
-#include "ui/ContentView.h"
-#include "ui/Sheet.h"
+#include "app/model/AppModel.h"
+#include "ui/sheets/Sheet.h"
+#include "ui/window/ContentView.h"
 
 #include <QApplication>
 #include <QCloseEvent>

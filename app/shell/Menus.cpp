@@ -1,10 +1,10 @@
 #include "app/shell/Menus.h"
 
-#include "app/AppModel.h"
-#include "ui/ContentView.h"
-#include "ui/ThemedMenu.h"
-#include "ui/ThemedMenuBar.h"
-#include "ui/WindowBar.h"
+#include "app/model/AppModel.h"
+#include "ui/controls/ThemedMenu.h"
+#include "ui/controls/ThemedMenuBar.h"
+#include "ui/window/ContentView.h"
+#include "ui/window/WindowBar.h"
 
 #include <QActionGroup>
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "app/shell/OpenPanel.h"
 
-#include "core/ImageRecord.h"
-#include "ui/Theme.h"
+#include "core/schema/ImageRecord.h"
+#include "ui/controls/theme/Theme.h"
 
 #include <QDialogButtonBox>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #include "app/shell/QuorbelApp.h"
 
 #include "core/Product.h"
-#include "core/TemporaryFiles.h"
+#include "core/tool/TemporaryFiles.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>

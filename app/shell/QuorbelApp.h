@@ -2,11 +2,11 @@
 // Thread: the main thread. Knows no window: what has to appear in one comes in as functions.
 #pragma once
 
-#include "app/AppModel.h"
-#include "app/ThumbnailStore.h"
+#include "app/model/AppModel.h"
+#include "app/model/thumbnails/ThumbnailStore.h"
 #include "app/shell/UpdatePresenter.h"
-#include "platform/places/MapRenderer.h"
-#include "platform/places/PlaceProvider.h"
+#include "platform/places/map/MapRenderer.h"
+#include "platform/places/search/PlaceProvider.h"
 
 #include <memory>
 

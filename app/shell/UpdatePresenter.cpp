@@ -1,7 +1,7 @@
 #include "app/shell/UpdatePresenter.h"
 
 #include "core/Product.h"
-#include "core/Text.h"
+#include "core/text/Text.h"
 
 #include <QNetworkAccessManager>
 

@@ -1,6 +1,6 @@
 // What a save really puts into files, as the real ExifTool and, independently of it, exiv2 find it there.
-#include "core/FieldSchema.h"
 #include "core/MetadataService.h"
+#include "core/schema/FieldSchema.h"
 #include "tests/support/Support.h"
 
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 // The service against a recorded tool: exact command lines, matching, failures, what is left behind.
-#include "core/MetadataReader.h"
 #include "core/MetadataService.h"
+#include "core/tool/MetadataReader.h"
 #include "tests/support/Support.h"
 
 #include <QRegularExpression>

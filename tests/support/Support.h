@@ -2,7 +2,7 @@
 // Thread: the test's. Failing to set something up aborts the test: a test on half a fixture proves nothing.
 #pragma once
 
-#include "core/ExifToolRunner.h"
+#include "core/tool/ExifToolRunner.h"
 
 #include <QByteArray>
 #include <QJsonObject>

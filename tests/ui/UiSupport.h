@@ -1,7 +1,7 @@
 // A window to put controls into, and what one reads from a control's picture. For tests only.
 #pragma once
 
-#include "ui/Theme.h"
+#include "ui/controls/theme/Theme.h"
 
 #include <QAccessible>
 #include <QApplication>

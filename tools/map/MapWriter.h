@@ -2,7 +2,7 @@
 // Thread: any, one at a time. The bytes written depend on nothing but what was added, and its order.
 #pragma once
 
-#include "platform/places/MapFormat.h"
+#include "platform/places/map/MapFormat.h"
 
 #include <QByteArray>
 #include <QList>

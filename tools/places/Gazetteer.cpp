@@ -1,6 +1,6 @@
 #include "tools/places/Gazetteer.h"
 
-#include "platform/places/PlaceText.h"
+#include "platform/places/search/PlaceText.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "tools/places/PlaceFile.h"
 
-#include "platform/places/PlaceText.h"
+#include "platform/places/search/PlaceText.h"
 
 #include <QFile>
 #include <QSqlDatabase>

@@ -1,0 +1,164 @@
+#include "app/model/library/PhotoReader.h"
+
+#include "app/model/library/FolderScan.h"
+
+#include <QFile>
+#include <QSet>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Quorbel::PhotoReader {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What may be said about one path before ExifTool sees it.
+struct Check {
+    bool isReadable = false;
+    QString reason{};  ///< why not; empty: not a file at all, nothing to say
+};
+
+QString systemReason(int error)
+{
+    return QString::fromLocal8Bit(std::strerror(error)).toLower();
+}
+
+Check check(const QUrl& url)
+{
+    const QByteArray path = QFile::encodeName(url.toLocalFile());
+    struct stat status { };
+    if (stat(path.constData(), &status) != 0) {
+        const int error = errno;
+        // Qt holds a name as text, and a byte that is none as this character: the name does not lead back.
+        if (error == ENOENT && url.fileName().contains(QChar::ReplacementCharacter))
+            return { false, u"its name is not UTF-8"_s };
+        const bool isLink = lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
+        return { false, isLink && (error == ENOENT || error == ELOOP) ? u"broken link"_s : systemReason(error) };
+    }
+    if (!S_ISREG(status.st_mode))
+        return {};
+    if (status.st_size == 0)
+        return { false, u"empty"_s };
+    // The effective user is the one that ExifTool will run as.
+    if (faccessat(AT_FDCWD, path.constData(), R_OK, AT_EACCESS) != 0)
+        return { false, systemReason(errno) };
+    return { true, {} };
+}
+
+/// The photos of a folder repeat each other's texts: each text is held once. That saves memory, and tells texts equal
+/// by their address, without looking at them.
+void shareTexts(QList<ImageRecord>& records)
+{
+    QSet<QString> texts;
+    const auto share = [&texts](QString& text) { text = *texts.insert(text); };
+    for (ImageRecord& record : records) {
+        share(record.fileType);
+        std::for_each(record.values.begin(), record.values.end(), share);
+        for (QStringList& items : record.lists)
+            std::for_each(items.begin(), items.end(), share);
+        for (CameraRow& row : record.camera) {
+            share(row.label);
+            share(row.value);
+        }
+    }
+}
+
+struct Readable {
+    QUrl url{};
+    std::optional<QDateTime> modified{};  ///< before the read
+};
+
+QList<QUrl> urlsOf(const QList<Readable>& photos)
+{
+    QList<QUrl> urls;
+    urls.reserve(photos.size());
+    for (const Readable& photo : photos)
+        urls.append(photo.url);
+    return urls;
+}
+
+/// Leaves out the photos that the tool cannot make sense of. Whether there were any.
+bool leaveOutBroken(
+    const MetadataService& service, QList<Readable>& photos, const ReadControl& control, QList<LeftOut>& leftOut)
+{
+    const QMap<QString, QString> errors =
+        service.runner.readErrors(urlsOf(photos), { .progress = {}, .stop = control.stop, .started = control.started });
+    const auto broken = photos.removeIf([&](const Readable& photo) {
+        const QString reason = errors.value(photo.url.toLocalFile());
+        if (!reason.isEmpty())
+            leftOut.append({ photo.url.fileName(), reason.at(0).toLower() + reason.sliced(1) });
+        return !reason.isEmpty();
+    });
+    return broken > 0;
+}
+
+/// Throws what the service throws.
+void readPhotos(const MetadataService& service, QList<Readable>& photos, TaskProgress& progress,
+    const ReadControl& control, Result& result)
+{
+    progress.total = photos.size();
+    try {
+        result.records = service.read(urlsOf(photos), control);
+    } catch (const ToolError& error) {
+        if (!std::holds_alternative<ToolError::ExecFailed>(error.payload())
+            || !leaveOutBroken(service, photos, control, result.leftOut))
+            throw;
+        progress.done = 0;
+        progress.total = photos.size();
+        result.records = service.read(urlsOf(photos), control);
+    }
+}
+
+}  // namespace
+
+Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgress& progress, std::stop_token stop)
+{
+    Result result;
+    QList<Readable> photos;
+    for (const QUrl& url : urls) {
+        const Check checked = check(url);
+        if (checked.isReadable)
+            photos.append({ url, modificationDate(url.toLocalFile()) });
+        else if (!checked.reason.isEmpty())
+            result.leftOut.append({ url.fileName(), checked.reason });
+    }
+    const ReadControl control{ [&progress](qsizetype done) { progress.done = done; }, std::move(stop),
+        [&progress](qint64 processID) { progress.processID = processID; } };
+    try {
+        readPhotos(service, photos, progress, control, result);
+    } catch (const CancelledError&) {
+        result.isCancelled = true;
+    } catch (const Error& error) {
+        result.error = error.description();
+    } catch (const std::exception& error) {
+        result.error = QString::fromUtf8(error.what());
+    }
+    progress.processID = 0;
+    shareTexts(result.records);
+    for (qsizetype i = 0; i < std::min(result.records.size(), photos.size()); ++i)
+        result.records[i].contentModificationDate = photos.at(i).modified;
+    return result;
+}
+
+QString leftOutText(const QList<LeftOut>& files)
+{
+    constexpr qsizetype mostNamed = 5;
+    QStringList named;
+    for (const LeftOut& file : files.first(std::min(files.size(), mostNamed)))
+        named.append(u"%1 (%2)"_s.arg(file.fileName, file.reason));
+    QString text = files.size() == 1
+        ? u"1 file could not be read and was left out: "_s
+        : QString::number(files.size()) + u" files could not be read and were left out: "_s;
+    text += named.join(u", "_s);
+    if (files.size() > mostNamed)
+        text += u" and %1 more"_s.arg(files.size() - mostNamed);
+    return text;
+}
+
+}  // namespace Quorbel::PhotoReader

@@ -1,0 +1,136 @@
+#include "app/model/saving/SaveJob.h"
+
+#include "app/model/saving/ReplacedFiles.h"
+#include "core/save/SaveGuard.h"
+#include "core/save/SaveVerification.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace Quorbel::SaveJob {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The tool is given the files behind symbolic links and names those; told of the targets that stand for them.
+QList<FileFailure> namedFailures(const ToolError& error, const QList<QUrl>& targets)
+{
+    const QList<QUrl> files = SaveGuard::filesBehindLinks(targets);
+    const QList<FileFailure> named = writeFailures(error.messages(), files);
+    QList<FileFailure> failures;
+    for (const FileFailure& failure : named)
+        for (qsizetype i = 0; i < files.size(); ++i)
+            if (files.at(i) == failure.file)
+                failures.append({ targets.at(i), failure.reason });
+    return failures;
+}
+
+/// What the save is about to replace; nothing when that cannot be found out.
+std::optional<JournalEntry> lookBefore(
+    const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options)
+{
+    try {
+        return service.journalEntry(plan, targets, options);
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+}
+
+QHash<QUrl, QString> reasonsByFile(const QList<FileFailure>& failures)
+{
+    QHash<QUrl, QString> reasons;
+    for (const FileFailure& failure : failures)
+        reasons.insert(failure.file, failure.reason);
+    return reasons;
+}
+
+}  // namespace
+
+Written run(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets,
+    const WriteOptions& options, SaveHistory* history, TaskProgress& progress)
+{
+    const std::optional<JournalEntry> before = history ? lookBefore(service, plan, targets, options) : std::nullopt;
+    const ReplacedFilesPoll poll(targets, progress.done);
+    Written written;
+    try {
+        service.write(plan, targets, options);
+    } catch (const ToolError& error) {
+        written.error = error.description();
+        if (std::holds_alternative<ToolError::ExecFailed>(error.payload())) {
+            written.isPartial = true;
+            written.failures = namedFailures(error, targets);
+        }
+    } catch (const Error& error) {
+        written.error = error.description();
+    } catch (const std::exception& error) {
+        written.error = QString::fromUtf8(error.what());
+    }
+    // After a failure too: some of the files may have been written.
+    written.canBeUndone = before && history->add(*before);
+    return written;
+}
+
+Checked check(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const Written& written,
+    const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop)
+{
+    Checked checked;
+    QList<QUrl> readable = targets;
+    readable.removeIf([&tooSlow](const QUrl& target) { return tooSlow.contains(target); });
+    const PhotoReader::Result read = PhotoReader::read(service, readable, progress, stop);
+    if (read.error) {
+        checked.error = read.error;
+        return checked;
+    }
+    QHash<QUrl, const ImageRecord*> records;
+    for (const ImageRecord& record : read.records)
+        records.insert(record.url, &record);
+    const QHash<QUrl, QString> reasons = reasonsByFile(written.failures);
+    QSet<QString> differing;
+    for (const QUrl& target : targets) {
+        const ImageRecord* record = records.value(target);
+        const QStringList differences = record ? SaveVerification::differences(plan, *record) : QStringList();
+        if (reasons.contains(target)) {
+            checked.failures.append({ target, reasons.value(target) });
+        } else if (tooSlow.contains(target)) {
+            checked.failures.append({ target, u"reading it back took too long"_s });
+        } else if (!record) {
+            checked.failures.append({ target, u"cannot be read any more"_s });
+        } else if (written.error && !differences.isEmpty()) {
+            checked.failures.append({ target, u"not written"_s });
+        } else {
+            checked.records.append(*record);
+            differing.unite(QSet<QString>(differences.cbegin(), differences.cend()));
+        }
+    }
+    for (const FieldSpec& field : FieldSchema::all())
+        if (differing.remove(field.id))
+            checked.differences.append(field.id);
+    QStringList customs(differing.cbegin(), differing.cend());
+    customs.sort();
+    checked.differences += customs;
+    return checked;
+}
+
+QString differencesText(const QStringList& keys)
+{
+    const QString labels = SaveVerification::labels(keys).join(u", "_s);
+    if (keys.size() == 1)
+        return u"Saved, but 1 field reads back differently: "_s + labels;
+    return u"Saved, but %1 fields read back differently: "_s.arg(keys.size()) + labels;
+}
+
+QString failuresText(const QList<FileFailure>& failures, qsizetype targetCount)
+{
+    constexpr qsizetype mostNamed = 5;
+    QStringList named;
+    for (const FileFailure& failure : failures.first(std::min(failures.size(), mostNamed)))
+        named.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
+    QString text = u"Could not save %1 of %2 photos: "_s.arg(failures.size()).arg(targetCount) + named.join(u", "_s);
+    if (failures.size() > mostNamed)
+        text += u" and %1 more"_s.arg(failures.size() - mostNamed);
+    return text;
+}
+
+}  // namespace Quorbel::SaveJob

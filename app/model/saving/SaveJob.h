@@ -1,0 +1,45 @@
+// One save from beginning to end, away from the main thread, and the texts that tell the user what came of it.
+// Thread: any but the main one for run() and check(): both block on ExifTool. The texts are pure.
+#pragma once
+
+#include "app/model/library/PhotoReader.h"
+#include "app/model/saving/SaveHistory.h"
+#include "core/MetadataService.h"
+
+namespace Quorbel::SaveJob {
+
+/// What the write came to. Every target was written when there is no error.
+struct Written {
+    std::optional<QString> error{};  ///< the error's description
+    /// The tool ran, and failed: some of the targets may be written all the same. Otherwise an error means that
+    /// nothing was changed.
+    bool isPartial = false;
+    QList<FileFailure> failures{};  ///< the targets that the tool named, with its reasons
+    bool canBeUndone = false;  ///< the history knows what was replaced
+};
+
+/// Writes, and counts meanwhile the files that are done. What it replaces goes into the history, where there is one;
+/// a history that cannot be kept does not stop the save. Never throws.
+Written run(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets,
+    const WriteOptions& options, SaveHistory* history, TaskProgress& progress);
+
+/// What the files hold afterwards.
+struct Checked {
+    QList<ImageRecord> records{};  ///< of the targets that were saved, in their order
+    QList<FileFailure> failures{};  ///< the targets that were not
+    QStringList differences{};  ///< keys of fields that some saved target holds otherwise than was written
+    std::optional<QString> error{};  ///< the files could not be read again; then all else is empty
+};
+
+/// Reads the targets again and compares them with the plan. After a failed run a target counts as saved when it
+/// holds all of the plan and the tool did not name it. Targets that are too slow are not read: nobody knows what they
+/// hold, so they count as not saved. Never throws; of a read that was stopped the result means nothing.
+Checked check(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const Written& written,
+    const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop);
+
+/// "Saved, but 2 fields read back differently: Coordinates, Job ID"; at least one key.
+QString differencesText(const QStringList& keys);
+/// "Could not save 2 of 40 photos: a.jpg (Not a valid JPG), b.jpg (…)"; at least one failure.
+QString failuresText(const QList<FileFailure>& failures, qsizetype targetCount);
+
+}  // namespace Quorbel::SaveJob

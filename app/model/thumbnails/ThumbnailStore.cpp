@@ -1,0 +1,430 @@
+#include "app/model/thumbnails/ThumbnailStore.h"
+
+#include "app/model/thumbnails/RawPreview.h"
+#include "app/model/thumbnails/ThumbnailDiskCache.h"
+#include "platform/images/ImageModule.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QMutex>
+#include <QStandardPaths>
+#include <QThread>
+#include <QThreadPool>
+#include <QTimer>
+
+#include <chrono>
+#include <cmath>
+#include <utility>
+
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+
+namespace Quorbel {
+
+namespace {
+
+constexpr int previewLongSide = 1400;
+constexpr int smallLongSide = 90;  // points
+/// Previews that wait at once. More than a stack of cards shows; running through a folder asks for hundreds.
+constexpr qsizetype mostPreviewsWaiting = 16;
+/// After this one run of the tool for one file's preview is given up: some damaged files keep it busy for minutes.
+constexpr std::chrono::seconds toolTimeAllowed{ 30 };
+/// How long a store that is being destroyed waits for decoders that cannot be interrupted.
+constexpr int farewell = 2000;  // milliseconds
+
+/// Decoding must not compete with the window for the processor. On Linux the nice value is a thread's own.
+void lowerPriority()
+{
+    constexpr int nice = 10;
+    static thread_local const bool lowered = setpriority(PRIO_PROCESS, 0, nice) == 0;
+    Q_UNUSED(lowered)
+}
+
+}  // namespace
+
+ThumbnailStoreOptions ThumbnailStoreOptions::forUser()
+{
+    ThumbnailStoreOptions options;
+    options.cacheFolder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + u"/thumbnails"_s;
+    options.sharedFolder = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + u"/thumbnails"_s;
+    return options;
+}
+
+/// What the workers use. Jobs share it, so that it outlives the store for as long as one of them runs.
+struct ThumbnailStore::Workshop {
+    ThumbnailStoreOptions options{};
+    ThumbnailDiskCache disk;
+
+    explicit Workshop(const ThumbnailStoreOptions& from)
+        : options(from)
+        , disk(from.cacheFolder)
+    {
+        if (!options.decode)
+            options.decode = [](const QString& path, int longSide, const std::stop_token& stop) {
+                return ImageModule::loaded().decode(path, longSide, stop);
+            };
+        if (!options.embedded)
+            options.embedded = [](const QString& path, const std::stop_token& stop) {
+                return ImageModule::loaded().embeddedThumbnail(path, stop);
+            };
+    }
+
+    Outcome look(const QString& path, int longSide, const std::stop_token& stop) const
+    {
+        if (QImage image = disk.load(disk.key(path, longSide)); !image.isNull())
+            return { .image = std::move(image), .final = true };
+        QImage image = options.embedded(path, stop);
+        if (image.isNull())
+            image = sharedThumbnail(options.sharedFolder, path, qMin(longSide, 256));
+        return { .image = std::move(image) };
+    }
+
+    Outcome decode(const QString& path, int longSide, const std::stop_token& stop) const
+    {
+        constexpr qint64 worthKeeping = 60;  // milliseconds; a kept preview loads in ten
+        QElapsedTimer clock;
+        clock.start();
+        const QString key = disk.key(path, longSide);
+        DecodedImage decoded = options.decode(path, longSide, stop);
+        if (decoded.outcome == DecodedImage::Outcome::needsTool && options.tool)
+            return { .needsTool = true };
+        if (decoded.outcome != DecodedImage::Outcome::decoded)
+            return { .image = sharedThumbnail(options.sharedFolder, path, qMin(longSide, 256)), .final = true };
+        if (longSide < previewLongSide || clock.elapsed() >= worthKeeping)
+            disk.save(key, decoded.image);
+        return { .image = std::move(decoded.image), .final = true };
+    }
+
+    /// One run serves both sizes: the larger image is kept on disk for the request that comes next.
+    Outcome runTool(const QString& path, int longSide, const std::stop_token& stop) const
+    {
+        const QString key = disk.key(path, longSide), largeKey = disk.key(path, previewLongSide);
+        QImage large = disk.load(largeKey);
+        if (large.isNull()) {
+            large = rawPreview(*options.tool, path, previewLongSide, stop);
+            disk.save(largeKey, large);
+        }
+        if (large.isNull() || qMax(large.width(), large.height()) <= longSide)
+            return { .image = std::move(large), .final = true };
+        QImage image = large.scaled(longSide, longSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        disk.save(key, image);
+        return { .image = std::move(image), .final = true };
+    }
+};
+
+/// Where workers leave what they made. Emptied of its store before that is gone, under the lock.
+struct ThumbnailStore::Mailbox {
+    QMutex mutex{};
+    ThumbnailStore* store = nullptr;
+
+    void post(const Key& key, qint64 ticket, Outcome outcome)
+    {
+        const QMutexLocker lock(&mutex);
+        if (!store)
+            return;
+        QMetaObject::invokeMethod(
+            store, [to = store, key, ticket, outcome = std::move(outcome)] { to->finish(key, ticket, outcome); },
+            Qt::QueuedConnection);
+    }
+};
+
+ThumbnailStore::ThumbnailStore(ThumbnailStoreOptions options, QObject* parent)
+    : QObject(parent)
+    , m_options(std::move(options))
+    , m_workshop(std::make_shared<Workshop>(m_options))
+    , m_mailbox(std::make_shared<Mailbox>())
+    , m_pool(std::make_unique<QThreadPool>())
+    , m_toolPool(std::make_unique<QThreadPool>())
+    , m_lanes(m_options.workers > 0 ? m_options.workers : qMax(1, QThread::idealThreadCount() - 1))
+    , m_small(m_options.smallBytes)
+    , m_previews(m_options.previewBytes)
+{
+    m_mailbox->store = this;
+    m_pool->setMaxThreadCount(m_lanes);
+    m_toolPool->setMaxThreadCount(1);
+}
+
+void ThumbnailStore::pruneDisk()
+{
+    m_toolPool->start([workshop = m_workshop] {
+        lowerPriority();
+        workshop->disk.prune(workshop->options.cacheFolderBytes);
+    });
+}
+
+ThumbnailStore::~ThumbnailStore()
+{
+    {
+        const QMutexLocker lock(&m_mailbox->mutex);
+        m_mailbox->store = nullptr;
+    }
+    for (Job& job : m_jobs)
+        job.stop.request_stop();
+    for (auto* pool : { &m_pool, &m_toolPool }) {
+        (*pool)->clear();
+        // A pool's destructor waits without end. What still runs then holds nothing but shared values, so its pool
+        // is left to it.
+        if (!(*pool)->waitForDone(farewell))
+            static_cast<void>(pool->release());
+    }
+}
+
+ThumbnailStore::Entry ThumbnailStore::entry(const QUrl& url, Kind kind) const
+{
+    const Key key{ url, kind };
+    if (m_badges.contains(key))
+        return { .state = State::badge };
+    if (const Held* held = cache(kind).object(url))
+        return { .state = held->final ? State::ready : State::placeholder, .image = held->image };
+    return { .state = m_jobs.contains(key) ? State::loading : State::none };
+}
+
+ThumbnailStore::Entry ThumbnailStore::request(const QUrl& url, Kind kind)
+{
+    const Key key{ url, kind };
+    const Entry known = entry(url, kind);
+    if (known.state == State::ready || known.state == State::badge || !url.isLocalFile())
+        return known;
+    Job& job = m_jobs[key];
+    const bool isNew = job.ticket == 0;
+    if (isNew && kind == Kind::preview && known.state == State::none) {
+        // The row's own picture, enlarged, is a better wait than an empty column.
+        if (const Held* small = m_small.object(url))
+            m_previews.insert(url, new Held{ .image = small->image }, small->image.sizeInBytes());
+    }
+    if (!job.running) {
+        m_queue.erase(rankOf(key, job));
+        job.ticket = ++m_lastTicket;
+        enqueue(key, job);
+    }
+    if (isNew && kind == Kind::preview)
+        dropOldPreviews();
+    dispatch();
+    return entry(url, kind);
+}
+
+void ThumbnailStore::setVisible(const QList<QUrl>& urls, const QList<QUrl>& near)
+{
+    m_visible = QSet<QUrl>(urls.cbegin(), urls.cend());
+    m_near = QSet<QUrl>(near.cbegin(), near.cend());
+    QList<Key> gone, moved;
+    for (auto it = m_jobs.cbegin(); it != m_jobs.cend(); ++it) {
+        const Band band = bandOf(it.key());
+        if (it.key().kind == Kind::small && band == Band::rest)
+            gone.append(it.key());
+        else if (band != it->band && !it->running)
+            moved.append(it.key());
+    }
+    for (const Key& key : std::as_const(moved)) {
+        Job& job = m_jobs[key];
+        m_queue.erase(rankOf(key, job));
+        enqueue(key, job);
+    }
+    for (const Key& key : std::as_const(gone))
+        drop(key);
+    for (qsizetype i = near.size(); i-- > 0;)  // the newest is served first: the nearest is asked for last
+        request(near[i], Kind::small);
+    dispatch();
+    for (const Key& key : std::as_const(gone))
+        emit entryChanged(key.url, key.kind);
+}
+
+void ThumbnailStore::invalidate(const QList<QUrl>& urls)
+{
+    QList<Key> changed;
+    for (const QUrl& url : urls) {
+        for (const Kind kind : { Kind::small, Kind::preview }) {
+            const Key key{ url, kind };
+            if (entry(url, kind).state == State::none)
+                continue;
+            changed.append(key);
+            drop(key);
+            m_badges.remove(key);
+            // The old picture stays up until the new one is there, so that nothing flickers.
+            if (Held* held = cache(kind).object(url))
+                held->final = false;
+        }
+    }
+    announceStale(changed);
+}
+
+void ThumbnailStore::setDevicePixelRatio(qreal ratio)
+{
+    const int before = longSide(Kind::small);
+    m_options.devicePixelRatio = ratio;
+    if (longSide(Kind::small) == before)
+        return;
+    // Requests under way would deliver the old size; what is held serves until it is made anew.
+    QList<Key> changed;
+    for (const Key& key : m_jobs.keys()) {
+        if (key.kind != Kind::small)
+            continue;
+        drop(key);
+        changed.append(key);
+    }
+    for (const QUrl& url : m_small.keys()) {
+        m_small.object(url)->final = false;
+        changed.append({ url, Kind::small });
+    }
+    announceStale(changed);
+}
+
+void ThumbnailStore::announceStale(const QList<Key>& keys)
+{
+    for (const Key& key : keys) {
+        if (key.kind == Kind::small && m_visible && m_visible->contains(key.url))
+            request(key.url, key.kind);
+    }
+    for (const Key& key : keys)
+        emit entryChanged(key.url, key.kind);
+}
+
+qsizetype ThumbnailStore::bytesHeld(Kind kind) const
+{
+    return cache(kind).totalCost();
+}
+
+int ThumbnailStore::longSide(Kind kind) const
+{
+    return kind == Kind::preview ? previewLongSide
+                                 : int(std::ceil(smallLongSide * qMax(1.0, m_options.devicePixelRatio)));
+}
+
+ThumbnailStore::Band ThumbnailStore::bandOf(const Key& key) const
+{
+    if (key.kind == Kind::preview || !m_visible || m_visible->contains(key.url))
+        return Band::visible;
+    return m_near.contains(key.url) ? Band::near : Band::rest;
+}
+
+ThumbnailStore::Rank ThumbnailStore::rankOf(const Key& key, const Job& job) const
+{
+    // The tool is slow and runs alone: whatever else waits goes first.
+    const Band band = job.step == Step::tool ? Band::rest : job.band;
+    return { job.step == Step::tool, band, job.step, key.kind != Kind::preview, -job.ticket };
+}
+
+void ThumbnailStore::enqueue(const Key& key, Job& job)
+{
+    job.running = false;
+    job.band = bandOf(key);
+    m_queue.emplace(rankOf(key, job), key);
+}
+
+void ThumbnailStore::drop(const Key& key)
+{
+    const auto job = m_jobs.constFind(key);
+    if (job == m_jobs.cend())
+        return;
+    std::stop_source(job->stop).request_stop();
+    m_queue.erase(rankOf(key, *job));
+    m_jobs.erase(job);
+}
+
+void ThumbnailStore::dropOldPreviews()
+{
+    QMap<qint64, Key> waiting;
+    for (auto it = m_jobs.cbegin(); it != m_jobs.cend(); ++it) {
+        if (it.key().kind == Kind::preview)
+            waiting.insert(it->ticket, it.key());
+    }
+    while (waiting.size() > mostPreviewsWaiting)
+        drop(waiting.take(waiting.firstKey()));
+}
+
+void ThumbnailStore::dispatch()
+{
+    while (!m_queue.empty()) {
+        const Key key = m_queue.begin()->second;
+        Job& job = m_jobs[key];
+        const bool isTool = job.step == Step::tool;
+        // One job more than there are threads: a thread that ends one finds the next without waiting for us.
+        if (isTool ? m_toolRunning || m_running > 0 : m_running > m_lanes)
+            return;
+        m_queue.erase(m_queue.begin());
+        job.running = true;
+        if (isTool)
+            m_toolRunning = true;
+        else
+            ++m_running;
+        start(key, job);
+    }
+}
+
+void ThumbnailStore::start(const Key& key, const Job& job)
+{
+    using Work = Outcome (Workshop::*)(const QString&, int, const std::stop_token&) const;
+    const bool isTool = job.step == Step::tool;
+    const Work work = isTool ? &Workshop::runTool : job.step == Step::look ? &Workshop::look : &Workshop::decode;
+    if (isTool) {
+        QTimer::singleShot(toolTimeAllowed, this, [stop = job.stop]() mutable { stop.request_stop(); });
+    }
+    (isTool ? m_toolPool : m_pool)
+        ->start([workshop = m_workshop, mailbox = m_mailbox, key, side = longSide(key.kind), work, isTool,
+                    ticket = job.ticket, stop = job.stop.get_token()] {
+            lowerPriority();
+            Outcome outcome;
+            if (!stop.stop_requested())
+                outcome = (*workshop.*work)(key.url.toLocalFile(), side, stop);
+            outcome.fromTool = isTool;
+            mailbox->post(key, ticket, std::move(outcome));
+        });
+}
+
+void ThumbnailStore::finish(const Key& key, qint64 ticket, const Outcome& outcome)
+{
+    if (outcome.fromTool)
+        m_toolRunning = false;
+    else
+        --m_running;
+    const auto found = m_jobs.find(key);
+    if (found == m_jobs.end() || found->ticket != ticket) {
+        dispatch();  // dropped, or asked for anew since: nobody waits for this one
+        return;
+    }
+    QList<Key> changed{ key };
+    if (found->step == Step::look && !outcome.final) {
+        if (outcome.image.isNull() || cache(key.kind).contains(key.url))
+            changed.clear();
+        else
+            keep(key, outcome.image, false);
+        found->step = Step::decode;
+        enqueue(key, *found);
+    } else if (outcome.needsTool) {
+        found->step = Step::tool;
+        enqueue(key, *found);
+        changed.clear();
+    } else {
+        m_jobs.erase(found);
+        if (outcome.image.isNull())
+            changed = refuse(key, outcome.fromTool);
+        else
+            keep(key, outcome.image, true);
+    }
+    dispatch();
+    for (const Key& one : std::as_const(changed))
+        emit entryChanged(one.url, one.kind);
+}
+
+/// Leaves a badge and returns what changed. What even the tool finds no picture in has none of the other size: a run
+/// for that one would be the same again.
+QList<ThumbnailStore::Key> ThumbnailStore::refuse(const Key& key, bool byTool)
+{
+    const Key other{ key.url, key.kind == Kind::small ? Kind::preview : Kind::small };
+    const QList<Key> refused =
+        byTool && entry(other.url, other.kind).state != State::ready ? QList<Key>{ key, other } : QList<Key>{ key };
+    for (const Key& one : refused) {
+        drop(one);
+        cache(one.kind).remove(one.url);
+        m_badges.insert(one);
+    }
+    return refused;
+}
+
+void ThumbnailStore::keep(const Key& key, const QImage& image, bool final)
+{
+    cache(key.kind).insert(key.url, new Held{ .image = image, .final = final }, image.sizeInBytes());
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,26 @@
+// What one save is asked to do. Thread: any. Plain values.
+#pragma once
+
+#include "core/schema/ImageRecord.h"
+#include "core/tool/MetadataWriter.h"
+
+namespace Quorbel {
+
+struct EditPlan {
+    QMap<QString, QString> scalars{};  ///< field id to new text; empty text deletes the field's tags
+    QMap<QString, QStringList> lists{};  ///< field id to new items
+    QList<CustomValue> customs{};
+    MetadataWriter::ListMode listMode = MetadataWriter::ListMode::replace;
+
+    /// Nothing to write; the list mode plays no part.
+    bool isEmpty() const { return scalars.isEmpty() && lists.isEmpty() && customs.isEmpty(); }
+    bool operator==(const EditPlan&) const = default;
+};
+
+struct WriteOptions {
+    bool backupOriginals = false;  ///< ExifTool keeps each file's "_original" copy
+    bool writeSidecar = false;  ///< an XMP sidecar beside each image is brought up to date
+    bool operator==(const WriteOptions&) const = default;
+};
+
+}  // namespace Quorbel

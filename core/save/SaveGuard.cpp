@@ -1,0 +1,175 @@
+#include "core/save/SaveGuard.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace Quorbel::SaveGuard {
+
+namespace {
+
+/// A leftover this old belongs to no running tool, in seconds.
+constexpr qint64 leftoverAge = qint64(24) * 60 * 60;
+/// File names that one message lists.
+constexpr qsizetype namesListed = 5;
+
+QByteArray nativePath(const QUrl& file)
+{
+    return QFile::encodeName(file.toLocalFile());
+}
+
+QByteArray backupOf(const QByteArray& photo)
+{
+    return photo + "_original";
+}
+
+QString listed(const QStringList& names)
+{
+    QString text = names.mid(0, namesListed).join(QStringLiteral(", "));
+    if (names.size() > namesListed)
+        text += QStringLiteral(" and %1 more").arg(names.size() - namesListed);
+    return text;
+}
+
+QMap<QByteArray, QByteArray> extendedAttributes(const QByteArray& path)
+{
+    QMap<QByteArray, QByteArray> attributes;
+    const ssize_t listSize = listxattr(path.constData(), nullptr, 0);
+    if (listSize <= 0)
+        return attributes;
+    QByteArray names(listSize, Qt::Uninitialized);
+    const ssize_t got = listxattr(path.constData(), names.data(), size_t(names.size()));
+    if (got <= 0)
+        return attributes;
+    names.truncate(got);
+    for (const auto& name : names.split('\0')) {
+        const ssize_t size = name.isEmpty() ? -1 : getxattr(path.constData(), name.constData(), nullptr, 0);
+        if (size < 0)
+            continue;
+        QByteArray value(size, Qt::Uninitialized);
+        if (getxattr(path.constData(), name.constData(), value.data(), size_t(size)) == size)
+            attributes.insert(name, value);
+    }
+    return attributes;
+}
+
+}  // namespace
+
+QList<QUrl> filesBehindLinks(const QList<QUrl>& targets)
+{
+    QList<QUrl> files;
+    files.reserve(targets.size());
+    for (const auto& target : targets) {
+        const QFileInfo info(target.toLocalFile());
+        const QString real = info.isSymLink() ? info.canonicalFilePath() : QString();
+        files.append(real.isEmpty() ? target : QUrl::fromLocalFile(real));
+    }
+    return files;
+}
+
+bool isReadOnly(const QUrl& file)
+{
+    const QByteArray path = nativePath(file);
+    struct stat status { };
+    if (stat(path.constData(), &status) != 0)
+        return false;  // its absence is for the tool to report
+    // The administrator may write to anything; a file without any write bit is still meant to stay as it is.
+    constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+    return (status.st_mode & anyWrite) == 0 || access(path.constData(), W_OK) != 0;
+}
+
+void requireWritable(const QList<QUrl>& files)
+{
+    QStringList names;
+    for (const auto& file : files)
+        if (isReadOnly(file))
+            names.append(file.fileName());
+    if (names.isEmpty())
+        return;
+    if (files.size() == 1)
+        throw FileProblem(QStringLiteral("%1 is read-only.").arg(names.constFirst()));
+    const QString verb = names.size() == 1 ? QStringLiteral("is") : QStringLiteral("are");
+    throw FileProblem(QStringLiteral("%1 of %2 photos %3 read-only: %4; nothing was written.")
+                          .arg(names.size())
+                          .arg(files.size())
+                          .arg(verb, listed(names)));
+}
+
+void clearLeftovers(const QList<QUrl>& files, const QDateTime& now)
+{
+    QStringList young;
+    for (const auto& file : files) {
+        const QFileInfo leftover(file.toLocalFile() + QStringLiteral("_exiftool_tmp"));
+        if (!leftover.exists())
+            continue;
+        const bool old = leftover.lastModified().secsTo(now) > leftoverAge;
+        if (!old || !QFile::remove(leftover.filePath()))
+            young.append(leftover.fileName());
+    }
+    if (young.isEmpty())
+        return;
+    throw FileProblem(
+        QStringLiteral("Another save is under way or was cut off: %1 lies beside the photo. If no other program "
+                       "is saving, delete it and save again. Nothing was written.")
+            .arg(listed(young)));
+}
+
+BackupKeeper::BackupKeeper(const QList<QUrl>& files)
+{
+    for (const auto& file : files) {
+        const QByteArray photo = nativePath(file);
+        if (link(photo.constData(), backupOf(photo).constData()) == 0)
+            m_made.append(photo);
+    }
+}
+
+BackupKeeper::~BackupKeeper()
+{
+    for (const auto& photo : m_made) {
+        const QByteArray backup = backupOf(photo);
+        struct stat now { };
+        struct stat before { };
+        if (stat(photo.constData(), &now) == 0 && stat(backup.constData(), &before) == 0 && now.st_dev == before.st_dev
+            && now.st_ino == before.st_ino)
+            unlink(backup.constData());
+    }
+}
+
+AttributeKeeper::AttributeKeeper(const QList<QUrl>& files)
+{
+    for (const auto& file : files) {
+        const QByteArray path = nativePath(file);
+        struct stat status { };
+        if (stat(path.constData(), &status) != 0)
+            continue;
+        m_byPath.insert(path,
+            { .mode = status.st_mode & 07777U,
+                .owner = status.st_uid,
+                .group = status.st_gid,
+                .extended = extendedAttributes(path) });
+    }
+}
+
+void AttributeKeeper::restore() const
+{
+    for (auto it = m_byPath.cbegin(); it != m_byPath.cend(); ++it) {
+        const char* path = it.key().constData();
+        struct stat status { };
+        if (stat(path, &status) != 0)
+            continue;
+        // Whether it is another file cannot be told by its inode: after two runs the number may be in use again.
+        if (status.st_uid != it->owner || status.st_gid != it->group) {
+            // Changing the group alone may be allowed where changing the owner is not.
+            if (chown(path, it->owner, it->group) != 0 && chown(path, uid_t(-1), it->group) != 0) { }
+        }
+        if ((status.st_mode & 07777U) != it->mode)
+            chmod(path, it->mode);
+        for (auto attribute = it->extended.cbegin(); attribute != it->extended.cend(); ++attribute)
+            setxattr(path, attribute.key().constData(), attribute->constData(), size_t(attribute->size()), 0);
+    }
+}
+
+}  // namespace Quorbel::SaveGuard

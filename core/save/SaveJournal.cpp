@@ -1,0 +1,346 @@
+#include "core/save/SaveJournal.h"
+
+#include "core/save/EditPlan.h"
+#include "core/tool/MetadataWriter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+#include <QUtf8StringView>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Quorbel {
+
+namespace {
+
+QString customGroupPrefix()
+{
+    return MetadataWriter::customNamespacePrefix() + u':';
+}
+
+/// "-XMP-dc:Title=x" and "-IPTC:Keywords+=x" give "XMP-dc:Title" and "IPTC:Keywords".
+QString assignedTag(const QString& argument)
+{
+    auto end = argument.indexOf(u'=');
+    if (end > 0 && (argument[end - 1] == u'+' || argument[end - 1] == u'-'))
+        --end;
+    return argument.sliced(1, end - 1);
+}
+
+/// Tags whose values may come in several languages.
+const QStringList& languageTags()
+{
+    static const QStringList tags{ QStringLiteral("XMP-dc:Title"), QStringLiteral("XMP-dc:Description"),
+        QStringLiteral("XMP-dc:Rights"), QStringLiteral("XMP-iptcExt:Event"),
+        QStringLiteral("XMP-xmpRights:UsageTerms") };
+    return tags;
+}
+
+/// Where ExifTool may find a position that was assigned without a group.
+bool isPosition(const QString& tag)
+{
+    return tag.startsWith(QStringLiteral("GPS")) && !tag.contains(u':');
+}
+
+/// As the tool's option "-ec" reads it: whatever an argument cannot hold (NUL, bytes that are no text) as "\xHH".
+QString escaped(const QByteArray& value)
+{
+    const bool isText = QUtf8StringView(value).isValidUtf8();
+    QByteArray argument;
+    for (const char c : value) {
+        const auto code = uchar(c);
+        const bool isPlain = c == '\t' || c == '\n' || (code >= ' ' && (code < 0x7F || (isText && code > 0x7F)));
+        if (c == '\\')
+            argument += "\\\\";
+        else if (isPlain)
+            argument += c;
+        else
+            argument += "\\x" + QByteArray(1, c).toHex();
+    }
+    return QString::fromUtf8(argument);
+}
+
+/// The custom group is read as a whole, with fields that the save did not touch. Names in it come back with a capital
+/// first letter.
+bool isConcerned(const JournalEntry& entry, const QString& tag)
+{
+    return !tag.startsWith(customGroupPrefix()) || entry.writtenTags.contains(tag, Qt::CaseInsensitive);
+}
+
+bool isSame(const QByteArray& a, const QByteArray& b)
+{
+    constexpr double rounding = 1e-8;  // degrees: a millimetre
+    bool areNumbers[2] = {};
+    const double difference = a.toDouble(&areNumbers[0]) - b.toDouble(&areNumbers[1]);
+    return a == b || (areNumbers[0] && areNumbers[1] && std::abs(difference) < rounding);
+}
+
+/// A string of JSON, or, for bytes that are no text, their Base64 in an object.
+QJsonValue toJson(const QByteArray& value)
+{
+    if (QUtf8StringView(value).isValidUtf8())
+        return QString::fromUtf8(value);
+    return QJsonObject{ { QStringLiteral("base64"), QString::fromLatin1(value.toBase64()) } };
+}
+
+QByteArray bytesFrom(const QJsonValue& value)
+{
+    return value.isObject() ? QByteArray::fromBase64(value[QStringLiteral("base64")].toString().toLatin1())
+                            : value.toString().toUtf8();
+}
+
+QJsonObject toJson(const FileStamp& stamp)
+{
+    return { { QStringLiteral("modified"), stamp.modified }, { QStringLiteral("size"), stamp.size } };
+}
+
+FileStamp stampFrom(const QJsonValue& value)
+{
+    return { .modified = value[QStringLiteral("modified")].toInteger(),
+        .size = value[QStringLiteral("size")].toInteger() };
+}
+
+QJsonValue toJson(const JournalSidecar& sidecar)
+{
+    if (sidecar.path.isEmpty())
+        return QJsonValue::Undefined;
+    QJsonObject object{ { QStringLiteral("path"), sidecar.path },
+        { QStringLiteral("text"), QString::fromLatin1(qCompress(sidecar.text).toBase64()) } };
+    if (sidecar.before)
+        object.insert(QStringLiteral("before"), toJson(*sidecar.before));
+    if (sidecar.after)
+        object.insert(QStringLiteral("after"), toJson(*sidecar.after));
+    return object;
+}
+
+JournalSidecar sidecarFrom(const QJsonValue& value)
+{
+    JournalSidecar sidecar{ .path = value[QStringLiteral("path")].toString() };
+    if (value[QStringLiteral("before")].isObject())
+        sidecar.before = stampFrom(value[QStringLiteral("before")]);
+    if (value[QStringLiteral("after")].isObject())
+        sidecar.after = stampFrom(value[QStringLiteral("after")]);
+    if (!sidecar.path.isEmpty())
+        sidecar.text = qUncompress(QByteArray::fromBase64(value[QStringLiteral("text")].toString().toLatin1()));
+    return sidecar;
+}
+
+QJsonObject toJson(const JournalFile& file)
+{
+    QJsonObject tags;
+    for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it) {
+        QJsonArray values;
+        for (const auto& value : *it)
+            values.append(toJson(value));
+        tags.insert(it.key(), values);
+    }
+    return { { QStringLiteral("path"), file.path }, { QStringLiteral("before"), toJson(file.before) },
+        { QStringLiteral("after"), toJson(file.after) }, { QStringLiteral("tags"), tags },
+        { QStringLiteral("sidecar"), toJson(file.sidecar) } };
+}
+
+QStringList stringsFrom(const QJsonValue& value)
+{
+    QStringList strings;
+    for (const auto& item : value.toArray())
+        strings.append(item.toString());
+    return strings;
+}
+
+JournalFile fileFrom(const QJsonValue& value)
+{
+    JournalFile file{ .path = value[QStringLiteral("path")].toString(),
+        .before = stampFrom(value[QStringLiteral("before")]),
+        .after = stampFrom(value[QStringLiteral("after")]),
+        .sidecar = sidecarFrom(value[QStringLiteral("sidecar")]) };
+    const QJsonObject tags = value[QStringLiteral("tags")].toObject();
+    for (auto it = tags.begin(); it != tags.end(); ++it)
+        for (const auto& value : it->toArray())
+            file.tags[it.key()].append(bytesFrom(value));
+    return file;
+}
+
+QJsonObject toJson(const JournalEntry& entry)
+{
+    QJsonArray files;
+    for (const auto& file : entry.files)
+        files.append(toJson(file));
+    return { { QStringLiteral("savedAt"), entry.savedAt.toString(Qt::ISODateWithMs) },
+        { QStringLiteral("writtenTags"), QJsonArray::fromStringList(entry.writtenTags) },
+        { QStringLiteral("customNames"), QJsonArray::fromStringList(entry.customNames) },
+        { QStringLiteral("files"), files } };
+}
+
+JournalEntry entryFrom(const QJsonValue& value)
+{
+    JournalEntry entry{ .savedAt =
+                            QDateTime::fromString(value[QStringLiteral("savedAt")].toString(), Qt::ISODateWithMs),
+        .writtenTags = stringsFrom(value[QStringLiteral("writtenTags")]),
+        .customNames = stringsFrom(value[QStringLiteral("customNames")]) };
+    for (const auto& file : value[QStringLiteral("files")].toArray())
+        entry.files.append(fileFrom(file));
+    return entry;
+}
+
+}  // namespace
+
+std::optional<FileStamp> FileStamp::of(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return std::nullopt;
+    return FileStamp{ .modified = info.lastModified().toMSecsSinceEpoch(), .size = info.size() };
+}
+
+JournalSidecar JournalSidecar::of(const QString& path)
+{
+    JournalSidecar sidecar{ .path = path, .before = FileStamp::of(path) };
+    QFile file(path);
+    if (sidecar.before && file.open(QIODevice::ReadOnly))
+        sidecar.text = file.readAll();
+    // What could not be read whole is not written back either.
+    if (sidecar.before && sidecar.text.size() != sidecar.before->size)
+        return {};
+    return sidecar;
+}
+
+bool JournalSidecar::restore() const
+{
+    if (path.isEmpty() || !after || FileStamp::of(path) != after)
+        return true;
+    if (!before)
+        return QFile::remove(path);
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
+}
+
+namespace SaveJournal {
+
+QStringList writtenTags(const EditPlan& plan)
+{
+    QStringList tags;
+    for (const auto& argument : MetadataWriter::assignments(plan))
+        if (const QString tag = assignedTag(argument); !tags.contains(tag))
+            tags.append(tag);
+    return tags;
+}
+
+QStringList readArgs(const QStringList& writtenTags)
+{
+    QStringList args = TagDump::options();
+    for (const auto& tag : writtenTags) {
+        if (tag.startsWith(customGroupPrefix()))
+            continue;  // all of the group are read at once, below
+        if (isPosition(tag))
+            args << QStringLiteral("-GPS:") + tag << QStringLiteral("-XMP:") + tag;
+        else
+            args << u'-' + tag;
+        if (languageTags().contains(tag))
+            args << u'-' + tag + QStringLiteral("-*");
+    }
+    if (std::any_of(writtenTags.cbegin(), writtenTags.cend(),
+            [](const QString& tag) { return tag.startsWith(customGroupPrefix()); }))
+        args << u'-' + customGroupPrefix() + QStringLiteral("all");
+    return args;
+}
+
+QStringList restoreArgs(const JournalEntry& entry, const JournalFile& file)
+{
+    QStringList args{ QStringLiteral("-ec") };
+    for (const auto& tag : entry.writtenTags)
+        args.append(u'-' + tag + u'=');
+    for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it) {
+        if (!isConcerned(entry, it.key()))
+            continue;
+        // A tag that is there without a text is not a tag that is not there.
+        for (const auto& value : *it)
+            args.append(
+                u'-' + it.key() + (value.isEmpty() ? QStringLiteral("#^=") : QStringLiteral("#=")) + escaped(value));
+    }
+    return args;
+}
+
+bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTags& tags)
+{
+    const QStringList keys = file.tags.keys() + tags.keys();
+    return std::all_of(keys.cbegin(), keys.cend(), [&](const QString& key) {
+        const QList<QByteArray> before = file.tags.value(key);
+        const QList<QByteArray> now = tags.value(key);
+        return !isConcerned(entry, key) || std::equal(before.cbegin(), before.cend(), now.cbegin(), now.cend(), isSame);
+    });
+}
+
+QList<JournalEntry> load(const QString& journalPath)
+{
+    QFile file(journalPath);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QList<JournalEntry> entries;
+    const QJsonArray saved = QJsonDocument::fromJson(file.readAll()).array();
+    for (const auto& entry : saved)
+        entries.append(entryFrom(entry));
+    return entries;
+}
+
+bool store(const QString& journalPath, const QList<JournalEntry>& entries)
+{
+    if (!QDir().mkpath(QFileInfo(journalPath).path()))
+        return false;
+    QJsonArray saved;
+    for (const auto& entry : entries.mid(std::max<qsizetype>(0, entries.size() - limit)))
+        saved.append(toJson(entry));
+    QSaveFile file(journalPath);
+    // Private: it holds what the user wrote.
+    return file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
+        && file.write(QJsonDocument(saved).toJson(QJsonDocument::Compact)) >= 0 && file.commit();
+}
+
+QString sidecarPath(const QString& photo)
+{
+    const auto nameAt = photo.lastIndexOf(u'/') + 1;
+    const auto dot = photo.lastIndexOf(u'.');
+    // A leading dot makes a hidden file, not an extension.
+    return (dot > nameAt ? photo.left(dot) : photo) + QStringLiteral(".xmp");
+}
+
+void rename(QList<JournalEntry>& entries, const QString& from, const QString& to)
+{
+    for (auto& entry : entries)
+        for (auto& file : entry.files) {
+            if (file.path == from)
+                file.path = to;
+            if (file.sidecar.path == sidecarPath(from))
+                file.sidecar.path = sidecarPath(to);
+        }
+}
+
+void removeUndone(QList<JournalEntry>& entries, const QStringList& restored)
+{
+    if (entries.isEmpty())
+        return;
+    const JournalEntry undone = entries.takeLast();
+    for (const auto& file : undone.files) {
+        if (!restored.contains(file.path))
+            continue;
+        const auto now = FileStamp::of(file.path);
+        const auto sidecarNow = FileStamp::of(file.sidecar.path);
+        for (auto& entry : entries)
+            for (auto& earlier : entry.files) {
+                if (now && earlier.path == file.path && earlier.after == file.before)
+                    earlier.after = *now;
+                auto& sidecar = earlier.sidecar;
+                if (sidecar.after && sidecar.path == file.sidecar.path && sidecar.after == file.sidecar.before)
+                    sidecar.after = sidecarNow;
+            }
+    }
+}
+
+}  // namespace SaveJournal
+
+}  // namespace Quorbel

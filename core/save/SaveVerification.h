@@ -1,0 +1,17 @@
+// Compares what a save was asked to write with what the file holds afterwards. Thread: any. Pure.
+#pragma once
+
+#include "core/save/EditPlan.h"
+#include "core/schema/ImageRecord.h"
+
+namespace Quorbel::SaveVerification {
+
+/// The keys (field ids, "custom:" + name) of the plan that the record does not hold, in schema order, customs last.
+/// Values are compared in the normal form of their kind: dates to the minute, ratings as stars, positions to six
+/// decimals, lists without blank items; in append mode every item must be among the record's.
+QStringList differences(const EditPlan& plan, const ImageRecord& record);
+
+/// The labels of such keys, for the user: "Coordinates", "Job ID", a custom field's name.
+QStringList labels(const QStringList& keys);
+
+}  // namespace Quorbel::SaveVerification

@@ -1,0 +1,98 @@
+#include "core/schema/ImageRecord.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Quorbel {
+
+namespace {
+
+QString dimensionsText(const ImageRecord& record)
+{
+    if (!record.pixelWidth || !record.pixelHeight)
+        return {};
+    return QString::number(*record.pixelWidth) + u'×' + QString::number(*record.pixelHeight);
+}
+
+QString joinedParts(QStringList parts)
+{
+    parts.removeAll(QString());
+    return parts.join(u" · "_s);
+}
+
+// bytes ÷ step, halves rounded up, without overflow near the end of the range.
+qint64 roundedQuotient(qint64 bytes, qint64 step)
+{
+    return bytes / step + (bytes % step * 2 >= step ? 1 : 0);
+}
+
+// `count` in units of 10^-digits, without trailing zeros: (105, 1) is "10.5", (110, 1) is "11".
+QString decimalText(qint64 count, int digits)
+{
+    QString text = QString::number(count).rightJustified(digits + 1, u'0');
+    text.insert(text.size() - digits, u'.');
+    while (text.endsWith(u'0'))
+        text.chop(1);
+    if (text.endsWith(u'.'))
+        text.chop(1);
+    return text;
+}
+
+// Under one kilobyte: one significant digit, so that even a byte is more than nothing.
+QString fractionOfKilobyte(qint64 bytes)
+{
+    qint64 step = 1;
+    while (bytes / step >= 10)
+        step *= 10;
+    return decimalText(roundedQuotient(bytes, step) * step, 3);
+}
+
+}  // namespace
+
+QString ImageRecord::detailLine() const
+{
+    return joinedParts({ fileType, sidebarLine() });
+}
+
+QString ImageRecord::sidebarLine() const
+{
+    return joinedParts({ dimensionsText(*this), fileSize ? formattedFileSize(*fileSize) : QString() });
+}
+
+QString formattedFileSize(qint64 bytes)
+{
+    if (bytes <= 0)
+        return u"Zero KB"_s;
+    if (bytes < 1000)
+        return fractionOfKilobyte(bytes) + u" KB"_s;
+    if (const qint64 kilobytes = roundedQuotient(bytes, 1000); kilobytes < 1000)
+        return QString::number(kilobytes) + u" KB"_s;
+    if (const qint64 tenths = roundedQuotient(bytes, 100'000); tenths < 10'000)
+        return decimalText(tenths, 1) + u" MB"_s;
+    return decimalText(roundedQuotient(bytes, 10'000'000), 2) + u" GB"_s;
+}
+
+namespace ImageTypes {
+
+const QSet<QString>& extensions()
+{
+    static const QSet<QString> known = [] {
+        const QStringList list =
+            u"jpg jpeg png tif tiff gif webp heic heif hif avif jxl jxr hdp wdp jp2 j2k jpf jpx jpm "
+            "jph mpo jps psd psb dng cr2 cr3 crw nef nrw arw arq sr2 raf orf ori rw2 raw rwl pef "
+            "srw erf fff iiq mef mos mrw gpr x3f"_s.split(u' ');
+        return QSet<QString>(list.cbegin(), list.cend());
+    }();
+    return known;
+}
+
+bool isImage(const QUrl& url)
+{
+    const QString name = url.fileName();
+    const qsizetype dot = name.lastIndexOf(u'.');
+    // A leading dot hides a file; it begins no extension.
+    return dot > 0 && extensions().contains(name.sliced(dot + 1).toLower());
+}
+
+}  // namespace ImageTypes
+
+}  // namespace Quorbel

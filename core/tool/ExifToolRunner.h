@@ -1,0 +1,88 @@
+// The only place that starts a process: finds ExifTool, runs it once per call, collects what it prints.
+// Thread: any; a call blocks until the tool has ended. Several runs may proceed at once.
+// Knows nothing of fields or records: MetadataReader and MetadataWriter do.
+#pragma once
+
+#include "core/text/Errors.h"
+#include "core/text/JSONValue.h"
+
+#include <QList>
+#include <QMap>
+#include <QUrl>
+
+#include <functional>
+#include <optional>
+#include <stop_token>
+
+namespace Quorbel {
+
+/// How a caller follows, or ends, one read.
+struct ReadControl {
+    /// Called on the reading thread with the number of files printed so far: never decreasing, at most the
+    /// number of files asked for. Nothing is called when it is empty.
+    std::function<void(qsizetype)> progress{};
+    /// When triggered, the tool is ended and the read throws CancelledError.
+    std::stop_token stop{};
+    /// Called on the reading thread with the tool's process id when it runs, so that others can look what it is at.
+    std::function<void(qint64)> started{};
+};
+
+struct ExifToolRunner {
+    QUrl exiftoolURL{};  ///< the ExifTool script, given to Perl as its first argument
+    QUrl perlURL{};  ///< the Perl interpreter; locate() always sets /usr/bin/perl
+
+    /// Finds the tool: the environment variable QUORBEL_EXIFTOOL, then <prefix>/share/quorbel/exiftool/exiftool of
+    /// the running program, then vendor/exiftool/exiftool in the six directories from the one that holds the
+    /// prefix upward. Nothing when none of them exists.
+    static std::optional<ExifToolRunner> locate();
+    /// The same search for a program installed under `prefix` (bin/, share/ below it).
+    static std::optional<ExifToolRunner> locate(const QString& prefix);
+
+    /// The main read: group-0 keys, one object a file that the tool could print; one empty object a file when it
+    /// printed nothing at all. Throws ToolError, LaunchError (also for more than about 6 MiB of paths) or
+    /// CancelledError.
+    QList<JSONObject> read(const QStringList& tags, const QList<QUrl>& files, const ReadControl& control = {}) const;
+    /// Reads the custom group "XMP-Quorbel" alone, with group-1 keys. Throws like read().
+    QList<JSONObject> readCustomNamespace(const QList<QUrl>& files, const ReadControl& control = {}) const;
+    /// Which of the files make a read fail, and why, as the tool says it ("File format error"), by path. Empty when it
+    /// says nothing. Throws like read(), but not for the tool's exit status.
+    QMap<QString, QString> readErrors(const QList<QUrl>& files, const ReadControl& control = {}) const;
+    /// The tool's answer to a selection, as it printed it: also that about the other files when some could not be read.
+    /// Throws ToolError when there is none at all, or LaunchError.
+    QByteArray readDump(const QStringList& selection, const QList<QUrl>& files) const;
+    /// Runs assignments over the files and returns the tool's standard output; nothing is run, and "" returned,
+    /// when either list is empty. `backup` lets the tool keep its "_original" copies. Throws ToolError or
+    /// LaunchError.
+    QString write(const QStringList& args, const QList<QUrl>& files, bool backup,
+        const std::optional<QUrl>& configPath = std::nullopt) const;
+    /// Those of the tags that one file holds, by their bare names ("PreviewImage"): the bytes of binary ones, the
+    /// stored number or text of others. Throws like read(); CancelledError also when they come to some 150 MiB.
+    QMap<QString, QByteArray> readBinary(
+        const QStringList& tags, const QUrl& file, const std::stop_token& stop = {}) const;
+    /// The tool's version, trimmed.
+    QString version() const;
+
+    bool operator==(const ExifToolRunner&) const = default;
+
+private:
+    /// Sees everything printed so far, each time more of it has arrived.
+    using OutputWatch = std::function<void(const QByteArray& output)>;
+
+    /// What a run that has ended printed, and how it ended.
+    struct Ended {
+        QByteArray standardOutput{};
+        QByteArray standardError{};
+        int exitCode = 0;
+        bool isGood = false;
+    };
+
+    QList<JSONObject> readJSON(
+        const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const;
+    QString run(const QStringList& arguments) const;
+    QByteArray runForBytes(
+        const QStringList& arguments, const OutputWatch& watch = {}, const ReadControl& control = {}) const;
+    static ToolError failure(const Ended& ended);
+    Ended runToEnd(const QStringList& arguments, const OutputWatch& watch, const ReadControl& control) const;
+};
+
+}  // namespace Quorbel

@@ -1,0 +1,143 @@
+#include "core/tool/MetadataReader.h"
+
+#include "core/schema/FieldSchema.h"
+#include "core/text/Coordinates.h"
+#include "core/text/Text.h"
+#include "core/tool/MetadataWriter.h"
+
+#include <QFileInfo>
+
+#include <limits>
+
+namespace Quorbel::MetadataReader {
+
+namespace {
+
+std::optional<QString> text(const JSONObject& object, const QString& key)
+{
+    const auto found = object.constFind(key);
+    return found == object.cend() ? std::nullopt : found->stringValue();
+}
+
+std::optional<qint64> integer(const JSONObject& object, const QString& key)
+{
+    const auto digits = text(object, key);
+    return digits ? Text::parseInteger(*digits) : std::nullopt;
+}
+
+std::optional<int> dimension(const JSONObject& object, const QString& key)
+{
+    const auto pixels = integer(object, key);
+    if (!pixels || *pixels < std::numeric_limits<int>::min() || *pixels > std::numeric_limits<int>::max())
+        return std::nullopt;
+    return static_cast<int>(*pixels);
+}
+
+/// The display text of a scalar field; nothing for a value that the field cannot show.
+std::optional<QString> displayText(FieldKind kind, const JSONValue& value)
+{
+    const auto raw = value.stringValue();
+    if (!raw || raw->isEmpty())
+        return std::nullopt;
+    if (kind == FieldKind::coordinates) {
+        const auto point = Coordinates::parse(*raw);
+        return point ? std::optional(Coordinates::displayString(*point)) : std::nullopt;
+    }
+    return kind == FieldKind::date ? MetadataWriter::displayDate(*raw) : *raw;
+}
+
+/// The first tag that the file has decides, even when its value turns out to be unusable: a field that was
+/// emptied in its preferred tag is empty, whatever older copies say.
+const JSONValue* decidingValue(const FieldSpec& field, const JSONObject& main)
+{
+    for (const auto& tag : field.readTags) {
+        const auto found = main.constFind(tag);
+        if (found != main.cend())
+            return &*found;
+    }
+    return nullptr;
+}
+
+void readFields(ImageRecord& record, const JSONObject& main)
+{
+    for (const auto& field : FieldSchema::all()) {
+        const JSONValue* value = decidingValue(field, main);
+        if (!value)
+            continue;
+        if (field.isList()) {
+            if (const auto items = value->stringArray(); !items.isEmpty())
+                record.lists.insert(field.id, items);
+        } else if (const auto shown = displayText(field.kind, *value)) {
+            record.values.insert(field.id, *shown);
+        }
+    }
+}
+
+QString cameraName(const JSONObject& main)
+{
+    QStringList parts{ text(main, QStringLiteral("EXIF:Make")).value_or(QString()),
+        text(main, QStringLiteral("EXIF:Model")).value_or(QString()) };
+    parts.removeAll(QString());
+    return parts.join(u' ');
+}
+
+QList<CameraRow> cameraRows(const JSONObject& main)
+{
+    // Make and model share the first row.
+    const QString camera = QStringLiteral("Camera");
+    QList<CameraRow> rows;
+    if (const QString name = cameraName(main); !name.isEmpty())
+        rows.append({ camera, name });
+    for (const auto& spec : FieldSchema::cameraRows()) {
+        if (spec.label == camera || spec.label == QLatin1String("Make"))
+            continue;
+        for (const auto& tag : spec.tags) {
+            if (const auto value = text(main, tag); value && !value->isEmpty()) {
+                rows.append({ spec.label, *value });
+                break;
+            }
+        }
+    }
+    return rows;
+}
+
+QList<CustomValue> customValues(const JSONObject& custom)
+{
+    const QString prefix = MetadataWriter::customNamespacePrefix() + u':';
+    QList<CustomValue> values;
+    for (auto it = custom.cbegin(); it != custom.cend(); ++it) {  // a map: ascending by key
+        if (!it.key().startsWith(prefix))
+            continue;
+        if (const auto value = it.value().stringValue())
+            values.append({ it.key().mid(prefix.size()), *value });
+    }
+    return values;
+}
+
+}  // namespace
+
+QStringList readTags()
+{
+    return FieldSchema::readTags()
+        + QStringList{ QStringLiteral("FileType"), QStringLiteral("ImageWidth"), QStringLiteral("ImageHeight"),
+              QStringLiteral("FileSize#") }
+    + FieldSchema::cameraReadTags();
+}
+
+ImageRecord parse(const QUrl& url, const JSONObject& main, const JSONObject& custom)
+{
+    const QFileInfo file(url.toLocalFile());
+    ImageRecord record;
+    record.url = url;
+    record.fileName = file.fileName();
+    record.fileType = text(main, QStringLiteral("File:FileType")).value_or(file.suffix().toUpper());
+    record.pixelWidth = dimension(main, QStringLiteral("File:ImageWidth"));
+    record.pixelHeight = dimension(main, QStringLiteral("File:ImageHeight"));
+    record.fileSize = integer(main, QStringLiteral("File:FileSize"));
+    readFields(record, main);
+    record.camera = cameraRows(main);
+    record.custom = customValues(custom);
+    return record;
+}
+
+}  // namespace Quorbel::MetadataReader

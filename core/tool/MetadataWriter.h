@@ -1,0 +1,51 @@
+// Turns field values into ExifTool assignment arguments.
+// Thread: any. Pure and total: starts nothing, touches no file, never fails.
+#pragma once
+
+#include "core/schema/FieldSchema.h"
+
+#include <optional>
+
+namespace Quorbel {
+struct EditPlan;
+}
+
+namespace Quorbel::MetadataWriter {
+
+enum class ListMode {
+    replace,  ///< the new items replace the tag's list
+    append,  ///< the new items are added, without duplicates
+};
+
+/// ExifTool's family-1 group of the custom fields.
+QString customNamespacePrefix();
+/// The URI bound to it; see Product.h.
+QString customNamespaceURI();
+
+/// "-TAG=value" for each write tag of the field, in order; an empty value deletes the tags. Coordinates become
+/// the four GPS tags.
+QStringList scalarArgs(const FieldSpec& field, const QString& value);
+/// Items are trimmed, blank ones dropped. replace: "-TAG=" then "-TAG=item" each; append: "-TAG-=item",
+/// "-TAG+=item" each, and nothing at all without items.
+QStringList listArgs(const FieldSpec& field, const QStringList& values, ListMode mode);
+/// One assignment, or none when the name has no storable character.
+QStringList customArgs(const QString& name, const QString& value);
+/// All assignments of one save: scalars, lists, custom values. Field ids that the schema does not know are skipped.
+QStringList assignments(const EditPlan& plan);
+/// The ExifTool user-definition file that declares the custom group with these names.
+QString customConfig(const QStringList& names);
+/// Letters, marks and digits of any script, without leading digits; nothing when that leaves nothing.
+std::optional<QString> sanitizeCustomName(const QString& name);
+
+/// Why ExifTool could not store a custom field of this typed name, in one line for the user; nothing when it can,
+/// and nothing for a name of which sanitizeCustomName leaves nothing. One such name spoils its whole save.
+std::optional<QString> customNameProblem(const QString& name);
+
+/// A typed date as "yyyy:MM:dd HH:mm:ss" in wall-clock time; what does not parse is passed on trimmed.
+QString normalizeDate(const QString& text);
+/// "0" to "5"; "" for blank; what is no number is passed on trimmed.
+QString normalizeRating(const QString& text);
+/// ExifTool's date as "yyyy-MM-dd HH:mm"; what does not parse is passed on trimmed.
+QString displayDate(const QString& text);
+
+}  // namespace Quorbel::MetadataWriter

@@ -1,0 +1,74 @@
+// A model over a temporary folder of photos, with preferences and services of its own.
+// Thread: the test's. Waits run the event loop, as the program does.
+#pragma once
+
+#include "app/model/AppModel.h"
+#include "tests/support/Support.h"
+
+#include <QSignalSpy>
+
+namespace Quorbel::Test {
+
+/// The real tool behind a gate: while it is shut, runs wait before they begin; only those with an argument that
+/// holds the text, where one is given.
+class GatedTool {
+public:
+    GatedTool();
+    ~GatedTool() { release(); }
+    Q_DISABLE_COPY_MOVE(GatedTool)
+    MetadataService service() const;
+    void shut(const QByteArray& text = {}) const;
+    void release() const;
+    /// Waits until a run stands at the gate.
+    bool waitForRun() const;
+
+private:
+    QTemporaryDir m_directory;
+};
+
+/// Which signals the model emits while this lives, and how often.
+class Announcements {
+public:
+    explicit Announcements(AppModel& model);
+    /// By the signal's name; signals that were not emitted are not among them.
+    QMap<QString, int> counts() const;
+
+private:
+    std::vector<std::pair<QString, std::unique_ptr<QSignalSpy>>> m_spies;
+};
+
+class ModelFixture {
+public:
+    /// Around the real tool.
+    ModelFixture();
+    explicit ModelFixture(const std::optional<MetadataService>& service);
+
+    AppModel* operator->() const { return model.get(); }
+    /// Makes these photos, each with its own name as its title.
+    void addTitled(const QStringList& names) const;
+    /// Opens the photo folder and waits for the read to end; whether that worked.
+    bool open();
+    bool load(const QList<QUrl>& urls);
+    bool waitUntilIdle();
+    void click(const QString& name, bool shift = false, bool command = false);
+
+    QUrl url(const QString& name) const { return folder.url(name); }
+    QUrl folderURL() const { return QUrl::fromLocalFile(folder.path()); }
+    /// File names on screen, in order.
+    QStringList visible() const;
+    /// File names of the selected photos, sorted.
+    QStringList selected() const;
+    /// File name of the primary photo; "" when there is none.
+    QString primary() const;
+    /// One tag as the real tool reads it now.
+    QJsonValue onDisk(const QString& name, const QString& tag) const;
+    /// Builds the model again, as the next launch of the program would.
+    void relaunch();
+
+    PhotoFolder folder;
+    QTemporaryDir settings;
+    AppModelServices services;
+    std::unique_ptr<AppModel> model;
+};
+
+}  // namespace Quorbel::Test

@@ -1,0 +1,89 @@
+// What the tests of struck saves share: photos whose damage shows, what a model says after a save, and the program in
+// a process of its own, which can be killed or run as somebody else.
+// Thread: the test's. Failing to set something up aborts the test.
+#pragma once
+
+#include "app/model/AppModel.h"
+#include "tests/support/Support.h"
+
+#include <QImage>
+#include <QMap>
+#include <QProcess>
+
+#include <memory>
+#include <sys/types.h>
+
+namespace Quorbel::Test {
+
+/// Five photos in a folder, each titled with its own name, and how they were.
+class StruckPhotos {
+public:
+    static const QStringList& names();
+    /// Makes them. An owner other than 0 gets the folder and the photos.
+    explicit StruckPhotos(const QString& folder, uid_t owner = 0);
+    QString path(const QString& name) const { return m_folder + u'/' + name; }
+    QList<QUrl> urls() const;
+    /// Names of the photos that do not hold the title, sorted. One that is damaged, missing, or neither old nor a whole
+    /// new one fails the test, and so does a file that has no business beside them.
+    QStringList unsaved(const QString& title) const;
+    /// Names of temporary files that a killed tool left beside them.
+    QStringList leftovers() const;
+
+private:
+    void requireWhole(const QString& name, const QJsonObject& tags) const;
+    void requireKnownNeighbours() const;
+
+    QString m_folder;
+    QMap<QString, QByteArray> m_before;
+};
+
+/// What the user sees after a save.
+struct Aftermath {
+    QString banner{};
+    QStringList selected{};  ///< file names
+    QString title{};  ///< in the draft or the batch
+    QStringList keywords{};
+    int unsavedCount = 0;
+
+    static Aftermath of(const AppModel& model);
+    QByteArray toLine() const;
+    static Aftermath fromLine(const QByteArray& line);
+};
+
+/// Gives all open photos this title, and a keyword and a custom field.
+void editAll(AppModel& model, const QString& title);
+
+/// Every photo without the new title is still selected, with the edits, and the banner names it, or the one that
+/// stopped the whole save. Fails the test otherwise.
+void verifyNothingLost(const StruckPhotos& photos, const QString& title, const Aftermath& after);
+
+/// Another process that opens a folder, edits all photos in it and saves them. It leads a process group, so that the
+/// tools that it runs can be killed with it; those that outlive it become children of this process.
+class OtherProgram {
+public:
+    struct Launch {
+        QString folder{};
+        QString state{};  ///< folder of its journal, preferences and temporary files
+        QString title{};
+        bool backup = false;
+        uid_t user = 0;  ///< 0: the same as this process
+    };
+    explicit OtherProgram(const Launch& launch);
+    ~OtherProgram();
+    Q_DISABLE_COPY_MOVE(OtherProgram)
+    /// Waits until its save begins. False when the other user cannot run the program at all.
+    bool waitForSave();
+    void kill() const;
+    void killWithItsTool() const;
+    /// Waits until it has ended, and every tool that it started.
+    void waitForEnd();
+    bool wasKilled() const { return m_process.exitStatus() == QProcess::CrashExit; }
+    /// What it said after its save.
+    Aftermath aftermath();
+
+private:
+    QProcess m_process;
+    pid_t m_group = 0;
+};
+
+}  // namespace Quorbel::Test

@@ -1,0 +1,138 @@
+// Renaming the one selected photo from a pattern and its draft.
+#include "tests/app/model/ModelFixture.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+class TestAppModelRenaming : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
+    void preview_data();
+    void preview();
+    void token_data();
+    void token();
+    void companionsComeAlong();
+    void failure();
+};
+
+void TestAppModelRenaming::preview_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<QString>("date");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<bool>("strict");
+    QTest::addColumn<QString>("name");
+    const QString date = u"2026-07-14 14:30"_s;
+    QTest::addRow("date and time") << u"%Date%_%Time%"_s << date << QString() << true << u"2026-07-14_1430.JPG"_s;
+    QTest::addRow("no time") << u"%Date%_%Time%"_s << u"2026-07-14"_s << QString() << true << u"2026-07-14.JPG"_s;
+    QTest::addRow("strict") << u"%Title%"_s << QString() << u"Zürich: sea"_s << true << u"Zurich-sea.JPG"_s;
+    QTest::addRow("not strict") << u"%Title%"_s << QString() << u"Zürich: sea"_s << false << u"Zürich-sea.JPG"_s;
+    QTest::addRow("taken but for case") << u"%Title%"_s << QString() << u"Taken"_s << true << u"Taken-2.JPG"_s;
+    QTest::addRow("its own name") << u"%Original%"_s << QString() << QString() << true << u"My.Photo.JPG"_s;
+    QTest::addRow("nothing left") << u"%Title%"_s << QString() << u"!"_s << true << u"untitled.JPG"_s;
+}
+
+void TestAppModelRenaming::preview()
+{
+    QFETCH(QString, pattern);
+    QFETCH(QString, date);
+    QFETCH(QString, title);
+    QFETCH(bool, strict);
+    QFETCH(QString, name);
+    ModelFixture f;
+    f.folder.add(u"My.Photo.JPG"_s);
+    f.folder.add(u"taken.jpg"_s);
+    QVERIFY(f.open());
+    QVERIFY(!f->canRename());
+    f->setSingle(u"title"_s, u"  "_s);
+    QVERIFY(!f->canRename());
+    f->setSingle(u"creator"_s, u"Ana"_s);
+    QVERIFY(f->canRename());
+    f->setSingle(u"date"_s, date);
+    f->setSingle(u"title"_s, title);
+    f->setStripSpecialChars(strict);
+    f->setRenamePattern(pattern);
+    // Without strictness dots survive, with it they do not: only the original's own name shows the difference.
+    if (pattern == u"%Original%")
+        f->setStripSpecialChars(false);
+    QCOMPARE(f->renamePreview(), name);
+    f->performRename();
+    QCOMPARE(f.primary(), name);
+    QVERIFY(QFile::exists(f.folder.path(name)));
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    f->selectAllPhotos();
+    QVERIFY(!f->canRename());
+}
+
+void TestAppModelRenaming::token_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<QString>("result");
+    QTest::addRow("empty") << QString() << u"%Title%"_s;
+    QTest::addRow("behind a token") << u"%Date%"_s << u"%Date%%Title%"_s;
+    QTest::addRow("behind a separator") << u"%Date%_"_s << u"%Date%_%Title%"_s;
+    QTest::addRow("behind text") << u"trip"_s << u"trip_%Title%"_s;
+}
+
+void TestAppModelRenaming::token()
+{
+    QFETCH(QString, pattern);
+    QFETCH(QString, result);
+    ModelFixture f;
+    f->setRenamePattern(pattern);
+    f->insertRenameToken(u"%Title%"_s);
+    QCOMPARE(f->renamePattern(), result);
+}
+
+void TestAppModelRenaming::companionsComeAlong()
+{
+    GatedTool tool;
+    ModelFixture f(tool.service());
+    f.folder.add(u"a.jpg"_s);
+    QVERIFY(f.open());
+    f->setWriteSidecar(true);
+    f->setSaveDontAsk(true);
+    f->setSingle(u"title"_s, u"New"_s);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    f->setRenamePattern(u"%Title%"_s);
+    f->performRename();
+    QCOMPARE(f.folder.names(), QStringList({ u"New.jpg"_s, u"New.jpg_original"_s, u"New.xmp"_s }));
+    f->setSingle(u"headline"_s, u"after"_s);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f.onDisk(u"New.jpg"_s, u"XMP:Headline"_s), QJsonValue(u"after"_s));
+}
+
+void TestAppModelRenaming::failure()
+{
+    GatedTool tool;
+    ModelFixture f(tool.service());
+    f.folder.add(u"a.jpg"_s);
+    QVERIFY(f.open());
+    f->setRenamePattern(u"elsewhere/%Title%"_s);
+    f->setSingle(u"title"_s, u"x"_s);
+    f->performRename();
+    QVERIFY(f->errorMessage().value_or(QString()).startsWith(u"Could not rename: "_s));
+    QCOMPARE(f.primary(), u"a.jpg"_s);
+    QVERIFY(f->record(f.url(u"a.jpg"_s)));
+    f->setErrorMessage({});
+    f->setSaveDontAsk(true);
+    tool.shut();
+    f->requestSave();
+    QVERIFY(tool.waitForRun());
+    f->setRenamePattern(u"%Title%"_s);
+    f->performRename();
+    QCOMPARE(f->errorMessage(), u"Could not rename: “a.jpg” is being saved."_s);
+    tool.release();
+    QVERIFY(f.waitUntilIdle());
+}
+
+QTEST_GUILESS_MAIN(TestAppModelRenaming)
+#include "tst_AppModelRenaming.moc"

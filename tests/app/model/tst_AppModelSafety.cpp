@@ -1,0 +1,564 @@
+// What a save proves to the user: values that read back differently, photos of a batch that failed, and the way back.
+#include "tests/app/model/ModelFixture.h"
+
+#include <QRegularExpression>
+#include <QTest>
+#include <QThreadPool>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Photos "a", "b" and "c" before a tool that claims to have written and reads nothing back.
+struct ForgetfulPhotos : FakeTool, ModelFixture {
+    ForgetfulPhotos()
+        : ModelFixture(MetadataService{ runner() })
+    {
+        for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
+            folder.add(name);
+        model->setSaveDontAsk(true);
+        model->setConfirmMassEdit(false);
+    }
+};
+
+/// Photos "a" and "c", and texts with the names of photos; all are open and selected.
+struct MixedPhotos : ModelFixture {
+    explicit MixedPhotos(const QStringList& texts)
+    {
+        for (const QString& name : { u"a.jpg"_s, u"c.jpg"_s })
+            folder.add(name);
+        for (const QString& name : texts)
+            folder.add(name, "a text\n");
+        model->setConfirmMassEdit(false);
+        model->setSaveDontAsk(true);
+        model->setBackupOriginals(false);
+    }
+};
+
+/// Photos "a" and "b", each titled with its name, before a model that keeps a journal.
+struct JournaledPhotos : ModelFixture {
+    explicit JournaledPhotos(const QStringList& names = { u"a.jpg"_s, u"b.jpg"_s })
+    {
+        addTitled(names);
+        services.journalPath = settings.filePath(u"state/undo.json"_s);
+        relaunch();
+        model->setSaveDontAsk(true);
+        model->setConfirmMassEdit(false);
+        model->setBackupOriginals(false);
+    }
+    bool save()
+    {
+        model->requestSave();
+        return waitUntilIdle();
+    }
+    bool undo()
+    {
+        model->undoSave();
+        return waitUntilIdle();
+    }
+    QMap<QString, QString> titles() const
+    {
+        QMap<QString, QString> titles;
+        for (const ImageRecord& record : model->records())
+            titles.insert(record.fileName, record.values.value(u"title"_s));
+        return titles;
+    }
+};
+
+/// The real tool; while it stalls, for ever busy with reading a photo "b.jpg".
+class StallingTool {
+public:
+    StallingTool()
+    {
+        QByteArray script = R"perl(#!/usr/bin/perl
+my ($dir) = $0 =~ m{^(.*)/};
+my ($photo) = grep { m{/b\.jpg$} } @ARGV;
+if ($photo and -e "$dir/stall" and not grep { $_ eq '-m' } @ARGV) {
+    open my $open, '<', $photo;
+    open my $mark, '>', "$dir/stalling";
+    sleep 600;
+}
+exec $^X, 'TOOL', @ARGV;
+)perl";
+        script.replace("TOOL", realTool().exiftoolURL.toLocalFile().toUtf8());
+        m_folder.add(u"exiftool"_s, script);
+    }
+    MetadataService service() const { return { { m_folder.url(u"exiftool"_s), realTool().perlURL } }; }
+    void stall(bool on) const
+    {
+        if (on)
+            m_folder.add(u"stall"_s, {});
+        else
+            QFile::remove(m_folder.path(u"stall"_s));
+    }
+    bool isStalling() const { return QFile::exists(m_folder.path(u"stalling"_s)); }
+
+private:
+    PhotoFolder m_folder;
+};
+
+/// Photos "a", "b" and "c" before a tool that may stall at "b".
+struct StallingPhotos : StallingTool, ModelFixture {
+    StallingPhotos()
+        : ModelFixture(service())
+    {
+        for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
+            folder.add(name);
+        services.stallInterval = std::chrono::milliseconds(200);
+        relaunch();
+        model->setConfirmMassEdit(false);
+        model->setSaveDontAsk(true);
+        model->setBackupOriginals(false);
+    }
+    /// Waits for the offer to skip "b", and takes it.
+    bool skipStalled() const
+    {
+        const bool isOffered = QTest::qWaitFor([this] { return model->stalledFile() == u"b.jpg"_s; }, 30000);
+        model->skipStalledFile();
+        return isOffered;
+    }
+};
+
+}  // namespace
+
+class TestAppModelSafety : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
+    void valueThatCannotBeHeld();
+    void differencesOfOnePhoto();
+    void differencesOfABatch();
+    void differencesAfterAnotherSelection();
+    void partialBatch_data();
+    void partialBatch();
+    void partialBatchIsTriedAgain();
+    void undoSurvivesARestart();
+    void undoFollowsRenames();
+    void undoTakesSidecarsBack();
+    void undoLeavesOthersWorkAlone();
+    void undoThroughALink();
+    void undoThatFailsInPart();
+    void undoIsTriedAgainAfterTheToolWasCut();
+    void unwritableJournalDoesNotStopASave();
+    void stalledFileIsSkipped();
+    void stalledReReadOfASaveIsSkipped();
+    void stalledRefreshIsSkipped();
+    void quitEndsARead();
+};
+
+void TestAppModelSafety::valueThatCannotBeHeld()
+{
+    ModelFixture f;
+    f.folder.add(u"a.jpg"_s);
+    QVERIFY(f.open());
+    f->setSaveDontAsk(true);
+    f->setSingle(u"title"_s, u"X"_s);
+    f->setSingle(u"coords"_s, u"behind the church"_s);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), u"Saved, but 1 field reads back differently: Coordinates"_s);
+    QCOMPARE(f->editedSingle(), QSet<QString>{ u"coords"_s });
+    QCOMPARE(f->draftValues().value(u"coords"_s), u"behind the church"_s);
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
+}
+
+void TestAppModelSafety::differencesOfOnePhoto()
+{
+    ForgetfulPhotos f;
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"X"_s);
+    f->addSingleListItem(u"keywords"_s, u"sky"_s);
+    f->addCustomField(u"Mood"_s, u"calm"_s);
+    f.click(u"b.jpg"_s);
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), u"Saved, but 3 fields read back differently: Title, Keywords, Mood"_s);
+    // The click that waited for the save does not leave the edits behind.
+    QCOMPARE(f.primary(), u"a.jpg"_s);
+    QCOMPARE(f->unsavedCount(), 3);
+    QCOMPARE(f->draftLists().value(u"keywords"_s), QStringList{ u"sky"_s });
+    QCOMPARE(f->draftCustoms(), (QList<CustomValue>{ { u"Mood"_s, u"calm"_s } }));
+    // The next attempt to leave asks, though saves go without asking: there must be a way to discard.
+    f.click(u"b.jpg"_s);
+    QVERIFY(f->saveOpen() && !f->isSaving());
+    f->discardSaveDialog();
+    QCOMPARE(f.primary(), u"b.jpg"_s);
+}
+
+void TestAppModelSafety::differencesOfABatch()
+{
+    ForgetfulPhotos f;
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    f->setBatch(u"title"_s, u"X"_s);
+    f->setBatch(u"headline"_s, u"Y"_s);
+    f->addBatchListItem(u"keywords"_s, u"sky"_s);
+    // All photos hold the headline afterwards, and one of them does not hold the title.
+    QList<QJsonObject> objects;
+    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
+        objects.append({ { u"SourceFile"_s, f.folder.path(name) }, { u"XMP:Headline"_s, u"Y"_s },
+            { u"XMP:Subject"_s, u"sky"_s }, { u"XMP:Title"_s, name == u"b.jpg" ? u"x"_s : u"X"_s } });
+    f.answer(2, { .standardOutput = toolJson(objects) });
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), u"Saved, but 1 field reads back differently: Title"_s);
+    QCOMPARE(f->batchInclude(), QSet<QString>{ u"title"_s });
+    QCOMPARE(f->batchValues(), (QMap<QString, QString>{ { u"title"_s, u"X"_s } }));
+    QVERIFY(f->nonEmptyBatchLists().isEmpty());
+    QCOMPARE(f->record(f.url(u"b.jpg"_s))->values.value(u"title"_s), u"x"_s);
+}
+
+void TestAppModelSafety::differencesAfterAnotherSelection()
+{
+    ForgetfulPhotos f;
+    QVERIFY(f.open());
+    f.click(u"a.jpg"_s);
+    f.click(u"b.jpg"_s, false, true);
+    f->setBatch(u"title"_s, u"X"_s);
+    f.answer(1, { .holds = true });
+    f->requestSave();
+    QTRY_COMPARE(f.calls().size(), 3);
+    f.click(u"c.jpg"_s);
+    QCOMPARE(f.selected(), QStringList{ u"c.jpg"_s });
+    f.release();
+    QVERIFY(f.waitUntilIdle());
+    // Nothing is being edited there, so the photos whose edits are unsaved come back, with them.
+    QCOMPARE(f.selected(), QStringList({ u"a.jpg"_s, u"b.jpg"_s }));
+    QCOMPARE(f->batchValues(), (QMap<QString, QString>{ { u"title"_s, u"X"_s } }));
+    QCOMPARE(f->unsavedCount(), 1);
+}
+
+void TestAppModelSafety::partialBatch_data()
+{
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<QString>("banner");
+    const QString reason = u" (Not a valid JPG (looks more like a TXT))"_s;
+    QTest::addRow("one fails") << QStringList{ u"b.jpg"_s } << u"Could not save 1 of 3 photos: b.jpg"_s + reason;
+    QTest::addRow("six fail") << QStringList{
+        u"1.jpg"_s, u"2.jpg"_s, u"3.jpg"_s, u"4.jpg"_s, u"5.jpg"_s, u"6.jpg"_s
+    } << u"Could not save 6 of 8 photos: 1.jpg%1, 2.jpg%1, 3.jpg%1, 4.jpg%1, 5.jpg%1 and 1 more"_s.arg(reason);
+}
+
+void TestAppModelSafety::partialBatch()
+{
+    QFETCH(QStringList, texts);
+    QFETCH(QString, banner);
+    MixedPhotos f(texts);
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    f->setBatch(u"title"_s, u"X"_s);
+    f->addBatchListItem(u"keywords"_s, u"sky"_s);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), banner);
+    QCOMPARE(f.selected(), texts);
+    QCOMPARE(f->unsavedCount(), 2);
+    for (const QString& name : { u"a.jpg"_s, u"c.jpg"_s }) {
+        QCOMPARE(f.onDisk(name, u"XMP:Title"_s), QJsonValue(u"X"_s));
+        QCOMPARE(f->record(f.url(name))->values.value(u"title"_s), u"X"_s);
+    }
+    for (const QString& name : texts)
+        QCOMPARE(readFile(f.folder.path(name)), QByteArray("a text\n"));
+}
+
+void TestAppModelSafety::partialBatchIsTriedAgain()
+{
+    MixedPhotos f({ u"b.jpg"_s, u"d.jpg"_s });
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    f->setBatch(u"title"_s, u"X"_s);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f.selected(), QStringList({ u"b.jpg"_s, u"d.jpg"_s }));
+    QVERIFY(f->errorMessage().value_or(QString()).contains(u"2 of 4 photos: b.jpg (Not a valid JPG"_s));
+    const QByteArray saved = readFile(f.folder.path(u"a.jpg"_s));
+    f.folder.add(u"b.jpg"_s, jpegBytes());
+    f.folder.add(u"d.jpg"_s, jpegBytes());
+    f->setErrorMessage({});
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f->unsavedCount(), 0);
+    QCOMPARE(f.onDisk(u"d.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
+    QCOMPARE(readFile(f.folder.path(u"a.jpg"_s)), saved);
+}
+
+void TestAppModelSafety::undoSurvivesARestart()
+{
+    JournaledPhotos f;
+    QVERIFY(f.open());
+    QVERIFY(!f->canUndoSave());
+    f->selectAllPhotos();
+    f->setBatch(u"title"_s, u"X"_s);
+    f->setBatch(u"creator"_s, u"東京"_s);
+    QVERIFY(f.save());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QVERIFY(f->canUndoSave());
+    f.click(u"a.jpg"_s);
+    f->setSingle(u"title"_s, u"Y"_s);
+    QVERIFY(f.save());
+    f.relaunch();
+    QTRY_VERIFY(f->canUndoSave());
+    QVERIFY(f.open());
+    f->setSingle(u"headline"_s, u"typed"_s);
+    QVERIFY(f.undo());
+    QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
+    // Edits that are not saved yet stay.
+    QCOMPARE(f->draftValues().value(u"headline"_s), u"typed"_s);
+    QCOMPARE(f->editedSingle(), QSet<QString>{ u"headline"_s });
+    QVERIFY(f->canUndoSave());
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QVERIFY(!f->canUndoSave());
+    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s }) {
+        QCOMPARE(f.onDisk(name, u"XMP:Title"_s), QJsonValue(name));
+        QVERIFY(f.onDisk(name, u"XMP:Creator"_s).isUndefined());
+        QCOMPARE(f->record(f.url(name))->values.value(u"title"_s), name);
+    }
+}
+
+void TestAppModelSafety::undoFollowsRenames()
+{
+    JournaledPhotos f;
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"Renamed"_s);
+    QVERIFY(f.save());
+    f->setRenamePattern(u"%Title%"_s);
+    f->performRename();
+    QCOMPARE(f.primary(), u"Renamed.jpg"_s);
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.onDisk(u"Renamed.jpg"_s, u"XMP:Title"_s), QJsonValue(u"a.jpg"_s));
+}
+
+/// Photo "a" has a sidecar of another program's, "b" has none.
+void TestAppModelSafety::undoTakesSidecarsBack()
+{
+    JournaledPhotos f;
+    const QString sidecar = f.folder.path(u"a.xmp"_s);
+    exiftool({ u"-XMP-dc:Title=foreign"_s, u"-XMP-crs:Exposure2012=+1.5"_s, sidecar });
+    const QByteArray foreign = readFile(sidecar);
+    f->setWriteSidecar(true);
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    for (const QString& headline : { u"X"_s, u"Y"_s }) {
+        f->setBatch(u"headline"_s, headline);
+        QVERIFY(f.save());
+    }
+    QVERIFY(readFile(sidecar) != foreign && QFile::exists(f.folder.path(u"b.xmp"_s)));
+    f.click(u"a.jpg"_s);
+    f->setRenamePattern(u"c"_s);
+    f->performRename();
+    QVERIFY(f.undo());
+    QCOMPARE(f.onDisk(u"c.xmp"_s, u"XMP:Headline"_s), QJsonValue(u"X"_s));
+    QCOMPARE(f.onDisk(u"b.xmp"_s, u"XMP:Headline"_s), QJsonValue(u"X"_s));
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(readFile(f.folder.path(u"c.xmp"_s)), foreign);
+    QVERIFY(!QFile::exists(f.folder.path(u"b.xmp"_s)));
+}
+
+void TestAppModelSafety::undoLeavesOthersWorkAlone()
+{
+    JournaledPhotos f;
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    for (const QString& title : { u"X"_s, u"Y"_s }) {
+        f->setBatch(u"title"_s, title);
+        QVERIFY(f.save());
+    }
+    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=another program's"_s, f.folder.path(u"a.jpg"_s) });
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), u"Undone, but 1 photo changed since and was left alone: a.jpg"_s);
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"another program's"_s));
+    // Nor does the save before that one become a way to it.
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), u"Undone, but 1 photo changed since and was left alone: a.jpg"_s);
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"another program's"_s));
+    QCOMPARE(f.onDisk(u"b.jpg"_s, u"XMP:Title"_s), QJsonValue(u"b.jpg"_s));
+    QVERIFY(!f->canUndoSave());
+}
+
+void TestAppModelSafety::undoThroughALink()
+{
+    JournaledPhotos f({ u"a.jpg"_s });
+    const PhotoFolder elsewhere;
+    const QString link = f.folder.path(u"a.jpg"_s);
+    const QUrl real = elsewhere.add(u"real.jpg"_s, readFile(link));
+    QVERIFY(QFile::remove(link) && QFile::link(real.toLocalFile(), link));
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"X"_s);
+    QVERIFY(f.save());
+    QCOMPARE(exiftoolValues(real).value(u"XMP:Title"_s), QJsonValue(u"X"_s));
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QVERIFY(QFileInfo(link).isSymLink());
+    QCOMPARE(exiftoolValues(real).value(u"XMP:Title"_s), QJsonValue(u"a.jpg"_s));
+    QCOMPARE(f->draftValues().value(u"title"_s), u"a.jpg"_s);
+}
+
+/// Every photo had another title, so each is a run of its own; two of them cannot be written to.
+void TestAppModelSafety::undoThatFailsInPart()
+{
+    const QStringList names{ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s };
+    JournaledPhotos f(names);
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    for (const QString& title : { u"X"_s, u"Y"_s }) {
+        f->setBatch(u"title"_s, title);
+        QVERIFY(f.save());
+    }
+    QVERIFY(QFile::setPermissions(f.folder.path(u"b.jpg"_s), QFile::ReadOwner));
+    const QString leftover = f.folder.add(u"c.jpg_exiftool_tmp"_s, "half").toLocalFile();
+    QVERIFY(f.undo());
+    const QString banner = f->errorMessage().value_or(QString());
+    QVERIFY2(banner.startsWith(u"Could not undo the save of 2 photos: b.jpg (read-only), c.jpg ("_s)
+            && banner.contains(u"c.jpg_exiftool_tmp lies beside the photo"_s),
+        qPrintable(banner));
+    QCOMPARE(f.titles().values(), QStringList({ u"X"_s, u"Y"_s, u"Y"_s }));
+    QVERIFY(f->canUndoSave());
+
+    f->setErrorMessage({});
+    QVERIFY(QFile::setPermissions(f.folder.path(u"b.jpg"_s), QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(QFile::remove(leftover));
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.titles().values(), QStringList({ u"X"_s, u"X"_s, u"X"_s }));
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.titles().values(), names);
+    QVERIFY(!f->canUndoSave());
+}
+
+/// A tool that is killed says nothing about what it has done: what it restored must not pass for another's work.
+void TestAppModelSafety::undoIsTriedAgainAfterTheToolWasCut()
+{
+    JournaledPhotos f({ u"a.jpg"_s, u"b.jpg"_s });
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    f->setBatch(u"headline"_s, u"X"_s);
+    QVERIFY(f.save());
+    const QTemporaryDir tools;
+    const QString script = tools.filePath(u"exiftool"_s);
+    writeFile(script,
+        "system $^X, '" + realTool().exiftoolURL.toLocalFile().toUtf8()
+            + "', @ARGV; kill 'KILL', $$ if grep { $_ eq '-m' } @ARGV;\n");
+    f.services.service = MetadataService{ { QUrl::fromLocalFile(script), realTool().perlURL } };
+    f.relaunch();
+    QTRY_VERIFY(f->canUndoSave());
+    QVERIFY(f.open());
+    QVERIFY(f.undo());
+    QVERIFY(f->errorMessage().value_or(QString()).startsWith(u"Could not undo the save of 2 photos: a.jpg ("_s));
+    QVERIFY(!f->record(f.url(u"a.jpg"_s))->values.contains(u"headline"_s));
+    f.services.service = MetadataService{ realTool() };
+    f.relaunch();
+    QTRY_VERIFY(f->canUndoSave());
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QVERIFY(!f->canUndoSave());
+}
+
+void TestAppModelSafety::unwritableJournalDoesNotStopASave()
+{
+    JournaledPhotos f;
+    writeFile(f.settings.filePath(u"state"_s), "a file where a folder should be");
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"X"_s);
+    QVERIFY(f.save());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
+    QVERIFY(!f->canUndoSave());
+}
+
+void TestAppModelSafety::stalledFileIsSkipped()
+{
+    StallingPhotos f;
+    f.stall(true);
+    f->load({ f.folderURL() });
+    QCOMPARE(f->stalledFile(), std::nullopt);
+    QVERIFY(f.skipStalled());
+    QCOMPARE(f->stalledFile(), std::nullopt);
+    QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 2, 30000);
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f.visible(), QStringList({ u"a.jpg"_s, u"c.jpg"_s }));
+    QCOMPARE(f->errorMessage(), u"1 file could not be read and was left out: b.jpg (took too long)"_s);
+    // A look at the folder does not fetch it again: that would hang where nobody sees it.
+    f->refresh();
+    QTest::qWait(200);
+    f.folder.add(u"d.jpg"_s);
+    f->refresh();
+    QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 3, 30000);
+    QCOMPARE(f.visible(), QStringList({ u"a.jpg"_s, u"c.jpg"_s, u"d.jpg"_s }));
+}
+
+void TestAppModelSafety::stalledReReadOfASaveIsSkipped()
+{
+    StallingPhotos f;
+    QVERIFY(f.open());
+    f.stall(true);
+    f->selectAllPhotos();
+    f->setBatch(u"title"_s, u"X"_s);
+    f->requestSave();
+    QVERIFY(f.skipStalled());
+    QVERIFY(f->isSaving());
+    QVERIFY(f.waitUntilIdle());
+    QVERIFY(!f->isSaving());
+    QCOMPARE(f->errorMessage(), u"Could not save 1 of 3 photos: b.jpg (reading it back took too long)"_s);
+    QCOMPARE(f.selected(), QStringList{ u"b.jpg"_s });
+    QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
+    QCOMPARE(f->unsavedCount(), 1);
+    QCOMPARE(f->record(f.url(u"c.jpg"_s))->values.value(u"title"_s), u"X"_s);
+    f.stall(false);
+    f->setErrorMessage({});
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f->unsavedCount(), 0);
+}
+
+/// Nothing is shown of a refresh, until it does not get on.
+void TestAppModelSafety::stalledRefreshIsSkipped()
+{
+    StallingPhotos f;
+    QVERIFY(f.open());
+    f.click(u"b.jpg"_s);
+    f->setSingle(u"title"_s, u"typed"_s);
+    f.stall(true);
+    f.folder.add(u"b.jpg"_s, jpegBytes(16, 16));
+    f.folder.add(u"a.jpg"_s, jpegBytes(24, 16));
+    f->refresh();
+    QVERIFY(!f->isWorking());
+    QVERIFY(f.skipStalled());
+    QVERIFY(f->isWorking());
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), u"1 file could not be read and was left out: b.jpg (took too long)"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(f->record(f.url(u"a.jpg"_s))->pixelWidth.value_or(0), 24, 30000);
+    QCOMPARE(f->record(f.url(u"b.jpg"_s))->pixelWidth.value_or(0), 8);
+    QCOMPARE(f->draftValues().value(u"title"_s), u"typed"_s);
+    f.folder.add(u"d.jpg"_s);
+    f->refresh();
+    QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 4, 30000);
+}
+
+void TestAppModelSafety::quitEndsARead()
+{
+    StallingPhotos f;
+    int quits = 0;
+    f.services.quit = [&] {
+        ++quits;
+        f.model.reset();
+    };
+    f.relaunch();
+    f.stall(true);
+    f->load({ f.folderURL() });
+    QVERIFY(QTest::qWaitFor([&f] { return f.isStalling(); }, 30000));
+    f->requestQuit();
+    QCOMPARE(quits, 1);
+    // The program ends when the read has, and that does not wait for the tool.
+    QVERIFY(QThreadPool::globalInstance()->waitForDone(30000));
+}
+
+QTEST_GUILESS_MAIN(TestAppModelSafety)
+#include "tst_AppModelSafety.moc"

@@ -1,0 +1,332 @@
+// Other programs at work in the open folder, and our own doings there, which are no news.
+#include "tests/app/model/ModelFixture.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Photos "a" to "e", each titled with its name, open behind a gated tool; "a" is selected.
+struct OpenFolder : GatedTool, ModelFixture {
+    OpenFolder()
+        : ModelFixture(service())
+    {
+        for (const QChar letter : u"abcde"_s)
+            folder.add(letter + u".jpg"_s, titled());
+        isRead = open();
+    }
+    static const QByteArray& titled()
+    {
+        static const QByteArray bytes = [] {
+            const PhotoFolder folder;
+            const QString path = folder.add(u"x.jpg"_s).toLocalFile();
+            exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=disk"_s, path });
+            return readFile(path);
+        }();
+        return bytes;
+    }
+    void remove(const QString& letters) const
+    {
+        for (const QChar letter : letters)
+            QFile::remove(folder.path(letter + u".jpg"_s));
+    }
+    void select(const QString& letters)
+    {
+        click(letters.first(1) + u".jpg"_s);
+        for (const QChar letter : letters.mid(1))
+            click(letter + u".jpg"_s, false, true);
+    }
+    bool isRead = false;
+};
+
+QStringList jpgs(const QString& letters)
+{
+    QStringList names;
+    for (const QChar letter : letters)
+        names.append(letter + u".jpg"_s);
+    return names;
+}
+
+}  // namespace
+
+class TestAppModelWatching : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
+    void outsideChangeKeepsEdits();
+    void batchEditsSurviveChanges();
+    void addedPhotosComeAtOnce();
+    void unreadableNewcomersAreSilent();
+    void removal_data();
+    void removal();
+    void lastBatchPhotoInheritsTheEdits();
+    void lostEditsAreReported();
+    void outsideRename();
+    void removedFolderKeepsAll();
+    void folderThatComesBackIsWatchedAgain();
+    void ownRenameIsNoChange();
+    void ownSaveIsNoChange();
+    void changeDuringReReadIsSeen();
+    void staleReadLosesAgainstSave();
+    void closedFolderStaysClosed();
+};
+
+void TestAppModelWatching::outsideChangeKeepsEdits()
+{
+    OpenFolder f;
+    QVERIFY(f.isRead);
+    QList<QUrl> modified;
+    f->onImagesModified = [&modified](const QList<QUrl>& urls) { modified += urls; };
+    f->setSingle(u"headline"_s, u"typed"_s);
+    f->addCustomField(u"Mood"_s, u"calm"_s);
+    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=outside"_s, u"-XMP-photoshop:Headline=outside"_s,
+        f.folder.path(u"a.jpg"_s), f.folder.path(u"b.jpg"_s) });
+    QTRY_COMPARE_WITH_TIMEOUT(f->draftValues().value(u"title"_s), u"outside"_s, 30000);
+    QCOMPARE(f->draftValues().value(u"headline"_s), u"typed"_s);
+    QCOMPARE(f->draftCustoms(), (QList<CustomValue>{ { u"Mood"_s, u"calm"_s } }));
+    QCOMPARE(f->unsavedCount(), 2);
+    QCOMPARE(f->record(f.url(u"b.jpg"_s))->values.value(u"headline"_s), u"outside"_s);
+    QCOMPARE(modified, (QList<QUrl>{ f.url(u"a.jpg"_s), f.url(u"b.jpg"_s) }));
+    QVERIFY(!f->isWorking());
+}
+
+void TestAppModelWatching::batchEditsSurviveChanges()
+{
+    OpenFolder f;
+    f.select(u"abc"_s);
+    f->setBatch(u"title"_s, u"typed"_s);
+    f->addBatchListItem(u"keywords"_s, u"sky"_s);
+    f.remove(u"cd"_s);
+    f.folder.add(u"new.jpg"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(f.visible(), QStringList({ u"a.jpg"_s, u"b.jpg"_s, u"e.jpg"_s, u"new.jpg"_s }), 30000);
+    QCOMPARE(f.selected(), jpgs(u"ab"_s));
+    QCOMPARE(f->batchValues().value(u"title"_s), u"typed"_s);
+    QCOMPARE(f->unsavedCount(), 2);
+}
+
+void TestAppModelWatching::addedPhotosComeAtOnce()
+{
+    OpenFolder f;
+    const Announcements announced(*f.model);
+    for (int i = 0; i < 10; ++i)
+        f.folder.add(u"0%1.jpg"_s.arg(i), OpenFolder::titled());
+    QVERIFY(QDir(f.folder.path()).mkpath(u"sub"_s));
+    f.folder.add(u"sub/deep.jpg"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 15, 30000);
+    QCOMPARE(announced.counts(), (QMap<QString, int>{ { u"recordsChanged"_s, 1 }, { u"visibleRowsChanged"_s, 1 } }));
+    // At the end of the records, first on screen, and the selection stays.
+    QCOMPARE(f->records().at(5).fileName, u"00.jpg"_s);
+    QCOMPARE(f.visible().constFirst(), u"00.jpg"_s);
+    QCOMPARE(f->records().at(5).values.value(u"title"_s), u"disk"_s);
+    QCOMPARE(f.selected(), jpgs(u"a"_s));
+}
+
+void TestAppModelWatching::unreadableNewcomersAreSilent()
+{
+    OpenFolder f;
+    f.folder.add(u"empty.jpg"_s, {});
+    QVERIFY(QFile::link(f.folder.path(u"gone"_s), f.folder.path(u"link.jpg"_s)));
+    f.folder.add(u"good.jpg"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 6, 30000);
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    // What was empty is taken in when it is filled.
+    f.folder.add(u"empty.jpg"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 7, 30000);
+}
+
+void TestAppModelWatching::removal_data()
+{
+    QTest::addColumn<QString>("select");
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QString>("remove");
+    QTest::addColumn<QString>("selected");
+    QTest::addColumn<QString>("primary");
+    QTest::addRow("others") << u"b"_s << QString() << u"ad"_s << u"b"_s << u"b"_s;
+    QTest::addRow("the only selected one") << u"c"_s << QString() << u"c"_s << u"a"_s << u"a"_s;
+    QTest::addRow("the primary: nearest stays") << u"abe"_s << QString() << u"e"_s << u"ab"_s << u"b"_s;
+    QTest::addRow("of two as near, the later") << u"bdc"_s << QString() << u"c"_s << u"bd"_s << u"d"_s;
+    QTest::addRow("the nearest goes too") << u"adc"_s << QString() << u"cd"_s << u"a"_s << u"a"_s;
+    QTest::addRow("only hidden ones stay selected") << u"ab"_s << u"b"_s << u"b"_s << u"a"_s << u"a"_s;
+    QTest::addRow("all") << u"b"_s << QString() << u"abcde"_s << QString() << QString();
+}
+
+void TestAppModelWatching::removal()
+{
+    QFETCH(QString, select);
+    QFETCH(QString, search);
+    QFETCH(QString, remove);
+    QFETCH(QString, selected);
+    QFETCH(QString, primary);
+    OpenFolder f;
+    f.select(select);
+    f->setSearch(search);
+    f.remove(remove);
+    QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 5 - remove.size(), 30000);
+    QCOMPARE(f.selected(), jpgs(selected));
+    QCOMPARE(f.primary(), primary.isEmpty() ? QString() : primary + u".jpg"_s);
+    QCOMPARE(f->draftValues().value(u"title"_s), primary.isEmpty() ? QString() : u"disk"_s);
+}
+
+void TestAppModelWatching::lastBatchPhotoInheritsTheEdits()
+{
+    OpenFolder f;
+    f.select(u"ab"_s);
+    f->setBatch(u"title"_s, u"typed"_s);
+    f->addBatchListItem(u"keywords"_s, u"sky"_s);
+    f->addCustomField(u"Mood"_s, u"calm"_s);
+    f.remove(u"b"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(f.selected(), jpgs(u"a"_s), 30000);
+    QCOMPARE(f->draftValues().value(u"title"_s), u"typed"_s);
+    QCOMPARE(f->editedSingle(), (QSet<QString>{ u"title"_s, u"keywords"_s, u"custom:Mood"_s }));
+    QVERIFY(f->batchInclude().isEmpty());
+}
+
+void TestAppModelWatching::lostEditsAreReported()
+{
+    OpenFolder f;
+    f->setSingle(u"title"_s, u"typed"_s);
+    f.remove(u"a"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(f.primary(), u"b.jpg"_s, 30000);
+    QCOMPARE(f->errorMessage(), u"“a.jpg” was removed by another program, and its unsaved changes with it."_s);
+    QCOMPARE(f->unsavedCount(), 0);
+}
+
+void TestAppModelWatching::outsideRename()
+{
+    OpenFolder f;
+    f.select(u"c"_s);
+    f->setSingle(u"title"_s, u"typed"_s);
+    QVERIFY(QFile::rename(f.folder.path(u"b.jpg"_s), f.folder.path(u"z.jpg"_s)));
+    QTRY_COMPARE_WITH_TIMEOUT(f.visible(), jpgs(u"acdez"_s), 30000);
+    QCOMPARE(f->records().constLast().fileName, u"z.jpg"_s);
+    QCOMPARE(f.primary(), u"c.jpg"_s);
+    QCOMPARE(f->draftValues().value(u"title"_s), u"typed"_s);
+}
+
+void TestAppModelWatching::removedFolderKeepsAll()
+{
+    OpenFolder f;
+    QVERIFY(QDir(f.folder.path()).mkpath(u"sub"_s));
+    f.folder.add(u"sub/x.jpg"_s);
+    QVERIFY(f.load({ f.url(u"sub"_s) }));
+    f->setSaveDontAsk(true);
+    f->setSingle(u"title"_s, u"typed"_s);
+    QVERIFY(QDir(f.folder.path(u"sub"_s)).removeRecursively());
+    QTest::qWait(1000);
+    f->refresh();
+    QVERIFY(!QTest::qWaitFor([&f] { return f->records().isEmpty(); }, 500));
+    QCOMPARE(f->unsavedCount(), 1);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QVERIFY(f->errorMessage().value_or(QString()).startsWith(u"Could not save: "_s));
+    QCOMPARE(f->draftValues().value(u"title"_s), u"typed"_s);
+}
+
+void TestAppModelWatching::folderThatComesBackIsWatchedAgain()
+{
+    OpenFolder f;
+    const QString path = f.folder.path(u"sub"_s);
+    QVERIFY(QDir().mkpath(path));
+    writeFile(path + u"/x.jpg"_s, OpenFolder::titled());
+    QVERIFY(f.load({ QUrl::fromLocalFile(path) }));
+    QVERIFY(QDir(path).removeRecursively());
+    QTest::qWait(700);
+    QVERIFY(QDir().mkpath(path));
+    writeFile(path + u"/y.jpg"_s, OpenFolder::titled());
+    f->refresh();
+    QTRY_COMPARE_WITH_TIMEOUT(f.visible(), QStringList{ u"y.jpg"_s }, 30000);
+    writeFile(path + u"/z.jpg"_s, OpenFolder::titled());
+    QTRY_COMPARE_WITH_TIMEOUT(f.visible(), QStringList({ u"y.jpg"_s, u"z.jpg"_s }), 30000);
+}
+
+void TestAppModelWatching::ownRenameIsNoChange()
+{
+    OpenFolder f;
+    f.select(u"b"_s);
+    f->setSingle(u"title"_s, u"Sunset"_s);
+    f->setRenamePattern(u"%Title%"_s);
+    const auto* before = f->records().constData();
+    {
+        const Announcements announced(*f.model);
+        f->performRename();
+        QCOMPARE(announced.counts(),
+            (QMap<QString, int>{ { u"recordsChanged"_s, 1 }, { u"visibleRowsChanged"_s, 1 },
+                { u"selectionChanged"_s, 1 }, { u"primaryChanged"_s, 1 } }));
+    }
+    QCOMPARE(before, f->records().constData());
+    QCOMPARE(f.primary(), u"Sunset.jpg"_s);
+    QCOMPARE(f.selected(), QStringList{ u"Sunset.jpg"_s });
+    QCOMPARE(f->draftValues().value(u"title"_s), u"Sunset"_s);
+    QCOMPARE(f->unsavedCount(), 1);
+    // The watcher sees one removal and one addition; neither is news.
+    const Announcements announced(*f.model);
+    QTest::qWait(1500);
+    QCOMPARE(announced.counts(), (QMap<QString, int>()));
+}
+
+void TestAppModelWatching::ownSaveIsNoChange()
+{
+    OpenFolder f;
+    bool isTold = false;
+    f->onImagesModified = [&isTold](const QList<QUrl>&) { isTold = true; };
+    f->setSaveDontAsk(true);
+    f->setSingle(u"title"_s, u"typed"_s);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    const Announcements announced(*f.model);
+    QTest::qWait(1500);
+    QCOMPARE(announced.counts(), (QMap<QString, int>()));
+    QVERIFY(!isTold);
+}
+
+void TestAppModelWatching::changeDuringReReadIsSeen()
+{
+    OpenFolder f;
+    f.shut("a.jpg");
+    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=first"_s, f.folder.path(u"a.jpg"_s) });
+    QVERIFY(f.waitForRun());
+    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=second"_s, f.folder.path(u"a.jpg"_s) });
+    QTest::qWait(700);
+    f.release();
+    QTRY_COMPARE_WITH_TIMEOUT(f->draftValues().value(u"title"_s), u"second"_s, 30000);
+}
+
+void TestAppModelWatching::staleReadLosesAgainstSave()
+{
+    OpenFolder f;
+    f->setSaveDontAsk(true);
+    f.shut("-struct");  // the second of a read's two runs: the first one has seen the old title
+    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=outside"_s, f.folder.path(u"a.jpg"_s) });
+    QVERIFY(f.waitForRun());
+    f->setSingle(u"title"_s, u"typed"_s);
+    f->requestSave();
+    QTRY_COMPARE_WITH_TIMEOUT(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"typed"_s), 30000);
+    f.release();
+    QVERIFY(f.waitUntilIdle());
+    QTest::qWait(1000);
+    QCOMPARE(f->record(f.url(u"a.jpg"_s))->values.value(u"title"_s), u"typed"_s);
+    QCOMPARE(f->draftValues().value(u"title"_s), u"typed"_s);
+    QCOMPARE(f->unsavedCount(), 0);
+}
+
+void TestAppModelWatching::closedFolderStaysClosed()
+{
+    OpenFolder f;
+    f.shut();
+    f.folder.add(u"new.jpg"_s);
+    QVERIFY(f.waitForRun());
+    f->closeFolder();
+    QVERIFY(!f->canRefresh());
+    f.release();
+    f.folder.add(u"newer.jpg"_s);
+    QTest::qWait(1000);
+    QVERIFY(f->records().isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestAppModelWatching)
+#include "tst_AppModelWatching.moc"

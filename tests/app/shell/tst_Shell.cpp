@@ -1,0 +1,352 @@
+// What the program puts around the content: menus and keys, closing, settings, help, files from a command line.
+#include "app/shell/AppDelegate.h"
+#include "app/shell/MainWindowDelegate.h"
+#include "app/shell/Menus.h"
+#include "app/shell/OpenPanel.h"
+#include "tests/ui/window/WindowFixture.h"
+#include "ui/controls/Marks.h"
+#include "ui/controls/TextFields.h"
+#include "ui/controls/ThemedMenuBar.h"
+#include "ui/sheets/MessageSheet.h"
+#include "ui/sidebar/SidebarList.h"
+#include "ui/window/HelpView.h"
+#include "ui/window/SettingsView.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+
+class tst_Shell : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void shortcuts();
+    void selectAllIsTheFieldsFirst();
+    void recentItems();
+    void menusRestUnderASheet();
+    void closingAsksAboutUnsavedEdits();
+    void geometryIsRemembered();
+    void filesFromACommandLine_data();
+    void filesFromACommandLine();
+    void settingsShowAndWritePreferences();
+    void onlySecureAddressesOfAPlaceServiceAreKept();
+    void helpNamesThisPlatformsKeys();
+    void noticesAnswer();
+    void openPanelTakesFoldersAndFiles();
+
+private:
+    static QAction* action(const WindowFixture& fixture, const QString& text)
+    {
+        for (auto* action : fixture.window->findChildren<QAction*>())
+            if (action->text().remove(QLatin1Char('&')) == text)
+                return action;
+        return nullptr;
+    }
+};
+
+void tst_Shell::shortcuts()
+{
+    WindowFixture fixture;
+    int help = 0;
+    new Menus(*fixture.model.model, *fixture.content, { .openSettings = {}, .openHelp = [&] { ++help; } });
+    fixture.open({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") });
+    fixture.show();
+    QWidget* window = fixture.window.get();
+    QVERIFY(!action(fixture, QStringLiteral("Save"))->isEnabled());
+    fixture.model->setSingle(QStringLiteral("title"), QStringLiteral("New"));
+    QTest::keyClick(window, Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(fixture.model->saveOpen());
+    fixture.model->discardSaveDialog();
+    QTest::keyClick(window, Qt::Key_O, Qt::ControlModifier);
+    QCOMPARE(fixture.panels, 1);
+    QTest::keyClick(window, Qt::Key_F1);
+    QCOMPARE(help, 1);
+    QVERIFY(action(fixture, QStringLiteral("Refresh"))->isEnabled());
+    // What another program wrote is seen after Ctrl+R at the latest.
+    exiftool({ QStringLiteral("-overwrite_original"), QStringLiteral("-XMP-dc:Title=Elsewhere"),
+        fixture.model.folder.path(QStringLiteral("a.jpg")) });
+    QTest::keyClick(window, Qt::Key_R, Qt::ControlModifier);
+    QTRY_COMPARE_WITH_TIMEOUT(
+        fixture.model->draftValues().value(QStringLiteral("title")), QStringLiteral("Elsewhere"), 30'000);
+    QTest::keyClick(window, Qt::Key_W, Qt::ControlModifier);
+    QVERIFY(fixture.model->records().isEmpty());
+    QVERIFY(!action(fixture, QStringLiteral("Refresh"))->isEnabled());
+    QVERIFY(!action(fixture, QStringLiteral("Check for Updates…")));  // no feed in this build
+}
+
+void tst_Shell::selectAllIsTheFieldsFirst()
+{
+    WindowFixture fixture;
+    new Menus(*fixture.model.model, *fixture.content, {});
+    fixture.open({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") });
+    fixture.show();
+    auto* field = fixture.window->findChild<QLineEdit*>(QStringLiteral("field"));
+    field->setText(QStringLiteral("words"));
+    field->setFocus();
+    field->deselect();
+    action(fixture, QStringLiteral("Select All"))->trigger();
+    QCOMPARE(field->selectedText(), QStringLiteral("words"));
+    QCOMPARE(fixture.model->selection().size(), 1);
+    action(fixture, QStringLiteral("Cut"))->trigger();
+    QVERIFY(field->text().isEmpty());
+    action(fixture, QStringLiteral("Undo"))->trigger();
+    QCOMPARE(field->text(), QStringLiteral("words"));
+    fixture.window->findChild<SidebarList*>()->setFocus();
+    QTest::keyClick(fixture.window->focusWidget(), Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(fixture.model->selection().size(), 2);
+}
+
+void tst_Shell::recentItems()
+{
+    WindowFixture fixture;
+    new Menus(*fixture.model.model, *fixture.content, {});
+    fixture.show();
+    QMenu* recents = action(fixture, QStringLiteral("Open Recent"))->menu<QMenu*>();
+    QVERIFY(!recents->menuAction()->isEnabled());
+    fixture.open({ QStringLiteral("a & b.jpg") });
+    const QUrl photo = fixture.model.url(QStringLiteral("a & b.jpg"));
+    QVERIFY(fixture.model.load({ photo }));
+    QCOMPARE(recents->actions().first()->text().replace(QLatin1String("&&"), QLatin1String("&")), photo.toLocalFile());
+    recents->actions().at(1)->trigger();
+    QTRY_COMPARE(fixture.model->folderURL(), fixture.model.folderURL());
+    action(fixture, QStringLiteral("Clear Menu"))->trigger();
+    QVERIFY(fixture.model->recentPaths().isEmpty());
+    QVERIFY(!recents->menuAction()->isEnabled());
+}
+
+void tst_Shell::menusRestUnderASheet()
+{
+    WindowFixture fixture;
+    new Menus(*fixture.model.model, *fixture.content, {});
+    fixture.open({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") });
+    fixture.show();
+    fixture.model->setAddOpen(true);
+    QTest::keyClick(fixture.window->focusWidget(), Qt::Key_O, Qt::ControlModifier);
+    QTest::keyClick(fixture.window->focusWidget(), Qt::Key_W, Qt::ControlModifier);
+    QCOMPARE(fixture.panels, 0);
+    QCOMPARE(fixture.model->records().size(), 2);
+    fixture.model->setAddOpen(false);
+    QTest::keyClick(fixture.window->focusWidget(), Qt::Key_O, Qt::ControlModifier);
+    QCOMPARE(fixture.panels, 1);
+}
+
+void tst_Shell::closingAsksAboutUnsavedEdits()
+{
+    WindowFixture fixture;
+    int quits = 0;
+    fixture.window.reset();
+    fixture.model.services.quit = [&] { ++quits; };
+    fixture.model.relaunch();
+    fixture.build();
+    MainWindowDelegate delegate(*fixture.model.model, *fixture.window, *fixture.content->sheets());
+    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.show();
+    fixture.model->setSingle(QStringLiteral("title"), QStringLiteral("New"));
+    fixture.window->close();
+    QVERIFY(fixture.window->isVisible());
+    QVERIFY(fixture.model->saveOpen());
+    fixture.model->cancelSaveDialog();
+    QCOMPARE(quits, 0);
+    // With another sheet open, closing lets go of that one first.
+    fixture.model->setAddOpen(true);
+    fixture.window->close();
+    QVERIFY(!fixture.model->addOpen());
+    QVERIFY(fixture.model->saveOpen());
+    fixture.model->discardSaveDialog();
+    QCOMPARE(quits, 1);
+}
+
+void tst_Shell::geometryIsRemembered()
+{
+    WindowFixture fixture;
+    {
+        MainWindowDelegate delegate(*fixture.model.model, *fixture.window, *fixture.content->sheets());
+        delegate.restoreGeometry();
+        QVERIFY(fixture.window->width() >= 900 && fixture.window->height() >= 600);
+        fixture.show();
+        fixture.window->setGeometry(120, 90, 1010, 640);
+        delegate.quit();
+    }
+    fixture.build();
+    MainWindowDelegate delegate(*fixture.model.model, *fixture.window, *fixture.content->sheets());
+    delegate.restoreGeometry();
+    fixture.show();
+    QCOMPARE(fixture.window->size(), QSize(1010, 640));
+}
+
+void tst_Shell::filesFromACommandLine_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<QString>("path");
+    const QString here = QDir::currentPath();
+    QTest::newRow("absolute") << QStringLiteral("/p/a b.jpg") << QStringLiteral("/p/a b.jpg");
+    QTest::newRow("relative") << QStringLiteral("../x/./b.jpg")
+                              << QDir::cleanPath(here + QStringLiteral("/../x/b.jpg"));
+    QTest::newRow("folder with a slash") << QStringLiteral("/p/dir/") << QStringLiteral("/p/dir");
+    QTest::newRow("URL") << QStringLiteral("file:///p/Z%C3%BCrich%20%231.jpg") << QStringLiteral("/p/Zürich #1.jpg");
+    QTest::newRow("name like an escape") << QStringLiteral("/p/a%20b.jpg") << QStringLiteral("/p/a%20b.jpg");
+    QTest::newRow("name with a colon") << QStringLiteral("a:b.jpg") << here + QStringLiteral("/a:b.jpg");
+}
+
+void tst_Shell::filesFromACommandLine()
+{
+    QFETCH(QString, argument);
+    QFETCH(QString, path);
+    QCOMPARE(AppDelegate::urlsOf({ argument }).first().toLocalFile(), path);
+}
+
+void tst_Shell::settingsShowAndWritePreferences()
+{
+    ModelFixture model(std::nullopt);
+    SettingsView view(*model.model);
+    view.show();
+    const auto named = [&](const QString& name) -> QBSwitch* {
+        for (auto* toggle : view.findChildren<QBSwitch*>())
+            if (toggle->accessibleName() == name)
+                return toggle;
+        return nullptr;
+    };
+    QBSwitch* backups = named(QStringLiteral("Back up original before writing"));
+    QVERIFY(backups->isChecked());
+    QTest::mouseClick(backups, Qt::LeftButton);
+    QVERIFY(!model->backupOriginals());
+    QTest::keyClick(named(QStringLiteral("Strip special characters")), Qt::Key_Space);
+    QVERIFY(!model->stripSpecialChars());
+    model->setWriteSidecar(true);
+    QVERIFY(named(QStringLiteral("Also write a sidecar .xmp file"))->isChecked());
+
+    auto* pattern = view.findChild<QBTextField*>();
+    QCOMPARE(pattern->text(), QStringLiteral("%Date%_%Title%"));
+    QTest::keyClicks(pattern, QStringLiteral("x"));
+    QCOMPARE(model->renamePattern(), QStringLiteral("%Date%_%Title%x"));
+
+    auto* appearance = view.findChild<SegmentedPicker*>();
+    QCOMPARE(appearance->currentIndex(), 0);
+    appearance->setFocus();
+    QTest::keyClick(appearance, Qt::Key_Right);
+    QCOMPARE(model->colorOverride(), ColorScheme::light);
+    QTest::keyClick(appearance, Qt::Key_Right);
+    QCOMPARE(model->colorOverride(), ColorScheme::dark);
+    model->setColorOverride(std::nullopt);
+    QCOMPARE(appearance->currentIndex(), 0);
+}
+
+void tst_Shell::onlySecureAddressesOfAPlaceServiceAreKept()
+{
+    ModelFixture model(std::nullopt);
+    SettingsView view(*model.model);
+    auto* field = view.findChildren<QBTextField*>().last();
+    QCOMPARE(field->placeholderText(), QStringLiteral("https://…"));
+    const auto enter = [field](const QString& text) {
+        field->selectAll();
+        field->insert(text);
+        emit field->textEdited(field->text());
+    };
+    enter(QStringLiteral(" https://places.example/api "));
+    QCOMPARE(model->placeService(), QStringLiteral("https://places.example/api"));
+    QVERIFY(field->toolTip().isEmpty());
+    for (const QString& address : { QStringLiteral("http://places.example"), QStringLiteral("places.example"),
+             QStringLiteral("file:///etc/passwd"), QStringLiteral("https://") }) {
+        enter(address);
+        QCOMPARE(model->placeService(), QStringLiteral("https://places.example/api"));
+        QCOMPARE(field->text(), address);
+        QVERIFY2(!field->toolTip().isEmpty(), qPrintable(address));
+    }
+    enter(QString());
+    QVERIFY(model->placeService().isEmpty());
+    QVERIFY(field->toolTip().isEmpty());
+}
+
+void tst_Shell::helpNamesThisPlatformsKeys()
+{
+    HelpView help;
+    help.show();
+    auto* topics = help.findChild<QListWidget*>();
+    QStringList titles;
+    QString text;
+    for (int row = 0; row < topics->count(); ++row) {
+        topics->setCurrentRow(row);
+        QCOMPARE(help.selection(), allCases<HelpTopic>().at(row));
+        const auto labels = help.findChildren<QLabel*>();
+        titles.append(labels.first()->text());
+        for (const auto* label : labels)
+            text += label->text() + QLatin1Char('\n');
+    }
+    QCOMPARE(titles,
+        (QStringList{ QStringLiteral("Getting Started"), QStringLiteral("The Interface"),
+            QStringLiteral("Editing Metadata"), QStringLiteral("Batch Editing"), QStringLiteral("Renaming Files"),
+            QStringLiteral("Saving & Backups"), QStringLiteral("Settings") }));
+    for (const QString& foreign : { QStringLiteral("⌘"), QStringLiteral("⇧"), QStringLiteral("Finder") })
+        QVERIFY2(!text.contains(foreign), qPrintable(foreign));
+    QVERIFY(text.contains(QStringLiteral("Choose File ▸ Open… (Ctrl+O), or drag photos onto the window.")));
+    QVERIFY(text.contains(QStringLiteral("Right-click a photo in your file manager and choose Open With ▸ Quorbel.")));
+}
+
+void tst_Shell::noticesAnswer()
+{
+    WindowFixture fixture;
+    fixture.show();
+    SheetHost& sheets = *fixture.content->sheets();
+    QList<qsizetype> answers;
+    const auto ask = [&] {
+        presentMessage(sheets, QStringLiteral("sparkles"), QStringLiteral("Quorbel 2.0 is available"),
+            QStringLiteral("Faster."), { QStringLiteral("Download"), QStringLiteral("Later") },
+            [&](qsizetype button) { answers.append(button); });
+    };
+    ask();
+    QTest::mouseClick(fixture.button(QStringLiteral("Later")), Qt::LeftButton);
+    ask();
+    QTest::keyClick(fixture.window->focusWidget(), Qt::Key_Escape);
+    ask();
+    QTest::mouseClick(fixture.button(QStringLiteral("Download")), Qt::LeftButton);
+    QCOMPARE(answers, (QList<qsizetype>{ 1, 1, 0 }));
+    QVERIFY(!sheets.current());
+}
+
+void tst_Shell::openPanelTakesFoldersAndFiles()
+{
+    PhotoFolder folder;
+    folder.add(QStringLiteral("a.jpg"));
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("inner")));
+    QWidget window;
+    const auto choose = [&](const std::function<void(OpenPanel&)>& use) {
+        std::optional<QList<QUrl>> chosen;
+        OpenPanel::open(&window, Theme::light(), [&](const QList<QUrl>& urls) { chosen = urls; });
+        auto* panel = window.findChild<OpenPanel*>();
+        panel->setDirectory(folder.path());
+        use(*panel);
+        QTest::qWait(0);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return chosen;
+    };
+    const auto typed = [](const QString& name) {
+        return [name](OpenPanel& panel) {
+            auto* field = panel.findChild<QLineEdit*>();
+            field->setText(name);  // pasted: typing may bring up completions, which take Return for themselves
+            QTest::keyClick(field, Qt::Key_Return);
+        };
+    };
+    const auto press = [](QDialogButtonBox::StandardButton button) {
+        return [button](OpenPanel& panel) {
+            QTest::mouseClick(panel.findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
+        };
+    };
+    QCOMPARE(choose(typed(QStringLiteral("a.jpg"))), QList<QUrl>{ folder.url(QStringLiteral("a.jpg")) });
+    QCOMPARE(choose(typed(folder.path(QStringLiteral("inner")))), QList<QUrl>{ folder.url(QStringLiteral("inner")) });
+    QCOMPARE(choose(press(QDialogButtonBox::Open)), QList<QUrl>{ QUrl::fromLocalFile(folder.path()) });
+    QCOMPARE(choose(press(QDialogButtonBox::Cancel)), QList<QUrl>{});
+}
+
+int main(int argc, char* argv[])
+{
+    return runOnLargeScreen<tst_Shell>(argc, argv);
+}
+
+#include "tst_Shell.moc"

@@ -1,0 +1,604 @@
+// What a save keeps: every script in every standard, links, attributes, read-only files, and the way back.
+#include "core/MetadataService.h"
+#include "core/save/SaveGuard.h"
+#include "core/save/SaveVerification.h"
+#include "core/tool/IptcEncoding.h"
+#include "core/tool/TemporaryFiles.h"
+#include "tests/support/Support.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <utime.h>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+
+namespace {
+
+MetadataService realService()
+{
+    return { realTool() };
+}
+
+/// The one value of a tag ("-XMP-dc:Title") as ExifTool prints it.
+QString exiftoolValue(const QUrl& file, const QString& tag)
+{
+    return QString::fromUtf8(exiftool({ QStringLiteral("-s3"), tag, file.toLocalFile() })).trimmed();
+}
+
+EditPlan titlePlan(const QString& title)
+{
+    return { .scalars = { { "title", title } } };
+}
+
+QString problem(const std::function<void()>& call)
+{
+    try {
+        call();
+    } catch (const Error& error) {
+        return error.description();
+    }
+    return {};
+}
+
+/// The real tool, but killed before it gives a file another name for the n-th time (the first is 0).
+class CutTool {
+public:
+    explicit CutTool(int n)
+    {
+        writeFile(m_folder.path(QStringLiteral("Cut.pm")),
+            "package Cut; my $left = " + QByteArray::number(n)
+                + "; BEGIN { *CORE::GLOBAL::rename = sub { kill 'KILL', $$ unless $left--; CORE::rename($_[0], $_[1]) "
+                  "} } 1;\n");
+        writeFile(script(),
+            "exec $^X, '-I" + m_folder.path().toUtf8() + "', '-MCut', '" + realTool().exiftoolURL.toLocalFile().toUtf8()
+                + "', @ARGV;\n");
+    }
+    MetadataService service() const { return { { QUrl::fromLocalFile(script()), realTool().perlURL } }; }
+
+private:
+    QString script() const { return m_folder.path(QStringLiteral("exiftool")); }
+
+    PhotoFolder m_folder;
+};
+
+void makeOld(const QString& path, qint64 seconds)
+{
+    const time_t then = time(nullptr) - seconds;
+    const utimbuf times{ then, then };
+    QCOMPARE(utime(QFile::encodeName(path).constData(), &times), 0);
+}
+
+}  // namespace
+
+class tst_SaveSafety : public QObject {
+    Q_OBJECT
+
+private slots:
+    void knowsWindowsLatin1_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("fits");
+        QTest::addRow("ASCII") << "plain\ttext\n" << true;
+        QTest::addRow("Latin 1") << "Zürich ÿ £" << true;
+        QTest::addRow("the page's own") << "€ “quotes” … – — Œ Ž ™" << true;
+        QTest::addRow("Central European") << "Łódź" << false;
+        QTest::addRow("decomposed") << QStringLiteral("Zu\u0308rich") << false;
+        QTest::addRow("Chinese") << "東京" << false;
+        QTest::addRow("emoji") << "🏔" << false;
+        QTest::addRow("C1 control") << QString(QChar(0x81)) << false;
+    }
+    void knowsWindowsLatin1()
+    {
+        QFETCH(QString, text);
+        QTEST(IptcEncoding::fitsWindowsLatin1(text), "fits");
+        QCOMPARE(IptcEncoding::needsUtf8({ "-XMP-dc:Title=" + text, "-IPTC:City=" + text }),
+            !IptcEncoding::fitsWindowsLatin1(text));
+        QVERIFY(!IptcEncoding::needsUtf8({ "-XMP-dc:Title=" + text }));
+    }
+
+    void reencodesInARunOfItsOwn()
+    {
+        FakeTool tool;
+        const QList<QUrl> files{ QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")) };
+        const EditPlan plan{ .scalars = { { "category", QStringLiteral("東京") } } };
+        MetadataService{ tool.runner() }.write(plan, files, { .backupOriginals = false });
+        QCOMPARE(tool.calls(),
+            (QList<QStringList>{ { "-overwrite_original", "-m", "-tagsfromfile", "@", "-iptc:all", "--iptc:TimeSent",
+                                     "--iptc:ReleaseTime", "--iptc:ExpirationTime", "--iptc:TimeCreated",
+                                     "--iptc:DigitalCreationTime", "-IPTC:CodedCharacterSet=UTF8", "/p/a.jpg" },
+                { "-overwrite_original", "-m", QStringLiteral("-IPTC:Category=東京"), "/p/a.jpg" } }));
+
+        FakeTool failing;
+        failing.answerAlways({ .standardError = "no", .exitCode = 1 });
+        QVERIFY(!problem([&] { MetadataService{ failing.runner() }.write(plan, files, {}); }).isEmpty());
+        QCOMPARE(failing.calls().size(), 1);  // the write itself was not begun
+    }
+
+    void keepsEveryScript_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addRow("Latin") << "Zürich Łódź Ærø";
+        QTest::addRow("Cyrillic, Greek") << "Москва Αθήνα";
+        QTest::addRow("Hebrew, Arabic") << "ירושלים القاهرة";
+        QTest::addRow("Devanagari, combining marks") << QStringLiteral("वाराणसी Zu\u0308rich ạ̈");
+        QTest::addRow("Chinese, Japanese, Korean") << "北京 東京タワー 서울";
+        QTest::addRow("emoji") << "🏔️👩‍👩‍👧 sky";
+    }
+    void keepsEveryScript()
+    {
+        QFETCH(QString, text);
+        PhotoFolder folder;
+        const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+        // What is there already, undeclared and thus Latin 1, must survive the change of encoding.
+        exiftool({ "-q", "-overwrite_original", "-IPTC:Contact=Jürg", "-IPTC:Keywords=Süd", photo.toLocalFile() });
+
+        EditPlan plan{ .lists = { { "keywords", { text, "Süd" } }, { "people", { text } } },
+            .listMode = MetadataWriter::ListMode::append };
+        for (const auto& field : FieldSchema::all())
+            if (field.kind == FieldKind::text || field.kind == FieldKind::multiline)
+                plan.scalars.insert(field.id, text);
+        plan.scalars.remove(QStringLiteral("urgency"));  // a digit by its standard
+        const auto service = realService();
+        service.write(plan, { photo }, {});
+
+        const auto record = service.read({ photo }).constFirst();
+        QCOMPARE(SaveVerification::differences(plan, record), QStringList());
+        QCOMPARE(record.lists.value(QStringLiteral("keywords")), QStringList({ text, "Süd" }));
+        QCOMPARE(exiftoolValue(photo, QStringLiteral("-IPTC:Contact")), QStringLiteral("Jürg"));
+        const auto exiv2 = exiv2Values(photo);
+        QStringList tags;
+        for (const auto& field : FieldSchema::all())
+            if (plan.scalars.contains(field.id))
+                for (const auto& tag : field.writeTags)
+                    tags.append(u'-' + tag);
+        const auto stored = exiftool(QStringList{ "-s3" } + tags + QStringList(photo.toLocalFile()));
+        QCOMPARE(QString::fromUtf8(stored).trimmed().split(u'\n'), QStringList(tags.size(), text));
+        for (const auto* key : { "Iptc.Application2.City", "Iptc.Application2.Caption", "Iptc.Application2.ObjectName",
+                 "Xmp.photoshop.City", "Xmp.photoshop.Headline", "Exif.Image.Artist" })
+            QCOMPARE(exiv2.value(QString::fromLatin1(key)), QStringList(text));
+    }
+
+    void keepsTimesWithoutZone()
+    {
+        PhotoFolder folder;
+        const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+        exiftool({ "-q", "-overwrite_original", "-IPTC:TimeCreated=07:13:48+00:00", photo.toLocalFile() });
+        // The tool itself writes no time without a zone: the zone's five bytes become an empty urgency.
+        const QByteArray zoned("\x1c\x02\x3c\x00\x0b\x30\x37\x31\x33\x34\x38+0000", 16);
+        const QByteArray zoneless("\x1c\x02\x3c\x00\x06\x30\x37\x31\x33\x34\x38\x1c\x02\x0a\x00\x00", 16);
+        writeFile(photo.toLocalFile(), readFile(photo.toLocalFile()).replace(zoned, zoneless));
+        QCOMPARE(exiftoolValue(photo, QStringLiteral("-IPTC:TimeCreated")), QStringLiteral("07:13:48"));
+        realService().write(titlePlan(QStringLiteral("東京")), { photo }, {});
+        QCOMPARE(exiftoolValue(photo, QStringLiteral("-IPTC:TimeCreated")), QStringLiteral("07:13:48"));
+        QCOMPARE(exiftoolValue(photo, QStringLiteral("-IPTC:ObjectName")), QStringLiteral("東京"));
+    }
+
+    void verifiesInTheNormalFormOfTheKind_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<QString>("found");
+        QTest::addColumn<bool>("same");
+        QTest::addRow("text") << "title"
+                              << "a"
+                              << "a" << true;
+        QTest::addRow("text lost") << "title"
+                                   << "東京"
+                                   << "??" << false;
+        QTest::addRow("text that looks like a number") << "title"
+                                                       << "1.10"
+                                                       << "1.1" << true;
+        QTest::addRow("text that looks like a boolean") << "title"
+                                                        << "TRUE"
+                                                        << "true" << true;
+        QTest::addRow("case of a text") << "title"
+                                        << "A"
+                                        << "a" << false;
+        QTest::addRow("date") << "date"
+                              << "2024-5-6"
+                              << "2024-05-06 00:00" << true;
+        QTest::addRow("date refused") << "date"
+                                      << "last summer"
+                                      << "" << false;
+        QTest::addRow("stars") << "rating"
+                               << "7"
+                               << "5" << true;
+        QTest::addRow("rating refused") << "rating"
+                                        << "five"
+                                        << "" << false;
+        QTest::addRow("position") << "coords"
+                                  << "48.8584 N, 2.2945 W"
+                                  << "48.858400, -2.294500" << true;
+        QTest::addRow("position that does not parse") << "coords"
+                                                      << "abc"
+                                                      << "48.858400, 2.294500" << false;
+        QTest::addRow("deleted") << "title"
+                                 << ""
+                                 << "" << true;
+        QTest::addRow("not deleted") << "title"
+                                     << ""
+                                     << "old" << false;
+    }
+    void verifiesInTheNormalFormOfTheKind()
+    {
+        QFETCH(QString, id);
+        QFETCH(QString, written);
+        QFETCH(QString, found);
+        ImageRecord record;
+        if (!found.isEmpty())
+            record.values.insert(id, found);
+        const auto keys = SaveVerification::differences({ .scalars = { { id, written } } }, record);
+        QTEST(keys.isEmpty(), "same");
+    }
+
+    void verifiesListsAndCustoms()
+    {
+        using Mode = MetadataWriter::ListMode;
+        const ImageRecord record{ .lists = { { "keywords", { "a", "b", "5" } } }, .custom = { { "Mood", "calm" } } };
+        const auto keys = [&record](const QStringList& items, Mode mode, const QString& mood) {
+            return SaveVerification::differences(
+                { .lists = { { "keywords", items } }, .customs = { { "mood", mood } }, .listMode = mode }, record);
+        };
+        QCOMPARE(keys({ " a", "b", "", "5" }, Mode::replace, "calm"), QStringList());
+        QCOMPARE(keys({ "b", "a", "5" }, Mode::replace, "calm"), QStringList("keywords"));
+        QCOMPARE(keys({ "a" }, Mode::replace, "calm"), QStringList("keywords"));
+        QCOMPARE(keys({ "5", "a" }, Mode::append, "wild"), QStringList("custom:mood"));
+        QCOMPARE(keys({ "c" }, Mode::append, "calm"), QStringList("keywords"));
+        QCOMPARE(SaveVerification::labels({ "jobId", "coords", "custom:mood" }),
+            QStringList({ "Job ID", "Coordinates", "mood" }));
+    }
+
+    void writesThroughLinksAndKeepsAttributes()
+    {
+        PhotoFolder folder;
+        PhotoFolder elsewhere;
+        const QUrl photo = elsewhere.add(QStringLiteral("real.jpg"));
+        const QByteArray path = QFile::encodeName(photo.toLocalFile());
+        QVERIFY(QFile::link(photo.toLocalFile(), folder.path(QStringLiteral("link.jpg"))));
+        if (setxattr(path.constData(), "user.rated", "yes", 3, 0) != 0)
+            QSKIP("the temporary folder's file system has no extended attributes");
+        QCOMPARE(chmod(path.constData(), 0640), 0);
+
+        for (const bool backup : { true, false }) {
+            realService().write(titlePlan(QStringLiteral("東京")), { folder.url(QStringLiteral("link.jpg")) },
+                { .backupOriginals = backup });
+            QVERIFY(QFileInfo(folder.path(QStringLiteral("link.jpg"))).isSymLink());
+            QCOMPARE(exiftoolValue(photo, QStringLiteral("-IPTC:ObjectName")), QStringLiteral("東京"));
+            struct stat status { };
+            QCOMPARE(stat(path.constData(), &status), 0);
+            QCOMPARE(status.st_mode & 07777, mode_t(0640));
+            char value[4] = {};
+            QCOMPARE(getxattr(path.constData(), "user.rated", value, 3), ssize_t(3));
+        }
+    }
+
+    void refusesReadOnlyFiles()
+    {
+        PhotoFolder folder;
+        QList<QUrl> urls;
+        for (const auto* name : { "a.jpg", "b.jpg", "c.jpg" })
+            urls.append(folder.add(QString::fromLatin1(name)));
+        QVERIFY(QFile::setPermissions(urls[1].toLocalFile(), QFile::ReadOwner | QFile::ReadGroup));
+        const QByteArray before = readFile(urls[0].toLocalFile());
+        const auto service = realService();
+        QCOMPARE(
+            problem([&] { service.write(titlePlan("x"), { urls[1] }, {}); }), QStringLiteral("b.jpg is read-only."));
+        QCOMPARE(problem([&] { service.write(titlePlan("x"), urls, {}); }),
+            QStringLiteral("1 of 3 photos is read-only: b.jpg; nothing was written."));
+        QCOMPARE(readFile(urls[0].toLocalFile()), before);
+    }
+
+    void dealsWithLeftovers()
+    {
+        PhotoFolder folder;
+        const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+        const QString leftover = folder.path(QStringLiteral("a.jpg_exiftool_tmp"));
+        writeFile(leftover, "half");
+        const auto service = realService();
+        QVERIFY(problem([&] {
+            service.write(titlePlan("x"), { photo }, {});
+        }).contains(QStringLiteral("a.jpg_exiftool_tmp")));
+        QVERIFY(QFile::exists(leftover));
+        makeOld(leftover, qint64(25) * 60 * 60);
+        service.write(titlePlan("x"), { photo }, {});
+        QCOMPARE(exiftoolValue(photo, QStringLiteral("-XMP-dc:Title")), QStringLiteral("x"));
+        QCOMPARE(folder.names(), QStringList("a.jpg"));
+    }
+
+    void cutBetweenItsSteps_data()
+    {
+        QTest::addColumn<bool>("backup");
+        QTest::addRow("with a backup") << true;
+        QTest::addRow("without") << false;
+    }
+    void cutBetweenItsSteps()
+    {
+        QFETCH(bool, backup);
+        bool isCut = true;
+        for (int step = 0; isCut; ++step) {
+            PhotoFolder folder;
+            const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+            const QString path = photo.toLocalFile();
+            isCut = !problem([&] {
+                CutTool(step).service().write(titlePlan("x"), { photo }, { .backupOriginals = backup });
+            }).isEmpty();
+            QVERIFY2(QFile::exists(path), "no photo is left under its name");
+            if (isCut)
+                QCOMPARE(readFile(path), jpegBytes());
+            else
+                QCOMPARE(exiftoolValue(photo, QStringLiteral("-XMP-dc:Title")), QStringLiteral("x"));
+            const QString original = path + QStringLiteral("_original");
+            QCOMPARE(QFile::exists(original), backup && !isCut);
+            QVERIFY(!QFile::exists(original) || readFile(original) == jpegBytes());
+            QVERIFY(isCut || step > 0);  // the tool was cut at least once
+        }
+    }
+
+    void namesTheFilesThatFailed_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addRow("in one run") << "x";
+        QTest::addRow("in two runs, for their encoding") << "東京";
+    }
+    void namesTheFilesThatFailed()
+    {
+        QFETCH(QString, title);
+        PhotoFolder folder;
+        const QUrl good = folder.add(QStringLiteral("a.jpg"));
+        const QUrl bad = folder.add(QStringLiteral("b - c.jpg"), "text, no photo");
+        try {
+            realService().write(titlePlan(title), { good, bad }, {});
+            QFAIL("a file that is no photo was written to");
+        } catch (const ToolError& error) {
+            const auto failures = writeFailures(error, { good, bad });
+            QCOMPARE(failures.size(), 1);
+            QCOMPARE(failures[0].file, bad);
+            QVERIFY2(failures[0].reason.startsWith(QStringLiteral("Not a valid JPG")), qPrintable(failures[0].reason));
+        }
+        QCOMPARE(exiftoolValue(good, QStringLiteral("-IPTC:ObjectName")), title);
+        // One byte that is no text, in a warning about another file, does not hide the names.
+        FakeTool tool;
+        tool.answerAlways({ .standardError = "Warning: Odd \xff - /p/x.jpg\nError: Odd - /p/y.jpg\n", .exitCode = 1 });
+        const QList<QUrl> named{ QUrl::fromLocalFile(QStringLiteral("/p/y.jpg")) };
+        try {
+            MetadataService{ tool.runner() }.write(titlePlan("x"), named, {});
+            QFAIL("a failed run passed for a good one");
+        } catch (const ToolError& error) {
+            QCOMPARE(writeFailures(error, named),
+                (QList<FileFailure>{ { .file = named[0], .reason = QStringLiteral("Odd") } }));
+        }
+        const ToolError silent(ToolError::ExecFailed{ 9, {} });
+        QCOMPARE(writeFailures(silent, { good, bad }).size(), 2);
+    }
+
+    /// XMP knows no reference beside the number of a position: what is written there needs its sign.
+    void positionKeepsItsHemisphereInXmp_data()
+    {
+        QTest::addColumn<QList<double>>("position");
+        QTest::addRow("south, west") << QList{ -33.5, -70.25 };
+        QTest::addRow("south, east") << QList{ -33.5, 151.25 };
+        QTest::addRow("north, west") << QList{ 33.5, -70.25 };
+        QTest::addRow("north, east") << QList{ 33.5, 70.25 };
+    }
+    void positionKeepsItsHemisphereInXmp()
+    {
+        QFETCH(QList<double>, position);
+        PhotoFolder folder;
+        const QUrl inBoth = folder.add(QStringLiteral("a.jpg")), plain = folder.add(QStringLiteral("b.jpg"));
+        const QUrl broken = folder.add(QStringLiteral("c.jpg"), "text, no photo");
+        const QUrl inXmpOnly = folder.add(QStringLiteral("d.gif"),
+            QByteArray("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\1\0\1\0\0\2\2D\1\0;", 35));
+        exiftool({ "-q", "-overwrite_original", "-XMP-exif:GPSLatitude=1", "-XMP-exif:GPSLongitude=2",
+            "-XMP-drone-dji:GPSLatitude=1", "-XMP-drone-dji:GPSLongitude=2", inBoth.toLocalFile() });
+        const EditPlan plan{ .scalars = { { "coords", QStringLiteral("%1, %2").arg(position[0]).arg(position[1]) } } };
+        QVERIFY(!problem([&] { realService().write(plan, { inBoth, plain, broken, inXmpOnly }, {}); }).isEmpty());
+        const auto held = [](const QString& group, const QUrl& photo) {
+            QList<double> numbers;
+            const QByteArray answer = exiftool({ "-n", "-s3", QStringLiteral("-%1:GPSLatitude").arg(group),
+                QStringLiteral("-%1:GPSLongitude").arg(group), photo.toLocalFile() });
+            for (const QByteArray& line : answer.trimmed().split('\n'))
+                numbers.append(line.toDouble());
+            return numbers;
+        };
+        for (const char* group : { "Composite", "XMP-exif", "XMP-drone-dji" })
+            QCOMPARE(held(QString::fromLatin1(group), inBoth), position);
+        QCOMPARE(held(QStringLiteral("Composite"), plain), position);
+        QCOMPARE(exiftool({ "-s3", "-XMP:all", "--XMPToolkit", plain.toLocalFile() }), QByteArray());
+        QCOMPARE(held(QStringLiteral("XMP-exif"), inXmpOnly), position);
+    }
+
+    void takesASaveBack()
+    {
+        PhotoFolder folder;
+        const QUrl a = folder.add(QStringLiteral("a & 'b' <c>.jpg"));
+        const QUrl b = folder.add(QStringLiteral("b.png"));
+        const QUrl c = folder.add(QStringLiteral("c.jpg"));
+        exiftool({ "-q", "-overwrite_original", "-XMP-dc:Title=1.10", "-XMP-dc:Title-de=Zwei\nZeilen & <mehr>",
+            "-IPTC:ObjectName=1.10", "-IPTC:Keywords=Süd", "-IPTC:Keywords=b", "-XMP-dc:Subject=Süd",
+            "-GPSLatitude=33.5", "-GPSLatitudeRef=S", "-GPSLongitude=70.25", "-GPSLongitudeRef=W", "-IPTC:Urgency=5",
+            "-EXIF:DateTimeOriginal=2020:01:02 03:04:05", a.toLocalFile() });
+        const auto tags = [](const QUrl& url) {
+            auto lines =
+                exiftool({ "-G1", "-a", "-s", "-n", "-XMP:all", "-IPTC:all", "-EXIF:all", "--XMPToolkit",
+                             "--CodedCharacterSet", "--EnvelopeRecordVersion", "--GPSVersionID", url.toLocalFile() })
+                    .split('\n');
+            std::sort(lines.begin(), lines.end());  // the order inside a file may change
+            return lines;
+        };
+        const auto beforeA = tags(a);
+        const auto beforeB = tags(b);
+
+        const auto service = realService();
+        const EditPlan plan{ .scalars = { { "title", QStringLiteral("東京") }, { "coords", "1, 2" }, { "urgency", "" },
+                                 { "date", "2024-05-06" } },
+            .lists = { { "keywords", { QStringLiteral("新") } } },
+            .customs = { { "mood", "calm" } } };
+        const QList<QUrl> all{ a, b, c };
+        JournalEntry entry = service.journalEntry(plan, all);
+        QCOMPARE(entry.files.size(), 3);
+        service.write(plan, all, {});
+        for (auto& file : entry.files)
+            file.after = *FileStamp::of(file.path);
+        QVERIFY(tags(a) != beforeA);
+
+        PhotoFolder state;
+        const QString journal = state.path(QStringLiteral("new/journal.json"));
+        QVERIFY(SaveJournal::store(journal, { entry }));
+        const auto loaded = SaveJournal::load(journal);
+        QCOMPARE(loaded, QList<JournalEntry>{ entry });
+
+        writeFile(c.toLocalFile(), jpegBytes(9, 9));  // somebody else was there
+        const auto outcome = service.undo(loaded.constFirst());
+        QCOMPARE(outcome.restored.size(), 2);
+        QCOMPARE(outcome.changedSince, QList<QUrl>{ c });
+        QVERIFY(outcome.failed.isEmpty());
+        QCOMPARE(tags(a), beforeA);
+        QCOMPARE(tags(b), beforeB);
+        QCOMPARE(readFile(c.toLocalFile()), jpegBytes(9, 9));
+    }
+
+    /// Values and names as other programs leave them: every byte comes back, and of every group and language.
+    void takesASaveOfOddTextsBack()
+    {
+        const QStringList texts{ "-XMP-dc:Title=C:\\\\new \\\\x41", "-IPTC:Caption-Abstract=one\\rtwo\\r\\nthree ",
+            "-XMP-dc:Subject=a\\rb", "-XMP-dc:Subject^=", "-IPTC:Keywords=one\\x01two", "-IPTC:Keywords=1.10",
+            "-EXIF:Artist=J\\xfcrg", "-EXIF:Copyright=photographer\\x00editor",
+            "-EXIF:Software^=", "-XMP-iptcExt:Event=Party", "-XMP-iptcExt:Event-de=Feier", "-XMP-xmp:Rating=2",
+            "-XMP-acdsee:Rating=5", "-XMP-drone-dji:GPSLatitude=10.5", "-XMP-exif:GPSLongitude=-20.5" };
+        PhotoFolder folder;
+        QList<QUrl> photos;
+        for (const char* name : { "a b.jpg", "a\tb.jpg", "c\001\r\nd.jpg" })
+            photos.append(folder.add(QString::fromLatin1(name)));
+        QStringList paths;
+        for (const auto& photo : photos)
+            paths.append(photo.toLocalFile());
+        exiftool(
+            QStringList{ "-q", "-ec", "-overwrite_original", "-XMP-photoshop:Headline<$FileName" } + texts + paths);
+        const QStringList dump{ "-php", "-b", "-n", "-a", "-G1", "-XMP:all", "-IPTC:all", "-EXIF:all", "--XMPToolkit",
+            "--CodedCharacterSet", "--EnvelopeRecordVersion", "--GPSVersionID" };
+        const auto tags = [&] {
+            auto lines = exiftool(dump + paths).replace("),", ")").replace(",\n", "\n").split('\n');
+            std::sort(lines.begin(), lines.end());
+            return lines;
+        };
+        const auto before = tags();
+
+        const auto service = realService();
+        EditPlan plan{ .lists = { { "keywords", { QStringLiteral("新") } } } };
+        for (const char* id : { "title", "description", "creator", "copyright", "software", "event", "headline" })
+            plan.scalars.insert(QString::fromLatin1(id), QStringLiteral("新"));
+        plan.scalars.insert({ { "rating", "3" }, { "coords", "-33.5, 70.25" } });
+        // One that is gone by now keeps nobody from the journal.
+        JournalEntry entry = service.journalEntry(plan, photos + QList<QUrl>{ folder.url(QStringLiteral("gone.jpg")) });
+        QCOMPARE(entry.files.size(), photos.size());
+        service.write(plan, photos, {});
+        for (auto& file : entry.files)
+            file.after = *FileStamp::of(file.path);
+        QVERIFY(tags() != before);
+        PhotoFolder state;
+        QVERIFY(SaveJournal::store(state.path(QStringLiteral("journal.json")), { entry }));
+        const auto loaded = SaveJournal::load(state.path(QStringLiteral("journal.json")));
+        QCOMPARE(loaded, QList<JournalEntry>{ entry });
+        const auto outcome = service.undo(loaded.constFirst());
+        QCOMPARE(outcome.restored.size(), photos.size());
+        QVERIFY(outcome.inexact.isEmpty());
+        QCOMPARE(tags(), before);
+    }
+
+    /// What the tool says of an undo is not all that is known of it: the files are.
+    void looksAtWhatItTookBack_data()
+    {
+        QTest::addColumn<QByteArray>("error");
+        QTest::addColumn<QByteArray>("title");  // of b.jpg afterwards
+        QTest::addColumn<qsizetype>("restored");
+        QTest::addColumn<qsizetype>("inexact");
+        QTest::addRow("all is well") << QByteArray() << QByteArray("\"old\"") << qsizetype(2) << qsizetype(0);
+        QTest::addRow("refused by the tool") << QByteArray() << QByteArray("\"new\"") << qsizetype(2) << qsizetype(1);
+        QTest::addRow("one failed and is named")
+            << QByteArray("Error: Odd - ") << QByteArray("\"old\"") << qsizetype(1) << qsizetype(0);
+        QTest::addRow("one failed and is named, the other was left out")
+            << QByteArray("Error: Odd - ") << QByteArray("\"new\"") << qsizetype(0) << qsizetype(0);
+        QTest::addRow("an answer that breaks off")
+            << QByteArray() << QByteArray("\"ne") << qsizetype(2) << qsizetype(0);
+    }
+    void looksAtWhatItTookBack()
+    {
+        QFETCH(QByteArray, error);
+        QFETCH(QByteArray, title);
+        PhotoFolder folder;
+        const QUrl a = folder.add(QStringLiteral("a.jpg"));
+        const QUrl b = folder.add(QStringLiteral("b.jpg"));
+        JournalEntry entry{ .writtenTags = { "XMP-dc:Title" } };
+        for (const auto& url : { a, b })
+            entry.files.append({ .path = url.toLocalFile(),
+                .after = *FileStamp::of(url.toLocalFile()),
+                .tags = { { "XMP-dc:Title", { "old" } } } });
+        const auto object = [](const QUrl& url, const QByteArray& value) {
+            return "Array(\n  \"SourceFile\" => \"" + url.toLocalFile().toUtf8() + "\",\n  \"XMP-dc:Title\" => " + value
+                + "\n)";
+        };
+        FakeTool tool;
+        if (!error.isEmpty())
+            tool.answer(1, { .standardError = error + a.toLocalFile().toUtf8() + '\n', .exitCode = 1 });
+        tool.answer(2, { .standardOutput = "Array(" + object(a, "\"old\"") + ",\n" + object(b, title) + ");\n" });
+        const auto outcome = MetadataService{ tool.runner() }.undo(entry);
+        QTEST(outcome.restored.size(), "restored");
+        QTEST(outcome.inexact.size(), "inexact");
+        QCOMPARE(outcome.restored.size() + outcome.failed.size(), 2);
+    }
+
+    void journalKeepsTheNewestAndFollows()
+    {
+        PhotoFolder folder;
+        const QString path = folder.path(QStringLiteral("journal.json"));
+        const QString photo = folder.add(QStringLiteral("a.jpg")).toLocalFile();
+        QList<JournalEntry> entries;
+        for (int i = 0; i < SaveJournal::limit + 5; ++i)
+            entries.append({ .savedAt = QDateTime::fromMSecsSinceEpoch(i, Qt::UTC),
+                .writtenTags = { QString::number(i) },
+                .files = { { .path = photo, .before = { i, i }, .after = { i + 1, i + 1 } } } });
+        QVERIFY(SaveJournal::store(path, entries));
+        entries = SaveJournal::load(path);
+        QCOMPARE(entries.size(), SaveJournal::limit);
+        QCOMPARE(entries.constLast().writtenTags, QStringList(QString::number(SaveJournal::limit + 4)));
+
+        SaveJournal::removeUndone(entries, { photo });  // the file now stands as the save before left it
+        QCOMPARE(entries.constLast().files[0].after, FileStamp::of(photo).value());
+        SaveJournal::rename(entries, photo, QStringLiteral("/elsewhere.jpg"));
+        QCOMPARE(entries.constFirst().files[0].path, QStringLiteral("/elsewhere.jpg"));
+
+        writeFile(path, "{ half a journal");
+        QVERIFY(SaveJournal::load(path).isEmpty());
+    }
+
+    void clearsOnlyItsAbandonedTemporaryFiles()
+    {
+        const PhotoFolder folder;
+        const QString ours = TemporaryFiles::newConfigName();
+        const QString young = TemporaryFiles::newConfigName();
+        const QStringList abandoned{ ours, ours + QStringLiteral(".aB3xYz") };
+        const QStringList halfWritten{ QStringLiteral("undo.json.aB3xYz") };
+        const QStringList kept{ QStringLiteral("quorbel-notes.conf"), ours + QStringLiteral(".kept"), young,
+            QStringLiteral("undo.json"), QStringLiteral("undo.json.backup2"), QStringLiteral("my-undo.json.aB3xYz") };
+        for (const auto& name : abandoned + halfWritten + kept) {
+            writeFile(folder.path(name), "x");
+            QFile file(folder.path(name));
+            QVERIFY(file.open(QIODevice::ReadWrite));
+            const int age = name == young ? 3500 : 3700;  // seconds
+            QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-age), QFileDevice::FileModificationTime));
+        }
+        QCOMPARE(TemporaryFiles::clearAbandoned(folder.path()), 2);
+        QCOMPARE(TemporaryFiles::clearHalfWritten(folder.path(QStringLiteral("undo.json"))), 1);
+        QStringList left = kept;
+        left.sort();
+        QCOMPARE(folder.names(), left);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_SaveSafety)
+#include "tst_SaveSafety.moc"

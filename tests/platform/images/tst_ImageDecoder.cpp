@@ -1,0 +1,502 @@
+// Every format that is promised, right way up and in the right colours; and what must never be decoded.
+#include "platform/images/ImageDecoder.h"
+#include "platform/images/gate/HeifHeader.h"
+#include "tests/platform/images/ImageFiles.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QDirIterator>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Quorbel;
+using namespace Qt::StringLiterals;
+using Outcome = DecodedImage::Outcome;
+
+namespace {
+
+struct Named {
+    QByteArray name{};
+    QByteArray bytes{};
+};
+
+/// One file of every format, 320 × 200 pixels in four quarters.
+const QList<Named>& everyFile()
+{
+    const QImage image = ImageFiles::quarters({ 320, 200 });
+    static const QList<Named> files{
+        { "jpg", ImageFiles::written(image, "jpg") },
+        { "progressive.jpg", ImageFiles::written(image, "jpg", 95, true) },
+        { "png", ImageFiles::written(image, "png") },
+        { "deep.png", ImageFiles::written(image.convertToFormat(QImage::Format_RGBX64), "png") },
+        { "palette.png", ImageFiles::written(image.convertToFormat(QImage::Format_Indexed8), "png") },
+        { "gif", ImageFiles::gif(image) },
+        { "webp", ImageFiles::written(image, "webp") },
+        { "tiff", ImageFiles::written(image, "tiff") },
+        { "deep.tif", ImageFiles::written(image.convertToFormat(QImage::Format_RGBX64), "tiff") },
+        { "cmyk.tif", ImageFiles::cmykTiff({ 320, 200 }, ImageFiles::inksOf(image), {}, true) },
+        { "cmyk.jpg", ImageFiles::cmykJpeg({ 320, 200 }, ImageFiles::inksOf(image)) },
+        { "heic", ImageFiles::heif(image, false) },
+        { "thumbnail.hif", ImageFiles::heif(image, false, { .thumbnail = 160 }) },
+        { "avif", ImageFiles::heif(image, true) },
+        { "dng", ImageFiles::dng(image, ImageFiles::written(image, "jpg")) },
+        { "jxl", ImageFiles::jxl(image) },
+        { "jp2", ImageFiles::jpeg2000(image, true) },
+        { "j2k", ImageFiles::jpeg2000(image, false) },
+        { "psd", ImageFiles::psd(image, 3, true) },
+        { "raw.psd", ImageFiles::psd(image, 3, false) },
+        { "deep.psd", ImageFiles::psd(image, 3, false, false, 16) },
+        { "cmyk.psd", ImageFiles::psd(image, 4, true) },
+        { "psb", ImageFiles::psd(image, 3, true, true) },
+    };
+    return files;
+}
+
+bool isNear(QRgb one, QRgb other, int tolerance)
+{
+    return qAbs(qRed(one) - qRed(other)) <= tolerance && qAbs(qGreen(one) - qGreen(other)) <= tolerance
+        && qAbs(qBlue(one) - qBlue(other)) <= tolerance;
+}
+
+/// The first quarter whose middle has another colour than it should; empty when all are right.
+QString wrongQuarter(const QImage& image, const QImage& expected, int tolerance)
+{
+    for (const double x : { 0.25, 0.75 }) {
+        for (const double y : { 0.25, 0.75 }) {
+            const QRgb got = image.pixel(int(x * image.width()), int(y * image.height()));
+            const QRgb want = expected.pixel(int(x * expected.width()), int(y * expected.height()));
+            if (!isNear(got, want, tolerance))
+                return u"at %1, %2: #%3, not #%4"_s.arg(x).arg(y).arg(got, 0, 16).arg(want, 0, 16);
+        }
+    }
+    return {};
+}
+
+/// The megabytes that decoding this file, and its own thumbnail, adds at its highest, measured in a process of its own,
+/// and its outcome.
+std::pair<Outcome, int> decodeApart(const QString& path)
+{
+    const auto peak = [](const char* field) {
+        QFile status(u"/proc/self/status"_s);
+        if (!status.open(QIODevice::ReadOnly))
+            return 0;
+        const QByteArray text = status.readAll();
+        return text.mid(text.indexOf(field) + qsizetype(qstrlen(field))).trimmed().split(' ').first().toInt();
+    };
+    int ends[2];
+    if (pipe(ends) != 0)
+        return { Outcome::decoded, INT_MAX };
+    const pid_t child = fork();
+    if (child == 0) {
+        QFile reset(u"/proc/self/clear_refs"_s);
+        if (reset.open(QIODevice::WriteOnly))
+            reset.write("5");  // forgets the parent's peak
+        reset.close();
+        const int before = peak("VmRSS:");
+        ImageDecoder::embeddedThumbnail(path);
+        const int outcome = int(ImageDecoder::decode(path, 256).outcome);
+        const int report[2]{ outcome, (peak("VmHWM:") - before) / 1024 };
+        const auto sent = write(ends[1], report, sizeof report);
+        _exit(sent == sizeof report ? 0 : 1);
+    }
+    close(ends[1]);
+    int report[2]{ 0, INT_MAX };
+    const auto got = read(ends[0], report, sizeof report);
+    close(ends[0]);
+    int status = 0;
+    waitpid(child, &status, 0);
+    return got == sizeof report ? std::pair(Outcome(report[0]), report[1]) : std::pair(Outcome::decoded, INT_MAX);
+}
+
+}  // namespace
+
+class ImageDecoderTest final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(m_folder.isValid()); }
+
+    void everyFormat_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("bytes");
+        for (const auto& [name, bytes] : everyFile())
+            QTest::newRow(name.constData()) << name << bytes;
+    }
+    void everyFormat()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QByteArray, bytes);
+        const QImage expected = ImageFiles::quarters({ 320, 200 });
+        for (const int side : { 80, 160, 1400 }) {
+            const DecodedImage got = ImageDecoder::decode(stored(bytes, name), side);
+            QCOMPARE(got.outcome, Outcome::decoded);
+            const int width = qMin(side, 320);
+            QCOMPARE(got.image.size(), QSize(width, width * 5 / 8));
+            QVERIFY(got.image.format() == QImage::Format_RGB32
+                || got.image.format() == QImage::Format_ARGB32_Premultiplied);
+            QCOMPARE(wrongQuarter(got.image, expected, 12), QString());
+        }
+        // The same bytes under an extension that lies.
+        for (const char* other : { "wrong.jpg", "wrong.heic", "wrong.gpr", "none" }) {
+            if (QByteArray(other) == "wrong.gpr" && bytes.startsWith("II"))
+                continue;  // TIFF content under a raw extension is raw
+            const DecodedImage got = ImageDecoder::decode(stored(bytes, other), 80);
+            QCOMPARE(wrongQuarter(got.image, expected, 12), QString());
+        }
+    }
+
+    /// Cut off anywhere, a file gives what there is or nothing: it ends, and what it gives has the right size.
+    void truncated_data() { everyFormat_data(); }
+    void truncated()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QByteArray, bytes);
+        QList<qsizetype> lengths;
+        for (qsizetype length = 1; length < qMin<qsizetype>(bytes.size(), 160); length += 7)
+            lengths.append(length);
+        for (int part = 1; part < 16; ++part)
+            lengths.append(bytes.size() * part / 16);
+        lengths.append(bytes.size() - 1);
+        for (const qsizetype length : std::as_const(lengths)) {
+            const DecodedImage got = ImageDecoder::decode(stored(bytes.first(length), name), 80);
+            QCOMPARE(got.image.isNull(), got.outcome != Outcome::decoded);
+            QVERIFY(got.image.isNull() || got.image.size() == QSize(80, 50));
+            QVERIFY2(length > 24 || got.image.isNull(), "a picture out of a bare signature");
+        }
+    }
+
+    void notAPicture_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<Outcome>("outcome");
+        const QByteArray tiff = ImageFiles::written(ImageFiles::quarters({ 32, 20 }), "tiff");
+        QTest::newRow("empty") << QByteArray("a.jpg") << QByteArray() << Outcome::damaged;
+        QTest::newRow("text") << QByteArray("a.jpg") << QByteArray("hello, I am no picture") << Outcome::unsupported;
+        QTest::newRow("raw that is none") << QByteArray("a.nef") << QByteArray("hello") << Outcome::needsTool;
+        QTest::newRow("TIFF under a raw extension") << QByteArray("a.dng") << tiff << Outcome::needsTool;
+        QTest::newRow("jpeg xr") << QByteArray("a.jxr") << QByteArray("II\xbc\x01" + QByteArray(60, '\0'))
+                                 << Outcome::unsupported;
+    }
+    void notAPicture()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QByteArray, bytes);
+        QTEST(ImageDecoder::decode(stored(bytes, name), 80).outcome, "outcome");
+    }
+
+    void notAFile()
+    {
+        const QString folder = m_folder.filePath(u"folder.jpg"_s), pipe = m_folder.filePath(u"pipe.jpg"_s);
+        QVERIFY(QDir().mkpath(folder));
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        for (const QString& path : { folder, pipe, m_folder.filePath(u"missing.jpg"_s) }) {
+            QCOMPARE(ImageDecoder::decode(path, 80).outcome, Outcome::damaged);
+            QVERIFY(ImageDecoder::embeddedThumbnail(path).isNull());
+        }
+    }
+
+    void bombHeaderIsRefused_data()
+    {
+        QTest::addColumn<QByteArray>("format");
+        QTest::addColumn<Outcome>("expected");
+        for (const char* format :
+            { "progressive jpg", "progressive jpg below the limit", "sequential jpg in several scans", "png", "gif",
+                "webp", "tiff", "psd", "j2k", "j2k of many tiles", "jxl", "heic", "avif", "avif sequence" })
+            QTest::newRow(format) << QByteArray(format) << Outcome::tooLarge;
+        QTest::newRow("dng") << QByteArray("dng") << Outcome::needsTool;
+        QTest::newRow("embedded thumbnail") << QByteArray("embedded thumbnail") << Outcome::decoded;
+    }
+    void bombHeaderIsRefused()
+    {
+        QFETCH(QByteArray, format);
+        const auto [outcome, megabytes] = decodeApart(stored(ImageFiles::bomb(format), "bomb"));
+        QTEST(outcome, "expected");
+        QVERIFY2(megabytes < 50, qPrintable(QString::number(megabytes)));
+    }
+
+    void codedFrameIsReadFromTheDecodersRecord()
+    {
+        QByteArray bytes = ImageFiles::heif(ImageFiles::quarters({ 1000, 600 }), false);
+        QBuffer buffer(&bytes);
+        QVERIFY(buffer.open(QIODevice::ReadOnly));
+        const QSize coded = largestCodedFrame(buffer);
+        // Coding units of up to 64 pixels are filled up.
+        QVERIFY(coded.width() >= 1000 && coded.width() < 1064 && coded.height() >= 600 && coded.height() < 664);
+    }
+
+    /// A thumbnail that is large enough is all that is read: what is wrong with the photo itself does not matter then.
+    void heifThumbnailStandsForThePhoto()
+    {
+        QByteArray bytes = ImageFiles::heif(ImageFiles::quarters({ 320, 200 }), false, { .thumbnail = 160 });
+        bytes.replace(bytes.indexOf("mdat") + 4, 4, "\xff\xff\xff\xff");  // the length of the photo's first unit
+        const QString path = stored(bytes, "a.heic");
+        for (const int side : { 80, 160 }) {
+            const QImage image = ImageDecoder::decode(path, side).image;
+            QCOMPARE(image.size(), QSize(side, side * 5 / 8));
+            QCOMPARE(wrongQuarter(image, ImageFiles::quarters({ 320, 200 }), 12), QString());
+        }
+        QCOMPARE(ImageDecoder::embeddedThumbnail(path).size(), QSize(160, 100));
+        QCOMPARE(ImageDecoder::decode(path, 1400).outcome, Outcome::damaged);
+    }
+
+    void uprightAndManaged_data()
+    {
+        QTest::addColumn<QByteArray>("format");
+        QTest::addColumn<int>("orientation");
+        for (const char* format : { "jpg", "png", "webp", "tiff" })
+            for (int orientation = 1; orientation <= 8; ++orientation)
+                QTest::addRow("%s %d", format, orientation) << QByteArray(format) << orientation;
+    }
+    void uprightAndManaged()
+    {
+        QFETCH(QByteArray, format);
+        QFETCH(int, orientation);
+        const QColorSpace wide(QColorSpace::AdobeRgb);
+        QImage image = ImageFiles::quarters({ 96, 64 });
+        image.setColorSpace(wide);
+        const QByteArray exif = ImageFiles::exifBlock(orientation);
+        QByteArray bytes = ImageFiles::written(image, format.constData());
+        if (format == "jpg")
+            bytes = ImageFiles::withExif(bytes, exif);
+        else if (format == "png")
+            bytes = ImageFiles::pngWithChunk(bytes, "eXIf", exif);
+        else if (format == "webp")
+            bytes = ImageFiles::webpWithExif(bytes, exif);
+        else
+            bytes = ImageFiles::tiffTurned(bytes, orientation);
+        const DecodedImage got = ImageDecoder::decode(stored(bytes, "a"), 48);
+
+        QImage expected = image.convertedToColorSpace(QColorSpace::SRgb);
+        // Row and column of the stored picture that are the top and the left of the upright one (EXIF 2.3, 4.6.4).
+        static constexpr std::array<std::array<int, 4>, 8> turned{ { { 1, 0, 0, 1 }, { -1, 0, 0, 1 }, { -1, 0, 0, -1 },
+            { 1, 0, 0, -1 }, { 0, 1, 1, 0 }, { 0, 1, -1, 0 }, { 0, -1, -1, 0 }, { 0, -1, 1, 0 } } };
+        const auto& m = turned[size_t(orientation - 1)];
+        expected = expected.transformed(QTransform(m[0], m[1], m[2], m[3], 0, 0));
+        QCOMPARE(got.image.size(), expected.size().scaled(48, 48, Qt::KeepAspectRatio));
+        QCOMPARE(wrongQuarter(got.image, expected, 6), QString());
+    }
+
+    void profileIsFollowed_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const QImage image = ImageFiles::quarters({ 96, 64 });
+        const QByteArray icc = QColorSpace(QColorSpace::AdobeRgb).iccProfile();
+        QTest::newRow("heic") << ImageFiles::heif(image, false, { .icc = icc });
+        QTest::newRow("avif") << ImageFiles::heif(image, true, { .icc = icc });
+        QTest::newRow("thumbnail") << ImageFiles::heif(image, false, { .thumbnail = 64, .icc = icc });
+        QTest::newRow("jxl") << ImageFiles::jxl(image, icc);
+        QTest::newRow("jp2") << ImageFiles::jpeg2000(image, true, icc);
+        QTest::newRow("psd") << ImageFiles::psd(image, 3, true, false, 8, icc);
+    }
+    void profileIsFollowed()
+    {
+        QFETCH(QByteArray, bytes);
+        QImage expected = ImageFiles::quarters({ 96, 64 });
+        expected.setColorSpace(QColorSpace::AdobeRgb);
+        expected.convertToColorSpace(QColorSpace::SRgb);
+        QCOMPARE(wrongQuarter(ImageDecoder::decode(stored(bytes, "a"), 48).image, expected, 14), QString());
+    }
+
+    void untaggedStaysAsItIs_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QImage gray(64, 48, QImage::Format_RGB32);
+        gray.fill(qRgb(20, 20, 20));
+        const QByteArray png = ImageFiles::written(gray, "png");
+        QTest::newRow("png") << png;
+        QTest::newRow("png with sRGB's gamma") << ImageFiles::pngWithChunk(png, "gAMA", QByteArray("\0\0\xb1\x8f", 4));
+        QTest::newRow("deep png") << ImageFiles::written(gray.convertToFormat(QImage::Format_Grayscale16), "png");
+        QTest::newRow("jpg") << ImageFiles::written(gray, "jpg", 100);
+        QTest::newRow("gray jpg") << ImageFiles::written(gray.convertToFormat(QImage::Format_Grayscale8), "jpg", 100);
+        QTest::newRow("palette png") << ImageFiles::written(gray.convertToFormat(QImage::Format_Indexed8), "png");
+        QTest::newRow("gif") << ImageFiles::gif(gray);
+        QTest::newRow("webp") << ImageFiles::written(gray, "webp", 100);
+        QTest::newRow("tiff") << ImageFiles::written(gray, "tiff");
+        QTest::newRow("psd") << ImageFiles::psd(gray, 3, true);
+        QTest::newRow("heic") << ImageFiles::heif(gray, false);
+        QTest::newRow("avif") << ImageFiles::heif(gray, true);
+        QTest::newRow("jxl") << ImageFiles::jxl(gray);
+        QTest::newRow("jp2") << ImageFiles::jpeg2000(gray, true);
+        QTest::newRow("j2k") << ImageFiles::jpeg2000(gray, false);
+        QTest::newRow("dng's preview") << ImageFiles::dng(gray, ImageFiles::written(gray, "jpg", 100));
+    }
+    void untaggedStaysAsItIs()
+    {
+        QFETCH(QByteArray, bytes);
+        const QImage image = ImageDecoder::decode(stored(bytes, "a"), 32).image;
+        QVERIFY(!image.isNull());
+        QVERIFY2(isNear(image.pixel(16, 12), qRgb(20, 20, 20), 1), qPrintable(image.pixelColor(16, 12).name()));
+    }
+
+    void fourInks_data()
+    {
+        QTest::addColumn<QByteArray>("inks");
+        QTest::addColumn<bool>("profile");
+        QTest::addColumn<QColor>("colour");
+        QTest::newRow("cyan by the formula") << QByteArray("\xff\0\0\0", 4) << false << QColor(0, 255, 255);
+        QTest::newRow("paper by the formula") << QByteArray("\0\0\0\0", 4) << false << QColor(255, 255, 255);
+        QTest::newRow("black by the formula") << QByteArray("\0\0\0\xff", 4) << false << QColor(0, 0, 0);
+        QTest::newRow("cyan by a profile") << QByteArray("\xff\0\0\0", 4) << true << QColor(119, 119, 119);
+    }
+    void fourInks()
+    {
+        QFETCH(QByteArray, inks);
+        QFETCH(bool, profile);
+        QFETCH(QColor, colour);
+        const QByteArray icc = profile ? ImageFiles::grayInkProfile() : QByteArray(), all = inks.repeated(64LL * 48);
+        for (const QByteArray& bytes :
+            { ImageFiles::cmykJpeg({ 64, 48 }, all, icc), ImageFiles::cmykTiff({ 64, 48 }, all, icc, false),
+                ImageFiles::cmykTiff({ 64, 48 }, all, icc, true) }) {
+            const QImage image = ImageDecoder::decode(stored(bytes, "a"), 32).image;
+            QCOMPARE(image.size(), QSize(32, 24));
+            QVERIFY2(isNear(image.pixel(16, 12), colour.rgb(), 4), qPrintable(image.pixelColor(16, 12).name()));
+        }
+    }
+
+    void transparencyIsKept()
+    {
+        QImage image(64, 48, QImage::Format_ARGB32);
+        image.fill(QColor(200, 0, 0, 128));
+        for (const QByteArray& bytes :
+            { ImageFiles::written(image, "png"), ImageFiles::written(image, "webp"), ImageFiles::jxl(image) }) {
+            const QImage got = ImageDecoder::decode(stored(bytes, "a"), 32).image;
+            QCOMPARE(got.format(), QImage::Format_ARGB32_Premultiplied);
+            const QColor middle = got.pixelColor(16, 12);
+            QVERIFY(qAbs(middle.alpha() - 128) <= 2 && qAbs(middle.red() - 200) <= 3 && middle.green() <= 3);
+        }
+    }
+
+    /// Cameras put a 3:2 photo between black bars into a 4:3 thumbnail, and editors leave old ones behind.
+    void embeddedThumbnailIsCutToThePhotosShape()
+    {
+        QImage thumbnail(160, 120, QImage::Format_RGB32);
+        thumbnail.fill(Qt::black);
+        QPainter(&thumbnail).fillRect(0, 7, 160, 106, QColor(250, 200, 0));
+        const QByteArray exif = ImageFiles::exifBlock(6, ImageFiles::written(thumbnail, "jpg"));
+        const QString path =
+            stored(ImageFiles::withExif(ImageFiles::written(ImageFiles::quarters({ 600, 400 }), "jpg"), exif), "a.jpg");
+        const QImage first = ImageDecoder::embeddedThumbnail(path);
+        QVERIFY(qAbs(first.width() - 106) <= 1 && first.height() == 160);
+        for (const QPoint corner : { QPoint(0, 0), QPoint(first.width() - 1, 159) })
+            QVERIFY2(isNear(first.pixel(corner), qRgb(250, 200, 0), 90), qPrintable(first.pixelColor(corner).name()));
+        const QImage photo = ImageDecoder::decode(path, 120).image;
+        QCOMPARE(wrongQuarter(photo, ImageFiles::quarters({ 600, 400 }).transformed(QTransform().rotate(90)), 12),
+            QString());
+    }
+
+    /// How luma and chroma are meant stands in the container or, when that is silent, in the stream.
+    void heifLumaAndChroma_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        for (const int matrix : { 1, 6, 9, 7 })  // BT.709, BT.601, BT.2020, and one that is left to the library
+            for (const bool full : { true, false }) {
+                const QImage image = ImageFiles::quarters({ 96, 64 });
+                QByteArray bytes = ImageFiles::heif(image, false, { .matrix = matrix, .fullRange = full });
+                QTest::addRow("matrix %d, %s", matrix, full ? "full" : "studio") << bytes;
+                bytes.replace("colrnclx", "freenclx");
+                QTest::addRow("matrix %d, %s, in the stream", matrix, full ? "full" : "studio") << bytes;
+            }
+    }
+    void heifLumaAndChroma()
+    {
+        QFETCH(QByteArray, bytes);
+        const QImage image = ImageDecoder::decode(stored(bytes, "a.heic"), 96).image;
+        QCOMPARE(wrongQuarter(image, ImageFiles::quarters({ 96, 64 }), 4), QString());
+    }
+
+    void heifContainerGoesBeforeTheStream()
+    {
+        QImage gray(96, 64, QImage::Format_RGB32);
+        gray.fill(qRgb(200, 200, 200));
+        QByteArray bytes = ImageFiles::heif(gray, false, { .matrix = 1, .fullRange = true });
+        const qsizetype range = bytes.indexOf("colrnclx") + 14;
+        QCOMPARE(uchar(bytes.at(range)), 0x80);
+        bytes[range] = 0;  // studio range now; the stream still says full
+        const QImage image = ImageDecoder::decode(stored(bytes, "a.heic"), 96).image;
+        const QRgb stretched = qRgb(214, 214, 214);  // (200 - 16) * 255 / 219
+        QVERIFY2(isNear(image.pixel(48, 32), stretched, 3), qPrintable(image.pixelColor(48, 32).name()));
+    }
+
+    /// A HEIC's thumbnail stands for the photo, so it must not be one with bars.
+    void heifThumbnailOfAnotherShapeIsNotThePhoto()
+    {
+        QImage barred(160, 120, QImage::Format_RGB32);
+        barred.fill(Qt::black);
+        const QByteArray bytes =
+            ImageFiles::heif(ImageFiles::quarters({ 320, 200 }), false, { .thumbnail = 160, .thumbnailOf = barred });
+        const QImage photo = ImageDecoder::decode(stored(bytes, "a.heic"), 80).image;
+        QCOMPARE(photo.size(), QSize(80, 50));
+        QCOMPARE(wrongQuarter(photo, ImageFiles::quarters({ 320, 200 }), 12), QString());
+    }
+
+    void rawWithoutAPreviewIsDeveloped()
+    {
+        const QImage image = ImageFiles::quarters({ 320, 200 });
+        const QImage developed = ImageDecoder::decode(stored(ImageFiles::dng(image, {}), "a.dng"), 80).image;
+        QCOMPARE(developed.size(), QSize(80, 50));
+        const QRgb red = developed.pixel(20, 12), green = developed.pixel(60, 12), blue = developed.pixel(20, 37);
+        QVERIFY(qRed(red) > 2 * qGreen(red) && qGreen(green) > 2 * qRed(green) && qBlue(blue) > 2 * qRed(blue));
+    }
+
+    void cancelledBeforeItBegins()
+    {
+        std::stop_source stop;
+        stop.request_stop();
+        for (const auto& [name, bytes] : everyFile()) {
+            const DecodedImage got = ImageDecoder::decode(stored(bytes, name), 80, stop.get_token());
+            QCOMPARE(got.outcome, Outcome::cancelled);
+            QVERIFY(got.image.isNull());
+        }
+    }
+
+    void realPhotos_data()
+    {
+        QTest::addColumn<QString>("path");
+        const QString root = qEnvironmentVariable("QUORBEL_TEST_PHOTOS");
+        for (QDirIterator it(root, QDir::Files, QDirIterator::Subdirectories); !root.isEmpty() && it.hasNext();) {
+            const QString path = it.next();
+            if (path.contains(u"/valid/"_s) || path.contains(u"/malformed/"_s))
+                QTest::newRow(qPrintable(QFileInfo(path).dir().dirName() + u'/' + it.fileName())) << path;
+        }
+        if (root.isEmpty())
+            QTest::newRow("none") << QString();
+    }
+    void realPhotos()
+    {
+        QFETCH(QString, path);
+        if (path.isEmpty())
+            QSKIP("QUORBEL_TEST_PHOTOS names no folder");
+        const DecodedImage got = ImageDecoder::decode(path, 90);
+        QCOMPARE(got.image.isNull(), got.outcome != Outcome::decoded);
+        QVERIFY(qMax(got.image.width(), got.image.height()) <= 90);
+        ImageDecoder::embeddedThumbnail(path);
+        // What the valid ones cannot be: cut-off PNGs and a JP2 whose boxes are misspelt are in there on purpose.
+        static const QStringList undecodable{ u"exif.png"_s, u"photo_52_header.png"_s, u"expected_to_read.jp2"_s };
+        static const QStringList unread{ u"jxr"_s, u"tsv"_s, u"exv"_s };
+        const QFileInfo info(path);
+        if (path.contains(u"/valid/"_s) && !undecodable.contains(info.fileName()) && !unread.contains(info.suffix()))
+            QVERIFY(got.outcome == Outcome::decoded || got.outcome == Outcome::needsTool);
+    }
+
+private:
+    QString stored(const QByteArray& bytes, const QByteArray& name)
+    {
+        const QString path = m_folder.filePath(QString::fromLatin1(name));
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(path));
+        return path;
+    }
+
+    QTemporaryDir m_folder;
+};
+
+QTEST_GUILESS_MAIN(ImageDecoderTest)
+#include "tst_ImageDecoder.moc"

@@ -1,0 +1,359 @@
+#include "app/model/thumbnails/ThumbnailStore.h"
+#include "tests/support/Support.h"
+#include "tests/ui/UiSupport.h"
+#include "ui/controls/Components.h"
+#include "ui/controls/ToolTips.h"
+
+#include <QHelpEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
+
+using namespace Quorbel;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// What surrounds a control, where its ring would be.
+int ringPixels(QWidget* control)
+{
+    const QPoint topLeft = control->mapTo(control->window(), QPoint(0, 0));
+    const QRect around = QRect(topLeft, control->size()).adjusted(-5, -5, 5, 5);
+    return Test::pixelsLike(control->window()->grab(around).toImage(), Theme::of(control).focus);
+}
+
+class PaintCounter final : public QObject {
+public:
+    explicit PaintCounter(QWidget* widget)
+        : QObject(widget)
+    {
+        widget->installEventFilter(this);
+    }
+    int count() const { return m_count; }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        m_count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+private:
+    int m_count = 0;
+};
+
+}  // namespace
+
+class TestComponents : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { Test::failOnWarnings(); }
+
+    void buttonsAnswerToMouseAndKeyboard_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<int>("clicks");
+        QTest::newRow("mouse") << 0 << true << 1;
+        QTest::newRow("space") << int(Qt::Key_Space) << true << 1;
+        QTest::newRow("return") << int(Qt::Key_Return) << true << 1;
+        QTest::newRow("disabled, mouse") << 0 << false << 0;
+        QTest::newRow("disabled, return") << int(Qt::Key_Return) << false << 0;
+    }
+    void buttonsAnswerToMouseAndKeyboard()
+    {
+        QFETCH(int, key);
+        QFETCH(bool, enabled);
+        Test::Stage stage;
+        const QList<ThemedButton*> buttons{ stage.add(new QBButton(u"Save"_s, QBButtonKind::primary)),
+            stage.add(new QBIconButton(u"plus"_s, u"Add"_s)), stage.add(new QBTextButton(u"Select all"_s)),
+            stage.add(new TokenChip(u"Date"_s)), stage.add(new QBCheckbox(u"Tick"_s, nullptr)) };
+        stage.show();
+        for (ThemedButton* button : buttons) {
+            QSignalSpy clicked(button, &QAbstractButton::clicked);
+            button->setEnabled(enabled);
+            button->setFocus(Qt::TabFocusReason);
+            if (key == 0)
+                QTest::mouseClick(button, Qt::LeftButton);
+            else
+                QTest::keyClick(button, Qt::Key(key));
+            QTEST(int(clicked.count()), "clicks");
+        }
+    }
+
+    void disabledPrimaryHasAFillOfItsOwn()
+    {
+        Test::Stage stage;
+        auto* button = stage.add(new QBButton(u"Save"_s, QBButtonKind::primary));
+        stage.show();
+        QCOMPARE(Test::colorAt(button, { 5, 15 }), Theme::light().accent);
+        button->setEnabled(false);
+        QCOMPARE(Test::colorAt(button, { 5, 15 }), Theme::light().derived.primaryOff);
+    }
+
+    void aCheckboxOnlyShowsItsState()
+    {
+        Test::Stage stage;
+        auto* box = stage.add(new QBCheckbox);
+        stage.show();
+        QTest::mouseClick(box, Qt::LeftButton);
+        QVERIFY(!box->isChecked());
+        QCOMPARE(Test::colorAt(box, { 8, 3 }), Theme::light().field);
+        box->setChecked(true);
+        QCOMPARE(Test::colorAt(box, { 8, 3 }), Theme::light().accent);
+        box->setAmber(true);
+        QCOMPARE(Test::colorAt(box, { 8, 3 }), Theme::light().amber);
+    }
+
+    void aSwitchFlipsItself()
+    {
+        Test::Stage stage;
+        auto* box = stage.add(new QBSwitch);
+        stage.show();
+        QSignalSpy toggled(box, &QAbstractButton::toggled);
+        QTest::mouseClick(box, Qt::LeftButton);
+        QCOMPARE(Test::colorAt(box, { 5, 10 }), Theme::light().accent);
+        QTest::keyClick(box, Qt::Key_Space);
+        QCOMPARE(Test::colorAt(box, { 29, 10 }), Theme::light().scroll);
+        QCOMPARE(toggled.count(), 2);
+    }
+
+    void aPickerIsDrivenByMouseAndArrows()
+    {
+        Test::Stage stage;
+        auto* picker = stage.add(new SegmentedPicker({ u"System"_s, u"Light"_s, u"Dark"_s }));
+        stage.show();
+        QSignalSpy picked(picker, &SegmentedPicker::picked);
+        QTest::mouseClick(picker, Qt::LeftButton, {}, QPoint(190, 15));
+        QCOMPARE(picker->currentIndex(), 2);
+        QTest::keyClick(picker, Qt::Key_Right);
+        QTest::keyClick(picker, Qt::Key_Left);
+        QTest::keyClick(picker, Qt::Key_Home);
+        QCOMPARE(picker->currentIndex(), 0);
+        QCOMPARE(picked.count(), 3);
+    }
+
+    void theHandleKeepsWithinItsLimits_data()
+    {
+        QTest::addColumn<int>("dragBy");
+        QTest::addColumn<QList<int>>("keys");
+        QTest::addColumn<double>("width");
+        QTest::newRow("drag right") << 40 << QList<int>{} << 328.0;
+        QTest::newRow("drag left beyond") << -300 << QList<int>{} << 200.0;
+        QTest::newRow("drag right beyond") << 300 << QList<int>{} << 420.0;
+        QTest::newRow("right arrow") << 0 << QList<int>{ Qt::Key_Right, Qt::Key_Right } << 308.0;
+        QTest::newRow("end, then right") << 0 << QList<int>{ Qt::Key_End, Qt::Key_Right } << 420.0;
+        QTest::newRow("home") << 0 << QList<int>{ Qt::Key_Home } << 200.0;
+    }
+    void theHandleKeepsWithinItsLimits()
+    {
+        QFETCH(int, dragBy);
+        QFETCH(QList<int>, keys);
+        QFETCH(double, width);
+        Test::Stage stage;
+        auto* handle = stage.add(new ResizeHandle(288, 200, 420, 288));
+        stage.show();
+        double told = 0;
+        connect(handle, &ResizeHandle::widthSettled, this, [&told](double w) { told = w; });
+        if (dragBy != 0) {
+            QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(3, 10));
+            QTest::mouseMove(handle, QPoint(3 + dragBy, 10));
+            QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(3 + dragBy, 10));
+        }
+        for (const int key : keys)
+            QTest::keyClick(handle, Qt::Key(key));
+        QCOMPARE(handle->columnWidth(), width);
+        QCOMPARE(told, width);
+    }
+
+    void ringsShowForTheKeyboardOnly()
+    {
+        Test::Stage stage;
+        auto* button = stage.add(new QBButton(u"Save"_s));
+        stage.add(new ThemedLabel(u"Far enough for the rings not to meet"_s));
+        auto* other = stage.add(new QBButton(u"Cancel"_s));
+        stage.show();
+        const int none = ringPixels(button);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(button->hasFocus());
+        QCOMPARE(ringPixels(button), none);
+        other->setFocus(Qt::TabFocusReason);
+        button->setFocus(Qt::BacktabFocusReason);
+        QVERIFY(ringPixels(button) > none + 100);
+        other->setFocus(Qt::TabFocusReason);
+        QCOMPARE(ringPixels(button), none);
+    }
+
+    void aRingFollowsItsControlThroughAScroll()
+    {
+        Test::Stage stage;
+        auto* area = stage.add(new QScrollArea);
+        area->setMinimumHeight(300);
+        auto* content = new QWidget;
+        content->resize(300, 1000);
+        auto* button = new QBButton(u"Save"_s, QBButtonKind::secondary, content);
+        button->setGeometry(20, 200, 80, 30);
+        area->setWidget(content);
+        stage.show();
+        button->setFocus(Qt::TabFocusReason);
+        const int shown = ringPixels(button);
+        area->verticalScrollBar()->setValue(100);
+        QCOMPARE(ringPixels(button), shown);
+        button->move(40, 220);
+        QCOMPARE(ringPixels(button), shown);
+    }
+
+    void aFocusedControlAtRestPaintsNothing()
+    {
+        Test::Stage stage;
+        auto* button = stage.add(new QBButton(u"Save"_s));
+        stage.show();
+        button->setFocus(Qt::TabFocusReason);
+        QTest::qWait(50);
+        PaintCounter counter(button);
+        QTest::qWait(100);
+        QCOMPARE(counter.count(), 0);
+        button->update();
+        QTest::qWait(50);
+        QCOMPARE(counter.count(), 1);
+    }
+
+    void aThumbnailIsAskedForWhenItIsShown()
+    {
+        ThumbnailStoreOptions options;
+        QStringList decoded;
+        options.workers = 1;
+        options.embedded = [](const QString&, const std::stop_token&) { return QImage(); };
+        options.decode = [&decoded](const QString& path, int longSide, const std::stop_token&) {
+            decoded.append(path);
+            DecodedImage result;
+            result.outcome = DecodedImage::Outcome::decoded;
+            result.image = QImage(longSide, longSide / 2, QImage::Format_RGB32);
+            result.image.fill(Qt::green);
+            return result;
+        };
+        const Test::PhotoFolder folder;
+        const QUrl photo = folder.add(u"lake.jpg"_s);
+        ThumbnailStore store(options);
+        Test::Stage stage;
+        auto* view = stage.add(new ThumbnailView(&store, 60, 9));
+        view->setUrl(photo);
+        QCOMPARE(view->accessibleName(), u"Thumbnail of lake.jpg"_s);
+        QCOMPARE(store.entry(photo, ThumbnailStore::Kind::small).state, ThumbnailStore::State::none);
+        stage.show();
+        QTRY_COMPARE(Test::colorAt(view, { 30, 3 }), QColor(Qt::green));
+        QCOMPARE(decoded, QStringList(photo.toLocalFile()));
+        // Clipped to the rounded corner: what shows there is the window behind.
+        QVERIFY(Test::colorAt(view, { 0, 0 }) != QColor(Qt::green));
+    }
+
+    void screenReadersAreToldWhatThingsAre_data()
+    {
+        QTest::addColumn<QWidget*>("widget");
+        QTest::addColumn<QAccessible::Role>("role");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("action");
+        const auto row = [](const char* title, QWidget* widget, QAccessible::Role role, const QString& name,
+                             const QString& action) { QTest::newRow(title) << widget << role << name << action; };
+        row("button", new QBButton(u"Save"_s), QAccessible::Button, u"Save"_s, u"Press"_s);
+        row("icon", new QBIconButton(u"plus"_s, u"Add"_s), QAccessible::Button, u"Add"_s, u"Press"_s);
+        row("check box", new QBCheckbox(u"Tick"_s, nullptr), QAccessible::CheckBox, u"Tick"_s, u"Toggle"_s);
+        row("section", new SectionHeader(u"COMMON"_s), QAccessible::Heading, u"COMMON"_s, {});
+        row("divider", new LabeledDivider(u"ADVANCED"_s), QAccessible::Heading, u"ADVANCED"_s, {});
+        row("handle", new ResizeHandle(288, 200, 420, 288), QAccessible::Splitter, u"Column width"_s, {});
+    }
+    void screenReadersAreToldWhatThingsAre()
+    {
+        QFETCH(QWidget*, widget);
+        QFETCH(QString, action);
+        const std::unique_ptr<QWidget> owner(widget);
+        QAccessibleInterface* described = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY(described);
+        QTEST(described->role(), "role");
+        QTEST(described->text(QAccessible::Name), "name");
+        if (action.isEmpty())
+            return;
+        QSignalSpy clicked(qobject_cast<QAbstractButton*>(widget), &QAbstractButton::clicked);
+        described->actionInterface()->doAction(action);
+        QCOMPARE(clicked.count(), 1);
+    }
+
+    void aMenuMarksWhatIsOnAndRunsWhatIsChosen()
+    {
+        Test::Stage stage;
+        stage.show();
+        ThemedMenu menu(stage.window());
+        menu.addHeader(u"Sort by"_s);
+        QAction* first = menu.addAction(u"Name"_s);
+        QAction* second = menu.addAction(u"Date"_s);
+        first->setCheckable(true);
+        first->setChecked(true);
+        QSignalSpy chosen(second, &QAction::triggered);
+        menu.popup(stage.window()->mapToGlobal(QPoint(10, 10)));
+        QCOMPARE(menu.actionGeometry(second).height(), px(28));
+        QTest::mouseMove(&menu, menu.actionGeometry(second).center());
+        menu.setActiveAction(second);
+        QCOMPARE(Test::colorAt(&menu, menu.actionGeometry(second).center() + QPoint(40, 9)), Theme::light().sel);
+        const QRect mark(menu.actionGeometry(first).topLeft() + QPoint(8, 0), QSize(14, 28));
+        const QImage checked = menu.grab(mark).toImage();
+        first->setChecked(false);
+        QVERIFY(menu.grab(mark).toImage() != checked);
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(second).center());
+        QCOMPARE(chosen.count(), 1);
+        QVERIFY(!menu.isVisible());
+    }
+
+    void theOverlayScrollBarDragsTheView()
+    {
+        Test::Stage stage;
+        auto* area = stage.add(new QScrollArea);
+        area->setFixedSize(200, 200);
+        auto* content = new QWidget;
+        content->resize(180, 1000);
+        area->setWidget(content);
+        OverlayScrollBar* bar = OverlayScrollBar::attach(area);
+        stage.show();
+        QVERIFY(bar->isVisible());
+        QTest::mousePress(bar, Qt::LeftButton, {}, QPoint(5, 10));
+        QTest::mouseMove(bar, QPoint(5, 300));
+        QTest::mouseRelease(bar, Qt::LeftButton, {}, QPoint(5, 300));
+        QCOMPARE(area->verticalScrollBar()->value(), area->verticalScrollBar()->maximum());
+        content->resize(180, 100);
+        QTRY_VERIFY(!bar->isVisible());
+    }
+
+    void anElidedLabelTellsTheRestInItsTooltip()
+    {
+        Test::Stage stage;
+        auto* label = stage.add(new ThemedLabel(u"A rather long file name that goes on.jpg"_s));
+        label->setElided(true);
+        label->setFixedWidth(80);
+        stage.show();
+        QCOMPARE(label->toolTip(), label->text());
+        label->setFixedWidth(450);
+        QCOMPARE(label->toolTip(), QString());
+    }
+
+    void rowsOfAListHaveTooltipsOfTheTheme()
+    {
+        Test::Stage stage;
+        const ToolTips tips;
+        auto* list = stage.add(new QListWidget);
+        for (const QString& tip : { u"one"_s, u"<two>"_s })
+            (new QListWidgetItem(u"row"_s, list))->setToolTip(tip);
+        stage.show();
+        const QPoint second = list->visualItemRect(list->item(1)).center();
+        QHelpEvent help(QEvent::ToolTip, second, list->viewport()->mapToGlobal(second));
+        QApplication::sendEvent(list->viewport(), &help);
+        const auto* shown = list->viewport()->findChild<QLabel*>();
+        QVERIFY(shown && shown->isVisible());
+        QCOMPARE(shown->text(), u"<two>"_s);
+        QCOMPARE(shown->palette().color(QPalette::WindowText), Theme::light().selText);
+    }
+};
+
+QTEST_MAIN(TestComponents)
+#include "tst_Components.moc"

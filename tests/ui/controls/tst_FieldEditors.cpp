@@ -1,0 +1,449 @@
+#include "core/schema/FieldSchema.h"
+#include "tests/ui/UiSupport.h"
+#include "ui/controls/FieldEditors.h"
+#include "ui/controls/SuggestionList.h"
+#include "ui/controls/ThemedMenu.h"
+#include "ui/controls/theme/Metrics.h"
+
+#include <QClipboard>
+#include <QScrollBar>
+#include <QSignalSpy>
+
+using namespace Quorbel;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A keyword editor with an owner behind it: keeps a list without doubles, as the inspector's draft does.
+struct KeywordOwner {
+    explicit KeywordOwner(Test::Stage& stage, const QStringList& chips = {})
+        : editor(stage.add(new KeywordEditor))
+    {
+        editor->setPlaceholder(u"Add keyword + ↵"_s);
+        editor->setChips(chips);
+        QObject::connect(editor, &KeywordEditor::added, editor, [this](const QString& keyword) {
+            added.append(keyword);
+            editor->setChips(
+                editor->chips().contains(keyword) ? editor->chips() : editor->chips() + QStringList(keyword));
+        });
+        QObject::connect(editor, &KeywordEditor::removed, editor, [this](const QString& keyword) {
+            QStringList left = editor->chips();
+            left.removeOne(keyword);
+            editor->setChips(left);
+        });
+        stage.show();
+        editor->entry()->setFocus();
+    }
+    QWidget* focused() const { return QApplication::focusWidget(); }
+    void press(std::initializer_list<Qt::Key> keys) const
+    {
+        for (const Qt::Key key : keys)
+            QTest::keyClick(focused(), key);
+    }
+    void type(const QString& text) const { QTest::keyClicks(focused(), text); }
+    SuggestionList* suggestions() const { return editor->window()->findChild<SuggestionList*>(); }
+
+    KeywordEditor* editor;
+    QStringList added{};
+};
+
+QList<QWidget*> boxes(QWidget* parent, const QList<QSize>& sizes)
+{
+    QList<QWidget*> made;
+    for (const QSize& size : sizes) {
+        made.append(new QWidget(parent));
+        made.last()->setFixedSize(size);
+    }
+    return made;
+}
+
+}  // namespace
+
+class TestFieldEditors : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { Test::failOnWarnings(); }
+
+    void flowLayoutWraps_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<QList<QSize>>("sizes");
+        QTest::addColumn<QList<QPoint>>("places");
+        QTest::addColumn<int>("height");
+        const QList<QSize> three{ { 40, 20 }, { 40, 30 }, { 40, 20 } };
+        QTest::newRow("one line") << 200 << three << QList<QPoint>{ { 0, 0 }, { 45, 0 }, { 90, 0 } } << 30;
+        QTest::newRow("exactly fits") << 85 << three << QList<QPoint>{ { 0, 0 }, { 45, 0 }, { 0, 35 } } << 55;
+        QTest::newRow("one short") << 84 << three << QList<QPoint>{ { 0, 0 }, { 0, 25 }, { 0, 60 } } << 80;
+        QTest::newRow("fits none") << 10 << three << QList<QPoint>{ { 0, 0 }, { 0, 25 }, { 0, 60 } } << 80;
+        QTest::newRow("empty") << 100 << QList<QSize>{} << QList<QPoint>{} << 0;
+    }
+    void flowLayoutWraps()
+    {
+        QFETCH(int, width);
+        QFETCH(QList<QSize>, sizes);
+        QFETCH(QList<QPoint>, places);
+        QWidget parent;
+        auto* flow = new FlowLayout(5, &parent);
+        const QList<QWidget*> items = boxes(&parent, sizes);
+        for (QWidget* item : items)
+            flow->addWidget(item);
+        QTEST(flow->heightForWidth(width), "height");
+        flow->setGeometry(QRect(0, 0, width, 500));
+        for (qsizetype i = 0; i < items.size(); ++i) {
+            QCOMPARE(items.at(i)->pos(), places.at(i));
+            QCOMPARE(items.at(i)->size(), sizes.at(i));
+        }
+    }
+
+    void editedFieldsAreAmber_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::newRow("light") << false;
+        QTest::newRow("dark") << true;
+    }
+    void editedFieldsAreAmber()
+    {
+        QFETCH(bool, dark);
+        const Theme& theme = dark ? Theme::dark() : Theme::light();
+        Test::Stage stage(theme);
+        auto* field = stage.add(new QBTextField);
+        auto* area = stage.add(new QBTextArea);
+        auto* picker = stage.add(new OffsetPicker(u"—"_s));
+        auto* keywords = stage.add(new KeywordEditor);
+        stage.show();
+        const QList<QWidget*> all{ field, area, picker, keywords };
+        for (QWidget* editor : all)
+            QCOMPARE(Test::colorAt(editor, { 120, 6 }), theme.field);
+        field->setEdited(true);
+        area->setEdited(true);
+        picker->setEdited(true);
+        keywords->setEdited(true);
+        for (QWidget* editor : all) {
+            QCOMPARE(Test::colorAt(editor, { 120, 6 }), theme.amberBg);
+            QCOMPARE(Test::colorAt(editor, { 120, 0 }), theme.amberLine);
+        }
+    }
+
+    void boundTextTellsOfTheUsersChangesOnly()
+    {
+        Test::Stage stage;
+        auto* field = stage.add(new QBTextField);
+        auto* area = stage.add(new QBTextArea);
+        stage.show();
+        QSignalSpy fieldEdits(field, &QLineEdit::textEdited);
+        QSignalSpy areaEdits(area, &QBTextArea::textEdited);
+        field->setBoundText(u"Zürich"_s);
+        area->setBoundText(u"Zürich"_s);
+        QCOMPARE(fieldEdits.count() + areaEdits.count(), 0);
+        QTest::keyClick(field, Qt::Key_Home);
+        QTest::keyClicks(field, u"x"_s);
+        // The binding echoes what was typed: the cursor stays where it is.
+        field->setBoundText(u"xZürich"_s);
+        QTest::keyClicks(field, u"y"_s);
+        QCOMPARE(field->text(), u"xyZürich"_s);
+        QTest::keyClicks(area, u"a"_s);
+        area->setBoundText(u"aZürich"_s);
+        QTest::keyClicks(area, u"b"_s);
+        QCOMPARE(area->text(), u"abZürich"_s);
+        QCOMPARE(fieldEdits.count(), 2);
+        QCOMPARE(areaEdits.last().first().toString(), u"abZürich"_s);
+    }
+
+    void thePlaceholderShowsWhileEmpty()
+    {
+        Test::Stage stage;
+        auto* field = stage.add(new QBTextField);
+        auto* area = stage.add(new QBTextArea);
+        for (const QString& text : { u"████"_s, QString() }) {
+            field->setPlaceholder(text);
+            area->setPlaceholder(text);
+            stage.show();
+            const bool expected = !text.isEmpty();
+            QCOMPARE(Test::pixelsLike(field->grab().toImage(), Theme::light().muted) > 50, expected);
+            QCOMPARE(Test::pixelsLike(area->grab().toImage(), Theme::light().muted) > 50, expected);
+        }
+        field->setPlaceholder(u"████"_s);
+        QTest::keyClicks(field, u"i"_s);
+        QVERIFY(Test::pixelsLike(field->grab().toImage(), Theme::light().muted) < 20);
+    }
+
+    void theAreaGrowsWithItsTextAndTabLeavesIt()
+    {
+        Test::Stage stage;
+        auto* area = stage.add(new QBTextArea);
+        auto* next = stage.add(new QBTextField);
+        stage.show();
+        QCOMPARE(area->height(), px(54));
+        area->setFocus();
+        for (int line = 1; line < 9; ++line) {
+            area->insertPlainText(line == 4 ? u"日本語 of another font"_s : u"line"_s);
+            QTest::keyClick(area, Qt::Key_Return);
+            QCOMPARE(area->verticalScrollBar()->maximum(), 0);  // no line out of sight
+        }
+        QTRY_VERIFY(area->height() >= 5 * QFontMetrics(area->font()).height() + 2 * px(8));
+        area->setBoundText(QString(400, u'x') + u" words to be wrapped into the width of the field"_s);
+        const int wide = area->height();
+        area->setFixedWidth(200);
+        QTRY_VERIFY(area->height() > wide);
+        area->setBoundText(u"short"_s);
+        QTRY_COMPARE(area->height(), px(54));
+        QTest::keyClick(area, Qt::Key_Tab);
+        QVERIFY(next->hasFocus());
+        QCOMPARE(area->text(), u"short"_s);
+    }
+
+    void typedKeywords_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QStringList>("added");
+        QTest::addColumn<QString>("left");
+        QTest::newRow("plain") << u"lake"_s << QStringList{ u"lake"_s } << QString();
+        QTest::newRow("spaces around") << u"  reed bank "_s << QStringList{ u"reed bank"_s } << QString();
+        QTest::newRow("spaces only stay") << u"   "_s << QStringList{} << u"   "_s;
+        QTest::newRow("nothing") << QString() << QStringList{} << QString();
+        QTest::newRow("a comma is part of it") << u"a, b"_s << QStringList{ u"a, b"_s } << QString();
+    }
+    void typedKeywords()
+    {
+        QFETCH(QString, typed);
+        Test::Stage stage;
+        KeywordOwner owner(stage);
+        owner.type(typed);
+        owner.press({ Qt::Key_Return });
+        QTEST(owner.added, "added");
+        QTEST(owner.editor->entryText(), "left");
+        QCOMPARE(owner.editor->chips(), owner.added);
+    }
+
+    void pastedKeywords_data()
+    {
+        QTest::addColumn<QString>("pasted");
+        QTest::addColumn<QStringList>("added");
+        QTest::addColumn<QString>("left");
+        QTest::newRow("one stays in the entry") << u"still water"_s << QStringList{} << u"still water"_s;
+        QTest::newRow("one line end only") << u" still water\n"_s << QStringList{} << u"still water"_s;
+        QTest::newRow("commas") << u"lake, autumn ,,evening"_s << QStringList{ u"lake"_s, u"autumn"_s, u"evening"_s }
+                                << QString();
+        QTest::newRow("lines") << u"lake\r\nautumn\n"_s << QStringList{ u"lake"_s, u"autumn"_s } << QString();
+    }
+    void pastedKeywords()
+    {
+        QFETCH(QString, pasted);
+        Test::Stage stage;
+        KeywordOwner owner(stage);
+        QGuiApplication::clipboard()->setText(pasted);
+        QTest::keyClick(owner.focused(), Qt::Key_V, Qt::ControlModifier);
+        QTEST(owner.added, "added");
+        QTEST(owner.editor->entryText(), "left");
+    }
+
+    void chipsAreReachedByKeys_data()
+    {
+        QTest::addColumn<QList<int>>("keys");
+        QTest::addColumn<QStringList>("left");
+        const QStringList all{ u"lake"_s, u"autumn"_s, u"evening"_s };
+        QTest::newRow("backspace selects") << QList<int>{ Qt::Key_Backspace } << all;
+        QTest::newRow("again removes") << QList<int>{ Qt::Key_Backspace, Qt::Key_Backspace } << all.mid(0, 2);
+        QTest::newRow("left, left, delete")
+            << QList<int>{ Qt::Key_Left, Qt::Key_Left, Qt::Key_Delete } << QStringList{ u"lake"_s, u"evening"_s };
+        QTest::newRow("to the first and back") << QList<int>{ Qt::Key_Left, Qt::Key_Home, Qt::Key_Right, Qt::Key_Right,
+            Qt::Key_Right, Qt::Key_Backspace } << all;
+        QTest::newRow("all, one by one") << QList<int>{ Qt::Key_Left, Qt::Key_Home, Qt::Key_Delete, Qt::Key_Delete,
+            Qt::Key_Delete } << QStringList{};
+    }
+    void chipsAreReachedByKeys()
+    {
+        QFETCH(QList<int>, keys);
+        Test::Stage stage;
+        KeywordOwner owner(stage, { u"lake"_s, u"autumn"_s, u"evening"_s });
+        for (const int key : keys)
+            owner.press({ Qt::Key(key) });
+        QTEST(owner.editor->chips(), "left");
+        // Whatever was selected, typing goes on in the entry.
+        owner.type(u"new"_s);
+        QCOMPARE(owner.editor->entryText(), u"new"_s);
+    }
+
+    void theCrossRemovesItsChip()
+    {
+        Test::Stage stage;
+        KeywordOwner owner(stage, { u"lake"_s, u"autumn"_s, u"evening"_s });
+        const auto crosses = owner.editor->findChildren<QBIconButton*>();
+        QCOMPARE(crosses.size(), 3);
+        QCOMPARE(crosses.at(1)->accessibleName(), u"Remove autumn"_s);
+        QTest::mouseClick(crosses.at(1), Qt::LeftButton);
+        QCOMPARE(owner.editor->chips(), QStringList({ u"lake"_s, u"evening"_s }));
+    }
+
+    void manyKeywordsWrapAndNoneIsWiderThanTheEditor()
+    {
+        Test::Stage stage;
+        KeywordOwner owner(stage, { u"lake"_s });
+        QCOMPARE(owner.editor->height(), px(30));
+        QStringList many;
+        for (int i = 0; i < 40; ++i)
+            many.append(u"keyword %1"_s.arg(i));
+        many.append(QString(200, u'w'));
+        owner.editor->setChips(many);
+        QTRY_VERIFY(owner.editor->height() > 5 * px(28));
+        for (const QWidget* child : owner.editor->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+            if (child->isVisible())
+                QVERIFY2(owner.editor->rect().contains(child->geometry()), child->metaObject()->className());
+        }
+        owner.editor->setChips({ u"lake"_s });
+        QTRY_COMPARE(owner.editor->height(), px(30));
+    }
+
+    void completions_data()
+    {
+        QTest::addColumn<QList<int>>("keys");
+        QTest::addColumn<QStringList>("added");
+        QTest::newRow("tab takes the first") << QList<int>{ Qt::Key_Tab } << QStringList{ u"autumn"_s };
+        QTest::newRow("down, down, return")
+            << QList<int>{ Qt::Key_Down, Qt::Key_Down, Qt::Key_Return } << QStringList{ u"Auckland"_s };
+        QTest::newRow("return without choosing") << QList<int>{ Qt::Key_Return } << QStringList{ u"au"_s };
+        QTest::newRow("escape, return") << QList<int>{ Qt::Key_Escape, Qt::Key_Return } << QStringList{ u"au"_s };
+    }
+    void completions()
+    {
+        QFETCH(QList<int>, keys);
+        Test::Stage stage;
+        KeywordOwner owner(stage, { u"aunt"_s });
+        owner.editor->setCompletions([](const QString& prefix) {
+            return prefix == u"au"_s ? QStringList{ u"aunt"_s, u"autumn"_s, u"Auckland"_s } : QStringList{};
+        });
+        owner.type(u"au"_s);
+        QCOMPARE(owner.suggestions()->rows().size(), 2);
+        for (const int key : keys)
+            owner.press({ Qt::Key(key) });
+        QTEST(owner.added, "added");
+        QVERIFY(owner.suggestions()->isHidden());
+        QCOMPARE(owner.editor->entryText(), QString());
+    }
+
+    void ratings_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<int>("clickedStar");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("after");
+        const auto click = [](const char* name, const QString& before, int star, const QString& after) {
+            QTest::newRow(name) << before << star << 0 << after;
+        };
+        const auto press = [](const char* name, const QString& before, Qt::Key key, const QString& after) {
+            QTest::newRow(name) << before << 0 << int(key) << after;
+        };
+        click("third of two", u"2"_s, 3, u"3"_s);
+        click("third of three clears", u"3"_s, 3, u"0"_s);
+        click("first of none", QString(), 1, u"1"_s);
+        click("fifth of garbage", u"abc"_s, 5, u"5"_s);
+        press("digit", u"1"_s, Qt::Key_4, u"4"_s);
+        press("zero", u"5"_s, Qt::Key_0, u"0"_s);
+        press("the digit that is shown stays", u"3"_s, Qt::Key_3, u"3"_s);
+        press("right", u"3"_s, Qt::Key_Right, u"4"_s);
+        press("right at the end", u"5"_s, Qt::Key_Right, u"5"_s);
+        press("left", QString(), Qt::Key_Left, u"0"_s);
+        press("six means nothing", u"2"_s, Qt::Key_6, u"2"_s);
+    }
+    void ratings()
+    {
+        QFETCH(QString, before);
+        QFETCH(int, clickedStar);
+        QFETCH(int, key);
+        Test::Stage stage;
+        auto* editor = stage.add(new RatingEditor);
+        stage.show();
+        editor->setValue(before);
+        if (clickedStar > 0)
+            QTest::mouseClick(editor, Qt::LeftButton, {}, QPoint((clickedStar - 1) * 26 + 7, 15));
+        else
+            QTest::keyClick(editor, Qt::Key(key));
+        QTEST(editor->value(), "after");
+    }
+
+    void starsAreFilledUpToTheRating_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<int>("filled");
+        QTest::newRow("none") << QString() << 0;
+        QTest::newRow("garbage") << u"abc"_s << 0;
+        QTest::newRow("three") << u"3"_s << 3;
+        QTest::newRow("beyond") << u"9"_s << 5;
+        QTest::newRow("rejected") << u"-1"_s << 0;
+    }
+    void starsAreFilledUpToTheRating()
+    {
+        QFETCH(QString, value);
+        QFETCH(int, filled);
+        Test::Stage stage;
+        auto* editor = stage.add(new RatingEditor);
+        stage.show();
+        editor->setValue(value);
+        const QImage picture = editor->grab().toImage();
+        for (int star = 0; star < 5; ++star)
+            QCOMPARE(picture.pixelColor(star * 26 + 7, 15) == Theme::light().text, star < filled);
+        QAccessibleInterface* described = QAccessible::queryAccessibleInterface(editor);
+        QCOMPARE(described->role(), QAccessible::Slider);
+        QCOMPARE(described->valueInterface()->currentValue().toInt(), filled);
+    }
+
+    void offsetsArePickedFromTheMenu_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("picked");
+        QTest::addColumn<QString>("after");
+        QTest::newRow("a value") << QString() << u"+02:00"_s << u"+02:00"_s;
+        QTest::newRow("blank") << u"+02:00"_s << u"—"_s << QString();
+    }
+    void offsetsArePickedFromTheMenu()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, picked);
+        Test::Stage stage;
+        auto* picker = stage.add(new OffsetPicker(u"—"_s));
+        stage.show();
+        picker->setValue(before);
+        QCOMPARE(picker->text(), before.isEmpty() ? u"—"_s : before);
+        QSignalSpy edits(picker, &OffsetPicker::valueEdited);
+        QTest::mouseClick(picker, Qt::LeftButton);
+        auto* menu = picker->findChild<ThemedMenu*>();
+        QVERIFY(menu && menu->isVisible());
+        QCOMPARE(menu->actions().size(), FieldSchema::timeZoneOffsets().size() + 1);
+        for (QAction* action : menu->actions()) {
+            const bool current = action->text() == (before.isEmpty() ? u"—"_s : before);
+            QCOMPARE(action->isChecked(), current);
+        }
+        for (QAction* action : menu->actions()) {
+            if (action->text() == picked)
+                menu->setActiveAction(action);
+        }
+        QTest::keyClick(menu, Qt::Key_Return);
+        QTEST(picker->value(), "after");
+        QCOMPARE(edits.count(), 1);
+        QTRY_VERIFY(!picker->findChild<ThemedMenu*>());
+    }
+
+    void copyAndPasteAreInTheMenuOfAField()
+    {
+        Test::Stage stage;
+        auto* field = stage.add(new QBTextField);
+        stage.show();
+        field->setBoundText(u"Zürich"_s);
+        field->selectAll();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, { 20, 15 }, field->mapToGlobal(QPoint(20, 15)));
+        QApplication::sendEvent(field, &event);
+        auto* menu = field->findChild<ThemedMenu*>();
+        QVERIFY(menu);
+        for (QAction* action : menu->actions()) {
+            if (action->text() == u"Cut"_s)
+                action->trigger();
+        }
+        menu->close();
+        QCOMPARE(field->text(), QString());
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"Zürich"_s);
+    }
+};
+
+QTEST_MAIN(TestFieldEditors)
+#include "tst_FieldEditors.moc"

@@ -1,0 +1,170 @@
+#include "tests/support/Rows.h"
+#include "tests/ui/UiSupport.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/TextFields.h"
+#include "ui/controls/theme/Icon.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/SymbolText.h"
+
+#include <QDir>
+
+using namespace Quorbel;
+using namespace Qt::Literals::StringLiterals;
+
+class TestTheme : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { Test::failOnWarnings(); }
+
+    void readableContrast_data()
+    {
+        QTest::addColumn<QColor>("ink");
+        QTest::addColumn<QColor>("ground");
+        QTest::addColumn<qreal>("atLeast");
+        for (const bool dark : { false, true }) {
+            const Theme& t = dark ? Theme::dark() : Theme::light();
+            const auto row = [&](const char* name, const QColor& ink, const QColor& ground, qreal atLeast) {
+                QTest::addRow("%s: %s", dark ? "dark" : "light", name) << ink << ground << atLeast;
+            };
+            row("text on the window", t.text, t.bg, 7);
+            row("text on panels", t.text, t.panel, 7);
+            row("text on title bars", t.text, t.titlebar, 7);
+            row("text in fields", t.text, t.field, 7);
+            row("text in edited fields", t.text, t.amberBg, 7);
+            row("text on a selected row", t.selText, t.sel, 7);
+            row("text on a primary button", t.accentText, t.accent, 7);
+            row("text on a chip", t.text, t.chip, 7);
+            row("labels on panels", t.derived.label, t.panel, 4.5);
+            row("help lines on panels", t.derived.amberText, t.panel, 4.5);
+            row("destructive button on panels", t.derived.destructive, t.panel, 4.5);
+            row("secondary text on the window", t.muted, t.bg, 3);
+            row("secondary text on panels", t.muted, t.panel, 3);
+            row("focus ring on panels", t.derived.focusStrong, t.panel, 3);
+            row("focus ring on fields", t.derived.focusStrong, t.field, 3);
+            row("amber check box on panels", t.amber, t.panel, 3);
+        }
+    }
+    void readableContrast()
+    {
+        QFETCH(QColor, ink);
+        QFETCH(QColor, ground);
+        QFETCH(qreal, atLeast);
+        const qreal ratio = Test::contrast(ink, ground);
+        QVERIFY2(ratio >= atLeast, qPrintable(QString::number(ratio)));
+    }
+
+    void hexColours_data()
+    {
+        Test::addRows(
+            { { u"9a7a1c"_s, u"#ff9a7a1c"_s }, { u"000000"_s, u"#ff000000"_s }, { u"0000ff"_s, u"#ff0000ff"_s } });
+    }
+    void hexColours()
+    {
+        QFETCH(QString, text);
+        QTEST(colorFromHex(text).name(QColor::HexArgb), "expected");
+    }
+
+    void everyRoleIsSetInBothPalettes()
+    {
+        // A role that a table forgot is an invalid colour, and is drawn black.
+        for (const Theme* theme : { &Theme::light(), &Theme::dark() }) {
+            for (const QColor& color : { theme->bg, theme->panel, theme->titlebar, theme->text, theme->muted,
+                     theme->line, theme->hair, theme->field, theme->fieldLine, theme->sel, theme->selText,
+                     theme->selSub, theme->accent, theme->accentText, theme->btn, theme->btnLine, theme->amber,
+                     theme->amberBg, theme->amberLine, theme->scroll, theme->focus, theme->chip, theme->previewBg }) {
+                QVERIFY(color.isValid());
+                QCOMPARE(color.alpha(), 255);
+            }
+            QVERIFY(theme->shadow.alpha() > 0 && theme->shadow.alpha() < 128);
+        }
+    }
+
+    void widgetsTakeTheThemeOfTheirWindow()
+    {
+        QCOMPARE(Theme::of(nullptr), Theme::light());
+        QWidget window;
+        auto* panel = new QWidget(&window);
+        auto* field = new QBTextField(panel);
+        QCOMPARE(Theme::of(field), Theme::light());
+        setTheme(&window, Theme::dark());
+        QCOMPARE(Theme::of(field), Theme::dark());
+        setTheme(panel, Theme::light());
+        QCOMPARE(Theme::of(field), Theme::light());
+        QCOMPARE(Theme::of(&window), Theme::dark());
+    }
+
+    void aChangeRepaintsWhatIsOnScreen()
+    {
+        Test::Stage stage;
+        auto* field = stage.add(new QBTextField);
+        auto* label = stage.add(new ThemedLabel(u"█████"_s));
+        stage.show();
+        QCOMPARE(Test::colorAt(field, { 100, 15 }), Theme::light().field);
+        setTheme(stage.window(), Theme::dark());
+        QCOMPARE(Test::colorAt(field, { 100, 15 }), Theme::dark().field);
+        QVERIFY(Test::pixelsLike(label->grab().toImage(), Theme::dark().text) > 20);
+    }
+
+    void aWidgetBuiltOutsideItsWindowIsRestyledThere()
+    {
+        auto* label = new ThemedLabel(u"█████"_s);
+        Test::Stage stage(Theme::dark());
+        stage.add(label);
+        stage.show();
+        QVERIFY(Test::pixelsLike(label->grab().toImage(), Theme::dark().text) > 20);
+    }
+
+    void sizesFollowTheDesktopsFont()
+    {
+        const QFont before = QApplication::font();
+        const auto restore = qScopeGuard([&] { QApplication::setFont(before); });
+        QFont font = before;
+        font.setPixelSize(13);
+        QApplication::setFont(font);
+        QCOMPARE(px(30), 30);
+        QBTextField field;
+        QCOMPARE(field.sizeHint().height(), 30);
+        font.setPixelSize(22);
+        QApplication::setFont(font);
+        QCOMPARE(px(30), 45);
+        QCOMPARE(field.sizeHint().height(), 45);
+        QTRY_COMPARE(field.font().pixelSize(), px(13));
+    }
+
+    void symbolTexts_data()
+    {
+        Test::addRows({
+            { u"Select all ⌘A"_s, u"Select all Ctrl+A"_s },
+            { u"Use ⌘A to select all, or ⇧/⌘-click to build a selection."_s,
+                u"Use Ctrl+A to select all, or Shift/Ctrl-click to build a selection."_s },
+            { u"Open Settings from the Quorbel menu (⌘,) to adjust:"_s,
+                u"Open Settings from the Quorbel menu (Ctrl+,) to adjust:"_s },
+            { u"⇧⌘S, ⌥⌘O"_s, u"Shift+Ctrl+S, Alt+Ctrl+O"_s },
+            { u"Right-click a photo in Finder and choose Open With ▸ Quorbel."_s,
+                u"Right-click a photo in your file manager and choose Open With ▸ Quorbel."_s },
+            { u"“Café” — 100 %…"_s, u"“Café” — 100 %…"_s },
+        });
+    }
+    void symbolTexts()
+    {
+        QFETCH(QString, text);
+        QTEST(symbolText(text), "expected");
+    }
+
+    void everyIconDrawsInItsColour()
+    {
+        const QStringList files = QDir(u":/icons"_s).entryList();
+        QVERIFY(files.size() >= 21);
+        for (const QString& file : files) {
+            const QString name = file.chopped(4);
+            const QPixmap icon = Icon::pixmap(name, 18, Qt::red, 2);
+            QCOMPARE(icon.size(), QSize(36, 36));
+            QVERIFY2(Test::pixelsLike(icon.toImage(), Qt::red) > 20, qPrintable(name));
+        }
+        QVERIFY(Icon::pixmap(u"no.such.icon"_s, 18, Qt::red, 1).isNull());
+    }
+};
+
+QTEST_MAIN(TestTheme)
+#include "tst_Theme.moc"

@@ -1,0 +1,617 @@
+// The inspector as a person uses it, over photos written and read by the real tool.
+#include "app/model/AppModel.h"
+#include "tests/ui/inspector/InspectorFixture.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Marks.h"
+#include "ui/inspector/CameraSection.h"
+#include "ui/inspector/InspectorHeader.h"
+#include "ui/places/LocationMap.h"
+#include "ui/places/LocationSearchField.h"
+#include "ui/places/MapPreview.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QScrollArea>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList alike{ u"-XMP-dc:Creator=Mara"_s };
+const QStringList located{ u"-GPSLatitude=47.3769"_s, u"-GPSLatitudeRef=N"_s, u"-GPSLongitude=8.5417"_s,
+    u"-GPSLongitudeRef=E"_s };
+
+/// Three photos that share a creator and differ in their titles; the first knows its camera.
+void addThree(InspectorFixture& f)
+{
+    f.add(u"a.jpg"_s, alike + QStringList{ u"-XMP-dc:Title=One"_s, u"-EXIF:Model=E-M5"_s, u"-EXIF:ISO=200"_s });
+    f.add(u"b.jpg"_s, alike + QStringList{ u"-XMP-dc:Title=Two"_s });
+    f.add(u"c.jpg"_s, alike + QStringList{ u"-XMP-dc:Title=Two"_s });
+}
+
+/// The texts of all labels that can be seen in a widget, from the top.
+QStringList labels(const QWidget* widget)
+{
+    QStringList texts;
+    for (const QLabel* label : widget->findChildren<QLabel*>())
+        if (label->isVisible() && !label->text().isEmpty())
+            texts.append(label->text());
+    return texts;
+}
+
+void type(QWidget* field, const QString& text)
+{
+    QTest::mouseClick(field, Qt::LeftButton);
+    QTest::keyClicks(QApplication::focusWidget(), text);
+}
+
+QAbstractButton* button(const QWidget* parent, const QString& title)
+{
+    for (auto* candidate : parent->findChildren<QAbstractButton*>())
+        if (candidate->isVisible() && (candidate->text() == title || candidate->accessibleName() == title))
+            return candidate;
+    return nullptr;
+}
+
+/// What Tab goes through from a control until it is back there, or for too long.
+QStringList tabStopsFrom(QWidget* first)
+{
+    QStringList names;
+    first->setFocus(Qt::TabFocusReason);
+    do {
+        const QWidget* focus = QApplication::focusWidget();
+        const auto* pressed = qobject_cast<const QAbstractButton*>(focus);
+        names.append(pressed && !pressed->text().isEmpty() ? pressed->text() : focus->accessibleName());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    } while (QApplication::focusWidget() != first && names.size() < 50);
+    return names;
+}
+
+void click(QAbstractButton* target)
+{
+    QVERIFY(target);
+    QTest::mouseClick(target, Qt::LeftButton);
+}
+
+}  // namespace
+
+class TestInspectorView : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void showsOnePhoto();
+    void showsSeveralPhotos();
+    void showsNothing();
+    void placeholders_data();
+    void placeholders();
+    void typingReachesTheModel_data();
+    void typingReachesTheModel();
+    void ticks_data();
+    void ticks();
+    void keywordsOfOnePhoto();
+    void keywordsOfSeveral();
+    void nowReplacesTheDate();
+    void ratingByMouseAndKey();
+    void footer_data();
+    void footer();
+    void footerButtons();
+    void mapFollowsTheCoordinates();
+    void fillsPlaceFromCoordinates();
+    void picksAPlace();
+    void rowsAreReused();
+    void typingKeepsTheCaret();
+    void undoStaysWithItsPhoto();
+    void halfTypedKeywordStaysBehind();
+    void addedFieldTakesTheFocusAndGoesAgain();
+    void namespaceLines();
+    void tabGoesFromTopToBottom();
+    void tellsScreenReaders();
+    void keepsTheCaretInSight();
+};
+
+void TestInspectorView::init()
+{
+    QTest::failOnWarning(QRegularExpression(u"^(?!.*propagateSizeHints)."_s));
+}
+
+void TestInspectorView::showsOnePhoto()
+{
+    InspectorFixture f;
+    addThree(f);
+    QVERIFY(f.open());
+    QVERIFY(f.view->form()->header()->isVisible());
+    QVERIFY(!f.view->form()->banner()->isVisible());
+    QCOMPARE(labels(f.view->form()->header()), QStringList({ u"a.jpg"_s, f.model().primaryRecord()->detailLine() }));
+    QCOMPARE(f.editor<QBTextField>(u"title"_s)->text(), u"One"_s);
+    QVERIFY(!f.row(u"title"_s)->tick());
+    QVERIFY(f.view->form()->camera()->isVisible());
+    QCOMPARE(f.view->form()->camera()->rows().first(2),
+        QList<CameraRow>({ { u"Camera"_s, u"E-M5"_s }, { u"ISO"_s, u"200"_s } }));
+    f.click(u"b.jpg"_s);
+    QCOMPARE(f.editor<QBTextField>(u"title"_s)->text(), u"Two"_s);
+    QCOMPARE(f.model().unsavedCount(), 0);
+}
+
+void TestInspectorView::showsSeveralPhotos()
+{
+    InspectorFixture f;
+    addThree(f);
+    QVERIFY(f.open());
+    f.model().selectAllPhotos();
+    QVERIFY(!f.view->form()->header()->isVisible());
+    QVERIFY(f.view->form()->banner()->isVisible());
+    QCOMPARE(f.view->form()->banner()->accessibleName(), u"Editing 3 photos"_s);
+    QVERIFY(!f.view->form()->camera()->isVisible());
+    QVERIFY(f.row(u"title"_s)->tick()->isVisible());
+    QVERIFY(!f.row(u"title"_s)->tick()->isChecked());
+    QCOMPARE(f.editor<QBTextField>(u"creator"_s)->text(), QString());
+    f.click(u"a.jpg"_s);
+    QVERIFY(!f.row(u"title"_s)->tick()->isVisible());
+}
+
+void TestInspectorView::showsNothing()
+{
+    InspectorFixture f;
+    addThree(f);
+    QVERIFY(f.open());
+    f.model().closeFolder();
+    QVERIFY(f.model().selection().isEmpty());
+    QCOMPARE(labels(f.view), QStringList{ u"No photo selected"_s });
+    QVERIFY(!button(f.view, u"Save"_s));
+}
+
+void TestInspectorView::placeholders_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("one");
+    QTest::addColumn<QString>("several");
+    const auto multiple = u"Multiple values — leave unchanged"_s;
+    QTest::addRow("title differs") << u"title"_s << u"Untitled"_s << multiple;
+    QTest::addRow("creator is shared") << u"creator"_s << u"Add a creator…"_s << u"Add a creator…"_s;
+    QTest::addRow("copyright") << u"copyright"_s << u"Add a copyright notice…"_s << u"Add a copyright notice…"_s;
+    QTest::addRow("date") << u"date"_s << u"YYYY-MM-DD HH:MM"_s << u"YYYY-MM-DD HH:MM"_s;
+    QTest::addRow("place") << u"place"_s << u"Add a place…"_s << u"Add a place…"_s;
+    QTest::addRow("coordinates") << u"coords"_s << u"lat, lon"_s << u"lat, lon"_s;
+    QTest::addRow("headline") << u"headline"_s << u"Add a headline…"_s << u"Add a headline…"_s;
+    QTest::addRow("event") << u"event"_s << u"Add an event…"_s << u"Add an event…"_s;
+    QTest::addRow("no text of its own") << u"credit"_s << QString() << QString();
+}
+
+void TestInspectorView::placeholders()
+{
+    QFETCH(const QString, id);
+    QFETCH(const QString, one);
+    QFETCH(const QString, several);
+    InspectorFixture f;
+    addThree(f);
+    QVERIFY(f.open());
+    f.model().addKnownField(id);
+    QCOMPARE(f.editor<QBTextField>(id)->placeholder(), one);
+    f.model().selectAllPhotos();
+    f.model().addKnownField(id);
+    QCOMPARE(f.editor<QBTextField>(id)->placeholder(), several);
+    QCOMPARE(f.editor<QBTextField>(id)->text(), QString());
+    f.model().toggleBatchInclude(id);
+    QCOMPARE(f.editor<QBTextField>(id)->placeholder(), one);
+}
+
+void TestInspectorView::typingReachesTheModel_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addRow("text") << u"title"_s;
+    QTest::addRow("several lines") << u"description"_s;
+    QTest::addRow("coordinates") << u"coords"_s;
+    QTest::addRow("date") << u"date"_s;
+    QTest::addRow("place") << u"place"_s;
+}
+
+void TestInspectorView::typingReachesTheModel()
+{
+    QFETCH(const QString, id);
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, {});
+    f.add(u"b.jpg"_s, {});
+    QVERIFY(f.open());
+    const auto input = [&] { return f.row(id)->tabStops().constFirst(); };
+    type(input(), u"12"_s);
+    QCOMPARE(f.model().draftValues().value(id), u"12"_s);
+    QCOMPARE(f.model().editedSingle(), QSet<QString>{ id });
+    QCOMPARE(f.view->footer()->unsavedText(), u"1 unsaved change"_s);
+    f.model().setSaveDontAsk(true);
+    f.model().discardSaveDialog();
+    f.model().selectAllPhotos();
+    QCOMPARE(f.model().batchValues(), (QMap<QString, QString>()));
+    type(f.row(id)->tabStops().at(1), u"34"_s);
+    QCOMPARE(f.model().batchValues().value(id), u"34"_s);
+    QVERIFY(f.model().batchInclude().contains(id));
+    QVERIFY(f.row(id)->tick()->isChecked());
+    QVERIFY(labels(f.row(id)).contains(u"Will be written to all 2 photos"_s));
+}
+
+void TestInspectorView::ticks_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<bool>("ticksWhenEmpty");
+    QTest::addRow("text: writes an empty value") << u"title"_s << true;
+    QTest::addRow("rating") << u"rating"_s << true;
+    QTest::addRow("keywords: only by adding") << u"keywords"_s << false;
+    QTest::addRow("a field of the user's own") << u"custom:Mood"_s << true;
+}
+
+void TestInspectorView::ticks()
+{
+    QFETCH(const QString, id);
+    QFETCH(const bool, ticksWhenEmpty);
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, {});
+    f.add(u"b.jpg"_s, {});
+    QVERIFY(f.open());
+    f.model().selectAllPhotos();
+    f.model().addKnownField(u"rating"_s);
+    f.model().addCustomField(u"Mood"_s, u"calm"_s);
+    const bool custom = id.startsWith(u"custom:"_s);
+    if (!custom) {
+        f.model().toggleBatchCustom(u"Mood"_s);
+        click(f.row(id)->tick());
+        QCOMPARE(f.row(id)->tick()->isChecked(), ticksWhenEmpty);
+        QCOMPARE(f.model().unsavedCount(), ticksWhenEmpty ? 1 : 0);
+    }
+    if (id == u"keywords"_s)
+        f.model().addBatchListItem(id, u"sky"_s);
+    QVERIFY(f.row(id)->tick()->isChecked());
+    QCOMPARE(f.model().unsavedCount(), 1);
+    click(f.row(id)->tick());
+    QCOMPARE(f.model().unsavedCount(), 0);
+    // Nothing but the tick kept the custom field on screen.
+    QCOMPARE(f.row(id) == nullptr, custom);
+}
+
+void TestInspectorView::keywordsOfOnePhoto()
+{
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, { u"-IPTC:Keywords=lake"_s });
+    QVERIFY(f.open());
+    auto* editor = f.editor<KeywordEditor>(u"keywords"_s);
+    QCOMPARE(editor->chips(), QStringList{ u"lake"_s });
+    type(editor->entry(), u" reed \r"_s);
+    QCOMPARE(f.model().draftLists().value(u"keywords"_s), QStringList({ u"lake"_s, u"reed"_s }));
+    QCOMPARE(editor->chips(), QStringList({ u"lake"_s, u"reed"_s }));
+    QVERIFY(f.model().editedSingle().contains(u"keywords"_s));
+    click(button(editor, u"Remove lake"_s));
+    QCOMPARE(f.model().draftLists().value(u"keywords"_s), QStringList{ u"reed"_s });
+    QCOMPARE(editor->chips(), QStringList{ u"reed"_s });
+}
+
+void TestInspectorView::keywordsOfSeveral()
+{
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, { u"-IPTC:Keywords=lake"_s });
+    f.add(u"b.jpg"_s, {});
+    QVERIFY(f.open());
+    f.model().selectAllPhotos();
+    auto* editor = f.editor<KeywordEditor>(u"keywords"_s);
+    QCOMPARE(editor->chips(), QStringList());
+    type(editor->entry(), u"sky\r"_s);
+    QCOMPARE(f.model().batchLists().value(u"keywords"_s), QStringList{ u"sky"_s });
+    QVERIFY(labels(f.row(u"keywords"_s)).contains(u"appends — existing values kept"_s));
+    QVERIFY(f.row(u"keywords"_s)->tick()->isChecked());
+    click(button(editor, u"Remove sky"_s));
+    QCOMPARE(f.model().unsavedCount(), 0);
+    QVERIFY(!labels(f.row(u"keywords"_s)).contains(u"appends — existing values kept"_s));
+}
+
+void TestInspectorView::nowReplacesTheDate()
+{
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, { u"-EXIF:DateTimeOriginal=2001:02:03 04:05:06"_s });
+    f.photos.services.now = [] { return QDateTime({ 2026, 7, 14 }, { 9, 5, 59 }); };
+    f.photos.relaunch();
+    QVERIFY(f.open());
+    QCOMPARE(f.editor<QBTextField>(u"date"_s)->text(), u"2001-02-03 04:05"_s);
+    click(button(f.row(u"date"_s), u"Now"_s));
+    QCOMPARE(f.model().draftValues().value(u"date"_s), u"2026-07-14 09:05"_s);
+    QCOMPARE(f.editor<QBTextField>(u"date"_s)->text(), u"2026-07-14 09:05"_s);
+}
+
+void TestInspectorView::ratingByMouseAndKey()
+{
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, { u"-XMP:Rating=3"_s });
+    QVERIFY(f.open());
+    auto* stars = f.editor<RatingEditor>(u"rating"_s);
+    QCOMPARE(stars->rating(), 3);
+    QTest::keyClick(stars, Qt::Key_5);
+    QCOMPARE(f.model().draftValues().value(u"rating"_s), u"5"_s);
+    QCOMPARE(stars->rating(), 5);
+}
+
+void TestInspectorView::footer_data()
+{
+    QTest::addColumn<bool>("several");
+    QTest::addColumn<QStringList>("fields");
+    QTest::addColumn<QString>("text");
+    QTest::addRow("one photo, nothing") << false << QStringList() << u"No unsaved changes"_s;
+    QTest::addRow("one photo, one") << false << QStringList{ u"title"_s } << u"1 unsaved change"_s;
+    QTest::addRow("one photo, three") << false << QStringList{ u"title"_s, u"creator"_s, u"place"_s }
+                                      << u"3 unsaved changes"_s;
+    QTest::addRow("several, nothing") << true << QStringList() << u"No unsaved changes"_s;
+    QTest::addRow("several, one") << true << QStringList{ u"title"_s } << u"1 field → 2 files"_s;
+    QTest::addRow("several, two") << true << QStringList{ u"title"_s, u"creator"_s } << u"2 fields → 2 files"_s;
+}
+
+void TestInspectorView::footer()
+{
+    QFETCH(const bool, several);
+    QFETCH(const QStringList, fields);
+    QFETCH(const QString, text);
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, {});
+    f.add(u"b.jpg"_s, {});
+    QVERIFY(f.open());
+    if (several)
+        f.model().selectAllPhotos();
+    for (const QString& id : fields)
+        several ? f.model().setBatch(id, u"x"_s) : f.model().setSingle(id, u"x"_s);
+    QCOMPARE(f.view->footer()->unsavedText(), text);
+    QCOMPARE(f.view->footer()->addButton()->text(), several ? u"Add field to all"_s : u"Add field"_s);
+    QCOMPARE(f.view->footer()->saveButton()->text(), several ? u"Apply to 2"_s : u"Save"_s);
+    QCOMPARE(f.view->footer()->saveButton()->isEnabled(), !fields.isEmpty());
+}
+
+void TestInspectorView::footerButtons()
+{
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, {});
+    QVERIFY(f.open());
+    QVERIFY(!f.view->footer()->renameButton()->isVisible());
+    type(f.editor<QBTextField>(u"title"_s), u"Dusk"_s);
+    click(f.view->footer()->renameButton());
+    QVERIFY(f.model().renameOpen());
+    click(f.view->footer()->addButton());
+    QVERIFY(f.model().addOpen());
+    f.model().setSaveDontAsk(true);
+    click(f.view->footer()->saveButton());
+    QVERIFY(f.model().isSaving());
+    QCOMPARE(f.view->footer()->saveButton()->text(), u"Saving…"_s);
+    QVERIFY(f.photos.waitUntilIdle());
+    QCOMPARE(f.view->footer()->saveButton()->text(), u"Save"_s);
+    QCOMPARE(f.view->footer()->unsavedText(), u"No unsaved changes"_s);
+    QCOMPARE(f.photos.onDisk(u"a.jpg"_s, u"XMP:Title"_s).toString(), u"Dusk"_s);
+}
+
+void TestInspectorView::mapFollowsTheCoordinates()
+{
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, {});
+    QVERIFY(f.open());
+    auto* map = f.view->findChild<MapPreview*>();
+    QVERIFY(!map->isVisible());
+    auto* field = f.editor<QBTextField>(u"coords"_s);
+    type(field, u"47.5, 8"_s);
+    QVERIFY(map->isVisible());
+    QCOMPARE(map->point(), (Coordinates::Point{ 47.5, 8 }));
+    QTest::keyClick(field, Qt::Key_Backspace);
+    QVERIFY(!map->isVisible());
+}
+
+void TestInspectorView::fillsPlaceFromCoordinates()
+{
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, located);
+    f.add(u"b.jpg"_s, located + QStringList{ u"-XMP-photoshop:Country=Schweiz"_s });
+    QVERIFY(f.open());
+    auto* link = f.view->form()->locationMap()->fillLink();
+    click(link);
+    QCOMPARE(f.model().draftValues().value(u"place"_s), u"Zürich"_s);
+    QCOMPARE(f.model().draftValues().value(u"country"_s), u"Switzerland"_s);
+    QCOMPARE(f.model().draftValues().value(u"coords"_s), f.model().primaryRecord()->values.value(u"coords"_s));
+    QVERIFY(!f.model().editedSingle().contains(u"coords"_s));
+    QCOMPARE(f.editor<QBTextField>(u"place"_s)->text(), u"Zürich"_s);
+    QVERIFY(!link->isVisible());
+    f.model().discardSaveDialog();
+    f.model().setSingle(u"coords"_s, u"-40, 8"_s);
+    click(link);
+    QVERIFY(labels(f.view->form()->locationMap()).contains(u"Couldn't look that up"_s));
+    QVERIFY(!f.model().editedSingle().contains(u"place"_s));
+    f.model().discardSaveDialog();
+    f.click(u"b.jpg"_s);
+    QVERIFY(f.view->findChild<MapPreview*>()->isVisible());
+    QVERIFY(!link->isVisible());
+}
+
+void TestInspectorView::picksAPlace()
+{
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, {});
+    QVERIFY(f.open());
+    auto* field = f.editor<LocationSearchField>(u"place"_s);
+    type(field, u"Para"_s);
+    QTRY_VERIFY(field->showsSuggestions());
+    QTest::keyClick(field, Qt::Key_Down);
+    QTest::keyClick(field, Qt::Key_Return);
+    QCOMPARE(f.model().draftValues().value(u"place"_s), u"Zürich"_s);
+    QCOMPARE(f.model().draftValues().value(u"sublocation"_s), u"Paradeplatz"_s);
+    QCOMPARE(f.model().draftValues().value(u"coords"_s), u"47.370000, 8.540000"_s);
+    QCOMPARE(field->text(), u"Zürich"_s);
+    QVERIFY(f.row(u"sublocation"_s));
+}
+
+void TestInspectorView::rowsAreReused()
+{
+    InspectorFixture f;
+    addThree(f);
+    QVERIFY(f.open());
+    const FieldRow* title = f.row(u"title"_s);
+    const QList<FieldRow*> before = f.view->findChildren<FieldRow*>();
+    f.click(u"b.jpg"_s);
+    type(f.editor<QBTextField>(u"title"_s), u"x"_s);
+    f.model().discardSaveDialog();
+    f.model().selectAllPhotos();
+    f.click(u"a.jpg"_s);
+    QCOMPARE(f.row(u"title"_s), title);
+    QCOMPARE(f.view->findChildren<FieldRow*>().size(), before.size());
+}
+
+void TestInspectorView::typingKeepsTheCaret()
+{
+    InspectorFixture f;
+    addThree(f);
+    QVERIFY(f.open());
+    auto* title = f.editor<QBTextField>(u"title"_s);
+    type(title, {});
+    title->setCursorPosition(1);
+    QTest::keyClicks(title, u"--"_s);
+    QCOMPARE(title->text(), u"O--ne"_s);
+    QCOMPARE(title->cursorPosition(), 3);
+    // The same value again, as after a save: the caret and the undo history stay.
+    f.model().setSaveDontAsk(true);
+    f.model().requestSave();
+    QVERIFY(f.photos.waitUntilIdle());
+    QCOMPARE(title->cursorPosition(), 3);
+    QVERIFY(title->isUndoAvailable());
+    QCOMPARE(f.model().unsavedCount(), 0);
+}
+
+void TestInspectorView::undoStaysWithItsPhoto()
+{
+    InspectorFixture f;
+    addThree(f);
+    QVERIFY(f.open());
+    f.click(u"b.jpg"_s);
+    auto* title = f.editor<QBTextField>(u"title"_s);
+    type(title, u"x"_s);
+    QTest::keyClick(title, Qt::Key_Backspace);
+    QCOMPARE(title->text(), u"Two"_s);
+    f.model().discardSaveDialog();
+    f.click(u"c.jpg"_s);
+    QCOMPARE(title->text(), u"Two"_s);
+    QTest::keyClick(title, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(title->text(), u"Two"_s);
+    QCOMPARE(f.model().unsavedCount(), 0);
+}
+
+void TestInspectorView::halfTypedKeywordStaysBehind()
+{
+    InspectorFixture f;
+    addThree(f);
+    QVERIFY(f.open());
+    auto* editor = f.editor<KeywordEditor>(u"keywords"_s);
+    type(editor->entry(), u"sun"_s);
+    f.model().setSingle(u"title"_s, u"Other"_s);
+    QCOMPARE(editor->entryText(), u"sun"_s);
+    f.model().discardSaveDialog();
+    f.click(u"b.jpg"_s);
+    QCOMPARE(editor->entryText(), QString());
+}
+
+void TestInspectorView::addedFieldTakesTheFocusAndGoesAgain()
+{
+    InspectorFixture f;
+    addThree(f);
+    QVERIFY(f.open());
+    QVERIFY(!f.row(u"headline"_s));
+    f.model().addKnownField(u"headline"_s);
+    QVERIFY(f.row(u"headline"_s)->isVisible());
+    QTRY_COMPARE(QApplication::focusWidget(), f.editor<QBTextField>(u"headline"_s));
+    click(button(f.row(u"headline"_s), u"Remove this field"_s));
+    QVERIFY(!f.row(u"headline"_s));
+    QVERIFY(!f.model().sessionAddedKnownIDs().contains(u"headline"_s));
+    QVERIFY(!button(f.row(u"title"_s), u"Remove this field"_s));
+    for (const bool several : { false, true }) {
+        if (several) {
+            f.model().discardSaveDialog();
+            f.model().selectAllPhotos();
+        }
+        f.model().addCustomField(several ? u"Weather"_s : u"Mood"_s, u"calm"_s);
+        QTRY_COMPARE(
+            QApplication::focusWidget(), f.editor<QBTextField>(several ? u"custom:Weather"_s : u"custom:Mood"_s));
+    }
+}
+
+void TestInspectorView::namespaceLines()
+{
+    InspectorFixture f;
+    addThree(f);
+    QVERIFY(f.open());
+    f.model().addCustomField(u"Mood"_s, u"calm"_s);
+    const auto line = u"XMP-dc:title · IPTC:ObjectName"_s;
+    QVERIFY(!labels(f.row(u"title"_s)).contains(line));
+    f.model().setShowNamespace(true);
+    QVERIFY(labels(f.row(u"title"_s)).contains(line));
+    QVERIFY(labels(f.view->form()->customRow(u"Mood"_s)).contains(u"XMP-Quorbel:Mood"_s));
+    f.model().setShowNamespace(false);
+    QVERIFY(!labels(f.row(u"title"_s)).contains(line));
+}
+
+void TestInspectorView::tabGoesFromTopToBottom()
+{
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, located);
+    f.add(u"b.jpg"_s, {});
+    QVERIFY(f.open({ 520, 1400 }));
+    // Made last, but not shown last.
+    f.model().addKnownField(u"country"_s);
+    f.model().addCustomField(u"Mood"_s, u"calm"_s);
+    f.model().setSingle(u"title"_s, u"T"_s);
+    f.settle();
+    QCOMPARE(tabStopsFrom(f.editor<QBTextField>(u"title"_s)),
+        QStringList({ u"Title"_s, u"Description"_s, u"Date taken"_s, u"Now"_s, u"Keywords"_s, u"Creator"_s,
+            u"Copyright"_s, u"Place"_s, u"Coordinates"_s, u"Country"_s, u"Remove this field"_s,
+            u"Fill place from coordinates"_s, u"Mood"_s, u"Rename…"_s, u"Add field"_s, u"Save"_s }));
+    // The ticks of several photos come and go, and photos bring rows that others do not have.
+    f.model().discardSaveDialog();
+    f.model().selectAllPhotos();
+    f.settle();
+    QCOMPARE(tabStopsFrom(f.row(u"title"_s)->tick()).mid(0, 7),
+        QStringList({ u"Write Title to all selected files"_s, u"Title"_s, u"Write Description to all selected files"_s,
+            u"Description"_s, u"Write Date taken to all selected files"_s, u"Date taken"_s, u"Now"_s }));
+    f.click(u"b.jpg"_s);
+    f.settle();
+    QCOMPARE(tabStopsFrom(f.editor<QBTextField>(u"title"_s)),
+        QStringList({ u"Title"_s, u"Description"_s, u"Date taken"_s, u"Now"_s, u"Keywords"_s, u"Creator"_s,
+            u"Copyright"_s, u"Place"_s, u"Coordinates"_s, u"Add field"_s }));
+}
+
+void TestInspectorView::tellsScreenReaders()
+{
+    InspectorFixture f;
+    addThree(f);
+    QVERIFY(f.open());
+    auto* title = f.editor<QBTextField>(u"title"_s);
+    QCOMPARE(title->accessibleName(), u"Title"_s);
+    QCOMPARE(title->accessibleDescription(), QString());
+    type(title, u"x"_s);
+    QCOMPARE(title->accessibleDescription(), u"edited"_s);
+    QCOMPARE(f.editor<KeywordEditor>(u"keywords"_s)->entry()->accessibleName(), u"Keywords"_s);
+    f.model().discardSaveDialog();
+    f.model().selectAllPhotos();
+    f.model().setBatch(u"title"_s, u"All"_s);
+    QCOMPARE(title->accessibleDescription(), u"Will be written to all 3 photos"_s);
+    QCOMPARE(f.row(u"title"_s)->tick()->accessibleName(), u"Write Title to all selected files"_s);
+}
+
+void TestInspectorView::keepsTheCaretInSight()
+{
+    InspectorFixture f;
+    addThree(f);
+    QVERIFY(f.open({ 520, 420 }));
+    auto* area = f.editor<QBTextArea>(u"description"_s);
+    type(area->viewport(), {});
+    for (int i = 0; i < 30; ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QTest::keyClicks(QApplication::focusWidget(), u"end"_s);
+    const QWidget* viewport = f.view->findChild<QScrollArea*>()->viewport();
+    QTRY_VERIFY(viewport->rect().contains(area->viewport()->mapTo(f.window.get(), area->cursorRect().center())
+        - viewport->mapTo(f.window.get(), QPoint())));
+    QTest::keyClick(area, Qt::Key_Tab);
+    auto* date = f.editor<QBTextField>(u"date"_s);
+    QCOMPARE(QApplication::focusWidget(), date);
+    QTRY_VERIFY(viewport->rect().contains(QRect(date->mapTo(f.window.get(), QPoint()), date->size())));
+}
+
+QTEST_MAIN(TestInspectorView)
+#include "tst_InspectorView.moc"

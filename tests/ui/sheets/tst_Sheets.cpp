@@ -1,0 +1,439 @@
+// The add-field sheet, the save dialog and the rename sheet, presented over a window and used.
+#include "app/model/AppModel.h"
+#include "tests/app/model/ModelFixture.h"
+#include "tests/ui/UiSupport.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Marks.h"
+#include "ui/controls/TextFields.h"
+#include "ui/sheets/AddFieldSheet.h"
+#include "ui/sheets/AddableFieldList.h"
+#include "ui/sheets/RenameSheet.h"
+#include "ui/sheets/SaveDialogView.h"
+
+#include <QAccessible>
+#include <QLabel>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A model with photos in its folder, and a window for its sheets.
+struct Desk {
+    explicit Desk(const QStringList& names)
+    {
+        photos.addTitled(names);
+        window.resize(700, 800);
+        window.show();
+        window.activateWindow();
+    }
+
+    bool open() { return QTest::qWaitForWindowActive(&window) && photos.open(); }
+
+    template <typename Sheet>
+    Sheet* present()
+    {
+        auto* sheet = new Sheet(*photos.model);
+        host->present(sheet);
+        return sheet;
+    }
+
+    AppModel& model() { return *photos.model; }
+
+    ModelFixture photos;
+    QWidget window;
+    SheetHost* host = new SheetHost(&window);
+};
+
+QAbstractButton* button(const QWidget* sheet, const QString& title)
+{
+    for (auto* candidate : sheet->findChildren<QAbstractButton*>())
+        if (candidate->isVisible() && candidate->text() == title)
+            return candidate;
+    return nullptr;
+}
+
+void click(QAbstractButton* target)
+{
+    QVERIFY(target);
+    QTest::mouseClick(target, Qt::LeftButton);
+}
+
+QStringList titles(const QWidget* sheet)
+{
+    QStringList found;
+    for (const auto* candidate : sheet->findChildren<QBButton*>())
+        if (candidate->isVisible())
+            found.append(candidate->text());
+    return found;
+}
+
+QStringList labels(const QWidget* sheet)
+{
+    QStringList texts;
+    for (const QLabel* label : sheet->findChildren<QLabel*>())
+        if (label->isVisible() && !label->text().isEmpty())
+            texts.append(label->text());
+    return texts;
+}
+
+QBTextField* field(const QWidget* sheet, const QString& name)
+{
+    for (auto* candidate : sheet->findChildren<QBTextField*>())
+        if (candidate->accessibleName() == name)
+            return candidate;
+    return nullptr;
+}
+
+void press(Qt::Key key)
+{
+    QTest::keyClick(QApplication::focusWidget(), key);
+}
+
+}  // namespace
+
+class TestSheets : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void saveDialogOfOnePhoto_data();
+    void saveDialogOfOnePhoto();
+    void saveDialogOfSeveral_data();
+    void saveDialogOfSeveral();
+    void saveDialogAnswers_data();
+    void saveDialogAnswers();
+    void saveDialogRemembersNotToAsk();
+    void renameBuildsAPattern();
+    void renameAnswers_data();
+    void renameAnswers();
+    void addFieldFilters_data();
+    void addFieldFilters();
+    void addFieldWithoutAnyLeft();
+    void addFieldByMouseAndKeys_data();
+    void addFieldByMouseAndKeys();
+    void customNames_data();
+    void customNames();
+    void customFieldIsAdded();
+};
+
+void TestSheets::init()
+{
+    failOnWarnings();
+    qputenv("QUORBEL_REDUCE_MOTION", "1");
+}
+
+void TestSheets::saveDialogOfOnePhoto_data()
+{
+    QTest::addColumn<QStringList>("fields");
+    QTest::addColumn<QString>("message");
+    QTest::addRow("one field") << QStringList{ u"title"_s }
+                               << u"You edited 1 field. Your changes will be lost if you don’t save them."_s;
+    QTest::addRow("two fields") << QStringList{ u"title"_s, u"creator"_s }
+                                << u"You edited 2 fields. Your changes will be lost if you don’t save them."_s;
+}
+
+void TestSheets::saveDialogOfOnePhoto()
+{
+    QFETCH(const QStringList, fields);
+    QFETCH(const QString, message);
+    Desk desk({ u"a.jpg"_s });
+    QVERIFY(desk.open());
+    for (const QString& id : fields)
+        desk.model().setSingle(id, u"x"_s);
+    const auto* sheet = desk.present<SaveDialogView>();
+    QCOMPARE(labels(sheet), QStringList({ u"Save changes to “a.jpg”?"_s, message }));
+    QCOMPARE(titles(sheet), QStringList({ u"Don't Save"_s, u"Cancel"_s, u"Save"_s }));
+    QVERIFY(button(sheet, u"Save and don’t ask again"_s));
+    QCOMPARE(QApplication::focusWidget(), button(sheet, u"Save"_s));
+    const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(sheet->parentWidget());
+    QCOMPARE(told->role(), QAccessible::Dialog);
+    QCOMPARE(told->text(QAccessible::Name), u"Save changes to “a.jpg”?"_s);
+    QCOMPARE(told->text(QAccessible::Description), message);
+}
+
+void TestSheets::saveDialogOfSeveral_data()
+{
+    QTest::addColumn<QMap<QString, QString>>("values");
+    QTest::addColumn<QStringList>("keywords");
+    QTest::addColumn<QStringList>("texts");
+    const auto title = u"Apply changes to 2 photos?"_s;
+    using Values = QMap<QString, QString>;
+    QTest::addRow("nothing") << Values() << QStringList()
+                             << QStringList{ title,
+                                    u"This will modify the selected fields on 2 files. This can’t be undone."_s };
+    QTest::addRow("keywords only") << Values() << QStringList{ u"sky"_s, u"sea"_s }
+                                   << QStringList{ title,
+                                          u"This will modify Keywords on 2 files. This can’t be undone."_s,
+                                          u"Keywords"_s, u"sky, sea"_s };
+    QTest::addRow("fields by id, then lists")
+        << Values{ { u"title"_s, u"T"_s }, { u"copyright"_s, QString() } } << QStringList{ u"sky"_s }
+        << QStringList{ title, u"This will modify Copyright, Title, Keywords on 2 files. This can’t be undone."_s,
+               u"Copyright"_s, u"“”"_s, u"Title"_s, u"“T”"_s, u"Keywords"_s, u"sky"_s };
+}
+
+void TestSheets::saveDialogOfSeveral()
+{
+    using Values = QMap<QString, QString>;
+    QFETCH(const Values, values);
+    QFETCH(const QStringList, keywords);
+    QFETCH(const QStringList, texts);
+    Desk desk({ u"a.jpg"_s, u"b.jpg"_s });
+    QVERIFY(desk.open());
+    desk.model().selectAllPhotos();
+    for (auto value = values.cbegin(); value != values.cend(); ++value) {
+        desk.model().toggleBatchInclude(value.key());
+        desk.model().setBatch(value.key(), value.value());
+    }
+    for (const QString& keyword : keywords)
+        desk.model().addBatchListItem(u"keywords"_s, keyword);
+    const auto* sheet = desk.present<SaveDialogView>();
+    QCOMPARE(labels(sheet), texts);
+    QCOMPARE(titles(sheet), QStringList({ u"Cancel"_s, u"Apply to 2 Photos"_s }));
+    QVERIFY(button(sheet, u"Don’t ask again this session"_s));
+}
+
+void TestSheets::saveDialogAnswers_data()
+{
+    QTest::addColumn<QString>("pressed");  // the title of a button, or a key
+    QTest::addColumn<QString>("titleAfter");
+    QTest::addColumn<QString>("primaryAfter");
+    QTest::addRow("save goes on") << u"Save"_s << u"Edited"_s << u"b.jpg"_s;
+    QTest::addRow("Return saves") << u"Return"_s << u"Edited"_s << u"b.jpg"_s;
+    QTest::addRow("don't save goes on") << u"Don't Save"_s << u"a.jpg"_s << u"b.jpg"_s;
+    QTest::addRow("cancel stays") << u"Cancel"_s << u"a.jpg"_s << u"a.jpg"_s;
+    QTest::addRow("Escape stays") << u"Escape"_s << u"a.jpg"_s << u"a.jpg"_s;
+}
+
+void TestSheets::saveDialogAnswers()
+{
+    QFETCH(const QString, pressed);
+    QFETCH(const QString, titleAfter);
+    QFETCH(const QString, primaryAfter);
+    Desk desk({ u"a.jpg"_s, u"b.jpg"_s });
+    QVERIFY(desk.open());
+    desk.model().setSingle(u"title"_s, u"Edited"_s);
+    desk.photos.click(u"b.jpg"_s);
+    QVERIFY(desk.model().saveOpen());
+    const auto* sheet = desk.present<SaveDialogView>();
+    if (pressed == u"Return"_s || pressed == u"Escape"_s)
+        press(pressed == u"Return"_s ? Qt::Key_Return : Qt::Key_Escape);
+    else
+        click(button(sheet, pressed));
+    QVERIFY(desk.photos.waitUntilIdle());
+    QVERIFY(!desk.model().saveOpen());
+    QCOMPARE(desk.photos.onDisk(u"a.jpg"_s, u"XMP:Title"_s).toString(), titleAfter);
+    QCOMPARE(desk.photos.primary(), primaryAfter);
+    QCOMPARE(desk.model().unsavedCount(), primaryAfter == u"a.jpg"_s ? 1 : 0);
+}
+
+void TestSheets::saveDialogRemembersNotToAsk()
+{
+    Desk desk({ u"a.jpg"_s, u"b.jpg"_s });
+    QVERIFY(desk.open());
+    auto* one = qobject_cast<QBCheckbox*>(button(desk.present<SaveDialogView>(), u"Save and don’t ask again"_s));
+    QVERIFY(one && !one->isChecked());
+    click(one);
+    QVERIFY(one->isChecked());
+    QVERIFY(desk.model().saveDontAsk());
+    click(one);
+    QVERIFY(!desk.model().saveDontAsk());
+    desk.model().selectAllPhotos();
+    auto* several =
+        qobject_cast<QBCheckbox*>(button(desk.present<SaveDialogView>(), u"Don’t ask again this session"_s));
+    QVERIFY(several && !several->isChecked());
+    QTest::keyClick(several, Qt::Key_Space);
+    QVERIFY(several->isChecked());
+    QVERIFY(desk.model().batchDontAskSession());
+    QVERIFY(!desk.model().saveDontAsk());
+}
+
+void TestSheets::renameBuildsAPattern()
+{
+    Desk desk({ u"a.jpg"_s });
+    QVERIFY(desk.open());
+    desk.model().setSingle(u"title"_s, u"Last light"_s);
+    desk.model().setSingle(u"creator"_s, u"Mara"_s);
+    auto* sheet = desk.present<RenameSheet>();
+    auto* pattern = field(sheet, u"Pattern"_s);
+    QCOMPARE(pattern->text(), u"%Date%_%Title%"_s);
+    QCOMPARE(QApplication::focusWidget(), pattern);
+    QStringList chips;
+    for (const auto* chip : sheet->findChildren<TokenChip*>())
+        chips.append(chip->text());
+    QCOMPARE(
+        chips, QStringList({ u"Date taken"_s, u"Time"_s, u"Title"_s, u"Creator"_s, u"Place"_s, u"Original name"_s }));
+    pattern->selectAll();
+    QTest::keyClicks(pattern, u"trip"_s);
+    QCOMPARE(desk.model().renamePattern(), u"trip"_s);
+    QVERIFY(labels(sheet).contains(u"trip.jpg"_s));
+    click(button(sheet, u"Creator"_s));
+    QCOMPARE(pattern->text(), u"trip_%Creator%"_s);
+    QVERIFY(labels(sheet).contains(u"trip_Mara.jpg"_s));
+    QCOMPARE(QApplication::focusWidget(), pattern);
+    pattern->selectAll();
+    press(Qt::Key_Backspace);
+    QVERIFY(labels(sheet).contains(u"untitled.jpg"_s));
+    QVERIFY(!button(sheet, u"Rename"_s)->isEnabled());
+    press(Qt::Key_Return);
+    QVERIFY(desk.photos.folder.names().contains(u"a.jpg"_s));
+}
+
+void TestSheets::renameAnswers_data()
+{
+    QTest::addColumn<QString>("pressed");
+    QTest::addColumn<QString>("fileName");
+    QTest::addRow("rename") << u"Rename"_s << u"dusk.jpg"_s;
+    QTest::addRow("Return renames") << u"Return"_s << u"dusk.jpg"_s;
+    QTest::addRow("cancel") << u"Cancel"_s << u"a.jpg"_s;
+    QTest::addRow("Escape") << u"Escape"_s << u"a.jpg"_s;
+}
+
+void TestSheets::renameAnswers()
+{
+    QFETCH(const QString, pressed);
+    QFETCH(const QString, fileName);
+    Desk desk({ u"a.jpg"_s });
+    QVERIFY(desk.open());
+    desk.model().setRenamePattern(u"dusk"_s);
+    desk.model().setRenameOpen(true);
+    const auto* sheet = desk.present<RenameSheet>();
+    if (pressed == u"Return"_s || pressed == u"Escape"_s)
+        press(pressed == u"Return"_s ? Qt::Key_Return : Qt::Key_Escape);
+    else
+        click(button(sheet, pressed));
+    QVERIFY(!desk.model().renameOpen());
+    QCOMPARE(desk.photos.folder.names(), QStringList{ fileName });
+}
+
+void TestSheets::addFieldFilters_data()
+{
+    QTest::addColumn<QString>("query");
+    QTest::addColumn<QStringList>("ids");
+    QTest::addRow("a label") << u"Headl"_s << QStringList{ u"headline"_s };
+    QTest::addRow("any case, blanks around") << u"  hEADL "_s << QStringList{ u"headline"_s };
+    QTest::addRow("a note") << u"neighborhood"_s << QStringList{ u"sublocation"_s };
+    QTest::addRow("a tag") << u"TransmissionReference"_s << QStringList{ u"jobId"_s };
+    QTest::addRow("none") << u"qqq"_s << QStringList();
+}
+
+void TestSheets::addFieldFilters()
+{
+    QFETCH(const QString, query);
+    QFETCH(const QStringList, ids);
+    Desk desk({ u"a.jpg"_s });
+    QVERIFY(desk.open());
+    auto* sheet = desk.present<AddFieldSheet>();
+    const auto* list = sheet->findChild<AddableFieldList*>();
+    QCOMPARE(list->shownIds().size(), desk.model().addableKnownFields().size());
+    QCOMPARE(QApplication::focusWidget(), field(sheet, u"Search fields"_s));
+    QTest::keyClicks(QApplication::focusWidget(), query);
+    QCOMPARE(list->shownIds(), ids);
+    QCOMPARE(labels(list), ids.isEmpty() ? QStringList{ u"No matching fields."_s } : QStringList());
+    field(sheet, u"Search fields"_s)->setText(u"   "_s);
+    QCOMPARE(list->shownIds().size(), desk.model().addableKnownFields().size());
+}
+
+void TestSheets::addFieldWithoutAnyLeft()
+{
+    Desk desk({ u"a.jpg"_s });
+    QVERIFY(desk.open());
+    for (const FieldSpec& spec : desk.model().addableKnownFields())
+        desk.model().addKnownField(spec.id);
+    auto* sheet = desk.present<AddFieldSheet>();
+    const auto* list = sheet->findChild<AddableFieldList*>();
+    QCOMPARE(labels(list), QStringList{ u"All recommended fields are already shown."_s });
+    QTest::keyClicks(QApplication::focusWidget(), u"x"_s);
+    QCOMPARE(labels(list), QStringList{ u"No matching fields."_s });
+}
+
+void TestSheets::addFieldByMouseAndKeys_data()
+{
+    QTest::addColumn<QString>("query");
+    QTest::addColumn<QList<int>>("keys");
+    QTest::addColumn<QString>("added");
+    QTest::addRow("click") << QString() << QList<int>() << u"rating"_s;
+    QTest::addRow("down, Return") << QString() << QList<int>{ Qt::Key_Down, Qt::Key_Return } << u"rating"_s;
+    QTest::addRow("down twice, up, down, Space")
+        << QString() << QList<int>{ Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Down, Qt::Key_Space }
+        << u"headline"_s;
+    QTest::addRow("Tab into the list") << QString() << QList<int>{ Qt::Key_Tab, Qt::Key_Down, Qt::Key_Return }
+                                       << u"headline"_s;
+    QTest::addRow("Return on the only one left") << u"urgency"_s << QList<int>{ Qt::Key_Return } << u"urgency"_s;
+    QTest::addRow("Return on several adds none") << u"date"_s << QList<int>{ Qt::Key_Return } << QString();
+    QTest::addRow("Escape adds none") << u"urgency"_s << QList<int>{ Qt::Key_Escape } << QString();
+}
+
+void TestSheets::addFieldByMouseAndKeys()
+{
+    QFETCH(const QString, query);
+    QFETCH(const QList<int>, keys);
+    QFETCH(const QString, added);
+    Desk desk({ u"a.jpg"_s });
+    QVERIFY(desk.open());
+    desk.model().setAddOpen(true);
+    auto* sheet = desk.present<AddFieldSheet>();
+    QTest::keyClicks(QApplication::focusWidget(), query);
+    for (const int key : keys)
+        press(Qt::Key(key));
+    if (keys.isEmpty())
+        click(button(sheet, u"Rating"_s));
+    QCOMPARE(desk.model().sessionAddedKnownIDs(), added.isEmpty() ? QSet<QString>() : QSet<QString>{ added });
+    const bool closed = !added.isEmpty() || keys.contains(int(Qt::Key_Escape));
+    QCOMPARE(desk.model().addOpen(), !closed);
+}
+
+void TestSheets::customNames_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<bool>("accepted");
+    QTest::addColumn<QString>("said");  // begins so; "" for nothing
+    QTest::addRow("empty") << QString() << false << QString();
+    QTest::addRow("nothing left") << u"-- 12 !"_s << false << QString();
+    QTest::addRow("as it is") << u"Project"_s << true << QString();
+    QTest::addRow("cleaned") << u"Project code"_s << true << u"Will be stored as “Projectcode”"_s;
+    QTest::addRow("one letter") << u"P"_s << false << u"A name needs"_s;
+    QTest::addRow("beyond ASCII") << u"Größe"_s << false << u"Only the letters"_s;
+    QTest::addRow("reserved") << u"NOTES"_s << false << u"“NOTES” is a reserved word"_s;
+}
+
+void TestSheets::customNames()
+{
+    QFETCH(const QString, typed);
+    QFETCH(const bool, accepted);
+    QFETCH(const QString, said);
+    Desk desk({ u"a.jpg"_s });
+    QVERIFY(desk.open());
+    auto* sheet = desk.present<AddFieldSheet>();
+    auto* name = field(sheet, u"Name"_s);
+    const int height = sheet->height();
+    name->setFocus();
+    name->insert(typed);
+    QCOMPARE(button(sheet, u"Add Field"_s)->isEnabled(), accepted);
+    QStringList answers = labels(sheet);
+    answers.removeIf([&said](const QString& text) { return said.isEmpty() || !text.startsWith(said); });
+    QCOMPARE(answers.size(), said.isEmpty() ? 0 : 1);
+    QCOMPARE(sheet->height(), height);
+    field(sheet, u"Value"_s)->setText(u"v"_s);
+    press(Qt::Key_Return);
+    QCOMPARE(desk.model().draftCustoms().size(), accepted ? 1 : 0);
+}
+
+void TestSheets::customFieldIsAdded()
+{
+    Desk desk({ u"a.jpg"_s });
+    QVERIFY(desk.open());
+    desk.model().setAddOpen(true);
+    auto* sheet = desk.present<AddFieldSheet>();
+    field(sheet, u"Name"_s)->setFocus();
+    QTest::keyClicks(QApplication::focusWidget(), u"Project code"_s);
+    press(Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), u"Q-7"_s);
+    click(button(sheet, u"Add Field"_s));
+    QCOMPARE(desk.model().draftCustoms(), QList<CustomValue>({ { u"Projectcode"_s, u"Q-7"_s } }));
+    QVERIFY(!desk.model().addOpen());
+}
+
+QTEST_MAIN(TestSheets)
+#include "tst_Sheets.moc"

@@ -1,0 +1,476 @@
+// The main window: columns, bar, drops, banner, sheets, progress and appearance, as a person meets them.
+#include "app/model/thumbnails/ThumbnailStore.h"
+#include "tests/ui/window/WindowFixture.h"
+#include "ui/controls/ResizeHandle.h"
+#include "ui/sidebar/SidebarList.h"
+#include "ui/sidebar/SidebarView.h"
+#include "ui/window/ColumnRow.h"
+#include "ui/window/ErrorBanner.h"
+#include "ui/window/LaunchView.h"
+#include "ui/window/PreviewColumnView.h"
+#include "ui/window/ProgressFoot.h"
+#include "ui/window/WindowGrowth.h"
+
+#include <QDropEvent>
+#include <QMenu>
+#include <QMimeData>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+
+namespace {
+
+/// Drags over, or drops on, a widget the way that the platform's drag and drop does; whether it was accepted.
+template <typename Event>
+bool drag(QWidget* widget, const QList<QUrl>& urls, const QString& text = {})
+{
+    QMimeData data;
+    if (!urls.isEmpty())
+        data.setUrls(urls);
+    if (!text.isEmpty())
+        data.setText(text);
+    if constexpr (std::is_same_v<Event, QDropEvent>) {
+        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+        event.ignore();
+        QCoreApplication::sendEvent(widget, &event);
+        return event.isAccepted();
+    } else {
+        Event event(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+        event.ignore();
+        QCoreApplication::sendEvent(widget, &event);
+        return event.isAccepted();
+    }
+}
+
+/// Ends a drag that is not dropped. Without it Qt keeps the widget under the last one, also when that is gone.
+void endDrag(QWidget* widget)
+{
+    QDragLeaveEvent event;
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+QPalette paletteOf(const QColor& window, const QColor& text)
+{
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::WindowText, text);
+    return palette;
+}
+
+}  // namespace
+
+class tst_ContentView : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void launchViewUntilPhotosAreOpen();
+    void columnWidths_data();
+    void columnWidths();
+    void previewNeedsRoomAndWish();
+    void widening_data();
+    void widening();
+    void sidebarWidthIsKeptInItsLimits();
+    void dropsAnywhere();
+    void dropsOfNothingUseful();
+    void saveButtonSaysWhatItDoes();
+    void settingsMenuFlipsItsFlags();
+    void bannerStaysUntilItIsDismissed();
+    void withoutTheToolTheBannerSaysSo();
+    void sheetTakesTheKeyboard();
+    void progressOfALongRead();
+    void progressOfALongWrite();
+    void appearanceIsFollowedLive();
+    void previewShowsThePhotoOrTheStack();
+};
+
+void tst_ContentView::launchViewUntilPhotosAreOpen()
+{
+    WindowFixture fixture;
+    fixture.show();
+    QVERIFY(fixture.window->findChild<LaunchView*>()->isVisible());
+    QVERIFY(!fixture.window->findChild<SidebarView*>()->isVisible());
+    QCOMPARE(fixture.window->windowTitle(), QStringLiteral("Quorbel"));
+    QTest::mouseClick(fixture.button(QStringLiteral("Open Folder…")), Qt::LeftButton);
+    QTest::mouseClick(fixture.button(QStringLiteral("Open Image…")), Qt::LeftButton);
+    QCOMPARE(fixture.panels, 2);
+
+    fixture.open({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") });
+    QVERIFY(!fixture.window->findChild<LaunchView*>()->isVisible());
+    QVERIFY(fixture.window->findChild<SidebarView*>()->isVisible());
+    QCOMPARE(fixture.window->windowTitle(), QFileInfo(fixture.model.folder.path()).fileName());
+    QCOMPARE(fixture.content->bar()->accessibleDescription(), QStringLiteral("2 photos"));
+    // The arrow keys go through the photos at once.
+    QTest::keyClick(fixture.window->focusWidget(), Qt::Key_Down);
+    QCOMPARE(fixture.model.primary(), QStringLiteral("b.jpg"));
+
+    fixture.model->closeFolder();
+    QVERIFY(fixture.window->findChild<LaunchView*>()->isVisible());
+}
+
+void tst_ContentView::columnWidths_data()
+{
+    QTest::addColumn<int>("window");
+    QTest::addColumn<int>("inspector");
+    QTest::addColumn<int>("preview");  // 0: not shown
+    QTest::newRow("narrowest") << 900 << 605 << 0;
+    QTest::newRow("just too narrow for the preview") << 1099 << 804 << 0;
+    QTest::newRow("just wide enough") << 1100 << 430 << 375;
+    QTest::newRow("the inspector grows first") << 1150 << 480 << 375;
+    QTest::newRow("then only the preview grows") << 1440 << 520 << 625;
+}
+
+void tst_ContentView::columnWidths()
+{
+    QFETCH(int, window);
+    QFETCH(int, inspector);
+    QFETCH(int, preview);
+    WindowFixture fixture;
+    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.window->resize(window, 700);
+    fixture.show();
+    auto* column = fixture.window->findChild<PreviewColumnView*>();
+    QCOMPARE(fixture.window->findChild<SidebarView*>()->width(), 288);
+    QCOMPARE(fixture.inspector->width(), inspector);
+    QCOMPARE(column->isVisible() ? column->width() : 0, preview);
+    QCOMPARE(fixture.content->previewShown(), preview > 0);
+}
+
+void tst_ContentView::previewNeedsRoomAndWish()
+{
+    WindowFixture fixture;
+    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.show();
+    QTest::mouseClick(fixture.button(QStringLiteral("Hide preview")), Qt::LeftButton);
+    QVERIFY(!fixture.content->previewShown());
+    QCOMPARE(fixture.window->width(), 1200);
+    // The wish outlives the program.
+    fixture.build();
+    fixture.show();
+    QVERIFY(!fixture.content->previewShown());
+    // In a narrow window the wish alone shows nothing: the window grows.
+    fixture.window->resize(1000, 700);
+    QTest::mouseClick(fixture.button(QStringLiteral("Show preview")), Qt::LeftButton);
+    QTRY_COMPARE(fixture.window->width(), 1180);
+    QVERIFY(fixture.content->previewShown());
+    // Made narrow by hand, it offers the preview again; pressing it does not switch the wish off.
+    fixture.window->resize(1000, 700);
+    QVERIFY(!fixture.content->previewShown());
+    QTest::mouseClick(fixture.button(QStringLiteral("Show preview")), Qt::LeftButton);
+    QTRY_VERIFY(fixture.content->previewShown());
+}
+
+void tst_ContentView::widening_data()
+{
+    QTest::addColumn<QRect>("frame");
+    QTest::addColumn<QRect>("screen");
+    QTest::addColumn<QRect>("grown");
+    const QRect screen(0, 30, 1920, 1050);
+    QTest::newRow("keeps the centre") << QRect(400, 100, 1000, 700) << screen << QRect(310, 100, 1180, 700);
+    QTest::newRow("stops at the right edge") << QRect(900, 100, 1000, 700) << screen << QRect(740, 100, 1180, 700);
+    QTest::newRow("stops at the left edge") << QRect(10, 100, 1000, 700) << screen << QRect(0, 100, 1180, 700);
+    QTest::newRow("no wider than the screen")
+        << QRect(50, 50, 900, 700) << QRect(0, 0, 1024, 768) << QRect(0, 50, 1024, 700);
+    QTest::newRow("wide enough") << QRect(50, 50, 1300, 700) << screen << QRect(50, 50, 1300, 700);
+    QTest::newRow("second screen, left of the first")
+        << QRect(-1000, 50, 900, 700) << QRect(-1280, 0, 1280, 1024) << QRect(-1180, 50, 1180, 700);
+}
+
+void tst_ContentView::widening()
+{
+    QFETCH(QRect, frame);
+    QFETCH(QRect, screen);
+    QFETCH(QRect, grown);
+    QCOMPARE(widened(frame, screen, 1180), grown);
+}
+
+void tst_ContentView::sidebarWidthIsKeptInItsLimits()
+{
+    WindowFixture fixture;
+    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.show();
+    const auto dragBy = [&](int dx) {
+        auto* handle = fixture.window->findChild<ResizeHandle*>();
+        const QPoint start = handle->rect().center();
+        QTest::mousePress(handle, Qt::LeftButton, {}, start);
+        // The handle moves along, so the way is told in the screen's coordinates.
+        const QPoint end = handle->mapToGlobal(start) + QPoint(dx, 0);
+        QTest::mouseMove(handle, handle->mapFromGlobal(end));
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, handle->mapFromGlobal(end));
+    };
+    const auto width = [&] { return fixture.window->findChild<SidebarView*>()->width(); };
+    dragBy(60);
+    QCOMPARE(width(), 348);
+    fixture.build();
+    fixture.show();
+    QCOMPARE(width(), 348);
+    dragBy(400);
+    QCOMPARE(width(), 420);
+    dragBy(-900);
+    QCOMPARE(width(), 200);
+    fixture.model->preferences().setValue(QStringLiteral("sidebarWidth"), QStringLiteral("wide"));
+    fixture.build();
+    fixture.show();
+    QCOMPARE(width(), 288);
+}
+
+void tst_ContentView::dropsAnywhere()
+{
+    WindowFixture fixture;
+    fixture.model.addTitled({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") });
+    fixture.show();
+    auto* launch = fixture.window->findChild<LaunchView*>();
+    QVERIFY(drag<QDragEnterEvent>(fixture.window.get(), { fixture.model.folderURL() }));
+    QVERIFY(launch->isTargeted());
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(fixture.window.get(), &leave);
+    QVERIFY(!launch->isTargeted());
+
+    QVERIFY(drag<QDragEnterEvent>(fixture.window.get(), { fixture.model.folderURL() }));
+    QVERIFY(drag<QDropEvent>(fixture.window.get(), { fixture.model.folderURL() }));
+    QVERIFY(!launch->isTargeted());
+    QVERIFY(fixture.model.waitUntilIdle());
+    QCOMPARE(fixture.model.visible(), (QStringList{ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") }));
+
+    // Over a text field, too, files are the window's; text stays the field's.
+    auto* field = fixture.window->findChild<QLineEdit*>(QStringLiteral("field"));
+    const QUrl b = fixture.model.url(QStringLiteral("b.jpg"));
+    QVERIFY(drag<QDragEnterEvent>(field, { b }));
+    QVERIFY(launch->isTargeted());
+    QVERIFY(drag<QDropEvent>(fixture.window.get(), { b }));
+    QVERIFY(fixture.model.waitUntilIdle());
+    QTRY_COMPARE(fixture.model.visible(), QStringList{ QStringLiteral("b.jpg") });
+    QVERIFY(field->text().isEmpty());
+    QVERIFY(drag<QDragEnterEvent>(field, {}, QStringLiteral("words")));
+    endDrag(field);
+}
+
+void tst_ContentView::dropsOfNothingUseful()
+{
+    WindowFixture fixture;
+    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.show();
+    QVERIFY(!drag<QDragEnterEvent>(fixture.window.get(), {}, QStringLiteral("words")));
+    QVERIFY(!drag<QDragEnterEvent>(fixture.window.get(), { QUrl(QStringLiteral("https://example.org/a.jpg")) }));
+    // A file that is no photo is accepted, and refused in words.
+    const QString note = fixture.model.folder.path(QStringLiteral("note.txt"));
+    writeFile(note, "x");
+    QVERIFY(drag<QDragEnterEvent>(fixture.window.get(), { QUrl::fromLocalFile(note) }));
+    QVERIFY(drag<QDropEvent>(fixture.window.get(), { QUrl::fromLocalFile(note) }));
+    QTRY_COMPARE(fixture.model->errorMessage(), QStringLiteral("No supported images were found."));
+    QCOMPARE(fixture.model.visible(), QStringList{ QStringLiteral("a.jpg") });
+    // Under a sheet the window takes nothing.
+    fixture.model->setAddOpen(true);
+    QVERIFY(!drag<QDragEnterEvent>(fixture.window.get(), { fixture.model.folderURL() }));
+    endDrag(fixture.window.get());
+}
+
+void tst_ContentView::saveButtonSaysWhatItDoes()
+{
+    WindowFixture fixture;
+    fixture.open({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") });
+    fixture.show();
+    QVERIFY(!fixture.button(QStringLiteral("Save"))->isEnabled());
+    fixture.model->setSingle(QStringLiteral("title"), QStringLiteral("New"));
+    QVERIFY(fixture.button(QStringLiteral("Save"))->isEnabled());
+    fixture.model->setSaveDontAsk(true);
+    QTest::mouseClick(fixture.button(QStringLiteral("Save")), Qt::LeftButton);
+    QVERIFY(!fixture.button(QStringLiteral("Saving…"))->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(!fixture.model->isSaving(), 30'000);
+    QCOMPARE(
+        fixture.model.onDisk(QStringLiteral("a.jpg"), QStringLiteral("XMP:Title")).toString(), QStringLiteral("New"));
+
+    fixture.model->selectAllPhotos();
+    QVERIFY(!fixture.button(QStringLiteral("Apply to 2"))->isEnabled());
+    QCOMPARE(fixture.content->bar()->accessibleDescription(), QStringLiteral("2 photos · 2 selected"));
+    fixture.model->setBatch(QStringLiteral("title"), QStringLiteral("Both"));
+    QVERIFY(fixture.button(QStringLiteral("Apply to 2"))->isEnabled());
+}
+
+void tst_ContentView::settingsMenuFlipsItsFlags()
+{
+    WindowFixture fixture;
+    fixture.show();
+    const auto flip = [&](const QString& text) {
+        QTest::mouseClick(fixture.button(QStringLiteral("Settings")), Qt::LeftButton);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu)
+            return false;
+        for (QAction* action : menu->actions())
+            if (action->text() == text) {
+                const bool was = action->isChecked();
+                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+                return !was;
+            }
+        return false;
+    };
+    QVERIFY(flip(QStringLiteral("Show namespace details")));
+    QVERIFY(fixture.model->showNamespace());
+    QVERIFY(!flip(QStringLiteral("Back up originals before writing")));  // on by default: now off
+    QVERIFY(!fixture.model->backupOriginals());
+    QVERIFY(flip(QStringLiteral("Also write sidecar .xmp")));
+    QVERIFY(fixture.model->writeSidecar());
+}
+
+void tst_ContentView::bannerStaysUntilItIsDismissed()
+{
+    WindowFixture fixture;
+    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.show();
+    auto* banner = fixture.window->findChild<ErrorBanner*>();
+    QVERIFY(!banner->isVisible());
+    const QString text = QStringLiteral("Could not save: ") + QStringLiteral("a long reason ").repeated(60);
+    fixture.model->setErrorMessage(text);
+    QVERIFY(banner->isVisible());
+    QCOMPARE(banner->accessibleName(), text);
+    QCOMPARE(banner->width(), 560);
+    QCOMPARE(banner->geometry().center().x(), (fixture.content->width() - 1) / 2);
+    QCOMPARE(banner->geometry().bottom() + 1, fixture.content->height() - 54 - 16);
+    fixture.window->resize(900, 600);
+    QCOMPARE(banner->geometry().bottom() + 1, fixture.content->height() - 54 - 16);
+    QTest::mouseClick(fixture.button(QStringLiteral("Dismiss")), Qt::LeftButton);
+    QVERIFY(!banner->isVisible());
+    QVERIFY(!fixture.model->errorMessage());
+}
+
+void tst_ContentView::withoutTheToolTheBannerSaysSo()
+{
+    WindowFixture fixture(std::optional<MetadataService>{});
+    fixture.show();
+    QVERIFY(fixture.window->findChild<ErrorBanner*>()->isVisible());
+    QCOMPARE(fixture.window->findChild<ErrorBanner*>()->accessibleName(),
+        QStringLiteral("ExifTool could not be found in the app bundle. Metadata cannot be read or written."));
+}
+
+void tst_ContentView::sheetTakesTheKeyboard()
+{
+    WindowFixture fixture;
+    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.show();
+    auto* field = fixture.window->findChild<QLineEdit*>(QStringLiteral("field"));
+    field->setFocus();
+    fixture.model->setAddOpen(true);
+    auto* sheet = dynamic_cast<SampleSheet*>(fixture.content->sheets()->current());
+    QVERIFY(sheet);
+    QCOMPARE(fixture.window->focusWidget(), sheet->first);
+    // Tab goes round inside, both ways.
+    const auto tab = [&](bool back) {
+        QTest::keyClick(fixture.window->focusWidget(), back ? Qt::Key_Backtab : Qt::Key_Tab,
+            back ? Qt::ShiftModifier : Qt::NoModifier);
+        return fixture.window->focusWidget();
+    };
+    QCOMPARE(tab(false), sheet->second);
+    QCOMPARE(tab(false), sheet->first);
+    QCOMPARE(tab(true), sheet->second);
+    // Neither the mouse nor a call takes the focus out.
+    const QPoint outside = field->mapTo(fixture.window.get(), QPoint(3, 3));
+    QVERIFY(!fixture.window->childAt(outside) || fixture.window->childAt(outside) != field);
+    field->setFocus();
+    QVERIFY(sheet->isAncestorOf(fixture.window->focusWidget()));
+
+    QTest::keyClick(fixture.window->focusWidget(), Qt::Key_Escape);
+    QCOMPARE(SampleSheet::cancelled, 1);
+    QVERIFY(!fixture.model->addOpen());
+    QVERIFY(!fixture.content->sheets()->current());
+    QCOMPARE(fixture.window->focusWidget(), field);
+
+    fixture.model->setRenameOpen(true);
+    QTest::keyClick(fixture.window->focusWidget(), Qt::Key_Return);
+    QCOMPARE(SampleSheet::confirmed, 1);
+    QVERIFY(!fixture.model->renameOpen());
+}
+
+void tst_ContentView::progressOfALongRead()
+{
+    FakeTool tool;
+    tool.answerAlways({ .holds = true });
+    WindowFixture fixture(MetadataService{ tool.runner() });
+    fixture.show();
+    fixture.model.folder.add(QStringLiteral("a.jpg"));
+    fixture.model->load({ fixture.model.folderURL() });
+    auto* foot = fixture.window->findChild<LaunchView*>()->findChild<ProgressFoot*>();
+    QVERIFY(!foot->isVisible());  // work that ends soon shows nothing
+    QTRY_VERIFY(foot->isVisible());
+    QCOMPARE(foot->accessibleName(), QStringLiteral("Reading 0 of 1 photos…"));
+    QTest::mouseClick(fixture.button(QStringLiteral("Cancel")), Qt::LeftButton);
+    QTRY_VERIFY(!fixture.model->isWorking());
+    QVERIFY(!foot->isVisible());
+    QVERIFY(fixture.model->records().isEmpty());
+}
+
+void tst_ContentView::progressOfALongWrite()
+{
+    FakeTool tool;
+    WindowFixture fixture(MetadataService{ tool.runner() });
+    const QUrl photo = fixture.model.folder.add(QStringLiteral("a.jpg"));
+    tool.answerAlways({ .standardOutput = toolJson({ { { QStringLiteral("SourceFile"), photo.toLocalFile() } } }) });
+    QVERIFY(fixture.model.open());
+    fixture.show();
+    tool.answerAlways({ .holds = true });
+    fixture.model->setSaveDontAsk(true);
+    fixture.model->setSingle(QStringLiteral("title"), QStringLiteral("New"));
+    fixture.model->requestSave();
+    auto* foot = fixture.window->findChild<SidebarView*>()->findChild<ProgressFoot*>();
+    QTRY_VERIFY(foot->isVisible());
+    QVERIFY(foot->accessibleName().startsWith(QStringLiteral("Saving ")));
+    QVERIFY(!fixture.button(QStringLiteral("Cancel")));
+    tool.release();
+    QTRY_VERIFY_WITH_TIMEOUT(!foot->isVisible(), 30'000);
+}
+
+void tst_ContentView::appearanceIsFollowedLive()
+{
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(paletteOf(Qt::white, Qt::black));
+    WindowFixture fixture;
+    fixture.show();
+    const auto ground = [&] { return colorAt(fixture.content, QPoint(5, fixture.content->height() - 5)); };
+    QCOMPARE(ground(), Theme::light().bg);
+    QApplication::setPalette(paletteOf(Qt::black, Qt::white));
+    QTRY_COMPARE(ground(), Theme::dark().bg);
+    fixture.model->setColorOverride(ColorScheme::light);
+    QCOMPARE(ground(), Theme::light().bg);
+    QApplication::setPalette(paletteOf(Qt::white, Qt::black));
+    fixture.model->setColorOverride(ColorScheme::dark);
+    QCOMPARE(ground(), Theme::dark().bg);
+    fixture.model->setColorOverride(std::nullopt);
+    QTRY_COMPARE(ground(), Theme::light().bg);
+    QApplication::setPalette(before);
+}
+
+void tst_ContentView::previewShowsThePhotoOrTheStack()
+{
+    ThumbnailStoreOptions options;
+    options.decode = [](const QString& path, int, const std::stop_token&) {
+        DecodedImage decoded;
+        decoded.outcome = DecodedImage::Outcome::decoded;
+        decoded.image = QImage(300, 200, QImage::Format_RGB32);
+        decoded.image.fill(path.endsWith(QLatin1String("a.jpg")) ? Qt::red : Qt::blue);
+        return decoded;
+    };
+    options.embedded = [](const QString&, const std::stop_token&) { return QImage(); };
+    ThumbnailStore thumbs(options);
+    WindowFixture fixture(&thumbs);
+    fixture.open({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg"), QStringLiteral("c.jpg") });
+    fixture.window->resize(1440, 900);
+    fixture.show();
+    auto* preview = fixture.window->findChild<PreviewColumnView*>();
+    const QPoint middle(preview->width() / 2, (preview->height() - 54) / 2);
+    QTRY_COMPARE(colorAt(preview, middle), QColor(Qt::red));
+    QCOMPARE(preview->accessibleName(), QStringLiteral("Preview of a.jpg"));
+    // At most 560 wide.
+    QCOMPARE(colorAt(preview, middle - QPoint(278, 0)), QColor(Qt::red));
+    QVERIFY(colorAt(preview, middle - QPoint(283, 0)) != QColor(Qt::red));
+    fixture.model.click(QStringLiteral("b.jpg"));
+    QTRY_COMPARE(colorAt(preview, middle), QColor(Qt::blue));
+    fixture.model->selectAllPhotos();
+    QCOMPARE(preview->accessibleName(), QStringLiteral("3 photos selected"));
+    QTRY_COMPARE(colorAt(preview, middle), QColor(Qt::blue));  // the primary's card lies in front
+}
+
+int main(int argc, char* argv[])
+{
+    return runOnLargeScreen<tst_ContentView>(argc, argv);
+}
+
+#include "tst_ContentView.moc"

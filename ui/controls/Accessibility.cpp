@@ -1,0 +1,281 @@
+#include "ui/controls/Accessibility.h"
+
+#include "ui/controls/Buttons.h"
+#include "ui/controls/KeywordEditor.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/Marks.h"
+#include "ui/controls/OffsetPicker.h"
+#include "ui/controls/RatingEditor.h"
+#include "ui/controls/ResizeHandle.h"
+#include "ui/controls/SuggestionList.h"
+#include "ui/places/MapPreview.h"
+#include "ui/sidebar/ThumbnailView.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QPointer>
+
+#include <functional>
+#include <memory>
+
+namespace Quorbel {
+
+namespace {
+
+/// Buttons, check boxes, switches: what they are called, whether they are on, and how to press them.
+class ButtonDescription final : public QAccessibleWidget {
+public:
+    ButtonDescription(QAbstractButton* button, QAccessible::Role role)
+        : QAccessibleWidget(button, role)
+        , m_button(button)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Name && m_button->accessibleName().isEmpty())
+            return m_button->text();
+        // What a menu button shows is its value, not its name.
+        if (kind == QAccessible::Value && role() == QAccessible::ButtonMenu)
+            return m_button->text();
+        return QAccessibleWidget::text(kind);
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = m_button->isCheckable();
+        state.checked = m_button->isChecked();
+        state.pressed = m_button->isDown();
+        state.hasPopup = role() == QAccessible::ButtonMenu;
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (m_button->isEnabled())
+            names.prepend(m_button->isCheckable() ? toggleAction() : pressAction());
+        return names;
+    }
+
+    void doAction(const QString& name) override
+    {
+        if (name == pressAction() || name == toggleAction())
+            m_button->click();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    QAbstractButton* m_button;
+};
+
+/// A number between two limits.
+struct NumberAccess {
+    std::function<double()> get{};
+    std::function<void(double)> set{};
+    double minimum = 0;
+    double maximum = 0;
+    double step = 1;
+};
+
+class NumberDescription final : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    NumberDescription(QWidget* widget, QAccessible::Role role, NumberAccess access)
+        : QAccessibleWidget(widget, role)
+        , m_access(std::move(access))
+    {
+    }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QVariant currentValue() const override { return m_access.get(); }
+    void setCurrentValue(const QVariant& value) override { m_access.set(value.toDouble()); }
+    QVariant minimumValue() const override { return m_access.minimum; }
+    QVariant maximumValue() const override { return m_access.maximum; }
+    QVariant minimumStepSize() const override { return m_access.step; }
+
+private:
+    NumberAccess m_access;
+};
+
+QAccessibleInterface* describeRating(RatingEditor* rating)
+{
+    const auto get = [rating] { return double(rating->rating()); };
+    const auto set = [rating](double value) { rating->choose(int(value)); };
+    return new NumberDescription(rating, QAccessible::Slider, { get, set, 0, 5, 1 });
+}
+
+QAccessibleInterface* describeHandle(ResizeHandle* handle)
+{
+    const auto get = [handle] { return handle->columnWidth(); };
+    const auto set = [handle](double value) { handle->setColumnWidth(value); };
+    return new NumberDescription(
+        handle, QAccessible::Splitter, { get, set, handle->minWidth(), handle->maxWidth(), 10 });
+}
+
+/// One of a few choices: its value is the title of the current one.
+class PickerDescription final : public QAccessibleWidget {
+public:
+    explicit PickerDescription(SegmentedPicker* picker)
+        : QAccessibleWidget(picker, QAccessible::ComboBox)
+        , m_picker(picker)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Value)
+            return m_picker->titles().value(m_picker->currentIndex());
+        return QAccessibleWidget::text(kind);
+    }
+
+private:
+    SegmentedPicker* m_picker;
+};
+
+/// One suggestion: drawn by its list, so not a widget.
+class SuggestionRowDescription final : public QAccessibleInterface {
+public:
+    SuggestionRowDescription(SuggestionList* list, int row)
+        : m_list(list)
+        , m_row(row)
+    {
+    }
+
+    bool isValid() const override { return m_list && m_row < m_list->rows().size(); }
+    QObject* object() const override { return nullptr; }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(m_list); }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QAccessible::Role role() const override { return QAccessible::ListItem; }
+    void setText(QAccessible::Text, const QString&) override { }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (!isValid() || (kind != QAccessible::Name && kind != QAccessible::Description))
+            return {};
+        const SuggestionRow& row = m_list->rows().at(m_row);
+        return kind == QAccessible::Name ? row.title : row.subtitle;
+    }
+
+    QRect rect() const override
+    {
+        const QRect local = isValid() ? m_list->rowRect(m_row) : QRect();
+        return { m_list->mapToGlobal(local.topLeft()), local.size() };
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state;
+        state.selectable = true;
+        state.focusable = true;
+        state.selected = isValid() && m_list->currentRow() == m_row;
+        state.focused = state.selected;
+        state.invisible = !isValid();
+        return state;
+    }
+
+private:
+    QPointer<SuggestionList> m_list;
+    int m_row;
+};
+
+class SuggestionListDescription final : public QAccessibleWidget {
+public:
+    explicit SuggestionListDescription(SuggestionList* list)
+        : QAccessibleWidget(list, QAccessible::List)
+        , m_list(list)
+    {
+    }
+
+    ~SuggestionListDescription() override
+    {
+        for (const QAccessible::Id id : std::as_const(m_rows))
+            QAccessible::deleteAccessibleInterface(id);
+    }
+
+    int childCount() const override { return int(m_list->rows().size()); }
+
+    QAccessibleInterface* child(int index) const override
+    {
+        if (index < 0 || index >= childCount())
+            return nullptr;
+        while (m_rows.size() <= index) {
+            // Qt owns what is registered, until it is told to delete it.
+            auto row = std::make_unique<SuggestionRowDescription>(m_list, int(m_rows.size()));
+            m_rows.append(QAccessible::registerAccessibleInterface(row.release()));
+        }
+        return QAccessible::accessibleInterface(m_rows.at(index));
+    }
+
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        for (int row = 0; row < m_rows.size(); ++row) {
+            if (QAccessible::accessibleInterface(m_rows.at(row)) == child)
+                return row;
+        }
+        return -1;
+    }
+
+private:
+    SuggestionList* m_list;
+    mutable QList<QAccessible::Id> m_rows;
+};
+
+QAccessibleInterface* describeButton(QAbstractButton* button)
+{
+    if (qobject_cast<QBCheckbox*>(button) || qobject_cast<QBSwitch*>(button))
+        return new ButtonDescription(button, QAccessible::CheckBox);
+    if (qobject_cast<OffsetPicker*>(button))
+        return new ButtonDescription(button, QAccessible::ButtonMenu);
+    return new ButtonDescription(button, QAccessible::Button);
+}
+
+QAccessibleInterface* describe(const QString& className, QObject* object)
+{
+    auto* widget = qobject_cast<QWidget*>(object);
+    // Qt asks for the class and then for each of its bases: answer for the class itself only.
+    if (!widget || className != QLatin1String(object->metaObject()->className()))
+        return nullptr;
+    if (auto* button = qobject_cast<ThemedButton*>(object))
+        return describeButton(button);
+    if (auto* rating = qobject_cast<RatingEditor*>(object))
+        return describeRating(rating);
+    if (auto* handle = qobject_cast<ResizeHandle*>(object))
+        return describeHandle(handle);
+    if (auto* picker = qobject_cast<SegmentedPicker*>(object))
+        return new PickerDescription(picker);
+    if (auto* list = qobject_cast<SuggestionList*>(object))
+        return new SuggestionListDescription(list);
+    if (qobject_cast<SectionHeader*>(object) || qobject_cast<LabeledDivider*>(object))
+        return new QAccessibleWidget(widget, QAccessible::Heading);
+    if (qobject_cast<ThumbnailView*>(object) || qobject_cast<MapPreview*>(object))
+        return new QAccessibleWidget(widget, QAccessible::Graphic);
+    if (qobject_cast<KeywordEditor*>(object))
+        return new QAccessibleWidget(widget, QAccessible::Grouping);
+    if (object->inherits("Quorbel::SheetFrame") || object->inherits("Quorbel::SettingsView"))
+        return new QAccessibleWidget(widget, QAccessible::Dialog);
+    if (object->inherits("Quorbel::HelpView"))
+        return new QAccessibleWidget(widget, QAccessible::Window);
+    if (object->inherits("Quorbel::KeywordChip"))
+        return new QAccessibleWidget(widget, QAccessible::ListItem);
+    return nullptr;
+}
+
+}  // namespace
+
+void installAccessibility()
+{
+    QAccessible::installFactory(&describe);
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,346 @@
+#include "ui/controls/Buttons.h"
+
+#include "ui/controls/Accessibility.h"
+#include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/Icon.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Painting.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QVariantAnimation>
+
+namespace Quorbel {
+
+namespace {
+
+/// Three colours, blended as far as the pointer and the press have come.
+QColor stateColor(const HoverFade& fade, const QColor& rest, const QColor& hover, const QColor& pressed)
+{
+    return mixed(mixed(rest, hover, fade.hover()), pressed, fade.pressed());
+}
+
+struct ButtonLook {
+    QColor fill{};
+    QColor line{};
+    QColor text{};
+    Qt::PenStyle pen = Qt::SolidLine;
+};
+
+ButtonLook primaryLook(const Theme& t, const HoverFade& fade, bool enabled)
+{
+    if (!enabled)
+        return { t.derived.primaryOff, t.derived.primaryOff, t.derived.primaryOffText };
+    const QColor fill = stateColor(fade, t.accent, t.derived.primaryHover, t.derived.primaryPressed);
+    return { fill, fill, t.accentText };
+}
+
+ButtonLook lookOf(QBButtonKind kind, const Theme& t, const HoverFade& fade, bool enabled)
+{
+    const DerivedColors& d = t.derived;
+    switch (kind) {
+    case QBButtonKind::primary:
+        return primaryLook(t, fade, enabled);
+    case QBButtonKind::secondary:
+        return { stateColor(fade, t.btn, d.secondaryHover, d.secondaryPressed),
+            stateColor(fade, t.btnLine, d.secondaryHoverLine, d.secondaryHoverLine), t.text };
+    case QBButtonKind::dashed:
+        return { stateColor(fade, Qt::transparent, d.hover, d.pressed),
+            stateColor(fade, d.dashedLine, t.muted, t.muted), stateColor(fade, d.label, t.text, t.text), Qt::DashLine };
+    case QBButtonKind::destructive:
+        return { stateColor(fade, Qt::transparent, d.destructiveHover, d.destructivePressed), Qt::transparent,
+            d.destructive, Qt::NoPen };
+    }
+    return {};
+}
+
+QPen penOf(const ButtonLook& look)
+{
+    if (look.pen == Qt::NoPen)
+        return Qt::NoPen;
+    QPen pen(look.line, 1);
+    if (look.pen == Qt::DashLine)
+        pen.setDashPattern({ 3, 2 });
+    return pen;
+}
+
+}  // namespace
+
+HoverFade::HoverFade(QWidget* widget)
+    : QObject(widget)
+    , m_widget(widget)
+{
+    widget->setAttribute(Qt::WA_Hover);
+    widget->installEventFilter(this);
+}
+
+bool HoverFade::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Enter:
+        setHover(m_widget->isEnabled());
+        break;
+    case QEvent::Leave:
+    case QEvent::Hide:
+        setHover(false);
+        break;
+    case QEvent::EnabledChange:
+        setHover(m_widget->isEnabled() && m_widget->underMouse());
+        if (!m_widget->isEnabled())
+            setPressed(false);
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void HoverFade::setHover(bool on)
+{
+    animate(&HoverFade::m_hover, on ? 1 : 0);
+}
+
+void HoverFade::setPressed(bool on)
+{
+    animate(&HoverFade::m_pressed, on ? 1 : 0);
+}
+
+void HoverFade::animate(qreal HoverFade::*value, qreal target)
+{
+    const QString name = value == &HoverFade::m_hover ? QStringLiteral("hover") : QStringLiteral("pressed");
+    delete findChild<QVariantAnimation*>(name, Qt::FindDirectChildrenOnly);
+    if (this->*value == target)
+        return;
+    if (!m_widget->isVisible() || !motionEnabled(m_widget)) {
+        this->*value = target;
+        m_widget->update();
+        return;
+    }
+    auto* animation = new QVariantAnimation(this);
+    animation->setObjectName(name);
+    animation->setDuration(Duration::hover);
+    animation->setEasingCurve(QEasingCurve::OutCubic);
+    animation->setStartValue(this->*value);
+    animation->setEndValue(target);
+    connect(animation, &QVariantAnimation::valueChanged, this, [this, value](const QVariant& now) {
+        this->*value = now.toReal();
+        m_widget->update();
+    });
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+ThemedButton::ThemedButton(const QString& text, QWidget* parent)
+    : QAbstractButton(parent)
+    , m_fade(new HoverFade(this))
+{
+    installAccessibility();
+    setText(text);
+    setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QAbstractButton::pressed, this, [this] { m_fade->setPressed(true); });
+    connect(this, &QAbstractButton::released, this, [this] { m_fade->setPressed(false); });
+}
+
+void ThemedButton::keyPressEvent(QKeyEvent* event)
+{
+    // Space is QAbstractButton's; a focused button answers to Return too.
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && !event->isAutoRepeat())
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+QBButton::QBButton(const QString& title, QBButtonKind kind, QWidget* parent)
+    : ThemedButton(title, parent)
+    , m_kind(kind)
+{
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    onRestyle(this, [this] {
+        setFont(sansFont(13, QFont::Medium));
+        updateGeometry();
+    });
+    installFocusRing(this, { RingShape::button, 7, {}, {} });
+}
+
+void QBButton::setKind(QBButtonKind kind)
+{
+    m_kind = kind;
+    updateGeometry();
+    update();
+}
+
+void QBButton::setSidePadding(qreal points)
+{
+    m_sidePadding = points;
+    updateGeometry();
+}
+
+QSize QBButton::sizeHint() const
+{
+    const qreal natural = m_kind == QBButtonKind::primary ? 16 : 14;
+    const int padding = px(m_sidePadding < 0 ? natural : m_sidePadding);
+    return { fontMetrics().horizontalAdvance(text()) + 2 * padding + 2, px(30) };
+}
+
+void QBButton::paintEvent(QPaintEvent*)
+{
+    const ButtonLook look = lookOf(m_kind, Theme::of(this), *fade(), isEnabled());
+    QPainter painter(this);
+    if (m_kind != QBButtonKind::primary)
+        painter.setOpacity(opacity());
+    paintBox(painter, rect(), pxF(7), look.fill, penOf(look));
+    painter.setPen(look.text);
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+}
+
+QBIconButton::QBIconButton(const QString& icon, const QString& name, QWidget* parent)
+    : ThemedButton({}, parent)
+    , m_icon(icon)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setName(name);
+    onRestyle(this, [this] { updateGeometry(); });
+    installFocusRing(this, { RingShape::tight, 7, {}, {} });
+}
+
+void QBIconButton::setIconName(const QString& icon)
+{
+    m_icon = icon;
+    update();
+}
+
+void QBIconButton::setName(const QString& name)
+{
+    setAccessibleName(name);
+    setToolTip(name);
+}
+
+void QBIconButton::setSizes(QSizeF button, qreal icon, qreal stroke, qreal radius)
+{
+    m_buttonSize = button;
+    m_iconSize = icon;
+    m_stroke = stroke;
+    m_radius = radius;
+    updateGeometry();
+    update();
+}
+
+void QBIconButton::setHighlighted(bool on)
+{
+    m_highlighted = on;
+    update();
+}
+
+void QBIconButton::setQuiet(bool on)
+{
+    m_quiet = on;
+    update();
+}
+
+void QBIconButton::setAmber(bool on)
+{
+    m_amber = on;
+    update();
+}
+
+QSize QBIconButton::sizeHint() const
+{
+    return { px(m_buttonSize.width()), px(m_buttonSize.height()) };
+}
+
+void QBIconButton::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    const QColor rest = m_highlighted ? theme.derived.hover : QColor(Qt::transparent);
+    const QColor ground = stateColor(*fade(), rest, theme.derived.hover, theme.derived.pressed);
+    const QColor plain = m_quiet ? theme.muted : theme.derived.label;
+    const QColor resting = m_amber ? theme.amber : plain;
+    const QColor ink = m_highlighted ? theme.text : stateColor(*fade(), resting, theme.text, theme.text);
+    QPainter painter(this);
+    painter.setOpacity(opacity(.38));
+    paintBox(painter, rect(), pxF(m_radius), ground, Qt::NoPen);
+    Icon::paint(painter, rect(), m_icon, pxF(m_iconSize), ink, m_stroke);
+}
+
+QBTextButton::QBTextButton(const QString& title, QWidget* parent)
+    : ThemedButton(title, parent)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    onRestyle(this, [this] {
+        setFont(sansFont(12));
+        updateGeometry();
+    });
+    installFocusRing(this, { RingShape::tight, 6, {}, {} });
+}
+
+void QBTextButton::setKeyHint(const QString& keys)
+{
+    m_keys = keys;
+    updateGeometry();
+    update();
+}
+
+void QBTextButton::setLink(bool on)
+{
+    m_link = on;
+    setCursor(on ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    updateGeometry();
+    update();
+}
+
+QSize QBTextButton::sizeHint() const
+{
+    int width = fontMetrics().horizontalAdvance(text()) + 2 * px(m_link ? 0 : 8);
+    if (!m_keys.isEmpty())
+        width += px(6) + QFontMetrics(sansFont(11)).horizontalAdvance(m_keys);
+    return { width, px(m_link ? 20 : 26) };
+}
+
+void QBTextButton::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.setOpacity(opacity(.40));
+    if (!m_link) {
+        const QColor ground = stateColor(*fade(), Qt::transparent, theme.derived.hover, theme.derived.pressed);
+        paintBox(painter, rect(), pxF(6), ground, Qt::NoPen);
+    }
+    QFont titleFont = font();
+    titleFont.setUnderline(m_link);
+    painter.setFont(titleFont);
+    painter.setPen(stateColor(*fade(), theme.derived.label, theme.text, theme.text));
+    const int padding = px(m_link ? 0 : 8);
+    const QRect inner = rect().adjusted(padding, 0, -padding, 0);
+    painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
+    painter.setFont(sansFont(11));
+    painter.setPen(theme.muted);
+    painter.drawText(inner, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, m_keys);
+}
+
+TokenChip::TokenChip(const QString& title, QWidget* parent)
+    : ThemedButton(title, parent)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    onRestyle(this, [this] {
+        setFont(sansFont(12));
+        updateGeometry();
+    });
+    installFocusRing(this, { RingShape::tight, 13, {}, {} });
+}
+
+QSize TokenChip::sizeHint() const
+{
+    return { fontMetrics().horizontalAdvance(text()) + 2 * px(11) + 2, px(26) };
+}
+
+void TokenChip::paintEvent(QPaintEvent*)
+{
+    const ButtonLook look = lookOf(QBButtonKind::secondary, Theme::of(this), *fade(), isEnabled());
+    QPainter painter(this);
+    painter.setOpacity(opacity());
+    paintBox(painter, rect(), height() / 2.0, look.fill, penOf(look));
+    painter.setPen(look.text);
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+}
+
+}  // namespace Quorbel

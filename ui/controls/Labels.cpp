@@ -1,0 +1,200 @@
+#include "ui/controls/Labels.h"
+
+#include "ui/controls/Accessibility.h"
+#include "ui/controls/theme/Metrics.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace Quorbel {
+
+QColor colorFor(const Theme& theme, TextRole role)
+{
+    switch (role) {
+    case TextRole::text:
+        return theme.text;
+    case TextRole::label:
+        return theme.derived.label;
+    case TextRole::muted:
+        return theme.muted;
+    case TextRole::amberText:
+        return theme.derived.amberText;
+    case TextRole::selText:
+        return theme.selText;
+    case TextRole::selSub:
+        return theme.selSub;
+    }
+    return theme.text;
+}
+
+QFont sectionFont()
+{
+    QFont font = sansFont(11, QFont::DemiBold);
+    font.setLetterSpacing(QFont::PercentageSpacing, 105.5);
+    return font;
+}
+
+ThemedLabel::ThemedLabel(const QString& text, TextRole role, qreal points, QFont::Weight weight, QWidget* parent)
+    : QLabel(text, parent)
+    , m_role(role)
+    , m_points(points)
+    , m_weight(weight)
+{
+    setTextFormat(Qt::PlainText);
+    setTextInteractionFlags(Qt::NoTextInteraction);
+    onRestyle(this, [this] { restyle(); });
+}
+
+void ThemedLabel::restyle()
+{
+    setFont(m_mono ? monoFont(m_points) : sansFont(m_points, m_weight));
+    QPalette colors = paletteFor(Theme::of(this));
+    colors.setColor(QPalette::WindowText, colorFor(Theme::of(this), m_role));
+    setPalette(colors);
+    updateGeometry();
+}
+
+void ThemedLabel::setRole(TextRole role)
+{
+    if (role == m_role)
+        return;
+    m_role = role;
+    restyle();
+}
+
+void ThemedLabel::setMono(bool mono)
+{
+    m_mono = mono;
+    restyle();
+}
+
+void ThemedLabel::setElided(bool elided)
+{
+    m_elided = elided;
+    updateGeometry();
+    update();
+}
+
+void ThemedLabel::setLineHeight(qreal points)
+{
+    m_lineHeight = points;
+    updateGeometry();
+}
+
+QSize ThemedLabel::sizeHint() const
+{
+    QSize size = QLabel::sizeHint();
+    if (m_lineHeight > 0 && !wordWrap())
+        size.setHeight(px(m_lineHeight));
+    return size;
+}
+
+QSize ThemedLabel::minimumSizeHint() const
+{
+    QSize size = QLabel::minimumSizeHint();
+    if (m_lineHeight > 0 && !wordWrap())
+        size.setHeight(px(m_lineHeight));
+    if (m_elided)
+        size.setWidth(fontMetrics().horizontalAdvance(QStringLiteral("M…")));
+    return size;
+}
+
+bool ThemedLabel::event(QEvent* event)
+{
+    // What does not fit is told by the tooltip.
+    if ((event->type() == QEvent::Resize || event->type() == QEvent::Enter) && m_elided) {
+        const bool fits = fontMetrics().horizontalAdvance(text()) <= contentsRect().width();
+        setToolTip(fits ? QString() : text());
+    }
+    return QLabel::event(event);
+}
+
+void ThemedLabel::paintEvent(QPaintEvent* event)
+{
+    if (!m_elided)
+        return QLabel::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, QPalette::WindowText));
+    const QRect box = contentsRect();
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, box.width());
+    painter.drawText(box, int(alignment()) | Qt::TextSingleLine, shown);
+}
+
+SectionHeader::SectionHeader(const QString& title, bool muted, const QString& trailingNote, QWidget* parent)
+    : QWidget(parent)
+    , m_title(title)
+    , m_muted(muted)
+    , m_note(trailingNote)
+{
+    installAccessibility();
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setAccessibleName(title);
+    setAccessibleDescription(trailingNote);
+    onRestyle(this, [this] { updateGeometry(); });
+}
+
+void SectionHeader::setTrailingNote(const QString& note)
+{
+    m_note = note;
+    setAccessibleDescription(note);
+    update();
+}
+
+QSize SectionHeader::sizeHint() const
+{
+    const QFontMetrics metrics(sectionFont());
+    return { metrics.horizontalAdvance(m_title) + metrics.horizontalAdvance(m_note) + px(20), px(22) };
+}
+
+void SectionHeader::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    const QRectF line(0, 0, width(), pxF(16));
+    painter.setFont(sectionFont());
+    painter.setPen(m_muted ? theme.muted : theme.text);
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, m_title);
+    painter.setFont(sansFont(11));
+    painter.setPen(theme.muted);
+    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, m_note);
+    painter.fillRect(QRectF(0, height() - 1, width(), 1), theme.line);
+}
+
+LabeledDivider::LabeledDivider(const QString& caption, bool muted, const QString& note, QWidget* parent)
+    : QWidget(parent)
+    , m_caption(caption)
+    , m_muted(muted)
+    , m_note(note)
+{
+    installAccessibility();
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setAccessibleName(caption);
+    setAccessibleDescription(note);
+    onRestyle(this, [this] { updateGeometry(); });
+}
+
+QSize LabeledDivider::sizeHint() const
+{
+    const QFontMetrics metrics(sectionFont());
+    return { metrics.horizontalAdvance(m_caption) + metrics.horizontalAdvance(m_note) + px(40), px(16) };
+}
+
+void LabeledDivider::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.setFont(sectionFont());
+    painter.setPen(m_muted ? theme.muted : theme.text);
+    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, m_caption);
+    qreal left = QFontMetricsF(sectionFont()).horizontalAdvance(m_caption) + pxF(10);
+    qreal right = width();
+    if (!m_note.isEmpty()) {
+        painter.setFont(sansFont(11));
+        painter.setPen(theme.muted);
+        painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, m_note);
+        right -= QFontMetricsF(sansFont(11)).horizontalAdvance(m_note) + pxF(10);
+    }
+    painter.fillRect(QRectF(left, height() / 2.0, right - left, 1), theme.line);
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,231 @@
+#include "ui/controls/Marks.h"
+
+#include "ui/controls/Accessibility.h"
+#include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/Icon.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Painting.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QVariantAnimation>
+
+namespace Quorbel {
+
+QBCheckbox::QBCheckbox(QWidget* parent)
+    : QBCheckbox(QString(), parent)
+{
+}
+
+QBCheckbox::QBCheckbox(const QString& title, QWidget* parent)
+    : ThemedButton(title, parent)
+{
+    setCheckable(true);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    onRestyle(this, [this] {
+        setFont(sansFont(13));
+        updateGeometry();
+    });
+    installFocusRing(this, { RingShape::button, 4.5, {}, [this] { return box(); } });
+}
+
+void QBCheckbox::setAmber(bool amber)
+{
+    m_amber = amber;
+    update();
+}
+
+void QBCheckbox::setSide(qreal points)
+{
+    m_side = points;
+    updateGeometry();
+    update();
+}
+
+QSize QBCheckbox::sizeHint() const
+{
+    const int side = px(m_side);
+    if (text().isEmpty())
+        return { side, side };
+    return { side + px(8) + fontMetrics().horizontalAdvance(text()), qMax(side, px(18)) };
+}
+
+QRectF QBCheckbox::box() const
+{
+    const qreal side = pxF(m_side);
+    return { 0, (height() - side) / 2, side, side };
+}
+
+void QBCheckbox::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    const qreal side = pxF(m_side);
+    const QRectF box = this->box();
+    const QColor on = m_amber ? theme.amber : theme.accent;
+    const QColor ground = isChecked() ? on : mixed(theme.field, theme.derived.secondaryHover, fade()->hover());
+    const QColor line = isChecked() ? on : mixed(theme.muted, theme.derived.label, fade()->hover());
+    QPainter painter(this);
+    painter.setOpacity(opacity());
+    paintBox(painter, box, pxF(4.5), ground, QPen(line, 1));
+    if (isChecked())
+        Icon::paint(painter, box, QStringLiteral("checkmark"), side * 13 / 16, theme.accentText, 2.6);
+    if (text().isEmpty())
+        return;
+    painter.setPen(theme.text);
+    const QRectF title = QRectF(rect()).adjusted(side + pxF(8), 0, 0, 0);
+    painter.drawText(title, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
+}
+
+QBSwitch::QBSwitch(QWidget* parent)
+    : ThemedButton({}, parent)
+{
+    setCheckable(true);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    onRestyle(this, [this] { updateGeometry(); });
+    installFocusRing(this, { RingShape::button, 10, {}, {} });
+}
+
+QSize QBSwitch::sizeHint() const
+{
+    return { px(34), px(20) };
+}
+
+void QBSwitch::checkStateSet()
+{
+    QAbstractButton::checkStateSet();
+    slide();
+}
+
+void QBSwitch::nextCheckState()
+{
+    QAbstractButton::nextCheckState();
+    slide();
+}
+
+void QBSwitch::slide()
+{
+    const qreal target = isChecked() ? 1 : 0;
+    if (!isVisible() || !motionEnabled(this)) {
+        m_position = target;
+        update();
+        return;
+    }
+    auto* animation = new QVariantAnimation(this);
+    animation->setDuration(Duration::hover);
+    animation->setEasingCurve(QEasingCurve::OutCubic);
+    animation->setStartValue(m_position);
+    animation->setEndValue(target);
+    connect(animation, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+        m_position = value.toReal();
+        update();
+    });
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void QBSwitch::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    const QColor off = mixed(theme.scroll, theme.derived.scrollHover, fade()->hover());
+    const QColor on = mixed(theme.accent, theme.derived.primaryHover, fade()->hover());
+    QPainter painter(this);
+    painter.setOpacity(opacity());
+    paintBox(painter, rect(), height() / 2.0, mixed(off, on, m_position), Qt::NoPen);
+    const qreal inset = pxF(2);
+    const qreal side = height() - 2 * inset;
+    const QRectF knob(inset + m_position * (width() - side - 2 * inset), inset, side, side);
+    paintBox(painter, knob.translated(0, 1), side / 2, withAlpha(Qt::black, .16), Qt::NoPen);
+    paintBox(painter, knob, side / 2, mixed(theme.derived.switchKnob, theme.accentText, m_position), Qt::NoPen);
+}
+
+SegmentedPicker::SegmentedPicker(const QStringList& titles, QWidget* parent)
+    : QWidget(parent)
+    , m_titles(titles)
+{
+    installAccessibility();
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    onRestyle(this, [this] {
+        setFont(sansFont(13));
+        updateGeometry();
+    });
+    installFocusRing(this, { RingShape::tight, 7, {}, {} });
+}
+
+void SegmentedPicker::setCurrentIndex(int index)
+{
+    m_current = index;
+    update();
+}
+
+QSize SegmentedPicker::sizeHint() const
+{
+    return { px(216), px(30) };
+}
+
+QRectF SegmentedPicker::segment(int index) const
+{
+    const qreal inset = pxF(2);
+    const qreal each = (width() - 2 * inset) / qMax(qsizetype(1), m_titles.size());
+    return { inset + index * each, inset, each, height() - 2 * inset };
+}
+
+void SegmentedPicker::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.setOpacity(isEnabled() ? 1 : .42);
+    paintBox(painter, rect(), pxF(7), theme.derived.hover, Qt::NoPen);
+    for (int i = 0; i < m_titles.size(); ++i) {
+        const QRectF box = segment(i);
+        const bool on = i == m_current;
+        if (on) {
+            paintBox(painter, box.translated(0, 1), pxF(5), withAlpha(Qt::black, theme.isDark ? .3 : .08), Qt::NoPen);
+            // A dark button would not stand out from this ground.
+            const QColor edge = theme.isDark ? theme.derived.secondaryHoverLine : theme.btnLine;
+            paintBox(painter, box, pxF(5), theme.isDark ? theme.btnLine : theme.btn, QPen(edge, .5));
+        }
+        painter.setFont(sansFont(13, on ? QFont::Medium : QFont::Normal));
+        painter.setPen(on ? theme.text : theme.derived.label);
+        painter.drawText(box, Qt::AlignCenter | Qt::TextSingleLine, m_titles.at(i));
+    }
+}
+
+void SegmentedPicker::mousePressEvent(QMouseEvent* event)
+{
+    for (int i = 0; i < m_titles.size(); ++i) {
+        if (segment(i).contains(event->position()))
+            pick(i);
+    }
+}
+
+void SegmentedPicker::keyPressEvent(QKeyEvent* event)
+{
+    const int last = int(m_titles.size()) - 1;
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        return pick(qBound(0, m_current + (mirrored ? 1 : -1), last));
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        return pick(qBound(0, m_current + (mirrored ? -1 : 1), last));
+    case Qt::Key_Home:
+        return pick(0);
+    case Qt::Key_End:
+        return pick(last);
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void SegmentedPicker::pick(int index)
+{
+    if (index == m_current)
+        return;
+    setCurrentIndex(index);
+    emit picked(index);
+}
+
+}  // namespace Quorbel

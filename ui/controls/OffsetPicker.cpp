@@ -1,0 +1,113 @@
+#include "ui/controls/OffsetPicker.h"
+
+#include "core/schema/FieldSchema.h"
+#include "ui/controls/ThemedMenu.h"
+#include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/Icon.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Painting.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace Quorbel {
+
+OffsetPicker::OffsetPicker(const QString& blank, QWidget* parent)
+    : ThemedButton(blank, parent)
+    , m_blank(blank)
+{
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    setAccessibleName(QStringLiteral("Time-zone offset"));
+    onRestyle(this, [this] {
+        setFont(sansFont(13));
+        updateGeometry();
+    });
+    installFocusRing(this, { RingShape::field, 7, [this] { return m_edited; }, {} });
+    connect(this, &QAbstractButton::clicked, this, &OffsetPicker::openMenu);
+}
+
+void OffsetPicker::setValue(const QString& value)
+{
+    m_value = value;
+    setText(value.isEmpty() ? m_blank : value);
+    update();
+}
+
+void OffsetPicker::setEdited(bool edited)
+{
+    m_edited = edited;
+    update();
+}
+
+QSize OffsetPicker::sizeHint() const
+{
+    return { px(150), px(30) };
+}
+
+void OffsetPicker::choose(const QString& value)
+{
+    if (value == m_value)
+        return;
+    setValue(value);
+    emit valueEdited(value);
+}
+
+void OffsetPicker::openMenu()
+{
+    auto* menu = new ThemedMenu(this);
+    QStringList values = FieldSchema::timeZoneOffsets();
+    values.prepend(QString());
+    QAction* current = nullptr;
+    for (const QString& value : std::as_const(values)) {
+        QAction* action = menu->addAction(value.isEmpty() ? m_blank : value, this, [this, value] { choose(value); });
+        action->setCheckable(true);
+        action->setChecked(value == m_value);
+        if (value == m_value)
+            current = action;
+    }
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setMinimumWidth(width());
+    menu->popup(mapToGlobal(QPoint(0, height() + 2)));
+    if (current)
+        menu->setActiveAction(current);
+}
+
+void OffsetPicker::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Down:
+    case Qt::Key_Up:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        openMenu();
+        break;
+    case Qt::Key_Delete:
+    case Qt::Key_Backspace:
+        choose(QString());
+        break;
+    default:
+        ThemedButton::keyPressEvent(event);
+    }
+}
+
+QSize OffsetPicker::minimumSizeHint() const
+{
+    return { px(90), px(30) };
+}
+
+void OffsetPicker::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.setOpacity(opacity());
+    paintFieldFrame(painter, rect(), { true, hasFocus(), m_edited, fade()->hover() }, theme);
+    painter.setPen(theme.text);
+    const QRectF inner = QRectF(rect()).adjusted(pxF(10), 0, -pxF(8), 0);
+    painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
+    const qreal icon = pxF(14);
+    Icon::paint(painter, QRectF(inner.right() - icon, 0, icon, height()), QStringLiteral("chevron.up.chevron.down"),
+        icon, theme.muted);
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,39 @@
+// Picks a time-zone offset. Thread: the main thread.
+#pragma once
+
+#include "ui/controls/Buttons.h"
+
+namespace Quorbel {
+
+/// A menu button, 150×30 points, that shows the value or, for an empty one, the `blank` label. Its menu offers `blank`
+/// and the schema's offsets.
+class OffsetPicker final : public ThemedButton {
+    Q_OBJECT
+
+public:
+    explicit OffsetPicker(const QString& blank, QWidget* parent = nullptr);
+    const QString& value() const { return m_value; }
+    /// Shows a value, in the schema's list or not; emits nothing.
+    void setValue(const QString& value);
+    void setEdited(bool edited);
+    QSize sizeHint() const override;
+    /// In a narrow form the button gives way; the longest offset still fits.
+    QSize minimumSizeHint() const override;
+
+signals:
+    void valueEdited(const QString& value);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void openMenu();
+    void choose(const QString& value);
+
+    QString m_blank;
+    QString m_value;
+    bool m_edited = false;
+};
+
+}  // namespace Quorbel

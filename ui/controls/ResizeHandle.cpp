@@ -1,0 +1,132 @@
+#include "ui/controls/ResizeHandle.h"
+
+#include "ui/controls/Accessibility.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace Quorbel {
+
+ResizeHandle::ResizeHandle(double width, double minWidth, double maxWidth, double defaultWidth, QWidget* parent)
+    : QWidget(parent)
+    , m_width(qBound(minWidth, width, maxWidth))
+    , m_minWidth(minWidth)
+    , m_maxWidth(maxWidth)
+    , m_defaultWidth(defaultWidth)
+{
+    installAccessibility();
+    setCursor(Qt::SplitHCursor);
+    setFocusPolicy(Qt::TabFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    setAccessibleName(QStringLiteral("Column width"));
+    onRestyle(this, [this] { updateGeometry(); });
+}
+
+void ResizeHandle::setColumnWidth(double width)
+{
+    m_width = qBound(m_minWidth, width, m_maxWidth);
+}
+
+QSize ResizeHandle::sizeHint() const
+{
+    return { px(7), px(40) };
+}
+
+void ResizeHandle::change(double width)
+{
+    const double bounded = qBound(m_minWidth, width, m_maxWidth);
+    if (bounded == m_width)
+        return;
+    m_width = bounded;
+    emit widthChanged(m_width);
+}
+
+void ResizeHandle::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.fillRect(rect(), theme.bg);
+    if (m_hovered || m_dragStart || hasFocus())
+        painter.fillRect(QRect(width() - 3, 0, 3, height()), hasFocus() ? theme.derived.focusStrong : theme.focus);
+    else
+        painter.fillRect(QRect(width() - 1, 0, 1, height()), theme.line);
+}
+
+void ResizeHandle::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_dragStart = m_width;
+    m_pressX = event->globalPosition().x();
+    update();
+}
+
+void ResizeHandle::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_dragStart)
+        change(*m_dragStart + event->globalPosition().x() - m_pressX);
+}
+
+void ResizeHandle::mouseReleaseEvent(QMouseEvent*)
+{
+    if (!m_dragStart)
+        return;
+    m_dragStart.reset();
+    update();
+    emit widthSettled(m_width);
+}
+
+void ResizeHandle::mouseDoubleClickEvent(QMouseEvent*)
+{
+    change(m_defaultWidth);
+    emit widthSettled(m_width);
+}
+
+void ResizeHandle::keyPressEvent(QKeyEvent* event)
+{
+    const double step = event->modifiers().testFlag(Qt::ControlModifier) ? 1 : 10;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        change(m_width - step);
+        break;
+    case Qt::Key_Right:
+        change(m_width + step);
+        break;
+    case Qt::Key_Home:
+        change(m_minWidth);
+        break;
+    case Qt::Key_End:
+        change(m_maxWidth);
+        break;
+    default:
+        return QWidget::keyPressEvent(event);
+    }
+    emit widthSettled(m_width);
+}
+
+void ResizeHandle::enterEvent(QEnterEvent*)
+{
+    m_hovered = true;
+    update();
+}
+
+void ResizeHandle::leaveEvent(QEvent*)
+{
+    m_hovered = false;
+    update();
+}
+
+void ResizeHandle::focusInEvent(QFocusEvent*)
+{
+    update();
+}
+
+void ResizeHandle::focusOutEvent(QFocusEvent*)
+{
+    update();
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,350 @@
+#include "ui/controls/TextFields.h"
+
+#include "ui/controls/Buttons.h"
+#include "ui/controls/ThemedMenu.h"
+#include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/Icon.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Painting.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QWheelEvent>
+
+#include <cmath>
+#include <memory>
+
+namespace Quorbel {
+
+namespace {
+
+/// QLineEdit keeps this much free at both ends, whatever its margins.
+constexpr int builtInMargin = 2;
+
+/// The ground comes from our own frame, the placeholder from our own drawing.
+QPalette textPalette(const Theme& theme)
+{
+    QPalette colors = paletteFor(theme);
+    for (const auto group : { QPalette::Active, QPalette::Inactive, QPalette::Disabled }) {
+        colors.setColor(group, QPalette::Base, Qt::transparent);
+        colors.setColor(group, QPalette::PlaceholderText, Qt::transparent);
+    }
+    return colors;
+}
+
+bool clipboardHasText()
+{
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return data && data->hasText();
+}
+
+/// One line of the edit menu.
+struct EditItem {
+    const char* title;
+    QKeySequence::StandardKey key;
+    bool enabled;
+    std::function<void()> run;
+};
+
+void showEditMenu(QWidget* field, const QPoint& globalPos, const QList<EditItem>& items)
+{
+    auto* menu = new ThemedMenu(field);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const EditItem& item : items) {
+        if (item.title[0] == '\0') {
+            menu->addSeparator();
+            continue;
+        }
+        QAction* action = menu->addAction(QString::fromLatin1(item.title), field, item.run);
+        action->setShortcut(item.key);
+        action->setEnabled(item.enabled);
+    }
+    menu->popup(globalPos);
+}
+
+}  // namespace
+
+QBTextField::QBTextField(QWidget* parent)
+    : QLineEdit(parent)
+    , m_fade(new HoverFade(this))
+{
+    setFrame(false);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    onRestyle(this, [this] { restyle(); });
+    m_ring = installFocusRing(this, { RingShape::field, 7, [this] { return m_edited; }, {} });
+}
+
+void QBTextField::restyle()
+{
+    setPalette(textPalette(Theme::of(this)));
+    setFont(m_mono ? monoFont(13) : sansFont(13));
+    const int side = px(m_bare ? 7 : 10) - builtInMargin;
+    setTextMargins(m_icon.isEmpty() ? side : px(31) - builtInMargin, 0, side, 0);
+    updateGeometry();
+}
+
+void QBTextField::setBoundText(const QString& text)
+{
+    if (text != this->text())
+        setText(text);
+}
+
+void QBTextField::setPlaceholder(const QString& text, bool italic)
+{
+    m_placeholder = text;
+    m_italicPlaceholder = italic;
+    // For screen readers; what is seen is drawn by paintEvent().
+    setPlaceholderText(text);
+    update();
+}
+
+void QBTextField::setEdited(bool edited)
+{
+    if (edited == m_edited)
+        return;
+    m_edited = edited;
+    update();
+}
+
+void QBTextField::setMono(bool mono)
+{
+    m_mono = mono;
+    restyle();
+}
+
+void QBTextField::setLeadingIcon(const QString& icon)
+{
+    m_icon = icon;
+    restyle();
+}
+
+void QBTextField::setBare(bool bare)
+{
+    m_bare = bare;
+    // The frame around it has the ring.
+    removeEventFilter(m_ring);
+    if (!bare)
+        installEventFilter(m_ring);
+    restyle();
+}
+
+QSize QBTextField::sizeHint() const
+{
+    return { px(160), px(30) };
+}
+
+QSize QBTextField::minimumSizeHint() const
+{
+    return { px(60), px(30) };
+}
+
+void QBTextField::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Paste)) {
+        pasteText();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+QRect QBTextField::textRect() const
+{
+    const QMargins margins = textMargins();
+    return rect().adjusted(margins.left() + builtInMargin, 0, -margins.right() - builtInMargin, 0);
+}
+
+void QBTextField::paintEvent(QPaintEvent* event)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    if (!m_bare)
+        paintFieldFrame(painter, rect(), { isEnabled(), hasFocus(), m_edited, m_fade->hover() }, theme);
+    if (!m_icon.isEmpty()) {
+        const QRectF place(pxF(9), 0, pxF(15), height());
+        Icon::paint(painter, place, m_icon, pxF(15), hasFocus() ? theme.text : theme.muted);
+    }
+    if (text().isEmpty() && !m_placeholder.isEmpty()) {
+        QFont font = sansFont(13);
+        font.setItalic(m_italicPlaceholder);
+        painter.setFont(font);
+        painter.setPen(theme.muted);
+        const QRect box = textRect();
+        const QString shown = QFontMetrics(font).elidedText(m_placeholder, Qt::ElideRight, box.width());
+        painter.drawText(
+            box, int(Qt::AlignVCenter | Qt::TextSingleLine) | int(alignment() & Qt::AlignHorizontal_Mask), shown);
+    }
+    painter.end();
+    QLineEdit::paintEvent(event);
+}
+
+void QBTextField::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool writable = !isReadOnly();
+    const bool selected = hasSelectedText();
+    showEditMenu(this, event->globalPos(),
+        {
+            { "Undo", QKeySequence::Undo, writable && isUndoAvailable(), [this] { undo(); } },
+            { "Redo", QKeySequence::Redo, writable && isRedoAvailable(), [this] { redo(); } },
+            { "", {}, false, {} },
+            { "Cut", QKeySequence::Cut, writable && selected, [this] { cut(); } },
+            { "Copy", QKeySequence::Copy, selected, [this] { copy(); } },
+            { "Paste", QKeySequence::Paste, writable && clipboardHasText(), [this] { pasteText(); } },
+            { "", {}, false, {} },
+            { "Select All", QKeySequence::SelectAll, !text().isEmpty(), [this] { selectAll(); } },
+        });
+}
+
+QBTextArea::QBTextArea(QWidget* parent)
+    : QPlainTextEdit(parent)
+    , m_fade(new HoverFade(this))
+{
+    setFrameShape(QFrame::NoFrame);
+    setTabChangesFocus(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    viewport()->setAutoFillBackground(false);
+    document()->setDocumentMargin(0);
+    onRestyle(this, [this] { restyle(); });
+    installFocusRing(this, { RingShape::field, 7, [this] { return m_edited; }, {} });
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        grow();
+        viewport()->update();
+        if (!m_binding)
+            emit textEdited(toPlainText());
+    });
+}
+
+void QBTextArea::restyle()
+{
+    setPalette(textPalette(Theme::of(this)));
+    setFont(sansFont(13));
+    setCursorWidth(1);
+    // The border takes one pixel of the padding; the viewport is what is left.
+    setViewportMargins(px(10), px(9), px(10), px(9));
+    grow();
+}
+
+void QBTextArea::setBoundText(const QString& text)
+{
+    if (text != toPlainText())
+        startText(text);
+}
+
+void QBTextArea::startText(const QString& text)
+{
+    m_binding = true;
+    setPlainText(text);
+    m_binding = false;
+}
+
+void QBTextArea::setPlaceholder(const QString& text, bool italic)
+{
+    m_placeholder = text;
+    m_italicPlaceholder = italic;
+    setPlaceholderText(text);
+    viewport()->update();
+}
+
+void QBTextArea::setEdited(bool edited)
+{
+    if (edited == m_edited)
+        return;
+    m_edited = edited;
+    update();
+    viewport()->update();
+}
+
+QSize QBTextArea::sizeHint() const
+{
+    return { px(160), qMax(px(54), height()) };
+}
+
+void QBTextArea::grow()
+{
+    // As laid out: lines are whole pixels high, and higher where another font stands in for missing letters.
+    qreal text = 0;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        text += document()->documentLayout()->blockBoundingRect(block).height();
+    // One pixel more: without, QPlainTextEdit thinks that its last line is out of sight, and scrolls the first away.
+    const int wanted = qMax(px(54), int(std::ceil(text)) + 1 + 2 * px(9));
+    if (wanted == height() && wanted == minimumHeight())
+        return;
+    setFixedHeight(wanted);
+    // At once: were it left to the layout, the view would scroll to the new line first.
+    resize(width(), wanted);
+    updateGeometry();
+}
+
+void QBTextArea::resizeEvent(QResizeEvent* event)
+{
+    QPlainTextEdit::resizeEvent(event);
+    if (event->oldSize().width() != event->size().width())
+        grow();
+    // All of the text is in sight; the view must not stay scrolled from before it grew.
+    verticalScrollBar()->setValue(0);
+}
+
+void QBTextArea::changeEvent(QEvent* event)
+{
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange)
+        viewport()->update();
+}
+
+bool QBTextArea::event(QEvent* event)
+{
+    if (event->type() == QEvent::Paint) {
+        QPainter painter(this);
+        const FieldState state{ isEnabled(), hasFocus(), m_edited, m_fade->hover() };
+        paintFieldFrame(painter, rect(), state, Theme::of(this));
+        return true;
+    }
+    return QPlainTextEdit::event(event);
+}
+
+void QBTextArea::paintEvent(QPaintEvent* event)
+{
+    QPlainTextEdit::paintEvent(event);
+    if (m_placeholder.isEmpty() || !document()->isEmpty())
+        return;
+    QPainter painter(viewport());
+    QFont font = sansFont(13);
+    font.setItalic(m_italicPlaceholder);
+    painter.setFont(font);
+    painter.setPen(Theme::of(this).muted);
+    painter.drawText(viewport()->rect(), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, m_placeholder);
+}
+
+void QBTextArea::wheelEvent(QWheelEvent* event)
+{
+    // Nothing to scroll in here: the form behind scrolls.
+    event->ignore();
+}
+
+void QBTextArea::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool writable = !isReadOnly();
+    const bool selected = textCursor().hasSelection();
+    showEditMenu(this, event->globalPos(),
+        {
+            { "Undo", QKeySequence::Undo, writable && document()->isUndoAvailable(), [this] { undo(); } },
+            { "Redo", QKeySequence::Redo, writable && document()->isRedoAvailable(), [this] { redo(); } },
+            { "", {}, false, {} },
+            { "Cut", QKeySequence::Cut, writable && selected, [this] { cut(); } },
+            { "Copy", QKeySequence::Copy, selected, [this] { copy(); } },
+            { "Paste", QKeySequence::Paste, writable && clipboardHasText(), [this] { paste(); } },
+            { "", {}, false, {} },
+            { "Select All", QKeySequence::SelectAll, !document()->isEmpty(), [this] { selectAll(); } },
+        });
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,54 @@
+#include "ui/controls/ThemedMenuBar.h"
+
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QPainter>
+
+namespace Quorbel {
+
+namespace {
+
+constexpr qreal barHeight = 28;  // points
+constexpr qreal itemRadius = 6;
+
+}  // namespace
+
+ThemedMenuBar::ThemedMenuBar(QWidget* parent)
+    : QMenuBar(parent)
+{
+    setNativeMenuBar(false);
+    setMouseTracking(true);
+    onRestyle(this, [this] {
+        setFont(sansFont(13));
+        setFixedHeight(px(barHeight));
+    });
+}
+
+void ThemedMenuBar::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    // The letters to press are marked once the keyboard is in the menus.
+    const int mnemonics = hasFocus() || activeAction() ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+    for (const QAction* action : actions()) {
+        QRect item = actionGeometry(const_cast<QAction*>(action));  // Qt asks for a pointer that it does not write to
+        if (!action->isVisible() || !item.isValid())
+            continue;
+        item.setTop(0);
+        item.setBottom(height() - 1);
+        if (action == activeAction()) {
+            const bool open = action->menu<QMenu*>() && action->menu<QMenu*>()->isVisible();
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(open ? theme.derived.pressed : theme.derived.hover);
+            painter.drawRoundedRect(item, pxF(itemRadius), pxF(itemRadius));
+        }
+        painter.setPen(theme.text);
+        painter.drawText(item, Qt::AlignCenter | mnemonics, action->text());
+    }
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,74 @@
+#include "ui/controls/theme/Icon.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+#include <cmath>
+
+namespace Quorbel::Icon {
+
+namespace {
+
+QString path(const QString& name)
+{
+    return QStringLiteral(":/icons/%1.svg").arg(name);
+}
+
+/// The drawing's text with its colour and line width filled in; empty for an unknown name.
+QByteArray drawing(const QString& name, const QColor& color, qreal stroke)
+{
+    QFile file(path(name));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QByteArray svg = file.readAll();
+    svg.replace("currentColor", color.name(QColor::HexRgb).toLatin1());
+    if (stroke > 0)
+        svg.replace("stroke-width=\"1.7\"", "stroke-width=\"" + QByteArray::number(stroke) + '"');
+    return svg;
+}
+
+}  // namespace
+
+QPixmap pixmap(const QString& name, qreal size, const QColor& color, qreal devicePixelRatio, qreal stroke)
+{
+    const QString key = QStringLiteral("icon/%1/%2/%3/%4/%5")
+                            .arg(name, color.name(QColor::HexArgb))
+                            .arg(size)
+                            .arg(devicePixelRatio)
+                            .arg(stroke);
+    QPixmap result;
+    if (QPixmapCache::find(key, &result))
+        return result;
+    const QByteArray svg = drawing(name, color, stroke);
+    if (svg.isEmpty())
+        return {};
+    QSvgRenderer renderer(svg);
+    const int side = int(std::ceil(size * devicePixelRatio));
+    result = QPixmap(side, side);
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setOpacity(color.alphaF());
+    renderer.render(&painter, QRectF(0, 0, size * devicePixelRatio, size * devicePixelRatio));
+    painter.end();
+    result.setDevicePixelRatio(devicePixelRatio);
+    QPixmapCache::insert(key, result);
+    return result;
+}
+
+void paint(QPainter& painter, const QRectF& rect, const QString& name, qreal size, const QColor& color, qreal stroke)
+{
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    const QPixmap image = pixmap(name, size, color, ratio, stroke);
+    // On whole device pixels: a drawing between two pixels is a blurred one.
+    const auto snap = [ratio](qreal v) { return std::round(v * ratio) / ratio; };
+    painter.drawPixmap(QPointF(snap(rect.center().x() - size / 2), snap(rect.center().y() - size / 2)), image);
+}
+
+bool exists(const QString& name)
+{
+    return QFile::exists(path(name));
+}
+
+}  // namespace Quorbel::Icon

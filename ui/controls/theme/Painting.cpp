@@ -1,0 +1,77 @@
+#include "ui/controls/theme/Painting.h"
+
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QBitmap>
+#include <QGuiApplication>
+#include <QWidget>
+
+namespace Quorbel {
+
+void paintBox(QPainter& painter, const QRectF& rect, qreal radius, const QColor& fill, const QPen& border)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(fill.alpha() == 0 ? QBrush(Qt::NoBrush) : QBrush(fill));
+    painter.setPen(border);
+    const qreal inset = border.style() == Qt::NoPen ? 0 : border.widthF() / 2;
+    painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius - inset, radius - inset);
+}
+
+void cutCorners(QWidget& popup, qreal radius)
+{
+    if (QGuiApplication::platformName() != QLatin1String("xcb"))
+        return;
+    QBitmap shape(popup.size());
+    shape.fill(Qt::color0);
+    QPainter painter(&shape);
+    painter.setPen(Qt::color1);  // half a pixel beyond the edge
+    painter.setBrush(Qt::color1);
+    painter.drawRoundedRect(popup.rect(), radius, radius);
+    painter.end();
+    popup.setMask(shape);
+}
+
+void paintCutBox(QPainter& painter, const QRect& rect, qreal radius, const QColor& fill, const QColor& edge)
+{
+    if (QGuiApplication::platformName() == QLatin1String("xcb")) {
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setPen(edge);
+        painter.setBrush(edge);
+        painter.drawRoundedRect(rect, radius, radius);
+    }
+    paintBox(painter, rect, radius, fill, QPen(edge, 1));
+}
+
+void paintShadow(QPainter& painter, const QRectF& box, qreal radius, const QColor& shadow)
+{
+    // A blur as a stack of outlines from far outside to as far inside: half of the colour at the edge, none at `reach`.
+    const auto blur = [&](qreal reach, qreal drop, qreal alpha) {
+        constexpr int steps = 16;
+        painter.setBrush(withAlpha(shadow, alpha / steps));
+        for (int i = 0; i < steps; ++i) {
+            const qreal grow = reach * (1 - 2 * (i + .5) / steps);
+            const qreal corner = qMax(1.0, radius + grow);
+            painter.drawRoundedRect(box.adjusted(-grow, -grow + drop, grow, grow + drop), corner, corner);
+        }
+    };
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    blur(18, 7, shadow.alphaF());
+    blur(2, 1, shadow.alphaF() * .6);
+}
+
+void paintFieldFrame(QPainter& painter, const QRectF& rect, const FieldState& state, const Theme& theme)
+{
+    QColor ground = state.edited ? theme.amberBg : theme.field;
+    QColor line = state.edited ? theme.amberLine : mixed(theme.fieldLine, theme.derived.fieldHoverLine, state.hover);
+    if (state.focused)
+        line = state.edited ? theme.amber : theme.derived.focusStrong;
+    if (!state.enabled) {
+        ground = theme.derived.fieldOff;
+        line = theme.line;
+    }
+    paintBox(painter, rect, pxF(7), ground, QPen(line, 1));
+}
+
+}  // namespace Quorbel

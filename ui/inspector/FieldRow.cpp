@@ -1,0 +1,160 @@
+#include "ui/inspector/FieldRow.h"
+
+#include "ui/controls/Buttons.h"
+#include "ui/controls/FormLabels.h"
+#include "ui/controls/Marks.h"
+#include "ui/controls/theme/Metrics.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+// Points.
+constexpr qreal gap = 7;
+constexpr qreal labelWidth = 104;
+constexpr qreal rowHeight = 30;
+constexpr qreal firstLineDrop = 3;  // of a text area's first line below that of a text field
+constexpr qreal lineGap = 4;
+}  // namespace
+
+FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
+    : QWidget(parent)
+    , m_multiline(parts.kind == FieldKind::multiline)
+    , m_editor(makeRowEditor(parts, *this))
+    , m_line(new QHBoxLayout(this))
+    , m_column(new QVBoxLayout)
+    , m_label(new TwoLineLabel(TextRole::label, 13))
+{
+    m_label->setBuddy(m_editor.input);
+    m_line->setContentsMargins(0, 0, 0, 0);
+    m_line->addWidget(m_label, 0, Qt::AlignTop);
+    m_line->addLayout(m_column, 1);
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->addWidget(m_editor.widget);
+    m_column->addStretch();
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    onRestyle(this, [this] {
+        const int drop = m_multiline ? px(firstLineDrop) : 0;
+        m_label->setContentsMargins(0, drop, 0, 0);
+        m_label->setFixedSize(px(labelWidth), px(rowHeight) + drop);
+        m_line->setSpacing(px(gap));
+        m_column->setSpacing(px(lineGap));
+        if (m_tick)
+            m_tick->setFixedSize(px(16), px(rowHeight) + 2 * drop);
+    });
+}
+
+int FieldRow::dotCentre() const
+{
+    return px(rowHeight) / 2 + (m_multiline ? px(firstLineDrop) : 0);
+}
+
+QList<QWidget*> FieldRow::tabStops() const
+{
+    QList<QWidget*> stops = m_editor.tabStops;
+    if (m_tick)
+        stops.prepend(m_tick);
+    if (m_remove)
+        stops.append(m_remove);
+    return stops;
+}
+
+void FieldRow::setState(const FieldRowState& state, bool fresh)
+{
+    if (!fresh && state == m_state)
+        return;
+    const FieldRowState old = std::exchange(m_state, state);
+    m_label->setText(state.label);
+    m_editor.show(state, fresh);
+    showTick();
+    showRemove();
+    showLines();
+    describe();
+    if (old.edited != state.edited && parentWidget())
+        parentWidget()->update();
+}
+
+void FieldRow::showTick()
+{
+    if (m_state.batch && !m_tick) {
+        m_tick = new QBCheckbox(this);
+        m_tick->setAmber(true);
+        m_tick->setFixedSize(px(16), px(rowHeight) + (m_multiline ? 2 * px(firstLineDrop) : 0));
+        m_line->insertWidget(0, m_tick, 0, Qt::AlignTop);
+        connect(m_tick, &QAbstractButton::clicked, this, &FieldRow::tickClicked);
+        emit tabStopsChanged();
+    }
+    if (!m_tick)
+        return;
+    m_tick->setVisible(m_state.batch);
+    m_tick->setChecked(m_state.included);
+    m_tick->setAccessibleName(u"Write %1 to all selected files"_s.arg(m_state.label));
+}
+
+void FieldRow::showRemove()
+{
+    if (m_state.removable && !m_remove) {
+        m_remove = new QBIconButton(u"xmark.circle.fill"_s, u"Remove this field"_s, this);
+        m_remove->setSizes({ 22, rowHeight }, 15);
+        m_remove->setQuiet(true);
+        m_line->addWidget(m_remove, 0, Qt::AlignTop);
+        connect(m_remove, &QAbstractButton::clicked, this, &FieldRow::removeClicked);
+        emit tabStopsChanged();
+    }
+    if (!m_remove)
+        return;
+    m_remove->setVisible(m_state.removable);
+    m_remove->setAccessibleDescription(m_state.label);
+}
+
+WrappedLine* FieldRow::makeLine(bool mono)
+{
+    auto* line =
+        mono ? new WrappedLine(TextRole::muted, 10.5, 15, this) : new WrappedLine(TextRole::amberText, 11, 15, this);
+    line->setMono(mono);
+    return line;
+}
+
+void FieldRow::showLines()
+{
+    // Behind the editor: the tags, then the help.
+    if (!m_state.namespaceLine.isEmpty() && !m_namespace) {
+        m_namespace = makeLine(true);
+        m_column->insertWidget(1, m_namespace);
+    }
+    if (!m_state.helpLine.isEmpty() && !m_help) {
+        m_help = makeLine(false);
+        m_column->insertWidget(m_namespace ? 2 : 1, m_help);
+    }
+    if (m_namespace) {
+        m_namespace->setText(m_state.namespaceLine);
+        m_namespace->setVisible(!m_state.namespaceLine.isEmpty());
+    }
+    if (m_help) {
+        m_help->setText(m_state.helpLine);
+        m_help->setVisible(!m_state.helpLine.isEmpty());
+    }
+}
+
+/// For screen readers: what is seen around the editor.
+void FieldRow::describe()
+{
+    QStringList told;
+    if (m_state.edited && !m_state.batch)
+        told.append(u"edited"_s);
+    if (!m_state.helpLine.isEmpty())
+        told.append(m_state.helpLine);
+    if (!m_state.namespaceLine.isEmpty())
+        told.append(m_state.namespaceLine);
+    const QString description = told.join(u", "_s);
+    if (m_editor.input->accessibleName() != m_state.label)
+        m_editor.input->setAccessibleName(m_state.label);
+    if (m_editor.input->accessibleDescription() != description)
+        m_editor.input->setAccessibleDescription(description);
+}
+
+}  // namespace Quorbel

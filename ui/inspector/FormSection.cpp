@@ -1,0 +1,68 @@
+#include "ui/inspector/FormSection.h"
+
+#include "ui/controls/Labels.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/FieldRow.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+namespace {
+// Points.
+constexpr qreal above = 16;
+constexpr qreal belowTitle = 8;
+constexpr qreal rowGap = 7;
+constexpr qreal dotLeft = 11;  // from the label to the dot's left edge
+constexpr qreal dotSize = 6;
+}  // namespace
+
+FormSection::FormSection(const QString& title, const QString& note, QWidget* parent)
+    : QWidget(parent)
+    , m_column(new QVBoxLayout(this))
+    , m_rowColumn(new QVBoxLayout)
+{
+    m_column->addWidget(new SectionHeader(title, false, note));
+    m_column->addLayout(m_rowColumn);
+    onRestyle(this, [this] {
+        m_column->setContentsMargins(px(dotRoom), px(above), 0, 0);
+        m_column->setSpacing(px(belowTitle));
+        m_rowColumn->setSpacing(px(rowGap));
+    });
+}
+
+void FormSection::setRows(const QList<FieldRow*>& rows)
+{
+    if (rows == m_rows)
+        return;
+    for (FieldRow* row : std::as_const(m_rows)) {
+        m_rowColumn->removeWidget(row);
+        if (!rows.contains(row))
+            row->hide();
+    }
+    m_rows = rows;
+    for (FieldRow* row : rows) {
+        m_rowColumn->addWidget(row);
+        row->show();
+    }
+}
+
+void FormSection::setUnderRows(QWidget* widget)
+{
+    m_column->addWidget(widget);
+}
+
+void FormSection::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Theme::of(this).amber);
+    const qreal dot = pxF(dotSize);
+    for (const FieldRow* row : std::as_const(m_rows))
+        if (row->state().edited && !row->state().batch)
+            painter.drawEllipse(QRectF(row->x() - pxF(dotLeft), row->y() + row->dotCentre() - dot / 2, dot, dot));
+}
+
+}  // namespace Quorbel

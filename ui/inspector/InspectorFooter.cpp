@@ -1,0 +1,99 @@
+#include "ui/inspector/InspectorFooter.h"
+
+#include "app/model/AppModel.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/FormLabels.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/InspectorStates.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Points.
+constexpr qreal barHeight = 54;
+constexpr qreal side = 20;
+constexpr qreal gap = 8;
+constexpr qreal dotSize = 6;
+
+void setTitle(QBButton* button, const QString& title)
+{
+    if (button->text() == title)
+        return;
+    button->setText(title);
+    button->updateGeometry();
+}
+
+}  // namespace
+
+InspectorFooter::InspectorFooter(AppModel& model, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_unsaved(new TwoLineLabel(TextRole::label, 12))
+    , m_rename(new QBButton(u"Rename…"_s, QBButtonKind::secondary))
+    , m_add(new QBButton(u"Add field"_s, QBButtonKind::dashed))
+    , m_save(new QBButton(u"Save"_s, QBButtonKind::primary))
+{
+    auto* line = new QHBoxLayout(this);
+    m_unsaved->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    line->addWidget(m_unsaved, 1);
+    for (QBButton* button : { m_rename, m_add, m_save })
+        line->addWidget(button);
+    connect(m_rename, &QAbstractButton::clicked, this, [this] { m_model.setRenameOpen(true); });
+    connect(m_add, &QAbstractButton::clicked, this, [this] { m_model.setAddOpen(true); });
+    connect(m_save, &QAbstractButton::clicked, this, [this] { m_model.requestSave(); });
+    onRestyle(this, [this, line] {
+        setFixedHeight(px(barHeight));
+        line->setContentsMargins(px(side), 1, px(side), 0);
+        line->setSpacing(px(gap));
+    });
+}
+
+QList<QWidget*> InspectorFooter::tabStops() const
+{
+    return { m_rename, m_add, m_save };
+}
+
+QString InspectorFooter::unsavedText() const
+{
+    return m_unsaved->text();
+}
+
+void InspectorFooter::refresh(bool hasPhoto)
+{
+    const bool dirty = hasPhoto && m_model.unsavedCount() > 0;
+    m_unsaved->setVisible(hasPhoto);
+    m_unsaved->setText(InspectorStates::unsavedText(m_model));
+    m_unsaved->setRole(dirty ? TextRole::text : TextRole::label);
+    m_unsaved->setContentsMargins(dirty ? px(dotSize + gap) : 0, 0, 0, 0);
+    m_rename->setVisible(hasPhoto && m_model.canRename());
+    m_add->setVisible(hasPhoto);
+    setTitle(m_add, InspectorStates::addTitle(m_model));
+    m_save->setVisible(hasPhoto);
+    setTitle(m_save, InspectorStates::saveTitle(m_model));
+    // A save that runs is not asked for again.
+    m_save->setEnabled(dirty && !m_model.isSaving());
+    update();
+}
+
+void InspectorFooter::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.fillRect(rect(), theme.panel);
+    painter.fillRect(0, 0, width(), 1, theme.line);
+    if (!m_unsaved->isVisible() || m_unsaved->contentsMargins().left() == 0)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme.amber);
+    const qreal dot = pxF(dotSize);
+    painter.drawEllipse(QRectF(pxF(side), (height() + 1 - dot) / 2, dot, dot));
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,271 @@
+#include "ui/inspector/InspectorForm.h"
+
+#include "app/model/AppModel.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/CameraSection.h"
+#include "ui/inspector/FieldRow.h"
+#include "ui/inspector/FormSection.h"
+#include "ui/inspector/InspectorHeader.h"
+#include "ui/inspector/InspectorStates.h"
+#include "ui/places/LocationMap.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Points.
+constexpr qreal side = 20;
+constexpr qreal top = 14;
+constexpr qreal bottom = 16;
+
+constexpr int mostCompletions = 8;
+
+/// Header and banner keep the room that sections leave for the dots.
+QWidget* indented(QWidget* widget)
+{
+    auto* holder = new QWidget;
+    holder->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    auto* line = new QVBoxLayout(holder);
+    line->addWidget(widget);
+    onRestyle(holder, [line] { line->setContentsMargins(px(FormSection::dotRoom), 0, 0, 0); });
+    return holder;
+}
+
+}  // namespace
+
+InspectorForm::InspectorForm(
+    AppModel& model, ThumbnailStore* thumbs, PlaceProvider* places, MapRenderer* maps, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_places(places)
+    , m_column(new QVBoxLayout(this))
+    , m_header(new PhotoHeader(thumbs))
+    , m_banner(new BatchBanner)
+    , m_customs(new FormSection(u"CUSTOM"_s))
+    , m_cameraSection(new FormSection(u"CAMERA"_s, u"read-only"_s))
+    , m_map(new LocationMap(places, maps))
+    , m_camera(new CameraSection)
+{
+    m_column->setSpacing(0);
+    m_column->addWidget(indented(m_header));
+    m_column->addWidget(indented(m_banner));
+    const auto allSections = allCases<FieldSection>();
+    for (size_t i = 0; i < m_sections.size(); ++i) {
+        m_sections.at(i) = new FormSection(rawValue(allSections.at(int(i))));
+        m_column->addWidget(m_sections.at(i));
+    }
+    m_sections.at(size_t(FieldSection::location))->setUnderRows(m_map);
+    m_column->addWidget(m_customs);
+    m_cameraSection->setUnderRows(m_camera);
+    m_column->addWidget(m_cameraSection);
+    m_column->addStretch();
+    connect(m_map, &LocationMap::found, &m_model, &AppModel::fillPlaceNames);
+    onRestyle(this, [this] { setBottomInset(m_bottomInset); });
+}
+
+void InspectorForm::setBottomInset(int pixels)
+{
+    m_bottomInset = pixels;
+    m_column->setContentsMargins(px(side - FormSection::dotRoom), px(top), px(side), px(bottom) + pixels);
+}
+
+void InspectorForm::refresh()
+{
+    const Subject subject{ m_model.selection(), m_model.primary() };
+    const bool fresh = subject != m_subject;
+    m_subject = subject;
+    showHeader();
+    for (const FieldSection section : allCases<FieldSection>())
+        showFields(section, fresh);
+    showMap(fresh);
+    showCustoms(fresh);
+    showCamera();
+    if (std::exchange(m_tabOrderStale, false))
+        orderTabStops();
+    announceAdded(fresh);
+}
+
+void InspectorForm::announceAdded(bool fresh)
+{
+    const QSet<QString> before = std::exchange(m_added, m_model.sessionAddedKnownIDs());
+    if (fresh)
+        return;
+    const QSet<QString> added = m_added - before;
+    for (const QString& id : added)
+        emit fieldAdded(id);
+}
+
+void InspectorForm::showHeader()
+{
+    m_header->parentWidget()->setVisible(!m_model.isBatch());
+    m_banner->parentWidget()->setVisible(m_model.isBatch());
+    m_banner->setCount(m_model.selection().size());
+    if (const ImageRecord* record = m_model.primaryRecord())
+        m_header->setRecord(*record);
+}
+
+void InspectorForm::showFields(FieldSection section, bool fresh)
+{
+    QList<FieldRow*> rows;
+    const QStringList ids = m_model.visibleFieldIDs(section);
+    for (const QString& id : ids) {
+        const FieldSpec& field = *FieldSchema::spec(id);
+        FieldRow* row = rowOf(field);
+        row->setState(InspectorStates::fieldRow(m_model, field), fresh);
+        rows.append(row);
+    }
+    FormSection* form = m_sections.at(size_t(section));
+    form->setRows(rows);
+    form->setVisible(!rows.isEmpty());
+}
+
+void InspectorForm::showCustoms(bool fresh)
+{
+    QList<FieldRow*> rows;
+    QSet<QString> names;
+    const QList<CustomValue> customs = m_model.visibleCustomFields();
+    for (const CustomValue& custom : customs) {
+        FieldRow* row = rowOf(custom);
+        row->setState(InspectorStates::customRow(m_model, custom), fresh);
+        rows.append(row);
+        names.insert(custom.name);
+        // One that is edited as it appears is the user's; others may come from another program.
+        if (!fresh && row->state().edited && !m_customNames.contains(custom.name))
+            emit fieldAdded(InspectorStates::customKey(custom.name));
+    }
+    m_customNames = names;
+    m_customs->setRows(rows);
+    m_customs->setVisible(!rows.isEmpty());
+}
+
+bool InspectorForm::arePlaceFieldsEmpty() const
+{
+    const QStringList ids{ u"place"_s, u"sublocation"_s, u"state"_s, u"country"_s };
+    return std::all_of(ids.cbegin(), ids.cend(), [this](const QString& id) { return m_model.isFieldEmpty(id); });
+}
+
+void InspectorForm::showMap(bool fresh)
+{
+    if (fresh)
+        m_map->abandon();
+    const auto point = Coordinates::parse(InspectorStates::currentText(m_model, u"coords"_s));
+    m_map->setPoint(point, arePlaceFieldsEmpty());
+}
+
+void InspectorForm::showCamera()
+{
+    const ImageRecord* record = m_model.isBatch() ? nullptr : m_model.primaryRecord();
+    m_cameraSection->setVisible(record != nullptr);
+    if (record)
+        m_camera->setRows(record->camera);
+}
+
+FieldRow* InspectorForm::row(const QString& id) const
+{
+    FieldRow* found = m_pool.value(id);
+    return found && !found->isHidden() ? found : nullptr;
+}
+
+FieldRow* InspectorForm::customRow(const QString& name) const
+{
+    return row(InspectorStates::customKey(name));
+}
+
+FieldRow* InspectorForm::makeRow(const QString& key, const FieldRowParts& parts)
+{
+    auto* row = new FieldRow(parts, this);
+    row->hide();
+    m_pool.insert(key, row);
+    m_tabOrderStale = true;
+    connect(row, &FieldRow::tabStopsChanged, this, [this] { m_tabOrderStale = true; });
+    return row;
+}
+
+FieldRow* InspectorForm::rowOf(const FieldSpec& field)
+{
+    if (FieldRow* known = m_pool.value(field.id))
+        return known;
+    FieldRowParts parts;
+    parts.kind = field.kind;
+    parts.searchesPlaces = field.id == u"place"_s;
+    parts.places = m_places;
+    parts.now = [this] { return m_model.now(); };
+    if (field.id == u"keywords"_s)
+        parts.completions = [this](
+                                const QString& prefix) { return m_model.keywordCompletions(prefix, mostCompletions); };
+    FieldRow* row = makeRow(field.id, parts);
+    connect(row, &FieldRow::textEdited, this, [this, id = field.id](const QString& text) { write(id, text); });
+    connect(
+        row, &FieldRow::itemAdded, this, [this, id = field.id](const QString& item) { changeList(id, item, true); });
+    connect(
+        row, &FieldRow::itemRemoved, this, [this, id = field.id](const QString& item) { changeList(id, item, false); });
+    connect(row, &FieldRow::tickClicked, this, [this, field] { toggle(field); });
+    connect(row, &FieldRow::removeClicked, this, [this, id = field.id] { m_model.removeAddedField(id); });
+    connect(row, &FieldRow::placePicked, &m_model, &AppModel::applyLocation);
+    return row;
+}
+
+FieldRow* InspectorForm::rowOf(const CustomValue& custom)
+{
+    const QString key = InspectorStates::customKey(custom.name);
+    if (FieldRow* known = m_pool.value(key))
+        return known;
+    FieldRow* row = makeRow(key, {});
+    connect(row, &FieldRow::textEdited, this,
+        [this, name = custom.name](const QString& text) { m_model.setCustom(name, text); });
+    connect(row, &FieldRow::tickClicked, this, [this, name = custom.name] { m_model.toggleBatchCustom(name); });
+    return row;
+}
+
+void InspectorForm::write(const QString& id, const QString& text)
+{
+    if (m_model.isBatch())
+        m_model.setBatch(id, text);
+    else
+        m_model.setSingle(id, text);
+}
+
+void InspectorForm::changeList(const QString& id, const QString& item, bool add)
+{
+    if (m_model.isBatch())
+        add ? m_model.addBatchListItem(id, item) : m_model.removeBatchListItem(id, item);
+    else
+        add ? m_model.addSingleListItem(id, item) : m_model.removeSingleListItem(id, item);
+}
+
+void InspectorForm::toggle(const FieldSpec& field)
+{
+    if (field.isList())
+        m_model.clearBatchList(field.id);
+    else
+        m_model.toggleBatchInclude(field.id);
+}
+
+/// Top to bottom, as the sections stand: rows are made in the order in which photos need them.
+void InspectorForm::orderTabStops()
+{
+    QList<QWidget*> stops;
+    const auto take = [&stops](const FormSection* section) {
+        for (const FieldRow* row : section->rows())
+            stops.append(row->tabStops());
+    };
+    for (const FormSection* section : m_sections) {
+        take(section);
+        if (section == m_sections.at(size_t(FieldSection::location)))
+            stops.append(m_map->fillLink());
+    }
+    take(m_customs);
+    // A row made late stands behind the rest of the window: what follows the form goes there with it.
+    stops.append(m_stopsBehind);
+    for (qsizetype i = 1; i < stops.size(); ++i)
+        QWidget::setTabOrder(stops.at(i - 1), stops.at(i));
+}
+
+}  // namespace Quorbel

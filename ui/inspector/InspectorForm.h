@@ -1,0 +1,100 @@
+// The scrolled part of the inspector: header or banner, sections of field rows, the camera's details.
+// Thread: the main thread. Shows the model and calls it. Rows are kept once made: switching photos, or between one
+// and several, gives them other states.
+#pragma once
+
+#include "core/schema/FieldSchema.h"
+#include "core/schema/ImageRecord.h"
+#include "platform/places/map/MapRenderer.h"
+
+#include <QHash>
+#include <QSet>
+#include <QUrl>
+#include <QWidget>
+
+#include <array>
+#include <optional>
+
+class QVBoxLayout;
+
+namespace Quorbel {
+
+class AppModel;
+class BatchBanner;
+class CameraSection;
+class FieldRow;
+class FormSection;
+class LocationMap;
+class PhotoHeader;
+class ThumbnailStore;
+struct FieldRowParts;
+
+class InspectorForm final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(InspectorForm)
+
+public:
+    /// All but the model may be null. Nothing is owned, and everything must outlive this.
+    InspectorForm(
+        AppModel& model, ThumbnailStore* thumbs, PlaceProvider* places, MapRenderer* maps, QWidget* parent = nullptr);
+    /// Reads the model again and shows what differs. Needs a selected photo.
+    void refresh();
+    /// The controls that Tab comes to behind the form's last.
+    void setTabStopsBehind(const QList<QWidget*>& stops) { m_stopsBehind = stops; }
+    /// Pixels kept free at the lower end.
+    void setBottomInset(int pixels);
+    /// The row of a schema field, by its id; null while it is not on screen.
+    FieldRow* row(const QString& id) const;
+    FieldRow* customRow(const QString& name) const;
+    PhotoHeader* header() const { return m_header; }
+    BatchBanner* banner() const { return m_banner; }
+    LocationMap* locationMap() const { return m_map; }
+    CameraSection* camera() const { return m_camera; }
+
+signals:
+    /// The user added this field to those on screen: a field id, or the key of a custom field.
+    void fieldAdded(const QString& id);
+
+private:
+    /// What the form is about: when it changes, texts that stay equal belong to other photos all the same.
+    struct Subject {
+        QSet<QUrl> selection{};
+        std::optional<QUrl> primary{};
+        bool operator==(const Subject&) const = default;
+    };
+
+    void showHeader();
+    void showFields(FieldSection section, bool fresh);
+    void showCustoms(bool fresh);
+    void showMap(bool fresh);
+    void showCamera();
+    void announceAdded(bool fresh);
+    FieldRow* makeRow(const QString& key, const FieldRowParts& parts);
+    FieldRow* rowOf(const FieldSpec& field);
+    FieldRow* rowOf(const CustomValue& custom);
+    void write(const QString& id, const QString& text);
+    void changeList(const QString& id, const QString& item, bool add);
+    void toggle(const FieldSpec& field);
+    void orderTabStops();
+    bool arePlaceFieldsEmpty() const;
+
+    AppModel& m_model;
+    PlaceProvider* m_places;
+    Subject m_subject{};
+    QSet<QString> m_added{};  ///< the fields that were added when the model was last read
+    QSet<QString> m_customNames{};  ///< of the custom fields on screen
+    bool m_tabOrderStale = true;
+    QList<QWidget*> m_stopsBehind;
+    QHash<QString, FieldRow*> m_pool;  ///< by field id, or by the key of a custom field
+    QVBoxLayout* m_column;
+    PhotoHeader* m_header;
+    BatchBanner* m_banner;
+    std::array<FormSection*, 3> m_sections{};  ///< in the order of FieldSection
+    FormSection* m_customs;
+    FormSection* m_cameraSection;
+    LocationMap* m_map;
+    CameraSection* m_camera;
+    int m_bottomInset = 0;
+};
+
+}  // namespace Quorbel

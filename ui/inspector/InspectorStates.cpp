@@ -1,0 +1,130 @@
+#include "ui/inspector/InspectorStates.h"
+
+#include "app/model/AppModel.h"
+#include "core/tool/MetadataWriter.h"
+
+#include <algorithm>
+
+namespace Quorbel::InspectorStates {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString placeholderOf(const QString& id)
+{
+    static const QHash<QString, QString> placeholders{
+        { u"title"_s, u"Untitled"_s },
+        { u"description"_s, u"Add a description…"_s },
+        { u"place"_s, u"Add a place…"_s },
+        { u"creator"_s, u"Add a creator…"_s },
+        { u"copyright"_s, u"Add a copyright notice…"_s },
+        { u"date"_s, u"YYYY-MM-DD HH:MM"_s },
+        { u"coords"_s, u"lat, lon"_s },
+        { u"headline"_s, u"Add a headline…"_s },
+        { u"event"_s, u"Add an event…"_s },
+    };
+    return placeholders.value(id);
+}
+
+QString plural(qsizetype count)
+{
+    return count == 1 ? QString() : u"s"_s;
+}
+
+QString willBeWritten(const AppModel& model)
+{
+    return u"Will be written to all %1 photos"_s.arg(model.selection().size());
+}
+
+void addListState(const AppModel& model, const FieldSpec& field, FieldRowState& state)
+{
+    state.placeholder = state.batch ? u"Add to all + ↵"_s : u"Add keyword + ↵"_s;
+    state.items = state.batch ? model.batchLists().value(field.id) : model.draftLists().value(field.id);
+    state.included = state.batch && !state.items.isEmpty();
+    if (state.included)
+        state.helpLine = u"appends — existing values kept"_s;
+}
+
+void addTextState(const AppModel& model, const FieldSpec& field, FieldRowState& state)
+{
+    state.text = currentText(model, field.id);
+    state.included = state.batch && model.batchInclude().contains(field.id);
+    if (state.included)
+        state.helpLine = willBeWritten(model);
+    state.italicPlaceholder = state.batch && !state.included && !model.sharedValue(field.id);
+    state.placeholder = state.italicPlaceholder ? u"Multiple values — leave unchanged"_s : placeholderOf(field.id);
+}
+
+}  // namespace
+
+QString customKey(const QString& name)
+{
+    return u"custom:"_s + name;
+}
+
+QString currentText(const AppModel& model, const QString& id)
+{
+    return model.isBatch() ? model.batchValues().value(id) : model.draftValues().value(id);
+}
+
+FieldRowState fieldRow(const AppModel& model, const FieldSpec& field)
+{
+    FieldRowState state;
+    state.label = field.label;
+    state.batch = model.isBatch();
+    state.edited = (state.batch ? model.batchInclude() : model.editedSingle()).contains(field.id);
+    state.removable = model.isRemovableAddedField(field.id);
+    if (model.showNamespace())
+        state.namespaceLine = field.namespaceHint;
+    if (field.isList())
+        addListState(model, field, state);
+    else
+        addTextState(model, field, state);
+    return state;
+}
+
+FieldRowState customRow(const AppModel& model, const CustomValue& custom)
+{
+    FieldRowState state;
+    state.label = custom.name;
+    state.text = custom.value;
+    state.batch = model.isBatch();
+    if (state.batch) {
+        const QList<CustomValue>& written = model.batchCustoms();
+        state.included = std::any_of(
+            written.cbegin(), written.cend(), [&custom](const CustomValue& v) { return v.name == custom.name; });
+        state.edited = state.included;
+        if (state.included)
+            state.helpLine = willBeWritten(model);
+    } else {
+        state.edited = model.editedSingle().contains(customKey(custom.name));
+    }
+    if (model.showNamespace())
+        state.namespaceLine = MetadataWriter::customNamespacePrefix() + u':' + custom.name;
+    return state;
+}
+
+QString unsavedText(const AppModel& model)
+{
+    const int count = model.unsavedCount();
+    if (count == 0)
+        return u"No unsaved changes"_s;
+    if (!model.isBatch())
+        return u"%1 unsaved change%2"_s.arg(count).arg(plural(count));
+    return u"%1 field%2 → %3 files"_s.arg(count).arg(plural(count)).arg(model.selection().size());
+}
+
+QString addTitle(const AppModel& model)
+{
+    return model.isBatch() ? u"Add field to all"_s : u"Add field"_s;
+}
+
+QString saveTitle(const AppModel& model)
+{
+    if (model.isSaving())
+        return u"Saving…"_s;
+    return model.isBatch() ? u"Apply to %1"_s.arg(model.selection().size()) : u"Save"_s;
+}
+
+}  // namespace Quorbel::InspectorStates

@@ -1,0 +1,31 @@
+// What the inspector says about a model: the state of each row, the texts of its footer.
+// Thread: the main thread. Reads the model, changes nothing, knows no widget.
+#pragma once
+
+#include "core/schema/FieldSchema.h"
+#include "core/schema/ImageRecord.h"
+#include "ui/inspector/FieldRow.h"
+
+namespace Quorbel {
+
+class AppModel;
+
+namespace InspectorStates {
+
+/// The key under which a custom field counts among the edited ones.
+QString customKey(const QString& name);
+
+FieldRowState fieldRow(const AppModel& model, const FieldSpec& field);
+FieldRowState customRow(const AppModel& model, const CustomValue& custom);
+
+/// The text that an editor of this field shows now.
+QString currentText(const AppModel& model, const QString& id);
+
+QString unsavedText(const AppModel& model);
+QString addTitle(const AppModel& model);
+/// The title of the button that saves, or applies to several.
+QString saveTitle(const AppModel& model);
+
+}  // namespace InspectorStates
+
+}  // namespace Quorbel

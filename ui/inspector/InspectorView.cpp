@@ -1,0 +1,111 @@
+#include "ui/inspector/InspectorView.h"
+
+#include "app/model/AppModel.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/FieldRow.h"
+#include "ui/inspector/InspectorFooter.h"
+#include "ui/inspector/InspectorForm.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+InspectorView::InspectorView(
+    AppModel& model, ThumbnailStore* thumbs, PlaceProvider* places, MapRenderer* maps, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_scroll(new QScrollArea)
+    , m_form(new InspectorForm(model, thumbs, places, maps))
+    , m_nothing(new ThemedLabel(u"No photo selected"_s, TextRole::muted, 13))
+    , m_footer(new InspectorFooter(model))
+{
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->viewport()->setAutoFillBackground(false);
+    m_scroll->setWidget(m_form);
+    m_form->setAutoFillBackground(false);
+    m_form->installEventFilter(this);
+    m_form->setTabStopsBehind(m_footer->tabStops());
+    OverlayScrollBar::attach(m_scroll);
+    m_nothing->setAlignment(Qt::AlignCenter);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_scroll, 1);
+    column->addWidget(m_nothing, 1);
+    column->addWidget(m_footer);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now && m_form->isAncestorOf(now))
+            revealFocus();
+    });
+    // Later: the sheet in which the field was picked still gives the focus back to where it was.
+    connect(m_form, &InspectorForm::fieldAdded, this, &InspectorView::focusField, Qt::QueuedConnection);
+    connectModel();
+    refresh();
+}
+
+void InspectorView::connectModel()
+{
+    for (const auto changed : { &AppModel::selectionChanged, &AppModel::primaryChanged, &AppModel::recordsChanged,
+             &AppModel::draftValuesChanged, &AppModel::draftListsChanged, &AppModel::draftCustomsChanged,
+             &AppModel::editedSingleChanged, &AppModel::sessionAddedKnownIDsChanged, &AppModel::batchIncludeChanged,
+             &AppModel::batchValuesChanged, &AppModel::batchListsChanged, &AppModel::batchCustomsChanged,
+             &AppModel::showNamespaceChanged, &AppModel::isSavingChanged })
+        connect(&m_model, changed, this, &InspectorView::refresh);
+}
+
+void InspectorView::setBottomInset(int pixels)
+{
+    m_form->setBottomInset(pixels);
+}
+
+void InspectorView::refresh()
+{
+    const bool hasPhoto = !m_model.selection().isEmpty() && (m_model.isBatch() || m_model.primaryRecord());
+    m_scroll->setVisible(hasPhoto);
+    m_nothing->setVisible(!hasPhoto);
+    if (hasPhoto)
+        m_form->refresh();
+    m_footer->refresh(hasPhoto);
+}
+
+void InspectorView::revealFocus()
+{
+    QWidget* focus = QApplication::focusWidget();
+    if (!focus || !m_form->isAncestorOf(focus))
+        return;
+    // Around the caret: enough for a field, its ring and the line under it.
+    m_scroll->ensureWidgetVisible(focus, 0, px(48));
+}
+
+void InspectorView::focusField(const QString& id)
+{
+    if (const FieldRow* row = m_form->row(id))
+        row->input()->setFocus(Qt::OtherFocusReason);
+}
+
+bool InspectorView::eventFilter(QObject* watched, QEvent* event)
+{
+    // A text area that grew while one types may have pushed its own last line out of sight.
+    if (watched == m_form && event->type() == QEvent::Resize)
+        QMetaObject::invokeMethod(this, &InspectorView::revealFocus, Qt::QueuedConnection);
+    return QWidget::eventFilter(watched, event);
+}
+
+void InspectorView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Theme::of(this).panel);
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,156 @@
+// The editors of the field kinds, made to fit into a row.
+#include "ui/controls/Buttons.h"
+#include "ui/controls/OffsetPicker.h"
+#include "ui/controls/RatingEditor.h"
+#include "ui/controls/TextFields.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/FieldRow.h"
+#include "ui/places/LocationSearchField.h"
+
+#include <QHBoxLayout>
+#include <QLocale>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A text that is the same but for the photo it belongs to: no undo may lead back into another photo.
+template <typename Field>
+void showText(Field* field, const FieldRowState& state, bool fresh)
+{
+    if (fresh)
+        field->startText(state.text);
+    else
+        field->setBoundText(state.text);
+    // A long text that nobody types in shows its beginning.
+    if (QLineEdit* line = qobject_cast<QLineEdit*>(field); line && !line->hasFocus())
+        line->setCursorPosition(0);
+    field->setPlaceholder(state.placeholder, state.italicPlaceholder);
+    field->setEdited(state.edited);
+}
+
+RowEditor textEditor(FieldRow& row)
+{
+    auto* field = new QBTextField(&row);
+    QObject::connect(field, &QLineEdit::textEdited, &row, &FieldRow::textEdited);
+    return { field, field, { field },
+        [field](const FieldRowState& state, bool fresh) { showText(field, state, fresh); } };
+}
+
+RowEditor placeEditor(PlaceProvider* places, FieldRow& row)
+{
+    auto* field = new LocationSearchField(places, &row);
+    QObject::connect(field, &QLineEdit::textEdited, &row, &FieldRow::textEdited);
+    QObject::connect(field, &LocationSearchField::picked, &row, &FieldRow::placePicked);
+    return { field, field, { field }, [field](const FieldRowState& state, bool fresh) {
+                if (fresh)
+                    field->abandon();
+                showText(field, state, fresh);
+            } };
+}
+
+RowEditor areaEditor(FieldRow& row)
+{
+    auto* area = new QBTextArea(&row);
+    QObject::connect(area, &QBTextArea::textEdited, &row, &FieldRow::textEdited);
+    return { area, area, { area }, [area](const FieldRowState& state, bool fresh) { showText(area, state, fresh); } };
+}
+
+RowEditor keywordEditor(const KeywordEditor::Completions& completions, FieldRow& row)
+{
+    auto* editor = new KeywordEditor(&row);
+    editor->setCompletions(completions);
+    QObject::connect(editor, &KeywordEditor::added, &row, &FieldRow::itemAdded);
+    QObject::connect(editor, &KeywordEditor::removed, &row, &FieldRow::itemRemoved);
+    return { editor, editor->entry(), { editor->entry() }, [editor](const FieldRowState& state, bool fresh) {
+                if (fresh)
+                    editor->clearEntry();
+                editor->setAmber(state.batch);
+                editor->setEdited(state.edited);
+                if (editor->chips() != state.items)
+                    editor->setChips(state.items);
+                editor->setPlaceholder(state.placeholder);
+            } };
+}
+
+RowEditor dateEditor(const std::function<QDateTime()>& now, FieldRow& row)
+{
+    auto* holder = new QWidget(&row);
+    auto* line = new QHBoxLayout(holder);
+    auto* field = new QBTextField(holder);
+    auto* button = new QBButton(u"Now"_s, QBButtonKind::secondary, holder);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(field, 1);
+    line->addWidget(button);
+    onRestyle(holder, [line] { line->setSpacing(px(7)); });
+    field->setMono(true);
+    button->setSidePadding(11);
+    QObject::connect(field, &QLineEdit::textEdited, &row, &FieldRow::textEdited);
+    QObject::connect(button, &QAbstractButton::clicked, &row, [now, &row] {
+        const QDateTime time = now ? now() : QDateTime::currentDateTime();
+        emit row.textEdited(QLocale::c().toString(time, u"yyyy-MM-dd HH:mm"));
+    });
+    return { holder, field, { field, button }, [field, button](const FieldRowState& state, bool fresh) {
+                showText(field, state, fresh);
+                button->setAccessibleDescription(state.label);
+            } };
+}
+
+/// Keeps an editor of its own width at the left.
+QWidget* leftAligned(QWidget* editor, FieldRow& row)
+{
+    auto* holder = new QWidget(&row);
+    auto* line = new QHBoxLayout(holder);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(editor);
+    line->addStretch();
+    return holder;
+}
+
+RowEditor ratingEditor(FieldRow& row)
+{
+    auto* stars = new RatingEditor;
+    QWidget* holder = leftAligned(stars, row);
+    QObject::connect(stars, &RatingEditor::valueEdited, &row, &FieldRow::textEdited);
+    return { holder, stars, { stars }, [stars](const FieldRowState& state, bool) {
+                stars->setValue(state.text);
+                stars->setEdited(state.edited);
+            } };
+}
+
+RowEditor offsetEditor(FieldRow& row)
+{
+    auto* picker = new OffsetPicker(u"—"_s);
+    QWidget* holder = leftAligned(picker, row);
+    QObject::connect(picker, &OffsetPicker::valueEdited, &row, &FieldRow::textEdited);
+    return { holder, picker, { picker }, [picker](const FieldRowState& state, bool) {
+                picker->setValue(state.text);
+                picker->setEdited(state.edited);
+            } };
+}
+
+}  // namespace
+
+RowEditor makeRowEditor(const FieldRowParts& parts, FieldRow& row)
+{
+    switch (parts.kind) {
+    case FieldKind::multiline:
+        return areaEditor(row);
+    case FieldKind::keywords:
+        return keywordEditor(parts.completions, row);
+    case FieldKind::date:
+        return dateEditor(parts.now, row);
+    case FieldKind::rating:
+        return ratingEditor(row);
+    case FieldKind::offset:
+        return offsetEditor(row);
+    case FieldKind::text:
+    case FieldKind::coordinates:
+        break;
+    }
+    return parts.searchesPlaces ? placeEditor(parts.places, row) : textEditor(row);
+}
+
+}  // namespace Quorbel

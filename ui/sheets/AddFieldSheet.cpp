@@ -1,0 +1,187 @@
+#include "ui/sheets/AddFieldSheet.h"
+
+#include "app/model/AppModel.h"
+#include "core/text/Text.h"
+#include "core/tool/MetadataWriter.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/TextFields.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/sheets/AddableFieldList.h"
+#include "ui/sheets/SheetParts.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Points.
+constexpr qreal sheetWidth = 470;
+constexpr qreal padding = 24;
+constexpr qreal buttonsAbove = 22;
+
+/// The fields whose label, note or tag hint contains the query, in their order.
+QList<FieldSpec> filteredFields(const QList<FieldSpec>& fields, const QString& query)
+{
+    const QString wanted = Text::trimmed(query).toLower();
+    if (wanted.isEmpty())
+        return fields;
+    QList<FieldSpec> found;
+    for (const FieldSpec& field : fields)
+        for (const QString& text : { field.label, field.addNote, field.namespaceHint })
+            if (text.toLower().contains(wanted)) {
+                found.append(field);
+                break;
+            }
+    return found;
+}
+
+}  // namespace
+
+AddFieldSheet::AddFieldSheet(AppModel& model, QWidget* parent)
+    : SheetBody(parent)
+    , m_model(model)
+    , m_query(new QBTextField)
+    , m_list(new AddableFieldList)
+    , m_name(new QBTextField)
+    , m_value(new QBTextField)
+    , m_verdict(new ThemedLabel({}, TextRole::label, 11))
+    , m_add(new QBButton(u"Add Field"_s, QBButtonKind::primary))
+{
+    m_query->setPlaceholder(u"Search fields…"_s);
+    m_query->setAccessibleName(u"Search fields"_s);
+    m_query->setLeadingIcon(u"magnifyingglass"_s);
+    m_query->installEventFilter(this);
+    build();
+    connect(m_query, &QLineEdit::textChanged, this, &AddFieldSheet::filter);
+    connect(m_name, &QLineEdit::textChanged, this, &AddFieldSheet::judgeName);
+    connect(m_list, &AddableFieldList::picked, &m_model, &AppModel::addKnownField);
+    connect(m_list, &AddableFieldList::leftUpwards, m_query, [this] { m_query->setFocus(Qt::BacktabFocusReason); });
+    connect(m_add, &QAbstractButton::clicked, this, &AddFieldSheet::confirm);
+    // Files that other programs change may fill fields meanwhile.
+    for (const auto changed :
+        { &AppModel::draftValuesChanged, &AppModel::draftListsChanged, &AppModel::recordsChanged })
+        connect(&m_model, changed, this, &AddFieldSheet::filter);
+    filter();
+    m_list->setTabPredecessor(m_query);
+    judgeName();
+}
+
+void AddFieldSheet::build()
+{
+    auto* column = new QVBoxLayout(this);
+    auto* dismiss = new QBButton(u"Cancel"_s, QBButtonKind::secondary);
+    connect(dismiss, &QAbstractButton::clicked, this, &AddFieldSheet::cancel);
+    m_verdict->setElided(true);
+    m_verdict->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    stackParts(this, column,
+        {
+            { new LabeledDivider(u"RECOMMENDED · WORKS EVERYWHERE"_s), 10 },
+            { m_query, 6 },
+            { new ThemedLabel(u"Already-set fields are hidden."_s, TextRole::muted, 11), 8 },
+            { m_list, 22 },
+            { new LabeledDivider(u"ADVANCED · CUSTOM FIELD"_s, true, u"may not appear in all apps"_s), 12 },
+            { buildCustom() },
+            { m_verdict },
+        });
+    column->addLayout(sheetButtonRow(this, { dismiss, m_add }));
+    onRestyle(this, [this, column] {
+        setFixedWidth(px(sheetWidth));
+        column->setContentsMargins(px(padding), px(padding), px(padding), px(padding));
+        // The line about the name stands in the gap above the buttons: nothing moves when it appears.
+        m_verdict->setFixedHeight(px(buttonsAbove));
+    });
+}
+
+QWidget* AddFieldSheet::buildCustom()
+{
+    auto* fields = new QWidget;
+    auto* grid = new QGridLayout(fields);
+    grid->setContentsMargins(0, 0, 0, 0);
+    int column = 0;
+    for (const auto& [title, field] : { std::pair(u"Name"_s, m_name), std::pair(u"Value"_s, m_value) }) {
+        auto* label = new ThemedLabel(title, TextRole::label, 12);
+        label->setBuddy(field);
+        field->setAccessibleName(title);
+        grid->addWidget(label, 0, column);
+        grid->addWidget(field, 1, column);
+        grid->setColumnStretch(column++, 1);
+    }
+    m_name->setPlaceholder(u"e.g. Project"_s);
+    onRestyle(fields, [grid] {
+        grid->setHorizontalSpacing(px(12));
+        grid->setVerticalSpacing(px(6));
+    });
+    return fields;
+}
+
+void AddFieldSheet::filter()
+{
+    const QString none =
+        m_query->text().isEmpty() ? u"All recommended fields are already shown."_s : u"No matching fields."_s;
+    m_list->setFields(filteredFields(m_model.addableKnownFields(), m_query->text()), none);
+}
+
+/// Says under the name what stands in the way of storing it, or what it will be stored as.
+void AddFieldSheet::judgeName()
+{
+    const QString typed = m_name->text();
+    const auto stored = MetadataWriter::sanitizeCustomName(typed);
+    const auto problem = MetadataWriter::customNameProblem(typed);
+    QString verdict;
+    if (problem)
+        verdict = *problem;
+    else if (stored && *stored != typed)
+        verdict = u"Will be stored as “"_s + *stored + u'”';
+    m_verdict->setText(verdict);
+    m_verdict->setRole(problem ? TextRole::amberText : TextRole::label);
+    m_name->setAccessibleDescription(verdict);
+    m_add->setEnabled(stored && !problem);
+}
+
+bool AddFieldSheet::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_query && event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Down) {
+            m_list->focusFirst();
+            return true;
+        }
+        const bool isReturn = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        const QStringList ids = m_list->shownIds();
+        // Return takes the field that the search has come down to.
+        if (isReturn && !Text::trimmed(m_query->text()).isEmpty() && ids.size() == 1) {
+            m_model.addKnownField(ids.first());
+            return true;
+        }
+    }
+    return SheetBody::eventFilter(watched, event);
+}
+
+QString AddFieldSheet::title() const
+{
+    return u"Add Metadata Field"_s;
+}
+
+void AddFieldSheet::confirm()
+{
+    if (m_add->isEnabled())
+        m_model.addCustomField(m_name->text(), m_value->text());
+}
+
+void AddFieldSheet::cancel()
+{
+    m_model.setAddOpen(false);
+}
+
+QWidget* AddFieldSheet::initialFocus()
+{
+    return m_query;
+}
+
+}  // namespace Quorbel

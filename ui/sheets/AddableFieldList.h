@@ -1,0 +1,53 @@
+// The list of fields that may be added: a row a field, each a button.
+// Thread: the main thread. Knows nothing of the model.
+#pragma once
+
+#include "core/schema/FieldSchema.h"
+
+#include <QHash>
+#include <QScrollArea>
+
+class QVBoxLayout;
+
+namespace Quorbel {
+
+class AddableFieldRow;
+class ThemedLabel;
+
+/// 240 points high where there is room. Up and Down go from row to row, Tab stops at one row only.
+class AddableFieldList final : public QScrollArea {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(AddableFieldList)
+
+public:
+    explicit AddableFieldList(QWidget* parent = nullptr);
+    /// Shows these fields, or the text when there are none.
+    void setFields(const QList<FieldSpec>& fields, const QString& textWhenEmpty);
+    /// Ids of the fields shown, from the top.
+    QStringList shownIds() const;
+    void focusFirst();
+    /// Puts the rows behind this widget in the tab order, now and whenever they change.
+    void setTabPredecessor(QWidget* widget);
+    QSize sizeHint() const override;
+
+signals:
+    void picked(const QString& id);
+    /// Up in the topmost row.
+    void leftUpwards();
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    AddableFieldRow* rowOf(const FieldSpec& field);
+    void move(int from, int step);
+    void orderTabStops();
+
+    QWidget* m_tabPredecessor = nullptr;
+    QVBoxLayout* m_column;
+    ThemedLabel* m_empty;
+    QHash<QString, AddableFieldRow*> m_pool;
+    QList<AddableFieldRow*> m_rows;
+};
+
+}  // namespace Quorbel

@@ -1,0 +1,126 @@
+#include "ui/sheets/RenameSheet.h"
+
+#include "app/model/AppModel.h"
+#include "core/text/FileNaming.h"
+#include "core/text/Text.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/FlowLayout.h"
+#include "ui/controls/FormLabels.h"
+#include "ui/controls/TextFields.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/sheets/SheetParts.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Points.
+constexpr qreal sheetWidth = 440;
+constexpr qreal padding = 24;
+constexpr int chipGap = 6;
+
+/// The token chips, as high as their lines.
+class TokenFlow final : public QWidget {
+public:
+    TokenFlow() { new FlowLayout(px(chipGap), this); }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QWidget::resizeEvent(event);
+        setFixedHeight(layout()->heightForWidth(width()));
+    }
+};
+
+}  // namespace
+
+RenameSheet::RenameSheet(AppModel& model, QWidget* parent)
+    : SheetBody(parent)
+    , m_model(model)
+    , m_pattern(new QBTextField)
+    , m_preview(new WrappedLine(TextRole::text, 12, 17))
+    , m_rename(new QBButton(u"Rename"_s, QBButtonKind::primary))
+{
+    m_pattern->setMono(true);
+    m_pattern->setPlaceholder(u"%Date%_%Title%"_s);
+    m_pattern->setAccessibleName(u"Pattern"_s);
+    m_preview->setMono(true);
+    m_preview->setBreaksAnywhere(true);
+    auto* hint = new WrappedLine(TextRole::muted, 11.5, 16);
+    hint->setText(u"Click a field to insert it. The extension is kept automatically."_s);
+    auto* dismiss = new QBButton(u"Cancel"_s, QBButtonKind::secondary);
+    connect(dismiss, &QAbstractButton::clicked, this, &RenameSheet::cancel);
+    connect(m_rename, &QAbstractButton::clicked, this, &RenameSheet::confirm);
+    auto* column = new QVBoxLayout(this);
+    stackParts(this, column,
+        { { m_pattern, 12 }, { buildTokens(), 12 }, { hint, 18 }, { new LabeledDivider(u"Preview"_s), 10 },
+            { m_preview, 22 } });
+    column->addLayout(sheetButtonRow(this, { dismiss, m_rename }));
+    onRestyle(this, [this, column] {
+        setFixedWidth(px(sheetWidth));
+        column->setContentsMargins(px(padding), px(padding), px(padding), px(padding));
+    });
+    connectModel();
+    refresh();
+}
+
+QWidget* RenameSheet::buildTokens()
+{
+    auto* flow = new TokenFlow;
+    for (const FileNaming::Token& token : FileNaming::tokens()) {
+        auto* chip = new TokenChip(token.label);
+        chip->setToolTip(token.placeholder);
+        // A click leaves the caret in the pattern; Tab still reaches the chip.
+        chip->setFocusPolicy(Qt::TabFocus);
+        connect(chip, &QAbstractButton::clicked, this,
+            [this, placeholder = token.placeholder] { m_model.insertRenameToken(placeholder); });
+        flow->layout()->addWidget(chip);
+    }
+    return flow;
+}
+
+void RenameSheet::connectModel()
+{
+    connect(m_pattern, &QLineEdit::textEdited, &m_model, &AppModel::setRenamePattern);
+    for (const auto changed : { &AppModel::renamePatternChanged, &AppModel::draftValuesChanged,
+             &AppModel::stripSpecialCharsChanged, &AppModel::recordsChanged })
+        connect(&m_model, changed, this, &RenameSheet::refresh);
+}
+
+void RenameSheet::refresh()
+{
+    m_pattern->setBoundText(m_model.renamePattern());
+    m_preview->setText(m_model.renamePreview());
+    // An empty pattern would name the photo "untitled": hardly what anybody wants.
+    m_rename->setEnabled(m_model.canRename() && !Text::trimmed(m_model.renamePattern()).isEmpty());
+}
+
+QString RenameSheet::title() const
+{
+    return u"Rename File"_s;
+}
+
+void RenameSheet::confirm()
+{
+    if (!m_rename->isEnabled())
+        return;
+    m_model.performRename();
+    m_model.setRenameOpen(false);
+}
+
+void RenameSheet::cancel()
+{
+    m_model.setRenameOpen(false);
+}
+
+QWidget* RenameSheet::initialFocus()
+{
+    return m_pattern;
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,253 @@
+#include "ui/sheets/SaveDialogView.h"
+
+#include "app/model/AppModel.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/Marks.h"
+#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Painting.h"
+#include "ui/sheets/SheetParts.h"
+
+#include <QGridLayout>
+#include <QPainter>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Points.
+constexpr qreal sheetWidth = 470;
+constexpr qreal padding = 24;
+constexpr qreal tileGap = 16;
+constexpr qreal messageGap = 5;
+constexpr qreal listGap = 14;
+constexpr qreal buttonsAbove = 22;
+constexpr qreal changeLabelWidth = 90;
+constexpr qreal changeSide = 12;
+constexpr qreal changeAbove = 6;
+constexpr qreal mostListHeight = 190;
+
+bool isSingle(const AppModel& model)
+{
+    return model.selection().size() == 1;
+}
+
+/// The rows of the change list, with a hairline between them.
+class ChangeTable final : public QWidget {
+public:
+    explicit ChangeTable(const QList<ChangeLine>& lines)
+        : m_grid(new QGridLayout(this))
+    {
+        m_grid->setColumnStretch(1, 1);
+        for (int i = 0; i < int(lines.size()); ++i) {
+            auto* label = new ThemedLabel(lines.at(i).label, TextRole::label, 13);
+            auto* value = new ThemedLabel(lines.at(i).value, TextRole::text, 13);
+            label->setWordWrap(true);
+            value->setWordWrap(true);
+            m_grid->addWidget(label, i, 0, Qt::AlignTop);
+            m_grid->addWidget(value, i, 1, Qt::AlignTop);
+        }
+        onRestyle(this, [this] {
+            m_grid->setContentsMargins(px(changeSide), px(changeAbove), px(changeSide), px(changeAbove));
+            m_grid->setHorizontalSpacing(px(7));
+            m_grid->setVerticalSpacing(2 * px(changeAbove) + 1);
+            m_grid->setColumnMinimumWidth(0, px(changeLabelWidth));
+        });
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        for (int i = 1; i < m_grid->rowCount(); ++i)
+            painter.fillRect(0, m_grid->itemAtPosition(i, 0)->geometry().top() - px(changeAbove) - 1, width(), 1,
+                Theme::of(this).line);
+    }
+
+private:
+    QGridLayout* m_grid;
+};
+
+/// A framed list as high as its content, up to a limit beyond which it scrolls.
+class ChangeList final : public QScrollArea {
+public:
+    explicit ChangeList(const QList<ChangeLine>& lines)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setWidgetResizable(true);
+        setViewportMargins(1, 1, 1, 1);
+        viewport()->setAutoFillBackground(false);
+        setWidget(new ChangeTable(lines));
+        widget()->setAutoFillBackground(false);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        setAccessibleName(u"Changes"_s);
+        OverlayScrollBar::attach(this);
+        // Only a list that scrolls needs the keyboard.
+        setFocusPolicy(sizeHint().height() < contentHeight() ? Qt::TabFocus : Qt::NoFocus);
+        installFocusRing(this, { RingShape::tight, 7, {}, {} });
+    }
+
+    QSize sizeHint() const override { return { listWidth(), qMin(px(mostListHeight), contentHeight()) }; }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            const Theme& theme = Theme::of(this);
+            QPainter painter(this);
+            paintBox(painter, rect(), pxF(7), theme.field, QPen(theme.line, 1));
+            return true;
+        }
+        return QScrollArea::event(event);
+    }
+
+private:
+    static int listWidth() { return px(sheetWidth - 2 * padding - 46 - tileGap); }
+    int contentHeight() const { return widget()->heightForWidth(listWidth() - 2) + 2; }
+};
+
+}  // namespace
+
+SaveDialogView::SaveDialogView(AppModel& model, QWidget* parent)
+    : SheetBody(parent)
+    , m_model(model)
+    , m_single(isSingle(model))
+{
+    setAccessibleName(titleText(model));
+    setAccessibleDescription(messageText(model));
+    auto* column = new QVBoxLayout(this);
+    auto* line = new QHBoxLayout;
+    line->addWidget(new SymbolTile(m_single ? u"tag"_s : u"square.stack.3d.up"_s), 0, Qt::AlignTop);
+    line->addLayout(buildTexts(), 1);
+    column->addLayout(line);
+    QHBoxLayout* buttons = sheetButtonRow(this, buildButtons());
+    column->addLayout(buttons);
+    onRestyle(this, [this, column, line] {
+        setFixedWidth(px(sheetWidth));
+        column->setContentsMargins(px(padding), px(padding), px(padding), px(padding));
+        column->setSpacing(px(buttonsAbove));
+        line->setSpacing(px(tileGap));
+    });
+}
+
+QVBoxLayout* SaveDialogView::buildTexts()
+{
+    auto* texts = new QVBoxLayout;
+    auto* title = new ThemedLabel(titleText(m_model), TextRole::text, 15, QFont::DemiBold);
+    auto* message = new ThemedLabel(messageText(m_model), TextRole::label, 13);
+    title->setWordWrap(true);
+    message->setWordWrap(true);
+    QWidget* changes = buildChanges();
+    buildCheckbox();
+    QList<SheetPart> parts{ { title, messageGap }, { message, listGap } };
+    if (changes)
+        parts.append({ changes, listGap });
+    parts.append({ m_dontAsk, 0, Qt::AlignLeft });
+    stackParts(this, texts, parts);
+    texts->addStretch();
+    return texts;
+}
+
+QWidget* SaveDialogView::buildChanges()
+{
+    const QList<ChangeLine> lines = changeLines(m_model);
+    return lines.isEmpty() ? nullptr : new ChangeList(lines);
+}
+
+void SaveDialogView::buildCheckbox()
+{
+    m_dontAsk = new QBCheckbox(m_single ? u"Save and don’t ask again"_s : u"Don’t ask again this session"_s, nullptr);
+    const auto show = [this] {
+        m_dontAsk->setChecked(m_single ? m_model.saveDontAsk() : m_model.batchDontAskSession());
+    };
+    show();
+    connect(&m_model, &AppModel::saveDontAskChanged, this, show);
+    connect(&m_model, &AppModel::batchDontAskSessionChanged, this, show);
+    connect(m_dontAsk, &QAbstractButton::clicked, this, [this] {
+        if (m_single)
+            m_model.setSaveDontAsk(!m_model.saveDontAsk());
+        else
+            m_model.setBatchDontAskSession(!m_model.batchDontAskSession());
+    });
+}
+
+QList<QBButton*> SaveDialogView::buildButtons()
+{
+    QList<QBButton*> buttons;
+    if (m_single) {
+        buttons.append(new QBButton(u"Don't Save"_s, QBButtonKind::destructive));
+        connect(buttons.last(), &QAbstractButton::clicked, this, [this] { m_model.discardSaveDialog(); });
+    }
+    buttons.append(new QBButton(u"Cancel"_s, QBButtonKind::secondary));
+    connect(buttons.last(), &QAbstractButton::clicked, this, &SaveDialogView::cancel);
+    const QString title = m_single ? u"Save"_s : u"Apply to %1 Photos"_s.arg(m_model.selection().size());
+    m_confirm = new QBButton(title, QBButtonKind::primary);
+    connect(m_confirm, &QAbstractButton::clicked, this, &SaveDialogView::confirm);
+    buttons.append(m_confirm);
+    return buttons;
+}
+
+void SaveDialogView::confirm()
+{
+    m_model.confirmSaveDialog();
+}
+
+void SaveDialogView::cancel()
+{
+    m_model.cancelSaveDialog();
+}
+
+QWidget* SaveDialogView::initialFocus()
+{
+    return m_confirm;
+}
+
+QString SaveDialogView::titleText(const AppModel& model)
+{
+    if (!isSingle(model))
+        return u"Apply changes to %1 photos?"_s.arg(model.selection().size());
+    const ImageRecord* record = model.primaryRecord();
+    return u"Save changes to “"_s + (record ? record->fileName : QString()) + u"”?"_s;
+}
+
+QString SaveDialogView::messageText(const AppModel& model)
+{
+    if (isSingle(model)) {
+        const int count = model.unsavedCount();
+        return u"You edited %1 field%2. Your changes will be lost if you don’t save them."_s.arg(count).arg(
+            count == 1 ? QString() : u"s"_s);
+    }
+    QStringList labels;
+    for (const ChangeLine& line : changeLines(model))
+        labels.append(line.label);
+    const QString fields = labels.isEmpty() ? u"the selected fields"_s : labels.join(u", "_s);
+    return u"This will modify %1 on %2 files. This can’t be undone."_s.arg(
+        fields, QString::number(model.selection().size()));
+}
+
+QList<ChangeLine> SaveDialogView::changeLines(const AppModel& model)
+{
+    if (isSingle(model))
+        return {};
+    QList<ChangeLine> lines;
+    QStringList ids = model.batchInclude().values();
+    ids.sort();
+    for (const QString& id : std::as_const(ids))
+        if (const FieldSpec* field = FieldSchema::spec(id); field && !field->isList())
+            lines.append({ field->label, u'“' + model.batchValues().value(id) + u'”' });
+    const QMap<QString, QStringList> lists = model.nonEmptyBatchLists();
+    for (auto list = lists.cbegin(); list != lists.cend(); ++list)
+        if (const FieldSpec* field = FieldSchema::spec(list.key()))
+            lines.append({ field->label, list.value().join(u", "_s) });
+    return lines;
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,51 @@
+// Asks before a write: one photo's edits, or the changes to several.
+// Thread: the main thread. Shows the model as it is when the dialog opens, and hands its answers to it.
+#pragma once
+
+#include "ui/sheets/Sheet.h"
+
+class QVBoxLayout;
+
+namespace Quorbel {
+
+class AppModel;
+class QBButton;
+class QBCheckbox;
+
+/// What a batch write will change, field by field.
+struct ChangeLine {
+    QString label{};
+    QString value{};
+    bool operator==(const ChangeLine&) const = default;
+};
+
+class SaveDialogView final : public SheetBody {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(SaveDialogView)
+
+public:
+    /// The model must outlive this.
+    explicit SaveDialogView(AppModel& model, QWidget* parent = nullptr);
+
+    void confirm() override;
+    void cancel() override;
+    QWidget* initialFocus() override;
+
+    static QString titleText(const AppModel& model);
+    static QString messageText(const AppModel& model);
+    /// Scalar fields by id, then lists by id. Empty for one photo.
+    static QList<ChangeLine> changeLines(const AppModel& model);
+
+private:
+    QVBoxLayout* buildTexts();
+    QWidget* buildChanges();
+    void buildCheckbox();
+    QList<QBButton*> buildButtons();
+
+    AppModel& m_model;
+    bool m_single;
+    QBCheckbox* m_dontAsk = nullptr;
+    QBButton* m_confirm = nullptr;
+};
+
+}  // namespace Quorbel

@@ -1,0 +1,300 @@
+#include "ui/sheets/Sheet.h"
+
+#include "ui/controls/Accessibility.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Shadow.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QGraphicsOpacityEffect>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QVBoxLayout>
+#include <QVariantAnimation>
+
+namespace Quorbel {
+
+namespace {
+
+constexpr qreal cornerRadius = 12;  // points, as all below
+constexpr qreal titleHeight = 46;
+constexpr qreal titlePadding = 24;
+constexpr qreal rise = 8;  // how far a sheet moves up while it fades in
+constexpr qreal windowMargin = 12;
+
+}  // namespace
+
+SheetBody::SheetBody(QWidget* parent)
+    : QWidget(parent)
+{
+}
+
+/// A body with its title bar, ground and keys.
+class SheetFrame final : public QWidget {
+    Q_OBJECT
+
+public:
+    SheetFrame(SheetBody* body, QWidget* parent)
+        : QWidget(parent)
+        , m_body(body)
+    {
+        auto* column = new QVBoxLayout(this);
+        column->setSpacing(0);
+        column->addWidget(body);
+        onRestyle(this, [this, column] { column->setContentsMargins(0, hasTitle() ? px(titleHeight) : 0, 0, 0); });
+        installAccessibility();
+        setAccessibleName(hasTitle() ? body->title() : body->accessibleName());
+        setAccessibleDescription(body->accessibleDescription());
+        setFocusPolicy(Qt::NoFocus);
+    }
+
+    SheetBody* body() const { return m_body; }
+
+    /// Fades and moves the sheet in; `step` follows every change.
+    void fadeIn(const std::function<void()>& step)
+    {
+        setGraphicsEffect(new QGraphicsOpacityEffect(this));
+        auto* animation = new QVariantAnimation(this);
+        animation->setStartValue(0.0);
+        animation->setEndValue(1.0);
+        animation->setDuration(Duration::sheetIn);
+        animation->setEasingCurve(QEasingCurve::OutCubic);
+        connect(animation, &QVariantAnimation::valueChanged, this, [this, step](const QVariant& value) {
+            m_shown = value.toReal();
+            static_cast<QGraphicsOpacityEffect*>(graphicsEffect())->setOpacity(m_shown);
+            place();
+            step();
+        });
+        connect(animation, &QVariantAnimation::finished, this, [this] { setGraphicsEffect(nullptr); });
+        animation->start(QAbstractAnimation::DeleteWhenStopped);
+    }
+
+    qreal shown() const { return m_shown; }
+
+    /// Centred in the host, and inside it wherever it fits.
+    void place()
+    {
+        const QWidget* host = parentWidget();
+        const QSize size = sizeHint().expandedTo(minimumSizeHint());
+        const int margin = px(windowMargin);
+        const int y = qMax(margin, (host->height() - size.height()) / 2);
+        setGeometry(qMax(0, (host->width() - size.width()) / 2), y + qRound((1 - m_shown) * px(rise)), size.width(),
+            qMin(size.height(), host->height() - 2 * margin));
+    }
+
+    /// The next or previous thing inside the sheet that takes Tab, going round; the sheet itself when nothing does.
+    QWidget* nextStop(bool next)
+    {
+        QWidget* start = QApplication::focusWidget();
+        if (!start || !isAncestorOf(start))
+            start = this;
+        for (QWidget* w = next ? start->nextInFocusChain() : start->previousInFocusChain(); w && w != start;
+             w = next ? w->nextInFocusChain() : w->previousInFocusChain())
+            if (isAncestorOf(w) && takesTab(w))
+                return w;
+        return start;
+    }
+
+    bool focusNextPrevChild(bool next) override
+    {
+        nextStop(next)->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)
+            place();
+        return QWidget::event(event);
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() == Qt::Key_Escape) {
+            m_body->cancel();
+        } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            auto* button = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+            if (button && isAncestorOf(button) && !button->isCheckable())
+                button->click();
+            else
+                m_body->confirm();
+        }
+        event->accept();  // no key reaches the window behind
+    }
+
+    void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+
+    void paintEvent(QPaintEvent*) override
+    {
+        const Theme& theme = Theme::of(this);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const QRectF ground(rect());
+        QPainterPath shape;
+        shape.addRoundedRect(ground, pxF(cornerRadius), pxF(cornerRadius));
+        painter.fillPath(shape, theme.panel);
+        if (hasTitle())
+            paintTitle(painter, shape, theme);
+        painter.setPen(theme.line);
+        painter.drawRoundedRect(ground.adjusted(.5, .5, -.5, -.5), pxF(cornerRadius), pxF(cornerRadius));
+    }
+
+private:
+    bool hasTitle() const { return !m_body->title().isEmpty(); }
+
+    static bool takesTab(const QWidget* widget)
+    {
+        return (widget->focusPolicy() & Qt::TabFocus) && widget->isVisible() && widget->isEnabled();
+    }
+
+    void paintTitle(QPainter& painter, const QPainterPath& shape, const Theme& theme) const
+    {
+        const QRect bar(0, 0, width(), px(titleHeight));
+        painter.save();
+        painter.setClipPath(shape);
+        painter.fillRect(bar, theme.titlebar);
+        painter.fillRect(0, bar.height() - 1, width(), 1, theme.line);
+        painter.restore();
+        painter.setPen(theme.text);
+        painter.setFont(sansFont(13, QFont::DemiBold));
+        painter.drawText(bar.adjusted(px(titlePadding), 0, -px(titlePadding), -1), Qt::AlignVCenter | Qt::AlignLeft,
+            m_body->title());
+    }
+
+    SheetBody* m_body;
+    qreal m_shown = 1;
+};
+
+SheetHost::SheetHost(QWidget* window)
+    : QWidget(window)
+{
+    hide();
+    window->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { keepFocusInside(now); });
+}
+
+SheetHost::~SheetHost() = default;
+
+void SheetHost::present(SheetBody* body)
+{
+    const bool first = m_frames.isEmpty();
+    if (first) {
+        m_focusBefore = window()->focusWidget();
+        setGeometry(parentWidget()->rect());
+    }
+    auto* frame = new SheetFrame(body, this);
+    m_frames.append(frame);
+    setAttribute(Qt::WA_TransparentForMouseEvents, false);
+    show();
+    raise();
+    frame->show();
+    frame->raise();
+    frame->place();
+    m_leaving = {};
+    if (motionEnabled(this))
+        frame->fadeIn([this] { update(); });
+    focusTop();
+    update();
+    if (first)
+        emit openChanged(true);
+}
+
+void SheetHost::dismiss(SheetBody* body)
+{
+    SheetFrame* frame = nullptr;
+    for (SheetFrame* candidate : std::as_const(m_frames))
+        if (body && candidate->body() == body)
+            frame = candidate;
+    if (!frame)
+        return;
+    m_frames.removeOne(frame);
+    const bool last = m_frames.isEmpty();
+    if (last && motionEnabled(this))
+        fadeOut(frame);
+    frame->hide();
+    frame->deleteLater();
+    update();
+    if (!last) {
+        focusTop();
+        return;
+    }
+    if (m_leaving.picture.isNull())
+        hide();
+    if (m_focusBefore && m_focusBefore->isVisible() && m_focusBefore->isEnabled())
+        m_focusBefore->setFocus(Qt::OtherFocusReason);
+    emit openChanged(false);
+}
+
+// The sheet is gone at once for whoever asks; only its picture still fades, and lets everything through.
+void SheetHost::fadeOut(SheetFrame* frame)
+{
+    m_leaving = { frame->grab(), frame->geometry(), 1 };
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto* animation = new QVariantAnimation(this);
+    animation->setStartValue(1.0);
+    animation->setEndValue(0.0);
+    animation->setDuration(Duration::sheetOut);
+    connect(animation, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+        m_leaving.opacity = value.toReal();
+        update();
+    });
+    connect(animation, &QVariantAnimation::finished, this, [this] {
+        m_leaving = {};
+        if (m_frames.isEmpty())
+            hide();
+    });
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+SheetBody* SheetHost::current() const
+{
+    return m_frames.isEmpty() ? nullptr : m_frames.last()->body();
+}
+
+bool SheetHost::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == parentWidget() && event->type() == QEvent::Resize) {
+        setGeometry(parentWidget()->rect());
+        for (SheetFrame* frame : std::as_const(m_frames))
+            frame->place();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void SheetHost::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    for (SheetFrame* frame : std::as_const(m_frames)) {
+        painter.setOpacity(frame->shown());
+        painter.fillRect(rect(), theme.derived.dim);
+        paintShadow(painter, frame->geometry(), pxF(cornerRadius), Shadow::sheet, theme);
+    }
+    if (!m_leaving.picture.isNull()) {
+        painter.setOpacity(m_leaving.opacity);
+        painter.fillRect(rect(), theme.derived.dim);
+        painter.drawPixmap(m_leaving.rect.topLeft(), m_leaving.picture);
+    }
+}
+
+void SheetHost::focusTop()
+{
+    SheetFrame* frame = m_frames.last();
+    for (SheetFrame* other : std::as_const(m_frames))
+        other->setEnabled(other == frame);
+    QWidget* initial = frame->body()->initialFocus();
+    (initial ? initial : frame->nextStop(true))->setFocus(Qt::OtherFocusReason);
+}
+
+void SheetHost::keepFocusInside(QWidget* now)
+{
+    if (!m_frames.isEmpty() && now && now->window() == window() && !isAncestorOf(now))
+        focusTop();
+}
+
+}  // namespace Quorbel
+
+#include "Sheet.moc"

@@ -1,0 +1,96 @@
+#include "ui/sidebar/SidebarDelegate.h"
+
+#include "app/model/thumbnails/ThumbnailStore.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Theme.h"
+#include "ui/sidebar/SidebarModel.h"
+#include "ui/sidebar/ThumbnailView.h"
+
+#include <QPainter>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr qreal rowHeight = 54;
+constexpr qreal rowGap = 2;
+constexpr qreal rowRadius = 9;
+constexpr qreal thumbnailSize = 42;
+constexpr qreal thumbnailCorner = 7;
+constexpr qreal thumbnailLeft = 6;
+constexpr qreal textGap = 10;
+constexpr qreal nameTop = 10;
+constexpr qreal nameHeight = 18;
+constexpr qreal detailHeight = 15;
+
+void paintGround(QPainter& painter, const QStyleOptionViewItem& option, const QRectF& row, const Theme& theme)
+{
+    const bool selected = option.state & QStyle::State_Selected;
+    painter.setPen(Qt::NoPen);
+    if (selected || option.state & QStyle::State_MouseOver) {
+        painter.setBrush(selected ? theme.sel : theme.derived.rowHover);
+        painter.drawRoundedRect(row, pxF(rowRadius), pxF(rowRadius));
+    }
+    // The row that the keyboard is on: around it, or inside a selected one while keys are in use.
+    if (option.state & QStyle::State_HasFocus && (!selected || option.state & QStyle::State_KeyboardFocusChange)) {
+        const qreal inset = selected ? 3 : 1;
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(selected ? theme.selSub : theme.derived.focusStrong, pxF(selected ? 1.5 : 2)));
+        painter.drawRoundedRect(
+            row.adjusted(inset, inset, -inset, -inset), pxF(rowRadius) - inset, pxF(rowRadius) - inset);
+    }
+}
+
+}  // namespace
+
+SidebarDelegate::SidebarDelegate(const SidebarModel& rows, ThumbnailStore* thumbs, QObject* parent)
+    : QStyledItemDelegate(parent)
+    , m_rows(rows)
+    , m_thumbs(thumbs)
+{
+}
+
+int SidebarDelegate::pitch()
+{
+    return px(rowHeight) + px(rowGap);
+}
+
+QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const
+{
+    return { 0, pitch() };
+}
+
+void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const ImageRecord* photo = m_rows.record(index.row());
+    if (!photo)
+        return;
+    const Theme& theme = Theme::of(option.widget);
+    const QRectF row(option.rect.adjusted(0, 0, 0, -px(rowGap)));
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    paintGround(*painter, option, row, theme);
+
+    const qreal size = pxF(thumbnailSize);
+    const QRectF square(row.left() + px(thumbnailLeft), row.top() + (row.height() - size) / 2, size, size);
+    const auto entry = m_thumbs ? m_thumbs->entry(photo->url, ThumbnailStore::Kind::small) : ThumbnailStore::Entry{};
+    ThumbnailView::paint(*painter, square, pxF(thumbnailCorner), entry, photo->url, theme);
+
+    const bool selected = option.state & QStyle::State_Selected;
+    QRectF line(square.right() + px(textGap), row.top() + px(nameTop), 0, px(nameHeight));
+    line.setRight(row.right() - px(textGap));
+    painter->setFont(sansFont(13));
+    painter->setPen(selected ? theme.selText : theme.text);
+    painter->drawText(line, Qt::AlignVCenter | Qt::TextSingleLine,
+        painter->fontMetrics().elidedText(photo->fileName, Qt::ElideMiddle, static_cast<int>(line.width())));
+    line.translate(0, line.height() + 1);
+    line.setHeight(px(detailHeight));
+    painter->setFont(sansFont(11));
+    painter->setPen(selected ? theme.selSub : theme.muted);
+    painter->drawText(line, Qt::AlignVCenter | Qt::TextSingleLine,
+        painter->fontMetrics().elidedText(photo->sidebarLine(), Qt::ElideRight, static_cast<int>(line.width())));
+    painter->restore();
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,202 @@
+#include "ui/sidebar/SidebarView.h"
+
+#include "app/model/AppModel.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/TextFields.h"
+#include "ui/controls/ThemedMenu.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/SymbolText.h"
+#include "ui/sidebar/SidebarList.h"
+#include "ui/window/ProgressFoot.h"
+
+#include <QActionGroup>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr qreal headerHeight = 40;
+constexpr qreal sidePadding = 12;
+constexpr qreal rightPadding = 2;  // room for a focus ring: the handle beside it is empty space too
+constexpr qreal findHeight = 41;  // the field, 10 below it, the hairline
+
+/// "3 / 120", the selected ones stronger.
+class CountLabel final : public QLabel {
+public:
+    explicit CountLabel(AppModel& model)
+        : m_model(model)
+    {
+        connect(&model, &AppModel::selectionChanged, this, [this] { refresh(); });
+        connect(&model, &AppModel::recordsChanged, this, [this] { refresh(); });
+        onRestyle(this, [this] { setFont(sansFont(12, QFont::DemiBold)); });
+        refresh();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const Theme& theme = Theme::of(this);
+        QPainter painter(this);
+        const QString selected = QString::number(m_model.selection().size());
+        painter.setPen(theme.text);
+        painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, selected);
+        const int advance = fontMetrics().horizontalAdvance(selected);
+        painter.setFont(sansFont(12));
+        painter.setPen(theme.muted);
+        painter.drawText(
+            rect().adjusted(advance, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text().mid(selected.size()));
+    }
+
+private:
+    void refresh()
+    {
+        setText(QStringLiteral("%1 / %2").arg(m_model.selection().size()).arg(m_model.records().size()));
+        update();
+    }
+
+    AppModel& m_model;
+};
+
+struct SortItem {
+    RecordSortOrder order;
+    QString text;
+};
+
+const QList<SortItem>& sortItems()
+{
+    static const QList<SortItem> items{
+        { RecordSortOrder::nameAsc, QStringLiteral("Name (A–Z)") },
+        { RecordSortOrder::nameDesc, QStringLiteral("Name (Z–A)") },
+        { RecordSortOrder::dateNewest, QStringLiteral("Date (newest first)") },
+        { RecordSortOrder::dateOldest, QStringLiteral("Date (oldest first)") },
+    };
+    return items;
+}
+
+}  // namespace
+
+SidebarView::SidebarView(AppModel& model, ThumbnailStore* thumbs, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_list(new SidebarList(model, thumbs))
+    , m_foot(new ProgressFoot(model))
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(buildHeader());
+    column->addWidget(buildFind());
+    column->addWidget(m_list, 1);
+    column->addWidget(m_foot);
+    connect(m_foot, &ProgressFoot::shownChanged, this, &SidebarView::footChanged);
+}
+
+QWidget* SidebarView::buildHeader()
+{
+    auto* header = new QWidget;
+    auto* line = new QHBoxLayout(header);
+    line->setSpacing(0);
+    line->addWidget(new CountLabel(m_model), 1);
+    auto* all = new QBTextButton(QStringLiteral("Select all"));
+    all->setKeyHint(symbolText(QStringLiteral("⌘A")));
+    all->setAccessibleName(symbolText(QStringLiteral("Select all ⌘A")));
+    connect(all, &QAbstractButton::clicked, &m_model, &AppModel::selectAllPhotos);
+    line->addWidget(all);
+    onRestyle(header, [header, line] {
+        line->setContentsMargins(px(sidePadding), px(2), px(rightPadding), 0);
+        header->setFixedHeight(px(headerHeight));
+    });
+    return header;
+}
+
+QWidget* SidebarView::buildFind()
+{
+    auto* find = new QWidget;
+    auto* line = new QHBoxLayout(find);
+    m_search = new QBTextField;
+    m_search->setLeadingIcon(QStringLiteral("magnifyingglass"));
+    m_search->setPlaceholder(QStringLiteral("Search"));
+    m_search->setAccessibleName(QStringLiteral("Search"));
+    m_search->setBoundText(m_model.search());
+    connect(m_search, &QLineEdit::textEdited, &m_model, &AppModel::setSearch);
+    m_search->installEventFilter(this);
+    connect(&m_model, &AppModel::searchChanged, m_search, [this] { m_search->setBoundText(m_model.search()); });
+    line->addWidget(m_search, 1);
+    m_sort = new QBIconButton(QStringLiteral("arrow.up.arrow.down"), QStringLiteral("Sort images"));
+    m_sort->setSizes({ 30, 30 }, 16);
+    connect(m_sort, &QAbstractButton::clicked, this, &SidebarView::openSortMenu);
+    line->addWidget(m_sort);
+    onRestyle(find, [find, line] {
+        line->setSpacing(px(4));
+        line->setContentsMargins(px(sidePadding), 0, px(rightPadding), px(11));
+        find->setFixedHeight(px(findHeight));
+    });
+    return find;
+}
+
+void SidebarView::openSortMenu()
+{
+    auto* menu = new ThemedMenu(this);
+    menu->addHeader(QStringLiteral("Sort by"));
+    auto* group = new QActionGroup(menu);
+    for (const SortItem& item : sortItems()) {
+        QAction* action = menu->addAction(item.text);
+        action->setCheckable(true);
+        action->setChecked(item.order == m_model.sortOrder());
+        group->addAction(action);
+        connect(action, &QAction::triggered, &m_model, [this, order = item.order] { m_model.setSortOrder(order); });
+    }
+    menu->popUpUnder(m_sort, Qt::AlignLeft, true);
+}
+
+void SidebarView::focusSearch()
+{
+    m_search->setFocus(Qt::ShortcutFocusReason);
+    m_search->selectAll();
+}
+
+/// From the search field, Down and Return lead to what was found, and Escape shows all photos again.
+bool SidebarView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_search && event->type() == QEvent::KeyPress) {
+        switch (static_cast<QKeyEvent*>(event)->key()) {
+        case Qt::Key_Escape:
+            m_model.setSearch({});
+            return true;
+        case Qt::Key_Down:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            m_list->takeKeyboard();
+            return true;
+        default:
+            break;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+int SidebarView::listTop() const
+{
+    return m_list->y();
+}
+
+QRect SidebarView::footRect() const
+{
+    return m_foot->isHidden() ? QRect() : m_foot->geometry();
+}
+
+void SidebarView::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.fillRect(rect(), theme.bg);
+    painter.fillRect(0, listTop() - 1, width(), 1, theme.hair);
+}
+
+}  // namespace Quorbel

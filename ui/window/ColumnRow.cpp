@@ -1,0 +1,116 @@
+#include "ui/window/ColumnRow.h"
+
+#include "ui/controls/ResizeHandle.h"
+#include "ui/controls/theme/Metrics.h"
+
+#include <QEvent>
+#include <QVariantAnimation>
+
+namespace Quorbel {
+
+namespace {
+
+// Pixels: what the preview keeps before the inspector gets more than its least width, and the inspector's greatest
+// width beside it. Beyond that only the preview grows.
+constexpr int previewShare = 375;
+constexpr int greatestInspector = 520;
+
+}  // namespace
+
+int Columns::inspectorWidth(int width, int sidebar, int handle)
+{
+    return qBound(minInspector, width - sidebar - handle - previewShare, greatestInspector);
+}
+
+ColumnRow::ColumnRow(QWidget* sidebar, QWidget* inspector, QWidget* preview, double sidebarWidth, QWidget* parent)
+    : QWidget(parent)
+    , m_sidebar(sidebar)
+    , m_handle(new ResizeHandle(qBound(Columns::minSidebar, sidebarWidth, Columns::maxSidebar), Columns::minSidebar,
+          Columns::maxSidebar, Columns::defaultSidebar))
+    , m_inspector(inspector)
+    , m_preview(preview)
+    , m_slide(new QVariantAnimation(this))
+{
+    // In this order, which is also that of the Tab key.
+    for (QWidget* column : { m_sidebar, static_cast<QWidget*>(m_handle), m_inspector, m_preview })
+        column->setParent(this);
+    m_preview->hide();
+    m_slide->setDuration(Duration::column);
+    m_slide->setEasingCurve(QEasingCurve::OutCubic);
+    connect(m_slide, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+        m_reveal = value.toReal();
+        arrange();
+    });
+    connect(m_handle, &ResizeHandle::widthChanged, this, &ColumnRow::arrange);
+    connect(m_handle, &ResizeHandle::widthSettled, this, &ColumnRow::sidebarWidthSettled);
+}
+
+double ColumnRow::sidebarWidth() const
+{
+    return m_handle->columnWidth();
+}
+
+bool ColumnRow::previewShown() const
+{
+    return m_wanted && width() >= Columns::previewThreshold;
+}
+
+void ColumnRow::setPreviewWanted(bool wanted)
+{
+    m_wanted = wanted;
+    if (previewShown() != m_wasShown)
+        slidePreview();
+}
+
+void ColumnRow::slidePreview()
+{
+    m_wasShown = previewShown();
+    emit previewShownChanged(m_wasShown);
+    m_slide->stop();
+    const qreal target = m_wasShown ? 1 : 0;
+    if (isVisible() && motionEnabled(this)) {
+        m_slide->setStartValue(m_reveal);
+        m_slide->setEndValue(target);
+        m_slide->start();
+    } else {
+        m_reveal = target;
+        arrange();
+    }
+}
+
+void ColumnRow::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    // A window that crosses the threshold while it is resized takes its new form at once.
+    if (previewShown() != m_wasShown) {
+        m_wasShown = previewShown();
+        m_slide->stop();
+        m_reveal = m_wasShown ? 1 : 0;
+        emit previewShownChanged(m_wasShown);
+    }
+    arrange();
+}
+
+bool ColumnRow::event(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest)
+        arrange();
+    return QWidget::event(event);
+}
+
+void ColumnRow::arrange()
+{
+    const int handle = m_handle->sizeHint().width();
+    const int sidebar = qRound(sidebarWidth());
+    const int left = sidebar + handle;
+    const int rest = width() - left;
+    const int beside = Columns::inspectorWidth(width(), sidebar, handle);
+    const int inspector = qRound(rest + (beside - rest) * m_reveal);
+    m_sidebar->setGeometry(0, 0, sidebar, height());
+    m_handle->setGeometry(sidebar, 0, handle, height());
+    m_inspector->setGeometry(left, 0, inspector, height());
+    m_preview->setGeometry(left + inspector, 0, rest - beside, height());
+    m_preview->setVisible(m_reveal > 0);
+}
+
+}  // namespace Quorbel

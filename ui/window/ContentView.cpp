@@ -1,0 +1,287 @@
+#include "ui/window/ContentView.h"
+
+#include "app/model/AppModel.h"
+#include "core/Product.h"
+#include "ui/controls/ResizeHandle.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/SystemScheme.h"
+#include "ui/controls/theme/Theme.h"
+#include "ui/sheets/Sheet.h"
+#include "ui/sidebar/SidebarList.h"
+#include "ui/sidebar/SidebarView.h"
+#include "ui/window/ColumnRow.h"
+#include "ui/window/ErrorBanner.h"
+#include "ui/window/FileDrop.h"
+#include "ui/window/LaunchView.h"
+#include "ui/window/PreviewColumnView.h"
+#include "ui/window/WindowBar.h"
+#include "ui/window/WindowGrowth.h"
+
+#include <QPainter>
+#include <QPropertyAnimation>
+#include <QScreen>
+#include <QTimer>
+
+namespace Quorbel {
+
+namespace {
+
+QString sidebarWidthKey()
+{
+    return QStringLiteral("sidebarWidth");
+}
+
+QString previewEnabledKey()
+{
+    return QStringLiteral("previewEnabled");
+}
+
+/// Pixels beyond the threshold to which a window is grown for the preview, so that the column really appears.
+constexpr int growthBeyondThreshold = 80;
+/// Milliseconds for which expected photos keep the launch view away. It shows their progress, which begins then.
+constexpr int launchPatience = 300;
+// Points: from the banner to the footers, and to the lower edge of the launch view.
+constexpr qreal bannerOverFooter = 54 + 16;
+constexpr qreal bannerOverEdge = 20;
+
+/// Carries the sidebar's hairlines on across the empty part of the resize handle beside it.
+class HandleLines final : public QWidget {
+public:
+    HandleLines(SidebarView* sidebar, ResizeHandle* handle)
+        : QWidget(handle)
+        , m_sidebar(sidebar)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        handle->installEventFilter(this);
+        connect(sidebar, &SidebarView::footChanged, this, qOverload<>(&QWidget::update));
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Resize)
+            resize(parentWidget()->width() - 1, parentWidget()->height());  // the handle's own line stays
+        return QWidget::eventFilter(watched, event);
+    }
+
+    void paintEvent(QPaintEvent*) override
+    {
+        const Theme& theme = Theme::of(this);
+        QPainter painter(this);
+        painter.fillRect(0, m_sidebar->listTop() - 1, width(), 1, theme.hair);
+        if (const QRect foot = m_sidebar->footRect(); !foot.isEmpty()) {
+            painter.fillRect(0, foot.top(), width(), foot.height(), theme.bg);
+            painter.fillRect(0, foot.top(), width(), 1, theme.line);
+        }
+    }
+
+private:
+    SidebarView* m_sidebar;
+};
+
+/// A stored number, or the default where there is none.
+double storedWidth(const QSettings& preferences)
+{
+    bool isNumber = false;
+    const double width = preferences.value(sidebarWidthKey()).toDouble(&isNumber);
+    return isNumber ? width : Columns::defaultSidebar;
+}
+
+}  // namespace
+
+ContentView::ContentView(
+    AppModel& model, ThumbnailStore* thumbs, SystemScheme& systemScheme, QWidget* window, ContentFactories factories)
+    : QWidget(window)
+    , m_model(model)
+    , m_thumbs(thumbs)
+    , m_systemScheme(systemScheme)
+    , m_window(window)
+    , m_factories(std::move(factories))
+    , m_bar(new WindowBar(model, this))
+    , m_launch(new LaunchView(model, this))
+    , m_banner(new ErrorBanner(model, this))
+    , m_sheets(new SheetHost(window))
+    , m_drop(new FileDrop(window))
+{
+    applyTheme();
+    connectModel();
+    connectSheets();
+    connect(m_bar, &WindowBar::previewToggled, this, &ContentView::togglePreview);
+    connect(m_drop, &FileDrop::targetedChanged, m_launch, &LaunchView::setTargeted);
+    connect(m_drop, &FileDrop::dropped, &model, &AppModel::requestLoad);
+    m_launch->hide();  // until this is shown: it may be for photos only
+    showTitle();
+}
+
+ContentView::~ContentView() = default;
+
+void ContentView::buildColumns()
+{
+    if (m_columns)
+        return;
+    m_sidebar = new SidebarView(m_model, m_thumbs);
+    m_inspector = m_factories.inspector(this);
+    m_columns = new ColumnRow(
+        m_sidebar, m_inspector, new PreviewColumnView(m_model, m_thumbs), storedWidth(m_model.preferences()), this);
+    m_columns->hide();
+    m_columns->setGeometry(rect());
+    m_columns->stackUnder(m_launch);
+    new HandleLines(m_sidebar, m_columns->handle());
+    m_columns->setPreviewWanted(m_model.preferences().value(previewEnabledKey(), true).toBool());
+    connect(m_columns, &ColumnRow::sidebarWidthSettled, this,
+        [this](double width) { m_model.preferences().setValue(sidebarWidthKey(), width); });
+    connect(m_columns, &ColumnRow::previewShownChanged, this, &ContentView::showPreviewState);
+}
+
+void ContentView::expectPhotos()
+{
+    m_expectsPhotos = true;
+    QTimer::singleShot(launchPatience, this, [this] {
+        m_expectsPhotos = false;
+        showRecords();
+    });
+}
+
+void ContentView::connectModel()
+{
+    connect(&m_model, &AppModel::recordsChanged, this, &ContentView::showRecords);
+    for (const auto change : { &AppModel::folderNameChanged, &AppModel::recordsChanged, &AppModel::selectionChanged })
+        connect(&m_model, change, this, &ContentView::showTitle);
+    connect(&m_model, &AppModel::colorOverrideChanged, this, &ContentView::applyTheme);
+    connect(&m_systemScheme, &SystemScheme::schemeChanged, this, &ContentView::applyTheme);
+    connect(m_banner, &ErrorBanner::sizeChanged, this, &ContentView::placeBanner);
+}
+
+void ContentView::connectSheets()
+{
+    connect(m_sheets, &SheetHost::openChanged, this, [this](bool open) {
+        m_drop->setEnabled(!open);
+        m_bar->setEnabledMenus(!open);
+    });
+    const auto add = [this] { followFlag(m_model.addOpen(), m_addSheet, m_factories.addField); };
+    const auto save = [this] { followFlag(m_model.saveOpen(), m_saveSheet, m_factories.save); };
+    const auto rename = [this] { followFlag(m_model.renameOpen(), m_renameSheet, m_factories.rename); };
+    connect(&m_model, &AppModel::addOpenChanged, this, add);
+    connect(&m_model, &AppModel::saveOpenChanged, this, save);
+    connect(&m_model, &AppModel::renameOpenChanged, this, rename);
+    add();
+    save();
+    rename();
+}
+
+void ContentView::followFlag(bool open, SheetBody*& sheet, const std::function<SheetBody*()>& make)
+{
+    if (open && !sheet && make) {
+        sheet = make();
+        m_sheets->present(sheet);
+    } else if (!open && sheet) {
+        m_sheets->dismiss(sheet);
+        sheet = nullptr;
+    }
+}
+
+bool ContentView::previewShown() const
+{
+    return m_columns && !m_columns->isHidden() && m_columns->previewShown();
+}
+
+void ContentView::showPreviewState()
+{
+    m_bar->setPreviewShown(previewShown());
+    emit previewShownChanged(previewShown());
+}
+
+void ContentView::togglePreview()
+{
+    buildColumns();
+    const bool wanted = !(m_columns->previewWanted() && m_window->width() >= Columns::previewThreshold);
+    m_model.preferences().setValue(previewEnabledKey(), wanted);
+    m_columns->setPreviewWanted(wanted);
+    if (wanted && m_window->width() < Columns::previewThreshold)
+        growWindow(Columns::previewThreshold + growthBeyondThreshold);
+}
+
+void ContentView::growWindow(int target)
+{
+    const QScreen* screen = m_window->screen();
+    if (!screen || m_window->isMaximized() || m_window->isFullScreen())
+        return;
+    // What the window manager draws around the window has to be on the screen too.
+    const QMargins frame(m_window->geometry().left() - m_window->frameGeometry().left(), 0,
+        m_window->frameGeometry().right() - m_window->geometry().right(), 0);
+    const QRect grown = widened(m_window->geometry(), screen->availableGeometry().marginsRemoved(frame), target);
+    if (grown == m_window->geometry())
+        return;
+    if (!motionEnabled(m_window)) {
+        m_window->setGeometry(grown);
+        return;
+    }
+    auto* animation = new QPropertyAnimation(m_window, "geometry", m_window);
+    animation->setDuration(Duration::column);
+    animation->setEasingCurve(QEasingCurve::OutCubic);
+    animation->setEndValue(grown);
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void ContentView::focusSearch()
+{
+    if (m_columns && m_columns->isVisible())
+        m_sidebar->focusSearch();
+}
+
+void ContentView::showRecords()
+{
+    const bool any = !m_model.records().isEmpty();
+    if (any)
+        buildColumns();
+    m_launch->setVisible(!any && !m_expectsPhotos);
+    if (m_columns) {
+        const bool appears = any && m_columns->isHidden();
+        m_columns->setVisible(any);
+        if (appears)  // the arrow keys go through the photos at once
+            m_sidebar->list()->setFocus(Qt::OtherFocusReason);
+        showPreviewState();
+    }
+    placeBanner();
+}
+
+void ContentView::showTitle()
+{
+    m_window->setWindowTitle(m_model.folderName().isEmpty() ? Product::name() : m_model.folderName());
+}
+
+void ContentView::applyTheme()
+{
+    const ColorScheme scheme = m_model.colorOverride().value_or(m_systemScheme.scheme());
+    setTheme(m_window, scheme == ColorScheme::dark ? Theme::dark() : Theme::light());
+}
+
+void ContentView::placeBanner()
+{
+    const bool columns = m_columns && !m_columns->isHidden();
+    m_banner->place(height() - px(columns ? bannerOverFooter : bannerOverEdge));
+    if (m_inspector && m_factories.setInspectorInset)
+        m_factories.setInspectorInset(m_inspector, m_banner->isHidden() ? 0 : m_banner->height() + px(2 * 16));
+}
+
+void ContentView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    showRecords();
+}
+
+void ContentView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    m_launch->setGeometry(rect());
+    if (m_columns)
+        m_columns->setGeometry(rect());
+    placeBanner();
+}
+
+void ContentView::paintEvent(QPaintEvent*)
+{
+    QPainter(this).fillRect(rect(), Theme::of(this).bg);
+}
+
+}  // namespace Quorbel

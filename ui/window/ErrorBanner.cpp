@@ -1,0 +1,165 @@
+#include "ui/window/ErrorBanner.h"
+
+#include "app/model/AppModel.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/theme/Icon.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Shadow.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QAccessible>
+#include <QFontMetrics>
+#include <QGraphicsOpacityEffect>
+#include <QPainter>
+#include <QTextLayout>
+#include <QVariantAnimation>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr qreal widest = 560;
+constexpr qreal radius = 12;
+constexpr qreal verticalPadding = 13;
+constexpr qreal leftPadding = 16;
+constexpr qreal rightPadding = 12;
+constexpr qreal iconSize = 18;
+constexpr qreal gap = 10;
+constexpr qreal crossSize = 22;
+constexpr qreal shadowRoom = 44;  // on every side of the notice
+constexpr int mostLines = 6;
+
+/// The message in lines of that width, broken within a word only where that is longer than a line. What does not fit
+/// ends in "…".
+QStringList linesOf(const QString& message, const QFont& font, int width)
+{
+    QTextLayout layout(message, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        if (lines.size() == mostLines - 1) {
+            lines.append(QFontMetrics(font).elidedText(message.mid(line.textStart()), Qt::ElideRight, width));
+            break;
+        }
+        lines.append(message.mid(line.textStart(), line.textLength()).trimmed());
+    }
+    layout.endLayout();
+    return lines;
+}
+
+/// The banner's shadow: a widget of its own below it, so that clicks beside the notice reach what they are meant for.
+class Cast final : public QWidget {
+public:
+    explicit Cast(QWidget* parent)
+        : QWidget(parent)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const int room = px(shadowRoom);
+        QPainter painter(this);
+        paintShadow(painter, rect().adjusted(room, room, -room, -room), pxF(radius), Shadow::menu, Theme::of(this));
+    }
+};
+
+void fadeIn(QWidget* widget)
+{
+    auto* effect = new QGraphicsOpacityEffect(widget);
+    widget->setGraphicsEffect(effect);
+    auto* animation = new QVariantAnimation(widget);
+    animation->setStartValue(0.0);
+    animation->setEndValue(1.0);
+    animation->setDuration(Duration::banner);
+    QObject::connect(animation, &QVariantAnimation::valueChanged, effect,
+        [effect](const QVariant& value) { effect->setOpacity(value.toReal()); });
+    QObject::connect(animation, &QVariantAnimation::finished, widget, [widget] { widget->setGraphicsEffect(nullptr); });
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+}  // namespace
+
+ErrorBanner::ErrorBanner(AppModel& model, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_cast(new Cast(parent))
+    , m_close(new QBIconButton(QStringLiteral("xmark"), QStringLiteral("Dismiss"), this))
+{
+    hide();
+    m_close->setSizes({ crossSize, crossSize }, 14, 0, 6);
+    m_close->setQuiet(true);
+    connect(m_close, &QAbstractButton::clicked, &model, [&model] { model.setErrorMessage(std::nullopt); });
+    connect(&model, &AppModel::errorMessageChanged, this, &ErrorBanner::follow);
+    follow();
+}
+
+/// In one paragraph: only the name of a file could break it, which would read like two names.
+QString ErrorBanner::message() const
+{
+    return m_model.errorMessage().value_or(QString()).replace(u'\n', u' ');
+}
+
+void ErrorBanner::follow()
+{
+    const bool wanted = m_model.errorMessage().has_value();
+    setAccessibleName(message());
+    setToolTip(message());
+    if (wanted && isHidden() && motionEnabled(this) && parentWidget() && parentWidget()->isVisible())
+        fadeIn(this);
+    m_cast->setVisible(wanted);
+    setVisible(wanted);
+    if (wanted) {
+        m_cast->raise();
+        raise();
+        QAccessibleEvent event(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
+    update();
+    emit sizeChanged();
+}
+
+void ErrorBanner::place(int bottom)
+{
+    if (isHidden() || !parentWidget())
+        return;
+    const int width = qMin(px(widest), parentWidget()->width() - 2 * px(20));
+    const int textWidth = width - px(leftPadding + iconSize + gap + gap + crossSize + rightPadding);
+    m_lines = linesOf(message(), sansFont(13), textWidth);
+    const int textHeight = int(m_lines.size()) * QFontMetrics(sansFont(13)).lineSpacing();
+    const int height = qMax(textHeight, px(18)) + 2 * px(verticalPadding);
+    setGeometry((parentWidget()->width() - width) / 2, bottom - height, width, height);
+    const int room = px(shadowRoom);
+    m_cast->setGeometry(geometry().adjusted(-room, -room, room, room));
+    m_close->resize(m_close->sizeHint());
+    m_close->move(width - px(rightPadding) - m_close->width(), px(verticalPadding) - px(2));
+}
+
+QRect ErrorBanner::textRect() const
+{
+    return rect().adjusted(px(leftPadding + iconSize + gap), px(verticalPadding), -px(gap + crossSize + rightPadding),
+        -px(verticalPadding));
+}
+
+void ErrorBanner::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(theme.line);
+    painter.setBrush(theme.panel);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), pxF(radius), pxF(radius));
+    const QRectF icon(px(leftPadding), px(verticalPadding), px(iconSize), px(iconSize));
+    Icon::paint(painter, icon, QStringLiteral("exclamationmark.triangle.fill"), pxF(iconSize), theme.amber);
+    painter.setPen(theme.text);
+    painter.setFont(sansFont(13));
+    painter.drawText(textRect(), Qt::AlignLeft | Qt::AlignVCenter, m_lines.join(u'\n'));
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,263 @@
+#include "ui/window/HelpView.h"
+
+#include "ui/controls/Labels.h"
+#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/theme/Icon.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/SymbolText.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QPainter>
+#include <QScrollArea>
+#include <QStyledItemDelegate>
+#include <QTextLayout>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr QSizeF smallestWindow{ 720, 480 };
+constexpr qreal narrowestTopics = 200;
+constexpr qreal usualTopics = 220;
+constexpr qreal widestTopics = 260;
+constexpr qreal widestText = 620;
+constexpr qreal lineHeight = 20;
+constexpr qreal sidePadding = 36;
+constexpr qreal topicHeight = 34;
+constexpr qreal topicRadius = 7;
+
+/// Paints one topic: its symbol and its title.
+class TopicDelegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override { return { 0, px(topicHeight) }; }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const Theme& theme = Theme::of(option.widget);
+        const bool selected = option.state & QStyle::State_Selected;
+        const auto topic = allCases<HelpTopic>().at(index.row());
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(Qt::NoPen);
+        if (selected || option.state & QStyle::State_MouseOver) {
+            painter->setBrush(selected ? theme.sel : theme.derived.hover);
+            painter->drawRoundedRect(option.rect, pxF(topicRadius), pxF(topicRadius));
+        }
+        QRectF rest = QRectF(option.rect).adjusted(px(10), 0, -px(10), 0);
+        Icon::paint(*painter, QRectF(rest.topLeft(), QSizeF(px(18), rest.height())), iconName(topic), pxF(18),
+            selected ? theme.selText : theme.derived.label);
+        rest.setLeft(rest.left() + px(18 + 10));
+        painter->setFont(sansFont(13));
+        painter->setPen(selected ? theme.selText : theme.text);
+        painter->drawText(rest, Qt::AlignVCenter | Qt::TextSingleLine, title(topic));
+        painter->restore();
+    }
+};
+
+/// Wrapped text with 20 points from line to line, which QLabel cannot be told.
+class Paragraph final : public QLabel {
+public:
+    explicit Paragraph(const QString& text)
+        : QLabel(text)
+    {
+        setTextFormat(Qt::PlainText);
+        QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+        policy.setHeightForWidth(true);
+        setSizePolicy(policy);
+        onRestyle(this, [this] {
+            setFont(sansFont(13));
+            updateGeometry();
+        });
+    }
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override
+    {
+        return forLines(width, [](QTextLine&, qreal) {});
+    }
+    QSize sizeHint() const override { return { px(widestText), heightForWidth(px(widestText)) }; }
+    QSize minimumSizeHint() const override { return { px(100), px(lineHeight) }; }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setPen(Theme::of(this).text);
+        forLines(width(), [&](QTextLine& line, qreal y) {
+            line.draw(&painter, QPointF(0, y + (pxF(lineHeight) - line.height()) / 2));
+        });
+    }
+
+private:
+    /// Calls `use` for each line with its top; the height of all.
+    template <typename Use>
+    int forLines(int width, Use use) const
+    {
+        QTextLayout layout(text(), font());
+        layout.beginLayout();
+        int y = 0;
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(width);
+            use(line, y);
+            y += px(lineHeight);
+        }
+        layout.endLayout();
+        return y;
+    }
+};
+
+/// A line of a bulleted list.
+QWidget* bulletLine(const QString& text)
+{
+    class Bullet final : public QWidget {
+    public:
+        Bullet()
+        {
+            onRestyle(this, [this] { setFixedWidth(px(16)); });
+        }
+
+    protected:
+        void paintEvent(QPaintEvent*) override
+        {
+            QPainter painter(this);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(Theme::of(this).muted);
+            painter.drawEllipse(QRectF(pxF(3), pxF(8.5), pxF(4), pxF(4)));
+        }
+    };
+    auto* line = new QWidget;
+    auto* row = new QHBoxLayout(line);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(new Bullet);
+    row->addWidget(new Paragraph(symbolText(text)), 1);
+    return line;
+}
+
+void addBlock(QVBoxLayout* column, const HelpBlock& block)
+{
+    if (const auto* paragraph = std::get_if<HelpParagraph>(&block)) {
+        column->addWidget(new Paragraph(symbolText(paragraph->text)));
+        column->addSpacing(px(12));
+        return;
+    }
+    for (const QString& item : std::get<HelpBullets>(block).items) {
+        column->addWidget(bulletLine(item));
+        column->addSpacing(px(5));
+    }
+    column->addSpacing(px(9));
+}
+
+QWidget* makePage(HelpTopic topic)
+{
+    auto* page = new QWidget;
+    auto* row = new QHBoxLayout(page);
+    row->setContentsMargins(px(sidePadding), px(30), px(sidePadding), px(24));
+    auto* text = new QWidget;
+    text->setMaximumWidth(px(widestText));
+    auto* column = new QVBoxLayout(text);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(new ThemedLabel(title(topic), TextRole::text, 20, QFont::DemiBold));
+    column->addSpacing(px(12));
+    for (const HelpBlock& block : blocks(topic))
+        addBlock(column, block);
+    column->addStretch();
+    row->addWidget(text, 1);
+    row->addStretch();
+    row->setStretch(0, 1'000);
+    page->setAccessibleName(title(topic));
+    return page;
+}
+
+}  // namespace
+
+class TopicList final : public QListWidget {
+public:
+    explicit TopicList(QWidget* parent)
+        : QListWidget(parent)
+    {
+        setFrameShape(NoFrame);
+        setItemDelegate(new TopicDelegate(this));
+        setMouseTracking(true);
+        setAccessibleName(QStringLiteral("Topics"));
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        viewport()->setAutoFillBackground(false);
+        for (const HelpTopic topic : allCases<HelpTopic>())
+            addItem(title(topic));
+        onRestyle(this, [this] { setViewportMargins(px(8), px(10), px(8), px(10)); });
+    }
+};
+
+HelpView::HelpView(QWidget* parent)
+    : QWidget(parent)
+    , m_topics(new TopicList(this))
+    , m_page(new QScrollArea(this))
+{
+    setWindowTitle(QStringLiteral("Quorbel Help"));
+    m_page->setFrameShape(QFrame::NoFrame);
+    m_page->setWidgetResizable(true);
+    m_page->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_page->viewport()->setAutoFillBackground(false);
+    OverlayScrollBar::attach(m_page);
+    connect(m_topics, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0)
+            setSelection(allCases<HelpTopic>().at(row));
+    });
+    onRestyle(this, [this] { setMinimumSize(px(smallestWindow.width()), px(smallestWindow.height())); });
+    showTopic();
+}
+
+void HelpView::setSelection(HelpTopic topic)
+{
+    if (topic == m_selection)
+        return;
+    m_selection = topic;
+    showTopic();
+}
+
+void HelpView::showTopic()
+{
+    m_topics->setCurrentRow(static_cast<int>(allCases<HelpTopic>().indexOf(m_selection)));
+    QWidget* page = makePage(m_selection);
+    page->setAutoFillBackground(false);
+    m_page->setWidget(page);
+    m_page->setAccessibleName(title(m_selection));
+    page->setAutoFillBackground(false);
+}
+
+void HelpView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape || event->matches(QKeySequence::Close))
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void HelpView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const int topics = qBound(px(narrowestTopics), qMax(px(usualTopics), width() / 5), px(widestTopics));
+    m_topics->setGeometry(0, 0, topics, height());
+    m_page->setGeometry(topics + 1, 0, width() - topics - 1, height());
+}
+
+void HelpView::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.fillRect(rect(), theme.bg);
+    painter.fillRect(QRect(0, 0, m_topics->width(), height()), theme.panel);
+    painter.fillRect(m_topics->width(), 0, 1, height(), theme.line);
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,37 @@
+// The help window: the topics at the left, the selected one's text at the right. Thread: the main thread.
+#pragma once
+
+#include "ui/window/HelpTopics.h"
+
+#include <QWidget>
+
+class QScrollArea;
+
+namespace Quorbel {
+
+class TopicList;
+
+class HelpView final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(HelpView)
+
+public:
+    explicit HelpView(QWidget* parent = nullptr);
+
+    HelpTopic selection() const { return m_selection; }
+    void setSelection(HelpTopic topic);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void showTopic();
+
+    HelpTopic m_selection = HelpTopic::gettingStarted;
+    TopicList* m_topics;
+    QScrollArea* m_page;
+};
+
+}  // namespace Quorbel

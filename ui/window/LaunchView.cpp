@@ -1,0 +1,146 @@
+#include "ui/window/LaunchView.h"
+
+#include "app/model/AppModel.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/theme/Icon.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Theme.h"
+#include "ui/window/ProgressFoot.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr QSizeF boxSize{ 420, 218 };
+constexpr qreal boxRadius = 18;
+constexpr qreal iconSize = 62;
+constexpr qreal iconStroke = 1.15;  // in the icon's own 24×24 drawing
+constexpr qreal textGap = 16;
+constexpr qreal lineHeight = 18;
+constexpr qreal buttonsGap = 20;
+
+// The launch palette: the same in light and dark, as nothing but a drag shows it.
+QColor targetedFill()
+{
+    return colorFromHex(QStringLiteral("cfe0a8"));
+}
+
+QColor targetedBorder()
+{
+    return colorFromHex(QStringLiteral("7fa85f"));
+}
+
+QColor targetedText()
+{
+    return colorFromHex(QStringLiteral("3e5c2c"));
+}
+
+}  // namespace
+
+class DropBox final : public QWidget {
+public:
+    explicit DropBox(QWidget* parent)
+        : QWidget(parent)
+    {
+        setAccessibleName(text());
+        onRestyle(this, [this] { setFixedSize(px(boxSize.width()), px(boxSize.height())); });
+    }
+
+    bool targeted() const { return m_targeted; }
+    void setTargeted(bool targeted)
+    {
+        m_targeted = targeted;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const Theme& theme = Theme::of(this);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        paintBox(painter, theme);
+        const qreal block = pxF(iconSize + textGap + lineHeight);
+        const QRectF icon(0, (height() - block) / 2, width(), pxF(iconSize));
+        Icon::paint(
+            painter, icon, QStringLiteral("tag"), pxF(iconSize), m_targeted ? targetedText() : theme.muted, iconStroke);
+        painter.setFont(sansFont(13, m_targeted ? QFont::Medium : QFont::Normal));
+        painter.setPen(m_targeted ? targetedText() : theme.derived.label);
+        painter.drawText(QRectF(0, icon.bottom() + pxF(textGap), width(), pxF(lineHeight)), Qt::AlignCenter, text());
+    }
+
+private:
+    static QString text() { return QStringLiteral("Drag a folder or image here"); }
+
+    void paintBox(QPainter& painter, const Theme& theme) const
+    {
+        const qreal width = m_targeted ? 2 : 1.5;
+        QPen pen(m_targeted ? targetedBorder() : theme.btnLine, width);
+        if (!m_targeted) {
+            pen.setDashPattern({ 6 / width, 6 / width });
+            pen.setCapStyle(Qt::FlatCap);
+        }
+        painter.setPen(pen);
+        painter.setBrush(m_targeted ? targetedFill() : theme.panel);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), pxF(boxRadius), pxF(boxRadius));
+    }
+
+    bool m_targeted = false;
+};
+
+LaunchView::LaunchView(AppModel& model, QWidget* parent)
+    : QWidget(parent)
+    , m_box(new DropBox(this))
+{
+    auto* folder = new QBButton(QStringLiteral("Open Folder…"), QBButtonKind::primary);
+    auto* image = new QBButton(QStringLiteral("Open Image…"), QBButtonKind::secondary);
+    connect(folder, &QAbstractButton::clicked, &model, &AppModel::openPanel);
+    connect(image, &QAbstractButton::clicked, &model, &AppModel::openPanel);
+
+    auto* column = new QVBoxLayout(this);
+    column->setSpacing(0);
+    column->addStretch();
+    column->addWidget(m_box, 0, Qt::AlignHCenter);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(folder);
+    buttons->addWidget(image);
+    buttons->addStretch();
+    column->addLayout(buttons);
+    auto* progress = new ProgressFoot(model);
+    progress->setLined(false);
+    auto* room = new QWidget;  // keeps the block's place, so that nothing moves when it appears
+    progress->setParent(room);
+    column->addWidget(room, 0, Qt::AlignHCenter);
+    column->addStretch();
+    onRestyle(this, [=] {
+        column->setContentsMargins(0, 0, 0, px(8));
+        buttons->setContentsMargins(0, px(buttonsGap), 0, 0);
+        buttons->setSpacing(px(8));
+        const QSize block(px(boxSize.width()), progress->sizeHint().height());
+        progress->setGeometry(0, px(buttonsGap), block.width(), block.height());
+        room->setFixedSize(block.width(), progress->geometry().bottom() + 1);
+    });
+}
+
+bool LaunchView::isTargeted() const
+{
+    return m_box->targeted();
+}
+
+void LaunchView::setTargeted(bool targeted)
+{
+    m_box->setTargeted(targeted);
+}
+
+void LaunchView::paintEvent(QPaintEvent*)
+{
+    QPainter(this).fillRect(rect(), Theme::of(this).bg);
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,176 @@
+#include "ui/window/ProgressFoot.h"
+
+#include "app/model/AppModel.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/theme/Metrics.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLocale>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <QVariantAnimation>
+
+namespace Quorbel {
+
+namespace {
+
+constexpr int patience = 400;  // milliseconds
+// Points.
+constexpr qreal footHeight = 54;
+constexpr qreal sidePadding = 12;
+constexpr qreal barHeight = 4;
+
+}  // namespace
+
+/// A thin determinate bar that moves evenly from one value to the next.
+class ProgressBar final : public QWidget {
+public:
+    explicit ProgressBar(QWidget* parent)
+        : QWidget(parent)
+    {
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        connect(&m_move, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+            m_shown = value.toReal();
+            update();
+        });
+    }
+
+    /// 0…1. Backwards, as when other work begins, it jumps.
+    void setFraction(qreal fraction)
+    {
+        m_move.stop();
+        if (fraction > m_shown && isVisible() && motionEnabled(this)) {
+            m_move.setStartValue(m_shown);
+            m_move.setEndValue(fraction);
+            m_move.setDuration(Duration::progress);
+            m_move.start();
+            return;
+        }
+        m_shown = fraction;
+        update();
+    }
+
+    QSize sizeHint() const override { return { px(100), px(barHeight) }; }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const Theme& theme = Theme::of(this);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        const qreal radius = height() / 2.0;
+        painter.setBrush(theme.derived.track);
+        painter.drawRoundedRect(rect(), radius, radius);
+        if (m_shown <= 0)
+            return;
+        painter.setBrush(theme.accent);
+        painter.drawRoundedRect(QRectF(0, 0, qMax(2 * radius, width() * m_shown), height()), radius, radius);
+    }
+
+private:
+    QVariantAnimation m_move;
+    qreal m_shown = 0;
+};
+
+ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_text(new ThemedLabel({}, TextRole::text, 12))
+    , m_skip(new QBTextButton(QStringLiteral("Skip")))
+    , m_cancel(new QBTextButton(QStringLiteral("Cancel")))
+    , m_bar(new ProgressBar(this))
+{
+    auto* column = new QVBoxLayout(this);
+    column->setSpacing(0);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(0);
+    m_text->setElided(true);
+    line->addWidget(m_text, 1);
+    line->addWidget(m_skip);
+    line->addWidget(m_cancel);
+    column->addLayout(line);
+    auto* barLine = new QHBoxLayout;
+    barLine->addWidget(m_bar);
+    column->addLayout(barLine);
+    column->addStretch();
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    onRestyle(this, [this, column, barLine] {
+        // The button's own padding reaches to the bar's end.
+        column->setContentsMargins(px(sidePadding), px(6), px(4), 0);
+        barLine->setContentsMargins(0, px(3), px(8), 0);
+    });
+
+    hide();
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(patience);
+    connect(&m_patience, &QTimer::timeout, this, &ProgressFoot::showProgress);
+    connect(m_skip, &QAbstractButton::clicked, &model, &AppModel::skipStalledFile);
+    connect(m_cancel, &QAbstractButton::clicked, &model, &AppModel::cancelRead);
+    connect(&model, &AppModel::progressChanged, this, &ProgressFoot::follow);
+    connect(&model, &AppModel::isSavingChanged, this, &ProgressFoot::follow);
+    connect(&model, &AppModel::stalledFileChanged, this, &ProgressFoot::follow);
+    follow();
+}
+
+QSize ProgressFoot::sizeHint() const
+{
+    return { px(200), px(footHeight) };
+}
+
+void ProgressFoot::setLined(bool lined)
+{
+    m_lined = lined;
+    update();
+}
+
+void ProgressFoot::follow()
+{
+    if (m_model.progress()) {
+        if (!isHidden())
+            showProgress();
+        else if (!m_patience.isActive())
+            m_patience.start();
+        return;
+    }
+    m_patience.stop();
+    m_bar->setFraction(0);
+    if (!isHidden()) {
+        hide();
+        emit shownChanged(false);
+    }
+}
+
+void ProgressFoot::showProgress()
+{
+    const auto progress = m_model.progress();
+    if (!progress)
+        return;
+    const QLocale locale;
+    const QString pattern =
+        m_model.isSaving() ? QStringLiteral("Saving %1 of %2 photos…") : QStringLiteral("Reading %1 of %2 photos…");
+    const auto stalled = m_model.stalledFile();
+    m_text->setText(stalled ? QStringLiteral("Stuck at %1").arg(*stalled)
+                            : pattern.arg(locale.toString(progress->done), locale.toString(progress->total)));
+    m_skip->setVisible(stalled.has_value());
+    m_bar->setFraction(progress->total > 0 ? static_cast<qreal>(progress->done) / progress->total : 0);
+    m_cancel->setVisible(!m_model.isSaving());
+    setAccessibleName(m_text->text());
+    if (isHidden()) {
+        show();
+        emit shownChanged(true);
+    }
+}
+
+void ProgressFoot::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.fillRect(rect(), theme.bg);
+    if (m_lined)
+        painter.fillRect(0, 0, width(), 1, theme.line);
+}
+
+}  // namespace Quorbel

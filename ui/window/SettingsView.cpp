@@ -1,0 +1,258 @@
+#include "ui/window/SettingsView.h"
+
+#include "app/model/AppModel.h"
+#include "platform/places/search/PlaceProvider.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/Marks.h"
+#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/TextFields.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr QSizeF windowSize{ 460, 320 };
+constexpr qreal sidePadding = 20;
+constexpr qreal groupRadius = 9;
+constexpr qreal rowHeight = 40;
+constexpr qreal fieldRowHeight = 44;
+constexpr qreal patternWidth = 216;
+
+/// A white box with rows, lines between them.
+class Group final : public QWidget {
+public:
+    Group()
+        : m_rows(new QVBoxLayout(this))
+    {
+        m_rows->setContentsMargins(0, 0, 0, 0);
+        m_rows->setSpacing(1);
+    }
+
+    /// A control with its name at the left, and a help line under both unless that is empty.
+    void addRow(const QString& name, QWidget* control, const QString& help = {})
+    {
+        auto* row = new QWidget;
+        auto* column = new QVBoxLayout(row);
+        column->setSpacing(0);
+        auto* top = new QWidget;
+        auto* line = new QHBoxLayout(top);
+        line->addWidget(new ThemedLabel(name));
+        line->addStretch();
+        line->addWidget(control);
+        column->addWidget(top);
+        control->setAccessibleName(name);
+        control->setAccessibleDescription(help);
+        ThemedLabel* note = nullptr;
+        if (!help.isEmpty()) {
+            note = new ThemedLabel(help, TextRole::label, 11.5);
+            note->setWordWrap(true);
+            column->addWidget(note);
+        }
+        const bool isField = qobject_cast<QLineEdit*>(control);
+        onRestyle(row, [=] {
+            column->setContentsMargins(px(14), 0, px(12), note ? px(10) : 0);
+            line->setContentsMargins(0, px(note ? 4 : 0), 0, 0);
+            line->setSpacing(px(16));
+            // With a note the line gives up the room below its text.
+            top->setFixedHeight(px(isField ? fieldRowHeight : note ? rowHeight - 4 : rowHeight));
+            if (note)
+                note->setContentsMargins(0, px(isField ? 2 : 0), px(isField ? 0 : 52), 0);
+        });
+        m_rows->addWidget(row);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const Theme& theme = Theme::of(this);
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(theme.line);
+        painter.setBrush(theme.field);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), pxF(groupRadius), pxF(groupRadius));
+        for (int i = 1; i < m_rows->count(); ++i)
+            painter.fillRect(1, m_rows->itemAt(i)->geometry().top() - 1, width() - 2, 1, theme.line);
+    }
+
+private:
+    QVBoxLayout* m_rows;
+};
+
+Group* addGroup(QVBoxLayout* column, const QString& title)
+{
+    auto* heading = new ThemedLabel(title, TextRole::label, 12, QFont::DemiBold);
+    onRestyle(heading,
+        [heading, first = column->isEmpty()] { heading->setContentsMargins(px(2), first ? 0 : px(14), 0, px(6)); });
+    column->addWidget(heading);
+    auto* group = new Group;
+    group->setAccessibleName(title);
+    column->addWidget(group);
+    return group;
+}
+
+int indexOf(std::optional<ColorScheme> scheme)
+{
+    return !scheme ? 0 : *scheme == ColorScheme::light ? 1 : 2;
+}
+
+}  // namespace
+
+SettingsView::SettingsView(AppModel& model, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+{
+    setWindowTitle(QStringLiteral("Settings"));
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    OverlayScrollBar::attach(area);
+    auto* page = new QWidget;
+    auto* column = new QVBoxLayout(page);
+    column->setSpacing(0);
+    addDisplay(column);
+    addSaving(column);
+    addRenaming(column);
+    addPlaces(column);
+    column->addStretch();
+    area->setWidget(page);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(area);
+    onRestyle(this, [this, column] {
+        column->setContentsMargins(px(sidePadding), px(14), px(sidePadding), px(14));
+        setMinimumSize(sizeHint());
+    });
+    setFocus();  // nothing looks chosen before anybody chose it
+}
+
+QSize SettingsView::sizeHint() const
+{
+    return { px(windowSize.width()), px(windowSize.height()) };
+}
+
+void SettingsView::addDisplay(QVBoxLayout* column)
+{
+    Group* group = addGroup(column, QStringLiteral("Display"));
+    group->addRow(QStringLiteral("Appearance"), appearancePicker());
+    group->addRow(QStringLiteral("Show namespace details"),
+        toggle(QStringLiteral("Show namespace details"), &AppModel::showNamespace, &AppModel::setShowNamespace,
+            &AppModel::showNamespaceChanged),
+        QStringLiteral("Adds the source tags (EXIF / IPTC / XMP) under each field."));
+}
+
+void SettingsView::addSaving(QVBoxLayout* column)
+{
+    Group* group = addGroup(column, QStringLiteral("Saving"));
+    group->addRow(QStringLiteral("Back up original before writing"),
+        toggle(QStringLiteral("Back up original before writing"), &AppModel::backupOriginals,
+            &AppModel::setBackupOriginals, &AppModel::backupOriginalsChanged));
+    group->addRow(QStringLiteral("Confirm before mass-applying to multiple files"),
+        toggle(QStringLiteral("Confirm before mass-applying to multiple files"), &AppModel::confirmMassEdit,
+            &AppModel::setConfirmMassEdit, &AppModel::confirmMassEditChanged));
+    group->addRow(QStringLiteral("Also write a sidecar .xmp file"),
+        toggle(QStringLiteral("Also write a sidecar .xmp file"), &AppModel::writeSidecar, &AppModel::setWriteSidecar,
+            &AppModel::writeSidecarChanged),
+        QStringLiteral("Mirrors XMP metadata into <name>.xmp next to each image."));
+}
+
+void SettingsView::addRenaming(QVBoxLayout* column)
+{
+    Group* group = addGroup(column, QStringLiteral("Renaming"));
+    group->addRow(QStringLiteral("Filename pattern"), patternField(),
+        QStringLiteral("Tokens: %Date% %Time% %Title% %Creator% %Place% %Original%. The extension is kept "
+                       "automatically."));
+    group->addRow(QStringLiteral("Strip special characters"),
+        toggle(QStringLiteral("Strip special characters"), &AppModel::stripSpecialChars,
+            &AppModel::setStripSpecialChars, &AppModel::stripSpecialCharsChanged),
+        QStringLiteral("Keeps only letters and numbers (accents become plain, e.g. Café → Cafe). Off leaves "
+                       "characters like @ and ' in place."));
+}
+
+void SettingsView::addPlaces(QVBoxLayout* column)
+{
+    Group* group = addGroup(column, QStringLiteral("Places"));
+    group->addRow(QStringLiteral("Online place service"), placeServiceField(),
+        QStringLiteral("Empty: places are looked up on this computer alone. With the https address of a "
+                       "Photon-compatible service, what you type in the Place field is sent there; places known here "
+                       "still come first. Takes effect at the next start."));
+}
+
+QWidget* SettingsView::appearancePicker()
+{
+    auto* picker = new SegmentedPicker({ QStringLiteral("System"), QStringLiteral("Light"), QStringLiteral("Dark") });
+    const auto show = [this, picker] { picker->setCurrentIndex(indexOf(m_model.colorOverride())); };
+    connect(&m_model, &AppModel::colorOverrideChanged, picker, show);
+    show();
+    connect(picker, &SegmentedPicker::picked, &m_model, [this](int index) {
+        static const std::optional<ColorScheme> schemes[]{ std::nullopt, ColorScheme::light, ColorScheme::dark };
+        m_model.setColorOverride(schemes[index]);
+    });
+    return picker;
+}
+
+QWidget* SettingsView::patternField()
+{
+    auto* field = new QBTextField;
+    field->setMono(true);
+    field->setBoundText(m_model.renamePattern());
+    onRestyle(field, [field] { field->setFixedWidth(px(patternWidth)); });
+    connect(field, &QLineEdit::textEdited, &m_model, &AppModel::setRenamePattern);
+    connect(&m_model, &AppModel::renamePatternChanged, field,
+        [this, field] { field->setBoundText(m_model.renamePattern()); });
+    return field;
+}
+
+QWidget* SettingsView::placeServiceField()
+{
+    auto* field = new QBTextField;
+    field->setPlaceholderText(QStringLiteral("https://…"));
+    field->setBoundText(m_model.placeService());
+    onRestyle(field, [field] { field->setFixedWidth(px(patternWidth)); });
+    // An address that may not be asked stays in the field, marked, and is not stored.
+    connect(field, &QLineEdit::textEdited, &m_model, [this, field](const QString& text) {
+        const QString address = text.trimmed();
+        const bool isUsable = address.isEmpty() || placeEndpoint(address);
+        field->setEdited(!isUsable);
+        field->setToolTip(isUsable ? QString() : QStringLiteral("Not used: this is no https address."));
+        if (isUsable)
+            m_model.setPlaceService(address);
+    });
+    return field;
+}
+
+QWidget* SettingsView::toggle(
+    const QString& name, bool (AppModel::*get)() const, void (AppModel::*set)(bool), void (AppModel::*changed)())
+{
+    auto* toggle = new QBSwitch;
+    toggle->setAccessibleName(name);
+    toggle->setChecked((m_model.*get)());
+    connect(toggle, &QAbstractButton::toggled, &m_model, set);
+    connect(&m_model, changed, toggle, [this, toggle, get] { toggle->setChecked((m_model.*get)()); });
+    return toggle;
+}
+
+void SettingsView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape || event->matches(QKeySequence::Close))
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void SettingsView::paintEvent(QPaintEvent*)
+{
+    QPainter(this).fillRect(rect(), Theme::of(this).panel);
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,164 @@
+#include "ui/window/WindowBar.h"
+
+#include "app/model/AppModel.h"
+#include "core/Product.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/ThemedMenu.h"
+#include "ui/controls/ThemedMenuBar.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr qreal barHeight = 52;
+constexpr qreal titleTop = 9;
+constexpr qreal titleHeight = 18;
+constexpr qreal subtitleHeight = 15;
+constexpr qreal titleGap = 16;  // at least, to menus and tools
+
+QString saveTitle(const AppModel& model)
+{
+    if (model.isSaving())
+        return QStringLiteral("Saving…");
+    return model.isBatch() ? QStringLiteral("Apply to %1").arg(model.selection().size()) : QStringLiteral("Save");
+}
+
+}  // namespace
+
+WindowBar::WindowBar(AppModel& model, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_line(new QHBoxLayout(this))
+    , m_tools(new QWidget)
+{
+    m_line->setSpacing(0);
+    m_line->addStretch();
+    m_line->addWidget(m_tools);
+
+    auto* tools = new QHBoxLayout(m_tools);
+    QBIconButton* refresh = addTool(tools, QStringLiteral("arrow.clockwise"), QStringLiteral("Refresh folder"));
+    connect(refresh, &QAbstractButton::clicked, &model, &AppModel::refresh);
+    m_preview = addTool(tools, QStringLiteral("rectangle.split.2x1"), QStringLiteral("Show preview"));
+    connect(m_preview, &QAbstractButton::clicked, this, &WindowBar::previewToggled);
+    m_settings = addTool(tools, QStringLiteral("ellipsis"), QStringLiteral("Settings"));
+    connect(m_settings, &QAbstractButton::clicked, this, &WindowBar::openSettingsMenu);
+    m_save = new QBButton(saveTitle(model), QBButtonKind::primary);
+    connect(m_save, &QAbstractButton::clicked, &model, &AppModel::requestSave);
+    auto* saveGap = new QHBoxLayout;  // 12 from the last icon: the spacing and this
+    saveGap->addWidget(m_save);
+    tools->addLayout(saveGap);
+    onRestyle(this, [=, this] {
+        m_line->setContentsMargins(px(4), 0, px(12), 1);
+        tools->setContentsMargins(0, 0, 0, 0);
+        tools->setSpacing(px(4));
+        saveGap->setContentsMargins(px(8), 0, 0, 0);
+        setFixedHeight(px(barHeight));
+    });
+
+    for (const auto change : { &AppModel::selectionChanged, &AppModel::isSavingChanged, &AppModel::recordsChanged,
+             &AppModel::folderNameChanged, &AppModel::editedSingleChanged, &AppModel::batchIncludeChanged,
+             &AppModel::batchListsChanged, &AppModel::batchValuesChanged, &AppModel::batchCustomsChanged })
+        connect(&model, change, this, &WindowBar::follow);
+    follow();
+}
+
+ThemedMenuBar* WindowBar::menuBar()
+{
+    if (!m_menus) {
+        m_menus = new ThemedMenuBar(this);
+        m_menus->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+        m_line->insertWidget(0, m_menus, 0, Qt::AlignVCenter);
+        m_menus->show();
+    }
+    return m_menus;
+}
+
+QBIconButton* WindowBar::addTool(QHBoxLayout* line, const QString& icon, const QString& name)
+{
+    auto* button = new QBIconButton(icon, name);
+    line->addWidget(button);
+    return button;
+}
+
+QSize WindowBar::sizeHint() const
+{
+    return { px(900), px(barHeight) };
+}
+
+void WindowBar::setPreviewShown(bool shown)
+{
+    m_preview->setName(shown ? QStringLiteral("Hide preview") : QStringLiteral("Show preview"));
+    m_preview->setHighlighted(shown);
+}
+
+void WindowBar::setEnabledMenus(bool enabled)
+{
+    menuBar()->setEnabled(enabled);
+}
+
+void WindowBar::follow()
+{
+    m_save->setText(saveTitle(m_model));
+    m_save->setAccessibleName(m_save->text());
+    m_save->setEnabled(m_model.unsavedCount() >= 1 && !m_model.isSaving());
+    m_save->updateGeometry();
+    setAccessibleName(shownTitle());
+    setAccessibleDescription(m_model.folderCountText());
+    update();
+}
+
+void WindowBar::openSettingsMenu()
+{
+    auto* menu = new ThemedMenu(this);
+    const auto add = [&](const QString& text, bool on, void (AppModel::*set)(bool)) {
+        QAction* action = menu->addAction(text);
+        action->setCheckable(true);
+        action->setChecked(on);
+        connect(action, &QAction::toggled, &m_model, set);
+    };
+    add(QStringLiteral("Show namespace details"), m_model.showNamespace(), &AppModel::setShowNamespace);
+    add(QStringLiteral("Back up originals before writing"), m_model.backupOriginals(), &AppModel::setBackupOriginals);
+    add(QStringLiteral("Also write sidecar .xmp"), m_model.writeSidecar(), &AppModel::setWriteSidecar);
+    menu->popUpUnder(m_settings, Qt::AlignRight, true);
+}
+
+void WindowBar::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.fillRect(rect(), theme.titlebar);
+    painter.fillRect(0, height() - 1, width(), 1, theme.line);
+    paintTitles(painter);
+}
+
+QString WindowBar::shownTitle() const
+{
+    return m_model.folderName().isEmpty() ? Product::name() : m_model.folderName();
+}
+
+/// Centred on the window, as long as both sides leave room for it.
+void WindowBar::paintTitles(QPainter& painter) const
+{
+    const Theme& theme = Theme::of(this);
+    const int side =
+        qMax(m_menus ? m_menus->geometry().right() : 0, width() - m_tools->geometry().left()) + px(titleGap);
+    QRect line(side, px(titleTop), width() - 2 * side, px(titleHeight));
+    painter.setFont(sansFont(13, QFont::DemiBold));
+    painter.setPen(theme.text);
+    painter.drawText(
+        line, Qt::AlignCenter, painter.fontMetrics().elidedText(shownTitle(), Qt::ElideMiddle, line.width()));
+    line.translate(0, line.height());
+    line.setHeight(px(subtitleHeight));
+    painter.setFont(sansFont(11));
+    painter.setPen(theme.derived.label);
+    painter.drawText(line, Qt::AlignCenter,
+        painter.fontMetrics().elidedText(m_model.folderCountText(), Qt::ElideRight, line.width()));
+}
+
+}  // namespace Quorbel
