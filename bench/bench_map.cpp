@@ -13,6 +13,7 @@
 #include <vector>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -75,7 +76,7 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     const auto folder = argc > 1 ? QString::fromLocal8Bit(argv[1])
-                                 : QGuiApplication::applicationDirPath() + QStringLiteral("/../share/quorbel/places");
+                                 : QGuiApplication::applicationDirPath() + u"/../share/quorbel/places"_s;
     const auto data = MapData::open(folder);
     if (!data) {
         std::printf("map: no map files in %s\n", qPrintable(folder));

@@ -17,6 +17,8 @@
 #include <sys/resource.h>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
+
 using namespace Quorbel::Test;
 
 namespace {
@@ -88,7 +90,7 @@ void runBareTool(const QStringList& arguments)
 {
     QProcess process;
     process.setStandardOutputFile(QProcess::nullDevice());
-    process.start(QStringLiteral("/usr/bin/perl"), QStringList{ realTool().exiftoolURL.toLocalFile() } + arguments);
+    process.start(u"/usr/bin/perl"_s, QStringList{ realTool().exiftoolURL.toLocalFile() } + arguments);
     process.waitForFinished(-1);
     if (process.exitCode() != 0)
         qFatal("The bare run failed: %s", process.readAllStandardError().constData());
@@ -97,8 +99,8 @@ void runBareTool(const QStringList& arguments)
 QList<QByteArray> samplePhotos()
 {
     QList<QByteArray> samples;
-    QDirIterator files(qEnvironmentVariable("QUORBEL_TEST_PHOTOS", QStringLiteral("/nonexistent")),
-        { QStringLiteral("*.jpg"), QStringLiteral("*.jpeg") }, QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator files(qEnvironmentVariable("QUORBEL_TEST_PHOTOS", u"/nonexistent"_s), { u"*.jpg"_s, u"*.jpeg"_s },
+        QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext())
         if (const QString path = files.next();
             path.contains(QLatin1String("/valid/")) || !path.contains(QLatin1String("/malformed/")))
@@ -112,8 +114,7 @@ QList<QUrl> makePhotos(const PhotoFolder& folder, const QList<QByteArray>& sampl
 {
     QList<QUrl> photos;
     for (int i = 0; i < readCount; ++i)
-        photos.append(
-            folder.add(QStringLiteral("IMG_%1.jpg").arg(i, 4, 10, QLatin1Char('0')), samples[i % samples.size()]));
+        photos.append(folder.add(u"IMG_%1.jpg"_s.arg(i, 4, 10, QLatin1Char('0')), samples[i % samples.size()]));
     std::printf("%d photos, copies of %d\n", readCount, int(samples.size()));
     return photos;
 }

@@ -23,8 +23,8 @@
 #include <cstdio>
 #include <ctime>
 
-using namespace Qt::StringLiterals;
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -287,10 +287,11 @@ void measureReverse(PlaceProvider& provider, const QList<Airport>& airports, con
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    const auto folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral(QUORBEL_BENCH_SHARE) + u"/places"_s;
-    const auto airportsFolder = QStringLiteral(QUORBEL_BENCH_AIRPORTS);
+    const auto folder =
+        argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString::fromUtf8(QUORBEL_BENCH_SHARE) + u"/places"_s;
+    const auto airportsFolder = QString::fromUtf8(QUORBEL_BENCH_AIRPORTS);
     const auto airports = readAirports(airportsFolder);
-    const auto landmarks = readLandmarks(QStringLiteral(QUORBEL_BENCH_LANDMARKS));
+    const auto landmarks = readLandmarks(QString::fromUtf8(QUORBEL_BENCH_LANDMARKS));
     if (!QFile::exists(folder + u"/places.db"_s) || airports.isEmpty()) {
         std::printf("No place data here: run scripts/places and build.\n");
         return 0;

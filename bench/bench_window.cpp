@@ -26,6 +26,7 @@
 #include <unistd.h>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -72,8 +73,8 @@ public:
             const QString path = m_folder.path(name(i));
             if (i > 0 && ::link(first.constData(), path.toLocal8Bit().constData()) != 0)
                 qFatal("no link");
-            answers.append({ { QStringLiteral("SourceFile"), path }, { QStringLiteral("File:ImageWidth"), 5184 },
-                { QStringLiteral("File:ImageHeight"), 3888 } });
+            answers.append(
+                { { u"SourceFile"_s, path }, { u"File:ImageWidth"_s, 5184 }, { u"File:ImageHeight"_s, 3888 } });
         }
         m_tool.answerAlways({ .standardOutput = Test::toolJson(answers) });
     }
@@ -81,14 +82,13 @@ public:
     {
         AppModelServices services;
         services.service = MetadataService{ m_tool.runner() };
-        services.preferences =
-            std::make_shared<QSettings>(m_settings.filePath(QStringLiteral("s.ini")), QSettings::IniFormat);
+        services.preferences = std::make_shared<QSettings>(m_settings.filePath(u"s.ini"_s), QSettings::IniFormat);
         return services;
     }
     QUrl folder() const { return QUrl::fromLocalFile(m_folder.path()); }
 
 private:
-    static QString name(int i) { return QStringLiteral("IMG_%1.jpg").arg(i, 5, 10, QLatin1Char('0')); }
+    static QString name(int i) { return u"IMG_%1.jpg"_s.arg(i, 5, 10, QLatin1Char('0')); }
 
     Test::PhotoFolder m_folder;
     Test::FakeTool m_tool;
@@ -174,12 +174,11 @@ double startTime(const QString& program, const QStringList& arguments, const QPr
 QProcessEnvironment environmentIn(const QTemporaryDir& home)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QUORBEL_TRACE_START"), QStringLiteral("1"));
-    for (const QString& variable : { QStringLiteral("HOME"), QStringLiteral("XDG_CONFIG_HOME"),
-             QStringLiteral("XDG_CACHE_HOME"), QStringLiteral("XDG_RUNTIME_DIR") })
+    environment.insert(u"QUORBEL_TRACE_START"_s, u"1"_s);
+    for (const QString& variable : { u"HOME"_s, u"XDG_CONFIG_HOME"_s, u"XDG_CACHE_HOME"_s, u"XDG_RUNTIME_DIR"_s })
         environment.insert(variable, home.path());
-    QSettings settings(home.filePath(QStringLiteral("Quorbel/Quorbel.ini")), QSettings::IniFormat);
-    settings.setValue(QStringLiteral("lastUpdateCheck"), QDateTime::currentDateTimeUtc().toString(Qt::ISODate));
+    QSettings settings(home.filePath(u"Quorbel/Quorbel.ini"_s), QSettings::IniFormat);
+    settings.setValue(u"lastUpdateCheck"_s, QDateTime::currentDateTimeUtc().toString(Qt::ISODate));
     return environment;
 }
 
@@ -217,16 +216,16 @@ void benchStartOn(const Desktop& desktop, const QString& photos)
 {
     const QTemporaryDir home;
     QProcessEnvironment environment = environmentIn(home);
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), desktop.platform);
-    environment.insert(QStringLiteral("DISPLAY"), desktop.display);
-    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), desktop.bus);
+    environment.insert(u"QT_QPA_PLATFORM"_s, desktop.platform);
+    environment.insert(u"DISPLAY"_s, desktop.display);
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, desktop.bus);
     const QString here = QCoreApplication::applicationDirPath();
-    startTime(here + QStringLiteral("/quorbel"), { photos }, environment);  // once to warm up
+    startTime(here + u"/quorbel"_s, { photos }, environment);  // once to warm up
     QList<double> ours;
     QList<double> empty;
     for (int i = 0; i < starts; ++i) {  // in turn, so that both meet the same machine
-        empty.append(startTime(here + QStringLiteral("/empty_window"), {}, environment));
-        ours.append(startTime(here + QStringLiteral("/quorbel"), { photos }, environment));
+        empty.append(startTime(here + u"/empty_window"_s, {}, environment));
+        ours.append(startTime(here + u"/quorbel"_s, { photos }, environment));
     }
     std::sort(ours.begin(), ours.end());
     std::sort(empty.begin(), empty.end());
@@ -241,14 +240,11 @@ void benchStart()
 {
     const Test::PhotoFolder photos;
     for (int i = 0; i < startPhotos; ++i)
-        photos.add(QStringLiteral("IMG_%1.jpg").arg(i, 4, 10, QLatin1Char('0')));
-    const Server bus(QStringLiteral("dbus-daemon"),
-        { QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address") });
-    const Server windows(QStringLiteral("Xvfb"),
-        { QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
-            QStringLiteral("1600x1000x24") });
-    const QString noBus = QStringLiteral("disabled:");
-    const QString xcb = QStringLiteral("xcb");
+        photos.add(u"IMG_%1.jpg"_s.arg(i, 4, 10, QLatin1Char('0')));
+    const Server bus(u"dbus-daemon"_s, { u"--session"_s, u"--nofork"_s, u"--print-address"_s });
+    const Server windows(u"Xvfb"_s, { u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1600x1000x24"_s });
+    const QString noBus = u"disabled:"_s;
+    const QString xcb = u"xcb"_s;
     const QString display = QLatin1Char(':') + windows.address();
     if (windows.address().isEmpty()) {
         std::printf("start on xcb: not measured, no Xvfb\n");
@@ -257,7 +253,7 @@ void benchStart()
             benchStartOn({ "xcb with a session bus", xcb, display, bus.address() }, photos.path());
         benchStartOn({ "xcb without a session bus", xcb, display, noBus }, photos.path());
     }
-    benchStartOn({ "offscreen", QStringLiteral("offscreen"), {}, noBus }, photos.path());
+    benchStartOn({ "offscreen", u"offscreen"_s, {}, noBus }, photos.path());
 }
 
 }  // namespace

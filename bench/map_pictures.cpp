@@ -10,6 +10,7 @@
 #include <cstdio>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -76,14 +77,14 @@ QList<Sample> samples(const QStringList& words)
     if (words.size() == 6)
         return { { words[3] + u' ' + words[4], { words[3].toDouble(), words[4].toDouble() }, words[5].toDouble() } };
     return {
-        { QStringLiteral("Paris"), { 48.8584, 2.2945 } },
-        { QStringLiteral("Zürich"), { 47.3769, 8.5417 } },
-        { QStringLiteral("Tokyo"), { 35.6586, 139.7454 } },
-        { QStringLiteral("New York"), { 40.7484, -73.9857 } },
-        { QStringLiteral("Null Island"), { 0, 0 } },
-        { QStringLiteral("Fiji"), { -16.8, 179.99 } },
-        { QStringLiteral("89° N"), { 89, 0 } },
-        { QStringLiteral("89° S"), { -89, 0 } },
+        { u"Paris"_s, { 48.8584, 2.2945 } },
+        { u"Zürich"_s, { 47.3769, 8.5417 } },
+        { u"Tokyo"_s, { 35.6586, 139.7454 } },
+        { u"New York"_s, { 40.7484, -73.9857 } },
+        { u"Null Island"_s, { 0, 0 } },
+        { u"Fiji"_s, { -16.8, 179.99 } },
+        { u"89° N"_s, { 89, 0 } },
+        { u"89° S"_s, { -89, 0 } },
     };
 }
 
@@ -93,7 +94,7 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    QFont font(QStringLiteral("Inter"));
+    QFont font(u"Inter"_s);
     QGuiApplication::setFont(font);
     const auto words = QGuiApplication::arguments();
     if (words.size() < 3)
@@ -117,7 +118,7 @@ int main(int argc, char** argv)
             painter.setFont(font);
             painter.setPen(dark ? Qt::white : Qt::black);
             painter.drawText(QRectF(x, y, pictureSize.width(), caption - 3), Qt::AlignLeft | Qt::AlignVCenter,
-                QStringLiteral("%1, %2 km across").arg(all[i].name).arg(std::round(map.kilometresAcross)));
+                u"%1, %2 km across"_s.arg(all[i].name).arg(std::round(map.kilometresAcross)));
             paint(painter, QPointF(x, y + caption), map, dark);
         }
     }

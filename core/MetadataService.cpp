@@ -20,12 +20,14 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The objects by the path of the file that they are about: as the tool printed it, and tidied up.
 QMap<QString, JSONObject> indexBySourceFile(const QList<JSONObject>& objects)
 {
-    const QString key = QStringLiteral("SourceFile");
+    const QString key = u"SourceFile"_s;
     QMap<QString, JSONObject> index;
     for (const auto& object : objects) {
         const auto member = object.value(key);
@@ -55,19 +57,19 @@ QUrl writeTempConfig(const QStringList& names)
 
     const QString directory = QDir::tempPath();
     if (directory.isEmpty())  // Qt's answer for a TMPDIR that does not exist
-        throw FileError(QStringLiteral("Cannot write to"), QUrl::fromLocalFile(qEnvironmentVariable("TMPDIR")),
-            qt_error_string(ENOENT));
+        throw FileError(
+            u"Cannot write to"_s, QUrl::fromLocalFile(qEnvironmentVariable("TMPDIR")), qt_error_string(ENOENT));
     const QUrl url = QUrl::fromLocalFile(directory + u'/' + TemporaryFiles::newConfigName());
     QSaveFile file(url.toLocalFile());
     if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
         || file.write(text) != text.size() || !file.commit())
-        throw FileError(QStringLiteral("Cannot write"), url, file.errorString());
+        throw FileError(u"Cannot write"_s, url, file.errorString());
     return url;
 }
 
 QString backupPath(const QString& imagePath)
 {
-    return imagePath + QStringLiteral("_original");
+    return imagePath + u"_original"_s;
 }
 
 /// As the name of a file to copy from to its sidecar: there the tool puts folder and name of the sidecar for "%d" and
@@ -76,8 +78,8 @@ QString sourceArgument(const QString& path)
 {
     if (!path.contains(u'%'))
         return path;
-    const qsizetype nameSize = SaveJournal::sidecarPath(path).size() - QStringLiteral(".xmp").size();
-    return QStringLiteral("%d%f") + path.sliced(nameSize);
+    const qsizetype nameSize = SaveJournal::sidecarPath(path).size() - u".xmp"_s.size();
+    return u"%d%f"_s + path.sliced(nameSize);
 }
 
 void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& images)
@@ -86,7 +88,7 @@ void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& images)
         const QString path = image.toLocalFile();
         try {
             SaveGuard::clearLeftovers({ QUrl::fromLocalFile(SaveJournal::sidecarPath(path)) });
-            runner.write({ QStringLiteral("-tagsfromfile"), sourceArgument(path), QStringLiteral("-xmp:all") },
+            runner.write({ u"-tagsfromfile"_s, sourceArgument(path), u"-xmp:all"_s },
                 { QUrl::fromLocalFile(SaveJournal::sidecarPath(path)) }, false);
         } catch (const Error&) {
             // The photo itself is saved; a sidecar is a courtesy beside it.
@@ -170,7 +172,7 @@ QList<QUrl> withoutBlocked(const QList<QUrl>& files, QList<FileFailure>& failure
     QList<QUrl> writable;
     for (const auto& file : files) {
         if (SaveGuard::isReadOnly(file)) {
-            failures.append({ file, QStringLiteral("read-only") });
+            failures.append({ file, u"read-only"_s });
             continue;
         }
         try {
@@ -332,7 +334,7 @@ void MetadataService::checkRestored(const JournalEntry& entry, const QSet<QUrl>&
             continue;
         if (doubtful.contains(url)) {
             outcome.restored.removeAll(url);
-            outcome.failed.append({ url, QStringLiteral("not written") });
+            outcome.failed.append({ url, u"not written"_s });
         } else {
             outcome.inexact.append(url);
         }
@@ -344,7 +346,7 @@ void MetadataService::renameFile(const QUrl& source, const QUrl& destination) co
     const QString from = source.toLocalFile();
     const QString to = destination.toLocalFile();
     if (const int error = moveWithoutReplacing(from, to))
-        throw FileError(QStringLiteral("Cannot move"), source, qt_error_string(error));
+        throw FileError(u"Cannot move"_s, source, qt_error_string(error));
     moveWithoutReplacing(SaveJournal::sidecarPath(from), SaveJournal::sidecarPath(to));
     moveWithoutReplacing(backupPath(from), backupPath(to));
 }

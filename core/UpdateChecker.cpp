@@ -6,9 +6,9 @@
 #include <QNetworkReply>
 #include <QNetworkRequest>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace Quorbel::UpdateChecker {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -16,7 +16,7 @@
 #include <QVBoxLayout>
 
 using namespace Quorbel;
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -12,6 +12,8 @@
 
 namespace Quorbel::SelfTest {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum ExitStatus { passed = 0, noTool = 2, noImages = 3, notReadBack = 4, toolFailed = 5 };
@@ -24,7 +26,7 @@ void say(const QString& line)
 
 int fail(ExitStatus status, const QString& reason)
 {
-    say(QStringLiteral("SELFTEST FAIL: ") + reason);
+    say(u"SELFTEST FAIL: "_s + reason);
     return status;
 }
 
@@ -65,23 +67,22 @@ QString describe(const ImageRecord& record)
     QStringList labels;
     for (const auto& row : record.camera)
         labels.append(row.label);
-    return QStringLiteral("  first: ") + record.fileName + QStringLiteral(" [") + record.detailLine()
-        + QStringLiteral("] title=") + record.values.value(QStringLiteral("title"), QStringLiteral("—"))
-        + QStringLiteral(" keywords=") + printedList(record.lists.value(QStringLiteral("keywords")))
-        + QStringLiteral(" camera=") + printedList(labels);
+    return u"  first: "_s + record.fileName + u" ["_s + record.detailLine() + u"] title="_s
+        + record.values.value(u"title"_s, u"—"_s) + u" keywords="_s + printedList(record.lists.value(u"keywords"_s))
+        + u" camera="_s + printedList(labels);
 }
 
 void writeHeadline(const MetadataService& service, const QUrl& target, const QString& headline)
 {
     EditPlan plan;
-    plan.scalars.insert(QStringLiteral("headline"), headline);
+    plan.scalars.insert(u"headline"_s, headline);
     service.write(plan, { target }, WriteOptions{});
 }
 
 std::optional<QString> readHeadline(const MetadataService& service, const QUrl& target)
 {
     const auto records = service.read({ target });
-    const QString id = QStringLiteral("headline");
+    const QString id = u"headline"_s;
     if (records.isEmpty() || !records.first().values.contains(id))
         return std::nullopt;
     return records.first().values.value(id);
@@ -91,19 +92,18 @@ int testFiles(const MetadataService& service, const QList<QUrl>& files)
 {
     const QUrl& target = files.first();
     const auto records = service.read(files);
-    say(QStringLiteral("SELFTEST read ") + QString::number(records.size()) + QStringLiteral(" record(s)"));
+    say(u"SELFTEST read "_s + QString::number(records.size()) + u" record(s)"_s);
     if (!records.isEmpty())
         say(describe(records.first()));
 
-    const QString value = QStringLiteral("SelfTest-") + QString::number(QDateTime::currentSecsSinceEpoch());
+    const QString value = u"SelfTest-"_s + QString::number(QDateTime::currentSecsSinceEpoch());
     writeHeadline(service, target, value);
     const auto got = readHeadline(service, target);
     if (got != value)
-        return fail(
-            notReadBack, QStringLiteral("write not read back (got ") + got.value_or(QStringLiteral("nil")) + u')');
-    say(QStringLiteral("SELFTEST write round-trip OK (headline=") + value + u')');
+        return fail(notReadBack, u"write not read back (got "_s + got.value_or(u"nil"_s) + u')');
+    say(u"SELFTEST write round-trip OK (headline="_s + value + u')');
     writeHeadline(service, target, QString());
-    say(QStringLiteral("SELFTEST PASS"));
+    say(u"SELFTEST PASS"_s);
     return passed;
 }
 
@@ -111,11 +111,11 @@ int test(const QString& path)
 {
     const auto service = MetadataService::locate();
     if (!service)
-        return fail(noTool, QStringLiteral("ExifTool not located in bundle"));
-    say(QStringLiteral("SELFTEST exiftool: ") + service->toolURL().toLocalFile());
+        return fail(noTool, u"ExifTool not located in bundle"_s);
+    say(u"SELFTEST exiftool: "_s + service->toolURL().toLocalFile());
     const auto files = filesToTest(path);
     if (files.isEmpty())
-        return fail(noImages, QStringLiteral("no images"));
+        return fail(noImages, u"no images"_s);
     try {
         return testFiles(*service, files);
     } catch (const Error& error) {

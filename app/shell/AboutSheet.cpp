@@ -9,6 +9,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Points.
@@ -17,18 +19,16 @@ constexpr qreal padding = 24;
 
 QString version()
 {
-    return QStringLiteral("Version %1 (build %2)")
-        .arg(QStringLiteral(QUORBEL_VERSION), QStringLiteral(QUORBEL_BUILD_NUMBER));
+    return u"Version %1 (build %2)"_s.arg(QString::fromUtf8(QUORBEL_VERSION), QString::fromUtf8(QUORBEL_BUILD_NUMBER));
 }
 
 QStringList licences()
 {
     return {
-        QStringLiteral("© 2026 The Quorbel developers. Free software under the MIT License."),
-        QStringLiteral("Reads and writes photos with ExifTool by Phil Harvey (Artistic License or GPL). Built with "
-                       "Qt %1 (LGPL 3), LibRaw (LGPL 2.1 or CDDL), libheif (LGPL 3), libjxl (BSD), OpenJPEG (BSD) "
-                       "and Little CMS (MIT).")
-            .arg(QString::fromLatin1(qVersion())),
+        u"© 2026 The Quorbel developers. Free software under the MIT License."_s,
+        u"Reads and writes photos with ExifTool by Phil Harvey (Artistic License or GPL). Built with "
+        "Qt %1 (LGPL 3), LibRaw (LGPL 2.1 or CDDL), libheif (LGPL 3), libjxl (BSD), OpenJPEG (BSD) "
+        "and Little CMS (MIT)."_s.arg(QString::fromLatin1(qVersion())),
     };
 }
 
@@ -45,7 +45,7 @@ AboutSheet::AboutSheet(const QString& credits, QWidget* parent)
     : SheetBody(parent)
 {
     auto* column = new QVBoxLayout(this);
-    column->addWidget(new ThemedLabel(QStringLiteral("Quorbel"), TextRole::text, 20, QFont::DemiBold));
+    column->addWidget(new ThemedLabel(u"Quorbel"_s, TextRole::text, 20, QFont::DemiBold));
     column->addWidget(new ThemedLabel(version(), TextRole::label, 12));
     for (const QString& text : licences())
         column->addWidget(paragraph(text, TextRole::text, 13));
@@ -53,7 +53,7 @@ AboutSheet::AboutSheet(const QString& credits, QWidget* parent)
         column->addWidget(paragraph(credits, TextRole::label, 12));
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
-    auto* ok = new QBButton(QStringLiteral("OK"), QBButtonKind::primary);
+    auto* ok = new QBButton(u"OK"_s, QBButtonKind::primary);
     connect(ok, &QAbstractButton::clicked, this, &AboutSheet::closed);
     buttons->addWidget(ok);
     column->addLayout(buttons);
@@ -63,6 +63,11 @@ AboutSheet::AboutSheet(const QString& credits, QWidget* parent)
         column->setSpacing(px(8));
         buttons->setContentsMargins(0, px(14), 0, 0);
     });
+}
+
+QString AboutSheet::title() const
+{
+    return u"About Quorbel"_s;
 }
 
 }  // namespace Quorbel

@@ -13,7 +13,7 @@ public:
     /// `credits`: lines of text about the place data; may be empty.
     explicit AboutSheet(const QString& credits, QWidget* parent = nullptr);
 
-    QString title() const override { return QStringLiteral("About Quorbel"); }
+    QString title() const override;
     void confirm() override { emit closed(); }
     void cancel() override { emit closed(); }
 

@@ -31,6 +31,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Whether the window may be active: with it, another program's start lets this one come to the front.
@@ -109,7 +111,7 @@ void AppDelegate::finishAfterFirstPaint(const QList<QUrl>& urls)
 {
     if (!urls.isEmpty())
         m_app->model().requestLoad(urls);
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("app.quorbel.Quorbel")));
+    QApplication::setWindowIcon(QIcon::fromTheme(u"app.quorbel.Quorbel"_s));
     new Menus(m_app->model(), *m_content, menuCommands());
     m_content->buildColumns();
     new ToolTips(this);
@@ -233,8 +235,8 @@ void AppDelegate::showAbout()
 
 void AppDelegate::showNotice(const Notice& notice, std::function<void(qsizetype)> answered)
 {
-    presentMessage(*m_content->sheets(), QStringLiteral("sparkles"), notice.message, notice.informativeText,
-        notice.buttons, std::move(answered));
+    presentMessage(*m_content->sheets(), u"sparkles"_s, notice.message, notice.informativeText, notice.buttons,
+        std::move(answered));
 }
 
 /// Makes the field being typed into commit what the input method still holds, and takes the focus from it.

@@ -11,13 +11,15 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize usualSize{ 1240, 800 };  // device-independent pixels
 
 QString geometryKey()
 {
-    return QStringLiteral("windowGeometry");
+    return u"windowGeometry"_s;
 }
 
 }  // namespace

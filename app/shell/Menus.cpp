@@ -17,6 +17,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The platform's keys for a command, and ours where the platform has none.
@@ -114,28 +116,25 @@ QAction* Menus::add(QMenu* menu, const QString& text, const QList<QKeySequence>&
 
 void Menus::addFileMenu(const MenuCommands& commands)
 {
-    ThemedMenu* menu = addMenu(QStringLiteral("&File"));
-    add(menu, QStringLiteral("&Open…"), keysFor(QKeySequence::Open, Qt::CTRL | Qt::Key_O),
-        [this] { m_model.openPanel(); });
-    m_recents = menu->addThemedMenu(QStringLiteral("Open &Recent"));
+    ThemedMenu* menu = addMenu(u"&File"_s);
+    add(menu, u"&Open…"_s, keysFor(QKeySequence::Open, Qt::CTRL | Qt::Key_O), [this] { m_model.openPanel(); });
+    m_recents = menu->addThemedMenu(u"Open &Recent"_s);
     connect(m_recents, &QMenu::aboutToShow, this, &Menus::fillRecents);
     connect(&m_model, &AppModel::recentPathsChanged, this, &Menus::fillRecents);
     fillRecents();
     menu->addSeparator();
-    m_save = add(menu, QStringLiteral("&Save"), keysFor(QKeySequence::Save, Qt::CTRL | Qt::Key_S),
-        [this] { m_model.requestSave(); });
-    m_rename = add(menu, QStringLiteral("Re&name…"), { Qt::Key_F2 }, [this] { m_model.setRenameOpen(true); });
+    m_save =
+        add(menu, u"&Save"_s, keysFor(QKeySequence::Save, Qt::CTRL | Qt::Key_S), [this] { m_model.requestSave(); });
+    m_rename = add(menu, u"Re&name…"_s, { Qt::Key_F2 }, [this] { m_model.setRenameOpen(true); });
     menu->addSeparator();
-    m_refresh = add(menu, QStringLiteral("Re&fresh"), keysFor(QKeySequence::Refresh, Qt::CTRL | Qt::Key_R),
-        [this] { m_model.refresh(); });
-    m_close = add(menu, QStringLiteral("&Close Folder"), keysFor(QKeySequence::Close, Qt::CTRL | Qt::Key_W),
+    m_refresh =
+        add(menu, u"Re&fresh"_s, keysFor(QKeySequence::Refresh, Qt::CTRL | Qt::Key_R), [this] { m_model.refresh(); });
+    m_close = add(menu, u"&Close Folder"_s, keysFor(QKeySequence::Close, Qt::CTRL | Qt::Key_W),
         [this] { m_model.requestClose(); });
     menu->addSeparator();
-    add(menu, QStringLiteral("Se&ttings…"), keysFor(QKeySequence::Preferences, Qt::CTRL | Qt::Key_Comma),
-        commands.openSettings);
+    add(menu, u"Se&ttings…"_s, keysFor(QKeySequence::Preferences, Qt::CTRL | Qt::Key_Comma), commands.openSettings);
     menu->addSeparator();
-    add(menu, QStringLiteral("&Quit"), keysFor(QKeySequence::Quit, Qt::CTRL | Qt::Key_Q),
-        [this] { m_model.requestQuit(); });
+    add(menu, u"&Quit"_s, keysFor(QKeySequence::Quit, Qt::CTRL | Qt::Key_Q), [this] { m_model.requestQuit(); });
 }
 
 void Menus::fillRecents()
@@ -145,30 +144,30 @@ void Menus::fillRecents()
     for (const QUrl& url : urls)
         add(m_recents, literal(shownPath(url)), {}, [this, url] { m_model.openRecent(url); });
     m_recents->addSeparator();
-    add(m_recents, QStringLiteral("Clear Menu"), {}, [this] { m_model.clearRecents(); });
+    add(m_recents, u"Clear Menu"_s, {}, [this] { m_model.clearRecents(); });
     m_recents->menuAction()->setEnabled(!urls.isEmpty());
 }
 
 void Menus::addEditMenu()
 {
-    ThemedMenu* menu = addMenu(QStringLiteral("&Edit"));
-    addEditing(menu, QStringLiteral("&Undo"), QKeySequence::Undo, "undo", canUndo);
-    addEditing(menu, QStringLiteral("&Redo"), QKeySequence::Redo, "redo", canRedo);
-    m_undoSave = add(menu, QStringLiteral("Undo Sa&ve"), {}, [this] { m_model.undoSave(); });
+    ThemedMenu* menu = addMenu(u"&Edit"_s);
+    addEditing(menu, u"&Undo"_s, QKeySequence::Undo, "undo", canUndo);
+    addEditing(menu, u"&Redo"_s, QKeySequence::Redo, "redo", canRedo);
+    m_undoSave = add(menu, u"Undo Sa&ve"_s, {}, [this] { m_model.undoSave(); });
     menu->addSeparator();
-    addEditing(menu, QStringLiteral("Cu&t"), QKeySequence::Cut, "cut", hasSelectedText);
-    addEditing(menu, QStringLiteral("&Copy"), QKeySequence::Copy, "copy", hasSelectedText);
-    addEditing(menu, QStringLiteral("&Paste"), QKeySequence::Paste, "paste", canPaste);
+    addEditing(menu, u"Cu&t"_s, QKeySequence::Cut, "cut", hasSelectedText);
+    addEditing(menu, u"&Copy"_s, QKeySequence::Copy, "copy", hasSelectedText);
+    addEditing(menu, u"&Paste"_s, QKeySequence::Paste, "paste", canPaste);
     menu->addSeparator();
-    add(menu, QStringLiteral("Select &All"), keysFor(QKeySequence::SelectAll, Qt::CTRL | Qt::Key_A), [this] {
+    add(menu, u"Select &All"_s, keysFor(QKeySequence::SelectAll, Qt::CTRL | Qt::Key_A), [this] {
         QWidget* focus = QApplication::focusWidget();
         if (isTextEditor(focus))
             QMetaObject::invokeMethod(focus, "selectAll");
         else
             m_model.selectAllPhotos();
     });
-    m_find = add(menu, QStringLiteral("&Search"), keysFor(QKeySequence::Find, Qt::CTRL | Qt::Key_F),
-        [this] { m_content.focusSearch(); });
+    m_find =
+        add(menu, u"&Search"_s, keysFor(QKeySequence::Find, Qt::CTRL | Qt::Key_F), [this] { m_content.focusSearch(); });
 }
 
 /// A command for the text field that has the focus. Fields take its keys themselves; the action shows them and
@@ -191,10 +190,10 @@ void Menus::addEditing(QMenu* menu, const QString& text, QKeySequence::StandardK
 
 void Menus::addViewMenu()
 {
-    ThemedMenu* menu = addMenu(QStringLiteral("&View"));
-    m_preview = add(menu, QStringLiteral("Show preview"), { Qt::CTRL | Qt::SHIFT | Qt::Key_P },
-        [this] { m_content.togglePreview(); });
-    QAction* names = menu->addAction(QStringLiteral("Show &namespace details"));
+    ThemedMenu* menu = addMenu(u"&View"_s);
+    m_preview =
+        add(menu, u"Show preview"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_P }, [this] { m_content.togglePreview(); });
+    QAction* names = menu->addAction(u"Show &namespace details"_s);
     names->setCheckable(true);
     names->setChecked(m_model.showNamespace());
     connect(names, &QAction::toggled, &m_model, &AppModel::setShowNamespace);
@@ -204,27 +203,26 @@ void Menus::addViewMenu()
 
 void Menus::addHelpMenu(const MenuCommands& commands)
 {
-    ThemedMenu* menu = addMenu(QStringLiteral("&Help"));
-    add(menu, QStringLiteral("Quorbel &Help"), keysFor(QKeySequence::HelpContents, Qt::Key_F1), commands.openHelp);
+    ThemedMenu* menu = addMenu(u"&Help"_s);
+    add(menu, u"Quorbel &Help"_s, keysFor(QKeySequence::HelpContents, Qt::Key_F1), commands.openHelp);
     menu->addSeparator();
     if (commands.checkForUpdates)
-        add(menu, QStringLiteral("Check for &Updates…"), {}, commands.checkForUpdates);
-    add(menu, QStringLiteral("&About Quorbel"), {}, commands.showAbout);
+        add(menu, u"Check for &Updates…"_s, {}, commands.checkForUpdates);
+    add(menu, u"&About Quorbel"_s, {}, commands.showAbout);
 }
 
 void Menus::followState()
 {
     const bool any = !m_model.records().isEmpty();
     m_save->setEnabled(m_model.unsavedCount() >= 1);
-    m_save->setText(
-        m_model.isBatch() ? QStringLiteral("&Apply to %1").arg(m_model.selection().size()) : QStringLiteral("&Save"));
+    m_save->setText(m_model.isBatch() ? u"&Apply to %1"_s.arg(m_model.selection().size()) : u"&Save"_s);
     m_undoSave->setEnabled(m_model.canUndoSave());
     m_rename->setEnabled(m_model.canRename());
     m_refresh->setEnabled(m_model.canRefresh());
     m_close->setEnabled(any);
     m_find->setEnabled(any);
     m_preview->setEnabled(any);
-    m_preview->setText(m_content.previewShown() ? QStringLiteral("Hide &preview") : QStringLiteral("Show &preview"));
+    m_preview->setText(m_content.previewShown() ? u"Hide &preview"_s : u"Show &preview"_s);
 }
 
 }  // namespace Quorbel

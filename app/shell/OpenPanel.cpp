@@ -9,26 +9,28 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString imageFilter()
 {
     QStringList patterns;
     for (const QString& extension : ImageTypes::extensions())
-        patterns.append(QStringLiteral("*.") + extension);
+        patterns.append(u"*."_s + extension);
     patterns.sort();
-    return QStringLiteral("Images (%1)").arg(patterns.join(QLatin1Char(' ')));
+    return u"Images (%1)"_s.arg(patterns.join(QLatin1Char(' ')));
 }
 
 }  // namespace
 
 OpenPanel::OpenPanel(QWidget* parent)
-    : QFileDialog(parent, QStringLiteral("Choose a folder of images, or one or more image files."))
+    : QFileDialog(parent, u"Choose a folder of images, or one or more image files."_s)
 {
     setOptions(DontUseNativeDialog | ReadOnly);
     setFileMode(ExistingFiles);
-    setNameFilters({ imageFilter(), QStringLiteral("All files (*)") });
-    setLabelText(QFileDialog::Accept, QStringLiteral("Open"));
+    setNameFilters({ imageFilter(), u"All files (*)"_s });
+    setLabelText(QFileDialog::Accept, u"Open"_s);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     // The dialog disables Open while nothing is selected; here that means the folder that is shown.

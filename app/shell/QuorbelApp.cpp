@@ -10,12 +10,14 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// <prefix>/share/quorbel/places, seen from <prefix>/bin.
 QString placesFolder()
 {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/quorbel/places"));
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/quorbel/places"_s);
 }
 
 QDateTime now()
@@ -27,8 +29,8 @@ QDateTime now()
 QString journalPath()
 {
     const QString given = qEnvironmentVariable("XDG_STATE_HOME");
-    const QString base = QDir::isAbsolutePath(given) ? given : QDir::homePath() + QStringLiteral("/.local/state");
-    return base + QStringLiteral("/quorbel/undo.json");
+    const QString base = QDir::isAbsolutePath(given) ? given : QDir::homePath() + u"/.local/state"_s;
+    return base + u"/quorbel/undo.json"_s;
 }
 
 void openUrl(const QUrl& url)
@@ -63,9 +65,10 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
         { .dataFolder = placesFolder(), .endpoint = placeEndpoint(m_model->placeService()).value_or(QUrl()) });
     m_model->onImagesModified = [this](const QList<QUrl>& urls) { m_thumbnails->invalidate(urls); };
 
-    m_updatePresenter = std::make_unique<UpdatePresenter>(UpdatePresenter::feedURL(QStringLiteral(QUORBEL_FEED_HOST)),
-        UpdatePresenter::buildNumber(QStringLiteral(QUORBEL_BUILD_NUMBER)),
-        UpdatePresenterServices{ m_preferences, now, hooks.show, openUrl });
+    m_updatePresenter =
+        std::make_unique<UpdatePresenter>(UpdatePresenter::feedURL(QString::fromUtf8(QUORBEL_FEED_HOST)),
+            UpdatePresenter::buildNumber(QString::fromUtf8(QUORBEL_BUILD_NUMBER)),
+            UpdatePresenterServices{ m_preferences, now, hooks.show, openUrl });
 }
 
 QuorbelApp::~QuorbelApp() = default;
@@ -81,7 +84,7 @@ void QuorbelApp::tidy()
 
 bool QuorbelApp::checksForUpdates()
 {
-    return !QStringLiteral(QUORBEL_FEED_HOST).isEmpty();
+    return !QString::fromUtf8(QUORBEL_FEED_HOST).isEmpty();
 }
 
 }  // namespace Quorbel

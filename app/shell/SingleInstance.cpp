@@ -11,6 +11,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // One line of JSON there, one line back.
@@ -59,7 +61,7 @@ QString SingleInstance::defaultSocketPath()
         qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? qgetenv("WAYLAND_DISPLAY") : qgetenv("DISPLAY");
     const auto mark = QCryptographicHash::hash(display, QCryptographicHash::Sha256).toHex().left(8);
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
-    return folder.filePath(QStringLiteral("quorbel-%1.socket").arg(QString::fromLatin1(mark)));
+    return folder.filePath(u"quorbel-%1.socket"_s.arg(QString::fromLatin1(mark)));
 }
 
 bool SingleInstance::handOver(const HandOver& what) const
@@ -82,7 +84,7 @@ bool SingleInstance::listen(std::function<void(const HandOver&)> received)
 {
     m_received = std::move(received);
     // Two programs that start at the same moment must not both find the socket abandoned.
-    QLockFile lock(m_path + QStringLiteral(".lock"));
+    QLockFile lock(m_path + u".lock"_s);
     if (!lock.tryLock(connectTimeout))
         return false;
     // Asked first: a server with access options takes a path over even while another one listens there.

@@ -7,6 +7,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Milliseconds without any transfer after which a check counts as failed.
@@ -14,19 +16,23 @@ constexpr int transferTimeout = 30'000;
 
 const Notice& upToDateNotice()
 {
-    static const Notice notice{ QStringLiteral("You're up to date"),
-        QStringLiteral("Quorbel is running the latest version."), { QStringLiteral("OK") } };
+    static const Notice notice{ u"You're up to date"_s, u"Quorbel is running the latest version."_s, { u"OK"_s } };
     return notice;
 }
 
 const Notice& failedNotice()
 {
-    static const Notice notice{ QStringLiteral("Couldn't check for updates"),
-        QStringLiteral("Please check your internet connection and try again."), { QStringLiteral("OK") } };
+    static const Notice notice{ u"Couldn't check for updates"_s,
+        u"Please check your internet connection and try again."_s, { u"OK"_s } };
     return notice;
 }
 
 }  // namespace
+
+QString UpdatePresenter::lastCheckKey()
+{
+    return u"lastUpdateCheck"_s;
+}
 
 UpdatePresenter::UpdatePresenter(
     const QUrl& manifestURL, qint64 currentBuild, UpdatePresenterServices services, QObject* parent)
@@ -44,7 +50,7 @@ QUrl UpdatePresenter::feedURL(const QString& host)
     if (host.isEmpty())
         return {};
     QUrl url;
-    url.setScheme(QStringLiteral("https"));
+    url.setScheme(u"https"_s);
     url.setAuthority(host);
     url.setPath(Product::feedPath());
     return url;
@@ -100,9 +106,8 @@ void UpdatePresenter::recordCheck()
 
 void UpdatePresenter::presentAvailable(const UpdateManifest& manifest)
 {
-    const Notice notice{ QStringLiteral("Quorbel %1 is available").arg(manifest.version),
-        manifest.notes.value_or(QStringLiteral("A newer version of Quorbel is available.")),
-        { QStringLiteral("Download"), QStringLiteral("Later") } };
+    const Notice notice{ u"Quorbel %1 is available"_s.arg(manifest.version),
+        manifest.notes.value_or(u"A newer version of Quorbel is available."_s), { u"Download"_s, u"Later"_s } };
     m_services.show(notice, [this, address = manifest.url](qsizetype button) {
         if (button != 0)
             return;

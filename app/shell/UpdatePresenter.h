@@ -40,7 +40,7 @@ class UpdatePresenter final : public QObject {
 
 public:
     /// Key of the date of the last recorded check, stored as an ISO 8601 text in UTC.
-    static QString lastCheckKey() { return QStringLiteral("lastUpdateCheck"); }
+    static QString lastCheckKey();
     /// Seconds that must lie between two automatic checks.
     static constexpr qint64 throttle = 86'400;
 

@@ -8,17 +8,18 @@
 
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Also answers --help and --version, which end the process.
 QStringList parsedFiles(const QApplication& application)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Reads and edits the words inside photos."));
+    parser.setApplicationDescription(u"Reads and edits the words inside photos."_s);
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(
-        QStringLiteral("files"), QStringLiteral("A folder of photos, or photos."), QStringLiteral("[files…]"));
+    parser.addPositionalArgument(u"files"_s, u"A folder of photos, or photos."_s, u"[files…]"_s);
     parser.process(application);
     return parser.positionalArguments();
 }
@@ -39,8 +40,8 @@ int main(int argc, char* argv[])
 
     QApplication::setOrganizationName(Product::name());
     QApplication::setApplicationName(Product::name());
-    QApplication::setApplicationVersion(QStringLiteral(QUORBEL_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("app.quorbel.Quorbel"));
+    QApplication::setApplicationVersion(QString::fromUtf8(QUORBEL_VERSION));
+    QApplication::setDesktopFileName(u"app.quorbel.Quorbel"_s);
 
     const QList<QUrl> urls = AppDelegate::urlsOf(parsedFiles(application));
 

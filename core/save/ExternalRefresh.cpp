@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace Quorbel::ExternalRefresh {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 

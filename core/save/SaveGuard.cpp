@@ -9,6 +9,8 @@
 
 namespace Quorbel::SaveGuard {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A leftover this old belongs to no running tool, in seconds.
@@ -28,9 +30,9 @@ QByteArray backupOf(const QByteArray& photo)
 
 QString listed(const QStringList& names)
 {
-    QString text = names.mid(0, namesListed).join(QStringLiteral(", "));
+    QString text = names.mid(0, namesListed).join(u", "_s);
     if (names.size() > namesListed)
-        text += QStringLiteral(" and %1 more").arg(names.size() - namesListed);
+        text += u" and %1 more"_s.arg(names.size() - namesListed);
     return text;
 }
 
@@ -90,10 +92,9 @@ void requireWritable(const QList<QUrl>& files)
     if (names.isEmpty())
         return;
     if (files.size() == 1)
-        throw FileProblem(QStringLiteral("%1 is read-only.").arg(names.constFirst()));
-    const QString verb = names.size() == 1 ? QStringLiteral("is") : QStringLiteral("are");
-    throw FileProblem(QStringLiteral("%1 of %2 photos %3 read-only: %4; nothing was written.")
-                          .arg(names.size())
+        throw FileProblem(u"%1 is read-only."_s.arg(names.constFirst()));
+    const QString verb = names.size() == 1 ? u"is"_s : u"are"_s;
+    throw FileProblem(u"%1 of %2 photos %3 read-only: %4; nothing was written."_s.arg(names.size())
                           .arg(files.size())
                           .arg(verb, listed(names)));
 }
@@ -102,7 +103,7 @@ void clearLeftovers(const QList<QUrl>& files, const QDateTime& now)
 {
     QStringList young;
     for (const auto& file : files) {
-        const QFileInfo leftover(file.toLocalFile() + QStringLiteral("_exiftool_tmp"));
+        const QFileInfo leftover(file.toLocalFile() + u"_exiftool_tmp"_s);
         if (!leftover.exists())
             continue;
         const bool old = leftover.lastModified().secsTo(now) > leftoverAge;
@@ -111,10 +112,8 @@ void clearLeftovers(const QList<QUrl>& files, const QDateTime& now)
     }
     if (young.isEmpty())
         return;
-    throw FileProblem(
-        QStringLiteral("Another save is under way or was cut off: %1 lies beside the photo. If no other program "
-                       "is saving, delete it and save again. Nothing was written.")
-            .arg(listed(young)));
+    throw FileProblem(u"Another save is under way or was cut off: %1 lies beside the photo. If no other program "
+                      "is saving, delete it and save again. Nothing was written."_s.arg(listed(young)));
 }
 
 BackupKeeper::BackupKeeper(const QList<QUrl>& files)

@@ -17,6 +17,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString customGroupPrefix()
@@ -36,16 +38,15 @@ QString assignedTag(const QString& argument)
 /// Tags whose values may come in several languages.
 const QStringList& languageTags()
 {
-    static const QStringList tags{ QStringLiteral("XMP-dc:Title"), QStringLiteral("XMP-dc:Description"),
-        QStringLiteral("XMP-dc:Rights"), QStringLiteral("XMP-iptcExt:Event"),
-        QStringLiteral("XMP-xmpRights:UsageTerms") };
+    static const QStringList tags{ u"XMP-dc:Title"_s, u"XMP-dc:Description"_s, u"XMP-dc:Rights"_s,
+        u"XMP-iptcExt:Event"_s, u"XMP-xmpRights:UsageTerms"_s };
     return tags;
 }
 
 /// Where ExifTool may find a position that was assigned without a group.
 bool isPosition(const QString& tag)
 {
-    return tag.startsWith(QStringLiteral("GPS")) && !tag.contains(u':');
+    return tag.startsWith(u"GPS"_s) && !tag.contains(u':');
 }
 
 /// As the tool's option "-ec" reads it: whatever an argument cannot hold (NUL, bytes that are no text) as "\xHH".
@@ -86,48 +87,47 @@ QJsonValue toJson(const QByteArray& value)
 {
     if (QUtf8StringView(value).isValidUtf8())
         return QString::fromUtf8(value);
-    return QJsonObject{ { QStringLiteral("base64"), QString::fromLatin1(value.toBase64()) } };
+    return QJsonObject{ { u"base64"_s, QString::fromLatin1(value.toBase64()) } };
 }
 
 QByteArray bytesFrom(const QJsonValue& value)
 {
-    return value.isObject() ? QByteArray::fromBase64(value[QStringLiteral("base64")].toString().toLatin1())
+    return value.isObject() ? QByteArray::fromBase64(value[u"base64"_s].toString().toLatin1())
                             : value.toString().toUtf8();
 }
 
 QJsonObject toJson(const FileStamp& stamp)
 {
-    return { { QStringLiteral("modified"), stamp.modified }, { QStringLiteral("size"), stamp.size } };
+    return { { u"modified"_s, stamp.modified }, { u"size"_s, stamp.size } };
 }
 
 FileStamp stampFrom(const QJsonValue& value)
 {
-    return { .modified = value[QStringLiteral("modified")].toInteger(),
-        .size = value[QStringLiteral("size")].toInteger() };
+    return { .modified = value[u"modified"_s].toInteger(), .size = value[u"size"_s].toInteger() };
 }
 
 QJsonValue toJson(const JournalSidecar& sidecar)
 {
     if (sidecar.path.isEmpty())
         return QJsonValue::Undefined;
-    QJsonObject object{ { QStringLiteral("path"), sidecar.path },
-        { QStringLiteral("text"), QString::fromLatin1(qCompress(sidecar.text).toBase64()) } };
+    QJsonObject object{ { u"path"_s, sidecar.path },
+        { u"text"_s, QString::fromLatin1(qCompress(sidecar.text).toBase64()) } };
     if (sidecar.before)
-        object.insert(QStringLiteral("before"), toJson(*sidecar.before));
+        object.insert(u"before"_s, toJson(*sidecar.before));
     if (sidecar.after)
-        object.insert(QStringLiteral("after"), toJson(*sidecar.after));
+        object.insert(u"after"_s, toJson(*sidecar.after));
     return object;
 }
 
 JournalSidecar sidecarFrom(const QJsonValue& value)
 {
-    JournalSidecar sidecar{ .path = value[QStringLiteral("path")].toString() };
-    if (value[QStringLiteral("before")].isObject())
-        sidecar.before = stampFrom(value[QStringLiteral("before")]);
-    if (value[QStringLiteral("after")].isObject())
-        sidecar.after = stampFrom(value[QStringLiteral("after")]);
+    JournalSidecar sidecar{ .path = value[u"path"_s].toString() };
+    if (value[u"before"_s].isObject())
+        sidecar.before = stampFrom(value[u"before"_s]);
+    if (value[u"after"_s].isObject())
+        sidecar.after = stampFrom(value[u"after"_s]);
     if (!sidecar.path.isEmpty())
-        sidecar.text = qUncompress(QByteArray::fromBase64(value[QStringLiteral("text")].toString().toLatin1()));
+        sidecar.text = qUncompress(QByteArray::fromBase64(value[u"text"_s].toString().toLatin1()));
     return sidecar;
 }
 
@@ -140,9 +140,8 @@ QJsonObject toJson(const JournalFile& file)
             values.append(toJson(value));
         tags.insert(it.key(), values);
     }
-    return { { QStringLiteral("path"), file.path }, { QStringLiteral("before"), toJson(file.before) },
-        { QStringLiteral("after"), toJson(file.after) }, { QStringLiteral("tags"), tags },
-        { QStringLiteral("sidecar"), toJson(file.sidecar) } };
+    return { { u"path"_s, file.path }, { u"before"_s, toJson(file.before) }, { u"after"_s, toJson(file.after) },
+        { u"tags"_s, tags }, { u"sidecar"_s, toJson(file.sidecar) } };
 }
 
 QStringList stringsFrom(const QJsonValue& value)
@@ -155,11 +154,11 @@ QStringList stringsFrom(const QJsonValue& value)
 
 JournalFile fileFrom(const QJsonValue& value)
 {
-    JournalFile file{ .path = value[QStringLiteral("path")].toString(),
-        .before = stampFrom(value[QStringLiteral("before")]),
-        .after = stampFrom(value[QStringLiteral("after")]),
-        .sidecar = sidecarFrom(value[QStringLiteral("sidecar")]) };
-    const QJsonObject tags = value[QStringLiteral("tags")].toObject();
+    JournalFile file{ .path = value[u"path"_s].toString(),
+        .before = stampFrom(value[u"before"_s]),
+        .after = stampFrom(value[u"after"_s]),
+        .sidecar = sidecarFrom(value[u"sidecar"_s]) };
+    const QJsonObject tags = value[u"tags"_s].toObject();
     for (auto it = tags.begin(); it != tags.end(); ++it)
         for (const auto& value : it->toArray())
             file.tags[it.key()].append(bytesFrom(value));
@@ -171,19 +170,17 @@ QJsonObject toJson(const JournalEntry& entry)
     QJsonArray files;
     for (const auto& file : entry.files)
         files.append(toJson(file));
-    return { { QStringLiteral("savedAt"), entry.savedAt.toString(Qt::ISODateWithMs) },
-        { QStringLiteral("writtenTags"), QJsonArray::fromStringList(entry.writtenTags) },
-        { QStringLiteral("customNames"), QJsonArray::fromStringList(entry.customNames) },
-        { QStringLiteral("files"), files } };
+    return { { u"savedAt"_s, entry.savedAt.toString(Qt::ISODateWithMs) },
+        { u"writtenTags"_s, QJsonArray::fromStringList(entry.writtenTags) },
+        { u"customNames"_s, QJsonArray::fromStringList(entry.customNames) }, { u"files"_s, files } };
 }
 
 JournalEntry entryFrom(const QJsonValue& value)
 {
-    JournalEntry entry{ .savedAt =
-                            QDateTime::fromString(value[QStringLiteral("savedAt")].toString(), Qt::ISODateWithMs),
-        .writtenTags = stringsFrom(value[QStringLiteral("writtenTags")]),
-        .customNames = stringsFrom(value[QStringLiteral("customNames")]) };
-    for (const auto& file : value[QStringLiteral("files")].toArray())
+    JournalEntry entry{ .savedAt = QDateTime::fromString(value[u"savedAt"_s].toString(), Qt::ISODateWithMs),
+        .writtenTags = stringsFrom(value[u"writtenTags"_s]),
+        .customNames = stringsFrom(value[u"customNames"_s]) };
+    for (const auto& file : value[u"files"_s].toArray())
         entry.files.append(fileFrom(file));
     return entry;
 }
@@ -238,21 +235,21 @@ QStringList readArgs(const QStringList& writtenTags)
         if (tag.startsWith(customGroupPrefix()))
             continue;  // all of the group are read at once, below
         if (isPosition(tag))
-            args << QStringLiteral("-GPS:") + tag << QStringLiteral("-XMP:") + tag;
+            args << u"-GPS:"_s + tag << u"-XMP:"_s + tag;
         else
             args << u'-' + tag;
         if (languageTags().contains(tag))
-            args << u'-' + tag + QStringLiteral("-*");
+            args << u'-' + tag + u"-*"_s;
     }
     if (std::any_of(writtenTags.cbegin(), writtenTags.cend(),
             [](const QString& tag) { return tag.startsWith(customGroupPrefix()); }))
-        args << u'-' + customGroupPrefix() + QStringLiteral("all");
+        args << u'-' + customGroupPrefix() + u"all"_s;
     return args;
 }
 
 QStringList restoreArgs(const JournalEntry& entry, const JournalFile& file)
 {
-    QStringList args{ QStringLiteral("-ec") };
+    QStringList args{ u"-ec"_s };
     for (const auto& tag : entry.writtenTags)
         args.append(u'-' + tag + u'=');
     for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it) {
@@ -260,8 +257,7 @@ QStringList restoreArgs(const JournalEntry& entry, const JournalFile& file)
             continue;
         // A tag that is there without a text is not a tag that is not there.
         for (const auto& value : *it)
-            args.append(
-                u'-' + it.key() + (value.isEmpty() ? QStringLiteral("#^=") : QStringLiteral("#=")) + escaped(value));
+            args.append(u'-' + it.key() + (value.isEmpty() ? u"#^="_s : u"#="_s) + escaped(value));
     }
     return args;
 }
@@ -306,7 +302,7 @@ QString sidecarPath(const QString& photo)
     const auto nameAt = photo.lastIndexOf(u'/') + 1;
     const auto dot = photo.lastIndexOf(u'.');
     // A leading dot makes a hidden file, not an extension.
-    return (dot > nameAt ? photo.left(dot) : photo) + QStringLiteral(".xmp");
+    return (dot > nameAt ? photo.left(dot) : photo) + u".xmp"_s;
 }
 
 void rename(QList<JournalEntry>& entries, const QString& from, const QString& to)

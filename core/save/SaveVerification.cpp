@@ -9,11 +9,13 @@
 
 namespace Quorbel::SaveVerification {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString customPrefix()
 {
-    return QStringLiteral("custom:");
+    return u"custom:"_s;
 }
 
 /// ExifTool prints "1.10" and "True" as the JSON values 1.1 and true: the same text in the file, another form here.
@@ -22,7 +24,7 @@ bool sameText(const QString& written, const QString& found)
     if (written == found)
         return true;
     const QString lower = written.toLower();
-    if (lower == QStringLiteral("true") || lower == QStringLiteral("false"))
+    if (lower == u"true"_s || lower == u"false"_s)
         return lower == found;
     const auto a = Text::parseDouble(written);
     const auto b = Text::parseDouble(found);

@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 const QList<std::pair<FieldKind, QString>>& RawValues<FieldKind>::table()
 {

@@ -1,8 +1,8 @@
 #include "core/schema/ImageRecord.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -2,9 +2,9 @@
 
 #include "core/text/Coordinates.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace Quorbel::LocationFill {
+
+using namespace Qt::StringLiterals;
 
 QList<Assignment> assignments(const Result& result, const std::function<bool(const QString&)>& isFieldEmpty)
 {

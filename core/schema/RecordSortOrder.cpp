@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <vector>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 const QList<std::pair<RecordSortOrder, QString>>& RawValues<RecordSortOrder>::table()
 {

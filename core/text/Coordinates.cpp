@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <cmath>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace Quorbel::Coordinates {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 

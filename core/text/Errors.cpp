@@ -2,26 +2,24 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Describe {
     QString operator()(const ToolError::PerlNotFound& error) const
     {
-        return QStringLiteral("Perl interpreter not found at ") + error.perlURL.toLocalFile() + u'.';
+        return u"Perl interpreter not found at "_s + error.perlURL.toLocalFile() + u'.';
     }
     QString operator()(const ToolError::ExecFailed& error) const
     {
-        return QStringLiteral("ExifTool exited with code ") + QString::number(error.code) + QStringLiteral(": ")
-            + error.standardError;
+        return u"ExifTool exited with code "_s + QString::number(error.code) + u": "_s + error.standardError;
     }
     QString operator()(const ToolError::DecodeFailed& error) const
     {
-        return QStringLiteral("Could not decode ExifTool output: ") + error.detail;
+        return u"Could not decode ExifTool output: "_s + error.detail;
     }
-    QString operator()(const ToolError::ToolNotFound&) const
-    {
-        return QStringLiteral("Bundled ExifTool could not be located.");
-    }
+    QString operator()(const ToolError::ToolNotFound&) const { return u"Bundled ExifTool could not be located."_s; }
 };
 
 }  // namespace
@@ -33,17 +31,17 @@ Error::Error(const QString& description)
 }
 
 FileError::FileError(const QString& action, const QUrl& file, const QString& reason)
-    : Error(action + QStringLiteral(" “") + file.toLocalFile() + QStringLiteral("”: ") + reason + u'.')
+    : Error(action + u" “"_s + file.toLocalFile() + u"”: "_s + reason + u'.')
 {
 }
 
 LaunchError::LaunchError(const QString& reason)
-    : Error(QStringLiteral("ExifTool could not be started: ") + reason)
+    : Error(u"ExifTool could not be started: "_s + reason)
 {
 }
 
 CancelledError::CancelledError()
-    : Error(QStringLiteral("The read was cancelled."))
+    : Error(u"The read was cancelled."_s)
 {
 }
 

@@ -5,9 +5,9 @@
 #include <QRegularExpression>
 #include <QTextBoundaryFinder>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace Quorbel::FileNaming {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 

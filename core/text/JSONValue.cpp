@@ -11,6 +11,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// From this magnitude on, a double no longer stands for one integer that is worth printing digit by digit.
@@ -122,9 +124,9 @@ std::optional<QString> JSONValue::stringValue() const
     if (const auto* number = std::get_if<double>(&payload))
         return numberText(*number);
     if (const auto* boolean = std::get_if<bool>(&payload))
-        return *boolean ? QStringLiteral("true") : QStringLiteral("false");
+        return *boolean ? u"true"_s : u"false"_s;
     if (std::holds_alternative<Array>(payload))
-        return stringArray().join(QStringLiteral(", "));
+        return stringArray().join(u", "_s);
     return std::nullopt;
 }
 

@@ -14,6 +14,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Linux allows argument lists of a quarter of the soft stack limit, up to 6 MiB; the usual 8 MiB of stack give
@@ -123,7 +125,7 @@ ToolError undecodable(const QString& reason, const QByteArray& output)
     const auto characters = QString::fromUtf8(output.left(4 * quotedCharacters)).toUcs4();
     const auto quoted = QString::fromUcs4(
         reinterpret_cast<const char32_t*>(characters.constData()), std::min(characters.size(), quotedCharacters));
-    return ToolError(ToolError::DecodeFailed{ reason + QStringLiteral(" — output: ") + quoted });
+    return ToolError(ToolError::DecodeFailed{ reason + u" — output: "_s + quoted });
 }
 
 /// A text like "1e999" is printed as a number, which no double holds and Qt refuses together with all the rest: those
@@ -167,7 +169,7 @@ QList<JSONObject> decode(QByteArray output)
     output.squeeze();  // of a hundred thousand photos this is a hundred megabytes
     auto objects = document.isArray() ? objectsFromJson(document.array()) : std::nullopt;
     if (!objects)
-        throw undecodable(QStringLiteral("not an array of objects"), output);
+        throw undecodable(u"not an array of objects"_s, output);
     return *std::move(objects);
 }
 
@@ -181,11 +183,11 @@ std::optional<QString> toolNamedByEnvironment()
 /// Where the tool may lie, for a program installed under `prefix`, best place first.
 QStringList candidates(const QString& prefix)
 {
-    QStringList list{ prefix + QStringLiteral("/share/quorbel/exiftool/exiftool") };
+    QStringList list{ prefix + u"/share/quorbel/exiftool/exiftool"_s };
     QString directory = prefix;
     for (int level = 0; level < vendorLevels; ++level) {
         directory = QFileInfo(directory).path();
-        list.append(QDir::cleanPath(directory + QStringLiteral("/vendor/exiftool/exiftool")));
+        list.append(QDir::cleanPath(directory + u"/vendor/exiftool/exiftool"_s));
     }
     return list;
 }
@@ -195,14 +197,14 @@ QStringList candidates(const QString& prefix)
 std::optional<ExifToolRunner> ExifToolRunner::locate()
 {
     // Asked of the system and not of QCoreApplication: there need not be an application object.
-    const QFileInfo program(QFile::symLinkTarget(QStringLiteral("/proc/self/exe")));
-    return locate(QDir::cleanPath(program.absolutePath() + QStringLiteral("/..")));
+    const QFileInfo program(QFile::symLinkTarget(u"/proc/self/exe"_s));
+    return locate(QDir::cleanPath(program.absolutePath() + u"/.."_s));
 }
 
 std::optional<ExifToolRunner> ExifToolRunner::locate(const QString& prefix)
 {
     const auto runner = [](const QString& tool) {
-        return ExifToolRunner{ QUrl::fromLocalFile(tool), QUrl::fromLocalFile(QStringLiteral("/usr/bin/perl")) };
+        return ExifToolRunner{ QUrl::fromLocalFile(tool), QUrl::fromLocalFile(u"/usr/bin/perl"_s) };
     };
     if (const auto tool = toolNamedByEnvironment())
         return runner(*tool);
@@ -215,16 +217,12 @@ std::optional<ExifToolRunner> ExifToolRunner::locate(const QString& prefix)
 QList<JSONObject> ExifToolRunner::read(
     const QStringList& tags, const QList<QUrl>& files, const ReadControl& control) const
 {
-    return readJSON(
-        QStringList{ QStringLiteral("-G0"), QStringLiteral("-struct"), QStringLiteral("-c"), QStringLiteral("%.6f") }
-            + options(tags),
-        files, control);
+    return readJSON(QStringList{ u"-G0"_s, u"-struct"_s, u"-c"_s, u"%.6f"_s } + options(tags), files, control);
 }
 
 QList<JSONObject> ExifToolRunner::readCustomNamespace(const QList<QUrl>& files, const ReadControl& control) const
 {
-    return readJSON(
-        { QStringLiteral("-G1"), QStringLiteral("-struct"), QStringLiteral("-XMP-Quorbel:all") }, files, control);
+    return readJSON({ u"-G1"_s, u"-struct"_s, u"-XMP-Quorbel:all"_s }, files, control);
 }
 
 QList<JSONObject> ExifToolRunner::readJSON(
@@ -235,7 +233,7 @@ QList<JSONObject> ExifToolRunner::readJSON(
     OutputWatch watch;
     if (control.progress)
         watch = FileCounter(files.size(), control.progress);
-    QByteArray output = runForBytes(QStringList{ QStringLiteral("-json") } + selection + paths(files), watch, control);
+    QByteArray output = runForBytes(QStringList{ u"-json"_s } + selection + paths(files), watch, control);
     if (!QUtf8StringView(output).isValidUtf8())
         output.clear();
     output = std::move(output).trimmed();
@@ -245,12 +243,11 @@ QList<JSONObject> ExifToolRunner::readJSON(
 QMap<QString, QString> ExifToolRunner::readErrors(const QList<QUrl>& files, const ReadControl& control) const
 {
     QMap<QString, QString> errors;
-    const Ended ended =
-        runToEnd(QStringList{ QStringLiteral("-json"), QStringLiteral("-Error") } + paths(files), {}, control);
+    const Ended ended = runToEnd(QStringList{ u"-json"_s, u"-Error"_s } + paths(files), {}, control);
     const QJsonArray objects = QJsonDocument::fromJson(ended.standardOutput).array();
     for (const auto& object : objects)
-        if (const QString reason = object[QStringLiteral("Error")].toString(); !reason.isEmpty())
-            errors.insert(object[QStringLiteral("SourceFile")].toString(), reason);
+        if (const QString reason = object[u"Error"_s].toString(); !reason.isEmpty())
+            errors.insert(object[u"SourceFile"_s].toString(), reason);
     return errors;
 }
 
@@ -271,10 +268,10 @@ QString ExifToolRunner::write(
         return {};
     QStringList arguments;
     if (configPath)  // the tool wants it before everything else
-        arguments << QStringLiteral("-config") << configPath->toLocalFile();
+        arguments << u"-config"_s << configPath->toLocalFile();
     if (!backup)
-        arguments << QStringLiteral("-overwrite_original");
-    arguments << QStringLiteral("-m") << args << paths(files);
+        arguments << u"-overwrite_original"_s;
+    arguments << u"-m"_s << args << paths(files);
     return run(arguments);
 }
 
@@ -289,7 +286,7 @@ QMap<QString, QByteArray> ExifToolRunner::readBinary(
         if (output.size() > mostOutput)
             end.request_stop();
     };
-    const QStringList selection{ QStringLiteral("-json"), QStringLiteral("-b"), QStringLiteral("-n") };
+    const QStringList selection{ u"-json"_s, u"-b"_s, u"-n"_s };
     const QByteArray output = runForBytes(
         selection + options(tags) + paths({ file }), watch, { .progress = {}, .stop = end.get_token(), .started = {} });
     const QJsonObject object = QJsonDocument::fromJson(output).array().at(0).toObject();
@@ -303,7 +300,7 @@ QMap<QString, QByteArray> ExifToolRunner::readBinary(
 
 QString ExifToolRunner::version() const
 {
-    return run({ QStringLiteral("-ver") }).trimmed();
+    return run({ u"-ver"_s }).trimmed();
 }
 
 QString ExifToolRunner::run(const QStringList& arguments) const

@@ -5,6 +5,8 @@
 
 namespace Quorbel::IptcEncoding {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What code page 1252 holds at 0x80…0x9F, by Unicode's mapping table; the rest of the page is Latin 1. Ascending.
@@ -28,18 +30,16 @@ bool fitsWindowsLatin1(const QString& text)
 
 bool needsUtf8(const QStringList& assignments)
 {
-    return std::any_of(assignments.cbegin(), assignments.cend(), [](const QString& argument) {
-        return argument.startsWith(QStringLiteral("-IPTC:")) && !fitsWindowsLatin1(argument);
-    });
+    return std::any_of(assignments.cbegin(), assignments.cend(),
+        [](const QString& argument) { return argument.startsWith(u"-IPTC:"_s) && !fitsWindowsLatin1(argument); });
 }
 
 QStringList conversionArgs()
 {
     // Times are left out: the tool would give those without a zone the one of this computer.
-    return { QStringLiteral("-tagsfromfile"), QStringLiteral("@"), QStringLiteral("-iptc:all"),
-        QStringLiteral("--iptc:TimeSent"), QStringLiteral("--iptc:ReleaseTime"),
-        QStringLiteral("--iptc:ExpirationTime"), QStringLiteral("--iptc:TimeCreated"),
-        QStringLiteral("--iptc:DigitalCreationTime"), QStringLiteral("-IPTC:CodedCharacterSet=UTF8") };
+    return { u"-tagsfromfile"_s, u"@"_s, u"-iptc:all"_s, u"--iptc:TimeSent"_s, u"--iptc:ReleaseTime"_s,
+        u"--iptc:ExpirationTime"_s, u"--iptc:TimeCreated"_s, u"--iptc:DigitalCreationTime"_s,
+        u"-IPTC:CodedCharacterSet=UTF8"_s };
 }
 
 }  // namespace Quorbel::IptcEncoding

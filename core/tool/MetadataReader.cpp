@@ -11,6 +11,8 @@
 
 namespace Quorbel::MetadataReader {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::optional<QString> text(const JSONObject& object, const QString& key)
@@ -75,8 +77,8 @@ void readFields(ImageRecord& record, const JSONObject& main)
 
 QString cameraName(const JSONObject& main)
 {
-    QStringList parts{ text(main, QStringLiteral("EXIF:Make")).value_or(QString()),
-        text(main, QStringLiteral("EXIF:Model")).value_or(QString()) };
+    QStringList parts{ text(main, u"EXIF:Make"_s).value_or(QString()),
+        text(main, u"EXIF:Model"_s).value_or(QString()) };
     parts.removeAll(QString());
     return parts.join(u' ');
 }
@@ -84,7 +86,7 @@ QString cameraName(const JSONObject& main)
 QList<CameraRow> cameraRows(const JSONObject& main)
 {
     // Make and model share the first row.
-    const QString camera = QStringLiteral("Camera");
+    const QString camera = u"Camera"_s;
     QList<CameraRow> rows;
     if (const QString name = cameraName(main); !name.isEmpty())
         rows.append({ camera, name });
@@ -118,9 +120,7 @@ QList<CustomValue> customValues(const JSONObject& custom)
 
 QStringList readTags()
 {
-    return FieldSchema::readTags()
-        + QStringList{ QStringLiteral("FileType"), QStringLiteral("ImageWidth"), QStringLiteral("ImageHeight"),
-              QStringLiteral("FileSize#") }
+    return FieldSchema::readTags() + QStringList{ u"FileType"_s, u"ImageWidth"_s, u"ImageHeight"_s, u"FileSize#"_s }
     + FieldSchema::cameraReadTags();
 }
 
@@ -130,10 +130,10 @@ ImageRecord parse(const QUrl& url, const JSONObject& main, const JSONObject& cus
     ImageRecord record;
     record.url = url;
     record.fileName = file.fileName();
-    record.fileType = text(main, QStringLiteral("File:FileType")).value_or(file.suffix().toUpper());
-    record.pixelWidth = dimension(main, QStringLiteral("File:ImageWidth"));
-    record.pixelHeight = dimension(main, QStringLiteral("File:ImageHeight"));
-    record.fileSize = integer(main, QStringLiteral("File:FileSize"));
+    record.fileType = text(main, u"File:FileType"_s).value_or(file.suffix().toUpper());
+    record.pixelWidth = dimension(main, u"File:ImageWidth"_s);
+    record.pixelHeight = dimension(main, u"File:ImageHeight"_s);
+    record.fileSize = integer(main, u"File:FileSize"_s);
     readFields(record, main);
     record.camera = cameraRows(main);
     record.custom = customValues(custom);

@@ -11,9 +11,9 @@
 #include <array>
 #include <cmath>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace Quorbel::MetadataWriter {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -197,19 +197,18 @@ std::optional<QString> customNameProblem(const QString& name)
 {
     // The keys with a meaning of their own in ExifTool's tag tables (%specialTags of its main module), as far as
     // they are letters only.
-    static const QStringList reserved{ QStringLiteral("AVOID"), QStringLiteral("DATAMEMBER"), QStringLiteral("FORMAT"),
-        QStringLiteral("GROUPS"), QStringLiteral("NAMESPACE"), QStringLiteral("NOTES"), QStringLiteral("PERMANENT"),
-        QStringLiteral("PREFERRED"), QStringLiteral("PRIORITY"), QStringLiteral("VARS"), QStringLiteral("WRITABLE") };
+    static const QStringList reserved{ u"AVOID"_s, u"DATAMEMBER"_s, u"FORMAT"_s, u"GROUPS"_s, u"NAMESPACE"_s,
+        u"NOTES"_s, u"PERMANENT"_s, u"PREFERRED"_s, u"PRIORITY"_s, u"VARS"_s, u"WRITABLE"_s };
     const auto stored = sanitizeCustomName(name);
     if (!stored)
         return std::nullopt;
     const bool ascii = std::all_of(stored->cbegin(), stored->cend(), [](QChar c) { return c.unicode() < 0x80; });
     if (!ascii)
-        return QStringLiteral("Only the letters A–Z and digits can be stored in a name.");
+        return u"Only the letters A–Z and digits can be stored in a name."_s;
     if (stored->size() == 1)
-        return QStringLiteral("A name needs at least two letters or digits.");
+        return u"A name needs at least two letters or digits."_s;
     if (reserved.contains(*stored))
-        return QStringLiteral("“%1” is a reserved word; choose another name.").arg(*stored);
+        return u"“%1” is a reserved word; choose another name."_s.arg(*stored);
     return std::nullopt;
 }
 

@@ -6,6 +6,8 @@
 
 namespace Quorbel::TagDump {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What a character stands for behind a backslash; itself, if not listed.
@@ -114,8 +116,7 @@ private:
 
 QStringList options()
 {
-    return { QStringLiteral("-php"), QStringLiteral("-G1"), QStringLiteral("-a"), QStringLiteral("-n"),
-        QStringLiteral("-b") };
+    return { u"-php"_s, u"-G1"_s, u"-a"_s, u"-n"_s, u"-b"_s };
 }
 
 QHash<QByteArray, FileTags> parse(const QByteArray& answer)
@@ -124,7 +125,7 @@ QHash<QByteArray, FileTags> parse(const QByteArray& answer)
     Reader reader(answer);
     reader.take("Array(");
     while (auto tags = reader.file()) {
-        const QList<QByteArray> path = tags->take(QStringLiteral("SourceFile"));
+        const QList<QByteArray> path = tags->take(u"SourceFile"_s);
         if (!path.isEmpty())
             files.insert(path.constFirst(), *tags);
         reader.take(",");

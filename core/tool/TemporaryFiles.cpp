@@ -8,6 +8,8 @@
 
 namespace Quorbel::TemporaryFiles {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 longestSave = 3600;  // seconds
@@ -28,21 +30,21 @@ int clear(const QDir& folder, const QString& glob, const QRegularExpression& our
 QString newConfigName()
 {
     const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
-    return QStringLiteral("quorbel-") + id + QStringLiteral(".conf");
+    return u"quorbel-"_s + id + u".conf"_s;
 }
 
 int clearAbandoned(const QString& folder, const QDateTime& now)
 {
     // Files are written under a longer name first, which a killed process leaves behind as well.
-    static const QRegularExpression ours(QStringLiteral("^quorbel-[0-9A-F-]{36}\\.conf(\\.\\w{6})?$"));
-    return clear(QDir(folder), QStringLiteral("quorbel-*.conf*"), ours, now);
+    static const QRegularExpression ours(u"^quorbel-[0-9A-F-]{36}\\.conf(\\.\\w{6})?$"_s);
+    return clear(QDir(folder), u"quorbel-*.conf*"_s, ours, now);
 }
 
 int clearHalfWritten(const QString& path, const QDateTime& now)
 {
     const QFileInfo file(path);
-    const QRegularExpression ours(u'^' + QRegularExpression::escape(file.fileName()) + QStringLiteral("\\.\\w{6}$"));
-    return clear(file.dir(), QStringLiteral("*.??????"), ours, now);
+    const QRegularExpression ours(u'^' + QRegularExpression::escape(file.fileName()) + u"\\.\\w{6}$"_s);
+    return clear(file.dir(), u"*.??????"_s, ours, now);
 }
 
 }  // namespace Quorbel::TemporaryFiles

@@ -4,10 +4,12 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 QList<FileFailure> writeFailures(const QString& standardError, const QList<QUrl>& targets)
 {
-    const QString prefix = QStringLiteral("Error: ");
-    const QString separator = QStringLiteral(" - ");
+    const QString prefix = u"Error: "_s;
+    const QString separator = u" - "_s;
     QHash<QString, QString> reasons;
     for (const auto& line : standardError.split(u'\n', Qt::SkipEmptyParts)) {
         if (!line.startsWith(prefix))

@@ -37,7 +37,7 @@ ImageModule ImageModule::load(const QString& file)
 const ImageModule& ImageModule::loaded()
 {
     static const ImageModule module = load(QDir::cleanPath(
-        QCoreApplication::applicationDirPath() + QLatin1Char('/') + QStringLiteral(QUORBEL_IMAGE_MODULE)));
+        QCoreApplication::applicationDirPath() + QLatin1Char('/') + QString::fromUtf8(QUORBEL_IMAGE_MODULE)));
     return module;
 }
 

@@ -10,6 +10,8 @@
 #include <cmath>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
+
 using namespace Quorbel::Test;
 
 namespace {
@@ -33,7 +35,7 @@ void write(const EditPlan& plan, const QUrl& photo, const WriteOptions& options 
 /// "XMP-dc:Title" as the key under which ExifTool prints it with group-0 names.
 QString printedKey(QString tag)
 {
-    return tag.replace(QRegularExpression(QStringLiteral("^XMP-[^:]+")), QStringLiteral("XMP"));
+    return tag.replace(QRegularExpression(u"^XMP-[^:]+"_s), u"XMP"_s);
 }
 
 /// exiv2's name for a write tag.
@@ -54,13 +56,13 @@ QString exiv2Key(const QString& tag)
     if (group == QLatin1String("EXIF"))
         return names.value(tag);
     if (group == QLatin1String("IPTC"))
-        return QStringLiteral("Iptc.Application2.") + names.value(tag, name);
-    const QString prefix = group == QLatin1String("XMP") ? QStringLiteral("xmp")
-        : group == QLatin1String("XMP-iptcCore")         ? QStringLiteral("iptc")
+        return u"Iptc.Application2."_s + names.value(tag, name);
+    const QString prefix = group == QLatin1String("XMP") ? u"xmp"_s
+        : group == QLatin1String("XMP-iptcCore")         ? u"iptc"_s
                                                          : group.mid(4);
     if (prefix == QLatin1String("dc"))
         name[0] = name[0].toLower();
-    return QStringLiteral("Xmp.") + prefix + u'.' + name;
+    return u"Xmp."_s + prefix + u'.' + name;
 }
 
 /// A value of its own for each scalar field, in the form in which it is typed.
@@ -68,33 +70,32 @@ QString typedValue(const FieldSpec& field)
 {
     switch (field.kind) {
     case FieldKind::date:
-        return field.id == QLatin1String("date") ? QStringLiteral("2023-05-01 14:30")
-                                                 : QStringLiteral("2024-02-29 08:05");
+        return field.id == QLatin1String("date") ? u"2023-05-01 14:30"_s : u"2024-02-29 08:05"_s;
     case FieldKind::rating:
-        return QStringLiteral("4");
+        return u"4"_s;
     case FieldKind::offset:
-        return field.id == QLatin1String("offsetOriginal") ? QStringLiteral("+05:45") : QStringLiteral("-03:30");
+        return field.id == QLatin1String("offsetOriginal") ? u"+05:45"_s : u"-03:30"_s;
     case FieldKind::multiline:
-        return QStringLiteral("First \"line\", $HOME\nsecond & <last>");
+        return u"First \"line\", $HOME\nsecond & <last>"_s;
     default:
         break;
     }
     static const QMap<QString, QString> fixed{ { "coords", "48.858370, 2.294481" }, { "category", "SPO" },
         { "urgency", "3" }, { "scene", "011221" } };
-    return fixed.value(field.id, field.label + QStringLiteral(" \\ 'of' the = photo"));
+    return fixed.value(field.id, field.label + u" \\ 'of' the = photo"_s);
 }
 
 /// What ExifTool stores for a typed value.
 QString storedValue(const FieldSpec& field)
 {
     const QString typed = typedValue(field);
-    return field.kind == FieldKind::date ? QString(typed).replace(u'-', u':') + QStringLiteral(":00") : typed;
+    return field.kind == FieldKind::date ? QString(typed).replace(u'-', u':') + u":00"_s : typed;
 }
 
 QString exiv2Text(const QMap<QString, QStringList>& values, const QString& key)
 {
-    QString text = values.value(key).join(QStringLiteral(", "));
-    return text.remove(QStringLiteral("lang=\"x-default\" "));
+    QString text = values.value(key).join(u", "_s);
+    return text.remove(u"lang=\"x-default\" "_s);
 }
 
 double degrees(const QString& rationals)
@@ -113,8 +114,7 @@ EditPlan planOfAllFields()
     EditPlan plan;
     for (const auto& field : FieldSchema::all()) {
         if (field.isList())
-            plan.lists[field.id] =
-                QStringList{ field.id + QStringLiteral(" one"), QStringLiteral("two's"), QStringLiteral("3") };
+            plan.lists[field.id] = QStringList{ field.id + u" one"_s, u"two's"_s, u"3"_s };
         else
             plan.scalars[field.id] = typedValue(field);
     }
@@ -127,7 +127,7 @@ class tst_MetadataFiles : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+    void initTestCase() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
 
     void everyField_data()
     {
@@ -160,13 +160,13 @@ private slots:
                 const auto stored = JSONValue::fromJson(byExifTool.value(printedKey(tag)));
                 QString other = exiv2Text(byExiv2, exiv2Key(tag));
                 const QString expected = !held ? QString()
-                    : field.isList()           ? plan.lists[field.id].join(QStringLiteral(", "))
+                    : field.isList()           ? plan.lists[field.id].join(u", "_s)
                                                : storedValue(field);
                 if (field.kind == FieldKind::date && tag.startsWith(QLatin1String("XMP")))
                     other.replace(u'-', u':').replace(u'T', u' ');  // XMP's own form
                 QVERIFY2(stored.stringValue().value_or(QString()) == expected,
-                    qPrintable(tag + QStringLiteral(" is, for ExifTool: ") + stored.stringValue().value_or(QString())));
-                QVERIFY2(other == expected, qPrintable(tag + QStringLiteral(" is, for exiv2: ") + other));
+                    qPrintable(tag + u" is, for ExifTool: "_s + stored.stringValue().value_or(QString())));
+                QVERIFY2(other == expected, qPrintable(tag + u" is, for exiv2: "_s + other));
                 tagsSeen += held;
             }
             const bool readable = field.id != QLatin1String("category") || holdsIptc;  // in IPTC alone
@@ -181,13 +181,13 @@ private slots:
     void deletesWhatIsEmptied()
     {
         const PhotoFolder folder;
-        const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+        const QUrl photo = folder.add(u"a.jpg"_s);
         EditPlan plan = planOfAllFields();
         write(plan, photo);
         for (auto& value : plan.scalars)
             value.clear();
         for (auto& items : plan.lists)
-            items = QStringList{ QStringLiteral("  ") };
+            items = QStringList{ u"  "_s };
         write(plan, photo);
         const auto record = readOne(photo);
         QVERIFY(record.values.isEmpty());
@@ -196,7 +196,7 @@ private slots:
         for (const auto& field : FieldSchema::all())
             for (const auto& tag : field.writeTags)
                 QVERIFY2(!left.contains(exiv2Key(tag)), qPrintable(tag));
-        QVERIFY(!left.contains(QStringLiteral("Exif.GPSInfo.GPSLatitude")));
+        QVERIFY(!left.contains(u"Exif.GPSInfo.GPSLatitude"_s));
     }
 
     void positions()
@@ -218,14 +218,14 @@ private slots:
         }
         const auto records = service().read(photos);
         for (qsizetype i = 0; i < photos.size(); ++i) {
-            QCOMPARE(records[i].values.value(QStringLiteral("coords")), texts[i]);
+            QCOMPARE(records[i].values.value(u"coords"_s), texts[i]);
             const auto values = exiv2Values(photos[i]);
             const auto value = [&](const char* name) {
-                return values.value(QStringLiteral("Exif.GPSInfo.GPS") + QLatin1String(name)).value(0);
+                return values.value(u"Exif.GPSInfo.GPS"_s + QLatin1String(name)).value(0);
             };
             const auto [latitude, longitude] = positions[i];
-            QCOMPARE(value("LatitudeRef"), latitude < 0 ? QStringLiteral("S") : QStringLiteral("N"));
-            QCOMPARE(value("LongitudeRef"), longitude < 0 ? QStringLiteral("W") : QStringLiteral("E"));
+            QCOMPARE(value("LatitudeRef"), latitude < 0 ? u"S"_s : u"N"_s);
+            QCOMPARE(value("LongitudeRef"), longitude < 0 ? u"W"_s : u"E"_s);
             QVERIFY(std::abs(degrees(value("Latitude")) - std::abs(latitude)) < 1e-6);
             QVERIFY(std::abs(degrees(value("Longitude")) - std::abs(longitude)) < 1e-6);
         }
@@ -234,8 +234,8 @@ private slots:
     void lists()
     {
         const PhotoFolder folder;
-        const QUrl photo = folder.add(QStringLiteral("a.jpg"));
-        const auto keywords = [&] { return readOne(photo).lists.value(QStringLiteral("keywords")); };
+        const QUrl photo = folder.add(u"a.jpg"_s);
+        const auto keywords = [&] { return readOne(photo).lists.value(u"keywords"_s); };
         const auto save = [&](const QStringList& items, MetadataWriter::ListMode mode) {
             write({ .lists = { { "keywords", items } }, .listMode = mode }, photo);
         };
@@ -250,19 +250,19 @@ private slots:
         QCOMPARE(keywords().size(), 4);
         save({ "z", "a" }, MetadataWriter::ListMode::replace);
         QCOMPARE(keywords(), (QStringList{ "z", "a" }));
-        QCOMPARE(exiv2Values(photo).value(QStringLiteral("Iptc.Application2.Keywords")), (QStringList{ "z", "a" }));
-        QCOMPARE(exiv2Values(photo).value(QStringLiteral("Xmp.dc.subject")), QStringList{ "z, a" });
+        QCOMPARE(exiv2Values(photo).value(u"Iptc.Application2.Keywords"_s), (QStringList{ "z", "a" }));
+        QCOMPARE(exiv2Values(photo).value(u"Xmp.dc.subject"_s), QStringList{ "z, a" });
     }
 
     void customs()
     {
         const TemporaryFilesProbe temporary;
         const PhotoFolder folder;
-        const QUrl photo = folder.add(QStringLiteral("a.png"));
+        const QUrl photo = folder.add(u"a.png"_s);
         write({ .customs = { { "Project code", "Zürich 東京" }, { "Mood", "= calm" }, { "!!!", "nowhere" } } }, photo);
         QCOMPARE(readOne(photo).custom, (QList<CustomValue>{ { "Mood", "= calm" }, { "Projectcode", "Zürich 東京" } }));
         QVERIFY(readFile(photo.toLocalFile()).contains("http://quorbel.app/ns/1.0/"));
-        QCOMPARE(exiv2Values(photo).value(QStringLiteral("Xmp.Quorbel.Projectcode")), QStringList{ "Zürich 東京" });
+        QCOMPARE(exiv2Values(photo).value(u"Xmp.Quorbel.Projectcode"_s), QStringList{ "Zürich 東京" });
         write({ .customs = { { "Mood", "" } } }, photo);
         QCOMPARE(readOne(photo).custom, (QList<CustomValue>{ { "Projectcode", "Zürich 東京" } }));
         QCOMPARE(temporary.names(), QStringList{ folder.path().section(u'/', -1) });
@@ -272,21 +272,19 @@ private slots:
     {
         const PhotoFolder folder;
         const QByteArray original = jpegBytes(300, 200);
-        const QUrl photo = folder.add(QStringLiteral("IMG %d1.JPG"), original);
+        const QUrl photo = folder.add(u"IMG %d1.JPG"_s, original);
         write({ .scalars = { { "headline", "Alps" } } }, photo, { .backupOriginals = true, .writeSidecar = true });
         QCOMPARE(folder.names(), (QStringList{ "IMG %d1.JPG", "IMG %d1.JPG_original", "IMG %d1.xmp" }));
-        QCOMPARE(readFile(folder.path(QStringLiteral("IMG %d1.JPG_original"))), original);
+        QCOMPARE(readFile(folder.path(u"IMG %d1.JPG_original"_s)), original);
         write({ .scalars = { { "headline", "Andes" } } }, photo, { .backupOriginals = false, .writeSidecar = true });
-        QCOMPARE(
-            exiftoolValues(folder.url(QStringLiteral("IMG %d1.xmp"))).value(QStringLiteral("XMP:Headline")).toString(),
-            QStringLiteral("Andes"));
-        service().renameFile(photo, folder.url(QStringLiteral("b.jpg")));
+        QCOMPARE(exiftoolValues(folder.url(u"IMG %d1.xmp"_s)).value(u"XMP:Headline"_s).toString(), u"Andes"_s);
+        service().renameFile(photo, folder.url(u"b.jpg"_s));
         QCOMPARE(folder.names(), (QStringList{ "b.jpg", "b.jpg_original", "b.xmp" }));
-        const auto record = readOne(folder.url(QStringLiteral("b.jpg")));
-        QCOMPARE(record.sidebarLine().section(u' ', 0, 0), QStringLiteral("300×200"));
-        QCOMPARE(record.fileSize.value_or(-1), QFileInfo(folder.path(QStringLiteral("b.jpg"))).size());
-        QCOMPARE(record.contentModificationDate.value_or(QDateTime()),
-            QFileInfo(folder.path(QStringLiteral("b.jpg"))).lastModified());
+        const auto record = readOne(folder.url(u"b.jpg"_s));
+        QCOMPARE(record.sidebarLine().section(u' ', 0, 0), u"300×200"_s);
+        QCOMPARE(record.fileSize.value_or(-1), QFileInfo(folder.path(u"b.jpg"_s)).size());
+        QCOMPARE(
+            record.contentModificationDate.value_or(QDateTime()), QFileInfo(folder.path(u"b.jpg"_s)).lastModified());
     }
 
     void oddNamesAndTexts()
@@ -298,14 +296,14 @@ private slots:
         for (const auto& name : names)
             photos.append(folder.add(name));
         // Texts that JSON takes for numbers, some of which no number type holds.
-        const QString title = QStringLiteral("1e999");
-        const QString description = QStringLiteral("\\\"1e999\": -1E-999, \\");
+        const QString title = u"1e999"_s;
+        const QString description = u"\\\"1e999\": -1E-999, \\"_s;
         service().write({ .scalars = { { "title", title }, { "description", description } } }, photos, {});
         const auto records = service().read(photos);
         for (qsizetype i = 0; i < photos.size(); ++i) {
             QCOMPARE(records[i].fileName, names[i]);
-            QCOMPARE(records[i].values.value(QStringLiteral("title")), title);
-            QCOMPARE(records[i].values.value(QStringLiteral("description")), description);
+            QCOMPARE(records[i].values.value(u"title"_s), title);
+            QCOMPARE(records[i].values.value(u"description"_s), description);
         }
         QCOMPARE(folder.names().size(), names.size());
     }
@@ -313,13 +311,13 @@ private slots:
     void failuresKeepFiles()
     {
         const PhotoFolder folder;
-        const QUrl good = folder.add(QStringLiteral("good.jpg"));
-        const QUrl empty = folder.add(QStringLiteral("empty.jpg"), {});
-        const QUrl text = folder.add(QStringLiteral("text.jpg"), "not an image");
+        const QUrl good = folder.add(u"good.jpg"_s);
+        const QUrl empty = folder.add(u"empty.jpg"_s, {});
+        const QUrl text = folder.add(u"text.jpg"_s, "not an image");
         QVERIFY_THROWS_EXCEPTION(ToolError, service().read({ good, empty }));
         QVERIFY_THROWS_EXCEPTION(ToolError, service().write({ .scalars = { { "title", "x" } } }, { good, text }, {}));
         QCOMPARE(readFile(text.toLocalFile()), QByteArray("not an image"));
-        QCOMPARE(readOne(good).values.value(QStringLiteral("title")), QStringLiteral("x"));
+        QCOMPARE(readOne(good).values.value(u"title"_s), u"x"_s);
         QCOMPARE(folder.names().size(), 3);
         // The photo goes away between the two runs.
         const auto vanish = [&](qsizetype) { QFile::remove(good.toLocalFile()); };

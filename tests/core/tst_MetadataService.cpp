@@ -7,6 +7,8 @@
 #include <QTest>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
+
 using namespace Quorbel::Test;
 
 namespace {
@@ -20,7 +22,7 @@ QStringList titles(const QList<ImageRecord>& records)
 {
     QStringList list;
     for (const auto& record : records)
-        list.append(record.values.value(QStringLiteral("title"), QStringLiteral("-")));
+        list.append(record.values.value(u"title"_s, u"-"_s));
     return list;
 }
 
@@ -42,13 +44,12 @@ class tst_MetadataService : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+    void initTestCase() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
 
     void readsInTwoRuns()
     {
         FakeTool tool;
-        const QList<QUrl> urls{ QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")),
-            QUrl::fromLocalFile(QStringLiteral("/p/b.jpg")) };
+        const QList<QUrl> urls{ QUrl::fromLocalFile(u"/p/a.jpg"_s), QUrl::fromLocalFile(u"/p/b.jpg"_s) };
         const auto records = MetadataService{ tool.runner() }.read(urls);
         QStringList main{ "-json", "-G0", "-struct", "-c", "%.6f" };
         for (const auto& tag : MetadataReader::readTags())
@@ -57,8 +58,8 @@ private slots:
             (QList<QStringList>{ main + QStringList{ "/p/a.jpg", "/p/b.jpg" },
                 { "-json", "-G1", "-struct", "-XMP-Quorbel:all", "/p/a.jpg", "/p/b.jpg" } }));
         QCOMPARE(records.size(), 2);  // silence: records that hold names only
-        QCOMPARE(records[1].fileName, QStringLiteral("b.jpg"));
-        QCOMPARE(records[1].fileType, QStringLiteral("JPG"));
+        QCOMPARE(records[1].fileName, u"b.jpg"_s);
+        QCOMPARE(records[1].fileType, u"JPG"_s);
         QVERIFY(!records[1].contentModificationDate);
         QVERIFY(MetadataService{ tool.runner() }.read({}).isEmpty());
         QCOMPARE(tool.calls().size(), 2);
@@ -92,8 +93,8 @@ private slots:
         tool.answer(2,
             { .standardOutput = toolJson({ { { "SourceFile", "/p/z.jpg" }, { "XMP-Quorbel:Mood", "lost" } },
                   { { "SourceFile", "/p/c.jpg" }, { "XMP-Quorbel:Mood", "calm" } } }) });
-        const auto records = MetadataService{ tool.runner() }.read({ QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")),
-            QUrl::fromLocalFile(QStringLiteral("/p/b.jpg")), QUrl::fromLocalFile(QStringLiteral("/p/c.jpg")) });
+        const auto records = MetadataService{ tool.runner() }.read({ QUrl::fromLocalFile(u"/p/a.jpg"_s),
+            QUrl::fromLocalFile(u"/p/b.jpg"_s), QUrl::fromLocalFile(u"/p/c.jpg"_s) });
         QCOMPARE(titles(records), expected);
         QVERIFY(records[0].custom.isEmpty() && records[1].custom.isEmpty());
         QCOMPARE(records[2].custom, (QList<CustomValue>{ { "Mood", "calm" } }));
@@ -101,7 +102,7 @@ private slots:
 
     void eitherRunCanFailARead()
     {
-        const QList<QUrl> urls{ QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")) };
+        const QList<QUrl> urls{ QUrl::fromLocalFile(u"/p/a.jpg"_s) };
         for (const int failing : { 1, 2 }) {
             FakeTool tool;
             tool.answerAlways({ .standardOutput = toolJson({ titled("/p/a.jpg", "A") }) });
@@ -151,17 +152,15 @@ private slots:
         const TemporaryFilesProbe temporary;
         tool.answerAlways({ .standardError = "a sidecar's failure", .exitCode = 1 });
         tool.answer(1, { .standardOutput = "2 image files updated\n" });
-        const QString output = MetadataService{ tool.runner() }.write(plan,
-            { QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")), QUrl::fromLocalFile(QStringLiteral("/p/b.c.png")) },
-            options);
-        QCOMPARE(output, calls.isEmpty() ? QString() : QStringLiteral("2 image files updated\n"));
+        const QString output = MetadataService{ tool.runner() }.write(
+            plan, { QUrl::fromLocalFile(u"/p/a.jpg"_s), QUrl::fromLocalFile(u"/p/b.c.png"_s) }, options);
+        QCOMPARE(output, calls.isEmpty() ? QString() : u"2 image files updated\n"_s);
         auto made = tool.calls();
         if (!made.isEmpty() && made.first().first() == QLatin1String("-config")) {
-            static const QRegularExpression name(
-                QStringLiteral("/quorbel-[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\.conf$"));
+            static const QRegularExpression name(u"/quorbel-[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\.conf$"_s);
             QVERIFY2(made.first()[1].startsWith(temporary.path()) && name.match(made.first()[1]).hasMatch(),
                 qPrintable(made.first()[1]));
-            made.first()[1] = QStringLiteral("CONFIG");
+            made.first()[1] = u"CONFIG"_s;
             QCOMPARE(tool.config(1), "600\n" + MetadataWriter::customConfig({ "A", "My mood" }).toUtf8());
         }
         QCOMPARE(made, calls);
@@ -173,13 +172,13 @@ private slots:
     {
         FakeTool tool;
         const TemporaryFilesProbe temporary;
-        const QList<QUrl> targets{ QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")) };
+        const QList<QUrl> targets{ QUrl::fromLocalFile(u"/p/a.jpg"_s) };
         const EditPlan plan{ .customs = { { "Mood", "calm" } } };
         tool.answer(1, { .standardOutput = "half", .signal = 9 });
         QVERIFY(failsWith(9, [&] { MetadataService{ tool.runner() }.write(plan, targets, { false, true }); }));
         QCOMPARE(tool.calls().size(), 1);  // no sidecar after a failed write
         auto withoutPerl = tool.runner();
-        withoutPerl.perlURL = QUrl::fromLocalFile(QStringLiteral("/nowhere/perl"));
+        withoutPerl.perlURL = QUrl::fromLocalFile(u"/nowhere/perl"_s);
         QVERIFY_THROWS_EXCEPTION(ToolError, MetadataService{ withoutPerl }.write(plan, targets, {}));
         QCOMPARE(temporary.names(), QStringList{});
     }
@@ -193,7 +192,7 @@ private slots:
             QString text;
             try {
                 MetadataService{ tool.runner() }.write(
-                    { .customs = { { "Mood", "calm" } } }, { QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")) }, {});
+                    { .customs = { { "Mood", "calm" } } }, { QUrl::fromLocalFile(u"/p/a.jpg"_s) }, {});
             } catch (const FileError& error) {
                 text = error.description();
             }
@@ -227,15 +226,15 @@ private slots:
         for (const auto& name : before)
             folder.add(name, name.toUtf8());
         const MetadataService service;
-        const bool moves = after.contains(QStringLiteral("b.jpg=a.jpg"));
+        const bool moves = after.contains(u"b.jpg=a.jpg"_s);
         QString error;
         try {
-            service.renameFile(folder.url(QStringLiteral("a.jpg")), folder.url(QStringLiteral("b.jpg")));
+            service.renameFile(folder.url(u"a.jpg"_s), folder.url(u"b.jpg"_s));
         } catch (const FileError& failure) {
             error = failure.description();
         }
         QCOMPARE(error.isEmpty(), moves);
-        QVERIFY(moves || error.contains(folder.path(QStringLiteral("a.jpg"))));
+        QVERIFY(moves || error.contains(folder.path(u"a.jpg"_s)));
         QStringList found;
         for (const auto& name : folder.names())
             found.append(name + u'=' + QString::fromUtf8(readFile(folder.path(name))));

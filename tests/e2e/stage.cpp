@@ -12,6 +12,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A line of hills across the picture, its crest at about `height` of the picture's own.
@@ -52,7 +54,7 @@ QImage landscape(int i, int count)
 int makePhotos(const QString& folder, int count)
 {
     for (int i = 0; i < count; ++i)
-        if (!landscape(i, count).save(QStringLiteral("%1/photo %2.jpg").arg(folder).arg(i + 1), "JPEG", 90))
+        if (!landscape(i, count).save(u"%1/photo %2.jpg"_s.arg(folder).arg(i + 1), "JPEG", 90))
             return 1;
     return 0;
 }
@@ -88,11 +90,11 @@ int main(int argc, char* argv[])
     const QApplication app(argc, argv);
     const QStringList arguments = QApplication::arguments();
     const QString command = arguments.value(1);
-    if (command == QStringLiteral("photos"))
+    if (command == u"photos"_s)
         return makePhotos(arguments.value(2), arguments.value(3).toInt());
-    if (command == QStringLiteral("grab"))
+    if (command == u"grab"_s)
         return QGuiApplication::primaryScreen()->grabWindow(0).save(arguments.value(2)) ? 0 : 1;
-    if (command != QStringLiteral("drag"))
+    if (command != u"drag"_s)
         return 2;
     DragSource source(QUrl::fromLocalFile(arguments.value(2)));
     source.show();

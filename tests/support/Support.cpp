@@ -13,6 +13,8 @@
 
 namespace Quorbel::Test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void require(bool condition, const QString& what)
@@ -38,15 +40,13 @@ public:
     {
         if (m_process.state() == QProcess::NotRunning)
             start();
-        const QStringList lines = arguments
-            + QStringList{ QStringLiteral("-echo3"), QStringLiteral("status ${status}"),
-                  QStringLiteral("-execute1\n") };
+        const QStringList lines = arguments + QStringList{ u"-echo3"_s, u"status ${status}"_s, u"-execute1\n"_s };
         m_process.write(lines.join(u'\n').toUtf8());
         const QByteArray end("\n{ready1}\n");
         QByteArray output;
         while (!output.endsWith(end)) {
             const bool isMore = m_process.bytesAvailable() > 0 || m_process.waitForReadyRead(60'000);
-            require(isMore, QStringLiteral("no answer to ") + arguments.join(u' '));
+            require(isMore, u"no answer to "_s + arguments.join(u' '));
             output += m_process.readAllStandardOutput();
         }
         output.chop(end.size());
@@ -63,9 +63,8 @@ private:
     {
         m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
         m_process.start(realTool().perlURL.toLocalFile(),
-            { realTool().exiftoolURL.toLocalFile(), QStringLiteral("-stay_open"), QStringLiteral("True"),
-                QStringLiteral("-@"), QStringLiteral("-") });
-        require(m_process.waitForStarted(), QStringLiteral("ExifTool does not start"));
+            { realTool().exiftoolURL.toLocalFile(), u"-stay_open"_s, u"True"_s, u"-@"_s, u"-"_s });
+        require(m_process.waitForStarted(), u"ExifTool does not start"_s);
     }
 
     QProcess m_process;
@@ -240,7 +239,7 @@ QStringList realPhotos(const QString& kind, qsizetype most)
     QStringList paths;
     if (!root.isEmpty())
         for (const auto& name : folder.entryList(QDir::Files))
-            if (name != QStringLiteral("MANIFEST.tsv"))
+            if (name != u"MANIFEST.tsv"_s)
                 paths.append(folder.filePath(name));
     if (qEnvironmentVariableIsSet("QUORBEL_SLOW_TESTS") || paths.size() <= most)
         return paths;
@@ -254,8 +253,7 @@ QList<QUrl> copied(const QStringList& paths, const PhotoFolder& folder)
 {
     QList<QUrl> copies;
     for (const auto& path : paths)
-        copies.append(
-            folder.add(QStringLiteral("%1-%2").arg(copies.size()).arg(QFileInfo(path).fileName()), readFile(path)));
+        copies.append(folder.add(u"%1-%2"_s.arg(copies.size()).arg(QFileInfo(path).fileName()), readFile(path)));
     return copies;
 }
 
@@ -278,37 +276,34 @@ ExifToolRunner realTool()
     const QString share = qEnvironmentVariable("QUORBEL_TEST_SHARE");
     if (share.isEmpty()) {
         const auto located = ExifToolRunner::locate();
-        require(located.has_value(), QStringLiteral("ExifTool not found"));
+        require(located.has_value(), u"ExifTool not found"_s);
         return *located;
     }
-    return { QUrl::fromLocalFile(share + QStringLiteral("/exiftool/exiftool")),
-        QUrl::fromLocalFile(QStringLiteral("/usr/bin/perl")) };
+    return { QUrl::fromLocalFile(share + u"/exiftool/exiftool"_s), QUrl::fromLocalFile(u"/usr/bin/perl"_s) };
 }
 
 QByteArray exiftool(const QStringList& arguments)
 {
     // What a line of its own cannot say to the tool that stays is left to one that is started for it.
-    static const QRegularExpression unlisted(QStringLiteral("^(-config|#.*|\\s.*|)$|\n"));
+    static const QRegularExpression unlisted(u"^(-config|#.*|\\s.*|)$|\n"_s);
     const bool isListed = arguments.filter(unlisted).isEmpty();
     static auto* const staying = new StayingTool;  // ends with the program
-    return isListed
-        ? staying->run(arguments)
-        : run(QStringLiteral("/usr/bin/perl"), QStringList{ realTool().exiftoolURL.toLocalFile() } + arguments);
+    return isListed ? staying->run(arguments)
+                    : run(u"/usr/bin/perl"_s, QStringList{ realTool().exiftoolURL.toLocalFile() } + arguments);
 }
 
 QJsonObject exiftoolValues(const QUrl& file)
 {
-    const auto json = exiftool({ QStringLiteral("-json"), QStringLiteral("-G0"), QStringLiteral("-struct"),
-        QStringLiteral("-c"), QStringLiteral("%+.6f"), file.toLocalFile() });
+    const auto json = exiftool({ u"-json"_s, u"-G0"_s, u"-struct"_s, u"-c"_s, u"%+.6f"_s, file.toLocalFile() });
     return QJsonDocument::fromJson(json).array().first().toObject();
 }
 
 QMap<QString, QStringList> exiv2Values(const QUrl& file)
 {
     // Key and plain value; exiv2's warnings about unknown fields are not of interest. Exit 253: no metadata.
-    const QString output = QString::fromUtf8(run(
-        QStringLiteral("exiv2"), { QStringLiteral("-q"), QStringLiteral("-PEIXkv"), file.toLocalFile() }, { 0, 253 }));
-    static const QRegularExpression line(QStringLiteral("^((?:Exif|Iptc|Xmp)\\.\\S+) *(.*)$"));
+    const QString output =
+        QString::fromUtf8(run(u"exiv2"_s, { u"-q"_s, u"-PEIXkv"_s, file.toLocalFile() }, { 0, 253 }));
+    static const QRegularExpression line(u"^((?:Exif|Iptc|Xmp)\\.\\S+) *(.*)$"_s);
     QMap<QString, QStringList> values;
     QString key;
     for (const auto& text : output.split(u'\n')) {
@@ -327,13 +322,13 @@ QByteArray toolJson(const QList<QJsonObject>& objects)
 {
     QList<QByteArray> printed;
     for (QJsonObject object : objects) {
-        const auto source = object.take(QStringLiteral("SourceFile"));
+        const auto source = object.take(u"SourceFile"_s);
         QList<QByteArray> members;
         const auto add = [&members](const QString& key, const QJsonValue& value) {
             const auto pair = QJsonDocument(QJsonObject{ { key, value } }).toJson(QJsonDocument::Compact);
             members.append("  " + pair.mid(1, pair.size() - 2));
         };
-        add(QStringLiteral("SourceFile"), source);
+        add(u"SourceFile"_s, source);
         members.last().replace("\":", "\": ");
         for (auto it = object.constBegin(); it != object.constEnd(); ++it)
             add(it.key(), it.value());
@@ -350,29 +345,29 @@ FakeTool::FakeTool()
 
 void FakeTool::answer(int run, const Answer& answer)
 {
-    store(QStringLiteral("answer-%1").arg(calls().size() + run), answer);
+    store(u"answer-%1"_s.arg(calls().size() + run), answer);
 }
 
 void FakeTool::answerAlways(const Answer& answer)
 {
-    store(QStringLiteral("answer-always"), answer);
+    store(u"answer-always"_s, answer);
 }
 
 void FakeTool::release()
 {
-    writeFile(m_directory.filePath(QStringLiteral("released")), {});
+    writeFile(m_directory.filePath(u"released"_s), {});
 }
 
 ExifToolRunner FakeTool::runner() const
 {
-    return { QUrl::fromLocalFile(scriptPath()), QUrl::fromLocalFile(QStringLiteral("/usr/bin/perl")) };
+    return { QUrl::fromLocalFile(scriptPath()), QUrl::fromLocalFile(u"/usr/bin/perl"_s) };
 }
 
 QList<QStringList> FakeTool::calls() const
 {
     QList<QStringList> calls;
     for (int n = 1;; ++n) {
-        const QString path = m_directory.filePath(QStringLiteral("call-%1/arguments").arg(n));
+        const QString path = m_directory.filePath(u"call-%1/arguments"_s.arg(n));
         if (!QFileInfo::exists(path))
             return calls;
         auto arguments = QString::fromUtf8(readFile(path)).split(QChar(u'\0'));
@@ -383,7 +378,7 @@ QList<QStringList> FakeTool::calls() const
 
 QByteArray FakeTool::config(int run) const
 {
-    const QString path = m_directory.filePath(QStringLiteral("call-%1/config").arg(run));
+    const QString path = m_directory.filePath(u"call-%1/config"_s.arg(run));
     return QFileInfo::exists(path) ? readFile(path) : QByteArray();
 }
 
@@ -391,17 +386,17 @@ void FakeTool::store(const QString& name, const Answer& answer)
 {
     const QString directory = m_directory.filePath(name) + u'/';
     require(QDir().mkpath(directory), directory);
-    writeFile(directory + QStringLiteral("stdout"), answer.standardOutput);
-    writeFile(directory + QStringLiteral("stderr"), answer.standardError);
-    writeFile(directory + QStringLiteral("exit"), QByteArray::number(answer.exitCode));
-    writeFile(directory + QStringLiteral("signal"), QByteArray::number(answer.signal));
-    writeFile(directory + QStringLiteral("noise"), QByteArray::number(answer.noiseBytes));
-    writeFile(directory + QStringLiteral("piece"), QByteArray::number(answer.pieceSize));
-    writeFile(directory + QStringLiteral("removes"), QFile::encodeName(answer.removes));
+    writeFile(directory + u"stdout"_s, answer.standardOutput);
+    writeFile(directory + u"stderr"_s, answer.standardError);
+    writeFile(directory + u"exit"_s, QByteArray::number(answer.exitCode));
+    writeFile(directory + u"signal"_s, QByteArray::number(answer.signal));
+    writeFile(directory + u"noise"_s, QByteArray::number(answer.noiseBytes));
+    writeFile(directory + u"piece"_s, QByteArray::number(answer.pieceSize));
+    writeFile(directory + u"removes"_s, QFile::encodeName(answer.removes));
     if (answer.holds)
-        writeFile(directory + QStringLiteral("holds"), {});
+        writeFile(directory + u"holds"_s, {});
     if (answer.deaf)
-        writeFile(directory + QStringLiteral("deaf"), {});
+        writeFile(directory + u"deaf"_s, {});
 }
 
 }  // namespace Quorbel::Test

@@ -13,6 +13,8 @@
 
 namespace Quorbel::Test {
 
+using namespace Qt::StringLiterals;
+
 /// Small, valid, decodable images without metadata: grey (JPEG), black (PNG, TIFF), one pixel (WebP).
 QByteArray jpegBytes(int width = 8, int height = 8);
 QByteArray pngBytes(int width = 8, int height = 8);
@@ -97,7 +99,7 @@ public:
     void release();
 
     ExifToolRunner runner() const;
-    QString scriptPath() const { return m_directory.filePath(QStringLiteral("exiftool")); }
+    QString scriptPath() const { return m_directory.filePath(u"exiftool"_s); }
     /// The arguments of each run so far, in order.
     QList<QStringList> calls() const;
     /// What a file passed with "-config" held in the n-th run (the first is 1): its mode in octal, a line feed, its

@@ -14,10 +14,12 @@
 
 namespace Quorbel::Test {
 
+using namespace Qt::StringLiterals;
+
 /// Call in init(). The platform that draws off screen says what it lacks; nothing else may be warned of.
 inline void failOnWarnings()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
+    QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
 }
 
 /// An active window of 500 by 400 pixels with a theme and a column of widgets in it. No animations.

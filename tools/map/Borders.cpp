@@ -12,6 +12,8 @@
 
 namespace Quorbel::MapBuild {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int columns = 180;  // bins of 2°
@@ -50,7 +52,7 @@ public:
         take<quint8>();
         const auto kind = (take<quint8>() >> 1U) & 7U;
         if (magic != 0x5047 || kind >= envelope.size())
-            throw BuildError(QStringLiteral("a geometry of unknown form"));
+            throw BuildError(u"a geometry of unknown form"_s);
         take<quint32>();
         skip(envelope[kind]);
         readShape();
@@ -62,10 +64,10 @@ private:
         constexpr quint32 polygon = 3;
         constexpr quint32 multiPolygon = 6;
         if (take<quint8>() != 1)
-            throw BuildError(QStringLiteral("a geometry that is not little-endian"));
+            throw BuildError(u"a geometry that is not little-endian"_s);
         const auto type = take<quint32>();
         if (type != polygon && type != multiPolygon)
-            throw BuildError(QStringLiteral("a geometry that is no polygon"));
+            throw BuildError(u"a geometry that is no polygon"_s);
         for (auto left = take<quint32>(); left > 0; --left) {
             if (type == multiPolygon)
                 readShape();
@@ -89,7 +91,7 @@ private:
     void skip(qsizetype count)
     {
         if (count > m_left)
-            throw BuildError(QStringLiteral("a geometry that ends too early"));
+            throw BuildError(u"a geometry that ends too early"_s);
         m_next += count;
         m_left -= count;
     }
@@ -112,18 +114,18 @@ private:
 
 QList<Ring> readRings(const QString& geopackage)
 {
-    const auto connection = QStringLiteral("borders");
+    const auto connection = u"borders"_s;
     QList<Ring> rings;
     {
-        auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
+        auto database = QSqlDatabase::addDatabase(u"QSQLITE"_s, connection);
         database.setDatabaseName(geopackage);
-        database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+        database.setConnectOptions(u"QSQLITE_OPEN_READONLY"_s);
         if (!database.open())
-            throw BuildError(geopackage + QStringLiteral(": ") + database.lastError().text());
+            throw BuildError(geopackage + u": "_s + database.lastError().text());
         QSqlQuery query(database);
         query.setForwardOnly(true);
-        if (!query.exec(QStringLiteral("SELECT geom, adm0_a3 FROM states_provinces ORDER BY fid")))
-            throw BuildError(geopackage + QStringLiteral(": ") + query.lastError().text());
+        if (!query.exec(u"SELECT geom, adm0_a3 FROM states_provinces ORDER BY fid"_s))
+            throw BuildError(geopackage + u": "_s + query.lastError().text());
         while (query.next()) {
             const auto bytes = query.value(0).toByteArray();
             if (!bytes.isEmpty())

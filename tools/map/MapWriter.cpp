@@ -8,6 +8,8 @@
 
 namespace Quorbel::MapBuild {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 template <typename T>
@@ -131,7 +133,7 @@ void MapWriter::write(const QString& path) const
     for (const auto& bin : m_bins)
         isWritten = isWritten && file.write(bin) == bin.size();
     if (!isWritten || !file.commit())
-        throw BuildError(path + QStringLiteral(": ") + file.errorString());
+        throw BuildError(path + u": "_s + file.errorString());
 }
 
 }  // namespace Quorbel::MapBuild

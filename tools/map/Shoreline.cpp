@@ -8,6 +8,8 @@
 
 namespace Quorbel::MapBuild {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int edge = MapFormat::binUnits;
@@ -42,13 +44,13 @@ public:
 
     int number(const char* name) const { return numbers(name).at(0); }
 
-    [[noreturn]] void fail(const QString& what) const { throw BuildError(m_path + QStringLiteral(": ") + what); }
+    [[noreturn]] void fail(const QString& what) const { throw BuildError(m_path + u": "_s + what); }
 
 private:
     void check(int status, const char* what) const
     {
         if (status != NC_NOERR)
-            fail(QLatin1String(what) + QStringLiteral(": ") + QLatin1String(nc_strerror(status)));
+            fail(QLatin1String(what) + u": "_s + QLatin1String(nc_strerror(status)));
     }
 
     QString m_path;
@@ -66,7 +68,7 @@ struct Segments {
         , y(file.numbers("Relative_latitude_from_SW_corner_of_bin"))
     {
         if (minutes <= 0 || minutesRound % minutes != 0)
-            file.fail(QStringLiteral("bins of %1 minutes").arg(minutes));
+            file.fail(u"bins of %1 minutes"_s.arg(minutes));
         columns = minutesRound / minutes;
         rows = columns / 2;
         bool isSound = firstSegment.size() == size_t(columns) * size_t(rows)
@@ -77,14 +79,14 @@ struct Segments {
                     && size_t(firstSegment[bin]) + size_t(segmentCount[bin]) <= firstPoint.size());
         }
         if (!isSound)
-            file.fail(QStringLiteral("its tables do not fit together"));
+            file.fail(u"its tables do not fit together"_s);
     }
 
     QList<BinPoint> points(const NetCdf& file, int segment, int count) const
     {
         const int start = firstPoint[size_t(segment)];
         if (start < 0 || size_t(start) + size_t(count) > x.size())
-            file.fail(QStringLiteral("segment %1 lies outside the points").arg(segment));
+            file.fail(u"segment %1 lies outside the points"_s.arg(segment));
         const auto first = size_t(start);
         QList<BinPoint> all(count);
         for (int i = 0; i < count; ++i)
@@ -201,7 +203,7 @@ public:
     {
         if (m_corners.size() != m_segments.firstSegment.size() || m_packed.size() != m_segments.firstPoint.size()
             || m_antarctic.size() != m_packed.size())
-            m_file.fail(QStringLiteral("its tables do not fit together"));
+            m_file.fail(u"its tables do not fit together"_s);
     }
 
     MapWriter polygons() const
@@ -283,7 +285,7 @@ MapWriter readRivers(const QString& path)
     const auto counts = file.numbers("N_points_for_a_segment");
     const auto levels = file.numbers("Hierarchial_level_of_a_segment");
     if (counts.size() != segments.firstPoint.size() || levels.size() != counts.size())
-        file.fail(QStringLiteral("its tables do not fit together"));
+        file.fail(u"its tables do not fit together"_s);
     MapWriter writer(MapFormat::Kind::rivers, segments.columns, segments.rows);
     for (int bin = 0; bin < segments.columns * segments.rows; ++bin) {
         const int first = segments.firstSegment[size_t(bin)];

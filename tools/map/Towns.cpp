@@ -9,6 +9,8 @@
 
 namespace Quorbel::MapBuild {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int columns = 180;  // bins of 2°
@@ -24,7 +26,7 @@ QList<QList<QByteArray>> readTable(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw BuildError(path + QStringLiteral(": ") + file.errorString());
+        throw BuildError(path + u": "_s + file.errorString());
     QList<QList<QByteArray>> rows;
     for (const auto& line : file.readAll().split('\n')) {
         if (!line.isEmpty())
@@ -61,7 +63,7 @@ QList<Town> antarcticLandmarks(const QString& path)
     QList<Town> all;
     for (const auto& row : readTable(path)) {
         if (row.size() != columnCount)
-            throw BuildError(path + QStringLiteral(": a row of %1 columns").arg(row.size()));
+            throw BuildError(path + u": a row of %1 columns"_s.arg(row.size()));
         if (row[country] == "AQ")
             all.append(
                 { { row[longitude].toDouble(), row[latitude].toDouble() }, 1, MapFormat::notATown, 0, row[name] });
@@ -77,7 +79,7 @@ MapWriter readTowns(const QString& cities, const QString& landmarks)
     QList<Town> towns;
     for (const auto& row : readTable(cities)) {
         if (row.size() < columnCount)
-            throw BuildError(cities + QStringLiteral(": a row of %1 columns").arg(row.size()));
+            throw BuildError(cities + u": a row of %1 columns"_s.arg(row.size()));
         if (isNamed(row[7]) && row[1].size() <= longestName)
             towns.append(townOf(row));
     }

@@ -16,6 +16,8 @@
 
 namespace Quorbel::Places {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double radians = 3.14159265358979323846 / 180;
@@ -68,7 +70,7 @@ void readCountries(const Sources& sources, Gazetteer& gazetteer)
     }
     for (const QJsonValue row : readJson(sources.countryCodes).array())
         codes[row[0].toString()] = foldPlaceName(row[0].toString() + u' ' + row[1].toString());
-    codes[QStringLiteral("GB")] += QStringLiteral(" uk");
+    codes[u"GB"_s] += u" uk"_s;
     QMap<QString, QString> shown;
     for (const QJsonValue country : readJson(sources.countries).array())
         shown[text(country, "code")] = text(country, "name");
@@ -258,8 +260,8 @@ void readAirports(const Sources& sources, const QHash<QString, int>& regions, Ga
         if (airport.state < 0 && nearest >= 0 && gazetteer.entries[nearest].country == airport.country)
             airport.state = gazetteer.entries[nearest].state;
         airport.alternates = usefulAlternates(airport.name,
-            QStringList{ airport.code, text(object, "ident"),
-                airport.town.isEmpty() ? QString() : airport.town + QStringLiteral(" Airport") }
+            QStringList{
+                airport.code, text(object, "ident"), airport.town.isEmpty() ? QString() : airport.town + u" Airport"_s }
                 + text(object, "keywords").split(u','));
         airport.rank = text(object, "type") == u"large_airport" ? 5 : 3;
         airports.append(airport);

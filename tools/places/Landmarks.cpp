@@ -4,6 +4,8 @@
 
 namespace Quorbel::Places {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A park's or a peak's town can be a good drive away.
@@ -14,7 +16,7 @@ constexpr double borderDistance = 20;  // km
 /// Above small towns of the same name, below cities.
 constexpr double landmarkRank = 7;
 
-const QString header = QStringLiteral("name\talternates\ttown\tstate\tcountry\tlatitude\tlongitude");
+const QString header = u"name\talternates\ttown\tstate\tcountry\tlatitude\tlongitude"_s;
 
 enum Column {
     nameColumn,
@@ -40,7 +42,7 @@ public:
     {
         const auto columns = line.split(u'\t');
         if (columns.size() != columnCount)
-            throw BuildError(QStringLiteral("%1 columns instead of %2").arg(columns.size()).arg(int(columnCount)));
+            throw BuildError(u"%1 columns instead of %2"_s.arg(columns.size()).arg(int(columnCount)));
         Entry landmark;
         landmark.kind = Kind::landmark;
         landmark.rank = landmarkRank;
@@ -52,7 +54,7 @@ public:
         landmark.state = state(columns[stateColumn], landmark);
         checkTown(landmark);
         if (landmark.name.trimmed().isEmpty())
-            throw BuildError(QStringLiteral("the name is missing"));
+            throw BuildError(u"the name is missing"_s);
         return landmark;
     }
 
@@ -62,7 +64,7 @@ private:
         bool isNumber[2];
         const Point point{ latitude.toDouble(&isNumber[0]), longitude.toDouble(&isNumber[1]) };
         if (!isNumber[0] || !isNumber[1] || std::abs(point.latitude) > 90 || std::abs(point.longitude) > 180)
-            throw BuildError(QStringLiteral("“%1, %2” is no position").arg(latitude, longitude));
+            throw BuildError(u"“%1, %2” is no position"_s.arg(latitude, longitude));
         return point;
     }
 
@@ -70,7 +72,7 @@ private:
     {
         const int country = m_gazetteer.countryOf(code);
         if (country < 0)
-            throw BuildError(QStringLiteral("there is no country “%1”").arg(code));
+            throw BuildError(u"there is no country “%1”"_s.arg(code));
         const int area = m_raster.areaNear(point);
         const int ofArea = area < 0 ? -1 : m_raster.areas()[area].country;
         const int town = m_towns.nearest(point);
@@ -78,8 +80,8 @@ private:
         const bool isNowhere = ofArea < 0 && ofTown < 0;
         if (isNowhere || ofArea == country || ofTown == country || m_towns.isNear(country, point, borderDistance))
             return country;
-        throw BuildError(QStringLiteral("the position lies in %1, not in %2")
-                             .arg(m_gazetteer.countries[ofArea < 0 ? ofTown : ofArea].code, code));
+        throw BuildError(u"the position lies in %1, not in %2"_s.arg(
+            m_gazetteer.countries[ofArea < 0 ? ofTown : ofArea].code, code));
     }
 
     int state(const QString& name, const Entry& landmark) const
@@ -90,8 +92,8 @@ private:
         int known = m_raster.stateNear(landmark.point);
         if (const int town = m_towns.nearest(landmark.point); known < 0 && town >= 0)
             known = m_gazetteer.entries[town].state;
-        throw BuildError(QStringLiteral("the country has no state “%1”; here it may be “%2”")
-                             .arg(name, known < 0 ? QString() : m_gazetteer.states[known].name));
+        throw BuildError(u"the country has no state “%1”; here it may be “%2”"_s.arg(
+            name, known < 0 ? QString() : m_gazetteer.states[known].name));
     }
 
     void checkTown(const Entry& landmark) const
@@ -100,8 +102,7 @@ private:
             || m_towns.named(landmark.town, landmark.country, landmark.point, townDistance) >= 0)
             return;
         const int nearest = m_towns.nearest(landmark.point);
-        throw BuildError(QStringLiteral("no town “%1” within %2 km; the nearest is “%3”")
-                             .arg(landmark.town)
+        throw BuildError(u"no town “%1” within %2 km; the nearest is “%3”"_s.arg(landmark.town)
                              .arg(townDistance)
                              .arg(nearest < 0 ? QString() : m_gazetteer.entries[nearest].name));
     }
@@ -120,7 +121,7 @@ QList<Entry> readLandmarks(const QString& path, const Gazetteer& gazetteer, cons
         throw BuildError(path, file.errorString());
     const auto lines = QString::fromUtf8(file.readAll()).split(u'\n');
     if (lines.first() != header)
-        throw BuildError(path, QStringLiteral("the first line must be “%1”").arg(header));
+        throw BuildError(path, u"the first line must be “%1”"_s.arg(header));
     const Reader reader(gazetteer, raster);
     QList<Entry> landmarks;
     QStringList faults;
@@ -130,10 +131,8 @@ QList<Entry> readLandmarks(const QString& path, const Gazetteer& gazetteer, cons
         try {
             landmarks.append(reader.read(lines[i]));
         } catch (const BuildError& fault) {
-            faults << QStringLiteral("%1:%2: %3: %4")
-                          .arg(path)
-                          .arg(i + 1)
-                          .arg(lines[i].section(u'\t', 0, 0), QString::fromUtf8(fault.what()));
+            faults << u"%1:%2: %3: %4"_s.arg(path).arg(i + 1).arg(
+                lines[i].section(u'\t', 0, 0), QString::fromUtf8(fault.what()));
         }
     }
     if (!faults.isEmpty())

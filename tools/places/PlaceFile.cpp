@@ -13,32 +13,34 @@
 
 namespace Quorbel::Places {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Numbers of places follow their rank, the likeliest first: asking for the first sixty rows is asking for the best.
 // The text index keeps no copy of its text. Everything in it is folded already, so that the simplest tokenizer, which
 // takes any byte above 127 as part of a word, is the right one.
 const auto schema = QStringList{
-    QStringLiteral("PRAGMA page_size=4096"),
-    QStringLiteral("PRAGMA journal_mode=OFF"),
-    QStringLiteral("PRAGMA synchronous=OFF"),
-    QStringLiteral("PRAGMA user_version=1"),
-    QStringLiteral("CREATE TABLE country(id INTEGER PRIMARY KEY, code TEXT, name TEXT, words TEXT)"),
-    QStringLiteral("CREATE TABLE state(id INTEGER PRIMARY KEY, name TEXT, words TEXT)"),
-    QStringLiteral("CREATE TABLE place(id INTEGER PRIMARY KEY, kind INTEGER, name TEXT, alternates TEXT, town TEXT, "
-                   "state INTEGER, country INTEGER, latitude INTEGER, longitude INTEGER, population INTEGER, "
-                   "rank INTEGER, cell INTEGER)"),
-    QStringLiteral("CREATE VIRTUAL TABLE place_text USING fts5(name, alternates, context, content='', columnsize=0, "
-                   "prefix='1 2 3', tokenize='ascii')"),
-    QStringLiteral("CREATE TABLE spelling(id INTEGER PRIMARY KEY, records BLOB)"),
-    QStringLiteral("CREATE TABLE area(id INTEGER PRIMARY KEY, country INTEGER, state INTEGER)"),
-    QStringLiteral("CREATE TABLE land(row INTEGER PRIMARY KEY, runs BLOB)"),
+    u"PRAGMA page_size=4096"_s,
+    u"PRAGMA journal_mode=OFF"_s,
+    u"PRAGMA synchronous=OFF"_s,
+    u"PRAGMA user_version=1"_s,
+    u"CREATE TABLE country(id INTEGER PRIMARY KEY, code TEXT, name TEXT, words TEXT)"_s,
+    u"CREATE TABLE state(id INTEGER PRIMARY KEY, name TEXT, words TEXT)"_s,
+    u"CREATE TABLE place(id INTEGER PRIMARY KEY, kind INTEGER, name TEXT, alternates TEXT, town TEXT, "
+    "state INTEGER, country INTEGER, latitude INTEGER, longitude INTEGER, population INTEGER, "
+    "rank INTEGER, cell INTEGER)"_s,
+    u"CREATE VIRTUAL TABLE place_text USING fts5(name, alternates, context, content='', columnsize=0, "
+    "prefix='1 2 3', tokenize='ascii')"_s,
+    u"CREATE TABLE spelling(id INTEGER PRIMARY KEY, records BLOB)"_s,
+    u"CREATE TABLE area(id INTEGER PRIMARY KEY, country INTEGER, state INTEGER)"_s,
+    u"CREATE TABLE land(row INTEGER PRIMARY KEY, runs BLOB)"_s,
 };
 const auto finish = QStringList{
-    QStringLiteral("INSERT INTO place_text(place_text) VALUES('optimize')"),
-    QStringLiteral("CREATE INDEX town_cell ON place(cell) WHERE kind = 0"),
-    QStringLiteral("COMMIT"),
-    QStringLiteral("VACUUM"),
+    u"INSERT INTO place_text(place_text) VALUES('optimize')"_s,
+    u"CREATE INDEX town_cell ON place(cell) WHERE kind = 0"_s,
+    u"COMMIT"_s,
+    u"VACUUM"_s,
 };
 
 /// Alternate names of towns at least this large are searched for misspellings, too.
@@ -152,9 +154,8 @@ QList<int> byRank(const QList<Entry>& entries)
 
 void writePlaces(Writer& writer, const Gazetteer& gazetteer)
 {
-    auto place = writer.prepare(QStringLiteral("INSERT INTO place VALUES(?,?,?,?,?,?,?,?,?,?,?,?)"));
-    auto search =
-        writer.prepare(QStringLiteral("INSERT INTO place_text(rowid, name, alternates, context) VALUES(?,?,?,?)"));
+    auto place = writer.prepare(u"INSERT INTO place VALUES(?,?,?,?,?,?,?,?,?,?,?,?)"_s);
+    auto search = writer.prepare(u"INSERT INTO place_text(rowid, name, alternates, context) VALUES(?,?,?,?)"_s);
     QByteArray spellings;
     int id = 0;
     for (const int index : byRank(gazetteer.entries)) {
@@ -169,23 +170,23 @@ void writePlaces(Writer& writer, const Gazetteer& gazetteer)
         Writer::insert(search, { id, searchedName(entry.name), alternates.join(u' '), contextOf(entry, gazetteer) });
         spellings += spellingsOf(entry, id);
     }
-    auto spelling = writer.prepare(QStringLiteral("INSERT INTO spelling VALUES(1, ?)"));
+    auto spelling = writer.prepare(u"INSERT INTO spelling VALUES(1, ?)"_s);
     Writer::insert(spelling, { spellings });
 }
 
 void writeAreas(Writer& writer, const Gazetteer& gazetteer, const StateRaster& raster)
 {
-    auto country = writer.prepare(QStringLiteral("INSERT INTO country VALUES(?,?,?,?)"));
+    auto country = writer.prepare(u"INSERT INTO country VALUES(?,?,?,?)"_s);
     for (int i = 0; i < gazetteer.countries.size(); ++i)
         Writer::insert(
             country, { i, gazetteer.countries[i].code, gazetteer.countries[i].name, gazetteer.countries[i].words });
-    auto state = writer.prepare(QStringLiteral("INSERT INTO state VALUES(?,?,?)"));
+    auto state = writer.prepare(u"INSERT INTO state VALUES(?,?,?)"_s);
     for (int i = 0; i < gazetteer.states.size(); ++i)
         Writer::insert(state, { i, gazetteer.states[i].name, gazetteer.states[i].words() });
-    auto area = writer.prepare(QStringLiteral("INSERT INTO area VALUES(?,?,?)"));
+    auto area = writer.prepare(u"INSERT INTO area VALUES(?,?,?)"_s);
     for (int i = 0; i < raster.areas().size(); ++i)
         Writer::insert(area, { i, raster.areas()[i].country, raster.areas()[i].state });
-    auto land = writer.prepare(QStringLiteral("INSERT INTO land VALUES(?,?)"));
+    auto land = writer.prepare(u"INSERT INTO land VALUES(?,?)"_s);
     for (int row = 0; row < StateRaster::rows; ++row) {
         if (const auto runs = raster.runsOfRow(row); !runs.isEmpty())
             Writer::insert(land, { row, runs });
@@ -196,16 +197,16 @@ void writeAreas(Writer& writer, const Gazetteer& gazetteer, const StateRaster& r
 
 void writePlaceFile(const QString& path, const Gazetteer& gazetteer, const StateRaster& raster)
 {
-    const auto connection = QStringLiteral("places");
-    const auto unfinished = path + QStringLiteral(".part");
+    const auto connection = u"places"_s;
+    const auto unfinished = path + u".part"_s;
     QFile::remove(unfinished);
     {
-        auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
+        auto database = QSqlDatabase::addDatabase(u"QSQLITE"_s, connection);
         database.setDatabaseName(unfinished);
         if (!database.open())
             throw BuildError(unfinished, database.lastError().text());
         Writer writer(database);
-        writer.run(schema + QStringList{ QStringLiteral("BEGIN") });
+        writer.run(schema + QStringList{ u"BEGIN"_s });
         writeAreas(writer, gazetteer, raster);
         writePlaces(writer, gazetteer);
         writer.run(finish);
@@ -213,7 +214,7 @@ void writePlaceFile(const QString& path, const Gazetteer& gazetteer, const State
     QSqlDatabase::removeDatabase(connection);
     QFile::remove(path);
     if (!QFile::rename(unfinished, path))
-        throw BuildError(path, QStringLiteral("could not be replaced"));
+        throw BuildError(path, u"could not be replaced"_s);
 }
 
 }  // namespace Quorbel::Places

@@ -12,6 +12,8 @@
 
 namespace Quorbel::Places {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr quint16 sea = 0xFFFF;
@@ -31,7 +33,7 @@ public:
         const auto flags = take<quint8>();
         const auto envelope = (flags >> 1U) & 7U;
         if (envelope >= envelopeSizes.size())
-            throw BuildError(QStringLiteral("a geometry with an unknown header"));
+            throw BuildError(u"a geometry with an unknown header"_s);
         skip(4 + envelopeSizes[envelope]);
         QList<Ring> all;
         readGeometry(all);
@@ -45,7 +47,7 @@ private:
     void readGeometry(QList<Ring>& all)
     {
         if (take<quint8>() != 1)
-            throw BuildError(QStringLiteral("a geometry that is not little-endian"));
+            throw BuildError(u"a geometry that is not little-endian"_s);
         const auto type = take<quint32>();
         const auto count = take<quint32>();
         for (quint32 i = 0; i < count; ++i) {
@@ -54,7 +56,7 @@ private:
             else if (type == polygonType)
                 all.append(readRing());
             else
-                throw BuildError(QStringLiteral("a geometry that is no polygon"));
+                throw BuildError(u"a geometry that is no polygon"_s);
         }
     }
 
@@ -71,7 +73,7 @@ private:
     void skip(qsizetype count)
     {
         if (m_bytes.size() - m_at < count)
-            throw BuildError(QStringLiteral("a geometry that ends too early"));
+            throw BuildError(u"a geometry that ends too early"_s);
         m_at += count;
     }
 
@@ -91,16 +93,16 @@ private:
 
 QList<Polygon> readPolygons(const QString& path)
 {
-    const auto connection = QStringLiteral("polygons");
+    const auto connection = u"polygons"_s;
     QList<Polygon> polygons;
     {
-        auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
+        auto database = QSqlDatabase::addDatabase(u"QSQLITE"_s, connection);
         database.setDatabaseName(path);
-        database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+        database.setConnectOptions(u"QSQLITE_OPEN_READONLY"_s);
         if (!database.open())
             throw BuildError(path, database.lastError().text());
         QSqlQuery query(database);
-        if (!query.exec(QStringLiteral("SELECT geom, iso_a2, name FROM states_provinces ORDER BY fid")))
+        if (!query.exec(u"SELECT geom, iso_a2, name FROM states_provinces ORDER BY fid"_s))
             throw BuildError(path, query.lastError().text());
         while (query.next()) {
             const auto geometry = query.value(0).toByteArray();
@@ -180,7 +182,7 @@ StateRaster::StateRaster(const QString& geopackage, const Gazetteer& gazetteer)
 {
     const auto polygons = readPolygons(geopackage);
     if (polygons.size() >= sea)
-        throw BuildError(geopackage, QStringLiteral("too many polygons"));
+        throw BuildError(geopackage, u"too many polygons"_s);
     m_cells = QList<quint16>(qsizetype(rows) * columns, sea);
     m_hasLand = QList<bool>(rows, false);
     for (int i = 0; i < polygons.size(); ++i)

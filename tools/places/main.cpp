@@ -7,6 +7,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 using namespace Quorbel::Places;
 
 namespace {
@@ -33,8 +35,8 @@ constexpr Option options[] = {
 Sources readOptions(QCommandLineParser& parser)
 {
     for (const auto& option : options)
-        parser.addOption({ QLatin1String(option.name), QLatin1String(option.meaning), QStringLiteral("file") });
-    parser.addPositionalArgument(QStringLiteral("output"), QStringLiteral("The file to write."));
+        parser.addOption({ QLatin1String(option.name), QLatin1String(option.meaning), u"file"_s });
+    parser.addPositionalArgument(u"output"_s, u"The file to write."_s);
     parser.addHelpOption();
     parser.process(*QCoreApplication::instance());
     if (parser.positionalArguments().size() != 1)

@@ -13,6 +13,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Three colours, blended as far as the pointer and the press have come.
@@ -108,7 +110,7 @@ void HoverFade::setPressed(bool on)
 
 void HoverFade::animate(qreal HoverFade::*value, qreal target)
 {
-    const QString name = value == &HoverFade::m_hover ? QStringLiteral("hover") : QStringLiteral("pressed");
+    const QString name = value == &HoverFade::m_hover ? u"hover"_s : u"pressed"_s;
     delete findChild<QVariantAnimation*>(name, Qt::FindDirectChildrenOnly);
     if (this->*value == target)
         return;

@@ -21,6 +21,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr qreal chipTextSize = 12;  // points
 constexpr qreal entryWidth = 110;  // points, at least
@@ -34,7 +36,7 @@ class KeywordChip final : public QWidget {
 public:
     explicit KeywordChip(KeywordEditor* editor)
         : QWidget(editor)
-        , m_cross(new QBIconButton(QStringLiteral("xmark"), QString(), this))
+        , m_cross(new QBIconButton(u"xmark"_s, QString(), this))
     {
         setFocusPolicy(Qt::ClickFocus);
         m_cross->setSizes({ 16, 16 }, 9, 2.6, 8);
@@ -56,7 +58,7 @@ public:
         if (keyword != m_keyword) {
             m_keyword = keyword;
             setAccessibleName(keyword);
-            m_cross->setName(QStringLiteral("Remove %1").arg(keyword));
+            m_cross->setName(u"Remove %1"_s.arg(keyword));
             updateGeometry();
         }
         update();
@@ -125,7 +127,7 @@ signals:
 protected:
     void pasteText() override
     {
-        static const QRegularExpression separators(QStringLiteral("[,\\r\\n\\x{2028}\\x{2029}]"));
+        static const QRegularExpression separators(u"[,\\r\\n\\x{2028}\\x{2029}]"_s);
         const QMimeData* data = QGuiApplication::clipboard()->mimeData();
         const QString text = data ? data->text() : QString();
         // One keyword, perhaps copied with the end of its line.
@@ -152,7 +154,7 @@ KeywordEditor::KeywordEditor(QWidget* parent)
     m_ring = installFocusRing(this, { RingShape::field, 7, [this] { return m_edited; }, {} });
     m_entry->installEventFilter(m_ring);
     m_entry->installEventFilter(this);
-    m_entry->setAccessibleName(QStringLiteral("New keyword"));
+    m_entry->setAccessibleName(u"New keyword"_s);
     connect(m_entry, &QLineEdit::textEdited, this, &KeywordEditor::complete);
     connect(m_entry, &KeywordEntry::pastedSeveral, this, &KeywordEditor::addAll);
     connect(m_suggestions, &SuggestionList::activated, this, &KeywordEditor::acceptCompletion);

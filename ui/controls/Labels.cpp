@@ -8,6 +8,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 QColor colorFor(const Theme& theme, TextRole role)
 {
     switch (role) {
@@ -95,7 +97,7 @@ QSize ThemedLabel::minimumSizeHint() const
     if (m_lineHeight > 0 && !wordWrap())
         size.setHeight(px(m_lineHeight));
     if (m_elided)
-        size.setWidth(fontMetrics().horizontalAdvance(QStringLiteral("M…")));
+        size.setWidth(fontMetrics().horizontalAdvance(u"M…"_s));
     return size;
 }
 

@@ -14,6 +14,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 QBCheckbox::QBCheckbox(QWidget* parent)
     : QBCheckbox(QString(), parent)
 {
@@ -70,7 +72,7 @@ void QBCheckbox::paintEvent(QPaintEvent*)
     painter.setOpacity(opacity());
     paintBox(painter, box, pxF(4.5), ground, QPen(line, 1));
     if (isChecked())
-        Icon::paint(painter, box, QStringLiteral("checkmark"), side * 13 / 16, theme.accentText, 2.6);
+        Icon::paint(painter, box, u"checkmark"_s, side * 13 / 16, theme.accentText, 2.6);
     if (text().isEmpty())
         return;
     painter.setPen(theme.text);

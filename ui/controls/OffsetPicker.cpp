@@ -13,12 +13,14 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 OffsetPicker::OffsetPicker(const QString& blank, QWidget* parent)
     : ThemedButton(blank, parent)
     , m_blank(blank)
 {
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    setAccessibleName(QStringLiteral("Time-zone offset"));
+    setAccessibleName(u"Time-zone offset"_s);
     onRestyle(this, [this] {
         setFont(sansFont(13));
         updateGeometry();
@@ -106,8 +108,8 @@ void OffsetPicker::paintEvent(QPaintEvent*)
     const QRectF inner = QRectF(rect()).adjusted(pxF(10), 0, -pxF(8), 0);
     painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
     const qreal icon = pxF(14);
-    Icon::paint(painter, QRectF(inner.right() - icon, 0, icon, height()), QStringLiteral("chevron.up.chevron.down"),
-        icon, theme.muted);
+    Icon::paint(
+        painter, QRectF(inner.right() - icon, 0, icon, height()), u"chevron.up.chevron.down"_s, icon, theme.muted);
 }
 
 }  // namespace Quorbel

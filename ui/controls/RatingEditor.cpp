@@ -14,6 +14,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int stars = 5;
 /// How far the first cell reaches beyond the left edge, so that its star, and not the cell, is in line with the fields.
@@ -27,8 +29,8 @@ RatingEditor::RatingEditor(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setMouseTracking(true);
-    setAccessibleName(QStringLiteral("Rating"));
-    setToolTip(QStringLiteral("0 to 5 stars; click the current rating to clear it"));
+    setAccessibleName(u"Rating"_s);
+    setToolTip(u"0 to 5 stars; click the current rating to clear it"_s);
     onRestyle(this, [this] { updateGeometry(); });
     // Round the cells: the first one begins left of the row, so that its star stands at the row's edge.
     const auto cells = [this] { return cell(1).united(cell(stars)); };
@@ -94,7 +96,7 @@ void RatingEditor::paintEvent(QPaintEvent*)
     for (int star = 1; star <= stars; ++star) {
         const bool filled = star <= rating();
         const QColor plain = filled ? theme.text : theme.muted;
-        const QString icon = filled ? QStringLiteral("star.fill") : QStringLiteral("star");
+        const QString icon = filled ? u"star.fill"_s : u"star"_s;
         Icon::paint(painter, cell(star), icon, pxF(18), m_edited ? theme.amber : plain);
     }
 }

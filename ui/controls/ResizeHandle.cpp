@@ -10,6 +10,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 ResizeHandle::ResizeHandle(double width, double minWidth, double maxWidth, double defaultWidth, QWidget* parent)
     : QWidget(parent)
     , m_width(qBound(minWidth, width, maxWidth))
@@ -21,7 +23,7 @@ ResizeHandle::ResizeHandle(double width, double minWidth, double maxWidth, doubl
     setCursor(Qt::SplitHCursor);
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    setAccessibleName(QStringLiteral("Column width"));
+    setAccessibleName(u"Column width"_s);
     onRestyle(this, [this] { updateGeometry(); });
 }
 

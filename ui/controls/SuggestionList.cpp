@@ -13,6 +13,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int shadowMargin = 25;  // device-independent pixels around the box
@@ -31,7 +33,7 @@ SuggestionList::SuggestionList(QWidget* field)
 {
     installAccessibility();
     setMouseTracking(true);
-    setAccessibleName(QStringLiteral("Suggestions"));
+    setAccessibleName(u"Suggestions"_s);
     // While it is open it belongs to the window, and would outlive its field.
     connect(field, &QObject::destroyed, this, [this] {
         hide();
@@ -47,7 +49,7 @@ void SuggestionList::showRows(const QList<SuggestionRow>& rows)
         return dismiss();
     if (rows != m_rows || isHidden()) {
         m_rows = rows;
-        setAccessibleName(QStringLiteral("Suggestions"));
+        setAccessibleName(u"Suggestions"_s);
         m_current = -1;
         m_first = 0;
     }

@@ -10,6 +10,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qreal radius = 9;  // points
@@ -19,18 +21,16 @@ constexpr const char* headerProperty = "quorbelHeader";
 /// own. Every colour and stroke is drawn by ThemedMenu::paintEvent().
 QString rowSizes()
 {
-    return QStringLiteral(
-        "QMenu { border: 0; background: transparent; padding: %1px; }"
-        "QMenu::item { height: %2px; padding: 0px %3px 0px %4px; border: 0; background: transparent; }"
-        "QMenu::separator { height: %5px; background: transparent; }"
-        "QMenu::indicator { width: 0px; height: 0px; }"
-        "QMenu::scroller { height: %6px; }")
-        .arg(px(5))
-        .arg(px(28))
-        .arg(px(14))
-        .arg(px(28))
-        .arg(px(11))
-        .arg(px(16));
+    return u"QMenu { border: 0; background: transparent; padding: %1px; }"
+           "QMenu::item { height: %2px; padding: 0px %3px 0px %4px; border: 0; background: transparent; }"
+           "QMenu::separator { height: %5px; background: transparent; }"
+           "QMenu::indicator { width: 0px; height: 0px; }"
+           "QMenu::scroller { height: %6px; }"_s.arg(px(5))
+               .arg(px(28))
+               .arg(px(14))
+               .arg(px(28))
+               .arg(px(11))
+               .arg(px(16));
 }
 
 }  // namespace
@@ -124,10 +124,10 @@ void ThemedMenu::paintItem(QPainter& painter, const QAction* action, const QRect
     }
     const QRectF mark(row.left() + pxF(8), row.top(), pxF(14), row.height());
     if (action->isCheckable() && action->isChecked())
-        Icon::paint(painter, mark, QStringLiteral("checkmark"), pxF(14), ink, 2.1);
+        Icon::paint(painter, mark, u"checkmark"_s, pxF(14), ink, 2.1);
     if (action->menu()) {
         const QRectF arrow(row.right() - pxF(18), row.top(), pxF(12), row.height());
-        Icon::paint(painter, arrow, QStringLiteral("chevron.right"), pxF(12), ink, 2.1);
+        Icon::paint(painter, arrow, u"chevron.right"_s, pxF(12), ink, 2.1);
     }
     painter.setOpacity(1);
 }

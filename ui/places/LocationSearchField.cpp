@@ -6,6 +6,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The text that filling the place fields with this result puts into the place field; nothing when it leaves it alone.
@@ -13,7 +15,7 @@ std::optional<QString> placeText(const LocationFill::Result& result)
 {
     const auto assignments = LocationFill::assignments(result, [](const QString&) { return false; });
     for (const LocationFill::Assignment& assignment : assignments) {
-        if (assignment.id == QStringLiteral("place"))
+        if (assignment.id == u"place"_s)
             return assignment.value;
     }
     return {};
@@ -57,7 +59,7 @@ void LocationSearchField::textChangedByUser(const QString& text)
 void LocationSearchField::showAnswer()
 {
     if (m_failed)
-        return m_list->showMessage(QStringLiteral("Couldn't look that up"));
+        return m_list->showMessage(u"Couldn't look that up"_s);
     if (!m_showSuggestions)
         return m_list->dismiss();
     if (m_search.suggestions().isEmpty() && !m_search.notice().isEmpty())

@@ -10,6 +10,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr qreal mapHeight = 96;  // points
 constexpr qreal corner = 9;  // points
@@ -40,7 +42,7 @@ void MapPreview::setPoint(const Coordinates::Point& point)
     if (point == m_point)
         return;
     m_point = point;
-    setAccessibleName(QStringLiteral("Map of %1").arg(Coordinates::displayString(point)));
+    setAccessibleName(u"Map of %1"_s.arg(Coordinates::displayString(point)));
     // The old map shows another place; better none than a wrong one.
     m_map = {};
     ask();

@@ -18,6 +18,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qreal inset = 6;  // points, around the rows
@@ -38,7 +40,7 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
 {
     setModel(&m_rows);
     setItemDelegate(new SidebarDelegate(m_rows, thumbs, this));
-    setAccessibleName(QStringLiteral("Photos"));
+    setAccessibleName(u"Photos"_s);
     setUniformItemSizes(true);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
@@ -132,7 +134,7 @@ void SidebarList::choose(int row, bool shift, bool command)
 QString SidebarList::emptyText() const
 {
     const bool missed = m_rows.rowCount() == 0 && !m_model.records().isEmpty();
-    return missed ? QStringLiteral("No matching photos.") : QString();
+    return missed ? u"No matching photos."_s : QString();
 }
 
 void SidebarList::paintEvent(QPaintEvent* event)

@@ -4,6 +4,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 SidebarModel::SidebarModel(AppModel& model, QObject* parent)
     : QAbstractListModel(parent)
     , m_model(model)
@@ -31,7 +33,7 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const
     case Qt::AccessibleDescriptionRole:
         return photo->sidebarLine();
     case Qt::ToolTipRole:
-        return QStringLiteral("Double-click to open in your default image app");
+        return u"Double-click to open in your default image app"_s;
     default:
         return {};
     }

@@ -18,6 +18,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Points.
@@ -56,7 +58,7 @@ protected:
 private:
     void refresh()
     {
-        setText(QStringLiteral("%1 / %2").arg(m_model.selection().size()).arg(m_model.records().size()));
+        setText(u"%1 / %2"_s.arg(m_model.selection().size()).arg(m_model.records().size()));
         update();
     }
 
@@ -71,10 +73,10 @@ struct SortItem {
 const QList<SortItem>& sortItems()
 {
     static const QList<SortItem> items{
-        { RecordSortOrder::nameAsc, QStringLiteral("Name (A–Z)") },
-        { RecordSortOrder::nameDesc, QStringLiteral("Name (Z–A)") },
-        { RecordSortOrder::dateNewest, QStringLiteral("Date (newest first)") },
-        { RecordSortOrder::dateOldest, QStringLiteral("Date (oldest first)") },
+        { RecordSortOrder::nameAsc, u"Name (A–Z)"_s },
+        { RecordSortOrder::nameDesc, u"Name (Z–A)"_s },
+        { RecordSortOrder::dateNewest, u"Date (newest first)"_s },
+        { RecordSortOrder::dateOldest, u"Date (oldest first)"_s },
     };
     return items;
 }
@@ -103,9 +105,9 @@ QWidget* SidebarView::buildHeader()
     auto* line = new QHBoxLayout(header);
     line->setSpacing(0);
     line->addWidget(new CountLabel(m_model), 1);
-    auto* all = new QBTextButton(QStringLiteral("Select all"));
-    all->setKeyHint(symbolText(QStringLiteral("⌘A")));
-    all->setAccessibleName(symbolText(QStringLiteral("Select all ⌘A")));
+    auto* all = new QBTextButton(u"Select all"_s);
+    all->setKeyHint(symbolText(u"⌘A"_s));
+    all->setAccessibleName(symbolText(u"Select all ⌘A"_s));
     connect(all, &QAbstractButton::clicked, &m_model, &AppModel::selectAllPhotos);
     line->addWidget(all);
     onRestyle(header, [header, line] {
@@ -120,15 +122,15 @@ QWidget* SidebarView::buildFind()
     auto* find = new QWidget;
     auto* line = new QHBoxLayout(find);
     m_search = new QBTextField;
-    m_search->setLeadingIcon(QStringLiteral("magnifyingglass"));
-    m_search->setPlaceholder(QStringLiteral("Search"));
-    m_search->setAccessibleName(QStringLiteral("Search"));
+    m_search->setLeadingIcon(u"magnifyingglass"_s);
+    m_search->setPlaceholder(u"Search"_s);
+    m_search->setAccessibleName(u"Search"_s);
     m_search->setBoundText(m_model.search());
     connect(m_search, &QLineEdit::textEdited, &m_model, &AppModel::setSearch);
     m_search->installEventFilter(this);
     connect(&m_model, &AppModel::searchChanged, m_search, [this] { m_search->setBoundText(m_model.search()); });
     line->addWidget(m_search, 1);
-    m_sort = new QBIconButton(QStringLiteral("arrow.up.arrow.down"), QStringLiteral("Sort images"));
+    m_sort = new QBIconButton(u"arrow.up.arrow.down"_s, u"Sort images"_s);
     m_sort->setSizes({ 30, 30 }, 16);
     connect(m_sort, &QAbstractButton::clicked, this, &SidebarView::openSortMenu);
     line->addWidget(m_sort);
@@ -143,7 +145,7 @@ QWidget* SidebarView::buildFind()
 void SidebarView::openSortMenu()
 {
     auto* menu = new ThemedMenu(this);
-    menu->addHeader(QStringLiteral("Sort by"));
+    menu->addHeader(u"Sort by"_s);
     auto* group = new QActionGroup(menu);
     for (const SortItem& item : sortItems()) {
         QAction* action = menu->addAction(item.text);

@@ -11,6 +11,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 ThumbnailView::ThumbnailView(ThumbnailStore* thumbs, qreal size, qreal corner, QWidget* parent)
     : QWidget(parent)
     , m_thumbs(thumbs)
@@ -33,7 +35,7 @@ void ThumbnailView::setUrl(const QUrl& url)
     if (url == m_url)
         return;
     m_url = url;
-    setAccessibleName(url.isEmpty() ? QString() : QStringLiteral("Thumbnail of %1").arg(url.fileName()));
+    setAccessibleName(url.isEmpty() ? QString() : u"Thumbnail of %1"_s.arg(url.fileName()));
     update();
 }
 

@@ -24,16 +24,18 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString sidebarWidthKey()
 {
-    return QStringLiteral("sidebarWidth");
+    return u"sidebarWidth"_s;
 }
 
 QString previewEnabledKey()
 {
-    return QStringLiteral("previewEnabled");
+    return u"previewEnabled"_s;
 }
 
 /// Pixels beyond the threshold to which a window is grown for the preview, so that the column really appears.

@@ -16,6 +16,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Points.
@@ -90,7 +92,7 @@ ErrorBanner::ErrorBanner(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
     , m_cast(new Cast(parent))
-    , m_close(new QBIconButton(QStringLiteral("xmark"), QStringLiteral("Dismiss"), this))
+    , m_close(new QBIconButton(u"xmark"_s, u"Dismiss"_s, this))
 {
     hide();
     m_close->setSizes({ crossSize, crossSize }, 14, 0, 6);
@@ -156,7 +158,7 @@ void ErrorBanner::paintEvent(QPaintEvent*)
     painter.setBrush(theme.panel);
     painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), pxF(radius), pxF(radius));
     const QRectF icon(px(leftPadding), px(verticalPadding), px(iconSize), px(iconSize));
-    Icon::paint(painter, icon, QStringLiteral("exclamationmark.triangle.fill"), pxF(iconSize), theme.amber);
+    Icon::paint(painter, icon, u"exclamationmark.triangle.fill"_s, pxF(iconSize), theme.amber);
     painter.setPen(theme.text);
     painter.setFont(sansFont(13));
     painter.drawText(textRect(), Qt::AlignLeft | Qt::AlignVCenter, m_lines.join(u'\n'));

@@ -2,16 +2,18 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 const QList<std::pair<HelpTopic, QString>>& RawValues<HelpTopic>::table()
 {
     static const QList<std::pair<HelpTopic, QString>> cases{
-        { HelpTopic::gettingStarted, QStringLiteral("gettingStarted") },
-        { HelpTopic::interface, QStringLiteral("interface") },
-        { HelpTopic::editing, QStringLiteral("editing") },
-        { HelpTopic::batch, QStringLiteral("batch") },
-        { HelpTopic::renaming, QStringLiteral("renaming") },
-        { HelpTopic::saving, QStringLiteral("saving") },
-        { HelpTopic::settings, QStringLiteral("settings") },
+        { HelpTopic::gettingStarted, u"gettingStarted"_s },
+        { HelpTopic::interface, u"interface"_s },
+        { HelpTopic::editing, u"editing"_s },
+        { HelpTopic::batch, u"batch"_s },
+        { HelpTopic::renaming, u"renaming"_s },
+        { HelpTopic::saving, u"saving"_s },
+        { HelpTopic::settings, u"settings"_s },
     };
     return cases;
 }
@@ -36,95 +38,93 @@ HelpBlock bullets(const QStringList& items)
 
 Page gettingStartedPage()
 {
-    return { QStringLiteral("Getting Started"), QStringLiteral("sparkles"),
+    return { u"Getting Started"_s, u"sparkles"_s,
         {
-            paragraph(QStringLiteral(
-                "Quorbel reads and edits the metadata inside your photos — titles, dates, captions, keywords and "
+            paragraph(
+                u"Quorbel reads and edits the metadata inside your photos — titles, dates, captions, keywords and "
                 "location — and writes your changes into the EXIF, IPTC and XMP standards at once so every app "
-                "agrees.")),
-            paragraph(QStringLiteral("To begin, open a folder of images or one or more image files:")),
-            bullets({ QStringLiteral("Choose File ▸ Open… (⌘O), or drag photos onto the window."),
-                QStringLiteral("Reopen something recent from File ▸ Open Recent."),
-                QStringLiteral("Right-click a photo in Finder and choose Open With ▸ Quorbel.") }),
+                "agrees."_s),
+            paragraph(u"To begin, open a folder of images or one or more image files:"_s),
+            bullets({ u"Choose File ▸ Open… (⌘O), or drag photos onto the window."_s,
+                u"Reopen something recent from File ▸ Open Recent."_s,
+                u"Right-click a photo in Finder and choose Open With ▸ Quorbel."_s }),
         } };
 }
 
 Page interfacePage()
 {
-    return { QStringLiteral("The Interface"), QStringLiteral("sidebar.left"),
+    return { u"The Interface"_s, u"sidebar.left"_s,
         {
-            paragraph(QStringLiteral("The window has three regions:")),
-            bullets({ QStringLiteral("Sidebar (left): every photo in the folder. Search and sort by name or date from "
-                                     "the controls at the top."),
-                QStringLiteral("Preview (center): a large preview column appears as you widen the window, so you "
-                               "always see the photo you're tagging."),
-                QStringLiteral("Inspector (right): the editable fields, grouped as Common, Location and read-only "
-                               "Camera details.") }),
+            paragraph(u"The window has three regions:"_s),
+            bullets({ u"Sidebar (left): every photo in the folder. Search and sort by name or date from "
+                      "the controls at the top."_s,
+                u"Preview (center): a large preview column appears as you widen the window, so you "
+                "always see the photo you're tagging."_s,
+                u"Inspector (right): the editable fields, grouped as Common, Location and read-only "
+                "Camera details."_s }),
         } };
 }
 
 Page editingPage()
 {
-    return { QStringLiteral("Editing Metadata"), QStringLiteral("pencil"),
+    return { u"Editing Metadata"_s, u"pencil"_s,
         {
-            paragraph(QStringLiteral(
-                "Select a photo and edit its fields in the inspector. Set a title, date, caption or location once "
-                "and Quorbel writes it to the matching EXIF, IPTC and XMP tags together.")),
-            bullets({ QStringLiteral("Use Add Field to pick a recommended standard field, or define a custom one."),
-                QStringLiteral(
-                    "Turn on Show namespace details (Settings) to see exactly which tag each value writes to."),
-                QStringLiteral("Edited fields are marked until you save.") }),
+            paragraph(
+                u"Select a photo and edit its fields in the inspector. Set a title, date, caption or location once "
+                "and Quorbel writes it to the matching EXIF, IPTC and XMP tags together."_s),
+            bullets({ u"Use Add Field to pick a recommended standard field, or define a custom one."_s,
+                u"Turn on Show namespace details (Settings) to see exactly which tag each value writes to."_s,
+                u"Edited fields are marked until you save."_s }),
         } };
 }
 
 Page batchPage()
 {
-    return { QStringLiteral("Batch Editing"), QStringLiteral("square.stack.3d.up"),
+    return { u"Batch Editing"_s, u"square.stack.3d.up"_s,
         {
-            paragraph(QStringLiteral("Select multiple photos to edit them together. Use ⌘A to select all, or "
-                                     "⇧/⌘-click to build a selection.")),
-            bullets({ QStringLiteral("Choose which fields to apply, set their values, and Quorbel writes them to "
-                                     "every selected photo in one pass."),
-                QStringLiteral("List fields (like keywords) are appended across the selection."),
-                QStringLiteral("Quorbel confirms before a mass edit unless you've turned that prompt off.") }),
+            paragraph(u"Select multiple photos to edit them together. Use ⌘A to select all, or "
+                      "⇧/⌘-click to build a selection."_s),
+            bullets({ u"Choose which fields to apply, set their values, and Quorbel writes them to "
+                      "every selected photo in one pass."_s,
+                u"List fields (like keywords) are appended across the selection."_s,
+                u"Quorbel confirms before a mass edit unless you've turned that prompt off."_s }),
         } };
 }
 
 Page renamingPage()
 {
-    return { QStringLiteral("Renaming Files"), QStringLiteral("textformat"),
+    return { u"Renaming Files"_s, u"textformat"_s,
         {
-            paragraph(QStringLiteral(
-                "Quorbel can rename files from a pattern built out of their own metadata. Open the rename dialog, "
-                "add token chips and free text, and preview the result before applying.")),
-            paragraph(QStringLiteral("Available tokens:")),
-            bullets({ QStringLiteral("%Date% — date taken"), QStringLiteral("%Time% — time taken"),
-                QStringLiteral("%Title% — title"), QStringLiteral("%Creator% — creator"),
-                QStringLiteral("%Place% — place"), QStringLiteral("%Original% — the original filename") }),
-            paragraph(QStringLiteral("Example: %Date%_%Title% might produce 2026-07-14_Sunset.jpg. Names are kept "
-                                     "filesystem-safe and unique automatically.")),
+            paragraph(
+                u"Quorbel can rename files from a pattern built out of their own metadata. Open the rename dialog, "
+                "add token chips and free text, and preview the result before applying."_s),
+            paragraph(u"Available tokens:"_s),
+            bullets({ u"%Date% — date taken"_s, u"%Time% — time taken"_s, u"%Title% — title"_s,
+                u"%Creator% — creator"_s, u"%Place% — place"_s, u"%Original% — the original filename"_s }),
+            paragraph(u"Example: %Date%_%Title% might produce 2026-07-14_Sunset.jpg. Names are kept "
+                      "filesystem-safe and unique automatically."_s),
         } };
 }
 
 Page savingPage()
 {
-    return { QStringLiteral("Saving & Backups"), QStringLiteral("externaldrive"),
+    return { u"Saving & Backups"_s, u"externaldrive"_s,
         {
-            paragraph(QStringLiteral("Your edits are written when you Save (⌘S).")),
-            bullets({ QStringLiteral("Originals are backed up before writing (you can turn this off in Settings)."),
-                QStringLiteral("Quorbel prompts before you switch away with unsaved changes."),
-                QStringLiteral("Optionally write an XMP sidecar instead of embedding, from Settings.") }),
+            paragraph(u"Your edits are written when you Save (⌘S)."_s),
+            bullets({ u"Originals are backed up before writing (you can turn this off in Settings)."_s,
+                u"Quorbel prompts before you switch away with unsaved changes."_s,
+                u"Optionally write an XMP sidecar instead of embedding, from Settings."_s }),
         } };
 }
 
 Page settingsPage()
 {
-    return { QStringLiteral("Settings"), QStringLiteral("gearshape"),
+    return { u"Settings"_s, u"gearshape"_s,
         {
-            paragraph(QStringLiteral("Open Settings from the Quorbel menu (⌘,) to adjust:")),
-            bullets({ QStringLiteral("Back up originals before saving."), QStringLiteral("Write an XMP sidecar file."),
-                QStringLiteral("Show namespace details for every field."),
-                QStringLiteral("Confirm before mass edits, and the default rename pattern.") }),
+            paragraph(u"Open Settings from the Quorbel menu (⌘,) to adjust:"_s),
+            bullets({ u"Back up originals before saving."_s, u"Write an XMP sidecar file."_s,
+                u"Show namespace details for every field."_s,
+                u"Confirm before mass edits, and the default rename pattern."_s }),
         } };
 }
 

@@ -19,6 +19,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Points.
@@ -189,7 +191,7 @@ public:
         setFrameShape(NoFrame);
         setItemDelegate(new TopicDelegate(this));
         setMouseTracking(true);
-        setAccessibleName(QStringLiteral("Topics"));
+        setAccessibleName(u"Topics"_s);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         viewport()->setAutoFillBackground(false);
         for (const HelpTopic topic : allCases<HelpTopic>())
@@ -203,7 +205,7 @@ HelpView::HelpView(QWidget* parent)
     , m_topics(new TopicList(this))
     , m_page(new QScrollArea(this))
 {
-    setWindowTitle(QStringLiteral("Quorbel Help"));
+    setWindowTitle(u"Quorbel Help"_s);
     m_page->setFrameShape(QFrame::NoFrame);
     m_page->setWidgetResizable(true);
     m_page->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -13,6 +13,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Points.
@@ -27,17 +29,17 @@ constexpr qreal buttonsGap = 20;
 // The launch palette: the same in light and dark, as nothing but a drag shows it.
 QColor targetedFill()
 {
-    return colorFromHex(QStringLiteral("cfe0a8"));
+    return colorFromHex(u"cfe0a8"_s);
 }
 
 QColor targetedBorder()
 {
-    return colorFromHex(QStringLiteral("7fa85f"));
+    return colorFromHex(u"7fa85f"_s);
 }
 
 QColor targetedText()
 {
-    return colorFromHex(QStringLiteral("3e5c2c"));
+    return colorFromHex(u"3e5c2c"_s);
 }
 
 }  // namespace
@@ -67,15 +69,14 @@ protected:
         paintBox(painter, theme);
         const qreal block = pxF(iconSize + textGap + lineHeight);
         const QRectF icon(0, (height() - block) / 2, width(), pxF(iconSize));
-        Icon::paint(
-            painter, icon, QStringLiteral("tag"), pxF(iconSize), m_targeted ? targetedText() : theme.muted, iconStroke);
+        Icon::paint(painter, icon, u"tag"_s, pxF(iconSize), m_targeted ? targetedText() : theme.muted, iconStroke);
         painter.setFont(sansFont(13, m_targeted ? QFont::Medium : QFont::Normal));
         painter.setPen(m_targeted ? targetedText() : theme.derived.label);
         painter.drawText(QRectF(0, icon.bottom() + pxF(textGap), width(), pxF(lineHeight)), Qt::AlignCenter, text());
     }
 
 private:
-    static QString text() { return QStringLiteral("Drag a folder or image here"); }
+    static QString text() { return u"Drag a folder or image here"_s; }
 
     void paintBox(QPainter& painter, const Theme& theme) const
     {
@@ -97,8 +98,8 @@ LaunchView::LaunchView(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_box(new DropBox(this))
 {
-    auto* folder = new QBButton(QStringLiteral("Open Folder…"), QBButtonKind::primary);
-    auto* image = new QBButton(QStringLiteral("Open Image…"), QBButtonKind::secondary);
+    auto* folder = new QBButton(u"Open Folder…"_s, QBButtonKind::primary);
+    auto* image = new QBButton(u"Open Image…"_s, QBButtonKind::secondary);
     connect(folder, &QAbstractButton::clicked, &model, &AppModel::openPanel);
     connect(image, &QAbstractButton::clicked, &model, &AppModel::openPanel);
 

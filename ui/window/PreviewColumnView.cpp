@@ -11,6 +11,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Points.
@@ -91,8 +93,8 @@ void PreviewColumnView::follow()
 {
     m_urls = shownUrls();
     const ImageRecord* photo = m_model.primaryRecord();
-    setAccessibleName(m_model.isBatch() ? QStringLiteral("%1 photos selected").arg(m_model.selection().size())
-            : photo                     ? QStringLiteral("Preview of %1").arg(photo->fileName)
+    setAccessibleName(m_model.isBatch() ? u"%1 photos selected"_s.arg(m_model.selection().size())
+            : photo                     ? u"Preview of %1"_s.arg(photo->fileName)
                                         : QString());
     // The newest request is served first: the front photo is asked for last.
     if (m_thumbs && isVisible())
@@ -160,7 +162,7 @@ void PreviewColumnView::paintCards(QPainter& painter)
     painter.setFont(sansFont(13));
     painter.setPen(theme.derived.label);
     painter.drawText(QRectF(stage().left(), front.bottom() + textTop, stage().width(), textHeight), Qt::AlignCenter,
-        QStringLiteral("%1 photos selected").arg(m_model.selection().size()));
+        u"%1 photos selected"_s.arg(m_model.selection().size()));
 }
 
 void PreviewColumnView::paintCard(QPainter& painter, const QRectF& card, const QUrl& url, int slot)

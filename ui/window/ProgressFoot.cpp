@@ -14,6 +14,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int patience = 400;  // milliseconds
@@ -79,8 +81,8 @@ ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
     , m_text(new ThemedLabel({}, TextRole::text, 12))
-    , m_skip(new QBTextButton(QStringLiteral("Skip")))
-    , m_cancel(new QBTextButton(QStringLiteral("Cancel")))
+    , m_skip(new QBTextButton(u"Skip"_s))
+    , m_cancel(new QBTextButton(u"Cancel"_s))
     , m_bar(new ProgressBar(this))
 {
     auto* column = new QVBoxLayout(this);
@@ -149,10 +151,9 @@ void ProgressFoot::showProgress()
     if (!progress)
         return;
     const QLocale locale;
-    const QString pattern =
-        m_model.isSaving() ? QStringLiteral("Saving %1 of %2 photos…") : QStringLiteral("Reading %1 of %2 photos…");
+    const QString pattern = m_model.isSaving() ? u"Saving %1 of %2 photos…"_s : u"Reading %1 of %2 photos…"_s;
     const auto stalled = m_model.stalledFile();
-    m_text->setText(stalled ? QStringLiteral("Stuck at %1").arg(*stalled)
+    m_text->setText(stalled ? u"Stuck at %1"_s.arg(*stalled)
                             : pattern.arg(locale.toString(progress->done), locale.toString(progress->total)));
     m_skip->setVisible(stalled.has_value());
     m_bar->setFraction(progress->total > 0 ? static_cast<qreal>(progress->done) / progress->total : 0);

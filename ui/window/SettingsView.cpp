@@ -17,6 +17,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Points.
@@ -110,7 +112,7 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
 {
-    setWindowTitle(QStringLiteral("Settings"));
+    setWindowTitle(u"Settings"_s);
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
@@ -143,54 +145,54 @@ QSize SettingsView::sizeHint() const
 
 void SettingsView::addDisplay(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, QStringLiteral("Display"));
-    group->addRow(QStringLiteral("Appearance"), appearancePicker());
-    group->addRow(QStringLiteral("Show namespace details"),
-        toggle(QStringLiteral("Show namespace details"), &AppModel::showNamespace, &AppModel::setShowNamespace,
+    Group* group = addGroup(column, u"Display"_s);
+    group->addRow(u"Appearance"_s, appearancePicker());
+    group->addRow(u"Show namespace details"_s,
+        toggle(u"Show namespace details"_s, &AppModel::showNamespace, &AppModel::setShowNamespace,
             &AppModel::showNamespaceChanged),
-        QStringLiteral("Adds the source tags (EXIF / IPTC / XMP) under each field."));
+        u"Adds the source tags (EXIF / IPTC / XMP) under each field."_s);
 }
 
 void SettingsView::addSaving(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, QStringLiteral("Saving"));
-    group->addRow(QStringLiteral("Back up original before writing"),
-        toggle(QStringLiteral("Back up original before writing"), &AppModel::backupOriginals,
-            &AppModel::setBackupOriginals, &AppModel::backupOriginalsChanged));
-    group->addRow(QStringLiteral("Confirm before mass-applying to multiple files"),
-        toggle(QStringLiteral("Confirm before mass-applying to multiple files"), &AppModel::confirmMassEdit,
+    Group* group = addGroup(column, u"Saving"_s);
+    group->addRow(u"Back up original before writing"_s,
+        toggle(u"Back up original before writing"_s, &AppModel::backupOriginals, &AppModel::setBackupOriginals,
+            &AppModel::backupOriginalsChanged));
+    group->addRow(u"Confirm before mass-applying to multiple files"_s,
+        toggle(u"Confirm before mass-applying to multiple files"_s, &AppModel::confirmMassEdit,
             &AppModel::setConfirmMassEdit, &AppModel::confirmMassEditChanged));
-    group->addRow(QStringLiteral("Also write a sidecar .xmp file"),
-        toggle(QStringLiteral("Also write a sidecar .xmp file"), &AppModel::writeSidecar, &AppModel::setWriteSidecar,
+    group->addRow(u"Also write a sidecar .xmp file"_s,
+        toggle(u"Also write a sidecar .xmp file"_s, &AppModel::writeSidecar, &AppModel::setWriteSidecar,
             &AppModel::writeSidecarChanged),
-        QStringLiteral("Mirrors XMP metadata into <name>.xmp next to each image."));
+        u"Mirrors XMP metadata into <name>.xmp next to each image."_s);
 }
 
 void SettingsView::addRenaming(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, QStringLiteral("Renaming"));
-    group->addRow(QStringLiteral("Filename pattern"), patternField(),
-        QStringLiteral("Tokens: %Date% %Time% %Title% %Creator% %Place% %Original%. The extension is kept "
-                       "automatically."));
-    group->addRow(QStringLiteral("Strip special characters"),
-        toggle(QStringLiteral("Strip special characters"), &AppModel::stripSpecialChars,
-            &AppModel::setStripSpecialChars, &AppModel::stripSpecialCharsChanged),
-        QStringLiteral("Keeps only letters and numbers (accents become plain, e.g. Café → Cafe). Off leaves "
-                       "characters like @ and ' in place."));
+    Group* group = addGroup(column, u"Renaming"_s);
+    group->addRow(u"Filename pattern"_s, patternField(),
+        u"Tokens: %Date% %Time% %Title% %Creator% %Place% %Original%. The extension is kept "
+        "automatically."_s);
+    group->addRow(u"Strip special characters"_s,
+        toggle(u"Strip special characters"_s, &AppModel::stripSpecialChars, &AppModel::setStripSpecialChars,
+            &AppModel::stripSpecialCharsChanged),
+        u"Keeps only letters and numbers (accents become plain, e.g. Café → Cafe). Off leaves "
+        "characters like @ and ' in place."_s);
 }
 
 void SettingsView::addPlaces(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, QStringLiteral("Places"));
-    group->addRow(QStringLiteral("Online place service"), placeServiceField(),
-        QStringLiteral("Empty: places are looked up on this computer alone. With the https address of a "
-                       "Photon-compatible service, what you type in the Place field is sent there; places known here "
-                       "still come first. Takes effect at the next start."));
+    Group* group = addGroup(column, u"Places"_s);
+    group->addRow(u"Online place service"_s, placeServiceField(),
+        u"Empty: places are looked up on this computer alone. With the https address of a "
+        "Photon-compatible service, what you type in the Place field is sent there; places known here "
+        "still come first. Takes effect at the next start."_s);
 }
 
 QWidget* SettingsView::appearancePicker()
 {
-    auto* picker = new SegmentedPicker({ QStringLiteral("System"), QStringLiteral("Light"), QStringLiteral("Dark") });
+    auto* picker = new SegmentedPicker({ u"System"_s, u"Light"_s, u"Dark"_s });
     const auto show = [this, picker] { picker->setCurrentIndex(indexOf(m_model.colorOverride())); };
     connect(&m_model, &AppModel::colorOverrideChanged, picker, show);
     show();
@@ -216,7 +218,7 @@ QWidget* SettingsView::patternField()
 QWidget* SettingsView::placeServiceField()
 {
     auto* field = new QBTextField;
-    field->setPlaceholderText(QStringLiteral("https://…"));
+    field->setPlaceholderText(u"https://…"_s);
     field->setBoundText(m_model.placeService());
     onRestyle(field, [field] { field->setFixedWidth(px(patternWidth)); });
     // An address that may not be asked stays in the field, marked, and is not stored.
@@ -224,7 +226,7 @@ QWidget* SettingsView::placeServiceField()
         const QString address = text.trimmed();
         const bool isUsable = address.isEmpty() || placeEndpoint(address);
         field->setEdited(!isUsable);
-        field->setToolTip(isUsable ? QString() : QStringLiteral("Not used: this is no https address."));
+        field->setToolTip(isUsable ? QString() : u"Not used: this is no https address."_s);
         if (isUsable)
             m_model.setPlaceService(address);
     });

@@ -13,6 +13,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Points.
@@ -25,8 +27,8 @@ constexpr qreal titleGap = 16;  // at least, to menus and tools
 QString saveTitle(const AppModel& model)
 {
     if (model.isSaving())
-        return QStringLiteral("Saving…");
-    return model.isBatch() ? QStringLiteral("Apply to %1").arg(model.selection().size()) : QStringLiteral("Save");
+        return u"Saving…"_s;
+    return model.isBatch() ? u"Apply to %1"_s.arg(model.selection().size()) : u"Save"_s;
 }
 
 }  // namespace
@@ -42,11 +44,11 @@ WindowBar::WindowBar(AppModel& model, QWidget* parent)
     m_line->addWidget(m_tools);
 
     auto* tools = new QHBoxLayout(m_tools);
-    QBIconButton* refresh = addTool(tools, QStringLiteral("arrow.clockwise"), QStringLiteral("Refresh folder"));
+    QBIconButton* refresh = addTool(tools, u"arrow.clockwise"_s, u"Refresh folder"_s);
     connect(refresh, &QAbstractButton::clicked, &model, &AppModel::refresh);
-    m_preview = addTool(tools, QStringLiteral("rectangle.split.2x1"), QStringLiteral("Show preview"));
+    m_preview = addTool(tools, u"rectangle.split.2x1"_s, u"Show preview"_s);
     connect(m_preview, &QAbstractButton::clicked, this, &WindowBar::previewToggled);
-    m_settings = addTool(tools, QStringLiteral("ellipsis"), QStringLiteral("Settings"));
+    m_settings = addTool(tools, u"ellipsis"_s, u"Settings"_s);
     connect(m_settings, &QAbstractButton::clicked, this, &WindowBar::openSettingsMenu);
     m_save = new QBButton(saveTitle(model), QBButtonKind::primary);
     connect(m_save, &QAbstractButton::clicked, &model, &AppModel::requestSave);
@@ -93,7 +95,7 @@ QSize WindowBar::sizeHint() const
 
 void WindowBar::setPreviewShown(bool shown)
 {
-    m_preview->setName(shown ? QStringLiteral("Hide preview") : QStringLiteral("Show preview"));
+    m_preview->setName(shown ? u"Hide preview"_s : u"Show preview"_s);
     m_preview->setHighlighted(shown);
 }
 
@@ -122,9 +124,9 @@ void WindowBar::openSettingsMenu()
         action->setChecked(on);
         connect(action, &QAction::toggled, &m_model, set);
     };
-    add(QStringLiteral("Show namespace details"), m_model.showNamespace(), &AppModel::setShowNamespace);
-    add(QStringLiteral("Back up originals before writing"), m_model.backupOriginals(), &AppModel::setBackupOriginals);
-    add(QStringLiteral("Also write sidecar .xmp"), m_model.writeSidecar(), &AppModel::setWriteSidecar);
+    add(u"Show namespace details"_s, m_model.showNamespace(), &AppModel::setShowNamespace);
+    add(u"Back up originals before writing"_s, m_model.backupOriginals(), &AppModel::setBackupOriginals);
+    add(u"Also write sidecar .xmp"_s, m_model.writeSidecar(), &AppModel::setWriteSidecar);
     menu->popUpUnder(m_settings, Qt::AlignRight, true);
 }
 

@@ -5,6 +5,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int looksPerInterval = 20;
@@ -13,7 +15,7 @@ constexpr int looksPerInterval = 20;
 QSet<QString> openFiles(qint64 processID)
 {
     QSet<QString> paths;
-    const QDir descriptors(QStringLiteral("/proc/%1/fd").arg(processID));
+    const QDir descriptors(u"/proc/%1/fd"_s.arg(processID));
     const QFileInfoList links = descriptors.entryInfoList(QDir::Files | QDir::System | QDir::NoDotAndDotDot);
     for (const QFileInfo& link : links)
         if (const QString path = link.symLinkTarget(); !path.isEmpty())

@@ -3,9 +3,9 @@
 #include "platform/images/ImageModule.h"
 #include "platform/images/Orientation.h"
 
-using namespace Qt::StringLiterals;
-
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 QImage rawPreview(const ExifToolRunner& tool, const QString& path, int longSide, const std::stop_token& stop)
 {

@@ -15,9 +15,9 @@
 
 #include <sys/stat.h>
 
-using namespace Qt::StringLiterals;
-
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 

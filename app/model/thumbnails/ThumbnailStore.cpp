@@ -18,9 +18,9 @@
 
 #include <sys/resource.h>
 
-using namespace Qt::StringLiterals;
-
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -8,9 +8,9 @@
 
 #include <array>
 
-using namespace Qt::StringLiterals;
-
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -11,6 +11,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double nearestAcross = 1;  // km: the data knows nothing finer
@@ -28,7 +30,7 @@ int fewestLabels(double kilometresAcross)
 constexpr double statesUpTo = 1200;  // km across; beyond, state lines would be a thicket
 constexpr double graticuleFrom = 300;  // km across
 
-const QString attributionText = QStringLiteral("© GeoNames");
+const QString attributionText = u"© GeoNames"_s;
 
 constexpr double kilometresPerDegree = MapProjection::earthRadius * M_PI / 180;
 
@@ -272,8 +274,7 @@ void Scene::drawScaleBar(QPainter& painter) const
     const auto* length = std::upper_bound(std::begin(lengths), std::end(lengths), most) - 1;
     const double kilometres = *std::max(length, std::begin(lengths));
     const double bottom = m_request.size.height() - 7;
-    const auto text =
-        kilometres < 1 ? QStringLiteral("%1 m").arg(kilometres * 1000) : QStringLiteral("%1 km").arg(kilometres);
+    const auto text = kilometres < 1 ? u"%1 m"_s.arg(kilometres * 1000) : u"%1 km"_s.arg(kilometres);
     const QLineF bar(8, bottom, 8 + kilometres * m_projection.scale(), bottom);
     painter.setPen(QPen(m_palette.halo, 3.2, Qt::SolidLine, Qt::SquareCap));
     painter.drawLine(bar);

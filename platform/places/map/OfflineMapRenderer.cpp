@@ -10,6 +10,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Flag = std::shared_ptr<std::atomic<bool>>;
@@ -39,7 +41,7 @@ bool isDrawable(const MapRequest& request)
 PlaceResult<MapImage> draw(const MapData* data, const MapRequest& request, const IsCancelled& isCancelled)
 {
     if (!data)
-        return { {}, PlaceError::noData, QStringLiteral("The map’s data is not installed.") };
+        return { {}, PlaceError::noData, u"The map’s data is not installed."_s };
     if (!isDrawable(request))
         return { {}, PlaceError::noData, {} };
     auto map = drawMap(*data, request, isCancelled);

@@ -5,18 +5,18 @@
 
 #include <QDir>
 
-using namespace Qt::StringLiterals;
-
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString idPrefix = QStringLiteral("place:");
+const QString idPrefix = u"place:"_s;
 
 template <typename T>
 PlaceResult<T> noData()
 {
-    return { {}, PlaceError::noData, QStringLiteral("Place search is not installed") };
+    return { {}, PlaceError::noData, u"Place search is not installed"_s };
 }
 
 /// The other name that was found, if it was one; then state and country. An airport's or landmark's town comes first.

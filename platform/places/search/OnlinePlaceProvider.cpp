@@ -13,10 +13,11 @@
 
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 struct OnlinePlaceProvider::Service {
     OnlinePlaceOptions options{};

@@ -7,9 +7,9 @@
 
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
-
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <cmath>
 
-using namespace Qt::StringLiterals;
-
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -23,7 +23,7 @@ constexpr int townColumns = 360 * townCellsPerDegree;
 constexpr quint16 sea = 0xFFFF;
 
 const QString placeColumns =
-    QStringLiteral("p.id, p.kind, p.name, p.town, p.state, p.country, p.latitude, p.longitude, p.population, p.rank");
+    u"p.id, p.kind, p.name, p.town, p.state, p.country, p.latitude, p.longitude, p.population, p.rank"_s;
 
 std::optional<QSqlQuery> prepare(const QSqlDatabase& database, const QString& statement)
 {
@@ -81,19 +81,19 @@ double kilometresBetween(const GeoPoint& a, const GeoPoint& b)
 }
 
 PlaceDatabase::PlaceDatabase(const QString& path)
-    : m_connection(QStringLiteral("places-") + QUuid::createUuid().toString(QUuid::WithoutBraces))
+    : m_connection(u"places-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces))
 {
     if (!QFile::exists(path))
         return;
-    auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
+    auto database = QSqlDatabase::addDatabase(u"QSQLITE"_s, m_connection);
     // Nobody writes the file while the program runs: no locks, no journal, and pages straight from the mapped file.
-    database.setDatabaseName(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded) + QStringLiteral("?immutable=1"));
-    database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI"));
+    database.setDatabaseName(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded) + u"?immutable=1"_s);
+    database.setConnectOptions(u"QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI"_s);
     if (!database.open())
         return;
     QSqlQuery pragma(database);
-    pragma.exec(QStringLiteral("PRAGMA mmap_size=268435456"));
-    if (!pragma.exec(QStringLiteral("PRAGMA user_version")) || !pragma.next() || pragma.value(0) != formatVersion)
+    pragma.exec(u"PRAGMA mmap_size=268435456"_s);
+    if (!pragma.exec(u"PRAGMA user_version"_s) || !pragma.next() || pragma.value(0) != formatVersion)
         return;
     pragma.clear();
     m_matching = prepare(database,

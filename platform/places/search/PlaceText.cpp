@@ -4,6 +4,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Two letters of click languages that folding leaves alone and no place's name ends or begins with.
@@ -98,27 +100,27 @@ QString markNameEnd(const QString& folded)
 
 QString countryWord(const QString& code)
 {
-    return QChar(contextMark) + QStringLiteral("c") + code.toLower();
+    return QChar(contextMark) + u"c"_s + code.toLower();
 }
 
 QString stateWord(int state)
 {
-    return QChar(contextMark) + QStringLiteral("s") + QString::number(state);
+    return QChar(contextMark) + u"s"_s + QString::number(state);
 }
 
 QString initialsWord(const QString& initials)
 {
-    return QChar(contextMark) + QStringLiteral("i") + initials;
+    return QChar(contextMark) + u"i"_s + initials;
 }
 
 QString townWord(const QString& word)
 {
-    return QChar(contextMark) + QStringLiteral("t") + word;
+    return QChar(contextMark) + u"t"_s + word;
 }
 
 QString codeWord(const QString& code)
 {
-    return QChar(contextMark) + QStringLiteral("k") + code.toLower();
+    return QChar(contextMark) + u"k"_s + code.toLower();
 }
 
 bool isMisspeltStart(QByteArrayView typed, QByteArrayView name)

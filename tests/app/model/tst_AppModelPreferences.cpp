@@ -5,9 +5,9 @@
 #include <QTest>
 
 using namespace Quorbel;
-using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
+using namespace Quorbel::Test;
 class TestAppModelPreferences : public QObject {
     Q_OBJECT
 

@@ -7,6 +7,8 @@
 #include <QTest>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
+
 using namespace Quorbel::Test;
 
 namespace {
@@ -17,18 +19,19 @@ struct Outcome {
     QString error{};
 };
 
-Outcome runProgram(const QString& path, const QString& tool, const QString& program = QStringLiteral(QUORBEL_PROGRAM))
+Outcome runProgram(
+    const QString& path, const QString& tool, const QString& program = QString::fromUtf8(QUORBEL_PROGRAM))
 {
     auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QUORBEL_SELFTEST"), path);
+    environment.insert(u"QUORBEL_SELFTEST"_s, path);
     if (tool.isEmpty())
-        environment.remove(QStringLiteral("QUORBEL_EXIFTOOL"));
+        environment.remove(u"QUORBEL_EXIFTOOL"_s);
     else
-        environment.insert(QStringLiteral("QUORBEL_EXIFTOOL"), tool);
+        environment.insert(u"QUORBEL_EXIFTOOL"_s, tool);
     // No display may be needed.
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-    environment.remove(QStringLiteral("DISPLAY"));
-    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+    environment.remove(u"DISPLAY"_s);
+    environment.remove(u"WAYLAND_DISPLAY"_s);
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(program, {});
@@ -41,7 +44,7 @@ Outcome runProgram(const QString& path, const QString& tool, const QString& prog
 QByteArray recordOf(const QString& path, const QJsonObject& more)
 {
     QJsonObject object = more;
-    object.insert(QStringLiteral("SourceFile"), path);
+    object.insert(u"SourceFile"_s, path);
     return toolJson({ object });
 }
 
@@ -51,48 +54,47 @@ class tst_SelfTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+    void initTestCase() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
 
     void passes()
     {
         const PhotoFolder folder;
-        folder.add(QStringLiteral("b.jpg"));
-        const QUrl target = folder.add(QStringLiteral("A.jpg"), jpegBytes(40, 30));
-        folder.add(QStringLiteral("a.jpg"));
-        folder.add(QStringLiteral("0.txt"));
-        QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("0.jpg/inner.jpg")));  // a folder is no photo
+        folder.add(u"b.jpg"_s);
+        const QUrl target = folder.add(u"A.jpg"_s, jpegBytes(40, 30));
+        folder.add(u"a.jpg"_s);
+        folder.add(u"0.txt"_s);
+        QVERIFY(QDir(folder.path()).mkpath(u"0.jpg/inner.jpg"_s));  // a folder is no photo
         const ExifToolRunner tool = realTool();
         tool.write({ "-XMP-photoshop:Headline=old", "-XMP-dc:Title=T", "-IPTC:Keywords=a \"b\" \\", "-IPTC:Keywords=c",
                        "-EXIF:Model=X1" },
             { target }, false);
-        const auto untouched = readFile(folder.path(QStringLiteral("a.jpg")));
+        const auto untouched = readFile(folder.path(u"a.jpg"_s));
         const auto outcome = runProgram(folder.path(), tool.exiftoolURL.toLocalFile());
         QString error = outcome.error;
-        error.replace(QRegularExpression(QStringLiteral("SelfTest-\\d{10,}\\)")), QStringLiteral("SelfTest-TIME)"));
-        QVERIFY(error.contains(QStringLiteral(" [JPEG · 40×30 · ")));
-        error.replace(QRegularExpression(QStringLiteral(" \\[JPEG[^\\]]*\\]")), QStringLiteral(" [DETAIL]"));
+        error.replace(QRegularExpression(u"SelfTest-\\d{10,}\\)"_s), u"SelfTest-TIME)"_s);
+        QVERIFY(error.contains(u" [JPEG · 40×30 · "_s));
+        error.replace(QRegularExpression(u" \\[JPEG[^\\]]*\\]"_s), u" [DETAIL]"_s);
         QCOMPARE(error,
-            QStringLiteral("SELFTEST exiftool: ") + tool.exiftoolURL.toLocalFile()
-                + QStringLiteral(
-                    "\nSELFTEST read 3 record(s)\n"
-                    "  first: A.jpg [DETAIL] title=T keywords=[\"a \\\"b\\\" \\\\\", \"c\"] camera=[\"Camera\"]\n"
-                    "SELFTEST write round-trip OK (headline=SelfTest-TIME)\n"
-                    "SELFTEST PASS\n"));
+            u"SELFTEST exiftool: "_s + tool.exiftoolURL.toLocalFile()
+                + u"\nSELFTEST read 3 record(s)\n"
+                  "  first: A.jpg [DETAIL] title=T keywords=[\"a \\\"b\\\" \\\\\", \"c\"] camera=[\"Camera\"]\n"
+                  "SELFTEST write round-trip OK (headline=SelfTest-TIME)\n"
+                  "SELFTEST PASS\n"_s);
         QCOMPARE(outcome.status, 0);
         QCOMPARE(outcome.output, QString());
-        QVERIFY(!exiftoolValues(target).contains(QStringLiteral("XMP:Headline")));
-        QCOMPARE(readFile(folder.path(QStringLiteral("a.jpg"))), untouched);
+        QVERIFY(!exiftoolValues(target).contains(u"XMP:Headline"_s));
+        QCOMPARE(readFile(folder.path(u"a.jpg"_s)), untouched);
         QCOMPARE(folder.names().size(), 5);  // no backup
     }
 
     void findsNoTool()
     {
         const PhotoFolder prefix;
-        QVERIFY(QDir(prefix.path()).mkpath(QStringLiteral("bin")));
-        const QString program = prefix.path(QStringLiteral("bin/quorbel"));
-        QVERIFY(QFile::copy(QStringLiteral(QUORBEL_PROGRAM), program));
+        QVERIFY(QDir(prefix.path()).mkpath(u"bin"_s));
+        const QString program = prefix.path(u"bin/quorbel"_s);
+        QVERIFY(QFile::copy(QString::fromUtf8(QUORBEL_PROGRAM), program));
         const auto outcome = runProgram(prefix.path(), {}, program);
-        QCOMPARE(outcome.error, QStringLiteral("SELFTEST FAIL: ExifTool not located in bundle\n"));
+        QCOMPARE(outcome.error, u"SELFTEST FAIL: ExifTool not located in bundle\n"_s);
         QCOMPARE(outcome.status, 2);
         QCOMPARE(outcome.output, QString());
     }
@@ -100,11 +102,10 @@ private slots:
     void findsNoImages()
     {
         const PhotoFolder folder;
-        folder.add(QStringLiteral("movie.mov"));
+        folder.add(u"movie.mov"_s);
         FakeTool tool;
         const auto outcome = runProgram(folder.path(), tool.scriptPath());
-        QCOMPARE(outcome.error,
-            QStringLiteral("SELFTEST exiftool: ") + tool.scriptPath() + QStringLiteral("\nSELFTEST FAIL: no images\n"));
+        QCOMPARE(outcome.error, u"SELFTEST exiftool: "_s + tool.scriptPath() + u"\nSELFTEST FAIL: no images\n"_s);
         QCOMPARE(outcome.status, 3);
         QVERIFY(tool.calls().isEmpty());
     }
@@ -123,16 +124,16 @@ private slots:
         QFETCH(QString, headline);
         QFETCH(QString, got);
         const PhotoFolder folder;
-        const QString photo = folder.add(QStringLiteral("a.dat")).toLocalFile();  // one file is taken as it is
+        const QString photo = folder.add(u"a.dat"_s).toLocalFile();  // one file is taken as it is
         FakeTool tool;
         tool.answerAlways({ .standardOutput = recordOf(photo,
                                 headline.isNull() ? QJsonObject() : QJsonObject{ { "XMP:Headline", headline } }) });
         const auto outcome = runProgram(photo, tool.scriptPath());
         QCOMPARE(outcome.error,
-            QStringLiteral("SELFTEST exiftool: ") + tool.scriptPath()
-                + QStringLiteral("\nSELFTEST read 1 record(s)\n  first: a.dat [DAT] title=— keywords=[] camera=[]\n"
-                                 "SELFTEST FAIL: write not read back (got ")
-                + got + QStringLiteral(")\n"));
+            u"SELFTEST exiftool: "_s + tool.scriptPath()
+                + u"\nSELFTEST read 1 record(s)\n  first: a.dat [DAT] title=— keywords=[] camera=[]\n"
+                  "SELFTEST FAIL: write not read back (got "_s
+                + got + u")\n"_s);
         QCOMPARE(outcome.status, 4);
         QCOMPARE(outcome.output, QString());
         const auto calls = tool.calls();
@@ -152,12 +153,11 @@ private slots:
     {
         QFETCH(int, failingRun);
         const PhotoFolder folder;
-        folder.add(QStringLiteral("a.jpg"));
+        folder.add(u"a.jpg"_s);
         FakeTool tool;
         tool.answer(failingRun, { .standardError = "Error: disk on fire", .exitCode = 1 });
         const auto outcome = runProgram(folder.path(), tool.scriptPath());
-        QVERIFY2(outcome.error.endsWith(
-                     QStringLiteral("\nSELFTEST FAIL: ExifTool exited with code 1: Error: disk on fire\n")),
+        QVERIFY2(outcome.error.endsWith(u"\nSELFTEST FAIL: ExifTool exited with code 1: Error: disk on fire\n"_s),
             qPrintable(outcome.error));
         QCOMPARE(outcome.status, 5);
         QCOMPARE(outcome.output, QString());
@@ -175,8 +175,8 @@ private slots:
     {
         QFETCH(QString, path);
         const auto outcome = runProgram(path, realTool().exiftoolURL.toLocalFile());
-        QVERIFY2(outcome.error.contains(QStringLiteral("\nSELFTEST FAIL: ExifTool exited with code 1: ")),
-            qPrintable(outcome.error));
+        QVERIFY2(
+            outcome.error.contains(u"\nSELFTEST FAIL: ExifTool exited with code 1: "_s), qPrintable(outcome.error));
         QCOMPARE(outcome.status, 5);
     }
 };

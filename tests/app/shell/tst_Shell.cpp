@@ -20,6 +20,8 @@
 #include <QSignalSpy>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
+
 using namespace Quorbel::Test;
 
 class tst_Shell : public QObject {
@@ -56,11 +58,11 @@ void tst_Shell::shortcuts()
     WindowFixture fixture;
     int help = 0;
     new Menus(*fixture.model.model, *fixture.content, { .openSettings = {}, .openHelp = [&] { ++help; } });
-    fixture.open({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") });
+    fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
     fixture.show();
     QWidget* window = fixture.window.get();
-    QVERIFY(!action(fixture, QStringLiteral("Save"))->isEnabled());
-    fixture.model->setSingle(QStringLiteral("title"), QStringLiteral("New"));
+    QVERIFY(!action(fixture, u"Save"_s)->isEnabled());
+    fixture.model->setSingle(u"title"_s, u"New"_s);
     QTest::keyClick(window, Qt::Key_S, Qt::ControlModifier);
     QVERIFY(fixture.model->saveOpen());
     fixture.model->discardSaveDialog();
@@ -68,36 +70,34 @@ void tst_Shell::shortcuts()
     QCOMPARE(fixture.panels, 1);
     QTest::keyClick(window, Qt::Key_F1);
     QCOMPARE(help, 1);
-    QVERIFY(action(fixture, QStringLiteral("Refresh"))->isEnabled());
+    QVERIFY(action(fixture, u"Refresh"_s)->isEnabled());
     // What another program wrote is seen after Ctrl+R at the latest.
-    exiftool({ QStringLiteral("-overwrite_original"), QStringLiteral("-XMP-dc:Title=Elsewhere"),
-        fixture.model.folder.path(QStringLiteral("a.jpg")) });
+    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=Elsewhere"_s, fixture.model.folder.path(u"a.jpg"_s) });
     QTest::keyClick(window, Qt::Key_R, Qt::ControlModifier);
-    QTRY_COMPARE_WITH_TIMEOUT(
-        fixture.model->draftValues().value(QStringLiteral("title")), QStringLiteral("Elsewhere"), 30'000);
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.model->draftValues().value(u"title"_s), u"Elsewhere"_s, 30'000);
     QTest::keyClick(window, Qt::Key_W, Qt::ControlModifier);
     QVERIFY(fixture.model->records().isEmpty());
-    QVERIFY(!action(fixture, QStringLiteral("Refresh"))->isEnabled());
-    QVERIFY(!action(fixture, QStringLiteral("Check for Updates…")));  // no feed in this build
+    QVERIFY(!action(fixture, u"Refresh"_s)->isEnabled());
+    QVERIFY(!action(fixture, u"Check for Updates…"_s));  // no feed in this build
 }
 
 void tst_Shell::selectAllIsTheFieldsFirst()
 {
     WindowFixture fixture;
     new Menus(*fixture.model.model, *fixture.content, {});
-    fixture.open({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") });
+    fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
     fixture.show();
-    auto* field = fixture.window->findChild<QLineEdit*>(QStringLiteral("field"));
-    field->setText(QStringLiteral("words"));
+    auto* field = fixture.window->findChild<QLineEdit*>(u"field"_s);
+    field->setText(u"words"_s);
     field->setFocus();
     field->deselect();
-    action(fixture, QStringLiteral("Select All"))->trigger();
-    QCOMPARE(field->selectedText(), QStringLiteral("words"));
+    action(fixture, u"Select All"_s)->trigger();
+    QCOMPARE(field->selectedText(), u"words"_s);
     QCOMPARE(fixture.model->selection().size(), 1);
-    action(fixture, QStringLiteral("Cut"))->trigger();
+    action(fixture, u"Cut"_s)->trigger();
     QVERIFY(field->text().isEmpty());
-    action(fixture, QStringLiteral("Undo"))->trigger();
-    QCOMPARE(field->text(), QStringLiteral("words"));
+    action(fixture, u"Undo"_s)->trigger();
+    QCOMPARE(field->text(), u"words"_s);
     fixture.window->findChild<SidebarList*>()->setFocus();
     QTest::keyClick(fixture.window->focusWidget(), Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(fixture.model->selection().size(), 2);
@@ -108,15 +108,15 @@ void tst_Shell::recentItems()
     WindowFixture fixture;
     new Menus(*fixture.model.model, *fixture.content, {});
     fixture.show();
-    QMenu* recents = action(fixture, QStringLiteral("Open Recent"))->menu<QMenu*>();
+    QMenu* recents = action(fixture, u"Open Recent"_s)->menu<QMenu*>();
     QVERIFY(!recents->menuAction()->isEnabled());
-    fixture.open({ QStringLiteral("a & b.jpg") });
-    const QUrl photo = fixture.model.url(QStringLiteral("a & b.jpg"));
+    fixture.open({ u"a & b.jpg"_s });
+    const QUrl photo = fixture.model.url(u"a & b.jpg"_s);
     QVERIFY(fixture.model.load({ photo }));
     QCOMPARE(recents->actions().first()->text().replace(QLatin1String("&&"), QLatin1String("&")), photo.toLocalFile());
     recents->actions().at(1)->trigger();
     QTRY_COMPARE(fixture.model->folderURL(), fixture.model.folderURL());
-    action(fixture, QStringLiteral("Clear Menu"))->trigger();
+    action(fixture, u"Clear Menu"_s)->trigger();
     QVERIFY(fixture.model->recentPaths().isEmpty());
     QVERIFY(!recents->menuAction()->isEnabled());
 }
@@ -125,7 +125,7 @@ void tst_Shell::menusRestUnderASheet()
 {
     WindowFixture fixture;
     new Menus(*fixture.model.model, *fixture.content, {});
-    fixture.open({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") });
+    fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
     fixture.show();
     fixture.model->setAddOpen(true);
     QTest::keyClick(fixture.window->focusWidget(), Qt::Key_O, Qt::ControlModifier);
@@ -146,9 +146,9 @@ void tst_Shell::closingAsksAboutUnsavedEdits()
     fixture.model.relaunch();
     fixture.build();
     MainWindowDelegate delegate(*fixture.model.model, *fixture.window, *fixture.content->sheets());
-    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.open({ u"a.jpg"_s });
     fixture.show();
-    fixture.model->setSingle(QStringLiteral("title"), QStringLiteral("New"));
+    fixture.model->setSingle(u"title"_s, u"New"_s);
     fixture.window->close();
     QVERIFY(fixture.window->isVisible());
     QVERIFY(fixture.model->saveOpen());
@@ -186,13 +186,12 @@ void tst_Shell::filesFromACommandLine_data()
     QTest::addColumn<QString>("argument");
     QTest::addColumn<QString>("path");
     const QString here = QDir::currentPath();
-    QTest::newRow("absolute") << QStringLiteral("/p/a b.jpg") << QStringLiteral("/p/a b.jpg");
-    QTest::newRow("relative") << QStringLiteral("../x/./b.jpg")
-                              << QDir::cleanPath(here + QStringLiteral("/../x/b.jpg"));
-    QTest::newRow("folder with a slash") << QStringLiteral("/p/dir/") << QStringLiteral("/p/dir");
-    QTest::newRow("URL") << QStringLiteral("file:///p/Z%C3%BCrich%20%231.jpg") << QStringLiteral("/p/Zürich #1.jpg");
-    QTest::newRow("name like an escape") << QStringLiteral("/p/a%20b.jpg") << QStringLiteral("/p/a%20b.jpg");
-    QTest::newRow("name with a colon") << QStringLiteral("a:b.jpg") << here + QStringLiteral("/a:b.jpg");
+    QTest::newRow("absolute") << u"/p/a b.jpg"_s << u"/p/a b.jpg"_s;
+    QTest::newRow("relative") << u"../x/./b.jpg"_s << QDir::cleanPath(here + u"/../x/b.jpg"_s);
+    QTest::newRow("folder with a slash") << u"/p/dir/"_s << u"/p/dir"_s;
+    QTest::newRow("URL") << u"file:///p/Z%C3%BCrich%20%231.jpg"_s << u"/p/Zürich #1.jpg"_s;
+    QTest::newRow("name like an escape") << u"/p/a%20b.jpg"_s << u"/p/a%20b.jpg"_s;
+    QTest::newRow("name with a colon") << u"a:b.jpg"_s << here + u"/a:b.jpg"_s;
 }
 
 void tst_Shell::filesFromACommandLine()
@@ -213,19 +212,19 @@ void tst_Shell::settingsShowAndWritePreferences()
                 return toggle;
         return nullptr;
     };
-    QBSwitch* backups = named(QStringLiteral("Back up original before writing"));
+    QBSwitch* backups = named(u"Back up original before writing"_s);
     QVERIFY(backups->isChecked());
     QTest::mouseClick(backups, Qt::LeftButton);
     QVERIFY(!model->backupOriginals());
-    QTest::keyClick(named(QStringLiteral("Strip special characters")), Qt::Key_Space);
+    QTest::keyClick(named(u"Strip special characters"_s), Qt::Key_Space);
     QVERIFY(!model->stripSpecialChars());
     model->setWriteSidecar(true);
-    QVERIFY(named(QStringLiteral("Also write a sidecar .xmp file"))->isChecked());
+    QVERIFY(named(u"Also write a sidecar .xmp file"_s)->isChecked());
 
     auto* pattern = view.findChild<QBTextField*>();
-    QCOMPARE(pattern->text(), QStringLiteral("%Date%_%Title%"));
-    QTest::keyClicks(pattern, QStringLiteral("x"));
-    QCOMPARE(model->renamePattern(), QStringLiteral("%Date%_%Title%x"));
+    QCOMPARE(pattern->text(), u"%Date%_%Title%"_s);
+    QTest::keyClicks(pattern, u"x"_s);
+    QCOMPARE(model->renamePattern(), u"%Date%_%Title%x"_s);
 
     auto* appearance = view.findChild<SegmentedPicker*>();
     QCOMPARE(appearance->currentIndex(), 0);
@@ -243,19 +242,19 @@ void tst_Shell::onlySecureAddressesOfAPlaceServiceAreKept()
     ModelFixture model(std::nullopt);
     SettingsView view(*model.model);
     auto* field = view.findChildren<QBTextField*>().last();
-    QCOMPARE(field->placeholderText(), QStringLiteral("https://…"));
+    QCOMPARE(field->placeholderText(), u"https://…"_s);
     const auto enter = [field](const QString& text) {
         field->selectAll();
         field->insert(text);
         emit field->textEdited(field->text());
     };
-    enter(QStringLiteral(" https://places.example/api "));
-    QCOMPARE(model->placeService(), QStringLiteral("https://places.example/api"));
+    enter(u" https://places.example/api "_s);
+    QCOMPARE(model->placeService(), u"https://places.example/api"_s);
     QVERIFY(field->toolTip().isEmpty());
-    for (const QString& address : { QStringLiteral("http://places.example"), QStringLiteral("places.example"),
-             QStringLiteral("file:///etc/passwd"), QStringLiteral("https://") }) {
+    for (const QString& address :
+        { u"http://places.example"_s, u"places.example"_s, u"file:///etc/passwd"_s, u"https://"_s }) {
         enter(address);
-        QCOMPARE(model->placeService(), QStringLiteral("https://places.example/api"));
+        QCOMPARE(model->placeService(), u"https://places.example/api"_s);
         QCOMPARE(field->text(), address);
         QVERIFY2(!field->toolTip().isEmpty(), qPrintable(address));
     }
@@ -280,13 +279,12 @@ void tst_Shell::helpNamesThisPlatformsKeys()
             text += label->text() + QLatin1Char('\n');
     }
     QCOMPARE(titles,
-        (QStringList{ QStringLiteral("Getting Started"), QStringLiteral("The Interface"),
-            QStringLiteral("Editing Metadata"), QStringLiteral("Batch Editing"), QStringLiteral("Renaming Files"),
-            QStringLiteral("Saving & Backups"), QStringLiteral("Settings") }));
-    for (const QString& foreign : { QStringLiteral("⌘"), QStringLiteral("⇧"), QStringLiteral("Finder") })
+        (QStringList{ u"Getting Started"_s, u"The Interface"_s, u"Editing Metadata"_s, u"Batch Editing"_s,
+            u"Renaming Files"_s, u"Saving & Backups"_s, u"Settings"_s }));
+    for (const QString& foreign : { u"⌘"_s, u"⇧"_s, u"Finder"_s })
         QVERIFY2(!text.contains(foreign), qPrintable(foreign));
-    QVERIFY(text.contains(QStringLiteral("Choose File ▸ Open… (Ctrl+O), or drag photos onto the window.")));
-    QVERIFY(text.contains(QStringLiteral("Right-click a photo in your file manager and choose Open With ▸ Quorbel.")));
+    QVERIFY(text.contains(u"Choose File ▸ Open… (Ctrl+O), or drag photos onto the window."_s));
+    QVERIFY(text.contains(u"Right-click a photo in your file manager and choose Open With ▸ Quorbel."_s));
 }
 
 void tst_Shell::noticesAnswer()
@@ -296,16 +294,15 @@ void tst_Shell::noticesAnswer()
     SheetHost& sheets = *fixture.content->sheets();
     QList<qsizetype> answers;
     const auto ask = [&] {
-        presentMessage(sheets, QStringLiteral("sparkles"), QStringLiteral("Quorbel 2.0 is available"),
-            QStringLiteral("Faster."), { QStringLiteral("Download"), QStringLiteral("Later") },
-            [&](qsizetype button) { answers.append(button); });
+        presentMessage(sheets, u"sparkles"_s, u"Quorbel 2.0 is available"_s, u"Faster."_s,
+            { u"Download"_s, u"Later"_s }, [&](qsizetype button) { answers.append(button); });
     };
     ask();
-    QTest::mouseClick(fixture.button(QStringLiteral("Later")), Qt::LeftButton);
+    QTest::mouseClick(fixture.button(u"Later"_s), Qt::LeftButton);
     ask();
     QTest::keyClick(fixture.window->focusWidget(), Qt::Key_Escape);
     ask();
-    QTest::mouseClick(fixture.button(QStringLiteral("Download")), Qt::LeftButton);
+    QTest::mouseClick(fixture.button(u"Download"_s), Qt::LeftButton);
     QCOMPARE(answers, (QList<qsizetype>{ 1, 1, 0 }));
     QVERIFY(!sheets.current());
 }
@@ -313,8 +310,8 @@ void tst_Shell::noticesAnswer()
 void tst_Shell::openPanelTakesFoldersAndFiles()
 {
     PhotoFolder folder;
-    folder.add(QStringLiteral("a.jpg"));
-    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("inner")));
+    folder.add(u"a.jpg"_s);
+    QVERIFY(QDir(folder.path()).mkdir(u"inner"_s));
     QWidget window;
     const auto choose = [&](const std::function<void(OpenPanel&)>& use) {
         std::optional<QList<QUrl>> chosen;
@@ -338,8 +335,8 @@ void tst_Shell::openPanelTakesFoldersAndFiles()
             QTest::mouseClick(panel.findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
         };
     };
-    QCOMPARE(choose(typed(QStringLiteral("a.jpg"))), QList<QUrl>{ folder.url(QStringLiteral("a.jpg")) });
-    QCOMPARE(choose(typed(folder.path(QStringLiteral("inner")))), QList<QUrl>{ folder.url(QStringLiteral("inner")) });
+    QCOMPARE(choose(typed(u"a.jpg"_s)), QList<QUrl>{ folder.url(u"a.jpg"_s) });
+    QCOMPARE(choose(typed(folder.path(u"inner"_s))), QList<QUrl>{ folder.url(u"inner"_s) });
     QCOMPARE(choose(press(QDialogButtonBox::Open)), QList<QUrl>{ QUrl::fromLocalFile(folder.path()) });
     QCOMPARE(choose(press(QDialogButtonBox::Cancel)), QList<QUrl>{});
 }

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,8 +20,7 @@ constexpr auto crashArgument = "--listen-and-crash";
 /// What the second start hands over, whatever its arguments look like.
 HandOver sample()
 {
-    return { { QUrl::fromLocalFile(QStringLiteral("/photos/a b.jpg")),
-                 QUrl::fromLocalFile(QStringLiteral("/photos/Zürich #1%20.jpg")) },
+    return { { QUrl::fromLocalFile(u"/photos/a b.jpg"_s), QUrl::fromLocalFile(u"/photos/Zürich #1%20.jpg"_s) },
         "token-1" };
 }
 
@@ -39,7 +39,7 @@ private slots:
     void garbageHandsOverNothing();
 
 private:
-    QString path() const { return m_folder->filePath(QStringLiteral("q.socket")); }
+    QString path() const { return m_folder->filePath(u"q.socket"_s); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };

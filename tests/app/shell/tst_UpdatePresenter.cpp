@@ -8,6 +8,7 @@
 #include <QTest>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,7 +30,7 @@ public:
             });
         });
     }
-    QUrl url() const { return QUrl(QStringLiteral("http://127.0.0.1:%1/feed.json").arg(serverPort())); }
+    QUrl url() const { return QUrl(u"http://127.0.0.1:%1/feed.json"_s.arg(serverPort())); }
 
     QByteArray status = "200 OK";
     QByteArray body;
@@ -72,9 +73,9 @@ private:
 
 void tst_UpdatePresenter::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    QTest::failOnWarning(QRegularExpression(u".*"_s));
     m_folder = std::make_unique<QTemporaryDir>();
-    m_defaults = std::make_shared<QSettings>(m_folder->filePath(QStringLiteral("s.ini")), QSettings::IniFormat);
+    m_defaults = std::make_shared<QSettings>(m_folder->filePath(u"s.ini"_s), QSettings::IniFormat);
     m_server = std::make_unique<FeedServer>();
     m_now = QDateTime(QDate(2026, 3, 29), QTime(12, 0));
     m_notices.clear();
@@ -147,17 +148,17 @@ void tst_UpdatePresenter::manualChecks_data()
     QTest::addColumn<int>("buttons");
 
     const QByteArray ok = "200 OK";
-    QTest::newRow("newer, without notes") << ok << feed(11) << QStringLiteral("Quorbel 2.0 is available")
-                                          << QStringLiteral("A newer version of Quorbel is available.") << 2;
+    QTest::newRow("newer, without notes")
+        << ok << feed(11) << u"Quorbel 2.0 is available"_s << u"A newer version of Quorbel is available."_s << 2;
     QTest::newRow("newer, with notes") << ok
                                        << QByteArray(
                                               R"({"version":"2.0","build":11,"url":"https://x","notes":"Faster."})")
-                                       << QStringLiteral("Quorbel 2.0 is available") << QStringLiteral("Faster.") << 2;
-    QTest::newRow("same") << ok << feed(10) << QStringLiteral("You're up to date")
-                          << QStringLiteral("Quorbel is running the latest version.") << 1;
+                                       << u"Quorbel 2.0 is available"_s << u"Faster."_s << 2;
+    QTest::newRow("same") << ok << feed(10) << u"You're up to date"_s << u"Quorbel is running the latest version."_s
+                          << 1;
     QTest::newRow("not found, though the body is a feed")
-        << QByteArray("404 Not Found") << feed(11) << QStringLiteral("Couldn't check for updates")
-        << QStringLiteral("Please check your internet connection and try again.") << 1;
+        << QByteArray("404 Not Found") << feed(11) << u"Couldn't check for updates"_s
+        << u"Please check your internet connection and try again."_s << 1;
 }
 
 /// Whatever was recorded and whatever comes out, a manual check fetches, records and speaks.
@@ -214,8 +215,7 @@ void tst_UpdatePresenter::onlyHttpsIsOpened()
 void tst_UpdatePresenter::withoutAHostNothingIsFetched()
 {
     QVERIFY(UpdatePresenter::feedURL({}).isEmpty());
-    QCOMPARE(UpdatePresenter::feedURL(QStringLiteral("example.org")),
-        QUrl(QStringLiteral("https://example.org/quorbel/appcast.json")));
+    QCOMPARE(UpdatePresenter::feedURL(u"example.org"_s), QUrl(u"https://example.org/quorbel/appcast.json"_s));
     const auto updates = presenter({});
     updates->checkAutomatically();
     QTest::qWait(50);
@@ -224,9 +224,9 @@ void tst_UpdatePresenter::withoutAHostNothingIsFetched()
 
 void tst_UpdatePresenter::buildNumbers()
 {
-    QCOMPARE(UpdatePresenter::buildNumber(QStringLiteral("412")), 412);
+    QCOMPARE(UpdatePresenter::buildNumber(u"412"_s), 412);
     QCOMPARE(UpdatePresenter::buildNumber({}), 0);
-    QCOMPARE(UpdatePresenter::buildNumber(QStringLiteral("1.2")), 0);
+    QCOMPARE(UpdatePresenter::buildNumber(u"1.2"_s), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_UpdatePresenter)

@@ -5,7 +5,7 @@
 #include <QTest>
 
 using namespace Quorbel;
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
 class TestExternalRefresh : public QObject {
     Q_OBJECT

@@ -15,6 +15,8 @@
 #include <utime.h>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
+
 using namespace Quorbel::Test;
 
 namespace {
@@ -27,7 +29,7 @@ MetadataService realService()
 /// The one value of a tag ("-XMP-dc:Title") as ExifTool prints it.
 QString exiftoolValue(const QUrl& file, const QString& tag)
 {
-    return QString::fromUtf8(exiftool({ QStringLiteral("-s3"), tag, file.toLocalFile() })).trimmed();
+    return QString::fromUtf8(exiftool({ u"-s3"_s, tag, file.toLocalFile() })).trimmed();
 }
 
 EditPlan titlePlan(const QString& title)
@@ -50,7 +52,7 @@ class CutTool {
 public:
     explicit CutTool(int n)
     {
-        writeFile(m_folder.path(QStringLiteral("Cut.pm")),
+        writeFile(m_folder.path(u"Cut.pm"_s),
             "package Cut; my $left = " + QByteArray::number(n)
                 + "; BEGIN { *CORE::GLOBAL::rename = sub { kill 'KILL', $$ unless $left--; CORE::rename($_[0], $_[1]) "
                   "} } 1;\n");
@@ -61,7 +63,7 @@ public:
     MetadataService service() const { return { { QUrl::fromLocalFile(script()), realTool().perlURL } }; }
 
 private:
-    QString script() const { return m_folder.path(QStringLiteral("exiftool")); }
+    QString script() const { return m_folder.path(u"exiftool"_s); }
 
     PhotoFolder m_folder;
 };
@@ -87,7 +89,7 @@ private slots:
         QTest::addRow("Latin 1") << "Zürich ÿ £" << true;
         QTest::addRow("the page's own") << "€ “quotes” … – — Œ Ž ™" << true;
         QTest::addRow("Central European") << "Łódź" << false;
-        QTest::addRow("decomposed") << QStringLiteral("Zu\u0308rich") << false;
+        QTest::addRow("decomposed") << u"Zu\u0308rich"_s << false;
         QTest::addRow("Chinese") << "東京" << false;
         QTest::addRow("emoji") << "🏔" << false;
         QTest::addRow("C1 control") << QString(QChar(0x81)) << false;
@@ -104,14 +106,14 @@ private slots:
     void reencodesInARunOfItsOwn()
     {
         FakeTool tool;
-        const QList<QUrl> files{ QUrl::fromLocalFile(QStringLiteral("/p/a.jpg")) };
-        const EditPlan plan{ .scalars = { { "category", QStringLiteral("東京") } } };
+        const QList<QUrl> files{ QUrl::fromLocalFile(u"/p/a.jpg"_s) };
+        const EditPlan plan{ .scalars = { { "category", u"東京"_s } } };
         MetadataService{ tool.runner() }.write(plan, files, { .backupOriginals = false });
         QCOMPARE(tool.calls(),
             (QList<QStringList>{ { "-overwrite_original", "-m", "-tagsfromfile", "@", "-iptc:all", "--iptc:TimeSent",
                                      "--iptc:ReleaseTime", "--iptc:ExpirationTime", "--iptc:TimeCreated",
                                      "--iptc:DigitalCreationTime", "-IPTC:CodedCharacterSet=UTF8", "/p/a.jpg" },
-                { "-overwrite_original", "-m", QStringLiteral("-IPTC:Category=東京"), "/p/a.jpg" } }));
+                { "-overwrite_original", "-m", u"-IPTC:Category=東京"_s, "/p/a.jpg" } }));
 
         FakeTool failing;
         failing.answerAlways({ .standardError = "no", .exitCode = 1 });
@@ -125,7 +127,7 @@ private slots:
         QTest::addRow("Latin") << "Zürich Łódź Ærø";
         QTest::addRow("Cyrillic, Greek") << "Москва Αθήνα";
         QTest::addRow("Hebrew, Arabic") << "ירושלים القاهرة";
-        QTest::addRow("Devanagari, combining marks") << QStringLiteral("वाराणसी Zu\u0308rich ạ̈");
+        QTest::addRow("Devanagari, combining marks") << u"वाराणसी Zu\u0308rich ạ̈"_s;
         QTest::addRow("Chinese, Japanese, Korean") << "北京 東京タワー 서울";
         QTest::addRow("emoji") << "🏔️👩‍👩‍👧 sky";
     }
@@ -133,7 +135,7 @@ private slots:
     {
         QFETCH(QString, text);
         PhotoFolder folder;
-        const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+        const QUrl photo = folder.add(u"a.jpg"_s);
         // What is there already, undeclared and thus Latin 1, must survive the change of encoding.
         exiftool({ "-q", "-overwrite_original", "-IPTC:Contact=Jürg", "-IPTC:Keywords=Süd", photo.toLocalFile() });
 
@@ -142,14 +144,14 @@ private slots:
         for (const auto& field : FieldSchema::all())
             if (field.kind == FieldKind::text || field.kind == FieldKind::multiline)
                 plan.scalars.insert(field.id, text);
-        plan.scalars.remove(QStringLiteral("urgency"));  // a digit by its standard
+        plan.scalars.remove(u"urgency"_s);  // a digit by its standard
         const auto service = realService();
         service.write(plan, { photo }, {});
 
         const auto record = service.read({ photo }).constFirst();
         QCOMPARE(SaveVerification::differences(plan, record), QStringList());
-        QCOMPARE(record.lists.value(QStringLiteral("keywords")), QStringList({ text, "Süd" }));
-        QCOMPARE(exiftoolValue(photo, QStringLiteral("-IPTC:Contact")), QStringLiteral("Jürg"));
+        QCOMPARE(record.lists.value(u"keywords"_s), QStringList({ text, "Süd" }));
+        QCOMPARE(exiftoolValue(photo, u"-IPTC:Contact"_s), u"Jürg"_s);
         const auto exiv2 = exiv2Values(photo);
         QStringList tags;
         for (const auto& field : FieldSchema::all())
@@ -166,16 +168,16 @@ private slots:
     void keepsTimesWithoutZone()
     {
         PhotoFolder folder;
-        const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+        const QUrl photo = folder.add(u"a.jpg"_s);
         exiftool({ "-q", "-overwrite_original", "-IPTC:TimeCreated=07:13:48+00:00", photo.toLocalFile() });
         // The tool itself writes no time without a zone: the zone's five bytes become an empty urgency.
         const QByteArray zoned("\x1c\x02\x3c\x00\x0b\x30\x37\x31\x33\x34\x38+0000", 16);
         const QByteArray zoneless("\x1c\x02\x3c\x00\x06\x30\x37\x31\x33\x34\x38\x1c\x02\x0a\x00\x00", 16);
         writeFile(photo.toLocalFile(), readFile(photo.toLocalFile()).replace(zoned, zoneless));
-        QCOMPARE(exiftoolValue(photo, QStringLiteral("-IPTC:TimeCreated")), QStringLiteral("07:13:48"));
-        realService().write(titlePlan(QStringLiteral("東京")), { photo }, {});
-        QCOMPARE(exiftoolValue(photo, QStringLiteral("-IPTC:TimeCreated")), QStringLiteral("07:13:48"));
-        QCOMPARE(exiftoolValue(photo, QStringLiteral("-IPTC:ObjectName")), QStringLiteral("東京"));
+        QCOMPARE(exiftoolValue(photo, u"-IPTC:TimeCreated"_s), u"07:13:48"_s);
+        realService().write(titlePlan(u"東京"_s), { photo }, {});
+        QCOMPARE(exiftoolValue(photo, u"-IPTC:TimeCreated"_s), u"07:13:48"_s);
+        QCOMPARE(exiftoolValue(photo, u"-IPTC:ObjectName"_s), u"東京"_s);
     }
 
     void verifiesInTheNormalFormOfTheKind_data()
@@ -257,18 +259,17 @@ private slots:
     {
         PhotoFolder folder;
         PhotoFolder elsewhere;
-        const QUrl photo = elsewhere.add(QStringLiteral("real.jpg"));
+        const QUrl photo = elsewhere.add(u"real.jpg"_s);
         const QByteArray path = QFile::encodeName(photo.toLocalFile());
-        QVERIFY(QFile::link(photo.toLocalFile(), folder.path(QStringLiteral("link.jpg"))));
+        QVERIFY(QFile::link(photo.toLocalFile(), folder.path(u"link.jpg"_s)));
         if (setxattr(path.constData(), "user.rated", "yes", 3, 0) != 0)
             QSKIP("the temporary folder's file system has no extended attributes");
         QCOMPARE(chmod(path.constData(), 0640), 0);
 
         for (const bool backup : { true, false }) {
-            realService().write(titlePlan(QStringLiteral("東京")), { folder.url(QStringLiteral("link.jpg")) },
-                { .backupOriginals = backup });
-            QVERIFY(QFileInfo(folder.path(QStringLiteral("link.jpg"))).isSymLink());
-            QCOMPARE(exiftoolValue(photo, QStringLiteral("-IPTC:ObjectName")), QStringLiteral("東京"));
+            realService().write(titlePlan(u"東京"_s), { folder.url(u"link.jpg"_s) }, { .backupOriginals = backup });
+            QVERIFY(QFileInfo(folder.path(u"link.jpg"_s)).isSymLink());
+            QCOMPARE(exiftoolValue(photo, u"-IPTC:ObjectName"_s), u"東京"_s);
             struct stat status { };
             QCOMPARE(stat(path.constData(), &status), 0);
             QCOMPARE(status.st_mode & 07777, mode_t(0640));
@@ -286,27 +287,24 @@ private slots:
         QVERIFY(QFile::setPermissions(urls[1].toLocalFile(), QFile::ReadOwner | QFile::ReadGroup));
         const QByteArray before = readFile(urls[0].toLocalFile());
         const auto service = realService();
-        QCOMPARE(
-            problem([&] { service.write(titlePlan("x"), { urls[1] }, {}); }), QStringLiteral("b.jpg is read-only."));
+        QCOMPARE(problem([&] { service.write(titlePlan("x"), { urls[1] }, {}); }), u"b.jpg is read-only."_s);
         QCOMPARE(problem([&] { service.write(titlePlan("x"), urls, {}); }),
-            QStringLiteral("1 of 3 photos is read-only: b.jpg; nothing was written."));
+            u"1 of 3 photos is read-only: b.jpg; nothing was written."_s);
         QCOMPARE(readFile(urls[0].toLocalFile()), before);
     }
 
     void dealsWithLeftovers()
     {
         PhotoFolder folder;
-        const QUrl photo = folder.add(QStringLiteral("a.jpg"));
-        const QString leftover = folder.path(QStringLiteral("a.jpg_exiftool_tmp"));
+        const QUrl photo = folder.add(u"a.jpg"_s);
+        const QString leftover = folder.path(u"a.jpg_exiftool_tmp"_s);
         writeFile(leftover, "half");
         const auto service = realService();
-        QVERIFY(problem([&] {
-            service.write(titlePlan("x"), { photo }, {});
-        }).contains(QStringLiteral("a.jpg_exiftool_tmp")));
+        QVERIFY(problem([&] { service.write(titlePlan("x"), { photo }, {}); }).contains(u"a.jpg_exiftool_tmp"_s));
         QVERIFY(QFile::exists(leftover));
         makeOld(leftover, qint64(25) * 60 * 60);
         service.write(titlePlan("x"), { photo }, {});
-        QCOMPARE(exiftoolValue(photo, QStringLiteral("-XMP-dc:Title")), QStringLiteral("x"));
+        QCOMPARE(exiftoolValue(photo, u"-XMP-dc:Title"_s), u"x"_s);
         QCOMPARE(folder.names(), QStringList("a.jpg"));
     }
 
@@ -322,7 +320,7 @@ private slots:
         bool isCut = true;
         for (int step = 0; isCut; ++step) {
             PhotoFolder folder;
-            const QUrl photo = folder.add(QStringLiteral("a.jpg"));
+            const QUrl photo = folder.add(u"a.jpg"_s);
             const QString path = photo.toLocalFile();
             isCut = !problem([&] {
                 CutTool(step).service().write(titlePlan("x"), { photo }, { .backupOriginals = backup });
@@ -331,8 +329,8 @@ private slots:
             if (isCut)
                 QCOMPARE(readFile(path), jpegBytes());
             else
-                QCOMPARE(exiftoolValue(photo, QStringLiteral("-XMP-dc:Title")), QStringLiteral("x"));
-            const QString original = path + QStringLiteral("_original");
+                QCOMPARE(exiftoolValue(photo, u"-XMP-dc:Title"_s), u"x"_s);
+            const QString original = path + u"_original"_s;
             QCOMPARE(QFile::exists(original), backup && !isCut);
             QVERIFY(!QFile::exists(original) || readFile(original) == jpegBytes());
             QVERIFY(isCut || step > 0);  // the tool was cut at least once
@@ -349,8 +347,8 @@ private slots:
     {
         QFETCH(QString, title);
         PhotoFolder folder;
-        const QUrl good = folder.add(QStringLiteral("a.jpg"));
-        const QUrl bad = folder.add(QStringLiteral("b - c.jpg"), "text, no photo");
+        const QUrl good = folder.add(u"a.jpg"_s);
+        const QUrl bad = folder.add(u"b - c.jpg"_s, "text, no photo");
         try {
             realService().write(titlePlan(title), { good, bad }, {});
             QFAIL("a file that is no photo was written to");
@@ -358,19 +356,18 @@ private slots:
             const auto failures = writeFailures(error, { good, bad });
             QCOMPARE(failures.size(), 1);
             QCOMPARE(failures[0].file, bad);
-            QVERIFY2(failures[0].reason.startsWith(QStringLiteral("Not a valid JPG")), qPrintable(failures[0].reason));
+            QVERIFY2(failures[0].reason.startsWith(u"Not a valid JPG"_s), qPrintable(failures[0].reason));
         }
-        QCOMPARE(exiftoolValue(good, QStringLiteral("-IPTC:ObjectName")), title);
+        QCOMPARE(exiftoolValue(good, u"-IPTC:ObjectName"_s), title);
         // One byte that is no text, in a warning about another file, does not hide the names.
         FakeTool tool;
         tool.answerAlways({ .standardError = "Warning: Odd \xff - /p/x.jpg\nError: Odd - /p/y.jpg\n", .exitCode = 1 });
-        const QList<QUrl> named{ QUrl::fromLocalFile(QStringLiteral("/p/y.jpg")) };
+        const QList<QUrl> named{ QUrl::fromLocalFile(u"/p/y.jpg"_s) };
         try {
             MetadataService{ tool.runner() }.write(titlePlan("x"), named, {});
             QFAIL("a failed run passed for a good one");
         } catch (const ToolError& error) {
-            QCOMPARE(writeFailures(error, named),
-                (QList<FileFailure>{ { .file = named[0], .reason = QStringLiteral("Odd") } }));
+            QCOMPARE(writeFailures(error, named), (QList<FileFailure>{ { .file = named[0], .reason = u"Odd"_s } }));
         }
         const ToolError silent(ToolError::ExecFailed{ 9, {} });
         QCOMPARE(writeFailures(silent, { good, bad }).size(), 2);
@@ -389,35 +386,35 @@ private slots:
     {
         QFETCH(QList<double>, position);
         PhotoFolder folder;
-        const QUrl inBoth = folder.add(QStringLiteral("a.jpg")), plain = folder.add(QStringLiteral("b.jpg"));
-        const QUrl broken = folder.add(QStringLiteral("c.jpg"), "text, no photo");
-        const QUrl inXmpOnly = folder.add(QStringLiteral("d.gif"),
-            QByteArray("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\1\0\1\0\0\2\2D\1\0;", 35));
+        const QUrl inBoth = folder.add(u"a.jpg"_s), plain = folder.add(u"b.jpg"_s);
+        const QUrl broken = folder.add(u"c.jpg"_s, "text, no photo");
+        const QUrl inXmpOnly = folder.add(
+            u"d.gif"_s, QByteArray("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\1\0\1\0\0\2\2D\1\0;", 35));
         exiftool({ "-q", "-overwrite_original", "-XMP-exif:GPSLatitude=1", "-XMP-exif:GPSLongitude=2",
             "-XMP-drone-dji:GPSLatitude=1", "-XMP-drone-dji:GPSLongitude=2", inBoth.toLocalFile() });
-        const EditPlan plan{ .scalars = { { "coords", QStringLiteral("%1, %2").arg(position[0]).arg(position[1]) } } };
+        const EditPlan plan{ .scalars = { { "coords", u"%1, %2"_s.arg(position[0]).arg(position[1]) } } };
         QVERIFY(!problem([&] { realService().write(plan, { inBoth, plain, broken, inXmpOnly }, {}); }).isEmpty());
         const auto held = [](const QString& group, const QUrl& photo) {
             QList<double> numbers;
-            const QByteArray answer = exiftool({ "-n", "-s3", QStringLiteral("-%1:GPSLatitude").arg(group),
-                QStringLiteral("-%1:GPSLongitude").arg(group), photo.toLocalFile() });
+            const QByteArray answer = exiftool({ "-n", "-s3", u"-%1:GPSLatitude"_s.arg(group),
+                u"-%1:GPSLongitude"_s.arg(group), photo.toLocalFile() });
             for (const QByteArray& line : answer.trimmed().split('\n'))
                 numbers.append(line.toDouble());
             return numbers;
         };
         for (const char* group : { "Composite", "XMP-exif", "XMP-drone-dji" })
             QCOMPARE(held(QString::fromLatin1(group), inBoth), position);
-        QCOMPARE(held(QStringLiteral("Composite"), plain), position);
+        QCOMPARE(held(u"Composite"_s, plain), position);
         QCOMPARE(exiftool({ "-s3", "-XMP:all", "--XMPToolkit", plain.toLocalFile() }), QByteArray());
-        QCOMPARE(held(QStringLiteral("XMP-exif"), inXmpOnly), position);
+        QCOMPARE(held(u"XMP-exif"_s, inXmpOnly), position);
     }
 
     void takesASaveBack()
     {
         PhotoFolder folder;
-        const QUrl a = folder.add(QStringLiteral("a & 'b' <c>.jpg"));
-        const QUrl b = folder.add(QStringLiteral("b.png"));
-        const QUrl c = folder.add(QStringLiteral("c.jpg"));
+        const QUrl a = folder.add(u"a & 'b' <c>.jpg"_s);
+        const QUrl b = folder.add(u"b.png"_s);
+        const QUrl c = folder.add(u"c.jpg"_s);
         exiftool({ "-q", "-overwrite_original", "-XMP-dc:Title=1.10", "-XMP-dc:Title-de=Zwei\nZeilen & <mehr>",
             "-IPTC:ObjectName=1.10", "-IPTC:Keywords=Süd", "-IPTC:Keywords=b", "-XMP-dc:Subject=Süd",
             "-GPSLatitude=33.5", "-GPSLatitudeRef=S", "-GPSLongitude=70.25", "-GPSLongitudeRef=W", "-IPTC:Urgency=5",
@@ -434,9 +431,9 @@ private slots:
         const auto beforeB = tags(b);
 
         const auto service = realService();
-        const EditPlan plan{ .scalars = { { "title", QStringLiteral("東京") }, { "coords", "1, 2" }, { "urgency", "" },
+        const EditPlan plan{ .scalars = { { "title", u"東京"_s }, { "coords", "1, 2" }, { "urgency", "" },
                                  { "date", "2024-05-06" } },
-            .lists = { { "keywords", { QStringLiteral("新") } } },
+            .lists = { { "keywords", { u"新"_s } } },
             .customs = { { "mood", "calm" } } };
         const QList<QUrl> all{ a, b, c };
         JournalEntry entry = service.journalEntry(plan, all);
@@ -447,7 +444,7 @@ private slots:
         QVERIFY(tags(a) != beforeA);
 
         PhotoFolder state;
-        const QString journal = state.path(QStringLiteral("new/journal.json"));
+        const QString journal = state.path(u"new/journal.json"_s);
         QVERIFY(SaveJournal::store(journal, { entry }));
         const auto loaded = SaveJournal::load(journal);
         QCOMPARE(loaded, QList<JournalEntry>{ entry });
@@ -489,20 +486,20 @@ private slots:
         const auto before = tags();
 
         const auto service = realService();
-        EditPlan plan{ .lists = { { "keywords", { QStringLiteral("新") } } } };
+        EditPlan plan{ .lists = { { "keywords", { u"新"_s } } } };
         for (const char* id : { "title", "description", "creator", "copyright", "software", "event", "headline" })
-            plan.scalars.insert(QString::fromLatin1(id), QStringLiteral("新"));
+            plan.scalars.insert(QString::fromLatin1(id), u"新"_s);
         plan.scalars.insert({ { "rating", "3" }, { "coords", "-33.5, 70.25" } });
         // One that is gone by now keeps nobody from the journal.
-        JournalEntry entry = service.journalEntry(plan, photos + QList<QUrl>{ folder.url(QStringLiteral("gone.jpg")) });
+        JournalEntry entry = service.journalEntry(plan, photos + QList<QUrl>{ folder.url(u"gone.jpg"_s) });
         QCOMPARE(entry.files.size(), photos.size());
         service.write(plan, photos, {});
         for (auto& file : entry.files)
             file.after = *FileStamp::of(file.path);
         QVERIFY(tags() != before);
         PhotoFolder state;
-        QVERIFY(SaveJournal::store(state.path(QStringLiteral("journal.json")), { entry }));
-        const auto loaded = SaveJournal::load(state.path(QStringLiteral("journal.json")));
+        QVERIFY(SaveJournal::store(state.path(u"journal.json"_s), { entry }));
+        const auto loaded = SaveJournal::load(state.path(u"journal.json"_s));
         QCOMPARE(loaded, QList<JournalEntry>{ entry });
         const auto outcome = service.undo(loaded.constFirst());
         QCOMPARE(outcome.restored.size(), photos.size());
@@ -531,8 +528,8 @@ private slots:
         QFETCH(QByteArray, error);
         QFETCH(QByteArray, title);
         PhotoFolder folder;
-        const QUrl a = folder.add(QStringLiteral("a.jpg"));
-        const QUrl b = folder.add(QStringLiteral("b.jpg"));
+        const QUrl a = folder.add(u"a.jpg"_s);
+        const QUrl b = folder.add(u"b.jpg"_s);
         JournalEntry entry{ .writtenTags = { "XMP-dc:Title" } };
         for (const auto& url : { a, b })
             entry.files.append({ .path = url.toLocalFile(),
@@ -555,8 +552,8 @@ private slots:
     void journalKeepsTheNewestAndFollows()
     {
         PhotoFolder folder;
-        const QString path = folder.path(QStringLiteral("journal.json"));
-        const QString photo = folder.add(QStringLiteral("a.jpg")).toLocalFile();
+        const QString path = folder.path(u"journal.json"_s);
+        const QString photo = folder.add(u"a.jpg"_s).toLocalFile();
         QList<JournalEntry> entries;
         for (int i = 0; i < SaveJournal::limit + 5; ++i)
             entries.append({ .savedAt = QDateTime::fromMSecsSinceEpoch(i, Qt::UTC),
@@ -569,8 +566,8 @@ private slots:
 
         SaveJournal::removeUndone(entries, { photo });  // the file now stands as the save before left it
         QCOMPARE(entries.constLast().files[0].after, FileStamp::of(photo).value());
-        SaveJournal::rename(entries, photo, QStringLiteral("/elsewhere.jpg"));
-        QCOMPARE(entries.constFirst().files[0].path, QStringLiteral("/elsewhere.jpg"));
+        SaveJournal::rename(entries, photo, u"/elsewhere.jpg"_s);
+        QCOMPARE(entries.constFirst().files[0].path, u"/elsewhere.jpg"_s);
 
         writeFile(path, "{ half a journal");
         QVERIFY(SaveJournal::load(path).isEmpty());
@@ -581,10 +578,10 @@ private slots:
         const PhotoFolder folder;
         const QString ours = TemporaryFiles::newConfigName();
         const QString young = TemporaryFiles::newConfigName();
-        const QStringList abandoned{ ours, ours + QStringLiteral(".aB3xYz") };
-        const QStringList halfWritten{ QStringLiteral("undo.json.aB3xYz") };
-        const QStringList kept{ QStringLiteral("quorbel-notes.conf"), ours + QStringLiteral(".kept"), young,
-            QStringLiteral("undo.json"), QStringLiteral("undo.json.backup2"), QStringLiteral("my-undo.json.aB3xYz") };
+        const QStringList abandoned{ ours, ours + u".aB3xYz"_s };
+        const QStringList halfWritten{ u"undo.json.aB3xYz"_s };
+        const QStringList kept{ u"quorbel-notes.conf"_s, ours + u".kept"_s, young, u"undo.json"_s,
+            u"undo.json.backup2"_s, u"my-undo.json.aB3xYz"_s };
         for (const auto& name : abandoned + halfWritten + kept) {
             writeFile(folder.path(name), "x");
             QFile file(folder.path(name));
@@ -593,7 +590,7 @@ private slots:
             QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-age), QFileDevice::FileModificationTime));
         }
         QCOMPARE(TemporaryFiles::clearAbandoned(folder.path()), 2);
-        QCOMPARE(TemporaryFiles::clearHalfWritten(folder.path(QStringLiteral("undo.json"))), 1);
+        QCOMPARE(TemporaryFiles::clearHalfWritten(folder.path(u"undo.json"_s)), 1);
         QStringList left = kept;
         left.sort();
         QCOMPARE(folder.names(), left);

@@ -7,7 +7,7 @@
 #include <algorithm>
 
 using namespace Quorbel;
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <QRegularExpression>
 
 using namespace Quorbel;
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
 class TestImageRecord : public QObject {
     Q_OBJECT

@@ -4,7 +4,8 @@
 #include <QTest>
 
 using namespace Quorbel;
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+
 Q_DECLARE_METATYPE(Quorbel::RecordSortOrder)
 
 namespace {

@@ -5,7 +5,7 @@
 #include <QRegularExpression>
 
 using namespace Quorbel;
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
 class TestCoordinates : public QObject {
     Q_OBJECT

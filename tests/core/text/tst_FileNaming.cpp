@@ -4,7 +4,7 @@
 #include <QTest>
 
 using namespace Quorbel;
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
 class TestFileNaming : public QObject {
     Q_OBJECT

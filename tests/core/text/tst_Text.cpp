@@ -10,7 +10,7 @@
 #include <memory>
 
 using namespace Quorbel;
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
 class TestText : public QObject {
     Q_OBJECT

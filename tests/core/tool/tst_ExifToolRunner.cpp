@@ -9,6 +9,8 @@
 #include <thread>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
+
 using namespace Quorbel::Test;
 
 namespace {
@@ -19,7 +21,7 @@ QList<QUrl> files(int count)
 {
     QList<QUrl> urls;
     for (int i = 0; i < count; ++i)
-        urls.append(QUrl::fromLocalFile(QStringLiteral("/photos/%1.jpg").arg(i)));
+        urls.append(QUrl::fromLocalFile(u"/photos/%1.jpg"_s.arg(i)));
     return urls;
 }
 
@@ -41,7 +43,7 @@ ToolError::Payload thrownBy(Call call)
     } catch (const ToolError& error) {
         return error.payload();
     }
-    return ToolError::DecodeFailed{ QStringLiteral("nothing was thrown") };
+    return ToolError::DecodeFailed{ u"nothing was thrown"_s };
 }
 
 }  // namespace
@@ -52,7 +54,7 @@ class tst_ExifToolRunner : public QObject {
 private slots:
     void initTestCase()
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+        QTest::failOnWarning(QRegularExpression(u"."_s));
         qunsetenv("QUORBEL_EXIFTOOL");
     }
 
@@ -61,18 +63,16 @@ private slots:
         QTest::addColumn<QString>("environment");
         QTest::addColumn<QStringList>("existing");
         QTest::addColumn<QString>("found");
-        const QString share = QStringLiteral("1/2/3/4/5/6/7/prefix/share/quorbel/exiftool/exiftool");
-        const auto vendor = [](const QString& at) { return at + QStringLiteral("vendor/exiftool/exiftool"); };
-        const QString nearest = vendor(QStringLiteral("1/2/3/4/5/6/7/"));
-        const QString farthest = vendor(QStringLiteral("1/2/"));
+        const QString share = u"1/2/3/4/5/6/7/prefix/share/quorbel/exiftool/exiftool"_s;
+        const auto vendor = [](const QString& at) { return at + u"vendor/exiftool/exiftool"_s; };
+        const QString nearest = vendor(u"1/2/3/4/5/6/7/"_s);
+        const QString farthest = vendor(u"1/2/"_s);
         QTest::addRow("its own directory wins over a checkout") << "" << QStringList{ share, nearest } << share;
         QTest::addRow("nearest vendor directory") << "" << QStringList{ nearest, farthest } << nearest;
         QTest::addRow("sixth level up") << "" << QStringList{ farthest } << farthest;
-        QTest::addRow("seventh level is too far") << "" << QStringList{ vendor(QStringLiteral("1/")) } << "";
-        QTest::addRow("not beside bin and share")
-            << "" << QStringList{ vendor(QStringLiteral("1/2/3/4/5/6/7/prefix/")) } << "";
-        QTest::addRow("environment wins, executable or not")
-            << "mine" << QStringList{ share, QStringLiteral("mine") } << "mine";
+        QTest::addRow("seventh level is too far") << "" << QStringList{ vendor(u"1/"_s) } << "";
+        QTest::addRow("not beside bin and share") << "" << QStringList{ vendor(u"1/2/3/4/5/6/7/prefix/"_s) } << "";
+        QTest::addRow("environment wins, executable or not") << "mine" << QStringList{ share, u"mine"_s } << "mine";
         QTest::addRow("environment names nothing") << "gone" << QStringList{ share } << share;
     }
 
@@ -88,12 +88,12 @@ private slots:
         }
         if (!environment.isEmpty())
             qputenv("QUORBEL_EXIFTOOL", QFile::encodeName(folder.path(environment)));
-        const auto runner = ExifToolRunner::locate(folder.path(QStringLiteral("1/2/3/4/5/6/7/prefix")));
+        const auto runner = ExifToolRunner::locate(folder.path(u"1/2/3/4/5/6/7/prefix"_s));
         qunsetenv("QUORBEL_EXIFTOOL");
         QCOMPARE(runner.has_value(), !found.isEmpty());
         if (runner) {
             QCOMPARE(runner->exiftoolURL, folder.url(found));
-            QCOMPARE(runner->perlURL, QUrl::fromLocalFile(QStringLiteral("/usr/bin/perl")));
+            QCOMPARE(runner->perlURL, QUrl::fromLocalFile(u"/usr/bin/perl"_s));
         }
     }
 
@@ -101,21 +101,21 @@ private slots:
     {
         FakeTool tool;
         const auto runner = tool.runner();
-        const QUrl odd = QUrl::fromLocalFile(QStringLiteral("/photos/$HOME 'a' \"b\"\nc.jpg"));
+        const QUrl odd = QUrl::fromLocalFile(u"/photos/$HOME 'a' \"b\"\nc.jpg"_s);
         const QString oddPath = odd.toLocalFile();
-        const QUrl config = QUrl::fromLocalFile(QStringLiteral("/dev/null"));
+        const QUrl config = QUrl::fromLocalFile(u"/dev/null"_s);
         const QList<QUrl> photos{ odd, files(1).first() };
-        runner.read({ QStringLiteral("XMP:Title"), QStringLiteral("FileSize#") }, photos);
+        runner.read({ u"XMP:Title"_s, u"FileSize#"_s }, photos);
         runner.readCustomNamespace(photos);
-        runner.write({ QStringLiteral("-A=$x y"), QStringLiteral("-B=") }, photos, false);
-        runner.write({ QStringLiteral("-A=1") }, { odd }, true, config);
-        runner.write({ QStringLiteral("-A=1") }, { odd }, false, config);
-        runner.readBinary({ QStringLiteral("PreviewImage"), QStringLiteral("EXIF:Orientation") }, odd);
+        runner.write({ u"-A=$x y"_s, u"-B="_s }, photos, false);
+        runner.write({ u"-A=1"_s }, { odd }, true, config);
+        runner.write({ u"-A=1"_s }, { odd }, false, config);
+        runner.readBinary({ u"PreviewImage"_s, u"EXIF:Orientation"_s }, odd);
         // None of these starts the tool.
         runner.write({}, photos, false);
-        runner.write({ QStringLiteral("-A=1") }, {}, false);
-        QVERIFY(runner.read({ QStringLiteral("XMP:Title") }, {}).isEmpty());
-        const QString zero = QStringLiteral("/photos/0.jpg");
+        runner.write({ u"-A=1"_s }, {}, false);
+        QVERIFY(runner.read({ u"XMP:Title"_s }, {}).isEmpty());
+        const QString zero = u"/photos/0.jpg"_s;
         const QList<QStringList> expected{
             { "-json", "-G0", "-struct", "-c", "%.6f", "-XMP:Title", "-FileSize#", oddPath, zero },
             { "-json", "-G1", "-struct", "-XMP-Quorbel:all", oddPath, zero },
@@ -151,8 +151,8 @@ private slots:
         FakeTool tool;
         tool.answerAlways(answer);
         const ToolError::Payload expected = ToolError::ExecFailed{ code, text };
-        QVERIFY(thrownBy([&] { tool.runner().read({ QStringLiteral("T") }, files(1)); }) == expected);
-        QVERIFY(thrownBy([&] { tool.runner().write({ QStringLiteral("-T=") }, files(1), true); }) == expected);
+        QVERIFY(thrownBy([&] { tool.runner().read({ u"T"_s }, files(1)); }) == expected);
+        QVERIFY(thrownBy([&] { tool.runner().write({ u"-T="_s }, files(1), true); }) == expected);
     }
 
     void cannotStart()
@@ -162,9 +162,9 @@ private slots:
         QVERIFY(thrownBy([&] { runner.version(); }) == ToolError::Payload(ToolError::ToolNotFound{}));
         const FakeTool tool;
         runner = tool.runner();
-        runner.perlURL = folder.url(QStringLiteral("perl"));
+        runner.perlURL = folder.url(u"perl"_s);
         QVERIFY(thrownBy([&] { runner.version(); }) == ToolError::Payload(ToolError::PerlNotFound{ runner.perlURL }));
-        folder.add(QStringLiteral("perl"), "not a program");
+        folder.add(u"perl"_s, "not a program");
         QVERIFY_THROWS_EXCEPTION(LaunchError, runner.version());
     }
 
@@ -186,11 +186,11 @@ private slots:
         QFETCH(QString, quoted);
         FakeTool tool;
         tool.answerAlways({ .standardOutput = output });
-        const auto payload = thrownBy([&] { tool.runner().read({ QStringLiteral("T") }, files(2)); });
+        const auto payload = thrownBy([&] { tool.runner().read({ u"T"_s }, files(2)); });
         const auto* failure = std::get_if<ToolError::DecodeFailed>(&payload);
         QVERIFY(failure);
-        QVERIFY2(failure->detail.endsWith(QStringLiteral(" — output: ") + quoted), qPrintable(failure->detail));
-        QVERIFY(failure->detail.indexOf(QStringLiteral(" — output: ")) > 5);  // the decoder's reason stands before it
+        QVERIFY2(failure->detail.endsWith(u" — output: "_s + quoted), qPrintable(failure->detail));
+        QVERIFY(failure->detail.indexOf(u" — output: "_s) > 5);  // the decoder's reason stands before it
     }
 
     void silenceIsAnEmptyObjectPerFile()
@@ -200,9 +200,9 @@ private slots:
         tool.answer(2, { .standardOutput = "[{\"A\": \"\xFC\"}]" });  // Latin 1
         tool.answer(3, { .standardOutput = "\xFF" });
         const QList<JSONObject> empty(3);
-        QCOMPARE(tool.runner().read({ QStringLiteral("T") }, files(3)), empty);
-        QCOMPARE(tool.runner().read({ QStringLiteral("T") }, files(3)), empty);
-        QCOMPARE(tool.runner().write({ QStringLiteral("-T=") }, files(1), true), QString());
+        QCOMPARE(tool.runner().read({ u"T"_s }, files(3)), empty);
+        QCOMPARE(tool.runner().read({ u"T"_s }, files(3)), empty);
+        QCOMPARE(tool.runner().write({ u"-T="_s }, files(1), true), QString());
     }
 
     void outputAsPrinted()
@@ -211,19 +211,18 @@ private slots:
         tool.answer(1, { .standardOutput = "12.57\n" });
         tool.answer(2, { .standardOutput = "    1 image files updated\n" });
         tool.answer(3, { .standardOutput = R"([{"SourceFile": "a", "T": "base64:/9gACg==", "U": 6}])" });
-        QCOMPARE(tool.runner().version(), QStringLiteral("12.57"));
-        QCOMPARE(tool.runner().write({ QStringLiteral("-T=") }, files(1), true),
-            QStringLiteral("    1 image files updated\n"));
-        const auto found = tool.runner().readBinary({ QStringLiteral("T"), QStringLiteral("U") }, files(1).first());
-        QCOMPARE(found.value(QStringLiteral("T")), QByteArray("\xFF\xD8\0\n", 4));
-        QCOMPARE(found.value(QStringLiteral("U")), QByteArray("6"));
+        QCOMPARE(tool.runner().version(), u"12.57"_s);
+        QCOMPARE(tool.runner().write({ u"-T="_s }, files(1), true), u"    1 image files updated\n"_s);
+        const auto found = tool.runner().readBinary({ u"T"_s, u"U"_s }, files(1).first());
+        QCOMPARE(found.value(u"T"_s), QByteArray("\xFF\xD8\0\n", 4));
+        QCOMPARE(found.value(u"U"_s), QByteArray("6"));
     }
 
     void muchOnBothPipes()
     {
         FakeTool tool;
         tool.answerAlways({ .standardOutput = replyFor(files(20'000)), .noiseBytes = 50'000'000 });
-        QCOMPARE(tool.runner().read({ QStringLiteral("T") }, files(20'000)).size(), 20'000);
+        QCOMPARE(tool.runner().read({ u"T"_s }, files(20'000)).size(), 20'000);
     }
 
     void longCommandLine()
@@ -231,7 +230,7 @@ private slots:
         // More than the 2 MiB that the usual stack limit allows.
         QList<QUrl> many;
         for (int i = 0; i < 20'000; ++i)
-            many.append(QUrl::fromLocalFile(u'/' + QStringLiteral("directory/").repeated(24) + QString::number(i)));
+            many.append(QUrl::fromLocalFile(u'/' + u"directory/"_s.repeated(24) + QString::number(i)));
         FakeTool tool;
         tool.runner().readCustomNamespace(many);
         QCOMPARE(tool.calls().first().size(), many.size() + 4);
@@ -253,8 +252,7 @@ private slots:
         // One object more than was asked for, as for a folder named like a photo.
         tool.answerAlways({ .standardOutput = replyFor(files(4)), .pieceSize = pieceSize });
         QList<qsizetype> seen;
-        tool.runner().read(
-            { QStringLiteral("T") }, files(3), { .progress = [&](qsizetype count) { seen.append(count); } });
+        tool.runner().read({ u"T"_s }, files(3), { .progress = [&](qsizetype count) { seen.append(count); } });
         QCOMPARE(seen.last(), 3);
         for (qsizetype i = 1; i < seen.size(); ++i)
             QVERIFY(seen[i] > seen[i - 1]);
@@ -279,7 +277,7 @@ private slots:
         std::jthread stopper;
         const auto firstFile = [&](qsizetype) { stopper = std::jthread([&] { stop.request_stop(); }); };
         QVERIFY_THROWS_EXCEPTION(CancelledError,
-            tool.runner().read({ QStringLiteral("T") }, files(1), { .progress = firstFile, .stop = stop.get_token() }));
+            tool.runner().read({ u"T"_s }, files(1), { .progress = firstFile, .stop = stop.get_token() }));
         QVERIFY_THROWS_EXCEPTION(
             CancelledError, tool.runner().readCustomNamespace(files(1), { .stop = stop.get_token() }));
         QCOMPARE(tool.calls().size(), 1);  // nothing is started for a read that is cancelled already

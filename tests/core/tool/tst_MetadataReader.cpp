@@ -9,13 +9,14 @@
 #include <QTest>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 JSONValue value(const QByteArray& json)
 {
     const auto document = QJsonDocument::fromJson('[' + json + ']');
-    return document.isArray() ? JSONValue::fromJson(document.array().first()) : JSONValue(QStringLiteral("no JSON"));
+    return document.isArray() ? JSONValue::fromJson(document.array().first()) : JSONValue(u"no JSON"_s);
 }
 
 JSONObject object(const QByteArray& json)
@@ -26,8 +27,7 @@ JSONObject object(const QByteArray& json)
 
 ImageRecord parsed(const QByteArray& main, const QByteArray& custom = "{}")
 {
-    return MetadataReader::parse(
-        QUrl::fromLocalFile(QStringLiteral("/photos/IMG_1.heic")), object(main), object(custom));
+    return MetadataReader::parse(QUrl::fromLocalFile(u"/photos/IMG_1.heic"_s), object(main), object(custom));
 }
 
 }  // namespace
@@ -36,7 +36,7 @@ class tst_MetadataReader : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+    void initTestCase() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
 
     void values_data()
     {
@@ -89,8 +89,8 @@ private slots:
     void asksForTags()
     {
         const auto tags = MetadataReader::readTags();
-        const auto fileTags = tags.indexOf(QStringLiteral("FileType"));
-        QCOMPARE(tags.first(), QStringLiteral("Composite:GPSPosition"));
+        const auto fileTags = tags.indexOf(u"FileType"_s);
+        QCOMPARE(tags.first(), u"Composite:GPSPosition"_s);
         QCOMPARE(tags.mid(fileTags, 4), (QStringList{ "FileType", "ImageWidth", "ImageHeight", "FileSize#" }));
         QCOMPARE(tags.mid(0, fileTags), FieldSchema::readTags());
         QCOMPARE(tags.mid(fileTags + 4), FieldSchema::cameraReadTags());
@@ -142,14 +142,14 @@ private slots:
     {
         const auto record = parsed(
             R"({"File:FileType": "HEIF", "File:ImageWidth": 4032, "File:ImageHeight": "+30", "File:FileSize": 1.5})");
-        QCOMPARE(record.fileName, QStringLiteral("IMG_1.heic"));
-        QCOMPARE(record.fileType, QStringLiteral("HEIF"));
+        QCOMPARE(record.fileName, u"IMG_1.heic"_s);
+        QCOMPARE(record.fileType, u"HEIF"_s);
         QCOMPARE(record.pixelWidth.value_or(-1), 4032);
         QCOMPARE(record.pixelHeight.value_or(-1), 30);
         QVERIFY(!record.fileSize);
         const auto odd =
             parsed(R"({"File:ImageWidth": 4294967296, "File:ImageHeight": "3 000", "File:FileSize": 14513})");
-        QCOMPARE(odd.fileType, QStringLiteral("HEIC"));
+        QCOMPARE(odd.fileType, u"HEIC"_s);
         QVERIFY(!odd.pixelWidth);
         QVERIFY(!odd.pixelHeight);
         QCOMPARE(odd.fileSize.value_or(-1), 14513);

@@ -5,7 +5,8 @@
 #include <QRegularExpression>
 
 using namespace Quorbel;
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
+
 using MetadataWriter::ListMode;
 Q_DECLARE_METATYPE(Quorbel::MetadataWriter::ListMode)
 
@@ -177,7 +178,7 @@ private slots:
         QTest::addRow("two characters") << "a1" << true;
         QTest::addRow("nothing left") << "!!!" << true;
         QTest::addRow("one character") << "9 X" << false;
-        QTest::addRow("accent") << QStringLiteral("Café") << false;
+        QTest::addRow("accent") << u"Café"_s << false;
         QTest::addRow("reserved") << "GROUPS" << false;
         QTest::addRow("reserved after cleaning") << "NOTES!" << false;
         QTest::addRow("reserved in another case") << "Groups" << true;

@@ -16,6 +16,7 @@
 
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
+
 using Outcome = DecodedImage::Outcome;
 
 namespace {

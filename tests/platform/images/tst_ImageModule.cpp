@@ -6,6 +6,7 @@
 #include <QTest>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
 
 class tst_ImageModule : public QObject {
     Q_OBJECT
@@ -19,7 +20,7 @@ private slots:
 void tst_ImageModule::decodesWhatItIsGiven()
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("Zürich 1.jpg"));
+    const QString path = folder.filePath(u"Zürich 1.jpg"_s);
     QImage image(400, 200, QImage::Format_RGB32);
     image.fill(Qt::red);
     QVERIFY(image.save(path));
@@ -48,16 +49,16 @@ void tst_ImageModule::goesOnWithout()
 {
     QFETCH(QByteArray, content);
     const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("quorbel-images.so"));
+    const QString file = folder.filePath(u"quorbel-images.so"_s);
     if (!content.isEmpty()) {
         QFile library(file);
         QVERIFY(library.open(QIODevice::WriteOnly));
         library.write(content);
     }
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^No thumbnails: .*quorbel-images")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^No thumbnails: .*quorbel-images"_s));
     const ImageModule module = ImageModule::load(file);
-    QCOMPARE(module.decode(QStringLiteral("/x.jpg"), 100, {}).outcome, DecodedImage::Outcome::unsupported);
-    QVERIFY(module.embeddedThumbnail(QStringLiteral("/x.jpg"), {}).isNull());
+    QCOMPARE(module.decode(u"/x.jpg"_s, 100, {}).outcome, DecodedImage::Outcome::unsupported);
+    QVERIFY(module.embeddedThumbnail(u"/x.jpg"_s, {}).isNull());
 }
 
 QTEST_GUILESS_MAIN(tst_ImageModule)

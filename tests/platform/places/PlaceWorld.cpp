@@ -12,6 +12,8 @@
 
 namespace Quorbel::Test {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Town {
@@ -100,7 +102,7 @@ void PlaceWorld::writeNames() const
     writeFile(path("countries.json"), R"([{"code":"CH","name":"Switzerland"},{"code":"AT","name":"Austria"},
         {"code":"US","name":"United States"},{"code":"PL","name":"Poland"}])");
     writeFile(path("codes.json"), R"([["CH","CHE"],["AT","AUT"],["US","USA"],["PL","POL"]])");
-    QDir(folder()).mkdir(QStringLiteral("langs"));
+    QDir(folder()).mkdir(u"langs"_s);
     writeFile(path("langs/en.json"), R"({"countries":{"CH":"Switzerland","AT":"Austria",
         "US":["United States of America","United States"],"PL":"Poland"}})");
     writeFile(path("langs/de.json"), R"({"countries":{"CH":"Schweiz","AT":"Österreich","PL":"Polen"}})");
@@ -119,31 +121,30 @@ void PlaceWorld::writeAirports() const
 void PlaceWorld::writeBorders() const
 {
     {
-        auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("world"));
+        auto database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"world"_s);
         database.setDatabaseName(path("world.gpkg"));
         if (!database.open())
             QFAIL("the borders could not be made");
         QSqlQuery query(database);
-        query.exec(QStringLiteral("CREATE TABLE states_provinces(fid INTEGER PRIMARY KEY, geom, iso_a2, name)"));
-        query.prepare(QStringLiteral("INSERT INTO states_provinces(geom, iso_a2, name) VALUES(?, ?, ?)"));
+        query.exec(u"CREATE TABLE states_provinces(fid INTEGER PRIMARY KEY, geom, iso_a2, name)"_s);
+        query.prepare(u"INSERT INTO states_provinces(geom, iso_a2, name) VALUES(?, ?, ?)"_s);
         query.addBindValue(QVariantList{ square(0, 40, 10, 50), square(10, 40, 20, 50), square(-180, -90, 180, -80) });
-        query.addBindValue(QVariantList{ QStringLiteral("-99"), QStringLiteral("-99"), QStringLiteral("PL") });
-        query.addBindValue(QVariantList{ QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c") });
+        query.addBindValue(QVariantList{ u"-99"_s, u"-99"_s, u"PL"_s });
+        query.addBindValue(QVariantList{ u"a"_s, u"b"_s, u"c"_s });
         query.execBatch();
     }
-    QSqlDatabase::removeDatabase(QStringLiteral("world"));
+    QSqlDatabase::removeDatabase(u"world"_s);
 }
 
 PlaceWorld::Run PlaceWorld::build(const QByteArray& landmarks, const QString& output) const
 {
     writeFile(path("landmarks.tsv"), landmarks);
     QProcess builder;
-    builder.start(QStringLiteral(QUORBEL_PLACE_BUILDER),
-        { QStringLiteral("--towns"), path("cities500.txt"), QStringLiteral("--fresh-towns"), path("cities.json"),
-            QStringLiteral("--states"), path("admin1.json"), QStringLiteral("--countries"), path("countries.json"),
-            QStringLiteral("--country-names"), path("langs"), QStringLiteral("--country-codes"), path("codes.json"),
-            QStringLiteral("--airports"), path("airports.json"), QStringLiteral("--regions"), path("regions.json"),
-            QStringLiteral("--borders"), path("world.gpkg"), QStringLiteral("--landmarks"), path("landmarks.tsv"),
+    builder.start(QString::fromUtf8(QUORBEL_PLACE_BUILDER),
+        { u"--towns"_s, path("cities500.txt"), u"--fresh-towns"_s, path("cities.json"), u"--states"_s,
+            path("admin1.json"), u"--countries"_s, path("countries.json"), u"--country-names"_s, path("langs"),
+            u"--country-codes"_s, path("codes.json"), u"--airports"_s, path("airports.json"), u"--regions"_s,
+            path("regions.json"), u"--borders"_s, path("world.gpkg"), u"--landmarks"_s, path("landmarks.tsv"),
             m_directory.filePath(output) });
     if (!builder.waitForFinished(60'000))
         return {};

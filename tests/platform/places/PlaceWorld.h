@@ -8,6 +8,8 @@
 
 namespace Quorbel::Test {
 
+using namespace Qt::StringLiterals;
+
 /// Landmarks that hold in this world.
 QByteArray goodLandmarks();
 
@@ -24,7 +26,7 @@ public:
         QByteArray errors{};
     };
     /// Runs the builder with these landmarks; its output is places.db, or another file, in the folder.
-    Run build(const QByteArray& landmarks, const QString& output = QStringLiteral("places.db")) const;
+    Run build(const QByteArray& landmarks, const QString& output = u"places.db"_s) const;
 
 private:
     QString path(const char* name) const { return m_directory.filePath(QLatin1String(name)); }

@@ -14,6 +14,8 @@
 #include <cmath>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
+
 using namespace Quorbel::MapBuild;
 using MapFormat::Kind;
 
@@ -21,9 +23,8 @@ namespace {
 
 enum Ground { sea, land, nationalLine };
 
-const QStringList fileNames{ QStringLiteral("gshhg-shores-high.map"), QStringLiteral("gshhg-shores-middle.map"),
-    QStringLiteral("gshhg-shores-low.map"), QStringLiteral("gshhg-rivers-high.map"),
-    QStringLiteral("gshhg-rivers-low.map"), QStringLiteral("borders.map"), QStringLiteral("towns.map") };
+const QStringList fileNames{ u"gshhg-shores-high.map"_s, u"gshhg-shores-middle.map"_s, u"gshhg-shores-low.map"_s,
+    u"gshhg-rivers-high.map"_s, u"gshhg-rivers-low.map"_s, u"borders.map"_s, u"towns.map"_s };
 
 /// A world of 10° bins. Land: 40…50° N, 0…20° E, with a lake in the middle of its west half; an island across the
 /// antimeridian, 10…20° S, 170° E…170° W, with a border along 15° S; all south of 80° S. Six towns at 45° N.
@@ -116,7 +117,7 @@ Ground groundAtCentre(const QImage& image, bool dark = false)
 
 QString builtData()
 {
-    const auto folder = qEnvironmentVariable("QUORBEL_TEST_SHARE") + QStringLiteral("/places");
+    const auto folder = qEnvironmentVariable("QUORBEL_TEST_SHARE") + u"/places"_s;
     const auto isThere = [&](const QString& name) { return QFile::exists(folder + u'/' + name); };
     return std::all_of(fileNames.begin(), fileNames.end(), isThere) ? folder : QString();
 }
@@ -127,7 +128,7 @@ class tst_MapRenderer : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
+    void initTestCase() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
 
     void ground_data();
     void ground();
@@ -203,8 +204,8 @@ void tst_MapRenderer::seamless()
     auto request = requestAt(latitude, longitude);
     request.kilometresAcross = across;
     const SmallWorld world;
-    MapWriter(Kind::towns, 36, 18).write(world.path(QStringLiteral("towns.map")));
-    MapWriter(Kind::borders, 36, 18).write(world.path(QStringLiteral("borders.map")));
+    MapWriter(Kind::towns, 36, 18).write(world.path(u"towns.map"_s));
+    MapWriter(Kind::borders, 36, 18).write(world.path(u"borders.map"_s));
     const auto image = render(world.path(), request).value.image;
     QVERIFY(!image.isNull());
     // Edges that are shared may round differently, by what no eye can see.
@@ -216,7 +217,7 @@ void tst_MapRenderer::seamless()
     // The scale bar stands bottom left.
     for (int y = 0; y < image.height() - 16; ++y) {
         for (int x = 0; x < image.width(); ++x)
-            QVERIFY2(isLand(image.pixel(x, y)), qPrintable(QStringLiteral("%1, %2").arg(x).arg(y)));
+            QVERIFY2(isLand(image.pixel(x, y)), qPrintable(u"%1, %2"_s.arg(x).arg(y)));
     }
 }
 
@@ -289,14 +290,14 @@ void tst_MapRenderer::labelsKeepApart()
     for (int i = 0; i < 300; ++i) {
         const QPointF at(random.bounded(500.0), random.bounded(96.0));
         const double distance = QLineF(at, QPointF(250, 48)).length() / projection.scale();
-        towns.append({ at, distance, quint8(200 - i / 2), 0, 1000, QStringLiteral("Sankt Name %1").arg(i) });
+        towns.append({ at, distance, quint8(200 - i / 2), 0, 1000, u"Sankt Name %1"_s.arg(i) });
     }
-    towns[40] = { QPointF(252, 50), 0.7, 220, 0, 500000, QStringLiteral("Middle") };
+    towns[40] = { QPointF(252, 50), 0.7, 220, 0, 500000, u"Middle"_s };
     const QList<QRectF> reserved{ QRectF(240, 24, 20, 28), QRectF(0, 72, 84, 24) };
     const auto labels = placeLabels(towns, projection, QFont(), 1, reserved);
 
     QVERIFY(labels.size() >= 5);
-    QCOMPARE(labels.first().text, QStringLiteral("Middle"));
+    QCOMPARE(labels.first().text, u"Middle"_s);
     for (int i = 0; i < labels.size(); ++i) {
         QVERIFY(QRectF(0, 0, 500, 96).contains(labels[i].box));
         for (const auto& box : reserved)

@@ -10,6 +10,7 @@
 
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {

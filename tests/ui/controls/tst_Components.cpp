@@ -12,7 +12,7 @@
 #include <QSignalSpy>
 
 using namespace Quorbel;
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
 namespace {
 

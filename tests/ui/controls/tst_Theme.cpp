@@ -9,7 +9,7 @@
 #include <QDir>
 
 using namespace Quorbel;
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
 class TestTheme : public QObject {
     Q_OBJECT

@@ -15,11 +15,12 @@
 
 namespace Quorbel::Test {
 
+using namespace Qt::StringLiterals;
+
 /// Knows one place, near every point of the northern hemisphere, and answers at once.
 class OnePlace final : public PlaceProvider {
 public:
-    Placemark place{ QStringLiteral("Paradeplatz"), QStringLiteral("Zürich"), QStringLiteral("Zurich"),
-        QStringLiteral("Switzerland"), QStringLiteral("CH"), { 47.37, 8.54 } };
+    Placemark place{ u"Paradeplatz"_s, u"Zürich"_s, u"Zurich"_s, u"Switzerland"_s, u"CH"_s, { 47.37, 8.54 } };
     PlaceToken suggest(const PlaceQuery& query, PlaceCallback<QList<PlaceSuggestion>> answer) override;
     PlaceToken resolve(const PlaceSuggestion& suggestion, PlaceCallback<Placemark> answer) override;
     PlaceToken reverse(const GeoPoint& point, const QLocale& locale, PlaceCallback<Placemark> answer) override;

@@ -8,7 +8,7 @@
 #include <QSignalSpy>
 
 using namespace Quorbel;
-using namespace Qt::Literals::StringLiterals;
+using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -15,6 +15,8 @@
 #include <unistd.h>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
+
 using namespace Quorbel::Test;
 
 namespace {
@@ -23,7 +25,7 @@ constexpr int photoCount = 50'000;
 
 QString nameOf(int i)
 {
-    return QStringLiteral("IMG_%1.jpg").arg(i, 5, 10, QLatin1Char('0'));
+    return u"IMG_%1.jpg"_s.arg(i, 5, 10, QLatin1Char('0'));
 }
 
 }  // namespace
@@ -73,7 +75,7 @@ void tst_Sidebar::initTestCase()
         const QString path = m_fixture->folder.path(nameOf(i));
         if (i > 0)  // links cost less than files
             QCOMPARE(::link(first.constData(), path.toLocal8Bit().constData()), 0);
-        answers.append({ { QStringLiteral("SourceFile"), path } });
+        answers.append({ { u"SourceFile"_s, path } });
     }
     m_tool.answerAlways({ .standardOutput = toolJson(answers) });
     QVERIFY(m_fixture->open());
@@ -137,10 +139,10 @@ void tst_Sidebar::shiftExtendsAndControlMoves()
 
 void tst_Sidebar::typingAName()
 {
-    QTest::keyClicks(list(), QStringLiteral("img_0123"));
+    QTest::keyClicks(list(), u"img_0123"_s);
     QCOMPARE(primary(), nameOf(1230));
     QVERIFY(list()->viewport()->rect().contains(middleOf(1230)));
-    QTest::keyClicks(list(), QStringLiteral("9"));
+    QTest::keyClicks(list(), u"9"_s);
     QCOMPARE(primary(), nameOf(1239));
     QTest::qWait(QApplication::keyboardInputInterval() + 100);
     press(Qt::Key_I);  // one letter goes to the next name that begins with it
@@ -183,14 +185,14 @@ void tst_Sidebar::doubleClickOpensAndSelectsOnce()
 void tst_Sidebar::searchFiltersAndSelectAllTakesWhatIsShown()
 {
     auto* search = m_view->findChild<QLineEdit*>();
-    QCOMPARE(search->placeholderText(), QStringLiteral("Search"));
-    QTest::keyClicks(search, QStringLiteral(" img_4999 "));
+    QCOMPARE(search->placeholderText(), u"Search"_s);
+    QTest::keyClicks(search, u" img_4999 "_s);
     QCOMPARE(list()->model()->rowCount(), 10);
     auto* all = m_view->findChildren<QAbstractButton*>().first();
-    QCOMPARE(all->accessibleName(), QStringLiteral("Select all Ctrl+A"));
+    QCOMPARE(all->accessibleName(), u"Select all Ctrl+A"_s);
     QTest::mouseClick(all, Qt::LeftButton);
     QCOMPARE((*m_fixture)->selection().size(), 10);
-    QCOMPARE(m_view->findChild<QLabel*>()->text(), QStringLiteral("10 / 50000"));
+    QCOMPARE(m_view->findChild<QLabel*>()->text(), u"10 / 50000"_s);
     search->selectAll();
     press(Qt::Key_Home);
     QTest::keyClick(search, Qt::Key_Delete);
@@ -201,14 +203,14 @@ void tst_Sidebar::searchByKeysAlone()
 {
     auto* search = m_view->findChild<QLineEdit*>();
     m_view->focusSearch();
-    QTest::keyClicks(search, QStringLiteral("nowhere"));
-    QCOMPARE(list()->accessibleDescription(), QStringLiteral("No matching photos."));
+    QTest::keyClicks(search, u"nowhere"_s);
+    QCOMPARE(list()->accessibleDescription(), u"No matching photos."_s);
     QVERIFY(pixelsLike(list()->viewport()->grab().toImage(), Theme::light().derived.label) > 10);
     QTest::keyClick(search, Qt::Key_Escape);
     QCOMPARE(list()->model()->rowCount(), photoCount);
     QCOMPARE(list()->accessibleDescription(), QString());
     QCOMPARE(search->text(), QString());
-    QTest::keyClicks(search, QStringLiteral("img_0123"));
+    QTest::keyClicks(search, u"img_0123"_s);
     QTest::keyClick(search, Qt::Key_Down);
     QVERIFY(list()->hasFocus());
     QCOMPARE(selected(), QStringList{ nameOf(1230) });
@@ -231,7 +233,7 @@ void tst_Sidebar::showsWhereTheKeyboardIsAmongSelectedRows()
 
 void tst_Sidebar::unsavedEditsHoldTheSelection()
 {
-    (*m_fixture)->setSingle(QStringLiteral("title"), QStringLiteral("Unsaved"));
+    (*m_fixture)->setSingle(u"title"_s, u"Unsaved"_s);
     press(Qt::Key_Down);
     QVERIFY((*m_fixture)->saveOpen());
     QCOMPARE(selected(), QStringList{ nameOf(0) });
@@ -245,14 +247,14 @@ void tst_Sidebar::rowsHaveNames()
 {
     QAccessibleInterface* photos = QAccessible::queryAccessibleInterface(list());
     QVERIFY(photos);
-    QCOMPARE(photos->text(QAccessible::Name), QStringLiteral("Photos"));
+    QCOMPARE(photos->text(QAccessible::Name), u"Photos"_s);
     QCOMPARE(photos->childCount(), photoCount);
     QAccessibleInterface* row = photos->child(41);
     QCOMPARE(row->text(QAccessible::Name), nameOf(41));
     QVERIFY(!row->state().selected);
     QVERIFY(photos->child(0)->state().selected);
     QCOMPARE(list()->model()->index(3, 0).data(Qt::ToolTipRole).toString(),
-        QStringLiteral("Double-click to open in your default image app"));
+        u"Double-click to open in your default image app"_s);
 }
 
 void tst_Sidebar::onlyRowsOnScreenAskForThumbnails()

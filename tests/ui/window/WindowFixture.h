@@ -14,12 +14,14 @@
 
 namespace Quorbel::Test {
 
+using namespace Qt::StringLiterals;
+
 /// Runs a test class on a screen that is large enough for the whole window.
 template <typename TestClass>
 int runOnLargeScreen(int argc, char* argv[])
 {
     const QTemporaryDir folder;
-    const QString screens = folder.filePath(QStringLiteral("screens.json"));
+    const QString screens = folder.filePath(u"screens.json"_s);
     writeFile(
         screens, R"({"screens":[{"name":"test","x":0,"y":0,"width":1920,"height":1080,"logicalDpi":96,"dpr":1}]})");
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.toLocal8Bit());
@@ -41,7 +43,7 @@ public:
         column->addWidget(first);
         column->addWidget(second);
     }
-    QString title() const override { return QStringLiteral("Sample"); }
+    QString title() const override { return u"Sample"_s; }
     void confirm() override
     {
         ++confirmed;
@@ -87,7 +89,7 @@ public:
         factories.inspector = [this](QWidget* parent) {
             inspector = new QWidget(parent);
             auto* field = new QLineEdit(inspector);
-            field->setObjectName(QStringLiteral("field"));
+            field->setObjectName(u"field"_s);
             return inspector;
         };
         factories.addField = [this] { return new SampleSheet([this] { model->setAddOpen(false); }); };

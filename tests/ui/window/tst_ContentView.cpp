@@ -16,6 +16,8 @@
 #include <QMimeData>
 
 using namespace Quorbel;
+using namespace Qt::StringLiterals;
+
 using namespace Quorbel::Test;
 
 namespace {
@@ -90,19 +92,19 @@ void tst_ContentView::launchViewUntilPhotosAreOpen()
     fixture.show();
     QVERIFY(fixture.window->findChild<LaunchView*>()->isVisible());
     QVERIFY(!fixture.window->findChild<SidebarView*>()->isVisible());
-    QCOMPARE(fixture.window->windowTitle(), QStringLiteral("Quorbel"));
-    QTest::mouseClick(fixture.button(QStringLiteral("Open Folder…")), Qt::LeftButton);
-    QTest::mouseClick(fixture.button(QStringLiteral("Open Image…")), Qt::LeftButton);
+    QCOMPARE(fixture.window->windowTitle(), u"Quorbel"_s);
+    QTest::mouseClick(fixture.button(u"Open Folder…"_s), Qt::LeftButton);
+    QTest::mouseClick(fixture.button(u"Open Image…"_s), Qt::LeftButton);
     QCOMPARE(fixture.panels, 2);
 
-    fixture.open({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") });
+    fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
     QVERIFY(!fixture.window->findChild<LaunchView*>()->isVisible());
     QVERIFY(fixture.window->findChild<SidebarView*>()->isVisible());
     QCOMPARE(fixture.window->windowTitle(), QFileInfo(fixture.model.folder.path()).fileName());
-    QCOMPARE(fixture.content->bar()->accessibleDescription(), QStringLiteral("2 photos"));
+    QCOMPARE(fixture.content->bar()->accessibleDescription(), u"2 photos"_s);
     // The arrow keys go through the photos at once.
     QTest::keyClick(fixture.window->focusWidget(), Qt::Key_Down);
-    QCOMPARE(fixture.model.primary(), QStringLiteral("b.jpg"));
+    QCOMPARE(fixture.model.primary(), u"b.jpg"_s);
 
     fixture.model->closeFolder();
     QVERIFY(fixture.window->findChild<LaunchView*>()->isVisible());
@@ -126,7 +128,7 @@ void tst_ContentView::columnWidths()
     QFETCH(int, inspector);
     QFETCH(int, preview);
     WindowFixture fixture;
-    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.open({ u"a.jpg"_s });
     fixture.window->resize(window, 700);
     fixture.show();
     auto* column = fixture.window->findChild<PreviewColumnView*>();
@@ -139,9 +141,9 @@ void tst_ContentView::columnWidths()
 void tst_ContentView::previewNeedsRoomAndWish()
 {
     WindowFixture fixture;
-    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.open({ u"a.jpg"_s });
     fixture.show();
-    QTest::mouseClick(fixture.button(QStringLiteral("Hide preview")), Qt::LeftButton);
+    QTest::mouseClick(fixture.button(u"Hide preview"_s), Qt::LeftButton);
     QVERIFY(!fixture.content->previewShown());
     QCOMPARE(fixture.window->width(), 1200);
     // The wish outlives the program.
@@ -150,13 +152,13 @@ void tst_ContentView::previewNeedsRoomAndWish()
     QVERIFY(!fixture.content->previewShown());
     // In a narrow window the wish alone shows nothing: the window grows.
     fixture.window->resize(1000, 700);
-    QTest::mouseClick(fixture.button(QStringLiteral("Show preview")), Qt::LeftButton);
+    QTest::mouseClick(fixture.button(u"Show preview"_s), Qt::LeftButton);
     QTRY_COMPARE(fixture.window->width(), 1180);
     QVERIFY(fixture.content->previewShown());
     // Made narrow by hand, it offers the preview again; pressing it does not switch the wish off.
     fixture.window->resize(1000, 700);
     QVERIFY(!fixture.content->previewShown());
-    QTest::mouseClick(fixture.button(QStringLiteral("Show preview")), Qt::LeftButton);
+    QTest::mouseClick(fixture.button(u"Show preview"_s), Qt::LeftButton);
     QTRY_VERIFY(fixture.content->previewShown());
 }
 
@@ -187,7 +189,7 @@ void tst_ContentView::widening()
 void tst_ContentView::sidebarWidthIsKeptInItsLimits()
 {
     WindowFixture fixture;
-    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.open({ u"a.jpg"_s });
     fixture.show();
     const auto dragBy = [&](int dx) {
         auto* handle = fixture.window->findChild<ResizeHandle*>();
@@ -208,7 +210,7 @@ void tst_ContentView::sidebarWidthIsKeptInItsLimits()
     QCOMPARE(width(), 420);
     dragBy(-900);
     QCOMPARE(width(), 200);
-    fixture.model->preferences().setValue(QStringLiteral("sidebarWidth"), QStringLiteral("wide"));
+    fixture.model->preferences().setValue(u"sidebarWidth"_s, u"wide"_s);
     fixture.build();
     fixture.show();
     QCOMPARE(width(), 288);
@@ -217,7 +219,7 @@ void tst_ContentView::sidebarWidthIsKeptInItsLimits()
 void tst_ContentView::dropsAnywhere()
 {
     WindowFixture fixture;
-    fixture.model.addTitled({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") });
+    fixture.model.addTitled({ u"a.jpg"_s, u"b.jpg"_s });
     fixture.show();
     auto* launch = fixture.window->findChild<LaunchView*>();
     QVERIFY(drag<QDragEnterEvent>(fixture.window.get(), { fixture.model.folderURL() }));
@@ -230,35 +232,35 @@ void tst_ContentView::dropsAnywhere()
     QVERIFY(drag<QDropEvent>(fixture.window.get(), { fixture.model.folderURL() }));
     QVERIFY(!launch->isTargeted());
     QVERIFY(fixture.model.waitUntilIdle());
-    QCOMPARE(fixture.model.visible(), (QStringList{ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") }));
+    QCOMPARE(fixture.model.visible(), (QStringList{ u"a.jpg"_s, u"b.jpg"_s }));
 
     // Over a text field, too, files are the window's; text stays the field's.
-    auto* field = fixture.window->findChild<QLineEdit*>(QStringLiteral("field"));
-    const QUrl b = fixture.model.url(QStringLiteral("b.jpg"));
+    auto* field = fixture.window->findChild<QLineEdit*>(u"field"_s);
+    const QUrl b = fixture.model.url(u"b.jpg"_s);
     QVERIFY(drag<QDragEnterEvent>(field, { b }));
     QVERIFY(launch->isTargeted());
     QVERIFY(drag<QDropEvent>(fixture.window.get(), { b }));
     QVERIFY(fixture.model.waitUntilIdle());
-    QTRY_COMPARE(fixture.model.visible(), QStringList{ QStringLiteral("b.jpg") });
+    QTRY_COMPARE(fixture.model.visible(), QStringList{ u"b.jpg"_s });
     QVERIFY(field->text().isEmpty());
-    QVERIFY(drag<QDragEnterEvent>(field, {}, QStringLiteral("words")));
+    QVERIFY(drag<QDragEnterEvent>(field, {}, u"words"_s));
     endDrag(field);
 }
 
 void tst_ContentView::dropsOfNothingUseful()
 {
     WindowFixture fixture;
-    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.open({ u"a.jpg"_s });
     fixture.show();
-    QVERIFY(!drag<QDragEnterEvent>(fixture.window.get(), {}, QStringLiteral("words")));
-    QVERIFY(!drag<QDragEnterEvent>(fixture.window.get(), { QUrl(QStringLiteral("https://example.org/a.jpg")) }));
+    QVERIFY(!drag<QDragEnterEvent>(fixture.window.get(), {}, u"words"_s));
+    QVERIFY(!drag<QDragEnterEvent>(fixture.window.get(), { QUrl(u"https://example.org/a.jpg"_s) }));
     // A file that is no photo is accepted, and refused in words.
-    const QString note = fixture.model.folder.path(QStringLiteral("note.txt"));
+    const QString note = fixture.model.folder.path(u"note.txt"_s);
     writeFile(note, "x");
     QVERIFY(drag<QDragEnterEvent>(fixture.window.get(), { QUrl::fromLocalFile(note) }));
     QVERIFY(drag<QDropEvent>(fixture.window.get(), { QUrl::fromLocalFile(note) }));
-    QTRY_COMPARE(fixture.model->errorMessage(), QStringLiteral("No supported images were found."));
-    QCOMPARE(fixture.model.visible(), QStringList{ QStringLiteral("a.jpg") });
+    QTRY_COMPARE(fixture.model->errorMessage(), u"No supported images were found."_s);
+    QCOMPARE(fixture.model.visible(), QStringList{ u"a.jpg"_s });
     // Under a sheet the window takes nothing.
     fixture.model->setAddOpen(true);
     QVERIFY(!drag<QDragEnterEvent>(fixture.window.get(), { fixture.model.folderURL() }));
@@ -268,23 +270,22 @@ void tst_ContentView::dropsOfNothingUseful()
 void tst_ContentView::saveButtonSaysWhatItDoes()
 {
     WindowFixture fixture;
-    fixture.open({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg") });
+    fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
     fixture.show();
-    QVERIFY(!fixture.button(QStringLiteral("Save"))->isEnabled());
-    fixture.model->setSingle(QStringLiteral("title"), QStringLiteral("New"));
-    QVERIFY(fixture.button(QStringLiteral("Save"))->isEnabled());
+    QVERIFY(!fixture.button(u"Save"_s)->isEnabled());
+    fixture.model->setSingle(u"title"_s, u"New"_s);
+    QVERIFY(fixture.button(u"Save"_s)->isEnabled());
     fixture.model->setSaveDontAsk(true);
-    QTest::mouseClick(fixture.button(QStringLiteral("Save")), Qt::LeftButton);
-    QVERIFY(!fixture.button(QStringLiteral("Saving…"))->isEnabled());
+    QTest::mouseClick(fixture.button(u"Save"_s), Qt::LeftButton);
+    QVERIFY(!fixture.button(u"Saving…"_s)->isEnabled());
     QTRY_VERIFY_WITH_TIMEOUT(!fixture.model->isSaving(), 30'000);
-    QCOMPARE(
-        fixture.model.onDisk(QStringLiteral("a.jpg"), QStringLiteral("XMP:Title")).toString(), QStringLiteral("New"));
+    QCOMPARE(fixture.model.onDisk(u"a.jpg"_s, u"XMP:Title"_s).toString(), u"New"_s);
 
     fixture.model->selectAllPhotos();
-    QVERIFY(!fixture.button(QStringLiteral("Apply to 2"))->isEnabled());
-    QCOMPARE(fixture.content->bar()->accessibleDescription(), QStringLiteral("2 photos · 2 selected"));
-    fixture.model->setBatch(QStringLiteral("title"), QStringLiteral("Both"));
-    QVERIFY(fixture.button(QStringLiteral("Apply to 2"))->isEnabled());
+    QVERIFY(!fixture.button(u"Apply to 2"_s)->isEnabled());
+    QCOMPARE(fixture.content->bar()->accessibleDescription(), u"2 photos · 2 selected"_s);
+    fixture.model->setBatch(u"title"_s, u"Both"_s);
+    QVERIFY(fixture.button(u"Apply to 2"_s)->isEnabled());
 }
 
 void tst_ContentView::settingsMenuFlipsItsFlags()
@@ -292,7 +293,7 @@ void tst_ContentView::settingsMenuFlipsItsFlags()
     WindowFixture fixture;
     fixture.show();
     const auto flip = [&](const QString& text) {
-        QTest::mouseClick(fixture.button(QStringLiteral("Settings")), Qt::LeftButton);
+        QTest::mouseClick(fixture.button(u"Settings"_s), Qt::LeftButton);
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         if (!menu)
             return false;
@@ -304,22 +305,22 @@ void tst_ContentView::settingsMenuFlipsItsFlags()
             }
         return false;
     };
-    QVERIFY(flip(QStringLiteral("Show namespace details")));
+    QVERIFY(flip(u"Show namespace details"_s));
     QVERIFY(fixture.model->showNamespace());
-    QVERIFY(!flip(QStringLiteral("Back up originals before writing")));  // on by default: now off
+    QVERIFY(!flip(u"Back up originals before writing"_s));  // on by default: now off
     QVERIFY(!fixture.model->backupOriginals());
-    QVERIFY(flip(QStringLiteral("Also write sidecar .xmp")));
+    QVERIFY(flip(u"Also write sidecar .xmp"_s));
     QVERIFY(fixture.model->writeSidecar());
 }
 
 void tst_ContentView::bannerStaysUntilItIsDismissed()
 {
     WindowFixture fixture;
-    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.open({ u"a.jpg"_s });
     fixture.show();
     auto* banner = fixture.window->findChild<ErrorBanner*>();
     QVERIFY(!banner->isVisible());
-    const QString text = QStringLiteral("Could not save: ") + QStringLiteral("a long reason ").repeated(60);
+    const QString text = u"Could not save: "_s + u"a long reason "_s.repeated(60);
     fixture.model->setErrorMessage(text);
     QVERIFY(banner->isVisible());
     QCOMPARE(banner->accessibleName(), text);
@@ -328,7 +329,7 @@ void tst_ContentView::bannerStaysUntilItIsDismissed()
     QCOMPARE(banner->geometry().bottom() + 1, fixture.content->height() - 54 - 16);
     fixture.window->resize(900, 600);
     QCOMPARE(banner->geometry().bottom() + 1, fixture.content->height() - 54 - 16);
-    QTest::mouseClick(fixture.button(QStringLiteral("Dismiss")), Qt::LeftButton);
+    QTest::mouseClick(fixture.button(u"Dismiss"_s), Qt::LeftButton);
     QVERIFY(!banner->isVisible());
     QVERIFY(!fixture.model->errorMessage());
 }
@@ -339,15 +340,15 @@ void tst_ContentView::withoutTheToolTheBannerSaysSo()
     fixture.show();
     QVERIFY(fixture.window->findChild<ErrorBanner*>()->isVisible());
     QCOMPARE(fixture.window->findChild<ErrorBanner*>()->accessibleName(),
-        QStringLiteral("ExifTool could not be found in the app bundle. Metadata cannot be read or written."));
+        u"ExifTool could not be found in the app bundle. Metadata cannot be read or written."_s);
 }
 
 void tst_ContentView::sheetTakesTheKeyboard()
 {
     WindowFixture fixture;
-    fixture.open({ QStringLiteral("a.jpg") });
+    fixture.open({ u"a.jpg"_s });
     fixture.show();
-    auto* field = fixture.window->findChild<QLineEdit*>(QStringLiteral("field"));
+    auto* field = fixture.window->findChild<QLineEdit*>(u"field"_s);
     field->setFocus();
     fixture.model->setAddOpen(true);
     auto* sheet = dynamic_cast<SampleSheet*>(fixture.content->sheets()->current());
@@ -386,13 +387,13 @@ void tst_ContentView::progressOfALongRead()
     tool.answerAlways({ .holds = true });
     WindowFixture fixture(MetadataService{ tool.runner() });
     fixture.show();
-    fixture.model.folder.add(QStringLiteral("a.jpg"));
+    fixture.model.folder.add(u"a.jpg"_s);
     fixture.model->load({ fixture.model.folderURL() });
     auto* foot = fixture.window->findChild<LaunchView*>()->findChild<ProgressFoot*>();
     QVERIFY(!foot->isVisible());  // work that ends soon shows nothing
     QTRY_VERIFY(foot->isVisible());
-    QCOMPARE(foot->accessibleName(), QStringLiteral("Reading 0 of 1 photos…"));
-    QTest::mouseClick(fixture.button(QStringLiteral("Cancel")), Qt::LeftButton);
+    QCOMPARE(foot->accessibleName(), u"Reading 0 of 1 photos…"_s);
+    QTest::mouseClick(fixture.button(u"Cancel"_s), Qt::LeftButton);
     QTRY_VERIFY(!fixture.model->isWorking());
     QVERIFY(!foot->isVisible());
     QVERIFY(fixture.model->records().isEmpty());
@@ -402,18 +403,18 @@ void tst_ContentView::progressOfALongWrite()
 {
     FakeTool tool;
     WindowFixture fixture(MetadataService{ tool.runner() });
-    const QUrl photo = fixture.model.folder.add(QStringLiteral("a.jpg"));
-    tool.answerAlways({ .standardOutput = toolJson({ { { QStringLiteral("SourceFile"), photo.toLocalFile() } } }) });
+    const QUrl photo = fixture.model.folder.add(u"a.jpg"_s);
+    tool.answerAlways({ .standardOutput = toolJson({ { { u"SourceFile"_s, photo.toLocalFile() } } }) });
     QVERIFY(fixture.model.open());
     fixture.show();
     tool.answerAlways({ .holds = true });
     fixture.model->setSaveDontAsk(true);
-    fixture.model->setSingle(QStringLiteral("title"), QStringLiteral("New"));
+    fixture.model->setSingle(u"title"_s, u"New"_s);
     fixture.model->requestSave();
     auto* foot = fixture.window->findChild<SidebarView*>()->findChild<ProgressFoot*>();
     QTRY_VERIFY(foot->isVisible());
-    QVERIFY(foot->accessibleName().startsWith(QStringLiteral("Saving ")));
-    QVERIFY(!fixture.button(QStringLiteral("Cancel")));
+    QVERIFY(foot->accessibleName().startsWith(u"Saving "_s));
+    QVERIFY(!fixture.button(u"Cancel"_s));
     tool.release();
     QTRY_VERIFY_WITH_TIMEOUT(!foot->isVisible(), 30'000);
 }
@@ -451,20 +452,20 @@ void tst_ContentView::previewShowsThePhotoOrTheStack()
     options.embedded = [](const QString&, const std::stop_token&) { return QImage(); };
     ThumbnailStore thumbs(options);
     WindowFixture fixture(&thumbs);
-    fixture.open({ QStringLiteral("a.jpg"), QStringLiteral("b.jpg"), QStringLiteral("c.jpg") });
+    fixture.open({ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s });
     fixture.window->resize(1440, 900);
     fixture.show();
     auto* preview = fixture.window->findChild<PreviewColumnView*>();
     const QPoint middle(preview->width() / 2, (preview->height() - 54) / 2);
     QTRY_COMPARE(colorAt(preview, middle), QColor(Qt::red));
-    QCOMPARE(preview->accessibleName(), QStringLiteral("Preview of a.jpg"));
+    QCOMPARE(preview->accessibleName(), u"Preview of a.jpg"_s);
     // At most 560 wide.
     QCOMPARE(colorAt(preview, middle - QPoint(278, 0)), QColor(Qt::red));
     QVERIFY(colorAt(preview, middle - QPoint(283, 0)) != QColor(Qt::red));
-    fixture.model.click(QStringLiteral("b.jpg"));
+    fixture.model.click(u"b.jpg"_s);
     QTRY_COMPARE(colorAt(preview, middle), QColor(Qt::blue));
     fixture.model->selectAllPhotos();
-    QCOMPARE(preview->accessibleName(), QStringLiteral("3 photos selected"));
+    QCOMPARE(preview->accessibleName(), u"3 photos selected"_s);
     QTRY_COMPARE(colorAt(preview, middle), QColor(Qt::blue));  // the primary's card lies in front
 }
 

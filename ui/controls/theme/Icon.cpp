@@ -9,11 +9,13 @@
 
 namespace Quorbel::Icon {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString path(const QString& name)
 {
-    return QStringLiteral(":/icons/%1.svg").arg(name);
+    return u":/icons/%1.svg"_s.arg(name);
 }
 
 /// The drawing's text with its colour and line width filled in; empty for an unknown name.
@@ -33,11 +35,8 @@ QByteArray drawing(const QString& name, const QColor& color, qreal stroke)
 
 QPixmap pixmap(const QString& name, qreal size, const QColor& color, qreal devicePixelRatio, qreal stroke)
 {
-    const QString key = QStringLiteral("icon/%1/%2/%3/%4/%5")
-                            .arg(name, color.name(QColor::HexArgb))
-                            .arg(size)
-                            .arg(devicePixelRatio)
-                            .arg(stroke);
+    const QString key =
+        u"icon/%1/%2/%3/%4/%5"_s.arg(name, color.name(QColor::HexArgb)).arg(size).arg(devicePixelRatio).arg(stroke);
     QPixmap result;
     if (QPixmapCache::find(key, &result))
         return result;

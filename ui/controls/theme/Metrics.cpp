@@ -13,6 +13,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Desktops differ in what they call standard: 9 points (12 pixels) without settings, 10 in KDE, 11 in GNOME. All of
@@ -103,13 +105,13 @@ qreal pxF(qreal points)
 
 QFont sansFont(qreal points, QFont::Weight weight)
 {
-    static const QString family = installedFamily(QStringLiteral("Inter"), QFontDatabase::GeneralFont);
+    static const QString family = installedFamily(u"Inter"_s, QFontDatabase::GeneralFont);
     return makeFont(family, points, weight);
 }
 
 QFont monoFont(qreal points)
 {
-    static const QString family = installedFamily(QStringLiteral("JetBrains Mono"), QFontDatabase::FixedFont);
+    static const QString family = installedFamily(u"JetBrains Mono"_s, QFontDatabase::FixedFont);
     QFont font = makeFont(family, points, QFont::Normal);
     font.setStyleHint(QFont::Monospace);
     return font;

@@ -4,6 +4,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct KeyName {
@@ -43,8 +45,8 @@ QString symbolText(const QString& text)
         if (next.isLetterOrNumber() || next == u',' || !keyName(next).isEmpty())
             result += u'+';
     }
-    result.replace(QStringLiteral("in Finder"), QStringLiteral("in your file manager"));
-    return result.replace(QStringLiteral("Finder"), QStringLiteral("your file manager"));
+    result.replace(u"in Finder"_s, u"in your file manager"_s);
+    return result.replace(u"Finder"_s, u"your file manager"_s);
 }
 
 }  // namespace Quorbel

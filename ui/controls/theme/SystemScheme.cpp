@@ -11,6 +11,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto portalService = "org.freedesktop.portal.Desktop";
@@ -40,7 +42,7 @@ bool hasSessionBus()
 {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
     return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")
-        || (!runtime.isEmpty() && QFileInfo::exists(runtime + QStringLiteral("/bus")));
+        || (!runtime.isEmpty() && QFileInfo::exists(runtime + u"/bus"_s));
 }
 
 }  // namespace
@@ -82,10 +84,10 @@ void SystemScheme::askPortal()
     if (!bus.isConnected())
         return;
     bus.connect(QString::fromLatin1(portalService), QString::fromLatin1(portalPath),
-        QString::fromLatin1(portalInterface), QStringLiteral("SettingChanged"), this,
+        QString::fromLatin1(portalInterface), u"SettingChanged"_s, this,
         SLOT(portalSettingChanged(QString, QString, QDBusVariant)));
     auto question = QDBusMessage::createMethodCall(QString::fromLatin1(portalService), QString::fromLatin1(portalPath),
-        QString::fromLatin1(portalInterface), QStringLiteral("Read"));
+        QString::fromLatin1(portalInterface), u"Read"_s);
     question << QString::fromLatin1(appearanceGroup) << QString::fromLatin1(schemeKey);
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {

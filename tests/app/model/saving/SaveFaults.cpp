@@ -215,7 +215,7 @@ OtherProgram::OtherProgram(const Launch& launch)
     QStringList arguments{ launch.folder, launch.state, launch.title };
     if (launch.backup)
         arguments.append(u"--backup"_s);
-    m_process.start(QStringLiteral(QUORBEL_SAVING_PROGRAM), arguments);
+    m_process.start(QString::fromUtf8(QUORBEL_SAVING_PROGRAM), arguments);
     m_process.waitForStarted();
     m_group = pid_t(m_process.processId());
 }

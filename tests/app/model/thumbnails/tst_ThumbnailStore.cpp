@@ -11,6 +11,7 @@
 
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
+
 using Kind = ThumbnailStore::Kind;
 using State = ThumbnailStore::State;
 
