@@ -2,6 +2,8 @@
 #include "app/model/AppModel.h"
 
 #include "app/model/MainThread.h"
+#include "core/schema/CustomFields.h"
+#include "core/schema/FieldID.h"
 #include "core/text/Text.h"
 #include "core/tool/MetadataWriter.h"
 
@@ -13,22 +15,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString customKey(const QString& name)
-{
-    return u"custom:"_s + name;
-}
-
-qsizetype indexOfCustom(const QList<CustomValue>& customs, const QString& name)
-{
-    const auto found = std::find_if(
-        customs.cbegin(), customs.cend(), [&name](const CustomValue& custom) { return custom.name == name; });
-    return found == customs.cend() ? -1 : found - customs.cbegin();
-}
-
 /// Whether the custom values changed.
 bool putCustom(QList<CustomValue>& customs, const QString& name, const QString& value)
 {
-    const qsizetype i = indexOfCustom(customs, name);
+    const qsizetype i = CustomFields::indexOf(customs, name);
     if (value == (i < 0 ? QString() : customs.at(i).value))
         return false;
     if (i < 0)
@@ -114,7 +104,7 @@ void AppModel::setCustom(const QString& name, const QString& value)
             announce(&AppModel::batchCustomsChanged);
     } else if (putCustom(m_draftCustoms, name, value)) {
         announce(&AppModel::draftCustomsChanged);
-        assign(m_editedSingle, QSet(m_editedSingle) << customKey(name), &AppModel::editedSingleChanged);
+        assign(m_editedSingle, QSet(m_editedSingle) << CustomFields::key(name), &AppModel::editedSingleChanged);
     }
 }
 
@@ -211,11 +201,11 @@ QList<CustomValue> AppModel::visibleCustomFields() const
         return m_draftCustoms;
     QList<CustomValue> fields;
     for (const QString& name : selectionSummary().customNames) {
-        const qsizetype i = indexOfCustom(m_batchCustoms, name);
+        const qsizetype i = CustomFields::indexOf(m_batchCustoms, name);
         fields.append({ name, i < 0 ? QString() : m_batchCustoms.at(i).value });
     }
     for (const CustomValue& custom : m_batchCustoms)
-        if (indexOfCustom(fields, custom.name) < 0)
+        if (CustomFields::indexOf(fields, custom.name) < 0)
             fields.append(custom);
     return fields;
 }
@@ -249,7 +239,7 @@ void AppModel::assignPlace(const LocationFill::Result& result, bool withPosition
     const Update update(*this);
     const auto assignments = LocationFill::assignments(result, [this](const QString& id) { return isFieldEmpty(id); });
     for (const LocationFill::Assignment& assignment : assignments) {
-        if (!withPosition && assignment.id == u"coords"_s)
+        if (!withPosition && assignment.id == FieldID::coords)
             continue;
         if (isBatch())
             setBatch(assignment.id, assignment.value);
@@ -264,7 +254,7 @@ QStringList AppModel::keywordCompletions(const QString& prefix, int limit) const
     if (!m_keywordsByUse) {
         QHash<QString, int> uses;
         for (const ImageRecord& record : m_records)
-            for (const QString& keyword : record.lists.value(u"keywords"_s))
+            for (const QString& keyword : record.lists.value(FieldID::keywords))
                 ++uses[keyword];
         QStringList keywords = uses.keys();
         std::sort(keywords.begin(), keywords.end(), [&uses](const QString& a, const QString& b) {

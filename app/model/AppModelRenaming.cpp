@@ -3,6 +3,7 @@
 
 #include "app/model/Background.h"
 #include "app/model/MainThread.h"
+#include "core/schema/FieldID.h"
 #include "core/text/FileNaming.h"
 #include "core/text/Text.h"
 
@@ -24,7 +25,7 @@ bool AppModel::canRename() const
     requireMainThread("canRename");
     if (m_selection.size() != 1 || !primaryRecord())
         return false;
-    for (const QString& id : { u"date"_s, u"title"_s, u"creator"_s, u"place"_s })
+    for (const QLatin1StringView id : { FieldID::date, FieldID::title, FieldID::creator, FieldID::place })
         if (!Text::trimmed(m_draftValues.value(id)).isEmpty())
             return true;
     return false;
@@ -47,13 +48,13 @@ QString AppModel::renamePreview() const
 
 QMap<QString, QString> AppModel::renameValues(const ImageRecord& record) const
 {
-    const QStringList date = m_draftValues.value(u"date"_s).split(u' ', Qt::SkipEmptyParts);
+    const QStringList date = m_draftValues.value(FieldID::date).split(u' ', Qt::SkipEmptyParts);
     return {
         { u"%Date%"_s, date.value(0) },
         { u"%Time%"_s, date.value(1).remove(u':') },
-        { u"%Title%"_s, m_draftValues.value(u"title"_s) },
-        { u"%Creator%"_s, m_draftValues.value(u"creator"_s) },
-        { u"%Place%"_s, m_draftValues.value(u"place"_s) },
+        { u"%Title%"_s, m_draftValues.value(FieldID::title) },
+        { u"%Creator%"_s, m_draftValues.value(FieldID::creator) },
+        { u"%Place%"_s, m_draftValues.value(FieldID::place) },
         { u"%Original%"_s, QFileInfo(record.fileName).completeBaseName() },
     };
 }

@@ -1,6 +1,7 @@
 #include "app/model/SelfTest.h"
 
 #include "core/MetadataService.h"
+#include "core/schema/FieldID.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -68,21 +69,21 @@ QString describe(const ImageRecord& record)
     for (const auto& row : record.camera)
         labels.append(row.label);
     return u"  first: "_s + record.fileName + u" ["_s + record.detailLine() + u"] title="_s
-        + record.values.value(u"title"_s, u"—"_s) + u" keywords="_s + printedList(record.lists.value(u"keywords"_s))
-        + u" camera="_s + printedList(labels);
+        + record.values.value(FieldID::title, u"—"_s) + u" keywords="_s
+        + printedList(record.lists.value(FieldID::keywords)) + u" camera="_s + printedList(labels);
 }
 
 void writeHeadline(const MetadataService& service, const QUrl& target, const QString& headline)
 {
     EditPlan plan;
-    plan.scalars.insert(u"headline"_s, headline);
+    plan.scalars.insert(FieldID::headline, headline);
     service.write(plan, { target }, WriteOptions{});
 }
 
 std::optional<QString> readHeadline(const MetadataService& service, const QUrl& target)
 {
     const auto records = service.read({ target });
-    const QString id = u"headline"_s;
+    const QString id = FieldID::headline;
     if (records.isEmpty() || !records.first().values.contains(id))
         return std::nullopt;
     return records.first().values.value(id);

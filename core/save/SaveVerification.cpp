@@ -1,5 +1,6 @@
 #include "core/save/SaveVerification.h"
 
+#include "core/schema/CustomFields.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/Coordinates.h"
 #include "core/text/Text.h"
@@ -12,11 +13,6 @@ namespace Quorbel::SaveVerification {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString customPrefix()
-{
-    return u"custom:"_s;
-}
 
 /// ExifTool prints "1.10" and "True" as the JSON values 1.1 and true: the same text in the file, another form here.
 bool sameText(const QString& written, const QString& found)
@@ -98,7 +94,7 @@ QStringList differences(const EditPlan& plan, const ImageRecord& record)
     }
     for (const auto& custom : plan.customs)
         if (!holdsCustom(record, custom))
-            keys.append(customPrefix() + custom.name);
+            keys.append(CustomFields::key(custom.name));
     return keys;
 }
 
@@ -107,7 +103,7 @@ QStringList labels(const QStringList& keys)
     QStringList texts;
     for (const auto& key : keys) {
         const FieldSpec* field = FieldSchema::spec(key);
-        texts.append(field ? field->label : key.startsWith(customPrefix()) ? key.sliced(customPrefix().size()) : key);
+        texts.append(field ? field->label : CustomFields::nameIn(key).value_or(key));
     }
     return texts;
 }

@@ -1,5 +1,6 @@
 #include "core/schema/LocationFill.h"
 
+#include "core/schema/FieldID.h"
 #include "core/text/Coordinates.h"
 
 namespace Quorbel::LocationFill {
@@ -8,19 +9,19 @@ using namespace Qt::StringLiterals;
 
 QList<Assignment> assignments(const Result& result, const std::function<bool(const QString&)>& isFieldEmpty)
 {
-    QList<Assignment> filled{ { u"coords"_s, Coordinates::displayString({ result.latitude, result.longitude }) } };
+    QList<Assignment> filled{ { FieldID::coords, Coordinates::displayString({ result.latitude, result.longitude }) } };
     const QString place = result.locality.isEmpty() ? result.name : result.locality;
     if (!place.isEmpty())
-        filled.append({ u"place"_s, place });
+        filled.append({ FieldID::place, place });
 
     const auto fillEmpty = [&](const QString& id, const QString& value) {
         if (!value.isEmpty() && isFieldEmpty(id))
             filled.append({ id, value });
     };
     if (result.name != place)
-        fillEmpty(u"sublocation"_s, result.name);
-    fillEmpty(u"state"_s, result.administrativeArea);
-    fillEmpty(u"country"_s, result.country);
+        fillEmpty(FieldID::sublocation, result.name);
+    fillEmpty(FieldID::state, result.administrativeArea);
+    fillEmpty(FieldID::country, result.country);
     return filled;
 }
 

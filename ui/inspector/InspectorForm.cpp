@@ -1,6 +1,8 @@
 #include "ui/inspector/InspectorForm.h"
 
 #include "app/model/AppModel.h"
+#include "core/schema/CustomFields.h"
+#include "core/schema/FieldID.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/CameraSection.h"
@@ -138,7 +140,7 @@ void InspectorForm::showCustoms(bool fresh)
         names.insert(custom.name);
         // One that is edited as it appears is the user's; others may come from another program.
         if (!fresh && row->state().edited && !m_customNames.contains(custom.name))
-            emit fieldAdded(InspectorStates::customKey(custom.name));
+            emit fieldAdded(CustomFields::key(custom.name));
     }
     m_customNames = names;
     m_customs->setRows(rows);
@@ -147,7 +149,7 @@ void InspectorForm::showCustoms(bool fresh)
 
 bool InspectorForm::arePlaceFieldsEmpty() const
 {
-    const QStringList ids{ u"place"_s, u"sublocation"_s, u"state"_s, u"country"_s };
+    const QStringList ids{ FieldID::place, FieldID::sublocation, FieldID::state, FieldID::country };
     return std::all_of(ids.cbegin(), ids.cend(), [this](const QString& id) { return m_model.isFieldEmpty(id); });
 }
 
@@ -155,7 +157,7 @@ void InspectorForm::showMap(bool fresh)
 {
     if (fresh)
         m_map->abandon();
-    const auto point = Coordinates::parse(InspectorStates::currentText(m_model, u"coords"_s));
+    const auto point = Coordinates::parse(InspectorStates::currentText(m_model, FieldID::coords));
     m_map->setPoint(point, arePlaceFieldsEmpty());
 }
 
@@ -175,7 +177,7 @@ FieldRow* InspectorForm::row(const QString& id) const
 
 FieldRow* InspectorForm::customRow(const QString& name) const
 {
-    return row(InspectorStates::customKey(name));
+    return row(CustomFields::key(name));
 }
 
 FieldRow* InspectorForm::makeRow(const QString& key, const FieldRowParts& parts)
@@ -194,10 +196,10 @@ FieldRow* InspectorForm::rowOf(const FieldSpec& field)
         return known;
     FieldRowParts parts;
     parts.kind = field.kind;
-    parts.searchesPlaces = field.id == u"place"_s;
+    parts.searchesPlaces = field.id == FieldID::place;
     parts.places = m_places;
     parts.now = [this] { return m_model.now(); };
-    if (field.id == u"keywords"_s)
+    if (field.id == FieldID::keywords)
         parts.completions = [this](
                                 const QString& prefix) { return m_model.keywordCompletions(prefix, mostCompletions); };
     FieldRow* row = makeRow(field.id, parts);
@@ -214,7 +216,7 @@ FieldRow* InspectorForm::rowOf(const FieldSpec& field)
 
 FieldRow* InspectorForm::rowOf(const CustomValue& custom)
 {
-    const QString key = InspectorStates::customKey(custom.name);
+    const QString key = CustomFields::key(custom.name);
     if (FieldRow* known = m_pool.value(key))
         return known;
     FieldRow* row = makeRow(key, {});

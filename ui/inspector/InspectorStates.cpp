@@ -1,6 +1,8 @@
 #include "ui/inspector/InspectorStates.h"
 
 #include "app/model/AppModel.h"
+#include "core/schema/CustomFields.h"
+#include "core/schema/FieldID.h"
 #include "core/tool/MetadataWriter.h"
 
 #include <algorithm>
@@ -14,15 +16,15 @@ namespace {
 QString placeholderOf(const QString& id)
 {
     static const QHash<QString, QString> placeholders{
-        { u"title"_s, u"Untitled"_s },
-        { u"description"_s, u"Add a description…"_s },
-        { u"place"_s, u"Add a place…"_s },
-        { u"creator"_s, u"Add a creator…"_s },
-        { u"copyright"_s, u"Add a copyright notice…"_s },
-        { u"date"_s, u"YYYY-MM-DD HH:MM"_s },
-        { u"coords"_s, u"lat, lon"_s },
-        { u"headline"_s, u"Add a headline…"_s },
-        { u"event"_s, u"Add an event…"_s },
+        { FieldID::title, u"Untitled"_s },
+        { FieldID::description, u"Add a description…"_s },
+        { FieldID::place, u"Add a place…"_s },
+        { FieldID::creator, u"Add a creator…"_s },
+        { FieldID::copyright, u"Add a copyright notice…"_s },
+        { FieldID::date, u"YYYY-MM-DD HH:MM"_s },
+        { FieldID::coords, u"lat, lon"_s },
+        { FieldID::headline, u"Add a headline…"_s },
+        { FieldID::event, u"Add an event…"_s },
     };
     return placeholders.value(id);
 }
@@ -57,11 +59,6 @@ void addTextState(const AppModel& model, const FieldSpec& field, FieldRowState& 
 }
 
 }  // namespace
-
-QString customKey(const QString& name)
-{
-    return u"custom:"_s + name;
-}
 
 QString currentText(const AppModel& model, const QString& id)
 {
@@ -98,7 +95,7 @@ FieldRowState customRow(const AppModel& model, const CustomValue& custom)
         if (state.included)
             state.helpLine = willBeWritten(model);
     } else {
-        state.edited = model.editedSingle().contains(customKey(custom.name));
+        state.edited = model.editedSingle().contains(CustomFields::key(custom.name));
     }
     if (model.showNamespace())
         state.namespaceLine = MetadataWriter::customNamespacePrefix() + u':' + custom.name;

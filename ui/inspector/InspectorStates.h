@@ -12,9 +12,6 @@ class AppModel;
 
 namespace InspectorStates {
 
-/// The key under which a custom field counts among the edited ones.
-QString customKey(const QString& name);
-
 FieldRowState fieldRow(const AppModel& model, const FieldSpec& field);
 FieldRowState customRow(const AppModel& model, const CustomValue& custom);
 

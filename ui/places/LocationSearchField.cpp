@@ -1,5 +1,6 @@
 #include "ui/places/LocationSearchField.h"
 
+#include "core/schema/FieldID.h"
 #include "ui/controls/SuggestionList.h"
 
 #include <QKeyEvent>
@@ -15,7 +16,7 @@ std::optional<QString> placeText(const LocationFill::Result& result)
 {
     const auto assignments = LocationFill::assignments(result, [](const QString&) { return false; });
     for (const LocationFill::Assignment& assignment : assignments) {
-        if (assignment.id == u"place"_s)
+        if (assignment.id == FieldID::place)
             return assignment.value;
     }
     return {};
