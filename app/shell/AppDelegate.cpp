@@ -167,7 +167,7 @@ void AppDelegate::buildWindow()
     m_windowDelegate = new MainWindowDelegate(model, *m_window, *m_content->sheets());
     m_windowDelegate->restoreGeometry();
     m_app->thumbnails().setDevicePixelRatio(m_window->devicePixelRatioF());
-    connect(&model, &AppModel::colorOverrideChanged, this, &AppDelegate::applyThemes);
+    connect(&model.preferences(), &Preferences::changed, this, &AppDelegate::applyThemes);
     connect(m_systemScheme, &SystemScheme::schemeChanged, this, &AppDelegate::applyThemes);
 }
 
@@ -188,7 +188,7 @@ void AppDelegate::received(const HandOver& what)
 // The main window's theme is its content's business; the other windows follow it.
 void AppDelegate::applyThemes()
 {
-    const ColorScheme scheme = m_app->model().colorOverride().value_or(m_systemScheme->scheme());
+    const ColorScheme scheme = m_app->model().preferences().colorOverride().value_or(m_systemScheme->scheme());
     const Theme& theme = scheme == ColorScheme::dark ? Theme::dark() : Theme::light();
     if (m_settings)
         setTheme(m_settings, theme);

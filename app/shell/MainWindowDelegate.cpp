@@ -36,7 +36,7 @@ MainWindowDelegate::MainWindowDelegate(AppModel& model, QMainWindow& window, She
 void MainWindowDelegate::restoreGeometry()
 {
     m_window.setMinimumSize(ContentView::minimumWindow);
-    if (m_window.restoreGeometry(m_model.preferences().value(geometryKey()).toByteArray()))
+    if (m_window.restoreGeometry(m_model.preferences().store().value(geometryKey()).toByteArray()))
         return;
     const QSize screen = m_window.screen() ? m_window.screen()->availableSize() : usualSize;
     m_window.resize(usualSize.boundedTo(screen * 9 / 10).expandedTo(ContentView::minimumWindow));
@@ -44,7 +44,7 @@ void MainWindowDelegate::restoreGeometry()
 
 void MainWindowDelegate::quit()
 {
-    m_model.preferences().setValue(geometryKey(), m_window.saveGeometry());
+    m_model.preferences().store().setValue(geometryKey(), m_window.saveGeometry());
     m_quitting = true;
     QApplication::quit();
 }

@@ -90,11 +90,10 @@ Menus::Menus(AppModel& model, ContentView& content, const MenuCommands& commands
     addEditMenu();
     addViewMenu();
     addHelpMenu(commands);
-    for (const auto change : { &AppModel::recordsChanged, &AppModel::selectionChanged, &AppModel::folderURLChanged,
-             &AppModel::isSavingChanged, &AppModel::isWorkingChanged, &AppModel::editedSingleChanged,
-             &AppModel::batchIncludeChanged, &AppModel::batchListsChanged, &AppModel::batchValuesChanged,
-             &AppModel::batchCustomsChanged, &AppModel::renamePatternChanged, &AppModel::canUndoSaveChanged })
+    for (const auto change : { &AppModel::recordsChanged, &AppModel::selectionChanged, &AppModel::folderChanged,
+             &AppModel::isSavingChanged, &AppModel::editsChanged, &AppModel::canUndoSaveChanged })
         connect(&model, change, this, &Menus::followState);
+    connect(&model.preferences(), &Preferences::changed, this, &Menus::followState);
     connect(&content, &ContentView::previewShownChanged, this, &Menus::followState);
     followState();
 }
@@ -120,7 +119,7 @@ void Menus::addFileMenu(const MenuCommands& commands)
     add(menu, u"&Open…"_s, keysFor(QKeySequence::Open, Qt::CTRL | Qt::Key_O), [this] { m_model.openPanel(); });
     m_recents = menu->addThemedMenu(u"Open &Recent"_s);
     connect(m_recents, &QMenu::aboutToShow, this, &Menus::fillRecents);
-    connect(&m_model, &AppModel::recentPathsChanged, this, &Menus::fillRecents);
+    connect(&m_model.preferences(), &Preferences::changed, this, &Menus::fillRecents);
     fillRecents();
     menu->addSeparator();
     m_save =
@@ -195,10 +194,10 @@ void Menus::addViewMenu()
         add(menu, u"Show preview"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_P }, [this] { m_content.togglePreview(); });
     QAction* names = menu->addAction(u"Show &namespace details"_s);
     names->setCheckable(true);
-    names->setChecked(m_model.showNamespace());
-    connect(names, &QAction::toggled, &m_model, &AppModel::setShowNamespace);
-    connect(&m_model, &AppModel::showNamespaceChanged, names,
-        [this, names] { names->setChecked(m_model.showNamespace()); });
+    names->setChecked(m_model.preferences().showNamespace());
+    connect(names, &QAction::toggled, &m_model, [this](bool on) { m_model.preferences().showNamespace.set(on); });
+    connect(&m_model.preferences(), &Preferences::changed, names,
+        [this, names] { names->setChecked(m_model.preferences().showNamespace()); });
 }
 
 void Menus::addHelpMenu(const MenuCommands& commands)

@@ -61,8 +61,8 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     services.quit = hooks.quit;
     services.journalPath = journalPath();
     m_model = std::make_unique<AppModel>(services);
-    m_placeProvider = makePlaceProvider(
-        { .dataFolder = placesFolder(), .endpoint = placeEndpoint(m_model->placeService()).value_or(QUrl()) });
+    m_placeProvider = makePlaceProvider({ .dataFolder = placesFolder(),
+        .endpoint = placeEndpoint(m_model->preferences().placeService()).value_or(QUrl()) });
     m_model->onImagesModified = [this](const QList<QUrl>& urls) { m_thumbnails->invalidate(urls); };
 
     m_updatePresenter =

@@ -6,18 +6,6 @@ namespace Quorbel::ExternalRefresh {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-void keepCustom(QList<CustomValue>& customs, const QString& name, const QString& value)
-{
-    if (const qsizetype i = CustomFields::indexOf(customs, name); i >= 0)
-        customs[i].value = value;
-    else
-        customs.append({ name, value });
-}
-
-}  // namespace
-
 QList<QUrl> modifiedURLs(const QList<ImageRecord>& records, const ModificationDate& mtimeOf)
 {
     QList<QUrl> urls;
@@ -40,7 +28,7 @@ Drafts mergeDrafts(const ImageRecord& record, const Drafts& drafts, const QSet<Q
     for (const QString& id : std::as_const(ids)) {
         if (const auto name = CustomFields::nameIn(id)) {
             const qsizetype i = CustomFields::indexOf(drafts.customs, *name);
-            keepCustom(merged.customs, *name, i < 0 ? u""_s : drafts.customs.at(i).value);
+            CustomFields::put(merged.customs, { *name, i < 0 ? u""_s : drafts.customs.at(i).value });
         } else if (drafts.lists.contains(id)) {
             merged.lists.insert(id, drafts.lists.value(id));
         } else {

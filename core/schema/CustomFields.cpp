@@ -27,4 +27,12 @@ qsizetype indexOf(const QList<CustomValue>& values, const QString& name)
     return found == values.cend() ? -1 : found - values.cbegin();
 }
 
+void put(QList<CustomValue>& values, const CustomValue& value)
+{
+    if (const qsizetype i = indexOf(values, value.name); i >= 0)
+        values[i] = value;
+    else
+        values.append(value);
+}
+
 }  // namespace Quorbel::CustomFields

@@ -14,5 +14,7 @@ QString key(const QString& name);
 std::optional<QString> nameIn(const QString& key);
 /// Position of the first value with this name; -1 when there is none.
 qsizetype indexOf(const QList<CustomValue>& values, const QString& name);
+/// Replaces the first value with its name in place, or appends it.
+void put(QList<CustomValue>& values, const CustomValue& value);
 
 }  // namespace Quorbel::CustomFields

@@ -72,7 +72,7 @@ FieldRowState fieldRow(const AppModel& model, const FieldSpec& field)
     state.batch = model.isBatch();
     state.edited = (state.batch ? model.batchInclude() : model.editedSingle()).contains(field.id);
     state.removable = model.isRemovableAddedField(field.id);
-    if (model.showNamespace())
+    if (model.preferences().showNamespace())
         state.namespaceLine = field.namespaceHint;
     if (field.isList())
         addListState(model, field, state);
@@ -97,7 +97,7 @@ FieldRowState customRow(const AppModel& model, const CustomValue& custom)
     } else {
         state.edited = model.editedSingle().contains(CustomFields::key(custom.name));
     }
-    if (model.showNamespace())
+    if (model.preferences().showNamespace())
         state.namespaceLine = MetadataWriter::customNamespacePrefix() + u':' + custom.name;
     return state;
 }

@@ -57,11 +57,9 @@ InspectorView::InspectorView(
 void InspectorView::connectModel()
 {
     for (const auto changed : { &AppModel::selectionChanged, &AppModel::primaryChanged, &AppModel::recordsChanged,
-             &AppModel::draftValuesChanged, &AppModel::draftListsChanged, &AppModel::draftCustomsChanged,
-             &AppModel::editedSingleChanged, &AppModel::sessionAddedKnownIDsChanged, &AppModel::batchIncludeChanged,
-             &AppModel::batchValuesChanged, &AppModel::batchListsChanged, &AppModel::batchCustomsChanged,
-             &AppModel::showNamespaceChanged, &AppModel::isSavingChanged })
+             &AppModel::editsChanged, &AppModel::isSavingChanged })
         connect(&m_model, changed, this, &InspectorView::refresh);
+    connect(&m_model.preferences(), &Preferences::changed, this, &InspectorView::refresh);
 }
 
 void InspectorView::setBottomInset(int pixels)

@@ -64,8 +64,7 @@ AddFieldSheet::AddFieldSheet(AppModel& model, QWidget* parent)
     connect(m_list, &AddableFieldList::leftUpwards, m_query, [this] { m_query->setFocus(Qt::BacktabFocusReason); });
     connect(m_add, &QAbstractButton::clicked, this, &AddFieldSheet::confirm);
     // Files that other programs change may fill fields meanwhile.
-    for (const auto changed :
-        { &AppModel::draftValuesChanged, &AppModel::draftListsChanged, &AppModel::recordsChanged })
+    for (const auto changed : { &AppModel::editsChanged, &AppModel::recordsChanged })
         connect(&m_model, changed, this, &AddFieldSheet::filter);
     filter();
     m_list->setTabPredecessor(m_query);

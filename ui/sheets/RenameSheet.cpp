@@ -86,18 +86,19 @@ QWidget* RenameSheet::buildTokens()
 
 void RenameSheet::connectModel()
 {
-    connect(m_pattern, &QLineEdit::textEdited, &m_model, &AppModel::setRenamePattern);
-    for (const auto changed : { &AppModel::renamePatternChanged, &AppModel::draftValuesChanged,
-             &AppModel::stripSpecialCharsChanged, &AppModel::recordsChanged })
+    connect(m_pattern, &QLineEdit::textEdited, &m_model,
+        [this](const QString& text) { m_model.preferences().renamePattern.set(text); });
+    connect(&m_model.preferences(), &Preferences::changed, this, &RenameSheet::refresh);
+    for (const auto changed : { &AppModel::editsChanged, &AppModel::recordsChanged })
         connect(&m_model, changed, this, &RenameSheet::refresh);
 }
 
 void RenameSheet::refresh()
 {
-    m_pattern->setBoundText(m_model.renamePattern());
+    m_pattern->setBoundText(m_model.preferences().renamePattern());
     m_preview->setText(m_model.renamePreview());
     // An empty pattern would name the photo "untitled": hardly what anybody wants.
-    m_rename->setEnabled(m_model.canRename() && !Text::trimmed(m_model.renamePattern()).isEmpty());
+    m_rename->setEnabled(m_model.canRename() && !Text::trimmed(m_model.preferences().renamePattern()).isEmpty());
 }
 
 QString RenameSheet::title() const

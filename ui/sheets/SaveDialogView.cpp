@@ -166,14 +166,14 @@ void SaveDialogView::buildCheckbox()
 {
     m_dontAsk = new QBCheckbox(m_single ? u"Save and don’t ask again"_s : u"Don’t ask again this session"_s, nullptr);
     const auto show = [this] {
-        m_dontAsk->setChecked(m_single ? m_model.saveDontAsk() : m_model.batchDontAskSession());
+        m_dontAsk->setChecked(m_single ? m_model.preferences().saveDontAsk() : m_model.batchDontAskSession());
     };
     show();
-    connect(&m_model, &AppModel::saveDontAskChanged, this, show);
+    connect(&m_model.preferences(), &Preferences::changed, this, show);
     connect(&m_model, &AppModel::batchDontAskSessionChanged, this, show);
     connect(m_dontAsk, &QAbstractButton::clicked, this, [this] {
         if (m_single)
-            m_model.setSaveDontAsk(!m_model.saveDontAsk());
+            m_model.preferences().saveDontAsk.set(!m_model.preferences().saveDontAsk());
         else
             m_model.setBatchDontAskSession(!m_model.batchDontAskSession());
     });

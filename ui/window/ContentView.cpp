@@ -123,15 +123,15 @@ void ContentView::buildColumns()
         return;
     m_sidebar = new SidebarView(m_model, m_thumbs);
     m_inspector = m_factories.inspector(this);
-    m_columns = new ColumnRow(
-        m_sidebar, m_inspector, new PreviewColumnView(m_model, m_thumbs), storedWidth(m_model.preferences()), this);
+    m_columns = new ColumnRow(m_sidebar, m_inspector, new PreviewColumnView(m_model, m_thumbs),
+        storedWidth(m_model.preferences().store()), this);
     m_columns->hide();
     m_columns->setGeometry(rect());
     m_columns->stackUnder(m_launch);
     new HandleLines(m_sidebar, m_columns->handle());
-    m_columns->setPreviewWanted(m_model.preferences().value(previewEnabledKey(), true).toBool());
+    m_columns->setPreviewWanted(m_model.preferences().store().value(previewEnabledKey(), true).toBool());
     connect(m_columns, &ColumnRow::sidebarWidthSettled, this,
-        [this](double width) { m_model.preferences().setValue(sidebarWidthKey(), width); });
+        [this](double width) { m_model.preferences().store().setValue(sidebarWidthKey(), width); });
     connect(m_columns, &ColumnRow::previewShownChanged, this, &ContentView::showPreviewState);
 }
 
@@ -147,9 +147,9 @@ void ContentView::expectPhotos()
 void ContentView::connectModel()
 {
     connect(&m_model, &AppModel::recordsChanged, this, &ContentView::showRecords);
-    for (const auto change : { &AppModel::folderNameChanged, &AppModel::recordsChanged, &AppModel::selectionChanged })
+    for (const auto change : { &AppModel::folderChanged, &AppModel::recordsChanged, &AppModel::selectionChanged })
         connect(&m_model, change, this, &ContentView::showTitle);
-    connect(&m_model, &AppModel::colorOverrideChanged, this, &ContentView::applyTheme);
+    connect(&m_model.preferences(), &Preferences::changed, this, &ContentView::applyTheme);
     connect(&m_systemScheme, &SystemScheme::schemeChanged, this, &ContentView::applyTheme);
     connect(m_banner, &ErrorBanner::sizeChanged, this, &ContentView::placeBanner);
 }
@@ -197,7 +197,7 @@ void ContentView::togglePreview()
 {
     buildColumns();
     const bool wanted = !(m_columns->previewWanted() && m_window->width() >= Columns::previewThreshold);
-    m_model.preferences().setValue(previewEnabledKey(), wanted);
+    m_model.preferences().store().setValue(previewEnabledKey(), wanted);
     m_columns->setPreviewWanted(wanted);
     if (wanted && m_window->width() < Columns::previewThreshold)
         growWindow(Columns::previewThreshold + growthBeyondThreshold);
@@ -254,7 +254,7 @@ void ContentView::showTitle()
 
 void ContentView::applyTheme()
 {
-    const ColorScheme scheme = m_model.colorOverride().value_or(m_systemScheme.scheme());
+    const ColorScheme scheme = m_model.preferences().colorOverride().value_or(m_systemScheme.scheme());
     setTheme(m_window, scheme == ColorScheme::dark ? Theme::dark() : Theme::light());
 }
 

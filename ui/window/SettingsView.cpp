@@ -147,9 +147,7 @@ void SettingsView::addDisplay(QVBoxLayout* column)
 {
     Group* group = addGroup(column, u"Display"_s);
     group->addRow(u"Appearance"_s, appearancePicker());
-    group->addRow(u"Show namespace details"_s,
-        toggle(u"Show namespace details"_s, &AppModel::showNamespace, &AppModel::setShowNamespace,
-            &AppModel::showNamespaceChanged),
+    group->addRow(u"Show namespace details"_s, toggle(u"Show namespace details"_s, m_model.preferences().showNamespace),
         u"Adds the source tags (EXIF / IPTC / XMP) under each field."_s);
 }
 
@@ -157,14 +155,11 @@ void SettingsView::addSaving(QVBoxLayout* column)
 {
     Group* group = addGroup(column, u"Saving"_s);
     group->addRow(u"Back up original before writing"_s,
-        toggle(u"Back up original before writing"_s, &AppModel::backupOriginals, &AppModel::setBackupOriginals,
-            &AppModel::backupOriginalsChanged));
+        toggle(u"Back up original before writing"_s, m_model.preferences().backupOriginals));
     group->addRow(u"Confirm before mass-applying to multiple files"_s,
-        toggle(u"Confirm before mass-applying to multiple files"_s, &AppModel::confirmMassEdit,
-            &AppModel::setConfirmMassEdit, &AppModel::confirmMassEditChanged));
+        toggle(u"Confirm before mass-applying to multiple files"_s, m_model.preferences().confirmMassEdit));
     group->addRow(u"Also write a sidecar .xmp file"_s,
-        toggle(u"Also write a sidecar .xmp file"_s, &AppModel::writeSidecar, &AppModel::setWriteSidecar,
-            &AppModel::writeSidecarChanged),
+        toggle(u"Also write a sidecar .xmp file"_s, m_model.preferences().writeSidecar),
         u"Mirrors XMP metadata into <name>.xmp next to each image."_s);
 }
 
@@ -175,8 +170,7 @@ void SettingsView::addRenaming(QVBoxLayout* column)
         u"Tokens: %Date% %Time% %Title% %Creator% %Place% %Original%. The extension is kept "
         "automatically."_s);
     group->addRow(u"Strip special characters"_s,
-        toggle(u"Strip special characters"_s, &AppModel::stripSpecialChars, &AppModel::setStripSpecialChars,
-            &AppModel::stripSpecialCharsChanged),
+        toggle(u"Strip special characters"_s, m_model.preferences().stripSpecialChars),
         u"Keeps only letters and numbers (accents become plain, e.g. Café → Cafe). Off leaves "
         "characters like @ and ' in place."_s);
 }
@@ -193,12 +187,12 @@ void SettingsView::addPlaces(QVBoxLayout* column)
 QWidget* SettingsView::appearancePicker()
 {
     auto* picker = new SegmentedPicker({ u"System"_s, u"Light"_s, u"Dark"_s });
-    const auto show = [this, picker] { picker->setCurrentIndex(indexOf(m_model.colorOverride())); };
-    connect(&m_model, &AppModel::colorOverrideChanged, picker, show);
+    const auto show = [this, picker] { picker->setCurrentIndex(indexOf(m_model.preferences().colorOverride())); };
+    connect(&m_model.preferences(), &Preferences::changed, picker, show);
     show();
     connect(picker, &SegmentedPicker::picked, &m_model, [this](int index) {
         static const std::optional<ColorScheme> schemes[]{ std::nullopt, ColorScheme::light, ColorScheme::dark };
-        m_model.setColorOverride(schemes[index]);
+        m_model.preferences().colorOverride.set(schemes[index]);
     });
     return picker;
 }
@@ -207,11 +201,12 @@ QWidget* SettingsView::patternField()
 {
     auto* field = new QBTextField;
     field->setMono(true);
-    field->setBoundText(m_model.renamePattern());
+    field->setBoundText(m_model.preferences().renamePattern());
     onRestyle(field, [field] { field->setFixedWidth(px(patternWidth)); });
-    connect(field, &QLineEdit::textEdited, &m_model, &AppModel::setRenamePattern);
-    connect(&m_model, &AppModel::renamePatternChanged, field,
-        [this, field] { field->setBoundText(m_model.renamePattern()); });
+    connect(field, &QLineEdit::textEdited, &m_model,
+        [this](const QString& text) { m_model.preferences().renamePattern.set(text); });
+    connect(&m_model.preferences(), &Preferences::changed, field,
+        [this, field] { field->setBoundText(m_model.preferences().renamePattern()); });
     return field;
 }
 
@@ -219,7 +214,7 @@ QWidget* SettingsView::placeServiceField()
 {
     auto* field = new QBTextField;
     field->setPlaceholderText(u"https://…"_s);
-    field->setBoundText(m_model.placeService());
+    field->setBoundText(m_model.preferences().placeService());
     onRestyle(field, [field] { field->setFixedWidth(px(patternWidth)); });
     // An address that may not be asked stays in the field, marked, and is not stored.
     connect(field, &QLineEdit::textEdited, &m_model, [this, field](const QString& text) {
@@ -228,19 +223,19 @@ QWidget* SettingsView::placeServiceField()
         field->setEdited(!isUsable);
         field->setToolTip(isUsable ? QString() : u"Not used: this is no https address."_s);
         if (isUsable)
-            m_model.setPlaceService(address);
+            m_model.preferences().placeService.set(address);
     });
     return field;
 }
 
-QWidget* SettingsView::toggle(
-    const QString& name, bool (AppModel::*get)() const, void (AppModel::*set)(bool), void (AppModel::*changed)())
+QWidget* SettingsView::toggle(const QString& name, Setting<bool>& setting)
 {
     auto* toggle = new QBSwitch;
     toggle->setAccessibleName(name);
-    toggle->setChecked((m_model.*get)());
-    connect(toggle, &QAbstractButton::toggled, &m_model, set);
-    connect(&m_model, changed, toggle, [this, toggle, get] { toggle->setChecked((m_model.*get)()); });
+    toggle->setChecked(setting());
+    connect(toggle, &QAbstractButton::toggled, &m_model, [&setting](bool on) { setting.set(on); });
+    connect(
+        &m_model.preferences(), &Preferences::changed, toggle, [toggle, &setting] { toggle->setChecked(setting()); });
     return toggle;
 }
 

@@ -9,6 +9,8 @@ class QVBoxLayout;
 namespace Quorbel {
 
 class AppModel;
+template <typename T>
+class Setting;
 
 class SettingsView final : public QWidget {
     Q_OBJECT
@@ -30,8 +32,7 @@ private:
     QWidget* appearancePicker();
     QWidget* patternField();
     QWidget* placeServiceField();
-    QWidget* toggle(
-        const QString& name, bool (AppModel::*get)() const, void (AppModel::*set)(bool), void (AppModel::*changed)());
+    QWidget* toggle(const QString& name, Setting<bool>& setting);
 
     AppModel& m_model;
 };

@@ -64,8 +64,7 @@ WindowBar::WindowBar(AppModel& model, QWidget* parent)
     });
 
     for (const auto change : { &AppModel::selectionChanged, &AppModel::isSavingChanged, &AppModel::recordsChanged,
-             &AppModel::folderNameChanged, &AppModel::editedSingleChanged, &AppModel::batchIncludeChanged,
-             &AppModel::batchListsChanged, &AppModel::batchValuesChanged, &AppModel::batchCustomsChanged })
+             &AppModel::folderChanged, &AppModel::unsavedCountChanged })
         connect(&model, change, this, &WindowBar::follow);
     follow();
 }
@@ -118,15 +117,16 @@ void WindowBar::follow()
 void WindowBar::openSettingsMenu()
 {
     auto* menu = new ThemedMenu(this);
-    const auto add = [&](const QString& text, bool on, void (AppModel::*set)(bool)) {
+    const auto add = [&](const QString& text, Setting<bool>& setting) {
         QAction* action = menu->addAction(text);
         action->setCheckable(true);
-        action->setChecked(on);
-        connect(action, &QAction::toggled, &m_model, set);
+        action->setChecked(setting());
+        connect(action, &QAction::toggled, &m_model, [&setting](bool on) { setting.set(on); });
     };
-    add(u"Show namespace details"_s, m_model.showNamespace(), &AppModel::setShowNamespace);
-    add(u"Back up originals before writing"_s, m_model.backupOriginals(), &AppModel::setBackupOriginals);
-    add(u"Also write sidecar .xmp"_s, m_model.writeSidecar(), &AppModel::setWriteSidecar);
+    Preferences& preferences = m_model.preferences();
+    add(u"Show namespace details"_s, preferences.showNamespace);
+    add(u"Back up originals before writing"_s, preferences.backupOriginals);
+    add(u"Also write sidecar .xmp"_s, preferences.writeSidecar);
     menu->popUpUnder(m_settings, Qt::AlignRight, true);
 }
 

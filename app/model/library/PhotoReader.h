@@ -2,23 +2,13 @@
 // Thread: any but the main one; read() blocks on ExifTool.
 #pragma once
 
+#include "app/model/TaskProgress.h"
 #include "core/MetadataService.h"
 
-#include <atomic>
-#include <memory>
 #include <optional>
 #include <stop_token>
 
-namespace Quorbel {
-
-/// How far a background task has come, in files; written there, looked at on the main thread.
-struct TaskProgress {
-    std::atomic<qsizetype> done = 0;
-    std::atomic<qsizetype> total = 0;
-    std::atomic<qint64> processID = 0;  ///< of the tool while it reads; 0 when none runs
-};
-
-namespace PhotoReader {
+namespace Quorbel::PhotoReader {
 
 /// A file that could not be read, and why, in a few words.
 struct LeftOut {
@@ -43,6 +33,4 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
 /// The banner's text for these files; at least one.
 QString leftOutText(const QList<LeftOut>& files);
 
-}  // namespace PhotoReader
-
-}  // namespace Quorbel
+}  // namespace Quorbel::PhotoReader

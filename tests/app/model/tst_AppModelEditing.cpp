@@ -49,7 +49,7 @@ struct ThreePhotos : ModelFixture {
 
 }  // namespace
 
-class TestAppModelEditing : public QObject {
+class tst_AppModelEditing : public QObject {
     Q_OBJECT
 
 private slots:
@@ -67,7 +67,7 @@ private slots:
     void keywordCompletions();
 };
 
-void TestAppModelEditing::singleEdits()
+void tst_AppModelEditing::singleEdits()
 {
     ThreePhotos f;
     QVERIFY(f.select(u"a"_s));
@@ -77,8 +77,7 @@ void TestAppModelEditing::singleEdits()
     f->setSingle(u"headline"_s, {});
     QCOMPARE(announced.counts(), (QMap<QString, int>()));
     f->setSingle(u"title"_s, u"AB"_s);
-    QCOMPARE(
-        announced.counts(), (QMap<QString, int>{ { u"draftValuesChanged"_s, 1 }, { u"editedSingleChanged"_s, 1 } }));
+    QCOMPARE(announced.counts(), (QMap<QString, int>{ { u"editsChanged"_s, 1 }, { u"unsavedCountChanged"_s, 1 } }));
     // Typed back: still an edit, so that it is written again.
     f->setSingle(u"title"_s, u"A"_s);
     QCOMPARE(f->unsavedCount(), 1);
@@ -90,7 +89,7 @@ void TestAppModelEditing::singleEdits()
     QCOMPARE(f->draftValues().value(u"title"_s), u"B"_s);
 }
 
-void TestAppModelEditing::listItems()
+void tst_AppModelEditing::listItems()
 {
     ThreePhotos f;
     QVERIFY(f.select(u"a"_s));
@@ -103,7 +102,7 @@ void TestAppModelEditing::listItems()
     QCOMPARE(f->editedSingle(), QSet<QString>{ u"keywords"_s });
 }
 
-void TestAppModelEditing::customFields()
+void tst_AppModelEditing::customFields()
 {
     ThreePhotos f;
     QVERIFY(f.select(u"a"_s));
@@ -119,7 +118,7 @@ void TestAppModelEditing::customFields()
     QCOMPARE(f->editedSingle(), (QSet<QString>{ u"custom:Projectcode"_s, u"custom:Mood"_s }));
 }
 
-void TestAppModelEditing::visibleAndAddableFields()
+void tst_AppModelEditing::visibleAndAddableFields()
 {
     ThreePhotos f;
     QVERIFY(f.select(u"a"_s));
@@ -150,7 +149,7 @@ void TestAppModelEditing::visibleAndAddableFields()
     QCOMPARE(f->visibleFieldIDs(FieldSection::common), always);
 }
 
-void TestAppModelEditing::addedFieldsAreRemovable()
+void tst_AppModelEditing::addedFieldsAreRemovable()
 {
     ThreePhotos f;
     QVERIFY(f.select(u"a"_s));
@@ -174,7 +173,7 @@ void TestAppModelEditing::addedFieldsAreRemovable()
     QVERIFY(f->batchValues().isEmpty());
 }
 
-void TestAppModelEditing::sharedValues()
+void tst_AppModelEditing::sharedValues()
 {
     ThreePhotos f;
     QVERIFY(f.select(u"abc"_s));
@@ -189,7 +188,7 @@ void TestAppModelEditing::sharedValues()
     QCOMPARE(f->sharedValue(u"creator"_s), std::nullopt);
 }
 
-void TestAppModelEditing::batchEdits()
+void tst_AppModelEditing::batchEdits()
 {
     ThreePhotos f;
     QVERIFY(f.select(u"ab"_s));
@@ -219,11 +218,11 @@ void TestAppModelEditing::batchEdits()
     QCOMPARE(f->unsavedCount(), 0);
 }
 
-void TestAppModelEditing::batchCustomFields()
+void tst_AppModelEditing::batchCustomFields()
 {
     ThreePhotos f;
     QVERIFY(f.select(u"a"_s));
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     f->addCustomField(u"Mood"_s, u"calm"_s);
     f->addCustomField(u"Score"_s, u"7"_s);
     f->requestSave();
@@ -245,7 +244,7 @@ void TestAppModelEditing::batchCustomFields()
     QVERIFY(f->editedSingle().isEmpty());
 }
 
-void TestAppModelEditing::location_data()
+void tst_AppModelEditing::location_data()
 {
     QTest::addColumn<QString>("selection");
     QTest::addColumn<QString>("typedState");
@@ -260,7 +259,7 @@ void TestAppModelEditing::location_data()
         << u"ab"_s << u"own"_s << QStringList{ u"Paris"_s, u"Louvre"_s, u"own"_s, u"France"_s };
 }
 
-void TestAppModelEditing::location()
+void tst_AppModelEditing::location()
 {
     QFETCH(QString, selection);
     QFETCH(QString, typedState);
@@ -278,7 +277,7 @@ void TestAppModelEditing::location()
     QCOMPARE(f->unsavedCount(), 5);
 }
 
-void TestAppModelEditing::keywordCompletions()
+void tst_AppModelEditing::keywordCompletions()
 {
     ThreePhotos f;
     QVERIFY(f.select(u"a"_s));
@@ -287,5 +286,5 @@ void TestAppModelEditing::keywordCompletions()
     QCOMPARE(f->keywordCompletions(u"x"_s, 9), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestAppModelEditing)
+QTEST_GUILESS_MAIN(tst_AppModelEditing)
 #include "tst_AppModelEditing.moc"

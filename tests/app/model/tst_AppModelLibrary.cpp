@@ -39,7 +39,7 @@ QStringList jpgs(const QString& letters)
 
 }  // namespace
 
-class TestAppModelLibrary : public QObject {
+class tst_AppModelLibrary : public QObject {
     Q_OBJECT
 
 private slots:
@@ -73,7 +73,7 @@ private slots:
     void missingTool();
 };
 
-void TestAppModelLibrary::whatIsOpened_data()
+void tst_AppModelLibrary::whatIsOpened_data()
 {
     QTest::addColumn<QStringList>("given");
     QTest::addColumn<QStringList>("visible");
@@ -98,7 +98,7 @@ void TestAppModelLibrary::whatIsOpened_data()
         << QStringList{ u"nowhere.jpg"_s, u"two/3.jpg"_s } << QStringList{ u"3.jpg"_s } << u"two"_s << QString();
 }
 
-void TestAppModelLibrary::whatIsOpened()
+void tst_AppModelLibrary::whatIsOpened()
 {
     QFETCH(QStringList, given);
     QFETCH(QStringList, visible);
@@ -122,7 +122,7 @@ void TestAppModelLibrary::whatIsOpened()
     QCOMPARE(f->errorMessage(), std::nullopt);
 }
 
-void TestAppModelLibrary::nothingToOpenKeepsWhatIsOpen()
+void tst_AppModelLibrary::nothingToOpenKeepsWhatIsOpen()
 {
     SixPhotos f;
     QVERIFY(f.open());
@@ -133,10 +133,10 @@ void TestAppModelLibrary::nothingToOpenKeepsWhatIsOpen()
     QCOMPARE(f->errorMessage(), u"No supported images were found."_s);
     QCOMPARE(f.primary(), u"c.jpg"_s);
     QCOMPARE(f->folderURL(), f.folderURL());
-    QCOMPARE(f->recentPaths(), QStringList{ f.folder.path() });
+    QCOMPARE(f->preferences().recentPaths(), QStringList{ f.folder.path() });
 }
 
-void TestAppModelLibrary::unreadableFilesAreLeftOutAndNamed()
+void tst_AppModelLibrary::unreadableFilesAreLeftOutAndNamed()
 {
     SixPhotos f;
     f.folder.add(u"empty.jpg"_s, {});
@@ -160,7 +160,7 @@ void TestAppModelLibrary::unreadableFilesAreLeftOutAndNamed()
     QCOMPARE(f.visible(), jpgs(u"abcdef"_s));
 }
 
-void TestAppModelLibrary::permissionDeniedIsNamed()
+void tst_AppModelLibrary::permissionDeniedIsNamed()
 {
     GatedTool tool;
     ModelFixture f(tool.service());
@@ -182,7 +182,7 @@ void TestAppModelLibrary::permissionDeniedIsNamed()
     QCOMPARE(f.visible(), QStringList{ u"a.jpg"_s });
 }
 
-void TestAppModelLibrary::manyLeftOutFilesAreCounted()
+void tst_AppModelLibrary::manyLeftOutFilesAreCounted()
 {
     SixPhotos f;
     for (int i = 1; i <= 7; ++i)
@@ -193,7 +193,7 @@ void TestAppModelLibrary::manyLeftOutFilesAreCounted()
         "x4.jpg (empty), x5.jpg (empty) and 2 more"_s);
 }
 
-void TestAppModelLibrary::nothingReadable()
+void tst_AppModelLibrary::nothingReadable()
 {
     SixPhotos f;
     QVERIFY(f.open());
@@ -205,7 +205,7 @@ void TestAppModelLibrary::nothingReadable()
     QCOMPARE(f.visible(), jpgs(u"abcdef"_s));
 }
 
-void TestAppModelLibrary::failedReadKeepsWhatIsOpen()
+void tst_AppModelLibrary::failedReadKeepsWhatIsOpen()
 {
     FakeTool tool;
     tool.answerAlways({ .standardError = "no room left", .exitCode = 1 });
@@ -220,7 +220,7 @@ void TestAppModelLibrary::failedReadKeepsWhatIsOpen()
     QCOMPARE(broken->folderURL(), std::nullopt);
 }
 
-void TestAppModelLibrary::cancelledReadIsSilent()
+void tst_AppModelLibrary::cancelledReadIsSilent()
 {
     GatedTool tool;
     ModelFixture f(tool.service());
@@ -240,7 +240,7 @@ void TestAppModelLibrary::cancelledReadIsSilent()
     QCOMPARE(f->folderURL(), f.folderURL());
 }
 
-void TestAppModelLibrary::progressFollowsTheRead()
+void tst_AppModelLibrary::progressFollowsTheRead()
 {
     FakeTool tool;
     ModelFixture f(MetadataService{ tool.runner() });
@@ -257,7 +257,7 @@ void TestAppModelLibrary::progressFollowsTheRead()
     QCOMPARE(f->progress(), std::nullopt);
 }
 
-void TestAppModelLibrary::lastReadToEndWinsAsAWhole()
+void tst_AppModelLibrary::lastReadToEndWinsAsAWhole()
 {
     GatedTool tool;
     ModelFixture f(tool.service());
@@ -279,7 +279,7 @@ void TestAppModelLibrary::lastReadToEndWinsAsAWhole()
     QCOMPARE(f->folderURL(), std::optional(f.url(u"slow"_s)));
 }
 
-void TestAppModelLibrary::closing()
+void tst_AppModelLibrary::closing()
 {
     SixPhotos f;
     QVERIFY(f.open());
@@ -299,7 +299,7 @@ void TestAppModelLibrary::closing()
     QCOMPARE(f->folderCountText(), u"0 photos"_s);
 }
 
-void TestAppModelLibrary::search_data()
+void tst_AppModelLibrary::search_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QStringList>("visible");
@@ -308,7 +308,7 @@ void TestAppModelLibrary::search_data()
     QTest::addRow("blanks find all") << u"  "_s << QStringList{ u"beach.jpg"_s, u"city.jpg"_s, u"MyBEACH.png"_s };
 }
 
-void TestAppModelLibrary::search()
+void tst_AppModelLibrary::search()
 {
     QFETCH(QString, text);
     QFETCH(QStringList, visible);
@@ -323,7 +323,7 @@ void TestAppModelLibrary::search()
     QCOMPARE(f.visible().size(), 3);
 }
 
-void TestAppModelLibrary::sortOrders_data()
+void tst_AppModelLibrary::sortOrders_data()
 {
     QTest::addColumn<RecordSortOrder>("order");
     for (const RecordSortOrder order : allCases<RecordSortOrder>())
@@ -331,7 +331,7 @@ void TestAppModelLibrary::sortOrders_data()
 }
 
 /// The index's order is that of the plain sort, through every way in which the list of photos changes.
-void TestAppModelLibrary::sortOrders()
+void tst_AppModelLibrary::sortOrders()
 {
     QFETCH(RecordSortOrder, order);
     QList<ImageRecord> records;
@@ -374,7 +374,7 @@ void TestAppModelLibrary::sortOrders()
     compare();
 }
 
-void TestAppModelLibrary::clicks_data()
+void tst_AppModelLibrary::clicks_data()
 {
     // Clicks: a letter, behind it "+" for Shift and "*" for Command; "|" and a search text hides photos.
     QTest::addColumn<QString>("clicks");
@@ -390,7 +390,7 @@ void TestAppModelLibrary::clicks_data()
     QTest::addRow("shift on the anchor") << u"c c+"_s << u"c"_s << u"c"_s;
 }
 
-void TestAppModelLibrary::clicks()
+void tst_AppModelLibrary::clicks()
 {
     QFETCH(QString, clicks);
     QFETCH(QString, selected);
@@ -405,7 +405,7 @@ void TestAppModelLibrary::clicks()
     QCOMPARE(f->folderCountText(), count < 2 ? u"6 photos"_s : u"6 photos · %1 selected"_s.arg(count));
 }
 
-void TestAppModelLibrary::clickEndsTextEditing()
+void tst_AppModelLibrary::clickEndsTextEditing()
 {
     SixPhotos f;
     f.services.endEditing = [&f] {
@@ -419,7 +419,7 @@ void TestAppModelLibrary::clickEndsTextEditing()
     QCOMPARE(f.primary(), u"a.jpg"_s);
 }
 
-void TestAppModelLibrary::selectAll()
+void tst_AppModelLibrary::selectAll()
 {
     SixPhotos f;
     QVERIFY(f.open());
@@ -432,7 +432,7 @@ void TestAppModelLibrary::selectAll()
     QCOMPARE(f.selected(), jpgs(u"cde"_s));
 }
 
-void TestAppModelLibrary::hiddenAnchor()
+void tst_AppModelLibrary::hiddenAnchor()
 {
     SixPhotos f;
     f.folder.add(u"x-only.jpg"_s);
@@ -446,7 +446,7 @@ void TestAppModelLibrary::hiddenAnchor()
     QCOMPARE(f.selected(), QStringList({ u"f.jpg"_s, u"x-only.jpg"_s }));
 }
 
-void TestAppModelLibrary::guardAsksBeforeEditsAreLost_data()
+void tst_AppModelLibrary::guardAsksBeforeEditsAreLost_data()
 {
     QTest::addColumn<QString>("answer");
     QTest::addColumn<QString>("primary");
@@ -459,7 +459,7 @@ void TestAppModelLibrary::guardAsksBeforeEditsAreLost_data()
     QTest::addRow("never asked") << u"silent"_s << u"d.jpg"_s << u"typed"_s << 0;
 }
 
-void TestAppModelLibrary::guardAsksBeforeEditsAreLost()
+void tst_AppModelLibrary::guardAsksBeforeEditsAreLost()
 {
     QFETCH(QString, answer);
     QFETCH(QString, primary);
@@ -467,7 +467,7 @@ void TestAppModelLibrary::guardAsksBeforeEditsAreLost()
     QFETCH(int, unsaved);
     SixPhotos f;
     QVERIFY(f.open());
-    f->setSaveDontAsk(answer == u"silent");
+    f->preferences().saveDontAsk.set(answer == u"silent");
     f->setSingle(u"title"_s, u"typed"_s);
     f.click(u"d.jpg"_s);
     QCOMPARE(f.primary(), u"a.jpg"_s);
@@ -487,7 +487,7 @@ void TestAppModelLibrary::guardAsksBeforeEditsAreLost()
     QCOMPARE(f->unsavedCount(), unsaved);
 }
 
-void TestAppModelLibrary::observersSeeWholeChanges()
+void tst_AppModelLibrary::observersSeeWholeChanges()
 {
     SixPhotos f;
     QVERIFY(f.open());
@@ -512,7 +512,7 @@ void TestAppModelLibrary::observersSeeWholeChanges()
         (QMap<QString, int>{ { u"selectionChanged"_s, 1 }, { u"primaryChanged"_s, 1 }, { u"searchChanged"_s, 1 } }));
 }
 
-void TestAppModelLibrary::modelDestroyedDuringRead()
+void tst_AppModelLibrary::modelDestroyedDuringRead()
 {
     GatedTool tool;
     auto f = std::make_unique<ModelFixture>(tool.service());
@@ -526,7 +526,7 @@ void TestAppModelLibrary::modelDestroyedDuringRead()
     QCoreApplication::processEvents();
 }
 
-void TestAppModelLibrary::otherThreadsAreRefused()
+void tst_AppModelLibrary::otherThreadsAreRefused()
 {
     ModelFixture f;
     const pid_t child = fork();
@@ -544,7 +544,7 @@ void TestAppModelLibrary::otherThreadsAreRefused()
     QCOMPARE(WTERMSIG(status), SIGABRT);
 }
 
-void TestAppModelLibrary::missingTool()
+void tst_AppModelLibrary::missingTool()
 {
     ModelFixture f{ std::optional<MetadataService>() };
     QCOMPARE(
@@ -555,5 +555,5 @@ void TestAppModelLibrary::missingTool()
     QVERIFY(f->records().isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestAppModelLibrary)
+QTEST_GUILESS_MAIN(tst_AppModelLibrary)
 #include "tst_AppModelLibrary.moc"

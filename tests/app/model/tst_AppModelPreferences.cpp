@@ -8,7 +8,7 @@ using namespace Quorbel;
 using namespace Qt::StringLiterals;
 
 using namespace Quorbel::Test;
-class TestAppModelPreferences : public QObject {
+class tst_AppModelPreferences : public QObject {
     Q_OBJECT
 
 private slots:
@@ -22,50 +22,54 @@ private slots:
     void singleRecentSurvivesTheFile();
 };
 
-void TestAppModelPreferences::firstLaunch()
+void tst_AppModelPreferences::firstLaunch()
 {
     ModelFixture f;
-    QCOMPARE(QStringList({ f->showNamespace() ? u"on"_s : u"off"_s, f->backupOriginals() ? u"on"_s : u"off"_s,
-                 f->writeSidecar() ? u"on"_s : u"off"_s, f->confirmMassEdit() ? u"on"_s : u"off"_s,
-                 f->saveDontAsk() ? u"on"_s : u"off"_s, f->stripSpecialChars() ? u"on"_s : u"off"_s }),
+    QCOMPARE(QStringList({ f->preferences().showNamespace() ? u"on"_s : u"off"_s,
+                 f->preferences().backupOriginals() ? u"on"_s : u"off"_s,
+                 f->preferences().writeSidecar() ? u"on"_s : u"off"_s,
+                 f->preferences().confirmMassEdit() ? u"on"_s : u"off"_s,
+                 f->preferences().saveDontAsk() ? u"on"_s : u"off"_s,
+                 f->preferences().stripSpecialChars() ? u"on"_s : u"off"_s }),
         QStringList({ u"off"_s, u"on"_s, u"off"_s, u"on"_s, u"off"_s, u"on"_s }));
     QCOMPARE(f->sortOrder(), RecordSortOrder::nameAsc);
-    QCOMPARE(f->colorOverride(), std::nullopt);
-    QVERIFY(f->recentPaths().isEmpty());
-    QStringList keys = f->preferences().allKeys();
+    QCOMPARE(f->preferences().colorOverride(), std::nullopt);
+    QVERIFY(f->preferences().recentPaths().isEmpty());
+    QStringList keys = f->preferences().store().allKeys();
     keys.sort();
     QCOMPARE(keys, QStringList({ u"renamePattern"_s, u"sortOrder"_s }));
-    QCOMPARE(f->preferences().value(u"renamePattern"_s), QVariant(u"%Date%_%Title%"_s));
-    QCOMPARE(f->preferences().value(u"sortOrder"_s), QVariant(u"nameAsc"_s));
+    QCOMPARE(f->preferences().store().value(u"renamePattern"_s), QVariant(u"%Date%_%Title%"_s));
+    QCOMPARE(f->preferences().store().value(u"sortOrder"_s), QVariant(u"nameAsc"_s));
 }
 
-void TestAppModelPreferences::roundTrip()
+void tst_AppModelPreferences::roundTrip()
 {
     ModelFixture f;
-    f->setShowNamespace(true);
-    f->setBackupOriginals(false);
-    f->setWriteSidecar(true);
-    f->setConfirmMassEdit(false);
-    f->setSaveDontAsk(true);
+    f->preferences().showNamespace.set(true);
+    f->preferences().backupOriginals.set(false);
+    f->preferences().writeSidecar.set(true);
+    f->preferences().confirmMassEdit.set(false);
+    f->preferences().saveDontAsk.set(true);
     f->setBatchDontAskSession(true);
-    f->setStripSpecialChars(false);
-    f->setRenamePattern(u"a, b; %Title% = \"ü\""_s);
+    f->preferences().stripSpecialChars.set(false);
+    f->preferences().renamePattern.set(u"a, b; %Title% = \"ü\""_s);
     f->setSortOrder(RecordSortOrder::dateOldest);
-    f->setColorOverride(ColorScheme::dark);
+    f->preferences().colorOverride.set(ColorScheme::dark);
     f.relaunch();
-    QVERIFY(f->showNamespace() && !f->backupOriginals() && f->writeSidecar());
-    QVERIFY(!f->confirmMassEdit() && f->saveDontAsk() && !f->stripSpecialChars());
+    QVERIFY(f->preferences().showNamespace() && !f->preferences().backupOriginals() && f->preferences().writeSidecar());
+    QVERIFY(
+        !f->preferences().confirmMassEdit() && f->preferences().saveDontAsk() && !f->preferences().stripSpecialChars());
     QVERIFY(!f->batchDontAskSession());
-    QCOMPARE(f->renamePattern(), u"a, b; %Title% = \"ü\""_s);
+    QCOMPARE(f->preferences().renamePattern(), u"a, b; %Title% = \"ü\""_s);
     QCOMPARE(f->sortOrder(), RecordSortOrder::dateOldest);
-    QCOMPARE(f->colorOverride(), ColorScheme::dark);
-    f->setColorOverride(std::nullopt);
-    QVERIFY(!f->preferences().contains(u"appearance"_s));
+    QCOMPARE(f->preferences().colorOverride(), ColorScheme::dark);
+    f->preferences().colorOverride.set(std::nullopt);
+    QVERIFY(!f->preferences().store().contains(u"appearance"_s));
     f.relaunch();
-    QCOMPARE(f->colorOverride(), std::nullopt);
+    QCOMPARE(f->preferences().colorOverride(), std::nullopt);
 }
 
-void TestAppModelPreferences::wrongTypes_data()
+void tst_AppModelPreferences::wrongTypes_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addRow("number") << QVariant(1);
@@ -75,7 +79,7 @@ void TestAppModelPreferences::wrongTypes_data()
     QTest::addRow("null") << QVariant();
 }
 
-void TestAppModelPreferences::wrongTypes()
+void tst_AppModelPreferences::wrongTypes()
 {
     QFETCH(QVariant, value);
     ModelFixture f;
@@ -90,16 +94,18 @@ void TestAppModelPreferences::wrongTypes()
             f.model = std::make_unique<AppModel>(f.services);
         else
             f.relaunch();
-        QVERIFY(!f->showNamespace() && f->backupOriginals() && !f->writeSidecar());
-        QVERIFY(f->confirmMassEdit() && !f->saveDontAsk() && f->stripSpecialChars());
-        QCOMPARE(f->renamePattern(), u"%Date%_%Title%"_s);
+        QVERIFY(!f->preferences().showNamespace() && f->preferences().backupOriginals()
+            && !f->preferences().writeSidecar());
+        QVERIFY(f->preferences().confirmMassEdit() && !f->preferences().saveDontAsk()
+            && f->preferences().stripSpecialChars());
+        QCOMPARE(f->preferences().renamePattern(), u"%Date%_%Title%"_s);
         QCOMPARE(f->sortOrder(), RecordSortOrder::nameAsc);
-        QCOMPARE(f->colorOverride(), std::nullopt);
-        QVERIFY(f->recentPaths().isEmpty());
+        QCOMPARE(f->preferences().colorOverride(), std::nullopt);
+        QVERIFY(f->preferences().recentPaths().isEmpty());
     }
 }
 
-void TestAppModelPreferences::recentsKeepTen()
+void tst_AppModelPreferences::recentsKeepTen()
 {
     FakeTool tool;
     ModelFixture f(MetadataService{ tool.runner() });
@@ -112,20 +118,20 @@ void TestAppModelPreferences::recentsKeepTen()
         expected.prepend(f.folder.path(name));
     }
     expected.removeLast();
-    QCOMPARE(f->recentPaths(), expected);
+    QCOMPARE(f->preferences().recentPaths(), expected);
     f.relaunch();
-    QCOMPARE(f->recentPaths(), expected);
+    QCOMPARE(f->preferences().recentPaths(), expected);
     f->openRecent(f->recentURLs().at(4));
     QVERIFY(f.waitUntilIdle());
     QCOMPARE(f->folderName(), u"folder, 7"_s);
     expected.move(4, 0);
-    QCOMPARE(f->recentPaths(), expected);
+    QCOMPARE(f->preferences().recentPaths(), expected);
     f->clearRecents();
     f.relaunch();
-    QVERIFY(f->recentPaths().isEmpty());
+    QVERIFY(f->preferences().recentPaths().isEmpty());
 }
 
-void TestAppModelPreferences::recentThatIsGone()
+void tst_AppModelPreferences::recentThatIsGone()
 {
     FakeTool tool;
     ModelFixture f(MetadataService{ tool.runner() });
@@ -139,20 +145,20 @@ void TestAppModelPreferences::recentThatIsGone()
         f->setErrorMessage(std::nullopt);
         f->openRecent(f.url(u"gone"_s));
         QCOMPARE(f->errorMessage(), u"“gone” could no longer be found."_s);
-        QCOMPARE(f->recentPaths(), QStringList{ f.folder.path() });
+        QCOMPARE(f->preferences().recentPaths(), QStringList{ f.folder.path() });
         QCOMPARE(f->folderURL(), f.folderURL());
     }
 }
 
-void TestAppModelPreferences::singleRecentSurvivesTheFile()
+void tst_AppModelPreferences::singleRecentSurvivesTheFile()
 {
     FakeTool tool;
     ModelFixture f(MetadataService{ tool.runner() });
     f.folder.add(u"y.jpg"_s);
     QVERIFY(f.open());
     f.relaunch();
-    QCOMPARE(f->recentPaths(), QStringList{ f.folder.path() });
+    QCOMPARE(f->preferences().recentPaths(), QStringList{ f.folder.path() });
 }
 
-QTEST_GUILESS_MAIN(TestAppModelPreferences)
+QTEST_GUILESS_MAIN(tst_AppModelPreferences)
 #include "tst_AppModelPreferences.moc"

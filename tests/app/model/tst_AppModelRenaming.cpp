@@ -8,7 +8,7 @@ using namespace Quorbel;
 using namespace Qt::StringLiterals;
 
 using namespace Quorbel::Test;
-class TestAppModelRenaming : public QObject {
+class tst_AppModelRenaming : public QObject {
     Q_OBJECT
 
 private slots:
@@ -21,7 +21,7 @@ private slots:
     void failure();
 };
 
-void TestAppModelRenaming::preview_data()
+void tst_AppModelRenaming::preview_data()
 {
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QString>("date");
@@ -38,7 +38,7 @@ void TestAppModelRenaming::preview_data()
     QTest::addRow("nothing left") << u"%Title%"_s << QString() << u"!"_s << true << u"untitled.JPG"_s;
 }
 
-void TestAppModelRenaming::preview()
+void tst_AppModelRenaming::preview()
 {
     QFETCH(QString, pattern);
     QFETCH(QString, date);
@@ -56,11 +56,11 @@ void TestAppModelRenaming::preview()
     QVERIFY(f->canRename());
     f->setSingle(u"date"_s, date);
     f->setSingle(u"title"_s, title);
-    f->setStripSpecialChars(strict);
-    f->setRenamePattern(pattern);
+    f->preferences().stripSpecialChars.set(strict);
+    f->preferences().renamePattern.set(pattern);
     // Without strictness dots survive, with it they do not: only the original's own name shows the difference.
     if (pattern == u"%Original%")
-        f->setStripSpecialChars(false);
+        f->preferences().stripSpecialChars.set(false);
     QCOMPARE(f->renamePreview(), name);
     f->performRename();
     QCOMPARE(f.primary(), name);
@@ -70,7 +70,7 @@ void TestAppModelRenaming::preview()
     QVERIFY(!f->canRename());
 }
 
-void TestAppModelRenaming::token_data()
+void tst_AppModelRenaming::token_data()
 {
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QString>("result");
@@ -80,28 +80,28 @@ void TestAppModelRenaming::token_data()
     QTest::addRow("behind text") << u"trip"_s << u"trip_%Title%"_s;
 }
 
-void TestAppModelRenaming::token()
+void tst_AppModelRenaming::token()
 {
     QFETCH(QString, pattern);
     QFETCH(QString, result);
     ModelFixture f;
-    f->setRenamePattern(pattern);
+    f->preferences().renamePattern.set(pattern);
     f->insertRenameToken(u"%Title%"_s);
-    QCOMPARE(f->renamePattern(), result);
+    QCOMPARE(f->preferences().renamePattern(), result);
 }
 
-void TestAppModelRenaming::companionsComeAlong()
+void tst_AppModelRenaming::companionsComeAlong()
 {
     GatedTool tool;
     ModelFixture f(tool.service());
     f.folder.add(u"a.jpg"_s);
     QVERIFY(f.open());
-    f->setWriteSidecar(true);
-    f->setSaveDontAsk(true);
+    f->preferences().writeSidecar.set(true);
+    f->preferences().saveDontAsk.set(true);
     f->setSingle(u"title"_s, u"New"_s);
     f->requestSave();
     QVERIFY(f.waitUntilIdle());
-    f->setRenamePattern(u"%Title%"_s);
+    f->preferences().renamePattern.set(u"%Title%"_s);
     f->performRename();
     QCOMPARE(f.folder.names(), QStringList({ u"New.jpg"_s, u"New.jpg_original"_s, u"New.xmp"_s }));
     f->setSingle(u"headline"_s, u"after"_s);
@@ -110,29 +110,29 @@ void TestAppModelRenaming::companionsComeAlong()
     QCOMPARE(f.onDisk(u"New.jpg"_s, u"XMP:Headline"_s), QJsonValue(u"after"_s));
 }
 
-void TestAppModelRenaming::failure()
+void tst_AppModelRenaming::failure()
 {
     GatedTool tool;
     ModelFixture f(tool.service());
     f.folder.add(u"a.jpg"_s);
     QVERIFY(f.open());
-    f->setRenamePattern(u"elsewhere/%Title%"_s);
+    f->preferences().renamePattern.set(u"elsewhere/%Title%"_s);
     f->setSingle(u"title"_s, u"x"_s);
     f->performRename();
     QVERIFY(f->errorMessage().value_or(QString()).startsWith(u"Could not rename: "_s));
     QCOMPARE(f.primary(), u"a.jpg"_s);
     QVERIFY(f->record(f.url(u"a.jpg"_s)));
     f->setErrorMessage({});
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     tool.shut();
     f->requestSave();
     QVERIFY(tool.waitForRun());
-    f->setRenamePattern(u"%Title%"_s);
+    f->preferences().renamePattern.set(u"%Title%"_s);
     f->performRename();
     QCOMPARE(f->errorMessage(), u"Could not rename: “a.jpg” is being saved."_s);
     tool.release();
     QVERIFY(f.waitUntilIdle());
 }
 
-QTEST_GUILESS_MAIN(TestAppModelRenaming)
+QTEST_GUILESS_MAIN(tst_AppModelRenaming)
 #include "tst_AppModelRenaming.moc"

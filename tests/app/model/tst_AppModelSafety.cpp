@@ -18,8 +18,8 @@ struct ForgetfulPhotos : FakeTool, ModelFixture {
     {
         for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
             folder.add(name);
-        model->setSaveDontAsk(true);
-        model->setConfirmMassEdit(false);
+        model->preferences().saveDontAsk.set(true);
+        model->preferences().confirmMassEdit.set(false);
     }
 };
 
@@ -31,9 +31,9 @@ struct MixedPhotos : ModelFixture {
             folder.add(name);
         for (const QString& name : texts)
             folder.add(name, "a text\n");
-        model->setConfirmMassEdit(false);
-        model->setSaveDontAsk(true);
-        model->setBackupOriginals(false);
+        model->preferences().confirmMassEdit.set(false);
+        model->preferences().saveDontAsk.set(true);
+        model->preferences().backupOriginals.set(false);
     }
 };
 
@@ -44,9 +44,9 @@ struct JournaledPhotos : ModelFixture {
         addTitled(names);
         services.journalPath = settings.filePath(u"state/undo.json"_s);
         relaunch();
-        model->setSaveDontAsk(true);
-        model->setConfirmMassEdit(false);
-        model->setBackupOriginals(false);
+        model->preferences().saveDontAsk.set(true);
+        model->preferences().confirmMassEdit.set(false);
+        model->preferences().backupOriginals.set(false);
     }
     bool save()
     {
@@ -108,9 +108,9 @@ struct StallingPhotos : StallingTool, ModelFixture {
             folder.add(name);
         services.stallInterval = std::chrono::milliseconds(200);
         relaunch();
-        model->setConfirmMassEdit(false);
-        model->setSaveDontAsk(true);
-        model->setBackupOriginals(false);
+        model->preferences().confirmMassEdit.set(false);
+        model->preferences().saveDontAsk.set(true);
+        model->preferences().backupOriginals.set(false);
     }
     /// Waits for the offer to skip "b", and takes it.
     bool skipStalled() const
@@ -123,7 +123,7 @@ struct StallingPhotos : StallingTool, ModelFixture {
 
 }  // namespace
 
-class TestAppModelSafety : public QObject {
+class tst_AppModelSafety : public QObject {
     Q_OBJECT
 
 private slots:
@@ -149,12 +149,12 @@ private slots:
     void quitEndsARead();
 };
 
-void TestAppModelSafety::valueThatCannotBeHeld()
+void tst_AppModelSafety::valueThatCannotBeHeld()
 {
     ModelFixture f;
     f.folder.add(u"a.jpg"_s);
     QVERIFY(f.open());
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     f->setSingle(u"title"_s, u"X"_s);
     f->setSingle(u"coords"_s, u"behind the church"_s);
     f->requestSave();
@@ -165,7 +165,7 @@ void TestAppModelSafety::valueThatCannotBeHeld()
     QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
 }
 
-void TestAppModelSafety::differencesOfOnePhoto()
+void tst_AppModelSafety::differencesOfOnePhoto()
 {
     ForgetfulPhotos f;
     QVERIFY(f.open());
@@ -187,7 +187,7 @@ void TestAppModelSafety::differencesOfOnePhoto()
     QCOMPARE(f.primary(), u"b.jpg"_s);
 }
 
-void TestAppModelSafety::differencesOfABatch()
+void tst_AppModelSafety::differencesOfABatch()
 {
     ForgetfulPhotos f;
     QVERIFY(f.open());
@@ -210,7 +210,7 @@ void TestAppModelSafety::differencesOfABatch()
     QCOMPARE(f->record(f.url(u"b.jpg"_s))->values.value(u"title"_s), u"x"_s);
 }
 
-void TestAppModelSafety::differencesAfterAnotherSelection()
+void tst_AppModelSafety::differencesAfterAnotherSelection()
 {
     ForgetfulPhotos f;
     QVERIFY(f.open());
@@ -230,7 +230,7 @@ void TestAppModelSafety::differencesAfterAnotherSelection()
     QCOMPARE(f->unsavedCount(), 1);
 }
 
-void TestAppModelSafety::partialBatch_data()
+void tst_AppModelSafety::partialBatch_data()
 {
     QTest::addColumn<QStringList>("texts");
     QTest::addColumn<QString>("banner");
@@ -241,7 +241,7 @@ void TestAppModelSafety::partialBatch_data()
     } << u"Could not save 6 of 8 photos: 1.jpg%1, 2.jpg%1, 3.jpg%1, 4.jpg%1, 5.jpg%1 and 1 more"_s.arg(reason);
 }
 
-void TestAppModelSafety::partialBatch()
+void tst_AppModelSafety::partialBatch()
 {
     QFETCH(QStringList, texts);
     QFETCH(QString, banner);
@@ -263,7 +263,7 @@ void TestAppModelSafety::partialBatch()
         QCOMPARE(readFile(f.folder.path(name)), QByteArray("a text\n"));
 }
 
-void TestAppModelSafety::partialBatchIsTriedAgain()
+void tst_AppModelSafety::partialBatchIsTriedAgain()
 {
     MixedPhotos f({ u"b.jpg"_s, u"d.jpg"_s });
     QVERIFY(f.open());
@@ -285,7 +285,7 @@ void TestAppModelSafety::partialBatchIsTriedAgain()
     QCOMPARE(readFile(f.folder.path(u"a.jpg"_s)), saved);
 }
 
-void TestAppModelSafety::undoSurvivesARestart()
+void tst_AppModelSafety::undoSurvivesARestart()
 {
     JournaledPhotos f;
     QVERIFY(f.open());
@@ -319,13 +319,13 @@ void TestAppModelSafety::undoSurvivesARestart()
     }
 }
 
-void TestAppModelSafety::undoFollowsRenames()
+void tst_AppModelSafety::undoFollowsRenames()
 {
     JournaledPhotos f;
     QVERIFY(f.open());
     f->setSingle(u"title"_s, u"Renamed"_s);
     QVERIFY(f.save());
-    f->setRenamePattern(u"%Title%"_s);
+    f->preferences().renamePattern.set(u"%Title%"_s);
     f->performRename();
     QCOMPARE(f.primary(), u"Renamed.jpg"_s);
     QVERIFY(f.undo());
@@ -334,13 +334,13 @@ void TestAppModelSafety::undoFollowsRenames()
 }
 
 /// Photo "a" has a sidecar of another program's, "b" has none.
-void TestAppModelSafety::undoTakesSidecarsBack()
+void tst_AppModelSafety::undoTakesSidecarsBack()
 {
     JournaledPhotos f;
     const QString sidecar = f.folder.path(u"a.xmp"_s);
     exiftool({ u"-XMP-dc:Title=foreign"_s, u"-XMP-crs:Exposure2012=+1.5"_s, sidecar });
     const QByteArray foreign = readFile(sidecar);
-    f->setWriteSidecar(true);
+    f->preferences().writeSidecar.set(true);
     QVERIFY(f.open());
     f->selectAllPhotos();
     for (const QString& headline : { u"X"_s, u"Y"_s }) {
@@ -349,7 +349,7 @@ void TestAppModelSafety::undoTakesSidecarsBack()
     }
     QVERIFY(readFile(sidecar) != foreign && QFile::exists(f.folder.path(u"b.xmp"_s)));
     f.click(u"a.jpg"_s);
-    f->setRenamePattern(u"c"_s);
+    f->preferences().renamePattern.set(u"c"_s);
     f->performRename();
     QVERIFY(f.undo());
     QCOMPARE(f.onDisk(u"c.xmp"_s, u"XMP:Headline"_s), QJsonValue(u"X"_s));
@@ -360,7 +360,7 @@ void TestAppModelSafety::undoTakesSidecarsBack()
     QVERIFY(!QFile::exists(f.folder.path(u"b.xmp"_s)));
 }
 
-void TestAppModelSafety::undoLeavesOthersWorkAlone()
+void tst_AppModelSafety::undoLeavesOthersWorkAlone()
 {
     JournaledPhotos f;
     QVERIFY(f.open());
@@ -381,7 +381,7 @@ void TestAppModelSafety::undoLeavesOthersWorkAlone()
     QVERIFY(!f->canUndoSave());
 }
 
-void TestAppModelSafety::undoThroughALink()
+void tst_AppModelSafety::undoThroughALink()
 {
     JournaledPhotos f({ u"a.jpg"_s });
     const PhotoFolder elsewhere;
@@ -400,7 +400,7 @@ void TestAppModelSafety::undoThroughALink()
 }
 
 /// Every photo had another title, so each is a run of its own; two of them cannot be written to.
-void TestAppModelSafety::undoThatFailsInPart()
+void tst_AppModelSafety::undoThatFailsInPart()
 {
     const QStringList names{ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s };
     JournaledPhotos f(names);
@@ -433,7 +433,7 @@ void TestAppModelSafety::undoThatFailsInPart()
 }
 
 /// A tool that is killed says nothing about what it has done: what it restored must not pass for another's work.
-void TestAppModelSafety::undoIsTriedAgainAfterTheToolWasCut()
+void tst_AppModelSafety::undoIsTriedAgainAfterTheToolWasCut()
 {
     JournaledPhotos f({ u"a.jpg"_s, u"b.jpg"_s });
     QVERIFY(f.open());
@@ -460,7 +460,7 @@ void TestAppModelSafety::undoIsTriedAgainAfterTheToolWasCut()
     QVERIFY(!f->canUndoSave());
 }
 
-void TestAppModelSafety::unwritableJournalDoesNotStopASave()
+void tst_AppModelSafety::unwritableJournalDoesNotStopASave()
 {
     JournaledPhotos f;
     writeFile(f.settings.filePath(u"state"_s), "a file where a folder should be");
@@ -472,7 +472,7 @@ void TestAppModelSafety::unwritableJournalDoesNotStopASave()
     QVERIFY(!f->canUndoSave());
 }
 
-void TestAppModelSafety::stalledFileIsSkipped()
+void tst_AppModelSafety::stalledFileIsSkipped()
 {
     StallingPhotos f;
     f.stall(true);
@@ -493,7 +493,7 @@ void TestAppModelSafety::stalledFileIsSkipped()
     QCOMPARE(f.visible(), QStringList({ u"a.jpg"_s, u"c.jpg"_s, u"d.jpg"_s }));
 }
 
-void TestAppModelSafety::stalledReReadOfASaveIsSkipped()
+void tst_AppModelSafety::stalledReReadOfASaveIsSkipped()
 {
     StallingPhotos f;
     QVERIFY(f.open());
@@ -519,7 +519,7 @@ void TestAppModelSafety::stalledReReadOfASaveIsSkipped()
 }
 
 /// Nothing is shown of a refresh, until it does not get on.
-void TestAppModelSafety::stalledRefreshIsSkipped()
+void tst_AppModelSafety::stalledRefreshIsSkipped()
 {
     StallingPhotos f;
     QVERIFY(f.open());
@@ -542,7 +542,7 @@ void TestAppModelSafety::stalledRefreshIsSkipped()
     QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 4, 30000);
 }
 
-void TestAppModelSafety::quitEndsARead()
+void tst_AppModelSafety::quitEndsARead()
 {
     StallingPhotos f;
     int quits = 0;
@@ -560,5 +560,5 @@ void TestAppModelSafety::quitEndsARead()
     QVERIFY(QThreadPool::globalInstance()->waitForDone(30000));
 }
 
-QTEST_GUILESS_MAIN(TestAppModelSafety)
+QTEST_GUILESS_MAIN(tst_AppModelSafety)
 #include "tst_AppModelSafety.moc"

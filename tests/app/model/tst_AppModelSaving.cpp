@@ -32,7 +32,7 @@ struct GatedPhotos : GatedTool, ModelFixture {
 
 }  // namespace
 
-class TestAppModelSaving : public QObject {
+class tst_AppModelSaving : public QObject {
     Q_OBJECT
 
 private slots:
@@ -60,7 +60,7 @@ private slots:
     void failedSaveCancelsLeaving();
 };
 
-void TestAppModelSaving::singleSaveReplaces()
+void tst_AppModelSaving::singleSaveReplaces()
 {
     GatedPhotos f;
     exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=old"_s, u"-XMP-photoshop:Headline=old"_s,
@@ -89,7 +89,7 @@ void TestAppModelSaving::singleSaveReplaces()
     QCOMPARE(found.value(u"Exif.Photo.DateTimeOriginal"_s), QStringList{ u"2026:07:14 14:30:00"_s });
 }
 
-void TestAppModelSaving::batchSaveAppends()
+void tst_AppModelSaving::batchSaveAppends()
 {
     GatedPhotos f;
     exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Subject=own"_s, u"-IPTC:Keywords=own"_s, u"-XMP-dc:Creator=old"_s,
@@ -118,7 +118,7 @@ void TestAppModelSaving::batchSaveAppends()
     QVERIFY(f->record(f.url(u"c.jpg"_s))->values.isEmpty());
 }
 
-void TestAppModelSaving::companions_data()
+void tst_AppModelSaving::companions_data()
 {
     QTest::addColumn<bool>("backup");
     QTest::addColumn<bool>("sidecar");
@@ -129,23 +129,23 @@ void TestAppModelSaving::companions_data()
     QTest::addRow("sidecar") << false << true << QStringList({ photos[0], u"a.xmp"_s, photos[1], photos[2] });
 }
 
-void TestAppModelSaving::companions()
+void tst_AppModelSaving::companions()
 {
     QFETCH(bool, backup);
     QFETCH(bool, sidecar);
     QFETCH(QStringList, files);
     GatedPhotos f;
     QVERIFY(f.open());
-    f->setBackupOriginals(backup);
-    f->setWriteSidecar(sidecar);
-    f->setSaveDontAsk(true);
+    f->preferences().backupOriginals.set(backup);
+    f->preferences().writeSidecar.set(sidecar);
+    f->preferences().saveDontAsk.set(true);
     f->setSingle(u"title"_s, u"X"_s);
     f->requestSave();
     QVERIFY(f.waitUntilIdle());
     QCOMPARE(f.folder.names(), files);
 }
 
-void TestAppModelSaving::whenToAsk_data()
+void tst_AppModelSaving::whenToAsk_data()
 {
     QTest::addColumn<bool>("several");
     QTest::addColumn<bool>("saveDontAsk");
@@ -159,7 +159,7 @@ void TestAppModelSaving::whenToAsk_data()
     QTest::addRow("several, not this session") << true << false << true << true << false;
 }
 
-void TestAppModelSaving::whenToAsk()
+void tst_AppModelSaving::whenToAsk()
 {
     QFETCH(bool, several);
     QFETCH(bool, saveDontAsk);
@@ -167,8 +167,8 @@ void TestAppModelSaving::whenToAsk()
     QFETCH(bool, dontAskSession);
     QFETCH(bool, asks);
     GatedPhotos f;
-    f->setSaveDontAsk(saveDontAsk);
-    f->setConfirmMassEdit(confirmMassEdit);
+    f->preferences().saveDontAsk.set(saveDontAsk);
+    f->preferences().confirmMassEdit.set(confirmMassEdit);
     f->setBatchDontAskSession(dontAskSession);
     QVERIFY(f.open());
     if (several)
@@ -183,20 +183,20 @@ void TestAppModelSaving::whenToAsk()
     QCOMPARE(f->unsavedCount(), asks ? 1 : 0);
 }
 
-void TestAppModelSaving::secondSaveIsIgnored()
+void tst_AppModelSaving::secondSaveIsIgnored()
 {
     FakeTool tool;
     ModelFixture f(MetadataService{ tool.runner() });
     f.folder.add(u"a.jpg"_s);
     QVERIFY(f.open());
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     tool.answer(1, { .holds = true });
     f->setSingle(u"title"_s, u"X"_s);
     f->requestSave();
     QTRY_COMPARE(tool.calls().size(), 3);
     f->setSingle(u"title"_s, u"Y"_s);
     f->requestSave();
-    f->setSaveDontAsk(false);
+    f->preferences().saveDontAsk.set(false);
     f->requestSave();
     QVERIFY(!f->saveOpen());
     tool.release();
@@ -204,11 +204,11 @@ void TestAppModelSaving::secondSaveIsIgnored()
     QCOMPARE(tool.calls().size(), 5);
 }
 
-void TestAppModelSaving::editsDuringASaveAreKept()
+void tst_AppModelSaving::editsDuringASaveAreKept()
 {
     GatedPhotos f;
     QVERIFY(f.open());
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     f->setSingle(u"title"_s, u"first"_s);
     f->setSingle(u"creator"_s, u"Ana"_s);
     f->addCustomField(u"Mood"_s, u"calm"_s);
@@ -233,12 +233,12 @@ void TestAppModelSaving::editsDuringASaveAreKept()
     QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"second"_s));
 }
 
-void TestAppModelSaving::batchEditsDuringASaveAreKept()
+void tst_AppModelSaving::batchEditsDuringASaveAreKept()
 {
     GatedPhotos f;
     QVERIFY(f.open());
     f.selectAB();
-    f->setConfirmMassEdit(false);
+    f->preferences().confirmMassEdit.set(false);
     f->setBatch(u"title"_s, u"first"_s);
     f->setBatch(u"creator"_s, u"Ana"_s);
     f->addBatchListItem(u"keywords"_s, u"sky"_s);
@@ -256,12 +256,12 @@ void TestAppModelSaving::batchEditsDuringASaveAreKept()
     QVERIFY(f->batchCustoms().isEmpty());
 }
 
-void TestAppModelSaving::editsOfAnotherPhotoSurviveASave()
+void tst_AppModelSaving::editsOfAnotherPhotoSurviveASave()
 {
     GatedPhotos f;
     QVERIFY(f.open());
     f.selectAB();
-    f->setConfirmMassEdit(false);
+    f->preferences().confirmMassEdit.set(false);
     f->setBatch(u"title"_s, u"both"_s);
     f.shut();
     f->requestSave();
@@ -275,7 +275,7 @@ void TestAppModelSaving::editsOfAnotherPhotoSurviveASave()
     QCOMPARE(f->draftValues(), (QMap<QString, QString>{ { u"title"_s, u"both"_s }, { u"headline"_s, u"typed"_s } }));
 }
 
-void TestAppModelSaving::clickDuringASaveWaits()
+void tst_AppModelSaving::clickDuringASaveWaits()
 {
     GatedPhotos f;
     QVERIFY(f.open());
@@ -294,7 +294,7 @@ void TestAppModelSaving::clickDuringASaveWaits()
     QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
 }
 
-void TestAppModelSaving::failuresKeepEdits_data()
+void tst_AppModelSaving::failuresKeepEdits_data()
 {
     QTest::addColumn<int>("exitCode");
     QTest::addColumn<int>("signal");
@@ -302,7 +302,7 @@ void TestAppModelSaving::failuresKeepEdits_data()
     QTest::addRow("the tool dies half-way") << 0 << 9;
 }
 
-void TestAppModelSaving::failuresKeepEdits()
+void tst_AppModelSaving::failuresKeepEdits()
 {
     QFETCH(int, exitCode);
     QFETCH(int, signal);
@@ -312,7 +312,7 @@ void TestAppModelSaving::failuresKeepEdits()
     const QByteArray before = readFile(url.toLocalFile());
     QVERIFY(f.open());
     tool.answer(1, { .standardError = "half a file", .exitCode = exitCode, .signal = signal });
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     f->setSingle(u"title"_s, u"X"_s);
     f->requestSave();
     QVERIFY(f.waitUntilIdle());
@@ -331,14 +331,14 @@ void TestAppModelSaving::failuresKeepEdits()
     QCOMPARE(f->unsavedCount(), 0);
 }
 
-void TestAppModelSaving::failedReReadKeepsEdits()
+void tst_AppModelSaving::failedReReadKeepsEdits()
 {
     FakeTool tool;
     ModelFixture f(MetadataService{ tool.runner() });
     f.folder.add(u"a.jpg"_s);
     QVERIFY(f.open());
     tool.answer(2, { .standardError = "gone", .exitCode = 1 });
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     f->setSingle(u"title"_s, u"X"_s);
     f->requestSave();
     QVERIFY(f.waitUntilIdle());
@@ -347,7 +347,7 @@ void TestAppModelSaving::failedReReadKeepsEdits()
     QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
 }
 
-void TestAppModelSaving::fullDisk()
+void tst_AppModelSaving::fullDisk()
 {
     const QTemporaryDir mountPoint;
     const QByteArray path = mountPoint.path().toLocal8Bit();
@@ -362,7 +362,7 @@ void TestAppModelSaving::fullDisk()
     QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     while (filler.write(QByteArray(4096, 'x')) > 0) { }
     const QByteArray before = readFile(photo);
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     f->setSingle(u"description"_s, QString(20000, u'x'));
     f->requestSave();
     QVERIFY(f.waitUntilIdle());
@@ -378,11 +378,11 @@ void TestAppModelSaving::fullDisk()
     QCOMPARE(f->unsavedCount(), 0);
 }
 
-void TestAppModelSaving::modelDestroyedDuringWrite()
+void tst_AppModelSaving::modelDestroyedDuringWrite()
 {
     GatedPhotos f;
     QVERIFY(f.open());
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     f->setSingle(u"title"_s, u"X"_s);
     f.shut();
     f->requestSave();
@@ -394,7 +394,7 @@ void TestAppModelSaving::modelDestroyedDuringWrite()
     QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
 }
 
-void TestAppModelSaving::progressCountsReplacedFiles()
+void tst_AppModelSaving::progressCountsReplacedFiles()
 {
     FakeTool tool;
     ModelFixture f(MetadataService{ tool.runner() });
@@ -402,7 +402,7 @@ void TestAppModelSaving::progressCountsReplacedFiles()
         f.folder.add(name);
     QVERIFY(f.open());
     f->selectAllPhotos();
-    f->setConfirmMassEdit(false);
+    f->preferences().confirmMassEdit.set(false);
     f->setBatch(u"title"_s, u"X"_s);
     tool.answer(1, { .holds = true });
     f->requestSave();
@@ -419,7 +419,7 @@ void TestAppModelSaving::progressCountsReplacedFiles()
     QCOMPARE(f->progress(), std::nullopt);
 }
 
-void TestAppModelSaving::leaving_data()
+void tst_AppModelSaving::leaving_data()
 {
     QTest::addColumn<QString>("way");
     QTest::addColumn<bool>("several");
@@ -441,7 +441,7 @@ void TestAppModelSaving::leaving_data()
     }
 }
 
-void TestAppModelSaving::leaving()
+void tst_AppModelSaving::leaving()
 {
     QFETCH(QString, way);
     QFETCH(bool, several);
@@ -482,14 +482,14 @@ void TestAppModelSaving::leaving()
     QVERIFY(!f->saveOpen() && !f->isLeaving());
 }
 
-void TestAppModelSaving::quitWaitsForASave()
+void tst_AppModelSaving::quitWaitsForASave()
 {
     GatedPhotos f;
     int quits = 0;
     f.services.quit = [&quits] { ++quits; };
     f.relaunch();
     QVERIFY(f.open());
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     f->setSingle(u"title"_s, u"X"_s);
     f.shut();
     f->requestSave();
@@ -502,7 +502,7 @@ void TestAppModelSaving::quitWaitsForASave()
     QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Headline"_s), QJsonValue(u"typed meanwhile"_s));
 }
 
-void TestAppModelSaving::failedSaveCancelsLeaving()
+void tst_AppModelSaving::failedSaveCancelsLeaving()
 {
     FakeTool tool;
     ModelFixture f(MetadataService{ tool.runner() });
@@ -522,5 +522,5 @@ void TestAppModelSaving::failedSaveCancelsLeaving()
     QCOMPARE(f->records().size(), 1);
 }
 
-QTEST_GUILESS_MAIN(TestAppModelSaving)
+QTEST_GUILESS_MAIN(tst_AppModelSaving)
 #include "tst_AppModelSaving.moc"

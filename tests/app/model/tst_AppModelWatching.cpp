@@ -53,7 +53,7 @@ QStringList jpgs(const QString& letters)
 
 }  // namespace
 
-class TestAppModelWatching : public QObject {
+class tst_AppModelWatching : public QObject {
     Q_OBJECT
 
 private slots:
@@ -76,7 +76,7 @@ private slots:
     void closedFolderStaysClosed();
 };
 
-void TestAppModelWatching::outsideChangeKeepsEdits()
+void tst_AppModelWatching::outsideChangeKeepsEdits()
 {
     OpenFolder f;
     QVERIFY(f.isRead);
@@ -95,7 +95,7 @@ void TestAppModelWatching::outsideChangeKeepsEdits()
     QVERIFY(!f->isWorking());
 }
 
-void TestAppModelWatching::batchEditsSurviveChanges()
+void tst_AppModelWatching::batchEditsSurviveChanges()
 {
     OpenFolder f;
     f.select(u"abc"_s);
@@ -109,7 +109,7 @@ void TestAppModelWatching::batchEditsSurviveChanges()
     QCOMPARE(f->unsavedCount(), 2);
 }
 
-void TestAppModelWatching::addedPhotosComeAtOnce()
+void tst_AppModelWatching::addedPhotosComeAtOnce()
 {
     OpenFolder f;
     const Announcements announced(*f.model);
@@ -126,7 +126,7 @@ void TestAppModelWatching::addedPhotosComeAtOnce()
     QCOMPARE(f.selected(), jpgs(u"a"_s));
 }
 
-void TestAppModelWatching::unreadableNewcomersAreSilent()
+void tst_AppModelWatching::unreadableNewcomersAreSilent()
 {
     OpenFolder f;
     f.folder.add(u"empty.jpg"_s, {});
@@ -139,7 +139,7 @@ void TestAppModelWatching::unreadableNewcomersAreSilent()
     QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 7, 30000);
 }
 
-void TestAppModelWatching::removal_data()
+void tst_AppModelWatching::removal_data()
 {
     QTest::addColumn<QString>("select");
     QTest::addColumn<QString>("search");
@@ -155,7 +155,7 @@ void TestAppModelWatching::removal_data()
     QTest::addRow("all") << u"b"_s << QString() << u"abcde"_s << QString() << QString();
 }
 
-void TestAppModelWatching::removal()
+void tst_AppModelWatching::removal()
 {
     QFETCH(QString, select);
     QFETCH(QString, search);
@@ -172,7 +172,7 @@ void TestAppModelWatching::removal()
     QCOMPARE(f->draftValues().value(u"title"_s), primary.isEmpty() ? QString() : u"disk"_s);
 }
 
-void TestAppModelWatching::lastBatchPhotoInheritsTheEdits()
+void tst_AppModelWatching::lastBatchPhotoInheritsTheEdits()
 {
     OpenFolder f;
     f.select(u"ab"_s);
@@ -186,7 +186,7 @@ void TestAppModelWatching::lastBatchPhotoInheritsTheEdits()
     QVERIFY(f->batchInclude().isEmpty());
 }
 
-void TestAppModelWatching::lostEditsAreReported()
+void tst_AppModelWatching::lostEditsAreReported()
 {
     OpenFolder f;
     f->setSingle(u"title"_s, u"typed"_s);
@@ -196,7 +196,7 @@ void TestAppModelWatching::lostEditsAreReported()
     QCOMPARE(f->unsavedCount(), 0);
 }
 
-void TestAppModelWatching::outsideRename()
+void tst_AppModelWatching::outsideRename()
 {
     OpenFolder f;
     f.select(u"c"_s);
@@ -208,13 +208,13 @@ void TestAppModelWatching::outsideRename()
     QCOMPARE(f->draftValues().value(u"title"_s), u"typed"_s);
 }
 
-void TestAppModelWatching::removedFolderKeepsAll()
+void tst_AppModelWatching::removedFolderKeepsAll()
 {
     OpenFolder f;
     QVERIFY(QDir(f.folder.path()).mkpath(u"sub"_s));
     f.folder.add(u"sub/x.jpg"_s);
     QVERIFY(f.load({ f.url(u"sub"_s) }));
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     f->setSingle(u"title"_s, u"typed"_s);
     QVERIFY(QDir(f.folder.path(u"sub"_s)).removeRecursively());
     QTest::qWait(1000);
@@ -227,7 +227,7 @@ void TestAppModelWatching::removedFolderKeepsAll()
     QCOMPARE(f->draftValues().value(u"title"_s), u"typed"_s);
 }
 
-void TestAppModelWatching::folderThatComesBackIsWatchedAgain()
+void tst_AppModelWatching::folderThatComesBackIsWatchedAgain()
 {
     OpenFolder f;
     const QString path = f.folder.path(u"sub"_s);
@@ -244,12 +244,12 @@ void TestAppModelWatching::folderThatComesBackIsWatchedAgain()
     QTRY_COMPARE_WITH_TIMEOUT(f.visible(), QStringList({ u"y.jpg"_s, u"z.jpg"_s }), 30000);
 }
 
-void TestAppModelWatching::ownRenameIsNoChange()
+void tst_AppModelWatching::ownRenameIsNoChange()
 {
     OpenFolder f;
     f.select(u"b"_s);
     f->setSingle(u"title"_s, u"Sunset"_s);
-    f->setRenamePattern(u"%Title%"_s);
+    f->preferences().renamePattern.set(u"%Title%"_s);
     const auto* before = f->records().constData();
     {
         const Announcements announced(*f.model);
@@ -269,12 +269,12 @@ void TestAppModelWatching::ownRenameIsNoChange()
     QCOMPARE(announced.counts(), (QMap<QString, int>()));
 }
 
-void TestAppModelWatching::ownSaveIsNoChange()
+void tst_AppModelWatching::ownSaveIsNoChange()
 {
     OpenFolder f;
     bool isTold = false;
     f->onImagesModified = [&isTold](const QList<QUrl>&) { isTold = true; };
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     f->setSingle(u"title"_s, u"typed"_s);
     f->requestSave();
     QVERIFY(f.waitUntilIdle());
@@ -284,7 +284,7 @@ void TestAppModelWatching::ownSaveIsNoChange()
     QVERIFY(!isTold);
 }
 
-void TestAppModelWatching::changeDuringReReadIsSeen()
+void tst_AppModelWatching::changeDuringReReadIsSeen()
 {
     OpenFolder f;
     f.shut("a.jpg");
@@ -296,10 +296,10 @@ void TestAppModelWatching::changeDuringReReadIsSeen()
     QTRY_COMPARE_WITH_TIMEOUT(f->draftValues().value(u"title"_s), u"second"_s, 30000);
 }
 
-void TestAppModelWatching::staleReadLosesAgainstSave()
+void tst_AppModelWatching::staleReadLosesAgainstSave()
 {
     OpenFolder f;
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     f.shut("-struct");  // the second of a read's two runs: the first one has seen the old title
     exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=outside"_s, f.folder.path(u"a.jpg"_s) });
     QVERIFY(f.waitForRun());
@@ -314,7 +314,7 @@ void TestAppModelWatching::staleReadLosesAgainstSave()
     QCOMPARE(f->unsavedCount(), 0);
 }
 
-void TestAppModelWatching::closedFolderStaysClosed()
+void tst_AppModelWatching::closedFolderStaysClosed()
 {
     OpenFolder f;
     f.shut();
@@ -328,5 +328,5 @@ void TestAppModelWatching::closedFolderStaysClosed()
     QVERIFY(f->records().isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestAppModelWatching)
+QTEST_GUILESS_MAIN(tst_AppModelWatching)
 #include "tst_AppModelWatching.moc"

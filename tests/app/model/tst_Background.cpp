@@ -8,7 +8,7 @@
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
 
-class TestBackground : public QObject {
+class tst_Background : public QObject {
     Q_OBJECT
 
 private slots:
@@ -16,7 +16,7 @@ private slots:
     void jobOutlivesItsOwner();
 };
 
-void TestBackground::jobOutlivesItsOwner()
+void tst_Background::jobOutlivesItsOwner()
 {
     auto owner = std::make_unique<QObject>();
     QSemaphore mayEnd;
@@ -54,5 +54,5 @@ void TestBackground::jobOutlivesItsOwner()
     QTRY_COMPARE(hanging, 8);
 }
 
-QTEST_GUILESS_MAIN(TestBackground)
+QTEST_GUILESS_MAIN(tst_Background)
 #include "tst_Background.moc"

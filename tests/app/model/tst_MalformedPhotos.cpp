@@ -84,7 +84,7 @@ ThumbnailStoreOptions withTool()
 
 }  // namespace
 
-class TestMalformedPhotos : public QObject {
+class tst_MalformedPhotos : public QObject {
     Q_OBJECT
 
 private slots:
@@ -94,15 +94,15 @@ private slots:
 };
 
 /// A folder of them: shown, each selected once, then all given one place.
-void TestMalformedPhotos::together()
+void tst_MalformedPhotos::together()
 {
     const QStringList paths = brokenPhotos(40);
     if (paths.isEmpty())
         QSKIP("no photos: QUORBEL_TEST_PHOTOS is not set");
     ModelFixture f;
     const QList<QUrl> copies = copied(paths, f.folder);
-    f->setConfirmMassEdit(false);
-    f->setBackupOriginals(false);
+    f->preferences().confirmMassEdit.set(false);
+    f->preferences().backupOriginals.set(false);
     f->load({ f.folderURL() });
     QVERIFY(waitPatiently(f));
     QList<QUrl> open;
@@ -139,7 +139,7 @@ void TestMalformedPhotos::together()
     }
 }
 
-void TestMalformedPhotos::oneByOne_data()
+void tst_MalformedPhotos::oneByOne_data()
 {
     QTest::addColumn<QString>("path");
     const QStringList paths = brokenPhotos(3);
@@ -149,14 +149,14 @@ void TestMalformedPhotos::oneByOne_data()
         QTest::newRow("none") << QString();
 }
 
-void TestMalformedPhotos::oneByOne()
+void tst_MalformedPhotos::oneByOne()
 {
     QFETCH(QString, path);
     if (path.isEmpty())
         QSKIP("no photos: QUORBEL_TEST_PHOTOS is not set");
     ModelFixture f;
     const QUrl photo = f.folder.add(QFileInfo(path).fileName(), readFile(path));
-    f->setSaveDontAsk(true);
+    f->preferences().saveDontAsk.set(true);
     f->load({ photo });
     QVERIFY(waitPatiently(f));
     ThumbnailStore store(withTool());
@@ -180,5 +180,5 @@ void TestMalformedPhotos::oneByOne()
         isBackedUp || !isSaved);
 }
 
-QTEST_GUILESS_MAIN(TestMalformedPhotos)
+QTEST_GUILESS_MAIN(tst_MalformedPhotos)
 #include "tst_MalformedPhotos.moc"

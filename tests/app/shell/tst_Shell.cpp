@@ -117,7 +117,7 @@ void tst_Shell::recentItems()
     recents->actions().at(1)->trigger();
     QTRY_COMPARE(fixture.model->folderURL(), fixture.model.folderURL());
     action(fixture, u"Clear Menu"_s)->trigger();
-    QVERIFY(fixture.model->recentPaths().isEmpty());
+    QVERIFY(fixture.model->preferences().recentPaths().isEmpty());
     QVERIFY(!recents->menuAction()->isEnabled());
 }
 
@@ -215,25 +215,25 @@ void tst_Shell::settingsShowAndWritePreferences()
     QBSwitch* backups = named(u"Back up original before writing"_s);
     QVERIFY(backups->isChecked());
     QTest::mouseClick(backups, Qt::LeftButton);
-    QVERIFY(!model->backupOriginals());
+    QVERIFY(!model->preferences().backupOriginals());
     QTest::keyClick(named(u"Strip special characters"_s), Qt::Key_Space);
-    QVERIFY(!model->stripSpecialChars());
-    model->setWriteSidecar(true);
+    QVERIFY(!model->preferences().stripSpecialChars());
+    model->preferences().writeSidecar.set(true);
     QVERIFY(named(u"Also write a sidecar .xmp file"_s)->isChecked());
 
     auto* pattern = view.findChild<QBTextField*>();
     QCOMPARE(pattern->text(), u"%Date%_%Title%"_s);
     QTest::keyClicks(pattern, u"x"_s);
-    QCOMPARE(model->renamePattern(), u"%Date%_%Title%x"_s);
+    QCOMPARE(model->preferences().renamePattern(), u"%Date%_%Title%x"_s);
 
     auto* appearance = view.findChild<SegmentedPicker*>();
     QCOMPARE(appearance->currentIndex(), 0);
     appearance->setFocus();
     QTest::keyClick(appearance, Qt::Key_Right);
-    QCOMPARE(model->colorOverride(), ColorScheme::light);
+    QCOMPARE(model->preferences().colorOverride(), ColorScheme::light);
     QTest::keyClick(appearance, Qt::Key_Right);
-    QCOMPARE(model->colorOverride(), ColorScheme::dark);
-    model->setColorOverride(std::nullopt);
+    QCOMPARE(model->preferences().colorOverride(), ColorScheme::dark);
+    model->preferences().colorOverride.set(std::nullopt);
     QCOMPARE(appearance->currentIndex(), 0);
 }
 
@@ -249,17 +249,17 @@ void tst_Shell::onlySecureAddressesOfAPlaceServiceAreKept()
         emit field->textEdited(field->text());
     };
     enter(u" https://places.example/api "_s);
-    QCOMPARE(model->placeService(), u"https://places.example/api"_s);
+    QCOMPARE(model->preferences().placeService(), u"https://places.example/api"_s);
     QVERIFY(field->toolTip().isEmpty());
     for (const QString& address :
         { u"http://places.example"_s, u"places.example"_s, u"file:///etc/passwd"_s, u"https://"_s }) {
         enter(address);
-        QCOMPARE(model->placeService(), u"https://places.example/api"_s);
+        QCOMPARE(model->preferences().placeService(), u"https://places.example/api"_s);
         QCOMPARE(field->text(), address);
         QVERIFY2(!field->toolTip().isEmpty(), qPrintable(address));
     }
     enter(QString());
-    QVERIFY(model->placeService().isEmpty());
+    QVERIFY(model->preferences().placeService().isEmpty());
     QVERIFY(field->toolTip().isEmpty());
 }
 

@@ -102,11 +102,11 @@ int main(int argc, char** argv)
     };
     grabSheet(judged, folder, u"add-refused"_s);
     grab(f, folder, u"single"_s);
-    f.model().setShowNamespace(true);
+    f.model().preferences().showNamespace.set(true);
     grab(f, folder, u"namespaces"_s);
-    f.model().setShowNamespace(false);
+    f.model().preferences().showNamespace.set(false);
     f.model().discardSaveDialog();
-    f.model().setSaveDontAsk(true);
+    f.model().preferences().saveDontAsk.set(true);
     f.model().requestSave();
     f.photos.waitUntilIdle();
     f.click(u"IMG_4023.jpg"_s);
@@ -116,7 +116,7 @@ int main(int argc, char** argv)
     f.model().addCustomField(u"Rindfleischetikettierungsüberwachung"_s, u"ja"_s);
     f.window->resize(520, 1500);
     grab(f, folder, u"long"_s);
-    f.model().setSaveDontAsk(true);
+    f.model().preferences().saveDontAsk.set(true);
     f.model().requestSave();
     f.photos.waitUntilIdle();
     f.window->resize(520, 900);
@@ -132,7 +132,7 @@ int main(int argc, char** argv)
     for (const QString& id : more)
         f.model().setBatch(id, u"A value that is long enough to need more than one line of the list of changes"_s);
     grabSheet([&f] { return new SaveDialogView(f.model()); }, folder, u"apply-many"_s);
-    f.model().setShowNamespace(true);
+    f.model().preferences().showNamespace.set(true);
     f.window->resize(520, 1500);
     grab(f, folder, u"batch-namespaces"_s);
     return 0;

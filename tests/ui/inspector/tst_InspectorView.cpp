@@ -221,7 +221,7 @@ void TestInspectorView::typingReachesTheModel()
     QCOMPARE(f.model().draftValues().value(id), u"12"_s);
     QCOMPARE(f.model().editedSingle(), QSet<QString>{ id });
     QCOMPARE(f.view->footer()->unsavedText(), u"1 unsaved change"_s);
-    f.model().setSaveDontAsk(true);
+    f.model().preferences().saveDontAsk.set(true);
     f.model().discardSaveDialog();
     f.model().selectAllPhotos();
     QCOMPARE(f.model().batchValues(), (QMap<QString, QString>()));
@@ -373,7 +373,7 @@ void TestInspectorView::footerButtons()
     QVERIFY(f.model().renameOpen());
     click(f.view->footer()->addButton());
     QVERIFY(f.model().addOpen());
-    f.model().setSaveDontAsk(true);
+    f.model().preferences().saveDontAsk.set(true);
     click(f.view->footer()->saveButton());
     QVERIFY(f.model().isSaving());
     QCOMPARE(f.view->footer()->saveButton()->text(), u"Saving…"_s);
@@ -468,7 +468,7 @@ void TestInspectorView::typingKeepsTheCaret()
     QCOMPARE(title->text(), u"O--ne"_s);
     QCOMPARE(title->cursorPosition(), 3);
     // The same value again, as after a save: the caret and the undo history stay.
-    f.model().setSaveDontAsk(true);
+    f.model().preferences().saveDontAsk.set(true);
     f.model().requestSave();
     QVERIFY(f.photos.waitUntilIdle());
     QCOMPARE(title->cursorPosition(), 3);
@@ -540,10 +540,10 @@ void TestInspectorView::namespaceLines()
     f.model().addCustomField(u"Mood"_s, u"calm"_s);
     const auto line = u"XMP-dc:title · IPTC:ObjectName"_s;
     QVERIFY(!labels(f.row(u"title"_s)).contains(line));
-    f.model().setShowNamespace(true);
+    f.model().preferences().showNamespace.set(true);
     QVERIFY(labels(f.row(u"title"_s)).contains(line));
     QVERIFY(labels(f.view->form()->customRow(u"Mood"_s)).contains(u"XMP-Quorbel:Mood"_s));
-    f.model().setShowNamespace(false);
+    f.model().preferences().showNamespace.set(false);
     QVERIFY(!labels(f.row(u"title"_s)).contains(line));
 }
 

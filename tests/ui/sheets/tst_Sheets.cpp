@@ -236,9 +236,9 @@ void TestSheets::saveDialogRemembersNotToAsk()
     QVERIFY(one && !one->isChecked());
     click(one);
     QVERIFY(one->isChecked());
-    QVERIFY(desk.model().saveDontAsk());
+    QVERIFY(desk.model().preferences().saveDontAsk());
     click(one);
-    QVERIFY(!desk.model().saveDontAsk());
+    QVERIFY(!desk.model().preferences().saveDontAsk());
     desk.model().selectAllPhotos();
     auto* several =
         qobject_cast<QBCheckbox*>(button(desk.present<SaveDialogView>(), u"Don’t ask again this session"_s));
@@ -246,7 +246,7 @@ void TestSheets::saveDialogRemembersNotToAsk()
     QTest::keyClick(several, Qt::Key_Space);
     QVERIFY(several->isChecked());
     QVERIFY(desk.model().batchDontAskSession());
-    QVERIFY(!desk.model().saveDontAsk());
+    QVERIFY(!desk.model().preferences().saveDontAsk());
 }
 
 void TestSheets::renameBuildsAPattern()
@@ -266,7 +266,7 @@ void TestSheets::renameBuildsAPattern()
         chips, QStringList({ u"Date taken"_s, u"Time"_s, u"Title"_s, u"Creator"_s, u"Place"_s, u"Original name"_s }));
     pattern->selectAll();
     QTest::keyClicks(pattern, u"trip"_s);
-    QCOMPARE(desk.model().renamePattern(), u"trip"_s);
+    QCOMPARE(desk.model().preferences().renamePattern(), u"trip"_s);
     QVERIFY(labels(sheet).contains(u"trip.jpg"_s));
     click(button(sheet, u"Creator"_s));
     QCOMPARE(pattern->text(), u"trip_%Creator%"_s);
@@ -296,7 +296,7 @@ void TestSheets::renameAnswers()
     QFETCH(const QString, fileName);
     Desk desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
-    desk.model().setRenamePattern(u"dusk"_s);
+    desk.model().preferences().renamePattern.set(u"dusk"_s);
     desk.model().setRenameOpen(true);
     const auto* sheet = desk.present<RenameSheet>();
     if (pressed == u"Return"_s || pressed == u"Escape"_s)

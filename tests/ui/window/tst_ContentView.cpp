@@ -210,7 +210,7 @@ void tst_ContentView::sidebarWidthIsKeptInItsLimits()
     QCOMPARE(width(), 420);
     dragBy(-900);
     QCOMPARE(width(), 200);
-    fixture.model->preferences().setValue(u"sidebarWidth"_s, u"wide"_s);
+    fixture.model->preferences().store().setValue(u"sidebarWidth"_s, u"wide"_s);
     fixture.build();
     fixture.show();
     QCOMPARE(width(), 288);
@@ -275,7 +275,7 @@ void tst_ContentView::saveButtonSaysWhatItDoes()
     QVERIFY(!fixture.button(u"Save"_s)->isEnabled());
     fixture.model->setSingle(u"title"_s, u"New"_s);
     QVERIFY(fixture.button(u"Save"_s)->isEnabled());
-    fixture.model->setSaveDontAsk(true);
+    fixture.model->preferences().saveDontAsk.set(true);
     QTest::mouseClick(fixture.button(u"Save"_s), Qt::LeftButton);
     QVERIFY(!fixture.button(u"Saving…"_s)->isEnabled());
     QTRY_VERIFY_WITH_TIMEOUT(!fixture.model->isSaving(), 30'000);
@@ -306,11 +306,11 @@ void tst_ContentView::settingsMenuFlipsItsFlags()
         return false;
     };
     QVERIFY(flip(u"Show namespace details"_s));
-    QVERIFY(fixture.model->showNamespace());
+    QVERIFY(fixture.model->preferences().showNamespace());
     QVERIFY(!flip(u"Back up originals before writing"_s));  // on by default: now off
-    QVERIFY(!fixture.model->backupOriginals());
+    QVERIFY(!fixture.model->preferences().backupOriginals());
     QVERIFY(flip(u"Also write sidecar .xmp"_s));
-    QVERIFY(fixture.model->writeSidecar());
+    QVERIFY(fixture.model->preferences().writeSidecar());
 }
 
 void tst_ContentView::bannerStaysUntilItIsDismissed()
@@ -408,7 +408,7 @@ void tst_ContentView::progressOfALongWrite()
     QVERIFY(fixture.model.open());
     fixture.show();
     tool.answerAlways({ .holds = true });
-    fixture.model->setSaveDontAsk(true);
+    fixture.model->preferences().saveDontAsk.set(true);
     fixture.model->setSingle(u"title"_s, u"New"_s);
     fixture.model->requestSave();
     auto* foot = fixture.window->findChild<SidebarView*>()->findChild<ProgressFoot*>();
@@ -429,12 +429,12 @@ void tst_ContentView::appearanceIsFollowedLive()
     QCOMPARE(ground(), Theme::light().bg);
     QApplication::setPalette(paletteOf(Qt::black, Qt::white));
     QTRY_COMPARE(ground(), Theme::dark().bg);
-    fixture.model->setColorOverride(ColorScheme::light);
+    fixture.model->preferences().colorOverride.set(ColorScheme::light);
     QCOMPARE(ground(), Theme::light().bg);
     QApplication::setPalette(paletteOf(Qt::white, Qt::black));
-    fixture.model->setColorOverride(ColorScheme::dark);
+    fixture.model->preferences().colorOverride.set(ColorScheme::dark);
     QCOMPARE(ground(), Theme::dark().bg);
-    fixture.model->setColorOverride(std::nullopt);
+    fixture.model->preferences().colorOverride.set(std::nullopt);
     QTRY_COMPARE(ground(), Theme::light().bg);
     QApplication::setPalette(before);
 }

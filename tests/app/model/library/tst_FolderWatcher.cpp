@@ -11,7 +11,7 @@ using namespace Quorbel;
 using namespace Qt::StringLiterals;
 
 using namespace Quorbel::Test;
-class TestFolderWatcher : public QObject {
+class tst_FolderWatcher : public QObject {
     Q_OBJECT
 
 private slots:
@@ -22,14 +22,14 @@ private slots:
     void silentWhenStopped();
 };
 
-void TestFolderWatcher::reports_data()
+void tst_FolderWatcher::reports_data()
 {
     QTest::addColumn<QString>("what");
     for (const char* what : { "create", "write in place", "delete", "rename", "touch" })
         QTest::addRow("%s", what) << QString::fromLatin1(what);
 }
 
-void TestFolderWatcher::reports()
+void tst_FolderWatcher::reports()
 {
     QFETCH(QString, what);
     const PhotoFolder folder;
@@ -53,7 +53,7 @@ void TestFolderWatcher::reports()
     QTRY_COMPARE(calls, 1);
 }
 
-void TestFolderWatcher::coalesces()
+void tst_FolderWatcher::coalesces()
 {
     const PhotoFolder folder;
     int calls = 0;
@@ -71,7 +71,7 @@ void TestFolderWatcher::coalesces()
     QCOMPARE(calls, 1);
 }
 
-void TestFolderWatcher::silentWhenStopped()
+void tst_FolderWatcher::silentWhenStopped()
 {
     const PhotoFolder folder;
     int calls = 0;
@@ -86,5 +86,5 @@ void TestFolderWatcher::silentWhenStopped()
     QVERIFY(!nowhere.isWatching());
 }
 
-QTEST_GUILESS_MAIN(TestFolderWatcher)
+QTEST_GUILESS_MAIN(tst_FolderWatcher)
 #include "tst_FolderWatcher.moc"

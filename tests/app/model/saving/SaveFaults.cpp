@@ -168,7 +168,7 @@ Aftermath Aftermath::fromLine(const QByteArray& line)
 
 void editAll(AppModel& model, const QString& title)
 {
-    model.setConfirmMassEdit(false);
+    model.preferences().confirmMassEdit.set(false);
     model.selectAllPhotos();
     model.setBatch(u"title"_s, title);
     model.addBatchListItem(u"keywords"_s, u"sky"_s);

@@ -41,7 +41,7 @@ int main(int argc, char* argv[])
     services.preferences = std::make_shared<QSettings>(state + u"/settings.ini"_s, QSettings::IniFormat);
     services.journalPath = state + u"/undo.json"_s;
     AppModel model(services);
-    model.setBackupOriginals(arguments.contains(u"--backup"_s));
+    model.preferences().backupOriginals.set(arguments.contains(u"--backup"_s));
     model.load({ QUrl::fromLocalFile(arguments.at(1)) });
     if (!waitUntilIdle(model) || model.records().isEmpty())
         return 3;

@@ -80,11 +80,11 @@ bool remountReadOnly(const QString& mountPoint)
 }
 
 /// A folder for photos, and a model in this process that opens and saves them.
-struct Batch : ModelFixture {
-    Batch()
+struct BatchPhotos : ModelFixture {
+    BatchPhotos()
         : directory(folder.path(u"trip"_s))
     {
-        model->setBackupOriginals(false);
+        model->preferences().backupOriginals.set(false);
         QDir().mkpath(directory);
     }
     void save(const QString& title)
@@ -113,7 +113,7 @@ struct Loss {
 
 Q_DECLARE_METATYPE(Loss)
 
-class TestSaveFaults : public QObject {
+class tst_SaveFaults : public QObject {
     Q_OBJECT
 
 private slots:
@@ -139,7 +139,7 @@ private:
     int m_saveTime = 1;  ///< ms; of a save that nothing strikes, on this machine as busy as it is
 };
 
-void TestSaveFaults::initTestCase()
+void tst_SaveFaults::initTestCase()
 {
     bool isGiven = false;
     quint32 seed = qEnvironmentVariable("QUORBEL_FAULT_SEED").toUInt(&isGiven);
@@ -147,7 +147,7 @@ void TestSaveFaults::initTestCase()
         seed = QRandomGenerator::global()->generate();
     m_random.seed(seed);
     qInfo("QUORBEL_FAULT_SEED=%u", seed);
-    Batch batch;
+    BatchPhotos batch;
     batch.services.journalPath = batch.settings.filePath(u"undo.json"_s);
     batch.relaunch();
     const StruckPhotos photos(batch.directory);
@@ -160,11 +160,11 @@ void TestSaveFaults::initTestCase()
     m_saveTime = int(timer.elapsed());
 }
 
-void TestSaveFaults::toolIsKilled()
+void tst_SaveFaults::toolIsKilled()
 {
     int kills = 0;
     for (int round = 0; round < rounds(4); ++round) {
-        Batch batch;
+        BatchPhotos batch;
         const StruckPhotos photos(batch.directory);
         QVERIFY(batch.load({ QUrl::fromLocalFile(batch.directory) }));
         batch.save(titleOf(round));
@@ -182,12 +182,12 @@ void TestSaveFaults::toolIsKilled()
 }
 
 /// What the killed program left is dealt with by the next one, and no photo is out of its reach.
-void TestSaveFaults::verifyNextStart(const StruckPhotos& photos, const QString& directory, const QString& state)
+void tst_SaveFaults::verifyNextStart(const StruckPhotos& photos, const QString& directory, const QString& state)
 {
     const QString temporary = state + u"/tmp"_s;
     TemporaryFiles::clearAbandoned(temporary, QDateTime::currentDateTime().addSecs(2 * 60 * 60));
     QCOMPARE(QDir(temporary).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
-    Batch next;
+    BatchPhotos next;
     next.services.journalPath = state + u"/undo.json"_s;
     next.relaunch();
     QVERIFY(next.load({ QUrl::fromLocalFile(directory) }));
@@ -211,7 +211,7 @@ void TestSaveFaults::verifyNextStart(const StruckPhotos& photos, const QString& 
     QVERIFY(next->canUndoSave());
 }
 
-void TestSaveFaults::programIsKilled()
+void tst_SaveFaults::programIsKilled()
 {
     int kills = 0;
     int leftovers = 0;
@@ -246,10 +246,10 @@ void TestSaveFaults::programIsKilled()
     QVERIFY2(kills > 0, "no round met a running save");
 }
 
-void TestSaveFaults::folderGoesAway()
+void tst_SaveFaults::folderGoesAway()
 {
     for (int round = 0; round < rounds(2); ++round) {
-        Batch batch;
+        BatchPhotos batch;
         const StruckPhotos photos(batch.directory);
         // Opened one by one, so that the folder is not watched: what a watched folder loses leaves the screen.
         QVERIFY(batch.load(photos.urls()));
@@ -264,10 +264,10 @@ void TestSaveFaults::folderGoesAway()
     }
 }
 
-void TestSaveFaults::diskIsFull()
+void tst_SaveFaults::diskIsFull()
 {
     for (int round = 0; round < rounds(2); ++round) {
-        Batch batch;
+        BatchPhotos batch;
         const QByteArray mountPoint = batch.directory.toLocal8Bit();
         if (geteuid() != 0 || mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=256k") != 0)
             QSKIP("mounting a small disk needs root");
@@ -291,7 +291,7 @@ void TestSaveFaults::diskIsFull()
     }
 }
 
-void TestSaveFaults::permissionIsTaken_data()
+void tst_SaveFaults::permissionIsTaken_data()
 {
     const auto mode = [](const QString& name, mode_t bits) {
         return [name, bits](const QString& folder) { return chmod(qPrintable(folder + u'/' + name), bits) == 0; };
@@ -310,7 +310,7 @@ void TestSaveFaults::permissionIsTaken_data()
         << Loss{ .needsRoot = true, .isMounted = true, .take = remountReadOnly, .giveBack = always };
 }
 
-void TestSaveFaults::permissionIsTaken()
+void tst_SaveFaults::permissionIsTaken()
 {
     QFETCH(Loss, loss);
     const bool isRoot = geteuid() == 0;
@@ -346,5 +346,5 @@ void TestSaveFaults::permissionIsTaken()
     qInfo("%d of %d saves struck", struck, rounds(1));
 }
 
-QTEST_GUILESS_MAIN(TestSaveFaults)
+QTEST_GUILESS_MAIN(tst_SaveFaults)
 #include "tst_SaveFaults.moc"

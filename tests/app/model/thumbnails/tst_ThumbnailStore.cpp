@@ -91,7 +91,7 @@ private:
 
 }  // namespace
 
-class ThumbnailStoreTest final : public QObject {
+class tst_ThumbnailStore : public QObject {
     Q_OBJECT
 
 private slots:
@@ -387,5 +387,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ThumbnailStoreTest)
+QTEST_GUILESS_MAIN(tst_ThumbnailStore)
 #include "tst_ThumbnailStore.moc"

@@ -1,0 +1,287 @@
+// The model's beginning and end, what is open, and what other programs do to it.
+#include "app/model/AppModel.h"
+
+#include "core/schema/RecentItems.h"
+
+#include <QFileInfo>
+#include <QPointer>
+
+#include <map>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int mostRecents = 10;
+
+}  // namespace
+
+AppModel::AppModel(AppModelServices services, QObject* parent)
+    : QObject(parent)
+    , m_services(std::move(services))
+    , m_announcer([this](Change change) { tell(change); })
+    , m_preferences(m_services.preferences)
+    , m_tasks(m_announcer, m_services.stallInterval)
+    , m_library(m_announcer, m_tasks, m_services.service, m_preferences.sortOrder())
+    , m_selected(m_announcer, m_library.photos())
+    , m_editing(m_announcer, m_library.photos(), m_selected)
+    , m_saving(m_announcer, m_tasks, m_library.refresh(), m_services.service, m_services.journalPath)
+{
+    requireMainThread("AppModel");
+    connectParts();
+    if (!m_services.service)
+        m_errorMessage = u"ExifTool could not be found in the app bundle. Metadata cannot be read or written."_s;
+}
+
+AppModel::~AppModel() = default;
+
+void AppModel::connectParts()
+{
+    connect(&m_library, &Library::problem, this, &AppModel::setErrorMessage);
+    connect(&m_library, &Library::opened, this, [this] {
+        m_editing.forgetReturned();
+        commitSelection(Selection::firstVisible(photos()));
+        // A question about edits that are gone must not stay on screen.
+        if (m_saveOpen)
+            cancelSaveDialog();
+    });
+    FolderRefresh& refresh = m_library.refresh();
+    connect(&refresh, &FolderRefresh::problem, this, &AppModel::setErrorMessage);
+    connect(&refresh, &FolderRefresh::vanished, this, &AppModel::takeVanished);
+    connect(&refresh, &FolderRefresh::reread, this, &AppModel::takeReread);
+    connect(&refresh, &FolderRefresh::added, this, [this] {
+        if (selection().isEmpty())
+            commitSelection(Selection::firstVisible(photos()));
+    });
+    connect(&m_saving, &Saving::saved, this, &AppModel::takeSaved);
+    connect(&m_saving, &Saving::undone, this, &AppModel::takeUndone);
+    connect(&m_saving, &Saving::ended, this, [this](bool isGood) {
+        m_lastSaveFailed = !isGood;
+        // After a failure what waits is dropped: nobody leaves edits that could not be saved.
+        if (isGood)
+            resumeWaiting();
+        else
+            m_waiting = nullptr;
+    });
+}
+
+void AppModel::tell(Change change)
+{
+    using Signal = void (AppModel::*)();
+    static const std::map<Change, Signal> signalOf{
+        { Change::records, &AppModel::recordsChanged },
+        { Change::visibleRows, &AppModel::visibleRowsChanged },
+        { Change::folder, &AppModel::folderChanged },
+        { Change::search, &AppModel::searchChanged },
+        { Change::sortOrder, &AppModel::sortOrderChanged },
+        { Change::selection, &AppModel::selectionChanged },
+        { Change::primary, &AppModel::primaryChanged },
+        { Change::edits, &AppModel::editsChanged },
+        { Change::unsavedCount, &AppModel::unsavedCountChanged },
+        { Change::isWorking, &AppModel::isWorkingChanged },
+        { Change::isSaving, &AppModel::isSavingChanged },
+        { Change::progress, &AppModel::progressChanged },
+        { Change::stalledFile, &AppModel::stalledFileChanged },
+        { Change::canUndoSave, &AppModel::canUndoSaveChanged },
+        { Change::errorMessage, &AppModel::errorMessageChanged },
+        { Change::saveOpen, &AppModel::saveOpenChanged },
+        { Change::addOpen, &AppModel::addOpenChanged },
+        { Change::renameOpen, &AppModel::renameOpenChanged },
+        { Change::batchDontAskSession, &AppModel::batchDontAskSessionChanged },
+    };
+    emit(this->*signalOf.at(change))();
+}
+
+void AppModel::setErrorMessage(const std::optional<QString>& message)
+{
+    requireMainThread("setErrorMessage");
+    m_announcer.assign(m_errorMessage, message, Change::errorMessage);
+}
+
+QDateTime AppModel::now() const
+{
+    return m_services.now ? m_services.now() : QDateTime::currentDateTime();
+}
+
+// --- Library ---
+
+void AppModel::setSortOrder(RecordSortOrder order)
+{
+    photos().setOrder(order);
+    m_preferences.sortOrder.set(order);
+}
+
+QList<ImageRecord> AppModel::visibleRecords() const
+{
+    QList<ImageRecord> visible;
+    visible.reserve(visibleRows().size());
+    for (const int row : visibleRows())
+        visible.append(records().at(row));
+    return visible;
+}
+
+QString AppModel::folderCountText() const
+{
+    QString text = QString::number(records().size()) + u" photo"_s;
+    if (records().size() != 1)
+        text += u's';
+    if (isBatch())
+        text += u" \u00B7 %1 selected"_s.arg(selection().size());
+    return text;
+}
+
+void AppModel::openPanel()
+{
+    requireMainThread("openPanel");
+    if (!m_services.openPanel)
+        return;
+    m_services.openPanel([model = QPointer(this)](const QList<QUrl>& urls) {
+        if (model && !urls.isEmpty())
+            model->requestLoad(urls);
+    });
+}
+
+void AppModel::openFile(const QUrl& url)
+{
+    requireMainThread("openFile");
+    if (m_services.openUrl)
+        m_services.openUrl(url);
+}
+
+void AppModel::load(const QList<QUrl>& urls)
+{
+    requireMainThread("load");
+    const PhotoListing listing = PhotoListing::of(urls);
+    if (listing.files.isEmpty()) {
+        setErrorMessage(u"No supported images were found."_s);
+        return;
+    }
+    QStringList opened;
+    for (const QUrl& url : listing.existing)
+        opened.append(url.toLocalFile());
+    m_preferences.recentPaths.set(RecentItems::updated(m_preferences.recentPaths(), opened, mostRecents));
+    m_library.load(listing);
+}
+
+void AppModel::closeFolder()
+{
+    requireMainThread("closeFolder");
+    const Announcer::Together together(m_announcer);
+    m_library.close();
+    m_editing.forgetReturned();
+    setSearch({});
+    commitSelection({});
+    setAddOpen(false);
+    setSaveOpen(false);
+    setRenameOpen(false);
+}
+
+void AppModel::refresh()
+{
+    requireMainThread("refresh");
+    m_library.refresh().refresh();
+}
+
+QList<QUrl> AppModel::recentURLs() const
+{
+    QList<QUrl> urls;
+    for (const QString& path : m_preferences.recentPaths())
+        urls.append(QUrl::fromLocalFile(path));
+    return urls;
+}
+
+void AppModel::openRecent(const QUrl& url)
+{
+    requireMainThread("openRecent");
+    const QString path = url.toLocalFile();
+    if (QFileInfo::exists(path))
+        return requestLoad({ url });
+    setErrorMessage(u"“%1” could no longer be found."_s.arg(url.fileName()));
+    QStringList remaining = m_preferences.recentPaths();
+    remaining.removeAll(path);
+    m_preferences.recentPaths.set(remaining);
+}
+
+void AppModel::clearRecents()
+{
+    m_preferences.recentPaths.set({});
+}
+
+// --- What other programs do to the photos ---
+
+void AppModel::takeVanished(const QList<int>& positions)
+{
+    const Announcer::Together together(m_announcer);
+    QSet<QUrl> gone;
+    for (const int position : positions)
+        gone.insert(records().at(position).url);
+    const Selection before = m_selected.selection();
+    const bool losesPrimary = before.primary && gone.contains(*before.primary);
+    if (losesPrimary && !isBatch() && unsavedCount() > 0)
+        setErrorMessage(
+            u"“%1” was removed by another program, and its unsaved changes with it."_s.arg(before.primary->fileName()));
+    const auto heir = losesPrimary ? before.nearestStaying(photos(), gone) : std::nullopt;
+    photos().remove(positions);
+    const Selection rest = before.withoutGone(photos(), heir);
+    if (before.photos.intersects(rest.photos))
+        m_editing.follow(rest);
+    else
+        commitSelection(rest);
+}
+
+void AppModel::takeReread(const QList<QUrl>& urls)
+{
+    const Announcer::Together together(m_announcer);
+    if (primary() && urls.contains(*primary()))
+        m_editing.rebase();
+    if (onImagesModified)
+        onImagesModified(urls);
+}
+
+// --- Sheets ---
+
+void AppModel::setAddOpen(bool open)
+{
+    requireMainThread("setAddOpen");
+    m_announcer.assign(m_addOpen, open, Change::addOpen);
+}
+
+void AppModel::setRenameOpen(bool open)
+{
+    requireMainThread("setRenameOpen");
+    m_announcer.assign(m_renameOpen, open, Change::renameOpen);
+}
+
+// --- Edits ---
+
+QMap<QString, QStringList> AppModel::nonEmptyBatchLists() const
+{
+    QMap<QString, QStringList> lists = batchLists();
+    lists.removeIf([](const auto& entry) { return entry.value().isEmpty(); });
+    return lists;
+}
+
+void AppModel::addCustomField(const QString& name, const QString& value)
+{
+    requireMainThread("addCustomField");
+    const auto cleaned = MetadataWriter::sanitizeCustomName(name);
+    if (!cleaned)
+        return;
+    const Announcer::Together together(m_announcer);
+    m_editing.addCustom(*cleaned, value);
+    setAddOpen(false);
+}
+
+void AppModel::addKnownField(const QString& id)
+{
+    requireMainThread("addKnownField");
+    if (!FieldSchema::spec(id))
+        return;
+    const Announcer::Together together(m_announcer);
+    m_editing.addKnownField(id);
+    setAddOpen(false);
+}
+
+}  // namespace Quorbel

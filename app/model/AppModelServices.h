@@ -1,0 +1,31 @@
+// What the model needs from outside. The shell passes the real things, tests pass lambdas; an empty function is simply
+// not called. Thread: the main thread calls all of it.
+#pragma once
+
+#include "core/MetadataService.h"
+
+#include <QDateTime>
+#include <QSettings>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace Quorbel {
+
+struct AppModelServices {
+    std::optional<MetadataService> service{};  ///< absent: the tool was not found
+    std::shared_ptr<QSettings> preferences{};  ///< required
+    /// Shows the open panel (files and directories, several); calls back with the chosen URLs, none on cancel.
+    std::function<void(std::function<void(const QList<QUrl>&)>)> openPanel{};
+    std::function<void()> endEditing{};  ///< makes the field being typed into commit its text
+    std::function<void(const QUrl&)> openUrl{};  ///< opens a file in the user's default application
+    std::function<QDateTime()> now{};  ///< local wall clock; the system's when empty
+    QString journalPath{};  ///< file of the saves that can be undone; empty: none can
+    /// How long a read may be at one file before the user is offered to skip it.
+    std::chrono::milliseconds stallInterval{ 10000 };
+    std::function<void()> quit{};  ///< ends the program; called by requestQuit()
+};
+
+}  // namespace Quorbel

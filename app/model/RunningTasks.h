@@ -1,0 +1,89 @@
+// The reads and writes under way: how far they are, which file one is stuck at, and how they are given up.
+// Thread: the main thread; the tasks themselves run elsewhere and write to their TaskProgress.
+// Knows nothing of photos, edits or saves: only of the files that a task was given.
+#pragma once
+
+#include "app/model/Announcer.h"
+#include "app/model/TaskProgress.h"
+#include "app/model/library/StallWatch.h"
+
+#include <QList>
+#include <QTimer>
+#include <QUrl>
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <stop_token>
+#include <vector>
+
+namespace Quorbel {
+
+/// How far a read or a write has come, in files.
+struct Progress {
+    qsizetype done = 0;
+    qsizetype total = 0;
+    bool operator==(const Progress&) const = default;
+};
+
+class RunningTasks final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RunningTasks)
+
+public:
+    enum class Kind {
+        load,
+        write,
+        check,  ///< the read that follows a write: it cannot be cancelled, though a file of it can be skipped
+        refresh,  ///< not shown unless it stalls
+    };
+    struct Task {
+        int id = 0;
+        Kind kind = Kind::load;
+        QList<QUrl> files{};  ///< of a read
+        std::optional<QUrl> skipped{};  ///< ended because of this file
+        std::shared_ptr<TaskProgress> progress{};
+        std::stop_source stop{};
+    };
+
+    /// `stallInterval`: how long a read may be at one file before the user is offered to skip it.
+    RunningTasks(Announcer& announcer, std::chrono::milliseconds stallInterval);
+    /// Reads are given up, a write goes on to its end.
+    ~RunningTasks() override;
+
+    /// `files`: those that a read reads; they can be skipped.
+    Task begin(Kind kind, qsizetype total, const QList<QUrl>& files = {});
+    /// The task as it was.
+    std::optional<Task> end(int id);
+    /// Gives up loads and refreshes.
+    void cancelReads();
+    void cancelRefreshes();
+    /// Ends the read that is stuck, with `skipped` set.
+    void skipStalledFile();
+
+    /// Whether one is shown.
+    bool isWorking() const { return m_isWorking; }
+    /// Of several tasks the one that began last; nothing while none is shown.
+    const std::optional<Progress>& progress() const { return m_progress; }
+    /// Name of the file that a read does not get done with; nothing while it gets on.
+    const std::optional<QString>& stalledFile() const { return m_stalledFile; }
+
+private:
+    void show(const Task& task);
+    Task* watchedRead();
+    void publishProgress();
+    void publishStall();
+
+    Announcer& m_announcer;
+    std::vector<Task> m_shown;
+    std::vector<Task> m_quiet;  ///< reads of a refresh that are not shown
+    int m_lastID = 0;
+    bool m_isWorking = false;
+    std::optional<Progress> m_progress;
+    std::optional<QString> m_stalledFile;
+    std::optional<QUrl> m_stalledURL;
+    StallWatch m_stallWatch;
+    QTimer m_timer;
+};
+
+}  // namespace Quorbel

@@ -1,0 +1,353 @@
+#include "app/model/edits/Editing.h"
+
+#include "core/schema/CustomFields.h"
+#include "core/schema/FieldID.h"
+#include "core/text/Text.h"
+
+#include <algorithm>
+
+namespace Quorbel {
+
+namespace {
+
+QSet<QUrl> setOf(const QList<QUrl>& urls)
+{
+    return QSet<QUrl>(urls.cbegin(), urls.cend());
+}
+
+}  // namespace
+
+Editing::Editing(Announcer& announcer, const PhotoList& photos, SelectedPhotos& selected)
+    : m_announcer(announcer)
+    , m_photos(photos)
+    , m_selected(selected)
+{
+}
+
+Edits Editing::unsaved() const
+{
+    Edits edits = isBatch() ? m_batch.edits : m_draft.edits;
+    edits.subjects = isBatch() ? m_selected.urls() : m_draft.edits.subjects;
+    return edits;
+}
+
+/// Tells observers, where there is something to tell.
+void Editing::changed()
+{
+    const Announcer::Together together(m_announcer);
+    m_announcer.assign(m_told, Told{ m_draft.shown, m_draft.edits.keys(), m_batch, m_added }, Change::edits);
+    m_announcer.assign(m_unsavedCount, isBatch() ? m_batch.edits.count() : m_draft.edits.count(), Change::unsavedCount);
+}
+
+// --- What one types ---
+
+void Editing::setSingle(const QString& id, const QString& value)
+{
+    m_draft.setScalar(id, value);
+    changed();
+}
+
+void Editing::addSingleListItem(const QString& id, const QString& item)
+{
+    m_draft.addItem(id, item);
+    changed();
+}
+
+void Editing::removeSingleListItem(const QString& id, const QString& item)
+{
+    m_draft.removeItem(id, item);
+    changed();
+}
+
+void Editing::setBatch(const QString& id, const QString& value)
+{
+    // Merely focusing and leaving a field includes nothing.
+    if (!m_batch.edits.scalars.contains(id) && value == m_selected.sharedValue(id).value_or(QString()))
+        return;
+    m_batch.setScalar(id, value);
+    changed();
+}
+
+void Editing::toggleBatchInclude(const QString& id)
+{
+    m_batch.toggle(id);
+    changed();
+}
+
+void Editing::addBatchListItem(const QString& id, const QString& item)
+{
+    m_batch.addItem(id, item);
+    changed();
+}
+
+void Editing::removeBatchListItem(const QString& id, const QString& item)
+{
+    m_batch.removeItem(id, item);
+    changed();
+}
+
+void Editing::clearBatchList(const QString& id)
+{
+    m_batch.clearList(id);
+    changed();
+}
+
+void Editing::toggleBatchCustom(const QString& name)
+{
+    m_batch.toggleCustom(name);
+    changed();
+}
+
+void Editing::setCustom(const QString& name, const QString& value)
+{
+    if (isBatch())
+        m_batch.setCustom(name, value);
+    else
+        m_draft.setCustom(name, value);
+    changed();
+}
+
+void Editing::addCustom(const QString& name, const QString& value)
+{
+    if (!isBatch())
+        return setCustom(name, value);
+    m_batch.addCustom({ name, value });
+    changed();
+}
+
+void Editing::addKnownField(const QString& id)
+{
+    m_added.insert(id);
+    changed();
+}
+
+void Editing::removeAddedField(const QString& id)
+{
+    m_added.remove(id);
+    m_draft.forget(id);
+    m_batch.forget(id);
+    changed();
+}
+
+void Editing::assignPlace(const LocationFill::Result& result, bool withPosition)
+{
+    const Announcer::Together together(m_announcer);
+    const auto assignments = LocationFill::assignments(result, [this](const QString& id) { return isFieldEmpty(id); });
+    for (const LocationFill::Assignment& assignment : assignments) {
+        if (!withPosition && assignment.id == FieldID::coords)
+            continue;
+        if (isBatch())
+            setBatch(assignment.id, assignment.value);
+        else
+            setSingle(assignment.id, assignment.value);
+    }
+}
+
+// --- Which fields are on screen ---
+
+bool Editing::isRemovableAddedField(const QString& id) const
+{
+    if (!m_added.contains(id))
+        return false;
+    if (isBatch())
+        return !m_selected.holds(id);
+    const ImageRecord* record = m_selected.primaryRecord();
+    return !record || (!record->values.contains(id) && !record->lists.contains(id));
+}
+
+bool Editing::isShown(const FieldSpec& field) const
+{
+    if (field.alwaysShown || m_added.contains(field.id))
+        return true;
+    if (isBatch())
+        return m_selected.holds(field.id);
+    return m_draft.shown.values.contains(field.id) || !m_draft.shown.lists.value(field.id).isEmpty();
+}
+
+QStringList Editing::visibleFieldIDs(FieldSection section) const
+{
+    QStringList ids;
+    for (const FieldSpec& field : FieldSchema::all())
+        if (field.section == section && isShown(field))
+            ids.append(field.id);
+    return ids;
+}
+
+QList<FieldSpec> Editing::addableKnownFields() const
+{
+    QList<FieldSpec> fields = FieldSchema::addableFields();
+    fields.removeIf([this](const FieldSpec& field) { return isShown(field); });
+    return fields;
+}
+
+QList<CustomValue> Editing::visibleCustomFields() const
+{
+    if (!isBatch())
+        return m_draft.shown.customs;
+    const QList<CustomValue>& typed = m_batch.edits.customs;
+    QList<CustomValue> fields;
+    for (const QString& name : m_selected.customNames()) {
+        const qsizetype i = CustomFields::indexOf(typed, name);
+        fields.append({ name, i < 0 ? QString() : typed.at(i).value });
+    }
+    for (const CustomValue& custom : typed)
+        if (CustomFields::indexOf(fields, custom.name) < 0)
+            fields.append(custom);
+    return fields;
+}
+
+bool Editing::isFieldEmpty(const QString& id) const
+{
+    const auto isBlank = [](const QString& text) { return Text::trimmed(text).isEmpty(); };
+    if (!isBatch())
+        return isBlank(m_draft.shown.values.value(id));
+    if (const auto typed = m_batch.edits.scalars.constFind(id); typed != m_batch.edits.scalars.cend())
+        return isBlank(*typed);
+    // Where the photos differ, some of them hold a text of their own.
+    const auto shared = m_selected.sharedValue(id);
+    return shared && isBlank(*shared);
+}
+
+// --- What follows the selection ---
+
+void Editing::select(const Selection& selection)
+{
+    const Announcer::Together together(m_announcer);
+    m_selected.set(selection);
+    restart();
+    for (qsizetype i = 0; i < m_returned.size(); ++i)
+        if (setOf(m_returned.at(i).subjects) == selection.photos)
+            return put(m_returned.takeAt(i));
+}
+
+void Editing::discard()
+{
+    restart();
+}
+
+/// No edit; the draft shows what the primary photo holds.
+void Editing::restart()
+{
+    m_batch = {};
+    m_added = {};
+    const ImageRecord* record = m_selected.primaryRecord();
+    m_draft = record ? Draft::of(*record) : Draft();
+    changed();
+}
+
+void Editing::follow(const Selection& selection)
+{
+    const Announcer::Together together(m_announcer);
+    const bool wasBatch = isBatch();
+    const bool hasOtherPrimary = selection.primary != m_selected.selection().primary;
+    m_selected.follow(selection);
+    const ImageRecord* record = m_selected.primaryRecord();
+    if (hasOtherPrimary) {
+        m_draft = record ? Draft::of(*record) : Draft();
+        m_added = {};
+    }
+    if (wasBatch && !isBatch())
+        foldBatchIntoDraft();
+    changed();
+}
+
+void Editing::rename(const QUrl& source, const QUrl& destination)
+{
+    m_selected.follow(m_selected.selection().renamed(source, destination));
+    std::replace(m_draft.edits.subjects.begin(), m_draft.edits.subjects.end(), source, destination);
+    for (Edits& edits : m_returned)
+        std::replace(edits.subjects.begin(), edits.subjects.end(), source, destination);
+}
+
+void Editing::rebase()
+{
+    const ImageRecord* record = m_selected.primaryRecord();
+    if (!record)
+        return;
+    m_draft.rebase(*record);
+    changed();
+}
+
+/// All but one of the selected photos disappeared: what was typed for all of them becomes that one's edits.
+void Editing::foldBatchIntoDraft()
+{
+    if (const ImageRecord* record = m_selected.primaryRecord())
+        m_draft.take(m_draft.edits.merged(m_batch.edits.foldedInto(*record)), *record);
+    m_batch = {};
+}
+
+// --- What becomes of edits that are saved ---
+
+void Editing::send()
+{
+    m_sent = { m_batch, m_added, m_selected.serial() };
+    m_sent.batch.edits = unsaved();
+}
+
+void Editing::takeSaved(const Edits& unsaved, const QList<QUrl>& failed, const QSet<QString>& differing)
+{
+    const Announcer::Together together(m_announcer);
+    if (m_sent.selectionSerial != m_selected.serial()) {
+        giveBack(unsaved);
+    } else if (!failed.isEmpty()) {
+        narrow(failed);
+    } else {
+        m_batch = m_batch.afterSave(m_sent.batch, differing);
+        m_draft.edits = m_draft.edits.minus(m_sent.batch.edits, differing);
+        m_added.subtract(m_sent.added);
+    }
+    rebase();
+}
+
+/// The selection shrinks to those of its photos that still wait for their edits, so that Save tries just them again.
+void Editing::narrow(const QList<QUrl>& photos)
+{
+    Selection rest = m_selected.selection();
+    rest.photos.intersect(setOf(photos));
+    if (rest.photos.isEmpty() || rest.photos == m_selected.selection().photos)
+        return;
+    if (!rest.primary || !rest.photos.contains(*rest.primary))
+        rest.primary = *std::find_if(
+            photos.cbegin(), photos.cend(), [&rest](const QUrl& photo) { return rest.photos.contains(photo); });
+    rest.anchor = rest.primary;
+    const Batch batch = m_batch;
+    const QSet<QString> added = m_added;
+    select(rest);
+    m_batch = batch;
+    m_added = added;
+    if (!isBatch())
+        foldBatchIntoDraft();
+    changed();
+}
+
+/// Selects the photos that still wait, with their edits, unless the user edits others by now: then these edits wait
+/// until just their photos are selected again.
+void Editing::giveBack(Edits edits)
+{
+    edits.subjects.removeIf([this](const QUrl& photo) { return !m_photos.contains(photo); });
+    if (edits.isEmpty() || edits.subjects.isEmpty())
+        return;
+    const QSet<QUrl> photos = setOf(edits.subjects);
+    if (photos == m_selected.selection().photos)
+        return put(edits);
+    if (m_unsavedCount > 0)
+        return m_returned.append(edits);
+    const std::optional<QUrl>& primary = m_selected.selection().primary;
+    const QUrl next = primary && photos.contains(*primary) ? *primary : edits.subjects.constFirst();
+    select({ photos, next, next });
+    m_added = m_sent.added;
+    put(edits);
+}
+
+/// Under what is being edited, for the selected photos.
+void Editing::put(const Edits& edits)
+{
+    if (isBatch()) {
+        m_batch.edits = edits.merged(m_batch.edits);
+    } else if (const ImageRecord* record = m_selected.primaryRecord()) {
+        m_draft.take(edits.foldedInto(*record).merged(m_draft.edits), *record);
+    }
+    changed();
+}
+
+}  // namespace Quorbel

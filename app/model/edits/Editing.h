@@ -1,0 +1,107 @@
+// What is being edited now: the draft of the one selected photo or the batch of several, and which fields are on
+// screen for it.
+// Thread: the main thread. Saves nothing: it says what is unsaved, and takes back what a save could not write.
+#pragma once
+
+#include "app/model/edits/Batch.h"
+#include "app/model/edits/Draft.h"
+#include "app/model/library/PhotoList.h"
+#include "app/model/selection/SelectedPhotos.h"
+#include "core/schema/FieldSchema.h"
+#include "core/schema/LocationFill.h"
+
+namespace Quorbel {
+
+class Editing final {
+public:
+    Editing(Announcer& announcer, const PhotoList& photos, SelectedPhotos& selected);
+    Q_DISABLE_COPY_MOVE(Editing)
+
+    const Draft& draft() const { return m_draft; }
+    const Batch& batch() const { return m_batch; }
+    /// Ids of fields that were added to the screen since the selection.
+    const QSet<QString>& sessionAddedKnownIDs() const { return m_added; }
+    /// The edits of the selected photos that wait to be saved, with these photos.
+    Edits unsaved() const;
+    int unsavedCount() const { return m_unsavedCount; }
+
+    void setSingle(const QString& id, const QString& value);
+    void addSingleListItem(const QString& id, const QString& item);
+    void removeSingleListItem(const QString& id, const QString& item);
+    void setBatch(const QString& id, const QString& value);
+    void toggleBatchInclude(const QString& id);
+    void addBatchListItem(const QString& id, const QString& item);
+    void removeBatchListItem(const QString& id, const QString& item);
+    void clearBatchList(const QString& id);
+    void toggleBatchCustom(const QString& name);
+    void setCustom(const QString& name, const QString& value);
+    /// The name as it is stored.
+    void addCustom(const QString& name, const QString& value);
+    void addKnownField(const QString& id);
+    void removeAddedField(const QString& id);
+    void assignPlace(const LocationFill::Result& result, bool withPosition);
+
+    bool isRemovableAddedField(const QString& id) const;
+    QStringList visibleFieldIDs(FieldSection section) const;
+    QList<FieldSpec> addableKnownFields() const;
+    QList<CustomValue> visibleCustomFields() const;
+    bool isFieldEmpty(const QString& id) const;
+
+    /// Selects these photos; edits of others are forgotten, and edits that wait for just these come back.
+    void select(const Selection& selection);
+    /// Nothing is edited any more.
+    void discard();
+    /// Photos of the selection disappeared: its edits stay, as those of the photos that remain.
+    void follow(const Selection& selection);
+    /// The photo has another name: all edits of it stay.
+    void rename(const QUrl& source, const QUrl& destination);
+    /// The photos were read again: the draft stands on what the primary one holds now.
+    void rebase();
+
+    /// Begins a save of unsaved(): until takeSaved, these edits stay and count.
+    void send();
+    /// The save has ended. What was saved is no edit any more; the rest goes back to its photos, wherever the
+    /// selection is by then: at once, or when just they are selected again. `unsaved` is empty when all was saved.
+    void takeSaved(const Edits& unsaved, const QList<QUrl>& failed, const QSet<QString>& differing);
+    /// Other photos are open: nothing waits for them any more.
+    void forgetReturned() { m_returned.clear(); }
+
+private:
+    /// What a save that runs was given.
+    struct Sent {
+        Batch batch{};  ///< of one photo: its edits alone
+        QSet<QString> added{};
+        int selectionSerial = 0;
+    };
+
+    /// What observers were told of last.
+    struct Told {
+        ExternalRefresh::Drafts shown{};
+        QSet<QString> edited{};
+        Batch batch{};
+        QSet<QString> added{};
+        bool operator==(const Told&) const = default;
+    };
+
+    bool isBatch() const { return m_selected.isBatch(); }
+    bool isShown(const FieldSpec& field) const;
+    void changed();
+    void restart();
+    void foldBatchIntoDraft();
+    void narrow(const QList<QUrl>& photos);
+    void giveBack(Edits edits);
+    void put(const Edits& edits);
+
+    Announcer& m_announcer;
+    const PhotoList& m_photos;
+    SelectedPhotos& m_selected;
+    Draft m_draft;
+    Batch m_batch;
+    QSet<QString> m_added;
+    Sent m_sent;
+    QList<Edits> m_returned;  ///< of photos that were not selected when their save failed
+    Told m_told;
+    int m_unsavedCount = 0;
+};
+
+}  // namespace Quorbel

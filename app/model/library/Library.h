@@ -1,0 +1,53 @@
+// What is open: a folder or some files, and the load that brings their photos.
+// Thread: the main thread; the reading runs in the background. Knows no selection and no edits.
+#pragma once
+
+#include "app/model/RunningTasks.h"
+#include "app/model/library/FolderRefresh.h"
+#include "app/model/library/FolderScan.h"
+#include "app/model/library/PhotoList.h"
+#include "app/model/library/PhotoReader.h"
+
+namespace Quorbel {
+
+class Library final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(Library)
+
+public:
+    Library(Announcer& announcer, RunningTasks& tasks, std::optional<MetadataService> service, RecordSortOrder order);
+
+    PhotoList& photos() { return m_photos; }
+    const PhotoList& photos() const { return m_photos; }
+    FolderRefresh& refresh() { return m_refresh; }
+    const FolderRefresh& refresh() const { return m_refresh; }
+    const QString& folderName() const { return m_folderName; }
+    /// The one folder that is open and watched; nothing where files or several folders are.
+    const std::optional<QUrl>& folderURL() const { return m_folderURL; }
+
+    /// What is open is replaced as a whole when the read has ended: photos, name and watched folder always come from
+    /// the same load, whichever of several ends last.
+    void load(const PhotoListing& listing);
+    void close();
+
+signals:
+    /// Other photos are in the list.
+    void opened();
+    /// A text for the banner.
+    void problem(const QString& text);
+
+private:
+    void read(const PhotoListing& listing, const QSet<QUrl>& tooSlow);
+    void finish(const PhotoListing& listing, const QSet<QUrl>& tooSlow, PhotoReader::Result result);
+    void show(QList<ImageRecord> records, const PhotoListing& listing, const QSet<QUrl>& tooSlow);
+
+    Announcer& m_announcer;
+    RunningTasks& m_tasks;
+    std::optional<MetadataService> m_service;
+    PhotoList m_photos;
+    FolderRefresh m_refresh;
+    QString m_folderName;
+    std::optional<QUrl> m_folderURL;
+};
+
+}  // namespace Quorbel

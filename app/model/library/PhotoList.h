@@ -1,0 +1,71 @@
+// The photos that are open: their records, which of them the search leaves on screen, and in what order.
+// Thread: the main thread. Reads nothing from disk; knows no selection and no edits.
+#pragma once
+
+#include "app/model/Announcer.h"
+#include "app/model/library/RecordIndex.h"
+
+#include <QList>
+#include <QStringList>
+
+#include <optional>
+
+namespace Quorbel {
+
+class PhotoList final {
+public:
+    PhotoList(Announcer& announcer, RecordSortOrder order)
+        : m_announcer(announcer)
+        , m_order(order)
+    {
+    }
+    Q_DISABLE_COPY_MOVE(PhotoList)
+
+    /// In the order in which they were read.
+    const QList<ImageRecord>& records() const { return m_records; }
+    /// -1 when there is none.
+    int position(const QUrl& url) const { return m_index.position(url); }
+    bool contains(const QUrl& url) const { return position(url) >= 0; }
+    /// Null when there is none. Valid until the records change.
+    const ImageRecord* record(const QUrl& url) const;
+    /// Positions of the photos that pass the search, in sort order.
+    const QList<int>& visibleRows() const { return m_visibleRows; }
+    /// Counts the changes of the records: what was derived from them under another number is out of date.
+    int serial() const { return m_serial; }
+
+    const QString& search() const { return m_search; }
+    void setSearch(const QString& text);
+    RecordSortOrder order() const { return m_order; }
+    void setOrder(RecordSortOrder order);
+
+    /// Other photos are open now.
+    void open(QList<ImageRecord> records);
+    /// Puts each record in the place of the one with its URL; one that is not open is ignored. Whether any differed.
+    bool replace(const QList<ImageRecord>& fresh);
+    /// Positions ascending.
+    void remove(const QList<int>& positions);
+    /// Those that are not open yet; whether there were any.
+    bool append(const QList<ImageRecord>& fresh);
+    /// The photo has another name in the same place of the list.
+    void rename(const QUrl& source, const QUrl& destination);
+
+    /// Keywords of the photos that begin with the text (any case), the most used first; at most `limit`.
+    QStringList keywordCompletions(const QString& prefix, int limit) const;
+
+private:
+    void contentChanged();
+    void updateVisibleRows(bool photosChanged);
+    const QStringList& keywordsByUse() const;
+
+    Announcer& m_announcer;
+    QList<ImageRecord> m_records;
+    RecordIndex m_index;
+    QList<int> m_visibleRows;
+    QString m_search;
+    QString m_needle;  ///< the search as it is compared: trimmed, lower case
+    RecordSortOrder m_order;
+    int m_serial = 0;
+    mutable std::optional<QStringList> m_keywordsByUse;
+};
+
+}  // namespace Quorbel

@@ -1,0 +1,180 @@
+#include "app/model/saving/Saving.h"
+
+#include "app/model/Background.h"
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString couldNotSave(const QString& reason)
+{
+    return u"Could not save: "_s + reason;
+}
+
+std::optional<QString> messageOf(
+    const SaveJob::Checked& checked, const SaveJob::Written& written, qsizetype targetCount)
+{
+    if (checked.error && written.error)
+        return couldNotSave(*written.error);
+    if (checked.error)
+        return u"Could not read metadata: "_s + *checked.error;
+    QStringList texts;
+    if (!checked.failures.isEmpty())
+        texts.append(SaveJob::failuresText(checked.failures, targetCount));
+    if (!checked.differences.isEmpty())
+        texts.append(SaveJob::differencesText(checked.differences));
+    return texts.isEmpty() ? std::nullopt : std::optional(texts.join(u". "_s));
+}
+
+SaveOutcome outcomeOf(const SaveJob::Checked& checked, const SaveJob::Written& written, const Edits& edits)
+{
+    SaveOutcome outcome{ .records = checked.records, .message = messageOf(checked, written, edits.subjects.size()) };
+    outcome.differing = QSet<QString>(checked.differences.cbegin(), checked.differences.cend());
+    for (const FileFailure& failure : checked.failures)
+        outcome.failed.append(failure.file);
+    // Nobody knows what files hold that could not be read again.
+    if (checked.error)
+        outcome.failed = edits.subjects;
+    if (!outcome.failed.isEmpty()) {
+        outcome.unsaved = edits;
+        outcome.unsaved.subjects = outcome.failed;
+    } else if (!outcome.differing.isEmpty()) {
+        outcome.unsaved = edits.minus(edits, outcome.differing);
+    }
+    outcome.isGood = outcome.failed.isEmpty() && outcome.differing.isEmpty();
+    return outcome;
+}
+
+}  // namespace
+
+Saving::Saving(Announcer& announcer, RunningTasks& tasks, FolderRefresh& refresh,
+    std::optional<MetadataService> service, const QString& journalPath)
+    : m_announcer(announcer)
+    , m_tasks(tasks)
+    , m_refresh(refresh)
+    , m_service(std::move(service))
+{
+    if (m_service && !journalPath.isEmpty())
+        openHistory(journalPath);
+}
+
+/// Whether there is anything to undo takes a look at the disk.
+void Saving::openHistory(const QString& journalPath)
+{
+    m_history = std::make_shared<SaveHistory>(journalPath);
+    runInBackground(
+        this, [history = m_history] { return history->isEmpty(); },
+        [this](bool isEmpty) {
+            m_hasUndo = m_hasUndo || !isEmpty;
+            updateCanUndo();
+        });
+}
+
+void Saving::updateCanUndo()
+{
+    m_announcer.assign(m_canUndo, m_hasUndo && !m_isSaving, Change::canUndoSave);
+}
+
+void Saving::begin(const QList<QUrl>& photos)
+{
+    m_announcer.assign(m_isSaving, true, Change::isSaving);
+    updateCanUndo();
+    m_refresh.beginWriting(QSet<QUrl>(photos.cbegin(), photos.cend()));
+}
+
+void Saving::end(bool isGood)
+{
+    m_announcer.assign(m_isSaving, false, Change::isSaving);
+    updateCanUndo();
+    // A failed write may have done some of its files.
+    m_refresh.endWriting(isGood);
+    emit ended(isGood);
+}
+
+void Saving::save(const Edits& edits, const WriteOptions& options)
+{
+    const Announcer::Together together(m_announcer);
+    begin(edits.subjects);
+    const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::write, edits.subjects.size());
+    runInBackground(
+        this,
+        [service = *m_service, edits, options, history = m_history, progress = task.progress] {
+            return SaveJob::run(service, edits.plan(), edits.subjects, options, history.get(), *progress);
+        },
+        [this, edits, id = task.id](const SaveJob::Written& written) {
+            const bool mayBeSaved = !written.error || (written.isPartial && edits.subjects.size() > 1);
+            {
+                const Announcer::Together done(m_announcer);
+                m_hasUndo = m_hasUndo || written.canBeUndone;
+                if (mayBeSaved)
+                    check(edits, written);
+                m_tasks.end(id);
+            }
+            if (!mayBeSaved)
+                finish({ .unsaved = edits, .failed = edits.subjects, .message = couldNotSave(*written.error) });
+        });
+}
+
+void Saving::check(const Edits& edits, const SaveJob::Written& written, const QSet<QUrl>& tooSlow)
+{
+    const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::check, edits.subjects.size(), edits.subjects);
+    runInBackground(
+        this,
+        [service = *m_service, edits, written, tooSlow, progress = task.progress, stop = task.stop.get_token()] {
+            return SaveJob::check(service, edits.plan(), edits.subjects, written, tooSlow, *progress, stop);
+        },
+        [this, edits, written, tooSlow, id = task.id](const SaveJob::Checked& checked) {
+            {
+                const Announcer::Together done(m_announcer);
+                const std::optional<RunningTasks::Task> ended = m_tasks.end(id);
+                if (ended && ended->skipped)
+                    return check(edits, written, QSet(tooSlow) << *ended->skipped);
+            }
+            finish(outcomeOf(checked, written, edits));
+        });
+}
+
+void Saving::finish(const SaveOutcome& outcome)
+{
+    {
+        const Announcer::Together together(m_announcer);
+        emit saved(outcome);
+    }
+    end(outcome.isGood);
+}
+
+void Saving::undo(const QList<QUrl>& photos)
+{
+    if (!m_canUndo)
+        return;
+    const Announcer::Together together(m_announcer);
+    begin(photos);
+    const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::write, 0);
+    runInBackground(
+        this,
+        [service = *m_service, history = m_history, photos, progress = task.progress] {
+            return history->undo(service, photos, *progress);
+        },
+        [this, id = task.id](const SaveHistory::Undone& result) {
+            {
+                const Announcer::Together done(m_announcer);
+                m_tasks.end(id);
+                m_hasUndo = result.hasMore;
+                emit undone({ .records = result.records, .message = SaveHistory::text(result) });
+            }
+            end(!result.error);
+        });
+}
+
+void Saving::noteRename(const QUrl& from, const QUrl& to)
+{
+    if (!m_history)
+        return;
+    m_history->noteRename(from.toLocalFile(), to.toLocalFile());
+    runInBackground(
+        this, [history = m_history] { history->storeRenames(); }, [] {});
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,74 @@
+// Saving and taking saves back: one at a time, in the background, from the write to the read that proves it.
+// Thread: the main thread; SaveJob and SaveHistory do the work elsewhere. Knows no selection: a save carries the edits
+// of its photos, and says at its end which photos still need which of them.
+#pragma once
+
+#include "app/model/RunningTasks.h"
+#include "app/model/library/FolderRefresh.h"
+#include "app/model/saving/SaveHistory.h"
+#include "app/model/saving/SaveJob.h"
+#include "core/save/Edits.h"
+
+#include <memory>
+
+namespace Quorbel {
+
+/// What a save, or taking one back, came to.
+struct SaveOutcome {
+    QList<ImageRecord> records{};  ///< photos as they are now
+    /// Of a save: what could not be saved, with the photos that still wait for it: those that failed, with all edits,
+    /// or all photos with the fields of which some file holds something else. Empty: all is saved.
+    Edits unsaved{};
+    QSet<QString> differing{};  ///< keys of those fields
+    QList<QUrl> failed{};  ///< photos that were not saved
+    std::optional<QString> message{};  ///< for the banner
+    bool isGood = false;  ///< nothing is left to do
+};
+
+class Saving final : public QObject {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(Saving)
+
+public:
+    /// `journalPath`: file of the saves that can be taken back; empty: none can.
+    Saving(Announcer& announcer, RunningTasks& tasks, FolderRefresh& refresh, std::optional<MetadataService> service,
+        const QString& journalPath);
+
+    /// False without the tool.
+    bool isPossible() const { return m_service.has_value(); }
+    bool isSaving() const { return m_isSaving; }
+    /// Whether the last save, perhaps of an earlier run of the program, can be taken back now.
+    bool canUndo() const { return m_canUndo; }
+    /// Writes the edits to their subjects. Needs some of both, and that nothing is being saved.
+    void save(const Edits& edits, const WriteOptions& options);
+    /// Puts back what the last save replaced. `photos`: those that are open, to be read again where it concerns them.
+    void undo(const QList<QUrl>& photos);
+    /// A photo got another name: what can be taken back follows it.
+    void noteRename(const QUrl& from, const QUrl& to);
+
+signals:
+    /// The write has ended and its files were read again; still `isSaving`.
+    void saved(const SaveOutcome& outcome);
+    void undone(const SaveOutcome& outcome);
+    /// After either: the next one may begin.
+    void ended(bool isGood);
+
+private:
+    void begin(const QList<QUrl>& photos);
+    void end(bool isGood);
+    void check(const Edits& edits, const SaveJob::Written& written, const QSet<QUrl>& tooSlow = {});
+    void finish(const SaveOutcome& outcome);
+    void openHistory(const QString& journalPath);
+    void updateCanUndo();
+
+    Announcer& m_announcer;
+    RunningTasks& m_tasks;
+    FolderRefresh& m_refresh;
+    std::optional<MetadataService> m_service;
+    std::shared_ptr<SaveHistory> m_history;  ///< null when no save can be taken back
+    bool m_hasUndo = false;
+    bool m_canUndo = false;
+    bool m_isSaving = false;
+};
+
+}  // namespace Quorbel

@@ -1,0 +1,132 @@
+#include "app/model/selection/SelectedPhotos.h"
+
+#include "app/model/library/PhotoList.h"
+
+#include <algorithm>
+
+namespace Quorbel {
+
+namespace {
+
+/// Records mostly share the texts of their keys, and then nothing has to be compared.
+bool isSameText(const QString& a, const QString& b)
+{
+    return a.constData() == b.constData() ? a.size() == b.size() : a == b;
+}
+
+}  // namespace
+
+void SelectedPhotos::set(const Selection& selection)
+{
+    ++m_serial;
+    follow(selection);
+}
+
+void SelectedPhotos::follow(const Selection& selection)
+{
+    const Announcer::Together together(m_announcer);
+    m_selection.anchor = selection.anchor;
+    if (m_announcer.assign(m_selection.photos, selection.photos, Change::selection)) {
+        m_rows.reset();
+        m_summary.reset();
+    }
+    m_announcer.assign(m_selection.primary, selection.primary, Change::primary);
+}
+
+const ImageRecord* SelectedPhotos::primaryRecord() const
+{
+    return m_selection.primary ? m_list.record(*m_selection.primary) : nullptr;
+}
+
+void SelectedPhotos::forgetIfOutdated() const
+{
+    if (m_listSerial == m_list.serial())
+        return;
+    m_listSerial = m_list.serial();
+    m_rows.reset();
+    m_summary.reset();
+}
+
+const QList<int>& SelectedPhotos::rows() const
+{
+    forgetIfOutdated();
+    if (m_rows)
+        return *m_rows;
+    QList<int> rows;
+    rows.reserve(m_selection.photos.size());
+    for (const QUrl& photo : m_selection.photos)
+        if (const int position = m_list.position(photo); position >= 0)
+            rows.append(position);
+    std::sort(rows.begin(), rows.end());
+    m_rows = std::move(rows);
+    return *m_rows;
+}
+
+QList<QUrl> SelectedPhotos::urls() const
+{
+    QList<QUrl> urls;
+    urls.reserve(rows().size());
+    for (const int row : rows())
+        urls.append(m_list.records().at(row).url);
+    return urls;
+}
+
+std::optional<QString> SelectedPhotos::sharedValue(const QString& id) const
+{
+    if (rows().isEmpty())
+        return std::nullopt;
+    const std::vector<Field>& fields = summary().fields;
+    const auto field = std::lower_bound(fields.cbegin(), fields.cend(), id,
+        [](const Field& candidate, const QString& wanted) { return candidate.id < wanted; });
+    if (field == fields.cend() || field->id != id)
+        return QString();
+    return field->isShared ? std::optional(field->value) : std::nullopt;
+}
+
+/// Takes one more record's scalar values into the fields. Both sides are sorted by id, so one pass compares them.
+void SelectedPhotos::mergeFields(std::vector<Field>& fields, const QMap<QString, QString>& values, bool isFirst)
+{
+    auto field = fields.begin();
+    for (auto value = values.cbegin(); value != values.cend(); ++value, ++field) {
+        while (field != fields.end() && !isSameText(field->id, value.key()) && field->id < value.key()) {
+            field->isShared = field->isShared && field->value.isEmpty();
+            ++field;
+        }
+        if (field == fields.end() || !isSameText(field->id, value.key()))
+            field = fields.insert(field, { value.key(), value.value(), isFirst || value->isEmpty() });
+        else if (field->isShared)
+            field->isShared = isSameText(field->value, value.value());
+    }
+    for (; field != fields.end(); ++field)
+        field->isShared = field->isShared && field->value.isEmpty();
+}
+
+const SelectedPhotos::Summary& SelectedPhotos::summary() const
+{
+    forgetIfOutdated();
+    if (m_summary)
+        return *m_summary;
+    Summary summary;
+    QStringList heldLists;
+    QSet<QString> customNames;
+    bool isFirst = true;
+    for (const int row : rows()) {
+        const ImageRecord& record = m_list.records().at(row);
+        mergeFields(summary.fields, record.values, isFirst);
+        for (auto list = record.lists.cbegin(); list != record.lists.cend(); ++list)
+            if (!list->isEmpty() && !heldLists.contains(list.key()))
+                heldLists.append(list.key());
+        for (const CustomValue& custom : record.custom)
+            customNames.insert(custom.name);
+        isFirst = false;
+    }
+    summary.heldIDs = QSet<QString>(heldLists.cbegin(), heldLists.cend());
+    for (const Field& field : summary.fields)
+        summary.heldIDs.insert(field.id);
+    summary.customNames = customNames.values();
+    summary.customNames.sort();
+    m_summary = std::move(summary);
+    return *m_summary;
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,44 @@
+// What somebody wants to change, and of which photos: the edits of one photo or of many, what a save carries, what a
+// save that failed gives back.
+// Thread: any. A plain value with pure functions. Knows neither selection nor window.
+#pragma once
+
+#include "core/save/EditPlan.h"
+#include "core/save/ExternalRefresh.h"
+
+namespace Quorbel {
+
+/// Keys are field ids, and CustomFields::key() of custom fields. A field has its edit in one of the maps only.
+struct Edits {
+    QMap<QString, QString> scalars{};  ///< field id to new text; an empty text clears the field
+    QMap<QString, QStringList> lists{};  ///< field id to the items that replace each photo's own
+    QMap<QString, QStringList>
+        added{};  ///< field id to items that each photo's own list gains; an empty list is no edit
+    QList<CustomValue> customs{};  ///< in the order in which they were first edited, one a name
+    QList<QUrl> subjects{};  ///< the photos; none: whichever photos one likes
+
+    /// Nothing is to be changed; the subjects play no part.
+    bool isEmpty() const { return count() == 0; }
+    /// How many fields are to be changed.
+    int count() const;
+    bool edited(const QString& key) const;
+    QSet<QString> keys() const;
+
+    /// What a save of these edits is asked to do. Lists are replaced where there are any to replace, else items are
+    /// added: one save cannot do both, so what is to be added is folded into a photo first (foldedInto).
+    EditPlan plan() const;
+
+    /// What is still unsaved after a save of `saved`: what was typed since it began, and the fields of which the files
+    /// hold something else (`differing`, by key).
+    Edits minus(const Edits& saved, const QSet<QString>& differing) const;
+    /// The same for this photo alone: items to add become its whole list, and what it holds already is no edit.
+    Edits foldedInto(const ImageRecord& photo) const;
+    /// What one sees of the photo: its contents with these edits laid over them.
+    ExternalRefresh::Drafts onto(const ImageRecord& photo) const;
+    /// These edits, and over them the other ones; the subjects stay.
+    Edits merged(const Edits& other) const;
+
+    bool operator==(const Edits&) const = default;
+};
+
+}  // namespace Quorbel
