@@ -135,6 +135,10 @@ private slots:
     void partialBatch_data();
     void partialBatch();
     void partialBatchIsTriedAgain();
+    void refusedBatchGoesBack_data();
+    void refusedBatchGoesBack();
+    void partialBatchUnderADraft_data();
+    void partialBatchUnderADraft();
     void undoSurvivesARestart();
     void undoFollowsRenames();
     void undoTakesSidecarsBack();
@@ -283,6 +287,78 @@ void tst_AppModelSafety::partialBatchIsTriedAgain()
     QCOMPARE(f->unsavedCount(), 0);
     QCOMPARE(f.onDisk(u"d.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
     QCOMPARE(readFile(f.folder.path(u"a.jpg"_s)), saved);
+}
+
+void tst_AppModelSafety::refusedBatchGoesBack_data()
+{
+    QTest::addColumn<bool>("typesMeanwhile");
+    QTest::addRow("nothing else is edited: at once") << false;
+    QTest::addRow("something else is edited: when they are selected again") << true;
+}
+
+/// The whole save is refused, because one of two photos is read-only, when the user is at a third one already.
+void tst_AppModelSafety::refusedBatchGoesBack()
+{
+    QFETCH(bool, typesMeanwhile);
+    ModelFixture f;
+    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
+        f.folder.add(name);
+    QVERIFY(QFile::setPermissions(f.folder.path(u"b.jpg"_s), QFile::ReadOwner));
+    f->preferences().confirmMassEdit.set(false);
+    QVERIFY(f.open());
+    f.click(u"b.jpg"_s, false, true);
+    f->setBatch(u"title"_s, u"X"_s);
+    f->addBatchListItem(u"keywords"_s, u"sky"_s);
+    f->requestSave();
+    f.click(u"c.jpg"_s);
+    if (typesMeanwhile)
+        f->setSingle(u"headline"_s, u"typed"_s);
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), u"Could not save: 1 of 2 photos is read-only: b.jpg; nothing was written."_s);
+    if (typesMeanwhile) {
+        QCOMPARE(f.selected(), QStringList{ u"c.jpg"_s });
+        QCOMPARE(f->editedSingle(), QSet<QString>{ u"headline"_s });
+        f->discardSaveDialog();
+        f.click(u"b.jpg"_s);
+        QCOMPARE(f->unsavedCount(), 0);
+        f.click(u"a.jpg"_s, false, true);
+    }
+    QCOMPARE(f.selected(), QStringList({ u"a.jpg"_s, u"b.jpg"_s }));
+    QCOMPARE(f->batchValues(), (QMap<QString, QString>{ { u"title"_s, u"X"_s } }));
+    QCOMPARE(f->nonEmptyBatchLists(), (QMap<QString, QStringList>{ { u"keywords"_s, { u"sky"_s } } }));
+    QVERIFY(QFile::setPermissions(f.folder.path(u"b.jpg"_s), QFile::ReadOwner | QFile::WriteOwner));
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->unsavedCount(), 0);
+    QCOMPARE(f.onDisk(u"b.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
+}
+
+/// One of three photos is refused while the user edits it, or one that was saved, on its own.
+void tst_AppModelSafety::partialBatchUnderADraft_data()
+{
+    QTest::addColumn<QString>("clicked");
+    QTest::addColumn<QStringList>("edited");
+    QTest::addRow("of a saved photo") << u"a.jpg"_s << QStringList{ u"title"_s };
+    QTest::addRow("of the refused photo") << u"b.jpg"_s << QStringList({ u"keywords"_s, u"title"_s });
+}
+
+void tst_AppModelSafety::partialBatchUnderADraft()
+{
+    QFETCH(QString, clicked);
+    QFETCH(QStringList, edited);
+    MixedPhotos f({ u"b.jpg"_s });
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    f->addBatchListItem(u"keywords"_s, u"batch"_s);
+    f->requestSave();
+    f.click(clicked);
+    f->setSingle(u"title"_s, u"typed"_s);
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f.selected(), QStringList{ clicked });
+    QCOMPARE(f->draftValues().value(u"title"_s), u"typed"_s);
+    QCOMPARE(f->editedSingle(), QSet<QString>(edited.cbegin(), edited.cend()));
+    // Saved or not: what one adds now joins the keyword and does not take its place.
+    QCOMPARE(f->draftLists().value(u"keywords"_s), QStringList{ u"batch"_s });
 }
 
 void tst_AppModelSafety::undoSurvivesARestart()

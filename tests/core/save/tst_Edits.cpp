@@ -1,0 +1,187 @@
+// What edits come to as a plan, over a photo, in one photo of many, and after a save.
+#include "core/save/Edits.h"
+
+#include <QTest>
+
+using namespace Quorbel;
+using namespace Qt::StringLiterals;
+
+using Mode = MetadataWriter::ListMode;
+
+namespace {
+
+ImageRecord lake()
+{
+    return { .url = QUrl::fromLocalFile(u"/lake.jpg"_s),
+        .values = { { u"title"_s, u"Lake"_s }, { u"event"_s, u"Tour"_s } },
+        .lists = { { u"keywords"_s, { u"water"_s, u"blue"_s } } },
+        .custom = { { u"Mood"_s, u"calm"_s } } };
+}
+
+}  // namespace
+
+Q_DECLARE_METATYPE(EditPlan)
+Q_DECLARE_METATYPE(Edits)
+
+class tst_Edits : public QObject {
+    Q_OBJECT
+
+private slots:
+    void counting_data();
+    void counting();
+    void plans_data();
+    void plans();
+    void afterASave_data();
+    void afterASave();
+    void folding_data();
+    void folding();
+    void overAPhoto();
+    void merging();
+};
+
+void tst_Edits::counting_data()
+{
+    QTest::addColumn<Edits>("edits");
+    QTest::addColumn<QStringList>("keys");
+    QTest::addRow("none") << Edits{} << QStringList();
+    QTest::addRow("photos alone are no edit") << Edits{ .subjects = { lake().url } } << QStringList();
+    QTest::addRow("cleared fields are edits") << Edits{ .scalars = { { u"title"_s, {} } },
+        .lists = { { u"people"_s, {} } } } << QStringList({ u"people"_s, u"title"_s });
+    QTest::addRow("nothing added is no edit")
+        << Edits{ .added = { { u"keywords"_s, {} }, { u"people"_s, { u"Ana"_s } } } } << QStringList{ u"people"_s };
+    QTest::addRow("a custom field is not the field of its name") << Edits{ .scalars = { { u"title"_s, u"a"_s } },
+        .customs = { { u"title"_s, u"b"_s } } } << QStringList({ u"custom:title"_s, u"title"_s });
+}
+
+void tst_Edits::counting()
+{
+    QFETCH(Edits, edits);
+    QFETCH(QStringList, keys);
+    QStringList found = edits.keys().values();
+    found.sort();
+    QCOMPARE(found, keys);
+    QCOMPARE(edits.count(), int(keys.size()));
+    QCOMPARE(edits.isEmpty(), keys.isEmpty());
+    for (const QString& key : { u"title"_s, u"people"_s, u"keywords"_s, u"custom:title"_s })
+        QCOMPARE(edits.edited(key), keys.contains(key));
+}
+
+void tst_Edits::plans_data()
+{
+    QTest::addColumn<Edits>("edits");
+    QTest::addColumn<EditPlan>("plan");
+    const QMap<QString, QString> title{ { u"title"_s, u"X"_s } };
+    const QList<CustomValue> mood{ { u"Mood"_s, u"gay"_s } };
+    QTest::addRow("one photo") << Edits{ .scalars = title, .lists = { { u"keywords"_s, {} } }, .customs = mood }
+                               << EditPlan{ title, { { u"keywords"_s, {} } }, mood, Mode::replace };
+    QTest::addRow("several photos") << Edits{
+        .scalars = title, .added = { { u"keywords"_s, { u"a"_s } }, { u"people"_s, {} } }, .customs = mood
+    } << EditPlan{ title, { { u"keywords"_s, { u"a"_s } } }, mood, Mode::append };
+}
+
+void tst_Edits::plans()
+{
+    QFETCH(Edits, edits);
+    QFETCH(EditPlan, plan);
+    QCOMPARE(edits.plan(), plan);
+}
+
+void tst_Edits::afterASave_data()
+{
+    QTest::addColumn<Edits>("now");
+    QTest::addColumn<QStringList>("differing");
+    QTest::addColumn<Edits>("rest");
+    // What was saved is the same in all rows; see afterASave().
+    const Edits saved{ .scalars = { { u"title"_s, u"X"_s } },
+        .lists = { { u"people"_s, { u"Ana"_s } } },
+        .added = { { u"keywords"_s, { u"a"_s, u"b"_s } } },
+        .customs = { { u"Mood"_s, u"gay"_s } } };
+    QTest::addRow("nothing typed since") << saved << QStringList() << Edits{};
+    QTest::addRow("all read back differently")
+        << saved << QStringList({ u"title"_s, u"people"_s, u"keywords"_s, u"custom:Mood"_s }) << saved;
+    QTest::addRow("one field read back differently")
+        << saved << QStringList{ u"keywords"_s } << Edits{ .added = saved.added };
+    const Edits typed{ .scalars = { { u"title"_s, u"Y"_s }, { u"event"_s, u"E"_s } },
+        .lists = { { u"people"_s, { u"Ana"_s, u"Ben"_s } } },
+        .added = { { u"keywords"_s, { u"b"_s, u"c"_s } } },
+        .customs = { { u"Mood"_s, u"sad"_s } } };
+    Edits rest = typed;
+    rest.added = { { u"keywords"_s, { u"c"_s } } };
+    QTest::addRow("typed since") << typed << QStringList() << rest;
+}
+
+void tst_Edits::afterASave()
+{
+    QFETCH(Edits, now);
+    QFETCH(QStringList, differing);
+    QFETCH(Edits, rest);
+    const Edits saved{ .scalars = { { u"title"_s, u"X"_s } },
+        .lists = { { u"people"_s, { u"Ana"_s } } },
+        .added = { { u"keywords"_s, { u"a"_s, u"b"_s } } },
+        .customs = { { u"Mood"_s, u"gay"_s } } };
+    QCOMPARE(now.minus(saved, QSet<QString>(differing.cbegin(), differing.cend())), rest);
+}
+
+void tst_Edits::folding_data()
+{
+    QTest::addColumn<Edits>("edits");
+    QTest::addColumn<Edits>("folded");
+    QTest::addRow("items join the photo's own")
+        << Edits{ .added = { { u"keywords"_s, { u"sky"_s, u"water"_s } }, { u"people"_s, { u"Ana"_s } } } }
+        << Edits{ .lists = { { u"keywords"_s, { u"water"_s, u"blue"_s, u"sky"_s } }, { u"people"_s, { u"Ana"_s } } } };
+    QTest::addRow("what it holds is no edit") << Edits{ .scalars = { { u"title"_s, u"Lake"_s }, { u"place"_s, {} } },
+        .added = { { u"keywords"_s, { u"blue"_s } } },
+        .customs = { { u"Mood"_s, u"calm"_s }, { u"Hue"_s, {} } } }
+                                              << Edits{};
+    QTest::addRow("cleared fields stay edits") << Edits{ .scalars = { { u"title"_s, {} } },
+        .lists = { { u"keywords"_s, {} } },
+        .customs = { { u"Mood"_s, {} } } }
+                                               << Edits{ .scalars = { { u"title"_s, {} } },
+                                                      .lists = { { u"keywords"_s, {} } },
+                                                      .customs = { { u"Mood"_s, {} } } };
+}
+
+void tst_Edits::folding()
+{
+    QFETCH(Edits, edits);
+    QFETCH(Edits, folded);
+    edits.subjects = { QUrl::fromLocalFile(u"/other.jpg"_s), lake().url };
+    folded.subjects = { lake().url };
+    QCOMPARE(edits.foldedInto(lake()), folded);
+}
+
+void tst_Edits::overAPhoto()
+{
+    const Edits edits{ .scalars = { { u"title"_s, {} }, { u"place"_s, u"Bern"_s } },
+        .lists = { { u"people"_s, { u"Ana"_s } } },
+        .added = { { u"keywords"_s, { u"sky"_s, u"blue"_s } } },
+        .customs = { { u"Hue"_s, u"red"_s }, { u"Mood"_s, u"gay"_s } } };
+    const ExternalRefresh::Drafts seen = edits.onto(lake());
+    QCOMPARE(seen.values,
+        (QMap<QString, QString>{ { u"title"_s, {} }, { u"event"_s, u"Tour"_s }, { u"place"_s, u"Bern"_s } }));
+    QCOMPARE(seen.lists,
+        (QMap<QString, QStringList>{
+            { u"keywords"_s, { u"water"_s, u"blue"_s, u"sky"_s } }, { u"people"_s, { u"Ana"_s } } }));
+    QCOMPARE(seen.customs, (QList<CustomValue>{ { u"Mood"_s, u"gay"_s }, { u"Hue"_s, u"red"_s } }));
+}
+
+void tst_Edits::merging()
+{
+    const Edits below{ .scalars = { { u"title"_s, u"X"_s }, { u"event"_s, u"E"_s } },
+        .added = { { u"keywords"_s, { u"a"_s, u"b"_s } } },
+        .customs = { { u"Mood"_s, u"gay"_s }, { u"Hue"_s, u"red"_s } },
+        .subjects = { lake().url } };
+    const Edits above{ .scalars = { { u"title"_s, u"Y"_s } },
+        .lists = { { u"people"_s, { u"Ana"_s } } },
+        .added = { { u"keywords"_s, { u"b"_s, u"c"_s } } },
+        .customs = { { u"Mood"_s, u"sad"_s } } };
+    QCOMPARE(below.merged(above),
+        (Edits{ .scalars = { { u"title"_s, u"Y"_s }, { u"event"_s, u"E"_s } },
+            .lists = { { u"people"_s, { u"Ana"_s } } },
+            .added = { { u"keywords"_s, { u"a"_s, u"b"_s, u"c"_s } } },
+            .customs = { { u"Mood"_s, u"sad"_s }, { u"Hue"_s, u"red"_s } },
+            .subjects = { lake().url } }));
+}
+
+QTEST_GUILESS_MAIN(tst_Edits)
+#include "tst_Edits.moc"
