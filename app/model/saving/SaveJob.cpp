@@ -1,6 +1,6 @@
 #include "app/model/saving/SaveJob.h"
 
-#include "app/model/saving/ReplacedFiles.h"
+#include "app/model/saving/ReplacedFilesPoll.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/SaveVerification.h"
 

@@ -31,7 +31,7 @@ constexpr qsizetype mostPreviewsWaiting = 16;
 /// After this one run of the tool for one file's preview is given up: some damaged files keep it busy for minutes.
 constexpr std::chrono::seconds toolTimeAllowed{ 30 };
 /// How long a store that is being destroyed waits for decoders that cannot be interrupted.
-constexpr int farewell = 2000;  // milliseconds
+constexpr int shutdownPatience = 2000;  // milliseconds
 
 /// Decoding must not compete with the window for the processor. On Linux the nice value is a thread's own.
 void lowerPriority()
@@ -52,11 +52,11 @@ ThumbnailStoreOptions ThumbnailStoreOptions::forUser()
 }
 
 /// What the workers use. Jobs share it, so that it outlives the store for as long as one of them runs.
-struct ThumbnailStore::Workshop {
+struct ThumbnailStore::PictureMaker {
     ThumbnailStoreOptions options{};
     ThumbnailDiskCache disk;
 
-    explicit Workshop(const ThumbnailStoreOptions& from)
+    explicit PictureMaker(const ThumbnailStoreOptions& from)
         : options(from)
         , disk(from.cacheFolder)
     {
@@ -132,7 +132,7 @@ struct ThumbnailStore::Mailbox {
 ThumbnailStore::ThumbnailStore(ThumbnailStoreOptions options, QObject* parent)
     : QObject(parent)
     , m_options(std::move(options))
-    , m_workshop(std::make_shared<Workshop>(m_options))
+    , m_pictureMaker(std::make_shared<PictureMaker>(m_options))
     , m_mailbox(std::make_shared<Mailbox>())
     , m_pool(std::make_unique<QThreadPool>())
     , m_toolPool(std::make_unique<QThreadPool>())
@@ -147,9 +147,9 @@ ThumbnailStore::ThumbnailStore(ThumbnailStoreOptions options, QObject* parent)
 
 void ThumbnailStore::pruneDisk()
 {
-    m_toolPool->start([workshop = m_workshop] {
+    m_toolPool->start([maker = m_pictureMaker] {
         lowerPriority();
-        workshop->disk.prune(workshop->options.cacheFolderBytes);
+        maker->disk.prune(maker->options.cacheFolderBytes);
     });
 }
 
@@ -165,7 +165,7 @@ ThumbnailStore::~ThumbnailStore()
         (*pool)->clear();
         // A pool's destructor waits without end. What still runs then holds nothing but shared values, so its pool
         // is left to it.
-        if (!(*pool)->waitForDone(farewell))
+        if (!(*pool)->waitForDone(shutdownPatience))
             static_cast<void>(pool->release());
     }
 }
@@ -354,19 +354,21 @@ void ThumbnailStore::dispatch()
 
 void ThumbnailStore::start(const Key& key, const Job& job)
 {
-    using Work = Outcome (Workshop::*)(const QString&, int, const std::stop_token&) const;
+    using Work = Outcome (PictureMaker::*)(const QString&, int, const std::stop_token&) const;
     const bool isTool = job.step == Step::tool;
-    const Work work = isTool ? &Workshop::runTool : job.step == Step::look ? &Workshop::look : &Workshop::decode;
+    const Work work = isTool     ? &PictureMaker::runTool
+        : job.step == Step::look ? &PictureMaker::look
+                                 : &PictureMaker::decode;
     if (isTool) {
         QTimer::singleShot(toolTimeAllowed, this, [stop = job.stop]() mutable { stop.request_stop(); });
     }
     (isTool ? m_toolPool : m_pool)
-        ->start([workshop = m_workshop, mailbox = m_mailbox, key, side = longSide(key.kind), work, isTool,
+        ->start([maker = m_pictureMaker, mailbox = m_mailbox, key, side = longSide(key.kind), work, isTool,
                     ticket = job.ticket, stop = job.stop.get_token()] {
             lowerPriority();
             Outcome outcome;
             if (!stop.stop_requested())
-                outcome = (*workshop.*work)(key.url.toLocalFile(), side, stop);
+                outcome = (*maker.*work)(key.url.toLocalFile(), side, stop);
             outcome.fromTool = isTool;
             mailbox->post(key, ticket, std::move(outcome));
         });

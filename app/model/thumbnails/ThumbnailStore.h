@@ -125,7 +125,7 @@ private:
         bool needsTool = false;  ///< the libraries refuse this file
         bool fromTool = false;
     };
-    struct Workshop;
+    struct PictureMaker;
     struct Mailbox;
 
     QCache<QUrl, Held>& cache(Kind kind) { return kind == Kind::small ? m_small : m_previews; }
@@ -144,7 +144,7 @@ private:
     QList<Key> refuse(const Key& key, bool byTool);
 
     ThumbnailStoreOptions m_options;
-    std::shared_ptr<const Workshop> m_workshop;
+    std::shared_ptr<const PictureMaker> m_pictureMaker;
     std::shared_ptr<Mailbox> m_mailbox;
     std::unique_ptr<QThreadPool> m_pool;
     std::unique_ptr<QThreadPool> m_toolPool;

@@ -1,4 +1,4 @@
-#include "app/model/saving/ReplacedFiles.h"
+#include "app/model/saving/ReplacedFilesPoll.h"
 
 #include <QFile>
 
