@@ -3,11 +3,11 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/KeywordEditor.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/Marks.h"
 #include "ui/controls/OffsetPicker.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/SuggestionList.h"
+#include "ui/controls/Toggles.h"
 #include "ui/places/MapPreview.h"
 #include "ui/sidebar/ThumbnailView.h"
 

@@ -3,10 +3,10 @@
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/Marks.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/ThemedMenu.h"
+#include "ui/controls/Toggles.h"
 #include "ui/controls/ToolTips.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"

@@ -2,7 +2,7 @@
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
-#include "ui/controls/Marks.h"
+#include "ui/controls/Toggles.h"
 #include "ui/controls/theme/Metrics.h"
 
 #include <QHBoxLayout>

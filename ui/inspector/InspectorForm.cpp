@@ -8,8 +8,8 @@
 #include "ui/inspector/CameraSection.h"
 #include "ui/inspector/FieldRow.h"
 #include "ui/inspector/FormSection.h"
-#include "ui/inspector/InspectorHeader.h"
 #include "ui/inspector/InspectorStates.h"
+#include "ui/inspector/PhotoHeader.h"
 #include "ui/places/LocationMap.h"
 
 #include <QVBoxLayout>

@@ -3,9 +3,9 @@
 #include "app/model/AppModel.h"
 #include "platform/places/search/PlaceProvider.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/Marks.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/Toggles.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
 

@@ -3,9 +3,9 @@
 
 #include "tests/app/model/ModelFixture.h"
 #include "tests/ui/UiSupport.h"
-#include "ui/controls/theme/SystemScheme.h"
 #include "ui/sheets/Sheet.h"
 #include "ui/window/ContentView.h"
+#include "ui/window/SystemScheme.h"
 #include "ui/window/WindowBar.h"
 
 #include <QAbstractButton>

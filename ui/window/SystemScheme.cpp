@@ -1,4 +1,4 @@
-#include "ui/controls/theme/SystemScheme.h"
+#include "ui/window/SystemScheme.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -1,4 +1,4 @@
-#include "ui/controls/Marks.h"
+#include "ui/controls/Toggles.h"
 
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/FocusRing.h"

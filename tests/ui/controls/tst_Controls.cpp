@@ -356,4 +356,4 @@ private slots:
 };
 
 QTEST_MAIN(TestComponents)
-#include "tst_Components.moc"
+#include "tst_Controls.moc"

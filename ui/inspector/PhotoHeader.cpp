@@ -1,4 +1,4 @@
-#include "ui/inspector/InspectorHeader.h"
+#include "ui/inspector/PhotoHeader.h"
 
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/Icon.h"
