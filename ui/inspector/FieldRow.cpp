@@ -48,7 +48,7 @@ FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
     });
 }
 
-int FieldRow::dotCentre() const
+int FieldRow::dotCenter() const
 {
     return px(rowHeight) / 2 + (m_multiline ? px(firstLineDrop) : 0);
 }

@@ -5,6 +5,7 @@
 #include "core/schema/FieldID.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/BatchBanner.h"
 #include "ui/inspector/CameraSection.h"
 #include "ui/inspector/FieldRow.h"
 #include "ui/inspector/FormSection.h"

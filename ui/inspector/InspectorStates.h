@@ -4,7 +4,7 @@
 
 #include "core/schema/FieldSchema.h"
 #include "core/schema/ImageRecord.h"
-#include "ui/inspector/FieldRow.h"
+#include "ui/inspector/FieldRowState.h"
 
 namespace Quorbel {
 

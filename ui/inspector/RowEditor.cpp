@@ -1,5 +1,7 @@
-// The editors of the field kinds, made to fit into a row.
+#include "ui/inspector/RowEditor.h"
+
 #include "ui/controls/Buttons.h"
+#include "ui/controls/KeywordEditor.h"
 #include "ui/controls/OffsetPicker.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/TextFields.h"
