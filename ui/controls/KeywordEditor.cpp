@@ -38,6 +38,7 @@ public:
         : QWidget(editor)
         , m_cross(new QBIconButton(u"xmark"_s, QString(), this))
     {
+        describeAs(staticMetaObject, QAccessible::ListItem);
         setFocusPolicy(Qt::ClickFocus);
         m_cross->setSizes({ 16, 16 }, 9, 2.6, 8);
         m_cross->setQuiet(true);
@@ -145,7 +146,7 @@ KeywordEditor::KeywordEditor(QWidget* parent)
     , m_suggestions(new SuggestionList(m_entry))
     , m_fade(new HoverFade(this))
 {
-    installAccessibility();
+    describeAs(staticMetaObject, QAccessible::Grouping);
     m_flow->setContentsMargins(3, 1, 3, 1);
     m_flow->setLastItemFills(true);
     m_flow->addWidget(m_entry);

@@ -128,7 +128,7 @@ SectionHeader::SectionHeader(const QString& title, bool muted, const QString& tr
     , m_muted(muted)
     , m_note(trailingNote)
 {
-    installAccessibility();
+    describeAs(staticMetaObject, QAccessible::Heading);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAccessibleName(title);
     setAccessibleDescription(trailingNote);
@@ -168,7 +168,7 @@ LabeledDivider::LabeledDivider(const QString& caption, bool muted, const QString
     , m_muted(muted)
     , m_note(note)
 {
-    installAccessibility();
+    describeAs(staticMetaObject, QAccessible::Heading);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAccessibleName(caption);
     setAccessibleDescription(note);

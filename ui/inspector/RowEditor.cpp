@@ -124,7 +124,7 @@ RowEditor ratingEditor(FieldRow& row)
 
 RowEditor offsetEditor(FieldRow& row)
 {
-    auto* picker = new OffsetPicker(u"—"_s);
+    auto* picker = new OffsetPicker(FieldSchema::timeZoneOffsets(), u"—"_s);
     QWidget* holder = leftAligned(picker, row);
     QObject::connect(picker, &OffsetPicker::valueEdited, &row, &FieldRow::textEdited);
     return { holder, picker, { picker }, [picker](const FieldRowState& state, bool) {

@@ -44,7 +44,7 @@ public:
         column->setSpacing(0);
         column->addWidget(body);
         onRestyle(this, [this, column] { column->setContentsMargins(0, hasTitle() ? px(titleHeight) : 0, 0, 0); });
-        installAccessibility();
+        describeAs(staticMetaObject, QAccessible::Dialog);
         setAccessibleName(hasTitle() ? body->title() : body->accessibleName());
         setAccessibleDescription(body->accessibleDescription());
         setFocusPolicy(Qt::NoFocus);

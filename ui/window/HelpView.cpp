@@ -1,5 +1,6 @@
 #include "ui/window/HelpView.h"
 
+#include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Icon.h"
@@ -205,6 +206,7 @@ HelpView::HelpView(QWidget* parent)
     , m_topics(new TopicList(this))
     , m_page(new QScrollArea(this))
 {
+    describeAs(staticMetaObject, QAccessible::Window);
     setWindowTitle(u"Quorbel Help"_s);
     m_page->setFrameShape(QFrame::NoFrame);
     m_page->setWidgetResizable(true);

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "platform/places/search/PlaceProvider.h"
+#include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/TextFields.h"
@@ -112,6 +113,7 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
 {
+    describeAs(staticMetaObject, QAccessible::Dialog);
     setWindowTitle(u"Settings"_s);
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);

@@ -1,5 +1,7 @@
 #include "ui/window/SystemScheme.h"
 
+#include "app/model/AppModel.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>

@@ -11,7 +11,7 @@
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
 
-class TestTheme : public QObject {
+class tst_Theme : public QObject {
     Q_OBJECT
 
 private slots:
@@ -54,12 +54,12 @@ private slots:
         QVERIFY2(ratio >= atLeast, qPrintable(QString::number(ratio)));
     }
 
-    void hexColours_data()
+    void hexColors_data()
     {
         Test::addRows(
             { { u"9a7a1c"_s, u"#ff9a7a1c"_s }, { u"000000"_s, u"#ff000000"_s }, { u"0000ff"_s, u"#ff0000ff"_s } });
     }
-    void hexColours()
+    void hexColors()
     {
         QFETCH(QString, text);
         QTEST(colorFromHex(text).name(QColor::HexArgb), "expected");
@@ -152,7 +152,7 @@ private slots:
         QTEST(symbolText(text), "expected");
     }
 
-    void everyIconDrawsInItsColour()
+    void everyIconDrawsInItsColor()
     {
         const QStringList files = QDir(u":/icons"_s).entryList();
         QVERIFY(files.size() >= 21);
@@ -166,5 +166,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestTheme)
+QTEST_MAIN(tst_Theme)
 #include "tst_Theme.moc"

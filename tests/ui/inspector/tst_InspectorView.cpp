@@ -78,7 +78,7 @@ void click(QAbstractButton* target)
 
 }  // namespace
 
-class TestInspectorView : public QObject {
+class tst_InspectorView : public QObject {
     Q_OBJECT
 
 private slots:
@@ -113,12 +113,12 @@ private slots:
     void keepsTheCaretInSight();
 };
 
-void TestInspectorView::init()
+void tst_InspectorView::init()
 {
     QTest::failOnWarning(QRegularExpression(u"^(?!.*propagateSizeHints)."_s));
 }
 
-void TestInspectorView::showsOnePhoto()
+void tst_InspectorView::showsOnePhoto()
 {
     InspectorFixture f;
     addThree(f);
@@ -136,7 +136,7 @@ void TestInspectorView::showsOnePhoto()
     QCOMPARE(f.model().unsavedCount(), 0);
 }
 
-void TestInspectorView::showsSeveralPhotos()
+void tst_InspectorView::showsSeveralPhotos()
 {
     InspectorFixture f;
     addThree(f);
@@ -153,7 +153,7 @@ void TestInspectorView::showsSeveralPhotos()
     QVERIFY(!f.row(u"title"_s)->tick()->isVisible());
 }
 
-void TestInspectorView::showsNothing()
+void tst_InspectorView::showsNothing()
 {
     InspectorFixture f;
     addThree(f);
@@ -164,7 +164,7 @@ void TestInspectorView::showsNothing()
     QVERIFY(!button(f.view, u"Save"_s));
 }
 
-void TestInspectorView::placeholders_data()
+void tst_InspectorView::placeholders_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("one");
@@ -181,7 +181,7 @@ void TestInspectorView::placeholders_data()
     QTest::addRow("no text of its own") << u"credit"_s << QString() << QString();
 }
 
-void TestInspectorView::placeholders()
+void tst_InspectorView::placeholders()
 {
     QFETCH(const QString, id);
     QFETCH(const QString, one);
@@ -199,7 +199,7 @@ void TestInspectorView::placeholders()
     QCOMPARE(f.editor<QBTextField>(id)->placeholder(), one);
 }
 
-void TestInspectorView::typingReachesTheModel_data()
+void tst_InspectorView::typingReachesTheModel_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addRow("text") << u"title"_s;
@@ -209,7 +209,7 @@ void TestInspectorView::typingReachesTheModel_data()
     QTest::addRow("place") << u"place"_s;
 }
 
-void TestInspectorView::typingReachesTheModel()
+void tst_InspectorView::typingReachesTheModel()
 {
     QFETCH(const QString, id);
     InspectorFixture f;
@@ -232,7 +232,7 @@ void TestInspectorView::typingReachesTheModel()
     QVERIFY(labels(f.row(id)).contains(u"Will be written to all 2 photos"_s));
 }
 
-void TestInspectorView::ticks_data()
+void tst_InspectorView::ticks_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<bool>("ticksWhenEmpty");
@@ -242,7 +242,7 @@ void TestInspectorView::ticks_data()
     QTest::addRow("a field of the user's own") << u"custom:Mood"_s << true;
 }
 
-void TestInspectorView::ticks()
+void tst_InspectorView::ticks()
 {
     QFETCH(const QString, id);
     QFETCH(const bool, ticksWhenEmpty);
@@ -270,7 +270,7 @@ void TestInspectorView::ticks()
     QCOMPARE(f.row(id) == nullptr, custom);
 }
 
-void TestInspectorView::keywordsOfOnePhoto()
+void tst_InspectorView::keywordsOfOnePhoto()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, { u"-IPTC:Keywords=lake"_s });
@@ -286,7 +286,7 @@ void TestInspectorView::keywordsOfOnePhoto()
     QCOMPARE(editor->chips(), QStringList{ u"reed"_s });
 }
 
-void TestInspectorView::keywordsOfSeveral()
+void tst_InspectorView::keywordsOfSeveral()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, { u"-IPTC:Keywords=lake"_s });
@@ -304,7 +304,7 @@ void TestInspectorView::keywordsOfSeveral()
     QVERIFY(!labels(f.row(u"keywords"_s)).contains(u"appends — existing values kept"_s));
 }
 
-void TestInspectorView::nowReplacesTheDate()
+void tst_InspectorView::nowReplacesTheDate()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, { u"-EXIF:DateTimeOriginal=2001:02:03 04:05:06"_s });
@@ -317,7 +317,7 @@ void TestInspectorView::nowReplacesTheDate()
     QCOMPARE(f.editor<QBTextField>(u"date"_s)->text(), u"2026-07-14 09:05"_s);
 }
 
-void TestInspectorView::ratingByMouseAndKey()
+void tst_InspectorView::ratingByMouseAndKey()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, { u"-XMP:Rating=3"_s });
@@ -329,7 +329,7 @@ void TestInspectorView::ratingByMouseAndKey()
     QCOMPARE(stars->rating(), 5);
 }
 
-void TestInspectorView::footer_data()
+void tst_InspectorView::footer_data()
 {
     QTest::addColumn<bool>("several");
     QTest::addColumn<QStringList>("fields");
@@ -343,7 +343,7 @@ void TestInspectorView::footer_data()
     QTest::addRow("several, two") << true << QStringList{ u"title"_s, u"creator"_s } << u"2 fields → 2 files"_s;
 }
 
-void TestInspectorView::footer()
+void tst_InspectorView::footer()
 {
     QFETCH(const bool, several);
     QFETCH(const QStringList, fields);
@@ -362,7 +362,7 @@ void TestInspectorView::footer()
     QCOMPARE(f.view->footer()->saveButton()->isEnabled(), !fields.isEmpty());
 }
 
-void TestInspectorView::footerButtons()
+void tst_InspectorView::footerButtons()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, {});
@@ -383,7 +383,7 @@ void TestInspectorView::footerButtons()
     QCOMPARE(f.photos.onDisk(u"a.jpg"_s, u"XMP:Title"_s).toString(), u"Dusk"_s);
 }
 
-void TestInspectorView::mapFollowsTheCoordinates()
+void tst_InspectorView::mapFollowsTheCoordinates()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, {});
@@ -398,7 +398,7 @@ void TestInspectorView::mapFollowsTheCoordinates()
     QVERIFY(!map->isVisible());
 }
 
-void TestInspectorView::fillsPlaceFromCoordinates()
+void tst_InspectorView::fillsPlaceFromCoordinates()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, located);
@@ -423,7 +423,7 @@ void TestInspectorView::fillsPlaceFromCoordinates()
     QVERIFY(!link->isVisible());
 }
 
-void TestInspectorView::picksAPlace()
+void tst_InspectorView::picksAPlace()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, {});
@@ -440,7 +440,7 @@ void TestInspectorView::picksAPlace()
     QVERIFY(f.row(u"sublocation"_s));
 }
 
-void TestInspectorView::rowsAreReused()
+void tst_InspectorView::rowsAreReused()
 {
     InspectorFixture f;
     addThree(f);
@@ -456,7 +456,7 @@ void TestInspectorView::rowsAreReused()
     QCOMPARE(f.view->findChildren<FieldRow*>().size(), before.size());
 }
 
-void TestInspectorView::typingKeepsTheCaret()
+void tst_InspectorView::typingKeepsTheCaret()
 {
     InspectorFixture f;
     addThree(f);
@@ -476,7 +476,7 @@ void TestInspectorView::typingKeepsTheCaret()
     QCOMPARE(f.model().unsavedCount(), 0);
 }
 
-void TestInspectorView::undoStaysWithItsPhoto()
+void tst_InspectorView::undoStaysWithItsPhoto()
 {
     InspectorFixture f;
     addThree(f);
@@ -494,7 +494,7 @@ void TestInspectorView::undoStaysWithItsPhoto()
     QCOMPARE(f.model().unsavedCount(), 0);
 }
 
-void TestInspectorView::halfTypedKeywordStaysBehind()
+void tst_InspectorView::halfTypedKeywordStaysBehind()
 {
     InspectorFixture f;
     addThree(f);
@@ -508,7 +508,7 @@ void TestInspectorView::halfTypedKeywordStaysBehind()
     QCOMPARE(editor->entryText(), QString());
 }
 
-void TestInspectorView::addedFieldTakesTheFocusAndGoesAgain()
+void tst_InspectorView::addedFieldTakesTheFocusAndGoesAgain()
 {
     InspectorFixture f;
     addThree(f);
@@ -532,7 +532,7 @@ void TestInspectorView::addedFieldTakesTheFocusAndGoesAgain()
     }
 }
 
-void TestInspectorView::namespaceLines()
+void tst_InspectorView::namespaceLines()
 {
     InspectorFixture f;
     addThree(f);
@@ -547,7 +547,7 @@ void TestInspectorView::namespaceLines()
     QVERIFY(!labels(f.row(u"title"_s)).contains(line));
 }
 
-void TestInspectorView::tabGoesFromTopToBottom()
+void tst_InspectorView::tabGoesFromTopToBottom()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, located);
@@ -576,7 +576,7 @@ void TestInspectorView::tabGoesFromTopToBottom()
             u"Copyright"_s, u"Place"_s, u"Coordinates"_s, u"Add field"_s }));
 }
 
-void TestInspectorView::tellsScreenReaders()
+void tst_InspectorView::tellsScreenReaders()
 {
     InspectorFixture f;
     addThree(f);
@@ -594,7 +594,7 @@ void TestInspectorView::tellsScreenReaders()
     QCOMPARE(f.row(u"title"_s)->tick()->accessibleName(), u"Write Title to all selected files"_s);
 }
 
-void TestInspectorView::keepsTheCaretInSight()
+void tst_InspectorView::keepsTheCaretInSight()
 {
     InspectorFixture f;
     addThree(f);
@@ -613,5 +613,5 @@ void TestInspectorView::keepsTheCaretInSight()
     QTRY_VERIFY(viewport->rect().contains(QRect(date->mapTo(f.window.get(), QPoint()), date->size())));
 }
 
-QTEST_MAIN(TestInspectorView)
+QTEST_MAIN(tst_InspectorView)
 #include "tst_InspectorView.moc"

@@ -121,7 +121,7 @@ struct Search {
 
 }  // namespace
 
-class TestLocationSearch : public QObject {
+class tst_LocationSearch : public QObject {
     Q_OBJECT
 
 private slots:
@@ -354,5 +354,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestLocationSearch)
+QTEST_MAIN(tst_LocationSearch)
 #include "tst_LocationSearch.moc"

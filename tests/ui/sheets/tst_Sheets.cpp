@@ -93,7 +93,7 @@ void press(Qt::Key key)
 
 }  // namespace
 
-class TestSheets : public QObject {
+class tst_Sheets : public QObject {
     Q_OBJECT
 
 private slots:
@@ -118,13 +118,13 @@ private slots:
     void customFieldIsAdded();
 };
 
-void TestSheets::init()
+void tst_Sheets::init()
 {
     failOnWarnings();
     qputenv("QUORBEL_REDUCE_MOTION", "1");
 }
 
-void TestSheets::saveDialogOfOnePhoto_data()
+void tst_Sheets::saveDialogOfOnePhoto_data()
 {
     QTest::addColumn<QStringList>("fields");
     QTest::addColumn<QString>("message");
@@ -134,7 +134,7 @@ void TestSheets::saveDialogOfOnePhoto_data()
                                 << u"You edited 2 fields. Your changes will be lost if you don’t save them."_s;
 }
 
-void TestSheets::saveDialogOfOnePhoto()
+void tst_Sheets::saveDialogOfOnePhoto()
 {
     QFETCH(const QStringList, fields);
     QFETCH(const QString, message);
@@ -153,7 +153,7 @@ void TestSheets::saveDialogOfOnePhoto()
     QCOMPARE(told->text(QAccessible::Description), message);
 }
 
-void TestSheets::saveDialogOfSeveral_data()
+void tst_Sheets::saveDialogOfSeveral_data()
 {
     QTest::addColumn<QMap<QString, QString>>("values");
     QTest::addColumn<QStringList>("keywords");
@@ -173,7 +173,7 @@ void TestSheets::saveDialogOfSeveral_data()
                u"Copyright"_s, u"“”"_s, u"Title"_s, u"“T”"_s, u"Keywords"_s, u"sky"_s };
 }
 
-void TestSheets::saveDialogOfSeveral()
+void tst_Sheets::saveDialogOfSeveral()
 {
     using Values = QMap<QString, QString>;
     QFETCH(const Values, values);
@@ -194,7 +194,7 @@ void TestSheets::saveDialogOfSeveral()
     QVERIFY(button(sheet, u"Don’t ask again this session"_s));
 }
 
-void TestSheets::saveDialogAnswers_data()
+void tst_Sheets::saveDialogAnswers_data()
 {
     QTest::addColumn<QString>("pressed");  // the title of a button, or a key
     QTest::addColumn<QString>("titleAfter");
@@ -206,7 +206,7 @@ void TestSheets::saveDialogAnswers_data()
     QTest::addRow("Escape stays") << u"Escape"_s << u"a.jpg"_s << u"a.jpg"_s;
 }
 
-void TestSheets::saveDialogAnswers()
+void tst_Sheets::saveDialogAnswers()
 {
     QFETCH(const QString, pressed);
     QFETCH(const QString, titleAfter);
@@ -228,7 +228,7 @@ void TestSheets::saveDialogAnswers()
     QCOMPARE(desk.model().unsavedCount(), primaryAfter == u"a.jpg"_s ? 1 : 0);
 }
 
-void TestSheets::saveDialogRemembersNotToAsk()
+void tst_Sheets::saveDialogRemembersNotToAsk()
 {
     Desk desk({ u"a.jpg"_s, u"b.jpg"_s });
     QVERIFY(desk.open());
@@ -249,7 +249,7 @@ void TestSheets::saveDialogRemembersNotToAsk()
     QVERIFY(!desk.model().saveDontAsk());
 }
 
-void TestSheets::renameBuildsAPattern()
+void tst_Sheets::renameBuildsAPattern()
 {
     Desk desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
@@ -280,7 +280,7 @@ void TestSheets::renameBuildsAPattern()
     QVERIFY(desk.photos.folder.names().contains(u"a.jpg"_s));
 }
 
-void TestSheets::renameAnswers_data()
+void tst_Sheets::renameAnswers_data()
 {
     QTest::addColumn<QString>("pressed");
     QTest::addColumn<QString>("fileName");
@@ -290,7 +290,7 @@ void TestSheets::renameAnswers_data()
     QTest::addRow("Escape") << u"Escape"_s << u"a.jpg"_s;
 }
 
-void TestSheets::renameAnswers()
+void tst_Sheets::renameAnswers()
 {
     QFETCH(const QString, pressed);
     QFETCH(const QString, fileName);
@@ -307,7 +307,7 @@ void TestSheets::renameAnswers()
     QCOMPARE(desk.photos.folder.names(), QStringList{ fileName });
 }
 
-void TestSheets::addFieldFilters_data()
+void tst_Sheets::addFieldFilters_data()
 {
     QTest::addColumn<QString>("query");
     QTest::addColumn<QStringList>("ids");
@@ -318,7 +318,7 @@ void TestSheets::addFieldFilters_data()
     QTest::addRow("none") << u"qqq"_s << QStringList();
 }
 
-void TestSheets::addFieldFilters()
+void tst_Sheets::addFieldFilters()
 {
     QFETCH(const QString, query);
     QFETCH(const QStringList, ids);
@@ -335,7 +335,7 @@ void TestSheets::addFieldFilters()
     QCOMPARE(list->shownIds().size(), desk.model().addableKnownFields().size());
 }
 
-void TestSheets::addFieldWithoutAnyLeft()
+void tst_Sheets::addFieldWithoutAnyLeft()
 {
     Desk desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
@@ -348,7 +348,7 @@ void TestSheets::addFieldWithoutAnyLeft()
     QCOMPARE(labels(list), QStringList{ u"No matching fields."_s });
 }
 
-void TestSheets::addFieldByMouseAndKeys_data()
+void tst_Sheets::addFieldByMouseAndKeys_data()
 {
     QTest::addColumn<QString>("query");
     QTest::addColumn<QList<int>>("keys");
@@ -365,7 +365,7 @@ void TestSheets::addFieldByMouseAndKeys_data()
     QTest::addRow("Escape adds none") << u"urgency"_s << QList<int>{ Qt::Key_Escape } << QString();
 }
 
-void TestSheets::addFieldByMouseAndKeys()
+void tst_Sheets::addFieldByMouseAndKeys()
 {
     QFETCH(const QString, query);
     QFETCH(const QList<int>, keys);
@@ -384,7 +384,7 @@ void TestSheets::addFieldByMouseAndKeys()
     QCOMPARE(desk.model().addOpen(), !closed);
 }
 
-void TestSheets::customNames_data()
+void tst_Sheets::customNames_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<bool>("accepted");
@@ -398,7 +398,7 @@ void TestSheets::customNames_data()
     QTest::addRow("reserved") << u"NOTES"_s << false << u"“NOTES” is a reserved word"_s;
 }
 
-void TestSheets::customNames()
+void tst_Sheets::customNames()
 {
     QFETCH(const QString, typed);
     QFETCH(const bool, accepted);
@@ -420,7 +420,7 @@ void TestSheets::customNames()
     QCOMPARE(desk.model().draftCustoms().size(), accepted ? 1 : 0);
 }
 
-void TestSheets::customFieldIsAdded()
+void tst_Sheets::customFieldIsAdded()
 {
     Desk desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
@@ -435,5 +435,5 @@ void TestSheets::customFieldIsAdded()
     QVERIFY(!desk.model().addOpen());
 }
 
-QTEST_MAIN(TestSheets)
+QTEST_MAIN(tst_Sheets)
 #include "tst_Sheets.moc"
