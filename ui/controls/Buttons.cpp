@@ -9,7 +9,6 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QVariantAnimation>
 
 namespace Quorbel {
 
@@ -72,6 +71,8 @@ QPen penOf(const ButtonLook& look)
 HoverFade::HoverFade(QWidget* widget)
     : QObject(widget)
     , m_widget(widget)
+    , m_hover(widget, Duration::hover, QEasingCurve::OutCubic)
+    , m_pressed(widget, Duration::hover, QEasingCurve::OutCubic)
 {
     widget->setAttribute(Qt::WA_Hover);
     widget->installEventFilter(this);
@@ -100,36 +101,12 @@ bool HoverFade::eventFilter(QObject* watched, QEvent* event)
 
 void HoverFade::setHover(bool on)
 {
-    animate(&HoverFade::m_hover, on ? 1 : 0);
+    m_hover.moveTo(on ? 1 : 0);
 }
 
 void HoverFade::setPressed(bool on)
 {
-    animate(&HoverFade::m_pressed, on ? 1 : 0);
-}
-
-void HoverFade::animate(qreal HoverFade::*value, qreal target)
-{
-    const QString name = value == &HoverFade::m_hover ? u"hover"_s : u"pressed"_s;
-    delete findChild<QVariantAnimation*>(name, Qt::FindDirectChildrenOnly);
-    if (this->*value == target)
-        return;
-    if (!m_widget->isVisible() || !motionEnabled(m_widget)) {
-        this->*value = target;
-        m_widget->update();
-        return;
-    }
-    auto* animation = new QVariantAnimation(this);
-    animation->setObjectName(name);
-    animation->setDuration(Duration::hover);
-    animation->setEasingCurve(QEasingCurve::OutCubic);
-    animation->setStartValue(this->*value);
-    animation->setEndValue(target);
-    connect(animation, &QVariantAnimation::valueChanged, this, [this, value](const QVariant& now) {
-        this->*value = now.toReal();
-        m_widget->update();
-    });
-    animation->start(QAbstractAnimation::DeleteWhenStopped);
+    m_pressed.moveTo(on ? 1 : 0);
 }
 
 ThemedButton::ThemedButton(const QString& text, QWidget* parent)
@@ -164,13 +141,6 @@ QBButton::QBButton(const QString& title, QBButtonKind kind, QWidget* parent)
     installFocusRing(this, { RingShape::button, 7, {}, {} });
 }
 
-void QBButton::setKind(QBButtonKind kind)
-{
-    m_kind = kind;
-    updateGeometry();
-    update();
-}
-
 void QBButton::setSidePadding(qreal points)
 {
     m_sidePadding = points;
@@ -203,12 +173,6 @@ QBIconButton::QBIconButton(const QString& icon, const QString& name, QWidget* pa
     setName(name);
     onRestyle(this, [this] { updateGeometry(); });
     installFocusRing(this, { RingShape::tight, 7, {}, {} });
-}
-
-void QBIconButton::setIconName(const QString& icon)
-{
-    m_icon = icon;
-    update();
 }
 
 void QBIconButton::setName(const QString& name)

@@ -3,6 +3,8 @@
 // Thread: the main thread. They know nothing of what they do.
 #pragma once
 
+#include "ui/controls/theme/AnimatedValue.h"
+
 #include <QAbstractButton>
 
 namespace Quorbel {
@@ -13,8 +15,8 @@ class HoverFade final : public QObject {
 
 public:
     explicit HoverFade(QWidget* widget);
-    qreal hover() const { return m_hover; }  ///< 0…1
-    qreal pressed() const { return m_pressed; }  ///< 0…1
+    qreal hover() const { return m_hover.value(); }  ///< 0…1
+    qreal pressed() const { return m_pressed.value(); }  ///< 0…1
     void setPressed(bool on);
 
 protected:
@@ -22,11 +24,10 @@ protected:
 
 private:
     void setHover(bool on);
-    void animate(qreal HoverFade::*value, qreal target);
 
     QWidget* m_widget;
-    qreal m_hover = 0;
-    qreal m_pressed = 0;
+    AnimatedValue m_hover;
+    AnimatedValue m_pressed;
 };
 
 /// What all our buttons share: hover and pressed shades, a focus ring for keyboard focus, restyling.
@@ -54,8 +55,6 @@ class QBButton final : public ThemedButton {
 
 public:
     explicit QBButton(const QString& title, QBButtonKind kind = QBButtonKind::secondary, QWidget* parent = nullptr);
-    QBButtonKind kind() const { return m_kind; }
-    void setKind(QBButtonKind kind);
     /// Points between the border and the title; 16 for primary, 14 otherwise, unless set here ("Now" takes 11).
     void setSidePadding(qreal points);
     QSize sizeHint() const override;
@@ -75,8 +74,6 @@ class QBIconButton final : public ThemedButton {
 
 public:
     QBIconButton(const QString& icon, const QString& name, QWidget* parent = nullptr);
-    void setIconName(const QString& icon);
-    const QString& iconName() const { return m_icon; }
     /// Also the tooltip.
     void setName(const QString& name);
     /// Points of the button and of the icon in it; line width in the icon's own 24×24 drawing (0: as drawn).

@@ -1,58 +1,13 @@
 #include "ui/controls/FormLabels.h"
 
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/TextLines.h"
 
 #include <QEvent>
 #include <QPainter>
-#include <QTextLayout>
+#include <QResizeEvent>
 
 namespace Quorbel {
-
-namespace {
-
-/// The text in two lines, the first of at most this width, broken between words where it can be.
-QStringList inTwoLines(const QString& text, const QFont& font, int width)
-{
-    QTextLayout layout(text, font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(width);
-    layout.endLayout();
-    const int end = line.textLength();
-    return { text.left(end).trimmed(), text.mid(end).trimmed() };
-}
-
-/// The text in lines of at most this width, broken at spaces only: names of tags stay whole.
-QStringList atSpaces(const QString& text, const QFontMetrics& metrics, int width)
-{
-    QStringList lines;
-    const QStringList words = text.split(u' ');
-    for (const QString& word : words) {
-        const QString longer = lines.isEmpty() ? word : lines.constLast() + u' ' + word;
-        if (lines.isEmpty() || metrics.horizontalAdvance(longer) > width)
-            lines.append(word);
-        else
-            lines.last() = longer;
-    }
-    return lines;
-}
-
-QStringList anywhere(const QString& text, const QFontMetrics& metrics, int width)
-{
-    QStringList lines{ QString() };
-    for (const QChar c : text) {
-        // Not between the halves of a character.
-        if (!c.isLowSurrogate() && metrics.horizontalAdvance(lines.constLast() + c) > width)
-            lines.append(QString());
-        lines.last() += c;
-    }
-    return lines;
-}
-
-}  // namespace
 
 TwoLineLabel::TwoLineLabel(TextRole role, qreal points, QWidget* parent)
     : ThemedLabel({}, role, points, QFont::Normal, parent)
@@ -79,7 +34,7 @@ void TwoLineLabel::breakText()
     const QFontMetrics metrics(font());
     m_lines = { text() };
     if (metrics.horizontalAdvance(text()) > width)
-        m_lines = inTwoLines(text(), font(), width);
+        m_lines = brokenIntoLines(text(), font(), width, LineBreaks::words, 2);
     const bool fits = metrics.horizontalAdvance(m_lines.constLast()) <= width;
     setToolTip(fits ? QString() : text());
     update();
@@ -138,12 +93,8 @@ void WrappedLine::setBreaksAnywhere(bool on)
 void WrappedLine::breakText()
 {
     const int room = qMax(px(60), width());
-    m_lines = m_breaksAnywhere ? anywhere(text(), fontMetrics(), room) : atSpaces(text(), fontMetrics(), room);
-    const int wanted = px(m_lineHeight) * qMax(1, int(m_lines.size()));
-    if (wanted != minimumHeight() || wanted != maximumHeight()) {
-        setFixedHeight(wanted);
-        updateGeometry();
-    }
+    m_lines = brokenIntoLines(text(), font(), room, m_breaksAnywhere ? LineBreaks::anywhere : LineBreaks::spaces);
+    setFixedHeight(px(m_lineHeight) * qMax(1, int(m_lines.size())));
     update();
 }
 

@@ -191,10 +191,9 @@ void KeywordEditor::setChips(const QStringList& chips)
         chip->deleteLater();
     }
     m_chips = chips;
-    for (qsizetype i = 0; i < chips.size(); ++i) {
-        m_chipWidgets.at(i)->setMaximumWidth(qMax(px(60), width() - 6));
+    for (qsizetype i = 0; i < chips.size(); ++i)
         m_chipWidgets.at(i)->setKeyword(chips.at(i), m_amber || m_edited);
-    }
+    limitChips();
     m_flow->invalidate();
     updateHeight();
 }
@@ -231,11 +230,6 @@ QLineEdit* KeywordEditor::entry() const
     return m_entry;
 }
 
-QString KeywordEditor::entryText() const
-{
-    return m_entry->text();
-}
-
 void KeywordEditor::clearEntry()
 {
     m_entry->clear();
@@ -254,11 +248,7 @@ QSize KeywordEditor::minimumSizeHint() const
 
 void KeywordEditor::updateHeight()
 {
-    const int wanted = qMax(px(30), m_flow->heightForWidth(qMax(width(), minimumSizeHint().width())));
-    if (wanted != minimumHeight() || wanted != maximumHeight()) {
-        setFixedHeight(wanted);
-        updateGeometry();
-    }
+    setFixedHeight(qMax(px(30), m_flow->heightForWidth(qMax(width(), minimumSizeHint().width()))));
     m_flow->setGeometry(rect());
 }
 
@@ -267,9 +257,15 @@ void KeywordEditor::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     if (event->oldSize().width() == width())
         return;
+    limitChips();
+    updateHeight();
+}
+
+/// No chip is wider than a line.
+void KeywordEditor::limitChips()
+{
     for (KeywordChip* chip : std::as_const(m_chipWidgets))
         chip->setMaximumWidth(qMax(px(60), width() - 6));
-    updateHeight();
 }
 
 void KeywordEditor::paintEvent(QPaintEvent*)
@@ -329,17 +325,9 @@ bool KeywordEditor::entryKey(QKeyEvent* event)
         commit();
         return true;
     case Qt::Key_Backspace:
-        if (m_entry->text().isEmpty() && !m_chipWidgets.isEmpty()) {
-            focusChip(int(m_chipWidgets.size()) - 1);
-            return true;
-        }
-        return false;
+        return m_entry->text().isEmpty() && focusLastChip();
     case Qt::Key_Left:
-        if (atStart && !m_chipWidgets.isEmpty()) {
-            focusChip(int(m_chipWidgets.size()) - 1);
-            return true;
-        }
-        return false;
+        return atStart && focusLastChip();
     default:
         return false;
     }
@@ -383,6 +371,14 @@ void KeywordEditor::focusChip(int index)
         m_chipWidgets.at(index)->setFocus(Qt::OtherFocusReason);
     else
         m_entry->setFocus(Qt::OtherFocusReason);
+}
+
+bool KeywordEditor::focusLastChip()
+{
+    if (m_chipWidgets.isEmpty())
+        return false;
+    focusChip(int(m_chipWidgets.size()) - 1);
+    return true;
 }
 
 void KeywordEditor::removeChip(int index)

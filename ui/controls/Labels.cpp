@@ -56,6 +56,13 @@ void ThemedLabel::restyle()
     updateGeometry();
 }
 
+ThemedLabel* ThemedLabel::wrapped(const QString& text, TextRole role, qreal points, QFont::Weight weight)
+{
+    auto* label = new ThemedLabel(text, role, points, weight);
+    label->setWordWrap(true);
+    return label;
+}
+
 void ThemedLabel::setRole(TextRole role)
 {
     if (role == m_role)
@@ -133,13 +140,6 @@ SectionHeader::SectionHeader(const QString& title, bool muted, const QString& tr
     setAccessibleName(title);
     setAccessibleDescription(trailingNote);
     onRestyle(this, [this] { updateGeometry(); });
-}
-
-void SectionHeader::setTrailingNote(const QString& note)
-{
-    m_note = note;
-    setAccessibleDescription(note);
-    update();
 }
 
 QSize SectionHeader::sizeHint() const

@@ -4,8 +4,6 @@
 
 #include <QWidget>
 
-class QScrollArea;
-
 namespace Quorbel {
 
 class AppModel;
@@ -13,6 +11,7 @@ class InspectorFooter;
 class InspectorForm;
 class MapRenderer;
 class PlaceProvider;
+class ScrollArea;
 class ThemedLabel;
 class ThumbnailStore;
 
@@ -41,7 +40,7 @@ private:
     void focusField(const QString& id);
 
     AppModel& m_model;
-    QScrollArea* m_scroll;
+    ScrollArea* m_scroll;
     InspectorForm* m_form;
     ThemedLabel* m_nothing;
     InspectorFooter* m_footer;

@@ -7,8 +7,6 @@
 
 #include <functional>
 
-class QHBoxLayout;
-
 namespace Quorbel {
 
 class QBButton;
@@ -30,7 +28,7 @@ signals:
     void answered(qsizetype button);
 
 private:
-    void addButtons(QHBoxLayout* line, const QStringList& buttons);
+    QList<QBButton*> makeButtons(const QStringList& titles);
 
     qsizetype m_last;
 };

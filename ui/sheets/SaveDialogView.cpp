@@ -3,16 +3,14 @@
 #include "app/model/AppModel.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/ScrollArea.h"
 #include "ui/controls/Toggles.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
-#include "ui/controls/theme/Painting.h"
 #include "ui/sheets/SheetParts.h"
 
 #include <QGridLayout>
 #include <QPainter>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace Quorbel {
@@ -22,8 +20,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Points.
-constexpr qreal sheetWidth = 470;
-constexpr qreal padding = 24;
 constexpr qreal tileGap = 16;
 constexpr qreal messageGap = 5;
 constexpr qreal listGap = 14;
@@ -46,12 +42,8 @@ public:
     {
         m_grid->setColumnStretch(1, 1);
         for (int i = 0; i < int(lines.size()); ++i) {
-            auto* label = new ThemedLabel(lines.at(i).label, TextRole::label, 13);
-            auto* value = new ThemedLabel(lines.at(i).value, TextRole::text, 13);
-            label->setWordWrap(true);
-            value->setWordWrap(true);
-            m_grid->addWidget(label, i, 0, Qt::AlignTop);
-            m_grid->addWidget(value, i, 1, Qt::AlignTop);
+            m_grid->addWidget(ThemedLabel::wrapped(lines.at(i).label, TextRole::label, 13), i, 0, Qt::AlignTop);
+            m_grid->addWidget(ThemedLabel::wrapped(lines.at(i).value, TextRole::text, 13), i, 1, Qt::AlignTop);
         }
         onRestyle(this, [this] {
             m_grid->setContentsMargins(px(changeSide), px(changeAbove), px(changeSide), px(changeAbove));
@@ -75,20 +67,14 @@ private:
 };
 
 /// A framed list as high as its content, up to a limit beyond which it scrolls.
-class ChangeList final : public QScrollArea {
+class ChangeList final : public ScrollArea {
 public:
     explicit ChangeList(const QList<ChangeLine>& lines)
     {
-        setFrameShape(QFrame::NoFrame);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setWidgetResizable(true);
-        setViewportMargins(1, 1, 1, 1);
-        viewport()->setAutoFillBackground(false);
-        setWidget(new ChangeTable(lines));
-        widget()->setAutoFillBackground(false);
+        setFramed(true);
+        setContent(new ChangeTable(lines));
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         setAccessibleName(u"Changes"_s);
-        OverlayScrollBar::attach(this);
         // Only a list that scrolls needs the keyboard.
         setFocusPolicy(sizeHint().height() < contentHeight() ? Qt::TabFocus : Qt::NoFocus);
         installFocusRing(this, { RingShape::tight, 7, {}, {} });
@@ -97,20 +83,8 @@ public:
     QSize sizeHint() const override { return { listWidth(), qMin(px(mostListHeight), contentHeight()) }; }
     QSize minimumSizeHint() const override { return sizeHint(); }
 
-protected:
-    bool event(QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint) {
-            const Theme& theme = Theme::of(this);
-            QPainter painter(this);
-            paintBox(painter, rect(), pxF(7), theme.field, QPen(theme.line, 1));
-            return true;
-        }
-        return QScrollArea::event(event);
-    }
-
 private:
-    static int listWidth() { return px(sheetWidth - 2 * padding - 46 - tileGap); }
+    static int listWidth() { return px(sheetWidth - 2 * sheetPadding - SymbolTile::side - tileGap); }
     int contentHeight() const { return widget()->heightForWidth(listWidth() - 2) + 2; }
 };
 
@@ -130,9 +104,8 @@ SaveDialogView::SaveDialogView(AppModel& model, QWidget* parent)
     column->addLayout(line);
     QHBoxLayout* buttons = sheetButtonRow(this, buildButtons());
     column->addLayout(buttons);
-    onRestyle(this, [this, column, line] {
-        setFixedWidth(px(sheetWidth));
-        column->setContentsMargins(px(padding), px(padding), px(padding), px(padding));
+    frameSheet(this, column);
+    onRestyle(this, [column, line] {
         column->setSpacing(px(buttonsAbove));
         line->setSpacing(px(tileGap));
     });
@@ -141,10 +114,8 @@ SaveDialogView::SaveDialogView(AppModel& model, QWidget* parent)
 QVBoxLayout* SaveDialogView::buildTexts()
 {
     auto* texts = new QVBoxLayout;
-    auto* title = new ThemedLabel(titleText(m_model), TextRole::text, 15, QFont::DemiBold);
-    auto* message = new ThemedLabel(messageText(m_model), TextRole::label, 13);
-    title->setWordWrap(true);
-    message->setWordWrap(true);
+    auto* title = ThemedLabel::wrapped(titleText(m_model), TextRole::text, 15, QFont::DemiBold);
+    auto* message = ThemedLabel::wrapped(messageText(m_model), TextRole::label, 13);
     QWidget* changes = buildChanges();
     buildCheckbox();
     QList<SheetPart> parts{ { title, messageGap }, { message, listGap } };

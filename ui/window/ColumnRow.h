@@ -2,9 +2,9 @@
 // Thread: the main thread. Knows nothing of what the columns show; it gives them their widths.
 #pragma once
 
-#include <QWidget>
+#include "ui/controls/theme/AnimatedValue.h"
 
-class QVariantAnimation;
+#include <QWidget>
 
 namespace Quorbel {
 
@@ -53,10 +53,9 @@ private:
     ResizeHandle* m_handle;
     QWidget* m_inspector;
     QWidget* m_preview;
-    QVariantAnimation* m_slide;
     bool m_wanted = true;
     bool m_wasShown = false;
-    qreal m_reveal = 0;  ///< 0 the preview is away … 1 it is there, while it slides
+    AnimatedValue m_reveal;  ///< 0 the preview is away … 1 it is there, while it slides
 };
 
 }  // namespace Quorbel

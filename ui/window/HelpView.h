@@ -2,16 +2,14 @@
 #pragma once
 
 #include "ui/window/HelpTopics.h"
-
-#include <QWidget>
-
-class QScrollArea;
+#include "ui/window/SideWindow.h"
 
 namespace Quorbel {
 
+class ScrollArea;
 class TopicList;
 
-class HelpView final : public QWidget {
+class HelpView final : public SideWindow {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(HelpView)
 
@@ -22,7 +20,6 @@ public:
     void setSelection(HelpTopic topic);
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -31,7 +28,7 @@ private:
 
     HelpTopic m_selection = HelpTopic::gettingStarted;
     TopicList* m_topics;
-    QScrollArea* m_page;
+    ScrollArea* m_page;
 };
 
 }  // namespace Quorbel

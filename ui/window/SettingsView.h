@@ -2,7 +2,7 @@
 // Each control shows its preference and writes it at once; there is nothing to apply.
 #pragma once
 
-#include <QWidget>
+#include "ui/window/SideWindow.h"
 
 class QVBoxLayout;
 
@@ -10,7 +10,7 @@ namespace Quorbel {
 
 class AppModel;
 
-class SettingsView final : public QWidget {
+class SettingsView final : public SideWindow {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(SettingsView)
 
@@ -19,7 +19,6 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
