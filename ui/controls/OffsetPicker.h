@@ -14,7 +14,6 @@ class OffsetPicker final : public ThemedButton {
 
 public:
     OffsetPicker(const QStringList& offsets, const QString& blank, QWidget* parent = nullptr);
-    const QString& value() const { return m_value; }
     /// Shows a value, among the offsets or not; emits nothing.
     void setValue(const QString& value);
     void setEdited(bool edited);

@@ -14,7 +14,6 @@ class BatchBanner final : public QWidget {
 public:
     explicit BatchBanner(QWidget* parent = nullptr);
     void setCount(qsizetype photos);
-    const QString& title() const { return m_title; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 

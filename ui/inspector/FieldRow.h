@@ -30,8 +30,6 @@ public:
     const FieldRowState& state() const { return m_state; }
     /// The part of the editor that takes the keyboard.
     QWidget* input() const { return m_editor.input; }
-    QBCheckbox* tick() const { return m_tick; }  ///< null until the row was in a batch
-    QBIconButton* removeButton() const { return m_remove; }  ///< null until the row was removable
     /// What takes Tab, in order.
     QList<QWidget*> tabStops() const;
     /// Where the edited dot goes: the middle of the label's first line, from the row's top.
@@ -60,8 +58,8 @@ private:
     QHBoxLayout* m_line;
     QVBoxLayout* m_column;
     TwoLineLabel* m_label;
-    QBCheckbox* m_tick = nullptr;
-    QBIconButton* m_remove = nullptr;
+    QBCheckbox* m_tick = nullptr;  ///< until the row was in a batch
+    QBIconButton* m_remove = nullptr;  ///< until the row was removable
     WrappedLine* m_namespace = nullptr;
     WrappedLine* m_help = nullptr;
 };

@@ -176,11 +176,6 @@ FieldRow* InspectorForm::row(const QString& id) const
     return found && !found->isHidden() ? found : nullptr;
 }
 
-FieldRow* InspectorForm::customRow(const QString& name) const
-{
-    return row(CustomFields::key(name));
-}
-
 FieldRow* InspectorForm::makeRow(const QString& key, const FieldRowParts& parts)
 {
     auto* row = new FieldRow(parts, this);

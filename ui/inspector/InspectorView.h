@@ -26,8 +26,6 @@ public:
 
     /// Keeps this many pixels free below the last row, so that the form scrolls clear of what is laid over it.
     void setBottomInset(int pixels);
-    InspectorForm* form() const { return m_form; }
-    InspectorFooter* footer() const { return m_footer; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -29,9 +29,56 @@ constexpr qreal changeSide = 12;
 constexpr qreal changeAbove = 6;
 constexpr qreal mostListHeight = 190;
 
+/// What a batch write will change in one field.
+struct ChangeLine {
+    QString label{};
+    QString value{};
+};
+
 bool isSingle(const AppModel& model)
 {
     return model.selection().size() == 1;
+}
+
+QString titleText(const AppModel& model)
+{
+    if (!isSingle(model))
+        return u"Apply changes to %1 photos?"_s.arg(model.selection().size());
+    const ImageRecord* record = model.primaryRecord();
+    return u"Save changes to “"_s + (record ? record->fileName : QString()) + u"”?"_s;
+}
+
+/// Scalar fields by id, then lists by id. Empty for one photo.
+QList<ChangeLine> changeLines(const AppModel& model)
+{
+    if (isSingle(model))
+        return {};
+    QList<ChangeLine> lines;
+    QStringList ids = model.batchInclude().values();
+    ids.sort();
+    for (const QString& id : std::as_const(ids))
+        if (const FieldSpec* field = FieldSchema::spec(id); field && !field->isList())
+            lines.append({ field->label, u'“' + model.batchValues().value(id) + u'”' });
+    const QMap<QString, QStringList> lists = model.nonEmptyBatchLists();
+    for (auto list = lists.cbegin(); list != lists.cend(); ++list)
+        if (const FieldSpec* field = FieldSchema::spec(list.key()))
+            lines.append({ field->label, list.value().join(u", "_s) });
+    return lines;
+}
+
+QString messageText(const AppModel& model)
+{
+    if (isSingle(model)) {
+        const int count = model.unsavedCount();
+        return u"You edited %1 field%2. Your changes will be lost if you don’t save them."_s.arg(count).arg(
+            count == 1 ? QString() : u"s"_s);
+    }
+    QStringList labels;
+    for (const ChangeLine& line : changeLines(model))
+        labels.append(line.label);
+    const QString fields = labels.isEmpty() ? u"the selected fields"_s : labels.join(u", "_s);
+    return u"This will modify %1 on %2 files. This can’t be undone."_s.arg(
+        fields, QString::number(model.selection().size()));
 }
 
 /// The rows of the change list, with a hairline between them.
@@ -179,46 +226,6 @@ void SaveDialogView::cancel()
 QWidget* SaveDialogView::initialFocus()
 {
     return m_confirm;
-}
-
-QString SaveDialogView::titleText(const AppModel& model)
-{
-    if (!isSingle(model))
-        return u"Apply changes to %1 photos?"_s.arg(model.selection().size());
-    const ImageRecord* record = model.primaryRecord();
-    return u"Save changes to “"_s + (record ? record->fileName : QString()) + u"”?"_s;
-}
-
-QString SaveDialogView::messageText(const AppModel& model)
-{
-    if (isSingle(model)) {
-        const int count = model.unsavedCount();
-        return u"You edited %1 field%2. Your changes will be lost if you don’t save them."_s.arg(count).arg(
-            count == 1 ? QString() : u"s"_s);
-    }
-    QStringList labels;
-    for (const ChangeLine& line : changeLines(model))
-        labels.append(line.label);
-    const QString fields = labels.isEmpty() ? u"the selected fields"_s : labels.join(u", "_s);
-    return u"This will modify %1 on %2 files. This can’t be undone."_s.arg(
-        fields, QString::number(model.selection().size()));
-}
-
-QList<ChangeLine> SaveDialogView::changeLines(const AppModel& model)
-{
-    if (isSingle(model))
-        return {};
-    QList<ChangeLine> lines;
-    QStringList ids = model.batchInclude().values();
-    ids.sort();
-    for (const QString& id : std::as_const(ids))
-        if (const FieldSpec* field = FieldSchema::spec(id); field && !field->isList())
-            lines.append({ field->label, u'“' + model.batchValues().value(id) + u'”' });
-    const QMap<QString, QStringList> lists = model.nonEmptyBatchLists();
-    for (auto list = lists.cbegin(); list != lists.cend(); ++list)
-        if (const FieldSpec* field = FieldSchema::spec(list.key()))
-            lines.append({ field->label, list.value().join(u", "_s) });
-    return lines;
 }
 
 }  // namespace Quorbel

@@ -14,12 +14,13 @@ namespace {
 constexpr int previewShare = 375;
 constexpr int greatestInspector = 520;
 
-}  // namespace
-
-int Columns::inspectorWidth(int width, int sidebar, int handle)
+/// The inspector's beside a shown preview, for a row `width` wide.
+int inspectorWidth(int width, int sidebar, int handle)
 {
-    return qBound(minInspector, width - sidebar - handle - previewShare, greatestInspector);
+    return qBound(Columns::minInspector, width - sidebar - handle - previewShare, greatestInspector);
 }
+
+}  // namespace
 
 ColumnRow::ColumnRow(QWidget* sidebar, QWidget* inspector, QWidget* preview, double sidebarWidth, QWidget* parent)
     : QWidget(parent)
@@ -87,7 +88,7 @@ void ColumnRow::arrange()
     const int sidebar = qRound(sidebarWidth());
     const int left = sidebar + handle;
     const int rest = width() - left;
-    const int beside = Columns::inspectorWidth(width(), sidebar, handle);
+    const int beside = inspectorWidth(width(), sidebar, handle);
     const int inspector = qRound(rest + (beside - rest) * m_reveal.value());
     m_sidebar->setGeometry(0, 0, sidebar, height());
     m_handle->setGeometry(sidebar, 0, handle, height());

@@ -204,13 +204,13 @@ HelpView::HelpView(QWidget* parent)
     describeAs(staticMetaObject, QAccessible::Window);
     connect(m_topics, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0)
-            setSelection(allCases<HelpTopic>().at(row));
+            select(allCases<HelpTopic>().at(row));
     });
     onRestyle(this, [this] { setMinimumSize(px(smallestWindow.width()), px(smallestWindow.height())); });
     showTopic();
 }
 
-void HelpView::setSelection(HelpTopic topic)
+void HelpView::select(HelpTopic topic)
 {
     if (topic == m_selection)
         return;

@@ -16,14 +16,12 @@ class HelpView final : public SideWindow {
 public:
     explicit HelpView(QWidget* parent = nullptr);
 
-    HelpTopic selection() const { return m_selection; }
-    void setSelection(HelpTopic topic);
-
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void select(HelpTopic topic);
     void showTopic();
 
     HelpTopic m_selection = HelpTopic::gettingStarted;

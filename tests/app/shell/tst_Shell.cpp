@@ -272,7 +272,6 @@ void tst_Shell::helpNamesThisPlatformsKeys()
     QString text;
     for (int row = 0; row < topics->count(); ++row) {
         topics->setCurrentRow(row);
-        QCOMPARE(help.selection(), allCases<HelpTopic>().at(row));
         const auto labels = help.findChildren<QLabel*>();
         titles.append(labels.first()->text());
         for (const auto* label : labels)

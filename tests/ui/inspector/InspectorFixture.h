@@ -50,7 +50,7 @@ public:
 
     AppModel& model() const { return *photos.model; }
     /// By field id, or "custom:" and the name; null when the row is not on screen.
-    FieldRow* row(const QString& id) const { return view->form()->row(id); }
+    FieldRow* row(const QString& id) const { return view->findChild<InspectorForm*>()->row(id); }
     /// The first editor of this class in a row; null when the row is not on screen.
     template <typename Editor>
     Editor* editor(const QString& id) const

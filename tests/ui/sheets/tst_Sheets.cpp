@@ -20,8 +20,8 @@ using namespace Quorbel::Test;
 namespace {
 
 /// A model with photos in its folder, and a window for its sheets.
-struct Desk {
-    explicit Desk(const QStringList& names)
+struct SheetFixture {
+    explicit SheetFixture(const QStringList& names)
     {
         photos.addTitled(names);
         window.resize(700, 800);
@@ -46,20 +46,6 @@ struct Desk {
     SheetHost* host = new SheetHost(&window);
 };
 
-QAbstractButton* button(const QWidget* sheet, const QString& title)
-{
-    for (auto* candidate : sheet->findChildren<QAbstractButton*>())
-        if (candidate->isVisible() && candidate->text() == title)
-            return candidate;
-    return nullptr;
-}
-
-void click(QAbstractButton* target)
-{
-    QVERIFY(target);
-    QTest::mouseClick(target, Qt::LeftButton);
-}
-
 QStringList titles(const QWidget* sheet)
 {
     QStringList found;
@@ -67,15 +53,6 @@ QStringList titles(const QWidget* sheet)
         if (candidate->isVisible())
             found.append(candidate->text());
     return found;
-}
-
-QStringList labels(const QWidget* sheet)
-{
-    QStringList texts;
-    for (const QLabel* label : sheet->findChildren<QLabel*>())
-        if (label->isVisible() && !label->text().isEmpty())
-            texts.append(label->text());
-    return texts;
 }
 
 QBTextField* field(const QWidget* sheet, const QString& name)
@@ -138,7 +115,7 @@ void tst_Sheets::saveDialogOfOnePhoto()
 {
     QFETCH(const QStringList, fields);
     QFETCH(const QString, message);
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     for (const QString& id : fields)
         desk.model().setSingle(id, u"x"_s);
@@ -179,7 +156,7 @@ void tst_Sheets::saveDialogOfSeveral()
     QFETCH(const Values, values);
     QFETCH(const QStringList, keywords);
     QFETCH(const QStringList, texts);
-    Desk desk({ u"a.jpg"_s, u"b.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s, u"b.jpg"_s });
     QVERIFY(desk.open());
     desk.model().selectAllPhotos();
     for (auto value = values.cbegin(); value != values.cend(); ++value) {
@@ -211,7 +188,7 @@ void tst_Sheets::saveDialogAnswers()
     QFETCH(const QString, pressed);
     QFETCH(const QString, titleAfter);
     QFETCH(const QString, primaryAfter);
-    Desk desk({ u"a.jpg"_s, u"b.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s, u"b.jpg"_s });
     QVERIFY(desk.open());
     desk.model().setSingle(u"title"_s, u"Edited"_s);
     desk.photos.click(u"b.jpg"_s);
@@ -230,7 +207,7 @@ void tst_Sheets::saveDialogAnswers()
 
 void tst_Sheets::saveDialogRemembersNotToAsk()
 {
-    Desk desk({ u"a.jpg"_s, u"b.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s, u"b.jpg"_s });
     QVERIFY(desk.open());
     auto* one = qobject_cast<QBCheckbox*>(button(desk.present<SaveDialogView>(), u"Save and don’t ask again"_s));
     QVERIFY(one && !one->isChecked());
@@ -251,7 +228,7 @@ void tst_Sheets::saveDialogRemembersNotToAsk()
 
 void tst_Sheets::renameBuildsAPattern()
 {
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     desk.model().setSingle(u"title"_s, u"Last light"_s);
     desk.model().setSingle(u"creator"_s, u"Mara"_s);
@@ -294,7 +271,7 @@ void tst_Sheets::renameAnswers()
 {
     QFETCH(const QString, pressed);
     QFETCH(const QString, fileName);
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     desk.model().setRenamePattern(u"dusk"_s);
     desk.model().setRenameOpen(true);
@@ -322,7 +299,7 @@ void tst_Sheets::addFieldFilters()
 {
     QFETCH(const QString, query);
     QFETCH(const QStringList, ids);
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     auto* sheet = desk.present<AddFieldSheet>();
     const auto* list = sheet->findChild<AddableFieldList*>();
@@ -337,7 +314,7 @@ void tst_Sheets::addFieldFilters()
 
 void tst_Sheets::addFieldWithoutAnyLeft()
 {
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     for (const FieldSpec& spec : desk.model().addableKnownFields())
         desk.model().addKnownField(spec.id);
@@ -370,7 +347,7 @@ void tst_Sheets::addFieldByMouseAndKeys()
     QFETCH(const QString, query);
     QFETCH(const QList<int>, keys);
     QFETCH(const QString, added);
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     desk.model().setAddOpen(true);
     auto* sheet = desk.present<AddFieldSheet>();
@@ -403,7 +380,7 @@ void tst_Sheets::customNames()
     QFETCH(const QString, typed);
     QFETCH(const bool, accepted);
     QFETCH(const QString, said);
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     auto* sheet = desk.present<AddFieldSheet>();
     auto* name = field(sheet, u"Name"_s);
@@ -422,7 +399,7 @@ void tst_Sheets::customNames()
 
 void tst_Sheets::customFieldIsAdded()
 {
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     desk.model().setAddOpen(true);
     auto* sheet = desk.present<AddFieldSheet>();
