@@ -1,6 +1,7 @@
 #include "ui/controls/Buttons.h"
 
 #include "ui/controls/Accessibility.h"
+#include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
@@ -67,47 +68,6 @@ QPen penOf(const ButtonLook& look)
 }
 
 }  // namespace
-
-HoverFade::HoverFade(QWidget* widget)
-    : QObject(widget)
-    , m_widget(widget)
-    , m_hover(widget, Duration::hover, QEasingCurve::OutCubic)
-    , m_pressed(widget, Duration::hover, QEasingCurve::OutCubic)
-{
-    widget->setAttribute(Qt::WA_Hover);
-    widget->installEventFilter(this);
-}
-
-bool HoverFade::eventFilter(QObject* watched, QEvent* event)
-{
-    switch (event->type()) {
-    case QEvent::Enter:
-        setHover(m_widget->isEnabled());
-        break;
-    case QEvent::Leave:
-    case QEvent::Hide:
-        setHover(false);
-        break;
-    case QEvent::EnabledChange:
-        setHover(m_widget->isEnabled() && m_widget->underMouse());
-        if (!m_widget->isEnabled())
-            setPressed(false);
-        break;
-    default:
-        break;
-    }
-    return QObject::eventFilter(watched, event);
-}
-
-void HoverFade::setHover(bool on)
-{
-    m_hover.moveTo(on ? 1 : 0);
-}
-
-void HoverFade::setPressed(bool on)
-{
-    m_pressed.moveTo(on ? 1 : 0);
-}
 
 ThemedButton::ThemedButton(const QString& text, QWidget* parent)
     : QAbstractButton(parent)

@@ -3,6 +3,7 @@
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FlowLayout.h"
+#include "ui/controls/HoverFade.h"
 #include "ui/controls/SuggestionList.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/theme/FocusRing.h"

@@ -1,5 +1,6 @@
 #include "ui/controls/OffsetPicker.h"
 
+#include "ui/controls/HoverFade.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"

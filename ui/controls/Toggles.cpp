@@ -1,6 +1,7 @@
 #include "ui/controls/Toggles.h"
 
 #include "ui/controls/Accessibility.h"
+#include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ui/controls/Buttons.h"
+#include "ui/controls/theme/AnimatedValue.h"
 
 #include <QStringList>
 

@@ -4,8 +4,6 @@
 #pragma once
 
 #include "core/schema/FieldSchema.h"
-#include "core/schema/ImageRecord.h"
-#include "platform/places/map/MapRenderer.h"
 
 #include <QHash>
 #include <QSet>
@@ -25,8 +23,11 @@ class CameraSection;
 class FieldRow;
 class FormSection;
 class LocationMap;
+class MapRenderer;
 class PhotoHeader;
+class PlaceProvider;
 class ThumbnailStore;
+struct CustomValue;
 struct FieldRowParts;
 
 class InspectorForm final : public QWidget {

@@ -1,6 +1,7 @@
 #include "ui/sheets/AddableFieldList.h"
 
 #include "ui/controls/Buttons.h"
+#include "ui/controls/HoverFade.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
