@@ -9,18 +9,43 @@
 
 namespace Quorbel {
 
-TwoLineLabel::TwoLineLabel(TextRole role, qreal points, QWidget* parent)
-    : ThemedLabel({}, role, points, QFont::Normal, parent)
-    , m_points(points)
-{
-}
-
-void TwoLineLabel::setText(const QString& text)
+void BrokenLabel::setText(const QString& text)
 {
     if (text == this->text())
         return;
     ThemedLabel::setText(text);
     breakText();
+}
+
+void BrokenLabel::paintLines(QRect box)
+{
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::WindowText));
+    for (const QString& line : std::as_const(m_lines)) {
+        painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+            fontMetrics().elidedText(line, Qt::ElideRight, box.width()));
+        box.translate(0, box.height());
+    }
+}
+
+void BrokenLabel::resizeEvent(QResizeEvent* event)
+{
+    ThemedLabel::resizeEvent(event);
+    if (event->oldSize().width() != width())
+        breakText();
+}
+
+bool BrokenLabel::event(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        breakText();
+    return ThemedLabel::event(event);
+}
+
+TwoLineLabel::TwoLineLabel(TextRole role, qreal points, QWidget* parent)
+    : BrokenLabel({}, role, points, QFont::Normal, parent)
+    , m_points(points)
+{
 }
 
 QSize TwoLineLabel::minimumSizeHint() const
@@ -40,47 +65,19 @@ void TwoLineLabel::breakText()
     update();
 }
 
-bool TwoLineLabel::event(QEvent* event)
-{
-    if (event->type() == QEvent::FontChange)
-        breakText();
-    return ThemedLabel::event(event);
-}
-
-void TwoLineLabel::resizeEvent(QResizeEvent* event)
-{
-    ThemedLabel::resizeEvent(event);
-    breakText();
-}
-
 void TwoLineLabel::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
-    painter.setPen(palette().color(QPalette::WindowText));
     const QRect box = contentsRect();
     const int height = px(m_points + 2);
-    int top = box.top() + (box.height() - height * int(m_lines.size())) / 2;
-    for (const QString& line : std::as_const(m_lines)) {
-        const QString shown = fontMetrics().elidedText(line, Qt::ElideRight, box.width());
-        painter.drawText(QRect(box.left(), top, box.width(), height),
-            Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip, shown);
-        top += height;
-    }
+    const int top = box.top() + (box.height() - height * int(m_lines.size())) / 2;
+    paintLines({ box.left(), top, box.width(), height });
 }
 
 WrappedLine::WrappedLine(TextRole role, qreal points, qreal lineHeight, QWidget* parent)
-    : ThemedLabel({}, role, points, QFont::Normal, parent)
+    : BrokenLabel({}, role, points, QFont::Normal, parent)
     , m_lineHeight(lineHeight)
 {
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    breakText();
-}
-
-void WrappedLine::setText(const QString& text)
-{
-    if (text == this->text())
-        return;
-    ThemedLabel::setText(text);
     breakText();
 }
 
@@ -98,31 +95,9 @@ void WrappedLine::breakText()
     update();
 }
 
-void WrappedLine::resizeEvent(QResizeEvent* event)
-{
-    ThemedLabel::resizeEvent(event);
-    if (event->oldSize().width() != width())
-        breakText();
-}
-
-bool WrappedLine::event(QEvent* event)
-{
-    if (event->type() == QEvent::FontChange)
-        breakText();
-    return ThemedLabel::event(event);
-}
-
 void WrappedLine::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
-    painter.setPen(palette().color(QPalette::WindowText));
-    int top = 0;
-    for (const QString& line : std::as_const(m_lines)) {
-        painter.drawText(QRect(0, top, width(), px(m_lineHeight)),
-            Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
-            fontMetrics().elidedText(line, Qt::ElideRight, width()));
-        top += px(m_lineHeight);
-    }
+    paintLines({ 0, 0, width(), px(m_lineHeight) });
 }
 
 }  // namespace Quorbel

@@ -112,8 +112,7 @@ void ErrorBanner::place(int bottom)
     const int width = qMin(px(widest), parentWidget()->width() - 2 * px(20));
     const int textWidth = width - px(leftPadding + iconSize + gap + gap + crossSize + rightPadding);
     m_lines = brokenIntoLines(message(), sansFont(13), textWidth, LineBreaks::words, mostLines);
-    if (!m_lines.isEmpty())
-        m_lines.last() = QFontMetrics(sansFont(13)).elidedText(m_lines.constLast(), Qt::ElideRight, textWidth);
+    m_lines.last() = QFontMetrics(sansFont(13)).elidedText(m_lines.constLast(), Qt::ElideRight, textWidth);
     const int textHeight = int(m_lines.size()) * QFontMetrics(sansFont(13)).lineSpacing();
     const int height = qMax(textHeight, px(18)) + 2 * px(verticalPadding);
     setGeometry((parentWidget()->width() - width) / 2, bottom - height, width, height);

@@ -200,7 +200,7 @@ private slots:
         QFETCH(LineBreaks, breaks);
         QFETCH(int, most);
         const QFont font = monoFont(13);
-        const int width = QFontMetrics(font).horizontalAdvance(u"aaaaaaaa"_s);
+        const int width = QFontMetrics(font).horizontalAdvance(u"aaaaaaaa"_s) + 4;  // and less than another letter
         QTEST(brokenIntoLines(text, font, width, breaks, most), "lines");
     }
 

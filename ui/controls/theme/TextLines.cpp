@@ -15,7 +15,7 @@ QStringList atWords(const QString& text, const QFont& font, int width, int most)
         lines.append(text.mid(line.textStart(), isLast ? -1 : line.textLength()).trimmed());
         return !isLast;
     });
-    return lines;
+    return lines.isEmpty() ? QStringList(QString()) : lines;
 }
 
 QStringList atSpaces(const QString& text, const QFontMetrics& metrics, int width, int most)

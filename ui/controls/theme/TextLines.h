@@ -17,8 +17,8 @@ enum class LineBreaks {
     anywhere,  ///< between any two letters
 };
 
-/// The text in lines of at most this width. The last of `most` lines holds all the rest, however long: whoever paints
-/// it elides it.
+/// The text in lines of at most this width; never without a line. The last of `most` lines holds all the rest, however
+/// long: whoever paints it elides it.
 QStringList brokenIntoLines(const QString& text, const QFont& font, int width, LineBreaks breaks, int most = INT_MAX);
 
 /// Lays the text out and hands over each line that is as wide as `width` allows, until `use` returns false.
