@@ -55,7 +55,7 @@ void MessageSheet::cancel()
 }
 
 void presentMessage(SheetHost& host, const QString& icon, const QString& message, const QString& informativeText,
-    const QStringList& buttons, std::function<void(qsizetype)> answered)
+    const QStringList& buttons, const std::function<void(qsizetype)>& answered)
 {
     auto* sheet = new MessageSheet(icon, message, informativeText, buttons);
     QObject::connect(sheet, &MessageSheet::answered, &host, [&host, sheet, answered](qsizetype button) {

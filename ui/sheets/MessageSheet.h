@@ -36,6 +36,6 @@ private:
 class SheetHost;
 /// Presents a message and dismisses it with its answer, which is then handed to `answered` (may be empty).
 void presentMessage(SheetHost& host, const QString& icon, const QString& message, const QString& informativeText,
-    const QStringList& buttons, std::function<void(qsizetype)> answered);
+    const QStringList& buttons, const std::function<void(qsizetype)>& answered);
 
 }  // namespace Quorbel

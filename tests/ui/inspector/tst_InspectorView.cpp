@@ -549,7 +549,7 @@ void tst_InspectorView::tabGoesFromTopToBottom()
     f.model().addKnownField(u"country"_s);
     f.model().addCustomField(u"Mood"_s, u"calm"_s);
     f.model().setSingle(u"title"_s, u"T"_s);
-    f.settle();
+    InspectorFixture::settle();
     QCOMPARE(tabStopsFrom(f.editor<QBTextField>(u"title"_s)),
         QStringList({ u"Title"_s, u"Description"_s, u"Date taken"_s, u"Now"_s, u"Keywords"_s, u"Creator"_s,
             u"Copyright"_s, u"Place"_s, u"Coordinates"_s, u"Country"_s, u"Remove this field"_s,
@@ -557,12 +557,12 @@ void tst_InspectorView::tabGoesFromTopToBottom()
     // The ticks of several photos come and go, and photos bring rows that others do not have.
     f.model().discardSaveDialog();
     f.model().selectAllPhotos();
-    f.settle();
+    InspectorFixture::settle();
     QCOMPARE(tabStopsFrom(tick(f, u"title"_s)).mid(0, 7),
         QStringList({ u"Write Title to all selected files"_s, u"Title"_s, u"Write Description to all selected files"_s,
             u"Description"_s, u"Write Date taken to all selected files"_s, u"Date taken"_s, u"Now"_s }));
     f.click(u"b.jpg"_s);
-    f.settle();
+    InspectorFixture::settle();
     QCOMPARE(tabStopsFrom(f.editor<QBTextField>(u"title"_s)),
         QStringList({ u"Title"_s, u"Description"_s, u"Date taken"_s, u"Now"_s, u"Keywords"_s, u"Creator"_s,
             u"Copyright"_s, u"Place"_s, u"Coordinates"_s, u"Add field"_s }));
