@@ -1,10 +1,24 @@
 // Every control in every state, for looking at while one works on it. Not installed.
 // gallery [--dark] shows a window; gallery --grab FILE.png [--dark] [--scale 2] draws the same into a file, off screen.
-#include "ui/controls/Components.h"
-#include "ui/controls/FieldEditors.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/FlowLayout.h"
+#include "ui/controls/KeywordEditor.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/OffsetPicker.h"
+#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/RatingEditor.h"
+#include "ui/controls/ResizeHandle.h"
 #include "ui/controls/SuggestionList.h"
+#include "ui/controls/TextFields.h"
+#include "ui/controls/ThemedMenu.h"
+#include "ui/controls/Toggles.h"
+#include "ui/controls/ToolTips.h"
+#include "ui/controls/theme/Icon.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/SymbolText.h"
 #include "ui/places/LocationSearchField.h"
 #include "ui/places/MapPreview.h"
+#include "ui/sidebar/ThumbnailView.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -219,7 +233,7 @@ private:
                 return area;
             });
             row(u"Offset"_s, states, [edited] {
-                auto* picker = new OffsetPicker(u"—"_s);
+                auto* picker = new OffsetPicker({ u"+00:00"_s, u"+01:00"_s, u"+02:00"_s }, u"—"_s);
                 picker->setValue(u"+02:00"_s);
                 picker->setEdited(edited);
                 return picker;

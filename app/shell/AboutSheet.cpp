@@ -3,6 +3,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/sheets/SheetParts.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -12,10 +13,6 @@ namespace Quorbel {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Points.
-constexpr qreal sheetWidth = 470;
-constexpr qreal padding = 24;
 
 QString version()
 {
@@ -32,13 +29,6 @@ QStringList licences()
     };
 }
 
-ThemedLabel* paragraph(const QString& text, TextRole role, qreal points)
-{
-    auto* label = new ThemedLabel(text, role, points);
-    label->setWordWrap(true);
-    return label;
-}
-
 }  // namespace
 
 AboutSheet::AboutSheet(const QString& credits, QWidget* parent)
@@ -48,18 +38,15 @@ AboutSheet::AboutSheet(const QString& credits, QWidget* parent)
     column->addWidget(new ThemedLabel(u"Quorbel"_s, TextRole::text, 20, QFont::DemiBold));
     column->addWidget(new ThemedLabel(version(), TextRole::label, 12));
     for (const QString& text : licences())
-        column->addWidget(paragraph(text, TextRole::text, 13));
+        column->addWidget(ThemedLabel::wrapped(text, TextRole::text, 13));
     if (!credits.isEmpty())
-        column->addWidget(paragraph(credits, TextRole::label, 12));
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
+        column->addWidget(ThemedLabel::wrapped(credits, TextRole::label, 12));
     auto* ok = new QBButton(u"OK"_s, QBButtonKind::primary);
     connect(ok, &QAbstractButton::clicked, this, &AboutSheet::closed);
-    buttons->addWidget(ok);
+    QHBoxLayout* buttons = sheetButtonRow(this, { ok });
     column->addLayout(buttons);
-    onRestyle(this, [this, column, buttons] {
-        setFixedWidth(px(sheetWidth));
-        column->setContentsMargins(px(padding), px(padding), px(padding), px(padding));
+    frameSheet(this, column);
+    onRestyle(this, [column, buttons] {
         column->setSpacing(px(8));
         buttons->setContentsMargins(0, px(14), 0, 0);
     });

@@ -8,7 +8,6 @@
 #include "app/shell/OpenPanel.h"
 #include "core/Product.h"
 #include "ui/controls/ToolTips.h"
-#include "ui/controls/theme/SystemScheme.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/InspectorView.h"
 #include "ui/sheets/AddFieldSheet.h"
@@ -18,6 +17,7 @@
 #include "ui/window/ContentView.h"
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
+#include "ui/window/SystemScheme.h"
 #include "ui/window/WindowBar.h"
 
 #include <QApplication>

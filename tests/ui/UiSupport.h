@@ -3,8 +3,10 @@
 
 #include "ui/controls/theme/Theme.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QLabel>
 #include <QRegularExpression>
 #include <QTest>
 #include <QVBoxLayout>
@@ -58,6 +60,31 @@ private:
     QWidget m_window;
     QVBoxLayout* m_layout = nullptr;
 };
+
+/// The visible button with this text or accessible name; null when there is none.
+inline QAbstractButton* button(const QWidget* parent, const QString& name)
+{
+    for (auto* candidate : parent->findChildren<QAbstractButton*>())
+        if (candidate->isVisible() && (candidate->text() == name || candidate->accessibleName() == name))
+            return candidate;
+    return nullptr;
+}
+
+inline void click(QAbstractButton* target)
+{
+    QVERIFY(target);
+    QTest::mouseClick(target, Qt::LeftButton);
+}
+
+/// The texts of all labels that can be seen in a widget, from the top.
+inline QStringList labels(const QWidget* widget)
+{
+    QStringList texts;
+    for (const QLabel* label : widget->findChildren<QLabel*>())
+        if (label->isVisible() && !label->text().isEmpty())
+            texts.append(label->text());
+    return texts;
+}
 
 inline QColor colorAt(QWidget* widget, QPoint pos)
 {

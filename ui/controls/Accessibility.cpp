@@ -1,18 +1,14 @@
 #include "ui/controls/Accessibility.h"
 
 #include "ui/controls/Buttons.h"
-#include "ui/controls/KeywordEditor.h"
-#include "ui/controls/Labels.h"
-#include "ui/controls/Marks.h"
 #include "ui/controls/OffsetPicker.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/SuggestionList.h"
-#include "ui/places/MapPreview.h"
-#include "ui/sidebar/ThumbnailView.h"
+#include "ui/controls/Toggles.h"
 
-#include <QAccessible>
 #include <QAccessibleWidget>
+#include <QHash>
 #include <QPointer>
 
 #include <functional>
@@ -240,6 +236,12 @@ QAccessibleInterface* describeButton(QAbstractButton* button)
     return new ButtonDescription(button, QAccessible::Button);
 }
 
+QHash<const QMetaObject*, QAccessible::Role>& rolesOfClasses()
+{
+    static QHash<const QMetaObject*, QAccessible::Role> roles;
+    return roles;
+}
+
 QAccessibleInterface* describe(const QString& className, QObject* object)
 {
     auto* widget = qobject_cast<QWidget*>(object);
@@ -256,18 +258,10 @@ QAccessibleInterface* describe(const QString& className, QObject* object)
         return new PickerDescription(picker);
     if (auto* list = qobject_cast<SuggestionList*>(object))
         return new SuggestionListDescription(list);
-    if (qobject_cast<SectionHeader*>(object) || qobject_cast<LabeledDivider*>(object))
-        return new QAccessibleWidget(widget, QAccessible::Heading);
-    if (qobject_cast<ThumbnailView*>(object) || qobject_cast<MapPreview*>(object))
-        return new QAccessibleWidget(widget, QAccessible::Graphic);
-    if (qobject_cast<KeywordEditor*>(object))
-        return new QAccessibleWidget(widget, QAccessible::Grouping);
-    if (object->inherits("Quorbel::SheetFrame") || object->inherits("Quorbel::SettingsView"))
-        return new QAccessibleWidget(widget, QAccessible::Dialog);
-    if (object->inherits("Quorbel::HelpView"))
-        return new QAccessibleWidget(widget, QAccessible::Window);
-    if (object->inherits("Quorbel::KeywordChip"))
-        return new QAccessibleWidget(widget, QAccessible::ListItem);
+    for (const QMetaObject* type = object->metaObject(); type; type = type->superClass()) {
+        if (const auto role = rolesOfClasses().constFind(type); role != rolesOfClasses().cend())
+            return new QAccessibleWidget(widget, *role);
+    }
     return nullptr;
 }
 
@@ -276,6 +270,12 @@ QAccessibleInterface* describe(const QString& className, QObject* object)
 void installAccessibility()
 {
     QAccessible::installFactory(&describe);
+}
+
+void describeAs(const QMetaObject& widgetClass, QAccessible::Role role)
+{
+    installAccessibility();
+    rolesOfClasses().insert(&widgetClass, role);
 }
 
 }  // namespace Quorbel

@@ -1,6 +1,7 @@
 #include "ui/controls/Buttons.h"
 
 #include "ui/controls/Accessibility.h"
+#include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
@@ -9,7 +10,6 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QVariantAnimation>
 
 namespace Quorbel {
 
@@ -69,69 +69,6 @@ QPen penOf(const ButtonLook& look)
 
 }  // namespace
 
-HoverFade::HoverFade(QWidget* widget)
-    : QObject(widget)
-    , m_widget(widget)
-{
-    widget->setAttribute(Qt::WA_Hover);
-    widget->installEventFilter(this);
-}
-
-bool HoverFade::eventFilter(QObject* watched, QEvent* event)
-{
-    switch (event->type()) {
-    case QEvent::Enter:
-        setHover(m_widget->isEnabled());
-        break;
-    case QEvent::Leave:
-    case QEvent::Hide:
-        setHover(false);
-        break;
-    case QEvent::EnabledChange:
-        setHover(m_widget->isEnabled() && m_widget->underMouse());
-        if (!m_widget->isEnabled())
-            setPressed(false);
-        break;
-    default:
-        break;
-    }
-    return QObject::eventFilter(watched, event);
-}
-
-void HoverFade::setHover(bool on)
-{
-    animate(&HoverFade::m_hover, on ? 1 : 0);
-}
-
-void HoverFade::setPressed(bool on)
-{
-    animate(&HoverFade::m_pressed, on ? 1 : 0);
-}
-
-void HoverFade::animate(qreal HoverFade::*value, qreal target)
-{
-    const QString name = value == &HoverFade::m_hover ? u"hover"_s : u"pressed"_s;
-    delete findChild<QVariantAnimation*>(name, Qt::FindDirectChildrenOnly);
-    if (this->*value == target)
-        return;
-    if (!m_widget->isVisible() || !motionEnabled(m_widget)) {
-        this->*value = target;
-        m_widget->update();
-        return;
-    }
-    auto* animation = new QVariantAnimation(this);
-    animation->setObjectName(name);
-    animation->setDuration(Duration::hover);
-    animation->setEasingCurve(QEasingCurve::OutCubic);
-    animation->setStartValue(this->*value);
-    animation->setEndValue(target);
-    connect(animation, &QVariantAnimation::valueChanged, this, [this, value](const QVariant& now) {
-        this->*value = now.toReal();
-        m_widget->update();
-    });
-    animation->start(QAbstractAnimation::DeleteWhenStopped);
-}
-
 ThemedButton::ThemedButton(const QString& text, QWidget* parent)
     : QAbstractButton(parent)
     , m_fade(new HoverFade(this))
@@ -162,13 +99,6 @@ QBButton::QBButton(const QString& title, QBButtonKind kind, QWidget* parent)
         updateGeometry();
     });
     installFocusRing(this, { RingShape::button, 7, {}, {} });
-}
-
-void QBButton::setKind(QBButtonKind kind)
-{
-    m_kind = kind;
-    updateGeometry();
-    update();
 }
 
 void QBButton::setSidePadding(qreal points)
@@ -203,12 +133,6 @@ QBIconButton::QBIconButton(const QString& icon, const QString& name, QWidget* pa
     setName(name);
     onRestyle(this, [this] { updateGeometry(); });
     installFocusRing(this, { RingShape::tight, 7, {}, {} });
-}
-
-void QBIconButton::setIconName(const QString& icon)
-{
-    m_icon = icon;
-    update();
 }
 
 void QBIconButton::setName(const QString& name)

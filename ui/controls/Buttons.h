@@ -7,27 +7,7 @@
 
 namespace Quorbel {
 
-/// Where a press or the pointer is, eased over time; shared by everything that can be hovered.
-class HoverFade final : public QObject {
-    Q_OBJECT
-
-public:
-    explicit HoverFade(QWidget* widget);
-    qreal hover() const { return m_hover; }  ///< 0…1
-    qreal pressed() const { return m_pressed; }  ///< 0…1
-    void setPressed(bool on);
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-private:
-    void setHover(bool on);
-    void animate(qreal HoverFade::*value, qreal target);
-
-    QWidget* m_widget;
-    qreal m_hover = 0;
-    qreal m_pressed = 0;
-};
+class HoverFade;
 
 /// What all our buttons share: hover and pressed shades, a focus ring for keyboard focus, restyling.
 class ThemedButton : public QAbstractButton {
@@ -54,8 +34,6 @@ class QBButton final : public ThemedButton {
 
 public:
     explicit QBButton(const QString& title, QBButtonKind kind = QBButtonKind::secondary, QWidget* parent = nullptr);
-    QBButtonKind kind() const { return m_kind; }
-    void setKind(QBButtonKind kind);
     /// Points between the border and the title; 16 for primary, 14 otherwise, unless set here ("Now" takes 11).
     void setSidePadding(qreal points);
     QSize sizeHint() const override;
@@ -75,8 +53,6 @@ class QBIconButton final : public ThemedButton {
 
 public:
     QBIconButton(const QString& icon, const QString& name, QWidget* parent = nullptr);
-    void setIconName(const QString& icon);
-    const QString& iconName() const { return m_icon; }
     /// Also the tooltip.
     void setName(const QString& name);
     /// Points of the button and of the icon in it; line width in the icon's own 24×24 drawing (0: as drawn).

@@ -1,71 +1,51 @@
 #include "ui/controls/FormLabels.h"
 
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/TextLines.h"
 
 #include <QEvent>
 #include <QPainter>
-#include <QTextLayout>
+#include <QResizeEvent>
 
 namespace Quorbel {
 
-namespace {
-
-/// The text in two lines, the first of at most this width, broken between words where it can be.
-QStringList inTwoLines(const QString& text, const QFont& font, int width)
-{
-    QTextLayout layout(text, font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(width);
-    layout.endLayout();
-    const int end = line.textLength();
-    return { text.left(end).trimmed(), text.mid(end).trimmed() };
-}
-
-/// The text in lines of at most this width, broken at spaces only: names of tags stay whole.
-QStringList atSpaces(const QString& text, const QFontMetrics& metrics, int width)
-{
-    QStringList lines;
-    const QStringList words = text.split(u' ');
-    for (const QString& word : words) {
-        const QString longer = lines.isEmpty() ? word : lines.constLast() + u' ' + word;
-        if (lines.isEmpty() || metrics.horizontalAdvance(longer) > width)
-            lines.append(word);
-        else
-            lines.last() = longer;
-    }
-    return lines;
-}
-
-QStringList anywhere(const QString& text, const QFontMetrics& metrics, int width)
-{
-    QStringList lines{ QString() };
-    for (const QChar c : text) {
-        // Not between the halves of a character.
-        if (!c.isLowSurrogate() && metrics.horizontalAdvance(lines.constLast() + c) > width)
-            lines.append(QString());
-        lines.last() += c;
-    }
-    return lines;
-}
-
-}  // namespace
-
-TwoLineLabel::TwoLineLabel(TextRole role, qreal points, QWidget* parent)
-    : ThemedLabel({}, role, points, QFont::Normal, parent)
-    , m_points(points)
-{
-}
-
-void TwoLineLabel::setText(const QString& text)
+void BrokenLabel::setText(const QString& text)
 {
     if (text == this->text())
         return;
     ThemedLabel::setText(text);
     breakText();
+}
+
+void BrokenLabel::paintLines(QRect box)
+{
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::WindowText));
+    for (const QString& line : std::as_const(m_lines)) {
+        painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+            fontMetrics().elidedText(line, Qt::ElideRight, box.width()));
+        box.translate(0, box.height());
+    }
+}
+
+void BrokenLabel::resizeEvent(QResizeEvent* event)
+{
+    ThemedLabel::resizeEvent(event);
+    if (event->oldSize().width() != width())
+        breakText();
+}
+
+bool BrokenLabel::event(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        breakText();
+    return ThemedLabel::event(event);
+}
+
+TwoLineLabel::TwoLineLabel(TextRole role, qreal points, QWidget* parent)
+    : BrokenLabel({}, role, points, QFont::Normal, parent)
+    , m_points(points)
+{
 }
 
 QSize TwoLineLabel::minimumSizeHint() const
@@ -79,53 +59,25 @@ void TwoLineLabel::breakText()
     const QFontMetrics metrics(font());
     m_lines = { text() };
     if (metrics.horizontalAdvance(text()) > width)
-        m_lines = inTwoLines(text(), font(), width);
+        m_lines = brokenIntoLines(text(), font(), width, LineBreaks::words, 2);
     const bool fits = metrics.horizontalAdvance(m_lines.constLast()) <= width;
     setToolTip(fits ? QString() : text());
     update();
 }
 
-bool TwoLineLabel::event(QEvent* event)
-{
-    if (event->type() == QEvent::FontChange)
-        breakText();
-    return ThemedLabel::event(event);
-}
-
-void TwoLineLabel::resizeEvent(QResizeEvent* event)
-{
-    ThemedLabel::resizeEvent(event);
-    breakText();
-}
-
 void TwoLineLabel::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
-    painter.setPen(palette().color(QPalette::WindowText));
     const QRect box = contentsRect();
     const int height = px(m_points + 2);
-    int top = box.top() + (box.height() - height * int(m_lines.size())) / 2;
-    for (const QString& line : std::as_const(m_lines)) {
-        const QString shown = fontMetrics().elidedText(line, Qt::ElideRight, box.width());
-        painter.drawText(QRect(box.left(), top, box.width(), height),
-            Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip, shown);
-        top += height;
-    }
+    const int top = box.top() + (box.height() - height * int(m_lines.size())) / 2;
+    paintLines({ box.left(), top, box.width(), height });
 }
 
 WrappedLine::WrappedLine(TextRole role, qreal points, qreal lineHeight, QWidget* parent)
-    : ThemedLabel({}, role, points, QFont::Normal, parent)
+    : BrokenLabel({}, role, points, QFont::Normal, parent)
     , m_lineHeight(lineHeight)
 {
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    breakText();
-}
-
-void WrappedLine::setText(const QString& text)
-{
-    if (text == this->text())
-        return;
-    ThemedLabel::setText(text);
     breakText();
 }
 
@@ -138,40 +90,14 @@ void WrappedLine::setBreaksAnywhere(bool on)
 void WrappedLine::breakText()
 {
     const int room = qMax(px(60), width());
-    m_lines = m_breaksAnywhere ? anywhere(text(), fontMetrics(), room) : atSpaces(text(), fontMetrics(), room);
-    const int wanted = px(m_lineHeight) * qMax(1, int(m_lines.size()));
-    if (wanted != minimumHeight() || wanted != maximumHeight()) {
-        setFixedHeight(wanted);
-        updateGeometry();
-    }
+    m_lines = brokenIntoLines(text(), font(), room, m_breaksAnywhere ? LineBreaks::anywhere : LineBreaks::spaces);
+    setFixedHeight(px(m_lineHeight) * qMax(1, int(m_lines.size())));
     update();
-}
-
-void WrappedLine::resizeEvent(QResizeEvent* event)
-{
-    ThemedLabel::resizeEvent(event);
-    if (event->oldSize().width() != width())
-        breakText();
-}
-
-bool WrappedLine::event(QEvent* event)
-{
-    if (event->type() == QEvent::FontChange)
-        breakText();
-    return ThemedLabel::event(event);
 }
 
 void WrappedLine::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
-    painter.setPen(palette().color(QPalette::WindowText));
-    int top = 0;
-    for (const QString& line : std::as_const(m_lines)) {
-        painter.drawText(QRect(0, top, width(), px(m_lineHeight)),
-            Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
-            fontMetrics().elidedText(line, Qt::ElideRight, width()));
-        top += px(m_lineHeight);
-    }
+    paintLines({ 0, 0, width(), px(m_lineHeight) });
 }
 
 }  // namespace Quorbel

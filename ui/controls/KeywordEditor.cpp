@@ -3,6 +3,7 @@
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FlowLayout.h"
+#include "ui/controls/HoverFade.h"
 #include "ui/controls/SuggestionList.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/theme/FocusRing.h"
@@ -38,6 +39,7 @@ public:
         : QWidget(editor)
         , m_cross(new QBIconButton(u"xmark"_s, QString(), this))
     {
+        describeAs(staticMetaObject, QAccessible::ListItem);
         setFocusPolicy(Qt::ClickFocus);
         m_cross->setSizes({ 16, 16 }, 9, 2.6, 8);
         m_cross->setQuiet(true);
@@ -145,7 +147,7 @@ KeywordEditor::KeywordEditor(QWidget* parent)
     , m_suggestions(new SuggestionList(m_entry))
     , m_fade(new HoverFade(this))
 {
-    installAccessibility();
+    describeAs(staticMetaObject, QAccessible::Grouping);
     m_flow->setContentsMargins(3, 1, 3, 1);
     m_flow->setLastItemFills(true);
     m_flow->addWidget(m_entry);
@@ -190,10 +192,9 @@ void KeywordEditor::setChips(const QStringList& chips)
         chip->deleteLater();
     }
     m_chips = chips;
-    for (qsizetype i = 0; i < chips.size(); ++i) {
-        m_chipWidgets.at(i)->setMaximumWidth(qMax(px(60), width() - 6));
+    for (qsizetype i = 0; i < chips.size(); ++i)
         m_chipWidgets.at(i)->setKeyword(chips.at(i), m_amber || m_edited);
-    }
+    limitChips();
     m_flow->invalidate();
     updateHeight();
 }
@@ -230,11 +231,6 @@ QLineEdit* KeywordEditor::entry() const
     return m_entry;
 }
 
-QString KeywordEditor::entryText() const
-{
-    return m_entry->text();
-}
-
 void KeywordEditor::clearEntry()
 {
     m_entry->clear();
@@ -253,11 +249,7 @@ QSize KeywordEditor::minimumSizeHint() const
 
 void KeywordEditor::updateHeight()
 {
-    const int wanted = qMax(px(30), m_flow->heightForWidth(qMax(width(), minimumSizeHint().width())));
-    if (wanted != minimumHeight() || wanted != maximumHeight()) {
-        setFixedHeight(wanted);
-        updateGeometry();
-    }
+    setFixedHeight(qMax(px(30), m_flow->heightForWidth(qMax(width(), minimumSizeHint().width()))));
     m_flow->setGeometry(rect());
 }
 
@@ -266,9 +258,15 @@ void KeywordEditor::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     if (event->oldSize().width() == width())
         return;
+    limitChips();
+    updateHeight();
+}
+
+/// No chip is wider than a line.
+void KeywordEditor::limitChips()
+{
     for (KeywordChip* chip : std::as_const(m_chipWidgets))
         chip->setMaximumWidth(qMax(px(60), width() - 6));
-    updateHeight();
 }
 
 void KeywordEditor::paintEvent(QPaintEvent*)
@@ -328,17 +326,9 @@ bool KeywordEditor::entryKey(QKeyEvent* event)
         commit();
         return true;
     case Qt::Key_Backspace:
-        if (m_entry->text().isEmpty() && !m_chipWidgets.isEmpty()) {
-            focusChip(int(m_chipWidgets.size()) - 1);
-            return true;
-        }
-        return false;
+        return m_entry->text().isEmpty() && focusLastChip();
     case Qt::Key_Left:
-        if (atStart && !m_chipWidgets.isEmpty()) {
-            focusChip(int(m_chipWidgets.size()) - 1);
-            return true;
-        }
-        return false;
+        return atStart && focusLastChip();
     default:
         return false;
     }
@@ -382,6 +372,14 @@ void KeywordEditor::focusChip(int index)
         m_chipWidgets.at(index)->setFocus(Qt::OtherFocusReason);
     else
         m_entry->setFocus(Qt::OtherFocusReason);
+}
+
+bool KeywordEditor::focusLastChip()
+{
+    if (m_chipWidgets.isEmpty())
+        return false;
+    focusChip(int(m_chipWidgets.size()) - 1);
+    return true;
 }
 
 void KeywordEditor::removeChip(int index)

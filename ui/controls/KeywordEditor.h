@@ -39,8 +39,6 @@ public:
     /// Where one types: what takes the keyboard. No focus proxy of the editor: Qt gives Tab to a widget with a proxy
     /// as well, at the place where it was made.
     QLineEdit* entry() const;
-    /// What is being typed.
-    QString entryText() const;
     void clearEntry();
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -63,6 +61,9 @@ private:
     bool chipKey(int index, QKeyEvent* event);
     void makeChip();
     void focusChip(int index);
+    /// False when there is none.
+    bool focusLastChip();
+    void limitChips();
     void commit();
     void addAll(const QStringList& keywords);
     void complete();

@@ -56,6 +56,13 @@ void ThemedLabel::restyle()
     updateGeometry();
 }
 
+ThemedLabel* ThemedLabel::wrapped(const QString& text, TextRole role, qreal points, QFont::Weight weight)
+{
+    auto* label = new ThemedLabel(text, role, points, weight);
+    label->setWordWrap(true);
+    return label;
+}
+
 void ThemedLabel::setRole(TextRole role)
 {
     if (role == m_role)
@@ -128,18 +135,11 @@ SectionHeader::SectionHeader(const QString& title, bool muted, const QString& tr
     , m_muted(muted)
     , m_note(trailingNote)
 {
-    installAccessibility();
+    describeAs(staticMetaObject, QAccessible::Heading);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAccessibleName(title);
     setAccessibleDescription(trailingNote);
     onRestyle(this, [this] { updateGeometry(); });
-}
-
-void SectionHeader::setTrailingNote(const QString& note)
-{
-    m_note = note;
-    setAccessibleDescription(note);
-    update();
 }
 
 QSize SectionHeader::sizeHint() const
@@ -168,7 +168,7 @@ LabeledDivider::LabeledDivider(const QString& caption, bool muted, const QString
     , m_muted(muted)
     , m_note(note)
 {
-    installAccessibility();
+    describeAs(staticMetaObject, QAccessible::Heading);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAccessibleName(caption);
     setAccessibleDescription(note);

@@ -21,6 +21,8 @@ class ThemedLabel : public QLabel {
 public:
     explicit ThemedLabel(const QString& text = {}, TextRole role = TextRole::text, qreal points = 13,
         QFont::Weight weight = QFont::Normal, QWidget* parent = nullptr);
+    /// One of several lines, broken between words.
+    static ThemedLabel* wrapped(const QString& text, TextRole role, qreal points, QFont::Weight weight = QFont::Normal);
     void setRole(TextRole role);
     void setMono(bool mono);
     void setElided(bool elided);
@@ -51,8 +53,6 @@ class SectionHeader final : public QWidget {
 public:
     explicit SectionHeader(
         const QString& title, bool muted = false, const QString& trailingNote = {}, QWidget* parent = nullptr);
-    const QString& title() const { return m_title; }
-    void setTrailingNote(const QString& note);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 

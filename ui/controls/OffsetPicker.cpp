@@ -1,6 +1,6 @@
 #include "ui/controls/OffsetPicker.h"
 
-#include "core/schema/FieldSchema.h"
+#include "ui/controls/HoverFade.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
@@ -15,8 +15,9 @@ namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
-OffsetPicker::OffsetPicker(const QString& blank, QWidget* parent)
+OffsetPicker::OffsetPicker(const QStringList& offsets, const QString& blank, QWidget* parent)
     : ThemedButton(blank, parent)
+    , m_offsets(offsets)
     , m_blank(blank)
 {
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
@@ -58,10 +59,8 @@ void OffsetPicker::choose(const QString& value)
 void OffsetPicker::openMenu()
 {
     auto* menu = new ThemedMenu(this);
-    QStringList values = FieldSchema::timeZoneOffsets();
-    values.prepend(QString());
     QAction* current = nullptr;
-    for (const QString& value : std::as_const(values)) {
+    for (const QString& value : QStringList(QString()) + m_offsets) {
         QAction* action = menu->addAction(value.isEmpty() ? m_blank : value, this, [this, value] { choose(value); });
         action->setCheckable(true);
         action->setChecked(value == m_value);

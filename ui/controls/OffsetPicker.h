@@ -1,19 +1,20 @@
-// Picks a time-zone offset. Thread: the main thread.
+// Picks a time-zone offset. Thread: the main thread. Which offsets there are, its owner says.
 #pragma once
 
 #include "ui/controls/Buttons.h"
 
+#include <QStringList>
+
 namespace Quorbel {
 
 /// A menu button, 150×30 points, that shows the value or, for an empty one, the `blank` label. Its menu offers `blank`
-/// and the schema's offsets.
+/// and the offsets.
 class OffsetPicker final : public ThemedButton {
     Q_OBJECT
 
 public:
-    explicit OffsetPicker(const QString& blank, QWidget* parent = nullptr);
-    const QString& value() const { return m_value; }
-    /// Shows a value, in the schema's list or not; emits nothing.
+    OffsetPicker(const QStringList& offsets, const QString& blank, QWidget* parent = nullptr);
+    /// Shows a value, among the offsets or not; emits nothing.
     void setValue(const QString& value);
     void setEdited(bool edited);
     QSize sizeHint() const override;
@@ -31,6 +32,7 @@ private:
     void openMenu();
     void choose(const QString& value);
 
+    QStringList m_offsets;
     QString m_blank;
     QString m_value;
     bool m_edited = false;

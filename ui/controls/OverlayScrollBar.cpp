@@ -8,7 +8,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QVariantAnimation>
 
 namespace Quorbel {
 
@@ -28,16 +27,17 @@ OverlayScrollBar* OverlayScrollBar::attach(QAbstractScrollArea* area)
 OverlayScrollBar::OverlayScrollBar(QAbstractScrollArea* area)
     : QWidget(area)
     , m_area(area)
+    , m_opacity(this, Duration::column)
 {
     m_rest.setSingleShot(true);
     m_rest.setInterval(restMilliseconds);
     connect(&m_rest, &QTimer::timeout, this, [this] {
         if (!m_hovered && m_grab < 0)
-            fadeTo(0);
+            m_opacity.moveTo(0);
     });
     QScrollBar* bar = area->verticalScrollBar();
-    connect(bar, &QScrollBar::valueChanged, this, &OverlayScrollBar::awaken);
-    connect(bar, &QScrollBar::rangeChanged, this, &OverlayScrollBar::awaken);
+    connect(bar, &QScrollBar::valueChanged, this, &OverlayScrollBar::reveal);
+    connect(bar, &QScrollBar::rangeChanged, this, &OverlayScrollBar::reveal);
     area->installEventFilter(this);
     area->viewport()->installEventFilter(this);
     place();
@@ -69,40 +69,21 @@ QRectF OverlayScrollBar::thumb() const
     return { width() - pxF(thumbWidth) - 2, pxF(3) + top, pxF(thumbWidth), length };
 }
 
-void OverlayScrollBar::awaken()
+void OverlayScrollBar::reveal()
 {
     place();
-    fadeTo(1);
+    m_opacity.jumpTo(1);
     m_rest.start();
     update();
 }
 
-void OverlayScrollBar::fadeTo(qreal opacity)
-{
-    delete findChild<QVariantAnimation*>(QString(), Qt::FindDirectChildrenOnly);
-    if (opacity >= m_opacity || !motionEnabled(this)) {
-        m_opacity = opacity;
-        update();
-        return;
-    }
-    auto* animation = new QVariantAnimation(this);
-    animation->setDuration(Duration::column);
-    animation->setStartValue(m_opacity);
-    animation->setEndValue(opacity);
-    connect(animation, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-        m_opacity = value.toReal();
-        update();
-    });
-    animation->start(QAbstractAnimation::DeleteWhenStopped);
-}
-
 void OverlayScrollBar::paintEvent(QPaintEvent*)
 {
-    if (m_opacity <= 0)
+    if (m_opacity.value() <= 0)
         return;
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
-    painter.setOpacity(m_opacity);
+    painter.setOpacity(m_opacity.value());
     const QColor color = m_hovered || m_grab >= 0 ? theme.derived.scrollHover : theme.scroll;
     paintBox(painter, thumb(), pxF(thumbWidth) / 2, color, Qt::NoPen);
 }
@@ -142,7 +123,7 @@ void OverlayScrollBar::mouseReleaseEvent(QMouseEvent*)
 void OverlayScrollBar::enterEvent(QEnterEvent*)
 {
     m_hovered = true;
-    fadeTo(1);
+    m_opacity.jumpTo(1);
 }
 
 void OverlayScrollBar::leaveEvent(QEvent*)

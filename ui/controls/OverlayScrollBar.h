@@ -2,6 +2,8 @@
 // Thread: the main thread.
 #pragma once
 
+#include "ui/controls/theme/AnimatedValue.h"
+
 #include <QTimer>
 #include <QWidget>
 
@@ -31,12 +33,11 @@ private:
     explicit OverlayScrollBar(QAbstractScrollArea* area);
     QRectF thumb() const;
     void place();
-    void awaken();
-    void fadeTo(qreal opacity);
+    void reveal();
 
     QAbstractScrollArea* m_area;
     QTimer m_rest;
-    qreal m_opacity = 0;
+    AnimatedValue m_opacity;
     int m_grab = -1;  ///< y of the press within the thumb; -1 while not dragged
     bool m_hovered = false;
 };

@@ -3,6 +3,7 @@
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
+#include "ui/controls/theme/Shadow.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QAccessible>
@@ -217,7 +218,7 @@ void SuggestionList::paintEvent(QPaintEvent*)
     const Theme& theme = Theme::of(m_field);
     QPainter painter(this);
     const QRectF box = QRectF(rect()).adjusted(shadowMargin, shadowMargin, -shadowMargin, -shadowMargin);
-    paintShadow(painter, box, pxF(9), theme.shadow);
+    paintShadow(painter, box, pxF(9), Shadow::dropdown, theme);
     paintBox(painter, box, pxF(9), theme.panel, QPen(theme.line, 1));
     if (!m_message.isEmpty()) {
         painter.setFont(sansFont(12));

@@ -1,6 +1,6 @@
 #include "ui/controls/TextFields.h"
 
-#include "ui/controls/Buttons.h"
+#include "ui/controls/HoverFade.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"

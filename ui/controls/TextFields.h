@@ -21,9 +21,7 @@ public:
     void setBoundText(const QString& text);
     /// The same, for the value of another thing: forgets the undo history even when the texts are equal.
     void startText(const QString& text) { setText(text); }
-    const QString& placeholder() const { return m_placeholder; }
     void setPlaceholder(const QString& text, bool italic = false);
-    bool isEdited() const { return m_edited; }
     void setEdited(bool edited);
     void setMono(bool mono);
     /// An icon at the left ("magnifyingglass"); none when empty.
@@ -61,12 +59,10 @@ class QBTextArea : public QPlainTextEdit {
 public:
     explicit QBTextArea(QWidget* parent = nullptr);
     QString text() const { return toPlainText(); }
-    const QString& placeholder() const { return m_placeholder; }
     void setBoundText(const QString& text);
     /// As QBTextField::startText().
     void startText(const QString& text);
     void setPlaceholder(const QString& text, bool italic = false);
-    bool isEdited() const { return m_edited; }
     void setEdited(bool edited);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

@@ -15,9 +15,6 @@ class CameraSection final : public QWidget {
 public:
     explicit CameraSection(QWidget* parent = nullptr);
     void setRows(const QList<CameraRow>& rows);
-    const QList<CameraRow>& rows() const { return m_rows; }
-    /// Two columns from 470 points of width on, filled one after the other.
-    int columns() const;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return { 0, sizeHint().height() }; }
 
@@ -31,6 +28,8 @@ private:
         QRect label{};
         QRect value{};
     };
+    /// Two from 470 points of width on, filled one after the other.
+    int columns() const;
     Cell cell(int index) const;
     int linesPerColumn() const;
     int secondColumnWidth() const;

@@ -2,7 +2,7 @@
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
-#include "ui/controls/Marks.h"
+#include "ui/controls/Toggles.h"
 #include "ui/controls/theme/Metrics.h"
 
 #include <QHBoxLayout>
@@ -48,7 +48,7 @@ FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
     });
 }
 
-int FieldRow::dotCentre() const
+int FieldRow::dotCenter() const
 {
     return px(rowHeight) / 2 + (m_multiline ? px(firstLineDrop) : 0);
 }

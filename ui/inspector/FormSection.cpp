@@ -62,7 +62,7 @@ void FormSection::paintEvent(QPaintEvent*)
     const qreal dot = pxF(dotSize);
     for (const FieldRow* row : std::as_const(m_rows))
         if (row->state().edited && !row->state().batch)
-            painter.drawEllipse(QRectF(row->x() - pxF(dotLeft), row->y() + row->dotCentre() - dot / 2, dot, dot));
+            painter.drawEllipse(QRectF(row->x() - pxF(dotLeft), row->y() + row->dotCenter() - dot / 2, dot, dot));
 }
 
 }  // namespace Quorbel

@@ -59,11 +59,6 @@ QList<QWidget*> InspectorFooter::tabStops() const
     return { m_rename, m_add, m_save };
 }
 
-QString InspectorFooter::unsavedText() const
-{
-    return m_unsaved->text();
-}
-
 void InspectorFooter::refresh(bool hasPhoto)
 {
     const bool dirty = hasPhoto && m_model.unsavedCount() > 0;

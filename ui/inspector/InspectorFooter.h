@@ -19,12 +19,8 @@ public:
     explicit InspectorFooter(AppModel& model, QWidget* parent = nullptr);
     /// Reads the model again. Without a photo to edit the bar stays empty.
     void refresh(bool hasPhoto);
-    QString unsavedText() const;
     /// From the left.
     QList<QWidget*> tabStops() const;
-    QBButton* renameButton() const { return m_rename; }
-    QBButton* addButton() const { return m_add; }
-    QBButton* saveButton() const { return m_save; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

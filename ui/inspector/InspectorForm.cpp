@@ -5,11 +5,12 @@
 #include "core/schema/FieldID.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/BatchBanner.h"
 #include "ui/inspector/CameraSection.h"
 #include "ui/inspector/FieldRow.h"
 #include "ui/inspector/FormSection.h"
-#include "ui/inspector/InspectorHeader.h"
 #include "ui/inspector/InspectorStates.h"
+#include "ui/inspector/PhotoHeader.h"
 #include "ui/places/LocationMap.h"
 
 #include <QVBoxLayout>
@@ -173,11 +174,6 @@ FieldRow* InspectorForm::row(const QString& id) const
 {
     FieldRow* found = m_pool.value(id);
     return found && !found->isHidden() ? found : nullptr;
-}
-
-FieldRow* InspectorForm::customRow(const QString& name) const
-{
-    return row(CustomFields::key(name));
 }
 
 FieldRow* InspectorForm::makeRow(const QString& key, const FieldRowParts& parts)

@@ -4,8 +4,6 @@
 #pragma once
 
 #include "core/schema/FieldSchema.h"
-#include "core/schema/ImageRecord.h"
-#include "platform/places/map/MapRenderer.h"
 
 #include <QHash>
 #include <QSet>
@@ -25,8 +23,11 @@ class CameraSection;
 class FieldRow;
 class FormSection;
 class LocationMap;
+class MapRenderer;
 class PhotoHeader;
+class PlaceProvider;
 class ThumbnailStore;
+struct CustomValue;
 struct FieldRowParts;
 
 class InspectorForm final : public QWidget {
@@ -43,13 +44,8 @@ public:
     void setTabStopsBehind(const QList<QWidget*>& stops) { m_stopsBehind = stops; }
     /// Pixels kept free at the lower end.
     void setBottomInset(int pixels);
-    /// The row of a schema field, by its id; null while it is not on screen.
+    /// The row of a field, by its id or by the key of a custom field; null while it is not on screen.
     FieldRow* row(const QString& id) const;
-    FieldRow* customRow(const QString& name) const;
-    PhotoHeader* header() const { return m_header; }
-    BatchBanner* banner() const { return m_banner; }
-    LocationMap* locationMap() const { return m_map; }
-    CameraSection* camera() const { return m_camera; }
 
 signals:
     /// The user added this field to those on screen: a field id, or the key of a custom field.

@@ -2,13 +2,13 @@
 // Thread: the main thread. Reads the model, changes nothing, knows no widget.
 #pragma once
 
-#include "core/schema/FieldSchema.h"
-#include "core/schema/ImageRecord.h"
-#include "ui/inspector/FieldRow.h"
+#include "ui/inspector/FieldRowState.h"
 
 namespace Quorbel {
 
 class AppModel;
+struct CustomValue;
+struct FieldSpec;
 
 namespace InspectorStates {
 

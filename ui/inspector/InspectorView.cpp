@@ -2,7 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/ScrollArea.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/FieldRow.h"
 #include "ui/inspector/InspectorFooter.h"
@@ -22,21 +22,15 @@ InspectorView::InspectorView(
     AppModel& model, ThumbnailStore* thumbs, PlaceProvider* places, MapRenderer* maps, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
-    , m_scroll(new QScrollArea)
+    , m_scroll(new ScrollArea)
     , m_form(new InspectorForm(model, thumbs, places, maps))
     , m_nothing(new ThemedLabel(u"No photo selected"_s, TextRole::muted, 13))
     , m_footer(new InspectorFooter(model))
 {
-    m_scroll->setFrameShape(QFrame::NoFrame);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scroll->setWidgetResizable(true);
     m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->viewport()->setAutoFillBackground(false);
-    m_scroll->setWidget(m_form);
-    m_form->setAutoFillBackground(false);
+    m_scroll->setContent(m_form);
     m_form->installEventFilter(this);
     m_form->setTabStopsBehind(m_footer->tabStops());
-    OverlayScrollBar::attach(m_scroll);
     m_nothing->setAlignment(Qt::AlignCenter);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);

@@ -4,8 +4,6 @@
 
 #include <QWidget>
 
-class QScrollArea;
-
 namespace Quorbel {
 
 class AppModel;
@@ -13,6 +11,7 @@ class InspectorFooter;
 class InspectorForm;
 class MapRenderer;
 class PlaceProvider;
+class ScrollArea;
 class ThemedLabel;
 class ThumbnailStore;
 
@@ -27,8 +26,6 @@ public:
 
     /// Keeps this many pixels free below the last row, so that the form scrolls clear of what is laid over it.
     void setBottomInset(int pixels);
-    InspectorForm* form() const { return m_form; }
-    InspectorFooter* footer() const { return m_footer; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -41,7 +38,7 @@ private:
     void focusField(const QString& id);
 
     AppModel& m_model;
-    QScrollArea* m_scroll;
+    ScrollArea* m_scroll;
     InspectorForm* m_form;
     ThemedLabel* m_nothing;
     InspectorFooter* m_footer;

@@ -39,11 +39,6 @@ void LocationSearchField::setBias(std::optional<GeoPoint> point)
     m_search.setBias(point);
 }
 
-bool LocationSearchField::showsSuggestions() const
-{
-    return m_list->isVisible();
-}
-
 void LocationSearchField::textChangedByUser(const QString& text)
 {
     if (m_programmaticText == text) {
@@ -111,7 +106,7 @@ void LocationSearchField::abandon()
 
 void LocationSearchField::keyPressEvent(QKeyEvent* event)
 {
-    const bool closing = event->key() == Qt::Key_Escape && showsSuggestions();
+    const bool closing = event->key() == Qt::Key_Escape && m_list->isVisible();
     if (m_list->handleKey(event)) {
         if (closing)
             close();

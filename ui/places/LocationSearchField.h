@@ -17,8 +17,6 @@ class LocationSearchField final : public QBTextField {
 public:
     explicit LocationSearchField(PlaceProvider* provider, QWidget* parent = nullptr);
     void setBias(std::optional<GeoPoint> point);
-    /// Whether the dropdown is open.
-    bool showsSuggestions() const;
     /// Drops the search and the pick under way: the field shows the place of another thing now.
     void abandon();
 

@@ -24,7 +24,7 @@ MapPreview::MapPreview(MapRenderer* renderer, QWidget* parent)
     : QWidget(parent)
     , m_renderer(renderer)
 {
-    installAccessibility();
+    describeAs(staticMetaObject, QAccessible::Graphic);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_delay.setSingleShot(true);
     m_delay.setInterval(resizePause);

@@ -20,7 +20,6 @@ public:
     explicit MapPreview(MapRenderer* renderer, QWidget* parent = nullptr);
     ~MapPreview() override;
     void setPoint(const Coordinates::Point& point);
-    const Coordinates::Point& point() const { return m_point; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

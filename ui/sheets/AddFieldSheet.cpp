@@ -21,8 +21,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Points.
-constexpr qreal sheetWidth = 470;
-constexpr qreal padding = 24;
 constexpr qreal buttonsAbove = 22;
 
 /// The fields whose label, note or tag hint contains the query, in their order.
@@ -89,9 +87,8 @@ void AddFieldSheet::build()
             { m_verdict },
         });
     column->addLayout(sheetButtonRow(this, { dismiss, m_add }));
-    onRestyle(this, [this, column] {
-        setFixedWidth(px(sheetWidth));
-        column->setContentsMargins(px(padding), px(padding), px(padding), px(padding));
+    frameSheet(this, column);
+    onRestyle(this, [this] {
         // The line about the name stands in the gap above the buttons: nothing moves when it appears.
         m_verdict->setFixedHeight(px(buttonsAbove));
     });

@@ -1,8 +1,8 @@
 #include "ui/sheets/AddableFieldList.h"
 
 #include "ui/controls/Buttons.h"
+#include "ui/controls/HoverFade.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
@@ -90,29 +90,23 @@ private:
 };
 
 AddableFieldList::AddableFieldList(QWidget* parent)
-    : QScrollArea(parent)
+    : ScrollArea(parent)
     , m_empty(new ThemedLabel({}, TextRole::muted, 13))
 {
-    setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setWidgetResizable(true);
+    setFramed(true);
     setFocusPolicy(Qt::NoFocus);
-    viewport()->setAutoFillBackground(false);
     auto* content = new QWidget;
     m_column = new QVBoxLayout(content);
     m_column->setSpacing(0);
     m_column->addWidget(m_empty, 1);
     m_column->addStretch();
     m_empty->setAlignment(Qt::AlignCenter);
-    setWidget(content);
-    content->setAutoFillBackground(false);
-    OverlayScrollBar::attach(this);
+    setContent(content);
     setAccessibleName(u"Fields"_s);
     onRestyle(this, [this] {
         // In a low window, or with large type, the list gives way.
         setMinimumHeight(px(leastHeight));
         setMaximumHeight(px(listHeight));
-        setViewportMargins(1, 1, 1, 1);
         m_column->setContentsMargins(px(inset), px(inset), px(inset + scrollRoom), px(inset));
     });
 }
@@ -195,17 +189,6 @@ void AddableFieldList::move(int from, int step)
         row->setFocusPolicy(row == m_rows.at(to) ? Qt::StrongFocus : Qt::ClickFocus);
     m_rows.at(to)->setFocus(Qt::TabFocusReason);
     ensureWidgetVisible(m_rows.at(to), 0, px(inset));
-}
-
-bool AddableFieldList::event(QEvent* event)
-{
-    if (event->type() == QEvent::Paint) {
-        const Theme& theme = Theme::of(this);
-        QPainter painter(this);
-        paintBox(painter, rect(), pxF(7), theme.field, QPen(theme.line, 1));
-        return true;
-    }
-    return QScrollArea::event(event);
 }
 
 }  // namespace Quorbel

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "core/schema/FieldSchema.h"
+#include "ui/controls/ScrollArea.h"
 
 #include <QHash>
-#include <QScrollArea>
 
 class QVBoxLayout;
 
@@ -15,7 +15,7 @@ class AddableFieldRow;
 class ThemedLabel;
 
 /// 240 points high where there is room. Up and Down go from row to row, Tab stops at one row only.
-class AddableFieldList final : public QScrollArea {
+class AddableFieldList final : public ScrollArea {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(AddableFieldList)
 
@@ -34,9 +34,6 @@ signals:
     void picked(const QString& id);
     /// Up in the topmost row.
     void leftUpwards();
-
-protected:
-    bool event(QEvent* event) override;
 
 private:
     AddableFieldRow* rowOf(const FieldSpec& field);

@@ -7,8 +7,6 @@
 
 #include <functional>
 
-class QHBoxLayout;
-
 namespace Quorbel {
 
 class QBButton;
@@ -30,7 +28,7 @@ signals:
     void answered(qsizetype button);
 
 private:
-    void addButtons(QHBoxLayout* line, const QStringList& buttons);
+    QList<QBButton*> makeButtons(const QStringList& titles);
 
     qsizetype m_last;
 };
@@ -38,6 +36,6 @@ private:
 class SheetHost;
 /// Presents a message and dismisses it with its answer, which is then handed to `answered` (may be empty).
 void presentMessage(SheetHost& host, const QString& icon, const QString& message, const QString& informativeText,
-    const QStringList& buttons, std::function<void(qsizetype)> answered);
+    const QStringList& buttons, const std::function<void(qsizetype)>& answered);
 
 }  // namespace Quorbel

@@ -20,8 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Points.
-constexpr qreal sheetWidth = 440;
-constexpr qreal padding = 24;
+constexpr qreal renameWidth = 440;
 constexpr int chipGap = 6;
 
 /// The token chips, as high as their lines.
@@ -61,10 +60,7 @@ RenameSheet::RenameSheet(AppModel& model, QWidget* parent)
         { { m_pattern, 12 }, { buildTokens(), 12 }, { hint, 18 }, { new LabeledDivider(u"Preview"_s), 10 },
             { m_preview, 22 } });
     column->addLayout(sheetButtonRow(this, { dismiss, m_rename }));
-    onRestyle(this, [this, column] {
-        setFixedWidth(px(sheetWidth));
-        column->setContentsMargins(px(padding), px(padding), px(padding), px(padding));
-    });
+    frameSheet(this, column, renameWidth);
     connectModel();
     refresh();
 }

@@ -3,16 +3,14 @@
 #include "app/model/AppModel.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/Marks.h"
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/ScrollArea.h"
+#include "ui/controls/Toggles.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
-#include "ui/controls/theme/Painting.h"
 #include "ui/sheets/SheetParts.h"
 
 #include <QGridLayout>
 #include <QPainter>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace Quorbel {
@@ -22,8 +20,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Points.
-constexpr qreal sheetWidth = 470;
-constexpr qreal padding = 24;
 constexpr qreal tileGap = 16;
 constexpr qreal messageGap = 5;
 constexpr qreal listGap = 14;
@@ -33,9 +29,56 @@ constexpr qreal changeSide = 12;
 constexpr qreal changeAbove = 6;
 constexpr qreal mostListHeight = 190;
 
+/// What a batch write will change in one field.
+struct ChangeLine {
+    QString label{};
+    QString value{};
+};
+
 bool isSingle(const AppModel& model)
 {
     return model.selection().size() == 1;
+}
+
+QString titleText(const AppModel& model)
+{
+    if (!isSingle(model))
+        return u"Apply changes to %1 photos?"_s.arg(model.selection().size());
+    const ImageRecord* record = model.primaryRecord();
+    return u"Save changes to “"_s + (record ? record->fileName : QString()) + u"”?"_s;
+}
+
+/// Scalar fields by id, then lists by id. Empty for one photo.
+QList<ChangeLine> changeLines(const AppModel& model)
+{
+    if (isSingle(model))
+        return {};
+    QList<ChangeLine> lines;
+    QStringList ids = model.batchInclude().values();
+    ids.sort();
+    for (const QString& id : std::as_const(ids))
+        if (const FieldSpec* field = FieldSchema::spec(id); field && !field->isList())
+            lines.append({ field->label, u'“' + model.batchValues().value(id) + u'”' });
+    const QMap<QString, QStringList> lists = model.nonEmptyBatchLists();
+    for (auto list = lists.cbegin(); list != lists.cend(); ++list)
+        if (const FieldSpec* field = FieldSchema::spec(list.key()))
+            lines.append({ field->label, list.value().join(u", "_s) });
+    return lines;
+}
+
+QString messageText(const AppModel& model)
+{
+    if (isSingle(model)) {
+        const int count = model.unsavedCount();
+        return u"You edited %1 field%2. Your changes will be lost if you don’t save them."_s.arg(count).arg(
+            count == 1 ? QString() : u"s"_s);
+    }
+    QStringList labels;
+    for (const ChangeLine& line : changeLines(model))
+        labels.append(line.label);
+    const QString fields = labels.isEmpty() ? u"the selected fields"_s : labels.join(u", "_s);
+    return u"This will modify %1 on %2 files. This can’t be undone."_s.arg(
+        fields, QString::number(model.selection().size()));
 }
 
 /// The rows of the change list, with a hairline between them.
@@ -46,12 +89,8 @@ public:
     {
         m_grid->setColumnStretch(1, 1);
         for (int i = 0; i < int(lines.size()); ++i) {
-            auto* label = new ThemedLabel(lines.at(i).label, TextRole::label, 13);
-            auto* value = new ThemedLabel(lines.at(i).value, TextRole::text, 13);
-            label->setWordWrap(true);
-            value->setWordWrap(true);
-            m_grid->addWidget(label, i, 0, Qt::AlignTop);
-            m_grid->addWidget(value, i, 1, Qt::AlignTop);
+            m_grid->addWidget(ThemedLabel::wrapped(lines.at(i).label, TextRole::label, 13), i, 0, Qt::AlignTop);
+            m_grid->addWidget(ThemedLabel::wrapped(lines.at(i).value, TextRole::text, 13), i, 1, Qt::AlignTop);
         }
         onRestyle(this, [this] {
             m_grid->setContentsMargins(px(changeSide), px(changeAbove), px(changeSide), px(changeAbove));
@@ -75,20 +114,14 @@ private:
 };
 
 /// A framed list as high as its content, up to a limit beyond which it scrolls.
-class ChangeList final : public QScrollArea {
+class ChangeList final : public ScrollArea {
 public:
     explicit ChangeList(const QList<ChangeLine>& lines)
     {
-        setFrameShape(QFrame::NoFrame);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setWidgetResizable(true);
-        setViewportMargins(1, 1, 1, 1);
-        viewport()->setAutoFillBackground(false);
-        setWidget(new ChangeTable(lines));
-        widget()->setAutoFillBackground(false);
+        setFramed(true);
+        setContent(new ChangeTable(lines));
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         setAccessibleName(u"Changes"_s);
-        OverlayScrollBar::attach(this);
         // Only a list that scrolls needs the keyboard.
         setFocusPolicy(sizeHint().height() < contentHeight() ? Qt::TabFocus : Qt::NoFocus);
         installFocusRing(this, { RingShape::tight, 7, {}, {} });
@@ -97,20 +130,8 @@ public:
     QSize sizeHint() const override { return { listWidth(), qMin(px(mostListHeight), contentHeight()) }; }
     QSize minimumSizeHint() const override { return sizeHint(); }
 
-protected:
-    bool event(QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint) {
-            const Theme& theme = Theme::of(this);
-            QPainter painter(this);
-            paintBox(painter, rect(), pxF(7), theme.field, QPen(theme.line, 1));
-            return true;
-        }
-        return QScrollArea::event(event);
-    }
-
 private:
-    static int listWidth() { return px(sheetWidth - 2 * padding - 46 - tileGap); }
+    static int listWidth() { return px(sheetWidth - 2 * sheetPadding - SymbolTile::side - tileGap); }
     int contentHeight() const { return widget()->heightForWidth(listWidth() - 2) + 2; }
 };
 
@@ -130,9 +151,8 @@ SaveDialogView::SaveDialogView(AppModel& model, QWidget* parent)
     column->addLayout(line);
     QHBoxLayout* buttons = sheetButtonRow(this, buildButtons());
     column->addLayout(buttons);
-    onRestyle(this, [this, column, line] {
-        setFixedWidth(px(sheetWidth));
-        column->setContentsMargins(px(padding), px(padding), px(padding), px(padding));
+    frameSheet(this, column);
+    onRestyle(this, [column, line] {
         column->setSpacing(px(buttonsAbove));
         line->setSpacing(px(tileGap));
     });
@@ -141,10 +161,8 @@ SaveDialogView::SaveDialogView(AppModel& model, QWidget* parent)
 QVBoxLayout* SaveDialogView::buildTexts()
 {
     auto* texts = new QVBoxLayout;
-    auto* title = new ThemedLabel(titleText(m_model), TextRole::text, 15, QFont::DemiBold);
-    auto* message = new ThemedLabel(messageText(m_model), TextRole::label, 13);
-    title->setWordWrap(true);
-    message->setWordWrap(true);
+    auto* title = ThemedLabel::wrapped(titleText(m_model), TextRole::text, 15, QFont::DemiBold);
+    auto* message = ThemedLabel::wrapped(messageText(m_model), TextRole::label, 13);
     QWidget* changes = buildChanges();
     buildCheckbox();
     QList<SheetPart> parts{ { title, messageGap }, { message, listGap } };
@@ -208,46 +226,6 @@ void SaveDialogView::cancel()
 QWidget* SaveDialogView::initialFocus()
 {
     return m_confirm;
-}
-
-QString SaveDialogView::titleText(const AppModel& model)
-{
-    if (!isSingle(model))
-        return u"Apply changes to %1 photos?"_s.arg(model.selection().size());
-    const ImageRecord* record = model.primaryRecord();
-    return u"Save changes to “"_s + (record ? record->fileName : QString()) + u"”?"_s;
-}
-
-QString SaveDialogView::messageText(const AppModel& model)
-{
-    if (isSingle(model)) {
-        const int count = model.unsavedCount();
-        return u"You edited %1 field%2. Your changes will be lost if you don’t save them."_s.arg(count).arg(
-            count == 1 ? QString() : u"s"_s);
-    }
-    QStringList labels;
-    for (const ChangeLine& line : changeLines(model))
-        labels.append(line.label);
-    const QString fields = labels.isEmpty() ? u"the selected fields"_s : labels.join(u", "_s);
-    return u"This will modify %1 on %2 files. This can’t be undone."_s.arg(
-        fields, QString::number(model.selection().size()));
-}
-
-QList<ChangeLine> SaveDialogView::changeLines(const AppModel& model)
-{
-    if (isSingle(model))
-        return {};
-    QList<ChangeLine> lines;
-    QStringList ids = model.batchInclude().values();
-    ids.sort();
-    for (const QString& id : std::as_const(ids))
-        if (const FieldSpec* field = FieldSchema::spec(id); field && !field->isList())
-            lines.append({ field->label, u'“' + model.batchValues().value(id) + u'”' });
-    const QMap<QString, QStringList> lists = model.nonEmptyBatchLists();
-    for (auto list = lists.cbegin(); list != lists.cend(); ++list)
-        if (const FieldSpec* field = FieldSchema::spec(list.key()))
-            lines.append({ field->label, list.value().join(u", "_s) });
-    return lines;
 }
 
 }  // namespace Quorbel

@@ -12,13 +12,6 @@ class AppModel;
 class QBButton;
 class QBCheckbox;
 
-/// What a batch write will change, field by field.
-struct ChangeLine {
-    QString label{};
-    QString value{};
-    bool operator==(const ChangeLine&) const = default;
-};
-
 class SaveDialogView final : public SheetBody {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(SaveDialogView)
@@ -30,11 +23,6 @@ public:
     void confirm() override;
     void cancel() override;
     QWidget* initialFocus() override;
-
-    static QString titleText(const AppModel& model);
-    static QString messageText(const AppModel& model);
-    /// Scalar fields by id, then lists by id. Empty for one photo.
-    static QList<ChangeLine> changeLines(const AppModel& model);
 
 private:
     QVBoxLayout* buildTexts();

@@ -1,9 +1,11 @@
 #include "ui/sheets/Sheet.h"
 
 #include "ui/controls/Accessibility.h"
+#include "ui/controls/theme/AnimatedValue.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Shadow.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/sheets/SheetParts.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -12,7 +14,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QVBoxLayout>
-#include <QVariantAnimation>
 
 namespace Quorbel {
 
@@ -20,7 +21,6 @@ namespace {
 
 constexpr qreal cornerRadius = 12;  // points, as all below
 constexpr qreal titleHeight = 46;
-constexpr qreal titlePadding = 24;
 constexpr qreal rise = 8;  // how far a sheet moves up while it fades in
 constexpr qreal windowMargin = 12;
 
@@ -39,12 +39,13 @@ public:
     SheetFrame(SheetBody* body, QWidget* parent)
         : QWidget(parent)
         , m_body(body)
+        , m_shown(this, Duration::sheetIn, QEasingCurve::OutCubic, [this] { showStep(); })
     {
         auto* column = new QVBoxLayout(this);
         column->setSpacing(0);
         column->addWidget(body);
         onRestyle(this, [this, column] { column->setContentsMargins(0, hasTitle() ? px(titleHeight) : 0, 0, 0); });
-        installAccessibility();
+        describeAs(staticMetaObject, QAccessible::Dialog);
         setAccessibleName(hasTitle() ? body->title() : body->accessibleName());
         setAccessibleDescription(body->accessibleDescription());
         setFocusPolicy(Qt::NoFocus);
@@ -52,26 +53,14 @@ public:
 
     SheetBody* body() const { return m_body; }
 
-    /// Fades and moves the sheet in; `step` follows every change.
-    void fadeIn(const std::function<void()>& step)
+    /// Fades and moves the sheet in.
+    void fadeIn()
     {
         setGraphicsEffect(new QGraphicsOpacityEffect(this));
-        auto* animation = new QVariantAnimation(this);
-        animation->setStartValue(0.0);
-        animation->setEndValue(1.0);
-        animation->setDuration(Duration::sheetIn);
-        animation->setEasingCurve(QEasingCurve::OutCubic);
-        connect(animation, &QVariantAnimation::valueChanged, this, [this, step](const QVariant& value) {
-            m_shown = value.toReal();
-            static_cast<QGraphicsOpacityEffect*>(graphicsEffect())->setOpacity(m_shown);
-            place();
-            step();
-        });
-        connect(animation, &QVariantAnimation::finished, this, [this] { setGraphicsEffect(nullptr); });
-        animation->start(QAbstractAnimation::DeleteWhenStopped);
+        m_shown.moveTo(1, [this] { setGraphicsEffect(nullptr); });
     }
 
-    qreal shown() const { return m_shown; }
+    qreal shown() const { return m_shown.value(); }
 
     /// Centred in the host, and inside it wherever it fits.
     void place()
@@ -80,7 +69,7 @@ public:
         const QSize size = sizeHint().expandedTo(minimumSizeHint());
         const int margin = px(windowMargin);
         const int y = qMax(margin, (host->height() - size.height()) / 2);
-        setGeometry(qMax(0, (host->width() - size.width()) / 2), y + qRound((1 - m_shown) * px(rise)), size.width(),
+        setGeometry(qMax(0, (host->width() - size.width()) / 2), y + qRound((1 - shown()) * px(rise)), size.width(),
             qMin(size.height(), host->height() - 2 * margin));
     }
 
@@ -160,16 +149,25 @@ private:
         painter.restore();
         painter.setPen(theme.text);
         painter.setFont(sansFont(13, QFont::DemiBold));
-        painter.drawText(bar.adjusted(px(titlePadding), 0, -px(titlePadding), -1), Qt::AlignVCenter | Qt::AlignLeft,
+        painter.drawText(bar.adjusted(px(sheetPadding), 0, -px(sheetPadding), -1), Qt::AlignVCenter | Qt::AlignLeft,
             m_body->title());
     }
 
+    void showStep()
+    {
+        if (auto* effect = static_cast<QGraphicsOpacityEffect*>(graphicsEffect()))
+            effect->setOpacity(shown());
+        place();
+        parentWidget()->update();
+    }
+
     SheetBody* m_body;
-    qreal m_shown = 1;
+    AnimatedValue m_shown;
 };
 
 SheetHost::SheetHost(QWidget* window)
     : QWidget(window)
+    , m_leavingOpacity(this, Duration::sheetOut)
 {
     hide();
     window->installEventFilter(this);
@@ -194,8 +192,7 @@ void SheetHost::present(SheetBody* body)
     frame->raise();
     frame->place();
     m_leaving = {};
-    if (motionEnabled(this))
-        frame->fadeIn([this] { update(); });
+    frame->fadeIn();
     focusTop();
     update();
     if (first)
@@ -231,22 +228,14 @@ void SheetHost::dismiss(SheetBody* body)
 // The sheet is gone at once for whoever asks; only its picture still fades, and lets everything through.
 void SheetHost::fadeOut(SheetFrame* frame)
 {
-    m_leaving = { frame->grab(), frame->geometry(), 1 };
+    m_leaving = { frame->grab(), frame->geometry() };
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    auto* animation = new QVariantAnimation(this);
-    animation->setStartValue(1.0);
-    animation->setEndValue(0.0);
-    animation->setDuration(Duration::sheetOut);
-    connect(animation, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-        m_leaving.opacity = value.toReal();
-        update();
-    });
-    connect(animation, &QVariantAnimation::finished, this, [this] {
+    m_leavingOpacity.jumpTo(1);
+    m_leavingOpacity.moveTo(0, [this] {
         m_leaving = {};
         if (m_frames.isEmpty())
             hide();
     });
-    animation->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
 SheetBody* SheetHost::current() const
@@ -274,7 +263,7 @@ void SheetHost::paintEvent(QPaintEvent*)
         paintShadow(painter, frame->geometry(), pxF(cornerRadius), Shadow::sheet, theme);
     }
     if (!m_leaving.picture.isNull()) {
-        painter.setOpacity(m_leaving.opacity);
+        painter.setOpacity(m_leavingOpacity.value());
         painter.fillRect(rect(), theme.derived.dim);
         painter.drawPixmap(m_leaving.rect.topLeft(), m_leaving.picture);
     }

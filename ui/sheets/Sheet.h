@@ -2,6 +2,8 @@
 // Thread: the main thread. Knows nothing of what a sheet is about: that is its body's matter.
 #pragma once
 
+#include "ui/controls/theme/AnimatedValue.h"
+
 #include <QList>
 #include <QPixmap>
 #include <QPointer>
@@ -62,7 +64,6 @@ private:
     struct Leaving {
         QPixmap picture{};
         QRect rect{};
-        qreal opacity = 0;
     };
 
     void fadeOut(SheetFrame* frame);
@@ -72,6 +73,7 @@ private:
     QList<SheetFrame*> m_frames;
     QPointer<QWidget> m_focusBefore;
     Leaving m_leaving{};
+    AnimatedValue m_leavingOpacity;
 };
 
 }  // namespace Quorbel

@@ -14,17 +14,25 @@ namespace Quorbel {
 
 namespace {
 // Points.
-constexpr qreal tileSize = 46;
 constexpr qreal tileRadius = 11;
 constexpr qreal symbolSize = 22;
 constexpr qreal buttonGap = 8;
 }  // namespace
 
+void frameSheet(QWidget* sheet, QLayout* column, qreal width)
+{
+    onRestyle(sheet, [=] {
+        const int padding = px(sheetPadding);
+        sheet->setFixedWidth(px(width));
+        column->setContentsMargins(padding, padding, padding, padding);
+    });
+}
+
 SymbolTile::SymbolTile(const QString& icon, QWidget* parent)
     : QWidget(parent)
     , m_icon(icon)
 {
-    onRestyle(this, [this] { setFixedSize(px(tileSize), px(tileSize)); });
+    onRestyle(this, [this] { setFixedSize(px(side), px(side)); });
 }
 
 void SymbolTile::paintEvent(QPaintEvent*)

@@ -5,18 +5,28 @@
 #include <QWidget>
 
 class QHBoxLayout;
+class QLayout;
 class QVBoxLayout;
 
 namespace Quorbel {
 
 class QBButton;
 
-/// The amber square with a symbol, 46 points, at the left of a message.
+// Points.
+constexpr qreal sheetWidth = 470;
+constexpr qreal sheetPadding = 24;
+
+/// Gives a sheet its width and its column the padding.
+void frameSheet(QWidget* sheet, QLayout* column, qreal width = sheetWidth);
+
+/// The amber square with a symbol at the left of a message.
 class SymbolTile final : public QWidget {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(SymbolTile)
 
 public:
+    static constexpr qreal side = 46;  // points
+
     explicit SymbolTile(const QString& icon, QWidget* parent = nullptr);
 
 protected:

@@ -19,7 +19,7 @@ ThumbnailView::ThumbnailView(ThumbnailStore* thumbs, qreal size, qreal corner, Q
     , m_size(size)
     , m_corner(corner)
 {
-    installAccessibility();
+    describeAs(staticMetaObject, QAccessible::Graphic);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     onRestyle(this, [this] { updateGeometry(); });
     if (!m_thumbs)

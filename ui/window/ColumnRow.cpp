@@ -4,7 +4,6 @@
 #include "ui/controls/theme/Metrics.h"
 
 #include <QEvent>
-#include <QVariantAnimation>
 
 namespace Quorbel {
 
@@ -15,12 +14,13 @@ namespace {
 constexpr int previewShare = 375;
 constexpr int greatestInspector = 520;
 
-}  // namespace
-
-int Columns::inspectorWidth(int width, int sidebar, int handle)
+/// The inspector's beside a shown preview, for a row `width` wide.
+int inspectorWidth(int width, int sidebar, int handle)
 {
-    return qBound(minInspector, width - sidebar - handle - previewShare, greatestInspector);
+    return qBound(Columns::minInspector, width - sidebar - handle - previewShare, greatestInspector);
 }
+
+}  // namespace
 
 ColumnRow::ColumnRow(QWidget* sidebar, QWidget* inspector, QWidget* preview, double sidebarWidth, QWidget* parent)
     : QWidget(parent)
@@ -29,18 +29,12 @@ ColumnRow::ColumnRow(QWidget* sidebar, QWidget* inspector, QWidget* preview, dou
           Columns::maxSidebar, Columns::defaultSidebar))
     , m_inspector(inspector)
     , m_preview(preview)
-    , m_slide(new QVariantAnimation(this))
+    , m_reveal(this, Duration::column, QEasingCurve::OutCubic, [this] { arrange(); })
 {
     // In this order, which is also that of the Tab key.
     for (QWidget* column : { m_sidebar, static_cast<QWidget*>(m_handle), m_inspector, m_preview })
         column->setParent(this);
     m_preview->hide();
-    m_slide->setDuration(Duration::column);
-    m_slide->setEasingCurve(QEasingCurve::OutCubic);
-    connect(m_slide, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-        m_reveal = value.toReal();
-        arrange();
-    });
     connect(m_handle, &ResizeHandle::widthChanged, this, &ColumnRow::arrange);
     connect(m_handle, &ResizeHandle::widthSettled, this, &ColumnRow::sidebarWidthSettled);
 }
@@ -66,16 +60,7 @@ void ColumnRow::slidePreview()
 {
     m_wasShown = previewShown();
     emit previewShownChanged(m_wasShown);
-    m_slide->stop();
-    const qreal target = m_wasShown ? 1 : 0;
-    if (isVisible() && motionEnabled(this)) {
-        m_slide->setStartValue(m_reveal);
-        m_slide->setEndValue(target);
-        m_slide->start();
-    } else {
-        m_reveal = target;
-        arrange();
-    }
+    m_reveal.moveTo(m_wasShown ? 1 : 0);
 }
 
 void ColumnRow::resizeEvent(QResizeEvent* event)
@@ -84,8 +69,7 @@ void ColumnRow::resizeEvent(QResizeEvent* event)
     // A window that crosses the threshold while it is resized takes its new form at once.
     if (previewShown() != m_wasShown) {
         m_wasShown = previewShown();
-        m_slide->stop();
-        m_reveal = m_wasShown ? 1 : 0;
+        m_reveal.jumpTo(m_wasShown ? 1 : 0);
         emit previewShownChanged(m_wasShown);
     }
     arrange();
@@ -104,13 +88,13 @@ void ColumnRow::arrange()
     const int sidebar = qRound(sidebarWidth());
     const int left = sidebar + handle;
     const int rest = width() - left;
-    const int beside = Columns::inspectorWidth(width(), sidebar, handle);
-    const int inspector = qRound(rest + (beside - rest) * m_reveal);
+    const int beside = inspectorWidth(width(), sidebar, handle);
+    const int inspector = qRound(rest + (beside - rest) * m_reveal.value());
     m_sidebar->setGeometry(0, 0, sidebar, height());
     m_handle->setGeometry(sidebar, 0, handle, height());
     m_inspector->setGeometry(left, 0, inspector, height());
     m_preview->setGeometry(left + inspector, 0, rest - beside, height());
-    m_preview->setVisible(m_reveal > 0);
+    m_preview->setVisible(m_reveal.value() > 0);
 }
 
 }  // namespace Quorbel

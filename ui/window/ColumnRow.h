@@ -2,9 +2,9 @@
 // Thread: the main thread. Knows nothing of what the columns show; it gives them their widths.
 #pragma once
 
-#include <QWidget>
+#include "ui/controls/theme/AnimatedValue.h"
 
-class QVariantAnimation;
+#include <QWidget>
 
 namespace Quorbel {
 
@@ -16,9 +16,6 @@ constexpr double maxSidebar = 420;
 constexpr double defaultSidebar = 288;
 constexpr int previewThreshold = 1100;  ///< row width from which the preview has room
 constexpr int minInspector = 430;
-
-/// The inspector's width beside a shown preview, for a row `width` wide.
-int inspectorWidth(int width, int sidebar, int handle);
 }  // namespace Columns
 
 class ColumnRow final : public QWidget {
@@ -33,7 +30,6 @@ public:
     void setPreviewWanted(bool wanted);
     /// Wanted, and the row is wide enough.
     bool previewShown() const;
-    double sidebarWidth() const;
     ResizeHandle* handle() const { return m_handle; }
 
 signals:
@@ -46,6 +42,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    double sidebarWidth() const;
     void arrange();
     void slidePreview();
 
@@ -53,10 +50,9 @@ private:
     ResizeHandle* m_handle;
     QWidget* m_inspector;
     QWidget* m_preview;
-    QVariantAnimation* m_slide;
     bool m_wanted = true;
     bool m_wasShown = false;
-    qreal m_reveal = 0;  ///< 0 the preview is away … 1 it is there, while it slides
+    AnimatedValue m_reveal;  ///< 0 the preview is away … 1 it is there, while it slides
 };
 
 }  // namespace Quorbel

@@ -4,7 +4,6 @@
 #include "core/Product.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/theme/Metrics.h"
-#include "ui/controls/theme/SystemScheme.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/sheets/Sheet.h"
 #include "ui/sidebar/SidebarList.h"
@@ -14,6 +13,7 @@
 #include "ui/window/FileDrop.h"
 #include "ui/window/LaunchView.h"
 #include "ui/window/PreviewColumnView.h"
+#include "ui/window/SystemScheme.h"
 #include "ui/window/WindowBar.h"
 #include "ui/window/WindowGrowth.h"
 

@@ -5,14 +5,13 @@
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Shadow.h"
+#include "ui/controls/theme/TextLines.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QAccessible>
 #include <QFontMetrics>
 #include <QGraphicsOpacityEffect>
 #include <QPainter>
-#include <QTextLayout>
-#include <QVariantAnimation>
 
 namespace Quorbel {
 
@@ -32,32 +31,10 @@ constexpr qreal crossSize = 22;
 constexpr qreal shadowRoom = 44;  // on every side of the notice
 constexpr int mostLines = 6;
 
-/// The message in lines of that width, broken within a word only where that is longer than a line. What does not fit
-/// ends in "…".
-QStringList linesOf(const QString& message, const QFont& font, int width)
-{
-    QTextLayout layout(message, font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setTextOption(option);
-    QStringList lines;
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        if (lines.size() == mostLines - 1) {
-            lines.append(QFontMetrics(font).elidedText(message.mid(line.textStart()), Qt::ElideRight, width));
-            break;
-        }
-        lines.append(message.mid(line.textStart(), line.textLength()).trimmed());
-    }
-    layout.endLayout();
-    return lines;
-}
-
 /// The banner's shadow: a widget of its own below it, so that clicks beside the notice reach what they are meant for.
-class Cast final : public QWidget {
+class BannerShadow final : public QWidget {
 public:
-    explicit Cast(QWidget* parent)
+    explicit BannerShadow(QWidget* parent)
         : QWidget(parent)
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -68,30 +45,17 @@ protected:
     {
         const int room = px(shadowRoom);
         QPainter painter(this);
-        paintShadow(painter, rect().adjusted(room, room, -room, -room), pxF(radius), Shadow::menu, Theme::of(this));
+        paintShadow(painter, rect().adjusted(room, room, -room, -room), pxF(radius), Shadow::notice, Theme::of(this));
     }
 };
-
-void fadeIn(QWidget* widget)
-{
-    auto* effect = new QGraphicsOpacityEffect(widget);
-    widget->setGraphicsEffect(effect);
-    auto* animation = new QVariantAnimation(widget);
-    animation->setStartValue(0.0);
-    animation->setEndValue(1.0);
-    animation->setDuration(Duration::banner);
-    QObject::connect(animation, &QVariantAnimation::valueChanged, effect,
-        [effect](const QVariant& value) { effect->setOpacity(value.toReal()); });
-    QObject::connect(animation, &QVariantAnimation::finished, widget, [widget] { widget->setGraphicsEffect(nullptr); });
-    animation->start(QAbstractAnimation::DeleteWhenStopped);
-}
 
 }  // namespace
 
 ErrorBanner::ErrorBanner(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
-    , m_cast(new Cast(parent))
+    , m_opacity(this, Duration::banner, QEasingCurve::Linear, [this] { showOpacity(); })
+    , m_shadow(new BannerShadow(parent))
     , m_close(new QBIconButton(u"xmark"_s, u"Dismiss"_s, this))
 {
     hide();
@@ -113,12 +77,13 @@ void ErrorBanner::follow()
     const bool wanted = m_model.errorMessage().has_value();
     setAccessibleName(message());
     setToolTip(message());
-    if (wanted && isHidden() && motionEnabled(this) && parentWidget() && parentWidget()->isVisible())
-        fadeIn(this);
-    m_cast->setVisible(wanted);
+    const bool appears = wanted && isHidden();
+    m_shadow->setVisible(wanted);
     setVisible(wanted);
+    if (appears)
+        fadeIn();
     if (wanted) {
-        m_cast->raise();
+        m_shadow->raise();
         raise();
         QAccessibleEvent event(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&event);
@@ -127,18 +92,32 @@ void ErrorBanner::follow()
     emit sizeChanged();
 }
 
+void ErrorBanner::fadeIn()
+{
+    setGraphicsEffect(new QGraphicsOpacityEffect(this));
+    m_opacity.jumpTo(0);
+    m_opacity.moveTo(1, [this] { setGraphicsEffect(nullptr); });
+}
+
+void ErrorBanner::showOpacity()
+{
+    if (auto* effect = static_cast<QGraphicsOpacityEffect*>(graphicsEffect()))
+        effect->setOpacity(m_opacity.value());
+}
+
 void ErrorBanner::place(int bottom)
 {
     if (isHidden() || !parentWidget())
         return;
     const int width = qMin(px(widest), parentWidget()->width() - 2 * px(20));
     const int textWidth = width - px(leftPadding + iconSize + gap + gap + crossSize + rightPadding);
-    m_lines = linesOf(message(), sansFont(13), textWidth);
+    m_lines = brokenIntoLines(message(), sansFont(13), textWidth, LineBreaks::words, mostLines);
+    m_lines.last() = QFontMetrics(sansFont(13)).elidedText(m_lines.constLast(), Qt::ElideRight, textWidth);
     const int textHeight = int(m_lines.size()) * QFontMetrics(sansFont(13)).lineSpacing();
     const int height = qMax(textHeight, px(18)) + 2 * px(verticalPadding);
     setGeometry((parentWidget()->width() - width) / 2, bottom - height, width, height);
     const int room = px(shadowRoom);
-    m_cast->setGeometry(geometry().adjusted(-room, -room, room, room));
+    m_shadow->setGeometry(geometry().adjusted(-room, -room, room, room));
     m_close->resize(m_close->sizeHint());
     m_close->move(width - px(rightPadding) - m_close->width(), px(verticalPadding) - px(2));
 }

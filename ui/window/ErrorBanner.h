@@ -2,6 +2,8 @@
 // Thread: the main thread. It hides only when the message goes; its cross takes the message away.
 #pragma once
 
+#include "ui/controls/theme/AnimatedValue.h"
+
 #include <QWidget>
 
 namespace Quorbel {
@@ -28,12 +30,15 @@ protected:
 
 private:
     void follow();
+    void fadeIn();
+    void showOpacity();
     QString message() const;
     QRect textRect() const;
 
     AppModel& m_model;
     QStringList m_lines;  ///< of the message, as place() broke it
-    QWidget* m_cast;  ///< paints the shadow
+    AnimatedValue m_opacity;
+    QWidget* m_shadow;  ///< paints the shadow
     QBIconButton* m_close;
 };
 

@@ -1,18 +1,18 @@
 #include "ui/window/HelpView.h"
 
+#include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/ScrollArea.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/SymbolText.h"
+#include "ui/controls/theme/TextLines.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
-#include <QScrollArea>
 #include <QStyledItemDelegate>
 #include <QTextLayout>
 #include <QVBoxLayout>
@@ -83,7 +83,7 @@ public:
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override
     {
-        return forLines(width, [](QTextLine&, qreal) {});
+        return forLines(width, [](const QTextLine&, int) {});
     }
     QSize sizeHint() const override { return { px(widestText), heightForWidth(px(widestText)) }; }
     QSize minimumSizeHint() const override { return { px(100), px(lineHeight) }; }
@@ -93,25 +93,21 @@ protected:
     {
         QPainter painter(this);
         painter.setPen(Theme::of(this).text);
-        forLines(width(), [&](QTextLine& line, qreal y) {
+        forLines(width(), [&](const QTextLine& line, int y) {
             line.draw(&painter, QPointF(0, y + (pxF(lineHeight) - line.height()) / 2));
         });
     }
 
 private:
     /// Calls `use` for each line with its top; the height of all.
-    template <typename Use>
-    int forLines(int width, Use use) const
+    int forLines(int width, const std::function<void(QTextLine&, int)>& use) const
     {
-        QTextLayout layout(text(), font());
-        layout.beginLayout();
         int y = 0;
-        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-            line.setLineWidth(width);
+        forEachLine(text(), font(), width, QTextOption::WordWrap, [&](QTextLine& line) {
             use(line, y);
             y += px(lineHeight);
-        }
-        layout.endLayout();
+            return true;
+        });
         return y;
     }
 };
@@ -201,25 +197,20 @@ public:
 };
 
 HelpView::HelpView(QWidget* parent)
-    : QWidget(parent)
+    : SideWindow(u"Quorbel Help"_s, parent)
     , m_topics(new TopicList(this))
-    , m_page(new QScrollArea(this))
+    , m_page(new ScrollArea(this))
 {
-    setWindowTitle(u"Quorbel Help"_s);
-    m_page->setFrameShape(QFrame::NoFrame);
-    m_page->setWidgetResizable(true);
-    m_page->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_page->viewport()->setAutoFillBackground(false);
-    OverlayScrollBar::attach(m_page);
+    describeAs(staticMetaObject, QAccessible::Window);
     connect(m_topics, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0)
-            setSelection(allCases<HelpTopic>().at(row));
+            select(allCases<HelpTopic>().at(row));
     });
     onRestyle(this, [this] { setMinimumSize(px(smallestWindow.width()), px(smallestWindow.height())); });
     showTopic();
 }
 
-void HelpView::setSelection(HelpTopic topic)
+void HelpView::select(HelpTopic topic)
 {
     if (topic == m_selection)
         return;
@@ -231,18 +222,8 @@ void HelpView::showTopic()
 {
     m_topics->setCurrentRow(static_cast<int>(allCases<HelpTopic>().indexOf(m_selection)));
     QWidget* page = makePage(m_selection);
-    page->setAutoFillBackground(false);
-    m_page->setWidget(page);
+    m_page->setContent(page);
     m_page->setAccessibleName(title(m_selection));
-    page->setAutoFillBackground(false);
-}
-
-void HelpView::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape || event->matches(QKeySequence::Close))
-        close();
-    else
-        QWidget::keyPressEvent(event);
 }
 
 void HelpView::resizeEvent(QResizeEvent* event)

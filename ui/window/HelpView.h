@@ -2,36 +2,31 @@
 #pragma once
 
 #include "ui/window/HelpTopics.h"
-
-#include <QWidget>
-
-class QScrollArea;
+#include "ui/window/SideWindow.h"
 
 namespace Quorbel {
 
+class ScrollArea;
 class TopicList;
 
-class HelpView final : public QWidget {
+class HelpView final : public SideWindow {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(HelpView)
 
 public:
     explicit HelpView(QWidget* parent = nullptr);
 
-    HelpTopic selection() const { return m_selection; }
-    void setSelection(HelpTopic topic);
-
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void select(HelpTopic topic);
     void showTopic();
 
     HelpTopic m_selection = HelpTopic::gettingStarted;
     TopicList* m_topics;
-    QScrollArea* m_page;
+    ScrollArea* m_page;
 };
 
 }  // namespace Quorbel

@@ -53,7 +53,6 @@ public:
         onRestyle(this, [this] { setFixedSize(px(boxSize.width()), px(boxSize.height())); });
     }
 
-    bool targeted() const { return m_targeted; }
     void setTargeted(bool targeted)
     {
         m_targeted = targeted;
@@ -127,11 +126,6 @@ LaunchView::LaunchView(AppModel& model, QWidget* parent)
         progress->setGeometry(0, px(buttonsGap), block.width(), block.height());
         room->setFixedSize(block.width(), progress->geometry().bottom() + 1);
     });
-}
-
-bool LaunchView::isTargeted() const
-{
-    return m_box->targeted();
 }
 
 void LaunchView::setTargeted(bool targeted)

@@ -16,7 +16,6 @@ class LaunchView final : public QWidget {
 public:
     explicit LaunchView(AppModel& model, QWidget* parent = nullptr);
 
-    bool isTargeted() const;
     /// True while a drag hovers over the window.
     void setTargeted(bool targeted);
 

@@ -34,7 +34,7 @@ QSizeF scaledToUi(QSizeF points)
     return { pxF(points.width()), pxF(points.height()) };
 }
 
-QRectF centred(QSizeF size, const QRectF& in)
+QRectF centered(QSizeF size, const QRectF& in)
 {
     return QRectF(
         QPointF(qRound(in.center().x() - size.width() / 2), qRound(in.center().y() - size.height() / 2)), size);
@@ -134,13 +134,13 @@ void PreviewColumnView::paintOne(QPainter& painter)
     if (entry.image.isNull()) {
         const ImageRecord* photo = m_model.primaryRecord();
         const bool badge = entry.state == ThumbnailStore::State::badge && photo;
-        paintPlaceholder(painter, centred(scaledToUi(placeholderSize).boundedTo(space.size()), space),
+        paintPlaceholder(painter, centered(scaledToUi(placeholderSize).boundedTo(space.size()), space),
             badge ? photo->fileType : QString());
         return;
     }
     const QSizeF bound(qMin(space.width(), pxF(widestPhoto)), space.height());
     const QSizeF size = QSizeF(entry.image.size()).scaled(bound, Qt::KeepAspectRatio);
-    const QRectF place = centred(size, space);
+    const QRectF place = centered(size, space);
     paintShadow(painter, place, pxF(photoRadius), Shadow::photo, Theme::of(this));
     painter.setClipPath(rounded(place, pxF(photoRadius)), Qt::IntersectClip);
     painter.drawPixmap(place, scaled(entry.image, (size * devicePixelRatioF()).toSize(), 0), QRectF());
@@ -155,7 +155,7 @@ void PreviewColumnView::paintCards(QPainter& painter)
     const qreal textTop = pxF(textUnderCards);
     const qreal textHeight = px(18);
     const QSizeF whole(card.width() + behind * step, card.height() + behind * step + textTop + textHeight);
-    const QRectF block = centred(whole, stage());
+    const QRectF block = centered(whole, stage());
     const QRectF front(block.left(), block.top() + behind * step, card.width(), card.height());
     for (auto i = behind; i >= 0; --i)
         paintCard(painter, front.translated(i * step, -i * step), m_urls.at(i), static_cast<int>(i));

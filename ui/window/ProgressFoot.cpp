@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
+#include "ui/controls/theme/AnimatedValue.h"
 #include "ui/controls/theme/Metrics.h"
 
 #include <QAccessible>
@@ -10,7 +11,6 @@
 #include <QLocale>
 #include <QPainter>
 #include <QVBoxLayout>
-#include <QVariantAnimation>
 
 namespace Quorbel {
 
@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int patience = 400;  // milliseconds
+constexpr int showDelay = 400;  // milliseconds
 // Points.
 constexpr qreal footHeight = 54;
 constexpr qreal sidePadding = 12;
@@ -31,27 +31,18 @@ class ProgressBar final : public QWidget {
 public:
     explicit ProgressBar(QWidget* parent)
         : QWidget(parent)
+        , m_shown(this, Duration::progress)
     {
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        connect(&m_move, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-            m_shown = value.toReal();
-            update();
-        });
     }
 
     /// 0…1. Backwards, as when other work begins, it jumps.
     void setFraction(qreal fraction)
     {
-        m_move.stop();
-        if (fraction > m_shown && isVisible() && motionEnabled(this)) {
-            m_move.setStartValue(m_shown);
-            m_move.setEndValue(fraction);
-            m_move.setDuration(Duration::progress);
-            m_move.start();
-            return;
-        }
-        m_shown = fraction;
-        update();
+        if (fraction > m_shown.value())
+            m_shown.moveTo(fraction);
+        else
+            m_shown.jumpTo(fraction);
     }
 
     QSize sizeHint() const override { return { px(100), px(barHeight) }; }
@@ -66,15 +57,14 @@ protected:
         const qreal radius = height() / 2.0;
         painter.setBrush(theme.derived.track);
         painter.drawRoundedRect(rect(), radius, radius);
-        if (m_shown <= 0)
+        if (m_shown.value() <= 0)
             return;
         painter.setBrush(theme.accent);
-        painter.drawRoundedRect(QRectF(0, 0, qMax(2 * radius, width() * m_shown), height()), radius, radius);
+        painter.drawRoundedRect(QRectF(0, 0, qMax(2 * radius, width() * m_shown.value()), height()), radius, radius);
     }
 
 private:
-    QVariantAnimation m_move;
-    qreal m_shown = 0;
+    AnimatedValue m_shown;
 };
 
 ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
@@ -106,9 +96,9 @@ ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
     });
 
     hide();
-    m_patience.setSingleShot(true);
-    m_patience.setInterval(patience);
-    connect(&m_patience, &QTimer::timeout, this, &ProgressFoot::showProgress);
+    m_showDelay.setSingleShot(true);
+    m_showDelay.setInterval(showDelay);
+    connect(&m_showDelay, &QTimer::timeout, this, &ProgressFoot::showProgress);
     connect(m_skip, &QAbstractButton::clicked, &model, &AppModel::skipStalledFile);
     connect(m_cancel, &QAbstractButton::clicked, &model, &AppModel::cancelRead);
     connect(&model, &AppModel::progressChanged, this, &ProgressFoot::follow);
@@ -133,11 +123,11 @@ void ProgressFoot::follow()
     if (m_model.progress()) {
         if (!isHidden())
             showProgress();
-        else if (!m_patience.isActive())
-            m_patience.start();
+        else if (!m_showDelay.isActive())
+            m_showDelay.start();
         return;
     }
-    m_patience.stop();
+    m_showDelay.stop();
     m_bar->setFraction(0);
     if (!isHidden()) {
         hide();

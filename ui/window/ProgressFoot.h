@@ -6,8 +6,6 @@
 #include <QTimer>
 #include <QWidget>
 
-class QVariantAnimation;
-
 namespace Quorbel {
 
 class AppModel;
@@ -43,7 +41,7 @@ private:
     QBTextButton* m_skip;
     QBTextButton* m_cancel;
     ProgressBar* m_bar;
-    QTimer m_patience;
+    QTimer m_showDelay;
     bool m_lined = true;
 };
 

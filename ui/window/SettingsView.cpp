@@ -2,17 +2,16 @@
 
 #include "app/model/AppModel.h"
 #include "platform/places/search/PlaceProvider.h"
+#include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/Marks.h"
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/ScrollArea.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/Toggles.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QPainter>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace Quorbel {
@@ -55,8 +54,7 @@ public:
         control->setAccessibleDescription(help);
         ThemedLabel* note = nullptr;
         if (!help.isEmpty()) {
-            note = new ThemedLabel(help, TextRole::label, 11.5);
-            note->setWordWrap(true);
+            note = ThemedLabel::wrapped(help, TextRole::label, 11.5);
             column->addWidget(note);
         }
         const bool isField = qobject_cast<QLineEdit*>(control);
@@ -109,16 +107,12 @@ int indexOf(std::optional<ColorScheme> scheme)
 }  // namespace
 
 SettingsView::SettingsView(AppModel& model, QWidget* parent)
-    : QWidget(parent)
+    : SideWindow(u"Settings"_s, parent)
     , m_model(model)
 {
-    setWindowTitle(u"Settings"_s);
-    auto* area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    describeAs(staticMetaObject, QAccessible::Dialog);
+    auto* area = new ScrollArea;
     area->setFocusPolicy(Qt::NoFocus);
-    OverlayScrollBar::attach(area);
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
     column->setSpacing(0);
@@ -127,7 +121,7 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     addRenaming(column);
     addPlaces(column);
     column->addStretch();
-    area->setWidget(page);
+    area->setContent(page);
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(area);
@@ -237,14 +231,6 @@ QWidget* SettingsView::toggle(const QString& name, Setting<bool>& setting)
     connect(
         &m_model.preferences(), &Preferences::changed, toggle, [toggle, &setting] { toggle->setChecked(setting()); });
     return toggle;
-}
-
-void SettingsView::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape || event->matches(QKeySequence::Close))
-        close();
-    else
-        QWidget::keyPressEvent(event);
 }
 
 void SettingsView::paintEvent(QPaintEvent*)

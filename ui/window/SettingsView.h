@@ -2,7 +2,7 @@
 // Each control shows its preference and writes it at once; there is nothing to apply.
 #pragma once
 
-#include <QWidget>
+#include "ui/window/SideWindow.h"
 
 class QVBoxLayout;
 
@@ -12,7 +12,7 @@ class AppModel;
 template <typename T>
 class Setting;
 
-class SettingsView final : public QWidget {
+class SettingsView final : public SideWindow {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(SettingsView)
 
@@ -21,7 +21,6 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -7,6 +7,7 @@
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/inspector/InspectorStates.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -23,13 +24,6 @@ constexpr qreal titleTop = 9;
 constexpr qreal titleHeight = 18;
 constexpr qreal subtitleHeight = 15;
 constexpr qreal titleGap = 16;  // at least, to menus and tools
-
-QString saveTitle(const AppModel& model)
-{
-    if (model.isSaving())
-        return u"Saving…"_s;
-    return model.isBatch() ? u"Apply to %1"_s.arg(model.selection().size()) : u"Save"_s;
-}
 
 }  // namespace
 
@@ -50,7 +44,7 @@ WindowBar::WindowBar(AppModel& model, QWidget* parent)
     connect(m_preview, &QAbstractButton::clicked, this, &WindowBar::previewToggled);
     m_settings = addTool(tools, u"ellipsis"_s, u"Settings"_s);
     connect(m_settings, &QAbstractButton::clicked, this, &WindowBar::openSettingsMenu);
-    m_save = new QBButton(saveTitle(model), QBButtonKind::primary);
+    m_save = new QBButton(InspectorStates::saveTitle(model), QBButtonKind::primary);
     connect(m_save, &QAbstractButton::clicked, &model, &AppModel::requestSave);
     auto* saveGap = new QHBoxLayout;  // 12 from the last icon: the spacing and this
     saveGap->addWidget(m_save);
@@ -105,7 +99,7 @@ void WindowBar::setEnabledMenus(bool enabled)
 
 void WindowBar::follow()
 {
-    m_save->setText(saveTitle(m_model));
+    m_save->setText(InspectorStates::saveTitle(m_model));
     m_save->setAccessibleName(m_save->text());
     m_save->setEnabled(m_model.unsavedCount() >= 1 && !m_model.isSaving());
     m_save->updateGeometry();

@@ -4,9 +4,9 @@
 #include "app/shell/Menus.h"
 #include "app/shell/OpenPanel.h"
 #include "tests/ui/window/WindowFixture.h"
-#include "ui/controls/Marks.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/ThemedMenuBar.h"
+#include "ui/controls/Toggles.h"
 #include "ui/sheets/MessageSheet.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/window/HelpView.h"
@@ -272,7 +272,6 @@ void tst_Shell::helpNamesThisPlatformsKeys()
     QString text;
     for (int row = 0; row < topics->count(); ++row) {
         topics->setCurrentRow(row);
-        QCOMPARE(help.selection(), allCases<HelpTopic>().at(row));
         const auto labels = help.findChildren<QLabel*>();
         titles.append(labels.first()->text());
         for (const auto* label : labels)

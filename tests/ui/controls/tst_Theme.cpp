@@ -2,16 +2,18 @@
 #include "tests/ui/UiSupport.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/theme/AnimatedValue.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/SymbolText.h"
+#include "ui/controls/theme/TextLines.h"
 
 #include <QDir>
 
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
 
-class TestTheme : public QObject {
+class tst_Theme : public QObject {
     Q_OBJECT
 
 private slots:
@@ -54,12 +56,12 @@ private slots:
         QVERIFY2(ratio >= atLeast, qPrintable(QString::number(ratio)));
     }
 
-    void hexColours_data()
+    void hexColors_data()
     {
         Test::addRows(
             { { u"9a7a1c"_s, u"#ff9a7a1c"_s }, { u"000000"_s, u"#ff000000"_s }, { u"0000ff"_s, u"#ff0000ff"_s } });
     }
-    void hexColours()
+    void hexColors()
     {
         QFETCH(QString, text);
         QTEST(colorFromHex(text).name(QColor::HexArgb), "expected");
@@ -132,6 +134,82 @@ private slots:
         QTRY_COMPARE(field.font().pixelSize(), px(13));
     }
 
+    void motionIsSeenUnlessItIsUnwanted_data()
+    {
+        QTest::addColumn<bool>("reduced");
+        QTest::addColumn<bool>("shown");
+        QTest::newRow("on screen") << false << true;
+        QTest::newRow("no motion asked for") << true << true;
+        QTest::newRow("not on screen") << false << false;
+    }
+    void motionIsSeenUnlessItIsUnwanted()
+    {
+        QFETCH(bool, reduced);
+        QFETCH(bool, shown);
+        Test::Stage stage;
+        if (shown)
+            stage.show();
+        qputenv("QUORBEL_REDUCE_MOTION", reduced ? "1" : "0");
+        QList<qreal> seen;
+        int arrivals = 0;
+        AnimatedValue value(stage.window(), 60, QEasingCurve::Linear, [&] { seen.append(value.value()); });
+        value.moveTo(1, [&] { ++arrivals; });
+        QTRY_COMPARE(arrivals, 1);
+        QCOMPARE(seen.last(), 1);
+        QCOMPARE(seen.size() > 1, shown && !reduced);
+    }
+
+    void aMotionThatIsTurnedRoundDoesNotArrive()
+    {
+        Test::Stage stage;
+        stage.show();
+        qputenv("QUORBEL_REDUCE_MOTION", "0");
+        QStringList arrivals;
+        AnimatedValue value(stage.window(), 60);
+        value.moveTo(1, [&] { arrivals.append(u"there"_s); });
+        QTRY_VERIFY(value.value() > 0);
+        value.moveTo(0, [&] { arrivals.append(u"back"_s); });
+        QTRY_COMPARE(value.value(), 0);
+        QTest::qWait(80);
+        QCOMPARE(arrivals, QStringList(u"back"_s));
+    }
+
+    void textIsBrokenWhereItMayBe_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<LineBreaks>("breaks");
+        QTest::addColumn<int>("most");
+        QTest::addColumn<QStringList>("lines");
+        // Eight letters wide.
+        const QString tag = u"XMP-dc:title IPTC"_s;
+        QTest::newRow("words") << u"aaaa bbbb cccc"_s << LineBreaks::words << 9
+                               << QStringList{ u"aaaa"_s, u"bbbb"_s, u"cccc"_s };
+        QTest::newRow("a word too long") << u"aaaaaaaabb"_s << LineBreaks::words << 9
+                                         << QStringList{ u"aaaaaaaa"_s, u"bb"_s };
+        QTest::newRow("the last takes the rest")
+            << u"aaaa bbbb cccc"_s << LineBreaks::words << 2 << QStringList{ u"aaaa"_s, u"bbbb cccc"_s };
+        QTest::newRow("a tag stays whole")
+            << tag << LineBreaks::spaces << 9 << QStringList{ u"XMP-dc:title"_s, u"IPTC"_s };
+        QTest::newRow("anywhere") << u"aaaa bbbbcc"_s << LineBreaks::anywhere << 9
+                                  << QStringList{ u"aaaa bbb"_s, u"bcc"_s };
+        QTest::newRow("nothing") << QString() << LineBreaks::spaces << 9 << QStringList{ QString() };
+    }
+    void textIsBrokenWhereItMayBe()
+    {
+        QFETCH(QString, text);
+        QFETCH(LineBreaks, breaks);
+        QFETCH(int, most);
+        const QFont font = monoFont(13);
+        const int width = QFontMetrics(font).horizontalAdvance(u"aaaaaaaa"_s) + 4;  // and less than another letter
+        QTEST(brokenIntoLines(text, font, width, breaks, most), "lines");
+    }
+
+    void noCharacterIsCutInTwo()
+    {
+        QCOMPARE(brokenIntoLines(u"😀😀"_s, monoFont(13), 1, LineBreaks::anywhere),
+            (QStringList{ QString(), u"😀"_s, u"😀"_s }));
+    }
+
     void symbolTexts_data()
     {
         Test::addRows({
@@ -152,7 +230,7 @@ private slots:
         QTEST(symbolText(text), "expected");
     }
 
-    void everyIconDrawsInItsColour()
+    void everyIconDrawsInItsColor()
     {
         const QStringList files = QDir(u":/icons"_s).entryList();
         QVERIFY(files.size() >= 21);
@@ -166,5 +244,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestTheme)
+QTEST_MAIN(tst_Theme)
 #include "tst_Theme.moc"

@@ -4,7 +4,9 @@
 
 #include "platform/places/map/MapRenderer.h"
 #include "tests/app/model/ModelFixture.h"
-#include "ui/controls/FieldEditors.h"
+#include "ui/controls/KeywordEditor.h"
+#include "ui/controls/RatingEditor.h"
+#include "ui/controls/TextFields.h"
 #include "ui/inspector/FieldRow.h"
 #include "ui/inspector/InspectorFooter.h"
 #include "ui/inspector/InspectorForm.h"
@@ -48,7 +50,7 @@ public:
 
     AppModel& model() const { return *photos.model; }
     /// By field id, or "custom:" and the name; null when the row is not on screen.
-    FieldRow* row(const QString& id) const { return view->form()->row(id); }
+    FieldRow* row(const QString& id) const { return view->findChild<InspectorForm*>()->row(id); }
     /// The first editor of this class in a row; null when the row is not on screen.
     template <typename Editor>
     Editor* editor(const QString& id) const

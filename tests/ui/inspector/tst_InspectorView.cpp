@@ -1,10 +1,13 @@
 // The inspector as a person uses it, over photos written and read by the real tool.
 #include "app/model/AppModel.h"
+#include "tests/ui/UiSupport.h"
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/Marks.h"
+#include "ui/controls/SuggestionList.h"
+#include "ui/controls/Toggles.h"
+#include "ui/inspector/BatchBanner.h"
 #include "ui/inspector/CameraSection.h"
-#include "ui/inspector/InspectorHeader.h"
+#include "ui/inspector/PhotoHeader.h"
 #include "ui/places/LocationMap.h"
 #include "ui/places/LocationSearchField.h"
 #include "ui/places/MapPreview.h"
@@ -32,28 +35,22 @@ void addThree(InspectorFixture& f)
     f.add(u"c.jpg"_s, alike + QStringList{ u"-XMP-dc:Title=Two"_s });
 }
 
-/// The texts of all labels that can be seen in a widget, from the top.
-QStringList labels(const QWidget* widget)
+/// The tick of a row; null while there is none to be seen.
+QBCheckbox* tick(const InspectorFixture& f, const QString& id)
 {
-    QStringList texts;
-    for (const QLabel* label : widget->findChildren<QLabel*>())
-        if (label->isVisible() && !label->text().isEmpty())
-            texts.append(label->text());
-    return texts;
+    auto* box = f.editor<QBCheckbox>(id);
+    return box && box->isVisible() ? box : nullptr;
+}
+
+QWidget* footerOf(const InspectorFixture& f)
+{
+    return f.view->findChild<InspectorFooter*>();
 }
 
 void type(QWidget* field, const QString& text)
 {
     QTest::mouseClick(field, Qt::LeftButton);
     QTest::keyClicks(QApplication::focusWidget(), text);
-}
-
-QAbstractButton* button(const QWidget* parent, const QString& title)
-{
-    for (auto* candidate : parent->findChildren<QAbstractButton*>())
-        if (candidate->isVisible() && (candidate->text() == title || candidate->accessibleName() == title))
-            return candidate;
-    return nullptr;
 }
 
 /// What Tab goes through from a control until it is back there, or for too long.
@@ -70,15 +67,9 @@ QStringList tabStopsFrom(QWidget* first)
     return names;
 }
 
-void click(QAbstractButton* target)
-{
-    QVERIFY(target);
-    QTest::mouseClick(target, Qt::LeftButton);
-}
-
 }  // namespace
 
-class TestInspectorView : public QObject {
+class tst_InspectorView : public QObject {
     Q_OBJECT
 
 private slots:
@@ -113,47 +104,47 @@ private slots:
     void keepsTheCaretInSight();
 };
 
-void TestInspectorView::init()
+void tst_InspectorView::init()
 {
     QTest::failOnWarning(QRegularExpression(u"^(?!.*propagateSizeHints)."_s));
 }
 
-void TestInspectorView::showsOnePhoto()
+void tst_InspectorView::showsOnePhoto()
 {
     InspectorFixture f;
     addThree(f);
     QVERIFY(f.open());
-    QVERIFY(f.view->form()->header()->isVisible());
-    QVERIFY(!f.view->form()->banner()->isVisible());
-    QCOMPARE(labels(f.view->form()->header()), QStringList({ u"a.jpg"_s, f.model().primaryRecord()->detailLine() }));
+    QVERIFY(f.view->findChild<PhotoHeader*>()->isVisible());
+    QVERIFY(!f.view->findChild<BatchBanner*>()->isVisible());
+    QCOMPARE(labels(f.view->findChild<PhotoHeader*>()),
+        QStringList({ u"a.jpg"_s, f.model().primaryRecord()->detailLine() }));
     QCOMPARE(f.editor<QBTextField>(u"title"_s)->text(), u"One"_s);
-    QVERIFY(!f.row(u"title"_s)->tick());
-    QVERIFY(f.view->form()->camera()->isVisible());
-    QCOMPARE(f.view->form()->camera()->rows().first(2),
-        QList<CameraRow>({ { u"Camera"_s, u"E-M5"_s }, { u"ISO"_s, u"200"_s } }));
+    QVERIFY(!tick(f, u"title"_s));
+    QVERIFY(f.view->findChild<CameraSection*>()->isVisible());
+    QVERIFY(f.view->findChild<CameraSection*>()->accessibleDescription().startsWith(u"Camera: E-M5, ISO: 200"_s));
     f.click(u"b.jpg"_s);
     QCOMPARE(f.editor<QBTextField>(u"title"_s)->text(), u"Two"_s);
     QCOMPARE(f.model().unsavedCount(), 0);
 }
 
-void TestInspectorView::showsSeveralPhotos()
+void tst_InspectorView::showsSeveralPhotos()
 {
     InspectorFixture f;
     addThree(f);
     QVERIFY(f.open());
     f.model().selectAllPhotos();
-    QVERIFY(!f.view->form()->header()->isVisible());
-    QVERIFY(f.view->form()->banner()->isVisible());
-    QCOMPARE(f.view->form()->banner()->accessibleName(), u"Editing 3 photos"_s);
-    QVERIFY(!f.view->form()->camera()->isVisible());
-    QVERIFY(f.row(u"title"_s)->tick()->isVisible());
-    QVERIFY(!f.row(u"title"_s)->tick()->isChecked());
+    QVERIFY(!f.view->findChild<PhotoHeader*>()->isVisible());
+    QVERIFY(f.view->findChild<BatchBanner*>()->isVisible());
+    QCOMPARE(f.view->findChild<BatchBanner*>()->accessibleName(), u"Editing 3 photos"_s);
+    QVERIFY(!f.view->findChild<CameraSection*>()->isVisible());
+    QVERIFY(tick(f, u"title"_s));
+    QVERIFY(!tick(f, u"title"_s)->isChecked());
     QCOMPARE(f.editor<QBTextField>(u"creator"_s)->text(), QString());
     f.click(u"a.jpg"_s);
-    QVERIFY(!f.row(u"title"_s)->tick()->isVisible());
+    QVERIFY(!tick(f, u"title"_s));
 }
 
-void TestInspectorView::showsNothing()
+void tst_InspectorView::showsNothing()
 {
     InspectorFixture f;
     addThree(f);
@@ -164,7 +155,7 @@ void TestInspectorView::showsNothing()
     QVERIFY(!button(f.view, u"Save"_s));
 }
 
-void TestInspectorView::placeholders_data()
+void tst_InspectorView::placeholders_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<QString>("one");
@@ -181,7 +172,7 @@ void TestInspectorView::placeholders_data()
     QTest::addRow("no text of its own") << u"credit"_s << QString() << QString();
 }
 
-void TestInspectorView::placeholders()
+void tst_InspectorView::placeholders()
 {
     QFETCH(const QString, id);
     QFETCH(const QString, one);
@@ -190,16 +181,16 @@ void TestInspectorView::placeholders()
     addThree(f);
     QVERIFY(f.open());
     f.model().addKnownField(id);
-    QCOMPARE(f.editor<QBTextField>(id)->placeholder(), one);
+    QCOMPARE(f.editor<QBTextField>(id)->placeholderText(), one);
     f.model().selectAllPhotos();
     f.model().addKnownField(id);
-    QCOMPARE(f.editor<QBTextField>(id)->placeholder(), several);
+    QCOMPARE(f.editor<QBTextField>(id)->placeholderText(), several);
     QCOMPARE(f.editor<QBTextField>(id)->text(), QString());
     f.model().toggleBatchInclude(id);
-    QCOMPARE(f.editor<QBTextField>(id)->placeholder(), one);
+    QCOMPARE(f.editor<QBTextField>(id)->placeholderText(), one);
 }
 
-void TestInspectorView::typingReachesTheModel_data()
+void tst_InspectorView::typingReachesTheModel_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addRow("text") << u"title"_s;
@@ -209,7 +200,7 @@ void TestInspectorView::typingReachesTheModel_data()
     QTest::addRow("place") << u"place"_s;
 }
 
-void TestInspectorView::typingReachesTheModel()
+void tst_InspectorView::typingReachesTheModel()
 {
     QFETCH(const QString, id);
     InspectorFixture f;
@@ -220,7 +211,7 @@ void TestInspectorView::typingReachesTheModel()
     type(input(), u"12"_s);
     QCOMPARE(f.model().draftValues().value(id), u"12"_s);
     QCOMPARE(f.model().editedSingle(), QSet<QString>{ id });
-    QCOMPARE(f.view->footer()->unsavedText(), u"1 unsaved change"_s);
+    QCOMPARE(labels(footerOf(f)), QStringList{ u"1 unsaved change"_s });
     f.model().preferences().saveDontAsk.set(true);
     f.model().discardSaveDialog();
     f.model().selectAllPhotos();
@@ -228,11 +219,11 @@ void TestInspectorView::typingReachesTheModel()
     type(f.row(id)->tabStops().at(1), u"34"_s);
     QCOMPARE(f.model().batchValues().value(id), u"34"_s);
     QVERIFY(f.model().batchInclude().contains(id));
-    QVERIFY(f.row(id)->tick()->isChecked());
+    QVERIFY(tick(f, id)->isChecked());
     QVERIFY(labels(f.row(id)).contains(u"Will be written to all 2 photos"_s));
 }
 
-void TestInspectorView::ticks_data()
+void tst_InspectorView::ticks_data()
 {
     QTest::addColumn<QString>("id");
     QTest::addColumn<bool>("ticksWhenEmpty");
@@ -242,7 +233,7 @@ void TestInspectorView::ticks_data()
     QTest::addRow("a field of the user's own") << u"custom:Mood"_s << true;
 }
 
-void TestInspectorView::ticks()
+void tst_InspectorView::ticks()
 {
     QFETCH(const QString, id);
     QFETCH(const bool, ticksWhenEmpty);
@@ -256,21 +247,21 @@ void TestInspectorView::ticks()
     const bool custom = id.startsWith(u"custom:"_s);
     if (!custom) {
         f.model().toggleBatchCustom(u"Mood"_s);
-        click(f.row(id)->tick());
-        QCOMPARE(f.row(id)->tick()->isChecked(), ticksWhenEmpty);
+        click(tick(f, id));
+        QCOMPARE(tick(f, id)->isChecked(), ticksWhenEmpty);
         QCOMPARE(f.model().unsavedCount(), ticksWhenEmpty ? 1 : 0);
     }
     if (id == u"keywords"_s)
         f.model().addBatchListItem(id, u"sky"_s);
-    QVERIFY(f.row(id)->tick()->isChecked());
+    QVERIFY(tick(f, id)->isChecked());
     QCOMPARE(f.model().unsavedCount(), 1);
-    click(f.row(id)->tick());
+    click(tick(f, id));
     QCOMPARE(f.model().unsavedCount(), 0);
     // Nothing but the tick kept the custom field on screen.
     QCOMPARE(f.row(id) == nullptr, custom);
 }
 
-void TestInspectorView::keywordsOfOnePhoto()
+void tst_InspectorView::keywordsOfOnePhoto()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, { u"-IPTC:Keywords=lake"_s });
@@ -286,7 +277,7 @@ void TestInspectorView::keywordsOfOnePhoto()
     QCOMPARE(editor->chips(), QStringList{ u"reed"_s });
 }
 
-void TestInspectorView::keywordsOfSeveral()
+void tst_InspectorView::keywordsOfSeveral()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, { u"-IPTC:Keywords=lake"_s });
@@ -298,13 +289,13 @@ void TestInspectorView::keywordsOfSeveral()
     type(editor->entry(), u"sky\r"_s);
     QCOMPARE(f.model().batchLists().value(u"keywords"_s), QStringList{ u"sky"_s });
     QVERIFY(labels(f.row(u"keywords"_s)).contains(u"appends — existing values kept"_s));
-    QVERIFY(f.row(u"keywords"_s)->tick()->isChecked());
+    QVERIFY(tick(f, u"keywords"_s)->isChecked());
     click(button(editor, u"Remove sky"_s));
     QCOMPARE(f.model().unsavedCount(), 0);
     QVERIFY(!labels(f.row(u"keywords"_s)).contains(u"appends — existing values kept"_s));
 }
 
-void TestInspectorView::nowReplacesTheDate()
+void tst_InspectorView::nowReplacesTheDate()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, { u"-EXIF:DateTimeOriginal=2001:02:03 04:05:06"_s });
@@ -317,7 +308,7 @@ void TestInspectorView::nowReplacesTheDate()
     QCOMPARE(f.editor<QBTextField>(u"date"_s)->text(), u"2026-07-14 09:05"_s);
 }
 
-void TestInspectorView::ratingByMouseAndKey()
+void tst_InspectorView::ratingByMouseAndKey()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, { u"-XMP:Rating=3"_s });
@@ -329,7 +320,7 @@ void TestInspectorView::ratingByMouseAndKey()
     QCOMPARE(stars->rating(), 5);
 }
 
-void TestInspectorView::footer_data()
+void tst_InspectorView::footer_data()
 {
     QTest::addColumn<bool>("several");
     QTest::addColumn<QStringList>("fields");
@@ -343,7 +334,7 @@ void TestInspectorView::footer_data()
     QTest::addRow("several, two") << true << QStringList{ u"title"_s, u"creator"_s } << u"2 fields → 2 files"_s;
 }
 
-void TestInspectorView::footer()
+void tst_InspectorView::footer()
 {
     QFETCH(const bool, several);
     QFETCH(const QStringList, fields);
@@ -356,34 +347,35 @@ void TestInspectorView::footer()
         f.model().selectAllPhotos();
     for (const QString& id : fields)
         several ? f.model().setBatch(id, u"x"_s) : f.model().setSingle(id, u"x"_s);
-    QCOMPARE(f.view->footer()->unsavedText(), text);
-    QCOMPARE(f.view->footer()->addButton()->text(), several ? u"Add field to all"_s : u"Add field"_s);
-    QCOMPARE(f.view->footer()->saveButton()->text(), several ? u"Apply to 2"_s : u"Save"_s);
-    QCOMPARE(f.view->footer()->saveButton()->isEnabled(), !fields.isEmpty());
+    QCOMPARE(labels(footerOf(f)), QStringList{ text });
+    QVERIFY(button(footerOf(f), several ? u"Add field to all"_s : u"Add field"_s));
+    const QAbstractButton* save = button(footerOf(f), several ? u"Apply to 2"_s : u"Save"_s);
+    QVERIFY(save);
+    QCOMPARE(save->isEnabled(), !fields.isEmpty());
 }
 
-void TestInspectorView::footerButtons()
+void tst_InspectorView::footerButtons()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, {});
     QVERIFY(f.open());
-    QVERIFY(!f.view->footer()->renameButton()->isVisible());
+    QVERIFY(!button(footerOf(f), u"Rename…"_s));
     type(f.editor<QBTextField>(u"title"_s), u"Dusk"_s);
-    click(f.view->footer()->renameButton());
+    click(button(footerOf(f), u"Rename…"_s));
     QVERIFY(f.model().renameOpen());
-    click(f.view->footer()->addButton());
+    click(button(footerOf(f), u"Add field"_s));
     QVERIFY(f.model().addOpen());
     f.model().preferences().saveDontAsk.set(true);
-    click(f.view->footer()->saveButton());
+    click(button(footerOf(f), u"Save"_s));
     QVERIFY(f.model().isSaving());
-    QCOMPARE(f.view->footer()->saveButton()->text(), u"Saving…"_s);
+    QVERIFY(button(footerOf(f), u"Saving…"_s));
     QVERIFY(f.photos.waitUntilIdle());
-    QCOMPARE(f.view->footer()->saveButton()->text(), u"Save"_s);
-    QCOMPARE(f.view->footer()->unsavedText(), u"No unsaved changes"_s);
+    QVERIFY(button(footerOf(f), u"Save"_s));
+    QCOMPARE(labels(footerOf(f)), QStringList{ u"No unsaved changes"_s });
     QCOMPARE(f.photos.onDisk(u"a.jpg"_s, u"XMP:Title"_s).toString(), u"Dusk"_s);
 }
 
-void TestInspectorView::mapFollowsTheCoordinates()
+void tst_InspectorView::mapFollowsTheCoordinates()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, {});
@@ -393,18 +385,18 @@ void TestInspectorView::mapFollowsTheCoordinates()
     auto* field = f.editor<QBTextField>(u"coords"_s);
     type(field, u"47.5, 8"_s);
     QVERIFY(map->isVisible());
-    QCOMPARE(map->point(), (Coordinates::Point{ 47.5, 8 }));
+    QCOMPARE(map->accessibleName(), u"Map of 47.500000, 8.000000"_s);
     QTest::keyClick(field, Qt::Key_Backspace);
     QVERIFY(!map->isVisible());
 }
 
-void TestInspectorView::fillsPlaceFromCoordinates()
+void tst_InspectorView::fillsPlaceFromCoordinates()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, located);
     f.add(u"b.jpg"_s, located + QStringList{ u"-XMP-photoshop:Country=Schweiz"_s });
     QVERIFY(f.open());
-    auto* link = f.view->form()->locationMap()->fillLink();
+    auto* link = button(f.view, u"Fill place from coordinates"_s);
     click(link);
     QCOMPARE(f.model().draftValues().value(u"place"_s), u"Zürich"_s);
     QCOMPARE(f.model().draftValues().value(u"country"_s), u"Switzerland"_s);
@@ -415,7 +407,7 @@ void TestInspectorView::fillsPlaceFromCoordinates()
     f.model().discardSaveDialog();
     f.model().setSingle(u"coords"_s, u"-40, 8"_s);
     click(link);
-    QVERIFY(labels(f.view->form()->locationMap()).contains(u"Couldn't look that up"_s));
+    QVERIFY(labels(f.view->findChild<LocationMap*>()).contains(u"Couldn't look that up"_s));
     QVERIFY(!f.model().editedSingle().contains(u"place"_s));
     f.model().discardSaveDialog();
     f.click(u"b.jpg"_s);
@@ -423,14 +415,14 @@ void TestInspectorView::fillsPlaceFromCoordinates()
     QVERIFY(!link->isVisible());
 }
 
-void TestInspectorView::picksAPlace()
+void tst_InspectorView::picksAPlace()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, {});
     QVERIFY(f.open());
     auto* field = f.editor<LocationSearchField>(u"place"_s);
     type(field, u"Para"_s);
-    QTRY_VERIFY(field->showsSuggestions());
+    QTRY_VERIFY(f.window->findChild<SuggestionList*>() && f.window->findChild<SuggestionList*>()->isVisible());
     QTest::keyClick(field, Qt::Key_Down);
     QTest::keyClick(field, Qt::Key_Return);
     QCOMPARE(f.model().draftValues().value(u"place"_s), u"Zürich"_s);
@@ -440,7 +432,7 @@ void TestInspectorView::picksAPlace()
     QVERIFY(f.row(u"sublocation"_s));
 }
 
-void TestInspectorView::rowsAreReused()
+void tst_InspectorView::rowsAreReused()
 {
     InspectorFixture f;
     addThree(f);
@@ -456,7 +448,7 @@ void TestInspectorView::rowsAreReused()
     QCOMPARE(f.view->findChildren<FieldRow*>().size(), before.size());
 }
 
-void TestInspectorView::typingKeepsTheCaret()
+void tst_InspectorView::typingKeepsTheCaret()
 {
     InspectorFixture f;
     addThree(f);
@@ -476,7 +468,7 @@ void TestInspectorView::typingKeepsTheCaret()
     QCOMPARE(f.model().unsavedCount(), 0);
 }
 
-void TestInspectorView::undoStaysWithItsPhoto()
+void tst_InspectorView::undoStaysWithItsPhoto()
 {
     InspectorFixture f;
     addThree(f);
@@ -494,7 +486,7 @@ void TestInspectorView::undoStaysWithItsPhoto()
     QCOMPARE(f.model().unsavedCount(), 0);
 }
 
-void TestInspectorView::halfTypedKeywordStaysBehind()
+void tst_InspectorView::halfTypedKeywordStaysBehind()
 {
     InspectorFixture f;
     addThree(f);
@@ -502,13 +494,13 @@ void TestInspectorView::halfTypedKeywordStaysBehind()
     auto* editor = f.editor<KeywordEditor>(u"keywords"_s);
     type(editor->entry(), u"sun"_s);
     f.model().setSingle(u"title"_s, u"Other"_s);
-    QCOMPARE(editor->entryText(), u"sun"_s);
+    QCOMPARE(editor->entry()->text(), u"sun"_s);
     f.model().discardSaveDialog();
     f.click(u"b.jpg"_s);
-    QCOMPARE(editor->entryText(), QString());
+    QCOMPARE(editor->entry()->text(), QString());
 }
 
-void TestInspectorView::addedFieldTakesTheFocusAndGoesAgain()
+void tst_InspectorView::addedFieldTakesTheFocusAndGoesAgain()
 {
     InspectorFixture f;
     addThree(f);
@@ -532,7 +524,7 @@ void TestInspectorView::addedFieldTakesTheFocusAndGoesAgain()
     }
 }
 
-void TestInspectorView::namespaceLines()
+void tst_InspectorView::namespaceLines()
 {
     InspectorFixture f;
     addThree(f);
@@ -542,12 +534,12 @@ void TestInspectorView::namespaceLines()
     QVERIFY(!labels(f.row(u"title"_s)).contains(line));
     f.model().preferences().showNamespace.set(true);
     QVERIFY(labels(f.row(u"title"_s)).contains(line));
-    QVERIFY(labels(f.view->form()->customRow(u"Mood"_s)).contains(u"XMP-Quorbel:Mood"_s));
+    QVERIFY(labels(f.row(u"custom:Mood"_s)).contains(u"XMP-Quorbel:Mood"_s));
     f.model().preferences().showNamespace.set(false);
     QVERIFY(!labels(f.row(u"title"_s)).contains(line));
 }
 
-void TestInspectorView::tabGoesFromTopToBottom()
+void tst_InspectorView::tabGoesFromTopToBottom()
 {
     InspectorFixture f;
     f.add(u"a.jpg"_s, located);
@@ -557,7 +549,7 @@ void TestInspectorView::tabGoesFromTopToBottom()
     f.model().addKnownField(u"country"_s);
     f.model().addCustomField(u"Mood"_s, u"calm"_s);
     f.model().setSingle(u"title"_s, u"T"_s);
-    f.settle();
+    InspectorFixture::settle();
     QCOMPARE(tabStopsFrom(f.editor<QBTextField>(u"title"_s)),
         QStringList({ u"Title"_s, u"Description"_s, u"Date taken"_s, u"Now"_s, u"Keywords"_s, u"Creator"_s,
             u"Copyright"_s, u"Place"_s, u"Coordinates"_s, u"Country"_s, u"Remove this field"_s,
@@ -565,18 +557,18 @@ void TestInspectorView::tabGoesFromTopToBottom()
     // The ticks of several photos come and go, and photos bring rows that others do not have.
     f.model().discardSaveDialog();
     f.model().selectAllPhotos();
-    f.settle();
-    QCOMPARE(tabStopsFrom(f.row(u"title"_s)->tick()).mid(0, 7),
+    InspectorFixture::settle();
+    QCOMPARE(tabStopsFrom(tick(f, u"title"_s)).mid(0, 7),
         QStringList({ u"Write Title to all selected files"_s, u"Title"_s, u"Write Description to all selected files"_s,
             u"Description"_s, u"Write Date taken to all selected files"_s, u"Date taken"_s, u"Now"_s }));
     f.click(u"b.jpg"_s);
-    f.settle();
+    InspectorFixture::settle();
     QCOMPARE(tabStopsFrom(f.editor<QBTextField>(u"title"_s)),
         QStringList({ u"Title"_s, u"Description"_s, u"Date taken"_s, u"Now"_s, u"Keywords"_s, u"Creator"_s,
             u"Copyright"_s, u"Place"_s, u"Coordinates"_s, u"Add field"_s }));
 }
 
-void TestInspectorView::tellsScreenReaders()
+void tst_InspectorView::tellsScreenReaders()
 {
     InspectorFixture f;
     addThree(f);
@@ -591,10 +583,10 @@ void TestInspectorView::tellsScreenReaders()
     f.model().selectAllPhotos();
     f.model().setBatch(u"title"_s, u"All"_s);
     QCOMPARE(title->accessibleDescription(), u"Will be written to all 3 photos"_s);
-    QCOMPARE(f.row(u"title"_s)->tick()->accessibleName(), u"Write Title to all selected files"_s);
+    QVERIFY(button(f.row(u"title"_s), u"Write Title to all selected files"_s));
 }
 
-void TestInspectorView::keepsTheCaretInSight()
+void tst_InspectorView::keepsTheCaretInSight()
 {
     InspectorFixture f;
     addThree(f);
@@ -613,5 +605,5 @@ void TestInspectorView::keepsTheCaretInSight()
     QTRY_VERIFY(viewport->rect().contains(QRect(date->mapTo(f.window.get(), QPoint()), date->size())));
 }
 
-QTEST_MAIN(TestInspectorView)
+QTEST_MAIN(tst_InspectorView)
 #include "tst_InspectorView.moc"

@@ -3,8 +3,8 @@
 #include "tests/app/model/ModelFixture.h"
 #include "tests/ui/UiSupport.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/Marks.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/Toggles.h"
 #include "ui/sheets/AddFieldSheet.h"
 #include "ui/sheets/AddableFieldList.h"
 #include "ui/sheets/RenameSheet.h"
@@ -20,8 +20,8 @@ using namespace Quorbel::Test;
 namespace {
 
 /// A model with photos in its folder, and a window for its sheets.
-struct Desk {
-    explicit Desk(const QStringList& names)
+struct SheetFixture {
+    explicit SheetFixture(const QStringList& names)
     {
         photos.addTitled(names);
         window.resize(700, 800);
@@ -46,20 +46,6 @@ struct Desk {
     SheetHost* host = new SheetHost(&window);
 };
 
-QAbstractButton* button(const QWidget* sheet, const QString& title)
-{
-    for (auto* candidate : sheet->findChildren<QAbstractButton*>())
-        if (candidate->isVisible() && candidate->text() == title)
-            return candidate;
-    return nullptr;
-}
-
-void click(QAbstractButton* target)
-{
-    QVERIFY(target);
-    QTest::mouseClick(target, Qt::LeftButton);
-}
-
 QStringList titles(const QWidget* sheet)
 {
     QStringList found;
@@ -67,15 +53,6 @@ QStringList titles(const QWidget* sheet)
         if (candidate->isVisible())
             found.append(candidate->text());
     return found;
-}
-
-QStringList labels(const QWidget* sheet)
-{
-    QStringList texts;
-    for (const QLabel* label : sheet->findChildren<QLabel*>())
-        if (label->isVisible() && !label->text().isEmpty())
-            texts.append(label->text());
-    return texts;
 }
 
 QBTextField* field(const QWidget* sheet, const QString& name)
@@ -93,7 +70,7 @@ void press(Qt::Key key)
 
 }  // namespace
 
-class TestSheets : public QObject {
+class tst_Sheets : public QObject {
     Q_OBJECT
 
 private slots:
@@ -118,13 +95,13 @@ private slots:
     void customFieldIsAdded();
 };
 
-void TestSheets::init()
+void tst_Sheets::init()
 {
     failOnWarnings();
     qputenv("QUORBEL_REDUCE_MOTION", "1");
 }
 
-void TestSheets::saveDialogOfOnePhoto_data()
+void tst_Sheets::saveDialogOfOnePhoto_data()
 {
     QTest::addColumn<QStringList>("fields");
     QTest::addColumn<QString>("message");
@@ -134,11 +111,11 @@ void TestSheets::saveDialogOfOnePhoto_data()
                                 << u"You edited 2 fields. Your changes will be lost if you don’t save them."_s;
 }
 
-void TestSheets::saveDialogOfOnePhoto()
+void tst_Sheets::saveDialogOfOnePhoto()
 {
     QFETCH(const QStringList, fields);
     QFETCH(const QString, message);
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     for (const QString& id : fields)
         desk.model().setSingle(id, u"x"_s);
@@ -153,7 +130,7 @@ void TestSheets::saveDialogOfOnePhoto()
     QCOMPARE(told->text(QAccessible::Description), message);
 }
 
-void TestSheets::saveDialogOfSeveral_data()
+void tst_Sheets::saveDialogOfSeveral_data()
 {
     QTest::addColumn<QMap<QString, QString>>("values");
     QTest::addColumn<QStringList>("keywords");
@@ -173,13 +150,13 @@ void TestSheets::saveDialogOfSeveral_data()
                u"Copyright"_s, u"“”"_s, u"Title"_s, u"“T”"_s, u"Keywords"_s, u"sky"_s };
 }
 
-void TestSheets::saveDialogOfSeveral()
+void tst_Sheets::saveDialogOfSeveral()
 {
     using Values = QMap<QString, QString>;
     QFETCH(const Values, values);
     QFETCH(const QStringList, keywords);
     QFETCH(const QStringList, texts);
-    Desk desk({ u"a.jpg"_s, u"b.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s, u"b.jpg"_s });
     QVERIFY(desk.open());
     desk.model().selectAllPhotos();
     for (auto value = values.cbegin(); value != values.cend(); ++value) {
@@ -194,7 +171,7 @@ void TestSheets::saveDialogOfSeveral()
     QVERIFY(button(sheet, u"Don’t ask again this session"_s));
 }
 
-void TestSheets::saveDialogAnswers_data()
+void tst_Sheets::saveDialogAnswers_data()
 {
     QTest::addColumn<QString>("pressed");  // the title of a button, or a key
     QTest::addColumn<QString>("titleAfter");
@@ -206,12 +183,12 @@ void TestSheets::saveDialogAnswers_data()
     QTest::addRow("Escape stays") << u"Escape"_s << u"a.jpg"_s << u"a.jpg"_s;
 }
 
-void TestSheets::saveDialogAnswers()
+void tst_Sheets::saveDialogAnswers()
 {
     QFETCH(const QString, pressed);
     QFETCH(const QString, titleAfter);
     QFETCH(const QString, primaryAfter);
-    Desk desk({ u"a.jpg"_s, u"b.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s, u"b.jpg"_s });
     QVERIFY(desk.open());
     desk.model().setSingle(u"title"_s, u"Edited"_s);
     desk.photos.click(u"b.jpg"_s);
@@ -228,9 +205,9 @@ void TestSheets::saveDialogAnswers()
     QCOMPARE(desk.model().unsavedCount(), primaryAfter == u"a.jpg"_s ? 1 : 0);
 }
 
-void TestSheets::saveDialogRemembersNotToAsk()
+void tst_Sheets::saveDialogRemembersNotToAsk()
 {
-    Desk desk({ u"a.jpg"_s, u"b.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s, u"b.jpg"_s });
     QVERIFY(desk.open());
     auto* one = qobject_cast<QBCheckbox*>(button(desk.present<SaveDialogView>(), u"Save and don’t ask again"_s));
     QVERIFY(one && !one->isChecked());
@@ -249,9 +226,9 @@ void TestSheets::saveDialogRemembersNotToAsk()
     QVERIFY(!desk.model().preferences().saveDontAsk());
 }
 
-void TestSheets::renameBuildsAPattern()
+void tst_Sheets::renameBuildsAPattern()
 {
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     desk.model().setSingle(u"title"_s, u"Last light"_s);
     desk.model().setSingle(u"creator"_s, u"Mara"_s);
@@ -280,7 +257,7 @@ void TestSheets::renameBuildsAPattern()
     QVERIFY(desk.photos.folder.names().contains(u"a.jpg"_s));
 }
 
-void TestSheets::renameAnswers_data()
+void tst_Sheets::renameAnswers_data()
 {
     QTest::addColumn<QString>("pressed");
     QTest::addColumn<QString>("fileName");
@@ -290,11 +267,11 @@ void TestSheets::renameAnswers_data()
     QTest::addRow("Escape") << u"Escape"_s << u"a.jpg"_s;
 }
 
-void TestSheets::renameAnswers()
+void tst_Sheets::renameAnswers()
 {
     QFETCH(const QString, pressed);
     QFETCH(const QString, fileName);
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     desk.model().preferences().renamePattern.set(u"dusk"_s);
     desk.model().setRenameOpen(true);
@@ -307,7 +284,7 @@ void TestSheets::renameAnswers()
     QCOMPARE(desk.photos.folder.names(), QStringList{ fileName });
 }
 
-void TestSheets::addFieldFilters_data()
+void tst_Sheets::addFieldFilters_data()
 {
     QTest::addColumn<QString>("query");
     QTest::addColumn<QStringList>("ids");
@@ -318,11 +295,11 @@ void TestSheets::addFieldFilters_data()
     QTest::addRow("none") << u"qqq"_s << QStringList();
 }
 
-void TestSheets::addFieldFilters()
+void tst_Sheets::addFieldFilters()
 {
     QFETCH(const QString, query);
     QFETCH(const QStringList, ids);
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     auto* sheet = desk.present<AddFieldSheet>();
     const auto* list = sheet->findChild<AddableFieldList*>();
@@ -335,9 +312,9 @@ void TestSheets::addFieldFilters()
     QCOMPARE(list->shownIds().size(), desk.model().addableKnownFields().size());
 }
 
-void TestSheets::addFieldWithoutAnyLeft()
+void tst_Sheets::addFieldWithoutAnyLeft()
 {
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     for (const FieldSpec& spec : desk.model().addableKnownFields())
         desk.model().addKnownField(spec.id);
@@ -348,7 +325,7 @@ void TestSheets::addFieldWithoutAnyLeft()
     QCOMPARE(labels(list), QStringList{ u"No matching fields."_s });
 }
 
-void TestSheets::addFieldByMouseAndKeys_data()
+void tst_Sheets::addFieldByMouseAndKeys_data()
 {
     QTest::addColumn<QString>("query");
     QTest::addColumn<QList<int>>("keys");
@@ -365,12 +342,12 @@ void TestSheets::addFieldByMouseAndKeys_data()
     QTest::addRow("Escape adds none") << u"urgency"_s << QList<int>{ Qt::Key_Escape } << QString();
 }
 
-void TestSheets::addFieldByMouseAndKeys()
+void tst_Sheets::addFieldByMouseAndKeys()
 {
     QFETCH(const QString, query);
     QFETCH(const QList<int>, keys);
     QFETCH(const QString, added);
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     desk.model().setAddOpen(true);
     auto* sheet = desk.present<AddFieldSheet>();
@@ -384,7 +361,7 @@ void TestSheets::addFieldByMouseAndKeys()
     QCOMPARE(desk.model().addOpen(), !closed);
 }
 
-void TestSheets::customNames_data()
+void tst_Sheets::customNames_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<bool>("accepted");
@@ -398,12 +375,12 @@ void TestSheets::customNames_data()
     QTest::addRow("reserved") << u"NOTES"_s << false << u"“NOTES” is a reserved word"_s;
 }
 
-void TestSheets::customNames()
+void tst_Sheets::customNames()
 {
     QFETCH(const QString, typed);
     QFETCH(const bool, accepted);
     QFETCH(const QString, said);
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     auto* sheet = desk.present<AddFieldSheet>();
     auto* name = field(sheet, u"Name"_s);
@@ -420,9 +397,9 @@ void TestSheets::customNames()
     QCOMPARE(desk.model().draftCustoms().size(), accepted ? 1 : 0);
 }
 
-void TestSheets::customFieldIsAdded()
+void tst_Sheets::customFieldIsAdded()
 {
-    Desk desk({ u"a.jpg"_s });
+    SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
     desk.model().setAddOpen(true);
     auto* sheet = desk.present<AddFieldSheet>();
@@ -435,5 +412,5 @@ void TestSheets::customFieldIsAdded()
     QVERIFY(!desk.model().addOpen());
 }
 
-QTEST_MAIN(TestSheets)
+QTEST_MAIN(tst_Sheets)
 #include "tst_Sheets.moc"

@@ -3,9 +3,9 @@
 
 #include "tests/app/model/ModelFixture.h"
 #include "tests/ui/UiSupport.h"
-#include "ui/controls/theme/SystemScheme.h"
 #include "ui/sheets/Sheet.h"
 #include "ui/window/ContentView.h"
+#include "ui/window/SystemScheme.h"
 #include "ui/window/WindowBar.h"
 
 #include <QAbstractButton>
@@ -118,13 +118,7 @@ public:
     }
 
     /// The visible button with this accessible name or text.
-    QAbstractButton* button(const QString& name) const
-    {
-        for (auto* button : window->findChildren<QAbstractButton*>())
-            if ((button->text() == name || button->accessibleName() == name) && button->isVisible())
-                return button;
-        return nullptr;
-    }
+    QAbstractButton* button(const QString& name) const { return Test::button(window.get(), name); }
 
     ModelFixture model;
     SystemScheme scheme;

@@ -1,5 +1,6 @@
 #include "ui/controls/theme/FocusRing.h"
 
+#include "ui/controls/theme/AnimatedValue.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -8,7 +9,6 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QVariantAnimation>
 
 namespace Quorbel {
 
@@ -41,14 +41,14 @@ public:
         : QWidget(host)
         , m_control(control)
         , m_options(options)
+        , m_opacity(this, Duration::marking, QEasingCurve::OutCubic)
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setFocusPolicy(Qt::NoFocus);
         for (QWidget* w = control; w && w != host; w = w->parentWidget())
             w->installEventFilter(this);
         follow();
-        if (motionEnabled(this))
-            fadeIn();
+        m_opacity.moveTo(1);
     }
 
 protected:
@@ -81,7 +81,7 @@ protected:
         const Theme& theme = Theme::of(m_control);
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setOpacity(m_opacity);
+        painter.setOpacity(m_opacity.value());
         m_paintedAmber = isAmber();
         if (m_options.shape == RingShape::field) {
             stroke(painter, 0, 2, m_paintedAmber ? theme.derived.ringAmber : theme.derived.ring);
@@ -124,25 +124,10 @@ private:
         painter.drawRoundedRect(rect.adjusted(-outset, -outset, outset, outset), radius, radius);
     }
 
-    void fadeIn()
-    {
-        m_opacity = 0;
-        auto* animation = new QVariantAnimation(this);
-        animation->setDuration(Duration::marking);
-        animation->setEasingCurve(QEasingCurve::OutCubic);
-        animation->setStartValue(0.0);
-        animation->setEndValue(1.0);
-        connect(animation, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-            m_opacity = value.toReal();
-            update();
-        });
-        animation->start(QAbstractAnimation::DeleteWhenStopped);
-    }
-
     QPointer<QWidget> m_control;
     FocusRingOptions m_options;
     bool m_paintedAmber = false;
-    qreal m_opacity = 1;
+    AnimatedValue m_opacity;
 };
 
 /// Makes and removes the ring as the focus comes and goes.

@@ -43,24 +43,6 @@ void paintCutBox(QPainter& painter, const QRect& rect, qreal radius, const QColo
     paintBox(painter, rect, radius, fill, QPen(edge, 1));
 }
 
-void paintShadow(QPainter& painter, const QRectF& box, qreal radius, const QColor& shadow)
-{
-    // A blur as a stack of outlines from far outside to as far inside: half of the colour at the edge, none at `reach`.
-    const auto blur = [&](qreal reach, qreal drop, qreal alpha) {
-        constexpr int steps = 16;
-        painter.setBrush(withAlpha(shadow, alpha / steps));
-        for (int i = 0; i < steps; ++i) {
-            const qreal grow = reach * (1 - 2 * (i + .5) / steps);
-            const qreal corner = qMax(1.0, radius + grow);
-            painter.drawRoundedRect(box.adjusted(-grow, -grow + drop, grow, grow + drop), corner, corner);
-        }
-    };
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    blur(18, 7, shadow.alphaF());
-    blur(2, 1, shadow.alphaF() * .6);
-}
-
 void paintFieldFrame(QPainter& painter, const QRectF& rect, const FieldState& state, const Theme& theme)
 {
     QColor ground = state.edited ? theme.amberBg : theme.field;

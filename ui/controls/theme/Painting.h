@@ -20,8 +20,6 @@ void cutCorners(QWidget& popup, qreal radius);
 /// Paints the ground of a popup whose corners were cut. Without a compositor the half covered pixels of the edge would
 /// be blended with black: they lie on the colour of the edge instead.
 void paintCutBox(QPainter& painter, const QRect& rect, qreal radius, const QColor& fill, const QColor& edge);
-/// A soft shadow below a rounded rectangle, within the 25 pixels around it. For menus, notices and dropdowns.
-void paintShadow(QPainter& painter, const QRectF& box, qreal radius, const QColor& shadow);
 
 struct FieldState {
     bool enabled = true;

@@ -15,7 +15,7 @@ namespace Quorbel {
 
 namespace {
 
-/// One layer: moved down and blurred (points; blur is twice the standard deviation), black at an opacity.
+/// One blurred layer: moved down and blurred (points; blur is twice the standard deviation), black at an opacity.
 struct Layer {
     qreal down = 0;
     qreal blur = 0;
@@ -25,14 +25,15 @@ struct Layer {
 
 const std::array<Layer, 2>& layers(Shadow kind)
 {
-    static constexpr std::array<Layer, 2> menu{ { { 8, 28, .17, .44 }, { 1, 3, .10, .34 } } };
+    static constexpr std::array<Layer, 2> notice{ { { 8, 28, .17, .44 }, { 1, 3, .10, .34 } } };
     static constexpr std::array<Layer, 2> sheet{ { { 18, 48, .20, .50 }, { 2, 8, .08, .30 } } };
     static constexpr std::array<Layer, 2> photo{ { { 10, 28, .16, .48 }, { 1, 3, .14, .40 } } };
     switch (kind) {
-    case Shadow::menu:
-        return menu;
+    case Shadow::notice:
+        return notice;
     case Shadow::sheet:
         return sheet;
+    case Shadow::dropdown:
     case Shadow::photo:
         break;
     }
@@ -113,10 +114,32 @@ void drawPatch(QPainter& painter, const QRectF& outer, const QImage& image)
                 QRectF(QPointF(from[column], from[row]), QPointF(from[column + 1], from[row + 1])));
 }
 
+/// As a stack of outlines from `reach` outside to as far inside: half of `alpha` at the edge, none at `reach`.
+/// Cheaper than a blur for a popup, which takes another size with every letter that is typed.
+void paintOutlines(
+    QPainter& painter, const QRectF& rect, qreal radius, const Theme& theme, qreal alpha, qreal reach, qreal down)
+{
+    constexpr int steps = 16;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(withAlpha(theme.shadow, alpha / steps));
+    for (int i = 0; i < steps; ++i) {
+        const qreal grow = reach * (1 - 2 * (i + .5) / steps);
+        const qreal corner = qMax(1.0, radius + grow);
+        painter.drawRoundedRect(rect.adjusted(-grow, -grow + down, grow, grow + down), corner, corner);
+    }
+}
+
 }  // namespace
 
 void paintShadow(QPainter& painter, const QRectF& rect, qreal radius, Shadow kind, const Theme& theme)
 {
+    if (kind == Shadow::dropdown) {
+        const qreal alpha = theme.shadow.alphaF();
+        paintOutlines(painter, rect, radius, theme, alpha, 18, 7);
+        paintOutlines(painter, rect, radius, theme, alpha * .6, 2, 1);
+        return;
+    }
     const qreal scale = painter.device()->devicePixelRatioF();
     const qreal opacity = painter.opacity();
     painter.save();

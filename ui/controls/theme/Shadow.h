@@ -10,7 +10,8 @@ namespace Quorbel {
 struct Theme;
 
 enum class Shadow {
-    menu,  ///< notices that float over the window
+    notice,  ///< notices that float over the window
+    dropdown,  ///< lists under a field; stays within the 25 pixels around the rectangle
     sheet,  ///< sheets
     photo,  ///< the photo of the preview column, and its cards
 };

@@ -1,4 +1,6 @@
-#include "ui/controls/theme/SystemScheme.h"
+#include "ui/window/SystemScheme.h"
+
+#include "app/model/AppModel.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

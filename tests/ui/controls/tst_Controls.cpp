@@ -1,8 +1,12 @@
-#include "app/model/thumbnails/ThumbnailStore.h"
-#include "tests/support/Support.h"
 #include "tests/ui/UiSupport.h"
-#include "ui/controls/Components.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/ResizeHandle.h"
+#include "ui/controls/ThemedMenu.h"
+#include "ui/controls/Toggles.h"
 #include "ui/controls/ToolTips.h"
+#include "ui/controls/theme/Metrics.h"
 
 #include <QHelpEvent>
 #include <QLabel>
@@ -46,7 +50,7 @@ private:
 
 }  // namespace
 
-class TestComponents : public QObject {
+class tst_Controls : public QObject {
     Q_OBJECT
 
 private slots:
@@ -221,35 +225,6 @@ private slots:
         QCOMPARE(counter.count(), 1);
     }
 
-    void aThumbnailIsAskedForWhenItIsShown()
-    {
-        ThumbnailStoreOptions options;
-        QStringList decoded;
-        options.workers = 1;
-        options.embedded = [](const QString&, const std::stop_token&) { return QImage(); };
-        options.decode = [&decoded](const QString& path, int longSide, const std::stop_token&) {
-            decoded.append(path);
-            DecodedImage result;
-            result.outcome = DecodedImage::Outcome::decoded;
-            result.image = QImage(longSide, longSide / 2, QImage::Format_RGB32);
-            result.image.fill(Qt::green);
-            return result;
-        };
-        const Test::PhotoFolder folder;
-        const QUrl photo = folder.add(u"lake.jpg"_s);
-        ThumbnailStore store(options);
-        Test::Stage stage;
-        auto* view = stage.add(new ThumbnailView(&store, 60, 9));
-        view->setUrl(photo);
-        QCOMPARE(view->accessibleName(), u"Thumbnail of lake.jpg"_s);
-        QCOMPARE(store.entry(photo, ThumbnailStore::Kind::small).state, ThumbnailStore::State::none);
-        stage.show();
-        QTRY_COMPARE(Test::colorAt(view, { 30, 3 }), QColor(Qt::green));
-        QCOMPARE(decoded, QStringList(photo.toLocalFile()));
-        // Clipped to the rounded corner: what shows there is the window behind.
-        QVERIFY(Test::colorAt(view, { 0, 0 }) != QColor(Qt::green));
-    }
-
     void screenReadersAreToldWhatThingsAre_data()
     {
         QTest::addColumn<QWidget*>("widget");
@@ -355,5 +330,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestComponents)
-#include "tst_Components.moc"
+QTEST_MAIN(tst_Controls)
+#include "tst_Controls.moc"

@@ -1,5 +1,7 @@
-// The editors of the field kinds, made to fit into a row.
+#include "ui/inspector/RowEditor.h"
+
 #include "ui/controls/Buttons.h"
+#include "ui/controls/KeywordEditor.h"
 #include "ui/controls/OffsetPicker.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/TextFields.h"
@@ -122,7 +124,7 @@ RowEditor ratingEditor(FieldRow& row)
 
 RowEditor offsetEditor(FieldRow& row)
 {
-    auto* picker = new OffsetPicker(u"—"_s);
+    auto* picker = new OffsetPicker(FieldSchema::timeZoneOffsets(), u"—"_s);
     QWidget* holder = leftAligned(picker, row);
     QObject::connect(picker, &OffsetPicker::valueEdited, &row, &FieldRow::textEdited);
     return { holder, picker, { picker }, [picker](const FieldRowState& state, bool) {

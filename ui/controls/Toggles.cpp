@@ -1,6 +1,7 @@
-#include "ui/controls/Marks.h"
+#include "ui/controls/Toggles.h"
 
 #include "ui/controls/Accessibility.h"
+#include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
@@ -10,11 +11,14 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QVariantAnimation>
 
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+constexpr qreal boxSide = 16;  // points
+}  // namespace
 
 QBCheckbox::QBCheckbox(QWidget* parent)
     : QBCheckbox(QString(), parent)
@@ -39,16 +43,9 @@ void QBCheckbox::setAmber(bool amber)
     update();
 }
 
-void QBCheckbox::setSide(qreal points)
-{
-    m_side = points;
-    updateGeometry();
-    update();
-}
-
 QSize QBCheckbox::sizeHint() const
 {
-    const int side = px(m_side);
+    const int side = px(boxSide);
     if (text().isEmpty())
         return { side, side };
     return { side + px(8) + fontMetrics().horizontalAdvance(text()), qMax(side, px(18)) };
@@ -56,14 +53,14 @@ QSize QBCheckbox::sizeHint() const
 
 QRectF QBCheckbox::box() const
 {
-    const qreal side = pxF(m_side);
+    const qreal side = pxF(boxSide);
     return { 0, (height() - side) / 2, side, side };
 }
 
 void QBCheckbox::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    const qreal side = pxF(m_side);
+    const qreal side = pxF(boxSide);
     const QRectF box = this->box();
     const QColor on = m_amber ? theme.amber : theme.accent;
     const QColor ground = isChecked() ? on : mixed(theme.field, theme.derived.secondaryHover, fade()->hover());
@@ -82,6 +79,7 @@ void QBCheckbox::paintEvent(QPaintEvent*)
 
 QBSwitch::QBSwitch(QWidget* parent)
     : ThemedButton({}, parent)
+    , m_position(this, Duration::hover, QEasingCurve::OutCubic)
 {
     setCheckable(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -108,22 +106,7 @@ void QBSwitch::nextCheckState()
 
 void QBSwitch::slide()
 {
-    const qreal target = isChecked() ? 1 : 0;
-    if (!isVisible() || !motionEnabled(this)) {
-        m_position = target;
-        update();
-        return;
-    }
-    auto* animation = new QVariantAnimation(this);
-    animation->setDuration(Duration::hover);
-    animation->setEasingCurve(QEasingCurve::OutCubic);
-    animation->setStartValue(m_position);
-    animation->setEndValue(target);
-    connect(animation, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-        m_position = value.toReal();
-        update();
-    });
-    animation->start(QAbstractAnimation::DeleteWhenStopped);
+    m_position.moveTo(isChecked() ? 1 : 0);
 }
 
 void QBSwitch::paintEvent(QPaintEvent*)
@@ -133,12 +116,12 @@ void QBSwitch::paintEvent(QPaintEvent*)
     const QColor on = mixed(theme.accent, theme.derived.primaryHover, fade()->hover());
     QPainter painter(this);
     painter.setOpacity(opacity());
-    paintBox(painter, rect(), height() / 2.0, mixed(off, on, m_position), Qt::NoPen);
+    paintBox(painter, rect(), height() / 2.0, mixed(off, on, m_position.value()), Qt::NoPen);
     const qreal inset = pxF(2);
     const qreal side = height() - 2 * inset;
-    const QRectF knob(inset + m_position * (width() - side - 2 * inset), inset, side, side);
+    const QRectF knob(inset + m_position.value() * (width() - side - 2 * inset), inset, side, side);
     paintBox(painter, knob.translated(0, 1), side / 2, withAlpha(Qt::black, .16), Qt::NoPen);
-    paintBox(painter, knob, side / 2, mixed(theme.derived.switchKnob, theme.accentText, m_position), Qt::NoPen);
+    paintBox(painter, knob, side / 2, mixed(theme.derived.switchKnob, theme.accentText, m_position.value()), Qt::NoPen);
 }
 
 SegmentedPicker::SegmentedPicker(const QStringList& titles, QWidget* parent)

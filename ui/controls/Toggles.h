@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ui/controls/Buttons.h"
+#include "ui/controls/theme/AnimatedValue.h"
 
 #include <QStringList>
 
@@ -17,10 +18,7 @@ class QBCheckbox final : public ThemedButton {
 public:
     explicit QBCheckbox(QWidget* parent = nullptr);
     QBCheckbox(const QString& title, QWidget* parent);
-    bool isAmber() const { return m_amber; }
     void setAmber(bool amber);
-    /// The square's side, in points; 16.
-    void setSide(qreal points);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -32,7 +30,6 @@ private:
     QRectF box() const;
 
     bool m_amber = false;
-    qreal m_side = 16;
 };
 
 /// A switch, 34×20 points. It flips itself; toggled(bool) tells.
@@ -52,7 +49,7 @@ protected:
 private:
     void slide();
 
-    qreal m_position = 0;  ///< 0 off … 1 on, while it slides
+    AnimatedValue m_position;  ///< 0 off … 1 on, while it slides
 };
 
 /// One of a few choices side by side, 216×30 points. Left and Right change it.

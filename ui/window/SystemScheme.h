@@ -4,15 +4,16 @@
 // Knows nothing of the program's own choice of appearance. Never sets the application's palette: it reads it.
 #pragma once
 
-#include "app/model/AppModel.h"
-
 #include <QObject>
 
 #include <optional>
 
 class QDBusVariant;
+class QPalette;
 
 namespace Quorbel {
+
+enum class ColorScheme;  // AppModel's
 
 class SystemScheme final : public QObject {
     Q_OBJECT
@@ -37,7 +38,7 @@ private:
     void update();
 
     std::optional<ColorScheme> m_portal{};  ///< nothing: no portal, or it states no preference
-    ColorScheme m_known = ColorScheme::light;
+    ColorScheme m_known{};
 };
 
 /// Dark when text is drawn lighter than the window behind it.

@@ -1,0 +1,25 @@
+// What one row of the inspector shows. Thread: any. Plain values; knows neither model nor widget.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Quorbel {
+
+/// All that a row shows.
+struct FieldRowState {
+    QString label{};
+    QString text{};  ///< of an editor of one value
+    QStringList items{};  ///< of a keyword editor
+    QString placeholder{};
+    bool italicPlaceholder = false;
+    bool batch = false;  ///< has a tick
+    bool included = false;  ///< the tick
+    bool edited = false;
+    bool removable = false;
+    QString namespaceLine{};  ///< none when empty
+    QString helpLine{};  ///< none when empty
+    bool operator==(const FieldRowState&) const = default;
+};
+
+}  // namespace Quorbel

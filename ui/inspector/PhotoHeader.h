@@ -1,0 +1,32 @@
+// What stands above the inspector's form: the photo being edited.
+// Thread: the main thread.
+#pragma once
+
+#include <QWidget>
+
+namespace Quorbel {
+
+class ThemedLabel;
+class ThumbnailStore;
+class ThumbnailView;
+struct ImageRecord;
+
+/// Thumbnail, file name, details.
+class PhotoHeader final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(PhotoHeader)
+
+public:
+    static constexpr qreal heightInPoints = 60;
+
+    /// The store may be null; it is not owned and must outlive this.
+    explicit PhotoHeader(ThumbnailStore* thumbs, QWidget* parent = nullptr);
+    void setRecord(const ImageRecord& record);
+
+private:
+    ThumbnailView* m_thumbnail;
+    ThemedLabel* m_name;
+    ThemedLabel* m_details;
+};
+
+}  // namespace Quorbel

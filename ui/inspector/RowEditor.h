@@ -1,0 +1,41 @@
+// The editor inside a row of the inspector, one for each kind of field.
+// Thread: the main thread. Knows the row that it reports to, nothing of the model.
+#pragma once
+
+#include "core/schema/FieldSchema.h"
+#include "ui/inspector/FieldRowState.h"
+
+#include <QDateTime>
+#include <QList>
+
+#include <functional>
+
+class QWidget;
+
+namespace Quorbel {
+
+class FieldRow;
+class PlaceProvider;
+
+/// Which editor a row gets, and what that editor asks.
+struct FieldRowParts {
+    FieldKind kind = FieldKind::text;
+    bool searchesPlaces = false;  ///< a text editor with place suggestions
+    PlaceProvider* places = nullptr;  ///< not owned; may be null
+    std::function<QStringList(const QString& prefix)> completions{};  ///< of keywords, best first
+    std::function<QDateTime()> now{};  ///< local time for the button "Now"
+};
+
+/// An editor as its row sees it.
+struct RowEditor {
+    QWidget* widget = nullptr;
+    QWidget* input = nullptr;  ///< the part that takes the keyboard; carries the accessible name
+    QList<QWidget*> tabStops{};
+    /// `fresh`: the row shows another photo now; see FieldRow::setState().
+    std::function<void(const FieldRowState& state, bool fresh)> show{};
+};
+
+/// Makes the editor that fits and connects its signals to those of the row.
+RowEditor makeRowEditor(const FieldRowParts& parts, FieldRow& row);
+
+}  // namespace Quorbel
