@@ -138,6 +138,8 @@ public:
         compare("PNG of 6 megapixels to 256", 1.10, made("a.png", 4, &Bench::png), 256);
         compare("PNG of 6 megapixels to 1,400", 1.10, made("a.png", 4, &Bench::png), 1400);
         compare("WebP of 6 megapixels to 256", 1.10, made("a.webp", 6, &Bench::webp), 256);
+        compare("TIFF of four inks, stored, to 256", 0.10, made("stored.tif", 4, &Bench::storedInks), 256);
+        compare("TIFF of four inks by LZW to 256", 0.40, made("lzw.tif", 4, &Bench::inksByLzw), 256);
         jpeg2000s();
         bombs();
     }
@@ -207,6 +209,15 @@ private:
     static QByteArray jxl(const QImage& image) { return ImageFiles::jxl(image); }
     static QByteArray png(const QImage& image) { return ImageFiles::written(image, "png", 50); }
     static QByteArray webp(const QImage& image) { return ImageFiles::written(image, "webp", 85); }
+    static QByteArray storedInks(const QImage& image)
+    {
+        return ImageFiles::cmykTiff(image.size(), ImageFiles::inksOf(image), {}, { .rowsPerStrip = 16 });
+    }
+    static QByteArray inksByLzw(const QImage& image)
+    {
+        return ImageFiles::cmykTiff(
+            image.size(), ImageFiles::inksOf(image), {}, { .compression = 5, .differences = true, .rowsPerStrip = 16 });
+    }
     static QByteArray jp2(const QImage& image) { return ImageFiles::jpeg2000(image, true); }
 
     /// The files of that name, which are made once.
@@ -266,17 +277,19 @@ private:
 
     void compare(const char* what, double target, const Files& made, int longSide) const
     {
-        if (!isWanted(what))
-            return;
-        const QStringList files = made();
-        const QStringList command{ u"vipsthumbnail"_s, u"--size"_s, QString::number(longSide), u"-o"_s,
-            m_folder.filePath(u"out-%s.jpg"_s) };
-        report(
-            what, target, files.size(), [&] { return ourCost(u"--decode"_s, longSide, files); },
-            [&] { return costOf(command, files); }, "vipsthumbnail");
+        compareWithVips(what, target, made, longSide,
+            [&](const QStringList& files) { return ourCost(u"--decode"_s, longSide, files); });
     }
 
     void compareEmbedded(const char* what, double target, const Files& made, int longSide) const
+    {
+        compareWithVips(what, target, made, longSide, [&](const QStringList& files) {
+            const Cost all = ourCost(u"--embedded"_s, longSide, files);
+            return Cost{ all.startUp + (all.run - all.startUp) / embeddedRounds, all.startUp };
+        });
+    }
+
+    void compareWithVips(const char* what, double target, const Files& made, int longSide, const auto& ours) const
     {
         if (!isWanted(what))
             return;
@@ -284,12 +297,8 @@ private:
         const QStringList command{ u"vipsthumbnail"_s, u"--size"_s, QString::number(longSide), u"-o"_s,
             m_folder.filePath(u"out-%s.jpg"_s) };
         report(
-            what, target, files.size(),
-            [&] {
-                const Cost all = ourCost(u"--embedded"_s, longSide, files);
-                return Cost{ all.startUp + (all.run - all.startUp) / embeddedRounds, all.startUp };
-            },
-            [&] { return costOf(command, files); }, "vipsthumbnail");
+            what, target, files.size(), [&] { return ours(files); }, [&] { return costOf(command, files); },
+            "vipsthumbnail");
     }
 
     void compareWithMagick(const char* what, double target, const Files& made, int longSide) const

@@ -5,13 +5,22 @@
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
-#include <QFileInfo>
 #include <QPainter>
 #include <QPainterPath>
 
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What follows the last dot; empty without one.
+QString suffix(const QString& fileName)
+{
+    return fileName.mid(fileName.lastIndexOf(u'.') + 1, fileName.contains(u'.') ? -1 : 0);
+}
+
+}  // namespace
 
 ThumbnailView::ThumbnailView(ThumbnailStore* thumbs, qreal size, qreal corner, QWidget* parent)
     : QWidget(parent)
@@ -57,7 +66,7 @@ void ThumbnailView::paint(QPainter& painter, const QRectF& rect, qreal corner, c
         if (entry.state == ThumbnailStore::State::badge) {
             painter.setPen(theme.muted);
             painter.setFont(sansFont(rect.height() < pxF(50) ? 10 : 11, QFont::DemiBold));
-            painter.drawText(rect, Qt::AlignCenter, QFileInfo(url.fileName()).suffix().toUpper());
+            painter.drawText(rect, Qt::AlignCenter, suffix(url.fileName()).toUpper());
         }
     } else {
         // Fill the square: the image's shorter side spans it, the longer one is cut on both ends.

@@ -1,5 +1,7 @@
 #include "platform/images/color/ColorManagement.h"
 
+#include "platform/images/Release.h"
+
 #include <QColorSpace>
 
 #include <lcms2.h>
@@ -11,18 +13,9 @@ namespace Quorbel {
 
 namespace {
 
-struct CloseContext {
-    void operator()(cmsContext context) const { cmsDeleteContext(context); }
-};
-struct CloseProfile {
-    void operator()(cmsHPROFILE profile) const { cmsCloseProfile(profile); }
-};
-struct CloseTransform {
-    void operator()(cmsHTRANSFORM transform) const { cmsDeleteTransform(transform); }
-};
-using Context = std::unique_ptr<std::remove_pointer_t<cmsContext>, CloseContext>;
-using Profile = std::unique_ptr<void, CloseProfile>;
-using Transform = std::unique_ptr<void, CloseTransform>;
+using Context = std::unique_ptr<std::remove_pointer_t<cmsContext>, Release<cmsDeleteContext>>;
+using Profile = std::unique_ptr<void, Release<cmsCloseProfile>>;
+using Transform = std::unique_ptr<void, Release<cmsDeleteTransform>>;
 
 QImage plain(const QImage& image)
 {

@@ -16,17 +16,17 @@ namespace Quorbel {
 
 namespace {
 
-struct Colours {
+struct LumaCoding {
     int matrix = heif_matrix_coefficients_unspecified;  ///< ITU-T H.273, 8.3
     bool fullRange = false;
 };
 
 /// What the object on this thread asks for.
-struct Wish {
+struct Request {
     bool active = false;
-    std::optional<Colours> container{};
+    std::optional<LumaCoding> container{};
 };
-thread_local Wish wish;
+thread_local Request request;
 
 heif_error done()
 {
@@ -64,15 +64,15 @@ struct Matrix {
 };
 
 /// Nothing for those that photos do not have.
-std::optional<Matrix> matrixOf(Colours colours)
+std::optional<Matrix> matrixOf(LumaCoding coding)
 {
-    switch (colours.matrix) {
+    switch (coding.matrix) {
     case heif_matrix_coefficients_ITU_R_BT_709_5:
-        return Matrix::of(0.2126, 0.0722, colours.fullRange);
+        return Matrix::of(0.2126, 0.0722, coding.fullRange);
     case heif_matrix_coefficients_unspecified:
     case heif_matrix_coefficients_ITU_R_BT_470_6_System_B_G:
     case heif_matrix_coefficients_ITU_R_BT_601_6:
-        return Matrix::of(0.299, 0.114, colours.fullRange);
+        return Matrix::of(0.299, 0.114, coding.fullRange);
     default:
         return std::nullopt;
     }
@@ -132,9 +132,10 @@ void convertRow(const Planes& from, const Matrix& matrix, int y, int width, cons
 heif_error toImage(const de265_image* picture, heif_image** result)
 {
     static constexpr std::array channels{ heif_channel_R, heif_channel_G, heif_channel_B };
-    const Colours stream{ de265_get_image_matrix_coefficients(picture), de265_get_image_full_range_flag(picture) != 0 };
+    const LumaCoding stream{ de265_get_image_matrix_coefficients(picture),
+        de265_get_image_full_range_flag(picture) != 0 };
     const QSize size(de265_get_image_width(picture, 0), de265_get_image_height(picture, 0));
-    const auto matrix = matrixOf(wish.container.value_or(stream));
+    const auto matrix = matrixOf(request.container.value_or(stream));
     const auto planes = planesOf(picture, size);
     if (!matrix || !planes
         || heif_image_create(size.width(), size.height(), heif_colorspace_RGB, heif_chroma_444, result).code
@@ -201,7 +202,7 @@ const heif_decoder_plugin& plugin()
         .init_plugin = nullptr,
         .deinit_plugin = nullptr,
         .does_support_format = [](heif_compression_format format) -> int {
-            return wish.active && format == heif_compression_HEVC ? ahead : 0;
+            return request.active && format == heif_compression_HEVC ? ahead : 0;
         },
         .new_decoder = [](void** decoder) -> heif_error {
             *decoder = de265_new_decoder();
@@ -223,18 +224,18 @@ HevcToRgb::HevcToRgb(const heif_image_handle* image)
     static std::once_flag registered;
     std::call_once(registered, [] { heif_register_decoder_plugin(&plugin()); });
     heif_color_profile_nclx* nclx = nullptr;
-    wish.active = heif_image_handle_has_alpha_channel(image) == 0
+    request.active = heif_image_handle_has_alpha_channel(image) == 0
         && heif_image_handle_get_luma_bits_per_pixel(image) == 8
         && heif_image_handle_get_chroma_bits_per_pixel(image) == 8;
     if (heif_image_handle_get_nclx_color_profile(image, &nclx).code == heif_error_Ok && nclx) {
-        wish.container = Colours{ int(nclx->matrix_coefficients), nclx->full_range_flag != 0 };
+        request.container = LumaCoding{ int(nclx->matrix_coefficients), nclx->full_range_flag != 0 };
         heif_nclx_color_profile_free(nclx);
     }
 }
 
 HevcToRgb::~HevcToRgb()
 {
-    wish = {};
+    request = {};
 }
 
 }  // namespace Quorbel

@@ -1,207 +1,262 @@
 #include "platform/images/formats/CmykTiff.h"
 
+#include "platform/images/Release.h"
 #include "platform/images/color/ColorManagement.h"
-#include "platform/images/formats/PackBits.h"
-#include "platform/images/formats/TiffReader.h"
+#include "platform/images/gate/HeaderGate.h"
 
 #include <QSize>
 
 #include <algorithm>
-#include <array>
+#include <cstdio>
+#include <memory>
+#include <optional>
+
+#include <tiffio.h>
 
 namespace Quorbel {
 
 namespace {
 
-enum Tag : quint16 {
-    widthTag = 256,
-    heightTag = 257,
-    bitsTag = 258,
-    compressionTag = 259,
-    photometricTag = 262,
-    stripOffsetsTag = 273,
-    samplesTag = 277,
-    rowsPerStripTag = 278,
-    stripLengthsTag = 279,
-    planarTag = 284,
-    predictorTag = 317,
-    profileTag = 34675,
-};
-enum Compression : quint32 { stored = 1, lzw = 5, packed = 32773 };
+constexpr int inkCount = 4;
+constexpr qint64 mostBytesHeld = 512LL * 1024 * 1024;
+
+tmsize_t readBytes(thandle_t device, void* data, tmsize_t length)
+{
+    return static_cast<QIODevice*>(device)->read(static_cast<char*>(data), length);
+}
+
+tmsize_t writeNothing(thandle_t, void*, tmsize_t)
+{
+    return -1;
+}
+
+toff_t seekTo(thandle_t handle, toff_t offset, int from)
+{
+    auto& device = *static_cast<QIODevice*>(handle);
+    const qint64 start = from == SEEK_CUR ? device.pos() : from == SEEK_END ? device.size() : 0;
+    return device.seek(start + qint64(offset)) ? toff_t(device.pos()) : toff_t(-1);
+}
+
+int keepOpen(thandle_t)
+{
+    return 0;
+}
+
+toff_t sizeOf(thandle_t device)
+{
+    return toff_t(static_cast<QIODevice*>(device)->size());
+}
+
+/// What damaged files make the library say is of no use to anybody.
+int keepSilent(TIFF*, void*, const char*, const char*, va_list)
+{
+    return 1;
+}
+
+using Tiff = std::unique_ptr<TIFF, Release<TIFFClose>>;
+
+/// Null when the file is no TIFF.
+Tiff opened(QIODevice& device)
+{
+    TIFFOpenOptions* options = TIFFOpenOptionsAlloc();
+    TIFFOpenOptionsSetMaxSingleMemAlloc(options, mostBytesHeld);
+    TIFFOpenOptionsSetErrorHandlerExtR(options, keepSilent, nullptr);
+    TIFFOpenOptionsSetWarningHandlerExtR(options, keepSilent, nullptr);
+    // Unmapped, and the places of strips looked up when they are wanted: a header may claim millions of them.
+    Tiff tiff(TIFFClientOpenExt(
+        "photo", "rmO", &device, readBytes, writeNothing, seekTo, keepOpen, sizeOf, nullptr, nullptr, options));
+    TIFFOpenOptionsFree(options);
+    return tiff;
+}
+
+template <typename T>
+T field(TIFF* tiff, ttag_t tag, T otherwise)
+{
+    T value = otherwise;
+    return TIFFGetFieldDefaulted(tiff, tag, &value) ? value : otherwise;
+}
 
 struct Layout {
     QSize size{};
-    int samples = 4;  ///< a pixel; those after the inks are passed over
+    int samples = inkCount;  ///< a pixel; those after the inks are passed over
     int sampleBytes = 1;
-    quint32 compression = stored;
-    bool differences = false;  ///< each sample is stored as the difference to the pixel before
+    bool planes = false;  ///< one ink after the other; otherwise the samples of a pixel lie together
+    QSize tile{};  ///< empty: strips
     int rowsPerStrip = 1;
-    QList<quint32> offsets{};
-    QList<quint32> lengths{};
-    QByteArray icc{};
 
-    qsizetype rowBytes() const { return qsizetype(size.width()) * samples * sampleBytes; }
+    int samplesOfPlane() const { return planes ? 1 : samples; }
+    qint64 bytesOf(QSize area) const { return qint64(area.width()) * area.height() * samplesOfPlane() * sampleBytes; }
+    /// What is held at a time: one row or, of tiles, a row of them and the one that is being unpacked.
+    qint64 bytesHeld() const
+    {
+        return tile.isEmpty() ? bytesOf({ size.width(), 1 }) : bytesOf({ size.width(), tile.height() }) + bytesOf(tile);
+    }
 };
 
-std::optional<Layout> layoutOf(const TiffReader& tiff)
+/// As much as an int holds: what is larger is refused for its size.
+int bounded(quint32 number)
 {
-    constexpr quint32 inks = 5, interleaved = 1;
-    constexpr qsizetype mostStrips = 400'000, mostProfile = 16LL * 1024 * 1024;
-    const TiffDirectory first = tiff.directory(tiff.firstDirectory());
-    const auto number = [&](Tag tag, quint32 otherwise) { return first.number(tag).value_or(otherwise); };
-    if (number(photometricTag, 0) != inks || number(planarTag, interleaved) != interleaved)
-        return std::nullopt;
-    Layout layout;
-    layout.size = QSize(int(number(widthTag, 0)), int(number(heightTag, 0)));
-    layout.samples = int(number(samplesTag, 4));
-    const auto bits = tiff.numbers(first.entries.value(bitsTag), 1).value(0);
-    layout.sampleBytes = int(bits / 8);
-    layout.compression = number(compressionTag, stored);
-    layout.differences = number(predictorTag, 1) == 2;
-    layout.rowsPerStrip = int(qMin<quint32>(number(rowsPerStripTag, INT_MAX), quint32(layout.size.height())));
-    layout.offsets = tiff.numbers(first.entries.value(stripOffsetsTag), mostStrips);
-    layout.lengths = tiff.numbers(first.entries.value(stripLengthsTag), mostStrips);
-    if (const TiffEntry profile = first.entries.value(profileTag); profile.count > 4 && profile.count <= mostProfile)
-        layout.icc = tiff.bytes(number(profileTag, 0), profile.count);
-    const bool knownCompression =
-        layout.compression == stored || layout.compression == lzw || layout.compression == packed;
-    const bool sound = !layout.size.isEmpty() && layout.samples >= 4 && layout.samples <= 16
-        && (bits == 8 || bits == 16) && knownCompression && layout.rowsPerStrip > 0 && !layout.offsets.isEmpty()
-        && layout.offsets.size() == layout.lengths.size();
-    return sound ? std::optional(layout) : std::nullopt;
+    return int(qMin<quint32>(number, INT_MAX));
 }
 
-/// TIFF 6.0, section 13. Fills `out` as far as the codes go.
-class LzwDecoder {
+std::optional<Layout> layoutOf(TIFF* tiff, qint64 fileBytes)
+{
+    const auto number = [tiff](ttag_t tag, quint16 otherwise) { return field<quint16>(tiff, tag, otherwise); };
+    const auto length = [tiff](ttag_t tag) { return bounded(field<quint32>(tiff, tag, 0)); };
+    Layout layout;
+    layout.size = QSize(length(TIFFTAG_IMAGEWIDTH), length(TIFFTAG_IMAGELENGTH));
+    layout.samples = number(TIFFTAG_SAMPLESPERPIXEL, 1);
+    layout.planes = number(TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG) == PLANARCONFIG_SEPARATE;
+    const int bits = number(TIFFTAG_BITSPERSAMPLE, 1), kind = number(TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_UINT);
+    layout.sampleBytes = bits / 8;
+    const bool areInks = number(TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_MINISBLACK) == PHOTOMETRIC_SEPARATED
+        && layout.samples >= inkCount && layout.samples <= 16 && (bits == 8 || bits == 16)
+        && (kind == SAMPLEFORMAT_UINT || kind == SAMPLEFORMAT_VOID);
+    if (!areInks || !TIFFIsCODECConfigured(number(TIFFTAG_COMPRESSION, COMPRESSION_NONE))
+        || !HeaderGate::allows(layout.size, true))
+        return std::nullopt;
+    qint64 unpacked = 0, expected = 0;
+    if (TIFFIsTiled(tiff)) {
+        layout.tile = QSize(length(TIFFTAG_TILEWIDTH), length(TIFFTAG_TILELENGTH));
+        unpacked = qint64(TIFFTileSize64(tiff));
+        expected = layout.bytesOf(layout.tile);
+    } else {
+        layout.rowsPerStrip = qMin(length(TIFFTAG_ROWSPERSTRIP), layout.size.height());
+        unpacked = qint64(TIFFScanlineSize64(tiff));
+        expected = layout.bytesOf({ layout.size.width(), 1 });
+    }
+    // No coding makes less than a byte of 4,096: a claim beyond the file allocates nothing.
+    const bool isPlausible = unpacked > 0 && unpacked == expected && layout.rowsPerStrip > 0
+        && layout.bytesHeld() <= mostBytesHeld && unpacked / 4096 <= fileBytes;
+    return isPlausible ? std::optional(layout) : std::nullopt;
+}
+
+QByteArray profileOf(TIFF* tiff)
+{
+    constexpr quint32 mostProfile = 16 * 1024 * 1024;
+    quint32 length = 0;
+    const char* data = nullptr;
+    if (!TIFFGetField(tiff, TIFFTAG_ICCPROFILE, &length, &data) || !data || length > mostProfile)
+        return {};
+    return QByteArray(data, qsizetype(length));
+}
+
+/// The rows of one plane after the other, each from its first to its last. What cannot be read is paper.
+class RowReader {
 public:
-    explicit LzwDecoder(QByteArrayView in)
-        : m_in(in)
+    RowReader(TIFF* tiff, const Layout& layout)
+        : m_tiff(tiff)
+        , m_layout(layout)
+        , m_rowBytes(layout.bytesOf({ layout.size.width(), 1 }))
+        , m_rows(m_rowBytes * qMax(1, layout.tile.height()), '\0')
+        , m_tile(layout.tile.isEmpty() ? 0 : layout.bytesOf(layout.tile), '\0')
     {
     }
-    void decode(QByteArray& out)
+    const char* row(int y, int plane)
     {
-        qsizetype at = 0;
-        int previous = -1;
-        for (int code = next(); code >= 0 && code != endCode && at < out.size(); code = next()) {
-            if (code == clearCode) {
-                m_count = firstFree;
-                previous = -1;
-                continue;
-            }
-            if (code > m_count || (code == m_count && previous < 0))
-                return;  // no such entry yet
-            const bool isOwn = code == m_count;
-            qsizetype length = write(out, at, isOwn ? previous : code);
-            if (isOwn && at + length < out.size())
-                out[at + length++] = out[at];
-            if (previous >= 0 && m_count < tableSize) {
-                m_prefix[size_t(m_count)] = qint16(previous);
-                m_last[size_t(m_count)] = out[at];
-                m_length[size_t(m_count)] = quint16(lengthOf(previous) + 1);
-                ++m_count;
-            }
-            at += length;
-            previous = code;
+        if (m_layout.tile.isEmpty()) {
+            readRow(y, plane);
+            return m_rows.constData();
         }
+        const int inTile = y % m_layout.tile.height();
+        if (inTile == 0)
+            readTiles(y, plane);
+        return m_rows.constData() + m_rowBytes * inTile;
     }
+    bool hasRead() const { return m_hasRead; }
 
 private:
-    static constexpr int clearCode = 256, endCode = 257, firstFree = 258, tableSize = 4096;
-
-    int lengthOf(int code) const { return code < clearCode ? 1 : m_length[size_t(code)]; }
-
-    /// The entry's string, from its end; what does not fit is left out.
-    qsizetype write(QByteArray& out, qsizetype at, int code) const
+    /// A strip is unpacked row by row; after a damaged one nothing of it is known any more.
+    void readRow(int y, int plane)
     {
-        const qsizetype length = lengthOf(code);
-        for (qsizetype i = length - 1; i >= 0; --i) {
-            if (at + i < out.size())
-                out[at + i] = code < clearCode ? char(code) : m_last[size_t(code)];
-            code = code < clearCode ? code : m_prefix[size_t(code)];
+        m_broken = m_broken && y % m_layout.rowsPerStrip != 0;
+        if (!m_broken)
+            m_broken = TIFFReadScanline(m_tiff, m_rows.data(), quint32(y), quint16(plane)) != 1;
+        if (m_broken)
+            m_rows.fill('\0');
+        else
+            m_hasRead = true;
+    }
+    void readTiles(int y, int plane)
+    {
+        const QSize tile = m_layout.tile;
+        const qint64 tileRow = m_layout.bytesOf({ tile.width(), 1 });
+        const int rows = qMin(tile.height(), m_layout.size.height() - y);
+        for (int x = 0; x < m_layout.size.width(); x += tile.width()) {
+            const bool isRead = TIFFReadTile(m_tiff, m_tile.data(), quint32(x), quint32(y), 0, quint16(plane)) > 0;
+            if (!isRead)
+                m_tile.fill('\0');
+            m_hasRead = m_hasRead || isRead;
+            const qint64 at = m_layout.bytesOf({ x, 1 }), length = qMin(tileRow, m_rowBytes - at);
+            for (int row = 0; row < rows; ++row)
+                std::copy_n(m_tile.constData() + tileRow * row, length, m_rows.data() + m_rowBytes * row + at);
         }
-        return qMin(length, out.size() - at);
     }
 
-    /// Codes grow by a bit one entry early. -1 at the end.
-    int next()
-    {
-        const int width = m_count >= 2047 ? 12 : m_count >= 1023 ? 11 : m_count >= 511 ? 10 : 9;
-        while (m_held < width) {
-            if (m_read >= m_in.size())
-                return -1;
-            m_bits = m_bits << 8 | quint8(m_in[m_read++]);
-            m_held += 8;
-        }
-        m_held -= width;
-        return int(m_bits >> m_held & ((1U << width) - 1));
-    }
-
-    QByteArrayView m_in;
-    qsizetype m_read = 0;
-    quint32 m_bits = 0;
-    int m_held = 0;
-    int m_count = firstFree;
-    std::array<qint16, tableSize> m_prefix{};
-    std::array<char, tableSize> m_last{};
-    std::array<quint16, tableSize> m_length{};
+    TIFF* m_tiff;
+    const Layout& m_layout;
+    qint64 m_rowBytes;
+    QByteArray m_rows;  ///< one, or those of a row of tiles
+    QByteArray m_tile;
+    bool m_broken = false;  ///< the strip that is being read
+    bool m_hasRead = false;
 };
 
-/// Undoes the differences of one row of bytes or, big and little endian alike at this precision, of words' high bytes.
-void addUp(char* row, const Layout& layout, bool littleEndian)
-{
-    const qsizetype step = qsizetype(layout.samples) * layout.sampleBytes;
-    if (layout.sampleBytes == 1) {
-        for (qsizetype i = step; i < layout.rowBytes(); ++i)
-            row[i] = char(row[i] + row[i - step]);
-        return;
-    }
-    const qsizetype low = littleEndian ? 0 : 1, high = 1 - low;
-    for (qsizetype i = step; i + 1 < layout.rowBytes(); i += 2) {
-        const auto word = [&](qsizetype at) { return quint8(row[at + high]) << 8 | quint8(row[at + low]); };
-        const int sum = word(i) + word(i - step);
-        row[i + high] = char(sum >> 8);
-        row[i + low] = char(sum);
-    }
-}
-
-/// The inks of the picture, averaged over squares of pixels.
+/// The inks of the picture, averaged over squares of pixels. Takes the rows of one plane after the other.
 class InkSums {
 public:
-    InkSums(const Layout& layout, int longSide, bool littleEndian)
+    InkSums(const Layout& layout, int longSide)
         : m_layout(layout)
-        , m_highByte(layout.sampleBytes == 2 && littleEndian ? 1 : 0)
         , m_factor(qMax(1, qMax(layout.size.width(), layout.size.height()) / qMax(1, longSide)))
         , m_size(QSize(layout.size.width() / m_factor, layout.size.height() / m_factor).expandedTo(QSize(1, 1)))
-        , m_sums(qsizetype(m_size.width()) * 4)
-        , m_inks(qsizetype(m_size.width()) * m_size.height() * 4, '\0')
+        , m_sums(qsizetype(m_size.width()) * inkCount)
+        , m_inks(m_sums.size() * m_size.height(), '\0')
     {
     }
-    void add(const char* row, int y)
+    void add(const char* row, int y, int plane)
     {
-        if (y % m_factor == 0)
-            std::ranges::fill(m_sums, 0);
-        const int columns = m_size.width() * m_factor;
-        for (int x = 0; x < columns; ++x) {
-            const qsizetype column = qMin(x, m_layout.size.width() - 1);
-            const char* pixel = row + column * m_layout.samples * m_layout.sampleBytes + m_highByte;
-            for (int ink = 0; ink < 4; ++ink)
-                m_sums[qsizetype(x / m_factor) * 4 + ink] += quint8(pixel[qsizetype(ink) * m_layout.sampleBytes]);
-        }
         const int target = y / m_factor;
-        const bool complete = (y + 1) % m_factor == 0 || y + 1 == m_layout.size.height();
-        if (!complete || target >= m_size.height())
+        if (target >= m_size.height())
             return;
-        const int count = m_factor * (y % m_factor + 1);
-        char* to = m_inks.data() + qsizetype(target) * m_sums.size();
-        for (qsizetype i = 0; i < m_sums.size(); ++i)
-            to[i] = char(m_sums[i] / count);
+        if (y % m_factor == 0)
+            m_sums.fill(0);
+        if (m_layout.sampleBytes == 1)
+            sumUp<quint8>(reinterpret_cast<const quint8*>(row));
+        else
+            sumUp<quint16>(reinterpret_cast<const quint16*>(row));
+        if ((y + 1) % m_factor == 0 || y + 1 == m_layout.size.height())
+            store(target, y % m_factor + 1, plane);
     }
     QSize size() const { return m_size; }
     const QByteArray& inks() const { return m_inks; }
 
 private:
+    int inksOfPlane() const { return m_layout.planes ? 1 : inkCount; }
+
+    /// Of deeper samples the upper eight bits.
+    template <typename Sample>
+    void sumUp(const Sample* pixel)
+    {
+        constexpr int shift = 8 * (int(sizeof(Sample)) - 1);
+        const int step = m_layout.samplesOfPlane(), inks = inksOfPlane();
+        int left = m_layout.size.width();
+        for (int* sum = m_sums.data(); sum != m_sums.data() + m_sums.size(); sum += inkCount) {
+            for (int i = qMin(m_factor, left); i > 0; --i, pixel += step)
+                for (int ink = 0; ink < inks; ++ink)
+                    sum[ink] += pixel[ink] >> shift;
+            left -= m_factor;
+        }
+    }
+    void store(int target, int rows, int plane)
+    {
+        const int count = rows * qMin(m_factor, m_layout.size.width());
+        char* to = m_inks.data() + m_sums.size() * target + plane;
+        for (qsizetype i = 0; i < m_sums.size(); i += inkCount)
+            for (int ink = 0; ink < inksOfPlane(); ++ink)
+                to[i + ink] = char(m_sums.at(i + ink) / count);
+    }
+
     const Layout& m_layout;
-    qsizetype m_highByte;
     int m_factor;
     QSize m_size;
     QList<int> m_sums;
@@ -212,39 +267,19 @@ private:
 
 DecodedFrame CmykTiff::decode(const DecodeSource& source)
 {
-    constexpr qint64 mostStripBytes = 512LL * 1024 * 1024;
-    const TiffReader tiff(source.device);
-    const auto layout = layoutOf(tiff);
     DecodedFrame frame;
     frame.outcome = DecodedImage::Outcome::unsupported;
-    const qint64 stripBytes = layout ? layout->rowBytes() * layout->rowsPerStrip : 0;
-    // A strip that is no compressed one must be in the file as it is: a claim beyond that allocates nothing.
-    if (!layout || stripBytes > mostStripBytes || stripBytes / 4096 > source.device.size())
+    const Tiff tiff = opened(source.device);
+    const auto layout = tiff ? layoutOf(tiff.get(), source.device.size()) : std::nullopt;
+    if (!layout)
         return frame;
-    InkSums sums(*layout, source.longSide, tiff.isLittleEndian());
-    QByteArray strip(stripBytes, '\0');
-    for (int y = 0; y < layout->size.height(); ++y) {
-        const int row = y % layout->rowsPerStrip;
-        const qsizetype index = y / layout->rowsPerStrip;
-        if (source.cancel.stop_requested() || index >= layout->offsets.size())
-            break;
-        if (row == 0) {
-            const QByteArray bytes =
-                tiff.bytes(layout->offsets[index], qMin<qint64>(layout->lengths[index], 2 * stripBytes + 1024));
-            strip.fill('\0');
-            if (layout->compression == lzw)
-                LzwDecoder(bytes).decode(strip);
-            else if (layout->compression == packed)
-                unpackBits(bytes, strip);
-            else
-                std::copy_n(bytes.constData(), qMin(bytes.size(), strip.size()), strip.data());
-        }
-        char* pixels = strip.data() + layout->rowBytes() * row;
-        if (layout->differences)
-            addUp(pixels, *layout, tiff.isLittleEndian());
-        sums.add(pixels, y);
-    }
-    frame.image = ColorManagement::fromCMYK(sums.inks(), sums.size(), layout->icc);
+    RowReader reader(tiff.get(), *layout);
+    InkSums sums(*layout, source.longSide);
+    for (int plane = 0; plane < (layout->planes ? inkCount : 1); ++plane)
+        for (int y = 0; y < layout->size.height() && !source.cancel.stop_requested(); ++y)
+            sums.add(reader.row(y, plane), y, plane);
+    if (reader.hasRead())
+        frame.image = ColorManagement::fromCMYK(sums.inks(), sums.size(), profileOf(tiff.get()));
     frame.outcome = frame.image.isNull() ? DecodedImage::Outcome::damaged : DecodedImage::Outcome::decoded;
     return frame;
 }

@@ -1,6 +1,6 @@
 // TIFFs of four inks, as they come from prepress: Qt's reader mixes the inks by the plain formula and drops their
-// profile. Read here: strips of 8 or 16 bits a sample, channels interleaved, stored plainly, packed or by LZW.
-// Thread: any. Our own reader; holds one strip and the reduced picture.
+// profile. libtiff unpacks them, in strips or tiles, interleaved or in planes, of 8 or 16 bits a sample.
+// Thread: any. Holds one packed strip or one row of tiles, and the reduced picture.
 #pragma once
 
 #include "platform/images/DecodedImage.h"

@@ -1,5 +1,6 @@
 #include "platform/images/formats/HeifFormat.h"
 
+#include "platform/images/Release.h"
 #include "platform/images/WholeFrameTurn.h"
 #include "platform/images/color/HevcToRgb.h"
 #include "platform/images/formats/HeifThumbnailView.h"
@@ -18,14 +19,6 @@ namespace Quorbel {
 
 namespace {
 
-template <auto release>
-struct Release {
-    template <typename T>
-    void operator()(T* object) const
-    {
-        release(object);
-    }
-};
 using Context = std::unique_ptr<heif_context, Release<heif_context_free>>;
 using Handle = std::unique_ptr<heif_image_handle, Release<heif_image_handle_release>>;
 using Image = std::unique_ptr<heif_image, Release<heif_image_release>>;

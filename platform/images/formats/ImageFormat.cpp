@@ -76,12 +76,12 @@ ImageFormat formatOfBrands(QByteArrayView head)
 bool isRawTiff(QIODevice& device)
 {
     constexpr quint16 photometricTag = 262, dngVersionTag = 50706, dngBackwardVersionTag = 50707;
-    constexpr quint32 colourFilterArray = 32803, linearRaw = 34892;
+    constexpr quint32 colorFilterArray = 32803, linearRaw = 34892;
     TiffReader tiff(device);
     const TiffDirectory first = tiff.directory(tiff.firstDirectory());
     const auto photometric = first.number(photometricTag);
     return first.contains(dngVersionTag) || first.contains(dngBackwardVersionTag)
-        || (photometric && (*photometric == colourFilterArray || *photometric == linearRaw));
+        || (photometric && (*photometric == colorFilterArray || *photometric == linearRaw));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "platform/images/formats/Jpeg2000Format.h"
 
+#include "platform/images/Release.h"
 #include "platform/images/color/ColorManagement.h"
 #include "platform/images/gate/HeaderGate.h"
 
@@ -15,14 +16,6 @@ namespace Quorbel {
 
 namespace {
 
-template <auto release>
-struct Release {
-    template <typename T>
-    void operator()(T* object) const
-    {
-        release(object);
-    }
-};
 using Stream = std::unique_ptr<opj_stream_t, Release<opj_stream_destroy>>;
 using Codec = std::unique_ptr<opj_codec_t, Release<opj_destroy_codec>>;
 using Image = std::unique_ptr<opj_image_t, Release<opj_image_destroy>>;
@@ -249,11 +242,11 @@ QByteArray inksOf(const QList<Channel>& channels, QSize size)
     return inks;
 }
 
-QImage coloursOf(const QList<Channel>& colours, const Channel* alpha, QSize size, bool ycc)
+QImage colorsOf(const QList<Channel>& colors, const Channel* alpha, QSize size, bool ycc)
 {
     QImage result(size, alpha ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-    Rows rows(colours, size);
-    const bool gray = colours.size() < 3;
+    Rows rows(colors, size);
+    const bool gray = colors.size() < 3;
     const uchar *first = rows.of(0), *second = rows.of(gray ? 0 : 1), *third = rows.of(gray ? 0 : 2);
     std::vector<uchar> opacity(size_t(size.width()), 255);
     for (int y = 0; y < result.height(); ++y) {
@@ -294,7 +287,7 @@ DecodedFrame frameOf(const opj_image_t& image)
     if (image.color_space == OPJ_CLRSPC_CMYK && channels.size() >= 4) {
         frame.image = ColorManagement::fromCMYK(inksOf(channels, size), size, icc);
     } else {
-        frame.image = coloursOf(channels, alpha ? &*alpha : nullptr, size, isYCC(image));
+        frame.image = colorsOf(channels, alpha ? &*alpha : nullptr, size, isYCC(image));
         frame.icc = icc;
     }
     frame.outcome = DecodedImage::Outcome::decoded;

@@ -1,4 +1,4 @@
-// The run-length coding of Photoshop files and TIFFs. Pure.
+// The run-length coding of Photoshop files. Pure.
 #pragma once
 
 #include <QByteArray>

@@ -33,13 +33,13 @@ QImage grayOf(const PsdPlanes& planes)
 
 QImage indexedOf(const PsdPlanes& planes, const QByteArray& palette)
 {
-    constexpr int colours = 256;  // all reds, then all greens, then all blues
+    constexpr int colors = 256;  // all reds, then all greens, then all blues
     QImage image(planes.size, QImage::Format_RGB32);
     for (int y = 0; y < planes.size.height() && !image.isNull(); ++y) {
         const uchar* from = planes.row(0, y);
         auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < planes.size.width(); ++x) {
-            const auto part = [&](int band) { return int(quint8(palette.at(band * colours + from[x]))); };
+            const auto part = [&](int band) { return int(quint8(palette.at(band * colors + from[x]))); };
             to[x] = qRgb(part(0), part(1), part(2));
         }
     }
@@ -108,9 +108,9 @@ DecodedFrame frameOf(const PsdHeader& header, const PsdPlanes& planes)
         image = ColorManagement::toSRGB(grayOf(planes), icc);
         break;
     }
-    const int colours = header.colourChannels();
-    if (header.hasTransparency && planes.count > colours && !image.isNull())
-        image = withTransparency(image.convertToFormat(QImage::Format_RGB32), planes, colours);
+    const int colors = header.colorChannels();
+    if (header.hasTransparency && planes.count > colors && !image.isNull())
+        image = withTransparency(image.convertToFormat(QImage::Format_RGB32), planes, colors);
     return decoded(image);
 }
 

@@ -124,7 +124,7 @@ private:
 
 }  // namespace
 
-int PsdHeader::colourChannels() const
+int PsdHeader::colorChannels() const
 {
     switch (mode) {
     case Mode::rgb:
@@ -143,7 +143,7 @@ bool PsdHeader::isReadable() const
         || mode == Mode::cmyk || mode == Mode::multichannel || mode == Mode::duotone || mode == Mode::lab;
     const bool knownDepth = depth == 1 || depth == 8 || depth == 16 || depth == 32;
     constexpr int longestSide = 300'000;
-    return knownMode && knownDepth && qMax(size.width(), size.height()) <= longestSide && channels >= colourChannels()
+    return knownMode && knownDepth && qMax(size.width(), size.height()) <= longestSide && channels >= colorChannels()
         && !size.isEmpty() && (mode != Mode::indexed || (palette.size() >= 768 && depth == 8));
 }
 
@@ -239,7 +239,7 @@ PsdPlanes PsdReader::planes(const PsdHeader& header, int longSide, const std::st
 {
     const int factor = qMax(1, qMax(header.size.width(), header.size.height()) / qMax(1, longSide));
     PsdPlanes planes;
-    planes.count = qMin(header.channels, header.colourChannels() + (header.hasTransparency ? 1 : 0));
+    planes.count = qMin(header.channels, header.colorChannels() + (header.hasTransparency ? 1 : 0));
     planes.size = QSize(header.size.width() / factor, header.size.height() / factor).expandedTo(QSize(1, 1));
     RowReader rows(m_device, header);
     if (!rows.isValid())

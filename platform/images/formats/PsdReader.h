@@ -28,7 +28,7 @@ struct PsdHeader {
     bool hasTransparency = false;  ///< the channel after the colours is the flattened picture's opacity
     qint64 pixelsAt = 0;
 
-    int colourChannels() const;
+    int colorChannels() const;
     /// Whether its kind of flattened picture can be read: known mode and depth, enough channels.
     bool isReadable() const;
 };

@@ -1,6 +1,7 @@
 #include "platform/images/formats/RawFormat.h"
 
 #include "platform/images/Orientation.h"
+#include "platform/images/Release.h"
 #include "platform/images/WholeFrameTurn.h"
 #include "platform/images/formats/ExifThumbnail.h"
 #include "platform/images/formats/ImageFormat.h"
@@ -19,8 +20,7 @@ namespace Quorbel {
 namespace {
 
 using Outcome = DecodedImage::Outcome;
-using Processed =
-    std::unique_ptr<libraw_processed_image_t, decltype([](auto* image) { LibRaw::dcraw_clear_mem(image); })>;
+using Processed = std::unique_ptr<libraw_processed_image_t, Release<LibRaw::dcraw_clear_mem>>;
 
 /// EXIF's number for LibRaw's: 3 is upside down, 5 and 6 are quarter turns.
 int orientationOf(int flip)
@@ -75,10 +75,9 @@ DecodedFrame jpegPreview(const QByteArray& bytes, const DecodeSource& source)
         ImageFormat::jpeg, *header);
 }
 
-DecodedFrame bitmapPreview(LibRaw& raw)
+/// Damaged when LibRaw made nothing, or something else than eight bits of gray or RGB.
+DecodedFrame bitmapOf(const Processed& made)
 {
-    int error = 0;
-    const Processed made(raw.dcraw_make_mem_thumb(&error));
     DecodedFrame frame;
     if (!made || made->type != LIBRAW_IMAGE_BITMAP || made->bits != 8 || (made->colors != 3 && made->colors != 1)
         || made->data_size < quint64(made->width) * made->height * made->colors)
@@ -96,11 +95,12 @@ DecodedFrame previewOf(LibRaw& raw, const DecodeSource& source)
     if (raw.unpack_thumb() != LIBRAW_SUCCESS)
         return {};
     const auto& thumbnail = raw.imgdata.thumbnail;
+    int error = 0;
     DecodedFrame frame;
     if (thumbnail.tformat == LIBRAW_THUMBNAIL_JPEG && thumbnail.thumb)
         frame = jpegPreview(QByteArray::fromRawData(thumbnail.thumb, qsizetype(thumbnail.tlength)), source);
     else
-        frame = bitmapPreview(raw);
+        frame = bitmapOf(Processed(raw.dcraw_make_mem_thumb(&error)));
     if (frame.outcome != Outcome::decoded)
         return frame;
     if (qMax(frame.image.width(), frame.image.height()) <= letterboxed)
@@ -112,22 +112,13 @@ DecodedFrame previewOf(LibRaw& raw, const DecodeSource& source)
 /// The sensor's data, a quarter of its pixels, developed with the camera's own white balance. LibRaw turns it.
 DecodedFrame developed(LibRaw& raw)
 {
-    DecodedFrame frame;
     raw.imgdata.params.half_size = 1;
     raw.imgdata.params.use_camera_wb = 1;
     raw.imgdata.params.output_bps = 8;
     int error = 0;
     if (raw.unpack() != LIBRAW_SUCCESS || raw.dcraw_process() != LIBRAW_SUCCESS)
-        return frame;
-    const Processed made(raw.dcraw_make_mem_image(&error));
-    if (!made || made->type != LIBRAW_IMAGE_BITMAP || made->bits != 8 || (made->colors != 3 && made->colors != 1)
-        || made->data_size < quint64(made->width) * made->height * made->colors)
-        return frame;
-    frame.image = QImage(made->data, made->width, made->height, qsizetype(made->width) * made->colors,
-        made->colors == 3 ? QImage::Format_RGB888 : QImage::Format_Grayscale8)
-                      .copy();
-    frame.outcome = frame.image.isNull() ? Outcome::damaged : Outcome::decoded;
-    return frame;
+        return {};
+    return bitmapOf(Processed(raw.dcraw_make_mem_image(&error)));
 }
 
 /// As large as asked, or as what developing would give.

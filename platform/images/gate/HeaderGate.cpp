@@ -97,12 +97,12 @@ std::optional<ImageHeader> readPng(QIODevice& device)
         return std::nullopt;
     ImageHeader header;
     header.size = QSize(int(qMin<quint32>(big32(start, 16), INT_MAX)), int(qMin<quint32>(big32(start, 20), INT_MAX)));
-    const int depth = quint8(start[24]), colourType = quint8(start[25]), interlace = quint8(start[28]);
-    const bool trueColour = colourType == 2 || colourType == 6;
+    const int depth = quint8(start[24]), colorType = quint8(start[25]), interlace = quint8(start[28]);
+    const bool trueColor = colorType == 2 || colorType == 6;
     // The reader can scale rows while they stream, but holding an ordinary frame and scaling it at once is cheaper.
     constexpr qint64 comfortable = 40'000'000;
-    header.wholeFrame = interlace != 0 || !trueColour || depth != 8
-        || qint64(header.size.width()) * header.size.height() <= comfortable;
+    header.wholeFrame =
+        interlace != 0 || !trueColor || depth != 8 || qint64(header.size.width()) * header.size.height() <= comfortable;
     bool tagged = false, pixelsBegun = false;
     qint64 at = 33;
     for (int i = 0; i < maxChunks && (!pixelsBegun || header.exifAt < 0); ++i) {

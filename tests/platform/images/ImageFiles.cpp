@@ -1,7 +1,6 @@
 #include "tests/platform/images/ImageFiles.h"
 
 #include <QBuffer>
-#include <QHash>
 #include <QImageWriter>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -14,6 +13,7 @@
 #include <lcms2.h>
 #include <libheif/heif.h>
 #include <openjpeg.h>
+#include <tiffio.h>
 
 using namespace Qt::StringLiterals;
 
@@ -46,43 +46,62 @@ QByteArray little(T value)
     return bytes;
 }
 
-/// TIFF's LZW: codes grow from 9 to 12 bits, most significant bit first, and the table is cleared when full.
-QByteArray lzwCoded(const QByteArray& bytes)
-{
-    constexpr int clearCode = 256, endCode = 257, firstFree = 258, full = 4093;
-    QByteArray out, string;
-    QHash<QByteArray, int> table;
-    quint64 bits = 0;
-    int held = 0, count = firstFree;
-    const auto put = [&](int code) {
-        const int width = count >= 2048 ? 12 : count >= 1024 ? 11 : count >= 512 ? 10 : 9;
-        bits = bits << width | quint64(code);
-        for (held += width; held >= 8; held -= 8)
-            out += char(bits >> (held - 8) & 0xFF);
-    };
-    const auto codeOf = [&](const QByteArray& known) {
-        return known.size() == 1 ? quint8(known[0]) : table.value(known);
-    };
-    put(clearCode);
-    for (const char byte : bytes) {
-        const QByteArray longer = string + byte;
-        if (longer.size() == 1 || table.contains(longer)) {
-            string = longer;
-            continue;
-        }
-        put(codeOf(string));
-        table.insert(longer, count++);
-        if (count == full) {
-            put(clearCode);
-            table.clear();
-            count = firstFree;
-        }
-        string = QByteArray(1, byte);
+struct TiffCallbacks {
+    static QBuffer& buffer(thandle_t handle) { return *static_cast<QBuffer*>(handle); }
+    static tmsize_t read(thandle_t handle, void* data, tmsize_t length)
+    {
+        return buffer(handle).read(static_cast<char*>(data), length);
     }
-    put(codeOf(string));
-    ++count;
-    put(endCode);
-    return out + char(bits << (8 - held) & 0xFF);
+    static tmsize_t write(thandle_t handle, void* data, tmsize_t length)
+    {
+        return buffer(handle).write(static_cast<const char*>(data), length);
+    }
+    static toff_t seek(thandle_t handle, toff_t offset, int from)
+    {
+        QBuffer& to = buffer(handle);
+        const qint64 start = from == SEEK_CUR ? to.pos() : from == SEEK_END ? to.size() : 0;
+        return to.seek(start + qint64(offset)) ? toff_t(to.pos()) : toff_t(-1);
+    }
+    static int close(thandle_t) { return 0; }
+    static toff_t size(thandle_t handle) { return toff_t(buffer(handle).size()); }
+};
+
+/// The part of the picture of `inks` that lies at that place, as samples of a tile, a strip or one plane of them.
+QByteArray tiffSamples(const QByteArray& inks, QSize size, QRect part, const ImageFiles::TiffLayout& layout, int plane)
+{
+    QByteArray samples;
+    const auto add = [&](int value) {
+        const auto deep = quint16(value * 257);
+        samples += layout.bits == 8 ? QByteArray(1, char(value))
+                                    : QByteArray(reinterpret_cast<const char*>(&deep), sizeof deep);
+    };
+    for (int y = part.top(); y <= part.bottom(); ++y)
+        for (int x = part.left(); x <= part.right(); ++x) {
+            const bool inside = x < size.width() && y < size.height();
+            const auto ink = [&](int i) {
+                return inside && i < 4 ? quint8(inks[(qsizetype(y) * size.width() + x) * 4 + i]) : 0;
+            };
+            for (int i = layout.planes ? plane : 0; i < (layout.planes ? plane + 1 : 4 + layout.extra); ++i)
+                add(ink(i));
+        }
+    return samples;
+}
+
+void writeTiffPixels(TIFF* tiff, const QByteArray& inks, QSize size, const ImageFiles::TiffLayout& layout)
+{
+    const QSize unit =
+        layout.tile ? QSize(layout.tile, layout.tile) : QSize(size.width(), qMin(layout.rowsPerStrip, size.height()));
+    quint32 index = 0;
+    for (int plane = 0; plane < (layout.planes ? 4 + layout.extra : 1); ++plane)
+        for (int y = 0; y < size.height(); y += unit.height())
+            for (int x = 0; x < size.width(); x += unit.width(), ++index) {
+                const int rows = layout.tile ? unit.height() : qMin(unit.height(), size.height() - y);
+                QByteArray samples = tiffSamples(inks, size, QRect(x, y, unit.width(), rows), layout, plane);
+                if (layout.tile)
+                    TIFFWriteEncodedTile(tiff, index, samples.data(), samples.size());
+                else
+                    TIFFWriteEncodedStrip(tiff, index, samples.data(), samples.size());
+            }
 }
 
 /// The pixels as the library takes them.
@@ -179,10 +198,10 @@ QByteArray jxl(const QImage& image, const QByteArray& icc)
     info.num_extra_channels = 1;
     info.alpha_bits = 8;
     JxlEncoderSetBasicInfo(encoder.get(), &info);
-    JxlColorEncoding colour{};
-    JxlColorEncodingSetToSRGB(&colour, JXL_FALSE);
+    JxlColorEncoding color{};
+    JxlColorEncodingSetToSRGB(&color, JXL_FALSE);
     if (icc.isEmpty())
-        JxlEncoderSetColorEncoding(encoder.get(), &colour);
+        JxlEncoderSetColorEncoding(encoder.get(), &color);
     else
         JxlEncoderSetICCProfile(encoder.get(), reinterpret_cast<const uint8_t*>(icc.constData()), size_t(icc.size()));
     const JxlPixelFormat layout{ 4, JXL_TYPE_UINT8, JXL_NATIVE_ENDIAN, 0 };
@@ -190,7 +209,7 @@ QByteArray jxl(const QImage& image, const QByteArray& icc)
     JxlEncoderFrameSettingsSetOption(settings, JXL_ENC_FRAME_SETTING_EFFORT, 3);
     JxlEncoderAddImageFrame(settings, &layout, rgba.constBits(), size_t(rgba.sizeInBytes()));
     JxlEncoderCloseInput(encoder.get());
-    QByteArray bytes(16 * 1024 * 1024, '\0');
+    QByteArray bytes(16LL * 1024 * 1024, '\0');
     auto* next = reinterpret_cast<uint8_t*>(bytes.data());
     size_t room = size_t(bytes.size());
     JxlEncoderProcessOutput(encoder.get(), &next, &room);
@@ -241,14 +260,14 @@ QByteArray jpeg2000(const QImage& image, bool boxed, const QByteArray& icc)
     opj_image_destroy(planes);
     QFile file(QString::fromLocal8Bit(path));
     QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    const qsizetype headerAt = bytes.indexOf("jp2h") - 4, colourAt = bytes.indexOf("colr") - 4;
-    if (icc.isEmpty() || headerAt < 0 || colourAt < 0)
+    const qsizetype headerAt = bytes.indexOf("jp2h") - 4, colorAt = bytes.indexOf("colr") - 4;
+    if (icc.isEmpty() || headerAt < 0 || colorAt < 0)
         return bytes;
     // The encoder knows the box of colours only with an enumerated space.
     const QByteArray box = big<quint32>(quint32(icc.size()) + 11) + "colr" + QByteArray("\2\0\0", 3) + icc;
-    const auto before = qFromBigEndian<quint32>(bytes.constData() + colourAt);
+    const auto before = qFromBigEndian<quint32>(bytes.constData() + colorAt);
     const auto header = qFromBigEndian<quint32>(bytes.constData() + headerAt);
-    bytes.replace(colourAt, before, box);
+    bytes.replace(colorAt, before, box);
     return bytes.replace(headerAt, 4, big<quint32>(header - before + quint32(box.size())));
 }
 
@@ -289,8 +308,8 @@ QByteArray gif(const QImage& image)
     const QImage indexed = image.convertToFormat(QImage::Format_Indexed8);
     QByteArray palette, codes;
     for (int i = 0; i < 256; ++i) {
-        const QRgb colour = i < indexed.colorCount() ? indexed.color(i) : 0;
-        palette += QByteArray() + char(qRed(colour)) + char(qGreen(colour)) + char(qBlue(colour));
+        const QRgb color = i < indexed.colorCount() ? indexed.color(i) : 0;
+        palette += QByteArray() + char(qRed(color)) + char(qGreen(color)) + char(qBlue(color));
     }
     quint32 bits = 0;
     int held = 0;
@@ -361,32 +380,38 @@ QByteArray inksOf(const QImage& image)
     return inks;
 }
 
-QByteArray cmykTiff(QSize size, const QByteArray& inks, const QByteArray& icc, bool lzw)
+QByteArray cmykTiff(QSize size, const QByteArray& inks, const QByteArray& icc, const TiffLayout& layout)
 {
-    QByteArray strip = inks;
-    const qsizetype row = qsizetype(size.width()) * 4;
-    for (qsizetype i = strip.size() - 1; lzw && i >= 0; --i)
-        if (i % row >= 4)
-            strip[i] = char(strip[i] - strip[i - 4]);
-    if (lzw)
-        strip = lzwCoded(strip);
-    constexpr quint32 entries = 11, bitsAt = 8 + 2 + entries * 12 + 4, stripAt = bitsAt + 8;
-    QByteArray bytes = QByteArray("II*\0", 4) + little<quint32>(8) + little<quint16>(entries);
-    const auto entry = [&](quint16 tag, quint16 type, quint32 count, quint32 value) {
-        bytes += little(tag) + little(type) + little(count) + little(value);
-    };
-    entry(256, 4, 1, quint32(size.width()));
-    entry(257, 4, 1, quint32(size.height()));
-    entry(258, 3, 4, bitsAt);
-    entry(259, 3, 1, lzw ? 5 : 1);
-    entry(262, 3, 1, 5);
-    entry(273, 4, 1, stripAt);
-    entry(277, 3, 1, 4);
-    entry(278, 4, 1, quint32(size.height()));
-    entry(279, 4, 1, quint32(strip.size()));
-    entry(317, 3, 1, lzw ? 2 : 1);
-    entry(34675, 7, quint32(icc.size()), stripAt + quint32(strip.size()));
-    return bytes + little<quint32>(0) + little<quint16>(8).repeated(4) + strip + icc;
+    QBuffer buffer;
+    buffer.open(QIODevice::ReadWrite);
+    TIFF* tiff = TIFFClientOpen("made", layout.bigEndian ? "wb" : "wl", &buffer, TiffCallbacks::read,
+        TiffCallbacks::write, TiffCallbacks::seek, TiffCallbacks::close, TiffCallbacks::size, nullptr, nullptr);
+    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, size.width());
+    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, size.height());
+    TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, layout.bits);
+    TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, 4 + layout.extra);
+    TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_SEPARATED);
+    TIFFSetField(tiff, TIFFTAG_COMPRESSION, layout.compression);
+    TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, layout.planes ? PLANARCONFIG_SEPARATE : PLANARCONFIG_CONTIG);
+    if (layout.differences)
+        TIFFSetField(tiff, TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL);
+    if (layout.tile) {
+        TIFFSetField(tiff, TIFFTAG_TILEWIDTH, layout.tile);
+        TIFFSetField(tiff, TIFFTAG_TILELENGTH, layout.tile);
+    } else {
+        TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, qMin(layout.rowsPerStrip, size.height()));
+    }
+    if (!icc.isEmpty())
+        TIFFSetField(tiff, TIFFTAG_ICCPROFILE, quint32(icc.size()), icc.constData());
+    // The directory first: a file that is cut off then still has one, as those of most programs have.
+    TIFFDeferStrileArrayWriting(tiff);
+    TIFFWriteCheck(tiff, layout.tile != 0, "made");
+    TIFFWriteDirectory(tiff);
+    TIFFSetDirectory(tiff, 0);
+    writeTiffPixels(tiff, inks, size, layout);
+    TIFFForceStrileArrayWriting(tiff);
+    TIFFClose(tiff);
+    return buffer.data();
 }
 
 QByteArray grayInkProfile()
@@ -459,6 +484,16 @@ QByteArray webpWithExif(QByteArray webp, const QByteArray& exif)
     webp[flagsAt] = char(webp[flagsAt] | hasExif);
     webp += "EXIF" + little(quint32(exif.size())) + exif + QByteArray(exif.size() % 2, '\0');
     return webp.replace(4, 4, little(quint32(webp.size() - 8)));
+}
+
+QByteArray tiffClaiming(QByteArray tiff, quint16 tag, quint32 value)
+{
+    const auto first = qFromLittleEndian<quint32>(tiff.constData() + 4);
+    const int count = qFromLittleEndian<quint16>(tiff.constData() + first);
+    for (qsizetype at = first + 2; at < first + 2 + 12LL * count; at += 12)
+        if (qFromLittleEndian<quint16>(tiff.constData() + at) == tag)
+            return tiff.replace(at + 2, 10, little<quint16>(4) + little<quint32>(1) + little(value));
+    return {};
 }
 
 QByteArray tiffTurned(QByteArray tiff, int orientation)

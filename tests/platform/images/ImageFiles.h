@@ -30,8 +30,18 @@ QByteArray psd(
 QByteArray gif(const QImage& image);
 /// Four inks, 255 meaning full, as Adobe's programs write them.
 QByteArray cmykJpeg(QSize size, const QByteArray& inks, const QByteArray& icc = {});
-/// The same as a TIFF of one strip, stored or by LZW with differences.
-QByteArray cmykTiff(QSize size, const QByteArray& inks, const QByteArray& icc, bool lzw);
+struct TiffLayout {
+    int compression = 1;  ///< TIFF's numbers: 1 stored, 5 LZW, 8 Deflate, 32773 packed
+    bool differences = false;  ///< each sample as the difference to the pixel before
+    bool planes = false;  ///< one ink after the other
+    int tile = 0;  ///< side of the tiles; 0: strips
+    int rowsPerStrip = 1 << 20;
+    int bits = 8;  ///< a sample
+    bool bigEndian = false;
+    int extra = 0;  ///< samples after the inks
+};
+/// The same as a TIFF, its directory before its pixels.
+QByteArray cmykTiff(QSize size, const QByteArray& inks, const QByteArray& icc = {}, const TiffLayout& layout = {});
 /// The picture's colours as amounts of ink, no black.
 QByteArray inksOf(const QImage& image);
 /// An ICC profile that shows every mix of inks as the same middle gray.
@@ -44,6 +54,8 @@ QByteArray withExif(const QByteArray& jpeg, const QByteArray& exif);
 QByteArray webpWithExif(QByteArray webp, const QByteArray& exif);
 /// Changes the orientation that Qt's writer has put into a TIFF.
 QByteArray tiffTurned(QByteArray tiff, int orientation);
+/// The same little-endian TIFF with another value in that entry of its first directory.
+QByteArray tiffClaiming(QByteArray tiff, quint16 tag, quint32 value);
 QByteArray pngWithChunk(const QByteArray& png, const QByteArray& type, const QByteArray& data);
 
 /// A raw file: the picture as an RGGB sensor sees it, and a JPEG as its preview unless that is empty. `claimed`: the

@@ -6,6 +6,7 @@
 #include <QBuffer>
 #include <QColorSpace>
 #include <QDirIterator>
+#include <QElapsedTimer>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
@@ -26,11 +27,35 @@ struct Named {
     QByteArray bytes{};
 };
 
+/// TIFFs of four inks as programs arrange them: TIFF's numbers of the compressions are in ImageFiles.h.
+QList<Named> inkTiffs(QSize size, const QByteArray& inks, const QByteArray& icc = {})
+{
+    using Layout = ImageFiles::TiffLayout;
+    const QList<std::pair<QByteArray, Layout>> layouts{
+        { "stored", Layout{ .rowsPerStrip = 7 } },
+        { "one strip by lzw", Layout{ .compression = 5, .differences = true } },
+        { "packed", Layout{ .compression = 32773, .rowsPerStrip = 16 } },
+        { "deflate", Layout{ .compression = 8, .differences = true, .rowsPerStrip = 16 } },
+        { "tiles", Layout{ .tile = 48 } },
+        { "tiles by deflate", Layout{ .compression = 8, .tile = 32, .bits = 16 } },
+        { "planes", Layout{ .planes = true, .rowsPerStrip = 20 } },
+        { "planes of tiles by lzw", Layout{ .compression = 5, .planes = true, .tile = 64 } },
+        { "deep by lzw", Layout{ .compression = 5, .differences = true, .rowsPerStrip = 9, .bits = 16 } },
+        { "deep the other way", Layout{ .rowsPerStrip = 30, .bits = 16, .bigEndian = true } },
+        { "with a fifth sample", Layout{ .compression = 5, .rowsPerStrip = 30, .extra = 1 } },
+        { "planes with a fifth", Layout{ .planes = true, .rowsPerStrip = 30, .extra = 1 } },
+    };
+    QList<Named> files;
+    for (const auto& [name, layout] : layouts)
+        files.append({ "cmyk " + name + ".tif", ImageFiles::cmykTiff(size, inks, icc, layout) });
+    return files;
+}
+
 /// One file of every format, 320 × 200 pixels in four quarters.
 const QList<Named>& everyFile()
 {
     const QImage image = ImageFiles::quarters({ 320, 200 });
-    static const QList<Named> files{
+    static const QList<Named> others{
         { "jpg", ImageFiles::written(image, "jpg") },
         { "progressive.jpg", ImageFiles::written(image, "jpg", 95, true) },
         { "png", ImageFiles::written(image, "png") },
@@ -40,7 +65,6 @@ const QList<Named>& everyFile()
         { "webp", ImageFiles::written(image, "webp") },
         { "tiff", ImageFiles::written(image, "tiff") },
         { "deep.tif", ImageFiles::written(image.convertToFormat(QImage::Format_RGBX64), "tiff") },
-        { "cmyk.tif", ImageFiles::cmykTiff({ 320, 200 }, ImageFiles::inksOf(image), {}, true) },
         { "cmyk.jpg", ImageFiles::cmykJpeg({ 320, 200 }, ImageFiles::inksOf(image)) },
         { "heic", ImageFiles::heif(image, false) },
         { "thumbnail.hif", ImageFiles::heif(image, false, { .thumbnail = 160 }) },
@@ -55,6 +79,7 @@ const QList<Named>& everyFile()
         { "cmyk.psd", ImageFiles::psd(image, 4, true) },
         { "psb", ImageFiles::psd(image, 3, true, true) },
     };
+    static const QList<Named> files = others + inkTiffs({ 320, 200 }, ImageFiles::inksOf(image));
     return files;
 }
 
@@ -145,7 +170,7 @@ private slots:
         }
         // The same bytes under an extension that lies.
         for (const char* other : { "wrong.jpg", "wrong.heic", "wrong.gpr", "none" }) {
-            if (QByteArray(other) == "wrong.gpr" && bytes.startsWith("II"))
+            if (QByteArray(other) == "wrong.gpr" && (bytes.startsWith("II") || bytes.startsWith("MM")))
                 continue;  // TIFF content under a raw extension is raw
             const DecodedImage got = ImageDecoder::decode(stored(bytes, other), 80);
             QCOMPARE(wrongQuarter(got.image, expected, 12), QString());
@@ -340,7 +365,7 @@ private slots:
     {
         QTest::addColumn<QByteArray>("inks");
         QTest::addColumn<bool>("profile");
-        QTest::addColumn<QColor>("colour");
+        QTest::addColumn<QColor>("color");
         QTest::newRow("cyan by the formula") << QByteArray("\xff\0\0\0", 4) << false << QColor(0, 255, 255);
         QTest::newRow("paper by the formula") << QByteArray("\0\0\0\0", 4) << false << QColor(255, 255, 255);
         QTest::newRow("black by the formula") << QByteArray("\0\0\0\xff", 4) << false << QColor(0, 0, 0);
@@ -350,14 +375,69 @@ private slots:
     {
         QFETCH(QByteArray, inks);
         QFETCH(bool, profile);
-        QFETCH(QColor, colour);
+        QFETCH(QColor, color);
         const QByteArray icc = profile ? ImageFiles::grayInkProfile() : QByteArray(), all = inks.repeated(64LL * 48);
-        for (const QByteArray& bytes :
-            { ImageFiles::cmykJpeg({ 64, 48 }, all, icc), ImageFiles::cmykTiff({ 64, 48 }, all, icc, false),
-                ImageFiles::cmykTiff({ 64, 48 }, all, icc, true) }) {
+        QList<Named> files = inkTiffs({ 64, 48 }, all, icc);
+        files.append({ "cmyk.jpg", ImageFiles::cmykJpeg({ 64, 48 }, all, icc) });
+        for (const auto& [name, bytes] : std::as_const(files)) {
             const QImage image = ImageDecoder::decode(stored(bytes, "a"), 32).image;
             QCOMPARE(image.size(), QSize(32, 24));
-            QVERIFY2(isNear(image.pixel(16, 12), colour.rgb(), 4), qPrintable(image.pixelColor(16, 12).name()));
+            QVERIFY2(isNear(image.pixel(16, 12), color.rgb(), 4),
+                qPrintable(QString::fromLatin1(name) + image.pixelColor(16, 12).name()));
+        }
+    }
+
+    /// What the directory claims, and the pixels do not hold: it costs neither memory nor the process.
+    void absurdInks_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const QByteArray inks("\xff\0\0\0", 4);
+        const auto row = [&](const char* name, quint16 tag, quint32 value, const ImageFiles::TiffLayout& layout) {
+            const QByteArray tiff = ImageFiles::cmykTiff({ 640, 480 }, inks.repeated(640LL * 480), {}, layout);
+            QTest::newRow(name) << ImageFiles::tiffClaiming(tiff, tag, value);
+        };
+        const ImageFiles::TiffLayout strip{ .compression = 5 }, tiles{ .compression = 8, .tile = 64 };
+        row("a strip of 4 GB", 279, 0xFFFFFFFF, strip);
+        row("a stored strip of 4 GB", 279, 0xFFFFFFFF, {});
+        row("a strip behind the end", 273, 0xFFFFFF00, strip);
+        row("no rows in a strip", 278, 0, strip);
+        row("strips that are not there", 257, 20'000, { .compression = 5, .rowsPerStrip = 1 });
+        row("rows of 30,000 pixels", 256, 30'000, strip);
+        row("tiles of 400 MB", 322, 1'600'000, tiles);
+        row("tiles of 16 GB", 323, 64'000'000, tiles);
+        row("tiles without a width", 322, 0, tiles);
+        row("65,535 samples", 277, 65'535, strip);
+        row("no samples", 277, 0, strip);
+        row("a compression that is none", 259, 4711, strip);
+    }
+    void absurdInks()
+    {
+        QFETCH(QByteArray, bytes);
+        QElapsedTimer clock;
+        clock.start();
+        const auto [outcome, megabytes] = decodeApart(stored(bytes, "a.tif"));
+        QVERIFY2(outcome == Outcome::decoded || outcome == Outcome::damaged, qPrintable(QString::number(int(outcome))));
+        QVERIFY2(megabytes < 50, qPrintable(QString::number(megabytes)));
+        QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
+    }
+
+    /// Each byte of the directory and of the first pixels wrong once.
+    void corruptInks_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        for (const auto& [name, bytes] : inkTiffs({ 96, 64 }, ImageFiles::inksOf(ImageFiles::quarters({ 96, 64 }))))
+            QTest::newRow(name.constData()) << bytes;
+    }
+    void corruptInks()
+    {
+        QFETCH(QByteArray, bytes);
+        for (qsizetype at = 8; at < qMin<qsizetype>(bytes.size(), 400); ++at) {
+            for (const int flip : { 0x01, 0x80, 0xFF }) {
+                QByteArray wrong = bytes;
+                wrong[at] = char(wrong[at] ^ flip);
+                const DecodedImage got = ImageDecoder::decode(wrong, 32);
+                QCOMPARE(got.image.isNull(), got.outcome != Outcome::decoded);
+            }
         }
     }
 

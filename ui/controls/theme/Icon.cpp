@@ -1,8 +1,8 @@
 #include "ui/controls/theme/Icon.h"
 
-#include <QFile>
 #include <QPainter>
 #include <QPixmapCache>
+#include <QResource>
 #include <QSvgRenderer>
 
 #include <cmath>
@@ -21,10 +21,7 @@ QString path(const QString& name)
 /// The drawing's text with its colour and line width filled in; empty for an unknown name.
 QByteArray drawing(const QString& name, const QColor& color, qreal stroke)
 {
-    QFile file(path(name));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QByteArray svg = file.readAll();
+    QByteArray svg = QResource(path(name)).uncompressedData();
     svg.replace("currentColor", color.name(QColor::HexRgb).toLatin1());
     if (stroke > 0)
         svg.replace("stroke-width=\"1.7\"", "stroke-width=\"" + QByteArray::number(stroke) + '"');
@@ -67,7 +64,7 @@ void paint(QPainter& painter, const QRectF& rect, const QString& name, qreal siz
 
 bool exists(const QString& name)
 {
-    return QFile::exists(path(name));
+    return QResource(path(name)).isValid();
 }
 
 }  // namespace Quorbel::Icon
