@@ -7,6 +7,7 @@
 #include "app/shell/Menus.h"
 #include "app/shell/OpenPanel.h"
 #include "core/Product.h"
+#include "platform/desktop/SystemScheme.h"
 #include "ui/controls/ToolTips.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/InspectorView.h"
@@ -17,7 +18,6 @@
 #include "ui/window/ContentView.h"
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
-#include "ui/window/SystemScheme.h"
 #include "ui/window/WindowBar.h"
 
 #include <QApplication>
@@ -168,7 +168,7 @@ void AppDelegate::buildWindow()
     m_windowDelegate->restoreGeometry();
     m_app->thumbnails().setDevicePixelRatio(m_window->devicePixelRatioF());
     connect(&model.preferences(), &Preferences::changed, this, &AppDelegate::applyThemes);
-    connect(m_systemScheme, &SystemScheme::schemeChanged, this, &AppDelegate::applyThemes);
+    connect(m_systemScheme, &SystemScheme::changed, this, &AppDelegate::applyThemes);
 }
 
 /// A second start: its files go where a drop would go, and the window comes to the front.
@@ -188,12 +188,10 @@ void AppDelegate::received(const HandOver& what)
 // The main window's theme is its content's business; the other windows follow it.
 void AppDelegate::applyThemes()
 {
-    const ColorScheme scheme = m_app->model().preferences().colorOverride().value_or(m_systemScheme->scheme());
-    const Theme& theme = scheme == ColorScheme::dark ? Theme::dark() : Theme::light();
     if (m_settings)
-        setTheme(m_settings, theme);
+        setTheme(m_settings, m_content->wantedTheme());
     if (m_help)
-        setTheme(m_help, theme);
+        setTheme(m_help, m_content->wantedTheme());
 }
 
 void AppDelegate::openSettings()

@@ -1,6 +1,4 @@
-#include "ui/window/SystemScheme.h"
-
-#include "app/model/AppModel.h"
+#include "platform/desktop/SystemScheme.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -24,16 +22,16 @@ constexpr auto appearanceGroup = "org.freedesktop.appearance";
 constexpr auto schemeKey = "color-scheme";
 
 /// The portal's numbers: 0 no preference, 1 prefer dark, 2 prefer light.
-std::optional<ColorScheme> schemeOfPortal(QVariant value)
+std::optional<bool> isDarkInPortal(QVariant value)
 {
     // Read() wraps its answer in one variant more than the signal does.
     while (value.canConvert<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();
     switch (value.toUInt()) {
     case 1:
-        return ColorScheme::dark;
+        return true;
     case 2:
-        return ColorScheme::light;
+        return false;
     default:
         return std::nullopt;
     }
@@ -47,26 +45,27 @@ bool hasSessionBus()
         || (!runtime.isEmpty() && QFileInfo::exists(runtime + u"/bus"_s));
 }
 
-}  // namespace
-
-ColorScheme schemeOf(const QPalette& palette)
+/// Dark when text is drawn lighter than the window behind it.
+bool isDarkPalette(const QPalette& palette)
 {
     const int text = palette.color(QPalette::Active, QPalette::WindowText).lightness();
     const int window = palette.color(QPalette::Active, QPalette::Window).lightness();
-    return text > window ? ColorScheme::dark : ColorScheme::light;
+    return text > window;
 }
+
+}  // namespace
 
 SystemScheme::SystemScheme(QObject* parent)
     : QObject(parent)
-    , m_known(scheme())
+    , m_wasDark(isDark())
 {
     qGuiApp->installEventFilter(this);
     askPortal();
 }
 
-ColorScheme SystemScheme::scheme() const
+bool SystemScheme::isDark() const
 {
-    return m_portal.value_or(schemeOf(QGuiApplication::palette()));
+    return m_portal.value_or(isDarkPalette(QGuiApplication::palette()));
 }
 
 bool SystemScheme::eventFilter(QObject* watched, QEvent* event)
@@ -96,7 +95,7 @@ void SystemScheme::askPortal()
         watcher->deleteLater();
         if (watcher->isError())  // no portal, or one that does not know the setting
             return;
-        m_portal = schemeOfPortal(watcher->reply().arguments().value(0));
+        m_portal = isDarkInPortal(watcher->reply().arguments().value(0));
         update();
     });
 }
@@ -105,16 +104,14 @@ void SystemScheme::portalSettingChanged(const QString& group, const QString& key
 {
     if (group != QLatin1String(appearanceGroup) || key != QLatin1String(schemeKey))
         return;
-    m_portal = schemeOfPortal(value.variant());
+    m_portal = isDarkInPortal(value.variant());
     update();
 }
 
 void SystemScheme::update()
 {
-    if (scheme() == m_known)
-        return;
-    m_known = scheme();
-    emit schemeChanged();
+    if (std::exchange(m_wasDark, isDark()) != m_wasDark)
+        emit changed();
 }
 
 }  // namespace Quorbel

@@ -9,11 +9,8 @@
 #include <optional>
 
 class QDBusVariant;
-class QPalette;
 
 namespace Quorbel {
-
-enum class ColorScheme;  // AppModel's
 
 class SystemScheme final : public QObject {
     Q_OBJECT
@@ -22,10 +19,10 @@ class SystemScheme final : public QObject {
 public:
     explicit SystemScheme(QObject* parent = nullptr);
 
-    ColorScheme scheme() const;
+    bool isDark() const;
 
 signals:
-    void schemeChanged();
+    void changed();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -37,11 +34,8 @@ private:
     void askPortal();
     void update();
 
-    std::optional<ColorScheme> m_portal{};  ///< nothing: no portal, or it states no preference
-    ColorScheme m_known{};
+    std::optional<bool> m_portal{};  ///< whether it asks for dark; nothing: no portal, or it states no preference
+    bool m_wasDark = false;
 };
-
-/// Dark when text is drawn lighter than the window behind it.
-ColorScheme schemeOf(const QPalette& palette);
 
 }  // namespace Quorbel

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "core/Product.h"
+#include "platform/desktop/SystemScheme.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
@@ -13,7 +14,6 @@
 #include "ui/window/FileDrop.h"
 #include "ui/window/LaunchView.h"
 #include "ui/window/PreviewColumnView.h"
-#include "ui/window/SystemScheme.h"
 #include "ui/window/WindowBar.h"
 #include "ui/window/WindowGrowth.h"
 
@@ -150,7 +150,7 @@ void ContentView::connectModel()
     for (const auto change : { &AppModel::folderChanged, &AppModel::recordsChanged, &AppModel::selectionChanged })
         connect(&m_model, change, this, &ContentView::showTitle);
     connect(&m_model.preferences(), &Preferences::changed, this, &ContentView::applyTheme);
-    connect(&m_systemScheme, &SystemScheme::schemeChanged, this, &ContentView::applyTheme);
+    connect(&m_systemScheme, &SystemScheme::changed, this, &ContentView::applyTheme);
     connect(m_banner, &ErrorBanner::sizeChanged, this, &ContentView::placeBanner);
 }
 
@@ -254,8 +254,14 @@ void ContentView::showTitle()
 
 void ContentView::applyTheme()
 {
-    const ColorScheme scheme = m_model.preferences().colorOverride().value_or(m_systemScheme.scheme());
-    setTheme(m_window, scheme == ColorScheme::dark ? Theme::dark() : Theme::light());
+    setTheme(m_window, wantedTheme());
+}
+
+const Theme& ContentView::wantedTheme() const
+{
+    const std::optional<ColorScheme> chosen = m_model.preferences().colorOverride();
+    const bool isDark = chosen ? *chosen == ColorScheme::dark : m_systemScheme.isDark();
+    return isDark ? Theme::dark() : Theme::light();
 }
 
 void ContentView::placeBanner()

@@ -18,6 +18,7 @@ class SheetBody;
 class SheetHost;
 class SidebarView;
 class SystemScheme;
+struct Theme;
 class ThumbnailStore;
 class WindowBar;
 
@@ -43,6 +44,8 @@ public:
     ContentView(AppModel& model, ThumbnailStore* thumbs, SystemScheme& systemScheme, QWidget* window,
         ContentFactories factories);
     ~ContentView() override;
+    /// What the user chose, or else what the desktop asks for.
+    const Theme& wantedTheme() const;
 
     /// Builds what shows photos, if it is not there yet. That happens by itself when photos come; done earlier, at
     /// leisure, it makes their coming quicker.

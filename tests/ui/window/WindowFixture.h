@@ -5,7 +5,7 @@
 #include "tests/ui/UiSupport.h"
 #include "ui/sheets/Sheet.h"
 #include "ui/window/ContentView.h"
-#include "ui/window/SystemScheme.h"
+#include "platform/desktop/SystemScheme.h"
 #include "ui/window/WindowBar.h"
 
 #include <QAbstractButton>
