@@ -88,7 +88,7 @@ void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& images)
         const QString path = image.toLocalFile();
         try {
             SaveGuard::clearLeftovers({ QUrl::fromLocalFile(SaveJournal::sidecarPath(path)) });
-            runner.write({ u"-tagsfromfile"_s, sourceArgument(path), u"-xmp:all"_s },
+            runner.write({ .options = { u"-tagsfromfile"_s, sourceArgument(path), u"-xmp:all"_s } },
                 { QUrl::fromLocalFile(SaveJournal::sidecarPath(path)) }, false);
         } catch (const Error&) {
             // The photo itself is saved; a sidecar is a courtesy beside it.
@@ -97,14 +97,14 @@ void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& images)
 }
 
 /// One write, after the run that its texts may need.
-QString writeTexts(const ExifToolRunner& runner, const QStringList& args, const QList<QUrl>& files, bool backup,
+QString writeTexts(const ExifToolRunner& runner, const WriteCommand& command, const QList<QUrl>& files, bool backup,
     const std::optional<QUrl>& config)
 {
-    if (!IptcEncoding::needsUtf8(args))
-        return runner.write(args, files, backup, config);
+    if (!IptcEncoding::needsUtf8(command.assignments))
+        return runner.write(command, files, backup, config);
     QList<QUrl> converted = files;
     try {
-        runner.write(IptcEncoding::conversionArgs(), files, backup);
+        runner.write(IptcEncoding::conversion(), files, backup);
     } catch (const ToolError& error) {
         // Those that it names would not take the values either; they do not keep the others from them.
         const auto failures = writeFailures(error.messages(), files);
@@ -112,22 +112,22 @@ QString writeTexts(const ExifToolRunner& runner, const QStringList& args, const 
             converted.removeAll(failure.file);
         if (failures.isEmpty() || converted.isEmpty())
             throw;
-        runner.write(args, converted, backup, config);
+        runner.write(command, converted, backup, config);
         throw;
     }
-    return runner.write(args, files, backup, config);
+    return runner.write(command, files, backup, config);
 }
 
 /// One write, and the run that its position may need.
-QString writeSigned(const ExifToolRunner& runner, const QStringList& args, const QList<QUrl>& files, bool backup,
+QString writeSigned(const ExifToolRunner& runner, const WriteCommand& command, const QList<QUrl>& files, bool backup,
     const std::optional<QUrl>& config)
 {
-    const QStringList signs = Coordinates::signArgs(args);
+    const WriteCommand signs = Coordinates::signCommand(command.assignments);
     if (signs.isEmpty())
-        return writeTexts(runner, args, files, backup, config);
+        return writeTexts(runner, command, files, backup, config);
     QString output;
     try {
-        output = writeTexts(runner, args, files, backup, config);
+        output = writeTexts(runner, command, files, backup, config);
     } catch (const ToolError& error) {
         const auto failures = writeFailures(error, files);
         QList<QUrl> written = files;
@@ -146,9 +146,10 @@ QString writeSigned(const ExifToolRunner& runner, const QStringList& args, const
 
 /// One write of assignments, with what ExifTool would lose looked after: the files behind links, text that the
 /// files' IPTC encoding cannot hold, extended attributes, mode and owner.
-QString writeSafely(const ExifToolRunner& runner, const QStringList& args, const QList<QUrl>& targets, bool backup,
+QString writeSafely(const ExifToolRunner& runner, const WriteCommand& command, const QList<QUrl>& targets, bool backup,
     const QStringList& customNames)
 {
+    requireOneWay(command.assignments);
     const auto files = SaveGuard::filesBehindLinks(targets);
     SaveGuard::requireWritable(files);
     SaveGuard::clearLeftovers(files);
@@ -163,7 +164,7 @@ QString writeSafely(const ExifToolRunner& runner, const QStringList& args, const
     // After a failure too: some of the files may have been replaced.
     const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });
     const SaveGuard::BackupKeeper backups(backup ? files : QList<QUrl>());
-    return writeSigned(runner, args, files, backup, config);
+    return writeSigned(runner, command, files, backup, config);
 }
 
 /// The files that may be written to now; why the others may not goes to the failures.
@@ -241,13 +242,14 @@ QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets,
 {
     if (plan.isEmpty() || targets.isEmpty())
         return {};
-    const QStringList args = MetadataWriter::assignments(plan);
-    if (args.isEmpty())
+    const QList<Assignment> assignments = MetadataWriter::assignments(plan);
+    if (assignments.isEmpty())
         return {};
     QStringList customNames;
     for (const auto& custom : plan.customs)
         customNames.append(custom.name);
-    const QString output = writeSafely(runner, args, targets, options.backupOriginals, customNames);
+    const QString output =
+        writeSafely(runner, { .assignments = assignments }, targets, options.backupOriginals, customNames);
     if (options.writeSidecar)
         writeSidecars(runner, targets);
     return output;
@@ -279,16 +281,16 @@ JournalEntry MetadataService::journalEntry(
 UndoOutcome MetadataService::undo(const JournalEntry& entry) const
 {
     UndoOutcome outcome;
-    QMap<QStringList, QList<QUrl>> filesByArgs;
+    QMap<WriteCommand, QList<QUrl>> filesByCommand;
     for (const auto& file : entry.files) {
         const QUrl url = QUrl::fromLocalFile(file.path);
         if (FileStamp::of(file.path) != file.after)
             outcome.changedSince.append(url);
         else
-            filesByArgs[SaveJournal::restoreArgs(entry, file)].append(url);
+            filesByCommand[SaveJournal::restoreCommand(entry, file)].append(url);
     }
     QSet<QUrl> doubtful;
-    for (auto it = filesByArgs.cbegin(); it != filesByArgs.cend(); ++it) {
+    for (auto it = filesByCommand.cbegin(); it != filesByCommand.cend(); ++it) {
         const qsizetype failedBefore = outcome.failed.size();
         const QList<QUrl> files = withoutBlocked(*it, outcome.failed);
         try {

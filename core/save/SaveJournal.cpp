@@ -26,15 +26,6 @@ QString customGroupPrefix()
     return MetadataWriter::customNamespacePrefix() + u':';
 }
 
-/// "-XMP-dc:Title=x" and "-IPTC:Keywords+=x" give "XMP-dc:Title" and "IPTC:Keywords".
-QString assignedTag(const QString& argument)
-{
-    auto end = argument.indexOf(u'=');
-    if (end > 0 && (argument[end - 1] == u'+' || argument[end - 1] == u'-'))
-        --end;
-    return argument.sliced(1, end - 1);
-}
-
 /// Tags whose values may come in several languages.
 const QStringList& languageTags()
 {
@@ -222,9 +213,9 @@ namespace SaveJournal {
 QStringList writtenTags(const EditPlan& plan)
 {
     QStringList tags;
-    for (const auto& argument : MetadataWriter::assignments(plan))
-        if (const QString tag = assignedTag(argument); !tags.contains(tag))
-            tags.append(tag);
+    for (const auto& assignment : MetadataWriter::assignments(plan))
+        if (!tags.contains(assignment.tag))
+            tags.append(assignment.tag);
     return tags;
 }
 
@@ -247,19 +238,16 @@ QStringList readArgs(const QStringList& writtenTags)
     return args;
 }
 
-QStringList restoreArgs(const JournalEntry& entry, const JournalFile& file)
+WriteCommand restoreCommand(const JournalEntry& entry, const JournalFile& file)
 {
-    QStringList args{ u"-ec"_s };
+    WriteCommand command{ .options = { u"-ec"_s } };
     for (const auto& tag : entry.writtenTags)
-        args.append(u'-' + tag + u'=');
-    for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it) {
-        if (!isConcerned(entry, it.key()))
-            continue;
-        // A tag that is there without a text is not a tag that is not there.
-        for (const auto& value : *it)
-            args.append(u'-' + it.key() + (value.isEmpty() ? u"#^="_s : u"#="_s) + escaped(value));
-    }
-    return args;
+        command.assignments.append({ .tag = tag });
+    for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it)
+        if (isConcerned(entry, it.key()))
+            for (const auto& value : *it)
+                command.assignments.append({ it.key(), Assignment::Operation::restore, escaped(value) });
+    return command;
 }
 
 bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTags& tags)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "core/tool/TagDump.h"
+#include "core/tool/WriteCommand.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -71,8 +72,8 @@ constexpr qsizetype limit = 20;
 QStringList writtenTags(const EditPlan& plan);
 /// Arguments that read those tags for TagDump, language variants and custom fields included.
 QStringList readArgs(const QStringList& writtenTags);
-/// Assignments that put the old values back into one file.
-QStringList restoreArgs(const JournalEntry& entry, const JournalFile& file);
+/// What puts the old values back into one file.
+WriteCommand restoreCommand(const JournalEntry& entry, const JournalFile& file);
 /// Whether these tags, read by readArgs, are those that the file had; numbers up to the rounding of a restored
 /// position.
 bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTags& tags);

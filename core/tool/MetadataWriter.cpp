@@ -2,6 +2,7 @@
 
 #include "core/Product.h"
 #include "core/save/EditPlan.h"
+#include "core/schema/FieldSchema.h"
 #include "core/text/Coordinates.h"
 #include "core/text/Text.h"
 
@@ -16,11 +17,6 @@ namespace Quorbel::MetadataWriter {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString assignment(const QString& tag, const QString& sign, const QString& value)
-{
-    return u'-' + tag + sign + value;
-}
 
 struct DatePattern {
     QChar dateSeparator{};
@@ -92,7 +88,7 @@ QString customNamespaceURI()
     return Product::customNamespaceURI();
 }
 
-QStringList scalarArgs(const FieldSpec& field, const QString& value)
+QList<Assignment> scalarArgs(const FieldSpec& field, const QString& value)
 {
     if (field.kind == FieldKind::coordinates)
         return Coordinates::writeArgs(value);
@@ -101,46 +97,46 @@ QStringList scalarArgs(const FieldSpec& field, const QString& value)
         written = normalizeRating(value);
     else if (field.kind == FieldKind::date)
         written = normalizeDate(value);
-    QStringList args;
+    QList<Assignment> args;
     for (const QString& tag : field.writeTags)
-        args.append(assignment(tag, u"="_s, written));
+        args.append({ .tag = tag, .value = written });
     return args;
 }
 
-QStringList listArgs(const FieldSpec& field, const QStringList& values, ListMode mode)
+QList<Assignment> listArgs(const FieldSpec& field, const QStringList& values, ListMode mode)
 {
     QStringList items;
     for (const QString& value : values)
         if (const QString item = Text::trimmed(value); !item.isEmpty())
             items.append(item);
-    QStringList args;
+    QList<Assignment> args;
     for (const QString& tag : field.writeTags) {
         if (mode == ListMode::replace)
-            args.append(assignment(tag, u"="_s, {}));
+            args.append({ .tag = tag });
         for (const QString& item : std::as_const(items)) {
             if (mode == ListMode::replace) {
-                args.append(assignment(tag, u"="_s, item));
+                args.append({ .tag = tag, .value = item });
             } else {
                 // Taken out before it is added, an item that is there already is not doubled.
-                args.append(assignment(tag, u"-="_s, item));
-                args.append(assignment(tag, u"+="_s, item));
+                args.append({ tag, Assignment::Operation::remove, item });
+                args.append({ tag, Assignment::Operation::add, item });
             }
         }
     }
     return args;
 }
 
-QStringList customArgs(const QString& name, const QString& value)
+QList<Assignment> customArgs(const QString& name, const QString& value)
 {
     const std::optional<QString> tag = sanitizeCustomName(name);
     if (!tag)
         return {};
-    return { assignment(customNamespacePrefix() + u':' + *tag, u"="_s, value) };
+    return { { .tag = customNamespacePrefix() + u':' + *tag, .value = value } };
 }
 
-QStringList assignments(const EditPlan& plan)
+QList<Assignment> assignments(const EditPlan& plan)
 {
-    QStringList args;
+    QList<Assignment> args;
     for (auto it = plan.scalars.cbegin(); it != plan.scalars.cend(); ++it)
         if (const FieldSpec* field = FieldSchema::spec(it.key()))
             args += scalarArgs(*field, it.value());

@@ -3,6 +3,7 @@
 #include "app/model/saving/ReplacedFiles.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/SaveVerification.h"
+#include "core/schema/FieldSchema.h"
 
 #include <QHash>
 

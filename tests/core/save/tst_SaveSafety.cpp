@@ -2,6 +2,7 @@
 #include "core/MetadataService.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/SaveVerification.h"
+#include "core/schema/FieldSchema.h"
 #include "core/tool/IptcEncoding.h"
 #include "core/tool/TemporaryFiles.h"
 #include "tests/support/Support.h"
@@ -98,9 +99,10 @@ private slots:
     {
         QFETCH(QString, text);
         QTEST(IptcEncoding::fitsWindowsLatin1(text), "fits");
-        QCOMPARE(IptcEncoding::needsUtf8({ "-XMP-dc:Title=" + text, "-IPTC:City=" + text }),
-            !IptcEncoding::fitsWindowsLatin1(text));
-        QVERIFY(!IptcEncoding::needsUtf8({ "-XMP-dc:Title=" + text }));
+        const Assignment title{ .tag = u"XMP-dc:Title"_s, .value = text };
+        const Assignment city{ .tag = u"IPTC:City"_s, .value = text };
+        QCOMPARE(IptcEncoding::needsUtf8({ title, city }), !IptcEncoding::fitsWindowsLatin1(text));
+        QVERIFY(!IptcEncoding::needsUtf8({ title }));
     }
 
     void reencodesInARunOfItsOwn()

@@ -43,7 +43,7 @@ private slots:
     void assignments()
     {
         QFETCH(QString, text);
-        QTEST(Coordinates::writeArgs(text).join(u' '), "expected");
+        QTEST(arguments(Coordinates::writeArgs(text)).join(u' '), "expected");
     }
 
     void locationFill_data()
