@@ -1,5 +1,7 @@
 #include "core/save/SaveGuard.h"
 
+#include "core/save/Companions.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -23,9 +25,9 @@ QByteArray nativePath(const QUrl& file)
     return QFile::encodeName(file.toLocalFile());
 }
 
-QByteArray backupOf(const QByteArray& photo)
+QByteArray nativeBackupPath(const QUrl& photo)
 {
-    return photo + "_original";
+    return QFile::encodeName(Companions::backupPath(photo.toLocalFile()));
 }
 
 QString listed(const QStringList& names)
@@ -118,21 +120,19 @@ void clearLeftovers(const QList<QUrl>& files, const QDateTime& now)
 
 BackupKeeper::BackupKeeper(const QList<QUrl>& files)
 {
-    for (const auto& file : files) {
-        const QByteArray photo = nativePath(file);
-        if (link(photo.constData(), backupOf(photo).constData()) == 0)
-            m_made.append(photo);
-    }
+    for (const auto& file : files)
+        if (link(nativePath(file).constData(), nativeBackupPath(file).constData()) == 0)
+            m_made.append(file);
 }
 
 BackupKeeper::~BackupKeeper()
 {
     for (const auto& photo : m_made) {
-        const QByteArray backup = backupOf(photo);
+        const QByteArray backup = nativeBackupPath(photo);
         struct stat now { };
         struct stat before { };
-        if (stat(photo.constData(), &now) == 0 && stat(backup.constData(), &before) == 0 && now.st_dev == before.st_dev
-            && now.st_ino == before.st_ino)
+        if (stat(nativePath(photo).constData(), &now) == 0 && stat(backup.constData(), &before) == 0
+            && now.st_dev == before.st_dev && now.st_ino == before.st_ino)
             unlink(backup.constData());
     }
 }

@@ -1,5 +1,6 @@
 #include "core/save/SaveJournal.h"
 
+#include "core/save/Companions.h"
 #include "core/save/EditPlan.h"
 #include "core/tool/MetadataWriter.h"
 
@@ -285,22 +286,14 @@ bool store(const QString& journalPath, const QList<JournalEntry>& entries)
         && file.write(QJsonDocument(saved).toJson(QJsonDocument::Compact)) >= 0 && file.commit();
 }
 
-QString sidecarPath(const QString& photo)
-{
-    const auto nameAt = photo.lastIndexOf(u'/') + 1;
-    const auto dot = photo.lastIndexOf(u'.');
-    // A leading dot makes a hidden file, not an extension.
-    return (dot > nameAt ? photo.left(dot) : photo) + u".xmp"_s;
-}
-
 void rename(QList<JournalEntry>& entries, const QString& from, const QString& to)
 {
     for (auto& entry : entries)
         for (auto& file : entry.files) {
             if (file.path == from)
                 file.path = to;
-            if (file.sidecar.path == sidecarPath(from))
-                file.sidecar.path = sidecarPath(to);
+            if (file.sidecar.path == Companions::sidecarPath(from))
+                file.sidecar.path = Companions::sidecarPath(to);
         }
 }
 

@@ -1,6 +1,6 @@
 // What the last saves replaced, so that they can be taken back, also after a restart.
-// Thread: any, one at a time on one journal file. Knows nothing of processes: MetadataService reads the old values
-// and writes them back.
+// Thread: any, one at a time on one journal file. Knows nothing of processes: SaveUndo reads the old values and
+// writes them back.
 #pragma once
 
 #include "core/tool/TagDump.h"
@@ -82,8 +82,6 @@ bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTa
 QList<JournalEntry> load(const QString& journalPath);
 /// Writes them, the newest `limit` of them. False when the file system refuses; the old journal is then intact.
 bool store(const QString& journalPath, const QList<JournalEntry>& entries);
-/// The sidecar's name: the photo's, with the extension "xmp".
-QString sidecarPath(const QString& photo);
 /// Follows a photo that got another name.
 void rename(QList<JournalEntry>& entries, const QString& from, const QString& to);
 /// Takes the newest save out after it was undone in these files (paths). Those that it had found as an earlier save

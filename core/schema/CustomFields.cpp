@@ -20,6 +20,14 @@ std::optional<QString> nameIn(const QString& key)
     return key.startsWith(prefix) ? std::optional(key.sliced(prefix.size())) : std::nullopt;
 }
 
+QStringList names(const QList<CustomValue>& values)
+{
+    QStringList names;
+    for (const CustomValue& custom : values)
+        names.append(custom.name);
+    return names;
+}
+
 qsizetype indexOf(const QList<CustomValue>& values, const QString& name)
 {
     const auto found = std::find_if(

@@ -12,6 +12,8 @@ namespace Quorbel::CustomFields {
 QString key(const QString& name);
 /// The name in such a key; nothing for the id of a field of the schema.
 std::optional<QString> nameIn(const QString& key);
+/// The names of these values, in their order.
+QStringList names(const QList<CustomValue>& values);
 /// Position of the first value with this name; -1 when there is none.
 qsizetype indexOf(const QList<CustomValue>& values, const QString& name);
 
