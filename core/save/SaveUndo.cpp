@@ -2,6 +2,7 @@
 
 #include "core/save/Companions.h"
 #include "core/save/EditPlan.h"
+#include "core/save/JournalTags.h"
 #include "core/save/SafeWriter.h"
 #include "core/save/SaveGuard.h"
 #include "core/schema/CustomFields.h"
@@ -70,7 +71,7 @@ private:
             if (FileStamp::of(file.path) != file.after)
                 m_outcome.changedSince.append(url);
             else
-                filesByCommand[SaveJournal::restoreCommand(m_entry, file)].append(url);
+                filesByCommand[JournalTags::restoreCommand(m_entry, file)].append(url);
         }
         return filesByCommand;
     }
@@ -101,7 +102,7 @@ private:
     {
         QHash<QByteArray, FileTags> now;
         try {
-            now = TagDump::parse(m_runner.readDump(SaveJournal::readArgs(m_entry.writtenTags), m_outcome.restored));
+            now = TagDump::parse(m_runner.readDump(JournalTags::readArgs(m_entry.writtenTags), m_outcome.restored));
         } catch (const Error&) {
             // Then what the tool said of its runs has to do.
         }
@@ -110,7 +111,7 @@ private:
             const QUrl url = QUrl::fromLocalFile(file.path);
             const auto held = now.constFind(QFile::encodeName(file.path));
             const bool isKnown = restored.contains(url) && held != now.cend();
-            if (!isKnown || SaveJournal::isRestored(m_entry, file, *held))
+            if (!isKnown || JournalTags::isRestored(m_entry, file, *held))
                 continue;
             if (m_doubtful.contains(url)) {
                 m_outcome.restored.removeAll(url);
@@ -142,12 +143,12 @@ JournalEntry journalEntry(
     const ExifToolRunner& runner, const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options)
 {
     JournalEntry entry{ .savedAt = QDateTime::currentDateTimeUtc(),
-        .writtenTags = SaveJournal::writtenTags(plan),
+        .writtenTags = JournalTags::writtenTags(plan),
         .customNames = CustomFields::names(plan.customs) };
     if (entry.writtenTags.isEmpty() || targets.isEmpty())
         return entry;
     const auto files = SaveGuard::filesBehindLinks(targets);
-    const auto tags = TagDump::parse(runner.readDump(SaveJournal::readArgs(entry.writtenTags), files));
+    const auto tags = TagDump::parse(runner.readDump(JournalTags::readArgs(entry.writtenTags), files));
     for (qsizetype i = 0; i < files.size(); ++i) {
         const QString path = files[i].toLocalFile();
         const auto before = tags.constFind(QFile::encodeName(path));

@@ -2,6 +2,7 @@
 #include "core/MetadataService.h"
 #include "core/save/SafeWriter.h"
 #include "core/save/SaveGuard.h"
+#include "core/save/SaveJournal.h"
 #include "core/save/SaveVerification.h"
 #include "core/schema/FieldSchema.h"
 #include "core/tool/IptcEncoding.h"
