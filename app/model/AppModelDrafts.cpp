@@ -5,7 +5,6 @@
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
 #include "core/text/Text.h"
-#include "core/tool/MetadataWriter.h"
 
 #include <algorithm>
 
@@ -111,7 +110,7 @@ void AppModel::setCustom(const QString& name, const QString& value)
 void AppModel::addCustomField(const QString& name, const QString& value)
 {
     requireMainThread("addCustomField");
-    const auto cleaned = MetadataWriter::sanitizeCustomName(name);
+    const auto cleaned = CustomFields::sanitizeName(name);
     if (!cleaned)
         return;
     const Update update(*this);

@@ -72,7 +72,7 @@ bool sameList(const QStringList& written, const QStringList& found, MetadataWrit
 
 bool holdsCustom(const ImageRecord& record, const CustomValue& custom)
 {
-    const auto name = MetadataWriter::sanitizeCustomName(custom.name);
+    const auto name = CustomFields::sanitizeName(custom.name);
     // Without its definition ExifTool reads a custom name back with a capital first letter.
     const auto found = std::find_if(record.custom.cbegin(), record.custom.cend(),
         [&name](const CustomValue& other) { return name && other.name.compare(*name, Qt::CaseInsensitive) == 0; });

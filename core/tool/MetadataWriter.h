@@ -20,8 +20,6 @@ enum class ListMode {
 
 /// ExifTool's family-1 group of the custom fields.
 QString customNamespacePrefix();
-/// The URI bound to it; see Product.h.
-QString customNamespaceURI();
 
 /// The value for each write tag of the field, in order; an empty one deletes the tags. Coordinates become the four GPS
 /// tags.
@@ -35,12 +33,6 @@ QList<Assignment> customArgs(const QString& name, const QString& value);
 QList<Assignment> assignments(const EditPlan& plan);
 /// The ExifTool user-definition file that declares the custom group with these names.
 QString customConfig(const QStringList& names);
-/// Letters, marks and digits of any script, without leading digits; nothing when that leaves nothing.
-std::optional<QString> sanitizeCustomName(const QString& name);
-
-/// Why ExifTool could not store a custom field of this typed name, in one line for the user; nothing when it can,
-/// and nothing for a name of which sanitizeCustomName leaves nothing. One such name spoils its whole save.
-std::optional<QString> customNameProblem(const QString& name);
 
 /// A typed date as "yyyy:MM:dd HH:mm:ss" in wall-clock time; what does not parse is passed on trimmed.
 QString normalizeDate(const QString& text);

@@ -1,8 +1,8 @@
 #include "ui/sheets/AddFieldSheet.h"
 
 #include "app/model/AppModel.h"
+#include "core/schema/CustomFields.h"
 #include "core/text/Text.h"
-#include "core/tool/MetadataWriter.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/TextFields.h"
@@ -131,8 +131,8 @@ void AddFieldSheet::filter()
 void AddFieldSheet::judgeName()
 {
     const QString typed = m_name->text();
-    const auto stored = MetadataWriter::sanitizeCustomName(typed);
-    const auto problem = MetadataWriter::customNameProblem(typed);
+    const auto stored = CustomFields::sanitizeName(typed);
+    const auto problem = CustomFields::nameProblem(typed);
     QString verdict;
     if (problem)
         verdict = *problem;
