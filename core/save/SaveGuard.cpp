@@ -1,6 +1,7 @@
 #include "core/save/SaveGuard.h"
 
 #include "core/save/Companions.h"
+#include "core/text/Text.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -17,8 +18,6 @@ namespace {
 
 /// A leftover this old belongs to no running tool, in seconds.
 constexpr qint64 leftoverAge = qint64(24) * 60 * 60;
-/// File names that one message lists.
-constexpr qsizetype namesListed = 5;
 
 QByteArray nativePath(const QUrl& file)
 {
@@ -28,14 +27,6 @@ QByteArray nativePath(const QUrl& file)
 QByteArray nativeBackupPath(const QUrl& photo)
 {
     return QFile::encodeName(Companions::backupPath(photo.toLocalFile()));
-}
-
-QString listed(const QStringList& names)
-{
-    QString text = names.mid(0, namesListed).join(u", "_s);
-    if (names.size() > namesListed)
-        text += u" and %1 more"_s.arg(names.size() - namesListed);
-    return text;
 }
 
 QMap<QByteArray, QByteArray> extendedAttributes(const QByteArray& path)
@@ -98,7 +89,7 @@ void requireWritable(const QList<QUrl>& files)
     const QString verb = names.size() == 1 ? u"is"_s : u"are"_s;
     throw FileProblem(u"%1 of %2 photos %3 read-only: %4; nothing was written."_s.arg(names.size())
                           .arg(files.size())
-                          .arg(verb, listed(names)));
+                          .arg(verb, Text::listed(names)));
 }
 
 void clearLeftovers(const QList<QUrl>& files, const QDateTime& now)
@@ -115,7 +106,7 @@ void clearLeftovers(const QList<QUrl>& files, const QDateTime& now)
     if (young.isEmpty())
         return;
     throw FileProblem(u"Another save is under way or was cut off: %1 lies beside the photo. If no other program "
-                      "is saving, delete it and save again. Nothing was written."_s.arg(listed(young)));
+                      "is saving, delete it and save again. Nothing was written."_s.arg(Text::listed(young)));
 }
 
 BackupKeeper::BackupKeeper(const QList<QUrl>& files)
