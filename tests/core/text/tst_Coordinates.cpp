@@ -7,7 +7,7 @@
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
 
-class TestCoordinates : public QObject {
+class tst_Coordinates : public QObject {
     Q_OBJECT
 
 private slots:
@@ -79,5 +79,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCoordinates)
+QTEST_GUILESS_MAIN(tst_Coordinates)
 #include "tst_Coordinates.moc"

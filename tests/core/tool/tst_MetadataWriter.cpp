@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 using MetadataWriter::ListMode;
 Q_DECLARE_METATYPE(Quorbel::MetadataWriter::ListMode)
 
-class TestMetadataWriter : public QObject {
+class tst_MetadataWriter : public QObject {
     Q_OBJECT
 
 private slots:
@@ -162,5 +162,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMetadataWriter)
+QTEST_GUILESS_MAIN(tst_MetadataWriter)
 #include "tst_MetadataWriter.moc"

@@ -116,7 +116,7 @@ std::pair<Outcome, int> decodeApart(const QString& path)
 
 }  // namespace
 
-class ImageDecoderTest final : public QObject {
+class tst_ImageDecoder : public QObject {
     Q_OBJECT
 
 private slots:
@@ -499,5 +499,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-QTEST_GUILESS_MAIN(ImageDecoderTest)
+QTEST_GUILESS_MAIN(tst_ImageDecoder)
 #include "tst_ImageDecoder.moc"
