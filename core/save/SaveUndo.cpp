@@ -54,26 +54,37 @@ public:
 
     UndoOutcome outcome()
     {
-        const auto filesByCommand = unchangedFiles();
-        for (auto it = filesByCommand.cbegin(); it != filesByCommand.cend(); ++it)
-            write(it.key(), *it);
+        const auto runs = runsOverUnchangedFiles();
+        for (const Run& run : runs)
+            write(run.command, run.files);
         checkRestored();
         restoreSidecars();
         return m_outcome;
     }
 
 private:
-    QMap<WriteCommand, QList<QUrl>> unchangedFiles()
+    /// Files that held the same go into one run.
+    struct Run {
+        WriteCommand command{};
+        QList<QUrl> files{};
+    };
+
+    /// By their arguments.
+    QMap<QStringList, Run> runsOverUnchangedFiles()
     {
-        QMap<WriteCommand, QList<QUrl>> filesByCommand;
+        QMap<QStringList, Run> runs;
         for (const auto& file : m_entry.files) {
             const QUrl url = QUrl::fromLocalFile(file.path);
-            if (FileStamp::of(file.path) != file.after)
+            if (FileStamp::of(file.path) != file.after) {
                 m_outcome.changedSince.append(url);
-            else
-                filesByCommand[JournalTags::restoreCommand(m_entry, file)].append(url);
+                continue;
+            }
+            const WriteCommand command = JournalTags::restoreCommand(m_entry, file);
+            Run& run = runs[arguments(command.assignments)];
+            run.command = command;
+            run.files.append(url);
         }
-        return filesByCommand;
+        return runs;
     }
 
     void write(const WriteCommand& command, const QList<QUrl>& files)

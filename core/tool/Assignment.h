@@ -8,8 +8,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <compare>
-
 namespace Quorbel {
 
 struct Assignment {
@@ -24,7 +22,6 @@ struct Assignment {
     Operation operation = Operation::set;
     QString value{};
     bool operator==(const Assignment&) const = default;
-    std::strong_ordering operator<=>(const Assignment&) const = default;
 };
 
 /// One run was to replace a tag and to add to it at once.

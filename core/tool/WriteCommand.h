@@ -11,7 +11,6 @@ struct WriteCommand {
 
     bool isEmpty() const { return options.isEmpty() && assignments.isEmpty(); }
     bool operator==(const WriteCommand&) const = default;
-    std::strong_ordering operator<=>(const WriteCommand&) const = default;
 };
 
 }  // namespace Quorbel
