@@ -17,15 +17,6 @@ QStringList sortedWithoutDuplicates(QStringList tags)
     return tags;
 }
 
-QList<FieldSpec> fieldsShownAlways(bool alwaysShown)
-{
-    QList<FieldSpec> fields;
-    for (const FieldSpec& field : all())
-        if (field.alwaysShown == alwaysShown)
-            fields.append(field);
-    return fields;
-}
-
 }  // namespace
 
 // Columns: id, label, kind, section, write tags, read tags, hint, always shown, note, offered only as an add-on.
@@ -143,14 +134,13 @@ const FieldSpec* spec(const QString& id)
     return it == fields.cend() ? nullptr : &*it;
 }
 
-QList<FieldSpec> defaultFields()
-{
-    return fieldsShownAlways(true);
-}
-
 QList<FieldSpec> addableFields()
 {
-    return fieldsShownAlways(false);
+    QList<FieldSpec> fields;
+    for (const FieldSpec& field : all())
+        if (!field.alwaysShown)
+            fields.append(field);
+    return fields;
 }
 
 QStringList readTags()

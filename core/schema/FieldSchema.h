@@ -18,7 +18,7 @@ struct CameraRowSpec {
 const QList<FieldSpec>& all();
 /// The field with exactly this id; nothing when there is none. The pointer stays valid for ever.
 const FieldSpec* spec(const QString& id);
-QList<FieldSpec> defaultFields();
+/// Those that are not on screen always.
 QList<FieldSpec> addableFields();
 /// Every field's read tags, without duplicates, ascending.
 QStringList readTags();

@@ -46,18 +46,9 @@ QString fractionOfKilobyte(qint64 bytes)
     return decimalText(roundedQuotient(bytes, step) * step, 3);
 }
 
-}  // namespace
-
-QString ImageRecord::detailLine() const
-{
-    return joinedParts({ fileType, sidebarLine() });
-}
-
-QString ImageRecord::sidebarLine() const
-{
-    return joinedParts({ dimensionsText(*this), fileSize ? formattedFileSize(*fileSize) : QString() });
-}
-
+/// A size as a file manager shows it: powers of 1000, a decimal point, no trailing zeros. "Zero KB" for nothing, one
+/// significant digit under a kilobyte ("0.5 KB"), whole kilobytes ("9 KB"), tenths of megabytes ("2.4 MB"), hundredths
+/// of gigabytes ("1.25 GB") beyond. A size that rounds to 1000 takes the next unit.
 QString formattedFileSize(qint64 bytes)
 {
     if (bytes <= 0)
@@ -69,6 +60,18 @@ QString formattedFileSize(qint64 bytes)
     if (const qint64 tenths = roundedQuotient(bytes, 100'000); tenths < 10'000)
         return decimalText(tenths, 1) + u" MB"_s;
     return decimalText(roundedQuotient(bytes, 10'000'000), 2) + u" GB"_s;
+}
+
+}  // namespace
+
+QString ImageRecord::detailLine() const
+{
+    return joinedParts({ fileType, sidebarLine() });
+}
+
+QString ImageRecord::sidebarLine() const
+{
+    return joinedParts({ dimensionsText(*this), fileSize ? formattedFileSize(*fileSize) : QString() });
 }
 
 }  // namespace Quorbel

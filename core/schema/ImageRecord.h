@@ -24,7 +24,6 @@ struct CameraRow {
 struct CustomValue {
     QString name{};
     QString value{};
-    const QString& id() const { return name; }
     bool operator==(const CustomValue&) const = default;
 };
 
@@ -42,7 +41,6 @@ struct ImageRecord {
     std::optional<QDateTime> creationDate{};  ///< the file system's
     std::optional<QDateTime> contentModificationDate{};  ///< the file system's, to the millisecond
 
-    const QUrl& id() const { return url; }
     /// "JPEG · 4000×3000 · 2.4 MB"; parts that are unknown are left out.
     QString detailLine() const;
     /// The same without the file type.
@@ -50,10 +48,5 @@ struct ImageRecord {
 
     bool operator==(const ImageRecord&) const = default;
 };
-
-/// A size as a file manager shows it: powers of 1000, a decimal point, no trailing zeros. "Zero KB" for nothing, one
-/// significant digit under a kilobyte ("0.5 KB"), whole kilobytes ("9 KB"), tenths of megabytes ("2.4 MB"), hundredths
-/// of gigabytes ("1.25 GB") beyond. A size that rounds to 1000 takes the next unit.
-QString formattedFileSize(qint64 bytes);
 
 }  // namespace Quorbel

@@ -272,7 +272,7 @@ QString ExifToolRunner::write(
     if (!backup)
         list << u"-overwrite_original"_s;
     list << u"-m"_s << command.options << arguments(command.assignments) << paths(files);
-    return run(list);
+    return strictUtf8(runForBytes(list));
 }
 
 QMap<QString, QByteArray> ExifToolRunner::readBinary(
@@ -296,16 +296,6 @@ QMap<QString, QByteArray> ExifToolRunner::readBinary(
         found.insert(it.key(), value.startsWith(prefix) ? QByteArray::fromBase64(value.sliced(prefix.size())) : value);
     }
     return found;
-}
-
-QString ExifToolRunner::version() const
-{
-    return run({ u"-ver"_s }).trimmed();
-}
-
-QString ExifToolRunner::run(const QStringList& arguments) const
-{
-    return strictUtf8(runForBytes(arguments));
 }
 
 QByteArray ExifToolRunner::runForBytes(

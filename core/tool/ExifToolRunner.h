@@ -60,8 +60,6 @@ struct ExifToolRunner {
     /// stored number or text of others. Throws like read(); CancelledError also when they come to some 150 MiB.
     QMap<QString, QByteArray> readBinary(
         const QStringList& tags, const QUrl& file, const std::stop_token& stop = {}) const;
-    /// The tool's version, trimmed.
-    QString version() const;
 
     bool operator==(const ExifToolRunner&) const = default;
 
@@ -79,7 +77,6 @@ private:
 
     QList<JSONObject> readJSON(
         const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const;
-    QString run(const QStringList& arguments) const;
     QByteArray runForBytes(
         const QStringList& arguments, const OutputWatch& watch = {}, const ReadControl& control = {}) const;
     static ToolError failure(const Ended& ended);

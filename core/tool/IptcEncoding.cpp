@@ -23,15 +23,11 @@ bool fits(QChar c)
 
 }  // namespace
 
-bool fitsWindowsLatin1(const QString& text)
-{
-    return std::all_of(text.cbegin(), text.cend(), fits);
-}
-
 bool needsUtf8(const QList<Assignment>& assignments)
 {
     return std::any_of(assignments.cbegin(), assignments.cend(), [](const Assignment& assignment) {
-        return assignment.tag.startsWith(u"IPTC:"_s) && !fitsWindowsLatin1(assignment.value);
+        return assignment.tag.startsWith(u"IPTC:"_s)
+            && !std::all_of(assignment.value.cbegin(), assignment.value.cend(), fits);
     });
 }
 

@@ -8,13 +8,10 @@
 
 #include "core/tool/WriteCommand.h"
 
-#include <QString>
-
 namespace Quorbel::IptcEncoding {
 
-/// Whether every character exists in Windows Latin 1 (code page 1252).
-bool fitsWindowsLatin1(const QString& text);
-/// Whether some assignment ("東京" to "IPTC:City") binds a text for IPTC that does not fit.
+/// Whether some assignment ("東京" to "IPTC:City") binds a text for IPTC that does not fit Windows Latin 1 (code page
+/// 1252).
 bool needsUtf8(const QList<Assignment>& assignments);
 /// The run that turns all IPTC of a file into declared UTF-8.
 WriteCommand conversion();

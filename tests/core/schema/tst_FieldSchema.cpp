@@ -29,7 +29,7 @@ QString groupZero(QString tag)
 
 }  // namespace
 
-class TestFieldSchema : public QObject {
+class tst_FieldSchema : public QObject {
     Q_OBJECT
 
 private slots:
@@ -40,9 +40,10 @@ private slots:
         const QStringList all = ids(FieldSchema::all());
         QCOMPARE(all.size(), 31);
         QCOMPARE(QSet<QString>(all.cbegin(), all.cend()).size(), 31);
-        QCOMPARE(ids(FieldSchema::defaultFields()),
-            u"title description date keywords creator copyright place coords"_s.split(u' '));
-        QCOMPARE(FieldSchema::addableFields().size(), 23);
+        QStringList always = all;
+        for (const QString& id : ids(FieldSchema::addableFields()))
+            always.removeAll(id);
+        QCOMPARE(always, u"title description date keywords creator copyright place coords"_s.split(u' '));
         for (const FieldSpec& field : FieldSchema::all())
             QVERIFY2(!field.label.isEmpty() && !field.addNote.isEmpty() && !field.namespaceHint.isEmpty(),
                 qPrintable(field.id));
@@ -126,5 +127,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFieldSchema)
+QTEST_GUILESS_MAIN(tst_FieldSchema)
 #include "tst_FieldSchema.moc"

@@ -6,7 +6,7 @@
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
 
-class TestImageRecord : public QObject {
+class tst_ImageRecord : public QObject {
     Q_OBJECT
 
 private slots:
@@ -40,9 +40,9 @@ private slots:
     void sizes()
     {
         QFETCH(QString, text);
-        QTEST(formattedFileSize(text.toLongLong()), "expected");
+        QTEST(ImageRecord{ .fileSize = text.toLongLong() }.sidebarLine(), "expected");
     }
 };
 
-QTEST_GUILESS_MAIN(TestImageRecord)
+QTEST_GUILESS_MAIN(tst_ImageRecord)
 #include "tst_ImageRecord.moc"
