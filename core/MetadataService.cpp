@@ -1,22 +1,13 @@
 #include "core/MetadataService.h"
 
-#include "core/save/SaveGuard.h"
-#include "core/text/Coordinates.h"
-#include "core/tool/IptcEncoding.h"
+#include "core/save/Companions.h"
+#include "core/save/SafeWriter.h"
+#include "core/schema/CustomFields.h"
 #include "core/tool/MetadataReader.h"
 #include "core/tool/MetadataWriter.h"
-#include "core/tool/TemporaryFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
-#include <QScopeGuard>
-
-#include <cerrno>
-#include <cstdio>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace Quorbel {
 
@@ -48,161 +39,6 @@ void addFileDates(ImageRecord& record)
         record.creationDate = created;
     if (const auto modified = file.lastModified(); modified.isValid())
         record.contentModificationDate = modified;
-}
-
-/// Writes the definitions of the custom group for one save. Readable by the user alone: names may be private.
-QUrl writeTempConfig(const QStringList& names)
-{
-    const QByteArray text = MetadataWriter::customConfig(names).toUtf8();
-
-    const QString directory = QDir::tempPath();
-    if (directory.isEmpty())  // Qt's answer for a TMPDIR that does not exist
-        throw FileError(
-            u"Cannot write to"_s, QUrl::fromLocalFile(qEnvironmentVariable("TMPDIR")), qt_error_string(ENOENT));
-    const QUrl url = QUrl::fromLocalFile(directory + u'/' + TemporaryFiles::newConfigName());
-    QSaveFile file(url.toLocalFile());
-    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
-        || file.write(text) != text.size() || !file.commit())
-        throw FileError(u"Cannot write"_s, url, file.errorString());
-    return url;
-}
-
-QString backupPath(const QString& imagePath)
-{
-    return imagePath + u"_original"_s;
-}
-
-/// As the name of a file to copy from to its sidecar: there the tool puts folder and name of the sidecar for "%d" and
-/// "%f", so a photo's own name with such text in it has to be put the same way.
-QString sourceArgument(const QString& path)
-{
-    if (!path.contains(u'%'))
-        return path;
-    const qsizetype nameSize = SaveJournal::sidecarPath(path).size() - u".xmp"_s.size();
-    return u"%d%f"_s + path.sliced(nameSize);
-}
-
-void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& images)
-{
-    for (const auto& image : images) {
-        const QString path = image.toLocalFile();
-        try {
-            SaveGuard::clearLeftovers({ QUrl::fromLocalFile(SaveJournal::sidecarPath(path)) });
-            runner.write({ u"-tagsfromfile"_s, sourceArgument(path), u"-xmp:all"_s },
-                { QUrl::fromLocalFile(SaveJournal::sidecarPath(path)) }, false);
-        } catch (const Error&) {
-            // The photo itself is saved; a sidecar is a courtesy beside it.
-        }
-    }
-}
-
-/// One write, after the run that its texts may need.
-QString writeTexts(const ExifToolRunner& runner, const QStringList& args, const QList<QUrl>& files, bool backup,
-    const std::optional<QUrl>& config)
-{
-    if (!IptcEncoding::needsUtf8(args))
-        return runner.write(args, files, backup, config);
-    QList<QUrl> converted = files;
-    try {
-        runner.write(IptcEncoding::conversionArgs(), files, backup);
-    } catch (const ToolError& error) {
-        // Those that it names would not take the values either; they do not keep the others from them.
-        const auto failures = writeFailures(error.messages(), files);
-        for (const auto& failure : failures)
-            converted.removeAll(failure.file);
-        if (failures.isEmpty() || converted.isEmpty())
-            throw;
-        runner.write(args, converted, backup, config);
-        throw;
-    }
-    return runner.write(args, files, backup, config);
-}
-
-/// One write, and the run that its position may need.
-QString writeSigned(const ExifToolRunner& runner, const QStringList& args, const QList<QUrl>& files, bool backup,
-    const std::optional<QUrl>& config)
-{
-    const QStringList signs = Coordinates::signArgs(args);
-    if (signs.isEmpty())
-        return writeTexts(runner, args, files, backup, config);
-    QString output;
-    try {
-        output = writeTexts(runner, args, files, backup, config);
-    } catch (const ToolError& error) {
-        const auto failures = writeFailures(error, files);
-        QList<QUrl> written = files;
-        for (const auto& failure : failures)
-            written.removeAll(failure.file);
-        try {
-            runner.write(signs, written, false);
-        } catch (const Error&) {
-            // The first failure is the one to tell.
-        }
-        throw;
-    }
-    runner.write(signs, files, false);
-    return output;
-}
-
-/// One write of assignments, with what ExifTool would lose looked after: the files behind links, text that the
-/// files' IPTC encoding cannot hold, extended attributes, mode and owner.
-QString writeSafely(const ExifToolRunner& runner, const QStringList& args, const QList<QUrl>& targets, bool backup,
-    const QStringList& customNames)
-{
-    const auto files = SaveGuard::filesBehindLinks(targets);
-    SaveGuard::requireWritable(files);
-    SaveGuard::clearLeftovers(files);
-    std::optional<QUrl> config;
-    if (!customNames.isEmpty())
-        config = writeTempConfig(customNames);
-    const auto removeConfig = qScopeGuard([&config] {
-        if (config)
-            QFile::remove(config->toLocalFile());
-    });
-    const SaveGuard::AttributeKeeper attributes(files);
-    // After a failure too: some of the files may have been replaced.
-    const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });
-    const SaveGuard::BackupKeeper backups(backup ? files : QList<QUrl>());
-    return writeSigned(runner, args, files, backup, config);
-}
-
-/// The files that may be written to now; why the others may not goes to the failures.
-QList<QUrl> withoutBlocked(const QList<QUrl>& files, QList<FileFailure>& failures)
-{
-    QList<QUrl> writable;
-    for (const auto& file : files) {
-        if (SaveGuard::isReadOnly(file)) {
-            failures.append({ file, u"read-only"_s });
-            continue;
-        }
-        try {
-            SaveGuard::clearLeftovers({ file });
-            writable.append(file);
-        } catch (const Error& error) {
-            failures.append({ file, error.description() });
-        }
-    }
-    return writable;
-}
-
-/// Moves a file unless something has the new name already, in one step where the file system can do that.
-/// Zero, or the system's error number.
-int moveWithoutReplacing(const QString& from, const QString& to)
-{
-    const QByteArray source = QFile::encodeName(from);
-    const QByteArray destination = QFile::encodeName(to);
-    if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, destination.constData(), RENAME_NOREPLACE) == 0)
-        return 0;
-    if (errno != EINVAL && errno != ENOSYS)
-        return errno;
-    // A second name and then the loss of the first is as safe, if the file system knows hard links.
-    if (link(source.constData(), destination.constData()) == 0)
-        return unlink(source.constData()) == 0 ? 0 : errno;
-    if (errno != EPERM && errno != EOPNOTSUPP && errno != ENOSYS)
-        return errno;
-    if (faccessat(AT_FDCWD, destination.constData(), F_OK, AT_SYMLINK_NOFOLLOW) == 0)
-        return EEXIST;
-    return std::rename(source.constData(), destination.constData()) == 0 ? 0 : errno;
 }
 
 }  // namespace
@@ -239,116 +75,30 @@ QList<ImageRecord> MetadataService::read(const QList<QUrl>& urls, const ReadCont
 
 QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options) const
 {
-    if (plan.isEmpty() || targets.isEmpty())
+    const WriteCommand command{ .assignments = MetadataWriter::assignments(plan) };
+    if (command.isEmpty() || targets.isEmpty())
         return {};
-    const QStringList args = MetadataWriter::assignments(plan);
-    if (args.isEmpty())
-        return {};
-    QStringList customNames;
-    for (const auto& custom : plan.customs)
-        customNames.append(custom.name);
-    const QString output = writeSafely(runner, args, targets, options.backupOriginals, customNames);
+    const QString output =
+        SafeWriter::write(runner, command, targets, options.backupOriginals, CustomFields::names(plan.customs));
     if (options.writeSidecar)
-        writeSidecars(runner, targets);
+        Companions::writeSidecars(runner, targets);
     return output;
 }
 
 JournalEntry MetadataService::journalEntry(
     const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options) const
 {
-    JournalEntry entry{ .savedAt = QDateTime::currentDateTimeUtc(), .writtenTags = SaveJournal::writtenTags(plan) };
-    for (const auto& custom : plan.customs)
-        entry.customNames.append(custom.name);
-    if (entry.writtenTags.isEmpty() || targets.isEmpty())
-        return entry;
-    const auto files = SaveGuard::filesBehindLinks(targets);
-    const auto tags = TagDump::parse(runner.readDump(SaveJournal::readArgs(entry.writtenTags), files));
-    for (qsizetype i = 0; i < files.size(); ++i) {
-        const QString path = files[i].toLocalFile();
-        const auto before = tags.constFind(QFile::encodeName(path));
-        const auto stamp = FileStamp::of(path);
-        if (!stamp || before == tags.cend())
-            continue;
-        entry.files.append({ .path = path, .before = *stamp, .after = *stamp, .tags = *before });
-        if (options.writeSidecar)
-            entry.files.last().sidecar = JournalSidecar::of(SaveJournal::sidecarPath(targets[i].toLocalFile()));
-    }
-    return entry;
+    return SaveUndo::journalEntry(runner, plan, targets, options);
 }
 
 UndoOutcome MetadataService::undo(const JournalEntry& entry) const
 {
-    UndoOutcome outcome;
-    QMap<QStringList, QList<QUrl>> filesByArgs;
-    for (const auto& file : entry.files) {
-        const QUrl url = QUrl::fromLocalFile(file.path);
-        if (FileStamp::of(file.path) != file.after)
-            outcome.changedSince.append(url);
-        else
-            filesByArgs[SaveJournal::restoreArgs(entry, file)].append(url);
-    }
-    QSet<QUrl> doubtful;
-    for (auto it = filesByArgs.cbegin(); it != filesByArgs.cend(); ++it) {
-        const qsizetype failedBefore = outcome.failed.size();
-        const QList<QUrl> files = withoutBlocked(*it, outcome.failed);
-        try {
-            if (!files.isEmpty())
-                writeSafely(runner, it.key(), files, false, entry.customNames);
-        } catch (const ToolError& error) {
-            outcome.failed += writeFailures(error, files);
-            doubtful.unite(QSet<QUrl>(files.cbegin(), files.cend()));
-        } catch (const Error& error) {
-            for (const auto& file : files)
-                outcome.failed.append({ file, error.description() });
-        }
-        const QList<FileFailure> failures = outcome.failed.sliced(failedBefore);
-        for (const auto& url : *it)
-            if (std::none_of(failures.cbegin(), failures.cend(), [&url](const auto& f) { return f.file == url; }))
-                outcome.restored.append(url);
-    }
-    checkRestored(entry, doubtful, outcome);
-    const QSet<QUrl> restored(outcome.restored.cbegin(), outcome.restored.cend());
-    for (const auto& file : entry.files)
-        if (const QUrl url = QUrl::fromLocalFile(file.path);
-            restored.contains(url) && !file.sidecar.restore() && !outcome.inexact.contains(url))
-            outcome.inexact.append(url);
-    return outcome;
-}
-
-/// Looks what the files really hold now: the tool refuses some values that it read, and of a run that failed it need
-/// not name every file that was left out.
-void MetadataService::checkRestored(const JournalEntry& entry, const QSet<QUrl>& doubtful, UndoOutcome& outcome) const
-{
-    QHash<QByteArray, FileTags> now;
-    try {
-        now = TagDump::parse(runner.readDump(SaveJournal::readArgs(entry.writtenTags), outcome.restored));
-    } catch (const Error&) {
-        // Then what the tool said of its runs has to do.
-    }
-    const QSet<QUrl> restored(outcome.restored.cbegin(), outcome.restored.cend());
-    for (const auto& file : entry.files) {
-        const QUrl url = QUrl::fromLocalFile(file.path);
-        const auto held = now.constFind(QFile::encodeName(file.path));
-        const bool isKnown = restored.contains(url) && held != now.cend();
-        if (!isKnown || SaveJournal::isRestored(entry, file, *held))
-            continue;
-        if (doubtful.contains(url)) {
-            outcome.restored.removeAll(url);
-            outcome.failed.append({ url, u"not written"_s });
-        } else {
-            outcome.inexact.append(url);
-        }
-    }
+    return SaveUndo::undo(runner, entry);
 }
 
 void MetadataService::renameFile(const QUrl& source, const QUrl& destination) const
 {
-    const QString from = source.toLocalFile();
-    const QString to = destination.toLocalFile();
-    if (const int error = moveWithoutReplacing(from, to))
-        throw FileError(u"Cannot move"_s, source, qt_error_string(error));
-    moveWithoutReplacing(SaveJournal::sidecarPath(from), SaveJournal::sidecarPath(to));
-    moveWithoutReplacing(backupPath(from), backupPath(to));
+    Companions::movePhoto(source, destination);
 }
 
 }  // namespace Quorbel

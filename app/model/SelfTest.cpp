@@ -2,6 +2,7 @@
 
 #include "core/MetadataService.h"
 #include "core/schema/FieldID.h"
+#include "core/schema/ImageTypes.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "app/shell/OpenPanel.h"
 
-#include "core/schema/ImageRecord.h"
+#include "core/schema/ImageTypes.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QDialogButtonBox>

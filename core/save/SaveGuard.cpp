@@ -1,5 +1,8 @@
 #include "core/save/SaveGuard.h"
 
+#include "core/save/Companions.h"
+#include "core/text/Text.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -15,25 +18,15 @@ namespace {
 
 /// A leftover this old belongs to no running tool, in seconds.
 constexpr qint64 leftoverAge = qint64(24) * 60 * 60;
-/// File names that one message lists.
-constexpr qsizetype namesListed = 5;
 
 QByteArray nativePath(const QUrl& file)
 {
     return QFile::encodeName(file.toLocalFile());
 }
 
-QByteArray backupOf(const QByteArray& photo)
+QByteArray nativeBackupPath(const QUrl& photo)
 {
-    return photo + "_original";
-}
-
-QString listed(const QStringList& names)
-{
-    QString text = names.mid(0, namesListed).join(u", "_s);
-    if (names.size() > namesListed)
-        text += u" and %1 more"_s.arg(names.size() - namesListed);
-    return text;
+    return QFile::encodeName(Companions::backupPath(photo.toLocalFile()));
 }
 
 QMap<QByteArray, QByteArray> extendedAttributes(const QByteArray& path)
@@ -96,7 +89,7 @@ void requireWritable(const QList<QUrl>& files)
     const QString verb = names.size() == 1 ? u"is"_s : u"are"_s;
     throw FileProblem(u"%1 of %2 photos %3 read-only: %4; nothing was written."_s.arg(names.size())
                           .arg(files.size())
-                          .arg(verb, listed(names)));
+                          .arg(verb, Text::listed(names)));
 }
 
 void clearLeftovers(const QList<QUrl>& files, const QDateTime& now)
@@ -113,26 +106,24 @@ void clearLeftovers(const QList<QUrl>& files, const QDateTime& now)
     if (young.isEmpty())
         return;
     throw FileProblem(u"Another save is under way or was cut off: %1 lies beside the photo. If no other program "
-                      "is saving, delete it and save again. Nothing was written."_s.arg(listed(young)));
+                      "is saving, delete it and save again. Nothing was written."_s.arg(Text::listed(young)));
 }
 
 BackupKeeper::BackupKeeper(const QList<QUrl>& files)
 {
-    for (const auto& file : files) {
-        const QByteArray photo = nativePath(file);
-        if (link(photo.constData(), backupOf(photo).constData()) == 0)
-            m_made.append(photo);
-    }
+    for (const auto& file : files)
+        if (link(nativePath(file).constData(), nativeBackupPath(file).constData()) == 0)
+            m_made.append(file);
 }
 
 BackupKeeper::~BackupKeeper()
 {
     for (const auto& photo : m_made) {
-        const QByteArray backup = backupOf(photo);
+        const QByteArray backup = nativeBackupPath(photo);
         struct stat now { };
         struct stat before { };
-        if (stat(photo.constData(), &now) == 0 && stat(backup.constData(), &before) == 0 && now.st_dev == before.st_dev
-            && now.st_ino == before.st_ino)
+        if (stat(nativePath(photo).constData(), &now) == 0 && stat(backup.constData(), &before) == 0
+            && now.st_dev == before.st_dev && now.st_ino == before.st_ino)
             unlink(backup.constData());
     }
 }

@@ -48,7 +48,7 @@ public:
     Q_DISABLE_COPY_MOVE(BackupKeeper)
 
 private:
-    QList<QByteArray> m_made;  ///< the photos
+    QList<QUrl> m_made;  ///< the photos
 };
 
 /// Remembers extended attributes, mode and owner of files, and gives them back to the files that take their place.

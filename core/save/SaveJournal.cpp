@@ -1,7 +1,6 @@
 #include "core/save/SaveJournal.h"
 
-#include "core/save/EditPlan.h"
-#include "core/tool/MetadataWriter.h"
+#include "core/save/Companions.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,74 +12,12 @@
 #include <QUtf8StringView>
 
 #include <algorithm>
-#include <cmath>
 
-namespace Quorbel {
+namespace Quorbel::SaveJournal {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString customGroupPrefix()
-{
-    return MetadataWriter::customNamespacePrefix() + u':';
-}
-
-/// "-XMP-dc:Title=x" and "-IPTC:Keywords+=x" give "XMP-dc:Title" and "IPTC:Keywords".
-QString assignedTag(const QString& argument)
-{
-    auto end = argument.indexOf(u'=');
-    if (end > 0 && (argument[end - 1] == u'+' || argument[end - 1] == u'-'))
-        --end;
-    return argument.sliced(1, end - 1);
-}
-
-/// Tags whose values may come in several languages.
-const QStringList& languageTags()
-{
-    static const QStringList tags{ u"XMP-dc:Title"_s, u"XMP-dc:Description"_s, u"XMP-dc:Rights"_s,
-        u"XMP-iptcExt:Event"_s, u"XMP-xmpRights:UsageTerms"_s };
-    return tags;
-}
-
-/// Where ExifTool may find a position that was assigned without a group.
-bool isPosition(const QString& tag)
-{
-    return tag.startsWith(u"GPS"_s) && !tag.contains(u':');
-}
-
-/// As the tool's option "-ec" reads it: whatever an argument cannot hold (NUL, bytes that are no text) as "\xHH".
-QString escaped(const QByteArray& value)
-{
-    const bool isText = QUtf8StringView(value).isValidUtf8();
-    QByteArray argument;
-    for (const char c : value) {
-        const auto code = uchar(c);
-        const bool isPlain = c == '\t' || c == '\n' || (code >= ' ' && (code < 0x7F || (isText && code > 0x7F)));
-        if (c == '\\')
-            argument += "\\\\";
-        else if (isPlain)
-            argument += c;
-        else
-            argument += "\\x" + QByteArray(1, c).toHex();
-    }
-    return QString::fromUtf8(argument);
-}
-
-/// The custom group is read as a whole, with fields that the save did not touch. Names in it come back with a capital
-/// first letter.
-bool isConcerned(const JournalEntry& entry, const QString& tag)
-{
-    return !tag.startsWith(customGroupPrefix()) || entry.writtenTags.contains(tag, Qt::CaseInsensitive);
-}
-
-bool isSame(const QByteArray& a, const QByteArray& b)
-{
-    constexpr double rounding = 1e-8;  // degrees: a millimetre
-    bool areNumbers[2] = {};
-    const double difference = a.toDouble(&areNumbers[0]) - b.toDouble(&areNumbers[1]);
-    return a == b || (areNumbers[0] && areNumbers[1] && std::abs(difference) < rounding);
-}
 
 /// A string of JSON, or, for bytes that are no text, their Base64 in an object.
 QJsonValue toJson(const QByteArray& value)
@@ -187,91 +124,6 @@ JournalEntry entryFrom(const QJsonValue& value)
 
 }  // namespace
 
-std::optional<FileStamp> FileStamp::of(const QString& path)
-{
-    const QFileInfo info(path);
-    if (!info.exists())
-        return std::nullopt;
-    return FileStamp{ .modified = info.lastModified().toMSecsSinceEpoch(), .size = info.size() };
-}
-
-JournalSidecar JournalSidecar::of(const QString& path)
-{
-    JournalSidecar sidecar{ .path = path, .before = FileStamp::of(path) };
-    QFile file(path);
-    if (sidecar.before && file.open(QIODevice::ReadOnly))
-        sidecar.text = file.readAll();
-    // What could not be read whole is not written back either.
-    if (sidecar.before && sidecar.text.size() != sidecar.before->size)
-        return {};
-    return sidecar;
-}
-
-bool JournalSidecar::restore() const
-{
-    if (path.isEmpty() || !after || FileStamp::of(path) != after)
-        return true;
-    if (!before)
-        return QFile::remove(path);
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
-}
-
-namespace SaveJournal {
-
-QStringList writtenTags(const EditPlan& plan)
-{
-    QStringList tags;
-    for (const auto& argument : MetadataWriter::assignments(plan))
-        if (const QString tag = assignedTag(argument); !tags.contains(tag))
-            tags.append(tag);
-    return tags;
-}
-
-QStringList readArgs(const QStringList& writtenTags)
-{
-    QStringList args = TagDump::options();
-    for (const auto& tag : writtenTags) {
-        if (tag.startsWith(customGroupPrefix()))
-            continue;  // all of the group are read at once, below
-        if (isPosition(tag))
-            args << u"-GPS:"_s + tag << u"-XMP:"_s + tag;
-        else
-            args << u'-' + tag;
-        if (languageTags().contains(tag))
-            args << u'-' + tag + u"-*"_s;
-    }
-    if (std::any_of(writtenTags.cbegin(), writtenTags.cend(),
-            [](const QString& tag) { return tag.startsWith(customGroupPrefix()); }))
-        args << u'-' + customGroupPrefix() + u"all"_s;
-    return args;
-}
-
-QStringList restoreArgs(const JournalEntry& entry, const JournalFile& file)
-{
-    QStringList args{ u"-ec"_s };
-    for (const auto& tag : entry.writtenTags)
-        args.append(u'-' + tag + u'=');
-    for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it) {
-        if (!isConcerned(entry, it.key()))
-            continue;
-        // A tag that is there without a text is not a tag that is not there.
-        for (const auto& value : *it)
-            args.append(u'-' + it.key() + (value.isEmpty() ? u"#^="_s : u"#="_s) + escaped(value));
-    }
-    return args;
-}
-
-bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTags& tags)
-{
-    const QStringList keys = file.tags.keys() + tags.keys();
-    return std::all_of(keys.cbegin(), keys.cend(), [&](const QString& key) {
-        const QList<QByteArray> before = file.tags.value(key);
-        const QList<QByteArray> now = tags.value(key);
-        return !isConcerned(entry, key) || std::equal(before.cbegin(), before.cend(), now.cbegin(), now.cend(), isSame);
-    });
-}
-
 QList<JournalEntry> load(const QString& journalPath)
 {
     QFile file(journalPath);
@@ -297,22 +149,14 @@ bool store(const QString& journalPath, const QList<JournalEntry>& entries)
         && file.write(QJsonDocument(saved).toJson(QJsonDocument::Compact)) >= 0 && file.commit();
 }
 
-QString sidecarPath(const QString& photo)
-{
-    const auto nameAt = photo.lastIndexOf(u'/') + 1;
-    const auto dot = photo.lastIndexOf(u'.');
-    // A leading dot makes a hidden file, not an extension.
-    return (dot > nameAt ? photo.left(dot) : photo) + u".xmp"_s;
-}
-
 void rename(QList<JournalEntry>& entries, const QString& from, const QString& to)
 {
     for (auto& entry : entries)
         for (auto& file : entry.files) {
             if (file.path == from)
                 file.path = to;
-            if (file.sidecar.path == sidecarPath(from))
-                file.sidecar.path = sidecarPath(to);
+            if (file.sidecar.path == Companions::sidecarPath(from))
+                file.sidecar.path = Companions::sidecarPath(to);
         }
 }
 
@@ -337,6 +181,4 @@ void removeUndone(QList<JournalEntry>& entries, const QStringList& restored)
     }
 }
 
-}  // namespace SaveJournal
-
-}  // namespace Quorbel
+}  // namespace Quorbel::SaveJournal

@@ -1,12 +1,25 @@
 #include "core/schema/CustomFields.h"
 
+#include "core/tool/MetadataWriter.h"
+
 #include <algorithm>
 
 namespace Quorbel::CustomFields {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QLatin1StringView prefix("custom:");
+
+/// The keys with a meaning of their own in ExifTool's tag tables (%specialTags of its main module), as far as they are
+/// letters only.
+const QStringList& reservedNames()
+{
+    static const QStringList names{ u"AVOID"_s, u"DATAMEMBER"_s, u"FORMAT"_s, u"GROUPS"_s, u"NAMESPACE"_s, u"NOTES"_s,
+        u"PERMANENT"_s, u"PREFERRED"_s, u"PRIORITY"_s, u"VARS"_s, u"WRITABLE"_s };
+    return names;
+}
 
 }  // namespace
 
@@ -18,6 +31,29 @@ QString key(const QString& name)
 std::optional<QString> nameIn(const QString& key)
 {
     return key.startsWith(prefix) ? std::optional(key.sliced(prefix.size())) : std::nullopt;
+}
+
+std::optional<QString> nameProblem(const QString& name)
+{
+    const auto stored = MetadataWriter::sanitizeCustomName(name);
+    if (!stored)
+        return std::nullopt;
+    const bool ascii = std::all_of(stored->cbegin(), stored->cend(), [](QChar c) { return c.unicode() < 0x80; });
+    if (!ascii)
+        return u"Only the letters A–Z and digits can be stored in a name."_s;
+    if (stored->size() == 1)
+        return u"A name needs at least two letters or digits."_s;
+    if (reservedNames().contains(*stored))
+        return u"“%1” is a reserved word; choose another name."_s.arg(*stored);
+    return std::nullopt;
+}
+
+QStringList names(const QList<CustomValue>& values)
+{
+    QStringList names;
+    for (const CustomValue& custom : values)
+        names.append(custom.name);
+    return names;
 }
 
 qsizetype indexOf(const QList<CustomValue>& values, const QString& name)

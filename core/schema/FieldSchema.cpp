@@ -4,35 +4,9 @@
 
 #include <algorithm>
 
-namespace Quorbel {
+namespace Quorbel::FieldSchema {
 
 using namespace Qt::StringLiterals;
-
-const QList<std::pair<FieldKind, QString>>& RawValues<FieldKind>::table()
-{
-    static const QList<std::pair<FieldKind, QString>> rows{
-        { FieldKind::text, u"text"_s },
-        { FieldKind::multiline, u"multiline"_s },
-        { FieldKind::keywords, u"keywords"_s },
-        { FieldKind::date, u"date"_s },
-        { FieldKind::coordinates, u"coordinates"_s },
-        { FieldKind::rating, u"rating"_s },
-        { FieldKind::offset, u"offset"_s },
-    };
-    return rows;
-}
-
-const QList<std::pair<FieldSection, QString>>& RawValues<FieldSection>::table()
-{
-    static const QList<std::pair<FieldSection, QString>> rows{
-        { FieldSection::common, u"COMMON"_s },
-        { FieldSection::location, u"LOCATION"_s },
-        { FieldSection::additional, u"DETAILS"_s },
-    };
-    return rows;
-}
-
-namespace FieldSchema {
 
 namespace {
 
@@ -219,6 +193,4 @@ const QStringList& timeZoneOffsets()
     return offsets;
 }
 
-}  // namespace FieldSchema
-
-}  // namespace Quorbel
+}  // namespace Quorbel::FieldSchema

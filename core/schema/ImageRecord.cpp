@@ -46,18 +46,9 @@ QString fractionOfKilobyte(qint64 bytes)
     return decimalText(roundedQuotient(bytes, step) * step, 3);
 }
 
-}  // namespace
-
-QString ImageRecord::detailLine() const
-{
-    return joinedParts({ fileType, sidebarLine() });
-}
-
-QString ImageRecord::sidebarLine() const
-{
-    return joinedParts({ dimensionsText(*this), fileSize ? formattedFileSize(*fileSize) : QString() });
-}
-
+/// A size as a file manager shows it: powers of 1000, a decimal point, no trailing zeros. "Zero KB" for nothing, one
+/// significant digit under a kilobyte ("0.5 KB"), whole kilobytes ("9 KB"), tenths of megabytes ("2.4 MB"), hundredths
+/// of gigabytes ("1.25 GB") beyond. A size that rounds to 1000 takes the next unit.
 QString formattedFileSize(qint64 bytes)
 {
     if (bytes <= 0)
@@ -71,28 +62,16 @@ QString formattedFileSize(qint64 bytes)
     return decimalText(roundedQuotient(bytes, 10'000'000), 2) + u" GB"_s;
 }
 
-namespace ImageTypes {
+}  // namespace
 
-const QSet<QString>& extensions()
+QString ImageRecord::detailLine() const
 {
-    static const QSet<QString> known = [] {
-        const QStringList list =
-            u"jpg jpeg png tif tiff gif webp heic heif hif avif jxl jxr hdp wdp jp2 j2k jpf jpx jpm "
-            "jph mpo jps psd psb dng cr2 cr3 crw nef nrw arw arq sr2 raf orf ori rw2 raw rwl pef "
-            "srw erf fff iiq mef mos mrw gpr x3f"_s.split(u' ');
-        return QSet<QString>(list.cbegin(), list.cend());
-    }();
-    return known;
+    return joinedParts({ fileType, sidebarLine() });
 }
 
-bool isImage(const QUrl& url)
+QString ImageRecord::sidebarLine() const
 {
-    const QString name = url.fileName();
-    const qsizetype dot = name.lastIndexOf(u'.');
-    // A leading dot hides a file; it begins no extension.
-    return dot > 0 && extensions().contains(name.sliced(dot + 1).toLower());
+    return joinedParts({ dimensionsText(*this), fileSize ? formattedFileSize(*fileSize) : QString() });
 }
-
-}  // namespace ImageTypes
 
 }  // namespace Quorbel

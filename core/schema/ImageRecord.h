@@ -1,11 +1,10 @@
-// What is known of one photo after a read, and which files count as photos.
+// What is known of one photo after a read.
 // Thread: any. Plain values: a change on disk is picked up by reading the file again.
 #pragma once
 
 #include <QDateTime>
 #include <QList>
 #include <QMap>
-#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -51,19 +50,5 @@ struct ImageRecord {
 
     bool operator==(const ImageRecord&) const = default;
 };
-
-/// A size as a file manager shows it: powers of 1000, a decimal point, no trailing zeros. "Zero KB" for nothing, one
-/// significant digit under a kilobyte ("0.5 KB"), whole kilobytes ("9 KB"), tenths of megabytes ("2.4 MB"), hundredths
-/// of gigabytes ("1.25 GB") beyond. A size that rounds to 1000 takes the next unit.
-QString formattedFileSize(qint64 bytes);
-
-namespace ImageTypes {
-
-/// The 50 lower-case extensions of files that are treated as photos.
-const QSet<QString>& extensions();
-/// Whether the extension of the URL's last path component, in any case, is one of them.
-bool isImage(const QUrl& url);
-
-}  // namespace ImageTypes
 
 }  // namespace Quorbel

@@ -16,6 +16,16 @@ QString sixDecimals(double degrees)
     return QString::asprintf("%.6f", degrees);
 }
 
+QString latitudeTag()
+{
+    return u"GPSLatitude"_s;
+}
+
+QString longitudeTag()
+{
+    return u"GPSLongitude"_s;
+}
+
 // "33.5 S" and "-33.5" alike; the letter's sign and the number's own multiply.
 std::optional<double> parseComponent(const QString& piece, QChar positive, QChar negative)
 {
@@ -53,36 +63,41 @@ QString displayString(const Point& point)
     return sixDecimals(point.latitude) + u", "_s + sixDecimals(point.longitude);
 }
 
-QStringList writeArgs(const QString& text)
+QList<Assignment> writeArgs(const QString& text)
 {
-    if (Text::trimmed(text).isEmpty())
-        return { u"-GPSLatitude="_s, u"-GPSLatitudeRef="_s, u"-GPSLongitude="_s, u"-GPSLongitudeRef="_s };
+    const bool isDeleted = Text::trimmed(text).isEmpty();
     const std::optional<Point> point = parse(text);
-    if (!point)
+    if (!point && !isDeleted)
         return {};
-    return {
-        u"-GPSLatitude="_s + sixDecimals(std::abs(point->latitude)),
-        u"-GPSLatitudeRef="_s + (point->latitude >= 0 ? u'N' : u'S'),
-        u"-GPSLongitude="_s + sixDecimals(std::abs(point->longitude)),
-        u"-GPSLongitudeRef="_s + (point->longitude >= 0 ? u'E' : u'W'),
+    QList<Assignment> assignments;
+    const auto add = [&](const QString& tag, double degrees, QChar positive, QChar negative) {
+        assignments.append({ .tag = tag, .value = isDeleted ? QString() : sixDecimals(std::abs(degrees)) });
+        assignments.append(
+            { .tag = tag + u"Ref"_s, .value = isDeleted ? QString() : QString(degrees >= 0 ? positive : negative) });
     };
+    const Point written = point.value_or(Point());
+    add(latitudeTag(), written.latitude, u'N', u'S');
+    add(longitudeTag(), written.longitude, u'E', u'W');
+    return assignments;
 }
 
-QStringList signArgs(const QStringList& writeArgs)
+WriteCommand signCommand(const QList<Assignment>& assignments)
 {
-    QStringList args;
+    WriteCommand command{ .options = { u"-n"_s, u"-wm"_s, u"w"_s } };
     bool isSigned = false;
-    for (const auto& [tag, negative] : { std::pair(u"-GPSLatitude"_s, u'S'), std::pair(u"-GPSLongitude"_s, u'W') }) {
-        const QString number = tag + u'=';
-        const auto written = std::find_if(writeArgs.cbegin(), writeArgs.cend(),
-            [&number](const QString& arg) { return arg.startsWith(number) && arg.size() > number.size(); });
-        if (written == writeArgs.cend())
+    for (const auto& [tag, negative] : { std::pair(latitudeTag(), u"S"_s), std::pair(longitudeTag(), u"W"_s) }) {
+        const auto number =
+            std::find_if(assignments.cbegin(), assignments.cend(), [&tag = tag](const Assignment& assignment) {
+                return assignment.tag == tag && !assignment.value.isEmpty();
+            });
+        if (number == assignments.cend())
             return {};
-        const bool isNegative = writeArgs.contains(tag + u"Ref="_s + negative);
-        args << u"-XMP:"_s + tag.sliced(1) + u'=' + (isNegative ? u"-"_s : QString()) + written->sliced(number.size());
+        const bool isNegative = assignments.contains({ .tag = tag + u"Ref"_s, .value = negative });
+        command.assignments.append(
+            { .tag = u"XMP:"_s + tag, .value = isNegative ? u'-' + number->value : number->value });
         isSigned |= isNegative;
     }
-    return isSigned ? QStringList{ u"-n"_s, u"-wm"_s, u"w"_s } + args : QStringList();
+    return isSigned ? command : WriteCommand();
 }
 
 }  // namespace Quorbel::Coordinates

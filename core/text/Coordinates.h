@@ -1,8 +1,9 @@
 // Positions as texts, "48.858370, 2.294481", in signed decimal degrees. Thread: any. Pure.
 #pragma once
 
+#include "core/tool/WriteCommand.h"
+
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
@@ -19,10 +20,10 @@ std::optional<Point> parse(const QString& text);
 /// Six decimals, comma and space.
 QString displayString(const Point& point);
 /// The four GPS assignments; four deletions for a blank text; none for a text that does not parse.
-QStringList writeArgs(const QString& text);
-/// What a write with these arguments has to be followed by. ExifTool takes a position that names no group for XMP too,
+QList<Assignment> writeArgs(const QString& text);
+/// What a write of these assignments has to be followed by. ExifTool takes a position that names no group for XMP too,
 /// where no reference stands beside the number: south and west need its sign. Changes only tags that exist. Empty when
-/// the arguments write no position or one whose numbers have no sign.
-QStringList signArgs(const QStringList& writeArgs);
+/// the assignments hold no position or one whose numbers have no sign.
+WriteCommand signCommand(const QList<Assignment>& assignments);
 
 }  // namespace Quorbel::Coordinates

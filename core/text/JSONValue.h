@@ -43,8 +43,6 @@ struct JSONValue {
     JSONValue(const JSONObject& object);
     JSONValue(const char*) = delete;  // would silently become a Boolean
 
-    bool isNull() const { return std::holds_alternative<Null>(payload); }
-
     /// The value as one text: integral numbers below 10^15 without fraction, other numbers in shortest form,
     /// "true"/"false", the elements of an array joined with ", ". Nothing for objects and null.
     std::optional<QString> stringValue() const;

@@ -8,6 +8,8 @@
 
 namespace Quorbel::Text {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isBlank(QChar c)
@@ -71,6 +73,12 @@ int naturalCompare(const QString& a, const QString& b)
 QCollatorSortKey naturalSortKey(const QString& text)
 {
     return naturalCollator().sortKey(text);
+}
+
+QString listed(const QStringList& names, qsizetype most)
+{
+    const QString text = names.mid(0, most).join(u", "_s);
+    return names.size() > most ? text + u" and %1 more"_s.arg(names.size() - most) : text;
 }
 
 QString foldingDiacritics(const QString& text)

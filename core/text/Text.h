@@ -1,9 +1,10 @@
-// Text services that the engine shares: trimming, natural order, folding, strict numbers.
+// Text services that the engine shares: trimming, natural order, folding, short lists, strict numbers.
 // Thread: any. Pure, but for the user's locale, which natural order reads once.
 #pragma once
 
 #include <QCollatorSortKey>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -19,6 +20,9 @@ QString trimmedWithNewlines(const QString& text);
 int naturalCompare(const QString& a, const QString& b);
 /// A key that sorts in the order of naturalCompare; worth computing once a string before a sort.
 QCollatorSortKey naturalSortKey(const QString& text);
+
+/// "a, b, c, d, e and 3 more": as much of a long list as one message names.
+QString listed(const QStringList& names, qsizetype most = 5);
 
 /// Without diacritics: "Zürich" becomes "Zurich". Letters that are no base plus mark (ø, ß) stay.
 QString foldingDiacritics(const QString& text);

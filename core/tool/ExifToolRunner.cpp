@@ -262,17 +262,17 @@ QByteArray ExifToolRunner::readDump(const QStringList& selection, const QList<QU
 }
 
 QString ExifToolRunner::write(
-    const QStringList& args, const QList<QUrl>& files, bool backup, const std::optional<QUrl>& configPath) const
+    const WriteCommand& command, const QList<QUrl>& files, bool backup, const std::optional<QUrl>& configPath) const
 {
-    if (args.isEmpty() || files.isEmpty())
+    if (command.isEmpty() || files.isEmpty())
         return {};
-    QStringList arguments;
+    QStringList list;
     if (configPath)  // the tool wants it before everything else
-        arguments << u"-config"_s << configPath->toLocalFile();
+        list << u"-config"_s << configPath->toLocalFile();
     if (!backup)
-        arguments << u"-overwrite_original"_s;
-    arguments << u"-m"_s << args << paths(files);
-    return run(arguments);
+        list << u"-overwrite_original"_s;
+    list << u"-m"_s << command.options << arguments(command.assignments) << paths(files);
+    return run(list);
 }
 
 QMap<QString, QByteArray> ExifToolRunner::readBinary(

@@ -5,6 +5,7 @@
 
 #include "core/text/Errors.h"
 #include "core/text/JSONValue.h"
+#include "core/tool/WriteCommand.h"
 
 #include <QList>
 #include <QMap>
@@ -50,10 +51,10 @@ struct ExifToolRunner {
     /// The tool's answer to a selection, as it printed it: also that about the other files when some could not be read.
     /// Throws ToolError when there is none at all, or LaunchError.
     QByteArray readDump(const QStringList& selection, const QList<QUrl>& files) const;
-    /// Runs assignments over the files and returns the tool's standard output; nothing is run, and "" returned,
-    /// when either list is empty. `backup` lets the tool keep its "_original" copies. Throws ToolError or
-    /// LaunchError.
-    QString write(const QStringList& args, const QList<QUrl>& files, bool backup,
+    /// Runs a command over the files and returns the tool's standard output; nothing is run, and "" returned, when the
+    /// command or the list is empty. `backup` lets the tool keep its "_original" copies. Throws ToolError, LaunchError,
+    /// or AssignmentConflict before anything is run.
+    QString write(const WriteCommand& command, const QList<QUrl>& files, bool backup,
         const std::optional<QUrl>& configPath = std::nullopt) const;
     /// Those of the tags that one file holds, by their bare names ("PreviewImage"): the bytes of binary ones, the
     /// stored number or text of others. Throws like read(); CancelledError also when they come to some 150 MiB.

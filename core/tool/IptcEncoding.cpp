@@ -23,23 +23,20 @@ bool fits(QChar c)
 
 }  // namespace
 
-bool fitsWindowsLatin1(const QString& text)
+bool needsUtf8(const QList<Assignment>& assignments)
 {
-    return std::all_of(text.cbegin(), text.cend(), fits);
+    return std::any_of(assignments.cbegin(), assignments.cend(), [](const Assignment& assignment) {
+        return assignment.tag.startsWith(u"IPTC:"_s)
+            && !std::all_of(assignment.value.cbegin(), assignment.value.cend(), fits);
+    });
 }
 
-bool needsUtf8(const QStringList& assignments)
-{
-    return std::any_of(assignments.cbegin(), assignments.cend(),
-        [](const QString& argument) { return argument.startsWith(u"-IPTC:"_s) && !fitsWindowsLatin1(argument); });
-}
-
-QStringList conversionArgs()
+WriteCommand conversion()
 {
     // Times are left out: the tool would give those without a zone the one of this computer.
-    return { u"-tagsfromfile"_s, u"@"_s, u"-iptc:all"_s, u"--iptc:TimeSent"_s, u"--iptc:ReleaseTime"_s,
-        u"--iptc:ExpirationTime"_s, u"--iptc:TimeCreated"_s, u"--iptc:DigitalCreationTime"_s,
-        u"-IPTC:CodedCharacterSet=UTF8"_s };
+    return { .options = { u"-tagsfromfile"_s, u"@"_s, u"-iptc:all"_s, u"--iptc:TimeSent"_s, u"--iptc:ReleaseTime"_s,
+                 u"--iptc:ExpirationTime"_s, u"--iptc:TimeCreated"_s, u"--iptc:DigitalCreationTime"_s },
+        .assignments = { { .tag = u"IPTC:CodedCharacterSet"_s, .value = u"UTF8"_s } } };
 }
 
 }  // namespace Quorbel::IptcEncoding

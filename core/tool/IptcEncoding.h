@@ -6,16 +6,14 @@
 // that are already there; a run of its own beforehand re-encodes them.
 #pragma once
 
-#include <QString>
-#include <QStringList>
+#include "core/tool/WriteCommand.h"
 
 namespace Quorbel::IptcEncoding {
 
-/// Whether every character exists in Windows Latin 1 (code page 1252).
-bool fitsWindowsLatin1(const QString& text);
-/// Whether some assignment argument ("-IPTC:City=東京") binds a text for IPTC that does not fit.
-bool needsUtf8(const QStringList& assignments);
-/// Arguments of the run that turns all IPTC of a file into declared UTF-8.
-QStringList conversionArgs();
+/// Whether some assignment ("東京" to "IPTC:City") binds a text for IPTC that does not fit Windows Latin 1 (code page
+/// 1252).
+bool needsUtf8(const QList<Assignment>& assignments);
+/// The run that turns all IPTC of a file into declared UTF-8.
+WriteCommand conversion();
 
 }  // namespace Quorbel::IptcEncoding

@@ -1,14 +1,15 @@
-// Turns field values into ExifTool assignment arguments.
+// Turns field values into assignments of ExifTool's tags.
 // Thread: any. Pure and total: starts nothing, touches no file, never fails.
 #pragma once
 
-#include "core/schema/FieldSchema.h"
+#include "core/tool/Assignment.h"
 
 #include <optional>
 
 namespace Quorbel {
 struct EditPlan;
-}
+struct FieldSpec;
+}  // namespace Quorbel
 
 namespace Quorbel::MetadataWriter {
 
@@ -22,24 +23,21 @@ QString customNamespacePrefix();
 /// The URI bound to it; see Product.h.
 QString customNamespaceURI();
 
-/// "-TAG=value" for each write tag of the field, in order; an empty value deletes the tags. Coordinates become
-/// the four GPS tags.
-QStringList scalarArgs(const FieldSpec& field, const QString& value);
-/// Items are trimmed, blank ones dropped. replace: "-TAG=" then "-TAG=item" each; append: "-TAG-=item",
-/// "-TAG+=item" each, and nothing at all without items.
-QStringList listArgs(const FieldSpec& field, const QStringList& values, ListMode mode);
+/// The value for each write tag of the field, in order; an empty one deletes the tags. Coordinates become the four GPS
+/// tags.
+QList<Assignment> scalarArgs(const FieldSpec& field, const QString& value);
+/// Items are trimmed, blank ones dropped. replace: the tag is emptied, then given each item; append: each item is
+/// taken out and added, and there is nothing at all without items.
+QList<Assignment> listArgs(const FieldSpec& field, const QStringList& values, ListMode mode);
 /// One assignment, or none when the name has no storable character.
-QStringList customArgs(const QString& name, const QString& value);
+QList<Assignment> customArgs(const QString& name, const QString& value);
 /// All assignments of one save: scalars, lists, custom values. Field ids that the schema does not know are skipped.
-QStringList assignments(const EditPlan& plan);
+QList<Assignment> assignments(const EditPlan& plan);
 /// The ExifTool user-definition file that declares the custom group with these names.
 QString customConfig(const QStringList& names);
-/// Letters, marks and digits of any script, without leading digits; nothing when that leaves nothing.
+/// What of a typed name the tag's name keeps: letters, marks and digits of any script, without leading digits; nothing
+/// when that leaves nothing.
 std::optional<QString> sanitizeCustomName(const QString& name);
-
-/// Why ExifTool could not store a custom field of this typed name, in one line for the user; nothing when it can,
-/// and nothing for a name of which sanitizeCustomName leaves nothing. One such name spoils its whole save.
-std::optional<QString> customNameProblem(const QString& name);
 
 /// A typed date as "yyyy:MM:dd HH:mm:ss" in wall-clock time; what does not parse is passed on trimmed.
 QString normalizeDate(const QString& text);

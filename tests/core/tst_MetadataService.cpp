@@ -168,6 +168,67 @@ private slots:
         QCOMPARE(MetadataService{ tool.runner() }.write(plan, {}, options), QString());
     }
 
+    /// One save with every kind of field, the texts' encoding and the position's sign in runs of their own.
+    void writesEveryKindOfField()
+    {
+        const EditPlan plan{ .scalars = { { "title", "a=b+=c" }, { "description", "" }, { "date", "2024-5-6" },
+                                 { "rating", "9" }, { "coords", "33.5 S, 70.25 E" }, { "category", u"東京"_s },
+                                 { "offsetOriginal", "+02:00" } },
+            .lists = { { "keywords", { "x", " y=z " } } },
+            .customs = { { "My mood", "-calm=" } } };
+        FakeTool tool;
+        MetadataService{ tool.runner() }.write(plan, { QUrl::fromLocalFile(u"/p/a.jpg"_s) }, {});
+        auto calls = tool.calls();
+        QCOMPARE(calls.size(), 3);
+        QCOMPARE(calls[0].last(2), (QStringList{ "-IPTC:CodedCharacterSet=UTF8", "/p/a.jpg" }));
+        QCOMPARE(calls[1].sliced(2),
+            (QStringList{ "-overwrite_original", "-m", u"-IPTC:Category=東京"_s, "-GPSLatitude=33.500000",
+                "-GPSLatitudeRef=S", "-GPSLongitude=70.250000", "-GPSLongitudeRef=E",
+                "-EXIF:DateTimeOriginal=2024:05:06 00:00:00", "-XMP-photoshop:DateCreated=2024:05:06 00:00:00",
+                "-XMP-dc:Description=", "-IPTC:Caption-Abstract=", "-EXIF:ImageDescription=",
+                "-EXIF:OffsetTimeOriginal=+02:00", "-XMP:Rating=5", "-XMP-dc:Title=a=b+=c", "-IPTC:ObjectName=a=b+=c",
+                "-IPTC:Keywords=", "-IPTC:Keywords=x", "-IPTC:Keywords=y=z", "-XMP-dc:Subject=", "-XMP-dc:Subject=x",
+                "-XMP-dc:Subject=y=z", "-XMP-Quorbel:Mymood=-calm=", "/p/a.jpg" }));
+        QCOMPARE(calls[2],
+            (QStringList{ "-overwrite_original", "-m", "-n", "-wm", "w", "-XMP:GPSLatitude=-33.500000",
+                "-XMP:GPSLongitude=70.250000", "/p/a.jpg" }));
+    }
+
+    /// What the journal reads of that, and what undo writes back, byte for byte.
+    void undoesByStoredValues()
+    {
+        const PhotoFolder folder;
+        const QUrl photo = folder.add(u"a.jpg"_s);
+        const QString path = photo.toLocalFile();
+        const QByteArray before = "Array(Array(\n  \"SourceFile\" => \"" + path.toUtf8()
+            + "\",\n  \"GPS:GPSLatitude\" => 33.5,\n  \"IPTC:Keywords\" => Array(\"a\\\\b\", \"\", \"1.10\"),\n"
+              "  \"XMP-dc:Title-de\" => \"Süd\\nJ\xFCrg\",\n  \"XMP-Quorbel:Mood\" => \"calm\",\n"
+              "  \"XMP-Quorbel:Other\" => \"not touched\"\n));\n";
+        const EditPlan plan{ .scalars = { { "coords", "-1, 2" }, { "title", "x" } },
+            .lists = { { "keywords", { "x" } } },
+            .customs = { { "mood", "wild" } },
+            .listMode = MetadataWriter::ListMode::append };
+        FakeTool tool;
+        tool.answerAlways({ .standardOutput = before });
+        const MetadataService service{ tool.runner() };
+        const auto outcome = service.undo(service.journalEntry(plan, { photo }));
+        QCOMPARE(outcome.restored, QList<QUrl>{ photo });
+        QVERIFY(outcome.inexact.isEmpty());
+        const QStringList dump{ "-php", "-G1", "-a", "-n", "-b", "-GPS:GPSLatitude", "-XMP:GPSLatitude",
+            "-GPS:GPSLatitudeRef", "-XMP:GPSLatitudeRef", "-GPS:GPSLongitude", "-XMP:GPSLongitude",
+            "-GPS:GPSLongitudeRef", "-XMP:GPSLongitudeRef", "-XMP-dc:Title", "-XMP-dc:Title-*", "-IPTC:ObjectName",
+            "-IPTC:Keywords", "-XMP-dc:Subject", "-XMP-Quorbel:all", path };
+        auto calls = tool.calls();
+        QCOMPARE(calls.size(), 3);
+        QCOMPARE(calls[0], dump);
+        QCOMPARE(calls[1].sliced(2),
+            (QStringList{ "-overwrite_original", "-m", "-ec", "-GPSLatitude=", "-GPSLatitudeRef=", "-GPSLongitude=",
+                "-GPSLongitudeRef=", "-XMP-dc:Title=", "-IPTC:ObjectName=", "-IPTC:Keywords=", "-XMP-dc:Subject=",
+                "-XMP-Quorbel:mood=", "-GPS:GPSLatitude#=33.5", "-IPTC:Keywords#=a\\\\b", "-IPTC:Keywords#^=",
+                "-IPTC:Keywords#=1.10", "-XMP-Quorbel:Mood#=calm", "-XMP-dc:Title-de#=S\\xc3\\xbcd\nJ\\xfcrg", path }));
+        QCOMPARE(calls[2], dump);
+    }
+
     void failedWriteLeavesNothing()
     {
         FakeTool tool;

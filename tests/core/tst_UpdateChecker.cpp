@@ -69,7 +69,7 @@ QString checked(const QUrl& url, qint64 currentBuild)
 
 }  // namespace
 
-class TestUpdateChecker : public QObject {
+class tst_UpdateChecker : public QObject {
     Q_OBJECT
 
 private slots:
@@ -159,5 +159,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestUpdateChecker)
+QTEST_GUILESS_MAIN(tst_UpdateChecker)
 #include "tst_UpdateChecker.moc"

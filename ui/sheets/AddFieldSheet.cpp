@@ -1,6 +1,7 @@
 #include "ui/sheets/AddFieldSheet.h"
 
 #include "app/model/AppModel.h"
+#include "core/schema/CustomFields.h"
 #include "core/text/Text.h"
 #include "core/tool/MetadataWriter.h"
 #include "ui/controls/Buttons.h"
@@ -128,7 +129,7 @@ void AddFieldSheet::judgeName()
 {
     const QString typed = m_name->text();
     const auto stored = MetadataWriter::sanitizeCustomName(typed);
-    const auto problem = MetadataWriter::customNameProblem(typed);
+    const auto problem = CustomFields::nameProblem(typed);
     QString verdict;
     if (problem)
         verdict = *problem;

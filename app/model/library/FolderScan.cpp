@@ -1,6 +1,6 @@
 #include "app/model/library/FolderScan.h"
 
-#include "core/schema/ImageRecord.h"
+#include "core/schema/ImageTypes.h"
 #include "core/text/Text.h"
 
 #include <QDir>

@@ -1,6 +1,7 @@
 #include "app/model/library/PhotoReader.h"
 
 #include "app/model/library/FolderScan.h"
+#include "core/text/Text.h"
 
 #include <QFile>
 #include <QSet>
@@ -148,17 +149,13 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
 
 QString leftOutText(const QList<LeftOut>& files)
 {
-    constexpr qsizetype mostNamed = 5;
     QStringList named;
-    for (const LeftOut& file : files.first(std::min(files.size(), mostNamed)))
+    for (const LeftOut& file : files)
         named.append(u"%1 (%2)"_s.arg(file.fileName, file.reason));
-    QString text = files.size() == 1
+    const QString text = files.size() == 1
         ? u"1 file could not be read and was left out: "_s
         : QString::number(files.size()) + u" files could not be read and were left out: "_s;
-    text += named.join(u", "_s);
-    if (files.size() > mostNamed)
-        text += u" and %1 more"_s.arg(files.size() - mostNamed);
-    return text;
+    return text + Text::listed(named);
 }
 
 }  // namespace Quorbel::PhotoReader

@@ -26,7 +26,8 @@ public:
     /// -1 when there is none. The first one where a URL occurs twice.
     int position(const QUrl& url) const { return m_positions.value(url, -1); }
     /// Positions of the photos whose lower-case file name contains `needle` (lower case; "" finds all), in this
-    /// order. The same order as sorted() gives.
+    /// order; what is equal in it stays in the list's. Photos without a creation date come last; those of one date, or
+    /// without, by name.
     QList<int> rows(const QString& needle, RecordSortOrder order);
 
 private:

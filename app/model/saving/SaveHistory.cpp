@@ -1,6 +1,7 @@
 #include "app/model/saving/SaveHistory.h"
 
 #include "core/save/SaveGuard.h"
+#include "core/text/Text.h"
 
 #include <QSet>
 
@@ -11,17 +12,6 @@ namespace Quorbel {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qsizetype mostNamed = 5;
-
-QString joined(const QStringList& names)
-{
-    const qsizetype count = names.size();
-    QString text = names.mid(0, mostNamed).join(u", "_s);
-    if (count > mostNamed)
-        text += u" and %1 more"_s.arg(count - mostNamed);
-    return text;
-}
 
 QString counted(qsizetype count)
 {
@@ -153,7 +143,7 @@ std::optional<QString> SaveHistory::text(const Undone& undone)
     for (const FileFailure& failure : undone.outcome.failed)
         names.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
     if (!names.isEmpty())
-        texts.append(u"Could not undo the save of %1: "_s.arg(counted(names.size())) + joined(names));
+        texts.append(u"Could not undo the save of %1: "_s.arg(counted(names.size())) + Text::listed(names));
     names.clear();
     for (const QUrl& file : undone.outcome.changedSince)
         names.append(file.fileName());
@@ -161,13 +151,13 @@ std::optional<QString> SaveHistory::text(const Undone& undone)
         texts.append(u"%1%2 changed since and %3 left alone: "_s.arg(
                          undone.outcome.restored.isEmpty() ? u"Not undone: "_s : u"Undone, but "_s,
                          counted(names.size()), names.size() == 1 ? u"was"_s : u"were"_s)
-            + joined(names));
+            + Text::listed(names));
     names.clear();
     for (const QUrl& file : undone.outcome.inexact)
         names.append(file.fileName());
     if (!names.isEmpty())
         texts.append(u"Undone, but not every value of %1 could be put back as it was: "_s.arg(counted(names.size()))
-            + joined(names));
+            + Text::listed(names));
     return texts.isEmpty() ? std::nullopt : std::optional(texts.join(u". "_s));
 }
 

@@ -3,6 +3,8 @@
 #include "app/model/saving/ReplacedFilesPoll.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/SaveVerification.h"
+#include "core/schema/FieldSchema.h"
+#include "core/text/Text.h"
 
 #include <QHash>
 
@@ -123,14 +125,10 @@ QString differencesText(const QStringList& keys)
 
 QString failuresText(const QList<FileFailure>& failures, qsizetype targetCount)
 {
-    constexpr qsizetype mostNamed = 5;
     QStringList named;
-    for (const FileFailure& failure : failures.first(std::min(failures.size(), mostNamed)))
+    for (const FileFailure& failure : failures)
         named.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
-    QString text = u"Could not save %1 of %2 photos: "_s.arg(failures.size()).arg(targetCount) + named.join(u", "_s);
-    if (failures.size() > mostNamed)
-        text += u" and %1 more"_s.arg(failures.size() - mostNamed);
-    return text;
+    return u"Could not save %1 of %2 photos: "_s.arg(failures.size()).arg(targetCount) + Text::listed(named);
 }
 
 }  // namespace Quorbel::SaveJob

@@ -65,9 +65,8 @@ private slots:
         folder.add(u"0.txt"_s);
         QVERIFY(QDir(folder.path()).mkpath(u"0.jpg/inner.jpg"_s));  // a folder is no photo
         const ExifToolRunner tool = realTool();
-        tool.write({ "-XMP-photoshop:Headline=old", "-XMP-dc:Title=T", "-IPTC:Keywords=a \"b\" \\", "-IPTC:Keywords=c",
-                       "-EXIF:Model=X1" },
-            { target }, false);
+        exiftool({ "-q", "-overwrite_original", "-XMP-photoshop:Headline=old", "-XMP-dc:Title=T",
+            "-IPTC:Keywords=a \"b\" \\", "-IPTC:Keywords=c", "-EXIF:Model=X1", target.toLocalFile() });
         const auto untouched = readFile(folder.path(u"a.jpg"_s));
         const auto outcome = runProgram(folder.path(), tool.exiftoolURL.toLocalFile());
         QString error = outcome.error;

@@ -1,7 +1,10 @@
 // What a save keeps: every script in every standard, links, attributes, read-only files, and the way back.
 #include "core/MetadataService.h"
+#include "core/save/SafeWriter.h"
 #include "core/save/SaveGuard.h"
+#include "core/save/SaveJournal.h"
 #include "core/save/SaveVerification.h"
+#include "core/schema/FieldSchema.h"
 #include "core/tool/IptcEncoding.h"
 #include "core/tool/TemporaryFiles.h"
 #include "tests/support/Support.h"
@@ -97,10 +100,10 @@ private slots:
     void knowsWindowsLatin1()
     {
         QFETCH(QString, text);
-        QTEST(IptcEncoding::fitsWindowsLatin1(text), "fits");
-        QCOMPARE(IptcEncoding::needsUtf8({ "-XMP-dc:Title=" + text, "-IPTC:City=" + text }),
-            !IptcEncoding::fitsWindowsLatin1(text));
-        QVERIFY(!IptcEncoding::needsUtf8({ "-XMP-dc:Title=" + text }));
+        const Assignment title{ .tag = u"XMP-dc:Title"_s, .value = text };
+        const Assignment city{ .tag = u"IPTC:City"_s, .value = text };
+        QTEST(!IptcEncoding::needsUtf8({ title, city }), "fits");
+        QVERIFY(!IptcEncoding::needsUtf8({ title }));
     }
 
     void reencodesInARunOfItsOwn()
@@ -119,6 +122,20 @@ private slots:
         failing.answerAlways({ .standardError = "no", .exitCode = 1 });
         QVERIFY(!problem([&] { MetadataService{ failing.runner() }.write(plan, files, {}); }).isEmpty());
         QCOMPARE(failing.calls().size(), 1);  // the write itself was not begun
+    }
+
+    /// Not even the run that would re-encode their texts is begun.
+    void refusesWhatTheToolWouldMix()
+    {
+        FakeTool tool;
+        const TemporaryFilesProbe temporary;
+        const WriteCommand command{ .assignments = { { .tag = u"IPTC:Keywords"_s, .value = u"東京"_s },
+                                        { u"IPTC:Keywords"_s, Assignment::Operation::add, u"b"_s } } };
+        const QList<QUrl> files{ QUrl::fromLocalFile(u"/p/a.jpg"_s) };
+        const QString said = problem([&] { SafeWriter::write(tool.runner(), command, files, true, { u"Mood"_s }); });
+        QVERIFY2(said.contains(u"IPTC:Keywords"_s), qPrintable(said));
+        QVERIFY(tool.calls().isEmpty());
+        QCOMPARE(temporary.names(), QStringList());
     }
 
     void keepsEveryScript_data()

@@ -1,4 +1,5 @@
 #include "core/schema/FieldSchema.h"
+#include "tests/support/Support.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -28,7 +29,7 @@ QString groupZero(QString tag)
 
 }  // namespace
 
-class TestFieldSchema : public QObject {
+class tst_FieldSchema : public QObject {
     Q_OBJECT
 
 private slots:
@@ -92,7 +93,38 @@ private slots:
         }
         QCOMPARE(FieldSchema::timeZoneOffsets().size(), 38);
     }
+
+    /// The page shows every field, in the order of its section, with its name and its tags.
+    void isWhatThePageSays()
+    {
+        static const QRegularExpression row(
+            u"^\\| (\\*\\*)?(.+?)(\\*\\*)? \\| ([^|]+) \\| (.+) \\| (.+) \\|$"_s, QRegularExpression::MultilineOption);
+        static const QMap<FieldKind, QString> kinds{ { FieldKind::text, u"one line"_s },
+            { FieldKind::multiline, u"several lines"_s }, { FieldKind::keywords, u"list"_s },
+            { FieldKind::date, u"date and time"_s }, { FieldKind::coordinates, u"position"_s },
+            { FieldKind::rating, u"stars, 0 to 5"_s }, { FieldKind::offset, u"time-zone offset"_s } };
+        const auto tags = [](const QStringList& names) {
+            return names.isEmpty() ? u"the four GPS tags (see below)"_s : u'`' + names.join(u"`<br>`"_s) + u'`';
+        };
+        QStringList expected;
+        for (const FieldSection section : allCases<FieldSection>())
+            for (const FieldSpec& field : FieldSchema::all())
+                if (field.section == section)
+                    expected.append(QStringList{ field.label, field.alwaysShown ? u"always"_s : QString(),
+                        kinds[field.kind], tags(field.writeTags), tags(field.readTags) }
+                                        .join(u'|'));
+        QStringList found;
+        const QString page = QString::fromUtf8(Test::readFile(QString::fromUtf8(QUORBEL_FIELDS_PAGE)));
+        for (auto rows = row.globalMatch(page); rows.hasNext();) {
+            const QRegularExpressionMatch match = rows.next();
+            if (match.captured(2) != u"Field"_s)
+                found.append(QStringList{ match.captured(2), match.captured(1).isEmpty() ? QString() : u"always"_s,
+                    match.captured(4), match.captured(5), match.captured(6) }
+                                 .join(u'|'));
+        }
+        QCOMPARE(found, expected);
+    }
 };
 
-QTEST_GUILESS_MAIN(TestFieldSchema)
+QTEST_GUILESS_MAIN(tst_FieldSchema)
 #include "tst_FieldSchema.moc"

@@ -7,7 +7,7 @@
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
 
-class TestCoordinates : public QObject {
+class tst_Coordinates : public QObject {
     Q_OBJECT
 
 private slots:
@@ -43,7 +43,7 @@ private slots:
     void assignments()
     {
         QFETCH(QString, text);
-        QTEST(Coordinates::writeArgs(text).join(u' '), "expected");
+        QTEST(arguments(Coordinates::writeArgs(text)).join(u' '), "expected");
     }
 
     void locationFill_data()
@@ -79,5 +79,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCoordinates)
+QTEST_GUILESS_MAIN(tst_Coordinates)
 #include "tst_Coordinates.moc"

@@ -6,7 +6,7 @@
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
 
-class TestFileNaming : public QObject {
+class tst_FileNaming : public QObject {
     Q_OBJECT
 
 private slots:
@@ -90,5 +90,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFileNaming)
+QTEST_GUILESS_MAIN(tst_FileNaming)
 #include "tst_FileNaming.moc"

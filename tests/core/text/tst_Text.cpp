@@ -12,7 +12,7 @@
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
 
-class TestText : public QObject {
+class tst_Text : public QObject {
     Q_OBJECT
 
 private slots:
@@ -98,5 +98,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestText)
+QTEST_GUILESS_MAIN(tst_Text)
 #include "tst_Text.moc"

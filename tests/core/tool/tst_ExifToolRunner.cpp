@@ -107,19 +107,22 @@ private slots:
         const QList<QUrl> photos{ odd, files(1).first() };
         runner.read({ u"XMP:Title"_s, u"FileSize#"_s }, photos);
         runner.readCustomNamespace(photos);
-        runner.write({ u"-A=$x y"_s, u"-B="_s }, photos, false);
-        runner.write({ u"-A=1"_s }, { odd }, true, config);
-        runner.write({ u"-A=1"_s }, { odd }, false, config);
+        const WriteCommand one{ .assignments = { { .tag = u"A"_s, .value = u"1"_s } } };
+        runner.write(
+            { .options = { u"-ec"_s }, .assignments = { { .tag = u"A"_s, .value = u"$x y"_s }, { .tag = u"B"_s } } },
+            photos, false);
+        runner.write(one, { odd }, true, config);
+        runner.write(one, { odd }, false, config);
         runner.readBinary({ u"PreviewImage"_s, u"EXIF:Orientation"_s }, odd);
         // None of these starts the tool.
         runner.write({}, photos, false);
-        runner.write({ u"-A=1"_s }, {}, false);
+        runner.write(one, {}, false);
         QVERIFY(runner.read({ u"XMP:Title"_s }, {}).isEmpty());
         const QString zero = u"/photos/0.jpg"_s;
         const QList<QStringList> expected{
             { "-json", "-G0", "-struct", "-c", "%.6f", "-XMP:Title", "-FileSize#", oddPath, zero },
             { "-json", "-G1", "-struct", "-XMP-Quorbel:all", oddPath, zero },
-            { "-overwrite_original", "-m", "-A=$x y", "-B=", oddPath, zero },
+            { "-overwrite_original", "-m", "-ec", "-A=$x y", "-B=", oddPath, zero },
             { "-config", "/dev/null", "-m", "-A=1", oddPath },
             { "-config", "/dev/null", "-overwrite_original", "-m", "-A=1", oddPath },
             { "-json", "-b", "-n", "-PreviewImage", "-EXIF:Orientation", oddPath },
@@ -152,20 +155,22 @@ private slots:
         tool.answerAlways(answer);
         const ToolError::Payload expected = ToolError::ExecFailed{ code, text };
         QVERIFY(thrownBy([&] { tool.runner().read({ u"T"_s }, files(1)); }) == expected);
-        QVERIFY(thrownBy([&] { tool.runner().write({ u"-T="_s }, files(1), true); }) == expected);
+        QVERIFY(thrownBy([&] { tool.runner().write({ .assignments = { { .tag = u"T"_s } } }, files(1), true); })
+            == expected);
     }
 
     void cannotStart()
     {
         const PhotoFolder folder;
         auto runner = FakeTool().runner();  // its script is gone with it
-        QVERIFY(thrownBy([&] { runner.version(); }) == ToolError::Payload(ToolError::ToolNotFound{}));
+        const auto read = [&runner] { runner.read({ u"T"_s }, files(1)); };
+        QVERIFY(thrownBy(read) == ToolError::Payload(ToolError::ToolNotFound{}));
         const FakeTool tool;
         runner = tool.runner();
         runner.perlURL = folder.url(u"perl"_s);
-        QVERIFY(thrownBy([&] { runner.version(); }) == ToolError::Payload(ToolError::PerlNotFound{ runner.perlURL }));
+        QVERIFY(thrownBy(read) == ToolError::Payload(ToolError::PerlNotFound{ runner.perlURL }));
         folder.add(u"perl"_s, "not a program");
-        QVERIFY_THROWS_EXCEPTION(LaunchError, runner.version());
+        QVERIFY_THROWS_EXCEPTION(LaunchError, read());
     }
 
     void undecodable_data()
@@ -202,7 +207,8 @@ private slots:
         const QList<JSONObject> empty(3);
         QCOMPARE(tool.runner().read({ u"T"_s }, files(3)), empty);
         QCOMPARE(tool.runner().read({ u"T"_s }, files(3)), empty);
-        QCOMPARE(tool.runner().write({ u"-T="_s }, files(1), true), QString());
+        QCOMPARE(tool.runner().version(), u"12.57"_s);
+        QCOMPARE(tool.runner().write({ .assignments = { { .tag = u"T"_s } } }, files(1), true), QString());
     }
 
     void outputAsPrinted()
@@ -212,7 +218,8 @@ private slots:
         tool.answer(2, { .standardOutput = "    1 image files updated\n" });
         tool.answer(3, { .standardOutput = R"([{"SourceFile": "a", "T": "base64:/9gACg==", "U": 6}])" });
         QCOMPARE(tool.runner().version(), u"12.57"_s);
-        QCOMPARE(tool.runner().write({ u"-T="_s }, files(1), true), u"    1 image files updated\n"_s);
+        QCOMPARE(tool.runner().write({ .assignments = { { .tag = u"T"_s } } }, files(1), true),
+            u"    1 image files updated\n"_s);
         const auto found = tool.runner().readBinary({ u"T"_s, u"U"_s }, files(1).first());
         QCOMPARE(found.value(u"T"_s), QByteArray("\xFF\xD8\0\n", 4));
         QCOMPARE(found.value(u"U"_s), QByteArray("6"));

@@ -1,4 +1,5 @@
 #include "core/save/EditPlan.h"
+#include "core/schema/FieldSchema.h"
 #include "core/tool/MetadataWriter.h"
 #include "tests/support/Rows.h"
 
@@ -10,7 +11,7 @@ using namespace Qt::StringLiterals;
 using MetadataWriter::ListMode;
 Q_DECLARE_METATYPE(Quorbel::MetadataWriter::ListMode)
 
-class TestMetadataWriter : public QObject {
+class tst_MetadataWriter : public QObject {
     Q_OBJECT
 
 private slots:
@@ -39,7 +40,7 @@ private slots:
     {
         QFETCH(QString, id);
         QFETCH(QString, value);
-        QTEST(MetadataWriter::scalarArgs(*FieldSchema::spec(id), value).join(u'|'), "args");
+        QTEST(arguments(MetadataWriter::scalarArgs(*FieldSchema::spec(id), value)).join(u'|'), "args");
     }
 
     // A position has four tags of its own, whatever the field says.
@@ -47,7 +48,7 @@ private slots:
     {
         FieldSpec field = *FieldSchema::spec(u"coords"_s);
         field.writeTags = { u"XMP:Location"_s };
-        QCOMPARE(MetadataWriter::scalarArgs(field, u"x"_s), QStringList());
+        QVERIFY(MetadataWriter::scalarArgs(field, u"x"_s).isEmpty());
     }
 
     void lists_data()
@@ -71,24 +72,14 @@ private slots:
         QFETCH(ListMode, mode);
         FieldSpec field = *FieldSchema::spec(u"keywords"_s);
         field.writeTags = { u"T"_s, u"U"_s };
-        QTEST(MetadataWriter::listArgs(field, items.split(u'|'), mode).join(u' '), "args");
+        QTEST(arguments(MetadataWriter::listArgs(field, items.split(u'|'), mode)).join(u' '), "args");
     }
 
-    void customNames_data()
+    void customs()
     {
-        Test::addRows(
-            { { u"Project code"_s, u"Projectcode"_s }, { u"3D-Score 2"_s, u"DScore2"_s }, { u"2024"_s, QString() },
-                { u"!_:-!"_s, QString() }, { u"Café"_s, u"Café"_s }, { u"Cafe\u0301"_s, u"Cafe\u0301"_s },
-                { u"٣Ⅳ½x"_s, u"x"_s }, { u"\U0001F4F7\U00010400\U0001D7D9"_s, u"\U00010400\U0001D7D9"_s } });
-    }
-    void customNames()
-    {
-        QFETCH(QString, text);
-        QFETCH(QString, expected);
-        QCOMPARE(MetadataWriter::sanitizeCustomName(text).has_value(), !expected.isEmpty());
-        QCOMPARE(MetadataWriter::sanitizeCustomName(text).value_or(QString()), expected);
-        QCOMPARE(MetadataWriter::customArgs(text, u" v "_s).join(u'|'),
-            expected.isEmpty() ? QString() : u"-XMP-Quorbel:"_s + expected + u"= v "_s);
+        QCOMPARE(
+            arguments(MetadataWriter::customArgs(u"3D score"_s, u" v "_s)), QStringList(u"-XMP-Quorbel:Dscore= v "_s));
+        QVERIFY(MetadataWriter::customArgs(u"2024"_s, u"v"_s).isEmpty());
     }
 
     void configuration_data()
@@ -169,26 +160,7 @@ private slots:
         plan.lists.insert(u"keywords"_s, {});
         QVERIFY(!plan.isEmpty());
     }
-
-    void saysWhichNamesCannotBeStored_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("stored");
-        QTest::addRow("plain") << "Project code" << true;
-        QTest::addRow("two characters") << "a1" << true;
-        QTest::addRow("nothing left") << "!!!" << true;
-        QTest::addRow("one character") << "9 X" << false;
-        QTest::addRow("accent") << u"Café"_s << false;
-        QTest::addRow("reserved") << "GROUPS" << false;
-        QTest::addRow("reserved after cleaning") << "NOTES!" << false;
-        QTest::addRow("reserved in another case") << "Groups" << true;
-    }
-    void saysWhichNamesCannotBeStored()
-    {
-        QFETCH(QString, name);
-        QTEST(!MetadataWriter::customNameProblem(name), "stored");
-    }
 };
 
-QTEST_GUILESS_MAIN(TestMetadataWriter)
+QTEST_GUILESS_MAIN(tst_MetadataWriter)
 #include "tst_MetadataWriter.moc"

@@ -141,7 +141,7 @@ std::pair<Outcome, int> decodeApart(const QString& path)
 
 }  // namespace
 
-class ImageDecoderTest final : public QObject {
+class tst_ImageDecoder : public QObject {
     Q_OBJECT
 
 private slots:
@@ -579,5 +579,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-QTEST_GUILESS_MAIN(ImageDecoderTest)
+QTEST_GUILESS_MAIN(tst_ImageDecoder)
 #include "tst_ImageDecoder.moc"

@@ -39,7 +39,7 @@ QString shown(const PlaceSuggestion& suggestion)
 
 }  // namespace
 
-class TestOfflinePlaceProvider : public QObject {
+class tst_OfflinePlaceProvider : public QObject {
     Q_OBJECT
 
 private slots:
@@ -280,5 +280,5 @@ private:
     std::unique_ptr<PlaceProvider> m_provider;
 };
 
-QTEST_GUILESS_MAIN(TestOfflinePlaceProvider)
+QTEST_GUILESS_MAIN(tst_OfflinePlaceProvider)
 #include "tst_OfflinePlaceProvider.moc"

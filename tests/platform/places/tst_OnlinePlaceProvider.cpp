@@ -97,7 +97,7 @@ private:
 
 }  // namespace
 
-class TestOnlinePlaceProvider : public QObject {
+class tst_OnlinePlaceProvider : public QObject {
     Q_OBJECT
 
 private slots:
@@ -395,7 +395,7 @@ int main(int argc, char** argv)
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"Quorbel"_s);
     QCoreApplication::setApplicationVersion(u"1.2"_s);
-    TestOnlinePlaceProvider test;
+    tst_OnlinePlaceProvider test;
     return QTest::qExec(&test, argc, argv);
 }
 #include "tst_OnlinePlaceProvider.moc"

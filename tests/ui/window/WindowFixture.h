@@ -1,11 +1,11 @@
 // The main window's content over a real model and real files, on a screen of 1920 by 1080 pixels. For tests only.
 #pragma once
 
+#include "platform/desktop/SystemScheme.h"
 #include "tests/app/model/ModelFixture.h"
 #include "tests/ui/UiSupport.h"
 #include "ui/sheets/Sheet.h"
 #include "ui/window/ContentView.h"
-#include "platform/desktop/SystemScheme.h"
 #include "ui/window/WindowBar.h"
 
 #include <QAbstractButton>

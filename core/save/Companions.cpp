@@ -1,0 +1,94 @@
+#include "core/save/Companions.h"
+
+#include "core/save/SaveGuard.h"
+#include "core/tool/ExifToolRunner.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace Quorbel::Companions {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView sidecarSuffix(".xmp");
+
+/// The photo's path as far as its sidecar has the same.
+QString withoutExtension(const QString& photo)
+{
+    const auto nameAt = photo.lastIndexOf(u'/') + 1;
+    const auto dot = photo.lastIndexOf(u'.');
+    // A leading dot makes a hidden file, not an extension.
+    return dot > nameAt ? photo.left(dot) : photo;
+}
+
+/// As the name of a file to copy from to its sidecar: there the tool puts folder and name of the sidecar for "%d" and
+/// "%f", so a photo's own name with such text in it has to be put the same way.
+QString sourceArgument(const QString& photo)
+{
+    return photo.contains(u'%') ? u"%d%f"_s + photo.sliced(withoutExtension(photo).size()) : photo;
+}
+
+/// Moves a file unless something has the new name already, in one step where the file system can do that.
+/// Zero, or the system's error number.
+int moveWithoutReplacing(const QString& from, const QString& to)
+{
+    const QByteArray source = QFile::encodeName(from);
+    const QByteArray destination = QFile::encodeName(to);
+    if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, destination.constData(), RENAME_NOREPLACE) == 0)
+        return 0;
+    if (errno != EINVAL && errno != ENOSYS)
+        return errno;
+    // A second name and then the loss of the first is as safe, if the file system knows hard links.
+    if (link(source.constData(), destination.constData()) == 0)
+        return unlink(source.constData()) == 0 ? 0 : errno;
+    if (errno != EPERM && errno != EOPNOTSUPP && errno != ENOSYS)
+        return errno;
+    if (faccessat(AT_FDCWD, destination.constData(), F_OK, AT_SYMLINK_NOFOLLOW) == 0)
+        return EEXIST;
+    return std::rename(source.constData(), destination.constData()) == 0 ? 0 : errno;
+}
+
+}  // namespace
+
+QString sidecarPath(const QString& photo)
+{
+    return withoutExtension(photo) + sidecarSuffix;
+}
+
+QString backupPath(const QString& photo)
+{
+    return photo + u"_original"_s;
+}
+
+void movePhoto(const QUrl& source, const QUrl& destination)
+{
+    const QString from = source.toLocalFile();
+    const QString to = destination.toLocalFile();
+    if (const int error = moveWithoutReplacing(from, to))
+        throw FileError(u"Cannot move"_s, source, qt_error_string(error));
+    moveWithoutReplacing(sidecarPath(from), sidecarPath(to));
+    moveWithoutReplacing(backupPath(from), backupPath(to));
+}
+
+void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& photos)
+{
+    for (const auto& photo : photos) {
+        const QList<QUrl> sidecar{ QUrl::fromLocalFile(sidecarPath(photo.toLocalFile())) };
+        try {
+            SaveGuard::clearLeftovers(sidecar);
+            runner.write({ .options = { u"-tagsfromfile"_s, sourceArgument(photo.toLocalFile()), u"-xmp:all"_s } },
+                sidecar, false);
+        } catch (const Error&) {
+            // The photo itself is saved; a sidecar is a courtesy beside it.
+        }
+    }
+}
+
+}  // namespace Quorbel::Companions

@@ -1,0 +1,28 @@
+// The files that go with a photo: its XMP sidecar, and the backup that ExifTool keeps of it.
+// Thread: any. The names are pure; the rest touches files and blocks.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+namespace Quorbel {
+struct ExifToolRunner;
+}
+
+namespace Quorbel::Companions {
+
+/// The sidecar's path: the photo's, with the extension "xmp".
+QString sidecarPath(const QString& photo);
+/// The path of the copy that a save with backups leaves: the photo's, with "_original" behind it.
+QString backupPath(const QString& photo);
+
+/// Moves the photo within its file system, and with it its sidecar and its backup as far as they exist. Never replaces
+/// a file: throws FileError when the destination exists or the photo's own move fails; a companion whose new name is
+/// taken stays where it is.
+void movePhoto(const QUrl& source, const QUrl& destination);
+
+/// Brings the sidecars of these photos up to date, a run each; what fails is left as it is.
+void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& photos);
+
+}  // namespace Quorbel::Companions

@@ -1,0 +1,34 @@
+// What one save replaced, and in which files. Thread: any. Plain values.
+#pragma once
+
+#include "core/save/FileStamp.h"
+#include "core/save/JournalSidecar.h"
+#include "core/tool/TagDump.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace Quorbel {
+
+struct JournalFile {
+    QString path{};
+    FileStamp before{};
+    FileStamp after{};
+    /// What they held before the save. A written tag that is not here was absent.
+    FileTags tags{};
+    JournalSidecar sidecar{};
+    bool operator==(const JournalFile&) const = default;
+};
+
+/// One save.
+struct JournalEntry {
+    QDateTime savedAt{};
+    QStringList writtenTags{};  ///< the tags that the save assigned, as its assignments name them
+    QStringList customNames{};  ///< names of the custom fields among them
+    QList<JournalFile> files{};
+    bool operator==(const JournalEntry&) const = default;
+};
+
+}  // namespace Quorbel

@@ -1,0 +1,121 @@
+#include "core/save/JournalTags.h"
+
+#include "core/save/EditPlan.h"
+#include "core/tool/MetadataWriter.h"
+
+#include <QUtf8StringView>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Quorbel::JournalTags {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString customGroupPrefix()
+{
+    return MetadataWriter::customNamespacePrefix() + u':';
+}
+
+/// Tags whose values may come in several languages.
+const QStringList& languageTags()
+{
+    static const QStringList tags{ u"XMP-dc:Title"_s, u"XMP-dc:Description"_s, u"XMP-dc:Rights"_s,
+        u"XMP-iptcExt:Event"_s, u"XMP-xmpRights:UsageTerms"_s };
+    return tags;
+}
+
+/// Where ExifTool may find a position that was assigned without a group.
+bool isPosition(const QString& tag)
+{
+    return tag.startsWith(u"GPS"_s) && !tag.contains(u':');
+}
+
+/// As the tool's option "-ec" reads it: whatever an argument cannot hold (NUL, bytes that are no text) as "\xHH".
+QString escaped(const QByteArray& value)
+{
+    const bool isText = QUtf8StringView(value).isValidUtf8();
+    QByteArray argument;
+    for (const char c : value) {
+        const auto code = uchar(c);
+        const bool isPlain = c == '\t' || c == '\n' || (code >= ' ' && (code < 0x7F || (isText && code > 0x7F)));
+        if (c == '\\')
+            argument += "\\\\";
+        else if (isPlain)
+            argument += c;
+        else
+            argument += "\\x" + QByteArray(1, c).toHex();
+    }
+    return QString::fromUtf8(argument);
+}
+
+/// The custom group is read as a whole, with fields that the save did not touch. Names in it come back with a capital
+/// first letter.
+bool isConcerned(const JournalEntry& entry, const QString& tag)
+{
+    return !tag.startsWith(customGroupPrefix()) || entry.writtenTags.contains(tag, Qt::CaseInsensitive);
+}
+
+bool isSame(const QByteArray& a, const QByteArray& b)
+{
+    constexpr double rounding = 1e-8;  // degrees: a millimetre
+    bool areNumbers[2] = {};
+    const double difference = a.toDouble(&areNumbers[0]) - b.toDouble(&areNumbers[1]);
+    return a == b || (areNumbers[0] && areNumbers[1] && std::abs(difference) < rounding);
+}
+
+}  // namespace
+
+QStringList writtenTags(const EditPlan& plan)
+{
+    QStringList tags;
+    for (const auto& assignment : MetadataWriter::assignments(plan))
+        if (!tags.contains(assignment.tag))
+            tags.append(assignment.tag);
+    return tags;
+}
+
+QStringList readArgs(const QStringList& writtenTags)
+{
+    QStringList args = TagDump::options();
+    for (const auto& tag : writtenTags) {
+        if (tag.startsWith(customGroupPrefix()))
+            continue;  // all of the group are read at once, below
+        if (isPosition(tag))
+            args << u"-GPS:"_s + tag << u"-XMP:"_s + tag;
+        else
+            args << u'-' + tag;
+        if (languageTags().contains(tag))
+            args << u'-' + tag + u"-*"_s;
+    }
+    if (std::any_of(writtenTags.cbegin(), writtenTags.cend(),
+            [](const QString& tag) { return tag.startsWith(customGroupPrefix()); }))
+        args << u'-' + customGroupPrefix() + u"all"_s;
+    return args;
+}
+
+WriteCommand restoreCommand(const JournalEntry& entry, const JournalFile& file)
+{
+    WriteCommand command{ .options = { u"-ec"_s } };
+    for (const auto& tag : entry.writtenTags)
+        command.assignments.append({ .tag = tag });
+    for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it)
+        if (isConcerned(entry, it.key()))
+            for (const auto& value : *it)
+                command.assignments.append({ it.key(), Assignment::Operation::restore, escaped(value) });
+    return command;
+}
+
+bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTags& tags)
+{
+    const QStringList keys = file.tags.keys() + tags.keys();
+    return std::all_of(keys.cbegin(), keys.cend(), [&](const QString& key) {
+        const QList<QByteArray> before = file.tags.value(key);
+        const QList<QByteArray> now = tags.value(key);
+        return !isConcerned(entry, key) || std::equal(before.cbegin(), before.cend(), now.cbegin(), now.cend(), isSame);
+    });
+}
+
+}  // namespace Quorbel::JournalTags

@@ -1,0 +1,23 @@
+// Which tags a save touches, how they are read before it and put back after it. Thread: any. Pure.
+#pragma once
+
+#include "core/save/JournalEntry.h"
+#include "core/tool/WriteCommand.h"
+
+namespace Quorbel {
+struct EditPlan;
+}
+
+namespace Quorbel::JournalTags {
+
+/// The tags that the plan assigns ("XMP-dc:Title", "GPSLatitude"), without duplicates, in the order of the plan.
+QStringList writtenTags(const EditPlan& plan);
+/// Arguments that read those tags for TagDump, language variants and custom fields included.
+QStringList readArgs(const QStringList& writtenTags);
+/// What puts the old values back into one file.
+WriteCommand restoreCommand(const JournalEntry& entry, const JournalFile& file);
+/// Whether these tags, read by readArgs, are those that the file had; numbers up to the rounding of a restored
+/// position.
+bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTags& tags);
+
+}  // namespace Quorbel::JournalTags

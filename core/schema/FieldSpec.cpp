@@ -1,0 +1,31 @@
+#include "core/schema/FieldSpec.h"
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+const QList<std::pair<FieldKind, QString>>& RawValues<FieldKind>::table()
+{
+    static const QList<std::pair<FieldKind, QString>> rows{
+        { FieldKind::text, u"text"_s },
+        { FieldKind::multiline, u"multiline"_s },
+        { FieldKind::keywords, u"keywords"_s },
+        { FieldKind::date, u"date"_s },
+        { FieldKind::coordinates, u"coordinates"_s },
+        { FieldKind::rating, u"rating"_s },
+        { FieldKind::offset, u"offset"_s },
+    };
+    return rows;
+}
+
+const QList<std::pair<FieldSection, QString>>& RawValues<FieldSection>::table()
+{
+    static const QList<std::pair<FieldSection, QString>> rows{
+        { FieldSection::common, u"COMMON"_s },
+        { FieldSection::location, u"LOCATION"_s },
+        { FieldSection::additional, u"DETAILS"_s },
+    };
+    return rows;
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,15 @@
+// Which files count as photos. Thread: any. Pure: goes by the name alone.
+#pragma once
+
+#include <QSet>
+#include <QString>
+#include <QUrl>
+
+namespace Quorbel::ImageTypes {
+
+/// The 50 lower-case extensions of files that are treated as photos.
+const QSet<QString>& extensions();
+/// Whether the extension of the URL's last path component, in any case, is one of them.
+bool isImage(const QUrl& url);
+
+}  // namespace Quorbel::ImageTypes

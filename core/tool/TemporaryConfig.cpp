@@ -1,0 +1,39 @@
+#include "core/tool/TemporaryConfig.h"
+
+#include "core/text/Errors.h"
+#include "core/tool/MetadataWriter.h"
+#include "core/tool/TemporaryFiles.h"
+
+#include <QDir>
+#include <QSaveFile>
+
+#include <cerrno>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+TemporaryConfig::TemporaryConfig(const QStringList& customNames)
+{
+    if (customNames.isEmpty())
+        return;
+    const QByteArray text = MetadataWriter::customConfig(customNames).toUtf8();
+    const QString directory = QDir::tempPath();
+    if (directory.isEmpty())  // Qt's answer for a TMPDIR that does not exist
+        throw FileError(
+            u"Cannot write to"_s, QUrl::fromLocalFile(qEnvironmentVariable("TMPDIR")), qt_error_string(ENOENT));
+    const QUrl url = QUrl::fromLocalFile(directory + u'/' + TemporaryFiles::newConfigName());
+    QSaveFile file(url.toLocalFile());
+    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
+        || file.write(text) != text.size() || !file.commit())
+        throw FileError(u"Cannot write"_s, url, file.errorString());
+    m_url = url;
+}
+
+TemporaryConfig::~TemporaryConfig()
+{
+    if (m_url)
+        QFile::remove(m_url->toLocalFile());
+}
+
+}  // namespace Quorbel

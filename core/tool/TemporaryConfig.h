@@ -1,0 +1,25 @@
+// The definitions of custom fields, as a file that lives as long as the object. Thread: any. Writes one file.
+#pragma once
+
+#include <QStringList>
+#include <QUrl>
+
+#include <optional>
+
+namespace Quorbel {
+
+/// Readable by the user alone: the names may be private.
+class TemporaryConfig final {
+public:
+    /// No file without names. Throws FileError when it cannot be written.
+    explicit TemporaryConfig(const QStringList& customNames);
+    ~TemporaryConfig();
+    Q_DISABLE_COPY_MOVE(TemporaryConfig)
+
+    const std::optional<QUrl>& url() const { return m_url; }
+
+private:
+    std::optional<QUrl> m_url;
+};
+
+}  // namespace Quorbel
