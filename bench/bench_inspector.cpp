@@ -16,9 +16,9 @@
 #include <ctime>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 constexpr int fields = 30;

@@ -17,9 +17,8 @@
 #include <sys/resource.h>
 
 using namespace Quorbel;
-using namespace Qt::StringLiterals;
-
 using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -10,9 +10,8 @@
 #include <cmath>
 
 using namespace Quorbel;
-using namespace Qt::StringLiterals;
-
 using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
 
 namespace {
 

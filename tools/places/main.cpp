@@ -7,9 +7,8 @@
 
 #include <cstdio>
 
-using namespace Qt::StringLiterals;
-
 using namespace Quorbel::Places;
+using namespace Qt::StringLiterals;
 
 namespace {
 

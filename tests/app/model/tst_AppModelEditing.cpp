@@ -5,9 +5,9 @@
 #include <QTest>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 QByteArray tagged(const QStringList& arguments)

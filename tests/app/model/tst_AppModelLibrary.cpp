@@ -15,9 +15,9 @@
 #include <unistd.h>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 /// Six photos, "a.jpg" to "f.jpg", open; the first is selected.

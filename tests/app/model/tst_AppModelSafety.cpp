@@ -6,9 +6,9 @@
 #include <QThreadPool>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 /// Photos "a", "b" and "c" before a tool that claims to have written and reads nothing back.

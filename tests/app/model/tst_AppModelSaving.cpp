@@ -10,9 +10,9 @@
 #include <unistd.h>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 /// Photos "a", "b" and "c" behind a gated tool, open; "a" is selected.

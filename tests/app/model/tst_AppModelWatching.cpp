@@ -5,9 +5,9 @@
 #include <QTest>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 /// Photos "a" to "e", each titled with its name, open behind a gated tool; "a" is selected.

@@ -11,9 +11,9 @@
 #include <QTest>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 const QString place = u"Behind the church"_s;

@@ -7,9 +7,8 @@
 #include <QTest>
 
 using namespace Quorbel;
-using namespace Qt::StringLiterals;
-
 using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
 
 namespace {
 

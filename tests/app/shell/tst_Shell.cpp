@@ -20,9 +20,8 @@
 #include <QSignalSpy>
 
 using namespace Quorbel;
-using namespace Qt::StringLiterals;
-
 using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
 
 class tst_Shell : public QObject {
     Q_OBJECT

@@ -7,7 +7,7 @@
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
 
-class TestExternalRefresh : public QObject {
+class tst_ExternalRefresh : public QObject {
     Q_OBJECT
 
 private slots:
@@ -88,5 +88,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestExternalRefresh)
+QTEST_GUILESS_MAIN(tst_ExternalRefresh)
 #include "tst_ExternalRefresh.moc"

@@ -18,9 +18,8 @@
 #include <utime.h>
 
 using namespace Quorbel;
-using namespace Qt::StringLiterals;
-
 using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
 
 namespace {
 

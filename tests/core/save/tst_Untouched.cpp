@@ -12,9 +12,9 @@
 #include <QTest>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 /// Photos in the normal run; all with QUORBEL_SLOW_TESTS=1.

@@ -15,7 +15,7 @@ namespace {
 QStringList listedMimeTypes()
 {
     static const QRegularExpression line(u"^MimeType=(.*)$"_s, QRegularExpression::MultilineOption);
-    const QString entry = QString::fromUtf8(readFile(QStringLiteral(QUORBEL_DESKTOP_ENTRY)));
+    const QString entry = QString::fromUtf8(readFile(QString::fromUtf8(QUORBEL_DESKTOP_ENTRY)));
     return line.match(entry).captured(1).split(u';', Qt::SkipEmptyParts);
 }
 

@@ -14,9 +14,9 @@
 #include <cmath>
 
 using namespace Quorbel;
+using namespace Quorbel::MapBuild;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::MapBuild;
 using MapFormat::Kind;
 
 namespace {

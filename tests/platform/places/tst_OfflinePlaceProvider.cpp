@@ -6,9 +6,9 @@
 #include <QTest>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 PlaceResult<QList<PlaceSuggestion>> suggest(PlaceProvider& provider, const PlaceQuery& query)

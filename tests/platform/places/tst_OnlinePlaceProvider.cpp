@@ -10,7 +10,6 @@
 
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
-
 using namespace std::chrono_literals;
 
 namespace {

@@ -12,9 +12,9 @@
 #include <QPainter>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 void grab(InspectorFixture& f, const QString& folder, const QString& name)

@@ -18,9 +18,9 @@
 #include <QScrollArea>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 const QStringList alike{ u"-XMP-dc:Creator=Mara"_s };

@@ -14,9 +14,9 @@
 #include <QLabel>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 /// A model with photos in its folder, and a window for its sheets.

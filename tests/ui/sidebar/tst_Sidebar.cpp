@@ -15,9 +15,8 @@
 #include <unistd.h>
 
 using namespace Quorbel;
-using namespace Qt::StringLiterals;
-
 using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -8,9 +8,9 @@
 #include <utime.h>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 class tst_FolderWatcher : public QObject {
     Q_OBJECT
 

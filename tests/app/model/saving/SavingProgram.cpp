@@ -9,9 +9,9 @@
 #include <cstdio>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 constexpr int longestWait = 60'000;  // ms

@@ -24,9 +24,9 @@
 #include <utime.h>
 
 using namespace Quorbel;
+using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-using namespace Quorbel::Test;
 namespace {
 
 constexpr uid_t nobody = 65534;  // the user without any rights of its own
