@@ -88,9 +88,9 @@ public:
     const QMap<QString, QString>& draftValues() const { return editing().draft().shown.values; }
     const QMap<QString, QStringList>& draftLists() const { return editing().draft().shown.lists; }
     const QList<CustomValue>& draftCustoms() const { return editing().draft().shown.customs; }
-    QSet<QString> editedSingle() const { return editing().draft().edits.keys(); }
-    QSet<QString> batchInclude() const { return editing().batch().include(); }
-    QMap<QString, QString> batchValues() const { return editing().batch().values(); }
+    const QSet<QString>& editedSingle() const { return editing().editedSingle(); }
+    const QSet<QString>& batchInclude() const { return editing().batchInclude(); }
+    const QMap<QString, QString>& batchValues() const { return editing().batchValues(); }
     const QMap<QString, QStringList>& batchLists() const { return editing().batch().edits.added; }
     const QList<CustomValue>& batchCustoms() const { return editing().batch().edits.customs; }
     QMap<QString, QStringList> nonEmptyBatchLists() const;

@@ -35,7 +35,9 @@ Edits Editing::unsaved() const
 void Editing::changed()
 {
     const Announcer::Together together(m_announcer);
-    m_announcer.assign(m_told, Told{ m_draft.shown, m_draft.edits.keys(), m_batch, m_added }, Change::edits);
+    m_announcer.assign(m_told,
+        Told{ m_draft.shown, m_draft.edits.keys(), m_batch, m_batch.include(), m_batch.values(), m_added },
+        Change::edits);
     m_announcer.assign(m_unsavedCount, isBatch() ? m_batch.edits.count() : m_draft.edits.count(), Change::unsavedCount);
 }
 

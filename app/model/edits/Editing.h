@@ -19,6 +19,10 @@ public:
 
     const Draft& draft() const { return m_draft; }
     const Batch& batch() const { return m_batch; }
+    /// Keys of the draft's edits, ticked ids and all texts of the batch; made once a change, for many to ask.
+    const QSet<QString>& editedSingle() const { return m_told.edited; }
+    const QSet<QString>& batchInclude() const { return m_told.batchInclude; }
+    const QMap<QString, QString>& batchValues() const { return m_told.batchValues; }
     /// Ids of fields that were added to the screen since the selection.
     const QSet<QString>& sessionAddedKnownIDs() const { return m_added; }
     /// The edits of the selected photos that wait to be saved, with these photos.
@@ -79,6 +83,8 @@ private:
         ExternalRefresh::Drafts shown{};
         QSet<QString> edited{};
         Batch batch{};
+        QSet<QString> batchInclude{};
+        QMap<QString, QString> batchValues{};
         QSet<QString> added{};
         bool operator==(const Told&) const = default;
     };
