@@ -12,12 +12,6 @@ namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int mostRecents = 10;
-
-}  // namespace
-
 AppModel::AppModel(AppModelServices services, QObject* parent)
     : QObject(parent)
     , m_services(std::move(services))
@@ -161,7 +155,7 @@ void AppModel::load(const QList<QUrl>& urls)
     QStringList opened;
     for (const QUrl& url : listing.existing)
         opened.append(url.toLocalFile());
-    m_preferences.recentPaths.set(RecentItems::updated(m_preferences.recentPaths(), opened, mostRecents));
+    m_preferences.recentPaths.set(RecentItems::updated(m_preferences.recentPaths(), opened, RecentItems::limit));
     m_library.load(listing);
 }
 

@@ -14,7 +14,8 @@ namespace Quorbel::Companions {
 
 /// The sidecar's path: the photo's, with the extension "xmp".
 QString sidecarPath(const QString& photo);
-/// The path of the copy that a save with backups leaves: the photo's, with "_original" behind it.
+/// The path of the copy that a save with backups leaves: the photo's, with "_original" behind it. ExifTool gives that
+/// name; another one here would only lose sight of its copies.
 QString backupPath(const QString& photo);
 
 /// Moves the photo within its file system, and with it its sidecar and its backup as far as they exist. Never replaces

@@ -1,4 +1,4 @@
-// What lies in a folder, and which of the things given to the program are photos.
+// What lies in a folder.
 // Thread: any. Touches the file system; starts nothing.
 #pragma once
 
@@ -12,18 +12,6 @@
 
 namespace Quorbel {
 
-/// The photos among the folders and files that the user gave.
-struct PhotoListing {
-    QList<QUrl> files{};  ///< each once, in natural order of their names
-    QString label{};  ///< what is open, for the window's title
-    std::optional<QUrl> folder{};  ///< set when exactly one folder was given: the one to watch
-    QList<QUrl> existing{};  ///< the given URLs that exist
-
-    /// Folders contribute their immediate entries, hidden ones too; what does not exist is skipped, and a folder
-    /// that cannot be listed counts as empty.
-    static PhotoListing of(const QList<QUrl>& urls);
-};
-
 /// The entries of one folder that bear the extension of a photo.
 struct FolderScan {
     bool isListed = false;  ///< false: the folder is gone or may not be read
@@ -32,6 +20,9 @@ struct FolderScan {
     QHash<QUrl, std::optional<QDateTime>> photos{};
 
     static FolderScan of(const QUrl& folder);
+    /// The photos alone; nothing when the folder cannot be listed to its end: half a listing would pass for files
+    /// removed.
+    static std::optional<QList<QUrl>> entries(const QString& folder);
 };
 
 /// The file's modification date as it stands on disk, to the millisecond.

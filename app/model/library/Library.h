@@ -4,8 +4,8 @@
 
 #include "app/model/RunningTasks.h"
 #include "app/model/library/FolderRefresh.h"
-#include "app/model/library/FolderScan.h"
 #include "app/model/library/PhotoList.h"
+#include "app/model/library/PhotoListing.h"
 #include "app/model/library/PhotoReader.h"
 
 namespace Quorbel {

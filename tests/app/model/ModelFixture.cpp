@@ -66,6 +66,14 @@ QMap<QString, int> Announcements::counts() const
     return counts;
 }
 
+QStringList jpgs(const QString& letters)
+{
+    QStringList names;
+    for (const QChar letter : letters)
+        names.append(letter + u".jpg"_s);
+    return names;
+}
+
 ModelFixture::ModelFixture()
     : ModelFixture(MetadataService{ realTool() })
 {
@@ -105,6 +113,12 @@ bool ModelFixture::waitUntilIdle()
 void ModelFixture::click(const QString& name, bool shift, bool command)
 {
     model->tap(url(name), shift, command);
+}
+
+void ModelFixture::select(const QString& letters)
+{
+    for (const QString& name : jpgs(letters))
+        click(name, false, name != jpgs(letters).constFirst());
 }
 
 QStringList ModelFixture::visible() const

@@ -37,6 +37,9 @@ private:
     std::vector<std::pair<QString, std::unique_ptr<QSignalSpy>>> m_spies;
 };
 
+/// "ab": a.jpg and b.jpg.
+QStringList jpgs(const QString& letters);
+
 class ModelFixture {
 public:
     /// Around the real tool.
@@ -51,6 +54,8 @@ public:
     bool load(const QList<QUrl>& urls);
     bool waitUntilIdle();
     void click(const QString& name, bool shift = false, bool command = false);
+    /// Selects the photos of these letters ("ab": a.jpg and b.jpg), the first one first.
+    void select(const QString& letters);
 
     QUrl url(const QString& name) const { return folder.url(name); }
     QUrl folderURL() const { return QUrl::fromLocalFile(folder.path()); }

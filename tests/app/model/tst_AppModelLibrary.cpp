@@ -29,14 +29,6 @@ struct SixPhotos : ModelFixture {
     }
 };
 
-QStringList jpgs(const QString& letters)
-{
-    QStringList names;
-    for (const QChar letter : letters)
-        names.append(letter + u".jpg"_s);
-    return names;
-}
-
 }  // namespace
 
 class tst_AppModelLibrary : public QObject {

@@ -1,4 +1,5 @@
-// What a save proves to the user: values that read back differently, photos of a batch that failed, and the way back.
+// What a save proves to the user: values that read back differently, photos of a batch that failed, edits that go back
+// to them, and files that stall a read.
 #include "tests/app/model/ModelFixture.h"
 
 #include <QRegularExpression>
@@ -34,36 +35,6 @@ struct MixedPhotos : ModelFixture {
         model->preferences().confirmMassEdit.set(false);
         model->preferences().saveDontAsk.set(true);
         model->preferences().backupOriginals.set(false);
-    }
-};
-
-/// Photos "a" and "b", each titled with its name, before a model that keeps a journal.
-struct JournaledPhotos : ModelFixture {
-    explicit JournaledPhotos(const QStringList& names = { u"a.jpg"_s, u"b.jpg"_s })
-    {
-        addTitled(names);
-        services.journalPath = settings.filePath(u"state/undo.json"_s);
-        relaunch();
-        model->preferences().saveDontAsk.set(true);
-        model->preferences().confirmMassEdit.set(false);
-        model->preferences().backupOriginals.set(false);
-    }
-    bool save()
-    {
-        model->requestSave();
-        return waitUntilIdle();
-    }
-    bool undo()
-    {
-        model->undoSave();
-        return waitUntilIdle();
-    }
-    QMap<QString, QString> titles() const
-    {
-        QMap<QString, QString> titles;
-        for (const ImageRecord& record : model->records())
-            titles.insert(record.fileName, record.values.value(u"title"_s));
-        return titles;
     }
 };
 
@@ -139,14 +110,6 @@ private slots:
     void refusedBatchGoesBack();
     void partialBatchUnderADraft_data();
     void partialBatchUnderADraft();
-    void undoSurvivesARestart();
-    void undoFollowsRenames();
-    void undoTakesSidecarsBack();
-    void undoLeavesOthersWorkAlone();
-    void undoThroughALink();
-    void undoThatFailsInPart();
-    void undoIsTriedAgainAfterTheToolWasCut();
-    void unwritableJournalDoesNotStopASave();
     void stalledFileIsSkipped();
     void stalledReReadOfASaveIsSkipped();
     void stalledRefreshIsSkipped();
@@ -359,193 +322,6 @@ void tst_AppModelSafety::partialBatchUnderADraft()
     QCOMPARE(f->editedSingle(), QSet<QString>(edited.cbegin(), edited.cend()));
     // Saved or not: what one adds now joins the keyword and does not take its place.
     QCOMPARE(f->draftLists().value(u"keywords"_s), QStringList{ u"batch"_s });
-}
-
-void tst_AppModelSafety::undoSurvivesARestart()
-{
-    JournaledPhotos f;
-    QVERIFY(f.open());
-    QVERIFY(!f->canUndoSave());
-    f->selectAllPhotos();
-    f->setBatch(u"title"_s, u"X"_s);
-    f->setBatch(u"creator"_s, u"東京"_s);
-    QVERIFY(f.save());
-    QCOMPARE(f->errorMessage(), std::nullopt);
-    QVERIFY(f->canUndoSave());
-    f.click(u"a.jpg"_s);
-    f->setSingle(u"title"_s, u"Y"_s);
-    QVERIFY(f.save());
-    f.relaunch();
-    QTRY_VERIFY(f->canUndoSave());
-    QVERIFY(f.open());
-    f->setSingle(u"headline"_s, u"typed"_s);
-    QVERIFY(f.undo());
-    QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
-    // Edits that are not saved yet stay.
-    QCOMPARE(f->draftValues().value(u"headline"_s), u"typed"_s);
-    QCOMPARE(f->editedSingle(), QSet<QString>{ u"headline"_s });
-    QVERIFY(f->canUndoSave());
-    QVERIFY(f.undo());
-    QCOMPARE(f->errorMessage(), std::nullopt);
-    QVERIFY(!f->canUndoSave());
-    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s }) {
-        QCOMPARE(f.onDisk(name, u"XMP:Title"_s), QJsonValue(name));
-        QVERIFY(f.onDisk(name, u"XMP:Creator"_s).isUndefined());
-        QCOMPARE(f->record(f.url(name))->values.value(u"title"_s), name);
-    }
-}
-
-void tst_AppModelSafety::undoFollowsRenames()
-{
-    JournaledPhotos f;
-    QVERIFY(f.open());
-    f->setSingle(u"title"_s, u"Renamed"_s);
-    QVERIFY(f.save());
-    f->preferences().renamePattern.set(u"%Title%"_s);
-    f->performRename();
-    QCOMPARE(f.primary(), u"Renamed.jpg"_s);
-    QVERIFY(f.undo());
-    QCOMPARE(f->errorMessage(), std::nullopt);
-    QCOMPARE(f.onDisk(u"Renamed.jpg"_s, u"XMP:Title"_s), QJsonValue(u"a.jpg"_s));
-}
-
-/// Photo "a" has a sidecar of another program's, "b" has none.
-void tst_AppModelSafety::undoTakesSidecarsBack()
-{
-    JournaledPhotos f;
-    const QString sidecar = f.folder.path(u"a.xmp"_s);
-    exiftool({ u"-XMP-dc:Title=foreign"_s, u"-XMP-crs:Exposure2012=+1.5"_s, sidecar });
-    const QByteArray foreign = readFile(sidecar);
-    f->preferences().writeSidecar.set(true);
-    QVERIFY(f.open());
-    f->selectAllPhotos();
-    for (const QString& headline : { u"X"_s, u"Y"_s }) {
-        f->setBatch(u"headline"_s, headline);
-        QVERIFY(f.save());
-    }
-    QVERIFY(readFile(sidecar) != foreign && QFile::exists(f.folder.path(u"b.xmp"_s)));
-    f.click(u"a.jpg"_s);
-    f->preferences().renamePattern.set(u"c"_s);
-    f->performRename();
-    QVERIFY(f.undo());
-    QCOMPARE(f.onDisk(u"c.xmp"_s, u"XMP:Headline"_s), QJsonValue(u"X"_s));
-    QCOMPARE(f.onDisk(u"b.xmp"_s, u"XMP:Headline"_s), QJsonValue(u"X"_s));
-    QVERIFY(f.undo());
-    QCOMPARE(f->errorMessage(), std::nullopt);
-    QCOMPARE(readFile(f.folder.path(u"c.xmp"_s)), foreign);
-    QVERIFY(!QFile::exists(f.folder.path(u"b.xmp"_s)));
-}
-
-void tst_AppModelSafety::undoLeavesOthersWorkAlone()
-{
-    JournaledPhotos f;
-    QVERIFY(f.open());
-    f->selectAllPhotos();
-    for (const QString& title : { u"X"_s, u"Y"_s }) {
-        f->setBatch(u"title"_s, title);
-        QVERIFY(f.save());
-    }
-    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=another program's"_s, f.folder.path(u"a.jpg"_s) });
-    QVERIFY(f.undo());
-    QCOMPARE(f->errorMessage(), u"Undone, but 1 photo changed since and was left alone: a.jpg"_s);
-    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"another program's"_s));
-    // Nor does the save before that one become a way to it.
-    QVERIFY(f.undo());
-    QCOMPARE(f->errorMessage(), u"Undone, but 1 photo changed since and was left alone: a.jpg"_s);
-    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"another program's"_s));
-    QCOMPARE(f.onDisk(u"b.jpg"_s, u"XMP:Title"_s), QJsonValue(u"b.jpg"_s));
-    QVERIFY(!f->canUndoSave());
-}
-
-void tst_AppModelSafety::undoThroughALink()
-{
-    JournaledPhotos f({ u"a.jpg"_s });
-    const PhotoFolder elsewhere;
-    const QString link = f.folder.path(u"a.jpg"_s);
-    const QUrl real = elsewhere.add(u"real.jpg"_s, readFile(link));
-    QVERIFY(QFile::remove(link) && QFile::link(real.toLocalFile(), link));
-    QVERIFY(f.open());
-    f->setSingle(u"title"_s, u"X"_s);
-    QVERIFY(f.save());
-    QCOMPARE(exiftoolValues(real).value(u"XMP:Title"_s), QJsonValue(u"X"_s));
-    QVERIFY(f.undo());
-    QCOMPARE(f->errorMessage(), std::nullopt);
-    QVERIFY(QFileInfo(link).isSymLink());
-    QCOMPARE(exiftoolValues(real).value(u"XMP:Title"_s), QJsonValue(u"a.jpg"_s));
-    QCOMPARE(f->draftValues().value(u"title"_s), u"a.jpg"_s);
-}
-
-/// Every photo had another title, so each is a run of its own; two of them cannot be written to.
-void tst_AppModelSafety::undoThatFailsInPart()
-{
-    const QStringList names{ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s };
-    JournaledPhotos f(names);
-    QVERIFY(f.open());
-    f->selectAllPhotos();
-    for (const QString& title : { u"X"_s, u"Y"_s }) {
-        f->setBatch(u"title"_s, title);
-        QVERIFY(f.save());
-    }
-    QVERIFY(QFile::setPermissions(f.folder.path(u"b.jpg"_s), QFile::ReadOwner));
-    const QString leftover = f.folder.add(u"c.jpg_exiftool_tmp"_s, "half").toLocalFile();
-    QVERIFY(f.undo());
-    const QString banner = f->errorMessage().value_or(QString());
-    QVERIFY2(banner.startsWith(u"Could not undo the save of 2 photos: b.jpg (read-only), c.jpg ("_s)
-            && banner.contains(u"c.jpg_exiftool_tmp lies beside the photo"_s),
-        qPrintable(banner));
-    QCOMPARE(f.titles().values(), QStringList({ u"X"_s, u"Y"_s, u"Y"_s }));
-    QVERIFY(f->canUndoSave());
-
-    f->setErrorMessage({});
-    QVERIFY(QFile::setPermissions(f.folder.path(u"b.jpg"_s), QFile::ReadOwner | QFile::WriteOwner));
-    QVERIFY(QFile::remove(leftover));
-    QVERIFY(f.undo());
-    QCOMPARE(f->errorMessage(), std::nullopt);
-    QCOMPARE(f.titles().values(), QStringList({ u"X"_s, u"X"_s, u"X"_s }));
-    QVERIFY(f.undo());
-    QCOMPARE(f->errorMessage(), std::nullopt);
-    QCOMPARE(f.titles().values(), names);
-    QVERIFY(!f->canUndoSave());
-}
-
-/// A tool that is killed says nothing about what it has done: what it restored must not pass for another's work.
-void tst_AppModelSafety::undoIsTriedAgainAfterTheToolWasCut()
-{
-    JournaledPhotos f({ u"a.jpg"_s, u"b.jpg"_s });
-    QVERIFY(f.open());
-    f->selectAllPhotos();
-    f->setBatch(u"headline"_s, u"X"_s);
-    QVERIFY(f.save());
-    const QTemporaryDir tools;
-    const QString script = tools.filePath(u"exiftool"_s);
-    writeFile(script,
-        "system $^X, '" + realTool().exiftoolURL.toLocalFile().toUtf8()
-            + "', @ARGV; kill 'KILL', $$ if grep { $_ eq '-m' } @ARGV;\n");
-    f.services.service = MetadataService{ { QUrl::fromLocalFile(script), realTool().perlURL } };
-    f.relaunch();
-    QTRY_VERIFY(f->canUndoSave());
-    QVERIFY(f.open());
-    QVERIFY(f.undo());
-    QVERIFY(f->errorMessage().value_or(QString()).startsWith(u"Could not undo the save of 2 photos: a.jpg ("_s));
-    QVERIFY(!f->record(f.url(u"a.jpg"_s))->values.contains(u"headline"_s));
-    f.services.service = MetadataService{ realTool() };
-    f.relaunch();
-    QTRY_VERIFY(f->canUndoSave());
-    QVERIFY(f.undo());
-    QCOMPARE(f->errorMessage(), std::nullopt);
-    QVERIFY(!f->canUndoSave());
-}
-
-void tst_AppModelSafety::unwritableJournalDoesNotStopASave()
-{
-    JournaledPhotos f;
-    writeFile(f.settings.filePath(u"state"_s), "a file where a folder should be");
-    QVERIFY(f.open());
-    f->setSingle(u"title"_s, u"X"_s);
-    QVERIFY(f.save());
-    QCOMPARE(f->errorMessage(), std::nullopt);
-    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
-    QVERIFY(!f->canUndoSave());
 }
 
 void tst_AppModelSafety::stalledFileIsSkipped()

@@ -34,22 +34,8 @@ struct OpenFolder : GatedTool, ModelFixture {
         for (const QChar letter : letters)
             QFile::remove(folder.path(letter + u".jpg"_s));
     }
-    void select(const QString& letters)
-    {
-        click(letters.first(1) + u".jpg"_s);
-        for (const QChar letter : letters.mid(1))
-            click(letter + u".jpg"_s, false, true);
-    }
     bool isRead = false;
 };
-
-QStringList jpgs(const QString& letters)
-{
-    QStringList names;
-    for (const QChar letter : letters)
-        names.append(letter + u".jpg"_s);
-    return names;
-}
 
 }  // namespace
 

@@ -1,0 +1,72 @@
+#include "app/model/library/PhotoListing.h"
+
+#include "app/model/library/FolderScan.h"
+#include "core/schema/ImageTypes.h"
+#include "core/text/Text.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+#include <vector>
+
+namespace Quorbel {
+
+namespace {
+
+QList<QUrl> inNaturalOrder(const QList<QUrl>& urls)
+{
+    struct Keyed {
+        QCollatorSortKey key;
+        QUrl url;
+    };
+    std::vector<Keyed> keyed;
+    keyed.reserve(size_t(urls.size()));
+    for (const QUrl& url : urls)
+        keyed.push_back({ Text::naturalSortKey(url.fileName()), url });
+    std::stable_sort(
+        keyed.begin(), keyed.end(), [](const Keyed& a, const Keyed& b) { return a.key.compare(b.key) < 0; });
+    QList<QUrl> sorted;
+    sorted.reserve(urls.size());
+    QSet<QUrl> seen;
+    seen.reserve(urls.size());
+    for (const Keyed& entry : keyed) {
+        // A photo given beside its own folder is still one photo.
+        if (seen.contains(entry.url))
+            continue;
+        seen.insert(entry.url);
+        sorted.append(entry.url);
+    }
+    return sorted;
+}
+
+}  // namespace
+
+PhotoListing PhotoListing::of(const QList<QUrl>& urls)
+{
+    PhotoListing listing;
+    QList<QUrl> files;
+    for (const QUrl& url : urls) {
+        const QString path = QDir::cleanPath(url.toLocalFile());
+        const QFileInfo info(path);
+        if (!url.isLocalFile() || !info.exists())
+            continue;
+        listing.existing.append(url);
+        if (info.isDir()) {
+            listing.label = QDir(path).dirName();
+            listing.folder = url;
+            files.append(FolderScan::entries(path).value_or(QList<QUrl>()));
+        } else if (ImageTypes::isImage(url)) {
+            files.append(QUrl::fromLocalFile(path));
+        }
+    }
+    listing.files = inNaturalOrder(files);
+    if (listing.label.isEmpty() && !listing.files.isEmpty())
+        listing.label = QFileInfo(listing.files.constFirst().toLocalFile()).dir().dirName();
+    if (urls.size() != 1)
+        listing.folder.reset();
+    return listing;
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,25 @@
+// Which of the things given to the program are photos.
+// Thread: any. Touches the file system; starts nothing.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+#include <optional>
+
+namespace Quorbel {
+
+/// The photos among the folders and files that the user gave.
+struct PhotoListing {
+    QList<QUrl> files{};  ///< each once, in natural order of their names
+    QString label{};  ///< what is open, for the window's title
+    std::optional<QUrl> folder{};  ///< set when exactly one folder was given: the one to watch
+    QList<QUrl> existing{};  ///< the given URLs that exist
+
+    /// Folders contribute their immediate entries, hidden ones too; what does not exist is skipped, and a folder
+    /// that cannot be listed counts as empty.
+    static PhotoListing of(const QList<QUrl>& urls);
+};
+
+}  // namespace Quorbel

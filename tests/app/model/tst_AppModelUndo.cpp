@@ -1,0 +1,249 @@
+// Taking saves back: across restarts and renames, around others' work, through failures.
+#include "tests/app/model/ModelFixture.h"
+
+#include <QRegularExpression>
+#include <QTest>
+#include <QThreadPool>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Photos "a" and "b", each titled with its name, before a model that keeps a journal.
+struct JournaledPhotos : ModelFixture {
+    explicit JournaledPhotos(const QStringList& names = { u"a.jpg"_s, u"b.jpg"_s })
+    {
+        addTitled(names);
+        services.journalPath = settings.filePath(u"state/undo.json"_s);
+        relaunch();
+        model->preferences().saveDontAsk.set(true);
+        model->preferences().confirmMassEdit.set(false);
+        model->preferences().backupOriginals.set(false);
+    }
+    bool save()
+    {
+        model->requestSave();
+        return waitUntilIdle();
+    }
+    bool undo()
+    {
+        model->undoSave();
+        return waitUntilIdle();
+    }
+    QMap<QString, QString> titles() const
+    {
+        QMap<QString, QString> titles;
+        for (const ImageRecord& record : model->records())
+            titles.insert(record.fileName, record.values.value(u"title"_s));
+        return titles;
+    }
+};
+
+}  // namespace
+
+class tst_AppModelUndo : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
+    void undoSurvivesARestart();
+    void undoFollowsRenames();
+    void undoTakesSidecarsBack();
+    void undoLeavesOthersWorkAlone();
+    void undoThroughALink();
+    void undoThatFailsInPart();
+    void undoIsTriedAgainAfterTheToolWasCut();
+    void unwritableJournalDoesNotStopASave();
+};
+
+void tst_AppModelUndo::undoSurvivesARestart()
+{
+    JournaledPhotos f;
+    QVERIFY(f.open());
+    QVERIFY(!f->canUndoSave());
+    f->selectAllPhotos();
+    f->setBatch(u"title"_s, u"X"_s);
+    f->setBatch(u"creator"_s, u"東京"_s);
+    QVERIFY(f.save());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QVERIFY(f->canUndoSave());
+    f.click(u"a.jpg"_s);
+    f->setSingle(u"title"_s, u"Y"_s);
+    QVERIFY(f.save());
+    f.relaunch();
+    QTRY_VERIFY(f->canUndoSave());
+    QVERIFY(f.open());
+    f->setSingle(u"headline"_s, u"typed"_s);
+    QVERIFY(f.undo());
+    QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
+    // Edits that are not saved yet stay.
+    QCOMPARE(f->draftValues().value(u"headline"_s), u"typed"_s);
+    QCOMPARE(f->editedSingle(), QSet<QString>{ u"headline"_s });
+    QVERIFY(f->canUndoSave());
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QVERIFY(!f->canUndoSave());
+    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s }) {
+        QCOMPARE(f.onDisk(name, u"XMP:Title"_s), QJsonValue(name));
+        QVERIFY(f.onDisk(name, u"XMP:Creator"_s).isUndefined());
+        QCOMPARE(f->record(f.url(name))->values.value(u"title"_s), name);
+    }
+}
+
+void tst_AppModelUndo::undoFollowsRenames()
+{
+    JournaledPhotos f;
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"Renamed"_s);
+    QVERIFY(f.save());
+    f->preferences().renamePattern.set(u"%Title%"_s);
+    f->performRename();
+    QCOMPARE(f.primary(), u"Renamed.jpg"_s);
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.onDisk(u"Renamed.jpg"_s, u"XMP:Title"_s), QJsonValue(u"a.jpg"_s));
+}
+
+/// Photo "a" has a sidecar of another program's, "b" has none.
+void tst_AppModelUndo::undoTakesSidecarsBack()
+{
+    JournaledPhotos f;
+    const QString sidecar = f.folder.path(u"a.xmp"_s);
+    exiftool({ u"-XMP-dc:Title=foreign"_s, u"-XMP-crs:Exposure2012=+1.5"_s, sidecar });
+    const QByteArray foreign = readFile(sidecar);
+    f->preferences().writeSidecar.set(true);
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    for (const QString& headline : { u"X"_s, u"Y"_s }) {
+        f->setBatch(u"headline"_s, headline);
+        QVERIFY(f.save());
+    }
+    QVERIFY(readFile(sidecar) != foreign && QFile::exists(f.folder.path(u"b.xmp"_s)));
+    f.click(u"a.jpg"_s);
+    f->preferences().renamePattern.set(u"c"_s);
+    f->performRename();
+    QVERIFY(f.undo());
+    QCOMPARE(f.onDisk(u"c.xmp"_s, u"XMP:Headline"_s), QJsonValue(u"X"_s));
+    QCOMPARE(f.onDisk(u"b.xmp"_s, u"XMP:Headline"_s), QJsonValue(u"X"_s));
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(readFile(f.folder.path(u"c.xmp"_s)), foreign);
+    QVERIFY(!QFile::exists(f.folder.path(u"b.xmp"_s)));
+}
+
+void tst_AppModelUndo::undoLeavesOthersWorkAlone()
+{
+    JournaledPhotos f;
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    for (const QString& title : { u"X"_s, u"Y"_s }) {
+        f->setBatch(u"title"_s, title);
+        QVERIFY(f.save());
+    }
+    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=another program's"_s, f.folder.path(u"a.jpg"_s) });
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), u"Undone, but 1 photo changed since and was left alone: a.jpg"_s);
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"another program's"_s));
+    // Nor does the save before that one become a way to it.
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), u"Undone, but 1 photo changed since and was left alone: a.jpg"_s);
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"another program's"_s));
+    QCOMPARE(f.onDisk(u"b.jpg"_s, u"XMP:Title"_s), QJsonValue(u"b.jpg"_s));
+    QVERIFY(!f->canUndoSave());
+}
+
+void tst_AppModelUndo::undoThroughALink()
+{
+    JournaledPhotos f({ u"a.jpg"_s });
+    const PhotoFolder elsewhere;
+    const QString link = f.folder.path(u"a.jpg"_s);
+    const QUrl real = elsewhere.add(u"real.jpg"_s, readFile(link));
+    QVERIFY(QFile::remove(link) && QFile::link(real.toLocalFile(), link));
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"X"_s);
+    QVERIFY(f.save());
+    QCOMPARE(exiftoolValues(real).value(u"XMP:Title"_s), QJsonValue(u"X"_s));
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QVERIFY(QFileInfo(link).isSymLink());
+    QCOMPARE(exiftoolValues(real).value(u"XMP:Title"_s), QJsonValue(u"a.jpg"_s));
+    QCOMPARE(f->draftValues().value(u"title"_s), u"a.jpg"_s);
+}
+
+/// Every photo had another title, so each is a run of its own; two of them cannot be written to.
+void tst_AppModelUndo::undoThatFailsInPart()
+{
+    const QStringList names{ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s };
+    JournaledPhotos f(names);
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    for (const QString& title : { u"X"_s, u"Y"_s }) {
+        f->setBatch(u"title"_s, title);
+        QVERIFY(f.save());
+    }
+    QVERIFY(QFile::setPermissions(f.folder.path(u"b.jpg"_s), QFile::ReadOwner));
+    const QString leftover = f.folder.add(u"c.jpg_exiftool_tmp"_s, "half").toLocalFile();
+    QVERIFY(f.undo());
+    const QString banner = f->errorMessage().value_or(QString());
+    QVERIFY2(banner.startsWith(u"Could not undo the save of 2 photos: b.jpg (read-only), c.jpg ("_s)
+            && banner.contains(u"c.jpg_exiftool_tmp lies beside the photo"_s),
+        qPrintable(banner));
+    QCOMPARE(f.titles().values(), QStringList({ u"X"_s, u"Y"_s, u"Y"_s }));
+    QVERIFY(f->canUndoSave());
+
+    f->setErrorMessage({});
+    QVERIFY(QFile::setPermissions(f.folder.path(u"b.jpg"_s), QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(QFile::remove(leftover));
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.titles().values(), QStringList({ u"X"_s, u"X"_s, u"X"_s }));
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.titles().values(), names);
+    QVERIFY(!f->canUndoSave());
+}
+
+/// A tool that is killed says nothing about what it has done: what it restored must not pass for another's work.
+void tst_AppModelUndo::undoIsTriedAgainAfterTheToolWasCut()
+{
+    JournaledPhotos f({ u"a.jpg"_s, u"b.jpg"_s });
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    f->setBatch(u"headline"_s, u"X"_s);
+    QVERIFY(f.save());
+    const QTemporaryDir tools;
+    const QString script = tools.filePath(u"exiftool"_s);
+    writeFile(script,
+        "system $^X, '" + realTool().exiftoolURL.toLocalFile().toUtf8()
+            + "', @ARGV; kill 'KILL', $$ if grep { $_ eq '-m' } @ARGV;\n");
+    f.services.service = MetadataService{ { QUrl::fromLocalFile(script), realTool().perlURL } };
+    f.relaunch();
+    QTRY_VERIFY(f->canUndoSave());
+    QVERIFY(f.open());
+    QVERIFY(f.undo());
+    QVERIFY(f->errorMessage().value_or(QString()).startsWith(u"Could not undo the save of 2 photos: a.jpg ("_s));
+    QVERIFY(!f->record(f.url(u"a.jpg"_s))->values.contains(u"headline"_s));
+    f.services.service = MetadataService{ realTool() };
+    f.relaunch();
+    QTRY_VERIFY(f->canUndoSave());
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QVERIFY(!f->canUndoSave());
+}
+
+void tst_AppModelUndo::unwritableJournalDoesNotStopASave()
+{
+    JournaledPhotos f;
+    writeFile(f.settings.filePath(u"state"_s), "a file where a folder should be");
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"X"_s);
+    QVERIFY(f.save());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
+    QVERIFY(!f->canUndoSave());
+}
+
+QTEST_GUILESS_MAIN(tst_AppModelUndo)
+#include "tst_AppModelUndo.moc"
