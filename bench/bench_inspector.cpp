@@ -25,7 +25,7 @@ constexpr int fields = 30;
 constexpr int rounds = 101;
 constexpr QSize windowSize(520, 1400);
 
-/// Milliseconds that this thread has spent on a processor: other programs on the machine do not count.
+// Milliseconds that this thread has spent on a processor: other programs on the machine do not count.
 double threadMilliseconds()
 {
     timespec now{};
@@ -33,7 +33,7 @@ double threadMilliseconds()
     return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
 }
 
-/// Counts how often a widget was drawn: a round that draws nothing would measure half of the work.
+// Counts how often a widget was drawn: a round that draws nothing would measure half of the work.
 class PaintCount final : public QObject {
 public:
     explicit PaintCount(QWidget* widget) { widget->installEventFilter(this); }
@@ -47,7 +47,7 @@ protected:
     }
 };
 
-/// The median of so many rounds, in milliseconds. What a round posts (layout, painting of what changed) belongs to it.
+// The median of so many rounds, in milliseconds. What a round posts (layout, painting of what changed) belongs to it.
 template <typename Job>
 double median(QWidget* window, QWidget* drawn, Job job)
 {
@@ -75,7 +75,7 @@ void report(const char* name, double milliseconds, double baseline, double budge
         milliseconds, milliseconds / baseline, baseline, 100 * milliseconds / budget, budget);
 }
 
-/// The assignments of a photo that has a value in every one of thirty fields: the schema's, all but one.
+// The assignments of a photo that has a value in every one of thirty fields: the schema's, all but one.
 QStringList fullPhoto(const QString& suffix)
 {
     QStringList arguments;
@@ -99,7 +99,7 @@ QStringList fullPhoto(const QString& suffix)
                      << u"-GPSLongitudeRef=E"_s << u"-EXIF:Model=Camera "_s + suffix << u"-EXIF:ISO=200"_s;
 }
 
-/// Thirty line edits with labels, in a scroll area as the inspector's form is.
+// Thirty line edits with labels, in a scroll area as the inspector's form is.
 struct PlainForm {
     PlainForm()
     {

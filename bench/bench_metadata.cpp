@@ -27,8 +27,8 @@ constexpr int saveCount = 200;
 constexpr int rounds = 5;
 
 struct Cost {
-    double wall = 0;  ///< milliseconds
-    double cpu = 0;  ///< milliseconds, this process and its children, user and system
+    double wall = 0;  // milliseconds
+    double cpu = 0;  // milliseconds, this process and its children, user and system
 };
 
 double cpuTime()
@@ -131,7 +131,7 @@ EditPlan planOf(int round)
     return { .scalars = { { "headline", QString::number(round) } }, .lists = { { "people", { "Ann", "Bo" } } } };
 }
 
-/// Copies of those samples that the tool agrees to write to: what a camera made can still be refused.
+// Copies of those samples that the tool agrees to write to: what a camera made can still be refused.
 QList<QUrl> writable(const MetadataService& service, const QList<QUrl>& photos, qsizetype sampleCount)
 {
     QList<bool> accepted(sampleCount, true);

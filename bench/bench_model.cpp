@@ -23,7 +23,7 @@ namespace {
 constexpr int photoCount = 100000;
 constexpr int selectedCount = 10000;
 
-/// Stands in for ExifTool, which would take minutes: prints a dozen values for each file it is given.
+// Stands in for ExifTool, which would take minutes: prints a dozen values for each file it is given.
 const char* const tool = R"perl(#!/usr/bin/perl
 use strict;
 my $custom = grep { $_ eq '-XMP-Quorbel:all' } @ARGV;

@@ -28,7 +28,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Milliseconds that this thread has spent on a processor: other programs on the machine do not count.
+// Milliseconds that this thread has spent on a processor: other programs on the machine do not count.
 double threadMilliseconds()
 {
     timespec now{};
@@ -58,7 +58,7 @@ struct Timings {
     }
 };
 
-/// Memory of our own, without mapped files, in MiB.
+// Memory of our own, without mapped files, in MiB.
 double privateMemory()
 {
     QFile status(u"/proc/self/status"_s);
@@ -80,7 +80,7 @@ double kilometres(GeoPoint a, GeoPoint b)
 struct Airport {
     QString town{};
     QString country{};
-    QString region{};  ///< ISO 3166-2
+    QString region{};  // ISO 3166-2
     GeoPoint point{};
     bool isLarge = false;
 };
@@ -131,7 +131,7 @@ QList<PlaceSuggestion> suggest(PlaceProvider& provider, const QString& text)
     return found;
 }
 
-/// How often the wanted place is first, and among the first five.
+// How often the wanted place is first, and among the first five.
 struct Hits {
     int asked = 0;
     int first = 0;
@@ -223,8 +223,8 @@ void measureSpeed(PlaceProvider& provider, const QString& file, const QStringLis
     std::printf("%-34s %.0f times as fast as the baseline (p50)\n", "search", plain.at(0.5) / search.at(0.5));
 }
 
-/// The name that reverse look-up gives most often to the airports of each region: the same state under another
-/// spelling ("Zurich" for "Canton of Zurich").
+// The name that reverse look-up gives most often to the airports of each region: the same state under another
+// spelling ("Zurich" for "Canton of Zurich").
 QHash<QString, QString> usualNames(const QHash<QString, QHash<QString, int>>& votes)
 {
     QHash<QString, QString> names;

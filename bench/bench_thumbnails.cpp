@@ -30,7 +30,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Something with the statistics of a photo: soft shapes at all scales, and grain.
+// Something with the statistics of a photo: soft shapes at all scales, and grain.
 QImage scene(QSize size, quint32 seed)
 {
     QRandomGenerator random(seed);
@@ -63,8 +63,8 @@ double seconds(const timeval& time)
     return double(time.tv_sec) + double(time.tv_usec) / 1e6;
 }
 
-/// User seconds of one run of a program. A process of its own also for our side: Qt's scaling threads do not
-/// survive a bare fork.
+// User seconds of one run of a program. A process of its own also for our side: Qt's scaling threads do not
+// survive a bare fork.
 double programTime(const QStringList& command)
 {
     std::vector<QByteArray> bytes;
@@ -145,7 +145,7 @@ public:
     }
 
 private:
-    using Files = std::function<QStringList()>;  ///< the files of a comparison, made when it is wanted
+    using Files = std::function<QStringList()>;  // the files of a comparison, made when it is wanted
 
     void jpegs()
     {
@@ -172,8 +172,8 @@ private:
             "HEIC of 6 megapixels, whole, to 1,400", 1.10, [&] { return made().first(3); }, 1400);
     }
 
-    /// What is decoded is as large whatever the photo measures: the larger the photo, the less it costs beside the
-    /// whole.
+    // What is decoded is as large whatever the photo measures: the larger the photo, the less it costs beside the
+    // whole.
     void jpeg2000s()
     {
         compareWithMagick(
@@ -200,7 +200,7 @@ private:
         const QByteArray exif = ImageFiles::exifBlock(1, ImageFiles::written(small, "jpg", 80));
         return ImageFiles::withExif(ImageFiles::written(image, "jpg", 90), exif);
     }
-    /// A phone spends about a bit on a pixel; at this quality so do these.
+    // A phone spends about a bit on a pixel; at this quality so do these.
     static QByteArray heicWithThumbnail(const QImage& image)
     {
         return ImageFiles::heif(image, false, { .thumbnail = 320, .quality = 35 });
@@ -220,7 +220,7 @@ private:
     }
     static QByteArray jp2(const QImage& image) { return ImageFiles::jpeg2000(image, true); }
 
-    /// The files of that name, which are made once.
+    // The files of that name, which are made once.
     QStringList synthetic(const char* name, int count, QSize size, QByteArray (*encode)(const QImage&))
     {
         QStringList files;
@@ -233,7 +233,7 @@ private:
         return files;
     }
 
-    /// Each file several times under names of its own: a few alone are too quick to measure.
+    // Each file several times under names of its own: a few alone are too quick to measure.
     QStringList copies(const QStringList& files, int times) const
     {
         QStringList all;
@@ -245,7 +245,7 @@ private:
         return all;
     }
 
-    /// The same pictures in that format, which real photos seldom come in.
+    // The same pictures in that format, which real photos seldom come in.
     QStringList asJpeg2000(const QStringList& photos) const
     {
         constexpr int wholePicture = 20'000;  // longer than any of them
@@ -258,7 +258,7 @@ private:
         return files;
     }
 
-    /// Real photos of that extension with at least so many pixels (JPEG) or which hold a thumbnail (HEIC).
+    // Real photos of that extension with at least so many pixels (JPEG) or which hold a thumbnail (HEIC).
     static QStringList real(const QString& extension, qint64 pixels)
     {
         QStringList files;
@@ -322,8 +322,8 @@ private:
     bool isWanted(const char* what) const { return QLatin1StringView(what).contains(m_word, Qt::CaseInsensitive); }
 
     struct Cost {
-        double run = 1e9;  ///< user seconds of the whole run
-        double startUp = 1e9;  ///< of a run over a picture of one pixel
+        double run = 1e9;  // user seconds of the whole run
+        double startUp = 1e9;  // of a run over a picture of one pixel
         void keepLeast(const Cost& other)
         {
             run = std::min(run, other.run);
@@ -340,10 +340,10 @@ private:
         return costOf({ u"/proc/self/exe"_s, mode, QString::number(longSide) }, files);
     }
 
-    /// A picture of one pixel: what decoding it costs is start-up.
+    // A picture of one pixel: what decoding it costs is start-up.
     QString dotFile() const { return m_folder.filePath(u"dot.jpg"_s); }
 
-    /// The least of five rounds on each side: what the machine does besides only ever adds.
+    // The least of five rounds on each side: what the machine does besides only ever adds.
     static void report(const char* what, double target, qsizetype count, const std::function<Cost()>& ours,
         const std::function<Cost()>& baseline, const char* name)
     {
@@ -360,7 +360,7 @@ private:
         std::fflush(stdout);
     }
 
-    /// Wall time from opening to refusal.
+    // Wall time from opening to refusal.
     void bombs()
     {
         if (!isWanted("bomb header"))

@@ -43,7 +43,7 @@ double median(QList<double> values)
     return values.at(values.size() / 2);
 }
 
-/// Milliseconds a frame: one step of the scroll bar and the painting of what then shows.
+// Milliseconds a frame: one step of the scroll bar and the painting of what then shows.
 QList<double> scrollFrames(QWidget& window, QAbstractScrollArea& list)
 {
     QImage frame(window.size(), QImage::Format_ARGB32_Premultiplied);
@@ -61,7 +61,7 @@ QList<double> scrollFrames(QWidget& window, QAbstractScrollArea& list)
     return times;
 }
 
-/// A folder of one-byte photos, and the tool's answer for them.
+// A folder of one-byte photos, and the tool's answer for them.
 class ManyPhotos {
 public:
     explicit ManyPhotos(int count)
@@ -95,7 +95,7 @@ private:
     QTemporaryDir m_settings;
 };
 
-/// A store whose images are there at once, so that frames paint them.
+// A store whose images are there at once, so that frames paint them.
 ThumbnailStoreOptions readyImages()
 {
     ThumbnailStoreOptions options;
@@ -146,8 +146,8 @@ void benchScrolling()
     std::fflush(stdout);
 }
 
-/// Milliseconds from the start of a process to its line "first paint" on standard error; then it is killed with
-/// whatever it started: a tool that went on reading would slow the next start down.
+// Milliseconds from the start of a process to its line "first paint" on standard error; then it is killed with
+// whatever it started: a tool that went on reading would slow the next start down.
 double startTime(const QString& program, const QStringList& arguments, const QProcessEnvironment& environment)
 {
     QProcess process;
@@ -170,7 +170,7 @@ double startTime(const QString& program, const QStringList& arguments, const QPr
     return milliseconds;
 }
 
-/// An environment with a home of its own, in which the feed was asked a moment ago: nothing goes to the network.
+// An environment with a home of its own, in which the feed was asked a moment ago: nothing goes to the network.
 QProcessEnvironment environmentIn(const QTemporaryDir& home)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -182,8 +182,8 @@ QProcessEnvironment environmentIn(const QTemporaryDir& home)
     return environment;
 }
 
-/// Starts a server that says its address in its first line, and ends with this object. The address is empty when there
-/// is no such server.
+// Starts a server that says its address in its first line, and ends with this object. The address is empty when there
+// is no such server.
 class Server {
 public:
     Server(const QString& program, const QStringList& arguments)
@@ -209,7 +209,7 @@ struct Desktop {
     const char* name;
     QString platform;
     QString display;
-    QString bus;  ///< the address of the session bus
+    QString bus;  // the address of the session bus
 };
 
 void benchStartOn(const Desktop& desktop, const QString& photos)

@@ -42,7 +42,7 @@ MapImage draw(MapRenderer& renderer, const Sample& sample, bool dark)
     return image;
 }
 
-/// As the window shows it: rounded, with the marker and the credit.
+// As the window shows it: rounded, with the marker and the credit.
 void paint(QPainter& painter, QPointF at, const MapImage& map, bool dark)
 {
     painter.save();

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The objects by the path of the file that they are about: as the tool printed it, and tidied up.
+// The objects by the path of the file that they are about: as the tool printed it, and tidied up.
 QMap<QString, JSONObject> indexBySourceFile(const QList<JSONObject>& objects)
 {
     const QString key = u"SourceFile"_s;

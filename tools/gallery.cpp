@@ -36,7 +36,7 @@ namespace {
 
 enum class State { normal, hover, pressed, focused, disabled };
 
-/// Draws a town, so that the map preview has something to show.
+// Draws a town, so that the map preview has something to show.
 class SketchMap final : public MapRenderer {
 public:
     PlaceToken render(const MapRequest& request, PlaceCallback<MapImage> answer) override
@@ -54,8 +54,8 @@ public:
     }
 };
 
-/// A picture of a widget, with room for its focus ring: only one widget of a window can have the focus, a gallery
-/// shows many.
+// A picture of a widget, with room for its focus ring: only one widget of a window can have the focus, a gallery
+// shows many.
 QLabel* pictureOf(QWidget* widget, const Theme& theme, State state, QSize size = {})
 {
     constexpr int room = 5;
@@ -89,7 +89,7 @@ QLabel* pictureOf(QWidget* widget, const Theme& theme, State state, QSize size =
     return label;
 }
 
-/// One page of the gallery under one theme.
+// One page of the gallery under one theme.
 class Page final : public QWidget {
 public:
     explicit Page(const Theme& theme)

@@ -87,8 +87,8 @@ void AppModel::requestQuit()
         m_services.quit();
 }
 
-/// Saves first, or asks whether to, and asks for the action again when the edits are saved or discarded. While a
-/// save runs its end is waited for: usually nothing is left to ask about then.
+// Saves first, or asks whether to, and asks for the action again when the edits are saved or discarded. While a
+// save runs its end is waited for: usually nothing is left to ask about then.
 void AppModel::holdBack(std::function<void()> action)
 {
     m_waiting = std::move(action);

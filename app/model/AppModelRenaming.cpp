@@ -89,7 +89,7 @@ void AppModel::performRename()
     takeRenamed(source, destination);
 }
 
-/// The drafts stay: they belong to the same photo.
+// The drafts stay: they belong to the same photo.
 void AppModel::takeRenamed(const QUrl& source, const QUrl& destination)
 {
     const Announcer::Together together(m_announcer);

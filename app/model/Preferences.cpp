@@ -14,7 +14,7 @@ void read(const QVariant& stored, QString& value)
         value = stored.toString();
 }
 
-/// An INI file holds a Boolean as a text.
+// An INI file holds a Boolean as a text.
 void read(const QVariant& stored, bool& value)
 {
     if (stored.typeId() == QMetaType::Bool)
@@ -25,7 +25,7 @@ void read(const QVariant& stored, bool& value)
         value = text == u"true"_s;
 }
 
-/// An INI file gives a list of one back as a plain text: only a path counts as such.
+// An INI file gives a list of one back as a plain text: only a path counts as such.
 void read(const QVariant& stored, QStringList& paths)
 {
     if (stored.typeId() == QMetaType::QStringList)
@@ -62,7 +62,7 @@ QVariant stored(RecordSortOrder order)
     return rawValue(order);
 }
 
-/// Invalid where there is nothing to store.
+// Invalid where there is nothing to store.
 QVariant stored(const std::optional<ColorScheme>& scheme)
 {
     if (!scheme)

@@ -6,7 +6,7 @@ namespace Quorbel {
 
 namespace {
 
-/// How often progress and stalls are looked at while something runs.
+// How often progress and stalls are looked at while something runs.
 constexpr int lookInterval = 50;  // ms
 
 }  // namespace
@@ -89,7 +89,7 @@ void RunningTasks::skipStalledFile()
     m_announcer.assign(m_stalledFile, std::nullopt, Change::stalledFile);
 }
 
-/// The task that is shown, if it is a read that goes on; where nothing is shown, a read of a refresh.
+// The task that is shown, if it is a read that goes on; where nothing is shown, a read of a refresh.
 RunningTasks::Task* RunningTasks::watchedRead()
 {
     std::vector<Task>& tasks = m_shown.empty() ? m_quiet : m_shown;

@@ -42,9 +42,9 @@ QString printedList(const QStringList& items)
     return u'[' + quoted.join(QLatin1String(", ")) + u']';
 }
 
-/// The photos of the folder by code-point order of their names; of anything else, the thing itself.
-/// A sub-folder is never one of them, whatever its name: the tool would write to every file inside. Nor is a pipe:
-/// the tool would wait for it.
+// The photos of the folder by code-point order of their names; of anything else, the thing itself.
+// A sub-folder is never one of them, whatever its name: the tool would write to every file inside. Nor is a pipe:
+// the tool would wait for it.
 QList<QUrl> filesToTest(const QString& path)
 {
     const QFileInfo given(path);

@@ -35,13 +35,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Whether the window may be active: with it, another program's start lets this one come to the front.
+// Whether the window may be active: with it, another program's start lets this one come to the front.
 constexpr auto activationVariable = "XDG_ACTIVATION_TOKEN";
 
-/// Milliseconds after the window's first picture: the network must not slow the first photos down.
+// Milliseconds after the window's first picture: the network must not slow the first photos down.
 constexpr int updateCheckDelay = 1'500;
 
-/// Centred on it, in the size that it asks for. Window managers put second windows into corners.
+// Centred on it, in the size that it asks for. Window managers put second windows into corners.
 void placeOver(QWidget& second, const QWidget& window)
 {
     QRect place(QPoint(), second.sizeHint().expandedTo(second.minimumSize()));
@@ -106,7 +106,7 @@ void AppDelegate::finishLaunching(const QList<QUrl>& urls)
         [this] { m_app->thumbnails().setDevicePixelRatio(m_window->devicePixelRatioF()); });
 }
 
-/// Whatever a window does not need to show its first picture.
+// Whatever a window does not need to show its first picture.
 void AppDelegate::finishAfterFirstPaint(const QList<QUrl>& urls)
 {
     if (!urls.isEmpty())
@@ -171,7 +171,7 @@ void AppDelegate::buildWindow()
     connect(m_systemScheme, &SystemScheme::changed, this, &AppDelegate::applyThemes);
 }
 
-/// A second start: its files go where a drop would go, and the window comes to the front.
+// A second start: its files go where a drop would go, and the window comes to the front.
 void AppDelegate::received(const HandOver& what)
 {
     if (!what.activationToken.isEmpty())
@@ -237,7 +237,7 @@ void AppDelegate::showNotice(const Notice& notice, std::function<void(qsizetype)
         std::move(answered));
 }
 
-/// Makes the field being typed into commit what the input method still holds, and takes the focus from it.
+// Makes the field being typed into commit what the input method still holds, and takes the focus from it.
 void AppDelegate::endEditing()
 {
     QWidget* focus = m_window ? m_window->focusWidget() : nullptr;

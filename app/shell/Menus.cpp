@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The platform's keys for a command, and ours where the platform has none.
+// The platform's keys for a command, and ours where the platform has none.
 QList<QKeySequence> keysFor(QKeySequence::StandardKey key, const QKeySequence& ours)
 {
     QList<QKeySequence> keys = QKeySequence::keyBindings(key);
@@ -65,7 +65,7 @@ bool canPaste(const QWidget&)
     return data && data->hasText();
 }
 
-/// A path as people write it: their home is "~".
+// A path as people write it: their home is "~".
 QString shownPath(const QUrl& url)
 {
     const QString path = url.toLocalFile();
@@ -73,7 +73,7 @@ QString shownPath(const QUrl& url)
     return path.startsWith(home + QLatin1Char('/')) ? QLatin1Char('~') + path.mid(home.size()) : path;
 }
 
-/// Menus take "&" for the mark of a mnemonic.
+// Menus take "&" for the mark of a mnemonic.
 QString literal(QString text)
 {
     return text.replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -169,8 +169,8 @@ void Menus::addEditMenu()
         add(menu, u"&Search"_s, keysFor(QKeySequence::Find, Qt::CTRL | Qt::Key_F), [this] { m_content.focusSearch(); });
 }
 
-/// A command for the text field that has the focus. Fields take its keys themselves; the action shows them and
-/// serves the mouse. Asked whether it is possible when the menu opens.
+// A command for the text field that has the focus. Fields take its keys themselves; the action shows them and
+// serves the mouse. Asked whether it is possible when the menu opens.
 void Menus::addEditing(QMenu* menu, const QString& text, QKeySequence::StandardKey key, const char* slot,
     const std::function<bool(const QWidget&)>& possible)
 {

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// <prefix>/share/quorbel/places, seen from <prefix>/bin.
+// <prefix>/share/quorbel/places, seen from <prefix>/bin.
 QString placesFolder()
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../share/quorbel/places"_s);
@@ -25,7 +25,7 @@ QDateTime now()
     return QDateTime::currentDateTime();
 }
 
-/// Where the desktop keeps what programs remember from one run to the next.
+// Where the desktop keeps what programs remember from one run to the next.
 QString journalPath()
 {
     const QString given = qEnvironmentVariable("XDG_STATE_HOME");

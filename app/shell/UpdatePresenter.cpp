@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Milliseconds without any transfer after which a check counts as failed.
+// Milliseconds without any transfer after which a check counts as failed.
 constexpr int transferTimeout = 30'000;
 
 const Notice& upToDateNotice()

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Also answers --help and --version, which end the process.
+// Also answers --help and --version, which end the process.
 QStringList parsedFiles(const QApplication& application)
 {
     QCommandLineParser parser;

@@ -19,7 +19,7 @@ namespace {
 
 constexpr QLatin1StringView sidecarSuffix(".xmp");
 
-/// The photo's path as far as its sidecar has the same.
+// The photo's path as far as its sidecar has the same.
 QString withoutExtension(const QString& photo)
 {
     const auto nameAt = photo.lastIndexOf(u'/') + 1;
@@ -28,15 +28,15 @@ QString withoutExtension(const QString& photo)
     return dot > nameAt ? photo.left(dot) : photo;
 }
 
-/// As the name of a file to copy from to its sidecar: there the tool puts folder and name of the sidecar for "%d" and
-/// "%f", so a photo's own name with such text in it has to be put the same way.
+// As the name of a file to copy from to its sidecar: there the tool puts folder and name of the sidecar for "%d" and
+// "%f", so a photo's own name with such text in it has to be put the same way.
 QString sourceArgument(const QString& photo)
 {
     return photo.contains(u'%') ? u"%d%f"_s + photo.sliced(withoutExtension(photo).size()) : photo;
 }
 
-/// Moves a file unless something has the new name already, in one step where the file system can do that.
-/// Zero, or the system's error number.
+// Moves a file unless something has the new name already, in one step where the file system can do that.
+// Zero, or the system's error number.
 int moveWithoutReplacing(const QString& from, const QString& to)
 {
     const QByteArray source = QFile::encodeName(from);

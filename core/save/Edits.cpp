@@ -22,7 +22,7 @@ QMap<QString, QStringList> withoutEmpty(QMap<QString, QStringList> lists)
     return lists;
 }
 
-/// Takes out what the save wrote: entries that are the same in both.
+// Takes out what the save wrote: entries that are the same in both.
 template <typename Value>
 void dropSaved(QMap<QString, Value>& now, const QMap<QString, Value>& saved, const QSet<QString>& differing)
 {

@@ -19,7 +19,7 @@ QString customGroupPrefix()
     return MetadataWriter::customNamespacePrefix() + u':';
 }
 
-/// Tags whose values may come in several languages.
+// Tags whose values may come in several languages.
 const QStringList& languageTags()
 {
     static const QStringList tags{ u"XMP-dc:Title"_s, u"XMP-dc:Description"_s, u"XMP-dc:Rights"_s,
@@ -27,13 +27,13 @@ const QStringList& languageTags()
     return tags;
 }
 
-/// Where ExifTool may find a position that was assigned without a group.
+// Where ExifTool may find a position that was assigned without a group.
 bool isPosition(const QString& tag)
 {
     return tag.startsWith(u"GPS"_s) && !tag.contains(u':');
 }
 
-/// As the tool's option "-ec" reads it: whatever an argument cannot hold (NUL, bytes that are no text) as "\xHH".
+// As the tool's option "-ec" reads it: whatever an argument cannot hold (NUL, bytes that are no text) as "\xHH".
 QString escaped(const QByteArray& value)
 {
     const bool isText = QUtf8StringView(value).isValidUtf8();
@@ -51,8 +51,8 @@ QString escaped(const QByteArray& value)
     return QString::fromUtf8(argument);
 }
 
-/// The custom group is read as a whole, with fields that the save did not touch. Names in it come back with a capital
-/// first letter.
+// The custom group is read as a whole, with fields that the save did not touch. Names in it come back with a capital
+// first letter.
 bool isConcerned(const JournalEntry& entry, const QString& tag)
 {
     return !tag.startsWith(customGroupPrefix()) || entry.writtenTags.contains(tag, Qt::CaseInsensitive);

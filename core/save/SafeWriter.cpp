@@ -12,7 +12,7 @@ namespace Quorbel::SafeWriter {
 
 namespace {
 
-/// All that one save's runs have in common.
+// All that one save's runs have in common.
 struct Runs {
     const ExifToolRunner& runner;
     const WriteCommand& command;
@@ -29,7 +29,7 @@ QList<QUrl> withoutFailed(QList<QUrl> files, const QList<FileFailure>& failures)
     return files;
 }
 
-/// The write, after the run that its texts may need.
+// The write, after the run that its texts may need.
 QString writeTexts(const Runs& save, const QList<QUrl>& files)
 {
     if (!IptcEncoding::needsUtf8(save.command.assignments))
@@ -47,7 +47,7 @@ QString writeTexts(const Runs& save, const QList<QUrl>& files)
     return save.run(files);
 }
 
-/// The write, and the run that its position may need.
+// The write, and the run that its position may need.
 QString writeSigned(const Runs& save, const QList<QUrl>& files)
 {
     const WriteCommand signs = Coordinates::signCommand(save.command.assignments);

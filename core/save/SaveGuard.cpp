@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A leftover this old belongs to no running tool, in seconds.
+// A leftover this old belongs to no running tool, in seconds.
 constexpr qint64 leftoverAge = qint64(24) * 60 * 60;
 
 QByteArray nativePath(const QUrl& file)

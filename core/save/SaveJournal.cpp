@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A string of JSON, or, for bytes that are no text, their Base64 in an object.
+// A string of JSON, or, for bytes that are no text, their Base64 in an object.
 QJsonValue toJson(const QByteArray& value)
 {
     if (QUtf8StringView(value).isValidUtf8())

@@ -24,7 +24,7 @@ QSet<QUrl> setOf(const QList<QUrl>& urls)
     return QSet<QUrl>(urls.cbegin(), urls.cend());
 }
 
-/// The files that may be written to now; why the others may not goes to the failures.
+// The files that may be written to now; why the others may not goes to the failures.
 QList<QUrl> withoutBlocked(const QList<QUrl>& files, QList<FileFailure>& failures)
 {
     QList<QUrl> writable;
@@ -43,7 +43,7 @@ QList<QUrl> withoutBlocked(const QList<QUrl>& files, QList<FileFailure>& failure
     return writable;
 }
 
-/// One attempt to take a save back.
+// One attempt to take a save back.
 class Attempt {
 public:
     Attempt(const ExifToolRunner& runner, const JournalEntry& entry)
@@ -63,13 +63,13 @@ public:
     }
 
 private:
-    /// Files that held the same go into one run.
+    // Files that held the same go into one run.
     struct Run {
         WriteCommand command{};
         QList<QUrl> files{};
     };
 
-    /// By their arguments.
+    // By their arguments.
     QMap<QStringList, Run> runsOverUnchangedFiles()
     {
         QMap<QStringList, Run> runs;
@@ -107,8 +107,8 @@ private:
         m_outcome.failed += failures;
     }
 
-    /// Looks what the files really hold now: the tool refuses some values that it read, and of a run that failed it
-    /// need not name every file that was left out.
+    // Looks what the files really hold now: the tool refuses some values that it read, and of a run that failed it
+    // need not name every file that was left out.
     void checkRestored()
     {
         QHash<QByteArray, FileTags> now;
@@ -145,7 +145,7 @@ private:
     const ExifToolRunner& m_runner;
     const JournalEntry& m_entry;
     UndoOutcome m_outcome;
-    QSet<QUrl> m_doubtful;  ///< of a run that failed
+    QSet<QUrl> m_doubtful;  // of a run that failed
 };
 
 }  // namespace

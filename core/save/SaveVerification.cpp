@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// ExifTool prints "1.10" and "True" as the JSON values 1.1 and true: the same text in the file, another form here.
+// ExifTool prints "1.10" and "True" as the JSON values 1.1 and true: the same text in the file, another form here.
 bool sameText(const QString& written, const QString& found)
 {
     if (written == found)

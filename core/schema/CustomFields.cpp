@@ -12,8 +12,8 @@ namespace {
 
 constexpr QLatin1StringView prefix("custom:");
 
-/// The keys with a meaning of their own in ExifTool's tag tables (%specialTags of its main module), as far as they are
-/// letters only.
+// The keys with a meaning of their own in ExifTool's tag tables (%specialTags of its main module), as far as they are
+// letters only.
 const QStringList& reservedNames()
 {
     static const QStringList names{ u"AVOID"_s, u"DATAMEMBER"_s, u"FORMAT"_s, u"GROUPS"_s, u"NAMESPACE"_s, u"NOTES"_s,

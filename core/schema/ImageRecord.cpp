@@ -46,9 +46,9 @@ QString fractionOfKilobyte(qint64 bytes)
     return decimalText(roundedQuotient(bytes, step) * step, 3);
 }
 
-/// A size as a file manager shows it: powers of 1000, a decimal point, no trailing zeros. "Zero KB" for nothing, one
-/// significant digit under a kilobyte ("0.5 KB"), whole kilobytes ("9 KB"), tenths of megabytes ("2.4 MB"), hundredths
-/// of gigabytes ("1.25 GB") beyond. A size that rounds to 1000 takes the next unit.
+// A size as a file manager shows it: powers of 1000, a decimal point, no trailing zeros. "Zero KB" for nothing, one
+// significant digit under a kilobyte ("0.5 KB"), whole kilobytes ("9 KB"), tenths of megabytes ("2.4 MB"), hundredths
+// of gigabytes ("1.25 GB") beyond. A size that rounds to 1000 takes the next unit.
 QString formattedFileSize(qint64 bytes)
 {
     if (bytes <= 0)

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// From this magnitude on, a double no longer stands for one integer that is worth printing digit by digit.
+// From this magnitude on, a double no longer stands for one integer that is worth printing digit by digit.
 constexpr double integralLimit = 1e15;
 
 QString numberText(double number)
@@ -25,10 +25,10 @@ QString numberText(double number)
     return Text::shortestForm(number);
 }
 
-/// Texts up to this length are worth looking up: names of keys, cameras and lenses, dates, exposures.
+// Texts up to this length are worth looking up: names of keys, cameras and lenses, dates, exposures.
 constexpr qsizetype sharedLength = 40;
 
-/// Builds values, keeping one copy of each short text, however often it occurs.
+// Builds values, keeping one copy of each short text, however often it occurs.
 class Decoder {
 public:
     JSONValue value(const QJsonValue& json)

@@ -13,7 +13,7 @@ namespace {
 
 struct Pattern {
     QChar dateSeparator{};
-    int timeFields = 0;  ///< 0: date only; 2: hours and minutes; 3: with seconds
+    int timeFields = 0;  // 0: date only; 2: hours and minutes; 3: with seconds
 };
 
 // Takes a number of one to `maximumDigits` ASCII digits off the front; nothing when there is no digit.

@@ -18,16 +18,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Linux allows argument lists of a quarter of the soft stack limit, up to 6 MiB; the usual 8 MiB of stack give
-/// 2 MiB. More stack than this helps nothing.
+// Linux allows argument lists of a quarter of the soft stack limit, up to 6 MiB; the usual 8 MiB of stack give
+// 2 MiB. More stack than this helps nothing.
 constexpr rlim_t toolStackBytes = rlim_t(64) * 1024 * 1024;
-/// How long a triggered stop token may go unnoticed, in milliseconds.
+// How long a triggered stop token may go unnoticed, in milliseconds.
 constexpr int stopPollInterval = 50;
-/// How long the tool may take to end by itself once asked to, in milliseconds.
+// How long the tool may take to end by itself once asked to, in milliseconds.
 constexpr int terminationGrace = 1000;
-/// Characters of the output that an error about it quotes.
+// Characters of the output that an error about it quotes.
 constexpr qsizetype quotedCharacters = 400;
-/// Levels above the program that are searched for a "vendor" directory.
+// Levels above the program that are searched for a "vendor" directory.
 constexpr int vendorLevels = 6;
 
 bool exists(const QUrl& file)
@@ -35,7 +35,7 @@ bool exists(const QUrl& file)
     return QFileInfo::exists(file.toLocalFile());
 }
 
-/// Empty for bytes that are not valid UTF-8.
+// Empty for bytes that are not valid UTF-8.
 QString strictUtf8(const QByteArray& bytes)
 {
     return QUtf8StringView(bytes).isValidUtf8() ? QString::fromUtf8(bytes) : QString();
@@ -58,7 +58,7 @@ QStringList options(const QStringList& tags)
     return list;
 }
 
-/// Runs in the child between fork and exec, so it may only make system calls.
+// Runs in the child between fork and exec, so it may only make system calls.
 void raiseStackLimit()
 {
     rlimit limit{};
@@ -89,8 +89,8 @@ void endProcess(QProcess& process)
     process.waitForFinished(-1);
 }
 
-/// Counts the files in JSON output while it arrives. A value never holds a raw line feed, so a line that begins
-/// with an object's first key is always one; nested objects are indented further.
+// Counts the files in JSON output while it arrives. A value never holds a raw line feed, so a line that begins
+// with an object's first key is always one; nested objects are indented further.
 class FileCounter {
 public:
     FileCounter(qsizetype limit, const std::function<void(qsizetype)>& report)
@@ -128,8 +128,8 @@ ToolError undecodable(const QString& reason, const QByteArray& output)
     return ToolError(ToolError::DecodeFailed{ reason + u" — output: "_s + quoted });
 }
 
-/// A text like "1e999" is printed as a number, which no double holds and Qt refuses together with all the rest: those
-/// as texts.
+// A text like "1e999" is printed as a number, which no double holds and Qt refuses together with all the rest: those
+// as texts.
 QByteArray withHugeNumbersQuoted(const QByteArray& json)
 {
     QByteArray quoted;
@@ -180,7 +180,7 @@ std::optional<QString> toolNamedByEnvironment()
                                                       : std::nullopt;
 }
 
-/// Where the tool may lie, for a program installed under `prefix`, best place first.
+// Where the tool may lie, for a program installed under `prefix`, best place first.
 QStringList candidates(const QString& prefix)
 {
     QStringList list{ prefix + u"/share/quorbel/exiftool/exiftool"_s };

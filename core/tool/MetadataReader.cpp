@@ -35,7 +35,7 @@ std::optional<int> dimension(const JSONObject& object, const QString& key)
     return static_cast<int>(*pixels);
 }
 
-/// The display text of a scalar field; nothing for a value that the field cannot show.
+// The display text of a scalar field; nothing for a value that the field cannot show.
 std::optional<QString> displayText(FieldKind kind, const JSONValue& value)
 {
     const auto raw = value.stringValue();
@@ -48,8 +48,8 @@ std::optional<QString> displayText(FieldKind kind, const JSONValue& value)
     return kind == FieldKind::date ? MetadataWriter::displayDate(*raw) : *raw;
 }
 
-/// The first tag that the file has decides, even when its value turns out to be unusable: a field that was
-/// emptied in its preferred tag is empty, whatever older copies say.
+// The first tag that the file has decides, even when its value turns out to be unusable: a field that was
+// emptied in its preferred tag is empty, whatever older copies say.
 const JSONValue* decidingValue(const FieldSpec& field, const JSONObject& main)
 {
     for (const auto& tag : field.readTags) {

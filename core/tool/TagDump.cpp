@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a character stands for behind a backslash; itself, if not listed.
+// What a character stands for behind a backslash; itself, if not listed.
 char unescaped(char c)
 {
     switch (c) {
@@ -25,7 +25,7 @@ char unescaped(char c)
     }
 }
 
-/// "Array(Array("SourceFile" => "/a.jpg", "IPTC:Keywords" => Array("b", 1.10)), …);"
+// "Array(Array("SourceFile" => "/a.jpg", "IPTC:Keywords" => Array("b", 1.10)), …);"
 class Reader {
 public:
     explicit Reader(const QByteArray& answer)
@@ -33,7 +33,7 @@ public:
     {
     }
 
-    /// One file's array; nothing at the end of the answer, or where it makes no sense.
+    // One file's array; nothing at the end of the answer, or where it makes no sense.
     std::optional<FileTags> file()
     {
         FileTags tags;

@@ -21,7 +21,7 @@ constexpr auto portalInterface = "org.freedesktop.portal.Settings";
 constexpr auto appearanceGroup = "org.freedesktop.appearance";
 constexpr auto schemeKey = "color-scheme";
 
-/// The portal's numbers: 0 no preference, 1 prefer dark, 2 prefer light.
+// The portal's numbers: 0 no preference, 1 prefer dark, 2 prefer light.
 std::optional<bool> isDarkInPortal(QVariant value)
 {
     // Read() wraps its answer in one variant more than the signal does.
@@ -37,7 +37,7 @@ std::optional<bool> isDarkInPortal(QVariant value)
     }
 }
 
-/// Whether the user has a bus: one that is named, or systemd's in the runtime folder.
+// Whether the user has a bus: one that is named, or systemd's in the runtime folder.
 bool hasSessionBus()
 {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
@@ -45,7 +45,7 @@ bool hasSessionBus()
         || (!runtime.isEmpty() && QFileInfo::exists(runtime + u"/bus"_s));
 }
 
-/// Dark when text is drawn lighter than the window behind it.
+// Dark when text is drawn lighter than the window behind it.
 bool isDarkPalette(const QPalette& palette)
 {
     const int text = palette.color(QPalette::Active, QPalette::WindowText).lightness();

@@ -31,13 +31,13 @@ void write(const EditPlan& plan, const QUrl& photo, const WriteOptions& options 
     service().write(plan, { photo }, options);
 }
 
-/// "XMP-dc:Title" as the key under which ExifTool prints it with group-0 names.
+// "XMP-dc:Title" as the key under which ExifTool prints it with group-0 names.
 QString printedKey(QString tag)
 {
     return tag.replace(QRegularExpression(u"^XMP-[^:]+"_s), u"XMP"_s);
 }
 
-/// exiv2's name for a write tag.
+// exiv2's name for a write tag.
 QString exiv2Key(const QString& tag)
 {
     static const QMap<QString, QString> names{ { "EXIF:ImageDescription", "Exif.Image.ImageDescription" },
@@ -64,7 +64,7 @@ QString exiv2Key(const QString& tag)
     return u"Xmp."_s + prefix + u'.' + name;
 }
 
-/// A value of its own for each scalar field, in the form in which it is typed.
+// A value of its own for each scalar field, in the form in which it is typed.
 QString typedValue(const FieldSpec& field)
 {
     switch (field.kind) {
@@ -84,7 +84,7 @@ QString typedValue(const FieldSpec& field)
     return fixed.value(field.id, field.label + u" \\ 'of' the = photo"_s);
 }
 
-/// What ExifTool stores for a typed value.
+// What ExifTool stores for a typed value.
 QString storedValue(const FieldSpec& field)
 {
     const QString typed = typedValue(field);

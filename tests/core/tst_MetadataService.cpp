@@ -167,7 +167,7 @@ private slots:
         QCOMPARE(MetadataService{ tool.runner() }.write(plan, {}, options), QString());
     }
 
-    /// One save with every kind of field, the texts' encoding and the position's sign in runs of their own.
+    // One save with every kind of field, the texts' encoding and the position's sign in runs of their own.
     void writesEveryKindOfField()
     {
         const EditPlan plan{ .scalars = { { "title", "a=b+=c" }, { "description", "" }, { "date", "2024-5-6" },
@@ -193,7 +193,7 @@ private slots:
                 "-XMP:GPSLongitude=70.250000", "/p/a.jpg" }));
     }
 
-    /// What the journal reads of that, and what undo writes back, byte for byte.
+    // What the journal reads of that, and what undo writes back, byte for byte.
     void undoesByStoredValues()
     {
         const PhotoFolder folder;

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A line of hills across the picture, its crest at about `height` of the picture's own.
+// A line of hills across the picture, its crest at about `height` of the picture's own.
 void paintHills(QPainter& painter, const QSizeF& size, qreal height, qreal phase, const QColor& colour)
 {
     QPolygonF hills{ QPointF(0, size.height()) };
@@ -30,7 +30,7 @@ void paintHills(QPainter& painter, const QSizeF& size, qreal height, qreal phase
     painter.drawPolygon(hills);
 }
 
-/// Evening landscapes, each in its own light.
+// Evening landscapes, each in its own light.
 QImage landscape(int i, int count)
 {
     QImage image(1200, 800, QImage::Format_RGB32);

@@ -33,7 +33,7 @@ QByteArray run(const QString& program, const QStringList& arguments, const QList
     return process.readAllStandardOutput();
 }
 
-/// The real tool, started once for all its runs: to start takes it longer than to read or write a photo.
+// The real tool, started once for all its runs: to start takes it longer than to read or write a photo.
 class StayingTool {
 public:
     QByteArray run(const QStringList& arguments)
@@ -70,8 +70,8 @@ private:
     QProcess m_process;
 };
 
-/// Records the call in a directory of its own (making it also numbers the call, whatever runs at once), then
-/// does what the answer's files say.
+// Records the call in a directory of its own (making it also numbers the call, whatever runs at once), then
+// does what the answer's files say.
 const char* const fakeToolScript = R"perl(#!/usr/bin/perl
 use strict; use warnings;
 my ($dir) = $0 =~ m{^(.*)/};

@@ -16,14 +16,14 @@ namespace {
 const QString tree = QString::fromUtf8(QUORBEL_TREE);
 const QString qtHeaders = QString::fromUtf8(QUORBEL_QT_HEADERS);
 
-/// What the files below one folder may include. The row with the longest matching folder decides.
+// What the files below one folder may include. The row with the longest matching folder decides.
 struct Floor {
     QString folder;
-    QStringList ours;  ///< folders of the tree, with all below them
-    QStringList modules;  ///< of Qt
-    /// Headers that are neither ours, nor Qt's, nor the C++ library's; "folder/" allows all in it.
+    QStringList ours;  // folders of the tree, with all below them
+    QStringList modules;  // of Qt
+    // Headers that are neither ours, nor Qt's, nor the C++ library's; "folder/" allows all in it.
     QStringList others{};
-    bool mayReachOut = true;  ///< to processes and files
+    bool mayReachOut = true;  // to processes and files
 };
 
 const QList<Floor>& floors()
@@ -56,8 +56,8 @@ const QList<Floor>& floors()
     return rows;
 }
 
-/// Processes and files in the modules that the views may use, by the header that declares them, and in the C++
-/// library. The headers of whole modules are among them: they bring all the others.
+// Processes and files in the modules that the views may use, by the header that declares them, and in the C++
+// library. The headers of whole modules are among them: they bring all the others.
 const QStringList& outside()
 {
     static const QStringList headers{ u"qprocess.h"_s, u"qfile.h"_s, u"qfileinfo.h"_s, u"qfiledevice.h"_s, u"qdir.h"_s,
@@ -69,7 +69,7 @@ const QStringList& outside()
     return headers;
 }
 
-/// Where a wall has a door, each with its reason. One that nothing passes any more fails the test.
+// Where a wall has a door, each with its reason. One that nothing passes any more fails the test.
 struct Door {
     QString file;
     QString header;
@@ -83,8 +83,8 @@ const QList<Door>& doors()
     return all;
 }
 
-/// The header of Qt that <name> or <Module/name> means: its module, and the file that declares it ("QFile" only
-/// includes "qfile.h"). Both empty for a name that Qt does not have.
+// The header of Qt that <name> or <Module/name> means: its module, and the file that declares it ("QFile" only
+// includes "qfile.h"). Both empty for a name that Qt does not have.
 struct QtHeader {
     QString module;
     QString file;
@@ -131,7 +131,7 @@ const Floor* floorOf(const QString& file)
     return found;
 }
 
-/// The file of ours that an include means, from the root of the tree; empty when it is none.
+// The file of ours that an include means, from the root of the tree; empty when it is none.
 QString ownFile(const QString& file, const QString& include)
 {
     const QString beside = QDir::cleanPath(file.section(u'/', 0, -2) + u'/' + include);
@@ -141,7 +141,7 @@ QString ownFile(const QString& file, const QString& include)
     return isBelow(path, { u"tests"_s, u"bench"_s }) || floorOf(path) ? path : QString();
 }
 
-/// Why the file may not use that header; empty when it may.
+// Why the file may not use that header; empty when it may.
 QString wall(const QString& file, const QString& include)
 {
     const Floor* floor = floorOf(file);
@@ -167,7 +167,7 @@ QString wall(const QString& file, const QString& include)
     return isAllowed ? QString() : knowsNo + u'<' + include + u'>';
 }
 
-/// What is included on that line, and what of Qt is named there outside comments and texts.
+// What is included on that line, and what of Qt is named there outside comments and texts.
 QStringList headersOn(QString line)
 {
     static const QRegularExpression include(u"^\\s*#\\s*(?:include|include_next|import)\\s*[<\"]?([^>\"]*)"_s);

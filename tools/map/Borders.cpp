@@ -17,10 +17,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int columns = 180;  // bins of 2°
-/// Corners closer than this, a metre, are one: neighbours then have the same edges.
+// Corners closer than this, a metre, are one: neighbours then have the same edges.
 constexpr double step = 1e-5;
 
-/// A corner on the grid of steps, in one number so that it can be hashed.
+// A corner on the grid of steps, in one number so that it can be hashed.
 using Corner = quint64;
 
 Corner cornerAt(double longitude, double latitude)
@@ -38,7 +38,7 @@ struct Ring {
     QList<Corner> corners{};
 };
 
-/// The geopackage's geometry: a header, then polygons as well-known binary.
+// The geopackage's geometry: a header, then polygons as well-known binary.
 class Geometry {
 public:
     Geometry(const QByteArray& bytes, QString country, QList<Ring>& rings)
@@ -143,7 +143,7 @@ Edge edgeBetween(Corner a, Corner b)
     return a < b ? Edge{ a, b } : Edge{ b, a };
 }
 
-/// What runs along an edge, found out by looking at every ring that has it.
+// What runs along an edge, found out by looking at every ring that has it.
 struct Neighbours {
     QString country{};
     bool isShared = false;

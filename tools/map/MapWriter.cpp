@@ -19,7 +19,7 @@ void put(QByteArray& bytes, T value)
     bytes.append(reinterpret_cast<const char*>(&little), sizeof little);
 }
 
-/// Where along a…b, from 0 to 1, the coordinate passes multiples of the step.
+// Where along a…b, from 0 to 1, the coordinate passes multiples of the step.
 void appendCrossings(QList<double>& at, double a, double b, double step)
 {
     const auto [low, high] = std::minmax(a, b);

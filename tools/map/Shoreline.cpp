@@ -25,7 +25,7 @@ public:
     ~NetCdf() { nc_close(m_id); }
     Q_DISABLE_COPY_MOVE(NetCdf)
 
-    /// A whole variable of one dimension. What the file holds as 16 bits is meant without sign.
+    // A whole variable of one dimension. What the file holds as 16 bits is meant without sign.
     std::vector<int> numbers(const char* name) const
     {
         int variable = 0;
@@ -57,7 +57,7 @@ private:
     int m_id = 0;
 };
 
-/// What shore and river files have in common: bins of segments of points.
+// What shore and river files have in common: bins of segments of points.
 struct Segments {
     explicit Segments(const NetCdf& file)
         : minutes(file.number("Bin_size_in_minutes"))
@@ -106,10 +106,10 @@ struct Segments {
 
 enum Side { south, east, north, west, inside };
 
-/// A piece of shore from one point of the bin's edge to another.
+// A piece of shore from one point of the bin's edge to another.
 struct Piece {
     QList<BinPoint> points{};
-    int start = 0;  ///< along the bin's edge, anticlockwise from the south-west corner
+    int start = 0;  // along the bin's edge, anticlockwise from the south-west corner
     int end = 0;
     bool isUsed = false;
 };
@@ -131,13 +131,13 @@ int alongEdge(BinPoint point, int side)
 constexpr int wholeEdge = 4 * edge;
 constexpr std::array<BinPoint, 4> corners{ { { 0, 0 }, { edge, 0 }, { edge, edge }, { 0, edge } } };
 
-/// How far it is along the edge, in the direction in which polygons of this kind are closed.
+// How far it is along the edge, in the direction in which polygons of this kind are closed.
 int walk(int from, int to, bool isAnticlockwise)
 {
     return ((isAnticlockwise ? to - from : from - to) + wholeEdge) % wholeEdge;
 }
 
-/// Adds the corners that lie strictly between two places on the edge, in the order in which they are passed.
+// Adds the corners that lie strictly between two places on the edge, in the order in which they are passed.
 void appendCorners(QList<BinPoint>& ring, int from, int distance, bool isAnticlockwise)
 {
     std::array<std::pair<int, int>, 4> order{};
@@ -150,7 +150,7 @@ void appendCorners(QList<BinPoint>& ring, int from, int distance, bool isAnticlo
     }
 }
 
-/// Closes pieces into rings: from the end of each along the edge to where the next one starts.
+// Closes pieces into rings: from the end of each along the edge to where the next one starts.
 QList<QList<BinPoint>> close(QList<Piece>& pieces, bool isAnticlockwise)
 {
     QList<QList<BinPoint>> rings;
@@ -191,7 +191,7 @@ double signedArea(const QList<BinPoint>& ring)
     return twice / 2;
 }
 
-/// The shore file's own tables.
+// The shore file's own tables.
 class ShoreFile {
 public:
     explicit ShoreFile(const QString& path)
@@ -217,8 +217,8 @@ public:
     }
 
 private:
-    /// Of each segment: bits 0…2 the side where it leaves the bin, 3…5 where it enters, 6…8 the level, then the number
-    /// of points.
+    // Of each segment: bits 0…2 the side where it leaves the bin, 3…5 where it enters, 6…8 the level, then the number
+    // of points.
     void addLevel(MapWriter& writer, int bin, int level) const
     {
         constexpr int groundingLine = 2;  // of the Antarctic ice, inland of the shore
@@ -244,14 +244,14 @@ private:
             addRing(writer, bin, level, ring);
     }
 
-    /// The levels of the four corners are kept in three bits each.
+    // The levels of the four corners are kept in three bits each.
     int lowestCorner(int bin) const
     {
         const auto packed = unsigned(m_corners[size_t(bin)]);
         return int(std::min({ packed & 7U, (packed >> 3U) & 7U, (packed >> 6U) & 7U, (packed >> 9U) & 7U }));
     }
 
-    /// Turned anticlockwise, so that neighbours can be filled as one.
+    // Turned anticlockwise, so that neighbours can be filled as one.
     static void addRing(MapWriter& writer, int bin, int level, QList<BinPoint> ring)
     {
         ring.erase(std::unique(ring.begin(), ring.end()), ring.end());

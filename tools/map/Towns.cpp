@@ -14,10 +14,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int columns = 180;  // bins of 2°
-/// A bin of the earth has few towns that matter; names beyond this never reach a map.
+// A bin of the earth has few towns that matter; names beyond this never reach a map.
 constexpr qsizetype longestName = 60;  // bytes
 
-/// Rank is a tenth of a power of ten people, capitals and seats of states before others of their size.
+// Rank is a tenth of a power of ten people, capitals and seats of states before others of their size.
 constexpr double ranksPerPowerOfTen = 30;
 constexpr int capitalBonus = 40;
 constexpr int seatBonus = 12;
@@ -35,7 +35,7 @@ QList<QList<QByteArray>> readTable(const QString& path)
     return rows;
 }
 
-/// Sections of cities and places that are no more: their names would stand beside the city's own.
+// Sections of cities and places that are no more: their names would stand beside the city's own.
 bool isNamed(const QByteArray& code)
 {
     static const QSet<QByteArray> others{ "PPLX", "PPLQ", "PPLH", "PPLW", "PPLCH", "STLMT", "PPLL", "PPLF" };
@@ -56,7 +56,7 @@ Town townOf(const QList<QByteArray>& row)
     return town;
 }
 
-/// In Antarctica nothing else could be named.
+// In Antarctica nothing else could be named.
 QList<Town> antarcticLandmarks(const QString& path)
 {
     enum { name = 0, country = 4, latitude = 5, longitude = 6, columnCount = 7 };

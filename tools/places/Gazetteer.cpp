@@ -39,7 +39,7 @@ QString text(const QJsonValue& object, const char* key)
     return object[QLatin1String(key)].toString();
 }
 
-/// One text, or a list of them.
+// One text, or a list of them.
 QStringList texts(const QJsonValue& value)
 {
     if (!value.isArray())
@@ -52,7 +52,7 @@ QStringList texts(const QJsonValue& value)
 
 // Countries and states ------------------------------------------------------------------------------------------------
 
-/// Languages whose names of countries are found, besides English.
+// Languages whose names of countries are found, besides English.
 constexpr std::array languages{ "en", "de", "fr", "es", "it", "pt", "nl", "da", "sv", "nb", "fi", "pl", "cs", "hu",
     "ro", "el", "ru", "uk", "tr", "ar", "he", "ja", "ko", "zh" };
 
@@ -101,8 +101,8 @@ void readStates(const Sources& sources, Gazetteer& gazetteer)
     }
 }
 
-/// ISO 3166-2 code of a state → our state, where the two sources agree on its name or code. What people type
-/// ("nsw", "on") is learnt on the way.
+// ISO 3166-2 code of a state → our state, where the two sources agree on its name or code. What people type
+// ("nsw", "on") is learnt on the way.
 QHash<QString, int> matchRegions(const Sources& sources, Gazetteer& gazetteer)
 {
     QHash<QString, int> matches;
@@ -125,8 +125,8 @@ QHash<QString, int> matchRegions(const Sources& sources, Gazetteer& gazetteer)
 
 // Towns ---------------------------------------------------------------------------------------------------------------
 
-/// Whether an alternate name is one that people would type. The source mixes in web addresses and transcriptions
-/// syllable by syllable, all in lower case.
+// Whether an alternate name is one that people would type. The source mixes in web addresses and transcriptions
+// syllable by syllable, all in lower case.
 bool isUsefulAlternate(const QString& name)
 {
     if (name.size() < 2 || name.size() > 60 || name.startsWith(u"http"))
@@ -150,7 +150,7 @@ QStringList usefulAlternates(const QString& name, const QStringList& candidates)
     return kept;
 }
 
-/// Places of the source that nobody lives in any more.
+// Places of the source that nobody lives in any more.
 bool isAbandoned(const QString& feature)
 {
     return feature == u"PPLH" || feature == u"PPLQ" || feature == u"PPLW" || feature == u"PPLCH";
@@ -187,7 +187,7 @@ FreshTowns readFreshTowns(const QString& path)
     return fresh;
 }
 
-/// Columns of the towns file.
+// Columns of the towns file.
 enum Column {
     nameColumn = 1,
     asciiColumn = 2,

@@ -8,12 +8,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A park's or a peak's town can be a good drive away.
+// A park's or a peak's town can be a good drive away.
 constexpr double townDistance = 100;  // km
-/// Summits stand on borders, some borders are disputed, some countries are smaller than a cell of the raster: where
-/// neither the area nor the nearest town is of the country, one of its towns this near will do.
+// Summits stand on borders, some borders are disputed, some countries are smaller than a cell of the raster: where
+// neither the area nor the nearest town is of the country, one of its towns this near will do.
 constexpr double borderDistance = 20;  // km
-/// Above small towns of the same name, below cities.
+// Above small towns of the same name, below cities.
 constexpr double landmarkRank = 7;
 
 const QString header = u"name\talternates\ttown\tstate\tcountry\tlatitude\tlongitude"_s;

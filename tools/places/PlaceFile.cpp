@@ -43,7 +43,7 @@ const auto finish = QStringList{
     u"VACUUM"_s,
 };
 
-/// Alternate names of towns at least this large are searched for misspellings, too.
+// Alternate names of towns at least this large are searched for misspellings, too.
 constexpr qint64 largeTown = 100'000;
 
 class Writer {
@@ -82,7 +82,7 @@ private:
     QSqlDatabase m_database;
 };
 
-/// Cells of a quarter degree, row by row from the south pole.
+// Cells of a quarter degree, row by row from the south pole.
 int cellOf(Point point)
 {
     const int row = std::clamp(int(std::floor((point.latitude + 90) * 4)), 0, 719);
@@ -123,8 +123,8 @@ QString contextOf(const Entry& entry, const Gazetteer& gazetteer)
     return context.join(u' ');
 }
 
-/// One record for each folded name of the entry that consists of ASCII letters: its length in one byte, the place's
-/// number in three, low byte first, and the name.
+// One record for each folded name of the entry that consists of ASCII letters: its length in one byte, the place's
+// number in three, low byte first, and the name.
 QByteArray spellingsOf(const Entry& entry, int id)
 {
     QStringList names{ entry.name };

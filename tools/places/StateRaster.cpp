@@ -18,7 +18,7 @@ namespace {
 
 constexpr quint16 sea = 0xFFFF;
 
-/// Reads the geometry of a geopackage: a header, then well-known binary.
+// Reads the geometry of a geopackage: a header, then well-known binary.
 class GeometryReader {
 public:
     explicit GeometryReader(const QByteArray& bytes)
@@ -131,7 +131,7 @@ double middle(int cell, double start)
     return start + (cell + 0.5) / StateRaster::cellsPerDegree;
 }
 
-/// Calls visit(row, first column, past the last) for the cells whose middles lie inside the rings (even-odd).
+// Calls visit(row, first column, past the last) for the cells whose middles lie inside the rings (even-odd).
 template <typename Visit>
 void visitInside(const QList<Ring>& rings, Visit visit)
 {

@@ -18,7 +18,7 @@ namespace Quorbel {
 
 namespace {
 
-/// Buttons, check boxes, switches: what they are called, whether they are on, and how to press them.
+// Buttons, check boxes, switches: what they are called, whether they are on, and how to press them.
 class ButtonDescription final : public QAccessibleWidget {
 public:
     ButtonDescription(QAbstractButton* button, QAccessible::Role role)
@@ -67,7 +67,7 @@ private:
     QAbstractButton* m_button;
 };
 
-/// A number between two limits.
+// A number between two limits.
 struct NumberAccess {
     std::function<double()> get{};
     std::function<void(double)> set{};
@@ -116,7 +116,7 @@ QAccessibleInterface* describeHandle(ResizeHandle* handle)
         handle, QAccessible::Splitter, { get, set, handle->minWidth(), handle->maxWidth(), 10 });
 }
 
-/// One of a few choices: its value is the title of the current one.
+// One of a few choices: its value is the title of the current one.
 class PickerDescription final : public QAccessibleWidget {
 public:
     explicit PickerDescription(SegmentedPicker* picker)
@@ -136,7 +136,7 @@ private:
     SegmentedPicker* m_picker;
 };
 
-/// One suggestion: drawn by its list, so not a widget.
+// One suggestion: drawn by its list, so not a widget.
 class SuggestionRowDescription final : public QAccessibleInterface {
 public:
     SuggestionRowDescription(SuggestionList* list, int row)

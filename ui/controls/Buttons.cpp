@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Three colours, blended as far as the pointer and the press have come.
+// Three colours, blended as far as the pointer and the press have come.
 QColor stateColor(const HoverFade& fade, const QColor& rest, const QColor& hover, const QColor& pressed)
 {
     return mixed(mixed(rest, hover, fade.hover()), pressed, fade.pressed());

@@ -30,7 +30,7 @@ constexpr qreal entryWidth = 110;  // points, at least
 constexpr int mostCompletions = 8;
 }  // namespace
 
-/// One keyword: a capsule in a 28-point cell, with a cross.
+// One keyword: a capsule in a 28-point cell, with a cross.
 class KeywordChip final : public QWidget {
     Q_OBJECT
 
@@ -109,7 +109,7 @@ private:
     bool m_amber = false;
 };
 
-/// The field behind the chips: hands a paste of several keywords over as several.
+// The field behind the chips: hands a paste of several keywords over as several.
 class KeywordEntry final : public QBTextField {
     Q_OBJECT
 
@@ -262,7 +262,7 @@ void KeywordEditor::resizeEvent(QResizeEvent* event)
     updateHeight();
 }
 
-/// No chip is wider than a line.
+// No chip is wider than a line.
 void KeywordEditor::limitChips()
 {
     for (KeywordChip* chip : std::as_const(m_chipWidgets))

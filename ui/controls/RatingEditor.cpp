@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int stars = 5;
-/// How far the first cell reaches beyond the left edge, so that its star, and not the cell, is in line with the fields.
+// How far the first cell reaches beyond the left edge, so that its star, and not the cell, is in line with the fields.
 constexpr int inset = 6;
 }  // namespace
 

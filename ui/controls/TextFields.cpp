@@ -26,10 +26,10 @@ namespace Quorbel {
 
 namespace {
 
-/// QLineEdit keeps this much free at both ends, whatever its margins.
+// QLineEdit keeps this much free at both ends, whatever its margins.
 constexpr int builtInMargin = 2;
 
-/// The ground comes from our own frame, the placeholder from our own drawing.
+// The ground comes from our own frame, the placeholder from our own drawing.
 QPalette textPalette(const Theme& theme)
 {
     QPalette colors = paletteFor(theme);
@@ -46,7 +46,7 @@ bool clipboardHasText()
     return data && data->hasText();
 }
 
-/// One line of the edit menu.
+// One line of the edit menu.
 struct EditItem {
     const char* title;
     QKeySequence::StandardKey key;

@@ -17,8 +17,8 @@ namespace {
 constexpr qreal radius = 9;  // points
 constexpr const char* headerProperty = "quorbelHeader";
 
-/// Sizes only: QMenu asks its style how high a row is, and a style sheet is the way to answer without a style of our
-/// own. Every colour and stroke is drawn by ThemedMenu::paintEvent().
+// Sizes only: QMenu asks its style how high a row is, and a style sheet is the way to answer without a style of our
+// own. Every colour and stroke is drawn by ThemedMenu::paintEvent().
 QString rowSizes()
 {
     return u"QMenu { border: 0; background: transparent; padding: %1px; }"

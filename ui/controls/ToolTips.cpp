@@ -20,7 +20,7 @@ namespace {
 constexpr qreal widestTip = 320;
 constexpr qreal radius = 6;
 
-/// One tooltip on screen, in the theme of the widget that it explains.
+// One tooltip on screen, in the theme of the widget that it explains.
 class Tip final : public QLabel {
 public:
     Tip(QWidget* owner, const QString& text)
@@ -58,7 +58,7 @@ protected:
     }
 };
 
-/// A widget's own, or that of the row of a list that lies there.
+// A widget's own, or that of the row of a list that lies there.
 QString textAt(const QWidget& widget, QPoint pos)
 {
     const auto* view = qobject_cast<const QAbstractItemView*>(widget.parentWidget());

@@ -140,7 +140,7 @@ void FieldRow::showLines()
     }
 }
 
-/// For screen readers: what is seen around the editor.
+// For screen readers: what is seen around the editor.
 void FieldRow::describe()
 {
     QStringList told;

@@ -30,7 +30,7 @@ constexpr qreal bottom = 16;
 
 constexpr int mostCompletions = 8;
 
-/// Header and banner keep the room that sections leave for the dots.
+// Header and banner keep the room that sections leave for the dots.
 QWidget* indented(QWidget* widget)
 {
     auto* holder = new QWidget;
@@ -246,7 +246,7 @@ void InspectorForm::toggle(const FieldSpec& field)
         m_model.toggleBatchInclude(field.id);
 }
 
-/// Top to bottom, as the sections stand: rows are made in the order in which photos need them.
+// Top to bottom, as the sections stand: rows are made in the order in which photos need them.
 void InspectorForm::orderTabStops()
 {
     QList<QWidget*> stops;

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A text that is the same but for the photo it belongs to: no undo may lead back into another photo.
+// A text that is the same but for the photo it belongs to: no undo may lead back into another photo.
 template <typename Field>
 void showText(Field* field, const FieldRowState& state, bool fresh)
 {
@@ -100,7 +100,7 @@ RowEditor dateEditor(const std::function<QDateTime()>& now, FieldRow& row)
             } };
 }
 
-/// Keeps an editor of its own width at the left.
+// Keeps an editor of its own width at the left.
 QWidget* leftAligned(QWidget* editor, FieldRow& row)
 {
     auto* holder = new QWidget(&row);

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The text that filling the place fields with this result puts into the place field; nothing when it leaves it alone.
+// The text that filling the place fields with this result puts into the place field; nothing when it leaves it alone.
 std::optional<QString> placeText(const LocationFill::Result& result)
 {
     const auto assignments = LocationFill::assignments(result, [](const QString&) { return false; });

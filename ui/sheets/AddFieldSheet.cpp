@@ -24,7 +24,7 @@ namespace {
 // Points.
 constexpr qreal buttonsAbove = 22;
 
-/// The fields whose label, note or tag hint contains the query, in their order.
+// The fields whose label, note or tag hint contains the query, in their order.
 QList<FieldSpec> filteredFields(const QList<FieldSpec>& fields, const QString& query)
 {
     const QString wanted = Text::trimmed(query).toLower();
@@ -124,7 +124,7 @@ void AddFieldSheet::filter()
     m_list->setFields(filteredFields(m_model.addableKnownFields(), m_query->text()), none);
 }
 
-/// Says under the name what stands in the way of storing it, or what it will be stored as.
+// Says under the name what stands in the way of storing it, or what it will be stored as.
 void AddFieldSheet::judgeName()
 {
     const QString typed = m_name->text();

@@ -153,7 +153,7 @@ void AddableFieldList::setTabPredecessor(QWidget* widget)
     orderTabStops();
 }
 
-/// Rows are made late, but do not stand at the end.
+// Rows are made late, but do not stand at the end.
 void AddableFieldList::orderTabStops()
 {
     QWidget* before = m_tabPredecessor;

@@ -23,7 +23,7 @@ namespace {
 constexpr qreal renameWidth = 440;
 constexpr int chipGap = 6;
 
-/// The token chips, as high as their lines.
+// The token chips, as high as their lines.
 class TokenFlow final : public QWidget {
 public:
     TokenFlow() { new FlowLayout(px(chipGap), this); }

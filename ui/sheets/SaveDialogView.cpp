@@ -29,7 +29,7 @@ constexpr qreal changeSide = 12;
 constexpr qreal changeAbove = 6;
 constexpr qreal mostListHeight = 190;
 
-/// What a batch write will change in one field.
+// What a batch write will change in one field.
 struct ChangeLine {
     QString label{};
     QString value{};
@@ -48,7 +48,7 @@ QString titleText(const AppModel& model)
     return u"Save changes to “"_s + (record ? record->fileName : QString()) + u"”?"_s;
 }
 
-/// Scalar fields by id, then lists by id. Empty for one photo.
+// Scalar fields by id, then lists by id. Empty for one photo.
 QList<ChangeLine> changeLines(const AppModel& model)
 {
     if (isSingle(model))
@@ -81,7 +81,7 @@ QString messageText(const AppModel& model)
         fields, QString::number(model.selection().size()));
 }
 
-/// The rows of the change list, with a hairline between them.
+// The rows of the change list, with a hairline between them.
 class ChangeTable final : public QWidget {
 public:
     explicit ChangeTable(const QList<ChangeLine>& lines)
@@ -113,7 +113,7 @@ private:
     QGridLayout* m_grid;
 };
 
-/// A framed list as high as its content, up to a limit beyond which it scrolls.
+// A framed list as high as its content, up to a limit beyond which it scrolls.
 class ChangeList final : public ScrollArea {
 public:
     explicit ChangeList(const QList<ChangeLine>& lines)

@@ -31,7 +31,7 @@ SheetBody::SheetBody(QWidget* parent)
 {
 }
 
-/// A body with its title bar, ground and keys.
+// A body with its title bar, ground and keys.
 class SheetFrame final : public QWidget {
     Q_OBJECT
 
@@ -53,7 +53,7 @@ public:
 
     SheetBody* body() const { return m_body; }
 
-    /// Fades and moves the sheet in.
+    // Fades and moves the sheet in.
     void fadeIn()
     {
         setGraphicsEffect(new QGraphicsOpacityEffect(this));
@@ -62,7 +62,7 @@ public:
 
     qreal shown() const { return m_shown.value(); }
 
-    /// Centred in the host, and inside it wherever it fits.
+    // Centred in the host, and inside it wherever it fits.
     void place()
     {
         const QWidget* host = parentWidget();
@@ -73,7 +73,7 @@ public:
             qMin(size.height(), host->height() - 2 * margin));
     }
 
-    /// The next or previous thing inside the sheet that takes Tab, going round; the sheet itself when nothing does.
+    // The next or previous thing inside the sheet that takes Tab, going round; the sheet itself when nothing does.
     QWidget* nextStop(bool next)
     {
         QWidget* start = QApplication::focusWidget();

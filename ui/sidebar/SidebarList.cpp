@@ -91,7 +91,7 @@ void SidebarList::showPrimary()
     scrollTo(m_rows.index(row));
 }
 
-/// The selected rows as ranges, in time proportional to the smaller of selection and list.
+// The selected rows as ranges, in time proportional to the smaller of selection and list.
 QItemSelection SidebarList::selectedRanges() const
 {
     QList<int> rows;
@@ -117,7 +117,7 @@ QItemSelection SidebarList::selectedRanges() const
     return ranges;
 }
 
-/// Nothing that Qt's view does on its own changes the selection: AppModel's is the only one.
+// Nothing that Qt's view does on its own changes the selection: AppModel's is the only one.
 QItemSelectionModel::SelectionFlags SidebarList::selectionCommand(const QModelIndex&, const QEvent*) const
 {
     return QItemSelectionModel::NoUpdate;
@@ -173,7 +173,7 @@ void SidebarList::initViewItemOption(QStyleOptionViewItem* option) const
     option->state.setFlag(QStyle::State_KeyboardFocusChange, m_byKeyboard);
 }
 
-/// Whether the current row has to show that the keyboard is on it.
+// Whether the current row has to show that the keyboard is on it.
 void SidebarList::setByKeyboard(bool on)
 {
     if (on == std::exchange(m_byKeyboard, on))
@@ -201,7 +201,7 @@ void SidebarList::keyPressEvent(QKeyEvent* event)
     event->accept();
 }
 
-/// The row where a key leads to from `row`; -1 when it is no key of movement.
+// The row where a key leads to from `row`; -1 when it is no key of movement.
 int SidebarList::rowAfter(int key, int row) const
 {
     const int last = m_rows.rowCount() - 1;
@@ -240,13 +240,13 @@ bool SidebarList::moveCursor(const QKeyEvent& event)
     return true;
 }
 
-/// Whether the next letter belongs to the name being typed.
+// Whether the next letter belongs to the name being typed.
 bool SidebarList::isTyping() const
 {
     return !m_typed.isEmpty() && m_sinceTyped.elapsed() <= QApplication::keyboardInputInterval();
 }
 
-/// Goes to the next photo whose name begins with what was typed; one letter again and again goes through all of them.
+// Goes to the next photo whose name begins with what was typed; one letter again and again goes through all of them.
 void SidebarList::keyboardSearch(const QString& text)
 {
     if (!isTyping())
@@ -289,7 +289,7 @@ void SidebarList::mouseReleaseEvent(QMouseEvent* event)
     event->accept();
 }
 
-/// Opens the photo; the selection was made by the first of the two clicks.
+// Opens the photo; the selection was made by the first of the two clicks.
 void SidebarList::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const ImageRecord* photo = m_rows.record(indexAt(event->position().toPoint()).row());

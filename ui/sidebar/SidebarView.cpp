@@ -28,7 +28,7 @@ constexpr qreal sidePadding = 12;
 constexpr qreal rightPadding = 2;  // room for a focus ring: the handle beside it is empty space too
 constexpr qreal findHeight = 41;  // the field, 10 below it, the hairline
 
-/// "3 / 120", the selected ones stronger.
+// "3 / 120", the selected ones stronger.
 class CountLabel final : public QLabel {
 public:
     explicit CountLabel(AppModel& model)
@@ -163,7 +163,7 @@ void SidebarView::focusSearch()
     m_search->selectAll();
 }
 
-/// From the search field, Down and Return lead to what was found, and Escape shows all photos again.
+// From the search field, Down and Return lead to what was found, and Escape shows all photos again.
 bool SidebarView::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_search && event->type() == QEvent::KeyPress) {

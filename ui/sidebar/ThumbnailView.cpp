@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What follows the last dot; empty without one.
+// What follows the last dot; empty without one.
 QString suffix(const QString& fileName)
 {
     return fileName.mid(fileName.lastIndexOf(u'.') + 1, fileName.contains(u'.') ? -1 : 0);

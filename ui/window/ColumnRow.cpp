@@ -14,7 +14,7 @@ namespace {
 constexpr int previewShare = 375;
 constexpr int greatestInspector = 520;
 
-/// The inspector's beside a shown preview, for a row `width` wide.
+// The inspector's beside a shown preview, for a row `width` wide.
 int inspectorWidth(int width, int sidebar, int handle)
 {
     return qBound(Columns::minInspector, width - sidebar - handle - previewShare, greatestInspector);

@@ -38,15 +38,15 @@ QString previewEnabledKey()
     return u"previewEnabled"_s;
 }
 
-/// Pixels beyond the threshold to which a window is grown for the preview, so that the column really appears.
+// Pixels beyond the threshold to which a window is grown for the preview, so that the column really appears.
 constexpr int growthBeyondThreshold = 80;
-/// Milliseconds for which expected photos keep the launch view away. It shows their progress, which begins then.
+// Milliseconds for which expected photos keep the launch view away. It shows their progress, which begins then.
 constexpr int launchPatience = 300;
 // Points: from the banner to the footers, and to the lower edge of the launch view.
 constexpr qreal bannerOverFooter = 54 + 16;
 constexpr qreal bannerOverEdge = 20;
 
-/// Carries the sidebar's hairlines on across the empty part of the resize handle beside it.
+// Carries the sidebar's hairlines on across the empty part of the resize handle beside it.
 class HandleLines final : public QWidget {
 public:
     HandleLines(SidebarView* sidebar, ResizeHandle* handle)
@@ -81,7 +81,7 @@ private:
     SidebarView* m_sidebar;
 };
 
-/// A stored number, or the default where there is none.
+// A stored number, or the default where there is none.
 double storedWidth(const QSettings& preferences)
 {
     bool isNumber = false;

@@ -31,7 +31,7 @@ constexpr qreal crossSize = 22;
 constexpr qreal shadowRoom = 44;  // on every side of the notice
 constexpr int mostLines = 6;
 
-/// The banner's shadow: a widget of its own below it, so that clicks beside the notice reach what they are meant for.
+// The banner's shadow: a widget of its own below it, so that clicks beside the notice reach what they are meant for.
 class BannerShadow final : public QWidget {
 public:
     explicit BannerShadow(QWidget* parent)
@@ -66,7 +66,7 @@ ErrorBanner::ErrorBanner(AppModel& model, QWidget* parent)
     follow();
 }
 
-/// In one paragraph: only the name of a file could break it, which would read like two names.
+// In one paragraph: only the name of a file could break it, which would read like two names.
 QString ErrorBanner::message() const
 {
     return m_model.errorMessage().value_or(QString()).replace(u'\n', u' ');

@@ -9,7 +9,7 @@ namespace Quorbel {
 
 namespace {
 
-/// Those items that are file URLs; other items of a mixed drop are left out.
+// Those items that are file URLs; other items of a mixed drop are left out.
 QList<QUrl> fileUrls(const QMimeData& data)
 {
     QList<QUrl> files;

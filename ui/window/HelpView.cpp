@@ -34,7 +34,7 @@ constexpr qreal sidePadding = 36;
 constexpr qreal topicHeight = 34;
 constexpr qreal topicRadius = 7;
 
-/// Paints one topic: its symbol and its title.
+// Paints one topic: its symbol and its title.
 class TopicDelegate final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -64,7 +64,7 @@ public:
     }
 };
 
-/// Wrapped text with 20 points from line to line, which QLabel cannot be told.
+// Wrapped text with 20 points from line to line, which QLabel cannot be told.
 class Paragraph final : public QLabel {
 public:
     explicit Paragraph(const QString& text)
@@ -99,7 +99,7 @@ protected:
     }
 
 private:
-    /// Calls `use` for each line with its top; the height of all.
+    // Calls `use` for each line with its top; the height of all.
     int forLines(int width, const std::function<void(QTextLine&, int)>& use) const
     {
         int y = 0;
@@ -112,7 +112,7 @@ private:
     }
 };
 
-/// A line of a bulleted list.
+// A line of a bulleted list.
 QWidget* bulletLine(const QString& text)
 {
     class Bullet final : public QWidget {

@@ -71,7 +71,7 @@ void PreviewColumnView::showEvent(QShowEvent* event)
     follow();
 }
 
-/// The primary photo, then others of the selection in the list's order.
+// The primary photo, then others of the selection in the list's order.
 QList<QUrl> PreviewColumnView::shownUrls() const
 {
     QList<QUrl> urls;

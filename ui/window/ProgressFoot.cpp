@@ -26,7 +26,7 @@ constexpr qreal barHeight = 4;
 
 }  // namespace
 
-/// A thin determinate bar that moves evenly from one value to the next.
+// A thin determinate bar that moves evenly from one value to the next.
 class ProgressBar final : public QWidget {
 public:
     explicit ProgressBar(QWidget* parent)
@@ -36,7 +36,7 @@ public:
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     }
 
-    /// 0…1. Backwards, as when other work begins, it jumps.
+    // 0…1. Backwards, as when other work begins, it jumps.
     void setFraction(qreal fraction)
     {
         if (fraction > m_shown.value())

@@ -28,7 +28,7 @@ constexpr qreal rowHeight = 40;
 constexpr qreal fieldRowHeight = 44;
 constexpr qreal patternWidth = 216;
 
-/// A white box with rows, lines between them.
+// A white box with rows, lines between them.
 class Group final : public QWidget {
 public:
     Group()
@@ -38,7 +38,7 @@ public:
         m_rows->setSpacing(1);
     }
 
-    /// A control with its name at the left, and a help line under both unless that is empty.
+    // A control with its name at the left, and a help line under both unless that is empty.
     void addRow(const QString& name, QWidget* control, const QString& help = {})
     {
         auto* row = new QWidget;

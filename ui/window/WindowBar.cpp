@@ -138,7 +138,7 @@ QString WindowBar::shownTitle() const
     return m_model.folderName().isEmpty() ? Product::name() : m_model.folderName();
 }
 
-/// Centred on the window, as long as both sides leave room for it.
+// Centred on the window, as long as both sides leave room for it.
 void WindowBar::paintTitles(QPainter& painter) const
 {
     const Theme& theme = Theme::of(this);

@@ -31,7 +31,7 @@ Edits Editing::unsaved() const
     return edits;
 }
 
-/// Tells observers, where there is something to tell.
+// Tells observers, where there is something to tell.
 void Editing::changed()
 {
     const Announcer::Together together(m_announcer);
@@ -227,7 +227,7 @@ void Editing::discard()
     restart();
 }
 
-/// No edit; the draft shows what the primary photo holds.
+// No edit; the draft shows what the primary photo holds.
 void Editing::restart()
 {
     m_batch = {};
@@ -270,7 +270,7 @@ void Editing::rebase()
     changed();
 }
 
-/// All but one of the selected photos disappeared: what was typed for all of them becomes that one's edits.
+// All but one of the selected photos disappeared: what was typed for all of them becomes that one's edits.
 void Editing::foldBatchIntoDraft()
 {
     if (const ImageRecord* record = m_selected.primaryRecord())
@@ -301,7 +301,7 @@ void Editing::takeSaved(const Edits& unsaved, const QList<QUrl>& failed, const Q
     rebase();
 }
 
-/// The selection shrinks to those of its photos that still wait for their edits, so that Save tries just them again.
+// The selection shrinks to those of its photos that still wait for their edits, so that Save tries just them again.
 void Editing::narrow(const QList<QUrl>& photos)
 {
     Selection rest = m_selected.selection();
@@ -322,8 +322,8 @@ void Editing::narrow(const QList<QUrl>& photos)
     changed();
 }
 
-/// Selects the photos that still wait, with their edits, unless the user edits others by now: then these edits wait
-/// until just their photos are selected again.
+// Selects the photos that still wait, with their edits, unless the user edits others by now: then these edits wait
+// until just their photos are selected again.
 void Editing::giveBack(Edits edits)
 {
     edits.subjects.removeIf([this](const QUrl& photo) { return !m_photos.contains(photo); });
@@ -341,7 +341,7 @@ void Editing::giveBack(Edits edits)
     put(edits);
 }
 
-/// Under what is being edited, for the selected photos.
+// Under what is being edited, for the selected photos.
 void Editing::put(const Edits& edits)
 {
     if (isBatch()) {

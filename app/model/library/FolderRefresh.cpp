@@ -95,7 +95,7 @@ void FolderRefresh::apply(const FolderScan& scan)
         watch();
 }
 
-/// Silent: what cannot be read stays as it is, or out. A file that the user skips is not asked for again.
+// Silent: what cannot be read stays as it is, or out. A file that the user skips is not asked for again.
 void FolderRefresh::read(const QList<QUrl>& urls, const Take& take)
 {
     m_isRefreshing = true;

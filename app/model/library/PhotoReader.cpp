@@ -19,10 +19,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What may be said about one path before ExifTool sees it.
+// What may be said about one path before ExifTool sees it.
 struct Check {
     bool isReadable = false;
-    QString reason{};  ///< why not; empty: not a file at all, nothing to say
+    QString reason{};  // why not; empty: not a file at all, nothing to say
 };
 
 QString systemReason(int error)
@@ -52,8 +52,8 @@ Check check(const QUrl& url)
     return { true, {} };
 }
 
-/// The photos of a folder repeat each other's texts: each text is held once. That saves memory, and tells texts equal
-/// by their address, without looking at them.
+// The photos of a folder repeat each other's texts: each text is held once. That saves memory, and tells texts equal
+// by their address, without looking at them.
 void shareTexts(QList<ImageRecord>& records)
 {
     QSet<QString> texts;
@@ -72,7 +72,7 @@ void shareTexts(QList<ImageRecord>& records)
 
 struct Readable {
     QUrl url{};
-    std::optional<QDateTime> modified{};  ///< before the read
+    std::optional<QDateTime> modified{};  // before the read
 };
 
 QList<QUrl> urlsOf(const QList<Readable>& photos)
@@ -84,7 +84,7 @@ QList<QUrl> urlsOf(const QList<Readable>& photos)
     return urls;
 }
 
-/// Leaves out the photos that the tool cannot make sense of. Whether there were any.
+// Leaves out the photos that the tool cannot make sense of. Whether there were any.
 bool leaveOutBroken(
     const MetadataService& service, QList<Readable>& photos, const ReadControl& control, QList<LeftOut>& leftOut)
 {
@@ -99,7 +99,7 @@ bool leaveOutBroken(
     return broken > 0;
 }
 
-/// Throws what the service throws.
+// Throws what the service throws.
 void readPhotos(const MetadataService& service, QList<Readable>& photos, TaskProgress& progress,
     const ReadControl& control, Result& result)
 {

@@ -140,7 +140,7 @@ const std::vector<int>& RecordIndex::sortedBy(RecordSortOrder order)
     return m_sorted;
 }
 
-/// The runs of equal names in reverse, each run in its own order: what a stable sort gives.
+// The runs of equal names in reverse, each run in its own order: what a stable sort gives.
 std::vector<int> RecordIndex::namesDescending() const
 {
     std::vector<int> result;

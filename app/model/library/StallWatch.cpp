@@ -11,7 +11,7 @@ namespace {
 
 constexpr int looksPerInterval = 20;
 
-/// Files that a process holds open; none when it is gone.
+// Files that a process holds open; none when it is gone.
 QSet<QString> openFiles(qint64 processID)
 {
     QSet<QString> paths;

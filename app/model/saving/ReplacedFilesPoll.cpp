@@ -12,7 +12,7 @@ namespace {
 using std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds shortestPause{ 100 };
-/// Of the time, at most one part in this many goes into looking, however many files there are.
+// Of the time, at most one part in this many goes into looking, however many files there are.
 constexpr int idleShare = 20;
 
 bool identity(const QByteArray& path, quint64& device, quint64& inode)

@@ -18,7 +18,7 @@ QString counted(qsizetype count)
     return count == 1 ? u"1 photo"_s : u"%1 photos"_s.arg(count);
 }
 
-/// Those of the photos that are, or link to, one of the files.
+// Those of the photos that are, or link to, one of the files.
 QList<QUrl> photosOf(const QList<QUrl>& files, const QList<QUrl>& photos)
 {
     const QSet<QUrl> wanted(files.cbegin(), files.cend());
@@ -32,7 +32,7 @@ QList<QUrl> photosOf(const QList<QUrl>& files, const QList<QUrl>& photos)
 
 }  // namespace
 
-/// The journal's mutex is held. Renames stay pending until they are stored: the journal on disk is the truth.
+// The journal's mutex is held. Renames stay pending until they are stored: the journal on disk is the truth.
 QList<JournalEntry> SaveHistory::load()
 {
     QList<JournalEntry> entries = SaveJournal::load(m_path);
@@ -115,8 +115,8 @@ SaveHistory::Undone SaveHistory::undo(const MetadataService& service, const QLis
     return undone;
 }
 
-/// Only what failed can be tried again, from where the failed attempt left it: a file that somebody else changed never
-/// becomes ours again.
+// Only what failed can be tried again, from where the failed attempt left it: a file that somebody else changed never
+// becomes ours again.
 void SaveHistory::forgetUndone(QList<JournalEntry>& entries, const UndoOutcome& outcome)
 {
     JournalEntry rest = entries.constLast();

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The tool is given the files behind symbolic links and names those; told of the targets that stand for them.
+// The tool is given the files behind symbolic links and names those; told of the targets that stand for them.
 QList<FileFailure> namedFailures(const ToolError& error, const QList<QUrl>& targets)
 {
     const QList<QUrl> files = SaveGuard::filesBehindLinks(targets);
@@ -29,7 +29,7 @@ QList<FileFailure> namedFailures(const ToolError& error, const QList<QUrl>& targ
     return failures;
 }
 
-/// What the save is about to replace; nothing when that cannot be found out.
+// What the save is about to replace; nothing when that cannot be found out.
 std::optional<JournalEntry> lookBefore(
     const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options)
 {

@@ -60,7 +60,7 @@ Saving::Saving(Announcer& announcer, RunningTasks& tasks, FolderRefresh& refresh
         openHistory(journalPath);
 }
 
-/// Whether there is anything to undo takes a look at the disk.
+// Whether there is anything to undo takes a look at the disk.
 void Saving::openHistory(const QString& journalPath)
 {
     m_history = std::make_shared<SaveHistory>(journalPath);

@@ -8,7 +8,7 @@ namespace Quorbel {
 
 namespace {
 
-/// Records mostly share the texts of their keys, and then nothing has to be compared.
+// Records mostly share the texts of their keys, and then nothing has to be compared.
 bool isSameText(const QString& a, const QString& b)
 {
     return a.constData() == b.constData() ? a.size() == b.size() : a == b;
@@ -83,7 +83,7 @@ std::optional<QString> SelectedPhotos::sharedValue(const QString& id) const
     return field->isShared ? std::optional(field->value) : std::nullopt;
 }
 
-/// Takes one more record's scalar values into the fields. Both sides are sorted by id, so one pass compares them.
+// Takes one more record's scalar values into the fields. Both sides are sorted by id, so one pass compares them.
 void SelectedPhotos::mergeFields(std::vector<Field>& fields, const QMap<QString, QString>& values, bool isFirst)
 {
     auto field = fields.begin();

@@ -18,7 +18,7 @@ qsizetype visibleRow(const PhotoList& list, const QUrl& photo)
     return list.visibleRows().indexOf(list.position(photo));
 }
 
-/// The visible photos from one to the other; nothing when either is not visible.
+// The visible photos from one to the other; nothing when either is not visible.
 std::optional<QSet<QUrl>> visibleRange(const PhotoList& list, const QUrl& from, const QUrl& to)
 {
     const qsizetype first = visibleRow(list, from);

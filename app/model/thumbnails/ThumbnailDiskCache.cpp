@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A thumbnail of these bytes was made by this store, or it is not worth reading.
+// A thumbnail of these bytes was made by this store, or it is not worth reading.
 constexpr qint64 largestFile = 8LL * 1024 * 1024;
 constexpr int mostPixelsOnASide = 4096;
 

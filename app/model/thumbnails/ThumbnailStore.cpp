@@ -26,14 +26,14 @@ namespace {
 
 constexpr int previewLongSide = 1400;
 constexpr int smallLongSide = 90;  // points
-/// Previews that wait at once. More than a stack of cards shows; running through a folder asks for hundreds.
+// Previews that wait at once. More than a stack of cards shows; running through a folder asks for hundreds.
 constexpr qsizetype mostPreviewsWaiting = 16;
-/// After this one run of the tool for one file's preview is given up: some damaged files keep it busy for minutes.
+// After this one run of the tool for one file's preview is given up: some damaged files keep it busy for minutes.
 constexpr std::chrono::seconds toolTimeAllowed{ 30 };
-/// How long a store that is being destroyed waits for decoders that cannot be interrupted.
+// How long a store that is being destroyed waits for decoders that cannot be interrupted.
 constexpr int shutdownPatience = 2000;  // milliseconds
 
-/// Decoding must not compete with the window for the processor. On Linux the nice value is a thread's own.
+// Decoding must not compete with the window for the processor. On Linux the nice value is a thread's own.
 void lowerPriority()
 {
     constexpr int nice = 10;
@@ -51,7 +51,7 @@ ThumbnailStoreOptions ThumbnailStoreOptions::forUser()
     return options;
 }
 
-/// What the workers use. Jobs share it, so that it outlives the store for as long as one of them runs.
+// What the workers use. Jobs share it, so that it outlives the store for as long as one of them runs.
 struct ThumbnailStore::PictureMaker {
     ThumbnailStoreOptions options{};
     ThumbnailDiskCache disk;
@@ -96,7 +96,7 @@ struct ThumbnailStore::PictureMaker {
         return { .image = std::move(decoded.image), .final = true };
     }
 
-    /// One run serves both sizes: the larger image is kept on disk for the request that comes next.
+    // One run serves both sizes: the larger image is kept on disk for the request that comes next.
     Outcome runTool(const QString& path, int longSide, const std::stop_token& stop) const
     {
         const QString key = disk.key(path, longSide), largeKey = disk.key(path, previewLongSide);
@@ -113,7 +113,7 @@ struct ThumbnailStore::PictureMaker {
     }
 };
 
-/// Where workers leave what they made. Emptied of its store before that is gone, under the lock.
+// Where workers leave what they made. Emptied of its store before that is gone, under the lock.
 struct ThumbnailStore::Mailbox {
     QMutex mutex{};
     ThumbnailStore* store = nullptr;
@@ -409,8 +409,8 @@ void ThumbnailStore::finish(const Key& key, qint64 ticket, const Outcome& outcom
         emit entryChanged(one.url, one.kind);
 }
 
-/// Leaves a badge and returns what changed. What even the tool finds no picture in has none of the other size: a run
-/// for that one would be the same again.
+// Leaves a badge and returns what changed. What even the tool finds no picture in has none of the other size: a run
+// for that one would be the same again.
 QList<ThumbnailStore::Key> ThumbnailStore::refuse(const Key& key, bool byTool)
 {
     const Key other{ key.url, key.kind == Kind::small ? Kind::preview : Kind::small };

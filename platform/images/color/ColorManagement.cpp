@@ -22,8 +22,8 @@ QImage plain(const QImage& image)
     return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
 }
 
-/// Profiles that are three curves and a matrix, as most cameras' are: Qt reads them, and converts ten times faster
-/// than a general transform is even set up. Invalid for all others.
+// Profiles that are three curves and a matrix, as most cameras' are: Qt reads them, and converts ten times faster
+// than a general transform is even set up. Invalid for all others.
 QColorSpace simpleSpace(const QByteArray& icc)
 {
     constexpr qsizetype channelsAt = 16;  // ICC.1, 7.2: the header's colour space
@@ -47,7 +47,7 @@ QImage convertedFrom(const QColorSpace& space, const QImage& image)
     return plain(result);
 }
 
-/// A profile and the transform out of it. The context keeps the library's messages to itself.
+// A profile and the transform out of it. The context keeps the library's messages to itself.
 class ToSRGB {
 public:
     explicit ToSRGB(const QByteArray& icc)
@@ -55,7 +55,7 @@ public:
         , m_from(cmsOpenProfileFromMemTHR(m_context.get(), icc.constData(), cmsUInt32Number(icc.size())))
     {
     }
-    /// CIE L*a*b* under D50.
+    // CIE L*a*b* under D50.
     ToSRGB()
         : m_context(cmsCreateContext(nullptr, nullptr))
         , m_from(cmsCreateLab4ProfileTHR(m_context.get(), nullptr))

@@ -17,11 +17,11 @@ namespace Quorbel {
 namespace {
 
 struct LumaCoding {
-    int matrix = heif_matrix_coefficients_unspecified;  ///< ITU-T H.273, 8.3
+    int matrix = heif_matrix_coefficients_unspecified;  // ITU-T H.273, 8.3
     bool fullRange = false;
 };
 
-/// What the object on this thread asks for.
+// What the object on this thread asks for.
 struct Request {
     bool active = false;
     std::optional<LumaCoding> container{};
@@ -40,12 +40,12 @@ heif_error refused()
 
 // --- Colours ---
 
-/// From luma and chroma to RGB, in 65536ths.
+// From luma and chroma to RGB, in 65536ths.
 struct Matrix {
     std::array<int, 256> luma{};
     int redFromCr = 0, greenFromCb = 0, greenFromCr = 0, blueFromCb = 0;
 
-    /// From the weights of red and blue in luma.
+    // From the weights of red and blue in luma.
     static Matrix of(double red, double blue, bool full)
     {
         constexpr double one = 65536, half = 32768;
@@ -63,7 +63,7 @@ struct Matrix {
     }
 };
 
-/// Nothing for those that photos do not have.
+// Nothing for those that photos do not have.
 std::optional<Matrix> matrixOf(LumaCoding coding)
 {
     switch (coding.matrix) {
@@ -78,7 +78,7 @@ std::optional<Matrix> matrixOf(LumaCoding coding)
     }
 }
 
-/// The sums of a matrix lie in [-384, 640): a table bounds them in one step.
+// The sums of a matrix lie in [-384, 640): a table bounds them in one step.
 constexpr int lowestSum = -384;
 constexpr auto boundedSums = [] {
     std::array<uint8_t, 1024> bytes{};
@@ -100,7 +100,7 @@ struct Planes {
     const uint8_t* row(size_t plane, int y) const { return bytes[plane] + qsizetype(y) * stride[plane]; }
 };
 
-/// Eight bits, chroma at half the width and height. Nothing for all else.
+// Eight bits, chroma at half the width and height. Nothing for all else.
 std::optional<Planes> planesOf(const de265_image* picture, QSize size)
 {
     Planes planes;
@@ -116,7 +116,7 @@ std::optional<Planes> planesOf(const de265_image* picture, QSize size)
     return planes;
 }
 
-/// Writes one row of red, green and blue.
+// Writes one row of red, green and blue.
 void convertRow(const Planes& from, const Matrix& matrix, int y, int width, const std::array<uint8_t*, 3>& to)
 {
     const uint8_t *lumas = from.row(0, y), *cbs = from.row(1, y / 2), *crs = from.row(2, y / 2);
@@ -167,7 +167,7 @@ de265_decoder_context* decoderOf(void* raw)
     return static_cast<de265_decoder_context*>(raw);
 }
 
-/// Units of the stream, each with its length in four bytes in front of it.
+// Units of the stream, each with its length in four bytes in front of it.
 heif_error push(void* raw, const void* data, size_t size)
 {
     const auto* at = static_cast<const uint8_t*>(data);

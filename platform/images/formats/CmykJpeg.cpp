@@ -14,8 +14,8 @@ namespace Quorbel {
 
 namespace {
 
-/// The library ends on an error by jumping. What the jump passes over must have no destructors, so everything that
-/// owns memory is declared outside of the reading function.
+// The library ends on an error by jumping. What the jump passes over must have no destructors, so everything that
+// owns memory is declared outside of the reading function.
 struct Jump {
     jpeg_error_mgr manager{};
     std::jmp_buf target{};
@@ -34,7 +34,7 @@ struct Inks {
 
 void keepSilent(j_common_ptr) { }
 
-/// The coarsest of the library's scales that is still as large as asked.
+// The coarsest of the library's scales that is still as large as asked.
 unsigned scaleFor(const jpeg_decompress_struct& info, int longSide)
 {
     unsigned denominator = 8;
@@ -52,7 +52,7 @@ void takeProfile(jpeg_decompress_struct& info, Inks& inks)
     std::free(data);
 }
 
-/// Rows until the end or the first error; those before it are kept.
+// Rows until the end or the first error; those before it are kept.
 void readRows(jpeg_decompress_struct& info, Inks& inks)
 {
     jpeg_save_markers(&info, JPEG_APP0 + 2, 0xFFFF);
@@ -74,7 +74,7 @@ void readRows(jpeg_decompress_struct& info, Inks& inks)
         inks.samples[i] = char(255 - quint8(inks.samples[i]));
 }
 
-/// `inks.size` holds the long side wanted on entry.
+// `inks.size` holds the long side wanted on entry.
 void readInks(const QByteArray& file, Inks& inks)
 {
     jpeg_decompress_struct info{};

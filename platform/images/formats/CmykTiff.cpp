@@ -47,7 +47,7 @@ toff_t sizeOf(thandle_t device)
     return toff_t(static_cast<QIODevice*>(device)->size());
 }
 
-/// What damaged files make the library say is of no use to anybody.
+// What damaged files make the library say is of no use to anybody.
 int keepSilent(TIFF*, void*, const char*, const char*, va_list)
 {
     return 1;
@@ -55,7 +55,7 @@ int keepSilent(TIFF*, void*, const char*, const char*, va_list)
 
 using Tiff = std::unique_ptr<TIFF, Release<TIFFClose>>;
 
-/// Null when the file is no TIFF.
+// Null when the file is no TIFF.
 Tiff opened(QIODevice& device)
 {
     TIFFOpenOptions* options = TIFFOpenOptionsAlloc();
@@ -78,22 +78,22 @@ T field(TIFF* tiff, ttag_t tag, T otherwise)
 
 struct Layout {
     QSize size{};
-    int samples = inkCount;  ///< a pixel; those after the inks are passed over
+    int samples = inkCount;  // a pixel; those after the inks are passed over
     int sampleBytes = 1;
-    bool planes = false;  ///< one ink after the other; otherwise the samples of a pixel lie together
-    QSize tile{};  ///< empty: strips
+    bool planes = false;  // one ink after the other; otherwise the samples of a pixel lie together
+    QSize tile{};  // empty: strips
     int rowsPerStrip = 1;
 
     int samplesOfPlane() const { return planes ? 1 : samples; }
     qint64 bytesOf(QSize area) const { return qint64(area.width()) * area.height() * samplesOfPlane() * sampleBytes; }
-    /// What is held at a time: one row or, of tiles, a row of them and the one that is being unpacked.
+    // What is held at a time: one row or, of tiles, a row of them and the one that is being unpacked.
     qint64 bytesHeld() const
     {
         return tile.isEmpty() ? bytesOf({ size.width(), 1 }) : bytesOf({ size.width(), tile.height() }) + bytesOf(tile);
     }
 };
 
-/// As much as an int holds: what is larger is refused for its size.
+// As much as an int holds: what is larger is refused for its size.
 int bounded(quint32 number)
 {
     return int(qMin<quint32>(number, INT_MAX));
@@ -141,7 +141,7 @@ QByteArray profileOf(TIFF* tiff)
     return QByteArray(data, qsizetype(length));
 }
 
-/// The rows of one plane after the other, each from its first to its last. What cannot be read is paper.
+// The rows of one plane after the other, each from its first to its last. What cannot be read is paper.
 class RowReader {
 public:
     RowReader(TIFF* tiff, const Layout& layout)
@@ -166,7 +166,7 @@ public:
     bool hasRead() const { return m_hasRead; }
 
 private:
-    /// A strip is unpacked row by row; after a damaged one nothing of it is known any more.
+    // A strip is unpacked row by row; after a damaged one nothing of it is known any more.
     void readRow(int y, int plane)
     {
         m_broken = m_broken && y % m_layout.rowsPerStrip != 0;
@@ -196,13 +196,13 @@ private:
     TIFF* m_tiff;
     const Layout& m_layout;
     qint64 m_rowBytes;
-    QByteArray m_rows;  ///< one, or those of a row of tiles
+    QByteArray m_rows;  // one, or those of a row of tiles
     QByteArray m_tile;
-    bool m_broken = false;  ///< the strip that is being read
+    bool m_broken = false;  // the strip that is being read
     bool m_hasRead = false;
 };
 
-/// The inks of the picture, averaged over squares of pixels. Takes the rows of one plane after the other.
+// The inks of the picture, averaged over squares of pixels. Takes the rows of one plane after the other.
 class InkSums {
 public:
     InkSums(const Layout& layout, int longSide)
@@ -233,7 +233,7 @@ public:
 private:
     int inksOfPlane() const { return m_layout.planes ? 1 : inkCount; }
 
-    /// Of deeper samples the upper eight bits.
+    // Of deeper samples the upper eight bits.
     template <typename Sample>
     void sumUp(const Sample* pixel)
     {

@@ -29,7 +29,7 @@ bool fine(const heif_error& error)
     return error.code == heif_error_Ok;
 }
 
-/// What the library reads of a file.
+// What the library reads of a file.
 struct Input {
     QIODevice& device;
     HeifPatch patch{};
@@ -49,7 +49,7 @@ Input& inputOf(void* userdata)
     return *static_cast<Input*>(userdata);
 }
 
-/// Reading through our device is what makes cancelling reach the library.
+// Reading through our device is what makes cancelling reach the library.
 const heif_reader& deviceReader()
 {
     static const heif_reader reader{
@@ -68,7 +68,7 @@ const heif_reader& deviceReader()
     return reader;
 }
 
-/// A file opened up to its primary image.
+// A file opened up to its primary image.
 class OpenFile {
     Q_DISABLE_COPY_MOVE(OpenFile)
 
@@ -84,7 +84,7 @@ public:
             && fine(heif_context_get_primary_image_handle(m_context.get(), &handle)))
             m_primary.reset(handle);
     }
-    /// Null when the file could not be opened.
+    // Null when the file could not be opened.
     const Handle& primary() const { return m_primary; }
 
 private:
@@ -110,7 +110,7 @@ QList<heif_item_id> thumbnailIds(const Handle& primary)
     return ids;
 }
 
-/// Whether a thumbnail shows all of the picture the same way up, as far as its shape tells.
+// Whether a thumbnail shows all of the picture the same way up, as far as its shape tells.
 bool sameShape(QSize one, QSize other)
 {
     constexpr double rounding = 0.02;
@@ -118,7 +118,7 @@ bool sameShape(QSize one, QSize other)
     return std::abs(a - b) <= rounding * b;
 }
 
-/// The smallest thumbnail of at least that long side; null when there is none.
+// The smallest thumbnail of at least that long side; null when there is none.
 Handle thumbnailHandle(const Handle& primary, int longSide)
 {
     Handle best;
@@ -136,8 +136,8 @@ Handle thumbnailHandle(const Handle& primary, int longSide)
     return best;
 }
 
-/// Colours given as code points (ITU-T H.273). Curves other than sRGB's and the video ones, which displays show
-/// alike, are left as they are.
+// Colours given as code points (ITU-T H.273). Curves other than sRGB's and the video ones, which displays show
+// alike, are left as they are.
 QByteArray profileOfCodePoints(const Handle& handle)
 {
     heif_color_profile_nclx* found = nullptr;
@@ -166,7 +166,7 @@ QByteArray profileOf(const Handle& handle)
     return fine(heif_image_handle_get_raw_color_profile(handle.get(), icc.data())) ? icc : QByteArray();
 }
 
-/// One channel of a decoded image, eight bits a sample.
+// One channel of a decoded image, eight bits a sample.
 class Plane {
 public:
     Plane(const Image& image, heif_channel channel, QSize size)
@@ -179,7 +179,7 @@ public:
         m_surplus = qMax(0, heif_image_get_bits_per_pixel_range(image.get(), channel) - 8);
     }
     bool isThere() const { return m_bytes != nullptr; }
-    /// Valid until the next call.
+    // Valid until the next call.
     const uchar* row(int y)
     {
         auto* row = reinterpret_cast<uchar*>(m_row.data());
@@ -197,7 +197,7 @@ public:
 private:
     const uchar* m_bytes = nullptr;
     int m_stride = 0;
-    int m_surplus = 0;  ///< bits beyond eight
+    int m_surplus = 0;  // bits beyond eight
     QByteArray m_row;
 };
 
@@ -221,7 +221,7 @@ QImage pixelsOf(const Image& image, bool premultiplied)
     return pixels;
 }
 
-/// Null when the library cannot decode it. In planes, as it has them: interleaving is cheaper here than there.
+// Null when the library cannot decode it. In planes, as it has them: interleaving is cheaper here than there.
 Image decodedImage(const Handle& handle)
 {
     heif_image* image = nullptr;
@@ -229,7 +229,7 @@ Image decodedImage(const Handle& handle)
     return Image(fine(error) ? image : nullptr);
 }
 
-/// The same, the quick way when the picture allows it.
+// The same, the quick way when the picture allows it.
 Image quicklyDecodedImage(const Handle& handle)
 {
     const HevcToRgb quick(handle.get());
@@ -256,7 +256,7 @@ DecodedFrame decodeHandle(const Handle& handle, const DecodeSource& source)
     return frame;
 }
 
-/// The thumbnail out of a view of the file in which nothing else needs to be read.
+// The thumbnail out of a view of the file in which nothing else needs to be read.
 DecodedFrame decodeThumbnail(const DecodeSource& source, int longSide)
 {
     HeifPatch view = onlyThumbnails(source.device);

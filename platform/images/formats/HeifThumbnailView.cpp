@@ -11,7 +11,7 @@ namespace Quorbel {
 
 namespace {
 
-/// Numbers of up to eight bytes, most significant first. Past the end everything is 0, and the cursor is not valid.
+// Numbers of up to eight bytes, most significant first. Past the end everything is 0, and the cursor is not valid.
 class Cursor {
 public:
     explicit Cursor(QByteArrayView bytes)
@@ -39,7 +39,7 @@ QByteArray contentOf(QIODevice& device, qint64 at, qint64 end)
     return end - at <= longest && device.seek(at) ? device.read(end - at) : QByteArray();
 }
 
-/// The items that are thumbnails of others, out of the box of references (8.11.12), which holds one box for each.
+// The items that are thumbnails of others, out of the box of references (8.11.12), which holds one box for each.
 QSet<quint64> thumbnailItems(QIODevice& device, qint64 at, qint64 end)
 {
     QSet<quint64> items;
@@ -52,7 +52,7 @@ QSet<quint64> thumbnailItems(QIODevice& device, qint64 at, qint64 end)
     return items;
 }
 
-/// Gives length 0 to all extents of items other than `kept`. False when the table is broken.
+// Gives length 0 to all extents of items other than `kept`. False when the table is broken.
 bool blankOthers(QByteArray& table, const QSet<quint64>& kept)
 {
     Cursor in(table);

@@ -54,7 +54,7 @@ const auto& signatures()
     return table;
 }
 
-/// ISO base media files name their brands in the first box: the main one, a version, then the compatible ones.
+// ISO base media files name their brands in the first box: the main one, a version, then the compatible ones.
 ImageFormat formatOfBrands(QByteArrayView head)
 {
     if (head.size() < 16 || head.sliced(4, 4) != "ftyp")
@@ -72,7 +72,7 @@ ImageFormat formatOfBrands(QByteArrayView head)
     return heif ? ImageFormat::heif : ImageFormat::unknown;
 }
 
-/// TIFF is the shell of most raw formats; the first directory tells a picture from a sensor's data.
+// TIFF is the shell of most raw formats; the first directory tells a picture from a sensor's data.
 bool isRawTiff(QIODevice& device)
 {
     constexpr quint16 photometricTag = 262, dngVersionTag = 50706, dngBackwardVersionTag = 50707;

@@ -28,7 +28,7 @@ struct CodestreamSize {
     int components = 0;
 };
 
-/// Where the codestream begins: at once, or in the box "jp2c".
+// Where the codestream begins: at once, or in the box "jp2c".
 qint64 codestreamAt(QIODevice& device, ImageFormat format)
 {
     constexpr int maxBoxes = 1024;
@@ -50,7 +50,7 @@ qint64 codestreamAt(QIODevice& device, ImageFormat format)
     return format == ImageFormat::jp2 ? -1 : 0;
 }
 
-/// The SIZ segment, which always comes first.
+// The SIZ segment, which always comes first.
 std::optional<CodestreamSize> readSize(QIODevice& device, ImageFormat format)
 {
     const qint64 at = codestreamAt(device, format);
@@ -109,7 +109,7 @@ Stream openStream(QIODevice& device)
     return stream;
 }
 
-/// How often the picture can be halved and still is as large as asked.
+// How often the picture can be halved and still is as large as asked.
 int reductionFor(const opj_codestream_info_v2_t& info, QSize size, int longSide)
 {
     const opj_tccp_info_t* components = info.m_default_tile_info.tccp_info;
@@ -147,7 +147,7 @@ Image decodeAt(const DecodeSource& source, ImageFormat format, QSize size)
 
 // --- Pixels ---
 
-/// One channel, eight bits, stretched to the picture's size where it is subsampled.
+// One channel, eight bits, stretched to the picture's size where it is subsampled.
 class Channel {
 public:
     Channel(const opj_image_comp_t& component, QSize size)
@@ -161,7 +161,7 @@ public:
     {
         return component.data && component.w > 0 && component.h > 0 && component.prec >= 1 && component.prec <= 31;
     }
-    /// Writes one row of the picture, as wide as that is.
+    // Writes one row of the picture, as wide as that is.
     void read(int y, uchar* to) const
     {
         const int width = m_size.width();
@@ -191,7 +191,7 @@ uchar clampedByte(double value)
     return uchar(qBound(0.0, value + 0.5, 255.0));
 }
 
-/// ITU-R BT.601, full range.
+// ITU-R BT.601, full range.
 QRgb fromYCC(int y, int cb, int cr, int alpha)
 {
     return qRgba(clampedByte(y + 1.402 * (cr - 128)), clampedByte(y - 0.344136 * (cb - 128) - 0.714136 * (cr - 128)),
@@ -205,7 +205,7 @@ bool isYCC(const opj_image_t& image)
             && image.comps[1].dx > 1 && image.comps[2].dx > 1);
 }
 
-/// The rows of several channels, one at a time.
+// The rows of several channels, one at a time.
 class Rows {
 public:
     Rows(const QList<Channel>& channels, QSize size)
@@ -219,7 +219,7 @@ public:
         for (qsizetype i = 0; i < m_channels.size(); ++i)
             m_channels[i].read(y, m_bytes.data() + size_t(i) * m_width);
     }
-    /// Stays where it is from row to row.
+    // Stays where it is from row to row.
     const uchar* of(int channel) const { return m_bytes.data() + size_t(channel) * m_width; }
 
 private:

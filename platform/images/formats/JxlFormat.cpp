@@ -11,7 +11,7 @@ namespace Quorbel {
 
 namespace {
 
-/// Feeds a file to the decoder piece by piece and collects what comes out.
+// Feeds a file to the decoder piece by piece and collects what comes out.
 class JxlReading {
 public:
     explicit JxlReading(const DecodeSource& source)
@@ -51,7 +51,7 @@ private:
         m_ended = true;
     }
 
-    /// The decoder gives back what it did not use, and wants it again in front of the next piece.
+    // The decoder gives back what it did not use, and wants it again in front of the next piece.
     void feed()
     {
         constexpr qint64 piece = 256LL * 1024;

@@ -57,7 +57,7 @@ QImage rgbOf(const PsdPlanes& planes)
     return image;
 }
 
-/// Channels side by side, `count` bytes a pixel; ink is stored with 0 as its full amount.
+// Channels side by side, `count` bytes a pixel; ink is stored with 0 as its full amount.
 QByteArray interleaved(const PsdPlanes& planes, int count, bool inverted)
 {
     QByteArray bytes(qsizetype(planes.size.width()) * planes.size.height() * count, Qt::Uninitialized);
@@ -69,7 +69,7 @@ QByteArray interleaved(const PsdPlanes& planes, int count, bool inverted)
     return bytes;
 }
 
-/// The flattened picture lies on white; taking the white away again leaves premultiplied colours.
+// The flattened picture lies on white; taking the white away again leaves premultiplied colours.
 QImage withTransparency(const QImage& image, const PsdPlanes& planes, int channel)
 {
     QImage result(image.size(), QImage::Format_ARGB32_Premultiplied);

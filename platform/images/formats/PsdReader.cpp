@@ -13,7 +13,7 @@ namespace Quorbel {
 
 namespace {
 
-/// The value of one sample in the range of a byte.
+// The value of one sample in the range of a byte.
 int sampleAt(const QByteArray& row, int x, int depth)
 {
     const char* data = row.constData();
@@ -32,7 +32,7 @@ int sampleAt(const QByteArray& row, int x, int depth)
     }
 }
 
-/// Averages squares of pixels while rows arrive.
+// Averages squares of pixels while rows arrive.
 class Reducer {
 public:
     Reducer(PsdPlanes& planes, QSize size, int depth, int factor)
@@ -68,7 +68,7 @@ private:
     QList<int> m_sums;
 };
 
-/// The rows of the flattened picture in the order of the file: channel after channel.
+// The rows of the flattened picture in the order of the file: channel after channel.
 class RowReader {
 public:
     RowReader(QIODevice& device, const PsdHeader& header)
@@ -88,7 +88,7 @@ public:
     }
     bool isValid() const { return m_valid; }
     const QByteArray& row() const { return m_row; }
-    /// False where the file ends.
+    // False where the file ends.
     bool next()
     {
         qint64 length = m_row.size();

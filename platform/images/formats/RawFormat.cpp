@@ -22,7 +22,7 @@ namespace {
 using Outcome = DecodedImage::Outcome;
 using Processed = std::unique_ptr<libraw_processed_image_t, Release<LibRaw::dcraw_clear_mem>>;
 
-/// EXIF's number for LibRaw's: 3 is upside down, 5 and 6 are quarter turns.
+// EXIF's number for LibRaw's: 3 is upside down, 5 and 6 are quarter turns.
 int orientationOf(int flip)
 {
     switch (flip) {
@@ -47,13 +47,13 @@ QSize sensorSize(const LibRaw& raw)
     return { raw.imgdata.sizes.width, raw.imgdata.sizes.height };
 }
 
-/// With the margins that are masked or cut off: what developing has to hold.
+// With the margins that are masked or cut off: what developing has to hold.
 QSize wholeSensorSize(const LibRaw& raw)
 {
     return sensorSize(raw).expandedTo({ raw.imgdata.sizes.raw_width, raw.imgdata.sizes.raw_height });
 }
 
-/// Some cameras store the preview upright already: then it stands while the sensor lies.
+// Some cameras store the preview upright already: then it stands while the sensor lies.
 int previewOrientation(QSize preview, const LibRaw& raw)
 {
     const int orientation = orientationOf(raw.imgdata.sizes.flip);
@@ -75,7 +75,7 @@ DecodedFrame jpegPreview(const QByteArray& bytes, const DecodeSource& source)
         ImageFormat::jpeg, *header);
 }
 
-/// Damaged when LibRaw made nothing, or something else than eight bits of gray or RGB.
+// Damaged when LibRaw made nothing, or something else than eight bits of gray or RGB.
 DecodedFrame bitmapOf(const Processed& made)
 {
     DecodedFrame frame;
@@ -109,7 +109,7 @@ DecodedFrame previewOf(LibRaw& raw, const DecodeSource& source)
     return frame;
 }
 
-/// The sensor's data, a quarter of its pixels, developed with the camera's own white balance. LibRaw turns it.
+// The sensor's data, a quarter of its pixels, developed with the camera's own white balance. LibRaw turns it.
 DecodedFrame developed(LibRaw& raw)
 {
     raw.imgdata.params.half_size = 1;
@@ -121,7 +121,7 @@ DecodedFrame developed(LibRaw& raw)
     return bitmapOf(Processed(raw.dcraw_make_mem_image(&error)));
 }
 
-/// As large as asked, or as what developing would give.
+// As large as asked, or as what developing would give.
 bool isLargeEnough(const DecodedFrame& frame, int longSide, QSize sensor)
 {
     const int developedSide = qMax(sensor.width(), sensor.height()) / 2;

@@ -44,7 +44,7 @@ bool isFrameMarker(int marker)
     return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
 }
 
-/// Only a sequential JPEG whose first scan carries every channel streams; libjpeg buffers all others whole.
+// Only a sequential JPEG whose first scan carries every channel streams; libjpeg buffers all others whole.
 bool isSequentialFrame(int marker)
 {
     return marker == 0xC0 || marker == 0xC1 || marker == 0xC9;
@@ -140,7 +140,7 @@ std::optional<ImageHeader> readGif(QIODevice& device)
     return header;
 }
 
-/// The EXIF chunk of a WebP file stands after the pixels; the chunks are few.
+// The EXIF chunk of a WebP file stands after the pixels; the chunks are few.
 void findWebpExif(QIODevice& device, ImageHeader& header)
 {
     constexpr int maxChunks = 64;  // an animation's frames come before the EXIF chunk; longer ones stay unturned

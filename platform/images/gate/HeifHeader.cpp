@@ -11,7 +11,7 @@ namespace Quorbel {
 
 namespace {
 
-/// Bits of a parameter set, most significant first. Past the end everything is 0.
+// Bits of a parameter set, most significant first. Past the end everything is 0.
 class BitReader {
 public:
     explicit BitReader(QByteArrayView bytes)
@@ -28,7 +28,7 @@ public:
         return value;
     }
     void skip(qsizetype count) { m_at += count; }
-    /// Exponential Golomb code.
+    // Exponential Golomb code.
     quint32 golomb()
     {
         int zeros = 0;
@@ -47,7 +47,7 @@ QSize clamped(quint32 width, quint32 height)
     return { int(qMin<quint32>(width, INT_MAX)), int(qMin<quint32>(height, INT_MAX)) };
 }
 
-/// Takes out the bytes that keep start codes from appearing inside a unit.
+// Takes out the bytes that keep start codes from appearing inside a unit.
 QByteArray withoutEmulation(QByteArrayView unit)
 {
     QByteArray clean;
@@ -63,7 +63,7 @@ QByteArray withoutEmulation(QByteArrayView unit)
     return clean;
 }
 
-/// ITU-T H.265, 7.3.2.2: width and height follow the profile and the chroma format.
+// ITU-T H.265, 7.3.2.2: width and height follow the profile and the chroma format.
 QSize sizeOfHevcSequence(QByteArrayView unit)
 {
     const QByteArray clean = withoutEmulation(unit);
@@ -86,7 +86,7 @@ QSize sizeOfHevcSequence(QByteArrayView unit)
     return clamped(width, in.golomb());
 }
 
-/// ISO/IEC 14496-15, 8.3.3.1: arrays of parameter sets; type 33 is the sequence's.
+// ISO/IEC 14496-15, 8.3.3.1: arrays of parameter sets; type 33 is the sequence's.
 QSize sizeOfHevcRecord(QByteArrayView record)
 {
     constexpr qsizetype arraysAt = 22;
@@ -111,7 +111,7 @@ QSize sizeOfHevcRecord(QByteArrayView record)
     return largest;
 }
 
-/// AV1 bitstream standard, 5.5.1: the sequence header names the largest frame.
+// AV1 bitstream standard, 5.5.1: the sequence header names the largest frame.
 QSize sizeOfAv1Record(QByteArrayView record)
 {
     constexpr qsizetype unitsAt = 4;

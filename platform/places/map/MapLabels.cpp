@@ -12,19 +12,19 @@ namespace Quorbel {
 
 namespace {
 
-constexpr int mostTowns = 6000;  ///< read for one image
+constexpr int mostTowns = 6000;  // read for one image
 constexpr int fewestInBin = 8;
-constexpr int mostTried = 400;  ///< that a name is measured for
+constexpr int mostTried = 400;  // that a name is measured for
 
-constexpr double ranksPerPowerOfTen = 30;  ///< see the towns' file
-constexpr int largeRank = 171;  ///< half a million people, or a capital of 23,000
-constexpr int middleRank = 147;  ///< 80,000
+constexpr double ranksPerPowerOfTen = 30;  // see the towns' file
+constexpr int largeRank = 171;  // half a million people, or a capital of 23,000
+constexpr int middleRank = 147;  // 80,000
 
-constexpr double gap = 4;  ///< points between a dot and its name
-constexpr double marginAcross = 7;  ///< points between names
+constexpr double gap = 4;  // points between a dot and its name
+constexpr double marginAcross = 7;  // points between names
 constexpr double marginAbove = 2;
 constexpr double marginReserved = 3;
-constexpr double pointsPerLabel = 46;  ///< of width: more names would be a crowd
+constexpr double pointsPerLabel = 46;  // of width: more names would be a crowd
 
 QFont labelFont(QFont font, int rank, qreal textScale)
 {
@@ -35,13 +35,13 @@ QFont labelFont(QFont font, int rank, qreal textScale)
     return font;
 }
 
-/// A large place counts for a near one up to a point: the city, not its suburb.
+// A large place counts for a near one up to a point: the city, not its suburb.
 double nearness(const SeenTown& town, double kilometresAcross)
 {
     return town.rank / ranksPerPowerOfTen - town.distance / (0.02 * kilometresAcross);
 }
 
-/// Puts the place at the centre before all others.
+// Puts the place at the centre before all others.
 void putNearestFirst(QList<SeenTown>& towns, double kilometresAcross)
 {
     const double reach = 0.12 * kilometresAcross;
@@ -55,7 +55,7 @@ void putNearestFirst(QList<SeenTown>& towns, double kilometresAcross)
         std::rotate(towns.begin(), best, best + 1);
 }
 
-/// Where a name may stand, the best place first.
+// Where a name may stand, the best place first.
 std::array<QRectF, 6> candidates(const QPointF& dot, const QSizeF& text, const QPointF& centre, qreal textScale)
 {
     const double w = text.width();

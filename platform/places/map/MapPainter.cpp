@@ -16,12 +16,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double nearestAcross = 1;  // km: the data knows nothing finer
-/// From the centre to a corner, in km: less than the earth's radius, so that the horizon stays out of sight.
+// From the centre to a corner, in km: less than the earth's radius, so that the horizon stays out of sight.
 constexpr double farthestCorner = 4700;
 constexpr double widening = 2.5;
 
-/// How many names make a map worth showing. A lone town on an island or in a desert is shown with what surrounds it,
-/// not from so far that it becomes a speck; from farther still, one name says too little again.
+// How many names make a map worth showing. A lone town on an island or in a desert is shown with what surrounds it,
+// not from so far that it becomes a speck; from farther still, one name says too little again.
 int fewestLabels(double kilometresAcross)
 {
     return kilometresAcross >= 300 && kilometresAcross < 1000 ? 1 : 2;
@@ -34,7 +34,7 @@ const QString attributionText = u"© GeoNames"_s;
 
 constexpr double kilometresPerDegree = MapProjection::earthRadius * M_PI / 180;
 
-/// One map being drawn: what it shows, and how.
+// One map being drawn: what it shows, and how.
 class Scene {
 public:
     Scene(const MapData& data, const MapRequest& request, const IsCancelled& isCancelled)
@@ -75,7 +75,7 @@ private:
     bool m_hasLand = false;
 };
 
-/// Widens until there is something to see, before anything is drawn.
+// Widens until there is something to see, before anything is drawn.
 MapProjection Scene::chooseScale()
 {
     const auto& size = m_request.size;
@@ -100,7 +100,7 @@ QFont Scene::font(double size) const
     return font;
 }
 
-/// The marker's, the scale bar's and the credit's.
+// The marker's, the scale bar's and the credit's.
 QList<QRectF> Scene::reservedBoxes() const
 {
     const double width = m_request.size.width();
@@ -152,8 +152,8 @@ void Scene::drawLand(QPainter& painter)
     drawSettlements(painter);
 }
 
-/// Patches, as large as that many people need, fading outwards; where they meet they grow together. Water is
-/// not drawn yet and so stays free of them.
+// Patches, as large as that many people need, fading outwards; where they meet they grow together. Water is
+// not drawn yet and so stays free of them.
 void Scene::drawSettlements(QPainter& painter) const
 {
     constexpr double radiusOfThousand = 0.15;  // km
@@ -190,7 +190,7 @@ void Scene::drawRivers(QPainter& painter)
     }
 }
 
-/// Under all that is there already.
+// Under all that is there already.
 void Scene::drawSea(QPainter& painter) const
 {
     painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
@@ -200,7 +200,7 @@ void Scene::drawSea(QPainter& painter) const
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
-/// Parallels and meridians about a fifth of the image apart.
+// Parallels and meridians about a fifth of the image apart.
 QPainterPath Scene::graticule() const
 {
     const auto stepFor = [this](double kilometres) {

@@ -8,9 +8,9 @@ namespace Quorbel {
 
 namespace {
 
-/// Straight lines along a bin's edge are curves in the image: they get a corner every so many units.
+// Straight lines along a bin's edge are curves in the image: they get a corner every so many units.
 constexpr double edgeStep = MapFormat::binUnits / 16.0;
-/// Corners closer than this to the last one are left out.
+// Corners closer than this to the last one are left out.
 constexpr double leastDistance = 0.4;  // pixels
 constexpr double leastSize = 0.6;  // pixels: smaller islands are left out
 
@@ -55,7 +55,7 @@ BinBox boundsIn(const SeenBin& bin, const MapProjection::Bounds& bounds)
         (bounds.east - bin.west) / bin.degreesPerUnit, (bounds.north - bin.south) / bin.degreesPerUnit };
 }
 
-/// Sutherland and Hodgman's step: keeps what lies on one side of a line. `signedDistance` is positive there.
+// Sutherland and Hodgman's step: keeps what lies on one side of a line. `signedDistance` is positive there.
 template <typename SignedDistance>
 void clipTo(Ring& ring, Ring& spare, SignedDistance signedDistance)
 {
@@ -83,7 +83,7 @@ void clip(Ring& ring, Ring& spare, const BinBox& box)
     clipTo(ring, spare, [&](const BinPoint& p) { return box.top - p.y; });
 }
 
-/// Projects one bin's points, as sparsely as the image allows.
+// Projects one bin's points, as sparsely as the image allows.
 class Tracer {
 public:
     Tracer(const MapProjection& projection, qreal density)
@@ -94,7 +94,7 @@ public:
 
     void setBin(const SeenBin& bin) { m_bin = bin; }
     const QPolygonF& points() const { return m_points; }
-    bool isWhole() const { return m_isWhole; }  ///< all of it is on the side of the earth that is seen
+    bool isWhole() const { return m_isWhole; }  // all of it is on the side of the earth that is seen
 
     void begin()
     {
@@ -113,7 +113,7 @@ public:
         m_points.append(at);
     }
 
-    /// The corners between two points along a line of equal latitude or longitude, the same ones in either direction.
+    // The corners between two points along a line of equal latitude or longitude, the same ones in either direction.
     void addBetween(const BinPoint& a, const BinPoint& b)
     {
         const bool isAcross = a.y == b.y;

@@ -50,7 +50,7 @@ PlaceResult<MapImage> draw(const MapData* data, const MapRequest& request, const
     return { std::move(map), PlaceError::none, {} };
 }
 
-/// A finished map on its way to the main thread.
+// A finished map on its way to the main thread.
 class Delivery final : public QEvent {
 public:
     Delivery(Flag isDropped, std::shared_ptr<PlaceCallback<MapImage>> answer, PlaceResult<MapImage> result)
@@ -72,7 +72,7 @@ private:
     PlaceResult<MapImage> m_result;
 };
 
-/// Receives nothing but deliveries; those still on their way when it goes are thrown away.
+// Receives nothing but deliveries; those still on their way when it goes are thrown away.
 class Desk final : public QObject {
 public:
     bool event(QEvent* event) override

@@ -11,7 +11,7 @@ namespace {
 
 using Suggestions = QList<PlaceSuggestion>;
 
-/// Two services put the middle of a town at different squares.
+// Two services put the middle of a town at different squares.
 constexpr double samePlaceDistance = 10;  // km
 
 bool isSamePlace(const PlaceSuggestion& a, const PlaceSuggestion& b)
@@ -29,7 +29,7 @@ Suggestions merged(Suggestions places, const Suggestions& others)
     return places;
 }
 
-/// Two questions under way, and what the first has answered so far.
+// Two questions under way, and what the first has answered so far.
 struct CombinedRequest final : PlaceRequest {
     Suggestions found{};
     PlaceToken first{};

@@ -19,7 +19,7 @@ PlaceResult<T> noData()
     return { {}, PlaceError::noData, u"Place search is not installed"_s };
 }
 
-/// The other name that was found, if it was one; then state and country. An airport's or landmark's town comes first.
+// The other name that was found, if it was one; then state and country. An airport's or landmark's town comes first.
 QString subtitleOf(const PlaceHit& hit, const Placemark& place)
 {
     QStringList parts;

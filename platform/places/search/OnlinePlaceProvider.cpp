@@ -22,8 +22,8 @@ using namespace Qt::StringLiterals;
 struct OnlinePlaceProvider::Service {
     OnlinePlaceOptions options{};
     QNetworkAccessManager network{};
-    QDeadlineTimer silence{ 0 };  ///< nothing is sent before it expires
-    int refusals = 0;  ///< in a row
+    QDeadlineTimer silence{ 0 };  // nothing is sent before it expires
+    int refusals = 0;  // in a row
 };
 
 namespace {
@@ -63,7 +63,7 @@ QString userAgent()
     return (name.isEmpty() ? u"Quorbel"_s : name) + (version.isEmpty() ? QString() : u'/' + version);
 }
 
-/// One question: waits for the pause, sends it, waits for the answer. Destroying it ends whatever is under way.
+// One question: waits for the pause, sends it, waits for the answer. Destroying it ends whatever is under way.
 class OnlineRequest final : public QObject, public PlaceRequest {
 public:
     OnlineRequest(
@@ -84,7 +84,7 @@ public:
     Q_DISABLE_COPY_MOVE(OnlineRequest)
 
 private:
-    /// One thing at a time is waited for.
+    // One thing at a time is waited for.
     void after(std::chrono::milliseconds delay, void (OnlineRequest::*step)())
     {
         m_timer.disconnect(this);
@@ -139,7 +139,7 @@ private:
         }
     }
 
-    /// The callback may destroy this object: nothing of it is touched afterwards.
+    // The callback may destroy this object: nothing of it is touched afterwards.
     void finish(const PlaceResult<Suggestions>& result)
     {
         if (!m_answer)

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// It comes from elsewhere and may end up in a photo: one line, of a name's length.
+// It comes from elsewhere and may end up in a photo: one line, of a name's length.
 QString oneLine(const QJsonValue& value)
 {
     constexpr qsizetype longestName = 200;

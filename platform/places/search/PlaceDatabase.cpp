@@ -52,7 +52,7 @@ quint16 littleEndian(const QByteArray& bytes, qsizetype at)
     return quint16(quint8(bytes[at]) | (quint8(bytes[at + 1]) << 8U));
 }
 
-/// The value of a column in a row of runs: four bytes each, first column and value.
+// The value of a column in a row of runs: four bytes each, first column and value.
 quint16 runValue(const QByteArray& runs, int column)
 {
     qsizetype low = 0;

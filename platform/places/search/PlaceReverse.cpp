@@ -7,20 +7,20 @@ namespace Quorbel {
 
 namespace {
 
-/// Farther from a town than this, a picture was not taken in it.
+// Farther from a town than this, a picture was not taken in it.
 constexpr double townDistance = 25;  // km
 
-/// A large town reaches farther: 25 km for ten million people.
+// A large town reaches farther: 25 km for ten million people.
 double reach(const PlaceRow& town)
 {
     return 0.25 * std::sqrt(double(town.population) / 1000);
 }
 
-/// So near its middle, a town says more than borders drawn cell by cell: in states as small as a cell, and at borders
-/// that run through towns.
+// So near its middle, a town says more than borders drawn cell by cell: in states as small as a cell, and at borders
+// that run through towns.
 constexpr double surelyInTown = 1;  // km
 
-/// The town of the country with the least distance, less a share of its reach; any country when it is negative.
+// The town of the country with the least distance, less a share of its reach; any country when it is negative.
 const PlaceRow* nearest(const QList<PlaceRow>& towns, const GeoPoint& point, int country, double shareOfReach)
 {
     const PlaceRow* best = nullptr;

@@ -25,15 +25,15 @@ constexpr double codeScore = 10;  // an airport by its code in capitals, above a
 constexpr double nearScore = 0.8;
 constexpr double nearDistance = 500;  // km
 
-/// Rows asked for in one go. More do not change who comes first.
+// Rows asked for in one go. More do not change who comes first.
 constexpr int rowsPerQuestion = 60;
 constexpr int fewHits = 3;
 constexpr qsizetype shortestMisspelt = 4;
 
-/// The typed words that name the place, folded.
+// The typed words that name the place, folded.
 struct TypedName {
     QString text{};
-    bool isFinished = false;  ///< other words follow, so that its last word is whole
+    bool isFinished = false;  // other words follow, so that its last word is whole
 };
 
 bool startsLaterWord(const QString& folded, const QString& typed)
@@ -42,8 +42,8 @@ bool startsLaterWord(const QString& folded, const QString& typed)
 }
 
 struct NameMatch {
-    bool starts = false;  ///< the name begins with what was typed
-    bool continues = false;  ///< a later word of it does
+    bool starts = false;  // the name begins with what was typed
+    bool continues = false;  // a later word of it does
     double score = 0;
     QString name{};
 };
@@ -59,8 +59,8 @@ NameMatch matchName(const QString& name, const TypedName& typed, double startSco
     return { true, false, startScore + typedShareScore * share + (isWhole ? wholeNameScore : 0), name };
 }
 
-/// Whether folding may turn the name into one that begins with the typed text, judged by the first letter: folding is
-/// the dear part.
+// Whether folding may turn the name into one that begins with the typed text, judged by the first letter: folding is
+// the dear part.
 bool mayStart(QStringView name, const QString& typed)
 {
     constexpr char16_t firstNonLatin = 0x0370;
@@ -70,8 +70,8 @@ bool mayStart(QStringView name, const QString& typed)
     return isPlainLetter ? first == wanted : (first < firstNonLatin) == (wanted < firstNonLatin);
 }
 
-/// Of the names, one a line, the one that the typed text begins best; or else, if asked for, one of which it begins a
-/// later word.
+// Of the names, one a line, the one that the typed text begins best; or else, if asked for, one of which it begins a
+// later word.
 NameMatch bestAlternate(const QString& alternates, const TypedName& typed, bool wantsLaterWords)
 {
     NameMatch best;
@@ -88,7 +88,7 @@ NameMatch bestAlternate(const QString& alternates, const TypedName& typed, bool 
     return best;
 }
 
-/// Puts questions to the database and keeps the best score of each place that comes back.
+// Puts questions to the database and keeps the best score of each place that comes back.
 class Search {
 public:
     Search(PlaceDatabase& database, const PlaceQuery& query)
@@ -125,8 +125,8 @@ private:
         ask(u"{name alternates} : "_s + start, { m_typed, false });
     }
 
-    /// The first words name the place; each of the others begins the name or code of its state or country, or the name
-    /// of the town it belongs to.
+    // The first words name the place; each of the others begins the name or code of its state or country, or the name
+    // of the town it belongs to.
     void askWithContext(qsizetype named)
     {
         const QString name = m_words.first(named).join(u' ');
@@ -160,7 +160,7 @@ private:
         return terms;
     }
 
-    /// Three capitals are meant as an airport's code, whatever else begins with them.
+    // Three capitals are meant as an airport's code, whatever else begins with them.
     void askForCode()
     {
         const auto text = m_query.text.trimmed();
@@ -245,7 +245,7 @@ private:
     QString m_typed;
     QStringList m_words;
     QSet<int> m_seen{};
-    QHash<QString, QString> m_contexts{};  ///< by word: what was asked for it
+    QHash<QString, QString> m_contexts{};  // by word: what was asked for it
     QList<PlaceHit> m_hits{};
 };
 

@@ -12,7 +12,7 @@ namespace {
 constexpr char16_t endMark = u'\u01C2';
 constexpr char16_t contextMark = u'\u01C3';
 
-/// Letters that Unicode does not take apart, and how people type them instead.
+// Letters that Unicode does not take apart, and how people type them instead.
 QStringView plainSpelling(char16_t letter)
 {
     switch (letter) {
@@ -44,7 +44,7 @@ QStringView plainSpelling(char16_t letter)
     }
 }
 
-/// Marks inside a word that people leave out: O’Fallon, St. Moritz.
+// Marks inside a word that people leave out: O’Fallon, St. Moritz.
 bool isSilent(char16_t c)
 {
     return c == u'\'' || c == u'.' || c == u'`' || (c >= u'\u2018' && c <= u'\u201B')

@@ -28,7 +28,7 @@ QList<QByteArray> tagged()
         tagged({ u"-XMP-dc:Subject=sky"_s }) };
 }
 
-/// Three photos: "a" and "b" share creator and place, "c" holds neither; "a" alone has custom fields and people.
+// Three photos: "a" and "b" share creator and place, "c" holds neither; "a" alone has custom fields and people.
 struct ThreePhotos : ModelFixture {
     ThreePhotos()
     {
@@ -36,7 +36,7 @@ struct ThreePhotos : ModelFixture {
         for (int i = 0; i < 3; ++i)
             folder.add(QChar(u'a' + i) + u".jpg"_s, photos.at(i));
     }
-    /// Opens and selects these photos, the first one first.
+    // Opens and selects these photos, the first one first.
     bool select(const QString& letters)
     {
         const bool isRead = open();

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Six photos, "a.jpg" to "f.jpg", open; the first is selected.
+// Six photos, "a.jpg" to "f.jpg", open; the first is selected.
 struct SixPhotos : ModelFixture {
     SixPhotos()
     {
@@ -322,7 +322,7 @@ void tst_AppModelLibrary::sortOrders_data()
         QTest::addRow("%s", qPrintable(rawValue(order))) << order;
 }
 
-/// The index keeps the order that a new one would find, through every way in which the list of photos changes.
+// The index keeps the order that a new one would find, through every way in which the list of photos changes.
 void tst_AppModelLibrary::sortOrders()
 {
     QFETCH(RecordSortOrder, order);

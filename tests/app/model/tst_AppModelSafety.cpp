@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Photos "a", "b" and "c" before a tool that claims to have written and reads nothing back.
+// Photos "a", "b" and "c" before a tool that claims to have written and reads nothing back.
 struct ForgetfulPhotos : FakeTool, ModelFixture {
     ForgetfulPhotos()
         : ModelFixture(MetadataService{ runner() })
@@ -24,7 +24,7 @@ struct ForgetfulPhotos : FakeTool, ModelFixture {
     }
 };
 
-/// Photos "a" and "c", and texts with the names of photos; all are open and selected.
+// Photos "a" and "c", and texts with the names of photos; all are open and selected.
 struct MixedPhotos : ModelFixture {
     explicit MixedPhotos(const QStringList& texts)
     {
@@ -38,7 +38,7 @@ struct MixedPhotos : ModelFixture {
     }
 };
 
-/// The real tool; while it stalls, for ever busy with reading a photo "b.jpg".
+// The real tool; while it stalls, for ever busy with reading a photo "b.jpg".
 class StallingTool {
 public:
     StallingTool()
@@ -70,7 +70,7 @@ private:
     PhotoFolder m_folder;
 };
 
-/// Photos "a", "b" and "c" before a tool that may stall at "b".
+// Photos "a", "b" and "c" before a tool that may stall at "b".
 struct StallingPhotos : StallingTool, ModelFixture {
     StallingPhotos()
         : ModelFixture(service())
@@ -83,7 +83,7 @@ struct StallingPhotos : StallingTool, ModelFixture {
         model->preferences().saveDontAsk.set(true);
         model->preferences().backupOriginals.set(false);
     }
-    /// Waits for the offer to skip "b", and takes it.
+    // Waits for the offer to skip "b", and takes it.
     bool skipStalled() const
     {
         const bool isOffered = QTest::qWaitFor([this] { return model->stalledFile() == u"b.jpg"_s; }, 30000);
@@ -259,7 +259,7 @@ void tst_AppModelSafety::refusedBatchGoesBack_data()
     QTest::addRow("something else is edited: when they are selected again") << true;
 }
 
-/// The whole save is refused, because one of two photos is read-only, when the user is at a third one already.
+// The whole save is refused, because one of two photos is read-only, when the user is at a third one already.
 void tst_AppModelSafety::refusedBatchGoesBack()
 {
     QFETCH(bool, typesMeanwhile);
@@ -296,7 +296,7 @@ void tst_AppModelSafety::refusedBatchGoesBack()
     QCOMPARE(f.onDisk(u"b.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
 }
 
-/// One of three photos is refused while the user edits it, or one that was saved, on its own.
+// One of three photos is refused while the user edits it, or one that was saved, on its own.
 void tst_AppModelSafety::partialBatchUnderADraft_data()
 {
     QTest::addColumn<QString>("clicked");
@@ -370,7 +370,7 @@ void tst_AppModelSafety::stalledReReadOfASaveIsSkipped()
     QCOMPARE(f->unsavedCount(), 0);
 }
 
-/// Nothing is shown of a refresh, until it does not get on.
+// Nothing is shown of a refresh, until it does not get on.
 void tst_AppModelSafety::stalledRefreshIsSkipped()
 {
     StallingPhotos f;

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Photos "a", "b" and "c" behind a gated tool, open; "a" is selected.
+// Photos "a", "b" and "c" behind a gated tool, open; "a" is selected.
 struct GatedPhotos : GatedTool, ModelFixture {
     GatedPhotos()
         : ModelFixture(service())

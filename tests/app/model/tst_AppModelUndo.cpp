@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Photos "a" and "b", each titled with its name, before a model that keeps a journal.
+// Photos "a" and "b", each titled with its name, before a model that keeps a journal.
 struct JournaledPhotos : ModelFixture {
     explicit JournaledPhotos(const QStringList& names = { u"a.jpg"_s, u"b.jpg"_s })
     {
@@ -106,7 +106,7 @@ void tst_AppModelUndo::undoFollowsRenames()
     QCOMPARE(f.onDisk(u"Renamed.jpg"_s, u"XMP:Title"_s), QJsonValue(u"a.jpg"_s));
 }
 
-/// Photo "a" has a sidecar of another program's, "b" has none.
+// Photo "a" has a sidecar of another program's, "b" has none.
 void tst_AppModelUndo::undoTakesSidecarsBack()
 {
     JournaledPhotos f;
@@ -172,7 +172,7 @@ void tst_AppModelUndo::undoThroughALink()
     QCOMPARE(f->draftValues().value(u"title"_s), u"a.jpg"_s);
 }
 
-/// Every photo had another title, so each is a run of its own; two of them cannot be written to.
+// Every photo had another title, so each is a run of its own; two of them cannot be written to.
 void tst_AppModelUndo::undoThatFailsInPart()
 {
     const QStringList names{ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s };
@@ -205,7 +205,7 @@ void tst_AppModelUndo::undoThatFailsInPart()
     QVERIFY(!f->canUndoSave());
 }
 
-/// A tool that is killed says nothing about what it has done: what it restored must not pass for another's work.
+// A tool that is killed says nothing about what it has done: what it restored must not pass for another's work.
 void tst_AppModelUndo::undoIsTriedAgainAfterTheToolWasCut()
 {
     JournaledPhotos f({ u"a.jpg"_s, u"b.jpg"_s });

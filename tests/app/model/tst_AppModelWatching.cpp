@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Photos "a" to "e", each titled with its name, open behind a gated tool; "a" is selected.
+// Photos "a" to "e", each titled with its name, open behind a gated tool; "a" is selected.
 struct OpenFolder : GatedTool, ModelFixture {
     OpenFolder()
         : ModelFixture(service())

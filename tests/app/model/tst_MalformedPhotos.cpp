@@ -33,7 +33,7 @@ QStringList brokenPhotos(qsizetype most)
     return paths;
 }
 
-/// The photos that hold the place as the tool reads them, by path. Its exit status says nothing: there are warnings.
+// The photos that hold the place as the tool reads them, by path. Its exit status says nothing: there are warnings.
 QSet<QString> holdingPlace(const QList<QUrl>& files)
 {
     QStringList arguments{ realTool().exiftoolURL.toLocalFile(), u"-json"_s, u"-a"_s, u"-G1:4"_s, u"-City"_s };
@@ -51,7 +51,7 @@ QSet<QString> holdingPlace(const QList<QUrl>& files)
     return paths;
 }
 
-/// Waits for what runs to end, as a user would who skips whatever stalls.
+// Waits for what runs to end, as a user would who skips whatever stalls.
 bool waitPatiently(ModelFixture& f)
 {
     return QTest::qWaitFor(
@@ -93,7 +93,7 @@ private slots:
     void oneByOne();
 };
 
-/// A folder of them: shown, each selected once, then all given one place.
+// A folder of them: shown, each selected once, then all given one place.
 void tst_MalformedPhotos::together()
 {
     const QStringList paths = brokenPhotos(40);

@@ -17,7 +17,7 @@ namespace {
 constexpr auto handOverArgument = "--hand-over-to";
 constexpr auto crashArgument = "--listen-and-crash";
 
-/// What the second start hands over, whatever its arguments look like.
+// What the second start hands over, whatever its arguments look like.
 HandOver sample()
 {
     return { { QUrl::fromLocalFile(u"/photos/a b.jpg"_s), QUrl::fromLocalFile(u"/photos/Zürich #1%20.jpg"_s) },
@@ -93,7 +93,7 @@ void tst_SingleInstance::oneOfTwoListens()
     QVERIFY(QFileInfo::exists(path()));
 }
 
-/// A program that accepts but never answers must not keep the next start from opening a window.
+// A program that accepts but never answers must not keep the next start from opening a window.
 void tst_SingleInstance::aHungProgramIsLeftAlone()
 {
     QLocalServer hung;

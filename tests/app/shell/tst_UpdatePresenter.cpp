@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Answers every request with the same status and body, and counts them.
+// Answers every request with the same status and body, and counts them.
 class FeedServer : public QTcpServer {
 public:
     FeedServer()
@@ -67,7 +67,7 @@ private:
     std::unique_ptr<FeedServer> m_server;
     QDateTime m_now;
     QList<Notice> m_notices;
-    qsizetype m_press = 0;  ///< the button that the user presses on every notice
+    qsizetype m_press = 0;  // the button that the user presses on every notice
     QList<QUrl> m_opened;
 };
 
@@ -161,7 +161,7 @@ void tst_UpdatePresenter::manualChecks_data()
         << u"Please check your internet connection and try again."_s << 1;
 }
 
-/// Whatever was recorded and whatever comes out, a manual check fetches, records and speaks.
+// Whatever was recorded and whatever comes out, a manual check fetches, records and speaks.
 void tst_UpdatePresenter::manualChecks()
 {
     QFETCH(QByteArray, status);

@@ -28,7 +28,7 @@ MetadataService realService()
     return { realTool() };
 }
 
-/// The one value of a tag ("-XMP-dc:Title") as ExifTool prints it.
+// The one value of a tag ("-XMP-dc:Title") as ExifTool prints it.
 QString exiftoolValue(const QUrl& file, const QString& tag)
 {
     return QString::fromUtf8(exiftool({ u"-s3"_s, tag, file.toLocalFile() })).trimmed();
@@ -49,7 +49,7 @@ QString problem(const std::function<void()>& call)
     return {};
 }
 
-/// The real tool, but killed before it gives a file another name for the n-th time (the first is 0).
+// The real tool, but killed before it gives a file another name for the n-th time (the first is 0).
 class CutTool {
 public:
     explicit CutTool(int n)
@@ -123,7 +123,7 @@ private slots:
         QCOMPARE(failing.calls().size(), 1);  // the write itself was not begun
     }
 
-    /// Not even the run that would re-encode their texts is begun.
+    // Not even the run that would re-encode their texts is begun.
     void refusesWhatTheToolWouldMix()
     {
         FakeTool tool;
@@ -389,7 +389,7 @@ private slots:
         QCOMPARE(writeFailures(silent, { good, bad }).size(), 2);
     }
 
-    /// XMP knows no reference beside the number of a position: what is written there needs its sign.
+    // XMP knows no reference beside the number of a position: what is written there needs its sign.
     void positionKeepsItsHemisphereInXmp_data()
     {
         QTest::addColumn<QList<double>>("position");
@@ -475,7 +475,7 @@ private slots:
         QCOMPARE(readFile(c.toLocalFile()), jpegBytes(9, 9));
     }
 
-    /// Values and names as other programs leave them: every byte comes back, and of every group and language.
+    // Values and names as other programs leave them: every byte comes back, and of every group and language.
     void takesASaveOfOddTextsBack()
     {
         const QStringList texts{ "-XMP-dc:Title=C:\\\\new \\\\x41", "-IPTC:Caption-Abstract=one\\rtwo\\r\\nthree ",
@@ -523,7 +523,7 @@ private slots:
         QCOMPARE(tags(), before);
     }
 
-    /// What the tool says of an undo is not all that is known of it: the files are.
+    // What the tool says of an undo is not all that is known of it: the files are.
     void looksAtWhatItTookBack_data()
     {
         QTest::addColumn<QByteArray>("error");

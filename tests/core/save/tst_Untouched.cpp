@@ -17,10 +17,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Photos in the normal run; all with QUORBEL_SLOW_TESTS=1.
+// Photos in the normal run; all with QUORBEL_SLOW_TESTS=1.
 constexpr qsizetype sample = 24;
 
-/// Every tag of every file, by path, in one run. The tool's exit status says nothing here: odd photos have warnings.
+// Every tag of every file, by path, in one run. The tool's exit status says nothing here: odd photos have warnings.
 QMap<QString, QJsonObject> dump(const QList<QUrl>& files)
 {
     QStringList arguments{ realTool().exiftoolURL.toLocalFile(), u"-j"_s, u"-a"_s, u"-G1:4"_s, u"-s"_s, u"-n"_s,
@@ -37,7 +37,7 @@ QMap<QString, QJsonObject> dump(const QList<QUrl>& files)
     return tags;
 }
 
-/// Tags that a save of the field "place" writes, and what the tool keeps its books with.
+// Tags that a save of the field "place" writes, and what the tool keeps its books with.
 bool mayChange(const QString& key)
 {
     static const QList<QRegularExpression> allowed{
@@ -64,13 +64,13 @@ bool mayChange(const QString& key)
         [&key](const QRegularExpression& pattern) { return pattern.match(key).hasMatch(); });
 }
 
-/// A property that a block holds twice, the second time without a value: the tool writes it once.
+// A property that a block holds twice, the second time without a value: the tool writes it once.
 bool isEmptyDouble(const QString& key, const QJsonValue& value)
 {
     return key.contains(u":Copy"_s) && value.toString(u"-"_s).isEmpty();
 }
 
-/// Whether the field holds the new text; a file may hold the tag more than once.
+// Whether the field holds the new text; a file may hold the tag more than once.
 bool holdsNewPlace(const QJsonObject& tags)
 {
     for (const QString& key : { u"XMP-photoshop:City"_s, u"XMP-photoshop:Copy1:City"_s })
@@ -79,14 +79,14 @@ bool holdsNewPlace(const QJsonObject& tags)
     return false;
 }
 
-/// The whole picture; null where no library here decodes it.
+// The whole picture; null where no library here decodes it.
 QImage pixels(const QString& path)
 {
     constexpr int longerThanAnySide = 100'000;
     return ImageDecoder::decode(path, longerThanAnySide).image;
 }
 
-/// What is left of a file without its metadata, as far as the tool can take them out.
+// What is left of a file without its metadata, as far as the tool can take them out.
 QByteArray bareBytes(const QString& path)
 {
     const PhotoFolder folder;

@@ -94,7 +94,7 @@ private slots:
         QCOMPARE(FieldSchema::timeZoneOffsets().size(), 38);
     }
 
-    /// The page shows every field, in the order of its section, with its name and its tags.
+    // The page shows every field, in the order of its section, with its name and its tags.
     void isWhatThePageSays()
     {
         static const QRegularExpression row(

@@ -33,7 +33,7 @@ QByteArray replyFor(const QList<QUrl>& urls)
     return toolJson(objects);
 }
 
-/// The tool error that the call throws; fails the test by an unlikely one when it throws none.
+// The tool error that the call throws; fails the test by an unlikely one when it throws none.
 template <typename Call>
 ToolError::Payload thrownBy(Call call)
 {

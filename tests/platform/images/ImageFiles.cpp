@@ -18,7 +18,7 @@
 using namespace Qt::StringLiterals;
 
 #ifdef __SANITIZE_ADDRESS__
-/// The HEVC encoder, which only tests use, never frees some of its rows.
+// The HEVC encoder, which only tests use, never frees some of its rows.
 extern "C" const char* __lsan_default_suppressions();  // NOLINT(bugprone-reserved-identifier)
 extern "C" const char* __lsan_default_suppressions()  // NOLINT(bugprone-reserved-identifier)
 {
@@ -66,7 +66,7 @@ struct TiffCallbacks {
     static toff_t size(thandle_t handle) { return toff_t(buffer(handle).size()); }
 };
 
-/// The part of the picture of `inks` that lies at that place, as samples of a tile, a strip or one plane of them.
+// The part of the picture of `inks` that lies at that place, as samples of a tile, a strip or one plane of them.
 QByteArray tiffSamples(const QByteArray& inks, QSize size, QRect part, const ImageFiles::TiffLayout& layout, int plane)
 {
     QByteArray samples;
@@ -104,7 +104,7 @@ void writeTiffPixels(TIFF* tiff, const QByteArray& inks, QSize size, const Image
             }
 }
 
-/// The pixels as the library takes them.
+// The pixels as the library takes them.
 heif_image* heifImage(const QImage& image)
 {
     const QImage rgb = image.convertToFormat(QImage::Format_RGB888);

@@ -27,7 +27,7 @@ struct Named {
     QByteArray bytes{};
 };
 
-/// TIFFs of four inks as programs arrange them: TIFF's numbers of the compressions are in ImageFiles.h.
+// TIFFs of four inks as programs arrange them: TIFF's numbers of the compressions are in ImageFiles.h.
 QList<Named> inkTiffs(QSize size, const QByteArray& inks, const QByteArray& icc = {})
 {
     using Layout = ImageFiles::TiffLayout;
@@ -51,7 +51,7 @@ QList<Named> inkTiffs(QSize size, const QByteArray& inks, const QByteArray& icc 
     return files;
 }
 
-/// One file of every format, 320 × 200 pixels in four quarters.
+// One file of every format, 320 × 200 pixels in four quarters.
 const QList<Named>& everyFile()
 {
     const QImage image = ImageFiles::quarters({ 320, 200 });
@@ -89,7 +89,7 @@ bool isNear(QRgb one, QRgb other, int tolerance)
         && qAbs(qBlue(one) - qBlue(other)) <= tolerance;
 }
 
-/// The first quarter whose middle has another colour than it should; empty when all are right.
+// The first quarter whose middle has another colour than it should; empty when all are right.
 QString wrongQuarter(const QImage& image, const QImage& expected, int tolerance)
 {
     for (const double x : { 0.25, 0.75 }) {
@@ -103,8 +103,8 @@ QString wrongQuarter(const QImage& image, const QImage& expected, int tolerance)
     return {};
 }
 
-/// The megabytes that decoding this file, and its own thumbnail, adds at its highest, measured in a process of its own,
-/// and its outcome.
+// The megabytes that decoding this file, and its own thumbnail, adds at its highest, measured in a process of its own,
+// and its outcome.
 std::pair<Outcome, int> decodeApart(const QString& path)
 {
     const auto peak = [](const char* field) {
@@ -177,7 +177,7 @@ private slots:
         }
     }
 
-    /// Cut off anywhere, a file gives what there is or nothing: it ends, and what it gives has the right size.
+    // Cut off anywhere, a file gives what there is or nothing: it ends, and what it gives has the right size.
     void truncated_data() { everyFormat_data(); }
     void truncated()
     {
@@ -257,7 +257,7 @@ private slots:
         QVERIFY(coded.width() >= 1000 && coded.width() < 1064 && coded.height() >= 600 && coded.height() < 664);
     }
 
-    /// A thumbnail that is large enough is all that is read: what is wrong with the photo itself does not matter then.
+    // A thumbnail that is large enough is all that is read: what is wrong with the photo itself does not matter then.
     void heifThumbnailStandsForThePhoto()
     {
         QByteArray bytes = ImageFiles::heif(ImageFiles::quarters({ 320, 200 }), false, { .thumbnail = 160 });
@@ -387,7 +387,7 @@ private slots:
         }
     }
 
-    /// What the directory claims, and the pixels do not hold: it costs neither memory nor the process.
+    // What the directory claims, and the pixels do not hold: it costs neither memory nor the process.
     void absurdInks_data()
     {
         QTest::addColumn<QByteArray>("bytes");
@@ -421,7 +421,7 @@ private slots:
         QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
     }
 
-    /// Each byte of the directory and of the first pixels wrong once.
+    // Each byte of the directory and of the first pixels wrong once.
     void corruptInks_data()
     {
         QTest::addColumn<QByteArray>("bytes");
@@ -454,7 +454,7 @@ private slots:
         }
     }
 
-    /// Cameras put a 3:2 photo between black bars into a 4:3 thumbnail, and editors leave old ones behind.
+    // Cameras put a 3:2 photo between black bars into a 4:3 thumbnail, and editors leave old ones behind.
     void embeddedThumbnailIsCutToThePhotosShape()
     {
         QImage thumbnail(160, 120, QImage::Format_RGB32);
@@ -472,7 +472,7 @@ private slots:
             QString());
     }
 
-    /// How luma and chroma are meant stands in the container or, when that is silent, in the stream.
+    // How luma and chroma are meant stands in the container or, when that is silent, in the stream.
     void heifLumaAndChroma_data()
     {
         QTest::addColumn<QByteArray>("bytes");
@@ -505,7 +505,7 @@ private slots:
         QVERIFY2(isNear(image.pixel(48, 32), stretched, 3), qPrintable(image.pixelColor(48, 32).name()));
     }
 
-    /// A HEIC's thumbnail stands for the photo, so it must not be one with bars.
+    // A HEIC's thumbnail stands for the photo, so it must not be one with bars.
     void heifThumbnailOfAnotherShapeIsNotThePhoto()
     {
         QImage barred(160, 120, QImage::Format_RGB32);

@@ -41,7 +41,7 @@ private slots:
         QTEST(ImageTypes::isImage(QUrl::fromLocalFile(text)) ? u"yes"_s : u"no"_s, "expected");
     }
 
-    /// A supported format is either one that any program knows or one that the module takes for a camera's.
+    // A supported format is either one that any program knows or one that the module takes for a camera's.
     void rawFormatsAreKnownAsSuch()
     {
         const QStringList ordinary =
@@ -53,7 +53,7 @@ private slots:
             QVERIFY2(ImageTypes::extensions().contains(extension), qPrintable(extension));
     }
 
-    /// Files that the desktop can tell apart open with the program. (It has no type at all for some cameras' files.)
+    // Files that the desktop can tell apart open with the program. (It has no type at all for some cameras' files.)
     void desktopKnowsEveryExtension()
     {
         const QStringList listed = listedMimeTypes();

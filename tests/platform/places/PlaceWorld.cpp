@@ -43,7 +43,7 @@ constexpr Town towns[] = {
     { "Northmost", "", 83.5, 179.9, "PPL", "US", "IL", 100 },
 };
 
-/// A square as a geopackage holds it: header without envelope, then a polygon in well-known binary.
+// A square as a geopackage holds it: header without envelope, then a polygon in well-known binary.
 QByteArray square(double west, double south, double east, double north)
 {
     QByteArray bytes("GP\0\1\0\0\0\0", 8);

@@ -26,8 +26,8 @@ enum Ground { sea, land, nationalLine };
 const QStringList fileNames{ u"gshhg-shores-high.map"_s, u"gshhg-shores-middle.map"_s, u"gshhg-shores-low.map"_s,
     u"gshhg-rivers-high.map"_s, u"gshhg-rivers-low.map"_s, u"borders.map"_s, u"towns.map"_s };
 
-/// A world of 10° bins. Land: 40…50° N, 0…20° E, with a lake in the middle of its west half; an island across the
-/// antimeridian, 10…20° S, 170° E…170° W, with a border along 15° S; all south of 80° S. Six towns at 45° N.
+// A world of 10° bins. Land: 40…50° N, 0…20° E, with a lake in the middle of its west half; an island across the
+// antimeridian, 10…20° S, 170° E…170° W, with a border along 15° S; all south of 80° S. Six towns at 45° N.
 class SmallWorld {
 public:
     SmallWorld()
@@ -95,7 +95,7 @@ PlaceResult<MapImage> render(const QString& folder, const MapRequest& request)
     return answer;
 }
 
-/// What a pixel shows: the colour that it is nearest to.
+// What a pixel shows: the colour that it is nearest to.
 Ground groundOf(const QColor& pixel, bool dark = false)
 {
     const auto& palette = MapPalette::of(dark);
@@ -195,7 +195,7 @@ void tst_MapRenderer::seamless_data()
     QTest::newRow("pole, near") << -90.0 << 0.0 << 20.0;
 }
 
-/// Every pixel is plain land: no line where polygons of neighbouring bins meet, no gap between them.
+// Every pixel is plain land: no line where polygons of neighbouring bins meet, no gap between them.
 void tst_MapRenderer::seamless()
 {
     QFETCH(double, latitude);
@@ -221,7 +221,7 @@ void tst_MapRenderer::seamless()
     }
 }
 
-/// The west coast lies on the meridian at the centre: the middle column, whatever the scale.
+// The west coast lies on the meridian at the centre: the middle column, whatever the scale.
 void tst_MapRenderer::shoreStandsWhereItIs()
 {
     auto request = requestAt(42, 0);
@@ -385,7 +385,7 @@ void tst_MapRenderer::damaged_data()
     missing_data();
 }
 
-/// Cut off anywhere or with bytes changed, a file draws something or nothing, but never reads beyond its end.
+// Cut off anywhere or with bytes changed, a file draws something or nothing, but never reads beyond its end.
 void tst_MapRenderer::damaged()
 {
     QFETCH(QString, name);
@@ -460,7 +460,7 @@ void tst_MapRenderer::realWorld()
     }
 }
 
-/// The same place by either of its names gives the same picture, in the real data too.
+// The same place by either of its names gives the same picture, in the real data too.
 void tst_MapRenderer::antimeridianIsNoEdge()
 {
     const auto built = builtData();

@@ -20,7 +20,7 @@ const QByteArray twoPlaces = R"({"features":[
     {"geometry":{"coordinates":[8.54,47.37]},"properties":{"street":"Rennweg","housenumber":"7","city":"Zürich",
         "county":"Bezirk Zürich","country":"Schweiz","osm_type":"N","osm_id":5}}]})";
 
-/// Plays one answer to every request, and keeps the requests.
+// Plays one answer to every request, and keeps the requests.
 class Server : public QTcpServer {
 public:
     Server()
@@ -45,7 +45,7 @@ public:
             + "\r\nConnection: close\r\n" + header + "\r\n" + body;
     }
 
-    QByteArray answer{};  ///< empty: silence
+    QByteArray answer{};  // empty: silence
     QStringList requests{};
     int disconnections = 0;
 };
@@ -70,7 +70,7 @@ OnlinePlaceOptions quick(const QUrl& url)
     return { url, 1ms, 2000ms };
 }
 
-/// Answers within the call with what it was given.
+// Answers within the call with what it was given.
 class FixedProvider final : public PlaceProvider {
 public:
     explicit FixedProvider(PlaceResult<QList<PlaceSuggestion>> result)

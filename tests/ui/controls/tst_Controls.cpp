@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What surrounds a control, where its ring would be.
+// What surrounds a control, where its ring would be.
 int ringPixels(QWidget* control)
 {
     const QPoint topLeft = control->mapTo(control->window(), QPoint(0, 0));

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A keyword editor with an owner behind it: keeps a list without doubles, as the inspector's draft does.
+// A keyword editor with an owner behind it: keeps a list without doubles, as the inspector's draft does.
 struct KeywordOwner {
     explicit KeywordOwner(Test::Stage& stage, const QStringList& chips = {})
         : editor(stage.add(new KeywordEditor))

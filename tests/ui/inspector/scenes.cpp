@@ -32,7 +32,7 @@ void grab(InspectorFixture& f, const QString& folder, const QString& name)
     }
 }
 
-/// A sheet over an empty window, in both appearances.
+// A sheet over an empty window, in both appearances.
 void grabSheet(const std::function<SheetBody*()>& make, const QString& folder, const QString& name)
 {
     for (const bool dark : { false, true }) {

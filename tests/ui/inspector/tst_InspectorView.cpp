@@ -27,7 +27,7 @@ const QStringList alike{ u"-XMP-dc:Creator=Mara"_s };
 const QStringList located{ u"-GPSLatitude=47.3769"_s, u"-GPSLatitudeRef=N"_s, u"-GPSLongitude=8.5417"_s,
     u"-GPSLongitudeRef=E"_s };
 
-/// Three photos that share a creator and differ in their titles; the first knows its camera.
+// Three photos that share a creator and differ in their titles; the first knows its camera.
 void addThree(InspectorFixture& f)
 {
     f.add(u"a.jpg"_s, alike + QStringList{ u"-XMP-dc:Title=One"_s, u"-EXIF:Model=E-M5"_s, u"-EXIF:ISO=200"_s });
@@ -35,7 +35,7 @@ void addThree(InspectorFixture& f)
     f.add(u"c.jpg"_s, alike + QStringList{ u"-XMP-dc:Title=Two"_s });
 }
 
-/// The tick of a row; null while there is none to be seen.
+// The tick of a row; null while there is none to be seen.
 QBCheckbox* tick(const InspectorFixture& f, const QString& id)
 {
     auto* box = f.editor<QBCheckbox>(id);
@@ -53,7 +53,7 @@ void type(QWidget* field, const QString& text)
     QTest::keyClicks(QApplication::focusWidget(), text);
 }
 
-/// What Tab goes through from a control until it is back there, or for too long.
+// What Tab goes through from a control until it is back there, or for too long.
 QStringList tabStopsFrom(QWidget* first)
 {
     QStringList names;

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Answers when the test says so. A token that is gone means that nobody waits any more.
+// Answers when the test says so. A token that is gone means that nobody waits any more.
 template <typename T>
 class Mailbox {
 public:
@@ -91,7 +91,7 @@ const QList<PlaceSuggestion> zurichs{ { u"Zürich"_s, u"Switzerland"_s, u"1"_s, 
 const Placemark altstetten{ u"Altstetten"_s, u"Zürich"_s, u"Canton of Zürich"_s, u"Switzerland"_s, u"CH"_s,
     { 47.39, 8.48 } };
 
-/// A field on a stage with its dropdown, typed into.
+// A field on a stage with its dropdown, typed into.
 struct Search {
     Search()
         : field(stage.add(new LocationSearchField(&places)))

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A model with photos in its folder, and a window for its sheets.
+// A model with photos in its folder, and a window for its sheets.
 struct SheetFixture {
     explicit SheetFixture(const QStringList& names)
     {

@@ -21,13 +21,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Whether the box to drop things on is drawn in the green of a drag that hovers.
+// Whether the box to drop things on is drawn in the green of a drag that hovers.
 bool looksTargeted(QWidget* launch)
 {
     return pixelsLike(launch->grab().toImage(), colorFromHex(u"cfe0a8"_s)) > 10'000;
 }
 
-/// Drags over, or drops on, a widget the way that the platform's drag and drop does; whether it was accepted.
+// Drags over, or drops on, a widget the way that the platform's drag and drop does; whether it was accepted.
 template <typename Event>
 bool drag(QWidget* widget, const QList<QUrl>& urls, const QString& text = {})
 {
@@ -49,7 +49,7 @@ bool drag(QWidget* widget, const QList<QUrl>& urls, const QString& text = {})
     }
 }
 
-/// Ends a drag that is not dropped. Without it Qt keeps the widget under the last one, also when that is gone.
+// Ends a drag that is not dropped. Without it Qt keeps the widget under the last one, also when that is gone.
 void endDrag(QWidget* widget)
 {
     QDragLeaveEvent event;

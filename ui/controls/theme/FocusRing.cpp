@@ -14,8 +14,8 @@ namespace Quorbel {
 
 namespace {
 
-/// The widget that the ring is a child of: the nearest that scrolls as a whole, or the window. Anything between may
-/// clip the control without clipping its ring.
+// The widget that the ring is a child of: the nearest that scrolls as a whole, or the window. Anything between may
+// clip the control without clipping its ring.
 QWidget* ringHost(QWidget* control)
 {
     QWidget* host = control->parentWidget();
@@ -34,7 +34,7 @@ bool cameByKeyboard(Qt::FocusReason reason)
     return reason != Qt::MouseFocusReason && reason != Qt::PopupFocusReason;
 }
 
-/// The ring itself, and the watch over the control and everything between it and the host.
+// The ring itself, and the watch over the control and everything between it and the host.
 class FocusRing final : public QWidget {
 public:
     FocusRing(QWidget* control, QWidget* host, const FocusRingOptions& options)
@@ -113,7 +113,7 @@ private:
         update();
     }
 
-    /// A line of this width whose inner edge lies `distance` outside the control.
+    // A line of this width whose inner edge lies `distance` outside the control.
     void stroke(QPainter& painter, qreal distance, qreal width, const QColor& color)
     {
         const qreal outset = distance + width / 2;
@@ -130,7 +130,7 @@ private:
     AnimatedValue m_opacity;
 };
 
-/// Makes and removes the ring as the focus comes and goes.
+// Makes and removes the ring as the focus comes and goes.
 class FocusWatch final : public QObject {
 public:
     FocusWatch(QWidget* control, FocusRingOptions options)

@@ -18,7 +18,7 @@ QString path(const QString& name)
     return u":/icons/%1.svg"_s.arg(name);
 }
 
-/// The drawing's text with its colour and line width filled in; empty for an unknown name.
+// The drawing's text with its colour and line width filled in; empty for an unknown name.
 QByteArray drawing(const QString& name, const QColor& color, qreal stroke)
 {
     QByteArray svg = QResource(path(name)).uncompressedData();

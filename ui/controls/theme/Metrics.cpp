@@ -48,7 +48,7 @@ QFont makeFont(const QString& family, qreal points, QFont::Weight weight)
     return font;
 }
 
-/// Runs a widget's restyle function at the events that call for it.
+// Runs a widget's restyle function at the events that call for it.
 class Restyler final : public QObject {
 public:
     Restyler(QWidget* widget, std::function<void()> restyle)
@@ -75,7 +75,7 @@ protected:
 
 private:
     std::function<void()> m_restyle;
-    const Theme* m_seen;  ///< only compared, never read
+    const Theme* m_seen;  // only compared, never read
 };
 
 }  // namespace

@@ -15,12 +15,12 @@ namespace Quorbel {
 
 namespace {
 
-/// One blurred layer: moved down and blurred (points; blur is twice the standard deviation), black at an opacity.
+// One blurred layer: moved down and blurred (points; blur is twice the standard deviation), black at an opacity.
 struct Layer {
     qreal down = 0;
     qreal blur = 0;
-    qreal light = 0;  ///< opacity in the light theme
-    qreal dark = 0;  ///< in the dark one
+    qreal light = 0;  // opacity in the light theme
+    qreal dark = 0;  // in the dark one
 };
 
 const std::array<Layer, 2>& layers(Shadow kind)
@@ -40,7 +40,7 @@ const std::array<Layer, 2>& layers(Shadow kind)
     return photo;
 }
 
-/// A running mean over 2·reach + 1 values along one line of bytes; values beyond the ends count as 0.
+// A running mean over 2·reach + 1 values along one line of bytes; values beyond the ends count as 0.
 void boxBlurLine(uchar* line, int count, qsizetype step, int reach, std::vector<uchar>& copy)
 {
     copy.resize(static_cast<size_t>(count));
@@ -59,7 +59,7 @@ void boxBlurLine(uchar* line, int count, qsizetype step, int reach, std::vector<
     }
 }
 
-/// Three box blurs are close to a Gaussian of this standard deviation (device pixels).
+// Three box blurs are close to a Gaussian of this standard deviation (device pixels).
 void blur(QImage& mask, qreal deviation)
 {
     const int reach = qMax(1, qRound((std::sqrt(4 * deviation * deviation + 1) - 1) / 2));
@@ -72,13 +72,13 @@ void blur(QImage& mask, qreal deviation)
     }
 }
 
-/// Device pixels from the outer edge of a patch to where its corner's influence ends.
+// Device pixels from the outer edge of a patch to where its corner's influence ends.
 int patchCorner(int radius, int blurPixels)
 {
     return radius + 3 * blurPixels;
 }
 
-/// The blurred mask of a rounded square, black: its four corners and one pixel between them. Sizes in device pixels.
+// The blurred mask of a rounded square, black: its four corners and one pixel between them. Sizes in device pixels.
 const QImage& patch(int radius, int blurPixels)
 {
     static QHash<std::pair<int, int>, QImage> patches;
@@ -100,7 +100,7 @@ const QImage& patch(int radius, int blurPixels)
     return image;
 }
 
-/// Draws the patch stretched around a rectangle of device pixels.
+// Draws the patch stretched around a rectangle of device pixels.
 void drawPatch(QPainter& painter, const QRectF& outer, const QImage& image)
 {
     const qreal corner = qMin((image.width() - 1) / 2.0, qMin(outer.width(), outer.height()) / 2);
@@ -114,8 +114,8 @@ void drawPatch(QPainter& painter, const QRectF& outer, const QImage& image)
                 QRectF(QPointF(from[column], from[row]), QPointF(from[column + 1], from[row + 1])));
 }
 
-/// As a stack of outlines from `reach` outside to as far inside: half of `alpha` at the edge, none at `reach`.
-/// Cheaper than a blur for a popup, which takes another size with every letter that is typed.
+// As a stack of outlines from `reach` outside to as far inside: half of `alpha` at the edge, none at `reach`.
+// Cheaper than a blur for a popup, which takes another size with every letter that is typed.
 void paintOutlines(
     QPainter& painter, const QRectF& rect, qreal radius, const Theme& theme, qreal alpha, qreal reach, qreal down)
 {

@@ -15,14 +15,14 @@ namespace {
 
 constexpr const char* themeProperty = "quorbelTheme";
 
-/// One role in both palettes.
+// One role in both palettes.
 struct RoleRow {
     QColor Theme::*role;
     const char* light;
     const char* dark;
 };
 
-/// One derived colour in both palettes; opacities of 1 but where stated.
+// One derived colour in both palettes; opacities of 1 but where stated.
 struct DerivedRow {
     QColor DerivedColors::*role;
     const char* light;

@@ -72,7 +72,7 @@ private slots:
         QTEST(names.join(u' '), "after");
     }
 
-    /// Like the plain stable sort that one would write without keys and ranks.
+    // Like the plain stable sort that one would write without keys and ranks.
     void sortsAnything()
     {
         auto random = QRandomGenerator(20240506);

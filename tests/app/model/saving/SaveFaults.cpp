@@ -25,7 +25,7 @@ void fail(const QString& what)
     QTest::qFail(qPrintable(what), __FILE__, __LINE__);
 }
 
-/// The bytes of the photos, made once: the tool takes longer than a copy.
+// The bytes of the photos, made once: the tool takes longer than a copy.
 const QMap<QString, QByteArray>& titledPhotos()
 {
     static const QMap<QString, QByteArray> photos = [] {
@@ -42,7 +42,7 @@ const QMap<QString, QByteArray>& titledPhotos()
     return photos;
 }
 
-/// All tags of the files, by path, from one run.
+// All tags of the files, by path, from one run.
 QMap<QString, QJsonObject> tagsOf(const QStringList& paths)
 {
     QMap<QString, QJsonObject> tags;

@@ -31,14 +31,14 @@ namespace {
 
 constexpr uid_t nobody = 65534;  // the user without any rights of its own
 
-/// Whether it is the tool that the test itself reads and writes with.
+// Whether it is the tool that the test itself reads and writes with.
 bool isOwnTool(pid_t process)
 {
     QFile commandLine(u"/proc/%1/cmdline"_s.arg(process));
     return commandLine.open(QIODevice::ReadOnly) && commandLine.readAll().contains("-stay_open");
 }
 
-/// Tools that the model has started and that run.
+// Tools that the model has started and that run.
 QList<pid_t> runningTools()
 {
     QList<pid_t> found;
@@ -59,7 +59,7 @@ void makeOld(const QString& path)
     QCOMPARE(utime(qPrintable(path), &times), 0);
 }
 
-/// Marks a file so that not even the administrator can change or replace it. False where that is impossible.
+// Marks a file so that not even the administrator can change or replace it. False where that is impossible.
 bool setImmutable(const QString& path, bool on)
 {
     const int file = ::open(qPrintable(path), O_RDONLY | O_CLOEXEC);
@@ -79,7 +79,7 @@ bool remountReadOnly(const QString& mountPoint)
         [&] { return mount("tmpfs", qPrintable(mountPoint), "tmpfs", MS_REMOUNT | MS_RDONLY, nullptr) == 0; }, 5000);
 }
 
-/// A folder for photos, and a model in this process that opens and saves them.
+// A folder for photos, and a model in this process that opens and saves them.
 struct BatchPhotos : ModelFixture {
     BatchPhotos()
         : directory(folder.path(u"trip"_s))
@@ -101,10 +101,10 @@ struct BatchPhotos : ModelFixture {
     QString directory;
 };
 
-/// What one moment does to the photos' folder, and how it is made good afterwards.
+// What one moment does to the photos' folder, and how it is made good afterwards.
 struct Loss {
     bool needsRoot = false;
-    bool isMounted = false;  ///< the folder is a file system of its own
+    bool isMounted = false;  // the folder is a file system of its own
     std::function<bool(const QString& folder)> take{};
     std::function<bool(const QString& folder)> giveBack{};
 };
@@ -128,15 +128,15 @@ private slots:
 
 private:
     int rounds(int few) const { return qEnvironmentVariableIsSet("QUORBEL_SLOW_TESTS") ? few * 30 : few; }
-    /// Text that needs the IPTC to be re-encoded by a run of its own, in every other round.
+    // Text that needs the IPTC to be re-encoded by a run of its own, in every other round.
     static QString titleOf(int round) { return (round % 2 ? u"東京 %1"_s : u"Title %1"_s).arg(round); }
     void verifyNextStart(const StruckPhotos& photos, const QString& directory, const QString& state);
 
-    /// A time into a save, in milliseconds: in the last third it only reads the photos back.
+    // A time into a save, in milliseconds: in the last third it only reads the photos back.
     int anyMoment() { return m_random.bounded(m_saveTime * 2 / 3 + 1); }
 
     QRandomGenerator m_random;
-    int m_saveTime = 1;  ///< ms; of a save that nothing strikes, on this machine as busy as it is
+    int m_saveTime = 1;  // ms; of a save that nothing strikes, on this machine as busy as it is
 };
 
 void tst_SaveFaults::initTestCase()
@@ -181,7 +181,7 @@ void tst_SaveFaults::toolIsKilled()
     QVERIFY2(kills > 0, "no round met a running tool");
 }
 
-/// What the killed program left is dealt with by the next one, and no photo is out of its reach.
+// What the killed program left is dealt with by the next one, and no photo is out of its reach.
 void tst_SaveFaults::verifyNextStart(const StruckPhotos& photos, const QString& directory, const QString& state)
 {
     const QString temporary = state + u"/tmp"_s;

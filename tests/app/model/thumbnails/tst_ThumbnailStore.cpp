@@ -39,7 +39,7 @@ DecodedImage picture(QSize size, QColor color = Qt::gray)
     return { .outcome = DecodedImage::Outcome::decoded, .image = image };
 }
 
-/// QTRY_ looks ten milliseconds apart, which is long for thousands of small jobs.
+// QTRY_ looks ten milliseconds apart, which is long for thousands of small jobs.
 bool becomesReady(const ThumbnailStore& store, const QUrl& url, Kind kind)
 {
     const QDeadlineTimer end(20000);
@@ -50,7 +50,7 @@ bool becomesReady(const ThumbnailStore& store, const QUrl& url, Kind kind)
     return store.entry(url, kind).state == State::ready;
 }
 
-/// Stands in for decoding: notes who was decoded, in order, and waits at a gate.
+// Stands in for decoding: notes who was decoded, in order, and waits at a gate.
 class FakeDecoder {
 public:
     ThumbnailStoreOptions options()
@@ -69,7 +69,7 @@ public:
         return options;
     }
     void setClosed(bool closed) { m_closed = closed; }
-    /// Lets the store come as far as its first decoding, at the closed gate.
+    // Lets the store come as far as its first decoding, at the closed gate.
     bool waitForEntry() const
     {
         const bool entered = QTest::qWaitFor([this] { return m_entered > 0; }, 20000);
@@ -127,7 +127,7 @@ private slots:
         QCOMPARE(fake.decoded().size(), 1);
     }
 
-    /// A folder of 20,000: every row is asked for, then the list jumps to its end.
+    // A folder of 20,000: every row is asked for, then the list jumps to its end.
     void jumpToTheEndServesTheVisibleRows()
     {
         FakeDecoder fake;
@@ -312,8 +312,8 @@ private slots:
         QVERIFY(!(QFile::permissions(options.cacheFolder) & others));
     }
 
-    /// What the libraries refuse is asked of the tool: in one run for both sizes, one file after the other, last in
-    /// the queue. A file in which it finds nothing is left alone from then on.
+    // What the libraries refuse is asked of the tool: in one run for both sizes, one file after the other, last in
+    // the queue. A file in which it finds nothing is left alone from then on.
     void rawPreviewComesFromTheTool()
     {
         QTemporaryDir folder;
