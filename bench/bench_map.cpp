@@ -52,7 +52,7 @@ void drawLines()
 
 struct Sample {
     const char* name;
-    GeoPoint centre;
+    GeoPoint center;
 };
 
 constexpr Sample samples[] = {
@@ -87,13 +87,13 @@ int main(int argc, char** argv)
     bool isWithin = true;
     for (const auto& sample : samples) {
         MapRequest request;
-        request.centre = sample.centre;
+        request.center = sample.center;
         request.size = points;
         request.devicePixelRatio = density;
         double across = 0;
         const auto time =
-            medianMilliseconds([&] { across = drawMap(*data, request, [] { return false; }).kilometresAcross; });
-        const double most = across > request.kilometresAcross ? mostWidened : mostPlain;
+            medianMilliseconds([&] { across = drawMap(*data, request, [] { return false; }).kilometersAcross; });
+        const double most = across > request.kilometersAcross ? mostWidened : mostPlain;
         isWithin = isWithin && time <= most;
         std::printf("%-20s %8.1f ms  %.3f of the baseline, at most %.0f ms, %.0f km across\n", sample.name, time,
             time / baseline, most, across);

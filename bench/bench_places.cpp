@@ -71,7 +71,7 @@ double privateMemory()
     return 0;
 }
 
-double kilometres(GeoPoint a, GeoPoint b)
+double kilometers(GeoPoint a, GeoPoint b)
 {
     const double narrowing = std::cos((a.latitude + b.latitude) / 2 * 3.14159265 / 180);
     return 111.2 * std::hypot(a.latitude - b.latitude, (a.longitude - b.longitude) * narrowing);
@@ -163,7 +163,7 @@ struct Hits {
 
 auto isNear(GeoPoint point, double distance)
 {
-    return [=](const PlaceSuggestion& s) { return s.placemark && kilometres(s.placemark->point, point) < distance; };
+    return [=](const PlaceSuggestion& s) { return s.placemark && kilometers(s.placemark->point, point) < distance; };
 }
 
 QString misspelt(QString name)

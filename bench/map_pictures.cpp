@@ -17,7 +17,7 @@ namespace {
 struct Sample {
     QString name{};
     GeoPoint point{};
-    double kilometres = 150;
+    double kilometers = 150;
 };
 
 constexpr QSize pictureSize(500, 96);
@@ -27,10 +27,10 @@ constexpr int caption = 18;
 MapImage draw(MapRenderer& renderer, const Sample& sample, bool dark)
 {
     MapRequest request;
-    request.centre = sample.point;
+    request.center = sample.point;
     request.size = pictureSize;
     request.devicePixelRatio = density;
-    request.kilometresAcross = sample.kilometres;
+    request.kilometersAcross = sample.kilometers;
     request.dark = dark;
     MapImage image;
     QEventLoop loop;
@@ -118,7 +118,7 @@ int main(int argc, char** argv)
             painter.setFont(font);
             painter.setPen(dark ? Qt::white : Qt::black);
             painter.drawText(QRectF(x, y, pictureSize.width(), caption - 3), Qt::AlignLeft | Qt::AlignVCenter,
-                u"%1, %2 km across"_s.arg(all[i].name).arg(std::round(map.kilometresAcross)));
+                u"%1, %2 km across"_s.arg(all[i].name).arg(std::round(map.kilometersAcross)));
             paint(painter, QPointF(x, y + caption), map, dark);
         }
     }

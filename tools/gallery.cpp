@@ -49,7 +49,7 @@ public:
         painter.setPen(QPen(request.dark ? QColor(0x2c, 0x55, 0x66) : QColor(0xa9, 0xd3, 0xe6), 6));
         painter.drawLine(QPointF(0, 80), QPointF(request.size.width(), 20));
         painter.end();
-        answer({ MapImage{ image, request.kilometresAcross, u"© sketch contributors"_s }, PlaceError::none, {} });
+        answer({ MapImage{ image, request.kilometersAcross, u"© sketch contributors"_s }, PlaceError::none, {} });
         return {};
     }
 };

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A line of hills across the picture, its crest at about `height` of the picture's own.
-void paintHills(QPainter& painter, const QSizeF& size, qreal height, qreal phase, const QColor& colour)
+void paintHills(QPainter& painter, const QSizeF& size, qreal height, qreal phase, const QColor& color)
 {
     QPolygonF hills{ QPointF(0, size.height()) };
     for (qreal x = 0; x <= size.width(); x += 4) {
@@ -26,7 +26,7 @@ void paintHills(QPainter& painter, const QSizeF& size, qreal height, qreal phase
         hills << QPointF(x, size.height() * (height - crest));
     }
     hills << QPointF(size.width(), size.height());
-    painter.setBrush(colour);
+    painter.setBrush(color);
     painter.drawPolygon(hills);
 }
 

@@ -144,7 +144,7 @@ Edge edgeBetween(Corner a, Corner b)
 }
 
 // What runs along an edge, found out by looking at every ring that has it.
-struct Neighbours {
+struct Neighbors {
     QString country{};
     bool isShared = false;
     bool isNational = false;
@@ -156,7 +156,7 @@ struct Neighbours {
 MapWriter readBorders(const QString& geopackage)
 {
     const auto rings = readRings(geopackage);
-    QHash<Edge, Neighbours> edges;
+    QHash<Edge, Neighbors> edges;
     for (const auto& ring : rings) {
         for (qsizetype i = 1; i < ring.corners.size(); ++i) {
             auto& edge = edges[edgeBetween(ring.corners[i - 1], ring.corners[i])];

@@ -276,7 +276,7 @@ int cellOf(int row, int column)
 
 }  // namespace
 
-double kilometresBetween(Point a, Point b)
+double kilometersBetween(Point a, Point b)
 {
     const double halfLatitude = std::sin((b.latitude - a.latitude) * radians / 2);
     const double halfLongitude = std::sin((b.longitude - a.longitude) * radians / 2);
@@ -332,7 +332,7 @@ int TownGrid::nearest(Point point) const
     visitAround(point, 2, [&](int town) {
         const auto& entry = m_gazetteer.entries[town];
         const double distance =
-            kilometresBetween(point, entry.point) - 0.25 * std::sqrt(double(entry.population) / 1000);
+            kilometersBetween(point, entry.point) - 0.25 * std::sqrt(double(entry.population) / 1000);
         if (distance < least) {
             least = distance;
             best = town;
@@ -341,24 +341,24 @@ int TownGrid::nearest(Point point) const
     return best;
 }
 
-bool TownGrid::isNear(int country, Point point, double kilometres) const
+bool TownGrid::isNear(int country, Point point, double kilometers) const
 {
     bool found = false;
-    visitAround(point, kilometres / 111, [&](int town) {
+    visitAround(point, kilometers / 111, [&](int town) {
         const auto& entry = m_gazetteer.entries[town];
-        found = found || (entry.country == country && kilometresBetween(point, entry.point) <= kilometres);
+        found = found || (entry.country == country && kilometersBetween(point, entry.point) <= kilometers);
     });
     return found;
 }
 
-int TownGrid::named(const QString& name, int country, Point point, double kilometres) const
+int TownGrid::named(const QString& name, int country, Point point, double kilometers) const
 {
     const auto folded = foldPlaceName(name);
     int best = -1;
-    double least = kilometres;
-    visitAround(point, kilometres / 111, [&](int town) {
+    double least = kilometers;
+    visitAround(point, kilometers / 111, [&](int town) {
         const auto& entry = m_gazetteer.entries[town];
-        const double distance = kilometresBetween(point, entry.point);
+        const double distance = kilometersBetween(point, entry.point);
         if (entry.country != country || distance > least)
             return;
         const auto isName = [&](const QString& other) { return foldPlaceName(other) == folded; };

@@ -28,7 +28,7 @@ struct Point {
     double latitude = 0;  ///< degrees
     double longitude = 0;  ///< degrees
 };
-double kilometresBetween(Point a, Point b);
+double kilometersBetween(Point a, Point b);
 
 struct Country {
     QString code{};  ///< ISO alpha-2
@@ -93,9 +93,9 @@ public:
     /// The town with the smallest distance less an allowance for its size, up to two degrees away; -1 when none is.
     int nearest(Point point) const;
     /// Whether a town of that country lies within the distance.
-    bool isNear(int country, Point point, double kilometres) const;
+    bool isNear(int country, Point point, double kilometers) const;
     /// The nearest of that name or alternate name in that country; -1 when none lies within the distance.
-    int named(const QString& name, int country, Point point, double kilometres) const;
+    int named(const QString& name, int country, Point point, double kilometers) const;
 
 private:
     template <typename Visit>

@@ -62,11 +62,11 @@ QSize MapPreview::minimumSizeHint() const
 void MapPreview::ask()
 {
     m_request.reset();
-    const GeoPoint centre{ m_point.latitude, m_point.longitude };
-    if (!m_renderer || !isVisible() || width() <= 0 || !centre.isValid())
+    const GeoPoint center{ m_point.latitude, m_point.longitude };
+    if (!m_renderer || !isVisible() || width() <= 0 || !center.isValid())
         return;
     MapRequest request;
-    request.centre = centre;
+    request.center = center;
     request.size = size();
     request.devicePixelRatio = devicePixelRatioF();
     request.dark = Theme::of(this).isDark;

@@ -29,17 +29,17 @@ std::shared_ptr<const MapData> MapData::open(const QString& folder)
     return data;
 }
 
-const MapFile& MapData::shores(double kilometresPerPixel) const
+const MapFile& MapData::shores(double kilometersPerPixel) const
 {
     // The sources leave out what is smaller than 0.2, 1 and 5 km.
-    if (kilometresPerPixel < 0.7)
+    if (kilometersPerPixel < 0.7)
         return *shoresHigh;
-    return kilometresPerPixel < 3 ? *shoresMiddle : *shoresLow;
+    return kilometersPerPixel < 3 ? *shoresMiddle : *shoresLow;
 }
 
-const MapFile& MapData::rivers(double kilometresPerPixel) const
+const MapFile& MapData::rivers(double kilometersPerPixel) const
 {
-    return kilometresPerPixel < 1.5 ? *riversHigh : *riversLow;
+    return kilometersPerPixel < 1.5 ? *riversHigh : *riversLow;
 }
 
 QList<SeenBin> seenBins(const MapFile& file, const MapProjection& projection)
@@ -55,10 +55,10 @@ QList<SeenBin> seenBins(const MapFile& file, const MapProjection& projection)
         for (int column = 0; column < file.columns(); ++column) {
             const int bin = row * file.columns() + column;
             const double middle = file.west(bin) + degrees / 2;
-            const double west = wrappedDegrees(middle - projection.centre().longitude) - degrees / 2;
+            const double west = wrappedDegrees(middle - projection.center().longitude) - degrees / 2;
             const bool isWithin = west <= bounds.east && west + degrees >= bounds.west;
             const double reach = 1.1 * projection.radius() + halfDiagonal;
-            if (isWithin && projection.kilometresTo(south + degrees / 2, middle) <= reach)
+            if (isWithin && projection.kilometersTo(south + degrees / 2, middle) <= reach)
                 seen.append({ bin, south, west, degrees / MapFormat::binUnits });
         }
     }

@@ -14,8 +14,8 @@ struct MapData {
     static std::shared_ptr<const MapData> open(const QString& folder);
 
     /// The coarsest shores and rivers that still look exact at so many kilometres a pixel.
-    const MapFile& shores(double kilometresPerPixel) const;
-    const MapFile& rivers(double kilometresPerPixel) const;
+    const MapFile& shores(double kilometersPerPixel) const;
+    const MapFile& rivers(double kilometersPerPixel) const;
 
     std::unique_ptr<const MapFile> shoresHigh{};
     std::unique_ptr<const MapFile> shoresMiddle{};

@@ -36,19 +36,19 @@ QFont labelFont(QFont font, int rank, qreal textScale)
 }
 
 // A large place counts for a near one up to a point: the city, not its suburb.
-double nearness(const SeenTown& town, double kilometresAcross)
+double nearness(const SeenTown& town, double kilometersAcross)
 {
-    return town.rank / ranksPerPowerOfTen - town.distance / (0.02 * kilometresAcross);
+    return town.rank / ranksPerPowerOfTen - town.distance / (0.02 * kilometersAcross);
 }
 
 // Puts the place at the centre before all others.
-void putNearestFirst(QList<SeenTown>& towns, double kilometresAcross)
+void putNearestFirst(QList<SeenTown>& towns, double kilometersAcross)
 {
-    const double reach = 0.12 * kilometresAcross;
+    const double reach = 0.12 * kilometersAcross;
     auto best = towns.end();
     for (auto town = towns.begin(); town != towns.end(); ++town) {
         if (town->distance <= reach
-            && (best == towns.end() || nearness(*town, kilometresAcross) > nearness(*best, kilometresAcross)))
+            && (best == towns.end() || nearness(*town, kilometersAcross) > nearness(*best, kilometersAcross)))
             best = town;
     }
     if (best != towns.end())
@@ -56,7 +56,7 @@ void putNearestFirst(QList<SeenTown>& towns, double kilometresAcross)
 }
 
 // Where a name may stand, the best place first.
-std::array<QRectF, 6> candidates(const QPointF& dot, const QSizeF& text, const QPointF& centre, qreal textScale)
+std::array<QRectF, 6> candidates(const QPointF& dot, const QSizeF& text, const QPointF& center, qreal textScale)
 {
     const double w = text.width();
     const double h = text.height();
@@ -64,8 +64,8 @@ std::array<QRectF, 6> candidates(const QPointF& dot, const QSizeF& text, const Q
     const double besideMarker = 14 * textScale;
     return { QRectF(dot.x() + away, dot.y() - h / 2, w, h), QRectF(dot.x() - away - w, dot.y() - h / 2, w, h),
         QRectF(dot.x() - w / 2, dot.y() + away - 2, w, h), QRectF(dot.x() - w / 2, dot.y() - away + 2 - h, w, h),
-        QRectF(centre.x() + besideMarker, centre.y() - h - 2, w, h),
-        QRectF(centre.x() - besideMarker - w, centre.y() - h - 2, w, h) };
+        QRectF(center.x() + besideMarker, center.y() - h - 2, w, h),
+        QRectF(center.x() - besideMarker - w, center.y() - h - 2, w, h) };
 }
 
 bool touchesAny(const QRectF& box, const QList<QRectF>& others, double across, double above)
@@ -86,10 +86,10 @@ QList<SeenTown> seenTowns(const MapFile& file, const MapProjection& projection)
         int left = most;
         file.forEachTown(bin.number, [&](const MapTown& town) {
             const double latitude = bin.south + town.y * bin.degreesPerUnit;
-            const double longitude = projection.centre().longitude + bin.west + town.x * bin.degreesPerUnit;
+            const double longitude = projection.center().longitude + bin.west + town.x * bin.degreesPerUnit;
             const auto at = projection.map(latitude, longitude);
             if (around.contains(at) && projection.isInFront(latitude, longitude)) {
-                towns.append({ at, projection.kilometresTo(latitude, longitude), town.rank, town.flags, town.population,
+                towns.append({ at, projection.kilometersTo(latitude, longitude), town.rank, town.flags, town.population,
                     QString::fromUtf8(town.name) });
             }
             return --left > 0;
@@ -104,9 +104,9 @@ QList<MapLabel> placeLabels(QList<SeenTown> towns, const MapProjection& projecti
 {
     const QRectF image(QPointF(), projection.size());
     const QRectF room = image.adjusted(4, 2, -4, -2);
-    const double besideCentre = 30 * textScale;
+    const double besideCenter = 30 * textScale;
     const auto most = qsizetype(std::max(2.0, image.width() / (pointsPerLabel * textScale)));
-    putNearestFirst(towns, projection.kilometresAcross());
+    putNearestFirst(towns, projection.kilometersAcross());
 
     QList<QRectF> taken;
     QList<MapLabel> labels;
@@ -122,14 +122,14 @@ QList<MapLabel> placeLabels(QList<SeenTown> towns, const MapProjection& projecti
         const QFontMetricsF metrics(written);
         const QSizeF size(metrics.horizontalAdvance(town.name), metrics.height());
         const auto places = candidates(town.at, size, image.center(), textScale);
-        const bool isAtCentre = QLineF(town.at, image.center()).length() < besideCentre;
+        const bool isAtCenter = QLineF(town.at, image.center()).length() < besideCenter;
         const QRectF dot(town.at - QPointF(3, 3), QSizeF(6, 6));
         const auto isFree = [&](const QRectF& box) {
             // What is reserved may lie over the dot: the marker does, at the centre.
             return room.contains(box) && !touchesAny(box, reserved, marginReserved, 0)
                 && !touchesAny(box.united(dot), taken, marginAcross, marginAbove);
         };
-        const auto* const end = places.data() + (isAtCentre ? 6 : 4);
+        const auto* const end = places.data() + (isAtCenter ? 6 : 4);
         const auto* const place = std::find_if(places.data(), end, isFree);
         if (place == end)
             continue;

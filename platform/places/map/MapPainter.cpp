@@ -22,9 +22,9 @@ constexpr double widening = 2.5;
 
 // How many names make a map worth showing. A lone town on an island or in a desert is shown with what surrounds it,
 // not from so far that it becomes a speck; from farther still, one name says too little again.
-int fewestLabels(double kilometresAcross)
+int fewestLabels(double kilometersAcross)
 {
-    return kilometresAcross >= 300 && kilometresAcross < 1000 ? 1 : 2;
+    return kilometersAcross >= 300 && kilometersAcross < 1000 ? 1 : 2;
 }
 
 constexpr double statesUpTo = 1200;  // km across; beyond, state lines would be a thicket
@@ -32,7 +32,7 @@ constexpr double graticuleFrom = 300;  // km across
 
 const QString attributionText = u"© GeoNames"_s;
 
-constexpr double kilometresPerDegree = MapProjection::earthRadius * M_PI / 180;
+constexpr double kilometersPerDegree = MapProjection::earthRadius * M_PI / 180;
 
 // One map being drawn: what it shows, and how.
 class Scene {
@@ -43,7 +43,7 @@ public:
         , m_isCancelled(isCancelled)
         , m_palette(MapPalette::of(request.dark))
         , m_projection(chooseScale())
-        , m_kilometresPerPixel(m_projection.kilometresAcross() / request.size.width() / request.devicePixelRatio)
+        , m_kilometersPerPixel(m_projection.kilometersAcross() / request.size.width() / request.devicePixelRatio)
     {
     }
 
@@ -71,7 +71,7 @@ private:
     QList<SeenTown> m_towns{};
     QList<MapLabel> m_labels{};
     MapProjection m_projection;
-    double m_kilometresPerPixel;
+    double m_kilometersPerPixel;
     bool m_hasLand = false;
 };
 
@@ -80,9 +80,9 @@ MapProjection Scene::chooseScale()
 {
     const auto& size = m_request.size;
     const double farthest = 2 * farthestCorner * size.width() / std::hypot(size.width(), size.height());
-    double across = std::clamp(m_request.kilometresAcross, std::min(nearestAcross, farthest), farthest);
+    double across = std::clamp(m_request.kilometersAcross, std::min(nearestAcross, farthest), farthest);
     for (;;) {
-        const MapProjection projection(m_request.centre, size, across);
+        const MapProjection projection(m_request.center, size, across);
         m_towns = seenTowns(*m_data.towns, projection);
         m_labels = placeLabels(m_towns, projection, m_request.font, m_request.textScale, reservedBoxes());
         if (!m_request.widen || m_labels.size() >= fewestLabels(across) || across >= farthest || m_isCancelled())
@@ -135,13 +135,13 @@ MapImage Scene::draw()
         step(*this, painter);
     }
     painter.end();
-    return { image, m_projection.kilometresAcross(), attributionText };
+    return { image, m_projection.kilometersAcross(), attributionText };
 }
 
 void Scene::drawLand(QPainter& painter)
 {
     const auto areas =
-        mapAreas(m_data.shores(m_kilometresPerPixel), m_projection, m_request.devicePixelRatio, m_isCancelled);
+        mapAreas(m_data.shores(m_kilometersPerPixel), m_projection, m_request.devicePixelRatio, m_isCancelled);
     m_hasLand = areas.contains(MapFormat::land);
     // Water is a hole in the land, through which the sea will show.
     for (int type = MapFormat::land; type <= MapFormat::pondOnIsland; ++type) {
@@ -180,10 +180,10 @@ void Scene::drawSettlements(QPainter& painter) const
 
 void Scene::drawRivers(QPainter& painter)
 {
-    const double across = m_projection.kilometresAcross();
+    const double across = m_projection.kilometersAcross();
     const int last = across < 250 ? 4 : across < 600 ? 3 : across < 1500 ? 2 : across < 4000 ? 1 : -1;
     const auto rivers =
-        mapLines(m_data.rivers(m_kilometresPerPixel), m_projection, m_request.devicePixelRatio, last, m_isCancelled);
+        mapLines(m_data.rivers(m_kilometersPerPixel), m_projection, m_request.devicePixelRatio, last, m_isCancelled);
     for (auto it = rivers.cbegin(); it != rivers.cend(); ++it) {
         const double width = across > 600 ? 0.7 : it.key() <= 1 ? 1.3 : it.key() == 2 ? 1.0 : 0.8;
         painter.strokePath(it.value(), QPen(m_palette.river, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -194,7 +194,7 @@ void Scene::drawRivers(QPainter& painter)
 void Scene::drawSea(QPainter& painter) const
 {
     painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
-    if (!m_hasLand || m_projection.kilometresAcross() >= graticuleFrom)
+    if (!m_hasLand || m_projection.kilometersAcross() >= graticuleFrom)
         painter.strokePath(graticule(), QPen(m_palette.graticule, 0.7));
     painter.fillRect(QRectF(QPointF(), m_request.size), m_palette.sea);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
@@ -203,14 +203,14 @@ void Scene::drawSea(QPainter& painter) const
 // Parallels and meridians about a fifth of the image apart.
 QPainterPath Scene::graticule() const
 {
-    const auto stepFor = [this](double kilometres) {
+    const auto stepFor = [this](double kilometers) {
         constexpr double steps[] = { 0.1, 0.2, 0.5, 1, 2, 5, 10, 15 };
         const auto* step = std::find_if(std::begin(steps), std::end(steps) - 1,
-            [&](double degrees) { return degrees * kilometres * m_projection.scale() >= 90; });
+            [&](double degrees) { return degrees * kilometers * m_projection.scale() >= 90; });
         return *step;
     };
     const auto& bounds = m_projection.bounds();
-    const auto& centre = m_projection.centre();
+    const auto& center = m_projection.center();
     QPainterPath path;
     const auto trace = [&](int pieces, auto position) {
         bool isDown = false;
@@ -225,25 +225,25 @@ QPainterPath Scene::graticule() const
             }
         }
     };
-    const double parallels = stepFor(kilometresPerDegree);
-    const double meridians = stepFor(kilometresPerDegree * std::cos(centre.latitude * M_PI / 180));
+    const double parallels = stepFor(kilometersPerDegree);
+    const double meridians = stepFor(kilometersPerDegree * std::cos(center.latitude * M_PI / 180));
     for (double y = std::ceil(bounds.south / parallels) * parallels; y <= bounds.north; y += parallels)
-        trace(120, [&](double t) { return GeoPoint{ y, centre.longitude + std::lerp(bounds.west, bounds.east, t) }; });
+        trace(120, [&](double t) { return GeoPoint{ y, center.longitude + std::lerp(bounds.west, bounds.east, t) }; });
     // A whole round needs each meridian once.
-    const double east = centre.longitude + bounds.east - (bounds.east == 180 ? meridians / 2 : 0);
-    for (double x = std::ceil((centre.longitude + bounds.west) / meridians) * meridians; x <= east; x += meridians)
+    const double east = center.longitude + bounds.east - (bounds.east == 180 ? meridians / 2 : 0);
+    for (double x = std::ceil((center.longitude + bounds.west) / meridians) * meridians; x <= east; x += meridians)
         trace(60, [&](double t) { return GeoPoint{ std::lerp(bounds.south, bounds.north, t), x }; });
     return path;
 }
 
 void Scene::drawBorders(QPainter& painter)
 {
-    const int last = m_projection.kilometresAcross() <= statesUpTo ? MapFormat::state : MapFormat::national;
+    const int last = m_projection.kilometersAcross() <= statesUpTo ? MapFormat::state : MapFormat::national;
     const auto borders = mapLines(*m_data.borders, m_projection, m_request.devicePixelRatio, last, m_isCancelled);
     QPen pen(m_palette.state, 0.8, Qt::CustomDashLine, Qt::FlatCap, Qt::RoundJoin);
     pen.setDashPattern({ 4, 2.5 });
     painter.strokePath(borders.value(MapFormat::state), pen);
-    const double width = m_projection.kilometresAcross() > statesUpTo ? 0.8 : 1.2;
+    const double width = m_projection.kilometersAcross() > statesUpTo ? 0.8 : 1.2;
     painter.strokePath(borders.value(MapFormat::national),
         QPen(m_palette.national, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
@@ -270,12 +270,12 @@ void Scene::drawLabels(QPainter& painter) const
 void Scene::drawScaleBar(QPainter& painter) const
 {
     constexpr double lengths[] = { 0.1, 0.2, 0.5, 1, 2, 5, 10, 20, 50, 100, 200, 500, 1000 };
-    const double most = 0.16 * m_projection.kilometresAcross();
+    const double most = 0.16 * m_projection.kilometersAcross();
     const auto* length = std::upper_bound(std::begin(lengths), std::end(lengths), most) - 1;
-    const double kilometres = *std::max(length, std::begin(lengths));
+    const double kilometers = *std::max(length, std::begin(lengths));
     const double bottom = m_request.size.height() - 7;
-    const auto text = kilometres < 1 ? u"%1 m"_s.arg(kilometres * 1000) : u"%1 km"_s.arg(kilometres);
-    const QLineF bar(8, bottom, 8 + kilometres * m_projection.scale(), bottom);
+    const auto text = kilometers < 1 ? u"%1 m"_s.arg(kilometers * 1000) : u"%1 km"_s.arg(kilometers);
+    const QLineF bar(8, bottom, 8 + kilometers * m_projection.scale(), bottom);
     painter.setPen(QPen(m_palette.halo, 3.2, Qt::SolidLine, Qt::SquareCap));
     painter.drawLine(bar);
     painter.setPen(QPen(m_palette.text, 1.2, Qt::SolidLine, Qt::FlatCap));

@@ -14,18 +14,18 @@ class MapProjection {
 public:
     static constexpr double earthRadius = 6371.0;  ///< km, mean
 
-    MapProjection(const GeoPoint& centre, const QSizeF& size, double kilometresAcross);
+    MapProjection(const GeoPoint& center, const QSizeF& size, double kilometersAcross);
 
     /// Degrees to points of the image.
     QPointF map(double latitude, double longitude) const;
     /// Whether it is on the side of the earth that is seen.
     bool isInFront(double latitude, double longitude) const;
     /// On the sphere, from the centre.
-    double kilometresTo(double latitude, double longitude) const;
+    double kilometersTo(double latitude, double longitude) const;
 
-    const GeoPoint& centre() const { return m_centre; }
+    const GeoPoint& center() const { return m_center; }
     QSizeF size() const { return m_size; }
-    double kilometresAcross() const { return m_size.width() / m_scale; }
+    double kilometersAcross() const { return m_size.width() / m_scale; }
     double scale() const { return m_scale; }  ///< points a kilometre, at the centre
     double radius() const { return m_radius; }  ///< km on the sphere from the centre to the image's corner
 
@@ -41,7 +41,7 @@ public:
 private:
     Bounds computeBounds() const;
 
-    GeoPoint m_centre;
+    GeoPoint m_center;
     QSizeF m_size;
     double m_scale;
     double m_radius = 0;

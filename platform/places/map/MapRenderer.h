@@ -11,10 +11,10 @@
 namespace Quorbel {
 
 struct MapRequest {
-    GeoPoint centre{};
+    GeoPoint center{};
     QSizeF size{};  ///< device-independent pixels
     qreal devicePixelRatio = 1;
-    double kilometresAcross = 150;
+    double kilometersAcross = 150;
     bool dark = false;
     QFont font{};  ///< its family; the sizes are the map's own
     qreal textScale = 1;  ///< how much larger than at the desktop's normal font size
@@ -23,7 +23,7 @@ struct MapRequest {
 
 struct MapImage {
     QImage image{};  ///< with its device pixel ratio set; no marker on it
-    double kilometresAcross = 0;  ///< what was drawn, after widening
+    double kilometersAcross = 0;  ///< what was drawn, after widening
     QString attribution{};  ///< to show on the map, bottom right, where room is left for it
 };
 

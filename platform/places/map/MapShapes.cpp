@@ -135,7 +135,7 @@ private:
     QPointF project(const BinPoint& point)
     {
         const double latitude = m_bin.south + point.y * m_bin.degreesPerUnit;
-        const double longitude = m_projection.centre().longitude + m_bin.west + point.x * m_bin.degreesPerUnit;
+        const double longitude = m_projection.center().longitude + m_bin.west + point.x * m_bin.degreesPerUnit;
         m_isWhole = m_isWhole && m_projection.isInFront(latitude, longitude);
         return m_projection.map(latitude, longitude);
     }

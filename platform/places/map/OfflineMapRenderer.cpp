@@ -34,8 +34,8 @@ bool isDrawable(const MapRequest& request)
     constexpr double mostPixels = 1 << 14;  // in each direction: more is no preview
     const auto pixels = request.size * request.devicePixelRatio;
     const auto isSound = [](double value) { return value >= 1 && value <= mostPixels; };
-    return request.centre.isValid() && isSound(pixels.width()) && isSound(pixels.height())
-        && std::isfinite(request.kilometresAcross) && request.textScale > 0;
+    return request.center.isValid() && isSound(pixels.width()) && isSound(pixels.height())
+        && std::isfinite(request.kilometersAcross) && request.textScale > 0;
 }
 
 PlaceResult<MapImage> draw(const MapData* data, const MapRequest& request, const IsCancelled& isCancelled)

@@ -17,7 +17,7 @@ constexpr double samePlaceDistance = 10;  // km
 bool isSamePlace(const PlaceSuggestion& a, const PlaceSuggestion& b)
 {
     return a.placemark && b.placemark && foldPlaceName(a.title) == foldPlaceName(b.title)
-        && kilometresBetween(a.placemark->point, b.placemark->point) < samePlaceDistance;
+        && kilometersBetween(a.placemark->point, b.placemark->point) < samePlaceDistance;
 }
 
 Suggestions merged(Suggestions places, const Suggestions& others)

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double radians = 3.14159265358979323846 / 180;
-constexpr double kilometresPerDegree = 111.2;
+constexpr double kilometersPerDegree = 111.2;
 constexpr int formatVersion = 1;
 constexpr int landCellsPerDegree = 40;
 constexpr int landColumns = 360 * landCellsPerDegree;
@@ -71,7 +71,7 @@ int wrapped(int column, int columns)
 
 }  // namespace
 
-double kilometresBetween(const GeoPoint& a, const GeoPoint& b)
+double kilometersBetween(const GeoPoint& a, const GeoPoint& b)
 {
     const double halfLatitude = std::sin((b.latitude - a.latitude) * radians / 2);
     const double halfLongitude = std::sin((b.longitude - a.longitude) * radians / 2);
@@ -158,9 +158,9 @@ std::optional<PlaceRow> PlaceDatabase::place(int id)
     return row;
 }
 
-QList<PlaceRow> PlaceDatabase::townsAround(const GeoPoint& point, double kilometres)
+QList<PlaceRow> PlaceDatabase::townsAround(const GeoPoint& point, double kilometers)
 {
-    const double degrees = kilometres / kilometresPerDegree;
+    const double degrees = kilometers / kilometersPerDegree;
     const double narrowing = std::max(0.02, std::cos(point.latitude * radians));
     const auto rowOf = [](double latitude) { return int(std::floor((latitude + 90) * townCellsPerDegree)); };
     const auto columnOf = [](double longitude) { return int(std::floor((longitude + 180) * townCellsPerDegree)); };

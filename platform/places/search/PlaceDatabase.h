@@ -50,7 +50,7 @@ public:
     QList<PlaceRow> matching(const QString& expression, int limit);
     std::optional<PlaceRow> place(int id);
     /// Towns in the cells that a square around the point touches, without their names in other languages.
-    QList<PlaceRow> townsAround(const GeoPoint& point, double kilometres);
+    QList<PlaceRow> townsAround(const GeoPoint& point, double kilometers);
 
     const QList<PlaceCountry>& countries() const { return m_countries; }
     const QList<PlaceState>& states() const { return m_states; }
@@ -97,6 +97,6 @@ private:
 };
 
 /// Along the earth's surface.
-double kilometresBetween(const GeoPoint& a, const GeoPoint& b);
+double kilometersBetween(const GeoPoint& a, const GeoPoint& b);
 
 }  // namespace Quorbel

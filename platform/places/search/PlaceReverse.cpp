@@ -26,7 +26,7 @@ const PlaceRow* nearest(const QList<PlaceRow>& towns, const GeoPoint& point, int
     const PlaceRow* best = nullptr;
     double least = std::numeric_limits<double>::max();
     for (const auto& town : towns) {
-        const double distance = kilometresBetween(point, town.point);
+        const double distance = kilometersBetween(point, town.point);
         const double seeming = distance - shareOfReach * reach(town);
         if (distance <= townDistance && (country < 0 || town.country == country) && seeming < least) {
             least = seeming;
@@ -43,7 +43,7 @@ std::optional<Placemark> placeAt(PlaceDatabase& database, const GeoPoint& point)
     const auto towns = database.townsAround(point, townDistance);
     auto area = database.areaAt(point);
     const auto* const closest = nearest(towns, point, -1, 0);
-    if (area && closest && closest->country != area->country && kilometresBetween(point, closest->point) < surelyInTown)
+    if (area && closest && closest->country != area->country && kilometersBetween(point, closest->point) < surelyInTown)
         area = PlaceDatabase::Area{ closest->country, closest->state };
     const auto* const town = nearest(towns, point, area ? area->country : -1, 1);
     if (!town && !area)

@@ -196,7 +196,7 @@ private:
     {
         if (!m_query.bias)
             return 0;
-        return nearScore * std::max(0.0, 1 - kilometresBetween(*m_query.bias, row.point) / nearDistance);
+        return nearScore * std::max(0.0, 1 - kilometersBetween(*m_query.bias, row.point) / nearDistance);
     }
 
     void addMisspelt()

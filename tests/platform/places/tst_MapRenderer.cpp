@@ -73,9 +73,9 @@ private:
 MapRequest requestAt(double latitude, double longitude)
 {
     MapRequest request;
-    request.centre = { latitude, longitude };
+    request.center = { latitude, longitude };
     request.size = { 120, 60 };
-    request.kilometresAcross = 60;
+    request.kilometersAcross = 60;
     request.widen = false;
     request.textScale = 0.1;  // names as small as dots, so that they hide nothing
     return request;
@@ -110,7 +110,7 @@ Ground groundOf(const QColor& pixel, bool dark = false)
     return onLand < atSea ? land : sea;
 }
 
-Ground groundAtCentre(const QImage& image, bool dark = false)
+Ground groundAtCenter(const QImage& image, bool dark = false)
 {
     return groundOf(image.pixelColor(image.width() / 2, image.height() / 2), dark);
 }
@@ -180,7 +180,7 @@ void tst_MapRenderer::ground()
         request.dark = dark;
         const auto result = render(m_world.path(), request);
         QCOMPARE(result.error, PlaceError::none);
-        QTEST(groundAtCentre(result.value.image, dark), "ground");
+        QTEST(groundAtCenter(result.value.image, dark), "ground");
     }
 }
 
@@ -202,7 +202,7 @@ void tst_MapRenderer::seamless()
     QFETCH(double, longitude);
     QFETCH(double, across);
     auto request = requestAt(latitude, longitude);
-    request.kilometresAcross = across;
+    request.kilometersAcross = across;
     const SmallWorld world;
     MapWriter(Kind::towns, 36, 18).write(world.path(u"towns.map"_s));
     MapWriter(Kind::borders, 36, 18).write(world.path(u"borders.map"_s));
@@ -227,7 +227,7 @@ void tst_MapRenderer::shoreStandsWhereItIs()
     auto request = requestAt(42, 0);
     request.devicePixelRatio = 2;
     for (const double across : { 5.0, 60.0, 400.0 }) {
-        request.kilometresAcross = across;
+        request.kilometersAcross = across;
         const auto image = render(m_world.path(), request).value.image;
         const int middle = image.width() / 2;
         const int y = image.height() / 2;
@@ -266,18 +266,18 @@ void tst_MapRenderer::widens()
     auto request = requestAt(45, 8);
     request.size = { 500, 96 };
     const auto near = render(m_world.path(), request).value;
-    QCOMPARE(near.kilometresAcross, 60.0);
+    QCOMPARE(near.kilometersAcross, 60.0);
     QVERIFY(!near.attribution.isEmpty());
 
     // Two towns come into sight 320 km away, at 60 × 2.5³ km.
     request.widen = true;
-    QVERIFY(std::abs(render(m_world.path(), request).value.kilometresAcross - 937.5) < 1e-6);
+    QVERIFY(std::abs(render(m_world.path(), request).value.kilometersAcross - 937.5) < 1e-6);
 
     // Where nothing is, it ends before the horizon shows.
-    request.centre = { -45, -140 };
+    request.center = { -45, -140 };
     const auto far = render(m_world.path(), request).value;
-    QVERIFY(far.kilometresAcross > 5000);
-    QVERIFY(far.kilometresAcross < 2 * MapProjection::earthRadius);
+    QVERIFY(far.kilometersAcross > 5000);
+    QVERIFY(far.kilometersAcross < 2 * MapProjection::earthRadius);
     for (const int x : { 0, far.image.width() - 1 })
         QCOMPARE(far.image.pixelColor(x, 0).alpha(), 255);
 }
@@ -370,7 +370,7 @@ void tst_MapRenderer::refused_data()
     request.size = { 1e6, 1e6 };
     QTest::newRow("too many pixels") << request;
     request = requestAt(45, 8);
-    request.kilometresAcross = qInf();
+    request.kilometersAcross = qInf();
     QTest::newRow("no scale") << request;
 }
 
@@ -453,7 +453,7 @@ void tst_MapRenderer::realWorld()
     request.size = { 40, 40 };
     request.devicePixelRatio = 2;
     for (const double across : { 10.0, 40.0 }) {
-        request.kilometresAcross = across;
+        request.kilometersAcross = across;
         const auto image = render(folder, request).value.image;
         // Off the middle, where the graticule or a dot may be.
         QTEST(groundOf(image.pixelColor(image.width() / 2 + 3, image.height() / 2 + 3)), "ground");
@@ -467,9 +467,9 @@ void tst_MapRenderer::antimeridianIsNoEdge()
     for (const auto& folder : built.isEmpty() ? QStringList{ m_world.path() } : QStringList{ m_world.path(), built }) {
         for (const double across : { 150.0, 2000.0 }) {
             auto request = requestAt(-16.8, 180);
-            request.kilometresAcross = across;
+            request.kilometersAcross = across;
             const auto east = render(folder, request).value.image;
-            request.centre.longitude = -180;
+            request.center.longitude = -180;
             QCOMPARE(render(folder, request).value.image, east);
             QVERIFY(!east.isNull());
         }

@@ -297,7 +297,7 @@ private slots:
         map->setPoint({ -33.9, 18.4 });
         const qsizetype last = maps.drawing.count() - 1;
         QVERIFY2(!maps.drawing.isWanted(last - 1), "the latest request wins");
-        QCOMPARE(maps.requests.last().centre, (GeoPoint{ -33.9, 18.4 }));
+        QCOMPARE(maps.requests.last().center, (GeoPoint{ -33.9, 18.4 }));
         maps.drawing.answer(last, FakeMaps::picture(maps.requests.last(), Qt::green));
         QCOMPARE(Test::colorAt(map, { 40, 40 }), QColor(Qt::green));
         // The marker stands on the point, the middle of the map.

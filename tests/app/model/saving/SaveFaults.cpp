@@ -104,7 +104,7 @@ QStringList StruckPhotos::unsaved(const QString& title) const
         if (tags.value(file).value(u"XMP:Title"_s).toString() != title)
             unsaved.append(name);
     }
-    requireKnownNeighbours();
+    requireKnownNeighbors();
     unsaved.sort();
     return unsaved;
 }
@@ -118,7 +118,7 @@ void StruckPhotos::requireWhole(const QString& name, const QJsonObject& tags) co
         fail(u"damaged: "_s + name);
 }
 
-void StruckPhotos::requireKnownNeighbours() const
+void StruckPhotos::requireKnownNeighbors() const
 {
     const QStringList files = QDir(m_folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     for (const QString& file : files) {

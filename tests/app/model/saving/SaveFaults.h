@@ -31,7 +31,7 @@ public:
 
 private:
     void requireWhole(const QString& name, const QJsonObject& tags) const;
-    void requireKnownNeighbours() const;
+    void requireKnownNeighbors() const;
 
     QString m_folder;
     QMap<QString, QByteArray> m_before;
