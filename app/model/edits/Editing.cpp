@@ -298,7 +298,11 @@ void Editing::takeSaved(const Edits& unsaved, const QList<QUrl>& failed, const Q
         m_draft.edits = m_draft.edits.minus(m_sent.batch.edits, differing);
         m_added.subtract(m_sent.added);
     }
-    rebase();
+    // A photo that failed holds what it held: its rows stay as they are, under the hands of who tries again.
+    const std::optional<QUrl>& primary = m_selected.selection().primary;
+    if (!primary || !failed.contains(*primary))
+        rebase();
+    changed();
 }
 
 // The selection shrinks to those of its photos that still wait for their edits, so that Save tries just them again.

@@ -314,17 +314,25 @@ void tst_AppModelSaving::failuresKeepEdits()
     tool.answer(1, { .standardError = "half a file", .exitCode = exitCode, .signal = signal });
     f->preferences().saveDontAsk.set(true);
     f->setSingle(u"title"_s, u"X"_s);
+    const QList<CustomValue> typed{ { u"Mood"_s, u"calm"_s }, { u"Hue"_s, u"red"_s } };
+    for (const CustomValue& custom : typed)
+        f->addCustomField(custom.name, custom.value);
     f->requestSave();
     QVERIFY(f.waitUntilIdle());
     QVERIFY(f->errorMessage().value_or(QString()).startsWith(u"Could not save: "_s));
     QVERIFY(!f->isSaving());
     QCOMPARE(f->progress(), std::nullopt);
-    QCOMPARE(f->unsavedCount(), 1);
+    QCOMPARE(f->unsavedCount(), 3);
+    // Nor do rows change places under the hands of who tries again.
+    QCOMPARE(f->draftCustoms(), typed);
     QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
     QCOMPARE(readFile(url.toLocalFile()), before);
     // Saving is possible again, and what waited for the failed save is forgotten.
     tool.answer(
         2, { .standardOutput = toolJson({ { { u"SourceFile"_s, url.toLocalFile() }, { u"XMP:Title"_s, u"X"_s } } }) });
+    tool.answer(3,
+        { .standardOutput = toolJson({ { { u"SourceFile"_s, url.toLocalFile() }, { u"XMP-Quorbel:Mood"_s, u"calm"_s },
+              { u"XMP-Quorbel:Hue"_s, u"red"_s } } }) });
     f->requestSave();
     QVERIFY(f->isSaving());
     QVERIFY(f.waitUntilIdle());
