@@ -141,7 +141,7 @@ WindowHooks AppDelegate::hooks()
         .endEditing = [this] { endEditing(); },
         .quit = [this] { m_windowDelegate->quit(); },
         .show = [this](const Notice& notice,
-                    std::function<void(qsizetype)> answered) { showNotice(notice, std::move(answered)); },
+                    const std::function<void(qsizetype)>& answered) { showNotice(notice, answered); },
     };
 }
 
@@ -231,10 +231,10 @@ void AppDelegate::showAbout()
     m_content->sheets()->present(sheet);
 }
 
-void AppDelegate::showNotice(const Notice& notice, std::function<void(qsizetype)> answered)
+void AppDelegate::showNotice(const Notice& notice, const std::function<void(qsizetype)>& answered)
 {
-    presentMessage(*m_content->sheets(), u"sparkles"_s, notice.message, notice.informativeText, notice.buttons,
-        std::move(answered));
+    presentMessage(
+        *m_content->sheets(), u"sparkles"_s, notice.message, notice.informativeText, notice.buttons, answered);
 }
 
 // Makes the field being typed into commit what the input method still holds, and takes the focus from it.

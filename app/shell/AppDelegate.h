@@ -47,7 +47,7 @@ private:
     void openSettings();
     void openHelp();
     void showAbout();
-    void showNotice(const Notice& notice, std::function<void(qsizetype)> answered);
+    void showNotice(const Notice& notice, const std::function<void(qsizetype)>& answered);
     void applyThemes();
     void endEditing();
 

@@ -52,7 +52,7 @@ void boxBlurLine(uchar* line, int count, qsizetype step, int reach, std::vector<
         sum += copy[static_cast<size_t>(i)];
     for (int i = 0; i < count; ++i) {
         if (i + reach < count)
-            sum += copy[static_cast<size_t>(i + reach)];
+            sum += copy[static_cast<size_t>(i) + static_cast<size_t>(reach)];
         if (i - reach - 1 >= 0)
             sum -= copy[static_cast<size_t>(i - reach - 1)];
         line[i * step] = static_cast<uchar>(sum / width);
