@@ -138,8 +138,6 @@ public:
     void confirmSaveDialog();
     void discardSaveDialog();
     void cancelSaveDialog();
-    /// Whether something waits for the save dialog's answer: the dialog then stands in the way of leaving.
-    bool isLeaving() const { return m_waiting != nullptr; }
     bool batchDontAskSession() const { return m_batchDontAskSession; }
     void setBatchDontAskSession(bool on);
     /// Whether the last save, perhaps of an earlier run of the program, can be taken back now.

@@ -2,6 +2,8 @@
 
 #include "app/model/Background.h"
 
+#include <QPointer>
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -138,11 +140,14 @@ void Saving::check(const Edits& edits, const SaveJob::Written& written, const QS
 
 void Saving::finish(const SaveOutcome& outcome)
 {
+    // Who hears of it may destroy the model.
+    const QPointer<Saving> self(this);
     {
         const Announcer::Together together(m_announcer);
         emit saved(outcome);
     }
-    end(outcome.isGood);
+    if (self)
+        end(outcome.isGood);
 }
 
 void Saving::undo(const QList<QUrl>& photos)
