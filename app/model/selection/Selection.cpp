@@ -32,6 +32,34 @@ std::optional<QSet<QUrl>> visibleRange(const PhotoList& list, const QUrl& from, 
     return range;
 }
 
+// Of the photos that are visible, the one closest to `center`, the later one of two; the first where that is hidden.
+std::optional<QUrl> nearest(const PhotoList& list, const QSet<QUrl>& photos, const std::optional<QUrl>& center)
+{
+    const qsizetype count = list.visibleRows().size();
+    const auto isOneOfThem = [&](qsizetype row) {
+        return row >= 0 && row < count && photos.contains(visibleURL(list, row));
+    };
+    const qsizetype from = center ? std::max<qsizetype>(visibleRow(list, *center), 0) : 0;
+    for (qsizetype distance = 0; distance < count; ++distance)
+        for (const qsizetype row : { from + distance, from - distance })
+            if (isOneOfThem(row))
+                return visibleURL(list, row);
+    return std::nullopt;
+}
+
+// The first in the list; at least one photo.
+const QUrl& firstOf(const PhotoList& list, const QSet<QUrl>& photos)
+{
+    return *std::min_element(photos.cbegin(), photos.cend(),
+        [&list](const QUrl& a, const QUrl& b) { return list.position(a) < list.position(b); });
+}
+
+QUrl nearestOrFirst(const PhotoList& list, const QSet<QUrl>& photos, const QUrl& center)
+{
+    const std::optional<QUrl> visible = nearest(list, photos, center);
+    return visible ? *visible : firstOf(list, photos);
+}
+
 }  // namespace
 
 Selection Selection::firstVisible(const PhotoList& list)
@@ -47,7 +75,7 @@ Selection Selection::afterClick(const PhotoList& list, const QUrl& photo, bool r
             toggled.insert(photo);
         if (toggled.isEmpty())
             toggled.insert(photo);
-        return { toggled, photo, photo };
+        return { toggled, photo, toggled.contains(photo) ? photo : nearestOrFirst(list, toggled, photo) };
     }
     const std::optional<QUrl>& base = anchor ? anchor : primary;
     if (range && base)
@@ -63,7 +91,8 @@ Selection Selection::withAllVisible(const PhotoList& list) const
     all.photos.reserve(count);
     for (qsizetype row = 0; row < count; ++row)
         all.photos.insert(visibleURL(list, row));
-    if (!all.primary && count > 0)
+    // The search may hide the one that was.
+    if (count > 0 && (!all.primary || !all.photos.contains(*all.primary)))
         all.primary = visibleURL(list, 0);
     return all;
 }
@@ -82,27 +111,13 @@ Selection Selection::withoutGone(const PhotoList& list, const std::optional<QUrl
         remaining.primary = heir;
         return remaining;
     }
-    const auto first = std::min_element(remaining.photos.cbegin(), remaining.photos.cend(),
-        [&list](const QUrl& a, const QUrl& b) { return list.position(a) < list.position(b); });
-    remaining.primary = *first;
+    remaining.primary = firstOf(list, remaining.photos);
     return remaining;
 }
 
 std::optional<QUrl> Selection::nearestStaying(const PhotoList& list, const QSet<QUrl>& gone) const
 {
-    const qsizetype count = list.visibleRows().size();
-    const auto stays = [&](qsizetype row) {
-        if (row < 0 || row >= count)
-            return false;
-        const QUrl& photo = visibleURL(list, row);
-        return photos.contains(photo) && !gone.contains(photo);
-    };
-    const qsizetype from = primary ? std::max<qsizetype>(visibleRow(list, *primary), 0) : 0;
-    for (qsizetype distance = 0; distance < count; ++distance)
-        for (const qsizetype row : { from + distance, from - distance })
-            if (stays(row))
-                return visibleURL(list, row);
-    return std::nullopt;
+    return nearest(list, photos - gone, primary);
 }
 
 Selection Selection::renamed(const QUrl& source, const QUrl& destination) const

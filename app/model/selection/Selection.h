@@ -14,15 +14,16 @@ class PhotoList;
 struct Selection {
     QSet<QUrl> photos{};
     std::optional<QUrl> anchor{};  ///< the fixed end of a range
-    std::optional<QUrl> primary{};  ///< the photo whose values are shown and edited
+    std::optional<QUrl> primary{};  ///< the photo whose values are shown and edited; one of `photos`
 
     static Selection of(const QUrl& photo) { return { { photo }, photo, photo }; }
     /// The first photo on screen; none where none is on screen.
     static Selection firstVisible(const PhotoList& list);
 
-    /// After a click: `range` extends from the anchor (Shift), `toggle` adds or takes out one photo (Ctrl).
+    /// After a click: `range` extends from the anchor (Shift), `toggle` adds or takes out one photo (Ctrl); when that
+    /// takes out the primary, the nearest photo that stays takes its place.
     Selection afterClick(const PhotoList& list, const QUrl& photo, bool range, bool toggle) const;
-    /// All photos on screen; anchor and primary stay.
+    /// All photos on screen; anchor and primary stay, unless the search hides the primary.
     Selection withAllVisible(const PhotoList& list) const;
     /// Without the photos that are not in the list any more; the first one on screen where none stays. `heir` becomes
     /// the primary where the primary is gone.

@@ -378,7 +378,9 @@ void tst_AppModelLibrary::clicks_data()
     QTest::addRow("shift extends from the anchor") << u"b d+"_s << u"bcd"_s << u"d"_s;
     QTest::addRow("shift again, other way") << u"c e+ a+"_s << u"abc"_s << u"a"_s;
     QTest::addRow("command adds and moves the anchor") << u"b e* f+"_s << u"ef"_s << u"f"_s;
-    QTest::addRow("command removes") << u"a c+ b*"_s << u"ac"_s << u"b"_s;
+    QTest::addRow("command removes") << u"a c+ b*"_s << u"ac"_s << u"c"_s;
+    QTest::addRow("command removes the primary") << u"a b* b*"_s << u"a"_s << u"a"_s;
+    QTest::addRow("command removes the last of several") << u"a b* f* f*"_s << u"ab"_s << u"b"_s;
     QTest::addRow("command never empties") << u"d d*"_s << u"d"_s << u"d"_s;
     QTest::addRow("command wins over shift") << u"a d+*"_s << u"ad"_s << u"d"_s;
     QTest::addRow("shift on the anchor") << u"c c+"_s << u"c"_s << u"c"_s;
@@ -424,6 +426,18 @@ void tst_AppModelLibrary::selectAll()
     QCOMPARE(f.primary(), u"c.jpg"_s);
     f.click(u"e.jpg"_s, true);
     QCOMPARE(f.selected(), jpgs(u"cde"_s));
+    // Nobody edits a photo that is not among the selected ones.
+    f.click(u"c.jpg"_s);
+    f->setSearch(u"d"_s);
+    f->selectAllPhotos();
+    QCOMPARE(f.selected(), jpgs(u"d"_s));
+    QCOMPARE(f.primary(), u"d.jpg"_s);
+    f->setSearch({});
+    f.click(u"b.jpg"_s, false, true);
+    f->setSearch(u"b"_s);
+    f.click(u"b.jpg"_s, false, true);
+    QCOMPARE(f.selected(), jpgs(u"d"_s));
+    QCOMPARE(f.primary(), u"d.jpg"_s);
 }
 
 void tst_AppModelLibrary::hiddenAnchor()
