@@ -96,6 +96,8 @@ public:
     QMap<QString, QStringList> nonEmptyBatchLists() const;
     /// The scalar value that all selected photos share ("" when none holds one); nothing when they differ.
     std::optional<QString> sharedValue(const QString& id) const { return selected().sharedValue(id); }
+    /// The same for a custom field.
+    std::optional<QString> sharedCustom(const QString& name) const { return selected().sharedCustom(name); }
     /// Whether a field of one value holds nothing but blanks now, in the draft or the batch. One whose photos differ
     /// is not empty.
     bool isFieldEmpty(const QString& id) const { return editing().isFieldEmpty(id); }
@@ -113,12 +115,14 @@ public:
     void addSingleListItem(const QString& id, const QString& item) { editing().addSingleListItem(id, item); }
     void removeSingleListItem(const QString& id, const QString& item) { editing().removeSingleListItem(id, item); }
     void setBatch(const QString& id, const QString& value) { editing().setBatch(id, value); }
+    /// Takes a field out of what will be written, or puts it in with the text that it shows: a tick alone clears nothing
+    /// that one sees.
     void toggleBatchInclude(const QString& id) { editing().toggleBatchInclude(id); }
     void addBatchListItem(const QString& id, const QString& item) { editing().addBatchListItem(id, item); }
     void removeBatchListItem(const QString& id, const QString& item) { editing().removeBatchListItem(id, item); }
     /// Empties a list field's batch entry (its tick taken out).
     void clearBatchList(const QString& id) { editing().clearBatchList(id); }
-    /// Takes a custom field out of what will be written, or puts it in, empty.
+    /// The same for a custom field.
     void toggleBatchCustom(const QString& name) { editing().toggleBatchCustom(name); }
     /// A custom field's value, in the draft or, with several photos selected, in the batch.
     void setCustom(const QString& name, const QString& value) { editing().setCustom(name, value); }
@@ -150,6 +154,8 @@ public:
     bool canRename() const;
     void insertRenameToken(const QString& token);
     QString renamePreview() const;
+    /// Why the name that the pattern gives cannot be a file's; nothing when it can.
+    std::optional<QString> renameProblem() const;
     void performRename();
 
     // --- Sheets ---
@@ -158,6 +164,7 @@ public:
     bool addOpen() const { return m_addOpen; }
     void setAddOpen(bool open);
     bool renameOpen() const { return m_renameOpen; }
+    /// The sheet is about the photo that is the primary one now, and closes when that is another one.
     void setRenameOpen(bool open);
 
     Preferences& preferences() { return m_preferences; }
@@ -224,6 +231,7 @@ private:
     void takeUndone(const SaveOutcome& outcome);
     // Renaming
     QMap<QString, QString> renameValues(const ImageRecord& record) const;
+    QString renderedBase(const ImageRecord& record) const;
     QString newFileName(const ImageRecord& record) const;
     void takeRenamed(const QUrl& source, const QUrl& destination);
 
@@ -239,6 +247,7 @@ private:
     bool m_saveOpen = false;
     bool m_addOpen = false;
     bool m_renameOpen = false;
+    std::optional<QUrl> m_renamed;  ///< the photo that the rename sheet is about
     bool m_batchDontAskSession = false;
     std::function<void()> m_waiting;  ///< asked for again after a save or a discard
     bool m_lastSaveFailed = false;  ///< some of its edits are still unsaved

@@ -48,21 +48,32 @@ void addListState(const AppModel& model, const FieldSpec& field, FieldRowState& 
         state.helpLine = u"appends — existing values kept"_s;
 }
 
+void showMultipleValues(FieldRowState& state)
+{
+    state.italicPlaceholder = true;
+    state.placeholder = u"Multiple values — leave unchanged"_s;
+}
+
 void addTextState(const AppModel& model, const FieldSpec& field, FieldRowState& state)
 {
     state.text = currentText(model, field.id);
     state.included = state.batch && model.batchInclude().contains(field.id);
     if (state.included)
         state.helpLine = willBeWritten(model);
-    state.italicPlaceholder = state.batch && !state.included && !model.sharedValue(field.id);
-    state.placeholder = state.italicPlaceholder ? u"Multiple values — leave unchanged"_s : placeholderOf(field.id);
+    state.placeholder = placeholderOf(field.id);
+    if (state.batch && !state.included && !model.sharedValue(field.id))
+        showMultipleValues(state);
 }
 
 }  // namespace
 
 QString currentText(const AppModel& model, const QString& id)
 {
-    return model.isBatch() ? model.batchValues().value(id) : model.draftValues().value(id);
+    if (!model.isBatch())
+        return model.draftValues().value(id);
+    const QMap<QString, QString>& typed = model.batchValues();
+    const auto text = typed.constFind(id);
+    return text != typed.cend() ? *text : model.sharedValue(id).value_or(QString());
 }
 
 FieldRowState fieldRow(const AppModel& model, const FieldSpec& field)
@@ -94,6 +105,8 @@ FieldRowState customRow(const AppModel& model, const CustomValue& custom)
         state.edited = state.included;
         if (state.included)
             state.helpLine = willBeWritten(model);
+        else if (!model.sharedCustom(custom.name))
+            showMultipleValues(state);
     } else {
         state.edited = model.editedSingle().contains(CustomFields::key(custom.name));
     }

@@ -12,6 +12,7 @@ QSet<QString> Batch::include() const
 QMap<QString, QString> Batch::values() const
 {
     QMap<QString, QString> all = unticked;
+    all.removeIf([](const auto& entry) { return CustomFields::nameIn(entry.key()).has_value(); });
     all.insert(edits.scalars);
     return all;
 }
@@ -25,12 +26,12 @@ void Batch::setScalar(const QString& id, const QString& value)
     edits.scalars.insert(id, value);
 }
 
-void Batch::toggle(const QString& id)
+void Batch::toggle(const QString& id, const QString& seen)
 {
     if (edits.scalars.contains(id))
         unticked.insert(id, edits.scalars.take(id));
     else
-        edits.scalars.insert(id, unticked.take(id));
+        edits.scalars.insert(id, unticked.contains(id) ? unticked.take(id) : seen);
 }
 
 void Batch::addItem(const QString& id, const QString& item)
@@ -56,22 +57,33 @@ void Batch::clearList(const QString& id)
 
 void Batch::setCustom(const QString& name, const QString& value)
 {
-    const qsizetype i = CustomFields::indexOf(edits.customs, name);
-    if (value == (i < 0 ? QString() : edits.customs.at(i).value))
-        return;
+    unticked.remove(CustomFields::key(name));
+    if (!customNames.contains(name))
+        customNames.append(name);
     CustomFields::put(edits.customs, { name, value });
 }
 
 void Batch::addCustom(const CustomValue& custom)
 {
     edits.customs.removeIf([&custom](const CustomValue& other) { return other.name == custom.name; });
-    edits.customs.append(custom);
+    customNames.removeAll(custom.name);
+    setCustom(custom.name, custom.value);
 }
 
-void Batch::toggleCustom(const QString& name)
+void Batch::toggleCustom(const QString& name, const QString& seen)
 {
-    if (edits.customs.removeIf([&name](const CustomValue& custom) { return custom.name == name; }) == 0)
-        edits.customs.append({ name, QString() });
+    const qsizetype i = CustomFields::indexOf(edits.customs, name);
+    if (i < 0)
+        return setCustom(name, customText(name).value_or(seen));
+    unticked.insert(CustomFields::key(name), edits.customs.takeAt(i).value);
+}
+
+std::optional<QString> Batch::customText(const QString& name) const
+{
+    if (const qsizetype i = CustomFields::indexOf(edits.customs, name); i >= 0)
+        return edits.customs.at(i).value;
+    const auto text = unticked.constFind(CustomFields::key(name));
+    return text == unticked.cend() ? std::nullopt : std::optional(*text);
 }
 
 void Batch::forget(const QString& id)
@@ -83,14 +95,17 @@ void Batch::forget(const QString& id)
 
 Batch Batch::afterSave(const Batch& saved, const QSet<QString>& differing) const
 {
-    Batch rest{ edits.minus(saved.edits, differing), unticked };
+    Batch rest{ edits.minus(saved.edits, differing), unticked, customNames };
     // A text that was unticked while the save ran is the one that was written.
     QMap<QString, QString> known = saved.unticked;
     known.insert(saved.edits.scalars);
+    for (const CustomValue& custom : saved.edits.customs)
+        known.insert(CustomFields::key(custom.name), custom.value);
     rest.unticked.removeIf([&](const auto& entry) {
         return !differing.contains(entry.key()) && known.contains(entry.key())
             && known.value(entry.key()) == entry.value();
     });
+    rest.customNames.removeIf([&rest](const QString& name) { return !rest.customText(name); });
     return rest;
 }
 

@@ -4,18 +4,24 @@
 
 #include "core/save/Edits.h"
 
+#include <optional>
+
 namespace Quorbel {
 
 struct Batch {
     Edits edits{};  ///< what will be written: nothing is replaced as a whole list
-    QMap<QString, QString> unticked{};  ///< field id to a text whose tick was taken out; the next tick brings it back
+    /// Field id, or CustomFields::key(), to a text whose tick was taken out; the next tick brings it back.
+    QMap<QString, QString> unticked{};
+    QStringList customNames{};  ///< custom fields that were edited, ticked or not, in the order of their rows
 
     QSet<QString> include() const;
-    /// The texts of all fields, ticked or not.
+    /// The texts of all fields of the schema, ticked or not.
     QMap<QString, QString> values() const;
 
     void setScalar(const QString& id, const QString& value);
-    void toggle(const QString& id);
+    /// Takes a field out of what will be written, or puts it in with the text that it has: the one whose tick was taken
+    /// out, else what one sees (`seen`).
+    void toggle(const QString& id, const QString& seen = {});
     /// An item that is there already changes nothing.
     void addItem(const QString& id, const QString& item);
     void removeItem(const QString& id, const QString& item);
@@ -23,8 +29,10 @@ struct Batch {
     void setCustom(const QString& name, const QString& value);
     /// Puts the custom field at the end, in the place of the one with its name.
     void addCustom(const CustomValue& custom);
-    /// Takes a custom field out of what will be written, or puts it in, empty.
-    void toggleCustom(const QString& name);
+    /// The same as toggle().
+    void toggleCustom(const QString& name, const QString& seen = {});
+    /// A custom field's text, ticked or not; nothing when it was not edited.
+    std::optional<QString> customText(const QString& name) const;
     /// Forgets a field of the schema, ticked or not.
     void forget(const QString& id);
 

@@ -72,7 +72,7 @@ void Editing::setBatch(const QString& id, const QString& value)
 
 void Editing::toggleBatchInclude(const QString& id)
 {
-    m_batch.toggle(id);
+    m_batch.toggle(id, m_selected.sharedValue(id).value_or(QString()));
     changed();
 }
 
@@ -96,16 +96,16 @@ void Editing::clearBatchList(const QString& id)
 
 void Editing::toggleBatchCustom(const QString& name)
 {
-    m_batch.toggleCustom(name);
+    m_batch.toggleCustom(name, m_selected.sharedCustom(name).value_or(QString()));
     changed();
 }
 
 void Editing::setCustom(const QString& name, const QString& value)
 {
-    if (isBatch())
-        m_batch.setCustom(name, value);
-    else
+    if (!isBatch())
         m_draft.setCustom(name, value);
+    else if (value != shownCustom(name))
+        m_batch.setCustom(name, value);
     changed();
 }
 
@@ -186,16 +186,21 @@ QList<CustomValue> Editing::visibleCustomFields() const
 {
     if (!isBatch())
         return m_draft.shown.customs;
-    const QList<CustomValue>& typed = m_batch.edits.customs;
+    QStringList names = m_selected.customNames();
+    for (const QString& name : m_batch.customNames)
+        if (!names.contains(name))
+            names.append(name);
     QList<CustomValue> fields;
-    for (const QString& name : m_selected.customNames()) {
-        const qsizetype i = CustomFields::indexOf(typed, name);
-        fields.append({ name, i < 0 ? QString() : typed.at(i).value });
-    }
-    for (const CustomValue& custom : typed)
-        if (CustomFields::indexOf(fields, custom.name) < 0)
-            fields.append(custom);
+    for (const QString& name : names)
+        fields.append({ name, shownCustom(name) });
     return fields;
+}
+
+// A custom field's text in the batch: what was typed, else what all photos hold.
+QString Editing::shownCustom(const QString& name) const
+{
+    const auto typed = m_batch.customText(name);
+    return typed ? *typed : m_selected.sharedCustom(name).value_or(QString());
 }
 
 bool Editing::isFieldEmpty(const QString& id) const
@@ -257,8 +262,11 @@ void Editing::rename(const QUrl& source, const QUrl& destination)
 {
     m_selected.follow(m_selected.selection().renamed(source, destination));
     std::replace(m_draft.edits.subjects.begin(), m_draft.edits.subjects.end(), source, destination);
-    for (Edits& edits : m_returned)
+    // Edits of the photo that had the name before do not pass to the one that has it now.
+    for (Edits& edits : m_returned) {
+        edits.subjects.removeAll(destination);
         std::replace(edits.subjects.begin(), edits.subjects.end(), source, destination);
+    }
 }
 
 void Editing::rebase()

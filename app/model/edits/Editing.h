@@ -91,6 +91,7 @@ private:
 
     bool isBatch() const { return m_selected.isBatch(); }
     bool isShown(const FieldSpec& field) const;
+    QString shownCustom(const QString& name) const;
     void changed();
     void restart();
     void foldBatchIntoDraft();

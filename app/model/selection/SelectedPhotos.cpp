@@ -101,6 +101,26 @@ void SelectedPhotos::mergeFields(std::vector<Field>& fields, const QMap<QString,
         field->isShared = field->isShared && field->value.isEmpty();
 }
 
+void SelectedPhotos::mergeCustom(QMap<QString, Custom>& customs, const CustomValue& custom)
+{
+    Custom& known = customs[custom.name];
+    if (known.holders++ == 0)
+        known.value = custom.value;
+    else if (known.isShared)
+        known.isShared = isSameText(known.value, custom.value);
+}
+
+std::optional<QString> SelectedPhotos::sharedCustom(const QString& name) const
+{
+    if (rows().isEmpty())
+        return std::nullopt;
+    const auto custom = summary().customs.constFind(name);
+    if (custom == summary().customs.cend())
+        return QString();
+    const bool isEverywhere = custom->holders == rows().size() || custom->value.isEmpty();
+    return custom->isShared && isEverywhere ? std::optional(custom->value) : std::nullopt;
+}
+
 const SelectedPhotos::Summary& SelectedPhotos::summary() const
 {
     forgetIfOutdated();
@@ -108,7 +128,6 @@ const SelectedPhotos::Summary& SelectedPhotos::summary() const
         return *m_summary;
     Summary summary;
     QStringList heldLists;
-    QSet<QString> customNames;
     bool isFirst = true;
     for (const int row : rows()) {
         const ImageRecord& record = m_list.records().at(row);
@@ -117,14 +136,12 @@ const SelectedPhotos::Summary& SelectedPhotos::summary() const
             if (!list->isEmpty() && !heldLists.contains(list.key()))
                 heldLists.append(list.key());
         for (const CustomValue& custom : record.custom)
-            customNames.insert(custom.name);
+            mergeCustom(summary.customs, custom);
         isFirst = false;
     }
     summary.heldIDs = QSet<QString>(heldLists.cbegin(), heldLists.cend());
     for (const Field& field : summary.fields)
         summary.heldIDs.insert(field.id);
-    summary.customNames = customNames.values();
-    summary.customNames.sort();
     m_summary = std::move(summary);
     return *m_summary;
 }

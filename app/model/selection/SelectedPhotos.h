@@ -39,7 +39,9 @@ public:
     /// Whether one of them holds the field.
     bool holds(const QString& id) const { return summary().heldIDs.contains(id); }
     /// Names of the custom fields that one of them holds, ascending.
-    const QStringList& customNames() const { return summary().customNames; }
+    QStringList customNames() const { return summary().customs.keys(); }
+    /// The same as sharedValue(), for a custom field.
+    std::optional<QString> sharedCustom(const QString& name) const;
 
 private:
     struct Field {
@@ -47,13 +49,19 @@ private:
         QString value{};
         bool isShared = true;
     };
+    struct Custom {
+        QString value{};
+        bool isShared = true;  ///< by those that hold the field
+        int holders = 0;
+    };
     struct Summary {
         std::vector<Field> fields{};  ///< every scalar field that a selected photo holds, by id
         QSet<QString> heldIDs{};  ///< the same, and the list fields
-        QStringList customNames{};
+        QMap<QString, Custom> customs{};  ///< every custom field that a selected photo holds, by name
     };
 
     void forgetIfOutdated() const;
+    static void mergeCustom(QMap<QString, Custom>& customs, const CustomValue& custom);
     static void mergeFields(std::vector<Field>& fields, const QMap<QString, QString>& values, bool isFirst);
     const Summary& summary() const;
 

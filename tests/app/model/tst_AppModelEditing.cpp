@@ -229,6 +229,10 @@ void tst_AppModelEditing::batchCustomFields()
     QCOMPARE(f->visibleCustomFields(), (QList<CustomValue>{ { u"Mood"_s, {} }, { u"Score"_s, {} } }));
     f->setCustom(u"Mood"_s, {});
     QCOMPARE(f->unsavedCount(), 0);
+    f->setCustom(u"Mood"_s, u"wild"_s);
+    f->toggleBatchCustom(u"Mood"_s);
+    QCOMPARE(f->visibleCustomFields(), (QList<CustomValue>{ { u"Mood"_s, u"wild"_s }, { u"Score"_s, {} } }));
+    QCOMPARE(f->unsavedCount(), 0);
     f->setCustom(u"Score"_s, u"8"_s);
     f->addCustomField(u"Zone"_s, u"1"_s);
     f->addCustomField(u"Area"_s, u"2"_s);
@@ -237,7 +241,7 @@ void tst_AppModelEditing::batchCustomFields()
         (QList<CustomValue>{ { u"Score"_s, u"8"_s }, { u"Area"_s, u"2"_s }, { u"Zone"_s, u"3"_s } }));
     QCOMPARE(f->visibleCustomFields(),
         (QList<CustomValue>{
-            { u"Mood"_s, {} }, { u"Score"_s, u"8"_s }, { u"Area"_s, u"2"_s }, { u"Zone"_s, u"3"_s } }));
+            { u"Mood"_s, u"wild"_s }, { u"Score"_s, u"8"_s }, { u"Area"_s, u"2"_s }, { u"Zone"_s, u"3"_s } }));
     QCOMPARE(f->unsavedCount(), 3);
     QVERIFY(f->editedSingle().isEmpty());
 }

@@ -83,6 +83,8 @@ private slots:
     void typingReachesTheModel();
     void ticks_data();
     void ticks();
+    void batchShowsWhatAllShare_data();
+    void batchShowsWhatAllShare();
     void keywordsOfOnePhoto();
     void keywordsOfSeveral();
     void nowReplacesTheDate();
@@ -139,7 +141,8 @@ void tst_InspectorView::showsSeveralPhotos()
     QVERIFY(!f.view->findChild<CameraSection*>()->isVisible());
     QVERIFY(tick(f, u"title"_s));
     QVERIFY(!tick(f, u"title"_s)->isChecked());
-    QCOMPARE(f.editor<QBTextField>(u"creator"_s)->text(), QString());
+    QCOMPARE(f.editor<QBTextField>(u"creator"_s)->text(), u"Mara"_s);
+    QVERIFY(!tick(f, u"creator"_s)->isChecked());
     f.click(u"a.jpg"_s);
     QVERIFY(!tick(f, u"title"_s));
 }
@@ -185,7 +188,7 @@ void tst_InspectorView::placeholders()
     f.model().selectAllPhotos();
     f.model().addKnownField(id);
     QCOMPARE(f.editor<QBTextField>(id)->placeholderText(), several);
-    QCOMPARE(f.editor<QBTextField>(id)->text(), QString());
+    QCOMPARE(f.editor<QBTextField>(id)->text(), id == u"creator"_s ? u"Mara"_s : QString());
     f.model().toggleBatchInclude(id);
     QCOMPARE(f.editor<QBTextField>(id)->placeholderText(), one);
 }
@@ -257,8 +260,46 @@ void tst_InspectorView::ticks()
     QCOMPARE(f.model().unsavedCount(), 1);
     click(tick(f, id));
     QCOMPARE(f.model().unsavedCount(), 0);
-    // Nothing but the tick kept the custom field on screen.
-    QCOMPARE(f.row(id) == nullptr, custom);
+    // The row keeps its text for the next tick.
+    if (custom)
+        QCOMPARE(f.row(id)->state().text, u"calm"_s);
+}
+
+void tst_InspectorView::batchShowsWhatAllShare_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("shared");
+    QTest::addRow("text") << u"creator"_s << u"Ana"_s;
+    QTest::addRow("rating") << u"rating"_s << u"4"_s;
+    QTest::addRow("a field of the user's own") << u"custom:Mood"_s << u"calm"_s;
+    QTest::addRow("differs") << u"title"_s << QString();
+}
+
+void tst_InspectorView::batchShowsWhatAllShare()
+{
+    QFETCH(const QString, id);
+    QFETCH(const QString, shared);
+    InspectorFixture f;
+    for (const QString& name : { u"a"_s, u"b"_s })
+        f.add(name + u".jpg"_s, { u"-XMP-dc:Creator=Ana"_s, u"-XMP-xmp:Rating=4"_s, u"-XMP-dc:Title="_s + name });
+    QVERIFY(f.open());
+    f.model().selectAllPhotos();
+    f.model().addCustomField(u"Mood"_s, u"calm"_s);
+    f.model().setBatchDontAskSession(true);
+    f.model().requestSave();
+    QVERIFY(f.photos.waitUntilIdle());
+    QCOMPARE(f.row(id)->state().text, shared);
+    QVERIFY(!f.row(id)->state().edited && !f.row(id)->state().included);
+    QCOMPARE(f.row(id)->state().placeholder == u"Multiple values — leave unchanged"_s, shared.isEmpty());
+    if (shared.isEmpty())
+        return;
+    // A tick writes what one sees.
+    click(tick(f, id));
+    QCOMPARE(f.row(id)->state().text, shared);
+    QVERIFY(f.row(id)->state().included);
+    f.model().requestSave();
+    QVERIFY(f.photos.waitUntilIdle());
+    QCOMPARE(f.row(id)->state().text, shared);
 }
 
 void tst_InspectorView::keywordsOfOnePhoto()

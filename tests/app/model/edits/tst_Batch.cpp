@@ -11,6 +11,7 @@ class tst_Batch : public QObject {
 
 private slots:
     void ticksKeepTexts();
+    void customTicksKeepTextsAndPlaces();
     void aSaveLeavesWhatCameAfter();
     void forgottenFieldsAreGone();
 };
@@ -24,14 +25,42 @@ void tst_Batch::ticksKeepTexts()
     QCOMPARE(batch.values().value(u"title"_s), u"X"_s);
     batch.toggle(u"title"_s);
     QCOMPARE(batch.edits.scalars, (QMap<QString, QString>{ { u"title"_s, u"X"_s } }));
-    // A tick alone clears the field in all photos.
+    // A tick alone writes what one sees; where that is nothing, it clears the field in all photos.
+    batch.toggle(u"creator"_s, u"Ana"_s);
     batch.toggle(u"event"_s);
+    QCOMPARE(batch.edits.plan().scalars.value(u"creator"_s), u"Ana"_s);
     QCOMPARE(batch.edits.plan().scalars.value(u"event"_s, u"absent"_s), QString());
+    batch.toggle(u"creator"_s, u"Ana"_s);
+    batch.unticked.remove(u"creator"_s);
     // Typing ticks, and what was unticked does not come back later.
     batch.toggle(u"title"_s);
     batch.setScalar(u"title"_s, u"Y"_s);
     QCOMPARE(batch.include(), QSet<QString>({ u"title"_s, u"event"_s }));
     QVERIFY(batch.unticked.isEmpty());
+}
+
+void tst_Batch::customTicksKeepTextsAndPlaces()
+{
+    Batch batch;
+    batch.setCustom(u"Mood"_s, u"calm"_s);
+    batch.setCustom(u"Zone"_s, u"1"_s);
+    batch.toggleCustom(u"Mood"_s, u"seen"_s);
+    QCOMPARE(batch.edits.customs, (QList<CustomValue>{ { u"Zone"_s, u"1"_s } }));
+    QCOMPARE(batch.customNames, QStringList({ u"Mood"_s, u"Zone"_s }));
+    QVERIFY(batch.values().isEmpty());
+    batch.toggleCustom(u"Mood"_s, u"seen"_s);
+    QCOMPARE(batch.customText(u"Mood"_s), u"calm"_s);
+    batch.toggleCustom(u"New"_s, u"seen"_s);
+    QCOMPARE(batch.edits.customs.constLast(), (CustomValue{ u"New"_s, u"seen"_s }));
+    // Unticked while the save ran: the text that was written waits for no tick.
+    Batch now = batch;
+    now.toggleCustom(u"Zone"_s);
+    now.setCustom(u"Later"_s, u"2"_s);
+    now.toggleCustom(u"Later"_s);
+    const Batch rest = now.afterSave(batch, {});
+    QCOMPARE(rest.customText(u"Zone"_s), std::nullopt);
+    QCOMPARE(rest.customText(u"Later"_s), u"2"_s);
+    QCOMPARE(rest.customNames, QStringList{ u"Later"_s });
 }
 
 void tst_Batch::aSaveLeavesWhatCameAfter()
