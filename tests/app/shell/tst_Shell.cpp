@@ -29,6 +29,7 @@ class tst_Shell : public QObject {
 private slots:
     void init() { failOnWarnings(); }
     void shortcuts();
+    void renameFollowsItsCauses();
     void selectAllIsTheFieldsFirst();
     void recentItems();
     void menusRestUnderASheet();
@@ -78,6 +79,37 @@ void tst_Shell::shortcuts()
     QVERIFY(fixture.model->records().isEmpty());
     QVERIFY(!action(fixture, u"Refresh"_s)->isEnabled());
     QVERIFY(!action(fixture, u"Check for Updates…"_s));  // no feed in this build
+}
+
+// F2 and the menu say the same as the model, whatever it was that changed its mind.
+void tst_Shell::renameFollowsItsCauses()
+{
+    WindowFixture fixture;
+    new Menus(*fixture.model.model, *fixture.content, { .openSettings = {}, .openHelp = {} });
+    fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
+    fixture.show();
+    AppModel& model = *fixture.model.model;
+    const auto isEnabled = [&] { return action(fixture, u"Rename…"_s)->isEnabled(); };
+    // Another program takes the photo's title away, and gives it another one.
+    for (const QString& title : { QString(), u"There"_s, QString() }) {
+        exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title="_s + title, fixture.model.folder.path(u"a.jpg"_s) });
+        QTRY_COMPARE_WITH_TIMEOUT(model.draftValues().value(u"title"_s), title, 30'000);
+        QCOMPARE(isEnabled(), !title.isEmpty());
+    }
+    model.setSingle(u"creator"_s, u"Ana"_s);
+    QVERIFY(isEnabled());
+    model.setSingle(u"creator"_s, QString());
+    QVERIFY(!isEnabled());
+    model.setSingle(u"place"_s, u"Bern"_s);
+    model.selectAllPhotos();
+    QVERIFY(!isEnabled());
+    fixture.model.click(u"a.jpg"_s);
+    model.setSingle(u"place"_s, u"Bern"_s);
+    QVERIFY(isEnabled());
+    QTest::keyClick(fixture.window.get(), Qt::Key_F2);
+    QVERIFY(model.renameOpen());
+    model.closeFolder();
+    QVERIFY(!isEnabled());
 }
 
 void tst_Shell::selectAllIsTheFieldsFirst()
