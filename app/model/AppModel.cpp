@@ -49,6 +49,10 @@ void AppModel::connectParts()
         if (selection().isEmpty())
             commitSelection(Selection::firstVisible(photos()));
     });
+    connect(this, &AppModel::primaryChanged, this, [this] {
+        if (m_renameOpen && primary() != m_renamed)
+            setRenameOpen(false);
+    });
     connect(&m_saving, &Saving::saved, this, &AppModel::takeSaved);
     connect(&m_saving, &Saving::undone, this, &AppModel::takeUndone);
     connect(&m_saving, &Saving::ended, this, [this](bool isGood) {
@@ -216,6 +220,8 @@ void AppModel::takeVanished(const QList<int>& positions)
     if (losesPrimary && !isBatch() && unsavedCount() > 0)
         setErrorMessage(
             u"“%1” was removed by another program, and its unsaved changes with it."_s.arg(before.primary->fileName()));
+    else if (m_renameOpen && m_renamed && gone.contains(*m_renamed))
+        setErrorMessage(u"“%1” was removed by another program."_s.arg(m_renamed->fileName()));
     const auto heir = losesPrimary ? before.nearestStaying(photos(), gone) : std::nullopt;
     photos().remove(positions);
     const Selection rest = before.withoutGone(photos(), heir);
@@ -245,6 +251,7 @@ void AppModel::setAddOpen(bool open)
 void AppModel::setRenameOpen(bool open)
 {
     requireMainThread("setRenameOpen");
+    m_renamed = open ? primary() : std::nullopt;
     m_announcer.assign(m_renameOpen, open, Change::renameOpen);
 }
 

@@ -38,6 +38,15 @@ QString AppModel::renamePreview() const
     return record ? newFileName(*record) : QString();
 }
 
+std::optional<QString> AppModel::renameProblem() const
+{
+    requireMainThread("renameProblem");
+    const ImageRecord* record = primaryRecord();
+    if (record && renderedBase(*record).contains(u'/'))
+        return u"A file name cannot hold “/”."_s;
+    return std::nullopt;
+}
+
 QMap<QString, QString> AppModel::renameValues(const ImageRecord& record) const
 {
     const QStringList date = draftValues().value(FieldID::date).split(u' ', Qt::SkipEmptyParts);
@@ -51,10 +60,14 @@ QMap<QString, QString> AppModel::renameValues(const ImageRecord& record) const
     };
 }
 
+QString AppModel::renderedBase(const ImageRecord& record) const
+{
+    return FileNaming::render(m_preferences.renamePattern(), renameValues(record), m_preferences.stripSpecialChars());
+}
+
 QString AppModel::newFileName(const ImageRecord& record) const
 {
-    const QString base =
-        FileNaming::render(m_preferences.renamePattern(), renameValues(record), m_preferences.stripSpecialChars());
+    const QString base = renderedBase(record);
     QSet<QString> taken;
     const QDir folder = QFileInfo(record.url.toLocalFile()).dir();
     const QStringList names =
@@ -70,8 +83,10 @@ void AppModel::performRename()
 {
     requireMainThread("performRename");
     const ImageRecord* record = primaryRecord();
-    if (!record || !m_services.service)
+    if (!record || !m_services.service || (m_renameOpen && m_renamed != record->url))
         return;
+    if (const auto problem = renameProblem())
+        return setErrorMessage(u"Could not rename: "_s + *problem);
     const QString name = newFileName(*record);
     if (name == record->fileName)
         return;
@@ -93,6 +108,11 @@ void AppModel::performRename()
 void AppModel::takeRenamed(const QUrl& source, const QUrl& destination)
 {
     const Announcer::Together together(m_announcer);
+    // The name was free: the photo that had it is gone, and nobody has told us yet.
+    if (const int gone = photos().position(destination); gone >= 0)
+        takeVanished({ gone });
+    if (m_renamed == source)
+        m_renamed = destination;
     photos().rename(source, destination);
     m_editing.rename(source, destination);
 }

@@ -9,6 +9,7 @@
 #include <cstdio>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Quorbel::Companions {
@@ -55,6 +56,34 @@ int moveWithoutReplacing(const QString& from, const QString& to)
     return std::rename(source.constData(), destination.constData()) == 0 ? 0 : errno;
 }
 
+bool isSameFile(const QString& a, const QString& b)
+{
+    struct stat first = {};
+    struct stat second = {};
+    return lstat(QFile::encodeName(a).constData(), &first) == 0 && lstat(QFile::encodeName(b).constData(), &second) == 0
+        && first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
+// Where names do not differ by case, a file stands in the way of its own new name: it goes by way of a third one.
+int changeCase(const QString& from, const QString& to)
+{
+    const QString between = from + u"_renaming"_s;
+    if (const int error = moveWithoutReplacing(from, between))
+        return error;
+    const int error = moveWithoutReplacing(between, to);
+    if (error)
+        moveWithoutReplacing(between, from);
+    return error;
+}
+
+// A photo or one of its companions.
+int move(const QString& from, const QString& to)
+{
+    const int error = moveWithoutReplacing(from, to);
+    const bool differsByCase = from.compare(to, Qt::CaseInsensitive) == 0;
+    return error == EEXIST && differsByCase && isSameFile(from, to) ? changeCase(from, to) : error;
+}
+
 }  // namespace
 
 QString sidecarPath(const QString& photo)
@@ -71,10 +100,10 @@ void movePhoto(const QUrl& source, const QUrl& destination)
 {
     const QString from = source.toLocalFile();
     const QString to = destination.toLocalFile();
-    if (const int error = moveWithoutReplacing(from, to))
+    if (const int error = move(from, to))
         throw FileError(u"Cannot move"_s, source, qt_error_string(error));
-    moveWithoutReplacing(sidecarPath(from), sidecarPath(to));
-    moveWithoutReplacing(backupPath(from), backupPath(to));
+    move(sidecarPath(from), sidecarPath(to));
+    move(backupPath(from), backupPath(to));
 }
 
 void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& photos)

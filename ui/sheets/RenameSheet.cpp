@@ -6,6 +6,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FlowLayout.h"
 #include "ui/controls/FormLabels.h"
+#include "ui/controls/Labels.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/sheets/SheetParts.h"
@@ -22,6 +23,7 @@ namespace {
 // Points.
 constexpr qreal renameWidth = 440;
 constexpr int chipGap = 6;
+constexpr qreal buttonsAbove = 22;
 
 // The token chips, as high as their lines.
 class TokenFlow final : public QWidget {
@@ -43,6 +45,7 @@ RenameSheet::RenameSheet(AppModel& model, QWidget* parent)
     , m_model(model)
     , m_pattern(new QBTextField)
     , m_preview(new WrappedLine(TextRole::text, 12, 17))
+    , m_problem(new ThemedLabel({}, TextRole::amberText, 11))
     , m_rename(new QBButton(u"Rename"_s, QBButtonKind::primary))
 {
     m_pattern->setMono(true);
@@ -58,9 +61,13 @@ RenameSheet::RenameSheet(AppModel& model, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     stackParts(this, column,
         { { m_pattern, 12 }, { buildTokens(), 12 }, { hint, 18 }, { new LabeledDivider(u"Preview"_s), 10 },
-            { m_preview, 22 } });
+            { m_preview }, { m_problem } });
     column->addLayout(sheetButtonRow(this, { dismiss, m_rename }));
     frameSheet(this, column, renameWidth);
+    m_problem->setElided(true);
+    m_problem->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // The line stands in the gap above the buttons: nothing moves when it appears.
+    onRestyle(this, [this] { m_problem->setFixedHeight(px(buttonsAbove)); });
     connectModel();
     refresh();
 }
@@ -93,8 +100,12 @@ void RenameSheet::refresh()
 {
     m_pattern->setBoundText(m_model.preferences().renamePattern());
     m_preview->setText(m_model.renamePreview());
+    const std::optional<QString> problem = m_model.renameProblem();
+    m_problem->setText(problem.value_or(QString()));
+    m_pattern->setAccessibleDescription(problem.value_or(QString()));
     // An empty pattern would name the photo "untitled": hardly what anybody wants.
-    m_rename->setEnabled(m_model.canRename() && !Text::trimmed(m_model.preferences().renamePattern()).isEmpty());
+    m_rename->setEnabled(
+        m_model.canRename() && !problem && !Text::trimmed(m_model.preferences().renamePattern()).isEmpty());
 }
 
 QString RenameSheet::title() const

@@ -11,6 +11,7 @@ namespace Quorbel {
 class AppModel;
 class QBButton;
 class QBTextField;
+class ThemedLabel;
 class WrappedLine;
 
 class RenameSheet final : public SheetBody {
@@ -34,6 +35,7 @@ private:
     AppModel& m_model;
     QBTextField* m_pattern;
     WrappedLine* m_preview;
+    ThemedLabel* m_problem;
     QBButton* m_rename;
 };
 

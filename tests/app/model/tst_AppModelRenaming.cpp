@@ -1,8 +1,14 @@
 // Renaming the one selected photo from a pattern and its draft.
 #include "tests/app/model/ModelFixture.h"
 
+#include <QDir>
+#include <QProcess>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTest>
+
+#include <sys/mount.h>
+#include <unistd.h>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -19,6 +25,12 @@ private slots:
     void token();
     void companionsComeAlong();
     void failure();
+    void namesThatArePaths_data();
+    void namesThatArePaths();
+    void goneNameIsTakenOver_data();
+    void goneNameIsTakenOver();
+    void sheetFollowsNoOtherPhoto();
+    void onlyTheCaseChanges();
 };
 
 void tst_AppModelRenaming::preview_data()
@@ -116,8 +128,8 @@ void tst_AppModelRenaming::failure()
     ModelFixture f(tool.service());
     f.folder.add(u"a.jpg"_s);
     QVERIFY(f.open());
-    f->preferences().renamePattern.set(u"elsewhere/%Title%"_s);
     f->setSingle(u"title"_s, u"x"_s);
+    f->preferences().renamePattern.set(u"x"_s.repeated(300));
     f->performRename();
     QVERIFY(f->errorMessage().value_or(QString()).startsWith(u"Could not rename: "_s));
     QCOMPARE(f.primary(), u"a.jpg"_s);
@@ -132,6 +144,97 @@ void tst_AppModelRenaming::failure()
     QCOMPARE(f->errorMessage(), u"Could not rename: “a.jpg” is being saved."_s);
     tool.release();
     QVERIFY(f.waitUntilIdle());
+}
+
+void tst_AppModelRenaming::namesThatArePaths_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::addRow("into a folder") << u"sub/%Title%"_s;
+    QTest::addRow("out of it") << u"../%Title%"_s;
+    QTest::addRow("from the root") << u"/%Title%"_s;
+}
+
+void tst_AppModelRenaming::namesThatArePaths()
+{
+    QFETCH(QString, pattern);
+    ModelFixture f;
+    f.folder.add(u"a.jpg"_s);
+    QVERIFY(QDir(f.folder.path()).mkpath(u"sub"_s));
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"x/y"_s);
+    f->preferences().renamePattern.set(u"%Title%"_s);
+    QCOMPARE(f->renameProblem(), std::nullopt);
+    f->preferences().renamePattern.set(pattern);
+    QCOMPARE(f->renameProblem(), u"A file name cannot hold “/”."_s);
+    f->performRename();
+    QCOMPARE(f->errorMessage(), u"Could not rename: A file name cannot hold “/”."_s);
+    QVERIFY(QFile::exists(f.folder.path(u"a.jpg"_s)));
+    QCOMPARE(f.primary(), u"a.jpg"_s);
+}
+
+void tst_AppModelRenaming::goneNameIsTakenOver_data()
+{
+    QTest::addColumn<bool>("opensFiles");
+    QTest::addRow("a folder") << false;
+    QTest::addRow("single files, which nobody watches") << true;
+}
+
+// Another program deletes a photo, and ours takes its name before anybody has noticed.
+void tst_AppModelRenaming::goneNameIsTakenOver()
+{
+    QFETCH(bool, opensFiles);
+    ModelFixture f;
+    f.addTitled({ u"a.jpg"_s, u"b.jpg"_s });
+    QVERIFY(opensFiles ? f.load({ f.url(u"a.jpg"_s), f.url(u"b.jpg"_s) }) : f.open());
+    f.click(u"b.jpg"_s);
+    QVERIFY(QFile::remove(f.folder.path(u"a.jpg"_s)));
+    f->preferences().renamePattern.set(u"a"_s);
+    f->performRename();
+    QCOMPARE(f.visible(), QStringList{ u"a.jpg"_s });
+    QCOMPARE(f.primary(), u"a.jpg"_s);
+    QCOMPARE(f->primaryRecord()->values.value(u"title"_s), u"b.jpg"_s);
+    QCOMPARE(f->draftValues().value(u"title"_s), u"b.jpg"_s);
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->records().size(), 1);
+}
+
+void tst_AppModelRenaming::sheetFollowsNoOtherPhoto()
+{
+    ModelFixture f;
+    f.addTitled({ u"a.jpg"_s, u"b.jpg"_s });
+    QVERIFY(f.open());
+    f->preferences().renamePattern.set(u"new"_s);
+    f->setRenameOpen(true);
+    QVERIFY(QFile::remove(f.folder.path(u"a.jpg"_s)));
+    QTRY_COMPARE_WITH_TIMEOUT(f.primary(), u"b.jpg"_s, 30000);
+    QVERIFY(!f->renameOpen());
+    QCOMPARE(f->errorMessage(), u"“a.jpg” was removed by another program."_s);
+    f->setRenameOpen(true);
+    f->performRename();
+    QVERIFY(f->renameOpen());
+    QCOMPARE(f.primary(), u"new.jpg"_s);
+}
+
+// With a disk that knows no difference of case, where this may be mounted.
+void tst_AppModelRenaming::onlyTheCaseChanges()
+{
+    const QTemporaryDir directory;
+    const QString image = directory.filePath(u"disk"_s);
+    writeFile(image, QByteArray(8 << 20, '\0'));
+    if (geteuid() != 0 || QProcess::execute(u"mkfs.vfat"_s, { image }) != 0)
+        QSKIP("making a FAT disk needs root and mkfs.vfat");
+    ModelFixture f;
+    if (QProcess::execute(u"mount"_s, { u"-o"_s, u"loop,utf8"_s, image, f.folder.path() }) != 0)
+        QSKIP("this machine mounts no FAT disks");
+    const auto unmount = qScopeGuard([&f] { umount2(qPrintable(f.folder.path()), MNT_DETACH); });
+    f.folder.add(u"a.jpg"_s);
+    f.folder.add(u"a.xmp"_s);
+    QVERIFY(f.open());
+    f->preferences().renamePattern.set(u"A"_s);
+    f->performRename();
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.folder.names(), QStringList({ u"A.jpg"_s, u"A.xmp"_s }));
+    QCOMPARE(f.primary(), u"A.jpg"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelRenaming)

@@ -253,6 +253,10 @@ void tst_Sheets::renameBuildsAPattern()
     press(Qt::Key_Backspace);
     QVERIFY(labels(sheet).contains(u"untitled.jpg"_s));
     QVERIFY(!button(sheet, u"Rename"_s)->isEnabled());
+    QTest::keyClicks(pattern, u"trip/%Creator%"_s);
+    QVERIFY(!button(sheet, u"Rename"_s)->isEnabled());
+    QVERIFY(labels(sheet).contains(u"A file name cannot hold “/”."_s));
+    QCOMPARE(pattern->accessibleDescription(), u"A file name cannot hold “/”."_s);
     press(Qt::Key_Return);
     QVERIFY(desk.photos.folder.names().contains(u"a.jpg"_s));
 }
