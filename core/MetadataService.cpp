@@ -1,7 +1,9 @@
 #include "core/MetadataService.h"
 
 #include "core/save/Companions.h"
+#include "core/save/RefusedHomes.h"
 #include "core/save/SafeWriter.h"
+#include "core/save/ValueTooLong.h"
 #include "core/schema/CustomFields.h"
 #include "core/tool/MetadataReader.h"
 #include "core/tool/MetadataWriter.h"
@@ -73,16 +75,27 @@ QList<ImageRecord> MetadataService::read(const QList<QUrl>& urls, const ReadCont
     return records;
 }
 
-QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options) const
+QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options,
+    const QList<Preparation>& preparations, WriteNotes* notes) const
 {
     const WriteCommand command{ .assignments = MetadataWriter::assignments(plan) };
     if (command.isEmpty() || targets.isEmpty())
         return {};
+    requireShortValues(plan);
+    const QStringList customNames = CustomFields::names(plan.customs);
     const QString output =
-        SafeWriter::write(runner, command, targets, options.backupOriginals, CustomFields::names(plan.customs));
-    if (options.writeSidecar)
-        Companions::writeSidecars(runner, targets);
+        SafeWriter::write(runner, command, targets, options.backupOriginals, customNames, preparations, notes);
+    if (!options.writeSidecar)
+        return output;
+    const auto failures = Companions::writeSidecars(runner, command.assignments, targets, customNames);
+    if (notes)
+        notes->sidecars = failures;
     return output;
+}
+
+QMap<QUrl, QMap<QString, QString>> MetadataService::refusedHomes(const EditPlan& plan, const QList<QUrl>& targets) const
+{
+    return RefusedHomes::find(runner, plan, targets);
 }
 
 JournalEntry MetadataService::journalEntry(

@@ -3,7 +3,9 @@
 #pragma once
 
 #include "core/save/EditPlan.h"
+#include "core/save/Preparation.h"
 #include "core/save/SaveUndo.h"
+#include "core/save/WriteNotes.h"
 #include "core/schema/ImageRecord.h"
 #include "core/tool/ExifToolRunner.h"
 
@@ -24,8 +26,11 @@ struct MetadataService {
     /// Writes the plan to all targets in one run (plus one a file when sidecars are on) and returns the tool's
     /// standard output; "" when nothing was run. A symbolic link stands for the file that it points to; extended
     /// attributes, mode and owner survive. A run beforehand re-encodes IPTC that cannot hold a text as it is encoded,
-    /// one afterwards gives a position in XMP its sign. Throws like SafeWriter::write().
-    QString write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options) const;
+    /// one afterwards gives a position in XMP its sign. Throws ValueTooLong, or like SafeWriter::write().
+    QString write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options,
+        const QList<Preparation>& preparations = {}, WriteNotes* notes = nullptr) const;
+    /// See RefusedHomes::find().
+    QMap<QUrl, QMap<QString, QString>> refusedHomes(const EditPlan& plan, const QList<QUrl>& targets) const;
     /// See SaveUndo.
     JournalEntry journalEntry(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options = {}) const;
     UndoOutcome undo(const JournalEntry& entry) const;

@@ -2,8 +2,13 @@
 
 #include "core/save/SaveGuard.h"
 #include "core/tool/ExifToolRunner.h"
+#include "core/tool/TemporaryConfig.h"
+#include "core/tool/WriteFailures.h"
 
 #include <QFile>
+#include <QScopeGuard>
+
+#include <algorithm>
 
 #include <cerrno>
 #include <cstdio>
@@ -19,6 +24,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1StringView sidecarSuffix(".xmp");
+// The tool's word for a photo without XMP. Its sidecar, if there is one, is then left as it is.
+constexpr QLatin1StringView nothingToCopy("Nothing to write");
 
 // The photo's path as far as its sidecar has the same.
 QString withoutExtension(const QString& photo)
@@ -84,6 +91,52 @@ int move(const QString& from, const QString& to)
     return error == EEXIST && differsByCase && isSameFile(from, to) ? changeCase(from, to) : error;
 }
 
+// What of the assignments takes a tag away, in its XMP form.
+QList<Assignment> clearedXmp(const QList<Assignment>& assignments)
+{
+    QList<Assignment> cleared;
+    for (const auto& assignment : assignments) {
+        const auto isOfTag = [&assignment](const Assignment& other) { return other.tag == assignment.tag; };
+        const bool clears = assignment.operation == Assignment::Operation::set && assignment.value.isEmpty()
+            && std::count_if(assignments.cbegin(), assignments.cend(), isOfTag) == 1;
+        if (clears && homeOf(assignment.tag) == u"XMP")
+            cleared.append(assignment);
+        else if (clears && (assignment.tag == u"GPSLatitude" || assignment.tag == u"GPSLongitude"))
+            cleared.append({ .tag = u"XMP:"_s + assignment.tag });
+    }
+    return cleared;
+}
+
+void writeSidecar(
+    const ExifToolRunner& runner, const QUrl& photo, const WriteCommand& clearing, const QStringList& customNames)
+{
+    const QList<QUrl> sidecar = SaveGuard::filesBehindLinks({ QUrl::fromLocalFile(sidecarPath(photo.toLocalFile())) });
+    const bool isNew = !QFile::exists(sidecar.constFirst().toLocalFile());
+    SaveGuard::requireWritable(sidecar);
+    SaveGuard::clearLeftovers(sidecar);
+    const SaveGuard::AttributeKeeper attributes(sidecar);
+    const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });
+    std::optional<ToolError> failed;
+    try {
+        runner.write(
+            { .options = { u"-tagsfromfile"_s, sourceArgument(photo.toLocalFile()), u"-xmp:all"_s } }, sidecar, false);
+    } catch (const ToolError& error) {
+        failed = error;
+    }
+    if (!isNew) {
+        const TemporaryConfig config(clearing.isEmpty() ? QStringList() : customNames);
+        runner.write(clearing, sidecar, false, config.url());
+    }
+    if (failed && !failed->messages().contains(nothingToCopy))
+        throw *failed;
+}
+
+QString reasonOf(const Error& error)
+{
+    const auto* ofTool = dynamic_cast<const ToolError*>(&error);
+    return ofTool ? toolReason(*ofTool) : error.description();
+}
+
 }  // namespace
 
 QString sidecarPath(const QString& photo)
@@ -106,18 +159,20 @@ void movePhoto(const QUrl& source, const QUrl& destination)
     move(backupPath(from), backupPath(to));
 }
 
-void writeSidecars(const ExifToolRunner& runner, const QList<QUrl>& photos)
+QList<FileFailure> writeSidecars(const ExifToolRunner& runner, const QList<Assignment>& assignments,
+    const QList<QUrl>& photos, const QStringList& customNames)
 {
+    const WriteCommand clearing{ .assignments = clearedXmp(assignments) };
+    QList<FileFailure> failures;
     for (const auto& photo : photos) {
-        const QList<QUrl> sidecar{ QUrl::fromLocalFile(sidecarPath(photo.toLocalFile())) };
+        const QString path = sidecarPath(photo.toLocalFile());
         try {
-            SaveGuard::clearLeftovers(sidecar);
-            runner.write({ .options = { u"-tagsfromfile"_s, sourceArgument(photo.toLocalFile()), u"-xmp:all"_s } },
-                sidecar, false);
-        } catch (const Error&) {
-            // The photo itself is saved; a sidecar is a courtesy beside it.
+            writeSidecar(runner, photo, clearing, customNames);
+        } catch (const Error& error) {
+            failures.append({ QUrl::fromLocalFile(path), reasonOf(error) });
         }
     }
+    return failures;
 }
 
 }  // namespace Quorbel::Companions

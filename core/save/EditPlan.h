@@ -12,6 +12,9 @@ struct EditPlan {
     QList<CustomValue> customs{};
     MetadataWriter::ListMode listMode = MetadataWriter::ListMode::replace;
 
+    /// Homes (homeOf()) that the save does not write to, because the files' own cannot be written.
+    QStringList leftOut{};
+
     /// Nothing to write; the list mode plays no part.
     bool isEmpty() const { return scalars.isEmpty() && lists.isEmpty() && customs.isEmpty(); }
     bool operator==(const EditPlan&) const = default;

@@ -1,7 +1,10 @@
 #include "core/save/JournalSidecar.h"
 
+#include "core/save/SaveGuard.h"
+
 #include <QFile>
 #include <QSaveFile>
+#include <QScopeGuard>
 
 namespace Quorbel {
 
@@ -23,7 +26,12 @@ bool JournalSidecar::restore() const
         return true;
     if (!before)
         return QFile::remove(path);
-    QSaveFile file(path);
+    const QList<QUrl> files = SaveGuard::filesBehindLinks({ QUrl::fromLocalFile(path) });
+    if (SaveGuard::isReadOnly(files.constFirst()))
+        return false;
+    const SaveGuard::AttributeKeeper attributes(files);
+    const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });
+    QSaveFile file(files.constFirst().toLocalFile());
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
 }
 

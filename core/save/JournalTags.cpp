@@ -1,6 +1,7 @@
 #include "core/save/JournalTags.h"
 
 #include "core/save/EditPlan.h"
+#include "core/tool/IptcEncoding.h"
 #include "core/tool/MetadataWriter.h"
 
 #include <QUtf8StringView>
@@ -66,14 +67,43 @@ bool isSame(const QByteArray& a, const QByteArray& b)
     return a == b || (areNumbers[0] && areNumbers[1] && std::abs(difference) < rounding);
 }
 
+bool hasSeveralBlocks(const JournalFile& file)
+{
+    return std::any_of(file.tags.keyBegin(), file.tags.keyEnd(), [](const QString& key) {
+        return key.startsWith(u"IPTC"_s) && !key.startsWith(u"IPTC:"_s);  // "IPTC2:City"
+    });
+}
+
+// How a file's IPTC is put back.
+enum class Iptc {
+    byTags,
+    asABlock,  // it was re-encoded, also where no edit named a tag
+    notAtAll,  // it was left alone
+};
+
+Iptc iptcOf(const JournalEntry& entry, const JournalFile& file)
+{
+    constexpr qsizetype longest = 100 * 1024;  // of an argument, with room to its limit
+    if (!entry.writtenTags.contains(IptcEncoding::blockTag()))
+        return Iptc::byTags;
+    if (IptcEncoding::storedIn(file.tags) == IptcEncoding::Stored::severalBlocks)
+        return Iptc::notAtAll;
+    const QList<QByteArray> block = file.tags.value(IptcEncoding::blockTag());
+    const bool fits = block.isEmpty() || escaped(block.constFirst()).size() <= longest;
+    return fits && !hasSeveralBlocks(file) ? Iptc::asABlock : Iptc::byTags;
+}
+
 }  // namespace
 
 QStringList writtenTags(const EditPlan& plan)
 {
     QStringList tags;
-    for (const auto& assignment : MetadataWriter::assignments(plan))
+    const auto assignments = MetadataWriter::assignments(plan);
+    for (const auto& assignment : assignments)
         if (!tags.contains(assignment.tag))
             tags.append(assignment.tag);
+    if (IptcEncoding::needsUtf8(assignments))
+        tags.append(IptcEncoding::blockTag());
     return tags;
 }
 
@@ -89,6 +119,8 @@ QStringList readArgs(const QStringList& writtenTags)
             args << u'-' + tag;
         if (languageTags().contains(tag))
             args << u'-' + tag + u"-*"_s;
+        if (tag == IptcEncoding::blockTag())
+            args << u"-IPTC:CodedCharacterSet"_s;  // tells what became of several blocks
     }
     if (std::any_of(writtenTags.cbegin(), writtenTags.cend(),
             [](const QString& tag) { return tag.startsWith(customGroupPrefix()); }))
@@ -98,23 +130,38 @@ QStringList readArgs(const QStringList& writtenTags)
 
 WriteCommand restoreCommand(const JournalEntry& entry, const JournalFile& file)
 {
+    const Iptc iptc = iptcOf(entry, file);
+    const auto isLeftOut = [&](const QString& tag) {
+        return homeOf(tag) == u"IPTC"
+            && (iptc != Iptc::byTags || tag == IptcEncoding::blockTag() || tag == u"IPTC:CodedCharacterSet");
+    };
     WriteCommand command{ .options = { u"-ec"_s } };
     for (const auto& tag : entry.writtenTags)
-        command.assignments.append({ .tag = tag });
+        if (!isLeftOut(tag))
+            command.assignments.append({ .tag = tag });
     for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it)
-        if (isConcerned(entry, it.key()))
+        if (isConcerned(entry, it.key()) && !isLeftOut(it.key()))
             for (const auto& value : *it)
                 command.assignments.append({ it.key(), Assignment::Operation::restore, escaped(value) });
+    if (iptc == Iptc::asABlock) {
+        const QList<QByteArray> block = file.tags.value(IptcEncoding::blockTag());
+        command.assignments.append(block.isEmpty()
+                ? Assignment{ .tag = IptcEncoding::blockTag() }
+                : Assignment{ IptcEncoding::blockTag(), Assignment::Operation::restore, escaped(block.constFirst()) });
+    }
     return command;
 }
 
 bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTags& tags)
 {
+    // Of several blocks each may have its tags in another order than before.
+    const bool hasBlocks = hasSeveralBlocks(file);
     const QStringList keys = file.tags.keys() + tags.keys();
     return std::all_of(keys.cbegin(), keys.cend(), [&](const QString& key) {
         const QList<QByteArray> before = file.tags.value(key);
         const QList<QByteArray> now = tags.value(key);
-        return !isConcerned(entry, key) || std::equal(before.cbegin(), before.cend(), now.cbegin(), now.cend(), isSame);
+        return !isConcerned(entry, key) || (hasBlocks && key.endsWith(u":IPTC"_s))
+            || std::equal(before.cbegin(), before.cend(), now.cbegin(), now.cend(), isSame);
     });
 }
 

@@ -10,7 +10,8 @@ struct EditPlan;
 
 namespace Quorbel::JournalTags {
 
-/// The tags that the plan assigns ("XMP-dc:Title", "GPSLatitude"), without duplicates, in the order of the plan.
+/// The tags that the plan assigns ("XMP-dc:Title", "GPSLatitude"), without duplicates, in the order of the plan; behind
+/// them IPTC as a whole when its texts have to be re-encoded for that.
 QStringList writtenTags(const EditPlan& plan);
 /// Arguments that read those tags for TagDump, language variants and custom fields included.
 QStringList readArgs(const QStringList& writtenTags);

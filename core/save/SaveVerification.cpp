@@ -79,12 +79,29 @@ bool holdsCustom(const ImageRecord& record, const CustomValue& custom)
     return sameText(custom.value, found == record.custom.cend() ? QString() : found->value);
 }
 
+// Whether the field is written, but not to all of its homes.
+bool isInPart(const EditPlan& plan, const FieldSpec& field)
+{
+    if (plan.leftOut.isEmpty())
+        return false;
+    EditPlan alone{ .leftOut = plan.leftOut };
+    if (const auto scalar = plan.scalars.constFind(field.id); scalar != plan.scalars.cend())
+        alone.scalars.insert(field.id, *scalar);
+    if (const auto list = plan.lists.constFind(field.id); list != plan.lists.cend())
+        alone.lists.insert(field.id, *list);
+    const auto rest = MetadataWriter::assignments(alone);
+    alone.leftOut.clear();
+    return !rest.isEmpty() && rest != MetadataWriter::assignments(alone);
+}
+
 }  // namespace
 
 QStringList differences(const EditPlan& plan, const ImageRecord& record)
 {
     QStringList keys;
     for (const auto& field : FieldSchema::all()) {
+        if (isInPart(plan, field))
+            continue;
         if (const auto scalar = plan.scalars.constFind(field.id);
             scalar != plan.scalars.cend() && !sameScalar(field, *scalar, record.values.value(field.id)))
             keys.append(field.id);

@@ -8,7 +8,8 @@ namespace Quorbel::SaveVerification {
 
 /// The keys (field ids, "custom:" + name) of the plan that the record does not hold, in schema order, customs last.
 /// Values are compared in the normal form of their kind: dates to the minute, ratings as stars, positions to six
-/// decimals, lists without blank items; in append mode every item must be among the record's.
+/// decimals, lists without blank items; in append mode every item must be among the record's. A field that was written
+/// to some of its homes only may show what the home that was left out still holds: that is no difference.
 QStringList differences(const EditPlan& plan, const ImageRecord& record);
 
 /// The labels of such keys, for the user: "Coordinates", "Job ID", a custom field's name.

@@ -26,6 +26,12 @@ QString longitudeTag()
     return u"GPSLongitude"_s;
 }
 
+// Of an assignment that writeArgs made.
+bool isPosition(const QString& tag)
+{
+    return tag.startsWith(u"GPS"_s);
+}
+
 // "33.5 S" and "-33.5" alike; the letter's sign and the number's own multiply.
 std::optional<double> parseComponent(const QString& piece, QChar positive, QChar negative)
 {
@@ -79,6 +85,28 @@ QList<Assignment> writeArgs(const QString& text)
     add(latitudeTag(), written.latitude, u'N', u'S');
     add(longitudeTag(), written.longitude, u'E', u'W');
     return assignments;
+}
+
+QList<Assignment> inExif(QList<Assignment> assignments)
+{
+    for (auto& assignment : assignments)
+        if (isPosition(assignment.tag))
+            assignment.tag.prepend(u"EXIF:"_s);
+    return assignments;
+}
+
+QList<Assignment> inXmp(const QList<Assignment>& assignments)
+{
+    QList<Assignment> bound;
+    for (const auto& assignment : assignments) {
+        if (!isPosition(assignment.tag))
+            bound.append(assignment);
+        else if (assignment.tag.endsWith(u"Ref"_s) && !assignment.value.isEmpty())
+            bound.last().value += u' ' + assignment.value;  // writeArgs puts it behind its number
+        else if (!assignment.tag.endsWith(u"Ref"_s))
+            bound.append({ .tag = u"XMP-exif:"_s + assignment.tag, .value = assignment.value });
+    }
+    return bound;
 }
 
 WriteCommand signCommand(const QList<Assignment>& assignments)

@@ -21,6 +21,9 @@ std::optional<Point> parse(const QString& text);
 QString displayString(const Point& point);
 /// The four GPS assignments; four deletions for a blank text; none for a text that does not parse.
 QList<Assignment> writeArgs(const QString& text);
+/// The assignments with those of a position, if there are any, bound for one home alone.
+QList<Assignment> inExif(QList<Assignment> assignments);
+QList<Assignment> inXmp(const QList<Assignment>& assignments);
 /// What a write of these assignments has to be followed by. ExifTool takes a position that names no group for XMP too,
 /// where no reference stands beside the number: south and west need its sign. Changes only tags that exist. Empty when
 /// the assignments hold no position or one whose numbers have no sign.

@@ -30,6 +30,13 @@ QString sign(const Assignment& assignment)
 
 }  // namespace
 
+QString homeOf(const QString& tag)
+{
+    if (tag.startsWith(u"XMP"_s, Qt::CaseInsensitive))
+        return u"XMP"_s;
+    return tag.startsWith(u"IPTC"_s, Qt::CaseInsensitive) ? u"IPTC"_s : u"EXIF"_s;
+}
+
 AssignmentConflict::AssignmentConflict(const QString& tag)
     : Error(u"“%1” cannot be replaced and added to in one save. Nothing was written."_s.arg(tag))
 {

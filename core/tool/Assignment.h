@@ -24,6 +24,10 @@ struct Assignment {
     bool operator==(const Assignment&) const = default;
 };
 
+/// The standard that a tag belongs to: "EXIF" (a position without a group too), "IPTC" or "XMP". A file holds each in a
+/// home of its own; the tool may take one and refuse another.
+QString homeOf(const QString& tag);
+
 /// One run was to replace a tag and to add to it at once.
 class AssignmentConflict final : public Error {
 public:

@@ -119,6 +119,16 @@ private:
     std::function<void(qsizetype)> m_report;
 };
 
+// `mode`: what becomes of the old file.
+QStringList writeArguments(const QStringList& mode, const WriteCommand& command, const QList<QUrl>& files,
+    const std::optional<QUrl>& configPath)
+{
+    QStringList list;
+    if (configPath)  // the tool wants it before everything else
+        list << u"-config"_s << configPath->toLocalFile();
+    return list << mode << u"-m"_s << command.options << arguments(command.assignments) << paths(files);
+}
+
 ToolError undecodable(const QString& reason, const QByteArray& output)
 {
     // Four bytes a character at most; a character that this cuts in two lies behind those that are quoted.
@@ -261,18 +271,29 @@ QByteArray ExifToolRunner::readDump(const QStringList& selection, const QList<QU
     return std::move(ended.standardOutput);
 }
 
-QString ExifToolRunner::write(
-    const WriteCommand& command, const QList<QUrl>& files, bool backup, const std::optional<QUrl>& configPath) const
+QString ExifToolRunner::write(const WriteCommand& command, const QList<QUrl>& files, bool backup,
+    const std::optional<QUrl>& configPath, QString* messages) const
 {
     if (command.isEmpty() || files.isEmpty())
         return {};
-    QStringList list;
-    if (configPath)  // the tool wants it before everything else
-        list << u"-config"_s << configPath->toLocalFile();
-    if (!backup)
-        list << u"-overwrite_original"_s;
-    list << u"-m"_s << command.options << arguments(command.assignments) << paths(files);
-    return run(list);
+    const QStringList mode = backup ? QStringList() : QStringList(u"-overwrite_original"_s);
+    const Ended ended = runToEnd(writeArguments(mode, command, files, configPath), {}, {});
+    if (!ended.isGood)
+        throw failure(ended);
+    if (messages)
+        *messages += QString::fromUtf8(ended.standardError);
+    return strictUtf8(ended.standardOutput);
+}
+
+QString ExifToolRunner::rehearse(
+    const WriteCommand& command, const QList<QUrl>& files, const std::optional<QUrl>& configPath) const
+{
+    if (command.isEmpty() || files.isEmpty())
+        return {};
+    const QStringList toStandardOutput{ u"-o"_s, u"-"_s };
+    const Ended ended =
+        runToEnd(writeArguments(toStandardOutput, command, files, configPath), {}, {}, Output::thrownAway);
+    return QString::fromUtf8(ended.standardError);
 }
 
 QMap<QString, QByteArray> ExifToolRunner::readBinary(
@@ -325,7 +346,7 @@ ToolError ExifToolRunner::failure(const Ended& ended)
 }
 
 ExifToolRunner::Ended ExifToolRunner::runToEnd(
-    const QStringList& arguments, const OutputWatch& watch, const ReadControl& control) const
+    const QStringList& arguments, const OutputWatch& watch, const ReadControl& control, Output wanted) const
 {
     const std::stop_token& stop = control.stop;
     if (!exists(exiftoolURL))
@@ -336,6 +357,8 @@ ExifToolRunner::Ended ExifToolRunner::runToEnd(
         throw CancelledError();
 
     QProcess process;
+    if (wanted == Output::thrownAway)
+        process.setStandardOutputFile(QProcess::nullDevice());
     startProcess(process, perlURL, QStringList{ exiftoolURL.toLocalFile() } + arguments);
     if (control.started)
         control.started(process.processId());

@@ -52,9 +52,13 @@ struct ExifToolRunner {
     /// Throws ToolError when there is none at all, or LaunchError.
     QByteArray readDump(const QStringList& selection, const QList<QUrl>& files) const;
     /// Runs a command over the files and returns the tool's standard output; nothing is run, and "" returned, when the
-    /// command or the list is empty. `backup` lets the tool keep its "_original" copies. Throws ToolError, LaunchError,
-    /// or AssignmentConflict before anything is run.
+    /// command or the list is empty. `backup` lets the tool keep its "_original" copies; `messages` gains what it
+    /// printed to standard error. Throws ToolError, LaunchError, or AssignmentConflict before anything is run.
     QString write(const WriteCommand& command, const QList<QUrl>& files, bool backup,
+        const std::optional<QUrl>& configPath = std::nullopt, QString* messages = nullptr) const;
+    /// What the tool would say of such a write, on standard error: it does all of it, and throws the result away. ""
+    /// like write(). Throws like write(), but not for the tool's exit status.
+    QString rehearse(const WriteCommand& command, const QList<QUrl>& files,
         const std::optional<QUrl>& configPath = std::nullopt) const;
     /// Those of the tags that one file holds, by their bare names ("PreviewImage"): the bytes of binary ones, the
     /// stored number or text of others. Throws like read(); CancelledError also when they come to some 150 MiB.
@@ -68,6 +72,8 @@ struct ExifToolRunner {
 private:
     /// Sees everything printed so far, each time more of it has arrived.
     using OutputWatch = std::function<void(const QByteArray& output)>;
+
+    enum class Output { kept, thrownAway };
 
     /// What a run that has ended printed, and how it ended.
     struct Ended {
@@ -83,7 +89,8 @@ private:
     QByteArray runForBytes(
         const QStringList& arguments, const OutputWatch& watch = {}, const ReadControl& control = {}) const;
     static ToolError failure(const Ended& ended);
-    Ended runToEnd(const QStringList& arguments, const OutputWatch& watch, const ReadControl& control) const;
+    Ended runToEnd(const QStringList& arguments, const OutputWatch& watch, const ReadControl& control,
+        Output wanted = Output::kept) const;
 };
 
 }  // namespace Quorbel

@@ -14,6 +14,22 @@ namespace Quorbel::MetadataWriter {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+QList<Assignment> withoutHomes(const QList<Assignment>& all, const QStringList& homes)
+{
+    // A position names no home: where it may not go to both, it goes to the other one.
+    QList<Assignment> kept = all;
+    if (homes.contains(u"EXIF"_s))
+        kept = Coordinates::inXmp(kept);
+    else if (homes.contains(u"XMP"_s))
+        kept = Coordinates::inExif(kept);
+    kept.removeIf([&homes](const Assignment& assignment) { return homes.contains(homeOf(assignment.tag)); });
+    return kept;
+}
+
+}  // namespace
+
 QString customNamespacePrefix()
 {
     return u"XMP-Quorbel"_s;
@@ -81,7 +97,7 @@ QList<Assignment> assignments(const EditPlan& plan)
             args += listArgs(*field, it.value(), plan.listMode);
     for (const auto& custom : plan.customs)
         args += customArgs(custom.name, custom.value);
-    return args;
+    return plan.leftOut.isEmpty() ? args : withoutHomes(args, plan.leftOut);
 }
 
 QString customConfig(const QStringList& names)

@@ -31,7 +31,8 @@ QList<Assignment> scalarArgs(const FieldSpec& field, const QString& value);
 QList<Assignment> listArgs(const FieldSpec& field, const QStringList& values, ListMode mode);
 /// One assignment, or none when the name has no storable character.
 QList<Assignment> customArgs(const QString& name, const QString& value);
-/// All assignments of one save: scalars, lists, custom values. Field ids that the schema does not know are skipped.
+/// All assignments of one save: scalars, lists, custom values. Field ids that the schema does not know are skipped, and
+/// so are the homes that the plan leaves out.
 QList<Assignment> assignments(const EditPlan& plan);
 /// The ExifTool user-definition file that declares the custom group with these names.
 QString customConfig(const QStringList& names);

@@ -23,4 +23,11 @@ QList<FileFailure> writeFailures(const QString& standardError, const QList<QUrl>
 /// targets count as failed, with the whole error as the reason.
 QList<FileFailure> writeFailures(const ToolError& error, const QList<QUrl>& targets);
 
+/// Why the tool did not take some assignments, in its own words: its warnings that name one of the tags (in whatever
+/// group; no tags: any), "Not a floating point number for XMP-xmp:Rating". Tags with one cause share a line.
+QStringList refusals(const QString& standardError, const QStringList& tags = {});
+
+/// What the tool said of its failure, without paths and repetitions: its errors, else its refusals, else all of it.
+QString toolReason(const ToolError& error);
+
 }  // namespace Quorbel

@@ -178,7 +178,8 @@ private slots:
         FakeTool tool;
         MetadataService{ tool.runner() }.write(plan, { QUrl::fromLocalFile(u"/p/a.jpg"_s) }, {});
         auto calls = tool.calls();
-        QCOMPARE(calls.size(), 3);
+        QCOMPARE(calls.size(), 4);
+        QCOMPARE(calls.takeFirst().last(2), (QStringList{ "-IPTC:all", "/p/a.jpg" }));
         QCOMPARE(calls[0].last(2), (QStringList{ "-IPTC:CodedCharacterSet=UTF8", "/p/a.jpg" }));
         QCOMPARE(calls[1].sliced(2),
             (QStringList{ "-overwrite_original", "-m", u"-IPTC:Category=東京"_s, "-GPSLatitude=33.500000",

@@ -112,9 +112,10 @@ private slots:
         const EditPlan plan{ .scalars = { { "category", u"東京"_s } } };
         MetadataService{ tool.runner() }.write(plan, files, { .backupOriginals = false });
         QCOMPARE(tool.calls(),
-            (QList<QStringList>{ { "-overwrite_original", "-m", "-tagsfromfile", "@", "-iptc:all", "--iptc:TimeSent",
-                                     "--iptc:ReleaseTime", "--iptc:ExpirationTime", "--iptc:TimeCreated",
-                                     "--iptc:DigitalCreationTime", "-IPTC:CodedCharacterSet=UTF8", "/p/a.jpg" },
+            (QList<QStringList>{ { "-php", "-G1", "-a", "-n", "-b", "-charset", "iptc=UTF8", "-IPTC:all", "/p/a.jpg" },
+                { "-overwrite_original", "-m", "-tagsfromfile", "@", "-iptc:all", "--iptc:TimeSent",
+                    "--iptc:ReleaseTime", "--iptc:ExpirationTime", "--iptc:TimeCreated", "--iptc:DigitalCreationTime",
+                    "-IPTC:CodedCharacterSet=UTF8", "/p/a.jpg" },
                 { "-overwrite_original", "-m", u"-IPTC:Category=東京"_s, "/p/a.jpg" } }));
 
         FakeTool failing;

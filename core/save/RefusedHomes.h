@@ -1,0 +1,20 @@
+// Which homes of a photo ("EXIF", "IPTC", "XMP") keep it from being saved: the tool takes all of a save or nothing.
+// Thread: any; blocks on ExifTool. Changes no file.
+#pragma once
+
+#include <QMap>
+#include <QUrl>
+
+namespace Quorbel {
+struct EditPlan;
+struct ExifToolRunner;
+}  // namespace Quorbel
+
+namespace Quorbel::RefusedHomes {
+
+/// Of these targets, whose save failed: those that take a part of the plan, each with the homes that they refuse and
+/// the tool's reason. One run a home, over all targets; none when the plan knows one home only. Throws the runner's
+/// errors.
+QMap<QUrl, QMap<QString, QString>> find(const ExifToolRunner& runner, const EditPlan& plan, const QList<QUrl>& targets);
+
+}  // namespace Quorbel::RefusedHomes
