@@ -121,8 +121,9 @@ void RatingEditor::mousePressEvent(QMouseEvent* event)
 void RatingEditor::mouseReleaseEvent(QMouseEvent* event)
 {
     const int star = starAt(event->position());
+    // What the photo holds, not the stars shown: beyond five all of them shine, and the fifth is no "clear" yet.
     if (m_pressed > 0 && star == m_pressed)
-        choose(star == rating() ? 0 : star);
+        choose(star == m_value.trimmed().toInt() ? 0 : star);
     m_pressed = 0;
     update();
 }
