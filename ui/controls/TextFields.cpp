@@ -99,9 +99,8 @@ void QBTextField::setBoundText(const QString& text)
 
 void QBTextField::setPlaceholder(const QString& text, bool italic)
 {
-    m_placeholder = text;
     m_italicPlaceholder = italic;
-    // For screen readers; what is seen is drawn by paintEvent().
+    // Told to screen readers by Qt; what is seen is drawn by paintEvent().
     setPlaceholderText(text);
     update();
 }
@@ -171,13 +170,13 @@ void QBTextField::paintEvent(QPaintEvent* event)
         const QRectF place(pxF(9), 0, pxF(15), height());
         Icon::paint(painter, place, m_icon, pxF(15), hasFocus() ? theme.text : theme.muted);
     }
-    if (text().isEmpty() && !m_placeholder.isEmpty()) {
+    if (text().isEmpty() && !placeholderText().isEmpty()) {
         QFont font = sansFont(13);
         font.setItalic(m_italicPlaceholder);
         painter.setFont(font);
         painter.setPen(theme.muted);
         const QRect box = textRect();
-        const QString shown = QFontMetrics(font).elidedText(m_placeholder, Qt::ElideRight, box.width());
+        const QString shown = QFontMetrics(font).elidedText(placeholderText(), Qt::ElideRight, box.width());
         painter.drawText(
             box, int(Qt::AlignVCenter | Qt::TextSingleLine) | int(alignment() & Qt::AlignHorizontal_Mask), shown);
     }
@@ -248,7 +247,6 @@ void QBTextArea::startText(const QString& text)
 
 void QBTextArea::setPlaceholder(const QString& text, bool italic)
 {
-    m_placeholder = text;
     m_italicPlaceholder = italic;
     setPlaceholderText(text);
     viewport()->update();
@@ -314,14 +312,14 @@ bool QBTextArea::event(QEvent* event)
 void QBTextArea::paintEvent(QPaintEvent* event)
 {
     QPlainTextEdit::paintEvent(event);
-    if (m_placeholder.isEmpty() || !document()->isEmpty())
+    if (placeholderText().isEmpty() || !document()->isEmpty())
         return;
     QPainter painter(viewport());
     QFont font = sansFont(13);
     font.setItalic(m_italicPlaceholder);
     painter.setFont(font);
     painter.setPen(Theme::of(this).muted);
-    painter.drawText(viewport()->rect(), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, m_placeholder);
+    painter.drawText(viewport()->rect(), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, placeholderText());
 }
 
 void QBTextArea::wheelEvent(QWheelEvent* event)

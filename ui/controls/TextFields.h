@@ -44,7 +44,6 @@ private:
 
     HoverFade* m_fade;
     QObject* m_ring = nullptr;
-    QString m_placeholder;
     QString m_icon;
     bool m_edited = false;
     bool m_mono = false;
@@ -83,7 +82,6 @@ private:
     void restyle();
     void grow();
 
-    QString m_placeholder;
     HoverFade* m_fade;
     bool m_edited = false;
     bool m_italicPlaceholder = false;

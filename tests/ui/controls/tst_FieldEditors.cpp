@@ -169,6 +169,10 @@ private slots:
         field->setPlaceholder(u"████"_s);
         QTest::keyClicks(field, u"i"_s);
         QVERIFY(Test::pixelsLike(field->grab().toImage(), Theme::light().muted) < 20);
+        // Set by Qt's own name it is the same placeholder.
+        auto* plain = stage.add(new QBTextField);
+        plain->setPlaceholderText(u"████"_s);
+        QVERIFY(Test::pixelsLike(plain->grab().toImage(), Theme::light().muted) > 50);
     }
 
     void theAreaGrowsWithItsTextAndTabLeavesIt()
@@ -341,6 +345,8 @@ private slots:
         click("third of three clears", u"3"_s, 3, u"0"_s);
         click("first of none", QString(), 1, u"1"_s);
         click("fifth of garbage", u"abc"_s, 5, u"5"_s);
+        click("fifth of seven", u"7"_s, 5, u"5"_s);
+        click("fifth of five clears", u"5"_s, 5, u"0"_s);
         press("digit", u"1"_s, Qt::Key_4, u"4"_s);
         press("zero", u"5"_s, Qt::Key_0, u"0"_s);
         press("the digit that is shown stays", u"3"_s, Qt::Key_3, u"3"_s);
