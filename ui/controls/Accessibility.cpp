@@ -111,7 +111,7 @@ QAccessibleInterface* describeRating(RatingEditor* rating)
 QAccessibleInterface* describeHandle(ResizeHandle* handle)
 {
     const auto get = [handle] { return handle->columnWidth(); };
-    const auto set = [handle](double value) { handle->setColumnWidth(value); };
+    const auto set = [handle](double value) { handle->choose(value); };
     return new NumberDescription(
         handle, QAccessible::Splitter, { get, set, handle->minWidth(), handle->maxWidth(), 10 });
 }

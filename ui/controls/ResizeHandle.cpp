@@ -46,15 +46,25 @@ void ResizeHandle::change(double width)
     emit widthChanged(m_width);
 }
 
+void ResizeHandle::choose(double width)
+{
+    change(width);
+    emit widthSettled(m_width);
+}
+
+int ResizeHandle::lineWidth() const
+{
+    return m_hovered || m_dragStart || hasFocus() ? 3 : 1;
+}
+
 void ResizeHandle::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
     painter.fillRect(rect(), theme.bg);
-    if (m_hovered || m_dragStart || hasFocus())
-        painter.fillRect(QRect(width() - 3, 0, 3, height()), hasFocus() ? theme.derived.focusStrong : theme.focus);
-    else
-        painter.fillRect(QRect(width() - 1, 0, 1, height()), theme.line);
+    const QColor active = hasFocus() ? theme.derived.focusStrong : theme.focus;
+    const QRect line = rect().adjusted(width() - lineWidth(), 0, 0, 0);
+    painter.fillRect(line, lineWidth() > 1 ? active : theme.line);
 }
 
 void ResizeHandle::mousePressEvent(QMouseEvent* event)
@@ -83,8 +93,7 @@ void ResizeHandle::mouseReleaseEvent(QMouseEvent*)
 
 void ResizeHandle::mouseDoubleClickEvent(QMouseEvent*)
 {
-    change(m_defaultWidth);
-    emit widthSettled(m_width);
+    choose(m_defaultWidth);
 }
 
 void ResizeHandle::keyPressEvent(QKeyEvent* event)

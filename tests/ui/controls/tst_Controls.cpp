@@ -173,6 +173,28 @@ private slots:
         QCOMPARE(told, width);
     }
 
+    void assistiveToolsMoveTheHandle_data()
+    {
+        QTest::addColumn<double>("asked");
+        QTest::addColumn<double>("width");
+        QTest::newRow("within") << 320.0 << 320.0;
+        QTest::newRow("beyond") << 900.0 << 420.0;
+    }
+    void assistiveToolsMoveTheHandle()
+    {
+        QFETCH(double, asked);
+        QFETCH(double, width);
+        Test::Stage stage;
+        auto* handle = stage.add(new ResizeHandle(288, 200, 420, 288));
+        stage.show();
+        QSignalSpy changed(handle, &ResizeHandle::widthChanged);
+        QSignalSpy settled(handle, &ResizeHandle::widthSettled);
+        QAccessible::queryAccessibleInterface(handle)->valueInterface()->setCurrentValue(asked);
+        QCOMPARE(handle->columnWidth(), width);
+        QCOMPARE(changed.value(0).value(0).toDouble(), width);
+        QCOMPARE(settled.value(0).value(0).toDouble(), width);
+    }
+
     void ringsShowForTheKeyboardOnly()
     {
         Test::Stage stage;
