@@ -29,9 +29,9 @@ void LocationSearch::update(const QString& query)
 {
     cancel();
     m_query = query;
-    if (query.trimmed().isEmpty())
-        publish({}, {});
-    else
+    // What was found for another text must not be picked while the new one waits for its answer.
+    publish({}, {});
+    if (!query.trimmed().isEmpty())
         m_debounce.start();
 }
 

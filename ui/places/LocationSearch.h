@@ -28,7 +28,7 @@ public:
     const QList<PlaceSuggestion>& suggestions() const { return m_suggestions; }
     /// One line from the provider about the last query ("No place data installed"), empty when it has nothing to say.
     const QString& notice() const { return m_notice; }
-    /// Asks the provider 200 ms after the last call; a blank query empties the suggestions at once.
+    /// Empties the suggestions at once, and asks the provider 200 ms after the last call; not for a blank query.
     void update(const QString& query);
     /// Drops the pending query and the answer under way; the suggestions stay.
     void cancel();

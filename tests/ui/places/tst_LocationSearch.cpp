@@ -188,6 +188,18 @@ private slots:
         QCOMPARE(search.places.queries.last(), u"Zürichz"_s);
     }
 
+    void typingTakesTheSuggestionsOfTheOldTextAway()
+    {
+        Search search;
+        search.suggest(zurichs);
+        QTest::keyClick(search.field, Qt::Key_Down);
+        search.type(u"u"_s);
+        QVERIFY(!search.list()->isVisible());
+        QTest::keyClick(search.field, Qt::Key_Down);
+        QTest::keyClick(search.field, Qt::Key_Return);
+        QCOMPARE(search.places.resolved, QStringList());
+    }
+
     void whatCannotBeLookedUpSaysSo()
     {
         Search search;
