@@ -18,6 +18,7 @@ enum class Change {
     records,
     visibleRows,
     folder,
+    opened,
     search,
     sortOrder,
     selection,

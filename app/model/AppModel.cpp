@@ -37,6 +37,7 @@ void AppModel::connectParts()
     connect(&m_library, &Library::opened, this, [this] {
         m_editing.forgetReturned();
         commitSelection(Selection::firstVisible(photos()));
+        m_announcer.announce(Change::opened);
         // A question about edits that are gone must not stay on screen.
         if (m_saveOpen)
             cancelSaveDialog();
@@ -72,6 +73,7 @@ void AppModel::tell(Change change)
         { Change::records, &AppModel::recordsChanged },
         { Change::visibleRows, &AppModel::visibleRowsChanged },
         { Change::folder, &AppModel::folderChanged },
+        { Change::opened, &AppModel::photosOpened },
         { Change::search, &AppModel::searchChanged },
         { Change::sortOrder, &AppModel::sortOrderChanged },
         { Change::selection, &AppModel::selectionChanged },

@@ -181,6 +181,8 @@ signals:
     void visibleRowsChanged();
     /// The name or the address of what is open.
     void folderChanged();
+    /// Photos were opened: other ones, or the same ones read again.
+    void photosOpened();
     void searchChanged();
     void sortOrderChanged();
     void selectionChanged();

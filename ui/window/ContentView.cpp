@@ -38,7 +38,8 @@ QString previewEnabledKey()
     return u"previewEnabled"_s;
 }
 
-// Pixels beyond the threshold to which a window is grown for the preview, so that the column really appears.
+// Pixels beyond the threshold to which a window is grown for the preview, so that the column has room to show
+// something.
 constexpr int growthBeyondThreshold = 80;
 // Milliseconds for which expected photos keep the launch view away. It shows their progress, which begins then.
 constexpr int launchPatience = 300;
@@ -62,7 +63,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Resize)
-            resize(parentWidget()->width() - 1, parentWidget()->height());  // the handle's own line stays
+            resize(parentWidget()->size());
         return QWidget::eventFilter(watched, event);
     }
 
@@ -70,10 +71,11 @@ protected:
     {
         const Theme& theme = Theme::of(this);
         QPainter painter(this);
-        painter.fillRect(0, m_sidebar->listTop() - 1, width(), 1, theme.hair);
+        const int empty = width() - static_cast<ResizeHandle*>(parentWidget())->lineWidth();
+        painter.fillRect(0, m_sidebar->listTop() - 1, empty, 1, theme.hair);
         if (const QRect foot = m_sidebar->footRect(); !foot.isEmpty()) {
-            painter.fillRect(0, foot.top(), width(), foot.height(), theme.bg);
-            painter.fillRect(0, foot.top(), width(), 1, theme.line);
+            painter.fillRect(0, foot.top(), empty, foot.height(), theme.bg);
+            painter.fillRect(0, foot.top(), empty, 1, theme.line);
         }
     }
 
@@ -147,6 +149,7 @@ void ContentView::expectPhotos()
 void ContentView::connectModel()
 {
     connect(&m_model, &AppModel::recordsChanged, this, &ContentView::showRecords);
+    connect(&m_model, &AppModel::photosOpened, this, &ContentView::giveListTheKeyboard);
     for (const auto change : { &AppModel::folderChanged, &AppModel::recordsChanged, &AppModel::selectionChanged })
         connect(&m_model, change, this, &ContentView::showTitle);
     connect(&m_model.preferences(), &Preferences::changed, this, &ContentView::applyTheme);
@@ -159,6 +162,8 @@ void ContentView::connectSheets()
     connect(m_sheets, &SheetHost::openChanged, this, [this](bool open) {
         m_drop->setEnabled(!open);
         m_bar->setEnabledMenus(!open);
+        if (!open && m_listWaitsForKeyboard)
+            giveListTheKeyboard();
     });
     const auto add = [this] { followFlag(m_model.addOpen(), m_addSheet, m_factories.addField); };
     const auto save = [this] { followFlag(m_model.saveOpen(), m_saveSheet, m_factories.save); };
@@ -199,8 +204,8 @@ void ContentView::togglePreview()
     const bool wanted = !(m_columns->previewWanted() && m_window->width() >= Columns::previewThreshold);
     m_model.preferences().store().setValue(previewEnabledKey(), wanted);
     m_columns->setPreviewWanted(wanted);
-    if (wanted && m_window->width() < Columns::previewThreshold)
-        growWindow(Columns::previewThreshold + growthBeyondThreshold);
+    if (wanted)
+        growWindow(Columns::previewThreshold + growthBeyondThreshold);  // a window that is wide enough stays
 }
 
 void ContentView::growWindow(int target)
@@ -238,13 +243,21 @@ void ContentView::showRecords()
         buildColumns();
     m_launch->setVisible(!any && !m_expectsPhotos);
     if (m_columns) {
-        const bool appears = any && m_columns->isHidden();
+        const bool leaves = !any && !m_columns->isHidden();
         m_columns->setVisible(any);
-        if (appears)  // the arrow keys go through the photos at once
-            m_sidebar->list()->setFocus(Qt::OtherFocusReason);
+        if (leaves && !m_sheets->current())  // else Qt gives it to the next control, which then looks chosen
+            setFocus(Qt::OtherFocusReason);
         showPreviewState();
     }
     placeBanner();
+}
+
+// The arrow keys go through the photos at once, and nobody types into a field that shows another photo now.
+void ContentView::giveListTheKeyboard()
+{
+    m_listWaitsForKeyboard = m_sheets->current() != nullptr;
+    if (!m_listWaitsForKeyboard && m_columns && !m_columns->isHidden())
+        m_sidebar->list()->setFocus(Qt::OtherFocusReason);
 }
 
 void ContentView::showTitle()

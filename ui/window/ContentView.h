@@ -72,6 +72,7 @@ private:
     void connectSheets();
     void followFlag(bool open, SheetBody*& sheet, const std::function<SheetBody*()>& make);
     void showRecords();
+    void giveListTheKeyboard();
     void showPreviewState();
     void showTitle();
     void applyTheme();
@@ -92,6 +93,7 @@ private:
     SheetHost* m_sheets;
     FileDrop* m_drop;
     bool m_expectsPhotos = false;
+    bool m_listWaitsForKeyboard = false;  ///< until the sheet over it is closed
     SheetBody* m_addSheet = nullptr;
     SheetBody* m_saveSheet = nullptr;
     SheetBody* m_renameSheet = nullptr;

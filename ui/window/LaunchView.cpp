@@ -49,6 +49,7 @@ public:
     explicit DropBox(QWidget* parent)
         : QWidget(parent)
     {
+        setObjectName(u"dropBox"_s);
         setAccessibleName(text());
         onRestyle(this, [this] { setFixedSize(px(boxSize.width()), px(boxSize.height())); });
     }
@@ -96,10 +97,11 @@ private:
 LaunchView::LaunchView(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_box(new DropBox(this))
+    , m_folder(new QBButton(u"Open Folder…"_s, QBButtonKind::primary))
+    , m_progress(new ProgressFoot(model, this))
 {
-    auto* folder = new QBButton(u"Open Folder…"_s, QBButtonKind::primary);
     auto* image = new QBButton(u"Open Image…"_s, QBButtonKind::secondary);
-    connect(folder, &QAbstractButton::clicked, &model, &AppModel::openPanel);
+    connect(m_folder, &QAbstractButton::clicked, &model, &AppModel::openPanel);
     connect(image, &QAbstractButton::clicked, &model, &AppModel::openPanel);
 
     auto* column = new QVBoxLayout(this);
@@ -108,24 +110,33 @@ LaunchView::LaunchView(AppModel& model, QWidget* parent)
     column->addWidget(m_box, 0, Qt::AlignHCenter);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
-    buttons->addWidget(folder);
+    buttons->addWidget(m_folder);
     buttons->addWidget(image);
     buttons->addStretch();
     column->addLayout(buttons);
-    auto* progress = new ProgressFoot(model);
-    progress->setLined(false);
-    auto* room = new QWidget;  // keeps the block's place, so that nothing moves when it appears
-    progress->setParent(room);
-    column->addWidget(room, 0, Qt::AlignHCenter);
     column->addStretch();
+    column->setContentsMargins(0, 0, 0, 0);
+    m_progress->setLined(false);
     onRestyle(this, [=] {
-        column->setContentsMargins(0, 0, 0, px(8));
         buttons->setContentsMargins(0, px(buttonsGap), 0, 0);
         buttons->setSpacing(px(8));
-        const QSize block(px(boxSize.width()), progress->sizeHint().height());
-        progress->setGeometry(0, px(buttonsGap), block.width(), block.height());
-        room->setFixedSize(block.width(), progress->geometry().bottom() + 1);
     });
+}
+
+// Below what is centred, and no part of it: nothing moves when it appears.
+void LaunchView::placeProgress()
+{
+    const int width = px(boxSize.width());
+    const int top = m_folder->geometry().bottom() + 1 + px(buttonsGap);
+    m_progress->setGeometry((this->width() - width) / 2, top, width, m_progress->sizeHint().height());
+}
+
+bool LaunchView::event(QEvent* event)
+{
+    const bool done = QWidget::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+        placeProgress();
+    return done;
 }
 
 void LaunchView::setTargeted(bool targeted)

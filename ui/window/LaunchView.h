@@ -8,6 +8,8 @@ namespace Quorbel {
 
 class AppModel;
 class DropBox;
+class ProgressFoot;
+class QBButton;
 
 class LaunchView final : public QWidget {
     Q_OBJECT
@@ -21,9 +23,14 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
+    void placeProgress();
+
     DropBox* m_box;
+    QBButton* m_folder;
+    ProgressFoot* m_progress;
 };
 
 }  // namespace Quorbel

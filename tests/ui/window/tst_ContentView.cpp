@@ -72,6 +72,9 @@ class tst_ContentView : public QObject {
 private slots:
     void init() { failOnWarnings(); }
     void launchViewUntilPhotosAreOpen();
+    void theKeyboardIsNotLost_data();
+    void theKeyboardIsNotLost();
+    void theDragLineIsWhole();
     void columnWidths_data();
     void columnWidths();
     void previewNeedsRoomAndToBeWanted();
@@ -101,6 +104,11 @@ void tst_ContentView::launchViewUntilPhotosAreOpen()
     QTest::mouseClick(fixture.button(u"Open Folder…"_s), Qt::LeftButton);
     QTest::mouseClick(fixture.button(u"Open Image…"_s), Qt::LeftButton);
     QCOMPARE(fixture.panels, 2);
+    const auto* launch = fixture.window->findChild<LaunchView*>();
+    const auto inLaunch = [launch](QWidget* widget) { return QRect(widget->mapTo(launch, QPoint()), widget->size()); };
+    QWidget* box = launch->findChild<QWidget*>(u"dropBox"_s);
+    const QRect block = inLaunch(box).united(inLaunch(fixture.button(u"Open Folder…"_s)));
+    QVERIFY(std::abs(block.center().y() - launch->rect().center().y()) <= 1);
 
     fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
     QVERIFY(!fixture.window->findChild<LaunchView*>()->isVisible());
@@ -113,6 +121,67 @@ void tst_ContentView::launchViewUntilPhotosAreOpen()
 
     fixture.model->closeFolder();
     QVERIFY(fixture.window->findChild<LaunchView*>()->isVisible());
+}
+
+void tst_ContentView::theKeyboardIsNotLost_data()
+{
+    QTest::addColumn<bool>("fieldHasIt");
+    QTest::newRow("nothing had it") << false;
+    QTest::newRow("a field had it") << true;
+}
+
+void tst_ContentView::theKeyboardIsNotLost()
+{
+    QFETCH(bool, fieldHasIt);
+    WindowFixture fixture;
+    // As the program does before photos are left.
+    fixture.model.services.endEditing = [&fixture] {
+        if (QWidget* focus = fixture.window->focusWidget())
+            focus->clearFocus();
+    };
+    fixture.model.relaunch();
+    fixture.build();
+    fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
+    fixture.show();
+    auto* list = fixture.window->findChild<SidebarList*>();
+    auto* field = fixture.inspector->findChild<QLineEdit*>(u"field"_s);
+    const PhotoFolder other;
+    other.add(u"c.jpg"_s);
+    other.add(u"d.jpg"_s);
+
+    // Other photos: their list gets it.
+    fieldHasIt ? field->setFocus() : field->clearFocus();
+    fixture.model->requestLoad({ QUrl::fromLocalFile(other.path()) });
+    QTRY_COMPARE(fixture.model.primary(), u"c.jpg"_s);
+    QCOMPARE(QApplication::focusWidget(), list);
+    QTest::keyClick(list, Qt::Key_Down);
+    QCOMPARE(fixture.model.primary(), u"d.jpg"_s);
+
+    // None: no button looks chosen, and Tab begins with the first.
+    fieldHasIt ? field->setFocus() : field->clearFocus();
+    fixture.model->requestClose();
+    QTRY_VERIFY(fixture.model->records().isEmpty());
+    QCOMPARE(QApplication::focusWidget(), fixture.content);
+    QTest::keyClick(fixture.content, Qt::Key_Tab);
+    QVERIFY(qobject_cast<QAbstractButton*>(QApplication::focusWidget()));
+
+    // And the list again with the next ones.
+    fixture.model->requestLoad({ QUrl::fromLocalFile(other.path()) });
+    QTRY_COMPARE(QApplication::focusWidget(), list);
+}
+
+void tst_ContentView::theDragLineIsWhole()
+{
+    WindowFixture fixture;
+    fixture.open({ u"a.jpg"_s });
+    fixture.show();
+    auto* handle = fixture.window->findChild<ResizeHandle*>();
+    QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(3, 10));
+    const QImage picture = handle->grab().toImage();
+    QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(3, 10));
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = picture.width() - 3; x < picture.width(); ++x)
+            QCOMPARE(picture.pixelColor(x, y), picture.pixelColor(picture.width() - 1, 0));
 }
 
 void tst_ContentView::columnWidths_data()
@@ -155,11 +224,15 @@ void tst_ContentView::previewNeedsRoomAndToBeWanted()
     fixture.build();
     fixture.show();
     QVERIFY(!fixture.content->previewShown());
-    // In a narrow window the choice alone shows nothing: the window grows.
-    fixture.window->resize(1000, 700);
-    QTest::mouseClick(fixture.button(u"Show preview"_s), Qt::LeftButton);
-    QTRY_COMPARE(fixture.window->width(), 1180);
-    QVERIFY(fixture.content->previewShown());
+    // In a narrow window the choice alone shows nothing, or little: the window grows.
+    for (const int narrow : { 1000, 1150 }) {
+        fixture.window->resize(narrow, 700);
+        if (fixture.content->previewShown())
+            QTest::mouseClick(fixture.button(u"Hide preview"_s), Qt::LeftButton);
+        QTest::mouseClick(fixture.button(u"Show preview"_s), Qt::LeftButton);
+        QTRY_COMPARE(fixture.window->width(), 1180);
+        QVERIFY(fixture.content->previewShown());
+    }
     // Made narrow by hand, it offers the preview again; pressing it does not switch it off.
     fixture.window->resize(1000, 700);
     QVERIFY(!fixture.content->previewShown());
