@@ -8,6 +8,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -111,33 +113,27 @@ void FieldRow::showRemove()
     m_remove->setAccessibleDescription(m_state.label);
 }
 
-WrappedLine* FieldRow::makeLine(bool mono)
-{
-    auto* line =
-        mono ? new WrappedLine(TextRole::muted, 10.5, 15, this) : new WrappedLine(TextRole::amberText, 11, 15, this);
-    line->setMono(mono);
-    return line;
-}
-
 void FieldRow::showLines()
 {
-    // Behind the editor: the tags, then the help.
-    if (!m_state.namespaceLine.isEmpty() && !m_namespace) {
-        m_namespace = makeLine(true);
-        m_column->insertWidget(1, m_namespace);
+    showLine(Line::note, m_state.noteLine);
+    showLine(Line::tags, m_state.namespaceLine);
+    showLine(Line::help, m_state.helpLine);
+}
+
+void FieldRow::showLine(Line which, const QString& text)
+{
+    WrappedLine*& line = m_lines.at(size_t(which));
+    if (!line && text.isEmpty())
+        return;
+    if (!line) {
+        const bool tags = which == Line::tags;
+        line = new WrappedLine(tags ? TextRole::muted : TextRole::amberText, tags ? 10.5 : 11, 15, this);
+        line->setMono(tags);
+        const auto above = std::count_if(m_lines.cbegin(), m_lines.cbegin() + int(which), [](auto* l) { return l; });
+        m_column->insertWidget(1 + int(above), line);  // behind the editor
     }
-    if (!m_state.helpLine.isEmpty() && !m_help) {
-        m_help = makeLine(false);
-        m_column->insertWidget(m_namespace ? 2 : 1, m_help);
-    }
-    if (m_namespace) {
-        m_namespace->setText(m_state.namespaceLine);
-        m_namespace->setVisible(!m_state.namespaceLine.isEmpty());
-    }
-    if (m_help) {
-        m_help->setText(m_state.helpLine);
-        m_help->setVisible(!m_state.helpLine.isEmpty());
-    }
+    line->setText(text);
+    line->setVisible(!text.isEmpty());
 }
 
 // For screen readers: what is seen around the editor.
@@ -146,10 +142,9 @@ void FieldRow::describe()
     QStringList told;
     if (m_state.edited && !m_state.batch)
         told.append(u"edited"_s);
-    if (!m_state.helpLine.isEmpty())
-        told.append(m_state.helpLine);
-    if (!m_state.namespaceLine.isEmpty())
-        told.append(m_state.namespaceLine);
+    for (const QString& line : { m_state.noteLine, m_state.helpLine, m_state.namespaceLine })
+        if (!line.isEmpty())
+            told.append(line);
     const QString description = told.join(u", "_s);
     if (m_editor.input->accessibleName() != m_state.label)
         m_editor.input->setAccessibleName(m_state.label);

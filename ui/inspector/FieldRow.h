@@ -7,6 +7,8 @@
 
 #include <QWidget>
 
+#include <array>
+
 class QHBoxLayout;
 class QVBoxLayout;
 
@@ -50,7 +52,8 @@ private:
     void showRemove();
     void showLines();
     void describe();
-    WrappedLine* makeLine(bool mono);
+    enum class Line { note, tags, help };
+    void showLine(Line which, const QString& text);
 
     bool m_multiline;
     RowEditor m_editor;
@@ -60,8 +63,7 @@ private:
     TwoLineLabel* m_label;
     QBCheckbox* m_tick = nullptr;  ///< until the row was in a batch
     QBIconButton* m_remove = nullptr;  ///< until the row was removable
-    WrappedLine* m_namespace = nullptr;
-    WrappedLine* m_help = nullptr;
+    std::array<WrappedLine*, 3> m_lines{};  ///< under the editor, in the order of Line; each until it was needed
 };
 
 }  // namespace Quorbel

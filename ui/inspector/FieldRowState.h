@@ -17,6 +17,7 @@ struct FieldRowState {
     bool included = false;  ///< the tick
     bool edited = false;
     bool removable = false;
+    QString noteLine{};  ///< what is wrong with the text; none when empty
     QString namespaceLine{};  ///< none when empty
     QString helpLine{};  ///< none when empty
     bool operator==(const FieldRowState&) const = default;

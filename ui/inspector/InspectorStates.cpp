@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "core/schema/CustomFields.h"
+#include "core/schema/FieldCheck.h"
 #include "core/schema/FieldID.h"
 #include "core/tool/MetadataWriter.h"
 
@@ -89,6 +90,8 @@ FieldRowState fieldRow(const AppModel& model, const FieldSpec& field)
         addListState(model, field, state);
     else
         addTextState(model, field, state);
+    if (state.edited)
+        state.noteLine = FieldCheck::note(field, state.text);
     return state;
 }
 

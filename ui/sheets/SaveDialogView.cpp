@@ -1,6 +1,7 @@
 #include "ui/sheets/SaveDialogView.h"
 
 #include "app/model/AppModel.h"
+#include "core/schema/FieldCheck.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/ScrollArea.h"
@@ -29,10 +30,11 @@ constexpr qreal changeSide = 12;
 constexpr qreal changeAbove = 6;
 constexpr qreal mostListHeight = 190;
 
-// What a batch write will change in one field.
+// What a write will change in one field.
 struct ChangeLine {
     QString label{};
     QString value{};
+    QString note{};  // what is wrong with the value; none when empty
 };
 
 bool isSingle(const AppModel& model)
@@ -48,17 +50,29 @@ QString titleText(const AppModel& model)
     return u"Save changes to “"_s + (record ? record->fileName : QString()) + u"”?"_s;
 }
 
-// Scalar fields by id, then lists by id. Empty for one photo.
+// The scalar fields among `ids`, by id.
+QList<ChangeLine> scalarLines(const QSet<QString>& ids, const QMap<QString, QString>& values)
+{
+    QList<ChangeLine> lines;
+    QStringList sorted = ids.values();
+    sorted.sort();
+    for (const QString& id : std::as_const(sorted))
+        if (const FieldSpec* field = FieldSchema::spec(id); field && !field->isList()) {
+            const QString value = values.value(id);
+            lines.append({ field->label, u'“' + value + u'”', FieldCheck::note(*field, value) });
+        }
+    return lines;
+}
+
+// Scalar fields by id, then lists by id. Of one photo only the fields whose value is worth a second look.
 QList<ChangeLine> changeLines(const AppModel& model)
 {
-    if (isSingle(model))
-        return {};
-    QList<ChangeLine> lines;
-    QStringList ids = model.batchInclude().values();
-    ids.sort();
-    for (const QString& id : std::as_const(ids))
-        if (const FieldSpec* field = FieldSchema::spec(id); field && !field->isList())
-            lines.append({ field->label, u'“' + model.batchValues().value(id) + u'”' });
+    if (isSingle(model)) {
+        QList<ChangeLine> lines = scalarLines(model.editedSingle(), model.draftValues());
+        lines.removeIf([](const ChangeLine& line) { return line.note.isEmpty(); });
+        return lines;
+    }
+    QList<ChangeLine> lines = scalarLines(model.batchInclude(), model.batchValues());
     const QMap<QString, QStringList> lists = model.nonEmptyBatchLists();
     for (auto list = lists.cbegin(); list != lists.cend(); ++list)
         if (const FieldSpec* field = FieldSchema::spec(list.key()))
@@ -90,7 +104,7 @@ public:
         m_grid->setColumnStretch(1, 1);
         for (int i = 0; i < int(lines.size()); ++i) {
             m_grid->addWidget(ThemedLabel::wrapped(lines.at(i).label, TextRole::label, 13), i, 0, Qt::AlignTop);
-            m_grid->addWidget(ThemedLabel::wrapped(lines.at(i).value, TextRole::text, 13), i, 1, Qt::AlignTop);
+            m_grid->addLayout(valueCell(lines.at(i)), i, 1, Qt::AlignTop);
         }
         onRestyle(this, [this] {
             m_grid->setContentsMargins(px(changeSide), px(changeAbove), px(changeSide), px(changeAbove));
@@ -110,6 +124,16 @@ protected:
     }
 
 private:
+    static QVBoxLayout* valueCell(const ChangeLine& line)
+    {
+        auto* cell = new QVBoxLayout;
+        cell->setSpacing(2);
+        cell->addWidget(ThemedLabel::wrapped(line.value, TextRole::text, 13));
+        if (!line.note.isEmpty())
+            cell->addWidget(ThemedLabel::wrapped(line.note, TextRole::amberText, 11));
+        return cell;
+    }
+
     QGridLayout* m_grid;
 };
 
@@ -143,7 +167,11 @@ SaveDialogView::SaveDialogView(AppModel& model, QWidget* parent)
     , m_single(isSingle(model))
 {
     setAccessibleName(titleText(model));
-    setAccessibleDescription(messageText(model));
+    QStringList told{ messageText(model) };
+    for (const ChangeLine& line : changeLines(model))
+        if (!line.note.isEmpty())
+            told.append(line.label + u": "_s + line.note);
+    setAccessibleDescription(told.join(u' '));
     auto* column = new QVBoxLayout(this);
     auto* line = new QHBoxLayout;
     line->addWidget(new SymbolTile(m_single ? u"tag"_s : u"square.stack.3d.up"_s), 0, Qt::AlignTop);

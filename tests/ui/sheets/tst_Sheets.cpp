@@ -77,6 +77,8 @@ private slots:
     void init();
     void saveDialogOfOnePhoto_data();
     void saveDialogOfOnePhoto();
+    void saveDialogRepeatsNotes_data();
+    void saveDialogRepeatsNotes();
     void saveDialogOfSeveral_data();
     void saveDialogOfSeveral();
     void saveDialogAnswers_data();
@@ -128,6 +130,31 @@ void tst_Sheets::saveDialogOfOnePhoto()
     QCOMPARE(told->role(), QAccessible::Dialog);
     QCOMPARE(told->text(QAccessible::Name), u"Save changes to “a.jpg”?"_s);
     QCOMPARE(told->text(QAccessible::Description), message);
+}
+
+void tst_Sheets::saveDialogRepeatsNotes_data()
+{
+    QTest::addColumn<bool>("several");
+    QTest::addRow("one photo") << false;
+    QTest::addRow("several photos") << true;
+}
+
+void tst_Sheets::saveDialogRepeatsNotes()
+{
+    QFETCH(const bool, several);
+    SheetFixture desk({ u"a.jpg"_s, u"b.jpg"_s });
+    QVERIFY(desk.open());
+    if (several)
+        desk.model().selectAllPhotos();
+    for (const auto& [id, text] :
+        QMap<QString, QString>{ { u"date"_s, u"2021-02-30"_s }, { u"title"_s, u"x"_s } }.asKeyValueRange())
+        several ? desk.model().setBatch(id, text) : desk.model().setSingle(id, text);
+    const auto* sheet = desk.present<SaveDialogView>();
+    const QStringList note{ u"Date taken"_s, u"“2021-02-30”"_s, u"Not a date: YYYY-MM-DD HH:MM"_s };
+    const QStringList title{ u"Title"_s, u"“x”"_s };
+    QCOMPARE(labels(sheet).mid(2), several ? note + title : note);
+    QVERIFY(sheet->accessibleDescription().endsWith(u" Date taken: Not a date: YYYY-MM-DD HH:MM"_s));
+    QVERIFY(button(sheet, several ? u"Apply to 2 Photos"_s : u"Save"_s)->isEnabled());
 }
 
 void tst_Sheets::saveDialogOfSeveral_data()
