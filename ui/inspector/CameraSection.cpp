@@ -1,9 +1,10 @@
 #include "ui/inspector/CameraSection.h"
 
+#include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/Metrics.h"
 
-#include <QMouseEvent>
+#include <QLabel>
 #include <QPainter>
 
 namespace Quorbel {
@@ -21,13 +22,59 @@ constexpr qreal gap = 7;
 constexpr qreal twoColumnsFrom = 470;
 }  // namespace
 
+// One row. To assistive tools it is a label that says "Camera: E-M5".
+class CameraLine final : public QLabel {
+public:
+    using QLabel::QLabel;
+
+    void setRow(const CameraRow& row)
+    {
+        m_row = row;
+        setText(row.label + u": "_s + row.value);
+        update();
+    }
+
+    void setLabelWidth(int width)
+    {
+        m_labelWidth = width;
+        const QRect value = valueBox();
+        const bool fits = QFontMetrics(sansFont(12)).horizontalAdvance(m_row.value) <= value.width();
+        setToolTip(fits ? QString() : m_row.value);
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const Theme& theme = Theme::of(this);
+        QPainter painter(this);
+        painter.setFont(sansFont(12));
+        const auto draw = [&](const QRect& box, const QColor& color, const QString& text) {
+            painter.setPen(color);
+            painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                painter.fontMetrics().elidedText(text, Qt::ElideRight, box.width()));
+        };
+        draw({ 0, 0, m_labelWidth, height() }, theme.muted, m_row.label);
+        draw(valueBox(), theme.text, m_row.value);
+    }
+
+private:
+    QRect valueBox() const { return rect().adjusted(m_labelWidth + px(gap), 0, 0, 0); }
+
+    CameraRow m_row{};
+    int m_labelWidth = 0;
+};
+
 CameraSection::CameraSection(QWidget* parent)
     : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setMouseTracking(true);
+    describeAs(staticMetaObject, QAccessible::Grouping);
     setAccessibleName(u"Camera"_s);
-    onRestyle(this, [this] { updateGeometry(); });
+    onRestyle(this, [this] {
+        updateGeometry();
+        arrange();
+    });
 }
 
 void CameraSection::setRows(const QList<CameraRow>& rows)
@@ -36,10 +83,14 @@ void CameraSection::setRows(const QList<CameraRow>& rows)
         return;
     const bool resized = rows.size() != m_rows.size();
     m_rows = rows;
-    QStringList told;
-    for (const CameraRow& row : rows)
-        told.append(row.label + u": "_s + row.value);
-    setAccessibleDescription(told.join(u", "_s));
+    while (m_lines.size() < rows.size())
+        m_lines.append(new CameraLine(this));
+    for (qsizetype i = 0; i < m_lines.size(); ++i) {
+        m_lines.at(i)->setVisible(i < rows.size());
+        if (i < rows.size())
+            m_lines.at(i)->setRow(rows.at(i));
+    }
+    arrange();
     if (resized)
         updateGeometry();
     update();
@@ -66,6 +117,7 @@ void CameraSection::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     if (event->oldSize().width() != width())
         updateGeometry();
+    arrange();
 }
 
 int CameraSection::secondColumnWidth() const
@@ -78,54 +130,28 @@ int CameraSection::secondColumnWidth() const
     return qBound(px(secondColumn), wanted, qMax(px(secondColumn), (width() - px(columnGap)) / 2));
 }
 
-CameraSection::Cell CameraSection::cell(int index) const
+void CameraSection::arrange()
 {
     const int perColumn = linesPerColumn();
-    const bool second = index >= perColumn;
-    const int y = (index - (second ? perColumn : 0)) * px(lineHeight);
     const int divide = columns() == 2 ? width() - secondColumnWidth() : width() + px(columnGap);
-    const int left = second ? divide : 0;
-    const int right = second ? width() : divide - px(columnGap);
-    const QRect label(left, y, px(second ? secondLabelWidth : labelWidth), px(lineHeight));
-    const int valueLeft = label.right() + 1 + px(gap);
-    return { label, QRect(valueLeft, y, qMax(0, right - valueLeft), px(lineHeight)) };
+    for (int i = 0; i < int(m_rows.size()); ++i) {
+        const bool second = i >= perColumn;
+        const int left = second ? divide : 0;
+        const int right = second ? width() : divide - px(columnGap);
+        const int y = (i - (second ? perColumn : 0)) * px(lineHeight);
+        m_lines.at(i)->setGeometry(left, y, qMax(0, right - left), px(lineHeight));
+        m_lines.at(i)->setLabelWidth(px(second ? secondLabelWidth : labelWidth));
+    }
 }
 
 void CameraSection::paintEvent(QPaintEvent*)
 {
-    const Theme& theme = Theme::of(this);
+    if (!m_rows.isEmpty())
+        return;
     QPainter painter(this);
     painter.setFont(sansFont(12));
-    const QFontMetrics metrics = painter.fontMetrics();
-    const auto draw = [&](const QRect& box, const QColor& color, const QString& text) {
-        painter.setPen(color);
-        painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-            metrics.elidedText(text, Qt::ElideRight, box.width()));
-    };
-    if (m_rows.isEmpty())
-        draw(rect(), theme.muted, u"No camera details"_s);
-    for (int i = 0; i < int(m_rows.size()); ++i) {
-        const Cell place = cell(i);
-        draw(place.label, theme.muted, m_rows.at(i).label);
-        draw(place.value, theme.text, m_rows.at(i).value);
-    }
-}
-
-bool CameraSection::event(QEvent* event)
-{
-    // Whatever shows tooltips asks for the text at the ToolTip event, so it must be right by then.
-    if (event->type() == QEvent::MouseMove) {
-        const QPoint at = static_cast<QMouseEvent*>(event)->position().toPoint();
-        const QFontMetrics metrics(sansFont(12));
-        QString tip;
-        for (int i = 0; i < int(m_rows.size()); ++i) {
-            const QRect value = cell(i).value;
-            if (value.contains(at) && metrics.horizontalAdvance(m_rows.at(i).value) > value.width())
-                tip = m_rows.at(i).value;
-        }
-        setToolTip(tip);
-    }
-    return QWidget::event(event);
+    painter.setPen(Theme::of(this).muted);
+    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, u"No camera details"_s);
 }
 
 }  // namespace Quorbel

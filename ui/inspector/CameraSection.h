@@ -1,4 +1,5 @@
-// The camera's details of one photo: labels and values in one or two columns, not editable.
+// The camera's details of one photo: labels and values in one or two columns, not editable. Each row is a widget of
+// its own, so that screen readers come to it.
 // Thread: the main thread.
 #pragma once
 
@@ -7,6 +8,8 @@
 #include <QWidget>
 
 namespace Quorbel {
+
+class CameraLine;
 
 class CameraSection final : public QWidget {
     Q_OBJECT
@@ -21,20 +24,16 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    bool event(QEvent* event) override;
 
 private:
-    struct Cell {
-        QRect label{};
-        QRect value{};
-    };
     /// Two from 470 points of width on, filled one after the other.
     int columns() const;
-    Cell cell(int index) const;
     int linesPerColumn() const;
     int secondColumnWidth() const;
+    void arrange();
 
     QList<CameraRow> m_rows;
+    QList<CameraLine*> m_lines;  ///< kept once made; the first ones show the rows
 };
 
 }  // namespace Quorbel

@@ -44,6 +44,7 @@ public:
     void setTabStopsBehind(const QList<QWidget*>& stops) { m_stopsBehind = stops; }
     /// Pixels kept free at the lower end.
     void setBottomInset(int pixels);
+    int bottomInset() const { return m_bottomInset; }
     /// The row of a field, by its id or by the key of a custom field; null while it is not on screen.
     FieldRow* row(const QString& id) const;
 

@@ -30,6 +30,7 @@ InspectorView::InspectorView(
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_scroll->setContent(m_form);
     m_form->installEventFilter(this);
+    m_scroll->viewport()->installEventFilter(this);
     m_form->setTabStopsBehind(m_footer->tabStops());
     m_nothing->setAlignment(Qt::AlignCenter);
     auto* column = new QVBoxLayout(this);
@@ -76,8 +77,16 @@ void InspectorView::revealFocus()
     QWidget* focus = QApplication::focusWidget();
     if (!focus || !m_form->isAncestorOf(focus))
         return;
-    // Around the caret: enough for a field, its ring and the line under it.
-    m_scroll->ensureWidgetVisible(focus, 0, px(48));
+    // Where one types, in what is higher than the window perhaps; and around it enough for a field, its ring and the
+    // line under it. Not QScrollArea's own way: that knows nothing of what is laid over the lower end.
+    const bool types = focus->testAttribute(Qt::WA_InputMethodEnabled);
+    QRect wanted = types ? focus->inputMethodQuery(Qt::ImCursorRectangle).toRect() : focus->rect();
+    wanted.moveTopLeft(focus->mapTo(m_form, wanted.topLeft()));
+    const int room = m_scroll->viewport()->height() - m_form->bottomInset();
+    const int around = qBound(0, (room - wanted.height()) / 2, px(48));
+    QScrollBar* bar = m_scroll->verticalScrollBar();
+    const int lowest = wanted.bottom() + 1 + around - room;
+    bar->setValue(qMin(qMax(bar->value(), lowest), wanted.top() - around));
 }
 
 void InspectorView::focusField(const QString& id)
@@ -88,8 +97,9 @@ void InspectorView::focusField(const QString& id)
 
 bool InspectorView::eventFilter(QObject* watched, QEvent* event)
 {
-    // A text area that grew while one types may have pushed its own last line out of sight.
-    if (watched == m_form && event->type() == QEvent::Resize)
+    // A text area that grew while one types may have pushed its own last line out of sight; so may a window that became
+    // lower, and a notice that now lies over the form.
+    if (event->type() == QEvent::Resize)
         QMetaObject::invokeMethod(this, &InspectorView::revealFocus, Qt::QueuedConnection);
     return QWidget::eventFilter(watched, event);
 }
