@@ -7,8 +7,10 @@
 #include "app/shell/Menus.h"
 #include "app/shell/OpenPanel.h"
 #include "core/Product.h"
+#include "platform/desktop/Compositor.h"
 #include "platform/desktop/SystemScheme.h"
 #include "ui/controls/ToolTips.h"
+#include "ui/controls/theme/PopupFrame.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/InspectorView.h"
 #include "ui/sheets/AddFieldSheet.h"
@@ -93,6 +95,7 @@ bool AppDelegate::handOver(const HandOver& what) const
 
 void AppDelegate::finishLaunching(const QList<QUrl>& urls)
 {
+    PopupFrame::setComposed(&Compositor::isRunning);
     m_app = std::make_unique<QuorbelApp>(hooks());
     buildWindow();
     if (!urls.isEmpty())

@@ -1,7 +1,7 @@
 #include "ui/controls/OffsetPicker.h"
 
+#include "ui/controls/ChoiceList.h"
 #include "ui/controls/HoverFade.h"
-#include "ui/controls/ThemedMenu.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
@@ -27,7 +27,7 @@ OffsetPicker::OffsetPicker(const QStringList& offsets, const QString& blank, QWi
         updateGeometry();
     });
     installFocusRing(this, { RingShape::field, 7, [this] { return m_edited; }, {} });
-    connect(this, &QAbstractButton::clicked, this, &OffsetPicker::openMenu);
+    connect(this, &QAbstractButton::clicked, this, &OffsetPicker::openList);
 }
 
 void OffsetPicker::setValue(const QString& value)
@@ -56,22 +56,13 @@ void OffsetPicker::choose(const QString& value)
     emit valueEdited(value);
 }
 
-void OffsetPicker::openMenu()
+void OffsetPicker::openList()
 {
-    auto* menu = new ThemedMenu(this);
-    QAction* current = nullptr;
-    for (const QString& value : QStringList(QString()) + m_offsets) {
-        QAction* action = menu->addAction(value.isEmpty() ? m_blank : value, this, [this, value] { choose(value); });
-        action->setCheckable(true);
-        action->setChecked(value == m_value);
-        if (value == m_value)
-            current = action;
-    }
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->setMinimumWidth(width());
-    menu->popup(mapToGlobal(QPoint(0, height() + 2)));
-    if (current)
-        menu->setActiveAction(current);
+    const QStringList values = QStringList(QString()) + m_offsets;
+    QStringList titles = values;
+    titles.first() = m_blank;
+    auto* list = new ChoiceList(titles, int(values.indexOf(m_value)), this);
+    connect(list, &ChoiceList::picked, this, [this, values](int row) { choose(values.at(row)); });
 }
 
 void OffsetPicker::keyPressEvent(QKeyEvent* event)
@@ -81,7 +72,7 @@ void OffsetPicker::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Up:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        openMenu();
+        openList();
         break;
     case Qt::Key_Delete:
     case Qt::Key_Backspace:

@@ -7,8 +7,8 @@
 
 namespace Quorbel {
 
-/// A menu button, 150×30 points, that shows the value or, for an empty one, the `blank` label. Its menu offers `blank`
-/// and the offsets.
+/// A menu button, 150×30 points, that shows the value or, for an empty one, the `blank` label. Its list offers `blank`
+/// and the offsets, and opens at the value.
 class OffsetPicker final : public ThemedButton {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void openMenu();
+    void openList();
     void choose(const QString& value);
 
     QStringList m_offsets;

@@ -3,10 +3,15 @@
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
+#include "ui/controls/theme/PopupFrame.h"
 #include "ui/controls/theme/Theme.h"
 
+#include <QCoreApplication>
+#include <QMenuBar>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 
 namespace Quorbel {
 
@@ -14,7 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qreal radius = 9;  // points
 constexpr const char* headerProperty = "quorbelHeader";
 
 // Sizes only: QMenu asks its style how high a row is, and a style sheet is the way to answer without a style of our
@@ -43,10 +47,9 @@ ThemedMenu::ThemedMenu(QWidget* parent)
 ThemedMenu::ThemedMenu(const QString& title, QWidget* parent)
     : QMenu(title, parent)
 {
-    setAttribute(Qt::WA_TranslucentBackground);
-    setWindowFlag(Qt::FramelessWindowHint);
-    setWindowFlag(Qt::NoDropShadowWindowHint);
+    PopupFrame::prepare(*this);
     setToolTipsVisible(true);
+    connect(this, &QMenu::aboutToShow, this, &ThemedMenu::makeRoom);
     onRestyle(this, [this] { setUp(); });
 }
 
@@ -57,6 +60,18 @@ void ThemedMenu::setUp()
     const QString sizes = rowSizes();
     if (styleSheet() != sizes)
         setStyleSheet(sizes);
+}
+
+// For the shadow, around the rows.
+void ThemedMenu::makeRoom()
+{
+    const QMargins room = PopupFrame::room();
+    if (room == contentsMargins())
+        return;
+    setContentsMargins(room);
+    // QMenu lays its rows out again when its style changed, and at no other word.
+    QEvent changed(QEvent::StyleChange);
+    QMenu::changeEvent(&changed);
 }
 
 QAction* ThemedMenu::addHeader(const QString& title)
@@ -77,16 +92,86 @@ ThemedMenu* ThemedMenu::addThemedMenu(const QString& title)
 void ThemedMenu::popUpUnder(const QWidget* anchor, Qt::Alignment edge, bool once)
 {
     setAttribute(Qt::WA_DeleteOnClose, once);
-    const int x = edge.testFlag(Qt::AlignRight) ? anchor->width() - sizeHint().width() : 0;
-    popup(anchor->mapToGlobal(QPoint(x, anchor->height() + 3)));
+    ensurePolished();
+    makeRoom();
+    const QSize size = sizeHint().shrunkBy(contentsMargins());
+    const QRect under(anchor->mapToGlobal(QPoint()), anchor->size());
+    m_place = PopupFrame::placed(under, size, anchor->screen()->availableGeometry(), edge.testFlag(Qt::AlignRight));
+    popup(m_place->topLeft());
+}
+
+// QMenu has put the whole window where the box belongs, or has turned it over at an edge of the screen.
+QRect ThemedMenu::wantedBox() const
+{
+    if (m_place)
+        return *m_place;
+    const QMargins room = contentsMargins();
+    const QRect window = geometry();
+    bool isLeft = false;
+    bool isAbove = false;
+    if (const auto* parent = qobject_cast<const ThemedMenu*>(parentWidget())) {
+        isLeft = window.center().x() < parent->geometry().center().x();
+    } else if (!qobject_cast<const QMenuBar*>(parentWidget())) {
+        isLeft = window.right() <= QCursor::pos().x();
+        isAbove = window.bottom() <= QCursor::pos().y();
+    }
+    QRect box = (window - room).translated(isLeft ? room.right() : -room.left(), isAbove ? room.bottom() : -room.top());
+    const QRect screen = this->screen()->availableGeometry();
+    box.moveLeft(qMax(screen.left(), qMin(box.left(), screen.right() + 1 - box.width())));
+    box.moveTop(qMax(screen.top(), qMin(box.top(), screen.bottom() + 1 - box.height())));
+    return box;
+}
+
+void ThemedMenu::showEvent(QShowEvent* event)
+{
+    QMenu::showEvent(event);
+    if (!contentsMargins().isNull())
+        move((wantedBox() + contentsMargins()).topLeft());
+    m_place.reset();
+}
+
+bool ThemedMenu::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove: {
+        auto* mouse = static_cast<QMouseEvent*>(event);
+        const QPoint pos = mouse->position().toPoint();
+        if (rect().contains(pos) && !box().contains(pos))
+            return passOn(mouse);
+        break;
+    }
+    default:
+        break;
+    }
+    return QMenu::event(event);
+}
+
+// The mouse on the shadow: it means the menu or the bar that lies below, or else the world outside of the menus.
+bool ThemedMenu::passOn(QMouseEvent* event)
+{
+    const QPointF global = event->globalPosition();
+    const auto sendTo = [&](QWidget* target, QPointF pos) {
+        QMouseEvent copy(event->type(), pos, global, event->button(), event->buttons(), event->modifiers());
+        return QCoreApplication::sendEvent(target, &copy);
+    };
+    for (QWidget* below = parentWidget(); below; below = below->parentWidget()) {
+        if (!qobject_cast<ThemedMenu*>(below) && !qobject_cast<QMenuBar*>(below))
+            break;
+        const QPointF pos = below->mapFromGlobal(global);
+        if (below->rect().contains(pos.toPoint()))
+            return sendTo(below, pos);
+    }
+    return sendTo(this, QPointF(-1, -1));
 }
 
 void ThemedMenu::paintEvent(QPaintEvent* event)
 {
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
-    paintCutBox(painter, rect(), pxF(radius), theme.panel, theme.line);
-    painter.setClipRect(rect().adjusted(0, px(5), 0, -px(5)));
+    PopupFrame::paint(painter, box(), theme);
+    painter.setClipRect(box().adjusted(0, px(5), 0, -px(5)));
     for (const QAction* action : actions()) {
         const QRect row = actionGeometry(const_cast<QAction*>(action));
         if (action->isVisible() && event->rect().intersects(row))
@@ -97,7 +182,7 @@ void ThemedMenu::paintEvent(QPaintEvent* event)
 void ThemedMenu::resizeEvent(QResizeEvent* event)
 {
     QMenu::resizeEvent(event);
-    cutCorners(*this, pxF(radius));
+    PopupFrame::shape(*this);
 }
 
 void ThemedMenu::paintItem(QPainter& painter, const QAction* action, const QRect& row)

@@ -4,6 +4,8 @@
 
 #include <QMenu>
 
+#include <optional>
+
 namespace Quorbel {
 
 /// A QMenu that paints itself; actions, shortcuts, keyboard and accessibility are QMenu's. The theme is that of its
@@ -22,12 +24,21 @@ public:
     void popUpUnder(const QWidget* anchor, Qt::Alignment edge = Qt::AlignLeft, bool once = false);
 
 protected:
+    bool event(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void setUp();
+    void makeRoom();
+    /// The menu without the room for its shadow.
+    QRect box() const { return rect() - contentsMargins(); }
+    QRect wantedBox() const;
+    bool passOn(QMouseEvent* event);
     void paintItem(QPainter& painter, const QAction* action, const QRect& rect);
+
+    std::optional<QRect> m_place;  ///< of the box, global; where it was put under a widget
 };
 
 }  // namespace Quorbel

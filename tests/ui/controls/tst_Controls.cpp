@@ -4,9 +4,11 @@
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/ThemedMenu.h"
+#include "ui/controls/ThemedMenuBar.h"
 #include "ui/controls/Toggles.h"
 #include "ui/controls/ToolTips.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/PopupFrame.h"
 
 #include <QHelpEvent>
 #include <QLabel>
@@ -301,6 +303,89 @@ private slots:
         QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(second).center());
         QCOMPARE(chosen.count(), 1);
         QVERIFY(!menu.isVisible());
+    }
+
+    void aMenuStandsOutFromThePanel_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<bool>("composed");
+        QTest::newRow("light") << false << true;
+        QTest::newRow("dark") << true << true;
+        QTest::newRow("light, nothing composes windows") << false << false;
+    }
+    void aMenuStandsOutFromThePanel()
+    {
+        QFETCH(bool, dark);
+        QFETCH(bool, composed);
+        const Theme& theme = dark ? Theme::dark() : Theme::light();
+        PopupFrame::setComposed([composed] { return composed; });
+        const auto restore = qScopeGuard([] { PopupFrame::setComposed({}); });
+        Test::Stage stage(theme);
+        auto* anchor = stage.add(new QBButton(u"Menu"_s));
+        stage.show();
+        ThemedMenu menu(stage.window());
+        QAction* only = menu.addAction(u"Name"_s);
+        menu.popUpUnder(anchor);
+        const QRect row = menu.actionGeometry(only);
+        QImage picture(menu.size(), QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::transparent);
+        menu.render(&picture, {}, {}, QWidget::DrawChildren);
+        const auto at = [&](QPoint pos) { return picture.pixelColor(pos); };
+        // The edge, half-way down the left side, and 4 pixels beyond it.
+        QPoint edge(row.left(), row.center().y());
+        while (at(edge - QPoint(1, 0)) == theme.panel)
+            edge -= QPoint(1, 0);
+        edge -= QPoint(1, 0);
+        QVERIFY(Test::contrast(at(edge), theme.panel) > 1.35);
+        const QPoint box = menu.mapToGlobal(QPoint(edge.x(), 0));
+        QVERIFY2(std::abs(box.x() - anchor->mapToGlobal(QPoint()).x()) <= 1, "the box, not the shadow, is in line");
+        if (composed) {
+            QVERIFY(at(edge - QPoint(4, 0)).alpha() > 8);
+            QVERIFY(at(QPoint(row.center().x(), picture.height() - 24)).alpha() > 8);
+            QVERIFY(at({ 0, 0 }).alpha() < 8);
+        } else {
+            QCOMPARE(edge.x(), 0);
+        }
+        // A click beside the box, on the shadow or not, closes it.
+        QTest::mouseClick(&menu, Qt::LeftButton, {}, edge - QPoint(4, 0));
+        QVERIFY(!menu.isVisible());
+    }
+
+    void theMouseOnAShadowMeansTheMenuBarBelow()
+    {
+        Test::Stage stage;
+        auto* bar = stage.add(new ThemedMenuBar);
+        QList<ThemedMenu*> menus;
+        for (const QString& title : { u"File"_s, u"Edit"_s }) {
+            menus.append(new ThemedMenu(title, bar));
+            menus.last()->addAction(u"A command with a long name"_s);
+            bar->addMenu(menus.last());
+        }
+        stage.show();
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menus.at(0)->menuAction()).center());
+        QTRY_VERIFY(menus.at(0)->isVisible());
+        const QPoint onEdit = bar->actionGeometry(menus.at(1)->menuAction()).center() + QPoint(0, 6);
+        const QPoint inFile = menus.at(0)->mapFromGlobal(bar->mapToGlobal(onEdit));
+        QVERIFY2(menus.at(0)->rect().contains(inFile), "the shadow reaches over the bar");
+        QTest::mouseMove(menus.at(0), inFile);
+        QTRY_VERIFY(menus.at(1)->isVisible());
+        menus.at(1)->close();
+    }
+
+    void popupsDropDownWhereThereIsRoom_data()
+    {
+        QTest::addColumn<QRect>("anchor");
+        QTest::addColumn<QPoint>("topLeft");
+        QTest::newRow("below") << QRect(100, 100, 150, 30) << QPoint(100, 133);
+        QTest::newRow("above") << QRect(100, 700, 150, 30) << QPoint(100, 397);
+        QTest::newRow("not beyond the right edge") << QRect(950, 100, 150, 30) << QPoint(824, 133);
+        QTest::newRow("not beyond the left edge") << QRect(-50, 100, 150, 30) << QPoint(0, 133);
+    }
+    void popupsDropDownWhereThereIsRoom()
+    {
+        QFETCH(QRect, anchor);
+        QFETCH(QPoint, topLeft);
+        QCOMPARE(PopupFrame::placed(anchor, { 200, 300 }, { 0, 0, 1024, 768 }), QRect(topLeft, QSize(200, 300)));
     }
 
     void theOverlayScrollBarDragsTheView()

@@ -1,4 +1,5 @@
 #include "tests/ui/UiSupport.h"
+#include "ui/controls/ChoiceList.h"
 #include "ui/controls/FlowLayout.h"
 #include "ui/controls/KeywordEditor.h"
 #include "ui/controls/OffsetPicker.h"
@@ -417,21 +418,56 @@ private slots:
         QCOMPARE(picker->text(), before.isEmpty() ? u"—"_s : before);
         QSignalSpy edits(picker, &OffsetPicker::valueEdited);
         QTest::mouseClick(picker, Qt::LeftButton);
-        auto* menu = picker->findChild<ThemedMenu*>();
-        QVERIFY(menu && menu->isVisible());
-        QCOMPARE(menu->actions().size(), 4);
-        for (QAction* action : menu->actions()) {
-            const bool current = action->text() == (before.isEmpty() ? u"—"_s : before);
-            QCOMPARE(action->isChecked(), current);
-        }
-        for (QAction* action : menu->actions()) {
-            if (action->text() == picked)
-                menu->setActiveAction(action);
-        }
-        QTest::keyClick(menu, Qt::Key_Return);
+        auto* list = picker->findChild<ChoiceList*>();
+        QVERIFY(list && list->isVisible());
+        QListWidget* rows = list->rows();
+        QCOMPARE(rows->count(), 4);
+        QCOMPARE(rows->currentItem()->text(), before.isEmpty() ? u"—"_s : before);
+        rows->setCurrentItem(rows->findItems(picked, Qt::MatchExactly).value(0));
+        QTest::keyClick(rows, Qt::Key_Return);
         QCOMPARE(edits.value(0).value(0).toString(), after);
         QCOMPARE(edits.count(), 1);
-        QTRY_VERIFY(!picker->findChild<ThemedMenu*>());
+        QTRY_VERIFY(!picker->findChild<ChoiceList*>());
+    }
+
+    void aLongListOfOffsetsScrollsToTheValue_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::newRow("none") << QString();
+        QTest::newRow("in the middle") << u"o20"_s;
+        QTest::newRow("at the end") << u"o39"_s;
+    }
+    void aLongListOfOffsetsScrollsToTheValue()
+    {
+        QFETCH(QString, value);
+        QStringList offsets;
+        for (int i = 0; i < 40; ++i)
+            offsets.append(u"o%1"_s.arg(i, 2, 10, QLatin1Char('0')));
+        Test::Stage stage;
+        auto* picker = stage.add(new OffsetPicker(offsets, u"—"_s));
+        stage.show();
+        picker->setValue(value);
+        QSignalSpy edits(picker, &OffsetPicker::valueEdited);
+        picker->setFocus();
+        QTest::keyClick(picker, Qt::Key_Down);
+        auto* list = picker->findChild<ChoiceList*>();
+        QVERIFY(list);
+        QListWidget* rows = list->rows();
+        const QRect shown = rows->viewport()->rect();
+        QCOMPARE(shown.height(), 10 * px(28));
+        QVERIFY(shown.contains(rows->visualItemRect(rows->currentItem())));
+        QCOMPARE(rows->currentItem()->text(), value.isEmpty() ? u"—"_s : value);
+        // The first letters lead to a row, Escape takes none, a click takes one.
+        QTest::keyClicks(rows, u"o07"_s);
+        QCOMPARE(rows->currentItem()->text(), u"o07"_s);
+        QTest::keyClick(rows, Qt::Key_Escape);
+        QTRY_VERIFY(!picker->findChild<ChoiceList*>());
+        QCOMPARE(edits.count(), 0);
+        QTest::mouseClick(picker, Qt::LeftButton);
+        rows = picker->findChild<ChoiceList*>()->rows();
+        rows->scrollToItem(rows->item(12));
+        QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, rows->visualItemRect(rows->item(12)).center());
+        QCOMPARE(edits.value(0).value(0).toString(), u"o11"_s);
     }
 
     void copyAndPasteAreInTheMenuOfAField()
