@@ -43,6 +43,19 @@ bool hasSelectedText(const QWidget& widget)
     return area && area->textCursor().hasSelection();
 }
 
+bool isWritable(const QWidget& widget)
+{
+    if (const auto* line = qobject_cast<const QLineEdit*>(&widget))
+        return !line->isReadOnly();
+    const auto* area = qobject_cast<const QPlainTextEdit*>(&widget);
+    return area && !area->isReadOnly();
+}
+
+bool canCut(const QWidget& widget)
+{
+    return isWritable(widget) && hasSelectedText(widget);
+}
+
 bool canUndo(const QWidget& widget)
 {
     if (const auto* line = qobject_cast<const QLineEdit*>(&widget))
@@ -59,10 +72,10 @@ bool canRedo(const QWidget& widget)
     return area && area->document()->isRedoAvailable();
 }
 
-bool canPaste(const QWidget&)
+bool canPaste(const QWidget& widget)
 {
     const QMimeData* data = QApplication::clipboard()->mimeData();
-    return data && data->hasText();
+    return isWritable(widget) && data && data->hasText();
 }
 
 // A path as people write it: their home is "~".
@@ -154,7 +167,7 @@ void Menus::addEditMenu()
     addEditing(menu, u"&Redo"_s, QKeySequence::Redo, "redo", canRedo);
     m_undoSave = add(menu, u"Undo Sa&ve"_s, {}, [this] { m_model.undoSave(); });
     menu->addSeparator();
-    addEditing(menu, u"Cu&t"_s, QKeySequence::Cut, "cut", hasSelectedText);
+    addEditing(menu, u"Cu&t"_s, QKeySequence::Cut, "cut", canCut);
     addEditing(menu, u"&Copy"_s, QKeySequence::Copy, "copy", hasSelectedText);
     addEditing(menu, u"&Paste"_s, QKeySequence::Paste, "paste", canPaste);
     menu->addSeparator();

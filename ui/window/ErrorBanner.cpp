@@ -2,14 +2,13 @@
 
 #include "app/model/AppModel.h"
 #include "ui/controls/Buttons.h"
+#include "ui/controls/SelectableText.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Shadow.h"
-#include "ui/controls/theme/TextLines.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QAccessible>
-#include <QFontMetrics>
 #include <QGraphicsOpacityEffect>
 #include <QPainter>
 
@@ -56,9 +55,11 @@ ErrorBanner::ErrorBanner(AppModel& model, QWidget* parent)
     , m_model(model)
     , m_opacity(this, Duration::banner, QEasingCurve::Linear, [this] { showOpacity(); })
     , m_shadow(new BannerShadow(parent))
+    , m_text(new SelectableText(this))
     , m_close(new QBIconButton(u"xmark"_s, u"Dismiss"_s, this))
 {
     hide();
+    m_text->setAccessibleName(u"Message"_s);
     m_close->setSizes({ crossSize, crossSize }, 14, 0, 6);
     m_close->setQuiet(true);
     connect(m_close, &QAbstractButton::clicked, &model, [&model] { model.setErrorMessage(std::nullopt); });
@@ -76,7 +77,9 @@ void ErrorBanner::follow()
 {
     const bool wanted = m_model.errorMessage().has_value();
     setAccessibleName(message());
-    setToolTip(message());
+    // A text that is shown already keeps what is selected of it.
+    if (m_text->toPlainText() != message())
+        m_text->setPlainText(message());
     const bool appears = wanted && isHidden();
     m_shadow->setVisible(wanted);
     setVisible(wanted);
@@ -111,21 +114,16 @@ void ErrorBanner::place(int bottom)
         return;
     const int width = qMin(px(widest), parentWidget()->width() - 2 * px(20));
     const int textWidth = width - px(leftPadding + iconSize + gap + gap + crossSize + rightPadding);
-    m_lines = brokenIntoLines(message(), sansFont(13), textWidth, LineBreaks::words, mostLines);
-    m_lines.last() = QFontMetrics(sansFont(13)).elidedText(m_lines.constLast(), Qt::ElideRight, textWidth);
-    const int textHeight = int(m_lines.size()) * QFontMetrics(sansFont(13)).lineSpacing();
-    const int height = qMax(textHeight, px(18)) + 2 * px(verticalPadding);
+    const int textHeight = m_text->heightFor(textWidth, mostLines);
+    const int room = qMax(textHeight, px(18));
+    const int height = room + 2 * px(verticalPadding);
+    m_text->setGeometry(
+        px(leftPadding + iconSize + gap), px(verticalPadding) + (room - textHeight) / 2, textWidth, textHeight);
     setGeometry((parentWidget()->width() - width) / 2, bottom - height, width, height);
-    const int room = px(shadowRoom);
-    m_shadow->setGeometry(geometry().adjusted(-room, -room, room, room));
+    const int around = px(shadowRoom);
+    m_shadow->setGeometry(geometry().adjusted(-around, -around, around, around));
     m_close->resize(m_close->sizeHint());
     m_close->move(width - px(rightPadding) - m_close->width(), px(verticalPadding) - px(2));
-}
-
-QRect ErrorBanner::textRect() const
-{
-    return rect().adjusted(px(leftPadding + iconSize + gap), px(verticalPadding), -px(gap + crossSize + rightPadding),
-        -px(verticalPadding));
 }
 
 void ErrorBanner::paintEvent(QPaintEvent*)
@@ -138,9 +136,6 @@ void ErrorBanner::paintEvent(QPaintEvent*)
     painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), pxF(radius), pxF(radius));
     const QRectF icon(px(leftPadding), px(verticalPadding), px(iconSize), px(iconSize));
     Icon::paint(painter, icon, u"exclamationmark.triangle.fill"_s, pxF(iconSize), theme.amber);
-    painter.setPen(theme.text);
-    painter.setFont(sansFont(13));
-    painter.drawText(textRect(), Qt::AlignLeft | Qt::AlignVCenter, m_lines.join(u'\n'));
 }
 
 }  // namespace Quorbel

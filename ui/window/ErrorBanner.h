@@ -1,5 +1,6 @@
 // The notice at the bottom of the window while AppModel holds an error message.
-// Thread: the main thread. It hides only when the message goes; its cross takes the message away.
+// Thread: the main thread. It hides only when the message goes; its cross takes the message away. The message can be
+// selected and copied, and scrolls when it is long.
 #pragma once
 
 #include "ui/controls/theme/AnimatedValue.h"
@@ -10,6 +11,7 @@ namespace Quorbel {
 
 class AppModel;
 class QBIconButton;
+class SelectableText;
 
 class ErrorBanner final : public QWidget {
     Q_OBJECT
@@ -33,12 +35,11 @@ private:
     void fadeIn();
     void showOpacity();
     QString message() const;
-    QRect textRect() const;
 
     AppModel& m_model;
-    QStringList m_lines;  ///< of the message, as place() broke it
     AnimatedValue m_opacity;
     QWidget* m_shadow;  ///< paints the shadow
+    SelectableText* m_text;
     QBIconButton* m_close;
 };
 

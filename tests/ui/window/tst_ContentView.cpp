@@ -11,9 +11,11 @@
 #include "ui/window/ProgressFoot.h"
 #include "ui/window/WindowGrowth.h"
 
+#include <QClipboard>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPlainTextEdit>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -86,6 +88,7 @@ private slots:
     void saveButtonSaysWhatItDoes();
     void settingsMenuFlipsItsFlags();
     void bannerStaysUntilItIsDismissed();
+    void theBannersTextCanBeReadToItsEndAndCopied();
     void withoutTheToolTheBannerSaysSo();
     void sheetTakesTheKeyboard();
     void progressOfALongRead();
@@ -410,6 +413,46 @@ void tst_ContentView::bannerStaysUntilItIsDismissed()
     QTest::mouseClick(fixture.button(u"Dismiss"_s), Qt::LeftButton);
     QVERIFY(!banner->isVisible());
     QVERIFY(!fixture.model->errorMessage());
+}
+
+void tst_ContentView::theBannersTextCanBeReadToItsEndAndCopied()
+{
+    WindowFixture fixture;
+    fixture.open({ u"a.jpg"_s });
+    fixture.show();
+    auto* banner = fixture.window->findChild<ErrorBanner*>();
+    fixture.model->setErrorMessage(u"One line."_s);
+    const int oneLine = banner->height();
+    QStringList names;
+    for (int i = 0; i < 200; ++i)
+        names.append(u"IMG_%1.jpg"_s.arg(i));
+    const QString message = u"These photos were not saved: "_s + names.join(u", "_s);
+    fixture.model->setErrorMessage(message);
+    auto* text = banner->findChild<QPlainTextEdit*>();
+    QVERIFY(text);
+    const int line = QFontMetrics(text->font()).height();
+    QVERIFY(banner->height() > oneLine + 4 * line && banner->height() <= oneLine + 5 * line);
+
+    // By keyboard: Tab comes to it, Ctrl+End to its end.
+    fixture.window->findChild<SidebarList*>()->setFocus();
+    for (int i = 0; i < 40 && QApplication::focusWidget() != text; ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), text);
+    QTest::keySequence(text, QKeySequence::MoveToEndOfDocument);
+    QVERIFY(text->viewport()->rect().contains(text->cursorRect().center()));
+    QTest::keySequence(text, QKeySequence::SelectAll);
+    QTest::keySequence(text, QKeySequence::Copy);
+    QCOMPARE(QGuiApplication::clipboard()->text(), message);
+    QTest::keyClicks(text, u"x"_s);
+    QCOMPARE(text->toPlainText(), message);
+
+    // By mouse.
+    QTest::keySequence(text, QKeySequence::MoveToStartOfDocument);
+    QTest::mouseDClick(text->viewport(), Qt::LeftButton, {}, QPoint(10, line / 2));
+    QTest::keySequence(text, QKeySequence::Copy);
+    QCOMPARE(QGuiApplication::clipboard()->text(), u"These"_s);
+    QTest::keyClick(text, Qt::Key_Tab);
+    QVERIFY(QApplication::focusWidget() != text);
 }
 
 void tst_ContentView::withoutTheToolTheBannerSaysSo()

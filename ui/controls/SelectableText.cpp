@@ -1,0 +1,55 @@
+#include "ui/controls/SelectableText.h"
+
+#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/ThemedMenu.h"
+#include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/TextLines.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QContextMenuEvent>
+#include <QTextDocument>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+SelectableText::SelectableText(QWidget* parent)
+    : QPlainTextEdit(parent)
+{
+    setFrameShape(QFrame::NoFrame);
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    viewport()->setAutoFillBackground(false);
+    document()->setDocumentMargin(0);
+    OverlayScrollBar::attach(this);
+    installFocusRing(this, { RingShape::tight, 4, {}, {} });
+    onRestyle(this, [this] {
+        QPalette colors = paletteFor(Theme::of(this));
+        colors.setColor(QPalette::Base, Qt::transparent);
+        setPalette(colors);
+        setFont(sansFont(13));
+    });
+}
+
+int SelectableText::heightFor(int width, int mostLines) const
+{
+    const auto lines = brokenIntoLines(toPlainText(), font(), width, LineBreaks::words, mostLines).size();
+    // One pixel more: without, QPlainTextEdit thinks that its last line is out of sight.
+    return int(lines) * QFontMetrics(font()).height() + 1;
+}
+
+void SelectableText::contextMenuEvent(QContextMenuEvent* event)
+{
+    auto* menu = new ThemedMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction* copying = menu->addAction(u"Copy"_s, this, &QPlainTextEdit::copy);
+    copying->setShortcut(QKeySequence::Copy);
+    copying->setEnabled(textCursor().hasSelection());
+    menu->addAction(u"Select All"_s, this, &QPlainTextEdit::selectAll)->setShortcut(QKeySequence::SelectAll);
+    menu->popup(event->globalPos());
+}
+
+}  // namespace Quorbel
