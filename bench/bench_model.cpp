@@ -1,52 +1,25 @@
 // The application model over 100,000 photos, against std::sort over as many precomputed sort keys in the same run.
 // Times are the main thread's CPU time, so that other programs on the machine weigh less; medians of many.
 #include "app/model/AppModel.h"
+#include "bench/ManyPhotos.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/Text.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QEventLoop>
-#include <QFile>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <random>
 
 using namespace Quorbel;
+using namespace Quorbel::Bench;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int photoCount = 100000;
+constexpr int photoCount = ManyPhotos::count;
 constexpr int selectedCount = 10000;
-
-// Stands in for ExifTool, which would take minutes: prints a dozen values for each file it is given.
-const char* const tool = R"perl(#!/usr/bin/perl
-use strict;
-my $custom = grep { $_ eq '-XMP-Quorbel:all' } @ARGV;
-my $n = 0;
-print "[";
-for my $file (grep { m{^/} } @ARGV) {
-    $n++;
-    print $n > 1 ? ",\n" : '', "{\"SourceFile\":\"$file\"";
-    print ",\"File:FileType\":\"JPEG\",\"File:ImageWidth\":4000,\"File:ImageHeight\":3000,\"XMP:Title\":\"Title $n\"",
-        ",\"XMP:Description\":\"A view of the lake\",\"EXIF:DateTimeOriginal\":\"2026:07:14 12:00:00\"",
-        ",\"IPTC:Keywords\":[\"lake\",\"summer\"],\"XMP:Creator\":\"Ana\",\"XMP:Rights\":\"Ana\",\"XMP:City\":\"Bern\"",
-        ",\"XMP:Rating\":3,\"XMP:Country\":\"Switzerland\",\"XMP:State\":\"Bern\",\"XMP:Headline\":\"Lake\"" unless $custom;
-    print "}";
-}
-print "]\n";
-)perl";
-
-double cpuMilliseconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
-}
 
 template <typename Work>
 double median(int times, Work work)
@@ -84,16 +57,6 @@ void report(const char* what, double taken, double baseline, double target)
     if (target > 0)
         std::printf("  (at most %.2f)%s", target, taken / baseline > target ? "  MISSED" : "");
     std::printf("\n");
-}
-
-void makePhotos(const QString& folder)
-{
-    std::mt19937 random(7);
-    for (int i = 0; i < photoCount; ++i) {
-        QFile file(u"%1/IMG_%2_%3.jpg"_s.arg(folder).arg(random() % 1000).arg(i));
-        if (!file.open(QIODevice::WriteOnly) || file.write("x") != 1)
-            qFatal("cannot make photos in %s", qPrintable(folder));
-    }
 }
 
 void click(AppModel& model, int row, bool shift = false, bool command = false)
@@ -154,26 +117,15 @@ void measure(AppModel& model)
 int main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
-    // Short paths: ExifTool takes them all in one command line.
-    const QTemporaryDir memory(u"/dev/shm/q"_s);
-    const QTemporaryDir work;
-    QFile script(work.filePath(u"exiftool"_s));
-    if (!memory.isValid() || !script.open(QIODevice::WriteOnly) || script.write(tool) < 0)
-        qFatal("cannot set up");
-    script.close();
-    makePhotos(memory.path());
-    AppModelServices services;
-    services.service =
-        MetadataService{ { QUrl::fromLocalFile(script.fileName()), QUrl::fromLocalFile(u"/usr/bin/perl"_s) } };
-    services.preferences = std::make_shared<QSettings>(work.filePath(u"settings.ini"_s), QSettings::IniFormat);
-    AppModel model(services);
+    const ManyPhotos photos;
+    AppModel model(photos.services());
     QEventLoop loop;
     QObject::connect(&model, &AppModel::isWorkingChanged, &loop, [&] {
         if (!model.isWorking())
             loop.quit();
     });
     const double begin = cpuMilliseconds();
-    model.load({ QUrl::fromLocalFile(memory.path()) });
+    model.load({ photos.folder() });
     std::printf("%-44s %8.3f ms\n", "main thread: begin of a load", cpuMilliseconds() - begin);
     loop.exec();
     if (model.records().size() != photoCount)
