@@ -1,6 +1,6 @@
 #include "app/model/RunningTasks.h"
 
-#include <QFileInfo>
+#include "app/model/Background.h"
 
 namespace Quorbel {
 
@@ -8,16 +8,18 @@ namespace {
 
 // How often progress and stalls are looked at while something runs.
 constexpr int lookInterval = 50;  // ms
+constexpr int looksPerStall = 20;
 
 }  // namespace
 
 RunningTasks::RunningTasks(Announcer& announcer, std::chrono::milliseconds stallInterval)
     : m_announcer(announcer)
-    , m_stallWatch(stallInterval)
+    , m_stallInterval(stallInterval)
+    , m_stallWatch(std::make_shared<StallWatch>(stallInterval))
 {
     m_timer.setInterval(lookInterval);
     connect(&m_timer, &QTimer::timeout, this, &RunningTasks::publishProgress);
-    connect(&m_timer, &QTimer::timeout, this, &RunningTasks::publishStall);
+    connect(&m_timer, &QTimer::timeout, this, &RunningTasks::lookForStall);
 }
 
 RunningTasks::~RunningTasks()
@@ -60,7 +62,7 @@ std::optional<RunningTasks::Task> RunningTasks::end(int id)
         m_timer.stop();
     m_announcer.assign(m_isWorking, !m_shown.empty(), Change::isWorking);
     publishProgress();
-    publishStall();
+    forgetOldStall();
     return ended;
 }
 
@@ -108,24 +110,50 @@ void RunningTasks::publishProgress()
     m_announcer.assign(m_progress, progress, Change::progress);
 }
 
-void RunningTasks::publishStall()
+void RunningTasks::lookForStall()
+{
+    forgetOldStall();
+    const Task* read = watchedRead();
+    if (!read || m_isLooking || !m_nextLook.hasExpired())
+        return;
+    m_isLooking = true;
+    m_nextLook = QDeadlineTimer(m_stallInterval / looksPerStall);
+    runInBackground(
+        this,
+        [watch = m_stallWatch, processID = read->progress->processID.load(), files = read->files] {
+            return watch->look(processID, files);
+        },
+        [this, id = read->id](const std::optional<QUrl>& file) {
+            m_isLooking = false;
+            publishStall(id, file);
+        });
+}
+
+// What was found is of no interest any more when another task is watched by now.
+void RunningTasks::publishStall(int id, const std::optional<QUrl>& file)
 {
     const Task* read = watchedRead();
-    m_stallWatch.look(read ? read->progress->processID.load() : 0);
-    const QSet<QString> stalled = m_stallWatch.stalled();
-    m_stalledURL.reset();
-    // The system tells paths without links, so the photos' must be looked up: only while something stalls.
-    if (read && !stalled.isEmpty())
-        for (const QUrl& file : read->files)
-            if (stalled.contains(QFileInfo(file.toLocalFile()).canonicalFilePath()))
-                m_stalledURL = file;
-    if (m_stalledURL && m_shown.empty()) {
+    if (!read || read->id != id)
+        return;
+    const Announcer::Together together(m_announcer);
+    m_stalledURL = file;
+    m_stalledID = id;
+    if (file && m_shown.empty()) {
         const Task quiet = m_quiet.back();
         m_quiet.pop_back();
         show(quiet);
     }
-    const auto name = m_stalledURL ? std::optional(m_stalledURL->fileName()) : std::nullopt;
+    const auto name = file ? std::optional(file->fileName()) : std::nullopt;
     m_announcer.assign(m_stalledFile, name, Change::stalledFile);
+}
+
+void RunningTasks::forgetOldStall()
+{
+    const Task* read = watchedRead();
+    if (read && read->id == m_stalledID)
+        return;
+    m_stalledURL.reset();
+    m_announcer.assign(m_stalledFile, std::nullopt, Change::stalledFile);
 }
 
 }  // namespace Quorbel

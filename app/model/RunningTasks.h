@@ -72,7 +72,9 @@ private:
     void show(const Task& task);
     Task* watchedRead();
     void publishProgress();
-    void publishStall();
+    void lookForStall();
+    void publishStall(int id, const std::optional<QUrl>& file);
+    void forgetOldStall();
 
     Announcer& m_announcer;
     std::vector<Task> m_shown;
@@ -82,7 +84,11 @@ private:
     std::optional<Progress> m_progress;
     std::optional<QString> m_stalledFile;
     std::optional<QUrl> m_stalledURL;
-    StallWatch m_stallWatch;
+    int m_stalledID = 0;  ///< of the task that is stuck at it
+    std::chrono::milliseconds m_stallInterval;
+    std::shared_ptr<StallWatch> m_stallWatch;  ///< used in the background, by one look at a time
+    QDeadlineTimer m_nextLook{ 0 };
+    bool m_isLooking = false;
     QTimer m_timer;
 };
 
