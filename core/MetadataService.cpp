@@ -64,6 +64,8 @@ QList<ImageRecord> MetadataService::read(const QList<QUrl>& urls, const ReadCont
     QList<ImageRecord> records;
     records.reserve(urls.size());
     for (qsizetype i = 0; i < urls.size(); ++i) {
+        if (control.stop.stop_requested())
+            throw CancelledError();
         const QString path = urls[i].toLocalFile();
         // A name that is no text comes back changed, but at its place: the objects are in the files' order.
         const auto found = mainByPath.constFind(path);

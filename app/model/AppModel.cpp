@@ -1,6 +1,7 @@
 // The model's beginning and end, what is open, and what other programs do to it.
 #include "app/model/AppModel.h"
 
+#include "app/model/library/PhotoListing.h"
 #include "core/schema/RecentItems.h"
 
 #include <QFileInfo>
@@ -34,6 +35,12 @@ AppModel::~AppModel() = default;
 void AppModel::connectParts()
 {
     connect(&m_library, &Library::problem, this, &AppModel::setErrorMessage);
+    connect(&m_library, &Library::listed, this, [this](const QList<QUrl>& given) {
+        QStringList paths;
+        for (const QUrl& url : given)
+            paths.append(url.toLocalFile());
+        m_preferences.recentPaths.set(RecentItems::updated(m_preferences.recentPaths(), paths, RecentItems::limit));
+    });
     connect(&m_library, &Library::opened, this, [this] {
         m_editing.forgetReturned();
         commitSelection(Selection::firstVisible(photos()));
@@ -153,16 +160,10 @@ void AppModel::openFile(const QUrl& url)
 void AppModel::load(const QList<QUrl>& urls)
 {
     requireMainThread("load");
-    const PhotoListing listing = PhotoListing::of(urls);
-    if (listing.files.isEmpty()) {
+    if (PhotoListing::isWorthListing(urls))
+        m_library.load(urls);
+    else
         setErrorMessage(u"No supported images were found."_s);
-        return;
-    }
-    QStringList opened;
-    for (const QUrl& url : listing.existing)
-        opened.append(url.toLocalFile());
-    m_preferences.recentPaths.set(RecentItems::updated(m_preferences.recentPaths(), opened, RecentItems::limit));
-    m_library.load(listing);
 }
 
 void AppModel::closeFolder()

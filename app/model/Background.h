@@ -4,6 +4,7 @@
 
 #include <QFutureWatcher>
 #include <QObject>
+#include <QRunnable>
 #include <QThreadPool>
 #include <QtConcurrent>
 
@@ -41,6 +42,24 @@ void runInBackground(QObject* owner, Job job, Done done)
         const PoolThreadLoan loan;
         return job();
     }));
+}
+
+/// Destroys a value in the background: a hundred thousand photos take their time even for that.
+template <typename T>
+void discardInBackground(T value)
+{
+    class Discard final : public QRunnable {
+    public:
+        explicit Discard(T&& value)
+            : m_value(std::move(value))
+        {
+        }
+        void run() override { }
+
+    private:
+        T m_value;
+    };
+    QThreadPool::globalInstance()->start(new Discard(std::move(value)));
 }
 
 }  // namespace Quorbel

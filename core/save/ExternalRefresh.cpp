@@ -6,14 +6,16 @@ namespace Quorbel::ExternalRefresh {
 
 using namespace Qt::StringLiterals;
 
+bool isModified(const std::optional<QDateTime>& asRead, const std::optional<QDateTime>& now)
+{
+    return asRead && now && *now != *asRead;
+}
+
 QList<QUrl> modifiedURLs(const QList<ImageRecord>& records, const ModificationDate& mtimeOf)
 {
     QList<QUrl> urls;
     for (const ImageRecord& record : records) {
-        if (!record.contentModificationDate)
-            continue;
-        const std::optional<QDateTime> now = mtimeOf(record);
-        if (now && *now != *record.contentModificationDate)
+        if (record.contentModificationDate && isModified(record.contentModificationDate, mtimeOf(record)))
             urls.append(record.url);
     }
     return urls;

@@ -18,6 +18,9 @@ struct Drafts {
     bool operator==(const Drafts&) const = default;
 };
 
+/// Whether a file that bore one date when it was read is another one now. False where either is not known.
+bool isModified(const std::optional<QDateTime>& asRead, const std::optional<QDateTime>& now);
+
 /// URLs of the records whose file now has another modification date, in the records' order. Records without a
 /// date, and files that are gone, are not among them.
 QList<QUrl> modifiedURLs(const QList<ImageRecord>& records, const ModificationDate& mtimeOf);

@@ -247,6 +247,9 @@ QList<JSONObject> ExifToolRunner::readJSON(
     if (!QUtf8StringView(output).isValidUtf8())
         output.clear();
     output = std::move(output).trimmed();
+    // To decode the answer for a hundred thousand files takes seconds.
+    if (control.stop.stop_requested())
+        throw CancelledError();
     return output.isEmpty() ? QList<JSONObject>(files.size()) : decode(std::move(output));
 }
 

@@ -1,11 +1,9 @@
 #include "app/model/library/FolderRefresh.h"
 
 #include "app/model/Background.h"
-#include "app/model/library/FolderScan.h"
 #include "app/model/library/FolderWatcher.h"
+#include "app/model/library/KnownFiles.h"
 #include "app/model/library/PhotoReader.h"
-#include "core/save/ExternalRefresh.h"
-#include "core/text/Text.h"
 
 #include <algorithm>
 
@@ -53,37 +51,41 @@ void FolderRefresh::refresh()
     }
     m_isRefreshing = true;
     runInBackground(
-        this, [folder = *m_folder] { return FolderScan::of(folder); },
-        [this, generation = m_generation, serial = m_photos.serial(), writes = m_writes](const FolderScan& scan) {
+        this, [folder = *m_folder, files = m_photos.files()] { return files->look(folder); },
+        [this, generation = m_generation, serial = m_photos.serial(), writes = m_writes](const FolderNews& news) {
             if (generation != m_generation)
                 return;
             m_isRefreshing = false;
             // A look that is older than a rename or save of our own would take our doing for another program's.
             if (std::exchange(m_again, false) || serial != m_photos.serial() || writes != m_writes)
                 return refresh();
-            if (scan.isListed)
-                apply(scan);
+            if (news.isListed)
+                apply(news);
         });
 }
 
-void FolderRefresh::apply(const FolderScan& scan)
+// In the list's order; without those that are not in it, or being written.
+QList<int> FolderRefresh::positions(const QList<QUrl>& photos) const
+{
+    QList<int> found;
+    for (const QUrl& photo : photos)
+        if (const int at = m_photos.position(photo); at >= 0 && !m_beingWritten.contains(photo))
+            found.append(at);
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+void FolderRefresh::apply(const FolderNews& news)
 {
     const Announcer::Together together(m_announcer);
     m_passedOverWritten = m_passedOverWritten || !m_beingWritten.isEmpty();
-    const QList<ImageRecord>& records = m_photos.records();
-    QList<int> gone;
-    for (int i = 0; i < int(records.size()); ++i)
-        if (const QUrl& url = records.at(i).url; !scan.photos.contains(url) && !m_beingWritten.contains(url))
-            gone.append(i);
-    QList<QUrl> changed = ExternalRefresh::modifiedURLs(
-        records, [&scan](const ImageRecord& record) { return scan.photos.value(record.url); });
-    changed.removeIf([this](const QUrl& url) { return m_beingWritten.contains(url) || m_tooSlow.contains(url); });
-    QList<QUrl> further;
-    for (auto photo = scan.photos.cbegin(); photo != scan.photos.cend(); ++photo)
-        if (!m_photos.contains(photo.key()) && !m_tooSlow.contains(photo.key()))
-            further.append(photo.key());
-    std::sort(further.begin(), further.end(),
-        [](const QUrl& a, const QUrl& b) { return Text::naturalCompare(a.fileName(), b.fileName()) < 0; });
+    const QList<int> gone = positions(news.gone);
+    QList<QUrl> changed;
+    for (const int at : positions(news.changed))
+        if (const QUrl& photo = m_photos.records().at(at).url; !m_tooSlow.contains(photo))
+            changed.append(photo);
+    QList<QUrl> further = news.further;
+    further.removeIf([this](const QUrl& photo) { return m_photos.contains(photo) || m_tooSlow.contains(photo); });
     if (!gone.isEmpty())
         emit vanished(gone);
     if (!changed.isEmpty())
@@ -164,6 +166,7 @@ void FolderRefresh::endWriting(bool isComplete)
 {
     m_beingWritten.clear();
     ++m_writes;
+    ++m_endedWrites;
     if (!isComplete || std::exchange(m_passedOverWritten, false))
         refresh();
 }

@@ -14,7 +14,7 @@
 namespace Quorbel {
 
 class FolderWatcher;
-struct FolderScan;
+struct FolderNews;
 
 class FolderRefresh final : public QObject {
     Q_OBJECT
@@ -36,6 +36,8 @@ public:
     void beginWriting(const QSet<QUrl>& photos);
     /// `isComplete`: every photo was read again after the write.
     void endWriting(bool isComplete);
+    /// Counts the ends of writes: what was read under another number may be older than what is in the files.
+    int endedWrites() const { return m_endedWrites; }
     bool isBeingWritten(const QUrl& photo) const { return m_beingWritten.contains(photo); }
 
 signals:
@@ -51,7 +53,8 @@ signals:
 private:
     using Take = std::function<void(const QList<ImageRecord>&)>;
 
-    void apply(const FolderScan& scan);
+    void apply(const FolderNews& news);
+    QList<int> positions(const QList<QUrl>& photos) const;
     void read(const QList<QUrl>& urls, const Take& take);
     void takeChanged(const QList<ImageRecord>& fresh);
     void takeAdded(const QList<ImageRecord>& fresh);
@@ -68,6 +71,7 @@ private:
     QSet<QUrl> m_beingWritten;
     int m_generation = 0;  ///< counts what was opened; results for an earlier one are dropped
     int m_writes = 0;  ///< counts beginnings and ends of writes
+    int m_endedWrites = 0;
     bool m_isRefreshing = false;
     bool m_again = false;
     int m_reads = 0;

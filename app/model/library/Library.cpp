@@ -1,10 +1,76 @@
 #include "app/model/library/Library.h"
 
 #include "app/model/Background.h"
+#include "app/model/library/FolderScan.h"
+#include "app/model/library/PhotoListing.h"
+#include "app/model/library/PhotoReader.h"
+#include "core/save/ExternalRefresh.h"
 
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
+
+/// A load on its way. It is used by one thread at a time, and goes in the background.
+struct Library::Load {
+    PhotoListing listing{};
+    QSet<QUrl> tooSlow{};
+    QList<QUrl> unread{};
+    PhotoReader::Result read{};
+    OpenPhotos photos{};  ///< in the end: the records that were read
+    int writes = 0;  ///< that had ended when what follows began
+
+    static std::shared_ptr<Load> of(PhotoListing listing)
+    {
+        auto* load = new Load{ .listing = std::move(listing) };
+        load->unread = load->listing.files;
+        return { load, [](Load* done) { discardInBackground(std::unique_ptr<Load>(done)); } };
+    }
+    void skip(const QUrl& file);
+    void run(
+        const MetadataService& service, RecordSortOrder order, TaskProgress& progress, const std::stop_token& stop);
+
+private:
+    void readChanged(const MetadataService& service, TaskProgress& progress, const std::stop_token& stop);
+};
+
+// Begins anew, without this file.
+void Library::Load::skip(const QUrl& file)
+{
+    tooSlow.insert(file);
+    read = {};
+    photos = {};
+    unread = listing.files;
+    unread.removeIf([this](const QUrl& url) { return tooSlow.contains(url); });
+}
+
+void Library::Load::run(
+    const MetadataService& service, RecordSortOrder order, TaskProgress& progress, const std::stop_token& stop)
+{
+    if (unread.isEmpty())
+        read.records = std::move(photos.records);
+    else
+        read = PhotoReader::read(service, std::exchange(unread, {}), progress, stop);
+    if (!read.error && !read.isCancelled)
+        readChanged(service, progress, stop);
+    photos = OpenPhotos::of(std::move(read.records), order, listing.folder.has_value(), stop);
+}
+
+// What was changed since it was read. Silent: what cannot be read any more stays as it is.
+void Library::Load::readChanged(
+    const MetadataService& service, TaskProgress& progress, const std::stop_token& stop)
+{
+    const QList<QUrl> changed = ExternalRefresh::modifiedURLs(read.records, [&stop](const ImageRecord& record) {
+        return stop.stop_requested() ? std::nullopt : modificationDate(record.url.toLocalFile());
+    });
+    if (changed.isEmpty())
+        return;
+    QHash<QUrl, ImageRecord> fresh;
+    for (const ImageRecord& record : PhotoReader::read(service, changed, progress, stop).records)
+        fresh.insert(record.url, record);
+    for (ImageRecord& record : read.records)
+        if (const auto again = fresh.constFind(record.url); again != fresh.cend())
+            record = *again;
+}
 
 Library::Library(
     Announcer& announcer, RunningTasks& tasks, std::optional<MetadataService> service, RecordSortOrder order)
@@ -16,67 +82,92 @@ Library::Library(
 {
 }
 
-void Library::load(const PhotoListing& listing)
+void Library::load(const QList<QUrl>& given)
 {
-    if (m_service)
-        read(listing, {});
-}
-
-void Library::read(const PhotoListing& listing, const QSet<QUrl>& tooSlow)
-{
-    QList<QUrl> files = listing.files;
-    files.removeIf([&tooSlow](const QUrl& file) { return tooSlow.contains(file); });
-    const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::load, files.size(), files);
+    // Without the tool nothing is read.
+    const auto id = m_service ? std::optional(m_tasks.begin(RunningTasks::Kind::load, 0).id) : std::nullopt;
     runInBackground(
-        this,
-        [service = *m_service, files, progress = task.progress, stop = task.stop.get_token()] {
-            return PhotoReader::read(service, files, *progress, stop);
-        },
-        [this, listing, tooSlow, id = task.id](PhotoReader::Result result) {
+        this, [given] { return PhotoListing::of(given); },
+        [this, id](PhotoListing listing) {
             const Announcer::Together together(m_announcer);
-            const std::optional<RunningTasks::Task> ended = m_tasks.end(id);
-            if (ended && ended->skipped)
-                return read(listing, QSet(tooSlow) << *ended->skipped);
-            finish(listing, tooSlow, std::move(result));
+            const auto ended = id ? m_tasks.end(*id) : std::nullopt;
+            if (ended && ended->stop.stop_requested())
+                return;
+            if (listing.files.isEmpty())
+                return emit problem(u"No supported images were found."_s);
+            emit listed(listing.existing);
+            if (m_service)
+                read(Load::of(std::move(listing)));
         });
 }
 
-void Library::finish(const PhotoListing& listing, const QSet<QUrl>& tooSlow, PhotoReader::Result result)
+void Library::read(const std::shared_ptr<Load>& load)
 {
+    load->writes = m_refresh.endedWrites();
+    const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::load, load->unread.size(), load->unread);
+    runInBackground(
+        this,
+        [service = *m_service, load, order = m_photos.order(), progress = task.progress, stop = task.stop.get_token()] {
+            load->run(service, order, *progress, stop);
+        },
+        [this, load, id = task.id] {
+            const Announcer::Together together(m_announcer);
+            std::optional<RunningTasks::Task> ended = m_tasks.end(id);
+            if (ended && ended->skipped) {
+                load->skip(*ended->skipped);
+                read(load);
+            } else if (ended && !ended->stop.stop_requested()) {
+                finish(load);
+            }
+            discardInBackground(std::move(ended));
+        });
+}
+
+void Library::finish(const std::shared_ptr<Load>& load)
+{
+    const PhotoReader::Result& result = load->read;
     if (result.isCancelled)
         return;
     if (result.error) {
         emit problem(u"Could not read metadata: "_s + *result.error);
         return;
     }
-    for (const QUrl& file : listing.files)
-        if (tooSlow.contains(file))
-            result.leftOut.append({ file.fileName(), u"took too long"_s });
-    if (!result.leftOut.isEmpty())
-        emit problem(PhotoReader::leftOutText(result.leftOut));
-    else if (result.records.isEmpty())
+    // What was read may be older than what a save of ours wrote meanwhile.
+    if (load->writes != m_refresh.endedWrites() && !load->photos.records.isEmpty())
+        return read(load);
+    QList<PhotoReader::LeftOut> leftOut = result.leftOut;
+    if (!load->tooSlow.isEmpty())
+        for (const QUrl& file : load->listing.files)
+            if (load->tooSlow.contains(file))
+                leftOut.append({ file.fileName(), u"took too long"_s });
+    if (!leftOut.isEmpty())
+        emit problem(PhotoReader::leftOutText(leftOut));
+    else if (load->photos.records.isEmpty())
         emit problem(u"No supported images were found."_s);
-    if (result.records.isEmpty())
+    if (load->photos.records.isEmpty())
         return;
-    show(std::move(result.records), listing, tooSlow);
+    show(*load);
     emit opened();
+    // Nobody watched the folder while it was read.
+    m_refresh.refresh();
 }
 
-void Library::show(QList<ImageRecord> records, const PhotoListing& listing, const QSet<QUrl>& tooSlow)
+void Library::show(Load& load)
 {
-    m_photos.open(std::move(records));
-    const bool hasOtherName = std::exchange(m_folderName, listing.label) != listing.label;
-    const bool isOtherFolder = std::exchange(m_folderURL, listing.folder) != listing.folder;
+    m_photos.open(std::move(load.photos));
+    const bool hasOtherName = std::exchange(m_folderName, load.listing.label) != load.listing.label;
+    const bool isOtherFolder = std::exchange(m_folderURL, load.listing.folder) != load.listing.folder;
     if (hasOtherName || isOtherFolder)
         m_announcer.announce(Change::folder);
-    m_refresh.begin(listing.folder, tooSlow);
+    m_refresh.begin(load.listing.folder, load.tooSlow);
 }
 
 void Library::close()
 {
     const Announcer::Together together(m_announcer);
     m_tasks.cancelReads();
-    show({}, {}, {});
+    Load nothing;
+    show(nothing);
 }
 
 }  // namespace Quorbel

@@ -5,8 +5,8 @@
 #include "app/model/RunningTasks.h"
 #include "app/model/library/FolderRefresh.h"
 #include "app/model/library/PhotoList.h"
-#include "app/model/library/PhotoListing.h"
-#include "app/model/library/PhotoReader.h"
+
+#include <memory>
 
 namespace Quorbel {
 
@@ -25,21 +25,26 @@ public:
     /// The one folder that is open and watched; nothing where files or several folders are.
     const std::optional<QUrl>& folderURL() const { return m_folderURL; }
 
-    /// What is open is replaced as a whole when the read has ended: photos, name and watched folder always come from
-    /// the same load, whichever of several ends last.
-    void load(const PhotoListing& listing);
+    /// Lists the folders among these and reads the photos. What is open is replaced as a whole when the read has ended:
+    /// photos, name and watched folder always come from the same load, whichever of several ends last. What others, or
+    /// a save of ours, changed during the read is read again.
+    void load(const QList<QUrl>& given);
     void close();
 
 signals:
+    /// Photos were found, and are being read; of what was given, these exist.
+    void listed(const QList<QUrl>& given);
     /// Other photos are in the list.
     void opened();
     /// A text for the banner.
     void problem(const QString& text);
 
 private:
-    void read(const PhotoListing& listing, const QSet<QUrl>& tooSlow);
-    void finish(const PhotoListing& listing, const QSet<QUrl>& tooSlow, PhotoReader::Result result);
-    void show(QList<ImageRecord> records, const PhotoListing& listing, const QSet<QUrl>& tooSlow);
+    struct Load;
+
+    void read(const std::shared_ptr<Load>& load);
+    void finish(const std::shared_ptr<Load>& load);
+    void show(Load& load);
 
     Announcer& m_announcer;
     RunningTasks& m_tasks;

@@ -1,16 +1,31 @@
 #include "app/model/library/PhotoList.h"
 
-#include "core/schema/FieldID.h"
+#include "app/model/Background.h"
 #include "core/text/Text.h"
 
-#include <algorithm>
-
 namespace Quorbel {
+
+OpenPhotos OpenPhotos::of(
+    QList<ImageRecord> records, RecordSortOrder order, bool isWatched, const std::stop_token& stop)
+{
+    OpenPhotos photos{ .records = std::move(records) };
+    // Room for what is added later: growing moves everything.
+    photos.records.reserve(photos.records.size() + photos.records.size() / 4);
+    photos.index.reset(photos.records, order, stop);
+    for (const ImageRecord& record : std::as_const(photos.records)) {
+        if (stop.stop_requested())
+            return photos;
+        photos.keywords.add(record);
+    }
+    if (isWatched)
+        photos.files = std::make_shared<KnownFiles>(photos.records);
+    return photos;
+}
 
 const ImageRecord* PhotoList::record(const QUrl& url) const
 {
     const int at = position(url);
-    return at < 0 ? nullptr : &m_records.at(at);
+    return at < 0 ? nullptr : &m_open.records.at(at);
 }
 
 void PhotoList::setSearch(const QString& text)
@@ -32,115 +47,104 @@ void PhotoList::setOrder(RecordSortOrder order)
         updateVisibleRows(false);
 }
 
-void PhotoList::open(QList<ImageRecord> records)
+void PhotoList::open(OpenPhotos photos)
 {
-    m_index.reset(records);
-    m_announcer.assign(m_records, std::move(records), Change::records);
-    contentChanged();
-    updateVisibleRows(true);
+    std::swap(m_open, photos);
+    discardInBackground(std::move(photos));
+    contentChanged(true, true);
+}
+
+// In the place of what was there.
+void PhotoList::put(int position, const ImageRecord& record)
+{
+    ImageRecord& old = m_open.records[position];
+    m_open.keywords.remove(old);
+    m_open.keywords.add(record);
+    if (m_open.files && old.url != record.url)
+        m_open.files->forget(old.url);
+    if (m_open.files)
+        m_open.files->note(record);
+    old = record;
 }
 
 bool PhotoList::replace(const QList<ImageRecord>& fresh)
 {
-    bool isChanged = false;
+    QList<int> changed;
     for (const ImageRecord& record : fresh) {
         const int at = position(record.url);
-        if (at < 0 || m_records.at(at) == record)
+        if (at < 0 || m_open.records.at(at) == record)
             continue;
-        m_records[at] = record;
-        m_index.replace(at, record);
-        isChanged = true;
+        put(at, record);
+        changed.append(at);
     }
-    if (!isChanged)
+    if (changed.isEmpty())
         return false;
-    m_announcer.announce(Change::records);
-    contentChanged();
-    updateVisibleRows(false);
+    m_open.index.replace(changed, m_open.records);
+    contentChanged(true, false);
     return true;
 }
 
 void PhotoList::remove(const QList<int>& positions)
 {
-    QSet<QUrl> gone;
-    for (const int at : positions)
-        gone.insert(m_records.at(at).url);
-    m_records.removeIf([&gone](const ImageRecord& record) { return gone.contains(record.url); });
-    m_index.remove(positions);
-    m_announcer.announce(Change::records);
-    contentChanged();
-    updateVisibleRows(true);
+    for (const int at : positions) {
+        m_open.keywords.remove(m_open.records.at(at));
+        if (m_open.files)
+            m_open.files->forget(m_open.records.at(at).url);
+    }
+    auto next = positions.cbegin();
+    int at = 0;
+    m_open.records.removeIf([&](const ImageRecord&) {
+        const bool isGone = next != positions.cend() && *next == at++;
+        next += isGone ? 1 : 0;
+        return isGone;
+    });
+    m_open.index.remove(positions);
+    contentChanged(true, true);
 }
 
 bool PhotoList::append(const QList<ImageRecord>& fresh)
 {
-    const qsizetype before = m_records.size();
+    const qsizetype before = m_open.records.size();
     for (const ImageRecord& record : fresh) {
         if (contains(record.url))
             continue;
-        m_records.append(record);
-        m_index.append(record);
+        m_open.records.append(record);
+        m_open.keywords.add(record);
+        if (m_open.files)
+            m_open.files->note(record);
     }
-    if (m_records.size() == before)
+    if (m_open.records.size() == before)
         return false;
-    m_announcer.announce(Change::records);
-    contentChanged();
-    updateVisibleRows(true);
+    m_open.index.append(m_open.records);
+    contentChanged(false, true);
     return true;
 }
 
 void PhotoList::rename(const QUrl& source, const QUrl& destination)
 {
     const int at = position(source);
-    m_records[at].url = destination;
-    m_records[at].fileName = destination.fileName();
-    m_index.replace(at, m_records.at(at));
-    m_announcer.announce(Change::records);
-    contentChanged();
-    updateVisibleRows(true);
+    ImageRecord renamed = m_open.records.at(at);
+    renamed.url = destination;
+    renamed.fileName = destination.fileName();
+    put(at, renamed);
+    m_open.index.replace({ at }, m_open.records);
+    contentChanged(true, true);
 }
 
-void PhotoList::contentChanged()
+void PhotoList::contentChanged(bool isHeldChanged, bool photosChanged)
 {
+    const Announcer::Together together(m_announcer);
     ++m_serial;
-    m_keywordsByUse.reset();
+    m_heldSerial += isHeldChanged ? 1 : 0;
+    m_announcer.announce(Change::records);
+    updateVisibleRows(photosChanged);
 }
 
 void PhotoList::updateVisibleRows(bool photosChanged)
 {
-    QList<int> rows = m_index.rows(m_needle, m_order);
+    QList<int> rows = m_open.index.rows(m_needle, m_order);
     if (!m_announcer.assign(m_visibleRows, std::move(rows), Change::visibleRows) && photosChanged)
         m_announcer.announce(Change::visibleRows);
-}
-
-const QStringList& PhotoList::keywordsByUse() const
-{
-    if (m_keywordsByUse)
-        return *m_keywordsByUse;
-    QHash<QString, int> uses;
-    for (const ImageRecord& record : m_records)
-        for (const QString& keyword : record.lists.value(FieldID::keywords))
-            ++uses[keyword];
-    QStringList keywords = uses.keys();
-    std::sort(keywords.begin(), keywords.end(), [&uses](const QString& a, const QString& b) {
-        if (const int difference = uses.value(a) - uses.value(b))
-            return difference > 0;
-        const int order = Text::naturalCompare(a, b);
-        return order != 0 ? order < 0 : a < b;
-    });
-    m_keywordsByUse = std::move(keywords);
-    return *m_keywordsByUse;
-}
-
-QStringList PhotoList::keywordCompletions(const QString& prefix, int limit) const
-{
-    QStringList found;
-    for (const QString& keyword : keywordsByUse()) {
-        if (found.size() >= limit)
-            break;
-        if (keyword.startsWith(prefix, Qt::CaseInsensitive))
-            found.append(keyword);
-    }
-    return found;
 }
 
 }  // namespace Quorbel

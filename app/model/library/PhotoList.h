@@ -3,14 +3,28 @@
 #pragma once
 
 #include "app/model/Announcer.h"
+#include "app/model/library/KeywordUses.h"
+#include "app/model/library/KnownFiles.h"
 #include "app/model/library/RecordIndex.h"
 
 #include <QList>
 #include <QStringList>
 
-#include <optional>
+#include <memory>
 
 namespace Quorbel {
+
+/// Photos, and all that is derived from them: made in the background, since a hundred thousand take their time.
+struct OpenPhotos {
+    QList<ImageRecord> records{};
+    RecordIndex index{};
+    KeywordUses keywords{};
+    std::shared_ptr<KnownFiles> files{};  ///< null where nothing is watched
+
+    /// Sorted in this order. Once stopped, it ends early, and the result is of no use.
+    static OpenPhotos of(
+        QList<ImageRecord> records, RecordSortOrder order, bool isWatched, const std::stop_token& stop = {});
+};
 
 class PhotoList final {
 public:
@@ -22,9 +36,9 @@ public:
     Q_DISABLE_COPY_MOVE(PhotoList)
 
     /// In the order in which they were read.
-    const QList<ImageRecord>& records() const { return m_records; }
+    const QList<ImageRecord>& records() const { return m_open.records; }
     /// -1 when there is none.
-    int position(const QUrl& url) const { return m_index.position(url); }
+    int position(const QUrl& url) const { return m_open.index.position(url); }
     bool contains(const QUrl& url) const { return position(url) >= 0; }
     /// Null when there is none. Valid until the records change.
     const ImageRecord* record(const QUrl& url) const;
@@ -32,14 +46,18 @@ public:
     const QList<int>& visibleRows() const { return m_visibleRows; }
     /// Counts the changes of the records: what was derived from them under another number is out of date.
     int serial() const { return m_serial; }
+    /// The same, though photos that were only added do not count: the others are where and what they were.
+    int heldSerial() const { return m_heldSerial; }
+    /// What looks in the background compare with; null where nothing is watched.
+    const std::shared_ptr<KnownFiles>& files() const { return m_open.files; }
 
     const QString& search() const { return m_search; }
     void setSearch(const QString& text);
     RecordSortOrder order() const { return m_order; }
     void setOrder(RecordSortOrder order);
 
-    /// Other photos are open now.
-    void open(QList<ImageRecord> records);
+    /// Other photos are open now. What was open goes in the background.
+    void open(OpenPhotos photos);
     /// Puts each record in the place of the one with its URL; one that is not open is ignored. Whether any differed.
     bool replace(const QList<ImageRecord>& fresh);
     /// Positions ascending.
@@ -50,22 +68,24 @@ public:
     void rename(const QUrl& source, const QUrl& destination);
 
     /// Keywords of the photos that begin with the text (any case), the most used first; at most `limit`.
-    QStringList keywordCompletions(const QString& prefix, int limit) const;
+    QStringList keywordCompletions(const QString& prefix, int limit) const
+    {
+        return m_open.keywords.completions(prefix, limit);
+    }
 
 private:
-    void contentChanged();
+    void put(int position, const ImageRecord& record);
+    void contentChanged(bool isHeldChanged, bool photosChanged);
     void updateVisibleRows(bool photosChanged);
-    const QStringList& keywordsByUse() const;
 
     Announcer& m_announcer;
-    QList<ImageRecord> m_records;
-    RecordIndex m_index;
+    OpenPhotos m_open;
     QList<int> m_visibleRows;
     QString m_search;
     QString m_needle;  ///< the search as it is compared: trimmed, lower case
     RecordSortOrder m_order;
     int m_serial = 0;
-    mutable std::optional<QStringList> m_keywordsByUse;
+    int m_heldSerial = 0;
 };
 
 }  // namespace Quorbel

@@ -43,6 +43,14 @@ QList<QUrl> inNaturalOrder(const QList<QUrl>& urls)
 
 }  // namespace
 
+bool PhotoListing::isWorthListing(const QList<QUrl>& urls)
+{
+    return std::any_of(urls.cbegin(), urls.cend(), [](const QUrl& url) {
+        const QFileInfo info(url.toLocalFile());
+        return url.isLocalFile() && info.exists() && (info.isDir() || ImageTypes::isImage(url));
+    });
+}
+
 PhotoListing PhotoListing::of(const QList<QUrl>& urls)
 {
     PhotoListing listing;

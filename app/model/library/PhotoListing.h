@@ -1,5 +1,5 @@
 // Which of the things given to the program are photos.
-// Thread: any. Touches the file system; starts nothing.
+// Thread: any; a listing belongs in the background. Touches the file system; starts nothing.
 #pragma once
 
 #include <QList>
@@ -20,6 +20,8 @@ struct PhotoListing {
     /// Folders contribute their immediate entries, hidden ones too; what does not exist is skipped, and a folder
     /// that cannot be listed counts as empty.
     static PhotoListing of(const QList<QUrl>& urls);
+    /// Whether there is a photo or a folder among them. Lists nothing.
+    static bool isWorthListing(const QList<QUrl>& urls);
 };
 
 }  // namespace Quorbel

@@ -4,79 +4,163 @@
 
 #include <algorithm>
 #include <numeric>
-#include <tuple>
 
 namespace Quorbel {
+
+namespace {
+
+// Room for what is added later: growing moves everything.
+qsizetype withRoom(qsizetype count)
+{
+    return count + count / 2 + 64;
+}
+
+bool isByDate(RecordSortOrder order)
+{
+    return order == RecordSortOrder::dateNewest || order == RecordSortOrder::dateOldest;
+}
+
+std::optional<qint64> createdAt(const ImageRecord& record)
+{
+    return record.creationDate ? std::optional(record.creationDate->toMSecsSinceEpoch()) : std::nullopt;
+}
+
+// Both sorted: one list out of two, in steps over numbers and comparisons of the new ones alone.
+template <typename Less>
+std::vector<int> merged(const std::vector<int>& old, const std::vector<int>& fresh, const Less& less)
+{
+    std::vector<int> all;
+    all.reserve(size_t(withRoom(qsizetype(old.size() + fresh.size()))));
+    auto from = old.cbegin();
+    for (const int position : fresh) {
+        const auto to = std::upper_bound(from, old.cend(), position, less);
+        all.insert(all.end(), from, to);
+        all.push_back(position);
+        from = to;
+    }
+    all.insert(all.end(), from, old.cend());
+    return all;
+}
+
+}  // namespace
 
 RecordIndex::Entry::Entry(const ImageRecord& record)
     : url(record.url)
     , fileName(record.fileName)
     , lowerName(record.fileName.toLower())
     , nameKey(Text::naturalSortKey(record.fileName))
+    , created(createdAt(record))
 {
-    if (record.creationDate)
-        created = record.creationDate->toMSecsSinceEpoch();
 }
 
-void RecordIndex::reset(const QList<ImageRecord>& records)
+void RecordIndex::reset(const QList<ImageRecord>& records, RecordSortOrder order, const std::stop_token& stop)
 {
-    m_entries.clear();
-    m_entries.reserve(size_t(records.size()));
-    for (const ImageRecord& record : records)
-        m_entries.emplace_back(record);
-    m_byName.clear();
-    m_sortedBy.reset();
-    rebuildPositions();
+    *this = {};
+    m_entries.reserve(size_t(withRoom(records.size())));
+    m_positions.reserve(size_t(withRoom(records.size())));
+    m_ids.reserve(withRoom(records.size()));
+    for (const ImageRecord& record : records) {
+        if (stop.stop_requested())
+            return;
+        add(record);
+    }
+    m_byName.resize(m_entries.size());
+    std::iota(m_byName.begin(), m_byName.end(), 0);
+    std::sort(m_byName.begin(), m_byName.end(), [this](int a, int b) { return isBefore(a, b); });
+    if (stop.stop_requested())
+        return;
+    rank(m_byName);
+    sortedBy(order);
 }
 
-void RecordIndex::append(const ImageRecord& record)
+void RecordIndex::add(const ImageRecord& record)
 {
-    const int position = int(m_entries.size());
-    m_entries.emplace_back(record);
-    if (!m_positions.contains(record.url))
-        m_positions.insert(record.url, position);
-    m_byName.clear();
-    m_sortedBy.reset();
+    Entry& added = m_entries.emplace_back(record);
+    added.id = int(m_positions.size());
+    m_positions.push_back(int(m_entries.size()) - 1);
+    if (!m_ids.contains(record.url))
+        m_ids.insert(record.url, added.id);
 }
 
-void RecordIndex::replace(int position, const ImageRecord& record)
+int RecordIndex::position(const QUrl& url) const
 {
-    Entry& entry = m_entries[size_t(position)];
-    const bool isRenamed = entry.url != record.url;
-    const auto created = record.creationDate ? std::optional(record.creationDate->toMSecsSinceEpoch()) : std::nullopt;
-    if (entry.created != created) {
-        entry.created = created;
-        if (m_sortedBy == RecordSortOrder::dateNewest || m_sortedBy == RecordSortOrder::dateOldest)
-            m_sortedBy.reset();
+    const auto id = m_ids.constFind(url);
+    return id == m_ids.cend() ? -1 : m_positions[size_t(*id)];
+}
+
+void RecordIndex::append(const QList<ImageRecord>& records)
+{
+    std::vector<int> fresh(size_t(records.size()) - m_entries.size());
+    std::iota(fresh.begin(), fresh.end(), int(m_entries.size()));
+    for (const int position : fresh)
+        add(records.at(position));
+    put(std::move(fresh));
+}
+
+void RecordIndex::replace(const QList<int>& positions, const QList<ImageRecord>& records)
+{
+    std::vector<int> moved;
+    for (const int position : positions) {
+        const Entry& old = entry(position);
+        if (old.url != records.at(position).url || old.fileName != records.at(position).fileName
+            || old.created != createdAt(records.at(position)))
+            moved.push_back(position);
     }
-    if (entry.fileName != record.fileName) {
-        entry = Entry(record);
-        m_byName.clear();
-        m_sortedBy.reset();
+    if (moved.empty())
+        return;
+    take(moved);
+    for (const int position : moved)
+        follow(position, records.at(position));
+    put(std::move(moved));
+}
+
+// The photo of this position is this one now.
+void RecordIndex::follow(int position, const ImageRecord& record)
+{
+    Entry& old = m_entries[size_t(position)];
+    if (old.url != record.url) {
+        if (m_ids.value(old.url, -1) == old.id)
+            m_ids.remove(old.url);
+        m_ids.insert(record.url, old.id);
     }
-    if (isRenamed) {
-        entry.url = record.url;
-        rebuildPositions();
-    }
+    const int id = old.id;
+    if (old.fileName != record.fileName)
+        old = Entry(record);
+    old.id = id;
+    old.url = record.url;
+    old.created = createdAt(record);
 }
 
 void RecordIndex::remove(const QList<int>& positions)
 {
+    std::vector<int> newPosition(m_entries.size());
     auto next = positions.cbegin();
-    size_t kept = 0;
-    for (size_t i = 0; i < m_entries.size(); ++i) {
-        if (next != positions.cend() && *next == int(i)) {
+    int kept = 0;
+    for (int i = 0; i < int(m_entries.size()); ++i) {
+        Entry& old = m_entries[size_t(i)];
+        if (next != positions.cend() && *next == i) {
             ++next;
+            newPosition[size_t(i)] = -1;
+            m_positions[size_t(old.id)] = -1;
+            if (m_ids.value(old.url, -1) == old.id)
+                m_ids.remove(old.url);
             continue;
         }
-        if (kept != i)
-            m_entries[kept] = std::move(m_entries[i]);
+        newPosition[size_t(i)] = kept;
+        m_positions[size_t(old.id)] = kept;
+        if (kept != i) {
+            m_nameRank[size_t(kept)] = m_nameRank[size_t(i)];
+            m_entries[size_t(kept)] = std::move(old);
+        }
         ++kept;
     }
-    m_entries.erase(m_entries.begin() + std::ptrdiff_t(kept), m_entries.end());
-    m_byName.clear();
-    m_sortedBy.reset();
-    rebuildPositions();
+    m_entries.erase(m_entries.begin() + kept, m_entries.end());
+    m_nameRank.resize(size_t(kept));
+    for (std::vector<int>* sorted : { &m_byName, &m_sorted }) {
+        std::erase_if(*sorted, [&newPosition](int position) { return newPosition[size_t(position)] < 0; });
+        for (int& position : *sorted)
+            position = newPosition[size_t(position)];
+    }
 }
 
 QList<int> RecordIndex::rows(const QString& needle, RecordSortOrder order)
@@ -86,44 +170,80 @@ QList<int> RecordIndex::rows(const QString& needle, RecordSortOrder order)
         return QList<int>(all.cbegin(), all.cend());
     QList<int> found;
     for (const int position : all)
-        if (m_entries[size_t(position)].lowerName.contains(needle))
+        if (entry(position).lowerName.contains(needle))
             found.append(position);
     return found;
 }
 
-void RecordIndex::rebuildPositions()
+// By name; photos of equal names as they stand in the list.
+bool RecordIndex::isBefore(int a, int b) const
 {
-    m_positions.clear();
-    m_positions.reserve(qsizetype(m_entries.size()));
-    // Backwards, so that the first of two equal URLs is the one that stays.
-    for (size_t i = m_entries.size(); i-- > 0;)
-        m_positions.insert(m_entries[i].url, int(i));
+    const int order = entry(a).nameKey.compare(entry(b).nameKey);
+    return order != 0 ? order < 0 : a < b;
 }
 
-void RecordIndex::sortNames()
+RecordIndex::DateKey RecordIndex::dateKey(int position, bool newestFirst) const
 {
-    m_byName.resize(m_entries.size());
-    std::iota(m_byName.begin(), m_byName.end(), 0);
-    std::sort(m_byName.begin(), m_byName.end(), [this](int a, int b) {
-        const int order = m_entries[size_t(a)].nameKey.compare(m_entries[size_t(b)].nameKey);
-        return order != 0 ? order < 0 : a < b;
-    });
-    m_nameRank.resize(m_entries.size());
+    const qint64 created = entry(position).created.value_or(0);
+    return { !entry(position).created, newestFirst ? -created : created, m_nameRank[size_t(position)], position };
+}
+
+// Where two photos were ranked before, their old ranks tell whether their names are equal.
+void RecordIndex::rank(const std::vector<int>& fresh)
+{
+    std::vector<bool> isFresh(m_entries.size());
+    for (const int position : fresh)
+        isFresh[size_t(position)] = true;
+    const auto areEqual = [&](int a, int b) {
+        if (isFresh[size_t(a)] || isFresh[size_t(b)])
+            return entry(a).nameKey.compare(entry(b).nameKey) == 0;
+        return m_nameRank[size_t(a)] == m_nameRank[size_t(b)];
+    };
+    std::vector<int> ranks(m_entries.size());
     int rank = 0;
     for (size_t i = 0; i < m_byName.size(); ++i) {
-        const auto current = size_t(m_byName[i]);
-        if (i > 0 && m_entries[size_t(m_byName[i - 1])].nameKey.compare(m_entries[current].nameKey) != 0)
+        if (i > 0 && !areEqual(m_byName[i - 1], m_byName[i]))
             ++rank;
-        m_nameRank[current] = rank;
+        ranks[size_t(m_byName[i])] = rank;
     }
+    m_nameRank = std::move(ranks);
+}
+
+// Out of what is sorted; the entries stay.
+void RecordIndex::take(const std::vector<int>& positions)
+{
+    std::vector<bool> isTaken(m_entries.size());
+    for (const int position : positions)
+        isTaken[size_t(position)] = true;
+    for (std::vector<int>* sorted : { &m_byName, &m_sorted })
+        std::erase_if(*sorted, [&isTaken](int position) { return isTaken[size_t(position)]; });
+}
+
+// Into what is sorted.
+void RecordIndex::put(std::vector<int> positions)
+{
+    const auto byName = [this](int a, int b) { return isBefore(a, b); };
+    std::sort(positions.begin(), positions.end(), byName);
+    m_byName = merged(m_byName, positions, byName);
+    rank(positions);
+    if (!m_sortedBy)
+        return;
+    if (!isByDate(*m_sortedBy)) {
+        const RecordSortOrder order = *m_sortedBy;
+        m_sortedBy.reset();
+        sortedBy(order);
+        return;
+    }
+    const bool newestFirst = m_sortedBy == RecordSortOrder::dateNewest;
+    const auto byDate = [this, newestFirst](int a, int b) { return dateKey(a, newestFirst) < dateKey(b, newestFirst); };
+    std::sort(positions.begin(), positions.end(), byDate);
+    m_sorted = merged(m_sorted, positions, byDate);
 }
 
 const std::vector<int>& RecordIndex::sortedBy(RecordSortOrder order)
 {
     if (m_sortedBy == order)
         return m_sorted;
-    if (m_byName.size() != m_entries.size())
-        sortNames();
     switch (order) {
     case RecordSortOrder::nameAsc:
         m_sorted = m_byName;
@@ -158,24 +278,14 @@ std::vector<int> RecordIndex::namesDescending() const
 
 std::vector<int> RecordIndex::byDate(bool newestFirst) const
 {
-    struct Key {
-        bool isUndated;
-        qint64 date;
-        int rank;
-        int position;
-    };
-    std::vector<Key> keys;
+    std::vector<DateKey> keys;
     keys.reserve(m_entries.size());
-    for (size_t i = 0; i < m_entries.size(); ++i) {
-        const qint64 created = m_entries[i].created.value_or(0);
-        keys.push_back({ !m_entries[i].created, newestFirst ? -created : created, m_nameRank[i], int(i) });
-    }
-    std::sort(keys.begin(), keys.end(), [](const Key& a, const Key& b) {
-        return std::tie(a.isUndated, a.date, a.rank, a.position) < std::tie(b.isUndated, b.date, b.rank, b.position);
-    });
+    for (int i = 0; i < int(m_entries.size()); ++i)
+        keys.push_back(dateKey(i, newestFirst));
+    std::sort(keys.begin(), keys.end());
     std::vector<int> result;
     result.reserve(keys.size());
-    for (const Key& key : keys)
+    for (const DateKey& key : keys)
         result.push_back(key.position);
     return result;
 }

@@ -1,6 +1,7 @@
 // Where each photo of a list stands: by URL, and in a sort order through a search.
 // Thread: one at a time. Keeps one natural sort key and one lower-case name a photo, so that neither a keystroke in
-// the search nor another sort order compares texts again.
+// the search nor another sort order compares texts again. What comes, goes or changes is put in its place in what is
+// sorted already: that costs steps over plain numbers, and texts are compared only around the photos concerned.
 #pragma once
 
 #include "core/schema/ImageRecord.h"
@@ -10,21 +11,24 @@
 #include <QHash>
 
 #include <optional>
+#include <stop_token>
 #include <vector>
 
 namespace Quorbel {
 
 class RecordIndex final {
 public:
-    void reset(const QList<ImageRecord>& records);
-    void append(const ImageRecord& record);
-    /// The record at this position is another one now, or was read again.
-    void replace(int position, const ImageRecord& record);
+    /// Sorts at once. Once stopped, it ends early, and the index is of no use.
+    void reset(const QList<ImageRecord>& records, RecordSortOrder order, const std::stop_token& stop = {});
+    /// The records from this position on are new, behind those that are known.
+    void append(const QList<ImageRecord>& records);
+    /// The records at these positions are other ones now, or were read again.
+    void replace(const QList<int>& positions, const QList<ImageRecord>& records);
     /// Positions ascending; those behind them move up.
     void remove(const QList<int>& positions);
 
     /// -1 when there is none. The first one where a URL occurs twice.
-    int position(const QUrl& url) const { return m_positions.value(url, -1); }
+    int position(const QUrl& url) const;
     /// Positions of the photos whose lower-case file name contains `needle` (lower case; "" finds all), in this
     /// order; what is equal in it stays in the list's. Photos without a creation date come last; those of one date, or
     /// without, by name.
@@ -39,17 +43,33 @@ private:
         QString lowerName;
         QCollatorSortKey nameKey;
         std::optional<qint64> created;  ///< ms since 1970
+        int id = 0;
+    };
+    /// What decides in an order by date.
+    struct DateKey {
+        bool isUndated;
+        qint64 date;
+        int rank;
+        int position;
+        auto operator<=>(const DateKey&) const = default;
     };
 
-    void rebuildPositions();
-    void sortNames();
+    void add(const ImageRecord& record);
+    void follow(int position, const ImageRecord& record);
+    const Entry& entry(int position) const { return m_entries[size_t(position)]; }
+    bool isBefore(int a, int b) const;
+    DateKey dateKey(int position, bool newestFirst) const;
+    void rank(const std::vector<int>& fresh);
+    void take(const std::vector<int>& positions);
+    void put(std::vector<int> positions);
     const std::vector<int>& sortedBy(RecordSortOrder order);
     std::vector<int> namesDescending() const;
     std::vector<int> byDate(bool newestFirst) const;
 
     std::vector<Entry> m_entries;
-    QHash<QUrl, int> m_positions;
-    std::vector<int> m_byName;  ///< positions, ascending by name; empty: not sorted yet
+    QHash<QUrl, int> m_ids;  ///< never renumbered, so that a photo that goes moves no other one in it
+    std::vector<int> m_positions;  ///< by id
+    std::vector<int> m_byName;  ///< positions, ascending by name
     std::vector<int> m_nameRank;  ///< by position; photos of equal names have equal ranks
     std::vector<int> m_sorted;  ///< positions in m_sortedBy's order
     std::optional<RecordSortOrder> m_sortedBy;

@@ -40,9 +40,9 @@ const ImageRecord* SelectedPhotos::primaryRecord() const
 
 void SelectedPhotos::forgetIfOutdated() const
 {
-    if (m_listSerial == m_list.serial())
+    if (m_listSerial == m_list.heldSerial())
         return;
-    m_listSerial = m_list.serial();
+    m_listSerial = m_list.heldSerial();
     m_rows.reset();
     m_summary.reset();
 }

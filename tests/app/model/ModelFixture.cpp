@@ -14,7 +14,8 @@ GatedTool::GatedTool()
 my ($dir) = $0 =~ m{^(.*)/};
 my $text = '';
 if (open my $f, '<', "$dir/shut") { local $/; $text = <$f> // '' }
-if (grep { index($_, $text) >= 0 } @ARGV and -e "$dir/shut") {
+my @missing = grep { my $wanted = $_; not grep { index($_, $wanted) >= 0 } @ARGV } split /\n/, $text;
+if (not @missing and -e "$dir/shut") {
     open my $f, '>', "$dir/waits";
     close $f;
     select undef, undef, undef, 0.005 while -e "$dir/shut";

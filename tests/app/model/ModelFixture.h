@@ -9,8 +9,8 @@
 
 namespace Quorbel::Test {
 
-/// The real tool behind a gate: while it is shut, runs wait before they begin; only those with an argument that
-/// holds the text, where one is given.
+/// The real tool behind a gate: while it is shut, runs wait before they begin; only those that have, for each line of
+/// the text, an argument that holds it.
 class GatedTool {
 public:
     GatedTool();

@@ -2,6 +2,7 @@
 #include "app/model/library/RecordIndex.h"
 #include "tests/app/model/ModelFixture.h"
 
+#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTest>
 #include <QThreadPool>
@@ -45,6 +46,8 @@ private slots:
     void nothingReadable();
     void failedReadKeepsWhatIsOpen();
     void cancelledReadIsSilent();
+    void endOfAReadCanBeCancelled_data();
+    void endOfAReadCanBeCancelled();
     void progressFollowsTheRead();
     void lastReadToEndWinsAsAWhole();
     void closing();
@@ -232,6 +235,38 @@ void tst_AppModelLibrary::cancelledReadIsSilent()
     QCOMPARE(f->folderURL(), f.folderURL());
 }
 
+void tst_AppModelLibrary::endOfAReadCanBeCancelled_data()
+{
+    QTest::addColumn<bool>("closes");
+    QTest::addColumn<QStringList>("visible");
+    QTest::addRow("cancel") << false << QStringList{ u"a.jpg"_s };
+    QTest::addRow("close") << true << QStringList();
+}
+
+// The photos are read, and only wait to be shown.
+void tst_AppModelLibrary::endOfAReadCanBeCancelled()
+{
+    QFETCH(bool, closes);
+    GatedTool tool;
+    ModelFixture f(tool.service());
+    f.folder.add(u"a.jpg"_s);
+    QVERIFY(f.open());
+    QVERIFY(QDir(f.folder.path()).mkpath(u"other"_s));
+    f.folder.add(u"other/b.jpg"_s);
+    tool.shut();
+    f->load({ f.url(u"other"_s) });
+    QVERIFY(tool.waitForRun());
+    tool.release();
+    QVERIFY(QThreadPool::globalInstance()->waitForDone(30000));
+    if (closes)
+        f->closeFolder();
+    else
+        f->cancelRead();
+    QVERIFY(f.waitUntilIdle());
+    QTEST(f.visible(), "visible");
+    QCOMPARE(f->errorMessage(), std::nullopt);
+}
+
 void tst_AppModelLibrary::progressFollowsTheRead()
 {
     FakeTool tool;
@@ -241,7 +276,7 @@ void tst_AppModelLibrary::progressFollowsTheRead()
         objects.append({ { u"SourceFile"_s, f.folder.add(name).toLocalFile() }, { u"File:FileType"_s, u"JPEG"_s } });
     tool.answer(1, { .standardOutput = toolJson(objects), .holds = true });
     f->load({ f.folderURL() });
-    QCOMPARE(f->progress(), (std::optional(Progress{ 0, 3 })));
+    QTRY_COMPARE(f->progress(), (std::optional(Progress{ 0, 3 })));
     QTRY_COMPARE(f->progress(), (std::optional(Progress{ 3, 3 })));
     QVERIFY(f->isWorking());
     tool.release();
@@ -338,34 +373,49 @@ void tst_AppModelLibrary::sortOrders()
     };
     RecordIndex index;
     const auto compare = [&] {
-        QStringList got;
-        for (const int row : index.rows({}, order))
-            got.append(records.at(row).url.toString());
-        QStringList expected;
         RecordIndex fresh;
-        fresh.reset(records);
-        for (const int row : fresh.rows({}, order))
-            expected.append(records.at(row).url.toString());
-        QCOMPARE(got, expected);
+        fresh.reset(records, order);
+        QCOMPARE(index.rows({}, order), fresh.rows({}, order));
         for (int i = 0; i < records.size(); ++i)
             QCOMPARE(index.position(records.at(i).url), i);
     };
+    QRandomGenerator random(20261122);
     for (int i = 0; i < 60; ++i)
         records.append(make(i));
-    index.reset(records);
+    index.reset(records, order);
     compare();
-    records[7] = make(100);
-    index.replace(7, records.at(7));
-    records[8].creationDate = QDateTime::fromMSecsSinceEpoch(-5);
-    index.replace(8, records.at(8));
-    compare();
-    for (const int gone : { 59, 30, 0 })
-        records.removeAt(gone);
-    index.remove({ 0, 30, 59 });
-    compare();
-    records.append(make(200));
-    index.append(records.constLast());
-    compare();
+    for (int step = 100; step < 400; step += 4) {
+        const int at = random.bounded(int(records.size()));
+        switch (random.bounded(4)) {
+        case 0: {
+            QList<int> read{ at };
+            records[at].creationDate = QDateTime::fromMSecsSinceEpoch(random.bounded(-3, 3) * 1000);
+            if (const int other = at / 2; other != at) {
+                records[other].creationDate.reset();
+                read.append(other);
+            }
+            index.replace(read, records);
+            break;
+        }
+        case 1:
+            records[at] = make(step);
+            index.replace({ at }, records);
+            break;
+        case 2:
+            for (int i = 0; i < 4; ++i)
+                records.append(make(step + i));
+            index.append(records);
+            break;
+        default:
+            const int before = at / 2;
+            const QList<int> gone = before == at ? QList<int>{ at } : QList<int>{ before, at };
+            index.remove(gone);
+            for (auto i = gone.crbegin(); i != gone.crend(); ++i)
+                records.removeAt(*i);
+        }
+        compare();
+    }
+    QCOMPARE(index.position(QUrl::fromLocalFile(u"/photos/none"_s)), -1);
 }
 
 void tst_AppModelLibrary::clicks_data()

@@ -1,6 +1,7 @@
 // Other programs at work in the open folder, and our own doings there, which are no news.
 #include "tests/app/model/ModelFixture.h"
 
+#include <QJsonArray>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -60,6 +61,10 @@ private slots:
     void changeDuringReReadIsSeen();
     void staleReadLosesAgainstSave();
     void closedFolderStaysClosed();
+    void loadEndsInALook_data();
+    void loadEndsInALook();
+    void saveDuringALoadIsNotHidden_data();
+    void saveDuringALoadIsNotHidden();
 };
 
 void tst_AppModelWatching::outsideChangeKeepsEdits()
@@ -312,6 +317,64 @@ void tst_AppModelWatching::closedFolderStaysClosed()
     f.folder.add(u"newer.jpg"_s);
     QTest::qWait(1000);
     QVERIFY(f->records().isEmpty());
+}
+
+void tst_AppModelWatching::loadEndsInALook_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::addRow("changed") << u"changed"_s;
+    QTest::addRow("added") << u"added"_s;
+}
+
+// What happens behind the back of a load, before anything is watched.
+void tst_AppModelWatching::loadEndsInALook()
+{
+    QFETCH(QString, change);
+    OpenFolder f;
+    f->closeFolder();
+    f.shut("-XMP-Quorbel:all");  // the second of the two runs: the first has seen the old state
+    f->load({ f.folderURL() });
+    QVERIFY(f.waitForRun());
+    if (change == u"changed")
+        exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=outside"_s, f.folder.path(u"c.jpg"_s) });
+    else
+        f.folder.add(u"new.jpg"_s);
+    f.release();
+    QVERIFY(f.waitUntilIdle());
+    if (change == u"changed")
+        QTRY_COMPARE_WITH_TIMEOUT(f->record(f.url(u"c.jpg"_s))->values.value(u"title"_s), u"outside"_s, 10000);
+    else
+        QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 6, 10000);
+    QCOMPARE(f->errorMessage(), std::nullopt);
+}
+
+void tst_AppModelWatching::saveDuringALoadIsNotHidden_data()
+{
+    QTest::addColumn<bool>("opensFiles");
+    QTest::addRow("a folder") << false;
+    QTest::addRow("files, which nothing watches") << true;
+}
+
+// The load has read the photo before the save wrote it, and ends after the save.
+void tst_AppModelWatching::saveDuringALoadIsNotHidden()
+{
+    QFETCH(bool, opensFiles);
+    OpenFolder f;
+    f->preferences().saveDontAsk.set(true);
+    f->addSingleListItem(u"keywords"_s, u"saved"_s);
+    f.shut("-XMP-Quorbel:all\nc.jpg");  // the load's second run, and none of the save's
+    f->load(opensFiles ? QList<QUrl>{ f.url(u"a.jpg"_s), f.url(u"c.jpg"_s) } : QList<QUrl>{ f.folderURL() });
+    QVERIFY(f.waitForRun());
+    f->requestSave();
+    QTRY_COMPARE_WITH_TIMEOUT(f->isSaving(), false, 30000);
+    QCOMPARE(f->unsavedCount(), 0);
+    f.release();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->draftLists().value(u"keywords"_s), QStringList{ u"saved"_s });
+    f->addSingleListItem(u"keywords"_s, u"added"_s);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"IPTC:Keywords"_s), (QJsonArray{ u"saved"_s, u"added"_s }));
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelWatching)

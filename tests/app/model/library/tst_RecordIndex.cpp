@@ -29,7 +29,7 @@ ImageRecord record(const QString& text)
 QList<ImageRecord> inOrder(const QList<ImageRecord>& records, RecordSortOrder order)
 {
     RecordIndex index;
-    index.reset(records);
+    index.reset(records, order);
     QList<ImageRecord> listed;
     for (const int row : index.rows({}, order))
         listed.append(records.at(row));
