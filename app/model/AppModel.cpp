@@ -49,6 +49,7 @@ void AppModel::connectParts()
         if (m_saveOpen)
             cancelSaveDialog();
     });
+    connect(&m_folderNames, &FolderNames::changed, this, &AppModel::renamePreviewChanged);
     FolderRefresh& refresh = m_library.refresh();
     connect(&refresh, &FolderRefresh::problem, this, &AppModel::setErrorMessage);
     connect(&refresh, &FolderRefresh::vanished, this, &AppModel::takeVanished);

@@ -11,6 +11,7 @@
 #include "app/model/Preferences.h"
 #include "app/model/RunningTasks.h"
 #include "app/model/edits/Editing.h"
+#include "app/model/library/FolderNames.h"
 #include "app/model/library/Library.h"
 #include "app/model/saving/Saving.h"
 #include "app/model/selection/SelectedPhotos.h"
@@ -200,6 +201,8 @@ signals:
     void addOpenChanged();
     void renameOpenChanged();
     void batchDontAskSessionChanged();
+    /// renamePreview() may have another answer: the names in the photo's folder were found out.
+    void renamePreviewChanged();
 
 private:
     void tell(Change change);
@@ -234,7 +237,7 @@ private:
     // Renaming
     QMap<QString, QString> renameValues(const ImageRecord& record) const;
     QString renderedBase(const ImageRecord& record) const;
-    QString newFileName(const ImageRecord& record) const;
+    QString newFileName(const ImageRecord& record, const FolderNames::Listing& names) const;
     void takeRenamed(const QUrl& source, const QUrl& destination);
 
     AppModelServices m_services;
@@ -245,6 +248,7 @@ private:
     SelectedPhotos m_selected;
     Editing m_editing;
     Saving m_saving;
+    mutable FolderNames m_folderNames;  ///< of the folder of the photo to be renamed
     std::optional<QString> m_errorMessage;
     bool m_saveOpen = false;
     bool m_addOpen = false;

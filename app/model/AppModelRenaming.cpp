@@ -12,6 +12,15 @@ namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+QString folderOf(const ImageRecord& record)
+{
+    return QFileInfo(record.url.toLocalFile()).path();
+}
+
+}  // namespace
+
 bool AppModel::canRename() const
 {
     requireMainThread("canRename");
@@ -35,7 +44,7 @@ QString AppModel::renamePreview() const
 {
     requireMainThread("renamePreview");
     const ImageRecord* record = primaryRecord();
-    return record ? newFileName(*record) : QString();
+    return record ? newFileName(*record, m_folderNames.known(folderOf(*record))) : QString();
 }
 
 std::optional<QString> AppModel::renameProblem() const
@@ -65,18 +74,11 @@ QString AppModel::renderedBase(const ImageRecord& record) const
     return FileNaming::render(m_preferences.renamePattern(), renameValues(record), m_preferences.stripSpecialChars());
 }
 
-QString AppModel::newFileName(const ImageRecord& record) const
+QString AppModel::newFileName(const ImageRecord& record, const FolderNames::Listing& names) const
 {
     const QString base = renderedBase(record);
-    QSet<QString> taken;
-    const QDir folder = QFileInfo(record.url.toLocalFile()).dir();
-    const QStringList names =
-        folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
-    for (const QString& name : names)
-        if (name != record.fileName)
-            taken.insert(name.toLower());
     return FileNaming::uniqueFileName(base, QFileInfo(record.fileName).suffix(),
-        [&taken](const QString& name) { return taken.contains(name.toLower()); });
+        [&](const QString& name) { return names.isTaken(name, record.fileName); });
 }
 
 void AppModel::performRename()
@@ -87,7 +89,7 @@ void AppModel::performRename()
         return;
     if (const auto problem = renameProblem())
         return setErrorMessage(u"Could not rename: "_s + *problem);
-    const QString name = newFileName(*record);
+    const QString name = newFileName(*record, m_folderNames.current(folderOf(*record)));
     if (name == record->fileName)
         return;
     const QUrl source = record->url;

@@ -92,7 +92,7 @@ void RenameSheet::connectModel()
     connect(m_pattern, &QLineEdit::textEdited, &m_model,
         [this](const QString& text) { m_model.preferences().renamePattern.set(text); });
     connect(&m_model.preferences(), &Preferences::changed, this, &RenameSheet::refresh);
-    for (const auto changed : { &AppModel::editsChanged, &AppModel::recordsChanged })
+    for (const auto changed : { &AppModel::editsChanged, &AppModel::recordsChanged, &AppModel::renamePreviewChanged })
         connect(&m_model, changed, this, &RenameSheet::refresh);
 }
 

@@ -49,13 +49,17 @@ const ImageRecord* SidebarModel::record(int row) const
 
 int SidebarModel::row(const QUrl& url) const
 {
+    const QList<ImageRecord>& records = m_model.records();
+    const ImageRecord* photo = m_model.record(url);
+    if (!photo)
+        return -1;
     if (m_rowOf.isEmpty()) {
-        m_rowOf.reserve(m_rows.size());
+        m_rowOf.fill(-1, records.size());
         for (int i = 0; i < m_rows.size(); ++i)
-            if (const ImageRecord* photo = record(i))
-                m_rowOf.insert(photo->url, i);
+            if (m_rows.at(i) < m_rowOf.size())
+                m_rowOf[m_rows.at(i)] = i;
     }
-    return m_rowOf.value(url, -1);
+    return m_rowOf.value(photo - records.constData(), -1);
 }
 
 // The records and the rows change one after the other; whichever is announced first, the list is rebuilt from what

@@ -5,7 +5,7 @@
 #include "core/schema/ImageRecord.h"
 
 #include <QAbstractListModel>
-#include <QHash>
+#include <QList>
 
 namespace Quorbel {
 
@@ -31,7 +31,7 @@ private:
 
     AppModel& m_model;
     QList<int> m_rows;  ///< positions in AppModel's records
-    mutable QHash<QUrl, int> m_rowOf{};  ///< filled by the first question after a change
+    mutable QList<int> m_rowOf{};  ///< by position, -1: not shown; filled by the first question after a change
 };
 
 }  // namespace Quorbel
