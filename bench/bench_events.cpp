@@ -154,8 +154,8 @@ private:
         const QUrl url = m_model.records().at(i * 31 + 7).url;
         const auto before = m_model.record(url)->contentModificationDate;
         m_photos.add(url.fileName());
-        return longest([this] { m_model.refresh(); },
-            [&] { return m_model.record(url)->contentModificationDate != before; });
+        return longest(
+            [this] { m_model.refresh(); }, [&] { return m_model.record(url)->contentModificationDate != before; });
     }
 
     double removeFile(int i)
@@ -172,8 +172,7 @@ private:
         settle([] { return true; });
         std::vector<double> taken;
         for (const QString& pattern : { u"%Title%a"_s, u"%Title%ab"_s, u"%Title%abc"_s, u"%Title%ab"_s })
-            taken.push_back(longest(
-                [&] { m_model.preferences().renamePattern.set(pattern); }, [] { return true; }));
+            taken.push_back(longest([&] { m_model.preferences().renamePattern.set(pattern); }, [] { return true; }));
         m_model.setRenameOpen(false);
         settle([] { return true; });
         return median(taken);
@@ -201,8 +200,8 @@ private:
     double stall(int)
     {
         m_photos.stall(true);
-        const double taken = longest([this] { m_model.load({ m_photos.folder() }); },
-            [this] { return m_model.stalledFile().has_value(); });
+        const double taken = longest(
+            [this] { m_model.load({ m_photos.folder() }); }, [this] { return m_model.stalledFile().has_value(); });
         m_photos.stall(false);
         m_model.cancelRead();
         settle([this] { return !m_model.isWorking(); });
@@ -219,7 +218,8 @@ private:
 
     double open(int)
     {
-        return longest([this] { m_model.load({ m_photos.folder() }); }, [this] { return !m_model.isWorking() && size() > 0; });
+        return longest(
+            [this] { m_model.load({ m_photos.folder() }); }, [this] { return !m_model.isWorking() && size() > 0; });
     }
 
     ManyPhotos m_photos;

@@ -116,8 +116,8 @@ public:
     void addSingleListItem(const QString& id, const QString& item) { editing().addSingleListItem(id, item); }
     void removeSingleListItem(const QString& id, const QString& item) { editing().removeSingleListItem(id, item); }
     void setBatch(const QString& id, const QString& value) { editing().setBatch(id, value); }
-    /// Takes a field out of what will be written, or puts it in with the text that it shows: a tick alone clears nothing
-    /// that one sees.
+    /// Takes a field out of what will be written, or puts it in with the text that it shows: a tick alone clears
+    /// nothing that one sees.
     void toggleBatchInclude(const QString& id) { editing().toggleBatchInclude(id); }
     void addBatchListItem(const QString& id, const QString& item) { editing().addBatchListItem(id, item); }
     void removeBatchListItem(const QString& id, const QString& item) { editing().removeBatchListItem(id, item); }

@@ -56,8 +56,7 @@ void Library::Load::run(
 }
 
 // What was changed since it was read. Silent: what cannot be read any more stays as it is.
-void Library::Load::readChanged(
-    const MetadataService& service, TaskProgress& progress, const std::stop_token& stop)
+void Library::Load::readChanged(const MetadataService& service, TaskProgress& progress, const std::stop_token& stop)
 {
     const QList<QUrl> changed = ExternalRefresh::modifiedURLs(read.records, [&stop](const ImageRecord& record) {
         return stop.stop_requested() ? std::nullopt : modificationDate(record.url.toLocalFile());
