@@ -147,6 +147,8 @@ public:
     void setBatchDontAskSession(bool on);
     /// Whether the last save, perhaps of an earlier run of the program, can be taken back now.
     bool canUndoSave() const { return saving().canUndo(); }
+    /// "Undo Save of 12 photos": which save that is; changes with canUndoSaveChanged().
+    QString undoSaveText() const { return saving().undoText(); }
     /// Puts back, in the background, what the last save replaced. Unsaved edits stay. Files that somebody else changed
     /// since are left alone and named.
     void undoSave();

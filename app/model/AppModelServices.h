@@ -22,7 +22,7 @@ struct AppModelServices {
     std::function<void()> endEditing{};  ///< makes the field being typed into commit its text
     std::function<void(const QUrl&)> openUrl{};  ///< opens a file in the user's default application
     std::function<QDateTime()> now{};  ///< local wall clock; the system's when empty
-    QString journalPath{};  ///< file of the saves that can be undone; empty: none can
+    QString journalPath{};  ///< folder of the saves that can be undone; empty: none can
     /// How long a read may be at one file before the user is offered to skip it.
     std::chrono::milliseconds stallInterval{ 10000 };
     std::function<void()> quit{};  ///< ends the program; called by requestQuit()

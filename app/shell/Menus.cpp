@@ -229,6 +229,7 @@ void Menus::followState()
     m_save->setEnabled(m_model.unsavedCount() >= 1);
     m_save->setText(m_model.isBatch() ? u"&Apply to %1"_s.arg(m_model.selection().size()) : u"&Save"_s);
     m_undoSave->setEnabled(m_model.canUndoSave());
+    m_undoSave->setText(literal(m_model.undoSaveText()).replace(u"Undo Save"_s, u"Undo Sa&ve"_s));
     m_rename->setEnabled(m_model.canRename());
     m_refresh->setEnabled(m_model.canRefresh());
     m_close->setEnabled(any);

@@ -30,7 +30,7 @@ QString journalPath()
 {
     const QString given = qEnvironmentVariable("XDG_STATE_HOME");
     const QString base = QDir::isAbsolutePath(given) ? given : QDir::homePath() + u"/.local/state"_s;
-    return base + u"/quorbel/undo.json"_s;
+    return base + u"/quorbel/undo"_s;
 }
 
 void openUrl(const QUrl& url)
@@ -78,7 +78,6 @@ void QuorbelApp::tidy()
     m_thumbnails->pruneDisk();
     QThreadPool::globalInstance()->start([] {
         TemporaryFiles::clearAbandoned();
-        TemporaryFiles::clearHalfWritten(journalPath());
     });
 }
 

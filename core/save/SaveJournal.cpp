@@ -1,10 +1,12 @@
 #include "core/save/SaveJournal.h"
 
 #include "core/save/Companions.h"
+#include "core/tool/TemporaryFiles.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -13,7 +15,7 @@
 
 #include <algorithm>
 
-namespace Quorbel::SaveJournal {
+namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
@@ -122,63 +124,207 @@ JournalEntry entryFrom(const QJsonValue& value)
     return entry;
 }
 
-}  // namespace
+// What happened to photos since some save: other names, and files that an undo has put back.
+struct Note {
+    QList<std::pair<QString, QString>> renames{};
+    QList<JournalFile> restored{};  ///< `before`: as the undone save had found it; `after`: as it is now; no tags
+};
 
-QList<JournalEntry> load(const QString& journalPath)
+QJsonObject toJson(const Note& note)
 {
-    QFile file(journalPath);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QList<JournalEntry> entries;
-    const QJsonArray saved = QJsonDocument::fromJson(file.readAll()).array();
-    for (const auto& entry : saved)
-        entries.append(entryFrom(entry));
-    return entries;
+    QJsonArray renames;
+    for (const auto& [from, to] : note.renames)
+        renames.append(QJsonArray{ from, to });
+    QJsonArray restored;
+    for (const JournalFile& file : note.restored)
+        restored.append(toJson(file));
+    return { { u"renames"_s, renames }, { u"restored"_s, restored } };
 }
 
-bool store(const QString& journalPath, const QList<JournalEntry>& entries)
+Note noteFrom(const QJsonValue& value)
 {
-    if (!QDir().mkpath(QFileInfo(journalPath).path()))
-        return false;
-    QJsonArray saved;
-    for (const auto& entry : entries.mid(std::max<qsizetype>(0, entries.size() - limit)))
-        saved.append(toJson(entry));
-    QSaveFile file(journalPath);
-    // Private: it holds what the user wrote.
-    return file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
-        && file.write(QJsonDocument(saved).toJson(QJsonDocument::Compact)) >= 0 && file.commit();
+    Note note;
+    for (const auto& rename : value[u"renames"_s].toArray())
+        note.renames.append({ rename[0].toString(), rename[1].toString() });
+    for (const auto& file : value[u"restored"_s].toArray())
+        note.restored.append(fileFrom(file));
+    return note;
 }
 
-void rename(QList<JournalEntry>& entries, const QString& from, const QString& to)
+void follow(JournalFile& file, const std::pair<QString, QString>& rename)
 {
-    for (auto& entry : entries)
-        for (auto& file : entry.files) {
-            if (file.path == from)
-                file.path = to;
-            if (file.sidecar.path == Companions::sidecarPath(from))
-                file.sidecar.path = Companions::sidecarPath(to);
-        }
+    const auto& [from, to] = rename;
+    if (file.path == from)
+        file.path = to;
+    if (file.sidecar.path == Companions::sidecarPath(from))
+        file.sidecar.path = Companions::sidecarPath(to);
 }
 
-void removeUndone(QList<JournalEntry>& entries, const QStringList& restored)
+// A file that an undo has put back is again what the earlier save left, where the undone save had found it so.
+void takeBack(JournalFile& earlier, const JournalFile& restored)
 {
-    if (entries.isEmpty())
-        return;
-    const JournalEntry undone = entries.takeLast();
-    for (const auto& file : undone.files) {
-        if (!restored.contains(file.path))
-            continue;
-        const auto now = FileStamp::of(file.path);
-        const auto sidecarNow = FileStamp::of(file.sidecar.path);
-        for (auto& entry : entries)
-            for (auto& earlier : entry.files) {
-                if (now && earlier.path == file.path && earlier.after == file.before)
-                    earlier.after = *now;
-                auto& sidecar = earlier.sidecar;
-                if (sidecar.after && sidecar.path == file.sidecar.path && sidecar.after == file.sidecar.before)
-                    sidecar.after = sidecarNow;
-            }
+    if (earlier.after == restored.before)
+        earlier.after = restored.after;
+    JournalSidecar& sidecar = earlier.sidecar;
+    if (sidecar.after && sidecar.path == restored.sidecar.path && sidecar.after == restored.sidecar.before)
+        sidecar.after = restored.sidecar.after;
+}
+
+void apply(const Note& note, JournalEntry& entry)
+{
+    QHash<QString, const JournalFile*> restored;
+    for (const JournalFile& file : note.restored)
+        restored.insert(file.path, &file);
+    for (JournalFile& file : entry.files) {
+        for (const auto& rename : note.renames)
+            follow(file, rename);
+        if (const JournalFile* back = restored.value(file.path))
+            takeBack(file, *back);
     }
 }
 
-}  // namespace Quorbel::SaveJournal
+constexpr QLatin1StringView saveSuffix(".save.json");
+constexpr QLatin1StringView noteSuffix(".note.json");
+
+// The numbers of the files of one kind, ascending.
+QList<qint64> numbers(const QString& folder, QLatin1StringView suffix)
+{
+    QList<qint64> found;
+    const QStringList names = QDir(folder).entryList({ u'*' + suffix }, QDir::Files);
+    for (const QString& name : names) {
+        bool isNumber = false;
+        const qint64 number = name.chopped(suffix.size()).toLongLong(&isNumber);
+        if (isNumber)
+            found.append(number);
+    }
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+QString pathOf(const QString& folder, qint64 number, QLatin1StringView suffix)
+{
+    return folder + u'/' + QString::number(number).rightJustified(10, u'0') + suffix;
+}
+
+QJsonObject objectIn(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+}
+
+// Private: it holds what the user wrote.
+constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
+
+bool store(const QString& path, const QJsonObject& object)
+{
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.setPermissions(ownerOnly)
+        && file.write(QJsonDocument(object).toJson(QJsonDocument::Compact)) >= 0 && file.commit();
+}
+
+// Under the next number. It is taken by creating the file, which one program alone can do.
+std::optional<qint64> append(const QString& folder, QLatin1StringView suffix, const QJsonObject& object)
+{
+    if (!QDir().mkpath(folder))
+        return std::nullopt;
+    qint64 number = 0;
+    for (const QLatin1StringView known : { saveSuffix, noteSuffix })
+        if (const QList<qint64> taken = numbers(folder, known); !taken.isEmpty())
+            number = std::max(number, taken.constLast());
+    QFile place;
+    do {
+        place.setFileName(pathOf(folder, ++number, suffix));
+        if (place.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly))
+            break;
+        if (!place.exists())
+            return std::nullopt;
+    } while (true);
+    place.close();
+    if (store(place.fileName(), object))
+        return number;
+    place.remove();
+    return std::nullopt;
+}
+
+}  // namespace
+
+QList<qint64> SaveJournal::saves() const
+{
+    return numbers(m_folder, saveSuffix);
+}
+
+std::optional<JournalEntry> SaveJournal::load(qint64 number) const
+{
+    const QJsonObject object = objectIn(pathOf(m_folder, number, saveSuffix));
+    if (object.isEmpty())
+        return std::nullopt;
+    JournalEntry entry = entryFrom(object);
+    for (const qint64 later : numbers(m_folder, noteSuffix))
+        if (later > number)
+            apply(noteFrom(objectIn(pathOf(m_folder, later, noteSuffix))), entry);
+    return entry;
+}
+
+std::optional<qint64> SaveJournal::add(const JournalEntry& entry) const
+{
+    const auto number = append(m_folder, saveSuffix, toJson(entry));
+    const QList<qint64> kept = saves();
+    for (const qint64 old : kept.first(std::max<qsizetype>(0, kept.size() - limit)))
+        QFile::remove(pathOf(m_folder, old, saveSuffix));
+    forgetOldNotes();
+    return number;
+}
+
+bool SaveJournal::noteRenames(const QList<std::pair<QString, QString>>& renames) const
+{
+    return saves().isEmpty() || append(m_folder, noteSuffix, toJson(Note{ .renames = renames }));
+}
+
+bool SaveJournal::removeUndone(qint64 number, const JournalEntry& undone, const JournalEntry& rest) const
+{
+    Note note;
+    for (const JournalFile& file : undone.files) {
+        JournalFile now{ .path = file.path, .before = file.before };
+        now.after = FileStamp::of(file.path).value_or(file.after);
+        now.sidecar.path = file.sidecar.path;
+        now.sidecar.before = file.sidecar.before;
+        now.sidecar.after = FileStamp::of(file.sidecar.path);
+        note.restored.append(now);
+    }
+    const bool isFirst = saves().value(0) == number;
+    const bool isNoted = note.restored.isEmpty() || isFirst || append(m_folder, noteSuffix, toJson(note));
+    const QString path = pathOf(m_folder, number, saveSuffix);
+    const bool isDone = rest.files.isEmpty() ? QFile::remove(path) : store(path, toJson(rest));
+    forgetOldNotes();
+    return isNoted && isDone;
+}
+
+// A note tells of the saves before it.
+void SaveJournal::forgetOldNotes() const
+{
+    const QList<qint64> left = saves();
+    for (const qint64 note : numbers(m_folder, noteSuffix))
+        if (left.isEmpty() || note < left.constFirst())
+            QFile::remove(pathOf(m_folder, note, noteSuffix));
+}
+
+void SaveJournal::takeOver(const QString& oldJournal) const
+{
+    QFile file(oldJournal);
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    const QJsonArray saved = QJsonDocument::fromJson(file.readAll()).array();
+    // Its saves are older than any that lies here.
+    bool isComplete = saves().isEmpty();
+    for (const auto& entry : saved)
+        isComplete = isComplete && add(entryFrom(entry));
+    if (isComplete || !saves().isEmpty())
+        file.remove();
+}
+
+void SaveJournal::tidy() const
+{
+    TemporaryFiles::clearHalfWrittenIn(m_folder);
+}
+
+}  // namespace Quorbel

@@ -67,4 +67,10 @@ int clearHalfWritten(const QString& path, const QDateTime& now)
     return clear(file.dir(), u"*.??????"_s, ours, now);
 }
 
+int clearHalfWrittenIn(const QString& folder, const QDateTime& now)
+{
+    static const QRegularExpression ours(u"\\.json\\.\\w{6}$"_s);
+    return clear(QDir(folder), u"*.json.??????"_s, ours, now);
+}
+
 }  // namespace Quorbel::TemporaryFiles

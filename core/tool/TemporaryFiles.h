@@ -19,5 +19,7 @@ int clearAbandonedOriginals(const QString& folder, const QDateTime& now = QDateT
 /// Removes half-written versions of this file that are more than an hour old: "<name>.<six characters>" beside it, as
 /// QSaveFile leaves them when the process is killed. How many there were.
 int clearHalfWritten(const QString& path, const QDateTime& now = QDateTime::currentDateTime());
+/// The same for all JSON files in a folder of ours.
+int clearHalfWrittenIn(const QString& folder, const QDateTime& now = QDateTime::currentDateTime());
 
 }  // namespace Quorbel::TemporaryFiles

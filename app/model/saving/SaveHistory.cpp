@@ -3,6 +3,8 @@
 #include "core/save/SaveGuard.h"
 #include "core/text/Text.h"
 
+#include <QFileInfo>
+#include <QScopeGuard>
 #include <QSet>
 
 #include <algorithm>
@@ -32,23 +34,51 @@ QList<QUrl> photosOf(const QList<QUrl>& files, const QList<QUrl>& photos)
 
 }  // namespace
 
-// The journal's mutex is held. Renames stay pending until they are stored: the journal on disk is the truth.
-QList<JournalEntry> SaveHistory::load()
+SaveHistory::SaveHistory(const QString& folder)
+    : m_journal(folder)
+    , m_oldJournal(folder + u".json"_s)
+    , m_undoing(folder + u".lock"_s)
 {
-    QList<JournalEntry> entries = SaveJournal::load(m_path);
-    const std::scoped_lock lock(m_renames);
-    for (const auto& [from, to] : std::as_const(m_pending))
-        SaveJournal::rename(entries, from, to);
-    return entries;
+    // As long as it takes: what a program that is gone has left is told by its process.
+    m_undoing.setStaleLockTime(0);
 }
 
-bool SaveHistory::isEmpty()
+SaveHistory::Undoable SaveHistory::latest()
 {
-    const std::scoped_lock lock(m_journal);
-    return load().isEmpty();
+    const std::scoped_lock lock(m_mutex);
+    return newest();
 }
 
-bool SaveHistory::add(JournalEntry entry)
+// The mutex is held. One that is damaged, or that another program is still writing, is passed over.
+SaveHistory::Undoable SaveHistory::newest()
+{
+    QList<qint64> saves = m_journal.saves();
+    m_newest = std::max(m_newest, saves.value(saves.size() - 1));
+    while (!saves.isEmpty() && saves.constLast() > m_unreachable) {
+        const qint64 number = saves.takeLast();
+        if (const auto entry = m_journal.load(number); entry && !entry->files.isEmpty())
+            return undoable(number, *entry);
+    }
+    return {};
+}
+
+SaveHistory::Undoable SaveHistory::undoable(qint64 number, const JournalEntry& entry)
+{
+    return { number, entry.files.size(), QFileInfo(entry.files.constFirst().path).fileName() };
+}
+
+SaveHistory::Undoable SaveHistory::open()
+{
+    const std::scoped_lock lock(m_mutex);
+    m_journal.tidy();
+    if (QFileInfo::exists(m_oldJournal) && m_undoing.tryLock()) {
+        m_journal.takeOver(m_oldJournal);
+        m_undoing.unlock();
+    }
+    return newest();
+}
+
+SaveHistory::Undoable SaveHistory::add(JournalEntry entry)
 {
     for (JournalFile& file : entry.files) {
         file.after = FileStamp::of(file.path).value_or(file.before);
@@ -56,12 +86,29 @@ bool SaveHistory::add(JournalEntry entry)
     }
     entry.files.removeIf([](const JournalFile& file) { return file.after == file.before; });
     if (entry.files.isEmpty())
-        return false;
+        return latest();
     storeRenames();
-    const std::scoped_lock lock(m_journal);
-    QList<JournalEntry> entries = load();
-    entries.append(entry);
-    return SaveJournal::store(m_path, entries);
+    const std::scoped_lock lock(m_mutex);
+    const auto number = m_journal.add(entry);
+    if (number) {
+        m_newest = *number;
+        return undoable(*number, entry);
+    }
+    passOver();
+    return {};
+}
+
+SaveHistory::Undoable SaveHistory::addUnknown()
+{
+    const std::scoped_lock lock(m_mutex);
+    passOver();
+    return {};
+}
+
+// The mutex is held. Whoever takes the last save back must not take back the one before it.
+void SaveHistory::passOver()
+{
+    m_unreachable = std::max(m_newest, m_journal.saves().value(m_journal.saves().size() - 1));
 }
 
 void SaveHistory::noteRename(const QString& from, const QString& to)
@@ -72,41 +119,46 @@ void SaveHistory::noteRename(const QString& from, const QString& to)
 
 void SaveHistory::storeRenames()
 {
-    const std::scoped_lock lock(m_journal);
-    qsizetype known = 0;
+    const std::scoped_lock lock(m_mutex);
+    QList<std::pair<QString, QString>> pending;
     {
         const std::scoped_lock renames(m_renames);
-        known = m_pending.size();
+        pending = m_pending;
     }
-    if (known == 0)
+    if (pending.isEmpty() || !m_journal.noteRenames(pending))
         return;
-    const QList<JournalEntry> entries = load();
-    if (!entries.isEmpty() && !SaveJournal::store(m_path, entries))
-        return;
-    // A rename that came between would be applied once more, to a name that is gone: without effect.
     const std::scoped_lock renames(m_renames);
-    m_pending.remove(0, known);
+    m_pending.remove(0, pending.size());
 }
 
-SaveHistory::Undone SaveHistory::undo(const MetadataService& service, const QList<QUrl>& photos, TaskProgress& progress)
+SaveHistory::Undone SaveHistory::undo(
+    const MetadataService& service, qint64 number, const QList<QUrl>& photos, TaskProgress& progress)
 {
     storeRenames();
-    const std::scoped_lock lock(m_journal);
+    const std::scoped_lock lock(m_mutex);
     Undone undone;
-    QList<JournalEntry> entries = load();
-    if (entries.isEmpty())
-        return undone;
-    undone.hasMore = true;
-    progress.total = entries.constLast().files.size();
-    try {
-        undone.outcome = service.undo(entries.constLast());
-    } catch (const std::exception& error) {
-        undone.error = QString::fromUtf8(error.what());
+    if (!m_undoing.tryLock()) {
+        undone.error = u"another Quorbel is undoing one at this moment"_s;
+        undone.next = newest();
         return undone;
     }
-    forgetUndone(entries, undone.outcome);
-    SaveJournal::store(m_path, entries);
-    undone.hasMore = !entries.isEmpty();
+    const auto unlock = qScopeGuard([this] { m_undoing.unlock(); });
+    const auto entry = m_journal.load(number);
+    if (!entry) {
+        undone.error = u"it was undone already"_s;
+        undone.next = newest();
+        return undone;
+    }
+    progress.total = entry->files.size();
+    try {
+        undone.outcome = service.undo(*entry);
+    } catch (const std::exception& error) {
+        undone.error = QString::fromUtf8(error.what());
+        undone.next = undoable(number, *entry);
+        return undone;
+    }
+    forgetUndone(number, *entry, undone.outcome);
+    undone.next = newest();
     QList<QUrl> touched = undone.outcome.restored;
     for (const FileFailure& failure : undone.outcome.failed)
         touched.append(failure.file);
@@ -117,21 +169,28 @@ SaveHistory::Undone SaveHistory::undo(const MetadataService& service, const QLis
 
 // Only what failed can be tried again, from where the failed attempt left it: a file that somebody else changed never
 // becomes ours again.
-void SaveHistory::forgetUndone(QList<JournalEntry>& entries, const UndoOutcome& outcome)
+void SaveHistory::forgetUndone(qint64 number, const JournalEntry& entry, const UndoOutcome& outcome)
 {
-    JournalEntry rest = entries.constLast();
     QSet<QString> failed;
     for (const FileFailure& failure : outcome.failed)
         failed.insert(failure.file.toLocalFile());
+    QSet<QString> restored;
+    for (const QUrl& file : outcome.restored)
+        restored.insert(file.toLocalFile());
+    JournalEntry rest = entry;
     rest.files.removeIf([&failed](const JournalFile& file) { return !failed.contains(file.path); });
     for (JournalFile& file : rest.files)
         file.after = FileStamp::of(file.path).value_or(file.after);
-    QStringList restored;
-    for (const QUrl& file : outcome.restored)
-        restored.append(file.toLocalFile());
-    SaveJournal::removeUndone(entries, restored);
-    if (!rest.files.isEmpty())
-        entries.append(rest);
+    JournalEntry undone = entry;
+    undone.files.removeIf([&restored](const JournalFile& file) { return !restored.contains(file.path); });
+    m_journal.removeUndone(number, undone, rest);
+}
+
+QString SaveHistory::name(const Undoable& save)
+{
+    if (save.photos == 0)
+        return u"Undo Save"_s;
+    return u"Undo Save of "_s + (save.photos == 1 ? u'“' + save.fileName + u'”' : counted(save.photos));
 }
 
 std::optional<QString> SaveHistory::text(const Undone& undone)

@@ -1,4 +1,4 @@
-// The saves that can be taken back, kept in a journal file so that this works after a restart too.
+// The saves that can be taken back, kept in a journal so that this works after a restart too.
 // Thread: any. Calls that read or write the journal wait for one another, so they belong in the background; noteRename
 // does neither.
 #pragma once
@@ -7,48 +7,71 @@
 #include "core/MetadataService.h"
 #include "core/save/SaveJournal.h"
 
+#include <QLockFile>
+
 #include <mutex>
 
 namespace Quorbel {
 
 class SaveHistory final {
 public:
-    explicit SaveHistory(const QString& journalPath)
-        : m_path(journalPath)
-    {
-    }
+    /// The journal's folder. Beside it lie its lock (".lock") and the one file that earlier versions kept (".json").
+    explicit SaveHistory(const QString& folder);
     Q_DISABLE_COPY_MOVE(SaveHistory)
 
-    bool isEmpty();
-    /// Keeps those files of the entry that the write has changed, as they are now. Whether there were any, and the
-    /// journal took them.
-    bool add(JournalEntry entry);
+    /// A save that can be taken back.
+    struct Undoable {
+        qint64 number = 0;
+        qsizetype photos = 0;  ///< none: there is no such save
+        QString fileName{};  ///< of the first photo
+        bool operator==(const Undoable&) const = default;
+    };
+
+    /// The last save, perhaps of an earlier run of the program or of another one. Not one that came before a save of
+    /// this program that the journal does not know.
+    Undoable latest();
+    /// The same, at the start of the program.
+    Undoable open();
+    /// Keeps those files of the entry that the write has changed, as they are now. What can be taken back afterwards:
+    /// nothing when the journal did not take it.
+    Undoable add(JournalEntry entry);
+    /// There was a save, and nobody knows what it replaced.
+    Undoable addUnknown();
     /// A photo got another name. Takes effect before the next look at the journal.
     void noteRename(const QString& from, const QString& to);
-    /// Brings the journal file itself up to date with the renames.
+    /// Brings the journal itself up to date with the renames.
     void storeRenames();
 
     struct Undone {
         UndoOutcome outcome{};
         QList<ImageRecord> records{};  ///< of the given photos that were restored, as they are now
         std::optional<QString> error{};  ///< nothing was restored: why
-        bool hasMore = false;  ///< an earlier save can be taken back as well
+        Undoable next{};  ///< what can be taken back now
     };
-    /// Takes the newest save back and reads those of these photos again that it concerns. Files that fail stay in
+    /// Takes this save back and reads those of these photos again that it concerns. Files that fail stay in
     /// the journal. Never throws; blocks on ExifTool.
-    Undone undo(const MetadataService& service, const QList<QUrl>& photos, TaskProgress& progress);
+    Undone undo(const MetadataService& service, qint64 number, const QList<QUrl>& photos, TaskProgress& progress);
+
+    /// "Undo Save of 12 photos"; of one photo its name.
+    static QString name(const Undoable& save);
 
     /// The banner's text; nothing when all went well.
     static std::optional<QString> text(const Undone& undone);
 
 private:
-    QList<JournalEntry> load();
-    static void forgetUndone(QList<JournalEntry>& entries, const UndoOutcome& outcome);
+    Undoable newest();
+    static Undoable undoable(qint64 number, const JournalEntry& entry);
+    void passOver();
+    void forgetUndone(qint64 number, const JournalEntry& entry, const UndoOutcome& outcome);
 
-    QString m_path;
-    std::mutex m_journal;
+    SaveJournal m_journal;
+    QString m_oldJournal;
+    QLockFile m_undoing;  ///< two programs must not take back one save
+    qint64 m_newest = 0;  ///< the greatest number that was seen
+    qint64 m_unreachable = 0;  ///< saves up to this number are older than one that the journal does not know
+    std::mutex m_mutex;
     std::mutex m_renames;
-    QList<std::pair<QString, QString>> m_pending;  ///< renames that the journal file does not know yet, oldest first
+    QList<std::pair<QString, QString>> m_pending;  ///< renames that the journal does not know yet, oldest first
 };
 
 }  // namespace Quorbel

@@ -70,7 +70,10 @@ Written run(const MetadataService& service, const EditPlan& plan, const QList<QU
         written.error = QString::fromUtf8(error.what());
     }
     // After a failure too: some of the files may have been written.
-    written.canBeUndone = before && history->add(*before);
+    if (before)
+        written.undoable = history->add(*before);
+    else if (history)
+        written.undoable = !written.error || written.isPartial ? history->addUnknown() : history->latest();
     return written;
 }
 

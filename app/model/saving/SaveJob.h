@@ -15,7 +15,7 @@ struct Written {
     /// nothing was changed.
     bool isPartial = false;
     QList<FileFailure> failures{};  ///< the targets that the tool named, with its reasons
-    bool canBeUndone = false;  ///< the history knows what was replaced
+    SaveHistory::Undoable undoable{};  ///< what the history can take back now
 };
 
 /// Writes, and counts meanwhile the files that are done. What it replaces goes into the history, where there is one;

@@ -67,29 +67,30 @@ void Saving::openHistory(const QString& journalPath)
 {
     m_history = std::make_shared<SaveHistory>(journalPath);
     runInBackground(
-        this, [history = m_history] { return history->isEmpty(); },
-        [this](bool isEmpty) {
-            m_hasUndo = m_hasUndo || !isEmpty;
-            updateCanUndo();
+        this, [history = m_history] { return history->open(); },
+        [this](const SaveHistory::Undoable& last) {
+            // A save that has ended since then knows better.
+            if (m_undo.save.number <= last.number)
+                setUndoable(last);
         });
 }
 
-void Saving::updateCanUndo()
+void Saving::setUndoable(const SaveHistory::Undoable& save)
 {
-    m_announcer.assign(m_canUndo, m_hasUndo && !m_isSaving, Change::canUndoSave);
+    m_announcer.assign(m_undo, Undo{ save, save.photos > 0 && !m_isSaving }, Change::canUndoSave);
 }
 
 void Saving::begin(const QList<QUrl>& photos)
 {
     m_announcer.assign(m_isSaving, true, Change::isSaving);
-    updateCanUndo();
+    setUndoable(m_undo.save);
     m_refresh.beginWriting(QSet<QUrl>(photos.cbegin(), photos.cend()));
 }
 
 void Saving::end(bool isGood)
 {
     m_announcer.assign(m_isSaving, false, Change::isSaving);
-    updateCanUndo();
+    setUndoable(m_undo.save);
     // A failed write may have done some of its files.
     m_refresh.endWriting(isGood);
     emit ended(isGood);
@@ -109,7 +110,8 @@ void Saving::save(const Edits& edits, const WriteOptions& options)
             const bool mayBeSaved = !written.error || (written.isPartial && edits.subjects.size() > 1);
             {
                 const Announcer::Together done(m_announcer);
-                m_hasUndo = m_hasUndo || written.canBeUndone;
+                if (m_history)
+                    setUndoable(written.undoable);
                 if (mayBeSaved)
                     check(edits, written);
                 m_tasks.end(id);
@@ -152,21 +154,21 @@ void Saving::finish(const SaveOutcome& outcome)
 
 void Saving::undo(const QList<QUrl>& photos)
 {
-    if (!m_canUndo)
+    if (!m_undo.isPossible)
         return;
     const Announcer::Together together(m_announcer);
     begin(photos);
     const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::write, 0);
     runInBackground(
         this,
-        [service = *m_service, history = m_history, photos, progress = task.progress] {
-            return history->undo(service, photos, *progress);
+        [service = *m_service, history = m_history, number = m_undo.save.number, photos, progress = task.progress] {
+            return history->undo(service, number, photos, *progress);
         },
         [this, id = task.id](const SaveHistory::Undone& result) {
             {
                 const Announcer::Together done(m_announcer);
                 m_tasks.end(id);
-                m_hasUndo = result.hasMore;
+                setUndoable(result.next);
                 emit undone({ .records = result.records, .message = SaveHistory::text(result) });
             }
             end(!result.error);
@@ -179,7 +181,15 @@ void Saving::noteRename(const QUrl& from, const QUrl& to)
         return;
     m_history->noteRename(from.toLocalFile(), to.toLocalFile());
     runInBackground(
-        this, [history = m_history] { history->storeRenames(); }, [] {});
+        this,
+        [history = m_history] {
+            history->storeRenames();
+            return history->latest();
+        },
+        [this](const SaveHistory::Undoable& last) {
+            if (m_undo.save.number == last.number)
+                setUndoable(last);
+        });
 }
 
 }  // namespace Quorbel

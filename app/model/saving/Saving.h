@@ -30,7 +30,7 @@ class Saving final : public QObject {
     Q_DISABLE_COPY_MOVE(Saving)
 
 public:
-    /// `journalPath`: file of the saves that can be taken back; empty: none can.
+    /// `journalPath`: folder of the saves that can be taken back; empty: none can.
     Saving(Announcer& announcer, RunningTasks& tasks, FolderRefresh& refresh, std::optional<MetadataService> service,
         const QString& journalPath);
 
@@ -38,7 +38,9 @@ public:
     bool isPossible() const { return m_service.has_value(); }
     bool isSaving() const { return m_isSaving; }
     /// Whether the last save, perhaps of an earlier run of the program, can be taken back now.
-    bool canUndo() const { return m_canUndo; }
+    bool canUndo() const { return m_undo.isPossible; }
+    /// "Undo Save of 12 photos": which save that is.
+    QString undoText() const { return SaveHistory::name(m_undo.save); }
     /// Writes the edits to their subjects. Needs some of both, and that nothing is being saved.
     void save(const Edits& edits, const WriteOptions& options);
     /// Puts back what the last save replaced. `photos`: those that are open, to be read again where it concerns them.
@@ -59,15 +61,19 @@ private:
     void check(const Edits& edits, const SaveJob::Written& written, const QSet<QUrl>& tooSlow = {});
     void finish(const SaveOutcome& outcome);
     void openHistory(const QString& journalPath);
-    void updateCanUndo();
+    void setUndoable(const SaveHistory::Undoable& save);
 
     Announcer& m_announcer;
     RunningTasks& m_tasks;
     FolderRefresh& m_refresh;
     std::optional<MetadataService> m_service;
     std::shared_ptr<SaveHistory> m_history;  ///< null when no save can be taken back
-    bool m_hasUndo = false;
-    bool m_canUndo = false;
+    struct Undo {
+        SaveHistory::Undoable save{};
+        bool isPossible = false;
+        bool operator==(const Undo&) const = default;
+    };
+    Undo m_undo;
     bool m_isSaving = false;
 };
 

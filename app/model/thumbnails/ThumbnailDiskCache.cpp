@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QLockFile>
 #include <QSaveFile>
 #include <QUrl>
 
@@ -90,6 +91,11 @@ void ThumbnailDiskCache::save(const QString& key, const QImage& image) const
 void ThumbnailDiskCache::prune(qint64 mostBytes) const
 {
     if (m_folder.isEmpty())
+        return;
+    // Two programs that counted at once would both remove the rest of the way.
+    QLockFile lock(m_folder + u".lock"_s);
+    lock.setStaleLockTime(0);
+    if (!lock.tryLock())
         return;
     QFileInfoList files;
     qint64 total = 0;

@@ -1,9 +1,13 @@
 // Taking saves back: across restarts and renames, around others' work, through failures.
 #include "tests/app/model/ModelFixture.h"
 
+#include <QDir>
+#include <QLockFile>
 #include <QRegularExpression>
 #include <QTest>
 #include <QThreadPool>
+
+#include <sys/stat.h>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -16,7 +20,7 @@ struct JournaledPhotos : ModelFixture {
     explicit JournaledPhotos(const QStringList& names = { u"a.jpg"_s, u"b.jpg"_s })
     {
         addTitled(names);
-        services.journalPath = settings.filePath(u"state/undo.json"_s);
+        services.journalPath = settings.filePath(u"state/undo"_s);
         relaunch();
         model->preferences().saveDontAsk.set(true);
         model->preferences().confirmMassEdit.set(false);
@@ -56,6 +60,12 @@ private slots:
     void undoThatFailsInPart();
     void undoIsTriedAgainAfterTheToolWasCut();
     void unwritableJournalDoesNotStopASave();
+    void noOlderSaveIsTakenBackInstead_data();
+    void noOlderSaveIsTakenBackInstead();
+    void aSaveLeavesTheOthersInTheJournalAlone();
+    void twoProgramsTakeBackTheirOwn();
+    void oneProgramAtATimeTakesBack();
+    void earlierVersionsJournalIsTakenOver();
 };
 
 void tst_AppModelUndo::undoSurvivesARestart()
@@ -242,6 +252,158 @@ void tst_AppModelUndo::unwritableJournalDoesNotStopASave()
     QVERIFY(f.save());
     QCOMPARE(f->errorMessage(), std::nullopt);
     QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
+    QVERIFY(!f->canUndoSave());
+}
+
+void tst_AppModelUndo::noOlderSaveIsTakenBackInstead_data()
+{
+    QTest::addColumn<bool>("looksBefore");
+    QTest::addRow("the journal takes no more") << true;
+    QTest::addRow("what the save replaces cannot be read") << false;
+}
+
+// Saves of "a", "b", "c": the one of "b" is not in the journal, and undoing it must not undo "a".
+void tst_AppModelUndo::noOlderSaveIsTakenBackInstead()
+{
+    QFETCH(const bool, looksBefore);
+    JournaledPhotos f({ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s });
+    const QString broken = f.settings.filePath(u"broken"_s);
+    const QTemporaryDir tools;
+    const QString script = tools.filePath(u"exiftool"_s);
+    writeFile(script,
+        "exit 1 if -e '" + broken.toUtf8() + "' and grep { $_ eq '-php' } @ARGV;\nexec $^X, '"
+            + realTool().exiftoolURL.toLocalFile().toUtf8() + "', @ARGV;\n");
+    f.services.service = MetadataService{ { QUrl::fromLocalFile(script), realTool().perlURL } };
+    f.relaunch();
+    QVERIFY(f.open());
+    const auto saveOf = [&f](const QString& name) {
+        f.click(name);
+        f->setSingle(u"title"_s, u"X"_s);
+        return f.save();
+    };
+    QVERIFY(saveOf(u"a.jpg"_s));
+    QCOMPARE(f->undoSaveText(), u"Undo Save of “a.jpg”"_s);
+    const QString journal = f.services.journalPath;
+    if (looksBefore)
+        QVERIFY(QDir().rename(journal, journal + u"-away"_s));
+    writeFile(looksBefore ? journal : broken, "in the way");
+    QVERIFY(saveOf(u"b.jpg"_s));
+    QVERIFY(!f->canUndoSave());
+    QCOMPARE(f->undoSaveText(), u"Undo Save"_s);
+    QVERIFY(QFile::remove(looksBefore ? journal : broken));
+    if (looksBefore)
+        QVERIFY(QDir().rename(journal + u"-away"_s, journal));
+    QVERIFY(saveOf(u"c.jpg"_s));
+    QCOMPARE(f->undoSaveText(), u"Undo Save of “c.jpg”"_s);
+    QVERIFY(f.undo());
+    QVERIFY(!f->canUndoSave());
+    QCOMPARE(f.titles().values(), QStringList({ u"X"_s, u"X"_s, u"c.jpg"_s }));
+}
+
+void tst_AppModelUndo::aSaveLeavesTheOthersInTheJournalAlone()
+{
+    JournaledPhotos f;
+    QVERIFY(f.open());
+    const QDir journal(f.services.journalPath);
+    const auto files = [&journal] {
+        QMap<QString, quint64> inodes;
+        for (const QFileInfo& file : journal.entryInfoList(QDir::Files)) {
+            struct stat status = {};
+            if (stat(qPrintable(file.filePath()), &status) == 0)
+                inodes.insert(file.fileName(), status.st_ino);
+        }
+        return inodes;
+    };
+    f->selectAllPhotos();
+    f->setBatch(u"headline"_s, u"X"_s);
+    QVERIFY(f.save());
+    QCOMPARE(f->undoSaveText(), u"Undo Save of 2 photos"_s);
+    const auto before = files();
+    QCOMPARE(before.size(), 1);
+    f.click(u"b.jpg"_s);
+    f->setSingle(u"title"_s, u"Y"_s);
+    QVERIFY(f.save());
+    auto after = files();
+    QCOMPARE(after.size(), 2);
+    QCOMPARE(after.value(before.firstKey()), before.first());
+    // What is undone goes, and the menu names the one before, also when a photo of it got another name.
+    QVERIFY(f.undo());
+    QCOMPARE(files().value(before.firstKey()), before.first());
+    QCOMPARE(f->undoSaveText(), u"Undo Save of 2 photos"_s);
+    QVERIFY(f.undo());
+    QCOMPARE(files().size(), 0);
+    f->setSingle(u"title"_s, u"Z"_s);
+    QVERIFY(f.save());
+    f->preferences().renamePattern.set(u"new"_s);
+    f->performRename();
+    QTRY_COMPARE(f->undoSaveText(), u"Undo Save of “new.jpg”"_s);
+}
+
+void tst_AppModelUndo::twoProgramsTakeBackTheirOwn()
+{
+    JournaledPhotos f({ u"a.jpg"_s });
+    JournaledPhotos g({ u"b.jpg"_s });
+    g.services.journalPath = f.services.journalPath;
+    g.relaunch();
+    QVERIFY(f.open() && g.open());
+    for (JournaledPhotos* program : { &f, &g }) {
+        (*program)->setSingle(u"title"_s, u"X"_s);
+        QVERIFY(program->save());
+    }
+    QCOMPARE(f->undoSaveText(), u"Undo Save of “a.jpg”"_s);
+    QVERIFY(f.undo());
+    QCOMPARE(f.titles().values(), QStringList{ u"a.jpg"_s });
+    QCOMPARE(exiftoolValues(g.url(u"b.jpg"_s)).value(u"XMP:Title"_s), QJsonValue(u"X"_s));
+    // Now the other one's is the last, and whoever is quicker takes it back.
+    QCOMPARE(f->undoSaveText(), u"Undo Save of “b.jpg”"_s);
+    QVERIFY(f.undo());
+    QVERIFY(g.undo());
+    QCOMPARE(g->errorMessage(), u"Could not undo the save: it was undone already"_s);
+    QVERIFY(!f->canUndoSave() && !g->canUndoSave());
+    QCOMPARE(exiftoolValues(g.url(u"b.jpg"_s)).value(u"XMP:Title"_s), QJsonValue(u"b.jpg"_s));
+}
+
+void tst_AppModelUndo::oneProgramAtATimeTakesBack()
+{
+    JournaledPhotos f;
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"X"_s);
+    QVERIFY(f.save());
+    QLockFile other(f.services.journalPath + u".lock"_s);
+    QVERIFY(other.tryLock());
+    QVERIFY(f.undo());
+    QCOMPARE(f->errorMessage(), u"Could not undo the save: another Quorbel is undoing one at this moment"_s);
+    QVERIFY(f->canUndoSave());
+    other.unlock();
+    QVERIFY(f.undo());
+    QCOMPARE(f.titles().values(), QStringList({ u"a.jpg"_s, u"b.jpg"_s }));
+}
+
+// One file held all saves once.
+void tst_AppModelUndo::earlierVersionsJournalIsTakenOver()
+{
+    JournaledPhotos f;
+    QVERIFY(f.open());
+    QByteArrayList saves;
+    for (const QString& title : { u"X"_s, u"Y"_s }) {
+        f->setSingle(u"title"_s, title);
+        QVERIFY(f.save());
+        const QFileInfoList files = QDir(f.services.journalPath).entryInfoList(QDir::Files);
+        saves.append(readFile(files.constLast().filePath()));
+    }
+    f.relaunch();
+    QVERIFY(QDir(f.services.journalPath).removeRecursively());
+    const QString old = f.services.journalPath + u".json"_s;
+    writeFile(old, '[' + saves.join(',') + ']');
+    f.relaunch();
+    QTRY_VERIFY(f->canUndoSave());
+    QVERIFY(!QFile::exists(old));
+    QVERIFY(f.open());
+    for (const QString& title : { u"X"_s, u"a.jpg"_s }) {
+        QVERIFY(f.undo());
+        QCOMPARE(f->errorMessage(), std::nullopt);
+        QCOMPARE(f->draftValues().value(u"title"_s), title);
+    }
     QVERIFY(!f->canUndoSave());
 }
 

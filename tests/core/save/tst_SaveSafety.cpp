@@ -9,6 +9,7 @@
 #include "core/tool/TemporaryFiles.h"
 #include "tests/support/Support.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTest>
@@ -461,13 +462,12 @@ private slots:
         QVERIFY(tags(a) != beforeA);
 
         PhotoFolder state;
-        const QString journal = state.path(u"new/journal.json"_s);
-        QVERIFY(SaveJournal::store(journal, { entry }));
-        const auto loaded = SaveJournal::load(journal);
-        QCOMPARE(loaded, QList<JournalEntry>{ entry });
+        const SaveJournal journal(state.path(u"new/journal"_s));
+        const auto loaded = journal.load(journal.add(entry).value());
+        QCOMPARE(loaded, entry);
 
         writeFile(c.toLocalFile(), jpegBytes(9, 9));  // somebody else was there
-        const auto outcome = service.undo(loaded.constFirst());
+        const auto outcome = service.undo(*loaded);
         QCOMPARE(outcome.restored.size(), 2);
         QCOMPARE(outcome.changedSince, QList<QUrl>{ c });
         QVERIFY(outcome.failed.isEmpty());
@@ -515,10 +515,10 @@ private slots:
             file.after = *FileStamp::of(file.path);
         QVERIFY(tags() != before);
         PhotoFolder state;
-        QVERIFY(SaveJournal::store(state.path(u"journal.json"_s), { entry }));
-        const auto loaded = SaveJournal::load(state.path(u"journal.json"_s));
-        QCOMPARE(loaded, QList<JournalEntry>{ entry });
-        const auto outcome = service.undo(loaded.constFirst());
+        const SaveJournal journal(state.path(u"journal"_s));
+        const auto loaded = journal.load(journal.add(entry).value());
+        QCOMPARE(loaded, entry);
+        const auto outcome = service.undo(*loaded);
         QCOMPARE(outcome.restored.size(), photos.size());
         QVERIFY(outcome.inexact.isEmpty());
         QCOMPARE(tags(), before);
@@ -569,25 +569,35 @@ private slots:
     void journalKeepsTheNewestAndFollows()
     {
         PhotoFolder folder;
-        const QString path = folder.path(u"journal.json"_s);
         const QString photo = folder.add(u"a.jpg"_s).toLocalFile();
-        QList<JournalEntry> entries;
-        for (int i = 0; i < SaveJournal::limit + 5; ++i)
-            entries.append({ .savedAt = QDateTime::fromMSecsSinceEpoch(i, Qt::UTC),
+        const SaveJournal journal(folder.path(u"journal"_s));
+        const auto entryOf = [&photo](int i) {
+            return JournalEntry{ .savedAt = QDateTime::fromMSecsSinceEpoch(i, Qt::UTC),
                 .writtenTags = { QString::number(i) },
-                .files = { { .path = photo, .before = { i, i }, .after = { i + 1, i + 1 } } } });
-        QVERIFY(SaveJournal::store(path, entries));
-        entries = SaveJournal::load(path);
-        QCOMPARE(entries.size(), SaveJournal::limit);
-        QCOMPARE(entries.constLast().writtenTags, QStringList(QString::number(SaveJournal::limit + 4)));
+                .files = { { .path = photo, .before = { i, i }, .after = { i + 1, i + 1 } } } };
+        };
+        for (int i = 0; i < SaveJournal::limit + 5; ++i)
+            QVERIFY(journal.add(entryOf(i)));
+        const QList<qint64> saves = journal.saves();
+        QCOMPARE(saves.size(), SaveJournal::limit);
+        const JournalEntry last = journal.load(saves.constLast()).value();
+        QCOMPARE(last, entryOf(SaveJournal::limit + 4));
 
-        SaveJournal::removeUndone(entries, { photo });  // the file now stands as the save before left it
-        QCOMPARE(entries.constLast().files[0].after, FileStamp::of(photo).value());
-        SaveJournal::rename(entries, photo, u"/elsewhere.jpg"_s);
-        QCOMPARE(entries.constFirst().files[0].path, u"/elsewhere.jpg"_s);
+        QVERIFY(journal.removeUndone(saves.constLast(), last, {}));  // the file now stands as the save before left it
+        QCOMPARE(journal.saves(), saves.first(saves.size() - 1));
+        QCOMPARE(journal.load(saves.at(saves.size() - 2))->files[0].after, FileStamp::of(photo).value());
+        QVERIFY(journal.noteRenames({ { photo, u"/there.jpg"_s }, { u"/there.jpg"_s, u"/elsewhere.jpg"_s } }));
+        QCOMPARE(journal.load(saves.constFirst())->files[0].path, u"/elsewhere.jpg"_s);
+        // A later save of a photo with the old name is another photo's.
+        QCOMPARE(journal.load(journal.add(entryOf(1)).value())->files[0].path, photo);
 
-        writeFile(path, "{ half a journal");
-        QVERIFY(SaveJournal::load(path).isEmpty());
+        const QStringList names = QDir(folder.path(u"journal"_s)).entryList(QDir::Files);
+        writeFile(folder.path(u"journal/"_s + names.constFirst()), "{ half a journal");
+        QCOMPARE(journal.load(journal.saves().constFirst()), std::nullopt);
+        for (const QString& name : names) {
+            QCOMPARE(QFile::permissions(folder.path(u"journal/"_s + name)) & (QFile::ReadGroup | QFile::ReadOther),
+                QFile::Permissions());
+        }
     }
 
     void clearsOnlyItsAbandonedTemporaryFiles()

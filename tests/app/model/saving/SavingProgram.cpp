@@ -39,7 +39,7 @@ int main(int argc, char* argv[])
     AppModelServices services;
     services.service = MetadataService{ realTool() };
     services.preferences = std::make_shared<QSettings>(state + u"/settings.ini"_s, QSettings::IniFormat);
-    services.journalPath = state + u"/undo.json"_s;
+    services.journalPath = state + u"/undo"_s;
     AppModel model(services);
     model.preferences().backupOriginals.set(arguments.contains(u"--backup"_s));
     model.load({ QUrl::fromLocalFile(arguments.at(1)) });
