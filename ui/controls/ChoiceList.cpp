@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 namespace Quorbel {
@@ -98,7 +99,8 @@ void ChoiceList::open()
     show();
     m_rows->setFocus(Qt::PopupFocusReason);
     m_rows->setCurrentRow(qMax(0, m_chosen));
-    m_rows->scrollToItem(m_rows->currentItem(), QAbstractItemView::PositionAtCenter);
+    // About the middle, and no row cut at the ends.
+    m_rows->verticalScrollBar()->setValue((m_rows->currentRow() - (shown - 1) / 2) * px(rowHeight));
 }
 
 QRect ChoiceList::box() const

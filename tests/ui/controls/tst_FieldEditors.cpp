@@ -456,6 +456,7 @@ private slots:
         const QRect shown = rows->viewport()->rect();
         QCOMPARE(shown.height(), 10 * px(28));
         QVERIFY(shown.contains(rows->visualItemRect(rows->currentItem())));
+        QCOMPARE(rows->visualItemRect(rows->currentItem()).top() % px(28), 0);
         QCOMPARE(rows->currentItem()->text(), value.isEmpty() ? u"—"_s : value);
         // The first letters lead to a row, Escape takes none, a click takes one.
         QTest::keyClicks(rows, u"o07"_s);
