@@ -27,11 +27,6 @@ ResizeHandle::ResizeHandle(double width, double minWidth, double maxWidth, doubl
     onRestyle(this, [this] { updateGeometry(); });
 }
 
-void ResizeHandle::setColumnWidth(double width)
-{
-    m_width = qBound(m_minWidth, width, m_maxWidth);
-}
-
 QSize ResizeHandle::sizeHint() const
 {
     return { px(7), px(40) };

@@ -18,8 +18,6 @@ public:
     double columnWidth() const { return m_width; }  ///< device-independent pixels
     double minWidth() const { return m_minWidth; }
     double maxWidth() const { return m_maxWidth; }
-    /// Takes a width from outside, clamped; emits nothing.
-    void setColumnWidth(double width);
     /// As a user's choice: takes the width, clamped, and emits both signals.
     void choose(double width);
     /// How much of the strip's right end is line now: 1 pixel at rest, 3 while it is pointed at, dragged or focused.
