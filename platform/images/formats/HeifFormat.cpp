@@ -3,7 +3,8 @@
 #include "platform/images/Release.h"
 #include "platform/images/WholeFrameTurn.h"
 #include "platform/images/color/HevcToRgb.h"
-#include "platform/images/formats/HeifThumbnailView.h"
+#include "platform/images/formats/HeifTransformations.h"
+#include "platform/images/formats/HeifView.h"
 #include "platform/images/gate/HeaderGate.h"
 #include "platform/images/gate/HeifHeader.h"
 
@@ -13,6 +14,7 @@
 
 #include <libheif/heif.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace Quorbel {
@@ -21,6 +23,7 @@ namespace {
 
 using Context = std::unique_ptr<heif_context, Release<heif_context_free>>;
 using Handle = std::unique_ptr<heif_image_handle, Release<heif_image_handle_release>>;
+using Options = std::unique_ptr<heif_decoding_options, Release<heif_decoding_options_free>>;
 using Image = std::unique_ptr<heif_image, Release<heif_image_release>>;
 using Nclx = std::unique_ptr<heif_color_profile_nclx, Release<heif_nclx_color_profile_free>>;
 
@@ -32,14 +35,15 @@ bool fine(const heif_error& error)
 // What the library reads of a file.
 struct Input {
     QIODevice& device;
-    HeifPatch patch{};
+    QList<HeifPatch> patches{};
 
     bool read(char* data, qint64 length)
     {
         const qint64 from = device.pos();
         if (device.read(data, length) != length)
             return false;
-        patch.apply(from, data, length);
+        for (const HeifPatch& patch : std::as_const(patches))
+            patch.apply(from, data, length);
         return true;
     }
 };
@@ -73,8 +77,8 @@ class OpenFile {
     Q_DISABLE_COPY_MOVE(OpenFile)
 
 public:
-    explicit OpenFile(const DecodeSource& source, HeifPatch patch = {})
-        : m_input{ source.device, std::move(patch) }
+    OpenFile(const DecodeSource& source, const QList<HeifPatch>& patches)
+        : m_input{ source.device, patches }
         , m_context(heif_context_alloc())
     {
         source.device.seek(0);
@@ -118,10 +122,16 @@ bool sameShape(QSize one, QSize other)
     return std::abs(a - b) <= rounding * b;
 }
 
+// An image of the file.
+struct Item {
+    Handle handle{};
+    quint32 id = 0;
+};
+
 // The smallest thumbnail of at least that long side; null when there is none.
-Handle thumbnailHandle(const Handle& primary, int longSide)
+Item thumbnailItem(const Handle& primary, int longSide)
 {
-    Handle best;
+    Item best;
     for (const heif_item_id id : thumbnailIds(primary)) {
         heif_image_handle* found = nullptr;
         if (!fine(heif_image_handle_get_thumbnail(primary.get(), id, &found)))
@@ -130,8 +140,8 @@ Handle thumbnailHandle(const Handle& primary, int longSide)
         if (!HeaderGate::allows(sizeOf(thumbnail), true) || longSideOf(thumbnail) < longSide
             || !sameShape(sizeOf(thumbnail), sizeOf(primary)))
             continue;
-        if (!best || longSideOf(thumbnail) < longSideOf(best))
-            best = std::move(thumbnail);
+        if (!best.handle || longSideOf(thumbnail) < longSideOf(best.handle))
+            best = { std::move(thumbnail), id };
     }
     return best;
 }
@@ -222,30 +232,58 @@ QImage pixelsOf(const Image& image, bool premultiplied)
 }
 
 // Null when the library cannot decode it. In planes, as it has them: interleaving is cheaper here than there.
-Image decodedImage(const Handle& handle)
+Image decodedImage(const Handle& handle, bool asStored)
 {
+    const Options options(heif_decoding_options_alloc());
+    options->ignore_transformations = asStored ? 1 : 0;
     heif_image* image = nullptr;
-    const heif_error error = heif_decode_image(handle.get(), &image, heif_colorspace_RGB, heif_chroma_444, nullptr);
+    const heif_error error =
+        heif_decode_image(handle.get(), &image, heif_colorspace_RGB, heif_chroma_444, options.get());
     return Image(fine(error) ? image : nullptr);
 }
 
 // The same, the quick way when the picture allows it.
-Image quicklyDecodedImage(const Handle& handle)
+Image quicklyDecodedImage(const Handle& handle, bool asStored)
 {
     const HevcToRgb quick(handle.get());
-    return decodedImage(handle);
+    return decodedImage(handle, asStored);
 }
 
-DecodedFrame decodeHandle(const Handle& handle, const DecodeSource& source)
+QImage pixelsOf(const Handle& handle, bool asStored, const DecodeSource& source)
 {
-    const bool premultiplied = heif_image_handle_is_premultiplied_alpha(handle.get()) != 0;
-    DecodedFrame frame;
-    Image image = quicklyDecodedImage(handle);
+    Image image = quicklyDecodedImage(handle, asStored);
     if (!image && !source.cancel.stop_requested())
-        image = decodedImage(handle);
-    if (!image)
-        return frame;
-    QImage pixels = pixelsOf(image, premultiplied);
+        image = decodedImage(handle, asStored);
+    return image ? pixelsOf(image, heif_image_handle_is_premultiplied_alpha(handle.get()) != 0) : QImage();
+}
+
+// Some cameras code more than they declare, to fill the blocks of the codec: bars at the right and at the bottom,
+// before the picture is cut, turned and mirrored.
+QImage withoutPadding(const Handle& handle, const QList<HeifTransformation>& steps, const DecodeSource& source)
+{
+    const QSize declared(
+        heif_image_handle_get_ispe_width(handle.get()), heif_image_handle_get_ispe_height(handle.get()));
+    QImage pixels = pixelsOf(handle, true, source);
+    const QRect picture = QRect(QPoint(), declared) & pixels.rect();
+    if (!picture.isEmpty() && picture != pixels.rect())
+        pixels = pixels.copy(picture);
+    for (const HeifTransformation& step : steps)
+        pixels = step.applied(pixels);
+    return pixels;
+}
+
+DecodedFrame decodeItem(const Handle& handle, quint32 id, const HeifItems& items, const DecodeSource& source)
+{
+    const auto steps = HeifTransformation::of(source.device, items, id);
+    const bool isCut = std::any_of(steps.cbegin(), steps.cend(),
+        [](const HeifTransformation& step) { return step.kind == HeifTransformation::Kind::cut; });
+    DecodedFrame frame;
+    QImage pixels = isCut ? QImage() : pixelsOf(handle, false, source);
+    // What is cut shows no padding by its size: it is cut around the wrong middle. And deep pictures are not mirrored
+    // there.
+    const bool isPadded = pixels.width() > sizeOf(handle).width() || pixels.height() > sizeOf(handle).height();
+    if (isPadded || (pixels.isNull() && !steps.isEmpty() && !source.cancel.stop_requested()))
+        pixels = withoutPadding(handle, steps, source);
     if (pixels.isNull())
         return frame;
     frame.image = qMax(pixels.width(), pixels.height()) > source.longSide
@@ -256,17 +294,23 @@ DecodedFrame decodeHandle(const Handle& handle, const DecodeSource& source)
     return frame;
 }
 
-// The thumbnail out of a view of the file in which nothing else needs to be read.
-DecodedFrame decodeThumbnail(const DecodeSource& source, int longSide)
+bool isAllowed(QSize coded)
 {
-    HeifPatch view = onlyThumbnails(source.device);
-    if (view.bytes.isEmpty())
+    return coded.isEmpty() || HeaderGate::allows(coded, true);
+}
+
+// The thumbnail out of a view of the file in which nothing else needs to be read. The photo itself may be too large.
+DecodedFrame decodeThumbnail(const DecodeSource& source, const HeifItems& items, int longSide)
+{
+    const HeifPatch view = onlyThumbnails(source.device, items);
+    const QSize own = largestCodedFrame(source.device, items, items.withParts(items.thumbnails()));
+    if (view.bytes.isEmpty() || !isAllowed(own.isEmpty() ? largestCodedFrame(source.device) : own))
         return {};
-    const OpenFile file(source, std::move(view));
-    const Handle thumbnail = file.primary() ? thumbnailHandle(file.primary(), longSide) : Handle();
-    if (!thumbnail)
+    const OpenFile file(source, { view, plainReferences(source.device, items) });
+    const Item thumbnail = file.primary() ? thumbnailItem(file.primary(), longSide) : Item();
+    if (!thumbnail.handle)
         return {};
-    DecodedFrame frame = decodeHandle(thumbnail, source);
+    DecodedFrame frame = decodeItem(thumbnail.handle, thumbnail.id, items, source);
     if (frame.icc.isEmpty())
         frame.icc = profileOf(file.primary());
     return frame;
@@ -276,26 +320,26 @@ DecodedFrame decodeThumbnail(const DecodeSource& source, int longSide)
 
 DecodedFrame HeifFormat::decode(const DecodeSource& source)
 {
-    const QSize coded = largestCodedFrame(source.device);
+    const HeifItems items = HeifItems::of(source.device);
     DecodedFrame refused;
     refused.outcome = DecodedImage::Outcome::tooLarge;
-    if (!coded.isEmpty() && !HeaderGate::allows(coded, true))
-        return refused;
-    if (DecodedFrame frame = decodeThumbnail(source, source.longSide); frame.outcome == DecodedImage::Outcome::decoded)
+    if (DecodedFrame frame = decodeThumbnail(source, items, source.longSide);
+        frame.outcome == DecodedImage::Outcome::decoded)
         return frame;
-    const OpenFile file(source);
+    if (!isAllowed(largestCodedFrame(source.device)))
+        return refused;
+    const OpenFile file(source, { plainReferences(source.device, items) });
     if (!file.primary())
         return {};
     if (!HeaderGate::allows(sizeOf(file.primary()), true))
         return refused;
     const WholeFrameTurn turn(sizeOf(file.primary()), source.cancel);
-    return source.cancel.stop_requested() ? DecodedFrame() : decodeHandle(file.primary(), source);
+    return source.cancel.stop_requested() ? DecodedFrame() : decodeItem(file.primary(), items.primary, items, source);
 }
 
 DecodedFrame HeifFormat::thumbnail(const DecodeSource& source)
 {
-    const QSize coded = largestCodedFrame(source.device);
-    return coded.isEmpty() || HeaderGate::allows(coded, true) ? decodeThumbnail(source, 1) : DecodedFrame();
+    return decodeThumbnail(source, HeifItems::of(source.device), 1);
 }
 
 }  // namespace Quorbel

@@ -103,6 +103,8 @@ ImageFormat detectFormat(QIODevice& device, const QString& path)
         if (QByteArrayView(head).sliced(qMin<qsizetype>(signature.offset, head.size())).startsWith(signature.bytes))
             return signature.format;
     }
+    if (head.startsWith("\xff\xd8"))
+        return ImageFormat::jpeg;  // stray bytes stand before its first segment
     if (const auto branded = formatOfBrands(head); branded != ImageFormat::unknown)
         return branded;
     if (TiffReader::isTiff(head)) {

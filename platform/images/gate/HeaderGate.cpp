@@ -50,20 +50,47 @@ bool isSequentialFrame(int marker)
     return marker == 0xC0 || marker == 0xC1 || marker == 0xC9;
 }
 
+// Where the next marker lies, behind whatever does not belong there; fill bytes and stuffed zeros are no markers. Just
+// as libjpeg looks for it, so that both see the same header. -1: none before `end`.
+qint64 nextMarker(QIODevice& device, qint64 at, qint64 end)
+{
+    constexpr qint64 step = 4096;
+    while (at < end && device.seek(at)) {
+        const QByteArray bytes = device.read(step);
+        if (bytes.size() < 2)
+            break;
+        for (qsizetype i = 0; i + 1 < bytes.size(); ++i)
+            if (quint8(bytes[i]) == 0xFF && quint8(bytes[i + 1]) != 0xFF && bytes[i + 1] != 0)
+                return at + i;
+        at += bytes.size() - 1;
+    }
+    return -1;
+}
+
 std::optional<ImageHeader> readJpeg(QIODevice& device)
 {
     constexpr int maxSegments = 4096;  // an embedded profile takes up to 255, extended XMP some hundred
     ImageHeader header;
-    qint64 at = 2;
+    qint64 at = 2, strayBytes = 4LL * 1024 * 1024;  // as many are skipped, all in all
     for (int i = 0; i < maxSegments; ++i) {
         if (!device.seek(at))
             return std::nullopt;
-        const QByteArray start = device.read(18);
-        if (start.size() < 4 || quint8(start[0]) != 0xFF)
+        QByteArray start = device.read(18);
+        const bool isMarker =
+            start.size() >= 2 && quint8(start[0]) == 0xFF && quint8(start[1]) != 0xFF && start[1] != 0;
+        if (!isMarker) {
+            const qint64 found = nextMarker(device, at, at + strayBytes);
+            if (found < 0 || !device.seek(found))
+                return std::nullopt;
+            strayBytes -= found - at;
+            at = found;
+            start = device.read(18);
+        }
+        if (start.size() < 4)
             return std::nullopt;
         const int marker = quint8(start[1]);
-        if (marker == 0xFF || marker == 0x01 || (marker >= 0xD0 && marker <= 0xD7)) {
-            at += marker == 0xFF ? 1 : 2;  // fill bytes, and markers without a length
+        if (marker == 0x01 || (marker >= 0xD0 && marker <= 0xD7)) {
+            at += 2;  // markers without a length
             continue;
         }
         if (marker == 0xE1 && header.exifAt < 0 && start.sliced(4).startsWith(QByteArrayView("Exif\0", 5)))

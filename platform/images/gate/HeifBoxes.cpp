@@ -22,7 +22,7 @@ void eachBoxBelow(QIODevice& device, qint64 at, qint64 end, std::span<const char
 
 void eachBox(QIODevice& device, qint64 at, qint64 end, const BoxVisit& visit)
 {
-    constexpr int maxBoxes = 4096;
+    constexpr int maxBoxes = 20'000;
     for (int i = 0; i < maxBoxes && at + 8 <= end; ++i) {
         device.seek(at);
         const QByteArray head = device.read(16);
@@ -41,6 +41,12 @@ void eachBox(QIODevice& device, qint64 at, qint64 end, const BoxVisit& visit)
         visit(QByteArrayView(head).sliced(4, 4), body, at + length);
         at += length;
     }
+}
+
+QByteArray boxContent(QIODevice& device, qint64 at, qint64 end)
+{
+    constexpr qint64 longest = 1024LL * 1024;
+    return end > at && end - at <= longest && device.seek(at) ? device.read(end - at) : QByteArray();
 }
 
 void eachBoxInside(QIODevice& device, std::span<const char* const> path, const BoxVisit& visit)

@@ -13,10 +13,13 @@ namespace Quorbel {
 /// A box's type and the file positions between which its content lies.
 using BoxVisit = std::function<void(QByteArrayView type, qint64 bodyAt, qint64 bodyEnd)>;
 
-/// Calls `visit` for each box that lies in [at, end), up to the first broken one, at most some thousands.
+/// Calls `visit` for each box that lies in [at, end), up to the first broken one, at most as many as libheif reads.
 void eachBox(QIODevice& device, qint64 at, qint64 end, const BoxVisit& visit);
 
 /// Calls `visit` for each box inside the boxes of that path, from the top level down: { "meta", "iprp" }.
 void eachBoxInside(QIODevice& device, std::span<const char* const> path, const BoxVisit& visit);
+
+/// The content between two positions; empty when it is longer than tables are.
+QByteArray boxContent(QIODevice& device, qint64 at, qint64 end);
 
 }  // namespace Quorbel

@@ -151,20 +151,43 @@ QSize sizeOfAv1Record(QByteArrayView record)
     return clamped(width, in.bits(heightBits) + 1);
 }
 
+// Of a property, when it is a decoder's record.
+QSize codedFrame(QIODevice& device, QByteArrayView type, qint64 at, qint64 end)
+{
+    constexpr qint64 longestRecord = 64LL * 1024;
+    if (type != "hvcC" && type != "av1C")
+        return {};
+    device.seek(at);
+    const QByteArray record = device.read(qMin(end - at, longestRecord));
+    return type == "hvcC" ? sizeOfHevcRecord(record) : sizeOfAv1Record(record);
+}
+
 }  // namespace
 
 QSize largestCodedFrame(QIODevice& device)
 {
     static constexpr std::array properties{ "meta", "iprp", "ipco" };
-    constexpr qint64 longestRecord = 64LL * 1024;
     QSize largest;
     eachBoxInside(device, properties, [&](QByteArrayView type, qint64 at, qint64 end) {
-        if (type != "hvcC" && type != "av1C")
-            return;
-        device.seek(at);
-        const QByteArray record = device.read(qMin(end - at, longestRecord));
-        largest = largest.expandedTo(type == "hvcC" ? sizeOfHevcRecord(record) : sizeOfAv1Record(record));
+        largest = largest.expandedTo(codedFrame(device, type, at, end));
     });
+    device.seek(0);
+    return largest;
+}
+
+QSize largestCodedFrame(QIODevice& device, const HeifItems& items, const QSet<quint32>& of)
+{
+    QSize largest;
+    QSet<qsizetype> known;
+    for (const quint32 item : of) {
+        for (const qsizetype at : items.propertiesOf.value(item)) {
+            if (at >= items.properties.size() || known.contains(at))
+                continue;
+            known.insert(at);
+            const HeifProperty& property = items.properties.at(at);
+            largest = largest.expandedTo(codedFrame(device, property.type, property.at, property.end));
+        }
+    }
     device.seek(0);
     return largest;
 }

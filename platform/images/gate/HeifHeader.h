@@ -3,6 +3,8 @@
 // Thread: the one that owns the device. Reads boxes, never pixels.
 #pragma once
 
+#include "platform/images/gate/HeifItems.h"
+
 #include <QIODevice>
 #include <QSize>
 
@@ -11,5 +13,8 @@ namespace Quorbel {
 /// The largest coded frame among the item properties; empty when no record could be read. The device's position is
 /// put back to the start.
 QSize largestCodedFrame(QIODevice& device);
+
+/// The same among what belongs to these items.
+QSize largestCodedFrame(QIODevice& device, const HeifItems& items, const QSet<quint32>& of);
 
 }  // namespace Quorbel

@@ -105,17 +105,90 @@ void writeTiffPixels(TIFF* tiff, const QByteArray& inks, QSize size, const Image
 }
 
 // The pixels as the library takes them.
-heif_image* heifImage(const QImage& image)
+heif_image* heifImage(const QImage& image, int bits = 8)
 {
+    const bool isDeep = bits > 8;
     const QImage rgb = image.convertToFormat(QImage::Format_RGB888);
     heif_image* pixels = nullptr;
-    heif_image_create(rgb.width(), rgb.height(), heif_colorspace_RGB, heif_chroma_interleaved_RGB, &pixels);
-    heif_image_add_plane(pixels, heif_channel_interleaved, rgb.width(), rgb.height(), 8);
+    heif_image_create(rgb.width(), rgb.height(), heif_colorspace_RGB,
+        isDeep ? heif_chroma_interleaved_RRGGBB_LE : heif_chroma_interleaved_RGB, &pixels);
+    heif_image_add_plane(pixels, heif_channel_interleaved, rgb.width(), rgb.height(), bits);
     int stride = 0;
     uint8_t* plane = heif_image_get_plane(pixels, heif_channel_interleaved, &stride);
-    for (int y = 0; y < rgb.height(); ++y)
-        memcpy(plane + qsizetype(y) * stride, rgb.constScanLine(y), size_t(rgb.width()) * 3);
+    for (int y = 0; y < rgb.height(); ++y) {
+        const uchar* row = rgb.constScanLine(y);
+        uint8_t* to = plane + qsizetype(y) * stride;
+        for (int i = 0; i < rgb.width() * 3; ++i) {
+            if (isDeep)
+                qToLittleEndian(quint16(row[i] << (bits - 8)), to + 2 * i);
+            else
+                to[i] = row[i];
+        }
+    }
     return pixels;
+}
+
+void enlarge(QByteArray& file, qsizetype at, qsizetype by)
+{
+    file.replace(at, 4, big<quint32>(qFromBigEndian<quint32>(file.constData() + at) + quint32(by)));
+}
+
+// What lies behind the tables has moved.
+void shiftLocations(QByteArray& file, qsizetype by)
+{
+    qsizetype at = file.indexOf("iloc") + 4;
+    const auto number = [&](qsizetype length) {
+        quint64 value = 0;
+        for (; length > 0; --length)
+            value = value << 8 | quint8(file[at++]);
+        return value;
+    };
+    const auto shift = [&](qsizetype length) {
+        const quint64 value = number(length) + quint64(by);
+        for (qsizetype i = 0; i < length; ++i)
+            file[at - 1 - i] = char(value >> (8 * i) & 0xFF);
+    };
+    const auto version = number(1);
+    number(3);
+    const auto sizes = number(2);
+    const auto offset = qsizetype(sizes >> 12), length = qsizetype(sizes >> 8 & 15), base = qsizetype(sizes >> 4 & 15);
+    for (auto items = number(version < 2 ? 2 : 4); items > 0; --items) {
+        number(version < 2 ? 2 : 4);
+        const bool inFile = version == 0 || (number(2) & 15) == 0;
+        number(2 + base);
+        for (auto extents = number(2); extents > 0; --extents) {
+            number(version == 0 ? 0 : qsizetype(sizes & 15));
+            if (inFile)
+                shift(offset);
+            else
+                number(offset);
+            number(length);
+        }
+    }
+}
+
+// Bytes put into the tables, inside boxes of these types.
+void insertInBoxes(QByteArray& file, qsizetype at, const QByteArray& bytes, const QList<QByteArray>& boxes)
+{
+    for (const QByteArray& box : boxes)
+        enlarge(file, file.indexOf(box) - 4, bytes.size());
+    file.insert(at, bytes);
+    shiftLocations(file, bytes.size());
+}
+
+// A sequence parameter set as far as the size, and the array of a decoder's record that holds it.
+QByteArray sequenceArray(QSize size)
+{
+    QByteArray bits = QByteArray("0100001000000001") + "0000" + "000" + "1" + QByteArray(96, '1') + "1" + "010";
+    for (const int side : { size.width(), size.height() }) {
+        const QByteArray value = QByteArray::number(side + 1, 2);
+        bits += QByteArray(value.size() - 1, '0') + value;
+    }
+    bits += QByteArray(8 - bits.size() % 8, '1');
+    QByteArray unit;
+    for (qsizetype i = 0; i < bits.size(); i += 8)
+        unit += char(bits.mid(i, 8).toInt(nullptr, 2));
+    return QByteArray("\x21\0\1", 3) + big<quint16>(quint16(unit.size())) + unit;
 }
 
 }  // namespace
@@ -152,7 +225,8 @@ QByteArray heif(const QImage& image, bool av1, const HeifExtras& extras)
     heif_context_get_encoder_for_format(context, av1 ? heif_compression_AV1 : heif_compression_HEVC, &encoder);
     heif_encoder_set_lossy_quality(encoder, extras.quality);
     heif_encoder_set_parameter(encoder, av1 ? "speed" : "preset", av1 ? "9" : "ultrafast");
-    heif_image *pixels = heifImage(image), *small = heifImage(extras.thumbnailOf.isNull() ? image : extras.thumbnailOf);
+    heif_image* pixels = heifImage(image, extras.bits);
+    heif_image* small = heifImage(extras.thumbnailOf.isNull() ? image : extras.thumbnailOf, extras.bits);
     if (!extras.icc.isEmpty())
         heif_image_set_raw_color_profile(pixels, "prof", extras.icc.constData(), size_t(extras.icc.size()));
     heif_color_profile_nclx* nclx = heif_nclx_color_profile_alloc();
@@ -167,6 +241,8 @@ QByteArray heif(const QImage& image, bool av1, const HeifExtras& extras)
     heif_context_encode_image(context, pixels, encoder, options, &primary);
     if (extras.thumbnail > 0)
         heif_context_encode_thumbnail(context, small, primary, encoder, options, extras.thumbnail, &thumbnail);
+    if (extras.metadata)
+        heif_context_add_XMP_metadata(context, primary, "<x/>", 4);
     heif_encoding_options_free(options);
     heif_nclx_color_profile_free(nclx);
     QByteArray bytes;
@@ -183,6 +259,49 @@ QByteArray heif(const QImage& image, bool av1, const HeifExtras& extras)
     heif_encoder_release(encoder);
     heif_context_free(context);
     return bytes;
+}
+
+QByteArray heifWithProperty(QByteArray file, int item, const QByteArray& type, const QByteArray& content)
+{
+    const qsizetype boxAt = file.indexOf("ipco") - 4, end = boxAt + qFromBigEndian<quint32>(file.constData() + boxAt);
+    char number = 1;
+    for (qsizetype at = boxAt + 8; at < end; at += qFromBigEndian<quint32>(file.constData() + at))
+        ++number;
+    insertInBoxes(file, end, big<quint32>(quint32(8 + content.size())) + type + content, { "meta", "iprp", "ipco" });
+    qsizetype entry = file.indexOf("ipma") + 12;
+    while (qFromBigEndian<quint16>(file.constData() + entry) != item)
+        entry += 3 + quint8(file[entry + 2]);
+    file[entry + 2] = char(file[entry + 2] + 1);
+    insertInBoxes(
+        file, entry + 2 + quint8(file[entry + 2]), QByteArray(1, char(0x80 | number)), { "meta", "iprp", "ipma" });
+    return file;
+}
+
+QByteArray heifReferring(QByteArray file, const QByteArray& type, int target, const QByteArray& as)
+{
+    const qsizetype at = file.indexOf(type, file.indexOf("iref"));
+    file.replace(at, 4, as.isEmpty() ? type : as);
+    const auto count = qFromBigEndian<quint16>(file.constData() + at + 6);
+    file.replace(at + 6, 2, big<quint16>(quint16(count + 1)));
+    enlarge(file, at - 4, 2);
+    insertInBoxes(file, at + 8 + 2 * count, big<quint16>(quint16(target)), { "meta", "iref" });
+    return file;
+}
+
+QByteArray heifDeclaring(QByteArray file, int picture, QSize size)
+{
+    qsizetype at = file.indexOf("ispe");
+    for (; picture > 0; --picture)
+        at = file.indexOf("ispe", at + 4);
+    return file.replace(at + 8, 8, big<quint32>(quint32(size.width())) + big<quint32>(quint32(size.height())));
+}
+
+QByteArray heifCoding(QByteArray file, QSize size)
+{
+    const qsizetype record = file.indexOf("hvcC") + 4;
+    file[record + 22] = char(file[record + 22] + 1);
+    insertInBoxes(file, record + 23, sequenceArray(size), { "meta", "iprp", "ipco", "hvcC" });
+    return file;
 }
 
 QByteArray jxl(const QImage& image, const QByteArray& icc)

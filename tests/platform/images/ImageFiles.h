@@ -18,9 +18,19 @@ struct HeifExtras {
     QByteArray icc{};
     int matrix = 6;  ///< of luma and chroma: 1 is BT.709's, 6 BT.601's
     bool fullRange = true;
+    int bits = 8;  ///< a sample
+    bool metadata = false;  ///< adds an item of XMP
 };
 /// HEVC or AV1 in a HEIF container.
 QByteArray heif(const QImage& image, bool av1, const HeifExtras& extras = {});
+/// The same file with one more property of that item, at the end.
+QByteArray heifWithProperty(QByteArray file, int item, const QByteArray& type, const QByteArray& content);
+/// The same file in which the first reference of that type is to one more item, and bears another type if one is given.
+QByteArray heifReferring(QByteArray file, const QByteArray& type, int target, const QByteArray& as = {});
+/// The same file in which its first or second picture has another size than it is coded in.
+QByteArray heifDeclaring(QByteArray file, int picture, QSize size);
+/// The same file, whose first decoder's record speaks of frames of that size as well.
+QByteArray heifCoding(QByteArray file, QSize size);
 QByteArray jxl(const QImage& image, const QByteArray& icc = {});
 /// `boxed`: a JP2 file; otherwise the bare codestream.
 QByteArray jpeg2000(const QImage& image, bool boxed, const QByteArray& icc = {});

@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QtEndian>
 
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -101,6 +102,17 @@ QString wrongQuarter(const QImage& image, const QImage& expected, int tolerance)
         }
     }
     return {};
+}
+
+int magentaPixels(const QImage& image)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor color = image.pixelColor(x, y);
+            count += color.green() < 90 && color.red() > 180 && color.blue() > 180 ? 1 : 0;
+        }
+    return count;
 }
 
 // The megabytes that decoding this file, and its own thumbnail, adds at its highest, measured in a process of its own,
@@ -508,13 +520,218 @@ private slots:
     // A HEIC's thumbnail stands for the photo, so it must not be one with bars.
     void heifThumbnailOfAnotherShapeIsNotThePhoto()
     {
-        QImage barred(160, 120, QImage::Format_RGB32);
+        QImage barred(320, 240, QImage::Format_RGB32);
         barred.fill(Qt::black);
         const QByteArray bytes =
             ImageFiles::heif(ImageFiles::quarters({ 320, 200 }), false, { .thumbnail = 160, .thumbnailOf = barred });
         const QImage photo = ImageDecoder::decode(stored(bytes, "a.heic"), 80).image;
         QCOMPARE(photo.size(), QSize(80, 50));
         QCOMPARE(wrongQuarter(photo, ImageFiles::quarters({ 320, 200 }), 12), QString());
+    }
+
+    // Cameras fill the codec's blocks, and declare what of it is the picture. Held against what the library makes of
+    // the same file without the bars, at eight bits: deep pictures it cannot mirror.
+    void heifPaddingIsCutOff_data()
+    {
+        QTest::addColumn<ImageFiles::HeifExtras>("extras");
+        QTest::addColumn<QList<Named>>("steps");
+        const auto turned = [](char quarters) { return Named{ "irot", QByteArray(1, quarters) }; };
+        const auto mirrored = [](char axis) { return Named{ "imir", QByteArray(1, axis) }; };
+        const QList<std::pair<const char*, QList<Named>>> ways{
+            { "as it is", {} },
+            { "turned", { turned(1) } },
+            { "upside down", { turned(2) } },
+            { "turned the other way", { turned(3) } },
+            { "mirrored", { mirrored(0) } },
+            { "mirrored the other way", { mirrored(1) } },
+            { "turned and mirrored", { turned(1), mirrored(0) } },
+            { "mirrored and turned", { mirrored(1), turned(3) } },
+        };
+        for (const auto& [name, steps] : ways) {
+            QTest::addRow("photo %s", name) << ImageFiles::HeifExtras{} << steps;
+            QTest::addRow("thumbnail %s", name) << ImageFiles::HeifExtras{ .thumbnail = 112 } << steps;
+            QTest::addRow("deep thumbnail %s", name) << ImageFiles::HeifExtras{ .thumbnail = 112, .bits = 10 } << steps;
+        }
+    }
+    void heifPaddingIsCutOff()
+    {
+        QFETCH(ImageFiles::HeifExtras, extras);
+        QFETCH(QList<Named>, steps);
+        const QImage picture = ImageFiles::quarters({ 96, 64 });
+        QImage padded(112, 88, QImage::Format_RGB32);
+        padded.fill(Qt::magenta);
+        QPainter(&padded).drawImage(0, 0, picture);
+        const auto withSteps = [&](QByteArray file, int items) {
+            for (int item = 1; item <= items; ++item)
+                for (const auto& [type, content] : steps)
+                    file = ImageFiles::heifWithProperty(file, item, type, content);
+            return file;
+        };
+        const QByteArray plain = withSteps(ImageFiles::heif(picture, false), 1);
+        const QImage expected = ImageDecoder::decode(stored(plain, "plain.heic"), 96).image;
+        extras.thumbnailOf = padded.scaled(padded.size() * 2);  // only what is larger than a thumbnail gets one
+        const bool isThumbnail = extras.thumbnail > 0;
+        QByteArray file = ImageFiles::heif(isThumbnail ? ImageFiles::quarters({ 480, 320 }) : padded, false, extras);
+        file = withSteps(ImageFiles::heifDeclaring(file, isThumbnail ? 1 : 0, { 96, 64 }), isThumbnail ? 2 : 1);
+        const QImage image = ImageDecoder::decode(stored(file, "a.hif"), 96).image;
+        QCOMPARE(image.size(), expected.size());
+        QCOMPARE(wrongQuarter(image, expected, 12), QString());
+        QCOMPARE(magentaPixels(image), 0);
+        if (isThumbnail)
+            QCOMPARE(magentaPixels(ImageDecoder::embeddedThumbnail(stored(file, "a.hif"))), 0);
+    }
+
+    // A part that is cut out lies around the middle of what is declared, not of what is coded.
+    void heifPartIsCutOutOfTheDeclared()
+    {
+        QImage padded(112, 88, QImage::Format_RGB32);
+        padded.fill(Qt::magenta);
+        QPainter(&padded).drawImage(0, 0, ImageFiles::quarters({ 96, 64 }));
+        const auto fraction = [](int above, int below) {
+            QByteArray bytes(8, '\0');
+            qToBigEndian(above, bytes.data());
+            qToBigEndian(below, bytes.data() + 4);
+            return bytes;
+        };
+        const QByteArray file = ImageFiles::heifDeclaring(ImageFiles::heif(padded, false), 0, { 96, 64 });
+        const QByteArray cut = fraction(160, 2) + fraction(48, 1) + fraction(0, 1) + fraction(-8, 2);
+        const QImage image =
+            ImageDecoder::decode(stored(ImageFiles::heifWithProperty(file, 1, "clap", cut), "a.hif"), 96).image;
+        QCOMPARE(image.size(), QSize(80, 48));
+        QCOMPARE(magentaPixels(image), 0);
+        // The picture's middle, at 48, 32, is now at 40, 28.
+        QVERIFY2(isNear(image.pixel(33, 21), qRgb(220, 20, 20), 30), qPrintable(image.pixelColor(33, 21).name()));
+        QVERIFY2(isNear(image.pixel(47, 35), qRgb(255, 255, 255), 30), qPrintable(image.pixelColor(47, 35).name()));
+        for (const QByteArray& absurd : { fraction(0, 0).repeated(4), fraction(-5, 1).repeated(4),
+                 fraction(INT_MAX, 1).repeated(4), fraction(INT_MIN, -1).repeated(4), QByteArray("\0", 1) }) {
+            const QByteArray bytes = ImageFiles::heifWithProperty(file, 1, "clap", absurd);
+            const DecodedImage got = ImageDecoder::decode(stored(bytes, "a.hif"), 96);
+            QCOMPARE(got.image.isNull(), got.outcome != Outcome::decoded);
+        }
+    }
+
+    // Phones let gain maps, metadata and thumbnails belong to two pictures of one file; libheif 1.15 refuses it for
+    // that.
+    void heifReferencesToSeveral_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("hasThumbnail");
+        const auto file = [](bool metadata) {
+            return ImageFiles::heif(
+                ImageFiles::quarters({ 320, 200 }), false, { .thumbnail = 160, .metadata = metadata });
+        };
+        const QByteArray gainMap = QByteArray(4, '\0') + "urn:com:example:aux:gainmap" + '\0';
+        const auto auxiliary = [&](const QByteArray& bytes) {
+            return ImageFiles::heifReferring(
+                ImageFiles::heifWithProperty(bytes, 2, "auxC", gainMap), "thmb", 9, "auxl");
+        };
+        QTest::newRow("metadata") << ImageFiles::heifReferring(file(true), "cdsc", 2) << true;
+        QTest::newRow("metadata of what is not there") << ImageFiles::heifReferring(file(true), "cdsc", 99) << true;
+        QTest::newRow("auxiliary image") << auxiliary(file(false)) << false;
+        QTest::newRow("auxiliary image and metadata")
+            << ImageFiles::heifReferring(auxiliary(file(true)), "cdsc", 9) << false;
+        QTest::newRow("thumbnail") << ImageFiles::heifReferring(file(true), "thmb", 9) << true;
+        QTest::newRow("thumbnail of three")
+            << ImageFiles::heifReferring(ImageFiles::heifReferring(file(true), "thmb", 9), "thmb", 8) << true;
+        QTest::newRow("thumbnail and no room") << ImageFiles::heifReferring(file(false), "thmb", 9) << false;
+    }
+    void heifReferencesToSeveral()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, hasThumbnail);
+        const QString path = stored(bytes, "a.heic");
+        for (const int side : { 80, 320 }) {
+            const DecodedImage got = ImageDecoder::decode(path, side);
+            QCOMPARE(got.outcome, Outcome::decoded);
+            QCOMPARE(got.image.size(), QSize(side, side * 5 / 8));
+            QCOMPARE(wrongQuarter(got.image, ImageFiles::quarters({ 320, 200 }), 12), QString());
+        }
+        QCOMPARE(!ImageDecoder::embeddedThumbnail(path).isNull(), hasThumbnail);
+    }
+
+    // A photo beyond what may be held has its thumbnail, at next to no cost.
+    void heifBeyondTheLimitHasItsThumbnail_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const QSize large(17888, 11180);
+        const QByteArray file = ImageFiles::heif(ImageFiles::quarters({ 320, 200 }), false, { .thumbnail = 160 });
+        QTest::newRow("put together") << ImageFiles::heifDeclaring(file, 0, large);
+        QTest::newRow("in one frame") << ImageFiles::heifCoding(ImageFiles::heifDeclaring(file, 0, large), large);
+    }
+    void heifBeyondTheLimitHasItsThumbnail()
+    {
+        QFETCH(QByteArray, bytes);
+        const QString path = stored(bytes, "a.heic");
+        QCOMPARE(wrongQuarter(ImageDecoder::decode(path, 90).image, ImageFiles::quarters({ 320, 200 }), 12), QString());
+        QCOMPARE(ImageDecoder::embeddedThumbnail(path).size(), QSize(160, 100));
+        QCOMPARE(ImageDecoder::decode(path, 1400).outcome, Outcome::tooLarge);
+        QVERIFY(decodeApart(path).second < 50);
+    }
+
+    // The same where it is the thumbnail that a decoder would need gigabytes for.
+    void heifThumbnailBeyondTheLimitIsNotDecoded()
+    {
+        QByteArray file = ImageFiles::heif(ImageFiles::quarters({ 320, 200 }), false, { .thumbnail = 160 });
+        // The first record becomes the thumbnail's too.
+        const qsizetype record = file.indexOf("hvcC");
+        const QByteArray second =
+            ImageFiles::heifCoding(file.replace(file.indexOf("hvcC", record + 4), 4, "hvcX"), { 60000, 60000 });
+        file = ImageFiles::heifWithProperty(second, 2, "hvcC", second.mid(second.indexOf("hvcC") + 4, 200));
+        QVERIFY(ImageDecoder::embeddedThumbnail(stored(file, "a.heic")).isNull());
+        const auto [outcome, megabytes] = decodeApart(stored(file, "a.heic"));
+        QCOMPARE(outcome, Outcome::tooLarge);
+        QVERIFY2(megabytes < 50, qPrintable(QString::number(megabytes)));
+    }
+
+    // Each byte of the tables wrong once.
+    void corruptHeifTables()
+    {
+        const QByteArray gainMap = QByteArray(4, '\0') + "urn:com:example:aux:gainmap" + '\0';
+        QByteArray bytes =
+            ImageFiles::heif(ImageFiles::quarters({ 64, 40 }), false, { .thumbnail = 32, .metadata = true });
+        bytes = ImageFiles::heifWithProperty(bytes, 1, "irot", QByteArray(1, 1));
+        bytes = ImageFiles::heifWithProperty(bytes, 2, "clap", QByteArray("\0\0\0\1", 4).repeated(8));
+        bytes = ImageFiles::heifReferring(ImageFiles::heifReferring(bytes, "thmb", 9), "cdsc", 2);
+        for (qsizetype at = bytes.indexOf("meta") - 4; at < bytes.indexOf("mdat"); ++at) {
+            for (const int flip : { 0x01, 0xFF }) {
+                QByteArray wrong = bytes;
+                wrong[at] = char(wrong[at] ^ flip);
+                const DecodedImage got = ImageDecoder::decode(wrong, 48);
+                QCOMPARE(got.image.isNull(), got.outcome != Outcome::decoded);
+            }
+        }
+    }
+
+    // Some programs leave bytes between the segments; every decoder looks for the next marker, and so must the gate.
+    void strayBytesInJpegs_data()
+    {
+        QTest::addColumn<QByteArray>("stray");
+        QTest::newRow("one") << QByteArray(1, '\0');
+        QTest::newRow("a text") << QByteArray("left over by somebody");
+        QTest::newRow("stuffed zeros") << QByteArray("\xff\0\xff\xff\0\x12", 6);
+        QTest::newRow("fill bytes") << QByteArray(7, '\xff');
+        QTest::newRow("across a block") << QByteArray(4096 - 20, 'x');
+        QTest::newRow("many") << QByteArray(100'000, '\0') + QByteArray("\xff\0", 2);
+    }
+    void strayBytesInJpegs()
+    {
+        QFETCH(QByteArray, stray);
+        const QByteArray plain = ImageFiles::withExif(
+            ImageFiles::written(ImageFiles::quarters({ 320, 200 }), "jpg"), ImageFiles::exifBlock(3));
+        // The starts of all segments, up to the pixels.
+        for (qsizetype at = 2; quint8(plain[at + 1]) != 0xDA;
+             at += 2 + qFromBigEndian<quint16>(plain.constData() + at + 2)) {
+            QByteArray bytes = plain;
+            const DecodedImage got = ImageDecoder::decode(stored(bytes.insert(at, stray), "a.jpg"), 80);
+            QCOMPARE(got.outcome, Outcome::decoded);
+            QCOMPARE(wrongQuarter(got.image, ImageFiles::quarters({ 320, 200 }).mirrored(true, true), 12), QString());
+        }
+        for (const char* format : { "progressive jpg", "sequential jpg in several scans" }) {
+            QByteArray bomb = ImageFiles::bomb(format);
+            const auto [outcome, megabytes] = decodeApart(stored(bomb.insert(20, stray), "bomb"));
+            QCOMPARE(outcome, Outcome::tooLarge);
+            QVERIFY2(megabytes < 50, qPrintable(QString::number(megabytes)));
+        }
     }
 
     void rawWithoutAPreviewIsDeveloped()
