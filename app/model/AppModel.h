@@ -176,6 +176,12 @@ public:
 
     /// Set by the view layer: told the URLs of photos whose file changed, so that their images are rebuilt.
     std::function<void(const QList<QUrl>&)> onImagesModified{};
+    /// The same: a photo got another name here, before the records say so.
+    std::function<void(const QUrl& from, const QUrl& to)> onImageRenamed{};
+    /// The same: metadata is about to be written into these files.
+    std::function<void(const QList<QUrl>&)> onWriteBegins{};
+    /// The same, once for each beginning: of which of them new metadata was read, before the records say so.
+    std::function<void(const QList<QUrl>& written)> onWriteEnds{};
 
 signals:
     void recordsChanged();
@@ -235,6 +241,7 @@ private:
     // Saving
     void save();
     void takeSaved(const SaveOutcome& outcome);
+    void tellWritten(const SaveOutcome& outcome);
     void takeUndone(const SaveOutcome& outcome);
     // Renaming
     QMap<QString, QString> renameValues(const ImageRecord& record) const;

@@ -110,6 +110,8 @@ void AppModel::performRename()
 void AppModel::takeRenamed(const QUrl& source, const QUrl& destination)
 {
     const Announcer::Together together(m_announcer);
+    if (onImageRenamed)
+        onImageRenamed(source, destination);
     // The name was free: the photo that had it is gone, and nobody has told us yet.
     if (const int gone = photos().position(destination); gone >= 0)
         takeVanished({ gone });

@@ -69,11 +69,24 @@ void AppModel::save()
         return;
     }
     m_editing.send();
+    if (onWriteBegins)
+        onWriteBegins(edits.subjects);
     m_saving.save(edits, { m_preferences.backupOriginals(), m_preferences.writeSidecar() });
+}
+
+void AppModel::tellWritten(const SaveOutcome& outcome)
+{
+    QList<QUrl> written;
+    written.reserve(outcome.records.size());
+    for (const ImageRecord& record : outcome.records)
+        written.append(record.url);
+    if (onWriteEnds)
+        onWriteEnds(written);
 }
 
 void AppModel::takeSaved(const SaveOutcome& outcome)
 {
+    tellWritten(outcome);
     photos().replace(outcome.records);
     m_editing.takeSaved(outcome.unsaved, outcome.failed, outcome.differing);
     if (outcome.message)
@@ -87,11 +100,14 @@ void AppModel::undoSave()
     open.reserve(records().size());
     for (const ImageRecord& record : records())
         open.append(record.url);
+    if (onWriteBegins)
+        onWriteBegins(open);
     m_saving.undo(open);
 }
 
 void AppModel::takeUndone(const SaveOutcome& outcome)
 {
+    tellWritten(outcome);
     if (photos().replace(outcome.records))
         m_editing.rebase();
     if (outcome.message)

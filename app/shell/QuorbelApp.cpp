@@ -1,5 +1,6 @@
 #include "app/shell/QuorbelApp.h"
 
+#include "app/model/thumbnails/FollowModel.h"
 #include "core/Product.h"
 #include "core/tool/TemporaryFiles.h"
 
@@ -63,7 +64,7 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     m_model = std::make_unique<AppModel>(services);
     m_placeProvider = makePlaceProvider({ .dataFolder = placesFolder(),
         .endpoint = placeEndpoint(m_model->preferences().placeService()).value_or(QUrl()) });
-    m_model->onImagesModified = [this](const QList<QUrl>& urls) { m_thumbnails->invalidate(urls); };
+    followModel(*m_thumbnails, *m_model);
 
     m_updatePresenter =
         std::make_unique<UpdatePresenter>(UpdatePresenter::feedURL(QString::fromUtf8(QUORBEL_FEED_HOST)),

@@ -27,7 +27,14 @@ constexpr qreal cardEdge = 2;
 constexpr qreal cardRadius = 9;
 constexpr qreal photoRadius = 6;
 constexpr qreal textUnderCards = 24;
+constexpr qreal wordMargin = 10;
+constexpr qreal wordHeight = 22;
 constexpr int mostCards = 3;
+
+QString thumbnailOnly()
+{
+    return u"Thumbnail only"_s;
+}
 
 QSizeF scaledToUi(QSizeF points)
 {
@@ -93,14 +100,21 @@ void PreviewColumnView::follow()
 {
     m_urls = shownUrls();
     const ImageRecord* photo = m_model.primaryRecord();
+    const QString word = isStandIn() ? u", "_s + thumbnailOnly().toLower() : QString();
     setAccessibleName(m_model.isBatch() ? u"%1 photos selected"_s.arg(m_model.selection().size())
-            : photo                     ? u"Preview of %1"_s.arg(photo->fileName)
+            : photo                     ? u"Preview of %1"_s.arg(photo->fileName) + word
                                         : QString());
     // The newest request is served first: the front photo is asked for last.
     if (m_thumbs && isVisible())
         for (auto url = m_urls.crbegin(); url != m_urls.crend(); ++url)
             m_thumbs->request(*url, ThumbnailStore::Kind::preview);
     update();
+}
+
+// Whether all that there is to show of the photo is its thumbnail.
+bool PreviewColumnView::isStandIn() const
+{
+    return m_thumbs && m_urls.size() == 1 && m_thumbs->entry(m_urls.first(), ThumbnailStore::Kind::preview).isStandIn;
 }
 
 QRect PreviewColumnView::stage() const
@@ -144,6 +158,21 @@ void PreviewColumnView::paintOne(QPainter& painter)
     paintShadow(painter, place, pxF(photoRadius), Shadow::photo, Theme::of(this));
     painter.setClipPath(rounded(place, pxF(photoRadius)), Qt::IntersectClip);
     painter.drawPixmap(place, scaled(entry.image, (size * devicePixelRatioF()).toSize(), 0), QRectF());
+    if (entry.isStandIn)
+        paintWord(painter, place);
+}
+
+// Why the photo is not sharp, in its lower left corner.
+void PreviewColumnView::paintWord(QPainter& painter, const QRectF& photo)
+{
+    const Theme& theme = Theme::of(this);
+    painter.setFont(sansFont(11, QFont::Medium));
+    const qreal margin = pxF(wordMargin);
+    const QSizeF size(painter.fontMetrics().horizontalAdvance(thumbnailOnly()) + 2 * margin, pxF(wordHeight));
+    const QRectF ground(QPointF(photo.left() + margin, photo.bottom() - margin - size.height()), size);
+    painter.fillPath(rounded(ground, pxF(photoRadius)), theme.panel);
+    painter.setPen(theme.derived.label);
+    painter.drawText(ground, Qt::AlignCenter, thumbnailOnly());
 }
 
 void PreviewColumnView::paintCards(QPainter& painter)

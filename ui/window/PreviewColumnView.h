@@ -35,9 +35,11 @@ private:
     void follow();
     QList<QUrl> shownUrls() const;
     QRect stage() const;
+    bool isStandIn() const;
     void paintOne(QPainter& painter);
     void paintCards(QPainter& painter);
     void paintCard(QPainter& painter, const QRectF& card, const QUrl& url, int slot);
+    void paintWord(QPainter& painter, const QRectF& photo);
     void paintPlaceholder(QPainter& painter, const QRectF& rect, const QString& text);
     void paintFoot(QPainter& painter);
     const QPixmap& scaled(const QImage& image, QSize devicePixels, int slot);

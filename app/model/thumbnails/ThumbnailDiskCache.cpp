@@ -14,8 +14,6 @@
 #include <array>
 #include <utility>
 
-#include <sys/stat.h>
-
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -37,6 +35,15 @@ QImage readSmallImage(const QString& file, const char* format)
     return reader.read();
 }
 
+// What such a thumbnail says of its photo is exact to the second only. So it must also be younger than the photo has
+// its name: another photo of the same second may have been moved there since.
+bool isOfThisVersion(const QImage& thumbnail, const QFileInfo& file, const QFileInfo& photo)
+{
+    const QString size = thumbnail.text(u"Thumb::Size"_s);
+    return thumbnail.text(u"Thumb::MTime"_s).toLongLong() == photo.lastModified().toSecsSinceEpoch()
+        && (size.isEmpty() || size.toLongLong() == photo.size()) && file.lastModified() >= photo.metadataChangeTime();
+}
+
 }  // namespace
 
 ThumbnailDiskCache::ThumbnailDiskCache(QString folder)
@@ -44,17 +51,17 @@ ThumbnailDiskCache::ThumbnailDiskCache(QString folder)
 {
 }
 
-QString ThumbnailDiskCache::key(const QString& path, int longSide) const
+QString ThumbnailDiskCache::key(const QString& path, const FileVersion& version, int longSide) const
 {
-    struct stat status { };
-    if (m_folder.isEmpty() || stat(QFile::encodeName(path).constData(), &status) != 0)
+    if (m_folder.isEmpty() || version.size < 0)
         return {};
-    const QString version = u"%1\n%2\n%3.%4\n%5"_s.arg(path)
-                                .arg(qint64(status.st_size))
-                                .arg(qint64(status.st_mtim.tv_sec))
-                                .arg(qint64(status.st_mtim.tv_nsec))
-                                .arg(longSide);
-    const QByteArray hash = QCryptographicHash::hash(version.toUtf8(), QCryptographicHash::Sha1).toHex();
+    const QString name = u"%1\n%2\n%3.%4\n%5\n%6"_s.arg(path)
+                             .arg(version.size)
+                             .arg(version.seconds)
+                             .arg(version.nanoseconds)
+                             .arg(version.inode)
+                             .arg(longSide);
+    const QByteArray hash = QCryptographicHash::hash(name.toUtf8(), QCryptographicHash::Sha1).toHex();
     return QString::fromLatin1(hash.left(2) + '/' + hash.mid(2));
 }
 
@@ -86,6 +93,19 @@ void ThumbnailDiskCache::save(const QString& key, const QImage& image) const
     writer.setQuality(image.hasAlphaChannel() ? fastDeflate : jpegQuality);
     if (writer.write(image))
         file.commit();
+}
+
+void ThumbnailDiskCache::carry(const QString& from, const QString& to) const
+{
+    if (from.isEmpty() || to.isEmpty() || from == to)
+        return;
+    for (const QString& extension : { u".jpg"_s, u".png"_s }) {
+        const QString source = m_folder + u'/' + from + extension, destination = m_folder + u'/' + to + extension;
+        if (!QFileInfo::exists(source) || !QDir().mkpath(QFileInfo(destination).path()))
+            continue;
+        QFile::remove(destination);
+        QFile::rename(source, destination);
+    }
 }
 
 void ThumbnailDiskCache::prune(qint64 mostBytes) const
@@ -130,9 +150,9 @@ QImage sharedThumbnail(const QString& folder, const QString& path, int longSide)
     for (const auto& [size, pixels] : sizes) {
         if (pixels < longSide)
             continue;
-        const QImage image =
-            readSmallImage(folder + u'/' + QLatin1StringView(size) + u'/' + QLatin1StringView(name), "png");
-        if (!image.isNull() && image.text(u"Thumb::MTime"_s).toLongLong() == info.lastModified().toSecsSinceEpoch())
+        const QString file = folder + u'/' + QLatin1StringView(size) + u'/' + QLatin1StringView(name);
+        const QImage image = readSmallImage(file, "png");
+        if (!image.isNull() && isOfThisVersion(image, QFileInfo(file), info))
             return image.convertToFormat(
                 image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     }

@@ -1,7 +1,9 @@
-// The store's thumbnails on disk: one JPEG (PNG where there is transparency) for each file, size and moment of change,
-// so that nothing is ever looked up that belongs to other bytes.
-// Thread: any, several at once. Failures are silent: the cache is a convenience.
+// The store's thumbnails on disk: one JPEG (PNG where there is transparency) for each version of a file and each size,
+// so that nothing is ever looked up that belongs to other bytes. Thread: any, several at once. Failures are silent: the
+// cache is a convenience.
 #pragma once
+
+#include "app/model/thumbnails/FileVersion.h"
 
 #include <QImage>
 #include <QString>
@@ -13,10 +15,12 @@ public:
     /// `folder` is made, readable by its owner alone, on the first write; empty: every look-up misses.
     explicit ThumbnailDiskCache(QString folder);
 
-    /// Names one version of one file at one size; empty when the file is gone.
-    QString key(const QString& path, int longSide) const;
+    /// Names one version of one file at one size; empty for no file.
+    QString key(const QString& path, const FileVersion& version, int longSide) const;
     QImage load(const QString& key) const;
     void save(const QString& key, const QImage& image) const;
+    /// What was saved under one key is another's from now on.
+    void carry(const QString& from, const QString& to) const;
     /// Removes the files that were not written for the longest time until the rest fits.
     void prune(qint64 mostBytes) const;
 

@@ -12,6 +12,7 @@
 #include <QThreadPool>
 #include <QTimer>
 
+#include <array>
 #include <chrono>
 #include <cmath>
 #include <utility>
@@ -53,6 +54,11 @@ ThumbnailStoreOptions ThumbnailStoreOptions::forUser()
 
 // What the workers use. Jobs share it, so that it outlives the store for as long as one of them runs.
 struct ThumbnailStore::PictureMaker {
+    struct Photo {
+        QString path{};
+        FileVersion version{};
+    };
+
     ThumbnailStoreOptions options{};
     ThumbnailDiskCache disk;
 
@@ -70,46 +76,52 @@ struct ThumbnailStore::PictureMaker {
             };
     }
 
-    Outcome look(const QString& path, int longSide, const std::stop_token& stop) const
+    Outcome look(const Photo& photo, int longSide, const std::stop_token& stop) const
     {
-        if (QImage image = disk.load(disk.key(path, longSide)); !image.isNull())
-            return { .image = std::move(image), .final = true };
-        QImage image = options.embedded(path, stop);
+        if (QImage image = disk.load(disk.key(photo.path, photo.version, longSide)); !image.isNull())
+            return { .image = std::move(image), .final = true, .isDecoded = true };
+        QImage image = options.embedded(photo.path, stop);
         if (image.isNull())
-            image = sharedThumbnail(options.sharedFolder, path, qMin(longSide, 256));
+            image = sharedThumbnail(options.sharedFolder, photo.path, qMin(longSide, 256));
         return { .image = std::move(image) };
     }
 
-    Outcome decode(const QString& path, int longSide, const std::stop_token& stop) const
+    Outcome decode(const Photo& photo, int longSide, const std::stop_token& stop) const
     {
         constexpr qint64 worthKeeping = 60;  // milliseconds; a kept preview loads in ten
         QElapsedTimer clock;
         clock.start();
-        const QString key = disk.key(path, longSide);
-        DecodedImage decoded = options.decode(path, longSide, stop);
+        DecodedImage decoded = options.decode(photo.path, longSide, stop);
         if (decoded.outcome == DecodedImage::Outcome::needsTool && options.tool)
             return { .needsTool = true };
         if (decoded.outcome != DecodedImage::Outcome::decoded)
-            return { .image = sharedThumbnail(options.sharedFolder, path, qMin(longSide, 256)), .final = true };
+            return { .image = sharedThumbnail(options.sharedFolder, photo.path, qMin(longSide, 256)), .final = true };
         if (longSide < previewLongSide || clock.elapsed() >= worthKeeping)
-            disk.save(key, decoded.image);
-        return { .image = std::move(decoded.image), .final = true };
+            keepOnDisk(photo, longSide, decoded.image);
+        return { .image = std::move(decoded.image), .final = true, .isDecoded = true };
     }
 
     // One run serves both sizes: the larger image is kept on disk for the request that comes next.
-    Outcome runTool(const QString& path, int longSide, const std::stop_token& stop) const
+    Outcome runTool(const Photo& photo, int longSide, const std::stop_token& stop) const
     {
-        const QString key = disk.key(path, longSide), largeKey = disk.key(path, previewLongSide);
-        QImage large = disk.load(largeKey);
+        QImage large = disk.load(disk.key(photo.path, photo.version, previewLongSide));
         if (large.isNull()) {
-            large = rawPreview(*options.tool, path, previewLongSide, stop);
-            disk.save(largeKey, large);
+            large = rawPreview(*options.tool, photo.path, previewLongSide, stop);
+            keepOnDisk(photo, previewLongSide, large);
         }
-        if (large.isNull() || qMax(large.width(), large.height()) <= longSide)
-            return { .image = std::move(large), .final = true };
+        const bool isDecoded = !large.isNull();
+        if (qMax(large.width(), large.height()) <= longSide)
+            return { .image = std::move(large), .final = true, .isDecoded = isDecoded };
         QImage image = large.scaled(longSide, longSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        disk.save(key, image);
-        return { .image = std::move(image), .final = true };
+        keepOnDisk(photo, longSide, image);
+        return { .image = std::move(image), .final = true, .isDecoded = true };
+    }
+
+    // Not if the file is another one by now: nobody knows then which of them was decoded.
+    void keepOnDisk(const Photo& photo, int longSide, const QImage& image) const
+    {
+        if (FileVersion::of(photo.path) == photo.version)
+            disk.save(disk.key(photo.path, photo.version, longSide), image);
     }
 };
 
@@ -173,16 +185,45 @@ ThumbnailStore::~ThumbnailStore()
 ThumbnailStore::Entry ThumbnailStore::entry(const QUrl& url, Kind kind) const
 {
     const Key key{ url, kind };
-    if (m_badges.contains(key))
+    if (const auto badge = m_badges.find(key); badge != m_badges.end() && isCurrent(url, *badge, false))
         return { .state = State::badge };
-    if (const Held* held = cache(kind).object(url))
-        return { .state = held->final ? State::ready : State::placeholder, .image = held->image };
+    if (Held* held = cache(kind).object(url); held && isCurrent(url, held->seen, false))
+        return { .state = held->final ? State::ready : State::placeholder,
+            .image = held->image,
+            .isStandIn = held->final && held->isStandIn };
     return { .state = m_jobs.contains(key) ? State::loading : State::none };
+}
+
+// `looks`: looks at the file in any case, otherwise only after lookAgain().
+bool ThumbnailStore::isCurrent(const QUrl& url, Seen& seen, bool looks) const
+{
+    if (m_beingWritten.contains(url) || (!looks && seen.look == m_looks))
+        return true;
+    if (FileVersion::of(url.toLocalFile()) != seen.version)
+        return false;
+    seen.look = m_looks;
+    return true;
+}
+
+// What is held of a file that is another one by now. Whether there was anything.
+bool ThumbnailStore::forgetStale(const Key& key)
+{
+    const auto badge = m_badges.find(key);
+    Held* held = cache(key.kind).contains(key.url) ? cache(key.kind).object(key.url) : nullptr;
+    const bool badgeIsStale = badge != m_badges.end() && !isCurrent(key.url, *badge, true);
+    const bool heldIsStale = held && !isCurrent(key.url, held->seen, true);
+    if (badgeIsStale)
+        m_badges.erase(badge);
+    if (heldIsStale)
+        cache(key.kind).remove(key.url);
+    return badgeIsStale || heldIsStale;
 }
 
 ThumbnailStore::Entry ThumbnailStore::request(const QUrl& url, Kind kind)
 {
     const Key key{ url, kind };
+    for (const Kind either : { Kind::small, Kind::preview })
+        forgetStale({ url, either });
     const Entry known = entry(url, kind);
     if (known.state == State::ready || known.state == State::badge || !url.isLocalFile())
         return known;
@@ -191,7 +232,7 @@ ThumbnailStore::Entry ThumbnailStore::request(const QUrl& url, Kind kind)
     if (isNew && kind == Kind::preview && known.state == State::none) {
         // The row's own picture, enlarged, is a better wait than an empty column.
         if (const Held* small = m_small.object(url))
-            m_previews.insert(url, new Held{ .image = small->image }, small->image.sizeInBytes());
+            m_previews.insert(url, new Held{ .image = small->image, .seen = small->seen }, small->image.sizeInBytes());
     }
     if (!job.running) {
         m_queue.erase(rankOf(key, job));
@@ -236,17 +277,82 @@ void ThumbnailStore::invalidate(const QList<QUrl>& urls)
     for (const QUrl& url : urls) {
         for (const Kind kind : { Kind::small, Kind::preview }) {
             const Key key{ url, kind };
-            if (entry(url, kind).state == State::none)
-                continue;
-            changed.append(key);
-            drop(key);
-            m_badges.remove(key);
-            // The old picture stays up until the new one is there, so that nothing flickers.
-            if (Held* held = cache(kind).object(url))
-                held->final = false;
+            const bool wasMade = drop(key);
+            if (forgetStale(key) || wasMade)
+                changed.append(key);
         }
     }
     announceStale(changed);
+}
+
+void ThumbnailStore::rename(const QUrl& source, const QUrl& destination)
+{
+    if (source == destination)
+        return;
+    for (const Kind kind : { Kind::small, Kind::preview }) {
+        const Key from{ source, kind }, to{ destination, kind };
+        drop(from);
+        drop(to);
+        m_badges.remove(to);
+        cache(kind).remove(destination);
+        if (Held* held = cache(kind).take(source))
+            cache(kind).insert(destination, held, held->image.sizeInBytes());
+        if (m_badges.contains(from))
+            m_badges.insert(to, m_badges.take(from));
+    }
+    carryOnDisk(source, std::nullopt, destination);
+    for (const QUrl& url : { source, destination })
+        for (const Kind kind : { Kind::small, Kind::preview })
+            emit entryChanged(url, kind);
+}
+
+void ThumbnailStore::beginWriting(const QList<QUrl>& urls)
+{
+    // What belongs to another file already must not pass for the picture of the one that is about to be written.
+    m_beingWritten.clear();
+    const QSet<QUrl> photos(urls.cbegin(), urls.cend());
+    QSet<Key> known(m_badges.keyBegin(), m_badges.keyEnd());
+    for (const Kind kind : { Kind::small, Kind::preview })
+        for (const QUrl& url : cache(kind).keys())
+            known.insert({ url, kind });
+    QList<Key> changed;
+    for (const Key& key : std::as_const(known))
+        if (photos.contains(key.url) && forgetStale(key))
+            changed.append(key);
+    m_beingWritten = photos;
+    announceStale(changed);
+}
+
+void ThumbnailStore::endWriting(const QList<QUrl>& written)
+{
+    for (const QUrl& url : written) {
+        if (!m_beingWritten.contains(url))
+            continue;
+        for (const Kind kind : { Kind::small, Kind::preview }) {
+            const auto badge = m_badges.find({ url, kind });
+            Seen* seen = cache(kind).contains(url) ? &cache(kind).object(url)->seen
+                : badge != m_badges.end()          ? &*badge
+                                                   : nullptr;
+            if (!seen)
+                continue;
+            const FileVersion before = std::exchange(seen->version, FileVersion::of(url.toLocalFile()));
+            if (before != seen->version)
+                carryOnDisk(url, before, url);
+        }
+    }
+    m_beingWritten.clear();
+}
+
+// `version`: of the file that the images were made of; nothing when only its name is another one now.
+void ThumbnailStore::carryOnDisk(const QUrl& from, std::optional<FileVersion> version, const QUrl& to) const
+{
+    m_pool->start([maker = m_pictureMaker, from = from.toLocalFile(), version, to = to.toLocalFile(),
+                      sides = std::array{ longSide(Kind::small), longSide(Kind::preview) }] {
+        lowerPriority();
+        const FileVersion now = FileVersion::of(to);
+        for (const int side : sides)
+            maker->disk.carry(maker->disk.key(from, version.value_or(now), side), maker->disk.key(to, now, side));
+    });
 }
 
 void ThumbnailStore::setDevicePixelRatio(qreal ratio)
@@ -312,14 +418,16 @@ void ThumbnailStore::enqueue(const Key& key, Job& job)
     m_queue.emplace(rankOf(key, job), key);
 }
 
-void ThumbnailStore::drop(const Key& key)
+// Whether it was being made.
+bool ThumbnailStore::drop(const Key& key)
 {
     const auto job = m_jobs.constFind(key);
     if (job == m_jobs.cend())
-        return;
+        return false;
     std::stop_source(job->stop).request_stop();
     m_queue.erase(rankOf(key, *job));
     m_jobs.erase(job);
+    return true;
 }
 
 void ThumbnailStore::dropOldPreviews()
@@ -354,7 +462,7 @@ void ThumbnailStore::dispatch()
 
 void ThumbnailStore::start(const Key& key, const Job& job)
 {
-    using Work = Outcome (PictureMaker::*)(const QString&, int, const std::stop_token&) const;
+    using Work = Outcome (PictureMaker::*)(const PictureMaker::Photo&, int, const std::stop_token&) const;
     const bool isTool = job.step == Step::tool;
     const Work work = isTool     ? &PictureMaker::runTool
         : job.step == Step::look ? &PictureMaker::look
@@ -367,9 +475,13 @@ void ThumbnailStore::start(const Key& key, const Job& job)
                     ticket = job.ticket, stop = job.stop.get_token()] {
             lowerPriority();
             Outcome outcome;
+            const QString path = key.url.toLocalFile();
+            const FileVersion version = FileVersion::of(path);
             if (!stop.stop_requested())
-                outcome = (*maker.*work)(key.url.toLocalFile(), side, stop);
+                outcome = (*maker.*work)({ path, version }, side, stop);
             outcome.fromTool = isTool;
+            outcome.version = version;
+            outcome.isOutdated = FileVersion::of(path) != version;
             mailbox->post(key, ticket, std::move(outcome));
         });
 }
@@ -386,47 +498,70 @@ void ThumbnailStore::finish(const Key& key, qint64 ticket, const Outcome& outcom
         return;
     }
     QList<Key> changed{ key };
-    if (found->step == Step::look && !outcome.final) {
-        if (outcome.image.isNull() || cache(key.kind).contains(key.url))
+    if (outcome.isOutdated) {
+        m_jobs.erase(found);  // of which file it is nobody knows: who still shows it asks again
+    } else if (found->step == Step::look && !outcome.final) {
+        found->impression = outcome.image;
+        if (!showMeanwhile(key, outcome))
             changed.clear();
-        else
-            keep(key, outcome.image, false);
         found->step = Step::decode;
         enqueue(key, *found);
     } else if (outcome.needsTool) {
         found->step = Step::tool;
         enqueue(key, *found);
         changed.clear();
-    } else {
+    } else if (outcome.isDecoded) {
         m_jobs.erase(found);
-        if (outcome.image.isNull())
-            changed = refuse(key, outcome.fromTool);
-        else
-            keep(key, outcome.image, true);
+        keep(key, { .image = outcome.image, .final = true, .seen = { outcome.version, m_looks } });
+    } else {
+        changed = settleWithout(key, outcome);
     }
     dispatch();
     for (const Key& one : std::as_const(changed))
         emit entryChanged(one.url, one.kind);
 }
 
-// Leaves a badge and returns what changed. What even the tool finds no picture in has none of the other size: a run
-// for that one would be the same again.
-QList<ThumbnailStore::Key> ThumbnailStore::refuse(const Key& key, bool byTool)
+// Whether there is something new to show until the picture is made.
+bool ThumbnailStore::showMeanwhile(const Key& key, const Outcome& outcome)
 {
-    const Key other{ key.url, key.kind == Kind::small ? Kind::preview : Kind::small };
-    const QList<Key> refused =
-        byTool && entry(other.url, other.kind).state != State::ready ? QList<Key>{ key, other } : QList<Key>{ key };
-    for (const Key& one : refused) {
-        drop(one);
-        cache(one.kind).remove(one.url);
-        m_badges.insert(one);
-    }
-    return refused;
+    const Held* held = cache(key.kind).object(key.url);
+    if (outcome.image.isNull() || (held && held->seen.version == outcome.version))
+        return false;
+    keep(key, { .image = outcome.image, .seen = { outcome.version, m_looks } });
+    return true;
 }
 
-void ThumbnailStore::keep(const Key& key, const QImage& image, bool final)
+// The photo cannot be decoded. What was shown of it meanwhile stays, or the best that was found on the way; without any
+// it has a badge. Returns what changed. What even the tool finds no picture in has none of the other size: a run for
+// that one would be the same again.
+QList<ThumbnailStore::Key> ThumbnailStore::settleWithout(const Key& key, const Outcome& outcome)
 {
-    cache(key.kind).insert(key.url, new Held{ .image = image, .final = final }, image.sizeInBytes());
+    const Key other{ key.url, key.kind == Kind::small ? Kind::preview : Kind::small };
+    const bool forBoth = outcome.fromTool && entry(other.url, other.kind).state != State::ready;
+    const QList<Key> settled = forBoth ? QList<Key>{ key, other } : QList<Key>{ key };
+    const auto takeLarger = [](QImage& best, const QImage& image) {
+        if (qMax(image.width(), image.height()) > qMax(best.width(), best.height()))
+            best = image;
+    };
+    for (const Key& one : settled) {
+        QImage best = outcome.image;
+        takeLarger(best, m_jobs.value(one).impression);
+        if (const Held* held = cache(one.kind).object(one.url); held && held->seen.version == outcome.version)
+            takeLarger(best, held->image);
+        drop(one);
+        cache(one.kind).remove(one.url);
+        if (best.isNull())
+            m_badges.insert(one, { outcome.version, m_looks });
+        else
+            keep(one, { .image = best, .final = true, .isStandIn = true, .seen = { outcome.version, m_looks } });
+    }
+    return settled;
+}
+
+void ThumbnailStore::keep(const Key& key, Held held)
+{
+    const qsizetype bytes = held.image.sizeInBytes();
+    cache(key.kind).insert(key.url, new Held(std::move(held)), bytes);
 }
 
 }  // namespace Quorbel

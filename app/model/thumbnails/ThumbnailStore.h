@@ -1,8 +1,10 @@
-// Thumbnails and previews of the photos on screen, made in the background, kept within a byte bound.
-// Thread: the main thread only. Work runs in a pool of its own; results come back as queued calls, and a destroyed
-// store receives none. Knows no widget: views ask and are told when an image changed.
+// Thumbnails and previews of the photos on screen, made in the background, kept within a byte bound. Each belongs to
+// one version of its file: another file under the same name never shows it. Thread: the main thread only. Work runs in
+// a pool of its own; results come back as queued calls, and a destroyed store receives none. Knows no widget: views ask
+// and are told when an image changed.
 #pragma once
 
+#include "app/model/thumbnails/FileVersion.h"
 #include "core/tool/ExifToolRunner.h"
 #include "platform/images/DecodedImage.h"
 
@@ -54,32 +56,42 @@ public:
     enum class State {
         none,  ///< nothing yet, and nothing asked for
         loading,  ///< asked for; nothing to show yet
-        placeholder,  ///< an embedded thumbnail to show until the real image is there
+        placeholder,  ///< something to show until the real image is there
         ready,  ///< the image
-        badge,  ///< cannot be decoded: show the file's type instead; not tried again until the file changes
+        badge,  ///< nothing to show: show the file's type instead; not tried again until the file changes
     };
     struct Entry {
         State state = State::none;
         /// Oriented, sRGB, device pixels; null for none, loading and badge. Transparent pictures stay transparent:
         /// they are painted over the panel's colour.
         QImage image{};
+        /// The photo itself cannot be decoded, and nothing better than this thumbnail of it will come.
+        bool isStandIn = false;
     };
 
     explicit ThumbnailStore(ThumbnailStoreOptions options = {}, QObject* parent = nullptr);
     /// Ends what runs; waits a moment for it, never for ever.
     ~ThumbnailStore() override;
 
-    /// What is there now. Asks for nothing.
+    /// What is there now. Asks for nothing, and looks at the file only once after each lookAgain().
     Entry entry(const QUrl& url, Kind kind) const;
-    /// What is there now; when that is not final, makes the image. The newest requests are served first. A second
-    /// request for an image that is being made starts no second job.
+    /// What is there now, of the file as it is now; when that is not final, makes the image. The newest requests are
+    /// served first. A second request for an image that is being made starts no second job.
     Entry request(const QUrl& url, Kind kind);
     /// The rows on screen, and those near them, which are served next. Requests for small images of other URLs are
     /// dropped: entryChanged tells whoever still shows one of them to ask again.
     void setVisible(const QList<QUrl>& urls, const QList<QUrl>& near = {});
-    /// Forgets what is known of these files: their content changed. What is held serves as a placeholder until it is
-    /// made anew: at once for the rows on screen, on request for others.
+    /// Another program changed these files: what belongs to their old content is forgotten. Images of the rows on
+    /// screen are made anew at once, others on request.
     void invalidate(const QList<QUrl>& urls);
+    /// Other files may lie under the same names from now on: each is looked at when its entry is next asked for.
+    void lookAgain() { ++m_looks; }
+    /// A file has another name, in this program: its pictures go with it, and what the new name stood for is forgotten.
+    void rename(const QUrl& source, const QUrl& destination);
+    /// We are about to write metadata into these files. Until endWriting what is held of them stays.
+    void beginWriting(const QList<QUrl>& urls);
+    /// The write is over. `written`: those whose metadata alone changed, so that their pictures stay theirs.
+    void endWriting(const QList<QUrl>& written);
     /// The pixels of small images follow the screen: their long side is 90 points times this ratio (at least 1), so
     /// that an ordinary photo fills a square of 60.
     void setDevicePixelRatio(qreal ratio);
@@ -113,17 +125,28 @@ private:
         Band band = Band::rest;
         qint64 ticket = 0;
         bool running = false;
+        QImage impression{};  ///< what was found first, kept in case that nothing else can be made
         std::stop_source stop{};
+    };
+    /// Which file something belongs to, and when that was last found true.
+    struct Seen {
+        FileVersion version{};
+        int look = 0;
     };
     struct Held {
         QImage image{};
         bool final = false;
+        bool isStandIn = false;
+        Seen seen{};
     };
     struct Outcome {
         QImage image{};
         bool final = false;  ///< nothing better will come
+        bool isDecoded = false;  ///< the photo's own pixels, or the disk cache's
         bool needsTool = false;  ///< the libraries refuse this file
         bool fromTool = false;
+        FileVersion version{};  ///< of the file that the image was made of
+        bool isOutdated = false;  ///< the file changed meanwhile
     };
     struct PictureMaker;
     struct Mailbox;
@@ -131,17 +154,21 @@ private:
     QCache<QUrl, Held>& cache(Kind kind) { return kind == Kind::small ? m_small : m_previews; }
     const QCache<QUrl, Held>& cache(Kind kind) const { return kind == Kind::small ? m_small : m_previews; }
     int longSide(Kind kind) const;
+    bool isCurrent(const QUrl& url, Seen& seen, bool looks) const;
+    bool forgetStale(const Key& key);
     Band bandOf(const Key& key) const;
     Rank rankOf(const Key& key, const Job& job) const;
     void enqueue(const Key& key, Job& job);
-    void drop(const Key& key);
+    bool drop(const Key& key);
     void dropOldPreviews();
     void announceStale(const QList<Key>& keys);
     void dispatch();
     void start(const Key& key, const Job& job);
     void finish(const Key& key, qint64 ticket, const Outcome& outcome);
-    void keep(const Key& key, const QImage& image, bool final);
-    QList<Key> refuse(const Key& key, bool byTool);
+    bool showMeanwhile(const Key& key, const Outcome& outcome);
+    QList<Key> settleWithout(const Key& key, const Outcome& outcome);
+    void keep(const Key& key, Held held);
+    void carryOnDisk(const QUrl& from, std::optional<FileVersion> version, const QUrl& to) const;
 
     ThumbnailStoreOptions m_options;
     std::shared_ptr<const PictureMaker> m_pictureMaker;
@@ -156,7 +183,9 @@ private:
     QSet<QUrl> m_near;
     QHash<Key, Job> m_jobs;  ///< every image that is being made
     std::map<Rank, Key> m_queue;
-    QSet<Key> m_badges;
+    int m_looks = 0;
+    QSet<QUrl> m_beingWritten;
+    mutable QHash<Key, Seen> m_badges;
     QCache<QUrl, Held> m_small;
     QCache<QUrl, Held> m_previews;
 };

@@ -95,6 +95,7 @@ private slots:
     void progressOfALongWrite();
     void appearanceIsFollowedLive();
     void previewShowsThePhotoOrTheStack();
+    void previewSaysThatItIsAThumbnail();
 };
 
 void tst_ContentView::launchViewUntilPhotosAreOpen()
@@ -588,6 +589,49 @@ void tst_ContentView::previewShowsThePhotoOrTheStack()
     fixture.model->selectAllPhotos();
     QCOMPARE(preview->accessibleName(), u"3 photos selected"_s);
     QTRY_COMPARE(colorAt(preview, middle), QColor(Qt::blue));  // the primary's card lies in front
+}
+
+// A photo of which nothing but its thumbnail can be shown is not passed off as sharp.
+void tst_ContentView::previewSaysThatItIsAThumbnail()
+{
+    ThumbnailStoreOptions options;
+    options.decode = [](const QString& path, int, const std::stop_token&) {
+        DecodedImage decoded;
+        decoded.outcome = DecodedImage::Outcome::tooLarge;
+        if (path.endsWith(QLatin1String("b.jpg"))) {
+            decoded.outcome = DecodedImage::Outcome::decoded;
+            decoded.image = QImage(160, 120, QImage::Format_RGB32);
+            decoded.image.fill(Qt::red);
+        }
+        return decoded;
+    };
+    options.embedded = [](const QString&, const std::stop_token&) {
+        QImage image(160, 120, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        return image;
+    };
+    ThumbnailStore thumbs(options);
+    WindowFixture fixture(&thumbs);
+    fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
+    fixture.window->resize(1440, 900);
+    fixture.show();
+    auto* preview = fixture.window->findChild<PreviewColumnView*>();
+    const auto redPixels = [&] {
+        const QImage shown = preview->grab().toImage();
+        int count = 0;
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x)
+                count += shown.pixelColor(x, y) == QColor(Qt::red) ? 1 : 0;
+        return count;
+    };
+    QTRY_COMPARE(preview->accessibleName(), u"Preview of a.jpg, thumbnail only"_s);
+    const int withWord = redPixels();
+    fixture.model.click(u"b.jpg"_s);
+    QTRY_VERIFY(thumbs.entry(fixture.model.url(u"b.jpg"_s), ThumbnailStore::Kind::preview).state
+        == ThumbnailStore::State::ready);
+    QCOMPARE(preview->accessibleName(), u"Preview of b.jpg"_s);
+    // Both as large as the column allows, one with a word on it.
+    QVERIFY(withWord > 300 * 300 && redPixels() > withWord + 1000);
 }
 
 int main(int argc, char* argv[])
