@@ -87,7 +87,7 @@ void AppModel::tellWritten(const SaveOutcome& outcome)
 void AppModel::takeSaved(const SaveOutcome& outcome)
 {
     tellWritten(outcome);
-    photos().replace(outcome.records);
+    photos().replaceSaved(outcome.records);
     m_editing.takeSaved(outcome.unsaved, outcome.failed, outcome.differing);
     if (outcome.message)
         setErrorMessage(outcome.message);
@@ -108,7 +108,7 @@ void AppModel::undoSave()
 void AppModel::takeUndone(const SaveOutcome& outcome)
 {
     tellWritten(outcome);
-    if (photos().replace(outcome.records))
+    if (photos().replaceSaved(outcome.records))
         m_editing.rebase();
     if (outcome.message)
         setErrorMessage(outcome.message);

@@ -51,7 +51,18 @@ void PhotoList::open(OpenPhotos photos)
 {
     std::swap(m_open, photos);
     discardInBackground(std::move(photos));
+    keepCreationDates();
     contentChanged(true, true);
+}
+
+void PhotoList::keepCreationDates()
+{
+    QList<ImageRecord> known;
+    const QList<QUrl> urls = m_creationDates.photos();
+    for (const QUrl& url : urls)
+        if (const ImageRecord* photo = record(url))
+            known.append(*photo);
+    putAll(m_creationDates.applied(known));
 }
 
 // In the place of what was there.
@@ -67,7 +78,24 @@ void PhotoList::put(int position, const ImageRecord& record)
     old = record;
 }
 
+bool PhotoList::replaceSaved(QList<ImageRecord> fresh)
+{
+    for (ImageRecord& saved : fresh)
+        if (const ImageRecord* before = record(saved.url))
+            m_creationDates.keep(*before, saved);
+    return replace(fresh);
+}
+
 bool PhotoList::replace(const QList<ImageRecord>& fresh)
+{
+    if (!putAll(m_creationDates.applied(fresh)))
+        return false;
+    contentChanged(true, false);
+    return true;
+}
+
+// Each in the place of the one with its URL; whether any differed.
+bool PhotoList::putAll(const QList<ImageRecord>& fresh)
 {
     QList<int> changed;
     for (const ImageRecord& record : fresh) {
@@ -80,7 +108,6 @@ bool PhotoList::replace(const QList<ImageRecord>& fresh)
     if (changed.isEmpty())
         return false;
     m_open.index.replace(changed, m_open.records);
-    contentChanged(true, false);
     return true;
 }
 
@@ -105,7 +132,8 @@ void PhotoList::remove(const QList<int>& positions)
 bool PhotoList::append(const QList<ImageRecord>& fresh)
 {
     const qsizetype before = m_open.records.size();
-    for (const ImageRecord& record : fresh) {
+    const QList<ImageRecord> dated = m_creationDates.applied(fresh);
+    for (const ImageRecord& record : dated) {
         if (contains(record.url))
             continue;
         m_open.records.append(record);
@@ -123,6 +151,7 @@ bool PhotoList::append(const QList<ImageRecord>& fresh)
 void PhotoList::rename(const QUrl& source, const QUrl& destination)
 {
     const int at = position(source);
+    m_creationDates.rename(source, destination);
     ImageRecord renamed = m_open.records.at(at);
     renamed.url = destination;
     renamed.fileName = destination.fileName();

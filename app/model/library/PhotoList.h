@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/model/Announcer.h"
+#include "app/model/library/CreationDates.h"
 #include "app/model/library/KeywordUses.h"
 #include "app/model/library/KnownFiles.h"
 #include "app/model/library/RecordIndex.h"
@@ -60,6 +61,8 @@ public:
     void open(OpenPhotos photos);
     /// Puts each record in the place of the one with its URL; one that is not open is ignored. Whether any differed.
     bool replace(const QList<ImageRecord>& fresh);
+    /// The same for photos that a save of ours has just written: they stay where they were in order of creation.
+    bool replaceSaved(QList<ImageRecord> fresh);
     /// Positions ascending.
     void remove(const QList<int>& positions);
     /// Those that are not open yet; whether there were any.
@@ -74,6 +77,8 @@ public:
     }
 
 private:
+    void keepCreationDates();
+    bool putAll(const QList<ImageRecord>& fresh);
     void put(int position, const ImageRecord& record);
     void contentChanged(bool isHeldChanged, bool photosChanged);
     void updateVisibleRows(bool photosChanged);
@@ -84,6 +89,7 @@ private:
     QString m_search;
     QString m_needle;  ///< the search as it is compared: trimmed, lower case
     RecordSortOrder m_order;
+    CreationDates m_creationDates;
     int m_serial = 0;
     int m_heldSerial = 0;
 };

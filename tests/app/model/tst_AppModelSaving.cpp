@@ -39,6 +39,7 @@ private slots:
     void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
     void singleSaveReplaces();
     void batchSaveAppends();
+    void savedPhotosKeepTheirPlaceInOrderOfCreation();
     void companions_data();
     void companions();
     void whenToAsk_data();
@@ -116,6 +117,44 @@ void tst_AppModelSaving::batchSaveAppends()
     QCOMPARE(f->sharedValue(u"title"_s), u"X"_s);
     QCOMPARE(f->record(f.url(u"b.jpg"_s))->custom, (QList<CustomValue>{ { u"Mood"_s, u"calm"_s } }));
     QVERIFY(f->record(f.url(u"c.jpg"_s))->values.isEmpty());
+}
+
+// A save puts a new file in the old one's place, which the system takes for a birth.
+void tst_AppModelSaving::savedPhotosKeepTheirPlaceInOrderOfCreation()
+{
+    ModelFixture f;
+    for (const QString& name : { u"c.jpg"_s, u"a.jpg"_s, u"b.jpg"_s }) {
+        f.addTitled({ name });
+        QTest::qWait(20);
+    }
+    if (!QFileInfo(f.folder.path(u"a.jpg"_s)).birthTime().isValid())
+        QSKIP("files have no creation date here");
+    f->preferences().saveDontAsk.set(true);
+    f->setSortOrder(RecordSortOrder::dateOldest);
+    QVERIFY(f.open());
+    const QStringList order{ u"c.jpg"_s, u"a.jpg"_s, u"b.jpg"_s };
+    QCOMPARE(f.visible(), order);
+    for (const QString& name : { u"c.jpg"_s, u"c.jpg"_s, u"a.jpg"_s }) {
+        f.click(name);
+        f->setSingle(u"title"_s, f->draftValues().value(u"title"_s) + u"+"_s);
+        f->requestSave();
+        QVERIFY(f.waitUntilIdle());
+        QCOMPARE(f.visible(), order);
+    }
+    QVERIFY(QFileInfo(f.folder.path(u"c.jpg"_s)).birthTime() > QFileInfo(f.folder.path(u"b.jpg"_s)).birthTime());
+    // Nor do they jump when they are read again, under another name or with the whole folder.
+    exiftool({ u"-overwrite_original_in_place"_s, u"-XMP-dc:Title=elsewhere"_s, f.folder.path(u"c.jpg"_s) });
+    QTRY_COMPARE_WITH_TIMEOUT(f->record(f.url(u"c.jpg"_s))->values.value(u"title"_s), u"elsewhere"_s, 30'000);
+    QCOMPARE(f.visible(), order);
+    f.click(u"c.jpg"_s);
+    f->preferences().renamePattern.set(u"z"_s);
+    f->performRename();
+    QVERIFY(f.open());
+    QCOMPARE(f.visible(), QStringList({ u"z.jpg"_s, u"a.jpg"_s, u"b.jpg"_s }));
+    // Another photo that another program puts there is a new one.
+    QVERIFY(QFile::remove(f.folder.path(u"z.jpg"_s)));
+    f.addTitled({ u"z.jpg"_s });
+    QTRY_COMPARE_WITH_TIMEOUT(f.visible(), QStringList({ u"a.jpg"_s, u"b.jpg"_s, u"z.jpg"_s }), 30'000);
 }
 
 void tst_AppModelSaving::companions_data()
