@@ -7,7 +7,7 @@
 #include "core/save/SaveUndo.h"
 #include "core/save/WriteNotes.h"
 #include "core/schema/ImageRecord.h"
-#include "core/tool/ExifToolRunner.h"
+#include "core/tool/PhotoRead.h"
 
 #include <optional>
 
@@ -20,9 +20,10 @@ struct MetadataService {
     static std::optional<MetadataService> locate();
     QUrl toolURL() const { return runner.exiftoolURL; }
 
-    /// One record a URL, in their order, from exactly two runs of the tool. Progress counts the files of the main
-    /// run. Throws the runner's errors; then there are no records at all.
+    /// One record a URL, or an error that stands for all; see PhotoRead::all().
     QList<ImageRecord> read(const QList<QUrl>& urls, const ReadControl& control = {}) const;
+    /// Records of those that can be read, and the others with the reason; see PhotoRead::each().
+    PhotoRead::Outcome readEach(const QList<QUrl>& urls, const ReadControl& control = {}) const;
     /// Writes the plan to all targets in one run (plus one a file when sidecars are on) and returns the tool's
     /// standard output; "" when nothing was run. A symbolic link stands for the file that it points to; extended
     /// attributes, mode and owner survive. A run beforehand re-encodes IPTC that cannot hold a text as it is encoded,

@@ -1,11 +1,14 @@
 #include "core/tool/ExifToolRunner.h"
 
+#include "core/tool/ToolOutput.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QUtf8StringView>
 
 #include <algorithm>
@@ -25,8 +28,6 @@ constexpr rlim_t toolStackBytes = rlim_t(64) * 1024 * 1024;
 constexpr int stopPollInterval = 50;
 // How long the tool may take to end by itself once asked to, in milliseconds.
 constexpr int terminationGrace = 1000;
-// Characters of the output that an error about it quotes.
-constexpr qsizetype quotedCharacters = 400;
 // Levels above the program that are searched for a "vendor" directory.
 constexpr int vendorLevels = 6;
 
@@ -69,10 +70,21 @@ void raiseStackLimit()
     setrlimit(RLIMIT_STACK, &limit);
 }
 
+// The user's, without what changes how Perl itself reads, writes and starts: under PERL_UNICODE, for one, it would
+// decode paths and values that ExifTool takes for bytes.
+QProcessEnvironment toolEnvironment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const QString& name : { u"PERL_UNICODE"_s, u"PERL5OPT"_s, u"PERLIO"_s })
+        environment.remove(name);
+    return environment;
+}
+
 void startProcess(QProcess& process, const QUrl& program, const QStringList& arguments)
 {
     process.setProgram(program.toLocalFile());
     process.setArguments(arguments);
+    process.setProcessEnvironment(toolEnvironment());
     process.setInputChannelMode(QProcess::ForwardedInputChannel);
     process.setChildProcessModifier(raiseStackLimit);
     process.start(QIODevice::ReadOnly);
@@ -129,58 +141,21 @@ QStringList writeArguments(const QStringList& mode, const WriteCommand& command,
     return list << mode << u"-m"_s << command.options << arguments(command.assignments) << paths(files);
 }
 
-ToolError undecodable(const QString& reason, const QByteArray& output)
+// To decode the answer for a hundred thousand files takes seconds.
+void requireWanted(const ReadControl& control)
 {
-    // Four bytes a character at most; a character that this cuts in two lies behind those that are quoted.
-    const auto characters = QString::fromUtf8(output.left(4 * quotedCharacters)).toUcs4();
-    const auto quoted = QString::fromUcs4(
-        reinterpret_cast<const char32_t*>(characters.constData()), std::min(characters.size(), quotedCharacters));
-    return ToolError(ToolError::DecodeFailed{ reason + u" — output: "_s + quoted });
+    if (control.stop.stop_requested())
+        throw CancelledError();
 }
 
-// A text like "1e999" is printed as a number, which no double holds and Qt refuses together with all the rest: those
-// as texts.
-QByteArray withHugeNumbersQuoted(const QByteArray& json)
+QStringList mainSelection(const QStringList& tags)
 {
-    QByteArray quoted;
-    quoted.reserve(json.size() + 2);
-    bool isInString = false;
-    for (qsizetype at = 0; at < json.size(); ++at) {
-        const char c = json[at];
-        if (!isInString && (c == '-' || (c >= '0' && c <= '9'))) {
-            qsizetype end = at;
-            while (end < json.size() && QByteArrayView("+-.0123456789Ee").contains(json[end]))
-                ++end;
-            const QByteArray number = json.sliced(at, end - at);
-            bool fits = false;
-            number.toDouble(&fits);
-            quoted += fits ? number : '"' + number + '"';
-            at = end - 1;
-            continue;
-        }
-        quoted += c;
-        if (c == '"')
-            isInString = !isInString;
-        else if (c == '\\' && at + 1 < json.size())
-            quoted += json[++at];
-    }
-    return quoted;
+    return QStringList{ u"-json"_s, u"-G0"_s, u"-struct"_s, u"-c"_s, u"%.6f"_s } + options(tags);
 }
 
-QList<JSONObject> decode(QByteArray output)
+QStringList customSelection()
 {
-    QJsonParseError error;
-    auto document = QJsonDocument::fromJson(output, &error);
-    if (error.error == QJsonParseError::IllegalNumber)
-        document = QJsonDocument::fromJson(withHugeNumbersQuoted(output), &error);
-    if (error.error != QJsonParseError::NoError)
-        throw undecodable(error.errorString(), output);
-    output.truncate(4 * quotedCharacters);
-    output.squeeze();  // of a hundred thousand photos this is a hundred megabytes
-    auto objects = document.isArray() ? objectsFromJson(document.array()) : std::nullopt;
-    if (!objects)
-        throw undecodable(u"not an array of objects"_s, output);
-    return *std::move(objects);
+    return { u"-json"_s, u"-G1"_s, u"-struct"_s, u"-XMP-Quorbel:all"_s };
 }
 
 std::optional<QString> toolNamedByEnvironment()
@@ -227,12 +202,12 @@ std::optional<ExifToolRunner> ExifToolRunner::locate(const QString& prefix)
 QList<JSONObject> ExifToolRunner::read(
     const QStringList& tags, const QList<QUrl>& files, const ReadControl& control) const
 {
-    return readJSON(QStringList{ u"-G0"_s, u"-struct"_s, u"-c"_s, u"%.6f"_s } + options(tags), files, control);
+    return readJSON(mainSelection(tags), files, control);
 }
 
 QList<JSONObject> ExifToolRunner::readCustomNamespace(const QList<QUrl>& files, const ReadControl& control) const
 {
-    return readJSON({ u"-G1"_s, u"-struct"_s, u"-XMP-Quorbel:all"_s }, files, control);
+    return readJSON(customSelection(), files, control);
 }
 
 QList<JSONObject> ExifToolRunner::readJSON(
@@ -240,26 +215,62 @@ QList<JSONObject> ExifToolRunner::readJSON(
 {
     if (files.isEmpty())
         return {};
-    OutputWatch watch;
-    if (control.progress)
-        watch = FileCounter(files.size(), control.progress);
-    QByteArray output = runForBytes(QStringList{ u"-json"_s } + selection + paths(files), watch, control);
+    QByteArray output = runForBytes(selection + paths(files), counter(files, control), control);
     if (!QUtf8StringView(output).isValidUtf8())
         output.clear();
     output = std::move(output).trimmed();
-    // To decode the answer for a hundred thousand files takes seconds.
-    if (control.stop.stop_requested())
-        throw CancelledError();
-    return output.isEmpty() ? QList<JSONObject>(files.size()) : decode(std::move(output));
+    if (output.isEmpty())
+        return QList<JSONObject>(files.size());
+    requireWanted(control);
+    ToolOutput::Decoded decoded = ToolOutput::decode(std::move(output));
+    if (decoded.error)
+        throw ToolError(*decoded.error);
+    return std::move(decoded.objects);
+}
+
+ReadAnswer ExifToolRunner::readEach(
+    const QStringList& tags, const QList<QUrl>& files, const ReadControl& control, const QStringList& further) const
+{
+    return readEachJSON(mainSelection(tags) + further, files, control);
+}
+
+ReadAnswer ExifToolRunner::readEachCustomNamespace(const QList<QUrl>& files, const ReadControl& control) const
+{
+    return readEachJSON(customSelection(), files, control);
+}
+
+ReadAnswer ExifToolRunner::readEachJSON(
+    const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const
+{
+    ReadAnswer answer;
+    if (files.isEmpty())
+        return answer;
+    Ended ended = runToEnd(selection + paths(files), counter(files, control), control);
+    if (!ended.hasAnswered())
+        throw failure(ended);
+    if (!ended.isGood())
+        answer.failure = failure(ended);
+    QByteArray output = std::move(ended.standardOutput).trimmed();
+    if (output.isEmpty())
+        return answer;
+    requireWanted(control);
+    ToolOutput::Decoded decoded = ToolOutput::decode(std::move(output));
+    if (decoded.error && decoded.undecodable.isEmpty())
+        throw answer.failure ? *answer.failure : ToolError(*decoded.error);
+    answer.objects = std::move(decoded.objects);
+    answer.undecodable = std::move(decoded.undecodable);
+    return answer;
 }
 
 QMap<QString, QString> ExifToolRunner::readErrors(const QList<QUrl>& files, const ReadControl& control) const
 {
     QMap<QString, QString> errors;
-    const Ended ended = runToEnd(QStringList{ u"-json"_s, u"-Error"_s } + paths(files), {}, control);
+    const QString tag = u"ExifTool:Error"_s;
+    const QStringList selection{ u"-json"_s, u"-G0"_s, u'-' + tag };
+    const Ended ended = runToEnd(selection + paths(files), counter(files, control), control);
     const QJsonArray objects = QJsonDocument::fromJson(ended.standardOutput).array();
     for (const auto& object : objects)
-        if (const QString reason = object[u"Error"_s].toString(); !reason.isEmpty())
+        if (const QString reason = object[tag].toString(); !reason.isEmpty())
             errors.insert(object[u"SourceFile"_s].toString(), reason);
     return errors;
 }
@@ -269,7 +280,7 @@ QByteArray ExifToolRunner::readDump(const QStringList& selection, const QList<QU
     if (files.isEmpty())
         return {};
     Ended ended = runToEnd(selection + paths(files), {}, {});
-    if (!ended.isGood && ended.standardOutput.isEmpty())
+    if (!ended.isGood() && ended.standardOutput.isEmpty())
         throw failure(ended);
     return std::move(ended.standardOutput);
 }
@@ -311,9 +322,12 @@ QMap<QString, QByteArray> ExifToolRunner::readBinary(
             end.request_stop();
     };
     const QStringList selection{ u"-json"_s, u"-b"_s, u"-n"_s };
-    const QByteArray output = runForBytes(
+    const Ended ended = runToEnd(
         selection + options(tags) + paths({ file }), watch, { .progress = {}, .stop = end.get_token(), .started = {} });
-    const QJsonObject object = QJsonDocument::fromJson(output).array().at(0).toObject();
+    // A file that holds a tag called Error makes the tool end with 1, and print what it was asked for.
+    if (!ended.isGood() && (!ended.hasAnswered() || ended.standardOutput.isEmpty()))
+        throw failure(ended);
+    const QJsonObject object = QJsonDocument::fromJson(ended.standardOutput).array().at(0).toObject();
     QMap<QString, QByteArray> found;
     for (auto it = object.constBegin(); it != object.constEnd(); ++it) {
         const QByteArray value = it.value().toVariant().toString().toUtf8();
@@ -336,9 +350,14 @@ QByteArray ExifToolRunner::runForBytes(
     const QStringList& arguments, const OutputWatch& watch, const ReadControl& control) const
 {
     Ended ended = runToEnd(arguments, watch, control);
-    if (ended.isGood)
+    if (ended.isGood())
         return std::move(ended.standardOutput);
     throw failure(ended);
+}
+
+ExifToolRunner::OutputWatch ExifToolRunner::counter(const QList<QUrl>& files, const ReadControl& control)
+{
+    return control.progress ? OutputWatch(FileCounter(files.size(), control.progress)) : OutputWatch();
 }
 
 ToolError ExifToolRunner::failure(const Ended& ended)
@@ -385,7 +404,7 @@ ExifToolRunner::Ended ExifToolRunner::runToEnd(
     return { .standardOutput = std::move(output),
         .standardError = process.readAllStandardError(),
         .exitCode = process.exitCode(),
-        .isGood = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0 };
+        .isByItself = process.exitStatus() == QProcess::NormalExit };
 }
 
 }  // namespace Quorbel

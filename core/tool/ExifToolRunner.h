@@ -28,6 +28,15 @@ struct ReadControl {
     std::function<void(qint64)> started{};
 };
 
+/// What one read run said of its files, some of which may be unreadable.
+struct ReadAnswer {
+    QList<JSONObject> objects{};  ///< in the order in which they were printed; without the undecodable ones
+    QMap<QString, QString> undecodable{};  ///< path, as it was printed, to why its object makes no sense
+    /// The exit status was 1, and the rest is good: some file could not be read, or one holds a tag called Error,
+    /// which the tool takes for an error of its own. readErrors() tells which.
+    std::optional<ToolError> failure{};
+};
+
 struct ExifToolRunner {
     QUrl exiftoolURL{};  ///< the ExifTool script, given to Perl as its first argument
     QUrl perlURL{};  ///< the Perl interpreter; locate() always sets /usr/bin/perl
@@ -45,8 +54,13 @@ struct ExifToolRunner {
     QList<JSONObject> read(const QStringList& tags, const QList<QUrl>& files, const ReadControl& control = {}) const;
     /// Reads the custom group "XMP-Quorbel" alone, with group-1 keys. Throws like read().
     QList<JSONObject> readCustomNamespace(const QList<QUrl>& files, const ReadControl& control = {}) const;
-    /// Which of the files make a read fail, and why, as the tool says it ("File format error"), by path. Empty when it
-    /// says nothing. Throws like read(), but not for the tool's exit status.
+    /// The same runs, where one unreadable file does not keep the others from being read: an exit status of 1 and
+    /// objects that cannot be decoded are told, not thrown. `further` options stand behind the tags.
+    ReadAnswer readEach(const QStringList& tags, const QList<QUrl>& files, const ReadControl& control,
+        const QStringList& further = {}) const;
+    ReadAnswer readEachCustomNamespace(const QList<QUrl>& files, const ReadControl& control) const;
+    /// Which of the files the tool itself cannot read, and why, as it says it ("File format error"), by path: a file's
+    /// own tag called Error is none of these. Throws like read(), but not for the tool's exit status.
     QMap<QString, QString> readErrors(const QList<QUrl>& files, const ReadControl& control = {}) const;
     /// The tool's answer to a selection, as it printed it: also that about the other files when some could not be read.
     /// Throws ToolError when there is none at all, or LaunchError.
@@ -80,14 +94,20 @@ private:
         QByteArray standardOutput{};
         QByteArray standardError{};
         int exitCode = 0;
-        bool isGood = false;
+        bool isByItself = false;  ///< not by a signal
+
+        bool isGood() const { return isByItself && exitCode == 0; }
+        /// It did its work; some file may not have come out as asked for.
+        bool hasAnswered() const { return isByItself && exitCode <= 1; }
     };
 
     QList<JSONObject> readJSON(
         const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const;
+    ReadAnswer readEachJSON(const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const;
     QString run(const QStringList& arguments) const;
     QByteArray runForBytes(
         const QStringList& arguments, const OutputWatch& watch = {}, const ReadControl& control = {}) const;
+    static OutputWatch counter(const QList<QUrl>& files, const ReadControl& control);
     static ToolError failure(const Ended& ended);
     Ended runToEnd(const QStringList& arguments, const OutputWatch& watch, const ReadControl& control,
         Output wanted = Output::kept) const;

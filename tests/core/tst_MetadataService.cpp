@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Quorbel;
 using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
@@ -97,6 +99,40 @@ private slots:
         QCOMPARE(titles(records), expected);
         QVERIFY(records[0].custom.isEmpty() && records[1].custom.isEmpty());
         QCOMPARE(records[2].custom, (QList<CustomValue>{ { "Mood", "calm" } }));
+    }
+
+    void progressOfAllRuns_data()
+    {
+        QTest::addColumn<bool>("searches");
+        QTest::addRow("two runs") << false;
+        QTest::addRow("three, to find a culprit") << true;
+    }
+
+    void progressOfAllRuns()
+    {
+        QFETCH(bool, searches);
+        const PhotoFolder folder;
+        QList<QUrl> urls;
+        QList<QJsonObject> objects;
+        for (int i = 0; i < 8; ++i) {
+            urls.append(folder.add(QString::number(i) + u".jpg"_s));
+            objects.append(titled(urls.last().toLocalFile(), u"x"_s));
+        }
+        FakeTool tool;
+        // In pieces so small that each file is counted by itself.
+        tool.answerAlways({ .standardOutput = toolJson(objects), .pieceSize = 40 });
+        if (searches)
+            tool.answer(1, { .standardOutput = toolJson(objects), .exitCode = 1, .pieceSize = 40 });
+        QList<qsizetype> seen;
+        const MetadataService service{ tool.runner() };
+        const auto read = service.readEach(urls, { .progress = [&](qsizetype done) { seen.append(done); } });
+        QCOMPARE(read.records.size(), 8);
+        QVERIFY(std::is_sorted(seen.cbegin(), seen.cend()));
+        // Pieces may arrive together, but not all of a run as one.
+        QVERIFY(std::any_of(seen.cbegin(), seen.cend(), [](qsizetype done) { return done > 0 && done < 4; }));
+        QVERIFY(std::any_of(seen.cbegin(), seen.cend(), [](qsizetype done) { return done > 4 && done < 8; }));
+        QCOMPARE(seen.last(), 8);
+        QCOMPARE(tool.calls().size(), searches ? 3 : 2);
     }
 
     void eitherRunCanFailARead()

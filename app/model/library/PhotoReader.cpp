@@ -4,6 +4,7 @@
 #include "core/text/Text.h"
 
 #include <QFile>
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -22,7 +23,7 @@ namespace {
 // What may be said about one path before ExifTool sees it.
 struct Check {
     bool isReadable = false;
-    QString reason{};  // why not; empty: not a file at all, nothing to say
+    QString reason{};  // why not; empty: gone, or not a file at all: nothing to say
 };
 
 QString systemReason(int error)
@@ -40,7 +41,10 @@ Check check(const QUrl& url)
         if (error == ENOENT && url.fileName().contains(QChar::ReplacementCharacter))
             return { false, u"its name is not UTF-8"_s };
         const bool isLink = lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
-        return { false, isLink && (error == ENOENT || error == ELOOP) ? u"broken link"_s : systemReason(error) };
+        if (isLink && (error == ENOENT || error == ELOOP))
+            return { false, u"broken link"_s };
+        const bool isGone = error == ENOENT || error == ENOTDIR;
+        return { false, isGone ? QString() : systemReason(error) };
     }
     if (!S_ISREG(status.st_mode))
         return {};
@@ -70,50 +74,9 @@ void shareTexts(QList<ImageRecord>& records)
     }
 }
 
-struct Readable {
-    QUrl url{};
-    std::optional<QDateTime> modified{};  // before the read
-};
-
-QList<QUrl> urlsOf(const QList<Readable>& photos)
+QString inSentence(const QString& reason)
 {
-    QList<QUrl> urls;
-    urls.reserve(photos.size());
-    for (const Readable& photo : photos)
-        urls.append(photo.url);
-    return urls;
-}
-
-// Leaves out the photos that the tool cannot make sense of. Whether there were any.
-bool leaveOutBroken(
-    const MetadataService& service, QList<Readable>& photos, const ReadControl& control, QList<LeftOut>& leftOut)
-{
-    const QMap<QString, QString> errors =
-        service.runner.readErrors(urlsOf(photos), { .progress = {}, .stop = control.stop, .started = control.started });
-    const auto broken = photos.removeIf([&](const Readable& photo) {
-        const QString reason = errors.value(photo.url.toLocalFile());
-        if (!reason.isEmpty())
-            leftOut.append({ photo.url.fileName(), reason.at(0).toLower() + reason.sliced(1) });
-        return !reason.isEmpty();
-    });
-    return broken > 0;
-}
-
-// Throws what the service throws.
-void readPhotos(const MetadataService& service, QList<Readable>& photos, TaskProgress& progress,
-    const ReadControl& control, Result& result)
-{
-    progress.total = photos.size();
-    try {
-        result.records = service.read(urlsOf(photos), control);
-    } catch (const ToolError& error) {
-        if (!std::holds_alternative<ToolError::ExecFailed>(error.payload())
-            || !leaveOutBroken(service, photos, control, result.leftOut))
-            throw;
-        progress.done = 0;
-        progress.total = photos.size();
-        result.records = service.read(urlsOf(photos), control);
-    }
+    return reason.left(1).toLower() + reason.sliced(1);
 }
 
 }  // namespace
@@ -121,18 +84,25 @@ void readPhotos(const MetadataService& service, QList<Readable>& photos, TaskPro
 Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgress& progress, std::stop_token stop)
 {
     Result result;
-    QList<Readable> photos;
+    QList<QUrl> readable;
+    QHash<QUrl, std::optional<QDateTime>> modified;  // before the read
     for (const QUrl& url : urls) {
         const Check checked = check(url);
-        if (checked.isReadable)
-            photos.append({ url, modificationDate(url.toLocalFile()) });
-        else if (!checked.reason.isEmpty())
+        if (checked.isReadable) {
+            readable.append(url);
+            modified.insert(url, modificationDate(url.toLocalFile()));
+        } else if (!checked.reason.isEmpty()) {
             result.leftOut.append({ url.fileName(), checked.reason });
+        }
     }
+    progress.total = readable.size();
     const ReadControl control{ [&progress](qsizetype done) { progress.done = done; }, std::move(stop),
         [&progress](qint64 processID) { progress.processID = processID; } };
     try {
-        readPhotos(service, photos, progress, control, result);
+        PhotoRead::Outcome outcome = service.readEach(readable, control);
+        result.records = std::move(outcome.records);
+        for (const FileFailure& failure : std::as_const(outcome.leftOut))
+            result.leftOut.append({ failure.file.fileName(), inSentence(failure.reason) });
     } catch (const CancelledError&) {
         result.isCancelled = true;
     } catch (const Error& error) {
@@ -142,8 +112,8 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
     }
     progress.processID = 0;
     shareTexts(result.records);
-    for (qsizetype i = 0; i < std::min(result.records.size(), photos.size()); ++i)
-        result.records[i].contentModificationDate = photos.at(i).modified;
+    for (ImageRecord& record : result.records)
+        record.contentModificationDate = modified.value(record.url);
     return result;
 }
 

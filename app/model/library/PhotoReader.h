@@ -24,10 +24,10 @@ struct Result {
     bool isCancelled = false;
 };
 
-/// Never throws. One empty, unreadable, dangling or broken file makes ExifTool report failure for all, a pipe blocks
-/// it for ever, and it walks into directories: so the first four are left out and named, the broken ones by means of
-/// further runs, and whatever else is no regular file is left out silently. A record bears the modification date that
-/// its file had before the read, so that a change during the read is noticed by the next look at the folder.
+/// Never throws. A pipe blocks ExifTool for ever, and it walks into directories: what is no regular file is left out
+/// silently, and so is what is gone, before or during the read. Empty, unreadable, dangling and broken files are left
+/// out and named. A record bears the modification date that its file had before the read, so that a change during the
+/// read is noticed by the next look at the folder.
 Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgress& progress, std::stop_token stop);
 
 /// The banner's text for these files; at least one.

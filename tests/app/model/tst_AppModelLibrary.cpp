@@ -45,6 +45,8 @@ private slots:
     void manyLeftOutFilesAreCounted();
     void nothingReadable();
     void failedReadKeepsWhatIsOpen();
+    void photoDeletedDuringTheRead_data();
+    void photoDeletedDuringTheRead();
     void cancelledReadIsSilent();
     void endOfAReadCanBeCancelled_data();
     void endOfAReadCanBeCancelled();
@@ -215,6 +217,40 @@ void tst_AppModelLibrary::failedReadKeepsWhatIsOpen()
     QCOMPARE(broken->folderURL(), std::nullopt);
 }
 
+void tst_AppModelLibrary::photoDeletedDuringTheRead_data()
+{
+    QTest::addColumn<QByteArray>("run");  // the one before which it goes
+    QTest::addColumn<bool>("besideBroken");
+    QTest::addRow("before the main run") << QByteArray("-XMP:Title") << false;
+    QTest::addRow("before the run over custom fields") << QByteArray("-XMP-Quorbel:all") << false;
+    QTest::addRow("while the culprit of a failed run is searched for") << QByteArray("-ExifTool:Error") << true;
+    QTest::addRow("after that") << QByteArray("-XMP-Quorbel:all") << true;
+}
+
+void tst_AppModelLibrary::photoDeletedDuringTheRead()
+{
+    QFETCH(QByteArray, run);
+    QFETCH(bool, besideBroken);
+    GatedTool tool;
+    ModelFixture f(tool.service());
+    f.addTitled(jpgs(u"abc"_s));
+    if (besideBroken)
+        f.folder.add(u"broken.gif"_s, "GIF\x04");
+    tool.shut(run);
+    f->load({ f.folderURL() });
+    QVERIFY(tool.waitForRun());
+    QVERIFY(QFile::remove(f.folder.path(u"a.jpg"_s)));
+    tool.release();
+    QVERIFY(f.waitUntilIdle());
+    // What is gone is no news; the others keep their own values.
+    QCOMPARE(f->errorMessage(),
+        besideBroken ? std::optional(u"1 file could not be read and was left out: broken.gif (file format error)"_s)
+                     : std::nullopt);
+    QCOMPARE(f.visible(), jpgs(u"bc"_s));
+    for (const QString& name : jpgs(u"bc"_s))
+        QCOMPARE(f->record(f.url(name))->values.value(u"title"_s), name);
+}
+
 void tst_AppModelLibrary::cancelledReadIsSilent()
 {
     GatedTool tool;
@@ -272,12 +308,13 @@ void tst_AppModelLibrary::progressFollowsTheRead()
     FakeTool tool;
     ModelFixture f(MetadataService{ tool.runner() });
     QList<QJsonObject> objects;
-    for (const QString& name : jpgs(u"abc"_s))
+    for (const QString& name : jpgs(u"abcd"_s))
         objects.append({ { u"SourceFile"_s, f.folder.add(name).toLocalFile() }, { u"File:FileType"_s, u"JPEG"_s } });
-    tool.answer(1, { .standardOutput = toolJson(objects), .holds = true });
+    tool.answer(1, { .standardOutput = toolJson(objects) });
+    tool.answer(2, { .standardOutput = toolJson(objects.first(2)), .holds = true });
     f->load({ f.folderURL() });
-    QTRY_COMPARE(f->progress(), (std::optional(Progress{ 0, 3 })));
-    QTRY_COMPARE(f->progress(), (std::optional(Progress{ 3, 3 })));
+    // The first of two runs is done, and half of the other.
+    QTRY_COMPARE(f->progress(), (std::optional(Progress{ 3, 4 })));
     QVERIFY(f->isWorking());
     tool.release();
     QVERIFY(f.waitUntilIdle());
