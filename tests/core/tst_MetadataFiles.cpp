@@ -5,6 +5,7 @@
 
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <cmath>
@@ -305,6 +306,30 @@ private slots:
             QCOMPARE(records[i].values.value(u"description"_s), description);
         }
         QCOMPARE(folder.names().size(), names.size());
+    }
+
+    void perlSettingsOfTheUser_data()
+    {
+        QTest::addColumn<QByteArray>("variable");
+        QTest::addColumn<QByteArray>("value");
+        QTest::addRow("all streams and arguments are decoded") << QByteArray("PERL_UNICODE") << QByteArray("SDA");
+        QTest::addRow("a module is loaded first") << QByteArray("PERL5OPT") << QByteArray("-Mopen=:std,:utf8");
+        QTest::addRow("streams get a layer") << QByteArray("PERLIO") << QByteArray(":utf8");
+    }
+
+    void perlSettingsOfTheUser()
+    {
+        QFETCH(QByteArray, variable);
+        QFETCH(QByteArray, value);
+        const PhotoFolder folder;
+        const QUrl photo = folder.add(u"Zürich 東京.jpg"_s);
+        const QString text = u"Zürich 東京 – ü"_s;
+        qputenv(variable.constData(), value);
+        const auto restored = qScopeGuard([&variable] { qunsetenv(variable.constData()); });
+        service().write({ .scalars = { { "description", text } }, .customs = { { "Mood", text } } }, { photo }, {});
+        const ImageRecord record = readOne(photo);
+        QCOMPARE(record.values.value(u"description"_s), text);
+        QCOMPARE(record.custom, (QList<CustomValue>{ { "Mood", text } }));
     }
 
     void failuresKeepFiles()
