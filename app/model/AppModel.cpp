@@ -271,11 +271,11 @@ QMap<QString, QStringList> AppModel::nonEmptyBatchLists() const
 void AppModel::addCustomField(const QString& name, const QString& value)
 {
     requireMainThread("addCustomField");
-    const auto cleaned = MetadataWriter::sanitizeCustomName(name);
-    if (!cleaned)
+    const auto stored = storedCustomName(name);
+    if (!stored)
         return;
     const Announcer::Together together(m_announcer);
-    m_editing.addCustom(*cleaned, value);
+    m_editing.addCustom(*stored, value);
     setAddOpen(false);
 }
 

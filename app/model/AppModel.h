@@ -106,6 +106,8 @@ public:
     QStringList visibleFieldIDs(FieldSection section) const { return editing().visibleFieldIDs(section); }
     QList<FieldSpec> addableKnownFields() const { return editing().addableKnownFields(); }
     QList<CustomValue> visibleCustomFields() const { return editing().visibleCustomFields(); }
+    /// The name that addCustomField() would give a field; nothing for one that it refuses.
+    std::optional<QString> storedCustomName(const QString& typed) const { return editing().storedCustomName(typed); }
     /// Keywords of the open photos that begin with the text (any case), the most used first; at most `limit`.
     QStringList keywordCompletions(const QString& prefix, int limit) const
     {
@@ -127,6 +129,7 @@ public:
     void toggleBatchCustom(const QString& name) { editing().toggleBatchCustom(name); }
     /// A custom field's value, in the draft or, with several photos selected, in the batch.
     void setCustom(const QString& name, const QString& value) { editing().setCustom(name, value); }
+    /// Adds it and closes the add-field sheet; nothing happens with a name that is refused.
     void addCustomField(const QString& name, const QString& value);
     /// Shows a field of the schema that was not shown, and closes the add-field sheet.
     void addKnownField(const QString& id);

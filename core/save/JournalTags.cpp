@@ -59,6 +59,12 @@ bool isConcerned(const JournalEntry& entry, const QString& tag)
     return !tag.startsWith(customGroupPrefix()) || entry.writtenTags.contains(tag, Qt::CaseInsensitive);
 }
 
+// Written once by mistake, it would take every custom field away now.
+bool isWholeCustomGroup(const QString& tag)
+{
+    return tag.compare(customGroupPrefix() + u"All"_s, Qt::CaseInsensitive) == 0;
+}
+
 bool isSame(const QByteArray& a, const QByteArray& b)
 {
     constexpr double rounding = 1e-8;  // degrees: a millimetre
@@ -137,10 +143,10 @@ WriteCommand restoreCommand(const JournalEntry& entry, const JournalFile& file)
     };
     WriteCommand command{ .options = { u"-ec"_s } };
     for (const auto& tag : entry.writtenTags)
-        if (!isLeftOut(tag))
+        if (!isLeftOut(tag) && !isWholeCustomGroup(tag))
             command.assignments.append({ .tag = tag });
     for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it)
-        if (isConcerned(entry, it.key()) && !isLeftOut(it.key()))
+        if (isConcerned(entry, it.key()) && !isLeftOut(it.key()) && !isWholeCustomGroup(it.key()))
             for (const auto& value : *it)
                 command.assignments.append({ it.key(), Assignment::Operation::restore, escaped(value) });
     if (iptc == Iptc::asABlock) {

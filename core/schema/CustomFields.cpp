@@ -1,5 +1,6 @@
 #include "core/schema/CustomFields.h"
 
+#include "core/schema/FieldSchema.h"
 #include "core/tool/MetadataWriter.h"
 
 #include <algorithm>
@@ -21,6 +22,19 @@ const QStringList& reservedNames()
     return names;
 }
 
+// What ExifTool takes for something else than a name, in any case: the whole group, the kind of metadata, and an error
+// of its own.
+bool isTakenForOther(const QString& name)
+{
+    const QStringList names{ u"All"_s, u"XMP"_s, u"Error"_s };
+    return names.contains(name, Qt::CaseInsensitive);
+}
+
+bool isAscii(const QString& name)
+{
+    return std::all_of(name.cbegin(), name.cend(), [](QChar c) { return c.unicode() < 0x80; });
+}
+
 }  // namespace
 
 QString key(const QString& name)
@@ -38,14 +52,30 @@ std::optional<QString> nameProblem(const QString& name)
     const auto stored = MetadataWriter::sanitizeCustomName(name);
     if (!stored)
         return std::nullopt;
-    const bool ascii = std::all_of(stored->cbegin(), stored->cend(), [](QChar c) { return c.unicode() < 0x80; });
-    if (!ascii)
+    if (!isAscii(*stored))
         return u"Only the letters A–Z and digits can be stored in a name."_s;
     if (stored->size() == 1)
         return u"A name needs at least two letters or digits."_s;
-    if (reservedNames().contains(*stored))
+    if (reservedNames().contains(*stored) || isTakenForOther(*stored))
         return u"“%1” is a reserved word; choose another name."_s.arg(*stored);
+    if (const FieldSpec* field = FieldSchema::readFrom(*stored))
+        return u"That is the field "_s + field->label;
     return std::nullopt;
+}
+
+bool isWritable(const QString& name)
+{
+    return MetadataWriter::sanitizeCustomName(name) == name && isAscii(name) && name.size() > 1 && name != u"XMP"_s
+        && !reservedNames().contains(name) && !MetadataWriter::customArgs(name, {}).isEmpty();
+}
+
+QString spelling(const QString& name, const QStringList& held)
+{
+    if (held.contains(name))
+        return name;
+    const auto found = std::find_if(held.cbegin(), held.cend(),
+        [&name](const QString& other) { return other.compare(name, Qt::CaseInsensitive) == 0; });
+    return found == held.cend() ? name : *found;
 }
 
 QStringList names(const QList<CustomValue>& values)

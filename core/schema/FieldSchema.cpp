@@ -143,6 +143,15 @@ const FieldSpec* spec(const QString& id)
     return it == fields.cend() ? nullptr : &*it;
 }
 
+const FieldSpec* readFrom(const QString& tagName)
+{
+    for (const FieldSpec& field : all())
+        for (const QString& tag : field.readTags)
+            if (QStringView(tag).sliced(tag.indexOf(u':') + 1).compare(tagName, Qt::CaseInsensitive) == 0)
+                return &field;
+    return nullptr;
+}
+
 QList<FieldSpec> defaultFields()
 {
     return fieldsShownAlways(true);

@@ -18,6 +18,9 @@ struct CameraRowSpec {
 const QList<FieldSpec>& all();
 /// The field with exactly this id; nothing when there is none. The pointer stays valid for ever.
 const FieldSpec* spec(const QString& id);
+/// The field that a tag of this name, in some group, is read for ("City": place); case plays no part. Nothing when
+/// there is none.
+const FieldSpec* readFrom(const QString& tagName);
 /// Those that are always on screen, and the others.
 QList<FieldSpec> defaultFields();
 QList<FieldSpec> addableFields();

@@ -292,7 +292,7 @@ QString ExifToolRunner::write(const WriteCommand& command, const QList<QUrl>& fi
         return {};
     const QStringList mode = backup ? QStringList() : QStringList(u"-overwrite_original"_s);
     const Ended ended = runToEnd(writeArguments(mode, command, files, configPath), {}, {});
-    if (!ended.isGood)
+    if (!ended.isGood())
         throw failure(ended);
     if (messages)
         *messages += QString::fromUtf8(ended.standardError);

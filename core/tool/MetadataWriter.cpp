@@ -81,7 +81,7 @@ QList<Assignment> listArgs(const FieldSpec& field, const QStringList& values, Li
 QList<Assignment> customArgs(const QString& name, const QString& value)
 {
     const std::optional<QString> tag = sanitizeCustomName(name);
-    if (!tag)
+    if (!tag || tag->compare(u"All"_s, Qt::CaseInsensitive) == 0)
         return {};
     return { { .tag = customNamespacePrefix() + u':' + *tag, .value = value } };
 }

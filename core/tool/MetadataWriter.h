@@ -29,7 +29,8 @@ QList<Assignment> scalarArgs(const FieldSpec& field, const QString& value);
 /// Items are trimmed, blank ones dropped. replace: the tag is emptied, then given each item; append: each item is
 /// taken out and added, and there is nothing at all without items.
 QList<Assignment> listArgs(const FieldSpec& field, const QStringList& values, ListMode mode);
-/// One assignment, or none when the name has no storable character.
+/// One assignment, or none when the name has no storable character, or is the one that stands for all of the group:
+/// an assignment of "All" deletes every custom field.
 QList<Assignment> customArgs(const QString& name, const QString& value);
 /// All assignments of one save: scalars, lists, custom values. Field ids that the schema does not know are skipped, and
 /// so are the homes that the plan leaves out.

@@ -92,7 +92,7 @@ void FieldRow::showTick()
     }
     if (!m_tick)
         return;
-    m_tick->setVisible(m_state.batch);
+    m_tick->setVisible(m_state.batch && !m_state.fixed);
     m_tick->setChecked(m_state.included);
     m_tick->setAccessibleName(u"Write %1 to all selected files"_s.arg(m_state.label));
 }

@@ -113,6 +113,9 @@ FieldRowState customRow(const AppModel& model, const CustomValue& custom)
     } else {
         state.edited = model.editedSingle().contains(CustomFields::key(custom.name));
     }
+    state.fixed = !CustomFields::isWritable(custom.name);
+    if (state.fixed)
+        state.helpLine = u"A field of this name cannot be changed here"_s;
     if (model.preferences().showNamespace())
         state.namespaceLine = MetadataWriter::customNamespacePrefix() + u':' + custom.name;
     return state;

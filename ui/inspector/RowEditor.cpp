@@ -37,8 +37,10 @@ RowEditor textEditor(FieldRow& row)
 {
     auto* field = new QBTextField(&row);
     QObject::connect(field, &QLineEdit::textEdited, &row, &FieldRow::textEdited);
-    return { field, field, { field },
-        [field](const FieldRowState& state, bool fresh) { showText(field, state, fresh); } };
+    return { field, field, { field }, [field](const FieldRowState& state, bool fresh) {
+                showText(field, state, fresh);
+                field->setReadOnly(state.fixed);
+            } };
 }
 
 RowEditor placeEditor(PlaceProvider* places, FieldRow& row)

@@ -3,7 +3,6 @@
 #include "app/model/AppModel.h"
 #include "core/schema/CustomFields.h"
 #include "core/text/Text.h"
-#include "core/tool/MetadataWriter.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/TextFields.h"
@@ -128,7 +127,7 @@ void AddFieldSheet::filter()
 void AddFieldSheet::judgeName()
 {
     const QString typed = m_name->text();
-    const auto stored = MetadataWriter::sanitizeCustomName(typed);
+    const auto stored = m_model.storedCustomName(typed);
     const auto problem = CustomFields::nameProblem(typed);
     QString verdict;
     if (problem)
@@ -138,7 +137,7 @@ void AddFieldSheet::judgeName()
     m_verdict->setText(verdict);
     m_verdict->setRole(problem ? TextRole::amberText : TextRole::label);
     m_name->setAccessibleDescription(verdict);
-    m_add->setEnabled(stored && !problem);
+    m_add->setEnabled(stored.has_value());
 }
 
 bool AddFieldSheet::eventFilter(QObject* watched, QEvent* event)

@@ -96,12 +96,16 @@ void Editing::clearBatchList(const QString& id)
 
 void Editing::toggleBatchCustom(const QString& name)
 {
+    if (!CustomFields::isWritable(name))
+        return;
     m_batch.toggleCustom(name, m_selected.sharedCustom(name).value_or(QString()));
     changed();
 }
 
 void Editing::setCustom(const QString& name, const QString& value)
 {
+    if (!CustomFields::isWritable(name))
+        return;
     if (!isBatch())
         m_draft.setCustom(name, value);
     else if (value != shownCustom(name))
@@ -111,7 +115,7 @@ void Editing::setCustom(const QString& name, const QString& value)
 
 void Editing::addCustom(const QString& name, const QString& value)
 {
-    if (!isBatch())
+    if (!isBatch() || !CustomFields::isWritable(name))
         return setCustom(name, value);
     m_batch.addCustom({ name, value });
     changed();
@@ -201,6 +205,14 @@ QString Editing::shownCustom(const QString& name) const
 {
     const auto typed = m_batch.customText(name);
     return typed ? *typed : m_selected.sharedCustom(name).value_or(QString());
+}
+
+std::optional<QString> Editing::storedCustomName(const QString& typed) const
+{
+    const auto cleaned = MetadataWriter::sanitizeCustomName(typed);
+    if (!cleaned || CustomFields::nameProblem(typed))
+        return std::nullopt;
+    return CustomFields::spelling(*cleaned, CustomFields::names(visibleCustomFields()));
 }
 
 bool Editing::isFieldEmpty(const QString& id) const

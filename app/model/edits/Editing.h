@@ -39,7 +39,7 @@ public:
     void clearBatchList(const QString& id);
     void toggleBatchCustom(const QString& name);
     void setCustom(const QString& name, const QString& value);
-    /// The name as it is stored.
+    /// The name as it is stored. Here and above, a name that cannot be written changes nothing.
     void addCustom(const QString& name, const QString& value);
     void addKnownField(const QString& id);
     void removeAddedField(const QString& id);
@@ -49,6 +49,9 @@ public:
     QStringList visibleFieldIDs(FieldSection section) const;
     QList<FieldSpec> addableKnownFields() const;
     QList<CustomValue> visibleCustomFields() const;
+    /// The name under which a custom field of this typed name would be stored: as it is spelled on screen already, if
+    /// it is. Nothing for a name that is refused; CustomFields::nameProblem() says why.
+    std::optional<QString> storedCustomName(const QString& typed) const;
     bool isFieldEmpty(const QString& id) const;
 
     /// Selects these photos; edits of others are forgotten, and edits that wait for just these come back.

@@ -103,18 +103,28 @@ void SelectedPhotos::mergeFields(std::vector<Field>& fields, const QMap<QString,
 
 void SelectedPhotos::mergeCustom(QMap<QString, Custom>& customs, const CustomValue& custom)
 {
-    Custom& known = customs[custom.name];
-    if (known.holders++ == 0)
+    Custom& known = customs[custom.name.toLower()];
+    if (known.holders++ == 0) {
+        known.name = custom.name;
         known.value = custom.value;
-    else if (known.isShared)
+    } else if (known.isShared)
         known.isShared = isSameText(known.value, custom.value);
+}
+
+QStringList SelectedPhotos::customNames() const
+{
+    QStringList names;
+    for (const Custom& custom : summary().customs)
+        names.append(custom.name);
+    names.sort();
+    return names;
 }
 
 std::optional<QString> SelectedPhotos::sharedCustom(const QString& name) const
 {
     if (rows().isEmpty())
         return std::nullopt;
-    const auto custom = summary().customs.constFind(name);
+    const auto custom = summary().customs.constFind(name.toLower());
     if (custom == summary().customs.cend())
         return QString();
     const bool isEverywhere = custom->holders == rows().size() || custom->value.isEmpty();

@@ -38,9 +38,9 @@ public:
     std::optional<QString> sharedValue(const QString& id) const;
     /// Whether one of them holds the field.
     bool holds(const QString& id) const { return summary().heldIDs.contains(id); }
-    /// Names of the custom fields that one of them holds, ascending.
-    QStringList customNames() const { return summary().customs.keys(); }
-    /// The same as sharedValue(), for a custom field.
+    /// Names of the custom fields that one of them holds, ascending; of names that differ in case alone the first.
+    QStringList customNames() const;
+    /// The same as sharedValue(), for a custom field in any case.
     std::optional<QString> sharedCustom(const QString& name) const;
 
 private:
@@ -50,6 +50,7 @@ private:
         bool isShared = true;
     };
     struct Custom {
+        QString name{};
         QString value{};
         bool isShared = true;  ///< by those that hold the field
         int holders = 0;
@@ -57,7 +58,7 @@ private:
     struct Summary {
         std::vector<Field> fields{};  ///< every scalar field that a selected photo holds, by id
         QSet<QString> heldIDs{};  ///< the same, and the list fields
-        QMap<QString, Custom> customs{};  ///< every custom field that a selected photo holds, by name
+        QMap<QString, Custom> customs{};  ///< every custom field that a selected photo holds, by its name in lower case
     };
 
     void forgetIfOutdated() const;

@@ -1,4 +1,5 @@
 // Drafts of one photo and edits of several: what is shown, what counts as unsaved.
+#include "core/tool/TemporaryConfig.h"
 #include "tests/app/model/ModelFixture.h"
 
 #include <QRegularExpression>
@@ -55,6 +56,10 @@ private slots:
     void singleEdits();
     void listItems();
     void customFields();
+    void refusedCustomNames_data();
+    void refusedCustomNames();
+    void customNameInAnotherCase();
+    void photoThatHoldsRefusedNames();
     void visibleAndAddableFields();
     void addedFieldsAreRemovable();
     void sharedValues();
@@ -114,6 +119,98 @@ void tst_AppModelEditing::customFields()
     f->setCustom(u"Projectcode"_s, u"y"_s);
     QCOMPARE(f->visibleCustomFields(), (QList<CustomValue>{ { u"Projectcode"_s, u"y"_s }, { u"Mood"_s, u"calm"_s } }));
     QCOMPARE(f->editedSingle(), (QSet<QString>{ u"custom:Projectcode"_s, u"custom:Mood"_s }));
+}
+
+void tst_AppModelEditing::refusedCustomNames_data()
+{
+    QTest::addColumn<QString>("photos");
+    QTest::addColumn<QString>("name");
+    for (const QString& photos : { u"a"_s, u"ab"_s })
+        for (const QString& name : { u"All"_s, u"Error"_s, u"XMP"_s, u"City"_s, u"rating"_s })
+            QTest::addRow("%s, of %s", qPrintable(name), qPrintable(photos)) << photos << name;
+}
+
+void tst_AppModelEditing::refusedCustomNames()
+{
+    QFETCH(QString, photos);
+    QFETCH(QString, name);
+    ThreePhotos f;
+    QVERIFY(f.select(photos));
+    f->setAddOpen(true);
+    f->addCustomField(name, u"x"_s);
+    QVERIFY(f->addOpen());
+    QCOMPARE(f->unsavedCount(), 0);
+}
+
+void tst_AppModelEditing::customNameInAnotherCase()
+{
+    ThreePhotos f;
+    QVERIFY(f.select(u"a"_s));
+    f->preferences().saveDontAsk.set(true);
+    f->addCustomField(u"Mood"_s, u"calm"_s);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    f->addCustomField(u"mood"_s, u"wild"_s);
+    QCOMPARE(f->visibleCustomFields(), (QList<CustomValue>{ { u"Mood"_s, u"wild"_s } }));
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->visibleCustomFields(), (QList<CustomValue>{ { u"Mood"_s, u"wild"_s } }));
+    QCOMPARE(f->unsavedCount(), 0);
+    f.select(u"ab"_s);
+    f->addCustomField(u"mOOd"_s, u"mild"_s);
+    QCOMPARE(f->visibleCustomFields(), (QList<CustomValue>{ { u"Mood"_s, u"mild"_s } }));
+    QCOMPARE(f->unsavedCount(), 1);
+}
+
+// Such fields may come from elsewhere: they are shown, and whatever is done beside them leaves them alone.
+void tst_AppModelEditing::photoThatHoldsRefusedNames()
+{
+    const QMap<QString, QString> held{ { u"All"_s, u"a"_s }, { u"City"_s, u"c"_s }, { u"Error"_s, u"e"_s },
+        { u"Mood"_s, u"m"_s } };
+    ModelFixture f;
+    f.services.journalPath = f.settings.filePath(u"state/undo.json"_s);
+    f.relaunch();
+    const QUrl photo = f.folder.add(u"a.jpg"_s);
+    const TemporaryConfig config(held.keys());
+    WriteCommand command;
+    QList<CustomValue> shown;
+    for (auto field = held.cbegin(); field != held.cend(); ++field) {
+        command.assignments.append({ .tag = u"XMP-Quorbel:"_s + field.key(), .value = field.value() });
+        shown.append({ field.key(), field.value() });
+    }
+    realTool().write(command, { photo }, false, config.url());
+    f->preferences().saveDontAsk.set(true);
+    const auto saves = [&f] {
+        f->requestSave();
+        return f.waitUntilIdle() && f->unsavedCount() == 0 && !f->errorMessage();
+    };
+    QVERIFY(f.open());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f->visibleCustomFields(), shown);
+    QVERIFY(!f->draftValues().contains(u"place"_s));  // the custom one does not pose as it
+    // The one that would take all others away cannot be changed.
+    f->setCustom(u"All"_s, {});
+    QCOMPARE(f->unsavedCount(), 0);
+    for (const QString& place : { u"Bern"_s, QString() }) {
+        f->setSingle(u"place"_s, place);
+        f->setCustom(u"Mood"_s, u"of "_s + place);
+        QVERIFY2(saves(), qPrintable(f->errorMessage().value_or(QString())));
+        QCOMPARE(f->draftValues().value(u"place"_s), place);
+        shown.last().value = u"of "_s + place;
+        QCOMPARE(f->visibleCustomFields(), shown);
+    }
+    f->undoSave();
+    QVERIFY(f.waitUntilIdle());
+    shown.last().value = u"of Bern"_s;
+    QCOMPARE(f->visibleCustomFields(), shown);
+    QCOMPARE(f->draftValues().value(u"place"_s), u"Bern"_s);
+    // The others can be, and be taken out.
+    f->setCustom(u"City"_s, u"other"_s);
+    f->setCustom(u"Error"_s, {});
+    QVERIFY2(saves(), qPrintable(f->errorMessage().value_or(QString())));
+    QCOMPARE(f->draftValues().value(u"place"_s), u"Bern"_s);
+    QCOMPARE(f->visibleCustomFields(),
+        (QList<CustomValue>{ { u"All"_s, u"a"_s }, { u"City"_s, u"other"_s }, { u"Mood"_s, u"of Bern"_s } }));
 }
 
 void tst_AppModelEditing::visibleAndAddableFields()

@@ -94,6 +94,7 @@ private slots:
     void addFieldByMouseAndKeys();
     void customNames_data();
     void customNames();
+    void customNameThatThePhotoSpellsOtherwise();
     void customFieldIsAdded();
 };
 
@@ -404,6 +405,23 @@ void tst_Sheets::customNames_data()
     QTest::addRow("one letter") << u"P"_s << false << u"A name needs"_s;
     QTest::addRow("beyond ASCII") << u"Größe"_s << false << u"Only the letters"_s;
     QTest::addRow("reserved") << u"NOTES"_s << false << u"“NOTES” is a reserved word"_s;
+    QTest::addRow("stands for them all") << u"All"_s << false << u"“All” is a reserved word"_s;
+    QTest::addRow("a field of the schema") << u"city"_s << false << u"That is the field Place"_s;
+}
+
+void tst_Sheets::customNameThatThePhotoSpellsOtherwise()
+{
+    SheetFixture desk({ u"a.jpg"_s });
+    QVERIFY(desk.open());
+    desk.model().addCustomField(u"Mood"_s, u"calm"_s);
+    auto* sheet = desk.present<AddFieldSheet>();
+    auto* name = field(sheet, u"Name"_s);
+    name->setFocus();
+    name->insert(u"mood"_s);
+    QVERIFY(labels(sheet).contains(u"Will be stored as “Mood”"_s));
+    field(sheet, u"Value"_s)->setText(u"wild"_s);
+    press(Qt::Key_Return);
+    QCOMPARE(desk.model().draftCustoms(), QList<CustomValue>({ { u"Mood"_s, u"wild"_s } }));
 }
 
 void tst_Sheets::customNames()
