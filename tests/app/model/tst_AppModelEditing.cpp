@@ -168,7 +168,7 @@ void tst_AppModelEditing::photoThatHoldsRefusedNames()
     const QMap<QString, QString> held{ { u"All"_s, u"a"_s }, { u"City"_s, u"c"_s }, { u"Error"_s, u"e"_s },
         { u"Mood"_s, u"m"_s } };
     ModelFixture f;
-    f.services.journalPath = f.settings.filePath(u"state/undo.json"_s);
+    f.services.journalPath = f.settings.filePath(u"state/undo"_s);
     f.relaunch();
     const QUrl photo = f.folder.add(u"a.jpg"_s);
     const TemporaryConfig config(held.keys());
