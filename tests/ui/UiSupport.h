@@ -6,9 +6,12 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QGlyphRun>
 #include <QLabel>
+#include <QRawFont>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTextLayout>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -84,6 +87,26 @@ inline QStringList labels(const QWidget* widget)
         if (label->isVisible() && !label->text().isEmpty())
             texts.append(label->text());
     return texts;
+}
+
+/// The glyphs that a text is drawn with; of its letters alone, or as the font's rules make them.
+inline QList<quint32> glyphs(const QString& text, const QFont& font)
+{
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    QList<quint32> indexes;
+    for (const QGlyphRun& run : layout.glyphRuns())
+        indexes.append(run.glyphIndexes());
+    return indexes;
+}
+
+/// Whether the font's rules put other glyphs in the place of those of the letters.
+inline bool isAltered(const QString& text, const QFont& font)
+{
+    const QRawFont face = QRawFont::fromFont(font);
+    return face.supportsCharacter(text.at(0)) && glyphs(text, font) != face.glyphIndexesForString(text);
 }
 
 inline QColor colorAt(QWidget* widget, QPoint pos)

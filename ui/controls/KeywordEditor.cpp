@@ -46,7 +46,7 @@ public:
         m_cross->setFocusPolicy(Qt::NoFocus);
         connect(m_cross, &QAbstractButton::clicked, this, &KeywordChip::crossed);
         onRestyle(this, [this] {
-            setFont(sansFont(chipTextSize));
+            setFont(verbatimFont(chipTextSize));
             updateGeometry();
         });
     }

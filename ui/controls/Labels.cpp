@@ -49,7 +49,10 @@ ThemedLabel::ThemedLabel(const QString& text, TextRole role, qreal points, QFont
 
 void ThemedLabel::restyle()
 {
-    setFont(m_mono ? monoFont(m_points) : sansFont(m_points, m_weight));
+    if (m_verbatim)
+        setFont(m_mono ? verbatimMonoFont(m_points) : verbatimFont(m_points, m_weight));
+    else
+        setFont(m_mono ? monoFont(m_points) : sansFont(m_points, m_weight));
     QPalette colors = paletteFor(Theme::of(this));
     colors.setColor(QPalette::WindowText, colorFor(Theme::of(this), m_role));
     setPalette(colors);
@@ -74,6 +77,14 @@ void ThemedLabel::setRole(TextRole role)
 void ThemedLabel::setMono(bool mono)
 {
     m_mono = mono;
+    restyle();
+}
+
+void ThemedLabel::setVerbatim(bool verbatim)
+{
+    if (verbatim == m_verbatim)
+        return;
+    m_verbatim = verbatim;
     restyle();
 }
 

@@ -25,6 +25,8 @@ public:
     static ThemedLabel* wrapped(const QString& text, TextRole role, qreal points, QFont::Weight weight = QFont::Normal);
     void setRole(TextRole role);
     void setMono(bool mono);
+    /// For names of files, tags and what somebody typed: every letter as it is.
+    void setVerbatim(bool verbatim);
     void setElided(bool elided);
     /// The height of one line in points; by default what the font says.
     void setLineHeight(qreal points);
@@ -42,6 +44,7 @@ private:
     qreal m_points;
     QFont::Weight m_weight;
     bool m_mono = false;
+    bool m_verbatim = false;
     bool m_elided = false;
     qreal m_lineHeight = 0;
 };

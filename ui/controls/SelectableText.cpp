@@ -30,7 +30,7 @@ SelectableText::SelectableText(QWidget* parent)
         QPalette colors = paletteFor(Theme::of(this));
         colors.setColor(QPalette::Base, Qt::transparent);
         setPalette(colors);
-        setFont(sansFont(13));
+        setFont(verbatimFont(13));
     });
 }
 

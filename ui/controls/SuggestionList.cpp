@@ -247,7 +247,7 @@ void SuggestionList::paintRow(QPainter& painter, int row)
     const QRect text = cell.adjusted(px(10), 0, -px(10), 0);
     const bool tall = rowHeight() == px(tallRow);
     const auto line = [&](const QString& content, qreal points, const QColor& color, const QRect& where) {
-        painter.setFont(sansFont(points));
+        painter.setFont(verbatimFont(points));
         painter.setPen(color);
         const QString shown = QFontMetrics(painter.font()).elidedText(content, Qt::ElideRight, where.width());
         painter.drawText(where, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, shown);

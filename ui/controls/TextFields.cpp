@@ -85,7 +85,7 @@ QBTextField::QBTextField(QWidget* parent)
 void QBTextField::restyle()
 {
     setPalette(textPalette(Theme::of(this)));
-    setFont(m_mono ? monoFont(13) : sansFont(13));
+    setFont(m_mono ? verbatimMonoFont(13) : verbatimFont(13));
     const int side = px(m_bare ? 7 : 10) - builtInMargin;
     setTextMargins(m_icon.isEmpty() ? side : px(31) - builtInMargin, 0, side, 0);
     updateGeometry();
@@ -225,7 +225,7 @@ QBTextArea::QBTextArea(QWidget* parent)
 void QBTextArea::restyle()
 {
     setPalette(textPalette(Theme::of(this)));
-    setFont(sansFont(13));
+    setFont(verbatimFont(13));
     setCursorWidth(1);
     // The border takes one pixel of the padding; the viewport is what is left.
     setViewportMargins(px(10), px(9), px(10), px(9));

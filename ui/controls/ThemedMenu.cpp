@@ -55,7 +55,7 @@ ThemedMenu::ThemedMenu(const QString& title, QWidget* parent)
 
 void ThemedMenu::setUp()
 {
-    setFont(sansFont(13));
+    setFont(verbatimFont(13));  // recent photos are among the items
     // Setting a sheet polishes the menu again, which restyles it again.
     const QString sizes = rowSizes();
     if (styleSheet() != sizes)

@@ -30,7 +30,7 @@ public:
         setAttribute(Qt::WA_ShowWithoutActivating);
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setTextFormat(Qt::PlainText);
-        setFont(sansFont(11.5));
+        setFont(verbatimFont(11.5));
         QPalette colors;
         colors.setColor(QPalette::WindowText, Theme::of(owner).selText);
         setPalette(colors);

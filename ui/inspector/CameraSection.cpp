@@ -38,7 +38,7 @@ public:
     {
         m_labelWidth = width;
         const QRect value = valueBox();
-        const bool fits = QFontMetrics(sansFont(12)).horizontalAdvance(m_row.value) <= value.width();
+        const bool fits = QFontMetrics(verbatimFont(12)).horizontalAdvance(m_row.value) <= value.width();
         setToolTip(fits ? QString() : m_row.value);
         update();
     }
@@ -48,7 +48,7 @@ protected:
     {
         const Theme& theme = Theme::of(this);
         QPainter painter(this);
-        painter.setFont(sansFont(12));
+        painter.setFont(verbatimFont(12));
         const auto draw = [&](const QRect& box, const QColor& color, const QString& text) {
             painter.setPen(color);
             painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
@@ -122,7 +122,7 @@ void CameraSection::resizeEvent(QResizeEvent* event)
 
 int CameraSection::secondColumnWidth() const
 {
-    const QFontMetrics metrics(sansFont(12));
+    const QFontMetrics metrics(verbatimFont(12));
     int widest = 0;
     for (qsizetype i = linesPerColumn(); i < m_rows.size(); ++i)
         widest = qMax(widest, metrics.horizontalAdvance(m_rows.at(i).value) + 1);
@@ -149,7 +149,7 @@ void CameraSection::paintEvent(QPaintEvent*)
     if (!m_rows.isEmpty())
         return;
     QPainter painter(this);
-    painter.setFont(sansFont(12));
+    painter.setFont(verbatimFont(12));
     painter.setPen(Theme::of(this).muted);
     painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, u"No camera details"_s);
 }

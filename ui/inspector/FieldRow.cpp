@@ -32,6 +32,7 @@ FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
     , m_label(new TwoLineLabel(TextRole::label, 13))
 {
     m_label->setBuddy(m_editor.input);
+    m_label->setVerbatim(true);  // of a custom field it was typed
     m_line->setContentsMargins(0, 0, 0, 0);
     m_line->addWidget(m_label, 0, Qt::AlignTop);
     m_line->addLayout(m_column, 1);
@@ -129,6 +130,7 @@ void FieldRow::showLine(Line which, const QString& text)
         const bool tags = which == Line::tags;
         line = new WrappedLine(tags ? TextRole::muted : TextRole::amberText, tags ? 10.5 : 11, 15, this);
         line->setMono(tags);
+        line->setVerbatim(tags);
         const auto above = std::count_if(m_lines.cbegin(), m_lines.cbegin() + int(which), [](auto* l) { return l; });
         m_column->insertWidget(1 + int(above), line);  // behind the editor
     }

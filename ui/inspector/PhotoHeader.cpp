@@ -35,6 +35,7 @@ PhotoHeader::PhotoHeader(ThumbnailStore* thumbs, QWidget* parent)
     column->addWidget(m_details);
     column->addStretch();
     m_name->setElided(true);
+    m_name->setVerbatim(true);
     m_name->setLineHeight(20);
     m_details->setElided(true);
     m_details->setLineHeight(17);

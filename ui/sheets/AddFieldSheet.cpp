@@ -75,6 +75,7 @@ void AddFieldSheet::build()
     auto* dismiss = new QBButton(u"Cancel"_s, QBButtonKind::secondary);
     connect(dismiss, &QAbstractButton::clicked, this, &AddFieldSheet::cancel);
     m_verdict->setElided(true);
+    m_verdict->setVerbatim(true);
     m_verdict->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     stackParts(this, column,
         {

@@ -20,8 +20,12 @@ MessageSheet::MessageSheet(const QString& icon, const QString& message, const QS
     auto* row = new QHBoxLayout(this);
     row->addWidget(new SymbolTile(icon), 0, Qt::AlignTop);
     auto* column = new QVBoxLayout;
-    column->addWidget(ThemedLabel::wrapped(message, TextRole::text, 15, QFont::DemiBold));
-    column->addWidget(ThemedLabel::wrapped(informativeText, TextRole::label, 13));
+    auto* title = ThemedLabel::wrapped(message, TextRole::text, 15, QFont::DemiBold);
+    auto* text = ThemedLabel::wrapped(informativeText, TextRole::label, 13);
+    for (ThemedLabel* label : { title, text }) {
+        label->setVerbatim(true);  // both may name photos
+        column->addWidget(label);
+    }
     QHBoxLayout* line = sheetButtonRow(this, makeButtons(buttons));
     column->addLayout(line);
     row->addLayout(column, 1);

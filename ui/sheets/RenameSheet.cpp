@@ -52,6 +52,7 @@ RenameSheet::RenameSheet(AppModel& model, QWidget* parent)
     m_pattern->setPlaceholder(u"%Date%_%Title%"_s);
     m_pattern->setAccessibleName(u"Pattern"_s);
     m_preview->setMono(true);
+    m_preview->setVerbatim(true);
     m_preview->setBreaksAnywhere(true);
     auto* hint = new WrappedLine(TextRole::muted, 11.5, 16);
     hint->setText(u"Click a field to insert it. The extension is kept automatically."_s);

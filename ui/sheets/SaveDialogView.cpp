@@ -128,7 +128,9 @@ private:
     {
         auto* cell = new QVBoxLayout;
         cell->setSpacing(2);
-        cell->addWidget(ThemedLabel::wrapped(line.value, TextRole::text, 13));
+        auto* value = ThemedLabel::wrapped(line.value, TextRole::text, 13);
+        value->setVerbatim(true);
+        cell->addWidget(value);
         if (!line.note.isEmpty())
             cell->addWidget(ThemedLabel::wrapped(line.note, TextRole::amberText, 11));
         return cell;
@@ -190,6 +192,7 @@ QVBoxLayout* SaveDialogView::buildTexts()
 {
     auto* texts = new QVBoxLayout;
     auto* title = ThemedLabel::wrapped(titleText(m_model), TextRole::text, 15, QFont::DemiBold);
+    title->setVerbatim(true);
     auto* message = ThemedLabel::wrapped(messageText(m_model), TextRole::label, 13);
     QWidget* changes = buildChanges();
     buildCheckbox();

@@ -80,7 +80,7 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     const bool selected = option.state & QStyle::State_Selected;
     QRectF line(square.right() + px(textGap), row.top() + px(nameTop), 0, px(nameHeight));
     line.setRight(row.right() - px(textGap));
-    painter->setFont(sansFont(13));
+    painter->setFont(verbatimFont(13));
     painter->setPen(selected ? theme.selText : theme.text);
     painter->drawText(line, Qt::AlignVCenter | Qt::TextSingleLine,
         painter->fontMetrics().elidedText(photo->fileName, Qt::ElideMiddle, static_cast<int>(line.width())));

@@ -244,7 +244,7 @@ void PreviewColumnView::paintFoot(QPainter& painter)
     const int detailsWidth = painter.fontMetrics().horizontalAdvance(details);
     painter.setPen(theme.derived.label);
     painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, details);
-    painter.setFont(sansFont(11, QFont::DemiBold));
+    painter.setFont(verbatimFont(11, QFont::DemiBold));
     painter.setPen(theme.text);
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
         painter.fontMetrics().elidedText(photo->fileName, Qt::ElideMiddle, line.width() - detailsWidth - gap));

@@ -80,6 +80,7 @@ ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
     auto* line = new QHBoxLayout;
     line->setSpacing(0);
     m_text->setElided(true);
+    m_text->setVerbatim(true);
     line->addWidget(m_text, 1);
     line->addWidget(m_skip);
     line->addWidget(m_cancel);

@@ -145,7 +145,9 @@ void WindowBar::paintTitles(QPainter& painter) const
     const int side =
         qMax(m_menus ? m_menus->geometry().right() : 0, width() - m_tools->geometry().left()) + px(titleGap);
     QRect line(side, px(titleTop), width() - 2 * side, px(titleHeight));
-    painter.setFont(sansFont(13, QFont::DemiBold));
+    // The folder's name; the program's own comes before there is a reason to copy a font.
+    const bool isName = !m_model.folderName().isEmpty();
+    painter.setFont(isName ? verbatimFont(13, QFont::DemiBold) : sansFont(13, QFont::DemiBold));
     painter.setPen(theme.text);
     painter.drawText(
         line, Qt::AlignCenter, painter.fontMetrics().elidedText(shownTitle(), Qt::ElideMiddle, line.width()));

@@ -7,6 +7,7 @@
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/SymbolText.h"
 #include "ui/controls/theme/TextLines.h"
+#include "ui/controls/theme/VerbatimFonts.h"
 
 #include <QDir>
 
@@ -132,6 +133,55 @@ private slots:
         QCOMPARE(px(30), 45);
         QCOMPARE(field.sizeHint().height(), 45);
         QTRY_COMPARE(field.font().pixelSize(), px(13));
+    }
+
+    void namesAreDrawnLetterByLetter_data()
+    {
+        QTest::addColumn<bool>("mono");
+        for (const bool mono : { false, true })
+            for (const QString& text : { u"1x1_a.jpg"_s, u"12:30"_s, u"a->b"_s, u"x != y"_s, u"(A-B)"_s, u"office"_s })
+                QTest::addRow("%s, %s", qPrintable(text), mono ? "fixed" : "proportional") << mono;
+    }
+    void namesAreDrawnLetterByLetter()
+    {
+        QFETCH(bool, mono);
+        const QString text = QString::fromUtf8(QTest::currentDataTag()).section(u',', 0, 0);
+        QVERIFY(!Test::isAltered(text, mono ? verbatimMonoFont(13) : verbatimFont(13)));
+        QVERIFY(!Test::isAltered(text, mono ? verbatimMonoFont(11) : verbatimFont(15, QFont::DemiBold)));
+    }
+
+    void aVerbatimFontDiffersInNothingElse_data()
+    {
+        for (const QString& text : { u"AVATo"_s, u"Zürich 2024"_s, u"Ze\u0301a"_s, u"مرحبا"_s, u"ὕδωρ"_s, u"東京"_s })
+            QTest::newRow(qPrintable(text));
+    }
+    void aVerbatimFontDiffersInNothingElse()
+    {
+        const QString text = QString::fromUtf8(QTest::currentDataTag());
+        const auto picture = [&](const QFont& font) {
+            QLabel label(text);
+            label.setFont(font);
+            label.resize(200, 30);
+            return label.grab().toImage();
+        };
+        QVERIFY(picture(verbatimFont(13)) == picture(sansFont(13)));
+        QVERIFY(picture(verbatimFont(15, QFont::DemiBold)) == picture(sansFont(15, QFont::DemiBold)));
+        QVERIFY(picture(verbatimMonoFont(13)) == picture(monoFont(13)));
+        QVERIFY(picture(sansFont(13)) != picture(sansFont(15)));
+    }
+
+    void aDamagedFontTableIsLeftInItsSize()
+    {
+        const QByteArray whole = QRawFont::fromFont(sansFont(13)).fontTable("GSUB");
+        const QByteArray thinned = VerbatimFonts::withoutOptionalSubstitutions(whole);
+        QCOMPARE(thinned.size(), whole.size());
+        QCOMPARE(VerbatimFonts::withoutOptionalSubstitutions(thinned), thinned);
+        for (qsizetype size = 0; size < qMin<qsizetype>(whole.size(), 500); ++size) {
+            QCOMPARE(VerbatimFonts::withoutOptionalSubstitutions(whole.left(size)).size(), size);
+            QByteArray damaged = whole;
+            damaged[size] = char(~damaged.at(size));
+            QCOMPARE(VerbatimFonts::withoutOptionalSubstitutions(damaged).size(), whole.size());
+        }
     }
 
     void motionIsSeenUnlessItIsUnwanted_data()

@@ -1,6 +1,7 @@
 #include "ui/controls/theme/Metrics.h"
 
 #include "ui/controls/theme/Theme.h"
+#include "ui/controls/theme/VerbatimFonts.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -115,6 +116,16 @@ QFont monoFont(qreal points)
     QFont font = makeFont(family, points, QFont::Normal);
     font.setStyleHint(QFont::Monospace);
     return font;
+}
+
+QFont verbatimFont(qreal points, QFont::Weight weight)
+{
+    return VerbatimFonts::verbatim(sansFont(points, weight));
+}
+
+QFont verbatimMonoFont(qreal points)
+{
+    return VerbatimFonts::verbatim(monoFont(points));
 }
 
 bool motionEnabled(const QWidget* widget)

@@ -23,6 +23,9 @@ qreal pxF(qreal points);
 QFont sansFont(qreal points, QFont::Weight weight = QFont::Normal);
 /// JetBrains Mono when it is installed, else the system's fixed font.
 QFont monoFont(qreal points);
+/// The same two for names of files and folders, tags and what somebody typed: every letter as it is (VerbatimFonts.h).
+QFont verbatimFont(qreal points, QFont::Weight weight = QFont::Normal);
+QFont verbatimMonoFont(qreal points);
 
 /// False when the desktop asks for no animations, or QUORBEL_REDUCE_MOTION is set to anything but 0.
 bool motionEnabled(const QWidget* widget);
