@@ -1,8 +1,8 @@
 #include "app/shell/MainWindowDelegate.h"
 
 #include "app/model/AppModel.h"
+#include "ui/controls/theme/Metrics.h"
 #include "ui/sheets/Sheet.h"
-#include "ui/window/ContentView.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize usualSize{ 1240, 800 };  // device-independent pixels
+constexpr QSize usualSize{ 1240, 800 };  // points
 
 QString geometryKey()
 {
@@ -35,11 +35,11 @@ MainWindowDelegate::MainWindowDelegate(AppModel& model, QMainWindow& window, She
 
 void MainWindowDelegate::restoreGeometry()
 {
-    m_window.setMinimumSize(ContentView::minimumWindow);
     if (m_window.restoreGeometry(m_model.preferences().store().value(geometryKey()).toByteArray()))
         return;
     const QSize screen = m_window.screen() ? m_window.screen()->availableSize() : usualSize;
-    m_window.resize(usualSize.boundedTo(screen * 9 / 10).expandedTo(ContentView::minimumWindow));
+    const QSize wanted(px(usualSize.width()), px(usualSize.height()));
+    m_window.resize(wanted.boundedTo(screen * 9 / 10).expandedTo(m_window.minimumSize()));
 }
 
 void MainWindowDelegate::quit()

@@ -58,7 +58,8 @@ void TwoLineLabel::breakText()
     const int width = contentsRect().width();
     const QFontMetrics metrics(font());
     m_lines = { text() };
-    if (metrics.horizontalAdvance(text()) > width)
+    // Not rounded: what is a fraction of a pixel too wide is shortened when it is drawn.
+    if (QFontMetricsF(font()).horizontalAdvance(text()) > width)
         m_lines = brokenIntoLines(text(), font(), width, LineBreaks::words, 2);
     const bool fits = metrics.horizontalAdvance(m_lines.constLast()) <= width;
     setToolTip(fits ? QString() : text());

@@ -253,6 +253,13 @@ void KeywordEditor::updateHeight()
     m_flow->setGeometry(rect());
 }
 
+bool KeywordEditor::event(QEvent* event)
+{
+    if (event->type() == QEvent::LayoutRequest)  // chips have another size
+        updateHeight();
+    return QWidget::event(event);
+}
+
 void KeywordEditor::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);

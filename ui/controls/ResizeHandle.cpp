@@ -74,7 +74,7 @@ void ResizeHandle::mousePressEvent(QMouseEvent* event)
 void ResizeHandle::mouseMoveEvent(QMouseEvent* event)
 {
     if (m_dragStart)
-        change(*m_dragStart + event->globalPosition().x() - m_pressX);
+        change(*m_dragStart + (event->globalPosition().x() - m_pressX) / textScale());
 }
 
 void ResizeHandle::mouseReleaseEvent(QMouseEvent*)

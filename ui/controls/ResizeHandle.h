@@ -15,7 +15,7 @@ class ResizeHandle final : public QWidget {
 
 public:
     ResizeHandle(double width, double minWidth, double maxWidth, double defaultWidth, QWidget* parent = nullptr);
-    double columnWidth() const { return m_width; }  ///< device-independent pixels
+    double columnWidth() const { return m_width; }  ///< points
     double minWidth() const { return m_minWidth; }
     double maxWidth() const { return m_maxWidth; }
     /// As a user's choice: takes the width, clamped, and emits both signals.

@@ -3,6 +3,7 @@
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
+#include "ui/controls/theme/TextLines.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/PhotoHeader.h"
 
@@ -61,8 +62,9 @@ void BatchBanner::paintEvent(QPaintEvent*)
     painter.setOpacity(1);
     painter.setFont(sansFont(15, QFont::DemiBold));
     const qreal left = iconBox.right() + pxF(gap);
-    const qreal top = (height() - pxF(38)) / 2;
     const qreal width = this->width() - left - pxF(18);
+    const QStringList hint = brokenIntoLines(bannerHint(), sansFont(12), int(width), LineBreaks::words, 2);
+    const qreal top = (height() - pxF(21 + 17 * int(hint.size()))) / 2;
     const auto line = [&](qreal y, qreal height, const QString& text) {
         painter.drawText(QRectF(left, y, width, height), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
             painter.fontMetrics().elidedText(text, Qt::ElideRight, int(width)));
@@ -70,7 +72,8 @@ void BatchBanner::paintEvent(QPaintEvent*)
     line(top, pxF(20), m_title);
     painter.setOpacity(.7);
     painter.setFont(sansFont(12));
-    line(top + pxF(21), pxF(17), bannerHint());
+    for (qsizetype i = 0; i < hint.size(); ++i)
+        line(top + pxF(21 + 17 * int(i)), pxF(17), hint.at(i));
 }
 
 }  // namespace Quorbel

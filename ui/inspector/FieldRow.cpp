@@ -21,6 +21,8 @@ constexpr qreal labelWidth = 104;
 constexpr qreal rowHeight = 30;
 constexpr qreal firstLineDrop = 3;  // of a text area's first line below that of a text field
 constexpr qreal lineGap = 4;
+constexpr qreal stackedBelow = 370;  // narrower rows have their label over the editor
+constexpr qreal stackedLabel = 20;
 }  // namespace
 
 FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
@@ -40,20 +42,49 @@ FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
     m_column->addWidget(m_editor.widget);
     m_column->addStretch();
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    onRestyle(this, [this] {
-        const int drop = m_multiline ? px(firstLineDrop) : 0;
-        m_label->setContentsMargins(0, drop, 0, 0);
-        m_label->setFixedSize(px(labelWidth), px(rowHeight) + drop);
-        m_line->setSpacing(px(gap));
-        m_column->setSpacing(px(lineGap));
-        if (m_tick)
-            m_tick->setFixedSize(px(16), px(rowHeight) + 2 * drop);
-    });
+    onRestyle(this, [this] { restyle(); });
+}
+
+void FieldRow::restyle()
+{
+    const int drop = m_multiline && !m_stacked ? px(firstLineDrop) : 0;
+    const int height = px(m_stacked ? stackedLabel : rowHeight);
+    m_label->setContentsMargins(0, drop, 0, 0);
+    m_label->setFixedHeight(height + drop);
+    m_label->setMinimumWidth(m_stacked ? 0 : px(labelWidth));
+    m_label->setMaximumWidth(m_stacked ? QWIDGETSIZE_MAX : px(labelWidth));
+    m_line->setSpacing(px(gap));
+    m_column->setSpacing(px(lineGap));
+    if (m_tick)
+        m_tick->setFixedSize(px(16), height + 2 * drop);
+    setStacked(width() < px(stackedBelow));
+}
+
+void FieldRow::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    setStacked(width() < px(stackedBelow));
+}
+
+void FieldRow::setStacked(bool stacked)
+{
+    if (stacked == std::exchange(m_stacked, stacked))
+        return;
+    if (stacked) {
+        m_line->removeWidget(m_label);
+        m_column->insertWidget(0, m_label);
+    } else {
+        m_column->removeWidget(m_label);
+        m_line->insertWidget(m_tick ? 1 : 0, m_label, 0, Qt::AlignTop);
+    }
+    restyle();
+    if (parentWidget())
+        parentWidget()->update();  // it paints the dot
 }
 
 int FieldRow::dotCenter() const
 {
-    return px(rowHeight) / 2 + (m_multiline ? px(firstLineDrop) : 0);
+    return m_stacked ? px(stackedLabel) / 2 : px(rowHeight) / 2 + (m_multiline ? px(firstLineDrop) : 0);
 }
 
 QList<QWidget*> FieldRow::tabStops() const
@@ -86,7 +117,7 @@ void FieldRow::showTick()
     if (m_state.batch && !m_tick) {
         m_tick = new QBCheckbox(this);
         m_tick->setAmber(true);
-        m_tick->setFixedSize(px(16), px(rowHeight) + (m_multiline ? 2 * px(firstLineDrop) : 0));
+        restyle();
         m_line->insertWidget(0, m_tick, 0, Qt::AlignTop);
         connect(m_tick, &QAbstractButton::clicked, this, &FieldRow::tickClicked);
         emit tabStopsChanged();
@@ -132,7 +163,7 @@ void FieldRow::showLine(Line which, const QString& text)
         line->setMono(tags);
         line->setVerbatim(tags);
         const auto above = std::count_if(m_lines.cbegin(), m_lines.cbegin() + int(which), [](auto* l) { return l; });
-        m_column->insertWidget(1 + int(above), line);  // behind the editor
+        m_column->insertWidget(m_column->indexOf(m_editor.widget) + 1 + int(above), line);  // behind the editor
     }
     line->setText(text);
     line->setVisible(!text.isEmpty());

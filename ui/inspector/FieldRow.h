@@ -47,7 +47,12 @@ signals:
     /// A tab stop was made after the row was.
     void tabStopsChanged();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void restyle();
+    void setStacked(bool stacked);
     void showTick();
     void showRemove();
     void showLines();
@@ -56,6 +61,7 @@ private:
     void showLine(Line which, const QString& text);
 
     bool m_multiline;
+    bool m_stacked = false;  ///< the label stands over the editor, not beside it
     RowEditor m_editor;
     FieldRowState m_state{};
     QHBoxLayout* m_line;

@@ -8,6 +8,7 @@
 
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QResizeEvent>
 
 namespace Quorbel {
 
@@ -20,6 +21,14 @@ constexpr qreal barHeight = 54;
 constexpr qreal side = 20;
 constexpr qreal gap = 8;
 constexpr qreal dotSize = 6;
+constexpr qreal narrowBelow = 430;
+constexpr qreal narrowHeight = 78;
+constexpr qreal narrowTop = 8;
+
+bool isNarrow(int width)
+{
+    return width < px(narrowBelow);
+}
 
 void setTitle(QBButton* button, const QString& title)
 {
@@ -34,24 +43,47 @@ void setTitle(QBButton* button, const QString& title)
 InspectorFooter::InspectorFooter(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
+    , m_line(new QBoxLayout(QBoxLayout::LeftToRight, this))
     , m_unsaved(new TwoLineLabel(TextRole::label, 12))
     , m_rename(new QBButton(u"Rename…"_s, QBButtonKind::secondary))
     , m_add(new QBButton(u"Add field"_s, QBButtonKind::dashed))
     , m_save(new QBButton(u"Save"_s, QBButtonKind::primary))
 {
-    auto* line = new QHBoxLayout(this);
+    auto* buttons = new QHBoxLayout;
     m_unsaved->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    line->addWidget(m_unsaved, 1);
+    m_line->addWidget(m_unsaved, 1);
+    m_line->addLayout(buttons);
     for (QBButton* button : { m_rename, m_add, m_save })
-        line->addWidget(button);
+        buttons->addWidget(button);
     connect(m_rename, &QAbstractButton::clicked, this, [this] { m_model.setRenameOpen(true); });
     connect(m_add, &QAbstractButton::clicked, this, [this] { m_model.setAddOpen(true); });
     connect(m_save, &QAbstractButton::clicked, this, [this] { m_model.requestSave(); });
-    onRestyle(this, [this, line] {
-        setFixedHeight(px(barHeight));
-        line->setContentsMargins(px(side), 1, px(side), 0);
-        line->setSpacing(px(gap));
+    onRestyle(this, [this, buttons] {
+        buttons->setSpacing(px(gap));
+        m_line->setSpacing(px(gap));
+        arrange();
     });
+}
+
+int InspectorFooter::heightFor(int width)
+{
+    return px(isNarrow(width) ? narrowHeight : barHeight);
+}
+
+void InspectorFooter::arrange()
+{
+    const bool narrow = isNarrow(width());
+    m_line->setDirection(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_line->setContentsMargins(px(side), narrow ? px(narrowTop) : 1, px(side), narrow ? px(narrowTop) : 0);
+    setFixedHeight(heightFor(width()));
+    update();
+}
+
+void InspectorFooter::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (event->oldSize().width() != width())
+        arrange();
 }
 
 QList<QWidget*> InspectorFooter::tabStops() const
@@ -88,7 +120,8 @@ void InspectorFooter::paintEvent(QPaintEvent*)
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme.amber);
     const qreal dot = pxF(dotSize);
-    painter.drawEllipse(QRectF(pxF(side), (height() + 1 - dot) / 2, dot, dot));
+    const qreal top = isNarrow(width()) ? m_unsaved->geometry().center().y() - dot / 2 : (height() + 1 - dot) / 2;
+    painter.drawEllipse(QRectF(pxF(side), top, dot, dot));
 }
 
 }  // namespace Quorbel

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+class QBoxLayout;
+
 namespace Quorbel {
 
 class AppModel;
@@ -19,14 +21,20 @@ public:
     explicit InspectorFooter(AppModel& model, QWidget* parent = nullptr);
     /// Reads the model again. Without a photo to edit the bar stays empty.
     void refresh(bool hasPhoto);
+    /// In pixels, of a footer this many pixels wide: a narrow one has its text above the buttons.
+    static int heightFor(int width);
     /// From the left.
     QList<QWidget*> tabStops() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void arrange();
+
     AppModel& m_model;
+    QBoxLayout* m_line;
     TwoLineLabel* m_unsaved;
     QBButton* m_rename;
     QBButton* m_add;

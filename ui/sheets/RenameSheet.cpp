@@ -22,20 +22,37 @@ namespace {
 
 // Points.
 constexpr qreal renameWidth = 440;
-constexpr int chipGap = 6;
+constexpr qreal chipGap = 6;
 constexpr qreal buttonsAbove = 22;
 
 // The token chips, as high as their lines.
 class TokenFlow final : public QWidget {
 public:
-    TokenFlow() { new FlowLayout(px(chipGap), this); }
+    TokenFlow()
+    {
+        auto* flow = new FlowLayout(px(chipGap), this);
+        onRestyle(this, [this, flow] {
+            flow->setSpacing(px(chipGap));
+            fit();
+        });
+    }
 
 protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)  // chips have another size
+            fit();
+        return QWidget::event(event);
+    }
+
     void resizeEvent(QResizeEvent* event) override
     {
         QWidget::resizeEvent(event);
-        setFixedHeight(layout()->heightForWidth(width()));
+        fit();
     }
+
+private:
+    void fit() { setFixedHeight(layout()->heightForWidth(width())); }
 };
 
 }  // namespace
@@ -66,6 +83,7 @@ RenameSheet::RenameSheet(AppModel& model, QWidget* parent)
     column->addLayout(sheetButtonRow(this, { dismiss, m_rename }));
     frameSheet(this, column, renameWidth);
     m_problem->setElided(true);
+    m_problem->setVerbatim(true);
     m_problem->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     // The line stands in the gap above the buttons: nothing moves when it appears.
     onRestyle(this, [this] { m_problem->setFixedHeight(px(buttonsAbove)); });

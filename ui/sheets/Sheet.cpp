@@ -1,6 +1,7 @@
 #include "ui/sheets/Sheet.h"
 
 #include "ui/controls/Accessibility.h"
+#include "ui/controls/ScrollArea.h"
 #include "ui/controls/theme/AnimatedValue.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Shadow.h"
@@ -44,6 +45,7 @@ public:
         auto* column = new QVBoxLayout(this);
         column->setSpacing(0);
         column->addWidget(body);
+        body->installEventFilter(this);
         onRestyle(this, [this, column] { column->setContentsMargins(0, hasTitle() ? px(titleHeight) : 0, 0, 0); });
         describeAs(staticMetaObject, QAccessible::Dialog);
         setAccessibleName(hasTitle() ? body->title() : body->accessibleName());
@@ -62,12 +64,20 @@ public:
 
     qreal shown() const { return m_shown.value(); }
 
-    // Centred in the host, and inside it wherever it fits.
+    void reveal(QWidget* focus)
+    {
+        if (m_scroll)
+            m_scroll->ensureWidgetVisible(focus, 0, px(sheetPadding) / 2);
+    }
+
+    // Centred in the host. In a low one the body gives way as far as it can, and then scrolls.
     void place()
     {
         const QWidget* host = parentWidget();
-        const QSize size = sizeHint().expandedTo(minimumSizeHint());
         const int margin = px(windowMargin);
+        const int room = host->height() - 2 * margin;
+        setScrolled(leastHeight() > room);
+        const QSize size = m_scroll ? QSize(bodyWidth(), room) : sizeHint().expandedTo(minimumSizeHint());
         const int y = qMax(margin, (host->height() - size.height()) / 2);
         setGeometry(qMax(0, (host->width() - size.width()) / 2), y + qRound((1 - shown()) * px(rise)), size.width(),
             qMin(size.height(), host->height() - 2 * margin));
@@ -98,6 +108,13 @@ protected:
         if (event->type() == QEvent::LayoutRequest)
             place();
         return QWidget::event(event);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest && m_scroll)
+            place();
+        return QWidget::eventFilter(watched, event);
     }
 
     void keyPressEvent(QKeyEvent* event) override
@@ -153,6 +170,38 @@ private:
             m_body->title());
     }
 
+    int bodyWidth() const { return qMax(m_body->minimumWidth(), m_body->minimumSizeHint().width()); }
+
+    int leastHeight() const
+    {
+        const QLayout* body = m_body->layout();
+        const bool wraps = body && body->hasHeightForWidth();
+        const int height = wraps ? body->totalHeightForWidth(bodyWidth()) : m_body->minimumSizeHint().height();
+        return layout()->contentsMargins().top() + height;
+    }
+
+    void setScrolled(bool scrolled)
+    {
+        if (scrolled == (m_scroll != nullptr))
+            return;
+        QWidget* focus = QApplication::focusWidget();
+        if (!focus || !m_body->isAncestorOf(focus))
+            focus = nullptr;
+        if (scrolled) {
+            layout()->removeWidget(m_body);
+            m_scroll = new ScrollArea;
+            m_scroll->setFocusPolicy(Qt::NoFocus);
+            m_scroll->setContent(m_body);
+            layout()->addWidget(m_scroll);
+        } else {
+            layout()->addWidget(m_scroll->takeWidget());
+            std::exchange(m_scroll, nullptr)->deleteLater();
+        }
+        m_body->show();
+        if (focus)
+            focus->setFocus(Qt::OtherFocusReason);
+    }
+
     void showStep()
     {
         if (auto* effect = static_cast<QGraphicsOpacityEffect*>(graphicsEffect()))
@@ -162,6 +211,7 @@ private:
     }
 
     SheetBody* m_body;
+    ScrollArea* m_scroll = nullptr;  // while the body is higher than its room
     AnimatedValue m_shown;
 };
 
@@ -280,7 +330,11 @@ void SheetHost::focusTop()
 
 void SheetHost::keepFocusInside(QWidget* now)
 {
-    if (!m_frames.isEmpty() && now && now->window() == window() && !isAncestorOf(now))
+    if (m_frames.isEmpty() || !now || now->window() != window())
+        return;
+    if (m_frames.last()->body()->isAncestorOf(now))
+        m_frames.last()->reveal(now);
+    else if (!isAncestorOf(now))
         focusTop();
 }
 

@@ -9,15 +9,15 @@ namespace Quorbel {
 
 namespace {
 
-// Pixels: what the preview keeps before the inspector gets more than its least width, and the inspector's greatest
+// Points: what the preview keeps before the inspector gets more than its least width, and the inspector's greatest
 // width beside it. Beyond that only the preview grows.
-constexpr int previewShare = 375;
-constexpr int greatestInspector = 520;
+constexpr qreal previewShare = 375;
+constexpr qreal greatestInspector = 520;
 
 // The inspector's beside a shown preview, for a row `width` wide.
 int inspectorWidth(int width, int sidebar, int handle)
 {
-    return qBound(Columns::minInspector, width - sidebar - handle - previewShare, greatestInspector);
+    return qBound(px(Columns::minInspector), width - sidebar - handle - px(previewShare), px(greatestInspector));
 }
 
 }  // namespace
@@ -37,16 +37,23 @@ ColumnRow::ColumnRow(QWidget* sidebar, QWidget* inspector, QWidget* preview, dou
     m_preview->hide();
     connect(m_handle, &ResizeHandle::widthChanged, this, &ColumnRow::arrange);
     connect(m_handle, &ResizeHandle::widthSettled, this, &ColumnRow::sidebarWidthSettled);
+    onRestyle(this, [this] { followWidth(); });
 }
 
-double ColumnRow::sidebarWidth() const
+// As wide as the user made it; narrower where text is so large that the inspector would not have its least width, and
+// where that is not enough either, both are too narrow by the same share.
+int ColumnRow::sidebarWidth() const
 {
-    return m_handle->columnWidth();
+    const int least = px(Columns::minSidebar);
+    const int shared = width() - m_handle->sizeHint().width();
+    const int free = shared - px(Columns::minInspector);
+    const int most = free >= least ? free : shared * least / (least + px(Columns::minInspector));
+    return qMax(0, qMin(px(m_handle->columnWidth()), most));
 }
 
 bool ColumnRow::previewShown() const
 {
-    return m_wanted && width() >= Columns::previewThreshold;
+    return m_wanted && width() >= px(Columns::previewThreshold);
 }
 
 void ColumnRow::setPreviewWanted(bool wanted)
@@ -66,7 +73,12 @@ void ColumnRow::slidePreview()
 void ColumnRow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    // A window that crosses the threshold while it is resized takes its new form at once.
+    followWidth();
+}
+
+// A window that crosses the threshold, or whose text does, takes its new form at once.
+void ColumnRow::followWidth()
+{
     if (previewShown() != m_wasShown) {
         m_wasShown = previewShown();
         m_reveal.jumpTo(m_wasShown ? 1 : 0);
@@ -85,7 +97,7 @@ bool ColumnRow::event(QEvent* event)
 void ColumnRow::arrange()
 {
     const int handle = m_handle->sizeHint().width();
-    const int sidebar = qRound(sidebarWidth());
+    const int sidebar = sidebarWidth();
     const int left = sidebar + handle;
     const int rest = width() - left;
     const int beside = inspectorWidth(width(), sidebar, handle);

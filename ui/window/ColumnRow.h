@@ -10,12 +10,12 @@ namespace Quorbel {
 
 class ResizeHandle;
 
-namespace Columns {
+namespace Columns {  // points
 constexpr double minSidebar = 200;
 constexpr double maxSidebar = 420;
 constexpr double defaultSidebar = 288;
-constexpr int previewThreshold = 1100;  ///< row width from which the preview has room
-constexpr int minInspector = 430;
+constexpr qreal previewThreshold = 1100;  ///< row width from which the preview has room
+constexpr qreal minInspector = 430;
 }  // namespace Columns
 
 class ColumnRow final : public QWidget {
@@ -23,7 +23,7 @@ class ColumnRow final : public QWidget {
     Q_DISABLE_COPY_MOVE(ColumnRow)
 
 public:
-    /// Takes the three columns over. `sidebarWidth` is brought into its limits.
+    /// Takes the three columns over. `sidebarWidth`, in points, is brought into its limits.
     ColumnRow(QWidget* sidebar, QWidget* inspector, QWidget* preview, double sidebarWidth, QWidget* parent = nullptr);
 
     bool previewWanted() const { return m_wanted; }
@@ -34,7 +34,7 @@ public:
 
 signals:
     void previewShownChanged(bool shown);
-    /// The user let go of the handle.
+    /// The user let go of the handle. In points.
     void sidebarWidthSettled(double width);
 
 protected:
@@ -42,7 +42,8 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    double sidebarWidth() const;
+    int sidebarWidth() const;
+    void followWidth();
     void arrange();
     void slidePreview();
 

@@ -6,6 +6,7 @@
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/inspector/InspectorFooter.h"
 #include "ui/sheets/Sheet.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/sidebar/SidebarView.h"
@@ -38,13 +39,13 @@ QString previewEnabledKey()
     return u"previewEnabled"_s;
 }
 
-// Pixels beyond the threshold to which a window is grown for the preview, so that the column has room to show
+// Points beyond the threshold to which a window is grown for the preview, so that the column has room to show
 // something.
 constexpr int growthBeyondThreshold = 80;
 // Milliseconds for which expected photos keep the launch view away. It shows their progress, which begins then.
 constexpr int launchPatience = 300;
-// Points: from the banner to the footers, and to the lower edge of the launch view.
-constexpr qreal bannerOverFooter = 54 + 16;
+// Points: from the banner to the inspector's footer, and to the lower edge of the launch view.
+constexpr qreal bannerOverFooter = 16;
 constexpr qreal bannerOverEdge = 20;
 
 // Carries the sidebar's hairlines on across the empty part of the resize handle beside it.
@@ -113,6 +114,10 @@ ContentView::ContentView(
     connect(m_bar, &WindowBar::previewToggled, this, &ContentView::togglePreview);
     connect(m_drop, &FileDrop::targetedChanged, m_launch, &LaunchView::setTargeted);
     connect(m_drop, &FileDrop::dropped, &model, &AppModel::requestLoad);
+    onRestyle(this, [this] {
+        m_window->setMinimumSize(leastWindow(minimumWindow));
+        placeBanner();
+    });
     m_launch->hide();  // until this is shown: it may be for photos only
     showTitle();
 }
@@ -201,11 +206,11 @@ void ContentView::showPreviewState()
 void ContentView::togglePreview()
 {
     buildColumns();
-    const bool wanted = !(m_columns->previewWanted() && m_window->width() >= Columns::previewThreshold);
+    const bool wanted = !(m_columns->previewWanted() && m_window->width() >= px(Columns::previewThreshold));
     m_model.preferences().store().setValue(previewEnabledKey(), wanted);
     m_columns->setPreviewWanted(wanted);
     if (wanted)
-        growWindow(Columns::previewThreshold + growthBeyondThreshold);  // a window that is wide enough stays
+        growWindow(px(Columns::previewThreshold + growthBeyondThreshold));  // a window that is wide enough stays
 }
 
 void ContentView::growWindow(int target)
@@ -280,7 +285,9 @@ const Theme& ContentView::wantedTheme() const
 void ContentView::placeBanner()
 {
     const bool columns = m_columns && !m_columns->isHidden();
-    m_banner->place(height() - px(columns ? bannerOverFooter : bannerOverEdge));
+    const int under =
+        columns ? InspectorFooter::heightFor(m_inspector->width()) + px(bannerOverFooter) : px(bannerOverEdge);
+    m_banner->place(height() - under);
     if (m_inspector && m_factories.setInspectorInset)
         m_factories.setInspectorInset(m_inspector, m_banner->isHidden() ? 0 : m_banner->height() + px(2 * 16));
 }

@@ -37,7 +37,7 @@ class ContentView final : public QWidget {
     Q_DISABLE_COPY_MOVE(ContentView)
 
 public:
-    static constexpr QSize minimumWindow{ 900, 600 };
+    static constexpr QSize minimumWindow{ 900, 600 };  ///< points; the window gets it as its minimum
 
     /// `window` is the top-level widget that this view is about to be placed in: it takes the drops, the sheets and
     /// the theme. The store may be null. Everything passed in must outlive this.

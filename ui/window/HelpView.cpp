@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Points.
-constexpr QSizeF smallestWindow{ 720, 480 };
+constexpr QSize smallestWindow{ 720, 480 };
 constexpr qreal narrowestTopics = 200;
 constexpr qreal usualTopics = 220;
 constexpr qreal widestTopics = 260;
@@ -192,7 +192,10 @@ public:
         viewport()->setAutoFillBackground(false);
         for (const HelpTopic topic : allCases<HelpTopic>())
             addItem(title(topic));
-        onRestyle(this, [this] { setViewportMargins(px(8), px(10), px(8), px(10)); });
+        onRestyle(this, [this] {
+            setViewportMargins(px(8), px(10), px(8), px(10));
+            scheduleDelayedItemsLayout();
+        });
     }
 };
 
@@ -206,7 +209,7 @@ HelpView::HelpView(QWidget* parent)
         if (row >= 0)
             select(allCases<HelpTopic>().at(row));
     });
-    onRestyle(this, [this] { setMinimumSize(px(smallestWindow.width()), px(smallestWindow.height())); });
+    onRestyle(this, [this] { setMinimumSize(leastWindow(smallestWindow)); });
     showTopic();
 }
 
@@ -226,9 +229,23 @@ void HelpView::showTopic()
     m_page->setAccessibleName(title(m_selection));
 }
 
+bool HelpView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ApplicationFontChange) {
+        showTopic();  // the page was made for the old size
+        arrange();
+    }
+    return SideWindow::event(event);
+}
+
 void HelpView::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    arrange();
+}
+
+void HelpView::arrange()
+{
     const int topics = qBound(px(narrowestTopics), qMax(px(usualTopics), width() / 5), px(widestTopics));
     m_topics->setGeometry(0, 0, topics, height());
     m_page->setGeometry(topics + 1, 0, width() - topics - 1, height());

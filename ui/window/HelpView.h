@@ -17,12 +17,14 @@ public:
     explicit HelpView(QWidget* parent = nullptr);
 
 protected:
+    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void select(HelpTopic topic);
     void showTopic();
+    void arrange();
 
     HelpTopic m_selection = HelpTopic::gettingStarted;
     TopicList* m_topics;

@@ -19,6 +19,7 @@ namespace {
 
 // Points.
 constexpr QSizeF boxSize{ 420, 218 };
+constexpr qreal leastBoxHeight = 112;
 constexpr qreal boxRadius = 18;
 constexpr qreal iconSize = 62;
 constexpr qreal iconStroke = 1.15;  // in the icon's own 24×24 drawing
@@ -51,8 +52,14 @@ public:
     {
         setObjectName(u"dropBox"_s);
         setAccessibleName(text());
-        onRestyle(this, [this] { setFixedSize(px(boxSize.width()), px(boxSize.height())); });
+        onRestyle(this, [this] {
+            setFixedWidth(px(boxSize.width()));
+            setMinimumHeight(px(leastBoxHeight));  // in a window that is low for its text
+            setMaximumHeight(px(boxSize.height()));
+        });
     }
+
+    QSize sizeHint() const override { return { px(boxSize.width()), px(boxSize.height()) }; }
 
     void setTargeted(bool targeted)
     {

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Points.
-constexpr QSizeF windowSize{ 460, 320 };
+constexpr QSize windowSize{ 460, 320 };
 constexpr qreal sidePadding = 20;
 constexpr qreal groupRadius = 9;
 constexpr qreal rowHeight = 40;
@@ -127,7 +127,7 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     whole->addWidget(area);
     onRestyle(this, [this, column] {
         column->setContentsMargins(px(sidePadding), px(14), px(sidePadding), px(14));
-        setMinimumSize(sizeHint());
+        setMinimumSize(leastWindow(windowSize));
     });
     setFocus();  // nothing looks chosen before anybody chose it
 }

@@ -24,6 +24,7 @@ constexpr qreal titleTop = 9;
 constexpr qreal titleHeight = 18;
 constexpr qreal subtitleHeight = 15;
 constexpr qreal titleGap = 16;  // at least, to menus and tools
+constexpr qreal leastTitle = 60;  // in less than that nothing could be read
 
 }  // namespace
 
@@ -145,6 +146,8 @@ void WindowBar::paintTitles(QPainter& painter) const
     const int side =
         qMax(m_menus ? m_menus->geometry().right() : 0, width() - m_tools->geometry().left()) + px(titleGap);
     QRect line(side, px(titleTop), width() - 2 * side, px(titleHeight));
+    if (line.width() < px(leastTitle))
+        return;
     // The folder's name; the program's own comes before there is a reason to copy a font.
     const bool isName = !m_model.folderName().isEmpty();
     painter.setFont(isName ? verbatimFont(13, QFont::DemiBold) : sansFont(13, QFont::DemiBold));

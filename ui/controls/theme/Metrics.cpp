@@ -104,6 +104,13 @@ qreal pxF(qreal points)
     return points * textScale();
 }
 
+QSize leastWindow(QSize points)
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QSize room = (screen ? screen->availableSize() : points).expandedTo(points);
+    return QSize(px(points.width()), px(points.height())).boundedTo(room);
+}
+
 QFont sansFont(qreal points, QFont::Weight weight)
 {
     static const QString family = installedFamily(u"Inter"_s, QFontDatabase::GeneralFont);

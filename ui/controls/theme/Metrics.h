@@ -5,6 +5,7 @@
 
 #include <QFont>
 #include <QObject>
+#include <QSize>
 
 #include <functional>
 
@@ -18,6 +19,8 @@ qreal textScale();
 int px(qreal points);
 /// The same, not rounded: for what is painted.
 qreal pxF(qreal points);
+/// A window's least size, of the design's points: no larger than the screen where text is larger than usual.
+QSize leastWindow(QSize points);
 
 /// Inter when it is installed, else the system's font. `points` are the design's.
 QFont sansFont(qreal points, QFont::Weight weight = QFont::Normal);

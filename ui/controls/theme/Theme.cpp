@@ -1,6 +1,7 @@
 #include "ui/controls/theme/Theme.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QVariant>
 #include <QWidget>
 
@@ -102,6 +103,42 @@ Theme makeTheme(bool dark)
     return theme;
 }
 
+// Sends an event to everything inside a widget, but to no window of its own.
+void tellInside(QWidget* root, QEvent::Type type)
+{
+    // One may delete another.
+    const QList<QWidget*> found = root->findChildren<QWidget*>();
+    const QList<QPointer<QWidget>> widgets(found.cbegin(), found.cend());
+    for (const QPointer<QWidget>& widget : widgets) {
+        if (!widget || widget->isWindow())
+            continue;
+        QEvent event(type);
+        QApplication::sendEvent(widget, &event);
+        if (widget)
+            widget->update();
+    }
+}
+
+// Tells what is inside a window of a new font of the desktop: Qt tells windows alone, and of a change of the desktop's
+// theme, which may have brought it, nobody as a font's.
+class FontWatch final : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* window = static_cast<QWidget*>(watched);
+        if (event->type() == QEvent::ThemeChange) {
+            QEvent change(QEvent::ApplicationFontChange);
+            QApplication::sendEvent(window, &change);
+        } else if (event->type() == QEvent::ApplicationFontChange) {
+            tellInside(window, event->type());
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 }  // namespace
 
 const Theme& Theme::light()
@@ -137,6 +174,8 @@ void setTheme(QWidget* root, const Theme& theme)
     const QVariant old = root->property(themeProperty);
     if (old.isValid() && *old.value<ThemePointer>() == theme)
         return;
+    if (!old.isValid() && root->isWindow())
+        root->installEventFilter(new FontWatch(root));
     root->setProperty(themeProperty, QVariant::fromValue(ThemePointer(std::make_shared<const Theme>(theme))));
     root->setPalette(paletteFor(theme));
     QList<QWidget*> widgets = root->findChildren<QWidget*>();

@@ -86,7 +86,8 @@ struct Theme {
 /// An opaque colour from six hexadecimal digits, red first: "9a7a1c".
 QColor colorFromHex(const QString& hex);
 /// Gives a widget, normally a window, and everything inside it a theme: sets its palette, sends every descendant a
-/// themeChangeEvent() and repaints it. Does nothing when the theme is the same.
+/// themeChangeEvent() and repaints it. Does nothing when the theme is the same. From the first time on, everything inside
+/// a window also gets ApplicationFontChange when the desktop's font changes, which Qt sends to windows alone.
 void setTheme(QWidget* root, const Theme& theme);
 /// Sent to every widget whose ambient theme changed.
 QEvent::Type themeChangeEvent();

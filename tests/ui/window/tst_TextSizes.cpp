@@ -1,0 +1,298 @@
+// The whole window at the sizes of text that a desktop offers: nothing is cut off, shortened or covered that is not at
+// the usual size. QT_SCALE_FACTOR is the caller's: the test is run once for each of several.
+#include "tests/ui/LayoutAudit.h"
+#include "tests/ui/inspector/InspectorFixture.h"
+#include "tests/ui/window/WindowFixture.h"
+#include "ui/controls/ThemedMenuBar.h"
+#include "ui/sheets/AddFieldSheet.h"
+#include "ui/sheets/MessageSheet.h"
+#include "ui/sheets/RenameSheet.h"
+#include "ui/sheets/SaveDialogView.h"
+#include "ui/window/HelpView.h"
+#include "ui/window/SettingsView.h"
+
+#include <QListWidget>
+#include <QMenu>
+#include <QRegularExpression>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Scenes = QMap<QString, LayoutAudit>;
+
+const QString longMessage = u"Saved 2 of 3 photos. 2x3_b.jpg: Error: Not a valid JPG (looks more like a TXT). The "
+                            "other photos hold what you typed, and nothing was lost."_s;
+
+void setTextSize(qreal points)
+{
+    QFont font = QApplication::font();
+    font.setPointSizeF(points);
+    QApplication::setFont(font);
+}
+
+// A window of the program over the photos of a fixture.
+std::unique_ptr<QMainWindow> makeWindow(InspectorFixture& f, SystemScheme& scheme, QSize size)
+{
+    auto window = std::make_unique<QMainWindow>();
+    ContentFactories factories;
+    factories.inspector = [&f](QWidget* parent) {
+        return new InspectorView(f.model(), nullptr, &f.places, &f.maps, parent);
+    };
+    factories.addField = [&f] { return new AddFieldSheet(f.model()); };
+    factories.save = [&f] { return new SaveDialogView(f.model()); };
+    factories.rename = [&f] { return new RenameSheet(f.model()); };
+    factories.setInspectorInset = [](QWidget* inspector, int pixels) {
+        static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
+    };
+    auto* content = new ContentView(f.model(), nullptr, scheme, window.get(), factories);
+    window->setMenuWidget(content->bar());
+    window->setCentralWidget(content);
+    for (const QString& title : { u"&File"_s, u"&Edit"_s, u"&View"_s, u"&Help"_s })
+        content->bar()->menuBar()->addMenu(new QMenu(title, content->bar()));
+    window->resize(size);
+    return window;
+}
+
+class Walk {
+public:
+    Walk(InspectorFixture& photos, InspectorFixture& none, QSize size)
+        : m_photos(photos)
+        , m_size(size)
+        , m_window(makeWindow(photos, m_scheme, size))
+        , m_empty(makeWindow(none, m_scheme, size))
+        , m_settings(new SettingsView(photos.model(), nullptr))
+        , m_help(new HelpView)
+    {
+        for (QWidget* shown : QList<QWidget*>{ m_window.get(), m_empty.get(), m_settings.get(), m_help.get() })
+            shown->show();
+        for (QWidget* second : QList<QWidget*>{ m_settings.get(), m_help.get() })
+            setTheme(second, Theme::light());
+        settle();
+    }
+
+    // Looks at everything, and leaves the photos as they were.
+    Scenes scenes()
+    {
+        Scenes seen;
+        settle();
+        seen.insert(u"empty"_s, audit(m_empty.get()));
+        seen.insert(u"settings"_s, audit(m_settings.get()));
+        auto* topics = m_help->findChild<QListWidget*>();
+        for (int row = 0; row < topics->count(); ++row) {
+            topics->setCurrentRow(row);
+            settle();
+            seen.insert(u"help: "_s + topics->item(row)->text(), audit(m_help.get()));
+        }
+        single(seen);
+        batch(seen);
+        return seen;
+    }
+
+private:
+    // A window that grew for larger text is looked at in the size that is asked for.
+    void settle() const
+    {
+        for (QMainWindow* window : { m_window.get(), m_empty.get() }) {
+            window->setMinimumSize(0, 0);
+            window->resize(m_size);
+        }
+        for (int i = 0; i < 4; ++i)
+            InspectorFixture::settle();
+    }
+
+    void look(Scenes& seen, const QString& name)
+    {
+        settle();
+        if (const QString folder = qEnvironmentVariable("QUORBEL_TEST_PICTURES"); !folder.isEmpty())
+            m_window->grab().save(
+                u"%1/%2-%3-%4pt.png"_s.arg(folder, name).arg(m_size.width()).arg(QApplication::font().pointSizeF()));
+        seen.insert(name, audit(m_window.get()));
+    }
+
+    void single(Scenes& seen)
+    {
+        AppModel& model = m_photos.model();
+        m_photos.click(u"1x1_a.jpg"_s);
+        look(seen, u"one photo"_s);
+        model.setSingle(u"title"_s, u"Last 5x7 light"_s);
+        model.setSingle(u"creator"_s, u"Mara"_s);
+        look(seen, u"edited"_s);
+        model.setErrorMessage(longMessage);
+        look(seen, u"banner"_s);
+        model.setErrorMessage(std::nullopt);
+        model.setAddOpen(true);
+        look(seen, u"add a field"_s);
+        model.setAddOpen(false);
+        model.requestSave();
+        look(seen, u"save"_s);
+        model.discardSaveDialog();
+        model.setRenameOpen(true);
+        look(seen, u"rename"_s);
+        model.setRenameOpen(false);
+        model.preferences().showNamespace.set(true);
+        look(seen, u"tags"_s);
+        model.preferences().showNamespace.set(false);
+        auto* host = m_window->findChild<SheetHost*>();
+        presentMessage(
+            *host, u"tag"_s, u"Replace the file?"_s, longMessage, { u"Keep both"_s, u"Replace"_s, u"Cancel"_s }, {});
+        look(seen, u"message"_s);
+        host->dismiss(host->current());
+    }
+
+    void batch(Scenes& seen)
+    {
+        AppModel& model = m_photos.model();
+        model.selectAllPhotos();
+        look(seen, u"batch"_s);
+        model.setBatch(u"copyright"_s, u"© 2024 Mara Lindqvist"_s);
+        model.setBatch(
+            u"description"_s, u"A 6x6 of still water after a clear October day, looking south from the bank."_s);
+        model.addBatchListItem(u"keywords"_s, u"9x9"_s);
+        look(seen, u"batch, edited"_s);
+        model.requestSave();
+        look(seen, u"apply"_s);
+        model.cancelSaveDialog();
+        model.toggleBatchInclude(u"copyright"_s);
+        model.toggleBatchInclude(u"description"_s);
+        model.clearBatchList(u"keywords"_s);
+        m_photos.click(u"1x1_a.jpg"_s);
+    }
+
+    InspectorFixture& m_photos;
+    QSize m_size;
+    SystemScheme m_scheme;
+    std::unique_ptr<QMainWindow> m_window;
+    std::unique_ptr<QMainWindow> m_empty;
+    std::unique_ptr<SettingsView> m_settings;
+    std::unique_ptr<HelpView> m_help;
+};
+
+}  // namespace
+
+class tst_TextSizes : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init() { failOnWarnings(); }
+    void cleanup() { setTextSize(10); }
+    void theAuditFindsWhatIsWrong();
+    void namesAndValuesAreDrawnAsTheyAre();
+    void nothingIsLostAtAnySize_data();
+    void nothingIsLostAtAnySize();
+
+private:
+    std::unique_ptr<InspectorFixture> m_photos;
+    std::unique_ptr<InspectorFixture> m_none;
+    QMap<int, Scenes> m_usual;  // by the window's width
+};
+
+void tst_TextSizes::initTestCase()
+{
+    setTextSize(10);
+    m_photos = std::make_unique<InspectorFixture>();
+    m_none = std::make_unique<InspectorFixture>();
+    m_photos->add(u"1x1_a.jpg"_s,
+        { u"-XMP-dc:Title=Evening by the lake"_s, u"-EXIF:DateTimeOriginal=2024:10:12 17:48:00"_s,
+            u"-EXIF:OffsetTimeOriginal=+02:00"_s, u"-IPTC:Keywords=lake"_s, u"-IPTC:Keywords=13x18"_s,
+            u"-XMP-dc:Creator=Mara Lindqvist"_s, u"-XMP-photoshop:City=Zürich"_s, u"-GPSLatitude=47.3769"_s,
+            u"-GPSLatitudeRef=N"_s, u"-GPSLongitude=8.5417"_s, u"-GPSLongitudeRef=E"_s, u"-XMP:Rating=4"_s,
+            u"-EXIF:Model=E-M5MarkIII"_s, u"-EXIF:Make=OLYMPUS"_s, u"-EXIF:LensModel=M.12-40mm F2.8"_s,
+            u"-EXIF:ISO=200"_s, u"-EXIF:ExposureTime=1/60"_s, u"-EXIF:FNumber=5.6"_s, u"-EXIF:FocalLength=17"_s });
+    m_photos->add(u"2x3_b.jpg"_s, { u"-XMP-dc:Creator=Mara Lindqvist"_s });
+    m_photos->add(u"3x4_c.jpg"_s, { u"-XMP-dc:Title=Other"_s });
+    QVERIFY(m_photos->photos.open());
+    m_photos->model().addKnownField(u"headline"_s);
+    // The second is the narrowest in which the preview takes room from the inspector.
+    for (const QSize size : { QSize(900, 600), QSize(1100, 600), QSize(1600, 1000) })
+        m_usual.insert(size.width(), Walk(*m_photos, *m_none, size).scenes());
+}
+
+// A small window with one of every fault; and the same without.
+void tst_TextSizes::theAuditFindsWhatIsWrong()
+{
+    QWidget window;
+    window.resize(300, 200);
+    auto* cut = new QLabel(u"Cut off at the right"_s, &window);
+    cut->setGeometry(10, 10, 40, 20);
+    auto* whole = new QLabel(u"Whole"_s, &window);
+    whole->setGeometry(10, 40, 200, 20);
+    auto* over = new QLabel(u"Over it"_s, &window);
+    over->setGeometry(100, 45, 150, 20);
+    auto* outside = new QLabel(u"Out"_s, &window);
+    outside->setGeometry(250, 100, 100, 20);
+    auto* field = new QLineEdit(u"2024-10-12 17:48"_s, &window);
+    field->setGeometry(10, 130, 60, 30);
+    window.show();
+    const LayoutAudit bad = audit(&window);
+    QCOMPARE(bad.faults.size(), 3);
+    QCOMPARE(bad.tightFields.size(), 1);
+    cut->resize(200, 20);
+    over->move(100, 70);
+    outside->move(150, 100);
+    field->resize(200, 30);
+    const LayoutAudit good = audit(&window);
+    QCOMPARE(good.faults, QStringList());
+    QCOMPARE(bad.worseThan({ good }), QStringList{ u"does not fit its field: “2024-10-12 17:48”"_s });
+    QVERIFY(good.texts.contains(u"Whole"_s));
+}
+
+void tst_TextSizes::namesAndValuesAreDrawnAsTheyAre()
+{
+    static const QRegularExpression name(u"[0-9]x[0-9]"_s);
+    const Scenes usual = m_usual.value(1600);
+    int drawn = 0;
+    QSet<QString> altered;
+    for (const LayoutAudit& scene : usual) {
+        drawn += int(QStringList(scene.texts.values()).filter(name).size());
+        for (const QString& text : scene.altered)
+            if (text.contains(name))
+                altered.insert(text);
+    }
+    QVERIFY(drawn > 50);
+    QCOMPARE(altered, QSet<QString>());
+}
+
+void tst_TextSizes::nothingIsLostAtAnySize_data()
+{
+    QTest::addColumn<qreal>("points");
+    QTest::addColumn<QSize>("window");
+    QTest::addColumn<bool>("whileRunning");
+    for (const QSize size : { QSize(900, 600), QSize(1600, 1000) }) {
+        for (const qreal points : { 9, 10, 11, 12, 14, 16, 17, 18, 20 })
+            QTest::addRow("%g pt, %d wide", points, size.width()) << points << size << true;
+        for (const qreal points : { 14, 20 })
+            QTest::addRow("%g pt from the start, %d wide", points, size.width()) << points << size << false;
+    }
+}
+
+void tst_TextSizes::nothingIsLostAtAnySize()
+{
+    QFETCH(qreal, points);
+    QFETCH(QSize, window);
+    QFETCH(bool, whileRunning);
+    if (!whileRunning)
+        setTextSize(points);
+    Walk walk(*m_photos, *m_none, window);
+    setTextSize(points);
+    const Scenes seen = walk.scenes();
+    QMap<QString, QString> faults;  // and a scene that each is seen in
+    for (auto scene = seen.cbegin(); scene != seen.cend(); ++scene) {
+        const QList<LayoutAudit> usual{ m_usual.value(window.width()).value(scene.key()),
+            m_usual.value(1100).value(scene.key()) };
+        for (const QString& fault : scene->faults + scene->worseThan(usual))
+            faults.insert(fault, scene.key());
+    }
+    for (auto fault = faults.cbegin(); fault != faults.cend(); ++fault)
+        qInfo().noquote() << fault.value() + u": "_s + fault.key();
+    QCOMPARE(faults.size(), 0);
+}
+
+int main(int argc, char* argv[])
+{
+    return runOnLargeScreen<tst_TextSizes>(argc, argv);
+}
+#include "tst_TextSizes.moc"
