@@ -105,6 +105,7 @@ void AppModel::tell(Change change)
 void AppModel::setErrorMessage(const std::optional<QString>& message)
 {
     requireMainThread("setErrorMessage");
+    m_refused = {};
     m_announcer.assign(m_errorMessage, message, Change::errorMessage);
 }
 

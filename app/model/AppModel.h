@@ -146,6 +146,11 @@ public:
     void confirmSaveDialog();
     void discardSaveDialog();
     void cancelSaveDialog();
+    /// "Save without EXIF", while the message tells of selected photos that refused their edits for that alone; ""
+    /// else.
+    QString partialSaveText() const;
+    /// Saves the edits of those photos to their other homes. Needs the offer.
+    void savePartially();
     bool batchDontAskSession() const { return m_batchDontAskSession; }
     void setBatchDontAskSession(bool on);
     /// Whether the last save, perhaps of an earlier run of the program, can be taken back now.
@@ -242,7 +247,7 @@ private:
     void holdBack(std::function<void()> action);
     void resumeWaiting();
     // Saving
-    void save();
+    void save(const QStringList& leftOut = {});
     void takeSaved(const SaveOutcome& outcome);
     void tellWritten(const SaveOutcome& outcome);
     void takeUndone(const SaveOutcome& outcome);
@@ -262,6 +267,12 @@ private:
     Saving m_saving;
     mutable FolderNames m_folderNames;  ///< of the folder of the photo to be renamed
     std::optional<QString> m_errorMessage;
+    /// Photos of the last save that could be saved without some homes.
+    struct Refused {
+        QSet<QUrl> photos{};
+        QStringList homes{};
+    };
+    Refused m_refused;
     bool m_saveOpen = false;
     bool m_addOpen = false;
     bool m_renameOpen = false;

@@ -3,6 +3,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 void AppModel::setSaveOpen(bool open)
 {
     requireMainThread("setSaveOpen");
@@ -56,7 +58,7 @@ void AppModel::cancelSaveDialog()
     setSaveOpen(false);
 }
 
-void AppModel::save()
+void AppModel::save(const QStringList& leftOut)
 {
     if (!isBatch() && !primaryRecord())
         return resumeWaiting();
@@ -71,7 +73,7 @@ void AppModel::save()
     m_editing.send();
     if (onWriteBegins)
         onWriteBegins(edits.subjects);
-    m_saving.save(edits, { m_preferences.backupOriginals(), m_preferences.writeSidecar() });
+    m_saving.save(edits, { m_preferences.backupOriginals(), m_preferences.writeSidecar(), leftOut });
 }
 
 void AppModel::tellWritten(const SaveOutcome& outcome)
@@ -91,6 +93,25 @@ void AppModel::takeSaved(const SaveOutcome& outcome)
     m_editing.takeSaved(outcome.unsaved, outcome.failed, outcome.differing);
     if (outcome.message)
         setErrorMessage(outcome.message);
+    m_refused = { QSet<QUrl>(outcome.failed.cbegin(), outcome.failed.cend()), outcome.homesToLeaveOut };
+}
+
+QString AppModel::partialSaveText() const
+{
+    const bool isOffered = !m_refused.homes.isEmpty() && m_errorMessage && !isSaving() && unsavedCount() > 0
+        && selection() == m_refused.photos;
+    return isOffered ? u"Save without "_s + m_refused.homes.join(u" and "_s) : QString();
+}
+
+void AppModel::savePartially()
+{
+    requireMainThread("savePartially");
+    if (partialSaveText().isEmpty())
+        return;
+    const Announcer::Together together(m_announcer);
+    const QStringList homes = m_refused.homes;
+    setErrorMessage(std::nullopt);
+    save(homes);
 }
 
 void AppModel::undoSave()

@@ -112,7 +112,6 @@ void writeSidecar(
 {
     const QList<QUrl> sidecar = SaveGuard::filesBehindLinks({ QUrl::fromLocalFile(sidecarPath(photo.toLocalFile())) });
     const bool isNew = !QFile::exists(sidecar.constFirst().toLocalFile());
-    SaveGuard::requireWritable(sidecar);
     SaveGuard::clearLeftovers(sidecar);
     const SaveGuard::AttributeKeeper attributes(sidecar);
     const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });
@@ -167,7 +166,10 @@ QList<FileFailure> writeSidecars(const ExifToolRunner& runner, const QList<Assig
     for (const auto& photo : photos) {
         const QString path = sidecarPath(photo.toLocalFile());
         try {
-            writeSidecar(runner, photo, clearing, customNames);
+            if (SaveGuard::isReadOnly(QUrl::fromLocalFile(path)))
+                failures.append({ QUrl::fromLocalFile(path), u"read-only"_s });
+            else
+                writeSidecar(runner, photo, clearing, customNames);
         } catch (const Error& error) {
             failures.append({ QUrl::fromLocalFile(path), reasonOf(error) });
         }

@@ -23,6 +23,7 @@ struct EditPlan {
 struct WriteOptions {
     bool backupOriginals = false;  ///< ExifTool keeps each file's "_original" copy
     bool writeSidecar = false;  ///< an XMP sidecar beside each image is brought up to date
+    QStringList leftOut{};  ///< homes that the plan then leaves out
     bool operator==(const WriteOptions&) const = default;
 };
 

@@ -27,6 +27,7 @@ constexpr qreal rightPadding = 12;
 constexpr qreal iconSize = 18;
 constexpr qreal gap = 10;
 constexpr qreal crossSize = 22;
+constexpr qreal offerGap = 6;
 constexpr qreal shadowRoom = 44;  // on every side of the notice
 constexpr int mostLines = 6;
 
@@ -57,13 +58,19 @@ ErrorBanner::ErrorBanner(AppModel& model, QWidget* parent)
     , m_shadow(new BannerShadow(parent))
     , m_text(new SelectableText(this))
     , m_close(new QBIconButton(u"xmark"_s, u"Dismiss"_s, this))
+    , m_offer(new QBTextButton(QString(), this))
 {
     hide();
     m_text->setAccessibleName(u"Message"_s);
     m_close->setSizes({ crossSize, crossSize }, 14, 0, 6);
     m_close->setQuiet(true);
     connect(m_close, &QAbstractButton::clicked, &model, [&model] { model.setErrorMessage(std::nullopt); });
+    m_offer->setLink(true);
+    connect(m_offer, &QAbstractButton::clicked, &model, &AppModel::savePartially);
     connect(&model, &AppModel::errorMessageChanged, this, &ErrorBanner::follow);
+    for (const auto signal :
+        { &AppModel::selectionChanged, &AppModel::isSavingChanged, &AppModel::unsavedCountChanged })
+        connect(&model, signal, this, &ErrorBanner::followOffer);
     follow();
 }
 
@@ -92,6 +99,18 @@ void ErrorBanner::follow()
         QAccessible::updateAccessibility(&event);
     }
     update();
+    followOffer();
+    emit sizeChanged();
+}
+
+void ErrorBanner::followOffer()
+{
+    const QString offer = m_model.partialSaveText();
+    m_offer->setVisible(!offer.isEmpty());
+    if (m_offer->text() == offer)
+        return;
+    m_offer->setText(offer);
+    m_offer->setAccessibleName(offer);
     emit sizeChanged();
 }
 
@@ -119,7 +138,10 @@ void ErrorBanner::place(int bottom)
     const int height = room + 2 * px(verticalPadding);
     m_text->setGeometry(
         px(leftPadding + iconSize + gap), px(verticalPadding) + (room - textHeight) / 2, textWidth, textHeight);
-    setGeometry((parentWidget()->width() - width) / 2, bottom - height, width, height);
+    const int offerRoom = m_offer->isHidden() ? 0 : m_offer->sizeHint().height() + px(offerGap);
+    setGeometry((parentWidget()->width() - width) / 2, bottom - height - offerRoom, width, height + offerRoom);
+    m_offer->resize(m_offer->sizeHint());
+    m_offer->move(px(leftPadding + iconSize + gap), height - px(verticalPadding - offerGap));
     const int around = px(shadowRoom);
     m_shadow->setGeometry(geometry().adjusted(-around, -around, around, around));
     m_close->resize(m_close->sizeHint());

@@ -11,6 +11,7 @@ namespace Quorbel {
 
 class AppModel;
 class QBIconButton;
+class QBTextButton;
 class SelectableText;
 
 class ErrorBanner final : public QWidget {
@@ -32,6 +33,7 @@ protected:
 
 private:
     void follow();
+    void followOffer();
     void fadeIn();
     void showOpacity();
     QString message() const;
@@ -41,6 +43,7 @@ private:
     QWidget* m_shadow;  ///< paints the shadow
     SelectableText* m_text;
     QBIconButton* m_close;
+    QBTextButton* m_offer;  ///< saves what the message says could be saved
 };
 
 }  // namespace Quorbel

@@ -1,6 +1,7 @@
 #include "app/model/saving/SaveJob.h"
 
 #include "app/model/saving/ReplacedFilesPoll.h"
+#include "app/model/saving/SaveReasons.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/SaveVerification.h"
 #include "core/schema/FieldSchema.h"
@@ -48,18 +49,58 @@ QHash<QUrl, QString> reasonsByFile(const QList<FileFailure>& failures)
     return reasons;
 }
 
+QList<std::optional<FileStamp>> stampsOf(const QList<QUrl>& targets)
+{
+    QList<std::optional<FileStamp>> stamps;
+    for (const QUrl& target : targets)
+        stamps.append(FileStamp::of(target.toLocalFile()));
+    return stamps;
+}
+
+// Of targets that failed, which home it was.
+void findRefusedHomes(const MetadataService& service, const EditPlan& plan, Written& written)
+{
+    QList<QUrl> failed;
+    for (const FileFailure& failure : written.failures)
+        failed.append(failure.file);
+    try {
+        written.refusedHomes = service.refusedHomes(plan, failed);
+    } catch (const std::exception&) {
+        return;  // What the tool said of the whole save has to do.
+    }
+    for (FileFailure& failure : written.failures)
+        if (const auto homes = written.refusedHomes.constFind(failure.file); homes != written.refusedHomes.cend())
+            failure.reason = SaveReasons::refused(*homes);
+}
+
+EditPlan withoutHomes(EditPlan plan, const QStringList& homes)
+{
+    plan.leftOut += homes;
+    return plan;
+}
+
+// The plan as it was written to this target.
+EditPlan planFor(const EditPlan& plan, const Written& written, const QUrl& target)
+{
+    const bool hasIptc = !written.notes.iptcLeftAlone.contains(target);
+    return withoutHomes(plan, hasIptc ? written.leftOut : written.leftOut + QStringList(u"IPTC"_s));
+}
+
 }  // namespace
 
-Written run(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets,
+Written run(const MetadataService& service, const EditPlan& whole, const QList<QUrl>& targets,
     const WriteOptions& options, SaveHistory* history, TaskProgress& progress)
 {
+    const EditPlan plan = withoutHomes(whole, options.leftOut);
+    const QList<std::optional<FileStamp>> stamps = stampsOf(targets);
     const std::optional<JournalEntry> before = history ? lookBefore(service, plan, targets, options) : std::nullopt;
     const ReplacedFilesPoll poll(targets, progress.done);
-    Written written;
+    Written written{ .leftOut = options.leftOut };
     try {
-        service.write(plan, targets, options);
+        service.write(plan, targets, options, {}, &written.notes);
     } catch (const ToolError& error) {
-        written.error = error.description();
+        written.error = toolReason(error);
+        written.notes.messages += error.messages();
         if (std::holds_alternative<ToolError::ExecFailed>(error.payload())) {
             written.isPartial = true;
             written.failures = namedFailures(error, targets);
@@ -69,6 +110,10 @@ Written run(const MetadataService& service, const EditPlan& plan, const QList<QU
     } catch (const std::exception& error) {
         written.error = QString::fromUtf8(error.what());
     }
+    findRefusedHomes(service, plan, written);
+    if (targets.size() == 1 && !written.failures.isEmpty())
+        written.error = written.failures.constFirst().reason;
+    written.isUntouched = stampsOf(targets) == stamps;
     // After a failure too: some of the files may have been written.
     if (before)
         written.undoable = history->add(*before);
@@ -95,7 +140,8 @@ Checked check(const MetadataService& service, const EditPlan& plan, const QList<
     QSet<QString> differing;
     for (const QUrl& target : targets) {
         const ImageRecord* record = records.value(target);
-        const QStringList differences = record ? SaveVerification::differences(plan, *record) : QStringList();
+        const QStringList differences =
+            record ? SaveVerification::differences(planFor(plan, written, target), *record) : QStringList();
         if (reasons.contains(target)) {
             checked.failures.append({ target, reasons.value(target) });
         } else if (tooSlow.contains(target)) {
@@ -103,7 +149,7 @@ Checked check(const MetadataService& service, const EditPlan& plan, const QList<
         } else if (!record) {
             checked.failures.append({ target, u"cannot be read any more"_s });
         } else if (written.error && !differences.isEmpty()) {
-            checked.failures.append({ target, u"not written"_s });
+            checked.failures.append({ target, SaveReasons::notWritten(differences, written.notes.messages) });
         } else {
             checked.records.append(*record);
             differing.unite(QSet<QString>(differences.cbegin(), differences.cend()));
@@ -116,14 +162,6 @@ Checked check(const MetadataService& service, const EditPlan& plan, const QList<
     customs.sort();
     checked.differences += customs;
     return checked;
-}
-
-QString differencesText(const QStringList& keys)
-{
-    const QString labels = SaveVerification::labels(keys).join(u", "_s);
-    if (keys.size() == 1)
-        return u"Saved, but 1 field reads back differently: "_s + labels;
-    return u"Saved, but %1 fields read back differently: "_s.arg(keys.size()) + labels;
 }
 
 QString failuresText(const QList<FileFailure>& failures, qsizetype targetCount)

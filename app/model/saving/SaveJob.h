@@ -16,6 +16,11 @@ struct Written {
     bool isPartial = false;
     QList<FileFailure> failures{};  ///< the targets that the tool named, with its reasons
     SaveHistory::Undoable undoable{};  ///< what the history can take back now
+    bool isUntouched = false;  ///< no target was replaced
+    WriteNotes notes{};
+    QStringList leftOut{};  ///< homes that the plan was written without
+    /// Failed targets that would take a part of the plan: the homes that they refuse, and why.
+    QMap<QUrl, QMap<QString, QString>> refusedHomes{};
 };
 
 /// Writes, and counts meanwhile the files that are done. What it replaces goes into the history, where there is one;
@@ -37,8 +42,6 @@ struct Checked {
 Checked check(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const Written& written,
     const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop);
 
-/// "Saved, but 2 fields read back differently: Coordinates, Job ID"; at least one key.
-QString differencesText(const QStringList& keys);
 /// "Could not save 2 of 40 photos: a.jpg (Not a valid JPG), b.jpg (…)"; at least one failure.
 QString failuresText(const QList<FileFailure>& failures, qsizetype targetCount);
 

@@ -1,6 +1,7 @@
 #include "app/model/saving/Saving.h"
 
 #include "app/model/Background.h"
+#include "app/model/saving/SaveReasons.h"
 
 #include <QPointer>
 
@@ -26,7 +27,9 @@ std::optional<QString> messageOf(
     if (!checked.failures.isEmpty())
         texts.append(SaveJob::failuresText(checked.failures, targetCount));
     if (!checked.differences.isEmpty())
-        texts.append(SaveJob::differencesText(checked.differences));
+        texts.append(SaveReasons::differencesText(checked.differences, written));
+    if (const QString notes = SaveReasons::notesText(written.notes); !notes.isEmpty())
+        texts.append(notes);
     return texts.isEmpty() ? std::nullopt : std::optional(texts.join(u". "_s));
 }
 
@@ -45,6 +48,7 @@ SaveOutcome outcomeOf(const SaveJob::Checked& checked, const SaveJob::Written& w
     } else if (!outcome.differing.isEmpty()) {
         outcome.unsaved = edits.minus(edits, outcome.differing);
     }
+    outcome.homesToLeaveOut = SaveReasons::homesToLeaveOut(written.refusedHomes);
     outcome.isGood = outcome.failed.isEmpty() && outcome.differing.isEmpty();
     return outcome;
 }
@@ -117,7 +121,10 @@ void Saving::save(const Edits& edits, const WriteOptions& options)
                 m_tasks.end(id);
             }
             if (!mayBeSaved)
-                finish({ .unsaved = edits, .failed = edits.subjects, .message = couldNotSave(*written.error) });
+                finish({ .unsaved = edits,
+                    .failed = edits.subjects,
+                    .message = couldNotSave(*written.error),
+                    .homesToLeaveOut = SaveReasons::homesToLeaveOut(written.refusedHomes) });
         });
 }
 

@@ -22,6 +22,7 @@ struct SaveOutcome {
     QSet<QString> differing{};  ///< keys of those fields
     QList<QUrl> failed{};  ///< photos that were not saved
     std::optional<QString> message{};  ///< for the banner
+    QStringList homesToLeaveOut{};  ///< of a save: without these homes, photos that failed could be saved
     bool isGood = false;  ///< nothing is left to do
 };
 

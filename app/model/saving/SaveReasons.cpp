@@ -1,0 +1,98 @@
+#include "app/model/saving/SaveReasons.h"
+
+#include "core/save/SaveVerification.h"
+#include "core/schema/CustomFields.h"
+#include "core/schema/FieldSchema.h"
+#include "core/text/Text.h"
+
+#include <algorithm>
+
+namespace Quorbel::SaveReasons {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList tagsOf(const QStringList& keys)
+{
+    QStringList tags;
+    for (const QString& key : keys) {
+        const FieldSpec* field = FieldSchema::spec(key);
+        if (field && field->kind == FieldKind::coordinates)
+            tags << u"GPSLatitude"_s << u"GPSLongitude"_s;
+        else if (field)
+            tags += field->writeTags;
+        else if (const auto name = MetadataWriter::sanitizeCustomName(CustomFields::nameIn(key).value_or(key)))
+            tags.append(*name);
+    }
+    return tags;
+}
+
+// No field has no reason.
+QString reasonsFor(const QStringList& keys, const QString& messages)
+{
+    const QStringList tags = tagsOf(keys);
+    return tags.isEmpty() ? QString() : refusals(messages, tags).join(u"; "_s);
+}
+
+QStringList namesOf(const QList<QUrl>& files)
+{
+    QStringList names;
+    for (const QUrl& file : files)
+        names.append(file.fileName());
+    return names;
+}
+
+}  // namespace
+
+QString notWritten(const QStringList& keys, const QString& messages)
+{
+    const QString reasons = reasonsFor(keys, messages);
+    return reasons.isEmpty() ? u"not written"_s : u"not written: "_s + reasons;
+}
+
+QString refused(const QMap<QString, QString>& reasonByHome)
+{
+    QStringList texts;
+    for (auto it = reasonByHome.cbegin(); it != reasonByHome.cend(); ++it)
+        texts.append(u"%1 refused: %2"_s.arg(it.key(), *it));
+    return texts.join(u"; "_s);
+}
+
+QStringList homesToLeaveOut(const QMap<QUrl, QMap<QString, QString>>& refusedHomes)
+{
+    const auto fewest = std::min_element(
+        refusedHomes.cbegin(), refusedHomes.cend(), [](const auto& a, const auto& b) { return a.size() < b.size(); });
+    return fewest == refusedHomes.cend() ? QStringList() : fewest->keys();
+}
+
+QString differencesText(const QStringList& keys, const SaveJob::Written& written)
+{
+    QStringList labels;
+    for (const QString& key : keys) {
+        const QString reasons = reasonsFor({ key }, written.notes.messages);
+        const QString label = SaveVerification::labels({ key }).constFirst();
+        labels.append(reasons.isEmpty() ? label : u"%1 (%2)"_s.arg(label, reasons));
+    }
+    if (written.isUntouched)
+        return u"Nothing was written: "_s + labels.join(u", "_s);
+    if (keys.size() == 1)
+        return u"Saved, but 1 field reads back differently: "_s + labels.constFirst();
+    return u"Saved, but %1 fields read back differently: "_s.arg(keys.size()) + labels.join(u", "_s);
+}
+
+QString notesText(const WriteNotes& notes)
+{
+    QStringList texts;
+    if (!notes.iptcLeftAlone.isEmpty())
+        texts.append(u"Saved, but IPTC was left alone in photos that have several blocks of it: "_s
+            + Text::listed(namesOf(notes.iptcLeftAlone)));
+    QStringList sidecars;
+    for (const FileFailure& failure : notes.sidecars)
+        sidecars.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
+    if (!sidecars.isEmpty())
+        texts.append(u"Not brought up to date: "_s + Text::listed(sidecars));
+    return texts.join(u". "_s);
+}
+
+}  // namespace Quorbel::SaveReasons
