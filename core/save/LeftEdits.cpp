@@ -1,0 +1,203 @@
+#include "core/save/LeftEdits.h"
+
+#include "core/schema/CustomFields.h"
+#include "core/schema/FieldSchema.h"
+
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype namedPhotos = 2;
+constexpr qsizetype namedFields = 3;
+
+// "a, b and 3 more", of so many.
+QString enumerated(const QStringList& first, qsizetype count)
+{
+    if (count > first.size())
+        return u"%1 and %2 more"_s.arg(first.join(u", "_s)).arg(count - first.size());
+    if (first.size() < 2)
+        return first.join(QString());
+    return u"%1 and %2"_s.arg(first.mid(0, first.size() - 1).join(u", "_s), first.constLast());
+}
+
+// A list that was changed from `held` to `wanted`, for a photo that holds `now`.
+QStringList changedAlike(const QStringList& held, const QStringList& wanted, const QStringList& now)
+{
+    if (held == now)
+        return wanted;
+    QStringList list;
+    for (const QString& item : now)
+        if (wanted.contains(item) || !held.contains(item))
+            list.append(item);
+    for (const QString& item : wanted)
+        if (!held.contains(item) && !list.contains(item))
+            list.append(item);
+    return list;
+}
+
+// --- JSON ---
+
+constexpr int version = 1;
+
+QJsonObject toJson(const QMap<QString, QString>& texts)
+{
+    QJsonObject object;
+    for (auto text = texts.cbegin(); text != texts.cend(); ++text)
+        object.insert(text.key(), *text);
+    return object;
+}
+
+QJsonObject toJson(const QMap<QString, QStringList>& lists)
+{
+    QJsonObject object;
+    for (auto list = lists.cbegin(); list != lists.cend(); ++list)
+        object.insert(list.key(), QJsonArray::fromStringList(*list));
+    return object;
+}
+
+// Folders are named once: ten thousand photos of one folder take little more than their names.
+QJsonObject toJson(const QList<QUrl>& photos)
+{
+    QMap<QString, QStringList> namesByFolder;
+    for (const QUrl& photo : photos) {
+        const QString path = photo.toLocalFile();
+        const qsizetype slash = path.lastIndexOf(u'/');
+        namesByFolder[path.left(slash + 1)].append(path.mid(slash + 1));
+    }
+    return toJson(namesByFolder);
+}
+
+QJsonObject toJson(const LeftEdits& left)
+{
+    QJsonArray customs;
+    for (const CustomValue& custom : left.edits.customs)
+        customs.append(QJsonObject{ { u"name"_s, custom.name }, { u"value"_s, custom.value } });
+    return { { u"photos"_s, toJson(left.edits.subjects) }, { u"scalars"_s, toJson(left.edits.scalars) },
+        { u"lists"_s, toJson(left.edits.lists) }, { u"added"_s, toJson(left.edits.added) }, { u"customs"_s, customs },
+        { u"held"_s, toJson(left.heldLists) }, { u"leftAt"_s, left.leftAt } };
+}
+
+QMap<QString, QString> textsFrom(const QJsonValue& value)
+{
+    QMap<QString, QString> texts;
+    const QJsonObject object = value.toObject();
+    for (auto text = object.begin(); text != object.end(); ++text)
+        if (text->isString())
+            texts.insert(text.key(), text->toString());
+    return texts;
+}
+
+QMap<QString, QStringList> listsFrom(const QJsonValue& value)
+{
+    QMap<QString, QStringList> lists;
+    const QJsonObject object = value.toObject();
+    for (auto list = object.begin(); list != object.end(); ++list)
+        if (list->isArray())
+            lists.insert(list.key(), list->toVariant().toStringList());
+    return lists;
+}
+
+QList<QUrl> photosFrom(const QJsonValue& value)
+{
+    QList<QUrl> photos;
+    const QMap<QString, QStringList> namesByFolder = listsFrom(value);
+    for (auto names = namesByFolder.cbegin(); names != namesByFolder.cend(); ++names)
+        for (const QString& name : *names)
+            if (names.key().startsWith(u'/') && !name.isEmpty())
+                photos.append(QUrl::fromLocalFile(names.key() + name));
+    return photos;
+}
+
+LeftEdits leftFrom(const QJsonValue& value)
+{
+    LeftEdits left{ .heldLists = listsFrom(value[u"held"_s]), .leftAt = value[u"leftAt"_s].toInteger() };
+    left.edits = { .scalars = textsFrom(value[u"scalars"_s]),
+        .lists = listsFrom(value[u"lists"_s]),
+        .added = listsFrom(value[u"added"_s]),
+        .subjects = photosFrom(value[u"photos"_s]) };
+    for (const auto& custom : value[u"customs"_s].toArray())
+        if (const QString name = custom[u"name"_s].toString(); !name.isEmpty())
+            CustomFields::put(left.edits.customs, { name, custom[u"value"_s].toString() });
+    return left;
+}
+
+}  // namespace
+
+Edits LeftEdits::rebasedOnto(const ImageRecord& photo) const
+{
+    Edits rebased = edits;
+    for (auto list = rebased.lists.begin(); list != rebased.lists.end(); ++list)
+        if (heldLists.contains(list.key()))
+            *list = changedAlike(heldLists.value(list.key()), *list, photo.lists.value(list.key()));
+    return rebased.foldedInto(photo);
+}
+
+QString LeftEdits::names() const
+{
+    QStringList names;
+    for (const QUrl& photo : edits.subjects.mid(0, namedPhotos))
+        names.append(photo.fileName());
+    return enumerated(names, edits.subjects.size());
+}
+
+QString LeftEdits::fields() const
+{
+    const QSet<QString> keys = edits.keys();
+    QStringList labels;
+    for (const FieldSpec& field : FieldSchema::all())
+        if (keys.contains(field.id))
+            labels.append(field.label);
+    labels.append(CustomFields::names(edits.customs));
+    return enumerated(labels.mid(0, namedFields), labels.size());
+}
+
+namespace LeftEditsList {
+
+void keep(QList<LeftEdits>& list, const LeftEdits& left)
+{
+    list.removeIf([&left](const LeftEdits& other) { return other.edits == left.edits; });
+    list.prepend(left);
+    if (list.size() > limit)
+        list.resize(limit);
+}
+
+void rename(QList<LeftEdits>& list, const QUrl& source, const QUrl& destination)
+{
+    for (LeftEdits& left : list)
+        std::replace(left.edits.subjects.begin(), left.edits.subjects.end(), source, destination);
+}
+
+QByteArray toJson(const QList<LeftEdits>& list)
+{
+    QJsonArray left;
+    for (const LeftEdits& edits : list)
+        left.append(Quorbel::toJson(edits));
+    return QJsonDocument(QJsonObject{ { u"version"_s, version }, { u"left"_s, left } }).toJson(QJsonDocument::Compact);
+}
+
+std::optional<QList<LeftEdits>> fromJson(const QByteArray& text)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(text);
+    if (document[u"version"_s].toInt() != version || !document[u"left"_s].isArray())
+        return std::nullopt;
+    QList<LeftEdits> list;
+    for (const auto& value : document[u"left"_s].toArray()) {
+        const LeftEdits left = leftFrom(value);
+        if (!left.edits.isEmpty() && !left.edits.subjects.isEmpty())
+            list.append(left);
+    }
+    return list;
+}
+
+}  // namespace LeftEditsList
+
+}  // namespace Quorbel

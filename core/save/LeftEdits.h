@@ -1,0 +1,44 @@
+// Edits that were left behind unsaved, with their photos, until they are brought back.
+// Thread: any. Plain values with pure functions. Knows neither selection nor file.
+#pragma once
+
+#include "core/save/Edits.h"
+
+namespace Quorbel {
+
+struct LeftEdits {
+    Edits edits{};  ///< some, of one photo or more
+    /// Of one photo: what it held then in the lists that the edits replace.
+    QMap<QString, QStringList> heldLists{};
+    bool returns = false;  ///< put back without being asked for when just their photos are selected
+    qint64 leftAt = 0;  ///< milliseconds since 1970, UTC
+
+    /// The photo's edits as it is now: items that it gained since stay, items that it lost stay away, and what it holds
+    /// already is no edit.
+    Edits rebasedOnto(const ImageRecord& photo) const;
+    /// Their photos: "a.jpg, b.jpg and 3 more".
+    QString names() const;
+    /// Their fields as people read them: "Title, Keywords and 2 more".
+    QString fields() const;
+
+    bool operator==(const LeftEdits&) const = default;
+};
+
+namespace LeftEditsList {
+
+/// Edits that are kept.
+constexpr qsizetype limit = 10;
+
+/// In front of the others; the same edits of the same photos are kept once, and the oldest beyond `limit` go.
+void keep(QList<LeftEdits>& list, const LeftEdits& left);
+/// A photo has another name.
+void rename(QList<LeftEdits>& list, const QUrl& source, const QUrl& destination);
+
+/// What a file of such edits holds, and back; nothing for a text that is none. Edits in it that make no sense are left
+/// out.
+QByteArray toJson(const QList<LeftEdits>& list);
+std::optional<QList<LeftEdits>> fromJson(const QByteArray& text);
+
+}  // namespace LeftEditsList
+
+}  // namespace Quorbel
