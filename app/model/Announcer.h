@@ -25,6 +25,7 @@ enum class Change {
     primary,
     edits,
     unsavedCount,
+    leftEdits,
     isWorking,
     isSaving,
     progress,

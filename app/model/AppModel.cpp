@@ -21,7 +21,8 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
     , m_tasks(m_announcer, m_services.stallInterval)
     , m_library(m_announcer, m_tasks, m_services.service, m_preferences.sortOrder())
     , m_selected(m_announcer, m_library.photos())
-    , m_editing(m_announcer, m_library.photos(), m_selected)
+    , m_left(m_announcer, m_services.leftEditsPath, m_services.keepInterval)
+    , m_editing(m_announcer, m_library.photos(), m_selected, m_left)
     , m_saving(m_announcer, m_tasks, m_library.refresh(), m_services.service, m_services.journalPath)
 {
     requireMainThread("AppModel");
@@ -41,14 +42,8 @@ void AppModel::connectParts()
             paths.append(url.toLocalFile());
         m_preferences.recentPaths.set(RecentItems::updated(m_preferences.recentPaths(), paths, RecentItems::limit));
     });
-    connect(&m_library, &Library::opened, this, [this] {
-        m_editing.forgetReturned();
-        commitSelection(Selection::firstVisible(photos()));
-        m_announcer.announce(Change::opened);
-        // A question about edits that are gone must not stay on screen.
-        if (m_saveOpen)
-            cancelSaveDialog();
-    });
+    connect(&m_library, &Library::arrived, this, &AppModel::showArrived);
+    connect(&m_library, &Library::opened, this, &AppModel::takeOpened);
     connect(&m_folderNames, &FolderNames::changed, this, &AppModel::renamePreviewChanged);
     FolderRefresh& refresh = m_library.refresh();
     connect(&refresh, &FolderRefresh::problem, this, &AppModel::setErrorMessage);
@@ -66,11 +61,13 @@ void AppModel::connectParts()
     connect(&m_saving, &Saving::undone, this, &AppModel::takeUndone);
     connect(&m_saving, &Saving::ended, this, [this](bool isGood) {
         m_lastSaveFailed = !isGood;
+        if (m_isEnding)
+            return quitKeepingEdits();
         // After a failure what waits is dropped: nobody leaves edits that could not be saved.
         if (isGood)
             resumeWaiting();
         else
-            m_waiting = nullptr;
+            dropWaiting();
     });
 }
 
@@ -88,6 +85,7 @@ void AppModel::tell(Change change)
         { Change::primary, &AppModel::primaryChanged },
         { Change::edits, &AppModel::editsChanged },
         { Change::unsavedCount, &AppModel::unsavedCountChanged },
+        { Change::leftEdits, &AppModel::leftEditsChanged },
         { Change::isWorking, &AppModel::isWorkingChanged },
         { Change::isSaving, &AppModel::isSavingChanged },
         { Change::progress, &AppModel::progressChanged },
@@ -162,6 +160,7 @@ void AppModel::openFile(const QUrl& url)
 void AppModel::load(const QList<QUrl>& urls)
 {
     requireMainThread("load");
+    m_toBringBack.reset();
     if (PhotoListing::isWorthListing(urls))
         m_library.load(urls);
     else
@@ -172,8 +171,10 @@ void AppModel::closeFolder()
 {
     requireMainThread("closeFolder");
     const Announcer::Together together(m_announcer);
+    m_toBringBack.reset();
+    m_editing.leave();
+    m_left.stopReturning();
     m_library.close();
-    m_editing.forgetReturned();
     setSearch({});
     commitSelection({});
     setAddOpen(false);
@@ -224,9 +225,11 @@ void AppModel::takeVanished(const QList<int>& positions)
     const bool losesPrimary = before.primary && gone.contains(*before.primary);
     if (losesPrimary && !isBatch() && unsavedCount() > 0)
         setErrorMessage(
-            u"“%1” was removed by another program, and its unsaved changes with it."_s.arg(before.primary->fileName()));
+            u"“%1” was removed by another program. Its unsaved changes are kept: Edit ▸ Bring Back Edits."_s.arg(
+                before.primary->fileName()));
     else if (m_renameOpen && m_renamed && gone.contains(*m_renamed))
         setErrorMessage(u"“%1” was removed by another program."_s.arg(m_renamed->fileName()));
+    m_editing.leave(gone);
     const auto heir = losesPrimary ? before.nearestStaying(photos(), gone) : std::nullopt;
     photos().remove(positions);
     const Selection rest = before.withoutGone(photos(), heir);

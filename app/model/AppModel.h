@@ -52,6 +52,13 @@ public:
     void requestLoad(const QList<QUrl>& urls);
     void requestClose();
     void requestQuit();
+    /// Ends the program without a question: unsaved edits are kept for the next start, and a save that runs is waited
+    /// for.
+    void quitKeepingEdits();
+    /// Writes what is unsaved, and what was left behind, to where the next start finds it; waits for that.
+    void keepEdits() { checked(m_left).flush(); }
+    /// Whether a selection, a load, a close or the end of the program waits for an answer or for a save.
+    bool isHoldingBack() const { return m_waiting || library().hasArrived(); }
     void openFile(const QUrl& url);
     QList<QUrl> recentURLs() const;
     void openRecent(const QUrl& url);
@@ -102,6 +109,15 @@ public:
     /// Whether a field of one value holds nothing but blanks now, in the draft or the batch. One whose photos differ
     /// is not empty.
     bool isFieldEmpty(const QString& id) const { return editing().isFieldEmpty(id); }
+    /// Edits that were left behind unsaved, the newest first; those of an earlier run of the program are among them
+    /// soon after the start.
+    const QList<LeftEdits>& leftEdits() const { return checked(m_left).kept(); }
+    /// What was left behind last, until the next edit.
+    const std::optional<LeftNotice>& leftNotice() const { return checked(m_left).notice(); }
+    /// Selects the photos of these edits (a position in leftEdits()) again and puts the edits back, over what the
+    /// photos hold by now; opens their folder where they are not open. Unsaved edits of other photos are left behind
+    /// in their place. Edits of photos that are gone stay where they are.
+    void bringBack(int position);
     bool isRemovableAddedField(const QString& id) const { return editing().isRemovableAddedField(id); }
     QStringList visibleFieldIDs(FieldSection section) const { return editing().visibleFieldIDs(section); }
     QList<FieldSpec> addableKnownFields() const { return editing().addableKnownFields(); }
@@ -207,6 +223,7 @@ signals:
     /// Something of the draft or the batch: values, marks, or which fields are on screen.
     void editsChanged();
     void unsavedCountChanged();
+    void leftEditsChanged();
     void isWorkingChanged();
     void isSavingChanged();
     void progressChanged();
@@ -245,7 +262,13 @@ private:
     void changeSelection(const Selection& next);
     void commitSelection(const Selection& next);
     void holdBack(std::function<void()> action);
+    void saveOrAsk();
     void resumeWaiting();
+    void dropWaiting();
+    void showArrived();
+    void takeOpened();
+    void bringBack(const LeftEdits& left);
+    void openAndBringBack(const LeftEdits& left);
     // Saving
     void save(const QStringList& leftOut = {});
     void takeSaved(const SaveOutcome& outcome);
@@ -263,6 +286,7 @@ private:
     RunningTasks m_tasks;
     Library m_library;
     SelectedPhotos m_selected;
+    LeftBehind m_left;
     Editing m_editing;
     Saving m_saving;
     mutable FolderNames m_folderNames;  ///< of the folder of the photo to be renamed
@@ -279,6 +303,8 @@ private:
     std::optional<QUrl> m_renamed;  ///< the photo that the rename sheet is about
     bool m_batchDontAskSession = false;
     std::function<void()> m_waiting;  ///< asked for again after a save or a discard
+    std::optional<LeftEdits> m_toBringBack;  ///< once the load that runs has brought their photos
+    bool m_isEnding = false;  ///< as soon as no save runs
     bool m_lastSaveFailed = false;  ///< some of its edits are still unsaved
 };
 

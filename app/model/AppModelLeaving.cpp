@@ -2,7 +2,13 @@
 // are unsaved.
 #include "app/model/AppModel.h"
 
+#include <QFileInfo>
+
+#include <algorithm>
+
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 QList<ImageRecord> AppModel::selectedRecords() const
 {
@@ -53,6 +59,7 @@ void AppModel::changeSelection(const Selection& next)
 void AppModel::commitSelection(const Selection& next)
 {
     m_lastSaveFailed = false;
+    m_editing.leave();
     m_editing.select(next);
 }
 
@@ -83,7 +90,20 @@ void AppModel::requestQuit()
         m_services.endEditing();
     if (unsavedCount() > 0 || isSaving())
         return holdBack([this] { requestQuit(); });
+    m_library.dropArrived();
+    m_left.flush();
     if (m_services.quit)
+        m_services.quit();
+}
+
+void AppModel::quitKeepingEdits()
+{
+    requireMainThread("quitKeepingEdits");
+    if (m_services.endEditing)
+        m_services.endEditing();
+    m_isEnding = true;
+    m_left.flush();
+    if (!isSaving() && m_services.quit)
         m_services.quit();
 }
 
@@ -92,7 +112,12 @@ void AppModel::requestQuit()
 void AppModel::holdBack(std::function<void()> action)
 {
     m_waiting = std::move(action);
-    if (isSaving())
+    saveOrAsk();
+}
+
+void AppModel::saveOrAsk()
+{
+    if (isSaving() || m_saveOpen)
         return;
     // Edits that cannot be saved need the question all the same: else there would be no way to leave them.
     if (m_preferences.saveDontAsk() && !isBatch() && !m_lastSaveFailed)
@@ -105,6 +130,95 @@ void AppModel::resumeWaiting()
 {
     if (const auto action = std::exchange(m_waiting, nullptr))
         action();
+    showArrived();
+}
+
+void AppModel::dropWaiting()
+{
+    m_waiting = nullptr;
+    m_library.dropArrived();
+}
+
+// Photos that were read come on screen only when nothing that was typed meanwhile is lost by it.
+void AppModel::showArrived()
+{
+    if (!m_library.hasArrived())
+        return;
+    if (m_services.endEditing)
+        m_services.endEditing();
+    if (unsavedCount() > 0)
+        return saveOrAsk();
+    m_library.open();
+}
+
+void AppModel::takeOpened()
+{
+    m_left.stopReturning();
+    commitSelection(Selection::firstVisible(photos()));
+    m_announcer.announce(Change::opened);
+    // A question about edits that are gone must not stay on screen.
+    if (m_saveOpen)
+        cancelSaveDialog();
+    if (const auto left = std::exchange(m_toBringBack, std::nullopt))
+        bringBack(*left);
+}
+
+// --- Edits that were left behind ---
+
+void AppModel::bringBack(int position)
+{
+    requireMainThread("bringBack");
+    if (m_services.endEditing)
+        m_services.endEditing();
+    if (position < 0 || position >= leftEdits().size())
+        return;
+    const LeftEdits left = leftEdits().at(position);
+    const QList<QUrl>& subjects = left.edits.subjects;
+    if (std::any_of(subjects.cbegin(), subjects.cend(), [this](const QUrl& photo) { return photos().contains(photo); }))
+        bringBack(left);
+    else
+        openAndBringBack(left);
+}
+
+// Those whose photos are not open keep their edits where they are.
+void AppModel::bringBack(const LeftEdits& left)
+{
+    const Announcer::Together together(m_announcer);
+    LeftEdits here = left;
+    LeftEdits away = left;
+    here.edits.subjects.removeIf([this](const QUrl& photo) { return !photos().contains(photo); });
+    away.edits.subjects.removeIf([this](const QUrl& photo) { return photos().contains(photo); });
+    if (!away.edits.subjects.isEmpty())
+        setErrorMessage(u"Not here any more: %1. The unsaved changes are kept."_s.arg(away.names()));
+    if (here.edits.subjects.isEmpty())
+        return;
+    m_waiting = nullptr;
+    m_lastSaveFailed = false;
+    setSearch({});
+    m_left.forget(left);
+    m_left.keep(away);
+    m_editing.bringBack(here);
+}
+
+void AppModel::openAndBringBack(const LeftEdits& left)
+{
+    if (unsavedCount() > 0)
+        return holdBack([this, left] { openAndBringBack(left); });
+    QSet<QString> folders;
+    for (const QUrl& photo : left.edits.subjects)
+        folders.insert(QFileInfo(photo.toLocalFile()).path());
+    folders.removeIf([](const QString& folder) { return !QFileInfo(folder).isDir(); });
+    const QList<QUrl>& subjects = left.edits.subjects;
+    const bool isAny = !folders.isEmpty() && std::any_of(subjects.cbegin(), subjects.cend(), [](const QUrl& photo) {
+        return QFileInfo::exists(photo.toLocalFile());
+    });
+    if (!isAny)
+        return setErrorMessage(u"%1 could no longer be found. The unsaved changes are kept."_s.arg(left.names()));
+    QList<QUrl> urls;
+    for (const QString& folder : folders)
+        urls.append(QUrl::fromLocalFile(folder));
+    load(urls);
+    m_toBringBack = left;
 }
 
 }  // namespace Quorbel

@@ -10,7 +10,7 @@ void AppModel::setSaveOpen(bool open)
     requireMainThread("setSaveOpen");
     // A sheet that closes itself after an answer says so too: then it is no cancel any more.
     if (!open && m_saveOpen)
-        m_waiting = nullptr;
+        dropWaiting();
     m_announcer.assign(m_saveOpen, open, Change::saveOpen);
 }
 
@@ -48,7 +48,7 @@ void AppModel::discardSaveDialog()
     {
         const Announcer::Together together(m_announcer);
         m_announcer.assign(m_saveOpen, false, Change::saveOpen);
-        m_editing.discard();
+        m_editing.leave();
     }
     resumeWaiting();
 }
@@ -66,7 +66,7 @@ void AppModel::save(const QStringList& leftOut)
     const Edits edits = m_editing.unsaved();
     if (!m_saving.isPossible() || edits.isEmpty()) {
         // Edits that amount to nothing must not hold back for ever what waits.
-        if (m_waiting)
+        if (isHoldingBack())
             discardSaveDialog();
         return;
     }

@@ -23,6 +23,9 @@ struct AppModelServices {
     std::function<void(const QUrl&)> openUrl{};  ///< opens a file in the user's default application
     std::function<QDateTime()> now{};  ///< local wall clock; the system's when empty
     QString journalPath{};  ///< folder of the saves that can be undone; empty: none can
+    QString leftEditsPath{};  ///< file of the edits that were left unsaved; empty: they end with the program
+    /// How long the keys must rest before unsaved edits are written there.
+    std::chrono::milliseconds keepInterval{ 2000 };
     /// How long a read may be at one file before the user is offered to skip it.
     std::chrono::milliseconds stallInterval{ 10000 };
     std::function<void()> quit{};  ///< ends the program; called by requestQuit()

@@ -172,8 +172,12 @@ void keep(QList<LeftEdits>& list, const LeftEdits& left)
 
 void rename(QList<LeftEdits>& list, const QUrl& source, const QUrl& destination)
 {
-    for (LeftEdits& left : list)
-        std::replace(left.edits.subjects.begin(), left.edits.subjects.end(), source, destination);
+    for (LeftEdits& left : list) {
+        QList<QUrl>& photos = left.edits.subjects;
+        photos.removeAll(destination);
+        std::replace(photos.begin(), photos.end(), source, destination);
+    }
+    list.removeIf([](const LeftEdits& left) { return left.edits.subjects.isEmpty(); });
 }
 
 QByteArray toJson(const QList<LeftEdits>& list)

@@ -31,7 +31,7 @@ constexpr qsizetype limit = 10;
 
 /// In front of the others; the same edits of the same photos are kept once, and the oldest beyond `limit` go.
 void keep(QList<LeftEdits>& list, const LeftEdits& left);
-/// A photo has another name.
+/// A photo has another name. Edits of the photo that had that name before do not pass to it.
 void rename(QList<LeftEdits>& list, const QUrl& source, const QUrl& destination);
 
 /// What a file of such edits holds, and back; nothing for a text that is none. Edits in it that make no sense are left

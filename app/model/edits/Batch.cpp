@@ -93,6 +93,16 @@ void Batch::forget(const QString& id)
     unticked.remove(id);
 }
 
+void Batch::take(const Edits& newEdits)
+{
+    edits = newEdits;
+    for (const QString& key : edits.keys())
+        unticked.remove(key);
+    for (const CustomValue& custom : edits.customs)
+        if (!customNames.contains(custom.name))
+            customNames.append(custom.name);
+}
+
 Batch Batch::afterSave(const Batch& saved, const QSet<QString>& differing) const
 {
     Batch rest{ edits.minus(saved.edits, differing), unticked, customNames };

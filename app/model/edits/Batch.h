@@ -36,6 +36,9 @@ struct Batch {
     /// Forgets a field of the schema, ticked or not.
     void forget(const QString& id);
 
+    /// These edits become the batch's, on screen and ticked.
+    void take(const Edits& newEdits);
+
     /// After a save of `saved`: what Edits::minus leaves, and no text that was unticked when it began.
     Batch afterSave(const Batch& saved, const QSet<QString>& differing) const;
 

@@ -17,11 +17,13 @@ QSet<QUrl> setOf(const QList<QUrl>& urls)
 
 }  // namespace
 
-Editing::Editing(Announcer& announcer, const PhotoList& photos, SelectedPhotos& selected)
+Editing::Editing(Announcer& announcer, const PhotoList& photos, SelectedPhotos& selected, LeftBehind& left)
     : m_announcer(announcer)
     , m_photos(photos)
     , m_selected(selected)
+    , m_left(left)
 {
+    m_left.setStanding([this] { return standing(); });
 }
 
 Edits Editing::unsaved() const
@@ -29,6 +31,38 @@ Edits Editing::unsaved() const
     Edits edits = isBatch() ? m_batch.edits : m_draft.edits;
     edits.subjects = isBatch() ? m_selected.urls() : m_draft.edits.subjects;
     return edits;
+}
+
+// Whether what is being saved is still what is being edited.
+bool Editing::isSending() const
+{
+    return m_sent.isRunning && !m_sent.isLeft && m_sent.selectionSerial == m_selected.serial();
+}
+
+// What is unsaved and not being saved either.
+Edits Editing::typed() const
+{
+    return isSending() ? unsaved().minus(m_sent.batch.edits, {}) : unsaved();
+}
+
+LeftEdits Editing::leftOf(const Edits& edits, bool returns) const
+{
+    LeftEdits left{ .edits = edits, .returns = returns };
+    const ImageRecord* photo = edits.subjects.size() == 1 ? m_photos.record(edits.subjects.constFirst()) : nullptr;
+    for (auto list = edits.lists.cbegin(); photo && list != edits.lists.cend(); ++list)
+        left.heldLists.insert(list.key(), photo->lists.value(list.key()));
+    return left;
+}
+
+// What would be lost if the program ended now.
+QList<LeftEdits> Editing::standing() const
+{
+    QList<LeftEdits> standing;
+    if (const Edits edits = unsaved(); !edits.isEmpty() && !edits.subjects.isEmpty())
+        standing.append(leftOf(edits));
+    if (m_sent.isRunning && !isSending())
+        standing.append(leftOf(m_sent.batch.edits));
+    return standing;
 }
 
 // Tells observers, where there is something to tell.
@@ -39,6 +73,10 @@ void Editing::changed()
         Told{ m_draft.shown, m_draft.edits.keys(), m_batch, m_batch.include(), m_batch.values(), m_added },
         Change::edits);
     m_announcer.assign(m_unsavedCount, isBatch() ? m_batch.edits.count() : m_draft.edits.count(), Change::unsavedCount);
+    const Edits& edits = isBatch() ? m_batch.edits : m_draft.edits;
+    const Edits before = std::exchange(m_noted, edits);
+    if (before != edits && !(before.isEmpty() && edits.isEmpty()))
+        m_left.noteStanding(!edits.isEmpty());
 }
 
 // --- What one types ---
@@ -234,14 +272,58 @@ void Editing::select(const Selection& selection)
     const Announcer::Together together(m_announcer);
     m_selected.set(selection);
     restart();
-    for (qsizetype i = 0; i < m_returned.size(); ++i)
-        if (setOf(m_returned.at(i).subjects) == selection.photos)
-            return put(m_returned.takeAt(i));
+    while (const auto left = m_left.takeReturning(selection.photos))
+        put(*left);
 }
 
-void Editing::discard()
+void Editing::leave()
 {
+    const Announcer::Together together(m_announcer);
+    m_left.keep(leftOf(typed()));
+    m_sent.isLeft = true;
     restart();
+}
+
+void Editing::leave(const QSet<QUrl>& gone)
+{
+    const QSet<QUrl>& selected = m_selected.selection().photos;
+    if (!isBatch() || gone.contains(selected)) {
+        if (selected.intersects(gone))
+            leave();
+        return;
+    }
+    Edits edits = typed();
+    edits.subjects.removeIf([&gone](const QUrl& photo) { return !gone.contains(photo); });
+    m_left.keep(leftOf(edits));
+}
+
+void Editing::bringBack(const LeftEdits& left)
+{
+    const Announcer::Together together(m_announcer);
+    m_left.forget(left);
+    const QList<QUrl>& photos = left.edits.subjects;
+    if (setOf(photos) != m_selected.selection().photos) {
+        leave();
+        select({ setOf(photos), photos.constFirst(), photos.constFirst() });
+    }
+    // What stands there already is not to be written over without a trace.
+    if (unsaved().keys().intersects(left.edits.keys()))
+        m_left.keep(leftOf(unsaved()));
+    showFieldsOf(left.edits);
+    const ImageRecord* record = m_selected.primaryRecord();
+    if (isBatch())
+        m_batch.take(m_batch.edits.merged(left.edits));
+    else if (record)
+        m_draft.take(m_draft.edits.merged(left.rebasedOnto(*record)), *record);
+    changed();
+}
+
+// Fields that no photo holds are on screen only when somebody put them there.
+void Editing::showFieldsOf(const Edits& edits)
+{
+    for (const QString& key : edits.keys())
+        if (const FieldSpec* field = FieldSchema::spec(key); field && !field->alwaysShown)
+            m_added.insert(key);
 }
 
 // No edit; the draft shows what the primary photo holds.
@@ -274,11 +356,7 @@ void Editing::rename(const QUrl& source, const QUrl& destination)
 {
     m_selected.follow(m_selected.selection().renamed(source, destination));
     std::replace(m_draft.edits.subjects.begin(), m_draft.edits.subjects.end(), source, destination);
-    // Edits of the photo that had the name before do not pass to the one that has it now.
-    for (Edits& edits : m_returned) {
-        edits.subjects.removeAll(destination);
-        std::replace(edits.subjects.begin(), edits.subjects.end(), source, destination);
-    }
+    m_left.rename(source, destination);
 }
 
 void Editing::rebase()
@@ -302,15 +380,18 @@ void Editing::foldBatchIntoDraft()
 
 void Editing::send()
 {
-    m_sent = { m_batch, m_added, m_selected.serial() };
+    m_sent = { .batch = m_batch, .added = m_added, .selectionSerial = m_selected.serial(), .isRunning = true };
     m_sent.batch.edits = unsaved();
 }
 
 void Editing::takeSaved(const Edits& unsaved, const QList<QUrl>& failed, const QSet<QString>& differing)
 {
     const Announcer::Together together(m_announcer);
-    if (m_sent.selectionSerial != m_selected.serial()) {
+    const bool isSending = this->isSending();
+    m_sent.isRunning = false;
+    if (!isSending) {
         giveBack(unsaved);
+        m_left.noteStanding(false);
     } else if (!failed.isEmpty()) {
         narrow(failed);
     } else {
@@ -350,28 +431,31 @@ void Editing::narrow(const QList<QUrl>& photos)
 // until just their photos are selected again.
 void Editing::giveBack(Edits edits)
 {
+    Edits away = edits;
+    away.subjects.removeIf([this](const QUrl& photo) { return m_photos.contains(photo); });
+    m_left.keep(leftOf(away));
     edits.subjects.removeIf([this](const QUrl& photo) { return !m_photos.contains(photo); });
     if (edits.isEmpty() || edits.subjects.isEmpty())
         return;
     const QSet<QUrl> photos = setOf(edits.subjects);
     if (photos == m_selected.selection().photos)
-        return put(edits);
+        return put(leftOf(edits));
     if (m_unsavedCount > 0)
-        return m_returned.append(edits);
+        return m_left.keep(leftOf(edits, true));
     const std::optional<QUrl>& primary = m_selected.selection().primary;
     const QUrl next = primary && photos.contains(*primary) ? *primary : edits.subjects.constFirst();
     select({ photos, next, next });
     m_added = m_sent.added;
-    put(edits);
+    put(leftOf(edits));
 }
 
 // Under what is being edited, for the selected photos.
-void Editing::put(const Edits& edits)
+void Editing::put(const LeftEdits& left)
 {
     if (isBatch()) {
-        m_batch.edits = edits.merged(m_batch.edits);
+        m_batch.take(left.edits.merged(m_batch.edits));
     } else if (const ImageRecord* record = m_selected.primaryRecord()) {
-        m_draft.take(edits.foldedInto(*record).merged(m_draft.edits), *record);
+        m_draft.take(left.rebasedOnto(*record).merged(m_draft.edits), *record);
     }
     changed();
 }

@@ -5,6 +5,7 @@
 
 #include "app/model/edits/Batch.h"
 #include "app/model/edits/Draft.h"
+#include "app/model/edits/LeftBehind.h"
 #include "app/model/library/PhotoList.h"
 #include "app/model/selection/SelectedPhotos.h"
 #include "core/schema/FieldSchema.h"
@@ -14,7 +15,7 @@ namespace Quorbel {
 
 class Editing final {
 public:
-    Editing(Announcer& announcer, const PhotoList& photos, SelectedPhotos& selected);
+    Editing(Announcer& announcer, const PhotoList& photos, SelectedPhotos& selected, LeftBehind& left);
     Q_DISABLE_COPY_MOVE(Editing)
 
     const Draft& draft() const { return m_draft; }
@@ -54,10 +55,15 @@ public:
     std::optional<QString> storedCustomName(const QString& typed) const;
     bool isFieldEmpty(const QString& id) const;
 
-    /// Selects these photos; edits of others are forgotten, and edits that wait for just these come back.
+    /// Selects these photos, without an edit but those that wait for just these: they come back.
     void select(const Selection& selection);
-    /// Nothing is edited any more.
-    void discard();
+    /// Nothing is edited any more: what is unsaved, and not being saved, is left behind.
+    void leave();
+    /// The same for the photos among these, which are about to disappear; the edits of the others stay.
+    void leave(const QSet<QUrl>& gone);
+    /// Selects the photos of edits that were left behind and lays them over what is edited there; what they replace,
+    /// and edits of other photos, are left behind in their place. The photos must be open.
+    void bringBack(const LeftEdits& left);
     /// Photos of the selection disappeared: its edits stay, as those of the photos that remain.
     void follow(const Selection& selection);
     /// The photo has another name: all edits of it stay.
@@ -70,8 +76,6 @@ public:
     /// The save has ended. What was saved is no edit any more; the rest goes back to its photos, wherever the
     /// selection is by then: at once, or when just they are selected again. `unsaved` is empty when all was saved.
     void takeSaved(const Edits& unsaved, const QList<QUrl>& failed, const QSet<QString>& differing);
-    /// Other photos are open: nothing waits for them any more.
-    void forgetReturned() { m_returned.clear(); }
 
 private:
     /// What a save that runs was given.
@@ -79,6 +83,8 @@ private:
         Batch batch{};  ///< of one photo: its edits alone
         QSet<QString> added{};
         int selectionSerial = 0;
+        bool isRunning = false;
+        bool isLeft = false;  ///< the user went on: these edits are not what is edited any more
     };
 
     /// What observers were told of last.
@@ -96,20 +102,26 @@ private:
     bool isShown(const FieldSpec& field) const;
     QString shownCustom(const QString& name) const;
     void changed();
+    bool isSending() const;
+    Edits typed() const;
+    QList<LeftEdits> standing() const;
+    LeftEdits leftOf(const Edits& edits, bool returns = false) const;
     void restart();
+    void showFieldsOf(const Edits& edits);
     void foldBatchIntoDraft();
     void narrow(const QList<QUrl>& photos);
     void giveBack(Edits edits);
-    void put(const Edits& edits);
+    void put(const LeftEdits& left);
 
     Announcer& m_announcer;
     const PhotoList& m_photos;
     SelectedPhotos& m_selected;
+    LeftBehind& m_left;
     Draft m_draft;
     Batch m_batch;
     QSet<QString> m_added;
     Sent m_sent;
-    QList<Edits> m_returned;  ///< of photos that were not selected when their save failed
+    Edits m_noted;  ///< what stood when it was last told to what keeps it
     Told m_told;
     int m_unsavedCount = 0;
 };

@@ -83,6 +83,7 @@ Library::Library(
 
 void Library::load(const QList<QUrl>& given)
 {
+    m_arrived.reset();
     // Without the tool nothing is read.
     const auto id = m_service ? std::optional(m_tasks.begin(RunningTasks::Kind::load, 0).id) : std::nullopt;
     runInBackground(
@@ -145,6 +146,18 @@ void Library::finish(const std::shared_ptr<Load>& load)
         emit problem(u"No supported images were found."_s);
     if (load->photos.records.isEmpty())
         return;
+    m_arrived = load;
+    emit arrived();
+}
+
+void Library::open()
+{
+    const Announcer::Together together(m_announcer);
+    const std::shared_ptr<Load> load = std::exchange(m_arrived, nullptr);
+    if (!load)
+        return;
+    if (load->writes != m_refresh.endedWrites())
+        return read(load);
     show(*load);
     emit opened();
     // Nobody watched the folder while it was read.
@@ -165,6 +178,7 @@ void Library::close()
 {
     const Announcer::Together together(m_announcer);
     m_tasks.cancelReads();
+    m_arrived.reset();
     Load nothing;
     show(nothing);
 }

@@ -25,15 +25,22 @@ public:
     /// The one folder that is open and watched; nothing where files or several folders are.
     const std::optional<QUrl>& folderURL() const { return m_folderURL; }
 
-    /// Lists the folders among these and reads the photos. What is open is replaced as a whole when the read has ended:
+    /// Lists the folders among these and reads the photos. What is open is replaced as a whole by open(), once arrived():
     /// photos, name and watched folder always come from the same load, whichever of several ends last. What others, or
     /// a save of ours, changed during the read is read again.
     void load(const QList<QUrl>& given);
+    /// Whether photos have arrived that are neither shown nor dropped.
+    bool hasArrived() const { return m_arrived != nullptr; }
+    /// Shows the photos that arrived; reads them again before, when a save of ours ended meanwhile.
+    void open();
+    void dropArrived() { m_arrived.reset(); }
     void close();
 
 signals:
     /// Photos were found, and are being read; of what was given, these exist.
     void listed(const QList<QUrl>& given);
+    /// A load has ended with photos. What was open stays until somebody calls open().
+    void arrived();
     /// Other photos are in the list.
     void opened();
     /// A text for the banner.
@@ -53,6 +60,7 @@ private:
     FolderRefresh m_refresh;
     QString m_folderName;
     std::optional<QUrl> m_folderURL;
+    std::shared_ptr<Load> m_arrived;
 };
 
 }  // namespace Quorbel

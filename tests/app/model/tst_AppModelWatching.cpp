@@ -52,7 +52,7 @@ private slots:
     void removal_data();
     void removal();
     void lastBatchPhotoInheritsTheEdits();
-    void lostEditsAreReported();
+    void leftEditsAreReported();
     void outsideRename();
     void removedFolderKeepsAll();
     void folderThatComesBackIsWatchedAgain();
@@ -177,13 +177,14 @@ void tst_AppModelWatching::lastBatchPhotoInheritsTheEdits()
     QVERIFY(f->batchInclude().isEmpty());
 }
 
-void tst_AppModelWatching::lostEditsAreReported()
+void tst_AppModelWatching::leftEditsAreReported()
 {
     OpenFolder f;
     f->setSingle(u"title"_s, u"typed"_s);
     f.remove(u"a"_s);
     QTRY_COMPARE_WITH_TIMEOUT(f.primary(), u"b.jpg"_s, 30000);
-    QCOMPARE(f->errorMessage(), u"“a.jpg” was removed by another program, and its unsaved changes with it."_s);
+    QCOMPARE(f->errorMessage(),
+        u"“a.jpg” was removed by another program. Its unsaved changes are kept: Edit ▸ Bring Back Edits."_s);
     QCOMPARE(f->unsavedCount(), 0);
 }
 

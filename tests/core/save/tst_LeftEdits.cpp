@@ -137,6 +137,9 @@ void tst_LeftEdits::newestTen()
     QCOMPARE(titles(list).join(u' '), u"8 12 11 10 9 7 6 5 4 3"_s);
     LeftEditsList::rename(list, photos({ u"/p/a.jpg"_s }).constFirst(), photos({ u"/p/z.jpg"_s }).constFirst());
     QCOMPARE(list.constLast().names(), u"z.jpg"_s);
+    LeftEditsList::keep(list, titled(u"of the photo that is gone"_s, { u"/p/y.jpg"_s }));
+    LeftEditsList::rename(list, photos({ u"/p/z.jpg"_s }).constFirst(), photos({ u"/p/y.jpg"_s }).constFirst());
+    QCOMPARE(titles(list).join(u' '), u"8 12 11 10 9 7 6 5 4"_s);
 }
 
 void tst_LeftEdits::everythingSurvives()
