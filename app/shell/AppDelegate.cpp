@@ -6,6 +6,8 @@
 #include "app/shell/MainWindowDelegate.h"
 #include "app/shell/Menus.h"
 #include "app/shell/OpenPanel.h"
+#include "app/shell/SessionEnd.h"
+#include "app/shell/TerminationSignals.h"
 #include "core/Product.h"
 #include "platform/desktop/Compositor.h"
 #include "platform/desktop/SystemScheme.h"
@@ -98,6 +100,9 @@ void AppDelegate::finishLaunching(const QList<QUrl>& urls)
     PopupFrame::setComposed(&Compositor::isRunning);
     m_app = std::make_unique<QuorbelApp>(hooks());
     buildWindow();
+    new TerminationSignals([this] { m_app->model().quitKeepingEdits(); }, this);
+    new SessionEnd(
+        m_app->model(), [this] { m_window->close(); }, this);
     if (!urls.isEmpty())
         m_content->expectPhotos();
     m_content->setFocus();  // no button looks chosen before anybody chose it

@@ -166,6 +166,9 @@ void Menus::addEditMenu()
     addEditing(menu, u"&Undo"_s, QKeySequence::Undo, "undo", canUndo);
     addEditing(menu, u"&Redo"_s, QKeySequence::Redo, "redo", canRedo);
     m_undoSave = add(menu, u"Undo Sa&ve"_s, {}, [this] { m_model.undoSave(); });
+    m_bringBack = menu->addThemedMenu(u"&Bring Back Edits"_s);
+    connect(&m_model, &AppModel::leftEditsChanged, this, &Menus::fillBringBack);
+    fillBringBack();
     menu->addSeparator();
     addEditing(menu, u"Cu&t"_s, QKeySequence::Cut, "cut", canCut);
     addEditing(menu, u"&Copy"_s, QKeySequence::Copy, "copy", hasSelectedText);
@@ -180,6 +183,16 @@ void Menus::addEditMenu()
     });
     m_find =
         add(menu, u"&Search"_s, keysFor(QKeySequence::Find, Qt::CTRL | Qt::Key_F), [this] { m_content.focusSearch(); });
+}
+
+void Menus::fillBringBack()
+{
+    m_bringBack->clear();
+    const QList<LeftEdits>& left = m_model.leftEdits();
+    for (int i = 0; i < int(left.size()); ++i)
+        add(m_bringBack, literal(u"%1 — %2"_s.arg(left.at(i).names(), left.at(i).fields())), {},
+            [this, i] { m_model.bringBack(i); });
+    m_bringBack->menuAction()->setEnabled(!left.isEmpty());
 }
 
 // A command for the text field that has the focus. Fields take its keys themselves; the action shows them and

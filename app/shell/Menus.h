@@ -42,11 +42,13 @@ private:
     void addEditing(QMenu* menu, const QString& text, QKeySequence::StandardKey key, const char* slot,
         const std::function<bool(const QWidget&)>& possible);
     void fillRecents();
+    void fillBringBack();
     void followState();
 
     AppModel& m_model;
     ContentView& m_content;
     ThemedMenu* m_recents = nullptr;
+    ThemedMenu* m_bringBack = nullptr;
     QAction* m_save = nullptr;
     QAction* m_undoSave = nullptr;
     QAction* m_rename = nullptr;

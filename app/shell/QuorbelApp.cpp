@@ -27,11 +27,21 @@ QDateTime now()
 }
 
 // Where the desktop keeps what programs remember from one run to the next.
-QString journalPath()
+QString stateFile(const QString& name)
 {
     const QString given = qEnvironmentVariable("XDG_STATE_HOME");
     const QString base = QDir::isAbsolutePath(given) ? given : QDir::homePath() + u"/.local/state"_s;
-    return base + u"/quorbel/undo"_s;
+    return base + u"/quorbel/"_s + name;
+}
+
+QString journalPath()
+{
+    return stateFile(u"undo"_s);
+}
+
+QString leftEditsPath()
+{
+    return stateFile(u"unsaved.json"_s);
 }
 
 void openUrl(const QUrl& url)
@@ -61,6 +71,7 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     services.now = now;
     services.quit = hooks.quit;
     services.journalPath = journalPath();
+    services.leftEditsPath = leftEditsPath();
     m_model = std::make_unique<AppModel>(services);
     m_placeProvider = makePlaceProvider({ .dataFolder = placesFolder(),
         .endpoint = placeEndpoint(m_model->preferences().placeService()).value_or(QUrl()) });
@@ -79,6 +90,7 @@ void QuorbelApp::tidy()
     m_thumbnails->pruneDisk();
     QThreadPool::globalInstance()->start([] {
         TemporaryFiles::clearAbandoned();
+        TemporaryFiles::clearHalfWritten(leftEditsPath());
     });
 }
 

@@ -193,7 +193,7 @@ QBTextButton::QBTextButton(const QString& title, QWidget* parent)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     onRestyle(this, [this] {
-        setFont(sansFont(12));
+        setFont(sansFont(12, m_inline ? QFont::Medium : QFont::Normal));
         updateGeometry();
     });
     installFocusRing(this, { RingShape::tight, 6, {}, {} });
@@ -214,11 +214,22 @@ void QBTextButton::setLink(bool on)
     update();
 }
 
+void QBTextButton::setInline(bool on)
+{
+    m_inline = on;
+    setFont(sansFont(12, on ? QFont::Medium : QFont::Normal));
+    setCursor(on ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    updateGeometry();
+    update();
+}
+
 QSize QBTextButton::sizeHint() const
 {
-    int width = fontMetrics().horizontalAdvance(text()) + 2 * px(m_link ? 0 : 8);
+    int width = fontMetrics().horizontalAdvance(text()) + 2 * px(hasGround() ? 8 : 0);
     if (!m_keys.isEmpty())
         width += px(6) + QFontMetrics(sansFont(11)).horizontalAdvance(m_keys);
+    if (m_inline)
+        return { width, px(17) };
     return { width, px(m_link ? 20 : 26) };
 }
 
@@ -227,15 +238,15 @@ void QBTextButton::paintEvent(QPaintEvent*)
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
     painter.setOpacity(opacity(.40));
-    if (!m_link) {
+    if (hasGround()) {
         const QColor ground = stateColor(*fade(), Qt::transparent, theme.derived.hover, theme.derived.pressed);
         paintBox(painter, rect(), pxF(6), ground, Qt::NoPen);
     }
     QFont titleFont = font();
-    titleFont.setUnderline(m_link);
+    titleFont.setUnderline(m_link || (m_inline && underMouse()));
     painter.setFont(titleFont);
-    painter.setPen(stateColor(*fade(), theme.derived.label, theme.text, theme.text));
-    const int padding = px(m_link ? 0 : 8);
+    painter.setPen(m_inline ? theme.text : stateColor(*fade(), theme.derived.label, theme.text, theme.text));
+    const int padding = px(hasGround() ? 8 : 0);
     const QRect inner = rect().adjusted(padding, 0, -padding, 0);
     painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
     painter.setFont(sansFont(11));

@@ -88,6 +88,8 @@ public:
     void setKeyHint(const QString& keys);
     /// Drawn as a link: no ground, underlined, no side padding.
     void setLink(bool on);
+    /// Drawn as a part of a line of text: no ground, no side padding, medium weight, 17 points high.
+    void setInline(bool on);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -95,8 +97,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    bool hasGround() const { return !m_link && !m_inline; }
+
     QString m_keys;
     bool m_link = false;
+    bool m_inline = false;
 };
 
 /// A capsule that inserts something: the tokens of a rename pattern. 26 points high.

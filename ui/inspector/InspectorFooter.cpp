@@ -5,6 +5,7 @@
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/InspectorStates.h"
+#include "ui/inspector/LeftNoticeLine.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -45,6 +46,7 @@ InspectorFooter::InspectorFooter(AppModel& model, QWidget* parent)
     , m_model(model)
     , m_line(new QBoxLayout(QBoxLayout::LeftToRight, this))
     , m_unsaved(new TwoLineLabel(TextRole::label, 12))
+    , m_left(new LeftNoticeLine)
     , m_rename(new QBButton(u"Rename…"_s, QBButtonKind::secondary))
     , m_add(new QBButton(u"Add field"_s, QBButtonKind::dashed))
     , m_save(new QBButton(u"Save"_s, QBButtonKind::primary))
@@ -52,9 +54,11 @@ InspectorFooter::InspectorFooter(AppModel& model, QWidget* parent)
     auto* buttons = new QHBoxLayout;
     m_unsaved->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_line->addWidget(m_unsaved, 1);
+    m_line->addWidget(m_left, 1);
     m_line->addLayout(buttons);
     for (QBButton* button : { m_rename, m_add, m_save })
         buttons->addWidget(button);
+    connect(m_left->button(), &QAbstractButton::clicked, this, &InspectorFooter::bringBack);
     connect(m_rename, &QAbstractButton::clicked, this, [this] { m_model.setRenameOpen(true); });
     connect(m_add, &QAbstractButton::clicked, this, [this] { m_model.setAddOpen(true); });
     connect(m_save, &QAbstractButton::clicked, this, [this] { m_model.requestSave(); });
@@ -88,13 +92,19 @@ void InspectorFooter::resizeEvent(QResizeEvent* event)
 
 QList<QWidget*> InspectorFooter::tabStops() const
 {
-    return { m_rename, m_add, m_save };
+    return { m_left->button(), m_rename, m_add, m_save };
 }
 
 void InspectorFooter::refresh(bool hasPhoto)
 {
     const bool dirty = hasPhoto && m_model.unsavedCount() > 0;
-    m_unsaved->setVisible(hasPhoto);
+    // What is unsaved here comes first.
+    const auto& left = m_model.leftNotice();
+    const bool isLeftShown = hasPhoto && left && !dirty;
+    m_left->setVisible(isLeftShown);
+    if (isLeftShown)
+        m_left->setText(InspectorStates::leftText(*left), InspectorStates::briefLeftText(*left));
+    m_unsaved->setVisible(hasPhoto && !isLeftShown);
     m_unsaved->setText(InspectorStates::unsavedText(m_model));
     m_unsaved->setRole(dirty ? TextRole::text : TextRole::label);
     m_unsaved->setContentsMargins(dirty ? px(dotSize + gap) : 0, 0, 0, 0);
@@ -106,6 +116,15 @@ void InspectorFooter::refresh(bool hasPhoto)
     // A save that runs is not asked for again.
     m_save->setEnabled(dirty && !m_model.isSaving());
     update();
+}
+
+void InspectorFooter::bringBack()
+{
+    const bool hadFocus = m_left->button()->hasFocus();
+    m_model.bringBack(0);
+    // The button is gone now: what one does next is to save.
+    if (hadFocus && m_save->isEnabled())
+        m_save->setFocus(Qt::OtherFocusReason);
 }
 
 void InspectorFooter::paintEvent(QPaintEvent*)

@@ -9,6 +9,7 @@ class QBoxLayout;
 namespace Quorbel {
 
 class AppModel;
+class LeftNoticeLine;
 class QBButton;
 class TwoLineLabel;
 
@@ -32,10 +33,12 @@ protected:
 
 private:
     void arrange();
+    void bringBack();
 
     AppModel& m_model;
     QBoxLayout* m_line;
     TwoLineLabel* m_unsaved;
+    LeftNoticeLine* m_left;
     QBButton* m_rename;
     QBButton* m_add;
     QBButton* m_save;

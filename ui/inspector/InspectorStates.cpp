@@ -131,6 +131,19 @@ QString unsavedText(const AppModel& model)
     return u"%1 field%2 → %3 files"_s.arg(count).arg(plural(count)).arg(model.selection().size());
 }
 
+QString leftText(const LeftNotice& left)
+{
+    return u"%1 edit%2 of %3 photo%4 left unsaved"_s.arg(left.edits)
+        .arg(plural(left.edits))
+        .arg(left.photos)
+        .arg(plural(left.photos));
+}
+
+QString briefLeftText(const LeftNotice& left)
+{
+    return u"%1 edit%2 left unsaved"_s.arg(left.edits).arg(plural(left.edits));
+}
+
 QString addTitle(const AppModel& model)
 {
     return model.isBatch() ? u"Add field to all"_s : u"Add field"_s;

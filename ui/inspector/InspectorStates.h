@@ -7,6 +7,7 @@
 namespace Quorbel {
 
 class AppModel;
+struct LeftNotice;
 struct CustomValue;
 struct FieldSpec;
 
@@ -19,6 +20,10 @@ FieldRowState customRow(const AppModel& model, const CustomValue& custom);
 QString currentText(const AppModel& model, const QString& id);
 
 QString unsavedText(const AppModel& model);
+/// "3 edits of 5 photos left unsaved"
+QString leftText(const LeftNotice& left);
+/// "3 edits left unsaved"
+QString briefLeftText(const LeftNotice& left);
 QString addTitle(const AppModel& model);
 /// The title of the button that saves, or applies to several.
 QString saveTitle(const AppModel& model);

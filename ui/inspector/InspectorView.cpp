@@ -52,7 +52,7 @@ InspectorView::InspectorView(
 void InspectorView::connectModel()
 {
     for (const auto changed : { &AppModel::selectionChanged, &AppModel::primaryChanged, &AppModel::recordsChanged,
-             &AppModel::editsChanged, &AppModel::isSavingChanged })
+             &AppModel::editsChanged, &AppModel::isSavingChanged, &AppModel::leftEditsChanged })
         connect(&m_model, changed, this, &InspectorView::refresh);
     connect(&m_model.preferences(), &Preferences::changed, this, &InspectorView::refresh);
 }

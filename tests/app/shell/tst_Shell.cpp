@@ -3,6 +3,8 @@
 #include "app/shell/MainWindowDelegate.h"
 #include "app/shell/Menus.h"
 #include "app/shell/OpenPanel.h"
+#include "app/shell/SessionEnd.h"
+#include "app/shell/TerminationSignals.h"
 #include "tests/ui/window/WindowFixture.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/ThemedMenuBar.h"
@@ -18,6 +20,9 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTimer>
+
+#include <csignal>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -32,6 +37,11 @@ private slots:
     void renameFollowsItsCauses();
     void selectAllIsTheFieldsFirst();
     void recentItems();
+    void editsAreBroughtBack();
+    void signalsKeepEdits_data();
+    void signalsKeepEdits();
+    void endOfTheSession_data();
+    void endOfTheSession();
     void menusRestUnderASheet();
     void closingAsksAboutUnsavedEdits();
     void geometryIsRemembered();
@@ -150,6 +160,100 @@ void tst_Shell::recentItems()
     action(fixture, u"Clear Menu"_s)->trigger();
     QVERIFY(fixture.model->preferences().recentPaths().isEmpty());
     QVERIFY(!recents->menuAction()->isEnabled());
+}
+
+void tst_Shell::editsAreBroughtBack()
+{
+    WindowFixture fixture;
+    new Menus(*fixture.model.model, *fixture.content, {});
+    fixture.open({ u"a & b.jpg"_s, u"c.jpg"_s });
+    fixture.show();
+    QMenu* menu = action(fixture, u"Bring Back Edits"_s)->menu<QMenu*>();
+    QVERIFY(!menu->menuAction()->isEnabled());
+    fixture.model->setSingle(u"title"_s, u"First"_s);
+    fixture.model.click(u"c.jpg"_s);
+    fixture.model->discardSaveDialog();
+    fixture.model->setSingle(u"creator"_s, u"Second"_s);
+    fixture.model.click(u"a & b.jpg"_s);
+    fixture.model->discardSaveDialog();
+    QVERIFY(menu->menuAction()->isEnabled());
+    QStringList texts;
+    for (const QAction* item : menu->actions())
+        texts.append(item->text());
+    QCOMPARE(texts, (QStringList{ u"c.jpg — Creator"_s, u"a && b.jpg — Title"_s }));
+    menu->actions().at(1)->trigger();
+    QCOMPARE(fixture.model->draftValues().value(u"title"_s), u"First"_s);
+    QCOMPARE(menu->actions().size(), 1);
+}
+
+void tst_Shell::signalsKeepEdits_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGHUP") << SIGHUP;
+    QTest::newRow("SIGINT") << SIGINT;
+}
+
+void tst_Shell::signalsKeepEdits()
+{
+    QFETCH(int, signal);
+    ModelFixture model;
+    int quits = 0;
+    model.services.quit = [&] { ++quits; };
+    model.services.leftEditsPath = model.settings.filePath(u"unsaved.json"_s);
+    model.services.keepInterval = std::chrono::hours(1);
+    model.relaunch();
+    const TerminationSignals ending([&] { model->quitKeepingEdits(); });
+    model.addTitled({ u"a.jpg"_s });
+    QVERIFY(model.open());
+    model->setSingle(u"title"_s, u"Mine"_s);
+    QVERIFY(!QFile::exists(model.services.leftEditsPath));
+    QCOMPARE(::raise(signal), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(quits, 1, 30'000);
+    const auto kept = LeftEditsList::fromJson(readFile(model.services.leftEditsPath));
+    QVERIFY(kept && kept->size() == 1);
+    QCOMPARE(kept->constFirst().edits.scalars.value(u"title"_s), u"Mine"_s);
+}
+
+void tst_Shell::endOfTheSession_data()
+{
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<bool>("mayEnd");
+    QTest::newRow("save") << u"save"_s << true;
+    QTest::newRow("discard") << u"discard"_s << true;
+    QTest::newRow("cancel") << u"cancel"_s << false;
+    QTest::newRow("nothing to ask") << QString() << true;
+}
+
+// As quitting: the question, its answer, and the end or not.
+void tst_Shell::endOfTheSession()
+{
+    QFETCH(QString, answer);
+    QFETCH(bool, mayEnd);
+    ModelFixture model;
+    int quits = 0;
+    model.services.quit = [&] { ++quits; };
+    model.relaunch();
+    model.addTitled({ u"a.jpg"_s });
+    QVERIFY(model.open());
+    if (!answer.isEmpty())
+        model->setSingle(u"title"_s, u"Mine"_s);
+    connect(model.model.get(), &AppModel::saveOpenChanged, this, [&] {
+        if (!model->saveOpen())
+            return;
+        QTimer::singleShot(0, model.model.get(), [&] {
+            if (answer == u"save"_s)
+                model->confirmSaveDialog();
+            else if (answer == u"discard"_s)
+                model->discardSaveDialog();
+            else
+                model->cancelSaveDialog();
+        });
+    });
+    SessionEnd session(*model.model, [&] { model->requestQuit(); });
+    QCOMPARE(session.ask(), mayEnd);
+    QCOMPARE(quits, mayEnd ? 1 : 0);
+    QCOMPARE(model.onDisk(u"a.jpg"_s, u"XMP:Title"_s).toString(), answer == u"save"_s ? u"Mine"_s : u"a.jpg"_s);
 }
 
 void tst_Shell::menusRestUnderASheet()

@@ -135,5 +135,10 @@ int main(int argc, char** argv)
     f.model().preferences().showNamespace.set(true);
     f.window->resize(520, 1500);
     grab(f, folder, u"batch-namespaces"_s);
+    f.window->resize(520, 700);
+    f.click(u"IMG_4022.jpg"_s);
+    grab(f, folder, u"left"_s);
+    f.click(u"IMG_4023.jpg"_s, false, true);
+    grab(f, folder, u"left-batch"_s);
     return 0;
 }

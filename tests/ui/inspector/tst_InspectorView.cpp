@@ -103,6 +103,7 @@ private slots:
     void footer_data();
     void footer();
     void footerButtons();
+    void footerOfLeftEdits();
     void mapFollowsTheCoordinates();
     void fillsPlaceFromCoordinates();
     void picksAPlace();
@@ -410,6 +411,52 @@ void tst_InspectorView::footer()
     QCOMPARE(save->isEnabled(), !fields.isEmpty());
 }
 
+// Said in the place of "No unsaved changes", on two lines where one does not hold it; gone with the next edit.
+void tst_InspectorView::footerOfLeftEdits()
+{
+    InspectorFixture f;
+    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
+        f.add(name, {});
+    QVERIFY(f.open());
+    const QString offer = u"Bring back"_s;
+    QVERIFY(!button(footerOf(f), offer));
+    f.click(u"b.jpg"_s, false, true);
+    f.model().setBatch(u"title"_s, u"x"_s);
+    f.model().setBatch(u"creator"_s, u"y"_s);
+    f.click(u"c.jpg"_s);
+    QCOMPARE(labels(footerOf(f)), QStringList{ u"2 edits of 2 photos left unsaved"_s });
+    QVERIFY(button(footerOf(f), offer));
+    f.model().setSingle(u"title"_s, u"z"_s);
+    QCOMPARE(labels(footerOf(f)), QStringList{ u"1 unsaved change"_s });
+    f.click(u"a.jpg"_s);
+    f.model().discardSaveDialog();
+    QCOMPARE(labels(footerOf(f)), QStringList{ u"1 edit of 1 photo left unsaved"_s });
+
+    const auto lineOf = [&f, offer] {
+        const QAbstractButton* shown = button(footerOf(f), offer);
+        const auto* text = shown->parentWidget()->findChild<QLabel*>();
+        return std::pair(text->geometry(), shown->geometry());
+    };
+    QVERIFY(lineOf().second.top() >= lineOf().first.bottom());
+    f.window->resize(430, f.window->height());
+    f.settle();
+    QCOMPARE(labels(footerOf(f)), QStringList{ u"1 edit left unsaved"_s });
+    f.window->resize(900, f.window->height());
+    f.settle();
+    QCOMPARE(labels(footerOf(f)).join(QString()), u"1 edit of 1 photo left unsaved · "_s);
+    QCOMPARE(lineOf().second.top(), lineOf().first.top());
+    QVERIFY(lineOf().second.left() > lineOf().first.right());
+
+    QAbstractButton* bringBack = button(footerOf(f), offer);
+    QVERIFY(tabStopsFrom(bringBack).contains(offer));
+    bringBack->setFocus();
+    QTest::keyClick(bringBack, Qt::Key_Space);
+    QCOMPARE(f.photos.primary(), u"c.jpg"_s);
+    QCOMPARE(f.model().draftValues().value(u"title"_s), u"z"_s);
+    QVERIFY(!button(footerOf(f), offer));
+    QCOMPARE(QApplication::focusWidget(), button(footerOf(f), u"Save"_s));
+}
+
 void tst_InspectorView::footerButtons()
 {
     InspectorFixture f;
@@ -621,7 +668,7 @@ void tst_InspectorView::tabGoesFromTopToBottom()
     InspectorFixture::settle();
     QCOMPARE(tabStopsFrom(f.editor<QBTextField>(u"title"_s)),
         QStringList({ u"Title"_s, u"Description"_s, u"Date taken"_s, u"Now"_s, u"Keywords"_s, u"Creator"_s,
-            u"Copyright"_s, u"Place"_s, u"Coordinates"_s, u"Add field"_s }));
+            u"Copyright"_s, u"Place"_s, u"Coordinates"_s, u"Bring back"_s, u"Add field"_s }));
 }
 
 void tst_InspectorView::tellsScreenReaders()
