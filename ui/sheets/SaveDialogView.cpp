@@ -104,7 +104,7 @@ public:
         m_grid->setColumnStretch(1, 1);
         for (int i = 0; i < int(lines.size()); ++i) {
             m_grid->addWidget(ThemedLabel::wrapped(lines.at(i).label, TextRole::label, 13), i, 0, Qt::AlignTop);
-            m_grid->addLayout(valueCell(lines.at(i)), i, 1, Qt::AlignTop);
+            m_grid->addLayout(valueCell(lines.at(i)), i, 1);
         }
         onRestyle(this, [this] {
             m_grid->setContentsMargins(px(changeSide), px(changeAbove), px(changeSide), px(changeAbove));
@@ -133,6 +133,8 @@ private:
         cell->addWidget(value);
         if (!line.note.isEmpty())
             cell->addWidget(ThemedLabel::wrapped(line.note, TextRole::amberText, 11));
+        // Not aligned in the grid instead: that bounds a layout to its hint, which knows no broken lines.
+        cell->addStretch();
         return cell;
     }
 
