@@ -115,6 +115,8 @@ void InspectorFooter::refresh(bool hasPhoto)
     setTitle(m_save, InspectorStates::saveTitle(m_model));
     // A save that runs is not asked for again.
     m_save->setEnabled(dirty && !m_model.isSaving());
+    // The line chooses its words by its width, which was another one beside the buttons of before.
+    m_line->activate();
     update();
 }
 

@@ -416,7 +416,7 @@ void tst_InspectorView::footerOfLeftEdits()
 {
     InspectorFixture f;
     for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
-        f.add(name, {});
+        f.add(name, alike);  // so Rename… stands beside the line
     QVERIFY(f.open());
     const QString offer = u"Bring back"_s;
     QVERIFY(!button(footerOf(f), offer));
