@@ -1,11 +1,16 @@
 #include "core/MetadataService.h"
 
 #include "core/save/Companions.h"
+#include "core/save/JournalTags.h"
 #include "core/save/RefusedHomes.h"
 #include "core/save/SafeWriter.h"
+#include "core/save/SaveGuard.h"
 #include "core/save/ValueTooLong.h"
 #include "core/schema/CustomFields.h"
+#include "core/tool/IptcEncoding.h"
 #include "core/tool/MetadataWriter.h"
+
+#include <QFile>
 
 namespace Quorbel {
 
@@ -48,10 +53,25 @@ QMap<QUrl, QMap<QString, QString>> MetadataService::refusedHomes(const EditPlan&
     return RefusedHomes::find(runner, plan, targets);
 }
 
-JournalEntry MetadataService::journalEntry(
-    const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options) const
+JournalEntry MetadataService::journalEntry(const EditPlan& plan, const QList<QUrl>& targets,
+    const WriteOptions& options, QHash<QString, QString>* fileTypes) const
 {
-    return SaveUndo::journalEntry(runner, plan, targets, options);
+    return SaveUndo::journalEntry(runner, plan, targets, options, fileTypes);
+}
+
+QHash<QUrl, FileTags> MetadataService::stored(
+    const EditPlan& plan, const QList<QUrl>& targets, const ReadControl& control) const
+{
+    QStringList tagNames = JournalTags::writtenTags(plan);
+    tagNames.removeAll(IptcEncoding::blockTag());
+    const QStringList selection = JournalTags::readArgs(tagNames);
+    const QList<QUrl> files = SaveGuard::filesBehindLinks(targets);
+    const auto tags = TagDump::parse(runner.readDump(selection, files, control));
+    QHash<QUrl, FileTags> stored;
+    for (qsizetype i = 0; i < targets.size(); ++i)
+        if (const auto found = tags.constFind(QFile::encodeName(files.at(i).toLocalFile())); found != tags.cend())
+            stored.insert(targets.at(i), *found);
+    return stored;
 }
 
 UndoOutcome MetadataService::undo(const JournalEntry& entry) const

@@ -33,7 +33,12 @@ struct MetadataService {
     /// See RefusedHomes::find().
     QMap<QUrl, QMap<QString, QString>> refusedHomes(const EditPlan& plan, const QList<QUrl>& targets) const;
     /// See SaveUndo.
-    JournalEntry journalEntry(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options = {}) const;
+    JournalEntry journalEntry(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options = {},
+        QHash<QString, QString>* fileTypes = nullptr) const;
+    /// What the files behind the targets hold in the tags of the plan, as it is stored: one run, for the targets that
+    /// could be read. Throws the runner's errors.
+    QHash<QUrl, FileTags> stored(
+        const EditPlan& plan, const QList<QUrl>& targets, const ReadControl& control = {}) const;
     UndoOutcome undo(const JournalEntry& entry) const;
     /// See Companions::movePhoto().
     void renameFile(const QUrl& source, const QUrl& destination) const;

@@ -70,10 +70,15 @@ void AppModel::save(const QStringList& leftOut)
             discardSaveDialog();
         return;
     }
+    SaveJob::SeenLists seen;
+    if (!edits.lists.isEmpty())
+        for (const QUrl& photo : edits.subjects)
+            if (const ImageRecord* record = photos().record(photo))
+                seen.insert(photo, record->lists);
     m_editing.send();
     if (onWriteBegins)
         onWriteBegins(edits.subjects);
-    m_saving.save(edits, { m_preferences.backupOriginals(), m_preferences.writeSidecar(), leftOut });
+    m_saving.save(edits, { m_preferences.backupOriginals(), m_preferences.writeSidecar(), leftOut }, seen);
 }
 
 void AppModel::tellWritten(const SaveOutcome& outcome)

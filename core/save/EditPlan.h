@@ -11,6 +11,7 @@ struct EditPlan {
     QMap<QString, QStringList> lists{};  ///< field id to new items
     QList<CustomValue> customs{};
     MetadataWriter::ListMode listMode = MetadataWriter::ListMode::replace;
+    bool isExact = false;  ///< the items of the lists are as files spell them: nothing is trimmed or left out
 
     /// Homes (homeOf()) that the save does not write to, because the files' own cannot be written.
     QStringList leftOut{};

@@ -150,22 +150,26 @@ private:
 
 }  // namespace
 
-JournalEntry journalEntry(
-    const ExifToolRunner& runner, const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options)
+JournalEntry journalEntry(const ExifToolRunner& runner, const EditPlan& plan, const QList<QUrl>& targets,
+    const WriteOptions& options, QHash<QString, QString>* fileTypes)
 {
+    const QString typeTag = u"File:FileType"_s;
     JournalEntry entry{ .savedAt = QDateTime::currentDateTimeUtc(),
         .writtenTags = JournalTags::writtenTags(plan),
         .customNames = CustomFields::names(plan.customs) };
     if (entry.writtenTags.isEmpty() || targets.isEmpty())
         return entry;
     const auto files = SaveGuard::filesBehindLinks(targets);
-    const auto tags = TagDump::parse(runner.readDump(JournalTags::readArgs(entry.writtenTags), files));
+    auto tags = TagDump::parse(runner.readDump(JournalTags::readArgs(entry.writtenTags) << u'-' + typeTag, files));
     for (qsizetype i = 0; i < files.size(); ++i) {
         const QString path = files[i].toLocalFile();
-        const auto before = tags.constFind(QFile::encodeName(path));
+        const auto before = tags.find(QFile::encodeName(path));
         const auto stamp = FileStamp::of(path);
-        if (!stamp || before == tags.cend())
+        if (!stamp || before == tags.end())
             continue;
+        const QList<QByteArray> type = before->take(typeTag);
+        if (fileTypes && !type.isEmpty())
+            fileTypes->insert(path, QString::fromUtf8(type.constFirst()));
         entry.files.append({ .path = path, .before = *stamp, .after = *stamp, .tags = *before });
         if (options.writeSidecar)
             entry.files.last().sidecar = JournalSidecar::of(Companions::sidecarPath(targets[i].toLocalFile()));

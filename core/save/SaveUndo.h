@@ -22,9 +22,9 @@ struct UndoOutcome {
 namespace SaveUndo {
 
 /// What the plan is about to replace in the targets, read in one run, and in their sidecars, if those are written as
-/// well. Throws the runner's errors.
-JournalEntry journalEntry(
-    const ExifToolRunner& runner, const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options);
+/// well; in passing, of what type (ExifTool's name) each file is, by its path. Throws the runner's errors.
+JournalEntry journalEntry(const ExifToolRunner& runner, const EditPlan& plan, const QList<QUrl>& targets,
+    const WriteOptions& options, QHash<QString, QString>* fileTypes = nullptr);
 /// Writes the old values of a save back, one run for each distinct set of them, without new backups. A file that is
 /// read-only or blocked, or whose run fails, is named in the outcome and does not keep others from theirs.
 UndoOutcome undo(const ExifToolRunner& runner, const JournalEntry& entry);

@@ -1,5 +1,6 @@
 #include "core/save/SaveVerification.h"
 
+#include "core/save/TagHomes.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/Coordinates.h"
@@ -7,6 +8,7 @@
 #include "core/tool/MetadataWriter.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace Quorbel::SaveVerification {
 
@@ -25,6 +27,12 @@ bool sameText(const QString& written, const QString& found)
     const auto a = Text::parseDouble(written);
     const auto b = Text::parseDouble(found);
     return a && b && *a == *b;
+}
+
+// Of an enumeration the tool shows "5 (normal urgency)" and stores "5".
+bool isNumberOf(const QString& shown, const QString& number)
+{
+    return !number.isEmpty() && shown.startsWith(number + u" ("_s);
 }
 
 bool samePosition(const QString& written, const QString& found)
@@ -46,7 +54,7 @@ bool sameScalar(const FieldSpec& field, const QString& written, const QString& f
     case FieldKind::rating:
         return sameText(MetadataWriter::normalizeRating(written), MetadataWriter::normalizeRating(found));
     default:
-        return sameText(written, found);
+        return sameText(written, found) || isNumberOf(found, written);
     }
 }
 
@@ -59,14 +67,74 @@ QStringList withoutBlanks(const QStringList& items)
     return kept;
 }
 
-bool sameList(const QStringList& written, const QStringList& found, MetadataWriter::ListMode mode)
+bool sameList(const EditPlan& plan, const QStringList& written, const QStringList& found)
 {
-    const QStringList wanted = withoutBlanks(written);
-    if (mode == MetadataWriter::ListMode::replace)
+    const QStringList wanted = plan.isExact ? written : withoutBlanks(written);
+    if (plan.listMode == MetadataWriter::ListMode::replace)
         return std::equal(wanted.cbegin(), wanted.cend(), found.cbegin(), found.cend(), sameText);
     return std::all_of(wanted.cbegin(), wanted.cend(), [&found](const QString& item) {
         return std::any_of(
             found.cbegin(), found.cend(), [&item](const QString& other) { return sameText(item, other); });
+    });
+}
+
+// The text of a home, as its standard keeps it: without white space at its end, an enumeration by its number.
+bool sameInHome(const FieldSpec& field, const QString& written, const QByteArray& stored)
+{
+    QString found = QString::fromUtf8(stored);
+    if (field.kind == FieldKind::date)
+        return MetadataWriter::displayDate(written) == MetadataWriter::displayDate(found);
+    if (field.kind == FieldKind::rating)
+        return sameText(written, MetadataWriter::normalizeRating(found));
+    found.replace(QChar::Null, u'\n');
+    return sameText(written, found) || Text::trimmedWithNewlines(written) == Text::trimmedWithNewlines(found)
+        || isNumberOf(written, found);
+}
+
+// A position stands where there is one at all: in EXIF without its sign, which is a tag of its own there.
+bool samePositionInHomes(const QList<Assignment>& assignments, const FileTags& stored)
+{
+    for (const Assignment& written : assignments) {
+        const bool isNegative = assignments.contains({ .tag = written.tag + u"Ref"_s, .value = u"S"_s })
+            || assignments.contains({ .tag = written.tag + u"Ref"_s, .value = u"W"_s });
+        const FileTags places = TagHomes::placesOf(written.tag, stored);
+        for (auto place = places.cbegin(); place != places.cend(); ++place) {
+            const QString found = QString::fromUtf8(place->value(0));
+            const auto degrees = Text::parseDouble(found);
+            const auto wanted = Text::parseDouble(written.value);
+            constexpr double tolerance = 1e-6;
+            const double sign = isNegative && place.key().startsWith(u"XMP-"_s) ? -1 : 1;
+            const bool isSame = degrees && wanted ? std::abs(*degrees - sign * *wanted) < tolerance
+                                                  : found.left(1).compare(written.value, Qt::CaseInsensitive) == 0;
+            if (!isSame)
+                return false;
+        }
+    }
+    return true;
+}
+
+bool holdsInHomes(const FieldSpec& field, const QString& value, const QString& fileType, const FileTags& stored)
+{
+    const QList<Assignment> assignments = MetadataWriter::scalarArgs(field, value);
+    if (field.kind == FieldKind::coordinates)
+        return samePositionInHomes(assignments, stored);
+    return std::all_of(assignments.cbegin(), assignments.cend(), [&](const Assignment& written) {
+        const FileTags places = TagHomes::placesOf(written.tag, stored);
+        const auto holds = [&](const QList<QByteArray>& values) {
+            return values.size() == 1 && sameInHome(field, written.value, values.constFirst());
+        };
+        if (!TagHomes::holds(fileType, written.tag))
+            return true;
+        return written.value.isEmpty() ? std::all_of(places.cbegin(), places.cend(), holds)
+                                       : std::any_of(places.cbegin(), places.cend(), holds);
+    });
+}
+
+bool holdsInHomes(const EditPlan& plan, const FieldSpec& field, const QStringList& items, const QString& fileType,
+    const FileTags& stored)
+{
+    return std::all_of(field.writeTags.cbegin(), field.writeTags.cend(), [&](const QString& tag) {
+        return !TagHomes::holds(fileType, tag) || sameList(plan, items, TagHomes::itemsOf(tag, stored));
     });
 }
 
@@ -96,23 +164,34 @@ bool isInPart(const EditPlan& plan, const FieldSpec& field)
 
 }  // namespace
 
-QStringList differences(const EditPlan& plan, const ImageRecord& record)
+QStringList differences(const EditPlan& plan, const ImageRecord& record, const FileTags* stored)
 {
     QStringList keys;
     for (const auto& field : FieldSchema::all()) {
         if (isInPart(plan, field))
             continue;
-        if (const auto scalar = plan.scalars.constFind(field.id);
-            scalar != plan.scalars.cend() && !sameScalar(field, *scalar, record.values.value(field.id)))
-            keys.append(field.id);
-        if (const auto list = plan.lists.constFind(field.id);
-            list != plan.lists.cend() && !sameList(*list, record.lists.value(field.id), plan.listMode))
-            keys.append(field.id);
+        if (const auto scalar = plan.scalars.constFind(field.id); scalar != plan.scalars.cend())
+            if (!sameScalar(field, *scalar, record.values.value(field.id))
+                || (stored && !holdsInHomes(field, *scalar, record.fileType, *stored)))
+                keys.append(field.id);
+        if (const auto list = plan.lists.constFind(field.id); list != plan.lists.cend())
+            if (!sameList(plan, *list, record.lists.value(field.id))
+                || (stored && !holdsInHomes(plan, field, *list, record.fileType, *stored)))
+                keys.append(field.id);
     }
     for (const auto& custom : plan.customs)
         if (!holdsCustom(record, custom))
             keys.append(CustomFields::key(custom.name));
     return keys;
+}
+
+bool hasHiddenHomes(const EditPlan& plan)
+{
+    const QStringList ids = plan.scalars.keys() + plan.lists.keys();
+    return std::any_of(ids.cbegin(), ids.cend(), [](const QString& id) {
+        const FieldSpec* field = FieldSchema::spec(id);
+        return field && (field->kind == FieldKind::coordinates || field->writeTags.size() > 1);
+    });
 }
 
 QStringList labels(const QStringList& keys)

@@ -3,6 +3,7 @@
 
 #include "core/save/EditPlan.h"
 #include "core/schema/ImageRecord.h"
+#include "core/tool/TagDump.h"
 
 namespace Quorbel::SaveVerification {
 
@@ -10,7 +11,11 @@ namespace Quorbel::SaveVerification {
 /// Values are compared in the normal form of their kind: dates to the minute, ratings as stars, positions to six
 /// decimals, lists without blank items; in append mode every item must be among the record's. A field that was written
 /// to some of its homes only may show what the home that was left out still holds: that is no difference.
-QStringList differences(const EditPlan& plan, const ImageRecord& record);
+/// `stored`, where it is known: what the file holds in the tags of the plan. Then every home that the photo's format
+/// has a place for counts, not only the one that is shown.
+QStringList differences(const EditPlan& plan, const ImageRecord& record, const FileTags* stored = nullptr);
+/// Whether some field of the plan has homes that the record does not show.
+bool hasHiddenHomes(const EditPlan& plan);
 
 /// The labels of such keys, for the user: "Coordinates", "Job ID", a custom field's name.
 QStringList labels(const QStringList& keys);

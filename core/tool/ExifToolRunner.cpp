@@ -275,11 +275,12 @@ QMap<QString, QString> ExifToolRunner::readErrors(const QList<QUrl>& files, cons
     return errors;
 }
 
-QByteArray ExifToolRunner::readDump(const QStringList& selection, const QList<QUrl>& files) const
+QByteArray ExifToolRunner::readDump(
+    const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const
 {
     if (files.isEmpty())
         return {};
-    Ended ended = runToEnd(selection + paths(files), {}, {});
+    Ended ended = runToEnd(selection + paths(files), {}, control);
     if (!ended.isGood() && ended.standardOutput.isEmpty())
         throw failure(ended);
     return std::move(ended.standardOutput);

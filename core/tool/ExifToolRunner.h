@@ -63,8 +63,8 @@ struct ExifToolRunner {
     /// own tag called Error is none of these. Throws like read(), but not for the tool's exit status.
     QMap<QString, QString> readErrors(const QList<QUrl>& files, const ReadControl& control = {}) const;
     /// The tool's answer to a selection, as it printed it: also that about the other files when some could not be read.
-    /// Throws ToolError when there is none at all, or LaunchError.
-    QByteArray readDump(const QStringList& selection, const QList<QUrl>& files) const;
+    /// Throws ToolError when there is none at all, LaunchError or CancelledError; tells no progress.
+    QByteArray readDump(const QStringList& selection, const QList<QUrl>& files, const ReadControl& control = {}) const;
     /// Runs a command over the files and returns the tool's standard output; nothing is run, and "" returned, when the
     /// command or the list is empty. `backup` lets the tool keep its "_original" copies; `messages` gains what it
     /// printed to standard error. Throws ToolError, LaunchError, or AssignmentConflict before anything is run.

@@ -1,9 +1,10 @@
 #include "core/tool/IptcEncoding.h"
 
+#include "core/text/CodePage1252.h"
+
 #include <QUtf8StringView>
 
 #include <algorithm>
-#include <array>
 
 namespace Quorbel::IptcEncoding {
 
@@ -11,20 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What code page 1252 holds at 0x80…0x9F, by Unicode's mapping table; the rest of the page is Latin 1. Ascending.
-constexpr std::array<char16_t, 27> extraCharacters{ 0x0152, 0x0153, 0x0160, 0x0161, 0x0178, 0x017D, 0x017E, 0x0192,
-    0x02C6, 0x02DC, 0x2013, 0x2014, 0x2018, 0x2019, 0x201A, 0x201C, 0x201D, 0x201E, 0x2020, 0x2021, 0x2022, 0x2026,
-    0x2030, 0x2039, 0x203A, 0x20AC, 0x2122 };
-
 // The value of CodedCharacterSet.
 const QByteArray utf8("\x1b%G");
-
-bool fits(QChar c)
-{
-    const char16_t code = c.unicode();
-    return code < 0x80 || (code >= 0xA0 && code <= 0xFF)
-        || std::binary_search(extraCharacters.begin(), extraCharacters.end(), code);
-}
 
 }  // namespace
 
@@ -37,7 +26,7 @@ bool needsUtf8(const QList<Assignment>& assignments)
 {
     return std::any_of(assignments.cbegin(), assignments.cend(), [](const Assignment& assignment) {
         return assignment.tag.startsWith(u"IPTC:"_s) && assignment.tag != blockTag()
-            && !std::all_of(assignment.value.cbegin(), assignment.value.cend(), fits);
+            && !std::all_of(assignment.value.cbegin(), assignment.value.cend(), CodePage1252::has);
     });
 }
 
@@ -52,7 +41,8 @@ Stored storedIn(const FileTags& tags)
     QMap<QString, bool> isDeclared;  // by block: "IPTC", "IPTC2"
     for (auto it = tags.cbegin(); it != tags.cend(); ++it)
         if (it.key().startsWith(u"IPTC"_s))
-            isDeclared[it.key().section(u':', 0, 0)] |= it.key().endsWith(u":CodedCharacterSet"_s) && it->contains(utf8);
+            isDeclared[it.key().section(u':', 0, 0)] |=
+                it.key().endsWith(u":CodedCharacterSet"_s) && it->contains(utf8);
     if (!isDeclared.isEmpty() && !isDeclared.values().contains(false))
         return Stored::declaredUtf8;
     if (isDeclared.size() > 1)

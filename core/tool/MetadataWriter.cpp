@@ -55,17 +55,15 @@ QList<Assignment> scalarArgs(const FieldSpec& field, const QString& value)
     return args;
 }
 
-QList<Assignment> listArgs(const FieldSpec& field, const QStringList& values, ListMode mode)
+namespace {
+
+QList<Assignment> exactListArgs(const FieldSpec& field, const QStringList& items, ListMode mode)
 {
-    QStringList items;
-    for (const QString& value : values)
-        if (const QString item = Text::trimmed(value); !item.isEmpty())
-            items.append(item);
     QList<Assignment> args;
     for (const QString& tag : field.writeTags) {
         if (mode == ListMode::replace)
             args.append({ .tag = tag });
-        for (const QString& item : std::as_const(items)) {
+        for (const QString& item : items) {
             if (mode == ListMode::replace) {
                 args.append({ .tag = tag, .value = item });
             } else {
@@ -76,6 +74,17 @@ QList<Assignment> listArgs(const FieldSpec& field, const QStringList& values, Li
         }
     }
     return args;
+}
+
+}  // namespace
+
+QList<Assignment> listArgs(const FieldSpec& field, const QStringList& values, ListMode mode)
+{
+    QStringList items;
+    for (const QString& value : values)
+        if (const QString item = Text::trimmed(value); !item.isEmpty())
+            items.append(item);
+    return exactListArgs(field, items, mode);
 }
 
 QList<Assignment> customArgs(const QString& name, const QString& value)
@@ -94,7 +103,8 @@ QList<Assignment> assignments(const EditPlan& plan)
             args += scalarArgs(*field, it.value());
     for (auto it = plan.lists.cbegin(); it != plan.lists.cend(); ++it)
         if (const FieldSpec* field = FieldSchema::spec(it.key()))
-            args += listArgs(*field, it.value(), plan.listMode);
+            args += plan.isExact ? exactListArgs(*field, it.value(), plan.listMode)
+                                 : listArgs(*field, it.value(), plan.listMode);
     for (const auto& custom : plan.customs)
         args += customArgs(custom.name, custom.value);
     return plan.leftOut.isEmpty() ? args : withoutHomes(args, plan.leftOut);

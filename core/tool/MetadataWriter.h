@@ -32,8 +32,8 @@ QList<Assignment> listArgs(const FieldSpec& field, const QStringList& values, Li
 /// One assignment, or none when the name has no storable character, or is the one that stands for all of the group:
 /// an assignment of "All" deletes every custom field.
 QList<Assignment> customArgs(const QString& name, const QString& value);
-/// All assignments of one save: scalars, lists, custom values. Field ids that the schema does not know are skipped, and
-/// so are the homes that the plan leaves out.
+/// All assignments of one save: scalars, lists (as they stand, where the plan's are exact), custom values. Field ids that
+/// the schema does not know are skipped, and so are the homes that the plan leaves out.
 QList<Assignment> assignments(const EditPlan& plan);
 /// The ExifTool user-definition file that declares the custom group with these names.
 QString customConfig(const QStringList& names);

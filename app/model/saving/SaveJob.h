@@ -5,6 +5,7 @@
 #include "app/model/library/PhotoReader.h"
 #include "app/model/saving/SaveHistory.h"
 #include "core/MetadataService.h"
+#include "core/save/ListHomes.h"
 
 namespace Quorbel::SaveJob {
 
@@ -21,27 +22,36 @@ struct Written {
     QStringList leftOut{};  ///< homes that the plan was written without
     /// Failed targets that would take a part of the plan: the homes that they refuse, and why.
     QMap<QUrl, QMap<QString, QString>> refusedHomes{};
+    QHash<QUrl, ListHomes::Change> lists{};  ///< what became of the lists of the targets, for a plan with lists
 };
 
-/// Writes, and counts meanwhile the files that are done. What it replaces goes into the history, where there is one;
-/// a history that cannot be kept does not stop the save. Never throws.
+/// What was on screen of the lists that are to be replaced, by target.
+using SeenLists = QHash<QUrl, ListHomes::SeenLists>;
+
+/// Writes, and counts meanwhile the files that are done. Lists that differ between their homes are brought together.
+/// What it replaces goes into the history, where there is one; a history that cannot be kept does not stop the save.
+/// Never throws.
 Written run(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets,
-    const WriteOptions& options, SaveHistory* history, TaskProgress& progress);
+    const WriteOptions& options, const SeenLists& seen, SaveHistory* history, TaskProgress& progress);
 
 /// What the files hold afterwards.
 struct Checked {
     QList<ImageRecord> records{};  ///< of the targets that were saved, in their order
     QList<FileFailure> failures{};  ///< the targets that were not
     QStringList differences{};  ///< keys of fields that some saved target holds otherwise than was written
+    QMap<QString, QStringList> joined{};  ///< field id to the names of the targets whose homes were brought together
     std::optional<QString> error{};  ///< the files could not be read again; then all else is empty
 };
 
-/// Reads the targets again and compares them with the plan. After a failed run a target counts as saved when it
-/// holds all of the plan and the tool did not name it. Targets that are too slow are not read: nobody knows what they
-/// hold, so they count as not saved. Never throws; of a read that was stopped the result means nothing.
+/// Reads the targets again and compares them, in all homes of the fields, with what was to be written. After a failed
+/// run a target counts as saved when it holds all of the plan and the tool did not name it. Targets that are too slow
+/// are not read: nobody knows what they hold, so they count as not saved. Never throws; of a read that was stopped the
+/// result means nothing.
 Checked check(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const Written& written,
     const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop);
 
+/// "Keywords of 2 photos differed between IPTC and XMP and were brought together: a.jpg, b.jpg"; at least one field.
+QString joinedText(const QMap<QString, QStringList>& joined);
 /// "Could not save 2 of 40 photos: a.jpg (Not a valid JPG), b.jpg (…)"; at least one failure.
 QString failuresText(const QList<FileFailure>& failures, qsizetype targetCount);
 

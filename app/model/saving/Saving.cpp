@@ -30,6 +30,8 @@ std::optional<QString> messageOf(
         texts.append(SaveReasons::differencesText(checked.differences, written));
     if (const QString notes = SaveReasons::notesText(written.notes); !notes.isEmpty())
         texts.append(notes);
+    if (!checked.joined.isEmpty())
+        texts.append(SaveJob::joinedText(checked.joined));
     return texts.isEmpty() ? std::nullopt : std::optional(texts.join(u". "_s));
 }
 
@@ -100,15 +102,15 @@ void Saving::end(bool isGood)
     emit ended(isGood);
 }
 
-void Saving::save(const Edits& edits, const WriteOptions& options)
+void Saving::save(const Edits& edits, const WriteOptions& options, const SaveJob::SeenLists& seen)
 {
     const Announcer::Together together(m_announcer);
     begin(edits.subjects);
     const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::write, edits.subjects.size());
     runInBackground(
         this,
-        [service = *m_service, edits, options, history = m_history, progress = task.progress] {
-            return SaveJob::run(service, edits.plan(), edits.subjects, options, history.get(), *progress);
+        [service = *m_service, edits, options, seen, history = m_history, progress = task.progress] {
+            return SaveJob::run(service, edits.plan(), edits.subjects, options, seen, history.get(), *progress);
         },
         [this, edits, id = task.id](const SaveJob::Written& written) {
             const bool mayBeSaved = !written.error || (written.isPartial && edits.subjects.size() > 1);

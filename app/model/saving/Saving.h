@@ -42,8 +42,9 @@ public:
     bool canUndo() const { return m_undo.isPossible; }
     /// "Undo Save of 12 photos": which save that is.
     QString undoText() const { return SaveHistory::name(m_undo.save); }
-    /// Writes the edits to their subjects. Needs some of both, and that nothing is being saved.
-    void save(const Edits& edits, const WriteOptions& options);
+    /// Writes the edits to their subjects. Needs some of both, and that nothing is being saved. `seen`: what was on
+    /// screen of the lists that the edits replace.
+    void save(const Edits& edits, const WriteOptions& options, const SaveJob::SeenLists& seen);
     /// Puts back what the last save replaced. `photos`: those that are open, to be read again where it concerns them.
     void undo(const QList<QUrl>& photos);
     /// A photo got another name: what can be taken back follows it.

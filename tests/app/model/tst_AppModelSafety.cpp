@@ -167,7 +167,7 @@ void tst_AppModelSafety::differencesOfABatch()
     for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
         objects.append({ { u"SourceFile"_s, f.folder.path(name) }, { u"XMP:Headline"_s, u"Y"_s },
             { u"XMP:Subject"_s, u"sky"_s }, { u"XMP:Title"_s, name == u"b.jpg" ? u"x"_s : u"X"_s } });
-    f.answer(2, { .standardOutput = toolJson(objects) });
+    f.answer(3, { .standardOutput = toolJson(objects) });
     f->requestSave();
     QVERIFY(f.waitUntilIdle());
     QCOMPARE(f->errorMessage(), u"Nothing was written: Title"_s);

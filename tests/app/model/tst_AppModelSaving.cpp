@@ -240,7 +240,7 @@ void tst_AppModelSaving::secondSaveIsIgnored()
     QVERIFY(!f->saveOpen());
     tool.release();
     QVERIFY(f.waitUntilIdle());
-    QCOMPARE(tool.calls().size(), 5);
+    QCOMPARE(tool.calls().size(), 6);
 }
 
 void tst_AppModelSaving::editsDuringASaveAreKept()
