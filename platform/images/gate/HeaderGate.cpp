@@ -67,25 +67,28 @@ qint64 nextMarker(QIODevice& device, qint64 at, qint64 end)
     return -1;
 }
 
+// The first bytes of the segment at `at`, which moves on over stray bytes; too few where there is none.
+QByteArray readSegmentStart(QIODevice& device, qint64& at, qint64& strayBytes)
+{
+    constexpr qint64 longest = 18;  // as much as anybody looks at
+    const QByteArray start = device.seek(at) ? device.read(longest) : QByteArray();
+    if (start.size() >= 2 && quint8(start[0]) == 0xFF && quint8(start[1]) != 0xFF && start[1] != 0)
+        return start;
+    const qint64 found = start.isEmpty() ? -1 : nextMarker(device, at, at + strayBytes);
+    if (found < 0 || !device.seek(found))
+        return {};
+    strayBytes -= found - at;
+    at = found;
+    return device.read(longest);
+}
+
 std::optional<ImageHeader> readJpeg(QIODevice& device)
 {
     constexpr int maxSegments = 4096;  // an embedded profile takes up to 255, extended XMP some hundred
     ImageHeader header;
     qint64 at = 2, strayBytes = 4LL * 1024 * 1024;  // as many are skipped, all in all
     for (int i = 0; i < maxSegments; ++i) {
-        if (!device.seek(at))
-            return std::nullopt;
-        QByteArray start = device.read(18);
-        const bool isMarker =
-            start.size() >= 2 && quint8(start[0]) == 0xFF && quint8(start[1]) != 0xFF && start[1] != 0;
-        if (!isMarker) {
-            const qint64 found = nextMarker(device, at, at + strayBytes);
-            if (found < 0 || !device.seek(found))
-                return std::nullopt;
-            strayBytes -= found - at;
-            at = found;
-            start = device.read(18);
-        }
+        const QByteArray start = readSegmentStart(device, at, strayBytes);
         if (start.size() < 4)
             return std::nullopt;
         const int marker = quint8(start[1]);
