@@ -221,7 +221,10 @@ SheetHost::SheetHost(QWidget* window)
 {
     hide();
     window->installEventFilter(this);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { keepFocusInside(now); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
+        m_focusGivenUp = !now && before && before->window() == this->window() ? before : nullptr;
+        keepFocusInside(now);
+    });
 }
 
 SheetHost::~SheetHost() = default;
@@ -230,7 +233,7 @@ void SheetHost::present(SheetBody* body)
 {
     const bool first = m_frames.isEmpty();
     if (first) {
-        m_focusBefore = window()->focusWidget();
+        m_focusBefore = window()->focusWidget() ? window()->focusWidget() : m_focusGivenUp.data();
         setGeometry(parentWidget()->rect());
     }
     auto* frame = new SheetFrame(body, this);

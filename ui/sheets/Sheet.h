@@ -34,7 +34,7 @@ public:
 class SheetFrame;
 
 /// Covers a window while it has sheets, the newest on top. Tab stays inside the top sheet; when the last one goes,
-/// the focus returns to where it was.
+/// the focus returns to where it was, or to the field that gave it up for the sheet.
 class SheetHost final : public QWidget {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(SheetHost)
@@ -72,6 +72,7 @@ private:
 
     QList<SheetFrame*> m_frames;
     QPointer<QWidget> m_focusBefore;
+    QPointer<QWidget> m_focusGivenUp;  ///< by a field that was made to commit its text before a sheet asks
     Leaving m_leaving{};
     AnimatedValue m_leavingOpacity;
 };

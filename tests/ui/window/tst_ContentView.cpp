@@ -497,6 +497,12 @@ void tst_ContentView::sheetTakesTheKeyboard()
     QVERIFY(!fixture.content->sheets()->current());
     QCOMPARE(fixture.window->focusWidget(), field);
 
+    // A field that gives the focus up, so that its text counts before the sheet asks, goes on where it was.
+    field->clearFocus();
+    fixture.model->setAddOpen(true);
+    QTest::keyClick(fixture.window->focusWidget(), Qt::Key_Escape);
+    QCOMPARE(fixture.window->focusWidget(), field);
+
     fixture.model->setRenameOpen(true);
     QTest::keyClick(fixture.window->focusWidget(), Qt::Key_Return);
     QCOMPARE(SampleSheet::confirmed, 1);
