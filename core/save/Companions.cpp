@@ -5,7 +5,9 @@
 #include "core/tool/TemporaryConfig.h"
 #include "core/tool/WriteFailures.h"
 
+#include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -14,7 +16,6 @@
 #include <cstdio>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Quorbel::Companions {
@@ -63,12 +64,18 @@ int moveWithoutReplacing(const QString& from, const QString& to)
     return std::rename(source.constData(), destination.constData()) == 0 ? 0 : errno;
 }
 
-bool isSameFile(const QString& a, const QString& b)
+// Whether the folder lists the file under just this name: where names do not differ by case, a file answers to others
+// as well, and not always with the same inode.
+bool isListed(const QString& path)
 {
-    struct stat first = {};
-    struct stat second = {};
-    return lstat(QFile::encodeName(a).constData(), &first) == 0 && lstat(QFile::encodeName(b).constData(), &second) == 0
-        && first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+    const QFileInfo file(path);
+    QDirIterator entries(file.path(), QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    while (entries.hasNext()) {
+        entries.next();
+        if (entries.fileName() == file.fileName())
+            return true;
+    }
+    return false;
 }
 
 // Where names do not differ by case, a file stands in the way of its own new name: it goes by way of a third one.
@@ -88,7 +95,7 @@ int move(const QString& from, const QString& to)
 {
     const int error = moveWithoutReplacing(from, to);
     const bool differsByCase = from.compare(to, Qt::CaseInsensitive) == 0;
-    return error == EEXIST && differsByCase && isSameFile(from, to) ? changeCase(from, to) : error;
+    return error == EEXIST && differsByCase && !isListed(to) ? changeCase(from, to) : error;
 }
 
 // What of the assignments takes a tag away, in its XMP form.

@@ -30,6 +30,7 @@ private slots:
     void goneNameIsTakenOver_data();
     void goneNameIsTakenOver();
     void sheetFollowsNoOtherPhoto();
+    void onlyTheCaseChanges_data();
     void onlyTheCaseChanges();
 };
 
@@ -215,26 +216,44 @@ void tst_AppModelRenaming::sheetFollowsNoOtherPhoto()
     QCOMPARE(f.primary(), u"new.jpg"_s);
 }
 
-// With a disk that knows no difference of case, where this may be mounted.
+void tst_AppModelRenaming::onlyTheCaseChanges_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QStringList>("mounting");
+    QTest::addRow("FAT") << u"mkfs.vfat"_s << QStringList{ u"-o"_s, u"loop,utf8"_s };
+    QTest::addRow("exFAT") << u"mkfs.exfat"_s << QStringList{ u"-t"_s, u"exfat-fuse"_s, u"-o"_s, u"loop"_s };
+}
+
+// On disks that know no difference of case, where they may be mounted.
 void tst_AppModelRenaming::onlyTheCaseChanges()
 {
+    QFETCH(QString, format);
+    QFETCH(QStringList, mounting);
+    const auto runs = [](const QString& program, const QStringList& arguments) {
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(program, arguments);
+        return process.waitForFinished() && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    };
     const QTemporaryDir directory;
     const QString image = directory.filePath(u"disk"_s);
     writeFile(image, QByteArray(8 << 20, '\0'));
-    if (geteuid() != 0 || QProcess::execute(u"mkfs.vfat"_s, { image }) != 0)
-        QSKIP("making a FAT disk needs root and mkfs.vfat");
+    if (geteuid() != 0 || !runs(format, { image }))
+        QSKIP("making a disk needs root and its program");
     ModelFixture f;
-    if (QProcess::execute(u"mount"_s, { u"-o"_s, u"loop,utf8"_s, image, f.folder.path() }) != 0)
-        QSKIP("this machine mounts no FAT disks");
+    if (!runs(u"mount"_s, mounting + QStringList{ image, f.folder.path() }))
+        QSKIP("this machine mounts no such disks");
     const auto unmount = qScopeGuard([&f] { umount2(qPrintable(f.folder.path()), MNT_DETACH); });
     f.folder.add(u"a.jpg"_s);
     f.folder.add(u"a.xmp"_s);
     QVERIFY(f.open());
+    f->setSingle(u"creator"_s, u"Ana"_s);
     f->preferences().renamePattern.set(u"A"_s);
     f->performRename();
     QCOMPARE(f->errorMessage(), std::nullopt);
     QCOMPARE(f.folder.names(), QStringList({ u"A.jpg"_s, u"A.xmp"_s }));
     QCOMPARE(f.primary(), u"A.jpg"_s);
+    QCOMPARE(f->unsavedCount(), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelRenaming)
