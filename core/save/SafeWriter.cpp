@@ -1,12 +1,13 @@
 #include "core/save/SafeWriter.h"
 
-#include "core/save/OriginalKeeper.h"
 #include "core/save/SaveGuard.h"
+#include "core/save/originals/OriginalKeeper.h"
 #include "core/text/Coordinates.h"
 #include "core/tool/IptcEncoding.h"
 #include "core/tool/TemporaryConfig.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QScopeGuard>
 #include <QSet>
 
@@ -172,6 +173,11 @@ QString write(const ExifToolRunner& runner, const WriteCommand& command, const Q
     for (const auto& preparation : preparations)
         requireOneWay(preparation.command.assignments);
     const auto files = SaveGuard::filesBehindLinks(targets);
+    QSet<QString> folders;
+    for (const auto& file : files)
+        folders.insert(QFileInfo(file.toLocalFile()).path());
+    for (const auto& folder : std::as_const(folders))
+        OriginalsFolder::clearAbandoned(folder);
     SaveGuard::requireWritable(files);
     SaveGuard::clearLeftovers(files);
     const TemporaryConfig config(customNames);

@@ -33,26 +33,6 @@ QString newConfigName()
     return u"quorbel-"_s + id + u".conf"_s;
 }
 
-QString newOriginalName()
-{
-    return u".quorbel-"_s + QUuid::createUuid().toString(QUuid::Id128) + u".before"_s;
-}
-
-int clearAbandonedOriginals(const QString& folder, const QDateTime& now)
-{
-    constexpr qint64 day = qint64(24) * 60 * 60;
-    static const QRegularExpression ours(u"^\\.quorbel-[0-9a-f]{32}\\.before$"_s);
-    const QFileInfoList files =
-        QDir(folder).entryInfoList({ u".quorbel-*.before"_s }, QDir::Files | QDir::NoSymLinks | QDir::Hidden);
-    int removed = 0;
-    for (const QFileInfo& file : files)
-        // It is as old as the photo; its name is as old as the last change of what the system knows of the file.
-        if (ours.match(file.fileName()).hasMatch() && file.metadataChangeTime().secsTo(now) > day
-            && QFile::remove(file.filePath()))
-            ++removed;
-    return removed;
-}
-
 int clearAbandoned(const QString& folder, const QDateTime& now)
 {
     // Files are written under a longer name first, which a killed process leaves behind as well.

@@ -12,10 +12,6 @@ namespace Quorbel::TemporaryFiles {
 QString newConfigName();
 /// Removes such files of this user that are more than an hour old: no save takes that long. How many there were.
 int clearAbandoned(const QString& folder = QDir::tempPath(), const QDateTime& now = QDateTime::currentDateTime());
-/// A new hidden name, ".quorbel-<identifier>.before", for a photo as it was while a save is half done.
-QString newOriginalName();
-/// Removes files of such names in the folder that got them more than a day ago. How many there were.
-int clearAbandonedOriginals(const QString& folder, const QDateTime& now = QDateTime::currentDateTime());
 /// Removes half-written versions of this file that are more than an hour old: "<name>.<six characters>" beside it, as
 /// QSaveFile leaves them when the process is killed. How many there were.
 int clearHalfWritten(const QString& path, const QDateTime& now = QDateTime::currentDateTime());

@@ -30,7 +30,8 @@ const QList<Floor>& floors()
 {
     static const QList<Floor> rows{
         { u"core"_s, { u"core"_s }, { u"QtCore"_s, u"QtNetwork"_s },
-            { u"fcntl.h"_s, u"sys/resource.h"_s, u"sys/stat.h"_s, u"sys/xattr.h"_s, u"unistd.h"_s } },
+            { u"dirent.h"_s, u"fcntl.h"_s, u"sys/file.h"_s, u"sys/resource.h"_s, u"sys/stat.h"_s, u"sys/xattr.h"_s,
+                u"unistd.h"_s } },
         { u"platform/desktop"_s, { u"platform/desktop"_s }, { u"QtCore"_s, u"QtGui"_s, u"QtDBus"_s }, { u"xcb/"_s } },
         { u"platform/files"_s, { u"platform/files"_s }, { u"QtCore"_s }, { u"sys/inotify.h"_s, u"unistd.h"_s } },
         { u"platform/images"_s, { u"platform/images"_s }, { u"QtCore"_s, u"QtGui"_s },

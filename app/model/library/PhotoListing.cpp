@@ -1,6 +1,7 @@
 #include "app/model/library/PhotoListing.h"
 
 #include "app/model/library/FolderScan.h"
+#include "core/save/originals/OriginalsFolder.h"
 #include "core/schema/ImageTypes.h"
 #include "core/text/Text.h"
 
@@ -64,6 +65,7 @@ PhotoListing PhotoListing::of(const QList<QUrl>& urls)
         if (info.isDir()) {
             listing.label = QDir(path).dirName();
             listing.folder = url;
+            OriginalsFolder::clearAbandoned(path);
             files.append(FolderScan::entries(path).value_or(QList<QUrl>()));
         } else if (ImageTypes::isImage(url)) {
             files.append(QUrl::fromLocalFile(path));

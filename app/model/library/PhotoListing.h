@@ -18,7 +18,7 @@ struct PhotoListing {
     QList<QUrl> existing{};  ///< the given URLs that exist
 
     /// Folders contribute their immediate entries, hidden ones too; what does not exist is skipped, and a folder
-    /// that cannot be listed counts as empty.
+    /// that cannot be listed counts as empty. A photo that a killed save left without its name has it again.
     static PhotoListing of(const QList<QUrl>& urls);
     /// Whether there is a photo or a folder among them. Lists nothing.
     static bool isWorthListing(const QList<QUrl>& urls);

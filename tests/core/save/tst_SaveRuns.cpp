@@ -2,15 +2,19 @@
 // IPTC stays what it meant, and the way back is exact. Sidecars, and values that no run can carry.
 #include "core/MetadataService.h"
 #include "core/save/SaveVerification.h"
-#include "core/tool/TemporaryFiles.h"
+#include "core/save/originals/OriginalKeeper.h"
+#include "core/save/originals/OriginalsFolder.h"
 #include "tests/support/Support.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTest>
 
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <sys/xattr.h>
+#include <unistd.h>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -304,16 +308,83 @@ private slots:
         QCOMPARE(tool.calls()[2].last(2), QStringList({ "/p/b.jpg", "/p/c.jpg" }));
     }
 
-    void clearsAbandonedOriginals()
+    void keepsWhatIsStillOwned()
     {
         const PhotoFolder folder;
-        const QString ours = TemporaryFiles::newOriginalName();
-        for (const auto& name : { ours, u".quorbel-notes.before"_s })
-            folder.add(name);
-        const auto now = QDateTime::currentDateTime();
-        QCOMPARE(TemporaryFiles::clearAbandonedOriginals(folder.path(), now.addSecs(23 * 3600)), 0);
-        QCOMPARE(TemporaryFiles::clearAbandonedOriginals(folder.path(), now.addSecs(25 * 3600)), 1);
-        QCOMPARE(folder.names(), QStringList(".quorbel-notes.before"));
+        folder.add(u"a.jpg"_s);
+        {
+            OriginalsFolder owned(folder.path());
+            QVERIFY(owned.keep("a.jpg"));
+            QCOMPARE(OriginalsFolder::clearAbandoned(folder.path(), QDateTime::currentDateTime().addDays(2)), 0);
+            QCOMPARE(folder.names().size(), 2);
+        }
+        QCOMPARE(folder.names(), QStringList("a.jpg"));
+    }
+
+    void putsBackWhereverTheFolderIs()
+    {
+        const PhotoFolder folder;
+        QVERIFY(QDir(folder.path()).mkdir(u"trip"_s));
+        const QUrl photo = folder.add(u"trip/a.jpg"_s);
+        const State before = stateOf(photo);
+        {
+            OriginalKeeper originals({ photo });
+            folder.add(u"prepared"_s, "prepared");
+            QVERIFY(std::rename(qPrintable(folder.path(u"prepared"_s)), qPrintable(photo.toLocalFile())) == 0);
+            originals.notePrepared();
+            QVERIFY(QDir(folder.path()).rename(u"trip"_s, u"moved"_s));
+        }
+        QCOMPARE(stateOf(folder.url(u"moved/a.jpg"_s)), before);
+        QCOMPARE(QDir(folder.path(u"moved"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+            QStringList("a.jpg"));
+    }
+
+    // What a killed program left, and what has happened since.
+    void clearsAbandonedOriginals_data()
+    {
+        using Change = std::function<void(const PhotoFolder&)>;
+        const auto moveTo = [](const QString& computer) {
+            return [computer](const PhotoFolder& folder) {
+                const QString name = folder.names().constFirst();
+                QVERIFY(QDir(folder.path()).rename(name, u".quorbel-"_s + computer + name.mid(17)));
+            };
+        };
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<int>("hours");
+        QTest::addColumn<QStringList>("names");
+        const QStringList same{ u"a.jpg"_s };
+        QTest::addRow("nothing") << Change([](const auto&) {}) << 0 << same;
+        QTest::addRow("the photo lost its name")
+            << Change([](const PhotoFolder& folder) { QFile::remove(folder.path(u"a.jpg"_s)); }) << 0 << same;
+        QTest::addRow("it was renamed") << Change([](const PhotoFolder& folder) {
+            QFile::rename(folder.path(u"a.jpg"_s), folder.path(u"b.jpg"_s));
+        }) << 0 << QStringList{ u"b.jpg"_s };
+        QTest::addRow("another computer's, a day old") << Change(moveTo(u"00000000"_s)) << 25 << same;
+        QTest::addRow("another computer's, younger") << Change(moveTo(u"00000000"_s)) << 23 << QStringList();
+        QTest::addRow("not our name") << Change(moveTo(u"notes"_s)) << 25 << QStringList();
+    }
+    void clearsAbandonedOriginals()
+    {
+        QFETCH(std::function<void(const PhotoFolder&)>, change);
+        QFETCH(int, hours);
+        QFETCH(QStringList, names);
+        const PhotoFolder folder;
+        const State before = stateOf(folder.add(u"a.jpg"_s));
+        const pid_t owner = fork();
+        if (owner == 0) {
+            OriginalsFolder abandoned(folder.path());
+            _exit(abandoned.keep("a.jpg") ? 0 : 1);
+        }
+        int end = 1;
+        QCOMPARE(waitpid(owner, &end, 0), owner);
+        QCOMPARE(end, 0);
+        change(folder);
+        const QStringList left = folder.names();
+        QCOMPARE(left.size(), folder.names().contains(u"a.jpg"_s) || names.contains(u"b.jpg"_s) ? 2 : 1);
+        OriginalsFolder::clearAbandoned(folder.path(), QDateTime::currentDateTime().addSecs(hours * 3600));
+        QCOMPARE(folder.names(), names.isEmpty() ? left : names);
+        if (!names.isEmpty())
+            QCOMPARE(stateOf(folder.url(names.constFirst())), before);
     }
 
     void sidecarLosesWhatIsCleared()

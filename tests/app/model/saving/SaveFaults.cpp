@@ -126,14 +126,19 @@ void StruckPhotos::requireKnownNeighbors() const
         const QString name = isBackup ? file.chopped(backupSuffix.size()) : file;
         if (isBackup && m_before.contains(name) && readFile(path(file)) != m_before.value(name))
             fail(u"a backup that is not the original: "_s + file);
-        if (!m_before.contains(name) && !file.endsWith(leftoverSuffix))
+        if (!m_before.contains(name) && !leftovers().contains(file))
             fail(u"unknown file: "_s + file);
     }
 }
 
 QStringList StruckPhotos::leftovers() const
 {
-    return QDir(m_folder).entryList({ u'*' + leftoverSuffix }, QDir::Files);
+    return QDir(m_folder).entryList({ u'*' + leftoverSuffix }, QDir::Files) + secondNames();
+}
+
+QStringList StruckPhotos::secondNames() const
+{
+    return QDir(m_folder).entryList({ u".quorbel-*.before"_s }, QDir::Files | QDir::Dirs | QDir::Hidden);
 }
 
 Aftermath Aftermath::of(const AppModel& model)
@@ -232,6 +237,11 @@ bool OtherProgram::waitForSave()
     while (m_process.state() != QProcess::NotRunning && !m_process.canReadLine())
         m_process.waitForReadyRead(100);
     return m_process.canReadLine() && m_process.readLine() == "saving\n";
+}
+
+void OtherProgram::pause() const
+{
+    ::kill(-m_group, SIGSTOP);
 }
 
 void OtherProgram::kill() const

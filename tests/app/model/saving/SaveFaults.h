@@ -26,8 +26,10 @@ public:
     /// Names of the photos that do not hold the title, sorted. One that is damaged, missing, or neither old nor a whole
     /// new one fails the test, and so does a file that has no business beside them.
     QStringList unsaved(const QString& title) const;
-    /// Names of temporary files that a killed tool left beside them.
+    /// Names of what a killed tool or program left beside them.
     QStringList leftovers() const;
+    /// Those among them under which a program keeps the photos of a save that is half done.
+    QStringList secondNames() const;
 
 private:
     void requireWhole(const QString& name, const QJsonObject& tags) const;
@@ -73,6 +75,8 @@ public:
     Q_DISABLE_COPY_MOVE(OtherProgram)
     /// Waits until its save begins. False when the other user cannot run the program at all.
     bool waitForSave();
+    /// Stops it and its tools, until they are killed.
+    void pause() const;
     void kill() const;
     void killWithItsTool() const;
     /// Waits until it has ended, and every tool that it started.

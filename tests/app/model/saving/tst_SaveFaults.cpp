@@ -95,6 +95,7 @@ struct BatchPhotos : ModelFixture {
     void verify(const StruckPhotos& photos, const QString& title) const
     {
         QVERIFY(!model->isSaving());
+        QCOMPARE(photos.secondNames(), QStringList());
         verifyNothingLost(photos, title, Aftermath::of(*model));
     }
 
@@ -121,6 +122,8 @@ private slots:
     void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
     void toolIsKilled();
     void programIsKilled();
+    void programIsKilledHalfWay_data();
+    void programIsKilledHalfWay();
     void folderGoesAway();
     void diskIsFull();
     void permissionIsTaken_data();
@@ -192,6 +195,7 @@ void tst_SaveFaults::verifyNextStart(const StruckPhotos& photos, const QString& 
     next.relaunch();
     QVERIFY(next.load({ QUrl::fromLocalFile(directory) }));
     QCOMPARE(next->records().size(), StruckPhotos::names().size());
+    QCOMPARE(photos.secondNames(), QStringList());
     next.save(u"again"_s);
     QVERIFY(next.waitUntilIdle());
     const QStringList leftovers = photos.leftovers();
@@ -245,6 +249,45 @@ void tst_SaveFaults::programIsKilled()
     QVERIFY2(kills > 0, "no round met a running save");
 }
 
+// Between the run that prepares the photos and the one that writes them.
+void tst_SaveFaults::programIsKilledHalfWay_data()
+{
+    QTest::addColumn<bool>("isOpened");
+    QTest::addRow("and the folder opened") << true;
+    QTest::addRow("and a photo saved") << false;
+}
+
+void tst_SaveFaults::programIsKilledHalfWay()
+{
+    QFETCH(bool, isOpened);
+    const PhotoFolder folder;
+    const PhotoFolder state;
+    const StruckPhotos photos(folder.path());
+    OtherProgram program({ .folder = folder.path(), .state = state.path(), .title = titleOf(1) });
+    QVERIFY(program.waitForSave());
+    QVERIFY(QTest::qWaitFor([&photos] { return !photos.secondNames().isEmpty(); }));
+    // A program that opens the folder meanwhile leaves it alone.
+    program.pause();
+    const QStringList secondNames = photos.secondNames();
+    BatchPhotos other;
+    QVERIFY(other.load({ QUrl::fromLocalFile(folder.path()) }));
+    QCOMPARE(photos.secondNames(), secondNames);
+    program.killWithItsTool();
+    program.waitForEnd();
+    QVERIFY(program.wasKilled());
+    QCOMPARE(photos.secondNames(), secondNames);
+    photos.unsaved(titleOf(1));
+    if (isOpened) {
+        verifyNextStart(photos, folder.path(), state.path());
+        return;
+    }
+    other->preferences().saveDontAsk.set(true);
+    other->setSingle(u"title"_s, u"again"_s);
+    other->requestSave();
+    QVERIFY(other.waitUntilIdle());
+    QCOMPARE(photos.secondNames(), QStringList());
+}
+
 void tst_SaveFaults::folderGoesAway()
 {
     for (int round = 0; round < rounds(2); ++round) {
@@ -253,7 +296,11 @@ void tst_SaveFaults::folderGoesAway()
         // Opened one by one, so that the folder is not watched: what a watched folder loses leaves the screen.
         QVERIFY(batch.load(photos.urls()));
         batch.save(titleOf(round));
-        QTest::qWait(anyMoment());
+        // At any moment, or while the photos have second names.
+        if (round % 2 == 0)
+            QTest::qWait(anyMoment());
+        else
+            QVERIFY(QTest::qWaitFor([&photos] { return !photos.secondNames().isEmpty(); }));
         QVERIFY(QDir().rename(batch.directory, batch.directory + u"-away"_s));
         QVERIFY(batch.waitUntilIdle());
         QVERIFY(QDir().rename(batch.directory + u"-away"_s, batch.directory));

@@ -1,16 +1,21 @@
 // Photos as they were, while a save that takes several runs is half done. Thread: any; touches the files and hidden
-// names beside them.
+// folders beside them.
 #pragma once
+
+#include "core/save/originals/OriginalsFolder.h"
 
 #include <QByteArray>
 #include <QList>
+#include <QString>
 #include <QUrl>
+
+#include <map>
 
 namespace Quorbel {
 
 /// Gives the photos second names (copies where the file system knows none), and the photos back to their names when
-/// the save does not get further than its preparation: they are then what they were, with inode and attributes.
-/// Files that do not exist are passed over.
+/// the save does not get further than its preparation: they are then what they were, with inode and attributes,
+/// wherever their folder is by then. Files that do not exist are passed over.
 class OriginalKeeper final {
 public:
     /// Throws FileError when a photo cannot be kept; none is then.
@@ -34,17 +39,16 @@ private:
         bool operator==(const Identity&) const = default;
     };
     struct Kept {
-        QByteArray photo{};
-        QByteArray original{};  ///< the second name
+        const OriginalsFolder* folder = nullptr;
+        QByteArray name{};
         bool hadBackup = false;
         Identity before{};
         Identity prepared{};
     };
 
-    static Identity identityOf(const QByteArray& path);
-    static void keep(const Kept& kept);
-    void release();
+    static Identity identityOf(const Kept& kept);
 
+    std::map<QString, OriginalsFolder> m_folders;  ///< by the path that the photos' folder had
     QList<Kept> m_kept;
 };
 
