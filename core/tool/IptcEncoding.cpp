@@ -43,7 +43,9 @@ Stored storedIn(const FileTags& tags)
         if (it.key().startsWith(u"IPTC"_s))
             isDeclared[it.key().section(u':', 0, 0)] |=
                 it.key().endsWith(u":CodedCharacterSet"_s) && it->contains(utf8);
-    if (!isDeclared.isEmpty() && !isDeclared.values().contains(false))
+    if (isDeclared.isEmpty())
+        return Stored::none;
+    if (!isDeclared.values().contains(false))
         return Stored::declaredUtf8;
     if (isDeclared.size() > 1)
         return Stored::severalBlocks;
@@ -62,11 +64,15 @@ WriteCommand conversion(Stored stored)
 {
     if (stored == Stored::declaredUtf8 || stored == Stored::severalBlocks)
         return {};
+    const Assignment declaration{ .tag = u"IPTC:CodedCharacterSet"_s, .value = u"UTF8"_s };
+    // The tool fails where it finds nothing to copy and the file has a tag called Error.
+    if (stored == Stored::none)
+        return { .assignments = { declaration } };
     // Times are left out: the tool would give those without a zone the one of this computer.
     WriteCommand command{ .options = { u"-tagsfromfile"_s, u"@"_s, u"-iptc:all"_s, u"--iptc:TimeSent"_s,
                               u"--iptc:ReleaseTime"_s, u"--iptc:ExpirationTime"_s, u"--iptc:TimeCreated"_s,
                               u"--iptc:DigitalCreationTime"_s },
-        .assignments = { { .tag = u"IPTC:CodedCharacterSet"_s, .value = u"UTF8"_s } } };
+        .assignments = { declaration } };
     if (stored == Stored::undeclaredUtf8)
         command.options = QStringList{ u"-charset"_s, u"iptc=UTF8"_s } + command.options;
     return command;

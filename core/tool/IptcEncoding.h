@@ -18,7 +18,8 @@ QString blockTag();
 bool needsUtf8(const QList<Assignment>& assignments);
 
 enum class Stored {
-    latin1,  ///< undeclared, and not UTF-8; also a file without IPTC
+    none,  ///< there is no IPTC
+    latin1,  ///< undeclared, and not UTF-8
     undeclaredUtf8,  ///< undeclared, and all that is no ASCII is valid UTF-8
     declaredUtf8,  ///< nothing has to be re-encoded
     severalBlocks,  ///< re-encoding would copy one of them over the others
@@ -28,7 +29,8 @@ enum class Stored {
 QStringList readArgs();
 /// What a file's texts are in.
 Stored storedIn(const FileTags& tags);
-/// The run that turns all IPTC of such a file into declared UTF-8; empty where it is, or must not be done.
+/// The run that turns all IPTC of such a file into declared UTF-8, or declares what is about to be its first; empty
+/// where it is, or must not be done.
 WriteCommand conversion(Stored stored);
 
 }  // namespace Quorbel::IptcEncoding

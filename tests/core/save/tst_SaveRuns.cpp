@@ -387,6 +387,21 @@ private slots:
             QCOMPARE(stateOf(folder.url(names.constFirst())), before);
     }
 
+    // A tag called Error fails a run that finds nothing to copy.
+    void captionsAPhotoWithATagCalledError()
+    {
+        const PhotoFolder folder;
+        constexpr qsizetype afterHeader = 33;
+        const QByteArray chunk =
+            QByteArray::fromHex("0000000a") + "tEXtError" + '\0' + "0.05" + QByteArray::fromHex("cefc2aa5");
+        const QUrl photo = folder.add(u"a.png"_s, pngBytes().insert(afterHeader, chunk));
+        QCOMPARE(problem([&] { realService().write(captioned, { photo }, { .backupOriginals = false }); }), QString());
+        const auto values = exiv2Values(photo);
+        QCOMPARE(values.value(u"Iptc.Application2.ObjectName"_s), QStringList(u"東京"_s));
+        QCOMPARE(values.value(u"Xmp.dc.title"_s), QStringList(u"lang=\"x-default\" 東京"_s));
+        QVERIFY(readFile(photo.toLocalFile()).contains(chunk));
+    }
+
     void sidecarLosesWhatIsCleared()
     {
         const PhotoFolder folder;

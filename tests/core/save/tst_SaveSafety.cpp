@@ -106,18 +106,32 @@ private slots:
         QVERIFY(!IptcEncoding::needsUtf8({ title }));
     }
 
+    // What the file holds, and the start of what becomes of it.
+    void reencodesInARunOfItsOwn_data()
+    {
+        QTest::addColumn<QByteArray>("held");
+        QTest::addColumn<QStringList>("options");
+        QTest::addRow("IPTC") << QByteArray("Array(Array(\n  \"SourceFile\" => \"/p/a.jpg\",\n"
+                                            "  \"IPTC:City\" => \"Paris\"\n));\n")
+                              << QStringList{ "-tagsfromfile", "@", "-iptc:all", "--iptc:TimeSent",
+                                     "--iptc:ReleaseTime", "--iptc:ExpirationTime", "--iptc:TimeCreated",
+                                     "--iptc:DigitalCreationTime" };
+        QTest::addRow("none") << QByteArray() << QStringList();
+    }
     void reencodesInARunOfItsOwn()
     {
+        QFETCH(QByteArray, held);
+        QFETCH(QStringList, options);
         FakeTool tool;
+        tool.answer(1, { .standardOutput = held });
         const QList<QUrl> files{ QUrl::fromLocalFile(u"/p/a.jpg"_s) };
         const EditPlan plan{ .scalars = { { "category", u"東京"_s } } };
         MetadataService{ tool.runner() }.write(plan, files, { .backupOriginals = false });
+        const QStringList begin{ "-overwrite_original", "-m" };
         QCOMPARE(tool.calls(),
             (QList<QStringList>{ { "-php", "-G1", "-a", "-n", "-b", "-charset", "iptc=UTF8", "-IPTC:all", "/p/a.jpg" },
-                { "-overwrite_original", "-m", "-tagsfromfile", "@", "-iptc:all", "--iptc:TimeSent",
-                    "--iptc:ReleaseTime", "--iptc:ExpirationTime", "--iptc:TimeCreated", "--iptc:DigitalCreationTime",
-                    "-IPTC:CodedCharacterSet=UTF8", "/p/a.jpg" },
-                { "-overwrite_original", "-m", u"-IPTC:Category=東京"_s, "/p/a.jpg" } }));
+                begin + options + QStringList{ "-IPTC:CodedCharacterSet=UTF8", "/p/a.jpg" },
+                begin + QStringList{ u"-IPTC:Category=東京"_s, "/p/a.jpg" } }));
 
         FakeTool failing;
         failing.answerAlways({ .standardError = "no", .exitCode = 1 });
