@@ -42,7 +42,9 @@ public:
     {
         const Theme& theme = Theme::of(m_list);
         const bool active = option.state.testFlag(QStyle::State_Selected);
-        const QRectF row(option.rect);
+        QRectF row(option.rect);
+        if (index.model()->rowCount() > ChoiceList::mostRows)
+            row.setRight(row.right() - OverlayScrollBar::room());
         if (active)
             paintBox(*painter, row, pxF(6), theme.sel, Qt::NoPen);
         const QColor ink = active ? theme.selText : theme.text;

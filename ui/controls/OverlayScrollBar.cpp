@@ -24,6 +24,11 @@ OverlayScrollBar* OverlayScrollBar::attach(QAbstractScrollArea* area)
     return new OverlayScrollBar(area);
 }
 
+int OverlayScrollBar::room()
+{
+    return px(stripWidth);
+}
+
 OverlayScrollBar::OverlayScrollBar(QAbstractScrollArea* area)
     : QWidget(area)
     , m_area(area)
@@ -52,7 +57,7 @@ bool OverlayScrollBar::eventFilter(QObject* watched, QEvent* event)
 
 void OverlayScrollBar::place()
 {
-    const int width = px(stripWidth);
+    const int width = room();
     setGeometry(m_area->width() - width, 0, width, m_area->height());
     const QScrollBar* bar = m_area->verticalScrollBar();
     setVisible(bar->maximum() > bar->minimum());

@@ -19,6 +19,8 @@ class OverlayScrollBar final : public QWidget {
 public:
     /// Hides the area's own vertical scroll bar and lays one of these over it; owned by the area.
     static OverlayScrollBar* attach(QAbstractScrollArea* area);
+    /// In pixels, what it lies over at the right: for content that must not lie under it.
+    static int room();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

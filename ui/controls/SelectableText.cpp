@@ -9,6 +9,7 @@
 
 #include <QContextMenuEvent>
 #include <QTextDocument>
+#include <QTextLayout>
 
 namespace Quorbel {
 
@@ -31,14 +32,22 @@ SelectableText::SelectableText(QWidget* parent)
         colors.setColor(QPalette::Base, Qt::transparent);
         setPalette(colors);
         setFont(verbatimFont(13));
+        setViewportMargins(0, 0, OverlayScrollBar::room(), 0);
     });
 }
 
 int SelectableText::heightFor(int width, int mostLines) const
 {
-    const auto lines = brokenIntoLines(toPlainText(), font(), width, LineBreaks::words, mostLines).size();
+    // Of the lines as they are laid out: they are higher than the font's whole pixels, and more so with other scripts.
+    qreal height = 0;
+    int lines = 0;
+    forEachLine(toPlainText(), font(), width - OverlayScrollBar::room(), QTextOption::WrapAtWordBoundaryOrAnywhere,
+        [&](const QTextLine& line) {
+            height += line.height();
+            return ++lines < mostLines;
+        });
     // One pixel more: without, QPlainTextEdit thinks that its last line is out of sight.
-    return int(lines) * QFontMetrics(font()).height() + 1;
+    return qCeil(height) + 1;
 }
 
 void SelectableText::contextMenuEvent(QContextMenuEvent* event)

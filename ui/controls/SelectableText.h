@@ -13,7 +13,8 @@ class SelectableText final : public QPlainTextEdit {
 
 public:
     explicit SelectableText(QWidget* parent = nullptr);
-    /// The height that shows the text in this width, but of `mostLines` lines at most.
+    /// The height that shows the text in this width, but of `mostLines` lines at most. The scroll bar's room is a part
+    /// of the width.
     int heightFor(int width, int mostLines) const;
 
 protected:

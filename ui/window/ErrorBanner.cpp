@@ -132,20 +132,22 @@ void ErrorBanner::place(int bottom)
     if (isHidden() || !parentWidget())
         return;
     const int width = qMin(px(widest), parentWidget()->width() - 2 * px(20));
-    const int textWidth = width - px(leftPadding + iconSize + gap + gap + crossSize + rightPadding);
+    const int left = px(leftPadding + iconSize + gap);
+    const int crossLeft = width - px(rightPadding) - m_close->sizeHint().width();
+    // The text's scroll bar stands in the gap before the cross.
+    const int textWidth = crossLeft - left;
     const int textHeight = m_text->heightFor(textWidth, mostLines);
     const int room = qMax(textHeight, px(18));
     const int height = room + 2 * px(verticalPadding);
-    m_text->setGeometry(
-        px(leftPadding + iconSize + gap), px(verticalPadding) + (room - textHeight) / 2, textWidth, textHeight);
+    m_text->setGeometry(left, px(verticalPadding) + (room - textHeight) / 2, textWidth, textHeight);
     const int offerRoom = m_offer->isHidden() ? 0 : m_offer->sizeHint().height() + px(offerGap);
     setGeometry((parentWidget()->width() - width) / 2, bottom - height - offerRoom, width, height + offerRoom);
     m_offer->resize(m_offer->sizeHint());
-    m_offer->move(px(leftPadding + iconSize + gap), height - px(verticalPadding - offerGap));
+    m_offer->move(left, height - px(verticalPadding - offerGap));
     const int around = px(shadowRoom);
     m_shadow->setGeometry(geometry().adjusted(-around, -around, around, around));
     m_close->resize(m_close->sizeHint());
-    m_close->move(width - px(rightPadding) - m_close->width(), px(verticalPadding) - px(2));
+    m_close->move(crossLeft, px(verticalPadding) - px(2));
 }
 
 void ErrorBanner::paintEvent(QPaintEvent*)

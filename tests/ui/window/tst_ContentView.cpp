@@ -1,6 +1,7 @@
 // The main window: columns, bar, drops, banner, sheets, progress and appearance, as a person meets them.
 #include "app/model/thumbnails/ThumbnailStore.h"
 #include "tests/ui/window/WindowFixture.h"
+#include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/sidebar/SidebarView.h"
@@ -16,6 +17,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScopeGuard>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -89,6 +91,8 @@ private slots:
     void settingsMenuFlipsItsFlags();
     void bannerStaysUntilItIsDismissed();
     void theBannersTextCanBeReadToItsEndAndCopied();
+    void theBannerShowsWholeLines_data();
+    void theBannerShowsWholeLines();
     void withoutTheToolTheBannerSaysSo();
     void sheetTakesTheKeyboard();
     void progressOfALongRead();
@@ -454,6 +458,42 @@ void tst_ContentView::theBannersTextCanBeReadToItsEndAndCopied()
     QCOMPARE(QGuiApplication::clipboard()->text(), u"These"_s);
     QTest::keyClick(text, Qt::Key_Tab);
     QVERIFY(QApplication::focusWidget() != text);
+}
+
+void tst_ContentView::theBannerShowsWholeLines_data()
+{
+    QTest::addColumn<int>("points");
+    QTest::addColumn<QString>("word");
+    for (const int points : { 9, 10, 14, 20 })
+        QTest::addRow("%d pt", points) << points << u"Jagdpgj "_s;
+    QTest::addRow("another script") << 10 << u"写真 "_s;
+}
+
+// None cut at the lower edge, none under the scroll bar.
+void tst_ContentView::theBannerShowsWholeLines()
+{
+    QFETCH(int, points);
+    QFETCH(QString, word);
+    const QFont before = QApplication::font();
+    const auto restore = qScopeGuard([&] { QApplication::setFont(before); });
+    QFont font = before;
+    font.setPointSize(points);
+    QApplication::setFont(font);
+    WindowFixture fixture;
+    fixture.open({ u"a.jpg"_s });
+    fixture.show();
+    fixture.model->setErrorMessage(word.repeated(300));
+    const auto* text = fixture.window->findChild<ErrorBanner*>()->findChild<QPlainTextEdit*>();
+    const QWidget* port = text->viewport();
+    int lines = 0;
+    for (QTextCursor cursor(text->document()); text->cursorRect(cursor).top() < port->height() - 1; ++lines) {
+        QVERIFY(text->cursorRect(cursor).bottom() < port->height());
+        QVERIFY(cursor.movePosition(QTextCursor::Down));
+    }
+    QCOMPARE(lines, 6);
+    const auto* bar = text->findChild<OverlayScrollBar*>();
+    QVERIFY(bar->isVisible());
+    QVERIFY(port->geometry().right() < bar->x());
 }
 
 void tst_ContentView::withoutTheToolTheBannerSaysSo()
