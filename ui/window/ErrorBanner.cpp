@@ -57,8 +57,8 @@ ErrorBanner::ErrorBanner(AppModel& model, QWidget* parent)
     , m_opacity(this, Duration::banner, QEasingCurve::Linear, [this] { showOpacity(); })
     , m_shadow(new BannerShadow(parent))
     , m_text(new SelectableText(this))
-    , m_close(new QBIconButton(u"xmark"_s, u"Dismiss"_s, this))
     , m_offer(new QBTextButton(QString(), this))
+    , m_close(new QBIconButton(u"xmark"_s, u"Dismiss"_s, this))
 {
     hide();
     m_text->setAccessibleName(u"Message"_s);

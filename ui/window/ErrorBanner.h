@@ -42,8 +42,8 @@ private:
     AnimatedValue m_opacity;
     QWidget* m_shadow;  ///< paints the shadow
     SelectableText* m_text;
+    QBTextButton* m_offer;  ///< saves what the message says could be saved; Tab comes to it before the cross
     QBIconButton* m_close;
-    QBTextButton* m_offer;  ///< saves what the message says could be saved
 };
 
 }  // namespace Quorbel

@@ -1,5 +1,6 @@
 // What the user is told of a save that the tool refused, in whole or in part, and what can be done about it.
 #include "tests/app/model/ModelFixture.h"
+#include "tests/support/RefusedExif.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -9,14 +10,6 @@ using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// A photo whose EXIF no tool would add to: its one entry has a format that does not exist.
-QByteArray jpegWithBrokenExif()
-{
-    const QByteArray exif = "Exif" + QByteArray(2, '\0') + "II*" + QByteArray::fromHex("00080000000100")
-        + QByteArray::fromHex("0e0100000100000000000000") + QByteArray(4, '\0');
-    return jpegBytes().insert(2, QByteArray::fromHex("ffe1") + '\0' + char(exif.size() + 2) + exif);
-}
 
 struct Photos : ModelFixture {
     Photos()

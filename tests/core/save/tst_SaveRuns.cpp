@@ -4,6 +4,7 @@
 #include "core/save/SaveVerification.h"
 #include "core/save/originals/OriginalKeeper.h"
 #include "core/save/originals/OriginalsFolder.h"
+#include "tests/support/RefusedExif.h"
 #include "tests/support/Support.h"
 
 #include <QDir>
@@ -25,14 +26,6 @@ namespace {
 MetadataService realService()
 {
     return { realTool() };
-}
-
-// A photo whose EXIF no tool would add to: its one entry has a format that does not exist.
-QByteArray jpegWithBrokenExif()
-{
-    const QByteArray exif = "Exif" + QByteArray(2, '\0') + "II*" + QByteArray::fromHex("00080000000100")
-        + QByteArray::fromHex("0e0100000100000000000000") + QByteArray(4, '\0');
-    return jpegBytes().insert(2, QByteArray::fromHex("ffe1") + '\0' + char(exif.size() + 2) + exif);
 }
 
 QByteArray field(const QUrl& photo, const QString& tag)

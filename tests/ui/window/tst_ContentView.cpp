@@ -1,5 +1,6 @@
 // The main window: columns, bar, drops, banner, sheets, progress and appearance, as a person meets them.
 #include "app/model/thumbnails/ThumbnailStore.h"
+#include "tests/support/RefusedExif.h"
 #include "tests/ui/window/WindowFixture.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/ResizeHandle.h"
@@ -93,6 +94,8 @@ private slots:
     void theBannersTextCanBeReadToItsEndAndCopied();
     void theBannerShowsWholeLines_data();
     void theBannerShowsWholeLines();
+    void theBannerOffersToSaveTheRest_data();
+    void theBannerOffersToSaveTheRest();
     void withoutTheToolTheBannerSaysSo();
     void sheetTakesTheKeyboard();
     void progressOfALongRead();
@@ -494,6 +497,58 @@ void tst_ContentView::theBannerShowsWholeLines()
     const auto* bar = text->findChild<OverlayScrollBar*>();
     QVERIFY(bar->isVisible());
     QVERIFY(port->geometry().right() < bar->x());
+}
+
+void tst_ContentView::theBannerOffersToSaveTheRest_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("byKeyboard");
+    QTest::addRow("narrow, by keyboard") << ContentView::minimumWindow << true;
+    QTest::addRow("wide, by mouse") << QSize(1600, 1000) << false;
+}
+
+void tst_ContentView::theBannerOffersToSaveTheRest()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, byKeyboard);
+    WindowFixture fixture;
+    fixture.model.folder.add(u"a.jpg"_s, jpegWithBrokenExif());
+    QVERIFY(fixture.model.open());
+    fixture.window->resize(size);
+    fixture.show();
+    fixture.model->preferences().saveDontAsk.set(true);
+    fixture.model->setSingle(u"title"_s, u"Harbour"_s);
+    fixture.model->setSingle(u"description"_s, u"At dawn"_s);
+    fixture.model->requestSave();
+    QVERIFY(fixture.model.waitUntilIdle());
+
+    auto* banner = fixture.window->findChild<ErrorBanner*>();
+    auto* text = banner->findChild<QPlainTextEdit*>();
+    QAbstractButton* offer = fixture.button(u"Save without EXIF"_s);
+    QVERIFY(offer);
+    QCOMPARE(QAccessible::queryAccessibleInterface(offer)->text(QAccessible::Name), u"Save without EXIF"_s);
+    QVERIFY(banner->rect().adjusted(8, 8, -8, -8).contains(offer->geometry()));
+    QVERIFY(!text->geometry().intersects(offer->geometry()));
+    QCOMPARE(offer->size(), offer->sizeHint());
+    if (byKeyboard) {
+        fixture.window->findChild<SidebarList*>()->setFocus();
+        for (int i = 0; i < 40 && QApplication::focusWidget() != offer; ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), offer);
+        // From the message to what can be done about it.
+        QTest::keyClick(offer, Qt::Key_Backtab);
+        QCOMPARE(QApplication::focusWidget(), text);
+        QTest::keyClick(text, Qt::Key_Tab);
+        QTest::keyClick(offer, Qt::Key_Return);
+    } else {
+        QTest::mouseClick(offer, Qt::LeftButton);
+    }
+    QVERIFY(fixture.model.waitUntilIdle());
+    QVERIFY(!banner->isVisible());
+    QVERIFY(!offer->isVisible());
+    QVERIFY(QApplication::focusWidget() && QApplication::focusWidget()->isVisible());
+    QCOMPARE(fixture.model->unsavedCount(), 0);
+    QCOMPARE(fixture.model.onDisk(u"a.jpg"_s, u"XMP:Description"_s), QJsonValue(u"At dawn"_s));
 }
 
 void tst_ContentView::withoutTheToolTheBannerSaysSo()
