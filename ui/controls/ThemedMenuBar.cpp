@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QPainter>
+#include <QProxyStyle>
 
 namespace Quorbel {
 
@@ -14,11 +15,25 @@ namespace {
 constexpr qreal barHeight = 28;  // points
 constexpr qreal itemRadius = 6;
 
+// Entries as high as the bar: Qt repaints no more than an entry, and drops its menu from its lower edge.
+class EntryStyle final : public QProxyStyle {
+public:
+    QSize sizeFromContents(
+        ContentsType type, const QStyleOption* option, const QSize& size, const QWidget* widget) const override
+    {
+        const QSize entry = QProxyStyle::sizeFromContents(type, option, size, widget);
+        return type == CT_MenuBarItem && widget ? QSize(entry.width(), widget->height()) : entry;
+    }
+};
+
 }  // namespace
 
 ThemedMenuBar::ThemedMenuBar(QWidget* parent)
     : QMenuBar(parent)
 {
+    auto* style = new EntryStyle;
+    style->setParent(this);
+    setStyle(style);
     setNativeMenuBar(false);
     setMouseTracking(true);
     onRestyle(this, [this] {

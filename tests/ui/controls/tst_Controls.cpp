@@ -372,6 +372,20 @@ private slots:
         menus.at(1)->close();
     }
 
+    // Qt repaints the place of an entry, and drops its menu from there: it must be all that is painted for it.
+    void anEntryOfTheMenuBarIsAsHighAsTheBar()
+    {
+        Test::Stage stage;
+        auto* bar = stage.add(new ThemedMenuBar);
+        auto* menu = new ThemedMenu(u"File"_s, bar);
+        menu->addAction(u"A command"_s);
+        bar->addMenu(menu);
+        stage.show();
+        const QRect entry = bar->actionGeometry(menu->menuAction());
+        QCOMPARE(entry.top(), 0);
+        QCOMPARE(entry.height(), bar->height());
+    }
+
     void popupsDropDownWhereThereIsRoom_data()
     {
         QTest::addColumn<QRect>("anchor");
