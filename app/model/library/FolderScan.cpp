@@ -6,7 +6,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <chrono>
 #include <filesystem>
+#include <thread>
 
 namespace Quorbel {
 
@@ -30,7 +32,12 @@ std::optional<QList<QUrl>> FolderScan::entries(const QString& folder)
 FolderScan FolderScan::of(const QUrl& folder)
 {
     FolderScan scan;
-    const auto found = entries(folder.toLocalFile());
+    auto found = entries(folder.toLocalFile());
+    // A folder that is being removed is empty for a moment before it is gone.
+    if (found && found->isEmpty()) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        found = entries(folder.toLocalFile());
+    }
     scan.isListed = found.has_value();
     for (const QUrl& url : found.value_or(QList<QUrl>())) {
         const QFileInfo file(url.toLocalFile());

@@ -71,7 +71,8 @@ SaveHistory::Undoable SaveHistory::open()
 {
     const std::scoped_lock lock(m_mutex);
     m_journal.tidy();
-    if (QFileInfo::exists(m_oldJournal) && m_undoing.tryLock()) {
+    // Another program that starts may be at it; then its saves are there when it is done.
+    if (QFileInfo::exists(m_oldJournal) && m_undoing.tryLock(5000)) {
         m_journal.takeOver(m_oldJournal);
         m_undoing.unlock();
     }
