@@ -23,6 +23,7 @@ enum class Change {
     sortOrder,
     selection,
     primary,
+    unreadSelected,
     edits,
     unsavedCount,
     leftEdits,

@@ -83,6 +83,7 @@ void AppModel::tell(Change change)
         { Change::sortOrder, &AppModel::sortOrderChanged },
         { Change::selection, &AppModel::selectionChanged },
         { Change::primary, &AppModel::primaryChanged },
+        { Change::unreadSelected, &AppModel::unreadSelectedChanged },
         { Change::edits, &AppModel::editsChanged },
         { Change::unsavedCount, &AppModel::unsavedCountChanged },
         { Change::leftEdits, &AppModel::leftEditsChanged },
@@ -137,6 +138,12 @@ QString AppModel::folderCountText() const
     if (isBatch())
         text += u" \u00B7 %1 selected"_s.arg(selection().size());
     return text;
+}
+
+void AppModel::setInView(const QList<QUrl>& photos)
+{
+    requireMainThread("setInView");
+    Q_UNUSED(photos)
 }
 
 void AppModel::openPanel()

@@ -40,6 +40,8 @@ public:
     /// The record with this URL; null when there is none. Valid until the records change.
     const ImageRecord* record(const QUrl& url) const { return photos().record(url); }
     QString folderCountText() const;
+    /// The photos that are on screen now: such as were not read yet are read next.
+    void setInView(const QList<QUrl>& photos);
     void openPanel();
     void load(const QList<QUrl>& urls);
     void closeFolder();
@@ -73,12 +75,16 @@ public:
     QList<ImageRecord> selectedRecords() const;
     /// Positions in records() of the selected photos, ascending.
     const QList<int>& selectedRows() const { return selected().rows(); }
+    /// How many of the selected photos were not read yet.
+    int unreadSelected() const { return selected().unreadCount(); }
     void tap(const QUrl& url, bool shift, bool command);
     void selectAllPhotos();
 
     // --- Running tasks ---
     bool isWorking() const { return tasks().isWorking(); }
     bool isSaving() const { return saving().isSaving(); }
+    /// A save that was asked for, and waits until all of its photos have been read. It is being saved, too.
+    bool isAwaitingRecords() const { return false; }
     /// Set while a read or a write runs; nothing otherwise.
     const std::optional<Progress>& progress() const { return tasks().progress(); }
     /// Name of the file that a read does not get done with; nothing while it gets on.
@@ -220,6 +226,7 @@ signals:
     void sortOrderChanged();
     void selectionChanged();
     void primaryChanged();
+    void unreadSelectedChanged();
     /// Something of the draft or the batch: values, marks, or which fields are on screen.
     void editsChanged();
     void unsavedCountChanged();

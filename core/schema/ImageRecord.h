@@ -1,4 +1,4 @@
-// What is known of one photo after a read.
+// What is known of one photo: before a read little, after it all.
 // Thread: any. Plain values: a change on disk is picked up by reading the file again.
 #pragma once
 
@@ -29,6 +29,8 @@ struct CustomValue {
 };
 
 struct ImageRecord {
+    /// Only what the file system knows is here: the name, the size, the dates, the type by its extension.
+    bool isUnread = false;
     QUrl url{};  ///< the photo; the record's identity
     QString fileName{};  ///< last path component of the URL
     QString fileType{};  ///< ExifTool's file type, or the extension in upper case

@@ -22,9 +22,10 @@ struct Library::Load {
     static std::shared_ptr<Load> of(PhotoListing listing)
     {
         auto* load = new Load{ .listing = std::move(listing) };
-        load->unread = load->listing.files;
+        load->unread = load->urls();
         return { load, [](Load* done) { discardInBackground(std::unique_ptr<Load>(done)); } };
     }
+    QList<QUrl> urls() const;
     void skip(const QUrl& file);
     void run(
         const MetadataService& service, RecordSortOrder order, TaskProgress& progress, const std::stop_token& stop);
@@ -33,13 +34,21 @@ private:
     void readChanged(const MetadataService& service, TaskProgress& progress, const std::stop_token& stop);
 };
 
+QList<QUrl> Library::Load::urls() const
+{
+    QList<QUrl> urls;
+    for (const PhotoFile& file : listing.files)
+        urls.append(file.url);
+    return urls;
+}
+
 // Begins anew, without this file.
 void Library::Load::skip(const QUrl& file)
 {
     tooSlow.insert(file);
     read = {};
     photos = {};
-    unread = listing.files;
+    unread = urls();
     unread.removeIf([this](const QUrl& url) { return tooSlow.contains(url); });
 }
 
@@ -93,6 +102,8 @@ void Library::load(const QList<QUrl>& given)
             const auto ended = id ? m_tasks.end(*id) : std::nullopt;
             if (ended && ended->stop.stop_requested())
                 return;
+            if (listing.files.isEmpty() && !listing.leftOut.isEmpty())
+                return emit problem(PhotoReader::leftOutText(listing.leftOut));
             if (listing.files.isEmpty())
                 return emit problem(u"No supported images were found."_s);
             emit listed(listing.existing);
@@ -135,11 +146,11 @@ void Library::finish(const std::shared_ptr<Load>& load)
     // What was read may be older than what a save of ours wrote meanwhile.
     if (load->writes != m_refresh.endedWrites() && !load->photos.records.isEmpty())
         return read(load);
-    QList<PhotoReader::LeftOut> leftOut = result.leftOut;
+    QList<LeftOut> leftOut = load->listing.leftOut + result.leftOut;
     if (!load->tooSlow.isEmpty())
-        for (const QUrl& file : load->listing.files)
-            if (load->tooSlow.contains(file))
-                leftOut.append({ file.fileName(), u"took too long"_s });
+        for (const PhotoFile& file : load->listing.files)
+            if (load->tooSlow.contains(file.url))
+                leftOut.append({ file.url.fileName(), u"took too long"_s });
     if (!leftOut.isEmpty())
         emit problem(PhotoReader::leftOutText(leftOut));
     else if (load->photos.records.isEmpty())

@@ -71,9 +71,17 @@ PhotoListing PhotoListing::of(const QList<QUrl>& urls)
             files.append(QUrl::fromLocalFile(path));
         }
     }
-    listing.files = inNaturalOrder(files);
-    if (listing.label.isEmpty() && !listing.files.isEmpty())
-        listing.label = QFileInfo(listing.files.constFirst().toLocalFile()).dir().dirName();
+    files = inNaturalOrder(files);
+    if (listing.label.isEmpty() && !files.isEmpty())
+        listing.label = QFileInfo(files.constFirst().toLocalFile()).dir().dirName();
+    listing.files.reserve(files.size());
+    for (const QUrl& file : std::as_const(files)) {
+        const PhotoFile::Look look = PhotoFile::at(file);
+        if (look.file)
+            listing.files.append(*look.file);
+        else if (!look.reason.isEmpty())
+            listing.leftOut.append({ file.fileName(), look.reason });
+    }
     if (urls.size() != 1)
         listing.folder.reset();
     return listing;

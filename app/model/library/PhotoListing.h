@@ -2,17 +2,14 @@
 // Thread: any; a listing belongs in the background. Touches the file system; starts nothing.
 #pragma once
 
-#include <QList>
-#include <QString>
-#include <QUrl>
-
-#include <optional>
+#include "app/model/library/PhotoFile.h"
 
 namespace Quorbel {
 
 /// The photos among the folders and files that the user gave.
 struct PhotoListing {
-    QList<QUrl> files{};  ///< each once, in natural order of their names
+    QList<PhotoFile> files{};  ///< each once, in natural order of their names
+    QList<LeftOut> leftOut{};  ///< of those that bear the extension of a photo
     QString label{};  ///< what is open, for the window's title
     std::optional<QUrl> folder{};  ///< set when exactly one folder was given: the one to watch
     QList<QUrl> existing{};  ///< the given URLs that exist

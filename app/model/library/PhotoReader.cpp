@@ -1,60 +1,17 @@
 #include "app/model/library/PhotoReader.h"
 
-#include "app/model/library/FolderScan.h"
 #include "core/text/Text.h"
 
-#include <QFile>
 #include <QHash>
 #include <QSet>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace Quorbel::PhotoReader {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// What may be said about one path before ExifTool sees it.
-struct Check {
-    bool isReadable = false;
-    QString reason{};  // why not; empty: gone, or not a file at all: nothing to say
-};
-
-QString systemReason(int error)
-{
-    return QString::fromLocal8Bit(std::strerror(error)).toLower();
-}
-
-Check check(const QUrl& url)
-{
-    const QByteArray path = QFile::encodeName(url.toLocalFile());
-    struct stat status { };
-    if (stat(path.constData(), &status) != 0) {
-        const int error = errno;
-        // Qt holds a name as text, and a byte that is none as this character: the name does not lead back.
-        if (error == ENOENT && url.fileName().contains(QChar::ReplacementCharacter))
-            return { false, u"its name is not UTF-8"_s };
-        const bool isLink = lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
-        if (isLink && (error == ENOENT || error == ELOOP))
-            return { false, u"broken link"_s };
-        const bool isGone = error == ENOENT || error == ENOTDIR;
-        return { false, isGone ? QString() : systemReason(error) };
-    }
-    if (!S_ISREG(status.st_mode))
-        return {};
-    if (status.st_size == 0)
-        return { false, u"empty"_s };
-    // The effective user is the one that ExifTool will run as.
-    if (faccessat(AT_FDCWD, path.constData(), R_OK, AT_EACCESS) != 0)
-        return { false, systemReason(errno) };
-    return { true, {} };
-}
 
 // The photos of a folder repeat each other's texts: each text is held once. That saves memory, and tells texts equal
 // by their address, without looking at them.
@@ -87,12 +44,12 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
     QList<QUrl> readable;
     QHash<QUrl, std::optional<QDateTime>> modified;  // before the read
     for (const QUrl& url : urls) {
-        const Check checked = check(url);
-        if (checked.isReadable) {
+        const PhotoFile::Look look = PhotoFile::at(url);
+        if (look.file) {
             readable.append(url);
-            modified.insert(url, modificationDate(url.toLocalFile()));
-        } else if (!checked.reason.isEmpty()) {
-            result.leftOut.append({ url.fileName(), checked.reason });
+            modified.insert(url, look.file->modificationDate());
+        } else if (!look.reason.isEmpty()) {
+            result.leftOut.append({ url.fileName(), look.reason });
         }
     }
     progress.total = readable.size();

@@ -3,19 +3,13 @@
 #pragma once
 
 #include "app/model/TaskProgress.h"
+#include "app/model/library/PhotoFile.h"
 #include "core/MetadataService.h"
 
 #include <optional>
 #include <stop_token>
 
 namespace Quorbel::PhotoReader {
-
-/// A file that could not be read, and why, in a few words.
-struct LeftOut {
-    QString fileName{};
-    QString reason{};
-    bool operator==(const LeftOut&) const = default;
-};
 
 struct Result {
     QList<ImageRecord> records{};  ///< of the files that were read, in their order

@@ -73,7 +73,7 @@ QList<QUrl> SelectedPhotos::urls() const
 
 std::optional<QString> SelectedPhotos::sharedValue(const QString& id) const
 {
-    if (rows().isEmpty())
+    if (readCount() == 0)
         return std::nullopt;
     const std::vector<Field>& fields = summary().fields;
     const auto field = std::lower_bound(fields.cbegin(), fields.cend(), id,
@@ -122,12 +122,12 @@ QStringList SelectedPhotos::customNames() const
 
 std::optional<QString> SelectedPhotos::sharedCustom(const QString& name) const
 {
-    if (rows().isEmpty())
+    if (readCount() == 0)
         return std::nullopt;
     const auto custom = summary().customs.constFind(name.toLower());
     if (custom == summary().customs.cend())
         return QString();
-    const bool isEverywhere = custom->holders == rows().size() || custom->value.isEmpty();
+    const bool isEverywhere = custom->holders == readCount() || custom->value.isEmpty();
     return custom->isShared && isEverywhere ? std::optional(custom->value) : std::nullopt;
 }
 
@@ -141,6 +141,10 @@ const SelectedPhotos::Summary& SelectedPhotos::summary() const
     bool isFirst = true;
     for (const int row : rows()) {
         const ImageRecord& record = m_list.records().at(row);
+        if (record.isUnread) {
+            ++summary.unread;
+            continue;
+        }
         mergeFields(summary.fields, record.values, isFirst);
         for (auto list = record.lists.cbegin(); list != record.lists.cend(); ++list)
             if (!list->isEmpty() && !heldLists.contains(list.key()))

@@ -34,7 +34,10 @@ public:
     const QList<int>& rows() const;
     QList<QUrl> urls() const;
 
-    /// The text that all of them hold ("" when none holds one); nothing when they differ, or none is selected.
+    /// How many were not read yet. What is said below is said of the others.
+    int unreadCount() const { return summary().unread; }
+    /// The text that all of them hold ("" when none holds one); nothing when they differ, or none is
+    /// selected and read.
     std::optional<QString> sharedValue(const QString& id) const;
     /// Whether one of them holds the field.
     bool holds(const QString& id) const { return summary().heldIDs.contains(id); }
@@ -58,6 +61,7 @@ private:
     struct Summary {
         std::vector<Field> fields{};  ///< every scalar field that a selected photo holds, by id
         QSet<QString> heldIDs{};  ///< the same, and the list fields
+        int unread = 0;
         QMap<QString, Custom> customs{};  ///< every custom field that a selected photo holds, by its name in lower case
     };
 
@@ -65,6 +69,7 @@ private:
     static void mergeCustom(QMap<QString, Custom>& customs, const CustomValue& custom);
     static void mergeFields(std::vector<Field>& fields, const QMap<QString, QString>& values, bool isFirst);
     const Summary& summary() const;
+    qsizetype readCount() const { return rows().size() - summary().unread; }
 
     Announcer& m_announcer;
     const PhotoList& m_list;

@@ -113,7 +113,7 @@ void tst_PhotoReader::among()
     const QByteArray good = pngWithProperty("http://example.org/q/", "<q:Mood>1e999</q:Mood>");
     const QList<QUrl> urls{ folder.add(u"a.png"_s, good), odd, folder.add(u"z.png"_s, good) };
     QStringList expected{ u"a.png=shown"_s, u"z.png=shown"_s };
-    QList<PhotoReader::LeftOut> leftOut;
+    QList<LeftOut> leftOut;
     if (reason.isEmpty())
         expected.insert(1, u"odd.png="_s + title);
     else

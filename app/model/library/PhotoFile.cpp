@@ -1,0 +1,103 @@
+#include "app/model/library/PhotoFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <unistd.h>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString systemReason(int error)
+{
+    return QString::fromLocal8Bit(std::strerror(error)).toLower();
+}
+
+QString reasonFor(int error, const QByteArray& path, const QUrl& url)
+{
+    // Qt holds a name as text, and a byte that is none as this character: the name does not lead back.
+    if (error == ENOENT && url.fileName().contains(QChar::ReplacementCharacter))
+        return u"its name is not UTF-8"_s;
+    struct stat status { };
+    const bool isLink = lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
+    if (isLink && (error == ENOENT || error == ELOOP))
+        return u"broken link"_s;
+    const bool isGone = error == ENOENT || error == ENOTDIR;
+    return isGone ? QString() : systemReason(error);
+}
+
+qint64 nanoseconds(const struct statx_timestamp& time)
+{
+    return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+}
+
+// As the tool would name it, so that nothing changes on screen once it has.
+QString typeByExtension(const QString& fileName)
+{
+    const QString extension = QFileInfo(fileName).suffix().toUpper();
+    if (extension == u"JPG")
+        return u"JPEG"_s;
+    return extension == u"TIF" ? u"TIFF"_s : extension;
+}
+
+QDateTime dateOf(qint64 nanoseconds)
+{
+    const qint64 rest = nanoseconds % 1'000'000;
+    return QDateTime::fromMSecsSinceEpoch(nanoseconds / 1'000'000 - (rest < 0 ? 1 : 0));
+}
+
+}  // namespace
+
+PhotoFile::Look PhotoFile::at(const QUrl& url)
+{
+    const QByteArray path = QFile::encodeName(url.toLocalFile());
+    struct statx status { };
+    if (statx(AT_FDCWD, path.constData(), AT_STATX_SYNC_AS_STAT, STATX_BASIC_STATS | STATX_BTIME, &status) != 0)
+        return { {}, reasonFor(errno, path, url) };
+    if (!S_ISREG(status.stx_mode))
+        return {};
+    if (status.stx_size == 0)
+        return { {}, u"empty"_s };
+    // The effective user is the one that the tool will run as.
+    if (faccessat(AT_FDCWD, path.constData(), R_OK, AT_EACCESS) != 0)
+        return { {}, systemReason(errno) };
+    const bool hasBirth = (status.stx_mask & STATX_BTIME) != 0;
+    return { PhotoFile{ .url = url,
+                 .device = makedev(status.stx_dev_major, status.stx_dev_minor),
+                 .inode = status.stx_ino,
+                 .size = qint64(status.stx_size),
+                 .modified = nanoseconds(status.stx_mtime),
+                 .changed = nanoseconds(status.stx_ctime),
+                 .created = hasBirth ? std::optional(nanoseconds(status.stx_btime)) : std::nullopt },
+        {} };
+}
+
+QDateTime PhotoFile::modificationDate() const
+{
+    return dateOf(modified);
+}
+
+std::optional<QDateTime> PhotoFile::creationDate() const
+{
+    return created ? std::optional(dateOf(*created)) : std::nullopt;
+}
+
+ImageRecord PhotoFile::unreadRecord() const
+{
+    ImageRecord record{ .isUnread = true, .url = url, .fileName = url.fileName() };
+    record.fileType = typeByExtension(record.fileName);
+    record.fileSize = size;
+    record.creationDate = creationDate();
+    record.contentModificationDate = modificationDate();
+    return record;
+}
+
+}  // namespace Quorbel

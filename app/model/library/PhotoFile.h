@@ -1,0 +1,45 @@
+// One photo as the file system knows it, before the tool is asked anything.
+// Thread: any. Touches the file system; starts nothing.
+#pragma once
+
+#include "core/schema/ImageRecord.h"
+
+namespace Quorbel {
+
+/// A regular file that can be read. Two looks that are equal saw the same content, but for a change within the clock
+/// step of the file system.
+struct PhotoFile {
+    QUrl url{};
+    quint64 device = 0;
+    quint64 inode = 0;
+    qint64 size = 0;  ///< bytes
+    qint64 modified = 0;  ///< nanoseconds since 1970, UTC
+    qint64 changed = 0;  ///< the same, of content, name or rights
+    std::optional<qint64> created{};  ///< the same; nothing where the file system does not know
+    bool operator==(const PhotoFile&) const = default;
+
+    /// To the millisecond, as records have them.
+    QDateTime modificationDate() const;
+    std::optional<QDateTime> creationDate() const;
+    /// All that a record can say before the photo was read.
+    ImageRecord unreadRecord() const;
+
+    struct Look;
+    /// A link is followed.
+    static Look at(const QUrl& url);
+};
+
+/// What may be said about one path before the tool sees it.
+struct PhotoFile::Look {
+    std::optional<PhotoFile> file{};  ///< nothing where the tool would stumble, or wait for ever
+    QString reason{};  ///< why not, in a few words; "" when it is gone or no file at all: nothing to say
+};
+
+/// A file that could not be read, and why, in a few words.
+struct LeftOut {
+    QString fileName{};
+    QString reason{};
+    bool operator==(const LeftOut&) const = default;
+};
+
+}  // namespace Quorbel
