@@ -1,11 +1,11 @@
 #include "core/MetadataService.h"
 
 #include "core/save/Companions.h"
-#include "core/save/JournalTags.h"
 #include "core/save/RefusedHomes.h"
 #include "core/save/SafeWriter.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/ValueTooLong.h"
+#include "core/save/journal/JournalTags.h"
 #include "core/schema/CustomFields.h"
 #include "core/tool/IptcEncoding.h"
 #include "core/tool/MetadataWriter.h"

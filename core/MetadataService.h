@@ -4,8 +4,8 @@
 
 #include "core/save/EditPlan.h"
 #include "core/save/Preparation.h"
-#include "core/save/SaveUndo.h"
 #include "core/save/WriteNotes.h"
+#include "core/save/journal/SaveUndo.h"
 #include "core/schema/ImageRecord.h"
 #include "core/tool/PhotoRead.h"
 

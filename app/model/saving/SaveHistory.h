@@ -5,7 +5,7 @@
 
 #include "app/model/library/PhotoReader.h"
 #include "core/MetadataService.h"
-#include "core/save/SaveJournal.h"
+#include "core/save/journal/SaveJournal.h"
 
 #include <QLockFile>
 

@@ -2,9 +2,9 @@
 
 #include "app/model/saving/ReplacedFilesPoll.h"
 #include "app/model/saving/SaveReasons.h"
-#include "core/save/JournalTags.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/SaveVerification.h"
+#include "core/save/journal/JournalTags.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/Text.h"
 

@@ -2,7 +2,7 @@
 // full, permissions are taken away. Whatever happens, each photo is the old one or a whole new one, and what was typed
 // for an unsaved one is still there, with a banner that names the photo.
 // QUORBEL_SLOW_TESTS=1 plays hundreds of rounds; QUORBEL_FAULT_SEED repeats those of an earlier run.
-#include "core/save/SaveJournal.h"
+#include "core/save/journal/SaveJournal.h"
 #include "core/tool/TemporaryFiles.h"
 #include "tests/app/model/ModelFixture.h"
 #include "tests/app/model/saving/SaveFaults.h"

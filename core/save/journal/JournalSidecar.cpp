@@ -1,4 +1,4 @@
-#include "core/save/JournalSidecar.h"
+#include "core/save/journal/JournalSidecar.h"
 
 #include "core/save/SaveGuard.h"
 

@@ -4,7 +4,7 @@
 // (SaveHistory). Knows nothing of processes: SaveUndo reads the old values and writes them back.
 #pragma once
 
-#include "core/save/JournalEntry.h"
+#include "core/save/journal/JournalEntry.h"
 
 #include <optional>
 #include <utility>

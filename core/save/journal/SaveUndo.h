@@ -2,7 +2,7 @@
 // Thread: any; blocks on ExifTool. SaveJournal keeps the entries in between.
 #pragma once
 
-#include "core/save/JournalEntry.h"
+#include "core/save/journal/JournalEntry.h"
 #include "core/tool/WriteFailures.h"
 
 namespace Quorbel {

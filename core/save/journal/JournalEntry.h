@@ -1,8 +1,8 @@
 // What one save replaced, and in which files. Thread: any. Plain values.
 #pragma once
 
-#include "core/save/FileStamp.h"
-#include "core/save/JournalSidecar.h"
+#include "core/save/journal/FileStamp.h"
+#include "core/save/journal/JournalSidecar.h"
 #include "core/tool/TagDump.h"
 
 #include <QDateTime>

@@ -1,7 +1,7 @@
 // A sidecar as it was before a save. Thread: any; reads and writes that one file.
 #pragma once
 
-#include "core/save/FileStamp.h"
+#include "core/save/journal/FileStamp.h"
 
 #include <QByteArray>
 

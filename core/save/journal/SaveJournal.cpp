@@ -1,4 +1,4 @@
-#include "core/save/SaveJournal.h"
+#include "core/save/journal/SaveJournal.h"
 
 #include "core/save/Companions.h"
 #include "core/tool/TemporaryFiles.h"

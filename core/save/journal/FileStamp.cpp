@@ -1,4 +1,4 @@
-#include "core/save/FileStamp.h"
+#include "core/save/journal/FileStamp.h"
 
 #include <QDateTime>
 #include <QFileInfo>

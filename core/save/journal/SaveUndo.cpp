@@ -1,8 +1,8 @@
-#include "core/save/SaveUndo.h"
+#include "core/save/journal/SaveUndo.h"
 
 #include "core/save/Companions.h"
 #include "core/save/EditPlan.h"
-#include "core/save/JournalTags.h"
+#include "core/save/journal/JournalTags.h"
 #include "core/save/SafeWriter.h"
 #include "core/save/SaveGuard.h"
 #include "core/schema/CustomFields.h"

@@ -1,4 +1,4 @@
-#include "core/save/JournalTags.h"
+#include "core/save/journal/JournalTags.h"
 
 #include "core/save/EditPlan.h"
 #include "core/tool/IptcEncoding.h"

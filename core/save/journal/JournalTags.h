@@ -1,7 +1,7 @@
 // Which tags a save touches, how they are read before it and put back after it. Thread: any. Pure.
 #pragma once
 
-#include "core/save/JournalEntry.h"
+#include "core/save/journal/JournalEntry.h"
 #include "core/tool/WriteCommand.h"
 
 namespace Quorbel {
