@@ -17,6 +17,7 @@ namespace Quorbel {
 enum class Change {
     records,
     visibleRows,
+    folderGroups,
     folder,
     opened,
     search,

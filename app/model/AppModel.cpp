@@ -77,6 +77,7 @@ void AppModel::tell(Change change)
     static const std::map<Change, Signal> signalOf{
         { Change::records, &AppModel::recordsChanged },
         { Change::visibleRows, &AppModel::visibleRowsChanged },
+        { Change::folderGroups, &AppModel::folderGroupsChanged },
         { Change::folder, &AppModel::folderChanged },
         { Change::opened, &AppModel::photosOpened },
         { Change::search, &AppModel::searchChanged },
@@ -135,6 +136,10 @@ QString AppModel::folderCountText() const
     QString text = QString::number(records().size()) + u" photo"_s;
     if (records().size() != 1)
         text += u's';
+    if (photos().folders().isOrdering()) {
+        const int folders = photos().folders().holding();
+        text += (folders == 1 ? u" in %1 folder"_s : u" in %1 folders"_s).arg(folders);
+    }
     if (isBatch())
         text += u" \u00B7 %1 selected"_s.arg(selection().size());
     return text;
@@ -157,6 +162,17 @@ void AppModel::openPanel()
     });
 }
 
+void AppModel::openPanelWithSubfolders()
+{
+    requireMainThread("openPanelWithSubfolders");
+    if (!m_services.openPanel)
+        return;
+    m_services.openPanel([model = QPointer(this)](const QList<QUrl>& urls) {
+        if (model && !urls.isEmpty())
+            model->requestLoad(urls, true);
+    });
+}
+
 void AppModel::openFile(const QUrl& url)
 {
     requireMainThread("openFile");
@@ -164,12 +180,12 @@ void AppModel::openFile(const QUrl& url)
         m_services.openUrl(url);
 }
 
-void AppModel::load(const QList<QUrl>& urls)
+void AppModel::load(const QList<QUrl>& urls, bool withSubfolders)
 {
     requireMainThread("load");
     m_toBringBack.reset();
     if (PhotoListing::isWorthListing(urls))
-        m_library.load(urls);
+        m_library.load(urls, withSubfolders);
     else
         setErrorMessage(u"No supported images were found."_s);
 }

@@ -34,8 +34,14 @@ public:
     void setSearch(const QString& text) { photos().setSearch(text); }
     RecordSortOrder sortOrder() const { return photos().order(); }
     void setSortOrder(RecordSortOrder order);
-    /// Positions in records() of the photos that pass the search, in sort order. For a list of any length.
+    /// Positions in records() of the photos that pass the search, in sort order; where subfolders are open, by folder
+    /// first, and folded ones too. For a list of any length.
     const QList<int>& visibleRows() const { return photos().visibleRows(); }
+    /// The runs of visibleRows() that lie in one folder; none where no subfolders are open.
+    const QList<FolderGroup>& folderGroups() const { return photos().groups().list(); }
+    /// Folded photos stay selected, and are part of "Select all", but not of a range. Until other folders are opened.
+    void setFolded(const QUrl& folder, bool on) { photos().setFolded({ folder }, on); }
+    void setAllFolded(bool on) { photos().setFolded(photos().folders().urls(), on); }
     QList<ImageRecord> visibleRecords() const;
     /// The record with this URL; null when there is none. Valid until the records change.
     const ImageRecord* record(const QUrl& url) const { return photos().record(url); }
@@ -43,7 +49,10 @@ public:
     /// The photos that are on screen now: such as were not read yet are read next.
     void setInView(const QList<QUrl>& photos);
     void openPanel();
-    void load(const QList<QUrl>& urls);
+    void openPanelWithSubfolders();
+    /// Where it is not said whether folders are opened with those in them, the setting decides.
+    void load(const QList<QUrl>& urls) { load(urls, m_preferences.openSubfolders()); }
+    void load(const QList<QUrl>& urls, bool withSubfolders);
     void closeFolder();
     /// Compares the open folder with the records and re-reads what differs. Needs an open folder.
     void refresh();
@@ -51,7 +60,8 @@ public:
     /// load(), closeFolder() and the end of the program, through the save dialog when there are unsaved edits: they
     /// happen after its save or discard, or not at all. One photo's edits are saved without asking where the user
     /// chose so. A save that runs is waited for.
-    void requestLoad(const QList<QUrl>& urls);
+    void requestLoad(const QList<QUrl>& urls) { requestLoad(urls, m_preferences.openSubfolders()); }
+    void requestLoad(const QList<QUrl>& urls, bool withSubfolders);
     void requestClose();
     void requestQuit();
     /// Ends the program without a question: unsaved edits are kept for the next start, and a save that runs is waited
@@ -218,6 +228,8 @@ signals:
     /// The photos that pass the search, or their order, changed: visibleRows() has a new answer, or the same
     /// positions hold other photos. Not announced when photos were only read again.
     void visibleRowsChanged();
+    /// folderGroups() has another answer: another folder, count or fold.
+    void folderGroupsChanged();
     /// The name or the address of what is open.
     void folderChanged();
     /// Photos were opened: other ones, or the same ones read again.

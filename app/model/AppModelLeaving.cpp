@@ -63,14 +63,14 @@ void AppModel::commitSelection(const Selection& next)
     m_editing.select(next);
 }
 
-void AppModel::requestLoad(const QList<QUrl>& urls)
+void AppModel::requestLoad(const QList<QUrl>& urls, bool withSubfolders)
 {
     requireMainThread("requestLoad");
     if (m_services.endEditing)
         m_services.endEditing();
     if (unsavedCount() > 0)
-        return holdBack([this, urls] { requestLoad(urls); });
-    load(urls);
+        return holdBack([this, urls, withSubfolders] { requestLoad(urls, withSubfolders); });
+    load(urls, withSubfolders);
 }
 
 void AppModel::requestClose()
@@ -198,6 +198,9 @@ void AppModel::bringBack(const LeftEdits& left)
     m_left.forget(left);
     m_left.keep(away);
     m_editing.bringBack(here);
+    // What is brought back is to be seen.
+    if (primary())
+        setFolded(primary()->adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash), false);
 }
 
 void AppModel::openAndBringBack(const LeftEdits& left)
@@ -217,7 +220,8 @@ void AppModel::openAndBringBack(const LeftEdits& left)
     QList<QUrl> urls;
     for (const QString& folder : folders)
         urls.append(QUrl::fromLocalFile(folder));
-    load(urls);
+    // Their own folders and no others.
+    load(urls, false);
     m_toBringBack = left;
 }
 

@@ -56,6 +56,8 @@ public:
     Setting<QString> placeService{ *this, "placeService", {} };
     Setting<QString> renamePattern{ *this, "renamePattern", QString::fromLatin1("%Date%_%Title%") };
     Setting<bool> stripSpecialChars{ *this, "stripSpecialChars", true };
+    /// Whether a folder is opened with the folders in it, where nobody says which.
+    Setting<bool> openSubfolders{ *this, "openSubfolders", false };
     Setting<RecordSortOrder> sortOrder{ *this, "sortOrder", RecordSortOrder::nameAsc };
     Setting<std::optional<ColorScheme>> colorOverride{ *this, "appearance", std::nullopt };
     Setting<QStringList> recentPaths{ *this, "recentItems", {} };

@@ -113,7 +113,7 @@ ContentView::ContentView(
     connectSheets();
     connect(m_bar, &WindowBar::previewToggled, this, &ContentView::togglePreview);
     connect(m_drop, &FileDrop::targetedChanged, m_launch, &LaunchView::setTargeted);
-    connect(m_drop, &FileDrop::dropped, &model, &AppModel::requestLoad);
+    connect(m_drop, &FileDrop::dropped, &model, qOverload<const QList<QUrl>&>(&AppModel::requestLoad));
     onRestyle(this, [this] {
         m_window->setMinimumSize(leastWindow(minimumWindow));
         placeBanner();

@@ -61,7 +61,8 @@ void Library::Load::run(
         read = PhotoReader::read(service, std::exchange(unread, {}), progress, stop);
     if (!read.error && !read.isCancelled)
         readChanged(service, progress, stop);
-    photos = OpenPhotos::of(std::move(read.records), order, listing.folder.has_value(), stop);
+    const bool isWatched = listing.folder && listing.tops.isEmpty();
+    photos = OpenPhotos::of(std::move(read.records), order, isWatched, listing.folderOrder(), stop);
 }
 
 // What was changed since it was read. Silent: what cannot be read any more stays as it is.
@@ -90,14 +91,17 @@ Library::Library(
 {
 }
 
-void Library::load(const QList<QUrl>& given)
+void Library::load(const QList<QUrl>& given, bool withSubfolders)
 {
     m_arrived.reset();
     // Without the tool nothing is read.
-    const auto id = m_service ? std::optional(m_tasks.begin(RunningTasks::Kind::load, 0).id) : std::nullopt;
+    const auto task = m_service ? std::optional(m_tasks.begin(RunningTasks::Kind::load, 0)) : std::nullopt;
     runInBackground(
-        this, [given] { return PhotoListing::of(given); },
-        [this, id](PhotoListing listing) {
+        this,
+        [given, withSubfolders, stop = task ? task->stop.get_token() : std::stop_token()] {
+            return withSubfolders ? PhotoListing::withSubfolders(given, stop) : PhotoListing::of(given);
+        },
+        [this, id = task ? std::optional(task->id) : std::nullopt](PhotoListing listing) {
             const Announcer::Together together(m_announcer);
             const auto ended = id ? m_tasks.end(*id) : std::nullopt;
             if (ended && ended->stop.stop_requested())
@@ -182,7 +186,8 @@ void Library::show(Load& load)
     const bool isOtherFolder = std::exchange(m_folderURL, load.listing.folder) != load.listing.folder;
     if (hasOtherName || isOtherFolder)
         m_announcer.announce(Change::folder);
-    m_refresh.begin(load.listing.folder, load.tooSlow);
+    // Folders with those in them are not watched.
+    m_refresh.begin(load.listing.tops.isEmpty() ? load.listing.folder : std::nullopt, load.tooSlow);
 }
 
 void Library::close()

@@ -25,10 +25,10 @@ public:
     /// The one folder that is open and watched; nothing where files or several folders are.
     const std::optional<QUrl>& folderURL() const { return m_folderURL; }
 
-    /// Lists the folders among these and reads the photos. What is open is replaced as a whole by open(), once arrived():
-    /// photos, name and watched folder always come from the same load, whichever of several ends last. What others, or
-    /// a save of ours, changed during the read is read again.
-    void load(const QList<QUrl>& given);
+    /// Lists the folders among these and reads the photos. What is open is replaced as a whole by open(), once
+    /// arrived(): photos, name and watched folder always come from the same load, whichever of several ends last. What
+    /// others, or a save of ours, changed during the read is read again.
+    void load(const QList<QUrl>& given, bool withSubfolders);
     /// Whether photos have arrived that are neither shown nor dropped.
     bool hasArrived() const { return m_arrived != nullptr; }
     /// Shows the photos that arrived; reads them again before, when a save of ours ended meanwhile.

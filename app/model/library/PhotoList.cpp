@@ -6,12 +6,12 @@
 namespace Quorbel {
 
 OpenPhotos OpenPhotos::of(
-    QList<ImageRecord> records, RecordSortOrder order, bool isWatched, const std::stop_token& stop)
+    QList<ImageRecord> records, RecordSortOrder order, bool isWatched, FolderOrder folders, const std::stop_token& stop)
 {
     OpenPhotos photos{ .records = std::move(records) };
     // Room for what is added later: growing moves everything.
     photos.records.reserve(photos.records.size() + photos.records.size() / 4);
-    photos.index.reset(photos.records, order, stop);
+    photos.index.reset(photos.records, order, std::move(folders), stop);
     for (const ImageRecord& record : std::as_const(photos.records)) {
         if (stop.stop_requested())
             return photos;
@@ -47,8 +47,16 @@ void PhotoList::setOrder(RecordSortOrder order)
         updateVisibleRows(false);
 }
 
+void PhotoList::setFolded(const QList<QUrl>& folders, bool on)
+{
+    if (m_groups.setFolded(folders, on))
+        m_announcer.announce(Change::folderGroups);
+}
+
 void PhotoList::open(OpenPhotos photos)
 {
+    if (!photos.index.folders().isSame(folders()))
+        m_groups.unfoldAll();
     std::swap(m_open, photos);
     discardInBackground(std::move(photos));
     keepCreationDates();
@@ -172,6 +180,8 @@ void PhotoList::contentChanged(bool isHeldChanged, bool photosChanged)
 void PhotoList::updateVisibleRows(bool photosChanged)
 {
     QList<int> rows = m_open.index.rows(m_needle, m_order);
+    if (m_groups.update(m_open.index.groups(rows)))
+        m_announcer.announce(Change::folderGroups);
     if (!m_announcer.assign(m_visibleRows, std::move(rows), Change::visibleRows) && photosChanged)
         m_announcer.announce(Change::visibleRows);
 }

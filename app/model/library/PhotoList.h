@@ -22,9 +22,10 @@ struct OpenPhotos {
     KeywordUses keywords{};
     std::shared_ptr<KnownFiles> files{};  ///< null where nothing is watched
 
-    /// Sorted in this order. Once stopped, it ends early, and the result is of no use.
-    static OpenPhotos of(
-        QList<ImageRecord> records, RecordSortOrder order, bool isWatched, const std::stop_token& stop = {});
+    /// Sorted in this order, by folder first where folders have one. Once stopped, it ends early, and the result is of
+    /// no use.
+    static OpenPhotos of(QList<ImageRecord> records, RecordSortOrder order, bool isWatched, FolderOrder folders = {},
+        const std::stop_token& stop = {});
 };
 
 class PhotoList final {
@@ -43,8 +44,12 @@ public:
     bool contains(const QUrl& url) const { return position(url) >= 0; }
     /// Null when there is none. Valid until the records change.
     const ImageRecord* record(const QUrl& url) const;
-    /// Positions of the photos that pass the search, in sort order.
+    /// Positions of the photos that pass the search, in sort order; where subfolders are open, by folder first.
     const QList<int>& visibleRows() const { return m_visibleRows; }
+    const FolderGroups& groups() const { return m_groups; }
+    /// The folders that hold photos, where subfolders are open.
+    const FolderOrder& folders() const { return m_open.index.folders(); }
+    void setFolded(const QList<QUrl>& folders, bool on);
     /// Counts the changes of the records: what was derived from them under another number is out of date.
     int serial() const { return m_serial; }
     /// The same, though photos that were only added do not count: the others are where and what they were.
@@ -86,6 +91,7 @@ private:
     Announcer& m_announcer;
     OpenPhotos m_open;
     QList<int> m_visibleRows;
+    FolderGroups m_groups;
     QString m_search;
     QString m_needle;  ///< the search as it is compared: trimmed, lower case
     RecordSortOrder m_order;

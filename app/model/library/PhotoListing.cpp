@@ -1,6 +1,7 @@
 #include "app/model/library/PhotoListing.h"
 
 #include "app/model/library/FolderScan.h"
+#include "app/model/library/FolderWalk.h"
 #include "core/save/originals/OriginalsFolder.h"
 #include "core/schema/ImageTypes.h"
 #include "core/text/Text.h"
@@ -85,6 +86,52 @@ PhotoListing PhotoListing::of(const QList<QUrl>& urls)
     if (urls.size() != 1)
         listing.folder.reset();
     return listing;
+}
+
+PhotoListing PhotoListing::withSubfolders(const QList<QUrl>& urls, const std::stop_token& stop)
+{
+    PhotoListing listing;
+    QList<QUrl> loose;
+    for (const QUrl& url : urls) {
+        const QUrl clean = QUrl::fromLocalFile(QDir::cleanPath(url.toLocalFile()));
+        const QFileInfo info(clean.toLocalFile());
+        if (!url.isLocalFile() || !info.exists())
+            continue;
+        listing.existing.append(url);
+        if (info.isDir())
+            listing.tops.append(clean);
+        else
+            loose.append(url);
+    }
+    PhotoListing rest = of(loose);
+    FolderWalk::through(listing.tops, stop, [&listing](const FolderWalk::Found& found) { listing.add(found); });
+    QSet<QUrl> walked;
+    for (const PhotoFile& file : std::as_const(listing.files))
+        walked.insert(file.url);
+    rest.files.removeIf([&walked](const PhotoFile& file) { return walked.contains(file.url); });
+    listing.files.append(rest.files);
+    listing.leftOut.append(rest.leftOut);
+    listing.label = listing.tops.isEmpty() ? rest.label : QDir(listing.tops.constLast().toLocalFile()).dirName();
+    if (urls.size() == 1 && !listing.tops.isEmpty())
+        listing.folder = urls.constFirst();
+    return listing;
+}
+
+void PhotoListing::add(const FolderWalk::Found& found)
+{
+    for (const FolderWalk::Photo& photo : found.photos)
+        if (photo.look.file)
+            files.append(*photo.look.file);
+        else if (!photo.look.reason.isEmpty())
+            leftOut.append({ photo.url.fileName(), photo.look.reason });
+}
+
+FolderOrder PhotoListing::folderOrder() const
+{
+    QStringList paths;
+    for (const QUrl& top : tops)
+        paths.append(top.toLocalFile());
+    return { paths, existing.size() > 1 };
 }
 
 }  // namespace Quorbel

@@ -2,23 +2,33 @@
 // Thread: any; a listing belongs in the background. Touches the file system; starts nothing.
 #pragma once
 
-#include "app/model/library/PhotoFile.h"
+#include "app/model/library/FolderOrder.h"
+#include "app/model/library/FolderWalk.h"
+
+#include <stop_token>
 
 namespace Quorbel {
 
 /// The photos among the folders and files that the user gave.
 struct PhotoListing {
-    QList<PhotoFile> files{};  ///< each once, in natural order of their names
+    QList<PhotoFile> files{};  ///< each once, in natural order of their names; with subfolders in that of the walk
     QList<LeftOut> leftOut{};  ///< of those that bear the extension of a photo
     QString label{};  ///< what is open, for the window's title
     std::optional<QUrl> folder{};  ///< set when exactly one folder was given: the one to watch
     QList<QUrl> existing{};  ///< the given URLs that exist
+    QList<QUrl> tops{};  ///< folders that were listed with all folders in them
 
     /// Folders contribute their immediate entries, hidden ones too; what does not exist is skipped, and a folder
     /// that cannot be listed counts as empty. A photo that a killed save left without its name has it again.
     static PhotoListing of(const QList<QUrl>& urls);
+    /// The same, but folders contribute the photos of all folders in them too (FolderWalk). Once stopped, it ends
+    /// early, and the result is of no use.
+    static PhotoListing withSubfolders(const QList<QUrl>& urls, const std::stop_token& stop);
     /// Whether there is a photo or a folder among them. Lists nothing.
     static bool isWorthListing(const QList<QUrl>& urls);
+    /// The order that subfolders bring; none without.
+    FolderOrder folderOrder() const;
+    void add(const FolderWalk::Found& found);
 };
 
 }  // namespace Quorbel

@@ -53,9 +53,11 @@ RecordIndex::Entry::Entry(const ImageRecord& record)
 {
 }
 
-void RecordIndex::reset(const QList<ImageRecord>& records, RecordSortOrder order, const std::stop_token& stop)
+void RecordIndex::reset(
+    const QList<ImageRecord>& records, RecordSortOrder order, FolderOrder folders, const std::stop_token& stop)
 {
     *this = {};
+    m_folders = std::move(folders);
     m_entries.reserve(size_t(withRoom(records.size())));
     m_positions.reserve(size_t(withRoom(records.size())));
     m_ids.reserve(withRoom(records.size()));
@@ -77,6 +79,7 @@ void RecordIndex::add(const ImageRecord& record)
 {
     Entry& added = m_entries.emplace_back(record);
     added.id = int(m_positions.size());
+    added.folder = m_folders.enter(record.url);
     m_positions.push_back(int(m_entries.size()) - 1);
     if (!m_ids.contains(record.url))
         m_ids.insert(record.url, added.id);
@@ -122,11 +125,15 @@ void RecordIndex::follow(int position, const ImageRecord& record)
         if (m_ids.value(old.url, -1) == old.id)
             m_ids.remove(old.url);
         m_ids.insert(record.url, old.id);
+        m_folders.leave(old.folder);
+        old.folder = m_folders.enter(record.url);
     }
     const int id = old.id;
+    const int folder = old.folder;
     if (old.fileName != record.fileName)
         old = Entry(record);
     old.id = id;
+    old.folder = folder;
     old.url = record.url;
     old.created = createdAt(record);
 }
@@ -142,6 +149,7 @@ void RecordIndex::remove(const QList<int>& positions)
             ++next;
             newPosition[size_t(i)] = -1;
             m_positions[size_t(old.id)] = -1;
+            m_folders.leave(old.folder);
             if (m_ids.value(old.url, -1) == old.id)
                 m_ids.remove(old.url);
             continue;
@@ -175,9 +183,29 @@ QList<int> RecordIndex::rows(const QString& needle, RecordSortOrder order)
     return found;
 }
 
-// By name; photos of equal names as they stand in the list.
+QList<FolderGroup> RecordIndex::groups(const QList<int>& rows) const
+{
+    QList<FolderGroup> groups;
+    if (!m_folders.isOrdering())
+        return groups;
+    int last = -1;
+    for (qsizetype row = 0; row < rows.size(); ++row) {
+        const int number = entry(rows.at(row)).folder;
+        if (number != last) {
+            const FolderOrder::Folder& folder = m_folders.folder(number);
+            groups.append({ .folder = folder.url, .parents = folder.parents, .name = folder.name, .first = row });
+            last = number;
+        }
+        ++groups.last().count;
+    }
+    return groups;
+}
+
+// By folder and name; photos of equal names as they stand in the list.
 bool RecordIndex::isBefore(int a, int b) const
 {
+    if (entry(a).folder != entry(b).folder)
+        return folderRank(a) < folderRank(b);
     const int order = entry(a).nameKey.compare(entry(b).nameKey);
     return order != 0 ? order < 0 : a < b;
 }
@@ -185,7 +213,8 @@ bool RecordIndex::isBefore(int a, int b) const
 RecordIndex::DateKey RecordIndex::dateKey(int position, bool newestFirst) const
 {
     const qint64 created = entry(position).created.value_or(0);
-    return { !entry(position).created, newestFirst ? -created : created, m_nameRank[size_t(position)], position };
+    return { folderRank(position), !entry(position).created, newestFirst ? -created : created,
+        m_nameRank[size_t(position)], position };
 }
 
 // Where two photos were ranked before, their old ranks tell whether their names are equal.
@@ -196,7 +225,7 @@ void RecordIndex::rank(const std::vector<int>& fresh)
         isFresh[size_t(position)] = true;
     const auto areEqual = [&](int a, int b) {
         if (isFresh[size_t(a)] || isFresh[size_t(b)])
-            return entry(a).nameKey.compare(entry(b).nameKey) == 0;
+            return entry(a).folder == entry(b).folder && entry(a).nameKey.compare(entry(b).nameKey) == 0;
         return m_nameRank[size_t(a)] == m_nameRank[size_t(b)];
     };
     std::vector<int> ranks(m_entries.size());
@@ -260,18 +289,26 @@ const std::vector<int>& RecordIndex::sortedBy(RecordSortOrder order)
     return m_sorted;
 }
 
-// The runs of equal names in reverse, each run in its own order: what a stable sort gives.
+// The runs of equal names in reverse, each run in its own order: what a stable sort gives. The folders stay where they
+// are.
 std::vector<int> RecordIndex::namesDescending() const
 {
     std::vector<int> result;
     result.reserve(m_byName.size());
-    for (auto end = m_byName.cend(); end != m_byName.cbegin();) {
-        const int rank = m_nameRank[size_t(*std::prev(end))];
-        auto begin = end;
-        while (begin != m_byName.cbegin() && m_nameRank[size_t(*std::prev(begin))] == rank)
-            --begin;
-        result.insert(result.end(), begin, end);
-        end = begin;
+    for (auto from = m_byName.cbegin(); from != m_byName.cend();) {
+        const int folder = entry(*from).folder;
+        const auto to = m_folders.isOrdering()
+            ? std::find_if(from, m_byName.cend(), [&](int position) { return entry(position).folder != folder; })
+            : m_byName.cend();
+        for (auto end = to; end != from;) {
+            const int rank = m_nameRank[size_t(*std::prev(end))];
+            auto begin = end;
+            while (begin != from && m_nameRank[size_t(*std::prev(begin))] == rank)
+                --begin;
+            result.insert(result.end(), begin, end);
+            end = begin;
+        }
+        from = to;
     }
     return result;
 }

@@ -1,9 +1,12 @@
-// Where each photo of a list stands: by URL, and in a sort order through a search.
+// Where each photo of a list stands: by URL, and in a sort order through a search; where folders have an order, by
+// folder first.
 // Thread: one at a time. Keeps one natural sort key and one lower-case name a photo, so that neither a keystroke in
 // the search nor another sort order compares texts again. What comes, goes or changes is put in its place in what is
 // sorted already: that costs steps over plain numbers, and texts are compared only around the photos concerned.
 #pragma once
 
+#include "app/model/library/FolderGroups.h"
+#include "app/model/library/FolderOrder.h"
 #include "core/schema/ImageRecord.h"
 #include "core/schema/RecordSortOrder.h"
 
@@ -19,7 +22,8 @@ namespace Quorbel {
 class RecordIndex final {
 public:
     /// Sorts at once. Once stopped, it ends early, and the index is of no use.
-    void reset(const QList<ImageRecord>& records, RecordSortOrder order, const std::stop_token& stop = {});
+    void reset(const QList<ImageRecord>& records, RecordSortOrder order, FolderOrder folders = {},
+        const std::stop_token& stop = {});
     /// The records from this position on are new, behind those that are known.
     void append(const QList<ImageRecord>& records);
     /// The records at these positions are other ones now, or were read again.
@@ -33,6 +37,9 @@ public:
     /// order; what is equal in it stays in the list's. Photos without a creation date come last; those of one date, or
     /// without, by name.
     QList<int> rows(const QString& needle, RecordSortOrder order);
+    /// The runs of one folder in what rows() gave; none where folders have no order.
+    QList<FolderGroup> groups(const QList<int>& rows) const;
+    const FolderOrder& folders() const { return m_folders; }
 
 private:
     struct Entry {
@@ -44,9 +51,11 @@ private:
         QCollatorSortKey nameKey;
         std::optional<qint64> created;  ///< ms since 1970
         int id = 0;
+        int folder = 0;  ///< its number
     };
     /// What decides in an order by date.
     struct DateKey {
+        int folder;  ///< its rank
         bool isUndated;
         qint64 date;
         int rank;
@@ -57,6 +66,7 @@ private:
     void add(const ImageRecord& record);
     void follow(int position, const ImageRecord& record);
     const Entry& entry(int position) const { return m_entries[size_t(position)]; }
+    int folderRank(int position) const { return m_folders.rank(entry(position).folder); }
     bool isBefore(int a, int b) const;
     DateKey dateKey(int position, bool newestFirst) const;
     void rank(const std::vector<int>& fresh);
@@ -69,10 +79,11 @@ private:
     std::vector<Entry> m_entries;
     QHash<QUrl, int> m_ids;  ///< never renumbered, so that a photo that goes moves no other one in it
     std::vector<int> m_positions;  ///< by id
-    std::vector<int> m_byName;  ///< positions, ascending by name
-    std::vector<int> m_nameRank;  ///< by position; photos of equal names have equal ranks
+    std::vector<int> m_byName;  ///< positions, ascending by folder and name
+    std::vector<int> m_nameRank;  ///< by position; photos of equal names in one folder have equal ranks
     std::vector<int> m_sorted;  ///< positions in m_sortedBy's order
     std::optional<RecordSortOrder> m_sortedBy;
+    FolderOrder m_folders;
 };
 
 }  // namespace Quorbel

@@ -18,17 +18,24 @@ qsizetype visibleRow(const PhotoList& list, const QUrl& photo)
     return list.visibleRows().indexOf(list.position(photo));
 }
 
-// The visible photos from one to the other; nothing when either is not visible.
+// Whether the photo of a row is on screen or can be scrolled there.
+bool isShown(const PhotoList& list, qsizetype row)
+{
+    return row >= 0 && !list.groups().isFolded(row);
+}
+
+// The shown photos from one to the other; nothing when either is not shown.
 std::optional<QSet<QUrl>> visibleRange(const PhotoList& list, const QUrl& from, const QUrl& to)
 {
     const qsizetype first = visibleRow(list, from);
     const qsizetype last = visibleRow(list, to);
-    if (first < 0 || last < 0)
+    if (!isShown(list, first) || !isShown(list, last))
         return std::nullopt;
     QSet<QUrl> range;
     range.reserve(std::abs(last - first) + 1);
     for (qsizetype row = std::min(first, last); row <= std::max(first, last); ++row)
-        range.insert(visibleURL(list, row));
+        if (isShown(list, row))
+            range.insert(visibleURL(list, row));
     return range;
 }
 

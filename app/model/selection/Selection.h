@@ -20,10 +20,10 @@ struct Selection {
     /// The first photo on screen; none where none is on screen.
     static Selection firstVisible(const PhotoList& list);
 
-    /// After a click: `range` extends from the anchor (Shift), `toggle` adds or takes out one photo (Ctrl); when that
-    /// takes out the primary, the nearest photo that stays takes its place.
+    /// After a click: `range` extends from the anchor (Shift), folded photos left out; `toggle` adds or takes out one
+    /// photo (Ctrl); when that takes out the primary, the nearest photo that stays takes its place.
     Selection afterClick(const PhotoList& list, const QUrl& photo, bool range, bool toggle) const;
-    /// All photos on screen; anchor and primary stay, unless the search hides the primary.
+    /// All photos on screen, folded ones too; anchor and primary stay, unless the search hides the primary.
     Selection withAllVisible(const PhotoList& list) const;
     /// Without the photos that are not in the list any more; the first one on screen where none stays. `heir` becomes
     /// the primary where the primary is gone.

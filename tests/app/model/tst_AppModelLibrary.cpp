@@ -390,18 +390,26 @@ void tst_AppModelLibrary::search()
 void tst_AppModelLibrary::sortOrders_data()
 {
     QTest::addColumn<RecordSortOrder>("order");
-    for (const RecordSortOrder order : allCases<RecordSortOrder>())
-        QTest::addRow("%s", qPrintable(rawValue(order))) << order;
+    QTest::addColumn<bool>("byFolder");
+    for (const RecordSortOrder order : allCases<RecordSortOrder>()) {
+        QTest::addRow("%s", qPrintable(rawValue(order))) << order << false;
+        QTest::addRow("%s, by folder", qPrintable(rawValue(order))) << order << true;
+    }
 }
 
 // The index keeps the order that a new one would find, through every way in which the list of photos changes.
 void tst_AppModelLibrary::sortOrders()
 {
     QFETCH(RecordSortOrder, order);
+    QFETCH(bool, byFolder);
     QList<ImageRecord> records;
+    const FolderOrder folders = byFolder ? FolderOrder({ u"/photos"_s }, false) : FolderOrder();
     const auto make = [](int i) {
         ImageRecord record;
-        record.url = QUrl::fromLocalFile(u"/photos/%1"_s.arg(i));
+        // Folders come up one after the other, and not in their order.
+        const int depth = i % 3;
+        const QString folder = u"/photos"_s + u"/%1"_s.arg(1000 - i / 40).repeated(depth);
+        record.url = QUrl::fromLocalFile(u"%1/%2"_s.arg(folder).arg(i));
         const QStringList patterns{ u"IMG_%1.jpg"_s, u"img_%1.JPG"_s, u"b%1.jpg"_s };
         record.fileName = patterns.at(i % 3).arg(i % 3 == 2 ? 0 : i / 5 % 7);
         if (i % 4 != 0)
@@ -411,15 +419,17 @@ void tst_AppModelLibrary::sortOrders()
     RecordIndex index;
     const auto compare = [&] {
         RecordIndex fresh;
-        fresh.reset(records, order);
+        fresh.reset(records, order, folders);
         QCOMPARE(index.rows({}, order), fresh.rows({}, order));
+        QCOMPARE(index.groups(index.rows({}, order)), fresh.groups(fresh.rows({}, order)));
+        QCOMPARE(index.folders().holding(), fresh.folders().holding());
         for (int i = 0; i < records.size(); ++i)
             QCOMPARE(index.position(records.at(i).url), i);
     };
     QRandomGenerator random(20261122);
     for (int i = 0; i < 60; ++i)
         records.append(make(i));
-    index.reset(records, order);
+    index.reset(records, order, folders);
     compare();
     for (int step = 100; step < 400; step += 4) {
         const int at = random.bounded(int(records.size()));

@@ -44,6 +44,57 @@ class tst_RecordIndex : public QObject {
 private slots:
     void init() { QTest::failOnWarning(QRegularExpression(u".*"_s)); }
 
+    void groups_data()
+    {
+        QTest::addColumn<QString>("tops");
+        QTest::addColumn<QString>("photos");
+        QTest::addColumn<QString>("groups");
+        QTest::newRow("no order, no groups") << u""_s << u"/t/b/1.jpg /t/a/1.jpg"_s << u""_s;
+        QTest::newRow("the top's own first, then depth first")
+            << u"/t"_s << u"/t/b/1 /t/a/x/1 /t/a/1 /t/b/2 /t/1"_s << u"t 1 | a 1 | a / x 1 | b 2"_s;
+        QTest::newRow("a folder is no prefix of its neighbors")
+            << u"/t"_s << u"/t/a-b/1 /t/a/x/1 /t/a/1 /t/aa/1"_s << u"a 1 | a / x 1 | a-b 1 | aa 1"_s;
+        QTest::newRow("natural order at each level")
+            << u"/t"_s << u"/t/10/b/1 /t/9/b/1 /t/10/A/1"_s << u"9 / b 1 | 10 / A 1 | 10 / b 1"_s;
+        QTest::newRow("names that differ in case alone do not mix")
+            << u"/t"_s << u"/t/a/y/1 /t/A/x/1 /t/a/x/1 /t/A/y/1"_s << u"A / x 1 | A / y 1 | a / x 1 | a / y 1"_s;
+        QTest::newRow("several tops") << u"/m/b /n/a"_s << u"/m/b/1 /n/a/x/1 /n/a/1 /o/9/1"_s
+                                      << u"9 1 | a 1 | a / x 1 | b 1"_s;
+        QTest::newRow("tops of one name") << u"/m/a /n/a"_s << u"/m/a/1 /n/a/1 /m/a/2"_s << u"a 2 | a 1"_s;
+        QTest::newRow("a top in another") << u"/m/a/b /m/a"_s << u"/m/a/b/1 /m/a/1"_s << u"a 1 | a / b 1"_s;
+        QTest::newRow("the whole computer") << u"/"_s << u"/t/1 /1"_s << u"/ 1 | t 1"_s;
+        QTest::newRow("names with signs of URLs") << u"/t"_s << u"/t/100%25/1 /t/a#b/1"_s << u"100%25 1 | a#b 1"_s;
+    }
+    void groups()
+    {
+        QFETCH(QString, tops);
+        const QStringList paths = tops.split(u' ', Qt::SkipEmptyParts);
+        QList<ImageRecord> records;
+        QFETCH(QString, photos);
+        for (const QString& path : photos.split(u' ')) {
+            ImageRecord made;
+            made.url = QUrl::fromLocalFile(path);
+            made.fileName = made.url.fileName();
+            records.append(made);
+        }
+        RecordIndex index;
+        index.reset(records, RecordSortOrder::nameAsc, FolderOrder(paths, paths.size() > 1));
+        const QList<int> rows = index.rows({}, RecordSortOrder::nameAsc);
+        QStringList found;
+        qsizetype next = 0;
+        for (const FolderGroup& group : index.groups(rows)) {
+            QCOMPARE(group.first, next);
+            next += group.count;
+            for (qsizetype row = group.first; row < next; ++row)
+                QCOMPARE(records.at(rows.at(row)).url.adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash),
+                    group.folder.adjusted(QUrl::StripTrailingSlash));
+            const QString parents = group.parents.isEmpty() ? QString() : group.parents + u" / "_s;
+            found.append(u"%1%2 %3"_s.arg(parents, group.name).arg(group.count));
+        }
+        QTEST(found.join(u" | "_s), "groups");
+        QCOMPARE(index.folders().holding(), int(found.size()));
+    }
+
     void sorting_data()
     {
         QTest::addColumn<RecordSortOrder>("order");
