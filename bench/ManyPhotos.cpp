@@ -2,7 +2,6 @@
 
 #include <QFile>
 
-#include <ctime>
 #include <random>
 #include <unistd.h>
 
@@ -80,13 +79,6 @@ void ManyPhotos::stall(bool on) const
         write(m_work.filePath(u"stall"_s), "");
     else
         QFile::remove(m_work.filePath(u"stall"_s));
-}
-
-double cpuMilliseconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
 }
 
 }  // namespace Quorbel::Bench

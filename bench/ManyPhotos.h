@@ -29,7 +29,4 @@ private:
     QTemporaryDir m_work;
 };
 
-/// Processor time of the calling thread: other programs on the machine weigh less then.
-double cpuMilliseconds();
-
 }  // namespace Quorbel::Bench

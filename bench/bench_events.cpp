@@ -3,6 +3,7 @@
 // events, as processor time; medians of several. The bounds are what 16 ms are on a quiet machine, or less.
 #include "app/model/AppModel.h"
 #include "bench/ManyPhotos.h"
+#include "bench/Measure.h"
 #include "platform/desktop/SystemScheme.h"
 #include "ui/inspector/InspectorView.h"
 #include "ui/sheets/RenameSheet.h"

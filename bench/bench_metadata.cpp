@@ -1,22 +1,18 @@
 // What the engine adds to ExifTool: reading 1,000 JPEGs and saving 200, each against the bare runs of the tool that
 // the same work needs (same arguments, output thrown away). Runs alternate; medians are compared.
 // Photos: the JPEGs below the folder named by QUORBEL_TEST_PHOTOS, copied over and over; without it, generated ones.
+#include "bench/BareTool.h"
+#include "bench/Measure.h"
 #include "core/MetadataService.h"
-#include "core/tool/MetadataReader.h"
 #include "tests/support/Support.h"
 
 #include <QDirIterator>
-#include <QElapsedTimer>
-#include <QFileInfo>
-#include <QProcess>
 
-#include <algorithm>
 #include <cstdio>
 #include <functional>
 
-#include <sys/resource.h>
-
 using namespace Quorbel;
+using namespace Quorbel::Bench;
 using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
@@ -25,41 +21,6 @@ namespace {
 constexpr int readCount = 1000;
 constexpr int saveCount = 200;
 constexpr int rounds = 5;
-
-struct Cost {
-    double wall = 0;  // milliseconds
-    double cpu = 0;  // milliseconds, this process and its children, user and system
-};
-
-double cpuTime()
-{
-    double milliseconds = 0;
-    for (const int who : { RUSAGE_SELF, RUSAGE_CHILDREN }) {
-        rusage usage{};
-        getrusage(who, &usage);
-        for (const auto& time : { usage.ru_utime, usage.ru_stime })
-            milliseconds += static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
-    }
-    return milliseconds;
-}
-
-Cost measure(const std::function<void()>& work)
-{
-    QElapsedTimer timer;
-    const double before = cpuTime();
-    timer.start();
-    work();
-    return { static_cast<double>(timer.nsecsElapsed()) / 1e6, cpuTime() - before };
-}
-
-double median(const QList<Cost>& costs, double Cost::*part)
-{
-    QList<double> values;
-    for (const auto& cost : costs)
-        values.append(cost.*part);
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
 
 void compare(const char* name, const std::function<void(int round)>& ours, const std::function<void(int round)>& bare)
 {
@@ -79,20 +40,9 @@ void compare(const char* name, const std::function<void(int round)>& ours, const
     }
     std::printf(
         "%s: wall %.0f ms against %.0f ms bare, ratio %.3f (target 1.03); CPU %.0f ms against %.0f ms, ratio %.3f\n",
-        name, median(oursCosts, &Cost::wall), median(bareCosts, &Cost::wall),
-        median(oursCosts, &Cost::wall) / median(bareCosts, &Cost::wall), median(oursCosts, &Cost::cpu),
-        median(bareCosts, &Cost::cpu), median(oursCosts, &Cost::cpu) / median(bareCosts, &Cost::cpu));
+        name, medianWall(oursCosts), medianWall(bareCosts), medianWall(oursCosts) / medianWall(bareCosts),
+        medianCpu(oursCosts), medianCpu(bareCosts), medianCpu(oursCosts) / medianCpu(bareCosts));
     std::fflush(stdout);
-}
-
-void runBareTool(const QStringList& arguments)
-{
-    QProcess process;
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.start(u"/usr/bin/perl"_s, QStringList{ realTool().exiftoolURL.toLocalFile() } + arguments);
-    process.waitForFinished(-1);
-    if (process.exitCode() != 0)
-        qFatal("The bare run failed: %s", process.readAllStandardError().constData());
 }
 
 QList<QByteArray> samplePhotos()
@@ -157,23 +107,16 @@ int main()
     const PhotoFolder folder;
     const auto samples = samplePhotos();
     const auto photos = makePhotos(folder, samples);
-    QStringList mainRead{ "-json", "-G0", "-struct", "-c", "%.6f" };
-    for (const auto& tag : MetadataReader::readTags())
-        mainRead.append(QLatin1Char('-') + tag);
     compare(
-        "read of 1,000 JPEGs", [&](int) { service.read(photos); },
-        [&](int) {
-            runBareTool(mainRead + paths(photos));
-            runBareTool(QStringList{ "-json", "-G1", "-struct", "-XMP-Quorbel:all" } + paths(photos));
-        });
+        "read of 1,000 JPEGs", [&](int) { service.read(photos); }, [&](int) { BareTool::read(paths(photos)); });
 
     const auto targets = writable(service, photos, samples.size());
     compare(
         "save of 200 photos", [&](int round) { service.write(planOf(round), targets, {}); },
         [&](int round) {
-            runBareTool(QStringList{ "-overwrite_original", "-m", "-XMP-photoshop:Headline=" + QString::number(round),
-                            "-IPTC:Headline=" + QString::number(round), "-XMP-iptcExt:PersonInImage=",
-                            "-XMP-iptcExt:PersonInImage=Ann", "-XMP-iptcExt:PersonInImage=Bo" }
+            BareTool::run(QStringList{ "-overwrite_original", "-m", "-XMP-photoshop:Headline=" + QString::number(round),
+                              "-IPTC:Headline=" + QString::number(round), "-XMP-iptcExt:PersonInImage=",
+                              "-XMP-iptcExt:PersonInImage=Ann", "-XMP-iptcExt:PersonInImage=Bo" }
                 + paths(targets));
         });
     return 0;

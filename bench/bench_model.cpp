@@ -2,6 +2,7 @@
 // Times are the main thread's CPU time, so that other programs on the machine weigh less; medians of many.
 #include "app/model/AppModel.h"
 #include "bench/ManyPhotos.h"
+#include "bench/Measure.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/Text.h"
 

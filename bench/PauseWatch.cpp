@@ -1,0 +1,70 @@
+#include "bench/PauseWatch.h"
+
+#include "bench/Measure.h"
+
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QMetaEnum>
+#include <QThread>
+
+#include <algorithm>
+
+namespace Quorbel::Bench {
+
+namespace {
+
+constexpr size_t keptEvents = 5;
+
+}  // namespace
+
+void PauseWatch::begin()
+{
+    m_longest = {};
+    m_turns.clear();
+    m_events.clear();
+}
+
+void PauseWatch::turn()
+{
+    const double cpu = cpuMilliseconds();
+    QElapsedTimer clock;
+    clock.start();
+    processEvents();
+    const double wall = static_cast<double>(clock.nsecsElapsed()) / 1e6;
+    m_longest.wall = std::max(m_longest.wall, wall);
+    m_longest.cpu = std::max(m_longest.cpu, cpuMilliseconds() - cpu);
+    m_turns.push_back(wall);
+    QThread::usleep(500);
+}
+
+int PauseWatch::longerThan(double limit) const
+{
+    return static_cast<int>(
+        std::count_if(m_turns.begin(), m_turns.end(), [limit](double wall) { return wall > limit; }));
+}
+
+bool PauseWatch::notify(QObject* receiver, QEvent* event)
+{
+    if (m_depth > 0)
+        return QApplication::notify(receiver, event);
+    // The receiver may be gone afterwards.
+    const QMetaObject* kind = receiver->metaObject();
+    const QEvent::Type type = event->type();
+    QElapsedTimer clock;
+    clock.start();
+    ++m_depth;
+    const bool result = QApplication::notify(receiver, event);
+    --m_depth;
+    const double wall = static_cast<double>(clock.nsecsElapsed()) / 1e6;
+    if (m_events.size() < keptEvents || wall > m_events.back().wall) {
+        const char* name = QMetaEnum::fromType<QEvent::Type>().valueToKey(type);
+        m_events.push_back(
+            { wall, QByteArray(kind->className()) + ' ' + (name ? QByteArray(name) : QByteArray::number(type)) });
+        std::sort(m_events.begin(), m_events.end(), [](const Event& a, const Event& b) { return a.wall > b.wall; });
+        if (m_events.size() > keptEvents)
+            m_events.pop_back();
+    }
+    return result;
+}
+
+}  // namespace Quorbel::Bench

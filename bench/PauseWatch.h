@@ -1,0 +1,44 @@
+// Finds what keeps the main thread from its events: one turn of the event loop at a time, and in it the longest
+// single events. Thread: the main thread.
+#pragma once
+
+#include <QApplication>
+#include <QByteArray>
+
+#include <vector>
+
+namespace Quorbel::Bench {
+
+class PauseWatch final : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    struct Turn {
+        double wall = 0;  ///< milliseconds
+        double cpu = 0;  ///< milliseconds of this thread
+    };
+    struct Event {
+        double wall = 0;
+        QByteArray what{};  ///< receiver and kind
+    };
+
+    /// Forgets what was seen so far.
+    void begin();
+    /// Handles what is there, then sleeps for half a millisecond.
+    void turn();
+    Turn longest() const { return m_longest; }
+    /// How many turns took longer than that, milliseconds.
+    int longerThan(double limit) const;
+    /// The longest events, the longest first.
+    const std::vector<Event>& longestEvents() const { return m_events; }
+
+    bool notify(QObject* receiver, QEvent* event) override;
+
+private:
+    Turn m_longest{};
+    std::vector<double> m_turns;
+    std::vector<Event> m_events;
+    int m_depth = 0;
+};
+
+}  // namespace Quorbel::Bench
