@@ -19,6 +19,7 @@ enum class Change {
     visibleRows,
     folderGroups,
     folder,
+    watching,
     opened,
     search,
     sortOrder,

@@ -26,6 +26,7 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
     , m_saving(m_announcer, m_tasks, m_library.refresh(), m_services.service, m_services.journalPath)
 {
     requireMainThread("AppModel");
+    m_library.refresh().setLooks({ m_services.fileSystemOf, m_services.lookInterval });
     connectParts();
     if (!m_services.service)
         m_errorMessage = u"ExifTool could not be found in the app bundle. Metadata cannot be read or written."_s;
@@ -79,6 +80,7 @@ void AppModel::tell(Change change)
         { Change::visibleRows, &AppModel::visibleRowsChanged },
         { Change::folderGroups, &AppModel::folderGroupsChanged },
         { Change::folder, &AppModel::folderChanged },
+        { Change::watching, &AppModel::watchingChanged },
         { Change::opened, &AppModel::photosOpened },
         { Change::search, &AppModel::searchChanged },
         { Change::sortOrder, &AppModel::sortOrderChanged },

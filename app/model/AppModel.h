@@ -57,6 +57,10 @@ public:
     /// Compares the open folder with the records and re-reads what differs. Needs an open folder.
     void refresh();
     bool canRefresh() const { return library().refresh().canRefresh(); }
+    /// How changes that others make in the open folders become known.
+    const Watching& watching() const { return library().refresh().watching(); }
+    /// While the photos are not on screen, one looks at their folders only when the system tells of a change.
+    void setOnScreen(bool on) { checked(m_library).refresh().setOnScreen(on); }
     /// load(), closeFolder() and the end of the program, through the save dialog when there are unsaved edits: they
     /// happen after its save or discard, or not at all. One photo's edits are saved without asking where the user
     /// chose so. A save that runs is waited for.
@@ -232,6 +236,7 @@ signals:
     void folderGroupsChanged();
     /// The name or the address of what is open.
     void folderChanged();
+    void watchingChanged();
     /// Photos were opened: other ones, or the same ones read again.
     void photosOpened();
     void searchChanged();

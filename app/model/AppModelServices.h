@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/MetadataService.h"
+#include "platform/files/FileSystem.h"
 
 #include <QDateTime>
 #include <QSettings>
@@ -28,6 +29,10 @@ struct AppModelServices {
     std::chrono::milliseconds keepInterval{ 2000 };
     /// How long a read may be at one file before the user is offered to skip it.
     std::chrono::milliseconds stallInterval{ 10000 };
+    /// The kind of file system that a folder lies on; asked in the background. Empty: the system is asked.
+    std::function<FileSystem(const QString& path)> fileSystemOf{};
+    /// The shortest pause between looks at folders where the system does not tell of changes.
+    std::chrono::milliseconds lookInterval{ 3000 };
     std::function<void()> quit{};  ///< ends the program; called by requestQuit()
 };
 

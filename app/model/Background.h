@@ -21,12 +21,11 @@ public:
     Q_DISABLE_COPY_MOVE(PoolThreadLoan)
 };
 
-/// Runs `job` in the background and hands its result to `done`. The job must capture values, never the owner: it
-/// runs to its end whatever happens. When the owner is gone by then, `done` is not called at all. What the job
-/// throws must be caught in the job and returned as part of its result. Jobs wait far more than they compute, so any
-/// number of them runs at once; work that keeps a core busy belongs in a pool of its own.
+/// Runs `job` in the pool and hands its result to `done`. The job must capture values, never the owner: it runs to its
+/// end whatever happens. When the owner is gone by then, `done` is not called at all. What the job throws must be
+/// caught in the job and returned as part of its result.
 template <typename Job, typename Done>
-void runInBackground(QObject* owner, Job job, Done done)
+void runIn(QThreadPool& pool, QObject* owner, Job job, Done done)
 {
     // Not QFuture::then(context, …): when the context dies first, Qt 6.4 asserts or calls through null.
     using Result = std::invoke_result_t<Job>;
@@ -38,10 +37,21 @@ void runInBackground(QObject* owner, Job job, Done done)
         else
             done(watcher->future().takeResult());
     });
-    watcher->setFuture(QtConcurrent::run([job = std::move(job)]() mutable {
-        const PoolThreadLoan loan;
-        return job();
-    }));
+    watcher->setFuture(QtConcurrent::run(&pool, std::move(job)));
+}
+
+/// The same in the global pool. Jobs wait far more than they compute, so any number of them runs at once; work that
+/// keeps a core busy belongs in a pool of its own.
+template <typename Job, typename Done>
+void runInBackground(QObject* owner, Job job, Done done)
+{
+    runIn(
+        *QThreadPool::globalInstance(), owner,
+        [job = std::move(job)]() mutable {
+            const PoolThreadLoan loan;
+            return job();
+        },
+        std::move(done));
 }
 
 /// Destroys a value in the background: a hundred thousand photos take their time even for that.

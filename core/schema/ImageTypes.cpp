@@ -20,10 +20,14 @@ const QSet<QString>& extensions()
 
 bool isImage(const QUrl& url)
 {
-    const QString name = url.fileName();
-    const qsizetype dot = name.lastIndexOf(u'.');
+    return isImageName(url.fileName());
+}
+
+bool isImageName(const QString& fileName)
+{
+    const qsizetype dot = fileName.lastIndexOf(u'.');
     // A leading dot hides a file; it begins no extension.
-    return dot > 0 && extensions().contains(name.sliced(dot + 1).toLower());
+    return dot > 0 && extensions().contains(fileName.sliced(dot + 1).toLower());
 }
 
 }  // namespace Quorbel::ImageTypes

@@ -11,5 +11,7 @@ namespace Quorbel::ImageTypes {
 const QSet<QString>& extensions();
 /// Whether the extension of the URL's last path component, in any case, is one of them.
 bool isImage(const QUrl& url);
+/// The same for the name alone.
+bool isImageName(const QString& fileName);
 
 }  // namespace Quorbel::ImageTypes

@@ -34,7 +34,7 @@ const QList<Floor>& floors()
                 u"unistd.h"_s } },
         { u"platform/desktop"_s, { u"platform/desktop"_s }, { u"QtCore"_s, u"QtGui"_s, u"QtDBus"_s }, { u"xcb/"_s } },
         { u"platform/files"_s, { u"platform/files"_s }, { u"QtCore"_s }, 
-            { u"fcntl.h"_s, u"sys/inotify.h"_s, u"sys/stat.h"_s, u"sys/statfs.h"_s, u"unistd.h"_s } },
+            { u"dirent.h"_s, u"fcntl.h"_s, u"sys/inotify.h"_s, u"sys/stat.h"_s, u"sys/statfs.h"_s, u"unistd.h"_s } },
         { u"platform/images"_s, { u"platform/images"_s }, { u"QtCore"_s, u"QtGui"_s },
             { u"jpeglib.h"_s, u"jxl/"_s, u"lcms2.h"_s, u"libde265/"_s, u"libheif/"_s, u"libraw/"_s, u"openjpeg.h"_s,
                 u"tiffio.h"_s } },

@@ -1,9 +1,6 @@
 #include "app/model/library/FolderRefresh.h"
 
 #include "app/model/Background.h"
-#include "app/model/library/FolderWatcher.h"
-#include "app/model/library/KnownFiles.h"
-#include "app/model/library/PhotoReader.h"
 
 #include <algorithm>
 
@@ -11,37 +8,79 @@ namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr std::chrono::milliseconds emptiedMoment{ 300 };
+
+}  // namespace
+
 FolderRefresh::FolderRefresh(
     Announcer& announcer, RunningTasks& tasks, PhotoList& photos, std::optional<MetadataService> service)
     : m_announcer(announcer)
     , m_tasks(tasks)
     , m_photos(photos)
     , m_service(std::move(service))
+    , m_lookThreads(new QThreadPool)
 {
+    // Each folder that was opened may have left one that hangs.
+    m_lookThreads->setMaxThreadCount(100);
+    setLooks({});
+    connect(&m_times, &LookTimes::due, this, &FolderRefresh::look);
+    connect(&m_times, &LookTimes::dueByTheClock, this, &FolderRefresh::lookByTheClock);
 }
 
-FolderRefresh::~FolderRefresh() = default;
+FolderRefresh::~FolderRefresh()
+{
+    m_stop.request_stop();
+    // A look ends within a file. One that does not is at a file system that is gone: nobody waits for that.
+    if (m_lookThreads->waitForDone(200))
+        delete m_lookThreads;
+}
 
-void FolderRefresh::begin(const std::optional<QUrl>& folder, const QSet<QUrl>& tooSlow)
+void FolderRefresh::setLooks(const Looks& looks)
+{
+    m_looks = looks;
+    m_times.setInterval(looks.interval);
+}
+
+void FolderRefresh::begin(const QList<QUrl>& folders, bool withSubfolders, const QSet<QUrl>& tooSlow)
 {
     ++m_generation;
+    m_stop.request_stop();
+    m_stop = {};
     m_tasks.cancelRefreshes();
     m_reads = 0;
     m_isRefreshing = false;
     m_again = false;
-    m_folder = folder;
+    m_sinceEmptied.invalidate();
+    m_passedOverUnread = false;
+    m_folders = m_photos.files() ? folders : QList<QUrl>();
+    m_withSubfolders = withSubfolders;
     m_tooSlow = tooSlow;
-    watch();
-}
-
-void FolderRefresh::watch()
-{
-    m_watcher.reset();
-    if (m_folder)
-        m_watcher = std::make_unique<FolderWatcher>(*m_folder, [this] { refresh(); });
+    m_times.begin(canRefresh());
+    // Until the first look says more.
+    const int count = int(folders.size());
+    const Watching expected{ Watching::How::told, count, count };
+    m_announcer.assign(m_watching, canRefresh() ? expected : Watching(), Change::watching);
+    look();
 }
 
 void FolderRefresh::refresh()
+{
+    m_isAsked = true;
+    look();
+}
+
+// A look for no special reason: not while there is a better one.
+void FolderRefresh::lookByTheClock()
+{
+    if (m_isRefreshing || !m_beingWritten.isEmpty())
+        m_times.postpone();
+    else
+        look();
+}
+
+void FolderRefresh::look()
 {
     if (!canRefresh())
         return;
@@ -50,18 +89,37 @@ void FolderRefresh::refresh()
         return;
     }
     m_isRefreshing = true;
-    runInBackground(
-        this, [folder = *m_folder, files = m_photos.files()] { return files->look(folder); },
-        [this, generation = m_generation, serial = m_photos.serial(), writes = m_writes](const FolderNews& news) {
+    const FolderLook::Question question{ m_folders, m_withSubfolders, std::exchange(m_isAsked, false), m_photos.files(),
+        m_times.watches(), m_looks.fileSystemOf };
+    runIn(
+        *m_lookThreads, this, [question, stop = m_stop.get_token()] { return FolderLook::at(question, stop); },
+        [this, generation = m_generation, renames = m_photos.renames(), writes = m_writes](const FolderLook& look) {
             if (generation != m_generation)
                 return;
             m_isRefreshing = false;
             // A look that is older than a rename or save of our own would take our doing for another program's.
-            if (std::exchange(m_again, false) || serial != m_photos.serial() || writes != m_writes)
-                return refresh();
-            if (news.isListed)
-                apply(news);
+            if (std::exchange(m_again, false) || renames != m_photos.renames() || writes != m_writes)
+                this->look();
+            else
+                takeLook(look);
         });
+}
+
+void FolderRefresh::takeLook(const FolderLook& look)
+{
+    const Announcer::Together together(m_announcer);
+    m_announcer.assign(m_watching, look.watching, Change::watching);
+    apply(look.news);
+    planNext(look);
+}
+
+void FolderRefresh::planNext(const FolderLook& look)
+{
+    // Where a folder is not there, nobody will tell that it is again.
+    if (look.watching.how == Watching::How::looking || look.news.isAway || m_passedOverUnread)
+        m_times.goOn(look.taken);
+    else
+        m_times.rest();
 }
 
 // In the list's order; without those that are not in it, or being written.
@@ -77,58 +135,113 @@ QList<int> FolderRefresh::positions(const QList<QUrl>& photos) const
 
 void FolderRefresh::apply(const FolderNews& news)
 {
-    const Announcer::Together together(m_announcer);
     m_passedOverWritten = m_passedOverWritten || !m_beingWritten.isEmpty();
-    const QList<int> gone = positions(news.gone);
-    QList<QUrl> changed;
-    for (const int at : positions(news.changed))
-        if (const QUrl& photo = m_photos.records().at(at).url; !m_tooSlow.contains(photo))
-            changed.append(photo);
-    QList<QUrl> further = news.further;
-    further.removeIf([this](const QUrl& photo) { return m_photos.contains(photo) || m_tooSlow.contains(photo); });
+    const QList<int> gone = positions(surelyGone(news));
+    const QList<FolderNews::File> changed = this->changed(news);
+    QList<FolderNews::File> further = news.further;
+    further.removeIf(
+        [this](const FolderNews::File& file) { return m_photos.contains(file.url) || m_tooSlow.contains(file.url); });
     if (!gone.isEmpty())
         emit vanished(gone);
     if (!changed.isEmpty())
         read(changed, [this](const QList<ImageRecord>& fresh) { takeChanged(fresh); });
     if (!further.isEmpty())
         read(further, [this](const QList<ImageRecord>& fresh) { takeAdded(fresh); });
-    // A folder that was away and came back is another one to the system.
-    if (m_watcher && !m_watcher->isWatching())
-        watch();
+}
+
+// A folder that is being removed is empty for a moment: what was in it is gone when it is still empty after that.
+QList<QUrl> FolderRefresh::surelyGone(const FolderNews& news)
+{
+    if (news.emptied.isEmpty()) {
+        m_sinceEmptied.invalidate();
+        return news.gone;
+    }
+    if (!m_sinceEmptied.isValid())
+        m_sinceEmptied.start();
+    if (m_sinceEmptied.elapsed() >= emptiedMoment.count())
+        return news.gone + news.emptied;
+    m_times.lookSoon(emptiedMoment);
+    return news.gone;
+}
+
+// Those that are not as the list has them by now, in its order.
+QList<FolderNews::File> FolderRefresh::changed(const FolderNews& news)
+{
+    QList<FolderNews::File> changed;
+    m_passedOverUnread = false;
+    for (const FolderNews::File& file : news.changed) {
+        const ImageRecord* photo = m_photos.record(file.url);
+        if (!photo || m_beingWritten.contains(file.url) || m_tooSlow.contains(file.url))
+            continue;
+        const auto& known = photo->contentModificationDate;
+        if (!known || known->toMSecsSinceEpoch() == file.stamp.modified)
+            continue;
+        // What was not read yet will be. It may be so just now, and too soon: that shows in the look that follows.
+        if (photo->isUnread)
+            m_passedOverUnread = true;
+        else
+            changed.append(file);
+    }
+    std::sort(changed.begin(), changed.end(), [this](const FolderNews::File& a, const FolderNews::File& b) {
+        return m_photos.position(a.url) < m_photos.position(b.url);
+    });
+    return changed;
 }
 
 // Silent: what cannot be read stays as it is, or out. A file that the user skips is not asked for again.
-void FolderRefresh::read(const QList<QUrl>& urls, const Take& take)
+void FolderRefresh::read(const QList<FolderNews::File>& files, const Take& take)
 {
     m_isRefreshing = true;
     ++m_reads;
+    QList<QUrl> urls;
+    for (const FolderNews::File& file : files)
+        urls.append(file.url);
     const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::refresh, urls.size(), urls);
     runInBackground(
         this,
         [service = *m_service, urls, progress = task.progress, stop = task.stop.get_token()] {
-            return PhotoReader::read(service, urls, *progress, stop).records;
+            return PhotoReader::read(service, urls, *progress, stop);
         },
-        [this, urls, take, id = task.id, generation = m_generation, writes = m_writes](
-            const QList<ImageRecord>& fresh) {
+        [this, files, take, id = task.id, generation = m_generation, writes = m_writes](
+            const PhotoReader::Result& result) {
             const Announcer::Together together(m_announcer);
             const std::optional<RunningTasks::Task> ended = m_tasks.end(id);
             if (generation != m_generation)
                 return;
             if (ended && ended->skipped) {
-                m_tooSlow.insert(*ended->skipped);
-                emit problem(PhotoReader::leftOutText({ { ended->skipped->fileName(), u"took too long"_s } }));
-                QList<QUrl> rest = urls;
-                rest.removeAll(*ended->skipped);
-                read(rest, take);
+                skip(files, *ended->skipped, take);
                 return endStep();
             }
             // What was read before a save of ours must not overwrite what was read after it.
-            if (writes == m_writes)
-                take(fresh);
-            else
+            if (writes == m_writes) {
+                take(result.records);
+                noteUnreadable(files, result);
+            } else {
                 m_again = true;
+            }
             endStep();
         });
+}
+
+void FolderRefresh::skip(QList<FolderNews::File> files, const QUrl& photo, const Take& take)
+{
+    m_tooSlow.insert(photo);
+    emit problem(PhotoReader::leftOutText({ { photo.fileName(), u"took too long"_s } }));
+    files.removeIf([&photo](const FolderNews::File& file) { return file.url == photo; });
+    read(files, take);
+}
+
+// They would be read again at every look.
+void FolderRefresh::noteUnreadable(const QList<FolderNews::File>& files, const PhotoReader::Result& result)
+{
+    if (result.isCancelled || result.error || !m_photos.files())
+        return;
+    QSet<QUrl> read;
+    for (const ImageRecord& record : result.records)
+        read.insert(record.url);
+    QList<FolderNews::File> unreadable = files;
+    unreadable.removeIf([&read](const FolderNews::File& file) { return read.contains(file.url); });
+    m_photos.files()->noteUnreadable(unreadable);
 }
 
 void FolderRefresh::takeChanged(const QList<ImageRecord>& fresh)
@@ -153,7 +266,7 @@ void FolderRefresh::endStep()
         return;
     m_isRefreshing = false;
     if (std::exchange(m_again, false))
-        refresh();
+        look();
 }
 
 void FolderRefresh::beginWriting(const QSet<QUrl>& photos)
@@ -168,7 +281,7 @@ void FolderRefresh::endWriting(bool isComplete)
     ++m_writes;
     ++m_endedWrites;
     if (!isComplete || std::exchange(m_passedOverWritten, false))
-        refresh();
+        look();
 }
 
 }  // namespace Quorbel

@@ -1,20 +1,20 @@
-// Keeps the open photos true to what other programs do to their folder: one look at it in the background, then only
-// what differs is read.
+// Keeps the open photos true to what other programs do to their folders: one look at them in the background, then only
+// what differs is read. Looks follow the system's word, or come every few seconds where it gives none.
 // Thread: the main thread; looks and reads run in the background. Knows no selection and no edits: who does hears of
 // every change of the list.
 #pragma once
 
 #include "app/model/RunningTasks.h"
+#include "app/model/library/FolderLook.h"
+#include "app/model/library/LookTimes.h"
 #include "app/model/library/PhotoList.h"
+#include "app/model/library/PhotoReader.h"
 #include "core/MetadataService.h"
 
-#include <functional>
-#include <memory>
+#include <QElapsedTimer>
+#include <QThreadPool>
 
 namespace Quorbel {
-
-class FolderWatcher;
-struct FolderNews;
 
 class FolderRefresh final : public QObject {
     Q_OBJECT
@@ -24,12 +24,25 @@ public:
     FolderRefresh(Announcer& announcer, RunningTasks& tasks, PhotoList& photos, std::optional<MetadataService> service);
     ~FolderRefresh() override;
 
-    /// Something else is open now: what was on its way for the old photos is dropped. The folder is watched; nothing
-    /// is where there is none. `tooSlow`: files that the user skipped; they are not asked for again.
-    void begin(const std::optional<QUrl>& folder, const QSet<QUrl>& tooSlow);
-    bool canRefresh() const { return m_folder && m_service; }
-    /// One at a time, from the look at the folder to the last read; a call meanwhile is answered by one more.
+    /// How looks are made: set before the first begin().
+    struct Looks {
+        std::function<FileSystem(const QString& path)> fileSystemOf{};  ///< empty: FileSystem::of
+        std::chrono::milliseconds interval{ 3000 };  ///< between looks where the system does not tell of changes
+    };
+    void setLooks(const Looks& looks);
+
+    /// Something else is open now, listed to its end: what was on its way for the old photos is dropped. The folders
+    /// are looked at soon, and watched from then on, with subfolders also those that come; none: nothing is.
+    /// `tooSlow`: files that the user skipped; they are not asked for again.
+    void begin(const QList<QUrl>& folders, bool withSubfolders, const QSet<QUrl>& tooSlow);
+    bool canRefresh() const { return !m_folders.isEmpty() && m_service; }
+    /// Somebody wants to know. One at a time, from the look at the folders to the last read; a call meanwhile is
+    /// answered by one more.
     void refresh();
+    /// How changes by others become known.
+    const Watching& watching() const { return m_watching; }
+    /// While nobody sees the photos, only the system's word leads to looks.
+    void setOnScreen(bool on) { m_times.setOnScreen(on); }
 
     /// A write of our own to these photos begins: until its end they are left alone, since it reads them again then,
     /// and for a moment between backup and replacement they are not even there.
@@ -53,27 +66,43 @@ signals:
 private:
     using Take = std::function<void(const QList<ImageRecord>&)>;
 
+    void look();
+    void lookByTheClock();
+    void takeLook(const FolderLook& look);
+    void planNext(const FolderLook& look);
     void apply(const FolderNews& news);
+    QList<QUrl> surelyGone(const FolderNews& news);
+    QList<FolderNews::File> changed(const FolderNews& news);
     QList<int> positions(const QList<QUrl>& photos) const;
-    void read(const QList<QUrl>& urls, const Take& take);
+    void read(const QList<FolderNews::File>& files, const Take& take);
+    void skip(QList<FolderNews::File> files, const QUrl& photo, const Take& take);
+    void noteUnreadable(const QList<FolderNews::File>& files, const PhotoReader::Result& result);
     void takeChanged(const QList<ImageRecord>& fresh);
     void takeAdded(const QList<ImageRecord>& fresh);
     void endStep();
-    void watch();
 
     Announcer& m_announcer;
     RunningTasks& m_tasks;
     PhotoList& m_photos;
     std::optional<MetadataService> m_service;
-    std::optional<QUrl> m_folder;
+    Looks m_looks;
+    QList<QUrl> m_folders;
+    bool m_withSubfolders = false;
     QSet<QUrl> m_tooSlow;
-    std::unique_ptr<FolderWatcher> m_watcher;
+    LookTimes m_times;
+    Watching m_watching;
+    /// Of looks alone: one that hangs on a file system that is gone keeps no other work waiting, nor the program's end.
+    QThreadPool* m_lookThreads;
+    std::stop_source m_stop;
+    QElapsedTimer m_sinceEmptied;  ///< valid while a folder that has become empty may be about to go
     QSet<QUrl> m_beingWritten;
     int m_generation = 0;  ///< counts what was opened; results for an earlier one are dropped
     int m_writes = 0;  ///< counts beginnings and ends of writes
     int m_endedWrites = 0;
     bool m_isRefreshing = false;
     bool m_again = false;
+    bool m_isAsked = false;  ///< the next look is somebody's wish
+    bool m_passedOverUnread = false;  ///< photos changed that are still to be read: a look must follow
     int m_reads = 0;
     bool m_passedOverWritten = false;  ///< photos were left out because they were being written
 };

@@ -1,16 +1,35 @@
 #include "app/model/library/FolderScan.h"
 
+#include "app/model/library/FolderWalk.h"
 #include "core/schema/ImageTypes.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
-#include <chrono>
+#include <algorithm>
 #include <filesystem>
-#include <thread>
+#include <sys/stat.h>
 
 namespace Quorbel {
+
+namespace {
+
+FolderFiles::Stamp stampOf(const PhotoFile::Look& look)
+{
+    if (!look.file)
+        return {};
+    const qint64 rest = look.file->modified % 1'000'000;
+    return { look.file->modified / 1'000'000 - (rest < 0 ? 1 : 0), look.file->changed, look.file->size };
+}
+
+quint64 deviceOf(const QString& folder)
+{
+    struct stat status { };
+    return stat(QFile::encodeName(folder).constData(), &status) == 0 ? status.st_dev : 0;
+}
+
+}  // namespace
 
 std::optional<QList<QUrl>> FolderScan::entries(const QString& folder)
 {
@@ -29,24 +48,66 @@ std::optional<QList<QUrl>> FolderScan::entries(const QString& folder)
     return error ? std::nullopt : std::optional(found);
 }
 
-FolderScan FolderScan::of(const QUrl& folder)
+FolderScan FolderScan::of(
+    const QList<QUrl>& folders, bool withSubfolders, const Entering& entering, const std::stop_token& stop)
 {
     FolderScan scan;
-    auto found = entries(folder.toLocalFile());
-    // A folder that is being removed is empty for a moment before it is gone.
-    if (found && found->isEmpty()) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(300));
-        found = entries(folder.toLocalFile());
-    }
-    scan.isListed = found.has_value();
-    for (const QUrl& url : found.value_or(QList<QUrl>())) {
-        const QFileInfo file(url.toLocalFile());
-        if (!file.exists())
-            scan.photos.insert(url, std::nullopt);
-        else if (file.isFile())
-            scan.photos.insert(url, file.lastModified());
-    }
+    QList<QUrl> tops;
+    for (const QUrl& folder : folders)
+        tops.append(QUrl::fromLocalFile(QDir::cleanPath(folder.toLocalFile())));
+    if (withSubfolders)
+        scan.addWalk(tops, entering, stop);
+    else
+        for (const QUrl& top : std::as_const(tops))
+            scan.addFolder(top.toLocalFile(), entering, stop);
     return scan;
+}
+
+void FolderScan::addFolder(const QString& path, const Entering& entering, const std::stop_token& stop)
+{
+    entering(path);
+    const FolderFiles found = FolderFiles::of(path, &ImageTypes::isImageName, stop);
+    Folder& folder = folders[path];
+    folder.isListed = found.isListed;
+    folder.device = found.device;
+    folder.photos.reserve(found.files.size());
+    for (const FolderFiles::File& file : found.files)
+        folder.photos.insert(file.name, file.stamp);
+}
+
+void FolderScan::addWalk(const QList<QUrl>& tops, const Entering& entering, const std::stop_token& stop)
+{
+    const auto take = [this](const FolderWalk::Found& found) {
+        for (const FolderWalk::Photo& photo : found.photos) {
+            const PhotoPlace place = PhotoPlace::of(photo.url);
+            // What the tool could not read is there all the same, but what is no file at all.
+            if (photo.look.file || !photo.look.reason.isEmpty())
+                folders[place.folder].photos.insert(place.name, stampOf(photo.look));
+        }
+        for (const FolderWalk::Folder& walked : found.folders) {
+            const QString path = walked.url.toLocalFile();
+            Folder& folder = folders[path];
+            folder.isListed = walked.isListed;
+            folder.device = deviceOf(path);
+        }
+    };
+    FolderWalk::through(tops, stop, take, entering);
+    const QStringList paths = folders.keys();
+    for (const QString& path : paths)
+        if (const auto around = folders.find(PhotoPlace::of(path).folder);
+            around != folders.end() && path != around.key())
+            around->hasFolders = true;
+}
+
+PhotoPlace PhotoPlace::of(const QUrl& photo)
+{
+    return of(photo.toLocalFile());
+}
+
+PhotoPlace PhotoPlace::of(const QString& path)
+{
+    const qsizetype slash = path.lastIndexOf(u'/');
+    return { path.left(std::max<qsizetype>(slash, 1)), path.sliced(slash + 1) };
 }
 
 std::optional<QDateTime> modificationDate(const QString& path)

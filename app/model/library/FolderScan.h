@@ -1,6 +1,8 @@
-// What lies in a folder.
-// Thread: any. Touches the file system; starts nothing.
+// What lies in the open folders.
+// Thread: any but the main one. Touches the file system; starts nothing.
 #pragma once
+
+#include "platform/files/FolderFiles.h"
 
 #include <QDateTime>
 #include <QHash>
@@ -8,21 +10,43 @@
 #include <QString>
 #include <QUrl>
 
+#include <functional>
 #include <optional>
+#include <stop_token>
 
 namespace Quorbel {
 
-/// The entries of one folder that bear the extension of a photo.
+/// The entries of folders that bear the extension of a photo.
 struct FolderScan {
-    bool isListed = false;  ///< false: the folder is gone or may not be read
-    /// Modification date by URL; nothing where the file system gives none (a dangling link). What is certainly no
-    /// file (a folder, a pipe) is not among them.
-    QHash<QUrl, std::optional<QDateTime>> photos{};
+    struct Folder {
+        bool isListed = false;  ///< to its end; false: it is gone or may not be read
+        quint64 device = 0;  ///< that it lies on
+        bool hasFolders = false;  ///< folders in it are among those of the scan
+        QHash<QString, FolderFiles::Stamp> photos{};  ///< by name
+    };
+    QHash<QString, Folder> folders{};  ///< by path
 
-    static FolderScan of(const QUrl& folder);
-    /// The photos alone; nothing when the folder cannot be listed to its end: half a listing would pass for files
+    using Entering = std::function<void(const QString& path)>;
+    /// `entering` is told each folder before it is listed: who watches it from then on misses nothing. With subfolders,
+    /// those of FolderWalk. Once stopped, it ends early.
+    static FolderScan of(
+        const QList<QUrl>& folders, bool withSubfolders, const Entering& entering, const std::stop_token& stop);
+    /// The photos of one folder alone; nothing when it cannot be listed to its end: half a listing would pass for files
     /// removed.
     static std::optional<QList<QUrl>> entries(const QString& folder);
+
+private:
+    void addFolder(const QString& path, const Entering& entering, const std::stop_token& stop);
+    void addWalk(const QList<QUrl>& tops, const Entering& entering, const std::stop_token& stop);
+};
+
+/// A photo's path in two pieces.
+struct PhotoPlace {
+    QString folder{};
+    QString name{};
+
+    static PhotoPlace of(const QUrl& photo);
+    static PhotoPlace of(const QString& path);
 };
 
 /// The file's modification date as it stands on disk, to the millisecond.

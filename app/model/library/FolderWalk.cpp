@@ -115,9 +115,11 @@ Entries entriesOf(const QString& folder)
 
 class Walk final {
 public:
-    Walk(const std::stop_token& stop, const std::function<void(FolderWalk::Found)>& take)
+    Walk(const std::stop_token& stop, const std::function<void(FolderWalk::Found)>& take,
+        const std::function<void(const QString& folder)>& entering)
         : m_stop(stop)
         , m_take(take)
+        , m_entering(entering)
     {
         m_sinceLast.start();
     }
@@ -134,6 +136,7 @@ private:
 
     const std::stop_token& m_stop;
     const std::function<void(FolderWalk::Found)>& m_take;
+    const std::function<void(const QString& folder)>& m_entering;
     std::vector<fs::path> m_tops;
     QSet<Identity> m_folders;
     QSet<Identity> m_files;
@@ -163,6 +166,8 @@ void Walk::enter(const QString& folder)
         return;
     if (id)
         m_folders.insert(*id);
+    if (m_entering)
+        m_entering(folder);
     Entries entries = entriesOf(folder);
     // A photo that a killed save left without its name has it again.
     if (entries.hasOriginals && OriginalsFolder::clearAbandoned(folder) > 0)
@@ -237,9 +242,10 @@ void Walk::handOver(bool atOnce)
 
 }  // namespace
 
-bool FolderWalk::through(const QList<QUrl>& tops, const std::stop_token& stop, const std::function<void(Found)>& take)
+bool FolderWalk::through(const QList<QUrl>& tops, const std::stop_token& stop, const std::function<void(Found)>& take,
+    const std::function<void(const QString& folder)>& entering)
 {
-    Walk walk(stop, take);
+    Walk walk(stop, take, entering);
     walk.enter(tops);
     return !stop.stop_requested();
 }

@@ -2,6 +2,7 @@
 
 #include "app/model/MainThread.h"
 #include "platform/files/FileEventStream.h"
+#include "platform/files/FolderWatches.h"
 
 namespace Quorbel {
 
@@ -12,8 +13,9 @@ constexpr int debounce = 300;  // ms
 
 }  // namespace
 
-FolderWatcher::FolderWatcher(const QUrl& url, std::function<void()> onChange)
-    : m_stream(std::make_unique<FileEventStream>(url.toLocalFile(), streamLatency))
+FolderWatcher::FolderWatcher(std::function<void()> onChange)
+    : m_watches(std::make_shared<FolderWatches>(mostFolders))
+    , m_stream(std::make_unique<FileEventStream>(m_watches, streamLatency))
     , m_onChange(std::move(onChange))
 {
     requireMainThread("FolderWatcher");
@@ -32,11 +34,6 @@ void FolderWatcher::stop()
 {
     m_pending.stop();
     m_stream.reset();
-}
-
-bool FolderWatcher::isWatching() const
-{
-    return m_stream && m_stream->isActive();
 }
 
 }  // namespace Quorbel

@@ -1,9 +1,8 @@
-// Turns the file events of one folder into one debounced call. Thread: the main thread only.
+// Turns the file events of some folders into one debounced call. Thread: the main thread only.
 #pragma once
 
 #include <QObject>
 #include <QTimer>
-#include <QUrl>
 
 #include <functional>
 #include <memory>
@@ -11,22 +10,27 @@
 namespace Quorbel {
 
 class FileEventStream;
+class FolderWatches;
 
 class FolderWatcher final : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FolderWatcher)
 
 public:
-    /// Starts watching at once; a folder that cannot be watched stays silent. `onChange` is called 0.3 s after the
-    /// last batch of events, and must not destroy the watcher.
-    FolderWatcher(const QUrl& url, std::function<void()> onChange);
-    ~FolderWatcher() override;
+    /// At most so many folders are watched: each takes the kernel some memory.
+    static constexpr int mostFolders = 1000;
+
+    /// Watches nothing until folders are added to watches(). `onChange` is called 0.3 s after the last batch of
+    /// events, and must not destroy the watcher.
+    explicit FolderWatcher(std::function<void()> onChange);
+    ~FolderWatcher();
     /// No call after this.
     void stop();
-    /// False after stop(), and when the folder could not be watched or was removed.
-    bool isWatching() const;
+    /// For the background: adding a folder waits for its file system.
+    const std::shared_ptr<FolderWatches>& watches() const { return m_watches; }
 
 private:
+    std::shared_ptr<FolderWatches> m_watches;
     std::unique_ptr<FileEventStream> m_stream;
     std::function<void()> m_onChange;
     QTimer m_pending;

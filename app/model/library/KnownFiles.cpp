@@ -1,29 +1,146 @@
 #include "app/model/library/KnownFiles.h"
 
-#include "core/save/ExternalRefresh.h"
 #include "core/text/Text.h"
+
+#include <QSet>
 
 #include <algorithm>
 
 namespace Quorbel {
 
+namespace {
+
+QString pathIn(const QString& folder, const QString& name)
+{
+    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+}
+
+std::optional<qint64> milliseconds(const std::optional<QDateTime>& date)
+{
+    return date ? std::optional(date->toMSecsSinceEpoch()) : std::nullopt;
+}
+
+}  // namespace
+
+/// One scan beside what is known.
+struct KnownFiles::Comparison {
+    const KnownFiles& known;
+    const FolderScan& scan;
+    bool isAsked = false;
+    QSet<QString> away{};
+    FolderNews news{};
+
+    void run();
+
+private:
+    bool isAway(const QString& path, const FolderScan::Folder& found) const;
+    const FolderScan::Folder* nearest(QString path) const;
+    void compare(const QString& path, const Folder& folder);
+    void lookForFurther(const QString& path, const FolderScan::Folder& found);
+    bool isNews(const QString& path, const FolderFiles::Stamp& stamp) const;
+};
+
+void KnownFiles::Comparison::run()
+{
+    for (auto found = scan.folders.cbegin(); found != scan.folders.cend(); ++found)
+        if (isAway(found.key(), found.value()))
+            away.insert(found.key());
+    news.isAway = !away.isEmpty();
+    for (auto folder = known.m_folders.cbegin(); folder != known.m_folders.cend(); ++folder)
+        compare(folder.key(), folder.value());
+    for (auto found = scan.folders.cbegin(); found != scan.folders.cend(); ++found)
+        lookForFurther(found.key(), found.value());
+    std::sort(news.further.begin(), news.further.end(), [](const FolderNews::File& a, const FolderNews::File& b) {
+        return Text::naturalCompare(a.url.fileName(), b.url.fileName()) < 0;
+    });
+}
+
+// Where a disk was mounted and is no more, there is an empty folder of another disk.
+bool KnownFiles::Comparison::isAway(const QString& path, const FolderScan::Folder& found) const
+{
+    if (!found.isListed)
+        return true;
+    const auto device = known.m_devices.constFind(path);
+    return found.photos.isEmpty() && !found.hasFolders && device != known.m_devices.cend() && *device != found.device;
+}
+
+// The folder itself, or the nearest one around it that was listed; null when none can speak for it.
+const FolderScan::Folder* KnownFiles::Comparison::nearest(QString path) const
+{
+    while (true) {
+        if (const auto found = scan.folders.constFind(path); found != scan.folders.cend())
+            return away.contains(path) ? nullptr : &*found;
+        const qsizetype slash = path.lastIndexOf(u'/');
+        if (slash < 0 || path.size() == 1)
+            return nullptr;
+        path.truncate(std::max<qsizetype>(slash, 1));
+    }
+}
+
+void KnownFiles::Comparison::compare(const QString& path, const Folder& folder)
+{
+    const FolderScan::Folder* around = nearest(path);
+    if (!around)
+        return;
+    const auto found = scan.folders.constFind(path);
+    const bool isThere = found != scan.folders.cend();
+    QList<QUrl>& gone = isThere && found->photos.isEmpty() ? news.emptied : news.gone;
+    for (auto file = folder.dates.cbegin(); file != folder.dates.cend(); ++file) {
+        const auto now = isThere ? found->photos.constFind(file.key()) : decltype(found->photos.cend()){};
+        if (!isThere || now == found->photos.cend()) {
+            gone.append(QUrl::fromLocalFile(pathIn(path, file.key())));
+        } else if (file.value() && now->modified && *now->modified != *file.value()) {
+            const QString at = pathIn(path, file.key());
+            if (isNews(at, *now))
+                news.changed.append({ QUrl::fromLocalFile(at), *now });
+        }
+    }
+}
+
+void KnownFiles::Comparison::lookForFurther(const QString& path, const FolderScan::Folder& found)
+{
+    const auto folder = known.m_folders.constFind(path);
+    for (auto photo = found.photos.cbegin(); photo != found.photos.cend(); ++photo) {
+        if (folder != known.m_folders.cend() && folder->dates.contains(photo.key()))
+            continue;
+        const QString at = pathIn(path, photo.key());
+        if (isNews(at, photo.value()))
+            news.further.append({ QUrl::fromLocalFile(at), photo.value() });
+    }
+}
+
+bool KnownFiles::Comparison::isNews(const QString& path, const FolderFiles::Stamp& stamp) const
+{
+    const auto before = known.m_unreadable.constFind(path);
+    return isAsked || before == known.m_unreadable.cend() || *before != stamp;
+}
+
 KnownFiles::KnownFiles(const QList<ImageRecord>& photos)
 {
-    m_files.reserve(photos.size());
     for (const ImageRecord& photo : photos)
-        m_files.insert(photo.url, photo.contentModificationDate);
+        take({ Step::What::note, photo.url, photo.contentModificationDate });
 }
 
 void KnownFiles::note(const ImageRecord& photo)
 {
-    const std::scoped_lock lock(m_noting);
-    m_steps.push_back({ photo.url, photo.contentModificationDate, false });
+    add({ Step::What::note, photo.url, photo.contentModificationDate });
 }
 
 void KnownFiles::forget(const QUrl& photo)
 {
+    add({ Step::What::forget, photo });
+}
+
+void KnownFiles::noteUnreadable(const QList<FolderNews::File>& files)
+{
+    for (const FolderNews::File& file : files)
+        add({ Step::What::unreadable, file.url, {}, file.stamp });
+}
+
+void KnownFiles::add(const Step& step)
+{
     const std::scoped_lock lock(m_noting);
-    m_steps.push_back({ photo, std::nullopt, true });
+    m_steps.push_back(step);
 }
 
 void KnownFiles::catchUp()
@@ -33,35 +150,38 @@ void KnownFiles::catchUp()
         const std::scoped_lock lock(m_noting);
         steps.swap(m_steps);
     }
-    for (const Step& step : steps) {
-        if (step.isForgotten)
-            m_files.remove(step.photo);
-        else
-            m_files.insert(step.photo, step.modified);
-    }
+    for (const Step& step : steps)
+        take(step);
 }
 
-FolderNews KnownFiles::look(const QUrl& folder)
+void KnownFiles::take(const Step& step)
 {
-    const FolderScan scan = FolderScan::of(folder);
-    FolderNews news{ .isListed = scan.isListed };
-    if (!scan.isListed)
-        return news;
-    const std::scoped_lock lock(m_looking);
-    catchUp();
-    for (auto file = m_files.cbegin(); file != m_files.cend(); ++file) {
-        const auto now = scan.photos.constFind(file.key());
-        if (now == scan.photos.cend())
-            news.gone.append(file.key());
-        else if (ExternalRefresh::isModified(file.value(), now.value()))
-            news.changed.append(file.key());
+    if (step.what == Step::What::unreadable) {
+        m_unreadable.insert(step.photo.toLocalFile(), step.stamp);
+        return;
     }
-    for (auto photo = scan.photos.cbegin(); photo != scan.photos.cend(); ++photo)
-        if (!m_files.contains(photo.key()))
-            news.further.append(photo.key());
-    std::sort(news.further.begin(), news.further.end(),
-        [](const QUrl& a, const QUrl& b) { return Text::naturalCompare(a.fileName(), b.fileName()) < 0; });
-    return news;
+    const PhotoPlace place = PhotoPlace::of(step.photo);
+    QHash<QString, std::optional<qint64>>& dates = m_folders[place.folder].dates;
+    if (step.what == Step::What::forget)
+        dates.remove(place.name);
+    else
+        dates.insert(place.name, milliseconds(step.modified));
+    if (!m_unreadable.isEmpty())
+        m_unreadable.remove(step.photo.toLocalFile());
+}
+
+FolderNews KnownFiles::look(const std::function<FolderScan()>& scan, bool isAsked)
+{
+    const std::scoped_lock lock(m_looking);
+    // Before the scan: what is noted during it may be younger than what the scan sees.
+    catchUp();
+    const FolderScan found = scan();
+    Comparison comparison{ *this, found, isAsked };
+    comparison.run();
+    for (auto folder = found.folders.cbegin(); folder != found.folders.cend(); ++folder)
+        if (folder->isListed && !comparison.away.contains(folder.key()))
+            m_devices.insert(folder.key(), folder->device);
+    return comparison.news;
 }
 
 }  // namespace Quorbel

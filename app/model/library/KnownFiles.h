@@ -1,7 +1,7 @@
-// The files of the open photos and their modification dates as they were read, for looks at the folder in the
+// The files of the open photos and their modification dates as they were read, for looks at the folders in the
 // background: the list of photos itself never leaves the main thread, and a copy of it for each look would cost more
 // than the look.
-// Thread: any. note() and forget() never wait for a look; looks wait for one another.
+// Thread: any. What notes never waits for a look; looks wait for one another.
 #pragma once
 
 #include "app/model/library/FolderScan.h"
@@ -12,12 +12,20 @@
 
 namespace Quorbel {
 
-/// What is different in a folder from what is known of it.
+/// What is different in the folders from what is known of them.
 struct FolderNews {
-    bool isListed = false;  ///< false: the folder is gone or may not be read, and nothing can be said
+    struct File {
+        QUrl url{};
+        FolderFiles::Stamp stamp{};  ///< as it was seen
+    };
+    /// A folder is gone, may not be read, or lies on a disk that is not there: nothing can be said of its photos.
+    bool isAway = false;
     QList<QUrl> gone{};
-    QList<QUrl> changed{};
-    QList<QUrl> further{};  ///< not known yet; in natural order of their names
+    /// Gone as well, from folders that hold no photo any more. One that is being removed is empty for a moment before
+    /// it is gone.
+    QList<QUrl> emptied{};
+    QList<File> changed{};
+    QList<File> further{};  ///< not known yet; in natural order of their names
 };
 
 class KnownFiles final {
@@ -28,20 +36,34 @@ public:
     /// The photo is new, or was read again.
     void note(const ImageRecord& photo);
     void forget(const QUrl& photo);
-    /// Looks at the folder; what was noted until then is taken into account.
-    FolderNews look(const QUrl& folder);
+    /// These were read in vain: they are no news until they are other files, or somebody asks.
+    void noteUnreadable(const QList<FolderNews::File>& files);
+
+    /// Compares what was noted until now with a scan that begins now. `isAsked`: also tells of what was read in vain.
+    FolderNews look(const std::function<FolderScan()>& scan, bool isAsked);
 
 private:
+    struct Folder {
+        QHash<QString, std::optional<qint64>> dates{};  ///< by name; milliseconds since 1970, UTC
+    };
     struct Step {
+        enum class What { note, forget, unreadable };
+        What what = What::note;
         QUrl photo{};
         std::optional<QDateTime> modified{};
-        bool isForgotten = false;
+        FolderFiles::Stamp stamp{};
     };
+    struct Comparison;
 
+    void add(const Step& step);
     void catchUp();
+    void take(const Step& step);
 
     std::mutex m_looking;
-    QHash<QUrl, std::optional<QDateTime>> m_files;  ///< under m_looking
+    // Under m_looking. A folder's names are held once, as the records have them.
+    QHash<QString, Folder> m_folders;
+    QHash<QString, FolderFiles::Stamp> m_unreadable;  ///< by path
+    QHash<QString, quint64> m_devices;  ///< of each folder, by path, when there last was something in it
     std::mutex m_noting;
     std::vector<Step> m_steps;  ///< since the last look; under m_noting
 };

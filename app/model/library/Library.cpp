@@ -61,8 +61,7 @@ void Library::Load::run(
         read = PhotoReader::read(service, std::exchange(unread, {}), progress, stop);
     if (!read.error && !read.isCancelled)
         readChanged(service, progress, stop);
-    const bool isWatched = listing.folder && listing.tops.isEmpty();
-    photos = OpenPhotos::of(std::move(read.records), order, isWatched, listing.folderOrder(), stop);
+    photos = OpenPhotos::of(std::move(read.records), order, !listing.watched().isEmpty(), listing.folderOrder(), stop);
 }
 
 // What was changed since it was read. Silent: what cannot be read any more stays as it is.
@@ -175,8 +174,6 @@ void Library::open()
         return read(load);
     show(*load);
     emit opened();
-    // Nobody watched the folder while it was read.
-    m_refresh.refresh();
 }
 
 void Library::show(Load& load)
@@ -186,8 +183,7 @@ void Library::show(Load& load)
     const bool isOtherFolder = std::exchange(m_folderURL, load.listing.folder) != load.listing.folder;
     if (hasOtherName || isOtherFolder)
         m_announcer.announce(Change::folder);
-    // Folders with those in them are not watched.
-    m_refresh.begin(load.listing.tops.isEmpty() ? load.listing.folder : std::nullopt, load.tooSlow);
+    m_refresh.begin(load.listing.watched(), !load.listing.tops.isEmpty(), load.tooSlow);
 }
 
 void Library::close()

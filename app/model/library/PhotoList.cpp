@@ -159,6 +159,7 @@ bool PhotoList::append(const QList<ImageRecord>& fresh)
 void PhotoList::rename(const QUrl& source, const QUrl& destination)
 {
     const int at = position(source);
+    ++m_renames;
     m_creationDates.rename(source, destination);
     ImageRecord renamed = m_open.records.at(at);
     renamed.url = destination;

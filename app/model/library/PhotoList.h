@@ -54,6 +54,8 @@ public:
     int serial() const { return m_serial; }
     /// The same, though photos that were only added do not count: the others are where and what they were.
     int heldSerial() const { return m_heldSerial; }
+    /// Counts the photos that got another name.
+    int renames() const { return m_renames; }
     /// What looks in the background compare with; null where nothing is watched.
     const std::shared_ptr<KnownFiles>& files() const { return m_open.files; }
 
@@ -98,6 +100,7 @@ private:
     CreationDates m_creationDates;
     int m_serial = 0;
     int m_heldSerial = 0;
+    int m_renames = 0;
 };
 
 }  // namespace Quorbel

@@ -126,6 +126,11 @@ void PhotoListing::add(const FolderWalk::Found& found)
             leftOut.append({ photo.url.fileName(), photo.look.reason });
 }
 
+QList<QUrl> PhotoListing::watched() const
+{
+    return tops.isEmpty() && folder ? QList{ *folder } : tops;
+}
+
 FolderOrder PhotoListing::folderOrder() const
 {
     QStringList paths;

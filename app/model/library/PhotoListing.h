@@ -14,7 +14,7 @@ struct PhotoListing {
     QList<PhotoFile> files{};  ///< each once, in natural order of their names; with subfolders in that of the walk
     QList<LeftOut> leftOut{};  ///< of those that bear the extension of a photo
     QString label{};  ///< what is open, for the window's title
-    std::optional<QUrl> folder{};  ///< set when exactly one folder was given: the one to watch
+    std::optional<QUrl> folder{};  ///< set when exactly one folder was given
     QList<QUrl> existing{};  ///< the given URLs that exist
     QList<QUrl> tops{};  ///< folders that were listed with all folders in them
 
@@ -26,6 +26,8 @@ struct PhotoListing {
     static PhotoListing withSubfolders(const QList<QUrl>& urls, const std::stop_token& stop);
     /// Whether there is a photo or a folder among them. Lists nothing.
     static bool isWorthListing(const QList<QUrl>& urls);
+    /// The folders that are watched: the one that was given, or all with those in them.
+    QList<QUrl> watched() const;
     /// The order that subfolders bring; none without.
     FolderOrder folderOrder() const;
     void add(const FolderWalk::Found& found);

@@ -1,7 +1,9 @@
-// The folder watcher alone: what it reports, and that it reports once.
+// The folder watcher alone: what it reports, that it reports once, and which of many folders.
 #include "app/model/library/FolderWatcher.h"
+#include "platform/files/FolderWatches.h"
 #include "tests/support/Support.h"
 
+#include <QDir>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -10,6 +12,22 @@
 using namespace Quorbel;
 using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Watches folders and counts the calls.
+struct Watched {
+    explicit Watched(const QStringList& folders)
+    {
+        for (const QString& folder : folders)
+            isAdded = watcher.watches()->add(folder) && isAdded;
+    }
+    int calls = 0;
+    bool isAdded = true;
+    FolderWatcher watcher{ [this] { ++calls; } };
+};
+
+}  // namespace
 
 class tst_FolderWatcher : public QObject {
     Q_OBJECT
@@ -20,6 +38,9 @@ private slots:
     void reports();
     void coalesces();
     void silentWhenStopped();
+    void manyFolders();
+    void renamedFolder();
+    void limit();
 };
 
 void tst_FolderWatcher::reports_data()
@@ -34,9 +55,8 @@ void tst_FolderWatcher::reports()
     QFETCH(QString, what);
     const PhotoFolder folder;
     const QString path = folder.add(u"a.jpg"_s).toLocalFile();
-    int calls = 0;
-    FolderWatcher watcher(QUrl::fromLocalFile(folder.path()), [&calls] { ++calls; });
-    QVERIFY(watcher.isWatching());
+    const Watched watched({ folder.path() });
+    QVERIFY(watched.isAdded);
     if (what == u"create") {
         folder.add(u"b.jpg"_s);
     } else if (what == u"write in place") {
@@ -50,40 +70,85 @@ void tst_FolderWatcher::reports()
         const utimbuf times{ 1000, 1000 };
         QCOMPARE(utime(qPrintable(path), &times), 0);
     }
-    QTRY_COMPARE(calls, 1);
+    QTRY_COMPARE(watched.calls, 1);
 }
 
 void tst_FolderWatcher::coalesces()
 {
     const PhotoFolder folder;
-    int calls = 0;
-    FolderWatcher watcher(QUrl::fromLocalFile(folder.path()), [&calls] { ++calls; });
+    const Watched watched({ folder.path() });
     for (int i = 0; i < 10; ++i) {
         folder.add(u"%1.jpg"_s.arg(i));
         QTest::qWait(60);
     }
-    QTRY_COMPARE(calls, 1);
+    QTRY_COMPARE(watched.calls, 1);
     QTest::qWait(800);
-    QCOMPARE(calls, 1);
+    QCOMPARE(watched.calls, 1);
     // Reading is no change.
     QVERIFY(!readFile(folder.path(u"1.jpg"_s)).isEmpty());
     QTest::qWait(800);
-    QCOMPARE(calls, 1);
+    QCOMPARE(watched.calls, 1);
 }
 
 void tst_FolderWatcher::silentWhenStopped()
 {
     const PhotoFolder folder;
-    int calls = 0;
-    FolderWatcher watcher(QUrl::fromLocalFile(folder.path()), [&calls] { ++calls; });
+    Watched watched({ folder.path() });
     folder.add(u"a.jpg"_s);
     QTest::qWait(300);
-    watcher.stop();
-    QVERIFY(!watcher.isWatching());
+    watched.watcher.stop();
     QTest::qWait(600);
-    QCOMPARE(calls, 0);
-    const FolderWatcher nowhere(QUrl::fromLocalFile(folder.path(u"nowhere"_s)), [&calls] { ++calls; });
-    QVERIFY(!nowhere.isWatching());
+    QCOMPARE(watched.calls, 0);
+    QVERIFY(!Watched({ folder.path(u"nowhere"_s) }).isAdded);
+}
+
+void tst_FolderWatcher::manyFolders()
+{
+    const PhotoFolder folder;
+    for (const QString& name : { u"a"_s, u"b"_s, u"c"_s })
+        QVERIFY(QDir(folder.path()).mkdir(name));
+    Watched watched({ folder.path(), folder.path(u"a"_s), folder.path(u"b"_s), folder.path(u"c"_s) });
+    folder.add(u"a/1.jpg"_s);
+    folder.add(u"c/1.jpg"_s);
+    QTRY_COMPARE(watched.calls, 1);
+    // What is no longer asked for is silent, and that it is so is no news.
+    watched.watcher.watches()->keep({ folder.path(u"a"_s), folder.path(u"c"_s) });
+    folder.add(u"b/1.jpg"_s);
+    QTest::qWait(800);
+    QCOMPARE(watched.calls, 1);
+    folder.add(u"c/2.jpg"_s);
+    QTRY_COMPARE(watched.calls, 2);
+}
+
+// The same folder is watched under its new name, and another one under the old.
+void tst_FolderWatcher::renamedFolder()
+{
+    const PhotoFolder folder;
+    QDir here(folder.path());
+    QVERIFY(here.mkdir(u"old"_s));
+    Watched watched({ folder.path(u"old"_s) });
+    QVERIFY(here.rename(u"old"_s, u"new"_s) && here.mkdir(u"old"_s));
+    QTRY_COMPARE(watched.calls, 1);
+    FolderWatches& watches = *watched.watcher.watches();
+    QVERIFY(watches.add(folder.path(u"new"_s)));
+    watches.keep({ folder.path(u"new"_s) });
+    folder.add(u"new/1.jpg"_s);
+    QTRY_COMPARE(watched.calls, 2);
+    QVERIFY(watches.add(folder.path(u"old"_s)));
+    folder.add(u"old/1.jpg"_s);
+    QTRY_COMPARE(watched.calls, 3);
+}
+
+void tst_FolderWatcher::limit()
+{
+    const PhotoFolder folder;
+    FolderWatches watches(2);
+    QVERIFY(QDir(folder.path()).mkdir(u"a"_s) && QDir(folder.path()).mkdir(u"b"_s));
+    QVERIFY(watches.add(folder.path()) && watches.add(folder.path(u"a"_s)));
+    QVERIFY(!watches.add(folder.path(u"b"_s)));
+    QVERIFY(watches.add(folder.path()));
+    watches.keep({ folder.path() });
+    QVERIFY(watches.add(folder.path(u"b"_s)));
 }
 
 QTEST_GUILESS_MAIN(tst_FolderWatcher)
