@@ -24,7 +24,7 @@ QString folderOf(const ImageRecord& record)
 bool AppModel::canRename() const
 {
     requireMainThread("canRename");
-    if (selection().size() != 1 || !primaryRecord())
+    if (selection().size() != 1 || !primaryRecord() || primaryRecord()->isUnread)
         return false;
     for (const QLatin1StringView id : { FieldID::date, FieldID::title, FieldID::creator, FieldID::place })
         if (!Text::trimmed(draftValues().value(id)).isEmpty())

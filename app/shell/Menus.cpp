@@ -103,8 +103,9 @@ Menus::Menus(AppModel& model, ContentView& content, const MenuCommands& commands
     addEditMenu();
     addViewMenu();
     addHelpMenu(commands);
-    for (const auto change : { &AppModel::recordsChanged, &AppModel::selectionChanged, &AppModel::folderChanged,
-             &AppModel::isSavingChanged, &AppModel::editsChanged, &AppModel::canUndoSaveChanged })
+    for (const auto change : { &AppModel::recordsChanged, &AppModel::selectionChanged, &AppModel::unreadSelectedChanged,
+             &AppModel::folderChanged, &AppModel::isSavingChanged, &AppModel::editsChanged,
+             &AppModel::canUndoSaveChanged })
         connect(&model, change, this, &Menus::followState);
     connect(&model.preferences(), &Preferences::changed, this, &Menus::followState);
     connect(&content, &ContentView::previewShownChanged, this, &Menus::followState);

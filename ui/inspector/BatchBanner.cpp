@@ -30,17 +30,19 @@ BatchBanner::BatchBanner(QWidget* parent)
     : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setAccessibleDescription(bannerHint());
     onRestyle(this, [this] { updateGeometry(); });
 }
 
-void BatchBanner::setCount(qsizetype photos)
+void BatchBanner::setPhotos(qsizetype count, const QString& note)
 {
-    const QString title = u"Editing %1 photos"_s.arg(photos);
-    if (title == m_title)
+    const QString title = u"Editing %1 photos"_s.arg(count);
+    const QString second = note.isEmpty() ? bannerHint() : note;
+    if (title == m_title && second == m_note)
         return;
     m_title = title;
+    m_note = second;
     setAccessibleName(title);
+    setAccessibleDescription(second);
     update();
 }
 
@@ -63,7 +65,7 @@ void BatchBanner::paintEvent(QPaintEvent*)
     painter.setFont(sansFont(15, QFont::DemiBold));
     const qreal left = iconBox.right() + pxF(gap);
     const qreal width = this->width() - left - pxF(18);
-    const QStringList hint = brokenIntoLines(bannerHint(), sansFont(12), int(width), LineBreaks::words, 2);
+    const QStringList hint = brokenIntoLines(m_note, sansFont(12), int(width), LineBreaks::words, 2);
     const qreal top = (height() - pxF(21 + 17 * int(hint.size()))) / 2;
     const auto line = [&](qreal y, qreal height, const QString& text) {
         painter.drawText(QRectF(left, y, width, height), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,

@@ -13,7 +13,8 @@ class BatchBanner final : public QWidget {
 
 public:
     explicit BatchBanner(QWidget* parent = nullptr);
-    void setCount(qsizetype photos);
+    /// How many they are, and what is said under that; "": what one does here.
+    void setPhotos(qsizetype count, const QString& note);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -22,6 +23,7 @@ protected:
 
 private:
     QString m_title;
+    QString m_note;
 };
 
 }  // namespace Quorbel

@@ -4,8 +4,11 @@
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/Toggles.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Painting.h"
+#include "ui/controls/theme/Theme.h"
 
 #include <QHBoxLayout>
+#include <QPainter>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -23,11 +26,28 @@ constexpr qreal firstLineDrop = 3;  // of a text area's first line below that of
 constexpr qreal lineGap = 4;
 constexpr qreal stackedBelow = 370;  // narrower rows have their label over the editor
 constexpr qreal stackedLabel = 20;
+constexpr qreal areaHeight = 54;
+constexpr qreal ratingWidth = 130;
+constexpr qreal blockRadius = 7;
+
+// Keeps the place of a field whose value is not known yet. No border and no motion.
+class FieldBlock final : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        paintBox(painter, rect(), pxF(blockRadius), Theme::of(this).derived.hover, Qt::NoPen);
+    }
+};
+
 }  // namespace
 
 FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
     : QWidget(parent)
-    , m_multiline(parts.kind == FieldKind::multiline)
+    , m_kind(parts.kind)
     , m_editor(makeRowEditor(parts, *this))
     , m_line(new QHBoxLayout(this))
     , m_column(new QVBoxLayout)
@@ -47,7 +67,7 @@ FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
 
 void FieldRow::restyle()
 {
-    const int drop = m_multiline && !m_stacked ? px(firstLineDrop) : 0;
+    const int drop = isMultiline() && !m_stacked ? px(firstLineDrop) : 0;
     const int height = px(m_stacked ? stackedLabel : rowHeight);
     m_label->setContentsMargins(0, drop, 0, 0);
     m_label->setFixedHeight(height + drop);
@@ -57,6 +77,10 @@ void FieldRow::restyle()
     m_column->setSpacing(px(lineGap));
     if (m_tick)
         m_tick->setFixedSize(px(16), height + 2 * drop);
+    if (m_block)
+        m_block->setFixedHeight(px(isMultiline() ? areaHeight : rowHeight));
+    if (m_block && m_kind == FieldKind::rating)
+        m_block->setFixedWidth(px(ratingWidth));
     setStacked(width() < px(stackedBelow));
 }
 
@@ -84,7 +108,7 @@ void FieldRow::setStacked(bool stacked)
 
 int FieldRow::dotCenter() const
 {
-    return m_stacked ? px(stackedLabel) / 2 : px(rowHeight) / 2 + (m_multiline ? px(firstLineDrop) : 0);
+    return m_stacked ? px(stackedLabel) / 2 : px(rowHeight) / 2 + (isMultiline() ? px(firstLineDrop) : 0);
 }
 
 QList<QWidget*> FieldRow::tabStops() const
@@ -103,13 +127,32 @@ void FieldRow::setState(const FieldRowState& state, bool fresh)
         return;
     const FieldRowState old = std::exchange(m_state, state);
     m_label->setText(state.label);
+    m_label->setRole(state.unread ? TextRole::muted : TextRole::label);
     m_editor.show(state, fresh);
+    showBlock();
     showTick();
     showRemove();
     showLines();
     describe();
     if (old.edited != state.edited && parentWidget())
         parentWidget()->update();
+}
+
+void FieldRow::showBlock()
+{
+    if (m_state.unread && !m_block) {
+        m_block = new FieldBlock(this);
+        restyle();
+        const auto side = m_kind == FieldKind::rating ? Qt::AlignLeft : Qt::Alignment();
+        m_column->insertWidget(m_column->indexOf(m_editor.widget), m_block, 0, side);
+    }
+    // Never both at once, which would be higher than either.
+    if (m_state.unread)
+        m_editor.widget->hide();
+    if (m_block)
+        m_block->setVisible(m_state.unread);
+    if (!m_state.unread)
+        m_editor.widget->show();
 }
 
 void FieldRow::showTick()

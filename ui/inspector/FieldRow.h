@@ -51,8 +51,10 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    bool isMultiline() const { return m_kind == FieldKind::multiline; }
     void restyle();
     void setStacked(bool stacked);
+    void showBlock();
     void showTick();
     void showRemove();
     void showLines();
@@ -60,13 +62,14 @@ private:
     enum class Line { note, tags, help };
     void showLine(Line which, const QString& text);
 
-    bool m_multiline;
+    FieldKind m_kind;
     bool m_stacked = false;  ///< the label stands over the editor, not beside it
     RowEditor m_editor;
     FieldRowState m_state{};
     QHBoxLayout* m_line;
     QVBoxLayout* m_column;
     TwoLineLabel* m_label;
+    QWidget* m_block = nullptr;  ///< until the row was unread
     QBCheckbox* m_tick = nullptr;  ///< until the row was in a batch
     QBIconButton* m_remove = nullptr;  ///< until the row was removable
     std::array<WrappedLine*, 3> m_lines{};  ///< under the editor, in the order of Line; each until it was needed

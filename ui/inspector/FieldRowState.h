@@ -18,6 +18,7 @@ struct FieldRowState {
     bool edited = false;
     bool removable = false;
     QString noteLine{};  ///< what is wrong with the text; none when empty
+    bool unread = false;  ///< not known yet: a block in the place of the editor, which takes nothing
     bool fixed = false;  ///< shown only: an editor of one value takes no typing, and there is no tick
     QString namespaceLine{};  ///< none when empty
     QString helpLine{};  ///< none when empty

@@ -4,14 +4,19 @@
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/FieldRow.h"
 
+#include <QAccessible>
+#include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 // Points.
 constexpr qreal above = 16;
+constexpr qreal titleHeight = 16;
 constexpr qreal belowTitle = 8;
 constexpr qreal rowGap = 7;
 constexpr qreal dotLeft = 11;  // from the label to the dot's left edge
@@ -21,9 +26,10 @@ constexpr qreal dotSize = 6;
 FormSection::FormSection(const QString& title, const QString& note, QWidget* parent)
     : QWidget(parent)
     , m_column(new QVBoxLayout(this))
+    , m_header(new SectionHeader(title, false, note))
     , m_rowColumn(new QVBoxLayout)
 {
-    m_column->addWidget(new SectionHeader(title, false, note));
+    m_column->addWidget(m_header);
     m_column->addLayout(m_rowColumn);
     onRestyle(this, [this] {
         m_column->setContentsMargins(px(dotRoom), px(above), 0, 0);
@@ -51,6 +57,26 @@ void FormSection::setRows(const QList<FieldRow*>& rows)
 void FormSection::setUnderRows(QWidget* widget)
 {
     m_column->addWidget(widget);
+}
+
+void FormSection::setReading(bool on)
+{
+    if (on && !m_reading) {
+        m_reading = new ThemedLabel(u"Reading…"_s, TextRole::label, 11);
+        m_reading->setAccessibleName(u"Reading metadata"_s);
+        m_reading->setLineHeight(titleHeight);
+        auto* line = new QHBoxLayout(m_header);
+        line->setContentsMargins(0, 0, 0, 0);
+        line->addStretch();
+        line->addWidget(m_reading, 0, Qt::AlignTop);
+    }
+    if (!m_reading || on == m_reading->isVisibleTo(this))
+        return;
+    m_reading->setVisible(on);
+    if (!on)
+        return;
+    QAccessibleEvent event(m_reading, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 void FormSection::paintEvent(QPaintEvent*)

@@ -9,6 +9,8 @@ class QVBoxLayout;
 namespace Quorbel {
 
 class FieldRow;
+class SectionHeader;
+class ThemedLabel;
 
 class FormSection final : public QWidget {
     Q_OBJECT
@@ -24,13 +26,17 @@ public:
     void setRows(const QList<FieldRow*>& rows);
     const QList<FieldRow*>& rows() const { return m_rows; }
     void setUnderRows(QWidget* widget);
+    /// Says at the right of the title that the rows are being read.
+    void setReading(bool on);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QVBoxLayout* m_column;
+    SectionHeader* m_header;
     QVBoxLayout* m_rowColumn;
+    ThemedLabel* m_reading = nullptr;  ///< until it was needed
     QList<FieldRow*> m_rows;
 };
 

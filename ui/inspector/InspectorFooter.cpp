@@ -108,8 +108,11 @@ void InspectorFooter::refresh(bool hasPhoto)
     m_unsaved->setText(InspectorStates::unsavedText(m_model));
     m_unsaved->setRole(dirty ? TextRole::text : TextRole::label);
     m_unsaved->setContentsMargins(dirty ? px(dotSize + gap) : 0, 0, 0, 0);
-    m_rename->setVisible(hasPhoto && m_model.canRename());
+    const bool isUnread = InspectorStates::isUnread(m_model);
+    m_rename->setVisible(hasPhoto && (m_model.canRename() || (isUnread && !m_model.isBatch())));
+    m_rename->setEnabled(!isUnread);
     m_add->setVisible(hasPhoto);
+    m_add->setEnabled(!isUnread);
     setTitle(m_add, InspectorStates::addTitle(m_model));
     m_save->setVisible(hasPhoto);
     setTitle(m_save, InspectorStates::saveTitle(m_model));

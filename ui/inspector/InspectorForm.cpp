@@ -8,6 +8,7 @@
 #include "ui/inspector/BatchBanner.h"
 #include "ui/inspector/CameraSection.h"
 #include "ui/inspector/FieldRow.h"
+#include "ui/inspector/FormPause.h"
 #include "ui/inspector/FormSection.h"
 #include "ui/inspector/InspectorStates.h"
 #include "ui/inspector/PhotoHeader.h"
@@ -29,6 +30,15 @@ constexpr qreal top = 14;
 constexpr qreal bottom = 16;
 
 constexpr int mostCompletions = 8;
+constexpr int blocksDelay = 150;  // milliseconds in which a record may come before anything changes
+
+// The fields of the usual photo: those that are always shown, and the rating.
+QList<FieldSpec> usualFields()
+{
+    QList<FieldSpec> fields = FieldSchema::all();
+    fields.removeIf([](const FieldSpec& field) { return !field.alwaysShown && field.kind != FieldKind::rating; });
+    return fields;
+}
 
 // Header and banner keep the room that sections leave for the dots.
 QWidget* indented(QWidget* widget)
@@ -55,6 +65,7 @@ InspectorForm::InspectorForm(
     , m_cameraSection(new FormSection(u"CAMERA"_s, u"read-only"_s))
     , m_map(new LocationMap(places, maps))
     , m_camera(new CameraSection)
+    , m_pause(new FormPause(this))
 {
     m_column->setSpacing(0);
     m_column->addWidget(indented(m_header));
@@ -70,6 +81,9 @@ InspectorForm::InspectorForm(
     m_column->addWidget(m_cameraSection);
     m_column->addStretch();
     connect(m_map, &LocationMap::found, &m_model, &AppModel::fillPlaceNames);
+    m_blocksSoon.setSingleShot(true);
+    m_blocksSoon.setInterval(blocksDelay);
+    connect(&m_blocksSoon, &QTimer::timeout, this, &InspectorForm::showBlocks);
     onRestyle(this, [this] { setBottomInset(m_bottomInset); });
 }
 
@@ -81,10 +95,12 @@ void InspectorForm::setBottomInset(int pixels)
 
 void InspectorForm::refresh()
 {
+    showHeader();
+    if (InspectorStates::isUnread(m_model))
+        return awaitRecords();
     const Subject subject{ m_model.selection(), m_model.primary() };
     const bool fresh = subject != m_subject;
     m_subject = subject;
-    showHeader();
     for (const FieldSection section : allCases<FieldSection>())
         showFields(section, fresh);
     showMap(fresh);
@@ -92,7 +108,75 @@ void InspectorForm::refresh()
     showCamera();
     if (std::exchange(m_tabOrderStale, false))
         orderTabStops();
+    endWaiting();
     announceAdded(fresh);
+}
+
+void InspectorForm::leave()
+{
+    m_subject.reset();
+    endWaiting();
+    for (FormSection* section : m_sections)
+        section->hide();
+    m_map->setPoint(std::nullopt, false);
+    m_customs->hide();
+    m_cameraSection->hide();
+}
+
+// --- While nothing is known ---
+
+// For a moment the values of before stay, out of reach: a record that comes soon takes their place at once.
+void InspectorForm::awaitRecords()
+{
+    m_subject.reset();
+    if (m_pause->isOn())
+        return;
+    m_pause->begin();
+    takeMouse(false);
+    m_map->abandon();
+    setAccessibleName(u"Reading metadata"_s);
+    m_blocksSoon.start();
+}
+
+void InspectorForm::showBlocks()
+{
+    const QList<FieldSpec> fields = usualFields();
+    for (const FieldSection section : allCases<FieldSection>()) {
+        QList<FieldRow*> rows;
+        for (const FieldSpec& field : fields) {
+            if (field.section != section)
+                continue;
+            rows.append(rowOf(field));
+            rows.last()->setState(InspectorStates::unreadRow(field), true);
+        }
+        FormSection* form = m_sections.at(size_t(section));
+        form->setRows(rows);
+        form->setVisible(!rows.isEmpty());
+    }
+    m_map->setPoint(std::nullopt, false);
+    m_customs->hide();
+    m_cameraSection->hide();
+    m_sections.front()->setReading(true);
+}
+
+void InspectorForm::endWaiting()
+{
+    if (!m_pause->isOn())
+        return;
+    m_blocksSoon.stop();
+    m_sections.front()->setReading(false);
+    takeMouse(true);
+    setAccessibleName({});
+    const QList<FieldRow*>& rows = m_sections.front()->rows();
+    m_pause->end(rows.isEmpty() ? nullptr : rows.first()->input());
+}
+
+// Whether the mouse reaches the rows.
+void InspectorForm::takeMouse(bool on)
+{
+    for (FormSection* section : m_sections)
+        section->setAttribute(Qt::WA_TransparentForMouseEvents, !on);
+    m_customs->setAttribute(Qt::WA_TransparentForMouseEvents, !on);
 }
 
 void InspectorForm::announceAdded(bool fresh)
@@ -109,7 +193,7 @@ void InspectorForm::showHeader()
 {
     m_header->parentWidget()->setVisible(!m_model.isBatch());
     m_banner->parentWidget()->setVisible(m_model.isBatch());
-    m_banner->setCount(m_model.selection().size());
+    m_banner->setPhotos(m_model.selection().size(), InspectorStates::readingText(m_model));
     if (const ImageRecord* record = m_model.primaryRecord())
         m_header->setRecord(*record);
 }
@@ -224,6 +308,8 @@ FieldRow* InspectorForm::rowOf(const CustomValue& custom)
 
 void InspectorForm::write(const QString& id, const QString& text)
 {
+    if (m_pause->isOn())
+        return;
     if (m_model.isBatch())
         m_model.setBatch(id, text);
     else
@@ -232,6 +318,8 @@ void InspectorForm::write(const QString& id, const QString& text)
 
 void InspectorForm::changeList(const QString& id, const QString& item, bool add)
 {
+    if (m_pause->isOn())
+        return;
     if (m_model.isBatch())
         add ? m_model.addBatchListItem(id, item) : m_model.removeBatchListItem(id, item);
     else

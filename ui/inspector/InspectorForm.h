@@ -7,6 +7,7 @@
 
 #include <QHash>
 #include <QSet>
+#include <QTimer>
 #include <QUrl>
 #include <QWidget>
 
@@ -21,6 +22,7 @@ class AppModel;
 class BatchBanner;
 class CameraSection;
 class FieldRow;
+class FormPause;
 class FormSection;
 class LocationMap;
 class MapRenderer;
@@ -40,6 +42,8 @@ public:
         AppModel& model, ThumbnailStore* thumbs, PlaceProvider* places, MapRenderer* maps, QWidget* parent = nullptr);
     /// Reads the model again and shows what differs. Needs a selected photo.
     void refresh();
+    /// Nothing is selected any more: what is shown next has nothing to do with what was.
+    void leave();
     /// The controls that Tab comes to behind the form's last.
     void setTabStopsBehind(const QList<QWidget*>& stops) { m_stopsBehind = stops; }
     /// Pixels kept free at the lower end.
@@ -61,6 +65,10 @@ private:
     };
 
     void showHeader();
+    void awaitRecords();
+    void showBlocks();
+    void endWaiting();
+    void takeMouse(bool on);
     void showFields(FieldSection section, bool fresh);
     void showCustoms(bool fresh);
     void showMap(bool fresh);
@@ -77,7 +85,7 @@ private:
 
     AppModel& m_model;
     PlaceProvider* m_places;
-    Subject m_subject{};
+    std::optional<Subject> m_subject{};  ///< of the values on screen
     QSet<QString> m_added{};  ///< the fields that were added when the model was last read
     QSet<QString> m_customNames{};  ///< of the custom fields on screen
     bool m_tabOrderStale = true;
@@ -91,6 +99,8 @@ private:
     FormSection* m_cameraSection;
     LocationMap* m_map;
     CameraSection* m_camera;
+    FormPause* m_pause;  ///< on while there is nothing to show of what is selected
+    QTimer m_blocksSoon;
     int m_bottomInset = 0;
 };
 

@@ -77,6 +77,21 @@ QString currentText(const AppModel& model, const QString& id)
     return text != typed.cend() ? *text : model.sharedValue(id).value_or(QString());
 }
 
+bool isUnread(const AppModel& model)
+{
+    return !model.selection().isEmpty() && model.unreadSelected() == model.selection().size();
+}
+
+QString readingText(const AppModel& model)
+{
+    return model.unreadSelected() > 0 ? u"Reading %1 more…"_s.arg(model.unreadSelected()) : QString();
+}
+
+FieldRowState unreadRow(const FieldSpec& field)
+{
+    return { .label = field.label, .unread = true };
+}
+
 FieldRowState fieldRow(const AppModel& model, const FieldSpec& field)
 {
     FieldRowState state;
@@ -124,6 +139,8 @@ FieldRowState customRow(const AppModel& model, const CustomValue& custom)
 QString unsavedText(const AppModel& model)
 {
     const int count = model.unsavedCount();
+    if (model.isAwaitingRecords())
+        return readingText(model);
     if (count == 0)
         return u"No unsaved changes"_s;
     if (!model.isBatch())

@@ -13,8 +13,15 @@ struct FieldSpec;
 
 namespace InspectorStates {
 
+/// Whether none of the selected photos has been read yet: there is nothing to show and nothing to type into.
+bool isUnread(const AppModel& model);
+/// "Reading 812 more…", while some of the selected photos have not been read; else "".
+QString readingText(const AppModel& model);
+
 FieldRowState fieldRow(const AppModel& model, const FieldSpec& field);
 FieldRowState customRow(const AppModel& model, const CustomValue& custom);
+
+FieldRowState unreadRow(const FieldSpec& field);
 
 /// The text that an editor of this field shows now.
 QString currentText(const AppModel& model, const QString& id);

@@ -51,8 +51,9 @@ InspectorView::InspectorView(
 
 void InspectorView::connectModel()
 {
-    for (const auto changed : { &AppModel::selectionChanged, &AppModel::primaryChanged, &AppModel::recordsChanged,
-             &AppModel::editsChanged, &AppModel::isSavingChanged, &AppModel::leftEditsChanged })
+    for (const auto changed :
+        { &AppModel::selectionChanged, &AppModel::primaryChanged, &AppModel::recordsChanged, &AppModel::editsChanged,
+            &AppModel::isSavingChanged, &AppModel::leftEditsChanged, &AppModel::unreadSelectedChanged })
         connect(&m_model, changed, this, &InspectorView::refresh);
     connect(&m_model.preferences(), &Preferences::changed, this, &InspectorView::refresh);
 }
@@ -69,6 +70,8 @@ void InspectorView::refresh()
     m_nothing->setVisible(!hasPhoto);
     if (hasPhoto)
         m_form->refresh();
+    else
+        m_form->leave();
     m_footer->refresh(hasPhoto);
 }
 
