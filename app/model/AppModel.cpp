@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QPointer>
 
+#include <algorithm>
 #include <map>
 
 namespace Quorbel {
@@ -45,6 +46,9 @@ void AppModel::connectParts()
     });
     connect(&m_library, &Library::arrived, this, &AppModel::showArrived);
     connect(&m_library, &Library::opened, this, &AppModel::takeOpened);
+    connect(&m_library, &Library::read, this, &AppModel::takeRead);
+    connect(&m_library, &Library::unreadable, this, &AppModel::takeVanished);
+    connect(&m_library, &Library::nothingReadable, this, &AppModel::closeFolder);
     connect(&m_folderNames, &FolderNames::changed, this, &AppModel::renamePreviewChanged);
     FolderRefresh& refresh = m_library.refresh();
     connect(&refresh, &FolderRefresh::problem, this, &AppModel::setErrorMessage);
@@ -54,7 +58,10 @@ void AppModel::connectParts()
         if (selection().isEmpty())
             commitSelection(Selection::firstVisible(photos()));
     });
+    connect(this, &AppModel::selectionChanged, this, &AppModel::updateUnread);
+    connect(this, &AppModel::recordsChanged, this, &AppModel::updateUnread);
     connect(this, &AppModel::primaryChanged, this, [this] {
+        m_library.setFirst(primary());
         if (m_renameOpen && primary() != m_renamed)
             setRenameOpen(false);
     });
@@ -150,7 +157,21 @@ QString AppModel::folderCountText() const
 void AppModel::setInView(const QList<QUrl>& photos)
 {
     requireMainThread("setInView");
-    Q_UNUSED(photos)
+    m_library.setInView(photos);
+}
+
+void AppModel::readAgain()
+{
+    requireMainThread("readAgain");
+    m_library.readAgain();
+}
+
+void AppModel::cancelRead()
+{
+    requireMainThread("cancelRead");
+    const Announcer::Together together(m_announcer);
+    m_library.cancelReads();
+    giveUpAwaited();
 }
 
 void AppModel::openPanel()
@@ -197,6 +218,7 @@ void AppModel::closeFolder()
     requireMainThread("closeFolder");
     const Announcer::Together together(m_announcer);
     m_toBringBack.reset();
+    giveUpAwaited();
     m_editing.leave();
     m_left.stopReturning();
     m_library.close();
@@ -210,6 +232,7 @@ void AppModel::closeFolder()
 void AppModel::refresh()
 {
     requireMainThread("refresh");
+    m_library.resumeReading();
     m_library.refresh().refresh();
 }
 
@@ -246,6 +269,7 @@ void AppModel::takeVanished(const QList<int>& positions)
     QSet<QUrl> gone;
     for (const int position : positions)
         gone.insert(records().at(position).url);
+    m_library.noteRead({ gone.cbegin(), gone.cend() });
     const Selection before = m_selected.selection();
     const bool losesPrimary = before.primary && gone.contains(*before.primary);
     if (losesPrimary && !isBatch() && unsavedCount() > 0)
@@ -262,6 +286,10 @@ void AppModel::takeVanished(const QList<int>& positions)
         m_editing.follow(rest);
     else
         commitSelection(rest);
+    if (m_awaited) {
+        m_awaited->unread.subtract(gone);
+        saveAwaited();
+    }
 }
 
 void AppModel::takeReread(const QList<QUrl>& urls)
@@ -271,6 +299,41 @@ void AppModel::takeReread(const QList<QUrl>& urls)
         m_editing.rebase();
     if (onImagesModified)
         onImagesModified(urls);
+}
+
+// --- What a load has read ---
+
+void AppModel::takeRead(const QList<QUrl>& photos)
+{
+    const Announcer::Together together(m_announcer);
+    m_selected.takeRead(photos);
+    if (std::any_of(photos.cbegin(), photos.cend(), [this](const QUrl& photo) { return selection().contains(photo); }))
+        m_editing.takeRead();
+    if (m_awaited) {
+        for (const QUrl& photo : photos)
+            m_awaited->unread.remove(photo);
+        saveAwaited();
+    }
+    if (m_toBringBack && unreadOf(m_toBringBack->edits.subjects).isEmpty())
+        bringBack(*std::exchange(m_toBringBack, std::nullopt));
+}
+
+void AppModel::updateUnread()
+{
+    m_announcer.assign(m_unreadSelected, unreadSelected(), Change::unreadSelected);
+}
+
+bool AppModel::isUnread(const QUrl& photo) const
+{
+    const ImageRecord* known = photos().record(photo);
+    return known && known->isUnread;
+}
+
+QList<QUrl> AppModel::unreadOf(const QList<QUrl>& photos) const
+{
+    QList<QUrl> unread = photos;
+    unread.removeIf([this](const QUrl& photo) { return !isUnread(photo); });
+    return unread;
 }
 
 // --- Sheets ---

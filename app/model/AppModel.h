@@ -54,6 +54,8 @@ public:
     void load(const QList<QUrl>& urls) { load(urls, m_preferences.openSubfolders()); }
     void load(const QList<QUrl>& urls, bool withSubfolders);
     void closeFolder();
+    /// Reads all open photos again, whatever is known of them.
+    void readAgain();
     /// Compares the open folder with the records and re-reads what differs. Needs an open folder.
     void refresh();
     bool canRefresh() const { return library().refresh().canRefresh(); }
@@ -98,13 +100,14 @@ public:
     bool isWorking() const { return tasks().isWorking(); }
     bool isSaving() const { return saving().isSaving(); }
     /// A save that was asked for, and waits until all of its photos have been read. It is being saved, too.
-    bool isAwaitingRecords() const { return false; }
+    bool isAwaitingRecords() const { return m_awaited.has_value(); }
     /// Set while a read or a write runs; nothing otherwise.
     const std::optional<Progress>& progress() const { return tasks().progress(); }
     /// Name of the file that a read does not get done with; nothing while it gets on.
     const std::optional<QString>& stalledFile() const { return tasks().stalledFile(); }
-    /// Ends a read that runs; what was open stays.
-    void cancelRead() { checked(m_tasks).cancelReads(); }
+    /// Ends a read that runs: what was open stays; of open photos only those that are selected are read from now on. A
+    /// save that waits for a read is given up, and its edits stay.
+    void cancelRead();
     /// Begins the read again without the file that it is stuck at. The file is named when the read ends.
     void skipStalledFile() { checked(m_tasks).skipStalledFile(); }
     const std::optional<QString>& errorMessage() const { return m_errorMessage; }
@@ -282,6 +285,11 @@ private:
     // What other programs do to the photos
     void takeVanished(const QList<int>& positions);
     void takeReread(const QList<QUrl>& urls);
+    // What a load has read
+    void takeRead(const QList<QUrl>& photos);
+    void updateUnread();
+    bool isUnread(const QUrl& photo) const;
+    QList<QUrl> unreadOf(const QList<QUrl>& photos) const;
     // Selection
     void changeSelection(const Selection& next);
     void commitSelection(const Selection& next);
@@ -291,12 +299,17 @@ private:
     void dropWaiting();
     void showArrived();
     void takeOpened();
+    void awaitBringBack(const LeftEdits& left);
     void bringBack(const LeftEdits& left);
     void openAndBringBack(const LeftEdits& left);
     // Saving
     void save(const QStringList& leftOut = {});
+    void beginSave(const Edits& edits, const QStringList& leftOut);
+    void saveAwaited();
+    void giveUpAwaited();
     void takeSaved(const SaveOutcome& outcome);
     void tellWritten(const SaveOutcome& outcome);
+    void noteRead(const QList<ImageRecord>& fresh);
     void takeUndone(const SaveOutcome& outcome);
     // Renaming
     QMap<QString, QString> renameValues(const ImageRecord& record) const;
@@ -321,13 +334,21 @@ private:
         QStringList homes{};
     };
     Refused m_refused;
+    /// A save that waits until its photos have been read.
+    struct Awaited {
+        Edits edits{};
+        QStringList leftOut{};
+        QSet<QUrl> unread{};
+    };
+    std::optional<Awaited> m_awaited;
+    int m_unreadSelected = 0;  ///< as it was last told
     bool m_saveOpen = false;
     bool m_addOpen = false;
     bool m_renameOpen = false;
     std::optional<QUrl> m_renamed;  ///< the photo that the rename sheet is about
     bool m_batchDontAskSession = false;
     std::function<void()> m_waiting;  ///< asked for again after a save or a discard
-    std::optional<LeftEdits> m_toBringBack;  ///< once the load that runs has brought their photos
+    std::optional<LeftEdits> m_toBringBack;  ///< once their photos are open, and read
     bool m_isEnding = false;  ///< as soon as no save runs
     bool m_lastSaveFailed = false;  ///< some of its edits are still unsaved
 };

@@ -101,6 +101,7 @@ void AppModel::quitKeepingEdits()
     requireMainThread("quitKeepingEdits");
     if (m_services.endEditing)
         m_services.endEditing();
+    giveUpAwaited();
     m_isEnding = true;
     m_left.flush();
     if (!isSaving() && m_services.quit)
@@ -142,7 +143,7 @@ void AppModel::dropWaiting()
 // Photos that were read come on screen only when nothing that was typed meanwhile is lost by it.
 void AppModel::showArrived()
 {
-    if (!m_library.hasArrived())
+    if (!m_library.hasArrived() || m_awaited)
         return;
     if (m_services.endEditing)
         m_services.endEditing();
@@ -159,8 +160,18 @@ void AppModel::takeOpened()
     // A question about edits that are gone must not stay on screen.
     if (m_saveOpen)
         cancelSaveDialog();
-    if (const auto left = std::exchange(m_toBringBack, std::nullopt))
-        bringBack(*left);
+    if (m_toBringBack)
+        awaitBringBack(*std::exchange(m_toBringBack, std::nullopt));
+}
+
+// Edits are laid over what the photos hold, so that has to be known.
+void AppModel::awaitBringBack(const LeftEdits& left)
+{
+    const QList<QUrl> unread = unreadOf(left.edits.subjects);
+    if (unread.isEmpty())
+        return bringBack(left);
+    m_toBringBack = left;
+    m_library.require(unread);
 }
 
 // --- Edits that were left behind ---
@@ -175,7 +186,7 @@ void AppModel::bringBack(int position)
     const LeftEdits left = leftEdits().at(position);
     const QList<QUrl>& subjects = left.edits.subjects;
     if (std::any_of(subjects.cbegin(), subjects.cend(), [this](const QUrl& photo) { return photos().contains(photo); }))
-        bringBack(left);
+        awaitBringBack(left);
     else
         openAndBringBack(left);
 }

@@ -70,15 +70,45 @@ void AppModel::save(const QStringList& leftOut)
             discardSaveDialog();
         return;
     }
+    m_editing.send();
+    const QList<QUrl> unread = unreadOf(edits.subjects);
+    if (unread.isEmpty())
+        return beginSave(edits, leftOut);
+    m_saving.reserve();
+    m_awaited = Awaited{ edits, leftOut, QSet<QUrl>(unread.cbegin(), unread.cend()) };
+    m_library.require(unread);
+}
+
+// What the photos hold is known: lists cannot be replaced without.
+void AppModel::beginSave(const Edits& edits, const QStringList& leftOut)
+{
     SaveJob::SeenLists seen;
     if (!edits.lists.isEmpty())
         for (const QUrl& photo : edits.subjects)
             if (const ImageRecord* record = photos().record(photo))
                 seen.insert(photo, record->lists);
-    m_editing.send();
     if (onWriteBegins)
         onWriteBegins(edits.subjects);
     m_saving.save(edits, { m_preferences.backupOriginals(), m_preferences.writeSidecar(), leftOut }, seen);
+}
+
+void AppModel::saveAwaited()
+{
+    if (!m_awaited->unread.isEmpty())
+        return;
+    const Awaited awaited = *std::exchange(m_awaited, std::nullopt);
+    beginSave(awaited.edits, awaited.leftOut);
+}
+
+// Nothing was written: the edits are what they were.
+void AppModel::giveUpAwaited()
+{
+    if (!m_awaited)
+        return;
+    const Announcer::Together together(m_announcer);
+    const Awaited awaited = *std::exchange(m_awaited, std::nullopt);
+    m_editing.takeSaved(awaited.edits, awaited.edits.subjects, {});
+    m_saving.release();
 }
 
 void AppModel::tellWritten(const SaveOutcome& outcome)
@@ -91,10 +121,19 @@ void AppModel::tellWritten(const SaveOutcome& outcome)
         onWriteEnds(written);
 }
 
+void AppModel::noteRead(const QList<ImageRecord>& fresh)
+{
+    QList<QUrl> read;
+    for (const ImageRecord& record : fresh)
+        read.append(record.url);
+    m_library.noteRead(read);
+}
+
 void AppModel::takeSaved(const SaveOutcome& outcome)
 {
     tellWritten(outcome);
     photos().replaceSaved(outcome.records);
+    noteRead(outcome.records);
     m_editing.takeSaved(outcome.unsaved, outcome.failed, outcome.differing);
     if (outcome.message)
         setErrorMessage(outcome.message);
@@ -134,8 +173,10 @@ void AppModel::undoSave()
 void AppModel::takeUndone(const SaveOutcome& outcome)
 {
     tellWritten(outcome);
-    if (photos().replaceSaved(outcome.records))
-        m_editing.rebase();
+    const bool isOther = photos().replaceSaved(outcome.records);
+    noteRead(outcome.records);
+    if (isOther)
+        m_editing.takeRead();
     if (outcome.message)
         setErrorMessage(outcome.message);
 }

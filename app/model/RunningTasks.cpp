@@ -1,6 +1,10 @@
 #include "app/model/RunningTasks.h"
 
 #include "app/model/Background.h"
+#include "app/model/library/StallWatch.h"
+
+#include <algorithm>
+#include <map>
 
 namespace Quorbel {
 
@@ -12,10 +16,32 @@ constexpr int looksPerStall = 20;
 
 }  // namespace
 
+// One watch a read: each has a process of its own.
+class RunningTasks::StallWatches {
+public:
+    Stalls look(const std::vector<Task>& reads, std::chrono::milliseconds interval)
+    {
+        Stalls stalls;
+        std::map<int, StallWatch> watches;
+        for (const Task& read : reads) {
+            auto known = m_watches.extract(read.id);
+            StallWatch& watch = known ? watches.insert(std::move(known)).position->second
+                                      : watches.try_emplace(read.id, interval).first->second;
+            if (const auto file = watch.look(read.progress->processID, read.files))
+                stalls.emplace_back(read.id, *file);
+        }
+        m_watches = std::move(watches);
+        return stalls;
+    }
+
+private:
+    std::map<int, StallWatch> m_watches;  // by task
+};
+
 RunningTasks::RunningTasks(Announcer& announcer, std::chrono::milliseconds stallInterval)
     : m_announcer(announcer)
     , m_stallInterval(stallInterval)
-    , m_stallWatch(std::make_shared<StallWatch>(stallInterval))
+    , m_stallWatches(std::make_shared<StallWatches>())
 {
     m_timer.setInterval(lookInterval);
     connect(&m_timer, &QTimer::timeout, this, &RunningTasks::publishProgress);
@@ -30,12 +56,13 @@ RunningTasks::~RunningTasks()
                 task.stop.request_stop();
 }
 
-RunningTasks::Task RunningTasks::begin(Kind kind, qsizetype total, const QList<QUrl>& files)
+RunningTasks::Task RunningTasks::begin(Kind kind, qsizetype total, const QList<QUrl>& files, int load)
 {
-    Task task{ ++m_lastID, kind, files, {}, std::make_shared<TaskProgress>(), {} };
+    Task task{ ++m_lastID, kind, load, files, {}, std::make_shared<TaskProgress>(), {} };
     task.progress->total = total;
-    m_timer.start();
-    if (kind == Kind::refresh)
+    if (!m_timer.isActive())
+        m_timer.start();
+    if (kind == Kind::refresh || kind == Kind::slice)
         m_quiet.push_back(task);
     else
         show(task);
@@ -66,10 +93,25 @@ std::optional<RunningTasks::Task> RunningTasks::end(int id)
     return ended;
 }
 
-void RunningTasks::cancelReads()
+RunningTasks::Task* RunningTasks::task(int id)
+{
+    for (std::vector<Task>* tasks : { &m_shown, &m_quiet })
+        for (Task& task : *tasks)
+            if (task.id == id)
+                return &task;
+    return nullptr;
+}
+
+void RunningTasks::stop(int id)
+{
+    if (Task* running = task(id))
+        running->stop.request_stop();
+}
+
+void RunningTasks::cancelShownRefreshes()
 {
     for (Task& task : m_shown)
-        if (task.kind == Kind::load || task.kind == Kind::refresh)
+        if (task.kind == Kind::refresh)
             task.stop.request_stop();
 }
 
@@ -83,7 +125,7 @@ void RunningTasks::cancelRefreshes()
 
 void RunningTasks::skipStalledFile()
 {
-    Task* read = watchedRead();
+    Task* read = task(m_stalledID);
     if (!read || !m_stalledURL)
         return;
     read->skipped = m_stalledURL;
@@ -91,21 +133,30 @@ void RunningTasks::skipStalledFile()
     m_announcer.assign(m_stalledFile, std::nullopt, Change::stalledFile);
 }
 
-// The task that is shown, if it is a read that goes on; where nothing is shown, a read of a refresh.
-RunningTasks::Task* RunningTasks::watchedRead()
+// What the task that is shown reads; where nothing is shown, all reads.
+std::vector<RunningTasks::Task> RunningTasks::watchedReads() const
 {
-    std::vector<Task>& tasks = m_shown.empty() ? m_quiet : m_shown;
-    if (tasks.empty() || tasks.back().kind == Kind::write || tasks.back().stop.stop_requested())
-        return nullptr;
-    return &tasks.back();
+    std::vector<Task> reads = m_quiet;
+    if (!m_shown.empty()) {
+        const Task& latest = m_shown.back();
+        std::erase_if(reads, [&latest](const Task& read) { return read.load != latest.id; });
+        if (latest.kind == Kind::check || latest.kind == Kind::refresh || latest.kind == Kind::slice)
+            reads.push_back(latest);
+    }
+    std::erase_if(reads, [](const Task& read) { return read.stop.stop_requested(); });
+    return reads;
 }
 
 void RunningTasks::publishProgress()
 {
     std::optional<Progress> progress;
     if (!m_shown.empty()) {
-        const TaskProgress& latest = *m_shown.back().progress;
-        progress = Progress{ latest.done, latest.total };
+        const Task& latest = m_shown.back();
+        progress = Progress{ latest.progress->done, latest.progress->total };
+        for (const Task& slice : m_quiet)
+            if (slice.load == latest.id)
+                progress->done += slice.progress->done;
+        progress->done = std::min(progress->done, progress->total);
     }
     m_announcer.assign(m_progress, progress, Change::progress);
 }
@@ -113,35 +164,37 @@ void RunningTasks::publishProgress()
 void RunningTasks::lookForStall()
 {
     forgetOldStall();
-    const Task* read = watchedRead();
-    if (!read || m_isLooking || !m_nextLook.hasExpired())
+    const std::vector<Task> reads = watchedReads();
+    if (reads.empty() || m_isLooking || !m_nextLook.hasExpired())
         return;
     m_isLooking = true;
     m_nextLook = QDeadlineTimer(m_stallInterval / looksPerStall);
     runInBackground(
-        this,
-        [watch = m_stallWatch, processID = read->progress->processID.load(), files = read->files] {
-            return watch->look(processID, files);
-        },
-        [this, id = read->id](const std::optional<QUrl>& file) {
+        this, [watches = m_stallWatches, reads, interval = m_stallInterval] { return watches->look(reads, interval); },
+        [this](const Stalls& stalls) {
             m_isLooking = false;
-            publishStall(id, file);
+            publishStall(stalls);
         });
 }
 
-// What was found is of no interest any more when another task is watched by now.
-void RunningTasks::publishStall(int id, const std::optional<QUrl>& file)
+// What was found is of no interest any more when other reads are watched by now.
+void RunningTasks::publishStall(const Stalls& stalls)
 {
-    const Task* read = watchedRead();
-    if (!read || read->id != id)
-        return;
     const Announcer::Together together(m_announcer);
+    std::optional<QUrl> file;
+    for (const Task& read : watchedReads())
+        for (const auto& [id, stalledAt] : stalls)
+            if (read.id == id && !file) {
+                file = stalledAt;
+                m_stalledID = id;
+            }
     m_stalledURL = file;
-    m_stalledID = id;
-    if (file && m_shown.empty()) {
-        const Task quiet = m_quiet.back();
-        m_quiet.pop_back();
-        show(quiet);
+    const auto quiet =
+        std::find_if(m_quiet.begin(), m_quiet.end(), [this](const Task& read) { return read.id == m_stalledID; });
+    if (file && m_shown.empty() && quiet != m_quiet.end()) {
+        const Task read = *quiet;
+        m_quiet.erase(quiet);
+        show(read);
     }
     const auto name = file ? std::optional(file->fileName()) : std::nullopt;
     m_announcer.assign(m_stalledFile, name, Change::stalledFile);
@@ -149,8 +202,8 @@ void RunningTasks::publishStall(int id, const std::optional<QUrl>& file)
 
 void RunningTasks::forgetOldStall()
 {
-    const Task* read = watchedRead();
-    if (read && read->id == m_stalledID)
+    const std::vector<Task> reads = watchedReads();
+    if (std::any_of(reads.cbegin(), reads.cend(), [this](const Task& read) { return read.id == m_stalledID; }))
         return;
     m_stalledURL.reset();
     m_announcer.assign(m_stalledFile, std::nullopt, Change::stalledFile);

@@ -5,8 +5,8 @@
 
 #include "app/model/Announcer.h"
 #include "app/model/TaskProgress.h"
-#include "app/model/library/StallWatch.h"
 
+#include <QDeadlineTimer>
 #include <QList>
 #include <QTimer>
 #include <QUrl>
@@ -32,7 +32,8 @@ class RunningTasks final : public QObject {
 
 public:
     enum class Kind {
-        load,
+        load,  ///< reads many photos, in slices
+        slice,  ///< a read that is part of a load, and counts in its progress; alone it is not shown unless it stalls
         write,
         check,  ///< the read that follows a write: it cannot be cancelled, though a file of it can be skipped
         refresh,  ///< not shown unless it stalls
@@ -40,6 +41,7 @@ public:
     struct Task {
         int id = 0;
         Kind kind = Kind::load;
+        int load = 0;  ///< of a slice: the load that it is part of; 0 for none
         QList<QUrl> files{};  ///< of a read
         std::optional<QUrl> skipped{};  ///< ended because of this file
         std::shared_ptr<TaskProgress> progress{};
@@ -51,12 +53,14 @@ public:
     /// Reads are given up, a write goes on to its end.
     ~RunningTasks() override;
 
-    /// `files`: those that a read reads; they can be skipped.
-    Task begin(Kind kind, qsizetype total, const QList<QUrl>& files = {});
+    /// `files`: those that a read reads; they can be skipped. `load`: of a slice.
+    Task begin(Kind kind, qsizetype total, const QList<QUrl>& files = {}, int load = 0);
     /// The task as it was.
     std::optional<Task> end(int id);
-    /// Gives up loads and refreshes.
-    void cancelReads();
+    /// Asks a read to end soon.
+    void stop(int id);
+    /// Gives up refreshes that are shown.
+    void cancelShownRefreshes();
     void cancelRefreshes();
     /// Ends the read that is stuck, with `skipped` set.
     void skipStalledFile();
@@ -69,16 +73,21 @@ public:
     const std::optional<QString>& stalledFile() const { return m_stalledFile; }
 
 private:
+    /// Reads that are stuck, and at what.
+    using Stalls = std::vector<std::pair<int, QUrl>>;
+    class StallWatches;
+
     void show(const Task& task);
-    Task* watchedRead();
+    Task* task(int id);
+    std::vector<Task> watchedReads() const;
     void publishProgress();
     void lookForStall();
-    void publishStall(int id, const std::optional<QUrl>& file);
+    void publishStall(const Stalls& stalls);
     void forgetOldStall();
 
     Announcer& m_announcer;
     std::vector<Task> m_shown;
-    std::vector<Task> m_quiet;  ///< reads of a refresh that are not shown
+    std::vector<Task> m_quiet;  ///< slices, and reads of a refresh that are not shown
     int m_lastID = 0;
     bool m_isWorking = false;
     std::optional<Progress> m_progress;
@@ -86,7 +95,7 @@ private:
     std::optional<QUrl> m_stalledURL;
     int m_stalledID = 0;  ///< of the task that is stuck at it
     std::chrono::milliseconds m_stallInterval;
-    std::shared_ptr<StallWatch> m_stallWatch;  ///< used in the background, by one look at a time
+    std::shared_ptr<StallWatches> m_stallWatches;  ///< used in the background, by one look at a time
     QDeadlineTimer m_nextLook{ 0 };
     bool m_isLooking = false;
     QTimer m_timer;

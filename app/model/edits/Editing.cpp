@@ -33,6 +33,13 @@ Edits Editing::unsaved() const
     return edits;
 }
 
+// Whether the one photo that is selected was not read yet.
+bool Editing::isUnread() const
+{
+    const ImageRecord* record = isBatch() ? nullptr : m_selected.primaryRecord();
+    return record && record->isUnread;
+}
+
 // Whether what is being saved is still what is being edited.
 bool Editing::isSending() const
 {
@@ -83,18 +90,24 @@ void Editing::changed()
 
 void Editing::setSingle(const QString& id, const QString& value)
 {
+    if (isUnread())
+        return;
     m_draft.setScalar(id, value);
     changed();
 }
 
 void Editing::addSingleListItem(const QString& id, const QString& item)
 {
+    if (isUnread())
+        return;
     m_draft.addItem(id, item);
     changed();
 }
 
 void Editing::removeSingleListItem(const QString& id, const QString& item)
 {
+    if (isUnread())
+        return;
     m_draft.removeItem(id, item);
     changed();
 }
@@ -142,7 +155,7 @@ void Editing::toggleBatchCustom(const QString& name)
 
 void Editing::setCustom(const QString& name, const QString& value)
 {
-    if (!CustomFields::isWritable(name))
+    if (!CustomFields::isWritable(name) || isUnread())
         return;
     if (!isBatch())
         m_draft.setCustom(name, value);
@@ -260,8 +273,8 @@ bool Editing::isFieldEmpty(const QString& id) const
         return isBlank(m_draft.shown.values.value(id));
     if (const auto typed = m_batch.edits.scalars.constFind(id); typed != m_batch.edits.scalars.cend())
         return isBlank(*typed);
-    // Where the photos differ, some of them hold a text of their own.
-    const auto shared = m_selected.sharedValue(id);
+    // Where the photos differ, some of them hold a text of their own; and nobody knows what the unread ones hold.
+    const auto shared = m_selected.unreadCount() == 0 ? m_selected.sharedValue(id) : std::nullopt;
     return shared && isBlank(*shared);
 }
 
@@ -272,7 +285,15 @@ void Editing::select(const Selection& selection)
     const Announcer::Together together(m_announcer);
     m_selected.set(selection);
     restart();
-    while (const auto left = m_left.takeReturning(selection.photos))
+    takeReturning();
+}
+
+// The edits that wait for just these photos. One photo must have been read: they are laid over what it holds.
+void Editing::takeReturning()
+{
+    if (isUnread())
+        return;
+    while (const auto left = m_left.takeReturning(m_selected.selection().photos))
         put(*left);
 }
 
@@ -368,10 +389,27 @@ void Editing::rebase()
     changed();
 }
 
+// The edits of the batch, whose one photo is left.
+Edits Editing::batchOfOne() const
+{
+    Edits edits = m_batch.edits;
+    edits.subjects = m_selected.urls();
+    return edits;
+}
+
+void Editing::takeRead()
+{
+    const Announcer::Together together(m_announcer);
+    rebase();
+    takeReturning();
+}
+
 // All but one of the selected photos disappeared: what was typed for all of them becomes that one's edits.
 void Editing::foldBatchIntoDraft()
 {
-    if (const ImageRecord* record = m_selected.primaryRecord())
+    if (isUnread())
+        m_left.keep(leftOf(batchOfOne(), true));
+    else if (const ImageRecord* record = m_selected.primaryRecord())
         m_draft.take(m_draft.edits.merged(m_batch.edits.foldedInto(*record)), *record);
     m_batch = {};
 }
@@ -452,6 +490,8 @@ void Editing::giveBack(Edits edits)
 // Under what is being edited, for the selected photos.
 void Editing::put(const LeftEdits& left)
 {
+    if (isUnread())
+        return m_left.keep({ .edits = left.edits, .heldLists = left.heldLists, .returns = true });
     if (isBatch()) {
         m_batch.take(left.edits.merged(m_batch.edits));
     } else if (const ImageRecord* record = m_selected.primaryRecord()) {

@@ -1,5 +1,6 @@
 // What is being edited now: the draft of the one selected photo or the batch of several, and which fields are on
 // screen for it.
+// One photo that was not read yet has no draft to edit: what concerns it alone does nothing until then.
 // Thread: the main thread. Saves nothing: it says what is unsaved, and takes back what a save could not write.
 #pragma once
 
@@ -70,6 +71,8 @@ public:
     void rename(const QUrl& source, const QUrl& destination);
     /// The photos were read again: the draft stands on what the primary one holds now.
     void rebase();
+    /// The same for photos that were unread: edits that waited for them come back.
+    void takeRead();
 
     /// Begins a save of unsaved(): until takeSaved, these edits stay and count.
     void send();
@@ -99,6 +102,9 @@ private:
     };
 
     bool isBatch() const { return m_selected.isBatch(); }
+    bool isUnread() const;
+    Edits batchOfOne() const;
+    void takeReturning();
     bool isShown(const FieldSpec& field) const;
     QString shownCustom(const QString& name) const;
     void changed();

@@ -43,7 +43,7 @@ void FolderRefresh::setLooks(const Looks& looks)
     m_times.setInterval(looks.interval);
 }
 
-void FolderRefresh::begin(const QList<QUrl>& folders, bool withSubfolders, const QSet<QUrl>& tooSlow)
+void FolderRefresh::begin(const QList<QUrl>& folders, bool withSubfolders)
 {
     ++m_generation;
     m_stop.request_stop();
@@ -56,7 +56,7 @@ void FolderRefresh::begin(const QList<QUrl>& folders, bool withSubfolders, const
     m_passedOverUnread = false;
     m_folders = m_photos.files() ? folders : QList<QUrl>();
     m_withSubfolders = withSubfolders;
-    m_tooSlow = tooSlow;
+    m_tooSlow.clear();
     m_times.begin(canRefresh());
     // Until the first look says more.
     const int count = int(folders.size());
@@ -277,9 +277,10 @@ void FolderRefresh::beginWriting(const QSet<QUrl>& photos)
 
 void FolderRefresh::endWriting(bool isComplete)
 {
-    m_beingWritten.clear();
     ++m_writes;
-    ++m_endedWrites;
+    for (const QUrl& photo : std::as_const(m_beingWritten))
+        m_lastWrites.insert(photo, m_writes);
+    m_beingWritten.clear();
     if (!isComplete || std::exchange(m_passedOverWritten, false))
         look();
 }

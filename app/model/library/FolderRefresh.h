@@ -33,8 +33,7 @@ public:
 
     /// Something else is open now, listed to its end: what was on its way for the old photos is dropped. The folders
     /// are looked at soon, and watched from then on, with subfolders also those that come; none: nothing is.
-    /// `tooSlow`: files that the user skipped; they are not asked for again.
-    void begin(const QList<QUrl>& folders, bool withSubfolders, const QSet<QUrl>& tooSlow);
+    void begin(const QList<QUrl>& folders, bool withSubfolders);
     bool canRefresh() const { return !m_folders.isEmpty() && m_service; }
     /// Somebody wants to know. One at a time, from the look at the folders to the last read; a call meanwhile is
     /// answered by one more.
@@ -44,14 +43,22 @@ public:
     /// While nobody sees the photos, only the system's word leads to looks.
     void setOnScreen(bool on) { m_times.setOnScreen(on); }
 
+    /// The user skipped it: it is not asked for again.
+    void leaveAlone(const QUrl& photo) { m_tooSlow.insert(photo); }
     /// A write of our own to these photos begins: until its end they are left alone, since it reads them again then,
     /// and for a moment between backup and replacement they are not even there.
     void beginWriting(const QSet<QUrl>& photos);
     /// `isComplete`: every photo was read again after the write.
     void endWriting(bool isComplete);
-    /// Counts the ends of writes: what was read under another number may be older than what is in the files.
-    int endedWrites() const { return m_endedWrites; }
     bool isBeingWritten(const QUrl& photo) const { return m_beingWritten.contains(photo); }
+    /// Counts beginnings and ends of writes.
+    int writes() const { return m_writes; }
+    /// Whether a write of ours to this photo has begun or ended since writes() was this: what was read meanwhile may be
+    /// older than what is in the file.
+    bool wasWritten(const QUrl& photo, int since) const
+    {
+        return m_beingWritten.contains(photo) || m_lastWrites.value(photo) > since;
+    }
 
 signals:
     /// These are no longer in the folder (positions, ascending). Whoever hears it takes them out of the list.
@@ -88,7 +95,7 @@ private:
     Looks m_looks;
     QList<QUrl> m_folders;
     bool m_withSubfolders = false;
-    QSet<QUrl> m_tooSlow;
+    QSet<QUrl> m_tooSlow;  ///< files that the user skipped
     LookTimes m_times;
     Watching m_watching;
     /// Of looks alone: one that hangs on a file system that is gone keeps no other work waiting, nor the program's end.
@@ -98,7 +105,7 @@ private:
     QSet<QUrl> m_beingWritten;
     int m_generation = 0;  ///< counts what was opened; results for an earlier one are dropped
     int m_writes = 0;  ///< counts beginnings and ends of writes
-    int m_endedWrites = 0;
+    QHash<QUrl, int> m_lastWrites;  ///< by photo, what m_writes was at the end of the last one
     bool m_isRefreshing = false;
     bool m_again = false;
     bool m_isAsked = false;  ///< the next look is somebody's wish

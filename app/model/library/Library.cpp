@@ -1,84 +1,67 @@
 #include "app/model/library/Library.h"
 
 #include "app/model/Background.h"
-#include "app/model/library/FolderScan.h"
 #include "app/model/library/PhotoListing.h"
-#include "app/model/library/PhotoReader.h"
-#include "core/save/ExternalRefresh.h"
+
+#include <algorithm>
 
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
-/// A load on its way. It is used by one thread at a time, and goes in the background.
-struct Library::Load {
-    PhotoListing listing{};
-    QSet<QUrl> tooSlow{};
-    QList<QUrl> unread{};
-    PhotoReader::Result read{};
-    OpenPhotos photos{};  ///< in the end: the records that were read
-    int writes = 0;  ///< that had ended when what follows began
+namespace {
 
-    static std::shared_ptr<Load> of(PhotoListing listing)
-    {
-        auto* load = new Load{ .listing = std::move(listing) };
-        load->unread = load->urls();
-        return { load, [](Load* done) { discardInBackground(std::unique_ptr<Load>(done)); } };
-    }
-    QList<QUrl> urls() const;
-    void skip(const QUrl& file);
-    void run(
-        const MetadataService& service, RecordSortOrder order, TaskProgress& progress, const std::stop_token& stop);
-
-private:
-    void readChanged(const MetadataService& service, TaskProgress& progress, const std::stop_token& stop);
-};
-
-QList<QUrl> Library::Load::urls() const
+QList<QUrl> urlsOf(const QList<ImageRecord>& records)
 {
     QList<QUrl> urls;
-    for (const PhotoFile& file : listing.files)
-        urls.append(file.url);
+    urls.reserve(records.size());
+    for (const ImageRecord& record : records)
+        urls.append(record.url);
     return urls;
 }
 
-// Begins anew, without this file.
-void Library::Load::skip(const QUrl& file)
+QList<QUrl> unreadOf(const QList<ImageRecord>& records)
 {
-    tooSlow.insert(file);
-    read = {};
-    photos = {};
-    unread = urls();
-    unread.removeIf([this](const QUrl& url) { return tooSlow.contains(url); });
+    QList<QUrl> unread;
+    for (const ImageRecord& record : records)
+        if (record.isUnread)
+            unread.append(record.url);
+    return unread;
 }
 
-void Library::Load::run(
-    const MetadataService& service, RecordSortOrder order, TaskProgress& progress, const std::stop_token& stop)
-{
-    if (unread.isEmpty())
-        read.records = std::move(photos.records);
-    else
-        read = PhotoReader::read(service, std::exchange(unread, {}), progress, stop);
-    if (!read.error && !read.isCancelled)
-        readChanged(service, progress, stop);
-    photos = OpenPhotos::of(std::move(read.records), order, !listing.watched().isEmpty(), listing.folderOrder(), stop);
-}
+}  // namespace
 
-// What was changed since it was read. Silent: what cannot be read any more stays as it is.
-void Library::Load::readChanged(const MetadataService& service, TaskProgress& progress, const std::stop_token& stop)
-{
-    const QList<QUrl> changed = ExternalRefresh::modifiedURLs(read.records, [&stop](const ImageRecord& record) {
-        return stop.stop_requested() ? std::nullopt : modificationDate(record.url.toLocalFile());
-    });
-    if (changed.isEmpty())
-        return;
-    QHash<QUrl, ImageRecord> fresh;
-    for (const ImageRecord& record : PhotoReader::read(service, changed, progress, stop).records)
-        fresh.insert(record.url, record);
-    for (ImageRecord& record : read.records)
-        if (const auto again = fresh.constFind(record.url); again != fresh.cend())
-            record = *again;
-}
+/// A load on its way. Made in the background, then used on the main thread.
+struct Library::Load {
+    PhotoListing listing{};
+    OpenPhotos photos{};
+    std::unique_ptr<PhotoReading> reading{};
+    QList<ImageRecord> early{};  // read before it is shown
+    QList<QUrl> unreadable{};  // the same, of those that cannot be read
+    int writes = 0;  // of ours that had begun or ended when it was read
+    bool hasArrived = false;
+
+    Load() = default;
+    ~Load()
+    {
+        discardInBackground(std::move(photos));
+        discardInBackground(std::move(listing));
+    }
+    Q_DISABLE_COPY_MOVE(Load)
+
+    static std::shared_ptr<Load> of(PhotoListing listing, RecordSortOrder order, const std::stop_token& stop)
+    {
+        auto load = std::make_shared<Load>();
+        load->listing = std::move(listing);
+        QList<ImageRecord> records;
+        records.reserve(load->listing.files.size());
+        for (const PhotoFile& file : std::as_const(load->listing.files))
+            records.append(file.unreadRecord());
+        load->photos = OpenPhotos::of(
+            std::move(records), order, !load->listing.watched().isEmpty(), load->listing.folderOrder(), stop);
+        return load;
+    }
+};
 
 Library::Library(
     Announcer& announcer, RunningTasks& tasks, std::optional<MetadataService> service, RecordSortOrder order)
@@ -88,111 +71,287 @@ Library::Library(
     , m_photos(announcer, order)
     , m_refresh(announcer, tasks, m_photos, m_service)
 {
+    connect(&m_refresh, &FolderRefresh::reread, this, &Library::noteRead);
 }
+
+Library::~Library() = default;
 
 void Library::load(const QList<QUrl>& given, bool withSubfolders)
 {
-    m_arrived.reset();
+    const Announcer::Together together(m_announcer);
+    endListing();
+    dropNext();
+    std::stop_token stop;
     // Without the tool nothing is read.
-    const auto task = m_service ? std::optional(m_tasks.begin(RunningTasks::Kind::load, 0)) : std::nullopt;
-    runInBackground(
-        this,
-        [given, withSubfolders, stop = task ? task->stop.get_token() : std::stop_token()] {
-            return withSubfolders ? PhotoListing::withSubfolders(given, stop) : PhotoListing::of(given);
-        },
-        [this, id = task ? std::optional(task->id) : std::nullopt](PhotoListing listing) {
-            const Announcer::Together together(m_announcer);
-            const auto ended = id ? m_tasks.end(*id) : std::nullopt;
-            if (ended && ended->stop.stop_requested())
-                return;
-            if (listing.files.isEmpty() && !listing.leftOut.isEmpty())
-                return emit problem(PhotoReader::leftOutText(listing.leftOut));
-            if (listing.files.isEmpty())
-                return emit problem(u"No supported images were found."_s);
-            emit listed(listing.existing);
-            if (m_service)
-                read(Load::of(std::move(listing)));
-        });
-}
-
-void Library::read(const std::shared_ptr<Load>& load)
-{
-    load->writes = m_refresh.endedWrites();
-    const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::load, load->unread.size(), load->unread);
-    runInBackground(
-        this,
-        [service = *m_service, load, order = m_photos.order(), progress = task.progress, stop = task.stop.get_token()] {
-            load->run(service, order, *progress, stop);
-        },
-        [this, load, id = task.id] {
-            const Announcer::Together together(m_announcer);
-            std::optional<RunningTasks::Task> ended = m_tasks.end(id);
-            if (ended && ended->skipped) {
-                load->skip(*ended->skipped);
-                read(load);
-            } else if (ended && !ended->stop.stop_requested()) {
-                finish(load);
-            }
-            discardInBackground(std::move(ended));
-        });
-}
-
-void Library::finish(const std::shared_ptr<Load>& load)
-{
-    const PhotoReader::Result& result = load->read;
-    if (result.isCancelled)
-        return;
-    if (result.error) {
-        emit problem(u"Could not read metadata: "_s + *result.error);
-        return;
+    if (m_service) {
+        const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::load, 0);
+        m_listing = task.id;
+        stop = task.stop.get_token();
     }
-    // What was read may be older than what a save of ours wrote meanwhile.
-    if (load->writes != m_refresh.endedWrites() && !load->photos.records.isEmpty())
-        return read(load);
-    QList<LeftOut> leftOut = load->listing.leftOut + result.leftOut;
-    if (!load->tooSlow.isEmpty())
-        for (const PhotoFile& file : load->listing.files)
-            if (load->tooSlow.contains(file.url))
-                leftOut.append({ file.url.fileName(), u"took too long"_s });
-    if (!leftOut.isEmpty())
-        emit problem(PhotoReader::leftOutText(leftOut));
-    else if (load->photos.records.isEmpty())
-        emit problem(u"No supported images were found."_s);
-    if (load->photos.records.isEmpty())
+    runInBackground(
+        this,
+        [given, withSubfolders, order = m_photos.order(), stop] {
+            return Load::of(
+                withSubfolders ? PhotoListing::withSubfolders(given, stop) : PhotoListing::of(given), order, stop);
+        },
+        [this, serial = ++m_loads](const std::shared_ptr<Load>& load) {
+            if (serial == m_loads)
+                takeListed(load);
+        });
+}
+
+void Library::endListing()
+{
+    ++m_loads;
+    if (!m_listing)
         return;
-    m_arrived = load;
-    emit arrived();
+    m_tasks.stop(*m_listing);
+    m_tasks.end(*m_listing);
+    m_listing.reset();
+}
+
+void Library::takeListed(const std::shared_ptr<Load>& load)
+{
+    const Announcer::Together together(m_announcer);
+    const PhotoListing& listing = load->listing;
+    if (listing.files.isEmpty()) {
+        endListing();
+        return emit problem(listing.leftOut.isEmpty() ? u"No supported images were found."_s
+                                                      : PhotoReader::leftOutText(listing.leftOut));
+    }
+    emit listed(listing.existing);
+    if (!m_service)
+        return;
+    load->reading = newReading();
+    load->reading->addLeftOut(listing.leftOut);
+    const QList<QUrl> unread = unreadOf(load->photos.records);
+    load->reading->add(unread, load->photos.records.size() - unread.size());
+    const QList<QUrl> inView = m_photos.firstOnScreen(load->photos, ReadQueue::viewSize);
+    load->reading->setInView(inView);
+    load->reading->setFirst(inView.isEmpty() ? std::nullopt : std::optional(inView.constFirst()));
+    if (m_photos.records().isEmpty())
+        show(load);
+    else
+        awaitFirst(load);
+    endListing();
+}
+
+// What is open stays until there is something to show in its place.
+void Library::awaitFirst(const std::shared_ptr<Load>& load)
+{
+    m_next = load;
+    m_next->writes = m_refresh.writes();
+    // The new photos come first.
+    if (m_reading)
+        m_reading->setPaused(true);
+    PhotoReading& reading = *load->reading;
+    connect(
+        &reading, &PhotoReading::read, this, [this](const QList<ImageRecord>& records, const QList<QUrl>& unreadable) {
+            m_next->early += records;
+            m_next->unreadable += unreadable;
+        });
+    connect(&reading, &PhotoReading::rested, this, &Library::takeFirst);
+    connect(&reading, &PhotoReading::failed, this, [this](const QString& reason) {
+        dropNext();
+        emit problem(u"Could not read metadata: "_s + reason);
+    });
+    reading.setPace(PhotoReading::Pace::untilFirst);
+}
+
+void Library::takeFirst()
+{
+    if (m_next->reading->hasRead()) {
+        m_next->hasArrived = true;
+        return emit arrived();
+    }
+    const QString text = m_next->reading->leftOutText().value_or(u"No supported images were found."_s);
+    dropNext();
+    emit problem(text);
+}
+
+bool Library::hasArrived() const
+{
+    return m_next && m_next->hasArrived;
+}
+
+void Library::dropNext()
+{
+    if (!m_next)
+        return;
+    // It may be what is speaking.
+    m_next->reading->end();
+    m_next->reading.release()->deleteLater();
+    m_next.reset();
+    if (m_reading)
+        m_reading->setPaused(false);
+}
+
+void Library::dropArrived()
+{
+    if (hasArrived())
+        dropNext();
 }
 
 void Library::open()
 {
-    const Announcer::Together together(m_announcer);
-    const std::shared_ptr<Load> load = std::exchange(m_arrived, nullptr);
-    if (!load)
-        return;
-    if (load->writes != m_refresh.endedWrites())
-        return read(load);
-    show(*load);
-    emit opened();
+    if (hasArrived())
+        show(std::exchange(m_next, nullptr));
 }
 
-void Library::show(Load& load)
+void Library::show(const std::shared_ptr<Load>& load)
+{
+    const Announcer::Together together(m_announcer);
+    put(*load);
+    load->reading->disconnect(this);
+    follow(std::move(load->reading));
+    // What a save of ours has written meanwhile is read again.
+    QList<QUrl> again;
+    for (const ImageRecord& photo : std::as_const(load->early))
+        if (m_refresh.wasWritten(photo.url, load->writes))
+            again.append(photo.url);
+    load->early.removeIf([&again](const ImageRecord& photo) { return again.contains(photo.url); });
+    m_reading->addAgain(again);
+    emit opened();
+    takeRead(load->early, load->unreadable);
+    m_reading->setPace(PhotoReading::Pace::all);
+}
+
+void Library::put(Load& load)
 {
     m_photos.open(std::move(load.photos));
     const bool hasOtherName = std::exchange(m_folderName, load.listing.label) != load.listing.label;
     const bool isOtherFolder = std::exchange(m_folderURL, load.listing.folder) != load.listing.folder;
     if (hasOtherName || isOtherFolder)
         m_announcer.announce(Change::folder);
-    m_refresh.begin(load.listing.watched(), !load.listing.tops.isEmpty(), load.tooSlow);
+    m_refresh.begin(load.listing.watched(), !load.listing.tops.isEmpty());
 }
 
 void Library::close()
 {
     const Announcer::Together together(m_announcer);
-    m_tasks.cancelReads();
-    m_arrived.reset();
+    endListing();
+    dropNext();
+    m_tasks.cancelShownRefreshes();
+    follow(nullptr);
     Load nothing;
-    show(nothing);
+    put(nothing);
+}
+
+// --- Reading what is open ---
+
+std::unique_ptr<PhotoReading> Library::newReading()
+{
+    return std::make_unique<PhotoReading>(m_announcer, m_tasks, *m_service, m_refresh);
+}
+
+void Library::follow(std::unique_ptr<PhotoReading> reading)
+{
+    if (m_reading) {
+        m_reading->disconnect(this);
+        m_reading->end();
+        m_reading.release()->deleteLater();
+    }
+    m_reading = std::move(reading);
+    if (!m_reading)
+        return;
+    connect(m_reading.get(), &PhotoReading::read, this, &Library::takeRead);
+    connect(m_reading.get(), &PhotoReading::rested, this, &Library::takeRested);
+    connect(m_reading.get(), &PhotoReading::failed, this, &Library::takeFailed);
+}
+
+void Library::takeRead(const QList<ImageRecord>& records, const QList<QUrl>& unreadable)
+{
+    const Announcer::Together together(m_announcer);
+    m_photos.fill(records);
+    QList<int> positions;
+    for (const QUrl& photo : unreadable)
+        if (const int at = m_photos.position(photo); at >= 0)
+            positions.append(at);
+    std::sort(positions.begin(), positions.end());
+    for (const QUrl& photo : m_reading->tooSlow())
+        m_refresh.leaveAlone(photo);
+    if (!records.isEmpty())
+        emit read(urlsOf(records));
+    if (!positions.isEmpty())
+        emit this->unreadable(positions);
+}
+
+void Library::takeRested()
+{
+    const Announcer::Together together(m_announcer);
+    std::optional<QString> text = m_reading->takeLeftOutText();
+    const bool isNothing = m_photos.records().isEmpty() && !m_reading->hasRead();
+    if (isNothing && !text)
+        text = u"No supported images were found."_s;
+    if (isNothing)
+        emit nothingReadable();
+    if (text)
+        emit problem(*text);
+}
+
+void Library::takeFailed(const QString& reason)
+{
+    const Announcer::Together together(m_announcer);
+    const QList<ImageRecord>& photos = m_photos.records();
+    if (std::all_of(photos.cbegin(), photos.cend(), [](const ImageRecord& photo) { return photo.isUnread; }))
+        emit nothingReadable();
+    emit problem(u"Could not read metadata: "_s + reason);
+}
+
+void Library::setFirst(const std::optional<QUrl>& photo)
+{
+    m_first = photo;
+    if (m_reading)
+        m_reading->setFirst(photo);
+}
+
+void Library::setInView(const QList<QUrl>& photos)
+{
+    m_inView = photos;
+    if (m_reading)
+        m_reading->setInView(photos);
+}
+
+void Library::require(const QList<QUrl>& photos)
+{
+    if (m_reading)
+        m_reading->require(photos);
+}
+
+void Library::cancelReads()
+{
+    const Announcer::Together together(m_announcer);
+    m_tasks.cancelShownRefreshes();
+    if (m_listing)
+        endListing();
+    else if (m_next && !m_next->hasArrived)
+        dropNext();
+    else if (m_reading)
+        m_reading->cancel();
+}
+
+void Library::resumeReading()
+{
+    if (m_reading)
+        m_reading->setPace(PhotoReading::Pace::all);
+}
+
+void Library::readAgain()
+{
+    if (!m_service || m_photos.records().isEmpty())
+        return;
+    const Announcer::Together together(m_announcer);
+    follow(newReading());
+    m_reading->setInView(m_inView);
+    m_reading->setFirst(m_first);
+    m_reading->add(urlsOf(m_photos.records()));
+    m_reading->setPace(PhotoReading::Pace::all);
+}
+
+void Library::noteRead(const QList<QUrl>& photos)
+{
+    if (m_reading)
+        m_reading->drop(photos);
 }
 
 }  // namespace Quorbel

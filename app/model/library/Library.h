@@ -1,10 +1,12 @@
-// What is open: a folder or some files, and the load that brings their photos.
-// Thread: the main thread; the reading runs in the background. Knows no selection and no edits.
+// What is open: a folder or some files, and the load that brings their photos. They are listed at once, and read in
+// slices after that.
+// Thread: the main thread; listing and reading run in the background. Knows no selection and no edits.
 #pragma once
 
 #include "app/model/RunningTasks.h"
 #include "app/model/library/FolderRefresh.h"
 #include "app/model/library/PhotoList.h"
+#include "app/model/library/reading/PhotoReading.h"
 
 #include <memory>
 
@@ -16,6 +18,7 @@ class Library final : public QObject {
 
 public:
     Library(Announcer& announcer, RunningTasks& tasks, std::optional<MetadataService> service, RecordSortOrder order);
+    ~Library() override;
 
     PhotoList& photos() { return m_photos; }
     const PhotoList& photos() const { return m_photos; }
@@ -25,33 +28,63 @@ public:
     /// The one folder that is open and watched; nothing where files or several folders are.
     const std::optional<QUrl>& folderURL() const { return m_folderURL; }
 
-    /// Lists the folders among these and reads the photos. What is open is replaced as a whole by open(), once
-    /// arrived(): photos, name and watched folder always come from the same load, whichever of several ends last. What
-    /// others, or a save of ours, changed during the read is read again.
+    /// Lists the folders among these, or all folders in them as well. Where nothing is open, all photos are in the list
+    /// at once, unread. What is open stays until a photo of the new ones was read, and somebody calls open(). An
+    /// earlier load is given up.
     void load(const QList<QUrl>& given, bool withSubfolders);
     /// Whether photos have arrived that are neither shown nor dropped.
-    bool hasArrived() const { return m_arrived != nullptr; }
-    /// Shows the photos that arrived; reads them again before, when a save of ours ended meanwhile.
+    bool hasArrived() const;
+    /// Shows the photos that arrived; the rest of them is read after that.
     void open();
-    void dropArrived() { m_arrived.reset(); }
+    void dropArrived();
     void close();
+
+    /// What is read first: the photo whose fields are on screen, and then those in view.
+    void setFirst(const std::optional<QUrl>& photo);
+    void setInView(const QList<QUrl>& photos);
+    /// Somebody waits for the unread ones of these.
+    void require(const QList<QUrl>& photos);
+    /// Gives up the load that has not brought anything yet; else what is read of the open photos, but for those that
+    /// somebody waits for.
+    void cancelReads();
+    /// Goes on with a read that was cancelled.
+    void resumeReading();
+    /// Reads all open photos again, whatever is known of them.
+    void readAgain();
+    /// The list holds these as they are now: a read that is under way must not put an older state in their place.
+    void noteRead(const QList<QUrl>& photos);
 
 signals:
     /// Photos were found, and are being read; of what was given, these exist.
     void listed(const QList<QUrl>& given);
-    /// A load has ended with photos. What was open stays until somebody calls open().
+    /// Photos of a load were read. What was open stays until somebody calls open().
     void arrived();
     /// Other photos are in the list.
     void opened();
+    /// These were read, and are in the list as they are now.
+    void read(const QList<QUrl>& photos);
+    /// These cannot be read (positions, ascending). Whoever hears it takes them out of the list.
+    void unreadable(const QList<int>& positions);
+    /// No photo of what is open can be read: whoever hears it closes.
+    void nothingReadable();
     /// A text for the banner.
     void problem(const QString& text);
 
 private:
     struct Load;
 
-    void read(const std::shared_ptr<Load>& load);
-    void finish(const std::shared_ptr<Load>& load);
-    void show(Load& load);
+    void takeListed(const std::shared_ptr<Load>& load);
+    void awaitFirst(const std::shared_ptr<Load>& load);
+    void takeFirst();
+    void show(const std::shared_ptr<Load>& load);
+    void put(Load& load);
+    void takeRead(const QList<ImageRecord>& records, const QList<QUrl>& unreadable);
+    void takeRested();
+    void takeFailed(const QString& reason);
+    std::unique_ptr<PhotoReading> newReading();
+    void follow(std::unique_ptr<PhotoReading> reading);
+    void endListing();
+    void dropNext();
 
     Announcer& m_announcer;
     RunningTasks& m_tasks;
@@ -60,7 +93,12 @@ private:
     FolderRefresh m_refresh;
     QString m_folderName;
     std::optional<QUrl> m_folderURL;
-    std::shared_ptr<Load> m_arrived;
+    std::optional<int> m_listing;  ///< the task of a listing that is under way
+    int m_loads = 0;  ///< counts loads; what comes of an earlier one is dropped
+    std::shared_ptr<Load> m_next;  ///< listed, and not shown
+    std::unique_ptr<PhotoReading> m_reading;  ///< of what is open; null where nothing is
+    QList<QUrl> m_inView;
+    std::optional<QUrl> m_first;
 };
 
 }  // namespace Quorbel

@@ -3,6 +3,8 @@
 #include "app/model/Background.h"
 #include "core/text/Text.h"
 
+#include <algorithm>
+
 namespace Quorbel {
 
 OpenPhotos OpenPhotos::of(
@@ -63,6 +65,14 @@ void PhotoList::open(OpenPhotos photos)
     contentChanged(true, true);
 }
 
+QList<QUrl> PhotoList::firstOnScreen(OpenPhotos& photos, qsizetype most) const
+{
+    QList<QUrl> first;
+    for (const int row : photos.index.rows(m_needle, m_order).mid(0, most))
+        first.append(photos.records.at(row).url);
+    return first;
+}
+
 void PhotoList::keepCreationDates()
 {
     QList<ImageRecord> known;
@@ -99,6 +109,18 @@ bool PhotoList::replace(const QList<ImageRecord>& fresh)
     if (!putAll(m_creationDates.applied(fresh)))
         return false;
     contentChanged(true, false);
+    return true;
+}
+
+bool PhotoList::fill(const QList<ImageRecord>& fresh)
+{
+    const bool areUnread = std::all_of(fresh.cbegin(), fresh.cend(), [this](const ImageRecord& photo) {
+        const ImageRecord* before = record(photo.url);
+        return !before || before->isUnread;
+    });
+    if (!putAll(m_creationDates.applied(fresh)))
+        return false;
+    contentChanged(!areUnread, false);
     return true;
 }
 

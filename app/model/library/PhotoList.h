@@ -66,8 +66,13 @@ public:
 
     /// Other photos are open now. What was open goes in the background.
     void open(OpenPhotos photos);
+    /// Of photos that are about to be opened, those that will be the first ones on screen, at most so many.
+    QList<QUrl> firstOnScreen(OpenPhotos& photos, qsizetype most) const;
     /// Puts each record in the place of the one with its URL; one that is not open is ignored. Whether any differed.
     bool replace(const QList<ImageRecord>& fresh);
+    /// The same for what a load has read. Where all of it was unread before, what is held of the others stays as it is
+    /// (heldSerial()).
+    bool fill(const QList<ImageRecord>& fresh);
     /// The same for photos that a save of ours has just written: they stay where they were in order of creation.
     bool replaceSaved(QList<ImageRecord> fresh);
     /// Positions ascending.

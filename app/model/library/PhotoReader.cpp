@@ -42,12 +42,12 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
 {
     Result result;
     QList<QUrl> readable;
-    QHash<QUrl, std::optional<QDateTime>> modified;  // before the read
+    QHash<QUrl, PhotoFile> before;
     for (const QUrl& url : urls) {
         const PhotoFile::Look look = PhotoFile::at(url);
         if (look.file) {
             readable.append(url);
-            modified.insert(url, look.file->modificationDate());
+            before.insert(url, *look.file);
         } else if (!look.reason.isEmpty()) {
             result.leftOut.append({ url.fileName(), look.reason });
         }
@@ -69,8 +69,12 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
     }
     progress.processID = 0;
     shareTexts(result.records);
-    for (ImageRecord& record : result.records)
-        record.contentModificationDate = modified.value(record.url);
+    for (ImageRecord& record : result.records) {
+        const PhotoFile& file = before[record.url];
+        record.contentModificationDate = file.modificationDate();
+        if (PhotoFile::at(record.url).file != file)
+            result.changed.append(record.url);
+    }
     return result;
 }
 

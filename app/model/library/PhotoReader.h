@@ -14,6 +14,7 @@ namespace Quorbel::PhotoReader {
 struct Result {
     QList<ImageRecord> records{};  ///< of the files that were read, in their order
     QList<LeftOut> leftOut{};
+    QList<QUrl> changed{};  ///< files that are not what they were before the read
     std::optional<QString> error{};  ///< the read failed as a whole: its description; there are no records
     bool isCancelled = false;
 };

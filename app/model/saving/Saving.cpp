@@ -86,10 +86,22 @@ void Saving::setUndoable(const SaveHistory::Undoable& save)
     m_announcer.assign(m_undo, Undo{ save, save.photos > 0 && !m_isSaving }, Change::canUndoSave);
 }
 
-void Saving::begin(const QList<QUrl>& photos)
+void Saving::reserve()
 {
     m_announcer.assign(m_isSaving, true, Change::isSaving);
     setUndoable(m_undo.save);
+}
+
+void Saving::release()
+{
+    m_announcer.assign(m_isSaving, false, Change::isSaving);
+    setUndoable(m_undo.save);
+    emit ended(false);
+}
+
+void Saving::begin(const QList<QUrl>& photos)
+{
+    reserve();
     m_refresh.beginWriting(QSet<QUrl>(photos.cbegin(), photos.cend()));
 }
 

@@ -42,6 +42,10 @@ public:
     bool canUndo() const { return m_undo.isPossible; }
     /// "Undo Save of 12 photos": which save that is.
     QString undoText() const { return SaveHistory::name(m_undo.save); }
+    /// A save will follow, or release(): until then it counts as being saved.
+    void reserve();
+    /// No save follows.
+    void release();
     /// Writes the edits to their subjects. Needs some of both, and that nothing is being saved. `seen`: what was on
     /// screen of the lists that the edits replace.
     void save(const Edits& edits, const WriteOptions& options, const SaveJob::SeenLists& seen);

@@ -73,7 +73,7 @@ QList<QUrl> SelectedPhotos::urls() const
 
 std::optional<QString> SelectedPhotos::sharedValue(const QString& id) const
 {
-    if (readCount() == 0)
+    if (summary().read == 0)
         return std::nullopt;
     const std::vector<Field>& fields = summary().fields;
     const auto field = std::lower_bound(fields.cbegin(), fields.cend(), id,
@@ -122,13 +122,50 @@ QStringList SelectedPhotos::customNames() const
 
 std::optional<QString> SelectedPhotos::sharedCustom(const QString& name) const
 {
-    if (readCount() == 0)
+    if (summary().read == 0)
         return std::nullopt;
     const auto custom = summary().customs.constFind(name.toLower());
     if (custom == summary().customs.cend())
         return QString();
-    const bool isEverywhere = custom->holders == readCount() || custom->value.isEmpty();
+    const bool isEverywhere = custom->holders == summary().read || custom->value.isEmpty();
     return custom->isShared && isEverywhere ? std::optional(custom->value) : std::nullopt;
+}
+
+// One more photo, in any order.
+void SelectedPhotos::merge(Summary& summary, const ImageRecord& record)
+{
+    if (record.isUnread) {
+        ++summary.unread;
+        return;
+    }
+    mergeFields(summary.fields, record.values, summary.read == 0);
+    for (auto list = record.lists.cbegin(); list != record.lists.cend(); ++list)
+        if (!list->isEmpty() && !summary.heldLists.contains(list.key()))
+            summary.heldLists.append(list.key());
+    for (const CustomValue& custom : record.custom)
+        mergeCustom(summary.customs, custom);
+    ++summary.read;
+}
+
+bool SelectedPhotos::holds(const QString& id) const
+{
+    const Summary& held = summary();
+    return held.heldLists.contains(id)
+        || std::any_of(held.fields.cbegin(), held.fields.cend(), [&id](const Field& field) { return field.id == id; });
+}
+
+void SelectedPhotos::takeRead(const QList<QUrl>& photos)
+{
+    forgetIfOutdated();
+    if (!m_summary)
+        return;
+    for (const QUrl& photo : photos) {
+        const ImageRecord* record = m_selection.photos.contains(photo) ? m_list.record(photo) : nullptr;
+        if (!record || record->isUnread)
+            continue;
+        --m_summary->unread;
+        merge(*m_summary, *record);
+    }
 }
 
 const SelectedPhotos::Summary& SelectedPhotos::summary() const
@@ -137,25 +174,8 @@ const SelectedPhotos::Summary& SelectedPhotos::summary() const
     if (m_summary)
         return *m_summary;
     Summary summary;
-    QStringList heldLists;
-    bool isFirst = true;
-    for (const int row : rows()) {
-        const ImageRecord& record = m_list.records().at(row);
-        if (record.isUnread) {
-            ++summary.unread;
-            continue;
-        }
-        mergeFields(summary.fields, record.values, isFirst);
-        for (auto list = record.lists.cbegin(); list != record.lists.cend(); ++list)
-            if (!list->isEmpty() && !heldLists.contains(list.key()))
-                heldLists.append(list.key());
-        for (const CustomValue& custom : record.custom)
-            mergeCustom(summary.customs, custom);
-        isFirst = false;
-    }
-    summary.heldIDs = QSet<QString>(heldLists.cbegin(), heldLists.cend());
-    for (const Field& field : summary.fields)
-        summary.heldIDs.insert(field.id);
+    for (const int row : rows())
+        merge(summary, m_list.records().at(row));
     m_summary = std::move(summary);
     return *m_summary;
 }

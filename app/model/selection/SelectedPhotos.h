@@ -27,6 +27,9 @@ public:
     /// Counts what was set; following does not count.
     int serial() const { return m_serial; }
 
+    /// These were unread, and now are read, in their places of the list: the others are what they were.
+    void takeRead(const QList<QUrl>& photos);
+
     bool isBatch() const { return m_selection.photos.size() >= 2; }
     /// The record of the primary photo; null when there is none. Valid until the records change.
     const ImageRecord* primaryRecord() const;
@@ -40,7 +43,7 @@ public:
     /// selected and read.
     std::optional<QString> sharedValue(const QString& id) const;
     /// Whether one of them holds the field.
-    bool holds(const QString& id) const { return summary().heldIDs.contains(id); }
+    bool holds(const QString& id) const;
     /// Names of the custom fields that one of them holds, ascending; of names that differ in case alone the first.
     QStringList customNames() const;
     /// The same as sharedValue(), for a custom field in any case.
@@ -60,16 +63,17 @@ private:
     };
     struct Summary {
         std::vector<Field> fields{};  ///< every scalar field that a selected photo holds, by id
-        QSet<QString> heldIDs{};  ///< the same, and the list fields
+        QStringList heldLists{};  ///< every list field
         int unread = 0;
+        int read = 0;
         QMap<QString, Custom> customs{};  ///< every custom field that a selected photo holds, by its name in lower case
     };
 
     void forgetIfOutdated() const;
+    static void merge(Summary& summary, const ImageRecord& record);
     static void mergeCustom(QMap<QString, Custom>& customs, const CustomValue& custom);
     static void mergeFields(std::vector<Field>& fields, const QMap<QString, QString>& values, bool isFirst);
     const Summary& summary() const;
-    qsizetype readCount() const { return rows().size() - summary().unread; }
 
     Announcer& m_announcer;
     const PhotoList& m_list;
