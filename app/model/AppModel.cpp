@@ -46,6 +46,7 @@ void AppModel::connectParts()
     });
     connect(&m_library, &Library::arrived, this, &AppModel::showArrived);
     connect(&m_library, &Library::opened, this, &AppModel::takeOpened);
+    connect(&m_library, &Library::added, this, &AppModel::selectWhereNone);
     connect(&m_library, &Library::read, this, &AppModel::takeRead);
     connect(&m_library, &Library::unreadable, this, &AppModel::takeVanished);
     connect(&m_library, &Library::nothingReadable, this, &AppModel::closeFolder);
@@ -54,10 +55,7 @@ void AppModel::connectParts()
     connect(&refresh, &FolderRefresh::problem, this, &AppModel::setErrorMessage);
     connect(&refresh, &FolderRefresh::vanished, this, &AppModel::takeVanished);
     connect(&refresh, &FolderRefresh::reread, this, &AppModel::takeReread);
-    connect(&refresh, &FolderRefresh::added, this, [this] {
-        if (selection().isEmpty())
-            commitSelection(Selection::firstVisible(photos()));
-    });
+    connect(&refresh, &FolderRefresh::added, this, &AppModel::selectWhereNone);
     connect(this, &AppModel::selectionChanged, this, &AppModel::updateUnread);
     connect(this, &AppModel::recordsChanged, this, &AppModel::updateUnread);
     connect(this, &AppModel::primaryChanged, this, [this] {
@@ -290,6 +288,12 @@ void AppModel::takeVanished(const QList<int>& positions)
         m_awaited->unread.subtract(gone);
         saveAwaited();
     }
+}
+
+void AppModel::selectWhereNone()
+{
+    if (selection().isEmpty())
+        commitSelection(Selection::firstVisible(photos()));
 }
 
 void AppModel::takeReread(const QList<QUrl>& urls)

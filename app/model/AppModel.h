@@ -58,7 +58,7 @@ public:
     void readAgain();
     /// Compares the open folder with the records and re-reads what differs. Needs an open folder.
     void refresh();
-    bool canRefresh() const { return library().refresh().canRefresh(); }
+    bool canRefresh() const { return library().refresh().canRefresh() || library().canResume(); }
     /// How changes that others make in the open folders become known.
     const Watching& watching() const { return library().refresh().watching(); }
     /// While the photos are not on screen, one looks at their folders only when the system tells of a change.
@@ -284,6 +284,7 @@ private:
     void connectParts();
     // What other programs do to the photos
     void takeVanished(const QList<int>& positions);
+    void selectWhereNone();
     void takeReread(const QList<QUrl>& urls);
     // What a load has read
     void takeRead(const QList<QUrl>& photos);

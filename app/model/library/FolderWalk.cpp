@@ -132,7 +132,7 @@ private:
     bool isReachedAnyway(const fs::path& found) const;
     bool isWorthFollowing(const QString& folder, const QString& path) const;
     void add(const QString& path, bool isLink);
-    void handOver(bool atOnce = false);
+    void handOver(bool isLast = false);
 
     const std::stop_token& m_stop;
     const std::function<void(FolderWalk::Found)>& m_take;
@@ -228,15 +228,16 @@ void Walk::add(const QString& path, bool isLink)
     handOver();
 }
 
-void Walk::handOver(bool atOnce)
+void Walk::handOver(bool isLast)
 {
     const bool isEnough = m_found.photos.size() >= (m_isFirst ? mostAtFirst : most);
     const bool isTime = m_sinceLast.elapsed() >= (m_isFirst ? firstInterval : interval);
     const bool isAny = !m_found.photos.isEmpty() || (!m_isFirst && !m_found.folders.isEmpty());
-    if (!atOnce && !(isAny && (isEnough || isTime)))
+    if (!isLast && !(isAny && (isEnough || isTime)))
         return;
     m_isFirst = m_isFirst && m_found.photos.isEmpty();
     m_sinceLast.restart();
+    m_found.isLast = isLast;
     m_take(std::exchange(m_found, {}));
 }
 

@@ -29,6 +29,7 @@ struct Photo {
 struct Found {
     QList<Photo> photos{};
     QList<Folder> folders{};  ///< those that the walk is through with, without those in them
+    bool isLast = false;
 };
 
 /// `take` is called in the calling thread, the first time soon, then every tenth of a second or for 500 photos, and at

@@ -1,6 +1,6 @@
 #include "app/model/library/Library.h"
 
-#include "app/model/Background.h"
+#include "app/model/BackgroundPieces.h"
 #include "app/model/library/PhotoListing.h"
 
 #include <algorithm>
@@ -34,7 +34,8 @@ QList<QUrl> unreadOf(const QList<ImageRecord>& records)
 /// A load on its way. Made in the background, then used on the main thread.
 struct Library::Load {
     PhotoListing listing{};
-    OpenPhotos photos{};
+    QList<ImageRecord> records{};  // of a further part
+    OpenPhotos photos{};  // else
     std::unique_ptr<PhotoReading> reading{};
     QList<ImageRecord> early{};  // read before it is shown
     QList<QUrl> unreadable{};  // the same, of those that cannot be read
@@ -53,14 +54,32 @@ struct Library::Load {
     {
         auto load = std::make_shared<Load>();
         load->listing = std::move(listing);
-        QList<ImageRecord> records;
-        records.reserve(load->listing.files.size());
+        load->records.reserve(load->listing.files.size());
         for (const PhotoFile& file : std::as_const(load->listing.files))
-            records.append(file.unreadRecord());
-        load->photos = OpenPhotos::of(
-            std::move(records), order, !load->listing.watched().isEmpty(), load->listing.folderOrder(), stop);
+            load->records.append(file.unreadRecord());
+        if (load->listing.part != PhotoListing::Part::further)
+            load->prepare(order, stop);
         return load;
     }
+    void prepare(RecordSortOrder order, const std::stop_token& stop)
+    {
+        photos = OpenPhotos::of(
+            std::exchange(records, {}), order, !listing.watched().isEmpty(), listing.folderOrder(), stop);
+    }
+};
+
+/// A walk through folders that goes on while what it found is shown.
+struct Library::Walk {
+    std::unique_ptr<BackgroundPieces<std::shared_ptr<Load>>> pieces{};
+    QList<QUrl> given{};
+    QList<QUrl> watched{};  // once it has ended
+    QList<LeftOut> leftOut{};  // before anything was shown
+    bool isShown = false;
+    std::stop_source stop{};
+
+    Walk() = default;
+    ~Walk() { stop.request_stop(); }
+    Q_DISABLE_COPY_MOVE(Walk)
 };
 
 Library::Library(
@@ -81,28 +100,94 @@ void Library::load(const QList<QUrl>& given, bool withSubfolders)
     const Announcer::Together together(m_announcer);
     endListing();
     dropNext();
-    std::stop_token stop;
-    // Without the tool nothing is read.
-    if (m_service) {
-        const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::load, 0);
-        m_listing = task.id;
-        stop = task.stop.get_token();
-    }
+    const std::stop_token stop = beginListing();
+    if (withSubfolders)
+        return walk(given);
     runInBackground(
-        this,
-        [given, withSubfolders, order = m_photos.order(), stop] {
-            return Load::of(
-                withSubfolders ? PhotoListing::withSubfolders(given, stop) : PhotoListing::of(given), order, stop);
-        },
+        this, [given, order = m_photos.order(), stop] { return Load::of(PhotoListing::of(given), order, stop); },
         [this, serial = ++m_loads](const std::shared_ptr<Load>& load) {
             if (serial == m_loads)
                 takeListed(load);
         });
 }
 
+std::stop_token Library::beginListing()
+{
+    // Without the tool nothing is read.
+    if (!m_service)
+        return {};
+    const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::load, 0);
+    m_listing = task.id;
+    return task.stop.get_token();
+}
+
+void Library::walk(const QList<QUrl>& given)
+{
+    using Pieces = BackgroundPieces<std::shared_ptr<Load>>;
+    m_walk = std::make_unique<Walk>();
+    m_walk->given = given;
+    m_walk->pieces = std::make_unique<Pieces>(
+        [given, order = m_photos.order(), stop = m_walk->stop.get_token()](const Pieces::Give& give) {
+            PhotoListing::withSubfolders(
+                given, stop, [&](PhotoListing piece) { give(Load::of(std::move(piece), order, stop)); });
+        },
+        [this](const std::shared_ptr<Load>& piece) { takePiece(piece); }, [this] { endWalk(); });
+}
+
+void Library::takePiece(const std::shared_ptr<Load>& piece)
+{
+    const Announcer::Together together(m_announcer);
+    if (!isWalkShown()) {
+        m_walk->leftOut += std::exchange(piece->listing.leftOut, {});
+        if (piece->listing.files.isEmpty())
+            return;
+        // Nothing that came before could be read.
+        if (!piece->records.isEmpty())
+            piece->prepare(m_photos.order(), {});
+        piece->listing.leftOut = std::exchange(m_walk->leftOut, {});
+        m_walk->pieces->setPaused(true);
+        return takeListed(piece);
+    }
+    QList<ImageRecord> records = piece->records + piece->photos.records;
+    records.removeIf([this](const ImageRecord& photo) { return m_photos.contains(photo.url); });
+    const QList<QUrl> unread = unreadOf(records);
+    m_reading->addLeftOut(piece->listing.leftOut);
+    if (m_photos.append(records))
+        emit added();
+    m_reading->add(unread, records.size() - unread.size());
+}
+
+// What is on screen comes from the walk that is under way.
+bool Library::isWalkShown() const
+{
+    return m_walk && m_walk->isShown;
+}
+
+void Library::endWalk()
+{
+    const Announcer::Together together(m_announcer);
+    const bool isShown = isWalkShown();
+    const QList<LeftOut> leftOut = m_walk->leftOut;
+    const QList<QUrl> watched = m_walk->watched;
+    endListing();
+    if (!isShown)
+        return sayNothingFound(leftOut);
+    m_refresh.begin(watched, true);
+    for (const QUrl& photo : m_reading->tooSlow())
+        m_refresh.leaveAlone(photo);
+    if (m_reading->isAtRest())
+        takeRested();
+}
+
+void Library::sayNothingFound(const QList<LeftOut>& leftOut)
+{
+    emit problem(leftOut.isEmpty() ? u"No supported images were found."_s : PhotoReader::leftOutText(leftOut));
+}
+
 void Library::endListing()
 {
     ++m_loads;
+    m_walk.reset();
     if (!m_listing)
         return;
     m_tasks.stop(*m_listing);
@@ -116,14 +201,21 @@ void Library::takeListed(const std::shared_ptr<Load>& load)
     const PhotoListing& listing = load->listing;
     if (listing.files.isEmpty()) {
         endListing();
-        return emit problem(listing.leftOut.isEmpty() ? u"No supported images were found."_s
-                                                      : PhotoReader::leftOutText(listing.leftOut));
+        return sayNothingFound(listing.leftOut);
     }
     emit listed(listing.existing);
-    if (!m_service)
-        return;
+    if (m_service)
+        begin(load);
+    if (!m_walk || !m_service)
+        endListing();
+}
+
+void Library::begin(const std::shared_ptr<Load>& load)
+{
     load->reading = newReading();
-    load->reading->addLeftOut(listing.leftOut);
+    load->reading->addLeftOut(load->listing.leftOut);
+    if (load->listing.part != PhotoListing::Part::whole)
+        load->reading->expectMore();
     const QList<QUrl> unread = unreadOf(load->photos.records);
     load->reading->add(unread, load->photos.records.size() - unread.size());
     const QList<QUrl> inView = m_photos.firstOnScreen(load->photos, ReadQueue::viewSize);
@@ -133,7 +225,6 @@ void Library::takeListed(const std::shared_ptr<Load>& load)
         show(load);
     else
         awaitFirst(load);
-    endListing();
 }
 
 // What is open stays until there is something to show in its place.
@@ -164,6 +255,12 @@ void Library::takeFirst()
         m_next->hasArrived = true;
         return emit arrived();
     }
+    if (m_walk) {
+        // There may be others.
+        m_walk->leftOut = m_next->reading->leftOut();
+        forgetNext();
+        return m_walk->pieces->setPaused(false);
+    }
     const QString text = m_next->reading->leftOutText().value_or(u"No supported images were found."_s);
     dropNext();
     emit problem(text);
@@ -175,6 +272,13 @@ bool Library::hasArrived() const
 }
 
 void Library::dropNext()
+{
+    if (m_next && m_walk)
+        endListing();
+    forgetNext();
+}
+
+void Library::forgetNext()
 {
     if (!m_next)
         return;
@@ -214,16 +318,23 @@ void Library::show(const std::shared_ptr<Load>& load)
     emit opened();
     takeRead(load->early, load->unreadable);
     m_reading->setPace(PhotoReading::Pace::all);
+    if (m_walk) {
+        m_walk->watched = load->listing.watched();
+        m_walk->isShown = true;
+        m_walk->pieces->setPaused(false);
+    }
 }
 
 void Library::put(Load& load)
 {
+    m_cancelled.reset();
     m_photos.open(std::move(load.photos));
     const bool hasOtherName = std::exchange(m_folderName, load.listing.label) != load.listing.label;
     const bool isOtherFolder = std::exchange(m_folderURL, load.listing.folder) != load.listing.folder;
     if (hasOtherName || isOtherFolder)
         m_announcer.announce(Change::folder);
-    m_refresh.begin(load.listing.watched(), !load.listing.tops.isEmpty());
+    // A walk that is under way would be overtaken by a look.
+    m_refresh.begin(m_walk ? QList<QUrl>() : load.listing.watched(), !load.listing.tops.isEmpty());
 }
 
 void Library::close()
@@ -278,6 +389,9 @@ void Library::takeRead(const QList<ImageRecord>& records, const QList<QUrl>& unr
 
 void Library::takeRested()
 {
+    // More is to come.
+    if (isWalkShown())
+        return;
     const Announcer::Together together(m_announcer);
     std::optional<QString> text = m_reading->takeLeftOutText();
     const bool isNothing = m_photos.records().isEmpty() && !m_reading->hasRead();
@@ -322,16 +436,30 @@ void Library::cancelReads()
 {
     const Announcer::Together together(m_announcer);
     m_tasks.cancelShownRefreshes();
-    if (m_listing)
-        endListing();
-    else if (m_next && !m_next->hasArrived)
-        dropNext();
-    else if (m_reading)
+    const bool isOther = m_listing && !isWalkShown();
+    if (m_next && (!m_next->hasArrived || m_walk))
+        return dropNext();
+    if (isWalkShown()) {
+        m_walk->pieces.reset();
+        m_cancelled = std::move(m_walk);
+        m_announcer.announce(Change::watching);
+    }
+    endListing();
+    if (m_reading && !isOther)
         m_reading->cancel();
 }
 
 void Library::resumeReading()
 {
+    const Announcer::Together together(m_announcer);
+    if (const auto cancelled = std::exchange(m_cancelled, nullptr)) {
+        endListing();
+        beginListing();
+        walk(cancelled->given);
+        m_walk->watched = cancelled->watched;
+        m_walk->isShown = true;
+        m_announcer.announce(Change::watching);
+    }
     if (m_reading)
         m_reading->setPace(PhotoReading::Pace::all);
 }

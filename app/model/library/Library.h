@@ -8,6 +8,7 @@
 #include "app/model/library/PhotoList.h"
 #include "app/model/library/reading/PhotoReading.h"
 
+#include <functional>
 #include <memory>
 
 namespace Quorbel {
@@ -28,9 +29,10 @@ public:
     /// The one folder that is open and watched; nothing where files or several folders are.
     const std::optional<QUrl>& folderURL() const { return m_folderURL; }
 
-    /// Lists the folders among these, or all folders in them as well. Where nothing is open, all photos are in the list
-    /// at once, unread. What is open stays until a photo of the new ones was read, and somebody calls open(). An
-    /// earlier load is given up.
+    /// Lists the folders among these. Where nothing is open, all photos are in the list at once, unread. What is open
+    /// stays until a photo of the new ones was read, and somebody calls open(). An earlier load is given up.
+    /// `withSubfolders`: the folders are walked through; the list begins with the first photos found, and the others
+    /// follow.
     void load(const QList<QUrl>& given, bool withSubfolders);
     /// Whether photos have arrived that are neither shown nor dropped.
     bool hasArrived() const;
@@ -47,8 +49,10 @@ public:
     /// Gives up the load that has not brought anything yet; else what is read of the open photos, but for those that
     /// somebody waits for.
     void cancelReads();
-    /// Goes on with a read that was cancelled.
+    /// Goes on with a walk and a read that were cancelled.
     void resumeReading();
+    /// Whether a walk was cancelled.
+    bool canResume() const { return m_cancelled != nullptr; }
     /// Reads all open photos again, whatever is known of them.
     void readAgain();
     /// The list holds these as they are now: a read that is under way must not put an older state in their place.
@@ -61,6 +65,8 @@ signals:
     void arrived();
     /// Other photos are in the list.
     void opened();
+    /// Further ones are.
+    void added();
     /// These were read, and are in the list as they are now.
     void read(const QList<QUrl>& photos);
     /// These cannot be read (positions, ascending). Whoever hears it takes them out of the list.
@@ -72,9 +78,16 @@ signals:
 
 private:
     struct Load;
+    struct Walk;
 
+    std::stop_token beginListing();
+    void walk(const QList<QUrl>& given);
+    void takePiece(const std::shared_ptr<Load>& piece);
+    void endWalk();
+    bool isWalkShown() const;
     void takeListed(const std::shared_ptr<Load>& load);
     void awaitFirst(const std::shared_ptr<Load>& load);
+    void begin(const std::shared_ptr<Load>& load);
     void takeFirst();
     void show(const std::shared_ptr<Load>& load);
     void put(Load& load);
@@ -84,7 +97,9 @@ private:
     std::unique_ptr<PhotoReading> newReading();
     void follow(std::unique_ptr<PhotoReading> reading);
     void endListing();
+    void forgetNext();
     void dropNext();
+    void sayNothingFound(const QList<LeftOut>& leftOut);
 
     Announcer& m_announcer;
     RunningTasks& m_tasks;
@@ -93,6 +108,8 @@ private:
     FolderRefresh m_refresh;
     QString m_folderName;
     std::optional<QUrl> m_folderURL;
+    std::unique_ptr<Walk> m_walk;  ///< while it is under way
+    std::unique_ptr<Walk> m_cancelled;  ///< of what is on screen
     std::optional<int> m_listing;  ///< the task of a listing that is under way
     int m_loads = 0;  ///< counts loads; what comes of an earlier one is dropped
     std::shared_ptr<Load> m_next;  ///< listed, and not shown

@@ -12,7 +12,8 @@ OpenPhotos OpenPhotos::of(
 {
     OpenPhotos photos{ .records = std::move(records) };
     // Room for what is added later: growing moves everything.
-    photos.records.reserve(photos.records.size() + photos.records.size() / 4);
+    const qsizetype room = photos.records.size() + photos.records.size() / 4;
+    photos.records.reserve(folders.isOrdering() ? std::max(room, RecordIndex::roomForWalk) : room);
     photos.index.reset(photos.records, order, std::move(folders), stop);
     for (const ImageRecord& record : std::as_const(photos.records)) {
         if (stop.stop_requested())

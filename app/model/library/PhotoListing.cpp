@@ -88,33 +88,47 @@ PhotoListing PhotoListing::of(const QList<QUrl>& urls)
     return listing;
 }
 
-PhotoListing PhotoListing::withSubfolders(const QList<QUrl>& urls, const std::stop_token& stop)
+void PhotoListing::withSubfolders(
+    const QList<QUrl>& urls, const std::stop_token& stop, const std::function<void(PhotoListing)>& take)
 {
-    PhotoListing listing;
+    PhotoListing frame;
     QList<QUrl> loose;
     for (const QUrl& url : urls) {
         const QUrl clean = QUrl::fromLocalFile(QDir::cleanPath(url.toLocalFile()));
         const QFileInfo info(clean.toLocalFile());
         if (!url.isLocalFile() || !info.exists())
             continue;
-        listing.existing.append(url);
-        if (info.isDir())
-            listing.tops.append(clean);
-        else
-            loose.append(url);
+        frame.existing.append(url);
+        (info.isDir() ? frame.tops : loose).append(clean);
     }
-    PhotoListing rest = of(loose);
-    FolderWalk::through(listing.tops, stop, [&listing](const FolderWalk::Found& found) { listing.add(found); });
+    if (frame.tops.isEmpty())
+        return take(of(urls));
+    frame.label = QDir(frame.tops.constLast().toLocalFile()).dirName();
+    if (urls.size() == 1)
+        frame.folder = urls.constFirst();
+    // What was given beside its own folder is still one photo.
     QSet<QUrl> walked;
-    for (const PhotoFile& file : std::as_const(listing.files))
-        walked.insert(file.url);
-    rest.files.removeIf([&walked](const PhotoFile& file) { return walked.contains(file.url); });
-    listing.files.append(rest.files);
-    listing.leftOut.append(rest.leftOut);
-    listing.label = listing.tops.isEmpty() ? rest.label : QDir(listing.tops.constLast().toLocalFile()).dirName();
-    if (urls.size() == 1 && !listing.tops.isEmpty())
-        listing.folder = urls.constFirst();
-    return listing;
+    Part next = Part::first;
+    const auto hand = [&](PhotoListing piece, bool isLast) {
+        if (piece.files.isEmpty() && piece.leftOut.isEmpty())
+            return;
+        const bool isWhole = isLast && next == Part::first;
+        piece.part = piece.files.isEmpty() ? Part::further : isWhole ? Part::whole : std::exchange(next, Part::further);
+        take(std::move(piece));
+    };
+    FolderWalk::through(frame.tops, stop, [&](const FolderWalk::Found& found) {
+        PhotoListing piece = frame;
+        piece.add(found);
+        if (!loose.isEmpty())
+            for (const PhotoFile& file : std::as_const(piece.files))
+                walked.insert(file.url);
+        hand(std::move(piece), found.isLast && loose.isEmpty());
+    });
+    PhotoListing rest = of(loose);
+    frame.files = std::move(rest.files);
+    frame.leftOut = std::move(rest.leftOut);
+    frame.files.removeIf([&walked](const PhotoFile& file) { return walked.contains(file.url); });
+    hand(std::move(frame), true);
 }
 
 void PhotoListing::add(const FolderWalk::Found& found)

@@ -58,9 +58,10 @@ void RecordIndex::reset(
 {
     *this = {};
     m_folders = std::move(folders);
-    m_entries.reserve(size_t(withRoom(records.size())));
-    m_positions.reserve(size_t(withRoom(records.size())));
-    m_ids.reserve(withRoom(records.size()));
+    const qsizetype room = std::max(withRoom(records.size()), m_folders.isOrdering() ? roomForWalk : 0);
+    m_entries.reserve(size_t(room));
+    m_positions.reserve(size_t(room));
+    m_ids.reserve(room);
     for (const ImageRecord& record : records) {
         if (stop.stop_requested())
             return;

@@ -21,6 +21,10 @@ namespace Quorbel {
 
 class RecordIndex final {
 public:
+    /// While folders are walked through, nobody knows how many photos are still to come, and growing moves everything.
+    /// Room that is not used costs no memory.
+    static constexpr qsizetype roomForWalk = 120'000;
+
     /// Sorts at once. Once stopped, it ends early, and the index is of no use.
     void reset(const QList<ImageRecord>& records, RecordSortOrder order, FolderOrder folders = {},
         const std::stop_token& stop = {});

@@ -61,6 +61,32 @@ struct Tree : ModelFixture {
 
 }  // namespace
 
+// 700 photos in 50 folders; the tool waits at a gate, so nothing of them is read.
+struct Forest : Tree {
+    Forest()
+        : Tree(QStringList{})
+    {
+        services.service = gate.service();
+        relaunch();
+        gate.shut();
+        for (int i = 0; i < count; ++i) {
+            if (i % 14 == 0)
+                QDir(folder.path()).mkpath(u"forest/%1"_s.arg(i / 14));
+            writeFile(folder.path(u"forest/%1/%2.jpg"_s.arg(i / 14).arg(i % 14)), "x");
+        }
+    }
+    void load() const { model->load({ url(u"forest"_s) }, true); }
+    /// Does it once when the first photos are there.
+    void atFirst(const std::function<void()>& act) const
+    {
+        QObject::connect(
+            model.get(), &AppModel::photosOpened, model.get(), [act] { act(); }, Qt::SingleShotConnection);
+    }
+
+    static constexpr int count = 700;
+    GatedTool gate;
+};
+
 class tst_AppModelSubfolders : public QObject {
     Q_OBJECT
 
@@ -80,6 +106,14 @@ private slots:
     void foldedSelection();
     void broughtBack();
     void renaming();
+    void shownWhileFound();
+    void endedInTheMiddle_data();
+    void endedInTheMiddle();
+    void overWhatIsOpen();
+    void firstPhotosCannotBeRead_data();
+    void firstPhotosCannotBeRead();
+    void nothingFound_data();
+    void nothingFound();
 };
 
 void tst_AppModelSubfolders::opening()
@@ -322,6 +356,160 @@ void tst_AppModelSubfolders::renaming()
     QCOMPARE(f.shown(), u"top.jpg Alps/a.jpg Alps/b.jpg Alps/Lake/a.jpg Alps/Lake/b.jpg Zoo/z.jpg"_s);
     f->setSingle(u"title"_s, u"a"_s);
     QCOMPARE(f->renamePreview(), u"a-2.jpg"_s);
+}
+
+void tst_AppModelSubfolders::shownWhileFound()
+{
+    Forest f;
+    QList<qsizetype> sizes;
+    QStringList texts;
+    connect(f.model.get(), &AppModel::recordsChanged, this, [&] {
+        if (sizes.isEmpty() || sizes.constLast() != f->records().size()) {
+            sizes.append(f->records().size());
+            texts.append(f->folderCountText());
+        }
+    });
+    f.load();
+    QTRY_COMPARE(f->records().size(), Forest::count);
+    QVERIFY(sizes.constFirst() <= 50);
+    for (qsizetype i = 1; i < sizes.size(); ++i)
+        QVERIFY2(sizes.at(i) - sizes.at(i - 1) <= 500, qPrintable(QString::number(sizes.at(i))));
+    QCOMPARE(
+        texts.constFirst(), u"%1 photos in %2 folders"_s.arg(sizes.constFirst()).arg((sizes.constFirst() + 13) / 14));
+    QCOMPARE(texts.constLast(), u"700 photos in 50 folders"_s);
+    QCOMPARE(f->primary(), f.url(u"forest/0/0.jpg"_s));
+    QCOMPARE(f->unreadSelected(), 1);
+    for (qsizetype i = 0; i < Forest::count; ++i)
+        QCOMPARE(f.below(f->records().at(f->visibleRows().at(i)).url), u"forest/%1/%2.jpg"_s.arg(i / 14).arg(i % 14));
+    QVERIFY(f->isWorking());
+    // All of it waits to be read.
+    QTRY_COMPARE(f->progress().value_or(Progress()).total, Forest::count);
+}
+
+void tst_AppModelSubfolders::endedInTheMiddle_data()
+{
+    QTest::addColumn<QString>("how");
+    for (const QString& how : { u"cancel"_s, u"close"_s, u"load"_s, u"destroy"_s })
+        QTest::newRow(qPrintable(how)) << how;
+}
+
+void tst_AppModelSubfolders::endedInTheMiddle()
+{
+    QFETCH(QString, how);
+    Forest f;
+    f.addTo(u"other/1.jpg"_s);
+    bool isEnded = false;
+    f.atFirst([&] {
+        isEnded = true;
+        if (how == u"cancel")
+            f->cancelRead();
+        else if (how == u"close")
+            f->closeFolder();
+        else if (how == u"load")
+            f->load({ f.url(u"other"_s) }, false);
+    });
+    f.load();
+    if (how == u"destroy") {
+        QTRY_VERIFY(isEnded);
+        f.model.reset();
+        return;
+    }
+    QTRY_VERIFY(isEnded);
+    f.gate.release();
+    QVERIFY(f.waitUntilIdle());
+    QTest::qWait(100);
+    if (how == u"cancel") {
+        // What was found stays.
+        QVERIFY(f->records().size() > 0 && f->records().size() <= 50);
+        QCOMPARE(f->folderName(), u"forest"_s);
+        // Refresh goes on with it.
+        QVERIFY(f->canRefresh());
+        f->refresh();
+        QTRY_COMPARE(f->records().size(), Forest::count);
+        QCOMPARE(f->folderGroups().size(), 50);
+        QVERIFY(f.waitUntilIdle());
+        QCOMPARE(f->records().constLast().isUnread, false);
+    } else {
+        QCOMPARE(f.shown(), how == u"load" ? u"other/1.jpg"_s : QString());
+        QCOMPARE(f.groups(), QString());
+    }
+    QCOMPARE(f->errorMessage(), std::nullopt);
+}
+
+void tst_AppModelSubfolders::overWhatIsOpen()
+{
+    Forest f;
+    f.addTo(u"other/1.jpg"_s);
+    f.gate.release();
+    QVERIFY(f.ModelFixture::load({ f.url(u"other"_s) }));
+    f->setSingle(u"title"_s, u"Typed"_s);
+    f.gate.shut();
+    f.load();
+    QVERIFY(f.gate.waitForRun());
+    QTest::qWait(200);
+    QCOMPARE(f.shown(), u"other/1.jpg"_s);
+    f.gate.release();
+    QTRY_VERIFY(f->saveOpen());
+    // Nothing of it is lost while the question is open.
+    QTest::qWait(100);
+    QCOMPARE(f.shown(), u"other/1.jpg"_s);
+    f.gate.shut();
+    f->discardSaveDialog();
+    QTRY_COMPARE(f->records().size(), Forest::count);
+    QCOMPARE(f->folderGroups().size(), 50);
+}
+
+// The walk goes on until there is something to show.
+void tst_AppModelSubfolders::firstPhotosCannotBeRead_data()
+{
+    QTest::addColumn<bool>("isSomethingOpen");
+    QTest::newRow("over what is open") << true;
+    QTest::newRow("with nothing open") << false;
+}
+
+void tst_AppModelSubfolders::firstPhotosCannotBeRead()
+{
+    QFETCH(bool, isSomethingOpen);
+    Forest f;
+    f.addTo(u"other/1.jpg"_s);
+    f.addTo(u"forest/49/good.jpg"_s);
+    f.gate.release();
+    if (isSomethingOpen)
+        QVERIFY(f.ModelFixture::load({ f.url(u"other"_s) }));
+    f.gate.shut();
+    f.load();
+    QVERIFY(f.gate.waitForRun());
+    for (int i = 0; i < 49; ++i)
+        QDir(f.folder.path(u"forest/%1"_s.arg(i))).removeRecursively();
+    f.gate.release();
+    QTRY_COMPARE(f.shown().split(u' ').constLast(), u"forest/49/good.jpg"_s);
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->folderCountText(), u"15 photos in 1 folder"_s);
+    QCOMPARE(f.chosen(), u"forest/49/0.jpg"_s);
+    QCOMPARE(f->errorMessage(), std::nullopt);
+}
+
+void tst_AppModelSubfolders::nothingFound_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("no photo") << u"empty/a/notes.txt"_s << u"No supported images were found."_s;
+    QTest::newRow("none that can be read")
+        << u"empty/a/1.jpg"_s << u"1 file could not be read and was left out: 1.jpg (empty)"_s;
+}
+
+void tst_AppModelSubfolders::nothingFound()
+{
+    QFETCH(QString, file);
+    Tree f;
+    QVERIFY(f.open());
+    QDir(f.folder.path()).mkpath(QFileInfo(file).path());
+    f.folder.add(file, {});
+    f->load({ f.url(u"empty"_s) }, true);
+    QVERIFY(f.waitUntilIdle());
+    QTEST(f->errorMessage().value_or(QString()), "text");
+    QCOMPARE(f.shown(), u"top.jpg"_s);
+    QCOMPARE(f->recentURLs(), QList<QUrl>{ f.folderURL() });
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelSubfolders)

@@ -1,5 +1,5 @@
 // Work in the background: whom it reports to, and that one job does not hold up another.
-#include "app/model/Background.h"
+#include "app/model/BackgroundPieces.h"
 
 #include <QRegularExpression>
 #include <QSemaphore>
@@ -14,6 +14,8 @@ class tst_Background : public QObject {
 private slots:
     void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
     void jobOutlivesItsOwner();
+    void piecesTakeTurns();
+    void piecesEndWithTheirOwner();
 };
 
 void tst_Background::jobOutlivesItsOwner()
@@ -52,6 +54,60 @@ void tst_Background::jobOutlivesItsOwner()
     QTRY_VERIFY(isDelivered);
     hang.release(8);
     QTRY_COMPARE(hanging, 8);
+}
+
+// Ten pieces lie ready at once: what else waits is not kept waiting for all of them.
+void tst_Background::piecesTakeTurns()
+{
+    QList<int> seen;
+    const auto job = [](const BackgroundPieces<std::unique_ptr<int>>::Give& give) {
+        for (int i = 0; i < 10; ++i)
+            give(std::make_unique<int>(i));
+    };
+    bool isDone = false;
+    QTimer other;
+    connect(&other, &QTimer::timeout, this, [&seen] { seen.append(-1); });
+    BackgroundPieces<std::unique_ptr<int>> pieces(
+        job, [&seen](const std::unique_ptr<int>& piece) { seen.append(*piece); }, [&isDone] { isDone = true; });
+    pieces.setPaused(true);
+    QTest::qWait(50);
+    QCOMPARE(seen, QList<int>());
+    QVERIFY(!isDone);
+    other.start(0);
+    pieces.setPaused(false);
+    QTRY_VERIFY(isDone);
+    for (int i = 0; i < 9; ++i) {
+        const qsizetype at = seen.indexOf(i);
+        QVERIFY(at >= 0);
+        QVERIFY2(seen.at(at + 1) == -1, qPrintable(u"nothing between %1 and the next"_s.arg(i)));
+    }
+    QCOMPARE(seen.count(9), 1);
+}
+
+void tst_Background::piecesEndWithTheirOwner()
+{
+    QSemaphore mayGoOn;
+    std::atomic<bool> hasEnded = false;
+    int taken = 0;
+    std::unique_ptr<BackgroundPieces<int>> pieces;
+    pieces = std::make_unique<BackgroundPieces<int>>(
+        [&](const BackgroundPieces<int>::Give& give) {
+            give(1);
+            give(2);
+            mayGoOn.acquire();
+            give(3);
+            hasEnded = true;
+        },
+        [&](int) {
+            ++taken;
+            pieces.reset();
+        },
+        [&] { taken = 100; });
+    QTRY_COMPARE(taken, 1);
+    mayGoOn.release();
+    QTRY_VERIFY(hasEnded);
+    QTest::qWait(50);
+    QCOMPARE(taken, 1);
 }
 
 QTEST_GUILESS_MAIN(tst_Background)

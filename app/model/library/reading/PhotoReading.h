@@ -32,6 +32,8 @@ public:
     /// Photos that are to be read, in their order. `known`: further ones of the same load that need no reading; they
     /// count in its progress.
     void add(const QList<QUrl>& photos, qsizetype known = 0);
+    /// Further ones will be added.
+    void expectMore() { m_queue.expectMore(); }
     /// What is said of files that were left out before.
     void addLeftOut(const QList<LeftOut>& files) { m_leftOut += files; }
     /// These are to be read once more.
@@ -52,6 +54,9 @@ public:
     bool hasRead() const { return m_hasRead; }
     /// Files that the user skipped.
     const QSet<QUrl>& tooSlow() const { return m_tooSlow; }
+    const QList<LeftOut>& leftOut() const { return m_leftOut; }
+    /// Whether all that the pace asks for has been read.
+    bool isAtRest() const;
     /// The banner's text about what could not be read; nothing where all could.
     std::optional<QString> leftOutText() const;
     /// The same, once.
@@ -82,7 +87,6 @@ private:
     QList<ImageRecord> upToDate(const Slice& slice, const PhotoReader::Result& result);
     void leaveOut(const QUrl& photo, const QString& reason);
     bool searchCulprit(const Slice& slice, const QString& reason);
-    bool isAtRest() const;
     void showTask();
     void endTask();
 

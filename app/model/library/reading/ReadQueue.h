@@ -22,6 +22,8 @@ public:
 
     /// Further photos that wait, in their order; those that are known already stay as they are.
     void add(const QList<QUrl>& photos);
+    /// Those that are known are not all: they are not read as a whole, however few.
+    void expectMore() { m_isBroken = true; }
     /// The photo whose fields are on screen: it is read alone, before all others.
     void setFirst(const std::optional<QUrl>& photo) { m_first = photo; }
     void setInView(const QList<QUrl>& photos) { m_inView = photos; }
