@@ -23,6 +23,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qreal inset = 6;  // points, around the rows
+constexpr int restInterval = 100;  // milliseconds for which the rows have to stand still to count as looked at
 
 bool isPlainText(const QKeyEvent& event)
 {
@@ -61,6 +62,12 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
 
     m_thumbnailsSoon.setSingleShot(true);
     connect(&m_thumbnailsSoon, &QTimer::timeout, this, &SidebarList::requestThumbnails);
+    m_inViewSoon.setSingleShot(true);
+    connect(&m_inViewSoon, &QTimer::timeout, this, &SidebarList::tellInView);
+    connect(&model, &AppModel::photosOpened, this, [this] {
+        m_hasToldInView = false;
+        followScreen();
+    });
     connect(&m_rows, &QAbstractItemModel::modelReset, this, &SidebarList::showSelection);
     connect(&m_rows, &QAbstractItemModel::modelReset, this, [this] { setAccessibleDescription(emptyText()); });
     connect(&model, &AppModel::selectionChanged, this, &SidebarList::showSelection);
@@ -79,7 +86,7 @@ void SidebarList::showSelection()
     const int row = m_model.primary() ? m_rows.row(*m_model.primary()) : -1;
     if (row >= 0)
         selectionModel()->setCurrentIndex(m_rows.index(row), QItemSelectionModel::NoUpdate);
-    m_thumbnailsSoon.start(0);
+    followScreen();
 }
 
 void SidebarList::showPrimary()
@@ -297,24 +304,24 @@ void SidebarList::mouseDoubleClickEvent(QMouseEvent* event)
         m_model.openFile(QUrl(photo->url));
 }
 
-// --- Thumbnails of the rows on screen ---
+// --- The rows on screen ---
 
 void SidebarList::resizeEvent(QResizeEvent* event)
 {
     QListView::resizeEvent(event);
-    m_thumbnailsSoon.start(0);
+    followScreen();
 }
 
 void SidebarList::scrollContentsBy(int dx, int dy)
 {
     QListView::scrollContentsBy(dx, dy);
-    m_thumbnailsSoon.start(0);
+    followScreen();
 }
 
 void SidebarList::updateGeometries()
 {
     QListView::updateGeometries();
-    m_thumbnailsSoon.start(0);
+    followScreen();
 }
 
 std::pair<int, int> SidebarList::rowsOnScreen() const
@@ -322,6 +329,37 @@ std::pair<int, int> SidebarList::rowsOnScreen() const
     const int first = verticalOffset() / SidebarDelegate::pitch();
     const int last = (verticalOffset() + viewport()->height()) / SidebarDelegate::pitch();
     return { qMax(0, first), qMin(last, m_rows.rowCount() - 1) };
+}
+
+// Other rows may be on screen now.
+void SidebarList::followScreen()
+{
+    m_thumbnailsSoon.start(0);
+    // The first ones at once; then those that one stops at, not all that run past.
+    m_inViewSoon.start(m_hasToldInView ? restInterval : 0);
+}
+
+void SidebarList::tellInView()
+{
+    if (!isVisible())
+        return;
+    m_hasToldInView = true;
+    QList<QUrl> urls;
+    const auto [first, last] = rowsOnScreen();
+    for (int row = first; row <= last; ++row)
+        if (const ImageRecord* photo = m_rows.record(row))
+            urls.append(photo->url);
+    m_model.setInView(urls);
+}
+
+// Only what is on screen shows it. Rows are as high as ever: nothing has to be laid out again, as QListView would do.
+void SidebarList::dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles)
+{
+    const auto [top, bottom] = rowsOnScreen();
+    const int from = qMax(first.row(), top);
+    const int to = qMin(last.row(), bottom);
+    if (from <= to)
+        QAbstractItemView::dataChanged(m_rows.index(from), m_rows.index(to), roles);
 }
 
 void SidebarList::requestThumbnails()

@@ -39,6 +39,7 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
     void focusInEvent(QFocusEvent* event) override;
+    void dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles = {}) override;
     void paintEvent(QPaintEvent* event) override;
     void initViewItemOption(QStyleOptionViewItem* option) const override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
@@ -51,7 +52,9 @@ private:
     int rowAfter(int key, int row) const;
     bool isTyping() const;
     void choose(int row, bool shift, bool command);
+    void followScreen();
     void requestThumbnails();
+    void tellInView();
     void repaintThumbnail(const QUrl& url);
     std::pair<int, int> rowsOnScreen() const;
     QString emptyText() const;
@@ -61,6 +64,8 @@ private:
     QPointer<ThumbnailStore> m_thumbs;
     SidebarModel m_rows;
     QTimer m_thumbnailsSoon;
+    QTimer m_inViewSoon;
+    bool m_hasToldInView = false;  ///< of what is open now
     bool m_byKeyboard = false;
     QString m_typed{};
     QElapsedTimer m_sinceTyped{};

@@ -105,6 +105,7 @@ ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
     connect(&model, &AppModel::progressChanged, this, &ProgressFoot::follow);
     connect(&model, &AppModel::isSavingChanged, this, &ProgressFoot::follow);
     connect(&model, &AppModel::stalledFileChanged, this, &ProgressFoot::follow);
+    connect(&model, &AppModel::unreadSelectedChanged, this, &ProgressFoot::follow);
     follow();
 }
 
@@ -122,13 +123,18 @@ void ProgressFoot::setLined(bool lined)
 void ProgressFoot::follow()
 {
     if (m_model.progress()) {
-        if (!isHidden())
-            showProgress();
-        else if (!m_showDelay.isActive())
+        // A photo that is saved while others are read is done at once: the words do not change for it.
+        const bool waits = isHidden() || (isWriting() && !m_showsWrite);
+        if (waits && !m_showDelay.isActive())
             m_showDelay.start();
-        return;
+        if (waits)
+            return;
+        if (!isWriting())
+            m_showDelay.stop();
+        return showProgress();
     }
     m_showDelay.stop();
+    m_showsWrite = false;
     m_bar->setFraction(0);
     if (!isHidden()) {
         hide();
@@ -136,19 +142,34 @@ void ProgressFoot::follow()
     }
 }
 
+// A save that waits for records has not begun to write.
+bool ProgressFoot::isWriting() const
+{
+    return m_model.isSaving() && !m_model.isAwaitingRecords();
+}
+
+QString ProgressFoot::shownText() const
+{
+    const Progress progress = m_model.progress().value_or(Progress());
+    if (const auto stalled = m_model.stalledFile())
+        return u"Stuck at %1"_s.arg(*stalled);
+    if (progress.total == 0 && !isWriting())
+        return u"Looking for photos…"_s;
+    const QLocale locale;
+    const QString pattern = isWriting() ? u"Saving %1 of %2 photos…"_s : u"Reading %1 of %2 photos…"_s;
+    return pattern.arg(locale.toString(progress.done), locale.toString(progress.total));
+}
+
 void ProgressFoot::showProgress()
 {
     const auto progress = m_model.progress();
     if (!progress)
         return;
-    const QLocale locale;
-    const QString pattern = m_model.isSaving() ? u"Saving %1 of %2 photos…"_s : u"Reading %1 of %2 photos…"_s;
-    const auto stalled = m_model.stalledFile();
-    m_text->setText(stalled ? u"Stuck at %1"_s.arg(*stalled)
-                            : pattern.arg(locale.toString(progress->done), locale.toString(progress->total)));
-    m_skip->setVisible(stalled.has_value());
+    m_showsWrite = isWriting();
+    m_text->setText(shownText());
+    m_skip->setVisible(m_model.stalledFile().has_value());
     m_bar->setFraction(progress->total > 0 ? static_cast<qreal>(progress->done) / progress->total : 0);
-    m_cancel->setVisible(!m_model.isSaving());
+    m_cancel->setVisible(!isWriting());
     setAccessibleName(m_text->text());
     if (isHidden()) {
         show();

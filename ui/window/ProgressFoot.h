@@ -35,13 +35,16 @@ protected:
 private:
     void follow();
     void showProgress();
+    bool isWriting() const;
+    QString shownText() const;
 
     AppModel& m_model;
     ThemedLabel* m_text;
     QBTextButton* m_skip;
     QBTextButton* m_cancel;
     ProgressBar* m_bar;
-    QTimer m_showDelay;
+    QTimer m_showDelay;  ///< until it appears, and until a write takes the place of a read
+    bool m_showsWrite = false;
     bool m_lined = true;
 };
 
