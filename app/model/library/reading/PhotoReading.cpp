@@ -54,6 +54,7 @@ void PhotoReading::add(const QList<QUrl>& photos, qsizetype known)
 {
     m_queue.add(photos);
     m_total += photos.size() + known;
+    m_known += known;
     if (m_task)
         m_task->progress->total = m_total;
     schedule();
@@ -153,7 +154,7 @@ void PhotoReading::schedule()
 
 void PhotoReading::startSlices()
 {
-    if (m_pace == Pace::none || (m_pace == Pace::untilFirst && m_hasRead))
+    if (m_pace == Pace::none || (m_pace == Pace::untilFirst && hasRead()))
         return;
     const size_t most = m_pace == Pace::untilFirst ? 1 : readsAtOnce();
     while (m_running.size() < most) {
@@ -272,7 +273,7 @@ bool PhotoReading::isAtRest() const
 {
     if (!m_running.empty())
         return false;
-    return m_queue.left() == 0 || m_pace == Pace::demanded || (m_pace == Pace::untilFirst && m_hasRead);
+    return m_queue.left() == 0 || m_pace == Pace::demanded || (m_pace == Pace::untilFirst && hasRead());
 }
 
 }  // namespace Quorbel

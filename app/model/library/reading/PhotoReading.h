@@ -50,8 +50,8 @@ public:
     /// From now on only what somebody waits for is read.
     void cancel();
 
-    /// Whether a photo was read.
-    bool hasRead() const { return m_hasRead; }
+    /// Whether there is a photo that was read, or needed no reading.
+    bool hasRead() const { return m_hasRead || m_known > 0; }
     /// Files that the user skipped.
     const QSet<QUrl>& tooSlow() const { return m_tooSlow; }
     const QList<LeftOut>& leftOut() const { return m_leftOut; }
@@ -99,6 +99,7 @@ private:
     std::vector<Slice> m_running;
     std::optional<RunningTasks::Task> m_task;  ///< shows how far all of it is
     qsizetype m_total = 0;  ///< photos of the load, read or not
+    qsizetype m_known = 0;  ///< of these, such as needed no reading
     QHash<QUrl, int> m_changes;  ///< how often a photo had changed when it was read
     QList<LeftOut> m_leftOut;
     QSet<QUrl> m_tooSlow;
