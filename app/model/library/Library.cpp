@@ -36,6 +36,7 @@ struct Library::Load {
     PhotoListing listing{};
     QList<ImageRecord> records{};  // of a further part
     OpenPhotos photos{};  // else
+    ReadQueue queue{};  // of those that are unread
     std::unique_ptr<PhotoReading> reading{};
     QList<ImageRecord> early{};  // read before it is shown
     QList<QUrl> unreadable{};  // the same, of those that cannot be read
@@ -65,6 +66,7 @@ struct Library::Load {
     {
         photos = OpenPhotos::of(
             std::exchange(records, {}), order, !listing.watched().isEmpty(), listing.folderOrder(), stop);
+        queue.add(unreadOf(photos.records));
     }
 };
 
@@ -216,8 +218,7 @@ void Library::begin(const std::shared_ptr<Load>& load)
     load->reading->addLeftOut(load->listing.leftOut);
     if (load->listing.part != PhotoListing::Part::whole)
         load->reading->expectMore();
-    const QList<QUrl> unread = unreadOf(load->photos.records);
-    load->reading->add(unread, load->photos.records.size() - unread.size());
+    load->reading->begin(std::move(load->queue), load->photos.records.size());
     const QList<QUrl> inView = m_photos.firstOnScreen(load->photos, ReadQueue::viewSize);
     load->reading->setInView(inView);
     load->reading->setFirst(inView.isEmpty() ? std::nullopt : std::optional(inView.constFirst()));

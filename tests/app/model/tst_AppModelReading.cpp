@@ -11,15 +11,34 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QStringList manyNames()
+{
+    QStringList names;
+    for (int i = 0; i < 70; ++i)
+        names.append(u"a%1%2.jpg"_s.arg(i / 10).arg(i % 10));
+    return names << u"z.jpg"_s;
+}
+
+// The bytes of these photos, each with its name as its title.
+QList<QByteArray> titledPhotos(const QStringList& names)
+{
+    ModelFixture f;
+    f.addTitled(names);
+    QList<QByteArray> photos;
+    for (const QString& name : names)
+        photos.append(readFile(f.folder.path(name)));
+    return photos;
+}
+
 // "a00.jpg" to "a69.jpg", each with its name as its title: more than one read. And "z.jpg".
 struct ManyPhotos : GatedTool, ModelFixture {
     ManyPhotos()
         : ModelFixture(GatedTool::service())
+        , names(manyNames())
     {
-        for (int i = 0; i < 70; ++i)
-            names.append(u"a%1%2.jpg"_s.arg(i / 10).arg(i % 10));
-        names.append(u"z.jpg"_s);
-        addTitled(names);
+        static const QList<QByteArray> photos = titledPhotos(names);
+        for (qsizetype i = 0; i < names.size(); ++i)
+            folder.add(names.at(i), photos.at(i));
     }
 
     // Opens the folder; whatever reads a photo with an "a" waits.

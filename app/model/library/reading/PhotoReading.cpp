@@ -38,6 +38,7 @@ PhotoReading::PhotoReading(
 PhotoReading::~PhotoReading()
 {
     end();
+    discardInBackground(std::move(m_queue));
 }
 
 void PhotoReading::end()
@@ -48,6 +49,14 @@ void PhotoReading::end()
         m_tasks.end(slice.id);
     }
     endTask();
+}
+
+void PhotoReading::begin(ReadQueue queue, qsizetype photos)
+{
+    m_queue = std::move(queue);
+    m_total = photos;
+    m_known = photos - m_queue.left();
+    schedule();
 }
 
 void PhotoReading::add(const QList<QUrl>& photos, qsizetype known)

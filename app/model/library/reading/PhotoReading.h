@@ -29,8 +29,11 @@ public:
     PhotoReading(Announcer& announcer, RunningTasks& tasks, MetadataService service, const FolderRefresh& writes);
     ~PhotoReading() override;
 
-    /// Photos that are to be read, in their order. `known`: further ones of the same load that need no reading; they
-    /// count in its progress.
+    /// What is to be read of so many photos, made in the background: a hundred thousand take their time. Needs that
+    /// nothing was added yet.
+    void begin(ReadQueue queue, qsizetype photos);
+    /// Further photos that are to be read, in their order; `known`: and such as need no reading. Both count in its
+    /// progress.
     void add(const QList<QUrl>& photos, qsizetype known = 0);
     /// Further ones will be added.
     void expectMore() { m_queue.expectMore(); }
