@@ -13,7 +13,7 @@ namespace Quorbel::Bench {
 
 namespace {
 
-constexpr size_t keptEvents = 5;
+constexpr size_t keptEvents = 8;
 
 }  // namespace
 
@@ -50,17 +50,16 @@ bool PauseWatch::notify(QObject* receiver, QEvent* event)
     // The receiver may be gone afterwards.
     const QMetaObject* kind = receiver->metaObject();
     const QEvent::Type type = event->type();
-    QElapsedTimer clock;
-    clock.start();
+    const double begin = cpuMilliseconds();
     ++m_depth;
     const bool result = QApplication::notify(receiver, event);
     --m_depth;
-    const double wall = static_cast<double>(clock.nsecsElapsed()) / 1e6;
-    if (m_events.size() < keptEvents || wall > m_events.back().wall) {
+    const double cpu = cpuMilliseconds() - begin;
+    if (m_events.size() < keptEvents || cpu > m_events.back().cpu) {
         const char* name = QMetaEnum::fromType<QEvent::Type>().valueToKey(type);
         m_events.push_back(
-            { wall, QByteArray(kind->className()) + ' ' + (name ? QByteArray(name) : QByteArray::number(type)) });
-        std::sort(m_events.begin(), m_events.end(), [](const Event& a, const Event& b) { return a.wall > b.wall; });
+            { cpu, QByteArray(kind->className()) + ' ' + (name ? QByteArray(name) : QByteArray::number(type)) });
+        std::sort(m_events.begin(), m_events.end(), [](const Event& a, const Event& b) { return a.cpu > b.cpu; });
         if (m_events.size() > keptEvents)
             m_events.pop_back();
     }

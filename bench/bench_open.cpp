@@ -257,7 +257,7 @@ void large(const PhotoFolders& folders, const ExifToolRunner& tool, const char* 
     report(qPrintable(u"50,000 photos: longest pause (%1)"_s.arg(QLatin1String(name))), longest.wall, " ms", pauseBound,
         u"CPU %1 ms; %2 pauses beyond"_s.arg(longest.cpu, 0, 'f', 1).arg(watch.longerThan(pauseBound)));
     for (const auto& event : watch.longestEvents())
-        std::printf("    %6.1f ms  %s\n", event.wall, event.what.constData());
+        std::printf("    %6.1f ms CPU  %s\n", event.cpu, event.what.constData());
     const double pictures = static_cast<double>(window.pictureBytes()) / 1024 / 1024;
     const double after = residentMiB();
     report("50,000 photos: resident memory", after - pictures, " MiB", memoryBound,
