@@ -22,12 +22,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-template <typename Record>
-bool isRead(const Record& record)
+template <typename Services>
+void keepRecords(Services& services, const QString& folder)
 {
-    if constexpr (requires { record.isUnread; })
-        return !record.isUnread;
-    return true;
+    if constexpr (requires { services.recordCachePath; })
+        services.recordCachePath = folder;
 }
 
 }  // namespace
@@ -37,7 +36,7 @@ OpenWindow::OpenWindow(const ExifToolRunner& tool, Thumbnails thumbnails, const 
     AppModelServices services;
     services.service = MetadataService{ tool };
     services.preferences = std::make_shared<QSettings>(m_home.filePath(u"settings.ini"_s), QSettings::IniFormat);
-    Q_UNUSED(cache)
+    keepRecords(services, cache);
     m_model = std::make_unique<AppModel>(services);
     if (thumbnails == Thumbnails::on) {
         ThumbnailStoreOptions options;
@@ -95,7 +94,7 @@ double OpenWindow::load(const QString& folder, const std::function<bool()>& cond
 bool OpenWindow::showsFields(const QString& photo) const
 {
     const ImageRecord* record = m_model->primaryRecord();
-    if (!record || record->url != QUrl::fromLocalFile(photo) || !isRead(*record))
+    if (!record || record->url != QUrl::fromLocalFile(photo) || record->isUnread)
         return false;
     const FieldRow* row = m_form->row(u"title"_s);
     return row && row->isVisible() && !row->state().text.isEmpty()
@@ -106,7 +105,8 @@ bool OpenWindow::hasRead(int count) const
 {
     const QList<ImageRecord>& records = m_model->records();
     return records.size() == count && !m_model->isWorking()
-        && std::all_of(records.begin(), records.end(), [](const ImageRecord& record) { return isRead(record); });
+        && std::none_of(
+            records.begin(), records.end(), [](const ImageRecord& record) { return record.isUnread; });
 }
 
 bool OpenWindow::eventFilter(QObject* watched, QEvent* event)

@@ -181,11 +181,11 @@ const char* const standInScript = R"perl(#!/usr/bin/perl
 use strict;
 use POSIX qw(strftime);
 my ($dir) = $0 =~ m{^(.*)/};
-if (grep { $_ eq '-ver' } @ARGV) { print "12.57\n"; exit; }
 if (my $calls = $ENV{QUORBEL_BENCH_CALLS}) {
     open my $log, '>>', $calls;
     print $log join(' ', grep { m{^/} } @ARGV), "\n";
 }
+if (grep { $_ eq '-ver' } @ARGV) { print "12.57\n"; exit; }
 my $answers = (grep { $_ eq '-XMP-Quorbel:all' } @ARGV) ? "$dir/custom" : "$dir/main";
 my @patterns = do { local (@ARGV, $/) = $answers; split /\x00/, <> };
 my $separator = '[';
@@ -298,7 +298,8 @@ void PhotoFolders::checkStandIn(const QString& folder, int count) const
 void PhotoFolders::makeStandIn() const
 {
     const QString folder = m_base + u"/stand-in"_s;
-    if (QFile::exists(folder + u"/exiftool"_s))
+    const QString script = folder + u"/exiftool"_s;
+    if (QFile::exists(script) && contents(script) == standInScript)
         return;
     QDir().mkpath(folder);
     QStringList all;
@@ -314,7 +315,7 @@ void PhotoFolders::makeStandIn() const
     };
     keep(u"main"_s, mainRead);
     keep(u"custom"_s, { u"-json"_s, u"-G1"_s, u"-struct"_s, u"-XMP-Quorbel:all"_s });
-    write(folder + u"/exiftool"_s, standInScript);
+    write(script, standInScript);
 }
 
 ExifToolRunner PhotoFolders::standIn() const
