@@ -186,9 +186,9 @@ void AppModel::openPanel()
 void AppModel::openPanelWithSubfolders()
 {
     requireMainThread("openPanelWithSubfolders");
-    if (!m_services.openPanel)
+    if (!m_services.openFolderPanel)
         return;
-    m_services.openPanel([model = QPointer(this)](const QList<QUrl>& urls) {
+    m_services.openFolderPanel([model = QPointer(this)](const QList<QUrl>& urls) {
         if (model && !urls.isEmpty())
             model->requestLoad(urls, true);
     });

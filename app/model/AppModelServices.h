@@ -20,6 +20,8 @@ struct AppModelServices {
     std::shared_ptr<QSettings> preferences{};  ///< required
     /// Shows the open panel (files and directories, several); calls back with the chosen URLs, none on cancel.
     std::function<void(std::function<void(const QList<QUrl>&)>)> openPanel{};
+    /// The same for one directory alone.
+    std::function<void(std::function<void(const QList<QUrl>&)>)> openFolderPanel{};
     std::function<void()> endEditing{};  ///< makes the field being typed into commit its text
     std::function<void(const QUrl&)> openUrl{};  ///< opens a file in the user's default application
     std::function<QDateTime()> now{};  ///< local wall clock; the system's when empty

@@ -141,11 +141,15 @@ MenuCommands AppDelegate::menuCommands()
 
 WindowHooks AppDelegate::hooks()
 {
+    using Chosen = std::function<void(const QList<QUrl>&)>;
+    const auto panel = [this](OpenPanel::Choice choice) {
+        return [this, choice](Chosen chosen) {
+            OpenPanel::open(m_window.get(), Theme::of(m_window.get()), choice, std::move(chosen));
+        };
+    };
     return {
-        .openPanel =
-            [this](std::function<void(const QList<QUrl>&)> chosen) {
-                OpenPanel::open(m_window.get(), Theme::of(m_window.get()), std::move(chosen));
-            },
+        .openPanel = panel(OpenPanel::Choice::any),
+        .openFolderPanel = panel(OpenPanel::Choice::folder),
         .endEditing = [this] { endEditing(); },
         .quit = [this] { m_windowDelegate->quit(); },
         .show = [this](const Notice& notice,

@@ -131,6 +131,8 @@ void Menus::addFileMenu(const MenuCommands& commands)
 {
     ThemedMenu* menu = addMenu(u"&File"_s);
     add(menu, u"&Open…"_s, keysFor(QKeySequence::Open, Qt::CTRL | Qt::Key_O), [this] { m_model.openPanel(); });
+    add(menu, u"Open with Su&bfolders…"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_O },
+        [this] { m_model.openPanelWithSubfolders(); });
     m_recents = menu->addThemedMenu(u"Open &Recent"_s);
     connect(m_recents, &QMenu::aboutToShow, this, &Menus::fillRecents);
     connect(&m_model.preferences(), &Preferences::changed, this, &Menus::fillRecents);

@@ -22,14 +22,23 @@ QString imageFilter()
     return u"Images (%1)"_s.arg(patterns.join(QLatin1Char(' ')));
 }
 
+QString titleFor(OpenPanel::Choice choice)
+{
+    return choice == OpenPanel::Choice::folder ? u"Choose a folder of images. The folders in it are opened as well."_s
+                                               : u"Choose a folder of images, or one or more image files."_s;
+}
+
 }  // namespace
 
-OpenPanel::OpenPanel(QWidget* parent)
-    : QFileDialog(parent, u"Choose a folder of images, or one or more image files."_s)
+OpenPanel::OpenPanel(Choice choice, QWidget* parent)
+    : QFileDialog(parent, titleFor(choice))
+    , m_choice(choice)
 {
     setOptions(DontUseNativeDialog | ReadOnly);
-    setFileMode(ExistingFiles);
-    setNameFilters({ imageFilter(), u"All files (*)"_s });
+    setOption(ShowDirsOnly, choice == Choice::folder);
+    setFileMode(choice == Choice::folder ? Directory : ExistingFiles);
+    if (choice == Choice::any)
+        setNameFilters({ imageFilter(), u"All files (*)"_s });
     setLabelText(QFileDialog::Accept, u"Open"_s);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
@@ -41,9 +50,9 @@ OpenPanel::OpenPanel(QWidget* parent)
         }
 }
 
-void OpenPanel::open(QWidget* window, const Theme& theme, std::function<void(const QList<QUrl>&)> chosen)
+void OpenPanel::open(QWidget* window, const Theme& theme, Choice choice, std::function<void(const QList<QUrl>&)> chosen)
 {
-    auto* panel = new OpenPanel(window);
+    auto* panel = new OpenPanel(choice, window);
     setTheme(panel, theme);
     connect(panel, &QDialog::accepted, panel, [panel, chosen] {
         QList<QUrl> urls;
@@ -62,9 +71,15 @@ void OpenPanel::accept()
     if (m_paths.isEmpty())
         m_paths.append(directory().absolutePath());
     for (const QString& path : std::as_const(m_paths))
-        if (!QFileInfo::exists(path))
+        if (!isGood(path))
             return;  // mistyped: the panel stays
     QDialog::accept();
+}
+
+bool OpenPanel::isGood(const QString& path) const
+{
+    const QFileInfo file(path);
+    return m_choice == Choice::folder ? file.isDir() : file.exists();
 }
 
 bool OpenPanel::eventFilter(QObject* watched, QEvent* event)

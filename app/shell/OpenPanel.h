@@ -1,4 +1,4 @@
-// The panel in which folders and image files are chosen, several at once. Thread: the main thread.
+// The panel in which folders and image files are chosen, several at once, or one folder alone. Thread: the main thread.
 #pragma once
 
 #include <QFileDialog>
@@ -15,17 +15,26 @@ class OpenPanel final : public QFileDialog {
     Q_DISABLE_COPY_MOVE(OpenPanel)
 
 public:
-    explicit OpenPanel(QWidget* parent);
+    enum class Choice {
+        any,  ///< folders and image files, several
+        folder,
+    };
+
+    OpenPanel(Choice choice, QWidget* parent);
 
     /// Shows the panel over the window and returns at once; `chosen` is called with what was chosen, or with nothing
     /// on cancel. The panel deletes itself.
-    static void open(QWidget* window, const struct Theme& theme, std::function<void(const QList<QUrl>&)> chosen);
+    static void open(
+        QWidget* window, const struct Theme& theme, Choice choice, std::function<void(const QList<QUrl>&)> chosen);
 
 protected:
     void accept() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool isGood(const QString& path) const;
+
+    Choice m_choice;
     QStringList m_paths{};  ///< what was accepted
 };
 

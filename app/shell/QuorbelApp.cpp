@@ -66,6 +66,7 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     services.service = service;
     services.preferences = m_preferences;
     services.openPanel = hooks.openPanel;
+    services.openFolderPanel = hooks.openFolderPanel;
     services.endEditing = hooks.endEditing;
     services.openUrl = openUrl;
     services.now = now;

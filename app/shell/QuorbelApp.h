@@ -15,6 +15,7 @@ namespace Quorbel {
 /// What the main window lends to the objects that have none.
 struct WindowHooks {
     std::function<void(std::function<void(const QList<QUrl>&)>)> openPanel{};
+    std::function<void(std::function<void(const QList<QUrl>&)>)> openFolderPanel{};
     std::function<void()> endEditing{};
     std::function<void()> quit{};
     std::function<void(const Notice&, std::function<void(qsizetype)>)> show{};

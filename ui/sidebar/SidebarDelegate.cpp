@@ -3,6 +3,7 @@
 #include "app/model/thumbnails/ThumbnailStore.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/sidebar/FolderHeading.h"
 #include "ui/sidebar/SidebarModel.h"
 #include "ui/sidebar/ThumbnailView.h"
 
@@ -14,6 +15,7 @@ namespace {
 
 // Points.
 constexpr qreal rowHeight = 54;
+constexpr qreal headingRowHeight = 30;
 constexpr qreal rowGap = 2;
 constexpr qreal rowRadius = 9;
 constexpr qreal thumbnailSize = 42;
@@ -56,13 +58,26 @@ int SidebarDelegate::pitch()
     return px(rowHeight) + px(rowGap);
 }
 
-QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const
+int SidebarDelegate::headingHeight()
 {
-    return { 0, pitch() };
+    return px(headingRowHeight);
+}
+
+RowPitch SidebarDelegate::pitches()
+{
+    return { headingHeight() + px(rowGap), pitch() };
+}
+
+QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const
+{
+    const RowPitch pitch = pitches();
+    return { 0, m_rows.heading(index.row()) ? pitch.heading : pitch.photo };
 }
 
 void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
+    if (const FolderGroup* group = m_rows.heading(index.row()))
+        return FolderHeading::paint(*painter, option, headingHeight(), *group);
     const ImageRecord* photo = m_rows.record(index.row());
     if (!photo)
         return;

@@ -22,7 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qreal inset = 6;  // points, around the rows
 constexpr int restInterval = 100;  // milliseconds for which the rows have to stand still to count as looked at
 
 bool isPlainText(const QKeyEvent& event)
@@ -31,31 +30,30 @@ bool isPlainText(const QKeyEvent& event)
         && !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
 }
 
+bool isToggle(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
 }  // namespace
 
 SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* parent)
-    : QListView(parent)
+    : GroupedListView(parent)
     , m_model(model)
     , m_thumbs(thumbs)
-    , m_rows(model)
+    , m_rows(*new SidebarModel(model, this))
 {
+    setRows(m_rows.rows());
     setModel(&m_rows);
     setItemDelegate(new SidebarDelegate(m_rows, thumbs, this));
     setAccessibleName(u"Photos"_s);
-    setUniformItemSizes(true);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
-    setVerticalScrollMode(ScrollPerPixel);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFrameShape(NoFrame);
-    setMouseTracking(true);
-    viewport()->setAttribute(Qt::WA_Hover);
     OverlayScrollBar::attach(this);
     onRestyle(this, [this] {
         QPalette colors = paletteFor(Theme::of(this));
         colors.setColor(QPalette::Base, Theme::of(this).bg);
         setPalette(colors);
-        setViewportMargins(px(inset), px(inset), 0, px(inset));
         verticalScrollBar()->setSingleStep(SidebarDelegate::pitch() / 2);
         scheduleDelayedItemsLayout();
     });
@@ -68,8 +66,10 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
         m_hasToldInView = false;
         followScreen();
     });
-    connect(&m_rows, &QAbstractItemModel::modelReset, this, &SidebarList::showSelection);
-    connect(&m_rows, &QAbstractItemModel::modelReset, this, [this] { setAccessibleDescription(emptyText()); });
+    connect(&m_thumbnailsSoon, &QTimer::timeout, this, &SidebarList::rememberPlace);
+    connect(&m_rows, &QAbstractItemModel::modelReset, this, &SidebarList::showReset);
+    connect(&m_rows, &QAbstractItemModel::rowsInserted, this, &SidebarList::showSelection);
+    connect(&m_rows, &QAbstractItemModel::rowsRemoved, this, &SidebarList::showSelection);
     connect(&model, &AppModel::selectionChanged, this, &SidebarList::showSelection);
     connect(&model, &AppModel::primaryChanged, this, &SidebarList::showPrimary);
     if (thumbs)
@@ -83,43 +83,82 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
 void SidebarList::showSelection()
 {
     selectionModel()->select(selectedRanges(), QItemSelectionModel::ClearAndSelect);
-    const int row = m_model.primary() ? m_rows.row(*m_model.primary()) : -1;
-    if (row >= 0)
-        selectionModel()->setCurrentIndex(m_rows.index(row), QItemSelectionModel::NoUpdate);
+    showCursor();
     followScreen();
 }
 
 void SidebarList::showPrimary()
 {
     const int row = m_model.primary() ? m_rows.row(*m_model.primary()) : -1;
-    if (row < 0)
-        return;
+    if (row >= 0)
+        goTo(row);
+}
+
+// Which photo is seen first, and where.
+void SidebarList::rememberPlace()
+{
+    m_place = { m_model.folderURL(), m_model.search(), m_model.sortOrder() };
+    const auto [first, last] = rowsOnScreen();
+    for (int row = first; row <= last && m_place.photo.isEmpty(); ++row)
+        if (const ImageRecord* photo = m_rows.record(row); photo && topOf(row) >= 0) {
+            m_place.photo = photo->url;
+            m_place.y = topOf(row);
+        }
+}
+
+// Photos that came or went leave those on screen where they are; another search or order leads to where the keyboard
+// is.
+void SidebarList::showReset()
+{
+    const Place now{ m_model.folderURL(), m_model.search(), m_model.sortOrder() };
+    const bool isSameList = now.folder == m_place.folder && now.search == m_place.search && now.order == m_place.order;
+    setAutoScroll(!isSameList);
+    showSelection();
+    setAutoScroll(true);
+    setAccessibleDescription(emptyText());
+    const int row = isSameList && verticalOffset() > 0 ? m_rows.row(m_place.photo) : -1;
+    if (row >= 0)
+        scrollRowTo(row, m_place.y);
+}
+
+// On the heading where it was, or on the primary photo, or on the heading that this is folded under.
+void SidebarList::showCursor()
+{
+    const int group = m_heading.isEmpty() ? -1 : rows().groupOfFolder(m_heading);
+    int row = group < 0 ? -1 : rows().rowOfHeading(group);
+    if (row < 0 && m_model.primary())
+        row = m_rows.rowOrHeading(*m_model.primary());
+    if (row >= 0)
+        selectionModel()->setCurrentIndex(m_rows.index(row), QItemSelectionModel::NoUpdate);
+}
+
+// Puts the keyboard there, and nothing else.
+void SidebarList::goTo(int row)
+{
+    const FolderGroup* group = m_rows.heading(row);
+    m_heading = group ? group->folder : QUrl();
     selectionModel()->setCurrentIndex(m_rows.index(row), QItemSelectionModel::NoUpdate);
     scrollTo(m_rows.index(row));
 }
 
-// The selected rows as ranges, in time proportional to the smaller of selection and list.
+// The selected rows as ranges. Headings between two of them belong to a range, or there would be one for each folder.
 QItemSelection SidebarList::selectedRanges() const
 {
-    QList<int> rows;
-    const QSet<QUrl>& selection = m_model.selection();
-    if (selection.size() < m_rows.rowCount() / 4) {
-        for (const QUrl& url : selection)
-            if (const int row = m_rows.row(url); row >= 0)
-                rows.append(row);
-        std::sort(rows.begin(), rows.end());
-    } else {
-        for (int row = 0; row < m_rows.rowCount(); ++row)
-            if (const ImageRecord* photo = m_rows.record(row); photo && selection.contains(photo->url))
-                rows.append(row);
-    }
+    QList<int> selected;
+    for (const int position : m_model.selectedRows())
+        if (const int row = m_rows.rowOfPosition(position); row >= 0)
+            selected.append(row);
+    std::sort(selected.begin(), selected.end());
     QItemSelection ranges;
-    for (qsizetype first = 0; first < rows.size();) {
-        qsizetype last = first;
-        while (last + 1 < rows.size() && rows.at(last + 1) == rows.at(last) + 1)
-            ++last;
-        ranges.append(QItemSelectionRange(m_rows.index(rows.at(first)), m_rows.index(rows.at(last))));
-        first = last + 1;
+    for (qsizetype i = 0; i < selected.size();) {
+        const int first = selected.at(i);
+        int last = first;
+        for (int next = first; i < selected.size() && selected.at(i) == next; ++i) {
+            last = next++;
+            while (m_rows.heading(next))
+                ++next;
+        }
+        ranges.append(QItemSelectionRange(m_rows.index(first), m_rows.index(last)));
     }
     return ranges;
 }
@@ -132,8 +171,14 @@ QItemSelectionModel::SelectionFlags SidebarList::selectionCommand(const QModelIn
 
 void SidebarList::choose(int row, bool shift, bool command)
 {
-    if (const ImageRecord* photo = m_rows.record(row))
-        m_model.tap(QUrl(photo->url), shift, command);  // a copy: the records may change under the call
+    const ImageRecord* photo = m_rows.record(row);
+    if (!photo)
+        return;
+    const QUrl url = photo->url;  // a copy: the records may change under the call
+    m_heading.clear();
+    m_model.tap(url, shift, command);
+    if (m_model.primary() == url)
+        showPrimary();  // the keyboard may have been elsewhere
 }
 
 // --- When the search has no hits ---
@@ -146,7 +191,7 @@ QString SidebarList::emptyText() const
 
 void SidebarList::paintEvent(QPaintEvent* event)
 {
-    QListView::paintEvent(event);
+    GroupedListView::paintEvent(event);
     const QString text = emptyText();
     if (text.isEmpty())
         return;
@@ -162,8 +207,14 @@ void SidebarList::paintEvent(QPaintEvent* event)
 void SidebarList::takeKeyboard()
 {
     setFocus(Qt::TabFocusReason);
-    if (!m_model.primary() || m_rows.row(*m_model.primary()) < 0)
-        choose(0, false, false);
+    int row = m_model.primary() ? m_rows.rowOrHeading(*m_model.primary()) : -1;
+    const bool isShown = row >= 0;
+    if (!isShown)
+        row = stop(0, 1, false);
+    if (isShown || m_rows.heading(row))
+        goTo(row);
+    else
+        choose(row, false, false);
 }
 
 void SidebarList::focusInEvent(QFocusEvent* event)
@@ -171,12 +222,12 @@ void SidebarList::focusInEvent(QFocusEvent* event)
     const Qt::FocusReason reason = event->reason();
     m_byKeyboard =
         reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
-    QListView::focusInEvent(event);
+    GroupedListView::focusInEvent(event);
 }
 
 void SidebarList::initViewItemOption(QStyleOptionViewItem* option) const
 {
-    QListView::initViewItemOption(option);
+    GroupedListView::initViewItemOption(option);
     option->state.setFlag(QStyle::State_KeyboardFocusChange, m_byKeyboard);
 }
 
@@ -193,7 +244,10 @@ void SidebarList::keyPressEvent(QKeyEvent* event)
     setByKeyboard(true);
     if (event->matches(QKeySequence::SelectAll)) {
         m_model.selectAllPhotos();
-    } else if (moveCursor(*event)) {
+    } else if (moveCursor(*event) || moveAcross(*event)) {
+    } else if (m_rows.heading(currentIndex().row()) && isToggle(*event) && !isTyping()) {
+        const int row = currentIndex().row();
+        setFolded(row, !m_rows.heading(row)->isFolded, event->modifiers() & Qt::AltModifier);
     } else if (event->key() == Qt::Key_Space && !isTyping()) {
         choose(currentIndex().row(), false, event->modifiers() & Qt::ControlModifier);
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
@@ -208,43 +262,98 @@ void SidebarList::keyPressEvent(QKeyEvent* event)
     event->accept();
 }
 
-// The row where a key leads to from `row`; -1 when it is no key of movement.
-int SidebarList::rowAfter(int key, int row) const
+// The first row from `row` on where the keyboard stops: a photo, or a folded heading; -1 where there is none.
+int SidebarList::stop(int row, int step, bool photosOnly) const
 {
-    const int last = m_rows.rowCount() - 1;
+    for (; row >= 0 && row < m_rows.rowCount(); row += step) {
+        const FolderGroup* group = m_rows.heading(row);
+        if (!group || (group->isFolded && !photosOnly))
+            return row;
+    }
+    return -1;
+}
+
+// Where a key leads to from `row`, which may be nowhere (-1); nothing when it is no key of movement.
+std::optional<int> SidebarList::rowAfter(int key, int row, bool photosOnly) const
+{
+    const auto turn = [&](int page) {
+        const int step = page < 0 ? -1 : 1;
+        const int y = rows().top(qMax(0, row), SidebarDelegate::pitches()) + page * SidebarDelegate::pitch();
+        const int target = rows().rowAt(y, SidebarDelegate::pitches());
+        const int found = stop(target, step, photosOnly);
+        return found >= 0 ? found : stop(target, -step, photosOnly);
+    };
     const int page = qMax(1, viewport()->height() / SidebarDelegate::pitch() - 1);
     switch (key) {
     case Qt::Key_Up:
-        return qMax(0, row - 1);
+        return stop(row - 1, -1, photosOnly);
     case Qt::Key_Down:
-        return qMin(last, row + 1);
+        return stop(row + 1, 1, photosOnly);
     case Qt::Key_PageUp:
-        return qMax(0, row - page);
+        return turn(-page);
     case Qt::Key_PageDown:
-        return qMin(last, row + page);
+        return turn(page);
     case Qt::Key_Home:
-        return 0;
+        return stop(0, 1, photosOnly);
     case Qt::Key_End:
-        return last;
+        return stop(m_rows.rowCount() - 1, -1, photosOnly);
     default:
-        return -1;
+        return std::nullopt;
     }
 }
 
 bool SidebarList::moveCursor(const QKeyEvent& event)
 {
-    const int row = rowAfter(event.key(), currentIndex().row());
-    if (row < 0)
+    const bool shift = event.modifiers() & Qt::ShiftModifier;
+    const std::optional<int> found = rowAfter(event.key(), currentIndex().row(), shift);
+    if (!found)
         return false;
     m_typed.clear();
-    const bool shift = event.modifiers() & Qt::ShiftModifier;
-    if (event.modifiers() & Qt::ControlModifier && !shift) {
-        selectionModel()->setCurrentIndex(m_rows.index(row), QItemSelectionModel::NoUpdate);
-        scrollTo(m_rows.index(row));
-    } else {
+    const int row = *found >= 0 ? *found : currentIndex().row();
+    if (m_rows.heading(row) || (event.modifiers() & Qt::ControlModifier && !shift))
+        goTo(row);
+    else
         choose(row, shift, false);
-    }
     return true;
+}
+
+// Left and Right, where there are headings: as in a tree. With Alt they fold and unfold all.
+bool SidebarList::moveAcross(const QKeyEvent& event)
+{
+    const bool isLeft = event.key() == (isRightToLeft() ? Qt::Key_Right : Qt::Key_Left);
+    const int row = currentIndex().row();
+    const int group = rows().groupAt(row);
+    if ((event.key() != Qt::Key_Left && event.key() != Qt::Key_Right) || group < 0)
+        return false;
+    m_typed.clear();
+    const int heading = rows().rowOfHeading(group);
+    const bool isFolded = rows().groups().at(group).isFolded;
+    if (event.modifiers() & Qt::AltModifier)
+        setFolded(heading, isLeft, true);
+    else if (isLeft && row != heading)
+        goTo(heading);
+    else if (row == heading && isLeft != isFolded)
+        setFolded(heading, isLeft, false);
+    else if (row == heading && !isLeft)
+        choose(row + 1, false, false);
+    return true;
+}
+
+// The heading stays where it is seen.
+void SidebarList::setFolded(int heading, bool on, bool all)
+{
+    const QUrl folder = m_rows.heading(heading)->folder;
+    const int y = qBound(0, topOf(heading), viewport()->height() - SidebarDelegate::headingHeight());
+    setAutoScroll(false);
+    if (all)
+        m_model.setAllFolded(on);
+    else
+        m_model.setFolded(folder, on);
+    setAutoScroll(true);
+    if (const int group = rows().groupOfFolder(folder); group >= 0)
+        scrollRowTo(rows().rowOfHeading(group), y);
+    if (m_rows.heading(currentIndex().row()))
+        tellReaders(QAccessible::NameChanged, currentIndex());
 }
 
 // Whether the next letter belongs to the name being typed.
@@ -266,7 +375,8 @@ void SidebarList::keyboardSearch(const QString& text)
     const int start = qMax(0, currentIndex().row()) + (sameLetter ? 1 : 0);
     for (int step = 0; step < count; ++step) {
         const int row = (start + step) % count;
-        if (m_rows.record(row)->fileName.startsWith(prefix, Qt::CaseInsensitive)) {
+        const ImageRecord* photo = m_rows.record(row);
+        if (photo && photo->fileName.startsWith(prefix, Qt::CaseInsensitive)) {
             choose(row, false, false);
             return;
         }
@@ -280,9 +390,11 @@ void SidebarList::mousePressEvent(QMouseEvent* event)
     setByKeyboard(false);
     if (event->button() != Qt::LeftButton)
         return;
-    const QModelIndex index = indexAt(event->position().toPoint());
-    if (index.isValid())
-        choose(index.row(), event->modifiers() & Qt::ShiftModifier, event->modifiers() & Qt::ControlModifier);
+    const int row = indexAt(event->position().toPoint()).row();
+    if (const FolderGroup* group = m_rows.heading(row))
+        setFolded(row, !group->isFolded, event->modifiers() & Qt::AltModifier);
+    else
+        choose(row, event->modifiers() & Qt::ShiftModifier, event->modifiers() & Qt::ControlModifier);
 }
 
 // Neither moving with a pressed button nor letting it go means anything here.
@@ -308,27 +420,20 @@ void SidebarList::mouseDoubleClickEvent(QMouseEvent* event)
 
 void SidebarList::resizeEvent(QResizeEvent* event)
 {
-    QListView::resizeEvent(event);
+    GroupedListView::resizeEvent(event);
     followScreen();
 }
 
 void SidebarList::scrollContentsBy(int dx, int dy)
 {
-    QListView::scrollContentsBy(dx, dy);
+    GroupedListView::scrollContentsBy(dx, dy);
     followScreen();
 }
 
 void SidebarList::updateGeometries()
 {
-    QListView::updateGeometries();
+    GroupedListView::updateGeometries();
     followScreen();
-}
-
-std::pair<int, int> SidebarList::rowsOnScreen() const
-{
-    const int first = verticalOffset() / SidebarDelegate::pitch();
-    const int last = (verticalOffset() + viewport()->height()) / SidebarDelegate::pitch();
-    return { qMax(0, first), qMin(last, m_rows.rowCount() - 1) };
 }
 
 // Other rows may be on screen now.
@@ -350,16 +455,6 @@ void SidebarList::tellInView()
         if (const ImageRecord* photo = m_rows.record(row))
             urls.append(photo->url);
     m_model.setInView(urls);
-}
-
-// Only what is on screen shows it. Rows are as high as ever: nothing has to be laid out again, as QListView would do.
-void SidebarList::dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles)
-{
-    const auto [top, bottom] = rowsOnScreen();
-    const int from = qMax(first.row(), top);
-    const int to = qMin(last.row(), bottom);
-    if (from <= to)
-        QAbstractItemView::dataChanged(m_rows.index(from), m_rows.index(to), roles);
 }
 
 void SidebarList::requestThumbnails()

@@ -2,10 +2,11 @@
 // Thread: the main thread. Only the rows on screen are ever laid out in detail, painted, or given thumbnails.
 #pragma once
 
+#include "core/schema/RecordSortOrder.h"
+#include "ui/sidebar/GroupedListView.h"
 #include "ui/sidebar/SidebarModel.h"
 
 #include <QElapsedTimer>
-#include <QListView>
 #include <QPointer>
 #include <QTimer>
 
@@ -17,7 +18,10 @@ class ThumbnailStore;
 /// A list view whose every choice goes through AppModel::tap(): clicks, arrows, Home, End, PageUp, PageDown (with
 /// Shift for a range, with Ctrl to move without choosing, then Space to add or take out), and typing a name's first
 /// letters. Enter and a double-click open the photo in the user's default application.
-class SidebarList final : public QListView {
+/// A folder's heading is folded and unfolded by a click, by Return and Space; with Alt all of them are. The keyboard
+/// stops at folded ones, passes over the others, and gets to them with Left, which folds; Right unfolds. Being on a
+/// heading selects nothing.
+class SidebarList final : public GroupedListView {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(SidebarList)
 
@@ -39,34 +43,50 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
     void focusInEvent(QFocusEvent* event) override;
-    void dataChanged(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles = {}) override;
     void paintEvent(QPaintEvent* event) override;
     void initViewItemOption(QStyleOptionViewItem* option) const override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 
 private:
     void showSelection();
+    void showReset();
+    void rememberPlace();
     void showPrimary();
+    void showCursor();
+    void goTo(int row);
     QItemSelection selectedRanges() const;
     bool moveCursor(const QKeyEvent& event);
-    int rowAfter(int key, int row) const;
+    bool moveAcross(const QKeyEvent& event);
+    std::optional<int> rowAfter(int key, int row, bool photosOnly) const;
+    int stop(int row, int step, bool photosOnly) const;
+    void setFolded(int heading, bool on, bool all);
     bool isTyping() const;
     void choose(int row, bool shift, bool command);
     void followScreen();
     void requestThumbnails();
     void tellInView();
     void repaintThumbnail(const QUrl& url);
-    std::pair<int, int> rowsOnScreen() const;
     QString emptyText() const;
     void setByKeyboard(bool on);
 
+    /// The photo that is seen first, and what it is seen in.
+    struct Place {
+        std::optional<QUrl> folder{};
+        QString search{};
+        RecordSortOrder order{};
+        QUrl photo{};
+        int y = 0;
+    };
+
     AppModel& m_model;
     QPointer<ThumbnailStore> m_thumbs;
-    SidebarModel m_rows;
+    SidebarModel& m_rows;  ///< a child of this: views outlive their members
     QTimer m_thumbnailsSoon;
     QTimer m_inViewSoon;
     bool m_hasToldInView = false;  ///< of what is open now
+    Place m_place;
     bool m_byKeyboard = false;
+    QUrl m_heading{};  ///< the folder whose heading the keyboard is on; empty: it is on a photo
     QString m_typed{};
     QElapsedTimer m_sinceTyped{};
 };

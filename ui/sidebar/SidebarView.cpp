@@ -97,6 +97,7 @@ SidebarView::SidebarView(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     column->addWidget(m_list, 1);
     column->addWidget(m_foot);
     connect(m_foot, &ProgressFoot::shownChanged, this, &SidebarView::footChanged);
+    connect(m_list, &GroupedListView::stuckLineMoved, this, &SidebarView::stuckLineMoved);
 }
 
 QWidget* SidebarView::buildHeader()
@@ -186,6 +187,12 @@ bool SidebarView::eventFilter(QObject* watched, QEvent* event)
 int SidebarView::listTop() const
 {
     return m_list->y();
+}
+
+std::optional<int> SidebarView::stuckLine() const
+{
+    const auto line = m_list->stuckLine();
+    return line ? std::optional(m_list->y() + *line) : std::nullopt;
 }
 
 QRect SidebarView::footRect() const

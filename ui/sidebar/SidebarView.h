@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 namespace Quorbel {
 
 class AppModel;
@@ -26,12 +28,16 @@ public:
     void focusSearch();
     /// y of the hairline between the search field and the list, device-independent pixels.
     int listTop() const;
+    /// y of the line under a folder's heading that stays at the top of the list; nothing while there is none.
+    std::optional<int> stuckLine() const;
     /// Where the foot of long work is; empty while there is none.
     QRect footRect() const;
 
 signals:
     /// The foot appeared or went.
     void footChanged();
+    /// stuckLine() may have another answer.
+    void stuckLineMoved();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

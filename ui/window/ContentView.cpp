@@ -58,6 +58,7 @@ public:
         setAttribute(Qt::WA_TransparentForMouseEvents);
         handle->installEventFilter(this);
         connect(sidebar, &SidebarView::footChanged, this, qOverload<>(&QWidget::update));
+        connect(sidebar, &SidebarView::stuckLineMoved, this, qOverload<>(&QWidget::update));
     }
 
 protected:
@@ -74,6 +75,8 @@ protected:
         QPainter painter(this);
         const int empty = width() - static_cast<ResizeHandle*>(parentWidget())->lineWidth();
         painter.fillRect(0, m_sidebar->listTop() - 1, empty, 1, theme.hair);
+        if (const auto line = m_sidebar->stuckLine(); line && *line >= m_sidebar->listTop())
+            painter.fillRect(0, *line, empty, 1, theme.line);
         if (const QRect foot = m_sidebar->footRect(); !foot.isEmpty()) {
             painter.fillRect(0, foot.top(), empty, foot.height(), theme.bg);
             painter.fillRect(0, foot.top(), empty, 1, theme.line);

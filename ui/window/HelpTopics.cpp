@@ -46,6 +46,7 @@ Page gettingStartedPage()
                 "agrees."_s),
             paragraph(u"To begin, open a folder of images or one or more image files:"_s),
             bullets({ u"Choose File ▸ Open… (⌘O), or drag photos onto the window."_s,
+                u"Choose File ▸ Open with Subfolders… (⌘⇧O) to open a folder with all the folders in it."_s,
                 u"Reopen something recent from File ▸ Open Recent."_s,
                 u"Right-click a photo in Finder and choose Open With ▸ Quorbel."_s }),
         } };
@@ -58,6 +59,8 @@ Page interfacePage()
             paragraph(u"The window has three regions:"_s),
             bullets({ u"Sidebar (left): every photo in the folder. Search and sort by name or date from "
                       "the controls at the top."_s,
+                u"With subfolders open, each folder has a heading. Click it, or press Return on it, to fold its "
+                "photos away; ⌥-click folds all. Left goes from a photo to its heading and folds, Right unfolds."_s,
                 u"Preview (center): a large preview column appears as you widen the window, so you "
                 "always see the photo you're tagging."_s,
                 u"Inspector (right): the editable fields, grouped as Common, Location and read-only "

@@ -2,12 +2,15 @@
 
 #include "app/model/AppModel.h"
 #include "ui/controls/Buttons.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/Toggles.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/window/ProgressFoot.h"
 
 #include <QHBoxLayout>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -26,6 +29,8 @@ constexpr qreal iconStroke = 1.15;  // in the icon's own 24×24 drawing
 constexpr qreal textGap = 16;
 constexpr qreal lineHeight = 18;
 constexpr qreal buttonsGap = 20;
+constexpr qreal switchGap = 18;
+constexpr qreal ringRoom = 4;
 
 // The launch palette: the same in light and dark, as nothing but a drag shows it.
 QColor targetedFill()
@@ -42,6 +47,27 @@ QColor targetedText()
 {
     return colorFromHex(u"3e5c2c"_s);
 }
+
+// The text beside a switch, which it flips too.
+class SwitchName final : public ThemedLabel {
+public:
+    SwitchName(const QString& text, QBSwitch* toggle)
+        : ThemedLabel(text, TextRole::label)
+        , m_toggle(toggle)
+    {
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+            m_toggle->click();
+    }
+
+private:
+    QBSwitch* m_toggle;
+};
 
 }  // namespace
 
@@ -104,11 +130,12 @@ private:
 LaunchView::LaunchView(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_box(new DropBox(this))
-    , m_folder(new QBButton(u"Open Folder…"_s, QBButtonKind::primary))
+    , m_subfolders(buildSubfolders(model))
     , m_progress(new ProgressFoot(model, this))
 {
+    auto* folder = new QBButton(u"Open Folder…"_s, QBButtonKind::primary);
     auto* image = new QBButton(u"Open Image…"_s, QBButtonKind::secondary);
-    connect(m_folder, &QAbstractButton::clicked, &model, &AppModel::openPanel);
+    connect(folder, &QAbstractButton::clicked, &model, &AppModel::openPanel);
     connect(image, &QAbstractButton::clicked, &model, &AppModel::openPanel);
 
     auto* column = new QVBoxLayout(this);
@@ -117,24 +144,47 @@ LaunchView::LaunchView(AppModel& model, QWidget* parent)
     column->addWidget(m_box, 0, Qt::AlignHCenter);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
-    buttons->addWidget(m_folder);
+    buttons->addWidget(folder);
     buttons->addWidget(image);
     buttons->addStretch();
     column->addLayout(buttons);
+    column->addWidget(m_subfolders, 0, Qt::AlignHCenter);
     column->addStretch();
-    column->setContentsMargins(0, 0, 0, 0);
     m_progress->setLined(false);
     onRestyle(this, [=] {
         buttons->setContentsMargins(0, px(buttonsGap), 0, 0);
         buttons->setSpacing(px(8));
+        column->setContentsMargins(0, px(ringRoom), 0, 0);  // as below the switch: what is seen is centred
     });
+}
+
+// A switch, and its name, which is a part of it for the pointer.
+QWidget* LaunchView::buildSubfolders(AppModel& model)
+{
+    Setting<bool>& setting = model.preferences().openSubfolders;
+    auto* toggle = new QBSwitch;
+    auto* name = new SwitchName(u"Open with subfolders"_s, toggle);
+    toggle->setAccessibleName(name->text());
+    toggle->setChecked(setting());
+    connect(toggle, &QAbstractButton::toggled, &model, [&setting](bool on) { setting.set(on); });
+    connect(&model.preferences(), &Preferences::changed, toggle, [toggle, &setting] { toggle->setChecked(setting()); });
+    auto* row = new QWidget(this);
+    auto* line = new QHBoxLayout(row);
+    line->addWidget(toggle);
+    line->addWidget(name);
+    onRestyle(row, [line] {
+        // Room for a focus ring, which no part of the gaps is.
+        line->setContentsMargins(px(ringRoom), px(switchGap), px(ringRoom), px(ringRoom));
+        line->setSpacing(px(10));
+    });
+    return row;
 }
 
 // Below what is centred, and no part of it: nothing moves when it appears.
 void LaunchView::placeProgress()
 {
     const int width = px(boxSize.width());
-    const int top = m_folder->geometry().bottom() + 1 + px(buttonsGap);
+    const int top = m_subfolders->geometry().bottom() + 1 - px(ringRoom) + px(buttonsGap);
     m_progress->setGeometry((this->width() - width) / 2, top, width, m_progress->sizeHint().height());
 }
 

@@ -1,4 +1,5 @@
-// What fills the window while nothing is open: a box to drop things on, and two buttons.
+// What fills the window while nothing is open: a box to drop things on, two buttons, and whether
+// what is in a folder's folders is opened with it.
 // Thread: the main thread. The window handles the drops; this shows that one hovers.
 #pragma once
 
@@ -9,7 +10,6 @@ namespace Quorbel {
 class AppModel;
 class DropBox;
 class ProgressFoot;
-class QBButton;
 
 class LaunchView final : public QWidget {
     Q_OBJECT
@@ -26,10 +26,11 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    QWidget* buildSubfolders(AppModel& model);
     void placeProgress();
 
     DropBox* m_box;
-    QBButton* m_folder;
+    QWidget* m_subfolders;
     ProgressFoot* m_progress;
 };
 

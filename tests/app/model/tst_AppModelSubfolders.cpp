@@ -170,6 +170,7 @@ void tst_AppModelSubfolders::whoAsksForThem()
     QFETCH(bool, isWithThem);
     Tree f;
     f.services.openPanel = [&f](const auto& done) { done({ f.folderURL() }); };
+    f.services.openFolderPanel = f.services.openPanel;
     f.relaunch();
     f->preferences().openSubfolders.set(setting);
     f.relaunch();

@@ -447,9 +447,9 @@ void tst_Shell::openPanelTakesFoldersAndFiles()
     folder.add(u"a.jpg"_s);
     QVERIFY(QDir(folder.path()).mkdir(u"inner"_s));
     QWidget window;
-    const auto choose = [&](const std::function<void(OpenPanel&)>& use) {
+    const auto chooseOf = [&](OpenPanel::Choice choice, const std::function<void(OpenPanel&)>& use) {
         std::optional<QList<QUrl>> chosen;
-        OpenPanel::open(&window, Theme::light(), [&](const QList<QUrl>& urls) { chosen = urls; });
+        OpenPanel::open(&window, Theme::light(), choice, [&](const QList<QUrl>& urls) { chosen = urls; });
         auto* panel = window.findChild<OpenPanel*>();
         panel->setDirectory(folder.path());
         use(*panel);
@@ -469,10 +469,16 @@ void tst_Shell::openPanelTakesFoldersAndFiles()
             QTest::mouseClick(panel.findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
         };
     };
+    const auto choose = [&](const auto& use) { return chooseOf(OpenPanel::Choice::any, use); };
     QCOMPARE(choose(typed(u"a.jpg"_s)), QList<QUrl>{ folder.url(u"a.jpg"_s) });
     QCOMPARE(choose(typed(folder.path(u"inner"_s))), QList<QUrl>{ folder.url(u"inner"_s) });
     QCOMPARE(choose(press(QDialogButtonBox::Open)), QList<QUrl>{ QUrl::fromLocalFile(folder.path()) });
     QCOMPARE(choose(press(QDialogButtonBox::Cancel)), QList<QUrl>{});
+
+    const auto chooseFolder = [&](const auto& use) { return chooseOf(OpenPanel::Choice::folder, use); };
+    QCOMPARE(chooseFolder(typed(u"inner"_s)), QList<QUrl>{ folder.url(u"inner"_s) });
+    QCOMPARE(chooseFolder(press(QDialogButtonBox::Open)), QList<QUrl>{ QUrl::fromLocalFile(folder.path()) });
+    QVERIFY(!chooseFolder(typed(folder.path(u"a.jpg"_s))));  // no folder: the panel stays
 }
 
 int main(int argc, char* argv[])

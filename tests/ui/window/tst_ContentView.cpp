@@ -14,6 +14,7 @@
 #include "ui/window/WindowGrowth.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -77,6 +78,7 @@ class tst_ContentView : public QObject {
 private slots:
     void init() { failOnWarnings(); }
     void launchViewUntilPhotosAreOpen();
+    void subfoldersAreOpenedWhereTheSwitchSaysSo();
     void theKeyboardIsNotLost_data();
     void theKeyboardIsNotLost();
     void theDragLineIsWhole();
@@ -118,7 +120,7 @@ void tst_ContentView::launchViewUntilPhotosAreOpen()
     const auto* launch = fixture.window->findChild<LaunchView*>();
     const auto inLaunch = [launch](QWidget* widget) { return QRect(widget->mapTo(launch, QPoint()), widget->size()); };
     QWidget* box = launch->findChild<QWidget*>(u"dropBox"_s);
-    const QRect block = inLaunch(box).united(inLaunch(fixture.button(u"Open Folder…"_s)));
+    const QRect block = inLaunch(box).united(inLaunch(fixture.button(u"Open with subfolders"_s)));
     QVERIFY(std::abs(block.center().y() - launch->rect().center().y()) <= 1);
 
     fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
@@ -132,6 +134,36 @@ void tst_ContentView::launchViewUntilPhotosAreOpen()
 
     fixture.model->closeFolder();
     QVERIFY(fixture.window->findChild<LaunchView*>()->isVisible());
+}
+
+// By mouse, by its name beside it and by keyboard; remembered; followed by a drop.
+void tst_ContentView::subfoldersAreOpenedWhereTheSwitchSaysSo()
+{
+    WindowFixture fixture;
+    fixture.show();
+    const auto toggle = [&] { return fixture.button(u"Open with subfolders"_s); };
+    const auto isOn = [&] { return fixture.model->preferences().openSubfolders(); };
+    QVERIFY(!toggle()->isChecked() && !isOn());
+    QTest::mouseClick(toggle(), Qt::LeftButton);
+    QVERIFY(toggle()->isChecked() && isOn());
+    QWidget* name = toggle()->parentWidget()->findChild<QLabel*>();
+    QTest::mouseClick(name, Qt::LeftButton);
+    QVERIFY(!toggle()->isChecked() && !isOn());
+    QTest::keyClick(toggle(), Qt::Key_Space);
+    QVERIFY(isOn());
+    fixture.window.reset();
+    fixture.model.relaunch();
+    fixture.build();
+    fixture.show();
+    QVERIFY(toggle()->isChecked());
+
+    QVERIFY(QDir(fixture.model.folder.path()).mkdir(u"inner"_s));
+    fixture.model.addTitled({ u"a.jpg"_s, u"inner/b.jpg"_s });
+    QVERIFY(drag<QDragEnterEvent>(fixture.window.get(), { fixture.model.folderURL() }));
+    QVERIFY(drag<QDropEvent>(fixture.window.get(), { fixture.model.folderURL() }));
+    QVERIFY(fixture.model.waitUntilIdle());
+    QCOMPARE(fixture.model.visible(), (QStringList{ u"a.jpg"_s, u"b.jpg"_s }));
+    QCOMPARE(fixture.content->bar()->accessibleDescription(), u"2 photos in 2 folders"_s);
 }
 
 void tst_ContentView::theKeyboardIsNotLost_data()

@@ -11,6 +11,8 @@
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QListWidget>
 #include <QMenu>
 #include <QRegularExpression>
@@ -68,15 +70,17 @@ std::unique_ptr<QMainWindow> makeWindow(InspectorFixture& f, SystemScheme& schem
 
 class Walk {
 public:
-    Walk(InspectorFixture& photos, InspectorFixture& none, QSize size)
+    Walk(InspectorFixture& photos, InspectorFixture& folders, InspectorFixture& none, QSize size)
         : m_photos(photos)
         , m_size(size)
         , m_window(makeWindow(photos, m_scheme, size))
+        , m_folders(makeWindow(folders, m_scheme, size))
         , m_empty(makeWindow(none, m_scheme, size))
         , m_settings(new SettingsView(photos.model(), nullptr))
         , m_help(new HelpView)
     {
-        for (QWidget* shown : QList<QWidget*>{ m_window.get(), m_empty.get(), m_settings.get(), m_help.get() })
+        for (QWidget* shown :
+            QList<QWidget*>{ m_window.get(), m_folders.get(), m_empty.get(), m_settings.get(), m_help.get() })
             shown->show();
         for (QWidget* second : QList<QWidget*>{ m_settings.get(), m_help.get() })
             setTheme(second, Theme::light());
@@ -88,7 +92,8 @@ public:
     {
         Scenes seen;
         settle();
-        seen.insert(u"empty"_s, audit(m_empty.get()));
+        look(seen, u"empty"_s, *m_empty);
+        look(seen, u"subfolders"_s, *m_folders);
         seen.insert(u"settings"_s, audit(m_settings.get()));
         auto* topics = m_help->findChild<QListWidget*>();
         for (int row = 0; row < topics->count(); ++row) {
@@ -105,7 +110,7 @@ private:
     // A window that grew for larger text is looked at in the size that is asked for.
     void settle() const
     {
-        for (QMainWindow* window : { m_window.get(), m_empty.get() }) {
+        for (QMainWindow* window : { m_window.get(), m_folders.get(), m_empty.get() }) {
             window->setMinimumSize(0, 0);
             window->resize(m_size);
         }
@@ -113,13 +118,14 @@ private:
             InspectorFixture::settle();
     }
 
-    void look(Scenes& seen, const QString& name)
+    void look(Scenes& seen, const QString& name) { look(seen, name, *m_window); }
+    void look(Scenes& seen, const QString& name, QMainWindow& window)
     {
         settle();
         if (const QString folder = qEnvironmentVariable("QUORBEL_TEST_PICTURES"); !folder.isEmpty())
-            m_window->grab().save(
+            window.grab().save(
                 u"%1/%2-%3-%4pt.png"_s.arg(folder, name).arg(m_size.width()).arg(QApplication::font().pointSizeF()));
-        seen.insert(name, audit(m_window.get()));
+        seen.insert(name, audit(&window));
     }
 
     void single(Scenes& seen)
@@ -175,6 +181,7 @@ private:
     QSize m_size;
     SystemScheme m_scheme;
     std::unique_ptr<QMainWindow> m_window;
+    std::unique_ptr<QMainWindow> m_folders;
     std::unique_ptr<QMainWindow> m_empty;
     std::unique_ptr<SettingsView> m_settings;
     std::unique_ptr<HelpView> m_help;
@@ -196,6 +203,7 @@ private slots:
 
 private:
     std::unique_ptr<InspectorFixture> m_photos;
+    std::unique_ptr<InspectorFixture> m_folders;
     std::unique_ptr<InspectorFixture> m_none;
     QMap<int, Scenes> m_usual;  // by the window's width
 };
@@ -206,6 +214,14 @@ void tst_TextSizes::initTestCase()
     setTextSize(10);
     m_photos = std::make_unique<InspectorFixture>();
     m_none = std::make_unique<InspectorFixture>();
+    m_folders = std::make_unique<InspectorFixture>();
+    for (const QString& name : { u"Alps/2x2 Lake/a.jpg"_s, u"Alps/Pass/b.jpg"_s, u"Zoo/c.jpg"_s, u"Zoo/d.jpg"_s }) {
+        QVERIFY(QDir(m_folders->photos.folder.path()).mkpath(QFileInfo(name).path()));
+        m_folders->photos.folder.add(name);
+    }
+    m_folders->model().preferences().openSubfolders.set(true);
+    QVERIFY(m_folders->photos.open());
+    m_folders->model().setFolded(m_folders->photos.url(u"Alps/Pass"_s), true);
     m_photos->add(u"1x1_a.jpg"_s,
         { u"-XMP-dc:Title=Evening by the lake"_s, u"-EXIF:DateTimeOriginal=2024:10:12 17:48:00"_s,
             u"-EXIF:OffsetTimeOriginal=+02:00"_s, u"-IPTC:Keywords=lake"_s, u"-IPTC:Keywords=13x18"_s,
@@ -219,7 +235,7 @@ void tst_TextSizes::initTestCase()
     m_photos->model().addKnownField(u"headline"_s);
     // The second is the narrowest in which the preview takes room from the inspector.
     for (const QSize size : { QSize(900, 600), QSize(1100, 600), QSize(1600, 1000) })
-        m_usual.insert(size.width(), Walk(*m_photos, *m_none, size).scenes());
+        m_usual.insert(size.width(), Walk(*m_photos, *m_folders, *m_none, size).scenes());
 }
 
 // A small window with one of every fault; and the same without.
@@ -287,7 +303,7 @@ void tst_TextSizes::nothingIsLostAtAnySize()
     QFETCH(bool, whileRunning);
     if (!whileRunning)
         setTextSize(points);
-    Walk walk(*m_photos, *m_none, window);
+    Walk walk(*m_photos, *m_folders, *m_none, window);
     setTextSize(points);
     const Scenes seen = walk.scenes();
     QMap<QString, QString> faults;  // and a scene that each is seen in
