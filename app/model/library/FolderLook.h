@@ -29,6 +29,7 @@ struct Watching {
 struct FolderLook {
     FolderNews news{};
     Watching watching{};
+    bool isOutdated = false;  ///< folders are watched only since they were looked at: another look must follow
     std::chrono::milliseconds taken{};
 
     struct Question {

@@ -52,6 +52,7 @@ void FolderRefresh::begin(const QList<QUrl>& folders, bool withSubfolders)
     m_reads = 0;
     m_isRefreshing = false;
     m_again = false;
+    m_isAsked = false;
     m_sinceEmptied.invalidate();
     m_passedOverUnread = false;
     m_folders = m_photos.files() ? folders : QList<QUrl>();
@@ -115,6 +116,8 @@ void FolderRefresh::takeLook(const FolderLook& look)
 
 void FolderRefresh::planNext(const FolderLook& look)
 {
+    if (look.isOutdated)
+        m_times.lookSoon({});
     // Where a folder is not there, nobody will tell that it is again.
     if (look.watching.how == Watching::How::looking || look.news.isAway || m_passedOverUnread)
         m_times.goOn(look.taken);

@@ -8,6 +8,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString pathIn(const QString& folder, const QString& name)
@@ -34,7 +36,7 @@ struct KnownFiles::Comparison {
 
 private:
     bool isAway(const QString& path, const FolderScan::Folder& found) const;
-    const FolderScan::Folder* nearest(QString path) const;
+    QString nearest(QString path) const;
     void compare(const QString& path, const Folder& folder);
     void lookForFurther(const QString& path, const FolderScan::Folder& found);
     bool isNews(const QString& path, const FolderFiles::Stamp& stamp) const;
@@ -45,7 +47,9 @@ void KnownFiles::Comparison::run()
     for (auto found = scan.folders.cbegin(); found != scan.folders.cend(); ++found)
         if (isAway(found.key(), found.value()))
             away.insert(found.key());
-    news.isAway = !away.isEmpty();
+    // One of the folders that were given; of those in it, only those that held photos are missed.
+    news.isAway = std::any_of(away.cbegin(), away.cend(),
+        [this](const QString& path) { return nearest(PhotoPlace::of(path).folder).isEmpty() || path == u"/"_s; });
     for (auto folder = known.m_folders.cbegin(); folder != known.m_folders.cend(); ++folder)
         compare(folder.key(), folder.value());
     for (auto found = scan.folders.cbegin(); found != scan.folders.cend(); ++found)
@@ -64,24 +68,25 @@ bool KnownFiles::Comparison::isAway(const QString& path, const FolderScan::Folde
     return found.photos.isEmpty() && !found.hasFolders && device != known.m_devices.cend() && *device != found.device;
 }
 
-// The folder itself, or the nearest one around it that was listed; null when none can speak for it.
-const FolderScan::Folder* KnownFiles::Comparison::nearest(QString path) const
+// The folder itself, or the nearest one around it that was looked at; "" where there is none: then it is not about it.
+QString KnownFiles::Comparison::nearest(QString path) const
 {
-    while (true) {
-        if (const auto found = scan.folders.constFind(path); found != scan.folders.cend())
-            return away.contains(path) ? nullptr : &*found;
-        const qsizetype slash = path.lastIndexOf(u'/');
-        if (slash < 0 || path.size() == 1)
-            return nullptr;
-        path.truncate(std::max<qsizetype>(slash, 1));
+    while (!path.isEmpty() && !scan.folders.contains(path)) {
+        const QString around = PhotoPlace::of(path).folder;
+        path = around == path ? QString() : around;
     }
+    return path;
 }
 
 void KnownFiles::Comparison::compare(const QString& path, const Folder& folder)
 {
-    const FolderScan::Folder* around = nearest(path);
-    if (!around)
+    const QString speaker = nearest(path);
+    if (folder.dates.isEmpty() || speaker.isEmpty())
         return;
+    if (away.contains(speaker)) {
+        news.isAway = true;
+        return;
+    }
     const auto found = scan.folders.constFind(path);
     const bool isThere = found != scan.folders.cend();
     QList<QUrl>& gone = isThere && found->photos.isEmpty() ? news.emptied : news.gone;

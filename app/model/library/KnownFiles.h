@@ -18,7 +18,8 @@ struct FolderNews {
         QUrl url{};
         FolderFiles::Stamp stamp{};  ///< as it was seen
     };
-    /// A folder is gone, may not be read, or lies on a disk that is not there: nothing can be said of its photos.
+    /// A folder that was given, or holds known photos, is gone, may not be read, or lies on a disk that is not there:
+    /// nothing can be said of its photos.
     bool isAway = false;
     QList<QUrl> gone{};
     /// Gone as well, from folders that hold no photo any more. One that is being removed is empty for a moment before
