@@ -190,6 +190,11 @@ void Library::endListing()
 {
     ++m_loads;
     m_walk.reset();
+    endListingTask();
+}
+
+void Library::endListingTask()
+{
     if (!m_listing)
         return;
     m_tasks.stop(*m_listing);
@@ -254,6 +259,8 @@ void Library::takeFirst()
 {
     if (m_next->reading->hasRead()) {
         m_next->hasArrived = true;
+        // It may take its time until somebody opens it: the walk rests.
+        endListingTask();
         return emit arrived();
     }
     if (m_walk) {
@@ -320,6 +327,8 @@ void Library::show(const std::shared_ptr<Load>& load)
     takeRead(load->early, load->unreadable);
     m_reading->setPace(PhotoReading::Pace::all);
     if (m_walk) {
+        if (!m_listing)
+            beginListing();
         m_walk->watched = load->listing.watched();
         m_walk->isShown = true;
         m_walk->pieces->setPaused(false);

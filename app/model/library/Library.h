@@ -97,6 +97,7 @@ private:
     std::unique_ptr<PhotoReading> newReading();
     void follow(std::unique_ptr<PhotoReading> reading);
     void endListing();
+    void endListingTask();
     void forgetNext();
     void dropNext();
     void sayNothingFound(const QList<LeftOut>& leftOut);
