@@ -59,6 +59,11 @@ JournalEntry MetadataService::journalEntry(const EditPlan& plan, const QList<QUr
     return SaveUndo::journalEntry(runner, plan, targets, options, fileTypes);
 }
 
+OldValues MetadataService::oldValues(const QList<QUrl>& targets, const ReadControl& control) const
+{
+    return SaveUndo::oldValues(runner, targets, control);
+}
+
 QHash<QUrl, FileTags> MetadataService::stored(
     const EditPlan& plan, const QList<QUrl>& targets, const ReadControl& control) const
 {

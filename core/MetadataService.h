@@ -35,6 +35,7 @@ struct MetadataService {
     /// See SaveUndo.
     JournalEntry journalEntry(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options = {},
         QHash<QString, QString>* fileTypes = nullptr) const;
+    OldValues oldValues(const QList<QUrl>& targets, const ReadControl& control = {}) const;
     /// What the files behind the targets hold in the tags of the plan, as it is stored: one run, for the targets that
     /// could be read. Throws the runner's errors.
     QHash<QUrl, FileTags> stored(

@@ -1,6 +1,7 @@
 #include "core/save/journal/JournalTags.h"
 
 #include "core/save/EditPlan.h"
+#include "core/schema/FieldSchema.h"
 #include "core/tool/IptcEncoding.h"
 #include "core/tool/MetadataWriter.h"
 
@@ -32,6 +33,53 @@ const QStringList& languageTags()
 bool isPosition(const QString& tag)
 {
     return tag.startsWith(u"GPS"_s) && !tag.contains(u':');
+}
+
+// What is asked for, to know what those tags hold: "XMP-dc:Title", "XMP-dc:Title-*".
+QStringList selection(const QStringList& writtenTags)
+{
+    QStringList wanted;
+    for (const auto& tag : writtenTags) {
+        if (tag.startsWith(customGroupPrefix()))
+            continue;  // all of the group are read at once, below
+        if (isPosition(tag))
+            wanted << u"GPS:"_s + tag << u"XMP:"_s + tag;
+        else
+            wanted << tag;
+        if (languageTags().contains(tag))
+            wanted << tag + u"-*"_s;
+        if (tag == IptcEncoding::blockTag())
+            wanted << u"IPTC:CodedCharacterSet"_s;  // tells what became of several blocks
+    }
+    if (std::any_of(writtenTags.cbegin(), writtenTags.cend(),
+            [](const QString& tag) { return tag.startsWith(customGroupPrefix()); }))
+        wanted << customGroupPrefix() + u"all"_s;
+    return wanted;
+}
+
+// Whether a tag of this group, as the tool names the exact one in its answers, is of the group that was asked for.
+bool isOf(QStringView group, QStringView found)
+{
+    const bool isXmp = found.startsWith(u"XMP");
+    const bool isIptc = found.startsWith(u"IPTC");  // "IPTC2" is the second block
+    if (group == u"XMP")
+        return isXmp;
+    if (group == u"IPTC")
+        return isIptc;
+    return group == u"EXIF" ? !isXmp && !isIptc : group == found;
+}
+
+// Whether the tool answers with this tag ("IFD0:Artist") when it is asked for that one ("EXIF:Artist").
+bool selects(const QString& wanted, const QString& tag)
+{
+    const QStringView name = QStringView(wanted).sliced(wanted.indexOf(u':') + 1);
+    const QStringView found = QStringView(tag).sliced(tag.indexOf(u':') + 1);
+    if (!isOf(QStringView(wanted).first(wanted.indexOf(u':')), QStringView(tag).first(tag.indexOf(u':'))))
+        return false;
+    if (name == u"all")
+        return true;
+    return name.endsWith(u'*') ? found.startsWith(name.chopped(1), Qt::CaseInsensitive)
+                               : found.compare(name, Qt::CaseInsensitive) == 0;
 }
 
 // As the tool's option "-ec" reads it: whatever an argument cannot hold (NUL, bytes that are no text) as "\xHH".
@@ -113,25 +161,37 @@ QStringList writtenTags(const EditPlan& plan)
     return tags;
 }
 
+const QStringList& allTags()
+{
+    static const QStringList tags = [] {
+        EditPlan plan{ .customs = { { u"Any"_s, {} } } };
+        for (const FieldSpec& field : FieldSchema::all()) {
+            if (field.isList())
+                plan.lists.insert(field.id, {});
+            else
+                plan.scalars.insert(field.id, {});
+        }
+        return writtenTags(plan) << IptcEncoding::blockTag();
+    }();
+    return tags;
+}
+
 QStringList readArgs(const QStringList& writtenTags)
 {
     QStringList args = TagDump::options();
-    for (const auto& tag : writtenTags) {
-        if (tag.startsWith(customGroupPrefix()))
-            continue;  // all of the group are read at once, below
-        if (isPosition(tag))
-            args << u"-GPS:"_s + tag << u"-XMP:"_s + tag;
-        else
-            args << u'-' + tag;
-        if (languageTags().contains(tag))
-            args << u'-' + tag + u"-*"_s;
-        if (tag == IptcEncoding::blockTag())
-            args << u"-IPTC:CodedCharacterSet"_s;  // tells what became of several blocks
-    }
-    if (std::any_of(writtenTags.cbegin(), writtenTags.cend(),
-            [](const QString& tag) { return tag.startsWith(customGroupPrefix()); }))
-        args << u'-' + customGroupPrefix() + u"all"_s;
+    for (const QString& tag : selection(writtenTags))
+        args << u'-' + tag;
     return args;
+}
+
+FileTags among(const FileTags& tags, const QStringList& writtenTags)
+{
+    const QStringList wanted = selection(writtenTags);
+    FileTags found;
+    for (auto it = tags.cbegin(); it != tags.cend(); ++it)
+        if (std::any_of(wanted.cbegin(), wanted.cend(), [&](const QString& one) { return selects(one, it.key()); }))
+            found.insert(it.key(), *it);
+    return found;
 }
 
 WriteCommand restoreCommand(const JournalEntry& entry, const JournalFile& file)

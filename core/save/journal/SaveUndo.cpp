@@ -2,9 +2,9 @@
 
 #include "core/save/Companions.h"
 #include "core/save/EditPlan.h"
-#include "core/save/journal/JournalTags.h"
 #include "core/save/SafeWriter.h"
 #include "core/save/SaveGuard.h"
+#include "core/save/journal/JournalTags.h"
 #include "core/schema/CustomFields.h"
 #include "core/tool/ExifToolRunner.h"
 
@@ -18,6 +18,11 @@ namespace Quorbel::SaveUndo {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+QString typeTag()
+{
+    return u"File:FileType"_s;
+}
 
 QSet<QUrl> setOf(const QList<QUrl>& urls)
 {
@@ -41,6 +46,37 @@ QList<QUrl> withoutBlocked(const QList<QUrl>& files, QList<FileFailure>& failure
         }
     }
     return writable;
+}
+
+OldValues read(
+    const ExifToolRunner& runner, const QStringList& tags, const QList<QUrl>& files, const ReadControl& control)
+{
+    return TagDump::parse(runner.readDump(JournalTags::readArgs(tags) << u'-' + typeTag(), files, control));
+}
+
+// `held`: the tags of the plan alone, and the types of the files.
+JournalEntry entryOf(const OldValues& held, const EditPlan& plan, const QList<QUrl>& targets,
+    const WriteOptions& options, QHash<QString, QString>* fileTypes)
+{
+    JournalEntry entry{ .savedAt = QDateTime::currentDateTimeUtc(),
+        .writtenTags = JournalTags::writtenTags(plan),
+        .customNames = CustomFields::names(plan.customs) };
+    const auto files = SaveGuard::filesBehindLinks(targets);
+    for (qsizetype i = 0; i < files.size() && !entry.writtenTags.isEmpty(); ++i) {
+        const QString path = files[i].toLocalFile();
+        const auto before = held.constFind(QFile::encodeName(path));
+        const auto stamp = FileStamp::of(path);
+        if (!stamp || before == held.cend())
+            continue;
+        JournalFile file{ .path = path, .before = *stamp, .after = *stamp, .tags = *before };
+        const QList<QByteArray> type = file.tags.take(typeTag());
+        if (fileTypes && !type.isEmpty())
+            fileTypes->insert(path, QString::fromUtf8(type.constFirst()));
+        if (options.writeSidecar)
+            file.sidecar = JournalSidecar::of(Companions::sidecarPath(targets[i].toLocalFile()));
+        entry.files.append(file);
+    }
+    return entry;
 }
 
 // One attempt to take a save back.
@@ -150,31 +186,31 @@ private:
 
 }  // namespace
 
+OldValues oldValues(const ExifToolRunner& runner, const QList<QUrl>& targets, const ReadControl& control)
+{
+    return read(runner, JournalTags::allTags(), SaveGuard::filesBehindLinks(targets), control);
+}
+
 JournalEntry journalEntry(const ExifToolRunner& runner, const EditPlan& plan, const QList<QUrl>& targets,
     const WriteOptions& options, QHash<QString, QString>* fileTypes)
 {
-    const QString typeTag = u"File:FileType"_s;
-    JournalEntry entry{ .savedAt = QDateTime::currentDateTimeUtc(),
-        .writtenTags = JournalTags::writtenTags(plan),
-        .customNames = CustomFields::names(plan.customs) };
-    if (entry.writtenTags.isEmpty() || targets.isEmpty())
-        return entry;
-    const auto files = SaveGuard::filesBehindLinks(targets);
-    auto tags = TagDump::parse(runner.readDump(JournalTags::readArgs(entry.writtenTags) << u'-' + typeTag, files));
-    for (qsizetype i = 0; i < files.size(); ++i) {
-        const QString path = files[i].toLocalFile();
-        const auto before = tags.find(QFile::encodeName(path));
-        const auto stamp = FileStamp::of(path);
-        if (!stamp || before == tags.end())
-            continue;
-        const QList<QByteArray> type = before->take(typeTag);
-        if (fileTypes && !type.isEmpty())
-            fileTypes->insert(path, QString::fromUtf8(type.constFirst()));
-        entry.files.append({ .path = path, .before = *stamp, .after = *stamp, .tags = *before });
-        if (options.writeSidecar)
-            entry.files.last().sidecar = JournalSidecar::of(Companions::sidecarPath(targets[i].toLocalFile()));
+    const QStringList tags = JournalTags::writtenTags(plan);
+    if (tags.isEmpty())
+        return entryOf({}, plan, targets, options, fileTypes);
+    return entryOf(read(runner, tags, SaveGuard::filesBehindLinks(targets), {}), plan, targets, options, fileTypes);
+}
+
+JournalEntry journalEntry(const OldValues& known, const EditPlan& plan, const QList<QUrl>& targets,
+    const WriteOptions& options, QHash<QString, QString>* fileTypes)
+{
+    const QStringList tags = JournalTags::writtenTags(plan);
+    OldValues concerned;
+    for (auto file = known.cbegin(); file != known.cend(); ++file) {
+        FileTags& held = concerned[file.key()] = JournalTags::among(*file, tags);
+        if (const auto type = file->constFind(typeTag()); type != file->cend())
+            held.insert(type.key(), *type);
     }
-    return entry;
+    return entryOf(concerned, plan, targets, options, fileTypes);
 }
 
 UndoOutcome undo(const ExifToolRunner& runner, const JournalEntry& entry)
