@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFileInfo>
 #include <QThreadPool>
 
 namespace Quorbel {
@@ -91,7 +92,7 @@ void QuorbelApp::tidy()
     m_thumbnails->pruneDisk();
     QThreadPool::globalInstance()->start([] {
         TemporaryFiles::clearAbandoned();
-        TemporaryFiles::clearHalfWritten(leftEditsPath());
+        TemporaryFiles::clearHalfWritten(QFileInfo(leftEditsPath()).path());
     });
 }
 

@@ -40,14 +40,7 @@ int clearAbandoned(const QString& folder, const QDateTime& now)
     return clear(QDir(folder), u"quorbel-*.conf*"_s, ours, now);
 }
 
-int clearHalfWritten(const QString& path, const QDateTime& now)
-{
-    const QFileInfo file(path);
-    const QRegularExpression ours(u'^' + QRegularExpression::escape(file.fileName()) + u"\\.\\w{6}$"_s);
-    return clear(file.dir(), u"*.??????"_s, ours, now);
-}
-
-int clearHalfWrittenIn(const QString& folder, const QDateTime& now)
+int clearHalfWritten(const QString& folder, const QDateTime& now)
 {
     static const QRegularExpression ours(u"\\.json\\.\\w{6}$"_s);
     return clear(QDir(folder), u"*.json.??????"_s, ours, now);

@@ -12,10 +12,8 @@ namespace Quorbel::TemporaryFiles {
 QString newConfigName();
 /// Removes such files of this user that are more than an hour old: no save takes that long. How many there were.
 int clearAbandoned(const QString& folder = QDir::tempPath(), const QDateTime& now = QDateTime::currentDateTime());
-/// Removes half-written versions of this file that are more than an hour old: "<name>.<six characters>" beside it, as
-/// QSaveFile leaves them when the process is killed. How many there were.
-int clearHalfWritten(const QString& path, const QDateTime& now = QDateTime::currentDateTime());
-/// The same for all JSON files in a folder of ours.
-int clearHalfWrittenIn(const QString& folder, const QDateTime& now = QDateTime::currentDateTime());
+/// Removes half-written JSON files from a folder of ours that are more than an hour old: "<name>.json.<six
+/// characters>", as QSaveFile leaves them when the process is killed. How many there were.
+int clearHalfWritten(const QString& folder, const QDateTime& now = QDateTime::currentDateTime());
 
 }  // namespace Quorbel::TemporaryFiles

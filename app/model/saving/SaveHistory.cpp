@@ -109,7 +109,8 @@ SaveHistory::Undoable SaveHistory::addUnknown()
 // The mutex is held. Whoever takes the last save back must not take back the one before it.
 void SaveHistory::passOver()
 {
-    m_unreachable = std::max(m_newest, m_journal.saves().value(m_journal.saves().size() - 1));
+    const QList<qint64> saves = m_journal.saves();
+    m_unreachable = std::max(m_newest, saves.isEmpty() ? 0 : saves.constLast());
 }
 
 void SaveHistory::noteRename(const QString& from, const QString& to)

@@ -324,7 +324,7 @@ void SaveJournal::takeOver(const QString& oldJournal) const
 
 void SaveJournal::tidy() const
 {
-    TemporaryFiles::clearHalfWrittenIn(m_folder);
+    TemporaryFiles::clearHalfWritten(m_folder);
 }
 
 }  // namespace Quorbel

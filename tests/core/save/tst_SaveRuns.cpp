@@ -4,8 +4,8 @@
 #include "core/save/SaveVerification.h"
 #include "core/save/originals/OriginalKeeper.h"
 #include "core/save/originals/OriginalsFolder.h"
+#include "tests/support/RealService.h"
 #include "tests/support/RefusedExif.h"
-#include "tests/support/Support.h"
 
 #include <QDir>
 #include <QFile>
@@ -22,16 +22,6 @@ using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-MetadataService realService()
-{
-    return { realTool() };
-}
-
-QByteArray field(const QUrl& photo, const QString& tag)
-{
-    return exiftool({ u"-s3"_s, u"-a"_s, tag, photo.toLocalFile() }).trimmed();
-}
 
 QByteArray iptcBlock(const QUrl& photo)
 {
@@ -50,19 +40,6 @@ State stateOf(const QUrl& photo)
     struct stat status { };
     stat(QFile::encodeName(photo.toLocalFile()).constData(), &status);
     return { readFile(photo.toLocalFile()), status.st_ino, status.st_mtim.tv_nsec };
-}
-
-// What the save said; empty when it worked.
-QString problem(const std::function<void()>& call)
-{
-    try {
-        call();
-    } catch (const ToolError& error) {
-        return error.messages();
-    } catch (const Error& error) {
-        return error.description();
-    }
-    return {};
 }
 
 const EditPlan captioned{ .scalars = { { "title", u"東京"_s }, { "description", u"塔"_s } } };
@@ -121,7 +98,7 @@ private slots:
         if (hasBackup)
             QCOMPARE(readFile(folder.path(u"a.jpg_original"_s)), QByteArray("an older backup"));
         QCOMPARE(FileStamp::of(refused.toLocalFile()), entry.files.constFirst().before);  // nothing to undo
-        QCOMPARE(field(taken, u"-IPTC:ObjectName"_s), "東京");
+        QCOMPARE(tagValue(taken, u"-IPTC:ObjectName"_s), "東京");
     }
 
     // A run that is killed names nobody: what it did not get to is put back, what it did is saved.
@@ -159,9 +136,9 @@ private slots:
 
         plan.leftOut = { u"EXIF"_s };
         service.write(plan, { broken }, {});
-        QCOMPARE(field(broken, u"-IPTC:ObjectName"_s), "東京");
-        QCOMPARE(field(broken, u"-XMP-dc:Description"_s), "塔");
-        QCOMPARE(field(broken, u"-XMP-Quorbel:Mood"_s), "calm");
+        QCOMPARE(tagValue(broken, u"-IPTC:ObjectName"_s), "東京");
+        QCOMPARE(tagValue(broken, u"-XMP-dc:Description"_s), "塔");
+        QCOMPARE(tagValue(broken, u"-XMP-Quorbel:Mood"_s), "calm");
         const auto record = service.read({ broken }).constFirst();
         QCOMPARE(record.values.value(u"coords"_s), u"-33.500000, 70.250000"_s);
         // A field that has no other home is not saved, and does not count as such.
@@ -197,8 +174,8 @@ private slots:
         const auto service = realService();
         JournalEntry entry = service.journalEntry(captioned, { photo });
         service.write(captioned, { photo }, {});
-        QCOMPARE(field(photo, u"-IPTC:City"_s), shown);
-        QCOMPARE(field(photo, u"-IPTC:ObjectName"_s), "東京");
+        QCOMPARE(tagValue(photo, u"-IPTC:City"_s), shown);
+        QCOMPARE(tagValue(photo, u"-IPTC:ObjectName"_s), "東京");
 
         // The field that no edit named is again what it was, in its own bytes.
         entry.files.first().after = *FileStamp::of(photo.toLocalFile());
@@ -206,7 +183,7 @@ private slots:
         QCOMPARE(outcome.restored, QList<QUrl>{ photo });
         QVERIFY(outcome.inexact.isEmpty());
         QCOMPARE(iptcBlock(photo), block);
-        QCOMPARE(field(photo, u"-XMP-dc:Title"_s), "");
+        QCOMPARE(tagValue(photo, u"-XMP-dc:Title"_s), "");
     }
 
     void undoTakesTheIptcAwayThatItMade()
@@ -267,7 +244,7 @@ private slots:
         QFile::remove(folder.path(u"part.jpg"_s));
         const QUrl photo = folder.add(u"a.jpg"_s, jpegBytes().insert(2, segments[0] + segments[1]));
         const QUrl plain = folder.add(u"b.jpg"_s);
-        const QByteArray cities = field(photo, u"-IPTC:City"_s);
+        const QByteArray cities = tagValue(photo, u"-IPTC:City"_s);
         QCOMPARE(cities, "Zuerich\nBern");
         const QByteArray blocks = iptcBlock(photo);
 
@@ -276,14 +253,14 @@ private slots:
         WriteNotes notes;
         service.write(captioned, { photo, plain }, {}, {}, &notes);
         QCOMPARE(notes.iptcLeftAlone, isDeclared ? QList<QUrl>() : QList<QUrl>{ photo });
-        QCOMPARE(field(photo, u"-IPTC:City"_s), cities);
+        QCOMPARE(tagValue(photo, u"-IPTC:City"_s), cities);
         QCOMPARE(iptcBlock(photo) == blocks, !isDeclared);
-        QCOMPARE(field(photo, u"-XMP-dc:Title"_s), "東京");
-        QCOMPARE(field(plain, u"-IPTC:ObjectName"_s), "東京");
+        QCOMPARE(tagValue(photo, u"-XMP-dc:Title"_s), "東京");
+        QCOMPARE(tagValue(plain, u"-IPTC:ObjectName"_s), "東京");
         entry.files.first().after = *FileStamp::of(photo.toLocalFile());
         QVERIFY(service.undo(entry).inexact.isEmpty());
-        QCOMPARE(field(photo, u"-XMP-dc:Title"_s), "");
-        QCOMPARE(field(photo, u"-IPTC:City"_s), cities);
+        QCOMPARE(tagValue(photo, u"-XMP-dc:Title"_s), "");
+        QCOMPARE(tagValue(photo, u"-IPTC:City"_s), cities);
         if (!isDeclared)
             QCOMPARE(iptcBlock(photo), blocks);
     }
@@ -406,8 +383,8 @@ private slots:
             "-o", sidecar.toLocalFile() });
         const auto service = realService();
         service.write({ .scalars = { { "headline", "new" } } }, { photo }, { .writeSidecar = true });
-        QCOMPARE(field(sidecar, u"-XMP-Quorbel:Mood"_s), "calm");
-        QCOMPARE(field(sidecar, u"-XMP-photoshop:Headline"_s), "new");
+        QCOMPARE(tagValue(sidecar, u"-XMP-Quorbel:Mood"_s), "calm");
+        QCOMPARE(tagValue(sidecar, u"-XMP-photoshop:Headline"_s), "new");
         service.write({ .scalars = { { "title", "" }, { "coords", "" }, { "headline", "" } },
                           .lists = { { "keywords", {} } },
                           .customs = { { "Mood", "" } } },
@@ -435,7 +412,7 @@ private slots:
         service.write(plan, { photo }, options, {}, &notes);
         QVERIFY(notes.sidecars.isEmpty());
         QVERIFY(QFileInfo(folder.path(u"a.xmp"_s)).isSymLink());
-        QCOMPARE(field(QUrl::fromLocalFile(real), u"-XMP-dc:Title"_s), "new");
+        QCOMPARE(tagValue(QUrl::fromLocalFile(real), u"-XMP-dc:Title"_s), "new");
         const auto isAsItWas = [&] {
             char value[4] = {};
             return QFileInfo(folder.path(u"a.xmp"_s)).isSymLink()
@@ -448,8 +425,8 @@ private slots:
         QVERIFY(QFile::setPermissions(real, QFile::ReadOwner));
         service.write({ .scalars = { { "title", "newer" } } }, { photo }, options, {}, &notes);
         QCOMPARE(notes.sidecars, (QList<FileFailure>{ { folder.url(u"a.xmp"_s), u"read-only"_s } }));
-        QCOMPARE(field(QUrl::fromLocalFile(real), u"-XMP-dc:Title"_s), "new");
-        QCOMPARE(field(photo, u"-XMP-dc:Title"_s), "newer");
+        QCOMPARE(tagValue(QUrl::fromLocalFile(real), u"-XMP-dc:Title"_s), "new");
+        QCOMPARE(tagValue(photo, u"-XMP-dc:Title"_s), "newer");
 
         JournalSidecar& sidecar = entry.files.first().sidecar;
         sidecar.after = FileStamp::of(sidecar.path);
@@ -457,7 +434,7 @@ private slots:
         QVERIFY(QFile::setPermissions(real, QFile::ReadOwner | QFile::WriteOwner));
         QVERIFY(sidecar.restore());
         QVERIFY(isAsItWas());
-        QCOMPARE(field(QUrl::fromLocalFile(real), u"-XMP-dc:Title"_s), "old");
+        QCOMPARE(tagValue(QUrl::fromLocalFile(real), u"-XMP-dc:Title"_s), "old");
     }
 
     void valueThatNoArgumentHolds_data()

@@ -7,7 +7,7 @@
 #include "core/schema/FieldSchema.h"
 #include "core/tool/IptcEncoding.h"
 #include "core/tool/TemporaryFiles.h"
-#include "tests/support/Support.h"
+#include "tests/support/RealService.h"
 
 #include <QDir>
 #include <QFile>
@@ -24,30 +24,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-MetadataService realService()
-{
-    return { realTool() };
-}
-
-// The one value of a tag ("-XMP-dc:Title") as ExifTool prints it.
-QString exiftoolValue(const QUrl& file, const QString& tag)
-{
-    return QString::fromUtf8(exiftool({ u"-s3"_s, tag, file.toLocalFile() })).trimmed();
-}
-
 EditPlan titlePlan(const QString& title)
 {
     return { .scalars = { { "title", title } } };
-}
-
-QString problem(const std::function<void()>& call)
-{
-    try {
-        call();
-    } catch (const Error& error) {
-        return error.description();
-    }
-    return {};
 }
 
 // The real tool, but killed before it gives a file another name for the n-th time (the first is 0).
@@ -183,7 +162,7 @@ private slots:
         const auto record = service.read({ photo }).constFirst();
         QCOMPARE(SaveVerification::differences(plan, record), QStringList());
         QCOMPARE(record.lists.value(u"keywords"_s), QStringList({ text, "Süd" }));
-        QCOMPARE(exiftoolValue(photo, u"-IPTC:Contact"_s), u"Jürg"_s);
+        QCOMPARE(tagValue(photo, u"-IPTC:Contact"_s), "Jürg");
         const auto exiv2 = exiv2Values(photo);
         QStringList tags;
         for (const auto& field : FieldSchema::all())
@@ -206,10 +185,10 @@ private slots:
         const QByteArray zoned("\x1c\x02\x3c\x00\x0b\x30\x37\x31\x33\x34\x38+0000", 16);
         const QByteArray zoneless("\x1c\x02\x3c\x00\x06\x30\x37\x31\x33\x34\x38\x1c\x02\x0a\x00\x00", 16);
         writeFile(photo.toLocalFile(), readFile(photo.toLocalFile()).replace(zoned, zoneless));
-        QCOMPARE(exiftoolValue(photo, u"-IPTC:TimeCreated"_s), u"07:13:48"_s);
+        QCOMPARE(tagValue(photo, u"-IPTC:TimeCreated"_s), "07:13:48");
         realService().write(titlePlan(u"東京"_s), { photo }, {});
-        QCOMPARE(exiftoolValue(photo, u"-IPTC:TimeCreated"_s), u"07:13:48"_s);
-        QCOMPARE(exiftoolValue(photo, u"-IPTC:ObjectName"_s), u"東京"_s);
+        QCOMPARE(tagValue(photo, u"-IPTC:TimeCreated"_s), "07:13:48");
+        QCOMPARE(tagValue(photo, u"-IPTC:ObjectName"_s), "東京");
     }
 
     void verifiesInTheNormalFormOfTheKind_data()
@@ -301,7 +280,7 @@ private slots:
         for (const bool backup : { true, false }) {
             realService().write(titlePlan(u"東京"_s), { folder.url(u"link.jpg"_s) }, { .backupOriginals = backup });
             QVERIFY(QFileInfo(folder.path(u"link.jpg"_s)).isSymLink());
-            QCOMPARE(exiftoolValue(photo, u"-IPTC:ObjectName"_s), u"東京"_s);
+            QCOMPARE(tagValue(photo, u"-IPTC:ObjectName"_s), "東京");
             struct stat status { };
             QCOMPARE(stat(path.constData(), &status), 0);
             QCOMPARE(status.st_mode & 07777, mode_t(0640));
@@ -336,7 +315,7 @@ private slots:
         QVERIFY(QFile::exists(leftover));
         makeOld(leftover, qint64(25) * 60 * 60);
         service.write(titlePlan("x"), { photo }, {});
-        QCOMPARE(exiftoolValue(photo, u"-XMP-dc:Title"_s), u"x"_s);
+        QCOMPARE(tagValue(photo, u"-XMP-dc:Title"_s), "x");
         QCOMPARE(folder.names(), QStringList("a.jpg"));
     }
 
@@ -361,7 +340,7 @@ private slots:
             if (isCut)
                 QCOMPARE(readFile(path), jpegBytes());
             else
-                QCOMPARE(exiftoolValue(photo, u"-XMP-dc:Title"_s), u"x"_s);
+                QCOMPARE(tagValue(photo, u"-XMP-dc:Title"_s), "x");
             const QString original = path + u"_original"_s;
             QCOMPARE(QFile::exists(original), backup && !isCut);
             QVERIFY(!QFile::exists(original) || readFile(original) == jpegBytes());
@@ -390,7 +369,7 @@ private slots:
             QCOMPARE(failures[0].file, bad);
             QVERIFY2(failures[0].reason.startsWith(u"Not a valid JPG"_s), qPrintable(failures[0].reason));
         }
-        QCOMPARE(exiftoolValue(good, u"-IPTC:ObjectName"_s), title);
+        QCOMPARE(tagValue(good, u"-IPTC:ObjectName"_s), title.toUtf8());
         // One byte that is no text, in a warning about another file, does not hide the names.
         FakeTool tool;
         tool.answerAlways({ .standardError = "Warning: Odd \xff - /p/x.jpg\nError: Odd - /p/y.jpg\n", .exitCode = 1 });
@@ -620,9 +599,9 @@ private slots:
         const QString ours = TemporaryFiles::newConfigName();
         const QString young = TemporaryFiles::newConfigName();
         const QStringList abandoned{ ours, ours + u".aB3xYz"_s };
-        const QStringList halfWritten{ u"undo.json.aB3xYz"_s };
-        const QStringList kept{ u"quorbel-notes.conf"_s, ours + u".kept"_s, young, u"undo.json"_s,
-            u"undo.json.backup2"_s, u"my-undo.json.aB3xYz"_s };
+        const QStringList halfWritten{ u"unsaved.json.aB3xYz"_s, u"unsaved-2.json.aB3xYz"_s };
+        const QStringList kept{ u"quorbel-notes.conf"_s, ours + u".kept"_s, young, u"unsaved.json"_s,
+            u"unsaved.json.backup2"_s, u"unsaved-2.json.damaged"_s };
         for (const auto& name : abandoned + halfWritten + kept) {
             writeFile(folder.path(name), "x");
             QFile file(folder.path(name));
@@ -631,7 +610,7 @@ private slots:
             QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(-age), QFileDevice::FileModificationTime));
         }
         QCOMPARE(TemporaryFiles::clearAbandoned(folder.path()), 2);
-        QCOMPARE(TemporaryFiles::clearHalfWritten(folder.path(u"undo.json"_s)), 1);
+        QCOMPARE(TemporaryFiles::clearHalfWritten(folder.path()), 2);
         QStringList left = kept;
         left.sort();
         QCOMPARE(folder.names(), left);
