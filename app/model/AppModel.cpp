@@ -24,7 +24,8 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
     , m_selected(m_announcer, m_library.photos())
     , m_left(m_announcer, m_services.leftEditsPath, m_services.keepInterval)
     , m_editing(m_announcer, m_library.photos(), m_selected, m_left)
-    , m_saving(m_announcer, m_tasks, m_library.refresh(), m_services.service, m_services.journalPath)
+    , m_saving(m_announcer, m_tasks, m_library.refresh(), m_services.service, m_services.journalPath,
+          m_services.stallInterval)
 {
     requireMainThread("AppModel");
     m_library.refresh().setLooks({ m_services.fileSystemOf, m_services.lookInterval });
@@ -63,6 +64,9 @@ void AppModel::connectParts()
         if (m_renameOpen && primary() != m_renamed)
             setRenameOpen(false);
     });
+    for (const auto signal : { &AppModel::editsChanged, &AppModel::unsavedCountChanged, &AppModel::selectionChanged })
+        connect(this, signal, this, &AppModel::lookAhead);
+    connect(&refresh, &FolderRefresh::reread, this, &AppModel::lookAhead);
     connect(&m_saving, &Saving::saved, this, &AppModel::takeSaved);
     connect(&m_saving, &Saving::undone, this, &AppModel::takeUndone);
     connect(&m_saving, &Saving::ended, this, [this](bool isGood) {
@@ -75,6 +79,7 @@ void AppModel::connectParts()
         else
             dropWaiting();
     });
+    connect(&m_saving, &Saving::ended, this, &AppModel::lookAhead);
 }
 
 void AppModel::tell(Change change)

@@ -304,6 +304,7 @@ private:
     void bringBack(const LeftEdits& left);
     void openAndBringBack(const LeftEdits& left);
     // Saving
+    void lookAhead();
     void save(const QStringList& leftOut = {});
     void beginSave(const Edits& edits, const QStringList& leftOut);
     void saveAwaited();

@@ -20,6 +20,11 @@ void AppModel::setBatchDontAskSession(bool on)
     m_announcer.assign(m_batchDontAskSession, on, Change::batchDontAskSession);
 }
 
+void AppModel::lookAhead()
+{
+    m_saving.lookAhead(selection(), unsavedCount() > 0);
+}
+
 void AppModel::requestSave()
 {
     requireMainThread("requestSave");

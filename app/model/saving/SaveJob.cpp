@@ -9,8 +9,10 @@
 #include "core/text/Text.h"
 
 #include <QHash>
+#include <QScopeGuard>
 
 #include <algorithm>
+#include <atomic>
 
 namespace Quorbel::SaveJob {
 
@@ -37,12 +39,14 @@ struct LookBefore {
     QHash<QString, QString> fileTypes{};  // by path
 };
 
-LookBefore lookBefore(
-    const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options)
+LookBefore lookBefore(const MetadataService& service, const EditPlan& plan, const Order& order)
 {
     LookBefore look;
     try {
-        look.entry = service.journalEntry(plan, targets, options, &look.fileTypes);
+        if (order.look)
+            look.entry = order.look->entry(plan, order.targets, order.options, &look.fileTypes);
+        if (!look.entry)
+            look.entry = service.journalEntry(plan, order.targets, order.options, &look.fileTypes);
     } catch (const std::exception&) {
         // Then the save cannot be undone, and replaces what it replaces.
     }
@@ -168,25 +172,53 @@ void write(
     }
 }
 
-// What the files of a save hold in its tags now; none when that is known already, or cannot be found out.
-QHash<QUrl, FileTags> storedNow(const MetadataService& service, const EditPlan& plan, const QList<ImageRecord>& records,
-    TaskProgress& progress, const std::stop_token& stop)
-{
-    QList<QUrl> photos;
-    for (const ImageRecord& record : records)
-        photos.append(record.url);
-    if (photos.isEmpty() || !SaveVerification::hasHiddenHomes(plan))
-        return {};
-    QHash<QUrl, FileTags> stored;
-    try {
-        stored = service.stored(plan, photos,
-            { .progress = {}, .stop = stop, .started = [&](qint64 processID) { progress.processID = processID; } });
-    } catch (const std::exception&) {
-        // The records tell of the homes that are shown.
+// What the files of a save hold in its tags now, looked at beside the read that proves it.
+class LookAfter {
+public:
+    LookAfter(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, std::stop_token stop)
+        : m_forward(std::move(stop), Forward{ m_stop })
+    {
+        if (!SaveVerification::hasHiddenHomes(plan))
+            return;
+        m_stored = std::async(std::launch::async, [this, &service, &plan, &targets] {
+            QList<QUrl> files = targets;
+            // Anything else would stop the tool, or lead it astray.
+            files.removeIf([](const QUrl& file) { return !PhotoFile::at(file).file; });
+            try {
+                return service.stored(
+                    plan, files, { .progress = {}, .stop = m_stop.get_token(), .started = [this](qint64 processID) {
+                                      m_processID = processID;
+                                  } });
+            } catch (const std::exception&) {
+                // The records tell of the homes that are shown.
+                return QHash<QUrl, FileTags>();
+            }
+        });
     }
-    progress.processID = 0;
-    return stored;
-}
+    ~LookAfter() { m_stop.request_stop(); }
+    Q_DISABLE_COPY_MOVE(LookAfter)
+
+    /// Waits for it. None when that is known already, or cannot be found out.
+    QHash<QUrl, FileTags> stored(TaskProgress& progress)
+    {
+        if (!m_stored.valid())
+            return {};
+        progress.processID = m_processID.load();
+        const auto end = qScopeGuard([&progress] { progress.processID = 0; });
+        return m_stored.get();
+    }
+
+private:
+    struct Forward {
+        std::stop_source& end;
+        void operator()() const { end.request_stop(); }
+    };
+
+    std::stop_source m_stop;
+    std::stop_callback<Forward> m_forward;
+    std::atomic<qint64> m_processID = 0;
+    std::future<QHash<QUrl, FileTags>> m_stored;
+};
 
 QHash<QUrl, QString> reasonsByFile(const QList<FileFailure>& failures)
 {
@@ -261,34 +293,45 @@ QStringList inOrderOfFields(QSet<QString> keys)
     return ordered + customs;
 }
 
+// Keeps what the write has replaced: after a failure too, since some of the files may have been written. The disk takes
+// its time to have it for certain; the proof of the save need not wait for that.
+void remember(const std::optional<JournalEntry>& entry, const std::shared_ptr<SaveHistory>& history, Written& written)
+{
+    const bool isLost = !entry && (!written.error || written.isPartial);
+    written.undoable = std::async(std::launch::async, [entry, history, isLost] {
+        return entry ? history->add(*entry) : isLost ? history->addUnknown() : history->latest();
+    }).share();
+    if (!written.mayBeSaved)
+        written.undoable.wait();
+}
+
 }  // namespace
 
-Written run(const MetadataService& service, const EditPlan& whole, const QList<QUrl>& targets,
-    const WriteOptions& options, const SeenLists& seen, SaveHistory* history, TaskProgress& progress)
+Written run(const MetadataService& service, const Order& order, const std::shared_ptr<SaveHistory>& history,
+    TaskProgress& progress)
 {
-    const EditPlan plan = withoutHomes(whole, options.leftOut);
+    const QList<QUrl>& targets = order.targets;
+    const EditPlan plan = withoutHomes(order.plan, order.options.leftOut);
     const QList<std::optional<FileStamp>> stamps = stampsOf(targets);
     const bool looks = history || !plan.lists.isEmpty();
-    LookBefore before = looks ? lookBefore(service, plan, targets, options) : LookBefore();
-    Written written{ .leftOut = options.leftOut };
-    written.lists = listChanges(before, plan, targets, seen);
+    LookBefore before = looks ? lookBefore(service, plan, order) : LookBefore();
+    Written written{ .leftOut = order.options.leftOut };
+    written.lists = listChanges(before, plan, targets, order.seen);
     // Items of other homes may need what the plan's own do not: IPTC that is encoded anew.
     const EditPlan all = wholePlan(plan, written.lists);
     if (history && before.entry && JournalTags::writtenTags(all) != before.entry->writtenTags)
-        before = lookBefore(service, all, targets, options);
+        before = lookBefore(service, all, order);
     const ReplacedFilesPoll poll(targets, progress.done);
     const QList<Portion> runs = portions(plan, targets, written.lists);
     for (const Portion& portion : runs)
-        write(service, portion, options, runs.size() == 1, written);
+        write(service, portion, order.options, runs.size() == 1, written);
     findRefusedHomes(service, plan, written);
     if (targets.size() == 1 && !written.failures.isEmpty())
         written.error = written.failures.constFirst().reason;
     written.isUntouched = stampsOf(targets) == stamps;
-    // After a failure too: some of the files may have been written.
-    if (history && before.entry)
-        written.undoable = history->add(*before.entry);
-    else if (history)
-        written.undoable = !written.error || written.isPartial ? history->addUnknown() : history->latest();
+    written.mayBeSaved = !written.error || (written.isPartial && targets.size() > 1);
+    if (history)
+        remember(before.entry, history, written);
     return written;
 }
 
@@ -298,12 +341,17 @@ Checked check(const MetadataService& service, const EditPlan& plan, const QList<
     Checked checked;
     QList<QUrl> readable = targets;
     readable.removeIf([&tooSlow](const QUrl& target) { return tooSlow.contains(target); });
+    const auto remembered = qScopeGuard([&written] {
+        if (written.undoable.valid())
+            written.undoable.wait();
+    });
+    LookAfter homes(service, plan, readable, stop);
     const PhotoReader::Result read = PhotoReader::read(service, readable, progress, stop);
     if (read.error) {
         checked.error = read.error;
         return checked;
     }
-    const QHash<QUrl, FileTags> stored = storedNow(service, plan, read.records, progress, stop);
+    const QHash<QUrl, FileTags> stored = homes.stored(progress);
     QHash<QUrl, const ImageRecord*> records;
     for (const ImageRecord& record : read.records)
         records.insert(record.url, &record);

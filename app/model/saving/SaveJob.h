@@ -3,9 +3,12 @@
 #pragma once
 
 #include "app/model/library/PhotoReader.h"
+#include "app/model/saving/EarlyLook.h"
 #include "app/model/saving/SaveHistory.h"
 #include "core/MetadataService.h"
 #include "core/save/ListHomes.h"
+
+#include <future>
 
 namespace Quorbel::SaveJob {
 
@@ -16,23 +19,35 @@ struct Written {
     /// nothing was changed.
     bool isPartial = false;
     QList<FileFailure> failures{};  ///< the targets that the tool named, with its reasons
-    SaveHistory::Undoable undoable{};  ///< what the history can take back now
+    /// What the history can take back now; none without a history. There by the end of check(), or of run() where no
+    /// check follows.
+    std::shared_future<SaveHistory::Undoable> undoable{};
     bool isUntouched = false;  ///< no target was replaced
     WriteNotes notes{};
     QStringList leftOut{};  ///< homes that the plan was written without
     /// Failed targets that would take a part of the plan: the homes that they refuse, and why.
     QMap<QUrl, QMap<QString, QString>> refusedHomes{};
     QHash<QUrl, ListHomes::Change> lists{};  ///< what became of the lists of the targets, for a plan with lists
+    bool mayBeSaved = false;  ///< some target may hold the plan: check() is to follow
 };
 
 /// What was on screen of the lists that are to be replaced, by target.
 using SeenLists = QHash<QUrl, ListHomes::SeenLists>;
 
+/// What one save is given.
+struct Order {
+    EditPlan plan{};
+    QList<QUrl> targets{};
+    WriteOptions options{};
+    SeenLists seen{};
+    std::shared_ptr<EarlyLook> look{};  ///< at what the save replaces; may be absent
+};
+
 /// Writes, and counts meanwhile the files that are done. Lists that differ between their homes are brought together.
 /// What it replaces goes into the history, where there is one; a history that cannot be kept does not stop the save.
 /// Never throws.
-Written run(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets,
-    const WriteOptions& options, const SeenLists& seen, SaveHistory* history, TaskProgress& progress);
+Written run(const MetadataService& service, const Order& order, const std::shared_ptr<SaveHistory>& history,
+    TaskProgress& progress);
 
 /// What the files hold afterwards.
 struct Checked {
@@ -43,10 +58,10 @@ struct Checked {
     std::optional<QString> error{};  ///< the files could not be read again; then all else is empty
 };
 
-/// Reads the targets again and compares them, in all homes of the fields, with what was to be written. After a failed
-/// run a target counts as saved when it holds all of the plan and the tool did not name it. Targets that are too slow
-/// are not read: nobody knows what they hold, so they count as not saved. Never throws; of a read that was stopped the
-/// result means nothing.
+/// Reads the targets again, looks at the same time into all their homes, and compares them, in all homes of the fields,
+/// with what was to be written. After a failed run a target counts as saved when it holds all of the plan and the tool
+/// did not name it. Targets that are too slow are not read: nobody knows what they hold, so they count as not saved.
+/// Never throws; of a read that was stopped the result means nothing.
 Checked check(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const Written& written,
     const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop);
 

@@ -5,6 +5,8 @@
 
 #include <QPointer>
 
+#include <algorithm>
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -58,14 +60,43 @@ SaveOutcome outcomeOf(const SaveJob::Checked& checked, const SaveJob::Written& w
 }  // namespace
 
 Saving::Saving(Announcer& announcer, RunningTasks& tasks, FolderRefresh& refresh,
-    std::optional<MetadataService> service, const QString& journalPath)
+    std::optional<MetadataService> service, const QString& journalPath, std::chrono::milliseconds patience)
     : m_announcer(announcer)
     , m_tasks(tasks)
     , m_refresh(refresh)
     , m_service(std::move(service))
+    , m_patience(patience)
 {
+    connect(&m_refresh, &FolderRefresh::reread, this, [this](const QList<QUrl>& photos) {
+        const auto isLookedAt = [this](const QUrl& photo) { return m_look->photos().contains(photo); };
+        if (m_look && std::any_of(photos.cbegin(), photos.cend(), isLookedAt))
+            dropLook();
+    });
     if (m_service && !journalPath.isEmpty())
         openHistory(journalPath);
+}
+
+Saving::~Saving()
+{
+    dropLook();
+}
+
+void Saving::dropLook()
+{
+    if (const auto look = std::exchange(m_look, nullptr))
+        look->giveUp();
+}
+
+// Quiet: nothing waits for it but a save of just these photos.
+void Saving::lookAhead(const QSet<QUrl>& photos, bool areEdited)
+{
+    if (m_look && m_look->photos() != photos)
+        dropLook();
+    if (m_look || m_isSaving || !m_history || !areEdited || photos.size() > EarlyLook::mostPhotos)
+        return;
+    m_look = std::make_shared<EarlyLook>(photos, m_patience);
+    runInBackground(
+        this, [service = *m_service, look = m_look] { look->look(service); }, [] {});
 }
 
 // Whether there is anything to undo takes a look at the disk.
@@ -119,27 +150,33 @@ void Saving::save(const Edits& edits, const WriteOptions& options, const SaveJob
     const Announcer::Together together(m_announcer);
     begin(edits.subjects);
     const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::write, edits.subjects.size());
+    const SaveJob::Order order{ edits.plan(), edits.subjects, options, seen, std::exchange(m_look, nullptr) };
     runInBackground(
         this,
-        [service = *m_service, edits, options, seen, history = m_history, progress = task.progress] {
-            return SaveJob::run(service, edits.plan(), edits.subjects, options, seen, history.get(), *progress);
+        [service = *m_service, order, history = m_history, progress = task.progress] {
+            return SaveJob::run(service, order, history, *progress);
         },
         [this, edits, id = task.id](const SaveJob::Written& written) {
-            const bool mayBeSaved = !written.error || (written.isPartial && edits.subjects.size() > 1);
             {
                 const Announcer::Together done(m_announcer);
-                if (m_history)
-                    setUndoable(written.undoable);
-                if (mayBeSaved)
+                if (written.mayBeSaved)
                     check(edits, written);
                 m_tasks.end(id);
             }
-            if (!mayBeSaved)
-                finish({ .unsaved = edits,
-                    .failed = edits.subjects,
-                    .message = couldNotSave(*written.error),
-                    .homesToLeaveOut = SaveReasons::homesToLeaveOut(written.refusedHomes) });
+            if (written.mayBeSaved)
+                return;
+            takeUndoable(written);
+            finish({ .unsaved = edits,
+                .failed = edits.subjects,
+                .message = couldNotSave(*written.error),
+                .homesToLeaveOut = SaveReasons::homesToLeaveOut(written.refusedHomes) });
         });
+}
+
+void Saving::takeUndoable(const SaveJob::Written& written)
+{
+    if (written.undoable.valid())
+        setUndoable(written.undoable.get());
 }
 
 void Saving::check(const Edits& edits, const SaveJob::Written& written, const QSet<QUrl>& tooSlow)
@@ -156,6 +193,7 @@ void Saving::check(const Edits& edits, const SaveJob::Written& written, const QS
                 const std::optional<RunningTasks::Task> ended = m_tasks.end(id);
                 if (ended && ended->skipped)
                     return check(edits, written, QSet(tooSlow) << *ended->skipped);
+                takeUndoable(written);
             }
             finish(outcomeOf(checked, written, edits));
         });

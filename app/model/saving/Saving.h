@@ -32,8 +32,10 @@ class Saving final : public QObject {
 
 public:
     /// `journalPath`: folder of the saves that can be taken back; empty: none can.
+    /// `patience`: how long a look ahead may take before a save does without.
     Saving(Announcer& announcer, RunningTasks& tasks, FolderRefresh& refresh, std::optional<MetadataService> service,
-        const QString& journalPath);
+        const QString& journalPath, std::chrono::milliseconds patience);
+    ~Saving() override;
 
     /// False without the tool.
     bool isPossible() const { return m_service.has_value(); }
@@ -46,6 +48,9 @@ public:
     void reserve();
     /// No save follows.
     void release();
+    /// These photos are selected. As soon as they are edited, what a save of them would replace is read, so that the
+    /// save need not; other photos make an end of that.
+    void lookAhead(const QSet<QUrl>& photos, bool areEdited);
     /// Writes the edits to their subjects. Needs some of both, and that nothing is being saved. `seen`: what was on
     /// screen of the lists that the edits replace.
     void save(const Edits& edits, const WriteOptions& options, const SaveJob::SeenLists& seen);
@@ -68,12 +73,16 @@ private:
     void finish(const SaveOutcome& outcome);
     void openHistory(const QString& journalPath);
     void setUndoable(const SaveHistory::Undoable& save);
+    void takeUndoable(const SaveJob::Written& written);
+    void dropLook();
 
     Announcer& m_announcer;
     RunningTasks& m_tasks;
     FolderRefresh& m_refresh;
     std::optional<MetadataService> m_service;
     std::shared_ptr<SaveHistory> m_history;  ///< null when no save can be taken back
+    std::shared_ptr<EarlyLook> m_look;  ///< at the selected photos; null without one
+    std::chrono::milliseconds m_patience;
     struct Undo {
         SaveHistory::Undoable save{};
         bool isPossible = false;

@@ -367,11 +367,9 @@ void tst_AppModelSaving::failuresKeepEdits()
     QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
     QCOMPARE(readFile(url.toLocalFile()), before);
     // Saving is possible again, and what waited for the failed save is forgotten.
-    tool.answer(
-        2, { .standardOutput = toolJson({ { { u"SourceFile"_s, url.toLocalFile() }, { u"XMP:Title"_s, u"X"_s } } }) });
-    tool.answer(3,
-        { .standardOutput = toolJson({ { { u"SourceFile"_s, url.toLocalFile() }, { u"XMP-Quorbel:Mood"_s, u"calm"_s },
-              { u"XMP-Quorbel:Hue"_s, u"red"_s } } }) });
+    tool.answerAlways(
+        { .standardOutput = toolJson({ { { u"SourceFile"_s, url.toLocalFile() }, { u"XMP:Title"_s, u"X"_s },
+              { u"XMP-Quorbel:Mood"_s, u"calm"_s }, { u"XMP-Quorbel:Hue"_s, u"red"_s } } }) });
     f->requestSave();
     QVERIFY(f->isSaving());
     QVERIFY(f.waitUntilIdle());
@@ -384,7 +382,8 @@ void tst_AppModelSaving::failedReReadKeepsEdits()
     ModelFixture f(MetadataService{ tool.runner() });
     f.folder.add(u"a.jpg"_s);
     QVERIFY(f.open());
-    tool.answer(2, { .standardError = "gone", .exitCode = 1 });
+    tool.answerAlways({ .standardError = "gone", .exitCode = 1 });
+    tool.answer(1, {});
     f->preferences().saveDontAsk.set(true);
     f->setSingle(u"title"_s, u"X"_s);
     f->requestSave();
