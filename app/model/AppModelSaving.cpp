@@ -166,13 +166,12 @@ void AppModel::savePartially()
 void AppModel::undoSave()
 {
     requireMainThread("undoSave");
-    QList<QUrl> open;
-    open.reserve(records().size());
-    for (const ImageRecord& record : records())
-        open.append(record.url);
-    if (onWriteBegins)
-        onWriteBegins(open);
-    m_saving.undo(open);
+    m_saving.undo([this](QList<QUrl> saved) {
+        saved.removeIf([this](const QUrl& photo) { return !photos().contains(photo); });
+        if (onWriteBegins)
+            onWriteBegins(saved);
+        return saved;
+    });
 }
 
 void AppModel::takeUndone(const SaveOutcome& outcome)

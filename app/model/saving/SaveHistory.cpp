@@ -21,7 +21,7 @@ QString counted(qsizetype count)
 }
 
 // Those of the photos that are, or link to, one of the files.
-QList<QUrl> photosOf(const QList<QUrl>& files, const QList<QUrl>& photos)
+QList<QUrl> photosAmong(const QList<QUrl>& files, const QList<QUrl>& photos)
 {
     const QSet<QUrl> wanted(files.cbegin(), files.cend());
     const QList<QUrl> behind = SaveGuard::filesBehindLinks(photos);
@@ -133,6 +133,20 @@ void SaveHistory::storeRenames()
     m_pending.remove(0, pending.size());
 }
 
+QList<QUrl> SaveHistory::photosOf(qint64 number)
+{
+    storeRenames();
+    const std::scoped_lock lock(m_mutex);
+    QList<QUrl> photos;
+    const JournalEntry entry = m_journal.load(number).value_or(JournalEntry());
+    for (const JournalFile& file : entry.files) {
+        photos.append(QUrl::fromLocalFile(file.path));
+        if (!file.link.isEmpty())
+            photos.append(QUrl::fromLocalFile(file.link));
+    }
+    return photos;
+}
+
 SaveHistory::Undone SaveHistory::undo(
     const MetadataService& service, qint64 number, const QList<QUrl>& photos, TaskProgress& progress)
 {
@@ -164,7 +178,7 @@ SaveHistory::Undone SaveHistory::undo(
     QList<QUrl> touched = undone.outcome.restored;
     for (const FileFailure& failure : undone.outcome.failed)
         touched.append(failure.file);
-    const QList<QUrl> stale = photosOf(touched, photos);
+    const QList<QUrl> stale = photosAmong(touched, photos);
     undone.records = PhotoReader::read(service, stale, progress, {}).records;
     return undone;
 }

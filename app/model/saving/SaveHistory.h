@@ -42,6 +42,9 @@ public:
     /// Brings the journal itself up to date with the renames.
     void storeRenames();
 
+    /// The photos of a save under their names of today, and links through which they were saved. None when it is gone.
+    QList<QUrl> photosOf(qint64 number);
+
     struct Undone {
         UndoOutcome outcome{};
         QList<ImageRecord> records{};  ///< of the given photos that were restored, as they are now

@@ -211,17 +211,30 @@ void Saving::finish(const SaveOutcome& outcome)
         end(outcome.isGood);
 }
 
-void Saving::undo(const QList<QUrl>& photos)
+void Saving::undo(const std::function<QList<QUrl>(const QList<QUrl>&)>& open)
 {
     if (!m_undo.isPossible)
         return;
     const Announcer::Together together(m_announcer);
-    begin(photos);
+    begin({});
+    const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::write, 0);
+    runInBackground(
+        this, [history = m_history, save = m_undo.save.number] { return history->photosOf(save); },
+        [this, open, save = m_undo.save.number, id = task.id](const QList<QUrl>& saved) {
+            const Announcer::Together begins(m_announcer);
+            putBack(save, open(saved));
+            m_tasks.end(id);
+        });
+}
+
+void Saving::putBack(qint64 save, const QList<QUrl>& open)
+{
+    m_refresh.beginWriting(QSet<QUrl>(open.cbegin(), open.cend()));
     const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::write, 0);
     runInBackground(
         this,
-        [service = *m_service, history = m_history, number = m_undo.save.number, photos, progress = task.progress] {
-            return history->undo(service, number, photos, *progress);
+        [service = *m_service, history = m_history, save, open, progress = task.progress] {
+            return history->undo(service, save, open, *progress);
         },
         [this, id = task.id](const SaveHistory::Undone& result) {
             {

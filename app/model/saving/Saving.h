@@ -9,6 +9,7 @@
 #include "app/model/saving/SaveJob.h"
 #include "core/save/Edits.h"
 
+#include <functional>
 #include <memory>
 
 namespace Quorbel {
@@ -54,8 +55,9 @@ public:
     /// Writes the edits to their subjects. Needs some of both, and that nothing is being saved. `seen`: what was on
     /// screen of the lists that the edits replace.
     void save(const Edits& edits, const WriteOptions& options, const SaveJob::SeenLists& seen);
-    /// Puts back what the last save replaced. `photos`: those that are open, to be read again where it concerns them.
-    void undo(const QList<QUrl>& photos);
+    /// Puts back what the last save replaced. Asks which photos of that save are open, once it knows what they are:
+    /// these are read again.
+    void undo(const std::function<QList<QUrl>(const QList<QUrl>& saved)>& open);
     /// A photo got another name: what can be taken back follows it.
     void noteRename(const QUrl& from, const QUrl& to);
 
@@ -72,6 +74,7 @@ private:
     void check(const Edits& edits, const SaveJob::Written& written, const QSet<QUrl>& tooSlow = {});
     void finish(const SaveOutcome& outcome);
     void openHistory(const QString& journalPath);
+    void putBack(qint64 save, const QList<QUrl>& open);
     void setUndoable(const SaveHistory::Undoable& save);
     void takeUndoable(const SaveJob::Written& written);
     void dropLook();

@@ -14,6 +14,7 @@ namespace Quorbel {
 
 struct JournalFile {
     QString path{};
+    QString link{};  ///< the photo that was saved, where it is a symbolic link to this file
     FileStamp before{};
     FileStamp after{};
     /// What they held before the save. A written tag that is not here was absent.

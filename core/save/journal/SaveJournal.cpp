@@ -79,8 +79,11 @@ QJsonObject toJson(const JournalFile& file)
             values.append(toJson(value));
         tags.insert(it.key(), values);
     }
-    return { { u"path"_s, file.path }, { u"before"_s, toJson(file.before) }, { u"after"_s, toJson(file.after) },
-        { u"tags"_s, tags }, { u"sidecar"_s, toJson(file.sidecar) } };
+    QJsonObject object{ { u"path"_s, file.path }, { u"before"_s, toJson(file.before) },
+        { u"after"_s, toJson(file.after) }, { u"tags"_s, tags }, { u"sidecar"_s, toJson(file.sidecar) } };
+    if (!file.link.isEmpty())
+        object.insert(u"link"_s, file.link);
+    return object;
 }
 
 QStringList stringsFrom(const QJsonValue& value)
@@ -94,6 +97,7 @@ QStringList stringsFrom(const QJsonValue& value)
 JournalFile fileFrom(const QJsonValue& value)
 {
     JournalFile file{ .path = value[u"path"_s].toString(),
+        .link = value[u"link"_s].toString(),
         .before = stampFrom(value[u"before"_s]),
         .after = stampFrom(value[u"after"_s]),
         .sidecar = sidecarFrom(value[u"sidecar"_s]) };
@@ -156,6 +160,8 @@ void follow(JournalFile& file, const std::pair<QString, QString>& rename)
     const auto& [from, to] = rename;
     if (file.path == from)
         file.path = to;
+    if (file.link == from)
+        file.link = to;
     if (file.sidecar.path == Companions::sidecarPath(from))
         file.sidecar.path = Companions::sidecarPath(to);
 }

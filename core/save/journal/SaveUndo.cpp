@@ -72,6 +72,8 @@ JournalEntry entryOf(const OldValues& held, const EditPlan& plan, const QList<QU
         const QList<QByteArray> type = file.tags.take(typeTag());
         if (fileTypes && !type.isEmpty())
             fileTypes->insert(path, QString::fromUtf8(type.constFirst()));
+        if (targets[i] != files[i])
+            file.link = targets[i].toLocalFile();
         if (options.writeSidecar)
             file.sidecar = JournalSidecar::of(Companions::sidecarPath(targets[i].toLocalFile()));
         entry.files.append(file);

@@ -56,6 +56,7 @@ private slots:
     void undoFollowsRenames();
     void undoTakesSidecarsBack();
     void undoLeavesOthersWorkAlone();
+    void undoThroughALink_data();
     void undoThroughALink();
     void undoThatFailsInPart();
     void undoIsTriedAgainAfterTheToolWasCut();
@@ -164,8 +165,16 @@ void tst_AppModelUndo::undoLeavesOthersWorkAlone()
     QVERIFY(!f->canUndoSave());
 }
 
+void tst_AppModelUndo::undoThroughALink_data()
+{
+    QTest::addColumn<bool>("isRenamed");
+    QTest::newRow("as it was") << false;
+    QTest::newRow("renamed") << true;
+}
+
 void tst_AppModelUndo::undoThroughALink()
 {
+    QFETCH(bool, isRenamed);
     JournaledPhotos f({ u"a.jpg"_s });
     const PhotoFolder elsewhere;
     const QString link = f.folder.path(u"a.jpg"_s);
@@ -175,9 +184,13 @@ void tst_AppModelUndo::undoThroughALink()
     f->setSingle(u"title"_s, u"X"_s);
     QVERIFY(f.save());
     QCOMPARE(exiftoolValues(real).value(u"XMP:Title"_s), QJsonValue(u"X"_s));
+    f->preferences().renamePattern.set(u"renamed"_s);
+    if (isRenamed)
+        f->performRename();
+    QCOMPARE(f.primary(), isRenamed ? u"renamed.jpg"_s : u"a.jpg"_s);
     QVERIFY(f.undo());
     QCOMPARE(f->errorMessage(), std::nullopt);
-    QVERIFY(QFileInfo(link).isSymLink());
+    QVERIFY(QFileInfo(f->primary()->toLocalFile()).isSymLink());
     QCOMPARE(exiftoolValues(real).value(u"XMP:Title"_s), QJsonValue(u"a.jpg"_s));
     QCOMPARE(f->draftValues().value(u"title"_s), u"a.jpg"_s);
 }
