@@ -15,7 +15,7 @@ void FormPause::begin()
     if (std::exchange(m_isOn, true))
         return;
     if (const QWidget* viewport = m_form->parentWidget())
-        m_form->setMinimumHeight(viewport->height() - m_form->y());
+        m_leastHeight = viewport->height() - m_form->y();
     QWidget* focus = QApplication::focusWidget();
     if (!focus || !m_form->isAncestorOf(focus))
         return;
@@ -37,8 +37,10 @@ void FormPause::end(QWidget* fallback)
     QMetaObject::invokeMethod(
         this,
         [this] {
-            if (!m_isOn)
-                m_form->setMinimumHeight(0);
+            if (m_isOn)
+                return;
+            m_leastHeight = 0;
+            m_form->updateGeometry();
         },
         Qt::QueuedConnection);
 }

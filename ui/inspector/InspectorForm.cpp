@@ -125,6 +125,11 @@ void InspectorForm::leave()
 
 // --- While nothing is known ---
 
+QSize InspectorForm::minimumSizeHint() const
+{
+    return QWidget::minimumSizeHint().expandedTo({ 0, m_pause->leastHeight() });
+}
+
 // For a moment the values of before stay, out of reach: a record that comes soon takes their place at once.
 void InspectorForm::awaitRecords()
 {

@@ -51,6 +51,7 @@ public:
     int bottomInset() const { return m_bottomInset; }
     /// The row of a field, by its id or by the key of a custom field; null while it is not on screen.
     FieldRow* row(const QString& id) const;
+    QSize minimumSizeHint() const override;
 
 signals:
     /// The user added this field to those on screen: a field id, or the key of a custom field.

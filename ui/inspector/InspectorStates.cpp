@@ -84,7 +84,10 @@ bool isUnread(const AppModel& model)
 
 QString readingText(const AppModel& model)
 {
-    return model.unreadSelected() > 0 ? u"Reading %1 more…"_s.arg(model.unreadSelected()) : QString();
+    const int unread = model.unreadSelected();
+    if (unread == 0)
+        return {};
+    return (model.isWorking() ? u"Reading %1 more…"_s : u"%1 not read yet"_s).arg(unread);
 }
 
 FieldRowState unreadRow(const FieldSpec& field)

@@ -15,7 +15,7 @@ namespace InspectorStates {
 
 /// Whether none of the selected photos has been read yet: there is nothing to show and nothing to type into.
 bool isUnread(const AppModel& model);
-/// "Reading 812 more…", while some of the selected photos have not been read; else "".
+/// "Reading 812 more…", or "812 not read yet" after the user gave that up; "" when all selected photos were read.
 QString readingText(const AppModel& model);
 
 FieldRowState fieldRow(const AppModel& model, const FieldSpec& field);

@@ -51,9 +51,9 @@ InspectorView::InspectorView(
 
 void InspectorView::connectModel()
 {
-    for (const auto changed :
-        { &AppModel::selectionChanged, &AppModel::primaryChanged, &AppModel::recordsChanged, &AppModel::editsChanged,
-            &AppModel::isSavingChanged, &AppModel::leftEditsChanged, &AppModel::unreadSelectedChanged })
+    for (const auto changed : { &AppModel::selectionChanged, &AppModel::primaryChanged, &AppModel::recordsChanged,
+             &AppModel::editsChanged, &AppModel::isSavingChanged, &AppModel::leftEditsChanged,
+             &AppModel::unreadSelectedChanged, &AppModel::isWorkingChanged })
         connect(&m_model, changed, this, &InspectorView::refresh);
     connect(&m_model.preferences(), &Preferences::changed, this, &InspectorView::refresh);
 }

@@ -63,6 +63,11 @@ QUrl InspectorFixture::add(const QString& name, const QStringList& assignments) 
 
 bool InspectorFixture::open(QSize size)
 {
+    return show(size) && photos.open();
+}
+
+bool InspectorFixture::show(QSize size)
+{
     window = std::make_unique<QWidget>();
     auto* column = new QVBoxLayout(window.get());
     column->setContentsMargins(0, 0, 0, 0);
@@ -73,7 +78,7 @@ bool InspectorFixture::open(QSize size)
     window->resize(size);
     window->show();
     window->activateWindow();
-    return photos.open() && QTest::qWaitForWindowActive(window.get());
+    return QTest::qWaitForWindowActive(window.get());
 }
 
 void InspectorFixture::settle()

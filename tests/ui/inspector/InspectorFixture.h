@@ -44,6 +44,8 @@ public:
     QUrl add(const QString& name, const QStringList& assignments) const;
     /// Opens the folder and shows the window at this size; the first photo is selected.
     bool open(QSize size = { 520, 900 });
+    /// The window alone.
+    bool show(QSize size = { 520, 900 });
     void click(const QString& name, bool shift = false, bool command = false) { photos.click(name, shift, command); }
     /// Lets what the inspector posted to itself happen.
     static void settle();
