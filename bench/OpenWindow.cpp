@@ -105,8 +105,7 @@ bool OpenWindow::hasRead(int count) const
 {
     const QList<ImageRecord>& records = m_model->records();
     return records.size() == count && !m_model->isWorking()
-        && std::none_of(
-            records.begin(), records.end(), [](const ImageRecord& record) { return record.isUnread; });
+        && std::none_of(records.begin(), records.end(), [](const ImageRecord& record) { return record.isUnread; });
 }
 
 bool OpenWindow::eventFilter(QObject* watched, QEvent* event)
