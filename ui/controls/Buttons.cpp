@@ -249,6 +249,8 @@ void QBTextButton::paintEvent(QPaintEvent*)
     const int padding = px(hasGround() ? 8 : 0);
     const QRect inner = rect().adjusted(padding, 0, -padding, 0);
     painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
+    if (width() < sizeHint().width())
+        return;  // the keys are the first to give way
     painter.setFont(sansFont(11));
     painter.setPen(theme.muted);
     painter.drawText(inner, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, m_keys);

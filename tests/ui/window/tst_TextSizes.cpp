@@ -1,7 +1,7 @@
 // The whole window at the sizes of text that a desktop offers: nothing is cut off, shortened or covered that is not at
 // the usual size. QT_SCALE_FACTOR is the caller's: the test is run once for each of several.
 #include "tests/ui/LayoutAudit.h"
-#include "tests/ui/inspector/InspectorFixture.h"
+#include "tests/ui/inspector/HalfRead.h"
 #include "tests/ui/window/WindowFixture.h"
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/sheets/AddFieldSheet.h"
@@ -70,17 +70,19 @@ std::unique_ptr<QMainWindow> makeWindow(InspectorFixture& f, SystemScheme& schem
 
 class Walk {
 public:
-    Walk(InspectorFixture& photos, InspectorFixture& folders, InspectorFixture& none, QSize size)
+    Walk(InspectorFixture& photos, InspectorFixture& folders, InspectorFixture& none, HalfRead& half, QSize size)
         : m_photos(photos)
+        , m_half(half)
         , m_size(size)
         , m_window(makeWindow(photos, m_scheme, size))
         , m_folders(makeWindow(folders, m_scheme, size))
         , m_empty(makeWindow(none, m_scheme, size))
+        , m_reading(makeWindow(half, m_scheme, size))
         , m_settings(new SettingsView(photos.model(), nullptr))
         , m_help(new HelpView)
     {
-        for (QWidget* shown :
-            QList<QWidget*>{ m_window.get(), m_folders.get(), m_empty.get(), m_settings.get(), m_help.get() })
+        for (QWidget* shown : QList<QWidget*>{
+                 m_window.get(), m_folders.get(), m_empty.get(), m_reading.get(), m_settings.get(), m_help.get() })
             shown->show();
         for (QWidget* second : QList<QWidget*>{ m_settings.get(), m_help.get() })
             setTheme(second, Theme::light());
@@ -103,6 +105,7 @@ public:
         }
         single(seen);
         batch(seen);
+        reading(seen);
         return seen;
     }
 
@@ -110,7 +113,7 @@ private:
     // A window that grew for larger text is looked at in the size that is asked for.
     void settle() const
     {
-        for (QMainWindow* window : { m_window.get(), m_folders.get(), m_empty.get() }) {
+        for (QMainWindow* window : { m_window.get(), m_folders.get(), m_empty.get(), m_reading.get() }) {
             window->setMinimumSize(0, 0);
             window->resize(m_size);
         }
@@ -177,12 +180,31 @@ private:
         m_photos.click(u"1x1_a.jpg"_s);
     }
 
+    void reading(Scenes& seen)
+    {
+        AppModel& model = m_half.model();
+        model.tap(m_half.photos.url(u"a.jpg"_s), false, false);
+        QTest::qWait(250);  // the blocks do not come at once
+        look(seen, u"reading"_s, *m_reading);
+        model.selectAllPhotos();
+        look(seen, u"batch, reading"_s, *m_reading);
+        model.setBatch(u"creator"_s, u"Mara"_s);
+        model.setBatchDontAskSession(true);
+        model.requestSave();
+        look(seen, u"apply, reading"_s, *m_reading);
+        model.cancelRead();
+        settle();
+        model.toggleBatchInclude(u"creator"_s);
+    }
+
     InspectorFixture& m_photos;
+    HalfRead& m_half;
     QSize m_size;
     SystemScheme m_scheme;
     std::unique_ptr<QMainWindow> m_window;
     std::unique_ptr<QMainWindow> m_folders;
     std::unique_ptr<QMainWindow> m_empty;
+    std::unique_ptr<QMainWindow> m_reading;
     std::unique_ptr<SettingsView> m_settings;
     std::unique_ptr<HelpView> m_help;
 };
@@ -205,6 +227,7 @@ private:
     std::unique_ptr<InspectorFixture> m_photos;
     std::unique_ptr<InspectorFixture> m_folders;
     std::unique_ptr<InspectorFixture> m_none;
+    std::unique_ptr<HalfRead> m_half;
     QMap<int, Scenes> m_usual;  // by the window's width
 };
 
@@ -222,6 +245,7 @@ void tst_TextSizes::initTestCase()
     m_folders->model().preferences().openSubfolders.set(true);
     QVERIFY(m_folders->photos.open());
     m_folders->model().setFolded(m_folders->photos.url(u"Alps/Pass"_s), true);
+    m_half = std::make_unique<HalfRead>();
     m_photos->add(u"1x1_a.jpg"_s,
         { u"-XMP-dc:Title=Evening by the lake"_s, u"-EXIF:DateTimeOriginal=2024:10:12 17:48:00"_s,
             u"-EXIF:OffsetTimeOriginal=+02:00"_s, u"-IPTC:Keywords=lake"_s, u"-IPTC:Keywords=13x18"_s,
@@ -233,9 +257,10 @@ void tst_TextSizes::initTestCase()
     m_photos->add(u"3x4_c.jpg"_s, { u"-XMP-dc:Title=Other"_s });
     QVERIFY(m_photos->photos.open());
     m_photos->model().addKnownField(u"headline"_s);
+    QVERIFY(m_half->openHalf());
     // The second is the narrowest in which the preview takes room from the inspector.
     for (const QSize size : { QSize(900, 600), QSize(1100, 600), QSize(1600, 1000) })
-        m_usual.insert(size.width(), Walk(*m_photos, *m_folders, *m_none, size).scenes());
+        m_usual.insert(size.width(), Walk(*m_photos, *m_folders, *m_none, *m_half, size).scenes());
 }
 
 // A small window with one of every fault; and the same without.
@@ -303,7 +328,7 @@ void tst_TextSizes::nothingIsLostAtAnySize()
     QFETCH(bool, whileRunning);
     if (!whileRunning)
         setTextSize(points);
-    Walk walk(*m_photos, *m_folders, *m_none, window);
+    Walk walk(*m_photos, *m_folders, *m_none, *m_half, window);
     setTextSize(points);
     const Scenes seen = walk.scenes();
     QMap<QString, QString> faults;  // and a scene that each is seen in
