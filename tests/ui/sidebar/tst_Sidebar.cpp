@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
 
 #include <unistd.h>
 
@@ -21,6 +22,34 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int photoCount = 50'000;
+
+// Says of every file that it was given that it is one, and nothing more. While the gate is shut it waits.
+class QuickTool {
+public:
+    QuickTool()
+    {
+        writeFile(m_directory.filePath(u"exiftool"_s), R"perl(#!/usr/bin/perl
+my ($dir) = $0 =~ m{^(.*)/};
+select undef, undef, undef, 0.005 while -e "$dir/shut";
+print '[', join(',', map { qq({"SourceFile":"$_"}) } grep { m{^/} && -f } @ARGV), ']';
+)perl");
+    }
+    MetadataService service() const
+    {
+        return { { QUrl::fromLocalFile(m_directory.filePath(u"exiftool"_s)), realTool().perlURL } };
+    }
+    void setShut(bool on) const
+    {
+        const QString gate = m_directory.filePath(u"shut"_s);
+        if (on)
+            writeFile(gate, {});
+        else
+            QFile::remove(gate);
+    }
+
+private:
+    QTemporaryDir m_directory;
+};
 
 QString nameOf(int i)
 {
@@ -46,6 +75,7 @@ private slots:
     void unsavedEditsHoldTheSelection();
     void rowsHaveNames();
     void onlyRowsOnScreenAskForThumbnails();
+    void rowsOnScreenAreReadFirst();
 
 private:
     void press(int key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(list(), Qt::Key(key), modifiers); }
@@ -55,7 +85,9 @@ private:
     int pageLength() { return list()->viewport()->height() / SidebarDelegate::pitch() - 1; }
     QPoint middleOf(int row) { return list()->visualRect(list()->model()->index(row, 0)).center(); }
 
-    FakeTool m_tool;
+    bool openUnread();
+
+    QuickTool m_tool;
     std::unique_ptr<ModelFixture> m_fixture;
     std::unique_ptr<Stage> m_stage;
     QPointer<SidebarView> m_view;
@@ -64,21 +96,25 @@ private:
 
 void tst_Sidebar::initTestCase()
 {
-    m_fixture = std::make_unique<ModelFixture>(MetadataService{ m_tool.runner() });
+    m_fixture = std::make_unique<ModelFixture>(m_tool.service());
     m_fixture->services.openUrl = [this](const QUrl& url) { m_opened.append(url); };
     m_fixture->relaunch();
     const QByteArray first = m_fixture->folder.path(nameOf(0)).toLocal8Bit();
     writeFile(QString::fromLocal8Bit(first), "x");
-    QList<QJsonObject> answers;
-    for (int i = 0; i < photoCount; ++i) {
+    for (int i = 1; i < photoCount; ++i) {  // links cost less than files
         const QString path = m_fixture->folder.path(nameOf(i));
-        if (i > 0)  // links cost less than files
-            QCOMPARE(::link(first.constData(), path.toLocal8Bit().constData()), 0);
-        answers.append({ { u"SourceFile"_s, path } });
+        QCOMPARE(::link(first.constData(), path.toLocal8Bit().constData()), 0);
     }
-    m_tool.answerAlways({ .standardOutput = toolJson(answers) });
-    QVERIFY(m_fixture->open());
-    QCOMPARE((*m_fixture)->records().size(), photoCount);
+    QVERIFY(openUnread());
+    // Of what follows, only photos that are selected are read.
+    (*m_fixture)->cancelRead();
+}
+
+// The whole folder is listed, and is being read.
+bool tst_Sidebar::openUnread()
+{
+    (*m_fixture)->load({ m_fixture->folderURL() });
+    return QTest::qWaitFor([this] { return (*m_fixture)->records().size() == photoCount; }, 60'000);
 }
 
 void tst_Sidebar::init()
@@ -232,6 +268,7 @@ void tst_Sidebar::showsWhereTheKeyboardIsAmongSelectedRows()
 
 void tst_Sidebar::unsavedEditsHoldTheSelection()
 {
+    QTRY_VERIFY(!(*m_fixture)->primaryRecord()->isUnread);
     (*m_fixture)->setSingle(u"title"_s, u"Unsaved"_s);
     press(Qt::Key_Down);
     QVERIFY((*m_fixture)->saveOpen());
@@ -281,6 +318,24 @@ void tst_Sidebar::onlyRowsOnScreenAskForThumbnails()
         ThumbnailStore::State::badge);
     QCOMPARE(thumbs.entry(m_fixture->url(nameOf(photoCount / 2)), ThumbnailStore::Kind::small).state,
         ThumbnailStore::State::none);
+}
+
+void tst_Sidebar::rowsOnScreenAreReadFirst()
+{
+    m_tool.setShut(true);
+    (*m_fixture)->closeFolder();
+    QVERIFY(openUnread());
+    press(Qt::Key_Home);
+    list()->verticalScrollBar()->setValue(list()->verticalScrollBar()->maximum());
+    QTest::qWait(300);  // what stands still for a moment is looked at
+    m_tool.setShut(false);
+    const auto unread = [this] {
+        const QList<ImageRecord>& photos = (*m_fixture)->records();
+        return std::count_if(photos.cbegin(), photos.cend(), [](const ImageRecord& photo) { return photo.isUnread; });
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(!(*m_fixture)->record(m_fixture->url(nameOf(photoCount - 1)))->isUnread, 60'000);
+    QVERIFY2(unread() > photoCount / 2, qPrintable(QString::number(unread())));
+    (*m_fixture)->cancelRead();
 }
 
 QTEST_MAIN(tst_Sidebar)
