@@ -51,6 +51,8 @@ void MainWindowDelegate::quit()
 
 bool MainWindowDelegate::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide || event->type() == QEvent::WindowStateChange)
+        m_model.setOnScreen(m_window.isVisible() && !m_window.isMinimized());
     if (event->type() != QEvent::Close || m_quitting)
         return QObject::eventFilter(watched, event);
     // Closing the window ends the program, by way of the model, which asks about unsaved edits first.

@@ -1,4 +1,5 @@
-// What the main window does as a window: how it closes, and where it was last time. Thread: the main thread.
+// What the main window does as a window: how it closes, where it was last time, and whether it can be seen.
+// Thread: the main thread.
 #pragma once
 
 #include <QObject>

@@ -138,7 +138,13 @@ QBIconButton::QBIconButton(const QString& icon, const QString& name, QWidget* pa
 void QBIconButton::setName(const QString& name)
 {
     setAccessibleName(name);
-    setToolTip(name);
+    setHint(accessibleDescription());
+}
+
+void QBIconButton::setHint(const QString& hint)
+{
+    setAccessibleDescription(hint);
+    setToolTip(hint.isEmpty() ? accessibleName() : accessibleName() + u'\n' + hint);
 }
 
 void QBIconButton::setSizes(QSizeF button, qreal icon, qreal stroke, qreal radius)

@@ -55,6 +55,8 @@ public:
     QBIconButton(const QString& icon, const QString& name, QWidget* parent = nullptr);
     /// Also the tooltip.
     void setName(const QString& name);
+    /// A sentence for the tooltip, below the name; "" for none.
+    void setHint(const QString& hint);
     /// Points of the button and of the icon in it; line width in the icon's own 24×24 drawing (0: as drawn).
     void setSizes(QSizeF button, qreal icon, qreal stroke = 0, qreal radius = 7);
     /// Keeps the hover ground while what the button stands for is shown.

@@ -26,6 +26,19 @@ constexpr qreal subtitleHeight = 15;
 constexpr qreal titleGap = 16;  // at least, to menus and tools
 constexpr qreal leastTitle = 60;  // in less than that nothing could be read
 
+// What one should know before one trusts that the list is up to date; "" where one may.
+QString watchingText(const Watching& watching)
+{
+    if (watching.how == Watching::How::looking)
+        return (watching.folders == 1 ? u"This folder does not report changes; %1 looks every few seconds."_s
+                                      : u"Not all of these folders report changes; %1 looks every few seconds."_s)
+            .arg(Product::name());
+    if (watching.how == Watching::How::partly)
+        return u"Only %1 of %2 folders report changes. Refresh to see what changed in the others."_s.arg(
+            QString::number(watching.watched), QString::number(watching.folders));
+    return {};
+}
+
 }  // namespace
 
 WindowBar::WindowBar(AppModel& model, QWidget* parent)
@@ -39,8 +52,8 @@ WindowBar::WindowBar(AppModel& model, QWidget* parent)
     m_line->addWidget(m_tools);
 
     auto* tools = new QHBoxLayout(m_tools);
-    QBIconButton* refresh = addTool(tools, u"arrow.clockwise"_s, u"Refresh folder"_s);
-    connect(refresh, &QAbstractButton::clicked, &model, &AppModel::refresh);
+    m_refresh = addTool(tools, u"arrow.clockwise"_s, u"Refresh folder"_s);
+    connect(m_refresh, &QAbstractButton::clicked, &model, &AppModel::refresh);
     m_preview = addTool(tools, u"rectangle.split.2x1"_s, u"Show preview"_s);
     connect(m_preview, &QAbstractButton::clicked, this, &WindowBar::previewToggled);
     m_settings = addTool(tools, u"ellipsis"_s, u"Settings"_s);
@@ -62,6 +75,8 @@ WindowBar::WindowBar(AppModel& model, QWidget* parent)
              &AppModel::folderChanged, &AppModel::unsavedCountChanged })
         connect(&model, change, this, &WindowBar::follow);
     follow();
+    connect(&model, &AppModel::watchingChanged, this, &WindowBar::followWatching);
+    followWatching();
 }
 
 ThemedMenuBar* WindowBar::menuBar()
@@ -107,6 +122,11 @@ void WindowBar::follow()
     setAccessibleName(shownTitle());
     setAccessibleDescription(m_model.folderCountText());
     update();
+}
+
+void WindowBar::followWatching()
+{
+    m_refresh->setHint(watchingText(m_model.watching()));
 }
 
 void WindowBar::openSettingsMenu()

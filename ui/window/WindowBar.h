@@ -40,6 +40,7 @@ private:
     QBIconButton* addTool(QHBoxLayout* line, const QString& icon, const QString& name);
     void openSettingsMenu();
     void follow();
+    void followWatching();
     QString shownTitle() const;
     void paintTitles(QPainter& painter) const;
 
@@ -47,6 +48,7 @@ private:
     QHBoxLayout* m_line;
     ThemedMenuBar* m_menus = nullptr;
     QWidget* m_tools;
+    QBIconButton* m_refresh = nullptr;
     QBIconButton* m_preview = nullptr;
     QBIconButton* m_settings = nullptr;
     QBButton* m_save = nullptr;

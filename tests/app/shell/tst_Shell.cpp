@@ -22,6 +22,7 @@
 #include <QSignalSpy>
 #include <QTimer>
 
+#include <atomic>
 #include <csignal>
 
 using namespace Quorbel;
@@ -45,6 +46,7 @@ private slots:
     void menusRestUnderASheet();
     void closingAsksAboutUnsavedEdits();
     void geometryIsRemembered();
+    void nobodyLooksForAHiddenWindow();
     void filesFromACommandLine_data();
     void filesFromACommandLine();
     void settingsShowAndWritePreferences();
@@ -314,6 +316,32 @@ void tst_Shell::geometryIsRemembered()
     delegate.restoreGeometry();
     fixture.show();
     QCOMPARE(fixture.window->size(), QSize(1010, 640));
+}
+
+// Where the system tells of no changes, the folder is looked at while its photos can be seen.
+void tst_Shell::nobodyLooksForAHiddenWindow()
+{
+    WindowFixture f;
+    const auto looks = std::make_shared<std::atomic<int>>(0);
+    f.model.services.fileSystemOf = [looks](const QString&) {
+        ++*looks;
+        return FileSystem{ {}, false };
+    };
+    f.model.services.lookInterval = std::chrono::milliseconds(50);
+    f.window.reset();
+    f.model.relaunch();
+    f.build();
+    MainWindowDelegate delegate(*f.model.model, *f.window, *f.content->sheets());
+    f.show();
+    f.open({ u"a.jpg"_s });
+    QTRY_VERIFY(*looks > 3);
+    f.window->showMinimized();
+    QTest::qWait(500);
+    const int before = *looks;
+    QTest::qWait(500);
+    QCOMPARE(int(*looks), before);
+    f.window->showNormal();
+    QTRY_VERIFY(*looks > before + 1);
 }
 
 void tst_Shell::filesFromACommandLine_data()

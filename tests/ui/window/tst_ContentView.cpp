@@ -79,6 +79,8 @@ private slots:
     void init() { failOnWarnings(); }
     void launchViewUntilPhotosAreOpen();
     void subfoldersAreOpenedWhereTheSwitchSaysSo();
+    void refreshTellsWhatIsNotReported_data();
+    void refreshTellsWhatIsNotReported();
     void theKeyboardIsNotLost_data();
     void theKeyboardIsNotLost();
     void theDragLineIsWhole();
@@ -164,6 +166,43 @@ void tst_ContentView::subfoldersAreOpenedWhereTheSwitchSaysSo()
     QVERIFY(fixture.model.waitUntilIdle());
     QCOMPARE(fixture.model.visible(), (QStringList{ u"a.jpg"_s, u"b.jpg"_s }));
     QCOMPARE(fixture.content->bar()->accessibleDescription(), u"2 photos in 2 folders"_s);
+}
+
+void tst_ContentView::refreshTellsWhatIsNotReported_data()
+{
+    QTest::addColumn<bool>("tells");
+    QTest::addColumn<int>("subfolders");
+    QTest::addColumn<QString>("hint");
+    QTest::addRow("the system tells") << true << 0 << QString();
+    QTest::addRow("it does not") << false << 0
+                                 << u"This folder does not report changes; Quorbel looks every few seconds."_s;
+    QTest::addRow("of some it does not")
+        << false << 2 << u"Not all of these folders report changes; Quorbel looks every few seconds."_s;
+    QTest::addRow("too many folders")
+        << true << 1000 << u"Only 1000 of 1001 folders report changes. Refresh to see what changed in the others."_s;
+}
+
+void tst_ContentView::refreshTellsWhatIsNotReported()
+{
+    QFETCH(bool, tells);
+    QFETCH(int, subfolders);
+    QFETCH(QString, hint);
+    WindowFixture f;
+    f.model.services.fileSystemOf = [tells](const QString&) { return FileSystem{ {}, tells }; };
+    f.window.reset();
+    f.model.relaunch();
+    f.build();
+    f.show();
+    f.model.addTitled({ u"a.jpg"_s });
+    for (int i = 0; i < subfolders; ++i)
+        QVERIFY(QDir(f.model.folder.path()).mkdir(QString::number(i)));
+    f.model->load({ f.model.folderURL() }, subfolders > 0);
+    QVERIFY(f.model.waitUntilIdle());
+    QAbstractButton* refresh = f.button(u"Refresh folder"_s);
+    QTRY_COMPARE(refresh->accessibleDescription(), hint);
+    QCOMPARE(refresh->toolTip(), hint.isEmpty() ? u"Refresh folder"_s : u"Refresh folder\n"_s + hint);
+    f.model->closeFolder();
+    QTRY_COMPARE(refresh->toolTip(), u"Refresh folder"_s);
 }
 
 void tst_ContentView::theKeyboardIsNotLost_data()
