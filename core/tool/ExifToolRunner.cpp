@@ -342,6 +342,11 @@ QString ExifToolRunner::version() const
     return run({ u"-ver"_s }).trimmed();
 }
 
+QString ExifToolRunner::versions() const
+{
+    return run({ u"-ver"_s, u"-v2"_s });
+}
+
 QString ExifToolRunner::run(const QStringList& arguments) const
 {
     return strictUtf8(runForBytes(arguments));

@@ -80,6 +80,9 @@ struct ExifToolRunner {
         const QStringList& tags, const QUrl& file, const std::stop_token& stop = {}) const;
     /// The tool's version, trimmed.
     QString version() const;
+    /// The same with the versions of Perl and of the libraries that the tool can use, and where Perl looks for all of
+    /// them, as the tool prints it.
+    QString versions() const;
 
     bool operator==(const ExifToolRunner&) const = default;
 

@@ -7,6 +7,10 @@
 
 namespace Quorbel::MetadataReader {
 
+/// Raise it when parse() makes another record of the same answers, or when other options are read with: records that
+/// were kept from earlier reads are then read again. The schema's fields and their tags need no such reminder.
+constexpr int meaning = 1;
+
 /// The tags of the main read, in the order in which they are asked for.
 QStringList readTags();
 /// The record of one file, without the file system's dates.

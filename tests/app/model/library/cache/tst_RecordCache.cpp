@@ -1,0 +1,618 @@
+// The cache of records: what it gives is what a read would give, and whatever happens to photo, tool or file, never
+// anything else.
+#include "app/model/library/PhotoReader.h"
+#include "app/model/library/cache/RecordCache.h"
+#include "app/model/library/cache/RecordCode.h"
+#include "core/schema/FieldSchema.h"
+#include "tests/support/Support.h"
+
+#include <QDirIterator>
+#include <QRandomGenerator>
+#include <QScopeGuard>
+#include <QTest>
+
+#include <fcntl.h>
+#include <limits>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Records = QHash<QUrl, ImageRecord>;
+
+QByteArray localName(const QString& path)
+{
+    return QFile::encodeName(path);
+}
+
+QList<PhotoFile> looks(const QList<QUrl>& urls)
+{
+    QList<PhotoFile> files;
+    for (const QUrl& url : urls)
+        if (const auto look = PhotoFile::at(url); look.file)
+            files.append(*look.file);
+    return files;
+}
+
+// As a read gives it.
+ImageRecord recordOf(const PhotoFile& file, const QString& title)
+{
+    ImageRecord record = file.unreadRecord();
+    record.isUnread = false;
+    record.pixelWidth = 8;
+    record.values = { { u"title"_s, title } };
+    record.lists = { { u"keywords"_s, { u"one"_s, title } } };
+    record.custom = { { u"Mood"_s, u"calm"_s } };
+    record.camera = { { u"Camera"_s, u"Quorbel 1"_s } };
+    return record;
+}
+
+// A folder of photos, a tool that tells its version, and a cache beside them.
+struct Setting {
+    PhotoFolder photos;
+    PhotoFolder beside;
+    FakeTool tool;
+    QList<QUrl> urls;
+
+    explicit Setting(int count = 0)
+    {
+        tell("12.57");
+        for (int i = 0; i < count; ++i)
+            urls.append(photos.add(u"%1.jpg"_s.arg(i)));
+    }
+    void tell(const QByteArray& version) { tool.answerAlways({ .standardOutput = version + '\n' }); }
+    RecordCache::Options options() const { return { .folder = beside.path(u"records"_s) }; }
+    QString file() const { return beside.path(u"records/records.db"_s); }
+    Records records() const
+    {
+        Records all;
+        const QList<PhotoFile> files = looks(urls);
+        for (const PhotoFile& photo : files)
+            all.insert(photo.url, recordOf(photo, u"Title of "_s + photo.url.fileName()));
+        return all;
+    }
+    // Puts what would have been read now.
+    void put(RecordCache& cache) const
+    {
+        const QList<PhotoFile> files = looks(urls);
+        const Records all = records();
+        QList<RecordCache::Read> reads;
+        for (const PhotoFile& photo : files)
+            reads.append({ photo, all.value(photo.url) });
+        cache.put(cache.begin(files), reads);
+        cache.waitUntilWritten();
+    }
+    void put() const
+    {
+        RecordCache cache(options(), tool.runner());
+        put(cache);
+    }
+    Records found() const
+    {
+        RecordCache cache(options(), tool.runner());
+        return cache.find(looks(urls));
+    }
+};
+
+// The date of modification as it was, so that only the rest tells.
+void setBack(const QString& path, const struct stat& before)
+{
+    const timespec times[2]{ before.st_atim, before.st_mtim };
+    QCOMPARE(utimensat(AT_FDCWD, localName(path).constData(), times, 0), 0);
+}
+
+void flip(const QString& path, qsizetype at, char bits)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.seek(at));
+    char byte = 0;
+    QVERIFY(file.getChar(&byte));
+    QVERIFY(file.seek(at));
+    QVERIFY(file.putChar(char(byte ^ bits)));
+}
+
+int modeOf(const QString& path)
+{
+    struct stat status { };
+    return stat(localName(path).constData(), &status) == 0 ? int(status.st_mode & 0777) : -1;
+}
+
+}  // namespace
+
+class tst_RecordCache : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
+    void code_data();
+    void code();
+    void brokenSeals();
+    void equalsRead();
+    void invalidations_data();
+    void invalidations();
+    void anotherReader_data();
+    void anotherReader();
+    void toolIsNotRun();
+    void trust();
+    void damage_data();
+    void damage();
+    void anyByte();
+    void removedWhileOpen();
+    void nowhereToWrite_data();
+    void nowhereToWrite();
+    void bounds_data();
+    void bounds();
+    void twoAtOnce();
+    void forTheOwnerAlone();
+};
+
+void tst_RecordCache::code_data()
+{
+    QTest::addColumn<ImageRecord>("record");
+    QTest::addColumn<bool>("isKept");
+    const auto with = [](auto&& change) {
+        ImageRecord record;
+        change(record);
+        return record;
+    };
+    QTest::newRow("nothing") << ImageRecord() << true;
+    QTest::newRow("not read") << ImageRecord{ .isUnread = true } << false;
+    QTest::newRow("numbers") << with([](ImageRecord& record) {
+        record.pixelWidth = std::numeric_limits<int>::max();
+        record.pixelHeight = std::numeric_limits<int>::min();
+        record.fileSize = std::numeric_limits<qint64>::max();
+    }) << true;
+    QTest::newRow("small numbers") << with([](ImageRecord& record) {
+        record.pixelWidth = 0;
+        record.pixelHeight = -1;
+        record.fileSize = 1;
+    }) << true;
+    QTest::newRow("no number at all fits")
+        << with([](ImageRecord& record) { record.fileSize = std::numeric_limits<qint64>::min(); }) << false;
+    QTest::newRow("texts") << with([](ImageRecord& record) {
+        record.fileType = u"JPEG"_s;
+        record.values = { { u"title"_s, QString() }, { u"description"_s, u"東京 \U0001F600"_s + QChar(0) + u"\n"_s },
+            { u"headline"_s, QString(100'000, u'ä') } };
+        record.lists = { { u"keywords"_s, { u""_s, u"b"_s, u"a"_s, u"a"_s } }, { u"people"_s, {} } };
+        record.custom = { { u"Mood"_s, u""_s }, { u"Ämter"_s, u"x"_s } };
+        record.camera = { { u"ISO"_s, u"100"_s }, { u"Camera"_s, u""_s } };
+    }) << true;
+    QTest::newRow("half a character") << with([](ImageRecord& record) {
+        record.values = { { u"title"_s, QString(QChar(0xD83D)) } };
+    }) << false;
+    QTest::newRow("a field of another schema") << with([](ImageRecord& record) {
+        record.values = { { u"mood"_s, u"calm"_s } };
+    }) << false;
+    QTest::newRow("every field") << with([](ImageRecord& record) {
+        for (const FieldSpec& field : FieldSchema::all())
+            record.values.insert(field.id, field.label);
+    }) << true;
+}
+
+void tst_RecordCache::code()
+{
+    QFETCH(ImageRecord, record);
+    QFETCH(bool, isKept);
+    const PhotoFile file{ .url = QUrl::fromLocalFile(u"/photos/50% of #1?.jpg"_s), .modified = -1 };
+    record.url = file.url;
+    record.fileName = u"50% of #1?.jpg"_s;
+    record.contentModificationDate = file.modificationDate();
+    const QByteArray encoded = RecordCode::encoded(record);
+    QCOMPARE(!encoded.isEmpty(), isKept);
+    if (isKept)
+        QCOMPARE(RecordCode::opened(RecordCode::sealed(encoded, file, "reader"), file, "reader"), record);
+}
+
+// One bit wrong, or an end missing, and it is no record; nor is it one of another file or reader.
+void tst_RecordCache::brokenSeals()
+{
+    const PhotoFile file{
+        .url = QUrl::fromLocalFile(u"/photos/a.jpg"_s), .device = 1, .inode = 2, .size = 3, .modified = 4, .changed = 5
+    };
+    const QByteArray good = RecordCode::sealed(RecordCode::encoded(recordOf(file, u"Dawn"_s)), file, "reader");
+    QVERIFY(RecordCode::opened(good, file, "reader"));
+    for (qsizetype at = 0; at < good.size(); ++at) {
+        QCOMPARE(RecordCode::opened(good.first(at), file, "reader"), std::nullopt);
+        for (int bit = 0; bit < 8; ++bit) {
+            QByteArray bad = good;
+            bad[at] = char(bad.at(at) ^ 1 << bit);
+            QCOMPARE(RecordCode::opened(bad, file, "reader"), std::nullopt);
+        }
+    }
+    QCOMPARE(RecordCode::opened(good, file, "another"), std::nullopt);
+    QList<PhotoFile> others(6, file);
+    others[0].url = QUrl::fromLocalFile(u"/photos/b.jpg"_s);
+    ++others[1].device;
+    ++others[2].inode;
+    ++others[3].size;
+    ++others[4].modified;
+    ++others[5].changed;
+    for (const PhotoFile& other : std::as_const(others))
+        QCOMPARE(RecordCode::opened(good, other, "reader"), std::nullopt);
+}
+
+// Real photos and broken ones: read, from the cache, and from the cache as the next start of the program opens it.
+void tst_RecordCache::equalsRead()
+{
+    const QStringList paths = realPhotos(u"valid"_s, 100'000) + realPhotos(u"malformed"_s, 100'000);
+    if (paths.isEmpty())
+        QSKIP("QUORBEL_TEST_PHOTOS names no folder of photos");
+    QList<QUrl> urls;
+    for (const QString& path : paths)
+        if (!path.endsWith(u"/xmp-deep-nesting.png"))  // keeps the tool busy for half an hour
+            urls.append(QUrl::fromLocalFile(path));
+    const PhotoFolder folder;
+    const RecordCache::Options options{ .folder = folder.path(u"records"_s) };
+    const MetadataService service{ realTool() };
+    auto cache = std::make_unique<RecordCache>(options, service.runner);
+    const QList<PhotoFile> files = looks(urls);
+    const RecordCache::Beginning beginning = cache->begin(files);
+    TaskProgress progress;
+    const PhotoReader::Result read = PhotoReader::read(service, urls, progress, {});
+    QVERIFY(read.records.size() > paths.size() / 2);
+    QHash<QUrl, PhotoFile> before;
+    for (const PhotoFile& file : files)
+        before.insert(file.url, file);
+    QList<RecordCache::Read> reads;
+    for (const ImageRecord& record : read.records)
+        reads.append({ before.value(record.url), record });
+    cache->put(beginning, reads);
+    cache->waitUntilWritten();
+    for (int round = 0; round < 3; ++round) {
+        if (round == 2)
+            cache = std::make_unique<RecordCache>(options, service.runner);
+        const Records found = cache->find(files);
+        QCOMPARE(found.size(), read.records.size());
+        for (const ImageRecord& record : read.records)
+            QCOMPARE(found.value(record.url), record);
+    }
+}
+
+void tst_RecordCache::invalidations_data()
+{
+    QTest::addColumn<std::function<void(const QString&)>>("change");
+    QTest::addColumn<bool>("isFound");
+    const auto row = [](const char* name, bool isFound, const std::function<void(const QString&)>& change) {
+        QTest::newRow(name) << change << isFound;
+    };
+    row("nothing", true, [](const QString&) {});
+    row("looked at", true, [](const QString& path) { readFile(path); });
+    row("other content of the same size, date set back", false, [](const QString& path) {
+        struct stat before { };
+        QCOMPARE(stat(localName(path).constData(), &before), 0);
+        QByteArray bytes = readFile(path);
+        bytes[bytes.size() - 3] = char(bytes.at(bytes.size() - 3) ^ 1);
+        writeFile(path, bytes);
+        setBack(path, before);
+    });
+    row("another file of the same size and date in its place", false, [](const QString& path) {
+        struct stat before { };
+        QCOMPARE(stat(localName(path).constData(), &before), 0);
+        writeFile(path + u".new"_s, readFile(path));
+        setBack(path + u".new"_s, before);
+        QCOMPARE(::rename(localName(path + u".new"_s).constData(), localName(path).constData()), 0);
+    });
+    row("longer", false, [](const QString& path) { writeFile(path, readFile(path) + "x"); });
+    row("date", false, [](const QString& path) {
+        const timespec times[2]{ { 0, UTIME_NOW }, { 1'000'000'000, 0 } };
+        QCOMPARE(utimensat(AT_FDCWD, localName(path).constData(), times, 0), 0);
+    });
+    row("rights", false, [](const QString& path) { QCOMPARE(::chmod(localName(path).constData(), 0640), 0); });
+    row("renamed and back", false, [](const QString& path) {
+        QVERIFY(QFile::rename(path, path + u".away"_s));
+        QVERIFY(QFile::rename(path + u".away"_s, path));
+    });
+    row("gone", false, [](const QString& path) { QVERIFY(QFile::remove(path)); });
+    row("a link to a photo that is known", false, [](const QString& path) {
+        QVERIFY(QFile::remove(path));
+        QVERIFY(QFile::link(QFileInfo(path).path() + u"/1.jpg"_s, path));
+    });
+}
+
+void tst_RecordCache::invalidations()
+{
+    QFETCH(std::function<void(const QString&)>, change);
+    QFETCH(bool, isFound);
+    const Setting setting(3);
+    setting.put();
+    Records expected = setting.records();
+    change(setting.photos.path(u"0.jpg"_s));
+    if (!isFound)
+        expected.remove(setting.urls.constFirst());
+    QCOMPARE(setting.found(), expected);
+    // Once it is read again, that holds.
+    setting.put();
+    QCOMPARE(setting.found(), setting.records());
+}
+
+void tst_RecordCache::anotherReader_data()
+{
+    QTest::addColumn<std::function<void(Setting&)>>("change");
+    QTest::addColumn<bool>("isFound");
+    const auto row = [](const char* name, bool isFound, const std::function<void(Setting&)>& change) {
+        QTest::newRow(name) << change << isFound;
+    };
+    row("the same", true, [](Setting&) {});
+    row("another version", false, [](Setting& setting) {
+        setting.tell("12.58");
+        const QString script = setting.tool.scriptPath();
+        writeFile(script, readFile(script) + "\n");
+    });
+    row("the same version installed anew", true, [](Setting& setting) {
+        const QString script = setting.tool.scriptPath();
+        writeFile(script, readFile(script) + "\n");
+    });
+    row("another time zone", false, [](Setting&) { qputenv("TZ", "Asia/Tokyo"); });
+    row("a configuration beside the tool", false, [](Setting& setting) {
+        writeFile(QFileInfo(setting.tool.scriptPath()).path() + u"/.ExifTool_config"_s, "1;\n");
+    });
+    row("a configuration of the user's", false, [](Setting& setting) {
+        writeFile(setting.beside.path(u".ExifTool_config"_s), "1;\n");
+        qputenv("EXIFTOOL_HOME", localName(setting.beside.path()));
+    });
+    row("no answer any more", false, [](Setting& setting) {
+        setting.tool.answerAlways({ .exitCode = 1 });
+        const QString script = setting.tool.scriptPath();
+        writeFile(script, readFile(script) + "\n");
+    });
+}
+
+void tst_RecordCache::anotherReader()
+{
+    QFETCH(std::function<void(Setting&)>, change);
+    QFETCH(bool, isFound);
+    const QByteArray zone = qgetenv("TZ");
+    const auto restore = qScopeGuard([&zone] {
+        qputenv("TZ", zone);
+        qunsetenv("EXIFTOOL_HOME");
+    });
+    Setting setting(2);
+    setting.put();
+    const Records known = setting.records();
+    change(setting);
+    const Records found = setting.found();
+    qputenv("TZ", zone);
+    QCOMPARE(found, isFound ? known : Records());
+}
+
+// The version is asked for once, as long as the tool is the same; not at all before there is anything to give.
+void tst_RecordCache::toolIsNotRun()
+{
+    const Setting setting(2);
+    QCOMPARE(setting.found(), Records());
+    QCOMPARE(setting.tool.calls().size(), 0);
+    setting.put();
+    QCOMPARE(setting.tool.calls(), QList<QStringList>({ { u"-ver"_s, u"-v2"_s } }));
+    QCOMPARE(setting.found().size(), 2);
+    setting.put();
+    QCOMPARE(setting.found().size(), 2);
+    QCOMPARE(setting.tool.calls().size(), 1);
+    // Installed anew: asked once, though only for what is there already.
+    const QString script = setting.tool.scriptPath();
+    writeFile(script, readFile(script) + "\n");
+    for (int i = 0; i < 2; ++i)
+        QCOMPARE(setting.found().size(), 2);
+    QCOMPARE(setting.tool.calls().size(), 2);
+}
+
+// What was read counts only when the file did not change, and could not have changed without another date.
+void tst_RecordCache::trust()
+{
+    const Setting setting(5);
+    RecordCache cache(setting.options(), setting.tool.runner());
+    const QList<PhotoFile> files = looks(setting.urls);
+    // Written this very moment: for that much is waited.
+    const RecordCache::Beginning beginning = cache.begin(files);
+    const Records records = setting.records();
+    const auto put = [&](int photo, const RecordCache::Beginning& begun, const PhotoFile& before) {
+        cache.put(begun, { { before, records.value(setting.urls.at(photo)) } });
+        cache.waitUntilWritten();
+    };
+    put(0, beginning, files.at(0));
+    // Read in the same tick of the clock.
+    put(1, { files.at(1).changed, beginning.reader }, files.at(1));
+    // Changed between the look and the end of the read.
+    writeFile(setting.photos.path(u"2.jpg"_s), "changed");
+    put(2, beginning, files.at(2));
+    // By another tool, which is gone.
+    put(3, { beginning.now, "another" }, files.at(3));
+    // Where dates are whole seconds, two may pass.
+    PhotoFile coarse = files.at(4);
+    coarse.changed -= coarse.changed % 1'000'000'000;
+    put(4, { coarse.changed + 1'900'000'000, beginning.reader }, coarse);
+    const QUrl only = setting.urls.constFirst();
+    QCOMPARE(cache.find(looks(setting.urls)), Records({ { only, records.value(only) } }));
+}
+
+void tst_RecordCache::damage_data()
+{
+    QTest::addColumn<std::function<void(const QString&)>>("harm");
+    const auto row = [](const char* name, const std::function<void(const QString&)>& harm) {
+        QTest::newRow(name) << harm;
+    };
+    row("half of it", [](const QString& path) { QVERIFY(QFile::resize(path, QFileInfo(path).size() / 2)); });
+    row("its first page", [](const QString& path) { QVERIFY(QFile::resize(path, 4096)); });
+    row("nothing of it", [](const QString& path) { QVERIFY(QFile::resize(path, 0)); });
+    row("garbage", [](const QString& path) { writeFile(path, QByteArray(50'000, 'x')); });
+    row("garbage behind its head",
+        [](const QString& path) { writeFile(path, readFile(path).first(100) + QByteArray(50'000, 'x')); });
+    row("another format", [](const QString& path) { flip(path, 63, 0x70); });  // its version, as the file has it
+    row("no tables", [](const QString& path) {
+        QByteArray bytes = readFile(path);
+        bytes.replace("CREATE TABLE record", "CREATE TABLE recard");
+        writeFile(path, bytes);
+    });
+    row("a folder in its place", [](const QString& path) {
+        QVERIFY(QFile::remove(path));
+        QVERIFY(QDir().mkdir(path));
+    });
+    row("gone", [](const QString& path) { QVERIFY(QFile::remove(path)); });
+    row("gone with its folder", [](const QString& path) { QVERIFY(QDir(QFileInfo(path).path()).removeRecursively()); });
+}
+
+// Found is nothing wrong, then or later; and after the next reads it is whole again. Without a word.
+void tst_RecordCache::damage()
+{
+    QFETCH(std::function<void(const QString&)>, harm);
+    const Setting setting(300);
+    setting.put();
+    const Records records = setting.records();
+    QCOMPARE(setting.found(), records);
+    harm(setting.file());
+    const Records found = setting.found();
+    for (const ImageRecord& record : found)
+        QCOMPARE(record, records.value(record.url));
+    setting.put();
+    QCOMPARE(setting.found(), records);
+}
+
+// One byte somewhere in the file.
+void tst_RecordCache::anyByte()
+{
+    const Setting setting(40);
+    setting.put();
+    const Records records = setting.records();
+    const QByteArray good = readFile(setting.file());
+    QRandomGenerator random(1);
+    int harmed = 0;
+    for (int round = 0; round < 300; ++round) {
+        flip(setting.file(), random.bounded(good.size()), char(1 << random.bounded(8)));
+        const Records found = setting.found();
+        for (const ImageRecord& record : found)
+            QCOMPARE(record, records.value(record.url));
+        harmed += found.size() < records.size() ? 1 : 0;
+        if (round % 50 == 0) {
+            setting.put();
+            QVERIFY(setting.found().size() <= records.size());
+        }
+        QDir(setting.beside.path(u"records"_s)).removeRecursively();
+        QDir().mkpath(setting.beside.path(u"records"_s));
+        writeFile(setting.file(), good);
+    }
+    QVERIFY(harmed > 10);
+}
+
+void tst_RecordCache::removedWhileOpen()
+{
+    const Setting setting(3);
+    RecordCache one(setting.options(), setting.tool.runner());
+    RecordCache other(setting.options(), setting.tool.runner());
+    setting.put(one);
+    setting.put(other);
+    QVERIFY(QDir(setting.beside.path(u"records"_s)).removeRecursively());
+    QCOMPARE(one.find(looks(setting.urls)), Records());
+    setting.put(other);
+    QCOMPARE(one.find(looks(setting.urls)), setting.records());
+    setting.put(one);
+    QCOMPARE(other.find(looks(setting.urls)), setting.records());
+    QCOMPARE(setting.found(), setting.records());
+}
+
+void tst_RecordCache::nowhereToWrite_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("none") << QString();
+    QTest::newRow("below a file") << u"file/records"_s;
+    QTest::newRow("a system's") << u"/proc/self/records"_s;
+}
+
+void tst_RecordCache::nowhereToWrite()
+{
+    QFETCH(QString, folder);
+    const Setting setting(2);
+    writeFile(setting.beside.path(u"file"_s), "x");
+    if (!folder.isEmpty() && !folder.startsWith(u'/'))
+        folder = setting.beside.path(folder);
+    RecordCache cache({ .folder = folder }, setting.tool.runner());
+    setting.put(cache);
+    QCOMPARE(cache.find(looks(setting.urls)), Records());
+    QCOMPARE(setting.beside.names(), QStringList{ u"file"_s });
+}
+
+void tst_RecordCache::bounds_data()
+{
+    QTest::addColumn<qint64>("mostPhotos");
+    QTest::addColumn<qint64>("mostBytes");
+    QTest::newRow("photos") << qint64(200) << (qint64(1) << 30);
+    QTest::newRow("bytes") << (qint64(1) << 30) << qint64(120'000);
+}
+
+// What was asked for last stays.
+void tst_RecordCache::bounds()
+{
+    QFETCH(qint64, mostPhotos);
+    QFETCH(qint64, mostBytes);
+    Setting setting(100);
+    auto options = setting.options();
+    options.mostPhotos = mostPhotos;
+    options.mostBytes = mostBytes;
+    options.useStep = 0;
+    RecordCache cache(options, setting.tool.runner());
+    setting.put(cache);
+    const QList<QUrl> liked = setting.urls.first(20);
+    for (int round = 1; round < 12; ++round) {
+        for (int i = 0; i < 100; ++i)
+            setting.urls[i] = setting.photos.add(u"%1-%2.jpg"_s.arg(round).arg(i));
+        setting.put(cache);
+        QTest::qWait(3);  // another time of use
+        QCOMPARE(cache.find(looks(liked)).size(), liked.size());
+        cache.waitUntilWritten();
+    }
+    QCOMPARE(cache.find(looks(setting.urls)).size(), setting.urls.size());
+    QList<QUrl> all;
+    const QStringList names = setting.photos.names();
+    for (const QString& name : names)
+        all.append(setting.photos.url(name));
+    const qsizetype kept = cache.find(looks(all)).size();
+    QVERIFY2(kept >= liked.size() + setting.urls.size() && kept < all.size() / 2, qPrintable(QString::number(kept)));
+    if (mostPhotos < all.size())
+        QVERIFY2(kept <= mostPhotos, qPrintable(QString::number(kept)));
+    else
+        QVERIFY(QFileInfo(setting.file()).size() <= 2 * mostBytes);
+}
+
+// Two programs: both write and both find, and nothing is lost.
+void tst_RecordCache::twoAtOnce()
+{
+    const Setting setting(200);
+    const Records records = setting.records();
+    const auto work = [&setting, &records](int first) {
+        RecordCache cache(setting.options(), setting.tool.runner());
+        for (int i = first; i < setting.urls.size(); i += 2) {
+            const QList<PhotoFile> files = looks({ setting.urls.at(i) });
+            cache.put(cache.begin(files), { { files.constFirst(), records.value(setting.urls.at(i)) } });
+            if (i % 10 < 2)
+                cache.waitUntilWritten();
+            for (const ImageRecord& record : cache.find(looks(setting.urls)))
+                if (record != records.value(record.url))
+                    qFatal("another record than was put");
+        }
+    };
+    std::jthread other(work, 0);
+    work(1);
+    other.join();
+    QCOMPARE(setting.found(), records);
+}
+
+void tst_RecordCache::forTheOwnerAlone()
+{
+    const Setting setting(2);
+    const mode_t usual = umask(0);
+    const auto restore = qScopeGuard([usual] { umask(usual); });
+    RecordCache cache(setting.options(), setting.tool.runner());
+    setting.put(cache);
+    QCOMPARE(modeOf(setting.beside.path(u"records"_s)), 0700);
+    int files = 0;
+    for (QDirIterator it(setting.beside.path(u"records"_s), QDir::Files); it.hasNext(); ++files)
+        QCOMPARE(modeOf(it.next()), 0600);
+    QVERIFY(files > 0);
+}
+
+QTEST_GUILESS_MAIN(tst_RecordCache)
+#include "tst_RecordCache.moc"
