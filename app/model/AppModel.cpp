@@ -2,6 +2,7 @@
 #include "app/model/AppModel.h"
 
 #include "app/model/library/PhotoListing.h"
+#include "app/model/library/cache/RecordCache.h"
 #include "core/schema/RecentItems.h"
 
 #include <QFileInfo>
@@ -14,18 +15,31 @@ namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+std::shared_ptr<RecordCache> cacheFor(const AppModelServices& services)
+{
+    if (!services.service || services.recordCachePath.isEmpty())
+        return {};
+    return std::make_shared<RecordCache>(
+        RecordCache::Options{ .folder = services.recordCachePath }, services.service->runner);
+}
+
+}  // namespace
+
 AppModel::AppModel(AppModelServices services, QObject* parent)
     : QObject(parent)
     , m_services(std::move(services))
     , m_announcer([this](Change change) { tell(change); })
     , m_preferences(m_services.preferences)
     , m_tasks(m_announcer, m_services.stallInterval)
-    , m_library(m_announcer, m_tasks, m_services.service, m_preferences.sortOrder())
+    , m_cache(cacheFor(m_services))
+    , m_library(m_announcer, m_tasks, m_services.service, m_preferences.sortOrder(), m_cache)
     , m_selected(m_announcer, m_library.photos())
     , m_left(m_announcer, m_services.leftEditsPath, m_services.keepInterval)
     , m_editing(m_announcer, m_library.photos(), m_selected, m_left)
     , m_saving(m_announcer, m_tasks, m_library.refresh(), m_services.service, m_services.journalPath,
-          m_services.stallInterval)
+          m_services.stallInterval, m_cache)
 {
     requireMainThread("AppModel");
     m_library.refresh().setLooks({ m_services.fileSystemOf, m_services.lookInterval });

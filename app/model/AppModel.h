@@ -323,6 +323,7 @@ private:
     Announcer m_announcer;
     Preferences m_preferences;
     RunningTasks m_tasks;
+    std::shared_ptr<RecordCache> m_cache;
     Library m_library;
     SelectedPhotos m_selected;
     LeftBehind m_left;

@@ -26,6 +26,7 @@ struct AppModelServices {
     std::function<void(const QUrl&)> openUrl{};  ///< opens a file in the user's default application
     std::function<QDateTime()> now{};  ///< local wall clock; the system's when empty
     QString journalPath{};  ///< folder of the saves that can be undone; empty: none can
+    QString recordCachePath{};  ///< folder of what was read of photos, for the next time; empty: nothing is kept
     QString leftEditsPath{};  ///< file of the edits that were left unsaved; empty: they end with the program
     /// How long the keys must rest before unsaved edits are written there.
     std::chrono::milliseconds keepInterval{ 2000 };

@@ -8,6 +8,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QThreadPool>
 
 namespace Quorbel {
@@ -74,6 +75,7 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     services.quit = hooks.quit;
     services.journalPath = journalPath();
     services.leftEditsPath = leftEditsPath();
+    services.recordCachePath = QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + u"/records"_s;
     m_model = std::make_unique<AppModel>(services);
     m_placeProvider = makePlaceProvider({ .dataFolder = placesFolder(),
         .endpoint = placeEndpoint(m_model->preferences().placeService()).value_or(QUrl()) });

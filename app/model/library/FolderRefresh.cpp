@@ -14,12 +14,13 @@ constexpr std::chrono::milliseconds emptiedMoment{ 300 };
 
 }  // namespace
 
-FolderRefresh::FolderRefresh(
-    Announcer& announcer, RunningTasks& tasks, PhotoList& photos, std::optional<MetadataService> service)
+FolderRefresh::FolderRefresh(Announcer& announcer, RunningTasks& tasks, PhotoList& photos,
+    std::optional<MetadataService> service, std::shared_ptr<RecordCache> cache)
     : m_announcer(announcer)
     , m_tasks(tasks)
     , m_photos(photos)
     , m_service(std::move(service))
+    , m_cache(std::move(cache))
     , m_lookThreads(new QThreadPool)
 {
     // Each folder that was opened may have left one that hangs.
@@ -202,8 +203,8 @@ void FolderRefresh::read(const QList<FolderNews::File>& files, const Take& take)
     const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::refresh, urls.size(), urls);
     runInBackground(
         this,
-        [service = *m_service, urls, progress = task.progress, stop = task.stop.get_token()] {
-            return PhotoReader::read(service, urls, *progress, stop);
+        [service = *m_service, cache = m_cache, urls, progress = task.progress, stop = task.stop.get_token()] {
+            return PhotoReader::read(service, urls, *progress, stop, cache);
         },
         [this, files, take, id = task.id, generation = m_generation, writes = m_writes](
             const PhotoReader::Result& result) {

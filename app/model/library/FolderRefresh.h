@@ -21,7 +21,9 @@ class FolderRefresh final : public QObject {
     Q_DISABLE_COPY_MOVE(FolderRefresh)
 
 public:
-    FolderRefresh(Announcer& announcer, RunningTasks& tasks, PhotoList& photos, std::optional<MetadataService> service);
+    /// `cache`: what is read is put into it; null where there is none.
+    FolderRefresh(Announcer& announcer, RunningTasks& tasks, PhotoList& photos, std::optional<MetadataService> service,
+        std::shared_ptr<RecordCache> cache = {});
     ~FolderRefresh() override;
 
     /// How looks are made: set before the first begin().
@@ -92,6 +94,7 @@ private:
     RunningTasks& m_tasks;
     PhotoList& m_photos;
     std::optional<MetadataService> m_service;
+    std::shared_ptr<RecordCache> m_cache;
     Looks m_looks;
     QList<QUrl> m_folders;
     bool m_withSubfolders = false;

@@ -2,6 +2,7 @@
 
 #include "app/model/BackgroundPieces.h"
 #include "app/model/library/PhotoListing.h"
+#include "app/model/library/cache/RecordCache.h"
 
 #include <algorithm>
 
@@ -51,13 +52,18 @@ struct Library::Load {
     }
     Q_DISABLE_COPY_MOVE(Load)
 
-    static std::shared_ptr<Load> of(PhotoListing listing, RecordSortOrder order, const std::stop_token& stop)
+    static std::shared_ptr<Load> of(
+        PhotoListing listing, RecordCache* cache, RecordSortOrder order, const std::stop_token& stop)
     {
         auto load = std::make_shared<Load>();
         load->listing = std::move(listing);
-        load->records.reserve(load->listing.files.size());
-        for (const PhotoFile& file : std::as_const(load->listing.files))
-            load->records.append(file.unreadRecord());
+        const QList<PhotoFile>& files = load->listing.files;
+        const QHash<QUrl, ImageRecord> known = cache ? cache->find(files, stop) : QHash<QUrl, ImageRecord>();
+        load->records.reserve(files.size());
+        for (const PhotoFile& file : files) {
+            const auto record = known.constFind(file.url);
+            load->records.append(record != known.cend() ? *record : file.unreadRecord());
+        }
         if (load->listing.part != PhotoListing::Part::further)
             load->prepare(order, stop);
         return load;
@@ -84,13 +90,14 @@ struct Library::Walk {
     Q_DISABLE_COPY_MOVE(Walk)
 };
 
-Library::Library(
-    Announcer& announcer, RunningTasks& tasks, std::optional<MetadataService> service, RecordSortOrder order)
+Library::Library(Announcer& announcer, RunningTasks& tasks, std::optional<MetadataService> service,
+    RecordSortOrder order, std::shared_ptr<RecordCache> cache)
     : m_announcer(announcer)
     , m_tasks(tasks)
     , m_service(std::move(service))
+    , m_cache(std::move(cache))
     , m_photos(announcer, order)
-    , m_refresh(announcer, tasks, m_photos, m_service)
+    , m_refresh(announcer, tasks, m_photos, m_service, m_cache)
 {
     connect(&m_refresh, &FolderRefresh::reread, this, &Library::noteRead);
 }
@@ -106,7 +113,10 @@ void Library::load(const QList<QUrl>& given, bool withSubfolders)
     if (withSubfolders)
         return walk(given);
     runInBackground(
-        this, [given, order = m_photos.order(), stop] { return Load::of(PhotoListing::of(given), order, stop); },
+        this,
+        [given, cache = m_cache, order = m_photos.order(), stop] {
+            return Load::of(PhotoListing::of(given), cache.get(), order, stop);
+        },
         [this, serial = ++m_loads](const std::shared_ptr<Load>& load) {
             if (serial == m_loads)
                 takeListed(load);
@@ -129,9 +139,9 @@ void Library::walk(const QList<QUrl>& given)
     m_walk = std::make_unique<Walk>();
     m_walk->given = given;
     m_walk->pieces = std::make_unique<Pieces>(
-        [given, order = m_photos.order(), stop = m_walk->stop.get_token()](const Pieces::Give& give) {
+        [given, cache = m_cache, order = m_photos.order(), stop = m_walk->stop.get_token()](const Pieces::Give& give) {
             PhotoListing::withSubfolders(
-                given, stop, [&](PhotoListing piece) { give(Load::of(std::move(piece), order, stop)); });
+                given, stop, [&](PhotoListing piece) { give(Load::of(std::move(piece), cache.get(), order, stop)); });
         },
         [this](const std::shared_ptr<Load>& piece) { takePiece(piece); }, [this] { endWalk(); });
 }
@@ -362,7 +372,7 @@ void Library::close()
 
 std::unique_ptr<PhotoReading> Library::newReading()
 {
-    return std::make_unique<PhotoReading>(m_announcer, m_tasks, *m_service, m_refresh);
+    return std::make_unique<PhotoReading>(m_announcer, m_tasks, *m_service, m_cache, m_refresh);
 }
 
 void Library::follow(std::unique_ptr<PhotoReading> reading)

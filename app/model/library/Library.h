@@ -18,7 +18,9 @@ class Library final : public QObject {
     Q_DISABLE_COPY_MOVE(Library)
 
 public:
-    Library(Announcer& announcer, RunningTasks& tasks, std::optional<MetadataService> service, RecordSortOrder order);
+    /// `cache`: photos that it knows are not read; null where there is none.
+    Library(Announcer& announcer, RunningTasks& tasks, std::optional<MetadataService> service, RecordSortOrder order,
+        std::shared_ptr<RecordCache> cache = {});
     ~Library() override;
 
     PhotoList& photos() { return m_photos; }
@@ -105,6 +107,7 @@ private:
     Announcer& m_announcer;
     RunningTasks& m_tasks;
     std::optional<MetadataService> m_service;
+    std::shared_ptr<RecordCache> m_cache;
     PhotoList m_photos;
     FolderRefresh m_refresh;
     QString m_folderName;

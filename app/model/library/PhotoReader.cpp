@@ -1,11 +1,8 @@
 #include "app/model/library/PhotoReader.h"
 
+#include "app/model/library/SharedTexts.h"
+#include "app/model/library/cache/RecordCache.h"
 #include "core/text/Text.h"
-
-#include <QHash>
-#include <QSet>
-
-#include <algorithm>
 
 namespace Quorbel::PhotoReader {
 
@@ -13,45 +10,56 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The photos of a folder repeat each other's texts: each text is held once. That saves memory, and tells texts equal
-// by their address, without looking at them.
-void shareTexts(QList<ImageRecord>& records)
-{
-    QSet<QString> texts;
-    const auto share = [&texts](QString& text) { text = *texts.insert(text); };
-    for (ImageRecord& record : records) {
-        share(record.fileType);
-        std::for_each(record.values.begin(), record.values.end(), share);
-        for (QStringList& items : record.lists)
-            std::for_each(items.begin(), items.end(), share);
-        for (CameraRow& row : record.camera) {
-            share(row.label);
-            share(row.value);
-        }
-    }
-}
-
 QString inSentence(const QString& reason)
 {
     return reason.left(1).toLower() + reason.sliced(1);
 }
 
-}  // namespace
-
-Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgress& progress, std::stop_token stop)
+// At those that can be read.
+QList<PhotoFile> looks(const QList<QUrl>& urls, QList<LeftOut>& leftOut)
 {
-    Result result;
-    QList<QUrl> readable;
-    QHash<QUrl, PhotoFile> before;
+    QList<PhotoFile> files;
     for (const QUrl& url : urls) {
         const PhotoFile::Look look = PhotoFile::at(url);
-        if (look.file) {
-            readable.append(url);
-            before.insert(url, *look.file);
-        } else if (!look.reason.isEmpty()) {
-            result.leftOut.append({ url.fileName(), look.reason });
-        }
+        if (look.file)
+            files.append(*look.file);
+        else if (!look.reason.isEmpty())
+            leftOut.append({ url.fileName(), look.reason });
     }
+    return files;
+}
+
+// The records have the dates that their files had before, and share their texts. Returns those whose files are still
+// what they were. The files are in the records' order, and more.
+QList<RecordCache::Read> finished(Result& result, const QList<PhotoFile>& before)
+{
+    QList<RecordCache::Read> unchanged;
+    SharedTexts texts;
+    auto file = before.cbegin();
+    for (ImageRecord& record : result.records) {
+        while (file->url != record.url)
+            ++file;
+        record.contentModificationDate = file->modificationDate();
+        texts.share(record);
+        if (PhotoFile::at(record.url).file == *file)
+            unchanged.append({ *file, record });
+        else
+            result.changed.append(record.url);
+    }
+    return unchanged;
+}
+
+}  // namespace
+
+Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgress& progress, std::stop_token stop,
+    const std::shared_ptr<RecordCache>& cache)
+{
+    Result result;
+    const QList<PhotoFile> before = looks(urls, result.leftOut);
+    const auto beginning = cache ? cache->begin(before) : RecordCache::Beginning();
+    QList<QUrl> readable;
+    for (const PhotoFile& file : before)
+        readable.append(file.url);
     progress.total = readable.size();
     const ReadControl control{ [&progress](qsizetype done) { progress.done = done; }, std::move(stop),
         [&progress](qint64 processID) { progress.processID = processID; } };
@@ -68,13 +76,9 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
         result.error = QString::fromUtf8(error.what());
     }
     progress.processID = 0;
-    shareTexts(result.records);
-    for (ImageRecord& record : result.records) {
-        const PhotoFile& file = before[record.url];
-        record.contentModificationDate = file.modificationDate();
-        if (PhotoFile::at(record.url).file != file)
-            result.changed.append(record.url);
-    }
+    QList<RecordCache::Read> unchanged = finished(result, before);
+    if (cache)
+        cache->put(beginning, std::move(unchanged));
     return result;
 }
 

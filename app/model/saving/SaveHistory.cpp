@@ -147,8 +147,8 @@ QList<QUrl> SaveHistory::photosOf(qint64 number)
     return photos;
 }
 
-SaveHistory::Undone SaveHistory::undo(
-    const MetadataService& service, qint64 number, const QList<QUrl>& photos, TaskProgress& progress)
+SaveHistory::Undone SaveHistory::undo(const MetadataService& service, qint64 number, const QList<QUrl>& photos,
+    TaskProgress& progress, const std::shared_ptr<RecordCache>& cache)
 {
     storeRenames();
     const std::scoped_lock lock(m_mutex);
@@ -179,7 +179,7 @@ SaveHistory::Undone SaveHistory::undo(
     for (const FileFailure& failure : undone.outcome.failed)
         touched.append(failure.file);
     const QList<QUrl> stale = photosAmong(touched, photos);
-    undone.records = PhotoReader::read(service, stale, progress, {}).records;
+    undone.records = PhotoReader::read(service, stale, progress, {}, cache).records;
     return undone;
 }
 

@@ -13,6 +13,8 @@
 
 namespace Quorbel {
 
+class RecordCache;
+
 class SaveHistory final {
 public:
     /// The journal's folder. Beside it lie its lock (".lock") and the one file that earlier versions kept (".json").
@@ -53,7 +55,8 @@ public:
     };
     /// Takes this save back and reads those of these photos again that it concerns. Files that fail stay in
     /// the journal. Never throws; blocks on ExifTool.
-    Undone undo(const MetadataService& service, qint64 number, const QList<QUrl>& photos, TaskProgress& progress);
+    Undone undo(const MetadataService& service, qint64 number, const QList<QUrl>& photos, TaskProgress& progress,
+        const std::shared_ptr<RecordCache>& cache = {});
 
     /// "Undo Save of 12 photos"; of one photo its name.
     static QString name(const Undoable& save);

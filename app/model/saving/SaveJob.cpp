@@ -336,7 +336,8 @@ Written run(const MetadataService& service, const Order& order, const std::share
 }
 
 Checked check(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const Written& written,
-    const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop)
+    const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop,
+    const std::shared_ptr<RecordCache>& cache)
 {
     Checked checked;
     QList<QUrl> readable = targets;
@@ -346,7 +347,7 @@ Checked check(const MetadataService& service, const EditPlan& plan, const QList<
             written.undoable.wait();
     });
     LookAfter homes(service, plan, readable, stop);
-    const PhotoReader::Result read = PhotoReader::read(service, readable, progress, stop);
+    const PhotoReader::Result read = PhotoReader::read(service, readable, progress, stop, cache);
     if (read.error) {
         checked.error = read.error;
         return checked;

@@ -63,7 +63,8 @@ struct Checked {
 /// did not name it. Targets that are too slow are not read: nobody knows what they hold, so they count as not saved.
 /// Never throws; of a read that was stopped the result means nothing.
 Checked check(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const Written& written,
-    const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop);
+    const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop,
+    const std::shared_ptr<RecordCache>& cache = {});
 
 /// "Keywords of 2 photos differed between IPTC and XMP and were brought together: a.jpg, b.jpg"; at least one field.
 QString joinedText(const QMap<QString, QStringList>& joined);

@@ -60,11 +60,13 @@ SaveOutcome outcomeOf(const SaveJob::Checked& checked, const SaveJob::Written& w
 }  // namespace
 
 Saving::Saving(Announcer& announcer, RunningTasks& tasks, FolderRefresh& refresh,
-    std::optional<MetadataService> service, const QString& journalPath, std::chrono::milliseconds patience)
+    std::optional<MetadataService> service, const QString& journalPath, std::chrono::milliseconds patience,
+    std::shared_ptr<RecordCache> cache)
     : m_announcer(announcer)
     , m_tasks(tasks)
     , m_refresh(refresh)
     , m_service(std::move(service))
+    , m_cache(std::move(cache))
     , m_patience(patience)
 {
     connect(&m_refresh, &FolderRefresh::reread, this, [this](const QList<QUrl>& photos) {
@@ -184,8 +186,9 @@ void Saving::check(const Edits& edits, const SaveJob::Written& written, const QS
     const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::check, edits.subjects.size(), edits.subjects);
     runInBackground(
         this,
-        [service = *m_service, edits, written, tooSlow, progress = task.progress, stop = task.stop.get_token()] {
-            return SaveJob::check(service, edits.plan(), edits.subjects, written, tooSlow, *progress, stop);
+        [service = *m_service, cache = m_cache, edits, written, tooSlow, progress = task.progress,
+            stop = task.stop.get_token()] {
+            return SaveJob::check(service, edits.plan(), edits.subjects, written, tooSlow, *progress, stop, cache);
         },
         [this, edits, written, tooSlow, id = task.id](const SaveJob::Checked& checked) {
             {
@@ -233,8 +236,8 @@ void Saving::putBack(qint64 save, const QList<QUrl>& open)
     const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::write, 0);
     runInBackground(
         this,
-        [service = *m_service, history = m_history, save, open, progress = task.progress] {
-            return history->undo(service, save, open, *progress);
+        [service = *m_service, cache = m_cache, history = m_history, save, open, progress = task.progress] {
+            return history->undo(service, save, open, *progress, cache);
         },
         [this, id = task.id](const SaveHistory::Undone& result) {
             {

@@ -33,9 +33,10 @@ class Saving final : public QObject {
 
 public:
     /// `journalPath`: folder of the saves that can be taken back; empty: none can.
-    /// `patience`: how long a look ahead may take before a save does without.
+    /// `patience`: how long a look ahead may take before a save does without. `cache`: what is read after a write is
+    /// put into it; null where there is none.
     Saving(Announcer& announcer, RunningTasks& tasks, FolderRefresh& refresh, std::optional<MetadataService> service,
-        const QString& journalPath, std::chrono::milliseconds patience);
+        const QString& journalPath, std::chrono::milliseconds patience, std::shared_ptr<RecordCache> cache = {});
     ~Saving() override;
 
     /// False without the tool.
@@ -83,6 +84,7 @@ private:
     RunningTasks& m_tasks;
     FolderRefresh& m_refresh;
     std::optional<MetadataService> m_service;
+    std::shared_ptr<RecordCache> m_cache;
     std::shared_ptr<SaveHistory> m_history;  ///< null when no save can be taken back
     std::shared_ptr<EarlyLook> m_look;  ///< at the selected photos; null without one
     std::chrono::milliseconds m_patience;

@@ -26,11 +26,12 @@ size_t readsAtOnce()
 
 }  // namespace
 
-PhotoReading::PhotoReading(
-    Announcer& announcer, RunningTasks& tasks, MetadataService service, const FolderRefresh& writes)
+PhotoReading::PhotoReading(Announcer& announcer, RunningTasks& tasks, MetadataService service,
+    std::shared_ptr<RecordCache> cache, const FolderRefresh& writes)
     : m_announcer(announcer)
     , m_tasks(tasks)
     , m_service(std::move(service))
+    , m_cache(std::move(cache))
     , m_writes(writes)
 {
 }
@@ -189,8 +190,8 @@ void PhotoReading::start(const QList<QUrl>& photos)
     m_isResting = false;
     runInBackground(
         this,
-        [service = m_service, photos, progress = task.progress, stop = task.stop.get_token()] {
-            return PhotoReader::read(service, photos, *progress, stop);
+        [service = m_service, cache = m_cache, photos, progress = task.progress, stop = task.stop.get_token()] {
+            return PhotoReader::read(service, photos, *progress, stop, cache);
         },
         [this, slice](const PhotoReader::Result& result) { finish(slice, result); });
 }

@@ -26,7 +26,9 @@ public:
     };
 
     /// `writes`: knows which photos were written meanwhile; outlives this.
-    PhotoReading(Announcer& announcer, RunningTasks& tasks, MetadataService service, const FolderRefresh& writes);
+    /// `cache`: what is read is put into it; null where there is none.
+    PhotoReading(Announcer& announcer, RunningTasks& tasks, MetadataService service, std::shared_ptr<RecordCache> cache,
+        const FolderRefresh& writes);
     ~PhotoReading() override;
 
     /// What is to be read of so many photos, made in the background: a hundred thousand take their time. Needs that
@@ -96,6 +98,7 @@ private:
     Announcer& m_announcer;
     RunningTasks& m_tasks;
     MetadataService m_service;
+    std::shared_ptr<RecordCache> m_cache;
     const FolderRefresh& m_writes;
     ReadQueue m_queue;
     Pace m_pace = Pace::none;
