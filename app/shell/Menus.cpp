@@ -227,6 +227,8 @@ void Menus::addViewMenu()
     connect(names, &QAction::toggled, &m_model, [this](bool on) { m_model.preferences().showNamespace.set(on); });
     connect(&m_model.preferences(), &Preferences::changed, names,
         [this, names] { names->setChecked(m_model.preferences().showNamespace()); });
+    menu->addSeparator();
+    m_readAgain = add(menu, u"Read &Again"_s, { Qt::SHIFT | Qt::Key_F5 }, [this] { m_model.readAgain(); });
 }
 
 void Menus::addHelpMenu(const MenuCommands& commands)
@@ -250,6 +252,7 @@ void Menus::followState()
     m_refresh->setEnabled(m_model.canRefresh());
     m_close->setEnabled(any);
     m_find->setEnabled(any);
+    m_readAgain->setEnabled(any);
     m_preview->setEnabled(any);
     m_preview->setText(m_content.previewShown() ? u"Hide &preview"_s : u"Show &preview"_s);
 }

@@ -54,6 +54,7 @@ private:
     QAction* m_rename = nullptr;
     QAction* m_refresh = nullptr;
     QAction* m_close = nullptr;
+    QAction* m_readAgain = nullptr;
     QAction* m_preview = nullptr;
     QAction* m_find = nullptr;
 };

@@ -65,6 +65,9 @@ Page interfacePage()
                 "always see the photo you're tagging."_s,
                 u"Inspector (right): the editable fields, grouped as Common, Location and read-only "
                 "Camera details."_s }),
+            paragraph(
+                u"Quorbel remembers what it read: a folder that you open again is there at once, and only photos that "
+                "changed are read. View ▸ Read Again (⇧F5) reads all of them anew."_s),
         } };
 }
 

@@ -87,9 +87,15 @@ void tst_Shell::shortcuts()
     exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=Elsewhere"_s, fixture.model.folder.path(u"a.jpg"_s) });
     QTest::keyClick(window, Qt::Key_R, Qt::ControlModifier);
     QTRY_COMPARE_WITH_TIMEOUT(fixture.model->draftValues().value(u"title"_s), u"Elsewhere"_s, 30'000);
+    QVERIFY(action(fixture, u"Read Again"_s)->isEnabled());
+    const QSignalSpy working(fixture.model.model.get(), &AppModel::isWorkingChanged);
+    QTest::keyClick(window, Qt::Key_F5, Qt::ShiftModifier);
+    QVERIFY(fixture.model->isWorking() || !working.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!fixture.model->isWorking(), 30'000);
     QTest::keyClick(window, Qt::Key_W, Qt::ControlModifier);
     QVERIFY(fixture.model->records().isEmpty());
     QVERIFY(!action(fixture, u"Refresh"_s)->isEnabled());
+    QVERIFY(!action(fixture, u"Read Again"_s)->isEnabled());
     QVERIFY(!action(fixture, u"Check for Updates…"_s));  // no feed in this build
 }
 
