@@ -20,23 +20,12 @@ namespace Quorbel::Bench {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-template <typename Services>
-void keepRecords(Services& services, const QString& folder)
-{
-    if constexpr (requires { services.recordCachePath; })
-        services.recordCachePath = folder;
-}
-
-}  // namespace
-
 OpenWindow::OpenWindow(const ExifToolRunner& tool, Thumbnails thumbnails, const QString& cache)
 {
     AppModelServices services;
     services.service = MetadataService{ tool };
     services.preferences = std::make_shared<QSettings>(m_home.filePath(u"settings.ini"_s), QSettings::IniFormat);
-    keepRecords(services, cache);
+    services.recordCachePath = cache;
     m_model = std::make_unique<AppModel>(services);
     if (thumbnails == Thumbnails::on) {
         ThumbnailStoreOptions options;
