@@ -4,6 +4,8 @@
 #include "app/model/library/PhotoListing.h"
 #include "app/model/library/cache/RecordCache.h"
 
+#include <QPointer>
+
 #include <algorithm>
 
 namespace Quorbel {
@@ -231,9 +233,9 @@ void Library::begin(const std::shared_ptr<Load>& load)
 {
     load->reading = newReading();
     load->reading->addLeftOut(load->listing.leftOut);
+    load->reading->begin(std::move(load->queue), load->photos.records.size());
     if (load->listing.part != PhotoListing::Part::whole)
         load->reading->expectMore();
-    load->reading->begin(std::move(load->queue), load->photos.records.size());
     const QList<QUrl> inView = m_photos.firstOnScreen(load->photos, ReadQueue::viewSize);
     load->reading->setInView(inView);
     load->reading->setFirst(inView.isEmpty() ? std::nullopt : std::optional(inView.constFirst()));
@@ -488,12 +490,25 @@ void Library::readAgain()
 {
     if (!m_service || m_photos.records().isEmpty())
         return;
-    const Announcer::Together together(m_announcer);
-    follow(newReading());
-    m_reading->setInView(m_inView);
-    m_reading->setFirst(m_first);
-    m_reading->add(urlsOf(m_photos.records()));
-    m_reading->setPace(PhotoReading::Pace::all);
+    runInBackground(
+        this,
+        [photos = urlsOf(m_photos.records())] {
+            ReadQueue queue;
+            queue.add(photos);
+            return queue;
+        },
+        [this, reading = QPointer(m_reading.get())](ReadQueue queue) {
+            // Something else may be open by now.
+            if (!reading || reading != m_reading.get())
+                return;
+            const Announcer::Together together(m_announcer);
+            const qsizetype count = queue.left();
+            follow(newReading());
+            m_reading->begin(std::move(queue), count);
+            m_reading->setInView(m_inView);
+            m_reading->setFirst(m_first);
+            m_reading->setPace(PhotoReading::Pace::all);
+        });
 }
 
 void Library::noteRead(const QList<QUrl>& photos)

@@ -1,12 +1,17 @@
 #include "app/model/library/reading/ReadQueue.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Quorbel {
 
 void ReadQueue::add(const QList<QUrl>& photos)
 {
-    m_photos.reserve(m_photos.size() + photos.size());
+    if (photos.isEmpty())
+        return;
+    // Growing takes its time on the main thread: where more are expected it is done while there are few.
+    const bool isBegin = m_isBroken && m_photos.size() < 1000;
+    m_photos.reserve(std::max<qsizetype>(m_photos.size() + photos.size(), isBegin ? 100'000 : 0));
     for (const QUrl& photo : photos) {
         if (m_photos.contains(photo))
             continue;
