@@ -51,15 +51,18 @@ bool PauseWatch::notify(QObject* receiver, QEvent* event)
     const QMetaObject* kind = receiver->metaObject();
     const QEvent::Type type = event->type();
     const double begin = cpuMilliseconds();
+    QElapsedTimer clock;
+    clock.start();
     ++m_depth;
     const bool result = QApplication::notify(receiver, event);
     --m_depth;
     const double cpu = cpuMilliseconds() - begin;
-    if (m_events.size() < keptEvents || cpu > m_events.back().cpu) {
+    const double wall = static_cast<double>(clock.nsecsElapsed()) / 1e6;
+    if (m_events.size() < keptEvents || wall > m_events.back().wall) {
         const char* name = QMetaEnum::fromType<QEvent::Type>().valueToKey(type);
         m_events.push_back(
-            { cpu, QByteArray(kind->className()) + ' ' + (name ? QByteArray(name) : QByteArray::number(type)) });
-        std::sort(m_events.begin(), m_events.end(), [](const Event& a, const Event& b) { return a.cpu > b.cpu; });
+            { wall, cpu, QByteArray(kind->className()) + ' ' + (name ? QByteArray(name) : QByteArray::number(type)) });
+        std::sort(m_events.begin(), m_events.end(), [](const Event& a, const Event& b) { return a.wall > b.wall; });
         if (m_events.size() > keptEvents)
             m_events.pop_back();
     }

@@ -18,7 +18,8 @@ public:
         double cpu = 0;  ///< milliseconds of this thread
     };
     struct Event {
-        double cpu = 0;
+        double wall = 0;  ///< milliseconds
+        double cpu = 0;  ///< milliseconds of this thread
         QByteArray what{};  ///< receiver and kind
     };
 
@@ -29,7 +30,7 @@ public:
     Turn longest() const { return m_longest; }
     /// How many turns took longer than that, milliseconds.
     int longerThan(double limit) const;
-    /// The events that took the most processor time, the longest first.
+    /// The events that took longest, the longest first.
     const std::vector<Event>& longestEvents() const { return m_events; }
 
     bool notify(QObject* receiver, QEvent* event) override;

@@ -263,7 +263,7 @@ void reportPauses(OpenWindow& window, const QString& folder, const char* how)
     report(qPrintable(u"50,000 photos: longest pause (%1)"_s.arg(QLatin1String(how))), longest.wall, " ms", pauseBound,
         u"CPU %1 ms; %2 pauses beyond"_s.arg(longest.cpu, 0, 'f', 1).arg(watch.longerThan(pauseBound)));
     for (const auto& event : watch.longestEvents())
-        std::printf("    %6.1f ms CPU  %s\n", event.cpu, event.what.constData());
+        std::printf("    %6.1f ms, CPU %.1f ms  %s\n", event.wall, event.cpu, event.what.constData());
 }
 
 void large(const PhotoFolders& folders, const ExifToolRunner& tool, const char* name)

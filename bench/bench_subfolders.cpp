@@ -107,7 +107,7 @@ void measurePauses(const Tree& tree)
     report("longest pause meanwhile", longest.wall, " ms", pauseBound,
         u"CPU %1 ms; %2 pauses beyond"_s.arg(longest.cpu, 0, 'f', 1).arg(watch.longerThan(pauseBound)));
     for (const auto& event : watch.longestEvents())
-        std::printf("    %6.1f ms CPU  %s\n", event.cpu, event.what.constData());
+        std::printf("    %6.1f ms, CPU %.1f ms  %s\n", event.wall, event.cpu, event.what.constData());
 }
 
 }  // namespace
