@@ -4,8 +4,6 @@
 #include "app/model/library/PhotoListing.h"
 #include "app/model/library/cache/RecordCache.h"
 
-#include <QPointer>
-
 #include <algorithm>
 
 namespace Quorbel {
@@ -488,8 +486,10 @@ void Library::resumeReading()
 
 void Library::readAgain()
 {
-    if (!m_service || m_photos.records().isEmpty())
+    if (!m_service || m_photos.records().isEmpty() || m_listing)
         return;
+    const Announcer::Together together(m_announcer);
+    beginListing();
     runInBackground(
         this,
         [photos = urlsOf(m_photos.records())] {
@@ -497,9 +497,9 @@ void Library::readAgain()
             queue.add(photos);
             return queue;
         },
-        [this, reading = QPointer(m_reading.get())](ReadQueue queue) {
+        [this, serial = ++m_loads](ReadQueue queue) {
             // Something else may be open by now.
-            if (!reading || reading != m_reading.get())
+            if (serial != m_loads)
                 return;
             const Announcer::Together together(m_announcer);
             const qsizetype count = queue.left();
@@ -508,6 +508,7 @@ void Library::readAgain()
             m_reading->setInView(m_inView);
             m_reading->setFirst(m_first);
             m_reading->setPace(PhotoReading::Pace::all);
+            endListing();
         });
 }
 
