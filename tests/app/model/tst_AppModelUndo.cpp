@@ -1,5 +1,5 @@
 // Taking saves back: across restarts and renames, around others' work, through failures.
-#include "tests/app/model/ModelFixture.h"
+#include "tests/app/model/JournaledPhotos.h"
 
 #include <QDir>
 #include <QLockFile>
@@ -15,27 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Photos "a" and "b", each titled with its name, before a model that keeps a journal.
-struct JournaledPhotos : ModelFixture {
-    explicit JournaledPhotos(const QStringList& names = { u"a.jpg"_s, u"b.jpg"_s })
-    {
-        addTitled(names);
-        services.journalPath = settings.filePath(u"state/undo"_s);
-        relaunch();
-        model->preferences().saveDontAsk.set(true);
-        model->preferences().confirmMassEdit.set(false);
-        model->preferences().backupOriginals.set(false);
-    }
-    bool save()
-    {
-        model->requestSave();
-        return waitUntilIdle();
-    }
-    bool undo()
-    {
-        model->undoSave();
-        return waitUntilIdle();
-    }
+struct TitledPhotos : JournaledPhotos {
+    using JournaledPhotos::JournaledPhotos;
     QMap<QString, QString> titles() const
     {
         QMap<QString, QString> titles;
@@ -71,7 +52,7 @@ private slots:
 
 void tst_AppModelUndo::undoSurvivesARestart()
 {
-    JournaledPhotos f;
+    TitledPhotos f;
     QVERIFY(f.open());
     QVERIFY(!f->canUndoSave());
     f->selectAllPhotos();
@@ -105,7 +86,7 @@ void tst_AppModelUndo::undoSurvivesARestart()
 
 void tst_AppModelUndo::undoFollowsRenames()
 {
-    JournaledPhotos f;
+    TitledPhotos f;
     QVERIFY(f.open());
     f->setSingle(u"title"_s, u"Renamed"_s);
     QVERIFY(f.save());
@@ -120,7 +101,7 @@ void tst_AppModelUndo::undoFollowsRenames()
 // Photo "a" has a sidecar of another program's, "b" has none.
 void tst_AppModelUndo::undoTakesSidecarsBack()
 {
-    JournaledPhotos f;
+    TitledPhotos f;
     const QString sidecar = f.folder.path(u"a.xmp"_s);
     exiftool({ u"-XMP-dc:Title=foreign"_s, u"-XMP-crs:Exposure2012=+1.5"_s, sidecar });
     const QByteArray foreign = readFile(sidecar);
@@ -146,7 +127,7 @@ void tst_AppModelUndo::undoTakesSidecarsBack()
 
 void tst_AppModelUndo::undoLeavesOthersWorkAlone()
 {
-    JournaledPhotos f;
+    TitledPhotos f;
     QVERIFY(f.open());
     f->selectAllPhotos();
     for (const QString& title : { u"X"_s, u"Y"_s }) {
@@ -175,7 +156,7 @@ void tst_AppModelUndo::undoThroughALink_data()
 void tst_AppModelUndo::undoThroughALink()
 {
     QFETCH(bool, isRenamed);
-    JournaledPhotos f({ u"a.jpg"_s });
+    TitledPhotos f({ u"a.jpg"_s });
     const PhotoFolder elsewhere;
     const QString link = f.folder.path(u"a.jpg"_s);
     const QUrl real = elsewhere.add(u"real.jpg"_s, readFile(link));
@@ -199,7 +180,7 @@ void tst_AppModelUndo::undoThroughALink()
 void tst_AppModelUndo::undoThatFailsInPart()
 {
     const QStringList names{ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s };
-    JournaledPhotos f(names);
+    TitledPhotos f(names);
     QVERIFY(f.open());
     f->selectAllPhotos();
     for (const QString& title : { u"X"_s, u"Y"_s }) {
@@ -231,7 +212,7 @@ void tst_AppModelUndo::undoThatFailsInPart()
 // A tool that is killed says nothing about what it has done: what it restored must not pass for another's work.
 void tst_AppModelUndo::undoIsTriedAgainAfterTheToolWasCut()
 {
-    JournaledPhotos f({ u"a.jpg"_s, u"b.jpg"_s });
+    TitledPhotos f({ u"a.jpg"_s, u"b.jpg"_s });
     QVERIFY(f.open());
     f->selectAllPhotos();
     f->setBatch(u"headline"_s, u"X"_s);
@@ -258,7 +239,7 @@ void tst_AppModelUndo::undoIsTriedAgainAfterTheToolWasCut()
 
 void tst_AppModelUndo::unwritableJournalDoesNotStopASave()
 {
-    JournaledPhotos f;
+    TitledPhotos f;
     writeFile(f.settings.filePath(u"state"_s), "a file where a folder should be");
     QVERIFY(f.open());
     f->setSingle(u"title"_s, u"X"_s);
@@ -279,7 +260,7 @@ void tst_AppModelUndo::noOlderSaveIsTakenBackInstead_data()
 void tst_AppModelUndo::noOlderSaveIsTakenBackInstead()
 {
     QFETCH(const bool, looksBefore);
-    JournaledPhotos f({ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s });
+    TitledPhotos f({ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s });
     const QString broken = f.settings.filePath(u"broken"_s);
     const QTemporaryDir tools;
     const QString script = tools.filePath(u"exiftool"_s);
@@ -315,7 +296,7 @@ void tst_AppModelUndo::noOlderSaveIsTakenBackInstead()
 
 void tst_AppModelUndo::aSaveLeavesTheOthersInTheJournalAlone()
 {
-    JournaledPhotos f;
+    TitledPhotos f;
     QVERIFY(f.open());
     const QDir journal(f.services.journalPath);
     const auto files = [&journal] {
@@ -354,12 +335,12 @@ void tst_AppModelUndo::aSaveLeavesTheOthersInTheJournalAlone()
 
 void tst_AppModelUndo::twoProgramsTakeBackTheirOwn()
 {
-    JournaledPhotos f({ u"a.jpg"_s });
-    JournaledPhotos g({ u"b.jpg"_s });
+    TitledPhotos f({ u"a.jpg"_s });
+    TitledPhotos g({ u"b.jpg"_s });
     g.services.journalPath = f.services.journalPath;
     g.relaunch();
     QVERIFY(f.open() && g.open());
-    for (JournaledPhotos* program : { &f, &g }) {
+    for (TitledPhotos* program : { &f, &g }) {
         (*program)->setSingle(u"title"_s, u"X"_s);
         QVERIFY(program->save());
     }
@@ -378,7 +359,7 @@ void tst_AppModelUndo::twoProgramsTakeBackTheirOwn()
 
 void tst_AppModelUndo::oneProgramAtATimeTakesBack()
 {
-    JournaledPhotos f;
+    TitledPhotos f;
     QVERIFY(f.open());
     f->setSingle(u"title"_s, u"X"_s);
     QVERIFY(f.save());
@@ -395,7 +376,7 @@ void tst_AppModelUndo::oneProgramAtATimeTakesBack()
 // One file held all saves once.
 void tst_AppModelUndo::earlierVersionsJournalIsTakenOver()
 {
-    JournaledPhotos f;
+    TitledPhotos f;
     QVERIFY(f.open());
     QByteArrayList saves;
     for (const QString& title : { u"X"_s, u"Y"_s }) {

@@ -1,7 +1,7 @@
 // The look at what a save replaces begins with the first edit. Whatever happens between the two, the save replaces, and
 // undo brings back, what the files held when it began.
 #include "app/model/saving/EarlyLook.h"
-#include "tests/app/model/ModelFixture.h"
+#include "tests/app/model/JournaledPhotos.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -60,29 +60,15 @@ private:
 };
 
 // Photos titled with their names, under a model that keeps a journal.
-struct LookedAt : ModelFixture {
+struct LookedAt : JournaledPhotos {
     explicit LookedAt(const WatchedTool& tool, const QStringList& names = { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
-        : ModelFixture(tool.service())
+        : JournaledPhotos(tool.service(), names)
     {
-        addTitled(names);
         QTest::qWait(50);  // dates that are just being made are not trusted
-        services.journalPath = settings.filePath(u"undo"_s);
         services.stallInterval = std::chrono::milliseconds(1000);
-        relaunch();
-        model->preferences().saveDontAsk.set(true);
-        model->preferences().confirmMassEdit.set(false);
-        model->preferences().backupOriginals.set(false);
+        beginJournal();
     }
-    bool save()
-    {
-        model->requestSave();
-        return waitUntilIdle();
-    }
-    bool undo()
-    {
-        model->undoSave();
-        return waitUntilIdle() && model->errorMessage() == std::nullopt;
-    }
+    bool undo() { return JournaledPhotos::undo() && model->errorMessage() == std::nullopt; }
     QByteArray tags(const QUrl& photo) const
     {
         return exiftool({ "-php", "-b", "-n", "-a", "-G1", "-XMP:all", "-IPTC:all", "-EXIF:all", "--XMPToolkit",
