@@ -48,6 +48,12 @@ QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets,
     return output;
 }
 
+QHash<QUrl, PhotoDetails> MetadataService::details(
+    const QList<ImageRecord>& /*photos*/, const ReadControl& /*control*/) const
+{
+    return {};
+}
+
 QMap<QUrl, QMap<QString, QString>> MetadataService::refusedHomes(const EditPlan& plan, const QList<QUrl>& targets) const
 {
     return RefusedHomes::find(runner, plan, targets);

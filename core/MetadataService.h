@@ -7,6 +7,7 @@
 #include "core/save/WriteNotes.h"
 #include "core/save/journal/SaveUndo.h"
 #include "core/schema/ImageRecord.h"
+#include "core/schema/PhotoDetails.h"
 #include "core/tool/PhotoRead.h"
 
 #include <optional>
@@ -30,6 +31,9 @@ struct MetadataService {
     /// one afterwards gives a position in XMP its sign. Throws ValueTooLong, or like SafeWriter::write().
     QString write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options,
         const QList<Preparation>& preparations = {}, WriteNotes* notes = nullptr) const;
+    /// What these photos hold beside their records, read in one run; without those that could not be read. The records
+    /// tell what is shown. Throws the runner's errors.
+    QHash<QUrl, PhotoDetails> details(const QList<ImageRecord>& photos, const ReadControl& control = {}) const;
     /// See RefusedHomes::find().
     QMap<QUrl, QMap<QString, QString>> refusedHomes(const EditPlan& plan, const QList<QUrl>& targets) const;
     /// See SaveUndo.

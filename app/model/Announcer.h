@@ -28,6 +28,8 @@ enum class Change {
     unreadSelected,
     edits,
     unsavedCount,
+    details,
+    disagreements,
     leftEdits,
     isWorking,
     isSaving,

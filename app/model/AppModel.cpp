@@ -113,6 +113,8 @@ void AppModel::tell(Change change)
         { Change::unreadSelected, &AppModel::unreadSelectedChanged },
         { Change::edits, &AppModel::editsChanged },
         { Change::unsavedCount, &AppModel::unsavedCountChanged },
+        { Change::details, &AppModel::detailsChanged },
+        { Change::disagreements, &AppModel::disagreementsChanged },
         { Change::leftEdits, &AppModel::leftEditsChanged },
         { Change::isWorking, &AppModel::isWorkingChanged },
         { Change::isSaving, &AppModel::isSavingChanged },

@@ -15,6 +15,7 @@
 #include "app/model/library/Library.h"
 #include "app/model/saving/Saving.h"
 #include "app/model/selection/SelectedPhotos.h"
+#include "core/schema/PhotoDetails.h"
 
 namespace Quorbel {
 
@@ -178,6 +179,45 @@ public:
     /// The same without the position: names for coordinates that are there already.
     void fillPlaceNames(const LocationFill::Result& result) { editing().assignPlace(result, false); }
 
+    // --- What photos hold beside their records ---
+    /// Null before it was looked at. Valid until the details change.
+    const PhotoDetails* details(const QUrl& photo) const;
+    /// Codes of the languages in which this field of the selected photos is on screen beside its own text, ascending:
+    /// those that some of them hold, and those that were added since the selection. Their texts are fields of their
+    /// own, under FieldLanguages::key(), in drafts, batches and shared values.
+    QStringList languages(const QString& id) const;
+    /// Shows an empty text in this language, or brings back one that was taken away.
+    void addLanguage(const QString& id, const QString& code);
+    /// Takes the language away from the selected photos with the next save; one that was only added, at once.
+    void removeLanguage(const QString& id, const QString& code);
+    /// Paths of this keyword in the selected photos, those that were typed and not saved yet among them.
+    QStringList pathsOf(const QString& keyword) const;
+    /// Paths known from the open photos whose keyword begins with the text (any case); at most `limit`.
+    QStringList pathCompletions(const QString& prefix, int limit) const;
+    /// Where the homes of a field of the one selected photo disagree: what each holds, the shown one first. None where
+    /// they agree, where that is not known, and while the field is edited.
+    QList<FieldHome> differingHomes(const QString& id) const;
+    /// Makes what this home holds an edit of the one selected photo.
+    void useHome(const QString& id, const FieldHome& home);
+    /// How many of the selected photos are known to have homes that disagree.
+    int selectedDisagreements() const;
+    bool canMakeAgree() const;
+    /// Writes the shown values of the selected photos to all homes of their fields that disagree, after a question.
+    void requestMakeAgree();
+    /// Of the open photos.
+    struct Disagreements {
+        qsizetype photos = 0;  ///< that have homes that disagree
+        qsizetype unknown = 0;  ///< that were not looked at yet
+        bool isLooking = false;  ///< at all of them, one after the other
+        bool operator==(const Disagreements&) const = default;
+    };
+    Disagreements disagreements() const;
+    /// Whether only photos with homes that disagree are listed; those that were not looked at yet are looked at then.
+    bool showsDisagreements() const;
+    void setShowDisagreements(bool on);
+    /// Looks no further; cancelRead() does it too.
+    void cancelDisagreements();
+
     // --- Saving ---
     void requestSave();
     /// The save dialog's three answers. Each closes it; then whatever waited (another selection, a load, a close,
@@ -250,6 +290,10 @@ signals:
     /// Something of the draft or the batch: values, marks, or which fields are on screen.
     void editsChanged();
     void unsavedCountChanged();
+    /// Of some photos more, or something else, is known.
+    void detailsChanged();
+    /// disagreements() or showsDisagreements() has another answer.
+    void disagreementsChanged();
     void leftEditsChanged();
     void isWorkingChanged();
     void isSavingChanged();

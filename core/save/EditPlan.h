@@ -7,17 +7,18 @@
 namespace Quorbel {
 
 struct EditPlan {
-    QMap<QString, QString> scalars{};  ///< field id to new text; empty text deletes the field's tags
+    QMap<QString, QString> scalars{};  ///< field id, or FieldLanguages::key(), to new text; empty text deletes it
     QMap<QString, QStringList> lists{};  ///< field id to new items
     QList<CustomValue> customs{};
     MetadataWriter::ListMode listMode = MetadataWriter::ListMode::replace;
+    QStringList paths{};  ///< keyword paths that the photos gain, beside the keywords that they lead to
     bool isExact = false;  ///< the items of the lists are as files spell them: nothing is trimmed or left out
 
     /// Homes (homeOf()) that the save does not write to, because the files' own cannot be written.
     QStringList leftOut{};
 
     /// Nothing to write; the list mode plays no part.
-    bool isEmpty() const { return scalars.isEmpty() && lists.isEmpty() && customs.isEmpty(); }
+    bool isEmpty() const { return scalars.isEmpty() && lists.isEmpty() && customs.isEmpty() && paths.isEmpty(); }
     bool operator==(const EditPlan&) const = default;
 };
 

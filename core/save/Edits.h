@@ -8,12 +8,14 @@
 
 namespace Quorbel {
 
-/// Keys are field ids, and CustomFields::key() of custom fields. A field has its edit in one of the maps only.
+/// Keys are field ids, FieldLanguages::key() of texts in further languages, and CustomFields::key() of custom fields. A
+/// field has its edit in one of the maps only.
 struct Edits {
     QMap<QString, QString> scalars{};  ///< field id to new text; an empty text clears the field
     QMap<QString, QStringList> lists{};  ///< field id to the items that replace each photo's own
     QMap<QString, QStringList>
         added{};  ///< field id to items that each photo's own list gains; an empty list is no edit
+    QStringList paths{};  ///< keyword paths that the photos gain, beside the keywords that they lead to
     QList<CustomValue> customs{};  ///< in the order in which they were first edited, one a name
     QList<QUrl> subjects{};  ///< the photos; none: whichever photos one likes
 

@@ -28,4 +28,15 @@ const QList<std::pair<FieldSection, QString>>& RawValues<FieldSection>::table()
     return rows;
 }
 
+QString FieldSpec::languageTag() const
+{
+    // XMP's language alternatives among the tags of the schema.
+    static const QStringList alternatives{ u"XMP-dc:Title"_s, u"XMP-dc:Description"_s, u"XMP-dc:Rights"_s,
+        u"XMP-iptcExt:Event"_s, u"XMP-xmpRights:UsageTerms"_s };
+    for (const QString& tag : writeTags)
+        if (alternatives.contains(tag))
+            return tag;
+    return {};
+}
+
 }  // namespace Quorbel

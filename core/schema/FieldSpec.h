@@ -34,6 +34,8 @@ struct FieldSpec {
     bool addOnly = false;
 
     bool isList() const { return kind == FieldKind::keywords; }
+    /// Of its write tags the one whose text may come in several languages; "" when there is none.
+    QString languageTag() const;
     bool operator==(const FieldSpec&) const = default;
 };
 

@@ -1,0 +1,99 @@
+#include "core/schema/FieldLanguages.h"
+
+#include "core/schema/FieldSchema.h"
+
+#include <QLocale>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace Quorbel::FieldLanguages {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QChar separator = u'@';
+
+}  // namespace
+
+QString key(const QString& id, const QString& code)
+{
+    return id + separator + code;
+}
+
+std::optional<Language> languageIn(const QString& key)
+{
+    const qsizetype at = key.indexOf(separator);
+    if (at < 0)
+        return std::nullopt;
+    const FieldSpec* field = FieldSchema::spec(key.first(at));
+    const QString code = key.sliced(at + 1);
+    if (!field || field->languageTag().isEmpty() || !isCode(code))
+        return std::nullopt;
+    return Language{ field, code };
+}
+
+QString tag(const QString& key)
+{
+    const auto language = languageIn(key);
+    return language ? language->field->languageTag() + u'-' + language->code : QString();
+}
+
+QString label(const QString& key)
+{
+    const auto language = languageIn(key);
+    return language ? u"%1 (%2)"_s.arg(language->field->label, name(language->code)) : QString();
+}
+
+QString name(const QString& code)
+{
+    const QStringList parts = code.split(u'-');
+    const QLocale::Language language = QLocale::codeToLanguage(parts.constFirst());
+    if (language == QLocale::AnyLanguage || language == QLocale::C)
+        return code;
+    QStringList further;
+    for (const QString& part : parts.sliced(1)) {
+        if (const auto script = QLocale::codeToScript(part); script != QLocale::AnyScript)
+            further.append(QLocale::scriptToString(script));
+        else if (const auto country = QLocale::codeToTerritory(part.toUpper()); country != QLocale::AnyTerritory)
+            further.append(QLocale::territoryToString(country));
+        else
+            further.append(part);
+    }
+    const QString known = QLocale::languageToString(language);
+    return further.isEmpty() ? known : u"%1 (%2)"_s.arg(known, further.join(u", "_s));
+}
+
+bool isCode(const QString& code)
+{
+    static const QRegularExpression form(uR"(^[A-Za-z]{2,8}(-[A-Za-z0-9]{1,8})*$)"_s);
+    return form.match(code).hasMatch();
+}
+
+QString spelling(const QString& code)
+{
+    QStringList parts = code.split(u'-');
+    parts.first() = parts.constFirst().toLower();
+    for (qsizetype i = 1; i < parts.size(); ++i)
+        if (parts.at(i).size() == 2)
+            parts[i] = parts.at(i).toUpper();
+    return parts.join(u'-');
+}
+
+const QList<Choice>& choices()
+{
+    static const QList<Choice> all = [] {
+        QList<Choice> found;
+        for (int i = QLocale::C + 1; i <= QLocale::LastLanguage; ++i) {
+            const auto language = static_cast<QLocale::Language>(i);
+            if (const QString code = QLocale::languageToCode(language); isCode(code))
+                found.append({ code, QLocale::languageToString(language) });
+        }
+        std::sort(found.begin(), found.end(), [](const Choice& a, const Choice& b) { return a.name < b.name; });
+        return found;
+    }();
+    return all;
+}
+
+}  // namespace Quorbel::FieldLanguages

@@ -1,0 +1,32 @@
+// What a photo holds beside the one value that its record shows of each field: texts in further languages, keyword
+// paths, and what each home of a field holds where the homes disagree.
+// Thread: any. Plain values.
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+namespace Quorbel {
+
+/// One place in which a field may stand, and what it holds there.
+struct FieldHome {
+    QString tag{};  ///< as it is written: "XMP-dc:Rights", "IPTC:CopyrightNotice"
+    QStringList values{};  ///< in the form in which the field is shown and edited; one, but of lists
+    bool isShown = false;  ///< holds what the record shows
+    /// A tag of another standard that ExifTool takes for the field's own: it is read, but never written.
+    bool isForeign = false;
+    bool operator==(const FieldHome&) const = default;
+};
+
+struct PhotoDetails {
+    QUrl url{};
+    QMap<QString, QString> languages{};  ///< FieldLanguages::key() to text, of all languages that the photo holds
+    QStringList paths{};  ///< keyword paths of all homes, each once (see KeywordPath)
+    /// Field id to its homes, for the fields of which they disagree: the shown one first, absent ones left out.
+    QMap<QString, QList<FieldHome>> disagreements{};
+    bool operator==(const PhotoDetails&) const = default;
+};
+
+}  // namespace Quorbel
