@@ -67,17 +67,16 @@ QString name(const QString& code)
 
 bool isCode(const QString& code)
 {
-    static const QRegularExpression form(uR"(^[A-Za-z]{2,8}(-[A-Za-z0-9]{1,8})*$)"_s);
-    return form.match(code).hasMatch();
+    static const QRegularExpression form(
+        uR"(^([a-z]{2,3}|[xi](?=-))(-[a-z0-9]{2,8}(-[a-z0-9]{1,8})*)?\z)"_s, QRegularExpression::CaseInsensitiveOption);
+    return form.match(code).hasMatch() && code.compare(u"x-default"_s, Qt::CaseInsensitive) != 0;
 }
 
 QString spelling(const QString& code)
 {
-    QStringList parts = code.split(u'-');
-    parts.first() = parts.constFirst().toLower();
-    for (qsizetype i = 1; i < parts.size(); ++i)
-        if (parts.at(i).size() == 2)
-            parts[i] = parts.at(i).toUpper();
+    QStringList parts = code.toLower().split(u'-');
+    if (parts.size() > 1 && parts.at(1).size() == 2)
+        parts[1] = parts.at(1).toUpper();
     return parts.join(u'-');
 }
 

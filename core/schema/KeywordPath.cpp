@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 namespace Quorbel::KeywordPath {
 
 using namespace Qt::StringLiterals;
@@ -17,9 +19,16 @@ QString joined(const QStringList& parts)
 {
     QStringList elements;
     for (const QString& part : parts)
-        if (const QString element = Text::trimmed(part); !element.isEmpty())
+        if (const QString element = Text::trimmedWithNewlines(part); !element.isEmpty())
             elements.append(element);
     return elements.join(bar);
+}
+
+// A bar within an element would look like two of them.
+bool hasBar(const QStringList& elements)
+{
+    return std::any_of(
+        elements.cbegin(), elements.cend(), [](const QString& element) { return element.contains(bar); });
 }
 
 }  // namespace
@@ -69,10 +78,8 @@ std::optional<QString> fromTyped(const QString& text)
 
 QString fromStored(const Home& home, const QString& item)
 {
-    // A bar within an element of another form would look like two elements.
-    if (home.separator != bar && item.contains(bar))
-        return {};
-    return joined(item.split(home.separator));
+    const QStringList parts = item.split(home.separator);
+    return hasBar(parts) ? QString() : joined(parts);
 }
 
 std::optional<QString> stored(const Home& home, const QString& path)
@@ -90,7 +97,7 @@ QStringList inTree(const QString& text)
     QXmlStreamReader xml(text);
     const auto close = [&] {
         if (!assigned.isEmpty() && assigned.takeLast())
-            if (const QString path = joined(open); !path.isEmpty() && !paths.contains(path))
+            if (const QString path = joined(open); !path.isEmpty() && !hasBar(open) && !paths.contains(path))
                 paths.append(path);
         if (!open.isEmpty())
             open.removeLast();

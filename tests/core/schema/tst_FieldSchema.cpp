@@ -1,3 +1,4 @@
+#include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
 #include "tests/support/Support.h"
 
@@ -123,6 +124,36 @@ private slots:
                                  .join(u'|'));
         }
         QCOMPARE(found, expected);
+    }
+
+    void languagesAreSpelledAsTheToolDoes_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("spelling");
+        QTest::addColumn<QString>("label");
+        QTest::newRow("language") << u"DE"_s << u"de"_s << u"Title (German)"_s;
+        QTest::newRow("country") << u"de-ch"_s << u"de-CH"_s << u"Title (German (Switzerland))"_s;
+        QTest::newRow("script") << u"zh-Hans"_s << u"zh-hans"_s << u"Title (Chinese (Simplified Han))"_s;
+        QTest::newRow("script and country")
+            << u"sr-Latn-RS"_s << u"sr-latn-rs"_s << u"Title (Serbian (Latin, Serbia))"_s;
+        QTest::newRow("variant") << u"de-at-1996"_s << u"de-AT-1996"_s << u"Title (German (Austria, 1996))"_s;
+        QTest::newRow("private") << u"x-Repair"_s << u"x-repair"_s << u"Title (x-repair)"_s;
+        QTest::newRow("unknown") << u"qaa"_s << u"qaa"_s << u"Title (qaa)"_s;
+        for (const char* code : { "german", "d", "x", "de_CH", "x-default", "X-Default", "de-", "", "dé" })
+            QTest::newRow(code) << QString::fromUtf8(code) << QString() << QString();
+    }
+    void languagesAreSpelledAsTheToolDoes()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, spelling);
+        QCOMPARE(FieldLanguages::isCode(typed), !spelling.isEmpty());
+        const QString key = FieldLanguages::key(u"title"_s, spelling);
+        QTEST(FieldLanguages::label(key), "label");
+        if (!spelling.isEmpty()) {
+            QCOMPARE(FieldLanguages::spelling(typed), spelling);
+            QCOMPARE(FieldLanguages::tag(key), u"XMP-dc:Title-"_s + spelling);
+        }
+        QCOMPARE(FieldLanguages::tag(FieldLanguages::key(u"place"_s, typed)), QString());
     }
 };
 
