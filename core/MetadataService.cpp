@@ -1,5 +1,6 @@
 #include "core/MetadataService.h"
 
+#include "core/details/DetailsRead.h"
 #include "core/save/Companions.h"
 #include "core/save/RefusedHomes.h"
 #include "core/save/SafeWriter.h"
@@ -48,10 +49,9 @@ QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets,
     return output;
 }
 
-QHash<QUrl, PhotoDetails> MetadataService::details(
-    const QList<ImageRecord>& /*photos*/, const ReadControl& /*control*/) const
+QHash<QUrl, PhotoDetails> MetadataService::details(const QList<ImageRecord>& photos, const ReadControl& control) const
 {
-    return {};
+    return DetailsRead::of(runner, photos, control);
 }
 
 QMap<QUrl, QMap<QString, QString>> MetadataService::refusedHomes(const EditPlan& plan, const QList<QUrl>& targets) const

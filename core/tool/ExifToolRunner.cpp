@@ -1,7 +1,5 @@
 #include "core/tool/ExifToolRunner.h"
 
-#include "core/tool/ToolOutput.h"
-
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -153,6 +151,11 @@ QStringList mainSelection(const QStringList& tags)
     return QStringList{ u"-json"_s, u"-G0"_s, u"-struct"_s, u"-c"_s, u"%.6f"_s } + options(tags);
 }
 
+QStringList detailsSelection(const QStringList& tags)
+{
+    return QStringList{ u"-json"_s, u"-G1"_s, u"-struct"_s, u"-a"_s, u"-n"_s } + options(tags);
+}
+
 QStringList customSelection()
 {
     return { u"-json"_s, u"-G1"_s, u"-struct"_s, u"-XMP-Quorbel:all"_s };
@@ -231,16 +234,22 @@ QList<JSONObject> ExifToolRunner::readJSON(
 ReadAnswer ExifToolRunner::readEach(
     const QStringList& tags, const QList<QUrl>& files, const ReadControl& control, const QStringList& further) const
 {
-    return readEachJSON(mainSelection(tags) + further, files, control);
+    return readEachJSON(mainSelection(tags) + further, files, control, ToolOutput::decode);
 }
 
 ReadAnswer ExifToolRunner::readEachCustomNamespace(const QList<QUrl>& files, const ReadControl& control) const
 {
-    return readEachJSON(customSelection(), files, control);
+    return readEachJSON(customSelection(), files, control, ToolOutput::decode);
 }
 
-ReadAnswer ExifToolRunner::readEachJSON(
-    const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const
+ReadAnswer ExifToolRunner::readDetails(
+    const QStringList& tags, const QList<QUrl>& files, const ReadControl& control) const
+{
+    return readEachJSON(detailsSelection(tags), files, control, ToolOutput::decodeExactly);
+}
+
+ReadAnswer ExifToolRunner::readEachJSON(const QStringList& selection, const QList<QUrl>& files,
+    const ReadControl& control, ToolOutput::Decoded (*decode)(QByteArray)) const
 {
     ReadAnswer answer;
     if (files.isEmpty())
@@ -254,7 +263,7 @@ ReadAnswer ExifToolRunner::readEachJSON(
     if (output.isEmpty())
         return answer;
     requireWanted(control);
-    ToolOutput::Decoded decoded = ToolOutput::decode(std::move(output));
+    ToolOutput::Decoded decoded = decode(std::move(output));
     if (decoded.error && decoded.undecodable.isEmpty())
         throw answer.failure ? *answer.failure : ToolError(*decoded.error);
     answer.objects = std::move(decoded.objects);

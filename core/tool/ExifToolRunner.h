@@ -5,6 +5,7 @@
 
 #include "core/text/Errors.h"
 #include "core/text/JSONValue.h"
+#include "core/tool/ToolOutput.h"
 #include "core/tool/WriteCommand.h"
 
 #include <QList>
@@ -59,6 +60,9 @@ struct ExifToolRunner {
     ReadAnswer readEach(const QStringList& tags, const QList<QUrl>& files, const ReadControl& control,
         const QStringList& further = {}) const;
     ReadAnswer readEachCustomNamespace(const QList<QUrl>& files, const ReadControl& control) const;
+    /// Such a run of its own for what the main read does not tell: all tags of these names, with group-1 keys and as
+    /// they are stored; numbers come as the texts that were printed.
+    ReadAnswer readDetails(const QStringList& tags, const QList<QUrl>& files, const ReadControl& control = {}) const;
     /// Which of the files the tool itself cannot read, and why, as it says it ("File format error"), by path: a file's
     /// own tag called Error is none of these. Throws like read(), but not for the tool's exit status.
     QMap<QString, QString> readErrors(const QList<QUrl>& files, const ReadControl& control = {}) const;
@@ -106,7 +110,8 @@ private:
 
     QList<JSONObject> readJSON(
         const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const;
-    ReadAnswer readEachJSON(const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const;
+    ReadAnswer readEachJSON(const QStringList& selection, const QList<QUrl>& files, const ReadControl& control,
+        ToolOutput::Decoded (*decode)(QByteArray)) const;
     QString run(const QStringList& arguments) const;
     QByteArray runForBytes(
         const QStringList& arguments, const OutputWatch& watch = {}, const ReadControl& control = {}) const;

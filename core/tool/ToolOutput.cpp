@@ -25,12 +25,11 @@ ToolError undecodable(const QString& reason, const QByteArray& output)
     return ToolError(ToolError::DecodeFailed{ reason + u" — output: "_s + quoted });
 }
 
-// A text like "1e999" is printed as a number, which no double holds and Qt refuses together with all the rest: those
-// as texts.
-QByteArray withHugeNumbersQuoted(QByteArrayView json)
+// `quotes`: which numbers become texts.
+QByteArray withNumbersQuoted(QByteArrayView json, bool (*quotes)(const QByteArray& number))
 {
     QByteArray quoted;
-    quoted.reserve(json.size() + 2);
+    quoted.reserve(json.size() + json.size() / 8);
     bool isInString = false;
     for (qsizetype at = 0; at < json.size(); ++at) {
         const char c = json[at];
@@ -39,9 +38,7 @@ QByteArray withHugeNumbersQuoted(QByteArrayView json)
             while (end < json.size() && QByteArrayView("+-.0123456789Ee").contains(json[end]))
                 ++end;
             const QByteArray number = json.sliced(at, end - at).toByteArray();
-            bool fits = false;
-            number.toDouble(&fits);
-            quoted += fits ? number : '"' + number + '"';
+            quoted += quotes(number) ? '"' + number + '"' : number;
             at = end - 1;
             continue;
         }
@@ -52,6 +49,14 @@ QByteArray withHugeNumbersQuoted(QByteArrayView json)
             quoted += json[++at];
     }
     return quoted;
+}
+
+// A text like "1e999" is printed as a number, which no double holds and Qt refuses together with all the rest.
+bool isHuge(const QByteArray& number)
+{
+    bool fits = false;
+    number.toDouble(&fits);
+    return !fits;
 }
 
 // The files' objects, each without the comma or bracket behind it. A value never holds a raw line feed, and what is
@@ -88,7 +93,7 @@ std::variant<QJsonObject, QString> decodePiece(QByteArrayView piece)
     QJsonParseError error;
     auto document = QJsonDocument::fromJson(piece.toByteArray(), &error);
     if (error.error == QJsonParseError::IllegalNumber)
-        document = QJsonDocument::fromJson(withHugeNumbersQuoted(piece), &error);
+        document = QJsonDocument::fromJson(withNumbersQuoted(piece, isHuge), &error);
     if (error.error != QJsonParseError::NoError)
         return error.errorString();
     return document.object();
@@ -128,6 +133,12 @@ Decoded decode(QByteArray output)
     if (!objects)
         return { .error = undecodable(u"not an array of objects"_s, output) };
     return { .objects = *std::move(objects) };
+}
+
+Decoded decodeExactly(QByteArray output)
+{
+    output = withNumbersQuoted(output, [](const QByteArray&) { return true; });
+    return decode(std::move(output));
 }
 
 }  // namespace Quorbel::ToolOutput

@@ -24,5 +24,7 @@ struct Decoded {
 
 /// `output`: trimmed, not empty.
 Decoded decode(QByteArray output);
+/// The same with every number as the text that was printed: the tool prints a title "1.10" as a number, and "1e5".
+Decoded decodeExactly(QByteArray output);
 
 }  // namespace Quorbel::ToolOutput

@@ -1,0 +1,41 @@
+#include "core/details/DetailTags.h"
+
+#include "core/schema/FieldSchema.h"
+#include "core/schema/KeywordPath.h"
+
+namespace Quorbel::DetailTags {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList languageTags()
+{
+    QStringList tags;
+    for (const FieldSpec& field : FieldSchema::all())
+        if (const QString tag = field.languageTag(); !tag.isEmpty())
+            tags.append(tag + u"-*"_s);
+    return tags;
+}
+
+QStringList pathTags()
+{
+    QStringList tags;
+    for (const auto& home : KeywordPath::homes())
+        tags.append(home.tag);
+    return tags << KeywordPath::treeTag();
+}
+
+}  // namespace
+
+QStringList all()
+{
+    return languageTags() + pathTags() << error();
+}
+
+QString error()
+{
+    return u"ExifTool:Error"_s;
+}
+
+}  // namespace Quorbel::DetailTags
