@@ -1,5 +1,6 @@
 #include "core/details/DetailTags.h"
 
+#include "core/details/FieldHomes.h"
 #include "core/schema/FieldSchema.h"
 #include "core/schema/KeywordPath.h"
 
@@ -30,7 +31,7 @@ QStringList pathTags()
 
 QStringList all()
 {
-    return languageTags() + pathTags() << error();
+    return FieldHomes::readTags() + languageTags() + pathTags() << error();
 }
 
 QString error()

@@ -1,6 +1,7 @@
 #include "core/details/DetailsRead.h"
 
 #include "core/details/DetailTags.h"
+#include "core/details/Disagreements.h"
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
 #include "core/schema/KeywordPath.h"
@@ -45,7 +46,10 @@ QStringList paths(const JSONObject& tags)
 
 PhotoDetails details(const ImageRecord& photo, const JSONObject& tags)
 {
-    return { .url = photo.url, .languages = languages(tags), .paths = paths(tags) };
+    return { .url = photo.url,
+        .languages = languages(tags),
+        .paths = paths(tags),
+        .disagreements = Disagreements::of(photo, tags) };
 }
 
 // By the path of the file, as the tool printed it and tidied up.

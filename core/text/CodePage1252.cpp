@@ -42,6 +42,22 @@ bool has(QChar c)
         || std::find(upperControls.begin(), upperControls.end(), code) != upperControls.end();
 }
 
+std::optional<QByteArray> encoded(const QString& text)
+{
+    QByteArray bytes;
+    bytes.reserve(text.size());
+    for (const QChar c : text) {
+        const auto control = std::find(upperControls.begin(), upperControls.end(), c.unicode());
+        if (c <= QChar(0xFF) && !c.isNull())
+            bytes += char(c.unicode());
+        else if (control != upperControls.end() && !c.isNull())
+            bytes += char(0x80 + (control - upperControls.begin()));
+        else
+            return std::nullopt;
+    }
+    return bytes;
+}
+
 QStringList damagedForms(const QString& text)
 {
     QStringList forms{ withQuestionMarks(text, false), withQuestionMarks(text, true),

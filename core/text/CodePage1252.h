@@ -5,10 +5,14 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace Quorbel::CodePage1252 {
 
 /// Whether the page has the character.
 bool has(QChar c);
+/// The bytes that read as this text; nothing when the page lacks one of its characters.
+std::optional<QByteArray> encoded(const QString& text);
 /// The damaged forms of a text, none of them the text itself: with "?" for what the page does not have ("??????"), and
 /// as its UTF-8 looks when it is read as Latin 1 ("VÃ½let").
 QStringList damagedForms(const QString& text);

@@ -1,4 +1,6 @@
 // What the details run finds in photos that the real tool made: one run reads all of them.
+#include "core/details/HomeComparison.h"
+#include "core/schema/FieldSchema.h"
 #include "tests/support/RealService.h"
 
 #include <QTest>
@@ -54,6 +56,154 @@ QList<Photo> pathPhotos()
     };
 }
 
+// Photos and the field that they are about. "*" stands before the tags that hold what is shown, "F" before another
+// standard's.
+struct Row {
+    const char* name = "";
+    const char* field = "";
+    QStringList assignments{};
+    QStringList places{};  ///< none where the homes agree
+};
+
+QList<Row> textRows()
+{
+    const QString longTitle = u"A title of more than sixty-four characters, which IPTC cuts off before its end"_s;
+    return {
+        { "two texts", "title", { u"XMP-dc:Title=A"_s, u"IPTC:ObjectName=B"_s },
+            { u"*XMP-dc:Title=A"_s, u"IPTC:ObjectName=B"_s } },
+        { "one of three", "description",
+            { u"XMP-dc:Description=A"_s, u"IPTC:Caption-Abstract=B"_s, u"EXIF:ImageDescription=A"_s },
+            { u"*XMP-dc:Description=A"_s, u"*EXIF:ImageDescription=A"_s, u"IPTC:Caption-Abstract=B"_s } },
+        { "absent", "title", { u"IPTC:ObjectName=B"_s } },
+        { "line ends and blanks", "description",
+            { u"XMP-dc:Description=a\nb"_s, u"IPTC:Caption-Abstract=a\\r\\nb \\r\\n"_s } },
+        { "empty and shown", "title", { u"XMP-dc:Title^="_s, u"IPTC:ObjectName=B"_s },
+            { u"*XMP-dc:Title="_s, u"IPTC:ObjectName=B"_s } },
+        { "empty and not shown", "title", { u"XMP-dc:Title=A"_s, u"IPTC:ObjectName^="_s } },
+        { "numbers", "title", { u"XMP-dc:Title=1.10"_s, u"IPTC:ObjectName=1.1"_s },
+            { u"*XMP-dc:Title=1.10"_s, u"IPTC:ObjectName=1.1"_s } },
+        { "one number", "title", { u"XMP-dc:Title=1e5"_s, u"IPTC:ObjectName=1e5"_s } },
+        { "cut off", "title", { u"XMP-dc:Title="_s + longTitle, u"IPTC:ObjectName="_s + longTitle.first(64) } },
+        { "shorter", "title", { u"XMP-dc:Title="_s + longTitle, u"IPTC:ObjectName=A title"_s },
+            { u"*XMP-dc:Title="_s + longTitle, u"IPTC:ObjectName=A title"_s } },
+        { "languages", "title", { u"XMP-dc:Title=A"_s, u"XMP-dc:Title-de=B"_s, u"IPTC:ObjectName=A"_s } },
+        { "a thumbnail's", "description", { u"IFD0:ImageDescription=A"_s, u"IFD1:ImageDescription=B"_s } },
+        { "undeclared UTF-8", "place", { u"XMP-photoshop:City=Zürich"_s, u"IPTC:City=ZÃ¼rich"_s } },
+        { "declared, and wrong", "place",
+            { u"XMP-photoshop:City=Zürich"_s, u"IPTC:City=ZÃ¼rich"_s, u"IPTC:CodedCharacterSet=UTF8"_s },
+            { u"*XMP-photoshop:City=Zürich"_s, u"IPTC:City=ZÃ¼rich"_s } },
+        { "an old Mac's", "place", { u"XMP-photoshop:City=Zürich"_s, u"IPTC:City=ZŸrich"_s } },
+        { "what Latin 1 lacks", "place", { u"XMP-photoshop:City=東京 (Tōkyō)"_s, u"IPTC:City=東京 (Tōkyō)"_s } },
+        { "another letter", "place", { u"XMP-photoshop:City=Zürich"_s, u"IPTC:City=Zurich"_s },
+            { u"*XMP-photoshop:City=Zürich"_s, u"IPTC:City=Zurich"_s } },
+        { "EXIF in Latin 1", "creator",
+            { u"XMP-dc:Creator=Jürg Müller"_s, u"charset"_s, u"exif=latin"_s, u"EXIF:Artist=Jürg Müller"_s } },
+        { "a number with a name", "urgency", { u"XMP-photoshop:Urgency=5"_s, u"IPTC:Urgency=3"_s },
+            { u"*XMP-photoshop:Urgency=5 (normal urgency)"_s, u"IPTC:Urgency=3"_s } },
+        { "one number with a name", "urgency", { u"XMP-photoshop:Urgency=5"_s, u"IPTC:Urgency=5"_s } },
+    };
+}
+
+QList<Row> creatorRows()
+{
+    const QStringList both{ u"XMP-dc:Creator=Ann"_s, u"XMP-dc:Creator=Ben"_s };
+    return {
+        { "creators", "creator",
+            both + QStringList{ u"IPTC:By-line=Ann"_s, u"IPTC:By-line=Ben"_s, u"EXIF:Artist=Ann; Ben"_s } },
+        { "creators in one text", "creator", both + QStringList{ u"IPTC:By-line=Ann, Ben"_s } },
+        { "a creator more", "creator", both + QStringList{ u"EXIF:Artist=Ann"_s },
+            { u"*XMP-dc:Creator=Ann, Ben"_s, u"EXIF:Artist=Ann"_s } },
+        { "two notices", "copyright", { u"XMP-dc:Rights=Ann"_s, u"EXIF:Copyright=Ann\nThe Paper"_s } },
+        { "other notices", "copyright", { u"XMP-dc:Rights=Ben"_s, u"EXIF:Copyright=Ann\nThe Paper"_s },
+            { u"*XMP-dc:Rights=Ben"_s, u"EXIF:Copyright=Ann\nThe Paper"_s } },
+        { "hidden by a structure", "creator",
+            { u"XMP-iptcExt:CreatorName=Ann"_s, u"XMP-dc:Creator=Ben"_s, u"IPTC:By-line=Ben"_s },
+            { u"*F XMP-iptcExt:Creator=Ann"_s, u"XMP-dc:Creator=Ben"_s, u"IPTC:By-line=Ben"_s } },
+        { "hidden, and the same", "creator", { u"XMP-iptcExt:CreatorName=Ann"_s, u"XMP-dc:Creator=Ann"_s },
+            { u"*F XMP-iptcExt:Creator=Ann"_s, u"XMP-dc:Creator=Ann"_s } },
+        { "a structure alone", "creator", { u"XMP-iptcExt:CreatorName=Ann"_s } },
+        { "hidden stars", "rating", { u"XMP-iptcExt:RatingValue=3"_s, u"XMP-xmp:Rating=5"_s },
+            { u"*F XMP-iptcExt:Rating=3"_s, u"XMP-xmp:Rating=5"_s } },
+        { "another standard's is shown", "title", { u"XMP-pdf:Title=A"_s, u"IPTC:ObjectName=B"_s },
+            { u"*F XMP-pdf:Title=A"_s, u"IPTC:ObjectName=B"_s } },
+        { "another standard's is not shown", "title",
+            { u"XMP-pdf:Title=A"_s, u"XMP-dc:Title=B"_s, u"IPTC:ObjectName=B"_s } },
+        { "lists in another order", "keywords",
+            { u"IPTC:Keywords=a"_s, u"IPTC:Keywords=b"_s, u"XMP-dc:Subject=b"_s, u"XMP-dc:Subject=a"_s } },
+        { "a damaged item", "keywords",
+            { u"IPTC:Keywords=a"_s, u"IPTC:Keywords=VÃ½let"_s, u"XMP-dc:Subject=a"_s, u"XMP-dc:Subject=Výlet"_s } },
+        { "an item more", "keywords", { u"IPTC:Keywords=a"_s, u"XMP-dc:Subject=a"_s, u"XMP-dc:Subject=1.10"_s },
+            { u"*IPTC:Keywords=a"_s, u"XMP-dc:Subject=a|1.10"_s } },
+    };
+}
+
+QList<Row> dateAndPositionRows()
+{
+    const QString taken = u"EXIF:DateTimeOriginal=2024:05:06 14:30:15"_s;
+    const QStringList here{ u"EXIF:GPSLatitude=33.500001"_s, u"EXIF:GPSLatitudeRef=S"_s, u"EXIF:GPSLongitude=70.25"_s,
+        u"EXIF:GPSLongitudeRef=W"_s };
+    return {
+        { "dates of all kinds", "date",
+            { taken, u"XMP-photoshop:DateCreated=2024:05:06 14:30+02:00"_s, u"IPTC:DateCreated=2024:05:06"_s,
+                u"IPTC:TimeCreated=14:30:15-07:00"_s, u"XMP-exif:DateTimeOriginal=2024:05:06 14:30:15.25Z"_s } },
+        { "days and months", "date",
+            { taken, u"XMP-photoshop:DateCreated=2024-05"_s, u"IPTC:DateCreated=2024:05:06"_s } },
+        { "an old companion", "date",
+            { taken, u"XMP-photoshop:DateCreated=2024:05:06 14:30:15.5"_s, u"IPTC:DateCreated=2024:05:05"_s,
+                u"IPTC:TimeCreated=14:30:15+00:00"_s },
+            { u"*EXIF:DateTimeOriginal=2024-05-06 14:30"_s, u"*XMP-photoshop:DateCreated=2024-05-06 14:30"_s,
+                u"IPTC:DateCreated=2024-05-05 14:30"_s } },
+        { "companions alone", "date",
+            { u"IPTC:DateCreated=2024:05:05"_s, u"XMP-exif:DateTimeOriginal=2023:05:05 10:00:00"_s } },
+        { "digitized", "dateDigitized",
+            { u"EXIF:CreateDate=2024:05:06 14:30:15"_s, u"XMP-exif:DateTimeDigitized=2024:05:06 15:30:15"_s },
+            { u"*EXIF:CreateDate=2024-05-06 14:30"_s, u"XMP-exif:DateTimeDigitized=2024-05-06 15:30"_s } },
+        { "one position", "coords",
+            here + QStringList{ u"XMP-exif:GPSLatitude=33.5 S"_s, u"XMP-exif:GPSLongitude=70.25 W"_s } },
+        { "hidden by an aircraft's", "coords",
+            { u"XMP-drone-dji:GPSLatitude=10"_s, u"XMP-drone-dji:GPSLongitude=20"_s, u"XMP-exif:GPSLatitude=33.5 S"_s,
+                u"XMP-exif:GPSLongitude=70.25 W"_s },
+            { u"*F XMP-drone-dji:GPSLatitude · GPSLongitude=10.000000, 20.000000"_s,
+                u"XMP-exif:GPSLatitude · GPSLongitude=-33.500000, -70.250000"_s } },
+        { "a lost sign", "coords",
+            here + QStringList{ u"XMP-exif:GPSLatitude=33.5 S"_s, u"XMP-exif:GPSLongitude=70.25 E"_s },
+            { u"*EXIF:GPSLatitude · GPSLongitude=-33.500001, -70.250000"_s,
+                u"XMP-exif:GPSLatitude · GPSLongitude=-33.500000, 70.250000"_s } },
+    };
+}
+
+QList<Row> rows()
+{
+    return textRows() + creatorRows() + dateAndPositionRows();
+}
+
+QString fileName(const Row& row)
+{
+    return QString::fromUtf8(row.name) + u".jpg"_s;
+}
+
+QStringList texts(const QList<FieldHome>& homes)
+{
+    QStringList lines;
+    for (const FieldHome& home : homes)
+        lines.append((home.isShown ? u"*"_s : QString()) + (home.isForeign ? u"F "_s : QString()) + home.tag + u'='
+            + home.values.join(u'|'));
+    return lines;
+}
+
+// Makes the photos in one run of the tool.
+void make(const PhotoFolder& folder, const QList<Row>& rows)
+{
+    QStringList arguments;
+    for (const Row& row : rows) {
+        arguments << u"-q"_s << u"-m"_s << u"-ec"_s << u"-overwrite_original"_s;
+        for (const QString& assignment : row.assignments)
+            arguments.append(assignment.startsWith(u"exif="_s) ? assignment : u'-' + assignment);
+        arguments << folder.add(fileName(row)).toLocalFile() << u"-execute"_s;
+    }
+    exiftool(arguments);
+}
+
 // The record that a read would make of it.
 ImageRecord recordOf(const QUrl& url)
 {
@@ -68,6 +218,85 @@ class tst_PhotoDetails : public QObject {
     Q_OBJECT
 
 private slots:
+    void initTestCase()
+    {
+        make(m_folder, rows());
+        QList<QUrl> urls;
+        for (const Row& row : rows())
+            urls.append(m_folder.url(fileName(row)));
+        // Read as the city of the photo where it holds no other one.
+        const QUrl own = m_folder.add(u"own.jpg"_s);
+        exiftool({ u"-q"_s, u"-overwrite_original"_s, u"-IPTC:City=Rome"_s, own.toLocalFile() });
+        realService().write({ .customs = { { u"City"_s, u"Mine"_s } } }, { own }, {});
+        m_details = realService().details(realService().read(urls << own));
+    }
+
+    void differencesAreReal_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QStringList>("places");
+        for (const Row& row : rows())
+            QTest::newRow(row.name) << fileName(row) << QString::fromUtf8(row.field) << row.places;
+        QTest::newRow("a field of one's own") << u"own.jpg"_s << u"place"_s << QStringList();
+    }
+    void differencesAreReal()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, field);
+        QVERIFY(m_details.contains(m_folder.url(file)));
+        const auto found = m_details.value(m_folder.url(file)).disagreements;
+        QTEST(texts(found.value(field)), "places");
+        QCOMPARE(found.size(), found.contains(field) ? 1 : 0);
+    }
+
+    void formsOfOneValue_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("tag");
+        QTest::addColumn<QString>("held");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<bool>("isSame");
+        const auto row = [](const char* name, const char* field, const char* tag, const QString& held,
+                             const QString& shown, bool isSame) {
+            QTest::newRow(name) << QString::fromUtf8(field) << QString::fromUtf8(tag) << held << shown << isSame;
+        };
+        const QString letters = u"東京"_s.repeated(20);
+        row("cut off within a letter", "headline", "IPTC:By-line", letters.first(10), letters, true);
+        row("cut off by letters", "headline", "IPTC:By-line", letters.first(32), letters, true);
+        row("cut off too early", "headline", "IPTC:By-line", letters.first(5), letters, false);
+        row("XMP cuts nothing off", "headline", "XMP-dc:Creator", letters.first(10), letters, false);
+        // Bytes of undeclared UTF-8, read as Latin 1, of which the limit took the last one.
+        row("cut off and undeclared", "headline", "IPTC:By-line",
+            QString::fromLatin1(u"ü"_s.repeated(16).toUtf8().first(31)), u"ü"_s.repeated(20), true);
+        row("marks for letters", "headline", "EXIF:Artist", u"(c) ?????? ?rg"_s, u"(c) Максим Jrg"_s, false);
+        row("marks and letters", "headline", "EXIF:Artist", u"(c) ?????? J?rg?"_s, u"(c) Максим Jürg?"_s, true);
+        row("marks in XMP", "headline", "XMP-dc:Title", u"J?rg"_s, u"Jürg"_s, false);
+        row("a question", "headline", "EXIF:Artist", u"Who?"_s, u"Who"_s, false);
+        row("stars", "rating", "XMP-xmp:Rating", u"4.0"_s, u"4"_s, true);
+        row("near", "coords", "EXIF:GPS", u"36.9634805555, 1"_s, u"36.9634816667, 1"_s, true);
+        row("not near", "coords", "EXIF:GPS", u"36.96347, 1"_s, u"36.96348, 1"_s, false);
+        row("a year", "date", "XMP-photoshop:DateCreated", u"2024"_s, u"2024:05:06 10:00:00"_s, true);
+        row("month and day left out", "date", "IPTC:DateCreated", u"2024:00:00"_s, u"2024:05:06"_s, true);
+        row("another minute", "date", "XMP-photoshop:DateCreated", u"2024:05:06 10:01"_s, u"2024:05:06 10:00:59"_s,
+            false);
+        row("no date", "date", "EXIF:CreateDate", u"unknown"_s, u"2024:05:06"_s, false);
+    }
+    void formsOfOneValue()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, tag);
+        QFETCH(QString, held);
+        QFETCH(QString, shown);
+        const FieldSpec* spec = FieldSchema::spec(field);
+        const HomeComparison::Held home{
+            .tag = tag, .items = { held }, .declaresEncoding = !tag.startsWith(u"IPTC"_s)
+        };
+        const HomeComparison::Held other{ .tag = u"XMP-photoshop:Headline"_s, .items = { shown } };
+        QTEST(HomeComparison::isSame(*spec, home, other), "isSame");
+        QTEST(HomeComparison::isSame(*spec, other, home), "isSame");
+    }
+
     void languagesAndPathsAreFound()
     {
         const PhotoFolder folder;
@@ -94,6 +323,10 @@ private slots:
             QVERIFY2(details.paths == photo.paths, qPrintable(photo.name));
         }
     }
+
+private:
+    const PhotoFolder m_folder;
+    QHash<QUrl, PhotoDetails> m_details;
 };
 
 QTEST_GUILESS_MAIN(tst_PhotoDetails)
