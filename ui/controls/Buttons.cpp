@@ -17,6 +17,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Points, of a text button.
+constexpr qreal leadingIcon = 10;
+constexpr qreal leadingGap = 6;
+
 // Three colours, blended as far as the pointer and the press have come.
 QColor stateColor(const HoverFade& fade, const QColor& rest, const QColor& hover, const QColor& pressed)
 {
@@ -94,11 +98,20 @@ QBButton::QBButton(const QString& title, QBButtonKind kind, QWidget* parent)
     , m_kind(kind)
 {
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
-    onRestyle(this, [this] {
-        setFont(sansFont(13, QFont::Medium));
-        updateGeometry();
-    });
+    onRestyle(this, [this] { restyle(); });
     installFocusRing(this, { RingShape::button, 7, {}, {} });
+}
+
+void QBButton::restyle()
+{
+    setFont(m_small ? sansFont(11.5) : sansFont(13, QFont::Medium));
+    updateGeometry();
+}
+
+void QBButton::setSmall(bool on)
+{
+    m_small = on;
+    restyle();
 }
 
 void QBButton::setSidePadding(qreal points)
@@ -109,9 +122,10 @@ void QBButton::setSidePadding(qreal points)
 
 QSize QBButton::sizeHint() const
 {
-    const qreal natural = m_kind == QBButtonKind::primary ? 16 : 14;
+    const qreal usual = m_kind == QBButtonKind::primary ? 16 : 14;
+    const qreal natural = m_small ? 8 : usual;
     const int padding = px(m_sidePadding < 0 ? natural : m_sidePadding);
-    return { fontMetrics().horizontalAdvance(text()) + 2 * padding + 2, px(30) };
+    return { fontMetrics().horizontalAdvance(text()) + 2 * padding + 2, px(m_small ? 22 : 30) };
 }
 
 void QBButton::paintEvent(QPaintEvent*)
@@ -120,7 +134,7 @@ void QBButton::paintEvent(QPaintEvent*)
     QPainter painter(this);
     if (m_kind != QBButtonKind::primary)
         painter.setOpacity(opacity());
-    paintBox(painter, rect(), pxF(7), look.fill, penOf(look));
+    paintBox(painter, rect(), pxF(radius()), look.fill, penOf(look));
     painter.setPen(look.text);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
 }
@@ -133,6 +147,12 @@ QBIconButton::QBIconButton(const QString& icon, const QString& name, QWidget* pa
     setName(name);
     onRestyle(this, [this] { updateGeometry(); });
     installFocusRing(this, { RingShape::tight, 7, {}, {} });
+}
+
+void QBIconButton::setIcon(const QString& icon)
+{
+    m_icon = icon;
+    update();
 }
 
 void QBIconButton::setName(const QString& name)
@@ -212,6 +232,13 @@ void QBTextButton::setKeyHint(const QString& keys)
     update();
 }
 
+void QBTextButton::setLeadingIcon(const QString& icon)
+{
+    m_icon = icon;
+    updateGeometry();
+    update();
+}
+
 void QBTextButton::setLink(bool on)
 {
     m_link = on;
@@ -232,6 +259,8 @@ void QBTextButton::setInline(bool on)
 QSize QBTextButton::sizeHint() const
 {
     int width = fontMetrics().horizontalAdvance(text()) + 2 * px(hasGround() ? 8 : 0);
+    if (!m_icon.isEmpty())
+        width += px(leadingIcon + leadingGap);
     if (!m_keys.isEmpty())
         width += px(6) + QFontMetrics(sansFont(11)).horizontalAdvance(m_keys);
     if (m_inline)
@@ -253,7 +282,12 @@ void QBTextButton::paintEvent(QPaintEvent*)
     painter.setFont(titleFont);
     painter.setPen(m_inline ? theme.text : stateColor(*fade(), theme.derived.label, theme.text, theme.text));
     const int padding = px(hasGround() ? 8 : 0);
-    const QRect inner = rect().adjusted(padding, 0, -padding, 0);
+    QRect inner = rect().adjusted(padding, 0, -padding, 0);
+    if (!m_icon.isEmpty()) {
+        const QRectF icon(inner.left(), 0, pxF(leadingIcon), height());
+        Icon::paint(painter, icon, m_icon, pxF(leadingIcon), painter.pen().color(), 2.1);
+        inner.setLeft(inner.left() + px(leadingIcon + leadingGap));
+    }
     painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
     if (width() < sizeHint().width())
         return;  // the keys are the first to give way

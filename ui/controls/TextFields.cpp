@@ -67,6 +67,11 @@ void showEditMenu(QWidget* field, const QPoint& globalPos, const QList<EditItem>
         action->setShortcut(item.key);
         action->setEnabled(item.enabled);
     }
+    QList<QAction*> more = field->actions();
+    more.removeIf([](const QAction* action) { return !action->isVisible(); });
+    if (!more.isEmpty())
+        menu->addSeparator();
+    menu->addActions(more);
     menu->popup(globalPos);
 }
 
@@ -87,8 +92,15 @@ void QBTextField::restyle()
     setPalette(textPalette(Theme::of(this)));
     setFont(m_mono ? verbatimMonoFont(13) : verbatimFont(13));
     const int side = px(m_bare ? 7 : 10) - builtInMargin;
-    setTextMargins(m_icon.isEmpty() ? side : px(31) - builtInMargin, 0, side, 0);
+    setTextMargins(m_icon.isEmpty() ? side : px(31) - builtInMargin, 0, qMax(side, m_roomAtEnd), 0);
     updateGeometry();
+}
+
+void QBTextField::setRoomAtEnd(int pixels)
+{
+    if (pixels == std::exchange(m_roomAtEnd, pixels))
+        return;
+    restyle();
 }
 
 void QBTextField::setBoundText(const QString& text)
@@ -228,8 +240,15 @@ void QBTextArea::restyle()
     setFont(verbatimFont(13));
     setCursorWidth(1);
     // The border takes one pixel of the padding; the viewport is what is left.
-    setViewportMargins(px(10), px(9), px(10), px(9));
+    setViewportMargins(px(10), px(9), qMax(px(10), m_roomAtEnd), px(9));
     grow();
+}
+
+void QBTextArea::setRoomAtEnd(int pixels)
+{
+    if (pixels == std::exchange(m_roomAtEnd, pixels))
+        return;
+    restyle();
 }
 
 void QBTextArea::setBoundText(const QString& text)

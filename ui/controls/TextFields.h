@@ -10,7 +10,7 @@ namespace Quorbel {
 
 class HoverFade;
 
-/// A plain one-line field, 30 points high.
+/// A plain one-line field, 30 points high. Actions that are added to it stand in its menu.
 class QBTextField : public QLineEdit {
     Q_OBJECT
 
@@ -28,6 +28,8 @@ public:
     void setLeadingIcon(const QString& icon);
     /// Without its own ground and border: for use inside another frame.
     void setBare(bool bare);
+    /// Pixels at the right end that no text runs into: something lies there.
+    void setRoomAtEnd(int pixels);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -48,10 +50,12 @@ private:
     bool m_edited = false;
     bool m_mono = false;
     bool m_bare = false;
+    int m_roomAtEnd = 0;
     bool m_italicPlaceholder = false;
 };
 
-/// A plain multi-line field at least 54 points high that grows with its text. Tab leaves it.
+/// A plain multi-line field at least 54 points high that grows with its text. Tab leaves it. Actions that are added
+/// to it stand in its menu.
 class QBTextArea : public QPlainTextEdit {
     Q_OBJECT
 
@@ -63,6 +67,8 @@ public:
     void startText(const QString& text);
     void setPlaceholder(const QString& text, bool italic = false);
     void setEdited(bool edited);
+    /// As QBTextField::setRoomAtEnd(); of all lines.
+    void setRoomAtEnd(int pixels);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -83,6 +89,7 @@ private:
     void grow();
 
     HoverFade* m_fade;
+    int m_roomAtEnd = 0;
     bool m_edited = false;
     bool m_italicPlaceholder = false;
     bool m_binding = false;

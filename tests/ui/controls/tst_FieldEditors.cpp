@@ -7,9 +7,12 @@
 #include "ui/controls/SuggestionList.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/ThemedMenu.h"
+#include "ui/controls/attached/CodesChip.h"
+#include "ui/controls/attached/SearchMenu.h"
 #include "ui/controls/theme/Metrics.h"
 
 #include <QClipboard>
+#include <QListWidget>
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -489,6 +492,98 @@ private slots:
         menu->close();
         QCOMPARE(field->text(), QString());
         QCOMPARE(QGuiApplication::clipboard()->text(), u"Zürich"_s);
+    }
+
+    void chipOfCodes_data()
+    {
+        QTest::addColumn<QStringList>("codes");
+        QTest::addColumn<int>("room");
+        QTest::addColumn<QString>("shown");
+        const QStringList three{ u"de"_s, u"en-US"_s, u"fr"_s };
+        const QStringList six = three + QStringList{ u"it"_s, u"pl"_s, u"zh-Hans"_s };
+        QTest::newRow("one") << three.first(1) << 500 << u"de"_s;
+        QTest::newRow("three") << three << 500 << u"de en-US fr"_s;
+        QTest::newRow("more") << six << 500 << u"de en-US +4"_s;
+        QTest::newRow("less room") << six << 70 << u"de +5"_s;
+        QTest::newRow("no room") << six << 10 << u"+6"_s;
+    }
+    void chipOfCodes()
+    {
+        QFETCH(QStringList, codes);
+        QFETCH(int, room);
+        Test::Stage stage;
+        auto* chip = stage.add(new CodesChip);
+        QList<CodesChip::Code> all;
+        for (const QString& code : std::as_const(codes))
+            all.append({ code });
+        chip->setCodes(all);
+        chip->setRoom(room);
+        stage.show();
+        QTEST(chip->shownText(), "shown");
+    }
+
+    // Where something lies over the end of a field, no text and no click of the text's goes.
+    void roomAtTheEndOfAField()
+    {
+        Test::Stage stage;
+        auto* field = stage.add(new QBTextField);
+        auto* area = stage.add(new QBTextArea);
+        stage.show();
+        field->setText(QString(u'm').repeated(100));
+        area->setBoundText(QString(u'm').repeated(100));
+        field->setCursorPosition(0);
+        const auto inkAtEnd = [](QWidget* editor) {
+            const QImage end = editor->grab(QRect(editor->width() - 90, 10, 80, 10)).toImage();
+            return Test::pixelsLike(end, Theme::light().text);
+        };
+        QVERIFY(inkAtEnd(field) > 0);
+        QVERIFY(inkAtEnd(area) > 0);
+        field->setRoomAtEnd(100);
+        area->setRoomAtEnd(100);
+        QCOMPARE(inkAtEnd(field), 0);
+        QCOMPARE(inkAtEnd(area), 0);
+    }
+
+    void searchMenuFinds_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QStringList>("found");
+        QTest::newRow("all") << QString() << QStringList{ u"de"_s, u"sw"_s, u"en"_s, u"gsw"_s };
+        QTest::newRow("a code first") << u"sw"_s << QStringList{ u"sw"_s, u"gsw"_s };
+        QTest::newRow("begin of a name") << u"ger"_s << QStringList{ u"de"_s, u"gsw"_s };
+        QTest::newRow("within a name") << u" English"_s << QStringList{ u"en"_s };
+        QTest::newRow("what is not listed") << u"en-gb"_s << QStringList{ u"en-GB"_s };
+        QTest::newRow("nothing") << u"xyz"_s << QStringList();
+    }
+    void searchMenuFinds()
+    {
+        QFETCH(QString, typed);
+        Test::Stage stage;
+        auto* opener = stage.add(new CodesChip);
+        stage.show();
+        auto* menu = new SearchMenu(u"Languages"_s, u"Search"_s, opener);
+        menu->setNothingFound(u"Nothing"_s);
+        menu->setOther([](const QString& text) {
+            return text == u"en-gb"_s ? std::optional(SearchMenuRow{ u"English (UK)"_s, u"en-GB"_s }) : std::nullopt;
+        });
+        menu->setRows({ { u"German"_s, u"de"_s }, { u"Swahili"_s, u"sw"_s }, { u"American English"_s, u"en"_s },
+            { u"Swiss German"_s, u"gsw"_s } });
+        menu->open(QRect(opener->mapToGlobal(QPoint()), opener->size()), 240);
+        QTest::keyClicks(menu->field(), typed);
+        QStringList found;
+        for (int row = 0; row < menu->list()->count(); ++row)
+            found.append(menu->list()->item(row)->data(Qt::UserRole).toString());
+        QTEST(found, "found");
+        QCOMPARE(Test::labels(menu).contains(u"Nothing"_s), found.isEmpty());
+        QSignalSpy picked(menu, &SearchMenu::picked);
+        const QPointer<SearchMenu> open = menu;
+        for (const Qt::Key key : { Qt::Key_Down, Qt::Key_Return })
+            QTest::keyClick(menu->field(), key);
+        QCOMPARE(picked.size(), found.isEmpty() ? 0 : 1);
+        if (!found.isEmpty())
+            QCOMPARE(picked.at(0).at(0).value<SearchMenuRow>().code, found.value(1, found.first()));
+        QCOMPARE(open && open->isVisible(), found.isEmpty());
+        delete open;
     }
 };
 
