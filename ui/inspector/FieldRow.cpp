@@ -6,6 +6,7 @@
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/inspector/RowExtras.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -21,6 +22,7 @@ namespace {
 // Points.
 constexpr qreal gap = 7;
 constexpr qreal labelWidth = 104;
+constexpr qreal languageIndent = 12;
 constexpr qreal rowHeight = 30;
 constexpr qreal firstLineDrop = 3;  // of a text area's first line below that of a text field
 constexpr qreal lineGap = 4;
@@ -48,10 +50,12 @@ protected:
 FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
     : QWidget(parent)
     , m_kind(parts.kind)
+    , m_isLanguage(parts.isLanguage)
     , m_editor(makeRowEditor(parts, *this))
     , m_line(new QHBoxLayout(this))
     , m_column(new QVBoxLayout)
-    , m_label(new TwoLineLabel(TextRole::label, 13))
+    , m_label(new TwoLineLabel(TextRole::label, parts.isLanguage ? 12 : 13))
+    , m_extras(new RowExtras(*this, m_editor, *m_label, *m_column))
 {
     m_label->setBuddy(m_editor.input);
     m_label->setVerbatim(true);  // of a custom field it was typed
@@ -69,7 +73,7 @@ void FieldRow::restyle()
 {
     const int drop = isMultiline() && !m_stacked ? px(firstLineDrop) : 0;
     const int height = px(m_stacked ? stackedLabel : rowHeight);
-    m_label->setContentsMargins(0, drop, 0, 0);
+    m_label->setContentsMargins(m_isLanguage ? px(languageIndent) : 0, drop, 0, 0);
     m_label->setFixedHeight(height + drop);
     m_label->setMinimumWidth(m_stacked ? 0 : px(labelWidth));
     m_label->setMaximumWidth(m_stacked ? QWIDGETSIZE_MAX : px(labelWidth));
@@ -88,6 +92,18 @@ void FieldRow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     setStacked(width() < px(stackedBelow));
+}
+
+void FieldRow::enterEvent(QEnterEvent* event)
+{
+    QWidget::enterEvent(event);
+    m_extras->setHovered(true);
+}
+
+void FieldRow::leaveEvent(QEvent* event)
+{
+    QWidget::leaveEvent(event);
+    m_extras->setHovered(false);
 }
 
 void FieldRow::setStacked(bool stacked)
@@ -116,8 +132,10 @@ QList<QWidget*> FieldRow::tabStops() const
     QList<QWidget*> stops = m_editor.tabStops;
     if (m_tick)
         stops.prepend(m_tick);
+    stops.append(m_extras->stopsBesideEditor());
     if (m_remove)
         stops.append(m_remove);
+    stops.append(m_extras->stopsBelow());
     return stops;
 }
 
@@ -133,6 +151,7 @@ void FieldRow::setState(const FieldRowState& state, bool fresh)
     showTick();
     showRemove();
     showLines();
+    m_extras->show(state);
     describe();
     if (old.edited != state.edited && parentWidget())
         parentWidget()->update();
@@ -169,7 +188,8 @@ void FieldRow::showTick()
         return;
     m_tick->setVisible(m_state.batch && !m_state.fixed);
     m_tick->setChecked(m_state.included);
-    m_tick->setAccessibleName(u"Write %1 to all selected files"_s.arg(m_state.label));
+    const QString& name = m_state.language.spoken.isEmpty() ? m_state.label : m_state.language.spoken;
+    m_tick->setAccessibleName(u"Write %1 to all selected files"_s.arg(name));
 }
 
 void FieldRow::showRemove()
@@ -185,7 +205,11 @@ void FieldRow::showRemove()
     if (!m_remove)
         return;
     m_remove->setVisible(m_state.removable);
-    m_remove->setAccessibleDescription(m_state.label);
+    if (!m_isLanguage)
+        return m_remove->setAccessibleDescription(m_state.label);
+    const bool isGone = m_state.language.isGone;
+    m_remove->setIcon(isGone ? u"arrow.uturn.backward"_s : u"xmark.circle.fill"_s);
+    m_remove->setName((isGone ? u"Bring %1 back"_s : u"Remove %1"_s).arg(m_state.label));
 }
 
 void FieldRow::showLines()
@@ -206,7 +230,7 @@ void FieldRow::showLine(Line which, const QString& text)
         line->setMono(tags);
         line->setVerbatim(tags);
         const auto above = std::count_if(m_lines.cbegin(), m_lines.cbegin() + int(which), [](auto* l) { return l; });
-        m_column->insertWidget(m_column->indexOf(m_editor.widget) + 1 + int(above), line);  // behind the editor
+        m_column->insertWidget(m_column->indexOf(m_extras->lastUnderEditor()) + 1 + int(above), line);
     }
     line->setText(text);
     line->setVisible(!text.isEmpty());
@@ -222,8 +246,9 @@ void FieldRow::describe()
         if (!line.isEmpty())
             told.append(line);
     const QString description = told.join(u", "_s);
-    if (m_editor.input->accessibleName() != m_state.label)
-        m_editor.input->setAccessibleName(m_state.label);
+    const QString& name = m_state.language.spoken.isEmpty() ? m_state.label : m_state.language.spoken;
+    if (m_editor.input->accessibleName() != name)
+        m_editor.input->setAccessibleName(name);
     if (m_editor.input->accessibleDescription() != description)
         m_editor.input->setAccessibleDescription(description);
 }

@@ -16,6 +16,7 @@ namespace Quorbel {
 
 class QBCheckbox;
 class QBIconButton;
+class RowExtras;
 class TwoLineLabel;
 class WrappedLine;
 
@@ -44,11 +45,20 @@ signals:
     void placePicked(const Quorbel::LocationFill::Result& result);
     void tickClicked();
     void removeClicked();
+    /// What this place holds is to be the field's value.
+    void homeUsed(const Quorbel::FieldHome& home);
+    void agreeAsked();
+    /// The rows of the field's other languages are to be shown, or not; asked for by keyboard or mouse.
+    void languagesAsked(bool open);
+    /// A language is to be added; the menu opens under the anchor.
+    void languageMenuAsked(QWidget* anchor);
     /// A tab stop was made after the row was.
     void tabStopsChanged();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
 private:
     bool isMultiline() const { return m_kind == FieldKind::multiline; }
@@ -63,12 +73,14 @@ private:
     void showLine(Line which, const QString& text);
 
     FieldKind m_kind;
+    bool m_isLanguage;
     bool m_stacked = false;  ///< the label stands over the editor, not beside it
     RowEditor m_editor;
     FieldRowState m_state{};
     QHBoxLayout* m_line;
     QVBoxLayout* m_column;
     TwoLineLabel* m_label;
+    RowExtras* m_extras;
     QWidget* m_block = nullptr;  ///< until the row was unread
     QBCheckbox* m_tick = nullptr;  ///< until the row was in a batch
     QBIconButton* m_remove = nullptr;  ///< until the row was removable

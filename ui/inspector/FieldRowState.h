@@ -1,10 +1,43 @@
 // What one row of the inspector shows. Thread: any. Plain values; knows neither model nor widget.
 #pragma once
 
+#include "core/schema/PhotoDetails.h"
+
+#include <QList>
 #include <QString>
 #include <QStringList>
 
 namespace Quorbel {
+
+/// What a row shows of a field's texts in further languages.
+struct RowLanguages {
+    struct Code {
+        QString text{};
+        bool isGone = false;  ///< will be taken away
+        bool operator==(const Code&) const = default;
+    };
+    bool isPossible = false;  ///< the field may have some
+    QList<Code> codes{};
+    bool isOpen = false;  ///< their rows stand below
+    bool isEdited = false;  ///< one of them
+    bool operator==(const RowLanguages&) const = default;
+};
+
+/// What a row is that shows the text in one further language; an ordinary row while the code is empty.
+struct RowLanguage {
+    QString code{};
+    QString spoken{};  ///< of which field, too: "Title (German)"
+    bool isGone = false;  ///< will be taken away
+    bool isLast = false;  ///< more can be added below
+    bool operator==(const RowLanguage&) const = default;
+};
+
+/// Where else the field stands, when these places disagree.
+struct RowHomes {
+    QList<FieldHome> homes{};  ///< no mark when empty
+    bool canAgree = false;
+    bool operator==(const RowHomes&) const = default;
+};
 
 /// All that a row shows.
 struct FieldRowState {
@@ -22,6 +55,9 @@ struct FieldRowState {
     bool fixed = false;  ///< shown only: an editor of one value takes no typing, and there is no tick
     QString namespaceLine{};  ///< none when empty
     QString helpLine{};  ///< none when empty
+    RowLanguages languages{};
+    RowLanguage language{};
+    RowHomes places{};
     bool operator==(const FieldRowState&) const = default;
 };
 

@@ -3,11 +3,13 @@
 #include "app/model/AppModel.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
+#include "core/schema/FieldLanguages.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/BatchBanner.h"
 #include "ui/inspector/CameraSection.h"
 #include "ui/inspector/FieldRow.h"
+#include "ui/inspector/FormLanguages.h"
 #include "ui/inspector/FormPause.h"
 #include "ui/inspector/FormSection.h"
 #include "ui/inspector/InspectorStates.h"
@@ -65,6 +67,7 @@ InspectorForm::InspectorForm(
     , m_cameraSection(new FormSection(u"CAMERA"_s, u"read-only"_s))
     , m_map(new LocationMap(places, maps))
     , m_camera(new CameraSection)
+    , m_languages(new FormLanguages(model, this))
     , m_pause(new FormPause(this))
 {
     m_column->setSpacing(0);
@@ -81,6 +84,13 @@ InspectorForm::InspectorForm(
     m_column->addWidget(m_cameraSection);
     m_column->addStretch();
     connect(m_map, &LocationMap::found, &m_model, &AppModel::fillPlaceNames);
+    connect(m_languages, &FormLanguages::changed, this, [this] {
+        if (!m_subject)
+            return;
+        showSections(false);
+        orderTabStops();
+    });
+    connect(m_languages, &FormLanguages::focusAsked, this, &InspectorForm::fieldAdded);
     m_blocksSoon.setSingleShot(true);
     m_blocksSoon.setInterval(blocksDelay);
     connect(&m_blocksSoon, &QTimer::timeout, this, &InspectorForm::showBlocks);
@@ -101,13 +111,11 @@ void InspectorForm::refresh()
     const Subject subject{ m_model.selection(), m_model.primary() };
     const bool fresh = subject != m_subject;
     m_subject = subject;
-    for (const FieldSection section : allCases<FieldSection>())
-        showFields(section, fresh);
+    showSections(fresh);
     showMap(fresh);
     showCustoms(fresh);
     showCamera();
-    if (std::exchange(m_tabOrderStale, false))
-        orderTabStops();
+    orderTabStops();
     endWaiting();
     announceAdded(fresh);
 }
@@ -203,6 +211,12 @@ void InspectorForm::showHeader()
         m_header->setRecord(*record);
 }
 
+void InspectorForm::showSections(bool fresh)
+{
+    for (const FieldSection section : allCases<FieldSection>())
+        showFields(section, fresh);
+}
+
 void InspectorForm::showFields(FieldSection section, bool fresh)
 {
     QList<FieldRow*> rows;
@@ -210,12 +224,27 @@ void InspectorForm::showFields(FieldSection section, bool fresh)
     for (const QString& id : ids) {
         const FieldSpec& field = *FieldSchema::spec(id);
         FieldRow* row = rowOf(field);
-        row->setState(InspectorStates::fieldRow(m_model, field), fresh);
+        FieldRowState state = InspectorStates::fieldRow(m_model, field);
+        state.languages.isOpen = m_languages->isOpen(id);
+        row->setState(state, fresh);
         rows.append(row);
+        addLanguageRows(field, fresh, rows);
     }
     FormSection* form = m_sections.at(size_t(section));
     form->setRows(rows);
     form->setVisible(!rows.isEmpty());
+}
+
+void InspectorForm::addLanguageRows(const FieldSpec& field, bool fresh, QList<FieldRow*>& rows)
+{
+    const QStringList codes = m_languages->shownCodes(field.id);
+    for (const QString& code : codes) {
+        FieldRow* row = rowOf(field, code);
+        const bool isLast = code == codes.constLast();
+        // One that was not on screen shows another photo's text, if any.
+        row->setState(InspectorStates::languageRow(m_model, field, code, isLast), fresh || row->isHidden());
+        rows.append(row);
+    }
 }
 
 void InspectorForm::showCustoms(bool fresh)
@@ -296,6 +325,25 @@ FieldRow* InspectorForm::rowOf(const FieldSpec& field)
     connect(row, &FieldRow::tickClicked, this, [this, field] { toggle(field); });
     connect(row, &FieldRow::removeClicked, this, [this, id = field.id] { m_model.removeAddedField(id); });
     connect(row, &FieldRow::placePicked, &m_model, &AppModel::applyLocation);
+    connect(
+        row, &FieldRow::homeUsed, this, [this, id = field.id](const FieldHome& home) { m_model.useHome(id, home); });
+    connect(row, &FieldRow::agreeAsked, &m_model, &AppModel::requestMakeAgree);
+    m_languages->connectRow(*row, field);
+    return row;
+}
+
+FieldRow* InspectorForm::rowOf(const FieldSpec& field, const QString& code)
+{
+    const QString key = FieldLanguages::key(field.id, code);
+    if (FieldRow* known = m_pool.value(key))
+        return known;
+    FieldRowParts parts;
+    parts.kind = field.kind;
+    parts.isLanguage = true;
+    FieldRow* row = makeRow(key, parts);
+    connect(row, &FieldRow::textEdited, this, [this, key](const QString& text) { write(key, text); });
+    connect(row, &FieldRow::tickClicked, this, [this, key] { m_model.toggleBatchInclude(key); });
+    m_languages->connectRow(*row, field, code);
     return row;
 }
 
@@ -342,6 +390,8 @@ void InspectorForm::toggle(const FieldSpec& field)
 // Top to bottom, as the sections stand: rows are made in the order in which photos need them.
 void InspectorForm::orderTabStops()
 {
+    if (!std::exchange(m_tabOrderStale, false))
+        return;
     QList<QWidget*> stops;
     const auto take = [&stops](const FormSection* section) {
         for (const FieldRow* row : section->rows())

@@ -22,6 +22,7 @@ class AppModel;
 class BatchBanner;
 class CameraSection;
 class FieldRow;
+class FormLanguages;
 class FormPause;
 class FormSection;
 class LocationMap;
@@ -49,12 +50,12 @@ public:
     /// Pixels kept free at the lower end.
     void setBottomInset(int pixels);
     int bottomInset() const { return m_bottomInset; }
-    /// The row of a field, by its id or by the key of a custom field; null while it is not on screen.
+    /// The row of a field, by its id or by the key of a custom field or of a language; null while it is not on screen.
     FieldRow* row(const QString& id) const;
     QSize minimumSizeHint() const override;
 
 signals:
-    /// The user added this field to those on screen: a field id, or the key of a custom field.
+    /// The user added this field to those on screen: a field id, or the key of a custom field or of a language.
     void fieldAdded(const QString& id);
 
 private:
@@ -71,12 +72,15 @@ private:
     void endWaiting();
     void takeMouse(bool on);
     void showFields(FieldSection section, bool fresh);
+    void showSections(bool fresh);
+    void addLanguageRows(const FieldSpec& field, bool fresh, QList<FieldRow*>& rows);
     void showCustoms(bool fresh);
     void showMap(bool fresh);
     void showCamera();
     void announceAdded(bool fresh);
     FieldRow* makeRow(const QString& key, const FieldRowParts& parts);
     FieldRow* rowOf(const FieldSpec& field);
+    FieldRow* rowOf(const FieldSpec& field, const QString& code);
     FieldRow* rowOf(const CustomValue& custom);
     void write(const QString& id, const QString& text);
     void changeList(const QString& id, const QString& item, bool add);
@@ -100,6 +104,7 @@ private:
     FormSection* m_cameraSection;
     LocationMap* m_map;
     CameraSection* m_camera;
+    FormLanguages* m_languages;
     FormPause* m_pause;  ///< on while there is nothing to show of what is selected
     QTimer m_blocksSoon;
     int m_bottomInset = 0;

@@ -4,6 +4,7 @@
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldCheck.h"
 #include "core/schema/FieldID.h"
+#include "core/schema/FieldLanguages.h"
 #include "core/tool/MetadataWriter.h"
 
 #include <algorithm>
@@ -55,15 +56,40 @@ void showMultipleValues(FieldRowState& state)
     state.placeholder = u"Multiple values — leave unchanged"_s;
 }
 
-void addTextState(const AppModel& model, const FieldSpec& field, FieldRowState& state)
+// `key`: of the field, or of its text in a further language.
+void addTextState(const AppModel& model, const QString& key, FieldRowState& state)
 {
-    state.text = currentText(model, field.id);
-    state.included = state.batch && model.batchInclude().contains(field.id);
+    state.text = currentText(model, key);
+    state.included = state.batch && model.batchInclude().contains(key);
     if (state.included)
         state.helpLine = willBeWritten(model);
-    state.placeholder = placeholderOf(field.id);
-    if (state.batch && !state.included && !model.sharedValue(field.id))
+    state.placeholder = placeholderOf(key);
+    if (state.batch && !state.included && !model.sharedValue(key))
         showMultipleValues(state);
+}
+
+bool isEdited(const AppModel& model, const QString& key)
+{
+    return (model.isBatch() ? model.batchInclude() : model.editedSingle()).contains(key);
+}
+
+// A text that is emptied is taken away, with its language.
+bool isTakenAway(const AppModel& model, const QString& key)
+{
+    return isEdited(model, key) && currentText(model, key).trimmed().isEmpty();
+}
+
+void addLanguages(const AppModel& model, const FieldSpec& field, FieldRowState& state)
+{
+    state.languages.isPossible = !field.languageTag().isEmpty();
+    if (!state.languages.isPossible)
+        return;
+    const QStringList codes = model.languages(field.id);
+    for (const QString& code : codes) {
+        const QString key = FieldLanguages::key(field.id, code);
+        state.languages.codes.append({ code, isTakenAway(model, key) });
+        state.languages.isEdited = state.languages.isEdited || isEdited(model, key);
+    }
 }
 
 }  // namespace
@@ -100,16 +126,39 @@ FieldRowState fieldRow(const AppModel& model, const FieldSpec& field)
     FieldRowState state;
     state.label = field.label;
     state.batch = model.isBatch();
-    state.edited = (state.batch ? model.batchInclude() : model.editedSingle()).contains(field.id);
+    state.edited = isEdited(model, field.id);
     state.removable = model.isRemovableAddedField(field.id);
     if (model.preferences().showNamespace())
         state.namespaceLine = field.namespaceHint;
     if (field.isList())
         addListState(model, field, state);
     else
-        addTextState(model, field, state);
+        addTextState(model, field.id, state);
     if (state.edited)
         state.noteLine = FieldCheck::note(field, state.text);
+    addLanguages(model, field, state);
+    if (!state.batch && !state.edited)
+        state.places = { model.differingHomes(field.id), model.canMakeAgree() };
+    return state;
+}
+
+FieldRowState languageRow(const AppModel& model, const FieldSpec& field, const QString& code, bool isLast)
+{
+    const QString key = FieldLanguages::key(field.id, code);
+    FieldRowState state;
+    state.language = { code, FieldLanguages::label(key), isTakenAway(model, key), isLast };
+    state.label = FieldLanguages::name(code);
+    state.batch = model.isBatch();
+    state.edited = isEdited(model, key);
+    state.removable = true;
+    if (model.preferences().showNamespace())
+        state.namespaceLine = FieldLanguages::tag(key);
+    addTextState(model, key, state);
+    if (state.language.isGone) {
+        state.helpLine.clear();
+        state.noteLine = state.batch ? u"Will be taken away from all %1 photos"_s.arg(model.selection().size())
+                                     : u"Will be taken away"_s;
+    }
     return state;
 }
 

@@ -19,6 +19,8 @@ bool isUnread(const AppModel& model);
 QString readingText(const AppModel& model);
 
 FieldRowState fieldRow(const AppModel& model, const FieldSpec& field);
+/// The text of a field in one further language; `isLast` of those on screen.
+FieldRowState languageRow(const AppModel& model, const FieldSpec& field, const QString& code, bool isLast);
 FieldRowState customRow(const AppModel& model, const CustomValue& custom);
 
 FieldRowState unreadRow(const FieldSpec& field);

@@ -53,7 +53,7 @@ void InspectorView::connectModel()
 {
     for (const auto changed : { &AppModel::selectionChanged, &AppModel::primaryChanged, &AppModel::recordsChanged,
              &AppModel::editsChanged, &AppModel::isSavingChanged, &AppModel::leftEditsChanged,
-             &AppModel::unreadSelectedChanged, &AppModel::isWorkingChanged })
+             &AppModel::unreadSelectedChanged, &AppModel::isWorkingChanged, &AppModel::detailsChanged })
         connect(&m_model, changed, this, &InspectorView::refresh);
     connect(&m_model.preferences(), &Preferences::changed, this, &InspectorView::refresh);
 }

@@ -24,6 +24,7 @@ struct FieldRowParts {
     PlaceProvider* places = nullptr;  ///< not owned; may be null
     std::function<QStringList(const QString& prefix)> completions{};  ///< of keywords, best first
     std::function<QDateTime()> now{};  ///< local time for the button "Now"
+    bool isLanguage = false;  ///< below the row of its field, and less prominent
 };
 
 /// An editor as its row sees it.

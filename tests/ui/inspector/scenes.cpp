@@ -1,8 +1,11 @@
-// Draws the inspector in many situations into PNG files, for looking at: scenes FOLDER [PIXELS].
-// QT_SCALE_FACTOR=2 doubles the pixels; PIXELS is the size of the desktop's font.
+// Draws the inspector in many situations into PNG files, for looking at: scenes FOLDER [PIXELS [rows]].
+// QT_SCALE_FACTOR=2 doubles the pixels; PIXELS is the size of the desktop's font; "rows" draws single rows alone.
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/attached/CodesChip.h"
+#include "ui/controls/attached/MarkButton.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/inspector/FormSection.h"
 #include "ui/sheets/AddFieldSheet.h"
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
@@ -10,6 +13,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
+#include <QVBoxLayout>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -50,6 +54,109 @@ void grabSheet(const std::function<SheetBody*()>& make, const QString& folder, c
     }
 }
 
+// The window with what has dropped down in it.
+void grabWithPopups(QWidget& window, const QString& file)
+{
+    QTest::qWait(250);
+    QPixmap picture = window.grab();
+    QPainter painter(&picture);
+    for (QWidget* popup : QApplication::topLevelWidgets())
+        if (popup->isVisible() && popup->windowType() == Qt::Popup)
+            painter.drawPixmap(window.mapFromGlobal(popup->pos()), popup->grab());
+    painter.end();
+    picture.save(file);
+}
+
+const QString longText =
+    u"© 2024 Mara Lindqvist, all rights reserved. Prints on request. Not to be used in print or on "
+    "screen without asking, in any language and for any purpose, however small it may seem to "
+    "somebody who has not asked; and whoever asks gets an answer within a week."_s;
+
+// Rows as a model would fill them whose photo holds all that is rare.
+QList<FieldRow*> rareRows(QWidget* parent)
+{
+    const auto make = [parent](FieldKind kind, bool isLanguage, const FieldRowState& state) {
+        FieldRowParts parts;
+        parts.kind = kind;
+        parts.isLanguage = isLanguage;
+        auto* row = new FieldRow(parts, parent);
+        row->setState(state, true);
+        return row;
+    };
+    QList<FieldRow*> rows;
+    rows << make(FieldKind::text, false,
+        { .label = u"Title"_s,
+            .text = u"Last light on the lake, and a title so long that it would run under the codes"_s,
+            .languages = { true, { { u"ar"_s }, { u"de"_s }, { u"fr"_s, true } }, true, true } });
+    rows << make(FieldKind::text, true,
+        { .label = u"Arabic"_s, .text = u"الضوء الأخير على البحيرة"_s, .removable = true, .language = { u"ar"_s } });
+    rows << make(FieldKind::text, true,
+        { .label = u"German"_s,
+            .text = u"Letztes Licht am See"_s,
+            .edited = true,
+            .removable = true,
+            .language = { u"de"_s } });
+    rows << make(FieldKind::text, true,
+        { .label = u"French"_s,
+            .edited = true,
+            .removable = true,
+            .noteLine = u"Will be taken away"_s,
+            .language = { u"fr"_s, u"Title (French)"_s, true, true } });
+    rows << make(FieldKind::multiline, false,
+        { .label = u"Description"_s,
+            .text = u"Still water after a clear October day, looking south from the reed bank at Horn. More text."_s,
+            .languages = { true, { { u"de"_s }, { u"en-US"_s }, { u"fr"_s }, { u"zh-Hans"_s } } } });
+    rows << make(FieldKind::keywords, false,
+        { .label = u"Keywords"_s,
+            .items = { u"lake"_s, u"autumn"_s },
+            .places = { { { u"XMP-dc:Subject"_s, { u"lake"_s, u"autumn"_s }, true },
+                { u"IPTC:Keywords"_s, { u"lake"_s, u"autumn"_s, u"evening"_s } } } } });
+    rows << make(FieldKind::text, false,
+        { .label = u"Creator"_s,
+            .text = u"Publisher House"_s,
+            .namespaceLine = u"XMP-dc:Creator"_s,
+            .places = { { { u"XMP-pdf:Author"_s, { u"Publisher House"_s }, true, true },
+                { u"XMP-dc:Creator"_s, { u"Mara Lindqvist"_s } } } } });
+    QList<FieldHome> homes{ { u"XMP-dc:Rights"_s, { u"© 2024 Mara Lindqvist"_s }, true },
+        { u"IPTC:CopyrightNotice"_s, { longText } }, { u"EXIF:Copyright"_s, { u"(c) Lindqvist Studio 2019"_s } },
+        { u"XMP-xmpRights:OneWithAVeryLongTagNameThatDoesNotFitBesideTheButton"_s, { u"حقوق النشر ٢٠٢٤"_s } } };
+    rows << make(FieldKind::text, false,
+        { .label = u"Copyright"_s,
+            .text = u"© 2024 Mara Lindqvist"_s,
+            .languages = { true },
+            .places = { homes, true } });
+    return rows;
+}
+
+void grabRows(const QString& folder)
+{
+    for (const bool dark : { false, true }) {
+        for (const int width : { 300, 520 }) {
+            QWidget window;
+            window.setAutoFillBackground(true);
+            setTheme(&window, dark ? Theme::dark() : Theme::light());
+            auto* column = new QVBoxLayout(&window);
+            column->setContentsMargins(8, 8, 20, 8);
+            auto* section = new FormSection(u"COMMON"_s);
+            column->addWidget(section);
+            column->addStretch();
+            section->setRows(rareRows(section));
+            window.resize(width, 700);
+            window.show();
+            window.activateWindow();
+            QTest::qWait(100);
+            const QString file = u"%1/rows-%2-%3"_s.arg(folder, dark ? u"dark"_s : u"light"_s).arg(width);
+            grabWithPopups(window, file + u".png"_s);
+            const QList<MarkButton*> marks = section->findChildren<MarkButton*>();
+            for (qsizetype i = 0; i < marks.size(); ++i) {
+                marks.at(i)->click();
+                grabWithPopups(window, file + u"-places%1.png"_s.arg(i));
+                QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+            }
+        }
+    }
+}
+
 const QStringList lake{ u"-XMP-dc:Title=Evening by the lake"_s,
     u"-XMP-dc:Description=Still water after a clear October day, looking south from the reed bank at Horn."_s,
     u"-EXIF:DateTimeOriginal=2024:10:12 17:48:00"_s, u"-IPTC:Keywords=lake"_s, u"-IPTC:Keywords=autumn"_s,
@@ -72,6 +179,9 @@ int main(int argc, char** argv)
         font.setPixelSize(pixels);
         QApplication::setFont(font);
     }
+    grabRows(folder);
+    if (app.arguments().value(3) == u"rows"_s)
+        return 0;
     InspectorFixture f;
     f.add(u"IMG_4021.jpg"_s, lake);
     f.add(u"IMG_4022.jpg"_s, { u"-XMP-dc:Creator=Mara Lindqvist"_s, u"-XMP-dc:Title=Other"_s });

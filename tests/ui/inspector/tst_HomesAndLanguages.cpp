@@ -1,0 +1,283 @@
+// Rows of fields whose places disagree, and of fields with further languages, as a person uses them.
+#include "tests/ui/UiSupport.h"
+#include "tests/ui/inspector/InspectorFixture.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/SelectableText.h"
+#include "ui/controls/attached/CodesChip.h"
+#include "ui/controls/attached/MarkButton.h"
+#include "ui/inspector/FormSection.h"
+#include "ui/inspector/HomeRow.h"
+#include "ui/inspector/HomesPopover.h"
+
+#include <QScrollBar>
+#include <QSignalSpy>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const FieldHome rights{ u"XMP-dc:Rights"_s, { u"© 2024 Mara"_s }, true };
+const FieldHome notice{ u"IPTC:CopyrightNotice"_s, { u"© 2024 Mara, all rights reserved"_s } };
+const FieldHome studio{ u"EXIF:Copyright"_s, { u"(c) Studio 2019"_s } };
+const FieldHome author{ u"XMP-pdf:Author"_s, { u"House"_s }, true, true };
+const FieldHome subjects{ u"XMP-dc:Subject"_s, { u"lake"_s, u"autumn"_s } };
+
+// A form with a field above and one below the row that is looked at.
+class OneRow {
+public:
+    explicit OneRow(const FieldRowState& state, FieldKind kind = FieldKind::text)
+        : section(m_stage.add(new FormSection(u"COMMON"_s)))
+        , above(new FieldRow({}, section))
+        , row(new FieldRow({ kind }, section))
+    {
+        row->setState(state, true);
+        section->setRows({ above, row });
+        m_stage.show();
+        settle();
+    }
+
+    static void settle()
+    {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+    template <typename Widget>
+    Widget* shown() const
+    {
+        auto* found = row->findChild<Widget*>();
+        return found && found->isVisible() ? found : nullptr;
+    }
+    HomesPopover* openPlaces() const
+    {
+        QTest::mouseClick(shown<MarkButton>(), Qt::LeftButton);
+        return qobject_cast<HomesPopover*>(QApplication::activePopupWidget());
+    }
+    QWidget* window() { return m_stage.window(); }
+
+private:
+    Stage m_stage;
+
+public:
+    FormSection* section;
+    FieldRow* above;
+    FieldRow* row;
+};
+
+FieldRowState copyright(const QList<FieldHome>& homes, bool canAgree = false)
+{
+    return { .label = u"Copyright"_s, .text = u"© 2024 Mara"_s, .places = { homes, canAgree } };
+}
+
+void press(std::initializer_list<Qt::Key> keys)
+{
+    for (const Qt::Key key : keys) {
+        QWidget* popup = QApplication::activePopupWidget();
+        QTest::keyClick(popup && popup->focusWidget() ? popup->focusWidget() : QApplication::focusWidget(), key);
+    }
+}
+
+}  // namespace
+
+class tst_HomesAndLanguages : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void theMarkSaysHowManyDiffer_data();
+    void theMarkSaysHowManyDiffer();
+    void placesAreChosenByKeys_data();
+    void placesAreChosenByKeys();
+    void placesAreChosenByMouse();
+    void thePopoverStaysInTheWindow_data();
+    void thePopoverStaysInTheWindow();
+    void aLongValueScrolls();
+    void theMarkGivesTheKeyboardBack();
+    void theMarkLeavesTheOtherLinesReadable();
+};
+
+void tst_HomesAndLanguages::theMarkSaysHowManyDiffer_data()
+{
+    QTest::addColumn<QList<FieldHome>>("homes");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("none") << QList<FieldHome>() << QString();
+    QTest::newRow("one") << QList{ rights, notice } << u"1 of 2 places differs"_s;
+    QTest::newRow("two") << QList{ rights, notice, studio } << u"2 of 3 places differ"_s;
+    QTest::newRow("of another standard") << QList{ author, studio }
+                                         << u"1 of 2 places differs, another standard’s is shown"_s;
+}
+
+void tst_HomesAndLanguages::theMarkSaysHowManyDiffer()
+{
+    QFETCH(QList<FieldHome>, homes);
+    QFETCH(QString, text);
+    const OneRow form(copyright(homes));
+    const auto* mark = form.shown<MarkButton>();
+    QCOMPARE(mark != nullptr, !homes.isEmpty());
+    if (!mark)
+        return;
+    QCOMPARE(mark->text(), text);
+    const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(const_cast<MarkButton*>(mark));
+    QCOMPARE(told->text(QAccessible::Name), u"Copyright: "_s + text);
+    QCOMPARE(told->role(), QAccessible::Button);
+    QVERIFY(form.row->tabStops().contains(mark));
+}
+
+void tst_HomesAndLanguages::placesAreChosenByKeys_data()
+{
+    QTest::addColumn<QList<Qt::Key>>("keys");
+    QTest::addColumn<QString>("used");
+    QTest::addColumn<bool>("open");
+    QTest::newRow("the first that is not shown") << QList{ Qt::Key_Return } << notice.tag << false;
+    QTest::newRow("down") << QList{ Qt::Key_Down, Qt::Key_Return } << studio.tag << false;
+    QTest::newRow("not beyond the last") << QList{ Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return }
+                                         << studio.tag << false;
+    QTest::newRow("the shown one") << QList{ Qt::Key_Up, Qt::Key_Return } << QString() << true;
+    QTest::newRow("tab goes on to the foot")
+        << QList{ Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return } << u"agree"_s << false;
+    QTest::newRow("leave") << QList{ Qt::Key_Down, Qt::Key_Escape } << QString() << false;
+}
+
+void tst_HomesAndLanguages::placesAreChosenByKeys()
+{
+    QFETCH(QList<Qt::Key>, keys);
+    const OneRow form(copyright({ rights, notice, studio }, true));
+    QString used;
+    connect(form.row, &FieldRow::homeUsed, form.row, [&used](const FieldHome& home) { used = home.tag; });
+    connect(form.row, &FieldRow::agreeAsked, form.row, [&used] { used = u"agree"_s; });
+    auto* mark = form.shown<MarkButton>();
+    mark->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(mark, Qt::Key_Return);
+    QVERIFY(QApplication::activePopupWidget());
+    for (const Qt::Key key : keys)
+        press({ key });
+    QTEST(used, "used");
+    QTEST(QApplication::activePopupWidget() != nullptr, "open");
+    if (keys.constLast() == Qt::Key_Escape)
+        QVERIFY(mark->hasFocus());
+    else if (!used.isEmpty() && used != u"agree"_s)
+        QVERIFY(form.row->input()->hasFocus());
+}
+
+void tst_HomesAndLanguages::placesAreChosenByMouse()
+{
+    OneRow form(copyright({ rights, author, subjects }));
+    QSignalSpy used(form.row, &FieldRow::homeUsed);
+    HomesPopover* places = form.openPlaces();
+    QVERIFY(places);
+    const QStringList texts = labels(places);
+    QVERIFY2(
+        texts.contains(u"Belongs to another standard: read here, and never written"_s), qPrintable(texts.join(u'|')));
+    QCOMPARE(places->rows().at(2)->findChild<SelectableText*>()->toPlainText(), u"lake · autumn"_s);
+    QVERIFY(!button(places->rows().at(0), u"Use this one"_s));
+    QVERIFY(!button(places->rows().at(1), u"Use this one"_s));
+    QVERIFY(!button(places, u"Make them agree"_s));
+    const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(places->rows().at(2));
+    QCOMPARE(told->role(), QAccessible::ListItem);
+    QCOMPARE(told->text(QAccessible::Description), u"lake, autumn, Return uses this one"_s);
+    click(button(places->rows().at(2), u"Use this one"_s));
+    QCOMPARE(used.size(), 1);
+    QCOMPARE(used.at(0).at(0).value<FieldHome>(), subjects);
+    // A click beside it closes it.
+    places = form.openPlaces();
+    QTest::mouseClick(places, Qt::LeftButton, {}, QPoint(-5, -5));
+    QVERIFY(!QApplication::activePopupWidget());
+    // What is shown may change while it is open, and go.
+    places = form.openPlaces();
+    form.row->setState(copyright({ rights, studio }), false);
+    QCOMPARE(places->rows().size(), 2);
+    form.row->setState(copyright({}), false);
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+void tst_HomesAndLanguages::thePopoverStaysInTheWindow_data()
+{
+    QTest::addColumn<int>("above");  // pixels over the row
+    QTest::addColumn<int>("homes");
+    QTest::addColumn<bool>("flips");
+    QTest::newRow("below") << 0 << 3 << false;
+    QTest::newRow("over") << 250 << 3 << true;
+    QTest::newRow("more than there is room for") << 30 << 20 << false;
+}
+
+void tst_HomesAndLanguages::thePopoverStaysInTheWindow()
+{
+    QFETCH(int, above);
+    QFETCH(int, homes);
+    QFETCH(bool, flips);
+    QList<FieldHome> many{ rights };
+    while (many.size() < homes)
+        many.append({ u"IPTC:Tag%1"_s.arg(many.size()), { u"Something else"_s } });
+    OneRow form(copyright(many, true));
+    form.above->setFixedHeight(qMax(30, above));
+    form.settle();
+    HomesPopover* places = form.openPlaces();
+    const QRect box = places->box().translated(form.window()->mapFromGlobal(places->pos()));
+    QVERIFY2(form.window()->rect().contains(box), qPrintable(u"%1 to %2"_s.arg(box.top()).arg(box.bottom())));
+    const QWidget* input = form.row->input();
+    QCOMPARE(box.left(), input->mapTo(form.window(), QPoint()).x());
+    QCOMPARE(box.width(), input->width());
+    const int field = input->mapTo(form.window(), QPoint()).y();
+    QCOMPARE(box.bottom() < field, flips);
+    QCOMPARE(box.top() > field + input->height(), !flips);
+    for (int i = 0; i < homes; ++i)
+        press({ Qt::Key_Down });
+    const HomeRow* last = places->rows().constLast();
+    QVERIFY(last->hasFocus());
+    QCOMPARE(last->visibleRegion().boundingRect(), last->rect());
+    places->close();
+}
+
+void tst_HomesAndLanguages::aLongValueScrolls()
+{
+    const FieldHome longer{ u"IPTC:CopyrightNotice"_s, { u"All rights reserved, and more. "_s.repeated(20) } };
+    const OneRow form(copyright({ rights, longer, studio }));
+    HomesPopover* places = form.openPlaces();
+    auto* value = places->rows().at(1)->findChild<SelectableText*>();
+    const int line = value->fontMetrics().height();
+    QVERIFY2(
+        value->height() > 3 * line && value->height() < 4 * line + 2, qPrintable(QString::number(value->height())));
+    QCOMPARE(value->verticalScrollBar()->value(), 0);
+    for (int i = 0; i < 10; ++i)
+        press({ Qt::Key_PageDown });
+    QVERIFY(value->verticalScrollBar()->value() > 0);
+    QCOMPARE(value->verticalScrollBar()->value(), value->verticalScrollBar()->maximum());
+    places->close();
+}
+
+void tst_HomesAndLanguages::theMarkGivesTheKeyboardBack()
+{
+    const OneRow form(copyright({ rights, notice }));
+    auto* mark = form.shown<MarkButton>();
+    // While one types elsewhere, it comes and goes without a word.
+    form.above->input()->setFocus();
+    form.row->setState(copyright({}), false);
+    form.row->setState(copyright({ rights, studio }), false);
+    QVERIFY(form.above->input()->hasFocus());
+    QVERIFY(mark->isVisible());
+    mark->setFocus();
+    form.row->setState(copyright({}), false);
+    QVERIFY(!mark->isVisible());
+    QVERIFY(form.row->input()->hasFocus());
+}
+
+void tst_HomesAndLanguages::theMarkLeavesTheOtherLinesReadable()
+{
+    FieldRowState state = copyright({ rights, notice });
+    state.noteLine = u"This is no date"_s;
+    state.namespaceLine = u"XMP-dc:Rights"_s;
+    state.helpLine = u"Will be written to all 3 photos"_s;
+    const OneRow form(state);
+    QList<QWidget*> lines{ form.row->input(), form.shown<MarkButton>() };
+    for (QLabel* label : form.row->findChildren<QLabel*>())
+        if (label->isVisible() && label->text() != u"Copyright"_s)
+            lines.append(label);
+    QCOMPARE(lines.size(), 5);
+    for (qsizetype i = 1; i < lines.size(); ++i)
+        QVERIFY2(lines.at(i)->y() > lines.at(i - 1)->geometry().bottom(), qPrintable(QString::number(i)));
+    QVERIFY(form.row->height() > lines.constLast()->geometry().bottom());
+}
+
+QTEST_MAIN(tst_HomesAndLanguages)
+#include "tst_HomesAndLanguages.moc"
