@@ -12,7 +12,9 @@ namespace Quorbel {
 
 /// One place in which a field may stand, and what it holds there.
 struct FieldHome {
-    QString tag{};  ///< as it is written: "XMP-dc:Rights", "IPTC:CopyrightNotice"
+    /// As it is written: "XMP-dc:Rights", "IPTC:CopyrightNotice"; of a position "EXIF:GPSLatitude · GPSLongitude", of a
+    /// date in two tags that of the day.
+    QString tag{};
     QStringList values{};  ///< in the form in which the field is shown and edited; one, but of lists
     bool isShown = false;  ///< holds what the record shows
     /// A tag of another standard that ExifTool takes for the field's own: it is read, but never written.

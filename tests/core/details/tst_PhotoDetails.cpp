@@ -1,4 +1,5 @@
 // What the details run finds in photos that the real tool made: one run reads all of them.
+#include "core/details/Disagreements.h"
 #include "core/details/HomeComparison.h"
 #include "core/schema/FieldSchema.h"
 #include "tests/support/RealService.h"
@@ -224,11 +225,11 @@ private slots:
         QList<QUrl> urls;
         for (const Row& row : rows())
             urls.append(m_folder.url(fileName(row)));
-        // Read as the city of the photo where it holds no other one.
+        // Read as the city of the photo where it holds no other one, and as a failure of the tool.
         const QUrl own = m_folder.add(u"own.jpg"_s);
         exiftool({ u"-q"_s, u"-overwrite_original"_s, u"-IPTC:City=Rome"_s, own.toLocalFile() });
-        realService().write({ .customs = { { u"City"_s, u"Mine"_s } } }, { own }, {});
-        m_details = realService().details(realService().read(urls << own));
+        realService().write({ .customs = { { u"City"_s, u"Mine"_s }, { u"Error"_s, u"Mine"_s } } }, { own }, {});
+        m_details = realService().details(realService().readEach(urls << own).records);
     }
 
     void differencesAreReal_data()
@@ -295,6 +296,31 @@ private slots:
         const HomeComparison::Held other{ .tag = u"XMP-photoshop:Headline"_s, .items = { shown } };
         QTEST(HomeComparison::isSame(*spec, home, other), "isSame");
         QTEST(HomeComparison::isSame(*spec, other, home), "isSame");
+    }
+
+    // What a photo of another type cannot hold, or what was read before, is none of its homes.
+    void theRecordTellsWhatIsShown_data()
+    {
+        QTest::addColumn<QString>("fileType");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QStringList>("places");
+        const QString xmp = u"XMP-dc:Title=A"_s;
+        const QString iptc = u"IPTC:ObjectName=B"_s;
+        QTest::newRow("a JPEG") << u"JPEG"_s << u"A"_s << QStringList{ u"*"_s + xmp, iptc };
+        QTest::newRow("no room for IPTC") << u"Extended WEBP"_s << u"A"_s << QStringList();
+        QTest::newRow("an older record") << u"JPEG"_s << u"C"_s << QStringList{ u"*"_s + xmp, iptc };
+        QTest::newRow("a namesake's") << u"JPEG"_s << u"D"_s << QStringList{ u"*F XMP-nine:Title=D"_s, xmp, iptc };
+    }
+    void theRecordTellsWhatIsShown()
+    {
+        QFETCH(QString, fileType);
+        QFETCH(QString, title);
+        ImageRecord record;
+        record.fileType = fileType;
+        record.values.insert(u"title"_s, title);
+        const JSONObject tags{ { u"XMP-dc:Title"_s, u"A"_s }, { u"XMP-nine:Title"_s, u"D"_s },
+            { u"IPTC:ObjectName"_s, u"B"_s } };
+        QTEST(texts(Disagreements::of(record, tags).value(u"title"_s)), "places");
     }
 
     void languagesAndPathsAreFound()
