@@ -36,8 +36,9 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
     , m_cache(cacheFor(m_services))
     , m_library(m_announcer, m_tasks, m_services.service, m_preferences.sortOrder(), m_cache)
     , m_selected(m_announcer, m_library.photos())
+    , m_selectedDetails(m_library.photos(), m_selected, [this](const QUrl& photo) { return details(photo); })
     , m_left(m_announcer, m_services.leftEditsPath, m_services.keepInterval)
-    , m_editing(m_announcer, m_library.photos(), m_selected, m_left)
+    , m_editing(m_announcer, m_library.photos(), m_selected, m_selectedDetails, m_left)
     , m_saving(m_announcer, m_tasks, m_library.refresh(), m_services.service, m_services.journalPath,
           m_services.stallInterval, m_cache)
 {
@@ -73,6 +74,11 @@ void AppModel::connectParts()
     connect(&refresh, &FolderRefresh::added, this, &AppModel::selectWhereNone);
     connect(this, &AppModel::selectionChanged, this, &AppModel::updateUnread);
     connect(this, &AppModel::recordsChanged, this, &AppModel::updateUnread);
+    connect(this, &AppModel::detailsChanged, this, [this] {
+        m_selectedDetails.forget();
+        m_editing.takeDetails();
+        goOnAgreeing();
+    });
     connect(this, &AppModel::primaryChanged, this, [this] {
         m_library.setFirst(primary());
         if (m_renameOpen && primary() != m_renamed)
@@ -191,6 +197,8 @@ void AppModel::cancelRead()
     const Announcer::Together together(m_announcer);
     m_library.cancelReads();
     giveUpAwaited();
+    if (m_agreeing && !m_agreeing->isAsking)
+        m_agreeing.reset();
 }
 
 void AppModel::openPanel()
@@ -339,6 +347,7 @@ void AppModel::takeRead(const QList<QUrl>& photos)
             m_awaited->unread.remove(photo);
         saveAwaited();
     }
+    goOnAgreeing();
     if (m_toBringBack && unreadOf(m_toBringBack->edits.subjects).isEmpty())
         bringBack(*std::exchange(m_toBringBack, std::nullopt));
 }

@@ -127,7 +127,8 @@ public:
     const QList<CustomValue>& batchCustoms() const { return editing().batch().edits.customs; }
     QMap<QString, QStringList> nonEmptyBatchLists() const;
     /// The scalar value that all selected photos share ("" when none holds one); nothing when they differ.
-    std::optional<QString> sharedValue(const QString& id) const { return selected().sharedValue(id); }
+    /// Of a text in a further language nothing, too, before all of them were looked at.
+    std::optional<QString> sharedValue(const QString& id) const { return selectedDetails().sharedValue(id); }
     /// The same for a custom field.
     std::optional<QString> sharedCustom(const QString& name) const { return selected().sharedCustom(name); }
     /// Whether a field of one value holds nothing but blanks now, in the draft or the batch. One whose photos differ
@@ -185,25 +186,38 @@ public:
     /// Codes of the languages in which this field of the selected photos is on screen beside its own text, ascending:
     /// those that some of them hold, and those that were added since the selection. Their texts are fields of their
     /// own, under FieldLanguages::key(), in drafts, batches and shared values.
-    QStringList languages(const QString& id) const;
+    QStringList languages(const QString& id) const { return editing().languages(id); }
     /// Shows an empty text in this language, or brings back one that was taken away.
-    void addLanguage(const QString& id, const QString& code);
+    void addLanguage(const QString& id, const QString& code) { editing().addLanguage(id, code); }
     /// Takes the language away from the selected photos with the next save; one that was only added, at once.
-    void removeLanguage(const QString& id, const QString& code);
+    void removeLanguage(const QString& id, const QString& code) { editing().removeLanguage(id, code); }
     /// Paths of this keyword in the selected photos, those that were typed and not saved yet among them.
-    QStringList pathsOf(const QString& keyword) const;
+    QStringList pathsOf(const QString& keyword) const { return editing().pathsOf(keyword); }
+    /// Those that were typed and not saved yet, of all keywords.
+    const QStringList& typedPaths() const { return editing().typedPaths(); }
     /// Paths known from the open photos whose keyword begins with the text (any case); at most `limit`.
     QStringList pathCompletions(const QString& prefix, int limit) const;
     /// Where the homes of a field of the one selected photo disagree: what each holds, the shown one first. None where
     /// they agree, where that is not known, and while the field is edited.
-    QList<FieldHome> differingHomes(const QString& id) const;
-    /// Makes what this home holds an edit of the one selected photo.
-    void useHome(const QString& id, const FieldHome& home);
+    QList<FieldHome> differingHomes(const QString& id) const { return editing().differingHomes(id); }
+    /// Makes what this home holds an edit of the one selected photo, even where that is what is shown: then the others
+    /// are to hold it, too.
+    void useHome(const QString& id, const FieldHome& home) { editing().useHome(id, home); }
     /// How many of the selected photos are known to have homes that disagree.
-    int selectedDisagreements() const;
+    int selectedDisagreements() const { return selectedDetails().disagreeing(); }
+    /// Not where all is known, and nothing is to be written: what another standard's tag says stays.
     bool canMakeAgree() const;
-    /// Writes the shown values of the selected photos to all homes of their fields that disagree, after a question.
+    /// Writes the shown values of the selected photos to all homes of their fields that disagree, after a question. Of
+    /// photos that were not looked at yet it looks at them before.
     void requestMakeAgree();
+    /// What the save dialog asks about then.
+    struct AgreementQuestion {
+        int photos = 0;  ///< that would be written
+        QMap<QString, int> fields{};  ///< of so many of them, by id
+        bool operator==(const AgreementQuestion&) const = default;
+    };
+    /// Nothing while the dialog, if it is open, asks about edits.
+    std::optional<AgreementQuestion> agreementQuestion() const;
     /// Of the open photos.
     struct Disagreements {
         qsizetype photos = 0;  ///< that have homes that disagree
@@ -321,6 +335,7 @@ private:
     const PhotoList& photos() const { return library().photos(); }
     PhotoList& photos() { return checked(m_library).photos(); }
     const SelectedPhotos& selected() const { return checked(m_selected); }
+    const SelectedDetails& selectedDetails() const { return checked(m_selectedDetails); }
     const Editing& editing() const { return checked(m_editing); }
     Editing& editing() { return checked(m_editing); }
     const RunningTasks& tasks() const { return checked(m_tasks); }
@@ -357,6 +372,10 @@ private:
     void tellWritten(const SaveOutcome& outcome);
     void noteRead(const QList<ImageRecord>& fresh);
     void takeUndone(const SaveOutcome& outcome);
+    // Homes that disagree
+    void goOnAgreeing();
+    QHash<QUrl, EditPlan> agreements() const;
+    void makeAgree(const QHash<QUrl, EditPlan>& plans);
     // Renaming
     QMap<QString, QString> renameValues(const ImageRecord& record) const;
     QString renderedBase(const ImageRecord& record) const;
@@ -370,6 +389,7 @@ private:
     std::shared_ptr<RecordCache> m_cache;
     Library m_library;
     SelectedPhotos m_selected;
+    SelectedDetails m_selectedDetails;
     LeftBehind m_left;
     Editing m_editing;
     Saving m_saving;
@@ -388,6 +408,13 @@ private:
         QSet<QUrl> unread{};
     };
     std::optional<Awaited> m_awaited;
+    /// Photos whose homes are to agree.
+    struct Agreeing {
+        QList<QUrl> photos{};
+        bool isAsking = false;  ///< the save dialog is about them
+        bool isConfirmed = false;
+    };
+    std::optional<Agreeing> m_agreeing;
     int m_unreadSelected = 0;  ///< as it was last told
     bool m_saveOpen = false;
     bool m_addOpen = false;

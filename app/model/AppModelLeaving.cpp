@@ -59,6 +59,8 @@ void AppModel::changeSelection(const Selection& next)
 void AppModel::commitSelection(const Selection& next)
 {
     m_lastSaveFailed = false;
+    if (next.photos != selection())
+        m_agreeing.reset();
     m_editing.leave();
     m_editing.select(next);
 }

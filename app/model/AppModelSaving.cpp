@@ -5,12 +5,27 @@ namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// The lists that were on screen: the record's own, and what other homes held when one was taken for all.
+ListHomes::SeenLists seenIn(const ImageRecord& record, const Edits& edits)
+{
+    ListHomes::SeenLists seen = record.lists;
+    for (auto items = edits.givenUp.cbegin(); items != edits.givenUp.cend(); ++items)
+        seen[items.key()] += *items;
+    return seen;
+}
+
+}  // namespace
+
 void AppModel::setSaveOpen(bool open)
 {
     requireMainThread("setSaveOpen");
     // A sheet that closes itself after an answer says so too: then it is no cancel any more.
-    if (!open && m_saveOpen)
+    if (!open && m_saveOpen) {
         dropWaiting();
+        m_agreeing.reset();
+    }
     m_announcer.assign(m_saveOpen, open, Change::saveOpen);
 }
 
@@ -42,6 +57,11 @@ void AppModel::confirmSaveDialog()
 {
     requireMainThread("confirmSaveDialog");
     m_announcer.assign(m_saveOpen, false, Change::saveOpen);
+    if (m_agreeing && m_agreeing->isAsking) {
+        m_agreeing->isAsking = false;
+        m_agreeing->isConfirmed = true;
+        return goOnAgreeing();
+    }
     // What waits is asked for again when the running save ends, and saves then.
     if (!isSaving())
         save();
@@ -50,6 +70,8 @@ void AppModel::confirmSaveDialog()
 void AppModel::discardSaveDialog()
 {
     requireMainThread("discardSaveDialog");
+    if (m_agreeing && m_agreeing->isAsking)
+        return cancelSaveDialog();
     {
         const Announcer::Together together(m_announcer);
         m_announcer.assign(m_saveOpen, false, Change::saveOpen);
@@ -91,7 +113,7 @@ void AppModel::beginSave(const Edits& edits, const QStringList& leftOut)
     if (!edits.lists.isEmpty())
         for (const QUrl& photo : edits.subjects)
             if (const ImageRecord* record = photos().record(photo))
-                seen.insert(photo, record->lists);
+                seen.insert(photo, seenIn(*record, edits));
     if (onWriteBegins)
         onWriteBegins(edits.subjects);
     m_saving.save(edits, { m_preferences.backupOriginals(), m_preferences.writeSidecar(), leftOut }, seen);

@@ -5,6 +5,7 @@
 
 #include "core/save/EditPlan.h"
 #include "core/save/ExternalRefresh.h"
+#include "core/schema/PhotoDetails.h"
 
 namespace Quorbel {
 
@@ -15,7 +16,11 @@ struct Edits {
     QMap<QString, QStringList> lists{};  ///< field id to the items that replace each photo's own
     QMap<QString, QStringList>
         added{};  ///< field id to items that each photo's own list gains; an empty list is no edit
-    QStringList paths{};  ///< keyword paths that the photos gain, beside the keywords that they lead to
+    /// Keyword paths that the photos gain, beside the keywords that they lead to: an edit of the keywords.
+    QStringList paths{};
+    /// Field id to items that only other homes than the shown one held when one home's list was taken for all: they
+    /// leave the photo with the list that replaces them.
+    QMap<QString, QStringList> givenUp{};
     QList<CustomValue> customs{};  ///< in the order in which they were first edited, one a name
     QList<QUrl> subjects{};  ///< the photos; none: whichever photos one likes
 
@@ -33,12 +38,21 @@ struct Edits {
     /// What is still unsaved after a save of `saved`: what was typed since it began, and the fields of which the files
     /// hold something else (`differing`, by key).
     Edits minus(const Edits& saved, const QSet<QString>& differing) const;
-    /// The same for this photo alone: items to add become its whole list, and what it holds already is no edit.
-    Edits foldedInto(const ImageRecord& photo) const;
+    /// The same for this photo alone: items to add become its whole list, and what it holds already is no edit. Texts
+    /// in further languages, and paths, that it may hold stay edits where its details are not known.
+    Edits foldedInto(const ImageRecord& photo, const PhotoDetails* details = nullptr) const;
     /// What one sees of the photo: its contents with these edits laid over them.
-    ExternalRefresh::Drafts onto(const ImageRecord& photo) const;
+    ExternalRefresh::Drafts onto(const ImageRecord& photo, const QMap<QString, QString>& languages = {}) const;
     /// These edits, and over them the other ones; the subjects stay.
     Edits merged(const Edits& other) const;
+
+    /// Without what goes with a keyword that is no longer among those to be written: its paths.
+    void dropStrayPaths();
+    /// A photo that gains a path has the keyword that it leads to: where it is not among those that it holds, it is
+    /// gained, too.
+    void addKeywordsOfPaths(const QStringList& held);
+    /// Nothing of this field is edited any more, in no language.
+    void forget(const QString& id);
 
     bool operator==(const Edits&) const = default;
 };

@@ -1,7 +1,9 @@
 #include "core/save/LeftEdits.h"
 
 #include "core/schema/CustomFields.h"
+#include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
+#include "core/schema/KeywordPath.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -44,6 +46,17 @@ QStringList changedAlike(const QStringList& held, const QStringList& wanted, con
     return list;
 }
 
+// Those of a field among these keys: its own first, then its languages by their names.
+QStringList labelsOf(const FieldSpec& field, const QSet<QString>& keys)
+{
+    QStringList languages;
+    for (const QString& key : keys)
+        if (const auto language = FieldLanguages::languageIn(key); language && language->field->id == field.id)
+            languages.append(FieldLanguages::label(key));
+    languages.sort();
+    return keys.contains(field.id) ? QStringList(field.label) + languages : languages;
+}
+
 // --- JSON ---
 
 constexpr int version = 1;
@@ -82,8 +95,10 @@ QJsonObject toJson(const LeftEdits& left)
     for (const CustomValue& custom : left.edits.customs)
         customs.append(QJsonObject{ { u"name"_s, custom.name }, { u"value"_s, custom.value } });
     return { { u"photos"_s, toJson(left.edits.subjects) }, { u"scalars"_s, toJson(left.edits.scalars) },
-        { u"lists"_s, toJson(left.edits.lists) }, { u"added"_s, toJson(left.edits.added) }, { u"customs"_s, customs },
-        { u"held"_s, toJson(left.heldLists) }, { u"leftAt"_s, left.leftAt } };
+        { u"lists"_s, toJson(left.edits.lists) }, { u"added"_s, toJson(left.edits.added) },
+        { u"paths"_s, QJsonArray::fromStringList(left.edits.paths) }, { u"givenUp"_s, toJson(left.edits.givenUp) },
+        { u"customs"_s, customs }, { u"held"_s, toJson(left.heldLists) },
+        { u"confirmed"_s, QJsonArray::fromStringList(left.confirmed) }, { u"leftAt"_s, left.leftAt } };
 }
 
 QMap<QString, QString> textsFrom(const QJsonValue& value)
@@ -119,11 +134,16 @@ QList<QUrl> photosFrom(const QJsonValue& value)
 
 LeftEdits leftFrom(const QJsonValue& value)
 {
-    LeftEdits left{ .heldLists = listsFrom(value[u"held"_s]), .leftAt = value[u"leftAt"_s].toInteger() };
+    LeftEdits left{ .heldLists = listsFrom(value[u"held"_s]),
+        .confirmed = value[u"confirmed"_s].toVariant().toStringList(),
+        .leftAt = value[u"leftAt"_s].toInteger() };
     left.edits = { .scalars = textsFrom(value[u"scalars"_s]),
         .lists = listsFrom(value[u"lists"_s]),
         .added = listsFrom(value[u"added"_s]),
+        .paths = value[u"paths"_s].toVariant().toStringList(),
+        .givenUp = listsFrom(value[u"givenUp"_s]),
         .subjects = photosFrom(value[u"photos"_s]) };
+    left.edits.paths.removeIf([](const QString& path) { return KeywordPath::elements(path).size() < 2; });
     for (const auto& custom : value[u"customs"_s].toArray())
         if (const QString name = custom[u"name"_s].toString(); !name.isEmpty())
             CustomFields::put(left.edits.customs, { name, custom[u"value"_s].toString() });
@@ -132,13 +152,20 @@ LeftEdits leftFrom(const QJsonValue& value)
 
 }  // namespace
 
-Edits LeftEdits::rebasedOnto(const ImageRecord& photo) const
+Edits LeftEdits::rebasedOnto(const ImageRecord& photo, const PhotoDetails* details) const
 {
     Edits rebased = edits;
     for (auto list = rebased.lists.begin(); list != rebased.lists.end(); ++list)
         if (heldLists.contains(list.key()))
             *list = changedAlike(heldLists.value(list.key()), *list, photo.lists.value(list.key()));
-    return rebased.foldedInto(photo);
+    Edits folded = rebased.foldedInto(photo, details);
+    for (const QString& key : confirmed) {
+        if (rebased.scalars.contains(key))
+            folded.scalars.insert(key, rebased.scalars.value(key));
+        if (rebased.lists.contains(key))
+            folded.lists.insert(key, rebased.lists.value(key));
+    }
+    return folded;
 }
 
 QString LeftEdits::names() const
@@ -154,8 +181,7 @@ QString LeftEdits::fields() const
     const QSet<QString> keys = edits.keys();
     QStringList labels;
     for (const FieldSpec& field : FieldSchema::all())
-        if (keys.contains(field.id))
-            labels.append(field.label);
+        labels.append(labelsOf(field, keys));
     labels.append(CustomFields::names(edits.customs));
     return enumerated(labels.mid(0, namedFields), labels.size());
 }

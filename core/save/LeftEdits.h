@@ -10,12 +10,14 @@ struct LeftEdits {
     Edits edits{};  ///< some, of one photo or more
     /// Of one photo: what it held then in the lists that the edits replace.
     QMap<QString, QStringList> heldLists{};
+    /// Of one photo: keys of edits that are what it showed then, made to say that it is right.
+    QStringList confirmed{};
     bool returns = false;  ///< put back without being asked for when just their photos are selected
     qint64 leftAt = 0;  ///< milliseconds since 1970, UTC
 
     /// The photo's edits as it is now: items that it gained since stay, items that it lost stay away, and what it holds
-    /// already is no edit.
-    Edits rebasedOnto(const ImageRecord& photo) const;
+    /// already is no edit but where it was one then.
+    Edits rebasedOnto(const ImageRecord& photo, const PhotoDetails* details = nullptr) const;
     /// Their photos: "a.jpg, b.jpg and 3 more".
     QString names() const;
     /// Their fields as people read them: "Title, Keywords and 2 more".

@@ -2,6 +2,9 @@
 
 #include "app/model/AppModel.h"
 #include "core/schema/FieldCheck.h"
+#include "core/schema/FieldID.h"
+#include "core/schema/FieldLanguages.h"
+#include "core/schema/KeywordPath.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/ScrollArea.h"
@@ -42,12 +45,20 @@ bool isSingle(const AppModel& model)
     return model.selection().size() == 1;
 }
 
+QString photosText(int count)
+{
+    return count == 1 ? u"1 photo"_s : u"%1 photos"_s.arg(count);
+}
+
 QString titleText(const AppModel& model)
 {
+    const auto question = model.agreementQuestion();
     if (!isSingle(model))
-        return u"Apply changes to %1 photos?"_s.arg(model.selection().size());
+        return question ? u"Make %1 agree?"_s.arg(photosText(question->photos))
+                        : u"Apply changes to %1 photos?"_s.arg(model.selection().size());
     const ImageRecord* record = model.primaryRecord();
-    return u"Save changes to “"_s + (record ? record->fileName : QString()) + u"”?"_s;
+    return (question ? u"Make “"_s : u"Save changes to “"_s) + (record ? record->fileName : QString())
+        + (question ? u"” agree?"_s : u"”?"_s);
 }
 
 // The scalar fields among `ids`, by id.
@@ -60,13 +71,42 @@ QList<ChangeLine> scalarLines(const QSet<QString>& ids, const QMap<QString, QStr
         if (const FieldSpec* field = FieldSchema::spec(id); field && !field->isList()) {
             const QString value = values.value(id);
             lines.append({ field->label, u'“' + value + u'”', FieldCheck::note(*field, value) });
+        } else if (const QString label = FieldLanguages::label(id); !label.isEmpty()) {
+            lines.append({ label, u'“' + values.value(id) + u'”', {} });
         }
+    return lines;
+}
+
+// Keywords that were typed with their parents, with these.
+QStringList shownItems(const AppModel& model, const QString& id, const QStringList& items)
+{
+    QStringList shown;
+    for (const QString& item : items) {
+        QStringList paths = id == FieldID::keywords ? model.typedPaths() : QStringList();
+        paths.removeIf([&item](const QString& path) { return KeywordPath::keyword(path) != item; });
+        if (paths.isEmpty())
+            shown.append(item);
+        for (const QString& path : std::as_const(paths))
+            shown.append(KeywordPath::shown(path));
+    }
+    return shown;
+}
+
+// Of how many photos each field is written.
+QList<ChangeLine> agreementLines(const AppModel::AgreementQuestion& question)
+{
+    QList<ChangeLine> lines;
+    for (const FieldSpec& field : FieldSchema::all())
+        if (const int photos = question.fields.value(field.id); photos > 0)
+            lines.append({ field.label, photosText(photos), {} });
     return lines;
 }
 
 // Scalar fields by id, then lists by id. Of one photo only the fields whose value is worth a second look.
 QList<ChangeLine> changeLines(const AppModel& model)
 {
+    if (const auto question = model.agreementQuestion())
+        return agreementLines(*question);
     if (isSingle(model)) {
         QList<ChangeLine> lines = scalarLines(model.editedSingle(), model.draftValues());
         lines.removeIf([](const ChangeLine& line) { return line.note.isEmpty(); });
@@ -76,12 +116,15 @@ QList<ChangeLine> changeLines(const AppModel& model)
     const QMap<QString, QStringList> lists = model.nonEmptyBatchLists();
     for (auto list = lists.cbegin(); list != lists.cend(); ++list)
         if (const FieldSpec* field = FieldSchema::spec(list.key()))
-            lines.append({ field->label, list.value().join(u", "_s) });
+            lines.append({ field->label, shownItems(model, list.key(), list.value()).join(u", "_s), {} });
     return lines;
 }
 
 QString messageText(const AppModel& model)
 {
+    if (model.agreementQuestion())
+        return u"Where the places of a field differ, all of them will hold what is shown of it. Lists are brought "
+               u"together."_s;
     if (isSingle(model)) {
         const int count = model.unsavedCount();
         return u"You edited %1 field%2. Your changes will be lost if you don’t save them."_s.arg(count).arg(
@@ -233,13 +276,16 @@ void SaveDialogView::buildCheckbox()
 QList<QBButton*> SaveDialogView::buildButtons()
 {
     QList<QBButton*> buttons;
-    if (m_single) {
+    if (m_single && !m_model.agreementQuestion()) {
         buttons.append(new QBButton(u"Don't Save"_s, QBButtonKind::destructive));
         connect(buttons.last(), &QAbstractButton::clicked, this, [this] { m_model.discardSaveDialog(); });
     }
     buttons.append(new QBButton(u"Cancel"_s, QBButtonKind::secondary));
     connect(buttons.last(), &QAbstractButton::clicked, this, &SaveDialogView::cancel);
-    const QString title = m_single ? u"Save"_s : u"Apply to %1 Photos"_s.arg(m_model.selection().size());
+    const auto question = m_model.agreementQuestion();
+    const QString title = question ? u"Make %1"_s.arg(question->photos == 1 ? u"It Agree"_s : u"Them Agree"_s)
+        : m_single                 ? u"Save"_s
+                                   : u"Apply to %1 Photos"_s.arg(m_model.selection().size());
     m_confirm = new QBButton(title, QBButtonKind::primary);
     connect(m_confirm, &QAbstractButton::clicked, this, &SaveDialogView::confirm);
     buttons.append(m_confirm);

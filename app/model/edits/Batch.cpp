@@ -1,6 +1,9 @@
 #include "app/model/edits/Batch.h"
 
 #include "core/schema/CustomFields.h"
+#include "core/schema/FieldID.h"
+#include "core/schema/FieldLanguages.h"
+#include "core/schema/KeywordPath.h"
 
 namespace Quorbel {
 
@@ -48,11 +51,22 @@ void Batch::removeItem(const QString& id, const QString& item)
     if (items.removeAll(item) == 0)
         return;
     edits.added.insert(id, items);
+    if (id == FieldID::keywords)
+        edits.paths.removeIf([&item](const QString& path) { return KeywordPath::keyword(path) == item; });
+}
+
+void Batch::addPath(const QString& path)
+{
+    addItem(FieldID::keywords, KeywordPath::keyword(path));
+    if (!edits.paths.contains(path))
+        edits.paths.append(path);
 }
 
 void Batch::clearList(const QString& id)
 {
     edits.added.remove(id);
+    if (id == FieldID::keywords)
+        edits.paths.clear();
 }
 
 void Batch::setCustom(const QString& name, const QString& value)
@@ -88,9 +102,11 @@ std::optional<QString> Batch::customText(const QString& name) const
 
 void Batch::forget(const QString& id)
 {
-    edits.scalars.remove(id);
-    edits.added.remove(id);
-    unticked.remove(id);
+    edits.forget(id);
+    unticked.removeIf([&id](const auto& entry) {
+        const auto language = FieldLanguages::languageIn(entry.key());
+        return entry.key() == id || (language && language->field->id == id);
+    });
 }
 
 void Batch::take(const Edits& newEdits)

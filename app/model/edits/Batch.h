@@ -24,7 +24,10 @@ struct Batch {
     void toggle(const QString& id, const QString& seen = {});
     /// An item that is there already changes nothing.
     void addItem(const QString& id, const QString& item);
+    /// Keyword paths that lead to the item go with it.
     void removeItem(const QString& id, const QString& item);
+    /// The keyword that it leads to, too.
+    void addPath(const QString& path);
     void clearList(const QString& id);
     void setCustom(const QString& name, const QString& value);
     /// Puts the custom field at the end, in the place of the one with its name.
@@ -33,7 +36,7 @@ struct Batch {
     void toggleCustom(const QString& name, const QString& seen = {});
     /// A custom field's text, ticked or not; nothing when it was not edited.
     std::optional<QString> customText(const QString& name) const;
-    /// Forgets a field of the schema, ticked or not.
+    /// Forgets a field of the schema, or one language of it, ticked or not; a field with all its languages.
     void forget(const QString& id);
 
     /// These edits become the batch's, on screen and ticked.

@@ -1,12 +1,17 @@
 #include "app/model/edits/Draft.h"
 
 #include "core/schema/CustomFields.h"
+#include "core/schema/FieldID.h"
+#include "core/schema/FieldLanguages.h"
+#include "core/schema/KeywordPath.h"
 
 namespace Quorbel {
 
-Draft Draft::of(const ImageRecord& photo)
+Draft Draft::of(const ImageRecord& photo, const QMap<QString, QString>& languages)
 {
-    return { .edits = { .subjects = { photo.url } }, .shown = { photo.values, photo.lists, photo.custom } };
+    Draft draft;
+    draft.rebase(photo, languages);
+    return draft;
 }
 
 void Draft::setScalar(const QString& id, const QString& value)
@@ -34,6 +39,28 @@ void Draft::removeItem(const QString& id, const QString& item)
         return;
     shown.lists.insert(id, items);
     edits.lists.insert(id, items);
+    edits.dropStrayPaths();
+}
+
+void Draft::addPath(const QString& path)
+{
+    addItem(FieldID::keywords, KeywordPath::keyword(path));
+    if (!edits.paths.contains(path))
+        edits.paths.append(path);
+}
+
+void Draft::confirmScalar(const QString& id, const QString& value)
+{
+    shown.values.insert(id, value);
+    edits.scalars.insert(id, value);
+}
+
+void Draft::confirmList(const QString& id, const QStringList& items, const QStringList& givenUp)
+{
+    shown.lists.insert(id, items);
+    edits.lists.insert(id, items);
+    edits.givenUp.insert(id, givenUp);
+    edits.dropStrayPaths();
 }
 
 void Draft::setCustom(const QString& name, const QString& value)
@@ -49,20 +76,23 @@ void Draft::forget(const QString& id)
 {
     shown.values.remove(id);
     shown.lists.remove(id);
-    edits.scalars.remove(id);
-    edits.lists.remove(id);
+    for (const QString& key : edits.keys())
+        if (const auto language = FieldLanguages::languageIn(key); language && language->field->id == id)
+            shown.values.remove(key);
+    edits.forget(id);
 }
 
-void Draft::rebase(const ImageRecord& photo)
+void Draft::rebase(const ImageRecord& photo, const QMap<QString, QString>& languages)
 {
     edits.subjects = { photo.url };
-    shown = edits.onto(photo);
+    edits.addKeywordsOfPaths(photo.lists.value(FieldID::keywords));
+    shown = edits.onto(photo, languages);
 }
 
-void Draft::take(const Edits& newEdits, const ImageRecord& photo)
+void Draft::take(const Edits& newEdits, const ImageRecord& photo, const QMap<QString, QString>& languages)
 {
     edits = newEdits;
-    rebase(photo);
+    rebase(photo, languages);
 }
 
 }  // namespace Quorbel

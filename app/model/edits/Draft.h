@@ -10,21 +10,28 @@ struct Draft {
     Edits edits{};  ///< of the one photo: lists are replaced, none are added to
     ExternalRefresh::Drafts shown{};  ///< what one sees
 
-    /// The draft without an edit.
-    static Draft of(const ImageRecord& photo);
+    /// The draft without an edit. `languages`: what the photo holds in further languages, by FieldLanguages::key().
+    static Draft of(const ImageRecord& photo, const QMap<QString, QString>& languages = {});
 
     void setScalar(const QString& id, const QString& value);
     /// An item that is there already changes nothing.
     void addItem(const QString& id, const QString& item);
+    /// Keyword paths that lead to the item go with it.
     void removeItem(const QString& id, const QString& item);
+    /// The keyword that it leads to, too.
+    void addPath(const QString& path);
+    /// An edit even where the field holds just that: it is to be written.
+    void confirmScalar(const QString& id, const QString& value);
+    /// The same for a list, which alone is left of what the photo's homes hold.
+    void confirmList(const QString& id, const QStringList& items, const QStringList& givenUp);
     void setCustom(const QString& name, const QString& value);
     /// Forgets a field of the schema: what was typed, and what one sees of it.
     void forget(const QString& id);
 
     /// The photo was read again: it is what these edits now lie over.
-    void rebase(const ImageRecord& photo);
+    void rebase(const ImageRecord& photo, const QMap<QString, QString>& languages = {});
     /// These edits become the draft's, laid over the photo.
-    void take(const Edits& newEdits, const ImageRecord& photo);
+    void take(const Edits& newEdits, const ImageRecord& photo, const QMap<QString, QString>& languages = {});
 
     bool operator==(const Draft&) const = default;
 };

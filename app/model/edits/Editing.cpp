@@ -2,6 +2,7 @@
 
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
+#include "core/schema/FieldLanguages.h"
 #include "core/text/Text.h"
 
 #include <algorithm>
@@ -15,12 +16,27 @@ QSet<QUrl> setOf(const QList<QUrl>& urls)
     return QSet<QUrl>(urls.cbegin(), urls.cend());
 }
 
+// Keys of edits that are what the photo shows: somebody wants it written all the same.
+QStringList confirmedIn(const Edits& edits, const ImageRecord& photo)
+{
+    QStringList keys;
+    for (auto text = edits.scalars.cbegin(); text != edits.scalars.cend(); ++text)
+        if (!text->isEmpty() && photo.values.value(text.key()) == *text)
+            keys.append(text.key());
+    for (auto list = edits.lists.cbegin(); list != edits.lists.cend(); ++list)
+        if (!list->isEmpty() && photo.lists.value(list.key()) == *list)
+            keys.append(list.key());
+    return keys;
+}
+
 }  // namespace
 
-Editing::Editing(Announcer& announcer, const PhotoList& photos, SelectedPhotos& selected, LeftBehind& left)
+Editing::Editing(Announcer& announcer, const PhotoList& photos, SelectedPhotos& selected,
+    const SelectedDetails& details, LeftBehind& left)
     : m_announcer(announcer)
     , m_photos(photos)
     , m_selected(selected)
+    , m_details(details)
     , m_left(left)
 {
     m_left.setStanding([this] { return standing(); });
@@ -58,6 +74,8 @@ LeftEdits Editing::leftOf(const Edits& edits, bool returns) const
     const ImageRecord* photo = edits.subjects.size() == 1 ? m_photos.record(edits.subjects.constFirst()) : nullptr;
     for (auto list = edits.lists.cbegin(); photo && list != edits.lists.cend(); ++list)
         left.heldLists.insert(list.key(), photo->lists.value(list.key()));
+    if (photo)
+        left.confirmed = confirmedIn(edits, *photo);
     return left;
 }
 
@@ -77,7 +95,7 @@ void Editing::changed()
 {
     const Announcer::Together together(m_announcer);
     m_announcer.assign(m_told,
-        Told{ m_draft.shown, m_draft.edits.keys(), m_batch, m_batch.include(), m_batch.values(), m_added },
+        Told{ m_draft.shown, m_draft.edits.keys(), m_batch, m_batch.include(), m_batch.values(), m_added, m_languages },
         Change::edits);
     m_announcer.assign(m_unsavedCount, isBatch() ? m_batch.edits.count() : m_draft.edits.count(), Change::unsavedCount);
     const Edits& edits = isBatch() ? m_batch.edits : m_draft.edits;
@@ -92,6 +110,8 @@ void Editing::setSingle(const QString& id, const QString& value)
 {
     if (isUnread())
         return;
+    if (FieldLanguages::languageIn(id))
+        m_languages.insert(id);
     m_draft.setScalar(id, value);
     changed();
 }
@@ -100,7 +120,7 @@ void Editing::addSingleListItem(const QString& id, const QString& item)
 {
     if (isUnread())
         return;
-    m_draft.addItem(id, item);
+    addItem(id, item);
     changed();
 }
 
@@ -115,21 +135,25 @@ void Editing::removeSingleListItem(const QString& id, const QString& item)
 void Editing::setBatch(const QString& id, const QString& value)
 {
     // Merely focusing and leaving a field includes nothing.
-    if (!m_batch.edits.scalars.contains(id) && value == m_selected.sharedValue(id).value_or(QString()))
+    if (!m_batch.edits.scalars.contains(id) && value == m_details.sharedValue(id).value_or(QString()))
         return;
+    if (FieldLanguages::languageIn(id))
+        m_languages.insert(id);
     m_batch.setScalar(id, value);
     changed();
 }
 
 void Editing::toggleBatchInclude(const QString& id)
 {
-    m_batch.toggle(id, m_selected.sharedValue(id).value_or(QString()));
+    m_batch.toggle(id, m_details.sharedValue(id).value_or(QString()));
+    if (FieldLanguages::languageIn(id))
+        m_languages.insert(id);
     changed();
 }
 
 void Editing::addBatchListItem(const QString& id, const QString& item)
 {
-    m_batch.addItem(id, item);
+    addItem(id, item);
     changed();
 }
 
@@ -181,6 +205,7 @@ void Editing::addKnownField(const QString& id)
 void Editing::removeAddedField(const QString& id)
 {
     m_added.remove(id);
+    m_languages.removeIf([&id](const QString& key) { return FieldLanguages::languageIn(key)->field->id == id; });
     m_draft.forget(id);
     m_batch.forget(id);
     changed();
@@ -204,7 +229,7 @@ void Editing::assignPlace(const LocationFill::Result& result, bool withPosition)
 
 bool Editing::isRemovableAddedField(const QString& id) const
 {
-    if (!m_added.contains(id))
+    if (!m_added.contains(id) || !heldLanguages(id).isEmpty())
         return false;
     if (isBatch())
         return !m_selected.holds(id);
@@ -215,6 +240,8 @@ bool Editing::isRemovableAddedField(const QString& id) const
 bool Editing::isShown(const FieldSpec& field) const
 {
     if (field.alwaysShown || m_added.contains(field.id))
+        return true;
+    if (!field.languageTag().isEmpty() && !languages(field.id).isEmpty())
         return true;
     if (isBatch())
         return m_selected.holds(field.id);
@@ -274,7 +301,7 @@ bool Editing::isFieldEmpty(const QString& id) const
     if (const auto typed = m_batch.edits.scalars.constFind(id); typed != m_batch.edits.scalars.cend())
         return isBlank(*typed);
     // Where the photos differ, some of them hold a text of their own; and nobody knows what the unread ones hold.
-    const auto shared = m_selected.unreadCount() == 0 ? m_selected.sharedValue(id) : std::nullopt;
+    const auto shared = m_selected.unreadCount() == 0 ? m_details.sharedValue(id) : std::nullopt;
     return shared && isBlank(*shared);
 }
 
@@ -335,26 +362,40 @@ void Editing::bringBack(const LeftEdits& left)
     if (isBatch())
         m_batch.take(m_batch.edits.merged(left.edits));
     else if (record)
-        m_draft.take(m_draft.edits.merged(left.rebasedOnto(*record)), *record);
+        m_draft.take(
+            m_draft.edits.merged(left.rebasedOnto(*record, m_details.of(record->url))), *record, m_known.now.languages);
     changed();
 }
 
 // Fields that no photo holds are on screen only when somebody put them there.
 void Editing::showFieldsOf(const Edits& edits)
 {
-    for (const QString& key : edits.keys())
-        if (const FieldSpec* field = FieldSchema::spec(key); field && !field->alwaysShown)
-            m_added.insert(key);
+    for (const QString& key : edits.keys()) {
+        const auto language = FieldLanguages::languageIn(key);
+        if (const FieldSpec* field = language ? language->field : FieldSchema::spec(key); field && !field->alwaysShown)
+            m_added.insert(field->id);
+    }
 }
 
 // No edit; the draft shows what the primary photo holds.
 void Editing::restart()
 {
     m_batch = {};
-    m_added = {};
-    const ImageRecord* record = m_selected.primaryRecord();
-    m_draft = record ? Draft::of(*record) : Draft();
+    beginDraft();
     changed();
+}
+
+// What the primary photo holds, with no edit and no field that was added to the screen.
+void Editing::beginDraft()
+{
+    m_added = {};
+    m_languages = {};
+    m_known = {};
+    const ImageRecord* record = m_selected.primaryRecord();
+    const PhotoDetails* details = record ? m_details.of(record->url) : nullptr;
+    if (details)
+        m_known = { *details, *details };
+    m_draft = record ? Draft::of(*record, m_known.now.languages) : Draft();
 }
 
 void Editing::follow(const Selection& selection)
@@ -363,11 +404,8 @@ void Editing::follow(const Selection& selection)
     const bool wasBatch = isBatch();
     const bool hasOtherPrimary = selection.primary != m_selected.selection().primary;
     m_selected.follow(selection);
-    const ImageRecord* record = m_selected.primaryRecord();
-    if (hasOtherPrimary) {
-        m_draft = record ? Draft::of(*record) : Draft();
-        m_added = {};
-    }
+    if (hasOtherPrimary)
+        beginDraft();
     if (wasBatch && !isBatch())
         foldBatchIntoDraft();
     changed();
@@ -382,11 +420,16 @@ void Editing::rename(const QUrl& source, const QUrl& destination)
 
 void Editing::rebase()
 {
-    const ImageRecord* record = m_selected.primaryRecord();
-    if (!record)
-        return;
-    m_draft.rebase(*record);
+    m_known.said.reset();
+    layDraft();
     changed();
+}
+
+// Its edits lie over what the primary photo holds now.
+void Editing::layDraft()
+{
+    if (const ImageRecord* record = m_selected.primaryRecord())
+        m_draft.rebase(*record, m_known.now.languages);
 }
 
 // The edits of the batch, whose one photo is left.
@@ -410,7 +453,8 @@ void Editing::foldBatchIntoDraft()
     if (isUnread())
         m_left.keep(leftOf(batchOfOne(), true));
     else if (const ImageRecord* record = m_selected.primaryRecord())
-        m_draft.take(m_draft.edits.merged(m_batch.edits.foldedInto(*record)), *record);
+        m_draft.take(m_draft.edits.merged(m_batch.edits.foldedInto(*record, m_details.of(record->url))), *record,
+            m_known.now.languages);
     m_batch = {};
 }
 
@@ -418,7 +462,11 @@ void Editing::foldBatchIntoDraft()
 
 void Editing::send()
 {
-    m_sent = { .batch = m_batch, .added = m_added, .selectionSerial = m_selected.serial(), .isRunning = true };
+    m_sent = { .batch = m_batch,
+        .added = m_added,
+        .languages = m_languages,
+        .selectionSerial = m_selected.serial(),
+        .isRunning = true };
     m_sent.batch.edits = unsaved();
 }
 
@@ -436,11 +484,12 @@ void Editing::takeSaved(const Edits& unsaved, const QList<QUrl>& failed, const Q
         m_batch = m_batch.afterSave(m_sent.batch, differing);
         m_draft.edits = m_draft.edits.minus(m_sent.batch.edits, differing);
         m_added.subtract(m_sent.added);
+        noteSaved(m_sent.batch.edits, differing);
     }
     // A photo that failed holds what it held: its rows stay as they are, under the hands of who tries again.
     const std::optional<QUrl>& primary = m_selected.selection().primary;
     if (!primary || !failed.contains(*primary))
-        rebase();
+        layDraft();
     changed();
 }
 
@@ -457,9 +506,11 @@ void Editing::narrow(const QList<QUrl>& photos)
     rest.anchor = rest.primary;
     const Batch batch = m_batch;
     const QSet<QString> added = m_added;
+    const QSet<QString> languages = m_languages;
     select(rest);
     m_batch = batch;
     m_added = added;
+    m_languages = languages;
     if (!isBatch())
         foldBatchIntoDraft();
     changed();
@@ -484,6 +535,7 @@ void Editing::giveBack(Edits edits)
     const QUrl next = primary && photos.contains(*primary) ? *primary : edits.subjects.constFirst();
     select({ photos, next, next });
     m_added = m_sent.added;
+    m_languages = m_sent.languages;
     put(leftOf(edits));
 }
 
@@ -491,11 +543,13 @@ void Editing::giveBack(Edits edits)
 void Editing::put(const LeftEdits& left)
 {
     if (isUnread())
-        return m_left.keep({ .edits = left.edits, .heldLists = left.heldLists, .returns = true });
+        return m_left.keep(
+            { .edits = left.edits, .heldLists = left.heldLists, .confirmed = left.confirmed, .returns = true });
     if (isBatch()) {
         m_batch.take(left.edits.merged(m_batch.edits));
     } else if (const ImageRecord* record = m_selected.primaryRecord()) {
-        m_draft.take(left.rebasedOnto(*record).merged(m_draft.edits), *record);
+        m_draft.take(
+            left.rebasedOnto(*record, m_details.of(record->url)).merged(m_draft.edits), *record, m_known.now.languages);
     }
     changed();
 }

@@ -8,7 +8,7 @@
 #include "app/model/edits/Draft.h"
 #include "app/model/edits/LeftBehind.h"
 #include "app/model/library/PhotoList.h"
-#include "app/model/selection/SelectedPhotos.h"
+#include "app/model/selection/SelectedDetails.h"
 #include "core/schema/FieldSchema.h"
 #include "core/schema/LocationFill.h"
 
@@ -16,7 +16,8 @@ namespace Quorbel {
 
 class Editing final {
 public:
-    Editing(Announcer& announcer, const PhotoList& photos, SelectedPhotos& selected, LeftBehind& left);
+    Editing(Announcer& announcer, const PhotoList& photos, SelectedPhotos& selected, const SelectedDetails& details,
+        LeftBehind& left);
     Q_DISABLE_COPY_MOVE(Editing)
 
     const Draft& draft() const { return m_draft; }
@@ -43,6 +44,10 @@ public:
     void setCustom(const QString& name, const QString& value);
     /// The name as it is stored. Here and above, a name that cannot be written changes nothing.
     void addCustom(const QString& name, const QString& value);
+    /// See AppModel.
+    void addLanguage(const QString& id, const QString& code);
+    void removeLanguage(const QString& id, const QString& code);
+    void useHome(const QString& id, const FieldHome& home);
     void addKnownField(const QString& id);
     void removeAddedField(const QString& id);
     void assignPlace(const LocationFill::Result& result, bool withPosition);
@@ -55,6 +60,10 @@ public:
     /// it is. Nothing for a name that is refused; CustomFields::nameProblem() says why.
     std::optional<QString> storedCustomName(const QString& typed) const;
     bool isFieldEmpty(const QString& id) const;
+    QStringList languages(const QString& id) const;
+    QStringList pathsOf(const QString& keyword) const;
+    const QStringList& typedPaths() const { return (isBatch() ? m_batch.edits : m_draft.edits).paths; }
+    QList<FieldHome> differingHomes(const QString& id) const;
 
     /// Selects these photos, without an edit but those that wait for just these: they come back.
     void select(const Selection& selection);
@@ -73,6 +82,8 @@ public:
     void rebase();
     /// The same for photos that were unread: edits that waited for them come back.
     void takeRead();
+    /// Something else may be known of the photos beside their records.
+    void takeDetails();
 
     /// Begins a save of unsaved(): until takeSaved, these edits stay and count.
     void send();
@@ -85,6 +96,7 @@ private:
     struct Sent {
         Batch batch{};  ///< of one photo: its edits alone
         QSet<QString> added{};
+        QSet<QString> languages{};
         int selectionSerial = 0;
         bool isRunning = false;
         bool isLeft = false;  ///< the user went on: these edits are not what is edited any more
@@ -98,7 +110,14 @@ private:
         QSet<QString> batchInclude{};
         QMap<QString, QString> batchValues{};
         QSet<QString> added{};
+        QSet<QString> languages{};
         bool operator==(const Told&) const = default;
+    };
+
+    /// What the draft's photo holds beside its record.
+    struct Known {
+        PhotoDetails now{};  ///< with what was saved since
+        std::optional<PhotoDetails> said{};  ///< what `now` came from; nothing where it may be anything by now
     };
 
     bool isBatch() const { return m_selected.isBatch(); }
@@ -113,6 +132,14 @@ private:
     QList<LeftEdits> standing() const;
     LeftEdits leftOf(const Edits& edits, bool returns = false) const;
     void restart();
+    void beginDraft();
+    void layDraft();
+    void noteSaved(const Edits& saved, const QSet<QString>& differing);
+    QStringList heldLanguages(const QString& id) const;
+    QString languageKey(const QString& id, const QString& code) const;
+    void forgetText(const QString& key);
+    bool isTakenAway(const QString& keyword) const;
+    void addItem(const QString& id, const QString& item);
     void showFieldsOf(const Edits& edits);
     void foldBatchIntoDraft();
     void narrow(const QList<QUrl>& photos);
@@ -122,10 +149,13 @@ private:
     Announcer& m_announcer;
     const PhotoList& m_photos;
     SelectedPhotos& m_selected;
+    const SelectedDetails& m_details;
     LeftBehind& m_left;
     Draft m_draft;
+    Known m_known;
     Batch m_batch;
     QSet<QString> m_added;
+    QSet<QString> m_languages;  ///< keys of languages whose rows were added or typed in since the selection
     Sent m_sent;
     Edits m_noted;  ///< what stood when it was last told to what keeps it
     Told m_told;

@@ -18,6 +18,24 @@ ImageRecord lake()
         .custom = { { u"Mood"_s, u"calm"_s } } };
 }
 
+PhotoDetails lakeDetails()
+{
+    return { .url = lake().url,
+        .languages = { { u"title@de"_s, u"See"_s }, { u"title@fr"_s, u"Lac"_s } },
+        .paths = { u"Nature|water"_s } };
+}
+
+// What a save was given.
+Edits sent()
+{
+    return { .scalars = { { u"title"_s, u"X"_s }, { u"title@de"_s, {} } },
+        .lists = { { u"people"_s, { u"Ana"_s } } },
+        .added = { { u"keywords"_s, { u"a"_s, u"b"_s } } },
+        .paths = { u"A|b"_s },
+        .givenUp = { { u"people"_s, { u"Eva"_s } } },
+        .customs = { { u"Mood"_s, u"gay"_s } } };
+}
+
 }  // namespace
 
 Q_DECLARE_METATYPE(EditPlan)
@@ -49,6 +67,12 @@ void tst_Edits::counting_data()
         .lists = { { u"people"_s, {} } } } << QStringList({ u"people"_s, u"title"_s });
     QTest::addRow("nothing added is no edit")
         << Edits{ .added = { { u"keywords"_s, {} }, { u"people"_s, { u"Ana"_s } } } } << QStringList{ u"people"_s };
+    QTest::addRow("each language is a field") << Edits{ .scalars = { { u"title@de"_s, {} }, { u"title"_s, u"a"_s } } }
+                                              << QStringList({ u"title"_s, u"title@de"_s });
+    QTest::addRow("a path is an edit of the keywords")
+        << Edits{ .paths = { u"A|b"_s } } << QStringList{ u"keywords"_s };
+    QTest::addRow("keywords and their paths are one field")
+        << Edits{ .added = { { u"keywords"_s, { u"b"_s } } }, .paths = { u"A|b"_s } } << QStringList{ u"keywords"_s };
     QTest::addRow("a custom field is not the field of its name") << Edits{ .scalars = { { u"title"_s, u"a"_s } },
         .customs = { { u"title"_s, u"b"_s } } } << QStringList({ u"custom:title"_s, u"title"_s });
 }
@@ -77,6 +101,7 @@ void tst_Edits::plans_data()
     QTest::addRow("several photos") << Edits{
         .scalars = title, .added = { { u"keywords"_s, { u"a"_s } }, { u"people"_s, {} } }, .customs = mood
     } << EditPlan{ title, { { u"keywords"_s, { u"a"_s } } }, mood, Mode::append };
+    QTest::addRow("a path alone") << Edits{ .paths = { u"A|b"_s } } << EditPlan{ .paths = { u"A|b"_s } };
 }
 
 void tst_Edits::plans()
@@ -91,22 +116,22 @@ void tst_Edits::afterASave_data()
     QTest::addColumn<Edits>("now");
     QTest::addColumn<QStringList>("differing");
     QTest::addColumn<Edits>("rest");
-    // What was saved is the same in all rows; see afterASave().
-    const Edits saved{ .scalars = { { u"title"_s, u"X"_s } },
-        .lists = { { u"people"_s, { u"Ana"_s } } },
-        .added = { { u"keywords"_s, { u"a"_s, u"b"_s } } },
-        .customs = { { u"Mood"_s, u"gay"_s } } };
+    const Edits saved = sent();
     QTest::addRow("nothing typed since") << saved << QStringList() << Edits{};
     QTest::addRow("all read back differently")
-        << saved << QStringList({ u"title"_s, u"people"_s, u"keywords"_s, u"custom:Mood"_s }) << saved;
+        << saved << QStringList({ u"title"_s, u"title@de"_s, u"people"_s, u"keywords"_s, u"custom:Mood"_s }) << saved;
     QTest::addRow("one field read back differently")
-        << saved << QStringList{ u"keywords"_s } << Edits{ .added = saved.added };
-    const Edits typed{ .scalars = { { u"title"_s, u"Y"_s }, { u"event"_s, u"E"_s } },
+        << saved << QStringList{ u"keywords"_s } << Edits{ .added = saved.added, .paths = saved.paths };
+    QTest::addRow("a language read back differently")
+        << saved << QStringList{ u"title@de"_s } << Edits{ .scalars = { { u"title@de"_s, {} } } };
+    const Edits typed{ .scalars = { { u"title"_s, u"Y"_s }, { u"title@fr"_s, u"E"_s } },
         .lists = { { u"people"_s, { u"Ana"_s, u"Ben"_s } } },
         .added = { { u"keywords"_s, { u"b"_s, u"c"_s } } },
+        .paths = { u"A|b"_s, u"A|c"_s },
         .customs = { { u"Mood"_s, u"sad"_s } } };
     Edits rest = typed;
     rest.added = { { u"keywords"_s, { u"c"_s } } };
+    rest.paths = { u"A|c"_s };
     QTest::addRow("typed since") << typed << QStringList() << rest;
 }
 
@@ -115,50 +140,74 @@ void tst_Edits::afterASave()
     QFETCH(Edits, now);
     QFETCH(QStringList, differing);
     QFETCH(Edits, rest);
-    const Edits saved{ .scalars = { { u"title"_s, u"X"_s } },
-        .lists = { { u"people"_s, { u"Ana"_s } } },
-        .added = { { u"keywords"_s, { u"a"_s, u"b"_s } } },
-        .customs = { { u"Mood"_s, u"gay"_s } } };
-    QCOMPARE(now.minus(saved, QSet<QString>(differing.cbegin(), differing.cend())), rest);
+    QCOMPARE(now.minus(sent(), QSet<QString>(differing.cbegin(), differing.cend())), rest);
 }
 
 void tst_Edits::folding_data()
 {
     QTest::addColumn<Edits>("edits");
     QTest::addColumn<Edits>("folded");
+    QTest::addColumn<bool>("areDetailsKnown");
     QTest::addRow("items join the photo's own")
         << Edits{ .added = { { u"keywords"_s, { u"sky"_s, u"water"_s } }, { u"people"_s, { u"Ana"_s } } } }
-        << Edits{ .lists = { { u"keywords"_s, { u"water"_s, u"blue"_s, u"sky"_s } }, { u"people"_s, { u"Ana"_s } } } };
+        << Edits{ .lists = { { u"keywords"_s, { u"water"_s, u"blue"_s, u"sky"_s } }, { u"people"_s, { u"Ana"_s } } } }
+        << true;
     QTest::addRow("what it holds is no edit") << Edits{ .scalars = { { u"title"_s, u"Lake"_s }, { u"place"_s, {} } },
         .added = { { u"keywords"_s, { u"blue"_s } } },
         .customs = { { u"Mood"_s, u"calm"_s }, { u"Hue"_s, {} } } }
-                                              << Edits{};
+                                              << Edits{} << true;
     QTest::addRow("cleared fields stay edits") << Edits{ .scalars = { { u"title"_s, {} } },
         .lists = { { u"keywords"_s, {} } },
         .customs = { { u"Mood"_s, {} } } }
                                                << Edits{ .scalars = { { u"title"_s, {} } },
                                                       .lists = { { u"keywords"_s, {} } },
-                                                      .customs = { { u"Mood"_s, {} } } };
+                                                      .customs = { { u"Mood"_s, {} } } }
+                                               << true;
+    const Edits languages{ .scalars = { { u"title@de"_s, u"See"_s }, { u"title@fr"_s, {} }, { u"title@it"_s, {} } } };
+    QTest::addRow("languages that it holds, and lacks, are no edits")
+        << languages << Edits{ .scalars = { { u"title@fr"_s, {} } } } << true;
+    QTest::addRow("languages of a photo that was not looked at stay edits") << languages << languages << false;
+    const Edits paths{ .paths = { u"Nature|water"_s, u"Sea|water"_s } };
+    QTest::addRow("of paths those that it lacks") << paths << Edits{ .paths = { u"Sea|water"_s } } << true;
+    QTest::addRow("all paths, when that is not known") << paths << paths << false;
+    QTest::addRow("a path brings its keyword along")
+        << Edits{ .paths = { u"Sea|foam"_s } }
+        << Edits{ .lists = { { u"keywords"_s, { u"water"_s, u"blue"_s, u"foam"_s } } }, .paths = { u"Sea|foam"_s } }
+        << true;
+    QTest::addRow("and goes with it") << Edits{ .lists = { { u"keywords"_s, { u"blue"_s } } },
+        .paths = { u"Sea|water"_s } } << Edits{ .lists = { { u"keywords"_s, { u"blue"_s } } } }
+                                      << true;
+    // All homes are to hold what this one shows.
+    const Edits chosen{ .lists = { { u"keywords"_s, { u"water"_s, u"blue"_s } } },
+        .givenUp = { { u"keywords"_s, { u"red"_s } } } };
+    QTest::addRow("a list that other homes do not hold stays an edit") << chosen << chosen << true;
 }
 
 void tst_Edits::folding()
 {
     QFETCH(Edits, edits);
     QFETCH(Edits, folded);
+    QFETCH(bool, areDetailsKnown);
     edits.subjects = { QUrl::fromLocalFile(u"/other.jpg"_s), lake().url };
     folded.subjects = { lake().url };
-    QCOMPARE(edits.foldedInto(lake()), folded);
+    const PhotoDetails details = lakeDetails();
+    QCOMPARE(edits.foldedInto(lake(), areDetailsKnown ? &details : nullptr), folded);
 }
 
 void tst_Edits::overAPhoto()
 {
-    const Edits edits{ .scalars = { { u"title"_s, {} }, { u"place"_s, u"Bern"_s } },
+    const Edits edits{ .scalars = { { u"title"_s, {} }, { u"place"_s, u"Bern"_s }, { u"title@fr"_s, {} } },
         .lists = { { u"people"_s, { u"Ana"_s } } },
         .added = { { u"keywords"_s, { u"sky"_s, u"blue"_s } } },
+        .paths = { u"Nature|sky"_s },
         .customs = { { u"Hue"_s, u"red"_s }, { u"Mood"_s, u"gay"_s } } };
-    const ExternalRefresh::Drafts seen = edits.onto(lake());
+    const ExternalRefresh::Drafts seen = edits.onto(lake(), lakeDetails().languages);
     QCOMPARE(seen.values,
-        (QMap<QString, QString>{ { u"title"_s, {} }, { u"event"_s, u"Tour"_s }, { u"place"_s, u"Bern"_s } }));
+        (QMap<QString, QString>{ { u"title"_s, {} }, { u"event"_s, u"Tour"_s }, { u"place"_s, u"Bern"_s },
+            { u"title@de"_s, u"See"_s }, { u"title@fr"_s, {} } }));
+    // A path alone leaves the list as it is.
+    const Edits path{ .paths = { u"Nature|water"_s } };
+    QCOMPARE(path.onto(lake()), Edits().onto(lake()));
     QCOMPARE(seen.lists,
         (QMap<QString, QStringList>{
             { u"keywords"_s, { u"water"_s, u"blue"_s, u"sky"_s } }, { u"people"_s, { u"Ana"_s } } }));
@@ -181,6 +230,14 @@ void tst_Edits::merging()
             .added = { { u"keywords"_s, { u"a"_s, u"b"_s, u"c"_s } } },
             .customs = { { u"Mood"_s, u"sad"_s }, { u"Hue"_s, u"red"_s } },
             .subjects = { lake().url } }));
+    // The list above decides which paths are left, and what is given up.
+    const Edits chosen{
+        .lists = { { u"keywords"_s, { u"a"_s } } }, .paths = { u"A|a"_s }, .givenUp = { { u"keywords"_s, { u"x"_s } } }
+    };
+    const Edits replaced{ .lists = { { u"keywords"_s, { u"b"_s } } }, .paths = { u"B|b"_s } };
+    QCOMPARE(chosen.merged(replaced), replaced);
+    QCOMPARE(replaced.merged(chosen), chosen);
+    QCOMPARE(chosen.merged({ .paths = { u"C|a"_s } }).paths, QStringList({ u"A|a"_s, u"C|a"_s }));
 }
 
 QTEST_GUILESS_MAIN(tst_Edits)

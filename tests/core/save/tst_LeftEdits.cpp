@@ -104,6 +104,9 @@ void tst_LeftEdits::onAChangedPhoto()
     QCOMPARE(rebased.scalars.value(u"title"_s), u"T"_s);
     photo.values.insert(u"title"_s, u"T"_s);
     QVERIFY(!left.rebasedOnto(photo).edited(u"title"_s));
+    // Somebody said that what the photo shows is right.
+    left.confirmed = { u"title"_s };
+    QCOMPARE(left.rebasedOnto(photo).scalars.value(u"title"_s), u"T"_s);
 }
 
 void tst_LeftEdits::texts_data()
@@ -119,6 +122,10 @@ void tst_LeftEdits::texts_data()
     left.edits.subjects = photos({ u"/p/a.jpg"_s, u"/p/b.jpg"_s, u"/p/c.jpg"_s, u"/p/d.jpg"_s });
     left.edits.customs = { { u"Film"_s, u"HP5"_s }, { u"Mood"_s, u"calm"_s } };
     QTest::newRow("more") << left << u"a.jpg, b.jpg and 2 more"_s << u"Title, Keywords, Film and 1 more"_s;
+    left.edits = { .scalars = { { u"title@de"_s, {} }, { u"event@fr"_s, u"E"_s } },
+        .paths = { u"A|b"_s },
+        .subjects = photos({ u"/p/a.jpg"_s }) };
+    QTest::newRow("languages and a path") << left << u"a.jpg"_s << u"Title (German), Keywords and Event (French)"_s;
 }
 
 void tst_LeftEdits::texts()
@@ -144,9 +151,14 @@ void tst_LeftEdits::newestTen()
 
 void tst_LeftEdits::everythingSurvives()
 {
-    LeftEdits one{ .heldLists = { { u"keywords"_s, { u"a,b"_s, u"Zürich"_s } } }, .leftAt = 20 };
-    one.edits = { .scalars = { { u"title"_s, u"“quoted” \\ \n second line 🌊"_s }, { u"description"_s, QString() } },
+    LeftEdits one{
+        .heldLists = { { u"keywords"_s, { u"a,b"_s, u"Zürich"_s } } }, .confirmed = { u"description"_s }, .leftAt = 20
+    };
+    one.edits = { .scalars = { { u"title"_s, u"“quoted” \\ \n second line 🌊"_s }, { u"description"_s, QString() },
+                      { u"title@zh-Hans"_s, QString() } },
         .lists = { { u"keywords"_s, { u"Zürich"_s } }, { u"people"_s, {} } },
+        .paths = { u"Orte|Schweiz|Zürich"_s },
+        .givenUp = { { u"people"_s, { u"Ana"_s } } },
         .customs = { { u"Film"_s, u"HP5"_s }, { u"Empty"_s, QString() } },
         .subjects = photos({ u"/p/Größe #1 100%.jpg"_s }) };
     LeftEdits many{ .leftAt = 10 };

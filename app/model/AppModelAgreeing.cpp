@@ -1,0 +1,87 @@
+// Homes that disagree: what has to be known and asked before they are made to agree.
+#include "app/model/AppModel.h"
+#include "core/save/Agreement.h"
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+bool AppModel::canMakeAgree() const
+{
+    return false;  // until a save takes a plan of each photo's own
+    if (!saving().isPossible() || isSaving() || selection().isEmpty())
+        return false;
+    return unreadSelected() > 0 || selectedDetails().unknown() > 0 || selectedDetails().canAgree();
+}
+
+void AppModel::requestMakeAgree()
+{
+    requireMainThread("requestMakeAgree");
+    if (m_services.endEditing)
+        m_services.endEditing();
+    if (!canMakeAgree() || m_saveOpen)
+        return;
+    // What is written is what the photos hold, so it is decided first what they are to hold.
+    if (unsavedCount() > 0)
+        return holdBack([this] { requestMakeAgree(); });
+    m_agreeing = Agreeing{ selected().urls() };
+    if (const QList<QUrl> unread = unreadOf(m_agreeing->photos); !unread.isEmpty())
+        m_library.require(unread);
+    goOnAgreeing();
+}
+
+// Whenever more is known of the photos, until all is.
+void AppModel::goOnAgreeing()
+{
+    if (!m_agreeing || m_agreeing->isAsking || isSaving())
+        return;
+    QList<QUrl>& photos = m_agreeing->photos;
+    photos.removeIf([this](const QUrl& photo) { return !this->photos().contains(photo); });
+    if (std::any_of(photos.cbegin(), photos.cend(), [this](const QUrl& photo) { return isUnread(photo); }))
+        return;
+    const QHash<QUrl, EditPlan> plans = agreements();
+    if (plans.isEmpty()) {
+        m_agreeing.reset();
+        return setErrorMessage(u"The places of the selected photos’ fields agree already."_s);
+    }
+    const bool asks =
+        isBatch() ? m_preferences.confirmMassEdit() && !m_batchDontAskSession : !m_preferences.saveDontAsk();
+    if (!asks || m_agreeing->isConfirmed)
+        return makeAgree(plans);
+    m_agreeing->isAsking = true;
+    m_announcer.assign(m_saveOpen, true, Change::saveOpen);
+}
+
+QHash<QUrl, EditPlan> AppModel::agreements() const
+{
+    QHash<QUrl, EditPlan> plans;
+    for (const QUrl& photo : m_agreeing->photos) {
+        const ImageRecord* record = photos().record(photo);
+        const PhotoDetails* known = details(photo);
+        if (!record || !known)
+            continue;
+        if (const EditPlan plan = Agreement::plan(*record, *known); !plan.isEmpty())
+            plans.insert(photo, plan);
+    }
+    return plans;
+}
+
+std::optional<AppModel::AgreementQuestion> AppModel::agreementQuestion() const
+{
+    if (!m_agreeing || !m_agreeing->isAsking)
+        return std::nullopt;
+    const QHash<QUrl, EditPlan> plans = agreements();
+    AgreementQuestion question{ .photos = int(plans.size()) };
+    for (const EditPlan& plan : plans)
+        for (const QString& id : plan.scalars.keys() + plan.lists.keys())
+            ++question.fields[id];
+    return question;
+}
+
+void AppModel::makeAgree(const QHash<QUrl, EditPlan>& plans)
+{
+    m_agreeing.reset();
+    Q_UNUSED(plans)
+}
+
+}  // namespace Quorbel
