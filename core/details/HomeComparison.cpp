@@ -37,7 +37,8 @@ QList<StoredText> textsOf(const Held& held)
 QStringList dateParts(const QString& text)
 {
     static const QRegularExpression form(
-        uR"(^(\d{4})(?:[:-](\d{2})(?:[:-](\d{2})(?:[ T](\d{2}):(\d{2})(?::\d{2}(?:\.\d*)?)?)?)?)?\s*(?:Z|[+-]\d{2}:?\d{2})?$)"_s);
+        uR"(^(\d{4})(?:[:-](\d{2})(?:[:-](\d{2})(?:[ T](\d{2}):(\d{2})(?::\d{2}(?:\.\d*)?)?)?)?)?)"
+        uR"([:-]?\s*[A-Z]{0,4}(?:[+-]\d{1,2}:?\d{0,2})?$)"_s);
     const QStringList captured = form.match(Text::trimmedWithNewlines(text)).capturedTexts().mid(1);
     QStringList parts;
     for (qsizetype i = 0; i < captured.size() && !captured.at(i).isEmpty(); ++i) {

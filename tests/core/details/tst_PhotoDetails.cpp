@@ -282,6 +282,9 @@ private slots:
         row("month and day left out", "date", "IPTC:DateCreated", u"2024:00:00"_s, u"2024:05:06"_s, true);
         row("another minute", "date", "XMP-photoshop:DateCreated", u"2024:05:06 10:01"_s, u"2024:05:06 10:00:59"_s,
             false);
+        row("a zone by name", "date", "XMP-photoshop:DateCreated", u"2024:05:06 10:00:09.526GMT+02:00"_s,
+            u"2024:05:06 10:00:09"_s, true);
+        row("broken off", "date", "XMP-photoshop:DateCreated", u"2024-05-"_s, u"2024:05:06 10:00:09"_s, true);
         row("no date", "date", "EXIF:CreateDate", u"unknown"_s, u"2024:05:06"_s, false);
     }
     void formsOfOneValue()
