@@ -54,6 +54,26 @@ void runInBackground(QObject* owner, Job job, Done done)
         std::move(done));
 }
 
+/// Threads for work that nobody waits for. How much of it runs at once is decided elsewhere: a job that hangs keeps
+/// none waiting.
+QThreadPool& patientThreads();
+/// This thread, and a tool that it starts, take a core from now on only when nobody else wants it: what goes on behind
+/// the window never keeps it waiting. For patientThreads() alone.
+void bePatient();
+
+/// The same as runInBackground(), by such a thread.
+template <typename Job, typename Done>
+void runPatiently(QObject* owner, Job job, Done done)
+{
+    runIn(
+        patientThreads(), owner,
+        [job = std::move(job)]() mutable {
+            bePatient();
+            return job();
+        },
+        std::move(done));
+}
+
 /// Destroys a value in the background: a hundred thousand photos take their time even for that.
 template <typename T>
 void discardInBackground(T value)

@@ -62,11 +62,21 @@ RunningTasks::Task RunningTasks::begin(Kind kind, qsizetype total, const QList<Q
     task.progress->total = total;
     if (!m_timer.isActive())
         m_timer.start();
-    if (kind == Kind::refresh || kind == Kind::slice)
+    if (kind == Kind::refresh || kind == Kind::slice || kind == Kind::details)
         m_quiet.push_back(task);
     else
         show(task);
+    updateBusy();
     return task;
+}
+
+void RunningTasks::updateBusy()
+{
+    const auto goesFirst = [](const Task& task) { return task.kind != Kind::survey && task.kind != Kind::details; };
+    const bool isBusy = std::any_of(m_shown.cbegin(), m_shown.cend(), goesFirst)
+        || std::any_of(m_quiet.cbegin(), m_quiet.cend(), goesFirst);
+    if (std::exchange(m_isBusy, isBusy) != isBusy)
+        emit busyChanged();
 }
 
 void RunningTasks::show(const Task& task)
@@ -90,6 +100,7 @@ std::optional<RunningTasks::Task> RunningTasks::end(int id)
     m_announcer.assign(m_isWorking, !m_shown.empty(), Change::isWorking);
     publishProgress();
     forgetOldStall();
+    updateBusy();
     return ended;
 }
 
@@ -133,13 +144,14 @@ void RunningTasks::skipStalledFile()
     m_announcer.assign(m_stalledFile, std::nullopt, Change::stalledFile);
 }
 
-// What the task that is shown reads; where nothing is shown, all reads.
+// What the task that is shown reads; where nothing is shown, all reads. And all reads of details.
 std::vector<RunningTasks::Task> RunningTasks::watchedReads() const
 {
     std::vector<Task> reads = m_quiet;
     if (!m_shown.empty()) {
         const Task& latest = m_shown.back();
-        std::erase_if(reads, [&latest](const Task& read) { return read.load != latest.id; });
+        std::erase_if(
+            reads, [&latest](const Task& read) { return read.load != latest.id && read.kind != Kind::details; });
         if (latest.kind == Kind::check || latest.kind == Kind::refresh || latest.kind == Kind::slice)
             reads.push_back(latest);
     }
@@ -181,6 +193,7 @@ void RunningTasks::lookForStall()
 void RunningTasks::publishStall(const Stalls& stalls)
 {
     const Announcer::Together together(m_announcer);
+    skipStalledDetails(stalls);
     std::optional<QUrl> file;
     for (const Task& read : watchedReads())
         for (const auto& [id, stalledAt] : stalls)
@@ -198,6 +211,16 @@ void RunningTasks::publishStall(const Stalls& stalls)
     }
     const auto name = file ? std::optional(file->fileName()) : std::nullopt;
     m_announcer.assign(m_stalledFile, name, Change::stalledFile);
+}
+
+// Nobody waits for them, and nobody is asked.
+void RunningTasks::skipStalledDetails(const Stalls& stalls)
+{
+    for (const auto& [id, stalledAt] : stalls)
+        if (Task* read = task(id); read && read->kind == Kind::details && !read->stop.stop_requested()) {
+            read->skipped = stalledAt;
+            read->stop.request_stop();
+        }
 }
 
 void RunningTasks::forgetOldStall()

@@ -37,11 +37,13 @@ public:
         write,
         check,  ///< the read that follows a write: it cannot be cancelled, though a file of it can be skipped
         refresh,  ///< not shown unless it stalls
+        survey,  ///< looks at the details of all open photos; gives way to all but these two
+        details,  ///< a read that is part of a survey, or of none; never shown: a file that it stalls at is skipped
     };
     struct Task {
         int id = 0;
         Kind kind = Kind::load;
-        int load = 0;  ///< of a slice: the load that it is part of; 0 for none
+        int load = 0;  ///< of a slice or of details: the load or survey that it is part of; 0 for none
         QList<QUrl> files{};  ///< of a read
         std::optional<QUrl> skipped{};  ///< ended because of this file
         std::shared_ptr<TaskProgress> progress{};
@@ -53,7 +55,7 @@ public:
     /// Reads are given up, a write goes on to its end.
     ~RunningTasks() override;
 
-    /// `files`: those that a read reads; they can be skipped. `load`: of a slice.
+    /// `files`: those that a read reads; they can be skipped. `load`: of a slice or of details.
     Task begin(Kind kind, qsizetype total, const QList<QUrl>& files = {}, int load = 0);
     /// The task as it was.
     std::optional<Task> end(int id);
@@ -65,6 +67,8 @@ public:
     /// Ends the read that is stuck, with `skipped` set.
     void skipStalledFile();
 
+    /// Whether anything runs that details give way to.
+    bool isBusy() const { return m_isBusy; }
     /// Whether one is shown.
     bool isWorking() const { return m_isWorking; }
     /// Of several tasks the one that began last; nothing while none is shown.
@@ -72,23 +76,29 @@ public:
     /// Name of the file that a read does not get done with; nothing while it gets on.
     const std::optional<QString>& stalledFile() const { return m_stalledFile; }
 
+signals:
+    void busyChanged();
+
 private:
     /// Reads that are stuck, and at what.
     using Stalls = std::vector<std::pair<int, QUrl>>;
     class StallWatches;
 
     void show(const Task& task);
+    void updateBusy();
     Task* task(int id);
     std::vector<Task> watchedReads() const;
     void publishProgress();
     void lookForStall();
     void publishStall(const Stalls& stalls);
+    void skipStalledDetails(const Stalls& stalls);
     void forgetOldStall();
 
     Announcer& m_announcer;
     std::vector<Task> m_shown;
-    std::vector<Task> m_quiet;  ///< slices, and reads of a refresh that are not shown
+    std::vector<Task> m_quiet;  ///< slices, details, and reads of a refresh that are not shown
     int m_lastID = 0;
+    bool m_isBusy = false;
     bool m_isWorking = false;
     std::optional<Progress> m_progress;
     std::optional<QString> m_stalledFile;

@@ -7,8 +7,6 @@
 #include <QThread>
 
 #include <algorithm>
-#include <sys/resource.h>
-#include <unistd.h>
 
 namespace Quorbel {
 
@@ -24,23 +22,6 @@ constexpr int mostFailures = 4;
 size_t readsAtOnce()
 {
     return size_t(std::max(1, QThread::idealThreadCount()));
-}
-
-// Threads for slices that nobody waits for. How many run at once is decided elsewhere: one that hangs keeps none
-// waiting.
-QThreadPool& patientThreads()
-{
-    static QThreadPool threads;
-    threads.setMaxThreadCount(100);
-    return threads;
-}
-
-// This thread, and the tool that it starts, take a core only when nobody else wants it: the window is never kept
-// waiting by what goes on behind it.
-void bePatient()
-{
-    constexpr int patience = 10;
-    setpriority(PRIO_PROCESS, id_t(gettid()), patience);
 }
 
 }  // namespace
@@ -207,16 +188,14 @@ void PhotoReading::start(const QList<QUrl>& photos)
     const Slice slice{ task.id, photos, m_writes.writes() };
     m_running.push_back(slice);
     m_isResting = false;
-    const bool isPatient = photos.size() > ReadQueue::wholeSize;
-    const auto job = [service = m_service, cache = m_cache, photos, isPatient, progress = task.progress,
+    const auto job = [service = m_service, cache = m_cache, photos, progress = task.progress,
                          stop = task.stop.get_token()] {
-        if (isPatient)
-            bePatient();
         return PhotoReader::read(service, photos, *progress, stop, cache);
     };
     const auto done = [this, slice](const PhotoReader::Result& result) { finish(slice, result); };
-    if (isPatient)
-        runIn(patientThreads(), this, job, done);
+    // Nobody waits for many.
+    if (photos.size() > ReadQueue::wholeSize)
+        runPatiently(this, job, done);
     else
         runInBackground(this, job, done);
 }
