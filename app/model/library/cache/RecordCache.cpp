@@ -1,6 +1,7 @@
 #include "app/model/library/cache/RecordCache.h"
 
 #include "app/model/library/SharedTexts.h"
+#include "app/model/library/cache/DetailsCode.h"
 #include "app/model/library/cache/RecordCode.h"
 #include "app/model/library/cache/RecordDatabase.h"
 #include "platform/files/FileSystem.h"
@@ -69,6 +70,13 @@ QByteArray packed(const ToolAnswer& answer)
     return bytes;
 }
 
+// What a row of details is sealed for.
+QByteArray detailsReader(const QByteArray& reader)
+{
+    static const QByteArray fingerprint = DetailsCode::fingerprint();
+    return reader + fingerprint;
+}
+
 ToolAnswer unpacked(const QByteArray& bytes)
 {
     ToolAnswer answer;
@@ -89,27 +97,51 @@ RecordCache::~RecordCache() = default;
 
 QHash<QUrl, ImageRecord> RecordCache::find(const QList<PhotoFile>& files, const std::stop_token& stop)
 {
+    SharedTexts texts;
+    QHash<QUrl, ImageRecord> found;
+    const qint64 unnoted = QDateTime::currentMSecsSinceEpoch() - m_options.useStep;
+    lookFor(files, stop, [&](RecordDatabase& database, const PhotoFile& file, const QByteArray& reader, Work& work) {
+        const auto row = database.row(file.url.toLocalFile());
+        auto record = row ? RecordCode::opened(row->content, file, reader) : std::nullopt;
+        if (!record)
+            return;
+        if (found.isEmpty())
+            found.reserve(files.size());
+        texts.share(*record);
+        found.insert(file.url, *std::move(record));
+        if (row->used <= unnoted)
+            work.used.append(row->number);
+    });
+    return found;
+}
+
+QHash<QUrl, PhotoDetails> RecordCache::findDetails(const QList<PhotoFile>& files, const std::stop_token& stop)
+{
+    QHash<QUrl, PhotoDetails> found;
+    lookFor(files, stop, [&found](RecordDatabase& database, const PhotoFile& file, const QByteArray& reader, Work&) {
+        const auto row = database.details(file.url.toLocalFile());
+        const auto content = row ? RecordCode::unsealed(*row, file, detailsReader(reader)) : std::nullopt;
+        auto details = content ? DetailsCode::decoded(*content) : std::nullopt;
+        if (!details)
+            return;
+        details->url = file.url;
+        found.insert(file.url, *std::move(details));
+    });
+    return found;
+}
+
+void RecordCache::lookFor(const QList<PhotoFile>& files, const std::stop_token& stop, const Look& look)
+{
     if (m_options.folder.isEmpty() || files.isEmpty())
-        return {};
+        return;
     RecordDatabase database(m_options.folder, RecordDatabase::Use::read);
     Work work;
-    QHash<QUrl, ImageRecord> found;
     if (const auto asks = database.isOpen() && !database.isEmpty() ? reader(database, &work.hasAnswer) : std::nullopt) {
-        SharedTexts texts;
-        const qint64 unnoted = QDateTime::currentMSecsSinceEpoch() - m_options.useStep;
-        found.reserve(files.size());
         database.beginReading();
         for (const PhotoFile& file : files) {
             if (stop.stop_requested())
                 break;
-            const auto row = database.row(file.url.toLocalFile());
-            auto record = row ? RecordCode::opened(row->content, file, *asks) : std::nullopt;
-            if (!record)
-                continue;
-            texts.share(*record);
-            found.insert(file.url, *std::move(record));
-            if (row->used <= unnoted)
-                work.used.append(row->number);
+            look(database, file, *asks, work);
         }
     }
     if (database.isDamaged())
@@ -120,7 +152,6 @@ QHash<QUrl, ImageRecord> RecordCache::find(const QList<PhotoFile>& files, const 
             all.hasAnswer = all.hasAnswer || work.hasAnswer;
             all.damaged = work.damaged ? work.damaged : all.damaged;
         });
-    return found;
 }
 
 RecordCache::Beginning RecordCache::begin(const QList<PhotoFile>& files) const
@@ -142,7 +173,13 @@ RecordCache::Beginning RecordCache::begin(const QList<PhotoFile>& files) const
 void RecordCache::put(const Beginning& beginning, QList<Read> reads)
 {
     if (!m_options.folder.isEmpty() && !reads.isEmpty())
-        add([&](Work& work) { work.puts.append({ beginning, std::move(reads) }); });
+        add([&](Work& work) { work.puts.append({ .beginning = beginning, .reads = std::move(reads) }); });
+}
+
+void RecordCache::putDetails(const Beginning& beginning, QList<DetailsRead> reads)
+{
+    if (!m_options.folder.isEmpty() && !reads.isEmpty())
+        add([&](Work& work) { work.puts.append({ .beginning = beginning, .details = std::move(reads) }); });
 }
 
 void RecordCache::waitUntilWritten()
@@ -213,7 +250,7 @@ RecordCache::Work RecordCache::takeSome()
     qsizetype reads = 0;
     qsizetype puts = 0;
     while (puts < some.puts.size() && reads < mostInOneGo)
-        reads += some.puts.at(puts++).reads.size();
+        reads += some.puts.at(puts++).size();
     m_work.puts = some.puts.sliced(puts);
     some.puts.resize(puts);
     return some;
@@ -244,36 +281,45 @@ bool RecordCache::tryWrite(const Work& work, RecordDatabase& database)
     if (!database.isOpen())
         return false;
     const auto asks = reader(database);
-    const QList<Row> written = asks ? rows(work, *asks) : QList<Row>();
+    const Rows written = asks ? rows(work, *asks) : Rows();
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
     if (!database.begin())
         return false;
     keepAnswer(database);
-    for (const Row& row : written)
+    for (const Row& row : written.records)
         database.put(row.path, row.content, now);
+    for (const Row& row : written.details)
+        database.putDetails(row.path, row.content);
     for (const qint64 number : work.used)
         database.use(number, now);
     if (!database.commit())
         return false;
-    prune(database, written.size());
+    prune(database, written.records.size());
     return true;
 }
 
 // Those that can be trusted.
-QList<RecordCache::Row> RecordCache::rows(const Work& work, const QByteArray& reader) const
+RecordCache::Rows RecordCache::rows(const Work& work, const QByteArray& reader) const
 {
     const QByteArray now = ReaderIdentity::toolStamp(m_runner) + ReaderIdentity::surroundings(m_runner);
     ClockSteps steps;
-    QList<Row> rows;
+    Rows rows;
+    const auto add = [](QList<Row>& list, const PhotoFile& file, const QByteArray& bytes, const QByteArray& reader) {
+        if (!bytes.isEmpty())
+            list.append({ file.url.toLocalFile(), RecordCode::sealed(bytes, file, reader) });
+    };
     for (const Put& put : work.puts) {
         if (put.beginning.reader != now)
             continue;
-        for (const Read& read : put.reads) {
-            if (!steps.canTrust(read.before, put.beginning.now) || PhotoFile::at(read.before.url).file != read.before)
-                continue;
-            if (const QByteArray bytes = RecordCode::encoded(read.record); !bytes.isEmpty())
-                rows.append({ read.before.url.toLocalFile(), RecordCode::sealed(bytes, read.before, reader) });
-        }
+        const auto isTrusted = [&](const PhotoFile& before) {
+            return steps.canTrust(before, put.beginning.now) && PhotoFile::at(before.url).file == before;
+        };
+        for (const Read& read : put.reads)
+            if (isTrusted(read.before))
+                add(rows.records, read.before, RecordCode::encoded(read.record), reader);
+        for (const DetailsRead& read : put.details)
+            if (isTrusted(read.before))
+                add(rows.details, read.before, DetailsCode::encoded(read.details), detailsReader(reader));
     }
     return rows;
 }

@@ -1,12 +1,14 @@
 // What reads of photos found, kept from one run of the program to the next: an unchanged photo is never read twice.
 // A record counts for as long as its file is the same, inode and times, and the reader too; else it is as if it were
 // not there. Whatever becomes of the file on disk, the worst is that photos are read again.
-// Thread: any but the main one for find() and begin(), which wait for the disk, and once after an update of the tool
-// for a run of it; put() returns at once. Writing has a thread of its own.
+// Beside a record stand the photo's details, where they were read, under the same terms.
+// Thread: any but the main one for find(), findDetails() and begin(), which wait for the disk, and once after an update
+// of the tool for a run of it; put() returns at once. Writing has a thread of its own.
 #pragma once
 
 #include "app/model/library/PhotoFile.h"
 #include "app/model/library/cache/ReaderIdentity.h"
+#include "core/schema/PhotoDetails.h"
 
 #include <QHash>
 #include <QList>
@@ -42,6 +44,12 @@ public:
         ImageRecord record{};
     };
 
+    /// The same, and its details.
+    struct DetailsRead {
+        PhotoFile before{};
+        PhotoDetails details{};
+    };
+
     RecordCache(Options options, ExifToolRunner runner);
     /// Writes what is still to be written.
     ~RecordCache();
@@ -51,11 +59,16 @@ public:
     /// the number of files asked for. Once stopped, it ends early.
     QHash<QUrl, ImageRecord> find(const QList<PhotoFile>& files, const std::stop_token& stop = {});
 
+    /// The same for details.
+    QHash<QUrl, PhotoDetails> findDetails(const QList<PhotoFile>& files, const std::stop_token& stop = {});
+
     /// To be called between the look at the files and the read. A file that was changed just now may change again
     /// without another date: where a tick of the clock is short, that tick is waited for.
     Beginning begin(const QList<PhotoFile>& files) const;
     /// Keeps what was read, for those files that did not change meanwhile and whose date can be trusted.
     void put(const Beginning& beginning, QList<Read> reads);
+    /// The same for details. Those of a photo whose record is not kept are not kept either.
+    void putDetails(const Beginning& beginning, QList<DetailsRead> reads);
 
     /// Returns when all of it is on disk, or could not be written.
     void waitUntilWritten();
@@ -64,6 +77,8 @@ private:
     struct Put {
         Beginning beginning{};
         QList<Read> reads{};
+        QList<DetailsRead> details{};
+        qsizetype size() const { return reads.size() + details.size(); }
     };
     struct Work {
         QList<Put> puts{};
@@ -77,12 +92,20 @@ private:
         QByteArray content{};
     };
 
+    using Look = std::function<void(RecordDatabase&, const PhotoFile&, const QByteArray& reader, Work&)>;
+
+    void lookFor(const QList<PhotoFile>& files, const std::stop_token& stop, const Look& look);
     void add(const std::function<void(Work&)>& change);
     void runWriter(const std::stop_token& stop);
     Work takeSome();
     void write(const Work& work, std::unique_ptr<RecordDatabase>& database);
     bool tryWrite(const Work& work, RecordDatabase& database);
-    QList<Row> rows(const Work& work, const QByteArray& reader) const;
+    /// Of records and of details.
+    struct Rows {
+        QList<Row> records{};
+        QList<Row> details{};
+    };
+    Rows rows(const Work& work, const QByteArray& reader) const;
     void prune(RecordDatabase& database, qsizetype written);
     /// Nothing when the tool cannot be asked; `hasRun`: it was.
     std::optional<QByteArray> reader(RecordDatabase& database, bool* hasRun = nullptr);

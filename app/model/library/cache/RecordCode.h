@@ -17,6 +17,8 @@ QByteArray encoded(const ImageRecord& record);
 /// The same, sealed: only for this file, as it is at that look, and for the same reader it opens again. A byte that is
 /// not as it was breaks the seal.
 QByteArray sealed(const QByteArray& encoded, const PhotoFile& file, const QByteArray& reader);
+/// What was sealed; nothing when the seal is another's, or broken. Valid as long as the bytes are.
+std::optional<QByteArrayView> unsealed(const QByteArray& sealed, const PhotoFile& file, const QByteArray& reader);
 /// The record as a read of the file would give it; nothing when the seal is another's, or broken.
 std::optional<ImageRecord> opened(const QByteArray& sealed, const PhotoFile& file, const QByteArray& reader);
 

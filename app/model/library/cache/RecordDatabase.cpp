@@ -80,6 +80,8 @@ RecordDatabase::~RecordDatabase()
     m_find = QSqlQuery();
     m_put = QSqlQuery();
     m_use = QSqlQuery();
+    m_findDetails = QSqlQuery();
+    m_putDetails = QSqlQuery();
     if (QSqlDatabase::contains(m_connection))
         QSqlDatabase::removeDatabase(m_connection);
 }
@@ -109,13 +111,19 @@ bool RecordDatabase::makeTables()
         { u"PRAGMA journal_mode = WAL"_s, u"PRAGMA synchronous = NORMAL"_s, u"PRAGMA journal_size_limit = 16777216"_s })
         run(setting);
     if (number(u"PRAGMA user_version"_s) != 0)
-        return !m_isDamaged;
+        return !m_isDamaged && makeDetailsTable();
     return begin() && run(u"CREATE TABLE IF NOT EXISTS folder (id INTEGER PRIMARY KEY, path TEXT UNIQUE NOT NULL)"_s)
         && run(u"CREATE TABLE IF NOT EXISTS record (id INTEGER PRIMARY KEY, folder INTEGER NOT NULL, "
                "name TEXT NOT NULL, used INTEGER NOT NULL, content BLOB NOT NULL, UNIQUE (folder, name))"_s)
         && run(u"CREATE INDEX IF NOT EXISTS record_used ON record (used)"_s)
-        && run(u"CREATE TABLE IF NOT EXISTS fact (key BLOB PRIMARY KEY, value BLOB NOT NULL)"_s)
+        && run(u"CREATE TABLE IF NOT EXISTS fact (key BLOB PRIMARY KEY, value BLOB NOT NULL)"_s) && makeDetailsTable()
         && run(u"PRAGMA user_version = %1"_s.arg(formatVersion)) && commit();
+}
+
+// In a file that an earlier version of ours made there is none, and what it holds stays valid.
+bool RecordDatabase::makeDetailsTable()
+{
+    return run(u"CREATE TABLE IF NOT EXISTS details (record INTEGER PRIMARY KEY, content BLOB NOT NULL)"_s);
 }
 
 bool RecordDatabase::prepare()
@@ -132,7 +140,26 @@ bool RecordDatabase::prepare()
     if (!isGood)
         for (const QSqlQuery* query : { &m_find, &m_put, &m_use })
             note(query->lastError());
+    prepareDetails();
     return isGood;
+}
+
+// Nobody who only reads makes the table.
+void RecordDatabase::prepareDetails()
+{
+    if (number(u"SELECT EXISTS (SELECT 1 FROM sqlite_master WHERE name = 'details')"_s) != 1)
+        return;
+    const auto database = QSqlDatabase::database(m_connection, false);
+    m_findDetails = QSqlQuery(database);
+    m_putDetails = QSqlQuery(database);
+    m_findDetails.setForwardOnly(true);
+    const bool isGood = m_findDetails.prepare(u"SELECT details.content FROM record JOIN details "
+                                              "ON details.record = record.id WHERE folder = ? AND name = ?"_s)
+        && m_putDetails.prepare(u"INSERT OR REPLACE INTO details (record, content) "
+                                "SELECT id, ? FROM record WHERE folder = ? AND name = ?"_s);
+    if (!isGood)
+        for (const QSqlQuery* query : { &m_findDetails, &m_putDetails })
+            note(query->lastError());
 }
 
 void RecordDatabase::note(const QSqlError& error)
@@ -211,6 +238,17 @@ std::optional<RecordDatabase::Row> RecordDatabase::row(const QString& path)
     return Row{ m_find.value(0).toLongLong(), m_find.value(1).toLongLong(), m_find.value(2).toByteArray() };
 }
 
+std::optional<QByteArray> RecordDatabase::details(const QString& path)
+{
+    const auto number = folder(folderOf(path));
+    if (!number || m_isDamaged || m_findDetails.lastQuery().isEmpty())
+        return std::nullopt;
+    m_findDetails.bindValue(0, *number);
+    m_findDetails.bindValue(1, nameOf(path));
+    return run(m_findDetails) && m_findDetails.next() ? std::optional(m_findDetails.value(0).toByteArray())
+                                                      : std::nullopt;
+}
+
 bool RecordDatabase::isEmpty()
 {
     return number(u"SELECT EXISTS (SELECT 1 FROM record)"_s) != 1;
@@ -265,6 +303,17 @@ void RecordDatabase::put(const QString& path, const QByteArray& content, qint64 
     run(m_put);
 }
 
+void RecordDatabase::putDetails(const QString& path, const QByteArray& content)
+{
+    const auto number = folder(folderOf(path));
+    if (m_hasFailed || !number)
+        return;
+    m_putDetails.bindValue(0, content);
+    m_putDetails.bindValue(1, *number);
+    m_putDetails.bindValue(2, nameOf(path));
+    run(m_putDetails);
+}
+
 void RecordDatabase::use(qint64 number, qint64 now)
 {
     if (m_hasFailed)
@@ -297,6 +346,7 @@ qint64 RecordDatabase::size()
 void RecordDatabase::removeOldest(qint64 rows)
 {
     run(u"DELETE FROM record WHERE id IN (SELECT id FROM record ORDER BY used, id LIMIT %1)"_s.arg(rows));
+    run(u"DELETE FROM details WHERE NOT EXISTS (SELECT 1 FROM record WHERE record.id = details.record)"_s);
     run(u"DELETE FROM folder WHERE NOT EXISTS (SELECT 1 FROM record WHERE record.folder = folder.id)"_s);
 }
 

@@ -41,6 +41,8 @@ public:
     /// Of the file with this path. Many are had sooner behind a beginReading(); it lasts as long as the connection.
     std::optional<Row> row(const QString& path);
     void beginReading() { run(QStringLiteral("BEGIN")); }
+    /// What stands beside the row of that file; nothing where nothing does.
+    std::optional<QByteArray> details(const QString& path);
     bool isEmpty();
     /// What was kept for this key.
     std::optional<QByteArray> fact(const QByteArray& key);
@@ -49,6 +51,8 @@ public:
     bool begin();
     void put(const QString& path, const QByteArray& content, qint64 now);
     void use(qint64 number, qint64 now);
+    /// Beside the row of the file with this path, where it has one; as long as that is there.
+    void putDetails(const QString& path, const QByteArray& content);
     void keepFact(const QByteArray& key, const QByteArray& value);
     bool commit();
 
@@ -61,7 +65,9 @@ public:
 private:
     bool open(Use use);
     bool makeTables();
+    bool makeDetailsTable();
     bool prepare();
+    void prepareDetails();
     bool run(QSqlQuery& query);
     bool run(const QString& statement);
     qint64 number(const QString& statement);
@@ -80,6 +86,8 @@ private:
     QSqlQuery m_find;
     QSqlQuery m_put;
     QSqlQuery m_use;
+    QSqlQuery m_findDetails;  ///< not prepared while no details were ever kept
+    QSqlQuery m_putDetails;
 };
 
 }  // namespace Quorbel
