@@ -37,9 +37,29 @@ void PhotoList::setSearch(const QString& text)
     if (!m_announcer.assign(m_search, text, Change::search))
         return;
     const QString needle = Text::trimmed(text).toLower();
-    if (needle == m_needle)
+    if (needle == m_filter.needle)
         return;
-    m_needle = needle;
+    m_filter.needle = needle;
+    updateVisibleRows(false);
+}
+
+void PhotoList::setWanted(PhotoTraits traits)
+{
+    if (std::exchange(m_filter.traits, traits) == traits)
+        return;
+    const Announcer::Together together(m_announcer);
+    updateVisibleRows(false);
+}
+
+void PhotoList::setTrait(PhotoTrait trait, const QList<QUrl>& photos, bool on)
+{
+    bool isOther = false;
+    for (const QUrl& photo : photos)
+        if (const int at = position(photo); at >= 0)
+            isOther = m_open.index.setTrait(at, trait, on) || isOther;
+    if (!isOther || !m_filter.traits.testFlag(trait))
+        return;
+    const Announcer::Together together(m_announcer);
     updateVisibleRows(false);
 }
 
@@ -62,6 +82,7 @@ void PhotoList::open(OpenPhotos photos)
         m_groups.unfoldAll();
     std::swap(m_open, photos);
     discardInBackground(std::move(photos));
+    m_filter.traits = {};
     keepCreationDates();
     contentChanged(true, true);
 }
@@ -69,7 +90,7 @@ void PhotoList::open(OpenPhotos photos)
 QList<QUrl> PhotoList::firstOnScreen(OpenPhotos& photos, qsizetype most) const
 {
     QList<QUrl> first;
-    for (const int row : photos.index.rows(m_needle, m_order).mid(0, most))
+    for (const int row : photos.index.rows({ .needle = m_filter.needle }, m_order).mid(0, most))
         first.append(photos.records.at(row).url);
     return first;
 }
@@ -203,7 +224,7 @@ void PhotoList::contentChanged(bool isHeldChanged, bool photosChanged)
 
 void PhotoList::updateVisibleRows(bool photosChanged)
 {
-    QList<int> rows = m_open.index.rows(m_needle, m_order);
+    QList<int> rows = m_open.index.rows(m_filter, m_order);
     if (m_groups.update(m_open.index.groups(rows)))
         m_announcer.announce(Change::folderGroups);
     if (!m_announcer.assign(m_visibleRows, std::move(rows), Change::visibleRows) && photosChanged)

@@ -1,4 +1,4 @@
-// The photos that are open: their records, which of them the search leaves on screen, and in what order.
+// The photos that are open: their records, which of them search and filter leave on screen, and in what order.
 // Thread: the main thread. Reads nothing from disk; knows no selection and no edits.
 #pragma once
 
@@ -44,7 +44,7 @@ public:
     bool contains(const QUrl& url) const { return position(url) >= 0; }
     /// Null when there is none. Valid until the records change.
     const ImageRecord* record(const QUrl& url) const;
-    /// Positions of the photos that pass the search, in sort order; where subfolders are open, by folder first.
+    /// Positions of the photos that pass search and filter, in sort order; where subfolders are open, by folder first.
     const QList<int>& visibleRows() const { return m_visibleRows; }
     const FolderGroups& groups() const { return m_groups; }
     /// The folders that hold photos, where subfolders are open.
@@ -61,6 +61,11 @@ public:
 
     const QString& search() const { return m_search; }
     void setSearch(const QString& text);
+    /// Traits that a photo must have to be on screen; none are asked for when other photos are opened.
+    PhotoTraits wanted() const { return m_filter.traits; }
+    void setWanted(PhotoTraits traits);
+    /// Gives those of these photos that are open a trait, or takes it away.
+    void setTrait(PhotoTrait trait, const QList<QUrl>& photos, bool on);
     RecordSortOrder order() const { return m_order; }
     void setOrder(RecordSortOrder order);
 
@@ -100,7 +105,7 @@ private:
     QList<int> m_visibleRows;
     FolderGroups m_groups;
     QString m_search;
-    QString m_needle;  ///< the search as it is compared: trimmed, lower case
+    PhotoFilter m_filter;
     RecordSortOrder m_order;
     CreationDates m_creationDates;
     int m_serial = 0;

@@ -61,6 +61,7 @@ void RecordIndex::reset(
     const qsizetype room = std::max(withRoom(records.size()), m_folders.isOrdering() ? roomForWalk : 0);
     m_entries.reserve(size_t(room));
     m_positions.reserve(size_t(room));
+    m_traits.reserve(size_t(room));
     m_ids.reserve(room);
     for (const ImageRecord& record : records) {
         if (stop.stop_requested())
@@ -82,6 +83,7 @@ void RecordIndex::add(const ImageRecord& record)
     added.id = int(m_positions.size());
     added.folder = m_folders.enter(record.url);
     m_positions.push_back(int(m_entries.size()) - 1);
+    m_traits.emplace_back();
     if (!m_ids.contains(record.url))
         m_ids.insert(record.url, added.id);
 }
@@ -172,14 +174,29 @@ void RecordIndex::remove(const QList<int>& positions)
     }
 }
 
-QList<int> RecordIndex::rows(const QString& needle, RecordSortOrder order)
+bool RecordIndex::setTrait(int position, PhotoTrait trait, bool on)
+{
+    PhotoTraits& traits = m_traits[size_t(entry(position).id)];
+    if (traits.testFlag(trait) == on)
+        return false;
+    traits.setFlag(trait, on);
+    return true;
+}
+
+bool RecordIndex::passes(int position, const PhotoFilter& filter) const
+{
+    const Entry& photo = entry(position);
+    return (m_traits[size_t(photo.id)] & filter.traits) == filter.traits && photo.lowerName.contains(filter.needle);
+}
+
+QList<int> RecordIndex::rows(const PhotoFilter& filter, RecordSortOrder order)
 {
     const std::vector<int>& all = sortedBy(order);
-    if (needle.isEmpty())
+    if (filter.isEmpty())
         return QList<int>(all.cbegin(), all.cend());
     QList<int> found;
     for (const int position : all)
-        if (entry(position).lowerName.contains(needle))
+        if (passes(position, filter))
             found.append(position);
     return found;
 }

@@ -7,6 +7,7 @@
 
 #include "app/model/library/FolderGroups.h"
 #include "app/model/library/FolderOrder.h"
+#include "app/model/library/PhotoFilter.h"
 #include "core/schema/ImageRecord.h"
 #include "core/schema/RecordSortOrder.h"
 
@@ -37,10 +38,12 @@ public:
 
     /// -1 when there is none. The first one where a URL occurs twice.
     int position(const QUrl& url) const;
-    /// Positions of the photos whose lower-case file name contains `needle` (lower case; "" finds all), in this
-    /// order; what is equal in it stays in the list's. Photos without a creation date come last; those of one date, or
-    /// without, by name.
-    QList<int> rows(const QString& needle, RecordSortOrder order);
+    /// Gives the photo a trait, or takes it away; whether it had it otherwise. A photo keeps its traits under another
+    /// name, and when it was read again.
+    bool setTrait(int position, PhotoTrait trait, bool on);
+    /// Positions of the photos that pass, in this order; what is equal in it stays in the list's. Photos without a
+    /// creation date come last; those of one date, or without, by name.
+    QList<int> rows(const PhotoFilter& filter, RecordSortOrder order);
     /// The runs of one folder in what rows() gave; none where folders have no order.
     QList<FolderGroup> groups(const QList<int>& rows) const;
     const FolderOrder& folders() const { return m_folders; }
@@ -70,6 +73,7 @@ private:
     void add(const ImageRecord& record);
     void follow(int position, const ImageRecord& record);
     const Entry& entry(int position) const { return m_entries[size_t(position)]; }
+    bool passes(int position, const PhotoFilter& filter) const;
     int folderRank(int position) const { return m_folders.rank(entry(position).folder); }
     bool isBefore(int a, int b) const;
     DateKey dateKey(int position, bool newestFirst) const;
@@ -83,6 +87,7 @@ private:
     std::vector<Entry> m_entries;
     QHash<QUrl, int> m_ids;  ///< never renumbered, so that a photo that goes moves no other one in it
     std::vector<int> m_positions;  ///< by id
+    std::vector<PhotoTraits> m_traits;  ///< by id
     std::vector<int> m_byName;  ///< positions, ascending by folder and name
     std::vector<int> m_nameRank;  ///< by position; photos of equal names in one folder have equal ranks
     std::vector<int> m_sorted;  ///< positions in m_sortedBy's order
