@@ -25,6 +25,15 @@ std::shared_ptr<RecordCache> cacheFor(const AppModelServices& services)
         RecordCache::Options{ .folder = services.recordCachePath }, services.service->runner);
 }
 
+DetailsReader::Ask detailsFrom(const AppModelServices& services)
+{
+    if (services.details || !services.service)
+        return services.details;
+    return [service = *services.service](const QList<ImageRecord>& photos, const ReadControl& control) {
+        return service.details(photos, control);
+    };
+}
+
 }  // namespace
 
 AppModel::AppModel(AppModelServices services, QObject* parent)
@@ -44,6 +53,7 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
 {
     requireMainThread("AppModel");
     m_library.refresh().setLooks({ m_services.fileSystemOf, m_services.lookInterval });
+    m_library.details().setAsking(detailsFrom(m_services), m_services.detailsDelay);
     connectParts();
     if (!m_services.service)
         m_errorMessage = u"ExifTool could not be found in the app bundle. Metadata cannot be read or written."_s;
@@ -67,6 +77,7 @@ void AppModel::connectParts()
     connect(&m_library, &Library::unreadable, this, &AppModel::takeVanished);
     connect(&m_library, &Library::nothingReadable, this, &AppModel::closeFolder);
     connect(&m_folderNames, &FolderNames::changed, this, &AppModel::renamePreviewChanged);
+    connectDetails();
     FolderRefresh& refresh = m_library.refresh();
     connect(&refresh, &FolderRefresh::problem, this, &AppModel::setErrorMessage);
     connect(&refresh, &FolderRefresh::vanished, this, &AppModel::takeVanished);
@@ -308,6 +319,7 @@ void AppModel::takeVanished(const QList<int>& positions)
     m_editing.leave(gone);
     const auto heir = losesPrimary ? before.nearestStaying(photos(), gone) : std::nullopt;
     photos().remove(positions);
+    m_library.details().forget(gone);
     const Selection rest = before.withoutGone(photos(), heir);
     if (before.photos.intersects(rest.photos))
         m_editing.follow(rest);

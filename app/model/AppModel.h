@@ -35,8 +35,8 @@ public:
     void setSearch(const QString& text) { photos().setSearch(text); }
     RecordSortOrder sortOrder() const { return photos().order(); }
     void setSortOrder(RecordSortOrder order);
-    /// Positions in records() of the photos that pass the search, in sort order; where subfolders are open, by folder
-    /// first, and folded ones too. For a list of any length.
+    /// Positions in records() of the photos that pass search and filter, in sort order; where subfolders are open, by
+    /// folder first, and folded ones too. For a list of any length.
     const QList<int>& visibleRows() const { return photos().visibleRows(); }
     /// The runs of visibleRows() that lie in one folder; none where no subfolders are open.
     const QList<FolderGroup>& folderGroups() const { return photos().groups().list(); }
@@ -341,6 +341,7 @@ private:
     const RunningTasks& tasks() const { return checked(m_tasks); }
     const Saving& saving() const { return checked(m_saving); }
     void connectParts();
+    void connectDetails();
     // What other programs do to the photos
     void takeVanished(const QList<int>& positions);
     void selectWhereNone();

@@ -3,9 +3,22 @@
 
 namespace Quorbel {
 
-const PhotoDetails* AppModel::details(const QUrl& /*photo*/) const
+// Which photos are of interest is known here.
+void AppModel::connectDetails()
 {
-    return nullptr;
+    DetailsReading& details = m_library.details();
+    const auto select = [this, &details] { details.setSelected(primary(), selection()); };
+    connect(this, &AppModel::selectionChanged, &details, select);
+    connect(this, &AppModel::primaryChanged, &details, select);
+    const auto hold = [this, &details] { details.setHeld(unsavedCount() > 0 ? selection() : QSet<QUrl>()); };
+    connect(this, &AppModel::selectionChanged, &details, hold);
+    connect(this, &AppModel::unsavedCountChanged, &details, hold);
+    connect(this, &AppModel::isSavingChanged, &details, [this, &details] { details.setPaused(isSaving()); });
+}
+
+const PhotoDetails* AppModel::details(const QUrl& photo) const
+{
+    return library().details().store().find(photo);
 }
 
 QStringList AppModel::pathCompletions(const QString& /*prefix*/, int /*limit*/) const
@@ -15,16 +28,23 @@ QStringList AppModel::pathCompletions(const QString& /*prefix*/, int /*limit*/) 
 
 AppModel::Disagreements AppModel::disagreements() const
 {
-    return {};
+    const DetailsReading::Census census = library().details().census();
+    return { census.disagreeing, census.unknown, census.isLooking };
 }
 
 bool AppModel::showsDisagreements() const
 {
-    return false;
+    return library().details().census().isFiltering;
 }
 
-void AppModel::setShowDisagreements(bool /*on*/) { }
+void AppModel::setShowDisagreements(bool on)
+{
+    checked(m_library).details().setFiltering(on);
+}
 
-void AppModel::cancelDisagreements() { }
+void AppModel::cancelDisagreements()
+{
+    checked(m_library).details().cancel();
+}
 
 }  // namespace Quorbel

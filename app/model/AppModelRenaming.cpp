@@ -118,6 +118,7 @@ void AppModel::takeRenamed(const QUrl& source, const QUrl& destination)
     if (m_renamed == source)
         m_renamed = destination;
     photos().rename(source, destination);
+    m_library.details().rename(source, destination);
     m_editing.rename(source, destination);
 }
 

@@ -32,6 +32,10 @@ struct AppModelServices {
     std::chrono::milliseconds keepInterval{ 2000 };
     /// How long a read may be at one file before the user is offered to skip it.
     std::chrono::milliseconds stallInterval{ 10000 };
+    /// Reads what photos hold beside their records, in the background, as DetailsReader::Ask. Empty: the service does.
+    std::function<QHash<QUrl, PhotoDetails>(const QList<ImageRecord>& photos, const ReadControl& control)> details{};
+    /// How long all else must rest before that is read of photos for which nobody asked.
+    std::chrono::milliseconds detailsDelay{ 150 };
     /// The kind of file system that a folder lies on; asked in the background. Empty: the system is asked.
     std::function<FileSystem(const QString& path)> fileSystemOf{};
     /// The shortest pause between looks at folders where the system does not tell of changes.

@@ -98,8 +98,12 @@ Library::Library(Announcer& announcer, RunningTasks& tasks, std::optional<Metada
     , m_cache(std::move(cache))
     , m_photos(announcer, order)
     , m_refresh(announcer, tasks, m_photos, m_service, m_cache)
+    , m_details(announcer, tasks, m_photos, m_refresh, m_cache)
 {
     connect(&m_refresh, &FolderRefresh::reread, this, &Library::noteRead);
+    connect(&m_refresh, &FolderRefresh::added, &m_details, &DetailsReading::noteAdded);
+    connect(this, &Library::added, &m_details, &DetailsReading::noteAdded);
+    connect(&m_details, &DetailsReading::problem, this, &Library::problem);
 }
 
 Library::~Library() = default;
@@ -349,6 +353,7 @@ void Library::put(Load& load)
 {
     m_cancelled.reset();
     m_photos.open(std::move(load.photos));
+    m_details.begin();
     const bool hasOtherName = std::exchange(m_folderName, load.listing.label) != load.listing.label;
     const bool isOtherFolder = std::exchange(m_folderURL, load.listing.folder) != load.listing.folder;
     if (hasOtherName || isOtherFolder)
@@ -394,6 +399,7 @@ void Library::takeRead(const QList<ImageRecord>& records, const QList<QUrl>& unr
 {
     const Announcer::Together together(m_announcer);
     m_photos.fill(records);
+    m_details.outdate(urlsOf(records));
     QList<int> positions;
     for (const QUrl& photo : unreadable)
         if (const int at = m_photos.position(photo); at >= 0)
@@ -442,6 +448,7 @@ void Library::setFirst(const std::optional<QUrl>& photo)
 void Library::setInView(const QList<QUrl>& photos)
 {
     m_inView = photos;
+    m_details.setInView(photos);
     if (m_reading)
         m_reading->setInView(photos);
 }
@@ -456,6 +463,7 @@ void Library::cancelReads()
 {
     const Announcer::Together together(m_announcer);
     m_tasks.cancelShownRefreshes();
+    m_details.cancel();
     const bool isOther = m_listing && !isWalkShown();
     if (m_next && (!m_next->hasArrived || m_walk))
         return dropNext();
@@ -482,6 +490,7 @@ void Library::resumeReading()
     }
     if (m_reading)
         m_reading->setPace(PhotoReading::Pace::all);
+    m_details.resume();
 }
 
 void Library::readAgain()
@@ -503,6 +512,7 @@ void Library::readAgain()
                 return;
             const Announcer::Together together(m_announcer);
             const qsizetype count = queue.left();
+            m_details.readAgain();
             follow(newReading());
             m_reading->begin(std::move(queue), count);
             m_reading->setInView(m_inView);
@@ -514,6 +524,7 @@ void Library::readAgain()
 
 void Library::noteRead(const QList<QUrl>& photos)
 {
+    m_details.outdate(photos);
     if (m_reading)
         m_reading->drop(photos);
 }

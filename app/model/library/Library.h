@@ -6,6 +6,7 @@
 #include "app/model/RunningTasks.h"
 #include "app/model/library/FolderRefresh.h"
 #include "app/model/library/PhotoList.h"
+#include "app/model/library/details/DetailsReading.h"
 #include "app/model/library/reading/PhotoReading.h"
 
 #include <functional>
@@ -27,6 +28,8 @@ public:
     const PhotoList& photos() const { return m_photos; }
     FolderRefresh& refresh() { return m_refresh; }
     const FolderRefresh& refresh() const { return m_refresh; }
+    DetailsReading& details() { return m_details; }
+    const DetailsReading& details() const { return m_details; }
     const QString& folderName() const { return m_folderName; }
     /// The one folder that is open and watched; nothing where files or several folders are.
     const std::optional<QUrl>& folderURL() const { return m_folderURL; }
@@ -110,6 +113,7 @@ private:
     std::shared_ptr<RecordCache> m_cache;
     PhotoList m_photos;
     FolderRefresh m_refresh;
+    DetailsReading m_details;
     QString m_folderName;
     std::optional<QUrl> m_folderURL;
     std::unique_ptr<Walk> m_walk;  ///< while it is under way

@@ -83,6 +83,7 @@ ModelFixture::ModelFixture()
 ModelFixture::ModelFixture(const std::optional<MetadataService>& service)
 {
     services.service = service;
+    services.detailsDelay = std::chrono::hours(1);
     services.preferences = std::make_shared<QSettings>(settings.filePath(u"settings.ini"_s), QSettings::IniFormat);
     model = std::make_unique<AppModel>(services);
 }
@@ -98,6 +99,13 @@ void ModelFixture::addTitled(const QStringList& names) const
 bool ModelFixture::open()
 {
     return load({ folderURL() });
+}
+
+void ModelFixture::lookAtDetails(decltype(AppModelServices::details) details)
+{
+    services.details = std::move(details);
+    services.detailsDelay = std::chrono::milliseconds(1);
+    relaunch();
 }
 
 bool ModelFixture::load(const QList<QUrl>& urls)

@@ -51,6 +51,9 @@ public:
     void addTitled(const QStringList& names) const;
     /// Opens the photo folder and waits for the read to end; whether that worked.
     bool open();
+    /// From now on the details of photos are read as soon as nothing else runs; else no test is disturbed by such runs.
+    /// `details`: by this instead of the tool. The model is built again.
+    void lookAtDetails(decltype(AppModelServices::details) details = {});
     bool load(const QList<QUrl>& urls);
     bool waitUntilIdle();
     void click(const QString& name, bool shift = false, bool command = false);

@@ -1,0 +1,506 @@
+#include "app/model/library/details/DetailsReading.h"
+
+#include "app/model/Background.h"
+#include "app/model/library/FolderRefresh.h"
+
+#include <QThread>
+
+#include <algorithm>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Of more selected photos only those in view are read.
+constexpr qsizetype mostSelected = 256;
+// What is one run: of the selected photos, of those in view, of all.
+constexpr qsizetype selectedAtOnce = 64;
+constexpr qsizetype inViewAtOnce = 32;
+constexpr qsizetype readAtOnce = 200;
+// So many of all are looked for in the cache at once, as long as it knows any.
+constexpr qsizetype lookedForAtOnce = 2000;
+// A photo that changes whenever it is read is left alone.
+constexpr int mostChanges = 3;
+// So often one run after the other may fail before the tool is given up. Of the halves of one that failed, one does not
+// fail again, unless there are several photos to fail at.
+constexpr int mostFailures = 10;
+// While all photos are looked at: the pause after something else has run.
+constexpr std::chrono::milliseconds shortDelay{ 100 };
+
+qsizetype patientRunsAtOnce()
+{
+    return std::max(1, QThread::idealThreadCount() / 2);
+}
+
+}  // namespace
+
+DetailsReading::DetailsReading(Announcer& announcer, RunningTasks& tasks, PhotoList& photos,
+    const FolderRefresh& writes, std::shared_ptr<RecordCache> cache)
+    : m_announcer(announcer)
+    , m_tasks(tasks)
+    , m_photos(photos)
+    , m_writes(writes)
+    , m_cache(std::move(cache))
+{
+    m_soon.setSingleShot(true);
+    connect(&m_soon, &QTimer::timeout, this, &DetailsReading::schedule);
+    connect(&m_tasks, &RunningTasks::busyChanged, this, [this] {
+        if (!m_tasks.isBusy())
+            return wake();
+        for (const Run& run : m_running)
+            stop(run);
+    });
+}
+
+DetailsReading::~DetailsReading()
+{
+    drop();
+}
+
+void DetailsReading::setAsking(DetailsReader::Ask ask, std::chrono::milliseconds delay)
+{
+    m_ask = std::move(ask);
+    m_delay = delay;
+}
+
+DetailsReading::Census DetailsReading::census() const
+{
+    return { m_store.disagreeing(), m_photos.records().size() - m_store.known(), m_isLooking,
+        m_photos.wanted().testFlag(PhotoTrait::disagreement) };
+}
+
+void DetailsReading::tell()
+{
+    m_announcer.assign(m_told, census(), Change::disagreements);
+}
+
+// --- What is wanted ---
+
+void DetailsReading::begin()
+{
+    const Announcer::Together together(m_announcer);
+    if (m_store.known() > 0)
+        m_announcer.announce(Change::details);
+    drop();
+    m_isCacheAsked = true;
+    m_isCacheUseful = true;
+    tell();
+    wake();
+}
+
+void DetailsReading::drop()
+{
+    for (const Run& run : std::exchange(m_running, {})) {
+        m_tasks.stop(run.id);
+        m_tasks.end(run.id);
+    }
+    m_wantsAll = false;
+    endSurvey();
+    m_reading.clear();
+    m_failed.clear();
+    m_changes.clear();
+    m_parts.clear();
+    m_all.clear();
+    m_kept.clear();
+    m_failures = 0;
+    m_isGivenUp = false;
+    discardInBackground(std::exchange(m_store, {}));
+}
+
+void DetailsReading::setSelected(const std::optional<QUrl>& first, const QSet<QUrl>& photos)
+{
+    m_first = first;
+    m_selected = photos;
+    wake();
+}
+
+void DetailsReading::setInView(const QList<QUrl>& photos)
+{
+    m_inView = photos;
+    wake();
+}
+
+void DetailsReading::setPaused(bool on)
+{
+    m_isPaused = on;
+    if (!on)
+        return wake();
+    for (const Run& run : m_running)
+        stop(run);
+}
+
+void DetailsReading::outdate(const QList<QUrl>& photos)
+{
+    const Announcer::Together together(m_announcer);
+    QList<QUrl> known;
+    for (const QUrl& photo : photos) {
+        m_failed.remove(photo);
+        m_changes.remove(photo);
+        for (Run& run : m_running)
+            run.outdated.insert(photo);
+        if (m_store.outdate(photo))
+            known.append(photo);
+    }
+    if (!known.isEmpty()) {
+        m_announcer.announce(Change::details);
+        emit changed(known);
+    }
+    tell();
+    wake();
+}
+
+void DetailsReading::noteAdded()
+{
+    tell();
+    wake();
+}
+
+void DetailsReading::forget(const QSet<QUrl>& photos)
+{
+    const Announcer::Together together(m_announcer);
+    bool wasAnyKnown = false;
+    for (const QUrl& photo : photos) {
+        wasAnyKnown = m_store.forget(photo) || wasAnyKnown;
+        m_failed.remove(photo);
+        m_kept.remove(photo);
+    }
+    if (wasAnyKnown)
+        m_announcer.announce(Change::details);
+    tell();
+}
+
+void DetailsReading::rename(const QUrl& source, const QUrl& destination)
+{
+    const Announcer::Together together(m_announcer);
+    if (m_store.rename(source, destination))
+        m_announcer.announce(Change::details);
+    for (QSet<QUrl>* photos : { &m_failed, &m_kept })
+        if (photos->remove(source))
+            photos->insert(destination);
+    wake();
+}
+
+void DetailsReading::readAgain()
+{
+    m_isCacheAsked = false;
+    m_isCacheUseful = false;
+}
+
+void DetailsReading::setFiltering(bool on)
+{
+    const Announcer::Together together(m_announcer);
+    m_photos.setWanted(m_photos.wanted().setFlag(PhotoTrait::disagreement, on));
+    if (on)
+        resume();
+    else
+        cancel();
+    tell();
+}
+
+void DetailsReading::cancel()
+{
+    const Announcer::Together together(m_announcer);
+    m_wantsAll = false;
+    for (const Run& run : m_running)
+        if (run.lane == Lane::patient)
+            stop(run);
+    endSurvey();
+    tell();
+}
+
+void DetailsReading::resume()
+{
+    const Announcer::Together together(m_announcer);
+    m_isGivenUp = false;
+    m_failures = 0;
+    m_wantsAll = m_photos.wanted().testFlag(PhotoTrait::disagreement);
+    m_isLooking = m_wantsAll && m_ask && m_store.known() + m_failed.size() < m_photos.records().size();
+    schedule();
+    tell();
+}
+
+void DetailsReading::setHeld(const QSet<QUrl>& photos)
+{
+    m_held = photos;
+    QList<QUrl> released;
+    for (const QUrl& photo : std::as_const(m_kept))
+        if (!m_held.contains(photo))
+            released.append(photo);
+    for (const QUrl& photo : std::as_const(released))
+        m_kept.remove(photo);
+    m_photos.setTrait(PhotoTrait::disagreement, released, false);
+}
+
+// --- What is read next ---
+
+void DetailsReading::wake()
+{
+    if (m_ask)
+        m_soon.start(m_wantsAll ? std::min(m_delay, shortDelay) : m_delay);
+}
+
+void DetailsReading::schedule()
+{
+    if (!m_ask || m_tasks.isBusy() || m_isPaused || m_isGivenUp)
+        return;
+    const Announcer::Together together(m_announcer);
+    startSelected();
+    startPatient();
+    tell();
+}
+
+void DetailsReading::startSelected()
+{
+    const auto running =
+        std::find_if(m_running.cbegin(), m_running.cend(), [](const Run& run) { return run.lane == Lane::selected; });
+    if (running == m_running.cend()) {
+        if (const QList<QUrl> photos = wantedSelected(); !photos.isEmpty())
+            start(Lane::selected, photos);
+        return;
+    }
+    const auto isSelected = [this](const QUrl& photo) { return m_selected.contains(photo); };
+    if (std::none_of(running->photos.cbegin(), running->photos.cend(), isSelected))
+        stop(*running);
+}
+
+void DetailsReading::startPatient()
+{
+    const auto runs = [this] {
+        return std::count_if(
+            m_running.cbegin(), m_running.cend(), [](const Run& run) { return run.lane == Lane::patient; });
+    };
+    while (runs() < patientRunsAtOnce()) {
+        QList<QUrl> photos = nextPart();
+        if (photos.isEmpty())
+            photos = wantedInView();
+        if (photos.isEmpty() && m_wantsAll)
+            photos = nextOfAll();
+        if (photos.isEmpty())
+            return;
+        start(Lane::patient, photos);
+    }
+}
+
+bool DetailsReading::isWanted(const ImageRecord& photo) const
+{
+    return !photo.isUnread && !m_failed.contains(photo.url) && !m_store.isKnown(photo.url);
+}
+
+bool DetailsReading::isWanted(const QUrl& photo) const
+{
+    const ImageRecord* record = m_photos.record(photo);
+    return record && isWanted(*record);
+}
+
+// They are read even where they are part of a larger run: that may take its time.
+QList<QUrl> DetailsReading::wantedSelected() const
+{
+    QList<QUrl> wanted;
+    if (m_first && isWanted(*m_first))
+        wanted.append(*m_first);
+    if (m_selected.size() > mostSelected)
+        return wanted;
+    for (const QUrl& photo : m_selected) {
+        if (wanted.size() == selectedAtOnce)
+            break;
+        if (photo != m_first && isWanted(photo))
+            wanted.append(photo);
+    }
+    return wanted;
+}
+
+QList<QUrl> DetailsReading::wantedInView() const
+{
+    QList<QUrl> wanted;
+    for (const QUrl& photo : m_inView)
+        if (wanted.size() < inViewAtOnce && isWanted(photo) && !m_reading.contains(photo))
+            wanted.append(photo);
+    return wanted;
+}
+
+QList<QUrl> DetailsReading::nextPart()
+{
+    QList<QUrl> part;
+    while (part.isEmpty() && !m_parts.empty()) {
+        part = std::move(m_parts.back());
+        m_parts.pop_back();
+        part.removeIf([this](const QUrl& photo) { return !isWanted(photo) || m_reading.contains(photo); });
+    }
+    return part;
+}
+
+// Of all photos; none when the look at them is at its end.
+QList<QUrl> DetailsReading::nextOfAll()
+{
+    QList<QUrl> next;
+    for (const bool isFull : { false, true }) {
+        if (isFull)
+            fillAll();
+        qsizetype looked = 0;
+        while (looked < m_all.size() && next.size() < ofAllAtOnce()) {
+            const QUrl& photo = m_all.at(looked++);
+            if (isWanted(photo) && !m_reading.contains(photo))
+                next.append(photo);
+        }
+        m_all.remove(0, looked);
+        if (!next.isEmpty()) {
+            showSurvey();
+            return next;
+        }
+    }
+    if (m_running.empty())
+        endSurvey();
+    return {};
+}
+
+qsizetype DetailsReading::ofAllAtOnce() const
+{
+    return m_cache && m_isCacheUseful ? lookedForAtOnce : readAtOnce;
+}
+
+void DetailsReading::fillAll()
+{
+    m_all.clear();
+    for (const ImageRecord& photo : m_photos.records())
+        if (isWanted(photo))
+            m_all.append(photo.url);
+}
+
+void DetailsReading::showSurvey()
+{
+    m_isLooking = true;
+    const qsizetype total = m_photos.records().size() - m_failed.size();
+    if (!m_survey)
+        m_survey = m_tasks.begin(RunningTasks::Kind::survey, total);
+    m_survey->progress->total = total;
+    m_survey->progress->done = m_store.known();
+}
+
+void DetailsReading::endSurvey()
+{
+    m_isLooking = false;
+    if (const auto survey = std::exchange(m_survey, std::nullopt))
+        m_tasks.end(survey->id);
+}
+
+// --- Runs ---
+
+void DetailsReading::start(Lane lane, const QList<QUrl>& photos)
+{
+    const bool isOfSurvey = lane == Lane::patient && m_survey;
+    const RunningTasks::Task task =
+        m_tasks.begin(RunningTasks::Kind::details, photos.size(), photos, isOfSurvey ? m_survey->id : 0);
+    m_running.push_back({ task.id, lane, photos, m_writes.writes(), {} });
+    m_reading.unite(QSet<QUrl>(photos.cbegin(), photos.cend()));
+    DetailsReader::Order order{ .most = readAtOnce, .cache = m_cache, .isCacheAsked = m_isCacheAsked };
+    order.photos.reserve(photos.size());
+    for (const QUrl& photo : photos)
+        order.photos.append(*m_photos.record(photo));
+    runPatiently(
+        this,
+        [ask = m_ask, order = std::move(order), progress = task.progress, stop = task.stop.get_token()] {
+            return DetailsReader::read(ask, order, *progress, stop);
+        },
+        [this, id = task.id](const DetailsReader::Result& result) { finish(id, result); });
+}
+
+void DetailsReading::stop(const Run& run)
+{
+    m_tasks.stop(run.id);
+}
+
+void DetailsReading::finish(int id, const DetailsReader::Result& result)
+{
+    const auto ended = std::find_if(m_running.begin(), m_running.end(), [id](const Run& run) { return run.id == id; });
+    if (ended == m_running.end())
+        return;
+    const Announcer::Together together(m_announcer);
+    const Run run = *ended;
+    m_running.erase(ended);
+    m_reading.subtract(QSet<QUrl>(run.photos.cbegin(), run.photos.cend()));
+    const std::optional<RunningTasks::Task> task = m_tasks.end(id);
+    if (task && task->skipped)
+        m_failed.insert(*task->skipped);
+    take(run, result);
+    if (m_survey && run.lane == Lane::patient) {
+        m_isCacheUseful = m_isCacheUseful && (result.known > 0 || result.isCancelled);
+        m_all = run.photos + m_all;
+        m_survey->progress->done = m_store.known();
+    }
+    if (result.error)
+        noteFailure(result.asked, *result.error);
+    else if (!result.asked.isEmpty() && !result.isCancelled)
+        m_failures = 0;
+    schedule();
+    tell();
+}
+
+// Without what changed since the run began, and what is gone.
+void DetailsReading::take(const Run& run, const DetailsReader::Result& result)
+{
+    const auto isOfNow = [&](const QUrl& photo) {
+        return isOpen(photo) && !run.outdated.contains(photo) && !m_writes.wasWritten(photo, run.writes);
+    };
+    QList<QUrl> found;
+    for (const PhotoDetails& details : result.found) {
+        if (!isOfNow(details.url))
+            continue;
+        m_store.put(details);
+        m_changes.remove(details.url);
+        found.append(details.url);
+    }
+    for (const QUrl& photo : result.unreadable)
+        if (isOfNow(photo))
+            m_failed.insert(photo);
+    for (const QUrl& photo : result.changed)
+        if (isOfNow(photo) && ++m_changes[photo] >= mostChanges)
+            m_failed.insert(photo);
+    if (found.isEmpty())
+        return;
+    list(found);
+    m_announcer.announce(Change::details);
+    emit changed(found);
+}
+
+// The list hears which of these disagree.
+void DetailsReading::list(const QList<QUrl>& photos)
+{
+    QList<QUrl> disagreeing;
+    QList<QUrl> agreeing;
+    for (const QUrl& photo : photos) {
+        if (m_store.disagrees(photo)) {
+            disagreeing.append(photo);
+            m_kept.remove(photo);
+        } else if (m_held.contains(photo)) {
+            m_kept.insert(photo);
+        } else {
+            agreeing.append(photo);
+        }
+    }
+    m_photos.setTrait(PhotoTrait::disagreement, agreeing, false);
+    m_photos.setTrait(PhotoTrait::disagreement, disagreeing, true);
+}
+
+// The halves of what failed as a whole are read by themselves, until the photo is found at which the tool fails.
+void DetailsReading::noteFailure(const QList<QUrl>& photos, const QString& reason)
+{
+    if (photos.size() < 2) {
+        m_failed.unite(QSet<QUrl>(photos.cbegin(), photos.cend()));
+        return;
+    }
+    const qsizetype half = photos.size() / 2;
+    m_parts.push_back(photos.first(half));
+    m_parts.push_back(photos.sliced(half));
+    if (++m_failures < mostFailures)
+        return;
+    m_isGivenUp = true;
+    m_parts.clear();
+    if (!m_wantsAll)
+        return;
+    cancel();
+    emit problem(u"Could not read metadata: "_s + reason);
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,126 @@
+#include "app/model/library/details/DetailsStore.h"
+
+#include "core/schema/KeywordPath.h"
+#include "core/text/Text.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace Quorbel {
+
+const PhotoDetails* DetailsStore::findLast(const QUrl& photo) const
+{
+    const auto held = m_details.constFind(photo);
+    return held == m_details.cend() ? nullptr : &*held;
+}
+
+const PhotoDetails* DetailsStore::find(const QUrl& photo) const
+{
+    return m_outdated.contains(photo) ? nullptr : findLast(photo);
+}
+
+bool DetailsStore::disagrees(const QUrl& photo) const
+{
+    const PhotoDetails* last = findLast(photo);
+    return last && !last->disagreements.isEmpty();
+}
+
+void DetailsStore::put(PhotoDetails details)
+{
+    forget(details.url);
+    share(details);
+    count(details, 1);
+    const QUrl photo = details.url;
+    m_details.insert(photo, std::move(details));
+}
+
+bool DetailsStore::outdate(const QUrl& photo)
+{
+    if (!isKnown(photo))
+        return false;
+    m_outdated.insert(photo);
+    return true;
+}
+
+bool DetailsStore::forget(const QUrl& photo)
+{
+    const auto held = m_details.constFind(photo);
+    if (held == m_details.cend())
+        return false;
+    count(*held, -1);
+    m_details.erase(held);
+    m_outdated.remove(photo);
+    return true;
+}
+
+bool DetailsStore::rename(const QUrl& source, const QUrl& destination)
+{
+    forget(destination);
+    const auto held = m_details.constFind(source);
+    if (held == m_details.cend())
+        return false;
+    PhotoDetails details = *held;
+    m_details.erase(held);
+    details.url = destination;
+    m_details.insert(destination, std::move(details));
+    if (m_outdated.remove(source))
+        m_outdated.insert(destination);
+    return true;
+}
+
+void DetailsStore::count(const PhotoDetails& details, int step)
+{
+    m_disagreeing += details.disagreements.isEmpty() ? 0 : step;
+    for (const QString& path : details.paths) {
+        int& uses = m_paths[path];
+        uses += step;
+        if (uses <= 0)
+            m_paths.remove(path);
+    }
+}
+
+// Names of tags and keys, and paths, are those of many photos.
+void DetailsStore::share(PhotoDetails& details)
+{
+    QMap<QString, QString> languages;
+    for (auto text = details.languages.cbegin(); text != details.languages.cend(); ++text) {
+        QString key = text.key();
+        m_texts.share(key);
+        languages.insert(languages.cend(), key, *text);
+    }
+    details.languages = std::move(languages);
+    for (QString& path : details.paths)
+        m_texts.share(path);
+    for (QList<FieldHome>& homes : details.disagreements)
+        for (FieldHome& home : homes)
+            m_texts.share(home.tag);
+}
+
+QStringList DetailsStore::paths(const QString& prefix, int limit) const
+{
+    struct Use {
+        QString path;
+        bool isParent = false;  // only an element above the keyword begins with it
+        int count = 0;
+    };
+    std::vector<Use> found;
+    const auto fits = [&prefix](const QString& element) { return element.startsWith(prefix, Qt::CaseInsensitive); };
+    for (auto use = m_paths.cbegin(); use != m_paths.cend(); ++use) {
+        const QStringList elements = KeywordPath::elements(use.key());
+        if (std::any_of(elements.cbegin(), elements.cend(), fits))
+            found.push_back({ use.key(), !fits(elements.constLast()), use.value() });
+    }
+    const auto end = found.begin() + std::min(std::ptrdiff_t(found.size()), std::ptrdiff_t(std::max(limit, 0)));
+    std::partial_sort(found.begin(), end, found.end(), [](const Use& a, const Use& b) {
+        const auto rank = [](const Use& use) { return std::tuple(use.isParent, -use.count); };
+        if (rank(a) != rank(b))
+            return rank(a) < rank(b);
+        const int order = Text::naturalCompare(a.path, b.path);
+        return order != 0 ? order < 0 : a.path < b.path;
+    });
+    QStringList paths;
+    std::transform(found.begin(), end, std::back_inserter(paths), [](const Use& use) { return use.path; });
+    return paths;
+}
+
+}  // namespace Quorbel
