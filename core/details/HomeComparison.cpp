@@ -19,9 +19,17 @@ namespace {
 // Degrees: EXIF's seconds with two decimals and XMP's minutes with four, both cut off, are up to 4.5e-6 apart.
 constexpr double positionTolerance = 5e-6;
 
-StoredText::Stored textOf(const Held& held, const QString& text)
+StoredText textOf(const Held& held, const QString& text)
 {
-    return { .tag = held.tag, .text = text, .declaresEncoding = held.declaresEncoding };
+    return { held.tag, text, held.declaresEncoding };
+}
+
+QList<StoredText> textsOf(const Held& held)
+{
+    QList<StoredText> texts;
+    for (const QString& item : held.items)
+        texts.append(textOf(held, item));
+    return texts;
 }
 
 // Year, month, day, hour and minute, as far as the text goes; nothing for what is no date. Of a zone it takes no
@@ -29,7 +37,8 @@ StoredText::Stored textOf(const Held& held, const QString& text)
 QStringList dateParts(const QString& text)
 {
     static const QRegularExpression form(
-        uR"(^(\d{4})(?:[:-](\d{2})(?:[:-](\d{2})(?:[ T](\d{2}):(\d{2})(?::\d{2}(?:\.\d*)?)?)?)?)?\s*(?:Z|[+-]\d{2}:?\d{2})?$)"_s);
+        uR"(^(\d{4})(?:[:-](\d{2})(?:[:-](\d{2})(?:[ T](\d{2}):(\d{2})(?::\d{2}(?:\.\d*)?)?)?)?)?)"
+        uR"([:-]?\s*[A-Z]{0,4}(?:[+-]\d{1,2}:?\d{0,2})?$)"_s);
     const QStringList captured = form.match(Text::trimmedWithNewlines(text)).capturedTexts().mid(1);
     QStringList parts;
     for (qsizetype i = 0; i < captured.size() && !captured.at(i).isEmpty(); ++i) {
@@ -67,23 +76,31 @@ bool isSamePosition(const QString& a, const QString& b)
         && std::abs(first->longitude - second->longitude) < positionTolerance;
 }
 
+bool isSameOne(const StoredText& a, const StoredText& b)
+{
+    return a.isSame(b);
+}
+
 // Each on its own, where both hold as many.
 bool isSameInOrder(const Held& a, const Held& b)
 {
-    return std::equal(a.items.cbegin(), a.items.cend(), b.items.cbegin(), b.items.cend(),
-        [&](const QString& x, const QString& y) { return StoredText::isSame(textOf(a, x), textOf(b, y)); });
+    const QList<StoredText> first = textsOf(a);
+    const QList<StoredText> second = textsOf(b);
+    return std::equal(first.cbegin(), first.cend(), second.cbegin(), second.cend(), isSameOne);
 }
 
 bool isSameSet(const Held& a, const Held& b)
 {
-    const auto holdsAllOf = [](const Held& one, const Held& other) {
-        return std::all_of(other.items.cbegin(), other.items.cend(), [&](const QString& item) {
-            return one.items.contains(item)
-                || std::any_of(one.items.cbegin(), one.items.cend(),
-                    [&](const QString& mine) { return StoredText::isSame(textOf(one, mine), textOf(other, item)); });
+    const auto holdsAllOf = [](const QList<StoredText>& one, const QList<StoredText>& other) {
+        return std::all_of(other.cbegin(), other.cend(), [&one](const StoredText& item) {
+            return std::any_of(one.cbegin(), one.cend(), [&item](const StoredText& mine) { return mine.isSame(item); });
         });
     };
-    return holdsAllOf(a, b) && holdsAllOf(b, a);
+    if (a.items == b.items)
+        return true;
+    const QList<StoredText> first = textsOf(a);
+    const QList<StoredText> second = textsOf(b);
+    return holdsAllOf(first, second) && holdsAllOf(second, first);
 }
 
 // EXIF keeps all creators in one text.
@@ -105,17 +122,20 @@ bool isOneNoticeOf(const Held& exif, const Held& other)
         return false;
     const QStringList notices = StoredText::normal(exif.items.value(0)).split(u'\n', Qt::SkipEmptyParts);
     return notices.size() == 2 && std::any_of(notices.cbegin(), notices.cend(), [&](const QString& notice) {
-        return StoredText::isSame(textOf(exif, notice), textOf(other, other.items.value(0)));
+        return textOf(exif, notice).isSame(textOf(other, other.items.value(0)));
     });
+}
+
+bool isSameOneByOneOrJoined(const Held& a, const Held& b)
+{
+    const auto joined = [](const Held& held) { return textOf(held, held.items.join(u", "_s)); };
+    return isSameInOrder(a, b) || joined(a).isSame(joined(b));
 }
 
 bool isSameText(const Held& a, const Held& b)
 {
-    const Held first = withSplitCreators(a);
-    const Held second = withSplitCreators(b);
-    const auto joined = [](const Held& held) { return textOf(held, held.items.join(u", "_s)); };
-    return isSameInOrder(first, second) || StoredText::isSame(joined(first), joined(second)) || isOneNoticeOf(a, b)
-        || isOneNoticeOf(b, a);
+    return isSameOneByOneOrJoined(a, b) || isSameOneByOneOrJoined(withSplitCreators(a), withSplitCreators(b))
+        || isOneNoticeOf(a, b) || isOneNoticeOf(b, a);
 }
 
 QString only(const Held& held)

@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <array>
 
-namespace Quorbel::StoredText {
+namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
@@ -32,22 +32,22 @@ int longest(const QString& tag)
 // Of which a limit may have taken a part, or white space at the end.
 constexpr int longestCharacter = 4;
 
-bool isFull(const Stored& stored)
+bool isFull(const QString& tag, const QString& text)
 {
-    const int limit = longest(stored.tag);
+    const int limit = longest(tag);
     const auto reaches = [limit](qsizetype size) { return size > limit - longestCharacter && size <= limit; };
     // Some programs count characters.
-    return limit > 1 && (reaches(stored.text.size()) || reaches(stored.text.toUtf8().size()));
+    return limit > 1 && (reaches(text.size()) || reaches(text.toUtf8().size()));
 }
 
 // What the text may have been meant to be.
-QStringList readings(const Stored& stored)
+QStringList readings(const QString& stored, bool declaresEncoding)
 {
     static constexpr std::array encodings{ "UTF-8", "macintosh", "windows-1250", "windows-1251", "windows-1253",
         "windows-1254", "IBM437", "IBM850", "Shift_JIS", "EUC-JP", "GB18030", "Big5", "EUC-KR" };
-    QStringList texts{ normal(stored.text) };
-    const bool isAscii = std::all_of(stored.text.cbegin(), stored.text.cend(), [](QChar c) { return c < QChar(0x80); });
-    const auto bytes = stored.declaresEncoding || isAscii ? std::nullopt : CodePage1252::encoded(stored.text);
+    QStringList texts{ StoredText::normal(stored) };
+    const bool isAscii = std::all_of(stored.cbegin(), stored.cend(), [](QChar c) { return c < QChar(0x80); });
+    const auto bytes = declaresEncoding || isAscii ? std::nullopt : CodePage1252::encoded(stored);
     if (!bytes)
         return texts;
     for (const char* encoding : encodings)
@@ -55,7 +55,7 @@ QStringList readings(const Stored& stored)
             QString text = decoder(*bytes);
             while (text.endsWith(QChar::ReplacementCharacter))  // cut off within a character
                 text.chop(1);
-            texts.append(normal(text));
+            texts.append(StoredText::normal(text));
         }
     texts.removeDuplicates();
     return texts;
@@ -98,25 +98,22 @@ bool isWithMarks(QStringView text, QStringView intact, bool mayEndEarly)
     return at == text.size() && (mayEndEarly || in == intact.size());
 }
 
-// Whether the first is what became of the second in its home.
-bool isFormOf(const Stored& form, const Stored& whole)
-{
-    const bool isCutOff = isFull(form);
-    // What EXIF holds in another encoding than UTF-8, the tool prints with question marks.
-    const bool hasMarks = (!form.declaresEncoding || form.tag.startsWith(u"EXIF:"_s)) && form.text.contains(u'?');
-    const QStringList wholes = readings(whole);
-    const QStringList forms = readings(form);
-    return std::any_of(wholes.cbegin(), wholes.cend(), [&](const QString& intact) {
-        return std::any_of(forms.cbegin(), forms.cend(), [&](const QString& text) {
-            return text == intact || (isCutOff && intact.startsWith(text))
-                || (hasMarks && isWithMarks(text, intact, isCutOff));
-        });
-    });
-}
-
 }  // namespace
 
-QString normal(const QString& text)
+// What EXIF holds in another encoding than UTF-8, the tool prints with question marks.
+StoredText::StoredText(const QString& tag, const QString& text, bool declaresEncoding)
+    : m_readings(readings(text, declaresEncoding))
+    , m_isCutOff(isFull(tag, text))
+    , m_hasMarks((!declaresEncoding || tag.startsWith(u"EXIF:"_s)) && text.contains(u'?'))
+{
+}
+
+bool StoredText::isSame(const StoredText& other) const
+{
+    return m_readings.constFirst() == other.m_readings.constFirst() || isFormOf(other) || other.isFormOf(*this);
+}
+
+QString StoredText::normal(const QString& text)
 {
     QString lines = text;
     lines.replace(u"\r\n"_s, u"\n"_s);
@@ -125,9 +122,14 @@ QString normal(const QString& text)
     return Text::trimmedWithNewlines(lines);
 }
 
-bool isSame(const Stored& a, const Stored& b)
+bool StoredText::isFormOf(const StoredText& whole) const
 {
-    return normal(a.text) == normal(b.text) || isFormOf(a, b) || isFormOf(b, a);
+    return std::any_of(whole.m_readings.cbegin(), whole.m_readings.cend(), [this](const QString& intact) {
+        return std::any_of(m_readings.cbegin(), m_readings.cend(), [&](const QString& text) {
+            return text == intact || (m_isCutOff && intact.startsWith(text))
+                || (m_hasMarks && isWithMarks(text, intact, m_isCutOff));
+        });
+    });
 }
 
-}  // namespace Quorbel::StoredText
+}  // namespace Quorbel
