@@ -7,6 +7,7 @@
 #include "core/save/SaveGuard.h"
 #include "core/save/ValueTooLong.h"
 #include "core/save/journal/JournalTags.h"
+#include "core/save/together/PhotoPlans.h"
 #include "core/schema/CustomFields.h"
 #include "core/tool/IptcEncoding.h"
 #include "core/tool/MetadataWriter.h"
@@ -34,7 +35,7 @@ PhotoRead::Outcome MetadataService::readEach(const QList<QUrl>& urls, const Read
 QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options,
     const QList<Preparation>& preparations, WriteNotes* notes) const
 {
-    const WriteCommand command{ .assignments = MetadataWriter::assignments(plan) };
+    const WriteCommand command = MetadataWriter::command(plan);
     if (command.isEmpty() || targets.isEmpty())
         return {};
     requireShortValues(plan);
@@ -43,7 +44,7 @@ QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets,
         SafeWriter::write(runner, command, targets, options.backupOriginals, customNames, preparations, notes);
     if (!options.writeSidecar)
         return output;
-    const auto failures = Companions::writeSidecars(runner, command.assignments, targets, customNames);
+    const auto failures = Companions::writeSidecars(runner, command, targets, customNames);
     if (notes)
         notes->sidecars = failures;
     return output;
@@ -59,21 +60,23 @@ QMap<QUrl, QMap<QString, QString>> MetadataService::refusedHomes(const EditPlan&
     return RefusedHomes::find(runner, plan, targets);
 }
 
-JournalEntry MetadataService::journalEntry(const EditPlan& plan, const QList<QUrl>& targets,
-    const WriteOptions& options, QHash<QString, QString>* fileTypes) const
+JournalEntry MetadataService::journalEntry(
+    const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options) const
 {
-    return SaveUndo::journalEntry(runner, plan, targets, options, fileTypes);
+    const OldValues known = plan.isEmpty() ? OldValues() : oldValues(PhotoPlans::tagsBefore({ plan }), targets);
+    return SaveUndo::journalEntry(
+        known, [&plan](const QUrl&) { return plan; }, targets, options);
 }
 
-OldValues MetadataService::oldValues(const QList<QUrl>& targets, const ReadControl& control) const
+OldValues MetadataService::oldValues(
+    const QStringList& tags, const QList<QUrl>& targets, const ReadControl& control) const
 {
-    return SaveUndo::oldValues(runner, targets, control);
+    return SaveUndo::oldValues(runner, tags, targets, control);
 }
 
 QHash<QUrl, FileTags> MetadataService::stored(
-    const EditPlan& plan, const QList<QUrl>& targets, const ReadControl& control) const
+    QStringList tagNames, const QList<QUrl>& targets, const ReadControl& control) const
 {
-    QStringList tagNames = JournalTags::writtenTags(plan);
     tagNames.removeAll(IptcEncoding::blockTag());
     const QStringList selection = JournalTags::readArgs(tagNames);
     const QList<QUrl> files = SaveGuard::filesBehindLinks(targets);

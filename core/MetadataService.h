@@ -36,14 +36,14 @@ struct MetadataService {
     QHash<QUrl, PhotoDetails> details(const QList<ImageRecord>& photos, const ReadControl& control = {}) const;
     /// See RefusedHomes::find().
     QMap<QUrl, QMap<QString, QString>> refusedHomes(const EditPlan& plan, const QList<QUrl>& targets) const;
-    /// See SaveUndo.
-    JournalEntry journalEntry(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options = {},
-        QHash<QString, QString>* fileTypes = nullptr) const;
-    OldValues oldValues(const QList<QUrl>& targets, const ReadControl& control = {}) const;
-    /// What the files behind the targets hold in the tags of the plan, as it is stored: one run, for the targets that
-    /// could be read. Throws the runner's errors.
+    /// What a save of just this plan, which knows nothing of the photos, is about to replace; see SaveUndo.
+    JournalEntry journalEntry(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options = {}) const;
+    /// See SaveUndo::oldValues().
+    OldValues oldValues(const QStringList& tags, const QList<QUrl>& targets, const ReadControl& control = {}) const;
+    /// What the files behind the targets hold in these tags, named as assignments name them, as it is stored: one run,
+    /// for the targets that could be read. Throws the runner's errors.
     QHash<QUrl, FileTags> stored(
-        const EditPlan& plan, const QList<QUrl>& targets, const ReadControl& control = {}) const;
+        QStringList tagNames, const QList<QUrl>& targets, const ReadControl& control = {}) const;
     UndoOutcome undo(const JournalEntry& entry) const;
     /// See Companions::movePhoto().
     void renameFile(const QUrl& source, const QUrl& destination) const;

@@ -98,20 +98,34 @@ int move(const QString& from, const QString& to)
     return error == EEXIST && differsByCase && !isListed(to) ? changeCase(from, to) : error;
 }
 
-// What of the assignments takes a tag away, in its XMP form.
+// What of the assignments takes a tag, or items of one, away, in its XMP form.
 QList<Assignment> clearedXmp(const QList<Assignment>& assignments)
 {
+    using enum Assignment::Operation;
     QList<Assignment> cleared;
     for (const auto& assignment : assignments) {
         const auto isOfTag = [&assignment](const Assignment& other) { return other.tag == assignment.tag; };
-        const bool clears = assignment.operation == Assignment::Operation::set && assignment.value.isEmpty()
+        const bool clears = assignment.operation == set && assignment.value.isEmpty()
             && std::count_if(assignments.cbegin(), assignments.cend(), isOfTag) == 1;
-        if (clears && homeOf(assignment.tag) == u"XMP")
+        const bool takesAway =
+            assignment.operation == remove && !assignments.contains({ assignment.tag, add, assignment.value });
+        if ((clears || takesAway) && homeOf(assignment.tag) == u"XMP")
             cleared.append(assignment);
         else if (clears && (assignment.tag == u"GPSLatitude" || assignment.tag == u"GPSLongitude"))
             cleared.append({ .tag = u"XMP:"_s + assignment.tag });
     }
     return cleared;
+}
+
+// An emptied text leaves those in further languages, which the sidecar has got from the photo by then.
+WriteCommand clearing(const WriteCommand& command)
+{
+    WriteCommand clearing{ .assignments = clearedXmp(command.assignments),
+        .keptLanguages = command.keptLanguages,
+        .languages = clearedXmp(command.languages) };
+    clearing.keptLanguages.removeIf(
+        [&clearing](const QString& tag) { return !clearing.assignments.contains({ .tag = tag }); });
+    return clearing;
 }
 
 void writeSidecar(
@@ -165,10 +179,10 @@ void movePhoto(const QUrl& source, const QUrl& destination)
     move(backupPath(from), backupPath(to));
 }
 
-QList<FileFailure> writeSidecars(const ExifToolRunner& runner, const QList<Assignment>& assignments,
-    const QList<QUrl>& photos, const QStringList& customNames)
+QList<FileFailure> writeSidecars(const ExifToolRunner& runner, const WriteCommand& command, const QList<QUrl>& photos,
+    const QStringList& customNames)
 {
-    const WriteCommand clearing{ .assignments = clearedXmp(assignments) };
+    const WriteCommand further = clearing(command);
     QList<FileFailure> failures;
     for (const auto& photo : photos) {
         const QString path = sidecarPath(photo.toLocalFile());
@@ -176,7 +190,7 @@ QList<FileFailure> writeSidecars(const ExifToolRunner& runner, const QList<Assig
             if (SaveGuard::isReadOnly(QUrl::fromLocalFile(path)))
                 failures.append({ QUrl::fromLocalFile(path), u"read-only"_s });
             else
-                writeSidecar(runner, photo, clearing, customNames);
+                writeSidecar(runner, photo, further, customNames);
         } catch (const Error& error) {
             failures.append({ QUrl::fromLocalFile(path), reasonOf(error) });
         }

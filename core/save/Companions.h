@@ -2,7 +2,7 @@
 // Thread: any. The names are pure; the rest touches files and blocks.
 #pragma once
 
-#include "core/tool/Assignment.h"
+#include "core/tool/WriteCommand.h"
 #include "core/tool/WriteFailures.h"
 
 namespace Quorbel {
@@ -23,9 +23,9 @@ QString backupPath(const QString& photo);
 void movePhoto(const QUrl& source, const QUrl& destination);
 
 /// Brings the sidecars of these photos up to date: a run each copies the photo's XMP, and where that leaves what the
-/// assignments clear, a second one clears it. A linked sidecar stands for the file that it points to; attributes, mode
-/// and owner survive. Those that may not, or could not, be written to are left as they are and named.
-QList<FileFailure> writeSidecars(const ExifToolRunner& runner, const QList<Assignment>& assignments,
-    const QList<QUrl>& photos, const QStringList& customNames);
+/// command takes away, a second one takes it away there too. A linked sidecar stands for the file that it points to;
+/// attributes, mode and owner survive. Those that may not, or could not, be written to are left as they are and named.
+QList<FileFailure> writeSidecars(const ExifToolRunner& runner, const WriteCommand& command, const QList<QUrl>& photos,
+    const QStringList& customNames);
 
 }  // namespace Quorbel::Companions

@@ -17,6 +17,12 @@ struct EditPlan {
     /// Homes (homeOf()) that the save does not write to, because the files' own cannot be written.
     QStringList leftOut{};
 
+    /// What belongs to fields of the plan in these photos and is written with them, by field id. Decided from what the
+    /// photos hold (PhotoPlans), like the next one.
+    QMap<QString, QList<Assignment>> together{};
+    /// Of the tags of fields whose own text the plan writes: those whose texts in further languages stay.
+    QStringList keptLanguages{};
+
     /// Nothing to write; the list mode plays no part.
     bool isEmpty() const { return scalars.isEmpty() && lists.isEmpty() && customs.isEmpty() && paths.isEmpty(); }
     bool operator==(const EditPlan&) const = default;

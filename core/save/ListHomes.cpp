@@ -159,6 +159,15 @@ public:
                 join(m_homes.intact(item));
         return m_items;
     }
+    /// Every spelling of what was on screen and is not in items().
+    QStringList takenAway() const
+    {
+        QStringList gone;
+        for (const QString& item : m_homes.all())
+            if (m_gone.contains(m_homes.intact(item)) && !m_items.contains(item))
+                gone.append(item);
+        return gone;
+    }
     /// The list holds what nobody saw or typed.
     bool isJoined() const { return m_isJoined; }
 
@@ -213,6 +222,8 @@ Change change(const EditPlan& plan, const FileTags& before, const QString& fileT
         }
         Replacement replacement(homes, *list, seen.value(list.key()));
         change.items.insert(list.key(), replacement.items());
+        if (const QStringList gone = replacement.takenAway(); !gone.isEmpty())
+            change.takenAway.insert(list.key(), gone);
         if (replacement.isJoined())
             change.joined.append(list.key());
     }

@@ -24,6 +24,8 @@ struct Change {
     /// Field id to the items of every home afterwards. A plan that replaces has to write just these, as they stand; one
     /// that appends leaves them among others.
     QMap<QString, QStringList> items{};
+    /// Field id to the items, as files spell them, that were seen and leave all homes.
+    QMap<QString, QStringList> takenAway{};
     QStringList joined{};  ///< ids of the fields whose homes this brings together
     bool operator==(const Change&) const = default;
 };

@@ -24,7 +24,7 @@ WriteCommand commandFor(EditPlan plan, const QStringList& homes, const QString& 
 {
     plan.leftOut += homes;
     plan.leftOut.removeAll(home);
-    return { .assignments = MetadataWriter::assignments(plan) };
+    return MetadataWriter::command(plan);
 }
 
 }  // namespace

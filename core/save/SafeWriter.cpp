@@ -169,7 +169,7 @@ private:
 QString write(const ExifToolRunner& runner, const WriteCommand& command, const QList<QUrl>& targets, bool backup,
     const QStringList& customNames, const QList<Preparation>& preparations, WriteNotes* notes)
 {
-    requireOneWay(command.assignments);
+    requireOneWay(command.assignments + command.languages);
     for (const auto& preparation : preparations)
         requireOneWay(preparation.command.assignments);
     const auto files = SaveGuard::filesBehindLinks(targets);

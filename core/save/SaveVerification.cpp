@@ -2,6 +2,7 @@
 
 #include "core/save/TagHomes.h"
 #include "core/schema/CustomFields.h"
+#include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/Coordinates.h"
 #include "core/text/Text.h"
@@ -138,6 +139,39 @@ bool holdsInHomes(const EditPlan& plan, const FieldSpec& field, const QStringLis
     });
 }
 
+// Of what is written beside the fields. A tag that is assigned holds just that, in some place.
+bool holdsTogether(const EditPlan& plan, const QString& id, const FileTags& stored)
+{
+    using enum Assignment::Operation;
+    const QList<Assignment> assignments = plan.together.value(id);
+    return std::all_of(assignments.cbegin(), assignments.cend(), [&](const Assignment& written) {
+        const QStringList items = TagHomes::itemsOf(written.tag, stored);
+        if (plan.leftOut.contains(homeOf(written.tag)))
+            return true;
+        if (written.operation == remove)
+            return !items.contains(written.value) || assignments.contains({ written.tag, add, written.value });
+        return written.value.isEmpty() ? items.isEmpty() : items.contains(written.value);
+    });
+}
+
+// A text in a further language stands in one home only.
+QStringList languageDifferences(const EditPlan& plan, const FileTags& stored)
+{
+    QStringList keys;
+    for (auto it = plan.scalars.cbegin(); it != plan.scalars.cend(); ++it) {
+        const auto language = FieldLanguages::languageIn(it.key());
+        if (!language || plan.leftOut.contains(u"XMP"_s))
+            continue;
+        const QStringList found = TagHomes::itemsOf(FieldLanguages::tag(it.key()), stored);
+        const bool isSame = it->isEmpty() ? found.isEmpty()
+                                          : found.contains(*it)
+                || (!found.isEmpty() && sameInHome(*language->field, *it, found.constFirst().toUtf8()));
+        if (!isSame)
+            keys.append(it.key());
+    }
+    return keys;
+}
+
 bool holdsCustom(const ImageRecord& record, const CustomValue& custom)
 {
     const auto name = MetadataWriter::sanitizeCustomName(custom.name);
@@ -178,7 +212,11 @@ QStringList differences(const EditPlan& plan, const ImageRecord& record, const F
             if (!sameList(plan, *list, record.lists.value(field.id))
                 || (stored && !holdsInHomes(plan, field, *list, record.fileType, *stored)))
                 keys.append(field.id);
+        if (stored && !keys.contains(field.id) && !holdsTogether(plan, field.id, *stored))
+            keys.append(field.id);
     }
+    if (stored)
+        keys += languageDifferences(plan, *stored);
     for (const auto& custom : plan.customs)
         if (!holdsCustom(record, custom))
             keys.append(CustomFields::key(custom.name));
@@ -187,8 +225,10 @@ QStringList differences(const EditPlan& plan, const ImageRecord& record, const F
 
 bool hasHiddenHomes(const EditPlan& plan)
 {
-    const QStringList ids = plan.scalars.keys() + plan.lists.keys();
-    return std::any_of(ids.cbegin(), ids.cend(), [](const QString& id) {
+    const QStringList ids = plan.scalars.keys() + plan.lists.keys() + plan.together.keys();
+    return std::any_of(ids.cbegin(), ids.cend(), [&plan](const QString& id) {
+        if (plan.together.contains(id) || FieldLanguages::languageIn(id))
+            return true;
         const FieldSpec* field = FieldSchema::spec(id);
         return field && (field->kind == FieldKind::coordinates || field->writeTags.size() > 1);
     });
@@ -199,7 +239,10 @@ QStringList labels(const QStringList& keys)
     QStringList texts;
     for (const auto& key : keys) {
         const FieldSpec* field = FieldSchema::spec(key);
-        texts.append(field ? field->label : CustomFields::nameIn(key).value_or(key));
+        if (const QString label = FieldLanguages::label(key); !label.isEmpty())
+            texts.append(label);
+        else
+            texts.append(field ? field->label : CustomFields::nameIn(key).value_or(key));
     }
     return texts;
 }

@@ -1,6 +1,7 @@
 #include "core/save/ValueTooLong.h"
 
 #include "core/save/EditPlan.h"
+#include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
 
 #include <algorithm>
@@ -26,6 +27,8 @@ void requireShort(const QList<Assignment>& assignments, const QString& label)
 
 QString labelOf(const QString& id)
 {
+    if (const QString label = FieldLanguages::label(id); !label.isEmpty())
+        return label;
     const FieldSpec* field = FieldSchema::spec(id);
     return field ? field->label : id;
 }

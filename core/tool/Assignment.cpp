@@ -1,5 +1,7 @@
 #include "core/tool/Assignment.h"
 
+#include "core/tool/WriteCommand.h"
+
 #include <QHash>
 
 namespace Quorbel {
@@ -61,6 +63,17 @@ QStringList arguments(const QList<Assignment>& assignments)
     for (const auto& assignment : assignments)
         list.append(u'-' + assignment.tag + sign(assignment) + assignment.value);
     return list;
+}
+
+QStringList arguments(const WriteCommand& command)
+{
+    requireOneWay(command.assignments + command.languages);
+    QStringList list = command.options + arguments(command.assignments);
+    if (!command.keptLanguages.isEmpty())
+        list << u"-tagsfromfile"_s << u"@"_s;
+    for (const QString& tag : command.keptLanguages)
+        list << u'-' + tag + u"-*"_s;
+    return list + arguments(command.languages);
 }
 
 }  // namespace Quorbel

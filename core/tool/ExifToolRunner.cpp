@@ -136,7 +136,7 @@ QStringList writeArguments(const QStringList& mode, const WriteCommand& command,
     QStringList list;
     if (configPath)  // the tool wants it before everything else
         list << u"-config"_s << configPath->toLocalFile();
-    return list << mode << u"-m"_s << command.options << arguments(command.assignments) << paths(files);
+    return list << mode << u"-m"_s << arguments(command) << paths(files);
 }
 
 // To decode the answer for a hundred thousand files takes seconds.

@@ -2,6 +2,7 @@
 
 #include "core/Product.h"
 #include "core/save/EditPlan.h"
+#include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/Coordinates.h"
 #include "core/text/Text.h"
@@ -95,7 +96,9 @@ QList<Assignment> customArgs(const QString& name, const QString& value)
     return { { .tag = customNamespacePrefix() + u':' + *tag, .value = value } };
 }
 
-QList<Assignment> assignments(const EditPlan& plan)
+namespace {
+
+QList<Assignment> fieldArgs(const EditPlan& plan)
 {
     QList<Assignment> args;
     for (auto it = plan.scalars.cbegin(); it != plan.scalars.cend(); ++it)
@@ -107,7 +110,39 @@ QList<Assignment> assignments(const EditPlan& plan)
                                  : listArgs(*field, it.value(), plan.listMode);
     for (const auto& custom : plan.customs)
         args += customArgs(custom.name, custom.value);
-    return plan.leftOut.isEmpty() ? args : withoutHomes(args, plan.leftOut);
+    for (const QList<Assignment>& further : plan.together)
+        args += further;
+    return args;
+}
+
+QList<Assignment> languageArgs(const EditPlan& plan)
+{
+    QList<Assignment> args;
+    for (auto it = plan.scalars.cbegin(); it != plan.scalars.cend(); ++it)
+        if (const QString tag = FieldLanguages::tag(it.key()); !tag.isEmpty())
+            args.append({ .tag = tag, .value = it.value() });
+    return args;
+}
+
+}  // namespace
+
+WriteCommand command(const EditPlan& plan)
+{
+    WriteCommand command{
+        .assignments = fieldArgs(plan), .keptLanguages = plan.keptLanguages, .languages = languageArgs(plan)
+    };
+    if (!plan.leftOut.isEmpty()) {
+        command.assignments = withoutHomes(command.assignments, plan.leftOut);
+        command.languages = withoutHomes(command.languages, plan.leftOut);
+        command.keptLanguages.removeIf([&plan](const QString& tag) { return plan.leftOut.contains(homeOf(tag)); });
+    }
+    return command;
+}
+
+QList<Assignment> assignments(const EditPlan& plan)
+{
+    const WriteCommand whole = command(plan);
+    return whole.assignments + whole.languages;
 }
 
 QString customConfig(const QStringList& names)

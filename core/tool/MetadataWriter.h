@@ -2,7 +2,7 @@
 // Thread: any. Pure and total: starts nothing, touches no file, never fails.
 #pragma once
 
-#include "core/tool/Assignment.h"
+#include "core/tool/WriteCommand.h"
 
 #include <optional>
 
@@ -32,8 +32,11 @@ QList<Assignment> listArgs(const FieldSpec& field, const QStringList& values, Li
 /// One assignment, or none when the name has no storable character, or is the one that stands for all of the group:
 /// an assignment of "All" deletes every custom field.
 QList<Assignment> customArgs(const QString& name, const QString& value);
-/// All assignments of one save: scalars, lists (as they stand, where the plan's are exact), custom values. Field ids that
-/// the schema does not know are skipped, and so are the homes that the plan leaves out.
+/// What one save tells the tool: scalars, lists (as they stand, where the plan's are exact), custom values, what
+/// belongs together with them, and texts in further languages. Field ids that the schema does not know are skipped, and
+/// so are the homes that the plan leaves out.
+WriteCommand command(const EditPlan& plan);
+/// All assignments of that command.
 QList<Assignment> assignments(const EditPlan& plan);
 /// The ExifTool user-definition file that declares the custom group with these names.
 QString customConfig(const QStringList& names);

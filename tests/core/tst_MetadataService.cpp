@@ -256,8 +256,12 @@ private slots:
             "-IPTC:Keywords", "-XMP-dc:Subject", "-XMP-Quorbel:all" };
         auto calls = tool.calls();
         QCOMPARE(calls.size(), 3);
-        // Before the save, the type says which tags the file has a place for.
-        QCOMPARE(calls[0], dump + QStringList({ "-File:FileType", path }));
+        // Before the save, the type says which tags the file has a place for, and the block what items that only XMP
+        // holds would meet in IPTC.
+        QCOMPARE(calls[0],
+            dump.first(dump.size() - 1)
+                + QStringList(
+                    { "-IPTC:IPTC", "-IPTC:CodedCharacterSet", dump.constLast(), "-File:FileType", "-Error", path }));
         QCOMPARE(calls[1].sliced(2),
             (QStringList{ "-overwrite_original", "-m", "-ec", "-GPSLatitude=", "-GPSLatitudeRef=", "-GPSLongitude=",
                 "-GPSLongitudeRef=", "-XMP-dc:Title=", "-IPTC:ObjectName=", "-IPTC:Keywords=", "-XMP-dc:Subject=",

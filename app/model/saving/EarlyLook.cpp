@@ -1,6 +1,7 @@
 #include "app/model/saving/EarlyLook.h"
 
 #include "core/save/SaveGuard.h"
+#include "core/save/together/PhotoPlans.h"
 #include "platform/files/FileSystem.h"
 
 #include <QFile>
@@ -63,7 +64,8 @@ std::optional<EarlyLook::Found> EarlyLook::find(const MetadataService& service) 
             return std::nullopt;
         found.files.insert(file, *look.file);
     }
-    found.values = service.oldValues(files, { .progress = {}, .stop = m_stop.get_token(), .started = {} });
+    found.values =
+        service.oldValues(PhotoPlans::allTags(), files, { .progress = {}, .stop = m_stop.get_token(), .started = {} });
     const bool isWhole = std::all_of(files.cbegin(), files.cend(),
         [&found](const QUrl& file) { return found.values.contains(QFile::encodeName(file.toLocalFile())); });
     return isWhole ? std::optional(std::move(found)) : std::nullopt;
@@ -80,24 +82,20 @@ bool EarlyLook::isOf(const QList<QUrl>& targets) const
         targets.cbegin(), targets.cend(), [this](const QUrl& target) { return m_photos.contains(target); });
 }
 
-std::optional<JournalEntry> EarlyLook::entry(
-    const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options, QHash<QString, QString>* fileTypes)
+std::optional<OldValues> EarlyLook::values(const QList<QUrl>& targets)
 {
     std::unique_lock lock(m_mutex);
-    // A plan that leaves homes out names tags by others.
-    const bool isUsable =
-        isOf(targets) && plan.leftOut.isEmpty() && m_wake.wait_until(lock, m_latest, [this] { return m_hasEnded; });
+    const bool isUsable = isOf(targets) && m_wake.wait_until(lock, m_latest, [this] { return m_hasEnded; });
     if (!isUsable)
         giveUp();
     if (!isUsable || !m_found)
         return std::nullopt;
-    JournalEntry entry = SaveUndo::journalEntry(m_found->values, plan, targets, options, fileTypes);
     for (const QUrl& file : SaveGuard::filesBehindLinks(targets)) {
         const auto before = m_found->files.constFind(file);
         if (before == m_found->files.cend() || PhotoFile::at(file).file != *before)
             return std::nullopt;
     }
-    return entry;
+    return m_found->values;
 }
 
 }  // namespace Quorbel

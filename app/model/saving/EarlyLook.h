@@ -1,5 +1,5 @@
 // What a save of some photos is about to replace, read while the user still types, so that the save need not.
-// Thread: any; look() blocks on ExifTool, and entry() on look(). Knows nothing of edits.
+// Thread: any; look() blocks on ExifTool, and values() on look(). Knows nothing of edits.
 #pragma once
 
 #include "app/model/library/PhotoFile.h"
@@ -26,10 +26,9 @@ public:
     void look(const MetadataService& service);
     /// Ends the look, if it runs, without a result.
     void giveUp();
-    /// SaveUndo::journalEntry(), as if it looked now. Waits for the look. Nothing when that failed or takes too long,
-    /// when it was at other photos, or when one of them may have changed since.
-    std::optional<JournalEntry> entry(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options,
-        QHash<QString, QString>* fileTypes);
+    /// What these photos hold in all tags that a save may replace, as if it looked now. Waits for the look. Nothing
+    /// when that failed or takes too long, when it was at other photos, or when one of them may have changed since.
+    std::optional<OldValues> values(const QList<QUrl>& targets);
 
 private:
     struct Found {

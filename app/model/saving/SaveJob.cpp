@@ -5,6 +5,7 @@
 #include "core/save/SaveGuard.h"
 #include "core/save/SaveVerification.h"
 #include "core/save/journal/JournalTags.h"
+#include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/Text.h"
 
@@ -33,117 +34,98 @@ QList<FileFailure> namedFailures(const ToolError& error, const QList<QUrl>& targ
     return failures;
 }
 
-// What the save is about to replace; no files when that cannot be found out.
-struct LookBefore {
-    std::optional<JournalEntry> entry{};
-    QHash<QString, QString> fileTypes{};  // by path
-};
-
-LookBefore lookBefore(const MetadataService& service, const EditPlan& plan, const Order& order)
+EditPlan withoutHomes(EditPlan plan, const QStringList& homes)
 {
-    LookBefore look;
+    plan.leftOut += homes;
+    return plan;
+}
+
+// The plan of a target before it is known what the photo holds.
+EditPlan planOf(const Order& order, const QUrl& target)
+{
+    return withoutHomes(order.own.value(target, order.plan), order.options.leftOut);
+}
+
+QList<EditPlan> allPlans(const Order& order)
+{
+    QList<EditPlan> plans;
+    for (const QUrl& target : order.targets)
+        if (order.own.contains(target))
+            plans.append(planOf(order, target));
+    if (plans.size() < order.targets.size())
+        plans.append(planOf(order, {}));
+    return plans;
+}
+
+// What the targets hold in all that the save may assign; nothing when that cannot be found out.
+std::optional<OldValues> lookBefore(const MetadataService& service, const Order& order, const QList<EditPlan>& plans)
+{
     try {
+        // A plan that leaves homes out names tags by others.
+        if (order.look && order.options.leftOut.isEmpty())
+            if (auto values = order.look->values(order.targets))
+                return values;
         if (order.look)
-            look.entry = order.look->entry(plan, order.targets, order.options, &look.fileTypes);
-        if (!look.entry)
-            look.entry = service.journalEntry(plan, order.targets, order.options, &look.fileTypes);
+            order.look->giveUp();
+        const QStringList tags = PhotoPlans::tagsBefore(plans);
+        return tags.isEmpty() ? OldValues() : service.oldValues(tags, order.targets);
     } catch (const std::exception&) {
         // Then the save cannot be undone, and replaces what it replaces.
+        return std::nullopt;
     }
-    return look;
 }
 
-QHash<QUrl, ListHomes::Change> listChanges(
-    const LookBefore& look, const EditPlan& plan, const QList<QUrl>& targets, const SeenLists& seen)
-{
-    QHash<QString, const JournalFile*> files;
-    if (look.entry && !plan.lists.isEmpty())
-        for (const JournalFile& file : look.entry->files)
-            files.insert(file.path, &file);
-    QHash<QUrl, ListHomes::Change> changes;
-    const QList<QUrl> behind = files.isEmpty() ? QList<QUrl>() : SaveGuard::filesBehindLinks(targets);
-    for (qsizetype i = 0; i < behind.size(); ++i) {
-        const QString path = behind.at(i).toLocalFile();
-        if (const JournalFile* file = files.value(path))
-            changes.insert(targets.at(i),
-                ListHomes::change(plan, file->tags, look.fileTypes.value(path), seen.value(targets.at(i))));
-    }
-    return changes;
-}
-
-// The plan with all that is written beside it: what has to be known before.
-EditPlan wholePlan(const EditPlan& plan, const QHash<QUrl, ListHomes::Change>& changes)
-{
-    EditPlan whole = plan;
-    for (const ListHomes::Change& change : changes) {
-        for (auto list = whole.lists.begin(); list != whole.lists.end(); ++list) {
-            const FieldSpec* field = FieldSchema::spec(list.key());
-            for (const Assignment& assignment : change.preparation)
-                if (field && field->writeTags.contains(assignment.tag))
-                    list->append(assignment.value);
-            if (plan.listMode == MetadataWriter::ListMode::replace)
-                *list += change.items.value(list.key());
-        }
-    }
-    return whole;
-}
-
-// The plan as it concerns one target.
-EditPlan planFor(const EditPlan& plan, const QHash<QUrl, ListHomes::Change>& changes, const QUrl& target)
-{
-    EditPlan own = plan;
-    if (const auto change = changes.constFind(target); change != changes.cend()) {
-        own.lists = change->items;
-        own.isExact = true;
-    }
-    return own;
-}
-
-// What one write is given: all targets, where items are appended; those whose lists become the same, where lists are
-// replaced.
+// What one write is given: the targets that are asked the same.
 struct Portion {
     EditPlan plan{};
     QList<QUrl> targets{};
     QList<Preparation> preparations{};
 };
 
-QList<Portion> appendingPortion(
-    const EditPlan& plan, const QList<QUrl>& targets, const QHash<QUrl, ListHomes::Change>& changes)
+// The same for equal plans, whatever targets they are of.
+QByteArray keyOf(const EditPlan& plan)
+{
+    const WriteCommand command = MetadataWriter::command(plan);
+    QByteArray key = command.keptLanguages.join(u' ').toUtf8();
+    for (const Assignment& assignment : command.assignments + command.languages)
+        key += '\n' + assignment.tag.toUtf8() + char('0' + int(assignment.operation)) + assignment.value.toUtf8();
+    return key;
+}
+
+// Where items are appended, what only some homes hold is brought together first.
+QList<Preparation> preparationsFor(const Portion& portion, const QHash<QUrl, PhotoPlan>& photos)
 {
     QMap<QStringList, Preparation> preparations;  // by arguments
-    for (const QUrl& target : targets) {
-        const QList<Assignment> assignments = changes.value(target).preparation;
+    for (const QUrl& target : portion.targets) {
+        const QList<Assignment> assignments = photos.value(target).lists.preparation;
         if (assignments.isEmpty())
             continue;
         Preparation& preparation = preparations[arguments(assignments)];
         preparation.command.assignments = assignments;
         preparation.targets.append(target);
     }
-    return { { plan, targets, preparations.values() } };
+    return preparations.values();
 }
 
-QList<Portion> replacingPortions(
-    const EditPlan& plan, const QList<QUrl>& targets, const QHash<QUrl, ListHomes::Change>& changes)
+QList<Portion> portions(const QList<QUrl>& targets, const QHash<QUrl, PhotoPlan>& photos)
 {
     QList<Portion> portions;
+    QHash<QByteArray, qsizetype> known;
     for (const QUrl& target : targets) {
-        const EditPlan own = planFor(plan, changes, target);
-        const auto same = std::find_if(
-            portions.begin(), portions.end(), [&own](const Portion& portion) { return portion.plan == own; });
-        if (same == portions.end())
-            portions.append({ own, { target }, {} });
-        else
-            same->targets.append(target);
+        const EditPlan plan = photos.value(target).plan;
+        // Neighbors mostly share the very same plan.
+        const bool isAsBefore = !portions.isEmpty() && portions.constLast().plan == plan;
+        const QByteArray key = isAsBefore ? QByteArray() : keyOf(plan);
+        const qsizetype at = isAsBefore ? portions.size() - 1 : known.value(key, portions.size());
+        if (at == portions.size()) {
+            known.insert(key, at);
+            portions.append({ plan, {}, {} });
+        }
+        portions[at].targets.append(target);
     }
+    for (Portion& portion : portions)
+        portion.preparations = preparationsFor(portion, photos);
     return portions;
-}
-
-QList<Portion> portions(const EditPlan& plan, const QList<QUrl>& targets, const QHash<QUrl, ListHomes::Change>& changes)
-{
-    if (changes.isEmpty())
-        return { { plan, targets, {} } };
-    return plan.listMode == MetadataWriter::ListMode::append ? appendingPortion(plan, targets, changes)
-                                                             : replacingPortions(plan, targets, changes);
 }
 
 // Adds what came of one portion. Of several, an error of one says nothing of the others.
@@ -175,18 +157,19 @@ void write(
 // What the files of a save hold in its tags now, looked at beside the read that proves it.
 class LookAfter {
 public:
-    LookAfter(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, std::stop_token stop)
+    // `tags`: all that was written; none where the records show all of it.
+    LookAfter(const MetadataService& service, const QStringList& tags, const QList<QUrl>& targets, std::stop_token stop)
         : m_forward(std::move(stop), Forward{ m_stop })
     {
-        if (!SaveVerification::hasHiddenHomes(plan))
+        if (tags.isEmpty())
             return;
-        m_stored = std::async(std::launch::async, [this, &service, &plan, &targets] {
+        m_stored = std::async(std::launch::async, [this, &service, tags, &targets] {
             QList<QUrl> files = targets;
             // Anything else would stop the tool, or lead it astray.
             files.removeIf([](const QUrl& file) { return !PhotoFile::at(file).file; });
             try {
                 return service.stored(
-                    plan, files, { .progress = {}, .stop = m_stop.get_token(), .started = [this](qint64 processID) {
+                    tags, files, { .progress = {}, .stop = m_stop.get_token(), .started = [this](qint64 processID) {
                                       m_processID = processID;
                                   } });
             } catch (const std::exception&) {
@@ -237,13 +220,14 @@ QList<std::optional<FileStamp>> stampsOf(const QList<QUrl>& targets)
 }
 
 // Of targets that failed, which home it was.
-void findRefusedHomes(const MetadataService& service, const EditPlan& plan, Written& written)
+void findRefusedHomes(const MetadataService& service, const Portion& portion, Written& written)
 {
     QList<QUrl> failed;
     for (const FileFailure& failure : written.failures)
-        failed.append(failure.file);
+        if (portion.targets.contains(failure.file))
+            failed.append(failure.file);
     try {
-        written.refusedHomes = service.refusedHomes(plan, failed);
+        written.refusedHomes.insert(service.refusedHomes(portion.plan, failed));
     } catch (const std::exception&) {
         return;  // What the tool said of the whole save has to do.
     }
@@ -252,18 +236,26 @@ void findRefusedHomes(const MetadataService& service, const EditPlan& plan, Writ
             failure.reason = SaveReasons::refused(*homes);
 }
 
-EditPlan withoutHomes(EditPlan plan, const QStringList& homes)
-{
-    plan.leftOut += homes;
-    return plan;
-}
-
-// The plan as it was written to this target.
-EditPlan planFor(const EditPlan& plan, const Written& written, const QUrl& target)
+// What this target is to hold, as far as it was written to it.
+EditPlan expectedOf(const Written& written, const QUrl& target)
 {
     const bool hasIptc = !written.notes.iptcLeftAlone.contains(target);
-    return withoutHomes(
-        planFor(plan, written.lists, target), hasIptc ? written.leftOut : written.leftOut + QStringList(u"IPTC"_s));
+    return withoutHomes(written.photos.value(target).expected(), hasIptc ? QStringList() : QStringList(u"IPTC"_s));
+}
+
+// What to look at to prove the save.
+QStringList tagsAfter(const QHash<QUrl, PhotoPlan>& photos)
+{
+    QSet<QString> tags;
+    bool hasHiddenHomes = false;
+    for (const Portion& portion : portions(photos.keys(), photos)) {
+        const QStringList written = JournalTags::writtenTags(portion.plan);
+        tags.unite(QSet<QString>(written.cbegin(), written.cend()));
+        hasHiddenHomes = hasHiddenHomes || SaveVerification::hasHiddenHomes(portion.plan);
+    }
+    QStringList all = hasHiddenHomes ? tags.values() : QStringList();
+    all.sort();
+    return all;
 }
 
 // Why a target does not count as saved; nothing when it does.
@@ -285,9 +277,15 @@ std::optional<QString> failureOf(const QUrl& target, const ImageRecord* record, 
 QStringList inOrderOfFields(QSet<QString> keys)
 {
     QStringList ordered;
-    for (const FieldSpec& field : FieldSchema::all())
-        if (keys.remove(field.id))
-            ordered.append(field.id);
+    for (const FieldSpec& field : FieldSchema::all()) {
+        QStringList own;
+        for (const QString& key : std::as_const(keys))
+            if (key == field.id || key.startsWith(FieldLanguages::key(field.id, {})))
+                own.append(key);
+        own.sort();
+        ordered += own;
+    }
+    keys.subtract(QSet<QString>(ordered.cbegin(), ordered.cend()));
     QStringList customs(keys.cbegin(), keys.cend());
     customs.sort();
     return ordered + customs;
@@ -311,42 +309,44 @@ Written run(const MetadataService& service, const Order& order, const std::share
     TaskProgress& progress)
 {
     const QList<QUrl>& targets = order.targets;
-    const EditPlan plan = withoutHomes(order.plan, order.options.leftOut);
     const QList<std::optional<FileStamp>> stamps = stampsOf(targets);
-    const bool looks = history || !plan.lists.isEmpty();
-    LookBefore before = looks ? lookBefore(service, plan, order) : LookBefore();
+    const QList<EditPlan> plans = allPlans(order);
+    const bool looks = history || PhotoPlans::needLook(plans);
+    const std::optional<OldValues> before = looks ? lookBefore(service, order, plans) : OldValues();
     Written written{ .leftOut = order.options.leftOut };
-    written.lists = listChanges(before, plan, targets, order.seen);
-    // Items of other homes may need what the plan's own do not: IPTC that is encoded anew.
-    const EditPlan all = wholePlan(plan, written.lists);
-    if (history && before.entry && JournalTags::writtenTags(all) != before.entry->writtenTags)
-        before = lookBefore(service, all, order);
+    written.photos = PhotoPlans::decide(
+        targets, [&order](const QUrl& target) { return planOf(order, target); }, before, order.seen);
+    std::optional<JournalEntry> entry;
+    if (history && before)
+        entry = SaveUndo::journalEntry(
+            *before, [&written](const QUrl& target) { return written.photos.value(target).whole(); }, targets,
+            order.options);
     const ReplacedFilesPoll poll(targets, progress.done);
-    const QList<Portion> runs = portions(plan, targets, written.lists);
+    const QList<Portion> runs = portions(targets, written.photos);
     for (const Portion& portion : runs)
         write(service, portion, order.options, runs.size() == 1, written);
-    findRefusedHomes(service, plan, written);
+    for (const Portion& portion : runs)
+        findRefusedHomes(service, portion, written);
     if (targets.size() == 1 && !written.failures.isEmpty())
         written.error = written.failures.constFirst().reason;
     written.isUntouched = stampsOf(targets) == stamps;
     written.mayBeSaved = !written.error || (written.isPartial && targets.size() > 1);
     if (history)
-        remember(before.entry, history, written);
+        remember(entry, history, written);
     return written;
 }
 
-Checked check(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const Written& written,
-    const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop,
-    const std::shared_ptr<RecordCache>& cache)
+Checked check(const MetadataService& service, const Order& order, const Written& written, const QSet<QUrl>& tooSlow,
+    TaskProgress& progress, const std::stop_token& stop, const std::shared_ptr<RecordCache>& cache)
 {
     Checked checked;
-    QList<QUrl> readable = targets;
+    QList<QUrl> readable = order.targets;
     readable.removeIf([&tooSlow](const QUrl& target) { return tooSlow.contains(target); });
     const auto remembered = qScopeGuard([&written] {
         if (written.undoable.valid())
             written.undoable.wait();
     });
-    LookAfter homes(service, plan, readable, stop);
+    LookAfter homes(service, tagsAfter(written.photos), readable, stop);
     const PhotoReader::Result read = PhotoReader::read(service, readable, progress, stop, cache);
     if (read.error) {
         checked.error = read.error;
@@ -358,10 +358,10 @@ Checked check(const MetadataService& service, const EditPlan& plan, const QList<
         records.insert(record.url, &record);
     const QHash<QUrl, QString> reasons = reasonsByFile(written.failures);
     QSet<QString> differing;
-    for (const QUrl& target : targets) {
+    for (const QUrl& target : order.targets) {
         const ImageRecord* record = records.value(target);
         const auto tags = stored.constFind(target);
-        const QStringList differences = record ? SaveVerification::differences(planFor(plan, written, target), *record,
+        const QStringList differences = record ? SaveVerification::differences(expectedOf(written, target), *record,
                                             tags == stored.cend() ? nullptr : &*tags)
                                                : QStringList();
         if (const auto failure = failureOf(target, record, reasons, tooSlow.contains(target), written, differences)) {
@@ -370,7 +370,7 @@ Checked check(const MetadataService& service, const EditPlan& plan, const QList<
         }
         checked.records.append(*record);
         differing.unite(QSet<QString>(differences.cbegin(), differences.cend()));
-        for (const QString& id : written.lists.value(target).joined)
+        for (const QString& id : written.photos.value(target).lists.joined)
             if (!differences.contains(id))
                 checked.joined[id].append(target.fileName());
     }

@@ -6,7 +6,7 @@
 #include "app/model/saving/EarlyLook.h"
 #include "app/model/saving/SaveHistory.h"
 #include "core/MetadataService.h"
-#include "core/save/ListHomes.h"
+#include "core/save/together/PhotoPlans.h"
 
 #include <future>
 
@@ -27,7 +27,7 @@ struct Written {
     QStringList leftOut{};  ///< homes that the plan was written without
     /// Failed targets that would take a part of the plan: the homes that they refuse, and why.
     QMap<QUrl, QMap<QString, QString>> refusedHomes{};
-    QHash<QUrl, ListHomes::Change> lists{};  ///< what became of the lists of the targets, for a plan with lists
+    QHash<QUrl, PhotoPlan> photos{};  ///< what was asked of each target
     bool mayBeSaved = false;  ///< some target may hold the plan: check() is to follow
 };
 
@@ -36,16 +36,18 @@ using SeenLists = QHash<QUrl, ListHomes::SeenLists>;
 
 /// What one save is given.
 struct Order {
-    EditPlan plan{};
+    EditPlan plan{};  ///< of the targets that have none of their own
     QList<QUrl> targets{};
     WriteOptions options{};
     SeenLists seen{};
     std::shared_ptr<EarlyLook> look{};  ///< at what the save replaces; may be absent
+    QHash<QUrl, EditPlan> own{};  ///< by target; those with equal plans share a run
 };
 
-/// Writes, and counts meanwhile the files that are done. Lists that differ between their homes are brought together.
-/// What it replaces goes into the history, where there is one; a history that cannot be kept does not stop the save.
-/// Never throws.
+/// Writes, and counts meanwhile the files that are done. Lists that differ between their homes are brought together,
+/// and what belongs together with an edited field is written with it (PhotoPlans): one run for each distinct set. What
+/// it replaces goes into the history, where there is one; a history that cannot be kept does not stop the save. Never
+/// throws.
 Written run(const MetadataService& service, const Order& order, const std::shared_ptr<SaveHistory>& history,
     TaskProgress& progress);
 
@@ -59,12 +61,12 @@ struct Checked {
 };
 
 /// Reads the targets again, looks at the same time into all their homes, and compares them, in all homes of the fields,
-/// with what was to be written. After a failed run a target counts as saved when it holds all of the plan and the tool
-/// did not name it. Targets that are too slow are not read: nobody knows what they hold, so they count as not saved.
-/// Never throws; of a read that was stopped the result means nothing.
-Checked check(const MetadataService& service, const EditPlan& plan, const QList<QUrl>& targets, const Written& written,
-    const QSet<QUrl>& tooSlow, TaskProgress& progress, const std::stop_token& stop,
-    const std::shared_ptr<RecordCache>& cache = {});
+/// with what was to be written, languages, keyword paths and further homes of dates included. After a failed run a
+/// target counts as saved when it holds all of its plan and the tool did not name it. Targets that are too slow are not
+/// read: nobody knows what they hold, so they count as not saved. Never throws; of a read that was stopped the result
+/// means nothing.
+Checked check(const MetadataService& service, const Order& order, const Written& written, const QSet<QUrl>& tooSlow,
+    TaskProgress& progress, const std::stop_token& stop, const std::shared_ptr<RecordCache>& cache = {});
 
 /// "Keywords of 2 photos differed between IPTC and XMP and were brought together: a.jpg, b.jpg"; at least one field.
 QString joinedText(const QMap<QString, QStringList>& joined);

@@ -2,6 +2,7 @@
 
 #include "core/save/SaveVerification.h"
 #include "core/schema/CustomFields.h"
+#include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/Text.h"
 
@@ -22,6 +23,8 @@ QStringList tagsOf(const QStringList& keys)
             tags << u"GPSLatitude"_s << u"GPSLongitude"_s;
         else if (field)
             tags += field->writeTags;
+        else if (const QString tag = FieldLanguages::tag(key); !tag.isEmpty())
+            tags.append(tag);
         else if (const auto name = MetadataWriter::sanitizeCustomName(CustomFields::nameIn(key).value_or(key)))
             tags.append(*name);
     }

@@ -158,11 +158,11 @@ void Saving::save(const Edits& edits, const WriteOptions& options, const SaveJob
         [service = *m_service, order, history = m_history, progress = task.progress] {
             return SaveJob::run(service, order, history, *progress);
         },
-        [this, edits, id = task.id](const SaveJob::Written& written) {
+        [this, edits, order, id = task.id](const SaveJob::Written& written) {
             {
                 const Announcer::Together done(m_announcer);
                 if (written.mayBeSaved)
-                    check(edits, written);
+                    check(edits, order, written);
                 m_tasks.end(id);
             }
             if (written.mayBeSaved)
@@ -181,21 +181,22 @@ void Saving::takeUndoable(const SaveJob::Written& written)
         setUndoable(written.undoable.get());
 }
 
-void Saving::check(const Edits& edits, const SaveJob::Written& written, const QSet<QUrl>& tooSlow)
+void Saving::check(
+    const Edits& edits, const SaveJob::Order& order, const SaveJob::Written& written, const QSet<QUrl>& tooSlow)
 {
     const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::check, edits.subjects.size(), edits.subjects);
     runInBackground(
         this,
-        [service = *m_service, cache = m_cache, edits, written, tooSlow, progress = task.progress,
+        [service = *m_service, cache = m_cache, order, written, tooSlow, progress = task.progress,
             stop = task.stop.get_token()] {
-            return SaveJob::check(service, edits.plan(), edits.subjects, written, tooSlow, *progress, stop, cache);
+            return SaveJob::check(service, order, written, tooSlow, *progress, stop, cache);
         },
-        [this, edits, written, tooSlow, id = task.id](const SaveJob::Checked& checked) {
+        [this, edits, order, written, tooSlow, id = task.id](const SaveJob::Checked& checked) {
             {
                 const Announcer::Together done(m_announcer);
                 const std::optional<RunningTasks::Task> ended = m_tasks.end(id);
                 if (ended && ended->skipped)
-                    return check(edits, written, QSet(tooSlow) << *ended->skipped);
+                    return check(edits, order, written, QSet(tooSlow) << *ended->skipped);
                 takeUndoable(written);
             }
             finish(outcomeOf(checked, written, edits));

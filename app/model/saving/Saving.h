@@ -72,7 +72,8 @@ signals:
 private:
     void begin(const QList<QUrl>& photos);
     void end(bool isGood);
-    void check(const Edits& edits, const SaveJob::Written& written, const QSet<QUrl>& tooSlow = {});
+    void check(const Edits& edits, const SaveJob::Order& order, const SaveJob::Written& written,
+        const QSet<QUrl>& tooSlow = {});
     void finish(const SaveOutcome& outcome);
     void openHistory(const QString& journalPath);
     void putBack(qint64 save, const QList<QUrl>& open);

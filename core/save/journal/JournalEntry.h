@@ -19,6 +19,7 @@ struct JournalFile {
     FileStamp after{};
     /// What they held before the save. A written tag that is not here was absent.
     FileTags tags{};
+    QStringList writtenTags{};  ///< of this file, where they are not all of the save's; see JournalTags::writtenTags()
     JournalSidecar sidecar{};
     bool operator==(const JournalFile&) const = default;
 };
@@ -26,7 +27,7 @@ struct JournalFile {
 /// One save.
 struct JournalEntry {
     QDateTime savedAt{};
-    QStringList writtenTags{};  ///< the tags that the save assigned, as its assignments name them
+    QStringList writtenTags{};  ///< the tags that the save assigned in some file, as its assignments name them
     QStringList customNames{};  ///< names of the custom fields among them
     QList<JournalFile> files{};
     bool operator==(const JournalEntry&) const = default;

@@ -1,10 +1,12 @@
 #include "core/save/journal/JournalTags.h"
 
 #include "core/save/EditPlan.h"
+#include "core/save/together/DateCompanions.h"
 #include "core/schema/FieldSchema.h"
 #include "core/tool/IptcEncoding.h"
 #include "core/tool/MetadataWriter.h"
 
+#include <QSet>
 #include <QUtf8StringView>
 
 #include <algorithm>
@@ -21,12 +23,28 @@ QString customGroupPrefix()
     return MetadataWriter::customNamespacePrefix() + u':';
 }
 
-// Tags whose values may come in several languages.
-const QStringList& languageTags()
+// Whether its text may come in several languages.
+bool isLanguageTag(const QString& tag)
 {
-    static const QStringList tags{ u"XMP-dc:Title"_s, u"XMP-dc:Description"_s, u"XMP-dc:Rights"_s,
-        u"XMP-iptcExt:Event"_s, u"XMP-xmpRights:UsageTerms"_s };
-    return tags;
+    static const QSet<QString> tags = [] {
+        QSet<QString> tags;
+        for (const FieldSpec& field : FieldSchema::all())
+            tags.insert(field.languageTag());
+        return tags;
+    }();
+    return tags.contains(tag);
+}
+
+// "XMP-dc:Title" of "XMP-dc:Title-de": what the tool puts back whole, or not at all.
+QString allLanguages(const QString& tag)
+{
+    return tag.first(tag.indexOf(u'-', tag.indexOf(u':')));
+}
+
+// Days and times as files hold them need not be such as the tool writes: IPTC goes back as it was.
+bool touchesIptcDates(const QStringList& writtenTags)
+{
+    return std::any_of(writtenTags.cbegin(), writtenTags.cend(), DateCompanions::isIptcDateOrTime);
 }
 
 // Where ExifTool may find a position that was assigned without a group.
@@ -46,11 +64,13 @@ QStringList selection(const QStringList& writtenTags)
             wanted << u"GPS:"_s + tag << u"XMP:"_s + tag;
         else
             wanted << tag;
-        if (languageTags().contains(tag))
+        if (isLanguageTag(tag))
             wanted << tag + u"-*"_s;
         if (tag == IptcEncoding::blockTag())
             wanted << u"IPTC:CodedCharacterSet"_s;  // tells what became of several blocks
     }
+    if (touchesIptcDates(writtenTags) && !wanted.contains(IptcEncoding::blockTag()))
+        wanted << IptcEncoding::blockTag();
     if (std::any_of(writtenTags.cbegin(), writtenTags.cend(),
             [](const QString& tag) { return tag.startsWith(customGroupPrefix()); }))
         wanted << customGroupPrefix() + u"all"_s;
@@ -102,9 +122,9 @@ QString escaped(const QByteArray& value)
 
 // The custom group is read as a whole, with fields that the save did not touch. Names in it come back with a capital
 // first letter.
-bool isConcerned(const JournalEntry& entry, const QString& tag)
+bool isConcerned(const QStringList& writtenTags, const QString& tag)
 {
-    return !tag.startsWith(customGroupPrefix()) || entry.writtenTags.contains(tag, Qt::CaseInsensitive);
+    return !tag.startsWith(customGroupPrefix()) || writtenTags.contains(tag, Qt::CaseInsensitive);
 }
 
 // Written once by mistake, it would take every custom field away now.
@@ -138,9 +158,11 @@ enum class Iptc {
 Iptc iptcOf(const JournalEntry& entry, const JournalFile& file)
 {
     constexpr qsizetype longest = 100 * 1024;  // of an argument, with room to its limit
-    if (!entry.writtenTags.contains(IptcEncoding::blockTag()))
+    const QStringList& written = writtenTags(entry, file);
+    const bool isEncodedAnew = written.contains(IptcEncoding::blockTag());
+    if (!isEncodedAnew && !touchesIptcDates(written))
         return Iptc::byTags;
-    if (IptcEncoding::storedIn(file.tags) == IptcEncoding::Stored::severalBlocks)
+    if (isEncodedAnew && IptcEncoding::storedIn(file.tags) == IptcEncoding::Stored::severalBlocks)
         return Iptc::notAtAll;
     const QList<QByteArray> block = file.tags.value(IptcEncoding::blockTag());
     const bool fits = block.isEmpty() || escaped(block.constFirst()).size() <= longest;
@@ -152,28 +174,20 @@ Iptc iptcOf(const JournalEntry& entry, const JournalFile& file)
 QStringList writtenTags(const EditPlan& plan)
 {
     QStringList tags;
-    const auto assignments = MetadataWriter::assignments(plan);
-    for (const auto& assignment : assignments)
-        if (!tags.contains(assignment.tag))
-            tags.append(assignment.tag);
-    if (IptcEncoding::needsUtf8(assignments))
+    const WriteCommand command = MetadataWriter::command(plan);
+    for (const auto& assignment : command.assignments)
+        tags.append(assignment.tag);
+    for (const auto& assignment : command.languages)
+        tags.append(allLanguages(assignment.tag));
+    tags.removeDuplicates();
+    if (IptcEncoding::needsUtf8(command.assignments))
         tags.append(IptcEncoding::blockTag());
     return tags;
 }
 
-const QStringList& allTags()
+const QStringList& writtenTags(const JournalEntry& entry, const JournalFile& file)
 {
-    static const QStringList tags = [] {
-        EditPlan plan{ .customs = { { u"Any"_s, {} } } };
-        for (const FieldSpec& field : FieldSchema::all()) {
-            if (field.isList())
-                plan.lists.insert(field.id, {});
-            else
-                plan.scalars.insert(field.id, {});
-        }
-        return writtenTags(plan) << IptcEncoding::blockTag();
-    }();
-    return tags;
+    return file.writtenTags.isEmpty() ? entry.writtenTags : file.writtenTags;
 }
 
 QStringList readArgs(const QStringList& writtenTags)
@@ -196,17 +210,18 @@ FileTags among(const FileTags& tags, const QStringList& writtenTags)
 
 WriteCommand restoreCommand(const JournalEntry& entry, const JournalFile& file)
 {
+    const QStringList& written = writtenTags(entry, file);
     const Iptc iptc = iptcOf(entry, file);
     const auto isLeftOut = [&](const QString& tag) {
         return homeOf(tag) == u"IPTC"
             && (iptc != Iptc::byTags || tag == IptcEncoding::blockTag() || tag == u"IPTC:CodedCharacterSet");
     };
     WriteCommand command{ .options = { u"-ec"_s } };
-    for (const auto& tag : entry.writtenTags)
+    for (const auto& tag : written)
         if (!isLeftOut(tag) && !isWholeCustomGroup(tag))
             command.assignments.append({ .tag = tag });
     for (auto it = file.tags.cbegin(); it != file.tags.cend(); ++it)
-        if (isConcerned(entry, it.key()) && !isLeftOut(it.key()) && !isWholeCustomGroup(it.key()))
+        if (isConcerned(written, it.key()) && !isLeftOut(it.key()) && !isWholeCustomGroup(it.key()))
             for (const auto& value : *it)
                 command.assignments.append({ it.key(), Assignment::Operation::restore, escaped(value) });
     if (iptc == Iptc::asABlock) {
@@ -218,15 +233,18 @@ WriteCommand restoreCommand(const JournalEntry& entry, const JournalFile& file)
     return command;
 }
 
-bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTags& tags)
+bool isRestored(const JournalEntry& entry, const JournalFile& file, const FileTags& found)
 {
-    // Of several blocks each may have its tags in another order than before.
-    const bool hasBlocks = hasSeveralBlocks(file);
+    const QStringList& written = writtenTags(entry, file);
+    const FileTags tags = among(found, written);
+    // Of several blocks each may have its tags in another order than before; so may one that went back by its tags.
+    const bool hasOwnOrder =
+        hasSeveralBlocks(file) || (!written.contains(IptcEncoding::blockTag()) && iptcOf(entry, file) == Iptc::byTags);
     const QStringList keys = file.tags.keys() + tags.keys();
     return std::all_of(keys.cbegin(), keys.cend(), [&](const QString& key) {
         const QList<QByteArray> before = file.tags.value(key);
         const QList<QByteArray> now = tags.value(key);
-        return !isConcerned(entry, key) || (hasBlocks && key.endsWith(u":IPTC"_s))
+        return !isConcerned(written, key) || (hasOwnOrder && key.endsWith(u":IPTC"_s))
             || std::equal(before.cbegin(), before.cend(), now.cbegin(), now.cend(), isSame);
     });
 }

@@ -83,6 +83,8 @@ QJsonObject toJson(const JournalFile& file)
         { u"after"_s, toJson(file.after) }, { u"tags"_s, tags }, { u"sidecar"_s, toJson(file.sidecar) } };
     if (!file.link.isEmpty())
         object.insert(u"link"_s, file.link);
+    if (!file.writtenTags.isEmpty())
+        object.insert(u"writtenTags"_s, QJsonArray::fromStringList(file.writtenTags));
     return object;
 }
 
@@ -100,6 +102,7 @@ JournalFile fileFrom(const QJsonValue& value)
         .link = value[u"link"_s].toString(),
         .before = stampFrom(value[u"before"_s]),
         .after = stampFrom(value[u"after"_s]),
+        .writtenTags = stringsFrom(value[u"writtenTags"_s]),
         .sidecar = sidecarFrom(value[u"sidecar"_s]) };
     const QJsonObject tags = value[u"tags"_s].toObject();
     for (auto it = tags.begin(); it != tags.end(); ++it)

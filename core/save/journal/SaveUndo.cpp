@@ -19,11 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString typeTag()
-{
-    return u"File:FileType"_s;
-}
-
 QSet<QUrl> setOf(const QList<QUrl>& urls)
 {
     return QSet<QUrl>(urls.cbegin(), urls.cend());
@@ -48,37 +43,28 @@ QList<QUrl> withoutBlocked(const QList<QUrl>& files, QList<FileFailure>& failure
     return writable;
 }
 
-OldValues read(
-    const ExifToolRunner& runner, const QStringList& tags, const QList<QUrl>& files, const ReadControl& control)
-{
-    return TagDump::parse(runner.readDump(JournalTags::readArgs(tags) << u'-' + typeTag(), files, control));
-}
-
-// `held`: the tags of the plan alone, and the types of the files.
-JournalEntry entryOf(const OldValues& held, const EditPlan& plan, const QList<QUrl>& targets,
-    const WriteOptions& options, QHash<QString, QString>* fileTypes)
-{
-    JournalEntry entry{ .savedAt = QDateTime::currentDateTimeUtc(),
-        .writtenTags = JournalTags::writtenTags(plan),
-        .customNames = CustomFields::names(plan.customs) };
-    const auto files = SaveGuard::filesBehindLinks(targets);
-    for (qsizetype i = 0; i < files.size() && !entry.writtenTags.isEmpty(); ++i) {
-        const QString path = files[i].toLocalFile();
-        const auto before = held.constFind(QFile::encodeName(path));
-        const auto stamp = FileStamp::of(path);
-        if (!stamp || before == held.cend())
-            continue;
-        JournalFile file{ .path = path, .before = *stamp, .after = *stamp, .tags = *before };
-        const QList<QByteArray> type = file.tags.take(typeTag());
-        if (fileTypes && !type.isEmpty())
-            fileTypes->insert(path, QString::fromUtf8(type.constFirst()));
-        if (targets[i] != files[i])
-            file.link = targets[i].toLocalFile();
-        if (options.writeSidecar)
-            file.sidecar = JournalSidecar::of(Companions::sidecarPath(targets[i].toLocalFile()));
-        entry.files.append(file);
+// The tags of one plan after the other: those of neighbors are mostly the same.
+class TagsOfPlans {
+public:
+    const QStringList& of(const EditPlan& plan)
+    {
+        if (!m_plan || *m_plan != plan) {
+            m_plan = plan;
+            m_tags = JournalTags::writtenTags(plan);
+        }
+        return m_tags;
     }
-    return entry;
+
+private:
+    std::optional<EditPlan> m_plan;
+    QStringList m_tags;
+};
+
+void addTo(QStringList& list, const QStringList& items)
+{
+    for (const QString& item : items)
+        if (!list.contains(item))
+            list.append(item);
 }
 
 // One attempt to take a save back.
@@ -188,31 +174,46 @@ private:
 
 }  // namespace
 
-OldValues oldValues(const ExifToolRunner& runner, const QList<QUrl>& targets, const ReadControl& control)
+QString typeTag()
 {
-    return read(runner, JournalTags::allTags(), SaveGuard::filesBehindLinks(targets), control);
+    return u"File:FileType"_s;
 }
 
-JournalEntry journalEntry(const ExifToolRunner& runner, const EditPlan& plan, const QList<QUrl>& targets,
-    const WriteOptions& options, QHash<QString, QString>* fileTypes)
+OldValues oldValues(
+    const ExifToolRunner& runner, const QStringList& tags, const QList<QUrl>& targets, const ReadControl& control)
 {
-    const QStringList tags = JournalTags::writtenTags(plan);
-    if (tags.isEmpty())
-        return entryOf({}, plan, targets, options, fileTypes);
-    return entryOf(read(runner, tags, SaveGuard::filesBehindLinks(targets), {}), plan, targets, options, fileTypes);
+    const QStringList selection = JournalTags::readArgs(tags) << u'-' + typeTag() << u"-Error"_s;
+    return TagDump::parse(runner.readDump(selection, SaveGuard::filesBehindLinks(targets), control));
 }
 
-JournalEntry journalEntry(const OldValues& known, const EditPlan& plan, const QList<QUrl>& targets,
-    const WriteOptions& options, QHash<QString, QString>* fileTypes)
+JournalEntry journalEntry(const OldValues& known, const std::function<EditPlan(const QUrl&)>& planOf,
+    const QList<QUrl>& targets, const WriteOptions& options)
 {
-    const QStringList tags = JournalTags::writtenTags(plan);
-    OldValues concerned;
-    for (auto file = known.cbegin(); file != known.cend(); ++file) {
-        FileTags& held = concerned[file.key()] = JournalTags::among(*file, tags);
-        if (const auto type = file->constFind(typeTag()); type != file->cend())
-            held.insert(type.key(), *type);
+    JournalEntry entry{ .savedAt = QDateTime::currentDateTimeUtc() };
+    TagsOfPlans tagsOf;
+    const auto files = SaveGuard::filesBehindLinks(targets);
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        const EditPlan plan = planOf(targets[i]);
+        const QStringList& tags = tagsOf.of(plan);
+        addTo(entry.writtenTags, tags);
+        addTo(entry.customNames, CustomFields::names(plan.customs));
+        const QString path = files[i].toLocalFile();
+        const auto before = known.constFind(QFile::encodeName(path));
+        const auto stamp = FileStamp::of(path);
+        if (tags.isEmpty() || !stamp || before == known.cend())
+            continue;
+        JournalFile file{ .path = path, .before = *stamp, .after = *stamp, .tags = JournalTags::among(*before, tags) };
+        file.writtenTags = tags;
+        if (targets[i] != files[i])
+            file.link = targets[i].toLocalFile();
+        if (options.writeSidecar)
+            file.sidecar = JournalSidecar::of(Companions::sidecarPath(targets[i].toLocalFile()));
+        entry.files.append(file);
     }
-    return entryOf(concerned, plan, targets, options, fileTypes);
+    for (JournalFile& file : entry.files)
+        if (file.writtenTags == entry.writtenTags)
+            file.writtenTags.clear();
+    return entry;
 }
 
 UndoOutcome undo(const ExifToolRunner& runner, const JournalEntry& entry)

@@ -6,6 +6,8 @@
 #include "core/tool/ExifToolRunner.h"
 #include "core/tool/WriteFailures.h"
 
+#include <functional>
+
 namespace Quorbel {
 
 struct EditPlan;
@@ -24,16 +26,17 @@ using OldValues = QHash<QByteArray, FileTags>;
 
 namespace SaveUndo {
 
-/// What the plan is about to replace in the targets, read in one run, and in their sidecars, if those are written as
-/// well; in passing, of what type (ExifTool's name) each file is, by its path. Throws the runner's errors.
-JournalEntry journalEntry(const ExifToolRunner& runner, const EditPlan& plan, const QList<QUrl>& targets,
-    const WriteOptions& options, QHash<QString, QString>* fileTypes = nullptr);
-/// What these photos hold in all tags that some plan may replace, read in one run. Throws the runner's errors.
-OldValues oldValues(const ExifToolRunner& runner, const QList<QUrl>& targets, const ReadControl& control);
-/// journalEntry() as of the moment at which these values were read, but for the sidecars and the times of the files,
-/// which are those of now.
-JournalEntry journalEntry(const OldValues& known, const EditPlan& plan, const QList<QUrl>& targets,
-    const WriteOptions& options, QHash<QString, QString>* fileTypes = nullptr);
+/// The type of a file (ExifTool's name), among its old values.
+QString typeTag();
+/// What the files behind these targets hold in the tags that some save may replace, read in one run; with their types,
+/// and their tags called Error. Throws the runner's errors.
+OldValues oldValues(
+    const ExifToolRunner& runner, const QStringList& tags, const QList<QUrl>& targets, const ReadControl& control);
+/// What a save is about to replace in the targets, picked out of what they hold in these or more tags, and in their
+/// sidecars, if those are written as well; sidecars and times of the files are those of now. `planOf`: all that it
+/// assigns in a target.
+JournalEntry journalEntry(const OldValues& known, const std::function<EditPlan(const QUrl&)>& planOf,
+    const QList<QUrl>& targets, const WriteOptions& options);
 /// Writes the old values of a save back, one run for each distinct set of them, without new backups. A file that is
 /// read-only or blocked, or whose run fails, is named in the outcome and does not keep others from theirs.
 UndoOutcome undo(const ExifToolRunner& runner, const JournalEntry& entry);

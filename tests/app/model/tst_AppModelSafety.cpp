@@ -167,7 +167,9 @@ void tst_AppModelSafety::differencesOfABatch()
     for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
         objects.append({ { u"SourceFile"_s, f.folder.path(name) }, { u"XMP:Headline"_s, u"Y"_s },
             { u"XMP:Subject"_s, u"sky"_s }, { u"XMP:Title"_s, name == u"b.jpg" ? u"x"_s : u"X"_s } });
-    f.answer(3, { .standardOutput = toolJson(objects) });
+    // The look at all homes runs beside the two reads, and makes nothing of such an answer.
+    for (const int run : { 3, 4, 5 })
+        f.answer(run, { .standardOutput = toolJson(objects) });
     f->requestSave();
     QVERIFY(f.waitUntilIdle());
     QCOMPARE(f->errorMessage(), u"Nothing was written: Title"_s);
@@ -351,7 +353,7 @@ void tst_AppModelSafety::stalledReReadOfASaveIsSkipped()
     QVERIFY(f.open());
     f.stall(true);
     f->selectAllPhotos();
-    f->setBatch(u"title"_s, u"X"_s);
+    f->setBatch(u"headline"_s, u"X"_s);
     f->requestSave();
     QVERIFY(f.skipStalled());
     QVERIFY(f->isSaving());
@@ -359,9 +361,9 @@ void tst_AppModelSafety::stalledReReadOfASaveIsSkipped()
     QVERIFY(!f->isSaving());
     QCOMPARE(f->errorMessage(), u"Could not save 1 of 3 photos: b.jpg (reading it back took too long)"_s);
     QCOMPARE(f.selected(), QStringList{ u"b.jpg"_s });
-    QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
+    QCOMPARE(f->draftValues().value(u"headline"_s), u"X"_s);
     QCOMPARE(f->unsavedCount(), 1);
-    QCOMPARE(f->record(f.url(u"c.jpg"_s))->values.value(u"title"_s), u"X"_s);
+    QCOMPARE(f->record(f.url(u"c.jpg"_s))->values.value(u"headline"_s), u"X"_s);
     f.stall(false);
     f->setErrorMessage({});
     f->requestSave();

@@ -230,10 +230,10 @@ void tst_AppModelSaving::secondSaveIsIgnored()
     QVERIFY(f.open());
     f->preferences().saveDontAsk.set(true);
     tool.answer(1, { .holds = true });
-    f->setSingle(u"title"_s, u"X"_s);
+    f->setSingle(u"headline"_s, u"X"_s);
     f->requestSave();
     QTRY_COMPARE(tool.calls().size(), 3);
-    f->setSingle(u"title"_s, u"Y"_s);
+    f->setSingle(u"headline"_s, u"Y"_s);
     f->requestSave();
     f->preferences().saveDontAsk.set(false);
     f->requestSave();
@@ -352,7 +352,7 @@ void tst_AppModelSaving::failuresKeepEdits()
     QVERIFY(f.open());
     tool.answer(1, { .standardError = "half a file", .exitCode = exitCode, .signal = signal });
     f->preferences().saveDontAsk.set(true);
-    f->setSingle(u"title"_s, u"X"_s);
+    f->setSingle(u"headline"_s, u"X"_s);
     const QList<CustomValue> typed{ { u"Mood"_s, u"calm"_s }, { u"Hue"_s, u"red"_s } };
     for (const CustomValue& custom : typed)
         f->addCustomField(custom.name, custom.value);
@@ -364,11 +364,11 @@ void tst_AppModelSaving::failuresKeepEdits()
     QCOMPARE(f->unsavedCount(), 3);
     // Nor do rows change places under the hands of who tries again.
     QCOMPARE(f->draftCustoms(), typed);
-    QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
+    QCOMPARE(f->draftValues().value(u"headline"_s), u"X"_s);
     QCOMPARE(readFile(url.toLocalFile()), before);
     // Saving is possible again, and what waited for the failed save is forgotten.
     tool.answerAlways(
-        { .standardOutput = toolJson({ { { u"SourceFile"_s, url.toLocalFile() }, { u"XMP:Title"_s, u"X"_s },
+        { .standardOutput = toolJson({ { { u"SourceFile"_s, url.toLocalFile() }, { u"XMP:Headline"_s, u"X"_s },
               { u"XMP-Quorbel:Mood"_s, u"calm"_s }, { u"XMP-Quorbel:Hue"_s, u"red"_s } } }) });
     f->requestSave();
     QVERIFY(f->isSaving());
@@ -385,12 +385,12 @@ void tst_AppModelSaving::failedReReadKeepsEdits()
     tool.answerAlways({ .standardError = "gone", .exitCode = 1 });
     tool.answer(1, {});
     f->preferences().saveDontAsk.set(true);
-    f->setSingle(u"title"_s, u"X"_s);
+    f->setSingle(u"headline"_s, u"X"_s);
     f->requestSave();
     QVERIFY(f.waitUntilIdle());
     QVERIFY(f->errorMessage().value_or(QString()).startsWith(u"Could not read metadata: "_s));
     QVERIFY(!f->isSaving());
-    QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
+    QCOMPARE(f->draftValues().value(u"headline"_s), u"X"_s);
 }
 
 void tst_AppModelSaving::fullDisk()
@@ -449,7 +449,7 @@ void tst_AppModelSaving::progressCountsReplacedFiles()
     QVERIFY(f.open());
     f->selectAllPhotos();
     f->preferences().confirmMassEdit.set(false);
-    f->setBatch(u"title"_s, u"X"_s);
+    f->setBatch(u"headline"_s, u"X"_s);
     tool.answer(1, { .holds = true });
     f->requestSave();
     QCOMPARE(f->progress(), (std::optional(Progress{ 0, 3 })));

@@ -1,6 +1,7 @@
 // The look at what a save replaces begins with the first edit. Whatever happens between the two, the save replaces, and
 // undo brings back, what the files held when it began.
 #include "app/model/saving/EarlyLook.h"
+#include "core/save/together/PhotoPlans.h"
 #include "tests/app/model/JournaledPhotos.h"
 
 #include <QRegularExpression>
@@ -320,25 +321,20 @@ private slots:
         EarlyLook look({ f.url(u"a.jpg"_s) }, std::chrono::minutes(1));
         look.giveUp();
         look.look(tool.service());
-        QHash<QString, QString> types;
-        const EditPlan plan{ .scalars = { { u"title"_s, u"X"_s } } };
-        QVERIFY(!look.entry(plan, { f.url(u"a.jpg"_s) }, {}, &types));
+        QVERIFY(!look.values({ f.url(u"a.jpg"_s) }));
     }
 
-    void isOfThesePhotosAndTags_data()
+    void isOfThesePhotos_data()
     {
         QTest::addColumn<QStringList>("targets");
-        QTest::addColumn<QStringList>("leftOut");
         QTest::addColumn<bool>("isUsable");
-        QTest::newRow("the photos") << jpgs(u"ba"_s) << QStringList() << true;
-        QTest::newRow("one of them") << jpgs(u"b"_s) << QStringList() << true;
-        QTest::newRow("another one") << jpgs(u"ac"_s) << QStringList() << false;
-        QTest::newRow("without EXIF") << jpgs(u"a"_s) << QStringList{ u"EXIF"_s } << false;
+        QTest::newRow("the photos") << jpgs(u"ba"_s) << true;
+        QTest::newRow("one of them") << jpgs(u"b"_s) << true;
+        QTest::newRow("another one") << jpgs(u"ac"_s) << false;
     }
-    void isOfThesePhotosAndTags()
+    void isOfThesePhotos()
     {
         QFETCH(QStringList, targets);
-        QFETCH(QStringList, leftOut);
         const WatchedTool tool;
         const LookedAt f(tool);
         EarlyLook look({ f.url(u"a.jpg"_s), f.url(u"b.jpg"_s) }, std::chrono::minutes(1));
@@ -346,16 +342,11 @@ private slots:
         QList<QUrl> urls;
         for (const QString& name : targets)
             urls.append(f.url(name));
-        const EditPlan plan{ .scalars = { { u"title"_s, u"X"_s } }, .leftOut = leftOut };
-        QHash<QString, QString> types;
-        const auto entry = look.entry(plan, urls, {}, &types);
-        QTEST(entry.has_value(), "isUsable");
-        if (!entry)
-            return;
-        JournalEntry direct = tool.service().journalEntry(plan, urls);
-        direct.savedAt = entry->savedAt;
-        QCOMPARE(*entry, direct);
-        QCOMPARE(types.value(urls.constFirst().toLocalFile()), u"JPEG"_s);
+        const auto values = look.values(urls);
+        QTEST(values.has_value(), "isUsable");
+        if (values)
+            QCOMPARE(
+                *values, tool.service().oldValues(PhotoPlans::allTags(), { f.url(u"a.jpg"_s), f.url(u"b.jpg"_s) }));
     }
 };
 
