@@ -2,7 +2,7 @@
 // gallery [--dark] shows a window; gallery --grab FILE.png [--dark] [--scale 2] draws the same into a file, off screen.
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FlowLayout.h"
-#include "ui/controls/KeywordEditor.h"
+#include "ui/controls/keywords/KeywordEditor.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/OffsetPicker.h"
 #include "ui/controls/OverlayScrollBar.h"

@@ -160,6 +160,8 @@ public:
         if (!isValid() || (kind != QAccessible::Name && kind != QAccessible::Description))
             return {};
         const SuggestionRow& row = m_list->rows().at(m_row);
+        if (!row.spoken.isEmpty())
+            return kind == QAccessible::Name ? row.spoken : QString();
         return kind == QAccessible::Name ? row.title : row.subtitle;
     }
 
@@ -227,6 +229,17 @@ private:
     mutable QList<QAccessible::Id> m_rows;
 };
 
+// A role and nothing more. The tooltip, which Qt takes for a description, repeats what the name says.
+class RoleDescription final : public QAccessibleWidget {
+public:
+    using QAccessibleWidget::QAccessibleWidget;
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Description ? widget()->accessibleDescription() : QAccessibleWidget::text(kind);
+    }
+};
+
 QAccessibleInterface* describeButton(QAbstractButton* button)
 {
     if (qobject_cast<QBCheckbox*>(button) || qobject_cast<QBSwitch*>(button))
@@ -260,7 +273,7 @@ QAccessibleInterface* describe(const QString& className, QObject* object)
         return new SuggestionListDescription(list);
     for (const QMetaObject* type = object->metaObject(); type; type = type->superClass()) {
         if (const auto role = rolesOfClasses().constFind(type); role != rolesOfClasses().cend())
-            return new QAccessibleWidget(widget, *role);
+            return new RoleDescription(widget, *role);
     }
     return nullptr;
 }

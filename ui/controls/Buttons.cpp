@@ -2,6 +2,7 @@
 
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/HoverFade.h"
+#include "ui/controls/Labels.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
@@ -256,6 +257,12 @@ void QBTextButton::setInline(bool on)
     update();
 }
 
+void QBTextButton::setRole(TextRole role)
+{
+    m_role = role;
+    update();
+}
+
 QSize QBTextButton::sizeHint() const
 {
     int width = fontMetrics().horizontalAdvance(text()) + 2 * px(hasGround() ? 8 : 0);
@@ -280,7 +287,7 @@ void QBTextButton::paintEvent(QPaintEvent*)
     QFont titleFont = font();
     titleFont.setUnderline(m_link || (m_inline && underMouse()));
     painter.setFont(titleFont);
-    painter.setPen(m_inline ? theme.text : stateColor(*fade(), theme.derived.label, theme.text, theme.text));
+    painter.setPen(m_inline ? colorFor(theme, m_role) : stateColor(*fade(), theme.derived.label, theme.text, theme.text));
     const int padding = px(hasGround() ? 8 : 0);
     QRect inner = rect().adjusted(padding, 0, -padding, 0);
     if (!m_icon.isEmpty()) {

@@ -8,6 +8,7 @@
 namespace Quorbel {
 
 class HoverFade;
+enum class TextRole;
 
 /// What all our buttons share: hover and pressed shades, a focus ring for keyboard focus, restyling.
 class ThemedButton : public QAbstractButton {
@@ -101,6 +102,8 @@ public:
     void setLink(bool on);
     /// Drawn as a part of a line of text: no ground, no side padding, medium weight, 17 points high.
     void setInline(bool on);
+    /// What the title of an inline one is drawn in.
+    void setRole(TextRole role);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -114,6 +117,7 @@ private:
     QString m_icon;
     bool m_link = false;
     bool m_inline = false;
+    TextRole m_role{};
 };
 
 /// A capsule that inserts something: the tokens of a rename pattern. 26 points high.

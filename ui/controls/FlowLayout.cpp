@@ -22,6 +22,20 @@ void FlowLayout::setLastItemFills(bool fills)
     invalidate();
 }
 
+int FlowLayout::lines(const QList<int>& widths, int available, int spacing)
+{
+    int lines = 0;
+    int running = 0;
+    for (const int width : widths) {
+        if (lines == 0 || running + width > available) {
+            ++lines;
+            running = 0;
+        }
+        running += width + spacing;
+    }
+    return lines;
+}
+
 void FlowLayout::insertWidget(int index, QWidget* widget)
 {
     addChildWidget(widget);

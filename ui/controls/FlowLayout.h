@@ -15,6 +15,8 @@ public:
     ~FlowLayout() override;
     /// Lets the last item of the layout take what is left of its line; for an entry field behind chips.
     void setLastItemFills(bool fills);
+    /// How many lines items of these widths take.
+    static int lines(const QList<int>& widths, int available, int spacing);
     void insertWidget(int index, QWidget* widget);
 
     void addItem(QLayoutItem* item) override;

@@ -245,17 +245,20 @@ void SuggestionList::paintRow(QPainter& painter, int row)
     if (row == m_current)
         paintBox(painter, cell, pxF(6), theme.derived.hover, Qt::NoPen);
     const QRect text = cell.adjusted(px(10), 0, -px(10), 0);
-    const bool tall = rowHeight() == px(tallRow);
-    const auto line = [&](const QString& content, qreal points, const QColor& color, const QRect& where) {
+    const auto line = [&](const QString& content, qreal points, const QColor& color, const QRect& where,
+                          Qt::TextElideMode elided = Qt::ElideRight) {
         painter.setFont(verbatimFont(points));
         painter.setPen(color);
-        const QString shown = QFontMetrics(painter.font()).elidedText(content, Qt::ElideRight, where.width());
+        const QString shown = QFontMetrics(painter.font()).elidedText(content, elided, where.width());
         painter.drawText(where, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, shown);
     };
-    if (!tall)
-        return line(m_rows.at(row).title, 13, theme.text, text);
-    line(m_rows.at(row).title, 13, theme.text, QRect(text.left(), text.top() + px(5), text.width(), px(18)));
-    line(m_rows.at(row).subtitle, 11, theme.muted, QRect(text.left(), text.top() + px(23), text.width(), px(16)));
+    const SuggestionRow& content = m_rows.at(row);
+    if (content.subtitle.isEmpty())
+        return line(content.title, 13, theme.text, text);
+    line(content.title, 13, theme.text, QRect(text.left(), text.top() + px(5), text.width(), px(18)));
+    line(content.subtitle, 11, content.isPath ? theme.derived.label : theme.muted,
+        QRect(text.left(), text.top() + px(23), text.width(), px(16)),
+        content.isPath ? Qt::ElideMiddle : Qt::ElideRight);
 }
 
 void SuggestionList::mouseMoveEvent(QMouseEvent* event)

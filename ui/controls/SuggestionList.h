@@ -10,6 +10,8 @@ namespace Quorbel {
 struct SuggestionRow {
     QString title{};
     QString subtitle{};  ///< the rows are 44 points high when any row has one, else 28
+    QString spoken{};  ///< in the place of both texts; none when empty
+    bool isPath = false;  ///< the subtitle is the beginning of a path and its end: cut in the middle, and to be read
     bool operator==(const SuggestionRow&) const = default;
 };
 

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
+#include <QVBoxLayout>
 
 namespace Quorbel {
 
@@ -20,24 +21,26 @@ namespace {
 constexpr qreal widestTip = 320;
 constexpr qreal radius = 6;
 
+constexpr const char* quietRest = "quietRest";
+
 // One tooltip on screen, in the theme of the widget that it explains.
-class Tip final : public QLabel {
+class Tip final : public QWidget {
 public:
     Tip(QWidget* owner, const QString& text)
-        : QLabel(text, owner, Qt::ToolTip | Qt::FramelessWindowHint)
+        : QWidget(owner, Qt::ToolTip | Qt::FramelessWindowHint)
+        , m_column(new QVBoxLayout(this))
     {
         setAttribute(Qt::WA_TranslucentBackground);
         setAttribute(Qt::WA_ShowWithoutActivating);
         setAttribute(Qt::WA_TransparentForMouseEvents);
-        setTextFormat(Qt::PlainText);
-        setFont(verbatimFont(11.5));
-        QPalette colors;
-        colors.setColor(QPalette::WindowText, Theme::of(owner).selText);
-        setPalette(colors);
-        setContentsMargins(px(8), px(4), px(8), px(4));
-        if (sizeHint().width() > px(widestTip)) {
-            setWordWrap(true);
-            setFixedWidth(px(widestTip));
+        m_column->setContentsMargins(px(8), px(4), px(8), px(4));
+        m_column->setSpacing(0);
+        const qsizetype first = text.indexOf(u'\n');
+        if (first >= 0 && owner->property(quietRest).toBool()) {
+            addText(text.left(first), Theme::of(owner).selText);
+            addText(text.mid(first + 1), Theme::of(owner).selSub);
+        } else {
+            addText(text, Theme::of(owner).selText);
         }
         adjustSize();
     }
@@ -45,17 +48,35 @@ public:
 protected:
     void resizeEvent(QResizeEvent* event) override
     {
-        QLabel::resizeEvent(event);
+        QWidget::resizeEvent(event);
         cutCorners(*this, pxF(radius));
     }
 
-    void paintEvent(QPaintEvent* event) override
+    void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
         paintCutBox(painter, rect(), pxF(radius), Theme::of(this).sel, Theme::of(this).sel);
-        painter.end();
-        QLabel::paintEvent(event);
     }
+
+private:
+    void addText(const QString& text, const QColor& color)
+    {
+        auto* label = new QLabel(text, this);
+        label->setTextFormat(Qt::PlainText);
+        label->setAlignment(Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter);
+        label->setFont(verbatimFont(11.5));
+        QPalette colors;
+        colors.setColor(QPalette::WindowText, color);
+        label->setPalette(colors);
+        const int widest = px(widestTip) - 2 * px(8);
+        if (label->sizeHint().width() > widest) {
+            label->setWordWrap(true);
+            label->setFixedSize(widest, label->heightForWidth(widest));
+        }
+        m_column->addWidget(label);
+    }
+
+    QVBoxLayout* m_column;
 };
 
 // A widget's own, or that of the row of a list that lies there.
@@ -73,6 +94,11 @@ ToolTips::ToolTips(QObject* parent)
     : QObject(parent)
 {
     qApp->installEventFilter(this);
+}
+
+void ToolTips::setRestQuiet(QWidget* widget)
+{
+    widget->setProperty(quietRest, true);
 }
 
 ToolTips::~ToolTips()

@@ -15,6 +15,8 @@ public:
     /// Watches the application for as long as it lives.
     explicit ToolTips(QObject* parent = nullptr);
     ~ToolTips() override;
+    /// Draws the lines behind the first one of this widget's tooltip quieter.
+    static void setRestQuiet(QWidget* widget);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

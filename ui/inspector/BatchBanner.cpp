@@ -1,5 +1,7 @@
 #include "ui/inspector/BatchBanner.h"
 
+#include "ui/controls/Buttons.h"
+#include "ui/controls/NoticeLine.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
@@ -18,6 +20,11 @@ namespace {
 // Points.
 constexpr qreal gap = 14;
 constexpr qreal corner = 9;
+constexpr qreal side = 18;
+constexpr qreal iconSide = 24;
+constexpr qreal titleHeight = 21;
+constexpr qreal lineHeight = 17;
+constexpr int mostLines = 2;  // under the title
 
 QString bannerHint()
 {
@@ -28,9 +35,16 @@ QString bannerHint()
 
 BatchBanner::BatchBanner(QWidget* parent)
     : QWidget(parent)
+    , m_disagreements(new NoticeLine(u"Make them agree"_s, this))
 {
+    m_disagreements->setRoles(TextRole::selSub, TextRole::selText);
+    m_disagreements->hide();
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    onRestyle(this, [this] { updateGeometry(); });
+    connect(m_disagreements, &NoticeLine::changed, this, &BatchBanner::place);
+    onRestyle(this, [this] {
+        updateGeometry();
+        place();
+    });
 }
 
 void BatchBanner::setPhotos(qsizetype count, const QString& note)
@@ -46,9 +60,55 @@ void BatchBanner::setPhotos(qsizetype count, const QString& note)
     update();
 }
 
+void BatchBanner::setDisagreements(const QString& text, bool canAgree)
+{
+    m_disagreements->setText(text, text);
+    m_disagreements->setVisible(!text.isEmpty());
+    agree()->setEnabled(canAgree);
+    place();
+}
+
+QBTextButton* BatchBanner::agree() const
+{
+    return m_disagreements->button();
+}
+
 QSize BatchBanner::sizeHint() const
 {
     return { px(200), px(PhotoHeader::heightInPoints) };
+}
+
+QRect BatchBanner::textArea() const
+{
+    const int left = px(side) + px(iconSide) + px(gap);
+    return { left, 0, width() - left - px(side), height() };
+}
+
+// What is told of the photos comes before what one does here.
+QStringList BatchBanner::noteLines() const
+{
+    const int width = textArea().width();
+    const QStringList lines = brokenIntoLines(m_note, sansFont(12), width, LineBreaks::words, mostLines);
+    if (m_disagreements->isHidden())
+        return lines;
+    return lines.size() + m_disagreements->lines(width) > mostLines ? QStringList() : lines;
+}
+
+void BatchBanner::place()
+{
+    const QRect area = textArea();
+    const int above = int(noteLines().size());
+    const int own = m_disagreements->isHidden() ? 0 : m_disagreements->lines(area.width());
+    const qreal top = (height() - pxF(titleHeight + lineHeight * (above + own))) / 2;
+    m_disagreements->setGeometry(
+        area.left(), qRound(top + pxF(titleHeight + lineHeight * above)), area.width(), own * NoticeLine::lineHeight());
+    update();
+}
+
+void BatchBanner::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    place();
 }
 
 void BatchBanner::paintEvent(QPaintEvent*)
@@ -56,26 +116,27 @@ void BatchBanner::paintEvent(QPaintEvent*)
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
     paintBox(painter, rect(), pxF(corner), theme.sel, Qt::NoPen);
-    const qreal icon = pxF(24);
-    const QRectF iconBox(pxF(18), (height() - icon) / 2, icon, icon);
+    const qreal icon = pxF(iconSide);
+    const QRectF iconBox(pxF(side), (height() - icon) / 2, icon, icon);
     painter.setOpacity(.85);
     Icon::paint(painter, iconBox, u"square.stack.3d.up"_s, icon, theme.selText);
     painter.setPen(theme.selText);
     painter.setOpacity(1);
     painter.setFont(sansFont(15, QFont::DemiBold));
-    const qreal left = iconBox.right() + pxF(gap);
-    const qreal width = this->width() - left - pxF(18);
-    const QStringList hint = brokenIntoLines(m_note, sansFont(12), int(width), LineBreaks::words, 2);
-    const qreal top = (height() - pxF(21 + 17 * int(hint.size()))) / 2;
+    const QRect area = textArea();
+    const QStringList lines = noteLines();
+    const int own = m_disagreements->isHidden() ? 0 : m_disagreements->lines(area.width());
+    const qreal top = (height() - pxF(titleHeight + lineHeight * int(lines.size() + own))) / 2;
     const auto line = [&](qreal y, qreal height, const QString& text) {
-        painter.drawText(QRectF(left, y, width, height), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-            painter.fontMetrics().elidedText(text, Qt::ElideRight, int(width)));
+        painter.drawText(QRectF(area.left(), y, area.width(), height),
+            Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+            painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width()));
     };
-    line(top, pxF(20), m_title);
+    line(top, pxF(titleHeight - 1), m_title);
     painter.setOpacity(.7);
     painter.setFont(sansFont(12));
-    for (qsizetype i = 0; i < hint.size(); ++i)
-        line(top + pxF(21 + 17 * int(i)), pxF(17), hint.at(i));
+    for (qsizetype i = 0; i < lines.size(); ++i)
+        line(top + pxF(titleHeight + lineHeight * int(i)), pxF(lineHeight), lines.at(i));
 }
 
 }  // namespace Quorbel

@@ -6,6 +6,9 @@
 
 namespace Quorbel {
 
+class NoticeLine;
+class QBTextButton;
+
 /// Takes the header's place, at the same height, while several photos are edited.
 class BatchBanner final : public QWidget {
     Q_OBJECT
@@ -15,15 +18,25 @@ public:
     explicit BatchBanner(QWidget* parent = nullptr);
     /// How many they are, and what is said under that; "": what one does here.
     void setPhotos(qsizetype count, const QString& note);
+    /// "12 photos have places that differ", with a button that makes them agree; "": nothing of that. What one does
+    /// here gives way to it where there is no room for both.
+    void setDisagreements(const QString& text, bool canAgree);
+    QBTextButton* agree() const;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void place();
+    QRect textArea() const;
+    QStringList noteLines() const;
+
     QString m_title;
     QString m_note;
+    NoticeLine* m_disagreements;
 };
 
 }  // namespace Quorbel

@@ -4,6 +4,7 @@
 #include "core/schema/PhotoDetails.h"
 
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -44,6 +45,7 @@ struct FieldRowState {
     QString label{};
     QString text{};  ///< of an editor of one value
     QStringList items{};  ///< of a keyword editor
+    QMap<QString, QList<QStringList>> itemParents{};  ///< of items that stand in a tree: the parents of each path
     QString placeholder{};
     bool italicPlaceholder = false;
     bool batch = false;  ///< has a tick

@@ -3,9 +3,9 @@
 #include "app/model/AppModel.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
+#include "ui/controls/NoticeLine.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/InspectorStates.h"
-#include "ui/inspector/LeftNoticeLine.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -46,7 +46,7 @@ InspectorFooter::InspectorFooter(AppModel& model, QWidget* parent)
     , m_model(model)
     , m_line(new QBoxLayout(QBoxLayout::LeftToRight, this))
     , m_unsaved(new TwoLineLabel(TextRole::label, 12))
-    , m_left(new LeftNoticeLine)
+    , m_left(new NoticeLine(u"Bring back"_s))
     , m_rename(new QBButton(u"Rename…"_s, QBButtonKind::secondary))
     , m_add(new QBButton(u"Add field"_s, QBButtonKind::dashed))
     , m_save(new QBButton(u"Save"_s, QBButtonKind::primary))

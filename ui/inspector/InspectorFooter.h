@@ -9,7 +9,7 @@ class QBoxLayout;
 namespace Quorbel {
 
 class AppModel;
-class LeftNoticeLine;
+class NoticeLine;
 class QBButton;
 class TwoLineLabel;
 
@@ -38,7 +38,7 @@ private:
     AppModel& m_model;
     QBoxLayout* m_line;
     TwoLineLabel* m_unsaved;
-    LeftNoticeLine* m_left;
+    NoticeLine* m_left;
     QBButton* m_rename;
     QBButton* m_add;
     QBButton* m_save;

@@ -31,7 +31,7 @@ constexpr qreal side = 20;
 constexpr qreal top = 14;
 constexpr qreal bottom = 16;
 
-constexpr int mostCompletions = 8;
+constexpr int mostCompletions = 16;  // some of which are there already
 constexpr int blocksDelay = 150;  // milliseconds in which a record may come before anything changes
 
 // The fields of the usual photo: those that are always shown, and the rating.
@@ -83,6 +83,7 @@ InspectorForm::InspectorForm(
     m_cameraSection->setUnderRows(m_camera);
     m_column->addWidget(m_cameraSection);
     m_column->addStretch();
+    connect(m_banner->agree(), &QAbstractButton::clicked, &m_model, &AppModel::requestMakeAgree);
     connect(m_map, &LocationMap::found, &m_model, &AppModel::fillPlaceNames);
     connect(m_languages, &FormLanguages::changed, this, [this] {
         if (!m_subject)
@@ -206,7 +207,11 @@ void InspectorForm::showHeader()
 {
     m_header->parentWidget()->setVisible(!m_model.isBatch());
     m_banner->parentWidget()->setVisible(m_model.isBatch());
-    m_banner->setPhotos(m_model.selection().size(), InspectorStates::readingText(m_model));
+    const QString reading = InspectorStates::readingText(m_model);
+    m_banner->setPhotos(m_model.selection().size(), reading);
+    // While photos are read, how far that is comes first.
+    m_banner->setDisagreements(
+        reading.isEmpty() ? InspectorStates::disagreementsText(m_model) : QString(), m_model.canMakeAgree());
     if (const ImageRecord* record = m_model.primaryRecord())
         m_header->setRecord(*record);
 }
@@ -314,8 +319,9 @@ FieldRow* InspectorForm::rowOf(const FieldSpec& field)
     parts.places = m_places;
     parts.now = [this] { return m_model.now(); };
     if (field.id == FieldID::keywords)
-        parts.completions = [this](
-                                const QString& prefix) { return m_model.keywordCompletions(prefix, mostCompletions); };
+        parts.completions = [this](const QString& typed) {
+            return InspectorStates::keywordSuggestions(m_model, typed, mostCompletions);
+        };
     FieldRow* row = makeRow(field.id, parts);
     connect(row, &FieldRow::textEdited, this, [this, id = field.id](const QString& text) { write(id, text); });
     connect(
@@ -392,7 +398,7 @@ void InspectorForm::orderTabStops()
 {
     if (!std::exchange(m_tabOrderStale, false))
         return;
-    QList<QWidget*> stops;
+    QList<QWidget*> stops{ m_banner->agree() };
     const auto take = [&stops](const FormSection* section) {
         for (const FieldRow* row : section->rows())
             stops.append(row->tabStops());

@@ -5,7 +5,12 @@
 #include "core/schema/FieldCheck.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
+#include "core/schema/KeywordPath.h"
+#include "core/text/Text.h"
 #include "core/tool/MetadataWriter.h"
+
+#include <QLocale>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -41,10 +46,39 @@ QString willBeWritten(const AppModel& model)
     return u"Will be written to all %1 photos"_s.arg(model.selection().size());
 }
 
+// Where keywords stand in trees of keywords; people stand in none.
+QMap<QString, QList<QStringList>> parentsOf(const AppModel& model, const QStringList& keywords)
+{
+    QMap<QString, QList<QStringList>> all;
+    for (const QString& keyword : keywords)
+        for (const QString& path : model.pathsOf(keyword)) {
+            QStringList parents = KeywordPath::elements(path);
+            parents.removeLast();
+            if (!parents.isEmpty())
+                all[keyword].append(parents);
+        }
+    return all;
+}
+
+// The beginning of a path, as paths begin: "Places|Fr", and "Places|" where the next element is still to come. Nothing
+// while it is a plain keyword.
+std::optional<QString> pathBeingTyped(const QString& typed)
+{
+    static const QRegularExpression between(uR"(\||\s>(?:\s|$))"_s);
+    QStringList elements = typed.split(between);
+    if (elements.size() < 2)
+        return std::nullopt;
+    for (QString& element : elements)
+        element = Text::trimmed(element);
+    return elements.join(u'|');
+}
+
 void addListState(const AppModel& model, const FieldSpec& field, FieldRowState& state)
 {
     state.placeholder = state.batch ? u"Add to all + ↵"_s : u"Add keyword + ↵"_s;
     state.items = state.batch ? model.batchLists().value(field.id) : model.draftLists().value(field.id);
+    if (field.id == FieldID::keywords)
+        state.itemParents = parentsOf(model, state.items);
     state.included = state.batch && !state.items.isEmpty();
     if (state.included)
         state.helpLine = u"appends — existing values kept"_s;
@@ -160,6 +194,38 @@ FieldRowState languageRow(const AppModel& model, const FieldSpec& field, const Q
                                      : u"Will be taken away"_s;
     }
     return state;
+}
+
+QList<KeywordSuggestion> keywordSuggestions(const AppModel& model, const QString& typed, int limit)
+{
+    const std::optional<QString> path = pathBeingTyped(typed);
+    const QString prefix = Text::trimmed(typed);
+    QStringList paths = model.pathCompletions(path.value_or(prefix), limit);
+    QList<KeywordSuggestion> suggestions;
+    const auto addPath = [&](const QString& known) {
+        suggestions.append({ known, KeywordPath::keyword(known), KeywordPath::elements(KeywordPath::parents(known)) });
+    };
+    if (!path)
+        for (const QString& keyword : model.keywordCompletions(prefix, limit)) {
+            suggestions.append({ keyword, keyword });
+            paths.removeIf([&](const QString& known) {
+                const bool isItsOwn = KeywordPath::keyword(known) == keyword;
+                if (isItsOwn)
+                    addPath(known);
+                return isItsOwn;
+            });
+        }
+    std::for_each(paths.cbegin(), paths.cend(), addPath);
+    return suggestions;
+}
+
+QString disagreementsText(const AppModel& model)
+{
+    const int count = model.selectedDisagreements();
+    if (count == 0)
+        return {};
+    return (count == 1 ? u"%1 photo has places that differ"_s : u"%1 photos have places that differ"_s)
+        .arg(QLocale().toString(count));
 }
 
 FieldRowState customRow(const AppModel& model, const CustomValue& custom)

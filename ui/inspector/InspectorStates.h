@@ -2,6 +2,7 @@
 // Thread: the main thread. Reads the model, changes nothing, knows no widget.
 #pragma once
 
+#include "ui/controls/keywords/KeywordSuggestion.h"
 #include "ui/inspector/FieldRowState.h"
 
 namespace Quorbel {
@@ -21,6 +22,11 @@ QString readingText(const AppModel& model);
 FieldRowState fieldRow(const AppModel& model, const FieldSpec& field);
 /// The text of a field in one further language; `isLast` of those on screen.
 FieldRowState languageRow(const AppModel& model, const FieldSpec& field, const QString& code, bool isLast);
+/// What completes a keyword or a path of keywords that is being typed: the keywords that are used most, each with the
+/// paths that lead to it behind it, and then other paths. At most so many of each.
+QList<KeywordSuggestion> keywordSuggestions(const AppModel& model, const QString& typed, int limit);
+/// "12 photos have places that differ", of those selected; "" where none is known to have any.
+QString disagreementsText(const AppModel& model);
 FieldRowState customRow(const AppModel& model, const CustomValue& custom);
 
 FieldRowState unreadRow(const FieldSpec& field);

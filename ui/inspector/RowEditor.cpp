@@ -1,10 +1,10 @@
 #include "ui/inspector/RowEditor.h"
 
 #include "ui/controls/Buttons.h"
-#include "ui/controls/KeywordEditor.h"
 #include "ui/controls/OffsetPicker.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/keywords/KeywordEditor.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/FieldRow.h"
 #include "ui/places/LocationSearchField.h"
@@ -73,8 +73,8 @@ RowEditor keywordEditor(const KeywordEditor::Completions& completions, FieldRow&
                     editor->clearEntry();
                 editor->setAmber(state.batch);
                 editor->setEdited(state.edited);
-                if (editor->chips() != state.items)
-                    editor->setChips(state.items);
+                if (editor->chips() != state.items || editor->parents() != state.itemParents)
+                    editor->setChips(state.items, state.itemParents);
                 editor->setPlaceholder(state.placeholder);
             } };
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/schema/FieldSchema.h"
+#include "ui/controls/keywords/KeywordSuggestion.h"
 #include "ui/inspector/FieldRowState.h"
 
 #include <QDateTime>
@@ -22,7 +23,7 @@ struct FieldRowParts {
     FieldKind kind = FieldKind::text;
     bool searchesPlaces = false;  ///< a text editor with place suggestions
     PlaceProvider* places = nullptr;  ///< not owned; may be null
-    std::function<QStringList(const QString& prefix)> completions{};  ///< of keywords, best first
+    std::function<QList<KeywordSuggestion>(const QString& typed)> completions{};  ///< best first
     std::function<QDateTime()> now{};  ///< local time for the button "Now"
     bool isLanguage = false;  ///< below the row of its field, and less prominent
 };

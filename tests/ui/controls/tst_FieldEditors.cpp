@@ -1,7 +1,6 @@
 #include "tests/ui/UiSupport.h"
 #include "ui/controls/ChoiceList.h"
 #include "ui/controls/FlowLayout.h"
-#include "ui/controls/KeywordEditor.h"
 #include "ui/controls/OffsetPicker.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/SuggestionList.h"
@@ -9,6 +8,8 @@
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/attached/CodesChip.h"
 #include "ui/controls/attached/SearchMenu.h"
+#include "ui/controls/keywords/KeywordChip.h"
+#include "ui/controls/keywords/KeywordEditor.h"
 #include "ui/controls/theme/Metrics.h"
 
 #include <QClipboard>
@@ -213,6 +214,8 @@ private slots:
         QTest::newRow("spaces around") << u"  reed bank "_s << QStringList{ u"reed bank"_s } << QString();
         QTest::newRow("spaces only stay") << u"   "_s << QStringList{} << u"   "_s;
         QTest::newRow("nothing") << QString() << QStringList{} << QString();
+        QTest::newRow("a path") << u" Places > France > Paris"_s << QStringList{ u"Places > France > Paris"_s }
+                                << QString();
         QTest::newRow("a comma is part of it") << u"a, b"_s << QStringList{ u"a, b"_s } << QString();
     }
     void typedKeywords()
@@ -236,6 +239,8 @@ private slots:
         QTest::newRow("one line end only") << u" still water\n"_s << QStringList{} << u"still water"_s;
         QTest::newRow("commas") << u"lake, autumn ,,evening"_s << QStringList{ u"lake"_s, u"autumn"_s, u"evening"_s }
                                 << QString();
+        QTest::newRow("paths") << u"Places|France|Paris, A > B"_s << QStringList{ u"Places|France|Paris"_s, u"A > B"_s }
+                               << QString();
         QTest::newRow("lines") << u"lake\r\nautumn\n"_s << QStringList{ u"lake"_s, u"autumn"_s } << QString();
     }
     void pastedKeywords()
@@ -322,7 +327,11 @@ private slots:
         Test::Stage stage;
         KeywordOwner owner(stage, { u"aunt"_s });
         owner.editor->setCompletions([](const QString& prefix) {
-            return prefix == u"au"_s ? QStringList{ u"aunt"_s, u"autumn"_s, u"Auckland"_s } : QStringList{};
+            QList<KeywordSuggestion> found;
+            if (prefix == u"au"_s)
+                for (const QString& keyword : { u"aunt"_s, u"autumn"_s, u"Auckland"_s })
+                    found.append({ keyword, keyword });
+            return found;
         });
         owner.type(u"au"_s);
         QCOMPARE(owner.suggestions()->rows().size(), 2);
@@ -331,6 +340,106 @@ private slots:
         QTEST(owner.added, "added");
         QVERIFY(owner.suggestions()->isHidden());
         QCOMPARE(owner.editor->entry()->text(), QString());
+    }
+
+    void chipsTellWhereKeywordsStand_data()
+    {
+        QTest::addColumn<QList<QStringList>>("parents");
+        QTest::addColumn<QString>("spoken");
+        QTest::addColumn<QString>("toolTip");
+        QTest::newRow("no path") << QList<QStringList>{} << u"lake"_s << QString();
+        QTest::newRow("a path") << QList<QStringList>{ { u"Places"_s, u"Switzerland"_s } }
+                                << u"lake, in Places, Switzerland"_s << u"lake\nPlaces ▸ Switzerland ▸ lake"_s;
+        QTest::newRow("two paths") << QList<QStringList>{ { u"Nature"_s }, { u"Places"_s } }
+                                   << u"lake, in Nature; in Places"_s << u"lake\nNature ▸ lake\nPlaces ▸ lake"_s;
+        QTest::newRow("two scripts") << QList<QStringList>{ { u"أماكن"_s } } << u"lake, in أماكن"_s
+                                     << u"lake\n\u200eأماكن\u200e ▸ \u200elake"_s;
+    }
+    void chipsTellWhereKeywordsStand()
+    {
+        QFETCH(QList<QStringList>, parents);
+        Test::Stage stage;
+        KeywordOwner owner(stage);
+        owner.editor->setChips({ u"lake"_s, u"autumn"_s }, { { u"lake"_s, parents } });
+        auto* chip = owner.editor->findChild<KeywordChip*>();
+        QAccessibleInterface* described = QAccessible::queryAccessibleInterface(chip);
+        QTEST(described->text(QAccessible::Name), "spoken");
+        QCOMPARE(described->text(QAccessible::Description), QString());
+        QTEST(chip->toolTip(), "toolTip");
+        QCOMPARE(owner.editor->findChildren<KeywordChip*>().at(1)->accessibleName(), u"autumn"_s);
+        // The path that is drawn is the first one.
+        const QFontMetrics metrics(chip->font());
+        const int before = chip->width();
+        owner.editor->setChips({ u"lake"_s });
+        QCOMPARE(chip->toolTip(), QString());
+        const int least = parents.isEmpty() ? 0 : metrics.horizontalAdvance(parents.first().join(QString()));
+        QVERIFY(before - chip->width() >= least);
+        QVERIFY(parents.isEmpty() == (before == chip->width()));
+    }
+
+    // Whatever was shown before: what is decided follows from chips and width.
+    void parentsStandInFrontWhileAllFitTwoLines()
+    {
+        Test::Stage stage;
+        KeywordOwner owner(stage);
+        const QStringList all{ u"Zürichsee"_s, u"lake"_s, u"autumn"_s, u"evening"_s };
+        const KeywordEditor::Parents parents{ { u"Zürichsee"_s, { { u"Places"_s, u"Switzerland"_s } } },
+            { u"lake"_s, { { u"Nature"_s } } } };
+        const auto chips = [&] { return owner.editor->findChildren<KeywordChip*>(); };
+        const auto isShown = [&] { return chips().first()->sizeHint().width() == chips().first()->widthWithParents(); };
+        QSet<bool> seen;
+        QHash<int, bool> atWidth;
+        for (const int step : { -7, 7 })
+            for (int width = step < 0 ? 460 : 117; width >= 117 && width <= 460; width += step) {
+                owner.editor->setFixedWidth(width);
+                owner.editor->setChips(all, parents);
+                QCoreApplication::processEvents();
+                seen.insert(isShown());
+                QCOMPARE(atWidth.value(width, isShown()), isShown());
+                atWidth.insert(width, isShown());
+                if (isShown())
+                    QVERIFY(chips().last()->y() < 2 * px(28));
+                for (const KeywordChip* chip : chips())
+                    QVERIFY(owner.editor->rect().contains(chip->geometry()));
+            }
+        QCOMPARE(seen.size(), 2);
+        // One more where there is no room, and away again.
+        owner.editor->setFixedWidth(460);
+        owner.editor->setChips(all + QStringList(QString(60, u'w')) + QStringList(QString(61, u'w')), parents);
+        QVERIFY(!isShown());
+        owner.editor->setChips(all, parents);
+        QVERIFY(isShown());
+        // A path that is longer than a line leaves the keyword to be read.
+        owner.editor->setChips({ u"lake"_s }, { { u"lake"_s, { { QString(80, u'x'), QString(80, u'y') } } } });
+        QVERIFY(isShown());
+        QVERIFY(owner.editor->rect().contains(chips().first()->geometry()));
+        QCOMPARE(owner.editor->height(), 2 * px(28) + 4);
+    }
+
+    void completionsTellWhereKeywordsStand()
+    {
+        Test::Stage stage;
+        KeywordOwner owner(stage);
+        owner.editor->setChips({ u"Paris"_s }, { { u"Paris"_s, { { u"Places"_s, u"France"_s } } } });
+        QString asked;
+        owner.editor->setCompletions([&](const QString& typed) -> QList<KeywordSuggestion> {
+            asked = typed;
+            return { { u"Paris"_s, u"Paris"_s }, { u"Parma"_s, u"Parma"_s },
+                { u"Places|France|Paris"_s, u"Paris"_s, { u"Places"_s, u"France"_s } },
+                { u"Places|Texas|Paris"_s, u"Paris"_s, { u"Places"_s, u"Texas"_s } } };
+        });
+        owner.type(u"Places > "_s);
+        QCOMPARE(asked, u"Places > "_s);
+        // What the chips say already is not offered; another place of the same keyword is.
+        QCOMPARE(owner.suggestions()->rows().size(), 2);
+        const SuggestionRow row = owner.suggestions()->rows().at(1);
+        QCOMPARE(row.title, u"Paris"_s);
+        QCOMPARE(row.subtitle, u"Places ▸ Texas"_s);
+        QAccessibleInterface* list = QAccessible::queryAccessibleInterface(owner.suggestions());
+        QCOMPARE(list->child(0)->text(QAccessible::Name), u"Parma"_s);
+        QCOMPARE(list->child(1)->text(QAccessible::Name), u"Paris, in Places, Texas"_s);
+        owner.press({ Qt::Key_Down, Qt::Key_Down, Qt::Key_Return });
+        QCOMPARE(owner.added, QStringList{ u"Places|Texas|Paris"_s });
     }
 
     void ratings_data()

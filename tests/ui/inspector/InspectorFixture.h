@@ -4,7 +4,7 @@
 
 #include "platform/places/map/MapRenderer.h"
 #include "tests/app/model/ModelFixture.h"
-#include "ui/controls/KeywordEditor.h"
+#include "ui/controls/keywords/KeywordEditor.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/TextFields.h"
 #include "ui/inspector/FieldRow.h"

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QSignalSpy>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -87,6 +88,8 @@ private slots:
     void init();
     void showsOnePhoto();
     void showsSeveralPhotos();
+    void theBannerTellsOfPlacesThatDiffer_data();
+    void theBannerTellsOfPlacesThatDiffer();
     void showsNothing();
     void placeholders_data();
     void placeholders();
@@ -143,6 +146,43 @@ void tst_InspectorView::showsOnePhoto()
     f.click(u"b.jpg"_s);
     QCOMPARE(f.editor<QBTextField>(u"title"_s)->text(), u"Two"_s);
     QCOMPARE(f.model().unsavedCount(), 0);
+}
+
+void tst_InspectorView::theBannerTellsOfPlacesThatDiffer_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<bool>("isUnderTheText");
+    QTest::newRow("wide") << 480 << false;
+    QTest::newRow("narrow") << 300 << true;
+    QTest::newRow("too narrow") << 200 << true;
+}
+
+void tst_InspectorView::theBannerTellsOfPlacesThatDiffer()
+{
+    QFETCH(int, width);
+    Stage stage;
+    auto* banner = stage.add(new BatchBanner);
+    banner->setFixedWidth(width);
+    banner->setPhotos(40, {});
+    stage.show();
+    QVERIFY(!button(banner, u"Make them agree"_s));
+    const int height = banner->height();
+    const QString text = u"12 photos have places that differ"_s;
+    banner->setDisagreements(text, false);
+    QVERIFY(!banner->agree()->isEnabled());
+    banner->setDisagreements(text, true);
+    QCOMPARE(banner->height(), height);
+    const auto shown = banner->findChildren<QLabel*>();
+    const QRect said(shown.first()->mapTo(banner, QPoint()), shown.first()->size());
+    const QRect agree(banner->agree()->mapTo(banner, QPoint()), banner->agree()->size());
+    QTEST(agree.top() > said.bottom(), "isUnderTheText");
+    QVERIFY(banner->rect().contains(said) && banner->rect().contains(agree) && !said.intersects(agree));
+    QCOMPARE(banner->agree()->accessibleDescription(), text);
+    const QSignalSpy pressed(banner->agree(), &QAbstractButton::clicked);
+    QTest::keyClick(banner->agree(), Qt::Key_Space);
+    QCOMPARE(pressed.size(), 1);
+    banner->setDisagreements({}, true);
+    QVERIFY(!banner->agree()->isVisible());
 }
 
 void tst_InspectorView::showsSeveralPhotos()

@@ -1,13 +1,12 @@
-#include "ui/controls/KeywordEditor.h"
+#include "ui/controls/keywords/KeywordEditor.h"
 
 #include "ui/controls/Accessibility.h"
-#include "ui/controls/Buttons.h"
 #include "ui/controls/FlowLayout.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/SuggestionList.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/keywords/KeywordChip.h"
 #include "ui/controls/theme/FocusRing.h"
-#include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
@@ -25,89 +24,12 @@ namespace Quorbel {
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr qreal chipTextSize = 12;  // points
 constexpr qreal entryWidth = 110;  // points, at least
 constexpr int mostCompletions = 8;
+constexpr int side = 3;  // pixels between the frame and the chips
+constexpr int gap = 2;  // pixels between chips
+constexpr int mostLinesWithParents = 2;
 }  // namespace
-
-// One keyword: a capsule in a 28-point cell, with a cross.
-class KeywordChip final : public QWidget {
-    Q_OBJECT
-
-public:
-    explicit KeywordChip(KeywordEditor* editor)
-        : QWidget(editor)
-        , m_cross(new QBIconButton(u"xmark"_s, QString(), this))
-    {
-        describeAs(staticMetaObject, QAccessible::ListItem);
-        setFocusPolicy(Qt::ClickFocus);
-        m_cross->setSizes({ 16, 16 }, 9, 2.6, 8);
-        m_cross->setQuiet(true);
-        m_cross->setFocusPolicy(Qt::NoFocus);
-        connect(m_cross, &QAbstractButton::clicked, this, &KeywordChip::crossed);
-        onRestyle(this, [this] {
-            setFont(verbatimFont(chipTextSize));
-            updateGeometry();
-        });
-    }
-
-    const QString& keyword() const { return m_keyword; }
-
-    void setKeyword(const QString& keyword, bool amber)
-    {
-        m_amber = amber;
-        m_cross->setAmber(amber);
-        if (keyword != m_keyword) {
-            m_keyword = keyword;
-            setAccessibleName(keyword);
-            m_cross->setName(u"Remove %1"_s.arg(keyword));
-            updateGeometry();
-        }
-        update();
-    }
-
-    QSize sizeHint() const override
-    {
-        const int text = fontMetrics().horizontalAdvance(m_keyword);
-        return { text + px(9) + px(3) + px(16) + px(3) + 4, px(28) };
-    }
-
-signals:
-    void crossed();
-
-protected:
-    void resizeEvent(QResizeEvent*) override
-    {
-        const int side = px(16);
-        m_cross->setGeometry(width() - side - px(3) - 2, (height() - side) / 2, side, side);
-        const bool fits = width() >= QWidget::sizeHint().width() && width() >= sizeHint().width();
-        setToolTip(fits ? QString() : m_keyword);
-    }
-
-    void paintEvent(QPaintEvent*) override
-    {
-        const Theme& theme = Theme::of(this);
-        QPainter painter(this);
-        painter.setOpacity(isEnabled() ? 1 : .42);
-        const QRectF capsule = QRectF(1, (height() - pxF(22)) / 2, width() - 2, pxF(22));
-        const QColor line = m_amber ? theme.amberLine : theme.derived.chipLine;
-        paintBox(painter, capsule, pxF(11), m_amber ? theme.amberBg : theme.chip, QPen(line, 1));
-        if (hasFocus())
-            paintBox(painter, capsule, pxF(11), Qt::transparent, QPen(theme.derived.focusStrong, 2));
-        painter.setPen(theme.text);
-        const QRect text(px(9) + 2, 0, m_cross->x() - px(9) - 2 - px(2), height());
-        painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-            fontMetrics().elidedText(m_keyword, Qt::ElideRight, text.width()));
-    }
-
-    void focusInEvent(QFocusEvent*) override { update(); }
-    void focusOutEvent(QFocusEvent*) override { update(); }
-
-private:
-    QString m_keyword;
-    QBIconButton* m_cross;
-    bool m_amber = false;
-};
 
 // The field behind the chips: hands a paste of several keywords over as several.
 class KeywordEntry final : public QBTextField {
@@ -142,13 +64,13 @@ protected:
 
 KeywordEditor::KeywordEditor(QWidget* parent)
     : QWidget(parent)
-    , m_flow(new FlowLayout(2, this))
+    , m_flow(new FlowLayout(gap, this))
     , m_entry(new KeywordEntry(this))
     , m_suggestions(new SuggestionList(m_entry))
     , m_fade(new HoverFade(this))
 {
     describeAs(staticMetaObject, QAccessible::Grouping);
-    m_flow->setContentsMargins(3, 1, 3, 1);
+    m_flow->setContentsMargins(side, 1, side, 1);
     m_flow->setLastItemFills(true);
     m_flow->addWidget(m_entry);
     setCursor(Qt::IBeamCursor);
@@ -177,12 +99,19 @@ void KeywordEditor::makeChip()
     chip->show();
 }
 
-void KeywordEditor::setChips(const QStringList& chips)
+void KeywordEditor::setChips(const QStringList& chips, const Parents& parents)
+{
+    m_chips = chips;
+    m_parents = parents;
+    showChips();
+}
+
+void KeywordEditor::showChips()
 {
     // Chips are reused: adding a keyword to forty makes one widget, not forty-one.
-    while (m_chipWidgets.size() < chips.size())
+    while (m_chipWidgets.size() < m_chips.size())
         makeChip();
-    while (m_chipWidgets.size() > chips.size()) {
+    while (m_chipWidgets.size() > m_chips.size()) {
         KeywordChip* chip = m_chipWidgets.takeLast();
         if (chip->hasFocus())
             m_entry->setFocus();
@@ -191,12 +120,9 @@ void KeywordEditor::setChips(const QStringList& chips)
         chip->hide();
         chip->deleteLater();
     }
-    m_chips = chips;
-    for (qsizetype i = 0; i < chips.size(); ++i)
-        m_chipWidgets.at(i)->setKeyword(chips.at(i), m_amber || m_edited);
-    limitChips();
-    m_flow->invalidate();
-    updateHeight();
+    for (qsizetype i = 0; i < m_chips.size(); ++i)
+        m_chipWidgets.at(i)->setKeyword(m_chips.at(i), m_parents.value(m_chips.at(i)), m_amber || m_edited);
+    layOutChips();
 }
 
 void KeywordEditor::setAmber(bool amber)
@@ -204,7 +130,7 @@ void KeywordEditor::setAmber(bool amber)
     if (amber == m_amber)
         return;
     m_amber = amber;
-    setChips(m_chips);
+    showChips();
 }
 
 void KeywordEditor::setEdited(bool edited)
@@ -212,7 +138,7 @@ void KeywordEditor::setEdited(bool edited)
     if (edited == m_edited)
         return;
     m_edited = edited;
-    setChips(m_chips);
+    showChips();
     update();
 }
 
@@ -256,24 +182,38 @@ void KeywordEditor::updateHeight()
 bool KeywordEditor::event(QEvent* event)
 {
     if (event->type() == QEvent::LayoutRequest)  // chips have another size
-        updateHeight();
+        layOutChips();
     return QWidget::event(event);
 }
 
 void KeywordEditor::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    if (event->oldSize().width() == width())
-        return;
-    limitChips();
+    if (event->oldSize().width() != width())
+        layOutChips();
+}
+
+// No chip is wider than a line. What is decided follows from the chips and the width alone, never from what is shown.
+void KeywordEditor::layOutChips()
+{
+    const int line = qMax(px(60), width() - 2 * side);
+    for (KeywordChip* chip : std::as_const(m_chipWidgets))
+        chip->setMostWidth(line);
+    const bool isRoom = hasRoomForParents(line);
+    for (KeywordChip* chip : std::as_const(m_chipWidgets))
+        chip->setParentsShown(isRoom);
+    m_flow->invalidate();
     updateHeight();
 }
 
-// No chip is wider than a line.
-void KeywordEditor::limitChips()
+bool KeywordEditor::hasRoomForParents(int line) const
 {
-    for (KeywordChip* chip : std::as_const(m_chipWidgets))
-        chip->setMaximumWidth(qMax(px(60), width() - 6));
+    if (m_parents.isEmpty())
+        return false;
+    QList<int> widths;
+    for (const KeywordChip* chip : m_chipWidgets)
+        widths.append(qMin(line, chip->widthWithParents()));
+    return FlowLayout::lines(widths, line, gap) <= mostLinesWithParents;
 }
 
 void KeywordEditor::paintEvent(QPaintEvent*)
@@ -421,22 +361,38 @@ void KeywordEditor::addAll(const QStringList& keywords)
 
 void KeywordEditor::complete()
 {
-    const QString prefix = m_entry->text().trimmed();
+    const QString typed = m_entry->text();
+    m_offered.clear();
     QList<SuggestionRow> rows;
-    if (m_completions && !prefix.isEmpty()) {
-        for (const QString& keyword : m_completions(prefix)) {
-            if (rows.size() < mostCompletions && !m_chips.contains(keyword) && keyword != prefix)
-                rows.append({ keyword, {} });
+    if (m_completions && !typed.trimmed().isEmpty()) {
+        for (const KeywordSuggestion& suggestion : m_completions(typed)) {
+            if (rows.size() == mostCompletions)
+                break;
+            if (isThere(suggestion) || suggestion.added == typed.trimmed())
+                continue;
+            m_offered.append(suggestion.added);
+            QList<QStringList> parents;
+            if (!suggestion.parents.isEmpty())
+                parents.append(suggestion.parents);
+            rows.append({ suggestion.keyword, shownKeywordPath(suggestion.parents),
+                spokenKeyword(suggestion.keyword, parents), true });
         }
     }
     m_suggestions->showRows(rows);
 }
 
+// Whether adding it would change nothing.
+bool KeywordEditor::isThere(const KeywordSuggestion& suggestion) const
+{
+    return m_chips.contains(suggestion.keyword)
+        && (suggestion.parents.isEmpty() || m_parents.value(suggestion.keyword).contains(suggestion.parents));
+}
+
 void KeywordEditor::acceptCompletion(int row)
 {
-    if (row < 0 || row >= m_suggestions->rows().size())
+    if (row < 0 || row >= m_offered.size())
         return;
-    const QString keyword = m_suggestions->rows().at(row).title;
+    const QString keyword = m_offered.at(row);
     clearEntry();
     emit added(keyword);
 }

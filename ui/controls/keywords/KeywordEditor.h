@@ -3,6 +3,9 @@
 // setChips() then says.
 #pragma once
 
+#include "ui/controls/keywords/KeywordSuggestion.h"
+
+#include <QMap>
 #include <QStringList>
 #include <QWidget>
 
@@ -22,14 +25,19 @@ class KeywordEditor final : public QWidget {
     Q_OBJECT
 
 public:
-    /// The likeliest keywords that begin with the text, best first.
-    using Completions = std::function<QStringList(const QString& prefix)>;
+    /// What fits the text as it is typed, best first.
+    using Completions = std::function<QList<KeywordSuggestion>(const QString& typed)>;
+    /// Of each keyword that stands in a tree, the parents of each of its paths, from the top down.
+    using Parents = QMap<QString, QList<QStringList>>;
 
     explicit KeywordEditor(QWidget* parent = nullptr);
     ~KeywordEditor() override;
 
     const QStringList& chips() const { return m_chips; }
-    void setChips(const QStringList& chips);
+    const Parents& parents() const { return m_parents; }
+    /// The parents of a chip's first path stand in front of it while all chips fit two lines so; the tooltip tells of
+    /// all paths.
+    void setChips(const QStringList& chips, const Parents& parents = {});
     /// Draws the chips in amber: they will be added to all selected photos.
     void setAmber(bool amber);
     /// The edited look of the whole frame.
@@ -46,7 +54,8 @@ public:
     bool hasHeightForWidth() const override { return false; }
 
 signals:
-    /// A keyword, trimmed and not empty. Whether one that is there already is added again is the owner's decision.
+    /// A keyword as it was typed, trimmed and not empty, or what was chosen. Whether one that is there already is added
+    /// again is the owner's decision.
     void added(const QString& keyword);
     void removed(const QString& keyword);
 
@@ -61,10 +70,13 @@ private:
     bool entryKey(QKeyEvent* event);
     bool chipKey(int index, QKeyEvent* event);
     void makeChip();
+    void showChips();
+    void layOutChips();
+    bool hasRoomForParents(int line) const;
+    bool isThere(const KeywordSuggestion& suggestion) const;
     void focusChip(int index);
     /// False when there is none.
     bool focusLastChip();
-    void limitChips();
     void commit();
     void addAll(const QStringList& keywords);
     void complete();
@@ -73,6 +85,8 @@ private:
     void updateHeight();
 
     QStringList m_chips;
+    Parents m_parents;
+    QStringList m_offered;  ///< what the rows of the suggestions add
     QList<KeywordChip*> m_chipWidgets;
     FlowLayout* m_flow;
     KeywordEntry* m_entry;
