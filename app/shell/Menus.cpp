@@ -105,7 +105,7 @@ Menus::Menus(AppModel& model, ContentView& content, const MenuCommands& commands
     addHelpMenu(commands);
     for (const auto change : { &AppModel::recordsChanged, &AppModel::selectionChanged, &AppModel::unreadSelectedChanged,
              &AppModel::folderChanged, &AppModel::isSavingChanged, &AppModel::editsChanged,
-             &AppModel::canUndoSaveChanged })
+             &AppModel::canUndoSaveChanged, &AppModel::detailsChanged, &AppModel::disagreementsChanged })
         connect(&model, change, this, &Menus::followState);
     connect(&model.preferences(), &Preferences::changed, this, &Menus::followState);
     connect(&content, &ContentView::previewShownChanged, this, &Menus::followState);
@@ -186,6 +186,8 @@ void Menus::addEditMenu()
     });
     m_find =
         add(menu, u"&Search"_s, keysFor(QKeySequence::Find, Qt::CTRL | Qt::Key_F), [this] { m_content.focusSearch(); });
+    menu->addSeparator();
+    m_agree = add(menu, u"Make Them A&gree"_s, {}, [this] { m_model.requestMakeAgree(); });
 }
 
 void Menus::fillBringBack()
@@ -221,6 +223,10 @@ void Menus::addViewMenu()
     ThemedMenu* menu = addMenu(u"&View"_s);
     m_preview =
         add(menu, u"Show preview"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_P }, [this] { m_content.togglePreview(); });
+    m_disagreements = menu->addAction(u"Show &Disagreements"_s);
+    m_disagreements->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_D);
+    m_disagreements->setCheckable(true);
+    connect(m_disagreements, &QAction::triggered, &m_model, [this](bool on) { m_model.setShowDisagreements(on); });
     QAction* names = menu->addAction(u"Show &namespace details"_s);
     names->setCheckable(true);
     names->setChecked(m_model.preferences().showNamespace());
@@ -253,6 +259,9 @@ void Menus::followState()
     m_close->setEnabled(any);
     m_find->setEnabled(any);
     m_readAgain->setEnabled(any);
+    m_agree->setEnabled(m_model.canMakeAgree());
+    m_disagreements->setEnabled(any);
+    m_disagreements->setChecked(m_model.showsDisagreements());
     m_preview->setEnabled(any);
     m_preview->setText(m_content.previewShown() ? u"Hide &preview"_s : u"Show &preview"_s);
 }

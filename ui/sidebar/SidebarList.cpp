@@ -2,13 +2,16 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/thumbnails/ThumbnailStore.h"
+#include "ui/controls/Buttons.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/sidebar/DisagreementsBar.h"
 #include "ui/sidebar/SidebarDelegate.h"
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -42,6 +45,7 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     , m_model(model)
     , m_thumbs(thumbs)
     , m_rows(*new SidebarModel(model, this))
+    , m_look(new QBButton(DisagreementsBar::lookTitle(), QBButtonKind::secondary, viewport()))
 {
     setRows(m_rows.rows());
     setModel(&m_rows);
@@ -74,8 +78,12 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     connect(&model, &AppModel::primaryChanged, this, &SidebarList::showPrimary);
     if (thumbs)
         connect(thumbs, &ThumbnailStore::entryChanged, this, [this](const QUrl& url) { repaintThumbnail(url); });
+    m_look->setCursor(Qt::ArrowCursor);
+    connect(m_look, &QAbstractButton::clicked, &model, [&model] { model.setShowDisagreements(true); });
+    connect(&model, &AppModel::disagreementsChanged, this, &SidebarList::showEmpty);
     showSelection();
     showPrimary();
+    showEmpty();
 }
 
 // --- What is shown selected ---
@@ -97,7 +105,7 @@ void SidebarList::showPrimary()
 // Which photo is seen first, and where.
 void SidebarList::rememberPlace()
 {
-    m_place = { m_model.folderURL(), m_model.search(), m_model.sortOrder() };
+    m_place = { m_model.folderURL(), m_model.search(), m_model.sortOrder(), m_model.showsDisagreements() };
     const auto [first, last] = rowsOnScreen();
     for (int row = first; row <= last && m_place.photo.isEmpty(); ++row)
         if (const ImageRecord* photo = m_rows.record(row); photo && topOf(row) >= 0) {
@@ -110,12 +118,13 @@ void SidebarList::rememberPlace()
 // is.
 void SidebarList::showReset()
 {
-    const Place now{ m_model.folderURL(), m_model.search(), m_model.sortOrder() };
-    const bool isSameList = now.folder == m_place.folder && now.search == m_place.search && now.order == m_place.order;
+    const Place now{ m_model.folderURL(), m_model.search(), m_model.sortOrder(), m_model.showsDisagreements() };
+    const bool isSameList = now.folder == m_place.folder && now.search == m_place.search && now.order == m_place.order
+        && now.disagreements == m_place.disagreements;
     setAutoScroll(!isSameList);
     showSelection();
     setAutoScroll(true);
-    setAccessibleDescription(emptyText());
+    showEmpty();
     const int row = isSameList && verticalOffset() > 0 ? m_rows.row(m_place.photo) : -1;
     if (row >= 0)
         scrollRowTo(row, m_place.y);
@@ -181,12 +190,30 @@ void SidebarList::choose(int row, bool shift, bool command)
         showPrimary();  // the keyboard may have been elsewhere
 }
 
-// --- When the search has no hits ---
+// --- When nothing is listed ---
 
 QString SidebarList::emptyText() const
 {
     const bool missed = m_rows.rowCount() == 0 && !m_model.records().isEmpty();
-    return missed ? u"No matching photos."_s : QString();
+    if (!missed)
+        return {};
+    if (!m_model.showsDisagreements() || !m_model.search().trimmed().isEmpty())
+        return u"No matching photos."_s;
+    const qsizetype unknown = m_model.disagreements().unknown;
+    if (unknown == 0)
+        return u"All places agree"_s;
+    return (unknown == 1 ? u"%1 photo not looked at yet"_s : u"%1 photos not looked at yet"_s)
+        .arg(QLocale().toString(unknown));
+}
+
+void SidebarList::showEmpty()
+{
+    const QString text = emptyText();
+    setAccessibleDescription(text);
+    m_look->setVisible(!text.isEmpty() && m_model.showsDisagreements() && DisagreementsBar::canLook(m_model));
+    const QSize size = m_look->sizeHint();
+    m_look->setGeometry(QRect({ (viewport()->width() - size.width()) / 2, px(54) }, size));
+    viewport()->update();
 }
 
 void SidebarList::paintEvent(QPaintEvent* event)
@@ -421,6 +448,7 @@ void SidebarList::mouseDoubleClickEvent(QMouseEvent* event)
 void SidebarList::resizeEvent(QResizeEvent* event)
 {
     GroupedListView::resizeEvent(event);
+    showEmpty();
     followScreen();
 }
 

@@ -13,6 +13,7 @@
 namespace Quorbel {
 
 class AppModel;
+class QBButton;
 class ThumbnailStore;
 
 /// A list view whose every choice goes through AppModel::tap(): clicks, arrows, Home, End, PageUp, PageDown (with
@@ -67,6 +68,7 @@ private:
     void tellInView();
     void repaintThumbnail(const QUrl& url);
     QString emptyText() const;
+    void showEmpty();
     void setByKeyboard(bool on);
 
     /// The photo that is seen first, and what it is seen in.
@@ -74,6 +76,7 @@ private:
         std::optional<QUrl> folder{};
         QString search{};
         RecordSortOrder order{};
+        bool disagreements = false;
         QUrl photo{};
         int y = 0;
     };
@@ -81,6 +84,7 @@ private:
     AppModel& m_model;
     QPointer<ThumbnailStore> m_thumbs;
     SidebarModel& m_rows;  ///< a child of this: views outlive their members
+    QBButton* m_look;  ///< at photos that were not looked at yet, where none of the others is listed
     QTimer m_thumbnailsSoon;
     QTimer m_inViewSoon;
     bool m_hasToldInView = false;  ///< of what is open now

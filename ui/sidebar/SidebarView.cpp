@@ -7,6 +7,7 @@
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/SymbolText.h"
+#include "ui/sidebar/DisagreementsBar.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/window/ProgressFoot.h"
 
@@ -94,8 +95,10 @@ SidebarView::SidebarView(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     column->setSpacing(0);
     column->addWidget(buildHeader());
     column->addWidget(buildFind());
+    column->addWidget(buildDisagreements());
     column->addWidget(m_list, 1);
     column->addWidget(m_foot);
+    m_list->installEventFilter(this);
     connect(m_foot, &ProgressFoot::shownChanged, this, &SidebarView::footChanged);
     connect(m_list, &GroupedListView::stuckLineMoved, this, &SidebarView::stuckLineMoved);
 }
@@ -143,6 +146,20 @@ QWidget* SidebarView::buildFind()
     return find;
 }
 
+QWidget* SidebarView::buildDisagreements()
+{
+    auto* holder = new QWidget;
+    auto* line = new QVBoxLayout(holder);
+    auto* bar = new DisagreementsBar(m_model);
+    line->addWidget(bar);
+    holder->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    const auto follow = [this, holder] { holder->setVisible(m_model.showsDisagreements()); };
+    connect(&m_model, &AppModel::disagreementsChanged, holder, follow);
+    follow();
+    onRestyle(holder, [line] { line->setContentsMargins(px(sidePadding), 0, px(rightPadding), px(11)); });
+    return holder;
+}
+
 void SidebarView::openSortMenu()
 {
     auto* menu = new ThemedMenu(this);
@@ -180,6 +197,10 @@ bool SidebarView::eventFilter(QObject* watched, QEvent* event)
         default:
             break;
         }
+    }
+    if (watched == m_list && event->type() == QEvent::Move) {
+        update();
+        emit stuckLineMoved();
     }
     return QWidget::eventFilter(watched, event);
 }

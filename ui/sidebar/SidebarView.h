@@ -1,5 +1,5 @@
-// The left column: how many photos are selected, the search, the sort order, the list, and long work at its foot.
-// Thread: the main thread. Shows AppModel and calls it.
+// The left column: how many photos are selected, the search, the sort order, what limits the list, the list, and long
+// work at its foot. Thread: the main thread. Shows AppModel and calls it.
 #pragma once
 
 #include <QWidget>
@@ -36,7 +36,7 @@ public:
 signals:
     /// The foot appeared or went.
     void footChanged();
-    /// stuckLine() may have another answer.
+    /// stuckLine() or listTop() may have another answer.
     void stuckLineMoved();
 
 protected:
@@ -46,6 +46,7 @@ protected:
 private:
     QWidget* buildHeader();
     QWidget* buildFind();
+    QWidget* buildDisagreements();
     void openSortMenu();
 
     AppModel& m_model;

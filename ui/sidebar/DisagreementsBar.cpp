@@ -1,0 +1,111 @@
+#include "ui/sidebar/DisagreementsBar.h"
+
+#include "app/model/AppModel.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/NoticeLine.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Painting.h"
+
+#include <QLocale>
+#include <QPainter>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Points.
+constexpr qreal corner = 7;
+constexpr qreal side = 10;
+constexpr qreal aboveText = 5.5;
+constexpr qreal closeSide = 20;
+
+struct Texts {
+    QString whole{};
+    QString brief{};
+};
+
+Texts textsOf(const AppModel& model)
+{
+    const AppModel::Disagreements found = model.disagreements();
+    const QLocale locale;
+    const auto counted = [&](const QString& pattern, qsizetype count) { return pattern.arg(locale.toString(count)); };
+    if (found.isLooking) {
+        const qsizetype all = model.records().size();
+        const QString far = u"%1 of %2"_s.arg(locale.toString(all - found.unknown), locale.toString(all));
+        return { u"Looking… "_s + far, far };
+    }
+    Texts texts{ counted(found.photos == 1 ? u"%1 photo disagrees"_s : u"%1 photos disagree"_s, found.photos),
+        counted(u"%1 disagree"_s, found.photos) };
+    if (found.unknown > 0) {
+        texts.whole += counted(u" · %1 not looked at yet"_s, found.unknown);
+        texts.brief += counted(u" · %1 unknown"_s, found.unknown);
+    }
+    return texts;
+}
+
+}  // namespace
+
+DisagreementsBar::DisagreementsBar(AppModel& model, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_notice(new NoticeLine(lookTitle(), this))
+    , m_close(new QBIconButton(u"xmark"_s, u"Show all photos"_s, this))
+{
+    m_notice->setRoles(TextRole::text, TextRole::text);
+    m_close->setSizes({ closeSide, closeSide }, 10, 2.6, 6);
+    m_close->setQuiet(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(m_close, &QAbstractButton::clicked, &model, [&model] { model.setShowDisagreements(false); });
+    connect(m_notice->button(), &QAbstractButton::clicked, &model, [&model] { model.setShowDisagreements(true); });
+    connect(m_notice, &NoticeLine::changed, this, &DisagreementsBar::place);
+    connect(&model, &AppModel::disagreementsChanged, this, &DisagreementsBar::follow);
+    connect(&model, &AppModel::recordsChanged, this, &DisagreementsBar::follow);
+    onRestyle(this, [this] { place(); });
+    follow();
+}
+
+QString DisagreementsBar::lookTitle()
+{
+    return u"Look at them"_s;
+}
+
+bool DisagreementsBar::canLook(const AppModel& model)
+{
+    const AppModel::Disagreements found = model.disagreements();
+    return found.unknown > 0 && !found.isLooking;
+}
+
+void DisagreementsBar::follow()
+{
+    const Texts texts = textsOf(m_model);
+    m_notice->setText(texts.whole, texts.brief);
+    m_notice->setOffered(canLook(m_model));
+}
+
+void DisagreementsBar::place()
+{
+    const int around = px(aboveText);
+    const int close = px(closeSide);
+    const int room = qMax(0, width() - px(side) - close - 2 * px(3));
+    const int text = m_notice->lines(room) * NoticeLine::lineHeight();
+    setFixedHeight(text + 2 * around);
+    m_notice->setGeometry(px(side), around, room, text);
+    m_close->setGeometry(width() - close - px(3), around + (NoticeLine::lineHeight() - close) / 2, close, close);
+}
+
+void DisagreementsBar::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    place();
+}
+
+void DisagreementsBar::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    paintBox(painter, rect(), pxF(corner), theme.chip, QPen(theme.derived.chipLine, 1));
+}
+
+}  // namespace Quorbel
