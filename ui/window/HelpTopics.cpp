@@ -10,6 +10,9 @@ const QList<std::pair<HelpTopic, QString>>& RawValues<HelpTopic>::table()
         { HelpTopic::gettingStarted, u"gettingStarted"_s },
         { HelpTopic::interface, u"interface"_s },
         { HelpTopic::editing, u"editing"_s },
+        { HelpTopic::languages, u"languages"_s },
+        { HelpTopic::keywordPaths, u"keywordPaths"_s },
+        { HelpTopic::disagreements, u"disagreements"_s },
         { HelpTopic::batch, u"batch"_s },
         { HelpTopic::renaming, u"renaming"_s },
         { HelpTopic::saving, u"saving"_s },
@@ -84,6 +87,52 @@ Page editingPage()
         } };
 }
 
+Page languagesPage()
+{
+    return { u"Several Languages"_s, u"globe"_s,
+        {
+            paragraph(
+                u"A title, description, copyright notice, event or usage terms can be in several languages in one "
+                "photo. The field shows the text that every app reads; the others stay with the photo whatever you "
+                "write there."_s),
+            bullets({ u"A field that has other languages names them at its right end, like “de fr”. Click there to see "
+                      "and edit them."_s,
+                u"Add language finds a language by its name; the cross behind a text takes that language away."_s,
+                u"Both count as unsaved until you save, and work for several photos at once."_s }),
+        } };
+}
+
+Page keywordPathsPage()
+{
+    return { u"Keyword Paths"_s, u"tag"_s,
+        {
+            paragraph(u"Many programs keep keywords in a tree, such as Places ▸ France ▸ Paris. Quorbel shows where a "
+                      "keyword stands: in front of it while there are few, and always in its tooltip."_s),
+            bullets({ u"Type Places > France > Paris, with a blank on each side of the >, or Places|France|Paris. The "
+                      "photo gets the keyword Paris and its place in the tree."_s,
+                u"Suggestions tell the places of a keyword. Type Places| to see what lies below Places."_s,
+                u"Take a keyword away, and the paths that lead to it go too, in every place where the photo keeps "
+                "them. Paths that lead further stay."_s }),
+        } };
+}
+
+Page disagreementsPage()
+{
+    return { u"Places That Disagree"_s, u"not.equal"_s,
+        {
+            paragraph(
+                u"A photo keeps a title or a date in several places, and each program reads the one it knows. When "
+                "programs changed only some of them, the places differ. A field whose places differ has a mark under "
+                "it."_s),
+            bullets({ u"Click the mark to see what each place holds. Use this one makes a text your edit; saving "
+                      "writes it to all places."_s,
+                u"View ▸ Show Disagreements (⌘⇧D) lists only photos whose places differ. Quorbel looks at all open "
+                "photos for that, while you work on."_s,
+                u"With photos selected, Edit ▸ Make Them Agree writes what each photo shows to all of its places. "
+                "Undo Save takes it back."_s }),
+        } };
+}
+
 Page batchPage()
 {
     return { u"Batch Editing"_s, u"square.stack.3d.up"_s,
@@ -143,6 +192,12 @@ Page page(HelpTopic topic)
         return interfacePage();
     case HelpTopic::editing:
         return editingPage();
+    case HelpTopic::languages:
+        return languagesPage();
+    case HelpTopic::keywordPaths:
+        return keywordPathsPage();
+    case HelpTopic::disagreements:
+        return disagreementsPage();
     case HelpTopic::batch:
         return batchPage();
     case HelpTopic::renaming:

@@ -1,4 +1,4 @@
-// The help texts: seven topics, each a list of paragraphs and bulleted lists.
+// The help texts: topics, each a list of paragraphs and bulleted lists.
 // Thread: any. Pure. Texts name keys and programs as symbols; symbolText() renders them when they are shown.
 #pragma once
 
@@ -10,7 +10,18 @@
 
 namespace Quorbel {
 
-enum class HelpTopic { gettingStarted, interface, editing, batch, renaming, saving, settings };
+enum class HelpTopic {
+    gettingStarted,
+    interface,
+    editing,
+    languages,
+    keywordPaths,
+    disagreements,
+    batch,
+    renaming,
+    saving,
+    settings
+};
 
 template <>
 struct RawValues<HelpTopic> {
