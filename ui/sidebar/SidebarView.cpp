@@ -153,7 +153,13 @@ QWidget* SidebarView::buildDisagreements()
     auto* bar = new DisagreementsBar(m_model);
     line->addWidget(bar);
     holder->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    const auto follow = [this, holder] { holder->setVisible(m_model.showsDisagreements()); };
+    const auto follow = [this, holder] {
+        const bool isShown = m_model.showsDisagreements();
+        // Its cross may be what was pressed.
+        if (!isShown && holder->isAncestorOf(focusWidget()))
+            m_list->setFocus();
+        holder->setVisible(isShown);
+    };
     connect(&m_model, &AppModel::disagreementsChanged, holder, follow);
     follow();
     onRestyle(holder, [line] { line->setContentsMargins(px(sidePadding), 0, px(rightPadding), px(11)); });
