@@ -20,12 +20,14 @@ namespace Quorbel::Bench {
 
 using namespace Qt::StringLiterals;
 
-OpenWindow::OpenWindow(const ExifToolRunner& tool, Thumbnails thumbnails, const QString& cache)
+OpenWindow::OpenWindow(const ExifToolRunner& tool, Thumbnails thumbnails, const QString& cache, Details details)
 {
     AppModelServices services;
     services.service = MetadataService{ tool };
     services.preferences = std::make_shared<QSettings>(m_home.filePath(u"settings.ini"_s), QSettings::IniFormat);
     services.recordCachePath = cache;
+    if (details == Details::off)
+        services.detailsDelay = std::chrono::hours(24);
     m_model = std::make_unique<AppModel>(services);
     if (thumbnails == Thumbnails::on) {
         ThumbnailStoreOptions options;

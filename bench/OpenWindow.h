@@ -21,8 +21,12 @@ class OpenWindow final : public QObject {
 public:
     enum class Thumbnails { off, on };
 
-    /// `cache`: folder of the record cache, made when missing; empty: none.
-    OpenWindow(const ExifToolRunner& tool, Thumbnails thumbnails, const QString& cache = {});
+    enum class Details { off, on };
+
+    /// `cache`: folder of the record cache, made when missing; empty: none. `details`: whether what photos hold beside
+    /// their records is read while all else rests.
+    OpenWindow(
+        const ExifToolRunner& tool, Thumbnails thumbnails, const QString& cache = {}, Details details = Details::on);
     ~OpenWindow() override;
 
     AppModel& model() { return *m_model; }

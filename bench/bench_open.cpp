@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include <malloc.h>
 #include <sched.h>
 
 using namespace Quorbel;
@@ -146,6 +147,61 @@ void readAll(const PhotoFolders& folders, int count, int tries, bool inSlices, c
 void all(const PhotoFolders& folders)
 {
     readAll(folders, sample, 5, true, "2,000 photos: all read", 1.1);
+}
+
+// Until all records are shown, where details are read once all else rests, and where they never are; by turns.
+void details(const PhotoFolders& folders)
+{
+    using Details = OpenWindow::Details;
+    const QString folder = folders.folder(sample);
+    QMap<Details, QList<Cost>> costs;
+    for (int i = 0; i < triesOf(5); ++i)
+        for (const Details how : { i % 2 == 0 ? Details::on : Details::off, i % 2 == 0 ? Details::off : Details::on })
+            costs[how].append(measure([&] {
+                OpenWindow window(realTool(), Thumbnails::on, {}, how);
+                window.load(folder, [&] { return window.hasRead(sample); });
+            }));
+    const double with = medianWall(costs.value(Details::on));
+    const double without = medianWall(costs.value(Details::off));
+    report("2,000 photos: all read, with details", with / without, "x", 1.02,
+        told(with, without, "without")
+            + u", CPU ratio %1"_s.arg(
+                medianCpu(costs.value(Details::on)) / medianCpu(costs.value(Details::off)), 0, 'f', 3));
+}
+
+double allocatedBytes()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<double>(info.uordblks) + static_cast<double>(info.hblkhd);
+}
+
+// What is held of photos with nothing to tell, and of such where all there is disagrees.
+void detailsMemory(const PhotoFolders&)
+{
+    QList<QUrl> photos;
+    for (int i = 0; i < most; ++i)
+        photos.append(QUrl::fromLocalFile(u"/photos/2026/trip/IMG_%1.jpg"_s.arg(i)));
+    const auto perPhoto = [&photos](const std::function<PhotoDetails(int)>& of) {
+        DetailsStore store;
+        const double before = allocatedBytes();
+        for (int i = 0; i < most; ++i) {
+            PhotoDetails details = of(i);
+            details.url = photos.at(i);
+            store.put(std::move(details));
+        }
+        return (allocatedBytes() - before) / most;
+    };
+    const double plain = perPhoto([](int) { return PhotoDetails(); });
+    const double rich = perPhoto([](int i) {
+        const QString number = QString::number(i);
+        return PhotoDetails{ .languages = { { u"title@de"_s, u"Letztes Licht am See "_s + number } },
+            .paths = { u"Places|Switzerland|Lake "_s + QString::number(i % 200), u"Nature|lake"_s },
+            .disagreements = { { u"title"_s,
+                { { u"XMP-dc:Title"_s, { u"Last light on the lake "_s + number }, true },
+                    { u"IPTC:ObjectName"_s, { u"Last light "_s + number } } } } } };
+    });
+    report("50,000 photos: details, where there are none", plain, " bytes a photo", 128, {});
+    report("50,000 photos: details, where there are many", rich, " bytes a photo", 2048, {});
 }
 
 void allOfMany(const PhotoFolders& folders)
@@ -307,6 +363,8 @@ constexpr Row rows[]{
     { "fields", false, false, fields },
     { "fields-over", false, false, fieldsOver },
     { "all", false, false, all },
+    { "details", false, false, details },
+    { "details-memory", false, false, detailsMemory },
     { "all-10000", false, true, allOfMany },
     { "one-core", false, false, oneCore },
     { "again", true, false, again },
