@@ -173,6 +173,7 @@ private slots:
     void knownPaths();
     void savedAndUndone();
     void openedAndClosed();
+    void throughTheTool();
 };
 
 void tst_AppModelDetails::whatIsOfInterest()
@@ -681,7 +682,8 @@ void tst_AppModelDetails::openedAndClosed()
     QTRY_COMPARE_WITH_TIMEOUT(f->unreadSelected(), 0, patience);
     QCOMPARE(f->disagreements(), (AppModel::Disagreements{ 0, 3, false }));
     f->setShowDisagreements(true);
-    QVERIFY(f->disagreements().isLooking && f->isWorking());
+    QVERIFY(f->disagreements().isLooking);
+    QTRY_VERIFY_WITH_TIMEOUT(f->isWorking(), patience);
     f->cancelRead();
     QVERIFY(!f->disagreements().isLooking && !f->isWorking() && f->showsDisagreements());
     f->refresh();
@@ -691,6 +693,41 @@ void tst_AppModelDetails::openedAndClosed()
     QCOMPARE(f->disagreements(), AppModel::Disagreements());
     isShut = false;
     QVERIFY(QTest::qWaitFor([] { return patientThreads().activeThreadCount() == 0; }, patience));
+}
+
+// A tool that dies at one photo and does not get done with another: what the others hold is known all the same, and
+// nothing is left behind in their folder.
+void tst_AppModelDetails::throughTheTool()
+{
+    QByteArray script = R"perl(#!/usr/bin/perl
+if (grep { $_ eq '-a' } @ARGV) {
+    kill 9, $$ if grep { m{/c\.jpg$} } @ARGV;
+    my ($photo) = grep { m{/d\.jpg$} } @ARGV;
+    if ($photo) { open my $open, '<', $photo; sleep 600 }
+}
+exec $^X, 'TOOL', @ARGV;
+)perl";
+    script.replace("TOOL", realTool().exiftoolURL.toLocalFile().toUtf8());
+    const PhotoFolder beside;
+    ModelFixture f(MetadataService{ { beside.add(u"exiftool"_s, script), realTool().perlURL } });
+    f.services.recordCachePath = beside.path(u"records"_s);
+    f.services.stallInterval = 2s;
+    f.addTitled(jpgs(u"abcde"_s));
+    exiftool({ u"-overwrite_original"_s, u"-IPTC:ObjectName=Other"_s, u"-XMP-dc:Title-de=Titel"_s,
+        u"-XMP-lr:HierarchicalSubject=A|B"_s, f.folder.path(u"a.jpg"_s) });
+    const QStringList files = f.folder.names();
+    f.lookAtDetails();
+    QVERIFY(f.open());
+    f->setShowDisagreements(true);
+    QTRY_COMPARE_WITH_TIMEOUT(f->disagreements(), (AppModel::Disagreements{ 1, 2, false }), patience);
+    QCOMPARE(f.visible(), jpgs(u"a"_s));
+    const PhotoDetails a = *f->details(f.url(u"a.jpg"_s));
+    QCOMPARE(a.languages, (QMap<QString, QString>{ { u"title@de"_s, u"Titel"_s } }));
+    QCOMPARE(a.paths, QStringList{ u"A|B"_s });
+    QCOMPARE(a.disagreements.keys(), QStringList{ u"title"_s });
+    QCOMPARE(f->stalledFile(), std::nullopt);
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f.folder.names(), files);
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelDetails)
