@@ -5,6 +5,7 @@
 #include "core/schema/FieldSchema.h"
 #include "ui/controls/attached/SearchMenu.h"
 #include "ui/inspector/FieldRow.h"
+#include "ui/inspector/InspectorStates.h"
 
 #include <QLocale>
 
@@ -18,13 +19,17 @@ namespace {
 
 constexpr qsizetype mostAdded = 4;
 
-// What was typed, as a language that is not in the list: "de-at".
+// What was typed, as a language that is not in the list: "de-at". Not a second code of one that is: "deu".
 std::optional<SearchMenuRow> otherLanguage(const QString& typed, const QStringList& present)
 {
-    const QString code = FieldLanguages::spelling(typed);
-    if (!FieldLanguages::isCode(typed) || present.contains(code, Qt::CaseInsensitive))
+    if (!FieldLanguages::isCode(typed))
         return std::nullopt;
-    return SearchMenuRow{ FieldLanguages::name(code), code };
+    const QString code = FieldLanguages::spelling(typed);
+    const SearchMenuRow row{ FieldLanguages::name(code), code };
+    const QList<FieldLanguages::Choice>& listed = FieldLanguages::choices();
+    const bool isListed = std::any_of(listed.cbegin(), listed.cend(),
+        [&row](const FieldLanguages::Choice& choice) { return choice.name == row.title; });
+    return isListed || present.contains(code, Qt::CaseInsensitive) ? std::nullopt : std::optional(row);
 }
 
 }  // namespace
@@ -37,14 +42,14 @@ FormLanguages::FormLanguages(AppModel& model, QObject* parent)
 
 QStringList FormLanguages::shownCodes(const QString& id) const
 {
-    return isOpen(id) ? m_model.languages(id) : QStringList();
+    return isOpen(id) ? InspectorStates::languageCodes(m_model, id) : QStringList();
 }
 
 void FormLanguages::connectRow(FieldRow& row, const FieldSpec& field, const QString& code)
 {
     const QString id = field.id;
     connect(&row, &FieldRow::languageMenuAsked, this,
-        [this, field, &row](QWidget* anchor) { openMenu(field, anchor, row.input()->width()); });
+        [this, field, &row](QWidget* anchor) { openMenu(field, anchor, row); });
     connect(&row, &FieldRow::languagesAsked, this, [this, id](bool open) { setOpen(id, open); });
     if (!code.isEmpty())
         connect(&row, &FieldRow::removeClicked, this, [this, id, code] { remove(id, code); });
@@ -63,16 +68,14 @@ void FormLanguages::setOpen(const QString& id, bool open)
     emit focusAsked(codes.isEmpty() ? id : FieldLanguages::key(id, codes.constFirst()));
 }
 
-// The way back from what was taken away is the same button.
+// The way back from what will be taken away is the same button.
 void FormLanguages::remove(const QString& id, const QString& code)
 {
-    const QString key = FieldLanguages::key(id, code);
-    const bool isEdited = (m_model.isBatch() ? m_model.batchInclude() : m_model.editedSingle()).contains(key);
-    const QMap<QString, QString>& texts = m_model.isBatch() ? m_model.batchValues() : m_model.draftValues();
-    if (isEdited && texts.value(key).trimmed().isEmpty())
-        return m_model.addLanguage(id, code);
+    const bool isWayBack = InspectorStates::isTakenAway(m_model, FieldLanguages::key(id, code));
     m_model.removeLanguage(id, code);
-    const QStringList left = m_model.languages(id);
+    if (isWayBack)
+        m_model.addLanguage(id, code);
+    const QStringList left = shownCodes(id);
     if (left.contains(code))
         return;
     // Its row is gone, and the keyboard with it.
@@ -94,21 +97,21 @@ QStringList FormLanguages::likely(const QString& id) const
     return codes;
 }
 
-void FormLanguages::openMenu(const FieldSpec& field, QWidget* anchor, int width)
+void FormLanguages::openMenu(const FieldSpec& field, QWidget* anchor, const FieldRow& row)
 {
     const QStringList present = m_model.languages(field.id);
     QList<SearchMenuRow> rows;
     const auto offer = [&rows, &present](const QString& code) {
-        const SearchMenuRow row{ FieldLanguages::name(code), code };
-        if (FieldLanguages::isCode(code) && !present.contains(code) && !rows.contains(row))
-            rows.append(row);
+        const SearchMenuRow offered{ FieldLanguages::name(code), code };
+        if (FieldLanguages::isCode(code) && !present.contains(code) && !rows.contains(offered))
+            rows.append(offered);
     };
     const QStringList first = likely(field.id);
     for (const QString& code : first)
         offer(code);
     QSet<QString> offered(present.cbegin(), present.cend());
-    for (const SearchMenuRow& row : std::as_const(rows))
-        offered.insert(row.code);
+    for (const SearchMenuRow& one : std::as_const(rows))
+        offered.insert(one.code);
     for (const FieldLanguages::Choice& choice : FieldLanguages::choices())
         if (!offered.contains(choice.code))
             rows.append({ choice.name, choice.code });
@@ -116,8 +119,11 @@ void FormLanguages::openMenu(const FieldSpec& field, QWidget* anchor, int width)
     menu->setOther([present](const QString& typed) { return otherLanguage(typed, present); });
     menu->setNothingFound(u"No such language. A code such as “de-AT” works too."_s);
     menu->setRows(rows);
-    connect(menu, &SearchMenu::picked, this, [this, id = field.id](const SearchMenuRow& row) { add(id, row.code); });
-    menu->open(QRect(anchor->mapToGlobal(QPoint()), anchor->size()), width);
+    connect(
+        menu, &SearchMenu::picked, this, [this, id = field.id](const SearchMenuRow& picked) { add(id, picked.code); });
+    // In line with the field, which the button that adds one hangs out of.
+    const QPoint from(row.input()->mapToGlobal(QPoint()).x(), anchor->mapToGlobal(QPoint()).y());
+    menu->open(QRect(from, anchor->size()), row.input()->width());
 }
 
 void FormLanguages::add(const QString& id, const QString& code)

@@ -34,7 +34,7 @@ signals:
 private:
     void setOpen(const QString& id, bool open);
     void remove(const QString& id, const QString& code);
-    void openMenu(const FieldSpec& field, QWidget* anchor, int width);
+    void openMenu(const FieldSpec& field, QWidget* anchor, const FieldRow& row);
     QStringList likely(const QString& id) const;
     void add(const QString& id, const QString& code);
 

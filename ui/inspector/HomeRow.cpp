@@ -135,7 +135,7 @@ void HomeRow::setRowWidth(int width)
     // Of more lines than these the next one shows its upper part: there is something to scroll to.
     const bool isMore = m_value->heightFor(room, mostLines + 1) > lines;
     m_value->setFixedHeight(lines + (isMore ? m_value->fontMetrics().height() / 2 : 0));
-    int height = px(top + headHeight + bottom) + m_value->height();
+    int height = px(top) + px(headHeight) + px(bottom) + m_value->height();
     if (m_foreign) {
         m_foreign->setFixedHeight(m_foreign->heightForWidth(room));
         height += m_foreign->height();

@@ -102,15 +102,14 @@ void addTextState(const AppModel& model, const QString& key, FieldRowState& stat
         showMultipleValues(state);
 }
 
-bool isEdited(const AppModel& model, const QString& key)
+const QSet<QString>& editedKeys(const AppModel& model)
 {
-    return (model.isBatch() ? model.batchInclude() : model.editedSingle()).contains(key);
+    return model.isBatch() ? model.batchInclude() : model.editedSingle();
 }
 
-// A text that is emptied is taken away, with its language.
-bool isTakenAway(const AppModel& model, const QString& key)
+bool isEdited(const AppModel& model, const QString& key)
 {
-    return isEdited(model, key) && currentText(model, key).trimmed().isEmpty();
+    return editedKeys(model).contains(key);
 }
 
 void addLanguages(const AppModel& model, const FieldSpec& field, FieldRowState& state)
@@ -118,7 +117,7 @@ void addLanguages(const AppModel& model, const FieldSpec& field, FieldRowState& 
     state.languages.isPossible = !field.languageTag().isEmpty();
     if (!state.languages.isPossible)
         return;
-    const QStringList codes = model.languages(field.id);
+    const QStringList codes = languageCodes(model, field.id);
     for (const QString& code : codes) {
         const QString key = FieldLanguages::key(field.id, code);
         state.languages.codes.append({ code, isTakenAway(model, key) });
@@ -135,6 +134,23 @@ QString currentText(const AppModel& model, const QString& id)
     const QMap<QString, QString>& typed = model.batchValues();
     const auto text = typed.constFind(id);
     return text != typed.cend() ? *text : model.sharedValue(id).value_or(QString());
+}
+
+// A text that is emptied is taken away, with its language.
+bool isTakenAway(const AppModel& model, const QString& key)
+{
+    return isEdited(model, key) && currentText(model, key).trimmed().isEmpty();
+}
+
+QStringList languageCodes(const AppModel& model, const QString& id)
+{
+    QStringList codes = model.languages(id);
+    for (const QString& key : editedKeys(model))
+        if (const auto language = FieldLanguages::languageIn(key);
+            language && language->field->id == id && !codes.contains(language->code) && isTakenAway(model, key))
+            codes.append(language->code);
+    codes.sort();
+    return codes;
 }
 
 bool isUnread(const AppModel& model)
@@ -172,7 +188,8 @@ FieldRowState fieldRow(const AppModel& model, const FieldSpec& field)
         state.noteLine = FieldCheck::note(field, state.text);
     addLanguages(model, field, state);
     if (!state.batch && !state.edited)
-        state.places = { model.differingHomes(field.id), model.canMakeAgree() };
+        state.places.homes = model.differingHomes(field.id);
+    state.places.canAgree = !state.places.homes.isEmpty() && model.canMakeAgree();
     return state;
 }
 

@@ -19,6 +19,11 @@ bool isUnread(const AppModel& model);
 /// "Reading 812 more…", or "812 not read yet" after the user gave that up; "" when all selected photos were read.
 QString readingText(const AppModel& model);
 
+/// Codes of the further languages in which the field is on screen, those that will be taken away among them.
+QStringList languageCodes(const AppModel& model, const QString& id);
+/// Whether the text under this key (FieldLanguages::key()) will be taken away.
+bool isTakenAway(const AppModel& model, const QString& key);
+
 FieldRowState fieldRow(const AppModel& model, const FieldSpec& field);
 /// The text of a field in one further language; `isLast` of those on screen.
 FieldRowState languageRow(const AppModel& model, const FieldSpec& field, const QString& code, bool isLast);

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -51,10 +52,12 @@ InspectorView::InspectorView(
 
 void InspectorView::connectModel()
 {
-    for (const auto changed : { &AppModel::selectionChanged, &AppModel::primaryChanged, &AppModel::recordsChanged,
-             &AppModel::editsChanged, &AppModel::isSavingChanged, &AppModel::leftEditsChanged,
-             &AppModel::unreadSelectedChanged, &AppModel::isWorkingChanged, &AppModel::detailsChanged })
+    for (const auto changed :
+        { &AppModel::selectionChanged, &AppModel::primaryChanged, &AppModel::recordsChanged, &AppModel::isSavingChanged,
+            &AppModel::leftEditsChanged, &AppModel::unreadSelectedChanged, &AppModel::isWorkingChanged })
         connect(&m_model, changed, this, &InspectorView::refresh);
+    for (const auto changed : { &AppModel::editsChanged, &AppModel::detailsChanged })
+        connect(&m_model, changed, this, &InspectorView::refreshInPlace);
     connect(&m_model.preferences(), &Preferences::changed, this, &InspectorView::refresh);
 }
 
@@ -73,6 +76,22 @@ void InspectorView::refresh()
     else
         m_form->leave();
     m_footer->refresh(hasPhoto);
+}
+
+// What is found out late adds lines and rows, perhaps above where one types: that stays where it is.
+void InspectorView::refreshInPlace()
+{
+    const QPointer<QWidget> focus = QApplication::focusWidget();
+    const auto heightOf = [this](const QWidget* widget) { return widget->mapTo(this, QPoint()).y(); };
+    if (!focus || !m_form->isAncestorOf(focus))
+        return refresh();
+    const int before = heightOf(focus);
+    refresh();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    if (!focus || !focus->hasFocus())
+        return;
+    QScrollBar* bar = m_scroll->verticalScrollBar();
+    bar->setValue(bar->value() + heightOf(focus) - before);
 }
 
 void InspectorView::revealFocus()

@@ -34,6 +34,7 @@ protected:
 private:
     void connectModel();
     void refresh();
+    void refreshInPlace();
     void revealFocus();
     void focusField(const QString& id);
 

@@ -23,13 +23,40 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Points.
-constexpr qreal markRoomHeight = 16;  // below the gap under the editor; the mark begins a little higher
-constexpr qreal markRise = 1;
-constexpr qreal addRoomHeight = 25;
+constexpr qreal markRise = 1;  // into the gap under the editor
 constexpr qreal addSide = 8;  // from the button's edge to its icon
 constexpr qreal chipGap = 4;  // around the chip in its field
 constexpr qreal offerSize = 22;
 constexpr qreal mostOfField = .45;  // for the chip
+
+// Has a button's icon in line with the editor: its ground hangs out at the left, as far as there is room.
+class HangingItem final : public QWidgetItem {
+public:
+    HangingItem(QAbstractButton* button, qreal hang, qreal rise)
+        : QWidgetItem(button)
+        , m_hang(hang)
+        , m_rise(rise)
+    {
+    }
+
+    QSize sizeHint() const override
+    {
+        return isEmpty() ? QSize(0, 0) : QSize(0, wid->sizeHint().height() - px(m_rise));
+    }
+    QSize minimumSize() const override { return sizeHint(); }
+    QSize maximumSize() const override { return { QLAYOUTSIZE_MAX, sizeHint().height() }; }
+    void setGeometry(const QRect& place) override
+    {
+        const QSize size = widget()->sizeHint();
+        const int left = qMax(0, place.left() - px(m_hang));
+        const int width = qMin(size.width(), place.right() + 1 - left);
+        widget()->setGeometry(left, place.top() - px(m_rise), width, size.height());
+    }
+
+private:
+    qreal m_hang;
+    qreal m_rise;
+};
 
 // "2 of 3 places differ"
 QString placesText(const QList<FieldHome>& homes)
@@ -66,13 +93,9 @@ void RowExtras::show(const FieldRowState& state)
     place();
 }
 
-QWidget* RowExtras::addRoom(int at, qreal height)
+QWidget* RowExtras::lastUnderEditor() const
 {
-    auto* room = new QWidget(&m_row);
-    onRestyle(room, [room, height] { room->setFixedHeight(px(height)); });
-    room->installEventFilter(this);
-    m_column.insertWidget(at, room);
-    return room;
+    return m_mark ? m_mark : m_editor.widget;
 }
 
 // --- Places that disagree ---
@@ -81,8 +104,9 @@ void RowExtras::showMark(const FieldRowState& state)
 {
     const bool isMarked = !m_places.homes.isEmpty() && !state.unread;
     if (isMarked && !m_mark) {
-        m_markRoom = addRoom(m_column.indexOf(m_editor.widget) + 1, markRoomHeight);
         m_mark = new MarkButton(u"not.equal"_s, &m_row);
+        m_column.insertItem(
+            m_column.indexOf(m_editor.widget) + 1, new HangingItem(m_mark, MarkButton::sidePadding, markRise));
         connect(m_mark, &QAbstractButton::clicked, this, &RowExtras::openPlaces);
         emit m_row.tabStopsChanged();
     }
@@ -94,7 +118,6 @@ void RowExtras::showMark(const FieldRowState& state)
     } else if (m_mark->hasFocus()) {
         m_editor.input->setFocus(Qt::OtherFocusReason);
     }
-    m_markRoom->setVisible(isMarked);
     m_mark->setVisible(isMarked);
     if (!m_popover)
         return;
@@ -117,8 +140,10 @@ void RowExtras::openPlaces()
     connect(m_popover, &Popover::closed, m_mark, [this] { m_mark->setOpen(false); });
     m_mark->setOpen(true);
     // Over the editor, where there is no room below: what is compared stays in sight.
-    const QRect field = m_editor.widget->geometry() | m_markRoom->geometry();
-    m_popover->open(QRect(m_row.mapToGlobal(field.topLeft()), field.size()), m_editor.widget->width());
+    const QRect field = m_editor.widget->geometry();
+    const QRect anchor =
+        field.united(m_mark->geometry()).intersected(QRect(field.left(), 0, field.width(), m_row.height()));
+    m_popover->open(QRect(m_row.mapToGlobal(anchor.topLeft()), anchor.size()), field.width());
 }
 
 // --- Languages ---
@@ -127,7 +152,7 @@ void RowExtras::showChip(const FieldRowState& state)
 {
     const bool isThere = !m_languages.codes.isEmpty() && !state.unread;
     if (isThere && !m_chip) {
-        m_chip = new CodesChip(&m_row);
+        m_chip = new CodesChip(m_editor.widget);
         connect(m_chip, &QAbstractButton::clicked, this, [this] { emit m_row.languagesAsked(!m_languages.isOpen); });
         emit m_row.tabStopsChanged();
     }
@@ -155,15 +180,14 @@ void RowExtras::showAdding(const FieldRowState& state)
 {
     const bool isThere = state.language.isLast && !state.unread;
     if (isThere && !m_add) {
-        m_addRoom = addRoom(m_column.count() - 1, addRoomHeight);
         m_add = new QBTextButton(u"Add language"_s, &m_row);
+        m_column.insertItem(m_column.count() - 1, new HangingItem(m_add, addSide, 0));
         m_add->setLeadingIcon(u"plus"_s);
         connect(m_add, &QAbstractButton::clicked, this, [this] { emit m_row.languageMenuAsked(m_add); });
         emit m_row.tabStopsChanged();
     }
     if (!m_add)
         return;
-    m_addRoom->setVisible(isThere);
     m_add->setVisible(isThere);
 }
 
@@ -235,26 +259,15 @@ void RowExtras::setRoomAtEnd(int pixels)
 
 void RowExtras::place()
 {
-    const QRect editor = m_editor.widget->geometry();
-    if (m_mark && !m_mark->isHidden()) {
-        const QRect room = m_markRoom->geometry();
-        const int hang = px(MarkButton::sidePadding);
-        const int width = qMin(m_mark->sizeHint().width(), room.width() + hang);
-        m_mark->setGeometry(room.left() - hang, room.top() - px(markRise), width, m_mark->sizeHint().height());
-    }
+    const QRect editor = m_editor.widget->rect();
     const bool hasChip = m_chip && !m_chip->isHidden();
     if (hasChip) {
         m_chip->setRoom(int(editor.width() * mostOfField));
         const QSize size = m_chip->sizeHint();
-        m_chip->setGeometry(
-            QRect(QPoint(editor.right() + 1 - px(chipGap) - size.width(), editor.top() + px(chipGap)), size));
+        m_chip->setGeometry(QRect(QPoint(editor.right() + 1 - px(chipGap) - size.width(), px(chipGap)), size));
         m_chip->raise();
     }
     setRoomAtEnd(hasChip ? m_chip->width() + 2 * px(chipGap) : 0);
-    if (m_add && !m_add->isHidden()) {
-        const QRect room = m_addRoom->geometry();
-        m_add->setGeometry(QRect(QPoint(room.left() - px(addSide), room.top()), m_add->sizeHint()));
-    }
     if (m_offer && !m_offer->isHidden()) {
         const int side = px(offerSize);
         m_offer->setGeometry(m_label.geometry().right() + 1 - side, m_row.dotCenter() - side / 2, side, side);

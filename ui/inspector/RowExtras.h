@@ -34,7 +34,7 @@ public:
     /// Lays everything over the row where it belongs now.
     void place();
     /// What lines under the editor stand behind.
-    QWidget* lastUnderEditor() const { return m_markRoom ? m_markRoom : m_editor.widget; }
+    QWidget* lastUnderEditor() const;
     QList<QWidget*> stopsBesideEditor() const;
     QList<QWidget*> stopsBelow() const;
 
@@ -49,7 +49,6 @@ private:
     void offer();
     void openPlaces();
     void setRoomAtEnd(int pixels);
-    QWidget* addRoom(int at, qreal height);
 
     FieldRow& m_row;
     RowEditor m_editor;
@@ -58,14 +57,12 @@ private:
     RowHomes m_places{};
     RowLanguages m_languages{};
     bool m_isHovered = false;
-    // Each until it was needed; the rooms keep free what the buttons lie over.
+    // Each until it was needed.
     MarkButton* m_mark = nullptr;
-    QWidget* m_markRoom = nullptr;
     QPointer<HomesPopover> m_popover;
     CodesChip* m_chip = nullptr;
     QBIconButton* m_offer = nullptr;
     QBTextButton* m_add = nullptr;
-    QWidget* m_addRoom = nullptr;
     QAction* m_open = nullptr;
     QAction* m_close = nullptr;
 };

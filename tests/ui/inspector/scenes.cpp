@@ -1,5 +1,6 @@
 // Draws the inspector in many situations into PNG files, for looking at: scenes FOLDER [PIXELS [rows]].
-// QT_SCALE_FACTOR=2 doubles the pixels; PIXELS is the size of the desktop's font; "rows" draws single rows alone.
+// QT_SCALE_FACTOR=2 doubles the pixels; PIXELS is the size of the desktop's font; "rows" draws rare rows alone.
+#include "tests/ui/UiSupport.h"
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/attached/CodesChip.h"
@@ -157,6 +158,67 @@ void grabRows(const QString& folder)
     }
 }
 
+void awaitDetails(InspectorFixture& f)
+{
+    const auto isKnown = [&f] {
+        const QSet<QUrl>& selected = f.model().selection();
+        return std::all_of(
+            selected.cbegin(), selected.cend(), [&f](const QUrl& url) { return f.model().details(url) != nullptr; });
+    };
+    if (!QTest::qWaitFor(isKnown, 20000))
+        qWarning("no details");
+    f.settle();
+}
+
+// One photo, then three, in several languages and with places that disagree.
+void grabLanguages(const QString& folder)
+{
+    InspectorFixture f;
+    f.photos.lookAtDetails();
+    const QStringList common{ u"-XMP-dc:Title=Last light on the lake"_s, u"-XMP-dc:Title-de=Letztes Licht am See"_s,
+        u"-XMP-dc:Title-fr=Dernière lumière sur le lac"_s, u"-XMP-dc:Title-ar=الضوء الأخير على البحيرة"_s,
+        u"-XMP-dc:Title-it=Ultima luce sul lago"_s, u"-XMP-dc:Title-zh-hans=湖上的余晖"_s,
+        u"-XMP-dc:Description=Still water after a clear October day, looking south from the reed bank at Horn."_s,
+        u"-XMP-dc:Description-de=Stilles Wasser nach einem klaren Oktobertag, Blick vom Schilfufer bei Horn nach "
+        u"Süden, "
+        u"und noch ein Satz."_s,
+        u"-XMP-dc:Subject=lake"_s, u"-XMP-dc:Subject=autumn"_s, u"-IPTC:Keywords=lake"_s, u"-XMP-dc:Creator=Mara"_s };
+    f.add(u"IMG_4021.jpg"_s,
+        common
+            + QStringList{ u"-XMP-dc:Rights=© 2024 Mara Lindqvist"_s,
+                u"-IPTC:CopyrightNotice=© 2024 Mara Lindqvist, all rights reserved. Prints on request."_s,
+                u"-EXIF:Copyright=(c) Lindqvist Studio 2019"_s });
+    f.add(u"IMG_4022.jpg"_s, common);
+    f.add(u"IMG_4023.jpg"_s, { u"-XMP-dc:Title=Other"_s, u"-XMP-dc:Title-de=Anderes"_s });
+    if (!f.open({ 520, 900 }))
+        return;
+    awaitDetails(f);
+    grab(f, folder, u"homes"_s);
+    f.window->resize(520, 700);
+    f.editor<MarkButton>(u"copyright"_s)->click();
+    grabWithPopups(*f.window, folder + u"/window-places.png"_s);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    f.editor<CodesChip>(u"title"_s)->click();
+    f.model().setSingle(u"title@de"_s, u"Letztes Licht am See!"_s);
+    f.model().removeLanguage(u"title"_s, u"fr"_s);
+    f.settle();
+    grab(f, folder, u"languages"_s);
+    f.editor<CodesChip>(u"description"_s)->click();
+    f.window->resize(520, 1200);
+    grab(f, folder, u"languages-more"_s);
+    button(f.view, u"Add language"_s)->click();
+    QTest::keyClicks(QApplication::activePopupWidget()->focusWidget(), u"por"_s);
+    grabWithPopups(*f.window, folder + u"/window-menu.png"_s);
+    QApplication::activePopupWidget()->close();
+    f.model().discardSaveDialog();
+    f.model().selectAllPhotos();
+    awaitDetails(f);
+    f.model().setBatch(u"title@fr"_s, {});
+    f.model().setBatch(u"title@it"_s, u"Tutte"_s);
+    grab(f, folder, u"languages-batch"_s);
+    f.model().discardSaveDialog();
+}
+
 const QStringList lake{ u"-XMP-dc:Title=Evening by the lake"_s,
     u"-XMP-dc:Description=Still water after a clear October day, looking south from the reed bank at Horn."_s,
     u"-EXIF:DateTimeOriginal=2024:10:12 17:48:00"_s, u"-IPTC:Keywords=lake"_s, u"-IPTC:Keywords=autumn"_s,
@@ -180,6 +242,7 @@ int main(int argc, char** argv)
         QApplication::setFont(font);
     }
     grabRows(folder);
+    grabLanguages(folder);
     if (app.arguments().value(3) == u"rows"_s)
         return 0;
     InspectorFixture f;

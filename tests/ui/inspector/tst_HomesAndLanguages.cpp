@@ -3,13 +3,17 @@
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/SelectableText.h"
+#include "ui/controls/Toggles.h"
 #include "ui/controls/attached/CodesChip.h"
 #include "ui/controls/attached/MarkButton.h"
+#include "ui/controls/attached/SearchMenu.h"
 #include "ui/inspector/FormSection.h"
 #include "ui/inspector/HomeRow.h"
 #include "ui/inspector/HomesPopover.h"
 
+#include <QListWidget>
 #include <QScrollBar>
+#include <QSemaphore>
 #include <QSignalSpy>
 
 using namespace Quorbel;
@@ -70,13 +74,58 @@ FieldRowState copyright(const QList<FieldHome>& homes, bool canAgree = false)
     return { .label = u"Copyright"_s, .text = u"© 2024 Mara"_s, .places = { homes, canAgree } };
 }
 
+// What has the keyboard, in a popup while one is open.
+QWidget* keyboard()
+{
+    const QWidget* popup = QApplication::activePopupWidget();
+    return popup && popup->focusWidget() ? popup->focusWidget() : QApplication::focusWidget();
+}
+
 void press(std::initializer_list<Qt::Key> keys)
 {
-    for (const Qt::Key key : keys) {
-        QWidget* popup = QApplication::activePopupWidget();
-        QTest::keyClick(popup && popup->focusWidget() ? popup->focusWidget() : QApplication::focusWidget(), key);
-    }
+    for (const Qt::Key key : keys)
+        QTest::keyClick(keyboard(), key);
 }
+
+// Photos in several languages, of which the first has places that disagree, too.
+class Photos : public InspectorFixture {
+public:
+    explicit Photos(const decltype(AppModelServices::details)& details = {})
+    {
+        photos.lookAtDetails(details);
+        add(u"a.jpg"_s,
+            { u"-XMP-dc:Title=One"_s, u"-XMP-dc:Title-de=Eins"_s, u"-XMP-dc:Title-fr=Un"_s, u"-XMP-dc:Rights=Mara"_s,
+                u"-IPTC:CopyrightNotice=Mara, all rights reserved"_s, u"-EXIF:Copyright=Studio"_s });
+        add(u"b.jpg"_s, { u"-XMP-dc:Title=Two"_s, u"-XMP-dc:Title-de=Zwei"_s });
+        add(u"c.jpg"_s, {});
+    }
+    void show(const QString& name)
+    {
+        model().discardSaveDialog();
+        click(name);
+        known(name);
+    }
+    void known(const QString& name) { QTRY_VERIFY(model().details(photos.url(name))); }
+    CodesChip* chip(const QString& id = u"title"_s) const
+    {
+        auto* found = editor<CodesChip>(id);
+        return found && found->isVisible() ? found : nullptr;
+    }
+    QString text(const QString& id) const
+    {
+        auto* field = editor<QBTextField>(id);
+        return field ? field->text() : u"no row"_s;
+    }
+    bool hasKeyboard(const QString& id) const
+    {
+        window->activateWindow();  // which the platform off screen does not do where a popup closes
+        settle();
+        return row(id) && row(id)->input()->hasFocus();
+    }
+};
+
+const QString de = u"title@de"_s;
+const QString fr = u"title@fr"_s;
 
 }  // namespace
 
@@ -95,6 +144,11 @@ private slots:
     void aLongValueScrolls();
     void theMarkGivesTheKeyboardBack();
     void theMarkLeavesTheOtherLinesReadable();
+    void anotherPlaceIsUsed();
+    void languagesOfOnePhoto();
+    void languagesOfSeveralPhotos();
+    void theFirstLanguageIsAdded();
+    void rowsThatAppearMoveNothingOneTypesIn();
 };
 
 void tst_HomesAndLanguages::theMarkSaysHowManyDiffer_data()
@@ -277,6 +331,156 @@ void tst_HomesAndLanguages::theMarkLeavesTheOtherLinesReadable()
     for (qsizetype i = 1; i < lines.size(); ++i)
         QVERIFY2(lines.at(i)->y() > lines.at(i - 1)->geometry().bottom(), qPrintable(QString::number(i)));
     QVERIFY(form.row->height() > lines.constLast()->geometry().bottom());
+}
+
+void tst_HomesAndLanguages::anotherPlaceIsUsed()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.known(u"a.jpg"_s);
+    auto* mark = f.editor<MarkButton>(u"copyright"_s);
+    QVERIFY(mark && mark->isVisible());
+    QCOMPARE(mark->text(), u"2 of 3 places differ"_s);
+    QVERIFY(!f.editor<MarkButton>(u"title"_s));
+    mark->setFocus();
+    press({ Qt::Key_Space, Qt::Key_Return });
+    QCOMPARE(f.text(u"copyright"_s), u"Mara, all rights reserved"_s);
+    QVERIFY(f.row(u"copyright"_s)->state().edited);
+    QVERIFY(!mark->isVisible());
+    QVERIFY(f.hasKeyboard(u"copyright"_s));
+    f.model().discardSaveDialog();
+    QVERIFY(mark->isVisible());
+    f.model().selectAllPhotos();
+    QVERIFY(!mark->isVisible());
+}
+
+void tst_HomesAndLanguages::languagesOfOnePhoto()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.known(u"a.jpg"_s);
+    QVERIFY(f.chip());
+    QCOMPARE(f.chip()->shownText(), u"de fr"_s);
+    QVERIFY(!f.row(de));
+    click(f.chip());
+    QCOMPARE(f.text(de), u"Eins"_s);
+    QCOMPARE(f.text(fr), u"Un"_s);
+    QVERIFY(f.hasKeyboard(de));
+    QTest::keyClicks(keyboard(), u"!"_s);
+    QCOMPARE(f.model().draftValues().value(de), f.text(de));
+    QVERIFY(f.row(de)->state().edited && f.text(de).contains(u'!'));
+    QVERIFY(!f.row(u"title"_s)->state().edited);
+    QCOMPARE(f.row(de)->input()->accessibleName(), u"Title (German)"_s);
+    // What will be taken away is still there, and comes back.
+    click(button(f.row(fr), u"Remove French"_s));
+    QVERIFY(f.model().editedSingle().contains(fr));
+    QVERIFY(labels(f.row(fr)).contains(u"Will be taken away"_s));
+    QVERIFY(f.chip()->accessibleName().contains(u"fr (will be taken away)"_s));
+    click(button(f.row(fr), u"Bring French back"_s));
+    QCOMPARE(f.text(fr), u"Un"_s);
+    QVERIFY(!f.model().editedSingle().contains(fr));
+    // Open stays open, with what the next photo has.
+    f.show(u"b.jpg"_s);
+    QCOMPARE(f.text(de), u"Zwei"_s);
+    QVERIFY(!f.row(fr));
+    f.show(u"c.jpg"_s);
+    QVERIFY(!f.row(de) && !f.chip());
+    f.show(u"a.jpg"_s);
+    QCOMPARE(f.text(fr), u"Un"_s);
+    f.row(fr)->input()->setFocus();
+    QTest::keyClick(keyboard(), Qt::Key_Up, Qt::AltModifier);
+    QVERIFY(!f.row(de) && !f.row(fr));
+    QVERIFY(f.hasKeyboard(u"title"_s));
+}
+
+void tst_HomesAndLanguages::languagesOfSeveralPhotos()
+{
+    Photos f;
+    QVERIFY(f.open());
+    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
+        f.show(name);
+    f.model().selectAllPhotos();
+    QTRY_VERIFY(f.chip());
+    QCOMPARE(f.chip()->shownText(), u"de fr"_s);
+    f.row(u"title"_s)->input()->setFocus();
+    QTest::keyClick(keyboard(), Qt::Key_Down, Qt::AltModifier);
+    QVERIFY(f.hasKeyboard(de));
+    QCOMPARE(f.editor<QBTextField>(de)->placeholderText(), u"Multiple values — leave unchanged"_s);
+    QTest::keyClicks(keyboard(), u"Alle"_s);
+    QCOMPARE(f.model().batchValues().value(de), u"Alle"_s);
+    auto* tick = f.editor<QBCheckbox>(de);
+    QVERIFY(tick->isVisible() && tick->isChecked());
+    QCOMPARE(tick->accessibleName(), u"Write Title (German) to all selected files"_s);
+    click(tick);
+    QVERIFY(!f.model().batchInclude().contains(de));
+    click(button(f.row(fr), u"Remove French"_s));
+    QVERIFY(labels(f.row(fr)).contains(u"Will be taken away from all 3 photos"_s));
+    QCOMPARE(f.model().batchValues().value(fr, u"-"_s), QString());
+    QVERIFY(f.model().batchInclude().contains(fr));
+}
+
+void tst_HomesAndLanguages::theFirstLanguageIsAdded()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.show(u"c.jpg"_s);
+    const auto menu = [] { return qobject_cast<SearchMenu*>(QApplication::activePopupWidget()); };
+    f.row(u"title"_s)->input()->setFocus();
+    QVERIFY(button(f.row(u"title"_s), u"Add language"_s));
+    QVERIFY(!button(f.row(u"description"_s), u"Add language"_s));
+    QTest::keyClick(keyboard(), Qt::Key_Down, Qt::AltModifier);
+    QVERIFY(menu());
+    QTest::keyClicks(keyboard(), u"germ"_s);
+    press({ Qt::Key_Return });
+    QVERIFY(f.hasKeyboard(de));
+    QTest::keyClicks(keyboard(), u"Titel"_s);
+    QCOMPARE(f.model().draftValues().value(de), u"Titel"_s);
+    // The next one, which is not in the list; the one that is there is not offered.
+    click(button(f.row(de), u"Add language"_s));
+    QVERIFY(menu());
+    QTest::keyClicks(keyboard(), u"german"_s);
+    QCOMPARE(menu()->list()->findItems(u"German"_s, Qt::MatchExactly).size(), 0);
+    menu()->field()->clear();
+    QTest::keyClicks(keyboard(), u"por"_s);
+    QCOMPARE(menu()->list()->findItems(u"Portuguese"_s, Qt::MatchExactly).size(), 1);
+    menu()->field()->clear();
+    QTest::keyClicks(keyboard(), u"DE-at"_s);
+    press({ Qt::Key_Return });
+    QVERIFY(f.hasKeyboard(u"title@de-AT"_s));
+    QCOMPARE(f.chip()->shownText(), u"de de-AT"_s);
+    // What was only added goes at once, and the keyboard stays near.
+    click(button(f.row(de), u"Remove German"_s));
+    QVERIFY(!f.row(de));
+    QVERIFY(f.hasKeyboard(u"title@de-AT"_s));
+    click(button(f.row(u"title@de-AT"_s), u"Remove German (Austria)"_s));
+    QVERIFY(!f.chip());
+    QVERIFY(f.hasKeyboard(u"title"_s));
+    QCOMPARE(f.model().unsavedCount(), 0);
+}
+
+// What is found out late stands above where one types, in a window that is too low for the form.
+void tst_HomesAndLanguages::rowsThatAppearMoveNothingOneTypesIn()
+{
+    QSemaphore gate;
+    Photos f([&gate](const QList<ImageRecord>& records, const ReadControl&) {
+        gate.acquire();
+        QHash<QUrl, PhotoDetails> found;
+        for (const ImageRecord& record : records)
+            found.insert(record.url, { record.url, {}, {}, { { u"title"_s, { rights, notice } } } });
+        return found;
+    });
+    QVERIFY(f.open({ 520, 500 }));
+    QWidget* input = f.row(u"copyright"_s)->input();
+    input->setFocus();
+    f.settle();
+    const int before = input->mapTo(f.view, QPoint()).y();
+    QVERIFY(!f.editor<MarkButton>(u"title"_s));
+    gate.release(100);
+    f.known(u"a.jpg"_s);
+    QTRY_VERIFY(f.editor<MarkButton>(u"title"_s));
+    f.settle();
+    QCOMPARE(input->mapTo(f.view, QPoint()).y(), before);
+    QVERIFY(input->hasFocus());
 }
 
 QTEST_MAIN(tst_HomesAndLanguages)

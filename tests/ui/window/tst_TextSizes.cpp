@@ -4,6 +4,8 @@
 #include "tests/ui/inspector/HalfRead.h"
 #include "tests/ui/window/WindowFixture.h"
 #include "ui/controls/ThemedMenuBar.h"
+#include "ui/controls/attached/CodesChip.h"
+#include "ui/controls/attached/MarkButton.h"
 #include "ui/sheets/AddFieldSheet.h"
 #include "ui/sheets/MessageSheet.h"
 #include "ui/sheets/RenameSheet.h"
@@ -138,6 +140,14 @@ private:
         AppModel& model = m_photos.model();
         m_photos.click(u"1x1_a.jpg"_s);
         look(seen, u"one photo"_s);
+        const auto row = [this](const QString& id) { return m_window->findChild<InspectorForm*>()->row(id); };
+        row(u"title"_s)->findChild<CodesChip*>()->click();
+        look(seen, u"languages"_s);
+        row(u"copyright"_s)->findChild<MarkButton*>()->click();
+        settle();
+        seen.insert(u"places"_s, audit(QApplication::activePopupWidget()));
+        QApplication::activePopupWidget()->close();
+        row(u"title"_s)->findChild<CodesChip*>()->click();
         model.setSingle(u"title"_s, u"Last 5x7 light"_s);
         model.setSingle(u"creator"_s, u"Mara"_s);
         look(seen, u"edited"_s);
@@ -248,8 +258,11 @@ void tst_TextSizes::initTestCase()
     QVERIFY(m_folders->photos.open());
     m_folders->model().setFolded(m_folders->photos.url(u"Alps/Pass"_s), true);
     m_half = std::make_unique<HalfRead>();
+    m_photos->photos.lookAtDetails();
     m_photos->add(u"1x1_a.jpg"_s,
-        { u"-XMP-dc:Title=Evening by the lake"_s, u"-EXIF:DateTimeOriginal=2024:10:12 17:48:00"_s,
+        { u"-XMP-dc:Title-de=Abend am 1x1 See"_s, u"-XMP-dc:Title-fr=Soir au bord du lac"_s, u"-XMP-dc:Rights=Mara"_s,
+            u"-EXIF:Copyright=(c) Mara Lindqvist 9x13, all rights reserved. Prints on request."_s,
+            u"-XMP-dc:Title=Evening by the lake"_s, u"-EXIF:DateTimeOriginal=2024:10:12 17:48:00"_s,
             u"-EXIF:OffsetTimeOriginal=+02:00"_s, u"-IPTC:Keywords=lake"_s, u"-IPTC:Keywords=13x18"_s,
             u"-XMP-dc:Creator=Mara Lindqvist"_s, u"-XMP-photoshop:City=Zürich"_s, u"-GPSLatitude=47.3769"_s,
             u"-GPSLatitudeRef=N"_s, u"-GPSLongitude=8.5417"_s, u"-GPSLongitudeRef=E"_s, u"-XMP:Rating=4"_s,
@@ -258,6 +271,9 @@ void tst_TextSizes::initTestCase()
     m_photos->add(u"2x3_b.jpg"_s, { u"-XMP-dc:Creator=Mara Lindqvist"_s });
     m_photos->add(u"3x4_c.jpg"_s, { u"-XMP-dc:Title=Other"_s });
     QVERIFY(m_photos->photos.open());
+    m_photos->model().selectAllPhotos();
+    for (const ImageRecord& record : m_photos->model().selectedRecords())
+        QTRY_VERIFY(m_photos->model().details(record.url));
     m_photos->model().addKnownField(u"headline"_s);
     QVERIFY(m_half->openHalf());
     // The second is the narrowest in which the preview takes room from the inspector.
