@@ -80,7 +80,8 @@ void takeLanguages(Decided& decided, const FileTags& held)
             const QString key = FieldLanguages::key(field.id, it.key().sliced(prefix.size()));
             const bool isEdited = std::any_of(plan.scalars.keyBegin(), plan.scalars.keyEnd(),
                 [&key](const QString& other) { return other.compare(key, Qt::CaseInsensitive) == 0; });
-            if (!isEdited && it->size() == 1)
+            // An empty one could not be told from one that is gone.
+            if (!isEdited && it->size() == 1 && !it->constFirst().isEmpty())
                 decided.photo.keptTexts.insert(key, QString::fromUtf8(it->constFirst()));
         }
     }
