@@ -109,6 +109,7 @@ void AppModel::connectParts()
             resumeWaiting();
         else
             dropWaiting();
+        goOnAgreeing();
     });
     connect(&m_saving, &Saving::ended, this, &AppModel::lookAhead);
 }
@@ -209,7 +210,7 @@ void AppModel::cancelRead()
     m_library.cancelReads();
     giveUpAwaited();
     if (m_agreeing && !m_agreeing->isAsking)
-        m_agreeing.reset();
+        giveUpAgreeing();
 }
 
 void AppModel::openPanel()
@@ -329,6 +330,7 @@ void AppModel::takeVanished(const QList<int>& positions)
         m_awaited->unread.subtract(gone);
         saveAwaited();
     }
+    goOnAgreeing();
 }
 
 void AppModel::selectWhereNone()

@@ -375,6 +375,8 @@ private:
     void takeUndone(const SaveOutcome& outcome);
     // Homes that disagree
     void goOnAgreeing();
+    void giveUpAgreeing();
+    QStringList namesWithoutDetails() const;
     QHash<QUrl, EditPlan> agreements() const;
     void makeAgree(const QHash<QUrl, EditPlan>& plans);
     // Renaming

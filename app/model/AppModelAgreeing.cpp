@@ -1,6 +1,9 @@
 // Homes that disagree: what has to be known and asked before they are made to agree.
 #include "app/model/AppModel.h"
 #include "core/save/Agreement.h"
+#include "core/text/Text.h"
+
+#include <algorithm>
 
 namespace Quorbel {
 
@@ -8,7 +11,6 @@ using namespace Qt::StringLiterals;
 
 bool AppModel::canMakeAgree() const
 {
-    return false;  // until a save takes a plan of each photo's own
     if (!saving().isPossible() || isSaving() || selection().isEmpty())
         return false;
     return unreadSelected() > 0 || selectedDetails().unknown() > 0 || selectedDetails().canAgree();
@@ -39,10 +41,22 @@ void AppModel::goOnAgreeing()
     photos.removeIf([this](const QUrl& photo) { return !this->photos().contains(photo); });
     if (std::any_of(photos.cbegin(), photos.cend(), [this](const QUrl& photo) { return isUnread(photo); }))
         return;
+    if (!m_library.details().require(photos))
+        return;
+    if (unsavedCount() > 0 || m_saveOpen) {
+        // Typed meanwhile: that is decided first.
+        m_agreeing.reset();
+        return requestMakeAgree();
+    }
     const QHash<QUrl, EditPlan> plans = agreements();
+    if (const QStringList names = namesWithoutDetails(); !names.isEmpty()) {
+        setErrorMessage(u"The places of these photos’ fields could not be read: "_s + Text::listed(names));
+    } else if (plans.isEmpty()) {
+        setErrorMessage(u"The places of the selected photos’ fields agree already."_s);
+    }
     if (plans.isEmpty()) {
         m_agreeing.reset();
-        return setErrorMessage(u"The places of the selected photos’ fields agree already."_s);
+        return;
     }
     const bool asks =
         isBatch() ? m_preferences.confirmMassEdit() && !m_batchDontAskSession : !m_preferences.saveDontAsk();
@@ -50,6 +64,23 @@ void AppModel::goOnAgreeing()
         return makeAgree(plans);
     m_agreeing->isAsking = true;
     m_announcer.assign(m_saveOpen, true, Change::saveOpen);
+}
+
+// The question is not asked, or not answered.
+void AppModel::giveUpAgreeing()
+{
+    if (!std::exchange(m_agreeing, std::nullopt))
+        return;
+    m_library.details().require({});
+}
+
+QStringList AppModel::namesWithoutDetails() const
+{
+    QStringList names;
+    for (const QUrl& photo : m_agreeing->photos)
+        if (!details(photo))
+            names.append(photo.fileName());
+    return names;
 }
 
 QHash<QUrl, EditPlan> AppModel::agreements() const
@@ -80,8 +111,11 @@ std::optional<AppModel::AgreementQuestion> AppModel::agreementQuestion() const
 
 void AppModel::makeAgree(const QHash<QUrl, EditPlan>& plans)
 {
+    const Announcer::Together together(m_announcer);
     m_agreeing.reset();
-    Q_UNUSED(plans)
+    if (onWriteBegins)
+        onWriteBegins(plans.keys());
+    m_saving.makeAgree(plans, { m_preferences.backupOriginals(), m_preferences.writeSidecar(), {} });
 }
 
 }  // namespace Quorbel

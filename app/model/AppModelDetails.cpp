@@ -1,5 +1,6 @@
 // Languages, keyword paths and homes that disagree.
 #include "app/model/AppModel.h"
+#include "core/schema/KeywordPath.h"
 
 namespace Quorbel {
 
@@ -21,9 +22,15 @@ const PhotoDetails* AppModel::details(const QUrl& photo) const
     return library().details().store().find(photo);
 }
 
-QStringList AppModel::pathCompletions(const QString& /*prefix*/, int /*limit*/) const
+// What somebody has just typed is what is typed next.
+QStringList AppModel::pathCompletions(const QString& prefix, int limit) const
 {
-    return {};
+    QStringList paths;
+    for (const QString& path : typedPaths() + library().details().store().paths(prefix, limit))
+        if (paths.size() < limit && !paths.contains(path)
+            && KeywordPath::keyword(path).startsWith(prefix, Qt::CaseInsensitive))
+            paths.append(path);
+    return paths;
 }
 
 AppModel::Disagreements AppModel::disagreements() const

@@ -60,7 +60,7 @@ void AppModel::commitSelection(const Selection& next)
 {
     m_lastSaveFailed = false;
     if (next.photos != selection())
-        m_agreeing.reset();
+        giveUpAgreeing();
     m_editing.leave();
     m_editing.select(next);
 }

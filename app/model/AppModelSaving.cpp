@@ -24,7 +24,7 @@ void AppModel::setSaveOpen(bool open)
     // A sheet that closes itself after an answer says so too: then it is no cancel any more.
     if (!open && m_saveOpen) {
         dropWaiting();
-        m_agreeing.reset();
+        giveUpAgreeing();
     }
     m_announcer.assign(m_saveOpen, open, Change::saveOpen);
 }
@@ -164,7 +164,8 @@ void AppModel::takeSaved(const SaveOutcome& outcome)
     m_editing.takeSaved(outcome.unsaved, outcome.failed, outcome.differing);
     if (outcome.message)
         setErrorMessage(outcome.message);
-    m_refused = { QSet<QUrl>(outcome.failed.cbegin(), outcome.failed.cend()), outcome.homesToLeaveOut };
+    if (!outcome.unsaved.isEmpty())
+        m_refused = { QSet<QUrl>(outcome.failed.cbegin(), outcome.failed.cend()), outcome.homesToLeaveOut };
 }
 
 QString AppModel::partialSaveText() const

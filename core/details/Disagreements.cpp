@@ -112,7 +112,8 @@ private:
         FieldHome place{ .tag = home.held.tag,
             .values = HomeComparison::shown(m_field, home.held),
             .isShown = isShown,
-            .isForeign = home.isForeign };
+            .isForeign = home.isForeign,
+            .isSeveral = !m_field.isList() && home.held.items.size() > 1 };
         // Of an enumeration the reader shows "5 (normal urgency)".
         const QString value = place.values.value(0);
         if (isShown && !m_field.isList() && !value.isEmpty() && m_recorded.constFirst().startsWith(value + u" ("_s))

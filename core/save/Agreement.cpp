@@ -1,10 +1,16 @@
 #include "core/save/Agreement.h"
 
+#include "core/details/HomeComparison.h"
+#include "core/save/TagHomes.h"
 #include "core/schema/FieldSchema.h"
+#include "core/text/WallClock.h"
+#include "core/tool/MetadataWriter.h"
 
 #include <algorithm>
 
 namespace Quorbel::Agreement {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -14,10 +20,38 @@ QList<FieldHome> withoutForeign(QList<FieldHome> homes)
     return homes;
 }
 
-bool areAlike(const QList<FieldHome>& homes)
+// Of one field. What IPTC's encoding or limit made of a text is no difference.
+bool areAlike(const FieldSpec& field, const QList<FieldHome>& homes)
 {
+    const auto held = [](const FieldHome& home) {
+        return HomeComparison::Held{
+            .tag = home.tag, .items = home.values, .declaresEncoding = !home.tag.startsWith(u"IPTC:"_s)
+        };
+    };
     return std::all_of(homes.cbegin(), homes.cend(),
-        [&homes](const FieldHome& home) { return home.values == homes.constFirst().values; });
+        [&](const FieldHome& home) { return HomeComparison::isSame(field, held(homes.constFirst()), held(home)); });
+}
+
+QStringList dateFields(const EditPlan& plan)
+{
+    QStringList ids;
+    for (auto text = plan.scalars.cbegin(); text != plan.scalars.cend(); ++text)
+        if (const FieldSpec* field = FieldSchema::spec(text.key()); field && field->kind == FieldKind::date)
+            ids.append(field->id);
+    return ids;
+}
+
+void add(EditPlan& plan, const FieldSpec& field, const FieldHome& home, const ImageRecord& photo)
+{
+    if (field.isList()) {
+        const QStringList items = home.isShown ? photo.lists.value(field.id) : home.values;
+        if (!items.isEmpty())
+            plan.lists.insert(field.id, items);
+    } else {
+        const QString text = home.isShown ? photo.values.value(field.id) : home.values.value(0);
+        if (!text.isEmpty())
+            plan.scalars.insert(field.id, text);
+    }
 }
 
 }  // namespace
@@ -25,23 +59,39 @@ bool areAlike(const QList<FieldHome>& homes)
 EditPlan plan(const ImageRecord& photo, const PhotoDetails& details)
 {
     EditPlan plan;
-    for (auto field = details.disagreements.cbegin(); field != details.disagreements.cend(); ++field) {
-        const FieldSpec* spec = FieldSchema::spec(field.key());
-        const QList<FieldHome> homes = withoutForeign(*field);
-        if (!spec || areAlike(homes))
+    for (auto found = details.disagreements.cbegin(); found != details.disagreements.cend(); ++found) {
+        const FieldSpec* field = FieldSchema::spec(found.key());
+        const QList<FieldHome> homes = withoutForeign(*found);
+        if (!field || homes.isEmpty())
             continue;
-        const FieldHome& first = homes.constFirst();
-        if (spec->isList()) {
-            const QStringList items = first.isShown ? photo.lists.value(spec->id) : first.values;
-            if (!items.isEmpty())
-                plan.lists.insert(spec->id, items);
+        const bool isForeignShown = homes.size() < found->size();
+        const bool isSeveral =
+            std::any_of(homes.cbegin(), homes.cend(), [](const FieldHome& home) { return home.isSeveral; });
+        if (isSeveral || (isForeignShown && areAlike(*field, homes)))
             continue;
-        }
-        const bool hasItems =
-            std::any_of(homes.cbegin(), homes.cend(), [](const FieldHome& home) { return home.values.size() != 1; });
-        const QString text = first.isShown ? photo.values.value(spec->id) : first.values.value(0);
-        if (!hasItems && !text.isEmpty())
-            plan.scalars.insert(spec->id, text);
+        add(plan, *field, homes.constFirst(), photo);
+        if (isForeignShown)
+            plan.notShown.append(field->id);
+    }
+    return plan;
+}
+
+QStringList dateTags(const EditPlan& plan)
+{
+    QStringList tags;
+    for (const QString& id : dateFields(plan))
+        tags += FieldSchema::spec(id)->writeTags;
+    return tags;
+}
+
+EditPlan withSeconds(EditPlan plan, const FileTags& stored)
+{
+    for (const QString& id : dateFields(plan)) {
+        QString& shown = plan.scalars[id];
+        for (const QString& tag : FieldSchema::spec(id)->writeTags)
+            for (const QString& text : TagHomes::itemsOf(tag, stored))
+                if (MetadataWriter::displayDate(text) == shown && WallClock::fromTyped(text))
+                    shown = text;
     }
     return plan;
 }

@@ -1,9 +1,10 @@
 // What has to be written so that the homes of a photo's fields agree: the value that is shown of each field whose homes
-// do not. Thread: any. Pure.
+// do not, or the one of the field's own first home, where another standard's tag is shown. Thread: any. Pure.
 #pragma once
 
 #include "core/save/EditPlan.h"
 #include "core/schema/PhotoDetails.h"
+#include "core/tool/TagDump.h"
 
 namespace Quorbel::Agreement {
 
@@ -11,5 +12,9 @@ namespace Quorbel::Agreement {
 /// something else, since that tag is never written; and a text that some home keeps as several items (creators), which
 /// would become one.
 EditPlan plan(const ImageRecord& photo, const PhotoDetails& details);
+/// The tags of the plan's dates, which are shown to the minute.
+QStringList dateTags(const EditPlan& plan);
+/// The plan with its dates to the second, as one of their homes has them. `stored`: what the photo holds in those tags.
+EditPlan withSeconds(EditPlan plan, const FileTags& stored);
 
 }  // namespace Quorbel::Agreement

@@ -23,6 +23,10 @@ struct EditPlan {
     /// Of the tags of fields whose own text the plan writes: those whose texts in further languages stay.
     QStringList keptLanguages{};
 
+    /// Ids of fields of which the record shows another standard's tag, which no save writes: whether they are written
+    /// their own homes tell.
+    QStringList notShown{};
+
     /// Nothing to write; the list mode plays no part.
     bool isEmpty() const { return scalars.isEmpty() && lists.isEmpty() && customs.isEmpty() && paths.isEmpty(); }
     bool operator==(const EditPlan&) const = default;

@@ -204,8 +204,9 @@ QStringList differences(const EditPlan& plan, const ImageRecord& record, const F
     for (const auto& field : FieldSchema::all()) {
         if (isInPart(plan, field))
             continue;
+        const bool isShown = !stored || !plan.notShown.contains(field.id);
         if (const auto scalar = plan.scalars.constFind(field.id); scalar != plan.scalars.cend())
-            if (!sameScalar(field, *scalar, record.values.value(field.id))
+            if ((isShown && !sameScalar(field, *scalar, record.values.value(field.id)))
                 || (stored && !holdsInHomes(field, *scalar, record.fileType, *stored)))
                 keys.append(field.id);
         if (const auto list = plan.lists.constFind(field.id); list != plan.lists.cend())

@@ -19,6 +19,8 @@ struct FieldHome {
     bool isShown = false;  ///< holds what the record shows
     /// A tag of another standard that ExifTool takes for the field's own: it is read, but never written.
     bool isForeign = false;
+    /// Keeps several items (creators) of a field that is shown as one text.
+    bool isSeveral = false;
     bool operator==(const FieldHome&) const = default;
 };
 

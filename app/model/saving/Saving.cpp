@@ -2,6 +2,7 @@
 
 #include "app/model/Background.h"
 #include "app/model/saving/SaveReasons.h"
+#include "core/save/Agreement.h"
 
 #include <QPointer>
 
@@ -35,6 +36,29 @@ std::optional<QString> messageOf(
     if (!checked.joined.isEmpty())
         texts.append(SaveJob::joinedText(checked.joined));
     return texts.isEmpty() ? std::nullopt : std::optional(texts.join(u". "_s));
+}
+
+// Dates are shown to the minute: plans of photos' own give back the seconds that the photos hold.
+SaveJob::Order withSeconds(const MetadataService& service, SaveJob::Order order)
+{
+    QList<QUrl> dated;
+    QStringList tags;
+    for (const QUrl& photo : std::as_const(order.targets))
+        if (const QStringList own = Agreement::dateTags(order.own.value(photo)); !own.isEmpty()) {
+            dated.append(photo);
+            tags += own;
+        }
+    tags.removeDuplicates();
+    if (dated.isEmpty())
+        return order;
+    try {
+        const QHash<QUrl, FileTags> stored = service.stored(tags, dated);
+        for (auto held = stored.cbegin(); held != stored.cend(); ++held)
+            order.own[held.key()] = Agreement::withSeconds(order.own.value(held.key()), *held);
+    } catch (const std::exception&) {
+        // What cannot be read cannot be written either.
+    }
+    return order;
 }
 
 SaveOutcome outcomeOf(const SaveJob::Checked& checked, const SaveJob::Written& written, const Edits& edits)
@@ -149,14 +173,29 @@ void Saving::end(bool isGood)
 
 void Saving::save(const Edits& edits, const WriteOptions& options, const SaveJob::SeenLists& seen)
 {
+    write(edits, { edits.plan(), edits.subjects, options, seen, std::exchange(m_look, nullptr) });
+}
+
+void Saving::makeAgree(const QHash<QUrl, EditPlan>& plans, const WriteOptions& options)
+{
+    dropLook();
+    SaveJob::Order order{ .targets = plans.keys(), .options = options, .own = plans };
+    std::sort(order.targets.begin(), order.targets.end());
+    for (auto plan = plans.cbegin(); plan != plans.cend(); ++plan)
+        if (!plan->lists.isEmpty())
+            order.seen.insert(plan.key(), plan->lists);
+    write({ .subjects = order.targets }, order);
+}
+
+void Saving::write(const Edits& edits, const SaveJob::Order& order)
+{
     const Announcer::Together together(m_announcer);
     begin(edits.subjects);
     const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::write, edits.subjects.size());
-    const SaveJob::Order order{ edits.plan(), edits.subjects, options, seen, std::exchange(m_look, nullptr) };
     runInBackground(
         this,
         [service = *m_service, order, history = m_history, progress = task.progress] {
-            return SaveJob::run(service, order, history, *progress);
+            return SaveJob::run(service, withSeconds(service, order), history, *progress);
         },
         [this, edits, order, id = task.id](const SaveJob::Written& written) {
             {
@@ -199,7 +238,10 @@ void Saving::check(
                     return check(edits, order, written, QSet(tooSlow) << *ended->skipped);
                 takeUndoable(written);
             }
-            finish(outcomeOf(checked, written, edits));
+            SaveJob::Checked told = checked;
+            if (!order.own.isEmpty())
+                told.joined.clear();  // it was asked for
+            finish(outcomeOf(told, written, edits));
         });
 }
 

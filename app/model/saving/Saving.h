@@ -56,6 +56,9 @@ public:
     /// Writes the edits to their subjects. Needs some of both, and that nothing is being saved. `seen`: what was on
     /// screen of the lists that the edits replace.
     void save(const Edits& edits, const WriteOptions& options, const SaveJob::SeenLists& seen);
+    /// Writes to each of these photos what makes its homes agree (Agreement::plan()). Nothing of it is an edit: what
+    /// could not be saved is only told.
+    void makeAgree(const QHash<QUrl, EditPlan>& plans, const WriteOptions& options);
     /// Puts back what the last save replaced. Asks which photos of that save are open, once it knows what they are:
     /// these are read again.
     void undo(const std::function<QList<QUrl>(const QList<QUrl>& saved)>& open);
@@ -71,6 +74,7 @@ signals:
 
 private:
     void begin(const QList<QUrl>& photos);
+    void write(const Edits& edits, const SaveJob::Order& order);
     void end(bool isGood);
     void check(const Edits& edits, const SaveJob::Order& order, const SaveJob::Written& written,
         const QSet<QUrl>& tooSlow = {});

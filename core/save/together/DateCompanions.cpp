@@ -19,6 +19,7 @@ struct Companions {
     QString iptcDay{};
     QString iptcTime{};
     QString xmp{};
+    QString exif{};
     QString fraction{};  // of a second, in EXIF
     QString offsetField{};
     QString offset{};
@@ -28,9 +29,10 @@ const QList<Companions>& all()
 {
     static const QList<Companions> rows{
         { u"date"_s, u"IPTC:DateCreated"_s, u"IPTC:TimeCreated"_s, u"XMP-exif:DateTimeOriginal"_s,
-            u"EXIF:SubSecTimeOriginal"_s, u"offsetOriginal"_s, u"EXIF:OffsetTimeOriginal"_s },
+            u"EXIF:DateTimeOriginal"_s, u"EXIF:SubSecTimeOriginal"_s, u"offsetOriginal"_s,
+            u"EXIF:OffsetTimeOriginal"_s },
         { u"dateDigitized"_s, u"IPTC:DigitalCreationDate"_s, u"IPTC:DigitalCreationTime"_s,
-            u"XMP-exif:DateTimeDigitized"_s, u"EXIF:SubSecTimeDigitized"_s, u"offsetDigitized"_s,
+            u"XMP-exif:DateTimeDigitized"_s, u"EXIF:CreateDate"_s, u"EXIF:SubSecTimeDigitized"_s, u"offsetDigitized"_s,
             u"EXIF:OffsetTimeDigitized"_s },
     };
     return rows;
@@ -73,7 +75,9 @@ QList<Assignment> changed(const Companions& row, const QDateTime& date, const QS
         return stored.section(u' ', 1) + (!zone.isEmpty() ? zone : !own.isEmpty() ? own : u"+00:00"_s);
     });
     put(row.xmp, [&](const QString& own) { return stored + (own.isEmpty() || zone.isEmpty() ? own : zone); });
-    put(row.fraction, [](const QString&) { return QString(); });
+    // It belongs to a second that stays what it was.
+    if (WallClock::fromStored(TagHomes::itemsOf(row.exif, held).value(0)) != date)
+        put(row.fraction, [](const QString&) { return QString(); });
     return assignments;
 }
 

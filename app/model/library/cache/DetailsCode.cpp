@@ -14,6 +14,7 @@ namespace {
 
 constexpr quint64 shown = 1;
 constexpr quint64 foreign = 2;
+constexpr quint64 several = 4;
 
 void packTexts(Packer& to, const QStringList& texts)
 {
@@ -37,6 +38,7 @@ FieldHome unpackHome(Unpacker& from)
     const quint64 flags = from.number();
     home.isShown = (flags & shown) != 0;
     home.isForeign = (flags & foreign) != 0;
+    home.isSeveral = (flags & several) != 0;
     return home;
 }
 
@@ -58,7 +60,7 @@ QByteArray encoded(const PhotoDetails& details)
         for (const FieldHome& home : *homes) {
             to.text(home.tag);
             packTexts(to, home.values);
-            to.number((home.isShown ? shown : 0) | (home.isForeign ? foreign : 0));
+            to.number((home.isShown ? shown : 0) | (home.isForeign ? foreign : 0) | (home.isSeveral ? several : 0));
         }
     }
     return to.bytes();

@@ -97,6 +97,7 @@ void DetailsReading::drop()
         m_tasks.end(run.id);
     }
     m_wantsAll = false;
+    m_required.clear();
     endSurvey();
     m_reading.clear();
     m_failed.clear();
@@ -203,6 +204,7 @@ void DetailsReading::cancel()
 {
     const Announcer::Together together(m_announcer);
     m_wantsAll = false;
+    m_required.clear();
     for (const Run& run : m_running)
         if (run.lane == Lane::patient)
             stop(run);
@@ -274,6 +276,8 @@ void DetailsReading::startPatient()
     while (runs() < patientRunsAtOnce()) {
         QList<QUrl> photos = nextPart();
         if (photos.isEmpty())
+            photos = nextRequired();
+        if (photos.isEmpty())
             photos = wantedInView();
         if (photos.isEmpty() && m_wantsAll)
             photos = nextOfAll();
@@ -331,6 +335,33 @@ QList<QUrl> DetailsReading::nextPart()
     return part;
 }
 
+QList<QUrl> DetailsReading::nextRequired()
+{
+    QList<QUrl> next;
+    for (const QUrl& photo : std::as_const(m_required))
+        if (next.size() < readAtOnce && isWanted(photo) && !m_reading.contains(photo))
+            next.append(photo);
+    return next;
+}
+
+bool DetailsReading::require(const QList<QUrl>& photos)
+{
+    const Announcer::Together together(m_announcer);
+    const bool isFirst = m_required.isEmpty();
+    m_required = m_ask && !m_isGivenUp ? photos : QList<QUrl>();
+    m_required.removeIf([this](const QUrl& photo) { return !isWanted(photo); });
+    if (m_required.isEmpty()) {
+        if (!m_wantsAll)
+            endSurvey();
+        return true;
+    }
+    if (isFirst)
+        m_requiredInAll = m_required.size();
+    showSurvey(m_requiredInAll - m_required.size(), m_requiredInAll);
+    schedule();
+    return false;
+}
+
 // Of all photos; none when the look at them is at its end.
 QList<QUrl> DetailsReading::nextOfAll()
 {
@@ -346,7 +377,8 @@ QList<QUrl> DetailsReading::nextOfAll()
         }
         m_all.remove(0, looked);
         if (!next.isEmpty()) {
-            showSurvey();
+            m_isLooking = true;
+            showSurvey(m_store.known(), m_photos.records().size() - m_failed.size());
             return next;
         }
     }
@@ -368,14 +400,12 @@ void DetailsReading::fillAll()
             m_all.append(photo.url);
 }
 
-void DetailsReading::showSurvey()
+void DetailsReading::showSurvey(qsizetype done, qsizetype total)
 {
-    m_isLooking = true;
-    const qsizetype total = m_photos.records().size() - m_failed.size();
     if (!m_survey)
         m_survey = m_tasks.begin(RunningTasks::Kind::survey, total);
     m_survey->progress->total = total;
-    m_survey->progress->done = m_store.known();
+    m_survey->progress->done = done;
 }
 
 void DetailsReading::endSurvey()

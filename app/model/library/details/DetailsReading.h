@@ -63,6 +63,9 @@ public:
     void setFiltering(bool on);
     /// Looks no further at all of them; what is known stays.
     void cancel();
+    /// Somebody waits for these and no others, however many, and sees how far it is. True when there is nothing to wait
+    /// for any more: what could be known of them is. Asked again whenever changed() was told.
+    bool require(const QList<QUrl>& photos);
     /// Goes on with what was cancelled, or given up.
     void resume();
     /// Such of these as come to agree stay listed until they are not held any more: they are being edited.
@@ -94,6 +97,7 @@ private:
     QList<QUrl> wantedSelected() const;
     QList<QUrl> wantedInView() const;
     QList<QUrl> nextPart();
+    QList<QUrl> nextRequired();
     QList<QUrl> nextOfAll();
     qsizetype ofAllAtOnce() const;
     void fillAll();
@@ -104,7 +108,7 @@ private:
     void list(const QList<QUrl>& photos);
     void noteFailure(const QList<QUrl>& photos, const QString& reason);
     void drop();
-    void showSurvey();
+    void showSurvey(qsizetype done, qsizetype total);
     void endSurvey();
     void tell();
 
@@ -129,6 +133,8 @@ private:
     std::optional<QUrl> m_first;
     QSet<QUrl> m_selected;
     QList<QUrl> m_inView;
+    QList<QUrl> m_required;  ///< that are still wanted
+    qsizetype m_requiredInAll = 0;
     bool m_wantsAll = false;
     bool m_isLooking = false;
     QList<QUrl> m_all;  ///< that may still be wanted
