@@ -193,6 +193,7 @@ void grabLanguages(const QString& folder)
     if (!f.open({ 520, 900 }))
         return;
     awaitDetails(f);
+    f.row(u"copyright"_s)->input()->setFocus();
     grab(f, folder, u"homes"_s);
     f.window->resize(520, 700);
     f.editor<MarkButton>(u"copyright"_s)->click();
