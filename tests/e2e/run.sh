@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Sets up a display, a window manager, a session bus and the accessibility bus of its own, and runs the test there.
-# Usage: run.sh PROGRAM STAGE. Pictures of each step go to $QUORBEL_E2E_PICTURES when that is set.
+# Usage: run.sh PROGRAM STAGE [SCRIPT]. Pictures of each step go to $QUORBEL_E2E_PICTURES when that is set.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 for tool in Xvfb openbox dbus-run-session xdotool /usr/libexec/at-spi-bus-launcher exiftool; do
@@ -48,4 +48,4 @@ dbus-run-session -- sh -c '
     fi
     kill $bus 2>/dev/null
     exit $status
-' "$here/end_to_end.py" "$1" "$2" "$work" 2> >(grep -v -e dbus-daemon -e '^SpiRegistry' >&2)
+' "$here/${3:-end_to_end.py}" "$1" "$2" "$work" 2> >(grep -v -e dbus-daemon -e '^SpiRegistry' >&2)

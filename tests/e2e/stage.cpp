@@ -1,5 +1,5 @@
 // What the end-to-end test needs on its stage beside the program: photos, a window to drag a folder from, and
-// pictures of the screen. Usage: e2e_stage photos DIR COUNT | drag PATH | grab FILE
+// pictures of the screen. Usage: e2e_stage photos DIR COUNT | photo FILE | drag PATH | grab FILE
 #include <QApplication>
 #include <QDir>
 #include <QDrag>
@@ -92,6 +92,8 @@ int main(int argc, char* argv[])
     const QString command = arguments.value(1);
     if (command == u"photos"_s)
         return makePhotos(arguments.value(2), arguments.value(3).toInt());
+    if (command == u"photo"_s)  // in the format of its name
+        return landscape(0, 1).save(arguments.value(2)) ? 0 : 1;
     if (command == u"grab"_s)
         return QGuiApplication::primaryScreen()->grabWindow(0).save(arguments.value(2)) ? 0 : 1;
     if (command != u"drag"_s)
