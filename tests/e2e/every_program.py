@@ -160,13 +160,14 @@ def check_independently(file):
 
 
 def undo_all(program, files, before):
-    """The newest save first, each by its own command."""
-    for _ in files:
-        press("alt+e", "v")  # Undo Save
-        time.sleep(0.2)
-        wait_for("the save to be taken back", lambda: not program.find("progress bar"))
-    wait_for("all tags to be back",
-             lambda: not any(differences(now, before[name]) for name, now in dump(files).items()))
+    """The newest save first, as the menu names them."""
+    for file in reversed(files):
+        name = os.path.basename(file)
+        program.wait("label", "No unsaved changes")
+        press("alt+e")
+        program.wait("menu item", f"Undo Save of “{name}”")
+        press("v")
+        wait_for(f"all tags of {name} to be back", lambda: not differences(dump([file])[name], before[name]))
 
 
 def main():
