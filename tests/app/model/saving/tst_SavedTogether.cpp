@@ -3,6 +3,7 @@
 #include "app/model/TaskProgress.h"
 #include "app/model/saving/SaveJob.h"
 #include "core/save/TagHomes.h"
+#include "core/save/together/PathHomes.h"
 #include "tests/support/RealService.h"
 
 #include <QDir>
@@ -286,6 +287,43 @@ void putDate(Tags& photo, const QString& day, const QString& time, const QString
 }
 
 using Change = std::function<void(Tags& photo)>;
+using Texts = QMap<QString, QString>;
+using Runs = QList<QStringList>;  // what each is given
+
+// The real tool, and a note of what each run was given.
+class RecordedTool {
+public:
+    RecordedTool()
+    {
+        writeFile(m_script,
+            "open my $log, '>>', '" + m_log.toUtf8() + "'; print $log join(\"\\t\", @ARGV), \"\\n\"; close $log;\n"
+                + "exec $^X, '" + realTool().exiftoolURL.toLocalFile().toUtf8() + "', @ARGV;\n");
+    }
+    MetadataService service() const
+    {
+        return { { QUrl::fromLocalFile(m_script), QUrl::fromLocalFile(u"/usr/bin/perl"_s) } };
+    }
+    QList<QStringList> runs() const
+    {
+        QList<QStringList> runs;
+        for (const QString& line : QString::fromUtf8(readFile(m_log)).split(u'\n', Qt::SkipEmptyParts))
+            runs.append(line.split(u'\t'));
+        return runs;
+    }
+
+private:
+    PhotoFolder m_folder;
+    QString m_script = m_folder.path(u"exiftool"_s);
+    QString m_log = m_folder.path(u"log"_s);
+};
+
+QUrl made(const PhotoFolder& folder, const QString& name, const QStringList& tags)
+{
+    const QUrl photo = folder.add(name);
+    if (!tags.isEmpty())
+        exiftool(QStringList{ u"-q"_s, u"-m"_s, u"-overwrite_original"_s } + tags + QStringList{ photo.toLocalFile() });
+    return photo;
+}
 
 }  // namespace
 
@@ -298,6 +336,10 @@ class tst_SavedTogether : public QObject {
 private slots:
     void nothingElseChangesAndUndoGivesAllBack_data();
     void nothingElseChangesAndUndoGivesAllBack();
+    void costsNoFurtherRuns_data();
+    void costsNoFurtherRuns();
+    void sidecarsHoldTheSame();
+    void pathsTakenAwayAndGainedAtOnce();
 };
 
 void tst_SavedTogether::nothingElseChangesAndUndoGivesAllBack_data()
@@ -413,6 +455,121 @@ void tst_SavedTogether::nothingElseChangesAndUndoGivesAllBack()
     QCOMPARE(SaveHistory::text(undone).value_or(QString()), QString());
     const QStringList lost = differences(before, dump(folder));
     QVERIFY2(lost.isEmpty(), qPrintable(lost.join(u'\n')));
+}
+
+void tst_SavedTogether::costsNoFurtherRuns_data()
+{
+    QTest::addColumn<Texts>("scalars");
+    QTest::addColumn<Runs>("tags");
+    QTest::addColumn<bool>("hasJournal");
+    QTest::addColumn<int>("looks");
+    QTest::addColumn<Runs>("writes");
+    const QStringList title{ u"-XMP-dc:Title=New"_s, u"-IPTC:ObjectName=New"_s };
+    const QStringList copied{ u"-tagsfromfile"_s, u"@"_s, u"-XMP-dc:Title-*"_s };
+    const QStringList day{ u"-EXIF:DateTimeOriginal=2024:05:06 00:00:00"_s,
+        u"-XMP-photoshop:DateCreated=2024:05:06 00:00:00"_s };
+    const QStringList plain{ u"-IPTC:ObjectName=Two"_s };
+    const QStringList german{ u"-XMP-dc:Title-de=Eins"_s };
+    QTest::newRow("nothing belongs to it")
+        << Texts{ { u"headline"_s, u"H"_s } } << Runs{ plain, german } << false << 0
+        << Runs{ QStringList{ u"-XMP-photoshop:Headline=H"_s, u"-IPTC:Headline=H"_s } };
+    QTest::newRow("no languages") << Texts{ { u"title"_s, u"New"_s } } << Runs{ plain, plain } << true << 1
+                                  << Runs{ title };
+    QTest::newRow("languages in one of two")
+        << Texts{ { u"title"_s, u"New"_s } } << Runs{ plain, german } << false << 1 << Runs{ title + copied };
+    QTest::newRow("an edited one behind")
+        << Texts{ { u"title"_s, u"New"_s }, { u"title@de"_s, u""_s } } << Runs{ german } << true << 1
+        << Runs{ title + copied + QStringList{ u"-XMP-dc:Title-de="_s } };
+    QTest::newRow("a language alone") << Texts{ { u"title@de"_s, u"Neu"_s } } << Runs{ german } << true << 1
+                                      << Runs{ QStringList{ u"-XMP-dc:Title-de=Neu"_s } };
+    QTest::newRow("dates, one of them with more")
+        << Texts{ { u"date"_s, u"2024-05-06"_s } } << Runs{ plain, { u"-EXIF:SubSecTimeOriginal=5"_s }, plain } << true
+        << 1 << Runs{ day, day + QStringList{ u"-EXIF:SubSecTimeOriginal="_s } };
+    QTest::newRow("no date") << Texts{ { u"date"_s, u"soon"_s } }
+                             << Runs{ QStringList{ u"-EXIF:SubSecTimeOriginal=5"_s } } << true << 1
+                             << Runs{ QStringList{
+                                    u"-EXIF:DateTimeOriginal=soon"_s, u"-XMP-photoshop:DateCreated=soon"_s } };
+}
+
+void tst_SavedTogether::costsNoFurtherRuns()
+{
+    QFETCH(Texts, scalars);
+    QFETCH(Runs, tags);
+    QFETCH(bool, hasJournal);
+    QFETCH(Runs, writes);
+    const RecordedTool tool;
+    const PhotoFolder folder;
+    SaveJob::Order order{ .plan = { .scalars = scalars } };
+    for (const QStringList& one : std::as_const(tags))
+        order.targets.append(made(folder, u"%1.jpg"_s.arg(order.targets.size()), one));
+    const QTemporaryDir state;
+    const auto history = std::make_shared<SaveHistory>(state.filePath(u"undo"_s));
+    TaskProgress progress;
+    SaveJob::run(tool.service(), order, hasJournal ? history : nullptr, progress);
+    int looks = 0;
+    Runs written;
+    for (QStringList run : tool.runs()) {
+        looks += run.contains(u"-php"_s) ? 1 : 0;
+        if (run.removeAll(u"-overwrite_original"_s) == 0 || run.removeAll(u"-m"_s) == 0)
+            continue;
+        run.removeIf([&folder](const QString& argument) { return argument.startsWith(folder.path()); });
+        written.append(run);
+    }
+    QTEST(looks, "looks");
+    QTEST(written, "writes");
+}
+
+// What is taken away in a photo does not live on beside it, and what stays there stays here.
+void tst_SavedTogether::sidecarsHoldTheSame()
+{
+    const PhotoFolder folder;
+    const MetadataService service = realService();
+    const QUrl photo = made(folder, u"a.jpg"_s, languages + bothKeywords + allPaths + dates);
+    const QUrl sidecar = folder.url(u"a.xmp"_s);
+    exiftool({ u"-q"_s, u"-tagsfromfile"_s, photo.toLocalFile(), u"-xmp"_s, sidecar.toLocalFile() });
+    const QByteArray before = readFile(sidecar.toLocalFile());
+    const SaveJob::Order order{ .plan = { .scalars = { { "title", "" }, { "title@fr", "" }, { "date", "" } },
+                                    .lists = { { "keywords", { "old" } } } },
+        .targets = { photo },
+        .options = { .writeSidecar = true },
+        .seen = { { photo, { { u"keywords"_s, { u"Paris"_s, u"old"_s } } } } } };
+    const QTemporaryDir state;
+    const auto history = std::make_shared<SaveHistory>(state.filePath(u"undo"_s));
+    TaskProgress progress;
+    const SaveJob::Written written = SaveJob::run(service, order, history, progress);
+    const SaveJob::Checked checked = SaveJob::check(service, order, written, {}, progress, {});
+    QVERIFY(checked.differences.isEmpty() && checked.failures.isEmpty());
+    const Dump files = dump(folder);
+    FileTags inPhoto = files.value(u"a.jpg"_s);
+    inPhoto.removeIf([](const auto& tag) { return !tag.key().startsWith(u"XMP-"_s); });
+    QCOMPARE(differences({ { u"a.xmp"_s, inPhoto } }, files), QStringList());
+    QVERIFY(inPhoto.contains(u"XMP-dc:Title-de"_s) && !inPhoto.contains(u"XMP-dc:Title-fr"_s));
+    QCOMPARE(inPhoto.value(u"XMP-lr:HierarchicalSubject"_s), QList<QByteArray>{ "Places|Paris|Louvre" });
+
+    // An independent reader finds the same.
+    const auto found = exiv2Values(photo);
+    QVERIFY(found.value(u"Xmp.dc.title"_s).join(u' ').contains(u"lang=\"de\" Eins"_s));
+    QVERIFY(!found.contains(u"Exif.Photo.SubSecTimeOriginal"_s) && !found.contains(u"Iptc.Application2.DateCreated"_s));
+
+    history->undo(service, written.undoable.get().number, {}, progress);
+    QCOMPARE(readFile(sidecar.toLocalFile()), before);
+}
+
+// A keyword that is taken away and typed again elsewhere; and a path that not every home can hold.
+void tst_SavedTogether::pathsTakenAwayAndGainedAtOnce()
+{
+    const auto change = [](const QStringList& gained, const FileTags& held) {
+        return arguments(PathHomes::change({ u"Paris"_s }, gained, held));
+    };
+    const FileTags held{ { u"XMP-lr:HierarchicalSubject"_s, { "Places|France|Paris", "Places|Texas|Paris" } },
+        { u"XMP-digiKam:TagsList"_s, { "Places/France/Paris" } } };
+    QCOMPARE(change({ u"Places|Texas|Paris"_s, u"A/B|C"_s }, held),
+        QStringList(
+            { u"-XMP-digiKam:TagsList-=Places/France/Paris"_s, u"-XMP-lr:HierarchicalSubject-=Places|France|Paris"_s,
+                u"-XMP-digiKam:TagsList-=Places/Texas/Paris"_s, u"-XMP-digiKam:TagsList+=Places/Texas/Paris"_s,
+                u"-XMP-lr:HierarchicalSubject-=A/B|C"_s, u"-XMP-lr:HierarchicalSubject+=A/B|C"_s }));
+    QCOMPARE(change({ u"A/B|C"_s }, { { u"XMP-digiKam:TagsList"_s, { "x" } } }),
+        QStringList({ u"-XMP-lr:HierarchicalSubject-=A/B|C"_s, u"-XMP-lr:HierarchicalSubject+=A/B|C"_s }));
 }
 
 QTEST_GUILESS_MAIN(tst_SavedTogether)
