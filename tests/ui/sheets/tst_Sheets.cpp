@@ -81,6 +81,7 @@ private slots:
     void saveDialogRepeatsNotes();
     void saveDialogOfSeveral_data();
     void saveDialogOfSeveral();
+    void saveDialogAboutHomes();
     void saveDialogAnswers_data();
     void saveDialogAnswers();
     void saveDialogRemembersNotToAsk();
@@ -176,6 +177,10 @@ void tst_Sheets::saveDialogOfSeveral_data()
         << Values{ { u"title"_s, u"T"_s }, { u"copyright"_s, QString() } } << QStringList{ u"sky"_s }
         << QStringList{ title, u"This will modify Copyright, Title, Keywords on 2 files. This can’t be undone."_s,
                u"Copyright"_s, u"“”"_s, u"Title"_s, u"“T”"_s, u"Keywords"_s, u"sky"_s };
+    QTest::addRow("languages and parents of keywords")
+        << Values{ { u"title@de"_s, u"See"_s } } << QStringList{ u"sky"_s, u"Places > Paris"_s }
+        << QStringList{ title, u"This will modify Title (German), Keywords on 2 files. This can’t be undone."_s,
+               u"Title (German)"_s, u"“See”"_s, u"Keywords"_s, u"sky, Places ▸ Paris"_s };
 }
 
 void tst_Sheets::saveDialogOfSeveral()
@@ -197,6 +202,23 @@ void tst_Sheets::saveDialogOfSeveral()
     QCOMPARE(labels(sheet), texts);
     QCOMPARE(titles(sheet), QStringList({ u"Cancel"_s, u"Apply to 2 Photos"_s }));
     QVERIFY(button(sheet, u"Don’t ask again this session"_s));
+}
+
+void tst_Sheets::saveDialogAboutHomes()
+{
+    SheetFixture desk({ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s });
+    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s })
+        exiftool({ u"-overwrite_original"_s, u"-IPTC:ObjectName=x"_s, desk.photos.url(name).toLocalFile() });
+    QVERIFY(desk.open());
+    desk.model().selectAllPhotos();
+    desk.model().requestMakeAgree();
+    QVERIFY(QTest::qWaitFor([&desk] { return desk.model().saveOpen(); }, 30000));
+    const auto* sheet = desk.present<SaveDialogView>();
+    QCOMPARE(labels(sheet),
+        QStringList({ u"Make 2 photos agree?"_s,
+            u"Where the places of a field differ, all of them will hold what is shown of it. Lists are brought together."_s,
+            u"Title"_s, u"2 photos"_s }));
+    QCOMPARE(titles(sheet), QStringList({ u"Cancel"_s, u"Make Them Agree"_s }));
 }
 
 void tst_Sheets::saveDialogAnswers_data()
