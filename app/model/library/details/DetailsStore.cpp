@@ -8,8 +8,20 @@
 
 namespace Quorbel {
 
+namespace {
+
+bool isSilent(const PhotoDetails& details)
+{
+    return details.languages.isEmpty() && details.paths.isEmpty() && details.disagreements.isEmpty();
+}
+
+}  // namespace
+
 const PhotoDetails* DetailsStore::findLast(const QUrl& photo) const
 {
+    static const PhotoDetails nothing;
+    if (m_silent.contains(photo))
+        return &nothing;
     const auto held = m_details.constFind(photo);
     return held == m_details.cend() ? nullptr : &*held;
 }
@@ -28,6 +40,10 @@ bool DetailsStore::disagrees(const QUrl& photo) const
 void DetailsStore::put(PhotoDetails details)
 {
     forget(details.url);
+    if (isSilent(details)) {
+        m_silent.insert(details.url);
+        return;
+    }
     share(details);
     count(details, 1);
     const QUrl photo = details.url;
@@ -44,26 +60,29 @@ bool DetailsStore::outdate(const QUrl& photo)
 
 bool DetailsStore::forget(const QUrl& photo)
 {
+    const bool wasOutdated = m_outdated.remove(photo);
+    if (m_silent.remove(photo))
+        return true;
     const auto held = m_details.constFind(photo);
     if (held == m_details.cend())
-        return false;
+        return wasOutdated;
     count(*held, -1);
     m_details.erase(held);
-    m_outdated.remove(photo);
     return true;
 }
 
 bool DetailsStore::rename(const QUrl& source, const QUrl& destination)
 {
     forget(destination);
-    const auto held = m_details.constFind(source);
-    if (held == m_details.cend())
+    const PhotoDetails* held = findLast(source);
+    if (!held)
         return false;
     PhotoDetails details = *held;
-    m_details.erase(held);
     details.url = destination;
-    m_details.insert(destination, std::move(details));
-    if (m_outdated.remove(source))
+    const bool isOutdated = m_outdated.contains(source);
+    forget(source);
+    put(std::move(details));
+    if (isOutdated)
         m_outdated.insert(destination);
     return true;
 }

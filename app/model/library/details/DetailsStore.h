@@ -13,13 +13,14 @@ namespace Quorbel {
 
 class DetailsStore final {
 public:
-    /// Null where they are not known, or out of date. Valid until the next change.
+    /// Null where they are not known, or out of date. Valid until the next change. Where a photo has nothing to tell,
+    /// its address is not told either.
     const PhotoDetails* find(const QUrl& photo) const;
     /// The same, though it may be out of date: what the photo held before it changed.
     const PhotoDetails* findLast(const QUrl& photo) const;
     bool isKnown(const QUrl& photo) const { return find(photo) != nullptr; }
     /// How many are known.
-    qsizetype known() const { return m_details.size() - m_outdated.size(); }
+    qsizetype known() const { return m_details.size() + m_silent.size() - m_outdated.size(); }
     /// Whether the photo's homes disagree, by what was known last.
     bool disagrees(const QUrl& photo) const;
     /// How many photos do.
@@ -41,6 +42,7 @@ private:
     void share(PhotoDetails& details);
 
     QHash<QUrl, PhotoDetails> m_details;
+    QSet<QUrl> m_silent;  ///< known, and with nothing to tell: most photos, so they take no more room than this
     QSet<QUrl> m_outdated;  ///< of those that are held
     QHash<QString, int> m_paths;  ///< and how many photos hold each
     qsizetype m_disagreeing = 0;
