@@ -157,7 +157,8 @@ bool SelectedPhotos::holds(const QString& id) const
 void SelectedPhotos::takeRead(const QList<QUrl>& photos)
 {
     forgetIfOutdated();
-    if (!m_summary)
+    // Such as are read again were counted among the read ones.
+    if (!m_summary || m_summary->unread == 0)
         return;
     for (const QUrl& photo : photos) {
         const ImageRecord* record = m_selection.photos.contains(photo) ? m_list.record(photo) : nullptr;

@@ -453,6 +453,7 @@ void tst_AppModelReading::readAgain()
     QCOMPARE(f.unread(), 0);
     QCOMPARE(f->unsavedCount(), 1);
     QVERIFY(f.finish());
+    QCOMPARE(f->unreadSelected(), 0);
     QCOMPARE(f->unsavedCount(), 1);
     QCOMPARE(f.primary(), u"a05.jpg"_s);
 }
