@@ -166,11 +166,15 @@ QStringList Editing::pathsOf(const QString& keyword) const
 {
     if (isTakenAway(keyword))
         return {};
-    QStringList paths = isBatch() ? m_details.pathsOf(keyword) : m_known.now.paths;
-    paths += typedPaths();
-    paths.removeIf([&keyword](const QString& path) { return KeywordPath::keyword(path) != keyword; });
-    paths.removeDuplicates();
-    return paths;
+    QStringList found;
+    const auto take = [&](const QStringList& paths) {
+        for (const QString& path : paths)
+            if (QStringView(path).sliced(path.lastIndexOf(u'|') + 1) == keyword && !found.contains(path))
+                found.append(path);
+    };
+    take(isBatch() ? m_details.pathsOf(keyword) : m_known.now.paths);
+    take(typedPaths());
+    return found;
 }
 
 // --- Homes that disagree ---

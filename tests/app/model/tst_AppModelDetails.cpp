@@ -596,6 +596,9 @@ void tst_AppModelDetails::knownPaths()
         store.paths(u"pA"_s, 9), (QStringList{ u"Places|Texas|Paris"_s, u"Places|France|Paris"_s, u"Paris|hotels"_s }));
     QCOMPARE(store.paths(u"pla"_s, 1), QStringList{ u"Places|Texas|Paris"_s });
     QCOMPARE(store.paths(u"ris"_s, 9), QStringList());
+    QCOMPARE(store.paths(u"places|"_s, 9), (QStringList{ u"Places|Texas|Paris"_s, u"Places|France|Paris"_s }));
+    QCOMPARE(store.paths(u"Places|Fr"_s, 9), QStringList{ u"Places|France|Paris"_s });
+    QCOMPARE(store.paths(u"France|"_s, 9), QStringList());
     store.forget(QUrl::fromLocalFile(u"/a"_s));
     QCOMPARE(store.paths(u"par"_s, 9), (QStringList{ u"Places|Texas|Paris"_s, u"Paris|hotels"_s }));
     QCOMPARE(store.paths(u""_s, 0), QStringList());

@@ -124,7 +124,13 @@ QStringList DetailsStore::paths(const QString& prefix, int limit) const
     };
     std::vector<Use> found;
     const auto fits = [&prefix](const QString& element) { return element.startsWith(prefix, Qt::CaseInsensitive); };
+    const bool isPath = prefix.contains(u'|');
     for (auto use = m_paths.cbegin(); use != m_paths.cend(); ++use) {
+        if (isPath) {
+            if (fits(use.key()))
+                found.push_back({ use.key(), false, use.value() });
+            continue;
+        }
         const QStringList elements = KeywordPath::elements(use.key());
         if (std::any_of(elements.cbegin(), elements.cend(), fits))
             found.push_back({ use.key(), !fits(elements.constLast()), use.value() });

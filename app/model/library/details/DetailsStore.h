@@ -26,7 +26,8 @@ public:
     /// How many photos do.
     qsizetype disagreeing() const { return m_disagreeing; }
     /// Keyword paths that begin with the text (any case) in one of their elements, those whose keyword does first, and
-    /// of these the most used; at most `limit`.
+    /// of these the most used; at most `limit`. Of a text with a bar in it, "Places|Fr", those that begin so as a
+    /// whole.
     QStringList paths(const QString& prefix, int limit) const;
 
     void put(PhotoDetails details);
