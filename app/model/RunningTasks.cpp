@@ -164,7 +164,7 @@ void RunningTasks::publishProgress()
     std::optional<Progress> progress;
     if (!m_shown.empty()) {
         const Task& latest = m_shown.back();
-        progress = Progress{ latest.progress->done, latest.progress->total };
+        progress = Progress{ latest.progress->done, latest.progress->total, latest.kind == Kind::survey };
         for (const Task& slice : m_quiet)
             if (slice.load == latest.id)
                 progress->done += slice.progress->done;

@@ -23,6 +23,7 @@ namespace Quorbel {
 struct Progress {
     qsizetype done = 0;
     qsizetype total = 0;
+    bool isSurvey = false;  ///< of a look at what photos hold beside their records
     bool operator==(const Progress&) const = default;
 };
 

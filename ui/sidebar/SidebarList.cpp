@@ -210,7 +210,10 @@ void SidebarList::showEmpty()
 {
     const QString text = emptyText();
     setAccessibleDescription(text);
-    m_look->setVisible(!text.isEmpty() && m_model.showsDisagreements() && DisagreementsBar::canLook(m_model));
+    // What is not found by its name is not found by a look either.
+    const bool isSearch = !m_model.search().trimmed().isEmpty();
+    m_look->setVisible(
+        !text.isEmpty() && !isSearch && m_model.showsDisagreements() && DisagreementsBar::canLook(m_model));
     const QSize size = m_look->sizeHint();
     m_look->setGeometry(QRect({ (viewport()->width() - size.width()) / 2, px(54) }, size));
     viewport()->update();

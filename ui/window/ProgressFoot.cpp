@@ -156,7 +156,8 @@ QString ProgressFoot::shownText() const
     if (progress.total == 0 && !isWriting())
         return u"Looking for photos…"_s;
     const QLocale locale;
-    const QString pattern = isWriting() ? u"Saving %1 of %2 photos…"_s : u"Reading %1 of %2 photos…"_s;
+    const QString reading = progress.isSurvey ? u"Looking at %1 of %2 photos…"_s : u"Reading %1 of %2 photos…"_s;
+    const QString pattern = isWriting() ? u"Saving %1 of %2 photos…"_s : reading;
     return pattern.arg(locale.toString(progress.done), locale.toString(progress.total));
 }
 

@@ -10,6 +10,7 @@
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/controls/Toggles.h"
 #include "ui/sheets/MessageSheet.h"
+#include "ui/sidebar/DisagreementsBar.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
@@ -39,6 +40,7 @@ private slots:
     void selectAllIsTheFieldsFirst();
     void recentItems();
     void editsAreBroughtBack();
+    void photosThatDisagreeAreListed();
     void signalsKeepEdits_data();
     void signalsKeepEdits();
     void endOfTheSession_data();
@@ -192,6 +194,53 @@ void tst_Shell::editsAreBroughtBack()
     menu->actions().at(1)->trigger();
     QCOMPARE(fixture.model->draftValues().value(u"title"_s), u"First"_s);
     QCOMPARE(menu->actions().size(), 1);
+}
+
+// From the keys, the menu and the line under the search.
+void tst_Shell::photosThatDisagreeAreListed()
+{
+    WindowFixture fixture;
+    fixture.window.reset();
+    fixture.model.lookAtDetails();
+    fixture.build();
+    new Menus(*fixture.model.model, *fixture.content, {});
+    QAction* show = action(fixture, u"Show Disagreements"_s);
+    QVERIFY(!show->isEnabled());
+    fixture.model.addTitled({ u"agree.jpg"_s, u"differ.jpg"_s });
+    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Rights=One"_s, u"-EXIF:Copyright=Other"_s,
+        fixture.model.folder.path(u"differ.jpg"_s) });
+    QVERIFY(fixture.model.open());
+    fixture.show();
+    QWidget* window = fixture.window.get();
+    auto* list = window->findChild<SidebarList*>();
+    auto* bar = window->findChild<DisagreementsBar*>();
+    QVERIFY(!bar->isVisible() && !show->isChecked());
+    const int listTop = list->y();
+    QTest::keyClick(window, Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(show->isEnabled() && show->isChecked() && bar->isVisible());
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.model.visible(), QStringList{ u"differ.jpg"_s }, 30'000);
+    QTRY_COMPARE_WITH_TIMEOUT(labels(bar), QStringList{ u"1 photo disagrees"_s }, 30'000);
+    QTRY_VERIFY(list->y() > listTop);
+    fixture.model.click(u"differ.jpg"_s);
+    const auto canAgree = [&] { return action(fixture, u"Make Them Agree"_s)->isEnabled(); };
+    QTRY_COMPARE(canAgree(), fixture.model->canMakeAgree());
+    // What another program mends is no longer listed.
+    exiftool({ u"-overwrite_original"_s, u"-EXIF:Copyright=One"_s, fixture.model.folder.path(u"differ.jpg"_s) });
+    fixture.model->refresh();
+    QTRY_COMPARE_WITH_TIMEOUT(list->accessibleDescription(), u"All places agree"_s, 30'000);
+    QTRY_COMPARE(canAgree(), fixture.model->canMakeAgree());
+    QVERIFY(!fixture.button(u"Look at them"_s));
+    // Photos that are opened now are looked at only when somebody asks.
+    fixture.model->cancelDisagreements();
+    fixture.model->readAgain();
+    fixture.model->cancelDisagreements();
+    QTRY_COMPARE_WITH_TIMEOUT(list->accessibleDescription(), u"2 photos not looked at yet"_s, 30'000);
+    QTRY_VERIFY(fixture.button(u"Look at them"_s));
+    QTest::mouseClick(list->viewport()->findChild<QAbstractButton*>(), Qt::LeftButton);
+    QTRY_COMPARE_WITH_TIMEOUT(list->accessibleDescription(), u"All places agree"_s, 30'000);
+    QTest::mouseClick(fixture.button(u"Show all photos"_s), Qt::LeftButton);
+    QVERIFY(!show->isChecked() && !bar->isVisible());
+    QCOMPARE(fixture.model.visible().size(), 2);
 }
 
 void tst_Shell::signalsKeepEdits_data()

@@ -5,6 +5,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/SuggestionList.h"
 #include "ui/controls/Toggles.h"
+#include "ui/controls/keywords/KeywordChip.h"
 #include "ui/inspector/BatchBanner.h"
 #include "ui/inspector/CameraSection.h"
 #include "ui/inspector/PhotoHeader.h"
@@ -100,6 +101,7 @@ private slots:
     void batchShowsWhatAllShare_data();
     void batchShowsWhatAllShare();
     void keywordsOfOnePhoto();
+    void keywordsStandInTrees();
     void keywordsOfSeveral();
     void nowReplacesTheDate();
     void ratingByMouseAndKey();
@@ -356,6 +358,49 @@ void tst_InspectorView::batchShowsWhatAllShare()
     f.model().requestSave();
     QVERIFY(f.photos.waitUntilIdle());
     QCOMPARE(f.row(id)->state().text, shared);
+}
+
+// Read from a photo, typed, completed, and in a batch.
+void tst_InspectorView::keywordsStandInTrees()
+{
+    InspectorFixture f;
+    f.photos.lookAtDetails();
+    f.add(u"a.jpg"_s,
+        { u"-IPTC:Keywords=Paris"_s, u"-XMP-dc:Subject=Paris"_s, u"-XMP-lr:HierarchicalSubject=Places|France|Paris"_s,
+            u"-XMP-dc:Rights=One"_s, u"-EXIF:Copyright=Other"_s });
+    f.add(u"b.jpg"_s, {});
+    QVERIFY(f.open());
+    auto* editor = f.editor<KeywordEditor>(u"keywords"_s);
+    const auto spoken = [&] {
+        QStringList names;
+        for (const KeywordChip* chip : editor->findChildren<KeywordChip*>())
+            if (chip->isVisible())
+                names.append(chip->accessibleName());
+        return names;
+    };
+    const QString paris = u"Paris, in Places, France"_s;
+    const QString rome = u"Rome, in Places, Italy"_s;
+    QTRY_COMPARE_WITH_TIMEOUT(spoken(), QStringList{ paris }, 30'000);
+    type(editor->entry(), u"Places > Italy > Rome\r"_s);
+    QCOMPARE(spoken(), QStringList({ paris, rome }));
+    QCOMPARE(f.model().draftLists().value(u"keywords"_s), QStringList({ u"Paris"_s, u"Rome"_s }));
+    f.click(u"b.jpg"_s);
+    f.model().discardSaveDialog();
+    QCOMPARE(spoken(), QStringList());
+    for (const QString& typed : { u"pa"_s, u"Places > "_s, u"places|fr"_s }) {
+        type(editor->entry(), typed);
+        QTest::keyClick(editor->entry(), Qt::Key_Up);  // the last one
+        QTest::keyClick(editor->entry(), Qt::Key_Return);
+        QCOMPARE(spoken(), QStringList{ paris });
+        click(button(editor, u"Remove Paris"_s));
+    }
+    f.model().selectAllPhotos();
+    f.model().discardSaveDialog();
+    type(editor->entry(), u"Places|Italy|Rome\r"_s);
+    QCOMPARE(spoken(), QStringList{ rome });
+    QCOMPARE(f.model().batchLists().value(u"keywords"_s), QStringList{ u"Rome"_s });
+    auto* banner = f.view->findChild<BatchBanner*>();
+    QVERIFY(labels(banner).contains(u"1 photo has places that differ"_s));
 }
 
 void tst_InspectorView::keywordsOfOnePhoto()
