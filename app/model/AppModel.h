@@ -195,8 +195,8 @@ public:
     QStringList pathsOf(const QString& keyword) const { return editing().pathsOf(keyword); }
     /// Those that were typed and not saved yet, of all keywords.
     const QStringList& typedPaths() const { return editing().typedPaths(); }
-    /// Paths known from the open photos that fit the text, a beginning of a word or, with a bar in it, of the path (any
-    /// case); those of which the keyword fits first. At most `limit`.
+    /// Paths known from the open photos whose keyword begins with the text (any case); of a text with a bar in it, those
+    /// that begin so as a whole. At most `limit`.
     QStringList pathCompletions(const QString& prefix, int limit) const;
     /// Where the homes of a field of the one selected photo disagree: what each holds, the shown one first. None where
     /// they agree, where that is not known, and while the field is edited.

@@ -25,10 +25,11 @@ const PhotoDetails* AppModel::details(const QUrl& photo) const
 // What somebody has just typed is what is typed next.
 QStringList AppModel::pathCompletions(const QString& prefix, int limit) const
 {
+    const bool isPath = prefix.contains(u'|');
     QStringList paths;
     for (const QString& path : typedPaths() + library().details().store().paths(prefix, limit))
         if (paths.size() < limit && !paths.contains(path)
-            && KeywordPath::keyword(path).startsWith(prefix, Qt::CaseInsensitive))
+            && (isPath ? path : KeywordPath::keyword(path)).startsWith(prefix, Qt::CaseInsensitive))
             paths.append(path);
     return paths;
 }
