@@ -104,6 +104,26 @@ private slots:
         }
     }
 
+    // Laid out once, and not for ever: each layout would ask for the next.
+    void keywordsRest()
+    {
+        Test::Stage stage(Theme::light());
+        auto* keywords = stage.add(new KeywordEditor);
+        stage.show();
+        keywords->setChips({ u"lake"_s, u"autumn"_s });
+        struct Count : QObject {
+            int requests = 0;
+            bool eventFilter(QObject*, QEvent* event) override
+            {
+                requests += event->type() == QEvent::LayoutRequest ? 1 : 0;
+                return false;
+            }
+        } count;
+        keywords->installEventFilter(&count);
+        QTest::qWait(100);
+        QVERIFY2(count.requests < 10, qPrintable(QString::number(count.requests)));
+    }
+
     void editedFieldsAreAmber_data()
     {
         QTest::addColumn<bool>("dark");

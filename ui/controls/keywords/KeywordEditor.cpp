@@ -202,7 +202,6 @@ void KeywordEditor::layOutChips()
     const bool isRoom = hasRoomForParents(line);
     for (KeywordChip* chip : std::as_const(m_chipWidgets))
         chip->setParentsShown(isRoom);
-    m_flow->invalidate();
     updateHeight();
 }
 
