@@ -12,6 +12,8 @@ import subprocess
 import sys
 import time
 
+import pyatspi
+
 from driver import Program, click, expect, fill, press, wait_for
 
 MADE = ("jpg", "tif", "png", "webp")
@@ -159,15 +161,61 @@ def check_independently(file):
             expect(f"{key} of {file}", text[:10].replace(":", "-"), "2024-05-07")
 
 
+def undo(program, what):
+    """Through the menu, as soon as it offers to take just this save back."""
+    def offered():
+        press("alt+e")
+        item = program.wait("menu item", f"Undo Save of {what}")
+        if item.getState().contains(pyatspi.STATE_SENSITIVE):
+            return True
+        press("Escape", "Escape")
+        return False
+    wait_for(f"the save of {what} to be done", offered)
+    press("v")
+
+
 def undo_all(program, files, before):
     """The newest save first, as the menu names them."""
     for file in reversed(files):
         name = os.path.basename(file)
         program.wait("label", "No unsaved changes")
-        press("alt+e")
-        program.wait("menu item", f"Undo Save of “{name}”")
-        press("v")
+        undo(program, f"“{name}”")
         wait_for(f"all tags of {name} to be back", lambda: not differences(dump([file])[name], before[name]))
+
+
+COPYRIGHT = ("XMP-dc:Rights", "IPTC:CopyrightNotice", "IFD0:Copyright")
+
+
+def use_another_place(program, file):
+    """The mark under the field, its places, and the one that is not shown."""
+    select(program, file)
+    wait_for("the mark of the copyright", lambda: next(
+        (click(node) or True for node in program.all("push button") if node.name.startswith("Copyright: 1 of 3 places")),
+        False))
+    click(program.wait("push button", "Use this one"))
+    program.wait("label", "1 unsaved change")
+    program.picture("used")
+    press("ctrl+s")
+    saved(program)
+    found = dump([file])[os.path.basename(file)]
+    expect("the copyright in all places", [found[tag] for tag in COPYRIGHT], ["(c) Lindqvist Studio 2019"] * 3)
+
+
+def make_agree(program, files, before):
+    """All photos at once: what each shows goes to all of its places."""
+    select(program, files[0])
+    press("ctrl+a")
+    program.wait("filler", f"Editing {len(files)} photos")
+    program.picture("disagree")
+    wait_for("the command to be there", lambda: press("alt+e") or program.find("menu item", "Make Them Agree"))
+    press("g")
+
+    def agree():
+        found = dump(files)
+        return all(found[name].get(tag) == before[name]["XMP-dc:Rights"]
+                   for name in found for tag in COPYRIGHT if tag in before[name])
+    wait_for("all places to hold the same", agree)
+    saved(program)
 
 
 def main():
@@ -190,6 +238,13 @@ def main():
         for file in files:
             check_independently(file)
         undo_all(program, files, before)
+        jpeg = next(file for file in files if file.endswith(".jpg"))
+        use_another_place(program, jpeg)
+        undo_all(program, [jpeg], before)
+        make_agree(program, files, before)
+        undo(program, f"{len(files)} photos")
+        wait_for("all tags to be back", lambda: not any(
+            differences(now, before[name]) for name, now in dump(files).items()))
     except BaseException:
         program.picture("failure")
         raise

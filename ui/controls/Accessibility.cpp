@@ -18,6 +18,15 @@ namespace Quorbel {
 
 namespace {
 
+// What dropped down from the widget and is open: Qt counts no windows among a widget's children, and no popups among
+// the program's windows.
+QList<QWidget*> openPopups(const QWidget* widget)
+{
+    QList<QWidget*> popups = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    popups.removeIf([](const QWidget* child) { return child->windowType() != Qt::Popup || !child->isVisible(); });
+    return popups;
+}
+
 // Buttons, check boxes, switches: what they are called, whether they are on, and how to press them.
 class ButtonDescription final : public QAccessibleWidget {
 public:
@@ -45,6 +54,22 @@ public:
         state.pressed = m_button->isDown();
         state.hasPopup = role() == QAccessible::ButtonMenu;
         return state;
+    }
+
+    int childCount() const override { return QAccessibleWidget::childCount() + int(openPopups(m_button).size()); }
+
+    QAccessibleInterface* child(int index) const override
+    {
+        const int before = QAccessibleWidget::childCount();
+        if (index < before)
+            return QAccessibleWidget::child(index);
+        return QAccessible::queryAccessibleInterface(openPopups(m_button).value(index - before));
+    }
+
+    int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        const qsizetype popup = openPopups(m_button).indexOf(qobject_cast<QWidget*>(child ? child->object() : nullptr));
+        return popup < 0 ? QAccessibleWidget::indexOfChild(child) : QAccessibleWidget::childCount() + int(popup);
     }
 
     QStringList actionNames() const override
