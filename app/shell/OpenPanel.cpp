@@ -50,7 +50,8 @@ OpenPanel::OpenPanel(Choice choice, QWidget* parent)
         }
 }
 
-void OpenPanel::open(QWidget* window, const Theme& theme, Choice choice, std::function<void(const QList<QUrl>&)> chosen)
+void OpenPanel::open(
+    QWidget* window, const Theme& theme, Choice choice, const std::function<void(const QList<QUrl>&)>& chosen)
 {
     auto* panel = new OpenPanel(choice, window);
     setTheme(panel, theme);
@@ -73,7 +74,7 @@ void OpenPanel::accept()
     for (const QString& path : std::as_const(m_paths))
         if (!isGood(path))
             return;  // mistyped: the panel stays
-    QDialog::accept();
+    QDialog::accept();  // NOLINT(bugprone-parent-virtual-call): see above
 }
 
 bool OpenPanel::isGood(const QString& path) const

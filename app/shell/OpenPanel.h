@@ -24,8 +24,8 @@ public:
 
     /// Shows the panel over the window and returns at once; `chosen` is called with what was chosen, or with nothing
     /// on cancel. The panel deletes itself.
-    static void open(
-        QWidget* window, const struct Theme& theme, Choice choice, std::function<void(const QList<QUrl>&)> chosen);
+    static void open(QWidget* window, const struct Theme& theme, Choice choice,
+        const std::function<void(const QList<QUrl>&)>& chosen);
 
 protected:
     void accept() override;

@@ -22,7 +22,7 @@ const QByteArray answer = QByteArrayLiteral("ok\n");
 
 constexpr int connectTimeout = 500;  // milliseconds
 constexpr int answerTimeout = 3'000;  // milliseconds; a program that is busy for longer counts as hung
-constexpr qint64 longestMessage = 16 * 1024 * 1024;  // bytes; more than any command line holds
+constexpr qint64 longestMessage = 16LL * 1024 * 1024;  // bytes; more than any command line holds
 
 QByteArray encoded(const HandOver& what)
 {
@@ -38,7 +38,8 @@ HandOver decoded(const QByteArray& line)
 {
     const QJsonObject message = QJsonDocument::fromJson(line).object();
     HandOver what;
-    for (const QJsonValue& url : message.value(QLatin1String(urlsKey)).toArray())
+    const QJsonArray urls = message.value(QLatin1String(urlsKey)).toArray();
+    for (const auto& url : urls)
         what.urls.append(QUrl(url.toString()));
     what.activationToken = message.value(QLatin1String(tokenKey)).toString().toUtf8();
     return what;

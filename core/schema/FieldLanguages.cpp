@@ -43,7 +43,10 @@ QString tag(const QString& key)
 QString label(const QString& key)
 {
     const auto language = languageIn(key);
-    return language ? u"%1 (%2)"_s.arg(language->field->label, name(language->code)) : QString();
+    // "German (Switzerland)" within the brackets is "German, Switzerland".
+    return language
+        ? u"%1 (%2)"_s.arg(language->field->label, name(language->code).replace(u" ("_s, u", "_s).remove(u')'))
+        : QString();
 }
 
 QString name(const QString& code)

@@ -23,7 +23,7 @@ public:
     /// Watches nothing until folders are added to watches(). `onChange` is called 0.3 s after the last batch of
     /// events, and must not destroy the watcher.
     explicit FolderWatcher(std::function<void()> onChange);
-    ~FolderWatcher();
+    ~FolderWatcher() override;
     /// No call after this.
     void stop();
     /// For the background: adding a folder waits for its file system.

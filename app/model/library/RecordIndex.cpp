@@ -30,7 +30,7 @@ template <typename Less>
 std::vector<int> merged(const std::vector<int>& old, const std::vector<int>& fresh, const Less& less)
 {
     std::vector<int> all;
-    all.reserve(size_t(withRoom(qsizetype(old.size() + fresh.size()))));
+    all.reserve(size_t(withRoom(qsizetype(old.size()) + qsizetype(fresh.size()))));
     auto from = old.cbegin();
     for (const int position : fresh) {
         const auto to = std::upper_bound(from, old.cend(), position, less);

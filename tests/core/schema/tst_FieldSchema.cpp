@@ -132,11 +132,11 @@ private slots:
         QTest::addColumn<QString>("spelling");
         QTest::addColumn<QString>("label");
         QTest::newRow("language") << u"DE"_s << u"de"_s << u"Title (German)"_s;
-        QTest::newRow("country") << u"de-ch"_s << u"de-CH"_s << u"Title (German (Switzerland))"_s;
-        QTest::newRow("script") << u"zh-Hans"_s << u"zh-hans"_s << u"Title (Chinese (Simplified Han))"_s;
+        QTest::newRow("country") << u"de-ch"_s << u"de-CH"_s << u"Title (German, Switzerland)"_s;
+        QTest::newRow("script") << u"zh-Hans"_s << u"zh-hans"_s << u"Title (Chinese, Simplified Han)"_s;
         QTest::newRow("script and country")
-            << u"sr-Latn-RS"_s << u"sr-latn-rs"_s << u"Title (Serbian (Latin, Serbia))"_s;
-        QTest::newRow("variant") << u"de-at-1996"_s << u"de-AT-1996"_s << u"Title (German (Austria, 1996))"_s;
+            << u"sr-Latn-RS"_s << u"sr-latn-rs"_s << u"Title (Serbian, Latin, Serbia)"_s;
+        QTest::newRow("variant") << u"de-at-1996"_s << u"de-AT-1996"_s << u"Title (German, Austria, 1996)"_s;
         QTest::newRow("private") << u"x-Repair"_s << u"x-repair"_s << u"Title (x-repair)"_s;
         QTest::newRow("unknown") << u"qaa"_s << u"qaa"_s << u"Title (qaa)"_s;
         for (const char* code : { "german", "d", "x", "de_CH", "x-default", "X-Default", "de-", "", "dé" })
