@@ -254,9 +254,9 @@ void tst_AppModelHomes::everyHomeIsProved()
 void tst_AppModelHomes::noHomeIsMissedWhereThereIsNone_data()
 {
     QTest::addColumn<QString>("path");
-    for (const QString& name : { u"a.jpg"_s, u"a.png"_s, u"a.tif"_s, u"a.webp"_s })
+    for (const QString& name : { u"a.png"_s, u"a.webp"_s })
         QTest::newRow(qPrintable(name)) << name;
-    for (const QString& path : realPhotos(u"valid"_s, 5))
+    for (const QString& path : realPhotos(u"valid"_s, 3))
         QTest::newRow(qPrintable(path.section(u'/', -1))) << path;
 }
 
