@@ -1,7 +1,7 @@
 #include "app/model/RunningTasks.h"
 
 #include "app/model/Background.h"
-#include "app/model/library/StallWatch.h"
+#include "app/model/StallWatch.h"
 
 #include <algorithm>
 #include <map>

@@ -1,4 +1,4 @@
-#include "app/model/library/StallWatch.h"
+#include "app/model/StallWatch.h"
 
 #include <QDir>
 #include <QFile>
