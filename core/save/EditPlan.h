@@ -9,6 +9,7 @@ namespace Quorbel {
 struct EditPlan {
     QMap<QString, QString> scalars{};  ///< field id, or FieldLanguages::key(), to new text; empty text deletes it
     QMap<QString, QStringList> lists{};  ///< field id to new items
+    QMap<QString, QStringList> removed{};  ///< field id to items to be taken away; only where items are appended
     QList<CustomValue> customs{};
     MetadataWriter::ListMode listMode = MetadataWriter::ListMode::replace;
     QStringList paths{};  ///< keyword paths that the photos gain, beside the keywords that they lead to
@@ -28,7 +29,10 @@ struct EditPlan {
     QStringList notShown{};
 
     /// Nothing to write; the list mode plays no part.
-    bool isEmpty() const { return scalars.isEmpty() && lists.isEmpty() && customs.isEmpty() && paths.isEmpty(); }
+    bool isEmpty() const
+    {
+        return scalars.isEmpty() && lists.isEmpty() && removed.isEmpty() && customs.isEmpty() && paths.isEmpty();
+    }
     bool operator==(const EditPlan&) const = default;
 };
 

@@ -35,6 +35,54 @@ void dropSaved(QMap<QString, Value>& now, const QMap<QString, Value>& saved, con
     });
 }
 
+QStringList withoutItems(QStringList list, const QStringList& items)
+{
+    list.removeIf([&items](const QString& item) { return items.contains(item); });
+    return list;
+}
+
+// Items that a save added or took away are no edit any more.
+void dropSavedItems(
+    QMap<QString, QStringList>& now, const QMap<QString, QStringList>& saved, const QSet<QString>& differing)
+{
+    for (auto list = now.begin(); list != now.end(); ++list)
+        if (!differing.contains(list.key()))
+            *list = withoutItems(*list, saved.value(list.key()));
+    now = withoutEmpty(now);
+}
+
+void dropSavedCustoms(QList<CustomValue>& now, const QList<CustomValue>& saved, const QSet<QString>& differing)
+{
+    now.removeIf([&](const CustomValue& custom) {
+        return !differing.contains(CustomFields::key(custom.name)) && saved.contains(custom);
+    });
+}
+
+QStringList keysOf(const QList<CustomValue>& customs)
+{
+    QStringList keys;
+    for (const CustomValue& custom : customs)
+        keys.append(CustomFields::key(custom.name));
+    return keys;
+}
+
+void insertKeys(QSet<QString>& keys, const QStringList& more)
+{
+    for (const QString& key : more)
+        keys.insert(key);
+}
+
+// Items that lists gain and lose: what comes later goes before what came first.
+void moveItems(
+    QMap<QString, QStringList>& to, QMap<QString, QStringList>& from, const QString& id, const QStringList& items)
+{
+    to.insert(id, withItems(to.value(id), items));
+    if (const auto other = from.find(id); other != from.end())
+        *other = withoutItems(*other, items);
+    to = withoutEmpty(to);
+    from = withoutEmpty(from);
+}
+
 // Whether the photo holds this text already, as far as is known.
 bool holdsText(const ImageRecord& photo, const PhotoDetails* details, const QString& key, const QString& text)
 {
@@ -52,16 +100,20 @@ int Edits::count() const
 
 bool Edits::edited(const QString& key) const
 {
-    if (const auto name = CustomFields::nameIn(key))
-        return CustomFields::indexOf(customs, *name) >= 0;
-    return scalars.contains(key) || lists.contains(key) || !added.value(key).isEmpty()
-        || (key == FieldID::keywords && !paths.isEmpty());
+    if (const auto name = CustomFields::nameIn(key); name && CustomFields::indexOf(customs, *name) >= 0)
+        return true;
+    return keys().contains(key);
 }
 
 QSet<QString> Edits::keys() const
 {
-    const QStringList ids = scalars.keys() + lists.keys() + withoutEmpty(added).keys();
-    QSet<QString> keys(ids.cbegin(), ids.cend());
+    QSet<QString> keys;
+    insertKeys(keys, scalars.keys() + lists.keys() + withoutEmpty(added).keys() + withoutEmpty(removed).keys());
+    for (const OwnEdits& one : own) {
+        insertKeys(keys, one.scalars.keys() + withoutEmpty(one.added).keys() + withoutEmpty(one.removed).keys());
+        for (const CustomValue& custom : one.customs)
+            keys.insert(CustomFields::key(custom.name));
+    }
     if (!paths.isEmpty())
         keys.insert(FieldID::keywords);
     for (const CustomValue& custom : customs)
@@ -69,11 +121,28 @@ QSet<QString> Edits::keys() const
     return keys;
 }
 
+Edits Edits::of(const QUrl& photo) const
+{
+    Edits one = *this;
+    one.subjects = { photo };
+    const OwnEdits mine = own.value(photo);
+    one.own.clear();
+    one.scalars.insert(mine.scalars);
+    for (auto items = mine.added.cbegin(); items != mine.added.cend(); ++items)
+        one.addItems(items.key(), *items);
+    for (auto items = mine.removed.cbegin(); items != mine.removed.cend(); ++items)
+        one.removeItems(items.key(), *items);
+    for (const CustomValue& custom : mine.customs)
+        CustomFields::put(one.customs, custom);
+    return one;
+}
+
 EditPlan Edits::plan() const
 {
     EditPlan plan{ .scalars = scalars, .lists = lists, .customs = customs, .paths = paths };
-    if (lists.isEmpty() && !withoutEmpty(added).isEmpty()) {
+    if (lists.isEmpty() && !(withoutEmpty(added).isEmpty() && withoutEmpty(removed).isEmpty())) {
         plan.lists = withoutEmpty(added);
+        plan.removed = withoutEmpty(removed);
         plan.listMode = MetadataWriter::ListMode::append;
     }
     return plan;
@@ -87,19 +156,24 @@ Edits Edits::minus(const Edits& saved, const QSet<QString>& differing) const
     rest.givenUp.removeIf([&rest](const auto& entry) { return !rest.lists.contains(entry.key()); });
     if (!differing.contains(FieldID::keywords))
         rest.paths.removeIf([&saved](const QString& path) { return saved.paths.contains(path); });
-    for (auto list = rest.added.begin(); list != rest.added.end(); ++list)
-        if (!differing.contains(list.key()))
-            for (const QString& item : saved.added.value(list.key()))
-                list->removeAll(item);
-    rest.added = withoutEmpty(rest.added);
-    rest.customs.removeIf([&](const CustomValue& custom) {
-        return !differing.contains(CustomFields::key(custom.name)) && saved.customs.contains(custom);
-    });
+    dropSavedItems(rest.added, saved.added, differing);
+    dropSavedItems(rest.removed, saved.removed, differing);
+    dropSavedCustoms(rest.customs, saved.customs, differing);
+    for (auto one = rest.own.begin(); one != rest.own.end(); ++one) {
+        const OwnEdits written = saved.own.value(one.key());
+        dropSaved(one->scalars, written.scalars, differing);
+        dropSavedItems(one->added, written.added, differing);
+        dropSavedItems(one->removed, written.removed, differing);
+        dropSavedCustoms(one->customs, written.customs, differing);
+    }
+    rest.own.removeIf([](const auto& entry) { return entry.value().isEmpty(); });
     return rest;
 }
 
 Edits Edits::foldedInto(const ImageRecord& photo, const PhotoDetails* details) const
 {
+    if (!own.isEmpty())
+        return of(photo.url).foldedInto(photo, details);
     Edits folded{ .scalars = scalars,
         .lists = lists,
         .paths = paths,
@@ -109,6 +183,9 @@ Edits Edits::foldedInto(const ImageRecord& photo, const PhotoDetails* details) c
     folded.scalars.removeIf([&](const auto& entry) { return holdsText(photo, details, entry.key(), entry.value()); });
     for (auto items = added.cbegin(); items != added.cend(); ++items)
         folded.lists.insert(items.key(), withItems(photo.lists.value(items.key()), *items));
+    for (auto items = removed.cbegin(); items != removed.cend(); ++items)
+        folded.lists.insert(
+            items.key(), withoutItems(folded.lists.value(items.key(), photo.lists.value(items.key())), *items));
     folded.lists.removeIf([&](const auto& entry) {
         return photo.lists.value(entry.key()) == entry.value() && givenUp.value(entry.key()).isEmpty();
     });
@@ -125,9 +202,14 @@ Edits Edits::foldedInto(const ImageRecord& photo, const PhotoDetails* details) c
 
 ExternalRefresh::Drafts Edits::onto(const ImageRecord& photo, const QMap<QString, QString>& languages) const
 {
+    if (!own.isEmpty())
+        return of(photo.url).onto(photo, languages);
     ExternalRefresh::Drafts drafts{ scalars, lists, customs };
     for (auto items = added.cbegin(); items != added.cend(); ++items)
         drafts.lists.insert(items.key(), withItems(photo.lists.value(items.key()), *items));
+    for (auto items = removed.cbegin(); items != removed.cend(); ++items)
+        drafts.lists.insert(
+            items.key(), withoutItems(drafts.lists.value(items.key(), photo.lists.value(items.key())), *items));
     QSet<QString> laidOver = keys();
     if (!drafts.lists.contains(FieldID::keywords))
         laidOver.remove(FieldID::keywords);  // only paths: the list stays
@@ -141,6 +223,8 @@ ExternalRefresh::Drafts Edits::onto(const ImageRecord& photo, const QMap<QString
 Edits Edits::merged(const Edits& other) const
 {
     Edits merged = *this;
+    for (const QString& key : other.scalars.keys() + keysOf(other.customs))
+        merged.forgetOwn(key);
     merged.scalars.insert(other.scalars);
     for (auto list = other.lists.cbegin(); list != other.lists.cend(); ++list) {
         merged.lists.insert(list.key(), *list);
@@ -148,12 +232,34 @@ Edits Edits::merged(const Edits& other) const
     }
     merged.givenUp = withoutEmpty(merged.givenUp);
     for (auto items = other.added.cbegin(); items != other.added.cend(); ++items)
-        merged.added.insert(items.key(), withItems(merged.added.value(items.key()), *items));
+        merged.addItems(items.key(), *items);
+    for (auto items = other.removed.cbegin(); items != other.removed.cend(); ++items)
+        merged.removeItems(items.key(), *items);
     merged.paths = withItems(paths, other.paths);
     merged.dropStrayPaths();
     for (const CustomValue& custom : other.customs)
         CustomFields::put(merged.customs, custom);
+    merged.mergeOwn(other.own);
     return merged;
+}
+
+void Edits::mergeOwn(const QHash<QUrl, OwnEdits>& others)
+{
+    for (auto one = others.cbegin(); one != others.cend(); ++one) {
+        OwnEdits& mine = own[one.key()];
+        for (auto text = one->scalars.cbegin(); text != one->scalars.cend(); ++text) {
+            scalars.remove(text.key());
+            mine.scalars.insert(text.key(), *text);
+        }
+        for (auto items = one->added.cbegin(); items != one->added.cend(); ++items)
+            moveItems(mine.added, mine.removed, items.key(), *items);
+        for (auto items = one->removed.cbegin(); items != one->removed.cend(); ++items)
+            moveItems(mine.removed, mine.added, items.key(), *items);
+        for (const CustomValue& custom : one->customs) {
+            customs.removeIf([&custom](const CustomValue& common) { return common.name == custom.name; });
+            CustomFields::put(mine.customs, custom);
+        }
+    }
 }
 
 void Edits::dropStrayPaths()
@@ -173,8 +279,43 @@ void Edits::addKeywordsOfPaths(const QStringList& held)
         lists.insert(FieldID::keywords, all);
 }
 
+void Edits::addItems(const QString& id, const QStringList& items)
+{
+    moveItems(added, removed, id, items);
+}
+
+void Edits::removeItems(const QString& id, const QStringList& items)
+{
+    moveItems(removed, added, id, items);
+    if (id == FieldID::keywords)
+        paths.removeIf([&items](const QString& path) { return items.contains(KeywordPath::keyword(path)); });
+}
+
+void Edits::forgetOwn(const QString& key)
+{
+    const auto name = CustomFields::nameIn(key);
+    for (OwnEdits& one : own) {
+        one.scalars.remove(key);
+        one.added.remove(key);
+        one.removed.remove(key);
+        if (const qsizetype i = name ? CustomFields::indexOf(one.customs, *name) : -1; i >= 0)
+            one.customs.removeAt(i);
+    }
+    own.removeIf([](const auto& entry) { return entry.value().isEmpty(); });
+}
+
+void Edits::rename(const QUrl& source, const QUrl& destination)
+{
+    std::replace(subjects.begin(), subjects.end(), source, destination);
+    if (own.contains(source))
+        own.insert(destination, own.take(source));
+}
+
 void Edits::forget(const QString& id)
 {
+    for (const QString& key : keys())
+        if (const auto language = FieldLanguages::languageIn(key); key == id || (language && language->field->id == id))
+            forgetOwn(key);
     scalars.removeIf([&id](const auto& entry) {
         const auto language = FieldLanguages::languageIn(entry.key());
         return entry.key() == id || (language && language->field->id == id);
@@ -182,6 +323,7 @@ void Edits::forget(const QString& id)
     lists.remove(id);
     givenUp.remove(id);
     added.remove(id);
+    removed.remove(id);
     if (id == FieldID::keywords)
         paths.clear();
 }

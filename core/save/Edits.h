@@ -9,6 +9,17 @@
 
 namespace Quorbel {
 
+/// What is edited of one photo alone, beside the edits that it shares with others; keys as in Edits.
+struct OwnEdits {
+    QMap<QString, QString> scalars{};  ///< an empty text clears the field
+    QMap<QString, QStringList> added{};  ///< items that its list gains
+    QMap<QString, QStringList> removed{};  ///< items that its list loses
+    QList<CustomValue> customs{};
+
+    bool isEmpty() const { return scalars.isEmpty() && added.isEmpty() && removed.isEmpty() && customs.isEmpty(); }
+    bool operator==(const OwnEdits&) const = default;
+};
+
 /// Keys are field ids, FieldLanguages::key() of texts in further languages, and CustomFields::key() of custom fields. A
 /// field has its edit in one of the maps only.
 struct Edits {
@@ -16,12 +27,17 @@ struct Edits {
     QMap<QString, QStringList> lists{};  ///< field id to the items that replace each photo's own
     QMap<QString, QStringList>
         added{};  ///< field id to items that each photo's own list gains; an empty list is no edit
+    /// Field id to items that each photo's own list loses. No item is in both; a list that is replaced has neither.
+    QMap<QString, QStringList> removed{};
     /// Keyword paths that the photos gain, beside the keywords that they lead to: an edit of the keywords.
     QStringList paths{};
     /// Field id to items that only other homes than the shown one held when one home's list was taken for all: they
     /// leave the photo with the list that replaces them.
     QMap<QString, QStringList> givenUp{};
     QList<CustomValue> customs{};  ///< in the order in which they were first edited, one a name
+    /// Texts that differ from photo to photo, by photo; none without an edit. A text that some photo has here is not
+    /// among the common ones, for no photo; of lists both hold.
+    QHash<QUrl, OwnEdits> own{};
     QList<QUrl> subjects{};  ///< the photos; none: whichever photos one likes
 
     /// Nothing is to be changed; the subjects play no part.
@@ -31,8 +47,11 @@ struct Edits {
     bool edited(const QString& key) const;
     QSet<QString> keys() const;
 
-    /// What a save of these edits is asked to do. Lists are replaced where there are any to replace, else items are
-    /// added: one save cannot do both, so what is to be added is folded into a photo first (foldedInto).
+    /// All that is edited of this photo, its own edits among the common ones.
+    Edits of(const QUrl& photo) const;
+    /// What a save of the common edits is asked to do; of(photo).plan() is that of one photo with its own. Lists are
+    /// replaced where there are any to replace, else items are added: one save cannot do both, so what is to be added
+    /// is folded into a photo first (foldedInto).
     EditPlan plan() const;
 
     /// What is still unsaved after a save of `saved`: what was typed since it began, and the fields of which the files
@@ -51,10 +70,20 @@ struct Edits {
     /// A photo that gains a path has the keyword that it leads to: where it is not among those that it holds, it is
     /// gained, too.
     void addKeywordsOfPaths(const QStringList& held);
-    /// Nothing of this field is edited any more, in no language.
+    /// These items of the list are gained, or lost, by all photos; an earlier edit that says otherwise is dropped.
+    void addItems(const QString& id, const QStringList& items);
+    void removeItems(const QString& id, const QStringList& items);
+    /// No photo has an edit of its own of this key any more.
+    void forgetOwn(const QString& key);
+    /// The photo has another name.
+    void rename(const QUrl& source, const QUrl& destination);
+    /// Nothing of this field is edited any more, in no language, of no photo.
     void forget(const QString& id);
 
     bool operator==(const Edits&) const = default;
+
+private:
+    void mergeOwn(const QHash<QUrl, OwnEdits>& others);
 };
 
 }  // namespace Quorbel
