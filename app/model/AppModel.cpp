@@ -3,6 +3,13 @@
 
 #include "app/model/library/PhotoListing.h"
 #include "app/model/library/cache/RecordCache.h"
+#include "app/model/library/filter/Filtering.h"
+#include "app/model/renaming/PhotosRenaming.h"
+#include "app/model/templates/Templates.h"
+#include "app/model/timeshift/TimeShifting.h"
+#include "app/model/words/CodeReplacements.h"
+#include "app/model/words/FieldPasting.h"
+#include "app/model/words/QuickKeywords.h"
 #include "core/schema/RecentItems.h"
 
 #include <QFileInfo>
@@ -55,11 +62,24 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
     m_library.refresh().setLooks({ m_services.fileSystemOf, m_services.lookInterval });
     m_library.details().setAsking(detailsFrom(m_services), m_services.detailsDelay);
     connectParts();
+    makeTools();
     if (!m_services.service)
         m_errorMessage = u"ExifTool could not be found in the app bundle. Metadata cannot be read or written."_s;
 }
 
 AppModel::~AppModel() = default;
+
+// They know the model, so it has to stand.
+void AppModel::makeTools()
+{
+    m_pasting = std::make_unique<FieldPasting>(*this);
+    m_templates = std::make_unique<Templates>(*this);
+    m_codes = std::make_unique<CodeReplacements>(*this);
+    m_quickKeywords = std::make_unique<QuickKeywords>(*this);
+    m_renaming = std::make_unique<PhotosRenaming>(*this);
+    m_timeShifting = std::make_unique<TimeShifting>(*this);
+    m_filtering = std::make_unique<Filtering>(*this);
+}
 
 void AppModel::connectParts()
 {
@@ -406,6 +426,12 @@ QMap<QString, QStringList> AppModel::nonEmptyBatchLists() const
     QMap<QString, QStringList> lists = batchLists();
     lists.removeIf([](const auto& entry) { return entry.value().isEmpty(); });
     return lists;
+}
+
+void AppModel::layEdits(const Edits& edits)
+{
+    requireMainThread("layEdits");
+    m_editing.lay(edits);
 }
 
 void AppModel::addCustomField(const QString& name, const QString& value)

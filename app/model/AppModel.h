@@ -19,6 +19,14 @@
 
 namespace Quorbel {
 
+class CodeReplacements;
+class FieldPasting;
+class Filtering;
+class PhotosRenaming;
+class QuickKeywords;
+class Templates;
+class TimeShifting;
+
 class AppModel final : public QObject {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(AppModel)
@@ -96,6 +104,10 @@ public:
     int unreadSelected() const { return selected().unreadCount(); }
     void tap(const QUrl& url, bool shift, bool command);
     void selectAllPhotos();
+    /// Selects the photo so many places behind the primary one on screen alone, negative: in front of it; whether there
+    /// is one. The guard of unsaved edits may come before it.
+    bool canStep(int places) const;
+    void step(int places);
 
     // --- Running tasks ---
     bool isWorking() const { return tasks().isWorking(); }
@@ -179,6 +191,39 @@ public:
     void applyLocation(const LocationFill::Result& result) { editing().assignPlace(result, true); }
     /// The same without the position: names for coordinates that are there already.
     void fillPlaceNames(const LocationFill::Result& result) { editing().assignPlace(result, false); }
+    /// Lays these edits over the draft or the batch of the selected photos: unsaved edits like typed ones. Their own
+    /// subjects play no part; edits that concern no selected photo are left out. Nothing of a photo that was not read.
+    void layEdits(const Edits& edits);
+    /// The stars of the selected photos, 0 to 5, as an edit.
+    void rate(int stars);
+    /// Whether there is a photo before the primary one on screen.
+    bool hasPhotoBefore() const;
+    /// Fills a field (an id, or the key of a custom field) of the selected photos with what the photo before the
+    /// primary one on screen holds.
+    void takeFromPhotoBefore(const QString& key);
+
+    // --- Keywords of many photos ---
+    struct KeywordCount {
+        QString keyword{};
+        int photos = 0;  ///< of the selected ones that were read
+        bool operator==(const KeywordCount&) const = default;
+    };
+    /// Keywords that the selected photos hold, the most frequent first, those of equal frequency by name.
+    const QList<KeywordCount>& selectedKeywords() const;
+    /// Items that the batch takes away, by field id.
+    const QMap<QString, QStringList>& batchRemoved() const { return editing().batch().edits.removed; }
+    /// The item is taken away from all selected photos with the next save.
+    void takeBatchItemAway(const QString& id, const QString& item);
+    void keepBatchItem(const QString& id, const QString& item);
+
+    // --- Words for many photos, and their names and times: tools over this model, each with a header of its own ---
+    FieldPasting& pasting() { return *m_pasting; }
+    Templates& templates() { return *m_templates; }
+    CodeReplacements& codes() { return *m_codes; }
+    QuickKeywords& quickKeywords() { return *m_quickKeywords; }
+    PhotosRenaming& renaming() { return *m_renaming; }
+    TimeShifting& timeShifting() { return *m_timeShifting; }
+    Filtering& filtering() { return *m_filtering; }
 
     // --- What photos hold beside their records ---
     /// Null before it was looked at. Valid until the details change.
@@ -195,8 +240,8 @@ public:
     QStringList pathsOf(const QString& keyword) const { return editing().pathsOf(keyword); }
     /// Those that were typed and not saved yet, of all keywords.
     const QStringList& typedPaths() const { return editing().typedPaths(); }
-    /// Paths known from the open photos whose keyword begins with the text (any case); of a text with a bar in it, those
-    /// that begin so as a whole. At most `limit`.
+    /// Paths known from the open photos whose keyword begins with the text (any case); of a text with a bar in it,
+    /// those that begin so as a whole. At most `limit`.
     QStringList pathCompletions(const QString& prefix, int limit) const;
     /// Where the homes of a field of the one selected photo disagree: what each holds, the shown one first. None where
     /// they agree, where that is not known, and while the field is edited.
@@ -235,6 +280,8 @@ public:
 
     // --- Saving ---
     void requestSave();
+    /// Saves, and selects the next photo on screen once that is done; goes on at once where nothing is unsaved.
+    void saveAndGoOn();
     /// The save dialog's three answers. Each closes it; then whatever waited (another selection, a load, a close,
     /// the end of the program) goes on after a save or a discard, and is dropped by cancel or by a failed save.
     void confirmSaveDialog();
@@ -343,6 +390,7 @@ private:
     const Saving& saving() const { return checked(m_saving); }
     void connectParts();
     void connectDetails();
+    void makeTools();
     // What other programs do to the photos
     void takeVanished(const QList<int>& positions);
     void selectWhereNone();
@@ -427,6 +475,13 @@ private:
     bool m_batchDontAskSession = false;
     std::function<void()> m_waiting;  ///< asked for again after a save or a discard
     std::optional<LeftEdits> m_toBringBack;  ///< once their photos are open, and read
+    std::unique_ptr<FieldPasting> m_pasting;
+    std::unique_ptr<Templates> m_templates;
+    std::unique_ptr<CodeReplacements> m_codes;
+    std::unique_ptr<QuickKeywords> m_quickKeywords;
+    std::unique_ptr<PhotosRenaming> m_renaming;
+    std::unique_ptr<TimeShifting> m_timeShifting;
+    std::unique_ptr<Filtering> m_filtering;
     bool m_isEnding = false;  ///< as soon as no save runs
     bool m_lastSaveFailed = false;  ///< some of its edits are still unsaved
 };

@@ -28,6 +28,7 @@ struct AppModelServices {
     QString journalPath{};  ///< folder of the saves that can be undone; empty: none can
     QString recordCachePath{};  ///< folder of what was read of photos, for the next time; empty: nothing is kept
     QString leftEditsPath{};  ///< file of the edits that were left unsaved; empty: they end with the program
+    QString templatesPath{};  ///< folder of the templates, one file each; empty: there are none
     /// How long the keys must rest before unsaved edits are written there.
     std::chrono::milliseconds keepInterval{ 2000 };
     /// How long a read may be at one file before the user is offered to skip it.

@@ -225,6 +225,22 @@ void Editing::assignPlace(const LocationFill::Result& result, bool withPosition)
     }
 }
 
+void Editing::lay(const Edits& edits)
+{
+    if (isUnread())
+        return;
+    showFieldsOf(edits);
+    if (isBatch()) {
+        Edits laid = edits;
+        laid.own.removeIf([this](const auto& entry) { return !m_selected.selection().photos.contains(entry.key()); });
+        m_batch.take(m_batch.edits.merged(laid));
+    } else if (const ImageRecord* record = m_selected.primaryRecord()) {
+        m_draft.take(m_draft.edits.merged(edits.of(record->url)).foldedInto(*record, m_details.of(record->url)),
+            *record, m_known.now.languages);
+    }
+    changed();
+}
+
 // --- Which fields are on screen ---
 
 bool Editing::isRemovableAddedField(const QString& id) const
@@ -414,7 +430,8 @@ void Editing::follow(const Selection& selection)
 void Editing::rename(const QUrl& source, const QUrl& destination)
 {
     m_selected.follow(m_selected.selection().renamed(source, destination));
-    std::replace(m_draft.edits.subjects.begin(), m_draft.edits.subjects.end(), source, destination);
+    m_draft.edits.rename(source, destination);
+    m_batch.edits.rename(source, destination);
     m_left.rename(source, destination);
 }
 

@@ -51,6 +51,7 @@ public:
     void addKnownField(const QString& id);
     void removeAddedField(const QString& id);
     void assignPlace(const LocationFill::Result& result, bool withPosition);
+    void lay(const Edits& edits);
 
     bool isRemovableAddedField(const QString& id) const;
     QStringList visibleFieldIDs(FieldSection section) const;

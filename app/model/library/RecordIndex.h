@@ -7,7 +7,7 @@
 
 #include "app/model/library/FolderGroups.h"
 #include "app/model/library/FolderOrder.h"
-#include "app/model/library/PhotoFilter.h"
+#include "app/model/library/filter/PhotoFilter.h"
 #include "core/schema/ImageRecord.h"
 #include "core/schema/RecordSortOrder.h"
 
