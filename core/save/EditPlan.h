@@ -9,9 +9,9 @@ namespace Quorbel {
 struct EditPlan {
     QMap<QString, QString> scalars{};  ///< field id, or FieldLanguages::key(), to new text; empty text deletes it
     QMap<QString, QStringList> lists{};  ///< field id to new items
-    QMap<QString, QStringList> removed{};  ///< field id to items to be taken away; only where items are appended
     QList<CustomValue> customs{};
     MetadataWriter::ListMode listMode = MetadataWriter::ListMode::replace;
+    QMap<QString, QStringList> removed{};  ///< field id to items to be taken away; only where items are appended
     QStringList paths{};  ///< keyword paths that the photos gain, beside the keywords that they lead to
     bool isExact = false;  ///< the items of the lists are as files spell them: nothing is trimmed or left out
 
