@@ -66,10 +66,29 @@ QStringList keysOf(const QList<CustomValue>& customs)
     return keys;
 }
 
-void insertKeys(QSet<QString>& keys, const QStringList& more)
+void insertKeys(QSet<QString>& keys, const QMap<QString, QString>& texts)
 {
-    for (const QString& key : more)
-        keys.insert(key);
+    for (auto text = texts.cbegin(); text != texts.cend(); ++text)
+        keys.insert(text.key());
+}
+
+// Of lists that gain or lose something.
+void insertKeys(QSet<QString>& keys, const QMap<QString, QStringList>& lists)
+{
+    for (auto list = lists.cbegin(); list != lists.cend(); ++list)
+        if (!list->isEmpty())
+            keys.insert(list.key());
+}
+
+bool isWithoutItems(const QMap<QString, QStringList>& lists)
+{
+    return std::all_of(lists.cbegin(), lists.cend(), [](const QStringList& items) { return items.isEmpty(); });
+}
+
+bool holdsKey(const OwnEdits& one, const QString& key, const std::optional<QString>& customName)
+{
+    return one.scalars.contains(key) || one.added.contains(key) || one.removed.contains(key)
+        || (customName && CustomFields::indexOf(one.customs, *customName) >= 0);
 }
 
 // Items that lists gain and lose: what comes later goes before what came first.
@@ -93,6 +112,17 @@ bool holdsText(const ImageRecord& photo, const PhotoDetails* details, const QStr
 
 }  // namespace
 
+// Not by counting: it is asked at every key, of the edits of many photos.
+bool Edits::isEmpty() const
+{
+    const auto isNone = [](const OwnEdits& one) {
+        return one.scalars.isEmpty() && one.customs.isEmpty() && isWithoutItems(one.added)
+            && isWithoutItems(one.removed);
+    };
+    return scalars.isEmpty() && lists.isEmpty() && paths.isEmpty() && customs.isEmpty() && isWithoutItems(added)
+        && isWithoutItems(removed) && std::all_of(own.cbegin(), own.cend(), isNone);
+}
+
 int Edits::count() const
 {
     return int(keys().size());
@@ -108,9 +138,15 @@ bool Edits::edited(const QString& key) const
 QSet<QString> Edits::keys() const
 {
     QSet<QString> keys;
-    insertKeys(keys, scalars.keys() + lists.keys() + withoutEmpty(added).keys() + withoutEmpty(removed).keys());
+    insertKeys(keys, scalars);
+    insertKeys(keys, added);
+    insertKeys(keys, removed);
+    for (auto list = lists.cbegin(); list != lists.cend(); ++list)
+        keys.insert(list.key());
     for (const OwnEdits& one : own) {
-        insertKeys(keys, one.scalars.keys() + withoutEmpty(one.added).keys() + withoutEmpty(one.removed).keys());
+        insertKeys(keys, one.scalars);
+        insertKeys(keys, one.added);
+        insertKeys(keys, one.removed);
         for (const CustomValue& custom : one.customs)
             keys.insert(CustomFields::key(custom.name));
     }
@@ -135,6 +171,14 @@ Edits Edits::of(const QUrl& photo) const
     for (const CustomValue& custom : mine.customs)
         CustomFields::put(one.customs, custom);
     return one;
+}
+
+Edits Edits::onlyOf(const QSet<QUrl>& photos) const
+{
+    Edits some = *this;
+    some.subjects.removeIf([&photos](const QUrl& photo) { return !photos.contains(photo); });
+    some.own.removeIf([&photos](const auto& entry) { return !photos.contains(entry.key()); });
+    return some;
 }
 
 EditPlan Edits::plan() const
@@ -220,9 +264,10 @@ ExternalRefresh::Drafts Edits::onto(const ImageRecord& photo, const QMap<QString
     return seen;
 }
 
-Edits Edits::merged(const Edits& other) const
+Edits Edits::merged(const Edits& other, const QList<QUrl>& photos) const
 {
     Edits merged = *this;
+    merged.shareOut(other.own, photos);
     for (const QString& key : other.scalars.keys() + keysOf(other.customs))
         merged.forgetOwn(key);
     merged.scalars.insert(other.scalars);
@@ -241,6 +286,28 @@ Edits Edits::merged(const Edits& other) const
         CustomFields::put(merged.customs, custom);
     merged.mergeOwn(other.own);
     return merged;
+}
+
+// A common text becomes one of each photo where only some are about to get another.
+void Edits::shareOut(const QHash<QUrl, OwnEdits>& others, const QList<QUrl>& photos)
+{
+    QMap<QString, QString> texts;
+    QList<CustomValue> values;
+    for (const OwnEdits& one : others) {
+        for (auto text = one.scalars.cbegin(); text != one.scalars.cend(); ++text)
+            if (const auto common = scalars.constFind(text.key()); common != scalars.cend())
+                texts.insert(common.key(), *common);
+        for (const CustomValue& custom : one.customs)
+            if (const qsizetype i = CustomFields::indexOf(customs, custom.name); i >= 0)
+                CustomFields::put(values, customs.at(i));
+    }
+    if (texts.isEmpty() && values.isEmpty())
+        return;
+    for (const QUrl& photo : photos) {
+        own[photo].scalars.insert(texts);
+        for (const CustomValue& custom : std::as_const(values))
+            CustomFields::put(own[photo].customs, custom);
+    }
 }
 
 void Edits::mergeOwn(const QHash<QUrl, OwnEdits>& others)
@@ -282,17 +349,46 @@ void Edits::addKeywordsOfPaths(const QStringList& held)
 void Edits::addItems(const QString& id, const QStringList& items)
 {
     moveItems(added, removed, id, items);
+    dropOwnItems(id, items);
 }
 
 void Edits::removeItems(const QString& id, const QStringList& items)
 {
     moveItems(removed, added, id, items);
+    dropOwnItems(id, items);
     if (id == FieldID::keywords)
         paths.removeIf([&items](const QString& path) { return items.contains(KeywordPath::keyword(path)); });
 }
 
+void Edits::dropOwnItems(const QString& id, const QStringList& items)
+{
+    const auto holds = [&](const QMap<QString, QStringList>& lists) {
+        const auto list = lists.constFind(id);
+        return list != lists.cend()
+            && std::any_of(items.cbegin(), items.cend(), [&list](const QString& item) { return list->contains(item); });
+    };
+    const auto holdsSome = [&](const OwnEdits& one) { return holds(one.added) || holds(one.removed); };
+    if (std::none_of(own.cbegin(), own.cend(), holdsSome))
+        return;
+    for (OwnEdits& one : own)
+        for (QMap<QString, QStringList>* lists : { &one.added, &one.removed })
+            if (holds(*lists)) {
+                lists->insert(id, withoutItems(lists->value(id), items));
+                *lists = withoutEmpty(*lists);
+            }
+    own.removeIf([](const auto& entry) { return entry.value().isEmpty(); });
+}
+
+bool Edits::hasOwn(const QString& key) const
+{
+    const auto name = CustomFields::nameIn(key);
+    return std::any_of(own.cbegin(), own.cend(), [&](const OwnEdits& one) { return holdsKey(one, key, name); });
+}
+
 void Edits::forgetOwn(const QString& key)
 {
+    if (!hasOwn(key))
+        return;
     const auto name = CustomFields::nameIn(key);
     for (OwnEdits& one : own) {
         one.scalars.remove(key);

@@ -41,7 +41,7 @@ struct Edits {
     QList<QUrl> subjects{};  ///< the photos; none: whichever photos one likes
 
     /// Nothing is to be changed; the subjects play no part.
-    bool isEmpty() const { return count() == 0; }
+    bool isEmpty() const;
     /// How many fields are to be changed.
     int count() const;
     bool edited(const QString& key) const;
@@ -49,6 +49,8 @@ struct Edits {
 
     /// All that is edited of this photo, its own edits among the common ones.
     Edits of(const QUrl& photo) const;
+    /// The same edits, of these photos alone.
+    Edits onlyOf(const QSet<QUrl>& photos) const;
     /// What a save of the common edits is asked to do; of(photo).plan() is that of one photo with its own. Lists are
     /// replaced where there are any to replace, else items are added: one save cannot do both, so what is to be added
     /// is folded into a photo first (foldedInto).
@@ -62,17 +64,21 @@ struct Edits {
     Edits foldedInto(const ImageRecord& photo, const PhotoDetails* details = nullptr) const;
     /// What one sees of the photo: its contents with these edits laid over them.
     ExternalRefresh::Drafts onto(const ImageRecord& photo, const QMap<QString, QString>& languages = {}) const;
-    /// These edits, and over them the other ones; the subjects stay.
-    Edits merged(const Edits& other) const;
+    /// These edits, and over them the other ones; the subjects stay. `photos`: those that both are of; a text that only
+    /// some of them are given leaves the others the one that they shared. Without photos nobody can be left it.
+    Edits merged(const Edits& other, const QList<QUrl>& photos = {}) const;
 
     /// Without what goes with a keyword that is no longer among those to be written: its paths.
     void dropStrayPaths();
     /// A photo that gains a path has the keyword that it leads to: where it is not among those that it holds, it is
     /// gained, too.
     void addKeywordsOfPaths(const QStringList& held);
-    /// These items of the list are gained, or lost, by all photos; an earlier edit that says otherwise is dropped.
+    /// These items of the list are gained, or lost, by all photos; an earlier edit that says otherwise, of all or of
+    /// one, is dropped.
     void addItems(const QString& id, const QStringList& items);
     void removeItems(const QString& id, const QStringList& items);
+    /// Whether some photo has an edit of its own of this key.
+    bool hasOwn(const QString& key) const;
     /// No photo has an edit of its own of this key any more.
     void forgetOwn(const QString& key);
     /// The photo has another name.
@@ -83,6 +89,8 @@ struct Edits {
     bool operator==(const Edits&) const = default;
 
 private:
+    void shareOut(const QHash<QUrl, OwnEdits>& others, const QList<QUrl>& photos);
+    void dropOwnItems(const QString& id, const QStringList& items);
     void mergeOwn(const QHash<QUrl, OwnEdits>& others);
 };
 

@@ -72,6 +72,34 @@ void Draft::setCustom(const QString& name, const QString& value)
     CustomFields::put(edits.customs, { name, value });
 }
 
+void Draft::lay(const Edits& laid, const PhotoDetails* details)
+{
+    for (auto text = laid.scalars.cbegin(); text != laid.scalars.cend(); ++text) {
+        if (!details && FieldLanguages::languageIn(text.key()))
+            confirmScalar(text.key(), *text);
+        else
+            setScalar(text.key(), *text);
+    }
+    for (auto list = laid.lists.cbegin(); list != laid.lists.cend(); ++list)
+        if (const QStringList givenUp = laid.givenUp.value(list.key());
+            shown.lists.value(list.key()) != *list || !givenUp.isEmpty())
+            confirmList(list.key(), *list, givenUp);
+    for (auto items = laid.removed.cbegin(); items != laid.removed.cend(); ++items)
+        for (const QString& item : *items)
+            removeItem(items.key(), item);
+    for (auto items = laid.added.cbegin(); items != laid.added.cend(); ++items)
+        for (const QString& item : *items)
+            addItem(items.key(), item);
+    for (const QString& path : laid.paths) {
+        if (details && details->paths.contains(path))
+            addItem(FieldID::keywords, KeywordPath::keyword(path));
+        else
+            addPath(path);
+    }
+    for (const CustomValue& custom : laid.customs)
+        setCustom(custom.name, custom.value);
+}
+
 void Draft::forget(const QString& id)
 {
     shown.values.remove(id);

@@ -25,6 +25,9 @@ struct Draft {
     /// The same for a list, which alone is left of what the photo's homes hold.
     void confirmList(const QString& id, const QStringList& items, const QStringList& givenUp);
     void setCustom(const QString& name, const QString& value);
+    /// These edits of the photo, as if somebody typed them: what one sees already is no edit, and earlier edits stay.
+    /// `details`: what is known of it; without, it may lack any text in a further language, and any path.
+    void lay(const Edits& laid, const PhotoDetails* details);
     /// Forgets a field of the schema: what was typed, and what one sees of it.
     void forget(const QString& id);
 

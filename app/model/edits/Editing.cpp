@@ -71,6 +71,8 @@ Edits Editing::typed() const
 LeftEdits Editing::leftOf(const Edits& edits, bool returns) const
 {
     LeftEdits left{ .edits = edits, .returns = returns };
+    if (edits.subjects.size() == 1)
+        left.edits = edits.of(edits.subjects.constFirst());
     const ImageRecord* photo = edits.subjects.size() == 1 ? m_photos.record(edits.subjects.constFirst()) : nullptr;
     for (auto list = edits.lists.cbegin(); photo && list != edits.lists.cend(); ++list)
         left.heldLists.insert(list.key(), photo->lists.value(list.key()));
@@ -95,13 +97,20 @@ void Editing::changed()
 {
     const Announcer::Together together(m_announcer);
     m_announcer.assign(m_told,
-        Told{ m_draft.shown, m_draft.edits.keys(), m_batch, m_batch.include(), m_batch.values(), m_added, m_languages },
+        Told{ m_draft.shown, m_draft.edits.keys(), m_batch, m_batch.include(), m_batch.values(), ownNow(), m_added,
+            m_languages },
         Change::edits);
     m_announcer.assign(m_unsavedCount, isBatch() ? m_batch.edits.count() : m_draft.edits.count(), Change::unsavedCount);
     const Edits& edits = isBatch() ? m_batch.edits : m_draft.edits;
     const Edits before = std::exchange(m_noted, edits);
     if (before != edits && !(before.isEmpty() && edits.isEmpty()))
         m_left.noteStanding(!edits.isEmpty());
+}
+
+// Made anew only where the photos' own edits are other ones: of many photos it takes its time.
+QMap<QString, OwnSummary> Editing::ownNow() const
+{
+    return m_told.batch.edits.own == m_batch.edits.own ? m_told.batchOwn : OwnSummary::of(m_batch.edits.own);
 }
 
 // --- What one types ---
@@ -135,11 +144,14 @@ void Editing::removeSingleListItem(const QString& id, const QString& item)
 void Editing::setBatch(const QString& id, const QString& value)
 {
     // Merely focusing and leaving a field includes nothing.
-    if (!m_batch.edits.scalars.contains(id) && value == m_details.sharedValue(id).value_or(QString()))
+    const bool isOwn = m_told.batchOwn.contains(id);
+    if (!isOwn && !m_batch.edits.scalars.contains(id) && value == m_details.sharedValue(id).value_or(QString()))
         return;
     if (FieldLanguages::languageIn(id))
         m_languages.insert(id);
-    m_batch.setScalar(id, value);
+    // Who empties a field again in which he typed over the texts of many photos wants them back.
+    if (isOwn || !value.isEmpty() || !m_batch.bringBackOwn(id))
+        m_batch.setScalar(id, value);
     changed();
 }
 
@@ -163,6 +175,18 @@ void Editing::removeBatchListItem(const QString& id, const QString& item)
     changed();
 }
 
+void Editing::takeBatchItemAway(const QString& id, const QString& item)
+{
+    m_batch.takeItemAway(id, item);
+    changed();
+}
+
+void Editing::keepBatchItem(const QString& id, const QString& item)
+{
+    m_batch.keepItem(id, item);
+    changed();
+}
+
 void Editing::clearBatchList(const QString& id)
 {
     m_batch.clearList(id);
@@ -183,7 +207,7 @@ void Editing::setCustom(const QString& name, const QString& value)
         return;
     if (!isBatch())
         m_draft.setCustom(name, value);
-    else if (value != shownCustom(name))
+    else if (value != shownCustom(name) && !(value.isEmpty() && m_batch.bringBackOwn(CustomFields::key(name))))
         m_batch.setCustom(name, value);
     changed();
 }
@@ -223,22 +247,6 @@ void Editing::assignPlace(const LocationFill::Result& result, bool withPosition)
         else
             setSingle(assignment.id, assignment.value);
     }
-}
-
-void Editing::lay(const Edits& edits)
-{
-    if (isUnread())
-        return;
-    showFieldsOf(edits);
-    if (isBatch()) {
-        Edits laid = edits;
-        laid.own.removeIf([this](const auto& entry) { return !m_selected.selection().photos.contains(entry.key()); });
-        m_batch.take(m_batch.edits.merged(laid));
-    } else if (const ImageRecord* record = m_selected.primaryRecord()) {
-        m_draft.take(m_draft.edits.merged(edits.of(record->url)).foldedInto(*record, m_details.of(record->url)),
-            *record, m_known.now.languages);
-    }
-    changed();
 }
 
 // --- Which fields are on screen ---
@@ -297,6 +305,8 @@ QList<CustomValue> Editing::visibleCustomFields() const
 // A custom field's text in the batch: what was typed, else what all photos hold.
 QString Editing::shownCustom(const QString& name) const
 {
+    if (m_batch.edits.hasOwn(CustomFields::key(name)))
+        return {};
     const auto typed = m_batch.customText(name);
     return typed ? *typed : m_selected.sharedCustom(name).value_or(QString());
 }
@@ -316,6 +326,8 @@ bool Editing::isFieldEmpty(const QString& id) const
         return isBlank(m_draft.shown.values.value(id));
     if (const auto typed = m_batch.edits.scalars.constFind(id); typed != m_batch.edits.scalars.cend())
         return isBlank(*typed);
+    if (m_told.batchOwn.contains(id))
+        return false;
     // Where the photos differ, some of them hold a text of their own; and nobody knows what the unread ones hold.
     const auto shared = m_selected.unreadCount() == 0 ? m_details.sharedValue(id) : std::nullopt;
     return shared && isBlank(*shared);
@@ -356,9 +368,7 @@ void Editing::leave(const QSet<QUrl>& gone)
             leave();
         return;
     }
-    Edits edits = typed();
-    edits.subjects.removeIf([&gone](const QUrl& photo) { return !gone.contains(photo); });
-    m_left.keep(leftOf(edits));
+    m_left.keep(leftOf(typed().onlyOf(gone)));
 }
 
 void Editing::bringBack(const LeftEdits& left)
@@ -376,7 +386,7 @@ void Editing::bringBack(const LeftEdits& left)
     showFieldsOf(left.edits);
     const ImageRecord* record = m_selected.primaryRecord();
     if (isBatch())
-        m_batch.take(m_batch.edits.merged(left.edits));
+        m_batch.take(m_batch.edits.merged(left.edits, m_selected.urls()));
     else if (record)
         m_draft.take(
             m_draft.edits.merged(left.rebasedOnto(*record, m_details.of(record->url))), *record, m_known.now.languages);
@@ -422,6 +432,7 @@ void Editing::follow(const Selection& selection)
     m_selected.follow(selection);
     if (hasOtherPrimary)
         beginDraft();
+    m_batch.keepOnly(m_selected.selection().photos);
     if (wasBatch && !isBatch())
         foldBatchIntoDraft();
     changed();
@@ -431,7 +442,7 @@ void Editing::rename(const QUrl& source, const QUrl& destination)
 {
     m_selected.follow(m_selected.selection().renamed(source, destination));
     m_draft.edits.rename(source, destination);
-    m_batch.edits.rename(source, destination);
+    m_batch.rename(source, destination);
     m_left.rename(source, destination);
 }
 
@@ -526,6 +537,7 @@ void Editing::narrow(const QList<QUrl>& photos)
     const QSet<QString> languages = m_languages;
     select(rest);
     m_batch = batch;
+    m_batch.keepOnly(rest.photos);
     m_added = added;
     m_languages = languages;
     if (!isBatch())
@@ -537,10 +549,10 @@ void Editing::narrow(const QList<QUrl>& photos)
 // until just their photos are selected again.
 void Editing::giveBack(Edits edits)
 {
-    Edits away = edits;
-    away.subjects.removeIf([this](const QUrl& photo) { return m_photos.contains(photo); });
-    m_left.keep(leftOf(away));
-    edits.subjects.removeIf([this](const QUrl& photo) { return !m_photos.contains(photo); });
+    QSet<QUrl> away = setOf(edits.subjects);
+    away.removeIf([this](const QUrl& photo) { return m_photos.contains(photo); });
+    m_left.keep(leftOf(edits.onlyOf(away)));
+    edits = edits.onlyOf(setOf(edits.subjects).subtract(away));
     if (edits.isEmpty() || edits.subjects.isEmpty())
         return;
     const QSet<QUrl> photos = setOf(edits.subjects);
@@ -563,7 +575,7 @@ void Editing::put(const LeftEdits& left)
         return m_left.keep(
             { .edits = left.edits, .heldLists = left.heldLists, .confirmed = left.confirmed, .returns = true });
     if (isBatch()) {
-        m_batch.take(left.edits.merged(m_batch.edits));
+        m_batch.take(left.edits.merged(m_batch.edits, m_selected.urls()));
     } else if (const ImageRecord* record = m_selected.primaryRecord()) {
         m_draft.take(
             left.rebasedOnto(*record, m_details.of(record->url)).merged(m_draft.edits), *record, m_known.now.languages);

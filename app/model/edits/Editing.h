@@ -7,6 +7,7 @@
 #include "app/model/edits/Batch.h"
 #include "app/model/edits/Draft.h"
 #include "app/model/edits/LeftBehind.h"
+#include "app/model/edits/OwnSummary.h"
 #include "app/model/library/PhotoList.h"
 #include "app/model/selection/SelectedDetails.h"
 #include "core/schema/FieldSchema.h"
@@ -26,6 +27,8 @@ public:
     const QSet<QString>& editedSingle() const { return m_told.edited; }
     const QSet<QString>& batchInclude() const { return m_told.batchInclude; }
     const QMap<QString, QString>& batchValues() const { return m_told.batchValues; }
+    /// What of the batch differs from photo to photo, by key; ticked, too.
+    const QMap<QString, OwnSummary>& batchOwn() const { return m_told.batchOwn; }
     /// Ids of fields that were added to the screen since the selection.
     const QSet<QString>& sessionAddedKnownIDs() const { return m_added; }
     /// The edits of the selected photos that wait to be saved, with these photos.
@@ -39,6 +42,8 @@ public:
     void toggleBatchInclude(const QString& id);
     void addBatchListItem(const QString& id, const QString& item);
     void removeBatchListItem(const QString& id, const QString& item);
+    void takeBatchItemAway(const QString& id, const QString& item);
+    void keepBatchItem(const QString& id, const QString& item);
     void clearBatchList(const QString& id);
     void toggleBatchCustom(const QString& name);
     void setCustom(const QString& name, const QString& value);
@@ -51,6 +56,7 @@ public:
     void addKnownField(const QString& id);
     void removeAddedField(const QString& id);
     void assignPlace(const LocationFill::Result& result, bool withPosition);
+    /// See AppModel::layEdits.
     void lay(const Edits& edits);
 
     bool isRemovableAddedField(const QString& id) const;
@@ -110,6 +116,7 @@ private:
         Batch batch{};
         QSet<QString> batchInclude{};
         QMap<QString, QString> batchValues{};
+        QMap<QString, OwnSummary> batchOwn{};
         QSet<QString> added{};
         QSet<QString> languages{};
         bool operator==(const Told&) const = default;
@@ -124,6 +131,10 @@ private:
     bool isBatch() const { return m_selected.isBatch(); }
     bool isUnread() const;
     Edits batchOfOne() const;
+    QMap<QString, OwnSummary> ownNow() const;
+    Edits withoutUnread(Edits edits) const;
+    Edits withoutWholeLists(Edits edits) const;
+    Edits withCommonTexts(Edits edits) const;
     void takeReturning();
     bool isShown(const FieldSpec& field) const;
     QString shownCustom(const QString& name) const;
@@ -135,7 +146,7 @@ private:
     void restart();
     void beginDraft();
     void layDraft();
-    void noteSaved(const Edits& saved, const QSet<QString>& differing);
+    void noteSaved(const Edits& written, const QSet<QString>& differing);
     QStringList heldLanguages(const QString& id) const;
     QString languageKey(const QString& id, const QString& code) const;
     void forgetText(const QString& key);

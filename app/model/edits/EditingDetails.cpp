@@ -45,8 +45,10 @@ void Editing::takeDetails()
 }
 
 // What was written is what the photo holds, before anybody looked.
-void Editing::noteSaved(const Edits& saved, const QSet<QString>& differing)
+void Editing::noteSaved(const Edits& written, const QSet<QString>& differing)
 {
+    const std::optional<QUrl>& primary = m_selected.selection().primary;
+    const Edits saved = primary ? written.of(*primary) : written;
     for (const QString& key : saved.keys()) {
         if (differing.contains(key))
             continue;
@@ -81,7 +83,7 @@ QStringList Editing::languages(const QString& id) const
 {
     const QMap<QString, QString>& texts = (isBatch() ? m_batch.edits : m_draft.edits).scalars;
     QStringList codes = heldLanguages(id);
-    for (const QStringList& keys : { m_languages.values(), texts.keys() })
+    for (const QStringList& keys : { m_languages.values(), texts.keys(), m_told.batchOwn.keys() })
         for (const QString& key : keys)
             if (const auto code = codeIn(key, id))
                 codes.append(*code);

@@ -85,6 +85,10 @@ private slots:
     void pathsOfSeveral();
     void useHome();
     void useHomeOfAList();
+    void laidOverADraft();
+    void laidOverABatch();
+    void textsOfTheirOwn();
+    void fewerPhotosOfTheirOwn();
 };
 
 void tst_Editing::lateDetails()
@@ -324,6 +328,149 @@ void tst_Editing::useHomeOfAList()
     QCOMPARE(f.editing.unsavedCount(), 1);
     f.save();
     QVERIFY(f.editing.unsaved().isEmpty() && f.editing.unsaved().givenUp.isEmpty());
+}
+
+// What was confirmed, typed or given up before stays: nothing but what is laid changes.
+void tst_Editing::laidOverADraft()
+{
+    Photos f;
+    f.know(u"a"_s,
+        { .paths = { u"Places|France|Paris"_s },
+            .disagreements = { { u"title"_s, { { .values = { u"T"_s }, .isShown = true }, { .values = { u"U"_s } } } },
+                { u"keywords"_s,
+                    { { .values = { u"Paris"_s, u"sky"_s }, .isShown = true }, { .values = { u"old"_s } } } } } });
+    f.select(u"a"_s);
+    f.editing.useHome(u"title"_s, { .values = { u"T"_s }, .isShown = true });
+    f.editing.useHome(u"keywords"_s, { .values = { u"Paris"_s, u"sky"_s }, .isShown = true });
+    f.editing.addSingleListItem(u"keywords"_s, u"typed"_s);
+    Edits laid{ .scalars = { { u"copyright"_s, u"X"_s }, { u"event"_s, u"Regatta"_s }, { u"title@de"_s, u"See"_s } },
+        .added = { { u"keywords"_s, { u"sky"_s, u"crew"_s } } },
+        .paths = { u"Places|France|Paris"_s, u"Sport|crew"_s } };
+    laid.own[photo(u"a"_s)].scalars.insert(u"creator"_s, u"Ana"_s);
+    laid.own[photo(u"b"_s)].scalars.insert(u"creator"_s, u"Eva"_s);
+    f.editing.lay(laid);
+    const QMap<QString, QString> texts{ { u"creator"_s, u"Ana"_s }, { u"event"_s, u"Regatta"_s },
+        { u"title"_s, u"T"_s }, { u"title@de"_s, u"See"_s } };
+    QCOMPARE(f.editing.unsaved().scalars, texts);
+    QCOMPARE(
+        f.editing.unsaved().lists.value(u"keywords"_s), QStringList({ u"Paris"_s, u"sky"_s, u"typed"_s, u"crew"_s }));
+    QCOMPARE(f.editing.unsaved().givenUp.value(u"keywords"_s), QStringList{ u"old"_s });
+    QCOMPARE(f.editing.unsaved().paths, QStringList{ u"Sport|crew"_s });
+    QVERIFY(f.editing.unsaved().own.isEmpty());
+    QVERIFY(f.editing.visibleFieldIDs(FieldSection::common).contains(u"event"_s)
+        || f.editing.sessionAddedKnownIDs().contains(u"event"_s));
+    f.editing.lay({ .removed = { { u"keywords"_s, { u"crew"_s, u"never"_s } } } });
+    QVERIFY(f.editing.unsaved().paths.isEmpty());
+    QCOMPARE(f.editing.unsaved().lists.value(u"keywords"_s), QStringList({ u"Paris"_s, u"sky"_s, u"typed"_s }));
+    // A photo that holds all of it has no edit.
+    f.select(u"b"_s);
+    f.editing.lay({ .scalars = { { u"title"_s, u"T"_s } }, .added = { { u"keywords"_s, { u"sky"_s } } } });
+    QCOMPARE(f.editing.unsavedCount(), 0);
+    // Whether it holds this text nobody knows yet.
+    f.editing.lay({ .scalars = { { u"title@de"_s, {} } } });
+    QCOMPARE(f.editing.unsavedCount(), 1);
+}
+
+void tst_Editing::laidOverABatch()
+{
+    Photos f;
+    f.select(u"abc"_s);
+    f.editing.setBatch(u"title"_s, u"Typed"_s);
+    f.editing.setCustom(u"Mood"_s, u"calm"_s);
+    f.editing.addBatchListItem(u"keywords"_s, u"mine"_s);
+    // Where a text is laid for some, the others keep what was typed for all; a whole list is what each gains and loses.
+    Edits laid{ .lists = { { u"keywords"_s, { u"sky"_s, u"new"_s } } } };
+    laid.own[photo(u"a"_s)] = { .scalars = { { u"title"_s, u"A"_s } }, .customs = { { u"Mood"_s, u"wild"_s } } };
+    laid.own[photo(u"z"_s)].scalars.insert(u"title"_s, u"of no selected photo"_s);
+    f.editing.lay(laid);
+    const Edits now = f.editing.unsaved();
+    QVERIFY(now.lists.isEmpty() && now.scalars.isEmpty() && now.customs.isEmpty());
+    QCOMPARE(now.own.size(), 3);
+    QCOMPARE(now.of(photo(u"a"_s)).scalars.value(u"title"_s), u"A"_s);
+    QCOMPARE(now.of(photo(u"b"_s)).scalars.value(u"title"_s), u"Typed"_s);
+    QCOMPARE(now.of(photo(u"c"_s)).customs, (QList<CustomValue>{ { u"Mood"_s, u"calm"_s } }));
+    QCOMPARE(now.added.value(u"keywords"_s), QStringList({ u"mine"_s, u"sky"_s, u"new"_s }));
+    QCOMPARE(now.of(photo(u"c"_s)).removed.value(u"keywords"_s), QStringList{ u"Paris"_s });
+    QCOMPARE(f.editing.unsavedCount(), 3);
+    // The same for all of them is one text, seen in its field.
+    Edits same;
+    for (const QString& letter : { u"a"_s, u"b"_s, u"c"_s })
+        same.own[photo(letter)].scalars.insert(u"title"_s, u"Same"_s);
+    f.editing.lay(same);
+    QCOMPARE(f.editing.batchValues().value(u"title"_s), u"Same"_s);
+    QVERIFY(!f.editing.batchOwn().contains(u"title"_s));
+    f.editing.lay({ .scalars = { { u"event"_s, u"Regatta"_s } } });
+    QVERIFY(f.editing.sessionAddedKnownIDs().contains(u"event"_s));
+}
+
+void tst_Editing::textsOfTheirOwn()
+{
+    Photos f;
+    f.select(u"abc"_s);
+    Edits laid;
+    laid.own[photo(u"a"_s)] = { .scalars = { { u"title"_s, u"A"_s }, { u"title@de"_s, u"Ah"_s } },
+        .added = { { u"keywords"_s, { u"x"_s } } } };
+    laid.own[photo(u"b"_s)] = { .scalars = { { u"title"_s, u"B"_s } }, .removed = { { u"keywords"_s, { u"sky"_s } } } };
+    f.editing.lay(laid);
+    // A field counts once, however many texts it has.
+    QCOMPARE(f.editing.unsavedCount(), 3);
+    QCOMPARE(f.editing.batchInclude(), QSet<QString>({ u"title"_s, u"title@de"_s }));
+    QCOMPARE(f.editing.batchOwn().value(u"title"_s), (OwnSummary{ .photos = 2, .texts = 2 }));
+    QCOMPARE(f.editing.batchOwn().value(u"keywords"_s),
+        (OwnSummary{ .photos = 2, .added = { u"x"_s }, .removed = { u"sky"_s } }));
+    QCOMPARE(f.editing.languages(u"title"_s), QStringList{ u"de"_s });
+    QVERIFY(!f.editing.isFieldEmpty(u"title"_s));
+    // Typed over; emptied again, they come back.
+    f.editing.setBatch(u"title"_s, u"C"_s);
+    QCOMPARE(f.editing.unsaved().of(photo(u"a"_s)).scalars.value(u"title"_s), u"C"_s);
+    f.editing.setBatch(u"title"_s, {});
+    QCOMPARE(f.editing.batchOwn().value(u"title"_s).texts, 2);
+    f.editing.toggleBatchInclude(u"title"_s);
+    QVERIFY(!f.editing.batchInclude().contains(u"title"_s));
+    f.editing.toggleBatchInclude(u"title"_s);
+    QCOMPARE(f.editing.unsaved().own, laid.own);
+    // Of a field that was only to be taken away, and is again what it was.
+    f.editing.clearBatchList(u"keywords"_s);
+    f.editing.takeBatchItemAway(u"keywords"_s, u"sky"_s);
+    QCOMPARE(f.editing.unsavedCount(), 3);
+    f.editing.keepBatchItem(u"keywords"_s, u"sky"_s);
+    QCOMPARE(f.editing.unsavedCount(), 2);
+}
+
+// What becomes of them when only some of the photos are left to be edited.
+void tst_Editing::fewerPhotosOfTheirOwn()
+{
+    Photos f;
+    f.select(u"abc"_s);
+    Edits laid;
+    for (const QString& letter : { u"a"_s, u"b"_s, u"c"_s })
+        laid.own[photo(letter)].scalars.insert(u"title"_s, letter.toUpper());
+    f.editing.lay(laid);
+    // One disappears: its text is left behind with it.
+    f.editing.leave({ photo(u"a"_s) });
+    QCOMPARE(f.left.kept().constFirst().edits.scalars, (QMap<QString, QString>{ { u"title"_s, u"A"_s } }));
+    QVERIFY(f.left.kept().constFirst().edits.own.isEmpty());
+    f.editing.follow({ { photo(u"b"_s), photo(u"c"_s) }, photo(u"b"_s), photo(u"b"_s) });
+    QCOMPARE(f.editing.unsaved().own.size(), 2);
+    // Of two that were saved one failed: its text alone is an edit of that photo.
+    f.editing.send();
+    f.editing.takeSaved(f.editing.unsaved().onlyOf({ photo(u"c"_s) }), { photo(u"c"_s) }, {});
+    QCOMPARE(f.selected.selection().photos, QSet<QUrl>{ photo(u"c"_s) });
+    QCOMPARE(f.editing.unsaved().scalars, (QMap<QString, QString>{ { u"title"_s, u"C"_s } }));
+    QVERIFY(f.editing.unsaved().own.isEmpty());
+    // Left behind whole, and brought back over what was typed since.
+    f.select(u"abc"_s);
+    f.editing.lay(laid);
+    f.editing.leave();
+    const LeftEdits left = f.left.kept().constFirst();
+    f.select(u"abc"_s);
+    f.editing.bringBack(left);
+    QCOMPARE(f.editing.unsaved().own, laid.own);
+    // Those that a save gives back lie under what was typed meanwhile.
+    f.editing.send();
+    f.editing.setBatch(u"title"_s, u"Z"_s);
+    f.editing.takeSaved(f.editing.unsaved(), { photo(u"a"_s), photo(u"b"_s), photo(u"c"_s) }, {});
+    QCOMPARE(f.editing.unsaved().scalars.value(u"title"_s), u"Z"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_Editing)

@@ -1,0 +1,65 @@
+#include "app/model/edits/OwnSummary.h"
+
+#include "core/schema/CustomFields.h"
+
+namespace Quorbel {
+
+namespace {
+
+// What is collected of one field.
+struct Found {
+    int photos = 0;
+    QSet<QString> texts{};
+    QSet<QString> added{};
+    QSet<QString> removed{};
+};
+
+QStringList sorted(const QSet<QString>& items)
+{
+    QStringList list = items.values();
+    list.sort();
+    return list;
+}
+
+void collect(QHash<QString, Found>& found, const OwnEdits& one)
+{
+    const auto addText = [&found](const QString& key, const QString& text) {
+        Found& field = found[key];
+        ++field.photos;
+        field.texts.insert(text);
+    };
+    for (auto text = one.scalars.cbegin(); text != one.scalars.cend(); ++text)
+        addText(text.key(), *text);
+    for (const CustomValue& custom : one.customs)
+        addText(CustomFields::key(custom.name), custom.value);
+    for (auto list = one.added.cbegin(); list != one.added.cend(); ++list) {
+        Found& field = found[list.key()];
+        ++field.photos;
+        field.added.unite(QSet<QString>(list->cbegin(), list->cend()));
+    }
+    for (auto list = one.removed.cbegin(); list != one.removed.cend(); ++list) {
+        Found& field = found[list.key()];
+        field.photos += one.added.contains(list.key()) ? 0 : 1;
+        field.removed.unite(QSet<QString>(list->cbegin(), list->cend()));
+    }
+}
+
+}  // namespace
+
+QMap<QString, OwnSummary> OwnSummary::of(const QHash<QUrl, OwnEdits>& own)
+{
+    QHash<QString, Found> found;
+    for (const OwnEdits& one : own)
+        collect(found, one);
+    QMap<QString, OwnSummary> summaries;
+    for (auto field = found.cbegin(); field != found.cend(); ++field)
+        summaries.insert(field.key(),
+            { .photos = field->photos,
+                .texts = int(field->texts.size()),
+                .text = field->texts.size() == 1 ? *field->texts.cbegin() : QString(),
+                .added = sorted(field->added),
+                .removed = sorted(field->removed) });
+    return summaries;
+}
+
+}  // namespace Quorbel
