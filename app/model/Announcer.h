@@ -26,6 +26,7 @@ enum class Change {
     selection,
     primary,
     unreadSelected,
+    selectedKeywords,
     edits,
     unsavedCount,
     details,

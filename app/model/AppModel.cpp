@@ -53,6 +53,7 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
     , m_library(m_announcer, m_tasks, m_services.service, m_preferences.sortOrder(), m_cache)
     , m_selected(m_announcer, m_library.photos())
     , m_selectedDetails(m_library.photos(), m_selected, [this](const QUrl& photo) { return details(photo); })
+    , m_selectedKeywords(m_announcer, m_library.photos(), m_selected)
     , m_left(m_announcer, m_services.leftEditsPath, m_services.keepInterval)
     , m_editing(m_announcer, m_library.photos(), m_selected, m_selectedDetails, m_left)
     , m_saving(m_announcer, m_tasks, m_library.refresh(), m_services.service, m_services.journalPath,
@@ -105,6 +106,8 @@ void AppModel::connectParts()
     connect(&refresh, &FolderRefresh::added, this, &AppModel::selectWhereNone);
     connect(this, &AppModel::selectionChanged, this, &AppModel::updateUnread);
     connect(this, &AppModel::recordsChanged, this, &AppModel::updateUnread);
+    for (const auto signal : { &AppModel::selectionChanged, &AppModel::recordsChanged })
+        connect(this, signal, &m_selectedKeywords, &SelectedKeywords::update);
     connect(this, &AppModel::detailsChanged, this, [this] {
         m_selectedDetails.forget();
         m_editing.takeDetails();
@@ -149,6 +152,7 @@ void AppModel::tell(Change change)
         { Change::selection, &AppModel::selectionChanged },
         { Change::primary, &AppModel::primaryChanged },
         { Change::unreadSelected, &AppModel::unreadSelectedChanged },
+        { Change::selectedKeywords, &AppModel::selectedKeywordsChanged },
         { Change::edits, &AppModel::editsChanged },
         { Change::unsavedCount, &AppModel::unsavedCountChanged },
         { Change::details, &AppModel::detailsChanged },

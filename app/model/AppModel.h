@@ -14,6 +14,7 @@
 #include "app/model/library/FolderNames.h"
 #include "app/model/library/Library.h"
 #include "app/model/saving/Saving.h"
+#include "app/model/selection/SelectedKeywords.h"
 #include "app/model/selection/SelectedPhotos.h"
 #include "core/schema/PhotoDetails.h"
 
@@ -203,13 +204,15 @@ public:
     void takeFromPhotoBefore(const QString& key);
 
     // --- Keywords of many photos ---
-    struct KeywordCount {
-        QString keyword{};
-        int photos = 0;  ///< of the selected ones that were read
-        bool operator==(const KeywordCount&) const = default;
-    };
-    /// Keywords that the selected photos hold, the most frequent first, those of equal frequency by name.
+    using KeywordCount = Quorbel::KeywordCount;
+    /// Keywords that the selected photos hold, where several are selected: the most frequent first, those of equal
+    /// frequency by name. Of many photos they come a moment later, with selectedKeywordsChanged().
     const QList<KeywordCount>& selectedKeywords() const;
+    /// Of how many of the selected photos these are: of those that were read by then.
+    int selectedKeywordPhotos() const;
+    /// What of the batch differs from photo to photo, by key (a field's id, the key of a language or of a custom
+    /// field).
+    const QMap<QString, OwnSummary>& batchOwn() const { return editing().batchOwn(); }
     /// Items that the batch takes away, by field id.
     const QMap<QString, QStringList>& batchRemoved() const { return editing().batch().edits.removed; }
     /// The item is taken away from all selected photos with the next save.
@@ -349,6 +352,7 @@ signals:
     void selectionChanged();
     void primaryChanged();
     void unreadSelectedChanged();
+    void selectedKeywordsChanged();
     /// Something of the draft or the batch: values, marks, or which fields are on screen.
     void editsChanged();
     void unsavedCountChanged();
@@ -442,6 +446,7 @@ private:
     Library m_library;
     SelectedPhotos m_selected;
     SelectedDetails m_selectedDetails;
+    SelectedKeywords m_selectedKeywords;
     LeftBehind m_left;
     Editing m_editing;
     Saving m_saving;

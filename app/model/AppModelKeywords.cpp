@@ -5,12 +5,24 @@ namespace Quorbel {
 
 const QList<AppModel::KeywordCount>& AppModel::selectedKeywords() const
 {
-    static const QList<KeywordCount> none;
-    return none;
+    return checked(m_selectedKeywords).list();
 }
 
-void AppModel::takeBatchItemAway(const QString&, const QString&) { }
+int AppModel::selectedKeywordPhotos() const
+{
+    return checked(m_selectedKeywords).photos();
+}
 
-void AppModel::keepBatchItem(const QString&, const QString&) { }
+void AppModel::takeBatchItemAway(const QString& id, const QString& item)
+{
+    if (isBatch())
+        editing().takeBatchItemAway(id, item);
+}
+
+void AppModel::keepBatchItem(const QString& id, const QString& item)
+{
+    if (isBatch())
+        editing().keepBatchItem(id, item);
+}
 
 }  // namespace Quorbel
