@@ -1,5 +1,6 @@
 #include "core/save/Companions.h"
 
+#include "core/save/FileMove.h"
 #include "core/save/SaveGuard.h"
 #include "core/tool/ExifToolRunner.h"
 #include "core/tool/TemporaryConfig.h"
@@ -13,10 +14,6 @@
 #include <algorithm>
 
 #include <cerrno>
-#include <cstdio>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace Quorbel::Companions {
 
@@ -44,26 +41,6 @@ QString sourceArgument(const QString& photo)
     return photo.contains(u'%') ? u"%d%f"_s + photo.sliced(withoutExtension(photo).size()) : photo;
 }
 
-// Moves a file unless something has the new name already, in one step where the file system can do that.
-// Zero, or the system's error number.
-int moveWithoutReplacing(const QString& from, const QString& to)
-{
-    const QByteArray source = QFile::encodeName(from);
-    const QByteArray destination = QFile::encodeName(to);
-    if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, destination.constData(), RENAME_NOREPLACE) == 0)
-        return 0;
-    if (errno != EINVAL && errno != ENOSYS)
-        return errno;
-    // A second name and then the loss of the first is as safe, if the file system knows hard links.
-    if (link(source.constData(), destination.constData()) == 0)
-        return unlink(source.constData()) == 0 ? 0 : errno;
-    if (errno != EPERM && errno != EOPNOTSUPP && errno != ENOSYS)
-        return errno;
-    if (faccessat(AT_FDCWD, destination.constData(), F_OK, AT_SYMLINK_NOFOLLOW) == 0)
-        return EEXIST;
-    return std::rename(source.constData(), destination.constData()) == 0 ? 0 : errno;
-}
-
 // Whether the folder lists the file under just this name: where names do not differ by case, a file answers to others
 // as well, and not always with the same inode.
 bool isListed(const QString& path)
@@ -82,18 +59,18 @@ bool isListed(const QString& path)
 int changeCase(const QString& from, const QString& to)
 {
     const QString between = from + u"_renaming"_s;
-    if (const int error = moveWithoutReplacing(from, between))
+    if (const int error = FileMove::withoutReplacing(from, between))
         return error;
-    const int error = moveWithoutReplacing(between, to);
+    const int error = FileMove::withoutReplacing(between, to);
     if (error)
-        moveWithoutReplacing(between, from);
+        FileMove::withoutReplacing(between, from);
     return error;
 }
 
 // A photo or one of its companions.
 int move(const QString& from, const QString& to)
 {
-    const int error = moveWithoutReplacing(from, to);
+    const int error = FileMove::withoutReplacing(from, to);
     const bool differsByCase = from.compare(to, Qt::CaseInsensitive) == 0;
     return error == EEXIST && differsByCase && !isListed(to) ? changeCase(from, to) : error;
 }

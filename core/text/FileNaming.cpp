@@ -92,10 +92,15 @@ const QList<Token>& tokens()
 
 QString render(const QString& pattern, const QMap<QString, QString>& values, bool strict)
 {
-    static const QRegularExpression underscores(u"_+"_s);
     QString name = pattern;
     for (const Token& token : tokens())
         name.replace(token.placeholder, sanitizeComponent(values.value(token.placeholder), strict));
+    return tidied(name);
+}
+
+QString tidied(QString name)
+{
+    static const QRegularExpression underscores(u"_+"_s);
     name = withoutAtEnds(name.replace(underscores, u"_"_s), u"_-. ");
     return name.isEmpty() ? u"untitled"_s : name;
 }

@@ -133,6 +133,13 @@ void SaveHistory::storeRenames()
     m_pending.remove(0, pending.size());
 }
 
+void SaveHistory::noteRenamesTogether(const QString& id, const QList<std::pair<QString, QString>>& renames)
+{
+    storeRenames();
+    const std::scoped_lock lock(m_mutex);
+    m_journal.noteRenamesTogether(id, renames);
+}
+
 QList<QUrl> SaveHistory::photosOf(qint64 number)
 {
     storeRenames();

@@ -41,6 +41,8 @@ public:
     Undoable addUnknown();
     /// A photo got another name. Takes effect before the next look at the journal.
     void noteRename(const QString& from, const QString& to);
+    /// Photos got other names, all at once (SaveJournal::noteRenamesTogether). Waits for the journal.
+    void noteRenamesTogether(const QString& id, const QList<std::pair<QString, QString>>& renames);
     /// Brings the journal itself up to date with the renames.
     void storeRenames();
 

@@ -11,6 +11,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
+#include <QSet>
 #include <QUtf8StringView>
 
 #include <algorithm>
@@ -134,6 +135,8 @@ JournalEntry entryFrom(const QJsonValue& value)
 // What happened to photos since some save: other names, and files that an undo has put back.
 struct Note {
     QList<std::pair<QString, QString>> renames{};
+    bool areTogether = false;  ///< all renames at once, not one after the other
+    QString id{};  ///< of such: a note that is there twice counts once
     QList<JournalFile> restored{};  ///< `before`: as the undone save had found it; `after`: as it is now; no tags
 };
 
@@ -145,13 +148,15 @@ QJsonObject toJson(const Note& note)
     QJsonArray restored;
     for (const JournalFile& file : note.restored)
         restored.append(toJson(file));
+    if (note.areTogether)
+        return { { u"together"_s, renames }, { u"id"_s, note.id } };
     return { { u"renames"_s, renames }, { u"restored"_s, restored } };
 }
 
 Note noteFrom(const QJsonValue& value)
 {
-    Note note;
-    for (const auto& rename : value[u"renames"_s].toArray())
+    Note note{ .areTogether = value[u"together"_s].isArray(), .id = value[u"id"_s].toString() };
+    for (const auto& rename : value[note.areTogether ? u"together"_s : u"renames"_s].toArray())
         note.renames.append({ rename[0].toString(), rename[1].toString() });
     for (const auto& file : value[u"restored"_s].toArray())
         note.restored.append(fileFrom(file));
@@ -169,6 +174,20 @@ void follow(JournalFile& file, const std::pair<QString, QString>& rename)
         file.sidecar.path = Companions::sidecarPath(to);
 }
 
+void followTogether(QList<JournalFile>& files, const QList<std::pair<QString, QString>>& renames)
+{
+    QHash<QString, QString> names;
+    for (const auto& [from, to] : renames) {
+        names.insert(from, to);
+        // Of photos that share a sidecar the first one takes it along.
+        if (const QString sidecar = Companions::sidecarPath(from); !names.contains(sidecar))
+            names.insert(sidecar, Companions::sidecarPath(to));
+    }
+    for (JournalFile& file : files)
+        for (QString* path : { &file.path, &file.link, &file.sidecar.path })
+            *path = names.value(*path, *path);
+}
+
 // A file that an undo has put back is again what the earlier save left, where the undone save had found it so.
 void takeBack(JournalFile& earlier, const JournalFile& restored)
 {
@@ -184,6 +203,8 @@ void apply(const Note& note, JournalEntry& entry)
     QHash<QString, const JournalFile*> restored;
     for (const JournalFile& file : note.restored)
         restored.insert(file.path, &file);
+    if (note.areTogether)
+        return followTogether(entry.files, note.renames);
     for (JournalFile& file : entry.files) {
         for (const auto& rename : note.renames)
             follow(file, rename);
@@ -268,9 +289,14 @@ std::optional<JournalEntry> SaveJournal::load(qint64 number) const
     if (object.isEmpty())
         return std::nullopt;
     JournalEntry entry = entryFrom(object);
-    for (const qint64 later : numbers(m_folder, noteSuffix))
-        if (later > number)
-            apply(noteFrom(objectIn(pathOf(m_folder, later, noteSuffix))), entry);
+    QSet<QString> applied;
+    for (const qint64 later : numbers(m_folder, noteSuffix)) {
+        const Note note = later > number ? noteFrom(objectIn(pathOf(m_folder, later, noteSuffix))) : Note();
+        if (!note.id.isEmpty() && applied.contains(note.id))
+            continue;
+        applied.insert(note.id);
+        apply(note, entry);
+    }
     return entry;
 }
 
@@ -287,6 +313,12 @@ std::optional<qint64> SaveJournal::add(const JournalEntry& entry) const
 bool SaveJournal::noteRenames(const QList<std::pair<QString, QString>>& renames) const
 {
     return saves().isEmpty() || append(m_folder, noteSuffix, toJson(Note{ .renames = renames }));
+}
+
+bool SaveJournal::noteRenamesTogether(const QString& id, const QList<std::pair<QString, QString>>& renames) const
+{
+    return saves().isEmpty()
+        || append(m_folder, noteSuffix, toJson(Note{ .renames = renames, .areTogether = true, .id = id }));
 }
 
 bool SaveJournal::removeUndone(qint64 number, const JournalEntry& undone, const JournalEntry& rest) const

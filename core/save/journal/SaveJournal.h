@@ -30,6 +30,8 @@ public:
     std::optional<qint64> add(const JournalEntry& entry) const;
     /// Photos got other names (from, to), one after the other. False when the file system refuses.
     bool noteRenames(const QList<std::pair<QString, QString>>& renames) const;
+    /// The same all at once, so that photos may have swapped their names. What is noted twice under one id counts once.
+    bool noteRenamesTogether(const QString& id, const QList<std::pair<QString, QString>>& renames) const;
     /// After a save was undone in the files of `undone`; those of `rest` wait for another attempt. Files that it had
     /// found as an earlier save left them are, as they now stand, again what that earlier save left.
     bool removeUndone(qint64 number, const JournalEntry& undone, const JournalEntry& rest) const;

@@ -581,6 +581,11 @@ private slots:
         QCOMPARE(journal.load(saves.at(saves.size() - 2))->files[0].after, FileStamp::of(photo).value());
         QVERIFY(journal.noteRenames({ { photo, u"/there.jpg"_s }, { u"/there.jpg"_s, u"/elsewhere.jpg"_s } }));
         QCOMPARE(journal.load(saves.constFirst())->files[0].path, u"/elsewhere.jpg"_s);
+        // Two that swap their names, told twice.
+        for (int times = 0; times < 2; ++times)
+            QVERIFY(journal.noteRenamesTogether(
+                u"id"_s, { { u"/elsewhere.jpg"_s, u"/x.jpg"_s }, { u"/x.jpg"_s, u"/elsewhere.jpg"_s } }));
+        QCOMPARE(journal.load(saves.constFirst())->files[0].path, u"/x.jpg"_s);
         // A later save of a photo with the old name is another photo's.
         QCOMPARE(journal.load(journal.add(entryOf(1)).value())->files[0].path, photo);
 
