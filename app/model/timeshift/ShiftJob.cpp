@@ -1,0 +1,240 @@
+#include "app/model/timeshift/ShiftJob.h"
+
+#include "app/model/library/PhotoReader.h"
+#include "app/model/saving/ReplacedFilesPoll.h"
+#include "app/model/saving/SaveReasons.h"
+#include "core/save/Companions.h"
+#include "core/save/SafeWriter.h"
+#include "core/save/SaveGuard.h"
+#include "core/text/Text.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace Quorbel::ShiftJob {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// As the journal wants to be told of it.
+EditPlan planOf(const PhotoShift& photo)
+{
+    EditPlan plan;
+    plan.together.insert(u"date"_s, photo.assignments);
+    return plan;
+}
+
+// What one write is given: the targets that are asked the same.
+struct Portion {
+    QList<Assignment> assignments{};
+    QList<QUrl> targets{};
+};
+
+QList<Portion> portions(const QList<QUrl>& targets, const QHash<QUrl, PhotoShift>& photos)
+{
+    QList<Portion> portions;
+    QHash<QStringList, qsizetype> known;
+    for (const QUrl& target : targets) {
+        const QList<Assignment> assignments = photos.value(target).assignments;
+        const QStringList key = arguments(assignments);
+        const qsizetype at = known.value(key, portions.size());
+        if (at == portions.size()) {
+            known.insert(key, at);
+            portions.append({ assignments, {} });
+        }
+        portions[at].targets.append(target);
+    }
+    return portions;
+}
+
+// The tool is given the files behind symbolic links and names those; told of the targets that stand for them.
+QList<FileFailure> namedFailures(const ToolError& error, const QList<QUrl>& targets)
+{
+    const QList<QUrl> files = SaveGuard::filesBehindLinks(targets);
+    const QList<FileFailure> named = writeFailures(error, files);
+    QList<FileFailure> failures;
+    for (const FileFailure& failure : named)
+        for (qsizetype i = 0; i < files.size(); ++i)
+            if (files.at(i) == failure.file)
+                failures.append({ targets.at(i), failure.reason });
+    return failures;
+}
+
+void write(const MetadataService& service, const Portion& portion, const WriteOptions& options, Written& written)
+{
+    try {
+        SafeWriter::write(service.runner, { .assignments = portion.assignments }, portion.targets,
+            options.backupOriginals, {}, {}, &written.notes);
+    } catch (const ToolError& error) {
+        written.failures += namedFailures(error, portion.targets);
+    } catch (const Error& error) {
+        for (const QUrl& target : portion.targets)
+            written.failures.append({ target, error.description() });
+    }
+    // They take over what the photos hold by then: a shift of their own would be a second one.
+    if (options.writeSidecar)
+        written.notes.sidecars += Companions::writeSidecars(service.runner, {}, portion.targets, {});
+}
+
+// By target.
+void look(const Order& order, const OldValues& values, Written& written)
+{
+    const QList<QUrl> files = SaveGuard::filesBehindLinks(order.targets);
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        const QUrl& target = order.targets.at(i);
+        const auto held = values.constFind(QFile::encodeName(files.at(i).toLocalFile()));
+        if (held == values.cend()) {
+            written.failures.append({ target, u"cannot be read any more"_s });
+            continue;
+        }
+        written.before.insert(target, PhotoShift::among(*held));
+        written.photos.insert(target, PhotoShift::of(order.shifts.value(target), *held));
+    }
+}
+
+// Those that are asked anything.
+QList<QUrl> changed(const Order& order, const Written& written)
+{
+    QList<QUrl> targets = order.targets;
+    targets.removeIf([&written](const QUrl& target) {
+        const auto photo = written.photos.constFind(target);
+        return photo == written.photos.cend() || photo->assignments.isEmpty();
+    });
+    return targets;
+}
+
+void runAll(const MetadataService& service, const Order& order, const std::shared_ptr<SaveHistory>& history,
+    TaskProgress& progress, const std::stop_token& stop, Written& written)
+{
+    const OldValues values =
+        service.oldValues(PhotoShift::tags(), order.targets, { .progress = {}, .stop = stop, .started = {} });
+    look(order, values, written);
+    const QList<QUrl> targets = changed(order, written);
+    // All or none: a read-only photo is found before any other is written.
+    SaveGuard::requireWritable(SaveGuard::filesBehindLinks(targets));
+    const auto plan = [&written](const QUrl& target) { return planOf(written.photos.value(target)); };
+    const JournalEntry entry = history ? SaveUndo::journalEntry(values, plan, targets, order.options) : JournalEntry();
+    {
+        const ReplacedFilesPoll poll(targets, progress.done);
+        for (const Portion& portion : portions(targets, written.photos))
+            write(service, portion, order.options, written);
+    }
+    if (history)
+        written.undoable = history->add(entry);
+}
+
+QString counted(qsizetype count, qsizetype all)
+{
+    return u"%1 of %2 photos: "_s.arg(count).arg(all);
+}
+
+QString named(const QList<FileFailure>& failures)
+{
+    QStringList names;
+    for (const FileFailure& failure : failures)
+        names.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
+    return Text::listed(names);
+}
+
+QString namedTags(const QMap<QString, QStringList>& tagsByName)
+{
+    QStringList names;
+    for (auto it = tagsByName.cbegin(); it != tagsByName.cend(); ++it)
+        names.append(u"%1 (%2)"_s.arg(it.key(), it->join(u", "_s)));
+    return Text::listed(names);
+}
+
+}  // namespace
+
+Written run(const MetadataService& service, const Order& order, const std::shared_ptr<SaveHistory>& history,
+    TaskProgress& progress, const std::stop_token& stop)
+{
+    Written written;
+    try {
+        runAll(service, order, history, progress, stop, written);
+    } catch (const ToolError& error) {
+        written.error = toolReason(error);
+    } catch (const Error& error) {
+        written.error = error.description();
+    } catch (const std::exception& error) {
+        written.error = QString::fromUtf8(error.what());
+    }
+    return written;
+}
+
+Checked check(const MetadataService& service, const Order& order, const Written& written, const QSet<QUrl>& tooSlow,
+    TaskProgress& progress, const std::stop_token& stop, const std::shared_ptr<RecordCache>& cache)
+{
+    Checked checked;
+    QList<QUrl> readable = order.targets;
+    readable.removeIf([&tooSlow](const QUrl& target) { return tooSlow.contains(target); });
+    const PhotoReader::Result read = PhotoReader::read(service, readable, progress, stop, cache);
+    checked.error = read.error;
+    if (read.error)
+        return checked;
+    checked.records = read.records;
+    readable.clear();
+    for (const ImageRecord& record : read.records)
+        readable.append(record.url);
+    QHash<QUrl, FileTags> now;
+    try {
+        now = service.stored(PhotoShift::tags(), readable, { .progress = {}, .stop = stop, .started = {} });
+    } catch (const std::exception& error) {
+        checked.error = QString::fromUtf8(error.what());
+        return checked;
+    }
+    QHash<QUrl, QString> reasons;
+    for (const FileFailure& failure : written.failures)
+        reasons.insert(failure.file, failure.reason);
+    for (const QUrl& target : order.targets) {
+        const auto photo = written.photos.constFind(target);
+        const auto found = now.constFind(target);
+        const bool isKnown = photo != written.photos.cend() && found != now.cend();
+        const QStringList differences = isKnown ? photo->differences(*found) : QStringList();
+        if (!isKnown || (!differences.isEmpty() && PhotoShift::among(*found) == written.before.value(target)))
+            checked.failures.append({ target,
+                reasons.value(target,
+                    tooSlow.contains(target) ? u"reading it back took too long"_s
+                        : isKnown            ? u"not written"_s
+                                             : u"cannot be read any more"_s) });
+        else if (!differences.isEmpty())
+            checked.differing.insert(target.fileName(), differences);
+    }
+    return checked;
+}
+
+std::optional<QString> message(const Order& order, const Written& written, const Checked& checked)
+{
+    const qsizetype all = order.targets.size();
+    const QString what = order.setsZone() ? u"Could not set the zone"_s : u"Could not shift the time"_s;
+    if (written.error)
+        return what + u": "_s + *written.error;
+    if (checked.error)
+        return u"Could not read metadata: "_s + *checked.error;
+    QStringList texts;
+    if (!checked.failures.isEmpty())
+        texts.append(what + u" of "_s + counted(checked.failures.size(), all) + named(checked.failures));
+    if (!checked.differing.isEmpty())
+        texts.append(u"Times read back differently in "_s + counted(checked.differing.size(), all)
+            + namedTags(checked.differing));
+    QMap<QString, QStringList> alone;
+    QStringList zoneless;
+    for (const QUrl& target : order.targets) {
+        const PhotoShift photo = written.photos.value(target);
+        if (!photo.leftAlone.isEmpty())
+            alone.insert(target.fileName(), photo.leftAlone);
+        if (photo.hasNoZone)
+            zoneless.append(target.fileName());
+    }
+    if (!zoneless.isEmpty())
+        texts.append(u"Left alone for want of a time zone: "_s + Text::listed(zoneless));
+    if (!alone.isEmpty())
+        texts.append(u"Dates without a full day and time were left alone: "_s + namedTags(alone));
+    if (const QString notes = SaveReasons::notesText(written.notes); !notes.isEmpty())
+        texts.append(notes);
+    return texts.isEmpty() ? std::nullopt : std::optional(texts.join(u". "_s));
+}
+
+}  // namespace Quorbel::ShiftJob

@@ -1,0 +1,308 @@
+// Times that are shifted and zones that are set: photos of all formats with every kind of date, all their tags compared
+// before and after; and Undo Save gives every one of them back.
+#include "app/model/TaskProgress.h"
+#include "app/model/timeshift/ShiftJob.h"
+#include "core/text/StoredTime.h"
+#include "core/text/ZoneOffset.h"
+#include "tests/support/RealService.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Texts = QMap<QString, QString>;  // by tag, as it is read
+
+// As cameras, phones and captioners leave them.
+const Texts& everyDate()
+{
+    static const Texts tags{ { "IFD0:ModifyDate", "2020:02:28 23:30:10" },
+        { "ExifIFD:DateTimeOriginal", "2020:02:28 23:30:10" }, { "ExifIFD:CreateDate", "2020:02:28 23:30:12" },
+        { "ExifIFD:SubSecTimeOriginal", "050" }, { "ExifIFD:OffsetTimeOriginal", "+05:30" },
+        { "IPTC:DateCreated", "2020:02:28" }, { "IPTC:TimeCreated", "23:30:10+05:30" },
+        { "IPTC:DigitalCreationDate", "2020:02:28" }, { "IPTC:DigitalCreationTime", "23:30:12+05:30" },
+        { "XMP-exif:DateTimeOriginal", "2020:02:28 23:30:10.050+05:30" },
+        { "XMP-exif:DateTimeDigitized", "2020:02:28 18:00:12Z" },
+        { "XMP-photoshop:DateCreated", "2020:02:28 23:30:10" }, { "XMP-xmp:CreateDate", "2020:02:28 23:30" },
+        { "XMP-xmp:ModifyDate", "2021:01:01 00:00:00" }, { "GPS:GPSDateStamp", "2020:02:28" },
+        { "GPS:GPSTimeStamp", "18:00:10" } };
+    return tags;
+}
+
+// Dates that cannot be moved beside some that can.
+const Texts oddDates{ { "ExifIFD:DateTimeOriginal", "0000:00:00 00:00:00" },
+    { "ExifIFD:CreateDate", "2020:02:28 23:30:12" }, { "IFD0:ModifyDate", "2021:03:04 05:06:07" },
+    { "IPTC:DateCreated", "2019:01:01" }, { "XMP-photoshop:DateCreated", "2020" },
+    { "XMP-xmp:CreateDate", "2020:02" } };
+// A day without a time, times without zones, and old ones.
+const Texts bareDates{ { "ExifIFD:DateTimeOriginal", "1903:12:31 23:30:00" }, { "IPTC:DateCreated", "1903:12:31" },
+    { "IPTC:DigitalCreationDate", "2020:12:31" }, { "IPTC:DigitalCreationTime", "23:59:59+00:00" },
+    { "XMP-photoshop:DateCreated", "1903:12:31" } };
+const Texts xmpDates{ { "XMP-photoshop:DateCreated", "2020:03:29 02:15:00" } };
+
+struct Made {
+    QString name;
+    Texts tags;
+};
+
+const QList<Made>& photos()
+{
+    static const QList<Made> all{ { u"all.jpg"_s, everyDate() }, { u"all.tif"_s, everyDate() },
+        { u"all.png"_s, everyDate() }, { u"all.webp"_s, everyDate() }, { u"odd.jpg"_s, oddDates },
+        { u"bare.jpg"_s, bareDates }, { u"xmp.jpg"_s, xmpDates }, { u"nothing.jpg"_s, {} } };
+    return all;
+}
+
+QStringList argumentsFor(const Texts& tags, const QString& path)
+{
+    QStringList arguments{ u"-q"_s, u"-q"_s, u"-m"_s, u"-overwrite_original"_s };
+    for (auto tag = tags.cbegin(); tag != tags.cend(); ++tag)
+        arguments << u'-' + tag.key() + (tag->startsWith(u"0000") ? u"#="_s : u"="_s) + *tag;
+    return arguments << path << u"-execute"_s;
+}
+
+// Made once, in one run, and copied for each row.
+class Master {
+public:
+    Master()
+    {
+        QStringList arguments;
+        for (const Made& made : photos())
+            arguments += argumentsFor(made.tags, m_folder.add(made.name).toLocalFile());
+        const QString real = qEnvironmentVariable("QUORBEL_TEST_PHOTOS") + u"/valid/"_s;
+        for (const QString& name : { u"testHEIF.heic"_s, u"1x1_exif_xmp.jxl"_s, u"testDNG.dng"_s })
+            if (QFile::exists(real + name))
+                arguments += argumentsFor(everyDate(), m_folder.add(name, readFile(real + name)).toLocalFile());
+        exiftool(arguments);
+    }
+    QList<QUrl> copyTo(const PhotoFolder& folder, const QString& suffix) const
+    {
+        QList<QUrl> urls;
+        for (const QString& name : m_folder.names()) {
+            if (!name.endsWith(suffix))
+                continue;
+            QFile::copy(m_folder.path(name), folder.path(name));
+            urls.append(folder.url(name));
+        }
+        return urls;
+    }
+
+private:
+    PhotoFolder m_folder;
+};
+
+const Master& master()
+{
+    static const Master made;
+    return made;
+}
+
+using Dump = QMap<QString, FileTags>;  // by file name
+
+// Without what tells of the file itself, and of where things lie in it.
+Dump dump(const PhotoFolder& folder)
+{
+    static const QRegularExpression frame(
+        uR"(^(System|File|ExifTool|XMP-x|Quicktime|RIFF):|:(IPTCDigest|Warning)$|Offsets?$|ImageStart$)"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    Dump files;
+    const auto read = TagDump::parse(realTool().readDump(
+        TagDump::options() << u"-x"_s << u"Composite:all"_s, { QUrl::fromLocalFile(folder.path()) }));
+    for (auto it = read.cbegin(); it != read.cend(); ++it) {
+        FileTags tags = *it;
+        tags.removeIf([](const auto& tag) { return frame.match(tag.key()).hasMatch(); });
+        files.insert(QString::fromUtf8(it.key()).section(u'/', -1), tags);
+    }
+    return files;
+}
+
+// "a.jpg: XMP-dc:Title should be [One], is [Two]", for whatever is not as expected.
+QStringList differences(const Dump& expected, const Dump& found)
+{
+    QStringList texts;
+    for (auto file = expected.cbegin(); file != expected.cend(); ++file) {
+        const FileTags now = found.value(file.key());
+        QStringList keys = file->keys() + now.keys();
+        keys.removeDuplicates();
+        for (const QString& key : std::as_const(keys))
+            if (const auto wanted = file->value(key), is = now.value(key); wanted != is)
+                texts.append(u"%1: %2 should be [%3], is [%4]"_s.arg(
+                    file.key(), key, QString::fromUtf8(wanted.join("][")), QString::fromUtf8(is.join("]["))));
+    }
+    return texts;
+}
+
+// By the tags that a photo was made with: what they are to hold. All else stays.
+struct Wanted {
+    Texts every{};
+    Texts odd{};
+    Texts bare{};
+    Texts xmp{};
+};
+
+void put(FileTags& tags, const Texts& wanted)
+{
+    // What the format has no place for was not there before either; the zones are new.
+    for (auto tag = wanted.cbegin(); tag != wanted.cend(); ++tag)
+        if (tags.contains(tag.key()) || tag.key().contains(u":OffsetTime"))
+            tags[tag.key()] = { tag->toUtf8() };
+}
+
+}  // namespace
+
+Q_DECLARE_METATYPE(TimeShift)
+Q_DECLARE_METATYPE(Wanted)
+
+class tst_TimeShift : public QObject {
+    Q_OBJECT
+
+private slots:
+    void readsTimesToTheLetter_data();
+    void readsTimesToTheLetter();
+    void allDatesMoveAndNothingElse_data();
+    void allDatesMoveAndNothingElse();
+};
+
+void tst_TimeShift::readsTimesToTheLetter_data()
+{
+    QTest::addColumn<bool>("isTime");
+    for (const char* text : { "2024:02:29 23:59:59", "2024:05:06 14:30", "2024:05:06 14:30:15.050+02:00",
+             "0001:01:01 00:00:00Z", "9999:12:31 23:59:59.9-12:45" })
+        QTest::newRow(text) << true;
+    for (const char* text : { "0000:00:00 00:00:00", "2023:02:29 10:00:00", "2024:05:06", "2024", "2024:05:06 24:00:00",
+             "2024-05-06 14:30:15", "2024:05:06 14:30:15 ", "2024:05:06 14:30:15+2", "2024:05:06 14:30.5",
+             "    :  :     :  :  ", "2024:05:06T14:30:15", "", "2024:05:06 14:30:15+99:00 " })
+        QTest::newRow(text) << false;
+}
+
+void tst_TimeShift::readsTimesToTheLetter()
+{
+    QFETCH(bool, isTime);
+    const QString text = QString::fromLatin1(QTest::currentDataTag());
+    const auto time = StoredTime::from(text);
+    QCOMPARE(time.has_value(), isTime);
+    if (time)
+        QCOMPARE(time->text(), text);
+}
+
+void tst_TimeShift::allDatesMoveAndNothingElse_data()
+{
+    QTest::addColumn<TimeShift>("shift");
+    QTest::addColumn<Wanted>("wanted");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<bool>("isUndone");
+    const QString odd = u"Dates without a full day and time were left alone: odd.jpg (EXIF:DateTimeOriginal, "
+                        "XMP-photoshop:DateCreated, IPTC:DateCreated, XMP-xmp:CreateDate)"_s;
+
+    QTest::newRow("over a leap day, and the end of a year")
+        << TimeShift{ .seconds = 3750 }
+        << Wanted{ { { "IFD0:ModifyDate", "2020:02:29 00:32:40" },
+                       { "ExifIFD:DateTimeOriginal", "2020:02:29 00:32:40" },
+                       { "ExifIFD:CreateDate", "2020:02:29 00:32:42" }, { "IPTC:DateCreated", "2020:02:29" },
+                       { "IPTC:TimeCreated", "00:32:40+05:30" }, { "IPTC:DigitalCreationDate", "2020:02:29" },
+                       { "IPTC:DigitalCreationTime", "00:32:42+05:30" },
+                       { "XMP-exif:DateTimeOriginal", "2020:02:29 00:32:40.050+05:30" },
+                       { "XMP-exif:DateTimeDigitized", "2020:02:28 19:02:42Z" },
+                       { "XMP-photoshop:DateCreated", "2020:02:29 00:32:40" },
+                       { "XMP-xmp:CreateDate", "2020:02:29 00:32" } },
+               { { "ExifIFD:CreateDate", "2020:02:29 00:32:42" } },
+               { { "ExifIFD:DateTimeOriginal", "1904:01:01 00:32:30" }, { "IPTC:DateCreated", "1904:01:01" },
+                   { "IPTC:DigitalCreationDate", "2021:01:01" }, { "IPTC:DigitalCreationTime", "01:02:29+00:00" },
+                   { "XMP-photoshop:DateCreated", "1904:01:01" } },
+               { { "XMP-photoshop:DateCreated", "2020:03:29 03:17:30" } } }
+        << odd << true;
+    QTest::newRow("many days and half a minute earlier")
+        << TimeShift{ .seconds = -(60 * 24 * 3600LL + 30) }
+        << Wanted{ { { "IFD0:ModifyDate", "2019:12:30 23:29:40" },
+                       { "ExifIFD:DateTimeOriginal", "2019:12:30 23:29:40" },
+                       { "ExifIFD:CreateDate", "2019:12:30 23:29:42" }, { "IPTC:DateCreated", "2019:12:30" },
+                       { "IPTC:TimeCreated", "23:29:40+05:30" }, { "IPTC:DigitalCreationDate", "2019:12:30" },
+                       { "IPTC:DigitalCreationTime", "23:29:42+05:30" },
+                       { "XMP-exif:DateTimeOriginal", "2019:12:30 23:29:40.050+05:30" },
+                       { "XMP-exif:DateTimeDigitized", "2019:12:30 17:59:42Z" },
+                       { "XMP-photoshop:DateCreated", "2019:12:30 23:29:40" },
+                       { "XMP-xmp:CreateDate", "2019:12:30 23:29" } },
+               { { "ExifIFD:CreateDate", "2019:12:30 23:29:42" } },
+               { { "ExifIFD:DateTimeOriginal", "1903:11:01 23:29:30" }, { "IPTC:DateCreated", "1903:11:01" },
+                   { "IPTC:DigitalCreationDate", "2020:11:01" }, { "IPTC:DigitalCreationTime", "23:59:29+00:00" },
+                   { "XMP-photoshop:DateCreated", "1903:11:01" } },
+               { { "XMP-photoshop:DateCreated", "2020:01:29 02:14:30" } } }
+        << odd << false;
+    QTest::newRow("another zone, the clock stays")
+        << TimeShift{ .zone = -210 }
+        << Wanted{ { { "ExifIFD:OffsetTimeOriginal", "-03:30" }, { "ExifIFD:OffsetTimeDigitized", "-03:30" },
+                       { "ExifIFD:OffsetTime", "-03:30" }, { "IPTC:TimeCreated", "23:30:10-03:30" },
+                       { "IPTC:DigitalCreationTime", "23:30:12-03:30" },
+                       { "XMP-exif:DateTimeOriginal", "2020:02:28 23:30:10.050-03:30" },
+                       { "XMP-exif:DateTimeDigitized", "2020:02:28 23:30:12-03:30" } },
+               { { "ExifIFD:OffsetTimeDigitized", "-03:30" } },
+               { { "ExifIFD:OffsetTimeOriginal", "-03:30" }, { "IPTC:DigitalCreationTime", "23:59:59-03:30" } },
+               { { "XMP-photoshop:DateCreated", "2020:03:29 02:15:00-03:30" } } }
+        << odd << false;
+    QTest::newRow("another zone, the moment stays")
+        << TimeShift{ .zone = 480, .keepsClock = false }
+        << Wanted{ { { "ExifIFD:OffsetTimeOriginal", "+08:00" }, { "ExifIFD:OffsetTimeDigitized", "+08:00" },
+                       { "ExifIFD:OffsetTime", "+08:00" }, { "IFD0:ModifyDate", "2020:02:29 02:00:10" },
+                       { "ExifIFD:DateTimeOriginal", "2020:02:29 02:00:10" },
+                       { "ExifIFD:CreateDate", "2020:02:29 02:00:12" }, { "IPTC:DateCreated", "2020:02:29" },
+                       { "IPTC:TimeCreated", "02:00:10+08:00" }, { "IPTC:DigitalCreationDate", "2020:02:29" },
+                       { "IPTC:DigitalCreationTime", "02:00:12+08:00" },
+                       { "XMP-exif:DateTimeOriginal", "2020:02:29 02:00:10.050+08:00" },
+                       { "XMP-exif:DateTimeDigitized", "2020:02:29 02:00:12+08:00" },
+                       { "XMP-photoshop:DateCreated", "2020:02:29 02:00:10" },
+                       { "XMP-xmp:CreateDate", "2020:02:29 02:00" } },
+               {}, {}, {} }
+        << u"Left alone for want of a time zone: bare.jpg, nothing.jpg, odd.jpg, xmp.jpg"_s << false;
+}
+
+void tst_TimeShift::allDatesMoveAndNothingElse()
+{
+    QFETCH(TimeShift, shift);
+    QFETCH(Wanted, wanted);
+    QFETCH(QString, message);
+    QFETCH(bool, isUndone);
+    const PhotoFolder folder;
+    // The other formats once; with the slow tests always.
+    const bool isWhole = isUndone || qEnvironmentVariableIsSet("QUORBEL_SLOW_TESTS");
+    const QList<QUrl> targets = master().copyTo(folder, isWhole ? QString() : u".jpg"_s);
+    const Dump before = dump(folder);
+    ShiftJob::Order order{ .targets = targets };
+    for (const QUrl& target : targets)
+        order.shifts.insert(target, shift);
+    const PhotoFolder state;
+    const auto history = std::make_shared<SaveHistory>(state.path(u"undo"_s));
+    TaskProgress progress;
+
+    const ShiftJob::Written written = ShiftJob::run(realService(), order, history, progress, {});
+    QCOMPARE(written.error, std::nullopt);
+    const ShiftJob::Checked checked = ShiftJob::check(realService(), order, written, {}, progress, {});
+
+    Dump expected = before;
+    for (auto file = expected.begin(); file != expected.end(); ++file) {
+        const bool isOneOfAll = file.key().startsWith(u"all.") || !file.key().endsWith(u".jpg");
+        put(*file,
+            isOneOfAll                      ? wanted.every
+                : file.key() == u"odd.jpg"  ? wanted.odd
+                : file.key() == u"bare.jpg" ? wanted.bare
+                : file.key() == u"xmp.jpg"  ? wanted.xmp
+                                            : Texts());
+    }
+    const QStringList differing = differences(expected, dump(folder));
+    QVERIFY2(differing.isEmpty(), qPrintable(differing.join(u'\n')));
+    QCOMPARE(ShiftJob::message(order, written, checked).value_or(QString()), message);
+    QCOMPARE(checked.records.size(), targets.size());
+    if (!isUndone)
+        return;
+    QVERIFY(written.undoable && written.undoable->photos > 0);
+    const auto undone = history->undo(realService(), written.undoable->number, targets, progress);
+    QCOMPARE(SaveHistory::text(undone).value_or(QString()), QString());
+    QCOMPARE(differences(before, dump(folder)), QStringList());
+}
+
+QTEST_GUILESS_MAIN(tst_TimeShift)
+#include "tst_TimeShift.moc"
