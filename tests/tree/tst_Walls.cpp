@@ -53,6 +53,7 @@ const QList<Floor>& floors()
         { u"tools/map"_s, { u"tools/map"_s, u"platform/places/map"_s }, { u"QtCore"_s, u"QtSql"_s },
             { u"netcdf.h"_s } },
         { u"tools/places"_s, { u"tools/places"_s, u"platform/places/search"_s }, { u"QtCore"_s, u"QtSql"_s } },
+        { u"tools/zones"_s, { u"tools/zones"_s, u"platform/places/zones"_s }, { u"QtCore"_s } },
         { u"tools"_s, { u"ui"_s }, { u"QtCore"_s, u"QtGui"_s, u"QtWidgets"_s, u"QtTest"_s } },
     };
     return rows;

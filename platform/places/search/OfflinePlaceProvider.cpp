@@ -102,7 +102,8 @@ PlaceToken OfflinePlaceProvider::reverse(const GeoPoint& point, const QLocale&, 
 QString OfflinePlaceProvider::attribution() const
 {
     return u"Places: GeoNames (CC BY 4.0, modified), OurAirports, Natural Earth, i18n-iso-countries (MIT). "
-           "Map: GSHHG by Wessel & Smith (LGPL 3 or later), Natural Earth."_s;
+           "Map: GSHHG by Wessel & Smith (LGPL 3 or later), Natural Earth. "
+           "Time zones: © OpenStreetMap contributors (ODbL)."_s;
 }
 
 }  // namespace Quorbel

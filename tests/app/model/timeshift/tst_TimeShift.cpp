@@ -4,6 +4,7 @@
 #include "app/model/timeshift/ShiftJob.h"
 #include "core/text/StoredTime.h"
 #include "core/text/ZoneOffset.h"
+#include "platform/places/zones/TimeZones.h"
 #include "tests/support/RealService.h"
 
 #include <QDir>
@@ -166,6 +167,11 @@ private slots:
     void readsTimesToTheLetter();
     void allDatesMoveAndNothingElse_data();
     void allDatesMoveAndNothingElse();
+    void knowsTheZoneOfAPosition_data();
+    void knowsTheZoneOfAPosition();
+    void readsNoDamagedZones();
+    void knowsTheOffsetOfAClock_data();
+    void knowsTheOffsetOfAClock();
 };
 
 void tst_TimeShift::readsTimesToTheLetter_data()
@@ -196,6 +202,8 @@ void tst_TimeShift::allDatesMoveAndNothingElse_data()
     QTest::addColumn<Wanted>("wanted");
     QTest::addColumn<QString>("message");
     QTest::addColumn<bool>("isUndone");
+    QTest::addColumn<bool>("isOfAllFormats");
+    const bool isSlow = qEnvironmentVariableIsSet("QUORBEL_SLOW_TESTS");
     const QString odd = u"Dates without a full day and time were left alone: odd.jpg (EXIF:DateTimeOriginal, "
                         "XMP-photoshop:DateCreated, IPTC:DateCreated, XMP-xmp:CreateDate)"_s;
 
@@ -215,7 +223,7 @@ void tst_TimeShift::allDatesMoveAndNothingElse_data()
                    { "IPTC:DigitalCreationDate", "2021:01:01" }, { "IPTC:DigitalCreationTime", "01:02:29+00:00" },
                    { "XMP-photoshop:DateCreated", "1904:01:01" } },
                { { "XMP-photoshop:DateCreated", "2020:03:29 03:17:30" } } }
-        << odd << true;
+        << odd << isSlow << true;
     QTest::newRow("many days and half a minute earlier")
         << TimeShift{ .seconds = -(60 * 24 * 3600LL + 30) }
         << Wanted{ { { "IFD0:ModifyDate", "2019:12:30 23:29:40" },
@@ -232,7 +240,7 @@ void tst_TimeShift::allDatesMoveAndNothingElse_data()
                    { "IPTC:DigitalCreationDate", "2020:11:01" }, { "IPTC:DigitalCreationTime", "23:59:29+00:00" },
                    { "XMP-photoshop:DateCreated", "1903:11:01" } },
                { { "XMP-photoshop:DateCreated", "2020:01:29 02:14:30" } } }
-        << odd << false;
+        << odd << true << isSlow;
     QTest::newRow("another zone, the clock stays")
         << TimeShift{ .zone = -210 }
         << Wanted{ { { "ExifIFD:OffsetTimeOriginal", "-03:30" }, { "ExifIFD:OffsetTimeDigitized", "-03:30" },
@@ -243,7 +251,7 @@ void tst_TimeShift::allDatesMoveAndNothingElse_data()
                { { "ExifIFD:OffsetTimeDigitized", "-03:30" } },
                { { "ExifIFD:OffsetTimeOriginal", "-03:30" }, { "IPTC:DigitalCreationTime", "23:59:59-03:30" } },
                { { "XMP-photoshop:DateCreated", "2020:03:29 02:15:00-03:30" } } }
-        << odd << false;
+        << odd << isSlow << isSlow;
     QTest::newRow("another zone, the moment stays")
         << TimeShift{ .zone = 480, .keepsClock = false }
         << Wanted{ { { "ExifIFD:OffsetTimeOriginal", "+08:00" }, { "ExifIFD:OffsetTimeDigitized", "+08:00" },
@@ -257,7 +265,7 @@ void tst_TimeShift::allDatesMoveAndNothingElse_data()
                        { "XMP-photoshop:DateCreated", "2020:02:29 02:00:10" },
                        { "XMP-xmp:CreateDate", "2020:02:29 02:00" } },
                {}, {}, {} }
-        << u"Left alone for want of a time zone: bare.jpg, nothing.jpg, odd.jpg, xmp.jpg"_s << false;
+        << u"Left alone for want of a time zone: bare.jpg, nothing.jpg, odd.jpg, xmp.jpg"_s << isSlow << isSlow;
 }
 
 void tst_TimeShift::allDatesMoveAndNothingElse()
@@ -266,10 +274,9 @@ void tst_TimeShift::allDatesMoveAndNothingElse()
     QFETCH(Wanted, wanted);
     QFETCH(QString, message);
     QFETCH(bool, isUndone);
+    QFETCH(bool, isOfAllFormats);
     const PhotoFolder folder;
-    // The other formats once; with the slow tests always.
-    const bool isWhole = isUndone || qEnvironmentVariableIsSet("QUORBEL_SLOW_TESTS");
-    const QList<QUrl> targets = master().copyTo(folder, isWhole ? QString() : u".jpg"_s);
+    const QList<QUrl> targets = master().copyTo(folder, isOfAllFormats ? QString() : u".jpg"_s);
     const Dump before = dump(folder);
     ShiftJob::Order order{ .targets = targets };
     for (const QUrl& target : targets)
@@ -302,6 +309,81 @@ void tst_TimeShift::allDatesMoveAndNothingElse()
     const auto undone = history->undo(realService(), written.undoable->number, targets, progress);
     QCOMPARE(SaveHistory::text(undone).value_or(QString()), QString());
     QCOMPARE(differences(before, dump(folder)), QStringList());
+}
+
+void tst_TimeShift::knowsTheZoneOfAPosition_data()
+{
+    QTest::addColumn<double>("latitude");
+    QTest::addColumn<double>("longitude");
+    QTest::addColumn<QByteArray>("zone");
+    QTest::newRow("Zürich") << 47.3769 << 8.5417 << QByteArray("Europe/Zurich");
+    QTest::newRow("three kilometers over the border") << 47.6157 << 7.6706 << QByteArray("Europe/Berlin");
+    QTest::newRow("a village within another country") << 47.6963 << 8.6900 << QByteArray("Europe/Busingen");
+    QTest::newRow("half an hour beside its neighbors") << -31.9505 << 141.4533 << QByteArray("Australia/Broken_Hill");
+    QTest::newRow("east of the date line") << -13.8333 << -171.7667 << QByteArray("Pacific/Apia");
+    QTest::newRow("the same, counted eastward") << -13.8333 << 188.2333 << QByteArray("Pacific/Apia");
+    QTest::newRow("180° east") << -16.8 << 180.0 << QByteArray("Pacific/Fiji");
+    QTest::newRow("the south pole") << -90.0 << 0.0 << QByteArray("Antarctica/McMurdo");
+    QTest::newRow("the north pole") << 90.0 << 0.0 << QByteArray();
+    QTest::newRow("the open sea") << 40.0 << -40.0 << QByteArray();
+    QTest::newRow("nowhere") << 91.0 << 8.0 << QByteArray();
+    QTest::newRow("no number") << qQNaN() << 8.0 << QByteArray();
+}
+
+void tst_TimeShift::knowsTheZoneOfAPosition()
+{
+    QFETCH(double, latitude);
+    QFETCH(double, longitude);
+    static const auto zones = TimeZones::open(qEnvironmentVariable("QUORBEL_TEST_SHARE") + u"/places"_s);
+    if (!zones)
+        QSKIP("The time zones were not built.");
+    const TimeZone* zone = zones->at(latitude, longitude);
+    QTEST(zone ? zone->id : QByteArray(), "zone");
+}
+
+void tst_TimeShift::readsNoDamagedZones()
+{
+    const PhotoFolder folder;
+    const QString copy = folder.path(TimeZones::fileName());
+    QVERIFY(!TimeZones::open(folder.path()));
+    if (!QFile::copy(qEnvironmentVariable("QUORBEL_TEST_SHARE") + u"/places/"_s + TimeZones::fileName(), copy))
+        QSKIP("The time zones were not built.");
+    QFile file(copy);
+    QVERIFY(file.setPermissions(file.permissions() | QFile::WriteOwner) && file.resize(100'000));
+    // All of its rows but the southernmost lie beyond its end.
+    const auto zones = TimeZones::open(folder.path());
+    QVERIFY(zones);
+    QVERIFY(!zones->at(47.3769, 8.5417));
+    QVERIFY(file.resize(1000));
+    QVERIFY(!TimeZones::open(folder.path()));
+}
+
+void tst_TimeShift::knowsTheOffsetOfAClock_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<QString>("clock");
+    QTest::addColumn<std::optional<int>>("offset");
+    const QByteArray zurich = "Europe/Zurich";
+    QTest::newRow("winter") << zurich << u"2024-01-31T14:30:00"_s << std::optional(60);
+    QTest::newRow("the last minute of winter") << zurich << u"2024-03-31T01:59:00"_s << std::optional(60);
+    QTest::newRow("an hour that is skipped") << zurich << u"2024-03-31T02:30:00"_s << std::optional(60);
+    QTest::newRow("the first of summer") << zurich << u"2024-03-31T03:00:00"_s << std::optional(120);
+    QTest::newRow("an hour that comes twice") << zurich << u"2024-10-27T02:30:00"_s << std::optional(120);
+    QTest::newRow("winter again") << zurich << u"2024-10-27T03:00:00"_s << std::optional(60);
+    QTest::newRow("west, before it changes")
+        << QByteArray("America/New_York") << u"2024-03-10T01:59:00"_s << std::optional(-300);
+    QTest::newRow("west, after it") << QByteArray("America/New_York") << u"2024-03-10T03:00:00"_s
+                                    << std::optional(-240);
+    QTest::newRow("three quarters") << QByteArray("Asia/Kathmandu") << u"2024-01-31T14:30:00"_s << std::optional(345);
+    QTest::newRow("no such zone") << QByteArray("Europe/Atlantis") << u"2024-01-31T14:30:00"_s << std::optional<int>();
+    QTest::newRow("no such time") << zurich << u"2024-01-32T14:30:00"_s << std::optional<int>();
+}
+
+void tst_TimeShift::knowsTheOffsetOfAClock()
+{
+    QFETCH(QByteArray, zone);
+    QFETCH(QString, clock);
+    QTEST(TimeZones::offset(zone, QDateTime::fromString(clock + u'Z', Qt::ISODate)), "offset");
 }
 
 QTEST_GUILESS_MAIN(tst_TimeShift)
