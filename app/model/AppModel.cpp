@@ -74,7 +74,7 @@ AppModel::~AppModel() = default;
 void AppModel::makeTools()
 {
     m_pasting = std::make_unique<FieldPasting>(*this);
-    m_templates = std::make_unique<Templates>(*this);
+    m_templates = std::make_unique<Templates>(*this, m_services.templatesPath, [this] { return m_editing.unsaved(); });
     m_codes = std::make_unique<CodeReplacements>(*this);
     m_quickKeywords = std::make_unique<QuickKeywords>(*this);
     m_renaming = std::make_unique<PhotosRenaming>(*this);

@@ -1,6 +1,7 @@
 #include "app/shell/Menus.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/templates/Templates.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/window/ContentView.h"
@@ -177,6 +178,8 @@ void Menus::addEditMenu()
     addEditing(menu, u"&Copy"_s, QKeySequence::Copy, "copy", hasSelectedText);
     addEditing(menu, u"&Paste"_s, QKeySequence::Paste, "paste", canPaste);
     menu->addSeparator();
+    addTemplates(menu);
+    menu->addSeparator();
     add(menu, u"Select &All"_s, keysFor(QKeySequence::SelectAll, Qt::CTRL | Qt::Key_A), [this] {
         QWidget* focus = QApplication::focusWidget();
         if (isTextEditor(focus))
@@ -198,6 +201,41 @@ void Menus::fillBringBack()
         add(m_bringBack, literal(u"%1 — %2"_s.arg(left.at(i).names(), left.at(i).fields())), {},
             [this, i] { m_model.bringBack(i); });
     m_bringBack->menuAction()->setEnabled(!left.isEmpty());
+}
+
+void Menus::addTemplates(ThemedMenu* menu)
+{
+    m_templates = menu->addThemedMenu(u"Te&mplates"_s);
+    // Outlives the others of its menu, which are made anew.
+    m_saveAsTemplate = new QAction(u"Save as Template…"_s, this);
+    connect(m_saveAsTemplate, &QAction::triggered, this, [this] { m_model.templates().saveAsTemplate(); });
+    connect(&m_model.templates().store(), &TemplateStore::changed, this, &Menus::fillTemplates);
+    connect(&m_model.templates(), &Templates::canApplyChanged, this, &Menus::followTemplates);
+    fillTemplates();
+}
+
+void Menus::fillTemplates()
+{
+    m_templates->clear();
+    for (const TemplateStore::Entry& entry : m_model.templates().store().all()) {
+        QList<QKeySequence> keys;
+        if (const int digit = entry.value().digit; digit > 0)
+            keys.append(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_0 + digit)));
+        const auto apply = [this, id = entry.id] { m_model.templates().apply(id); };
+        add(m_templates, literal(entry.value().name), keys, apply)->setData(entry.id);
+    }
+    m_templates->addSeparator();
+    m_templates->addAction(m_saveAsTemplate);
+    add(m_templates, u"Templates…"_s, {}, [this] { m_model.templates().setOpen(true); });
+    followTemplates();
+}
+
+void Menus::followTemplates()
+{
+    m_saveAsTemplate->setEnabled(m_model.templates().canSaveAsTemplate());
+    for (QAction* action : m_templates->actions())
+        if (action->data().isValid())
+            action->setEnabled(m_model.templates().canApply());
 }
 
 // A command for the text field that has the focus. Fields take its keys themselves; the action shows them and
@@ -260,6 +298,7 @@ void Menus::followState()
     m_find->setEnabled(any);
     m_readAgain->setEnabled(any);
     m_agree->setEnabled(m_model.canMakeAgree());
+    followTemplates();
     m_disagreements->setEnabled(any);
     m_disagreements->setChecked(m_model.showsDisagreements());
     m_preview->setEnabled(any);

@@ -43,12 +43,17 @@ private:
         const std::function<bool(const QWidget&)>& possible);
     void fillRecents();
     void fillBringBack();
+    void addTemplates(ThemedMenu* menu);
+    void fillTemplates();
+    void followTemplates();
     void followState();
 
     AppModel& m_model;
     ContentView& m_content;
     ThemedMenu* m_recents = nullptr;
     ThemedMenu* m_bringBack = nullptr;
+    ThemedMenu* m_templates = nullptr;
+    QAction* m_saveAsTemplate = nullptr;
     QAction* m_save = nullptr;
     QAction* m_undoSave = nullptr;
     QAction* m_rename = nullptr;

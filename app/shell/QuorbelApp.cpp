@@ -76,6 +76,7 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     services.journalPath = journalPath();
     services.leftEditsPath = leftEditsPath();
     services.recordCachePath = QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + u"/records"_s;
+    services.templatesPath = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + u"/templates"_s;
     m_model = std::make_unique<AppModel>(services);
     m_placeProvider = makePlaceProvider({ .dataFolder = placesFolder(),
         .endpoint = placeEndpoint(m_model->preferences().placeService()).value_or(QUrl()) });

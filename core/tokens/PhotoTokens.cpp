@@ -64,6 +64,9 @@ QString PhotoTokens::value(const TokenSpec& token, const QString& form) const
     case TokenKind::counter:
         return CounterForm::parse(form).value_or(counter).number(position);
     case TokenKind::date:
+        if (wholeDates && form.trimmed().isEmpty())
+            return Text::trimmedWithNewlines(values.value(token.source));
+        [[fallthrough]];
     case TokenKind::time:
         return dateText(values.value(token.source), token.kind == TokenKind::time, form.trimmed());
     case TokenKind::list:

@@ -16,6 +16,7 @@ struct PhotoTokens {
     QList<CameraRow> camera{};
     qint64 position = 0;  ///< of the photo among those that are counted, from 0
     CounterForm counter{};  ///< of a counter that has no form of its own
+    bool wholeDates = false;  ///< a date without a form comes with its time: for a field that is a date itself
 
     /// As the photo was saved.
     static PhotoTokens of(const ImageRecord& photo);
