@@ -77,7 +77,11 @@ void AppModel::makeTools()
     m_templates = std::make_unique<Templates>(*this, m_services.templatesPath, [this] { return m_editing.unsaved(); });
     m_codes = std::make_unique<CodeReplacements>(*this);
     m_quickKeywords = std::make_unique<QuickKeywords>(*this);
-    m_renaming = std::make_unique<PhotosRenaming>(*this);
+    m_renaming = std::make_unique<PhotosRenaming>(*this,
+        PhotosRenaming::Parts{ m_announcer, m_tasks, m_library, m_editing, m_saving, m_cache,
+            m_services.journalPath.isEmpty() ? QString() : m_services.journalPath + u"/renames"_s,
+            m_services.endEditing, [this](std::function<void()> action) { holdBack(std::move(action)); },
+            [this](const QList<int>& gone) { takeVanished(gone); } });
     m_timeShifting = std::make_unique<TimeShifting>(*this);
     m_filtering = std::make_unique<Filtering>(*this);
 }

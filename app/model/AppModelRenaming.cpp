@@ -1,6 +1,7 @@
 // Renaming the one selected photo from a pattern and its draft.
 #include "app/model/AppModel.h"
 
+#include "app/model/renaming/PhotosRenaming.h"
 #include "core/schema/FieldID.h"
 #include "core/text/FileNaming.h"
 #include "core/text/Text.h"
@@ -117,9 +118,11 @@ void AppModel::takeRenamed(const QUrl& source, const QUrl& destination)
         takeVanished({ gone });
     if (m_renamed == source)
         m_renamed = destination;
-    photos().rename(source, destination);
-    m_library.details().rename(source, destination);
-    m_editing.rename(source, destination);
+    const NewNames names(source, destination);
+    photos().rename(names);
+    m_library.details().rename(names);
+    m_editing.rename(names);
+    m_renaming->lookAgain();
 }
 
 }  // namespace Quorbel

@@ -14,6 +14,14 @@ void read(const QVariant& stored, QString& value)
         value = stored.toString();
 }
 
+// An INI file holds a number as a text.
+void read(const QVariant& stored, int& value)
+{
+    bool isNumber = false;
+    if (const int number = stored.toInt(&isNumber); isNumber)
+        value = number;
+}
+
 // An INI file holds a Boolean as a text.
 void read(const QVariant& stored, bool& value)
 {
@@ -103,6 +111,7 @@ void Setting<T>::materialize()
 }
 
 template class Setting<bool>;
+template class Setting<int>;
 template class Setting<QString>;
 template class Setting<QStringList>;
 template class Setting<RecordSortOrder>;

@@ -219,12 +219,12 @@ void Batch::keepOnly(const QSet<QUrl>& photos)
     setAside.removeIf([](const auto& entry) { return entry.value().isEmpty(); });
 }
 
-void Batch::rename(const QUrl& source, const QUrl& destination)
+void Batch::rename(const NewNames& names)
 {
-    edits.rename(source, destination);
+    edits.subjects = names.of(edits.subjects);
+    edits.own = names.of(edits.own);
     for (QHash<QUrl, QString>& texts : setAside)
-        if (texts.contains(source))
-            texts.insert(destination, texts.take(source));
+        texts = names.of(texts);
 }
 
 Batch Batch::afterSave(const Batch& saved, const QSet<QString>& differing) const

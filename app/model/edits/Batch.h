@@ -3,6 +3,7 @@
 // Thread: any. A plain value.
 #pragma once
 
+#include "core/renaming/NewNames.h"
 #include "core/save/Edits.h"
 
 #include <optional>
@@ -55,7 +56,7 @@ struct Batch {
 
     /// Only these photos are left of those that it is of.
     void keepOnly(const QSet<QUrl>& photos);
-    void rename(const QUrl& source, const QUrl& destination);
+    void rename(const NewNames& names);
 
     /// After a save of `saved`: what Edits::minus leaves, and no text that was unticked when it began.
     Batch afterSave(const Batch& saved, const QSet<QString>& differing) const;

@@ -438,12 +438,13 @@ void Editing::follow(const Selection& selection)
     changed();
 }
 
-void Editing::rename(const QUrl& source, const QUrl& destination)
+void Editing::rename(const NewNames& names)
 {
-    m_selected.follow(m_selected.selection().renamed(source, destination));
-    m_draft.edits.rename(source, destination);
-    m_batch.rename(source, destination);
-    m_left.rename(source, destination);
+    m_selected.follow(m_selected.selection().renamed(names));
+    m_draft.edits.subjects = names.of(m_draft.edits.subjects);
+    m_draft.edits.own = names.of(m_draft.edits.own);
+    m_batch.rename(names);
+    m_left.rename(names);
 }
 
 void Editing::rebase()

@@ -83,8 +83,8 @@ public:
     void bringBack(const LeftEdits& left);
     /// Photos of the selection disappeared: its edits stay, as those of the photos that remain.
     void follow(const Selection& selection);
-    /// The photo has another name: all edits of it stay.
-    void rename(const QUrl& source, const QUrl& destination);
+    /// Photos have other names: all edits of them stay.
+    void rename(const NewNames& names);
     /// The photos were read again: the draft stands on what the primary one holds now.
     void rebase();
     /// The same for photos that were unread: edits that waited for them come back.

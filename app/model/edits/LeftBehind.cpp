@@ -101,10 +101,16 @@ void LeftBehind::stopReturning()
         left.returns = false;
 }
 
-void LeftBehind::rename(const QUrl& source, const QUrl& destination)
+void LeftBehind::rename(const NewNames& names)
 {
+    // What stands is asked for when the file is written.
+    writeSoon();
     const QList<LeftEdits> before = m_kept;
-    LeftEditsList::rename(m_kept, source, destination);
+    for (LeftEdits& left : m_kept) {
+        left.edits.subjects = names.of(left.edits.subjects);
+        left.edits.own = names.of(left.edits.own);
+    }
+    m_kept.removeIf([](const LeftEdits& left) { return left.edits.subjects.isEmpty(); });
     if (m_kept != before)
         changed(m_notice);
 }

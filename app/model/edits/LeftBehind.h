@@ -4,6 +4,7 @@
 #pragma once
 
 #include "app/model/Announcer.h"
+#include "core/renaming/NewNames.h"
 #include "core/save/LeftEditsFile.h"
 
 #include <QObject>
@@ -42,7 +43,7 @@ public:
     std::optional<LeftEdits> takeReturning(const QSet<QUrl>& photos);
     /// Nothing returns by itself any more: other photos are open.
     void stopReturning();
-    void rename(const QUrl& source, const QUrl& destination);
+    void rename(const NewNames& names);
 
     /// Asked for the edits that stand, whenever the file is written.
     void setStanding(std::function<QList<LeftEdits>()> standing) { m_standing = std::move(standing); }

@@ -21,11 +21,4 @@ QList<ImageRecord> CreationDates::applied(QList<ImageRecord> fresh) const
     return fresh;
 }
 
-void CreationDates::rename(const QUrl& source, const QUrl& destination)
-{
-    m_dates.remove(destination);
-    if (const auto dates = m_dates.constFind(source); dates != m_dates.cend())
-        m_dates.insert(destination, m_dates.take(source));
-}
-
 }  // namespace Quorbel

@@ -4,6 +4,7 @@
 // new dates.
 #pragma once
 
+#include "core/renaming/NewNames.h"
 #include "core/schema/ImageRecord.h"
 
 #include <QHash>
@@ -17,8 +18,7 @@ public:
     /// Records that were just read, with the dates that were kept for their files. A file that somebody else has
     /// replaced since has its own.
     QList<ImageRecord> applied(QList<ImageRecord> fresh) const;
-    /// The photo has another name.
-    void rename(const QUrl& source, const QUrl& destination);
+    void rename(const NewNames& names) { m_dates = names.of(m_dates); }
 
     /// The photos with a date of their own.
     QList<QUrl> photos() const { return m_dates.keys(); }

@@ -76,7 +76,7 @@ void FolderRefresh::refresh()
 // A look for no special reason: not while there is a better one.
 void FolderRefresh::lookByTheClock()
 {
-    if (m_isRefreshing || !m_beingWritten.isEmpty())
+    if (m_isRefreshing || m_isRenaming || !m_beingWritten.isEmpty())
         m_times.postpone();
     else
         look();
@@ -86,7 +86,7 @@ void FolderRefresh::look()
 {
     if (!canRefresh())
         return;
-    if (m_isRefreshing) {
+    if (m_isRefreshing || m_isRenaming) {
         m_again = true;
         return;
     }
@@ -286,6 +286,23 @@ void FolderRefresh::endWriting(bool isComplete)
         m_lastWrites.insert(photo, m_writes);
     m_beingWritten.clear();
     if (!isComplete || std::exchange(m_passedOverWritten, false))
+        look();
+}
+
+void FolderRefresh::beginRenaming()
+{
+    m_isRenaming = true;
+    ++m_writes;
+}
+
+void FolderRefresh::endRenaming(const NewNames& names)
+{
+    m_isRenaming = false;
+    ++m_writes;
+    for (const auto& [source, destination] : names.list())
+        for (const QUrl& photo : { source, destination })
+            m_lastWrites.insert(photo, m_writes);
+    if (!m_isRefreshing && std::exchange(m_again, false))
         look();
 }
 

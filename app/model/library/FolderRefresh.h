@@ -52,14 +52,18 @@ public:
     void beginWriting(const QSet<QUrl>& photos);
     /// `isComplete`: every photo was read again after the write.
     void endWriting(bool isComplete);
-    bool isBeingWritten(const QUrl& photo) const { return m_beingWritten.contains(photo); }
+    /// We give photos other names: until the end nobody looks, since some have names by then that nobody knows.
+    void beginRenaming();
+    /// These names changed.
+    void endRenaming(const NewNames& names);
+    bool isBeingWritten(const QUrl& photo) const { return m_isRenaming || m_beingWritten.contains(photo); }
     /// Counts beginnings and ends of writes.
     int writes() const { return m_writes; }
     /// Whether a write of ours to this photo has begun or ended since writes() was this: what was read meanwhile may be
     /// older than what is in the file.
     bool wasWritten(const QUrl& photo, int since) const
     {
-        return m_beingWritten.contains(photo) || m_lastWrites.value(photo) > since;
+        return isBeingWritten(photo) || m_lastWrites.value(photo) > since;
     }
 
 signals:
@@ -114,6 +118,7 @@ private:
     bool m_isAsked = false;  ///< the next look is somebody's wish
     bool m_passedOverUnread = false;  ///< photos changed that are still to be read: a look must follow
     int m_reads = 0;
+    bool m_isRenaming = false;
     bool m_passedOverWritten = false;  ///< photos were left out because they were being written
 };
 

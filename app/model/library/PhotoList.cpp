@@ -200,16 +200,29 @@ bool PhotoList::append(const QList<ImageRecord>& fresh)
     return true;
 }
 
-void PhotoList::rename(const QUrl& source, const QUrl& destination)
+void PhotoList::rename(const NewNames& names)
 {
-    const int at = position(source);
     ++m_renames;
-    m_creationDates.rename(source, destination);
-    ImageRecord renamed = m_open.records.at(at);
-    renamed.url = destination;
-    renamed.fileName = destination.fileName();
-    put(at, renamed);
-    m_open.index.replace({ at }, m_open.records);
+    m_creationDates.rename(names);
+    QList<int> positions;
+    for (const auto& [source, destination] : names.list())
+        if (const int at = position(source); at >= 0) {
+            positions.append(at);
+            if (m_open.files)
+                m_open.files->forget(source);
+        }
+    if (positions.isEmpty())
+        return;
+    // Behind the loss of all old names: a new one may be among those.
+    std::sort(positions.begin(), positions.end());
+    for (const int at : std::as_const(positions)) {
+        ImageRecord& photo = m_open.records[at];
+        photo.url = names.of(photo.url);
+        photo.fileName = photo.url.fileName();
+        if (m_open.files)
+            m_open.files->note(photo);
+    }
+    m_open.index.replace(positions, m_open.records);
     contentChanged(true, true);
 }
 

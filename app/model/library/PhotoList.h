@@ -84,8 +84,8 @@ public:
     void remove(const QList<int>& positions);
     /// Those that are not open yet; whether there were any.
     bool append(const QList<ImageRecord>& fresh);
-    /// The photo has another name in the same place of the list.
-    void rename(const QUrl& source, const QUrl& destination);
+    /// The photos have other names in the same places of the list; such as are not open are ignored.
+    void rename(const NewNames& names);
 
     /// Keywords of the photos that begin with the text (any case), the most used first; at most `limit`.
     QStringList keywordCompletions(const QString& prefix, int limit) const

@@ -149,11 +149,11 @@ void Saving::reserve()
     setUndoable(m_undo.save);
 }
 
-void Saving::release()
+void Saving::release(bool isGood)
 {
     m_announcer.assign(m_isSaving, false, Change::isSaving);
     setUndoable(m_undo.save);
-    emit ended(false);
+    emit ended(isGood);
 }
 
 void Saving::begin(const QList<QUrl>& photos)
@@ -298,6 +298,13 @@ void Saving::noteRename(const QUrl& from, const QUrl& to)
     if (!m_history)
         return;
     m_history->noteRename(from.toLocalFile(), to.toLocalFile());
+    nameAgain();
+}
+
+void Saving::nameAgain()
+{
+    if (!m_history)
+        return;
     runInBackground(
         this,
         [history = m_history] {

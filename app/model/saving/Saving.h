@@ -48,8 +48,8 @@ public:
     QString undoText() const { return SaveHistory::name(m_undo.save); }
     /// A save will follow, or release(): until then it counts as being saved.
     void reserve();
-    /// No save follows.
-    void release();
+    /// No save follows, or what was reserved for was no save, and went well.
+    void release(bool isGood = false);
     /// These photos are selected. As soon as they are edited, what a save of them would replace is read, so that the
     /// save need not; other photos make an end of that.
     void lookAhead(const QSet<QUrl>& photos, bool areEdited);
@@ -64,6 +64,10 @@ public:
     void undo(const std::function<QList<QUrl>(const QList<QUrl>& saved)>& open);
     /// A photo got another name: what can be taken back follows it.
     void noteRename(const QUrl& from, const QUrl& to);
+    /// What can be taken back is called otherwise: the journal knows of other names by now.
+    void nameAgain();
+    /// For renames that tell it of themselves, in the background; null when no save can be taken back.
+    const std::shared_ptr<SaveHistory>& history() const { return m_history; }
 
 signals:
     /// The write has ended and its files were read again; still `isSaving`.

@@ -127,16 +127,12 @@ std::optional<QUrl> Selection::nearestStaying(const PhotoList& list, const QSet<
     return nearest(list, photos - gone, primary);
 }
 
-Selection Selection::renamed(const QUrl& source, const QUrl& destination) const
+Selection Selection::renamed(const NewNames& names) const
 {
-    Selection result = *this;
-    if (result.photos.remove(source))
-        result.photos.insert(destination);
-    if (anchor == source)
-        result.anchor = destination;
-    if (primary == source)
-        result.primary = destination;
-    return result;
+    const auto now = [&names](const std::optional<QUrl>& photo) {
+        return photo ? std::optional(names.of(*photo)) : std::nullopt;
+    };
+    return { names.of(photos), now(anchor), now(primary) };
 }
 
 }  // namespace Quorbel

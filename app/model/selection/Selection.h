@@ -2,6 +2,8 @@
 // Thread: any. A plain value with pure functions over the list of photos.
 #pragma once
 
+#include "core/renaming/NewNames.h"
+
 #include <QSet>
 #include <QUrl>
 
@@ -31,8 +33,7 @@ struct Selection {
     /// Of the selected photos that stay, the one closest to the primary on screen, the later one of two; where the
     /// primary is hidden by the search, the first.
     std::optional<QUrl> nearestStaying(const PhotoList& list, const QSet<QUrl>& gone) const;
-    /// The photo has another name.
-    Selection renamed(const QUrl& source, const QUrl& destination) const;
+    Selection renamed(const NewNames& names) const;
 
     bool operator==(const Selection&) const = default;
 };

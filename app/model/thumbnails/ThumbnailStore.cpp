@@ -285,25 +285,45 @@ void ThumbnailStore::invalidate(const QList<QUrl>& urls)
     announceStale(changed);
 }
 
-void ThumbnailStore::rename(const QUrl& source, const QUrl& destination)
+void ThumbnailStore::rename(const NewNames& names)
 {
-    if (source == destination)
-        return;
-    for (const Kind kind : { Kind::small, Kind::preview }) {
+    QList<std::pair<QUrl, QUrl>> files = names.list();
+    files.removeIf([](const auto& file) { return file.first == file.second; });
+    QList<Key> changed;
+    for (const Kind kind : { Kind::small, Kind::preview })
+        changed += carry(files, kind);
+    carryOnDisk(files, std::nullopt);
+    for (const Key& key : std::as_const(changed))
+        emit entryChanged(key.url, key.kind);
+}
+
+// All leave their old places before one comes to its new one: two may have swapped theirs. Whose entries changed.
+QList<ThumbnailStore::Key> ThumbnailStore::carry(const QList<std::pair<QUrl, QUrl>>& files, Kind kind)
+{
+    QHash<QUrl, Held*> held;
+    QHash<QUrl, Seen> badges;
+    QList<Key> changed;
+    for (const auto& [source, destination] : files) {
         const Key from{ source, kind }, to{ destination, kind };
-        drop(from);
-        drop(to);
-        m_badges.remove(to);
-        cache(kind).remove(destination);
-        if (Held* held = cache(kind).take(source))
-            cache(kind).insert(destination, held, held->image.sizeInBytes());
+        const qsizetype before = held.size() + badges.size();
+        if (Held* image = cache(kind).take(source))
+            held.insert(destination, image);
         if (m_badges.contains(from))
-            m_badges.insert(to, m_badges.take(from));
+            badges.insert(destination, m_badges.take(from));
+        const bool wasMade = drop(from);
+        if (drop(to) || wasMade || held.size() + badges.size() > before
+            || entry(destination, kind).state != State::none)
+            changed << from << to;
     }
-    carryOnDisk(source, std::nullopt, destination);
-    for (const QUrl& url : { source, destination })
-        for (const Kind kind : { Kind::small, Kind::preview })
-            emit entryChanged(url, kind);
+    for (const auto& [source, destination] : files) {
+        m_badges.remove({ destination, kind });
+        cache(kind).remove(destination);
+        if (Held* image = held.value(destination))
+            cache(kind).insert(destination, image, image->image.sizeInBytes());
+        if (const auto badge = badges.constFind(destination); badge != badges.cend())
+            m_badges.insert({ destination, kind }, *badge);
+    }
+    return changed;
 }
 
 void ThumbnailStore::beginWriting(const QList<QUrl>& urls)
@@ -337,22 +357,28 @@ void ThumbnailStore::endWriting(const QList<QUrl>& written)
                 continue;
             const FileVersion before = std::exchange(seen->version, FileVersion::of(url.toLocalFile()));
             if (before != seen->version)
-                carryOnDisk(url, before, url);
+                carryOnDisk({ { url, url } }, before);
         }
     }
     m_beingWritten.clear();
 }
 
 // `version`: of the file that the images were made of; nothing when only its name is another one now.
-void ThumbnailStore::carryOnDisk(const QUrl& from, std::optional<FileVersion> version, const QUrl& to) const
+void ThumbnailStore::carryOnDisk(const QList<std::pair<QUrl, QUrl>>& files, std::optional<FileVersion> version) const
 {
-    m_pool->start([maker = m_pictureMaker, from = from.toLocalFile(), version, to = to.toLocalFile(),
-                      sides = std::array{ longSide(Kind::small), longSide(Kind::preview) }] {
-        lowerPriority();
-        const FileVersion now = FileVersion::of(to);
-        for (const int side : sides)
-            maker->disk.carry(maker->disk.key(from, version.value_or(now), side), maker->disk.key(to, now, side));
-    });
+    if (files.isEmpty())
+        return;
+    m_pool->start(
+        [maker = m_pictureMaker, files, version, sides = std::array{ longSide(Kind::small), longSide(Kind::preview) }] {
+            lowerPriority();
+            for (const auto& [from, to] : files) {
+                const QString path = to.toLocalFile();
+                const FileVersion now = FileVersion::of(path);
+                for (const int side : sides)
+                    maker->disk.carry(maker->disk.key(from.toLocalFile(), version.value_or(now), side),
+                        maker->disk.key(path, now, side));
+            }
+        });
 }
 
 void ThumbnailStore::setDevicePixelRatio(qreal ratio)

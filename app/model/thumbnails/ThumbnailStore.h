@@ -5,6 +5,7 @@
 #pragma once
 
 #include "app/model/thumbnails/FileVersion.h"
+#include "core/renaming/NewNames.h"
 #include "core/tool/ExifToolRunner.h"
 #include "platform/images/DecodedImage.h"
 
@@ -87,7 +88,9 @@ public:
     /// Other files may lie under the same names from now on: each is looked at when its entry is next asked for.
     void lookAgain() { ++m_looks; }
     /// A file has another name, in this program: its pictures go with it, and what the new name stood for is forgotten.
-    void rename(const QUrl& source, const QUrl& destination);
+    void rename(const QUrl& source, const QUrl& destination) { rename(NewNames(source, destination)); }
+    /// The same for many, all at once.
+    void rename(const NewNames& names);
     /// We are about to write metadata into these files. Until endWriting what is held of them stays.
     void beginWriting(const QList<QUrl>& urls);
     /// The write is over. `written`: those whose metadata alone changed, so that their pictures stay theirs.
@@ -168,7 +171,8 @@ private:
     bool showMeanwhile(const Key& key, const Outcome& outcome);
     QList<Key> settleWithout(const Key& key, const Outcome& outcome);
     void keep(const Key& key, Held held);
-    void carryOnDisk(const QUrl& from, std::optional<FileVersion> version, const QUrl& to) const;
+    QList<Key> carry(const QList<std::pair<QUrl, QUrl>>& files, Kind kind);
+    void carryOnDisk(const QList<std::pair<QUrl, QUrl>>& files, std::optional<FileVersion> version) const;
 
     ThumbnailStoreOptions m_options;
     std::shared_ptr<const PictureMaker> m_pictureMaker;

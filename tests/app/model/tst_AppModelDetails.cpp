@@ -356,8 +356,8 @@ void tst_AppModelDetails::lateAnswers()
     // Under another name it is still known; once it changed, not any more, though what was is remembered.
     ImageRecord renamed = f.list.records().constFirst();
     QVERIFY(QFile::rename(photo.toLocalFile(), f.folder.path(u"x.jpg"_s)));
-    f.list.rename(photo, f.url(u"x.jpg"_s));
-    f.reading->rename(photo, f.url(u"x.jpg"_s));
+    f.list.rename({ photo, f.url(u"x.jpg"_s) });
+    f.reading->rename({ photo, f.url(u"x.jpg"_s) });
     QCOMPARE(f.details(u"x.jpg"_s)->url, f.url(u"x.jpg"_s));
     QCOMPARE(f.reading->census(), (DetailsReading::Census{ 1, 0, false, false }));
     f.reading->setSelected(std::nullopt, {});
@@ -563,8 +563,8 @@ void tst_AppModelDetails::filter()
     f.reading->forget({ gone.cbegin(), gone.cend() });
     QCOMPARE(f.listed(), all.mid(1));
     QCOMPARE(f.reading->census().disagreeing, 5);
-    f.list.rename(f.url(u"0020d.jpg"_s), f.url(u"z.jpg"_s));
-    f.reading->rename(f.url(u"0020d.jpg"_s), f.url(u"z.jpg"_s));
+    f.list.rename({ f.url(u"0020d.jpg"_s), f.url(u"z.jpg"_s) });
+    f.reading->rename({ f.url(u"0020d.jpg"_s), f.url(u"z.jpg"_s) });
     QCOMPARE(f.listed(), (QStringList{ u"0010d.jpg"_s, u"0030d.jpg"_s, u"0040d.jpg"_s, u"0050d.jpg"_s, u"z.jpg"_s }));
     QVERIFY(QFile::rename(f.folder.path(u"0020d.jpg"_s), f.folder.path(u"z.jpg"_s)));
     // They agree from now on. While one waits for its new answer it stays, and while it is edited.

@@ -1,4 +1,5 @@
 // Renaming the one selected photo from a pattern and its draft.
+#include "app/model/renaming/PhotosRenaming.h"
 #include "tests/app/model/ModelFixture.h"
 
 #include <QDir>
@@ -32,7 +33,39 @@ private slots:
     void sheetFollowsNoOtherPhoto();
     void onlyTheCaseChanges_data();
     void onlyTheCaseChanges();
+    void manyAtOnce();
+    void manyWaitForTheirEdits();
+    void manySwapAndEditsFollow();
+    void manyAreTakenBackAfterARestart();
+    void theSheetOfManyFollowsTheSelection();
 };
+
+namespace {
+
+// The names of the sheet's plan, once it is worked out.
+QStringList planned(ModelFixture& f)
+{
+    PhotosRenaming& renaming = f->renaming();
+    QStringList names;
+    if (!QTest::qWaitFor([&] { return renaming.isCurrent(); }, 10000))
+        return names;
+    for (const RenameRow& row : renaming.plan()->rows)
+        names.append(row.newName);
+    return names;
+}
+
+bool waitForRename(ModelFixture& f)
+{
+    return QTest::qWaitFor([&] { return !f->renaming().isRunning() && !f->isSaving(); }, 30000);
+}
+
+void withJournal(ModelFixture& f)
+{
+    f.services.journalPath = f.settings.filePath(u"undo"_s);
+    f.relaunch();
+}
+
+}  // namespace
 
 void tst_AppModelRenaming::preview_data()
 {
@@ -254,6 +287,184 @@ void tst_AppModelRenaming::onlyTheCaseChanges()
     QCOMPARE(f.folder.names(), QStringList({ u"A.jpg"_s, u"A.xmp"_s }));
     QCOMPARE(f.primary(), u"A.jpg"_s);
     QCOMPARE(f->unsavedCount(), 1);
+}
+
+// List, selection and order follow in one step, and nothing is read again: the tool is shut.
+void tst_AppModelRenaming::manyAtOnce()
+{
+    GatedTool tool;
+    ModelFixture f(tool.service());
+    f.addTitled(jpgs(u"abc"_s));
+    f.folder.add(u"a.nef"_s);
+    QVERIFY(f.open());
+    f.select(u"acb"_s);
+    f->setSortOrder(RecordSortOrder::nameDesc);
+    PhotosRenaming& renaming = f->renaming();
+    QVERIFY(renaming.canOpen());
+    renaming.open();
+    QVERIFY(renaming.isOpen());
+    renaming.pattern.set(u"x%Counter%_%Headline%"_s);
+    renaming.counterDigits.set(2);
+    QCOMPARE(planned(f), QStringList({ u"x01.jpg"_s, u"x02.jpg"_s, u"x03.jpg"_s }));
+    QCOMPARE(renaming.plan()->marked, 3);
+    tool.shut();
+    QSignalSpy records(f.model.get(), &AppModel::recordsChanged);
+    QSignalSpy rows(f.model.get(), &AppModel::visibleRowsChanged);
+    int pictures = 0;
+    renaming.onImagesRenamed = [&](const NewNames& names) { pictures += int(names.list().size()); };
+    renaming.rename();
+    QVERIFY(renaming.isRunning());
+    QVERIFY(waitForRename(f));
+    QVERIFY(!renaming.isOpen());
+    QCOMPARE(f.folder.names(), QStringList({ u"x01.jpg"_s, u"x02.jpg"_s, u"x03.jpg"_s, u"x03.nef"_s }));
+    QCOMPARE(f.visible(), QStringList({ u"x03.nef"_s, u"x03.jpg"_s, u"x02.jpg"_s, u"x01.jpg"_s }));
+    QCOMPARE(f.selected(), QStringList({ u"x01.jpg"_s, u"x02.jpg"_s, u"x03.jpg"_s }));
+    QCOMPARE(f.primary(), u"x02.jpg"_s);
+    QCOMPARE(records.count(), 1);
+    QCOMPARE(rows.count(), 1);
+    QCOMPARE(pictures, 4);
+    QCOMPARE(f->record(f.url(u"x01.jpg"_s))->values.value(u"title"_s), u"c.jpg"_s);
+    QVERIFY(QTest::qWaitFor([&] { return f->canRefresh() && !f->isWorking(); }));
+    tool.release();
+    f->refresh();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f.visible().size(), 4);
+    QCOMPARE(f->errorMessage(), std::nullopt);
+}
+
+// Names are made of what is saved: edits are saved or left before.
+void tst_AppModelRenaming::manyWaitForTheirEdits()
+{
+    ModelFixture f;
+    f.addTitled(jpgs(u"ab"_s));
+    QVERIFY(f.open());
+    f.select(u"ab"_s);
+    PhotosRenaming& renaming = f->renaming();
+    f->setBatch(u"headline"_s, u"Final"_s);
+    renaming.open();
+    QVERIFY(f->saveOpen());
+    QVERIFY(!renaming.isOpen());
+    f->cancelSaveDialog();
+    QVERIFY(!renaming.isOpen());
+    renaming.open();
+    f->confirmSaveDialog();
+    QVERIFY(QTest::qWaitFor([&] { return renaming.isOpen(); }, 30000));
+    renaming.pattern.set(u"%Headline%"_s);
+    QCOMPARE(planned(f), QStringList({ u"Final.jpg"_s, u"Final-2.jpg"_s }));
+    // Asked for before the names of the last key are there.
+    renaming.pattern.set(u"%Headline%_%Counter%"_s);
+    renaming.rename();
+    QVERIFY(QTest::qWaitFor([&] { return !renaming.isOpen(); }, 30000));
+    QVERIFY(waitForRename(f));
+    QCOMPARE(f.visible(), QStringList({ u"Final_0001.jpg"_s, u"Final_0002.jpg"_s }));
+}
+
+void tst_AppModelRenaming::manySwapAndEditsFollow()
+{
+    ModelFixture f;
+    withJournal(f);
+    f.addTitled(jpgs(u"abc"_s));
+    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=b"_s, f.folder.path(u"a.jpg"_s) });
+    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Title=a"_s, f.folder.path(u"b.jpg"_s) });
+    QVERIFY(f.open());
+    f->preferences().saveDontAsk.set(true);
+    f.click(u"a.jpg"_s);
+    f->setSingle(u"headline"_s, u"saved"_s);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QVERIFY(QTest::qWaitFor([&] { return !f->isSaving(); }));
+    f.select(u"bc"_s);
+    f->setBatch(u"headline"_s, u"left"_s);
+    f.click(u"a.jpg"_s);
+    QCOMPARE(f->leftEdits().size(), 1);
+    f.select(u"ab"_s);
+    PhotosRenaming& renaming = f->renaming();
+    renaming.open();
+    renaming.pattern.set(u"%Title%"_s);
+    QCOMPARE(planned(f), QStringList({ u"b.jpg"_s, u"a.jpg"_s }));
+    renaming.rename();
+    QVERIFY(waitForRename(f));
+    QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(f->record(f.url(u"a.jpg"_s))->values.value(u"title"_s), u"a"_s);
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), u"a"_s);
+    QCOMPARE(f->leftEdits().constFirst().edits.subjects, QList<QUrl>({ f.url(u"a.jpg"_s), f.url(u"c.jpg"_s) }));
+    // Undo Save finds its photo under its name of today.
+    QVERIFY(QTest::qWaitFor([&] { return f->undoSaveText() == u"Undo Save of “b.jpg”"; }));
+    f->undoSave();
+    QVERIFY(f.waitUntilIdle());
+    QVERIFY(QTest::qWaitFor([&] { return !f->isSaving(); }));
+    QVERIFY(f.onDisk(u"b.jpg"_s, u"XMP:Headline"_s).isUndefined());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+}
+
+// With edits that are unsaved by then, and a photo that is not open.
+void tst_AppModelRenaming::manyAreTakenBackAfterARestart()
+{
+    ModelFixture f;
+    withJournal(f);
+    f.addTitled(jpgs(u"ab"_s));
+    QVERIFY(f.open());
+    QVERIFY(!f->renaming().canUndo());
+    f.select(u"ab"_s);
+    f->renaming().open();
+    f->renaming().pattern.set(u"x%Counter%"_s);
+    QCOMPARE(planned(f).size(), 2);
+    // Given up; then another program takes a name between the plan and the move.
+    f->renaming().rename();
+    f->renaming().cancel();
+    QVERIFY(waitForRename(f));
+    QVERIFY(f->renaming().isOpen());
+    QCOMPARE(planned(f), QStringList({ u"x0001.jpg"_s, u"x0002.jpg"_s }));
+    writeFile(f.folder.path(u"x0002.jpg"_s), "other");
+    f->renaming().rename();
+    QVERIFY(waitForRename(f));
+    QCOMPARE(f->errorMessage(), u"Could not rename: “x0002.jpg” is there already. All photos keep their names."_s);
+    QCOMPARE(f.folder.names(), QStringList({ u"a.jpg"_s, u"b.jpg"_s, u"x0002.jpg"_s }));
+    QFile::remove(f.folder.path(u"x0002.jpg"_s));
+    f.select(u"ab"_s);
+    f->renaming().open();
+    QCOMPARE(planned(f).size(), 2);
+    f->renaming().rename();
+    QVERIFY(waitForRename(f));
+    QVERIFY(f->renaming().canUndo());
+    f.relaunch();
+    QVERIFY(QTest::qWaitFor([&] { return f->renaming().canUndo(); }));
+    QCOMPARE(f->renaming().undoText(), u"Undo Rename of 2 Photos"_s);
+    QVERIFY(f.load({ f.url(u"x0001.jpg"_s) }));
+    f->setSingle(u"headline"_s, u"unsaved"_s);
+    QVERIFY(QTest::qWaitFor([&] { return f->renaming().canUndo(); }));
+    f->renaming().undo();
+    QVERIFY(QTest::qWaitFor([&] { return f.primary() == u"a.jpg" && !f->isSaving(); }, 10000));
+    QCOMPARE(f.folder.names(), jpgs(u"ab"_s));
+    QCOMPARE(f->draftValues().value(u"headline"_s), u"unsaved"_s);
+    QCOMPARE(f->unsavedCount(), 1);
+    QVERIFY(!f->renaming().canUndo());
+    QCOMPARE(f->errorMessage(), std::nullopt);
+}
+
+void tst_AppModelRenaming::theSheetOfManyFollowsTheSelection()
+{
+    ModelFixture f;
+    f.addTitled(jpgs(u"abc"_s));
+    QVERIFY(f.open());
+    QVERIFY(!f->renaming().canOpen());
+    f.select(u"abc"_s);
+    f->renaming().open();
+    f->renaming().pattern.set(u"%Title%"_s);
+    QCOMPARE(planned(f).size(), 3);
+    QVERIFY(f->renaming().canRename());
+    f->renaming().pattern.set(u" "_s);
+    QVERIFY(!f->renaming().canRename());
+    f->renaming().pattern.set(u"a/b"_s);
+    QCOMPARE(planned(f), jpgs(u"abc"_s));
+    QVERIFY(!f->renaming().canRename());
+    QFile::remove(f.folder.path(u"b.jpg"_s));
+    f->refresh();
+    QVERIFY(QTest::qWaitFor([&] { return f->selection().size() == 2; }, 10000));
+    QCOMPARE(planned(f).size(), 2);
+    QFile::remove(f.folder.path(u"c.jpg"_s));
+    f->refresh();
+    QVERIFY(QTest::qWaitFor([&] { return !f->renaming().isOpen(); }, 10000));
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelRenaming)

@@ -172,14 +172,18 @@ void DetailsReading::forget(const QSet<QUrl>& photos)
     tell();
 }
 
-void DetailsReading::rename(const QUrl& source, const QUrl& destination)
+void DetailsReading::rename(const NewNames& names)
 {
     const Announcer::Together together(m_announcer);
-    if (m_store.rename(source, destination))
+    if (m_store.rename(names))
         m_announcer.announce(Change::details);
     for (QSet<QUrl>* photos : { &m_failed, &m_kept })
-        if (photos->remove(source))
-            photos->insert(destination);
+        *photos = names.of(*photos);
+    m_all = names.of(m_all);
+    // What is being read under a name may be another photo's by now.
+    for (Run& run : m_running)
+        for (const auto& [source, destination] : names.list())
+            run.outdated << source << destination;
     wake();
 }
 

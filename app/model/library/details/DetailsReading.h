@@ -53,8 +53,8 @@ public:
     void noteAdded();
     /// These are no longer in it.
     void forget(const QSet<QUrl>& photos);
-    /// It has another name in the list by now.
-    void rename(const QUrl& source, const QUrl& destination);
+    /// Photos have other names in the list by now.
+    void rename(const NewNames& names);
     /// From now on nothing is believed that was read before.
     void readAgain();
 

@@ -71,20 +71,26 @@ bool DetailsStore::forget(const QUrl& photo)
     return true;
 }
 
-bool DetailsStore::rename(const QUrl& source, const QUrl& destination)
+bool DetailsStore::rename(const NewNames& names)
 {
-    forget(destination);
-    const PhotoDetails* held = findLast(source);
-    if (!held)
-        return false;
-    PhotoDetails details = *held;
-    details.url = destination;
-    const bool isOutdated = m_outdated.contains(source);
-    forget(source);
-    put(std::move(details));
-    if (isOutdated)
-        m_outdated.insert(destination);
-    return true;
+    QList<PhotoDetails> renamed;
+    QSet<QUrl> outdated;
+    for (const auto& [source, destination] : names.list()) {
+        if (const PhotoDetails* held = findLast(source)) {
+            renamed.append(*held);
+            renamed.last().url = destination;
+        }
+        if (m_outdated.contains(source))
+            outdated.insert(destination);
+    }
+    for (const auto& [source, destination] : names.list()) {
+        forget(source);
+        forget(destination);
+    }
+    for (PhotoDetails& details : renamed)
+        put(std::move(details));
+    m_outdated += outdated;
+    return !renamed.isEmpty();
 }
 
 void DetailsStore::count(const PhotoDetails& details, int step)

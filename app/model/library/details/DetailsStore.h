@@ -4,6 +4,7 @@
 #pragma once
 
 #include "app/model/library/SharedTexts.h"
+#include "core/renaming/NewNames.h"
 #include "core/schema/PhotoDetails.h"
 
 #include <QHash>
@@ -35,8 +36,8 @@ public:
     bool outdate(const QUrl& photo);
     /// Whether anything was held of it.
     bool forget(const QUrl& photo);
-    /// The photo has another name; whether anything is held of it.
-    bool rename(const QUrl& source, const QUrl& destination);
+    /// Photos have other names; whether anything is held of them.
+    bool rename(const NewNames& names);
 
 private:
     void count(const PhotoDetails& details, int step);

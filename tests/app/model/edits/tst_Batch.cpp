@@ -151,7 +151,7 @@ void tst_Batch::textsOfTheirOwn()
     QVERIFY(!anew.bringBackOwn(key));
     // Of photos that are gone nothing comes back, and one with another name keeps its text.
     batch.keepOnly({ b });
-    batch.rename(b, a);
+    batch.rename({ b, a });
     QVERIFY(batch.bringBackOwn(key));
     QCOMPARE(batch.edits.own.keys(), QList<QUrl>{ a });
     // Unticked while a save ran, they were written.
