@@ -24,15 +24,6 @@ QString withQuestionMarks(const QString& text, bool twiceBeyondFirstPlane)
     return form;
 }
 
-QString utf8ReadAsThePage(const QString& text)
-{
-    QString form = QString::fromLatin1(text.toUtf8());
-    for (QChar& c : form)
-        if (c >= QChar(0x80) && c < QChar(0xA0) && upperControls.at(c.unicode() - 0x80) != 0)
-            c = upperControls.at(c.unicode() - 0x80);
-    return form;
-}
-
 }  // namespace
 
 bool has(QChar c)
@@ -58,10 +49,19 @@ std::optional<QByteArray> encoded(const QString& text)
     return bytes;
 }
 
+QString decoded(const QByteArray& bytes)
+{
+    QString text = QString::fromLatin1(bytes);
+    for (QChar& c : text)
+        if (c >= QChar(0x80) && c < QChar(0xA0) && upperControls.at(c.unicode() - 0x80) != 0)
+            c = upperControls.at(c.unicode() - 0x80);
+    return text;
+}
+
 QStringList damagedForms(const QString& text)
 {
     QStringList forms{ withQuestionMarks(text, false), withQuestionMarks(text, true),
-        QString::fromLatin1(text.toUtf8()), utf8ReadAsThePage(text) };
+        QString::fromLatin1(text.toUtf8()), decoded(text.toUtf8()) };
     forms.removeDuplicates();
     forms.removeAll(text);
     return forms;

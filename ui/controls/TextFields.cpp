@@ -54,6 +54,12 @@ struct EditItem {
     std::function<void()> run;
 };
 
+// Whether what was typed may finish a code.
+bool endsCode(const QString& typed)
+{
+    return typed.endsWith(u'=');
+}
+
 void showEditMenu(QWidget* field, const QPoint& globalPos, const QList<EditItem>& items)
 {
     auto* menu = new ThemedMenu(field);
@@ -85,6 +91,7 @@ QBTextField::QBTextField(QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     onRestyle(this, [this] { restyle(); });
     m_ring = installFocusRing(this, { RingShape::field, 7, [this] { return m_edited; }, {} });
+    connect(this, &QLineEdit::textEdited, this, &QBTextField::deselectCode);
 }
 
 void QBTextField::restyle()
@@ -163,7 +170,38 @@ void QBTextField::keyPressEvent(QKeyEvent* event)
         pasteText();
         return;
     }
+    const QString before = text();
     QLineEdit::keyPressEvent(event);
+    if (endsCode(event->text()) && text() != before)
+        replaceCode();
+}
+
+// Some input methods hand over every letter.
+void QBTextField::inputMethodEvent(QInputMethodEvent* event)
+{
+    QLineEdit::inputMethodEvent(event);
+    if (endsCode(event->commitString()) && event->preeditString().isEmpty())
+        replaceCode();
+}
+
+void QBTextField::replaceCode()
+{
+    if (isReadOnly() || hasSelectedText())
+        return;
+    const auto code = typedCode(text().left(cursorPosition()), m_codes);
+    if (!code)
+        return;
+    m_replacedCode = text().sliced(code->start, code->length);
+    // Over a selection: one step for Undo.
+    setSelection(int(code->start), int(code->length));
+    insert(code->text);
+}
+
+// Undo gives the code back as it was replaced: selected. What one types next must not take its place.
+void QBTextField::deselectCode()
+{
+    if (!m_replacedCode.isEmpty() && selectedText() == m_replacedCode)
+        setCursorPosition(selectionEnd());
 }
 
 QRect QBTextField::textRect() const
@@ -345,6 +383,34 @@ void QBTextArea::wheelEvent(QWheelEvent* event)
 {
     // Nothing to scroll in here: the form behind scrolls.
     event->ignore();
+}
+
+void QBTextArea::keyPressEvent(QKeyEvent* event)
+{
+    const int before = document()->revision();
+    QPlainTextEdit::keyPressEvent(event);
+    if (endsCode(event->text()) && document()->revision() != before)
+        replaceCode();
+}
+
+void QBTextArea::inputMethodEvent(QInputMethodEvent* event)
+{
+    QPlainTextEdit::inputMethodEvent(event);
+    if (endsCode(event->commitString()) && event->preeditString().isEmpty())
+        replaceCode();
+}
+
+void QBTextArea::replaceCode()
+{
+    QTextCursor cursor = textCursor();
+    if (isReadOnly() || cursor.hasSelection())
+        return;
+    const auto code = typedCode(cursor.block().text().left(cursor.positionInBlock()), m_codes);
+    if (!code)
+        return;
+    cursor.setPosition(cursor.block().position() + int(code->start), QTextCursor::KeepAnchor);
+    cursor.insertText(code->text);
+    setTextCursor(cursor);
 }
 
 void QBTextArea::contextMenuEvent(QContextMenuEvent* event)

@@ -3,6 +3,8 @@
 // what the user made of it.
 #pragma once
 
+#include "ui/controls/TypedCode.h"
+
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -30,6 +32,8 @@ public:
     void setBare(bool bare);
     /// Pixels at the right end that no text runs into: something lies there.
     void setRoomAtEnd(int pixels);
+    /// Codes that are typed here become their texts, each as one step that Undo takes back.
+    void setCodes(const CodeTexts& codes) { m_codes = codes; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -37,12 +41,15 @@ protected:
     /// What Paste does, from the keyboard and from the menu.
     virtual void pasteText() { paste(); }
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void restyle();
     QRect textRect() const;
+    void replaceCode();
+    void deselectCode();
 
     HoverFade* m_fade;
     QObject* m_ring = nullptr;
@@ -52,6 +59,8 @@ private:
     bool m_bare = false;
     int m_roomAtEnd = 0;
     bool m_italicPlaceholder = false;
+    CodeTexts m_codes;
+    QString m_replacedCode;  ///< the one that was last replaced, with its signs
 };
 
 /// A plain multi-line field at least 54 points high that grows with its text. Tab leaves it. Actions that are added
@@ -69,6 +78,8 @@ public:
     void setEdited(bool edited);
     /// As QBTextField::setRoomAtEnd(); of all lines.
     void setRoomAtEnd(int pixels);
+    /// As QBTextField::setCodes().
+    void setCodes(const CodeTexts& codes) { m_codes = codes; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -83,16 +94,20 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
 
 private:
     void restyle();
     void grow();
+    void replaceCode();
 
     HoverFade* m_fade;
     int m_roomAtEnd = 0;
     bool m_edited = false;
     bool m_italicPlaceholder = false;
     bool m_binding = false;
+    CodeTexts m_codes;
 };
 
 }  // namespace Quorbel

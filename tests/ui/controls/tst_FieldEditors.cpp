@@ -55,6 +55,32 @@ struct KeywordOwner {
     QStringList added{};
 };
 
+// js and AB stand for something.
+std::optional<QString> codeText(const QString& code)
+{
+    static const QMap<QString, QString> texts{ { u"js"_s, u"Jane = Smith"_s }, { u"AB"_s, u"Ana"_s } };
+    return texts.contains(code) ? std::optional(texts.value(code)) : std::nullopt;
+}
+
+// What somebody does in a field whose codes are known: letters are typed, "<" is Undo, ">" Redo, "^" goes to the
+// beginning, "|" pastes "=js=".
+template <typename Field>
+QString typed(Field* field, const QString& keys)
+{
+    for (const QChar key : keys) {
+        if (key == u'<' || key == u'>')
+            QTest::keySequence(field, key == u'<' ? QKeySequence::Undo : QKeySequence::Redo);
+        else if (key == u'^')
+            QTest::keyClick(field, Qt::Key_Home);
+        else if (key == u'|')
+            QTest::keySequence(field, QKeySequence::Paste);
+        else
+            QTest::keyClick(field, key.toLatin1());
+    }
+    return field->property("plainText").isValid() ? field->property("plainText").toString()
+                                                  : field->property("text").toString();
+}
+
 QList<QWidget*> boxes(QWidget* parent, const QList<QSize>& sizes)
 {
     QList<QWidget*> made;
@@ -122,6 +148,80 @@ private slots:
         keywords->installEventFilter(&count);
         QTest::qWait(100);
         QVERIFY2(count.requests < 10, qPrintable(QString::number(count.requests)));
+    }
+
+    void codesBecomeTexts_data()
+    {
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("text");
+        const auto row = [](const char* name, const QString& keys, const QString& text) {
+            QTest::newRow(name) << keys << text;
+        };
+        row("alone", u"=js="_s, u"Jane = Smith"_s);
+        row("among words", u"by =js=, and =AB=!"_s, u"by Jane = Smith, and Ana!"_s);
+        row("in a word", u"x=AB=y"_s, u"xAnay"_s);
+        row("in front of words", u"end^=AB="_s, u"Anaend"_s);
+        row("undone once", u"by =js=<"_s, u"by =js="_s);
+        row("undone, and typed on", u"by =js=< x"_s, u"by =js= x"_s);
+        row("undone and done again", u"by =js=<> x"_s, u"by Jane = Smith x"_s);
+        row("another one after it was undone", u"=js=< =AB="_s, u"=js= Ana"_s);
+        row("not known", u"=zz= x"_s, u"=zz= x"_s);
+        row("another case is another's business", u"=ab="_s, u"=ab="_s);
+        row("empty", u"a == b"_s, u"a == b"_s);
+        row("twice the first sign", u"==js="_s, u"=Jane = Smith"_s);
+        row("blanks", u"a = AB = c"_s, u"a = AB = c"_s);
+        row("web addresses", u"http://x.y/?a=js=b www.x?c=AB= =AB="_s, u"http://x.y/?a=js=b www.x?c=AB= Ana"_s);
+        row("pasted", u"|"_s, u"=js="_s);
+        row("pasted, then a sign", u"|="_s, u"=js=="_s);
+    }
+    void codesBecomeTexts()
+    {
+        QFETCH(QString, keys);
+        QFETCH(QString, text);
+        QGuiApplication::clipboard()->setText(u"=js="_s);
+        Test::Stage stage;
+        auto* field = stage.add(new QBTextField);
+        auto* area = stage.add(new QBTextArea);
+        auto* keywords = stage.add(new KeywordEditor);
+        stage.show();
+        for (const auto& set :
+            QList<std::function<void(const CodeTexts&)>>{ [&](const CodeTexts& t) { field->setCodes(t); },
+                [&](const CodeTexts& t) { area->setCodes(t); }, [&](const CodeTexts& t) { keywords->setCodes(t); } })
+            set(codeText);
+        const QSignalSpy told(field, &QLineEdit::textEdited);
+        QCOMPARE(typed(field, keys), text);
+        QCOMPARE(told.constLast().constFirst(), text);
+        const QSignalSpy toldOfArea(area, &QBTextArea::textEdited);
+        QCOMPARE(typed(area, keys), text);
+        QCOMPARE(toldOfArea.constLast().constFirst(), text);
+        QCOMPARE(typed(keywords->entry(), keys), text);
+    }
+
+    // Some input methods hand over each letter, some whole words; what is only composed is not typed yet.
+    void inputMethodsFinishCodes()
+    {
+        Test::Stage stage;
+        auto* field = stage.add(new QBTextField);
+        auto* area = stage.add(new QBTextArea);
+        stage.show();
+        field->setCodes(codeText);
+        area->setCodes(codeText);
+        const auto commit = [](QWidget* widget, const QString& text, const QString& composed = {}) {
+            QInputMethodEvent event(composed, {});
+            event.setCommitString(text);
+            QApplication::sendEvent(widget, &event);
+        };
+        for (QWidget* widget : QList<QWidget*>{ field, area }) {
+            widget->setFocus();
+            commit(widget, u"=AB"_s);
+            commit(widget, {}, u"="_s);
+            commit(widget, u"="_s);
+        }
+        QCOMPARE(field->text(), u"Ana"_s);
+        QCOMPARE(area->text(), u"Ana"_s);
+        field->setReadOnly(true);
+        QTest::keyClicks(field, u"=AB="_s);
+        QCOMPARE(field->text(), u"Ana"_s);
     }
 
     void editedFieldsAreAmber_data()

@@ -152,6 +152,11 @@ void KeywordEditor::setCompletions(Completions completions)
     m_completions = std::move(completions);
 }
 
+void KeywordEditor::setCodes(const CodeTexts& codes)
+{
+    m_entry->setCodes(codes);
+}
+
 QLineEdit* KeywordEditor::entry() const
 {
     return m_entry;

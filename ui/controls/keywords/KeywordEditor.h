@@ -3,6 +3,7 @@
 // setChips() then says.
 #pragma once
 
+#include "ui/controls/TypedCode.h"
 #include "ui/controls/keywords/KeywordSuggestion.h"
 
 #include <QMap>
@@ -44,6 +45,8 @@ public:
     void setEdited(bool edited);
     void setPlaceholder(const QString& text);
     void setCompletions(Completions completions);
+    /// As QBTextField::setCodes(), of the entry.
+    void setCodes(const CodeTexts& codes);
     /// Where one types: what takes the keyboard. No focus proxy of the editor: Qt gives Tab to a widget with a proxy
     /// as well, at the place where it was made.
     QLineEdit* entry() const;

@@ -1,0 +1,90 @@
+#include "core/words/CodeList.h"
+
+#include "core/text/CodePage1252.h"
+
+#include <QStringDecoder>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype mostShown = 30;  // characters of a line that a note repeats
+
+QString shortened(const QString& line)
+{
+    return u'“' + (line.size() > mostShown ? line.left(mostShown) + u'…' : line) + u'”';
+}
+
+}  // namespace
+
+CodeList CodeList::parse(const QByteArray& bytes)
+{
+    CodeList list;
+    const auto marked = QStringConverter::encodingForData(bytes);
+    QStringDecoder decoder(marked.value_or(QStringConverter::Utf8));
+    QString text = decoder(bytes);
+    if (decoder.hasError() && !marked) {
+        text = CodePage1252::decoded(bytes);
+        list.note(u"The file is not UTF-8: it was read as Windows Latin 1."_s);
+    } else if (decoder.hasError()) {
+        list.note(u"Some characters of the file could not be read."_s);
+    }
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+    int number = 0;
+    for (const QString& line : text.split(u'\n'))
+        list.take(line, ++number);
+    if (list.m_untold > 0)
+        list.m_notes.append(
+            list.m_untold == 1 ? u"1 more line like these."_s : u"%1 more lines like these."_s.arg(list.m_untold));
+    return list;
+}
+
+void CodeList::take(const QString& line, int number)
+{
+    if (line.trimmed().isEmpty())
+        return;
+    if (!line.contains(u'\t')) {
+        if (!line.startsWith(u'#'))
+            note(u"Line %1 has no tab: %2"_s.arg(number).arg(shortened(line.trimmed())));
+        return;
+    }
+    const QString code = line.section(u'\t', 0, 0).trimmed();
+    const QString text = line.section(u'\t', 1, 1).trimmed();
+    if (code.isEmpty())
+        return note(u"Line %1 has no code in front of its tab."_s.arg(number));
+    if (text.isEmpty())
+        return note(u"Line %1 has no text for %2."_s.arg(number).arg(shortened(code)));
+    if (code.contains(u'='))
+        return note(u"Line %1: nobody can type a code with “=” in it: %2"_s.arg(number).arg(shortened(code)));
+    if (code.size() > longestCode)
+        return note(
+            u"Line %1: a code has at most %2 characters: %3"_s.arg(number).arg(longestCode).arg(shortened(code)));
+    if (const auto before = m_lines.constFind(code); before != m_lines.cend())
+        note(u"%1 is there twice, in lines %2 and %3: the last one counts."_s.arg(shortened(code))
+                 .arg(*before)
+                 .arg(number));
+    else
+        m_spellings[code.toCaseFolded()].append(code);
+    m_lines.insert(code, number);
+    m_texts.insert(code, text);
+}
+
+void CodeList::note(const QString& text)
+{
+    if (m_notes.size() < mostNotes)
+        m_notes.append(text);
+    else
+        ++m_untold;
+}
+
+std::optional<QString> CodeList::text(const QString& code) const
+{
+    if (const auto exact = m_texts.constFind(code); exact != m_texts.cend())
+        return *exact;
+    const QStringList spellings = m_spellings.value(code.toCaseFolded());
+    return spellings.size() == 1 ? std::optional(m_texts.value(spellings.constFirst())) : std::nullopt;
+}
+
+}  // namespace Quorbel
