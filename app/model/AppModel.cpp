@@ -12,6 +12,7 @@
 #include "app/model/words/QuickKeywords.h"
 #include "core/schema/RecentItems.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QPointer>
 
@@ -30,6 +31,13 @@ std::shared_ptr<RecordCache> cacheFor(const AppModelServices& services)
         return {};
     return std::make_shared<RecordCache>(
         RecordCache::Options{ .folder = services.recordCachePath }, services.service->runner);
+}
+
+// Where the program keeps what lasts from one run to the next; "" where it keeps nothing.
+QString besideLeftEdits(const AppModelServices& services, const QString& name)
+{
+    const QString path = services.leftEditsPath;
+    return path.isEmpty() ? QString() : QFileInfo(path).dir().filePath(name);
 }
 
 DetailsReader::Ask detailsFrom(const AppModelServices& services)
@@ -73,7 +81,8 @@ AppModel::~AppModel() = default;
 // They know the model, so it has to stand.
 void AppModel::makeTools()
 {
-    m_pasting = std::make_unique<FieldPasting>(*this);
+    m_pasting = std::make_unique<FieldPasting>(*this,
+        FieldPasting::Parts{ [this] { return m_editing.unsaved(); }, besideLeftEdits(m_services, u"copied.json"_s) });
     m_templates = std::make_unique<Templates>(*this, m_services.templatesPath, [this] { return m_editing.unsaved(); });
     m_codes = std::make_unique<CodeReplacements>(*this);
     m_quickKeywords = std::make_unique<QuickKeywords>(*this);
