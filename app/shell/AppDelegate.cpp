@@ -1,6 +1,7 @@
 #include "app/shell/AppDelegate.h"
 
 #include "app/model/SelfTest.h"
+#include "app/model/words/CodeReplacements.h"
 #include "app/shell/AboutSheet.h"
 #include "app/shell/FirstPaint.h"
 #include "app/shell/MainWindowDelegate.h"
@@ -17,6 +18,7 @@
 #include "ui/inspector/InspectorView.h"
 #include "ui/sheets/AddFieldSheet.h"
 #include "ui/sheets/MessageSheet.h"
+#include "ui/sheets/PasteFieldsSheet.h"
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
 #include "ui/window/ContentView.h"
@@ -169,9 +171,11 @@ void AppDelegate::buildWindow()
     factories.addField = [&model] { return new AddFieldSheet(model); };
     factories.save = [&model] { return new SaveDialogView(model); };
     factories.rename = [&model] { return new RenameSheet(model); };
+    factories.pasteFields = [this] { return new PasteFieldsSheet(m_app->model(), &m_app->thumbnails()); };
     factories.setInspectorInset = [](QWidget* inspector, int pixels) {
         static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
     };
+    model.codes().setChooser([this](const auto& chosen) { chooseCodeFile(chosen); });
     m_content = new ContentView(model, &m_app->thumbnails(), *m_systemScheme, m_window.get(), factories);
     m_window->setMenuWidget(m_content->bar());
     m_window->setCentralWidget(m_content);
@@ -219,6 +223,18 @@ void AppDelegate::openSettings()
     m_settings->show();
     m_settings->raise();
     m_settings->activateWindow();
+}
+
+// Over the settings, whence one asks for it.
+void AppDelegate::chooseCodeFile(const std::function<void(const QString&)>& chosen)
+{
+    QWidget* window = m_window.get();
+    if (m_settings)
+        window = m_settings;
+    OpenPanel::open(window, Theme::of(window), OpenPanel::Choice::text, [chosen](const QList<QUrl>& urls) {
+        if (!urls.isEmpty())
+            chosen(urls.constFirst().toLocalFile());
+    });
 }
 
 void AppDelegate::openHelp()

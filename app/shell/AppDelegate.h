@@ -45,6 +45,7 @@ private:
     WindowHooks hooks();
     void received(const HandOver& what);
     void openSettings();
+    void chooseCodeFile(const std::function<void(const QString&)>& chosen);
     void openHelp();
     void showAbout();
     void showNotice(const Notice& notice, const std::function<void(qsizetype)>& answered);

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/templates/Templates.h"
+#include "app/model/words/FieldPasting.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/window/ContentView.h"
@@ -177,6 +178,7 @@ void Menus::addEditMenu()
     addEditing(menu, u"Cu&t"_s, QKeySequence::Cut, "cut", canCut);
     addEditing(menu, u"&Copy"_s, QKeySequence::Copy, "copy", hasSelectedText);
     addEditing(menu, u"&Paste"_s, QKeySequence::Paste, "paste", canPaste);
+    addFieldCommands(menu);
     menu->addSeparator();
     addTemplates(menu);
     menu->addSeparator();
@@ -191,6 +193,16 @@ void Menus::addEditMenu()
         add(menu, u"&Search"_s, keysFor(QKeySequence::Find, Qt::CTRL | Qt::Key_F), [this] { m_content.focusSearch(); });
     menu->addSeparator();
     m_agree = add(menu, u"Make Them A&gree"_s, {}, [this] { m_model.requestMakeAgree(); });
+}
+
+void Menus::addFieldCommands(QMenu* menu)
+{
+    m_copyFields =
+        add(menu, u"Copy Fi&elds"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_C }, [this] { m_model.pasting().copy(); });
+    m_pasteFields =
+        add(menu, u"Paste Fiel&ds…"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_V }, [this] { m_model.pasting().ask(); });
+    m_pasteAgain = add(
+        menu, u"Paste Fields Aga&in"_s, { Qt::CTRL | Qt::ALT | Qt::Key_V }, [this] { m_model.pasting().pasteAgain(); });
 }
 
 void Menus::fillBringBack()
@@ -299,6 +311,9 @@ void Menus::followState()
     m_readAgain->setEnabled(any);
     m_agree->setEnabled(m_model.canMakeAgree());
     followTemplates();
+    m_copyFields->setEnabled(m_model.pasting().canCopy());
+    m_pasteFields->setEnabled(m_model.pasting().canPaste());
+    m_pasteAgain->setEnabled(m_model.pasting().canPaste());
     m_disagreements->setEnabled(any);
     m_disagreements->setChecked(m_model.showsDisagreements());
     m_preview->setEnabled(any);

@@ -35,6 +35,7 @@ public:
 private:
     void addFileMenu(const MenuCommands& commands);
     void addEditMenu();
+    void addFieldCommands(QMenu* menu);
     void addViewMenu();
     void addHelpMenu(const MenuCommands& commands);
     ThemedMenu* addMenu(const QString& title);
@@ -64,6 +65,9 @@ private:
     QAction* m_disagreements = nullptr;
     QAction* m_preview = nullptr;
     QAction* m_find = nullptr;
+    QAction* m_copyFields = nullptr;
+    QAction* m_pasteFields = nullptr;
+    QAction* m_pasteAgain = nullptr;
 };
 
 }  // namespace Quorbel

@@ -24,8 +24,28 @@ QString imageFilter()
 
 QString titleFor(OpenPanel::Choice choice)
 {
-    return choice == OpenPanel::Choice::folder ? u"Choose a folder of images. The folders in it are opened as well."_s
-                                               : u"Choose a folder of images, or one or more image files."_s;
+    switch (choice) {
+    case OpenPanel::Choice::folder:
+        return u"Choose a folder of images. The folders in it are opened as well."_s;
+    case OpenPanel::Choice::text:
+        return u"Choose a text file of codes: a code, a tab, and its text in each line."_s;
+    case OpenPanel::Choice::any:
+        break;
+    }
+    return u"Choose a folder of images, or one or more image files."_s;
+}
+
+QFileDialog::FileMode modeFor(OpenPanel::Choice choice)
+{
+    switch (choice) {
+    case OpenPanel::Choice::folder:
+        return QFileDialog::Directory;
+    case OpenPanel::Choice::text:
+        return QFileDialog::ExistingFile;
+    case OpenPanel::Choice::any:
+        break;
+    }
+    return QFileDialog::ExistingFiles;
 }
 
 }  // namespace
@@ -36,12 +56,16 @@ OpenPanel::OpenPanel(Choice choice, QWidget* parent)
 {
     setOptions(DontUseNativeDialog | ReadOnly);
     setOption(ShowDirsOnly, choice == Choice::folder);
-    setFileMode(choice == Choice::folder ? Directory : ExistingFiles);
+    setFileMode(modeFor(choice));
     if (choice == Choice::any)
         setNameFilters({ imageFilter(), u"All files (*)"_s });
-    setLabelText(QFileDialog::Accept, u"Open"_s);
+    if (choice == Choice::text)
+        setNameFilters({ u"Text files (*.txt *.tsv *.tab *.csv)"_s, u"All files (*)"_s });
+    setLabelText(QFileDialog::Accept, choice == Choice::text ? u"Choose"_s : u"Open"_s);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
+    if (choice == Choice::text)
+        return;
     // The dialog disables Open while nothing is selected; here that means the folder that is shown.
     for (auto* box : findChildren<QDialogButtonBox*>())
         if (QPushButton* button = box->button(QDialogButtonBox::Open)) {
@@ -69,6 +93,8 @@ void OpenPanel::open(
 void OpenPanel::accept()
 {
     m_paths = selectedFiles();
+    if (m_choice == Choice::text && (m_paths.isEmpty() || !isGood(m_paths.constFirst())))
+        return QFileDialog::accept();
     if (m_paths.isEmpty())
         m_paths.append(directory().absolutePath());
     for (const QString& path : std::as_const(m_paths))
@@ -80,6 +106,8 @@ void OpenPanel::accept()
 bool OpenPanel::isGood(const QString& path) const
 {
     const QFileInfo file(path);
+    if (m_choice == Choice::text)
+        return file.isFile();
     return m_choice == Choice::folder ? file.isDir() : file.exists();
 }
 

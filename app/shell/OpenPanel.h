@@ -1,4 +1,5 @@
-// The panel in which folders and image files are chosen, several at once, or one folder alone. Thread: the main thread.
+// The panel in which folders and image files are chosen, several at once, or one folder or text file alone. Thread: the
+// main thread.
 #pragma once
 
 #include <QFileDialog>
@@ -18,6 +19,7 @@ public:
     enum class Choice {
         any,  ///< folders and image files, several
         folder,
+        text,  ///< one file of codes
     };
 
     OpenPanel(Choice choice, QWidget* parent);

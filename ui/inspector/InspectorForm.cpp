@@ -1,6 +1,7 @@
 #include "ui/inspector/InspectorForm.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/words/CodeReplacements.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
@@ -299,8 +300,9 @@ FieldRow* InspectorForm::row(const QString& id) const
     return found && !found->isHidden() ? found : nullptr;
 }
 
-FieldRow* InspectorForm::makeRow(const QString& key, const FieldRowParts& parts)
+FieldRow* InspectorForm::makeRow(const QString& key, FieldRowParts parts)
 {
+    parts.codes = m_model.codes().texts();
     auto* row = new FieldRow(parts, this);
     row->hide();
     m_pool.insert(key, row);

@@ -78,7 +78,7 @@ private:
     void showMap(bool fresh);
     void showCamera();
     void announceAdded(bool fresh);
-    FieldRow* makeRow(const QString& key, const FieldRowParts& parts);
+    FieldRow* makeRow(const QString& key, FieldRowParts parts);
     FieldRow* rowOf(const FieldSpec& field);
     FieldRow* rowOf(const FieldSpec& field, const QString& code);
     FieldRow* rowOf(const CustomValue& custom);

@@ -33,9 +33,10 @@ void showText(Field* field, const FieldRowState& state, bool fresh)
     field->setEdited(state.edited);
 }
 
-RowEditor textEditor(FieldRow& row)
+RowEditor textEditor(const CodeTexts& codes, FieldRow& row)
 {
     auto* field = new QBTextField(&row);
+    field->setCodes(codes);
     QObject::connect(field, &QLineEdit::textEdited, &row, &FieldRow::textEdited);
     return { field, field, { field }, [field](const FieldRowState& state, bool fresh) {
                 showText(field, state, fresh);
@@ -43,9 +44,10 @@ RowEditor textEditor(FieldRow& row)
             } };
 }
 
-RowEditor placeEditor(PlaceProvider* places, FieldRow& row)
+RowEditor placeEditor(const FieldRowParts& parts, FieldRow& row)
 {
-    auto* field = new LocationSearchField(places, &row);
+    auto* field = new LocationSearchField(parts.places, &row);
+    field->setCodes(parts.codes);
     QObject::connect(field, &QLineEdit::textEdited, &row, &FieldRow::textEdited);
     QObject::connect(field, &LocationSearchField::picked, &row, &FieldRow::placePicked);
     return { field, field, { field }, [field](const FieldRowState& state, bool fresh) {
@@ -55,17 +57,19 @@ RowEditor placeEditor(PlaceProvider* places, FieldRow& row)
             } };
 }
 
-RowEditor areaEditor(FieldRow& row)
+RowEditor areaEditor(const CodeTexts& codes, FieldRow& row)
 {
     auto* area = new QBTextArea(&row);
+    area->setCodes(codes);
     QObject::connect(area, &QBTextArea::textEdited, &row, &FieldRow::textEdited);
     return { area, area, { area }, [area](const FieldRowState& state, bool fresh) { showText(area, state, fresh); } };
 }
 
-RowEditor keywordEditor(const KeywordEditor::Completions& completions, FieldRow& row)
+RowEditor keywordEditor(const FieldRowParts& parts, FieldRow& row)
 {
     auto* editor = new KeywordEditor(&row);
-    editor->setCompletions(completions);
+    editor->setCompletions(parts.completions);
+    editor->setCodes(parts.codes);
     QObject::connect(editor, &KeywordEditor::added, &row, &FieldRow::itemAdded);
     QObject::connect(editor, &KeywordEditor::removed, &row, &FieldRow::itemRemoved);
     return { editor, editor->entry(), { editor->entry() }, [editor](const FieldRowState& state, bool fresh) {
@@ -141,9 +145,9 @@ RowEditor makeRowEditor(const FieldRowParts& parts, FieldRow& row)
 {
     switch (parts.kind) {
     case FieldKind::multiline:
-        return areaEditor(row);
+        return areaEditor(parts.codes, row);
     case FieldKind::keywords:
-        return keywordEditor(parts.completions, row);
+        return keywordEditor(parts, row);
     case FieldKind::date:
         return dateEditor(parts.now, row);
     case FieldKind::rating:
@@ -154,7 +158,9 @@ RowEditor makeRowEditor(const FieldRowParts& parts, FieldRow& row)
     case FieldKind::coordinates:
         break;
     }
-    return parts.searchesPlaces ? placeEditor(parts.places, row) : textEditor(row);
+    // Codes stand for words, not for numbers.
+    const CodeTexts codes = parts.kind == FieldKind::coordinates ? CodeTexts() : parts.codes;
+    return parts.searchesPlaces ? placeEditor(parts, row) : textEditor(codes, row);
 }
 
 }  // namespace Quorbel

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/schema/FieldSchema.h"
+#include "ui/controls/TypedCode.h"
 #include "ui/controls/keywords/KeywordSuggestion.h"
 #include "ui/inspector/FieldRowState.h"
 
@@ -24,6 +25,7 @@ struct FieldRowParts {
     bool searchesPlaces = false;  ///< a text editor with place suggestions
     PlaceProvider* places = nullptr;  ///< not owned; may be null
     std::function<QList<KeywordSuggestion>(const QString& typed)> completions{};  ///< best first
+    CodeTexts codes{};  ///< what short codes in texts and keywords stand for
     std::function<QDateTime()> now{};  ///< local time for the button "Now"
     bool isLanguage = false;  ///< below the row of its field, and less prominent
 };

@@ -1,6 +1,7 @@
 #include "ui/sheets/AddFieldSheet.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/words/CodeReplacements.h"
 #include "core/schema/CustomFields.h"
 #include "core/text/Text.h"
 #include "ui/controls/Buttons.h"
@@ -55,6 +56,7 @@ AddFieldSheet::AddFieldSheet(AppModel& model, QWidget* parent)
     m_query->setAccessibleName(u"Search fields"_s);
     m_query->setLeadingIcon(u"magnifyingglass"_s);
     m_query->installEventFilter(this);
+    m_value->setCodes(m_model.codes().texts());
     build();
     connect(m_query, &QLineEdit::textChanged, this, &AddFieldSheet::filter);
     connect(m_name, &QLineEdit::textChanged, this, &AddFieldSheet::judgeName);

@@ -1,6 +1,7 @@
 #include "ui/window/ContentView.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/words/FieldPasting.h"
 #include "core/Product.h"
 #include "platform/desktop/SystemScheme.h"
 #include "ui/controls/ResizeHandle.h"
@@ -179,6 +180,8 @@ void ContentView::connectSheets()
     connect(&m_model, &AppModel::addOpenChanged, this, add);
     connect(&m_model, &AppModel::saveOpenChanged, this, save);
     connect(&m_model, &AppModel::renameOpenChanged, this, rename);
+    connect(&m_model.pasting(), &FieldPasting::openChanged, this,
+        [this] { followFlag(m_model.pasting().isOpen(), m_pasteSheet, m_factories.pasteFields); });
     add();
     save();
     rename();

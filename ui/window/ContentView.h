@@ -28,6 +28,7 @@ struct ContentFactories {
     std::function<SheetBody*()> addField{};
     std::function<SheetBody*()> save{};
     std::function<SheetBody*()> rename{};
+    std::function<SheetBody*()> pasteFields{};
     /// Keeps this many pixels at the inspector's lower end free, so that its last rows scroll clear of the banner.
     std::function<void(QWidget* inspector, int pixels)> setInspectorInset{};
 };
@@ -97,6 +98,7 @@ private:
     SheetBody* m_addSheet = nullptr;
     SheetBody* m_saveSheet = nullptr;
     SheetBody* m_renameSheet = nullptr;
+    SheetBody* m_pasteSheet = nullptr;
 };
 
 }  // namespace Quorbel

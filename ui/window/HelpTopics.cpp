@@ -14,6 +14,7 @@ const QList<std::pair<HelpTopic, QString>>& RawValues<HelpTopic>::table()
         { HelpTopic::keywordPaths, u"keywordPaths"_s },
         { HelpTopic::disagreements, u"disagreements"_s },
         { HelpTopic::batch, u"batch"_s },
+        { HelpTopic::copying, u"copying"_s },
         { HelpTopic::renaming, u"renaming"_s },
         { HelpTopic::saving, u"saving"_s },
         { HelpTopic::settings, u"settings"_s },
@@ -146,6 +147,22 @@ Page batchPage()
         } };
 }
 
+Page copyingPage()
+{
+    return { u"Copying Fields & Codes"_s, u"doc"_s,
+        {
+            paragraph(u"What one photo says can be given to others, and texts that you type often can have short "
+                      "codes."_s),
+            bullets({ u"Edit ▸ Copy Fields (⌘⇧C) takes the fields of the selected photo as you see them. Edit ▸ Paste "
+                      "Fields… (⌘⇧V) shows what they would replace in the selected photos, and pastes those that you "
+                      "tick. Nothing is written before you save."_s,
+                u"Edit ▸ Paste Fields Again pastes with the same ticks, without asking. What you copied last is there "
+                "in another window and after a restart, too."_s,
+                u"Choose a file of codes in Settings: a code, a tab and its text in each line. Then type =js= in a "
+                "text or keyword, and js becomes its text. One Undo (⌘Z) gives the code back."_s }),
+        } };
+}
+
 Page renamingPage()
 {
     return { u"Renaming Files"_s, u"textformat"_s,
@@ -200,6 +217,8 @@ Page page(HelpTopic topic)
         return disagreementsPage();
     case HelpTopic::batch:
         return batchPage();
+    case HelpTopic::copying:
+        return copyingPage();
     case HelpTopic::renaming:
         return renamingPage();
     case HelpTopic::saving:

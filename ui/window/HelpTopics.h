@@ -18,6 +18,7 @@ enum class HelpTopic {
     keywordPaths,
     disagreements,
     batch,
+    copying,
     renaming,
     saving,
     settings

@@ -1,6 +1,7 @@
 #include "ui/window/SettingsView.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/words/CodeReplacements.h"
 #include "platform/places/search/PlaceProvider.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
@@ -9,6 +10,7 @@
 #include "ui/controls/Toggles.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/window/CodeFileRow.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -70,6 +72,9 @@ public:
         m_rows->addWidget(row);
     }
 
+    // One that lays itself out.
+    void addRow(QWidget* row) { m_rows->addWidget(row); }
+
 protected:
     void paintEvent(QPaintEvent*) override
     {
@@ -120,6 +125,7 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     addSaving(column);
     addRenaming(column);
     addPlaces(column);
+    addCodes(column);
     column->addStretch();
     area->setContent(page);
     auto* whole = new QVBoxLayout(this);
@@ -176,6 +182,11 @@ void SettingsView::addPlaces(QVBoxLayout* column)
         u"Empty: places are looked up on this computer alone. With the https address of a "
         "Photon-compatible service, what you type in the Place field is sent there; places known here "
         "still come first. Takes effect at the next start."_s);
+}
+
+void SettingsView::addCodes(QVBoxLayout* column)
+{
+    addGroup(column, u"Code replacements"_s)->addRow(new CodeFileRow(m_model.codes()));
 }
 
 QWidget* SettingsView::appearancePicker()

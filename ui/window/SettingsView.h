@@ -28,6 +28,7 @@ private:
     void addSaving(QVBoxLayout* column);
     void addRenaming(QVBoxLayout* column);
     void addPlaces(QVBoxLayout* column);
+    void addCodes(QVBoxLayout* column);
     QWidget* appearancePicker();
     QWidget* patternField();
     QWidget* placeServiceField();

@@ -1,4 +1,6 @@
 // What the program puts around the content: menus and keys, closing, settings, help, files from a command line.
+#include "app/model/words/CodeReplacements.h"
+#include "app/model/words/FieldPasting.h"
 #include "app/shell/AppDelegate.h"
 #include "app/shell/MainWindowDelegate.h"
 #include "app/shell/Menus.h"
@@ -15,6 +17,7 @@
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
 
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QLabel>
@@ -38,6 +41,7 @@ private slots:
     void shortcuts();
     void renameFollowsItsCauses();
     void selectAllIsTheFieldsFirst();
+    void fieldsAreCopiedFromWithinAText();
     void recentItems();
     void editsAreBroughtBack();
     void photosThatDisagreeAreListed();
@@ -52,6 +56,7 @@ private slots:
     void filesFromACommandLine_data();
     void filesFromACommandLine();
     void settingsShowAndWritePreferences();
+    void settingsTellOfCodes();
     void onlySecureAddressesOfAPlaceServiceAreKept();
     void helpNamesThisPlatformsKeys();
     void noticesAnswer();
@@ -152,6 +157,43 @@ void tst_Shell::selectAllIsTheFieldsFirst()
     fixture.window->findChild<SidebarList*>()->setFocus();
     QTest::keyClick(fixture.window->focusWidget(), Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(fixture.model->selection().size(), 2);
+}
+
+// The keys are ours, although a text knows a plain paste of its own.
+void tst_Shell::fieldsAreCopiedFromWithinAText()
+{
+    WindowFixture fixture;
+    new Menus(*fixture.model.model, *fixture.content, {});
+    fixture.show();
+    QVERIFY(!action(fixture, u"Copy Fields"_s)->isEnabled() && !action(fixture, u"Paste Fields…"_s)->isEnabled());
+    fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
+    auto* line = fixture.window->findChild<QLineEdit*>(u"field"_s);
+    auto* area = new QBTextArea(fixture.inspector);
+    auto* ours = new QBTextField(fixture.inspector);
+    for (QWidget* widget : QList<QWidget*>{ area, ours }) {
+        widget->move(0, widget == area ? 60 : 30);
+        widget->show();
+    }
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers more) {
+        QTest::keyClick(fixture.window->focusWidget(), key, Qt::ControlModifier | more);
+    };
+    for (QWidget* widget : QList<QWidget*>{ line, ours, area, fixture.window->findChild<SidebarList*>() }) {
+        QCOMPARE(fixture.model.primary(), u"a.jpg"_s);
+        widget->setFocus();
+        QApplication::clipboard()->clear();
+        press(Qt::Key_C, Qt::ShiftModifier);
+        QVERIFY2(QApplication::clipboard()->text().contains(u"a.jpg"_s), widget->metaObject()->className());
+        fixture.model.click(u"b.jpg"_s);
+        widget->setFocus();
+        press(Qt::Key_V, Qt::ShiftModifier);
+        QVERIFY(fixture.model->pasting().isOpen());
+        fixture.model->pasting().close();
+        press(Qt::Key_V, Qt::AltModifier);
+        QCOMPARE(fixture.model->draftValues().value(u"title"_s), u"a.jpg"_s);
+        fixture.model.click(u"a.jpg"_s);
+        fixture.model->discardSaveDialog();
+    }
+    QVERIFY(line->text().isEmpty() && ours->text().isEmpty() && area->text().isEmpty());
 }
 
 void tst_Shell::recentItems()
@@ -455,6 +497,28 @@ void tst_Shell::settingsShowAndWritePreferences()
     QCOMPARE(appearance->currentIndex(), 0);
 }
 
+void tst_Shell::settingsTellOfCodes()
+{
+    ModelFixture model(std::nullopt);
+    const PhotoFolder folder;
+    const QString path = folder.path(u"players.txt"_s);
+    writeFile(path, "js\tJane\nab Ana\n");
+    model->codes().setChooser([&path](const auto& chosen) { chosen(path); });
+    SettingsView view(*model.model);
+    view.show();
+    QVERIFY(labels(&view).contains(u"No file"_s));
+    QVERIFY(!button(&view, u"Clear"_s)->isEnabled());
+    click(button(&view, u"Choose…"_s));
+    QTRY_VERIFY(labels(&view).contains(u"1 code."_s));
+    QVERIFY(labels(&view).contains(u"players.txt"_s) && labels(&view).contains(u"Line 2 has no tab: “ab Ana”"_s));
+    QVERIFY(QFile::remove(path));
+    QTRY_VERIFY(labels(&view).contains(u"“players.txt” is not there any more."_s));
+    QVERIFY(!labels(&view).contains(u"Line 2 has no tab: “ab Ana”"_s));
+    click(button(&view, u"Clear"_s));
+    QVERIFY(labels(&view).contains(u"No file"_s));
+    QCOMPARE(model->codes().file(), QString());
+}
+
 void tst_Shell::onlySecureAddressesOfAPlaceServiceAreKept()
 {
     ModelFixture model(std::nullopt);
@@ -497,8 +561,8 @@ void tst_Shell::helpNamesThisPlatformsKeys()
     }
     QCOMPARE(titles,
         (QStringList{ u"Getting Started"_s, u"The Interface"_s, u"Editing Metadata"_s, u"Several Languages"_s,
-            u"Keyword Paths"_s, u"Places That Disagree"_s, u"Batch Editing"_s, u"Renaming Files"_s,
-            u"Saving & Backups"_s, u"Settings"_s }));
+            u"Keyword Paths"_s, u"Places That Disagree"_s, u"Batch Editing"_s, u"Copying Fields & Codes"_s,
+            u"Renaming Files"_s, u"Saving & Backups"_s, u"Settings"_s }));
     for (const QString& foreign : { u"⌘"_s, u"⇧"_s, u"Finder"_s })
         QVERIFY2(!text.contains(foreign), qPrintable(foreign));
     QVERIFY(text.contains(u"Choose File ▸ Open… (Ctrl+O), or drag photos onto the window."_s));

@@ -1,5 +1,6 @@
 // The add-field sheet, the save dialog and the rename sheet, presented over a window and used.
 #include "app/model/AppModel.h"
+#include "app/model/words/FieldPasting.h"
 #include "tests/app/model/ModelFixture.h"
 #include "tests/ui/UiSupport.h"
 #include "ui/controls/Buttons.h"
@@ -7,10 +8,13 @@
 #include "ui/controls/Toggles.h"
 #include "ui/sheets/AddFieldSheet.h"
 #include "ui/sheets/AddableFieldList.h"
+#include "ui/sheets/PasteFieldRow.h"
+#include "ui/sheets/PasteFieldsSheet.h"
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
 
 #include <QAccessible>
+#include <QClipboard>
 #include <QLabel>
 
 using namespace Quorbel;
@@ -85,6 +89,8 @@ private slots:
     void saveDialogAnswers_data();
     void saveDialogAnswers();
     void saveDialogRemembersNotToAsk();
+    void pastingIsAskedAbout();
+    void pastingByKeys();
     void renameBuildsAPattern();
     void renameAnswers_data();
     void renameAnswers();
@@ -274,6 +280,92 @@ void tst_Sheets::saveDialogRemembersNotToAsk()
     QVERIFY(several->isChecked());
     QVERIFY(desk.model().batchDontAskSession());
     QVERIFY(!desk.model().preferences().saveDontAsk());
+}
+
+// What the sheet tells of three photos, one of which has a title, and then of one.
+void tst_Sheets::pastingIsAskedAbout()
+{
+    SheetFixture desk(jpgs(u"abc"_s));
+    desk.photos.services.now = [] { return QDateTime(QDate(2026, 5, 9), QTime(18, 0)); };
+    desk.photos.relaunch();
+    QVERIFY(desk.open());
+    const auto copied = [](const QByteArray& day, const QByteArray& fields) {
+        const QByteArray text = R"({"format":"quorbel-fields","version":1,"photo":"/p/IMG_4021.jpg","copied":")" + day
+            + R"(T17:42:00","fields":{)" + fields + "}}";
+        QApplication::clipboard()->setText(QString::fromUtf8(text));
+    };
+    copied("2026-05-09", R"("title":"Last\nlight","rating":"4","date":"2024-10-12 17:48","keywords":["lake","dusk"])");
+    desk.model().selectAllPhotos();
+    FieldPasting& pasting = desk.model().pasting();
+    pasting.ask();
+    auto* sheet = new PasteFieldsSheet(desk.model(), nullptr);
+    desk.host->present(sheet);
+    QCOMPARE(sheet->title(), u"Paste Fields to 3 Photos"_s);
+    QCOMPARE(labels(sheet),
+        (QStringList{ u"From IMG_4021.jpg"_s, u"Copied today, 17:42"_s, u"Title"_s, u"Last light"_s,
+            u"Replaces 3 titles"_s, u"Keywords"_s, u"lake, dusk"_s, u"Adds to the keywords of 3"_s, u"Date taken"_s,
+            u"2024-10-12 17:48"_s, u"Would fill 3"_s, u"Rating"_s, u"Fills 3"_s,
+            u"Nothing is written before Apply."_s }));
+    const auto* tick = sheet->findChild<QBCheckbox*>();
+    QCOMPARE(tick->accessibleName(), u"Title"_s);
+    QCOMPARE(tick->accessibleDescription(), u"Last light. Replaces 3 titles"_s);
+    QCOMPARE(QAccessible::queryAccessibleInterface(sheet->findChild<QBCheckbox*>())->role(), QAccessible::CheckBox);
+    click(button(sheet, u"None"_s));
+    QVERIFY(!button(sheet, u"Paste Fields"_s)->isEnabled());
+    sheet->confirm();
+    QVERIFY(pasting.isOpen());
+    click(button(sheet, u"All"_s));
+    QVERIFY(labels(sheet).contains(u"Fills 3"_s));
+    click(button(sheet, u"Paste 4 Fields"_s));
+    QVERIFY(!pasting.isOpen());
+    QCOMPARE(desk.model().unsavedCount(), 4);
+    desk.host->dismiss(sheet);
+    desk.model().discardSaveDialog();
+
+    desk.photos.click(u"b.jpg"_s);
+    if (desk.model().saveOpen())
+        desk.model().discardSaveDialog();
+    copied("2026-05-08", R"("title":"Lake","custom:Mood":"calm")");
+    pasting.ask();
+    auto* ofOne = new PasteFieldsSheet(desk.model(), nullptr);
+    desk.host->present(ofOne);
+    QCOMPARE(ofOne->title(), u"Paste Fields to b.jpg"_s);
+    QCOMPARE(labels(ofOne).mid(1),
+        (QStringList{ u"Copied yesterday, 17:42"_s, u"Title"_s, u"Lake"_s, u"Replaces “b.jpg”"_s, u"Mood"_s, u"calm"_s,
+            u"Fills the empty field"_s, u"Nothing is written before Save."_s }));
+}
+
+// Space ticks, the arrows go from row to row, Return pastes, Escape does not.
+void tst_Sheets::pastingByKeys()
+{
+    SheetFixture desk(jpgs(u"ab"_s));
+    QVERIFY(desk.open());
+    QApplication::clipboard()->setText(
+        u"{\"format\":\"quorbel-fields\",\"version\":1,\"fields\":{\"title\":\"T\",\"place\":\"P\"}}"_s);
+    desk.model().selectAllPhotos();
+    FieldPasting& pasting = desk.model().pasting();
+    for (const Qt::Key last : { Qt::Key_Escape, Qt::Key_Return }) {
+        pasting.ask();
+        auto* sheet = new PasteFieldsSheet(desk.model(), nullptr);
+        desk.host->present(sheet);
+        QCOMPARE(QApplication::focusWidget(), sheet->findChild<QBCheckbox*>());
+        press(Qt::Key_Down);
+        press(Qt::Key_Down);
+        press(Qt::Key_Space);
+        QCOMPARE(pasting.tickedCount(), 1);
+        press(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), button(sheet, u"Cancel"_s));
+        press(Qt::Key_Backtab);
+        auto* row = sheet->findChildren<PasteFieldRow*>().at(1);
+        QCOMPARE(QApplication::focusWidget(), row->tick());
+        QTest::mouseClick(row, Qt::LeftButton, {}, QPoint(row->width() / 2, row->height() / 2));
+        QCOMPARE(pasting.tickedCount(), 2);
+        press(Qt::Key_Space);
+        press(last);
+        QVERIFY(!pasting.isOpen());
+        desk.host->dismiss(sheet);
+        QCOMPARE(desk.model().batchInclude(), last == Qt::Key_Return ? QSet<QString>{ u"title"_s } : QSet<QString>());
+    }
 }
 
 void tst_Sheets::renameBuildsAPattern()

@@ -1,5 +1,6 @@
 // The whole window at the sizes of text that a desktop offers: nothing is cut off, shortened or covered that is not at
 // the usual size. QT_SCALE_FACTOR is the caller's: the test is run once for each of several.
+#include "app/model/words/FieldPasting.h"
 #include "tests/ui/LayoutAudit.h"
 #include "tests/ui/inspector/HalfRead.h"
 #include "tests/ui/window/WindowFixture.h"
@@ -8,11 +9,13 @@
 #include "ui/controls/attached/MarkButton.h"
 #include "ui/sheets/AddFieldSheet.h"
 #include "ui/sheets/MessageSheet.h"
+#include "ui/sheets/PasteFieldsSheet.h"
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
 
+#include <QClipboard>
 #include <QDir>
 #include <QFileInfo>
 #include <QListWidget>
@@ -31,6 +34,10 @@ using Scenes = QMap<QString, LayoutAudit>;
 
 const QString longMessage = u"Saved 2 of 3 photos. 2x3_b.jpg: Error: Not a valid JPG (looks more like a TXT). The "
                             "other photos hold what you typed, and nothing was lost."_s;
+
+const QString copiedFields =
+    u"{\"format\":\"quorbel-fields\",\"version\":1,\"photo\":\"/p/2x2.jpg\",\"fields\":{\"title\":\"4x4 light\","
+    "\"rating\":\"3\",\"keywords\":[\"3x3\",\"lake\"],\"copyright\":\"© 2024 Mara Lindqvist\",\"date\":\"2024-10-12 17:48\"}}"_s;
 
 // The screen that the test brings along says this at every change of every window.
 void dropSizeHintMessages()
@@ -60,6 +67,7 @@ std::unique_ptr<QMainWindow> makeWindow(InspectorFixture& f, SystemScheme& schem
     factories.addField = [&f] { return new AddFieldSheet(f.model()); };
     factories.save = [&f] { return new SaveDialogView(f.model()); };
     factories.rename = [&f] { return new RenameSheet(f.model()); };
+    factories.pasteFields = [&f] { return new PasteFieldsSheet(f.model(), nullptr); };
     factories.setInspectorInset = [](QWidget* inspector, int pixels) {
         static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
     };
@@ -186,6 +194,10 @@ private:
         model.requestSave();
         look(seen, u"apply"_s);
         model.cancelSaveDialog();
+        QApplication::clipboard()->setText(copiedFields);
+        model.pasting().ask();
+        look(seen, u"paste"_s);
+        model.pasting().close();
         model.toggleBatchInclude(u"copyright"_s);
         model.toggleBatchInclude(u"description"_s);
         model.clearBatchList(u"keywords"_s);
