@@ -8,6 +8,7 @@
 #include "app/shell/Menus.h"
 #include "app/shell/OpenPanel.h"
 #include "app/shell/SessionEnd.h"
+#include "app/shell/TemplatePanels.h"
 #include "app/shell/TerminationSignals.h"
 #include "core/Product.h"
 #include "platform/desktop/Compositor.h"
@@ -21,6 +22,7 @@
 #include "ui/sheets/PasteFieldsSheet.h"
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
+#include "ui/templates/TemplatesSheet.h"
 #include "ui/window/ContentView.h"
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
@@ -172,6 +174,8 @@ void AppDelegate::buildWindow()
     factories.save = [&model] { return new SaveDialogView(model); };
     factories.rename = [&model] { return new RenameSheet(model); };
     factories.pasteFields = [this] { return new PasteFieldsSheet(m_app->model(), &m_app->thumbnails()); };
+    factories.templates = [&model] { return new TemplatesSheet(model); };
+    model.templates().panels = templatePanels(m_window.get());
     factories.setInspectorInset = [](QWidget* inspector, int pixels) {
         static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
     };

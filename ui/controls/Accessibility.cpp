@@ -1,11 +1,14 @@
 #include "ui/controls/Accessibility.h"
 
 #include "ui/controls/Buttons.h"
+#include "ui/controls/ChoicePicker.h"
 #include "ui/controls/OffsetPicker.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/SuggestionList.h"
 #include "ui/controls/Toggles.h"
+#include "ui/controls/tokens/TokenEdit.h"
+#include "ui/controls/tokens/TokenEditAccess.h"
 
 #include <QAccessibleWidget>
 #include <QHash>
@@ -269,7 +272,7 @@ QAccessibleInterface* describeButton(QAbstractButton* button)
 {
     if (qobject_cast<QBCheckbox*>(button) || qobject_cast<QBSwitch*>(button))
         return new ButtonDescription(button, QAccessible::CheckBox);
-    if (qobject_cast<OffsetPicker*>(button))
+    if (qobject_cast<OffsetPicker*>(button) || qobject_cast<ChoicePicker*>(button))
         return new ButtonDescription(button, QAccessible::ButtonMenu);
     return new ButtonDescription(button, QAccessible::Button);
 }
@@ -296,6 +299,8 @@ QAccessibleInterface* describe(const QString& className, QObject* object)
         return new PickerDescription(picker);
     if (auto* list = qobject_cast<SuggestionList*>(object))
         return new SuggestionListDescription(list);
+    if (auto* edit = qobject_cast<TokenEdit*>(object))
+        return new TokenEditAccess(edit);
     for (const QMetaObject* type = object->metaObject(); type; type = type->superClass()) {
         if (const auto role = rolesOfClasses().constFind(type); role != rolesOfClasses().cend())
             return new RoleDescription(widget, *role);

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/words/FieldPasting.h"
+#include "app/model/templates/Templates.h"
 #include "core/Product.h"
 #include "platform/desktop/SystemScheme.h"
 #include "ui/controls/ResizeHandle.h"
@@ -182,6 +183,8 @@ void ContentView::connectSheets()
     connect(&m_model, &AppModel::renameOpenChanged, this, rename);
     connect(&m_model.pasting(), &FieldPasting::openChanged, this,
         [this] { followFlag(m_model.pasting().isOpen(), m_pasteSheet, m_factories.pasteFields); });
+    connect(&m_model.templates(), &Templates::openChanged, this,
+        [this] { followFlag(m_model.templates().isOpen(), m_templatesSheet, m_factories.templates); });
     add();
     save();
     rename();

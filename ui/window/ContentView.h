@@ -29,6 +29,7 @@ struct ContentFactories {
     std::function<SheetBody*()> save{};
     std::function<SheetBody*()> rename{};
     std::function<SheetBody*()> pasteFields{};
+    std::function<SheetBody*()> templates{};
     /// Keeps this many pixels at the inspector's lower end free, so that its last rows scroll clear of the banner.
     std::function<void(QWidget* inspector, int pixels)> setInspectorInset{};
 };
@@ -99,6 +100,7 @@ private:
     SheetBody* m_saveSheet = nullptr;
     SheetBody* m_renameSheet = nullptr;
     SheetBody* m_pasteSheet = nullptr;
+    SheetBody* m_templatesSheet = nullptr;
 };
 
 }  // namespace Quorbel

@@ -15,6 +15,7 @@ const QList<std::pair<HelpTopic, QString>>& RawValues<HelpTopic>::table()
         { HelpTopic::disagreements, u"disagreements"_s },
         { HelpTopic::batch, u"batch"_s },
         { HelpTopic::copying, u"copying"_s },
+        { HelpTopic::templates, u"templates"_s },
         { HelpTopic::renaming, u"renaming"_s },
         { HelpTopic::saving, u"saving"_s },
         { HelpTopic::settings, u"settings"_s },
@@ -163,6 +164,22 @@ Page copyingPage()
         } };
 }
 
+Page templatesPage()
+{
+    return { u"Templates"_s, u"doc"_s,
+        {
+            paragraph(u"A template fills fields of the selected photos with texts that each photo completes: “Race "
+                      "%Counter% off %Place|Zürich%”. Make one in Edit ▸ Templates, or from a photo with Save as "
+                      "Template…"_s),
+            bullets({ u"⌘1 to ⌘9 apply the templates that have these keys. What they fill in are edits, written when "
+                      "you save."_s,
+                u"Each field is set, set only if it is empty, or gains the text behind or before its own."_s,
+                u"Tokens stand for what the photo says: all fields, the camera, %Filename% and %Counter%. Double-click "
+                "one to give it a form, such as d MMMM yyyy, and a text for photos that lack the value."_s,
+                u"Each template is a file. Drag one out of the list to pass it on, and drop files in to import them."_s }),
+        } };
+}
+
 Page renamingPage()
 {
     return { u"Renaming Files"_s, u"textformat"_s,
@@ -219,6 +236,8 @@ Page page(HelpTopic topic)
         return batchPage();
     case HelpTopic::copying:
         return copyingPage();
+    case HelpTopic::templates:
+        return templatesPage();
     case HelpTopic::renaming:
         return renamingPage();
     case HelpTopic::saving:

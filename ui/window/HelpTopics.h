@@ -19,6 +19,7 @@ enum class HelpTopic {
     disagreements,
     batch,
     copying,
+    templates,
     renaming,
     saving,
     settings

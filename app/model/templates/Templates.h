@@ -21,6 +21,13 @@ public:
     Templates(AppModel& model, const QString& folder, std::function<Edits()> unsaved);
     ~Templates() override;
 
+    /// Asks for files. Set by the shell; empty where nobody can be asked.
+    struct Panels {
+        std::function<void(std::function<void(const QStringList& paths)>)> import{};
+        std::function<void(const QString& name, std::function<void(const QString& path)>)> exportTo{};
+    };
+    Panels panels{};
+
     TemplateStore& store() { return m_store; }
     const TemplateStore& store() const { return m_store; }
 

@@ -1,21 +1,30 @@
-// The add-field sheet, the save dialog and the rename sheet, presented over a window and used.
+// The add-field sheet, the save dialog, the rename sheet and the templates, presented over a window and used.
 #include "app/model/AppModel.h"
 #include "app/model/words/FieldPasting.h"
+#include "app/model/templates/Templates.h"
 #include "tests/app/model/ModelFixture.h"
 #include "tests/ui/UiSupport.h"
 #include "ui/controls/Buttons.h"
+#include "ui/controls/ChoicePicker.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/Toggles.h"
+#include "ui/controls/attached/SearchMenu.h"
+#include "ui/controls/tokens/TokenEdit.h"
 #include "ui/sheets/AddFieldSheet.h"
 #include "ui/sheets/AddableFieldList.h"
 #include "ui/sheets/PasteFieldRow.h"
 #include "ui/sheets/PasteFieldsSheet.h"
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
+#include "ui/templates/PreviewRow.h"
+#include "ui/templates/TemplateList.h"
+#include "ui/templates/TemplatesSheet.h"
+#include "ui/templates/TokenPopover.h"
 
 #include <QAccessible>
 #include <QClipboard>
 #include <QLabel>
+#include <QMimeData>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -72,6 +81,48 @@ void press(Qt::Key key)
     QTest::keyClick(QApplication::focusWidget(), key);
 }
 
+// The sheet over three photos, with this template chosen.
+struct TemplatesFixture : SheetFixture {
+    explicit TemplatesFixture(const Template& value)
+        : SheetFixture(jpgs(u"abc"_s))
+    {
+        window.resize(960, 800);
+        photos.services.templatesPath = photos.settings.filePath(u"templates"_s);
+        photos.relaunch();
+        if (!value.name.isEmpty())
+            templates().store().add(value);
+    }
+    Templates& templates() { return model().templates(); }
+    TemplatesSheet* show()
+    {
+        if (!open())
+            return nullptr;
+        model().selectAllPhotos();
+        templates().choose(templates().store().all().isEmpty() ? 0 : templates().store().all().first().id);
+        return present<TemplatesSheet>();
+    }
+    const Template& value() { return templates().store().find(templates().current())->value(); }
+};
+
+TokenEdit* text(const QWidget* sheet, const QString& name)
+{
+    for (auto* candidate : sheet->findChildren<TokenEdit*>())
+        if (candidate->accessibleName() == name)
+            return candidate;
+    return nullptr;
+}
+
+// What the preview says, a line a field: "Title: Race 1 (kept: not empty)".
+QStringList preview(const QWidget* sheet)
+{
+    QStringList lines;
+    for (const auto* row : sheet->findChildren<PreviewRow*>())
+        if (row->isVisible())
+            lines.append(row->accessibleName()
+                + (row->accessibleDescription().isEmpty() ? QString() : u" ("_s + row->accessibleDescription() + u')'));
+    return lines;
+}
+
 }  // namespace
 
 class tst_Sheets : public QObject {
@@ -103,6 +154,10 @@ private slots:
     void customNames();
     void customNameThatThePhotoSpellsOtherwise();
     void customFieldIsAdded();
+    void tokensInAText();
+    void tokensAreSpokenByName();
+    void aTemplateIsMadeAndFilled();
+    void templatesAsFiles();
 };
 
 void tst_Sheets::init()
@@ -573,6 +628,146 @@ void tst_Sheets::customFieldIsAdded()
     click(button(sheet, u"Add Field"_s));
     QCOMPARE(desk.model().draftCustoms(), QList<CustomValue>({ { u"Projectcode"_s, u"Q-7"_s } }));
     QVERIFY(!desk.model().addOpen());
+}
+
+// A token counts as one letter: chosen by the first Backspace, gone with the second.
+void tst_Sheets::tokensInAText()
+{
+    TemplatesFixture desk({ .name = u"T"_s, .fields = { { .key = u"title"_s, .text = u"Race %Counter% x"_s } } });
+    const auto* sheet = desk.show();
+    QVERIFY(sheet);
+    TokenEdit* edit = text(sheet, u"Title"_s);
+    const auto stored = [&desk] { return desk.value().fields.first().text; };
+    QTest::mouseClick(edit->viewport(), Qt::LeftButton);
+    press(Qt::Key_End);
+    for (int i = 0; i < 2; ++i)
+        press(Qt::Key_Backspace);
+    press(Qt::Key_Backspace);
+    QCOMPARE(stored(), u"Race %Counter%"_s);
+    QCOMPARE(edit->selectedToken(), 5);
+    press(Qt::Key_Backspace);
+    QCOMPARE(stored(), u"Race "_s);
+    press(Qt::Key_Z);
+    QTest::keySequence(edit, QKeySequence::Undo);
+    QTest::keySequence(edit, QKeySequence::Undo);
+    QCOMPARE(stored(), u"Race %Counter%"_s);
+
+    // A code that is typed is a token; a percent sign is one.
+    press(Qt::Key_End);
+    QTest::keyClicks(edit, u" 50% %place%"_s);
+    QCOMPARE(stored(), u"Race %Counter% 50%% %Place%"_s);
+    QVERIFY(edit->tokenAt(edit->length() - 1));
+    QTest::keyClicks(edit, u" %Foo%"_s);
+    QCOMPARE(stored(), u"Race %Counter% 50%% %Place% %%Foo%%"_s);
+
+    // Copied and pasted it stays a token.
+    QTest::keySequence(edit, QKeySequence::SelectAll);
+    QTest::keySequence(edit, QKeySequence::Cut);
+    QCOMPARE(stored(), QString());
+    click(button(sheet, u"Insert Creator"_s));
+    QCOMPARE(QApplication::focusWidget(), edit);
+    QCOMPARE(stored(), u"%Creator%"_s);
+    QTest::keySequence(edit, QKeySequence::Copy);
+    press(Qt::Key_Backspace);
+    QTest::keySequence(edit, QKeySequence::Copy);
+    press(Qt::Key_End);
+    QTest::keySequence(edit, QKeySequence::Paste);
+    QCOMPARE(stored(), u"%Creator%%Creator%"_s);
+
+    // Its default and form.
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Return);
+    auto* popover = edit->findChild<TokenPopover*>();
+    QVERIFY(popover);
+    QTest::keyClicks(field(popover, u"If missing"_s), u"Ana"_s);
+    QTest::keyClick(field(popover, u"If missing"_s), Qt::Key_Return);
+    QCOMPARE(stored(), u"%Creator%%Creator|Ana%"_s);
+    QCOMPARE(edit->tokenAt(1)->detail, u"or Ana"_s);
+}
+
+void tst_Sheets::tokensAreSpokenByName()
+{
+    TemplatesFixture desk({ .name = u"T"_s,
+        .fields = { { .key = u"title"_s, .text = u"off %Place|Zürich% now"_s },
+            { .key = u"keywords"_s, .mode = TemplateMode::append, .items = { u"sailing"_s } } } });
+    const auto* sheet = desk.show();
+    QVERIFY(sheet);
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(text(sheet, u"Title"_s));
+    QCOMPARE(told->role(), QAccessible::EditableText);
+    QCOMPARE(told->text(QAccessible::Name), u"Title"_s);
+    QCOMPARE(told->text(QAccessible::Value), u"off [Place or Zürich] now"_s);
+    int start = 0;
+    int end = 0;
+    QCOMPARE(told->textInterface()->textAtOffset(4, QAccessible::CharBoundary, &start, &end), u"[Place or Zürich]"_s);
+    QCOMPARE(start, 4);
+    QCOMPARE(end, 5);
+    QCOMPARE(told->textInterface()->textAfterOffset(4, QAccessible::WordBoundary, &start, &end), u" "_s);
+    auto* mode = qobject_cast<ChoicePicker*>(button(sheet, u"What happens to Keywords"_s));
+    QVERIFY(mode);
+    const QAccessibleInterface* picker = QAccessible::queryAccessibleInterface(mode);
+    QCOMPARE(picker->role(), QAccessible::ButtonMenu);
+    QCOMPARE(picker->text(QAccessible::Value), u"Append"_s);
+    QCOMPARE(mode->titles(), QStringList({ u"Set"_s, u"Set if empty"_s, u"Append"_s }));
+}
+
+void tst_Sheets::aTemplateIsMadeAndFilled()
+{
+    TemplatesFixture desk({});
+    auto* sheet = desk.show();
+    QVERIFY(sheet);
+    QVERIFY(!button(sheet, u"Fill 3 Photos"_s)->isEnabled());
+    click(button(sheet, u"New template"_s));
+    QTest::keyClicks(QApplication::focusWidget(), u"Regatta"_s);
+    QCOMPARE(desk.value().name, u"Regatta"_s);
+    QCOMPARE(desk.value().digit, 1);
+    click(button(sheet, u"Add field"_s));
+    auto* menu = sheet->findChild<SearchMenu*>();
+    QVERIFY(menu);
+    QTest::keyClicks(menu->field(), u"headl"_s);
+    QTest::keyClick(menu->field(), Qt::Key_Return);
+    TokenEdit* edit = text(sheet, u"Headline"_s);
+    QTRY_COMPARE(QApplication::focusWidget(), edit);
+    QTest::keyClicks(edit, u"%Title% off %Place%"_s);
+    QCOMPARE(preview(sheet), QStringList({ u"Headline: a.jpg off no place (Place missing)"_s }));
+    click(button(sheet, u"Next photo"_s));
+    QCOMPARE(preview(sheet), QStringList({ u"Headline: b.jpg off no place (Place missing)"_s }));
+    // The tokens stay under the text that had the keyboard last.
+    QVERIFY(button(sheet, u"Insert Creator"_s));
+    desk.templates().setOpen(true);
+    click(button(sheet, u"Fill 3 Photos"_s));
+    QVERIFY(!desk.templates().isOpen());
+    QCOMPARE(desk.model().unsavedCount(), 1);
+    QCOMPARE(desk.templates().preview(2).value(0).text, u"c.jpg off "_s);
+}
+
+void tst_Sheets::templatesAsFiles()
+{
+    TemplatesFixture desk({ .name = u"One"_s, .fields = { { .key = u"title"_s, .text = u"x"_s } } });
+    const auto* sheet = desk.show();
+    QVERIFY(sheet);
+    auto* list = sheet->findChild<TemplateList*>();
+    const std::unique_ptr<QMimeData> dragged(list->model()->mimeData({ list->model()->index(0, 0) }));
+    QCOMPARE(dragged->urls().value(0).fileName(), u"One.json"_s);
+    QVERIFY(TemplateFile::read(dragged->urls().value(0).toLocalFile()));
+
+    const QString other = desk.photos.folder.path(u"newer.json"_s);
+    writeFile(other, R"({"quorbelTemplate": 9, "name": "N"})");
+    const QString good = desk.photos.folder.path(u"Two.json"_s);
+    writeFile(good, TemplateFile::toJson({ .name = u"Two"_s }));
+    QMimeData data;
+    data.setUrls({ QUrl::fromLocalFile(other), QUrl::fromLocalFile(good) });
+    QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(list->viewport(), &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(20, 20), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(list->viewport(), &drop);
+    QTRY_COMPARE(desk.value().name, u"Two"_s);
+    QVERIFY(labels(sheet).contains(u"“newer.json” was made by a newer version of Quorbel."_s));
+    QCOMPARE(list->count(), 2);
+    press(Qt::Key_Tab);
+    list->setFocus();
+    press(Qt::Key_Up);
+    QCOMPARE(desk.value().name, u"One"_s);
 }
 
 QTEST_MAIN(tst_Sheets)

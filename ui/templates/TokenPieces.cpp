@@ -1,0 +1,61 @@
+#include "ui/templates/TokenPieces.h"
+
+namespace Quorbel::TokenPieces {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What the form says, in few words.
+QString formText(const TokenSpec& spec, const QString& form)
+{
+    if (spec.kind == TokenKind::counter) {
+        const CounterForm counter = CounterForm::parse(form).value_or(CounterForm());
+        const QString from = u"from "_s + counter.number(0);
+        return counter.step == 1 ? from : from + u", step "_s + QString::number(counter.step);
+    }
+    return form;
+}
+
+}  // namespace
+
+QList<TokenEditPiece> of(const QString& pattern)
+{
+    QList<TokenEditPiece> pieces;
+    for (const TokenPiece& piece : TokenText::parse(pattern).pieces) {
+        if (piece.token)
+            pieces.append({ .token = chip(*piece.token) });
+        else
+            pieces.append({ .text = piece.text });
+    }
+    return pieces;
+}
+
+QString pattern(const QList<TokenEditPiece>& pieces)
+{
+    TokenText text;
+    for (const TokenEditPiece& piece : pieces) {
+        if (piece.token)
+            text.pieces.append({ .token = token(*piece.token) });
+        else
+            text.pieces.append({ .text = piece.text });
+    }
+    return text.pattern();
+}
+
+InlineToken chip(const Token& token)
+{
+    const TokenSpec* spec = token.spec();
+    QString detail = spec ? formText(*spec, token.form) : QString();
+    if (token.otherwise && !token.otherwise->isEmpty())
+        detail += (detail.isEmpty() ? u"or "_s : u" or "_s) + *token.otherwise;
+    return { spec ? spec->label : token.name, detail, token.pattern() };
+}
+
+Token token(const InlineToken& chip)
+{
+    const QList<TokenPiece> pieces = TokenText::parse(chip.code).pieces;
+    return pieces.isEmpty() ? Token() : pieces.first().token.value_or(Token());
+}
+
+}  // namespace Quorbel::TokenPieces
