@@ -92,7 +92,10 @@ void AppModel::makeTools()
             m_services.endEditing, [this](std::function<void()> action) { holdBack(std::move(action)); },
             [this](const QList<int>& gone) { takeVanished(gone); } });
     m_timeShifting = std::make_unique<TimeShifting>(*this);
-    m_filtering = std::make_unique<Filtering>(*this);
+    m_filtering = std::make_unique<Filtering>(*this,
+        Filtering::Reach{ m_library.photos(), [this] { return m_editing.unsaved(); },
+            [this](const Selection& next) { commitSelection(next); },
+            [this](std::function<void()> then) { holdBack(std::move(then)); }, m_services.endEditing });
 }
 
 void AppModel::connectParts()
@@ -223,6 +226,8 @@ QString AppModel::folderCountText() const
         const int folders = photos().folders().holding();
         text += (folders == 1 ? u" in %1 folder"_s : u" in %1 folders"_s).arg(folders);
     }
+    if (photos().filter().isLimiting())
+        text += u" \u00B7 %1 shown"_s.arg(visibleRows().size());
     if (isBatch())
         text += u" \u00B7 %1 selected"_s.arg(selection().size());
     return text;

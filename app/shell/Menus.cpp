@@ -1,6 +1,7 @@
 #include "app/shell/Menus.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/library/filter/Filtering.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/words/FieldPasting.h"
 #include "ui/controls/ThemedMenu.h"
@@ -110,6 +111,7 @@ Menus::Menus(AppModel& model, ContentView& content, const MenuCommands& commands
              &AppModel::canUndoSaveChanged, &AppModel::detailsChanged, &AppModel::disagreementsChanged })
         connect(&model, change, this, &Menus::followState);
     connect(&model.preferences(), &Preferences::changed, this, &Menus::followState);
+    connect(&model.filtering(), &Filtering::changed, this, &Menus::followState);
     connect(&content, &ContentView::previewShownChanged, this, &Menus::followState);
     followState();
 }
@@ -276,7 +278,8 @@ void Menus::addViewMenu()
     m_disagreements = menu->addAction(u"Show &Disagreements"_s);
     m_disagreements->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_D);
     m_disagreements->setCheckable(true);
-    connect(m_disagreements, &QAction::triggered, &m_model, [this](bool on) { m_model.setShowDisagreements(on); });
+    connect(m_disagreements, &QAction::triggered, &m_model,
+        [this](bool on) { m_model.filtering().setOn(PhotoTrait::disagreement, on); });
     QAction* names = menu->addAction(u"Show &namespace details"_s);
     names->setCheckable(true);
     names->setChecked(m_model.preferences().showNamespace());
@@ -284,7 +287,19 @@ void Menus::addViewMenu()
     connect(&m_model.preferences(), &Preferences::changed, names,
         [this, names] { names->setChecked(m_model.preferences().showNamespace()); });
     menu->addSeparator();
+    addGaps(menu);
+    menu->addSeparator();
     m_readAgain = add(menu, u"Read &Again"_s, { Qt::SHIFT | Qt::Key_F5 }, [this] { m_model.readAgain(); });
+}
+
+void Menus::addGaps(QMenu* menu)
+{
+    Filtering& filtering = m_model.filtering();
+    m_nextGap = add(menu, u"Next &Gap"_s, { Qt::Key_F8 }, [&filtering] { filtering.goToGap(Filtering::Way::next); });
+    m_previousGap = add(menu, u"Previo&us Gap"_s, { Qt::SHIFT | Qt::Key_F8 },
+        [&filtering] { filtering.goToGap(Filtering::Way::previous); });
+    m_clearFilters =
+        add(menu, u"Clear &Filters"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_F }, [&filtering] { filtering.clear(); });
 }
 
 void Menus::addHelpMenu(const MenuCommands& commands)
@@ -317,6 +332,10 @@ void Menus::followState()
     m_disagreements->setEnabled(any);
     m_disagreements->setChecked(m_model.showsDisagreements());
     m_preview->setEnabled(any);
+    m_nextGap->setEnabled(any);
+    m_previousGap->setEnabled(any);
+    const Filtering& filtering = m_model.filtering();
+    m_clearFilters->setEnabled(filtering.isOn() || !filtering.text().isEmpty());
     m_preview->setText(m_content.previewShown() ? u"Hide &preview"_s : u"Show &preview"_s);
 }
 

@@ -37,6 +37,7 @@ private:
     void addEditMenu();
     void addFieldCommands(QMenu* menu);
     void addViewMenu();
+    void addGaps(QMenu* menu);
     void addHelpMenu(const MenuCommands& commands);
     ThemedMenu* addMenu(const QString& title);
     QAction* add(QMenu* menu, const QString& text, const QList<QKeySequence>& keys, std::function<void()> run);
@@ -64,6 +65,9 @@ private:
     QAction* m_agree = nullptr;
     QAction* m_disagreements = nullptr;
     QAction* m_preview = nullptr;
+    QAction* m_nextGap = nullptr;
+    QAction* m_previousGap = nullptr;
+    QAction* m_clearFilters = nullptr;
     QAction* m_find = nullptr;
     QAction* m_copyFields = nullptr;
     QAction* m_pasteFields = nullptr;

@@ -7,6 +7,7 @@
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/SuggestionList.h"
 #include "ui/controls/Toggles.h"
+#include "ui/controls/attached/MenuRow.h"
 #include "ui/controls/tokens/TokenEdit.h"
 #include "ui/controls/tokens/TokenEditAccess.h"
 
@@ -271,6 +272,8 @@ public:
 QAccessibleInterface* describeButton(QAbstractButton* button)
 {
     if (qobject_cast<QBCheckbox*>(button) || qobject_cast<QBSwitch*>(button))
+        return new ButtonDescription(button, QAccessible::CheckBox);
+    if (qobject_cast<MenuRow*>(button) && button->isCheckable())
         return new ButtonDescription(button, QAccessible::CheckBox);
     if (qobject_cast<OffsetPicker*>(button) || qobject_cast<ChoicePicker*>(button))
         return new ButtonDescription(button, QAccessible::ButtonMenu);

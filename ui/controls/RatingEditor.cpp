@@ -53,6 +53,12 @@ void RatingEditor::setEdited(bool edited)
     update();
 }
 
+void RatingEditor::setSmall(bool on)
+{
+    m_small = on;
+    updateGeometry();
+}
+
 int RatingEditor::rating() const
 {
     return qBound(0, m_value.trimmed().toInt(), stars);
@@ -60,12 +66,13 @@ int RatingEditor::rating() const
 
 QSize RatingEditor::sizeHint() const
 {
-    return { stars * px(26) - px(inset), px(30) };
+    return m_small ? QSize(stars * px(20), px(28)) : QSize(stars * px(26) - px(inset), px(30));
 }
 
 QRectF RatingEditor::cell(int star) const
 {
-    return { (star - 1) * pxF(26) - pxF(inset), 0, pxF(26), qreal(height()) };
+    const qreal wide = pxF(m_small ? 20 : 26);
+    return { (star - 1) * wide - (m_small ? 0 : pxF(inset)), 0, wide, qreal(height()) };
 }
 
 int RatingEditor::starAt(QPointF pos) const
@@ -97,7 +104,7 @@ void RatingEditor::paintEvent(QPaintEvent*)
         const bool filled = star <= rating();
         const QColor plain = filled ? theme.text : theme.muted;
         const QString icon = filled ? u"star.fill"_s : u"star"_s;
-        Icon::paint(painter, cell(star), icon, pxF(18), m_edited ? theme.amber : plain);
+        Icon::paint(painter, cell(star), icon, pxF(m_small ? 14 : 18), m_edited ? theme.amber : plain);
     }
 }
 

@@ -16,6 +16,8 @@ public:
     /// Shows a value; emits nothing. What is not a decimal integer shows no stars.
     void setValue(const QString& value);
     void setEdited(bool edited);
+    /// 28 points high, with smaller stars closer together: in a row of a menu.
+    void setSmall(bool on);
     /// The stars shown, 0…5.
     int rating() const;
     QSize sizeHint() const override;
@@ -40,6 +42,7 @@ private:
 
     QString m_value;
     bool m_edited = false;
+    bool m_small = false;
     int m_hovered = 0;
     int m_pressed = 0;
 };

@@ -300,6 +300,14 @@ FieldRow* InspectorForm::row(const QString& id) const
     return found && !found->isHidden() ? found : nullptr;
 }
 
+QString InspectorForm::keyOf(const QWidget* widget) const
+{
+    for (auto row = m_pool.cbegin(); row != m_pool.cend(); ++row)
+        if (*row == widget || (*row)->isAncestorOf(widget))
+            return row.key();
+    return {};
+}
+
 FieldRow* InspectorForm::makeRow(const QString& key, FieldRowParts parts)
 {
     parts.codes = m_model.codes().texts();

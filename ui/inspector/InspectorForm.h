@@ -52,6 +52,8 @@ public:
     int bottomInset() const { return m_bottomInset; }
     /// The row of a field, by its id or by the key of a custom field or of a language; null while it is not on screen.
     FieldRow* row(const QString& id) const;
+    /// The same the other way round, for any part of a row; "" where it is in none.
+    QString keyOf(const QWidget* widget) const;
     QSize minimumSizeHint() const override;
 
 signals:

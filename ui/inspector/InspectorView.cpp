@@ -1,6 +1,7 @@
 #include "ui/inspector/InspectorView.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/library/filter/Filtering.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/ScrollArea.h"
 #include "ui/controls/theme/Metrics.h"
@@ -47,7 +48,19 @@ InspectorView::InspectorView(
     // Later: the sheet in which the field was picked still gives the focus back to where it was.
     connect(m_form, &InspectorForm::fieldAdded, this, &InspectorView::focusField, Qt::QueuedConnection);
     connectModel();
+    connectGaps();
     refresh();
+}
+
+// Later, too: whoever leads to a field may still be giving the focus back.
+void InspectorView::connectGaps()
+{
+    Filtering& filtering = m_model.filtering();
+    connect(&filtering, &Filtering::fieldAsked, this, &InspectorView::focusField, Qt::QueuedConnection);
+    filtering.focusedField = [view = QPointer(this)] {
+        const QWidget* focus = view ? view->window()->focusWidget() : nullptr;
+        return focus ? view->m_form->keyOf(focus) : QString();
+    };
 }
 
 void InspectorView::connectModel()

@@ -33,6 +33,7 @@ protected:
 
 private:
     void connectModel();
+    void connectGaps();
     void refresh();
     void refreshInPlace();
     void revealFocus();

@@ -1,12 +1,14 @@
 #include "ui/sidebar/SidebarList.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/library/filter/Filtering.h"
 #include "app/model/thumbnails/ThumbnailStore.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/sidebar/DisagreementsBar.h"
+#include "ui/sidebar/FilterTexts.h"
 #include "ui/sidebar/SidebarDelegate.h"
 
 #include <QApplication>
@@ -46,6 +48,7 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     , m_thumbs(thumbs)
     , m_rows(*new SidebarModel(model, this))
     , m_look(new QBButton(DisagreementsBar::lookTitle(), QBButtonKind::secondary, viewport()))
+    , m_clear(new QBButton(FilterTexts::clearTitle(), QBButtonKind::secondary, viewport()))
 {
     setRows(m_rows.rows());
     setModel(&m_rows);
@@ -81,6 +84,12 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     m_look->setCursor(Qt::ArrowCursor);
     connect(m_look, &QAbstractButton::clicked, &model, [&model] { model.setShowDisagreements(true); });
     connect(&model, &AppModel::disagreementsChanged, this, &SidebarList::showEmpty);
+    m_clear->setCursor(Qt::ArrowCursor);
+    connect(m_clear, &QAbstractButton::clicked, this, [this] {
+        m_model.filtering().clear();
+        setFocus(Qt::OtherFocusReason);  // the button goes
+    });
+    connect(&model.filtering(), &Filtering::changed, this, &SidebarList::showEmpty);
     showSelection();
     showPrimary();
     showEmpty();
@@ -102,10 +111,18 @@ void SidebarList::showPrimary()
         goTo(row);
 }
 
+SidebarList::Place SidebarList::placeNow() const
+{
+    return { .folder = m_model.folderURL(),
+        .search = m_model.search(),
+        .order = m_model.sortOrder(),
+        .filter = m_model.filtering().filter() };
+}
+
 // Which photo is seen first, and where.
 void SidebarList::rememberPlace()
 {
-    m_place = { m_model.folderURL(), m_model.search(), m_model.sortOrder(), m_model.showsDisagreements() };
+    m_place = placeNow();
     const auto [first, last] = rowsOnScreen();
     for (int row = first; row <= last && m_place.photo.isEmpty(); ++row)
         if (const ImageRecord* photo = m_rows.record(row); photo && topOf(row) >= 0) {
@@ -118,9 +135,9 @@ void SidebarList::rememberPlace()
 // is.
 void SidebarList::showReset()
 {
-    const Place now{ m_model.folderURL(), m_model.search(), m_model.sortOrder(), m_model.showsDisagreements() };
+    const Place now = placeNow();
     const bool isSameList = now.folder == m_place.folder && now.search == m_place.search && now.order == m_place.order
-        && now.disagreements == m_place.disagreements;
+        && now.filter == m_place.filter;
     setAutoScroll(!isSameList);
     showSelection();
     setAutoScroll(true);
@@ -192,37 +209,40 @@ void SidebarList::choose(int row, bool shift, bool command)
 
 // --- When nothing is listed ---
 
-QString SidebarList::emptyText() const
+// Whoever looks only for photos whose places differ is told how far that is.
+SidebarList::Empty SidebarList::empty() const
 {
-    const bool missed = m_rows.rowCount() == 0 && !m_model.records().isEmpty();
-    if (!missed)
+    if (m_rows.rowCount() > 0 || m_model.records().isEmpty())
         return {};
-    if (!m_model.showsDisagreements() || !m_model.search().trimmed().isEmpty())
-        return u"No matching photos."_s;
+    const PhotoFilter& filter = m_model.filtering().filter();
+    if (!filter.needle.isEmpty())
+        return { u"No matching photos."_s, false, filter.isLimiting() };
+    if (filter.traits != PhotoTrait::disagreement || filter.stars > 0)
+        return { u"Nothing left"_s, false, true };
     const qsizetype unknown = m_model.disagreements().unknown;
     if (unknown == 0)
-        return u"All places agree"_s;
-    return (unknown == 1 ? u"%1 photo not looked at yet"_s : u"%1 photos not looked at yet"_s)
-        .arg(QLocale().toString(unknown));
+        return { u"All places agree"_s, false, false };
+    const QString text = unknown == 1 ? u"%1 photo not looked at yet"_s : u"%1 photos not looked at yet"_s;
+    return { text.arg(QLocale().toString(unknown)), DisagreementsBar::canLook(m_model), false };
 }
 
 void SidebarList::showEmpty()
 {
-    const QString text = emptyText();
-    setAccessibleDescription(text);
-    // What is not found by its name is not found by a look either.
-    const bool isSearch = !m_model.search().trimmed().isEmpty();
-    m_look->setVisible(
-        !text.isEmpty() && !isSearch && m_model.showsDisagreements() && DisagreementsBar::canLook(m_model));
-    const QSize size = m_look->sizeHint();
-    m_look->setGeometry(QRect({ (viewport()->width() - size.width()) / 2, px(54) }, size));
+    const Empty empty = this->empty();
+    setAccessibleDescription(empty.text);
+    m_look->setVisible(empty.offersLook);
+    m_clear->setVisible(empty.offersClear);
+    for (QBButton* button : { m_look, m_clear }) {
+        const QSize size = button->sizeHint();
+        button->setGeometry(QRect({ (viewport()->width() - size.width()) / 2, px(54) }, size));
+    }
     viewport()->update();
 }
 
 void SidebarList::paintEvent(QPaintEvent* event)
 {
     GroupedListView::paintEvent(event);
-    const QString text = emptyText();
+    const QString text = empty().text;
     if (text.isEmpty())
         return;
     QPainter painter(viewport());

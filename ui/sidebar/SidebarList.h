@@ -2,6 +2,7 @@
 // Thread: the main thread. Only the rows on screen are ever laid out in detail, painted, or given thumbnails.
 #pragma once
 
+#include "app/model/library/filter/PhotoFilter.h"
 #include "core/schema/RecordSortOrder.h"
 #include "ui/sidebar/GroupedListView.h"
 #include "ui/sidebar/SidebarModel.h"
@@ -49,9 +50,20 @@ protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 
 private:
+    /// The photo that is seen first, and what it is seen in.
+    struct Place {
+        std::optional<QUrl> folder{};
+        QString search{};
+        RecordSortOrder order{};
+        PhotoFilter filter{};
+        QUrl photo{};
+        int y = 0;
+    };
+
     void showSelection();
     void showReset();
     void rememberPlace();
+    Place placeNow() const;
     void showPrimary();
     void showCursor();
     void goTo(int row);
@@ -67,24 +79,20 @@ private:
     void requestThumbnails();
     void tellInView();
     void repaintThumbnail(const QUrl& url);
-    QString emptyText() const;
+    struct Empty {
+        QString text{};
+        bool offersLook = false;  ///< at photos that were not looked at yet
+        bool offersClear = false;
+    };
+    Empty empty() const;
     void showEmpty();
     void setByKeyboard(bool on);
-
-    /// The photo that is seen first, and what it is seen in.
-    struct Place {
-        std::optional<QUrl> folder{};
-        QString search{};
-        RecordSortOrder order{};
-        bool disagreements = false;
-        QUrl photo{};
-        int y = 0;
-    };
 
     AppModel& m_model;
     QPointer<ThumbnailStore> m_thumbs;
     SidebarModel& m_rows;  ///< a child of this: views outlive their members
     QBButton* m_look;  ///< at photos that were not looked at yet, where none of the others is listed
+    QBButton* m_clear;  ///< the filters, where they leave nothing
     QTimer m_thumbnailsSoon;
     QTimer m_inViewSoon;
     bool m_hasToldInView = false;  ///< of what is open now

@@ -1,6 +1,7 @@
 #include "ui/sidebar/SidebarView.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/library/filter/Filtering.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/TextFields.h"
@@ -8,6 +9,9 @@
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/SymbolText.h"
 #include "ui/sidebar/DisagreementsBar.h"
+#include "ui/sidebar/FilterChips.h"
+#include "ui/sidebar/FilterMenu.h"
+#include "ui/sidebar/PassingNote.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/window/ProgressFoot.h"
 
@@ -27,9 +31,11 @@ namespace {
 constexpr qreal headerHeight = 40;
 constexpr qreal sidePadding = 12;
 constexpr qreal rightPadding = 2;  // room for a focus ring: the handle beside it is empty space too
+constexpr qreal fieldHeight = 30;
 constexpr qreal findHeight = 41;  // the field, 10 below it, the hairline
+constexpr qreal findHeightOverChips = 36;  // they stand closer to the field
 
-// "3 / 120", the selected ones stronger.
+// "3 / 120", the selected ones stronger; with a filter "3 / 23 of 120".
 class CountLabel final : public QLabel {
 public:
     explicit CountLabel(AppModel& model)
@@ -37,6 +43,8 @@ public:
     {
         connect(&model, &AppModel::selectionChanged, this, [this] { refresh(); });
         connect(&model, &AppModel::recordsChanged, this, [this] { refresh(); });
+        connect(&model, &AppModel::visibleRowsChanged, this, [this] { refresh(); });
+        connect(&model.filtering(), &Filtering::changed, this, [this] { refresh(); });
         onRestyle(this, [this] { setFont(sansFont(12, QFont::DemiBold)); });
         refresh();
     }
@@ -59,7 +67,10 @@ protected:
 private:
     void refresh()
     {
-        setText(u"%1 / %2"_s.arg(m_model.selection().size()).arg(m_model.records().size()));
+        const QString all = QString::number(m_model.records().size());
+        const bool isFiltered = m_model.filtering().isOn();
+        const QString of = isFiltered ? u"%1 of %2"_s.arg(m_model.visibleRows().size()).arg(all) : all;
+        setText(u"%1 / %2"_s.arg(QString::number(m_model.selection().size()), of));
         update();
     }
 
@@ -95,10 +106,15 @@ SidebarView::SidebarView(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     column->setSpacing(0);
     column->addWidget(buildHeader());
     column->addWidget(buildFind());
+    column->addWidget(buildChips());
     column->addWidget(buildDisagreements());
     column->addWidget(m_list, 1);
     column->addWidget(m_foot);
     m_list->installEventFilter(this);
+    m_note = new PassingNote(m_list);
+    connect(&model.filtering(), &Filtering::noted, m_note, &PassingNote::say);
+    connect(&model.filtering(), &Filtering::changed, this, &SidebarView::followFilters);
+    followFilters();
     connect(m_foot, &ProgressFoot::shownChanged, this, &SidebarView::footChanged);
     connect(m_list, &GroupedListView::stuckLineMoved, this, &SidebarView::stuckLineMoved);
 }
@@ -123,8 +139,8 @@ QWidget* SidebarView::buildHeader()
 
 QWidget* SidebarView::buildFind()
 {
-    auto* find = new QWidget;
-    auto* line = new QHBoxLayout(find);
+    m_find = new QWidget;
+    auto* line = new QHBoxLayout(m_find);
     m_search = new QBTextField;
     m_search->setLeadingIcon(u"magnifyingglass"_s);
     m_search->setPlaceholder(u"Search"_s);
@@ -134,16 +150,51 @@ QWidget* SidebarView::buildFind()
     m_search->installEventFilter(this);
     connect(&m_model, &AppModel::searchChanged, m_search, [this] { m_search->setBoundText(m_model.search()); });
     line->addWidget(m_search, 1);
+    m_filter = new QBIconButton(u"line.3.horizontal.decrease"_s, FilterTexts::name());
+    m_filter->setSizes({ 30, 30 }, 16);
+    connect(m_filter, &QAbstractButton::clicked, this, &SidebarView::openFilterMenu);
+    line->addWidget(m_filter);
     m_sort = new QBIconButton(u"arrow.up.arrow.down"_s, u"Sort images"_s);
     m_sort->setSizes({ 30, 30 }, 16);
     connect(m_sort, &QAbstractButton::clicked, this, &SidebarView::openSortMenu);
     line->addWidget(m_sort);
-    onRestyle(find, [find, line] {
+    onRestyle(m_find, [this, line] {
         line->setSpacing(px(4));
-        line->setContentsMargins(px(sidePadding), 0, px(rightPadding), px(11));
-        find->setFixedHeight(px(findHeight));
+        followFilters();
     });
-    return find;
+    return m_find;
+}
+
+QWidget* SidebarView::buildChips()
+{
+    auto* holder = new QWidget;
+    auto* line = new QVBoxLayout(holder);
+    m_chips = new FilterChips(m_model.filtering());
+    line->addWidget(m_chips);
+    holder->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    connect(m_chips, &FilterChips::menuAsked, this, &SidebarView::openFilterMenu);
+    connect(m_chips, &FilterChips::keyboardLeft, this, [this] { m_list->setFocus(Qt::OtherFocusReason); });
+    onRestyle(holder, [line] { line->setContentsMargins(px(sidePadding - 1), 0, px(rightPadding), px(9)); });
+    return holder;
+}
+
+void SidebarView::followFilters()
+{
+    const bool hasChips = m_chips && !m_chips->isEmpty();
+    m_filter->setHighlighted(m_model.filtering().isOn() || m_menu);
+    const qreal height = hasChips ? findHeightOverChips : findHeight;
+    m_find->setFixedHeight(px(height));
+    m_find->layout()->setContentsMargins(px(sidePadding), 0, px(rightPadding), px(height - fieldHeight));
+    if (m_chips)
+        m_chips->parentWidget()->setVisible(hasChips);
+}
+
+void SidebarView::openFilterMenu()
+{
+    m_menu = new FilterMenu(m_model, m_filter);
+    connect(m_menu, &QObject::destroyed, this, &SidebarView::followFilters);
+    m_menu->popUp();
+    followFilters();
 }
 
 QWidget* SidebarView::buildDisagreements()

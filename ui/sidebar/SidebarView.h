@@ -1,7 +1,8 @@
-// The left column: how many photos are selected, the search, the sort order, what limits the list, the list, and long
-// work at its foot. Thread: the main thread. Shows AppModel and calls it.
+// The left column: how many photos are selected, the search, the filters, the sort order, what limits the list, the
+// list, and long work at its foot. Thread: the main thread. Shows AppModel and calls it.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 #include <optional>
@@ -9,6 +10,9 @@
 namespace Quorbel {
 
 class AppModel;
+class FilterChips;
+class FilterMenu;
+class PassingNote;
 class ProgressFoot;
 class QBIconButton;
 class QBTextField;
@@ -46,12 +50,20 @@ protected:
 private:
     QWidget* buildHeader();
     QWidget* buildFind();
+    QWidget* buildChips();
     QWidget* buildDisagreements();
     void openSortMenu();
+    void openFilterMenu();
+    void followFilters();
 
     AppModel& m_model;
     QBTextField* m_search = nullptr;
+    QBIconButton* m_filter = nullptr;
     QBIconButton* m_sort = nullptr;
+    QWidget* m_find = nullptr;
+    FilterChips* m_chips = nullptr;
+    QPointer<FilterMenu> m_menu;
+    PassingNote* m_note = nullptr;
     SidebarList* m_list = nullptr;
     ProgressFoot* m_foot = nullptr;
 };

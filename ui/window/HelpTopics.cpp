@@ -13,6 +13,7 @@ const QList<std::pair<HelpTopic, QString>>& RawValues<HelpTopic>::table()
         { HelpTopic::languages, u"languages"_s },
         { HelpTopic::keywordPaths, u"keywordPaths"_s },
         { HelpTopic::disagreements, u"disagreements"_s },
+        { HelpTopic::gaps, u"gaps"_s },
         { HelpTopic::batch, u"batch"_s },
         { HelpTopic::copying, u"copying"_s },
         { HelpTopic::templates, u"templates"_s },
@@ -135,6 +136,22 @@ Page disagreementsPage()
         } };
 }
 
+Page gapsPage()
+{
+    return { u"Finding Gaps"_s, u"line.3.horizontal.decrease"_s,
+        {
+            paragraph(
+                u"The filter beside the search lists only photos that lack something, have few or many stars, are "
+                "edited and not saved, or hold a text in any field. Tick several: a photo must fit all. Each count is "
+                "that of all open photos."_s),
+            bullets(
+                { u"F8 goes to the next empty field: down the form, then on to the next photo. ⇧F8 goes back. With a "
+                  "filter for empty fields, only those count."_s,
+                    u"A photo that you edit stays listed until it is saved; then the next one takes its place."_s,
+                    u"The cross of a chip, or Delete on it, ends one filter; View ▸ Clear Filters (⌘⇧F) ends all."_s }),
+        } };
+}
+
 Page batchPage()
 {
     return { u"Batch Editing"_s, u"square.stack.3d.up"_s,
@@ -232,6 +249,8 @@ Page page(HelpTopic topic)
         return keywordPathsPage();
     case HelpTopic::disagreements:
         return disagreementsPage();
+    case HelpTopic::gaps:
+        return gapsPage();
     case HelpTopic::batch:
         return batchPage();
     case HelpTopic::copying:

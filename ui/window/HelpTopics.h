@@ -17,6 +17,7 @@ enum class HelpTopic {
     languages,
     keywordPaths,
     disagreements,
+    gaps,
     batch,
     copying,
     templates,

@@ -1,6 +1,7 @@
 #include "ui/window/WindowBar.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/library/filter/Filtering.h"
 #include "core/Product.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/ThemedMenu.h"
@@ -74,6 +75,8 @@ WindowBar::WindowBar(AppModel& model, QWidget* parent)
     for (const auto change : { &AppModel::selectionChanged, &AppModel::isSavingChanged, &AppModel::recordsChanged,
              &AppModel::folderChanged, &AppModel::unsavedCountChanged })
         connect(&model, change, this, &WindowBar::follow);
+    connect(&model, &AppModel::visibleRowsChanged, this, &WindowBar::follow);
+    connect(&model.filtering(), &Filtering::changed, this, &WindowBar::follow);
     follow();
     connect(&model, &AppModel::watchingChanged, this, &WindowBar::followWatching);
     followWatching();

@@ -3,6 +3,8 @@
 #include "app/model/Background.h"
 #include "core/text/Text.h"
 
+#include <QDeadlineTimer>
+
 #include <algorithm>
 
 namespace Quorbel {
@@ -43,10 +45,14 @@ void PhotoList::setSearch(const QString& text)
     updateVisibleRows(false);
 }
 
-void PhotoList::setWanted(PhotoTraits traits)
+// --- Which of them are listed ---
+
+void PhotoList::setWanted(PhotoTraits traits, int leastStars)
 {
-    if (std::exchange(m_filter.traits, traits) == traits)
+    if (m_filter.traits == traits && m_filter.stars == leastStars)
         return;
+    m_filter.traits = traits;
+    m_filter.stars = leastStars;
     const Announcer::Together together(m_announcer);
     updateVisibleRows(false);
 }
@@ -57,10 +63,80 @@ void PhotoList::setTrait(PhotoTrait trait, const QList<QUrl>& photos, bool on)
     for (const QUrl& photo : photos)
         if (const int at = position(photo); at >= 0)
             isOther = m_open.index.setTrait(at, trait, on) || isOther;
-    if (!isOther || !m_filter.traits.testFlag(trait))
+    if (isOther)
+        traitsChanged(trait);
+}
+
+void PhotoList::setOnly(PhotoTrait trait, const QList<int>& positions)
+{
+    if (m_open.index.setOnly(trait, positions))
+        traitsChanged(trait);
+}
+
+void PhotoList::traitsChanged(PhotoTrait trait)
+{
+    if (!m_filter.isLimiting() || !(m_filter.traits | PhotoTrait::held).testFlag(trait))
         return;
     const Announcer::Together together(m_announcer);
     updateVisibleRows(false);
+}
+
+void PhotoList::find(const QString& text)
+{
+    m_finding.begin(text);
+    if (text.isEmpty())
+        endFinding();
+}
+
+// The clock is asked now and then: that costs as much as a look at a photo.
+void PhotoList::findOn(std::chrono::milliseconds budget)
+{
+    constexpr int stride = 32;
+    const QDeadlineTimer end(budget);
+    while (m_finding.isRunning()) {
+        for (int i = 0; i < stride && m_finding.at < m_open.records.size(); ++i, ++m_finding.at) {
+            const bool isRuledOut =
+                m_finding.isNarrowing() && !m_open.index.traits(m_finding.at).testFlag(PhotoTrait::holdsText);
+            const bool isFound = !isRuledOut && m_finding.isNext(m_open.records.at(m_finding.at));
+            m_open.index.setTrait(m_finding.at, PhotoTrait::nextText, isFound);
+        }
+        if (m_finding.at == m_open.records.size())
+            return endFinding();
+        if (end.hasExpired())
+            return;
+    }
+}
+
+void PhotoList::endFinding()
+{
+    m_filter.text = m_finding.end();
+    m_open.index.moveTrait(PhotoTrait::nextText, PhotoTrait::holdsText);
+    m_filter.traits.setFlag(PhotoTrait::holdsText, !m_filter.text.isEmpty());
+    const Announcer::Together together(m_announcer);
+    updateVisibleRows(false);
+}
+
+// The photo is new, or another one.
+void PhotoList::markText(int position)
+{
+    if (!m_finding.isOn())
+        return;
+    const ImageRecord& photo = m_open.records.at(position);
+    m_open.index.setTrait(position, PhotoTrait::holdsText, m_finding.isFound(photo));
+    m_open.index.setTrait(position, PhotoTrait::nextText, m_finding.isNext(photo));
+}
+
+std::optional<QUrl> PhotoList::shownNear(const QUrl& photo)
+{
+    const qsizetype count = m_visibleRows.size();
+    const int at = position(photo);
+    const qsizetype from = at < 0 ? 0 : rowOf(at);
+    for (qsizetype step = 0; step < count; ++step) {
+        const qsizetype row = from + step < count ? from + step : count - 1 - step;
+        if (!m_groups.isFolded(row))
+            return m_open.records.at(m_visibleRows.at(row)).url;
+    }
+    return std::nullopt;
 }
 
 void PhotoList::setOrder(RecordSortOrder order)
@@ -82,7 +158,8 @@ void PhotoList::open(OpenPhotos photos)
         m_groups.unfoldAll();
     std::swap(m_open, photos);
     discardInBackground(std::move(photos));
-    m_filter.traits = {};
+    m_filter = { .needle = m_filter.needle };
+    m_finding = {};
     keepCreationDates();
     contentChanged(true, true);
 }
@@ -109,6 +186,8 @@ void PhotoList::keepCreationDates()
 void PhotoList::put(int position, const ImageRecord& record)
 {
     ImageRecord& old = m_open.records[position];
+    if (old.url == record.url && old.contentModificationDate != record.contentModificationDate)
+        m_open.index.setTrait(position, PhotoTrait::changed, true);
     m_open.keywords.remove(old);
     m_open.keywords.add(record);
     if (m_open.files && old.url != record.url)
@@ -160,6 +239,8 @@ bool PhotoList::putAll(const QList<ImageRecord>& fresh)
     if (changed.isEmpty())
         return false;
     m_open.index.replace(changed, m_open.records);
+    for (const int at : std::as_const(changed))
+        markText(at);
     return true;
 }
 
@@ -178,6 +259,7 @@ void PhotoList::remove(const QList<int>& positions)
         return isGone;
     });
     m_open.index.remove(positions);
+    m_finding.at = 0;
     contentChanged(true, true);
 }
 
@@ -196,6 +278,8 @@ bool PhotoList::append(const QList<ImageRecord>& fresh)
     if (m_open.records.size() == before)
         return false;
     m_open.index.append(m_open.records);
+    for (qsizetype at = before; at < m_open.records.size(); ++at)
+        markText(int(at));
     contentChanged(false, true);
     return true;
 }

@@ -7,10 +7,12 @@
 #include "app/model/library/KeywordUses.h"
 #include "app/model/library/KnownFiles.h"
 #include "app/model/library/RecordIndex.h"
+#include "app/model/library/filter/TextFinding.h"
 
 #include <QList>
 #include <QStringList>
 
+#include <chrono>
 #include <memory>
 
 namespace Quorbel {
@@ -61,11 +63,27 @@ public:
 
     const QString& search() const { return m_search; }
     void setSearch(const QString& text);
-    /// Traits that a photo must have to be on screen; none are asked for when other photos are opened.
+    /// What a photo must have to be on screen; nothing but the search is left of it when other photos are opened.
+    const PhotoFilter& filter() const { return m_filter; }
     PhotoTraits wanted() const { return m_filter.traits; }
-    void setWanted(PhotoTraits traits);
+    void setWanted(PhotoTraits traits) { setWanted(traits, m_filter.stars); }
+    void setWanted(PhotoTraits traits, int leastStars);
     /// Gives those of these photos that are open a trait, or takes it away.
     void setTrait(PhotoTrait trait, const QList<QUrl>& photos, bool on);
+    /// The photos at these positions have the trait, and no others.
+    void setOnly(PhotoTrait trait, const QList<int>& positions);
+    /// Which photos have which traits.
+    const RecordIndex& index() const { return m_open.index; }
+    /// Only photos are to be listed that hold the text in any field; "": all. They are looked for by findOn(), and the
+    /// list stays as it is until all are found.
+    void find(const QString& text);
+    bool isFinding() const { return m_finding.isRunning(); }
+    /// Looks on for about so long.
+    void findOn(std::chrono::milliseconds budget);
+    /// Where in visibleRows() the photo at this position stands, or would stand if it were listed.
+    qsizetype rowOf(int position) { return m_open.index.rowOf(position, m_visibleRows, m_order); }
+    /// The photo on screen that stands behind this one, which may not be listed itself; in front of it where none does.
+    std::optional<QUrl> shownNear(const QUrl& photo);
     RecordSortOrder order() const { return m_order; }
     void setOrder(RecordSortOrder order);
 
@@ -97,6 +115,9 @@ private:
     void keepCreationDates();
     bool putAll(const QList<ImageRecord>& fresh);
     void put(int position, const ImageRecord& record);
+    void traitsChanged(PhotoTrait trait);
+    void markText(int position);
+    void endFinding();
     void contentChanged(bool isHeldChanged, bool photosChanged);
     void updateVisibleRows(bool photosChanged);
 
@@ -106,6 +127,7 @@ private:
     FolderGroups m_groups;
     QString m_search;
     PhotoFilter m_filter;
+    TextFinding m_finding;
     RecordSortOrder m_order;
     CreationDates m_creationDates;
     int m_serial = 0;

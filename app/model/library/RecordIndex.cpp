@@ -3,7 +3,9 @@
 #include "core/text/Text.h"
 
 #include <algorithm>
+#include <bit>
 #include <numeric>
+#include <utility>
 
 namespace Quorbel {
 
@@ -61,7 +63,7 @@ void RecordIndex::reset(
     const qsizetype room = std::max(withRoom(records.size()), m_folders.isOrdering() ? roomForWalk : 0);
     m_entries.reserve(size_t(room));
     m_positions.reserve(size_t(room));
-    m_traits.reserve(size_t(room));
+    m_marks.reserve(size_t(room));
     m_ids.reserve(room);
     for (const ImageRecord& record : records) {
         if (stop.stop_requested())
@@ -83,7 +85,7 @@ void RecordIndex::add(const ImageRecord& record)
     added.id = int(m_positions.size());
     added.folder = m_folders.enter(record.url);
     m_positions.push_back(int(m_entries.size()) - 1);
-    m_traits.emplace_back();
+    tally(m_marks.emplace_back(RecordTraits::of(record)), 1);
     if (!m_ids.contains(record.url))
         m_ids.insert(record.url, added.id);
 }
@@ -108,6 +110,9 @@ void RecordIndex::replace(const QList<int>& positions, const QList<ImageRecord>&
     std::vector<int> moved;
     for (const int position : positions) {
         const Entry& old = entry(position);
+        RecordTraits said = RecordTraits::of(records.at(position));
+        said.traits |= mark(position).traits & ~RecordTraits::mask();
+        change(old.id, said);
         if (old.url != records.at(position).url || old.fileName != records.at(position).fileName
             || old.created != createdAt(records.at(position)))
             moved.push_back(position);
@@ -152,6 +157,7 @@ void RecordIndex::remove(const QList<int>& positions)
             ++next;
             newPosition[size_t(i)] = -1;
             m_positions[size_t(old.id)] = -1;
+            tally(std::exchange(m_marks[size_t(old.id)], {}), -1);
             m_folders.leave(old.folder);
             if (m_ids.value(old.url, -1) == old.id)
                 m_ids.remove(old.url);
@@ -174,19 +180,81 @@ void RecordIndex::remove(const QList<int>& positions)
     }
 }
 
+// --- Traits ---
+
+void RecordIndex::tally(const Mark& mark, int step)
+{
+    for (uint bits = mark.traits.toInt(); bits != 0; bits &= bits - 1)
+        m_counts.at(size_t(std::countr_zero(bits))) += step;
+    m_starCounts.at(size_t(mark.stars)) += step;
+}
+
+bool RecordIndex::change(int id, const Mark& next)
+{
+    Mark& mark = m_marks[size_t(id)];
+    if (mark == next)
+        return false;
+    tally(mark, -1);
+    mark = next;
+    tally(mark, 1);
+    return true;
+}
+
 bool RecordIndex::setTrait(int position, PhotoTrait trait, bool on)
 {
-    PhotoTraits& traits = m_traits[size_t(entry(position).id)];
-    if (traits.testFlag(trait) == on)
-        return false;
-    traits.setFlag(trait, on);
-    return true;
+    Mark next = mark(position);
+    next.traits.setFlag(trait, on);
+    return change(entry(position).id, next);
+}
+
+bool RecordIndex::setOnly(PhotoTrait trait, const QList<int>& positions)
+{
+    std::vector<bool> isOne(m_entries.size());
+    for (const int position : positions)
+        isOne[size_t(position)] = true;
+    bool isOther = false;
+    for (int position = 0; position < int(m_entries.size()); ++position)
+        isOther = setTrait(position, trait, isOne[size_t(position)]) || isOther;
+    return isOther;
+}
+
+void RecordIndex::moveTrait(PhotoTrait from, PhotoTrait to)
+{
+    for (int position = 0; position < int(m_entries.size()); ++position) {
+        setTrait(position, to, traits(position).testFlag(from));
+        setTrait(position, from, false);
+    }
+}
+
+int RecordIndex::count(PhotoTrait trait) const
+{
+    return m_counts.at(size_t(std::countr_zero(uint(trait))));
+}
+
+int RecordIndex::countOfStars(int least) const
+{
+    return std::accumulate(m_starCounts.cbegin() + std::clamp(least, 0, 5), m_starCounts.cend(), 0);
 }
 
 bool RecordIndex::passes(int position, const PhotoFilter& filter) const
 {
-    const Entry& photo = entry(position);
-    return (m_traits[size_t(photo.id)] & filter.traits) == filter.traits && photo.lowerName.contains(filter.needle);
+    const Mark& photo = mark(position);
+    return (photo.traits & filter.traits) == filter.traits && photo.stars >= filter.stars;
+}
+
+// --- Rows ---
+
+qsizetype RecordIndex::rowOf(int position, const QList<int>& rows, RecordSortOrder order)
+{
+    // The rows are a part of this, in the same order.
+    qsizetype row = 0;
+    for (const int other : sortedBy(order)) {
+        if (other == position)
+            break;
+        if (row < rows.size() && rows.at(row) == other)
+            ++row;
+    }
+    return row;
 }
 
 QList<int> RecordIndex::rows(const PhotoFilter& filter, RecordSortOrder order)
@@ -196,7 +264,7 @@ QList<int> RecordIndex::rows(const PhotoFilter& filter, RecordSortOrder order)
         return QList<int>(all.cbegin(), all.cend());
     QList<int> found;
     for (const int position : all)
-        if (passes(position, filter))
+        if (isListed(position, filter) && entry(position).lowerName.contains(filter.needle))
             found.append(position);
     return found;
 }

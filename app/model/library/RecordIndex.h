@@ -3,17 +3,19 @@
 // Thread: one at a time. Keeps one natural sort key and one lower-case name a photo, so that neither a keystroke in
 // the search nor another sort order compares texts again. What comes, goes or changes is put in its place in what is
 // sorted already: that costs steps over plain numbers, and texts are compared only around the photos concerned.
+// Knows of each photo its traits and stars, and counts them.
 #pragma once
 
 #include "app/model/library/FolderGroups.h"
 #include "app/model/library/FolderOrder.h"
-#include "app/model/library/filter/PhotoFilter.h"
+#include "app/model/library/filter/RecordTraits.h"
 #include "core/schema/ImageRecord.h"
 #include "core/schema/RecordSortOrder.h"
 
 #include <QCollatorSortKey>
 #include <QHash>
 
+#include <array>
 #include <optional>
 #include <stop_token>
 #include <vector>
@@ -38,14 +40,32 @@ public:
 
     /// -1 when there is none. The first one where a URL occurs twice.
     int position(const QUrl& url) const;
-    /// Gives the photo a trait, or takes it away; whether it had it otherwise. A photo keeps its traits under another
-    /// name, and when it was read again.
+    /// Gives the photo a trait, or takes it away; whether it had it otherwise. A photo keeps under another name, and
+    /// when it was read again, what its record says nothing about.
     bool setTrait(int position, PhotoTrait trait, bool on);
+    /// Those at these positions have the trait, and no others; whether any had it otherwise.
+    bool setOnly(PhotoTrait trait, const QList<int>& positions);
+    /// Whoever has the one trait has the other from now on, and nobody else, and the one no more.
+    void moveTrait(PhotoTrait from, PhotoTrait to);
+    PhotoTraits traits(int position) const { return mark(position).traits; }
+    /// How many photos have it.
+    int count(PhotoTrait trait) const;
+    /// How many have so many stars or more.
+    int countOfStars(int least) const;
+    /// Whether the photo has what is asked for beside its name.
+    bool passes(int position, const PhotoFilter& filter) const;
+    /// Whether it is listed, but for its name: it passes, or is held.
+    bool isListed(int position, const PhotoFilter& filter) const
+    {
+        return passes(position, filter) || traits(position).testFlag(PhotoTrait::held);
+    }
     /// Positions of the photos that pass, in this order; what is equal in it stays in the list's. Photos without a
     /// creation date come last; those of one date, or without, by name.
     QList<int> rows(const PhotoFilter& filter, RecordSortOrder order);
     /// The runs of one folder in what rows() gave; none where folders have no order.
     QList<FolderGroup> groups(const QList<int>& rows) const;
+    /// Where in rows() the photo stands, or would stand if it passed.
+    qsizetype rowOf(int position, const QList<int>& rows, RecordSortOrder order);
     const FolderOrder& folders() const { return m_folders; }
 
 private:
@@ -70,10 +90,15 @@ private:
         auto operator<=>(const DateKey&) const = default;
     };
 
+    /// What is known of one photo beside its name.
+    using Mark = RecordTraits;
+
     void add(const ImageRecord& record);
+    const Mark& mark(int position) const { return m_marks[size_t(entry(position).id)]; }
+    bool change(int id, const Mark& next);
+    void tally(const Mark& mark, int step);
     void follow(int position, const ImageRecord& record);
     const Entry& entry(int position) const { return m_entries[size_t(position)]; }
-    bool passes(int position, const PhotoFilter& filter) const;
     int folderRank(int position) const { return m_folders.rank(entry(position).folder); }
     bool isBefore(int a, int b) const;
     DateKey dateKey(int position, bool newestFirst) const;
@@ -87,7 +112,9 @@ private:
     std::vector<Entry> m_entries;
     QHash<QUrl, int> m_ids;  ///< never renumbered, so that a photo that goes moves no other one in it
     std::vector<int> m_positions;  ///< by id
-    std::vector<PhotoTraits> m_traits;  ///< by id
+    std::vector<Mark> m_marks;  ///< by id
+    std::array<int, 16> m_counts{};  ///< by the number of a trait's bit
+    std::array<int, 6> m_starCounts{};  ///< by stars
     std::vector<int> m_byName;  ///< positions, ascending by folder and name
     std::vector<int> m_nameRank;  ///< by position; photos of equal names in one folder have equal ranks
     std::vector<int> m_sorted;  ///< positions in m_sortedBy's order

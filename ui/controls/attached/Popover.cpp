@@ -40,7 +40,8 @@ void Popover::place()
     const QWidget* window = m_opener->window();
     const int free = px(edge);
     const QRect inWindow = QRect(window->mapToGlobal(QPoint()), window->size()).adjusted(free, free, -free, -free);
-    const QRect room = inWindow & m_opener->screen()->availableGeometry();
+    const QRect screen = m_opener->screen()->availableGeometry();
+    const QRect room = staysInWindow() ? inWindow & screen : screen;
     const int width = qMin(m_width, room.width());
     const int wanted = heightIn(width);
     const int below = room.bottom() - m_anchor.bottom() - px(gap);

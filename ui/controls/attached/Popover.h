@@ -15,8 +15,8 @@ class Popover : public QWidget {
 public:
     /// The theme is that of the opener. A press on the opener that closes this does not open it again.
     explicit Popover(QWidget* opener);
-    /// Opens under `anchor` (global), or over it where there is more room, this many pixels wide; stays inside the
-    /// opener's window, and is no higher than the room there.
+    /// Opens under `anchor` (global), or over it where there is more room, this many pixels wide; is no higher than the
+    /// room there.
     void open(const QRect& anchor, int width);
     /// Without the room for the shadow.
     QRect box() const;
@@ -27,6 +27,8 @@ signals:
 protected:
     /// The height that all of the content takes in a box of this width, the box's edges included.
     virtual int heightIn(int width) = 0;
+    /// Whether it stays inside the opener's window; else inside the screen, as a menu does.
+    virtual bool staysInWindow() const { return true; }
     /// Lays the content out in the box.
     virtual void arrange(const QRect& box) = 0;
     /// Finds the place anew, after the content changed.

@@ -153,6 +153,53 @@ private slots:
             }
         }
     }
+
+    // Kept up through whatever happens, it counts and lists as one that is made anew; what records say nothing about
+    // stays with the photo.
+    void keepsTraits()
+    {
+        auto random = QRandomGenerator(20260509);
+        const auto fill = [&random](ImageRecord& photo) {
+            photo.isUnread = random.bounded(4) == 0;
+            photo.values = { { u"title"_s, random.bounded(2) == 0 ? u"A title"_s : u" "_s },
+                { u"rating"_s, QString::number(random.bounded(8) - 1) } };
+        };
+        QList<ImageRecord> records;
+        RecordIndex index;
+        index.reset(records, RecordSortOrder::nameAsc);
+        QSet<QUrl> edited;
+        for (int round = 0; round < 300; ++round) {
+            const int at = records.isEmpty() ? 0 : random.bounded(int(records.size()));
+            const int kind = records.isEmpty() ? 0 : random.bounded(4);
+            if (kind == 0) {
+                records.append(record(u"%1.jpg"_s.arg(round)));
+                records.last().url = QUrl::fromLocalFile(u"/p/%1"_s.arg(round));
+                fill(records.last());
+                index.append(records);
+            } else if (kind == 1) {
+                fill(records[at]);
+                index.replace({ at }, records);
+            } else if (kind == 2) {
+                index.setTrait(at, PhotoTrait::edited, true);
+                edited.insert(records.at(at).url);
+            } else {
+                edited.remove(records.takeAt(at).url);
+                index.remove({ at });
+            }
+            RecordIndex fresh;
+            fresh.reset(records, RecordSortOrder::nameAsc);
+            for (const PhotoTrait trait : { PhotoTrait::noTitle, PhotoTrait::unrated, PhotoTrait::unread }) {
+                QCOMPARE(index.count(trait), fresh.count(trait));
+                const PhotoFilter filter{ .traits = trait, .stars = random.bounded(3) };
+                QCOMPARE(index.rows(filter, RecordSortOrder::nameAsc), fresh.rows(filter, RecordSortOrder::nameAsc));
+            }
+            for (int stars = 0; stars <= 5; ++stars)
+                QCOMPARE(index.countOfStars(stars), fresh.countOfStars(stars));
+            QCOMPARE(index.count(PhotoTrait::edited), edited.size());
+            for (int i = 0; i < records.size(); ++i)
+                QCOMPARE(index.traits(i).testFlag(PhotoTrait::edited), edited.contains(records.at(i).url));
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_RecordIndex)

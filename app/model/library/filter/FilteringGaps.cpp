@@ -1,0 +1,129 @@
+// The way from gap to gap.
+#include "app/model/AppModel.h"
+#include "app/model/library/filter/Filtering.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Where the field stands among those that can be gaps; -1 when it is none.
+qsizetype placeOf(const QString& field)
+{
+    const QList<Gap>& gaps = Gaps::all();
+    const auto found =
+        std::find_if(gaps.cbegin(), gaps.cend(), [&field](const Gap& gap) { return gap.field == field; });
+    return found == gaps.cend() ? -1 : found - gaps.cbegin();
+}
+
+}  // namespace
+
+PhotoTraits Filtering::gapsAsked() const
+{
+    const PhotoTraits filtered = filter().traits & Gaps::traits();
+    return filtered ? filtered : Gaps::traits();
+}
+
+// Of the one selected photo, as one sees it.
+QStringList Filtering::gapsOfDraft() const
+{
+    QStringList fields;
+    const ImageRecord* photo = m_model.primaryRecord();
+    if (m_model.isBatch() || !photo || photo->isUnread)
+        return fields;
+    for (const Gap& gap : Gaps::all()) {
+        const bool isEmpty = m_model.isFieldEmpty(gap.field) && m_model.draftLists().value(gap.field).isEmpty();
+        if (gapsAsked().testFlag(gap.trait) && isEmpty)
+            fields.append(gap.field);
+    }
+    return fields;
+}
+
+QStringList Filtering::gapsOf(int position) const
+{
+    QStringList fields;
+    const PhotoTraits gaps = m_reach.photos.index().traits(position) & gapsAsked();
+    for (const Gap& gap : Gaps::all())
+        if (gaps.testFlag(gap.trait))
+            fields.append(gap.field);
+    return fields;
+}
+
+void Filtering::goToGap(Way way)
+{
+    requireMainThread("goToGap");
+    const QString field = focusedField ? focusedField() : QString();
+    if (goWithinPhoto(field, way))
+        return;
+    const QList<int>& rows = m_model.visibleRows();
+    const qsizetype count = rows.size();
+    const int at = m_model.primary() ? m_reach.photos.position(*m_model.primary()) : -1;
+    const bool isForward = way == Way::next;
+    // Row of the photo in front of the first that is looked at.
+    qsizetype from = isForward ? -1 : count;
+    bool isListed = false;
+    if (at >= 0) {
+        from = m_reach.photos.rowOf(at);
+        isListed = from < count && rows.at(from) == at;
+        from -= !isListed && isForward ? 1 : 0;
+    }
+    for (qsizetype step = 1; step <= count; ++step) {
+        const qsizetype to = isForward ? from + step : from - step;
+        const qsizetype row = (to + count) % count;
+        if (m_reach.photos.groups().isFolded(row))
+            continue;
+        const bool isHere = rows.at(row) == at && !m_model.isBatch();
+        const QStringList fields = isHere ? gapsOfDraft() : gapsOf(rows.at(row));
+        if (fields.isEmpty())
+            continue;
+        const QString note = to == row ? QString()
+            : isForward                ? u"Started again at the top"_s
+                                       : u"Started again at the end"_s;
+        return goTo({ m_model.records().at(rows.at(row)).url, isForward ? fields.first() : fields.last(), note });
+    }
+    emit noted(nothingLeft());
+}
+
+// In the list one stands in front of the photo's first field.
+bool Filtering::goWithinPhoto(const QString& field, Way way)
+{
+    const qsizetype here = placeOf(field);
+    QStringList fields = gapsOfDraft();
+    fields.removeIf(
+        [&](const QString& other) { return way == Way::next ? placeOf(other) <= here : placeOf(other) >= here; });
+    if (fields.isEmpty())
+        return false;
+    emit fieldAsked(way == Way::next ? fields.first() : fields.last());
+    return true;
+}
+
+// Unsaved edits may be asked about on the way.
+void Filtering::goTo(const Goal& goal)
+{
+    m_goal = goal;
+    m_model.tap(goal.photo, false, false);
+    reach();
+}
+
+void Filtering::reach()
+{
+    if (!m_goal || m_model.primary() != m_goal->photo || m_model.isBatch())
+        return;
+    const Goal goal = *std::exchange(m_goal, std::nullopt);
+    emit fieldAsked(goal.field);
+    if (!goal.note.isEmpty())
+        emit noted(goal.note);
+}
+
+QString Filtering::nothingLeft() const
+{
+    const QString unread = QLocale().toString(this->unread());
+    return this->unread() == 0 ? u"No gaps left"_s : u"No gaps left · %1 not read yet"_s.arg(unread);
+}
+
+}  // namespace Quorbel
