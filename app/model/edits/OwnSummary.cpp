@@ -21,6 +21,13 @@ QStringList sorted(const QSet<QString>& items)
     return list;
 }
 
+// One by one: a set of their own for each photo's costs more than all else here.
+void insert(QSet<QString>& items, const QStringList& more)
+{
+    for (const QString& item : more)
+        items.insert(item);
+}
+
 void collect(QHash<QString, Found>& found, const OwnEdits& one)
 {
     const auto addText = [&found](const QString& key, const QString& text) {
@@ -35,12 +42,12 @@ void collect(QHash<QString, Found>& found, const OwnEdits& one)
     for (auto list = one.added.cbegin(); list != one.added.cend(); ++list) {
         Found& field = found[list.key()];
         ++field.photos;
-        field.added.unite(QSet<QString>(list->cbegin(), list->cend()));
+        insert(field.added, *list);
     }
     for (auto list = one.removed.cbegin(); list != one.removed.cend(); ++list) {
         Found& field = found[list.key()];
         field.photos += one.added.contains(list.key()) ? 0 : 1;
-        field.removed.unite(QSet<QString>(list->cbegin(), list->cend()));
+        insert(field.removed, *list);
     }
 }
 
