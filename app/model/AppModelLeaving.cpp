@@ -197,10 +197,14 @@ void AppModel::bringBack(int position)
 void AppModel::bringBack(const LeftEdits& left)
 {
     const Announcer::Together together(m_announcer);
+    QSet<QUrl> open;
+    QSet<QUrl> gone;
+    for (const QUrl& photo : left.edits.subjects)
+        (photos().contains(photo) ? open : gone).insert(photo);
     LeftEdits here = left;
     LeftEdits away = left;
-    here.edits.subjects.removeIf([this](const QUrl& photo) { return !photos().contains(photo); });
-    away.edits.subjects.removeIf([this](const QUrl& photo) { return photos().contains(photo); });
+    here.edits = left.edits.onlyOf(open);
+    away.edits = left.edits.onlyOf(gone);
     if (!away.edits.subjects.isEmpty())
         setErrorMessage(u"Not here any more: %1. The unsaved changes are kept."_s.arg(away.names()));
     if (here.edits.subjects.isEmpty())

@@ -132,7 +132,8 @@ bool Edits::edited(const QString& key) const
 {
     if (const auto name = CustomFields::nameIn(key); name && CustomFields::indexOf(customs, *name) >= 0)
         return true;
-    return keys().contains(key);
+    return scalars.contains(key) || lists.contains(key) || !added.value(key).isEmpty() || !removed.value(key).isEmpty()
+        || (key == FieldID::keywords && !paths.isEmpty()) || hasOwn(key);
 }
 
 QSet<QString> Edits::keys() const
@@ -184,7 +185,7 @@ Edits Edits::onlyOf(const QSet<QUrl>& photos) const
 EditPlan Edits::plan() const
 {
     EditPlan plan{ .scalars = scalars, .lists = lists, .customs = customs, .paths = paths };
-    if (lists.isEmpty() && !(withoutEmpty(added).isEmpty() && withoutEmpty(removed).isEmpty())) {
+    if (lists.isEmpty() && !(isWithoutItems(added) && isWithoutItems(removed))) {
         plan.lists = withoutEmpty(added);
         plan.removed = withoutEmpty(removed);
         plan.listMode = MetadataWriter::ListMode::append;
@@ -226,7 +227,8 @@ Edits Edits::foldedInto(const ImageRecord& photo, const PhotoDetails* details) c
         .subjects = { photo.url } };
     folded.scalars.removeIf([&](const auto& entry) { return holdsText(photo, details, entry.key(), entry.value()); });
     for (auto items = added.cbegin(); items != added.cend(); ++items)
-        folded.lists.insert(items.key(), withItems(photo.lists.value(items.key()), *items));
+        folded.lists.insert(
+            items.key(), withItems(folded.lists.value(items.key(), photo.lists.value(items.key())), *items));
     for (auto items = removed.cbegin(); items != removed.cend(); ++items)
         folded.lists.insert(
             items.key(), withoutItems(folded.lists.value(items.key(), photo.lists.value(items.key())), *items));
@@ -250,7 +252,8 @@ ExternalRefresh::Drafts Edits::onto(const ImageRecord& photo, const QMap<QString
         return of(photo.url).onto(photo, languages);
     ExternalRefresh::Drafts drafts{ scalars, lists, customs };
     for (auto items = added.cbegin(); items != added.cend(); ++items)
-        drafts.lists.insert(items.key(), withItems(photo.lists.value(items.key()), *items));
+        drafts.lists.insert(
+            items.key(), withItems(drafts.lists.value(items.key(), photo.lists.value(items.key())), *items));
     for (auto items = removed.cbegin(); items != removed.cend(); ++items)
         drafts.lists.insert(
             items.key(), withoutItems(drafts.lists.value(items.key(), photo.lists.value(items.key())), *items));
@@ -268,11 +271,13 @@ Edits Edits::merged(const Edits& other, const QList<QUrl>& photos) const
 {
     Edits merged = *this;
     merged.shareOut(other.own, photos);
-    for (const QString& key : other.scalars.keys() + keysOf(other.customs))
+    for (const QString& key : other.scalars.keys() + other.lists.keys() + keysOf(other.customs))
         merged.forgetOwn(key);
     merged.scalars.insert(other.scalars);
     for (auto list = other.lists.cbegin(); list != other.lists.cend(); ++list) {
         merged.lists.insert(list.key(), *list);
+        merged.added.remove(list.key());
+        merged.removed.remove(list.key());
         merged.givenUp.insert(list.key(), other.givenUp.value(list.key()));
     }
     merged.givenUp = withoutEmpty(merged.givenUp);
@@ -280,7 +285,10 @@ Edits Edits::merged(const Edits& other, const QList<QUrl>& photos) const
         merged.addItems(items.key(), *items);
     for (auto items = other.removed.cbegin(); items != other.removed.cend(); ++items)
         merged.removeItems(items.key(), *items);
-    merged.paths = withItems(paths, other.paths);
+    for (const QString& path : other.paths)
+        merged.removed[FieldID::keywords].removeAll(KeywordPath::keyword(path));
+    merged.removed = withoutEmpty(merged.removed);
+    merged.paths = withItems(merged.paths, other.paths);
     merged.dropStrayPaths();
     for (const CustomValue& custom : other.customs)
         CustomFields::put(merged.customs, custom);
@@ -348,13 +356,19 @@ void Edits::addKeywordsOfPaths(const QStringList& held)
 
 void Edits::addItems(const QString& id, const QStringList& items)
 {
-    moveItems(added, removed, id, items);
+    if (const auto list = lists.find(id); list != lists.end())
+        *list = withItems(*list, items);
+    else
+        moveItems(added, removed, id, items);
     dropOwnItems(id, items);
 }
 
 void Edits::removeItems(const QString& id, const QStringList& items)
 {
-    moveItems(removed, added, id, items);
+    if (const auto list = lists.find(id); list != lists.end())
+        *list = withoutItems(*list, items);
+    else
+        moveItems(removed, added, id, items);
     dropOwnItems(id, items);
     if (id == FieldID::keywords)
         paths.removeIf([&items](const QString& path) { return items.contains(KeywordPath::keyword(path)); });
@@ -402,9 +416,23 @@ void Edits::forgetOwn(const QString& key)
 
 void Edits::rename(const QUrl& source, const QUrl& destination)
 {
-    std::replace(subjects.begin(), subjects.end(), source, destination);
-    if (own.contains(source))
-        own.insert(destination, own.take(source));
+    rename({ { source, destination } });
+}
+
+void Edits::rename(const QHash<QUrl, QUrl>& names)
+{
+    QSet<QUrl> taken;
+    for (const QUrl& name : names)
+        if (!names.contains(name))
+            taken.insert(name);
+    subjects.removeIf([&taken](const QUrl& photo) { return taken.contains(photo); });
+    for (QUrl& photo : subjects)
+        photo = names.value(photo, photo);
+    QHash<QUrl, OwnEdits> renamed;
+    for (auto one = own.cbegin(); one != own.cend(); ++one)
+        if (!taken.contains(one.key()))
+            renamed.insert(names.value(one.key(), one.key()), *one);
+    own = renamed;
 }
 
 void Edits::forget(const QString& id)

@@ -74,15 +74,17 @@ struct Edits {
     /// gained, too.
     void addKeywordsOfPaths(const QStringList& held);
     /// These items of the list are gained, or lost, by all photos; an earlier edit that says otherwise, of all or of
-    /// one, is dropped.
+    /// one, is dropped. A list that is replaced gains or loses them itself.
     void addItems(const QString& id, const QStringList& items);
     void removeItems(const QString& id, const QStringList& items);
     /// Whether some photo has an edit of its own of this key.
     bool hasOwn(const QString& key) const;
     /// No photo has an edit of its own of this key any more.
     void forgetOwn(const QString& key);
-    /// The photo has another name.
+    /// The photo has another name; of one that had it before nothing is left.
     void rename(const QUrl& source, const QUrl& destination);
+    /// The same for many at once, which may also swap their names.
+    void rename(const QHash<QUrl, QUrl>& names);
     /// Nothing of this field is edited any more, in no language, of no photo.
     void forget(const QString& id);
 

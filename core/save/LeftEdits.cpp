@@ -57,6 +57,18 @@ QStringList labelsOf(const FieldSpec& field, const QSet<QString>& keys)
     return keys.contains(field.id) ? QStringList(field.label) + languages : languages;
 }
 
+// Those of all photos in their order, behind them by their names those that only some photos have.
+QStringList customNamesIn(const Edits& edits, const QSet<QString>& keys)
+{
+    const QStringList common = CustomFields::names(edits.customs);
+    QStringList own;
+    for (const QString& key : keys)
+        if (const auto name = CustomFields::nameIn(key); name && !common.contains(*name))
+            own.append(*name);
+    own.sort();
+    return common + own;
+}
+
 // --- JSON ---
 
 constexpr int version = 1;
@@ -77,27 +89,61 @@ QJsonObject toJson(const QMap<QString, QStringList>& lists)
     return object;
 }
 
+// Its folder, with the slash, and its name in there.
+std::pair<QString, QString> split(const QUrl& photo)
+{
+    const QString path = photo.toLocalFile();
+    const qsizetype slash = path.lastIndexOf(u'/');
+    return { path.left(slash + 1), path.mid(slash + 1) };
+}
+
 // Folders are named once: ten thousand photos of one folder take little more than their names.
 QJsonObject toJson(const QList<QUrl>& photos)
 {
     QMap<QString, QStringList> namesByFolder;
     for (const QUrl& photo : photos) {
-        const QString path = photo.toLocalFile();
-        const qsizetype slash = path.lastIndexOf(u'/');
-        namesByFolder[path.left(slash + 1)].append(path.mid(slash + 1));
+        const auto [folder, name] = split(photo);
+        namesByFolder[folder].append(name);
     }
     return toJson(namesByFolder);
 }
 
+QJsonArray toJson(const QList<CustomValue>& customs)
+{
+    QJsonArray array;
+    for (const CustomValue& custom : customs)
+        array.append(QJsonObject{ { u"name"_s, custom.name }, { u"value"_s, custom.value } });
+    return array;
+}
+
+QJsonObject toJson(const OwnEdits& own)
+{
+    return { { u"scalars"_s, toJson(own.scalars) }, { u"added"_s, toJson(own.added) },
+        { u"removed"_s, toJson(own.removed) }, { u"customs"_s, toJson(own.customs) } };
+}
+
+// By folder, and there by name, in order: to insert anywhere but behind all others takes time.
+QJsonObject toJson(const QHash<QUrl, OwnEdits>& own)
+{
+    QMap<std::pair<QString, QString>, const OwnEdits*> sorted;
+    for (auto one = own.cbegin(); one != own.cend(); ++one)
+        sorted.insert(split(one.key()), &*one);
+    QMap<QString, QJsonObject> ownByFolder;
+    for (auto one = sorted.cbegin(); one != sorted.cend(); ++one)
+        ownByFolder[one.key().first].insert(one.key().second, toJson(**one));
+    QJsonObject object;
+    for (auto folder = ownByFolder.cbegin(); folder != ownByFolder.cend(); ++folder)
+        object.insert(folder.key(), *folder);
+    return object;
+}
+
 QJsonObject toJson(const LeftEdits& left)
 {
-    QJsonArray customs;
-    for (const CustomValue& custom : left.edits.customs)
-        customs.append(QJsonObject{ { u"name"_s, custom.name }, { u"value"_s, custom.value } });
     return { { u"photos"_s, toJson(left.edits.subjects) }, { u"scalars"_s, toJson(left.edits.scalars) },
         { u"lists"_s, toJson(left.edits.lists) }, { u"added"_s, toJson(left.edits.added) },
+        { u"removed"_s, toJson(left.edits.removed) }, { u"own"_s, toJson(left.edits.own) },
         { u"paths"_s, QJsonArray::fromStringList(left.edits.paths) }, { u"givenUp"_s, toJson(left.edits.givenUp) },
-        { u"customs"_s, customs }, { u"held"_s, toJson(left.heldLists) },
+        { u"customs"_s, toJson(left.edits.customs) }, { u"held"_s, toJson(left.heldLists) },
         { u"confirmed"_s, QJsonArray::fromStringList(left.confirmed) }, { u"leftAt"_s, left.leftAt } };
 }
 
@@ -132,6 +178,32 @@ QList<QUrl> photosFrom(const QJsonValue& value)
     return photos;
 }
 
+QList<CustomValue> customsFrom(const QJsonValue& value)
+{
+    QList<CustomValue> customs;
+    for (const auto& custom : value.toArray())
+        if (const QString name = custom[u"name"_s].toString(); !name.isEmpty())
+            CustomFields::put(customs, { name, custom[u"value"_s].toString() });
+    return customs;
+}
+
+// Of these photos: what belongs to none of them would never be shown.
+QHash<QUrl, OwnEdits> ownFrom(const QJsonValue& value, const QList<QUrl>& photos)
+{
+    QHash<QUrl, OwnEdits> own;
+    for (const QUrl& photo : value.toObject().isEmpty() ? QList<QUrl>() : photos) {
+        const auto [folder, name] = split(photo);
+        const QJsonValue of = value[folder][name];
+        const OwnEdits one{ .scalars = textsFrom(of[u"scalars"_s]),
+            .added = listsFrom(of[u"added"_s]),
+            .removed = listsFrom(of[u"removed"_s]),
+            .customs = customsFrom(of[u"customs"_s]) };
+        if (!one.isEmpty())
+            own.insert(photo, one);
+    }
+    return own;
+}
+
 LeftEdits leftFrom(const QJsonValue& value)
 {
     LeftEdits left{ .heldLists = listsFrom(value[u"held"_s]),
@@ -140,13 +212,13 @@ LeftEdits leftFrom(const QJsonValue& value)
     left.edits = { .scalars = textsFrom(value[u"scalars"_s]),
         .lists = listsFrom(value[u"lists"_s]),
         .added = listsFrom(value[u"added"_s]),
+        .removed = listsFrom(value[u"removed"_s]),
         .paths = value[u"paths"_s].toVariant().toStringList(),
         .givenUp = listsFrom(value[u"givenUp"_s]),
+        .customs = customsFrom(value[u"customs"_s]),
         .subjects = photosFrom(value[u"photos"_s]) };
+    left.edits.own = ownFrom(value[u"own"_s], left.edits.subjects);
     left.edits.paths.removeIf([](const QString& path) { return KeywordPath::elements(path).size() < 2; });
-    for (const auto& custom : value[u"customs"_s].toArray())
-        if (const QString name = custom[u"name"_s].toString(); !name.isEmpty())
-            CustomFields::put(left.edits.customs, { name, custom[u"value"_s].toString() });
     return left;
 }
 
@@ -182,7 +254,7 @@ QString LeftEdits::fields() const
     QStringList labels;
     for (const FieldSpec& field : FieldSchema::all())
         labels.append(labelsOf(field, keys));
-    labels.append(CustomFields::names(edits.customs));
+    labels.append(customNamesIn(edits, keys));
     return enumerated(labels.mid(0, namedFields), labels.size());
 }
 
@@ -198,12 +270,14 @@ void keep(QList<LeftEdits>& list, const LeftEdits& left)
 
 void rename(QList<LeftEdits>& list, const QUrl& source, const QUrl& destination)
 {
-    for (LeftEdits& left : list) {
-        QList<QUrl>& photos = left.edits.subjects;
-        photos.removeAll(destination);
-        std::replace(photos.begin(), photos.end(), source, destination);
-    }
-    list.removeIf([](const LeftEdits& left) { return left.edits.subjects.isEmpty(); });
+    rename(list, { { source, destination } });
+}
+
+void rename(QList<LeftEdits>& list, const QHash<QUrl, QUrl>& names)
+{
+    for (LeftEdits& left : list)
+        left.edits.rename(names);
+    list.removeIf([](const LeftEdits& left) { return left.edits.subjects.isEmpty() || left.edits.isEmpty(); });
 }
 
 QByteArray toJson(const QList<LeftEdits>& list)

@@ -35,6 +35,8 @@ constexpr qsizetype limit = 10;
 void keep(QList<LeftEdits>& list, const LeftEdits& left);
 /// A photo has another name. Edits of the photo that had that name before do not pass to it.
 void rename(QList<LeftEdits>& list, const QUrl& source, const QUrl& destination);
+/// The same for many at once, which may also swap their names.
+void rename(QList<LeftEdits>& list, const QHash<QUrl, QUrl>& names);
 
 /// What a file of such edits holds, and back; nothing for a text that is none. Edits in it that make no sense are left
 /// out.

@@ -98,36 +98,72 @@ private:
     QHash<QString, QString> m_intact;
 };
 
-// What is appended comes with the plan itself.
-void append(Change& change, const FieldSpec& field, const QStringList& typed, const Homes& homes)
+// Every spelling in some home of what is on screen as one of these.
+QStringList spellingsOf(const QStringList& shown, const Homes& homes)
+{
+    QSet<QString> intact;
+    for (const QString& item : homes.all())
+        if (shown.contains(item) || shown.contains(shownText(item)))
+            intact.insert(homes.intact(item));
+    QStringList spellings;
+    for (const QString& item : homes.all())
+        if (intact.contains(homes.intact(item)))
+            spellings.append(item);
+    return spellings;
+}
+
+// The items of all homes, as they are to be spelled in each.
+QStringList togetherOf(const Homes& homes, const QStringList& gone)
 {
     QStringList items;
     for (const QString& item : homes.all())
-        if (const QString intact = homes.intact(item); !items.contains(intact))
+        if (const QString intact = homes.intact(item); !gone.contains(intact) && !items.contains(intact))
             items.append(intact);
-    QList<Assignment> preparation;
+    return items;
+}
+
+// What is appended and taken away comes with the plan itself, but for spellings that it does not know. Items that
+// nobody touches come together only where others are added.
+void append(
+    Change& change, const FieldSpec& field, const QStringList& typed, const QStringList& removed, const Homes& homes)
+{
+    QStringList gone = spellingsOf(removed, homes);
+    gone.removeIf([&typed](const QString& item) { return typed.contains(item); });
+    QStringList items = typed.isEmpty() ? QStringList() : togetherOf(homes, gone);
+    QList<Assignment> joining;
     const QSet<QString> added = setOf(typed);
     for (const Home& home : homes.homes()) {
         if (!home.isWritable)
             continue;
         const QSet<QString> held = setOf(home.items);
-        for (const QString& item : home.items)
-            if (homes.isDamaged(item))
-                preparation.append({ home.tag, Assignment::Operation::remove, item });
+        for (const QString& item : home.items) {
+            if (gone.contains(item)) {
+                if (!removed.contains(item))
+                    change.preparation.append({ home.tag, Assignment::Operation::remove, item });
+            } else if (!typed.isEmpty() && homes.isDamaged(item)) {
+                joining.append({ home.tag, Assignment::Operation::remove, item });
+            }
+        }
         for (const QString& item : std::as_const(items)) {
             if (held.contains(item) || added.contains(item))
                 continue;
-            preparation.append({ home.tag, Assignment::Operation::remove, item });
-            preparation.append({ home.tag, Assignment::Operation::add, item });
+            joining.append({ home.tag, Assignment::Operation::remove, item });
+            joining.append({ home.tag, Assignment::Operation::add, item });
         }
     }
-    if (!preparation.isEmpty())
+    if (!joining.isEmpty())
         change.joined.append(field.id);
-    change.preparation += preparation;
+    change.preparation += joining;
     for (const QString& item : typed)
         if (!items.contains(item))
             items.append(item);
-    change.items.insert(field.id, items);
+    if (!typed.isEmpty())
+        change.items.insert(field.id, items);
+    for (const QString& item : removed)
+        if (!gone.contains(item))
+            gone.append(item);
+    if (!gone.isEmpty())
+        change.takenAway.insert(field.id, gone);
 }
 
 // The list that replaces the ones of all homes.
@@ -211,21 +247,24 @@ private:
 Change change(const EditPlan& plan, const FileTags& before, const QString& fileType, const SeenLists& seen)
 {
     Change change;
-    for (auto list = plan.lists.cbegin(); list != plan.lists.cend(); ++list) {
-        const FieldSpec* field = FieldSchema::spec(list.key());
+    QStringList ids = plan.lists.keys() + plan.removed.keys();
+    ids.removeDuplicates();
+    for (const QString& id : std::as_const(ids)) {
+        const FieldSpec* field = FieldSchema::spec(id);
         if (!field || !field->isList())
             continue;
+        const QStringList typed = plan.lists.value(id);
         const Homes homes(*field, before, fileType, plan.leftOut);
         if (plan.listMode == MetadataWriter::ListMode::append) {
-            append(change, *field, cleaned(*list), homes);
+            append(change, *field, cleaned(typed), plan.removed.value(id), homes);
             continue;
         }
-        Replacement replacement(homes, *list, seen.value(list.key()));
-        change.items.insert(list.key(), replacement.items());
+        Replacement replacement(homes, typed, seen.value(id));
+        change.items.insert(id, replacement.items());
         if (const QStringList gone = replacement.takenAway(); !gone.isEmpty())
-            change.takenAway.insert(list.key(), gone);
+            change.takenAway.insert(id, gone);
         if (replacement.isJoined())
-            change.joined.append(list.key());
+            change.joined.append(id);
     }
     return change;
 }

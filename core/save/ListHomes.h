@@ -19,12 +19,14 @@ using SeenLists = QMap<QString, QStringList>;
 
 /// What happens to the lists of one photo.
 struct Change {
-    /// To be run before a plan that appends: what each home gains of the others, and gives up of damaged spellings.
+    /// To be run before a plan that appends: what each home gains of the others, and gives up of damaged spellings and
+    /// of further spellings of what the plan takes away.
     QList<Assignment> preparation{};
     /// Field id to the items of every home afterwards. A plan that replaces has to write just these, as they stand; one
     /// that appends leaves them among others.
     QMap<QString, QStringList> items{};
-    /// Field id to the items, as files spell them, that were seen and leave all homes.
+    /// Field id to the items, as files spell them, that were seen and leave all homes; behind those of a plan that
+    /// takes items away, the items that this photo does not hold.
     QMap<QString, QStringList> takenAway{};
     QStringList joined{};  ///< ids of the fields whose homes this brings together
     bool operator==(const Change&) const = default;

@@ -1,5 +1,6 @@
 #include "core/save/SaveVerification.h"
 
+#include "core/save/ListHomes.h"
 #include "core/save/TagHomes.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldLanguages.h"
@@ -139,6 +140,18 @@ bool holdsInHomes(const EditPlan& plan, const FieldSpec& field, const QStringLis
     });
 }
 
+// Whether some of what was taken away is there, in the home that is shown or in another one.
+bool isStillThere(const QStringList& removed, const FieldSpec& field, const ImageRecord& record, const FileTags* stored)
+{
+    if (removed.isEmpty())
+        return false;
+    QStringList found = record.lists.value(field.id);
+    for (const QString& tag : stored ? field.writeTags : QStringList())
+        found += TagHomes::itemsOf(tag, *stored);
+    return std::any_of(removed.cbegin(), removed.cend(),
+        [&found](const QString& item) { return found.contains(item) || found.contains(ListHomes::shownText(item)); });
+}
+
 // Of what is written beside the fields. A tag that is assigned holds just that, in some place.
 bool holdsTogether(const EditPlan& plan, const QString& id, const FileTags& stored)
 {
@@ -191,6 +204,8 @@ bool isInPart(const EditPlan& plan, const FieldSpec& field)
         alone.scalars.insert(field.id, *scalar);
     if (const auto list = plan.lists.constFind(field.id); list != plan.lists.cend())
         alone.lists.insert(field.id, *list);
+    if (const auto items = plan.removed.constFind(field.id); items != plan.removed.cend())
+        alone.removed.insert(field.id, *items);
     const auto rest = MetadataWriter::assignments(alone);
     alone.leftOut.clear();
     return !rest.isEmpty() && rest != MetadataWriter::assignments(alone);
@@ -213,6 +228,8 @@ QStringList differences(const EditPlan& plan, const ImageRecord& record, const F
             if (!sameList(plan, *list, record.lists.value(field.id))
                 || (stored && !holdsInHomes(plan, field, *list, record.fileType, *stored)))
                 keys.append(field.id);
+        if (!keys.contains(field.id) && isStillThere(plan.removed.value(field.id), field, record, stored))
+            keys.append(field.id);
         if (stored && !keys.contains(field.id) && !holdsTogether(plan, field.id, *stored))
             keys.append(field.id);
     }
@@ -226,7 +243,7 @@ QStringList differences(const EditPlan& plan, const ImageRecord& record, const F
 
 bool hasHiddenHomes(const EditPlan& plan)
 {
-    const QStringList ids = plan.scalars.keys() + plan.lists.keys() + plan.together.keys();
+    const QStringList ids = plan.scalars.keys() + plan.lists.keys() + plan.removed.keys() + plan.together.keys();
     return std::any_of(ids.cbegin(), ids.cend(), [&plan](const QString& id) {
         if (plan.together.contains(id) || FieldLanguages::languageIn(id))
             return true;

@@ -98,6 +98,17 @@ QList<Assignment> customArgs(const QString& name, const QString& value)
 
 namespace {
 
+// As they stand: what is to go is spelled as the files spell it.
+QList<Assignment> removalArgs(const FieldSpec& field, const QStringList& items)
+{
+    QList<Assignment> args;
+    for (const QString& tag : field.writeTags)
+        for (const QString& item : items)
+            if (!item.isEmpty())
+                args.append({ tag, Assignment::Operation::remove, item });
+    return args;
+}
+
 QList<Assignment> fieldArgs(const EditPlan& plan)
 {
     QList<Assignment> args;
@@ -108,6 +119,9 @@ QList<Assignment> fieldArgs(const EditPlan& plan)
         if (const FieldSpec* field = FieldSchema::spec(it.key()))
             args += plan.isExact ? exactListArgs(*field, it.value(), plan.listMode)
                                  : listArgs(*field, it.value(), plan.listMode);
+    for (auto it = plan.removed.cbegin(); it != plan.removed.cend(); ++it)
+        if (const FieldSpec* field = FieldSchema::spec(it.key()))
+            args += removalArgs(*field, it.value());
     for (const auto& custom : plan.customs)
         args += customArgs(custom.name, custom.value);
     for (const QList<Assignment>& further : plan.together)

@@ -32,7 +32,8 @@ QList<Assignment> listArgs(const FieldSpec& field, const QStringList& values, Li
 /// One assignment, or none when the name has no storable character, or is the one that stands for all of the group:
 /// an assignment of "All" deletes every custom field.
 QList<Assignment> customArgs(const QString& name, const QString& value);
-/// What one save tells the tool: scalars, lists (as they stand, where the plan's are exact), custom values, what
+/// What one save tells the tool: scalars, lists (as they stand, where the plan's are exact), items that are taken away
+/// ("-=" alone, for every write tag of the list, behind all that is added), custom values, what
 /// belongs together with them, and texts in further languages. Field ids that the schema does not know are skipped, and
 /// so are the homes that the plan leaves out.
 WriteCommand command(const EditPlan& plan);

@@ -42,6 +42,8 @@ struct Order {
     SeenLists seen{};
     std::shared_ptr<EarlyLook> look{};  ///< at what the save replaces; may be absent
     QHash<QUrl, EditPlan> own{};  ///< by target; those with equal plans share a run
+    /// Homes are made to agree: what comes together was asked for.
+    bool isAgreement = false;
 };
 
 /// Writes, and counts meanwhile the files that are done. Lists that differ between their homes are brought together,

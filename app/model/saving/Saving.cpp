@@ -38,7 +38,16 @@ std::optional<QString> messageOf(
     return texts.isEmpty() ? std::nullopt : std::optional(texts.join(u". "_s));
 }
 
-// Dates are shown to the minute: plans of photos' own give back the seconds that the photos hold.
+// What is asked of the photos that have edits of their own.
+SaveJob::Order withOwnPlans(SaveJob::Order order, const Edits& edits)
+{
+    for (const QUrl& photo : std::as_const(order.targets))
+        if (edits.own.contains(photo))
+            order.own.insert(photo, edits.of(photo).plan());
+    return order;
+}
+
+// Dates are shown to the minute: homes that are made to agree get back the seconds that the photos hold.
 SaveJob::Order withSeconds(const MetadataService& service, SaveJob::Order order)
 {
     QList<QUrl> dated;
@@ -71,8 +80,7 @@ SaveOutcome outcomeOf(const SaveJob::Checked& checked, const SaveJob::Written& w
     if (checked.error)
         outcome.failed = edits.subjects;
     if (!outcome.failed.isEmpty()) {
-        outcome.unsaved = edits;
-        outcome.unsaved.subjects = outcome.failed;
+        outcome.unsaved = edits.onlyOf(QSet<QUrl>(outcome.failed.cbegin(), outcome.failed.cend()));
     } else if (!outcome.differing.isEmpty()) {
         outcome.unsaved = edits.minus(edits, outcome.differing);
     }
@@ -179,7 +187,7 @@ void Saving::save(const Edits& edits, const WriteOptions& options, const SaveJob
 void Saving::makeAgree(const QHash<QUrl, EditPlan>& plans, const WriteOptions& options)
 {
     dropLook();
-    SaveJob::Order order{ .targets = plans.keys(), .options = options, .own = plans };
+    SaveJob::Order order{ .targets = plans.keys(), .options = options, .own = plans, .isAgreement = true };
     std::sort(order.targets.begin(), order.targets.end());
     for (auto plan = plans.cbegin(); plan != plans.cend(); ++plan)
         if (!plan->lists.isEmpty())
@@ -194,8 +202,9 @@ void Saving::write(const Edits& edits, const SaveJob::Order& order)
     const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::write, edits.subjects.size());
     runInBackground(
         this,
-        [service = *m_service, order, history = m_history, progress = task.progress] {
-            return SaveJob::run(service, withSeconds(service, order), history, *progress);
+        [service = *m_service, edits, order, history = m_history, progress = task.progress] {
+            const SaveJob::Order whole = order.isAgreement ? withSeconds(service, order) : withOwnPlans(order, edits);
+            return SaveJob::run(service, whole, history, *progress);
         },
         [this, edits, order, id = task.id](const SaveJob::Written& written) {
             {
@@ -239,8 +248,8 @@ void Saving::check(
                 takeUndoable(written);
             }
             SaveJob::Checked told = checked;
-            if (!order.own.isEmpty())
-                told.joined.clear();  // it was asked for
+            if (order.isAgreement)
+                told.joined.clear();
             finish(outcomeOf(told, written, edits));
         });
 }

@@ -25,6 +25,8 @@ EditPlan PhotoPlan::expected() const
         expected.lists = lists.items;
         expected.isExact = true;
     }
+    if (plan.listMode == MetadataWriter::ListMode::append)
+        expected.removed.insert(lists.takenAway);
     expected.scalars.insert(keptTexts);
     return expected;
 }
@@ -32,11 +34,12 @@ EditPlan PhotoPlan::expected() const
 EditPlan PhotoPlan::whole() const
 {
     EditPlan whole = plan;
-    for (auto list = whole.lists.begin(); list != whole.lists.end(); ++list)
-        if (const FieldSpec* field = FieldSchema::spec(list.key()))
-            for (const Assignment& assignment : lists.preparation)
-                if (field->writeTags.contains(assignment.tag))
-                    list->append(assignment.value);
+    for (QMap<QString, QStringList>* some : { &whole.lists, &whole.removed })
+        for (auto list = some->begin(); list != some->end(); ++list)
+            if (const FieldSpec* field = FieldSchema::spec(list.key()))
+                for (const Assignment& assignment : lists.preparation)
+                    if (field->writeTags.contains(assignment.tag))
+                        list->append(assignment.value);
     return whole;
 }
 
@@ -53,6 +56,11 @@ QStringList languageTags(const EditPlan& plan)
             if (const FieldSpec* field = FieldSchema::spec(it.key()); field && !field->languageTag().isEmpty())
                 tags.append(field->languageTag());
     return tags;
+}
+
+bool touchesLists(const EditPlan& plan)
+{
+    return !plan.lists.isEmpty() || !plan.removed.isEmpty();
 }
 
 bool writesDate(const EditPlan& plan)
@@ -91,7 +99,7 @@ Decided decideOne(const EditPlan& plan, const FileTags& held, const ListHomes::S
 {
     Decided decided{ .photo = { .plan = plan } };
     PhotoPlan& photo = decided.photo;
-    if (!plan.lists.isEmpty()) {
+    if (touchesLists(plan)) {
         const QString fileType = QString::fromUtf8(held.value(SaveUndo::typeTag()).value(0));
         photo.lists = ListHomes::change(plan, held, fileType, seen);
         if (plan.listMode == MetadataWriter::ListMode::replace) {
@@ -127,13 +135,13 @@ QStringList tagsBefore(const QList<EditPlan>& plans)
         tags += JournalTags::writtenTags(plan);
         for (auto it = plan.scalars.cbegin(); it != plan.scalars.cend(); ++it)
             tags += DateCompanions::tagsOf(it.key());
-        const bool mayTakeAway =
-            plan.lists.contains(FieldID::keywords) && plan.listMode == MetadataWriter::ListMode::replace;
+        const bool mayTakeAway = plan.removed.contains(FieldID::keywords)
+            || (plan.lists.contains(FieldID::keywords) && plan.listMode == MetadataWriter::ListMode::replace);
         if (mayTakeAway || !plan.paths.isEmpty())
             for (const KeywordPath::Home& home : KeywordPath::homes())
                 tags.append(home.tag);
         // Items that only one home holds may need IPTC to be encoded anew.
-        if (!plan.lists.isEmpty())
+        if (touchesLists(plan))
             tags.append(IptcEncoding::blockTag());
     }
     tags.removeDuplicates();
@@ -158,7 +166,7 @@ const QStringList& allTags()
 bool needLook(const QList<EditPlan>& plans)
 {
     return std::any_of(plans.cbegin(), plans.cend(), [](const EditPlan& plan) {
-        return !plan.lists.isEmpty() || !plan.paths.isEmpty() || writesDate(plan) || !languageTags(plan).isEmpty();
+        return touchesLists(plan) || !plan.paths.isEmpty() || writesDate(plan) || !languageTags(plan).isEmpty();
     });
 }
 

@@ -125,6 +125,14 @@ void tst_LeftEdits::texts_data()
     left.edits = { .scalars = { { u"title@de"_s, {} }, { u"event@fr"_s, u"E"_s } },
         .paths = { u"A|b"_s },
         .subjects = photos({ u"/p/a.jpg"_s }) };
+    const LeftEdits differing{
+        .edits = { .removed = { { u"keywords"_s, { u"k"_s } } },
+            .own = { { photos({ u"/p/b.jpg"_s }).constFirst(),
+                { .scalars = { { u"title@de"_s, u"See"_s } }, .customs = { { u"Mood"_s, u"calm"_s } } } } },
+            .subjects = photos({ u"/p/a.jpg"_s, u"/p/b.jpg"_s }) }
+    };
+    QTest::newRow("taken away, and of one photo alone")
+        << differing << u"a.jpg and b.jpg"_s << u"Title (German), Keywords and Mood"_s;
     QTest::newRow("languages and a path") << left << u"a.jpg"_s << u"Title (German), Keywords and Event (French)"_s;
 }
 
@@ -147,6 +155,17 @@ void tst_LeftEdits::newestTen()
     LeftEditsList::keep(list, titled(u"of the photo that is gone"_s, { u"/p/y.jpg"_s }));
     LeftEditsList::rename(list, photos({ u"/p/z.jpg"_s }).constFirst(), photos({ u"/p/y.jpg"_s }).constFirst());
     QCOMPARE(titles(list).join(u' '), u"8 12 11 10 9 7 6 5 4"_s);
+    // Edits of its own go with their photo.
+    QList<LeftEdits> own{
+        { .edits = { .own = { { photos({ u"/p/a.jpg"_s }).constFirst(), { .scalars = { { u"title"_s, u"A"_s } } } } },
+              .subjects = photos({ u"/p/a.jpg"_s, u"/p/b.jpg"_s }) } }
+    };
+    LeftEditsList::rename(own, photos({ u"/p/a.jpg"_s }).constFirst(), photos({ u"/p/z.jpg"_s }).constFirst());
+    QCOMPARE(own.constFirst().names(), u"z.jpg and b.jpg"_s);
+    QCOMPARE(own.constFirst().edits.of(photos({ u"/p/z.jpg"_s }).constFirst()).scalars.value(u"title"_s), u"A"_s);
+    // With the photo that had all of them, all of them are gone.
+    LeftEditsList::rename(own, photos({ u"/p/b.jpg"_s }).constFirst(), photos({ u"/p/z.jpg"_s }).constFirst());
+    QVERIFY(own.isEmpty());
 }
 
 void tst_LeftEdits::everythingSurvives()
@@ -164,6 +183,13 @@ void tst_LeftEdits::everythingSurvives()
     LeftEdits many{ .leftAt = 10 };
     many.edits = { .scalars = { { u"creator"_s, u"Ana"_s } },
         .added = { { u"keywords"_s, { u"x"_s, u"y"_s } } },
+        .removed = { { u"keywords"_s, { u"z"_s } } },
+        .own = { { photos({ u"/q/a.jpg"_s }).constFirst(),
+                     { .scalars = { { u"title"_s, QString() }, { u"title@de"_s, u"Zürich 🌊"_s } },
+                         .added = { { u"people"_s, { u"Ana"_s } } },
+                         .removed = { { u"keywords"_s, { u"x"_s } } },
+                         .customs = { { u"Film"_s, QString() } } } },
+            { photos({ u"/p/b.jpg"_s }).constFirst(), { .scalars = { { u"title"_s, u"B"_s } } } } },
         .subjects = photos({ u"/p/a.jpg"_s, u"/p/b.jpg"_s, u"/q/a.jpg"_s }) };
     const State state({ one, many });
     QVERIFY(!QFileInfo(state.path).permission(QFile::ReadGroup | QFile::ReadOther));
@@ -198,6 +224,10 @@ void tst_LeftEdits::damagedFile_data()
     QTest::newRow("another form") << QByteArray("[1]") << QStringList() << true;
     QTest::newRow("a later form") << QByteArray(whole).replace("\"version\":1", "\"version\":2") << QStringList()
                                   << true;
+    QTest::newRow("own edits of no photo of theirs, and odd ones") << QByteArray(R"({"version":1,"left":[{)" + photo
+        + R"(,"own":{"/p/":{"x.jpg":{"scalars":{"title":"lost"}}}}},{)" + photo
+        + R"(,"scalars":{"title":"T"},"own":{"/p/":{"a.jpg":{"scalars":7,"added":{}}},"/q/":3}}]})")
+                                                                   << QStringList{ u"T"_s } << false;
     QTest::newRow("odd members") << QByteArray(R"({"version":1,"left":[1,null,{},{"scalars":{"title":"no photo"}},{)"
         + photo + R"(},{)" + photo + R"(,"scalars":{"title":7,"x":[]}},{)" + photo
         + R"(,"scalars":{"title":"T"},"lists":5,"customs":[{"value":"x"},3]}]})")

@@ -75,6 +75,20 @@ private slots:
         QTEST(arguments(MetadataWriter::listArgs(field, items.split(u'|'), mode)).join(u' '), "args");
     }
 
+    // Behind what is added, by themselves; as the files spell them.
+    void itemsTakenAway()
+    {
+        EditPlan plan{ .lists = { { u"keywords"_s, { u" a "_s } } },
+            .listMode = ListMode::append,
+            .removed = { { u"keywords"_s, { u" b"_s, QString(), u"c"_s } }, { u"none"_s, { u"x"_s } } } };
+        QCOMPARE(arguments(MetadataWriter::assignments(plan)).join(u'|'),
+            u"-IPTC:Keywords-=a|-IPTC:Keywords+=a|-XMP-dc:Subject-=a|-XMP-dc:Subject+=a|"
+            "-IPTC:Keywords-= b|-IPTC:Keywords-=c|-XMP-dc:Subject-= b|-XMP-dc:Subject-=c"_s);
+        plan.lists.clear();
+        plan.leftOut = { u"IPTC"_s };
+        QCOMPARE(arguments(MetadataWriter::assignments(plan)).join(u'|'), u"-XMP-dc:Subject-= b|-XMP-dc:Subject-=c"_s);
+    }
+
     void customs()
     {
         QCOMPARE(

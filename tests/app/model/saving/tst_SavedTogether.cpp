@@ -249,6 +249,21 @@ void takeAwayParis(Tags& photo)
     }
 }
 
+// Nothing but Paris goes, and every path to it.
+void loseParis(Tags& photo)
+{
+    for (const QString& home : { u"IPTC:Keywords"_s, u"XMP-dc:Subject"_s }) {
+        QStringList rest = photo.items(home);
+        rest.removeAll(u"Paris"_s);
+        photo.putItems(home, rest);
+    }
+    for (const auto& [tag, separator] : pathHomes) {
+        QStringList kept = photo.items(tag);
+        kept.removeIf([mark = separator](const QString& path) { return path.section(mark, -1).trimmed() == u"Paris"; });
+        photo.putItems(tag, kept);
+    }
+}
+
 // `item` behind the others of both homes, and its path, in each home's form, behind those that the photo has.
 void append(Tags& photo, const QString& item, const QStringList& path)
 {
@@ -409,6 +424,9 @@ void tst_SavedTogether::nothingElseChangesAndUndoGivesAllBack_data()
                })
             << false;
     QTest::newRow("Paris taken away") << EditPlan{} << Change(takeAwayParis) << true;
+    QTest::newRow("Paris taken away from all at once")
+        << EditPlan{ .listMode = MetadataWriter::ListMode::append, .removed = { { u"keywords"_s, { u"Paris"_s } } } }
+        << Change(loseParis) << true;
     if (isSlow)
         QTest::newRow("a path in another script") << appended(u"東京"_s, u"地名|東京"_s) << Change([](Tags& photo) {
             append(photo, u"東京"_s, { u"地名"_s, u"東京"_s });
