@@ -46,8 +46,44 @@ QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets,
         return output;
     const auto failures = Companions::writeSidecars(runner, command, targets, customNames);
     if (notes)
-        notes->sidecars = failures;
+        notes->sidecars += failures;
     return output;
+}
+
+PortionsOutcome MetadataService::writeEach(
+    const QList<SavePortion>& portions, const WriteOptions& options, WriteNotes* notes) const
+{
+    QList<SafeWriter::Portion> commands;
+    QList<qsizetype> positions;
+    PortionsOutcome outcome;
+    for (qsizetype i = 0; i < portions.size(); ++i) {
+        const SavePortion& portion = portions.at(i);
+        const WriteCommand command = MetadataWriter::command(portion.plan);
+        if (command.isEmpty() || portion.targets.isEmpty())
+            continue;
+        try {
+            requireShortValues(portion.plan);
+        } catch (const ValueTooLong& error) {
+            outcome.refused.insert(i, error.description());
+            continue;
+        }
+        commands.append({ command, portion.targets, CustomFields::names(portion.plan.customs), portion.preparations });
+        positions.append(i);
+    }
+    const SafeWriter::Outcome written = SafeWriter::writeEach(runner, commands, options.backupOriginals, notes);
+    for (auto refused = written.refused.cbegin(); refused != written.refused.cend(); ++refused)
+        outcome.refused.insert(positions.at(refused.key()), *refused);
+    outcome.error = written.error;
+    if (!options.writeSidecar)
+        return outcome;
+    const QSet<QUrl> done(written.done.cbegin(), written.done.cend());
+    for (SafeWriter::Portion& command : commands) {
+        command.targets.removeIf([&done](const QUrl& target) { return !done.contains(target); });
+        const auto failures = Companions::writeSidecars(runner, command.command, command.targets, command.customNames);
+        if (notes)
+            notes->sidecars += failures;
+    }
+    return outcome;
 }
 
 QHash<QUrl, PhotoDetails> MetadataService::details(const QList<ImageRecord>& photos, const ReadControl& control) const
@@ -58,6 +94,11 @@ QHash<QUrl, PhotoDetails> MetadataService::details(const QList<ImageRecord>& pho
 QMap<QUrl, QMap<QString, QString>> MetadataService::refusedHomes(const EditPlan& plan, const QList<QUrl>& targets) const
 {
     return RefusedHomes::find(runner, plan, targets);
+}
+
+QMap<QUrl, QMap<QString, QString>> MetadataService::refusedHomes(const QList<SavePortion>& portions) const
+{
+    return RefusedHomes::find(runner, portions);
 }
 
 JournalEntry MetadataService::journalEntry(

@@ -2,8 +2,7 @@
 // Thread: any, but never the interface's: every call blocks on ExifTool. Holds no state; copy it freely.
 #pragma once
 
-#include "core/save/EditPlan.h"
-#include "core/save/Preparation.h"
+#include "core/save/SavePortion.h"
 #include "core/save/WriteNotes.h"
 #include "core/save/journal/SaveUndo.h"
 #include "core/schema/ImageRecord.h"
@@ -31,11 +30,17 @@ struct MetadataService {
     /// one afterwards gives a position in XMP its sign. Throws ValueTooLong, or like SafeWriter::write().
     QString write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options,
         const QList<Preparation>& preparations = {}, WriteNotes* notes = nullptr) const;
+    /// The same for portions that share no target, in as few starts of the tool as hold their arguments (and one a file
+    /// when sidecars are on). What keeps one portion from being written keeps none of the others. Throws the runner's
+    /// errors where the tool could not be started at all, and FileError.
+    PortionsOutcome writeEach(
+        const QList<SavePortion>& portions, const WriteOptions& options, WriteNotes* notes = nullptr) const;
     /// What these photos hold beside their records, read in one run; without those that could not be read. The records
     /// tell what is shown. Throws the runner's errors.
     QHash<QUrl, PhotoDetails> details(const QList<ImageRecord>& photos, const ReadControl& control = {}) const;
     /// See RefusedHomes::find().
     QMap<QUrl, QMap<QString, QString>> refusedHomes(const EditPlan& plan, const QList<QUrl>& targets) const;
+    QMap<QUrl, QMap<QString, QString>> refusedHomes(const QList<SavePortion>& portions) const;
     /// What a save of just this plan, which knows nothing of the photos, is about to replace; see SaveUndo.
     JournalEntry journalEntry(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options = {}) const;
     /// See SaveUndo::oldValues().

@@ -41,33 +41,61 @@ WriteCommand withoutIptc(WriteCommand command)
     return command;
 }
 
-// The runs of one save.
+QSet<QUrl> setOf(const QList<QUrl>& files)
+{
+    return { files.cbegin(), files.cend() };
+}
+
+QList<QUrl> among(const QSet<QUrl>& some, QList<QUrl> files)
+{
+    files.removeIf([&some](const QUrl& file) { return !some.contains(file); });
+    return files;
+}
+
+QList<QUrl> filesOf(const QList<Portion>& portions)
+{
+    QList<QUrl> files;
+    for (const Portion& portion : portions)
+        files += portion.targets;
+    return files;
+}
+
+QStringList customNamesOf(const QList<Portion>& portions)
+{
+    QStringList names;
+    for (const Portion& portion : portions)
+        names += portion.customNames;
+    names.removeDuplicates();
+    return names;
+}
+
+// The runs of one save. The targets of its portions are the files themselves.
 class Save {
 public:
-    Save(const ExifToolRunner& runner, WriteCommand command, bool backup, std::optional<QUrl> config)
+    Save(const ExifToolRunner& runner, const QList<Portion>& portions, bool backup, std::optional<QUrl> config)
         : m_runner(runner)
-        , m_command(std::move(command))
+        , m_portions(portions)
         , m_backup(backup)
         , m_config(std::move(config))
     {
     }
 
-    // Throws at the end what the runs said that failed.
-    QString write(const QList<QUrl>& files, const QList<Preparation>& preparations)
+    // What the runs said that failed is left to be asked for.
+    void write()
     {
-        const auto needsUtf8 = [](const auto& run) { return IptcEncoding::needsUtf8(run.command.assignments); };
-        const bool mustLook = IptcEncoding::needsUtf8(m_command.assignments)
-            || std::any_of(preparations.cbegin(), preparations.cend(), needsUtf8);
-        const QList<Preparation> all = (mustLook ? conversions(files) : QList<Preparation>()) + preparations;
-        const QList<QUrl> written = all.isEmpty() ? writeValues(files) : writePrepared(files, all);
-        attempt(Coordinates::signCommand(m_command.assignments), written, false);
-        if (!m_errors.empty())
-            throw merged(m_errors);
-        return m_said.output;
+        const QList<Preparation> conversions = conversionsOf(filesToLookAt());
+        const QList<Preparation> preparations = preparationsOf();
+        const QSet<QUrl> files = setOf(filesOf(m_portions));
+        m_done = conversions.isEmpty() && preparations.isEmpty() ? writeValues(files)
+                                                                 : writePrepared(files, conversions, preparations);
+        writeSigns();
     }
 
+    const QString& output() const { return m_said.output; }
     const QString& messages() const { return m_said.messages; }
-    const QList<QUrl>& iptcLeftAlone() const { return m_iptcLeftAlone; }
+    const QSet<QUrl>& iptcLeftAlone() const { return m_iptcLeftAlone; }
+    const QSet<QUrl>& done() const { return m_done; }
+    std::optional<ToolError> error() const { return m_errors.empty() ? std::nullopt : std::optional(merged(m_errors)); }
 
 private:
     // What the tool said of the values.
@@ -76,14 +104,28 @@ private:
         QString messages{};
     };
 
-    // The runs that the texts need. Looks which files can have them.
-    QList<Preparation> conversions(const QList<QUrl>& files)
+    // Those of portions with texts that IPTC may have to be encoded anew for.
+    QList<QUrl> filesToLookAt() const
     {
+        const auto needsUtf8 = [](const auto& run) { return IptcEncoding::needsUtf8(run.command.assignments); };
+        QList<QUrl> files;
+        for (const Portion& portion : m_portions)
+            if (needsUtf8(portion)
+                || std::any_of(portion.preparations.cbegin(), portion.preparations.cend(), needsUtf8))
+                files += portion.targets;
+        return files;
+    }
+
+    // The runs that the texts need. Looks which files can have them.
+    QList<Preparation> conversionsOf(const QList<QUrl>& files)
+    {
+        if (files.isEmpty())
+            return {};
         QMap<IptcEncoding::Stored, QList<QUrl>> filesBy;
         const auto tags = TagDump::parse(m_runner.readDump(IptcEncoding::readArgs(), files));
         for (const auto& file : files)
             filesBy[IptcEncoding::storedIn(tags.value(QFile::encodeName(file.toLocalFile())))].append(file);
-        m_iptcLeftAlone = filesBy.value(IptcEncoding::Stored::severalBlocks);
+        m_iptcLeftAlone = setOf(filesBy.value(IptcEncoding::Stored::severalBlocks));
         QList<Preparation> runs;
         for (auto it = filesBy.cbegin(); it != filesBy.cend(); ++it)
             if (const WriteCommand command = IptcEncoding::conversion(it.key()); !command.isEmpty())
@@ -91,101 +133,203 @@ private:
         return runs;
     }
 
+    // Those of all portions; equal ones share a run.
+    QList<Preparation> preparationsOf() const
+    {
+        QList<Preparation> all;
+        QHash<QStringList, qsizetype> known;
+        for (const Portion& portion : m_portions)
+            for (const Preparation& preparation : portion.preparations) {
+                const QStringList key = arguments(preparation.command);
+                const qsizetype at = known.value(key, all.size());
+                if (at == all.size()) {
+                    known.insert(key, at);
+                    all.append({ preparation.command, {} });
+                }
+                all[at].targets += preparation.targets;
+            }
+        return all;
+    }
+
     // The write, after the runs that have to come before it. A file is prepared and written, or is what it was.
-    QList<QUrl> writePrepared(const QList<QUrl>& files, const QList<Preparation>& preparations)
+    QSet<QUrl> writePrepared(
+        const QSet<QUrl>& files, const QList<Preparation>& conversions, const QList<Preparation>& preparations)
     {
         QSet<QUrl> touched;
-        for (const auto& preparation : preparations)
+        for (const Preparation& preparation : conversions + preparations)
             touched.unite(setOf(preparation.targets));
         OriginalKeeper originals(touched.values());
-        QSet<QUrl> ready = setOf(files);
-        for (const auto& preparation : preparations) {
-            // Files that it names would not take the values either; they do not keep the others from them.
-            const QList<QUrl> todo = among(ready, preparation.targets);
-            const QList<QUrl> done = inParts(preparation.command, todo);
-            ready.subtract(setOf(todo).subtract(setOf(done)));
-        }
+        const QSet<QUrl> ready = prepared(prepared(files, conversions), preparations);
         originals.notePrepared();
-        return writeValues(among(ready, files));
+        return writeValues(ready);
     }
 
-    static QSet<QUrl> setOf(const QList<QUrl>& files) { return { files.cbegin(), files.cend() }; }
-
-    static QList<QUrl> among(const QSet<QUrl>& some, QList<QUrl> files)
+    // Of these files those that are ready for the values. The others do not keep them from theirs.
+    QSet<QUrl> prepared(QSet<QUrl> files, const QList<Preparation>& preparations)
     {
-        files.removeIf([&some](const QUrl& file) { return !some.contains(file); });
-        return files;
+        QList<WriteRun> runs;
+        QSet<QUrl> todo;
+        for (const Preparation& preparation : preparations) {
+            const QList<QUrl> targets = among(files, preparation.targets);
+            runs += inParts({ preparation.command, targets });
+            todo.unite(setOf(targets));
+        }
+        return files.subtract(todo.subtract(attempt(runs, m_backup)));
     }
 
-    QList<QUrl> writeValues(const QList<QUrl>& files) { return inParts(m_command, files, &m_said); }
-
-    // Without what is bound for IPTC, where that is left alone. The files that were done.
-    QList<QUrl> inParts(const WriteCommand& command, const QList<QUrl>& files, Said* said = nullptr)
+    QSet<QUrl> writeValues(const QSet<QUrl>& files)
     {
-        QList<QUrl> whole;
-        QList<QUrl> inPart;
-        for (const auto& file : files)
-            (m_iptcLeftAlone.contains(file) ? inPart : whole).append(file);
-        return attempt(command, whole, m_backup, said) + attempt(withoutIptc(command), inPart, m_backup, said);
+        QList<WriteRun> plain;
+        QList<WriteRun> withCustoms;
+        for (const Portion& portion : m_portions)
+            (portion.customNames.isEmpty() ? plain : withCustoms) +=
+                inParts({ portion.command, among(files, portion.targets) });
+        QSet<QUrl> done = attempt(plain, m_backup, &m_said);
+        return done.unite(attempt(withCustoms, m_backup, &m_said, m_config));
     }
 
-    // The files that were done. A run that fails without naming a file has done nobody knows what: then there is no
-    // other one.
-    QList<QUrl> attempt(const WriteCommand& command, const QList<QUrl>& files, bool backup, Said* said = nullptr)
+    // Positions in XMP, which need a sign.
+    void writeSigns()
+    {
+        QList<WriteRun> runs;
+        for (const Portion& portion : m_portions)
+            if (const WriteCommand command = Coordinates::signCommand(portion.command.assignments); !command.isEmpty())
+                runs.append({ command, among(m_done, portion.targets) });
+        attempt(runs, false);
+    }
+
+    // Without what is bound for IPTC, where that is left alone.
+    QList<WriteRun> inParts(const WriteRun& run) const
+    {
+        WriteRun whole{ run.command, {} };
+        WriteRun inPart{ withoutIptc(run.command), {} };
+        for (const QUrl& file : run.files)
+            (m_iptcLeftAlone.contains(file) ? inPart : whole).files.append(file);
+        return { whole, inPart };
+    }
+
+    // The files that were done. The runs of one portion are starts of the tool as ever; those of many share some.
+    QSet<QUrl> attempt(
+        QList<WriteRun> runs, bool backup, Said* said = nullptr, const std::optional<QUrl>& config = std::nullopt)
+    {
+        QSet<QUrl> done;
+        for (const WriteRun& run : std::as_const(runs))
+            if (run.command.isEmpty())
+                done.unite(setOf(run.files));
+        runs.removeIf([](const WriteRun& run) { return run.command.isEmpty() || run.files.isEmpty(); });
+        if (m_portions.size() == 1 || runs.size() == 1)
+            for (const WriteRun& run : std::as_const(runs))
+                done.unite(attemptOne(run, backup, said, config));
+        else if (!runs.isEmpty() && !m_isCutOff)
+            done.unite(attemptEach(runs, backup, said, config));
+        return done;
+    }
+
+    // A run that fails without naming a file has done nobody knows what: then there is no other one.
+    QSet<QUrl> attemptOne(const WriteRun& run, bool backup, Said* said, const std::optional<QUrl>& config)
     {
         if (m_isCutOff)
             return {};
         try {
             QString messages;
-            const QString output = m_runner.write(command, files, backup, said ? m_config : std::nullopt, &messages);
+            const QString output = m_runner.write(run.command, run.files, backup, config, &messages);
             if (said)
                 *said = { said->output + output, said->messages + messages };
-            return files;
+            return setOf(run.files);
         } catch (const ToolError& error) {
             if (!std::holds_alternative<ToolError::ExecFailed>(error.payload()))
                 throw;
             m_errors.push_back(error);
-            const auto failures = writeFailures(error.messages(), files);
+            const auto failures = writeFailures(error.messages(), run.files);
             m_isCutOff = failures.isEmpty();
-            QList<QUrl> done = m_isCutOff ? QList<QUrl>() : files;
-            for (const auto& failure : failures)
-                done.removeAll(failure.file);
-            return done;
+            return m_isCutOff ? QSet<QUrl>() : without(failures, run.files);
         }
     }
 
+    // The same where the tool says of each run what came of it: after it was cut off there is no other one.
+    QSet<QUrl> attemptEach(const QList<WriteRun>& runs, bool backup, Said* said, const std::optional<QUrl>& config)
+    {
+        const WriteAnswers answers = m_runner.writeEach(runs, backup, config);
+        if (said)
+            said->output += answers.output;
+        QSet<QUrl> done;
+        for (qsizetype i = 0; i < runs.size(); ++i) {
+            const WriteAnswer& answer = answers.each.at(i);
+            if (answer.failure && !m_isCutOff)
+                m_errors.push_back(*answer.failure);
+            m_isCutOff |= answer.isCutOff;
+            if (answer.isCutOff)
+                continue;
+            if (said && !answer.failure)
+                said->messages += answer.messages;
+            const auto failures = writeFailures(answer.messages, runs.at(i).files);
+            if (!answer.failure || !failures.isEmpty())
+                done.unite(without(failures, runs.at(i).files));
+        }
+        return done;
+    }
+
+    static QSet<QUrl> without(const QList<FileFailure>& failures, const QList<QUrl>& files)
+    {
+        QSet<QUrl> done = setOf(files);
+        for (const FileFailure& failure : failures)
+            done.remove(failure.file);
+        return done;
+    }
+
     const ExifToolRunner& m_runner;
-    WriteCommand m_command;
+    const QList<Portion>& m_portions;
     bool m_backup;
     std::optional<QUrl> m_config;
     Said m_said;
-    QList<QUrl> m_iptcLeftAlone;
+    QSet<QUrl> m_iptcLeftAlone;
+    QSet<QUrl> m_done;
     std::vector<ToolError> m_errors;
     bool m_isCutOff = false;
 };
 
-}  // namespace
-
-QString write(const ExifToolRunner& runner, const WriteCommand& command, const QList<QUrl>& targets, bool backup,
-    const QStringList& customNames, const QList<Preparation>& preparations, WriteNotes* notes)
+void requireOneWay(const Portion& portion)
 {
-    requireOneWay(command.assignments + command.languages);
-    for (const auto& preparation : preparations)
-        requireOneWay(preparation.command.assignments);
-    const auto files = SaveGuard::filesBehindLinks(targets);
+    Quorbel::requireOneWay(portion.command.assignments + portion.command.languages);
+    for (const Preparation& preparation : portion.preparations)
+        Quorbel::requireOneWay(preparation.command.assignments);
+}
+
+// The files behind the targets, which nothing else may be done to before.
+Portion behindLinks(Portion portion)
+{
+    portion.targets = SaveGuard::filesBehindLinks(portion.targets);
+    for (Preparation& preparation : portion.preparations)
+        preparation.targets = SaveGuard::filesBehindLinks(preparation.targets);
+    return portion;
+}
+
+void clearAbandoned(const QList<QUrl>& files)
+{
     QSet<QString> folders;
     for (const auto& file : files)
         folders.insert(QFileInfo(file.toLocalFile()).path());
     for (const auto& folder : std::as_const(folders))
         OriginalsFolder::clearAbandoned(folder);
+}
+
+void requireReady(const QList<QUrl>& files)
+{
     SaveGuard::requireWritable(files);
     SaveGuard::clearLeftovers(files);
-    const TemporaryConfig config(customNames);
+}
+
+// Portions whose files may be written to. `targets`: as they were given, in the order of all files.
+Outcome run(const ExifToolRunner& runner, const QList<Portion>& portions, const QList<QUrl>& targets, bool backup,
+    WriteNotes* notes)
+{
+    const QList<QUrl> files = filesOf(portions);
+    const TemporaryConfig config(customNamesOf(portions));
     const SaveGuard::AttributeKeeper attributes(files);
     // After a failure too: some of the files may have been replaced.
     const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });
     const SaveGuard::BackupKeeper backups(backup ? files : QList<QUrl>());
-    Save save(runner, command, backup, config.url());
+    Save save(runner, portions, backup, config.url());
     const auto note = qScopeGuard([&] {
         if (!notes)
             return;
@@ -194,10 +338,50 @@ QString write(const ExifToolRunner& runner, const WriteCommand& command, const Q
             if (save.iptcLeftAlone().contains(files[i]))
                 notes->iptcLeftAlone.append(targets[i]);
     });
-    QList<Preparation> behindLinks = preparations;
-    for (auto& preparation : behindLinks)
-        preparation.targets = SaveGuard::filesBehindLinks(preparation.targets);
-    return save.write(files, behindLinks);
+    save.write();
+    Outcome outcome{ .output = save.output(), .error = save.error() };
+    for (qsizetype i = 0; i < files.size(); ++i)
+        if (save.done().contains(files[i]))
+            outcome.done.append(targets[i]);
+    return outcome;
+}
+
+}  // namespace
+
+QString write(const ExifToolRunner& runner, const WriteCommand& command, const QList<QUrl>& targets, bool backup,
+    const QStringList& customNames, const QList<Preparation>& preparations, WriteNotes* notes)
+{
+    const Portion given{ command, targets, customNames, preparations };
+    requireOneWay(given);
+    const Portion portion = behindLinks(given);
+    clearAbandoned(portion.targets);
+    requireReady(portion.targets);
+    const Outcome outcome = run(runner, { portion }, targets, backup, notes);
+    if (outcome.error)
+        throw *outcome.error;
+    return outcome.output;
+}
+
+Outcome writeEach(const ExifToolRunner& runner, const QList<Portion>& portions, bool backup, WriteNotes* notes)
+{
+    clearAbandoned(SaveGuard::filesBehindLinks(filesOf(portions)));
+    QList<Portion> ready;
+    QList<QUrl> targets;
+    QMap<qsizetype, QString> refused;
+    for (qsizetype i = 0; i < portions.size(); ++i) {
+        try {
+            requireOneWay(portions.at(i));
+            const Portion portion = behindLinks(portions.at(i));
+            requireReady(portion.targets);
+            ready.append(portion);
+            targets += portions.at(i).targets;
+        } catch (const Error& error) {
+            refused.insert(i, error.description());
+        }
+    }
+    Outcome outcome = ready.isEmpty() ? Outcome() : run(runner, ready, targets, backup, notes);
+    outcome.refused = refused;
+    return outcome;
 }
 
 }  // namespace Quorbel::SafeWriter

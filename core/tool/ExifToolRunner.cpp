@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QUtf8StringView>
+#include <QUuid>
 
 #include <algorithm>
 
@@ -129,14 +130,33 @@ private:
     std::function<void(qsizetype)> m_report;
 };
 
+// The tool wants it before everything else.
+QStringList configArguments(const std::optional<QUrl>& configPath)
+{
+    if (!configPath)
+        return {};
+    return { u"-config"_s, configPath->toLocalFile() };
+}
+
+QStringList originalsMode(bool backup)
+{
+    if (backup)
+        return {};
+    return { u"-overwrite_original"_s };
+}
+
+QStringList toStandardOutput()
+{
+    return { u"-o"_s, u"-"_s };
+}
+
 // `mode`: what becomes of the old file.
 QStringList writeArguments(const QStringList& mode, const WriteCommand& command, const QList<QUrl>& files,
     const std::optional<QUrl>& configPath)
 {
-    QStringList list;
-    if (configPath)  // the tool wants it before everything else
-        list << u"-config"_s << configPath->toLocalFile();
-    return list << mode << u"-m"_s << arguments(command) << paths(files);
+    QStringList list = configArguments(configPath);
+    list << mode << u"-m"_s << arguments(command) << paths(files);
+    return list;
 }
 
 // To decode the answer for a hundred thousand files takes seconds.
@@ -300,8 +320,7 @@ QString ExifToolRunner::write(const WriteCommand& command, const QList<QUrl>& fi
 {
     if (command.isEmpty() || files.isEmpty())
         return {};
-    const QStringList mode = backup ? QStringList() : QStringList(u"-overwrite_original"_s);
-    const Ended ended = runToEnd(writeArguments(mode, command, files, configPath), {}, {});
+    const Ended ended = runToEnd(writeArguments(originalsMode(backup), command, files, configPath), {}, {});
     if (!ended.isGood())
         throw failure(ended);
     if (messages)
@@ -309,15 +328,66 @@ QString ExifToolRunner::write(const WriteCommand& command, const QList<QUrl>& fi
     return strictUtf8(ended.standardOutput);
 }
 
-QString ExifToolRunner::rehearse(
-    const WriteCommand& command, const QList<QUrl>& files, const std::optional<QUrl>& configPath) const
+WriteAnswers ExifToolRunner::writeEach(
+    const QList<WriteRun>& runs, bool backup, const std::optional<QUrl>& configPath) const
 {
-    if (command.isEmpty() || files.isEmpty())
-        return {};
-    const QStringList toStandardOutput{ u"-o"_s, u"-"_s };
-    const Ended ended =
-        runToEnd(writeArguments(toStandardOutput, command, files, configPath), {}, {}, Output::thrownAway);
-    return QString::fromUtf8(ended.standardError);
+    return runEach(runs, originalsMode(backup), configPath, Output::kept);
+}
+
+QStringList ExifToolRunner::rehearseEach(const QList<WriteRun>& runs, const std::optional<QUrl>& configPath) const
+{
+    QStringList texts;
+    for (const WriteAnswer& answer : runEach(runs, toStandardOutput(), configPath, Output::thrownAway).each)
+        texts.append(answer.messages);
+    return texts;
+}
+
+WriteAnswers ExifToolRunner::runEach(
+    const QList<WriteRun>& runs, const QStringList& mode, const std::optional<QUrl>& configPath, Output wanted) const
+{
+    // A message may quote any value, so the mark is one that nobody can have typed.
+    const QString mark = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    WriteAnswers answers;
+    bool isCutOff = false;
+    for (const CommandBatch::Process& process : CommandBatch::processes(runs, mode, mark)) {
+        WriteAnswers some;
+        if (isCutOff)
+            some.each.fill({ .isCutOff = true }, process.count);
+        else
+            some = runProcess(process, configArguments(configPath), mark, wanted);
+        isCutOff = some.each.constLast().isCutOff;
+        answers.output += some.output;
+        answers.each += some.each;
+    }
+    return answers;
+}
+
+WriteAnswers ExifToolRunner::runProcess(
+    const CommandBatch::Process& process, const QStringList& config, const QString& mark, Output wanted) const
+{
+    WriteAnswers answers;
+    Ended ended;
+    try {
+        ended = runToEnd(config + process.arguments, {}, {}, wanted);
+    } catch (const Error& error) {
+        // Earlier processes have written their files.
+        if (process.first == 0)
+            throw;
+        answers.each.fill({ .isCutOff = true }, process.count);
+        answers.each.first().failure = ToolError(ToolError::ExecFailed{ 1, error.description() });
+        return answers;
+    }
+    answers.output = QString::fromUtf8(ended.standardOutput);
+    for (const CommandBatch::Said& said : CommandBatch::said(ended.standardError, mark, process.count)) {
+        WriteAnswer answer{ .messages = QString::fromUtf8(said.messages) };
+        if (!(said.hasEnded ? said.status == 0 : ended.isGood()))
+            answer.failure = failure({ .standardError = said.messages,
+                .exitCode = said.hasEnded ? said.status : ended.exitCode,
+                .isByItself = said.hasEnded });
+        answer.isCutOff = !said.hasEnded && !ended.isGood();
+        answers.each.append(answer);
+    }
+    return answers;
 }
 
 QMap<QString, QByteArray> ExifToolRunner::readBinary(

@@ -5,6 +5,7 @@
 
 #include "core/text/Errors.h"
 #include "core/text/JSONValue.h"
+#include "core/tool/CommandBatch.h"
 #include "core/tool/ToolOutput.h"
 #include "core/tool/WriteCommand.h"
 
@@ -36,6 +37,19 @@ struct ReadAnswer {
     /// The exit status was 1, and the rest is good: some file could not be read, or one holds a tag called Error,
     /// which the tool takes for an error of its own. readErrors() tells which.
     std::optional<ToolError> failure{};
+};
+
+/// What came of one of several writes.
+struct WriteAnswer {
+    std::optional<ToolError> failure{};
+    QString messages{};  ///< what the tool printed to standard error
+    bool isCutOff = false;  ///< the tool ended before it: the first of these may be half done
+};
+
+/// What came of several writes, one answer each, in their order.
+struct WriteAnswers {
+    QString output{};  ///< standard output of all
+    QList<WriteAnswer> each{};
 };
 
 struct ExifToolRunner {
@@ -74,10 +88,14 @@ struct ExifToolRunner {
     /// printed to standard error. Throws ToolError, LaunchError, or AssignmentConflict before anything is run.
     QString write(const WriteCommand& command, const QList<QUrl>& files, bool backup,
         const std::optional<QUrl>& configPath = std::nullopt, QString* messages = nullptr) const;
-    /// What the tool would say of such a write, on standard error: it does all of it, and throws the result away. ""
-    /// like write(). Throws like write(), but not for the tool's exit status.
-    QString rehearse(const WriteCommand& command, const QList<QUrl>& files,
-        const std::optional<QUrl>& configPath = std::nullopt) const;
+    /// Several writes, each with the very same effect as write(), in as few processes as hold their arguments: a run
+    /// that fails does not keep the others from theirs. Throws like write(), but not for what becomes of a run once
+    /// the tool is running.
+    WriteAnswers writeEach(
+        const QList<WriteRun>& runs, bool backup, const std::optional<QUrl>& configPath = std::nullopt) const;
+    /// What the tool would say of such writes, on standard error, one text each: it does all of them, and throws the
+    /// results away. Throws like writeEach().
+    QStringList rehearseEach(const QList<WriteRun>& runs, const std::optional<QUrl>& configPath = std::nullopt) const;
     /// Those of the tags that one file holds, by their bare names ("PreviewImage"): the bytes of binary ones, the
     /// stored number or text of others. Throws like read(); CancelledError also when they come to some 150 MiB.
     QMap<QString, QByteArray> readBinary(
@@ -112,6 +130,10 @@ private:
         const QStringList& selection, const QList<QUrl>& files, const ReadControl& control) const;
     ReadAnswer readEachJSON(const QStringList& selection, const QList<QUrl>& files, const ReadControl& control,
         ToolOutput::Decoded (*decode)(QByteArray)) const;
+    WriteAnswers runEach(const QList<WriteRun>& runs, const QStringList& mode, const std::optional<QUrl>& configPath,
+        Output wanted) const;
+    WriteAnswers runProcess(
+        const CommandBatch::Process& process, const QStringList& config, const QString& mark, Output wanted) const;
     QString run(const QStringList& arguments) const;
     QByteArray runForBytes(
         const QStringList& arguments, const OutputWatch& watch = {}, const ReadControl& control = {}) const;

@@ -1,5 +1,6 @@
 #include "app/model/saving/SaveHistory.h"
 
+#include "app/model/saving/ReplacedFilesPoll.h"
 #include "core/save/SaveGuard.h"
 #include "core/text/Text.h"
 
@@ -173,7 +174,11 @@ SaveHistory::Undone SaveHistory::undo(const MetadataService& service, qint64 num
         return undone;
     }
     progress.total = entry->files.size();
+    QList<QUrl> files;
+    for (const JournalFile& file : entry->files)
+        files.append(QUrl::fromLocalFile(file.path));
     try {
+        const ReplacedFilesPoll poll(files, progress.done);
         undone.outcome = service.undo(*entry);
     } catch (const std::exception& error) {
         undone.error = QString::fromUtf8(error.what());
@@ -186,6 +191,7 @@ SaveHistory::Undone SaveHistory::undo(const MetadataService& service, qint64 num
     for (const FileFailure& failure : undone.outcome.failed)
         touched.append(failure.file);
     const QList<QUrl> stale = photosAmong(touched, photos);
+    progress.done = 0;
     undone.records = PhotoReader::read(service, stale, progress, {}, cache).records;
     return undone;
 }

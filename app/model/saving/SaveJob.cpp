@@ -25,12 +25,13 @@ namespace {
 QList<FileFailure> namedFailures(const ToolError& error, const QList<QUrl>& targets)
 {
     const QList<QUrl> files = SaveGuard::filesBehindLinks(targets);
-    const QList<FileFailure> named = writeFailures(error.messages(), files);
+    QHash<QUrl, QString> reasons;
+    for (const FileFailure& failure : writeFailures(error.messages(), files))
+        reasons.insert(failure.file, failure.reason);
     QList<FileFailure> failures;
-    for (const FileFailure& failure : named)
-        for (qsizetype i = 0; i < files.size(); ++i)
-            if (files.at(i) == failure.file)
-                failures.append({ targets.at(i), failure.reason });
+    for (qsizetype i = 0; i < files.size(); ++i)
+        if (const auto reason = reasons.constFind(files.at(i)); reason != reasons.cend())
+            failures.append({ targets.at(i), *reason });
     return failures;
 }
 
@@ -75,13 +76,6 @@ std::optional<OldValues> lookBefore(const MetadataService& service, const Order&
     }
 }
 
-// What one write is given: the targets that are asked the same.
-struct Portion {
-    EditPlan plan{};
-    QList<QUrl> targets{};
-    QList<Preparation> preparations{};
-};
-
 // The same for equal plans, whatever targets they are of.
 QByteArray keyOf(const EditPlan& plan)
 {
@@ -93,7 +87,7 @@ QByteArray keyOf(const EditPlan& plan)
 }
 
 // Where items are appended, what only some homes hold is brought together first.
-QList<Preparation> preparationsFor(const Portion& portion, const QHash<QUrl, PhotoPlan>& photos)
+QList<Preparation> preparationsFor(const SavePortion& portion, const QHash<QUrl, PhotoPlan>& photos)
 {
     QMap<QStringList, Preparation> preparations;  // by arguments
     for (const QUrl& target : portion.targets) {
@@ -107,9 +101,9 @@ QList<Preparation> preparationsFor(const Portion& portion, const QHash<QUrl, Pho
     return preparations.values();
 }
 
-QList<Portion> portions(const QList<QUrl>& targets, const QHash<QUrl, PhotoPlan>& photos)
+QList<SavePortion> portions(const QList<QUrl>& targets, const QHash<QUrl, PhotoPlan>& photos)
 {
-    QList<Portion> portions;
+    QList<SavePortion> portions;
     QHash<QByteArray, qsizetype> known;
     for (const QUrl& target : targets) {
         const EditPlan plan = photos.value(target).plan;
@@ -123,34 +117,58 @@ QList<Portion> portions(const QList<QUrl>& targets, const QHash<QUrl, PhotoPlan>
         }
         portions[at].targets.append(target);
     }
-    for (Portion& portion : portions)
+    for (SavePortion& portion : portions)
         portion.preparations = preparationsFor(portion, photos);
     return portions;
 }
 
-// Adds what came of one portion. Of several, an error of one says nothing of the others.
-void write(
-    const MetadataService& service, const Portion& portion, const WriteOptions& options, bool isOnly, Written& written)
+void takeError(const ToolError& error, const QList<QUrl>& targets, Written& written)
 {
-    const auto fail = [&](const QString& reason) {
-        written.error = reason;
-        written.isPartial = written.isPartial || !isOnly;
-        for (const QUrl& target : isOnly ? QList<QUrl>() : portion.targets)
-            written.failures.append({ target, reason });
-    };
-    try {
-        service.write(portion.plan, portion.targets, options, portion.preparations, &written.notes);
-    } catch (const ToolError& error) {
-        written.notes.messages += error.messages();
-        if (!std::holds_alternative<ToolError::ExecFailed>(error.payload()))
-            return fail(toolReason(error));
-        written.error = toolReason(error);
+    written.notes.messages += error.messages();
+    written.error = toolReason(error);
+    if (!std::holds_alternative<ToolError::ExecFailed>(error.payload()))
+        return;
+    written.isPartial = true;
+    written.failures += namedFailures(error, targets);
+}
+
+void writeOne(const MetadataService& service, const SavePortion& portion, const WriteOptions& options, Written& written)
+{
+    service.write(portion.plan, portion.targets, options, portion.preparations, &written.notes);
+}
+
+// What keeps one portion from being written says nothing of the others.
+void writeEach(
+    const MetadataService& service, const QList<SavePortion>& portions, const WriteOptions& options, Written& written)
+{
+    const PortionsOutcome outcome = service.writeEach(portions, options, &written.notes);
+    for (auto refused = outcome.refused.cbegin(); refused != outcome.refused.cend(); ++refused) {
+        written.error = *refused;
         written.isPartial = true;
-        written.failures += namedFailures(error, portion.targets);
+        for (const QUrl& target : portions.at(refused.key()).targets)
+            written.failures.append({ target, *refused });
+    }
+    QList<QUrl> targets;
+    for (const SavePortion& portion : portions)
+        targets += portion.targets;
+    if (outcome.error)
+        takeError(*outcome.error, targets, written);
+}
+
+void write(
+    const MetadataService& service, const QList<SavePortion>& portions, const WriteOptions& options, Written& written)
+{
+    try {
+        if (portions.size() == 1)
+            writeOne(service, portions.constFirst(), options, written);
+        else
+            writeEach(service, portions, options, written);
+    } catch (const ToolError& error) {
+        takeError(error, portions.value(0).targets, written);
     } catch (const Error& error) {
-        fail(error.description());
+        written.error = error.description();
     } catch (const std::exception& error) {
-        fail(QString::fromUtf8(error.what()));
+        written.error = QString::fromUtf8(error.what());
     }
 }
 
@@ -220,14 +238,16 @@ QList<std::optional<FileStamp>> stampsOf(const QList<QUrl>& targets)
 }
 
 // Of targets that failed, which home it was.
-void findRefusedHomes(const MetadataService& service, const Portion& portion, Written& written)
+void findRefusedHomes(const MetadataService& service, QList<SavePortion> portions, Written& written)
 {
-    QList<QUrl> failed;
-    for (const FileFailure& failure : written.failures)
-        if (portion.targets.contains(failure.file))
-            failed.append(failure.file);
+    const QHash<QUrl, QString> failed = reasonsByFile(written.failures);
+    for (SavePortion& portion : portions)
+        portion.targets.removeIf([&failed](const QUrl& target) { return !failed.contains(target); });
+    portions.removeIf([](const SavePortion& portion) { return portion.targets.isEmpty(); });
+    if (portions.isEmpty())
+        return;
     try {
-        written.refusedHomes.insert(service.refusedHomes(portion.plan, failed));
+        written.refusedHomes = service.refusedHomes(portions);
     } catch (const std::exception&) {
         return;  // What the tool said of the whole save has to do.
     }
@@ -248,7 +268,7 @@ QStringList tagsAfter(const QHash<QUrl, PhotoPlan>& photos)
 {
     QSet<QString> tags;
     bool hasHiddenHomes = false;
-    for (const Portion& portion : portions(photos.keys(), photos)) {
+    for (const SavePortion& portion : portions(photos.keys(), photos)) {
         const QStringList written = JournalTags::writtenTags(portion.plan);
         tags.unite(QSet<QString>(written.cbegin(), written.cend()));
         hasHiddenHomes = hasHiddenHomes || SaveVerification::hasHiddenHomes(portion.plan);
@@ -322,11 +342,9 @@ Written run(const MetadataService& service, const Order& order, const std::share
             *before, [&written](const QUrl& target) { return written.photos.value(target).whole(); }, targets,
             order.options);
     const ReplacedFilesPoll poll(targets, progress.done);
-    const QList<Portion> runs = portions(targets, written.photos);
-    for (const Portion& portion : runs)
-        write(service, portion, order.options, runs.size() == 1, written);
-    for (const Portion& portion : runs)
-        findRefusedHomes(service, portion, written);
+    const QList<SavePortion> runs = portions(targets, written.photos);
+    write(service, runs, order.options, written);
+    findRefusedHomes(service, runs, written);
     if (targets.size() == 1 && !written.failures.isEmpty())
         written.error = written.failures.constFirst().reason;
     written.isUntouched = stampsOf(targets) == stamps;

@@ -47,7 +47,8 @@ struct Order {
 };
 
 /// Writes, and counts meanwhile the files that are done. Lists that differ between their homes are brought together,
-/// and what belongs together with an edited field is written with it (PhotoPlans): one run for each distinct set. What
+/// and what belongs together with an edited field is written with it (PhotoPlans): one run for each distinct set, many
+/// of them in one start of the tool. What
 /// it replaces goes into the history, where there is one; a history that cannot be kept does not stop the save. Never
 /// throws.
 Written run(const MetadataService& service, const Order& order, const std::shared_ptr<SaveHistory>& history,

@@ -78,25 +78,23 @@ public:
 
     UndoOutcome outcome()
     {
-        const auto runs = runsOverUnchangedFiles();
-        for (const Run& run : runs)
-            write(run.command, run.files);
+        QList<SafeWriter::Portion> portions = portionsOverUnchangedFiles();
+        for (SafeWriter::Portion& portion : portions)
+            portion.targets = withoutBlocked(portion.targets, m_outcome.failed);
+        portions.removeIf([](const SafeWriter::Portion& portion) { return portion.targets.isEmpty(); });
+        if (!portions.isEmpty())
+            write(portions);
         checkRestored();
         restoreSidecars();
         return m_outcome;
     }
 
 private:
-    // Files that held the same go into one run.
-    struct Run {
-        WriteCommand command{};
-        QList<QUrl> files{};
-    };
-
-    // By their arguments.
-    QMap<QStringList, Run> runsOverUnchangedFiles()
+    // Files that held the same are one portion.
+    QList<SafeWriter::Portion> portionsOverUnchangedFiles()
     {
-        QMap<QStringList, Run> runs;
+        QList<SafeWriter::Portion> portions;
+        QHash<QStringList, qsizetype> known;  // by arguments
         for (const auto& file : m_entry.files) {
             const QUrl url = QUrl::fromLocalFile(file.path);
             if (FileStamp::of(file.path) != file.after) {
@@ -104,31 +102,52 @@ private:
                 continue;
             }
             const WriteCommand command = JournalTags::restoreCommand(m_entry, file);
-            Run& run = runs[arguments(command.assignments)];
-            run.command = command;
-            run.files.append(url);
+            const QStringList key = arguments(command.assignments);
+            const qsizetype at = known.value(key, portions.size());
+            if (at == portions.size()) {
+                known.insert(key, at);
+                portions.append({ command, {}, m_entry.customNames, {} });
+            }
+            portions[at].targets.append(url);
         }
-        return runs;
+        return portions;
     }
 
-    void write(const WriteCommand& command, const QList<QUrl>& files)
+    void write(const QList<SafeWriter::Portion>& portions)
     {
-        QList<FileFailure> failures;
-        const QList<QUrl> writable = withoutBlocked(files, failures);
+        QList<QUrl> files;
+        for (const SafeWriter::Portion& portion : portions)
+            files += portion.targets;
         try {
-            if (!writable.isEmpty())
-                SafeWriter::write(m_runner, command, writable, false, m_entry.customNames);
-        } catch (const ToolError& error) {
-            failures += writeFailures(error, writable);
-            m_doubtful.unite(setOf(writable));
+            take(SafeWriter::writeEach(m_runner, portions, false), portions);
         } catch (const Error& error) {
-            for (const auto& file : writable)
-                failures.append({ file, error.description() });
+            for (const auto& file : std::as_const(files))
+                m_outcome.failed.append({ file, error.description() });
         }
-        for (const auto& file : files)
-            if (std::none_of(failures.cbegin(), failures.cend(), [&file](const auto& f) { return f.file == file; }))
-                m_outcome.restored.append(file);
-        m_outcome.failed += failures;
+    }
+
+    void take(const SafeWriter::Outcome& written, const QList<SafeWriter::Portion>& portions)
+    {
+        QHash<QUrl, QString> reasons;
+        for (auto refused = written.refused.cbegin(); refused != written.refused.cend(); ++refused)
+            for (const auto& file : portions.at(refused.key()).targets)
+                reasons.insert(file, *refused);
+        const QSet<QUrl> done = setOf(written.done);
+        for (const SafeWriter::Portion& portion : portions) {
+            QList<QUrl> left = portion.targets;
+            left.removeIf([&](const QUrl& file) { return done.contains(file) || reasons.contains(file); });
+            if (written.error && !left.isEmpty())
+                for (const FileFailure& failure : writeFailures(*written.error, left))
+                    reasons.insert(failure.file, failure.reason);
+            if (!left.isEmpty())
+                m_doubtful.unite(setOf(portion.targets));
+            for (const auto& file : portion.targets) {
+                if (const auto reason = reasons.constFind(file); reason != reasons.cend())
+                    m_outcome.failed.append({ file, *reason });
+                else
+                    m_outcome.restored.append(file);
+            }
+        }
     }
 
     // Looks what the files really hold now: the tool refuses some values that it read, and of a run that failed it
@@ -142,6 +161,7 @@ private:
             // Then what the tool said of its runs has to do.
         }
         const QSet<QUrl> restored = setOf(m_outcome.restored);
+        QSet<QUrl> lost;
         for (const auto& file : m_entry.files) {
             const QUrl url = QUrl::fromLocalFile(file.path);
             const auto held = now.constFind(QFile::encodeName(file.path));
@@ -149,12 +169,13 @@ private:
             if (!isKnown || JournalTags::isRestored(m_entry, file, *held))
                 continue;
             if (m_doubtful.contains(url)) {
-                m_outcome.restored.removeAll(url);
+                lost.insert(url);
                 m_outcome.failed.append({ url, u"not written"_s });
             } else {
                 m_outcome.inexact.append(url);
             }
         }
+        m_outcome.restored.removeIf([&lost](const QUrl& file) { return lost.contains(file); });
     }
 
     void restoreSidecars()

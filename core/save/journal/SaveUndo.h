@@ -37,7 +37,8 @@ OldValues oldValues(
 /// assigns in a target.
 JournalEntry journalEntry(const OldValues& known, const std::function<EditPlan(const QUrl&)>& planOf,
     const QList<QUrl>& targets, const WriteOptions& options);
-/// Writes the old values of a save back, one run for each distinct set of them, without new backups. A file that is
+/// Writes the old values of a save back, one run for each distinct set of them, many in one start of the tool, without
+/// new backups. A file that is
 /// read-only or blocked, or whose run fails, is named in the outcome and does not keep others from theirs.
 UndoOutcome undo(const ExifToolRunner& runner, const JournalEntry& entry);
 
