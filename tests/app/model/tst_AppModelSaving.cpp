@@ -39,6 +39,7 @@ private slots:
     void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
     void singleSaveReplaces();
     void batchSaveAppends();
+    void eachGetsItsOwn();
     void savedPhotosKeepTheirPlaceInOrderOfCreation();
     void companions_data();
     void companions();
@@ -117,6 +118,57 @@ void tst_AppModelSaving::batchSaveAppends()
     QCOMPARE(f->sharedValue(u"title"_s), u"X"_s);
     QCOMPARE(f->record(f.url(u"b.jpg"_s))->custom, (QList<CustomValue>{ { u"Mood"_s, u"calm"_s } }));
     QVERIFY(f->record(f.url(u"c.jpg"_s))->values.isEmpty());
+}
+
+// Texts that differ, items that all gain and lose; one photo is read-only, and waits for its own text alone.
+void tst_AppModelSaving::eachGetsItsOwn()
+{
+    ModelFixture f;
+    f.services.journalPath = f.settings.filePath(u"undo"_s);
+    f.relaunch();
+    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s })
+        f.folder.add(name);
+    exiftool({ u"-overwrite_original"_s, u"-XMP-dc:Subject=old"_s, u"-XMP-dc:Subject=own"_s, u"-IPTC:Keywords=old"_s,
+        u"-IPTC:Keywords=own"_s, f.folder.path(u"a.jpg"_s) });
+    QVERIFY(QFile::setPermissions(f.folder.path(u"b.jpg"_s), QFile::ReadOwner));
+    f->preferences().confirmMassEdit.set(false);
+    f->preferences().saveDontAsk.set(true);
+    QVERIFY(f.open());
+    f->selectAllPhotos();
+    const auto own = [](const QString& title) { return OwnEdits{ .scalars = { { u"title"_s, title } } }; };
+    f->layEdits({ .added = { { u"keywords"_s, { u"all"_s } } },
+        .removed = { { u"keywords"_s, { u"old"_s } } },
+        .own = { { f.url(u"a.jpg"_s), own(u"A\nof $two lines"_s) }, { f.url(u"b.jpg"_s), own(u"B"_s) } } });
+    QCOMPARE(f->unsavedCount(), 2);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->errorMessage(), u"Could not save 1 of 3 photos: b.jpg (b.jpg is read-only.)"_s);
+    const auto held = [&f](const QString& name) {
+        const auto values = exiv2Values(f.url(name));
+        return values.value(u"Xmp.dc.title"_s) + values.value(u"Xmp.dc.subject"_s)
+            + values.value(u"Iptc.Application2.Keywords"_s);
+    };
+    const QStringList a{ u"lang=\"x-default\" A\nof $two lines"_s, u"all, own"_s, u"all"_s, u"own"_s };
+    QCOMPARE(held(u"a.jpg"_s), a);
+    QCOMPARE(held(u"c.jpg"_s), QStringList({ u"all"_s, u"all"_s }));
+    QCOMPARE(held(u"b.jpg"_s), QStringList());
+
+    QCOMPARE(f.selected(), QStringList{ u"b.jpg"_s });
+    QCOMPARE(f->draftValues().value(u"title"_s), u"B"_s);
+    QCOMPARE(f->unsavedCount(), 2);
+    QVERIFY(QFile::setPermissions(f.folder.path(u"b.jpg"_s), QFile::ReadOwner | QFile::WriteOwner));
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f->unsavedCount(), 0);
+    QCOMPARE(held(u"b.jpg"_s), QStringList({ u"lang=\"x-default\" B"_s, u"all"_s, u"all"_s }));
+    QCOMPARE(held(u"a.jpg"_s), a);
+
+    for (int saves = 2; saves > 0; --saves) {
+        f->undoSave();
+        QVERIFY(f.waitUntilIdle());
+    }
+    QCOMPARE(held(u"a.jpg"_s), QStringList({ u"old, own"_s, u"old"_s, u"own"_s }));
+    QCOMPARE(held(u"b.jpg"_s) + held(u"c.jpg"_s), QStringList());
 }
 
 // A save puts a new file in the old one's place, which the system takes for a birth.
