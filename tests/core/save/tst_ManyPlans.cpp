@@ -1,7 +1,9 @@
 // Photos that are asked different things, saved and taken back in one start of the tool: what the files hold is what a
 // start for each would have left, and whatever becomes of one of them is its own affair.
 #include "core/MetadataService.h"
+#include "core/save/SaveVerification.h"
 #include "core/save/journal/JournalTags.h"
+#include "core/save/together/PhotoPlans.h"
 #include "tests/support/RealService.h"
 #include "tests/support/RefusedExif.h"
 
@@ -165,6 +167,67 @@ private slots:
         QVERIFY(said[1].hasEnded && said[1].status == 1);
         QCOMPARE(said[2].messages, "rest");
         QVERIFY(!said[2].hasEnded && !said[3].hasEnded && said[3].messages.isEmpty());
+    }
+
+    // Keywords that are taken away: in every spelling that some home has, and nothing else with them.
+    void takesEverySpellingAway_data()
+    {
+        QTest::addColumn<QStringList>("iptc");
+        QTest::addColumn<QStringList>("xmp");
+        QTest::addColumn<QStringList>("added");
+        QTest::addColumn<QStringList>("removed");
+        QTest::addColumn<QString>("before");  // runs
+        QTest::addColumn<QStringList>("gone");
+        const QString damaged = u"ZÃ¼rich"_s;
+        const QStringList zurich{ u"Zürich"_s };
+        QTest::addRow("as it is") << QStringList{ u"a"_s, u"b"_s } << QStringList{ u"a"_s, u"c"_s } << QStringList()
+                                  << QStringList{ u"a"_s } << QString() << QStringList{ u"a"_s };
+        QTest::addRow("damaged in one home") << zurich << QStringList{ damaged } << QStringList() << zurich
+                                             << u"-XMP-dc:Subject-=ZÃ¼rich"_s << QStringList{ u"Zürich"_s, damaged };
+        QTest::addRow("shown as a number")
+            << QStringList{ u"1.10"_s } << QStringList() << QStringList() << QStringList{ u"1.1"_s }
+            << u"-IPTC:Keywords-=1.10"_s << QStringList{ u"1.10"_s, u"1.1"_s };
+        QTest::addRow("beside one that is added")
+            << QStringList{ u"a"_s, u"b"_s } << QStringList{ u"a"_s } << QStringList{ u"x"_s } << QStringList{ u"a"_s }
+            << u"-XMP-dc:Subject-=b -XMP-dc:Subject+=b"_s << QStringList{ u"a"_s };
+        QTest::addRow("nowhere") << QStringList{ u"b"_s } << QStringList() << QStringList() << QStringList{ u"a"_s }
+                                 << QString() << QStringList{ u"a"_s };
+    }
+    void takesEverySpellingAway()
+    {
+        QFETCH(QStringList, iptc);
+        QFETCH(QStringList, xmp);
+        QFETCH(QStringList, added);
+        QFETCH(QStringList, removed);
+        QFETCH(QStringList, gone);
+        FileTags held;
+        for (const QString& item : iptc)
+            held[u"IPTC:Keywords"_s].append(item.toUtf8());
+        for (const QString& item : xmp)
+            held[u"XMP-dc:Subject"_s].append(item.toUtf8());
+        EditPlan plan{ .listMode = append, .removed = { { u"keywords"_s, removed } } };
+        if (!added.isEmpty())
+            plan.lists.insert(u"keywords"_s, added);
+        const ListHomes::Change change = ListHomes::change(plan, held, u"JPEG"_s, {});
+        QTEST(arguments(change.preparation).join(u' '), "before");
+        QCOMPARE(change.takenAway, (Lists{ { u"keywords"_s, gone } }));
+        QCOMPARE(change.joined.isEmpty(), added.isEmpty());
+
+        // What is still in some home was not taken away.
+        plan = PhotoPlan{ plan, change, {} }.expected();
+        ImageRecord record{ .lists = { { u"keywords"_s, added + QStringList{ u"b"_s } } } };
+        FileTags after{ { u"IPTC:Keywords"_s, { "b", "x" } }, { u"XMP-dc:Subject"_s, { "b", "x" } } };
+        QCOMPARE(SaveVerification::differences(plan, record, &after), QStringList());
+        for (const QString& item : std::as_const(gone)) {
+            FileTags hidden = after;
+            hidden[u"XMP-dc:Subject"_s].append(item.toUtf8());
+            QCOMPARE(SaveVerification::differences(plan, record, &hidden), QStringList{ u"keywords"_s });
+            ImageRecord shown = record;
+            shown.lists[u"keywords"_s].append(item);
+            QCOMPARE(SaveVerification::differences(plan, shown), QStringList{ u"keywords"_s });
+        }
+        plan.leftOut = { u"XMP"_s };
+        QCOMPARE(SaveVerification::differences(plan, record, &after), QStringList());
     }
 
     // And the way back, in one start too.
