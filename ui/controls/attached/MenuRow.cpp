@@ -91,7 +91,7 @@ void MenuRow::paintEvent(QPaintEvent*)
 void MenuRow::paintBoxAt(QPainter& painter, const QRectF& box) const
 {
     const Theme& theme = Theme::of(this);
-    if (m_quiet && !isChecked())
+    if (m_quiet && !isChecked() && !hasFocus())
         painter.setOpacity(painter.opacity() * .5);
     // On the dark row the tick changes places with its ground, or neither would be seen.
     const QColor on = hasFocus() ? theme.selText : theme.accent;
