@@ -49,10 +49,11 @@ ThemedLabel::ThemedLabel(const QString& text, TextRole role, qreal points, QFont
 
 void ThemedLabel::restyle()
 {
+    QFont font = m_mono ? monoFont(m_points) : sansFont(m_points, m_weight);
     if (m_verbatim)
-        setFont(m_mono ? verbatimMonoFont(m_points) : verbatimFont(m_points, m_weight));
-    else
-        setFont(m_mono ? monoFont(m_points) : sansFont(m_points, m_weight));
+        font = m_mono ? verbatimMonoFont(m_points) : verbatimFont(m_points, m_weight);
+    font.setItalic(m_italic);
+    setFont(font);
     QPalette colors = paletteFor(Theme::of(this));
     colors.setColor(QPalette::WindowText, colorFor(Theme::of(this), m_role));
     setPalette(colors);
@@ -85,6 +86,12 @@ void ThemedLabel::setVerbatim(bool verbatim)
     if (verbatim == m_verbatim)
         return;
     m_verbatim = verbatim;
+    restyle();
+}
+
+void ThemedLabel::setItalic(bool italic)
+{
+    m_italic = italic;
     restyle();
 }
 

@@ -27,6 +27,7 @@ public:
     void setMono(bool mono);
     /// For names of files, tags and what somebody typed: every letter as it is.
     void setVerbatim(bool verbatim);
+    void setItalic(bool italic);
     void setElided(bool elided);
     /// The height of one line in points; by default what the font says.
     void setLineHeight(qreal points);
@@ -45,6 +46,7 @@ private:
     QFont::Weight m_weight;
     bool m_mono = false;
     bool m_verbatim = false;
+    bool m_italic = false;
     bool m_elided = false;
     qreal m_lineHeight = 0;
 };

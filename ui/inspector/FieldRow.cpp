@@ -242,6 +242,9 @@ void FieldRow::describe()
     QStringList told;
     if (m_state.edited && !m_state.batch)
         told.append(u"edited"_s);
+    // A placeholder alone is not read aloud.
+    if (m_state.batch && m_state.included && m_state.italicPlaceholder)
+        told.append(m_state.placeholder);
     for (const QString& line : { m_state.noteLine, m_state.helpLine, m_state.namespaceLine })
         if (!line.isEmpty())
             told.append(line);

@@ -73,15 +73,28 @@ std::optional<QString> pathBeingTyped(const QString& typed)
     return elements.join(u'|');
 }
 
+// What is added, what is taken away, and what only some photos gain or lose.
+QString listHelp(const AppModel& model, const QString& id, bool adds)
+{
+    QStringList parts;
+    if (adds)
+        parts.append(u"appends — existing values kept"_s);
+    if (const qsizetype gone = model.batchRemoved().value(id).size(); gone > 0)
+        parts.append(u"%1 taken away"_s.arg(gone));
+    if (const auto own = model.batchOwn().constFind(id); own != model.batchOwn().cend())
+        parts.append(own->told(model.selection().size()));
+    return parts.join(u" · "_s);
+}
+
 void addListState(const AppModel& model, const FieldSpec& field, FieldRowState& state)
 {
     state.placeholder = state.batch ? u"Add to all + ↵"_s : u"Add keyword + ↵"_s;
     state.items = state.batch ? model.batchLists().value(field.id) : model.draftLists().value(field.id);
     if (field.id == FieldID::keywords)
         state.itemParents = parentsOf(model, state.items);
-    state.included = state.batch && !state.items.isEmpty();
-    if (state.included)
-        state.helpLine = u"appends — existing values kept"_s;
+    if (state.batch)
+        state.helpLine = listHelp(model, field.id, !state.items.isEmpty());
+    state.included = !state.helpLine.isEmpty();
 }
 
 void showMultipleValues(FieldRowState& state)
@@ -90,9 +103,28 @@ void showMultipleValues(FieldRowState& state)
     state.placeholder = u"Multiple values — leave unchanged"_s;
 }
 
+// A field of the batch whose text differs from photo to photo says so in its place, and to screen readers.
+bool showOwnTexts(const AppModel& model, const QString& key, FieldRowState& state)
+{
+    const auto own = model.batchOwn().constFind(key);
+    if (!state.batch || own == model.batchOwn().cend())
+        return false;
+    const qsizetype selected = model.selection().size();
+    state.text.clear();
+    state.included = true;
+    state.edited = true;
+    state.italicPlaceholder = true;
+    state.placeholder = own->told(selected);
+    state.helpLine = own->photos == selected ? willBeWritten(model)
+                                             : u"Will be written to %1 of %2 photos"_s.arg(own->photos).arg(selected);
+    return true;
+}
+
 // `key`: of the field, or of its text in a further language.
 void addTextState(const AppModel& model, const QString& key, FieldRowState& state)
 {
+    if (showOwnTexts(model, key, state))
+        return;
     state.text = currentText(model, key);
     state.included = state.batch && model.batchInclude().contains(key);
     if (state.included)
@@ -131,6 +163,8 @@ QString currentText(const AppModel& model, const QString& id)
 {
     if (!model.isBatch())
         return model.draftValues().value(id);
+    if (model.batchOwn().contains(id))
+        return {};
     const QMap<QString, QString>& typed = model.batchValues();
     const auto text = typed.constFind(id);
     return text != typed.cend() ? *text : model.sharedValue(id).value_or(QString());
@@ -139,7 +173,7 @@ QString currentText(const AppModel& model, const QString& id)
 // A text that is emptied is taken away, with its language.
 bool isTakenAway(const AppModel& model, const QString& key)
 {
-    return isEdited(model, key) && currentText(model, key).trimmed().isEmpty();
+    return isEdited(model, key) && !model.batchOwn().contains(key) && currentText(model, key).trimmed().isEmpty();
 }
 
 QStringList languageCodes(const AppModel& model, const QString& id)
@@ -184,6 +218,9 @@ FieldRowState fieldRow(const AppModel& model, const FieldSpec& field)
         addListState(model, field, state);
     else
         addTextState(model, field.id, state);
+    // Editors that show no placeholder say it below.
+    if ((field.kind == FieldKind::rating || field.kind == FieldKind::offset) && model.batchOwn().contains(field.id))
+        state.helpLine.prepend(state.placeholder + u" · "_s);
     if (state.edited)
         state.noteLine = FieldCheck::note(field, state.text);
     addLanguages(model, field, state);
@@ -251,7 +288,9 @@ FieldRowState customRow(const AppModel& model, const CustomValue& custom)
     state.label = custom.name;
     state.text = custom.value;
     state.batch = model.isBatch();
-    if (state.batch) {
+    if (showOwnTexts(model, CustomFields::key(custom.name), state)) {
+        // said
+    } else if (state.batch) {
         const QList<CustomValue>& written = model.batchCustoms();
         state.included = std::any_of(
             written.cbegin(), written.cend(), [&custom](const CustomValue& v) { return v.name == custom.name; });

@@ -1,6 +1,7 @@
 #include "ui/sheets/SaveDialogView.h"
 
 #include "app/model/AppModel.h"
+#include "core/schema/CustomFields.h"
 #include "core/schema/FieldCheck.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
@@ -16,6 +17,8 @@
 #include <QGridLayout>
 #include <QPainter>
 #include <QVBoxLayout>
+
+#include <functional>
 
 namespace Quorbel {
 
@@ -38,6 +41,9 @@ struct ChangeLine {
     QString label{};
     QString value{};
     QString note{};  // what is wrong with the value; none when empty
+    bool isOwn = false;  // the value tells of texts that differ from photo to photo
+    QStringList takenAway{};  // items that a list loses
+    QStringList counts{};  // of those, "18 of 40"; "" where that is not known
 };
 
 bool isSingle(const AppModel& model)
@@ -62,19 +68,34 @@ QString titleText(const AppModel& model)
 }
 
 // The scalar fields among `ids`, by id.
-QList<ChangeLine> scalarLines(const QSet<QString>& ids, const QMap<QString, QString>& values)
+QList<ChangeLine> scalarLines(const QSet<QString>& ids, const std::function<ChangeLine(const QString& id)>& lineOf)
 {
     QList<ChangeLine> lines;
     QStringList sorted = ids.values();
     sorted.sort();
-    for (const QString& id : std::as_const(sorted))
-        if (const FieldSpec* field = FieldSchema::spec(id); field && !field->isList()) {
-            const QString value = values.value(id);
-            lines.append({ field->label, u'“' + value + u'”', FieldCheck::note(*field, value) });
-        } else if (const QString label = FieldLanguages::label(id); !label.isEmpty()) {
-            lines.append({ label, u'“' + values.value(id) + u'”', {} });
-        }
+    for (const QString& id : std::as_const(sorted)) {
+        const FieldSpec* field = FieldSchema::spec(id);
+        const QString label = field ? (field->isList() ? QString() : field->label) : FieldLanguages::label(id);
+        if (label.isEmpty())
+            continue;
+        lines.append(lineOf(id));
+        lines.last().label = label;
+    }
     return lines;
+}
+
+ChangeLine textLine(const QString& id, const QString& value)
+{
+    const FieldSpec* field = FieldSchema::spec(id);
+    return { .value = u'“' + value + u'”', .note = field ? FieldCheck::note(*field, value) : QString() };
+}
+
+ChangeLine batchLine(const AppModel& model, const QString& id)
+{
+    const auto own = model.batchOwn().constFind(id);
+    if (own == model.batchOwn().cend())
+        return textLine(id, model.batchValues().value(id));
+    return { .value = own->told(model.selection().size()), .isOwn = true };
 }
 
 // Keywords that were typed with their parents, with these.
@@ -102,22 +123,59 @@ QList<ChangeLine> agreementLines(const AppModel::AgreementQuestion& question)
     return lines;
 }
 
+// What a list gains, and what it loses. Of texts that only some of the photos gain or lose it tells how many do.
+ChangeLine listLine(const AppModel& model, const FieldSpec& field)
+{
+    ChangeLine line{ .label = field.label,
+        .value = shownItems(model, field.id, model.batchLists().value(field.id)).join(u", "_s),
+        .takenAway = model.batchRemoved().value(field.id) };
+    if (const auto own = model.batchOwn().constFind(field.id); own != model.batchOwn().cend()) {
+        line.isOwn = line.value.isEmpty();
+        line.value += (line.isOwn ? QString() : u", "_s) + own->told(model.selection().size());
+    }
+    QHash<QString, int> held;
+    if (field.id == FieldID::keywords && !line.takenAway.isEmpty())
+        for (const KeywordCount& count : model.selectedKeywords())
+            held.insert(count.keyword, count.photos);
+    for (const QString& item : std::as_const(line.takenAway))
+        line.counts.append(
+            held.contains(item) ? u"%1 of %2"_s.arg(held.value(item)).arg(model.selectedKeywordPhotos()) : QString());
+    return line;
+}
+
+bool hasEdits(const ChangeLine& line)
+{
+    return !line.value.isEmpty() || !line.takenAway.isEmpty();
+}
+
+// Custom fields whose texts differ from photo to photo, which are not seen in the form as others are.
+QList<ChangeLine> ownCustomLines(const AppModel& model)
+{
+    QList<ChangeLine> lines;
+    for (auto own = model.batchOwn().cbegin(); own != model.batchOwn().cend(); ++own)
+        if (const auto name = CustomFields::nameIn(own.key()))
+            lines.append({ .label = *name, .value = own->told(model.selection().size()), .isOwn = true });
+    return lines;
+}
+
 // Scalar fields by id, then lists by id. Of one photo only the fields whose value is worth a second look.
 QList<ChangeLine> changeLines(const AppModel& model)
 {
     if (const auto question = model.agreementQuestion())
         return agreementLines(*question);
     if (isSingle(model)) {
-        QList<ChangeLine> lines = scalarLines(model.editedSingle(), model.draftValues());
+        QList<ChangeLine> lines = scalarLines(
+            model.editedSingle(), [&model](const QString& id) { return textLine(id, model.draftValues().value(id)); });
         lines.removeIf([](const ChangeLine& line) { return line.note.isEmpty(); });
         return lines;
     }
-    QList<ChangeLine> lines = scalarLines(model.batchInclude(), model.batchValues());
-    const QMap<QString, QStringList> lists = model.nonEmptyBatchLists();
-    for (auto list = lists.cbegin(); list != lists.cend(); ++list)
-        if (const FieldSpec* field = FieldSchema::spec(list.key()))
-            lines.append({ field->label, shownItems(model, list.key(), list.value()).join(u", "_s), {} });
-    return lines;
+    QList<ChangeLine> lines =
+        scalarLines(model.batchInclude(), [&model](const QString& id) { return batchLine(model, id); });
+    QMap<QString, ChangeLine> lists;
+    for (const FieldSpec& field : FieldSchema::all())
+        if (const ChangeLine line = field.isList() ? listLine(model, field) : ChangeLine(); hasEdits(line))
+            lists.insert(field.id, line);
+    return lines + lists.values() + ownCustomLines(model);
 }
 
 QString messageText(const AppModel& model)
@@ -171,14 +229,41 @@ private:
     {
         auto* cell = new QVBoxLayout;
         cell->setSpacing(2);
-        auto* value = ThemedLabel::wrapped(line.value, TextRole::text, 13);
-        value->setVerbatim(true);
-        cell->addWidget(value);
+        if (!line.value.isEmpty())
+            cell->addWidget(valueLabel(line));
+        if (!line.takenAway.isEmpty())
+            cell->addWidget(takenAwayLabel(line));
         if (!line.note.isEmpty())
             cell->addWidget(ThemedLabel::wrapped(line.note, TextRole::amberText, 11));
         // Not aligned in the grid instead: that bounds a layout to its hint, which knows no broken lines.
         cell->addStretch();
         return cell;
+    }
+
+    static ThemedLabel* valueLabel(const ChangeLine& line)
+    {
+        auto* value = ThemedLabel::wrapped(line.value, line.isOwn ? TextRole::label : TextRole::text, 13);
+        value->setVerbatim(!line.isOwn);
+        value->setItalic(line.isOwn);
+        return value;
+    }
+
+    // "taken away: regata (18 of 40)", the items struck through.
+    static ThemedLabel* takenAwayLabel(const ChangeLine& line)
+    {
+        QStringList shown;
+        QStringList spoken;
+        for (qsizetype i = 0; i < line.takenAway.size(); ++i) {
+            const QString count = line.counts.at(i).isEmpty() ? QString() : u" (%1)"_s.arg(line.counts.at(i));
+            shown.append(u"<s>"_s + line.takenAway.at(i).toHtmlEscaped() + u"</s>"_s + count);
+            spoken.append(line.takenAway.at(i) + count);
+        }
+        auto* label = ThemedLabel::wrapped({}, TextRole::text, 13);
+        label->setTextFormat(Qt::RichText);
+        label->setVerbatim(true);
+        label->setText(u"taken away: "_s + shown.join(u", "_s));
+        label->setAccessibleName(u"taken away: "_s + spoken.join(u", "_s));
+        return label;
     }
 
     QGridLayout* m_grid;

@@ -4,6 +4,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What is collected of one field.
@@ -67,6 +69,16 @@ QMap<QString, OwnSummary> OwnSummary::of(const QHash<QUrl, OwnEdits>& own)
                 .added = sorted(field->added),
                 .removed = sorted(field->removed) });
     return summaries;
+}
+
+QString OwnSummary::told(qsizetype selected) const
+{
+    QString what = u"different items"_s;
+    if (texts > 1)
+        what = u"%1 different texts"_s.arg(texts);
+    else if (texts == 1)
+        what = text.isEmpty() ? u"emptied"_s : u'“' + text + u'”';
+    return photos == selected && texts > 1 ? what : what + u" in %1 of %2"_s.arg(photos).arg(selected);
 }
 
 }  // namespace Quorbel

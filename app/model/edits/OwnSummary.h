@@ -16,6 +16,9 @@ struct OwnSummary {
     /// Of each field that some photo has an edit of its own of, by the keys of Edits.
     static QMap<QString, OwnSummary> of(const QHash<QUrl, OwnEdits>& own);
 
+    /// For people, of so many photos: "40 different texts", "12 different texts in 12 of 40", "“Ana” in 12 of 40".
+    QString told(qsizetype selected) const;
+
     bool operator==(const OwnSummary&) const = default;
 };
 
