@@ -20,6 +20,7 @@
 #include "ui/sheets/AddFieldSheet.h"
 #include "ui/sheets/MessageSheet.h"
 #include "ui/sheets/PasteFieldsSheet.h"
+#include "ui/sheets/QuickSetSheet.h"
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
 #include "ui/templates/TemplatesSheet.h"
@@ -176,6 +177,7 @@ void AppDelegate::buildWindow()
     factories.pasteFields = [this] { return new PasteFieldsSheet(m_app->model(), &m_app->thumbnails()); };
     factories.templates = [&model] { return new TemplatesSheet(model); };
     model.templates().panels = templatePanels(m_window.get());
+    factories.quickSet = [&model] { return new QuickSetSheet(model); };
     factories.setInspectorInset = [](QWidget* inspector, int pixels) {
         static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
     };

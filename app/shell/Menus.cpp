@@ -4,8 +4,11 @@
 #include "app/model/library/filter/Filtering.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/words/FieldPasting.h"
+#include "app/model/words/QuickKeywords.h"
+#include "core/schema/KeywordPath.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/ThemedMenuBar.h"
+#include "ui/inspector/keywords/QuickSetMenu.h"
 #include "ui/window/ContentView.h"
 #include "ui/window/WindowBar.h"
 
@@ -194,6 +197,7 @@ void Menus::addEditMenu()
     m_find =
         add(menu, u"&Search"_s, keysFor(QKeySequence::Find, Qt::CTRL | Qt::Key_F), [this] { m_content.focusSearch(); });
     menu->addSeparator();
+    addQuickKeywords(menu);
     m_agree = add(menu, u"Make Them A&gree"_s, {}, [this] { m_model.requestMakeAgree(); });
 }
 
@@ -250,6 +254,30 @@ void Menus::followTemplates()
     for (QAction* action : m_templates->actions())
         if (action->data().isValid())
             action->setEnabled(m_model.templates().canApply());
+}
+
+void Menus::addQuickKeywords(ThemedMenu* menu)
+{
+    m_quick = menu->addThemedMenu(u"Quick &Keywords"_s);
+    // Later: what changes them may be one of these entries.
+    connect(&m_model.quickKeywords(), &QuickKeywords::changed, this, &Menus::fillQuickKeywords, Qt::QueuedConnection);
+    fillQuickKeywords();
+}
+
+void Menus::fillQuickKeywords()
+{
+    m_quick->clear();
+    QuickKeywords& quick = m_model.quickKeywords();
+    const QStringList keywords = quick.keywords();
+    for (int i = 0; i < int(keywords.size()); ++i) {
+        const bool hasKey = i < QuickKeywords::withKeys;
+        const auto path = KeywordPath::fromTyped(keywords.at(i));
+        add(m_quick, literal(path ? KeywordPath::shown(*path) : keywords.at(i)),
+            hasKey ? QList<QKeySequence>{ QKeyCombination(Qt::ALT, Qt::Key(Qt::Key_1 + i)) } : QList<QKeySequence>(),
+            [&quick, i] { quick.give(i); });
+    }
+    m_quick->addSeparator();
+    addQuickSets(*m_quick, quick);
 }
 
 // A command for the text field that has the focus. Fields take its keys themselves; the action shows them and

@@ -48,6 +48,8 @@ private:
     void addTemplates(ThemedMenu* menu);
     void fillTemplates();
     void followTemplates();
+    void addQuickKeywords(ThemedMenu* menu);
+    void fillQuickKeywords();
     void followState();
 
     AppModel& m_model;
@@ -56,6 +58,7 @@ private:
     ThemedMenu* m_bringBack = nullptr;
     ThemedMenu* m_templates = nullptr;
     QAction* m_saveAsTemplate = nullptr;
+    ThemedMenu* m_quick = nullptr;
     QAction* m_save = nullptr;
     QAction* m_undoSave = nullptr;
     QAction* m_rename = nullptr;

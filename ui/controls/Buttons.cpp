@@ -20,6 +20,9 @@ namespace {
 
 // Points, of a text button.
 constexpr qreal leadingIcon = 10;
+constexpr qreal trailingIcon = 12;
+constexpr qreal trailingGap = 5;
+constexpr qreal tokenKeyGap = 6;
 constexpr qreal leadingGap = 6;
 
 // Three colours, blended as far as the pointer and the press have come.
@@ -240,6 +243,13 @@ void QBTextButton::setLeadingIcon(const QString& icon)
     update();
 }
 
+void QBTextButton::setTrailingIcon(const QString& icon)
+{
+    m_trailing = icon;
+    updateGeometry();
+    update();
+}
+
 void QBTextButton::setLink(bool on)
 {
     m_link = on;
@@ -270,6 +280,8 @@ QSize QBTextButton::sizeHint() const
         width += px(leadingIcon + leadingGap);
     if (!m_keys.isEmpty())
         width += px(6) + QFontMetrics(sansFont(11)).horizontalAdvance(m_keys);
+    if (!m_trailing.isEmpty())
+        width += px(trailingIcon + trailingGap);
     if (m_inline)
         return { width, px(17) };
     return { width, px(m_link ? 20 : 26) };
@@ -287,13 +299,19 @@ void QBTextButton::paintEvent(QPaintEvent*)
     QFont titleFont = font();
     titleFont.setUnderline(m_link || (m_inline && underMouse()));
     painter.setFont(titleFont);
-    painter.setPen(m_inline ? colorFor(theme, m_role) : stateColor(*fade(), theme.derived.label, theme.text, theme.text));
+    painter.setPen(
+        m_inline ? colorFor(theme, m_role) : stateColor(*fade(), theme.derived.label, theme.text, theme.text));
     const int padding = px(hasGround() ? 8 : 0);
     QRect inner = rect().adjusted(padding, 0, -padding, 0);
     if (!m_icon.isEmpty()) {
         const QRectF icon(inner.left(), 0, pxF(leadingIcon), height());
         Icon::paint(painter, icon, m_icon, pxF(leadingIcon), painter.pen().color(), 2.1);
         inner.setLeft(inner.left() + px(leadingIcon + leadingGap));
+    }
+    if (!m_trailing.isEmpty()) {
+        const QRectF icon(inner.right() + 1 - pxF(trailingIcon), 0, pxF(trailingIcon), height());
+        Icon::paint(painter, icon, m_trailing, pxF(trailingIcon), painter.pen().color(), 2.1);
+        inner.setRight(inner.right() - px(trailingIcon + trailingGap));
     }
     painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
     if (width() < sizeHint().width())
@@ -316,7 +334,17 @@ TokenChip::TokenChip(const QString& title, QWidget* parent)
 
 QSize TokenChip::sizeHint() const
 {
-    return { fontMetrics().horizontalAdvance(text()) + 2 * px(11) + 2, px(26) };
+    int width = fontMetrics().horizontalAdvance(text()) + 2 * px(m_key.isEmpty() ? 11 : 10) + (m_key.isEmpty() ? 2 : 4);
+    if (!m_key.isEmpty())
+        width += px(tokenKeyGap) + QFontMetrics(sansFont(11)).horizontalAdvance(m_key);
+    return { width, px(26) };
+}
+
+void TokenChip::setKeyHint(const QString& key)
+{
+    m_key = key;
+    updateGeometry();
+    update();
 }
 
 void TokenChip::paintEvent(QPaintEvent*)
@@ -326,7 +354,18 @@ void TokenChip::paintEvent(QPaintEvent*)
     painter.setOpacity(opacity());
     paintBox(painter, rect(), height() / 2.0, look.fill, penOf(look));
     painter.setPen(look.text);
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+    if (m_key.isEmpty() && width() >= sizeHint().width()) {
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+        return;
+    }
+    QRect inner = rect().adjusted(px(10) + 1, 0, -px(10) - 1, 0);
+    const int keyWidth = m_key.isEmpty() ? 0 : QFontMetrics(sansFont(11)).horizontalAdvance(m_key);
+    const QRect title = inner.adjusted(0, 0, m_key.isEmpty() ? 0 : -keyWidth - px(tokenKeyGap), 0);
+    painter.drawText(title, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+        fontMetrics().elidedText(text(), Qt::ElideRight, title.width()));
+    painter.setFont(sansFont(11));
+    painter.setPen(Theme::of(this).derived.label);
+    painter.drawText(inner, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, m_key);
 }
 
 }  // namespace Quorbel

@@ -98,6 +98,8 @@ public:
     void setKeyHint(const QString& keys);
     /// An icon of 10 points before the title ("plus"); none when empty.
     void setLeadingIcon(const QString& icon);
+    /// An icon of 12 points behind the title: it opens a menu.
+    void setTrailingIcon(const QString& icon);
     /// Drawn as a link: no ground, underlined, no side padding.
     void setLink(bool on);
     /// Drawn as a part of a line of text: no ground, no side padding, medium weight, 17 points high.
@@ -115,22 +117,28 @@ private:
 
     QString m_keys;
     QString m_icon;
+    QString m_trailing;
     bool m_link = false;
     bool m_inline = false;
     TextRole m_role{};
 };
 
-/// A capsule that inserts something: the tokens of a rename pattern. 26 points high.
+/// A capsule that inserts something: the tokens of a rename pattern, quick keywords. 26 points high.
 class TokenChip final : public ThemedButton {
     Q_OBJECT
 
 public:
     explicit TokenChip(const QString& title, QWidget* parent = nullptr);
+    /// A short hint behind the title: the digit of its key.
+    void setKeyHint(const QString& key);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_key;
 };
 
 }  // namespace Quorbel

@@ -47,11 +47,27 @@ void FormSection::setRows(const QList<FieldRow*>& rows)
         if (!rows.contains(row))
             row->hide();
     }
+    if (m_below)
+        m_rowColumn->removeWidget(m_below);
+    if (m_below && !rows.contains(m_above))
+        m_below->hide();
     m_rows = rows;
     for (FieldRow* row : rows) {
         m_rowColumn->addWidget(row);
         row->show();
+        if (m_below && row == m_above)
+            m_rowColumn->addWidget(m_below);
     }
+}
+
+void FormSection::setBelow(FieldRow* row, QWidget* widget)
+{
+    widget->setParent(this);
+    widget->hide();
+    m_above = row;
+    m_below = widget;
+    if (m_rows.contains(row))
+        m_rowColumn->insertWidget(m_rowColumn->indexOf(row) + 1, widget);
 }
 
 void FormSection::setUnderRows(QWidget* widget)

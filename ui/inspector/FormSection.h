@@ -25,6 +25,8 @@ public:
     /// and become children of this.
     void setRows(const QList<FieldRow*>& rows);
     const QList<FieldRow*>& rows() const { return m_rows; }
+    /// A widget that stands directly under this row whenever the row is shown. It becomes a child of this.
+    void setBelow(FieldRow* row, QWidget* widget);
     void setUnderRows(QWidget* widget);
     /// Says at the right of the title that the rows are being read.
     void setReading(bool on);
@@ -38,6 +40,8 @@ private:
     QVBoxLayout* m_rowColumn;
     ThemedLabel* m_reading = nullptr;  ///< until it was needed
     QList<FieldRow*> m_rows;
+    FieldRow* m_above = nullptr;  ///< the row over m_below
+    QWidget* m_below = nullptr;
 };
 
 }  // namespace Quorbel

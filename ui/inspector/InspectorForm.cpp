@@ -15,6 +15,7 @@
 #include "ui/inspector/FormSection.h"
 #include "ui/inspector/InspectorStates.h"
 #include "ui/inspector/PhotoHeader.h"
+#include "ui/inspector/keywords/KeywordRows.h"
 #include "ui/places/LocationMap.h"
 
 #include <QVBoxLayout>
@@ -113,7 +114,9 @@ void InspectorForm::refresh()
     const Subject subject{ m_model.selection(), m_model.primary() };
     const bool fresh = subject != m_subject;
     m_subject = subject;
+    addKeywordRows();
     showSections(fresh);
+    showKeywordRows();
     showMap(fresh);
     showCustoms(fresh);
     showCamera();
@@ -168,6 +171,8 @@ void InspectorForm::showBlocks()
         form->setRows(rows);
         form->setVisible(!rows.isEmpty());
     }
+    if (m_keywordRows)
+        m_keywordRows->hide();
     m_map->setPoint(std::nullopt, false);
     m_customs->hide();
     m_cameraSection->hide();
@@ -221,6 +226,26 @@ void InspectorForm::showSections(bool fresh)
 {
     for (const FieldSection section : allCases<FieldSection>())
         showFields(section, fresh);
+}
+
+void InspectorForm::addKeywordRows()
+{
+    if (m_keywordRows || !m_model.isBatch())
+        return;
+    const FieldSpec& field = *FieldSchema::spec(FieldID::keywords);
+    m_keywordRows = new KeywordRows(m_model);
+    m_sections.at(size_t(field.section))->setBelow(rowOf(field), m_keywordRows);
+}
+
+void InspectorForm::showKeywordRows()
+{
+    if (!m_keywordRows)
+        return;
+    m_keywordRows->refresh();
+    if (const QList<QWidget*> stops = m_keywordRows->tabStops(); stops != m_keywordStops) {
+        m_keywordStops = stops;
+        m_tabOrderStale = true;
+    }
 }
 
 void InspectorForm::showFields(FieldSection section, bool fresh)
@@ -409,9 +434,12 @@ void InspectorForm::orderTabStops()
     if (!std::exchange(m_tabOrderStale, false))
         return;
     QList<QWidget*> stops{ m_banner->agree() };
-    const auto take = [&stops](const FormSection* section) {
-        for (const FieldRow* row : section->rows())
+    const auto take = [&](const FormSection* section) {
+        for (const FieldRow* row : section->rows()) {
             stops.append(row->tabStops());
+            if (m_keywordRows && row == m_pool.value(FieldID::keywords))
+                stops.append(m_keywordStops);
+        }
     };
     for (const FormSection* section : m_sections) {
         take(section);

@@ -25,6 +25,7 @@ class FieldRow;
 class FormLanguages;
 class FormPause;
 class FormSection;
+class KeywordRows;
 class LocationMap;
 class MapRenderer;
 class PhotoHeader;
@@ -88,6 +89,8 @@ private:
     void changeList(const QString& id, const QString& item, bool add);
     void toggle(const FieldSpec& field);
     void orderTabStops();
+    void addKeywordRows();
+    void showKeywordRows();
     bool arePlaceFieldsEmpty() const;
 
     AppModel& m_model;
@@ -107,6 +110,8 @@ private:
     LocationMap* m_map;
     CameraSection* m_camera;
     FormLanguages* m_languages;
+    KeywordRows* m_keywordRows = nullptr;  ///< until several photos were selected
+    QList<QWidget*> m_keywordStops;  ///< of those rows, when Tab was last put in order
     FormPause* m_pause;  ///< on while there is nothing to show of what is selected
     QTimer m_blocksSoon;
     int m_bottomInset = 0;

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
+#include "app/model/words/QuickKeywords.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/ScrollArea.h"
 #include "ui/controls/theme/Metrics.h"
@@ -69,8 +70,10 @@ void InspectorView::connectModel()
         { &AppModel::selectionChanged, &AppModel::primaryChanged, &AppModel::recordsChanged, &AppModel::isSavingChanged,
             &AppModel::leftEditsChanged, &AppModel::unreadSelectedChanged, &AppModel::isWorkingChanged })
         connect(&m_model, changed, this, &InspectorView::refresh);
-    for (const auto changed : { &AppModel::editsChanged, &AppModel::detailsChanged })
+    for (const auto changed :
+        { &AppModel::editsChanged, &AppModel::detailsChanged, &AppModel::selectedKeywordsChanged })
         connect(&m_model, changed, this, &InspectorView::refreshInPlace);
+    connect(&m_model.quickKeywords(), &QuickKeywords::changed, this, &InspectorView::refreshInPlace);
     connect(&m_model.preferences(), &Preferences::changed, this, &InspectorView::refresh);
 }
 

@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/words/FieldPasting.h"
 #include "app/model/templates/Templates.h"
+#include "app/model/words/QuickKeywords.h"
 #include "core/Product.h"
 #include "platform/desktop/SystemScheme.h"
 #include "ui/controls/ResizeHandle.h"
@@ -178,6 +179,9 @@ void ContentView::connectSheets()
     const auto add = [this] { followFlag(m_model.addOpen(), m_addSheet, m_factories.addField); };
     const auto save = [this] { followFlag(m_model.saveOpen(), m_saveSheet, m_factories.save); };
     const auto rename = [this] { followFlag(m_model.renameOpen(), m_renameSheet, m_factories.rename); };
+    QuickKeywords& quick = m_model.quickKeywords();
+    connect(&quick, &QuickKeywords::editedChanged, this,
+        [this, &quick] { followFlag(quick.edited().has_value(), m_quickSetSheet, m_factories.quickSet); });
     connect(&m_model, &AppModel::addOpenChanged, this, add);
     connect(&m_model, &AppModel::saveOpenChanged, this, save);
     connect(&m_model, &AppModel::renameOpenChanged, this, rename);

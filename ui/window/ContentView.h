@@ -30,6 +30,7 @@ struct ContentFactories {
     std::function<SheetBody*()> rename{};
     std::function<SheetBody*()> pasteFields{};
     std::function<SheetBody*()> templates{};
+    std::function<SheetBody*()> quickSet{};
     /// Keeps this many pixels at the inspector's lower end free, so that its last rows scroll clear of the banner.
     std::function<void(QWidget* inspector, int pixels)> setInspectorInset{};
 };
@@ -101,6 +102,7 @@ private:
     SheetBody* m_renameSheet = nullptr;
     SheetBody* m_pasteSheet = nullptr;
     SheetBody* m_templatesSheet = nullptr;
+    SheetBody* m_quickSetSheet = nullptr;
 };
 
 }  // namespace Quorbel

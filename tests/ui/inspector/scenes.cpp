@@ -1,5 +1,7 @@
-// Draws the inspector in many situations into PNG files, for looking at: scenes FOLDER [PIXELS [rows]].
-// QT_SCALE_FACTOR=2 doubles the pixels; PIXELS is the size of the desktop's font; "rows" draws rare rows alone.
+// Draws the inspector in many situations into PNG files, for looking at: scenes FOLDER [PIXELS [rows|keywords]].
+// QT_SCALE_FACTOR=2 doubles the pixels; PIXELS is the size of the desktop's font; "rows" draws rare rows alone,
+// "keywords" several photos and their keywords.
+#include "app/model/words/QuickKeywords.h"
 #include "tests/ui/UiSupport.h"
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/TextFields.h"
@@ -8,6 +10,7 @@
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/FormSection.h"
 #include "ui/sheets/AddFieldSheet.h"
+#include "ui/sheets/QuickSetSheet.h"
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
 
@@ -129,6 +132,49 @@ QList<FieldRow*> rareRows(QWidget* parent)
     return rows;
 }
 
+QStringList withKeywords(const QStringList& words)
+{
+    QStringList assignments;
+    for (const QString& word : words)
+        assignments.append(u"-XMP-dc:Subject="_s + word);
+    return assignments;
+}
+
+// Five photos that hold many keywords, some of them in all; one is added to all, one taken away, and the title is
+// another one for each.
+void grabKeywords(const QString& folder)
+{
+    InspectorFixture f;
+    const QStringList words{ u"sailing"_s, u"lake"_s, u"autumn"_s, u"crew"_s, u"regata"_s, u"evening"_s, u"reed bank"_s,
+        u"jetty"_s, u"boathouse"_s, u"Obersee"_s, u"windsurfing"_s, u"a rather long keyword"_s, u"Rapperswil-Jona"_s,
+        u"committee boat"_s, u"spinnaker"_s, u"tack"_s, u"mark"_s, u"buoy"_s, u"harbour"_s };
+    const QStringList names{ u"1.jpg"_s, u"2.jpg"_s, u"3.jpg"_s, u"4.jpg"_s, u"5.jpg"_s };
+    for (qsizetype i = 0; i < names.size(); ++i)
+        f.add(names.at(i), withKeywords(words.mid(0, words.size() - 3 * i)));
+    if (!f.open({ 520, 900 }))
+        return;
+    f.model().selectAllPhotos();
+    f.model().takeBatchItemAway(u"keywords"_s, u"regata"_s);
+    f.model().addBatchListItem(u"keywords"_s, u"Zürichsee"_s);
+    f.model().addBatchListItem(u"keywords"_s, u"boathouse"_s);
+    Edits own;
+    for (const QString& name : names)
+        own.own[f.photos.url(name)].scalars.insert(u"title"_s, name);
+    f.model().layEdits(own);
+    QuickKeywords& quick = f.model().quickKeywords();
+    quick.beginNew();
+    quick.store({ u"Race day"_s,
+        { u"finish"_s, u"start"_s, u"committee"_s, u"crowd"_s, u"Places|Rapperswil"_s, u"podium"_s } });
+    grab(f, folder, u"keywords"_s);
+    f.window->resize(360, 900);
+    f.settle();
+    QTest::qWait(100);
+    f.window->grab().save(folder + u"/keywords-narrow.png"_s);
+    grabSheet([&f] { return new SaveDialogView(f.model()); }, folder, u"taken-away"_s);
+    quick.beginChange();
+    grabSheet([&f] { return new QuickSetSheet(f.model()); }, folder, u"quick-set"_s);
+}
+
 void grabRows(const QString& folder)
 {
     for (const bool dark : { false, true }) {
@@ -242,6 +288,9 @@ int main(int argc, char** argv)
         font.setPixelSize(pixels);
         QApplication::setFont(font);
     }
+    grabKeywords(folder);
+    if (app.arguments().value(3) == u"keywords"_s)
+        return 0;
     grabRows(folder);
     grabLanguages(folder);
     if (app.arguments().value(3) == u"rows"_s)

@@ -1,6 +1,7 @@
 // What is edited beside the values of the records: languages, keyword paths, and what other homes hold, with details
 // that come late, change after a save, or never come.
 #include "app/model/edits/Editing.h"
+#include "app/model/selection/SelectedKeywords.h"
 
 #include <QTest>
 
@@ -89,6 +90,8 @@ private slots:
     void laidOverABatch();
     void textsOfTheirOwn();
     void fewerPhotosOfTheirOwn();
+    void keywordsOfMany_data();
+    void keywordsOfMany();
 };
 
 void tst_Editing::lateDetails()
@@ -471,6 +474,64 @@ void tst_Editing::fewerPhotosOfTheirOwn()
     f.editing.setBatch(u"title"_s, u"Z"_s);
     f.editing.takeSaved(f.editing.unsaved(), { photo(u"a"_s), photo(u"b"_s), photo(u"c"_s) }, {});
     QCOMPARE(f.editing.unsaved().scalars.value(u"title"_s), u"Z"_s);
+}
+
+void tst_Editing::keywordsOfMany_data()
+{
+    QTest::addColumn<int>("photos");
+    QTest::newRow("few, counted at once") << 12;
+    QTest::newRow("many, counted in the background") << 1200;
+}
+
+void tst_Editing::keywordsOfMany()
+{
+    QFETCH(int, photos);
+    int announced = 0;
+    Announcer announcer([&announced](Change change) { announced += change == Change::selectedKeywords ? 1 : 0; });
+    PhotoList list(announcer, RecordSortOrder::nameAsc);
+    SelectedPhotos selected(announcer, list);
+    SelectedKeywords keywords(announcer, list, selected);
+    QList<ImageRecord> records;
+    QSet<QUrl> urls;
+    for (int i = 0; i < photos; ++i) {
+        const QUrl url = photo(QString::number(i));
+        urls.insert(url);
+        records.append({ .url = url, .fileName = url.fileName() });
+        records.last().isUnread = i % 4 == 0;
+        if (i % 4 != 0)
+            records.last().lists.insert(u"keywords"_s,
+                i % 4 == 1 ? QStringList{ u"b"_s, u"all"_s, u"B"_s } : QStringList{ u"all"_s, u"all"_s, u"a"_s });
+    }
+    list.open(OpenPhotos::of(records, RecordSortOrder::nameAsc, false));
+    selected.set({ urls, records.constFirst().url, records.constFirst().url });
+    keywords.update();
+    const int quarter = photos / 4;
+    const QList<KeywordCount> wanted{ { u"all"_s, 3 * quarter }, { u"a"_s, 2 * quarter }, { u"B"_s, quarter },
+        { u"b"_s, quarter } };
+    QTRY_COMPARE(keywords.list(), wanted);
+    QCOMPARE(keywords.photos(), 3 * quarter);
+    QCOMPARE(announced, 1);
+    // The others are read in slices; nothing is counted twice where nothing changed.
+    keywords.update();
+    QList<ImageRecord> read;
+    for (const ImageRecord& record : std::as_const(records))
+        if (record.isUnread)
+            read.append({ .url = record.url, .fileName = record.fileName, .lists = { { u"keywords"_s, { u"b"_s } } } });
+    list.fill(read.mid(0, quarter / 2));
+    keywords.update();
+    list.fill(read.mid(quarter / 2));
+    keywords.update();
+    QTRY_COMPARE(keywords.list().value(1), (KeywordCount{ u"a"_s, 2 * quarter }));
+    QTRY_COMPARE(keywords.photos(), photos);
+    QCOMPARE(keywords.list().constFirst(), (KeywordCount{ u"all"_s, 3 * quarter }));
+    QVERIFY(keywords.list().contains(KeywordCount{ u"b"_s, 2 * quarter }));
+    // Of another selection nothing old is told, however late it is counted.
+    keywords.update();
+    selected.set(Selection::of(records.constFirst().url));
+    keywords.update();
+    QVERIFY(keywords.list().isEmpty());
+    QTest::qWait(50);
+    QVERIFY(keywords.list().isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_Editing)

@@ -1,0 +1,30 @@
+#include "ui/inspector/keywords/QuickSetMenu.h"
+
+#include "app/model/words/QuickKeywords.h"
+
+#include <QMenu>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+void addQuickSets(QMenu& menu, QuickKeywords& quick)
+{
+    const auto add = [&](const QString& text, const QString& name) {
+        // Menus take "&" for the mark of a mnemonic.
+        QAction* action = menu.addAction(QString(text).replace(u'&', u"&&"_s));
+        action->setCheckable(true);
+        action->setChecked(quick.current() == name);
+        QObject::connect(action, &QAction::triggered, &quick, [&quick, name] { quick.show(name); });
+    };
+    add(u"Last used"_s, {});
+    for (const QuickSet& set : quick.sets())
+        add(set.name, set.name);
+    menu.addSeparator();
+    QObject::connect(menu.addAction(u"New Set…"_s), &QAction::triggered, &quick, &QuickKeywords::beginNew);
+    QAction* change = menu.addAction(u"Edit Set…"_s);
+    change->setEnabled(!quick.current().isEmpty());
+    QObject::connect(change, &QAction::triggered, &quick, &QuickKeywords::beginChange);
+}
+
+}  // namespace Quorbel
