@@ -95,11 +95,15 @@ bool holdsKey(const OwnEdits& one, const QString& key, const std::optional<QStri
 void moveItems(
     QMap<QString, QStringList>& to, QMap<QString, QStringList>& from, const QString& id, const QStringList& items)
 {
-    to.insert(id, withItems(to.value(id), items));
-    if (const auto other = from.find(id); other != from.end())
-        *other = withoutItems(*other, items);
-    to = withoutEmpty(to);
-    from = withoutEmpty(from);
+    if (const QStringList all = withItems(to.value(id), items); !all.isEmpty())
+        to.insert(id, all);
+    if (!from.contains(id))
+        return;
+    const QStringList rest = withoutItems(from.value(id), items);
+    if (rest.isEmpty())
+        from.remove(id);
+    else
+        from.insert(id, rest);
 }
 
 // Whether the photo holds this text already, as far as is known.
@@ -178,7 +182,9 @@ Edits Edits::onlyOf(const QSet<QUrl>& photos) const
 {
     Edits some = *this;
     some.subjects.removeIf([&photos](const QUrl& photo) { return !photos.contains(photo); });
-    some.own.removeIf([&photos](const auto& entry) { return !photos.contains(entry.key()); });
+    // Mostly all of them are: then nothing is copied.
+    if (!std::all_of(own.keyBegin(), own.keyEnd(), [&photos](const QUrl& photo) { return photos.contains(photo); }))
+        some.own.removeIf([&photos](const auto& entry) { return !photos.contains(entry.key()); });
     return some;
 }
 
@@ -320,20 +326,32 @@ void Edits::shareOut(const QHash<QUrl, OwnEdits>& others, const QList<QUrl>& pho
 
 void Edits::mergeOwn(const QHash<QUrl, OwnEdits>& others)
 {
+    QSet<QString> texts;
+    for (const OwnEdits& one : others) {
+        insertKeys(texts, one.scalars);
+        for (const CustomValue& custom : one.customs)
+            texts.insert(CustomFields::key(custom.name));
+    }
+    scalars.removeIf([&texts](const auto& text) { return texts.contains(text.key()); });
+    customs.removeIf([&texts](const CustomValue& common) { return texts.contains(CustomFields::key(common.name)); });
+    if (own.isEmpty()) {
+        own = others;
+        return;
+    }
+    own.reserve(own.size() + others.size());
     for (auto one = others.cbegin(); one != others.cend(); ++one) {
-        OwnEdits& mine = own[one.key()];
-        for (auto text = one->scalars.cbegin(); text != one->scalars.cend(); ++text) {
-            scalars.remove(text.key());
-            mine.scalars.insert(text.key(), *text);
+        const auto known = own.find(one.key());
+        if (known == own.end()) {
+            own.insert(one.key(), *one);
+            continue;
         }
+        known->scalars.insert(one->scalars);
         for (auto items = one->added.cbegin(); items != one->added.cend(); ++items)
-            moveItems(mine.added, mine.removed, items.key(), *items);
+            moveItems(known->added, known->removed, items.key(), *items);
         for (auto items = one->removed.cbegin(); items != one->removed.cend(); ++items)
-            moveItems(mine.removed, mine.added, items.key(), *items);
-        for (const CustomValue& custom : one->customs) {
-            customs.removeIf([&custom](const CustomValue& common) { return common.name == custom.name; });
-            CustomFields::put(mine.customs, custom);
-        }
+            moveItems(known->removed, known->added, items.key(), *items);
+        for (const CustomValue& custom : one->customs)
+            CustomFields::put(known->customs, custom);
     }
 }
 

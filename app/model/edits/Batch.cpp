@@ -67,6 +67,8 @@ void Batch::toggle(const QString& id, const QString& seen)
 // Whether there were texts that differ, which are no edit now.
 bool Batch::putAside(const QString& key)
 {
+    if (!edits.hasOwn(key))
+        return false;
     const QHash<QUrl, QString> texts = ownTexts(edits.own, key);
     if (texts.isEmpty())
         return false;

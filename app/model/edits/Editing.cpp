@@ -92,25 +92,61 @@ QList<LeftEdits> Editing::standing() const
     return standing;
 }
 
-// Tells observers, where there is something to tell.
+// Tells observers, where there is something to tell. What differs between many photos is looked at once, and not at
+// all while the fingers are in other fields.
 void Editing::changed()
 {
     const Announcer::Together together(m_announcer);
-    m_announcer.assign(m_told,
-        Told{ m_draft.shown, m_draft.edits.keys(), m_batch, m_batch.include(), m_batch.values(), ownNow(), m_added,
-            m_languages },
-        Change::edits);
-    m_announcer.assign(m_unsavedCount, isBatch() ? m_batch.edits.count() : m_draft.edits.count(), Change::unsavedCount);
-    const Edits& edits = isBatch() ? m_batch.edits : m_draft.edits;
+    const bool isOwnOther = noteOwn();
+    Told now{ .shown = m_draft.shown,
+        .edited = m_draft.edits.keys(),
+        .batch = m_batch,
+        .ownSerial = m_told.ownSerial + (isOwnOther ? 1 : 0),
+        .batchOwn = summaryOf(m_batch.edits.own),
+        .added = m_added,
+        .languages = m_languages };
+    now.batch.edits.own.clear();
+    now.batchInclude = now.batch.include();
+    for (auto field = now.batchOwn.cbegin(); field != now.batchOwn.cend(); ++field)
+        if (field->texts > 0 && !CustomFields::nameIn(field.key()))
+            now.batchInclude.insert(field.key());
+    now.batchValues = now.batch.values();
+    m_announcer.assign(m_told, now, Change::edits);
+    m_announcer.assign(m_unsavedCount, unsavedNow(), Change::unsavedCount);
+    Edits edits = isBatch() ? m_batch.edits : m_draft.edits;
+    const bool isNone = edits.isEmpty();
+    edits.own.clear();
     const Edits before = std::exchange(m_noted, edits);
-    if (before != edits && !(before.isEmpty() && edits.isEmpty()))
-        m_left.noteStanding(!edits.isEmpty());
+    const bool wasNone = std::exchange(m_isNothingNoted, isNone);
+    if ((isOwnOther || before != edits) && !(wasNone && isNone))
+        m_left.noteStanding(!isNone);
 }
 
-// Made anew only where the photos' own edits are other ones: of many photos it takes its time.
-QMap<QString, OwnSummary> Editing::ownNow() const
+// Whether other edits differ from photo to photo than when it was last told.
+bool Editing::noteOwn()
 {
-    return m_told.batch.edits.own == m_batch.edits.own ? m_told.batchOwn : OwnSummary::of(m_batch.edits.own);
+    if (m_toldOwn.isSharedWith(m_batch.edits.own))
+        return false;
+    const QHash<QUrl, OwnEdits> before = std::exchange(m_toldOwn, m_batch.edits.own);
+    return before != m_toldOwn;
+}
+
+QMap<QString, OwnSummary> Editing::summaryOf(const QHash<QUrl, OwnEdits>& own) const
+{
+    if (!m_summarized.first.isSharedWith(own))
+        m_summarized = { own, OwnSummary::of(own) };
+    return m_summarized.second;
+}
+
+// Fields, each once.
+int Editing::unsavedNow() const
+{
+    if (!isBatch())
+        return m_draft.edits.count();
+    QSet<QString> keys = m_told.batch.edits.keys();
+    for (auto field = m_told.batchOwn.cbegin(); field != m_told.batchOwn.cend(); ++field)
+        keys.insert(field.key());
+    return int(keys.size());
 }
 
 // --- What one types ---
@@ -305,7 +341,7 @@ QList<CustomValue> Editing::visibleCustomFields() const
 // A custom field's text in the batch: what was typed, else what all photos hold.
 QString Editing::shownCustom(const QString& name) const
 {
-    if (m_batch.edits.hasOwn(CustomFields::key(name)))
+    if (m_told.batchOwn.contains(CustomFields::key(name)))
         return {};
     const auto typed = m_batch.customText(name);
     return typed ? *typed : m_selected.sharedCustom(name).value_or(QString());

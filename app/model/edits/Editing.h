@@ -113,7 +113,8 @@ private:
     struct Told {
         ExternalRefresh::Drafts shown{};
         QSet<QString> edited{};
-        Batch batch{};
+        Batch batch{};  ///< without what differs from photo to photo, which is compared once
+        int ownSerial = 0;
         QSet<QString> batchInclude{};
         QMap<QString, QString> batchValues{};
         QMap<QString, OwnSummary> batchOwn{};
@@ -131,7 +132,9 @@ private:
     bool isBatch() const { return m_selected.isBatch(); }
     bool isUnread() const;
     Edits batchOfOne() const;
-    QMap<QString, OwnSummary> ownNow() const;
+    bool noteOwn();
+    QMap<QString, OwnSummary> summaryOf(const QHash<QUrl, OwnEdits>& own) const;
+    int unsavedNow() const;
     Edits withoutUnread(Edits edits) const;
     Edits withoutWholeLists(Edits edits) const;
     Edits withCommonTexts(Edits edits) const;
@@ -169,7 +172,11 @@ private:
     QSet<QString> m_added;
     QSet<QString> m_languages;  ///< keys of languages whose rows were added or typed in since the selection
     Sent m_sent;
-    Edits m_noted;  ///< what stood when it was last told to what keeps it
+    Edits m_noted;  ///< what stood when it was last told to what keeps it, without what differs from photo to photo
+    bool m_isNothingNoted = true;
+    QHash<QUrl, OwnEdits> m_toldOwn;
+    /// What was summarized last, and its summary: of many photos that takes its time.
+    mutable std::pair<QHash<QUrl, OwnEdits>, QMap<QString, OwnSummary>> m_summarized;
     Told m_told;
     int m_unsavedCount = 0;
 };

@@ -58,7 +58,7 @@ Edits Editing::withCommonTexts(Edits edits) const
 {
     if (edits.own.isEmpty())
         return edits;
-    const QMap<QString, OwnSummary> own = OwnSummary::of(edits.own);
+    const QMap<QString, OwnSummary> own = summaryOf(edits.own);
     for (auto field = own.cbegin(); field != own.cend(); ++field) {
         if (field->texts != 1 || field->photos != m_selected.selection().photos.size())
             continue;

@@ -12,23 +12,7 @@ namespace {
 struct Found {
     int photos = 0;
     QSet<QString> texts{};
-    QSet<QString> added{};
-    QSet<QString> removed{};
 };
-
-QStringList sorted(const QSet<QString>& items)
-{
-    QStringList list = items.values();
-    list.sort();
-    return list;
-}
-
-// One by one: a set of their own for each photo's costs more than all else here.
-void insert(QSet<QString>& items, const QStringList& more)
-{
-    for (const QString& item : more)
-        items.insert(item);
-}
 
 void collect(QHash<QString, Found>& found, const OwnEdits& one)
 {
@@ -41,16 +25,11 @@ void collect(QHash<QString, Found>& found, const OwnEdits& one)
         addText(text.key(), *text);
     for (const CustomValue& custom : one.customs)
         addText(CustomFields::key(custom.name), custom.value);
-    for (auto list = one.added.cbegin(); list != one.added.cend(); ++list) {
-        Found& field = found[list.key()];
-        ++field.photos;
-        insert(field.added, *list);
-    }
-    for (auto list = one.removed.cbegin(); list != one.removed.cend(); ++list) {
-        Found& field = found[list.key()];
-        field.photos += one.added.contains(list.key()) ? 0 : 1;
-        insert(field.removed, *list);
-    }
+    for (auto list = one.added.cbegin(); list != one.added.cend(); ++list)
+        ++found[list.key()].photos;
+    for (auto list = one.removed.cbegin(); list != one.removed.cend(); ++list)
+        if (!one.added.contains(list.key()))
+            ++found[list.key()].photos;
 }
 
 }  // namespace
@@ -65,9 +44,7 @@ QMap<QString, OwnSummary> OwnSummary::of(const QHash<QUrl, OwnEdits>& own)
         summaries.insert(field.key(),
             { .photos = field->photos,
                 .texts = int(field->texts.size()),
-                .text = field->texts.size() == 1 ? *field->texts.cbegin() : QString(),
-                .added = sorted(field->added),
-                .removed = sorted(field->removed) });
+                .text = field->texts.size() == 1 ? *field->texts.cbegin() : QString() });
     return summaries;
 }
 

@@ -10,8 +10,6 @@ struct OwnSummary {
     int photos = 0;  ///< that have an edit of their own in this field
     int texts = 0;  ///< different ones among theirs; 0 for a list
     QString text{};  ///< theirs, where all of them have the same
-    QStringList added{};  ///< items that lists of some gain, ascending
-    QStringList removed{};  ///< items that lists of some lose, ascending
 
     /// Of each field that some photo has an edit of its own of, by the keys of Edits.
     static QMap<QString, OwnSummary> of(const QHash<QUrl, OwnEdits>& own);
