@@ -305,16 +305,21 @@ Edits Edits::merged(const Edits& other, const QList<QUrl>& photos) const
 // A common text becomes one of each photo where only some are about to get another.
 void Edits::shareOut(const QHash<QUrl, OwnEdits>& others, const QList<QUrl>& photos)
 {
-    QMap<QString, QString> texts;
-    QList<CustomValue> values;
+    QHash<QString, int> given;
     for (const OwnEdits& one : others) {
         for (auto text = one.scalars.cbegin(); text != one.scalars.cend(); ++text)
-            if (const auto common = scalars.constFind(text.key()); common != scalars.cend())
-                texts.insert(common.key(), *common);
+            ++given[text.key()];
         for (const CustomValue& custom : one.customs)
-            if (const qsizetype i = CustomFields::indexOf(customs, custom.name); i >= 0)
-                CustomFields::put(values, customs.at(i));
+            ++given[CustomFields::key(custom.name)];
     }
+    const auto isOfSome = [&given, &photos](const QString& key) {
+        const int count = given.value(key);
+        return count > 0 && count < photos.size();
+    };
+    QMap<QString, QString> texts = scalars;
+    texts.removeIf([&isOfSome](const auto& text) { return !isOfSome(text.key()); });
+    QList<CustomValue> values = customs;
+    values.removeIf([&isOfSome](const CustomValue& custom) { return !isOfSome(CustomFields::key(custom.name)); });
     if (texts.isEmpty() && values.isEmpty())
         return;
     for (const QUrl& photo : photos) {
@@ -422,14 +427,17 @@ void Edits::forgetOwn(const QString& key)
     if (!hasOwn(key))
         return;
     const auto name = CustomFields::nameIn(key);
+    bool hasNone = false;
     for (OwnEdits& one : own) {
         one.scalars.remove(key);
         one.added.remove(key);
         one.removed.remove(key);
         if (const qsizetype i = name ? CustomFields::indexOf(one.customs, *name) : -1; i >= 0)
             one.customs.removeAt(i);
+        hasNone = hasNone || one.isEmpty();
     }
-    own.removeIf([](const auto& entry) { return entry.value().isEmpty(); });
+    if (hasNone)
+        own.removeIf([](const auto& entry) { return entry.value().isEmpty(); });
 }
 
 void Edits::rename(const QUrl& source, const QUrl& destination)

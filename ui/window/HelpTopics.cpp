@@ -161,7 +161,11 @@ Page batchPage()
             bullets({ u"Choose which fields to apply, set their values, and Quorbel writes them to "
                       "every selected photo in one pass."_s,
                 u"List fields (like keywords) are appended across the selection."_s,
-                u"Quorbel confirms before a mass edit unless you've turned that prompt off."_s }),
+                u"Quorbel confirms before a mass edit unless you've turned that prompt off."_s,
+                u"Below the keywords stand those that the selected photos have, with how many have each. Click one to "
+                "give it to all of them; its cross takes it away from all with the next save."_s,
+                u"Quick keywords are the last ones you used, or a set of your own: click one, or press Alt+1 to "
+                "Alt+9. The name of the set is a menu of all sets."_s }),
         } };
 }
 

@@ -58,16 +58,23 @@ Edits Editing::withCommonTexts(Edits edits) const
 {
     if (edits.own.isEmpty())
         return edits;
-    const QMap<QString, OwnSummary> own = summaryOf(edits.own);
+    QMap<QString, OwnSummary> own = summaryOf(edits.own);
+    QStringList common;
     for (auto field = own.cbegin(); field != own.cend(); ++field) {
         if (field->texts != 1 || field->photos != m_selected.selection().photos.size())
             continue;
-        edits.forgetOwn(field.key());
+        common.append(field.key());
         if (const auto name = CustomFields::nameIn(field.key()))
             CustomFields::put(edits.customs, { *name, field->text });
         else
             edits.scalars.insert(field.key(), field->text);
     }
+    if (common.isEmpty())
+        return edits;
+    for (const QString& key : std::as_const(common))
+        edits.forgetOwn(key);
+    own.removeIf([&common](const auto& field) { return common.contains(field.key()); });
+    m_summarized = { edits.own, own };
     return edits;
 }
 

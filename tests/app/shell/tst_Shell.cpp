@@ -1,6 +1,7 @@
 // What the program puts around the content: menus and keys, closing, settings, help, files from a command line.
 #include "app/model/words/CodeReplacements.h"
 #include "app/model/words/FieldPasting.h"
+#include "app/model/words/QuickKeywords.h"
 #include "app/shell/AppDelegate.h"
 #include "app/shell/MainWindowDelegate.h"
 #include "app/shell/Menus.h"
@@ -82,6 +83,12 @@ void tst_Shell::shortcuts()
     QWidget* window = fixture.window.get();
     QVERIFY(!action(fixture, u"Save"_s)->isEnabled());
     fixture.model->setSingle(u"title"_s, u"New"_s);
+    QuickKeywords& quick = fixture.model->quickKeywords();
+    quick.beginNew();
+    quick.store({ u"Race day"_s, { u"start"_s, u"finish"_s } });
+    QTRY_VERIFY(action(fixture, u"finish"_s));
+    QTest::keyClick(window, Qt::Key_2, Qt::AltModifier);
+    QCOMPARE(fixture.model->draftLists().value(u"keywords"_s), QStringList{ u"finish"_s });
     QTest::keyClick(window, Qt::Key_S, Qt::ControlModifier);
     QVERIFY(fixture.model->saveOpen());
     fixture.model->discardSaveDialog();
