@@ -91,11 +91,20 @@ void AppModel::makeTools()
             m_services.journalPath.isEmpty() ? QString() : m_services.journalPath + u"/renames"_s,
             m_services.endEditing, [this](std::function<void()> action) { holdBack(std::move(action)); },
             [this](const QList<int>& gone) { takeVanished(gone); } });
-    m_timeShifting = std::make_unique<TimeShifting>(*this);
     m_filtering = std::make_unique<Filtering>(*this,
         Filtering::Reach{ m_library.photos(), [this] { return m_editing.unsaved(); },
             [this](const Selection& next) { commitSelection(next); },
             [this](std::function<void()> then) { holdBack(std::move(then)); }, m_services.endEditing });
+    m_timeShifting = std::make_unique<TimeShifting>(*this,
+        TimeShifting::Access{ [this](std::function<void()> action) { holdBack(std::move(action)); },
+            [this](const QList<QUrl>& photos) { m_library.require(photos); },
+            [this](const ShiftJob::Order& order, const ShiftJob::Looked& looked) {
+                const Announcer::Together together(m_announcer);
+                if (onWriteBegins)
+                    onWriteBegins(order.targets);
+                m_saving.shiftTimes(order, looked);
+            },
+            m_services.service, m_tasks, m_announcer });
 }
 
 void AppModel::connectParts()
@@ -250,6 +259,7 @@ void AppModel::cancelRead()
     requireMainThread("cancelRead");
     const Announcer::Together together(m_announcer);
     m_library.cancelReads();
+    m_timeShifting->cancel();
     giveUpAwaited();
     if (m_agreeing && !m_agreeing->isAsking)
         giveUpAgreeing();

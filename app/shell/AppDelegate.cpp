@@ -24,6 +24,7 @@
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
 #include "ui/templates/TemplatesSheet.h"
+#include "ui/sheets/ShiftTimeSheet.h"
 #include "ui/window/ContentView.h"
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
@@ -178,6 +179,7 @@ void AppDelegate::buildWindow()
     factories.templates = [&model] { return new TemplatesSheet(model); };
     model.templates().panels = templatePanels(m_window.get());
     factories.quickSet = [&model] { return new QuickSetSheet(model); };
+    factories.shiftTime = [this] { return new ShiftTimeSheet(m_app->model(), &m_app->thumbnails()); };
     factories.setInspectorInset = [](QWidget* inspector, int pixels) {
         static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
     };

@@ -6,6 +6,7 @@
 #include "app/model/words/FieldPasting.h"
 #include "app/model/words/QuickKeywords.h"
 #include "core/schema/KeywordPath.h"
+#include "app/model/timeshift/TimeShifting.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/inspector/keywords/QuickSetMenu.h"
@@ -198,6 +199,7 @@ void Menus::addEditMenu()
         add(menu, u"&Search"_s, keysFor(QKeySequence::Find, Qt::CTRL | Qt::Key_F), [this] { m_content.focusSearch(); });
     menu->addSeparator();
     addQuickKeywords(menu);
+    m_shiftTime = add(menu, u"S&hift Time…"_s, {}, [this] { m_model.timeShifting().request(); });
     m_agree = add(menu, u"Make Them A&gree"_s, {}, [this] { m_model.requestMakeAgree(); });
 }
 
@@ -352,6 +354,7 @@ void Menus::followState()
     m_close->setEnabled(any);
     m_find->setEnabled(any);
     m_readAgain->setEnabled(any);
+    m_shiftTime->setEnabled(m_model.timeShifting().isPossible());
     m_agree->setEnabled(m_model.canMakeAgree());
     followTemplates();
     m_copyFields->setEnabled(m_model.pasting().canCopy());

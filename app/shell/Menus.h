@@ -65,6 +65,7 @@ private:
     QAction* m_refresh = nullptr;
     QAction* m_close = nullptr;
     QAction* m_readAgain = nullptr;
+    QAction* m_shiftTime = nullptr;
     QAction* m_agree = nullptr;
     QAction* m_disagreements = nullptr;
     QAction* m_preview = nullptr;

@@ -1,6 +1,7 @@
 #include "app/shell/QuorbelApp.h"
 
 #include "app/model/thumbnails/FollowModel.h"
+#include "app/model/timeshift/TimeShifting.h"
 #include "core/Product.h"
 #include "core/tool/TemporaryFiles.h"
 
@@ -80,6 +81,7 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     m_model = std::make_unique<AppModel>(services);
     m_placeProvider = makePlaceProvider({ .dataFolder = placesFolder(),
         .endpoint = placeEndpoint(m_model->preferences().placeService()).value_or(QUrl()) });
+    m_model->timeShifting().setPlaceData(placesFolder());
     followModel(*m_thumbnails, *m_model);
 
     m_updatePresenter =

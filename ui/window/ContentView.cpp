@@ -4,6 +4,7 @@
 #include "app/model/words/FieldPasting.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/words/QuickKeywords.h"
+#include "app/model/timeshift/TimeShifting.h"
 #include "core/Product.h"
 #include "platform/desktop/SystemScheme.h"
 #include "ui/controls/ResizeHandle.h"
@@ -182,6 +183,9 @@ void ContentView::connectSheets()
     QuickKeywords& quick = m_model.quickKeywords();
     connect(&quick, &QuickKeywords::editedChanged, this,
         [this, &quick] { followFlag(quick.edited().has_value(), m_quickSetSheet, m_factories.quickSet); });
+    TimeShifting* shifting = &m_model.timeShifting();
+    connect(shifting, &TimeShifting::openChanged, this,
+        [this, shifting] { followFlag(shifting->isOpen(), m_shiftSheet, m_factories.shiftTime); });
     connect(&m_model, &AppModel::addOpenChanged, this, add);
     connect(&m_model, &AppModel::saveOpenChanged, this, save);
     connect(&m_model, &AppModel::renameOpenChanged, this, rename);

@@ -31,6 +31,7 @@ struct ContentFactories {
     std::function<SheetBody*()> pasteFields{};
     std::function<SheetBody*()> templates{};
     std::function<SheetBody*()> quickSet{};
+    std::function<SheetBody*()> shiftTime{};
     /// Keeps this many pixels at the inspector's lower end free, so that its last rows scroll clear of the banner.
     std::function<void(QWidget* inspector, int pixels)> setInspectorInset{};
 };
@@ -103,6 +104,7 @@ private:
     SheetBody* m_pasteSheet = nullptr;
     SheetBody* m_templatesSheet = nullptr;
     SheetBody* m_quickSetSheet = nullptr;
+    SheetBody* m_shiftSheet = nullptr;
 };
 
 }  // namespace Quorbel

@@ -14,6 +14,7 @@ const QList<std::pair<HelpTopic, QString>>& RawValues<HelpTopic>::table()
         { HelpTopic::keywordPaths, u"keywordPaths"_s },
         { HelpTopic::disagreements, u"disagreements"_s },
         { HelpTopic::gaps, u"gaps"_s },
+        { HelpTopic::times, u"times"_s },
         { HelpTopic::batch, u"batch"_s },
         { HelpTopic::copying, u"copying"_s },
         { HelpTopic::templates, u"templates"_s },
@@ -152,6 +153,23 @@ Page gapsPage()
         } };
 }
 
+Page timesPage()
+{
+    return { u"Shifting Times"_s, u"clock"_s,
+        {
+            paragraph(
+                u"A camera whose clock was wrong leaves wrong times in all of its photos. Select them, and choose "
+                "Edit ▸ Shift Time."_s),
+            bullets({ u"By an amount: so many days, hours, minutes and seconds later or earlier."_s,
+                u"By a known photo: type when one of the photos was really taken, and all others go by the same "
+                "amount."_s,
+                u"Time zone: sets the zone that the times are in. Keep the clock time, or let it move with the zone. "
+                "Photos with a position can each get the zone that they were taken in."_s,
+                u"The table shows the first photo, the last one, and what becomes another day. Photos without a date "
+                "are named and left alone. Undo Save takes a shift back."_s }),
+        } };
+}
+
 Page batchPage()
 {
     return { u"Batch Editing"_s, u"square.stack.3d.up"_s,
@@ -255,6 +273,8 @@ Page page(HelpTopic topic)
         return disagreementsPage();
     case HelpTopic::gaps:
         return gapsPage();
+    case HelpTopic::times:
+        return timesPage();
     case HelpTopic::batch:
         return batchPage();
     case HelpTopic::copying:

@@ -18,6 +18,7 @@ enum class HelpTopic {
     keywordPaths,
     disagreements,
     gaps,
+    times,
     batch,
     copying,
     templates,

@@ -14,6 +14,12 @@
 
 namespace Quorbel {
 
+namespace ShiftJob {
+struct Looked;
+struct Order;
+struct Written;
+}
+
 /// What a save, or taking one back, came to.
 struct SaveOutcome {
     QList<ImageRecord> records{};  ///< photos as they are now
@@ -59,6 +65,9 @@ public:
     /// Writes to each of these photos what makes its homes agree (Agreement::plan()). Nothing of it is an edit: what
     /// could not be saved is only told.
     void makeAgree(const QHash<QUrl, EditPlan>& plans, const WriteOptions& options);
+    /// Moves the times of these photos, or sets their zones (ShiftJob), proves it and keeps it for undoing. Needs some,
+    /// and that nothing is being saved. What was not done is only told.
+    void shiftTimes(const ShiftJob::Order& order, const ShiftJob::Looked& looked);
     /// Puts back what the last save replaced. Asks which photos of that save are open, once it knows what they are:
     /// these are read again.
     void undo(const std::function<QList<QUrl>(const QList<QUrl>& saved)>& open);
@@ -82,6 +91,7 @@ private:
     void end(bool isGood);
     void check(const Edits& edits, const SaveJob::Order& order, const SaveJob::Written& written,
         const QSet<QUrl>& tooSlow = {});
+    void checkShift(const ShiftJob::Order& order, const ShiftJob::Written& written, const QSet<QUrl>& tooSlow = {});
     void finish(const SaveOutcome& outcome);
     void openHistory(const QString& journalPath);
     void putBack(qint64 save, const QList<QUrl>& open);

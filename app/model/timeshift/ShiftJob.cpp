@@ -79,7 +79,7 @@ void write(const MetadataService& service, const Portion& portion, const WriteOp
 }
 
 // By target.
-void look(const Order& order, const OldValues& values, Written& written)
+void decide(const Order& order, const OldValues& values, Written& written)
 {
     const QList<QUrl> files = SaveGuard::filesBehindLinks(order.targets);
     for (qsizetype i = 0; i < files.size(); ++i) {
@@ -105,17 +105,34 @@ QList<QUrl> changed(const Order& order, const Written& written)
     return targets;
 }
 
-void runAll(const MetadataService& service, const Order& order, const std::shared_ptr<SaveHistory>& history,
-    TaskProgress& progress, const std::stop_token& stop, Written& written)
+void readSlice(const MetadataService& service, const QList<QUrl>& targets, const std::stop_token& stop,
+    TaskProgress& progress, Looked& looked)
 {
-    const OldValues values =
-        service.oldValues(PhotoShift::tags(), order.targets, { .progress = {}, .stop = stop, .started = {} });
-    look(order, values, written);
+    for (const QUrl& target : targets)
+        if (const auto stamp = FileStamp::of(target.toLocalFile()))
+            looked.stamps.insert(target, *stamp);
+    looked.values.insert(service.oldValues(PhotoShift::tags(), targets,
+        { .progress = {}, .stop = stop, .started = [&progress](qint64 id) { progress.processID = id; } }));
+    progress.processID = 0;
+}
+
+void runAll(const MetadataService& service, const Order& order, Looked looked,
+    const std::shared_ptr<SaveHistory>& history, TaskProgress& progress, Written& written)
+{
+    QList<QUrl> stale = order.targets;
+    stale.removeIf([&looked](const QUrl& target) {
+        const auto stamp = looked.stamps.constFind(target);
+        return stamp != looked.stamps.cend() && FileStamp::of(target.toLocalFile()) == *stamp;
+    });
+    if (!stale.isEmpty())
+        readSlice(service, stale, {}, progress, looked);
+    decide(order, looked.values, written);
     const QList<QUrl> targets = changed(order, written);
     // All or none: a read-only photo is found before any other is written.
     SaveGuard::requireWritable(SaveGuard::filesBehindLinks(targets));
     const auto plan = [&written](const QUrl& target) { return planOf(written.photos.value(target)); };
-    const JournalEntry entry = history ? SaveUndo::journalEntry(values, plan, targets, order.options) : JournalEntry();
+    const JournalEntry entry =
+        history ? SaveUndo::journalEntry(looked.values, plan, targets, order.options) : JournalEntry();
     {
         const ReplacedFilesPoll poll(targets, progress.done);
         for (const Portion& portion : portions(targets, written.photos))
@@ -148,12 +165,31 @@ QString namedTags(const QMap<QString, QStringList>& tagsByName)
 
 }  // namespace
 
-Written run(const MetadataService& service, const Order& order, const std::shared_ptr<SaveHistory>& history,
-    TaskProgress& progress, const std::stop_token& stop)
+Looked look(const MetadataService& service, const Order& order, TaskProgress& progress, const std::stop_token& stop)
+{
+    constexpr qsizetype slice = 250;  // a few seconds of camera files
+    Looked looked;
+    try {
+        for (qsizetype at = 0; at < order.targets.size(); at += slice) {
+            readSlice(service, order.targets.mid(at, slice), stop, progress, looked);
+            progress.done = std::min(at + slice, order.targets.size());
+        }
+    } catch (const CancelledError&) {
+        looked.isCancelled = true;
+    } catch (const ToolError& error) {
+        looked.error = toolReason(error);
+    } catch (const std::exception& error) {
+        looked.error = QString::fromUtf8(error.what());
+    }
+    return looked;
+}
+
+Written run(const MetadataService& service, const Order& order, const Looked& looked,
+    const std::shared_ptr<SaveHistory>& history, TaskProgress& progress)
 {
     Written written;
     try {
-        runAll(service, order, history, progress, stop, written);
+        runAll(service, order, looked, history, progress, written);
     } catch (const ToolError& error) {
         written.error = toolReason(error);
     } catch (const Error& error) {

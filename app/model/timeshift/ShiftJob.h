@@ -18,6 +18,17 @@ struct Order {
     bool setsZone() const { return !shifts.isEmpty() && shifts.cbegin()->zone.has_value(); }
 };
 
+/// What the files hold, read ahead of the write.
+struct Looked {
+    OldValues values{};
+    QHash<QUrl, FileStamp> stamps{};  ///< of the targets, when they were read
+    std::optional<QString> error{};  ///< they could not be read: why
+    bool isCancelled = false;
+};
+
+/// Reads the targets in slices, and counts them. Never throws.
+Looked look(const MetadataService& service, const Order& order, TaskProgress& progress, const std::stop_token& stop);
+
 /// What the write came to.
 struct Written {
     std::optional<QString> error{};  ///< nothing was changed: why
@@ -28,10 +39,10 @@ struct Written {
     std::optional<SaveHistory::Undoable> undoable{};  ///< what can be taken back now; nothing without a history
 };
 
-/// Reads, writes, and counts meanwhile the files that are done. Photos that are asked the same share a run. Never
-/// throws. A read that was stopped is an error.
-Written run(const MetadataService& service, const Order& order, const std::shared_ptr<SaveHistory>& history,
-    TaskProgress& progress, const std::stop_token& stop);
+/// Writes, and counts meanwhile the files that are done. Photos that changed since the look are looked at again. Those
+/// that are asked the same share a run. Never throws.
+Written run(const MetadataService& service, const Order& order, const Looked& looked,
+    const std::shared_ptr<SaveHistory>& history, TaskProgress& progress);
 
 /// What the files hold afterwards.
 struct Checked {

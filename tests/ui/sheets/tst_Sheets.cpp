@@ -1,4 +1,4 @@
-// The add-field sheet, the save dialog, the rename sheet and the templates, presented over a window and used.
+// The add-field sheet, the save dialog, the rename sheet, templates and shifts, presented over a window and used.
 #include "app/model/AppModel.h"
 #include "app/model/words/FieldPasting.h"
 #include "app/model/templates/Templates.h"
@@ -6,6 +6,8 @@
 #include "tests/ui/UiSupport.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/ChoicePicker.h"
+#include "app/model/timeshift/TimeShifting.h"
+#include "ui/controls/PickerButton.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/Toggles.h"
 #include "ui/controls/attached/SearchMenu.h"
@@ -20,6 +22,7 @@
 #include "ui/templates/TemplateList.h"
 #include "ui/templates/TemplatesSheet.h"
 #include "ui/templates/TokenPopover.h"
+#include "ui/sheets/ShiftTimeSheet.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -158,6 +161,7 @@ private slots:
     void tokensAreSpokenByName();
     void aTemplateIsMadeAndFilled();
     void templatesAsFiles();
+    void shiftTimeInThreeWays();
 };
 
 void tst_Sheets::init()
@@ -768,6 +772,60 @@ void tst_Sheets::templatesAsFiles()
     list->setFocus();
     press(Qt::Key_Up);
     QCOMPARE(desk.value().name, u"One"_s);
+}
+
+// As a person uses it: every way to shift is typed or picked, and the button says what it will do.
+void tst_Sheets::shiftTimeInThreeWays()
+{
+    SheetFixture desk({ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s });
+    exiftool({ u"-q"_s, u"-overwrite_original"_s, u"-EXIF:DateTimeOriginal=2024:10:12 23:10:30"_s,
+        desk.photos.url(u"a.jpg"_s).toLocalFile(), desk.photos.url(u"b.jpg"_s).toLocalFile() });
+    QVERIFY(desk.open());
+    desk.photos.select(u"abc"_s);
+    TimeShifting& shifting = desk.model().timeShifting();
+    shifting.setPlaceData(qEnvironmentVariable("QUORBEL_TEST_SHARE") + u"/places"_s);
+    shifting.request();
+    auto* sheet = new ShiftTimeSheet(desk.model(), nullptr);
+    desk.host->present(sheet);
+    connect(&shifting, &TimeShifting::openChanged, desk.host, [&] { desk.host->dismiss(sheet); });
+    QCOMPARE(sheet->title(), u"Shift Time of 3 Photos"_s);
+    auto* way = sheet->findChild<SegmentedPicker*>();
+    const auto main = [sheet] { return sheet->findChildren<QBButton*>().last(); };
+
+    QCOMPARE(QApplication::focusWidget(), field(sheet, u"Days"_s));
+    QTRY_COMPARE(main()->text(), u"Shift 2 Photos"_s);
+    QVERIFY(!main()->isEnabled());
+    press(Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), u"1"_s);
+    QTRY_VERIFY(main()->isEnabled());
+    QTRY_VERIFY(labels(sheet).contains(u"2 on a new day"_s));
+    QVERIFY(labels(sheet).contains(u"2024-10-13 00:10"_s));
+    QVERIFY(labels(sheet).contains(u"1 photo has no date and is left alone: c.jpg"_s));
+    QTest::keyClicks(field(sheet, u"Seconds"_s), u"x"_s);
+    QVERIFY(labels(sheet).contains(u"Whole numbers, of a hundred years at most."_s));
+    QVERIFY(!main()->isEnabled());
+
+    QTest::keyClick(way, Qt::Key_Right);
+    QTRY_VERIFY(labels(sheet).contains(u"2024-10-12 23:10:30"_s));
+    QTest::keyClicks(field(sheet, u"Was taken at"_s), u"2024-10-12 22:08:00"_s);
+    QTRY_VERIFY(labels(sheet).contains(u"All others by the same amount: 1 h 02 min 30 s earlier."_s));
+    QTRY_VERIFY(main()->isEnabled());
+
+    QTest::keyClick(way, Qt::Key_Right);
+    shifting.setZone({ .minutes = 120 });
+    QTRY_COMPARE(main()->text(), u"Set Zone of 2"_s);
+    QCOMPARE(sheet->findChild<PickerButton*>()->text(), u"+02:00"_s);
+    QTRY_VERIFY(labels(sheet).contains(u"2024-10-12 23:10+02:00"_s));
+    QTest::mouseClick(sheet->findChild<QBCheckbox*>(), Qt::LeftButton);
+    QTRY_VERIFY(labels(sheet).contains(u"1 photo has no date and is left alone: c.jpg. "
+                                       "2 photos have no time zone to come from and are left alone: a.jpg, b.jpg"_s));
+    QVERIFY(!main()->isEnabled());
+    QTest::mouseClick(sheet->findChild<QBCheckbox*>(), Qt::LeftButton);
+    QTRY_VERIFY(main()->isEnabled());
+    QTest::mouseClick(main(), Qt::LeftButton);
+    QVERIFY(!shifting.isOpen() && desk.model().isWorking());
+    QVERIFY(desk.photos.waitUntilIdle());
+    QCOMPARE(desk.photos.onDisk(u"a.jpg"_s, u"EXIF:OffsetTimeOriginal"_s).toString(), u"+02:00"_s);
 }
 
 QTEST_MAIN(tst_Sheets)

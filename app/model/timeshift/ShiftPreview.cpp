@@ -1,0 +1,238 @@
+#include "app/model/timeshift/ShiftPreview.h"
+
+#include "core/text/Coordinates.h"
+#include "core/text/StoredTime.h"
+#include "core/text/Text.h"
+#include "core/text/WallClock.h"
+#include "core/text/ZoneOffset.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <vector>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A photo that has a time.
+struct Dated {
+    const ShiftPhoto* photo = nullptr;
+    QDateTime before{};
+    QDateTime after{};
+    std::optional<int> zone{};  // that its clock is in
+    TimeShift shift{};
+};
+
+// As records show it, and of XMP with a zone as it is stored.
+std::optional<StoredTime> timeIn(const QString& text)
+{
+    if (const auto typed = WallClock::fromTyped(text))
+        return StoredTime{ .clock = *typed };
+    return StoredTime::from(text);
+}
+
+std::optional<int> zoneOf(const QMap<QString, QString>& values)
+{
+    for (const QString& id : { u"offsetOriginal"_s, u"offsetDigitized"_s })
+        if (const auto minutes = ZoneOffset::minutes(values.value(id)))
+            return minutes;
+    const auto time = timeIn(values.value(u"date"_s));
+    return time ? ZoneOffset::minutes(time->zone) : std::nullopt;
+}
+
+QString shown(const QDateTime& clock, std::optional<int> zone)
+{
+    return WallClock::shown(clock) + (zone ? ZoneOffset::text(*zone) : QString());
+}
+
+QString leftAlone(const QStringList& names, const QString& one, const QString& several)
+{
+    if (names.isEmpty())
+        return {};
+    const QString who = names.size() == 1
+        ? u"1 photo %1 and is left alone: "_s.arg(one)
+        : u"%1 photos %2 and are left alone: "_s.arg(QString::number(names.size()), several);
+    return who + Text::listed(names);
+}
+
+// Goes through the photos, then tells of those that have a time.
+class Survey {
+public:
+    explicit Survey(const ShiftQuestion& question)
+        : m_question(question)
+    {
+    }
+
+    void take(const ShiftPhoto& photo)
+    {
+        const QString date = photo.values.value(u"date"_s);
+        const auto clock = ShiftPreview::clockOf(photo.values);
+        if (!clock) {
+            if (date.isEmpty())
+                m_result.undated.append(photo.url.fileName());
+            else
+                m_result.odd.append(u"%1 (%2)"_s.arg(photo.url.fileName(), date));
+            return;
+        }
+        Dated dated{ &photo, m_question.exact.value(photo.url, *clock), {}, zoneOf(photo.values), {} };
+        if (m_question.zone ? setZone(dated) : move(dated))
+            m_dated.push_back(dated);
+    }
+
+    ShiftPreview result()
+    {
+        m_result.mostZone = mostZone();
+        for (const Dated& dated : m_dated) {
+            m_result.targets.append(dated.photo->url);
+            m_result.shifts.insert(dated.photo->url, dated.shift);
+        }
+        if (!m_dated.empty())
+            addRows();
+        return m_result;
+    }
+
+private:
+    bool move(Dated& dated)
+    {
+        dated.shift.seconds = m_question.seconds;
+        dated.after = dated.before.addSecs(m_question.seconds);
+        const int year = dated.after.date().year();
+        const bool isPossible = dated.after.isValid() && year >= 1 && year <= 9999;
+        if (!isPossible)
+            m_result.odd.append(u"%1 (%2)"_s.arg(dated.photo->url.fileName(), WallClock::shown(dated.before)));
+        return isPossible;
+    }
+
+    const TimeZone* zoneAt(const ShiftPhoto& photo) const
+    {
+        const auto point = Coordinates::parse(photo.values.value(u"coords"_s));
+        return point && m_question.zones ? m_question.zones->at(point->latitude, point->longitude) : nullptr;
+    }
+
+    bool setZone(Dated& dated)
+    {
+        const ShiftZone& wanted = *m_question.zone;
+        const TimeZone* own = zoneAt(*dated.photo);
+        if (own) {
+            ++m_result.positions;
+            ++m_here[own->id];
+            m_result.inZone += own->id == wanted.id ? 1 : 0;
+        }
+        const QByteArray id = wanted.isOwn ? (own ? own->id : QByteArray()) : wanted.id;
+        dated.shift.zone = id.isEmpty() ? wanted.minutes : TimeZones::offset(id, dated.before);
+        dated.shift.keepsClock = m_question.keepsClock;
+        if (!dated.shift.zone) {
+            m_result.placeless.append(dated.photo->url.fileName());
+            return false;
+        }
+        if (!m_question.keepsClock && !dated.zone) {
+            m_result.zoneless.append(dated.photo->url.fileName());
+            return false;
+        }
+        dated.after =
+            m_question.keepsClock ? dated.before : dated.before.addSecs((*dated.shift.zone - *dated.zone) * 60LL);
+        return true;
+    }
+
+    QByteArray mostZone() const
+    {
+        const auto most = std::max_element(m_here.cbegin(), m_here.cend());
+        return most == m_here.cend() ? QByteArray() : most.key();
+    }
+
+    ShiftPreview::Row row(const QString& title, const Dated& dated) const
+    {
+        const bool hasZones = m_question.zone.has_value();
+        return { title, shown(dated.before, hasZones ? dated.zone : std::nullopt),
+            shown(dated.after, hasZones ? dated.shift.zone : std::nullopt), dated.photo->url };
+    }
+
+    // The earliest of those that are such.
+    template <typename Such>
+    void addFirst(const QString& one, const QString& several, Such such)
+    {
+        const auto count = std::count_if(m_dated.cbegin(), m_dated.cend(), such);
+        const auto first = std::find_if(m_dated.cbegin(), m_dated.cend(), such);
+        if (first != m_dated.cend())
+            m_result.rows.append(row(count == 1 ? one : several.arg(count), *first));
+    }
+
+    void addRows()
+    {
+        std::stable_sort(
+            m_dated.begin(), m_dated.end(), [](const Dated& a, const Dated& b) { return a.before < b.before; });
+        m_result.first = m_dated.front().before;
+        m_result.rows.append(row(m_dated.size() == 1 ? u"Taken"_s : u"First"_s, m_dated.front()));
+        if (m_dated.size() > 1)
+            m_result.rows.append(row(u"Last"_s, m_dated.back()));
+        if (m_question.zone && m_question.keepsClock)
+            addFirst(u"1 had no zone"_s, u"%1 had no zone"_s, [](const Dated& dated) { return !dated.zone; });
+        else
+            addFirst(u"1 on a new day"_s, u"%1 on a new day"_s,
+                [](const Dated& dated) { return dated.before.date() != dated.after.date(); });
+    }
+
+    const ShiftQuestion& m_question;
+    ShiftPreview m_result;
+    std::vector<Dated> m_dated;
+    QMap<QByteArray, int> m_here;  // photos by zone
+};
+
+}  // namespace
+
+ShiftPreview ShiftPreview::of(const QList<ShiftPhoto>& photos, const ShiftQuestion& question)
+{
+    Survey survey(question);
+    for (const ShiftPhoto& photo : photos)
+        survey.take(photo);
+    return survey.result();
+}
+
+std::optional<QDateTime> ShiftPreview::clockOf(const QMap<QString, QString>& values)
+{
+    for (const QString& id : { u"date"_s, u"dateDigitized"_s })
+        if (const auto time = timeIn(values.value(id)))
+            return time->clock;
+    return std::nullopt;
+}
+
+QString ShiftPreview::warning() const
+{
+    QStringList texts{ leftAlone(undated, u"has no date"_s, u"have no date"_s),
+        leftAlone(odd, u"has an odd date"_s, u"have odd dates"_s),
+        leftAlone(zoneless, u"has no time zone to come from"_s, u"have no time zone to come from"_s),
+        leftAlone(placeless, u"has no position in a time zone"_s, u"have no position in a time zone"_s) };
+    texts.removeAll(QString());
+    return texts.join(u". "_s);
+}
+
+QString ShiftPreview::positionsText() const
+{
+    if (positions == 0)
+        return {};
+    if (positions == 1)
+        return inZone == 1 ? u"The one position lies in this zone."_s : u"The one position lies in another zone."_s;
+    return u"%1 of %2 positions lie in this zone."_s.arg(inZone).arg(positions);
+}
+
+QString ShiftPreview::amountText(qint64 seconds)
+{
+    const qint64 size = std::abs(seconds);
+    const auto padded = [](qint64 number, bool isInner) {
+        return u"%1"_s.arg(number, isInner ? 2 : 1, 10, QChar(u'0'));
+    };
+    QStringList parts;
+    if (const qint64 days = size / 86400; days > 0)
+        parts.append(u"%1 d"_s.arg(days));
+    if (const qint64 hours = size / 3600 % 24; hours > 0)
+        parts.append(u"%1 h"_s.arg(hours));
+    if (const qint64 minutes = size / 60 % 60; minutes > 0)
+        parts.append(padded(minutes, !parts.isEmpty()) + u" min"_s);
+    if (const qint64 rest = size % 60; rest > 0 || parts.isEmpty())
+        parts.append(padded(rest, !parts.isEmpty()) + u" s"_s);
+    return parts.join(u' ') + (seconds < 0 ? u" earlier"_s : u" later"_s);
+}
+
+}  // namespace Quorbel

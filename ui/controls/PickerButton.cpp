@@ -1,0 +1,77 @@
+#include "ui/controls/PickerButton.h"
+
+#include "ui/controls/HoverFade.h"
+#include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/Icon.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Painting.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+PickerButton::PickerButton(const QString& name, QWidget* parent)
+    : ThemedButton({}, parent)
+    , m_name(name)
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setAccessibleName(name);
+    onRestyle(this, [this] {
+        setFont(sansFont(13));
+        updateGeometry();
+    });
+    installFocusRing(this, { RingShape::field, 7, {}, {} });
+}
+
+void PickerButton::setChoice(const QString& text)
+{
+    setText(text);
+    setAccessibleName(m_name + u": "_s + text);
+    update();
+}
+
+QSize PickerButton::sizeHint() const
+{
+    return { px(200), px(30) };
+}
+
+QSize PickerButton::minimumSizeHint() const
+{
+    return { px(90), px(30) };
+}
+
+void PickerButton::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Down:
+    case Qt::Key_Up:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        click();
+        break;
+    default:
+        ThemedButton::keyPressEvent(event);
+    }
+}
+
+void PickerButton::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.setOpacity(opacity());
+    paintFieldFrame(painter, rect(), { true, hasFocus(), false, fade()->hover() }, theme);
+    painter.setPen(theme.text);
+    const QRectF inner = QRectF(rect()).adjusted(pxF(10), 0, -pxF(8), 0);
+    const qreal icon = pxF(14);
+    const int room = int(inner.width() - icon - pxF(6));
+    painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+        fontMetrics().elidedText(text(), Qt::ElideRight, room));
+    Icon::paint(
+        painter, QRectF(inner.right() - icon, 0, icon, height()), u"chevron.up.chevron.down"_s, icon, theme.muted);
+}
+
+}  // namespace Quorbel
