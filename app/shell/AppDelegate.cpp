@@ -25,6 +25,7 @@
 #include "ui/sheets/SaveDialogView.h"
 #include "ui/templates/TemplatesSheet.h"
 #include "ui/sheets/ShiftTimeSheet.h"
+#include "ui/sheets/renaming/RenamePhotosSheet.h"
 #include "ui/window/ContentView.h"
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
@@ -180,6 +181,7 @@ void AppDelegate::buildWindow()
     model.templates().panels = templatePanels(m_window.get());
     factories.quickSet = [&model] { return new QuickSetSheet(model); };
     factories.shiftTime = [this] { return new ShiftTimeSheet(m_app->model(), &m_app->thumbnails()); };
+    factories.renamePhotos = [&model] { return new RenamePhotosSheet(model); };
     factories.setInspectorInset = [](QWidget* inspector, int pixels) {
         static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
     };

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
+#include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/words/FieldPasting.h"
 #include "app/model/words/QuickKeywords.h"
@@ -114,6 +115,8 @@ Menus::Menus(AppModel& model, ContentView& content, const MenuCommands& commands
              &AppModel::folderChanged, &AppModel::isSavingChanged, &AppModel::editsChanged,
              &AppModel::canUndoSaveChanged, &AppModel::detailsChanged, &AppModel::disagreementsChanged })
         connect(&model, change, this, &Menus::followState);
+    for (const auto change : { &PhotosRenaming::undoChanged, &PhotosRenaming::progressChanged })
+        connect(&model.renaming(), change, this, &Menus::followState);
     connect(&model.preferences(), &Preferences::changed, this, &Menus::followState);
     connect(&model.filtering(), &Filtering::changed, this, &Menus::followState);
     connect(&content, &ContentView::previewShownChanged, this, &Menus::followState);
@@ -149,6 +152,7 @@ void Menus::addFileMenu(const MenuCommands& commands)
     m_save =
         add(menu, u"&Save"_s, keysFor(QKeySequence::Save, Qt::CTRL | Qt::Key_S), [this] { m_model.requestSave(); });
     m_rename = add(menu, u"Re&name…"_s, { Qt::Key_F2 }, [this] { m_model.setRenameOpen(true); });
+    m_renamePhotos = add(menu, u"Rename P&hotos…"_s, { Qt::SHIFT | Qt::Key_F2 }, [this] { m_model.renaming().open(); });
     menu->addSeparator();
     m_refresh =
         add(menu, u"Re&fresh"_s, keysFor(QKeySequence::Refresh, Qt::CTRL | Qt::Key_R), [this] { m_model.refresh(); });
@@ -177,6 +181,7 @@ void Menus::addEditMenu()
     addEditing(menu, u"&Undo"_s, QKeySequence::Undo, "undo", canUndo);
     addEditing(menu, u"&Redo"_s, QKeySequence::Redo, "redo", canRedo);
     m_undoSave = add(menu, u"Undo Sa&ve"_s, {}, [this] { m_model.undoSave(); });
+    m_undoRename = add(menu, u"Undo Re&name"_s, {}, [this] { m_model.renaming().undo(); });
     m_bringBack = menu->addThemedMenu(u"&Bring Back Edits"_s);
     connect(&m_model, &AppModel::leftEditsChanged, this, &Menus::fillBringBack);
     fillBringBack();
@@ -350,6 +355,9 @@ void Menus::followState()
     m_undoSave->setEnabled(m_model.canUndoSave());
     m_undoSave->setText(literal(m_model.undoSaveText()).replace(u"Undo Save"_s, u"Undo Sa&ve"_s));
     m_rename->setEnabled(m_model.canRename());
+    m_renamePhotos->setEnabled(m_model.renaming().canOpen());
+    m_undoRename->setEnabled(m_model.renaming().canUndo());
+    m_undoRename->setText(literal(m_model.renaming().undoText()).replace(u"Undo Rename"_s, u"Undo Re&name"_s));
     m_refresh->setEnabled(m_model.canRefresh());
     m_close->setEnabled(any);
     m_find->setEnabled(any);

@@ -62,6 +62,8 @@ private:
     QAction* m_save = nullptr;
     QAction* m_undoSave = nullptr;
     QAction* m_rename = nullptr;
+    QAction* m_renamePhotos = nullptr;
+    QAction* m_undoRename = nullptr;
     QAction* m_refresh = nullptr;
     QAction* m_close = nullptr;
     QAction* m_readAgain = nullptr;

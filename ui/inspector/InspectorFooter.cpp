@@ -1,6 +1,7 @@
 #include "ui/inspector/InspectorFooter.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/renaming/PhotosRenaming.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/NoticeLine.h"
@@ -115,7 +116,7 @@ void InspectorFooter::refresh(bool hasPhoto)
     m_add->setEnabled(!isUnread);
     setTitle(m_add, InspectorStates::addTitle(m_model));
     m_save->setVisible(hasPhoto);
-    setTitle(m_save, InspectorStates::saveTitle(m_model));
+    setTitle(m_save, m_model.renaming().isRunning() ? u"Renaming…"_s : InspectorStates::saveTitle(m_model));
     // A save that runs is not asked for again.
     m_save->setEnabled(dirty && !m_model.isSaving());
     // The line chooses its words by its width, which was another one beside the buttons of before.

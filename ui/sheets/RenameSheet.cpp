@@ -4,12 +4,12 @@
 #include "core/text/FileNaming.h"
 #include "core/text/Text.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/FlowLayout.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/sheets/SheetParts.h"
+#include "ui/sheets/TokenFlow.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -22,38 +22,7 @@ namespace {
 
 // Points.
 constexpr qreal renameWidth = 440;
-constexpr qreal chipGap = 6;
 constexpr qreal buttonsAbove = 22;
-
-// The token chips, as high as their lines.
-class TokenFlow final : public QWidget {
-public:
-    TokenFlow()
-    {
-        auto* flow = new FlowLayout(px(chipGap), this);
-        onRestyle(this, [this, flow] {
-            flow->setSpacing(px(chipGap));
-            fit();
-        });
-    }
-
-protected:
-    bool event(QEvent* event) override
-    {
-        if (event->type() == QEvent::LayoutRequest)  // chips have another size
-            fit();
-        return QWidget::event(event);
-    }
-
-    void resizeEvent(QResizeEvent* event) override
-    {
-        QWidget::resizeEvent(event);
-        fit();
-    }
-
-private:
-    void fit() { setFixedHeight(layout()->heightForWidth(width())); }
-};
 
 }  // namespace
 
@@ -94,15 +63,9 @@ RenameSheet::RenameSheet(AppModel& model, QWidget* parent)
 QWidget* RenameSheet::buildTokens()
 {
     auto* flow = new TokenFlow;
-    for (const FileNaming::Token& token : FileNaming::tokens()) {
-        auto* chip = new TokenChip(token.label);
-        chip->setToolTip(token.placeholder);
-        // A click leaves the caret in the pattern; Tab still reaches the chip.
-        chip->setFocusPolicy(Qt::TabFocus);
-        connect(chip, &QAbstractButton::clicked, this,
+    for (const FileNaming::Token& token : FileNaming::tokens())
+        flow->add(token.label, token.placeholder,
             [this, placeholder = token.placeholder] { m_model.insertRenameToken(placeholder); });
-        flow->layout()->addWidget(chip);
-    }
     return flow;
 }
 

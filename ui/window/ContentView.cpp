@@ -1,6 +1,7 @@
 #include "ui/window/ContentView.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/words/FieldPasting.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/words/QuickKeywords.h"
@@ -186,6 +187,9 @@ void ContentView::connectSheets()
     TimeShifting* shifting = &m_model.timeShifting();
     connect(shifting, &TimeShifting::openChanged, this,
         [this, shifting] { followFlag(shifting->isOpen(), m_shiftSheet, m_factories.shiftTime); });
+    const auto renamePhotos = [this] {
+        followFlag(m_model.renaming().isOpen(), m_renamePhotosSheet, m_factories.renamePhotos);
+    };
     connect(&m_model, &AppModel::addOpenChanged, this, add);
     connect(&m_model, &AppModel::saveOpenChanged, this, save);
     connect(&m_model, &AppModel::renameOpenChanged, this, rename);
@@ -193,9 +197,11 @@ void ContentView::connectSheets()
         [this] { followFlag(m_model.pasting().isOpen(), m_pasteSheet, m_factories.pasteFields); });
     connect(&m_model.templates(), &Templates::openChanged, this,
         [this] { followFlag(m_model.templates().isOpen(), m_templatesSheet, m_factories.templates); });
+    connect(&m_model.renaming(), &PhotosRenaming::openChanged, this, renamePhotos);
     add();
     save();
     rename();
+    renamePhotos();
 }
 
 void ContentView::followFlag(bool open, SheetBody*& sheet, const std::function<SheetBody*()>& make)

@@ -32,6 +32,7 @@ struct ContentFactories {
     std::function<SheetBody*()> templates{};
     std::function<SheetBody*()> quickSet{};
     std::function<SheetBody*()> shiftTime{};
+    std::function<SheetBody*()> renamePhotos{};
     /// Keeps this many pixels at the inspector's lower end free, so that its last rows scroll clear of the banner.
     std::function<void(QWidget* inspector, int pixels)> setInspectorInset{};
 };
@@ -105,6 +106,7 @@ private:
     SheetBody* m_templatesSheet = nullptr;
     SheetBody* m_quickSetSheet = nullptr;
     SheetBody* m_shiftSheet = nullptr;
+    SheetBody* m_renamePhotosSheet = nullptr;
 };
 
 }  // namespace Quorbel

@@ -231,6 +231,12 @@ Page renamingPage()
                 u"%Creator% — creator"_s, u"%Place% — place"_s, u"%Original% — the original filename"_s }),
             paragraph(u"Example: %Date%_%Title% might produce 2026-07-14_Sunset.jpg. Names are kept "
                       "filesystem-safe and unique automatically."_s),
+            paragraph(u"Several photos get their names together: select them and choose Rename Photos… in the File "
+                      "menu (Shift+F2). %Counter% numbers them in the order of the list; every other field has a "
+                      "token of its name, too, like %Headline%, and %Title|Untitled% or %Date:yyyyMMdd% say what "
+                      "stands for a missing title, or how a date is written. Names that lack something or were taken "
+                      "are marked. Sidecars, backups and the raw file of a pair go along, and Undo Rename in the Edit "
+                      "menu takes all of it back, also after a restart."_s),
         } };
 }
 

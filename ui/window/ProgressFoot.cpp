@@ -1,6 +1,7 @@
 #include "ui/window/ProgressFoot.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/renaming/PhotosRenaming.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/AnimatedValue.h"
@@ -101,7 +102,12 @@ ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
     m_showDelay.setInterval(showDelay);
     connect(&m_showDelay, &QTimer::timeout, this, &ProgressFoot::showProgress);
     connect(m_skip, &QAbstractButton::clicked, &model, &AppModel::skipStalledFile);
-    connect(m_cancel, &QAbstractButton::clicked, &model, &AppModel::cancelRead);
+    connect(m_cancel, &QAbstractButton::clicked, &model, [&model] {
+        if (model.renaming().isRunning())
+            model.renaming().cancel();
+        else
+            model.cancelRead();
+    });
     connect(&model, &AppModel::progressChanged, this, &ProgressFoot::follow);
     connect(&model, &AppModel::isSavingChanged, this, &ProgressFoot::follow);
     connect(&model, &AppModel::stalledFileChanged, this, &ProgressFoot::follow);
@@ -157,7 +163,9 @@ QString ProgressFoot::shownText() const
         return u"Looking for photos…"_s;
     const QLocale locale;
     const QString reading = progress.isSurvey ? u"Looking at %1 of %2 photos…"_s : u"Reading %1 of %2 photos…"_s;
-    const QString pattern = isWriting() ? u"Saving %1 of %2 photos…"_s : reading;
+    const QString writing =
+        m_model.renaming().isRunning() ? u"Renaming %1 of %2 photos…"_s : u"Saving %1 of %2 photos…"_s;
+    const QString pattern = isWriting() ? writing : reading;
     return pattern.arg(locale.toString(progress.done), locale.toString(progress.total));
 }
 
@@ -170,7 +178,7 @@ void ProgressFoot::showProgress()
     m_text->setText(shownText());
     m_skip->setVisible(m_model.stalledFile().has_value());
     m_bar->setFraction(progress->total > 0 ? static_cast<qreal>(progress->done) / progress->total : 0);
-    m_cancel->setVisible(!isWriting());
+    m_cancel->setVisible(!isWriting() || m_model.renaming().isRunning());
     setAccessibleName(m_text->text());
     if (isHidden()) {
         show();

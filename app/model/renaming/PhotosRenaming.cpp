@@ -124,8 +124,9 @@ void PhotosRenaming::close()
     if (m_working)
         m_working->request_stop();
     m_renamesSoon = false;
-    m_set.reset();
-    m_plan.reset();
+    // Of many photos even that takes its time.
+    discardInBackground(std::exchange(m_set, {}));
+    discardInBackground(std::exchange(m_plan, {}));
     m_planned.reset();
     m_unread.clear();
     emit openChanged();
@@ -218,10 +219,12 @@ void PhotosRenaming::requireUnread(const QList<QUrl>& along)
 
 void PhotosRenaming::workOut()
 {
-    if (!m_isOpen || !m_set || isRunning())
+    if (!m_isOpen || isRunning())
         return;
     const RenameOrder wanted = order();
-    if (m_working) {
+    if (!m_set) {
+        // It comes, and asks again.
+    } else if (m_working) {
         // What is worked out now answers no one.
         m_working->request_stop();
     } else if (m_planned != wanted) {
@@ -331,12 +334,13 @@ void PhotosRenaming::run(
     runInBackground(
         this,
         [history = m_history, job, stop = m_stop->get_token(), progress = task.progress] {
-            return job(*history, [stop, progress](qsizetype done) {
+            const RenameHistory::Outcome outcome = job(*history, [stop, progress](qsizetype done) {
                 progress->done = done;
                 return !stop.stop_requested();
             });
+            return Result{ outcome, namesOf(outcome) };
         },
-        [this, textOf](const RenameHistory::Outcome& outcome) { finish(outcome, textOf(outcome)); });
+        [this, textOf](const Result& result) { finish(result, textOf(result.outcome)); });
 }
 
 qsizetype PhotosRenaming::done() const
@@ -351,17 +355,17 @@ void PhotosRenaming::cancel()
         m_stop->request_stop();
 }
 
-void PhotosRenaming::finish(const RenameHistory::Outcome& outcome, const QString& message)
+void PhotosRenaming::finish(const Result& result, const QString& message)
 {
-    const NewNames names = namesOf(outcome);
-    const bool isGivenUp = outcome.isGivenUp;
+    const NewNames& names = result.names;
+    const bool isGivenUp = result.outcome.isGivenUp;
     {
         const Announcer::Together together(m_parts.announcer);
         m_stop.reset();
         m_parts.tasks.end(m_task);
         takeNames(names);
         m_parts.library.refresh().endRenaming(names);
-        setUndoable(outcome.next);
+        setUndoable(result.outcome.next);
         if (!message.isEmpty())
             m_model.setErrorMessage(message);
         if (!isGivenUp)

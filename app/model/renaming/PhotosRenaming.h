@@ -108,7 +108,11 @@ private:
     void takePlan(const std::shared_ptr<const RenamePlan>& plan, const RenameOrder& order);
     using Job = std::function<RenameHistory::Outcome(RenameHistory&, const RenameHistory::GoesOn&)>;
     void run(qsizetype photos, const Job& job, const std::function<QString(const RenameHistory::Outcome&)>& textOf);
-    void finish(const RenameHistory::Outcome& outcome, const QString& message);
+    struct Result {
+        RenameHistory::Outcome outcome{};
+        NewNames names{};
+    };
+    void finish(const Result& result, const QString& message);
     void takeNames(const NewNames& names);
     void keepInCache(const NewNames& names);
     void setUndoable(const RenameHistory::Undoable& undoable);

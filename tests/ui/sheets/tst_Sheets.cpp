@@ -1,5 +1,6 @@
 // The add-field sheet, the save dialog, the rename sheet, templates and shifts, presented over a window and used.
 #include "app/model/AppModel.h"
+#include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/words/FieldPasting.h"
 #include "app/model/templates/Templates.h"
 #include "tests/app/model/ModelFixture.h"
@@ -23,6 +24,9 @@
 #include "ui/templates/TemplatesSheet.h"
 #include "ui/templates/TokenPopover.h"
 #include "ui/sheets/ShiftTimeSheet.h"
+#include "ui/sheets/renaming/NumberField.h"
+#include "ui/sheets/renaming/RenameList.h"
+#include "ui/sheets/renaming/RenamePhotosSheet.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -148,6 +152,8 @@ private slots:
     void renameBuildsAPattern();
     void renameAnswers_data();
     void renameAnswers();
+    void renameManyShowsWhatToLookAt();
+    void renameManyCounts();
     void addFieldFilters_data();
     void addFieldFilters();
     void addFieldWithoutAnyLeft();
@@ -460,6 +466,111 @@ void tst_Sheets::renameBuildsAPattern()
     QCOMPARE(pattern->accessibleDescription(), u"A file name cannot hold “/”."_s);
     press(Qt::Key_Return);
     QVERIFY(desk.photos.folder.names().contains(u"a.jpg"_s));
+}
+
+namespace {
+
+// The sheet over three photos, of which one has no headline.
+RenamePhotosSheet* presentMany(SheetFixture& desk)
+{
+    for (const QString& name : { u"a"_s, u"c"_s })
+        exiftool({ u"-overwrite_original"_s, u"-XMP-photoshop:Headline="_s + name.toUpper(),
+            desk.photos.folder.path(name + u".jpg"_s) });
+    if (!desk.open())
+        return nullptr;
+    desk.photos.select(u"abc"_s);
+    desk.model().renaming().open();
+    return desk.present<RenamePhotosSheet>();
+}
+
+bool waitForNames(SheetFixture& desk)
+{
+    return QTest::qWaitFor([&desk] { return desk.model().renaming().isCurrent(); }, 10000);
+}
+
+QStringList spokenRows(const RenamePhotosSheet* sheet)
+{
+    const auto* list = sheet->findChild<RenameList*>();
+    QStringList rows;
+    for (int row = 0; row < list->model()->rowCount(); ++row)
+        rows.append(list->model()->index(row, 0).data(Qt::AccessibleTextRole).toString());
+    return rows;
+}
+
+}  // namespace
+
+void tst_Sheets::renameManyShowsWhatToLookAt()
+{
+    SheetFixture desk(jpgs(u"abc"_s));
+    RenamePhotosSheet* sheet = presentMany(desk);
+    QVERIFY(sheet);
+    QCOMPARE(sheet->title(), u"Rename 3 Files"_s);
+    QBTextField* pattern = field(sheet, u"Pattern"_s);
+    QCOMPARE(pattern->text(), u"%Date%_%Title%_%Counter%"_s);
+    pattern->clear();
+    QTest::keyClicks(pattern, u"%Headline%"_s);
+    QVERIFY(waitForNames(desk));
+    QCOMPARE(spokenRows(sheet),
+        QStringList({ u"a.jpg to A.jpg"_s, u"b.jpg to untitled.jpg, no headline, becomes untitled.jpg"_s,
+            u"c.jpg to C.jpg"_s }));
+    QVERIFY(labels(sheet).contains(u"1 to look at"_s));
+    auto* list = sheet->findChild<RenameList*>();
+    QCOMPARE(list->currentIndex().row(), 0);
+    click(button(sheet, u"Next"_s));
+    QCOMPARE(list->currentIndex().row(), 1);
+    QVERIFY(pixelsLike(list->grab().toImage(), Theme::light().amberBg) > 1000);
+    QVERIFY(button(sheet, u"Rename 3"_s)->isEnabled());
+    // What cannot be a name turns it off.
+    QTest::keyClicks(pattern, u"/"_s);
+    QVERIFY(waitForNames(desk));
+    QVERIFY(!button(sheet, u"Rename 3"_s)->isEnabled());
+    QCOMPARE(spokenRows(sheet).constFirst(), u"a.jpg keeps its name, a file name cannot hold “/”"_s);
+    QTest::keyClick(pattern, Qt::Key_Backspace);
+    // The missing one has something else in its place now.
+    pattern->setText(QString());
+    QTest::keyClicks(pattern, u"%Headline|x%"_s);
+    QVERIFY(waitForNames(desk));
+    QVERIFY(!labels(sheet).contains(u"1 to look at"_s));
+    QVERIFY(!button(sheet, u"Next"_s));
+    pattern->setFocus();
+    press(Qt::Key_Return);
+    QVERIFY(QTest::qWaitFor([&desk] { return !desk.model().renaming().isOpen(); }, 10000));
+    QCOMPARE(desk.photos.folder.names(), QStringList({ u"A.jpg"_s, u"C.jpg"_s, u"x.jpg"_s }));
+}
+
+// The fields of the counter are there for a pattern that counts.
+void tst_Sheets::renameManyCounts()
+{
+    SheetFixture desk(jpgs(u"abc"_s));
+    RenamePhotosSheet* sheet = presentMany(desk);
+    QVERIFY(sheet);
+    QBTextField* pattern = field(sheet, u"Pattern"_s);
+    QBTextField* start = field(sheet, u"Counter from"_s);
+    QVERIFY(start->isVisible());
+    pattern->setFocus();
+    pattern->clear();
+    QTest::keyClicks(pattern, u"n"_s);
+    QVERIFY(!start->isVisible());
+    click(button(sheet, u"Counter"_s));
+    QCOMPARE(desk.model().renaming().pattern(), u"n_%Counter%"_s);
+    QVERIFY(start->isVisible());
+    QCOMPARE(start->text(), u"1"_s);
+    QTest::keyClick(start, Qt::Key_Up);
+    start->selectAll();
+    QTest::keyClicks(start, u"7"_s);
+    QTest::keyClick(field(sheet, u"Step"_s), Qt::Key_Up);
+    QBTextField* digits = field(sheet, u"Digits"_s);
+    digits->selectAll();
+    QTest::keyClicks(digits, u"3"_s);
+    for (int i = 0; i < 20; ++i)
+        QTest::keyClick(digits, Qt::Key_Down);
+    QTest::keyClick(digits, Qt::Key_Up);
+    QVERIFY(waitForNames(desk));
+    QCOMPARE(
+        spokenRows(sheet), QStringList({ u"a.jpg to n_07.jpg"_s, u"b.jpg to n_09.jpg"_s, u"c.jpg to n_11.jpg"_s }));
+    press(Qt::Key_Escape);
+    QVERIFY(!desk.model().renaming().isOpen());
+    QCOMPARE(desk.photos.folder.names(), jpgs(u"abc"_s));
 }
 
 void tst_Sheets::renameAnswers_data()

@@ -1,0 +1,224 @@
+#include "ui/sheets/renaming/RenamePhotosSheet.h"
+
+#include "app/model/AppModel.h"
+#include "app/model/renaming/PhotosRenaming.h"
+#include "core/text/FileNaming.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/Labels.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/sheets/SheetParts.h"
+#include "ui/sheets/TokenFlow.h"
+#include "ui/sheets/renaming/NumberField.h"
+#include "ui/sheets/renaming/RenameList.h"
+
+#include <QHBoxLayout>
+#include <QLocale>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Points.
+constexpr qreal manyWidth = 640;
+constexpr qreal labelGap = 7;
+constexpr qreal fieldGap = 16;
+constexpr qreal footAbove = 22;
+constexpr int mostStart = 999'999'999;
+constexpr int mostStep = 99'999;
+
+QString counted(qsizetype count)
+{
+    return QLocale().toString(count);
+}
+
+}  // namespace
+
+RenamePhotosSheet::RenamePhotosSheet(AppModel& model, QWidget* parent)
+    : SheetBody(parent)
+    , m_renaming(model.renaming())
+    , m_pattern(new QBTextField)
+    , m_counter(new QWidget)
+    , m_start(new NumberField(u"Counter from"_s, 0, mostStart))
+    , m_step(new NumberField(u"Step"_s, 1, mostStep))
+    , m_digits(new NumberField(u"Digits"_s, 1, CounterForm::mostDigits))
+    , m_marked(new ThemedLabel({}, TextRole::amberText, 11.5))
+    , m_next(new QBTextButton(u"Next"_s))
+    , m_list(new RenameList)
+    , m_foot(new ThemedLabel({}, TextRole::label, 11))
+    , m_cancel(new QBButton(u"Cancel"_s, QBButtonKind::secondary))
+    , m_rename(new QBButton(u"Rename"_s, QBButtonKind::primary))
+{
+    m_pattern->setMono(true);
+    m_pattern->setPlaceholder(u"%Date%_%Title%_%Counter%"_s);
+    m_pattern->setAccessibleName(u"Pattern"_s);
+    auto* column = new QVBoxLayout(this);
+    stackParts(this, column,
+        { { m_pattern, 12 }, { buildTokens(), 12 }, { buildCounter(), 22 }, { buildHeading(), 8 },
+            { m_list, footAbove }, { buildFoot() } });
+    frameSheet(this, column, manyWidth);
+    connectModel();
+    refresh();
+}
+
+QWidget* RenamePhotosSheet::buildTokens()
+{
+    auto* flow = new TokenFlow;
+    QList<FileNaming::Token> tokens = FileNaming::tokens();
+    tokens.append({ u"Counter"_s, u"%Counter%"_s });
+    for (const FileNaming::Token& token : std::as_const(tokens))
+        flow->add(
+            token.label, token.placeholder, [this, placeholder = token.placeholder] { insertToken(placeholder); });
+    return flow;
+}
+
+// The line stays where it is without a counter: nothing below it moves while one types.
+QWidget* RenamePhotosSheet::buildCounter()
+{
+    auto* line = new QWidget;
+    auto* row = new QHBoxLayout(line);
+    auto* counter = new QHBoxLayout(m_counter);
+    QList<QSpacerItem*> gaps;
+    const auto add = [&](const QString& label, NumberField* field) {
+        auto* text = new ThemedLabel(label, TextRole::label, 13);
+        text->setBuddy(field);
+        counter->addWidget(text);
+        counter->addWidget(field);
+        gaps.append(new QSpacerItem(0, 0));
+        counter->addItem(gaps.constLast());
+    };
+    add(u"Counter from"_s, m_start);
+    add(u"step"_s, m_step);
+    add(u"digits"_s, m_digits);
+    row->addWidget(m_counter);
+    row->addStretch();
+    row->addWidget(new ThemedLabel(u"The extension is kept."_s, TextRole::label, 11));
+    onRestyle(this, [=, this] {
+        row->setContentsMargins(0, 0, 0, 0);
+        counter->setContentsMargins(0, 0, 0, 0);
+        counter->setSpacing(px(labelGap));
+        for (QSpacerItem* gap : gaps)
+            gap->changeSize(px(fieldGap) - 2 * px(labelGap), 0);
+        line->setFixedHeight(m_start->sizeHint().height());
+    });
+    return line;
+}
+
+QWidget* RenamePhotosSheet::buildHeading()
+{
+    auto* line = new QWidget;
+    auto* row = new QHBoxLayout(line);
+    row->addWidget(new LabeledDivider(u"Preview"_s), 1);
+    row->addWidget(m_marked);
+    row->addWidget(m_next);
+    m_next->setAccessibleDescription(u"Goes to the next name to look at"_s);
+    onRestyle(this, [=, this] {
+        row->setContentsMargins(0, 0, 0, 0);
+        row->setSpacing(px(8));
+        line->setFixedHeight(m_next->sizeHint().height());
+    });
+    return line;
+}
+
+QWidget* RenamePhotosSheet::buildFoot()
+{
+    auto* line = new QWidget;
+    auto* row = new QHBoxLayout(line);
+    m_foot->setElided(true);
+    row->addWidget(m_foot, 1);
+    row->addWidget(m_cancel);
+    row->addWidget(m_rename);
+    onRestyle(this, [row] {
+        row->setContentsMargins(0, 0, 0, 0);
+        row->setSpacing(px(8));
+    });
+    return line;
+}
+
+void RenamePhotosSheet::connectModel()
+{
+    connect(
+        m_pattern, &QLineEdit::textEdited, &m_renaming, [this](const QString& text) { m_renaming.pattern.set(text); });
+    connect(
+        m_start, &NumberField::numberEdited, &m_renaming, [this](int number) { m_renaming.counterStart.set(number); });
+    connect(
+        m_step, &NumberField::numberEdited, &m_renaming, [this](int number) { m_renaming.counterStep.set(number); });
+    connect(m_digits, &NumberField::numberEdited, &m_renaming,
+        [this](int number) { m_renaming.counterDigits.set(number); });
+    connect(m_next, &QAbstractButton::clicked, m_list, &RenameList::goToNextMarked);
+    connect(m_cancel, &QAbstractButton::clicked, this, &RenamePhotosSheet::cancel);
+    connect(m_rename, &QAbstractButton::clicked, this, &RenamePhotosSheet::confirm);
+    connect(&m_renaming, &PhotosRenaming::planChanged, this, &RenamePhotosSheet::refresh);
+    connect(&m_renaming, &PhotosRenaming::progressChanged, this, &RenamePhotosSheet::refresh);
+}
+
+// Where the caret is; behind a text or a number with a "_" between.
+void RenamePhotosSheet::insertToken(const QString& token)
+{
+    const QString before = m_pattern->text().left(
+        m_pattern->selectionStart() >= 0 ? m_pattern->selectionStart() : m_pattern->cursorPosition());
+    const bool needsNoSeparator = before.isEmpty() || before.endsWith(u'_') || before.endsWith(u'%');
+    m_pattern->insert(needsNoSeparator ? token : u'_' + token);
+    m_renaming.pattern.set(m_pattern->text());
+}
+
+void RenamePhotosSheet::refresh()
+{
+    m_pattern->setBoundText(m_renaming.pattern());
+    m_counter->setVisible(m_renaming.hasCounter());
+    m_start->setNumber(m_renaming.counterStart());
+    m_step->setNumber(m_renaming.counterStep());
+    m_digits->setNumber(m_renaming.counterDigits());
+    const auto& plan = m_renaming.plan();
+    m_list->setPlan(plan);
+    const qsizetype marked = plan ? plan->marked : 0;
+    m_marked->setVisible(marked > 0);
+    m_marked->setText(u"%1 to look at"_s.arg(counted(marked)));
+    m_next->setVisible(marked > 0);
+    const bool isRunning = m_renaming.isRunning();
+    for (QWidget* input : { static_cast<QWidget*>(m_pattern), static_cast<QWidget*>(m_counter) })
+        input->setEnabled(!isRunning);
+    const QString title = u"Rename %1"_s.arg(counted(m_renaming.photos()));
+    if (m_rename->text() != title)
+        m_rename->setText(title);
+    m_rename->setEnabled(m_renaming.canRename());
+    refreshFoot();
+}
+
+void RenamePhotosSheet::refreshFoot()
+{
+    QString text = u"Sidecars and backups go along. Edit ▸ Undo Rename takes it back."_s;
+    if (m_renaming.isRunning())
+        text = u"Renaming %1 of %2…"_s.arg(counted(m_renaming.done()), counted(m_renaming.total()));
+    else if (m_renaming.unread() > 0)
+        text = u"Reading %1 more…"_s.arg(counted(m_renaming.unread()));
+    m_foot->setText(text);
+}
+
+QString RenamePhotosSheet::title() const
+{
+    return u"Rename %1 Files"_s.arg(counted(m_renaming.photos()));
+}
+
+void RenamePhotosSheet::confirm()
+{
+    if (m_rename->isEnabled())
+        m_renaming.rename();
+}
+
+void RenamePhotosSheet::cancel()
+{
+    if (m_renaming.isRunning())
+        m_renaming.cancel();
+    else
+        m_renaming.close();
+}
+
+QWidget* RenamePhotosSheet::initialFocus()
+{
+    return m_pattern;
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,140 @@
+#include "ui/sheets/renaming/RenameRowDelegate.h"
+
+#include "ui/controls/theme/Icon.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Painting.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QPainter>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Points.
+constexpr qreal height = 32;
+constexpr qreal side = 12;
+constexpr qreal oldNameWidth = 140;
+constexpr qreal arrowWidth = 30;
+constexpr qreal gap = 12;
+constexpr qreal chipHeight = 18;
+constexpr qreal chipPadding = 5;
+constexpr qreal nameSize = 12;
+constexpr qreal wordsSize = 11;
+constexpr qreal signSize = 12;
+constexpr int singleLine = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine;
+
+bool isWarning(const RenameRow& row)
+{
+    return row.number > 0 || row.obstacle != RenameRow::Obstacle::none;
+}
+
+QString missingText(const RenderedPiece& piece)
+{
+    return u"no "_s + piece.label.toLower();
+}
+
+}  // namespace
+
+RenameRowDelegate::RenameRowDelegate(RowAt rowAt, QObject* parent)
+    : QStyledItemDelegate(parent)
+    , m_rowAt(std::move(rowAt))
+{
+}
+
+int RenameRowDelegate::rowHeight()
+{
+    return px(height);
+}
+
+QSize RenameRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const
+{
+    return { px(300), rowHeight() };
+}
+
+void RenameRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const RenameRow* row = m_rowAt(index.row());
+    if (!row)
+        return;
+    const Theme& theme = Theme::of(option.widget);
+    const QRectF box(option.rect);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    if (row->isMarked())
+        painter->fillRect(box, theme.amberBg);
+    painter->fillRect(QRectF(box.left(), box.bottom() - 1, box.width(), 1), theme.line);
+    if (option.state & QStyle::State_HasFocus) {
+        painter->setPen(QPen(theme.derived.focusStrong, pxF(2)));
+        painter->drawRoundedRect(box.adjusted(2, 2, -2, -3), pxF(5), pxF(5));
+    }
+    const QFont mono = verbatimMonoFont(nameSize);
+    const QRectF old(box.left() + pxF(side), box.top(), pxF(oldNameWidth), box.height() - 1);
+    painter->setFont(mono);
+    painter->setPen(theme.derived.label);
+    painter->drawText(old, singleLine, QFontMetricsF(mono).elidedText(row->oldName, Qt::ElideMiddle, old.width()));
+    const QRectF arrow(old.right(), box.top(), pxF(arrowWidth), box.height() - 1);
+    Icon::paint(*painter, arrow.adjusted(0, 0, -pxF(6), 0), u"arrow.right"_s, pxF(14), theme.muted);
+    const qreal right = paintWords(*painter, box.adjusted(0, 0, -pxF(side), -1), *row, theme);
+    paintNewName(*painter, QRectF(arrow.right(), box.top(), right - arrow.right(), box.height() - 1), *row, theme);
+    painter->restore();
+}
+
+// At the right; what is left of them belongs to the new name.
+qreal RenameRowDelegate::paintWords(QPainter& painter, const QRectF& row, const RenameRow& of, const Theme& theme)
+{
+    const QString words = of.words();
+    if (words.isEmpty())
+        return row.right();
+    const QFont font = verbatimFont(wordsSize);
+    const QFontMetricsF metrics(font);
+    const qreal most = row.width() / 2 - pxF(side);
+    const qreal width = qMin(metrics.horizontalAdvance(words) + 1, most);
+    const QRectF box(row.right() - width, row.top(), width, row.height());
+    painter.setFont(font);
+    painter.setPen(of.isMarked() ? theme.derived.amberText : theme.derived.label);
+    painter.drawText(box, singleLine, metrics.elidedText(words, Qt::ElideMiddle, width));
+    if (!isWarning(of))
+        return box.left() - pxF(gap);
+    const QRectF sign(box.left() - pxF(signSize + 4), row.top(), pxF(signSize), row.height());
+    Icon::paint(painter, sign, u"exclamationmark.triangle.fill"_s, pxF(signSize), theme.derived.amberText);
+    return sign.left() - pxF(gap);
+}
+
+// The name that is written; with a value missing, what the pattern makes of the others, and the gap in it.
+void RenameRowDelegate::paintNewName(QPainter& painter, const QRectF& box, const RenameRow& row, const Theme& theme)
+{
+    const QFont mono = verbatimMonoFont(nameSize);
+    const QFontMetricsF metrics(mono);
+    painter.setFont(mono);
+    painter.setPen(theme.text);
+    if (row.pieces.isEmpty()) {
+        painter.drawText(box, singleLine, metrics.elidedText(row.newName, Qt::ElideMiddle, box.width()));
+        return;
+    }
+    const QFont small = sansFont(wordsSize);
+    qreal left = box.left();
+    for (const RenderedPiece& piece : row.pieces) {
+        const bool isMissing = piece.kind == RenderedPiece::Kind::missing;
+        const QString text = isMissing ? missingText(piece) : piece.text;
+        const qreal padding = isMissing ? pxF(chipPadding) : 0;
+        const qreal width = (isMissing ? QFontMetricsF(small) : metrics).horizontalAdvance(text) + 2 * padding;
+        const qreal room = box.right() - left;
+        if (room <= 2 * padding)
+            return;
+        const QRectF place(left, box.top(), qMin(width, room), box.height());
+        if (isMissing) {
+            const QRectF chip(place.left(), place.center().y() - pxF(chipHeight) / 2, place.width(), pxF(chipHeight));
+            paintBox(painter, chip, pxF(4), Qt::transparent, QPen(theme.derived.amberText, 1, Qt::DashLine));
+        }
+        painter.setFont(isMissing ? small : mono);
+        painter.setPen(isMissing ? theme.derived.amberText : theme.text);
+        painter.drawText(place.adjusted(padding, 0, -padding, 0), singleLine,
+            QFontMetricsF(painter.font()).elidedText(text, Qt::ElideRight, place.width() - 2 * padding + 1));
+        left += place.width();
+    }
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,34 @@
+// Paints one row of the list of new names: the old name, the new one with what is missing in it, and why one should
+// look at it. Thread: the main thread.
+#pragma once
+
+#include "core/renaming/RenamePlan.h"
+
+#include <QStyledItemDelegate>
+
+namespace Quorbel {
+
+struct Theme;
+
+class RenameRowDelegate final : public QStyledItemDelegate {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RenameRowDelegate)
+
+public:
+    using RowAt = std::function<const RenameRow*(int row)>;
+
+    explicit RenameRowDelegate(RowAt rowAt, QObject* parent = nullptr);
+
+    /// Pixels.
+    static int rowHeight();
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+private:
+    static qreal paintWords(QPainter& painter, const QRectF& row, const RenameRow& of, const Theme& theme);
+    static void paintNewName(QPainter& painter, const QRectF& box, const RenameRow& row, const Theme& theme);
+
+    RowAt m_rowAt;
+};
+
+}  // namespace Quorbel
