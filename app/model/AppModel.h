@@ -197,10 +197,10 @@ public:
     void layEdits(const Edits& edits);
     /// The stars of the selected photos, 0 to 5, as an edit.
     void rate(int stars);
-    /// Whether there is a photo before the primary one on screen.
+    /// Whether there is a photo before the selected one on screen, before the first of several, and it was read.
     bool hasPhotoBefore() const;
-    /// Fills a field (an id, or the key of a custom field) of the selected photos with what the photo before the
-    /// primary one on screen holds.
+    /// Fills a field (an id, or the key of a custom field) of the selected photos with what that photo shows;
+    /// its unsaved edits do not count, but those that are being saved. What is empty there takes nothing away.
     void takeFromPhotoBefore(const QString& key);
 
     // --- Keywords of many photos ---

@@ -186,6 +186,7 @@ void AppDelegate::buildWindow()
         static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
     };
     model.codes().setChooser([this](const auto& chosen) { chooseCodeFile(chosen); });
+    factories.keptField = [](QWidget* inspector) { return &static_cast<InspectorView*>(inspector)->keptField(); };
     m_content = new ContentView(model, &m_app->thumbnails(), *m_systemScheme, m_window.get(), factories);
     m_window->setMenuWidget(m_content->bar());
     m_window->setCentralWidget(m_content);

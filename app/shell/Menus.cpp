@@ -11,6 +11,8 @@
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/inspector/keywords/QuickSetMenu.h"
+#include "app/shell/HandsMenu.h"
+#include "ui/sheets/ShortcutsSheet.h"
 #include "ui/window/ContentView.h"
 #include "ui/window/WindowBar.h"
 
@@ -106,6 +108,7 @@ Menus::Menus(AppModel& model, ContentView& content, const MenuCommands& commands
     : QObject(&content)
     , m_model(model)
     , m_content(content)
+    , m_hands(new HandsMenu(model, content))
 {
     addFileMenu(commands);
     addEditMenu();
@@ -151,6 +154,7 @@ void Menus::addFileMenu(const MenuCommands& commands)
     menu->addSeparator();
     m_save =
         add(menu, u"&Save"_s, keysFor(QKeySequence::Save, Qt::CTRL | Qt::Key_S), [this] { m_model.requestSave(); });
+    m_hands->addToFile(menu);
     m_rename = add(menu, u"Re&name…"_s, { Qt::Key_F2 }, [this] { m_model.setRenameOpen(true); });
     m_renamePhotos = add(menu, u"Rename P&hotos…"_s, { Qt::SHIFT | Qt::Key_F2 }, [this] { m_model.renaming().open(); });
     menu->addSeparator();
@@ -192,6 +196,7 @@ void Menus::addEditMenu()
     addFieldCommands(menu);
     menu->addSeparator();
     addTemplates(menu);
+    m_hands->addToEdit(menu);
     menu->addSeparator();
     add(menu, u"Select &All"_s, keysFor(QKeySequence::SelectAll, Qt::CTRL | Qt::Key_A), [this] {
         QWidget* focus = QApplication::focusWidget();
@@ -308,6 +313,8 @@ void Menus::addEditing(QMenu* menu, const QString& text, QKeySequence::StandardK
 void Menus::addViewMenu()
 {
     ThemedMenu* menu = addMenu(u"&View"_s);
+    m_hands->addToView(menu);
+    menu->addSeparator();
     m_preview =
         add(menu, u"Show preview"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_P }, [this] { m_content.togglePreview(); });
     m_disagreements = menu->addAction(u"Show &Disagreements"_s);
@@ -341,10 +348,19 @@ void Menus::addHelpMenu(const MenuCommands& commands)
 {
     ThemedMenu* menu = addMenu(u"&Help"_s);
     add(menu, u"Quorbel &Help"_s, keysFor(QKeySequence::HelpContents, Qt::Key_F1), commands.openHelp);
+    add(menu, u"&Keyboard Shortcuts"_s, { Qt::CTRL | Qt::Key_F1 }, [this] { showShortcuts(); });
     menu->addSeparator();
     if (commands.checkForUpdates)
         add(menu, u"Check for &Updates…"_s, {}, commands.checkForUpdates);
     add(menu, u"&About Quorbel"_s, {}, commands.showAbout);
+}
+
+// Of the menus as they are now.
+void Menus::showShortcuts()
+{
+    auto* sheet = new ShortcutsSheet(Shortcuts::ofMenus(*m_content.bar()->menuBar()) + Shortcuts::inPlaces());
+    connect(sheet, &ShortcutsSheet::closed, &m_content, [this, sheet] { m_content.sheets()->dismiss(sheet); });
+    m_content.sheets()->present(sheet);
 }
 
 void Menus::followState()

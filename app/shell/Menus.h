@@ -14,6 +14,7 @@ namespace Quorbel {
 
 class AppModel;
 class ContentView;
+class HandsMenu;
 class ThemedMenu;
 
 /// The commands that are not the model's own.
@@ -43,6 +44,7 @@ private:
     QAction* add(QMenu* menu, const QString& text, const QList<QKeySequence>& keys, std::function<void()> run);
     void addEditing(QMenu* menu, const QString& text, QKeySequence::StandardKey key, const char* slot,
         const std::function<bool(const QWidget&)>& possible);
+    void showShortcuts();
     void fillRecents();
     void fillBringBack();
     void addTemplates(ThemedMenu* menu);
@@ -54,6 +56,7 @@ private:
 
     AppModel& m_model;
     ContentView& m_content;
+    HandsMenu* m_hands;
     ThemedMenu* m_recents = nullptr;
     ThemedMenu* m_bringBack = nullptr;
     ThemedMenu* m_templates = nullptr;

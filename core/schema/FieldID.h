@@ -18,5 +18,6 @@ inline constexpr QLatin1StringView event("event");
 inline constexpr QLatin1StringView state("state");
 inline constexpr QLatin1StringView country("country");
 inline constexpr QLatin1StringView sublocation("sublocation");
+inline constexpr QLatin1StringView rating("rating");
 
 }  // namespace Quorbel::FieldID

@@ -204,7 +204,8 @@ void InspectorForm::announceAdded(bool fresh)
     const QSet<QString> before = std::exchange(m_added, m_model.sessionAddedKnownIDs());
     if (fresh)
         return;
-    const QSet<QString> added = m_added - before;
+    // What came with an edit was not asked for by whoever wants to type into it.
+    const QSet<QString> added = m_added - before - m_model.editedSingle() - m_model.batchInclude();
     for (const QString& id : added)
         emit fieldAdded(id);
 }

@@ -9,6 +9,7 @@
 #include "ui/inspector/FieldRow.h"
 #include "ui/inspector/InspectorFooter.h"
 #include "ui/inspector/InspectorForm.h"
+#include "ui/inspector/KeptField.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -27,6 +28,7 @@ InspectorView::InspectorView(
     , m_model(model)
     , m_scroll(new ScrollArea)
     , m_form(new InspectorForm(model, thumbs, places, maps))
+    , m_kept(new KeptField(model, *m_form))
     , m_nothing(new ThemedLabel(u"No photo selected"_s, TextRole::muted, 13))
     , m_footer(new InspectorFooter(model))
 {
@@ -92,6 +94,8 @@ void InspectorView::refresh()
     else
         m_form->leave();
     m_footer->refresh(hasPhoto);
+    if (hasPhoto)
+        m_kept->arrive();
 }
 
 // What is found out late adds lines and rows, perhaps above where one types: that stays where it is.

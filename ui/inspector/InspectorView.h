@@ -9,6 +9,7 @@ namespace Quorbel {
 class AppModel;
 class InspectorFooter;
 class InspectorForm;
+class KeptField;
 class MapRenderer;
 class PlaceProvider;
 class ScrollArea;
@@ -26,6 +27,8 @@ public:
 
     /// Keeps this many pixels free below the last row, so that the form scrolls clear of what is laid over it.
     void setBottomInset(int pixels);
+    /// Which field has the keyboard, and what keeps it there.
+    KeptField& keptField() const { return *m_kept; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -42,6 +45,7 @@ private:
     AppModel& m_model;
     ScrollArea* m_scroll;
     InspectorForm* m_form;
+    KeptField* m_kept;  ///< the form's
     ThemedLabel* m_nothing;
     InspectorFooter* m_footer;
 };

@@ -169,7 +169,7 @@ void RowExtras::showChip(const FieldRowState& state)
         m_chip->setChecked(m_languages.isOpen);
         m_chip->setEdited(m_languages.isEdited);
         m_chip->setAccessibleName(u"%1 in other languages: %2"_s.arg(state.label, told.join(u", "_s)));
-        m_chip->setToolTip(u"Other languages: %1 (Alt+Down)"_s.arg(told.join(u", "_s)));
+        m_chip->setToolTip(u"Other languages: %1 (Alt+Right)"_s.arg(told.join(u", "_s)));
     } else if (m_chip->hasFocus()) {
         m_editor.input->setFocus(Qt::OtherFocusReason);
     }
@@ -204,9 +204,9 @@ void RowExtras::showActions(const FieldRowState& state)
     if (!m_open && (isLanguage || m_languages.isPossible)) {
         connect(qApp, &QApplication::focusChanged, this, &RowExtras::offer);
         m_open = new QAction(m_editor.input);
-        m_open->setShortcut(Qt::ALT | Qt::Key_Down);
+        m_open->setShortcut(Qt::ALT | Qt::Key_Right);
         m_close = new QAction(u"Hide Languages"_s, m_editor.input);
-        m_close->setShortcut(Qt::ALT | Qt::Key_Up);
+        m_close->setShortcut(Qt::ALT | Qt::Key_Left);
         for (QAction* action : { m_open, m_close })
             action->setShortcutContext(Qt::WidgetShortcut);
         m_editor.input->addActions({ m_open, m_close });
@@ -237,8 +237,8 @@ void RowExtras::offer()
     if (isOffered && !m_offer) {
         m_offer = new QBIconButton(u"plus"_s, u"Add language"_s, &m_row);
         m_offer->setSizes({ offerSize, offerSize }, 12, 2.1, 6);
-        m_offer->setHint(u"Alt+Down"_s);
-        m_offer->setFocusPolicy(Qt::NoFocus);  // the keyboard has Alt+Down
+        m_offer->setHint(u"Alt+Right"_s);
+        m_offer->setFocusPolicy(Qt::NoFocus);  // the keyboard has Alt+Right
         connect(m_offer, &QAbstractButton::clicked, this, [this] { emit m_row.languageMenuAsked(m_editor.widget); });
     }
     if (!m_offer)

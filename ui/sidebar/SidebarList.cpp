@@ -35,6 +35,13 @@ bool isPlainText(const QKeyEvent& event)
         && !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
 }
 
+// 0 to 5; -1 for any other key.
+int starsIn(const QKeyEvent& event)
+{
+    const bool isDigit = event.key() >= Qt::Key_0 && event.key() <= Qt::Key_5;
+    return isDigit && isPlainText(event) ? event.key() - Qt::Key_0 : -1;
+}
+
 bool isToggle(const QKeyEvent& event)
 {
     return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -300,6 +307,8 @@ void SidebarList::keyPressEvent(QKeyEvent* event)
         setFolded(row, !m_rows.heading(row)->isFolded, event->modifiers() & Qt::AltModifier);
     } else if (event->key() == Qt::Key_Space && !isTyping()) {
         choose(currentIndex().row(), false, event->modifiers() & Qt::ControlModifier);
+    } else if (const int stars = starsIn(*event); stars >= 0 && !isTyping()) {
+        m_model.rate(stars);
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         if (const ImageRecord* photo = m_rows.record(currentIndex().row()))
             m_model.openFile(QUrl(photo->url));

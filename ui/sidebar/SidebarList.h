@@ -19,7 +19,8 @@ class ThumbnailStore;
 
 /// A list view whose every choice goes through AppModel::tap(): clicks, arrows, Home, End, PageUp, PageDown (with
 /// Shift for a range, with Ctrl to move without choosing, then Space to add or take out), and typing a name's first
-/// letters. Enter and a double-click open the photo in the user's default application.
+/// letters. Enter and a double-click open the photo in the user's default application. 0 to 5 rate the selected photos;
+/// within a name that is being typed they belong to it.
 /// A folder's heading is folded and unfolded by a click, by Return and Space; with Alt all of them are. The keyboard
 /// stops at folded ones, passes over the others, and gets to them with Left, which folds; Right unfolds. Being on a
 /// heading selects nothing.

@@ -8,10 +8,12 @@
 #include "app/model/timeshift/TimeShifting.h"
 #include "core/Product.h"
 #include "platform/desktop/SystemScheme.h"
+#include "ui/controls/BriefNote.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/InspectorFooter.h"
+#include "ui/inspector/KeptField.h"
 #include "ui/sheets/Sheet.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/sidebar/SidebarView.h"
@@ -115,6 +117,7 @@ ContentView::ContentView(
     , m_banner(new ErrorBanner(model, this))
     , m_sheets(new SheetHost(window))
     , m_drop(new FileDrop(window))
+    , m_note(new BriefNote(window))
 {
     applyTheme();
     connectModel();
@@ -262,6 +265,53 @@ void ContentView::focusSearch()
 {
     if (m_columns && m_columns->isVisible())
         m_sidebar->focusSearch();
+}
+
+// --- From photo to photo ---
+
+KeptField* ContentView::keptField() const
+{
+    return m_inspector && m_factories.keptField ? m_factories.keptField(m_inspector) : nullptr;
+}
+
+bool ContentView::hasField() const
+{
+    const KeptField* field = keptField();
+    return field && !field->current().isEmpty();
+}
+
+void ContentView::step(int places)
+{
+    if (KeptField* field = keptField())
+        field->keep();
+    m_model.step(places);
+}
+
+void ContentView::saveAndGoOn()
+{
+    if (KeptField* field = keptField()) {
+        field->commit();
+        field->keep();
+    }
+    const QList<int>& rows = m_model.visibleRows();
+    const bool isLast = m_model.isBatch()
+        ? !rows.isEmpty() && m_model.selection().contains(m_model.records().at(rows.constLast()).url)
+        : !m_model.canStep(1);
+    if (isLast)
+        m_note->say(u"This is the last photo"_s);
+    m_model.saveAndGoOn();
+}
+
+void ContentView::takeFromPhotoBefore()
+{
+    if (!hasField())
+        return;
+    bool isTaken = false;
+    const auto watch = connect(&m_model, &AppModel::editsChanged, this, [&isTaken] { isTaken = true; });
+    m_model.takeFromPhotoBefore(keptField()->current());
+    disconnect(watch);
+    if (!isTaken)
+        m_note->say(u"Nothing else in the photo before"_s);
 }
 
 void ContentView::showRecords()

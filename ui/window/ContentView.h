@@ -10,9 +10,11 @@
 namespace Quorbel {
 
 class AppModel;
+class BriefNote;
 class ColumnRow;
 class ErrorBanner;
 class FileDrop;
+class KeptField;
 class LaunchView;
 class SheetBody;
 class SheetHost;
@@ -35,6 +37,8 @@ struct ContentFactories {
     std::function<SheetBody*()> renamePhotos{};
     /// Keeps this many pixels at the inspector's lower end free, so that its last rows scroll clear of the banner.
     std::function<void(QWidget* inspector, int pixels)> setInspectorInset{};
+    /// Which field of the inspector has the keyboard, and what keeps it there.
+    std::function<KeptField*(QWidget* inspector)> keptField{};
 };
 
 class ContentView final : public QWidget {
@@ -63,6 +67,13 @@ public:
     /// Hides the preview column; or shows it, growing the window where it is too narrow for it.
     void togglePreview();
     void focusSearch();
+    /// The next photo or the one before, and the same after a save; the field that has the keyboard keeps it.
+    void step(int places);
+    void saveAndGoOn();
+    /// Fills the field that has the keyboard.
+    void takeFromPhotoBefore();
+    /// Whether a field of the inspector has the keyboard, or had it when a menu took it.
+    bool hasField() const;
 
 signals:
     void previewShownChanged(bool shown);
@@ -83,6 +94,7 @@ private:
     void applyTheme();
     void placeBanner();
     void growWindow(int target);
+    KeptField* keptField() const;
 
     AppModel& m_model;
     ThumbnailStore* m_thumbs;
@@ -97,6 +109,7 @@ private:
     ErrorBanner* m_banner;
     SheetHost* m_sheets;
     FileDrop* m_drop;
+    BriefNote* m_note;
     bool m_expectsPhotos = false;
     bool m_listWaitsForKeyboard = false;  ///< until the sheet over it is closed
     SheetBody* m_addSheet = nullptr;

@@ -10,6 +10,7 @@ const QList<std::pair<HelpTopic, QString>>& RawValues<HelpTopic>::table()
         { HelpTopic::gettingStarted, u"gettingStarted"_s },
         { HelpTopic::interface, u"interface"_s },
         { HelpTopic::editing, u"editing"_s },
+        { HelpTopic::hands, u"hands"_s },
         { HelpTopic::languages, u"languages"_s },
         { HelpTopic::keywordPaths, u"keywordPaths"_s },
         { HelpTopic::disagreements, u"disagreements"_s },
@@ -91,6 +92,20 @@ Page editingPage()
         } };
 }
 
+Page handsPage()
+{
+    return { u"From Photo to Photo"_s, u"keyboard"_s,
+        {
+            paragraph(u"Captions for many photos need no mouse. The keys work from within any field:"_s),
+            bullets({ u"⌥Down and ⌥Up go to the next and the previous photo. The keyboard stays in the same field, and "
+                      "its text is selected there."_s,
+                u"⌘Return saves and goes on at once: you type while the last photo is still being written."_s,
+                u"Ctrl+' fills the field with what the photo before shows. An empty field there takes nothing away."_s,
+                u"0 to 5 rate while the list has the keyboard; ⌘⌥0 to ⌘⌥5 rate anywhere, one photo or many."_s,
+                u"Help ▸ Keyboard Shortcuts (Ctrl+F1) lists all keys."_s }),
+        } };
+}
+
 Page languagesPage()
 {
     return { u"Several Languages"_s, u"globe"_s,
@@ -99,8 +114,8 @@ Page languagesPage()
                 u"A title, description, copyright notice, event or usage terms can be in several languages in one "
                 "photo. The field shows the text that every app reads; the others stay with the photo whatever you "
                 "write there."_s),
-            bullets({ u"A field that has other languages names them at its right end, like “de fr”. Click there to see "
-                      "and edit them."_s,
+            bullets({ u"A field that has other languages names them at its right end, like “de fr”. Click there, or "
+                      "press ⌥Right in the field, to see and edit them; ⌥Left hides them."_s,
                 u"Add language finds a language by its name; the cross behind a text takes that language away."_s,
                 u"Both count as unsaved until you save, and work for several photos at once."_s }),
         } };
@@ -271,6 +286,8 @@ Page page(HelpTopic topic)
         return interfacePage();
     case HelpTopic::editing:
         return editingPage();
+    case HelpTopic::hands:
+        return handsPage();
     case HelpTopic::languages:
         return languagesPage();
     case HelpTopic::keywordPaths:

@@ -14,6 +14,7 @@ enum class HelpTopic {
     gettingStarted,
     interface,
     editing,
+    hands,
     languages,
     keywordPaths,
     disagreements,

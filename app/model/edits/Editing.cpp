@@ -62,7 +62,6 @@ bool Editing::isSending() const
     return m_sent.isRunning && !m_sent.isLeft && m_sent.selectionSerial == m_selected.serial();
 }
 
-// What is unsaved and not being saved either.
 Edits Editing::typed() const
 {
     return isSending() ? unsaved().minus(m_sent.batch.edits, {}) : unsaved();

@@ -34,6 +34,10 @@ public:
     /// The edits of the selected photos that wait to be saved, with these photos.
     Edits unsaved() const;
     int unsavedCount() const { return m_unsavedCount; }
+    /// What of it is not being saved either.
+    Edits typed() const;
+    /// What a save that runs was given, with its photos; empty while none runs.
+    Edits sending() const { return m_sent.isRunning ? m_sent.batch.edits : Edits(); }
 
     void setSingle(const QString& id, const QString& value);
     void addSingleListItem(const QString& id, const QString& item);
@@ -143,7 +147,6 @@ private:
     QString shownCustom(const QString& name) const;
     void changed();
     bool isSending() const;
-    Edits typed() const;
     QList<LeftEdits> standing() const;
     LeftEdits leftOf(const Edits& edits, bool returns = false) const;
     void restart();

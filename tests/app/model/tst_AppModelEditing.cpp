@@ -68,6 +68,8 @@ private slots:
     void location_data();
     void location();
     void keywordCompletions();
+    void stars();
+    void sameAsBefore();
 };
 
 void tst_AppModelEditing::singleEdits()
@@ -383,6 +385,89 @@ void tst_AppModelEditing::keywordCompletions()
     QCOMPARE(f->keywordCompletions(u"s"_s, 9), QStringList({ u"sky"_s, u"sea"_s, u"Sea"_s }));
     QCOMPARE(f->keywordCompletions(u"SE"_s, 1).size(), 1);
     QCOMPARE(f->keywordCompletions(u"x"_s, 9), QStringList());
+}
+
+void tst_AppModelEditing::stars()
+{
+    ThreePhotos f;
+    QVERIFY(f.select(u"a"_s));
+    const auto rating = [&f] { return f->draftValues().value(u"rating"_s); };
+    f->rate(4);
+    QCOMPARE(f->unsavedCount(), 0);
+    f->rate(5);
+    QCOMPARE(rating(), u"5"_s);
+    f->rate(0);
+    QCOMPARE(rating(), u"0"_s);
+    f->discardSaveDialog();
+    // None where there are none, for one photo or for many, is nothing to write.
+    f.ModelFixture::select(u"b"_s);
+    f->rate(0);
+    QCOMPARE(f->unsavedCount(), 0);
+    f.ModelFixture::select(u"bc"_s);
+    f->rate(0);
+    QCOMPARE(f->unsavedCount(), 0);
+    f->rate(3);
+    QCOMPARE(f->batchValues().value(u"rating"_s), u"3"_s);
+    QVERIFY(f->visibleFieldIDs(FieldSection::additional).contains(u"rating"_s));
+    f->rate(0);
+    QCOMPARE(f->batchValues().value(u"rating"_s), u"0"_s);
+    f.ModelFixture::select(u"abc"_s);
+    f->rate(0);
+    QCOMPARE(f->batchInclude(), QSet<QString>{ u"rating"_s });
+}
+
+void tst_AppModelEditing::sameAsBefore()
+{
+    ThreePhotos f;
+    f.lookAtDetails([](const QList<ImageRecord>& photos, const ReadControl&) {
+        QHash<QUrl, PhotoDetails> found;
+        for (const ImageRecord& photo : photos) {
+            found.insert(photo.url, { .url = photo.url });
+            if (photo.fileName == u"a.jpg"_s) {
+                found[photo.url].languages.insert(u"title@de"_s, u"Eins"_s);
+                found[photo.url].paths = { u"Water|sea"_s, u"Birds|gull"_s };
+            }
+        }
+        return found;
+    });
+    QVERIFY(f.select(u"a"_s));
+    f->addCustomField(u"Mood"_s, u"calm"_s);
+    f->preferences().saveDontAsk.set(true);
+    f->requestSave();
+    QVERIFY(f.waitUntilIdle());
+    QTRY_VERIFY(f->details(f.url(u"a.jpg"_s)));
+    // What is left unsaved there does not count.
+    f->setSingle(u"title"_s, u"unsaved"_s);
+    f->discardSaveDialog();
+    struct Row {
+        QString selected;
+        QString key;
+        QString shown;  // of the field afterwards
+    };
+    const QList<Row> rows{ { u"b"_s, u"title"_s, u"A"_s }, { u"bc"_s, u"title"_s, u"A"_s },
+        { u"b"_s, u"rating"_s, u"4"_s }, { u"b"_s, u"custom:Mood"_s, u"calm"_s },
+        { u"bc"_s, u"custom:Mood"_s, u"calm"_s }, { u"b"_s, u"title@de"_s, u"Eins"_s },
+        { u"b"_s, u"people"_s, u"Eva"_s }, { u"bc"_s, u"people"_s, u"Eva"_s },
+        // A list is replaced, and what its keywords' paths are comes with it.
+        { u"b"_s, u"keywords"_s, u"sea,sky,Water|sea"_s },
+        // What is empty there takes nothing away; before the first there is none.
+        { u"c"_s, u"rating"_s, u"2"_s }, { u"a"_s, u"title"_s, u"A"_s } };
+    for (const Row& row : rows) {
+        f.ModelFixture::select(row.selected);
+        QCOMPARE(f->hasPhotoBefore(), row.selected != u"a"_s);
+        if (row.selected == u"c"_s)
+            f->setSingle(u"rating"_s, u"2"_s);
+        f->takeFromPhotoBefore(row.key);
+        const bool isBatch = f->isBatch();
+        const auto customs = isBatch ? f->batchCustoms() : f->draftCustoms();
+        QStringList now = isBatch ? f->batchLists().value(row.key) : f->draftLists().value(row.key);
+        if (row.key.startsWith(u"custom:"_s))
+            now.append(customs.isEmpty() ? QString() : customs.constFirst().value);
+        else if (now.isEmpty())
+            now.append(isBatch ? f->batchValues().value(row.key) : f->draftValues().value(row.key));
+        QCOMPARE(row.key + u": "_s + (now + f->typedPaths()).join(u','), row.key + u": "_s + row.shown);
+        f->discardSaveDialog();
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelEditing)

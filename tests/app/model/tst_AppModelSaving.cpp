@@ -50,6 +50,9 @@ private slots:
     void batchEditsDuringASaveAreKept();
     void editsOfAnotherPhotoSurviveASave();
     void clickDuringASaveWaits();
+    void goesOnWhileItSaves();
+    void goesOnAsAnswered_data();
+    void goesOnAsAnswered();
     void failuresKeepEdits_data();
     void failuresKeepEdits();
     void failedReReadKeepsEdits();
@@ -383,6 +386,83 @@ void tst_AppModelSaving::clickDuringASaveWaits()
     QCOMPARE(f.primary(), u"b.jpg"_s);
     QCOMPARE(f->unsavedCount(), 0);
     QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s), QJsonValue(u"X"_s));
+}
+
+// The hands do not wait for the tool: neither for the next photo, nor for what was typed into the last one.
+void tst_AppModelSaving::goesOnWhileItSaves()
+{
+    GatedPhotos f;
+    QVERIFY(f.open());
+    f->preferences().saveDontAsk.set(true);
+    f->setSingle(u"title"_s, u"X"_s);
+    f->addSingleListItem(u"keywords"_s, u"sea"_s);
+    f.shut();
+    f->saveAndGoOn();
+    QCOMPARE(f.primary(), u"b.jpg"_s);
+    QVERIFY(f.waitForRun());
+    QVERIFY(f->isSaving());
+    QCOMPARE(f->unsavedCount(), 0);
+    f->takeFromPhotoBefore(u"title"_s);
+    f->takeFromPhotoBefore(u"keywords"_s);
+    QCOMPARE(f->draftValues().value(u"title"_s), u"X"_s);
+    QCOMPARE(f->draftLists().value(u"keywords"_s), QStringList{ u"sea"_s });
+    // One save at a time: the second one waits for the first, and goes on as soon as it begins.
+    f->saveAndGoOn();
+    QCOMPARE(f.primary(), u"b.jpg"_s);
+    f.release();
+    QTRY_COMPARE_WITH_TIMEOUT(f.primary(), u"c.jpg"_s, 30'000);
+    QVERIFY(f.waitUntilIdle());
+    for (const QString& name : { u"a.jpg"_s, u"b.jpg"_s })
+        QCOMPARE(f.onDisk(name, u"XMP:Title"_s), QJsonValue(u"X"_s));
+    // Nothing follows the last one, and of nothing unsaved nothing is saved.
+    f->setSingle(u"title"_s, u"last"_s);
+    f->saveAndGoOn();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f.primary(), u"c.jpg"_s);
+    QCOMPARE(f.onDisk(u"c.jpg"_s, u"XMP:Title"_s), QJsonValue(u"last"_s));
+    f.selectAB();
+    f->saveAndGoOn();
+    QVERIFY(!f->isSaving());
+    QCOMPARE(f.selected(), QStringList{ u"c.jpg"_s });
+}
+
+void tst_AppModelSaving::goesOnAsAnswered_data()
+{
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QString>("primary");
+    QTest::addColumn<QString>("title");
+    QTest::addRow("save") << u"save"_s << u"b.jpg"_s << u"X"_s;
+    QTest::addRow("discard") << u"discard"_s << u"b.jpg"_s << QString();
+    QTest::addRow("cancel") << u"cancel"_s << u"a.jpg"_s << QString();
+}
+
+void tst_AppModelSaving::goesOnAsAnswered()
+{
+    QFETCH(QString, answer);
+    QFETCH(QString, primary);
+    QFETCH(QString, title);
+    GatedPhotos f;
+    QVERIFY(f.open());
+    f->setSingle(u"title"_s, u"X"_s);
+    f->saveAndGoOn();
+    QVERIFY(f->saveOpen());
+    QCOMPARE(f.primary(), u"a.jpg"_s);
+    if (answer == u"save"_s)
+        f->confirmSaveDialog();
+    else if (answer == u"discard"_s)
+        f->discardSaveDialog();
+    else
+        f->cancelSaveDialog();
+    QCOMPARE(f.primary(), primary);
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Title"_s).toString(), title);
+    // It was asked for once: a later save goes nowhere.
+    const QString here = f.primary();
+    f->setSingle(u"headline"_s, u"Y"_s);
+    f->requestSave();
+    f->confirmSaveDialog();
+    QVERIFY(f.waitUntilIdle());
+    QCOMPARE(f.primary(), here);
 }
 
 void tst_AppModelSaving::failuresKeepEdits_data()

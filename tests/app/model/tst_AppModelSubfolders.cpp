@@ -105,6 +105,7 @@ private slots:
     void orderWithin();
     void search();
     void folding();
+    void stepping();
     void foldsEndWithTheFolder();
     void clicks_data();
     void clicks();
@@ -275,6 +276,42 @@ void tst_AppModelSubfolders::folding()
     QCOMPARE(f.groups(), u"-top 1@0, -Alps 2@1, -Alps / Lake 2@3, -Zoo 1@5"_s);
     f->setAllFolded(false);
     QCOMPARE(f.groups(), u"top 1@0, Alps 2@1, Alps / Lake 2@3, Zoo 1@5"_s);
+}
+
+// From photo to photo as the list shows them.
+void tst_AppModelSubfolders::stepping()
+{
+    Tree f;
+    QVERIFY(f.openAll());
+    const auto walk = [&f](int places) {
+        QStringList walked;
+        for (; f->canStep(places); walked.append(f.chosen()))
+            f->step(places);
+        return walked.join(u' ');
+    };
+    QStringList shown = f.shown().split(u' ');
+    QCOMPARE(f.chosen(), shown.constFirst());
+    QCOMPARE(walk(1), shown.mid(1).join(u' '));
+    // Folded photos are passed over; from one that folded itself away it goes on beside it.
+    f->setFolded(f.url(u"Alps"_s), true);
+    shown.removeIf([](const QString& path) { return path.startsWith(u"Alps/"_s) && path.count(u'/') == 1; });
+    QCOMPARE(walk(-1), QStringList(shown.crbegin() + 1, shown.crend()).join(u' '));
+    f->tap(f.url(u"Alps/a.jpg"_s), false, false);
+    QVERIFY(f->canStep(1));
+    f->step(1);
+    QCOMPARE(f.chosen(), u"Alps/Lake/a.jpg"_s);
+    // The guard asks as it does for a click, and the step goes on afterwards.
+    f->setSingle(u"title"_s, u"X"_s);
+    f->step(1);
+    QVERIFY(f->saveOpen());
+    f->discardSaveDialog();
+    QCOMPARE(f.chosen(), u"Alps/Lake/c.jpg"_s);
+    // From a photo that the search hides to the first that it shows, or back to the last.
+    f->setSearch(u"z"_s);
+    QVERIFY(f->canStep(-1));
+    f->step(1);
+    QCOMPARE(f.chosen(), u"Zoo/z.jpg"_s);
+    QVERIFY(!f->canStep(1) && !f->canStep(-1));
 }
 
 void tst_AppModelSubfolders::foldsEndWithTheFolder()

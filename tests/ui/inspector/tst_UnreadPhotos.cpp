@@ -5,6 +5,7 @@
 #include "ui/controls/Toggles.h"
 #include "ui/inspector/BatchBanner.h"
 #include "ui/inspector/CameraSection.h"
+#include "ui/inspector/KeptField.h"
 #include "ui/inspector/PhotoHeader.h"
 #include "ui/places/MapPreview.h"
 #include "ui/window/ProgressFoot.h"
@@ -135,7 +136,9 @@ void tst_UnreadPhotos::nothingFlashesForARecordThatComesSoon()
 
 void tst_UnreadPhotos::theKeyboardComesBack()
 {
-    for (const bool leaves : { false, true }) {
+    enum class Way { click, clickAndLeave, step };
+    for (const Way way : { Way::click, Way::clickAndLeave, Way::step }) {
+        const bool leaves = way == Way::clickAndLeave;
         HalfRead f;
         QVERIFY(f.openHalf());
         QLineEdit elsewhere(f.window.get());
@@ -143,9 +146,17 @@ void tst_UnreadPhotos::theKeyboardComesBack()
         f.click(u"b.jpg"_s);
         auto* creator = f.editor<QBTextField>(u"creator"_s);
         creator->setFocus();
-        f.click(u"a.jpg"_s);
+        if (way == Way::step) {
+            // As the shell does it: what is typed is committed by taking the keyboard away.
+            f.view->keptField().keep();
+            creator->clearFocus();
+            f.model().step(-1);
+            QCOMPARE(f.photos.primary(), u"a.jpg"_s);
+        } else {
+            f.click(u"a.jpg"_s);
+        }
         QTRY_VERIFY(saysReading(f));
-        QTest::keyClicks(QApplication::focusWidget(), u"abc 5\r"_s);
+        QTest::keyClicks(QApplication::focusWidget() ? QApplication::focusWidget() : f.window.get(), u"abc 5\r"_s);
         QCOMPARE(f.model().unsavedCount(), 0);
         if (leaves)
             elsewhere.setFocus();

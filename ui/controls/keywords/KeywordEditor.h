@@ -51,6 +51,8 @@ public:
     /// as well, at the place where it was made.
     QLineEdit* entry() const;
     void clearEntry();
+    /// What stands in the entry is added, as by Return.
+    void commit();
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     /// It fixes its own height to what its width asks for.
@@ -80,7 +82,6 @@ private:
     void focusChip(int index);
     /// False when there is none.
     bool focusLastChip();
-    void commit();
     void addAll(const QStringList& keywords);
     void complete();
     void acceptCompletion(int row);

@@ -1,0 +1,360 @@
+// Hands that stay on the keys, in the whole window: from photo to photo within a field, stars, the same as before; and
+// that no key is promised twice, or in vain.
+#include "app/shell/Menus.h"
+#include "tests/app/model/ModelFixture.h"
+#include "tests/ui/UiSupport.h"
+#include "tests/ui/window/WindowFixture.h"
+#include "ui/controls/BriefNote.h"
+#include "ui/controls/RatingEditor.h"
+#include "ui/controls/ThemedMenuBar.h"
+#include "ui/controls/keywords/KeywordEditor.h"
+#include "ui/inspector/FieldRow.h"
+#include "ui/inspector/InspectorForm.h"
+#include "ui/inspector/InspectorView.h"
+#include "ui/inspector/KeptField.h"
+#include "ui/sheets/SaveDialogView.h"
+#include "ui/sheets/ShortcutsSheet.h"
+#include "ui/sidebar/SidebarList.h"
+
+#include <QDir>
+#include <QMenu>
+#include <QPlainTextEdit>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The window with its menus and the real inspector, over photos a, b and c: "a" has all fields, "b" and "c" few.
+struct HandsWindow : ModelFixture {
+    HandsWindow()
+    {
+        services.endEditing = [] {
+            QWidget* focus = QApplication::focusWidget();
+            if (qobject_cast<QLineEdit*>(focus) || qobject_cast<QPlainTextEdit*>(focus))
+                focus->clearFocus();
+        };
+        relaunch();
+        static const QList<QByteArray> photos{ photo({ u"-XMP-dc:Title=One"_s, u"-XMP-dc:Description=Long"_s,
+                                                   u"-XMP-iptcExt:Event=Final"_s, u"-XMP-dc:Subject=sea"_s,
+                                                   u"-XMP:Rating=2"_s }),
+            photo({ u"-XMP-dc:Title=Two"_s, u"-XMP-dc:Description=Longer"_s, u"-XMP:Rating=3"_s }),
+            photo({ u"-XMP-dc:Title=Three"_s }) };
+        QDir(folder.path()).mkdir(u"x"_s);
+        for (int i = 0; i < 3; ++i)
+            folder.add(QChar(u'a' + i) + u".jpg"_s, photos.at(i));
+        folder.add(u"x/d.jpg"_s, photos.at(2));
+    }
+    static QByteArray photo(const QStringList& tags)
+    {
+        const PhotoFolder folder;
+        const QString path = folder.add(u"x.jpg"_s).toLocalFile();
+        exiftool(QStringList{ u"-overwrite_original"_s } + tags + QStringList{ path });
+        return readFile(path);
+    }
+    bool show(bool withSubfolders = false)
+    {
+        window = std::make_unique<QMainWindow>();
+        ContentFactories factories;
+        factories.inspector = [this](QWidget* parent) {
+            return inspector = new InspectorView(*model, nullptr, nullptr, nullptr, parent);
+        };
+        factories.keptField = [](QWidget* view) { return &static_cast<InspectorView*>(view)->keptField(); };
+        factories.save = [this] { return new SaveDialogView(*model); };
+        content = new ContentView(*model, nullptr, scheme, window.get(), factories);
+        window->setMenuWidget(content->bar());
+        window->setCentralWidget(content);
+        window->resize(1200, 900);
+        new Menus(*model, *content, { .openSettings = [] {}, .openHelp = [] {} });
+        window->show();
+        window->activateWindow();
+        model->load({ folderURL() }, withSubfolders);
+        return QTest::qWaitForWindowActive(window.get()) && waitUntilIdle() && !model->records().isEmpty();
+    }
+    QWidget* input(const QString& key) const
+    {
+        const FieldRow* row = inspector->findChild<InspectorForm*>()->row(key);
+        return row ? row->input() : nullptr;
+    }
+    void press(int key, Qt::KeyboardModifiers modifiers) const
+    {
+        QWidget* focus = QApplication::focusWidget();
+        QTest::keyClick(focus ? focus : window.get(), Qt::Key(key), modifiers);
+    }
+    // What is selected in the field that has the keyboard.
+    static QString selectedText()
+    {
+        if (const auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget()))
+            return line->selectedText();
+        const auto* area = qobject_cast<QPlainTextEdit*>(QApplication::focusWidget());
+        return area ? area->textCursor().selectedText() : QString();
+    }
+    QString note() const
+    {
+        return window->findChild<BriefNote*>()->isVisible() ? content->window()->findChild<BriefNote*>()->text()
+                                                            : QString();
+    }
+
+    SystemScheme scheme;
+    std::unique_ptr<QMainWindow> window;
+    ContentView* content = nullptr;
+    InspectorView* inspector = nullptr;
+};
+
+// By the entry's text, without the marks of mnemonics.
+QAction* actionOf(const QWidget& window, const QString& text)
+{
+    for (auto* action : window.findChildren<QAction*>())
+        if (action->text().remove(u'&') == text)
+            return action;
+    return nullptr;
+}
+
+}  // namespace
+
+class tst_Hands : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { failOnWarnings(); }
+    void theFieldIsKept_data();
+    void theFieldIsKept();
+    void theGuardComesBetween();
+    void goesOn();
+    void starsAndTheSameAsBefore();
+    void noKeyTwice();
+    void toldKeysExist();
+    void theSheetOfShortcuts();
+};
+
+void tst_Hands::theFieldIsKept_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QStringList>("selected");  // of a, b and c: the text that is selected
+    QTest::newRow("a text") << u"title"_s << QStringList{ u"Two"_s, u"Three"_s };
+    QTest::newRow("an area") << u"description"_s << QStringList{ u"Longer"_s, QString() };
+    QTest::newRow("keywords") << u"keywords"_s << QStringList{ QString(), QString() };
+    QTest::newRow("stars, which are put on screen") << u"rating"_s << QStringList{ QString(), QString() };
+    QTest::newRow("a field that the next photos lack") << u"event"_s << QStringList{ QString(), QString() };
+}
+
+void tst_Hands::theFieldIsKept()
+{
+    QFETCH(QString, key);
+    QFETCH(QStringList, selected);
+    HandsWindow f;
+    QVERIFY(f.show());
+    f.input(key)->setFocus();
+    for (const QString& text : selected) {
+        f.press(Qt::Key_Down, Qt::AltModifier);
+        QTRY_VERIFY(f.input(key) && f.input(key)->hasFocus());
+        QCOMPARE(f.selectedText(), text);
+        QCOMPARE(f->unsavedCount(), 0);
+    }
+    QCOMPARE(f.primary(), u"c.jpg"_s);
+    // At the end the field stays as it is.
+    f.press(Qt::Key_Down, Qt::AltModifier);
+    QVERIFY(f.input(key)->hasFocus());
+    f.press(Qt::Key_Up, Qt::AltModifier);
+    QCOMPARE(f.primary(), u"b.jpg"_s);
+    QTRY_COMPARE(f.selectedText(), selected.constFirst());
+    // The list keeps the keyboard where it has it.
+    auto* list = f.window->findChild<SidebarList*>();
+    list->setFocus();
+    f.press(Qt::Key_Down, Qt::AltModifier);
+    QCOMPARE(f.primary(), u"c.jpg"_s);
+    QVERIFY(list->hasFocus());
+}
+
+void tst_Hands::theGuardComesBetween()
+{
+    HandsWindow f;
+    QVERIFY(f.show());
+    f.input(u"title"_s)->setFocus();
+    QTest::keyClicks(f.input(u"title"_s), u"!"_s);
+    f.press(Qt::Key_Down, Qt::AltModifier);
+    QVERIFY(f->saveOpen());
+    f->cancelSaveDialog();
+    QCOMPARE(f.primary(), u"a.jpg"_s);
+    QTRY_VERIFY(f.input(u"title"_s)->hasFocus());
+    f.press(Qt::Key_Down, Qt::AltModifier);
+    QVERIFY(f->saveOpen());
+    f->discardSaveDialog();
+    QCOMPARE(f.primary(), u"b.jpg"_s);
+    qDebug() << QApplication::focusWidget() << f.inspector->keptField().current();
+    QTRY_COMPARE(f.selectedText(), u"Two"_s);
+    // Who went elsewhere meanwhile is not called back.
+    f.window->findChild<SidebarList*>()->setFocus();
+    f.click(u"c.jpg"_s);
+    QCoreApplication::processEvents();
+    QVERIFY(!f.input(u"title"_s)->hasFocus());
+}
+
+void tst_Hands::goesOn()
+{
+    HandsWindow f;
+    QVERIFY(f.show());
+    f->preferences().saveDontAsk.set(true);
+    f->preferences().backupOriginals.set(false);
+    f.input(u"keywords"_s)->setFocus();
+    QTest::keyClicks(f.input(u"keywords"_s), u"beach"_s);
+    f.press(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(f.primary(), u"b.jpg"_s);
+    QTRY_VERIFY(f.input(u"keywords"_s)->hasFocus());
+    QVERIFY(f.waitUntilIdle());
+    // What was half typed went with it.
+    QCOMPARE(f.onDisk(u"a.jpg"_s, u"XMP:Subject"_s).toVariant().toStringList(), (QStringList{ u"sea"_s, u"beach"_s }));
+    f.press(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(f.primary(), u"c.jpg"_s);
+    QVERIFY(f.note().isEmpty());
+    f.press(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(f.primary(), u"c.jpg"_s);
+    QCOMPARE(f.note(), u"This is the last photo"_s);
+}
+
+void tst_Hands::starsAndTheSameAsBefore()
+{
+    HandsWindow f;
+    QVERIFY(f.show());
+    QAction* same = actionOf(*f.window, u"Same as Photo Before"_s);
+    QVERIFY(!same->isEnabled());
+    auto* list = f.window->findChild<SidebarList*>();
+    list->setFocus();
+    f.press(Qt::Key_5, {});
+    QCOMPARE(f->draftValues().value(u"rating"_s), u"5"_s);
+    QVERIFY(list->hasFocus());
+    // A name that is typed has its digits, in the list and in a field.
+    f.press(Qt::Key_B, {});
+    f->discardSaveDialog();
+    QCOMPARE(f.primary(), u"b.jpg"_s);
+    f.press(Qt::Key_1, {});
+    QCOMPARE(f->unsavedCount(), 0);
+    f.input(u"title"_s)->setFocus();
+    f.press(Qt::Key_4, {});
+    QVERIFY(f->draftValues().value(u"title"_s).contains(u'4'));
+    f.press(Qt::Key_4, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(f->draftValues().value(u"rating"_s), u"4"_s);
+    QVERIFY(f.input(u"title"_s)->hasFocus());
+    QVERIFY(same->isEnabled());
+    f.press(Qt::Key_Apostrophe, Qt::ControlModifier);
+    QCOMPARE(f->draftValues().value(u"title"_s), u"One"_s);
+    QVERIFY(f.note().isEmpty());
+    f.press(Qt::Key_Apostrophe, Qt::ControlModifier);
+    QCOMPARE(f.note(), u"Nothing else in the photo before"_s);
+    // Of many, the stars come on screen and take no keyboard.
+    f->discardSaveDialog();
+    f.select(u"bc"_s);
+    f.input(u"title"_s)->setFocus();
+    f.press(Qt::Key_1, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(f->batchValues().value(u"rating"_s), u"1"_s);
+    QCoreApplication::processEvents();
+    QVERIFY(f.input(u"rating"_s) && f.input(u"title"_s)->hasFocus());
+}
+
+// In the window, and no letter twice in one menu.
+void tst_Hands::noKeyTwice()
+{
+    HandsWindow f;
+    QVERIFY(f.show());
+    QMap<QString, QString> taken;
+    QStringList clashes;
+    const std::function<void(const QMenu&)> check = [&](const QMenu& menu) {
+        QMap<QChar, QString> letters;
+        for (const QAction* action : menu.actions()) {
+            const QString text = action->text();
+            for (const QKeySequence& key : action->shortcuts()) {
+                if (taken.contains(key.toString()))
+                    clashes.append(key.toString() + u": "_s + text + u", "_s + taken.value(key.toString()));
+                taken.insert(key.toString(), text);
+            }
+            const qsizetype mark = QString(text).replace(u"&&"_s, u"  "_s).indexOf(u'&');
+            const QChar letter = mark < 0 ? QChar() : text.at(mark + 1).toLower();
+            if (mark >= 0 && letters.contains(letter))
+                clashes.append(menu.title() + u": "_s + text + u", "_s + letters.value(letter));
+            if (mark >= 0)
+                letters.insert(letter, text);
+            if (const auto* submenu = action->menu<QMenu*>())
+                check(*submenu);
+        }
+    };
+    for (const QAction* action : f.content->bar()->menuBar()->actions())
+        check(*action->menu<QMenu*>());
+    QVERIFY(taken.size() > 20);
+    QCOMPARE(clashes, QStringList());
+}
+
+// Each key of the table is taken where the table says.
+void tst_Hands::toldKeysExist()
+{
+    HandsWindow f;
+    f.lookAtDetails();
+    QVERIFY(f.show(true));
+    QVERIFY(!f->folderGroups().isEmpty());
+    auto* search = f.window->findChildren<QLineEdit*>().constFirst();
+    for (auto* field : f.window->findChildren<QLineEdit*>())
+        if (field->accessibleName() == u"Search"_s)
+            search = field;
+    const QMap<ShortcutPlace, QWidget*> widgets{ { ShortcutPlace::list, f.window->findChild<SidebarList*>() },
+        { ShortcutPlace::field, f.input(u"title"_s) }, { ShortcutPlace::keywords, f.input(u"keywords"_s) },
+        { ShortcutPlace::stars, f.input(u"rating"_s) }, { ShortcutPlace::search, search } };
+    QCOMPARE(widgets.size() + 1, Shortcuts::inPlaces().size());
+    for (auto place = widgets.cbegin(); place != widgets.cend(); ++place) {
+        (*place)->setFocus();
+        for (const Shortcut& shortcut : Shortcuts::in(place.key()).rows)
+            for (const QKeyCombination key : shortcut.keys) {
+                QWidget* target = place.key() == ShortcutPlace::search ? *place : QApplication::focusWidget();
+                const QList<QAction*> actions = target->actions();
+                const bool isAction = std::any_of(actions.cbegin(), actions.cend(),
+                    [key](const QAction* action) { return action->shortcut() == QKeySequence(key); });
+                const QString text =
+                    key.key() < Qt::Key_Escape && key.key() != Qt::Key_Space ? QString(QChar(key.key())) : QString();
+                QKeyEvent event(QEvent::KeyPress, key.key(), key.keyboardModifiers(), text);
+                if (!isAction)
+                    QApplication::sendEvent(target, &event);
+                QVERIFY2(
+                    isAction || (event.isAccepted() && place.key() != ShortcutPlace::field), qPrintable(shortcut.does));
+            }
+    }
+}
+
+void tst_Hands::theSheetOfShortcuts()
+{
+    HandsWindow f;
+    QVERIFY(f.show());
+    f.press(Qt::Key_F1, Qt::ControlModifier);
+    auto* sheet = f.window->findChild<ShortcutsSheet*>();
+    QVERIFY(sheet);
+    const auto shown = [sheet] {
+        QStringList texts;
+        for (const QWidget* row : sheet->findChildren<QWidget*>())
+            if (row->isVisible() && QString::fromLatin1(row->metaObject()->className()).endsWith(u"ShortcutRow"_s))
+                texts.append(row->accessibleName());
+        return texts;
+    };
+    // The menus' own, the rows of digits as one.
+    const QStringList all = shown();
+    for (const QString& text : { u"Save and Next Photo: Ctrl+Return"_s, u"Rating: Ctrl+Alt+0 … 5"_s, u"Rate: 0 … 5"_s,
+             u"Keyboard Shortcuts: Ctrl+F1"_s })
+        QVERIFY2(all.contains(text), qPrintable(text + u" not in "_s + all.join(u'\n')));
+    auto* query = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    QVERIFY(query && sheet->isAncestorOf(query));
+    QTest::keyClicks(query, u"photo before"_s);
+    QCOMPARE(shown(), QStringList{ u"Same as Photo Before: Ctrl+'"_s });
+    QCOMPARE(query->accessibleDescription(), shown().constFirst());
+    query->clear();
+    QTest::keyClicks(query, u"on the stars"_s);
+    QCOMPARE(shown().size(), 2);
+    query->clear();
+    QTest::keyClicks(query, u"xyzzy"_s);
+    QVERIFY(labels(sheet).contains(u"No such shortcut."_s));
+    QTest::keyClick(query, Qt::Key_Escape);
+    QVERIFY(!f.content->sheets()->current());
+}
+
+int main(int argc, char* argv[])
+{
+    return runOnLargeScreen<tst_Hands>(argc, argv);
+}
+
+#include "tst_Hands.moc"
