@@ -2,10 +2,10 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/renaming/PhotosRenaming.h"
-#include "app/model/words/FieldPasting.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/words/QuickKeywords.h"
 #include "app/model/timeshift/TimeShifting.h"
+#include "app/model/words/FieldPasting.h"
 #include "core/Product.h"
 #include "platform/desktop/SystemScheme.h"
 #include "ui/controls/BriefNote.h"

@@ -307,7 +307,8 @@ void PhotoList::rename(const NewNames& names)
             m_open.files->note(photo);
     }
     m_open.index.replace(positions, m_open.records);
-    contentChanged(true, true);
+    // All hold what they held, in their places.
+    contentChanged(false, true);
 }
 
 void PhotoList::contentChanged(bool isHeldChanged, bool photosChanged)

@@ -377,7 +377,8 @@ void PhotosRenaming::finish(const Result& result, const QString& message)
         m_selected = m_model.selection();
         prepare();
     }
-    keepInCache(names);
+    // In a turn of its own.
+    QTimer::singleShot(0, this, [this, names] { keepInCache(names); });
     // Last: what waited for it may be the end of the program.
     m_parts.saving.release(true);
 }

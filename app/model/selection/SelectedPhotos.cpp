@@ -3,6 +3,7 @@
 #include "app/model/library/PhotoList.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Quorbel {
 
@@ -27,8 +28,11 @@ void SelectedPhotos::follow(const Selection& selection)
     const Announcer::Together together(m_announcer);
     m_selection.anchor = selection.anchor;
     if (m_announcer.assign(m_selection.photos, selection.photos, Change::selection)) {
-        m_rows.reset();
-        m_summary.reset();
+        forgetIfOutdated();
+        const std::optional<QList<int>> before = std::exchange(m_rows, std::nullopt);
+        // Photos that only got other names hold together what they held.
+        if (!before || before->size() != m_selection.photos.size() || rows() != *before)
+            m_summary.reset();
     }
     m_announcer.assign(m_selection.primary, selection.primary, Change::primary);
 }

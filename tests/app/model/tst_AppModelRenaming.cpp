@@ -324,6 +324,11 @@ void tst_AppModelRenaming::manyAtOnce()
     QCOMPARE(rows.count(), 1);
     QCOMPARE(pictures, 4);
     QCOMPARE(f->record(f.url(u"x01.jpg"_s))->values.value(u"title"_s), u"c.jpg"_s);
+    QCOMPARE(f->selectedRows().size(), 3);
+    QCOMPARE(f->sharedValue(u"title"_s), std::nullopt);
+    f.click(u"x01.jpg"_s);
+    QCOMPARE(f->sharedValue(u"title"_s), u"c.jpg"_s);
+    QCOMPARE(f->selectedRows().size(), 1);
     QVERIFY(QTest::qWaitFor([&] { return f->canRefresh() && !f->isWorking(); }));
     tool.release();
     f->refresh();

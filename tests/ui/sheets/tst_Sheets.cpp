@@ -1,8 +1,8 @@
 // The add-field sheet, the save dialog, the rename sheet, templates and shifts, presented over a window and used.
 #include "app/model/AppModel.h"
 #include "app/model/renaming/PhotosRenaming.h"
-#include "app/model/words/FieldPasting.h"
 #include "app/model/templates/Templates.h"
+#include "app/model/words/FieldPasting.h"
 #include "tests/app/model/ModelFixture.h"
 #include "tests/ui/UiSupport.h"
 #include "ui/controls/Buttons.h"
