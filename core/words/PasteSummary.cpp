@@ -193,7 +193,7 @@ QString line(const QString& key, const PasteCount& count, bool isTicked)
     if (count.same > 0)
         told.append(count.photos() == 1 ? u"the same already"_s : u"same in %1"_s.arg(count.same));
     if (count.unknown > 0)
-        told.append(u"%1 not looked at yet"_s.arg(count.unknown));
+        told.append(count.photos() == 1 ? u"not looked at yet"_s : u"%1 not looked at yet"_s.arg(count.unknown));
     return capitalized(told.join(u", "_s));
 }
 

@@ -195,6 +195,10 @@ void QBTextField::replaceCode()
     // Over a selection: one step for Undo.
     setSelection(int(code->start), int(code->length));
     insert(code->text);
+    // What is typed from here on is another step: only a caret that moved ends one.
+    const int end = cursorPosition();
+    setCursorPosition(end - 1);
+    setCursorPosition(end);
 }
 
 // Undo gives the code back as it was replaced: selected. What one types next must not take its place.
@@ -409,7 +413,11 @@ void QBTextArea::replaceCode()
     if (!code)
         return;
     cursor.setPosition(cursor.block().position() + int(code->start), QTextCursor::KeepAnchor);
-    cursor.insertText(code->text);
+    cursor.beginEditBlock();
+    // What is typed from here on is another step: it would join an insertion, but not a removal.
+    cursor.insertText(code->text + QChar::Space);
+    cursor.deletePreviousChar();
+    cursor.endEditBlock();
     setTextCursor(cursor);
 }
 

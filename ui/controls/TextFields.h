@@ -3,7 +3,7 @@
 // what the user made of it.
 #pragma once
 
-#include "ui/controls/TypedCode.h"
+#include "ui/controls/text/TypedCode.h"
 
 #include <QLineEdit>
 #include <QPlainTextEdit>

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "core/schema/FieldSchema.h"
-#include "ui/controls/TypedCode.h"
 #include "ui/controls/keywords/KeywordSuggestion.h"
+#include "ui/controls/text/TypedCode.h"
 #include "ui/inspector/FieldRowState.h"
 
 #include <QDateTime>

@@ -16,13 +16,23 @@ namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Points.
+constexpr qreal above = 7;
+constexpr qreal below = 6;
+constexpr qreal valueHeight = 18;
+constexpr qreal noteHeight = 15;
+
+}  // namespace
+
 // A rating as stars, as high as a line of text.
 class StarsLine final : public QWidget {
 public:
     StarsLine()
     {
         setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-        onRestyle(this, [this] { setFixedHeight(px(lineHeight)); });
+        onRestyle(this, [this] { setFixedHeight(px(valueHeight)); });
     }
 
     void setRating(int rating, TextRole role)
@@ -44,7 +54,6 @@ protected:
     }
 
 private:
-    static constexpr qreal lineHeight = 18;  // points
     int m_rating = 0;
     TextRole m_role = TextRole::text;
 };
@@ -67,6 +76,12 @@ PasteFieldRow::PasteFieldRow(bool isFirst, QWidget* parent)
     connect(m_tick, &QAbstractButton::clicked, this, &PasteFieldRow::toggled);
 }
 
+// Each part is whole pixels high.
+int PasteFieldRow::fixedHeight()
+{
+    return px(above) + px(valueHeight) + px(noteHeight) + px(below);
+}
+
 void PasteFieldRow::build()
 {
     auto* line = new QHBoxLayout(this);
@@ -78,13 +93,13 @@ void PasteFieldRow::build()
     line->addWidget(m_label, 0, Qt::AlignTop);
     line->addLayout(texts, 1);
     onRestyle(this, [this, line] {
-        setFixedHeight(px(rowHeight));
-        line->setContentsMargins(px(12), px(7), px(12), px(6));
+        setFixedHeight(fixedHeight());
+        line->setContentsMargins(px(12), px(above), px(12), px(below));
         line->setSpacing(px(12));
         m_tick->setContentsMargins(0, px(1), 0, 0);
-        m_label->setFixedSize(px(92), px(18));
-        m_value->setFixedHeight(px(18));
-        m_note->setFixedHeight(px(15));
+        m_label->setFixedSize(px(92), px(valueHeight));
+        m_value->setFixedHeight(px(valueHeight));
+        m_note->setFixedHeight(px(noteHeight));
     });
 }
 

@@ -18,9 +18,9 @@ class PasteFieldRow final : public QWidget {
     Q_DISABLE_COPY_MOVE(PasteFieldRow)
 
 public:
-    static constexpr qreal rowHeight = 46;  ///< points
-
     explicit PasteFieldRow(bool isFirst, QWidget* parent = nullptr);
+    /// Of every row.
+    static int fixedHeight();
     void setRow(const FieldPasting::Row& row);
     /// What takes the keyboard.
     QBCheckbox* tick() const { return m_tick; }

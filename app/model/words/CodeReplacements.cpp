@@ -40,7 +40,6 @@ QString nameOf(const QString& path)
 
 CodeReplacements::CodeReplacements(AppModel& model)
     : m_file(model.preferences(), "codeFile", {})
-    , m_watcher([this] { look(); })
 {
     // Where other machines change the file, nothing tells of it.
     if (auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
@@ -92,9 +91,11 @@ void CodeReplacements::look()
 void CodeReplacements::begin()
 {
     m_isLooking = true;
+    if (!m_watcher)
+        m_watcher = std::make_unique<FolderWatcher>([this] { look(); });
     runInBackground(
         this,
-        [path = m_file(), known = m_isKnown ? m_read.stamp : QByteArray(), watches = m_watcher.watches()] {
+        [path = m_file(), known = m_isKnown ? m_read.stamp : QByteArray(), watches = m_watcher->watches()] {
             return lookedUp(path, known, *watches);
         },
         [this](Found found) { take(std::move(found)); });

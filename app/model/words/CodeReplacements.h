@@ -8,6 +8,7 @@
 #include "core/words/CodeList.h"
 
 #include <functional>
+#include <memory>
 
 namespace Quorbel {
 
@@ -66,7 +67,7 @@ private:
     Setting<QString> m_file;
     Chooser m_chooser;
     Found m_read;
-    FolderWatcher m_watcher;
+    std::unique_ptr<FolderWatcher> m_watcher;  ///< until a file was chosen: the system grants few
     bool m_isKnown = false;
     bool m_isLooking = false;
     bool m_isStale = false;  ///< something happened since the look began

@@ -164,6 +164,8 @@ private slots:
         row("undone once", u"by =js=<"_s, u"by =js="_s);
         row("undone, and typed on", u"by =js=< x"_s, u"by =js= x"_s);
         row("undone and done again", u"by =js=<> x"_s, u"by Jane = Smith x"_s);
+        row("typed on, and that undone", u"=js= x<"_s, u"Jane = Smith"_s);
+        row("typed on, and all undone", u"by =js= x<<"_s, u"by =js="_s);
         row("another one after it was undone", u"=js=< =AB="_s, u"=js= Ana"_s);
         row("not known", u"=zz= x"_s, u"=zz= x"_s);
         row("another case is another's business", u"=ab="_s, u"=ab="_s);

@@ -3,8 +3,8 @@
 // setChips() then says.
 #pragma once
 
-#include "ui/controls/TypedCode.h"
 #include "ui/controls/keywords/KeywordSuggestion.h"
+#include "ui/controls/text/TypedCode.h"
 
 #include <QMap>
 #include <QStringList>

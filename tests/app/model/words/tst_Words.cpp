@@ -191,6 +191,8 @@ void tst_Words::linesTellWhatIsLost_data()
         u"Would add to the keywords of 12, same in 1"_s);
     row("one photo", u"title"_s, { .replaced = 1, .old = u"Old\none"_s }, u"Replaces “Old one”"_s,
         u"Would replace “Old one”"_s);
+    row("one photo that nobody looked at", u"title@de"_s, { .unknown = 1 }, u"Not looked at yet"_s,
+        u"Not looked at yet"_s);
     row("one empty photo", u"title"_s, { .filled = 1 }, u"Fills the empty field"_s, u"Would fill the empty field"_s);
     row("one photo's list", u"people"_s, { .gained = 1, .old = u"Ann, Zoë"_s }, u"Adds to “Ann, Zoë”"_s,
         u"Would add to “Ann, Zoë”"_s);

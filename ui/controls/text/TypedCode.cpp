@@ -1,4 +1,4 @@
-#include "ui/controls/TypedCode.h"
+#include "ui/controls/text/TypedCode.h"
 
 namespace Quorbel {
 
