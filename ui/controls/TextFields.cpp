@@ -407,18 +407,8 @@ void QBTextArea::inputMethodEvent(QInputMethodEvent* event)
 void QBTextArea::replaceCode()
 {
     QTextCursor cursor = textCursor();
-    if (isReadOnly() || cursor.hasSelection())
-        return;
-    const auto code = typedCode(cursor.block().text().left(cursor.positionInBlock()), m_codes);
-    if (!code)
-        return;
-    cursor.setPosition(cursor.block().position() + int(code->start), QTextCursor::KeepAnchor);
-    cursor.beginEditBlock();
-    // What is typed from here on is another step: it would join an insertion, but not a removal.
-    cursor.insertText(code->text + QChar::Space);
-    cursor.deletePreviousChar();
-    cursor.endEditBlock();
-    setTextCursor(cursor);
+    if (!isReadOnly() && replaceTypedCode(cursor, m_codes))
+        setTextCursor(cursor);
 }
 
 void QBTextArea::contextMenuEvent(QContextMenuEvent* event)

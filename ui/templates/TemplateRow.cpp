@@ -112,6 +112,14 @@ QWidget* TemplateRow::makeItems(const Completions& completions)
     return m_items;
 }
 
+void TemplateRow::setCodes(const CodeTexts& codes)
+{
+    if (m_text)
+        m_text->setCodes(codes);
+    if (m_items)
+        m_items->setCodes(codes);
+}
+
 void TemplateRow::show(const TemplateField& field)
 {
     m_field = field;

@@ -5,6 +5,7 @@
 #include "core/templates/Template.h"
 #include "core/tokens/TokenText.h"
 #include "ui/controls/keywords/KeywordSuggestion.h"
+#include "ui/controls/text/TypedCode.h"
 
 #include <QWidget>
 
@@ -30,6 +31,8 @@ public:
     const TemplateField& field() const { return m_field; }
     /// The same field, with another text perhaps.
     void show(const TemplateField& field);
+    /// What short codes in its text or items stand for.
+    void setCodes(const CodeTexts& codes);
     /// The tokens under its text.
     void setPillsShown(bool on);
     /// Gives the keyboard to its text.

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/templates/Templates.h"
+#include "app/model/words/CodeReplacements.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldLanguages.h"
 #include "ui/controls/Buttons.h"
@@ -372,6 +373,7 @@ void TemplatesSheet::addRow(const TemplateField& field, int at)
             return suggestions;
         };
     auto* row = new TemplateRow(field, completions, m_form);
+    row->setCodes(m_model.codes().texts());
     m_rows->insertWidget(at, row);
     m_shown.insert(qMin(qsizetype(at), m_shown.size()), row);
     row->QWidget::show();

@@ -11,6 +11,7 @@
 #include "ui/controls/keywords/KeywordChip.h"
 #include "ui/controls/keywords/KeywordEditor.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/tokens/TokenEdit.h"
 
 #include <QClipboard>
 #include <QListWidget>
@@ -184,12 +185,13 @@ private slots:
         Test::Stage stage;
         auto* field = stage.add(new QBTextField);
         auto* area = stage.add(new QBTextArea);
+        auto* tokens = stage.add(new TokenEdit(false));
         auto* keywords = stage.add(new KeywordEditor);
         stage.show();
-        for (const auto& set :
-            QList<std::function<void(const CodeTexts&)>>{ [&](const CodeTexts& t) { field->setCodes(t); },
-                [&](const CodeTexts& t) { area->setCodes(t); }, [&](const CodeTexts& t) { keywords->setCodes(t); } })
-            set(codeText);
+        field->setCodes(codeText);
+        area->setCodes(codeText);
+        tokens->setCodes(codeText);
+        keywords->setCodes(codeText);
         const QSignalSpy told(field, &QLineEdit::textEdited);
         QCOMPARE(typed(field, keys), text);
         QCOMPARE(told.constLast().constFirst(), text);
@@ -197,6 +199,7 @@ private slots:
         QCOMPARE(typed(area, keys), text);
         QCOMPARE(toldOfArea.constLast().constFirst(), text);
         QCOMPARE(typed(keywords->entry(), keys), text);
+        QCOMPARE(typed(tokens, keys), text);
     }
 
     // Some input methods hand over each letter, some whole words; what is only composed is not typed yet.

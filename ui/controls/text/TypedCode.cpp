@@ -1,5 +1,8 @@
 #include "ui/controls/text/TypedCode.h"
 
+#include <QTextBlock>
+#include <QTextCursor>
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -31,6 +34,21 @@ std::optional<TypedCode> typedCode(const QString& before, const CodeTexts& texts
         return std::nullopt;
     const std::optional<QString> text = texts(before.sliced(start + 1, length - 2));
     return text ? std::optional(TypedCode{ start, length, *text }) : std::nullopt;
+}
+
+bool replaceTypedCode(QTextCursor& caret, const CodeTexts& texts)
+{
+    const QTextBlock block = caret.block();
+    const auto code = typedCode(block.text().left(caret.positionInBlock()), texts);
+    if (!code || caret.hasSelection())
+        return false;
+    caret.setPosition(block.position() + int(code->start), QTextCursor::KeepAnchor);
+    caret.beginEditBlock();
+    // What is typed from here on is another step: it would join an insertion, but not a removal.
+    caret.insertText(code->text + QChar::Space, {});
+    caret.deletePreviousChar();
+    caret.endEditBlock();
+    return true;
 }
 
 }  // namespace Quorbel

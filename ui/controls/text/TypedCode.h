@@ -1,11 +1,13 @@
 // Short codes between two equals signs that become texts as one types the second: "=js=".
-// Thread: any. Pure: what a code stands for is asked of whoever knows.
+// Thread: any; of a document, its own. What a code stands for is asked of whoever knows.
 #pragma once
 
 #include <QString>
 
 #include <functional>
 #include <optional>
+
+class QTextCursor;
 
 namespace Quorbel {
 
@@ -23,5 +25,8 @@ struct TypedCode {
 /// `before`: the line as far as the caret, which stands behind the sign that was just typed. Nothing where that ends no
 /// known code, and nothing in a web address.
 std::optional<TypedCode> typedCode(const QString& before, const CodeTexts& texts);
+/// Puts the text in the place of the code that ends at the caret, if there is one, as a step of its own for Undo.
+/// Whether there was one.
+bool replaceTypedCode(QTextCursor& caret, const CodeTexts& texts);
 
 }  // namespace Quorbel

@@ -350,9 +350,26 @@ void TokenEdit::keyPressEvent(QKeyEvent* event)
     const bool isPlain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     if (isPlain && (key == Qt::Key_Backspace || key == Qt::Key_Delete) && selectTokenBeside(key == Qt::Key_Backspace))
         return;
+    const int before = document()->revision();
     QTextEdit::keyPressEvent(event);
     if (event->text() == u"%")
         recognizeTyped();
+    else if (event->text() == u"=" && document()->revision() != before)
+        replaceCode();
+}
+
+void TokenEdit::inputMethodEvent(QInputMethodEvent* event)
+{
+    QTextEdit::inputMethodEvent(event);
+    if (event->preeditString().isEmpty() && event->commitString().endsWith(u'='))
+        replaceCode();
+}
+
+void TokenEdit::replaceCode()
+{
+    QTextCursor cursor = textCursor();
+    if (replaceTypedCode(cursor, m_codes))
+        setTextCursor(cursor);
 }
 
 // The percent sign that was just typed may end a code.

@@ -2,6 +2,8 @@
 // Thread: the main thread. Knows nothing of what a token stands for: its owner names it, and reads it from a text.
 #pragma once
 
+#include "ui/controls/text/TypedCode.h"
+
 #include <QList>
 #include <QTextEdit>
 #include <QWheelEvent>
@@ -40,6 +42,8 @@ public:
     /// With several lines it takes line breaks and is at least two lines high.
     explicit TokenEdit(bool hasSeveralLines, QWidget* parent = nullptr);
     void setParse(Parse parse) { m_parse = std::move(parse); }
+    /// As QBTextField::setCodes(); these codes are no tokens.
+    void setCodes(const CodeTexts& codes) { m_codes = codes; }
 
     QList<TokenEditPiece> pieces() const;
     /// Shows these, and forgets the undo history; emits nothing. Nothing happens where it shows just that.
@@ -69,6 +73,7 @@ signals:
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -84,10 +89,12 @@ private:
     void insertPieces(QTextCursor& cursor, const QList<TokenEditPiece>& pieces) const;
     bool selectTokenBeside(bool before);
     void recognizeTyped();
+    void replaceCode();
     void showSelection();
 
     HoverFade* m_fade;
     Parse m_parse;
+    CodeTexts m_codes;
     bool m_hasSeveralLines;
     bool m_isBinding = false;
 };
