@@ -19,21 +19,19 @@ qsizetype rowOf(const PhotoList& list, const std::optional<QUrl>& photo)
     return photo ? list.visibleRows().indexOf(list.position(*photo)) : -1;
 }
 
-// The last of them on screen.
-qsizetype lastRowOf(const PhotoList& list, const QSet<QUrl>& photos)
+// The rows on screen of the first and of the last of these positions, ascending; -1 where none of them is there.
+qsizetype firstRowOf(const QList<int>& rows, const QList<int>& positions)
 {
-    const QList<int>& rows = list.visibleRows();
-    const auto last = std::find_if(
-        rows.crbegin(), rows.crend(), [&](int position) { return photos.contains(list.records().at(position).url); });
-    return last == rows.crend() ? -1 : rows.crend() - last - 1;
+    const auto first = std::find_if(rows.cbegin(), rows.cend(),
+        [&](int row) { return std::binary_search(positions.cbegin(), positions.cend(), row); });
+    return first == rows.cend() ? -1 : first - rows.cbegin();
 }
 
-qsizetype firstRowOf(const PhotoList& list, const QSet<QUrl>& photos)
+qsizetype lastRowOf(const QList<int>& rows, const QList<int>& positions)
 {
-    const QList<int>& rows = list.visibleRows();
-    const auto first = std::find_if(
-        rows.cbegin(), rows.cend(), [&](int position) { return photos.contains(list.records().at(position).url); });
-    return first == rows.cend() ? -1 : first - rows.cbegin();
+    const auto last = std::find_if(rows.crbegin(), rows.crend(),
+        [&](int row) { return std::binary_search(positions.cbegin(), positions.cend(), row); });
+    return last == rows.crend() ? -1 : rows.crend() - last - 1;
 }
 
 // The photo so many seen ones away from this row.
@@ -65,7 +63,7 @@ void AppModel::saveAndGoOn()
     requireMainThread("saveAndGoOn");
     if (m_services.endEditing)
         m_services.endEditing();
-    const auto next = shownFrom(photos(), lastRowOf(photos(), selection()), 1);
+    const auto next = shownFrom(photos(), lastRowOf(visibleRows(), selectedRows()), 1);
     const auto goOn = [this, next] {
         if (next && photos().contains(*next))
             commitSelection(Selection::of(*next));
@@ -114,7 +112,7 @@ void AppModel::rate(int stars)
 
 bool AppModel::hasPhotoBefore() const
 {
-    const qsizetype row = firstRowOf(photos(), selection());
+    const qsizetype row = firstRowOf(visibleRows(), selectedRows());
     const auto before = row < 0 ? std::nullopt : shownFrom(photos(), row, -1);
     return before && !isUnread(*before);
 }
@@ -124,7 +122,7 @@ void AppModel::takeFromPhotoBefore(const QString& key)
     requireMainThread("takeFromPhotoBefore");
     if (!hasPhotoBefore())
         return;
-    const ImageRecord& before = *record(*shownFrom(photos(), firstRowOf(photos(), selection()), -1));
+    const ImageRecord& before = *record(*shownFrom(photos(), firstRowOf(visibleRows(), selectedRows()), -1));
     const PhotoDetails* known = details(before.url);
     const Edits sending = m_editing.sending();
     const Edits sent = sending.subjects.contains(before.url) ? sending.of(before.url) : Edits();

@@ -13,6 +13,7 @@
 #include "core/Product.h"
 #include "platform/desktop/Compositor.h"
 #include "platform/desktop/SystemScheme.h"
+#include "ui/closeup/CloseupView.h"
 #include "ui/controls/ToolTips.h"
 #include "ui/controls/theme/PopupFrame.h"
 #include "ui/controls/theme/Theme.h"
@@ -186,6 +187,9 @@ void AppDelegate::buildWindow()
         static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
     };
     model.codes().setChooser([this](const auto& chosen) { chooseCodeFile(chosen); });
+    factories.closeup = [this](QWidget* window) {
+        return new CloseupView(m_app->model(), &m_app->thumbnails(), m_app->wholePictures(), window);
+    };
     factories.keptField = [](QWidget* inspector) { return &static_cast<InspectorView*>(inspector)->keptField(); };
     m_content = new ContentView(model, &m_app->thumbnails(), *m_systemScheme, m_window.get(), factories);
     m_window->setMenuWidget(m_content->bar());

@@ -62,7 +62,7 @@ void HandsMenu::addToEdit(ThemedMenu* menu)
 
 void HandsMenu::addRating(ThemedMenu* menu)
 {
-    m_rating = menu->addThemedMenu(u"Rat&ing"_s);
+    m_rating = menu->addThemedMenu(u"Rati&ng"_s);
     auto* group = new QActionGroup(m_rating);
     group->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     for (int stars = 0; stars <= mostStars; ++stars) {
@@ -90,6 +90,7 @@ void HandsMenu::addToView(QMenu* menu)
 {
     m_next = add(menu, u"Ne&xt Photo"_s, { Qt::ALT | Qt::Key_Down }, [this] { m_content.step(1); });
     m_previous = add(menu, u"Previ&ous Photo"_s, { Qt::ALT | Qt::Key_Up }, [this] { m_content.step(-1); });
+    m_look = add(menu, u"&Look Closely"_s, { Qt::Key_F11 }, [this] { m_content.toggleCloseup(); });
     followState();
 }
 
@@ -109,6 +110,7 @@ void HandsMenu::followState()
     if (m_next) {
         m_next->setEnabled(m_model.canStep(1));
         m_previous->setEnabled(m_model.canStep(-1));
+        m_look->setEnabled(isSelected);
     }
 }
 

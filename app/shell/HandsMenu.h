@@ -40,6 +40,7 @@ private:
     QAction* m_sameAsBefore = nullptr;
     QAction* m_next = nullptr;
     QAction* m_previous = nullptr;
+    QAction* m_look = nullptr;
 };
 
 }  // namespace Quorbel

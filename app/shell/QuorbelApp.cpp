@@ -61,7 +61,7 @@ QuorbelApp::QuorbelApp(const WindowHooks& hooks)
     const auto service = MetadataService::locate();
     ThumbnailStoreOptions images = ThumbnailStoreOptions::forUser();
     if (service)
-        images.tool = service->runner;
+        images.tool = m_wholePictures.tool = service->runner;
     m_thumbnails = std::make_unique<ThumbnailStore>(images);
     m_mapRenderer = makeMapRenderer(placesFolder());
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/model/AppModel.h"
+#include "app/model/closeup/WholePictures.h"
 #include "app/model/thumbnails/ThumbnailStore.h"
 #include "app/shell/UpdatePresenter.h"
 #include "platform/places/map/MapRenderer.h"
@@ -31,6 +32,8 @@ public:
 
     AppModel& model() { return *m_model; }
     ThumbnailStore& thumbnails() { return *m_thumbnails; }
+    /// How photos are decoded for a close look.
+    const WholePicturesOptions& wholePictures() const { return m_wholePictures; }
     UpdatePresenter& updatePresenter() { return *m_updatePresenter; }
     PlaceProvider* placeProvider() { return m_placeProvider.get(); }
     MapRenderer* mapRenderer() { return m_mapRenderer.get(); }
@@ -42,6 +45,7 @@ public:
 private:
     std::shared_ptr<QSettings> m_preferences;
     std::unique_ptr<ThumbnailStore> m_thumbnails;
+    WholePicturesOptions m_wholePictures{};
     std::unique_ptr<PlaceProvider> m_placeProvider;
     std::unique_ptr<MapRenderer> m_mapRenderer;
     std::unique_ptr<AppModel> m_model;

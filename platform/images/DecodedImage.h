@@ -23,6 +23,9 @@ struct DecodedImage {
     /// Upright and sRGB; RGB32, or ARGB32_Premultiplied when the picture has transparency. Transparency is kept so
     /// that the picture lies on whatever panel it is painted on, in light and dark alike. Null unless decoded.
     QImage image{};
+    /// How large the photo itself is, upright, where the image is known to be something smaller or other than it.
+    QSize photo{};
+    bool isPreview = false;  ///< what a camera put into its raw file, or a hasty development of that
 };
 
 /// What a single decoder works on.
@@ -30,6 +33,9 @@ struct DecodeSource {
     QIODevice& device;  ///< open for reading, seekable, at its start; fails to read once cancelled or overdue
     QString path{};  ///< the file's path; empty when the bytes come from memory
     int longSide = 0;  ///< pixels wanted on the long side: the frame may be larger, and smaller only at full size
+    bool isWhole = false;  ///< all pixels that there are; of a raw file those of its preview
+    qint64 mostPixels =
+        0;  ///< where it is to be whole: what has more is reduced to that, where it can be while it is read
     std::stop_token cancel{};
 };
 
@@ -39,6 +45,8 @@ struct DecodedFrame {
     QImage image{};
     QByteArray icc{};  ///< the embedded profile that describes the image's channels; empty means sRGB
     int orientation = 1;  ///< EXIF's 1 to 8
+    QSize photo{};  ///< as in DecodedImage, as stored
+    bool isPreview = false;
 };
 
 }  // namespace Quorbel

@@ -17,6 +17,8 @@
 
 #include <QBuffer>
 
+#include <cmath>
+
 namespace Quorbel {
 
 namespace {
@@ -36,23 +38,41 @@ DecodedFrame turnedAs(const ImageHeader& header, DecodedFrame frame)
     return frame;
 }
 
-DecodedFrame decodeQtFormat(const DecodeSource& source, ImageFormat format)
+DecodedFrame decodeQtFormat(const DecodeSource& source, ImageFormat format, const ImageHeader& header)
 {
-    const auto header = HeaderGate::read(source.device, format);
-    if (!header)
-        return withOutcome(Outcome::damaged);
-    if (!HeaderGate::allows(*header, source.device.size()))
-        return withOutcome(Outcome::tooLarge);
-    if (format == ImageFormat::jpeg && header->components == 4)
-        return turnedAs(*header, CmykJpeg::decode(source));
-    if (format == ImageFormat::tiff && header->components >= 4) {
+    if (format == ImageFormat::jpeg && header.components == 4)
+        return turnedAs(header, CmykJpeg::decode(source));
+    if (format == ImageFormat::tiff && header.components >= 4) {
         const DecodedFrame inks = CmykTiff::decode(source);
         source.device.seek(0);
         if (inks.outcome != Outcome::unsupported)
-            return turnedAs(*header, inks);
+            return turnedAs(header, inks);
     }
-    const WholeFrameTurn turn(header->wholeFrame ? header->size : QSize(), source.cancel);
-    return QtFormats::decode(source, format, *header);
+    const WholeFrameTurn turn(header.wholeFrame || source.isWhole ? header.size : QSize(), source.cancel);
+    return QtFormats::decode(source, format, header);
+}
+
+// The long side with which a picture of that size has at most so many pixels.
+int longSideFor(QSize size, qint64 mostPixels)
+{
+    const double pixels = double(size.width()) * size.height();
+    return int(qMax(size.width(), size.height()) * qMin(1.0, std::sqrt(double(mostPixels) / pixels)));
+}
+
+DecodedFrame decodeQtFormat(const DecodeSource& given, ImageFormat format)
+{
+    const auto header = HeaderGate::read(given.device, format);
+    if (!header)
+        return withOutcome(Outcome::damaged);
+    if (!HeaderGate::allows(*header, given.device.size()))
+        return withOutcome(Outcome::tooLarge);
+    DecodeSource source = given;
+    if (source.isWhole)
+        source.longSide = longSideFor(header->size, source.mostPixels);
+    DecodedFrame frame = decodeQtFormat(source, format, *header);
+    if (frame.image.width() < header->size.width())
+        frame.photo = header->size;
+    return frame;
 }
 
 DecodedFrame decodeFrame(const DecodeSource& source)
@@ -99,7 +119,13 @@ DecodedImage decodeSource(const DecodeSource& source)
     // Scale first, then manage colours on what is left, then turn: each step sees the fewest pixels.
     const QImage small = scaledDown(frame.image, source.longSide);
     const QImage managed = ColorManagement::toSRGB(small, frame.icc);
-    return { .outcome = Outcome::decoded, .image = Orientation::upright(managed, frame.orientation) };
+    DecodedImage decoded{ .outcome = Outcome::decoded, .image = Orientation::upright(managed, frame.orientation) };
+    // Of the photo itself only its size is known: it stands or lies as its picture does.
+    const bool isTurned =
+        (frame.photo.width() < frame.photo.height()) != (decoded.image.width() < decoded.image.height());
+    decoded.photo = isTurned ? frame.photo.transposed() : frame.photo;
+    decoded.isPreview = frame.isPreview;
+    return decoded;
 }
 
 }  // namespace
@@ -110,6 +136,21 @@ DecodedImage ImageDecoder::decode(const QString& path, int longSide, const std::
     if (!file.openRegular())
         return { .outcome = Outcome::damaged };
     return decodeSource({ .device = file, .path = path, .longSide = longSide, .cancel = cancel });
+}
+
+DecodedImage ImageDecoder::decodeWhole(const QString& path, qint64 mostPixels, const std::stop_token& cancel)
+{
+    GuardedFile file(path, cancel);
+    if (!file.openRegular())
+        return { .outcome = Outcome::damaged };
+    // No picture that is held whole has a longer side.
+    constexpr int longest = 1 << 20;
+    return decodeSource({ .device = file,
+        .path = path,
+        .longSide = longest,
+        .isWhole = true,
+        .mostPixels = mostPixels,
+        .cancel = cancel });
 }
 
 DecodedImage ImageDecoder::decode(const QByteArray& bytes, int longSide, const std::stop_token& cancel)

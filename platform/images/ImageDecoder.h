@@ -12,7 +12,11 @@ namespace Quorbel::ImageDecoder {
 /// as soon as the library in use lets go.
 DecodedImage decode(const QString& path, int longSide, const std::stop_token& cancel = {});
 
-/// The same from memory, for a preview that was taken out of a file.
+/// The picture with all pixels that there are; one of more than `mostPixels` is reduced to fewer. Of a camera's raw
+/// file the preview inside it, at its size.
+DecodedImage decodeWhole(const QString& path, qint64 mostPixels, const std::stop_token& cancel = {});
+
+/// The same as decode() from memory, for a preview that was taken out of a file.
 DecodedImage decode(const QByteArray& bytes, int longSide, const std::stop_token& cancel = {});
 
 /// Whether an image in memory says itself how it was held.

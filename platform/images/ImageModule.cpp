@@ -11,6 +11,7 @@ namespace {
 constexpr ImageModule without{
     .version = QUORBEL_VERSION,
     .decode = [](const QString&, int, const std::stop_token&) { return DecodedImage{}; },
+    .decodeWhole = [](const QString&, qint64, const std::stop_token&) { return DecodedImage{}; },
     .decodeBytes = [](const QByteArray&, int, const std::stop_token&) { return DecodedImage{}; },
     .hasOrientation = [](const QByteArray&) { return false; },
     .embeddedThumbnail = [](const QString&, const std::stop_token&) { return QImage(); },

@@ -11,6 +11,7 @@ namespace Quorbel {
 struct ImageModule {
     const char* version;  ///< of the program it was built with
     DecodedImage (*decode)(const QString& path, int longSide, const std::stop_token& cancel);
+    DecodedImage (*decodeWhole)(const QString& path, qint64 mostPixels, const std::stop_token& cancel);
     DecodedImage (*decodeBytes)(const QByteArray& bytes, int longSide, const std::stop_token& cancel);
     bool (*hasOrientation)(const QByteArray& bytes);
     QImage (*embeddedThumbnail)(const QString& path, const std::stop_token& cancel);

@@ -9,6 +9,7 @@ extern "C" Q_DECL_EXPORT const Quorbel::ImageModule* quorbelImageModule()
         .version = QUORBEL_VERSION,
         .decode = [](const QString& path, int longSide,
                       const std::stop_token& cancel) { return ImageDecoder::decode(path, longSide, cancel); },
+        .decodeWhole = &ImageDecoder::decodeWhole,
         .decodeBytes = [](const QByteArray& bytes, int longSide,
                            const std::stop_token& cancel) { return ImageDecoder::decode(bytes, longSide, cancel); },
         .hasOrientation = &ImageDecoder::hasOrientation,

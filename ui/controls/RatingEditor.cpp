@@ -145,7 +145,9 @@ void RatingEditor::keyPressEvent(QKeyEvent* event)
 {
     const int key = event->key();
     const bool plain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
-    if (plain && key >= Qt::Key_0 && key <= Qt::Key_5)
+    if (!plain)
+        QWidget::keyPressEvent(event);
+    else if (key >= Qt::Key_0 && key <= Qt::Key_5)
         choose(key - Qt::Key_0);
     else if (key == Qt::Key_Right || key == Qt::Key_Up)
         choose(rating() + 1);

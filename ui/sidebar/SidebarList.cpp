@@ -306,7 +306,12 @@ void SidebarList::keyPressEvent(QKeyEvent* event)
         const int row = currentIndex().row();
         setFolded(row, !m_rows.heading(row)->isFolded, event->modifiers() & Qt::AltModifier);
     } else if (event->key() == Qt::Key_Space && !isTyping()) {
-        choose(currentIndex().row(), false, event->modifiers() & Qt::ControlModifier);
+        const bool isToggled = event->modifiers() & Qt::ControlModifier;
+        const ImageRecord* photo = m_rows.record(currentIndex().row());
+        if (isToggled || (photo && photo->url != m_model.primary()))
+            choose(currentIndex().row(), false, isToggled);
+        if (photo && !isToggled)
+            emit lookAsked();
     } else if (const int stars = starsIn(*event); stars >= 0 && !isTyping()) {
         m_model.rate(stars);
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {

@@ -20,7 +20,7 @@ class ThumbnailStore;
 /// A list view whose every choice goes through AppModel::tap(): clicks, arrows, Home, End, PageUp, PageDown (with
 /// Shift for a range, with Ctrl to move without choosing, then Space to add or take out), and typing a name's first
 /// letters. Enter and a double-click open the photo in the user's default application. 0 to 5 rate the selected photos;
-/// within a name that is being typed they belong to it.
+/// within a name that is being typed they belong to it. Space asks for a close look.
 /// A folder's heading is folded and unfolded by a click, by Return and Space; with Alt all of them are. The keyboard
 /// stops at folded ones, passes over the others, and gets to them with Left, which folds; Right unfolds. Being on a
 /// heading selects nothing.
@@ -35,6 +35,10 @@ public:
     void keyboardSearch(const QString& text) override;
     /// Takes the focus for the arrow keys. Selects the first photo shown when the primary one is not among them.
     void takeKeyboard();
+
+signals:
+    /// The primary photo is to be looked at closely.
+    void lookAsked();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

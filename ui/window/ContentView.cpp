@@ -8,6 +8,7 @@
 #include "app/model/words/FieldPasting.h"
 #include "core/Product.h"
 #include "platform/desktop/SystemScheme.h"
+#include "ui/closeup/CloseupView.h"
 #include "ui/controls/BriefNote.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/theme/Metrics.h"
@@ -141,6 +142,7 @@ void ContentView::buildColumns()
         return;
     m_sidebar = new SidebarView(m_model, m_thumbs);
     m_inspector = m_factories.inspector(this);
+    connect(m_sidebar->list(), &SidebarList::lookAsked, this, &ContentView::toggleCloseup);
     m_columns = new ColumnRow(m_sidebar, m_inspector, new PreviewColumnView(m_model, m_thumbs),
         storedWidth(m_model.preferences().store()), this);
     m_columns->hide();
@@ -263,6 +265,7 @@ void ContentView::growWindow(int target)
 
 void ContentView::focusSearch()
 {
+    endCloseup();
     if (m_columns && m_columns->isVisible())
         m_sidebar->focusSearch();
 }
@@ -277,19 +280,19 @@ KeptField* ContentView::keptField() const
 bool ContentView::hasField() const
 {
     const KeptField* field = keptField();
-    return field && !field->current().isEmpty();
+    return field && !m_closeup && !field->current().isEmpty();
 }
 
 void ContentView::step(int places)
 {
-    if (KeptField* field = keptField())
+    if (KeptField* field = keptField(); field && !m_closeup)
         field->keep();
     m_model.step(places);
 }
 
 void ContentView::saveAndGoOn()
 {
-    if (KeptField* field = keptField()) {
+    if (KeptField* field = keptField(); field && !m_closeup) {
         field->commit();
         field->keep();
     }
@@ -312,6 +315,39 @@ void ContentView::takeFromPhotoBefore()
     disconnect(watch);
     if (!isTaken)
         m_note->say(u"Nothing else in the photo before"_s);
+}
+
+void ContentView::toggleCloseup()
+{
+    if (m_closeup)
+        return endCloseup();
+    if (!m_factories.closeup || !m_model.primaryRecord())
+        return;
+    m_beforeCloseup = m_window->focusWidget();
+    m_closeup = m_factories.closeup(m_window);
+    connect(m_closeup, &CloseupView::closed, this, &ContentView::endCloseup, Qt::QueuedConnection);
+    m_closeup->show();
+    m_closeup->raise();
+    if (m_sheets->current())
+        m_sheets->raise();
+    else
+        m_closeup->setFocus(Qt::OtherFocusReason);
+}
+
+// The keyboard goes back to where it was, in what is selected now; else to the list.
+void ContentView::endCloseup()
+{
+    if (!m_closeup)
+        return;
+    CloseupView* closeup = std::exchange(m_closeup, nullptr);
+    closeup->hide();
+    closeup->deleteLater();
+    if (m_sheets->current())
+        return;
+    if (m_beforeCloseup && m_beforeCloseup->isVisible() && m_beforeCloseup->isEnabled())
+        m_beforeCloseup->setFocus(Qt::OtherFocusReason);
+    else if (m_columns && m_columns->isVisible())
+        m_sidebar->list()->setFocus(Qt::OtherFocusReason);
 }
 
 void ContentView::showRecords()

@@ -3,6 +3,7 @@
 // "previewEnabled", in the same store.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 #include <functional>
@@ -11,6 +12,7 @@ namespace Quorbel {
 
 class AppModel;
 class BriefNote;
+class CloseupView;
 class ColumnRow;
 class ErrorBanner;
 class FileDrop;
@@ -37,6 +39,8 @@ struct ContentFactories {
     std::function<SheetBody*()> renamePhotos{};
     /// Keeps this many pixels at the inspector's lower end free, so that its last rows scroll clear of the banner.
     std::function<void(QWidget* inspector, int pixels)> setInspectorInset{};
+    /// Looks closely at the primary photo, over all of the window.
+    std::function<CloseupView*(QWidget* window)> closeup{};
     /// Which field of the inspector has the keyboard, and what keeps it there.
     std::function<KeptField*(QWidget* inspector)> keptField{};
 };
@@ -74,6 +78,8 @@ public:
     void takeFromPhotoBefore();
     /// Whether a field of the inspector has the keyboard, or had it when a menu took it.
     bool hasField() const;
+    /// Looks closely at the primary photo, or no longer.
+    void toggleCloseup();
 
 signals:
     void previewShownChanged(bool shown);
@@ -95,6 +101,7 @@ private:
     void placeBanner();
     void growWindow(int target);
     KeptField* keptField() const;
+    void endCloseup();
 
     AppModel& m_model;
     ThumbnailStore* m_thumbs;
@@ -110,6 +117,8 @@ private:
     SheetHost* m_sheets;
     FileDrop* m_drop;
     BriefNote* m_note;
+    CloseupView* m_closeup = nullptr;  ///< while one looks closely
+    QPointer<QWidget> m_beforeCloseup{};  ///< what had the keyboard
     bool m_expectsPhotos = false;
     bool m_listWaitsForKeyboard = false;  ///< until the sheet over it is closed
     SheetBody* m_addSheet = nullptr;

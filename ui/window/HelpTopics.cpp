@@ -102,6 +102,8 @@ Page handsPage()
                 u"⌘Return saves and goes on at once: you type while the last photo is still being written."_s,
                 u"Ctrl+' fills the field with what the photo before shows. An empty field there takes nothing away."_s,
                 u"0 to 5 rate while the list has the keyboard; ⌘⌥0 to ⌘⌥5 rate anywhere, one photo or many."_s,
+                u"F11, or Space in the list, looks closely: the photo fills the window. A click or Z shows every pixel "
+                "there, the arrow keys go on to the next photo at the same place, Escape returns."_s,
                 u"Help ▸ Keyboard Shortcuts (Ctrl+F1) lists all keys."_s }),
         } };
 }

@@ -79,11 +79,26 @@ ShortcutGroup inList()
             { u"Select up to there"_s, { Qt::SHIFT | Qt::Key_Down, Qt::SHIFT | Qt::Key_Up } },
             { u"Go there without selecting"_s, { Qt::CTRL | Qt::Key_Down, Qt::CTRL | Qt::Key_Up } },
             { u"Add to the selection, or take out"_s, { Qt::CTRL | Qt::Key_Space } },
+            { u"Look closely"_s, { Qt::Key_Space } },
             digits(u"Rate"_s),
             { u"Open in the default application"_s, { Qt::Key_Return } },
             { u"Find by the beginning of the name"_s, range(Qt::Key_A, Qt::Key_Z), true },
             { u"Fold or unfold a folder"_s, { Qt::Key_Left, Qt::Key_Right } },
             { u"Fold or unfold all folders"_s, { Qt::ALT | Qt::Key_Left, Qt::ALT | Qt::Key_Right } },
+        } };
+}
+
+ShortcutGroup inCloseup()
+{
+    return { u"Looking closely"_s,
+        {
+            { u"Next or previous photo, at the same place"_s, { Qt::Key_Right, Qt::Key_Left } },
+            { u"Every pixel, or the whole photo"_s, { Qt::Key_Z } },
+            { u"Larger or smaller"_s, { Qt::Key_Plus, Qt::Key_Minus } },
+            { u"Move the photo across"_s, { Qt::SHIFT | Qt::Key_Left, Qt::SHIFT | Qt::Key_Right } },
+            { u"Move the photo up or down"_s, { Qt::SHIFT | Qt::Key_Up, Qt::SHIFT | Qt::Key_Down } },
+            digits(u"Rate"_s),
+            { u"Back to the list"_s, { Qt::Key_Escape, Qt::Key_Space } },
         } };
 }
 
@@ -133,6 +148,8 @@ ShortcutGroup Shortcuts::in(ShortcutPlace place)
         return { u"While searching"_s,
             { { u"Go to what was found"_s, { Qt::Key_Down, Qt::Key_Return } },
                 { u"Show all photos again"_s, { Qt::Key_Escape } } } };
+    case ShortcutPlace::closeup:
+        return inCloseup();
     case ShortcutPlace::sheet:
         break;
     }
@@ -143,7 +160,7 @@ QList<ShortcutGroup> Shortcuts::inPlaces()
 {
     QList<ShortcutGroup> groups;
     for (const auto place : { ShortcutPlace::list, ShortcutPlace::field, ShortcutPlace::keywords, ShortcutPlace::stars,
-             ShortcutPlace::search, ShortcutPlace::sheet })
+             ShortcutPlace::search, ShortcutPlace::closeup, ShortcutPlace::sheet })
         groups.append(in(place));
     return groups;
 }

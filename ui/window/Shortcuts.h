@@ -11,7 +11,7 @@ class QMenuBar;
 namespace Quorbel {
 
 /// Where a key that is in no menu works.
-enum class ShortcutPlace { list, field, keywords, stars, search, sheet };
+enum class ShortcutPlace { list, field, keywords, stars, search, closeup, sheet };
 
 struct Shortcut {
     QString does{};

@@ -129,11 +129,20 @@ bool isLargeEnough(const DecodedFrame& frame, int longSide, QSize sensor)
         && qMax(frame.image.width(), frame.image.height()) >= qMin(longSide, developedSide);
 }
 
+// Says of a picture what it was made of.
+DecodedFrame ofSensor(const LibRaw& raw, DecodedFrame frame)
+{
+    frame.photo = sensorSize(raw);
+    frame.isPreview = true;
+    return frame;
+}
+
 }  // namespace
 
 DecodedFrame RawFormat::decode(const DecodeSource& source)
 {
     constexpr unsigned mostMegabytes = 1024;
+    constexpr int worthALook = 800;  // pixels
     DecodedFrame refused;
     refused.outcome = Outcome::needsTool;
     if (source.path.isEmpty())
@@ -146,13 +155,14 @@ DecodedFrame RawFormat::decode(const DecodeSource& source)
     if (raw->open_file(QFile::encodeName(source.path).constData()) != LIBRAW_SUCCESS)
         return refused;
     const QSize sensor = wholeSensorSize(*raw);
-    const DecodedFrame preview = previewOf(*raw, source);
-    if (isLargeEnough(preview, source.longSide, sensorSize(*raw)))
+    const DecodedFrame preview = ofSensor(*raw, previewOf(*raw, source));
+    // A close look is at what the camera made of it, unless that is a mere thumbnail.
+    if (isLargeEnough(preview, source.isWhole ? worthALook : source.longSide, sensorSize(*raw)))
         return preview;
     if (sensor.isEmpty() || !HeaderGate::allows(sensor, true) || cancel.stop_requested())
         return preview.outcome == Outcome::decoded ? preview : refused;
     const WholeFrameTurn turn(sensor, cancel);
-    const DecodedFrame whole = developed(*raw);
+    const DecodedFrame whole = ofSensor(*raw, developed(*raw));
     if (whole.outcome == Outcome::decoded)
         return whole;
     return preview.outcome == Outcome::decoded ? preview : refused;

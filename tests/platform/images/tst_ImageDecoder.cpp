@@ -743,6 +743,33 @@ private slots:
         QVERIFY(qRed(red) > 2 * qGreen(red) && qGreen(green) > 2 * qRed(green) && qBlue(blue) > 2 * qRed(blue));
     }
 
+    // For a close look: all pixels, or as many as are allowed; of a raw file its preview, and what that is a preview
+    // of.
+    void wholePictures()
+    {
+        constexpr qint64 enough = 100'000'000;
+        for (const auto& [name, bytes] : everyFile()) {
+            const QString path = stored(bytes, name);
+            const DecodedImage whole = ImageDecoder::decodeWhole(path, enough);
+            QCOMPARE(whole.image, ImageDecoder::decode(path, 10'000).image);
+            QCOMPARE(whole.isPreview, name == "dng");
+            QVERIFY(whole.photo.isEmpty() || whole.isPreview);
+        }
+        const QString turned =
+            stored(ImageFiles::withExif(
+                       ImageFiles::written(ImageFiles::quarters({ 320, 200 }), "jpg"), ImageFiles::exifBlock(6)),
+                "turned.jpg");
+        const DecodedImage reduced = ImageDecoder::decodeWhole(turned, 16'000);
+        QCOMPARE(reduced.image.size(), QSize(100, 160));
+        QCOMPARE(reduced.photo, QSize(200, 320));
+        const QByteArray preview = ImageFiles::written(ImageFiles::quarters({ 400, 250 }), "jpg");
+        const DecodedImage raw = ImageDecoder::decodeWhole(
+            stored(ImageFiles::dng(ImageFiles::quarters({ 640, 400 }), preview), "whole.dng"), enough);
+        QCOMPARE(raw.image.size(), QSize(400, 250));
+        QVERIFY(raw.isPreview);
+        QCOMPARE(raw.photo, QSize(640, 400));
+    }
+
     void cancelledBeforeItBegins()
     {
         std::stop_source stop;
