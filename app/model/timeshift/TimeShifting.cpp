@@ -401,7 +401,9 @@ void TimeShifting::takeLooked(ShiftJob::Order order, const ShiftJob::Looked& loo
     }
     if (looked.error)
         return m_model.setErrorMessage(u"Could not read metadata: "_s + *looked.error);
-    if (!looked.isCancelled && !m_model.isSaving())
+    // What was closed meanwhile is not meant any more.
+    order.targets.removeIf([this](const QUrl& photo) { return !m_model.record(photo); });
+    if (!looked.isCancelled && !m_model.isSaving() && !order.targets.isEmpty())
         m_access.shift(order, looked);
 }
 

@@ -3,6 +3,7 @@
 // thread; what photos hold is read and written in the background.
 #pragma once
 
+#include "app/model/RunningTasks.h"
 #include "app/model/timeshift/ShiftJob.h"
 #include "app/model/timeshift/ShiftPreview.h"
 
