@@ -4,14 +4,14 @@
 #include "app/model/library/filter/Filtering.h"
 #include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/templates/Templates.h"
+#include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
 #include "app/model/words/QuickKeywords.h"
+#include "app/shell/HandsMenu.h"
 #include "core/schema/KeywordPath.h"
-#include "app/model/timeshift/TimeShifting.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/inspector/keywords/QuickSetMenu.h"
-#include "app/shell/HandsMenu.h"
 #include "ui/sheets/ShortcutsSheet.h"
 #include "ui/window/ContentView.h"
 #include "ui/window/WindowBar.h"
@@ -185,7 +185,7 @@ void Menus::addEditMenu()
     addEditing(menu, u"&Undo"_s, QKeySequence::Undo, "undo", canUndo);
     addEditing(menu, u"&Redo"_s, QKeySequence::Redo, "redo", canRedo);
     m_undoSave = add(menu, u"Undo Sa&ve"_s, {}, [this] { m_model.undoSave(); });
-    m_undoRename = add(menu, u"Undo Re&name"_s, {}, [this] { m_model.renaming().undo(); });
+    m_undoRename = add(menu, u"Und&o Rename"_s, {}, [this] { m_model.renaming().undo(); });
     m_bringBack = menu->addThemedMenu(u"&Bring Back Edits"_s);
     connect(&m_model, &AppModel::leftEditsChanged, this, &Menus::fillBringBack);
     fillBringBack();
@@ -373,7 +373,7 @@ void Menus::followState()
     m_rename->setEnabled(m_model.canRename());
     m_renamePhotos->setEnabled(m_model.renaming().canOpen());
     m_undoRename->setEnabled(m_model.renaming().canUndo());
-    m_undoRename->setText(literal(m_model.renaming().undoText()).replace(u"Undo Rename"_s, u"Undo Re&name"_s));
+    m_undoRename->setText(literal(m_model.renaming().undoText()).replace(u"Undo Rename"_s, u"Und&o Rename"_s));
     m_refresh->setEnabled(m_model.canRefresh());
     m_close->setEnabled(any);
     m_find->setEnabled(any);
