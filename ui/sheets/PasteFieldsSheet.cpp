@@ -23,7 +23,6 @@ namespace {
 
 // Points.
 constexpr qreal pasteWidth = 560;
-constexpr qreal windowMargin = 12;
 constexpr qreal thumbnail = 42;
 constexpr qreal headerBelow = 12;
 constexpr qreal buttonsAbove = 22;
@@ -103,9 +102,6 @@ PasteFieldsSheet::PasteFieldsSheet(AppModel& model, ThumbnailStore* thumbs, QWid
     onRestyle(this, [this, header, foot] {
         header->setContentsMargins(0, px(-6), 0, px(headerBelow));
         foot->setContentsMargins(0, px(buttonsAbove), 0, 0);
-        // With large text in a narrow window the values give way.
-        const int room = window() == this ? px(pasteWidth) : window()->width() - 2 * px(windowMargin);
-        setFixedWidth(qMin(px(pasteWidth), room));
         static_cast<RowList*>(m_list)->fit(int(m_rows.size()));
     });
     connect(&m_model.pasting(), &FieldPasting::changed, this, &PasteFieldsSheet::refresh);

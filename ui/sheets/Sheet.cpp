@@ -32,6 +32,12 @@ SheetBody::SheetBody(QWidget* parent)
 {
 }
 
+void SheetBody::setWantedWidth(int width)
+{
+    m_wantedWidth = width;
+    setFixedWidth(width);
+}
+
 // A body with its title bar, ground and keys.
 class SheetFrame final : public QWidget {
     Q_OBJECT
@@ -76,6 +82,8 @@ public:
         const QWidget* host = parentWidget();
         const int margin = px(windowMargin);
         const int room = host->height() - 2 * margin;
+        if (const int wanted = m_body->wantedWidth(); wanted > 0)
+            m_body->setFixedWidth(qMin(wanted, host->width() - 2 * margin));
         setScrolled(leastHeight() > room);
         const QSize size = m_scroll ? QSize(bodyWidth(), room) : sizeHint().expandedTo(minimumSizeHint());
         const int y = qMax(margin, (host->height() - size.height()) / 2);

@@ -22,6 +22,9 @@ public:
 
     /// Text of the 46 px bar over the body; without one there is no bar.
     virtual QString title() const { return {}; }
+    /// Pixels; in a narrower window the sheet is as wide as that leaves room. 0: as wide as its contents.
+    int wantedWidth() const { return m_wantedWidth; }
+    void setWantedWidth(int width);
     /// What Return does, unless a button has the focus; bodies leave it without effect while their default button
     /// is disabled.
     virtual void confirm() = 0;
@@ -29,6 +32,9 @@ public:
     virtual void cancel() = 0;
     /// What has the focus when the sheet opens; the first in the tab order when null.
     virtual QWidget* initialFocus() { return nullptr; }
+
+private:
+    int m_wantedWidth = 0;
 };
 
 class SheetFrame;

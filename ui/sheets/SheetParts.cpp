@@ -5,6 +5,7 @@
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/sheets/Sheet.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -19,11 +20,11 @@ constexpr qreal symbolSize = 22;
 constexpr qreal buttonGap = 8;
 }  // namespace
 
-void frameSheet(QWidget* sheet, QLayout* column, qreal width)
+void frameSheet(SheetBody* sheet, QLayout* column, qreal width)
 {
     onRestyle(sheet, [=] {
         const int padding = px(sheetPadding);
-        sheet->setFixedWidth(px(width));
+        sheet->setWantedWidth(px(width));
         column->setContentsMargins(padding, padding, padding, padding);
     });
 }

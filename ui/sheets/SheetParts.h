@@ -11,13 +11,14 @@ class QVBoxLayout;
 namespace Quorbel {
 
 class QBButton;
+class SheetBody;
 
 // Points.
 constexpr qreal sheetWidth = 470;
 constexpr qreal sheetPadding = 24;
 
 /// Gives a sheet its width and its column the padding.
-void frameSheet(QWidget* sheet, QLayout* column, qreal width = sheetWidth);
+void frameSheet(SheetBody* sheet, QLayout* column, qreal width = sheetWidth);
 
 /// The amber square with a symbol at the left of a message.
 class SymbolTile final : public QWidget {

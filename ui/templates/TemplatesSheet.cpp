@@ -131,7 +131,7 @@ TemplatesSheet::TemplatesSheet(AppModel& model, QWidget* parent)
     columns->setSpacing(0);
     columns->addWidget(buildSide());
     columns->addWidget(buildForm(), 1);
-    onRestyle(this, [this] { setFixedWidth(px(templatesWidth)); });
+    onRestyle(this, [this] { setWantedWidth(px(templatesWidth)); });
     connectModel();
     showTemplate();
 }

@@ -1,5 +1,8 @@
 // The whole window at the sizes of text that a desktop offers: nothing is cut off, shortened or covered that is not at
 // the usual size. QT_SCALE_FACTOR is the caller's: the test is run once for each of several.
+#include "app/model/renaming/PhotosRenaming.h"
+#include "app/model/templates/Templates.h"
+#include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
 #include "tests/ui/LayoutAudit.h"
 #include "tests/ui/inspector/HalfRead.h"
@@ -12,6 +15,9 @@
 #include "ui/sheets/PasteFieldsSheet.h"
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
+#include "ui/sheets/ShiftTimeSheet.h"
+#include "ui/sheets/renaming/RenamePhotosSheet.h"
+#include "ui/templates/TemplatesSheet.h"
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
 
@@ -68,6 +74,9 @@ std::unique_ptr<QMainWindow> makeWindow(InspectorFixture& f, SystemScheme& schem
     factories.save = [&f] { return new SaveDialogView(f.model()); };
     factories.rename = [&f] { return new RenameSheet(f.model()); };
     factories.pasteFields = [&f] { return new PasteFieldsSheet(f.model(), nullptr); };
+    factories.renamePhotos = [&f] { return new RenamePhotosSheet(f.model()); };
+    factories.shiftTime = [&f] { return new ShiftTimeSheet(f.model(), nullptr); };
+    factories.templates = [&f] { return new TemplatesSheet(f.model()); };
     factories.setInspectorInset = [](QWidget* inspector, int pixels) {
         static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
     };
@@ -186,6 +195,12 @@ private:
         AppModel& model = m_photos.model();
         model.selectAllPhotos();
         look(seen, u"batch"_s);
+        model.renaming().open();
+        look(seen, u"rename many"_s);
+        model.renaming().close();
+        model.timeShifting().request();
+        look(seen, u"shift times"_s);
+        model.timeShifting().close();
         model.setBatch(u"copyright"_s, u"© 2024 Mara Lindqvist"_s);
         model.setBatch(
             u"description"_s, u"A 6x6 of still water after a clear October day, looking south from the bank."_s);
@@ -198,6 +213,13 @@ private:
         model.pasting().ask();
         look(seen, u"paste"_s);
         model.pasting().close();
+        model.templates().store().add({ .name = u"Regatta, race day"_s,
+            .digit = 1,
+            .fields = { { .key = u"title"_s, .text = u"Race %Counter% off %Place|Zürich%"_s },
+                { .key = u"keywords"_s, .mode = TemplateMode::append, .items = { u"sailing"_s } } } });
+        model.templates().setOpen(true);
+        look(seen, u"templates"_s);
+        model.templates().setOpen(false);
         model.toggleBatchInclude(u"copyright"_s);
         model.toggleBatchInclude(u"description"_s);
         model.clearBatchList(u"keywords"_s);
