@@ -26,6 +26,8 @@ OpenWindow::OpenWindow(const ExifToolRunner& tool, Thumbnails thumbnails, const 
     services.service = MetadataService{ tool };
     services.preferences = std::make_shared<QSettings>(m_home.filePath(u"settings.ini"_s), QSettings::IniFormat);
     services.recordCachePath = cache;
+    services.journalPath = m_home.filePath(u"undo"_s);
+    services.templatesPath = m_home.filePath(u"templates"_s);
     if (details == Details::off)
         services.detailsDelay = std::chrono::hours(24);
     m_model = std::make_unique<AppModel>(services);

@@ -24,17 +24,27 @@ void PauseWatch::begin()
     m_events.clear();
 }
 
+void PauseWatch::handle(const std::function<void()>& work)
+{
+    note(work);
+}
+
 void PauseWatch::turn()
+{
+    note([] { processEvents(); });
+    QThread::usleep(500);
+}
+
+void PauseWatch::note(const std::function<void()>& work)
 {
     const double cpu = cpuMilliseconds();
     QElapsedTimer clock;
     clock.start();
-    processEvents();
+    work();
     const double wall = static_cast<double>(clock.nsecsElapsed()) / 1e6;
     m_longest.wall = std::max(m_longest.wall, wall);
     m_longest.cpu = std::max(m_longest.cpu, cpuMilliseconds() - cpu);
     m_turns.push_back(wall);
-    QThread::usleep(500);
 }
 
 int PauseWatch::longerThan(double limit) const

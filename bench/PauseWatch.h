@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QByteArray>
 
+#include <functional>
 #include <vector>
 
 namespace Quorbel::Bench {
@@ -25,6 +26,8 @@ public:
 
     /// Forgets what was seen so far.
     void begin();
+    /// Does this as if an event had brought it.
+    void handle(const std::function<void()>& work);
     /// Handles what is there, then sleeps for half a millisecond.
     void turn();
     Turn longest() const { return m_longest; }
@@ -36,6 +39,8 @@ public:
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:
+    void note(const std::function<void()>& work);
+
     Turn m_longest{};
     std::vector<double> m_turns;
     std::vector<Event> m_events;
