@@ -99,8 +99,12 @@ def run(*arguments):
     subprocess.run(arguments, check=True)
 
 
+def box_of(node):
+    return node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+
+
 def centre(node):
-    box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    box = box_of(node)
     return box.x + box.width // 2, box.y + box.height // 2
 
 
@@ -121,6 +125,11 @@ def click(node, *modifiers):
     keys = [argument for modifier in modifiers for argument in ("keydown", modifier)]
     ups = [argument for modifier in modifiers for argument in ("keyup", modifier)]
     run("xdotool", "mousemove", str(x), str(y), *keys, "click", "1", *ups)
+    time.sleep(0.15)
+
+
+def click_at(x, y):
+    run("xdotool", "mousemove", str(x), str(y), "click", "1")
     time.sleep(0.15)
 
 
