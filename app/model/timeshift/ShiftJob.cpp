@@ -26,15 +26,10 @@ EditPlan planOf(const PhotoShift& photo)
     return plan;
 }
 
-// What one write is given: the targets that are asked the same.
-struct Portion {
-    QList<Assignment> assignments{};
-    QList<QUrl> targets{};
-};
-
-QList<Portion> portions(const QList<QUrl>& targets, const QHash<QUrl, PhotoShift>& photos)
+// The targets that are asked the same together.
+QList<SafeWriter::Portion> portions(const QList<QUrl>& targets, const QHash<QUrl, PhotoShift>& photos)
 {
-    QList<Portion> portions;
+    QList<SafeWriter::Portion> portions;
     QHash<QStringList, qsizetype> known;
     for (const QUrl& target : targets) {
         const QList<Assignment> assignments = photos.value(target).assignments;
@@ -42,7 +37,7 @@ QList<Portion> portions(const QList<QUrl>& targets, const QHash<QUrl, PhotoShift
         const qsizetype at = known.value(key, portions.size());
         if (at == portions.size()) {
             known.insert(key, at);
-            portions.append({ assignments, {} });
+            portions.append({ .command = { .assignments = assignments } });
         }
         portions[at].targets.append(target);
     }
@@ -53,29 +48,46 @@ QList<Portion> portions(const QList<QUrl>& targets, const QHash<QUrl, PhotoShift
 QList<FileFailure> namedFailures(const ToolError& error, const QList<QUrl>& targets)
 {
     const QList<QUrl> files = SaveGuard::filesBehindLinks(targets);
-    const QList<FileFailure> named = writeFailures(error, files);
+    QHash<QUrl, QString> reasons;
+    for (const FileFailure& failure : writeFailures(error, files))
+        reasons.insert(failure.file, failure.reason);
     QList<FileFailure> failures;
-    for (const FileFailure& failure : named)
-        for (qsizetype i = 0; i < files.size(); ++i)
-            if (files.at(i) == failure.file)
-                failures.append({ targets.at(i), failure.reason });
+    for (qsizetype i = 0; i < files.size(); ++i)
+        if (const auto reason = reasons.constFind(files.at(i)); reason != reasons.cend())
+            failures.append({ targets.at(i), *reason });
     return failures;
 }
 
-void write(const MetadataService& service, const Portion& portion, const WriteOptions& options, Written& written)
+// What keeps one portion from being written says nothing of the others.
+QList<FileFailure> failuresOf(const SafeWriter::Outcome& outcome, const QList<SafeWriter::Portion>& portions)
 {
+    const QSet<QUrl> done(outcome.done.cbegin(), outcome.done.cend());
+    QList<FileFailure> failures;
+    QList<QUrl> left;
+    for (qsizetype i = 0; i < portions.size(); ++i)
+        for (const QUrl& target : portions.at(i).targets)
+            if (const auto refused = outcome.refused.constFind(i); refused != outcome.refused.cend())
+                failures.append({ target, *refused });
+            else if (!done.contains(target))
+                left.append(target);
+    if (outcome.error)
+        failures += namedFailures(*outcome.error, left);
+    return failures;
+}
+
+void write(const MetadataService& service, const QList<QUrl>& targets, const WriteOptions& options, Written& written)
+{
+    const QList<SafeWriter::Portion> given = portions(targets, written.photos);
     try {
-        SafeWriter::write(service.runner, { .assignments = portion.assignments }, portion.targets,
-            options.backupOriginals, {}, {}, &written.notes);
-    } catch (const ToolError& error) {
-        written.failures += namedFailures(error, portion.targets);
+        written.failures +=
+            failuresOf(SafeWriter::writeEach(service.runner, given, options.backupOriginals, &written.notes), given);
     } catch (const Error& error) {
-        for (const QUrl& target : portion.targets)
+        for (const QUrl& target : targets)
             written.failures.append({ target, error.description() });
     }
     // They take over what the photos hold by then: a shift of their own would be a second one.
     if (options.writeSidecar)
-        written.notes.sidecars += Companions::writeSidecars(service.runner, {}, portion.targets, {});
+        written.notes.sidecars += Companions::writeSidecars(service.runner, {}, targets, {});
 }
 
 // By target.
@@ -135,8 +147,7 @@ void runAll(const MetadataService& service, const Order& order, Looked looked,
         history ? SaveUndo::journalEntry(looked.values, plan, targets, order.options) : JournalEntry();
     {
         const ReplacedFilesPoll poll(targets, progress.done);
-        for (const Portion& portion : portions(targets, written.photos))
-            write(service, portion, order.options, written);
+        write(service, targets, order.options, written);
     }
     if (history)
         written.undoable = history->add(entry);

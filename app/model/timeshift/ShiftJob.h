@@ -39,8 +39,8 @@ struct Written {
     std::optional<SaveHistory::Undoable> undoable{};  ///< what can be taken back now; nothing without a history
 };
 
-/// Writes, and counts meanwhile the files that are done. Photos that changed since the look are looked at again. Those
-/// that are asked the same share a run. Never throws.
+/// Writes, and counts meanwhile the files that are done. Photos that changed since the look are looked at again. All of
+/// them share a start of the tool, or as few as hold what they are asked. Never throws.
 Written run(const MetadataService& service, const Order& order, const Looked& looked,
     const std::shared_ptr<SaveHistory>& history, TaskProgress& progress);
 
