@@ -33,6 +33,7 @@ constexpr qreal formHeight = 82;
 constexpr qreal labelWidth = 125;
 constexpr qreal numberWidth = 50;
 constexpr qreal directionWidth = 149;
+constexpr qreal leastDirectionWidth = 124;  // where text is large
 constexpr qreal thumbnailSide = 42;
 constexpr qreal thumbnailRadius = 6;
 constexpr qreal noteHeight = 16;
@@ -144,9 +145,11 @@ QWidget* ShiftTimeSheet::buildAmount()
     }
     line->addStretch();
     m_direction->setAccessibleName(u"Direction"_s);
+    m_direction->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     connect(m_direction, &SegmentedPicker::picked, this, &ShiftTimeSheet::takeAmount);
     onRestyle(form, [this, line] {
-        m_direction->setFixedWidth(px(directionWidth));
+        m_direction->setMinimumWidth(px(leastDirectionWidth));
+        m_direction->setMaximumWidth(px(directionWidth));
         line->setSpacing(px(7));
     });
     column->addLayout(line);

@@ -28,6 +28,7 @@ constexpr qreal heightOfKeys = 420;
 constexpr qreal leastHeightOfKeys = 160;
 constexpr qreal rowHeight = 26;
 constexpr qreal columnGap = 32;
+constexpr qreal oneColumnBelow = 760;
 constexpr qreal groupGap = 18;
 constexpr qreal keyGap = 12;
 
@@ -72,6 +73,13 @@ private:
     QString m_keys;
 };
 
+// As high as is good to read; lower in a low window.
+class KeysArea final : public ScrollArea {
+public:
+    QSize sizeHint() const override { return { px(widthOfAll), px(heightOfKeys) }; }
+    QSize minimumSizeHint() const override { return { 0, px(leastHeightOfKeys) }; }
+};
+
 // Kept away from the group above it.
 QWidget* titleOf(const ShortcutGroup& group, bool isFirst)
 {
@@ -90,7 +98,7 @@ ShortcutsSheet::ShortcutsSheet(QList<ShortcutGroup> groups, QWidget* parent)
     : SheetBody(parent)
     , m_groups(std::move(groups))
     , m_query(new QBTextField)
-    , m_scroll(new ScrollArea)
+    , m_scroll(new KeysArea)
     , m_none(new ThemedLabel(u"No such shortcut."_s, TextRole::label, 13))
 {
     m_query->setPlaceholder(u"Search shortcuts…"_s);
@@ -106,6 +114,7 @@ void ShortcutsSheet::build()
 {
     auto* content = new QWidget;
     auto* line = new QHBoxLayout(content);
+    m_columns = line;
     line->setContentsMargins(0, 0, 0, 0);
     const auto lengthOf = [](const ShortcutGroup& group) { return group.rows.size() + 2; };
     qsizetype left = 0;
@@ -145,13 +154,27 @@ void ShortcutsSheet::build()
     QHBoxLayout* buttons = sheetButtonRow(this, { done });
     whole->addLayout(buttons);
     frameSheet(this, whole, widthOfAll);
-    onRestyle(this, [this, line, whole, buttons] {
-        line->setSpacing(px(columnGap));
+    onRestyle(this, [this, whole, buttons] {
+        fitColumns();
         whole->setSpacing(px(14));
         buttons->setContentsMargins(0, px(8), 0, 0);
         m_scroll->setMinimumHeight(px(leastHeightOfKeys));
-        m_scroll->setFixedHeight(px(heightOfKeys));
+        m_scroll->setMaximumHeight(px(heightOfKeys));
     });
+}
+
+// One below the other where large text leaves no room for two.
+void ShortcutsSheet::fitColumns()
+{
+    const bool isOne = width() < px(oneColumnBelow);
+    m_columns->setDirection(isOne ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_columns->setSpacing(px(isOne ? groupGap : columnGap));
+}
+
+void ShortcutsSheet::resizeEvent(QResizeEvent* event)
+{
+    SheetBody::resizeEvent(event);
+    fitColumns();
 }
 
 // What is found is told to those who do not see it, while it is not too much to hear.

@@ -5,6 +5,8 @@
 #include "ui/sheets/Sheet.h"
 #include "ui/window/Shortcuts.h"
 
+class QBoxLayout;
+
 namespace Quorbel {
 
 class QBTextField;
@@ -28,14 +30,17 @@ signals:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void build();
+    void fitColumns();
     void find();
 
     QList<ShortcutGroup> m_groups;
     QBTextField* m_query;
     ScrollArea* m_scroll;
+    QBoxLayout* m_columns = nullptr;
     ThemedLabel* m_none;
     QList<QWidget*> m_titles;  ///< one a group
     QList<QList<QWidget*>> m_rows;  ///< of each group

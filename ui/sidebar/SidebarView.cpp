@@ -13,6 +13,7 @@
 #include "ui/sidebar/FilterMenu.h"
 #include "ui/sidebar/PassingNote.h"
 #include "ui/sidebar/SidebarList.h"
+#include "ui/window/ColumnRow.h"
 #include "ui/window/ProgressFoot.h"
 
 #include <QActionGroup>
@@ -32,6 +33,7 @@ constexpr qreal headerHeight = 40;
 constexpr qreal sidePadding = 12;
 constexpr qreal rightPadding = 2;  // room for a focus ring: the handle beside it is empty space too
 constexpr qreal fieldHeight = 30;
+constexpr qreal narrowButton = 24;
 constexpr qreal findHeight = 41;  // the field, 10 below it, the hairline
 constexpr qreal findHeightOverChips = 36;  // they stand closer to the field
 
@@ -151,18 +153,31 @@ QWidget* SidebarView::buildFind()
     connect(&m_model, &AppModel::searchChanged, m_search, [this] { m_search->setBoundText(m_model.search()); });
     line->addWidget(m_search, 1);
     m_filter = new QBIconButton(u"line.3.horizontal.decrease"_s, FilterTexts::name());
-    m_filter->setSizes({ 30, 30 }, 16);
     connect(m_filter, &QAbstractButton::clicked, this, &SidebarView::openFilterMenu);
     line->addWidget(m_filter);
     m_sort = new QBIconButton(u"arrow.up.arrow.down"_s, u"Sort images"_s);
-    m_sort->setSizes({ 30, 30 }, 16);
     connect(m_sort, &QAbstractButton::clicked, this, &SidebarView::openSortMenu);
     line->addWidget(m_sort);
-    onRestyle(m_find, [this, line] {
-        line->setSpacing(px(4));
+    onRestyle(m_find, [this] {
+        fitFind();
         followFilters();
     });
     return m_find;
+}
+
+// In a sidebar that large text makes narrow, the buttons leave the field room for its word.
+void SidebarView::fitFind()
+{
+    const bool isNarrow = width() < px(Columns::minSidebar);
+    m_find->layout()->setSpacing(px(isNarrow ? 1 : 4));
+    for (QBIconButton* button : { m_filter, m_sort })
+        button->setSizes({ isNarrow ? narrowButton : fieldHeight, fieldHeight }, 16);
+}
+
+void SidebarView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    fitFind();
 }
 
 QWidget* SidebarView::buildChips()

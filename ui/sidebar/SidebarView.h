@@ -45,6 +45,7 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -55,6 +56,7 @@ private:
     void openSortMenu();
     void openFilterMenu();
     void followFilters();
+    void fitFind();
 
     AppModel& m_model;
     QBTextField* m_search = nullptr;

@@ -23,6 +23,7 @@ constexpr qreal gap = 12;
 constexpr qreal above = 7;
 constexpr qreal lineHeight = 18;
 constexpr qreal mostNote = 230;
+constexpr qreal leastText = 180;  // with less beside it, a note stands below
 
 // "lake, autumn + regatta − old".
 QString itemsText(const FilledField& field)
@@ -69,13 +70,22 @@ PreviewRow::PreviewRow(const FilledField& field, bool isFirst, QWidget* parent)
 
 PreviewRow::~PreviewRow() = default;
 
+qreal PreviewRow::noteWidth() const
+{
+    const qreal most = qMin(pxF(mostNote), width() - 2 * pxF(side));
+    return m_field.note.isEmpty() ? 0 : qMin(QFontMetricsF(sansFont(11)).horizontalAdvance(m_field.note) + 1, most);
+}
+
+bool PreviewRow::isNoteBelow() const
+{
+    return !m_field.note.isEmpty() && width() - pxF(2 * side + labelWidth + gap) - noteWidth() < pxF(leastText);
+}
+
 QRectF PreviewRow::textBox() const
 {
     const qreal left = pxF(side + labelWidth);
-    const QFontMetricsF small(sansFont(11));
-    const qreal note =
-        m_field.note.isEmpty() ? 0 : qMin(small.horizontalAdvance(m_field.note) + 1, pxF(mostNote)) + pxF(gap);
-    return { left, pxF(above), width() - left - note - pxF(side), height() - 2 * pxF(above) };
+    const qreal beside = m_field.note.isEmpty() || isNoteBelow() ? 0 : noteWidth() + pxF(gap);
+    return { left, pxF(above), width() - left - beside - pxF(side), height() - 2 * pxF(above) };
 }
 
 void PreviewRow::layOut()
@@ -101,7 +111,8 @@ void PreviewRow::layOut()
         y += pxF(lineHeight);
     }
     m_layout->endLayout();
-    const int wanted = int(std::ceil(qMax(y, pxF(lineHeight)) + 2 * pxF(above)));
+    const qreal note = isNoteBelow() ? pxF(lineHeight) : 0;
+    const int wanted = int(std::ceil(qMax(y, pxF(lineHeight)) + note + 2 * pxF(above)));
     if (wanted != height() || wanted != minimumHeight())
         setFixedHeight(wanted);
 }
@@ -144,8 +155,12 @@ void PreviewRow::paintEvent(QPaintEvent*)
     draw({ pxF(side), pxF(above), pxF(labelWidth), pxF(lineHeight) }, sansFont(13), theme.derived.label, m_field.label,
         Qt::AlignLeft);
     const bool isRefused = m_field.outcome == FilledField::Outcome::refused;
-    const QRectF note(
+    QRectF note(
         textBox().right() + pxF(gap), pxF(above), width() - textBox().right() - pxF(gap + side), pxF(lineHeight));
+    if (isNoteBelow()) {
+        const qreal left = qMin(textBox().left(), width() - pxF(side) - noteWidth());
+        note = { left, height() - pxF(above + lineHeight), noteWidth(), pxF(lineHeight) };
+    }
     draw(note, sansFont(11), isRefused || !m_gaps.isEmpty() ? theme.derived.amberText : theme.derived.label,
         m_field.note, Qt::AlignRight);
     painter.setPen(isRefused ? theme.derived.amberText : theme.text);

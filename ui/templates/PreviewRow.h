@@ -24,6 +24,8 @@ protected:
 
 private:
     void layOut();
+    qreal noteWidth() const;
+    bool isNoteBelow() const;
     QRectF textBox() const;
     void paintGaps(QPainter& painter) const;
 

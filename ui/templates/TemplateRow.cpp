@@ -58,13 +58,13 @@ TemplateRow::TemplateRow(const TemplateField& field, Completions completions, QW
     m_grid->setContentsMargins(0, 0, 0, 0);
     m_grid->addWidget(label, 0, 0, Qt::AlignTop);
     m_grid->addWidget(m_mode, 0, 1, Qt::AlignTop);
-    m_grid->addWidget(editor, 0, 2, Qt::AlignTop);
     m_grid->addWidget(remove, 0, 3, Qt::AlignTop);
     m_grid->setColumnStretch(2, 1);
     onRestyle(this, [this, label] {
         label->setFixedSize(px(labelWidth), px(30));
         m_grid->setHorizontalSpacing(px(gap));
-        m_grid->setVerticalSpacing(px(6));
+        m_grid->setVerticalSpacing(px(lineGap));
+        placeText();
     });
     connect(m_mode, &ChoicePicker::picked, this, [this](int index) {
         TemplateField now = m_field;
@@ -138,13 +138,33 @@ void TemplateRow::change(const TemplateField& field)
     emit changed(field);
 }
 
+// Beside its name and mode, or below them where it would have little room there.
+void TemplateRow::placeText()
+{
+    m_isStacked = width() < px(stackedBelow);
+    const int line = m_isStacked ? 1 : 0;
+    const int column = m_isStacked ? 0 : 2;
+    const int columns = m_isStacked ? 4 : 1;
+    QWidget* editor = m_text ? static_cast<QWidget*>(m_text) : m_items;
+    m_grid->addWidget(editor, line, column, 1, columns, Qt::AlignTop);
+    if (m_pills)
+        m_grid->addWidget(m_pills, line + 1, column, 1, columns);
+}
+
+void TemplateRow::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if ((width() < px(stackedBelow)) != m_isStacked)
+        placeText();
+}
+
 void TemplateRow::setPillsShown(bool on)
 {
     if (!m_text || (!on && !m_pills))
         return;
     if (!m_pills) {
         m_pills = new TokenPills(this);
-        m_grid->addWidget(m_pills, 1, 2);
+        placeText();
         orderTabs(m_mode);
         connect(m_pills, &TokenPills::picked, m_text, [this](const Token& token) {
             m_text->insertToken(TokenPieces::chip(token));

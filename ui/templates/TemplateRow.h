@@ -43,6 +43,10 @@ public:
     static constexpr qreal labelWidth = 92;
     static constexpr qreal modeWidth = 116;
     static constexpr qreal gap = 7;
+    static constexpr qreal stackedBelow = 480;  ///< the text of a narrower one is below its name
+
+    /// Points between what is one below the other.
+    static constexpr qreal lineGap = 6;
 
 signals:
     void changed(const Quorbel::TemplateField& field);
@@ -50,10 +54,14 @@ signals:
     /// Its text has the keyboard.
     void focused();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QWidget* makeText();
     QWidget* makeItems(const Completions& completions);
     void change(const TemplateField& field);
+    void placeText();
     void openToken(int position);
 
     TemplateField m_field;
@@ -63,6 +71,7 @@ private:
     TokenEdit* m_text = nullptr;
     KeywordEditor* m_items = nullptr;
     TokenPills* m_pills = nullptr;
+    bool m_isStacked = false;
 };
 
 }  // namespace Quorbel

@@ -19,6 +19,7 @@
 #include "ui/templates/TemplateList.h"
 #include "ui/templates/TemplateRow.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLocale>
 #include <QPainter>
@@ -33,6 +34,8 @@ namespace {
 // Points.
 constexpr qreal templatesWidth = 880;
 constexpr qreal sideWidth = 196;
+constexpr qreal narrowSideWidth = 170;
+constexpr qreal narrowBelow = 724;
 constexpr qreal rowGap = 7;
 constexpr qreal digitWidth = 112;
 constexpr qreal fieldMenuWidth = 320;
@@ -123,7 +126,7 @@ TemplatesSheet::TemplatesSheet(AppModel& model, QWidget* parent)
     , m_photo(new ThemedLabel({}, TextRole::label, 11))
     , m_before(new QBIconButton(u"chevron.right"_s, u"Previous photo"_s))
     , m_after(new QBIconButton(u"chevron.right"_s, u"Next photo"_s))
-    , m_status(new ThemedLabel({}, TextRole::label, 11))
+    , m_status(new WrappedLine(TextRole::label, 11, 15))
     , m_fill(new QBButton(u"Fill"_s, QBButtonKind::primary))
 {
     auto* columns = new QHBoxLayout(this);
@@ -131,14 +134,18 @@ TemplatesSheet::TemplatesSheet(AppModel& model, QWidget* parent)
     columns->setSpacing(0);
     columns->addWidget(buildSide());
     columns->addWidget(buildForm(), 1);
-    onRestyle(this, [this] { setWantedWidth(px(templatesWidth)); });
+    onRestyle(this, [this] {
+        setWantedWidth(px(templatesWidth));
+        fit();
+    });
     connectModel();
     showTemplate();
 }
 
 QWidget* TemplatesSheet::buildSide()
 {
-    auto* side = new QWidget;
+    m_side = new QWidget;
+    QWidget* side = m_side;
     auto* column = new QVBoxLayout(side);
     auto* add = new QBIconButton(u"plus"_s, u"New template"_s);
     auto* more = new QBIconButton(u"ellipsis"_s, u"More"_s);
@@ -162,8 +169,7 @@ QWidget* TemplatesSheet::buildSide()
     foot->addWidget(more);
     foot->addStretch();
     column->addLayout(foot);
-    onRestyle(side, [side, column, foot] {
-        side->setFixedWidth(px(sideWidth));
+    onRestyle(side, [column, foot] {
         column->setContentsMargins(px(8), px(10), px(9), px(10));
         column->setSpacing(px(6));
         foot->setSpacing(px(2));
@@ -227,7 +233,7 @@ QWidget* TemplatesSheet::buildForm()
     connect(done, &QAbstractButton::clicked, this, &TemplatesSheet::cancel);
     connect(m_fill, &QAbstractButton::clicked, this, &TemplatesSheet::confirm);
     auto* foot = sheetButtonRow(this, { done, m_fill });
-    foot->insertWidget(0, m_status);
+    foot->insertWidget(0, m_status, 1);
     column->addWidget(m_none);
     column->addWidget(area, 1);
     column->addLayout(foot);
@@ -247,8 +253,8 @@ QWidget* TemplatesSheet::buildForm()
 
 QWidget* TemplatesSheet::buildNameLine()
 {
-    auto* line = new QWidget;
-    auto* row = new QHBoxLayout(line);
+    m_nameLine = new QWidget;
+    auto* grid = new QGridLayout(m_nameLine);
     auto* label = new ThemedLabel(u"Name"_s, TextRole::label, 13);
     label->setBuddy(m_name);
     m_name->setAccessibleName(u"Name"_s);
@@ -256,13 +262,14 @@ QWidget* TemplatesSheet::buildNameLine()
     for (int digit = 1; digit <= 9; ++digit)
         titles.append(u"Ctrl+%1"_s.arg(digit));
     m_digit->setTitles(titles);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(label);
-    row->addWidget(m_name, 1);
-    row->addWidget(m_digit);
-    onRestyle(line, [row, label] {
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(m_digit, 0, 2);
+    onRestyle(m_nameLine, [grid, label] {
         label->setFixedWidth(px(TemplateRow::labelWidth));
-        row->setSpacing(px(TemplateRow::gap));
+        grid->setHorizontalSpacing(px(TemplateRow::gap));
+        grid->setVerticalSpacing(px(TemplateRow::lineGap));
     });
     connect(m_name, &QLineEdit::textEdited, this, [this](const QString& text) {
         Template now = *value();
@@ -276,7 +283,15 @@ QWidget* TemplatesSheet::buildNameLine()
         now.digit = digit;
         change(now);
     });
-    return line;
+    return m_nameLine;
+}
+
+// As in the rows below it.
+void TemplatesSheet::placeName()
+{
+    auto* grid = static_cast<QGridLayout*>(m_nameLine->layout());
+    const bool isStacked = width() < px(narrowBelow);
+    grid->addWidget(m_name, isStacked ? 1 : 0, isStacked ? 0 : 1, 1, isStacked ? 3 : 1);
 }
 
 QWidget* TemplatesSheet::buildPreviewHead()
@@ -288,6 +303,7 @@ QWidget* TemplatesSheet::buildPreviewHead()
     for (QBIconButton* button : { m_before, m_after })
         button->setSizes({ 24, 24 }, 12, 0, 6);
     m_photo->setVerbatim(true);
+    m_photo->setElided(true);
     connect(m_before, &QAbstractButton::clicked, this, [this] { step(-1); });
     connect(m_after, &QAbstractButton::clicked, this, [this] { step(1); });
     row->addWidget(new LabeledDivider(u"PREVIEW"_s), 1);
@@ -510,10 +526,23 @@ QWidget* TemplatesSheet::initialFocus()
     return value() ? m_name : nullptr;
 }
 
+// Where text is large, the list and the name's line give way.
+void TemplatesSheet::fit()
+{
+    m_side->setFixedWidth(px(width() < px(narrowBelow) ? narrowSideWidth : sideWidth));
+    placeName();
+}
+
+void TemplatesSheet::resizeEvent(QResizeEvent* event)
+{
+    SheetBody::resizeEvent(event);
+    fit();
+}
+
 void TemplatesSheet::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(QRectF(px(sideWidth) - 1, 0, 1, height()), Theme::of(this).line);
+    painter.fillRect(QRectF(m_side->width() - 1, 0, 1, height()), Theme::of(this).line);
 }
 
 }  // namespace Quorbel

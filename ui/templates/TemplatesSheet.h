@@ -39,11 +39,14 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QWidget* buildSide();
     QWidget* buildForm();
     QWidget* buildNameLine();
+    void placeName();
+    void fit();
     QWidget* buildPreviewHead();
     void connectModel();
 
@@ -64,6 +67,8 @@ private:
     AppModel& m_model;
     Templates& m_templates;
     QWidget* m_form = nullptr;
+    QWidget* m_side = nullptr;
+    QWidget* m_nameLine = nullptr;
     WrappedLine* m_problems;
     WrappedLine* m_none;
     QBTextField* m_name;
@@ -74,7 +79,7 @@ private:
     QBIconButton* m_before;
     QBIconButton* m_after;
     QVBoxLayout* m_preview;
-    ThemedLabel* m_status;
+    WrappedLine* m_status;
     QBButton* m_fill;
     QList<TemplateRow*> m_shown;
     QPointer<TemplateRow> m_focused;

@@ -7,16 +7,20 @@
 #include "tests/ui/LayoutAudit.h"
 #include "tests/ui/inspector/HalfRead.h"
 #include "tests/ui/window/WindowFixture.h"
+#include "ui/controls/Buttons.h"
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/controls/attached/CodesChip.h"
 #include "ui/controls/attached/MarkButton.h"
 #include "ui/sheets/AddFieldSheet.h"
 #include "ui/sheets/MessageSheet.h"
 #include "ui/sheets/PasteFieldsSheet.h"
+#include "ui/sheets/QuickSetSheet.h"
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
 #include "ui/sheets/ShiftTimeSheet.h"
+#include "ui/sheets/ShortcutsSheet.h"
 #include "ui/sheets/renaming/RenamePhotosSheet.h"
+#include "ui/sidebar/FilterTexts.h"
 #include "ui/templates/TemplatesSheet.h"
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
@@ -188,6 +192,24 @@ private:
             *host, u"tag"_s, u"Replace the file?"_s, longMessage, { u"Keep both"_s, u"Replace"_s, u"Cancel"_s }, {});
         look(seen, u"message"_s);
         host->dismiss(host->current());
+        host->present(new ShortcutsSheet(Shortcuts::inPlaces()));
+        look(seen, u"shortcuts"_s);
+        host->dismiss(host->current());
+        host->present(new QuickSetSheet(model));
+        look(seen, u"quick keywords"_s);
+        host->dismiss(host->current());
+        filterMenu(seen);
+    }
+
+    void filterMenu(Scenes& seen)
+    {
+        for (auto* button : m_window->findChildren<QBIconButton*>())
+            if (button->accessibleName() == FilterTexts::name())
+                button->click();
+        settle();
+        QVERIFY(QApplication::activePopupWidget());
+        seen.insert(u"filters"_s, audit(QApplication::activePopupWidget()));
+        QApplication::activePopupWidget()->close();
     }
 
     void batch(Scenes& seen)

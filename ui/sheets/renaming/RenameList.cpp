@@ -7,6 +7,7 @@
 #include "ui/sheets/renaming/RenameRowDelegate.h"
 
 #include <QPainter>
+#include <QResizeEvent>
 #include <QScrollBar>
 
 namespace Quorbel {
@@ -97,8 +98,7 @@ RenameList::RenameList(QWidget* parent)
         setPalette(colors);
         viewport()->setAutoFillBackground(false);
         setViewportMargins(1, 1, 1, 1);
-        verticalScrollBar()->setSingleStep(RenameRowDelegate::rowHeight());
-        scheduleDelayedItemsLayout();
+        layOutRows();
     });
 }
 
@@ -123,6 +123,20 @@ bool RenameList::goToNextMarked()
         return true;
     }
     return false;
+}
+
+// A narrow list has higher rows.
+void RenameList::layOutRows()
+{
+    verticalScrollBar()->setSingleStep(RenameRowDelegate::rowHeight(viewport()->width()));
+    scheduleDelayedItemsLayout();
+}
+
+void RenameList::resizeEvent(QResizeEvent* event)
+{
+    QListView::resizeEvent(event);
+    if (event->oldSize().width() != event->size().width())
+        layOutRows();
 }
 
 QSize RenameList::sizeHint() const

@@ -28,8 +28,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void layOutRows();
+
     RenameRows* m_rows;
 };
 

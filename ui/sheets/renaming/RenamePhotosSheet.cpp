@@ -4,13 +4,14 @@
 #include "app/model/renaming/PhotosRenaming.h"
 #include "core/text/FileNaming.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/Labels.h"
+#include "ui/controls/FormLabels.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/sheets/SheetParts.h"
 #include "ui/sheets/TokenFlow.h"
 #include "ui/sheets/renaming/NumberField.h"
 #include "ui/sheets/renaming/RenameList.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLocale>
 #include <QVBoxLayout>
@@ -25,9 +26,54 @@ namespace {
 constexpr qreal manyWidth = 640;
 constexpr qreal labelGap = 7;
 constexpr qreal fieldGap = 16;
+constexpr qreal partsGap = 6;
 constexpr qreal footAbove = 22;
 constexpr int mostStart = 999'999'999;
 constexpr int mostStep = 99'999;
+
+// One at the left and one at the right; in a narrow sheet, the second below the first. The room is kept for both while
+// one is hidden.
+class TwoParts final : public QWidget {
+public:
+    TwoParts(QWidget* first, QWidget* second)
+        : m_first(first)
+        , m_second(second)
+    {
+        first->setParent(this);
+        second->setParent(this);
+    }
+
+    void arrange()
+    {
+        const QSize first = m_first->sizeHint();
+        const QSize second = m_second->sizeHint();
+        const bool isOneLine = first.width() + px(fieldGap) + second.width() <= width();
+        const int below = first.height() + px(partsGap);
+        setFixedHeight(isOneLine ? first.height() : below + second.height());
+        m_first->setGeometry(0, 0, qMin(width(), first.width()), first.height());
+        if (isOneLine)
+            m_second->setGeometry(width() - second.width(), 0, second.width(), first.height());
+        else
+            m_second->setGeometry(0, below, qMin(width(), second.width()), second.height());
+    }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)
+            arrange();
+        return QWidget::event(event);
+    }
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QWidget::resizeEvent(event);
+        arrange();
+    }
+
+private:
+    QWidget* m_first;
+    QWidget* m_second;
+};
 
 QString counted(qsizetype count)
 {
@@ -47,7 +93,7 @@ RenamePhotosSheet::RenamePhotosSheet(AppModel& model, QWidget* parent)
     , m_marked(new ThemedLabel({}, TextRole::amberText, 11.5))
     , m_next(new QBTextButton(u"Next"_s))
     , m_list(new RenameList)
-    , m_foot(new ThemedLabel({}, TextRole::label, 11))
+    , m_foot(new WrappedLine(TextRole::label, 11, 15))
     , m_cancel(new QBButton(u"Cancel"_s, QBButtonKind::secondary))
     , m_rename(new QBButton(u"Rename"_s, QBButtonKind::primary))
 {
@@ -77,8 +123,6 @@ QWidget* RenamePhotosSheet::buildTokens()
 // The line stays where it is without a counter: nothing below it moves while one types.
 QWidget* RenamePhotosSheet::buildCounter()
 {
-    auto* line = new QWidget;
-    auto* row = new QHBoxLayout(line);
     auto* counter = new QHBoxLayout(m_counter);
     QList<QSpacerItem*> gaps;
     const auto add = [&](const QString& label, NumberField* field) {
@@ -92,16 +136,13 @@ QWidget* RenamePhotosSheet::buildCounter()
     add(u"Counter from"_s, m_start);
     add(u"step"_s, m_step);
     add(u"digits"_s, m_digits);
-    row->addWidget(m_counter);
-    row->addStretch();
-    row->addWidget(new ThemedLabel(u"The extension is kept."_s, TextRole::label, 11));
+    auto* line = new TwoParts(m_counter, new ThemedLabel(u"The extension is kept."_s, TextRole::label, 11));
     onRestyle(this, [=, this] {
-        row->setContentsMargins(0, 0, 0, 0);
         counter->setContentsMargins(0, 0, 0, 0);
         counter->setSpacing(px(labelGap));
         for (QSpacerItem* gap : gaps)
             gap->changeSize(px(fieldGap) - 2 * px(labelGap), 0);
-        line->setFixedHeight(m_start->sizeHint().height());
+        line->arrange();
     });
     return line;
 }
@@ -126,7 +167,6 @@ QWidget* RenamePhotosSheet::buildFoot()
 {
     auto* line = new QWidget;
     auto* row = new QHBoxLayout(line);
-    m_foot->setElided(true);
     row->addWidget(m_foot, 1);
     row->addWidget(m_cancel);
     row->addWidget(m_rename);

@@ -14,6 +14,7 @@ class QBTextButton;
 class QBTextField;
 class RenameList;
 class ThemedLabel;
+class WrappedLine;
 
 class RenamePhotosSheet final : public SheetBody {
     Q_OBJECT
@@ -47,7 +48,7 @@ private:
     ThemedLabel* m_marked;
     QBTextButton* m_next;
     RenameList* m_list;
-    ThemedLabel* m_foot;
+    WrappedLine* m_foot;
     QBButton* m_cancel;
     QBButton* m_rename;
 };

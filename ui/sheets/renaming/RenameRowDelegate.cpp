@@ -5,6 +5,7 @@
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 
 namespace Quorbel {
@@ -15,6 +16,8 @@ namespace {
 
 // Points.
 constexpr qreal height = 32;
+constexpr qreal stackedHeight = 50;
+constexpr qreal stackedBelow = 540;  // lists narrower than this
 constexpr qreal side = 12;
 constexpr qreal oldNameWidth = 140;
 constexpr qreal arrowWidth = 30;
@@ -25,6 +28,11 @@ constexpr qreal nameSize = 12;
 constexpr qreal wordsSize = 11;
 constexpr qreal signSize = 12;
 constexpr int singleLine = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine;
+
+bool isStacked(qreal listWidth)
+{
+    return listWidth < pxF(stackedBelow);
+}
 
 bool isWarning(const RenameRow& row)
 {
@@ -44,14 +52,15 @@ RenameRowDelegate::RenameRowDelegate(RowAt rowAt, QObject* parent)
 {
 }
 
-int RenameRowDelegate::rowHeight()
+int RenameRowDelegate::rowHeight(int listWidth)
 {
-    return px(height);
+    return px(isStacked(listWidth) ? stackedHeight : height);
 }
 
-QSize RenameRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const
+QSize RenameRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const
 {
-    return { px(300), rowHeight() };
+    const auto* list = qobject_cast<const QAbstractScrollArea*>(option.widget);
+    return { px(200), rowHeight(list ? list->viewport()->width() : px(stackedBelow)) };
 }
 
 void RenameRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
@@ -70,16 +79,36 @@ void RenameRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
         painter->setPen(QPen(theme.derived.focusStrong, pxF(2)));
         painter->drawRoundedRect(box.adjusted(2, 2, -2, -3), pxF(5), pxF(5));
     }
-    const QFont mono = verbatimMonoFont(nameSize);
-    const QRectF old(box.left() + pxF(side), box.top(), pxF(oldNameWidth), box.height() - 1);
-    painter->setFont(mono);
-    painter->setPen(theme.derived.label);
-    painter->drawText(old, singleLine, QFontMetricsF(mono).elidedText(row->oldName, Qt::ElideMiddle, old.width()));
-    const QRectF arrow(old.right(), box.top(), pxF(arrowWidth), box.height() - 1);
-    Icon::paint(*painter, arrow.adjusted(0, 0, -pxF(6), 0), u"arrow.right"_s, pxF(14), theme.muted);
-    const qreal right = paintWords(*painter, box.adjusted(0, 0, -pxF(side), -1), *row, theme);
-    paintNewName(*painter, QRectF(arrow.right(), box.top(), right - arrow.right(), box.height() - 1), *row, theme);
+    const QRectF line = box.adjusted(pxF(side), 0, -pxF(side), -1);
+    if (isStacked(box.width())) {
+        const qreal half = line.height() / 2;
+        const QRectF first = line.adjusted(0, pxF(3), 0, -half);
+        paintOldName(
+            *painter, first.adjusted(0, 0, paintWords(*painter, first, *row, theme) - first.right(), 0), *row, theme);
+        paintArrowAndName(*painter, line.adjusted(0, half, 0, -pxF(3)), *row, theme);
+    } else {
+        const qreal right = paintWords(*painter, line, *row, theme);
+        const QRectF old(line.left(), line.top(), pxF(oldNameWidth), line.height());
+        paintOldName(*painter, old, *row, theme);
+        paintArrowAndName(*painter, QRectF(old.topRight(), QPointF(right, line.bottom())), *row, theme);
+    }
     painter->restore();
+}
+
+void RenameRowDelegate::paintOldName(QPainter& painter, const QRectF& box, const RenameRow& row, const Theme& theme)
+{
+    const QFont mono = verbatimMonoFont(nameSize);
+    painter.setFont(mono);
+    painter.setPen(theme.derived.label);
+    painter.drawText(box, singleLine, QFontMetricsF(mono).elidedText(row.oldName, Qt::ElideMiddle, box.width()));
+}
+
+void RenameRowDelegate::paintArrowAndName(
+    QPainter& painter, const QRectF& box, const RenameRow& row, const Theme& theme)
+{
+    const QRectF arrow(box.left(), box.top(), pxF(arrowWidth), box.height());
+    Icon::paint(painter, arrow.adjusted(0, 0, -pxF(6), 0), u"arrow.right"_s, pxF(14), theme.muted);
+    paintNewName(painter, box.adjusted(arrow.width(), 0, 0, 0), row, theme);
 }
 
 // At the right; what is left of them belongs to the new name.
@@ -90,7 +119,7 @@ qreal RenameRowDelegate::paintWords(QPainter& painter, const QRectF& row, const 
         return row.right();
     const QFont font = verbatimFont(wordsSize);
     const QFontMetricsF metrics(font);
-    const qreal most = row.width() / 2 - pxF(side);
+    const qreal most = (row.width() - pxF(side)) / 2;
     const qreal width = qMin(metrics.horizontalAdvance(words) + 1, most);
     const QRectF box(row.right() - width, row.top(), width, row.height());
     painter.setFont(font);

@@ -19,13 +19,15 @@ public:
 
     explicit RenameRowDelegate(RowAt rowAt, QObject* parent = nullptr);
 
-    /// Pixels.
-    static int rowHeight();
+    /// Pixels, in a list of this width: in a narrow one the new name stands under the old one.
+    static int rowHeight(int listWidth);
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
     static qreal paintWords(QPainter& painter, const QRectF& row, const RenameRow& of, const Theme& theme);
+    static void paintOldName(QPainter& painter, const QRectF& box, const RenameRow& row, const Theme& theme);
+    static void paintArrowAndName(QPainter& painter, const QRectF& box, const RenameRow& row, const Theme& theme);
     static void paintNewName(QPainter& painter, const QRectF& box, const RenameRow& row, const Theme& theme);
 
     RowAt m_rowAt;
