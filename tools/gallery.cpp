@@ -4,7 +4,7 @@
 #include "ui/controls/FlowLayout.h"
 #include "ui/controls/keywords/KeywordEditor.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/OffsetPicker.h"
+#include "ui/controls/pickers/OffsetPicker.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/ResizeHandle.h"

@@ -1,18 +1,12 @@
 // The model's beginning and end, what is open, and what other programs do to it.
 #include "app/model/AppModel.h"
 
+#include "app/model/AppModelTools.h"
 #include "app/model/library/PhotoListing.h"
 #include "app/model/library/cache/RecordCache.h"
-#include "app/model/library/filter/Filtering.h"
-#include "app/model/renaming/PhotosRenaming.h"
-#include "app/model/templates/Templates.h"
 #include "app/model/timeshift/TimeShifting.h"
-#include "app/model/words/CodeReplacements.h"
-#include "app/model/words/FieldPasting.h"
-#include "app/model/words/QuickKeywords.h"
 #include "core/schema/RecentItems.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QPointer>
 
@@ -31,13 +25,6 @@ std::shared_ptr<RecordCache> cacheFor(const AppModelServices& services)
         return {};
     return std::make_shared<RecordCache>(
         RecordCache::Options{ .folder = services.recordCachePath }, services.service->runner);
-}
-
-// Where the program keeps what lasts from one run to the next; "" where it keeps nothing.
-QString besideLeftEdits(const AppModelServices& services, const QString& name)
-{
-    const QString path = services.leftEditsPath;
-    return path.isEmpty() ? QString() : QFileInfo(path).dir().filePath(name);
 }
 
 DetailsReader::Ask detailsFrom(const AppModelServices& services)
@@ -77,35 +64,6 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
 }
 
 AppModel::~AppModel() = default;
-
-// They know the model, so it has to stand.
-void AppModel::makeTools()
-{
-    m_pasting = std::make_unique<FieldPasting>(*this,
-        FieldPasting::Parts{ [this] { return m_editing.unsaved(); }, besideLeftEdits(m_services, u"copied.json"_s) });
-    m_templates = std::make_unique<Templates>(*this, m_services.templatesPath, [this] { return m_editing.unsaved(); });
-    m_codes = std::make_unique<CodeReplacements>(*this);
-    m_quickKeywords = std::make_unique<QuickKeywords>(*this);
-    m_renaming = std::make_unique<PhotosRenaming>(*this,
-        PhotosRenaming::Parts{ m_announcer, m_tasks, m_library, m_editing, m_saving, m_cache,
-            m_services.journalPath.isEmpty() ? QString() : m_services.journalPath + u"/renames"_s,
-            m_services.endEditing, [this](std::function<void()> action) { holdBack(std::move(action)); },
-            [this](const QList<int>& gone) { takeVanished(gone); } });
-    m_filtering = std::make_unique<Filtering>(*this,
-        Filtering::Reach{ m_library.photos(), [this] { return m_editing.unsaved(); },
-            [this](const Selection& next) { commitSelection(next); },
-            [this](std::function<void()> then) { holdBack(std::move(then)); }, m_services.endEditing });
-    m_timeShifting = std::make_unique<TimeShifting>(*this,
-        TimeShifting::Access{ [this](std::function<void()> action) { holdBack(std::move(action)); },
-            [this](const QList<QUrl>& photos) { m_library.require(photos); },
-            [this](const ShiftJob::Order& order, const ShiftJob::Looked& looked) {
-                const Announcer::Together together(m_announcer);
-                if (onWriteBegins)
-                    onWriteBegins(order.targets);
-                m_saving.shiftTimes(order, looked);
-            },
-            m_services.service, m_tasks, m_announcer });
-}
 
 void AppModel::connectParts()
 {
@@ -259,7 +217,7 @@ void AppModel::cancelRead()
     requireMainThread("cancelRead");
     const Announcer::Together together(m_announcer);
     m_library.cancelReads();
-    m_timeShifting->cancel();
+    timeShifting().cancel();
     giveUpAwaited();
     if (m_agreeing && !m_agreeing->isAsking)
         giveUpAgreeing();

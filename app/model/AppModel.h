@@ -20,6 +20,7 @@
 
 namespace Quorbel {
 
+struct AppModelTools;
 class CodeReplacements;
 class FieldPasting;
 class Filtering;
@@ -220,13 +221,13 @@ public:
     void keepBatchItem(const QString& id, const QString& item);
 
     // --- Words for many photos, and their names and times: tools over this model, each with a header of its own ---
-    FieldPasting& pasting() { return *m_pasting; }
-    Templates& templates() { return *m_templates; }
-    CodeReplacements& codes() { return *m_codes; }
-    QuickKeywords& quickKeywords() { return *m_quickKeywords; }
-    PhotosRenaming& renaming() { return *m_renaming; }
-    TimeShifting& timeShifting() { return *m_timeShifting; }
-    Filtering& filtering() { return *m_filtering; }
+    FieldPasting& pasting();
+    Templates& templates();
+    CodeReplacements& codes();
+    QuickKeywords& quickKeywords();
+    PhotosRenaming& renaming();
+    TimeShifting& timeShifting();
+    Filtering& filtering();
 
     // --- What photos hold beside their records ---
     /// Null before it was looked at. Valid until the details change.
@@ -480,13 +481,7 @@ private:
     bool m_batchDontAskSession = false;
     std::function<void()> m_waiting;  ///< asked for again after a save or a discard
     std::optional<LeftEdits> m_toBringBack;  ///< once their photos are open, and read
-    std::unique_ptr<FieldPasting> m_pasting;
-    std::unique_ptr<Templates> m_templates;
-    std::unique_ptr<CodeReplacements> m_codes;
-    std::unique_ptr<QuickKeywords> m_quickKeywords;
-    std::unique_ptr<PhotosRenaming> m_renaming;
-    std::unique_ptr<TimeShifting> m_timeShifting;
-    std::unique_ptr<Filtering> m_filtering;
+    std::unique_ptr<AppModelTools> m_tools;
     bool m_isEnding = false;  ///< as soon as no save runs
     bool m_lastSaveFailed = false;  ///< some of its edits are still unsaved
 };

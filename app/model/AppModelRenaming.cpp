@@ -122,7 +122,7 @@ void AppModel::takeRenamed(const QUrl& source, const QUrl& destination)
     photos().rename(names);
     m_library.details().rename(names);
     m_editing.rename(names);
-    m_renaming->lookAgain();
+    renaming().lookAgain();
 }
 
 }  // namespace Quorbel

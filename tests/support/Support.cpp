@@ -232,6 +232,11 @@ QStringList PhotoFolder::names() const
     return QDir(path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 
+bool isSlowRun()
+{
+    return qEnvironmentVariableIsSet("QUORBEL_SLOW_TESTS");
+}
+
 QStringList realPhotos(const QString& kind, qsizetype most)
 {
     const QString root = qEnvironmentVariable("QUORBEL_TEST_PHOTOS");
@@ -241,7 +246,7 @@ QStringList realPhotos(const QString& kind, qsizetype most)
         for (const auto& name : folder.entryList(QDir::Files))
             if (name != u"MANIFEST.tsv"_s)
                 paths.append(folder.filePath(name));
-    if (qEnvironmentVariableIsSet("QUORBEL_SLOW_TESTS") || paths.size() <= most)
+    if (isSlowRun() || paths.size() <= most)
         return paths;
     QStringList chosen;
     for (qsizetype i = 0; i < most; ++i)

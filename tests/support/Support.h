@@ -41,6 +41,8 @@ private:
     QTemporaryDir m_directory;
 };
 
+/// Whether the long rows are to be run, too (QUORBEL_SLOW_TESTS=1).
+bool isSlowRun();
 /// Paths of real photos of a kind ("valid", "malformed"), as many as `most` of them, evenly chosen; all with
 /// QUORBEL_SLOW_TESTS=1. None when QUORBEL_TEST_PHOTOS names no folder.
 QStringList realPhotos(const QString& kind, qsizetype most);

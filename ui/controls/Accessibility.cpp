@@ -1,8 +1,8 @@
 #include "ui/controls/Accessibility.h"
 
 #include "ui/controls/Buttons.h"
-#include "ui/controls/ChoicePicker.h"
-#include "ui/controls/OffsetPicker.h"
+#include "ui/controls/pickers/ChoicePicker.h"
+#include "ui/controls/pickers/OffsetPicker.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/SuggestionList.h"

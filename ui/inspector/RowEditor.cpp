@@ -1,7 +1,7 @@
 #include "ui/inspector/RowEditor.h"
 
 #include "ui/controls/Buttons.h"
-#include "ui/controls/OffsetPicker.h"
+#include "ui/controls/pickers/OffsetPicker.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/keywords/KeywordEditor.h"

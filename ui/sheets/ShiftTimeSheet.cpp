@@ -6,7 +6,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/PickerButton.h"
+#include "ui/controls/pickers/PickerButton.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/Toggles.h"
 #include "ui/controls/attached/SearchMenu.h"

@@ -1,7 +1,7 @@
 #include "ui/templates/TemplateRow.h"
 
 #include "ui/controls/Buttons.h"
-#include "ui/controls/ChoicePicker.h"
+#include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/keywords/KeywordEditor.h"
 #include "ui/controls/theme/Metrics.h"

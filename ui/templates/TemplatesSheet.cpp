@@ -6,7 +6,7 @@
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldLanguages.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/ChoicePicker.h"
+#include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/ScrollArea.h"
 #include "ui/controls/TextFields.h"

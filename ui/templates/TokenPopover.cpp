@@ -2,7 +2,7 @@
 
 #include "core/tokens/DateForm.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/ChoicePicker.h"
+#include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/FlowLayout.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/TextFields.h"

@@ -133,6 +133,7 @@ private:
         std::optional<PhotoDetails> said{};  ///< what `now` came from; nothing where it may be anything by now
     };
 
+    static QSet<QUrl> setOf(const QList<QUrl>& photos);
     bool isBatch() const { return m_selected.isBatch(); }
     bool isUnread() const;
     Edits batchOfOne() const;

@@ -606,8 +606,9 @@ void tst_AppModelSaving::leaving_data()
     QTest::addColumn<QString>("title");
     for (const QString& way : { u"load"_s, u"close"_s, u"quit"_s }) {
         for (const bool several : { false, true }) {
-            if (several && way != u"quit")
-                continue;  // what is unsaved makes no difference to the way
+            // What is unsaved makes no difference to the way, and the way little to the answer.
+            if (!isSlowRun() && several != (way == u"quit"))
+                continue;
             const auto row = [&](const char* answer, bool leaves, const QString& title) {
                 QTest::addRow("%s, %s, %s", qPrintable(way), several ? "several" : "one", answer)
                     << way << several << QString::fromLatin1(answer) << leaves << title;

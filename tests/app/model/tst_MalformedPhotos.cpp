@@ -19,11 +19,6 @@ namespace {
 const QString place = u"Behind the church"_s;
 constexpr int longestWait = 300'000;  // ms; of all photos together, under the sanitizers
 
-bool isSlowRun()
-{
-    return qEnvironmentVariableIsSet("QUORBEL_SLOW_TESTS");
-}
-
 QStringList brokenPhotos(qsizetype most)
 {
     QStringList paths = realPhotos(u"malformed"_s, most);

@@ -98,7 +98,8 @@ private slots:
         QTest::addColumn<bool>("areLinks");
         QTest::addColumn<bool>("writesSidecars");
         QTest::newRow("odd ones") << false << false << true;
-        QTest::newRow("real ones, through links") << true << true << false;
+        if (isSlowRun())
+            QTest::newRow("real ones, through links") << true << true << false;
     }
     void areWhatALookAtThePlanFinds()
     {

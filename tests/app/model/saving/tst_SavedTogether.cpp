@@ -373,7 +373,7 @@ void tst_SavedTogether::nothingElseChangesAndUndoGivesAllBack_data()
     };
 
     // Two of the six hold the most; the others come with the slow tests.
-    const bool isSlow = qEnvironmentVariableIsSet("QUORBEL_SLOW_TESTS");
+    const bool isSlow = isSlowRun();
     if (isSlow)
         QTest::newRow("a title, and a date digitized")
             << EditPlan{ .scalars = { { "title", "New" }, { "dateDigitized", "2024-05-06 07:08:09" } } }

@@ -1,4 +1,4 @@
-#include "ui/controls/ChoiceList.h"
+#include "ui/controls/pickers/ChoiceList.h"
 
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Icon.h"

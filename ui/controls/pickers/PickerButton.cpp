@@ -1,6 +1,5 @@
-#include "ui/controls/ChoicePicker.h"
+#include "ui/controls/pickers/PickerButton.h"
 
-#include "ui/controls/ChoiceList.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
@@ -15,75 +14,62 @@ namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
-ChoicePicker::ChoicePicker(const QString& name, qreal width, QWidget* parent)
+PickerButton::PickerButton(const QString& name, QWidget* parent)
     : ThemedButton({}, parent)
-    , m_width(width)
+    , m_name(name)
 {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAccessibleName(name);
     onRestyle(this, [this] {
         setFont(sansFont(13));
         updateGeometry();
     });
     installFocusRing(this, { RingShape::field, 7, {}, {} });
-    connect(this, &QAbstractButton::clicked, this, &ChoicePicker::openList);
 }
 
-void ChoicePicker::setTitles(const QStringList& titles)
+void PickerButton::setChoice(const QString& text)
 {
-    m_titles = titles;
-    setCurrent(m_current);
-}
-
-void ChoicePicker::setCurrent(int index)
-{
-    m_current = index;
-    setText(m_titles.value(index));
+    setText(text);
+    setAccessibleName(m_name + u": "_s + text);
     update();
 }
 
-QSize ChoicePicker::sizeHint() const
+QSize PickerButton::sizeHint() const
 {
-    return { px(m_width), px(30) };
+    return { px(200), px(30) };
 }
 
-void ChoicePicker::openList()
+QSize PickerButton::minimumSizeHint() const
 {
-    auto* list = new ChoiceList(m_titles, m_current, this);
-    connect(list, &ChoiceList::picked, this, [this](int row) {
-        if (row == m_current)
-            return;
-        setCurrent(row);
-        emit picked(row);
-    });
+    return { px(90), px(30) };
 }
 
-void ChoicePicker::keyPressEvent(QKeyEvent* event)
+void PickerButton::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_Down:
     case Qt::Key_Up:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        openList();
+        click();
         break;
     default:
         ThemedButton::keyPressEvent(event);
     }
 }
 
-void ChoicePicker::paintEvent(QPaintEvent*)
+void PickerButton::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
     painter.setOpacity(opacity());
     paintFieldFrame(painter, rect(), { true, hasFocus(), false, fade()->hover() }, theme);
     painter.setPen(theme.text);
-    const qreal icon = pxF(14);
     const QRectF inner = QRectF(rect()).adjusted(pxF(10), 0, -pxF(8), 0);
-    const QRectF title = inner.adjusted(0, 0, -icon - pxF(4), 0);
-    painter.drawText(title, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-        fontMetrics().elidedText(text(), Qt::ElideRight, int(title.width())));
+    const qreal icon = pxF(14);
+    const int room = int(inner.width() - icon - pxF(6));
+    painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+        fontMetrics().elidedText(text(), Qt::ElideRight, room));
     Icon::paint(
         painter, QRectF(inner.right() - icon, 0, icon, height()), u"chevron.up.chevron.down"_s, icon, theme.muted);
 }

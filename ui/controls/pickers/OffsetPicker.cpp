@@ -1,6 +1,6 @@
-#include "ui/controls/OffsetPicker.h"
+#include "ui/controls/pickers/OffsetPicker.h"
 
-#include "ui/controls/ChoiceList.h"
+#include "ui/controls/pickers/ChoiceList.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"

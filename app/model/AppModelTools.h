@@ -1,0 +1,27 @@
+// What is done to many photos at once: tools over the model, in the order in which they are made.
+// Thread: the main thread.
+#pragma once
+
+#include "app/model/library/filter/Filtering.h"
+#include "app/model/renaming/PhotosRenaming.h"
+#include "app/model/templates/Templates.h"
+#include "app/model/timeshift/TimeShifting.h"
+#include "app/model/words/CodeReplacements.h"
+#include "app/model/words/FieldPasting.h"
+#include "app/model/words/QuickKeywords.h"
+
+#include <memory>
+
+namespace Quorbel {
+
+struct AppModelTools {
+    std::unique_ptr<FieldPasting> pasting{};
+    std::unique_ptr<Templates> templates{};
+    std::unique_ptr<CodeReplacements> codes{};
+    std::unique_ptr<QuickKeywords> quickKeywords{};
+    std::unique_ptr<PhotosRenaming> renaming{};
+    std::unique_ptr<TimeShifting> timeShifting{};
+    std::unique_ptr<Filtering> filtering{};
+};
+
+}  // namespace Quorbel
