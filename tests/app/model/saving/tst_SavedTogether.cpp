@@ -5,6 +5,7 @@
 #include "core/save/TagHomes.h"
 #include "core/save/together/PathHomes.h"
 #include "tests/support/RealService.h"
+#include "tests/support/RecordedTool.h"
 
 #include <QDir>
 #include <QFile>
@@ -308,33 +309,6 @@ void putDate(Tags& photo, const QString& day, const QString& time, const QString
 using Change = std::function<void(Tags& photo)>;
 using Texts = QMap<QString, QString>;
 using Runs = QList<QStringList>;  // what each is given
-
-// The real tool, and a note of what each run was given.
-class RecordedTool {
-public:
-    RecordedTool()
-    {
-        writeFile(m_script,
-            "open my $log, '>>', '" + m_log.toUtf8() + "'; print $log join(\"\\t\", @ARGV), \"\\n\"; close $log;\n"
-                + "exec $^X, '" + realTool().exiftoolURL.toLocalFile().toUtf8() + "', @ARGV;\n");
-    }
-    MetadataService service() const
-    {
-        return { { QUrl::fromLocalFile(m_script), QUrl::fromLocalFile(u"/usr/bin/perl"_s) } };
-    }
-    QList<QStringList> runs() const
-    {
-        QList<QStringList> runs;
-        for (const QString& line : QString::fromUtf8(readFile(m_log)).split(u'\n', Qt::SkipEmptyParts))
-            runs.append(line.split(u'\t'));
-        return runs;
-    }
-
-private:
-    PhotoFolder m_folder;
-    QString m_script = m_folder.path(u"exiftool"_s);
-    QString m_log = m_folder.path(u"log"_s);
-};
 
 QUrl made(const PhotoFolder& folder, const QString& name, const QStringList& tags)
 {
