@@ -93,6 +93,20 @@ struct HandsWindow : ModelFixture {
         model->load({ folderURL() }, withSubfolders);
         return QTest::qWaitForWindowActive(window.get()) && waitUntilIdle() && !model->records().isEmpty();
     }
+    // At this photo, with nothing unsaved and nothing over the list, whatever was done before.
+    void standAt(const QString& name)
+    {
+        // One that was left is gone only with the next turn of the event loop.
+        if (closeup() && closeup()->isVisible())
+            content->toggleCloseup();
+        while (QWidget* popup = QApplication::activePopupWidget())
+            popup->close();
+        click(name == u"a.jpg"_s ? u"b.jpg"_s : u"a.jpg"_s);
+        model->discardSaveDialog();
+        click(name);
+        model->discardSaveDialog();
+        QCoreApplication::processEvents();
+    }
     QWidget* input(const QString& key) const
     {
         const FieldRow* row = inspector->findChild<InspectorForm*>()->row(key);
@@ -311,7 +325,7 @@ void tst_Hands::noKeyTwice()
     for (const QAction* action : f.content->bar()->menuBar()->actions())
         check(*action->menu<QMenu*>());
     QVERIFY(taken.size() > 20);
-    QCOMPARE(clashes, QStringList());
+    QVERIFY2(clashes.isEmpty(), qPrintable(clashes.join(u"; "_s)));
 }
 
 // Each key of the table is taken where the table says.
@@ -325,9 +339,14 @@ void tst_Hands::toldKeysExist()
     for (auto* field : f.window->findChildren<QLineEdit*>())
         if (field->accessibleName() == u"Search"_s)
             search = field;
-    const QMap<ShortcutPlace, QWidget*> widgets{ { ShortcutPlace::list, f.window->findChild<SidebarList*>() },
-        { ShortcutPlace::field, f.input(u"title"_s) }, { ShortcutPlace::keywords, f.input(u"keywords"_s) },
-        { ShortcutPlace::stars, f.input(u"rating"_s) }, { ShortcutPlace::search, search } };
+    // Rows come and go with the photo: asked for when they are needed.
+    const QMap<ShortcutPlace, std::function<QWidget*()>> widgets{
+        { ShortcutPlace::list, [&f] { return f.window->findChild<SidebarList*>(); } },
+        { ShortcutPlace::field, [&f] { return f.input(u"title"_s); } },
+        { ShortcutPlace::keywords, [&f] { return f.input(u"keywords"_s); } },
+        { ShortcutPlace::stars, [&f] { return f.input(u"rating"_s); } },
+        { ShortcutPlace::search, [search] { return search; } }
+    };
     QCOMPARE(widgets.size() + 2, Shortcuts::inPlaces().size());
     const auto isTaken = [](QWidget* target, QKeyCombination key) {
         const QList<QAction*> actions = target->actions();
@@ -341,20 +360,30 @@ void tst_Hands::toldKeysExist()
         return event.isAccepted();
     };
     for (auto place = widgets.cbegin(); place != widgets.cend(); ++place) {
-        (*place)->setFocus();
-        for (const Shortcut& shortcut : Shortcuts::in(place.key()).rows)
-            for (const QKeyCombination key : shortcut.keys) {
-                // From the entry to a keyword, and back.
-                const bool follows = place.key() == ShortcutPlace::keywords;
-                QVERIFY2(isTaken(follows ? QApplication::focusWidget() : *place, key), qPrintable(shortcut.does));
+        for (const Shortcut& shortcut : Shortcuts::in(place.key()).rows) {
+            // Within the keywords one key leads to where the next one works.
+            const bool follows = place.key() == ShortcutPlace::keywords
+                && shortcut.does != Shortcuts::in(place.key()).rows.constFirst().does;
+            if (!follows) {
+                f.standAt(u"a.jpg"_s);
+                QVERIFY((*place)());
+                (*place)()->setFocus();
             }
+            for (const QKeyCombination key : shortcut.keys) {
+                QWidget* target = follows ? QApplication::focusWidget() : (*place)();
+                QVERIFY2(target && isTaken(target, key),
+                    qPrintable(shortcut.does + u" in "_s
+                        + QString::fromLatin1(target ? target->metaObject()->className() : "nothing")));
+            }
+        }
     }
+    f.standAt(u"a.jpg"_s);
     f.content->toggleCloseup();
     for (const Shortcut& shortcut : Shortcuts::in(ShortcutPlace::closeup).rows)
         for (const QKeyCombination key : shortcut.keys)
             QVERIFY2(isTaken(f.closeup(), key), qPrintable(shortcut.does));
     QVERIFY(!isTaken(f.closeup(), Qt::Key_Insert));
-    QVERIFY(!isTaken(widgets.value(ShortcutPlace::list), Qt::Key_Insert));
+    QVERIFY(!isTaken(f.window->findChild<SidebarList*>(), Qt::Key_Insert));
 }
 
 void tst_Hands::theSheetOfShortcuts()
