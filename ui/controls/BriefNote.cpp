@@ -58,7 +58,10 @@ void BriefNote::paintEvent(QPaintEvent*)
     painter.setPen(theme.selText);
     painter.setFont(sansFont(13));
     const QRect room = rect().adjusted(px(sidePadding), 0, -px(sidePadding), 0);
-    painter.drawText(room, Qt::AlignCenter, painter.fontMetrics().elidedText(m_text, Qt::ElideRight, room.width()));
+    // A substituted glyph, a star perhaps, may be a little wider than it was measured.
+    const bool isWhole = width() < parentWidget()->width();
+    const QString text = isWhole ? m_text : painter.fontMetrics().elidedText(m_text, Qt::ElideRight, room.width());
+    painter.drawText(room, Qt::AlignCenter | Qt::TextDontClip, text);
 }
 
 }  // namespace Quorbel
