@@ -76,6 +76,7 @@ PhotosRenaming::PhotosRenaming(AppModel& model, Parts parts)
     });
     for (const auto change : { &AppModel::isSavingChanged, &AppModel::isWorkingChanged })
         connect(&model, change, this, &PhotosRenaming::undoChanged);
+    connect(&m_parts.saving, &Saving::ended, this, &PhotosRenaming::goOn);
     connect(&m_parts.tasks, &RunningTasks::busyChanged, this, [this] {
         if (m_undoesSoon && !m_parts.tasks.isBusy())
             undo();
@@ -123,7 +124,7 @@ void PhotosRenaming::close()
     ++m_generation;
     if (m_working)
         m_working->request_stop();
-    m_renamesSoon = false;
+    m_renamesSoon.reset();
     // Of many photos even that takes its time.
     discardInBackground(std::exchange(m_set, {}));
     discardInBackground(std::exchange(m_plan, {}));
@@ -140,6 +141,7 @@ void PhotosRenaming::followSelection()
     if (!m_model.isBatch())
         return close();
     m_selected = m_model.selection();
+    m_renamesSoon.reset();
     prepare();
 }
 
@@ -222,6 +224,8 @@ void PhotosRenaming::workOut()
     if (!m_isOpen || isRunning())
         return;
     const RenameOrder wanted = order();
+    if (m_renamesSoon != wanted)
+        m_renamesSoon.reset();
     if (!m_set) {
         // It comes, and asks again.
     } else if (m_working) {
@@ -251,7 +255,7 @@ void PhotosRenaming::takePlan(const std::shared_ptr<const RenamePlan>& plan, con
     m_planned = order;
     m_plannedGeneration = m_generation;
     emit planChanged();
-    if (std::exchange(m_renamesSoon, false))
+    if (m_renamesSoon)
         rename();
 }
 
@@ -260,18 +264,24 @@ void PhotosRenaming::takePlan(const std::shared_ptr<const RenamePlan>& plan, con
 bool PhotosRenaming::canRename() const
 {
     return m_isOpen && !isRunning() && m_plan && m_plan->isPossible && m_plan->renamed > 0 && m_unread.isEmpty()
-        && !m_model.isSaving() && !Text::trimmed(pattern()).isEmpty();
+        && !Text::trimmed(pattern()).isEmpty();
 }
 
 void PhotosRenaming::rename()
 {
     requireMainThread("PhotosRenaming::rename");
-    if (!isCurrent()) {
-        m_renamesSoon = m_isOpen && !isRunning();
+    if (!m_isOpen || isRunning())
+        return;
+    m_renamesSoon = order();
+    if (!isCurrent() || m_model.isSaving()) {
+        emit planChanged();
         return;
     }
-    if (!canRename())
+    m_renamesSoon.reset();
+    if (!canRename()) {
+        emit planChanged();
         return;
+    }
     qsizetype photos = 0;
     for (const FolderRenaming& folder : m_plan->folders)
         photos += std::count_if(
@@ -287,6 +297,22 @@ void PhotosRenaming::rename()
                 return u"Could not rename: %1. %2."_s.arg(Text::listed(outcome.problems), keptText(kept, photos));
             return outcome.isGivenUp && kept < photos ? keptText(kept, photos) + u'.' : QString();
         });
+}
+
+// A save has ended. One that failed is told of: who sees that decides anew.
+void PhotosRenaming::goOn(bool isGood)
+{
+    if (!m_renamesSoon)
+        return;
+    if (isGood)
+        return rename();
+    m_renamesSoon.reset();
+    emit planChanged();
+}
+
+bool PhotosRenaming::isWaiting() const
+{
+    return m_renamesSoon && m_model.isSaving();
 }
 
 bool PhotosRenaming::canUndo() const

@@ -71,8 +71,11 @@ public:
 
     // --- The rename ---
     bool canRename() const;
-    /// Once the names of the pattern are worked out. Closes the sheet at its end, unless it is given up.
+    /// Once the names of the pattern are worked out and no save runs; not at all after a save that failed, or with
+    /// another pattern by then. Closes the sheet at its end, unless it is given up.
     void rename();
+    /// Whether it begins as soon as a save has ended.
+    bool isWaiting() const;
     bool isRunning() const { return m_stop.has_value(); }
     /// How far it is.
     qsizetype done() const;
@@ -92,7 +95,7 @@ public:
 
 signals:
     void openChanged();
-    /// plan(), isCurrent(), unread() or what they are made of.
+    /// plan(), isCurrent(), unread(), isWaiting() or what they are made of.
     void planChanged();
     /// isRunning() or done().
     void progressChanged();
@@ -112,6 +115,7 @@ private:
         RenameHistory::Outcome outcome{};
         NewNames names{};
     };
+    void goOn(bool isGood);
     void finish(const Result& result, const QString& message);
     void takeNames(const NewNames& names);
     void keepInCache(const NewNames& names);
@@ -133,7 +137,7 @@ private:
     std::optional<RenameOrder> m_planned;  ///< what m_plan answers
     int m_plannedGeneration = 0;  ///< and of which set
     std::optional<std::stop_source> m_working;  ///< while names are worked out
-    bool m_renamesSoon = false;  ///< as soon as they are
+    std::optional<RenameOrder> m_renamesSoon{};  ///< as soon as they are and no save runs
     std::optional<std::stop_source> m_stop;  ///< while files are moved
     int m_task = 0;
     qsizetype m_total = 0;

@@ -2,16 +2,16 @@
 #include "app/model/AppModel.h"
 #include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/templates/Templates.h"
+#include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
 #include "tests/app/model/ModelFixture.h"
 #include "tests/ui/UiSupport.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/pickers/ChoicePicker.h"
-#include "app/model/timeshift/TimeShifting.h"
-#include "ui/controls/pickers/PickerButton.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/Toggles.h"
 #include "ui/controls/attached/SearchMenu.h"
+#include "ui/controls/pickers/ChoicePicker.h"
+#include "ui/controls/pickers/PickerButton.h"
 #include "ui/controls/tokens/TokenEdit.h"
 #include "ui/sheets/AddFieldSheet.h"
 #include "ui/sheets/AddableFieldList.h"
@@ -19,14 +19,14 @@
 #include "ui/sheets/PasteFieldsSheet.h"
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
-#include "ui/templates/PreviewRow.h"
-#include "ui/templates/TemplateList.h"
-#include "ui/templates/TemplatesSheet.h"
-#include "ui/templates/TokenPopover.h"
 #include "ui/sheets/ShiftTimeSheet.h"
 #include "ui/sheets/renaming/NumberField.h"
 #include "ui/sheets/renaming/RenameList.h"
 #include "ui/sheets/renaming/RenamePhotosSheet.h"
+#include "ui/templates/PreviewRow.h"
+#include "ui/templates/TemplateList.h"
+#include "ui/templates/TemplatesSheet.h"
+#include "ui/templates/TokenPopover.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -532,10 +532,17 @@ void tst_Sheets::renameManyShowsWhatToLookAt()
     QVERIFY(waitForNames(desk));
     QVERIFY(!labels(sheet).contains(u"1 to look at"_s));
     QVERIFY(!button(sheet, u"Next"_s));
+    // Asked for while a save runs: it waits, says so, and takes the names from what was saved.
+    desk.model().preferences().confirmMassEdit.set(false);
+    desk.model().setBatch(u"headline"_s, u"Final"_s);
+    desk.model().requestSave();
+    QVERIFY(desk.model().isSaving());
     pattern->setFocus();
     press(Qt::Key_Return);
+    QVERIFY(labels(sheet).contains(u"Renames them as soon as the save has ended…"_s));
+    QVERIFY(!button(sheet, u"Rename 3"_s)->isEnabled());
     QVERIFY(QTest::qWaitFor([&desk] { return !desk.model().renaming().isOpen(); }, 10000));
-    QCOMPARE(desk.photos.folder.names(), QStringList({ u"A.jpg"_s, u"C.jpg"_s, u"x.jpg"_s }));
+    QCOMPARE(desk.photos.visible(), QStringList({ u"Final-2.jpg"_s, u"Final-3.jpg"_s, u"Final.jpg"_s }));
 }
 
 // The fields of the counter are there for a pattern that counts.

@@ -223,7 +223,7 @@ void RenamePhotosSheet::refresh()
     const QString title = u"Rename %1"_s.arg(counted(m_renaming.photos()));
     if (m_rename->text() != title)
         m_rename->setText(title);
-    m_rename->setEnabled(m_renaming.canRename());
+    m_rename->setEnabled(m_renaming.canRename() && !m_renaming.isWaiting());
     refreshFoot();
 }
 
@@ -232,6 +232,8 @@ void RenamePhotosSheet::refreshFoot()
     QString text = u"Sidecars and backups go along. Edit ▸ Undo Rename takes it back."_s;
     if (m_renaming.isRunning())
         text = u"Renaming %1 of %2…"_s.arg(counted(m_renaming.done()), counted(m_renaming.total()));
+    else if (m_renaming.isWaiting())
+        text = u"Renames them as soon as the save has ended…"_s;
     else if (m_renaming.unread() > 0)
         text = u"Reading %1 more…"_s.arg(counted(m_renaming.unread()));
     m_foot->setText(text);
