@@ -1,4 +1,4 @@
-// A few words over the lower edge of a window, for a moment: what a key did where nothing else shows it.
+// A few words over the lower edge of a window or a list, for a moment: what a key did where nothing else shows it.
 // Thread: the main thread. Takes neither keyboard nor mouse.
 #pragma once
 
@@ -14,16 +14,22 @@ class BriefNote final : public QWidget {
     Q_DISABLE_COPY_MOVE(BriefNote)
 
 public:
-    /// Hidden until there is something to say. Lies over the parent's other children, as they are then.
-    explicit BriefNote(QWidget* parent);
+    /// Hidden until there is something to say. Then it lies over the host's other children, and stays in its place
+    /// when the host gets another size. `overEdge`: how far above the host's lower edge, in points.
+    explicit BriefNote(QWidget* host, qreal overEdge = 72);
     /// In the place of what it says now. Screen readers say it, too.
     void say(const QString& text);
     const QString& text() const { return m_text; }
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    int wantedWidth() const;
+    void place();
+
+    qreal m_overEdge;
     QString m_text;
     QTimer m_leaves;
     AnimatedValue m_opacity;

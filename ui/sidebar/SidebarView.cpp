@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
+#include "ui/controls/BriefNote.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/TextFields.h"
@@ -11,7 +12,6 @@
 #include "ui/sidebar/DisagreementsBar.h"
 #include "ui/sidebar/FilterChips.h"
 #include "ui/sidebar/FilterMenu.h"
-#include "ui/sidebar/PassingNote.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/window/ColumnRow.h"
 #include "ui/window/ProgressFoot.h"
@@ -36,6 +36,7 @@ constexpr qreal fieldHeight = 30;
 constexpr qreal narrowButton = 24;
 constexpr qreal findHeight = 41;  // the field, 10 below it, the hairline
 constexpr qreal findHeightOverChips = 36;  // they stand closer to the field
+constexpr qreal overListEnd = 12;
 
 // "3 / 120", the selected ones stronger; with a filter "3 / 23 of 120".
 class CountLabel final : public QLabel {
@@ -113,8 +114,8 @@ SidebarView::SidebarView(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     column->addWidget(m_list, 1);
     column->addWidget(m_foot);
     m_list->installEventFilter(this);
-    m_note = new PassingNote(m_list);
-    connect(&model.filtering(), &Filtering::noted, m_note, &PassingNote::say);
+    m_note = new BriefNote(m_list, overListEnd);
+    connect(&model.filtering(), &Filtering::noted, m_note, &BriefNote::say);
     connect(&model.filtering(), &Filtering::changed, this, &SidebarView::followFilters);
     followFilters();
     connect(m_foot, &ProgressFoot::shownChanged, this, &SidebarView::footChanged);

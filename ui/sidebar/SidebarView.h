@@ -10,9 +10,9 @@
 namespace Quorbel {
 
 class AppModel;
+class BriefNote;
 class FilterChips;
 class FilterMenu;
-class PassingNote;
 class ProgressFoot;
 class QBIconButton;
 class QBTextField;
@@ -65,7 +65,7 @@ private:
     QWidget* m_find = nullptr;
     FilterChips* m_chips = nullptr;
     QPointer<FilterMenu> m_menu;
-    PassingNote* m_note = nullptr;
+    BriefNote* m_note = nullptr;
     SidebarList* m_list = nullptr;
     ProgressFoot* m_foot = nullptr;
 };

@@ -2,12 +2,12 @@
 #include "app/model/library/filter/Filtering.h"
 #include "tests/app/model/ModelFixture.h"
 #include "tests/ui/UiSupport.h"
+#include "ui/controls/BriefNote.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/attached/MenuRow.h"
 #include "ui/controls/keywords/KeywordChip.h"
 #include "ui/inspector/InspectorView.h"
 #include "ui/sidebar/FilterMenu.h"
-#include "ui/sidebar/PassingNote.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/sidebar/SidebarView.h"
 
@@ -380,7 +380,7 @@ void tst_Filtering::goesFromGapToGap()
     SidebarView* sidebar = nullptr;
     InspectorView* inspector = nullptr;
     show(&sidebar, &inspector);
-    const auto note = [&] { return sidebar->findChild<PassingNote*>()->text(); };
+    const auto note = [&] { return sidebar->findChild<BriefNote*>()->text(); };
     const auto at = [&] {
         QCoreApplication::processEvents();
         const QWidget* focus = QApplication::focusWidget();
@@ -406,6 +406,10 @@ void tst_Filtering::goesFromGapToGap()
     QCOMPARE(go(next), u"e Keywords"_s);
     QCOMPARE(go(next), u"b Keywords"_s);
     QCOMPARE(note(), u"Started again at the top"_s);
+    auto* said = sidebar->findChild<BriefNote*>();
+    QCOMPARE(QAccessible::queryAccessibleInterface(said)->role(), QAccessible::AlertMessage);
+    sidebar->resize(sidebar->width(), sidebar->height() - 150);
+    QVERIFY(sidebar->list()->rect().contains(said->geometry()));
     QCOMPARE(go(previous), u"e Keywords"_s);
     QCOMPARE(note(), u"Started again at the end"_s);
     QCOMPARE(go(previous), u"c Keywords"_s);
