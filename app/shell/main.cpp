@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLoggingCategory>
 
 #include <fontconfig/fontconfig.h>
 
@@ -42,6 +43,9 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(Product::name());
     QApplication::setApplicationVersion(QString::fromUtf8(QUORBEL_VERSION));
     QApplication::setDesktopFileName(u"app.quorbel.Quorbel"_s);
+
+    // What Qt's readers print about a photo, above all about one whose decoding was broken off, helps nobody.
+    QLoggingCategory::setFilterRules(u"qt.gui.imageio*.warning=false"_s);
 
     const QList<QUrl> urls = AppDelegate::urlsOf(parsedFiles(application));
 

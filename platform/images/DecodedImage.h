@@ -26,6 +26,7 @@ struct DecodedImage {
     /// How large the photo itself is, upright, where the image is known to be something smaller or other than it.
     QSize photo{};
     bool isPreview = false;  ///< what a camera put into its raw file, or a hasty development of that
+    bool isIncomplete = false;  ///< some of it could not be read; known of a JPEG that is decoded whole
 };
 
 /// What a single decoder works on.
@@ -47,6 +48,7 @@ struct DecodedFrame {
     int orientation = 1;  ///< EXIF's 1 to 8
     QSize photo{};  ///< as in DecodedImage, as stored
     bool isPreview = false;
+    bool isIncomplete = false;
 };
 
 }  // namespace Quorbel

@@ -3,11 +3,11 @@
 #include "platform/images/Orientation.h"
 #include "platform/images/WholeFrameTurn.h"
 #include "platform/images/color/ColorManagement.h"
-#include "platform/images/formats/CmykJpeg.h"
 #include "platform/images/formats/CmykTiff.h"
 #include "platform/images/formats/ExifThumbnail.h"
 #include "platform/images/formats/HeifFormat.h"
 #include "platform/images/formats/Jpeg2000Format.h"
+#include "platform/images/formats/JpegFormat.h"
 #include "platform/images/formats/JxlFormat.h"
 #include "platform/images/formats/PsdFormat.h"
 #include "platform/images/formats/QtFormats.h"
@@ -40,8 +40,10 @@ DecodedFrame turnedAs(const ImageHeader& header, DecodedFrame frame)
 
 DecodedFrame decodeQtFormat(const DecodeSource& source, ImageFormat format, const ImageHeader& header)
 {
-    if (format == ImageFormat::jpeg && header.components == 4)
-        return turnedAs(header, CmykJpeg::decode(source));
+    if (format == ImageFormat::jpeg && (header.components == 4 || source.isWhole)) {
+        const WholeFrameTurn turn(source.isWhole ? header.size : QSize(), source.cancel);
+        return turnedAs(header, JpegFormat::decode(source));
+    }
     if (format == ImageFormat::tiff && header.components >= 4) {
         const DecodedFrame inks = CmykTiff::decode(source);
         source.device.seek(0);
@@ -125,6 +127,7 @@ DecodedImage decodeSource(const DecodeSource& source)
         (frame.photo.width() < frame.photo.height()) != (decoded.image.width() < decoded.image.height());
     decoded.photo = isTurned ? frame.photo.transposed() : frame.photo;
     decoded.isPreview = frame.isPreview;
+    decoded.isIncomplete = frame.isIncomplete;
     return decoded;
 }
 

@@ -179,14 +179,23 @@ QString CloseupView::noteOf(const WholePicture* picture) const
         return {};
     if (picture->levels.isEmpty())
         return seen().image.isNull() ? QString() : u"thumbnail only"_s;
+    QStringList notes{ sizeNoteOf(*picture) };
+    if (picture->isIncomplete)
+        notes.prepend(u"damaged: not all of it can be shown"_s);
+    notes.removeAll(QString());
+    return notes.join(u" · "_s);
+}
+
+QString CloseupView::sizeNoteOf(const WholePicture& picture) const
+{
     const ImageRecord* record = m_model.primaryRecord();
-    QSize photo = picture->photo;
-    if (photo.isEmpty() && picture->isPreview && record)
-        photo = turnedAs({ record->pixelWidth.value_or(0), record->pixelHeight.value_or(0) }, picture->size());
-    const QString word = picture->isPreview ? u"preview"_s : u"reduced to"_s;
-    if (photo.isEmpty() || photo == picture->size())
-        return picture->isPreview ? u"%1 %2"_s.arg(word, sizeText(picture->size())) : QString();
-    return u"%1 %2 of %3"_s.arg(word, sizeText(picture->size()), sizeText(photo));
+    QSize photo = picture.photo;
+    if (photo.isEmpty() && picture.isPreview && record)
+        photo = turnedAs({ record->pixelWidth.value_or(0), record->pixelHeight.value_or(0) }, picture.size());
+    const QString word = picture.isPreview ? u"preview"_s : u"reduced to"_s;
+    if (photo.isEmpty() || photo == picture.size())
+        return picture.isPreview ? u"%1 %2"_s.arg(word, sizeText(picture.size())) : QString();
+    return u"%1 %2 of %3"_s.arg(word, sizeText(picture.size()), sizeText(photo));
 }
 
 CloseupText CloseupView::text() const

@@ -70,6 +70,7 @@ private:
     QSize viewSize() const;
     QPointF devicePoint(QPointF point) const { return point * devicePixelRatioF(); }
     QString noteOf(const WholePicture* picture) const;
+    QString sizeNoteOf(const WholePicture& picture) const;
     QString problem() const;
     void paintPhoto(QPainter& painter) const;
 

@@ -91,12 +91,17 @@ struct WholePictures::Decoder {
                                               : ImageModule::loaded().decodeWhole(path, options.mostPixels, stop);
         if (decoded.outcome == DecodedImage::Outcome::needsTool && options.tool) {
             constexpr int longest = 20'000;
-            decoded.image = rawPreview(*options.tool, path, longest, stop);
+            const RawPreview preview = rawPreview(*options.tool, path, longest, stop);
+            decoded.image = preview.image;
+            decoded.photo = preview.photo;
             decoded.isPreview = true;
             if (!decoded.image.isNull())
                 decoded.outcome = DecodedImage::Outcome::decoded;
         }
-        WholePicture picture{ .photo = decoded.photo, .isPreview = decoded.isPreview, .outcome = decoded.outcome };
+        WholePicture picture{ .photo = decoded.photo,
+            .isPreview = decoded.isPreview,
+            .isIncomplete = decoded.isIncomplete,
+            .outcome = decoded.outcome };
         if (!decoded.image.isNull())
             picture.levels = levelsOf(decoded.image, stop);
         return picture;

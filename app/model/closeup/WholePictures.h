@@ -25,6 +25,7 @@ struct WholePicture {
     QList<QImage> levels{};
     QSize photo{};  ///< how large the photo itself is, where the picture is smaller or another one
     bool isPreview = false;  ///< out of a camera's raw file
+    bool isIncomplete = false;  ///< some of it could not be read
     DecodedImage::Outcome outcome = DecodedImage::Outcome::decoded;
 
     QSize size() const { return levels.isEmpty() ? QSize() : levels.constFirst().size(); }

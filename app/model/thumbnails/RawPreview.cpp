@@ -7,12 +7,27 @@ namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
-QImage rawPreview(const ExifToolRunner& tool, const QString& path, int longSide, const std::stop_token& stop)
+namespace {
+
+// "6000 4000", standing or lying as the image does. No photo is smaller than its preview.
+QSize sizeFrom(const QByteArray& told, QSize image)
+{
+    const QList<QByteArray> sides = told.split(' ');
+    const QSize size(sides.value(0).toInt(), sides.value(1).toInt());
+    if (qMax(size.width(), size.height()) < qMax(image.width(), image.height()))
+        return {};
+    return (size.width() < size.height()) == (image.width() < image.height()) ? size : size.transposed();
+}
+
+}  // namespace
+
+RawPreview rawPreview(const ExifToolRunner& tool, const QString& path, int longSide, const std::stop_token& stop)
 {
     const QStringList previews{ u"PreviewImage"_s, u"JpgFromRaw"_s, u"ThumbnailImage"_s };
     QMap<QString, QByteArray> found;
     try {
-        found = tool.readBinary(previews + QStringList{ u"EXIF:Orientation"_s }, QUrl::fromLocalFile(path), stop);
+        found = tool.readBinary(
+            previews + QStringList{ u"EXIF:Orientation"_s, u"Composite:ImageSize"_s }, QUrl::fromLocalFile(path), stop);
     } catch (const Error&) {
         return {};
     }
@@ -30,7 +45,7 @@ QImage rawPreview(const ExifToolRunner& tool, const QString& path, int longSide,
         if (sideOf(best) >= longSide)
             break;
     }
-    return best;
+    return { best, sizeFrom(found.value(u"ImageSize"_s), best.size()) };
 }
 
 }  // namespace Quorbel

@@ -106,7 +106,7 @@ struct ThumbnailStore::PictureMaker {
     {
         QImage large = disk.load(disk.key(photo.path, photo.version, previewLongSide));
         if (large.isNull()) {
-            large = rawPreview(*options.tool, photo.path, previewLongSide, stop);
+            large = rawPreview(*options.tool, photo.path, previewLongSide, stop).image;
             keepOnDisk(photo, previewLongSide, large);
         }
         const bool isDecoded = !large.isNull();

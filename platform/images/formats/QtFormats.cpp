@@ -5,6 +5,8 @@
 
 #include <mutex>
 
+#include <tiffio.h>
+
 namespace Quorbel {
 
 namespace {
@@ -31,8 +33,13 @@ DecodedFrame QtFormats::decode(const DecodeSource& source, ImageFormat format, c
 {
     // The gate has judged the size; the reader's own limit must let through what the gate does: 16 bits a channel.
     constexpr int megabytes = int(HeaderGate::maxWholePixels * 8 / (1024LL * 1024)) + 1;
-    static std::once_flag limitSet;
-    std::call_once(limitSet, [] { QImageReader::setAllocationLimit(megabytes); });
+    static std::once_flag isPrepared;
+    std::call_once(isPrepared, [] {
+        QImageReader::setAllocationLimit(megabytes);
+        // The reader leaves it to the library to print what is odd about a file.
+        TIFFSetWarningHandler(nullptr);
+        TIFFSetErrorHandler(nullptr);
+    });
 
     QImageReader reader(&source.device, readerName(format));
     // The reader's own turning drops the colour profile of quarter turns.

@@ -151,6 +151,7 @@ DecodedFrame RawFormat::decode(const DecodeSource& source)
     const auto raw = std::make_unique<LibRaw>();
     std::stop_token cancel = source.cancel;
     raw->set_progress_handler(stopWanted, &cancel);
+    raw->set_dataerror_handler(nullptr, nullptr);  // it would print
     raw->imgdata.params.max_raw_memory_mb = mostMegabytes;
     if (raw->open_file(QFile::encodeName(source.path).constData()) != LIBRAW_SUCCESS)
         return refused;

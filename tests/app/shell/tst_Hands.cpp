@@ -69,7 +69,7 @@ struct HandsWindow : ModelFixture {
                 reinterpret_cast<QRgb*>(image.scanLine(y))[x] = qRgb(x % 256, y % 256, numberOf(path));
         if (outcome != DecodedImage::Outcome::decoded || stop.stop_requested())
             return DecodedImage{ .outcome = outcome };
-        return DecodedImage{ outcome, image, QSize(6000, 4000), path.endsWith(u"c.jpg"_s) };
+        return DecodedImage{ outcome, image, QSize(6000, 4000), path.endsWith(u"c.jpg"_s), path.endsWith(u"b.jpg"_s) };
     } };
     static int numberOf(const QString& path) { return 40 * (path.at(path.size() - 5).unicode() - u'a'); }
     CloseupView* closeup() const { return window->findChild<CloseupView*>(); }
@@ -491,6 +491,7 @@ void tst_Hands::aCloseLook()
     f.press(Qt::Key_Right, {});
     QCOMPARE(f.primary(), u"b.jpg"_s);
     QVERIFY(look->seen().isSharp);
+    QCOMPARE(look->text().note, u"damaged: not all of it can be shown · reduced to 3000 × 2000 of 6000 × 4000"_s);
     QCOMPARE(colorAt(spot), qRgb(qRed(moved), qGreen(moved), 40));
     f.press(Qt::Key_4, {});
     QCOMPARE(f->draftValues().value(u"rating"_s), u"4"_s);

@@ -754,6 +754,7 @@ private slots:
             QCOMPARE(whole.image, ImageDecoder::decode(path, 10'000).image);
             QCOMPARE(whole.isPreview, name == "dng");
             QVERIFY(whole.photo.isEmpty() || whole.isPreview);
+            QVERIFY(!whole.isIncomplete);
         }
         const QString turned =
             stored(ImageFiles::withExif(
@@ -762,6 +763,16 @@ private slots:
         const DecodedImage reduced = ImageDecoder::decodeWhole(turned, 16'000);
         QCOMPARE(reduced.image.size(), QSize(100, 160));
         QCOMPARE(reduced.photo, QSize(200, 320));
+        // What is cut off is shown as far as it goes, and known to be no more than that.
+        for (const QByteArray& bytes : { ImageFiles::written(ImageFiles::quarters({ 320, 200 }), "jpg"),
+                 ImageFiles::written(ImageFiles::quarters({ 320, 200 }), "jpg", 95, true),
+                 ImageFiles::cmykJpeg({ 320, 200 }, ImageFiles::inksOf(ImageFiles::quarters({ 320, 200 }))) }) {
+            const DecodedImage cut =
+                ImageDecoder::decodeWhole(stored(bytes.chopped(bytes.size() / 8), "cut.jpg"), enough);
+            QCOMPARE(cut.image.size(), QSize(320, 200));
+            QVERIFY(cut.isIncomplete);
+            QVERIFY(qRed(cut.image.pixel(40, 20)) > 150 && qGreen(cut.image.pixel(40, 20)) < 100);
+        }
         const QByteArray preview = ImageFiles::written(ImageFiles::quarters({ 400, 250 }), "jpg");
         const DecodedImage raw = ImageDecoder::decodeWhole(
             stored(ImageFiles::dng(ImageFiles::quarters({ 640, 400 }), preview), "whole.dng"), enough);

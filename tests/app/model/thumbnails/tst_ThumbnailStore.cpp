@@ -650,7 +650,8 @@ private slots:
         QCOMPARE(store.request(url("none.cr3"), Kind::small).state, State::badge);
         QFile log(path("log"));
         QVERIFY(log.open(QIODevice::ReadOnly));
-        const QByteArray selection = "-json -b -n -PreviewImage -JpgFromRaw -ThumbnailImage -EXIF:Orientation";
+        const QByteArray selection =
+            "-json -b -n -PreviewImage -JpgFromRaw -ThumbnailImage -EXIF:Orientation -Composite:ImageSize";
         QByteArray expected;
         for (const char* name : { "a.cr3", "c.cr3", "none.cr3" })
             expected += QByteArray("begins ") + name + ": " + selection + "\nends " + name + '\n';
