@@ -3,19 +3,14 @@
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
 #include "app/model/thumbnails/ThumbnailStore.h"
-#include "ui/controls/Buttons.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
-#include "ui/sidebar/DisagreementsBar.h"
-#include "ui/sidebar/FilterTexts.h"
 #include "ui/sidebar/SidebarDelegate.h"
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -54,8 +49,6 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     , m_model(model)
     , m_thumbs(thumbs)
     , m_rows(*new SidebarModel(model, this))
-    , m_look(new QBButton(DisagreementsBar::lookTitle(), QBButtonKind::secondary, viewport()))
-    , m_clear(new QBButton(FilterTexts::clearTitle(), QBButtonKind::secondary, viewport()))
 {
     setRows(m_rows.rows());
     setModel(&m_rows);
@@ -88,18 +81,8 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     connect(&model, &AppModel::primaryChanged, this, &SidebarList::showPrimary);
     if (thumbs)
         connect(thumbs, &ThumbnailStore::entryChanged, this, [this](const QUrl& url) { repaintThumbnail(url); });
-    m_look->setCursor(Qt::ArrowCursor);
-    connect(m_look, &QAbstractButton::clicked, &model, [&model] { model.setShowDisagreements(true); });
-    connect(&model, &AppModel::disagreementsChanged, this, &SidebarList::showEmpty);
-    m_clear->setCursor(Qt::ArrowCursor);
-    connect(m_clear, &QAbstractButton::clicked, this, [this] {
-        m_model.filtering().clear();
-        setFocus(Qt::OtherFocusReason);  // the button goes
-    });
-    connect(&model.filtering(), &Filtering::changed, this, &SidebarList::showEmpty);
     showSelection();
     showPrimary();
-    showEmpty();
 }
 
 // --- What is shown selected ---
@@ -148,7 +131,6 @@ void SidebarList::showReset()
     setAutoScroll(!isSameList);
     showSelection();
     setAutoScroll(true);
-    showEmpty();
     const int row = isSameList && verticalOffset() > 0 ? m_rows.row(m_place.photo) : -1;
     if (row >= 0)
         scrollRowTo(row, m_place.y);
@@ -212,51 +194,6 @@ void SidebarList::choose(int row, bool shift, bool command)
     m_model.tap(url, shift, command);
     if (m_model.primary() == url)
         showPrimary();  // the keyboard may have been elsewhere
-}
-
-// --- When nothing is listed ---
-
-// Whoever looks only for photos whose places differ is told how far that is.
-SidebarList::Empty SidebarList::empty() const
-{
-    if (m_rows.rowCount() > 0 || m_model.records().isEmpty())
-        return {};
-    const PhotoFilter& filter = m_model.filtering().filter();
-    if (!filter.needle.isEmpty())
-        return { u"No matching photos."_s, false, filter.isLimiting() };
-    if (filter.traits != PhotoTrait::disagreement || filter.stars > 0)
-        return { u"Nothing left"_s, false, true };
-    const qsizetype unknown = m_model.disagreements().unknown;
-    if (unknown == 0)
-        return { u"All places agree"_s, false, false };
-    const QString text = unknown == 1 ? u"%1 photo not looked at yet"_s : u"%1 photos not looked at yet"_s;
-    return { text.arg(QLocale().toString(unknown)), DisagreementsBar::canLook(m_model), false };
-}
-
-void SidebarList::showEmpty()
-{
-    const Empty empty = this->empty();
-    setAccessibleDescription(empty.text);
-    m_look->setVisible(empty.offersLook);
-    m_clear->setVisible(empty.offersClear);
-    for (QBButton* button : { m_look, m_clear }) {
-        const QSize size = button->sizeHint();
-        button->setGeometry(QRect({ (viewport()->width() - size.width()) / 2, px(54) }, size));
-    }
-    viewport()->update();
-}
-
-void SidebarList::paintEvent(QPaintEvent* event)
-{
-    GroupedListView::paintEvent(event);
-    const QString text = empty().text;
-    if (text.isEmpty())
-        return;
-    QPainter painter(viewport());
-    painter.setFont(sansFont(12));
-    painter.setPen(Theme::of(this).derived.label);
-    const QRect line(0, px(24), viewport()->width(), px(18));
-    painter.drawText(line, Qt::AlignCenter | Qt::TextSingleLine, text);
 }
 
 // --- Keyboard ---
@@ -485,7 +422,6 @@ void SidebarList::mouseDoubleClickEvent(QMouseEvent* event)
 void SidebarList::resizeEvent(QResizeEvent* event)
 {
     GroupedListView::resizeEvent(event);
-    showEmpty();
     followScreen();
 }
 

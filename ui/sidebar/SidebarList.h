@@ -14,7 +14,6 @@
 namespace Quorbel {
 
 class AppModel;
-class QBButton;
 class ThumbnailStore;
 
 /// A list view whose every choice goes through AppModel::tap(): clicks, arrows, Home, End, PageUp, PageDown (with
@@ -50,7 +49,6 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;
     void focusInEvent(QFocusEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
     void initViewItemOption(QStyleOptionViewItem* option) const override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 
@@ -84,20 +82,11 @@ private:
     void requestThumbnails();
     void tellInView();
     void repaintThumbnail(const QUrl& url);
-    struct Empty {
-        QString text{};
-        bool offersLook = false;  ///< at photos that were not looked at yet
-        bool offersClear = false;
-    };
-    Empty empty() const;
-    void showEmpty();
     void setByKeyboard(bool on);
 
     AppModel& m_model;
     QPointer<ThumbnailStore> m_thumbs;
     SidebarModel& m_rows;  ///< a child of this: views outlive their members
-    QBButton* m_look;  ///< at photos that were not looked at yet, where none of the others is listed
-    QBButton* m_clear;  ///< the filters, where they leave nothing
     QTimer m_thumbnailsSoon;
     QTimer m_inViewSoon;
     bool m_hasToldInView = false;  ///< of what is open now

@@ -12,6 +12,7 @@
 #include "ui/sidebar/DisagreementsBar.h"
 #include "ui/sidebar/FilterChips.h"
 #include "ui/sidebar/FilterMenu.h"
+#include "ui/sidebar/NothingListed.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/window/ColumnRow.h"
 #include "ui/window/ProgressFoot.h"
@@ -114,6 +115,7 @@ SidebarView::SidebarView(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     column->addWidget(m_list, 1);
     column->addWidget(m_foot);
     m_list->installEventFilter(this);
+    new NothingListed(model, *m_list);
     m_note = new BriefNote(m_list, overListEnd);
     connect(&model.filtering(), &Filtering::noted, m_note, &BriefNote::say);
     connect(&model.filtering(), &Filtering::changed, this, &SidebarView::followFilters);

@@ -14,6 +14,7 @@
 #include "ui/controls/Toggles.h"
 #include "ui/sheets/MessageSheet.h"
 #include "ui/sidebar/DisagreementsBar.h"
+#include "ui/sidebar/NothingListed.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
@@ -285,7 +286,7 @@ void tst_Shell::photosThatDisagreeAreListed()
     fixture.model->cancelDisagreements();
     QTRY_COMPARE_WITH_TIMEOUT(list->accessibleDescription(), u"2 photos not looked at yet"_s, 30'000);
     QTRY_VERIFY(fixture.button(u"Look at them"_s));
-    QTest::mouseClick(list->viewport()->findChild<QAbstractButton*>(), Qt::LeftButton);
+    QTest::mouseClick(window->findChild<NothingListed*>()->findChild<QAbstractButton*>(), Qt::LeftButton);
     QTRY_COMPARE_WITH_TIMEOUT(list->accessibleDescription(), u"All places agree"_s, 30'000);
     QTest::mouseClick(fixture.button(u"Show all photos"_s), Qt::LeftButton);
     QVERIFY(!show->isChecked() && !bar->isVisible());

@@ -468,6 +468,20 @@ void tst_Filtering::menuStaysOpen()
     QCOMPARE(f.listed(), u"abcde"_s);
 }
 
+// What assistive tools find to be seen, from the top down.
+static QStringList spokenWithin(QAccessibleInterface* top)
+{
+    QStringList names;
+    for (int i = 0; top && i < top->childCount(); ++i) {
+        QAccessibleInterface* child = top->child(i);
+        if (!child || child->state().invisible)
+            continue;
+        names.append(child->text(QAccessible::Name));
+        names += spokenWithin(child);
+    }
+    return names;
+}
+
 void tst_Filtering::chipsGoByKey()
 {
     Photos& f = open();
@@ -504,6 +518,8 @@ void tst_Filtering::chipsGoByKey()
     f.filters().setOn(PhotoTrait::noTitle, true);
     QAbstractButton* clear = button(sidebar, u"Clear filters"_s);
     QVERIFY(clear);
+    const QStringList spoken = spokenWithin(QAccessible::queryAccessibleInterface(sidebar));
+    QVERIFY(spoken.contains(u"Nothing left"_s) && spoken.contains(u"Clear filters"_s));
     QTest::mouseClick(clear, Qt::LeftButton);
     QCOMPARE(f.listed(), u"abcde"_s);
     QCOMPARE(f.selected().size(), 1);
