@@ -12,7 +12,7 @@ public:
     {
         writeFile(m_script,
             "open my $log, '>>', '" + m_log.toUtf8() + "'; print $log join(\"\\t\", @ARGV), \"\\n\"; close $log;\n"
-                + "exec $^X, '" + realTool().exiftoolURL.toLocalFile().toUtf8() + "', @ARGV;\n");
+                + "exec " + toolForPerl() + ", @ARGV;\n");
     }
     MetadataService service() const { return { { QUrl::fromLocalFile(m_script), realTool().perlURL } }; }
     /// The arguments of each start.

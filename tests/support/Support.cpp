@@ -7,9 +7,16 @@
 #include <QJsonDocument>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QUuid>
 
 #include <csignal>
+#include <cstddef>
+#include <cstring>
+#include <fcntl.h>
 #include <sys/prctl.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace Quorbel::Test {
 
@@ -62,13 +69,48 @@ private:
     void start()
     {
         m_process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
-        m_process.start(realTool().perlURL.toLocalFile(),
-            { realTool().exiftoolURL.toLocalFile(), u"-stay_open"_s, u"True"_s, u"-@"_s, u"-"_s });
+        m_process.start(startedTool().perlURL.toLocalFile(),
+            { startedTool().exiftoolURL.toLocalFile(), u"-stay_open"_s, u"True"_s, u"-@"_s, u"-"_s });
         require(m_process.waitForStarted(), u"ExifTool does not start"_s);
     }
 
     QProcess m_process;
 };
+
+// A socket of that name, which lives in no folder and ends with its last holder.
+int listening(const QByteArray& name)
+{
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    require(name.size() < qsizetype(sizeof address.sun_path), QString::fromUtf8(name));
+    std::memcpy(address.sun_path + 1, name.constData(), size_t(name.size()));
+    const auto length = socklen_t(offsetof(sockaddr_un, sun_path) + 1 + size_t(name.size()));
+    const int number = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    require(number >= 0 && bind(number, reinterpret_cast<const sockaddr*>(&address), length) == 0
+            && listen(number, SOMAXCONN) == 0,
+        QString::fromUtf8(name));
+    return number;
+}
+
+// Starts what plays the tool until this process ends, which closes its standard input.
+void prepareTool(const QString& script)
+{
+    static const QByteArray name = "quorbel-test-" + QUuid::createUuid().toByteArray(QUuid::WithoutBraces);
+    const int reading = listening(name + "-reading");
+    const int writing = listening(name + "-writing");
+    auto* const process = new QProcess;
+    process->setChildProcessModifier([reading, writing] {
+        fcntl(reading, F_SETFD, 0);
+        fcntl(writing, F_SETFD, 0);
+    });
+    process->setProcessChannelMode(QProcess::ForwardedChannels);
+    process->start(u"/usr/bin/perl"_s,
+        { QStringLiteral(QUORBEL_PREPARED_TOOL), QString::number(reading), QString::number(writing), script });
+    require(process->waitForStarted(), process->errorString());
+    close(reading);
+    close(writing);
+    qputenv("QUORBEL_PREPARED_TOOL", name);
+}
 
 // Records the call in a directory of its own (making it also numbers the call, whatever runs at once), then
 // does what the answer's files say.
@@ -276,7 +318,7 @@ TemporaryFilesProbe::~TemporaryFilesProbe()
         qputenv("TMPDIR", m_before);
 }
 
-ExifToolRunner realTool()
+ExifToolRunner startedTool()
 {
     const QString share = qEnvironmentVariable("QUORBEL_TEST_SHARE");
     if (share.isEmpty()) {
@@ -287,6 +329,24 @@ ExifToolRunner realTool()
     return { QUrl::fromLocalFile(share + u"/exiftool/exiftool"_s), QUrl::fromLocalFile(u"/usr/bin/perl"_s) };
 }
 
+ExifToolRunner realTool()
+{
+    ExifToolRunner tool = startedTool();
+    if (isSlowRun())
+        return tool;
+    // Others, that a test starts, use the same one.
+    if (!qEnvironmentVariableIsSet("QUORBEL_PREPARED_TOOL"))
+        prepareTool(tool.exiftoolURL.toLocalFile());
+    tool.perlURL = QUrl::fromLocalFile(QStringLiteral(QUORBEL_TOOL_CALLER));
+    return tool;
+}
+
+QByteArray toolForPerl()
+{
+    const ExifToolRunner tool = realTool();
+    return '\'' + tool.perlURL.toLocalFile().toUtf8() + "', '" + tool.exiftoolURL.toLocalFile().toUtf8() + '\'';
+}
+
 QByteArray exiftool(const QStringList& arguments)
 {
     // What a line of its own cannot say to the tool that stays is left to one that is started for it.
@@ -294,7 +354,7 @@ QByteArray exiftool(const QStringList& arguments)
     const bool isListed = arguments.filter(unlisted).isEmpty();
     static auto* const staying = new StayingTool;  // ends with the program
     return isListed ? staying->run(arguments)
-                    : run(u"/usr/bin/perl"_s, QStringList{ realTool().exiftoolURL.toLocalFile() } + arguments);
+                    : run(u"/usr/bin/perl"_s, QStringList{ startedTool().exiftoolURL.toLocalFile() } + arguments);
 }
 
 QJsonObject exiftoolValues(const QUrl& file)

@@ -64,8 +64,13 @@ private:
     QByteArray m_before;
 };
 
-/// The tool that the build staged.
+/// The tool that the build staged. What a call of it does and prints is the tool's own doing, in a process of its own;
+/// only that process is not started from nothing (tests/support/tool). With QUORBEL_SLOW_TESTS=1 it is.
 ExifToolRunner realTool();
+/// The same, always started from nothing: for tests that look at, or end, its very process.
+ExifToolRunner startedTool();
+/// What a Perl script writes behind "exec" or "system" to call the real tool, and its arguments behind that.
+QByteArray toolForPerl();
 /// Standard output of the real tool, run apart from the code under test; its exit status must be 0.
 QByteArray exiftool(const QStringList& arguments);
 /// The tags of one file as the real tool prints them, keys in the form "XMP:Title".

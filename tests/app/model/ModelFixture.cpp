@@ -20,9 +20,9 @@ if (not @missing and -e "$dir/shut") {
     close $f;
     select undef, undef, undef, 0.005 while -e "$dir/shut";
 }
-exec $^X, 'TOOL', @ARGV;
+exec TOOL, @ARGV;
 )perl";
-    script.replace("TOOL", realTool().exiftoolURL.toLocalFile().toUtf8());
+    script.replace("TOOL", toolForPerl());
     writeFile(m_directory.filePath(u"exiftool"_s), script);
 }
 

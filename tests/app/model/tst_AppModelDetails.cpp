@@ -709,9 +709,9 @@ if (grep { $_ eq '-a' } @ARGV) {
     my ($photo) = grep { m{/d\.jpg$} } @ARGV;
     if ($photo) { open my $open, '<', $photo; sleep 600 }
 }
-exec $^X, 'TOOL', @ARGV;
+exec TOOL, @ARGV;
 )perl";
-    script.replace("TOOL", realTool().exiftoolURL.toLocalFile().toUtf8());
+    script.replace("TOOL", toolForPerl());
     const PhotoFolder beside;
     ModelFixture f(MetadataService{ { beside.add(u"exiftool"_s, script), realTool().perlURL } });
     f.services.recordCachePath = beside.path(u"records"_s);

@@ -81,8 +81,8 @@ struct Photos : ModelFixture {
 // The real tool, which drops what a save assigns to IPTC:City and says nothing.
 MetadataService forgetfulService(const PhotoFolder& folder)
 {
-    QByteArray script = "#!/usr/bin/perl\nexec $^X, 'TOOL', grep { !/^-IPTC:City=/ } @ARGV;\n";
-    script.replace("TOOL", realTool().exiftoolURL.toLocalFile().toUtf8());
+    QByteArray script = "#!/usr/bin/perl\nexec TOOL, grep { !/^-IPTC:City=/ } @ARGV;\n";
+    script.replace("TOOL", toolForPerl());
     return { { folder.add(u"exiftool"_s, script), realTool().perlURL } };
 }
 

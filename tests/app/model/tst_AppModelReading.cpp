@@ -74,8 +74,8 @@ class FragileTool {
 public:
     explicit FragileTool(const QByteArray& name)
     {
-        QByteArray script = "#!/usr/bin/perl\nkill 9, $$ if grep { /NAME/ } @ARGV;\nexec $^X, 'TOOL', @ARGV;\n";
-        script.replace("NAME", name).replace("TOOL", realTool().exiftoolURL.toLocalFile().toUtf8());
+        QByteArray script = "#!/usr/bin/perl\nkill 9, $$ if grep { /NAME/ } @ARGV;\nexec TOOL, @ARGV;\n";
+        script.replace("NAME", name).replace("TOOL", toolForPerl());
         writeFile(m_directory.filePath(u"exiftool"_s), script);
     }
     MetadataService service() const

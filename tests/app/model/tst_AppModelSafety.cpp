@@ -51,9 +51,9 @@ if ($photo and -e "$dir/stall" and not grep { $_ eq '-m' } @ARGV) {
     open my $mark, '>', "$dir/stalling";
     sleep 600;
 }
-exec $^X, 'TOOL', @ARGV;
+exec TOOL, @ARGV;
 )perl";
-        script.replace("TOOL", realTool().exiftoolURL.toLocalFile().toUtf8());
+        script.replace("TOOL", toolForPerl());
         m_folder.add(u"exiftool"_s, script);
     }
     MetadataService service() const { return { { m_folder.url(u"exiftool"_s), realTool().perlURL } }; }

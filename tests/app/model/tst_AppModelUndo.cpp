@@ -220,9 +220,7 @@ void tst_AppModelUndo::undoIsTriedAgainAfterTheToolWasCut()
     QVERIFY(f.save());
     const QTemporaryDir tools;
     const QString script = tools.filePath(u"exiftool"_s);
-    writeFile(script,
-        "system $^X, '" + realTool().exiftoolURL.toLocalFile().toUtf8()
-            + "', @ARGV; kill 'KILL', $$ if grep { $_ eq '-m' } @ARGV;\n");
+    writeFile(script, "system " + toolForPerl() + ", @ARGV; kill 'KILL', $$ if grep { $_ eq '-m' } @ARGV;\n");
     f.services.service = MetadataService{ { QUrl::fromLocalFile(script), realTool().perlURL } };
     f.relaunch();
     QTRY_VERIFY(f->canUndoSave());
@@ -266,8 +264,8 @@ void tst_AppModelUndo::noOlderSaveIsTakenBackInstead()
     const QTemporaryDir tools;
     const QString script = tools.filePath(u"exiftool"_s);
     writeFile(script,
-        "exit 1 if -e '" + broken.toUtf8() + "' and grep { $_ eq '-php' } @ARGV;\nexec $^X, '"
-            + realTool().exiftoolURL.toLocalFile().toUtf8() + "', @ARGV;\n");
+        "exit 1 if -e '" + broken.toUtf8() + "' and grep { $_ eq '-php' } @ARGV;\nexec " + toolForPerl()
+            + ", @ARGV;\n");
     f.services.service = MetadataService{ { QUrl::fromLocalFile(script), realTool().perlURL } };
     f.relaunch();
     QVERIFY(f.open());

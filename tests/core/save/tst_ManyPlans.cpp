@@ -27,8 +27,7 @@ public:
     {
         writeFile(m_script,
             "open my $log, '>>', '" + m_log.toUtf8() + "'; print $log scalar(grep { $_ eq '-execute' } @ARGV),\n"
-                + "\" @ARGV[0]\\n\"; close $log;\n" + prelude + "exec $^X, '"
-                + realTool().exiftoolURL.toLocalFile().toUtf8() + "', @ARGV;\n");
+                + "\" @ARGV[0]\\n\"; close $log;\n" + prelude + "exec " + toolForPerl() + ", @ARGV;\n");
     }
     MetadataService service() const { return { { QUrl::fromLocalFile(m_script), realTool().perlURL } }; }
     /// The commands behind the first one, of each start that writes.
@@ -318,8 +317,8 @@ private slots:
             photos.append(folder.add(name));
         const NotedTool tool("my @parts = split /\\x1f-execute\\x1f/, join(\"\\x1f\", @ARGV);\n"
                              "if (@parts > 2) { @ARGV = split /\\x1f/, join(\"\\x1f-execute\\x1f\", @parts[0, 1]);\n"
-                             "system $^X, '"
-            + realTool().exiftoolURL.toLocalFile().toUtf8() + "', @ARGV; kill 'KILL', $$; }\n");
+                             "system "
+            + toolForPerl() + ", @ARGV; kill 'KILL', $$; }\n");
         const PortionsOutcome outcome = tool.service().writeEach(titled(photos), {});
         QVERIFY(outcome.error);
         QVERIFY(writeFailures(outcome.error->messages(), photos).isEmpty());

@@ -108,8 +108,7 @@ private slots:
         const QUrl photo = folder.add(u"a.jpg"_s);
         const PhotoFolder tool;
         const QUrl script = tool.add(u"exiftool"_s,
-            "kill 'KILL', $$ if grep { /^-XMP-dc:Title=/ } @ARGV;\nexec $^X, '"
-                + realTool().exiftoolURL.toLocalFile().toUtf8() + "', @ARGV;\n");
+            "kill 'KILL', $$ if grep { /^-XMP-dc:Title=/ } @ARGV;\nexec " + toolForPerl() + ", @ARGV;\n");
         const State before = stateOf(photo);
         const MetadataService service{ { script, realTool().perlURL } };
         QVERIFY_THROWS_EXCEPTION(ToolError, service.write(captioned, { photo }, { .backupOriginals = true }));

@@ -37,7 +37,7 @@ int main(int argc, char* argv[])
         return 2;
     const QString& state = arguments.at(2);
     AppModelServices services;
-    services.service = MetadataService{ realTool() };
+    services.service = MetadataService{ startedTool() };
     services.preferences = std::make_shared<QSettings>(state + u"/settings.ini"_s, QSettings::IniFormat);
     services.journalPath = state + u"/undo"_s;
     AppModel model(services);

@@ -31,9 +31,9 @@ if ($kind eq 'all') {
     select undef, undef, undef, 0.005 while -e "$dir/shut";
     exit 1 if -e "$dir/fails";
 }
-exec $^X, 'TOOL', @ARGV;
+exec TOOL, @ARGV;
 )perl";
-        script.replace("TOOL", realTool().exiftoolURL.toLocalFile().toUtf8());
+        script.replace("TOOL", toolForPerl());
         writeFile(m_directory.filePath(u"exiftool"_s), script);
         forget();
     }

@@ -81,8 +81,10 @@ bool remountReadOnly(const QString& mountPoint)
 
 // A folder for photos, and a model in this process that opens and saves them.
 struct BatchPhotos : ModelFixture {
+    // Tools that are killed here are to be gone at once.
     BatchPhotos()
-        : directory(folder.path(u"trip"_s))
+        : ModelFixture(MetadataService{ startedTool() })
+        , directory(folder.path(u"trip"_s))
     {
         model->preferences().backupOriginals.set(false);
         QDir().mkpath(directory);

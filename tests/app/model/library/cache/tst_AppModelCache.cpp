@@ -21,9 +21,9 @@ my ($dir) = $0 =~ m{^(.*)/};
 open my $f, '>>', "$dir/runs";
 print $f join("\t", @ARGV), "\n";
 close $f;
-exec $^X, 'TOOL', @ARGV;
+exec TOOL, @ARGV;
 )perl";
-        script.replace("TOOL", realTool().exiftoolURL.toLocalFile().toUtf8());
+        script.replace("TOOL", toolForPerl());
         writeFile(m_directory.filePath(u"exiftool"_s), script);
         forget();
     }
