@@ -28,6 +28,13 @@ bool isOffset(const QString& text)
     return form.match(text).hasMatch();
 }
 
+// The tool would take letters for a hexadecimal one.
+bool isWholeNumber(const QString& text)
+{
+    static const QRegularExpression form(u"^\\d+$"_s);
+    return form.match(text).hasMatch();
+}
+
 }  // namespace
 
 QString note(const FieldSpec& field, const QString& text)
@@ -42,6 +49,10 @@ QString note(const FieldSpec& field, const QString& text)
         return isPosition(trimmed) ? QString() : u"Not a position: lat, lon"_s;
     case FieldKind::offset:
         return isOffset(trimmed) ? QString() : u"Not an offset: +HH:MM"_s;
+    case FieldKind::number:
+        return isWholeNumber(trimmed) ? QString() : u"Not a whole number"_s;
+    case FieldKind::code:
+    case FieldKind::structure:
     case FieldKind::text:
     case FieldKind::multiline:
     case FieldKind::keywords:

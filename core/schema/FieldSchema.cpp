@@ -1,5 +1,7 @@
 #include "core/schema/FieldSchema.h"
 
+#include "core/iptc/IptcSchema.h"
+
 #include <QSet>
 
 #include <algorithm>
@@ -135,8 +137,16 @@ const QList<FieldSpec>& all()
     return fields;
 }
 
+const QList<FieldSpec>& everyField()
+{
+    static const QList<FieldSpec> fields = all() + IptcSchema::all();
+    return fields;
+}
+
 const FieldSpec* spec(const QString& id)
 {
+    if (IptcSchema::isId(id))
+        return IptcSchema::spec(id);
     const QList<FieldSpec>& fields = all();
     const auto it =
         std::find_if(fields.cbegin(), fields.cend(), [&id](const FieldSpec& field) { return field.id == id; });

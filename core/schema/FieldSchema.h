@@ -16,7 +16,10 @@ struct CameraRowSpec {
 };
 
 const QList<FieldSpec>& all();
-/// The field with exactly this id; nothing when there is none. The pointer stays valid for ever.
+/// The same, and behind them those of IptcSchema.
+const QList<FieldSpec>& everyField();
+/// The field with exactly this id, of this catalogue or of IptcSchema; nothing when there is none. The pointer stays
+/// valid for ever.
 const FieldSpec* spec(const QString& id);
 /// The field that a tag of this name, in some group, is read for ("City": place); case plays no part. Nothing when
 /// there is none.

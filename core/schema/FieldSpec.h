@@ -8,9 +8,26 @@
 
 namespace Quorbel {
 
-enum class FieldKind { text, multiline, keywords, date, coordinates, rating, offset };
-/// The inspector's sections, in their order on screen; the raw value is the section's title.
-enum class FieldSection { common, location, additional };
+/// The last three are kinds of IptcSchema's fields only: a whole number, a code of a vocabulary, a structure.
+enum class FieldKind { text, multiline, keywords, date, coordinates, rating, offset, number, code, structure };
+/// The inspector's sections, in their order on screen; the raw value is the section's title. Those behind the first
+/// three hold fields of IptcSchema only.
+enum class FieldSection {
+    common,
+    location,
+    additional,
+    contact,
+    people,
+    locationCreated,
+    locationShown,
+    subjects,
+    things,
+    regions,
+    rights,
+    licensing,
+    source,
+    image,
+};
 
 template <>
 struct RawValues<FieldKind> {
@@ -33,7 +50,13 @@ struct FieldSpec {
     QString addNote{};  ///< one line for the add-field sheet
     bool addOnly = false;
 
-    bool isList() const { return kind == FieldKind::keywords; }
+    bool isSeveral = false;  ///< holds several numbers, codes or structures
+    bool hasLanguages = false;  ///< of IptcSchema's fields: the text may come in several languages
+    QString vocabulary{};  ///< of a code: the Vocabulary that it is one of
+    QString structure{};  ///< of a structure: its name among IptcStructures
+    QString standard{};  ///< of IptcSchema's fields: what the IPTC Photo Metadata Standard calls it, and since when
+
+    bool isList() const { return kind == FieldKind::keywords || isSeveral; }
     /// Of its write tags the one whose text may come in several languages; "" when there is none.
     QString languageTag() const;
     bool operator==(const FieldSpec&) const = default;

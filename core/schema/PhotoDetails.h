@@ -1,5 +1,5 @@
 // What a photo holds beside the one value that its record shows of each field: texts in further languages, keyword
-// paths, and what each home of a field holds where the homes disagree.
+// paths, the fields of IptcSchema, and what each home of a field holds where the homes disagree.
 // Thread: any. Plain values.
 #pragma once
 
@@ -26,11 +26,18 @@ struct FieldHome {
 
 struct PhotoDetails {
     QUrl url{};
-    QMap<QString, QString> languages{};  ///< FieldLanguages::key() to text, of all languages that the photo holds
+    /// By FieldLanguages::key(), of all languages that the photo holds, and by id of IptcSchema's fields that hold one
+    /// value; a structure as StructureText has it.
+    QMap<QString, QString> texts{};
+    QMap<QString, QStringList> lists{};  ///< of IptcSchema's fields that hold several
     QStringList paths{};  ///< keyword paths of all homes, each once (see KeywordPath)
     /// Field id to its homes, for the fields of which they disagree: the shown one first, absent ones left out.
     QMap<QString, QList<FieldHome>> disagreements{};
     bool operator==(const PhotoDetails&) const = default;
+
+    /// Whether what stands under this key is known from the details, and not from the record: a text in a further
+    /// language, a field of IptcSchema.
+    static bool hold(const QString& key);
 };
 
 }  // namespace Quorbel

@@ -1,0 +1,45 @@
+// The structures of the IPTC Photo Metadata Standard: which members each has, under ExifTool's names.
+// Thread: any. Built once, then immutable.
+#pragma once
+
+#include "core/schema/FieldSpec.h"
+
+#include <QList>
+
+namespace Quorbel {
+
+struct StructureMember {
+    QString name{};  ///< as ExifTool reads and writes it within the structure: "CiAdrCity"
+    QString label{};
+    FieldKind kind = FieldKind::text;
+    bool isSeveral = false;
+    bool hasLanguages = false;  ///< others than the plain text stand under "Name-de"
+    QString vocabulary{};
+    QString structure{};  ///< of a structure within the structure
+    bool operator==(const StructureMember&) const = default;
+};
+
+struct StructureSpec {
+    QString name{};
+    QString item{};  ///< what one is called, for "Add place", "2 places": "place"
+    QString items{};
+    QList<StructureMember> members{};  ///< in the order in which a card shows them
+    QStringList titleMembers{};  ///< the first of these that is there heads a card; further ones are named behind it
+    bool operator==(const StructureSpec&) const = default;
+};
+
+namespace IptcStructures {
+
+const QList<StructureSpec>& all();
+/// Nothing for a name that is none. The pointer stays valid for ever.
+const StructureSpec* spec(const QString& name);
+/// The member of this name, also where a language stands behind it ("AOTitle-de"); nothing when there is none.
+const StructureMember* member(const StructureSpec& structure, const QString& name);
+
+/// The tag that stands for one member, where a field holds one structure only: "XMP-iptcExt:LocationShownCity". "" for
+/// a member that has none.
+QString flatTag(const QString& fieldId, const QString& member);
+
+}  // namespace IptcStructures
+
+}  // namespace Quorbel
