@@ -194,7 +194,7 @@ void detailsMemory(const PhotoFolders&)
     const double plain = perPhoto([](int) { return PhotoDetails(); });
     const double rich = perPhoto([](int i) {
         const QString number = QString::number(i);
-        return PhotoDetails{ .languages = { { u"title@de"_s, u"Letztes Licht am See "_s + number } },
+        return PhotoDetails{ .texts = { { u"title@de"_s, u"Letztes Licht am See "_s + number } },
             .paths = { u"Places|Switzerland|Lake "_s + QString::number(i % 200), u"Nature|lake"_s },
             .disagreements = { { u"title"_s,
                 { { u"XMP-dc:Title"_s, { u"Last light on the lake "_s + number }, true },

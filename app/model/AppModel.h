@@ -160,6 +160,8 @@ public:
     bool isRemovableAddedField(const QString& id) const { return editing().isRemovableAddedField(id); }
     QStringList visibleFieldIDs(FieldSection section) const { return editing().visibleFieldIDs(section); }
     QList<FieldSpec> addableKnownFields() const { return editing().addableKnownFields(); }
+    /// The fields of IptcSchema that are not on screen.
+    QList<FieldSpec> addableIptcFields() const { return editing().addableIptcFields(); }
     QList<CustomValue> visibleCustomFields() const { return editing().visibleCustomFields(); }
     /// The name that addCustomField() would give a field; nothing for one that it refuses.
     std::optional<QString> storedCustomName(const QString& typed) const { return editing().storedCustomName(typed); }
@@ -172,6 +174,11 @@ public:
     /// Adds an item to a list field of the one photo; an item that is already there changes nothing.
     void addSingleListItem(const QString& id, const QString& item) { editing().addSingleListItem(id, item); }
     void removeSingleListItem(const QString& id, const QString& item) { editing().removeSingleListItem(id, item); }
+    /// The items of a list, in their order: of one photo the list itself, of several what it gains. Of one photo's list
+    /// of IptcSchema nothing before it is known what the photo holds (knowsDetails()).
+    void setItems(const QString& id, const QStringList& items) { editing().setItems(id, items); }
+    /// Whether it is known what the one selected photo holds beside its record.
+    bool knowsDetails() const { return editing().knowsDetails(); }
     void setBatch(const QString& id, const QString& value) { editing().setBatch(id, value); }
     /// Takes a field out of what will be written, or puts it in with the text that it shows: a tick alone clears
     /// nothing that one sees.

@@ -126,7 +126,7 @@ void AppModel::takeFromPhotoBefore(const QString& key)
     const PhotoDetails* known = details(before.url);
     const Edits sending = m_editing.sending();
     const Edits sent = sending.subjects.contains(before.url) ? sending.of(before.url) : Edits();
-    const auto shown = sent.onto(before, known ? known->languages : QMap<QString, QString>());
+    const auto shown = sent.onto(before, known ? *known : PhotoDetails());
     const Announcer::Together together(m_announcer);
     if (const auto name = CustomFields::nameIn(key)) {
         const qsizetype i = CustomFields::indexOf(shown.customs, *name);

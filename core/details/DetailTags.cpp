@@ -1,6 +1,7 @@
 #include "core/details/DetailTags.h"
 
 #include "core/details/FieldHomes.h"
+#include "core/iptc/IptcSchema.h"
 #include "core/schema/FieldSchema.h"
 #include "core/schema/KeywordPath.h"
 
@@ -13,7 +14,7 @@ namespace {
 QStringList languageTags()
 {
     QStringList tags;
-    for (const FieldSpec& field : FieldSchema::all())
+    for (const FieldSpec& field : FieldSchema::everyField())
         if (const QString tag = field.languageTag(); !tag.isEmpty())
             tags.append(tag + u"-*"_s);
     return tags;
@@ -31,7 +32,7 @@ QStringList pathTags()
 
 QStringList all()
 {
-    return FieldHomes::readTags() + languageTags() + pathTags() << error();
+    return FieldHomes::readTags() + IptcSchema::readTags() + languageTags() + pathTags() << error();
 }
 
 QString error()

@@ -1,12 +1,12 @@
 #include "core/details/DetailsRead.h"
 
+#include "core/details/AnswersByFile.h"
 #include "core/details/DetailTags.h"
 #include "core/details/Disagreements.h"
+#include "core/iptc/IptcValues.h"
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
 #include "core/schema/KeywordPath.h"
-
-#include <QDir>
 
 namespace Quorbel::DetailsRead {
 
@@ -17,7 +17,7 @@ namespace {
 QMap<QString, QString> languages(const JSONObject& tags)
 {
     QMap<QString, QString> texts;
-    for (const FieldSpec& field : FieldSchema::all()) {
+    for (const FieldSpec& field : FieldSchema::everyField()) {
         const QString tag = field.languageTag();
         if (tag.isEmpty())
             continue;
@@ -46,22 +46,14 @@ QStringList paths(const JSONObject& tags)
 
 PhotoDetails details(const ImageRecord& photo, const JSONObject& tags)
 {
+    const IptcValues iptc = IptcValues::fromRead(tags);
+    QMap<QString, QString> texts = languages(tags);
+    texts.insert(iptc.texts);
     return { .url = photo.url,
-        .languages = languages(tags),
+        .texts = texts,
+        .lists = iptc.lists,
         .paths = paths(tags),
         .disagreements = Disagreements::of(photo, tags) };
-}
-
-// By the path of the file, as the tool printed it and tidied up.
-QHash<QString, const JSONObject*> byPath(const QList<JSONObject>& objects)
-{
-    QHash<QString, const JSONObject*> index;
-    for (const JSONObject& object : objects) {
-        const QString path = object.value(u"SourceFile"_s).stringValue().value_or(QString());
-        index.insert(path, &object);
-        index.insert(QDir::cleanPath(path), &object);
-    }
-    return index;
 }
 
 }  // namespace
@@ -72,16 +64,13 @@ QHash<QUrl, PhotoDetails> of(const ExifToolRunner& runner, const QList<ImageReco
     for (const ImageRecord& photo : photos)
         files.append(photo.url);
     const QList<JSONObject> objects = runner.readDetails(DetailTags::all(), files, control).objects;
-    const auto index = byPath(objects);
+    const AnswersByFile answers(objects);
     QHash<QUrl, PhotoDetails> found;
     for (qsizetype i = 0; i < photos.size(); ++i) {
         if (control.stop.stop_requested())
             throw CancelledError();
         const ImageRecord& photo = photos.at(i);
-        const JSONObject* tags = index.value(photo.url.toLocalFile());
-        // A name that is no text comes back changed, but at its place.
-        if (!tags && objects.size() == photos.size())
-            tags = &objects.at(i);
+        const JSONObject* tags = answers.of(photo.url.toLocalFile(), i, photos.size());
         if (tags && !tags->contains(DetailTags::error()))
             found.insert(photo.url, details(photo, *tags));
     }

@@ -109,9 +109,66 @@ void moveItems(
 // Whether the photo holds this text already, as far as is known.
 bool holdsText(const ImageRecord& photo, const PhotoDetails* details, const QString& key, const QString& text)
 {
-    if (!FieldLanguages::languageIn(key))
+    if (!PhotoDetails::hold(key))
         return photo.values.value(key) == text;
-    return details && details->languages.value(key) == text;
+    return details && details->texts.value(key) == text;
+}
+
+// Nothing where it is not known.
+std::optional<QStringList> heldItems(const ImageRecord& photo, const PhotoDetails* details, const QString& id)
+{
+    if (!PhotoDetails::hold(id))
+        return photo.lists.value(id);
+    return details ? std::optional(details->lists.value(id)) : std::nullopt;
+}
+
+// Those of a photo's lists of which it is not known what they hold stay as they are.
+void foldItems(Edits& folded, const Edits& edits, const ImageRecord& photo, const PhotoDetails* details)
+{
+    const auto fold = [&](const QMap<QString, QStringList>& from, QMap<QString, QStringList>& unfolded, auto change) {
+        for (auto items = from.cbegin(); items != from.cend(); ++items) {
+            const auto held = heldItems(photo, details, items.key());
+            if (const auto list = folded.lists.constFind(items.key()); list != folded.lists.cend())
+                folded.lists.insert(items.key(), change(*list, *items));
+            else if (held)
+                folded.lists.insert(items.key(), change(*held, *items));
+            else
+                unfolded.insert(items.key(), *items);
+        }
+    };
+    fold(edits.added, folded.added, withItems);
+    fold(edits.removed, folded.removed, withoutItems);
+    folded.lists.removeIf([&](const auto& entry) {
+        const auto held = heldItems(photo, details, entry.key());
+        return held && *held == entry.value() && edits.givenUp.value(entry.key()).isEmpty();
+    });
+}
+
+bool isOfRecord(const QString& id)
+{
+    return !PhotoDetails::hold(id);
+}
+
+// Those of fields of the fixed catalogue.
+QMap<QString, QStringList> ofRecords(QMap<QString, QStringList> lists)
+{
+    lists.removeIf([](const auto& entry) { return !isOfRecord(entry.key()); });
+    return lists;
+}
+
+QMap<QString, ListChange> iptcChanges(const Edits& edits)
+{
+    QMap<QString, ListChange> changes;
+    for (auto list = edits.lists.cbegin(); list != edits.lists.cend(); ++list)
+        if (!isOfRecord(list.key()))
+            changes[list.key()].whole = *list;
+    for (auto items = edits.added.cbegin(); items != edits.added.cend(); ++items)
+        if (!isOfRecord(items.key()) && !items->isEmpty())
+            changes[items.key()].added = *items;
+    for (auto items = edits.removed.cbegin(); items != edits.removed.cend(); ++items)
+        if (!isOfRecord(items.key()) && !items->isEmpty())
+            changes[items.key()].removed = *items;
+    return changes;
 }
 
 }  // namespace
@@ -190,10 +247,13 @@ Edits Edits::onlyOf(const QSet<QUrl>& photos) const
 
 EditPlan Edits::plan() const
 {
-    EditPlan plan{ .scalars = scalars, .lists = lists, .customs = customs, .paths = paths };
-    if (lists.isEmpty() && !(isWithoutItems(added) && isWithoutItems(removed))) {
-        plan.lists = withoutEmpty(added);
-        plan.removed = withoutEmpty(removed);
+    EditPlan plan{ .scalars = scalars, .lists = ofRecords(lists), .customs = customs, .paths = paths };
+    plan.iptcLists = iptcChanges(*this);
+    const QMap<QString, QStringList> gained = withoutEmpty(ofRecords(added));
+    const QMap<QString, QStringList> lost = withoutEmpty(ofRecords(removed));
+    if (plan.lists.isEmpty() && !(gained.isEmpty() && lost.isEmpty())) {
+        plan.lists = gained;
+        plan.removed = lost;
         plan.listMode = MetadataWriter::ListMode::append;
     }
     return plan;
@@ -232,15 +292,7 @@ Edits Edits::foldedInto(const ImageRecord& photo, const PhotoDetails* details) c
         .customs = customs,
         .subjects = { photo.url } };
     folded.scalars.removeIf([&](const auto& entry) { return holdsText(photo, details, entry.key(), entry.value()); });
-    for (auto items = added.cbegin(); items != added.cend(); ++items)
-        folded.lists.insert(
-            items.key(), withItems(folded.lists.value(items.key(), photo.lists.value(items.key())), *items));
-    for (auto items = removed.cbegin(); items != removed.cend(); ++items)
-        folded.lists.insert(
-            items.key(), withoutItems(folded.lists.value(items.key(), photo.lists.value(items.key())), *items));
-    folded.lists.removeIf([&](const auto& entry) {
-        return photo.lists.value(entry.key()) == entry.value() && givenUp.value(entry.key()).isEmpty();
-    });
+    foldItems(folded, *this, photo, details);
     folded.dropStrayPaths();
     folded.addKeywordsOfPaths(photo.lists.value(FieldID::keywords));
     if (details)
@@ -252,24 +304,28 @@ Edits Edits::foldedInto(const ImageRecord& photo, const PhotoDetails* details) c
     return folded;
 }
 
-ExternalRefresh::Drafts Edits::onto(const ImageRecord& photo, const QMap<QString, QString>& languages) const
+ExternalRefresh::Drafts Edits::onto(const ImageRecord& photo, const PhotoDetails& details) const
 {
     if (!own.isEmpty())
-        return of(photo.url).onto(photo, languages);
+        return of(photo.url).onto(photo, details);
     ExternalRefresh::Drafts drafts{ scalars, lists, customs };
+    const auto heldBy = [&](const QString& id) {
+        return drafts.lists.value(id, isOfRecord(id) ? photo.lists.value(id) : details.lists.value(id));
+    };
     for (auto items = added.cbegin(); items != added.cend(); ++items)
-        drafts.lists.insert(
-            items.key(), withItems(drafts.lists.value(items.key(), photo.lists.value(items.key())), *items));
+        drafts.lists.insert(items.key(), withItems(heldBy(items.key()), *items));
     for (auto items = removed.cbegin(); items != removed.cend(); ++items)
-        drafts.lists.insert(
-            items.key(), withoutItems(drafts.lists.value(items.key(), photo.lists.value(items.key())), *items));
+        drafts.lists.insert(items.key(), withoutItems(heldBy(items.key()), *items));
     QSet<QString> laidOver = keys();
     if (!drafts.lists.contains(FieldID::keywords))
         laidOver.remove(FieldID::keywords);  // only paths: the list stays
     ExternalRefresh::Drafts seen = ExternalRefresh::mergeDrafts(photo, drafts, laidOver);
-    for (auto text = languages.cbegin(); text != languages.cend(); ++text)
+    for (auto text = details.texts.cbegin(); text != details.texts.cend(); ++text)
         if (!scalars.contains(text.key()))
             seen.values.insert(text.key(), *text);
+    for (auto list = details.lists.cbegin(); list != details.lists.cend(); ++list)
+        if (!drafts.lists.contains(list.key()))
+            seen.lists.insert(list.key(), *list);
     return seen;
 }
 

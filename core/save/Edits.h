@@ -51,19 +51,20 @@ struct Edits {
     Edits of(const QUrl& photo) const;
     /// The same edits, of these photos alone.
     Edits onlyOf(const QSet<QUrl>& photos) const;
-    /// What a save of the common edits is asked to do; of(photo).plan() is that of one photo with its own. Lists are
-    /// replaced where there are any to replace, else items are added: one save cannot do both, so what is to be added
-    /// is folded into a photo first (foldedInto).
+    /// What a save of the common edits is asked to do; of(photo).plan() is that of one photo with its own. Lists of
+    /// the fixed catalogue are replaced where there are any to replace, else items are added: one save cannot do both,
+    /// so what is to be added is folded into a photo first (foldedInto).
     EditPlan plan() const;
 
     /// What is still unsaved after a save of `saved`: what was typed since it began, and the fields of which the files
     /// hold something else (`differing`, by key).
     Edits minus(const Edits& saved, const QSet<QString>& differing) const;
     /// The same for this photo alone: items to add become its whole list, and what it holds already is no edit. Texts
-    /// in further languages, and paths, that it may hold stay edits where its details are not known.
+    /// in further languages, fields of IptcSchema, and paths, that it may hold stay edits where its details are not
+    /// known.
     Edits foldedInto(const ImageRecord& photo, const PhotoDetails* details = nullptr) const;
     /// What one sees of the photo: its contents with these edits laid over them.
-    ExternalRefresh::Drafts onto(const ImageRecord& photo, const QMap<QString, QString>& languages = {}) const;
+    ExternalRefresh::Drafts onto(const ImageRecord& photo, const PhotoDetails& details = {}) const;
     /// These edits, and over them the other ones; the subjects stay. `photos`: those that both are of; a text that only
     /// some of them are given leaves the others the one that they shared. Without photos nobody can be left it.
     Edits merged(const Edits& other, const QList<QUrl>& photos = {}) const;

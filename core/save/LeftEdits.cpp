@@ -227,9 +227,12 @@ LeftEdits leftFrom(const QJsonValue& value)
 Edits LeftEdits::rebasedOnto(const ImageRecord& photo, const PhotoDetails* details) const
 {
     Edits rebased = edits;
-    for (auto list = rebased.lists.begin(); list != rebased.lists.end(); ++list)
-        if (heldLists.contains(list.key()))
-            *list = changedAlike(heldLists.value(list.key()), *list, photo.lists.value(list.key()));
+    for (auto list = rebased.lists.begin(); list != rebased.lists.end(); ++list) {
+        const bool isBeside = PhotoDetails::hold(list.key());
+        if (heldLists.contains(list.key()) && (!isBeside || details))
+            *list = changedAlike(heldLists.value(list.key()), *list,
+                isBeside ? details->lists.value(list.key()) : photo.lists.value(list.key()));
+    }
     Edits folded = rebased.foldedInto(photo, details);
     for (const QString& key : confirmed) {
         if (rebased.scalars.contains(key))
@@ -252,7 +255,7 @@ QString LeftEdits::fields() const
 {
     const QSet<QString> keys = edits.keys();
     QStringList labels;
-    for (const FieldSpec& field : FieldSchema::all())
+    for (const FieldSpec& field : FieldSchema::everyField())
         labels.append(labelsOf(field, keys));
     labels.append(customNamesIn(edits, keys));
     return enumerated(labels.mid(0, namedFields), labels.size());

@@ -44,8 +44,7 @@ struct Seen {
 
 Seen seen(const PhotoToFill& photo, const Edits& unsaved)
 {
-    Seen result{ .drafts =
-                     unsaved.onto(photo.record, photo.details ? photo.details->languages : QMap<QString, QString>()),
+    Seen result{ .drafts = unsaved.onto(photo.record, photo.details ? *photo.details : PhotoDetails()),
         .tokens = PhotoTokens::of(photo.record),
         .knowsLanguages = photo.details != nullptr };
     result.tokens.values = result.drafts.values;

@@ -33,14 +33,16 @@ public:
         for (const auto* edited : { &m_own.scalars, &m_unsaved.scalars })
             if (const auto text = edited->constFind(key); text != edited->cend())
                 return *text;
-        if (!FieldLanguages::languageIn(key))
+        if (!PhotoDetails::hold(key))
             return m_photo.record.values.value(key);
-        return m_photo.details ? std::optional(m_photo.details->languages.value(key)) : std::nullopt;
+        return m_photo.details ? std::optional(m_photo.details->texts.value(key)) : std::nullopt;
     }
 
     QStringList items(const QString& id) const
     {
-        QStringList items = m_unsaved.lists.value(id, m_photo.record.lists.value(id));
+        const bool isBeside = PhotoDetails::hold(id) && m_photo.details;
+        const QStringList held = isBeside ? m_photo.details->lists.value(id) : m_photo.record.lists.value(id);
+        QStringList items = m_unsaved.lists.value(id, held);
         items += m_unsaved.added.value(id) + m_own.added.value(id);
         const QStringList gone = m_unsaved.removed.value(id) + m_own.removed.value(id);
         items.removeIf([&gone](const QString& item) { return gone.contains(item); });

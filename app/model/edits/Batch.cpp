@@ -100,6 +100,14 @@ void Batch::addItem(const QString& id, const QString& item)
         edits.addItems(id, { item });
 }
 
+void Batch::setAdded(const QString& id, const QStringList& items)
+{
+    if (items.isEmpty())
+        edits.added.remove(id);
+    else
+        edits.added.insert(id, items);
+}
+
 void Batch::removeItem(const QString& id, const QString& item)
 {
     QStringList items = edits.added.value(id);

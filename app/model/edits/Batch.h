@@ -31,6 +31,8 @@ struct Batch {
     void addItem(const QString& id, const QString& item);
     /// Keyword paths that lead to the item go with it.
     void removeItem(const QString& id, const QString& item);
+    /// Just these items are added.
+    void setAdded(const QString& id, const QStringList& items);
     /// The keyword that it leads to, too.
     void addPath(const QString& path);
     /// The item is taken away from all photos, or no longer.

@@ -7,10 +7,10 @@
 
 namespace Quorbel {
 
-Draft Draft::of(const ImageRecord& photo, const QMap<QString, QString>& languages)
+Draft Draft::of(const ImageRecord& photo, const PhotoDetails& details)
 {
     Draft draft;
-    draft.rebase(photo, languages);
+    draft.rebase(photo, details);
     return draft;
 }
 
@@ -28,8 +28,14 @@ void Draft::addItem(const QString& id, const QString& item)
     if (item.isEmpty() || items.contains(item))
         return;
     items.append(item);
-    shown.lists.insert(id, items);
-    edits.lists.insert(id, items);
+    setItems(id, items);
+}
+
+// What the list holds is not known: the photo gains the item, whatever it holds.
+void Draft::addUnseenItem(const QString& id, const QString& item)
+{
+    edits.addItems(id, { item });
+    shown.lists[id].append(item);
 }
 
 void Draft::removeItem(const QString& id, const QString& item)
@@ -37,9 +43,18 @@ void Draft::removeItem(const QString& id, const QString& item)
     QStringList items = shown.lists.value(id);
     if (items.removeAll(item) == 0)
         return;
+    setItems(id, items);
+    edits.dropStrayPaths();
+}
+
+void Draft::setItems(const QString& id, const QStringList& items)
+{
+    if (shown.lists.value(id) == items)
+        return;
     shown.lists.insert(id, items);
     edits.lists.insert(id, items);
-    edits.dropStrayPaths();
+    edits.added.remove(id);
+    edits.removed.remove(id);
 }
 
 void Draft::addPath(const QString& path)
@@ -75,7 +90,7 @@ void Draft::setCustom(const QString& name, const QString& value)
 void Draft::lay(const Edits& laid, const PhotoDetails* details)
 {
     for (auto text = laid.scalars.cbegin(); text != laid.scalars.cend(); ++text) {
-        if (!details && FieldLanguages::languageIn(text.key()))
+        if (!details && PhotoDetails::hold(text.key()))
             confirmScalar(text.key(), *text);
         else
             setScalar(text.key(), *text);
@@ -88,8 +103,12 @@ void Draft::lay(const Edits& laid, const PhotoDetails* details)
         for (const QString& item : *items)
             removeItem(items.key(), item);
     for (auto items = laid.added.cbegin(); items != laid.added.cend(); ++items)
-        for (const QString& item : *items)
-            addItem(items.key(), item);
+        for (const QString& item : *items) {
+            if (!details && PhotoDetails::hold(items.key()))
+                addUnseenItem(items.key(), item);
+            else
+                addItem(items.key(), item);
+        }
     for (const QString& path : laid.paths) {
         if (details && details->paths.contains(path))
             addItem(FieldID::keywords, KeywordPath::keyword(path));
@@ -110,17 +129,34 @@ void Draft::forget(const QString& id)
     edits.forget(id);
 }
 
-void Draft::rebase(const ImageRecord& photo, const QMap<QString, QString>& languages)
+void Draft::rebase(const ImageRecord& photo, const PhotoDetails& details)
 {
     edits.subjects = { photo.url };
     edits.addKeywordsOfPaths(photo.lists.value(FieldID::keywords));
-    shown = edits.onto(photo, languages);
+    if (!details.url.isEmpty())
+        takeUnseen(details);
+    shown = edits.onto(photo, details);
 }
 
-void Draft::take(const Edits& newEdits, const ImageRecord& photo, const QMap<QString, QString>& languages)
+// Items that were added when nobody knew to what.
+void Draft::takeUnseen(const PhotoDetails& details)
+{
+    for (const QString& id : edits.added.keys()) {
+        if (!PhotoDetails::hold(id))
+            continue;
+        QStringList items = details.lists.value(id);
+        for (const QString& item : edits.added.take(id))
+            if (!items.contains(item))
+                items.append(item);
+        if (items != details.lists.value(id))
+            edits.lists.insert(id, items);
+    }
+}
+
+void Draft::take(const Edits& newEdits, const ImageRecord& photo, const PhotoDetails& details)
 {
     edits = newEdits;
-    rebase(photo, languages);
+    rebase(photo, details);
 }
 
 }  // namespace Quorbel

@@ -11,13 +11,15 @@ struct Draft {
     ExternalRefresh::Drafts shown{};  ///< what one sees
 
     /// The draft without an edit. `languages`: what the photo holds in further languages, by FieldLanguages::key().
-    static Draft of(const ImageRecord& photo, const QMap<QString, QString>& languages = {});
+    static Draft of(const ImageRecord& photo, const PhotoDetails& details = {});
 
     void setScalar(const QString& id, const QString& value);
     /// An item that is there already changes nothing.
     void addItem(const QString& id, const QString& item);
     /// Keyword paths that lead to the item go with it.
     void removeItem(const QString& id, const QString& item);
+    /// The list is just these.
+    void setItems(const QString& id, const QStringList& items);
     /// The keyword that it leads to, too.
     void addPath(const QString& path);
     /// An edit even where the field holds just that: it is to be written.
@@ -32,11 +34,15 @@ struct Draft {
     void forget(const QString& id);
 
     /// The photo was read again: it is what these edits now lie over.
-    void rebase(const ImageRecord& photo, const QMap<QString, QString>& languages = {});
+    void rebase(const ImageRecord& photo, const PhotoDetails& details = {});
     /// These edits become the draft's, laid over the photo.
-    void take(const Edits& newEdits, const ImageRecord& photo, const QMap<QString, QString>& languages = {});
+    void take(const Edits& newEdits, const ImageRecord& photo, const PhotoDetails& details = {});
 
     bool operator==(const Draft&) const = default;
+
+private:
+    void addUnseenItem(const QString& id, const QString& item);
+    void takeUnseen(const PhotoDetails& details);
 };
 
 }  // namespace Quorbel

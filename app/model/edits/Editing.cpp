@@ -1,5 +1,6 @@
 #include "app/model/edits/Editing.h"
 
+#include "core/iptc/IptcSchema.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
@@ -74,10 +75,20 @@ LeftEdits Editing::leftOf(const Edits& edits, bool returns) const
         left.edits = edits.of(edits.subjects.constFirst());
     const ImageRecord* photo = edits.subjects.size() == 1 ? m_photos.record(edits.subjects.constFirst()) : nullptr;
     for (auto list = edits.lists.cbegin(); photo && list != edits.lists.cend(); ++list)
-        left.heldLists.insert(list.key(), photo->lists.value(list.key()));
+        if (const auto held = heldItems(*photo, list.key()))
+            left.heldLists.insert(list.key(), *held);
     if (photo)
         left.confirmed = confirmedIn(edits, *photo);
     return left;
+}
+
+// Nothing where it is not known.
+std::optional<QStringList> Editing::heldItems(const ImageRecord& photo, const QString& id) const
+{
+    if (!PhotoDetails::hold(id))
+        return photo.lists.value(id);
+    const PhotoDetails* details = m_details.of(photo.url);
+    return details ? std::optional(details->lists.value(id)) : std::nullopt;
 }
 
 // What would be lost if the program ended now.
@@ -173,6 +184,16 @@ void Editing::removeSingleListItem(const QString& id, const QString& item)
     if (isUnread())
         return;
     m_draft.removeItem(id, item);
+    changed();
+}
+
+// Of a photo that nobody has looked at yet, nobody knows what they would replace.
+void Editing::setItems(const QString& id, const QStringList& items)
+{
+    if (isBatch())
+        m_batch.setAdded(id, items);
+    else if (!isUnread() && (knowsDetails() || !PhotoDetails::hold(id)))
+        m_draft.setItems(id, items);
     changed();
 }
 
@@ -291,7 +312,9 @@ bool Editing::isRemovableAddedField(const QString& id) const
     if (!m_added.contains(id) || !heldLanguages(id).isEmpty())
         return false;
     if (isBatch())
-        return !m_selected.holds(id);
+        return !m_selected.holds(id) && !m_details.holds(id);
+    if (PhotoDetails::hold(id))
+        return !m_known.now.texts.contains(id) && !m_known.now.lists.contains(id);
     const ImageRecord* record = m_selected.primaryRecord();
     return !record || (!record->values.contains(id) && !record->lists.contains(id));
 }
@@ -303,14 +326,14 @@ bool Editing::isShown(const FieldSpec& field) const
     if (!field.languageTag().isEmpty() && !languages(field.id).isEmpty())
         return true;
     if (isBatch())
-        return m_selected.holds(field.id);
+        return m_selected.holds(field.id) || m_details.holds(field.id);
     return m_draft.shown.values.contains(field.id) || !m_draft.shown.lists.value(field.id).isEmpty();
 }
 
 QStringList Editing::visibleFieldIDs(FieldSection section) const
 {
     QStringList ids;
-    for (const FieldSpec& field : FieldSchema::all())
+    for (const FieldSpec& field : FieldSchema::everyField())
         if (field.section == section && isShown(field))
             ids.append(field.id);
     return ids;
@@ -319,6 +342,13 @@ QStringList Editing::visibleFieldIDs(FieldSection section) const
 QList<FieldSpec> Editing::addableKnownFields() const
 {
     QList<FieldSpec> fields = FieldSchema::addableFields();
+    fields.removeIf([this](const FieldSpec& field) { return isShown(field); });
+    return fields;
+}
+
+QList<FieldSpec> Editing::addableIptcFields() const
+{
+    QList<FieldSpec> fields = IptcSchema::all();
     fields.removeIf([this](const FieldSpec& field) { return isShown(field); });
     return fields;
 }
@@ -423,8 +453,7 @@ void Editing::bringBack(const LeftEdits& left)
     if (isBatch())
         m_batch.take(m_batch.edits.merged(left.edits, m_selected.urls()));
     else if (record)
-        m_draft.take(
-            m_draft.edits.merged(left.rebasedOnto(*record, m_details.of(record->url))), *record, m_known.now.languages);
+        m_draft.take(m_draft.edits.merged(left.rebasedOnto(*record, m_details.of(record->url))), *record, m_known.now);
     changed();
 }
 
@@ -454,9 +483,11 @@ void Editing::beginDraft()
     m_known = {};
     const ImageRecord* record = m_selected.primaryRecord();
     const PhotoDetails* details = record ? m_details.of(record->url) : nullptr;
-    if (details)
+    if (details) {
         m_known = { *details, *details };
-    m_draft = record ? Draft::of(*record, m_known.now.languages) : Draft();
+        m_known.now.url = record->url;
+    }
+    m_draft = record ? Draft::of(*record, m_known.now) : Draft();
 }
 
 void Editing::follow(const Selection& selection)
@@ -493,7 +524,7 @@ void Editing::rebase()
 void Editing::layDraft()
 {
     if (const ImageRecord* record = m_selected.primaryRecord())
-        m_draft.rebase(*record, m_known.now.languages);
+        m_draft.rebase(*record, m_known.now);
 }
 
 // The edits of the batch, whose one photo is left.
@@ -517,8 +548,8 @@ void Editing::foldBatchIntoDraft()
     if (isUnread())
         m_left.keep(leftOf(batchOfOne(), true));
     else if (const ImageRecord* record = m_selected.primaryRecord())
-        m_draft.take(m_draft.edits.merged(m_batch.edits.foldedInto(*record, m_details.of(record->url))), *record,
-            m_known.now.languages);
+        m_draft.take(
+            m_draft.edits.merged(m_batch.edits.foldedInto(*record, m_details.of(record->url))), *record, m_known.now);
     m_batch = {};
 }
 

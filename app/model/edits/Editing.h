@@ -42,6 +42,8 @@ public:
     void setSingle(const QString& id, const QString& value);
     void addSingleListItem(const QString& id, const QString& item);
     void removeSingleListItem(const QString& id, const QString& item);
+    /// See AppModel.
+    void setItems(const QString& id, const QStringList& items);
     void setBatch(const QString& id, const QString& value);
     void toggleBatchInclude(const QString& id);
     void addBatchListItem(const QString& id, const QString& item);
@@ -66,11 +68,14 @@ public:
     bool isRemovableAddedField(const QString& id) const;
     QStringList visibleFieldIDs(FieldSection section) const;
     QList<FieldSpec> addableKnownFields() const;
+    QList<FieldSpec> addableIptcFields() const;
     QList<CustomValue> visibleCustomFields() const;
     /// The name under which a custom field of this typed name would be stored: as it is spelled on screen already, if
     /// it is. Nothing for a name that is refused; CustomFields::nameProblem() says why.
     std::optional<QString> storedCustomName(const QString& typed) const;
     bool isFieldEmpty(const QString& id) const;
+    /// Whether anybody has looked at what the one selected photo holds beside its record.
+    bool knowsDetails() const { return !m_known.now.url.isEmpty(); }
     QStringList languages(const QString& id) const;
     QStringList pathsOf(const QString& keyword) const;
     const QStringList& typedPaths() const { return (isBatch() ? m_batch.edits : m_draft.edits).paths; }
@@ -149,10 +154,12 @@ private:
     void changed();
     bool isSending() const;
     QList<LeftEdits> standing() const;
+    std::optional<QStringList> heldItems(const ImageRecord& photo, const QString& id) const;
     LeftEdits leftOf(const Edits& edits, bool returns = false) const;
     void restart();
     void beginDraft();
     void layDraft();
+    void noteSavedItems(const Edits& saved, const QString& id);
     void noteSaved(const Edits& written, const QSet<QString>& differing);
     QStringList heldLanguages(const QString& id) const;
     QString languageKey(const QString& id, const QString& code) const;

@@ -1,5 +1,6 @@
 // What is edited beside the values of the records: texts in further languages, keyword paths, what other homes hold.
 #include "app/model/edits/Editing.h"
+#include "core/iptc/IptcSchema.h"
 #include "core/save/ListHomes.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
@@ -40,6 +41,7 @@ void Editing::takeDetails()
     if (!details || m_known.said == *details)
         return;
     m_known = { *details, *details };
+    m_known.now.url = record->url;  // nothing known is told without one
     layDraft();
     changed();
 }
@@ -53,16 +55,33 @@ void Editing::noteSaved(const Edits& written, const QSet<QString>& differing)
         if (differing.contains(key))
             continue;
         m_known.now.disagreements.remove(key);
-        if (!FieldLanguages::languageIn(key))
+        if (!PhotoDetails::hold(key))
             continue;
+        if (IptcSchema::isId(key) && !saved.scalars.contains(key)) {
+            noteSavedItems(saved, key);
+            continue;
+        }
         if (const QString text = saved.scalars.value(key); !text.isEmpty())
-            m_known.now.languages.insert(key, text);
-        else if (m_known.now.languages.remove(key); !m_draft.edits.edited(key) && !m_batch.edits.edited(key))
+            m_known.now.texts.insert(key, text);
+        else if (m_known.now.texts.remove(key); !m_draft.edits.edited(key) && !m_batch.edits.edited(key))
             m_languages.remove(key);
     }
     for (const QString& path : saved.paths)
         if (!m_known.now.paths.contains(path) && !differing.contains(FieldID::keywords))
             m_known.now.paths.append(path);
+}
+
+void Editing::noteSavedItems(const Edits& saved, const QString& id)
+{
+    QStringList items = saved.lists.value(id, m_known.now.lists.value(id));
+    for (const QString& item : saved.added.value(id))
+        if (!items.contains(item))
+            items.append(item);
+    items.removeIf([gone = saved.removed.value(id)](const QString& item) { return gone.contains(item); });
+    if (items.isEmpty())
+        m_known.now.lists.remove(id);
+    else
+        m_known.now.lists.insert(id, items);
 }
 
 // --- Languages ---
@@ -72,7 +91,7 @@ QStringList Editing::heldLanguages(const QString& id) const
     if (isBatch())
         return m_details.codes(id);
     QStringList codes;
-    for (auto text = m_known.now.languages.cbegin(); text != m_known.now.languages.cend(); ++text)
+    for (auto text = m_known.now.texts.cbegin(); text != m_known.now.texts.cend(); ++text)
         if (const auto code = codeIn(text.key(), id))
             codes.append(*code);
     return codes;

@@ -42,7 +42,7 @@ Edits Editing::withoutWholeLists(Edits edits) const
     for (auto list = lists.cbegin(); list != lists.cend(); ++list) {
         for (const int row : m_selected.rows()) {
             const ImageRecord& photo = m_photos.records().at(row);
-            QStringList lost = photo.lists.value(list.key());
+            QStringList lost = heldItems(photo, list.key()).value_or(QStringList());
             lost.removeIf([&list](const QString& item) { return list->contains(item); });
             if (!lost.isEmpty())
                 edits.own[photo.url].removed.insert(list.key(), lost);

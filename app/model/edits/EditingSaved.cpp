@@ -94,8 +94,7 @@ void Editing::put(const LeftEdits& left)
     if (isBatch()) {
         m_batch.take(left.edits.merged(m_batch.edits, m_selected.urls()));
     } else if (const ImageRecord* record = m_selected.primaryRecord()) {
-        m_draft.take(
-            left.rebasedOnto(*record, m_details.of(record->url)).merged(m_draft.edits), *record, m_known.now.languages);
+        m_draft.take(left.rebasedOnto(*record, m_details.of(record->url)).merged(m_draft.edits), *record, m_known.now);
     }
     changed();
 }

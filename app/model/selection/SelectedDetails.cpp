@@ -16,22 +16,27 @@ SelectedDetails::SelectedDetails(const PhotoList& list, const SelectedPhotos& se
 
 std::optional<QString> SelectedDetails::sharedValue(const QString& key) const
 {
-    if (!FieldLanguages::languageIn(key))
+    if (!PhotoDetails::hold(key))
         return m_selected.sharedValue(key);
     const Summary& held = summary();
     if (held.known == 0 || held.unknown > 0)
         return std::nullopt;
-    const auto text = held.languages.constFind(key);
-    if (text == held.languages.cend())
+    const auto text = held.texts.constFind(key);
+    if (text == held.texts.cend())
         return QString();
     return text->isShared && text->holders == held.known ? std::optional(text->value) : std::nullopt;
+}
+
+bool SelectedDetails::holds(const QString& key) const
+{
+    return summary().texts.contains(key) || summary().lists.contains(key);
 }
 
 QStringList SelectedDetails::codes(const QString& id) const
 {
     QStringList codes;
-    const QMap<QString, Text>& languages = summary().languages;
-    for (auto text = languages.cbegin(); text != languages.cend(); ++text)
+    const QMap<QString, Text>& texts = summary().texts;
+    for (auto text = texts.cbegin(); text != texts.cend(); ++text)
         if (const auto language = FieldLanguages::languageIn(text.key()); language && language->field->id == id)
             codes.append(language->code);
     return codes;
@@ -44,13 +49,15 @@ QStringList SelectedDetails::pathsOf(const QString& keyword) const
 
 void SelectedDetails::merge(Summary& summary, const ImageRecord& record, const PhotoDetails& details)
 {
-    for (auto held = details.languages.cbegin(); held != details.languages.cend(); ++held) {
-        Text& text = summary.languages[held.key()];
+    for (auto held = details.texts.cbegin(); held != details.texts.cend(); ++held) {
+        Text& text = summary.texts[held.key()];
         if (text.holders++ == 0)
             text.value = *held;
         else
             text.isShared = text.isShared && text.value == *held;
     }
+    for (auto list = details.lists.cbegin(); list != details.lists.cend(); ++list)
+        summary.lists.insert(list.key());
     for (const QString& path : details.paths)
         if (QStringList& paths = summary.paths[KeywordPath::keyword(path)]; !paths.contains(path))
             paths.append(path);

@@ -21,9 +21,11 @@ public:
     /// Of some photos something else is known.
     void forget() { m_summary.reset(); }
 
-    /// As SelectedPhotos::sharedValue(), for texts in further languages, too: those are known of no photo that was not
+    /// As SelectedPhotos::sharedValue(), for what is beside the records, too: that is known of no photo that was not
     /// looked at.
     std::optional<QString> sharedValue(const QString& key) const;
+    /// Whether one of them is known to hold something under this key.
+    bool holds(const QString& key) const;
     /// Codes of the languages in which one of them holds the field.
     QStringList codes(const QString& id) const;
     /// Paths of this keyword in any of them.
@@ -43,7 +45,8 @@ private:
     };
     struct Summary {
         QList<int> rows{};  ///< of which it was made
-        QMap<QString, Text> languages{};  ///< by FieldLanguages::key()
+        QMap<QString, Text> texts{};  ///< by key (PhotoDetails::texts)
+        QSet<QString> lists{};  ///< ids of those that are not empty
         QMap<QString, QStringList> paths{};  ///< by the keyword that they lead to
         int known = 0;
         int unknown = 0;

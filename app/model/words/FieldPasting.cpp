@@ -90,9 +90,9 @@ void FieldPasting::copy()
     const ImageRecord& record = *m_model.primaryRecord();
     const PhotoDetails* details = m_model.details(record.url);
     const Edits unsaved = m_parts.unsaved().of(record.url);
-    const auto languages = details ? details->languages : QMap<QString, QString>();
     const QStringList paths = (details ? details->paths : QStringList()) + unsaved.paths;
-    CopiedFields fields = CopiedFields::of(record.url.toLocalFile(), unsaved.onto(record, languages), paths);
+    CopiedFields fields =
+        CopiedFields::of(record.url.toLocalFile(), unsaved.onto(record, details ? *details : PhotoDetails()), paths);
     fields.copiedAt = m_model.now();
     const QString name = record.fileName;
     if (fields.edits.isEmpty())
@@ -127,10 +127,13 @@ void FieldPasting::addDetails()
     const Unfinished copied = *std::exchange(m_unfinished, std::nullopt);
     CopiedFields fields = copied.fields;
     ExternalRefresh::Drafts more;
-    for (auto text = details->languages.cbegin(); text != details->languages.cend(); ++text)
+    for (auto text = details->texts.cbegin(); text != details->texts.cend(); ++text)
         if (!fields.edits.scalars.contains(text.key()) && !copied.cleared.contains(text.key()))
             more.values.insert(text.key(), *text);
     more.lists = fields.edits.added;
+    for (auto list = details->lists.cbegin(); list != details->lists.cend(); ++list)
+        if (!more.lists.contains(list.key()) && !copied.cleared.contains(list.key()))
+            more.lists.insert(list.key(), *list);
     const Edits late = CopiedFields::of({}, more, details->paths).edits;
     fields.edits = fields.edits.merged(late);
     if (fields != copied.fields && clipboardText() == copied.text)

@@ -516,7 +516,7 @@ void tst_AppModelDetails::cacheOfAnEarlierVersion()
     ImageRecord record = file.unreadRecord();
     record.isUnread = false;
     const PhotoDetails details{ .url = file.url,
-        .languages = { { u"title@de"_s, u"Ä"_s } },
+        .texts = { { u"title@de"_s, u"Ä"_s } },
         .paths = { u"A|B"_s },
         .disagreements = { { u"title"_s, { { u"X"_s, { u"1"_s, u"2"_s }, true }, { u"Y"_s, {}, false, true } } } } };
     const auto keep = [&](bool withDetails) {
@@ -726,7 +726,7 @@ exec TOOL, @ARGV;
     QTRY_COMPARE_WITH_TIMEOUT(f->disagreements(), (AppModel::Disagreements{ 1, 2, false }), patience);
     QCOMPARE(f.visible(), jpgs(u"a"_s));
     const PhotoDetails a = *f->details(f.url(u"a.jpg"_s));
-    QCOMPARE(a.languages, (QMap<QString, QString>{ { u"title@de"_s, u"Titel"_s } }));
+    QCOMPARE(a.texts, (QMap<QString, QString>{ { u"title@de"_s, u"Titel"_s } }));
     QCOMPARE(a.paths, QStringList{ u"A|B"_s });
     QCOMPARE(a.disagreements.keys(), QStringList{ u"title"_s });
     QCOMPARE(f->stalledFile(), std::nullopt);

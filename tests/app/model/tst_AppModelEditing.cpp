@@ -424,7 +424,7 @@ void tst_AppModelEditing::sameAsBefore()
         for (const ImageRecord& photo : photos) {
             found.insert(photo.url, { .url = photo.url });
             if (photo.fileName == u"a.jpg"_s) {
-                found[photo.url].languages.insert(u"title@de"_s, u"Eins"_s);
+                found[photo.url].texts.insert(u"title@de"_s, u"Eins"_s);
                 found[photo.url].paths = { u"Water|sea"_s, u"Birds|gull"_s };
             }
         }

@@ -367,7 +367,7 @@ private slots:
         QVERIFY(progress >= photos.size());
         for (const Photo& photo : photos) {
             const PhotoDetails details = found.value(folder.url(photo.name));
-            QVERIFY2(details.languages == photo.languages, qPrintable(photo.name));
+            QVERIFY2(details.texts == photo.languages, qPrintable(photo.name));
             QVERIFY2(details.paths == photo.paths, qPrintable(photo.name));
         }
     }

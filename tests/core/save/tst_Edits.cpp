@@ -22,7 +22,7 @@ ImageRecord lake()
 PhotoDetails lakeDetails()
 {
     return { .url = lake().url,
-        .languages = { { u"title@de"_s, u"See"_s }, { u"title@fr"_s, u"Lac"_s } },
+        .texts = { { u"title@de"_s, u"See"_s }, { u"title@fr"_s, u"Lac"_s } },
         .paths = { u"Nature|water"_s } };
 }
 
@@ -280,7 +280,7 @@ void tst_Edits::overAPhoto()
         .added = { { u"keywords"_s, { u"sky"_s, u"blue"_s } } },
         .paths = { u"Nature|sky"_s },
         .customs = { { u"Hue"_s, u"red"_s }, { u"Mood"_s, u"gay"_s } } };
-    const ExternalRefresh::Drafts seen = edits.onto(lake(), lakeDetails().languages);
+    const ExternalRefresh::Drafts seen = edits.onto(lake(), lakeDetails());
     QCOMPARE(seen.values,
         (QMap<QString, QString>{ { u"title"_s, {} }, { u"event"_s, u"Tour"_s }, { u"place"_s, u"Bern"_s },
             { u"title@de"_s, u"See"_s }, { u"title@fr"_s, {} } }));

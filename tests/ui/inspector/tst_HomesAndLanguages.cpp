@@ -466,7 +466,7 @@ void tst_HomesAndLanguages::rowsThatAppearMoveNothingOneTypesIn()
         gate.acquire();
         QHash<QUrl, PhotoDetails> found;
         for (const ImageRecord& record : records)
-            found.insert(record.url, { record.url, {}, {}, { { u"title"_s, { rights, notice } } } });
+            found.insert(record.url, { .url = record.url, .disagreements = { { u"title"_s, { rights, notice } } } });
         return found;
     });
     QVERIFY(f.open({ 520, 500 }));

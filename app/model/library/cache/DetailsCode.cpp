@@ -47,10 +47,15 @@ FieldHome unpackHome(Unpacker& from)
 QByteArray encoded(const PhotoDetails& details)
 {
     Packer to;
-    to.number(quint64(details.languages.size()));
-    for (auto text = details.languages.cbegin(); text != details.languages.cend(); ++text) {
+    to.number(quint64(details.texts.size()));
+    for (auto text = details.texts.cbegin(); text != details.texts.cend(); ++text) {
         to.text(text.key());
         to.text(*text);
+    }
+    to.number(quint64(details.lists.size()));
+    for (auto list = details.lists.cbegin(); list != details.lists.cend(); ++list) {
+        to.text(list.key());
+        packTexts(to, *list);
     }
     packTexts(to, details.paths);
     to.number(quint64(details.disagreements.size()));
@@ -72,7 +77,11 @@ std::optional<PhotoDetails> decoded(QByteArrayView bytes)
     PhotoDetails details;
     for (qsizetype left = from.count(); left > 0; --left) {
         const QString key = from.text();
-        details.languages.insert(key, from.text());
+        details.texts.insert(key, from.text());
+    }
+    for (qsizetype left = from.count(); left > 0; --left) {
+        const QString id = from.text();
+        details.lists.insert(id, unpackTexts(from));
     }
     details.paths = unpackTexts(from);
     for (qsizetype left = from.count(); left > 0; --left) {
@@ -86,7 +95,7 @@ std::optional<PhotoDetails> decoded(QByteArrayView bytes)
 QByteArray fingerprint()
 {
     QStringList parts{ QString::number(version), KeywordPath::treeTag() };
-    for (const FieldSpec& field : FieldSchema::all())
+    for (const FieldSpec& field : FieldSchema::everyField())
         parts += QStringList{ field.id, field.languageTag() } + field.writeTags;
     for (const KeywordPath::Home& home : KeywordPath::homes())
         parts += { home.tag, home.separator };

@@ -12,7 +12,7 @@ namespace {
 
 bool isSilent(const PhotoDetails& details)
 {
-    return details.languages.isEmpty() && details.paths.isEmpty() && details.disagreements.isEmpty();
+    return details.texts.isEmpty() && details.lists.isEmpty() && details.paths.isEmpty() && details.disagreements.isEmpty();
 }
 
 }  // namespace
@@ -107,13 +107,20 @@ void DetailsStore::count(const PhotoDetails& details, int step)
 // Names of tags and keys, and paths, are those of many photos.
 void DetailsStore::share(PhotoDetails& details)
 {
-    QMap<QString, QString> languages;
-    for (auto text = details.languages.cbegin(); text != details.languages.cend(); ++text) {
+    QMap<QString, QString> texts;
+    for (auto text = details.texts.cbegin(); text != details.texts.cend(); ++text) {
         QString key = text.key();
         m_texts.share(key);
-        languages.insert(languages.cend(), key, *text);
+        texts.insert(texts.cend(), key, *text);
     }
-    details.languages = std::move(languages);
+    details.texts = std::move(texts);
+    QMap<QString, QStringList> lists;
+    for (auto list = details.lists.cbegin(); list != details.lists.cend(); ++list) {
+        QString id = list.key();
+        m_texts.share(id);
+        lists.insert(lists.cend(), id, *list);
+    }
+    details.lists = std::move(lists);
     for (QString& path : details.paths)
         m_texts.share(path);
     for (QList<FieldHome>& homes : details.disagreements)

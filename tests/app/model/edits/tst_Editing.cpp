@@ -67,7 +67,7 @@ struct Photos {
     Editing editing{ announcer, list, selected, details, left };
 };
 
-const PhotoDetails german{ .languages = { { u"title@de"_s, u"See"_s }, { u"title@fr"_s, u"Lac"_s } },
+const PhotoDetails german{ .texts = { { u"title@de"_s, u"See"_s }, { u"title@fr"_s, u"Lac"_s } },
     .paths = { u"Places|France|Paris"_s } };
 
 }  // namespace
@@ -181,7 +181,7 @@ void tst_Editing::languagesOfSeveral()
     f.select(u"ab"_s);
     QCOMPARE(f.editing.languages(u"title"_s), QStringList({ u"de"_s, u"fr"_s }));
     QCOMPARE(f.details.sharedValue(u"title@de"_s), std::nullopt);
-    f.know(u"b"_s, { .languages = { { u"title@de"_s, u"See"_s } } });
+    f.know(u"b"_s, { .texts = { { u"title@de"_s, u"See"_s } } });
     QCOMPARE(f.details.sharedValue(u"title@de"_s), u"See"_s);
     QCOMPARE(f.details.sharedValue(u"title@fr"_s), std::nullopt);
     QCOMPARE(f.details.sharedValue(u"title@it"_s), QString());
@@ -218,7 +218,7 @@ void tst_Editing::languageOfAFieldThatIsNotShown()
         f.editing.removeAddedField(u"event"_s);
         QCOMPARE(f.editing.unsavedCount(), 0);
         QVERIFY(!f.editing.visibleFieldIDs(FieldSection::additional).contains(u"event"_s));
-        f.know(u"a"_s, { .languages = { { u"event@de"_s, u"Fest"_s } } });
+        f.know(u"a"_s, { .texts = { { u"event@de"_s, u"Fest"_s } } });
         QVERIFY(f.editing.visibleFieldIDs(FieldSection::additional).contains(u"event"_s));
         f.editing.addKnownField(u"event"_s);
         QVERIFY(!f.editing.isRemovableAddedField(u"event"_s));

@@ -244,7 +244,7 @@ void tst_Templates::furtherLanguagesWaitForTheDetails()
     const Template value = with({ u"title@de"_s, Mode::setIfEmpty, u"See"_s, {} });
     const QUrl b = three().at(1).url;
     const QUrl c = three().at(2).url;
-    const QHash<QUrl, PhotoDetails> details{ { b, { .url = b, .languages = { { u"title@de"_s, u"Fluss"_s } } } },
+    const QHash<QUrl, PhotoDetails> details{ { b, { .url = b, .texts = { { u"title@de"_s, u"Fluss"_s } } } },
         { c, { .url = c } } };
     const Edits edits = TemplateFill::edits(value, three(), {}, details).edits;
     QCOMPARE(edits.own.keys(), QList<QUrl>({ c }));

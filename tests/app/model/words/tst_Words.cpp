@@ -327,7 +327,7 @@ void tst_Words::lateLanguagesJoinTheCopy()
         QHash<QUrl, PhotoDetails> found;
         for (const ImageRecord& record : photos)
             found.insert(record.url,
-                { .url = record.url, .languages = { { u"title@de"_s, u"Titel"_s } }, .paths = { u"Places|Paris"_s } });
+                { .url = record.url, .texts = { { u"title@de"_s, u"Titel"_s } }, .paths = { u"Places|Paris"_s } });
         return found;
     });
     QVERIFY(f.open());
