@@ -1,6 +1,7 @@
 #include "core/MetadataService.h"
 
 #include "core/details/DetailsRead.h"
+#include "core/iptc/IptcRead.h"
 #include "core/save/Companions.h"
 #include "core/save/RefusedHomes.h"
 #include "core/save/SafeWriter.h"
@@ -127,6 +128,12 @@ QHash<QUrl, FileTags> MetadataService::stored(
         if (const auto found = tags.constFind(QFile::encodeName(files.at(i).toLocalFile())); found != tags.cend())
             stored.insert(targets.at(i), *found);
     return stored;
+}
+
+QHash<QUrl, IptcValues> MetadataService::iptc(
+    const QStringList& ids, const QList<QUrl>& targets, const ReadControl& control) const
+{
+    return IptcRead::of(runner, ids, targets, control);
 }
 
 UndoOutcome MetadataService::undo(const JournalEntry& entry) const

@@ -2,6 +2,7 @@
 // Thread: any, but never the interface's: every call blocks on ExifTool. Holds no state; copy it freely.
 #pragma once
 
+#include "core/iptc/IptcValues.h"
 #include "core/save/SavePortion.h"
 #include "core/save/WriteNotes.h"
 #include "core/save/journal/SaveUndo.h"
@@ -49,6 +50,9 @@ struct MetadataService {
     /// for the targets that could be read. Throws the runner's errors.
     QHash<QUrl, FileTags> stored(
         QStringList tagNames, const QList<QUrl>& targets, const ReadControl& control = {}) const;
+    /// See IptcRead::of().
+    QHash<QUrl, IptcValues> iptc(
+        const QStringList& ids, const QList<QUrl>& targets, const ReadControl& control = {}) const;
     UndoOutcome undo(const JournalEntry& entry) const;
     /// See Companions::movePhoto().
     void renameFile(const QUrl& source, const QUrl& destination) const;

@@ -1,5 +1,6 @@
 #include "core/save/Companions.h"
 
+#include "core/iptc/IptcDefinitions.h"
 #include "core/save/FileMove.h"
 #include "core/save/SaveGuard.h"
 #include "core/tool/ExifToolRunner.h"
@@ -105,8 +106,9 @@ WriteCommand clearing(const WriteCommand& command)
     return clearing;
 }
 
-void writeSidecar(
-    const ExifToolRunner& runner, const QUrl& photo, const WriteCommand& clearing, const QStringList& customNames)
+// `definitions`: of what the photo has just been given; without them the copy would lack it.
+void writeSidecar(const ExifToolRunner& runner, const QUrl& photo, const WriteCommand& clearing,
+    const QStringList& customNames, const QString& definitions)
 {
     const QList<QUrl> sidecar = SaveGuard::filesBehindLinks({ QUrl::fromLocalFile(sidecarPath(photo.toLocalFile())) });
     const bool isNew = !QFile::exists(sidecar.constFirst().toLocalFile());
@@ -115,13 +117,15 @@ void writeSidecar(
     const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });
     std::optional<ToolError> failed;
     try {
-        runner.write(
-            { .options = { u"-tagsfromfile"_s, sourceArgument(photo.toLocalFile()), u"-xmp:all"_s } }, sidecar, false);
+        const TemporaryConfig config({}, definitions);
+        runner.write({ .options = { u"-tagsfromfile"_s, sourceArgument(photo.toLocalFile()), u"-xmp:all"_s } }, sidecar,
+            false, config.url());
     } catch (const ToolError& error) {
         failed = error;
     }
     if (!isNew) {
-        const TemporaryConfig config(clearing.isEmpty() ? QStringList() : customNames);
+        const TemporaryConfig config(
+            clearing.isEmpty() ? QStringList() : customNames, clearing.isEmpty() ? QString() : definitions);
         runner.write(clearing, sidecar, false, config.url());
     }
     if (failed && !failed->messages().contains(nothingToCopy))
@@ -160,6 +164,7 @@ QList<FileFailure> writeSidecars(const ExifToolRunner& runner, const WriteComman
     const QStringList& customNames)
 {
     const WriteCommand further = clearing(command);
+    const QString definitions = IptcDefinitions::areNeeded(command.assignments) ? IptcDefinitions::text() : QString();
     QList<FileFailure> failures;
     for (const auto& photo : photos) {
         const QString path = sidecarPath(photo.toLocalFile());
@@ -167,7 +172,7 @@ QList<FileFailure> writeSidecars(const ExifToolRunner& runner, const WriteComman
             if (SaveGuard::isReadOnly(QUrl::fromLocalFile(path)))
                 failures.append({ QUrl::fromLocalFile(path), u"read-only"_s });
             else
-                writeSidecar(runner, photo, further, customNames);
+                writeSidecar(runner, photo, further, customNames, definitions);
         } catch (const Error& error) {
             failures.append({ QUrl::fromLocalFile(path), reasonOf(error) });
         }

@@ -6,12 +6,22 @@
 
 namespace Quorbel {
 
+/// What becomes of a list of IptcSchema's.
+struct ListChange {
+    std::optional<QStringList> whole{};  ///< the items that replace it; nothing leaves them
+    QStringList added{};
+    QStringList removed{};
+    bool operator==(const ListChange&) const = default;
+};
+
 struct EditPlan {
     QMap<QString, QString> scalars{};  ///< field id, or FieldLanguages::key(), to new text; empty text deletes it
     QMap<QString, QStringList> lists{};  ///< field id to new items
     QList<CustomValue> customs{};
     MetadataWriter::ListMode listMode = MetadataWriter::ListMode::replace;
     QMap<QString, QStringList> removed{};  ///< field id to items to be taken away; only where items are appended
+    /// The same of fields of IptcSchema, each of its own mode; structures as StructureText has them.
+    QMap<QString, ListChange> iptcLists{};
     QStringList paths{};  ///< keyword paths that the photos gain, beside the keywords that they lead to
     bool isExact = false;  ///< the items of the lists are as files spell them: nothing is trimmed or left out
 
@@ -19,7 +29,7 @@ struct EditPlan {
     QStringList leftOut{};
 
     /// What belongs to fields of the plan in these photos and is written with them, by field id. Decided from what the
-    /// photos hold (PhotoPlans), like the next one.
+    /// photos hold (PhotoPlans), like the next one. Of a structure it is all that is written.
     QMap<QString, QList<Assignment>> together{};
     /// Of the tags of fields whose own text the plan writes: those whose texts in further languages stay.
     QStringList keptLanguages{};
@@ -31,7 +41,8 @@ struct EditPlan {
     /// Nothing to write; the list mode plays no part.
     bool isEmpty() const
     {
-        return scalars.isEmpty() && lists.isEmpty() && removed.isEmpty() && customs.isEmpty() && paths.isEmpty();
+        return scalars.isEmpty() && lists.isEmpty() && removed.isEmpty() && iptcLists.isEmpty() && customs.isEmpty()
+            && paths.isEmpty();
     }
     bool operator==(const EditPlan&) const = default;
 };

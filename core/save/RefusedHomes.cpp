@@ -1,5 +1,6 @@
 #include "core/save/RefusedHomes.h"
 
+#include "core/iptc/IptcDefinitions.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/SavePortion.h"
 #include "core/schema/CustomFields.h"
@@ -66,10 +67,13 @@ QMap<QUrl, QMap<QString, QString>> find(const ExifToolRunner& runner, const QLis
     }
     if (questions.isEmpty())
         return {};
-    const TemporaryConfig config(customNames);
     QList<WriteRun> runs;
-    for (const Question& question : std::as_const(questions))
+    bool needsDefinitions = false;
+    for (const Question& question : std::as_const(questions)) {
         runs.append(question.run);
+        needsDefinitions = needsDefinitions || IptcDefinitions::areNeeded(question.run.command.assignments);
+    }
+    const TemporaryConfig config(customNames, needsDefinitions ? IptcDefinitions::text() : QString());
     const QStringList answers = runner.rehearseEach(runs, config.url());
     QMap<QUrl, QMap<QString, QString>> refused;
     QMap<QUrl, qsizetype> homes;

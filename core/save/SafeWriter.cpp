@@ -1,5 +1,6 @@
 #include "core/save/SafeWriter.h"
 
+#include "core/iptc/IptcDefinitions.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/originals/OriginalKeeper.h"
 #include "core/text/Coordinates.h"
@@ -67,6 +68,19 @@ QStringList customNamesOf(const QList<Portion>& portions)
         names += portion.customNames;
     names.removeDuplicates();
     return names;
+}
+
+// Preparations write nothing that has to be defined.
+bool needsConfig(const Portion& portion)
+{
+    return !portion.customNames.isEmpty() || IptcDefinitions::areNeeded(portion.command.assignments);
+}
+
+QString definitionsFor(const QList<Portion>& portions)
+{
+    const bool areNeeded = std::any_of(portions.cbegin(), portions.cend(),
+        [](const Portion& portion) { return IptcDefinitions::areNeeded(portion.command.assignments); });
+    return areNeeded ? IptcDefinitions::text() : QString();
 }
 
 // The runs of one save. The targets of its portions are the files themselves.
@@ -180,12 +194,11 @@ private:
     QSet<QUrl> writeValues(const QSet<QUrl>& files)
     {
         QList<WriteRun> plain;
-        QList<WriteRun> withCustoms;
+        QList<WriteRun> configured;
         for (const Portion& portion : m_portions)
-            (portion.customNames.isEmpty() ? plain : withCustoms) +=
-                inParts({ portion.command, among(files, portion.targets) });
+            (needsConfig(portion) ? configured : plain) += inParts({ portion.command, among(files, portion.targets) });
         QSet<QUrl> done = attempt(plain, m_backup, &m_said);
-        return done.unite(attempt(withCustoms, m_backup, &m_said, m_config));
+        return done.unite(attempt(configured, m_backup, &m_said, m_config));
     }
 
     // Positions in XMP, which need a sign.
@@ -324,7 +337,7 @@ Outcome run(const ExifToolRunner& runner, const QList<Portion>& portions, const 
     WriteNotes* notes)
 {
     const QList<QUrl> files = filesOf(portions);
-    const TemporaryConfig config(customNamesOf(portions));
+    const TemporaryConfig config(customNamesOf(portions), definitionsFor(portions));
     const SaveGuard::AttributeKeeper attributes(files);
     // After a failure too: some of the files may have been replaced.
     const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });

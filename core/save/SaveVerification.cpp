@@ -1,5 +1,6 @@
 #include "core/save/SaveVerification.h"
 
+#include "core/iptc/IptcSchema.h"
 #include "core/save/ListHomes.h"
 #include "core/save/TagHomes.h"
 #include "core/schema/CustomFields.h"
@@ -89,6 +90,8 @@ bool sameInHome(const FieldSpec& field, const QString& written, const QByteArray
     if (field.kind == FieldKind::rating)
         return sameText(written, MetadataWriter::normalizeRating(found));
     found.replace(QChar::Null, u'\n');
+    if (field.kind == FieldKind::code)
+        return found == written || found.endsWith(u'/' + written);
     return sameText(written, found) || Text::trimmedWithNewlines(written) == Text::trimmedWithNewlines(found)
         || isNumberOf(written, found);
 }
@@ -167,6 +170,57 @@ bool holdsTogether(const EditPlan& plan, const QString& id, const FileTags& stor
     });
 }
 
+// Whether the field is written, but not to all of its homes.
+bool isInPart(const EditPlan& plan, const FieldSpec& field)
+{
+    if (plan.leftOut.isEmpty())
+        return false;
+    EditPlan alone{ .leftOut = plan.leftOut };
+    if (const auto scalar = plan.scalars.constFind(field.id); scalar != plan.scalars.cend())
+        alone.scalars.insert(field.id, *scalar);
+    if (const auto list = plan.lists.constFind(field.id); list != plan.lists.cend())
+        alone.lists.insert(field.id, *list);
+    if (const auto items = plan.removed.constFind(field.id); items != plan.removed.cend())
+        alone.removed.insert(field.id, *items);
+    if (const auto change = plan.iptcLists.constFind(field.id); change != plan.iptcLists.cend())
+        alone.iptcLists.insert(field.id, *change);
+    const auto rest = MetadataWriter::assignments(alone);
+    alone.leftOut.clear();
+    return !rest.isEmpty() && rest != MetadataWriter::assignments(alone);
+}
+
+// Of the lists of IptcSchema; structures are compared elsewhere (PhotoPlan::structures).
+bool holdsChange(const FieldSpec& field, const ListChange& change, const QString& fileType, const FileTags& stored)
+{
+    return std::all_of(field.writeTags.cbegin(), field.writeTags.cend(), [&](const QString& tag) {
+        if (!TagHomes::holds(fileType, tag))
+            return true;
+        const QStringList found = TagHomes::itemsOf(tag, stored);
+        const EditPlan replacing;
+        const EditPlan appending{ .listMode = MetadataWriter::ListMode::append };
+        const bool holdsWhole = !change.whole || sameList(replacing, *change.whole + change.added, found);
+        return holdsWhole && sameList(appending, change.added, found)
+            && std::none_of(change.removed.cbegin(), change.removed.cend(),
+                [&found](const QString& item) { return found.contains(item); });
+    });
+}
+
+// The records know nothing of these fields.
+QStringList iptcDifferences(const EditPlan& plan, const QString& fileType, const FileTags& stored)
+{
+    QStringList keys;
+    for (const FieldSpec& field : IptcSchema::all()) {
+        if (field.kind == FieldKind::structure || isInPart(plan, field))
+            continue;
+        const auto text = plan.scalars.constFind(field.id);
+        const auto list = plan.iptcLists.constFind(field.id);
+        if ((text != plan.scalars.cend() && !holdsInHomes(field, *text, fileType, stored))
+            || (list != plan.iptcLists.cend() && !holdsChange(field, *list, fileType, stored)))
+            keys.append(field.id);
+    }
+    return keys;
+}
+
 // A text in a further language stands in one home only.
 QStringList languageDifferences(const EditPlan& plan, const FileTags& stored)
 {
@@ -194,23 +248,6 @@ bool holdsCustom(const ImageRecord& record, const CustomValue& custom)
     return sameText(custom.value, found == record.custom.cend() ? QString() : found->value);
 }
 
-// Whether the field is written, but not to all of its homes.
-bool isInPart(const EditPlan& plan, const FieldSpec& field)
-{
-    if (plan.leftOut.isEmpty())
-        return false;
-    EditPlan alone{ .leftOut = plan.leftOut };
-    if (const auto scalar = plan.scalars.constFind(field.id); scalar != plan.scalars.cend())
-        alone.scalars.insert(field.id, *scalar);
-    if (const auto list = plan.lists.constFind(field.id); list != plan.lists.cend())
-        alone.lists.insert(field.id, *list);
-    if (const auto items = plan.removed.constFind(field.id); items != plan.removed.cend())
-        alone.removed.insert(field.id, *items);
-    const auto rest = MetadataWriter::assignments(alone);
-    alone.leftOut.clear();
-    return !rest.isEmpty() && rest != MetadataWriter::assignments(alone);
-}
-
 }  // namespace
 
 QStringList differences(const EditPlan& plan, const ImageRecord& record, const FileTags* stored)
@@ -234,7 +271,7 @@ QStringList differences(const EditPlan& plan, const ImageRecord& record, const F
             keys.append(field.id);
     }
     if (stored)
-        keys += languageDifferences(plan, *stored);
+        keys += iptcDifferences(plan, record.fileType, *stored) + languageDifferences(plan, *stored);
     for (const auto& custom : plan.customs)
         if (!holdsCustom(record, custom))
             keys.append(CustomFields::key(custom.name));
@@ -243,12 +280,14 @@ QStringList differences(const EditPlan& plan, const ImageRecord& record, const F
 
 bool hasHiddenHomes(const EditPlan& plan)
 {
+    if (!plan.iptcLists.isEmpty())
+        return true;
     const QStringList ids = plan.scalars.keys() + plan.lists.keys() + plan.removed.keys() + plan.together.keys();
     return std::any_of(ids.cbegin(), ids.cend(), [&plan](const QString& id) {
         if (plan.together.contains(id) || FieldLanguages::languageIn(id))
             return true;
         const FieldSpec* field = FieldSchema::spec(id);
-        return field && (field->kind == FieldKind::coordinates || field->writeTags.size() > 1);
+        return field && (IptcSchema::isId(id) || field->kind == FieldKind::coordinates || field->writeTags.size() > 1);
     });
 }
 

@@ -46,6 +46,8 @@ void requireShortValues(const EditPlan& plan)
         requireShort(MetadataWriter::assignments({ .scalars = { { it.key(), *it } } }), labelOf(it.key()));
     for (auto it = plan.lists.cbegin(); it != plan.lists.cend(); ++it)
         requireShort(MetadataWriter::assignments({ .lists = { { it.key(), *it } } }), labelOf(it.key()));
+    for (auto it = plan.iptcLists.cbegin(); it != plan.iptcLists.cend(); ++it)
+        requireShort(MetadataWriter::assignments({ .iptcLists = { { it.key(), *it } } }), labelOf(it.key()));
     for (const auto& custom : plan.customs)
         requireShort(MetadataWriter::customArgs(custom.name, custom.value), custom.name);
 }

@@ -1,6 +1,8 @@
 #include "core/tool/MetadataWriter.h"
 
 #include "core/Product.h"
+#include "core/iptc/IptcSchema.h"
+#include "core/iptc/StructureText.h"
 #include "core/save/EditPlan.h"
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
@@ -41,18 +43,38 @@ QString customNamespaceURI()
     return Product::customNamespaceURI();
 }
 
+namespace {
+
+// Codes that the tool knows by their English names, too, are given as they are stored.
+Assignment::Operation operationFor(const QString& tag)
+{
+    return IptcSchema::isWrittenByCode(tag) ? Assignment::Operation::restore : Assignment::Operation::set;
+}
+
+QList<Assignment> structureValue(const FieldSpec& field, const QString& text)
+{
+    const StructureSpec* structure = IptcStructures::spec(field.structure);
+    const QString argument = structure ? StructureText::argument(*structure, text) : QString();
+    return { { .tag = field.writeTags.constFirst(), .value = argument } };
+}
+
+}  // namespace
+
 QList<Assignment> scalarArgs(const FieldSpec& field, const QString& value)
 {
     if (field.kind == FieldKind::coordinates)
         return Coordinates::writeArgs(value);
+    if (field.kind == FieldKind::structure)
+        return structureValue(field, value);
     QString written = value;
     if (field.kind == FieldKind::rating)
         written = normalizeRating(value);
     else if (field.kind == FieldKind::date)
         written = normalizeDate(value);
     QList<Assignment> args;
+    // The empty text of a restoring assignment would be a text without characters.
     for (const QString& tag : field.writeTags)
-        args.append({ .tag = tag, .value = written });
+        args.append({ tag, written.isEmpty() ? Assignment::Operation::set : operationFor(tag), written });
     return args;
 }
 
@@ -98,6 +120,48 @@ QList<Assignment> customArgs(const QString& name, const QString& value)
 
 namespace {
 
+QList<Assignment> structureArgs(const FieldSpec& field, const ListChange& change)
+{
+    const StructureSpec* structure = IptcStructures::spec(field.structure);
+    const QString tag = field.writeTags.constFirst();
+    QList<Assignment> args;
+    if (!structure)
+        return args;
+    const auto append = [&](const QStringList& items, Assignment::Operation operation) {
+        for (const QString& item : items)
+            if (const QString argument = StructureText::argument(*structure, item); !argument.isEmpty())
+                args.append({ tag, operation, argument });
+    };
+    if (change.whole)
+        args.append({ .tag = tag });
+    append(change.whole.value_or(QStringList()), Assignment::Operation::set);
+    append(change.added, change.whole ? Assignment::Operation::set : Assignment::Operation::add);
+    return args;
+}
+
+QList<Assignment> iptcArgs(const FieldSpec& field, const ListChange& change)
+{
+    if (field.kind == FieldKind::structure)
+        return structureArgs(field, change);
+    QList<Assignment> args;
+    if (change.whole)
+        return listArgs(field, *change.whole + change.added, ListMode::replace);
+    args += listArgs(field, change.added, ListMode::append);
+    for (const QString& tag : field.writeTags)
+        for (const QString& item : change.removed)
+            args.append({ tag, Assignment::Operation::remove, item });
+    return args;
+}
+
+QList<Assignment> iptcArgs(const EditPlan& plan)
+{
+    QList<Assignment> args;
+    for (auto it = plan.iptcLists.cbegin(); it != plan.iptcLists.cend(); ++it)
+        if (const FieldSpec* field = IptcSchema::spec(it.key()); field && !plan.together.contains(it.key()))
+            args += iptcArgs(*field, *it);
+    return args;
+}
+
 // As they stand: what is to go is spelled as the files spell it.
 QList<Assignment> removalArgs(const FieldSpec& field, const QStringList& items)
 {
@@ -114,7 +178,8 @@ QList<Assignment> fieldArgs(const EditPlan& plan)
     QList<Assignment> args;
     for (auto it = plan.scalars.cbegin(); it != plan.scalars.cend(); ++it)
         if (const FieldSpec* field = FieldSchema::spec(it.key()))
-            args += scalarArgs(*field, it.value());
+            if (field->kind != FieldKind::structure || !plan.together.contains(it.key()))
+                args += scalarArgs(*field, it.value());
     for (auto it = plan.lists.cbegin(); it != plan.lists.cend(); ++it)
         if (const FieldSpec* field = FieldSchema::spec(it.key()))
             args += plan.isExact ? exactListArgs(*field, it.value(), plan.listMode)
@@ -122,6 +187,7 @@ QList<Assignment> fieldArgs(const EditPlan& plan)
     for (auto it = plan.removed.cbegin(); it != plan.removed.cend(); ++it)
         if (const FieldSpec* field = FieldSchema::spec(it.key()))
             args += removalArgs(*field, it.value());
+    args += iptcArgs(plan);
     for (const auto& custom : plan.customs)
         args += customArgs(custom.name, custom.value);
     for (const QList<Assignment>& further : plan.together)

@@ -13,11 +13,12 @@ namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
-TemporaryConfig::TemporaryConfig(const QStringList& customNames)
+TemporaryConfig::TemporaryConfig(const QStringList& customNames, const QString& further)
 {
-    if (customNames.isEmpty())
+    if (customNames.isEmpty() && further.isEmpty())
         return;
-    const QByteArray text = MetadataWriter::customConfig(customNames).toUtf8();
+    const QString customs = customNames.isEmpty() ? QString() : MetadataWriter::customConfig(customNames);
+    const QByteArray text = (customs + further).toUtf8();
     const QString directory = QDir::tempPath();
     if (directory.isEmpty())  // Qt's answer for a TMPDIR that does not exist
         throw FileError(

@@ -11,8 +11,9 @@ namespace Quorbel {
 /// Readable by the user alone: the names may be private.
 class TemporaryConfig final {
 public:
-    /// No file without names. Throws FileError when it cannot be written.
-    explicit TemporaryConfig(const QStringList& customNames);
+    /// `further` definitions stand behind those of the custom fields. No file without either. Throws FileError when it
+    /// cannot be written.
+    explicit TemporaryConfig(const QStringList& customNames, const QString& further = {});
     ~TemporaryConfig();
     Q_DISABLE_COPY_MOVE(TemporaryConfig)
 

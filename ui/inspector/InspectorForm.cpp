@@ -75,9 +75,8 @@ InspectorForm::InspectorForm(
     m_column->setSpacing(0);
     m_column->addWidget(indented(m_header));
     m_column->addWidget(indented(m_banner));
-    const auto allSections = allCases<FieldSection>();
     for (size_t i = 0; i < m_sections.size(); ++i) {
-        m_sections.at(i) = new FormSection(rawValue(allSections.at(int(i))));
+        m_sections.at(i) = new FormSection(rawValue(FieldSection(i)));
         m_column->addWidget(m_sections.at(i));
     }
     m_sections.at(size_t(FieldSection::location))->setUnderRows(m_map);
@@ -159,7 +158,8 @@ void InspectorForm::awaitRecords()
 void InspectorForm::showBlocks()
 {
     const QList<FieldSpec> fields = usualFields();
-    for (const FieldSection section : allCases<FieldSection>()) {
+    for (size_t i = 0; i < m_sections.size(); ++i) {
+        const auto section = FieldSection(i);
         QList<FieldRow*> rows;
         for (const FieldSpec& field : fields) {
             if (field.section != section)
@@ -167,9 +167,8 @@ void InspectorForm::showBlocks()
             rows.append(rowOf(field));
             rows.last()->setState(InspectorStates::unreadRow(field), true);
         }
-        FormSection* form = m_sections.at(size_t(section));
-        form->setRows(rows);
-        form->setVisible(!rows.isEmpty());
+        m_sections.at(i)->setRows(rows);
+        m_sections.at(i)->setVisible(!rows.isEmpty());
     }
     if (m_keywordRows)
         m_keywordRows->hide();
@@ -225,8 +224,8 @@ void InspectorForm::showHeader()
 
 void InspectorForm::showSections(bool fresh)
 {
-    for (const FieldSection section : allCases<FieldSection>())
-        showFields(section, fresh);
+    for (size_t i = 0; i < m_sections.size(); ++i)
+        showFields(FieldSection(i), fresh);
 }
 
 void InspectorForm::addKeywordRows()

@@ -156,6 +156,9 @@ RowEditor makeRowEditor(const FieldRowParts& parts, FieldRow& row)
         return offsetEditor(row);
     case FieldKind::text:
     case FieldKind::coordinates:
+    case FieldKind::number:
+    case FieldKind::code:
+    case FieldKind::structure:
         break;
     }
     // Codes stand for words, not for numbers.

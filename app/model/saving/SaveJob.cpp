@@ -2,6 +2,8 @@
 
 #include "app/model/saving/ReplacedFilesPoll.h"
 #include "app/model/saving/SaveReasons.h"
+#include "core/iptc/IptcSchema.h"
+#include "core/iptc/StructureText.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/SaveVerification.h"
 #include "core/save/journal/JournalTags.h"
@@ -58,12 +60,20 @@ QList<EditPlan> allPlans(const Order& order)
     return plans;
 }
 
+bool changesIptc(const QList<EditPlan>& plans)
+{
+    return std::any_of(plans.cbegin(), plans.cend(), [](const EditPlan& plan) {
+        return !plan.iptcLists.isEmpty()
+            || std::any_of(plan.scalars.keyBegin(), plan.scalars.keyEnd(), IptcSchema::isId);
+    });
+}
+
 // What the targets hold in all that the save may assign; nothing when that cannot be found out.
 std::optional<OldValues> lookBefore(const MetadataService& service, const Order& order, const QList<EditPlan>& plans)
 {
     try {
-        // A plan that leaves homes out names tags by others.
-        if (order.look && order.options.leftOut.isEmpty())
+        // A plan that leaves homes out names tags by others; of fields of IptcSchema the early look knows nothing.
+        if (order.look && order.options.leftOut.isEmpty() && !changesIptc(plans))
             if (auto values = order.look->values(order.targets))
                 return values;
         if (order.look)
@@ -106,6 +116,8 @@ QList<SavePortion> portions(const QList<QUrl>& targets, const QHash<QUrl, PhotoP
     QList<SavePortion> portions;
     QHash<QByteArray, qsizetype> known;
     for (const QUrl& target : targets) {
+        if (!photos.value(target).problem.isEmpty())
+            continue;
         const EditPlan plan = photos.value(target).plan;
         // Neighbors mostly share the very same plan.
         const bool isAsBefore = !portions.isEmpty() && portions.constLast().plan == plan;
@@ -256,6 +268,34 @@ void findRefusedHomes(const MetadataService& service, QList<SavePortion> portion
             failure.reason = SaveReasons::refused(*homes);
 }
 
+// Structures are written whole only where nothing is lost by it; who knows nothing of a photo's leaves it alone.
+void decideStructures(
+    const MetadataService& service, const Order& order, const QList<EditPlan>& plans, Written& written)
+{
+    const QStringList ids = PhotoPlans::structuresOf(plans);
+    if (ids.isEmpty())
+        return;
+    QHash<QUrl, IptcValues> held;
+    QString unread = u"what it holds could not be read"_s;
+    try {
+        held = service.iptc(ids, order.targets);
+    } catch (const Error& error) {
+        unread = error.description();
+    }
+    for (const QUrl& target : order.targets) {
+        PhotoPlan& photo = written.photos[target];
+        if (const auto values = held.constFind(target); values != held.cend())
+            PhotoPlans::decideStructures(photo, *values);
+        else
+            photo.problem = unread;
+        if (photo.problem.isEmpty())
+            continue;
+        written.failures.append({ target, photo.problem });
+        written.error = photo.problem;
+        written.isPartial = true;
+    }
+}
+
 // What this target is to hold, as far as it was written to it.
 EditPlan expectedOf(const Written& written, const QUrl& target)
 {
@@ -297,7 +337,7 @@ std::optional<QString> failureOf(const QUrl& target, const ImageRecord* record, 
 QStringList inOrderOfFields(QSet<QString> keys)
 {
     QStringList ordered;
-    for (const FieldSpec& field : FieldSchema::all()) {
+    for (const FieldSpec& field : FieldSchema::everyField()) {
         QStringList own;
         for (const QString& key : std::as_const(keys))
             if (key == field.id || key.startsWith(FieldLanguages::key(field.id, {})))
@@ -323,6 +363,30 @@ void remember(const std::optional<JournalEntry>& entry, const std::shared_ptr<Sa
         written.undoable.wait();
 }
 
+QHash<QUrl, IptcValues> structuresAfter(
+    const MetadataService& service, const Written& written, const QList<QUrl>& targets)
+{
+    QSet<QString> ids;
+    for (const PhotoPlan& photo : written.photos)
+        ids.unite(QSet<QString>(photo.structures.keyBegin(), photo.structures.keyEnd()));
+    try {
+        return service.iptc(ids.values(), targets);
+    } catch (const std::exception&) {
+        return {};  // The tool has said that it wrote them.
+    }
+}
+
+QStringList structureDifferences(const PhotoPlan& photo, const IptcValues& values)
+{
+    QStringList differing;
+    for (auto expected = photo.structures.cbegin(); expected != photo.structures.cend(); ++expected)
+        if (const StructureSpec* structure = IptcStructures::spec(IptcSchema::spec(expected.key())->structure);
+            !photo.plan.leftOut.contains(u"XMP"_s)
+            && !StructureText::areSame(*structure, *expected, values.structures(expected.key())))
+            differing.append(expected.key());
+    return differing;
+}
+
 }  // namespace
 
 Written run(const MetadataService& service, const Order& order, const std::shared_ptr<SaveHistory>& history,
@@ -336,6 +400,7 @@ Written run(const MetadataService& service, const Order& order, const std::share
     Written written{ .leftOut = order.options.leftOut };
     written.photos = PhotoPlans::decide(
         targets, [&order](const QUrl& target) { return planOf(order, target); }, before, order.seen);
+    decideStructures(service, order, plans, written);
     std::optional<JournalEntry> entry;
     if (history && before)
         entry = SaveUndo::journalEntry(
@@ -343,7 +408,8 @@ Written run(const MetadataService& service, const Order& order, const std::share
             order.options);
     const ReplacedFilesPoll poll(targets, progress.done);
     const QList<SavePortion> runs = portions(targets, written.photos);
-    write(service, runs, order.options, written);
+    if (!runs.isEmpty())
+        write(service, runs, order.options, written);
     findRefusedHomes(service, runs, written);
     if (targets.size() == 1 && !written.failures.isEmpty())
         written.error = written.failures.constFirst().reason;
@@ -371,6 +437,7 @@ Checked check(const MetadataService& service, const Order& order, const Written&
         return checked;
     }
     const QHash<QUrl, FileTags> stored = homes.stored(progress);
+    const QHash<QUrl, IptcValues> structures = structuresAfter(service, written, readable);
     QHash<QUrl, const ImageRecord*> records;
     for (const ImageRecord& record : read.records)
         records.insert(record.url, &record);
@@ -379,9 +446,11 @@ Checked check(const MetadataService& service, const Order& order, const Written&
     for (const QUrl& target : order.targets) {
         const ImageRecord* record = records.value(target);
         const auto tags = stored.constFind(target);
-        const QStringList differences = record ? SaveVerification::differences(expectedOf(written, target), *record,
-                                            tags == stored.cend() ? nullptr : &*tags)
-                                               : QStringList();
+        QStringList differences = record ? SaveVerification::differences(
+                                      expectedOf(written, target), *record, tags == stored.cend() ? nullptr : &*tags)
+                                         : QStringList();
+        if (const auto values = structures.constFind(target); values != structures.cend())
+            differences += structureDifferences(written.photos.value(target), *values);
         if (const auto failure = failureOf(target, record, reasons, tooSlow.contains(target), written, differences)) {
             checked.failures.append({ target, *failure });
             continue;

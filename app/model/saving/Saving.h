@@ -18,7 +18,7 @@ namespace ShiftJob {
 struct Looked;
 struct Order;
 struct Written;
-}
+}  // namespace ShiftJob
 
 /// What a save, or taking one back, came to.
 struct SaveOutcome {

@@ -1,8 +1,10 @@
 #include "core/save/journal/JournalTags.h"
 
+#include "core/iptc/IptcSchema.h"
 #include "core/save/EditPlan.h"
 #include "core/save/together/DateCompanions.h"
 #include "core/schema/FieldSchema.h"
+#include "core/text/Coordinates.h"
 #include "core/tool/IptcEncoding.h"
 #include "core/tool/MetadataWriter.h"
 
@@ -28,7 +30,7 @@ bool isLanguageTag(const QString& tag)
 {
     static const QSet<QString> tags = [] {
         QSet<QString> tags;
-        for (const FieldSpec& field : FieldSchema::all())
+        for (const FieldSpec& field : FieldSchema::everyField())
             tags.insert(field.languageTag());
         return tags;
     }();
@@ -148,6 +150,29 @@ bool hasSeveralBlocks(const JournalFile& file)
     });
 }
 
+// As an argument, with room to its limit.
+bool fitsArgument(const QByteArray& value)
+{
+    constexpr qsizetype longest = 100 * 1024;
+    return escaped(value).size() <= longest;
+}
+
+bool writesStructure(const EditPlan& plan)
+{
+    const auto isStructure = [](const QString& id) {
+        const FieldSpec* field = IptcSchema::spec(id);
+        return field && field->kind == FieldKind::structure;
+    };
+    return std::any_of(plan.scalars.keyBegin(), plan.scalars.keyEnd(), isStructure)
+        || std::any_of(plan.iptcLists.keyBegin(), plan.iptcLists.keyEnd(), isStructure);
+}
+
+// Whether XMP goes back as a whole.
+bool isXmpBlock(const JournalEntry& entry, const JournalFile& file)
+{
+    return writtenTags(entry, file).contains(xmpBlockTag());
+}
+
 // How a file's IPTC is put back.
 enum class Iptc {
     byTags,
@@ -157,7 +182,6 @@ enum class Iptc {
 
 Iptc iptcOf(const JournalEntry& entry, const JournalFile& file)
 {
-    constexpr qsizetype longest = 100 * 1024;  // of an argument, with room to its limit
     const QStringList& written = writtenTags(entry, file);
     const bool isEncodedAnew = written.contains(IptcEncoding::blockTag());
     if (!isEncodedAnew && !touchesIptcDates(written))
@@ -165,11 +189,32 @@ Iptc iptcOf(const JournalEntry& entry, const JournalFile& file)
     if (isEncodedAnew && IptcEncoding::storedIn(file.tags) == IptcEncoding::Stored::severalBlocks)
         return Iptc::notAtAll;
     const QList<QByteArray> block = file.tags.value(IptcEncoding::blockTag());
-    const bool fits = block.isEmpty() || escaped(block.constFirst()).size() <= longest;
+    const bool fits = block.isEmpty() || fitsArgument(block.constFirst());
     return fits && !hasSeveralBlocks(file) ? Iptc::asABlock : Iptc::byTags;
 }
 
+// A home as it was, byte for byte, or gone.
+Assignment wholeOf(const QString& tag, const QList<QByteArray>& block)
+{
+    if (block.isEmpty())
+        return { .tag = tag };
+    return { tag, Assignment::Operation::restore, escaped(block.constFirst()) };
+}
+
 }  // namespace
+
+QString xmpBlockTag()
+{
+    return u"XMP:XMP"_s;
+}
+
+std::optional<QByteArray> longXmp(const JournalEntry& entry, const JournalFile& file)
+{
+    const QList<QByteArray> block = file.tags.value(xmpBlockTag());
+    if (!isXmpBlock(entry, file) || block.isEmpty() || fitsArgument(block.constFirst()))
+        return std::nullopt;
+    return block.constFirst();
+}
 
 QStringList writtenTags(const EditPlan& plan)
 {
@@ -182,6 +227,8 @@ QStringList writtenTags(const EditPlan& plan)
     tags.removeDuplicates();
     if (IptcEncoding::needsUtf8(command.assignments))
         tags.append(IptcEncoding::blockTag());
+    if (!plan.leftOut.contains(u"XMP"_s) && writesStructure(plan))
+        tags.append(xmpBlockTag());
     return tags;
 }
 
@@ -212,7 +259,10 @@ WriteCommand restoreCommand(const JournalEntry& entry, const JournalFile& file)
 {
     const QStringList& written = writtenTags(entry, file);
     const Iptc iptc = iptcOf(entry, file);
+    const bool isBlock = isXmpBlock(entry, file);
     const auto isLeftOut = [&](const QString& tag) {
+        if (homeOf(tag) == u"XMP")
+            return isBlock;
         return homeOf(tag) == u"IPTC"
             && (iptc != Iptc::byTags || tag == IptcEncoding::blockTag() || tag == u"IPTC:CodedCharacterSet");
     };
@@ -226,10 +276,13 @@ WriteCommand restoreCommand(const JournalEntry& entry, const JournalFile& file)
                 command.assignments.append({ it.key(), Assignment::Operation::restore, escaped(value) });
     if (iptc == Iptc::asABlock) {
         const QList<QByteArray> block = file.tags.value(IptcEncoding::blockTag());
-        command.assignments.append(block.isEmpty()
-                ? Assignment{ .tag = IptcEncoding::blockTag() }
-                : Assignment{ IptcEncoding::blockTag(), Assignment::Operation::restore, escaped(block.constFirst()) });
+        command.assignments.append(wholeOf(IptcEncoding::blockTag(), block));
     }
+    if (!isBlock)
+        return command;
+    command.assignments = Coordinates::inExif(command.assignments);
+    if (const QList<QByteArray> block = file.tags.value(xmpBlockTag()); block.isEmpty() || fitsArgument(block[0]))
+        command.assignments.append(wholeOf(xmpBlockTag(), block));
     return command;
 }
 

@@ -10,8 +10,11 @@
 
 #include <QFile>
 #include <QSet>
+#include <QTemporaryFile>
 
 #include <algorithm>
+#include <memory>
+#include <vector>
 
 namespace Quorbel::SaveUndo {
 
@@ -101,8 +104,10 @@ private:
                 m_outcome.changedSince.append(url);
                 continue;
             }
-            const WriteCommand command = JournalTags::restoreCommand(m_entry, file);
-            const QStringList key = arguments(command.assignments);
+            WriteCommand command = JournalTags::restoreCommand(m_entry, file);
+            if (const auto xmp = JournalTags::longXmp(m_entry, file))
+                command.options.append(u"-XMP<="_s + keepInFile(*xmp));
+            const QStringList key = command.options + arguments(command.assignments);
             const qsizetype at = known.value(key, portions.size());
             if (at == portions.size()) {
                 known.insert(key, at);
@@ -111,6 +116,15 @@ private:
             portions[at].targets.append(url);
         }
         return portions;
+    }
+
+    // What is too long for an argument; the path of a file that lasts as long as this attempt.
+    QString keepInFile(const QByteArray& bytes)
+    {
+        auto& file = m_long.emplace_back(std::make_unique<QTemporaryFile>());
+        if (!file->open() || file->write(bytes) != bytes.size() || !file->flush())
+            throw FileError(u"Cannot write"_s, QUrl::fromLocalFile(file->fileName()), file->errorString());
+        return file->fileName();
     }
 
     void write(const QList<SafeWriter::Portion>& portions)
@@ -190,6 +204,7 @@ private:
     const ExifToolRunner& m_runner;
     const JournalEntry& m_entry;
     UndoOutcome m_outcome;
+    std::vector<std::unique_ptr<QTemporaryFile>> m_long;
     QSet<QUrl> m_doubtful;  // of a run that failed
 };
 

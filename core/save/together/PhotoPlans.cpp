@@ -1,5 +1,7 @@
 #include "core/save/together/PhotoPlans.h"
 
+#include "core/iptc/IptcSchema.h"
+#include "core/iptc/StructureChange.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/journal/JournalTags.h"
 #include "core/save/together/DateCompanions.h"
@@ -34,6 +36,7 @@ EditPlan PhotoPlan::expected() const
 EditPlan PhotoPlan::whole() const
 {
     EditPlan whole = plan;
+    // Of structures, which are put back with all of XMP, the tags are enough.
     for (QMap<QString, QStringList>* some : { &whole.lists, &whole.removed })
         for (auto list = some->begin(); list != some->end(); ++list)
             if (const FieldSpec* field = FieldSchema::spec(list.key()))
@@ -79,7 +82,7 @@ struct Decided {
 void takeLanguages(Decided& decided, const FileTags& held)
 {
     const EditPlan& plan = decided.photo.plan;
-    for (const FieldSpec& field : FieldSchema::all()) {
+    for (const FieldSpec& field : FieldSchema::everyField()) {
         const QString prefix = field.languageTag() + u'-';
         if (!plan.scalars.contains(field.id) || field.languageTag().isEmpty())
             continue;
@@ -168,6 +171,33 @@ bool needLook(const QList<EditPlan>& plans)
     return std::any_of(plans.cbegin(), plans.cend(), [](const EditPlan& plan) {
         return touchesLists(plan) || !plan.paths.isEmpty() || writesDate(plan) || !languageTags(plan).isEmpty();
     });
+}
+
+QStringList structuresOf(const QList<EditPlan>& plans)
+{
+    QStringList ids;
+    for (const EditPlan& plan : plans)
+        if (!plan.leftOut.contains(u"XMP"_s))
+            for (const QString& id : plan.scalars.keys() + plan.iptcLists.keys())
+                if (const FieldSpec* field = IptcSchema::spec(id);
+                    field && field->kind == FieldKind::structure && !ids.contains(id))
+                    ids.append(id);
+    return ids;
+}
+
+void decideStructures(PhotoPlan& photo, const IptcValues& held)
+{
+    for (const QString& id : structuresOf({ photo.plan })) {
+        const FieldSpec& field = *IptcSchema::spec(id);
+        ListChange wanted = photo.plan.iptcLists.value(id);
+        if (const auto text = photo.plan.scalars.constFind(id); text != photo.plan.scalars.cend())
+            wanted.whole = QStringList(*text);
+        const StructureChange change = StructureChange::of(field, held.structures(id), wanted);
+        if (!change.problem.isEmpty())
+            photo.problem = change.problem;
+        photo.plan.together.insert(id, change.assignments);
+        photo.structures.insert(id, change.expected);
+    }
 }
 
 QHash<QUrl, PhotoPlan> decide(const QList<QUrl>& targets, const std::function<EditPlan(const QUrl&)>& planOf,

@@ -3,6 +3,7 @@
 // pure; decide() asks the file system for the files behind links.
 #pragma once
 
+#include "core/iptc/IptcValues.h"
 #include "core/save/EditPlan.h"
 #include "core/save/ListHomes.h"
 #include "core/save/journal/SaveUndo.h"
@@ -17,6 +18,10 @@ struct PhotoPlan {
     EditPlan plan{};  ///< what is written
     ListHomes::Change lists{};  ///< its preparation comes first, where the plan appends
     QMap<QString, QString> keptTexts{};  ///< texts in further languages that are there before and after
+    /// By id of fields of structures: what the photo holds afterwards.
+    QMap<QString, QStringList> structures{};
+    /// Why the photo cannot be saved without a loss; then nothing is to be written.
+    QString problem{};
     bool operator==(const PhotoPlan&) const = default;
 
     /// All that the photo is to hold afterwards.
@@ -33,6 +38,10 @@ QStringList tagsBefore(const QList<EditPlan>& plans);
 const QStringList& allTags();
 /// Whether something may belong together with the fields of these plans.
 bool needLook(const QList<EditPlan>& plans);
+/// Ids of the structures that they change, which are looked at in a run of their own (IptcRead).
+QStringList structuresOf(const QList<EditPlan>& plans);
+/// Decides what becomes of those, where `held` says what the photo holds of them.
+void decideStructures(PhotoPlan& photo, const IptcValues& held);
 
 /// `planOf`: the plan of a target. `before`: what the files behind the targets hold, in tagsBefore(); nothing when that
 /// could not be found out: then every language is kept that may be there. A field with languages keeps them in all

@@ -1,0 +1,239 @@
+// The further properties of the IPTC standard from the model's side: all of them typed, saved, read again and taken
+// back; structures that hold what nobody here knows; the same for several photos.
+#include "core/iptc/IptcSchema.h"
+#include "core/iptc/StructureText.h"
+#include "core/schema/FieldLanguages.h"
+#include "tests/app/model/ModelFixture.h"
+
+#include <QJsonArray>
+#include <QTest>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString item(const QByteArray& json)
+{
+    return StructureText::tidied(QString::fromUtf8(json));
+}
+
+// With every member, and what an argument of the tool has to escape.
+QString filled(const QString& structure, int depth = 0)
+{
+    QJsonObject object;
+    for (const StructureMember& member : IptcStructures::spec(structure)->members) {
+        QJsonValue value;
+        if (!member.structure.isEmpty())
+            value = StructureText::members(filled(member.structure, depth + 1));
+        else if (member.kind == FieldKind::number)
+            value = member.name == "GPSAltitudeRef" ? u"1"_s : u"12.5"_s;
+        else if (member.kind == FieldKind::date)
+            value = u"1889-06"_s;
+        else if (member.kind == FieldKind::code)
+            value = member.vocabulary == "telephoneType" ? u"work"_s
+                : member.vocabulary == "boundaryShape"   ? u"polygon"_s
+                : member.vocabulary == "boundaryUnit"    ? u"relative"_s
+                                                         : u"Asia"_s;
+        else
+            value = u"{%1, [a|b] é東"_s.arg(member.name);
+        object.insert(member.name, member.isSeveral ? QJsonValue(QJsonArray{ value, value }) : value);
+        if (member.hasLanguages)
+            object.insert(member.name + u"-de"_s, u"auf Deutsch"_s);
+    }
+    return StructureText::of(object);
+}
+
+struct Photos : ModelFixture {
+    Photos()
+        : ModelFixture(MetadataService{ realTool() })
+    {
+        services.journalPath = state.filePath(u"undo.json"_s);
+        lookAtDetails();
+        model->preferences().confirmMassEdit.set(false);
+        model->preferences().saveDontAsk.set(true);
+        model->preferences().backupOriginals.set(false);
+    }
+    bool knows(const QString& letters)
+    {
+        return QTest::qWaitFor(
+            [&] {
+                const QStringList names = jpgs(letters);
+                return std::all_of(
+                    names.cbegin(), names.cend(), [&](const QString& name) { return model->details(url(name)); });
+            },
+            20000);
+    }
+    bool save()
+    {
+        model->setErrorMessage(std::nullopt);
+        model->requestSave();
+        return waitUntilIdle();
+    }
+    bool undo()
+    {
+        model->undoSave();
+        return waitUntilIdle();
+    }
+    QByteArray xmp(const QString& name) const { return exiftool({ u"-b"_s, u"-XMP"_s, url(name).toLocalFile() }); }
+    QString banner() const { return model->errorMessage().value_or(QString()); }
+
+    QTemporaryDir state;
+};
+
+// What a user may have typed into every field.
+void fill(AppModel& model)
+{
+    const QMap<QString, QString> codes{ { u"digitalSource"_s,
+                                            u"http://cv.iptc.org/newscodes/digitalsourcetype/digitalCapture"_s },
+        { u"dataMining"_s, u"DMI-PROHIBITED"_s }, { u"modelRelease"_s, u"MR-UMR"_s },
+        { u"propertyRelease"_s, u"PR-LPR"_s }, { u"minorModelAge"_s, u"AG-A25"_s }, { u"subject"_s, u"15054000"_s } };
+    for (const FieldSpec& field : IptcSchema::all()) {
+        const QString text = field.kind == FieldKind::structure ? filled(field.structure)
+            : field.kind == FieldKind::code                     ? codes.value(field.vocabulary)
+            : field.kind == FieldKind::number                   ? u"4711"_s
+            : field.id == "iptc.countryCode"                    ? u"CH"_s
+                                                                : u"%1, ünïcode"_s.arg(field.label.left(15));
+        if (field.isList())
+            model.setItems(field.id, { text });
+        else
+            model.setSingle(field.id, text);
+        if (field.hasLanguages)
+            model.setSingle(FieldLanguages::key(field.id, u"de"_s), u"auf Deutsch"_s);
+    }
+}
+
+}  // namespace
+
+class tst_AppModelIptc : public QObject {
+    Q_OBJECT
+
+private slots:
+    void everyFieldIsSavedAndTakenBack();
+    void structuresOfOthers();
+    void severalPhotosGainStructures();
+};
+
+void tst_AppModelIptc::everyFieldIsSavedAndTakenBack()
+{
+    Photos photos;
+    photos.addTitled(jpgs(u"a"_s));
+    exiftool({ u"-overwrite_original"_s, u"-XMP-iptcExt:LocationShown={City=Rome}"_s, u"-XMP-dc:Title-fr=Un"_s,
+        u"-XMP-iptcCore:AltTextAccessibility-it=Qui"_s, photos.url(u"a.jpg"_s).toLocalFile() });
+    const QByteArray before = photos.xmp(u"a.jpg"_s);
+    QVERIFY(photos.open());
+    photos.select(u"a"_s);
+    QVERIFY(photos.knows(u"a"_s));
+    QCOMPARE(photos->draftLists().value(u"iptc.locationsShown"_s), QStringList{ item(R"({"City":"Rome"})") });
+    fill(*photos.model);
+    const auto values = photos->draftValues();
+    const auto lists = photos->draftLists();
+    QVERIFY(photos.save());
+    QCOMPARE(photos.banner(), QString());
+    QCOMPARE(photos->unsavedCount(), 0);
+
+    photos.relaunch();
+    QVERIFY(photos.open());
+    photos.select(u"a"_s);
+    QVERIFY(photos.knows(u"a"_s));
+    for (const FieldSpec& field : IptcSchema::all()) {
+        const StructureSpec* structure = IptcStructures::spec(field.structure);
+        const QStringList saved = field.isList() ? lists.value(field.id) : QStringList(values.value(field.id));
+        const QStringList read =
+            field.isList() ? photos->draftLists().value(field.id) : QStringList(photos->draftValues().value(field.id));
+        if (structure)
+            QVERIFY2(StructureText::areSame(*structure, read, saved),
+                qPrintable(field.id + u'\n' + saved.join(u' ') + u'\n' + read.join(u' ')));
+        else
+            QCOMPARE(read, saved);
+    }
+    QCOMPARE(photos->draftValues().value(u"iptc.altText@it"_s), u"Qui"_s);
+
+    QVERIFY(photos.undo());
+    QCOMPARE(photos.banner(), QString());
+    QCOMPARE(photos.xmp(u"a.jpg"_s), before);
+}
+
+// A program that knows more than the standard: what it put into a structure is either kept, or the photo is left alone.
+void tst_AppModelIptc::structuresOfOthers()
+{
+    const QByteArray foreign = "<x:xmpmeta xmlns:x='adobe:ns:meta/'>"
+                               "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description "
+                               "rdf:about='' xmlns:e='http://iptc.org/std/Iptc4xmpExt/2008-02-29/' "
+                               "xmlns:o='http://example.org/o/'><e:LocationShown><rdf:Bag>"
+                               "<rdf:li rdf:parseType='Resource'><e:City>Rome</e:City><o:Mood>calm</o:Mood></rdf:li>"
+                               "<rdf:li rdf:parseType='Resource'><e:City>Bern</e:City></rdf:li>"
+                               "</rdf:Bag></e:LocationShown></rdf:Description></rdf:RDF></x:xmpmeta>";
+    Photos photos;
+    photos.addTitled(jpgs(u"a"_s));
+    const QUrl other = QUrl::fromLocalFile(photos.state.filePath(u"other.xmp"_s));
+    QFile file(other.toLocalFile());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(foreign) == foreign.size());
+    file.close();
+    exiftool(
+        { u"-overwrite_original"_s, u"-XMP<=%1"_s.arg(other.toLocalFile()), photos.url(u"a.jpg"_s).toLocalFile() });
+    QVERIFY(photos.open());
+    photos.select(u"a"_s);
+    QVERIFY(photos.knows(u"a"_s));
+    const QString id = u"iptc.locationsShown"_s;
+    QStringList items = photos->draftLists().value(id);
+    QCOMPARE(items.size(), 2);
+    QVERIFY2(items.constFirst().contains(u"calm"_s), qPrintable(items.constFirst()));
+
+    // Another one beside it, and one more.
+    items[1] = item(R"({"City":"Basel"})");
+    photos->setItems(id, items);
+    QVERIFY(photos.save());
+    QCOMPARE(photos.banner(), QString());
+    QVERIFY(photos.knows(u"a"_s));
+    items.append(item(R"({"City":"Chur"})"));
+    photos->setItems(id, items);
+    QVERIFY(photos.save());
+    QCOMPARE(photos.banner(), QString());
+    const QByteArray xmp = photos.xmp(u"a.jpg"_s);
+    QVERIFY(xmp.contains("calm") && xmp.contains("Basel") && xmp.contains("Chur") && !xmp.contains("Bern"));
+
+    // The one that holds it.
+    items[0].replace(u"Rome"_s, u"Roma"_s);
+    photos->setItems(id, items);
+    QVERIFY(photos.save());
+    QVERIFY2(photos.banner().contains(u"Mood"_s), qPrintable(photos.banner()));
+    QCOMPARE(photos->unsavedCount(), 1);
+    QCOMPARE(photos.xmp(u"a.jpg"_s), xmp);
+}
+
+void tst_AppModelIptc::severalPhotosGainStructures()
+{
+    Photos photos;
+    photos.addTitled(jpgs(u"abc"_s));
+    const auto hold = [&](const QString& name, const QStringList& tags) {
+        exiftool(QStringList{ u"-overwrite_original"_s } + tags << photos.url(name).toLocalFile());
+    };
+    hold(u"a.jpg"_s, { u"-XMP-iptcExt:LocationShown={City=Rome}"_s, u"-XMP-iptcExt:LocationShown={City=Bern}"_s });
+    hold(u"b.jpg"_s, { u"-XMP-iptcExt:LocationShown={City=Bern,CountryName=Schweiz}"_s });
+    QVERIFY(photos.open());
+    photos.select(u"abc"_s);
+    QVERIFY(photos.knows(u"abc"_s));
+    photos->setItems(u"iptc.locationsShown"_s, { item(R"({"City":"Bern"})") });
+    photos->setBatch(u"iptc.contact"_s, item(R"({"CiEmailWork":"a@b.example, c@d.example"})"));
+    photos->addBatchListItem(u"iptc.organisationNames"_s, u"UN"_s);
+    photos->setBatch(u"iptc.dataMining"_s, u"DMI-PROHIBITED"_s);
+    QVERIFY(photos.save());
+    QCOMPARE(photos.banner(), QString());
+    QCOMPARE(photos->unsavedCount(), 0);
+    QVERIFY(photos.knows(u"abc"_s));
+    const QString bern = item(R"({"City":"Bern"})");
+    const QMap<QString, QStringList> expected{ { u"a.jpg"_s, { item(R"({"City":"Rome"})"), bern } },
+        { u"b.jpg"_s, { item(R"({"City":"Bern","CountryName":"Schweiz"})"), bern } }, { u"c.jpg"_s, { bern } } };
+    for (auto photo = expected.cbegin(); photo != expected.cend(); ++photo) {
+        QTRY_COMPARE(photos->details(photos.url(photo.key()))->lists.value(u"iptc.locationsShown"_s), *photo);
+        const PhotoDetails details = *photos->details(photos.url(photo.key()));
+        QCOMPARE(details.texts.value(u"iptc.dataMining"_s), u"DMI-PROHIBITED"_s);
+        QCOMPARE(details.texts.value(u"iptc.contact"_s), item(R"({"CiEmailWork":"a@b.example, c@d.example"})"));
+        QCOMPARE(details.lists.value(u"iptc.organisationNames"_s), QStringList{ u"UN"_s });
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_AppModelIptc)
+#include "tst_AppModelIptc.moc"
