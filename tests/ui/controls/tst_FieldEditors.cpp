@@ -1,7 +1,5 @@
 #include "tests/ui/UiSupport.h"
-#include "ui/controls/pickers/ChoiceList.h"
 #include "ui/controls/FlowLayout.h"
-#include "ui/controls/pickers/OffsetPicker.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/SuggestionList.h"
 #include "ui/controls/TextFields.h"
@@ -10,6 +8,8 @@
 #include "ui/controls/attached/SearchMenu.h"
 #include "ui/controls/keywords/KeywordChip.h"
 #include "ui/controls/keywords/KeywordEditor.h"
+#include "ui/controls/pickers/ChoiceList.h"
+#include "ui/controls/pickers/OffsetPicker.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/tokens/TokenEdit.h"
 
@@ -200,6 +200,21 @@ private slots:
         QCOMPARE(toldOfArea.constLast().constFirst(), text);
         QCOMPARE(typed(keywords->entry(), keys), text);
         QCOMPARE(typed(tokens, keys), text);
+    }
+
+    // With a letter beside it or without: it lies in the middle of its line, and all of it is seen.
+    void tokenAloneInItsLine()
+    {
+        Test::Stage stage;
+        auto* alone = stage.add(new TokenEdit(false));
+        auto* beside = stage.add(new TokenEdit(false));
+        stage.show();
+        const TokenEditPiece token{ {}, InlineToken{ u"Place"_s, {}, u"%Place%"_s } };
+        alone->setPieces({ token });
+        beside->setPieces({ token, { u" g"_s, {} } });
+        QCOMPARE(alone->height(), beside->height());
+        const QRect chip(0, 0, 50, alone->height());
+        QCOMPARE(alone->grab(chip).toImage(), beside->grab(chip).toImage());
     }
 
     // Some input methods hand over each letter, some whole words; what is only composed is not typed yet.

@@ -66,14 +66,15 @@ public:
             px(lineHeight) - belowFoot() };
     }
 
-    void drawObject(
-        QPainter* painter, const QRectF& rect, QTextDocument*, int position, const QTextFormat& format) override
+    void drawObject(QPainter* painter, const QRectF& rect, QTextDocument* document, int position,
+        const QTextFormat& format) override
     {
         const InlineToken token = tokenIn(format);
         const Theme& theme = Theme::of(m_edit);
         const bool isSelected = m_edit->selectedToken() == position;
-        const QRectF chip(rect.left() + pxF(chipMargin), rect.bottom() + belowFoot() - pxF(chipHeight),
-            rect.width() - 2 * pxF(chipMargin), pxF(chipHeight));
+        const qreal lineEnd = rect.bottom() + qMin(belowFoot(), belowFoot(*document, position));
+        const QRectF chip(rect.left() + pxF(chipMargin), lineEnd - pxF(chipHeight), rect.width() - 2 * pxF(chipMargin),
+            pxF(chipHeight));
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
         paintBox(*painter, chip, pxF(6), isSelected ? theme.sel : theme.btn,
@@ -95,6 +96,12 @@ public:
 
 private:
     static qreal belowFoot() { return std::ceil(QFontMetricsF(verbatimFont(13)).descent()); }
+    // Of the line in which this stands: nothing where there is no letter beside it.
+    static qreal belowFoot(const QTextDocument& document, int position)
+    {
+        const QTextBlock block = document.findBlock(position);
+        return std::ceil(block.layout()->lineForTextPosition(position - block.position()).descent());
+    }
 
     TokenEdit* m_edit;
 };
