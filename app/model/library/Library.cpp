@@ -398,7 +398,7 @@ void Library::follow(std::unique_ptr<PhotoReading> reading)
 void Library::takeRead(const QList<ImageRecord>& records, const QList<QUrl>& unreadable)
 {
     const Announcer::Together together(m_announcer);
-    m_photos.fill(records);
+    const QList<QUrl> changed = m_photos.fill(records);
     m_details.outdate(urlsOf(records));
     QList<int> positions;
     for (const QUrl& photo : unreadable)
@@ -407,8 +407,8 @@ void Library::takeRead(const QList<ImageRecord>& records, const QList<QUrl>& unr
     std::sort(positions.begin(), positions.end());
     for (const QUrl& photo : m_reading->tooSlow())
         m_refresh.leaveAlone(photo);
-    if (!records.isEmpty())
-        emit read(urlsOf(records));
+    if (!changed.isEmpty())
+        emit read(changed);
     if (!positions.isEmpty())
         emit this->unreadable(positions);
 }

@@ -72,7 +72,7 @@ signals:
     void opened();
     /// Further ones are.
     void added();
-    /// These were read, and are in the list as they are now.
+    /// These were read, and are in the list as they are now. What was read again and is as before is not among them.
     void read(const QList<QUrl>& photos);
     /// These cannot be read (positions, ascending). Whoever hears it takes them out of the list.
     void unreadable(const QList<int>& positions);

@@ -207,26 +207,30 @@ bool PhotoList::replaceSaved(QList<ImageRecord> fresh)
 
 bool PhotoList::replace(const QList<ImageRecord>& fresh)
 {
-    if (!putAll(m_creationDates.applied(fresh)))
+    if (putAll(m_creationDates.applied(fresh)).isEmpty())
         return false;
     contentChanged(true, false);
     return true;
 }
 
-bool PhotoList::fill(const QList<ImageRecord>& fresh)
+QList<QUrl> PhotoList::fill(const QList<ImageRecord>& fresh)
 {
     const bool areUnread = std::all_of(fresh.cbegin(), fresh.cend(), [this](const ImageRecord& photo) {
         const ImageRecord* before = record(photo.url);
         return !before || before->isUnread;
     });
-    if (!putAll(m_creationDates.applied(fresh)))
-        return false;
+    const QList<int> changed = putAll(m_creationDates.applied(fresh));
+    if (changed.isEmpty())
+        return {};
+    QList<QUrl> urls;
+    for (const int at : changed)
+        urls.append(m_open.records.at(at).url);
     contentChanged(!areUnread, false);
-    return true;
+    return urls;
 }
 
-// Each in the place of the one with its URL; whether any differed.
-bool PhotoList::putAll(const QList<ImageRecord>& fresh)
+// Each in the place of the one with its URL; where any differed.
+QList<int> PhotoList::putAll(const QList<ImageRecord>& fresh)
 {
     QList<int> changed;
     for (const ImageRecord& record : fresh) {
@@ -237,11 +241,11 @@ bool PhotoList::putAll(const QList<ImageRecord>& fresh)
         changed.append(at);
     }
     if (changed.isEmpty())
-        return false;
+        return changed;
     m_open.index.replace(changed, m_open.records);
     for (const int at : std::as_const(changed))
         markText(at);
-    return true;
+    return changed;
 }
 
 void PhotoList::remove(const QList<int>& positions)

@@ -93,9 +93,9 @@ public:
     QList<QUrl> firstOnScreen(OpenPhotos& photos, qsizetype most) const;
     /// Puts each record in the place of the one with its URL; one that is not open is ignored. Whether any differed.
     bool replace(const QList<ImageRecord>& fresh);
-    /// The same for what a load has read. Where all of it was unread before, what is held of the others stays as it is
-    /// (heldSerial()).
-    bool fill(const QList<ImageRecord>& fresh);
+    /// The same for what a load has read; which ones differed. Where all of it was unread before, what is held of the
+    /// others stays as it is (heldSerial()).
+    QList<QUrl> fill(const QList<ImageRecord>& fresh);
     /// The same for photos that a save of ours has just written: they stay where they were in order of creation.
     bool replaceSaved(QList<ImageRecord> fresh);
     /// Positions ascending.
@@ -113,7 +113,7 @@ public:
 
 private:
     void keepCreationDates();
-    bool putAll(const QList<ImageRecord>& fresh);
+    QList<int> putAll(const QList<ImageRecord>& fresh);
     void put(int position, const ImageRecord& record);
     void traitsChanged(PhotoTrait trait);
     void markText(int position);

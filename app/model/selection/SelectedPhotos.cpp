@@ -161,7 +161,7 @@ bool SelectedPhotos::holds(const QString& id) const
 void SelectedPhotos::takeRead(const QList<QUrl>& photos)
 {
     forgetIfOutdated();
-    // Such as are read again were counted among the read ones.
+    // Where one was read before, the list counts as another one.
     if (!m_summary || m_summary->unread == 0)
         return;
     for (const QUrl& photo : photos) {

@@ -112,6 +112,7 @@ private slots:
     void batchShrinksToAnUnreadPhoto();
     void changedDuringItsRead();
     void readAgain();
+    void halfOfThemReadAgain();
 };
 
 void tst_AppModelReading::listedAtOnce()
@@ -456,6 +457,23 @@ void tst_AppModelReading::readAgain()
     QCOMPARE(f->unreadSelected(), 0);
     QCOMPARE(f->unsavedCount(), 1);
     QCOMPARE(f.primary(), u"a05.jpg"_s);
+}
+
+// Those that were read before are not counted among those that come.
+void tst_AppModelReading::halfOfThemReadAgain()
+{
+    ManyPhotos f;
+    QVERIFY(f.openHalf());
+    f->cancelRead();
+    QVERIFY(f.waitUntilIdle());
+    f.release();
+    QVERIFY(f.reach(u"a05.jpg"_s));
+    f->selectAllPhotos();
+    QVERIFY(f->unreadSelected() > 60 && f->unreadSelected() == f.unread());
+    f->readAgain();
+    QVERIFY(QTest::qWaitFor([&f] { return f.unread() == 0; }, 30000) && f.waitUntilIdle());
+    QCOMPARE(f->unreadSelected(), 0);
+    QCOMPARE(f->sharedValue(u"title"_s), std::nullopt);
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelReading)
