@@ -3,12 +3,26 @@
 #include "app/model/AppModel.h"
 
 #include <QFileInfo>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Reading that takes no longer than this needs no word.
+constexpr std::chrono::milliseconds unnoticed{ 600 };
+
+QString waitingText()
+{
+    return u"The unsaved changes come back as soon as their photos are read."_s;
+}
+
+}  // namespace
 
 QList<ImageRecord> AppModel::selectedRecords() const
 {
@@ -59,6 +73,8 @@ void AppModel::changeSelection(const Selection& next)
 void AppModel::commitSelection(const Selection& next)
 {
     m_lastSaveFailed = false;
+    if (!m_toBringBack && m_errorMessage == waitingText())
+        setErrorMessage(std::nullopt);
     if (next.photos != selection())
         giveUpAgreeing();
     m_editing.leave();
@@ -174,6 +190,10 @@ void AppModel::awaitBringBack(const LeftEdits& left)
         return bringBack(left);
     m_toBringBack = left;
     m_library.require(unread);
+    QTimer::singleShot(unnoticed, this, [this] {
+        if (m_toBringBack)
+            setErrorMessage(waitingText());
+    });
 }
 
 // --- Edits that were left behind ---
@@ -197,6 +217,8 @@ void AppModel::bringBack(int position)
 void AppModel::bringBack(const LeftEdits& left)
 {
     const Announcer::Together together(m_announcer);
+    if (m_errorMessage == waitingText())
+        setErrorMessage(std::nullopt);
     QSet<QUrl> open;
     QSet<QUrl> gone;
     for (const QUrl& photo : left.edits.subjects)

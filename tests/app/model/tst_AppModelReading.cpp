@@ -406,8 +406,10 @@ void tst_AppModelReading::editsReturnToAnUnreadPhoto()
         { u"-overwrite_original"_s, u"-keywords=theirs"_s, u"-XMP-dc:Subject=theirs"_s, f.folder.path(u"a05.jpg"_s) });
     QVERIFY(f.openHalf());
     f->bringBack(0);
+    QTRY_COMPARE(f->errorMessage(), u"The unsaved changes come back as soon as their photos are read."_s);
     f.release();
     QVERIFY(QTest::qWaitFor([&f] { return f->unsavedCount() == 2; }, 30000));
+    QCOMPARE(f->errorMessage(), std::nullopt);
     QCOMPARE(f.primary(), u"a05.jpg"_s);
     QCOMPARE(f->draftLists().value(u"keywords"_s), (QStringList{ u"theirs"_s, u"mine"_s }));
     QVERIFY(f.waitUntilIdle());
