@@ -152,7 +152,7 @@ const QList<FieldSpec>& all()
             .vocabulary = u"subject"_s,
             .standard = u"Subject Code (legacy), Core 1.0 (2005) to 1.1 (2008)"_s },
         { .id = u"iptc.aboutTerms"_s,
-            .label = u"Terms"_s,
+            .label = u"Subject terms"_s,
             .kind = FieldKind::structure,
             .section = FieldSection::subjects,
             .writeTags = { u"XMP-iptcExt:AboutCvTerm"_s },
@@ -163,7 +163,7 @@ const QList<FieldSpec>& all()
             .structure = u"CvTerm"_s,
             .standard = u"CV-Term About Image, Ext 1.2 (2014)"_s },
         { .id = u"iptc.genreTerms"_s,
-            .label = u"Genres"_s,
+            .label = u"Genre terms"_s,
             .kind = FieldKind::structure,
             .section = FieldSection::subjects,
             .writeTags = { u"XMP-iptcExt:Genre"_s },
@@ -460,6 +460,41 @@ const FieldSpec* spec(const QString& id)
         return known;
     }();
     return known.value(id);
+}
+
+QString standardName(const FieldSpec& field)
+{
+    return field.standard.section(u", "_s, 0, 0);
+}
+
+const QMap<QString, QString>& inFixedCatalogue()
+{
+    static const QMap<QString, QString> fields{
+        { u"City (legacy)"_s, u"place"_s },
+        { u"Copyright Notice"_s, u"copyright"_s },
+        { u"Country (legacy)"_s, u"country"_s },
+        { u"Creator"_s, u"creator"_s },
+        { u"Credit Line"_s, u"credit"_s },
+        { u"Date Created"_s, u"date"_s },
+        { u"Description"_s, u"description"_s },
+        { u"Description Writer"_s, u"captionWriter"_s },
+        { u"Event Name"_s, u"event"_s },
+        { u"Headline"_s, u"headline"_s },
+        { u"Image Rating"_s, u"rating"_s },
+        { u"Instructions"_s, u"instructions"_s },
+        { u"Intellectual Genre (legacy)"_s, u"genre"_s },
+        { u"Job Id"_s, u"jobId"_s },
+        { u"Keywords"_s, u"keywords"_s },
+        { u"Person Shown in the Image"_s, u"people"_s },
+        { u"Province or State (legacy)"_s, u"state"_s },
+        { u"Rights Usage Terms"_s, u"usageTerms"_s },
+        { u"Scene Code"_s, u"scene"_s },
+        { u"Source (Supply Chain)"_s, u"source"_s },
+        { u"Sublocation (legacy)"_s, u"sublocation"_s },
+        { u"Title"_s, u"title"_s },
+        { u"Web Statement of Rights"_s, u"webStatement"_s },
+    };
+    return fields;
 }
 
 QStringList readTags()

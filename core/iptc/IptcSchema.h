@@ -7,6 +7,7 @@
 #include "core/schema/FieldSpec.h"
 
 #include <QList>
+#include <QMap>
 
 namespace Quorbel::IptcSchema {
 
@@ -17,6 +18,10 @@ const QList<FieldSpec>& all();
 bool isId(const QString& key);
 /// The pointer stays valid for ever; nothing for any other id.
 const FieldSpec* spec(const QString& id);
+/// What the standard calls a field of all(): "Alt Text (Accessibility)".
+QString standardName(const FieldSpec& field);
+/// The other 23 properties: what the standard calls each, and the id of the field of FieldSchema that it is.
+const QMap<QString, QString>& inFixedCatalogue();
 /// What the details run asks for, beside the languages of texts.
 QStringList readTags();
 /// Whether ExifTool takes values of this tag by the code alone ("-TAG#=").

@@ -200,9 +200,4 @@ const StructureMember* member(const StructureSpec& structure, const QString& nam
     return found == structure.members.cend() ? nullptr : &*found;
 }
 
-QString flatTag(const QString&, const QString&)
-{
-    return {};
-}
-
 }  // namespace Quorbel::IptcStructures

@@ -35,6 +35,10 @@ const QList<StructureSpec>& all();
 const StructureSpec* spec(const QString& name);
 /// The member of this name, also where a language stands behind it ("AOTitle-de"); nothing when there is none.
 const StructureMember* member(const StructureSpec& structure, const QString& name);
+/// The tag that reaches a member of a field's structures by itself: "XMP-iptcExt:LocationShownCity". Members of
+/// structures within have their path ("RegionBoundary.RbX"), languages stand behind ("AOTitle-de"). "" where there is
+/// none. A value given to it goes to the first item of several that has the member.
+QString flatTag(const QString& fieldId, const QString& member);
 
 /// The tag that stands for one member, where a field holds one structure only: "XMP-iptcExt:LocationShownCity". "" for
 /// a member that has none.
