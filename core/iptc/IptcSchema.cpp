@@ -512,4 +512,9 @@ bool isWrittenByCode(const QString& tag)
     return tags.contains(tag);
 }
 
+QString storedIn(const QString& tag, const QString& code)
+{
+    return tag == u"IPTC:SubjectReference" && !code.contains(u':') ? u"IPTC:%1:::"_s.arg(code) : code;
+}
+
 }  // namespace Quorbel::IptcSchema

@@ -26,5 +26,8 @@ const QMap<QString, QString>& inFixedCatalogue();
 QStringList readTags();
 /// Whether ExifTool takes values of this tag by the code alone ("-TAG#=").
 bool isWrittenByCode(const QString& tag);
+/// What a tag is given for a code: IPTC's older block wants subjects as "IPTC:01000000:::", and the tool fills anything
+/// shorter up with blanks. All other tags take the code.
+QString storedIn(const QString& tag, const QString& code);
 
 }  // namespace Quorbel::IptcSchema

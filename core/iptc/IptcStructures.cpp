@@ -119,7 +119,7 @@ const QList<StructureSpec>& all()
                 { .name = u"GPSAltitude"_s, .label = u"Altitude (m)"_s, .kind = FieldKind::number },
                 { .name = u"GPSAltitudeRef"_s, .label = u"Below sea level"_s, .kind = FieldKind::number },
             },
-            .titleMembers = { u"LocationName"_s, u"Sublocation"_s, u"City"_s, u"ProvinceState"_s, u"CountryName"_s } },
+            .titleMembers = { u"LocationName"_s, u"City"_s, u"ProvinceState"_s, u"CountryName"_s } },
         { .name = u"PersonWDetails"_s, .item = u"person"_s, .items = u"people"_s,
             .members = {
                 { .name = u"PersonName"_s, .label = u"Name"_s, .hasLanguages = true },

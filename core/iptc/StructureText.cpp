@@ -1,5 +1,6 @@
 #include "core/iptc/StructureText.h"
 
+#include "core/iptc/Vocabularies.h"
 #include "core/text/Text.h"
 
 #include <QJsonArray>
@@ -84,7 +85,9 @@ QJsonValue tidy(const QJsonValue& value)
                 array.append(inner);
         return array;
     }
-    return value.isDouble() ? QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest) : value;
+    if (value.isBool())
+        return value.toBool() ? u"true"_s : u"false"_s;
+    return value.isDouble() ? Text::shortestForm(value.toDouble()) : value;
 }
 
 // --- As an argument ---
@@ -114,11 +117,13 @@ QString valueArgument(const StructureMember& member, const QJsonValue& value)
     if (value.isArray()) {
         QStringList items;
         for (const QJsonValue& item : value.toArray())
-            items.append(valueArgument(member, item));
-        return u'[' + items.join(u',') + u']';
+            if (const QString one = valueArgument(member, item); !one.isEmpty())
+                items.append(one);
+        return items.isEmpty() ? QString() : u'[' + items.join(u',') + u']';
     }
-    const StructureSpec* inner = IptcStructures::spec(member.structure);
-    return inner && value.isObject() ? objectArgument(*inner, value.toObject()) : escaped(value.toString());
+    if (const StructureSpec* inner = IptcStructures::spec(member.structure))
+        return objectArgument(*inner, value.toObject());
+    return escaped(value.toString());
 }
 
 QString objectArgument(const StructureSpec& structure, const QJsonObject& object)
@@ -126,10 +131,10 @@ QString objectArgument(const StructureSpec& structure, const QJsonObject& object
     QStringList members;
     for (auto one = object.begin(); one != object.end(); ++one) {
         const StructureMember* member = IptcStructures::member(structure, one.key());
-        if (!member)
-            continue;
-        const QString name = isWrittenAsStored(*member) ? one.key() + u'#' : one.key();
-        members.append(name + u'=' + valueArgument(*member, *one));
+        const QString value = member ? valueArgument(*member, *one) : QString();
+        const QString name = member && isWrittenAsStored(*member) ? one.key() + u'#' : one.key();
+        if (!value.isEmpty())
+            members.append(name + u'=' + value);
     }
     return members.isEmpty() ? QString() : u'{' + members.join(u',') + u'}';
 }
@@ -144,7 +149,8 @@ void collectForeign(const StructureSpec& structure, const QJsonValue& value, con
     for (auto one = object.begin(); one != object.end(); ++one) {
         const StructureMember* member = IptcStructures::member(structure, one.key());
         const StructureSpec* inner = member ? IptcStructures::spec(member->structure) : nullptr;
-        if (!member || (!inner && one->isObject()))
+        const QJsonValue first = one->isArray() ? one->toArray().first() : *one;
+        if (!member || first.isObject() != (inner != nullptr))
             found.append(path + one.key());
         else if (inner)
             collectForeign(*inner, *one, path + one.key() + u'.', found);
@@ -158,6 +164,8 @@ constexpr double tolerance = 1e-6;
 
 bool isSameText(const StructureMember* member, const QString& a, const QString& b)
 {
+    if (member && member->kind == FieldKind::date)
+        return typedDate(a) == typedDate(b);
     if (a == b || !member || member->kind != FieldKind::number)
         return a == b;
     const auto first = Text::parseDouble(a);
@@ -167,11 +175,17 @@ bool isSameText(const StructureMember* member, const QString& a, const QString& 
 
 bool isSameObject(const StructureSpec* structure, const QJsonObject& a, const QJsonObject& b);
 
+// One item of several may stand by itself.
+QJsonArray itemsOf(const QJsonValue& value)
+{
+    return value.isArray() ? value.toArray() : QJsonArray{ value };
+}
+
 bool isSameValue(const StructureMember* member, const QJsonValue& a, const QJsonValue& b)
 {
-    if (a.isArray() && b.isArray()) {
-        const QJsonArray first = a.toArray();
-        const QJsonArray second = b.toArray();
+    if (a.isArray() || b.isArray()) {
+        const QJsonArray first = itemsOf(a);
+        const QJsonArray second = itemsOf(b);
         return std::equal(first.begin(), first.end(), second.begin(), second.end(),
             [member](const QJsonValue& one, const QJsonValue& other) { return isSameValue(member, one, other); });
     }
@@ -195,23 +209,42 @@ QString shown(const StructureMember* member, const QJsonValue& value)
     if (value.isArray()) {
         QStringList texts;
         for (const QJsonValue& item : value.toArray())
-            texts.append(shown(member, item));
+            if (const QString one = shown(member, item); !one.isEmpty())
+                texts.append(one);
         return texts.join(u", "_s);
     }
     const StructureSpec* inner = member ? IptcStructures::spec(member->structure) : nullptr;
     return inner && value.isObject() ? title(*inner, of(value.toObject())) : value.toString();
 }
 
+// The first line of a member; where it comes in other languages only, of the first of these. Codes by their names.
+QString titleOf(const StructureSpec& structure, const QJsonObject& object, const QString& name)
+{
+    const StructureMember* member = find(&structure, name);
+    QString text = shown(member, object.value(name));
+    for (auto one = object.begin(); text.isEmpty() && member && member->hasLanguages && one != object.end(); ++one)
+        if (find(&structure, one.key()) == member)
+            text = shown(member, *one);
+    if (member && member->kind == FieldKind::code)
+        text = Vocabularies::nameOf(member->vocabulary, text);
+    return Text::trimmedWithNewlines(text).section(u'\n', 0, 0);
+}
+
+// Where no title member is there: the first that is, in the order of the table, then one that the table does not know.
 QStringList titles(const StructureSpec& structure, const QString& text)
 {
     const QJsonObject object = members(text);
     QStringList found;
     for (const QString& name : structure.titleMembers)
-        if (const QString one = shown(find(&structure, name), object.value(name)); !one.isEmpty())
-            found.append(Text::trimmedWithNewlines(one).section(u'\n', 0, 0));
-    for (auto one = object.begin(); found.isEmpty() && one != object.end(); ++one)
-        if (const QString first = shown(find(&structure, one.key()), *one); !first.isEmpty())
-            found.append(first);
+        if (const QString one = titleOf(structure, object, name); !one.isEmpty())
+            found.append(one);
+    QStringList others;
+    for (const StructureMember& member : structure.members)
+        others.append(member.name);
+    others += object.keys();
+    for (const QString& name : others)
+        if (const QString one = titleOf(structure, object, name); found.isEmpty() && !one.isEmpty())
+            found.append(one);
     return found;
 }
 
