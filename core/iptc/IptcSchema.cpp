@@ -514,7 +514,8 @@ bool isWrittenByCode(const QString& tag)
 
 QString storedIn(const QString& tag, const QString& code)
 {
-    return tag == u"IPTC:SubjectReference" && !code.contains(u':') ? u"IPTC:%1:::"_s.arg(code) : code;
+    static const QString reference = u"IPTC:SubjectReference"_s;
+    return tag == reference && !code.contains(u':') ? u"IPTC:%1:::"_s.arg(code) : code;
 }
 
 }  // namespace Quorbel::IptcSchema

@@ -40,10 +40,6 @@ const StructureMember* member(const StructureSpec& structure, const QString& nam
 /// none. A value given to it goes to the first item of several that has the member.
 QString flatTag(const QString& fieldId, const QString& member);
 
-/// The tag that stands for one member, where a field holds one structure only: "XMP-iptcExt:LocationShownCity". "" for
-/// a member that has none.
-QString flatTag(const QString& fieldId, const QString& member);
-
 }  // namespace IptcStructures
 
 }  // namespace Quorbel

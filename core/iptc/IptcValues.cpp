@@ -3,8 +3,9 @@
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/IptcStructures.h"
 #include "core/iptc/StructureText.h"
+#include "core/iptc/Vocabularies.h"
 
-#include <QHash>
+#include <QRegularExpression>
 
 namespace Quorbel {
 
@@ -25,11 +26,15 @@ QStringList structureTexts(const StructureSpec& structure, const JSONValue& read
     return texts;
 }
 
-// Without a definition the tool reads the address of a code of PLUS where it knows the others by the code alone.
-QString code(const QString& text)
+// Without a definition the tool reads the address of a code of PLUS where it knows the others by the code alone, and
+// IPTC's older block has subjects in a form of its own. What is in no vocabulary stays as it is.
+QString code(const QString& vocabulary, const QString& text)
 {
-    static const QString plus = u"http://ns.useplus.org/ldf/vocab/"_s;
-    return text.startsWith(plus) ? text.sliced(plus.size()) : text;
+    if (const VocabularyTerm* term = Vocabularies::term(vocabulary, text))
+        return term->code;
+    static const QRegularExpression reference(u"^IPTC:(\\d{8}):"_s);
+    const auto match = reference.match(text);
+    return match.hasMatch() ? match.captured(1) : text;
 }
 
 QStringList itemsOf(const FieldSpec& field, const JSONValue& read)
@@ -39,7 +44,7 @@ QStringList itemsOf(const FieldSpec& field, const JSONValue& read)
     QStringList items = read.stringArray();
     if (field.kind == FieldKind::code)
         for (QString& item : items)
-            item = code(item);
+            item = code(field.vocabulary, item);
     items.removeAll(QString());
     return items;
 }

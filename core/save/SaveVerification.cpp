@@ -196,12 +196,17 @@ bool holdsChange(const FieldSpec& field, const ListChange& change, const QString
         if (!TagHomes::holds(fileType, tag))
             return true;
         const QStringList found = TagHomes::itemsOf(tag, stored);
+        const auto inTag = [&tag](QStringList items) {
+            for (QString& item : items)
+                item = IptcSchema::storedIn(tag, item);
+            return items;
+        };
         const EditPlan replacing;
         const EditPlan appending{ .listMode = MetadataWriter::ListMode::append };
-        const bool holdsWhole = !change.whole || sameList(replacing, *change.whole + change.added, found);
-        return holdsWhole && sameList(appending, change.added, found)
+        const bool holdsWhole = !change.whole || sameList(replacing, inTag(*change.whole + change.added), found);
+        return holdsWhole && sameList(appending, inTag(change.added), found)
             && std::none_of(change.removed.cbegin(), change.removed.cend(),
-                [&found](const QString& item) { return found.contains(item); });
+                [&](const QString& item) { return found.contains(IptcSchema::storedIn(tag, item)); });
     });
 }
 

@@ -144,12 +144,17 @@ QList<Assignment> iptcArgs(const FieldSpec& field, const ListChange& change)
     if (field.kind == FieldKind::structure)
         return structureArgs(field, change);
     QList<Assignment> args;
-    if (change.whole)
-        return listArgs(field, *change.whole + change.added, ListMode::replace);
-    args += listArgs(field, change.added, ListMode::append);
-    for (const QString& tag : field.writeTags)
-        for (const QString& item : change.removed)
-            args.append({ tag, Assignment::Operation::remove, item });
+    if (change.whole) {
+        args = listArgs(field, *change.whole + change.added, ListMode::replace);
+    } else {
+        args = listArgs(field, change.added, ListMode::append);
+        for (const QString& tag : field.writeTags)
+            for (const QString& item : change.removed)
+                args.append({ tag, Assignment::Operation::remove, item });
+    }
+    for (Assignment& assignment : args)
+        if (field.kind == FieldKind::code && !assignment.value.isEmpty())
+            assignment.value = IptcSchema::storedIn(assignment.tag, assignment.value);
     return args;
 }
 
