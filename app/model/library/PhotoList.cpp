@@ -310,7 +310,7 @@ void PhotoList::rename(const NewNames& names)
         if (m_open.files)
             m_open.files->note(photo);
     }
-    m_open.index.replace(positions, m_open.records);
+    m_open.index.rename(positions, m_open.records);
     // All hold what they held, in their places.
     contentChanged(false, true);
 }

@@ -22,11 +22,6 @@ bool isByDate(RecordSortOrder order)
     return order == RecordSortOrder::dateNewest || order == RecordSortOrder::dateOldest;
 }
 
-std::optional<qint64> createdAt(const ImageRecord& record)
-{
-    return record.creationDate ? std::optional(record.creationDate->toMSecsSinceEpoch()) : std::nullopt;
-}
-
 // Both sorted: one list out of two, in steps over numbers and comparisons of the new ones alone.
 template <typename Less>
 std::vector<int> merged(const std::vector<int>& old, const std::vector<int>& fresh, const Less& less)
@@ -51,8 +46,25 @@ RecordIndex::Entry::Entry(const ImageRecord& record)
     , fileName(record.fileName)
     , lowerName(record.fileName.toLower())
     , nameKey(Text::naturalSortKey(record.fileName))
-    , created(createdAt(record))
 {
+    setCreationDate(record.creationDate);
+}
+
+void RecordIndex::Entry::setName(const ImageRecord& record)
+{
+    if (fileName == record.fileName)
+        return;
+    fileName = record.fileName;
+    lowerName = fileName.toLower();
+    nameKey = Text::naturalSortKey(fileName);
+}
+
+void RecordIndex::Entry::setCreationDate(const std::optional<QDateTime>& date)
+{
+    if (creationDate == date)
+        return;
+    creationDate = date;
+    created = date ? std::optional(date->toMSecsSinceEpoch()) : std::nullopt;
 }
 
 void RecordIndex::reset(
@@ -114,15 +126,25 @@ void RecordIndex::replace(const QList<int>& positions, const QList<ImageRecord>&
         said.traits |= mark(position).traits & ~RecordTraits::mask();
         change(old.id, said);
         if (old.url != records.at(position).url || old.fileName != records.at(position).fileName
-            || old.created != createdAt(records.at(position)))
+            || old.creationDate != records.at(position).creationDate)
             moved.push_back(position);
     }
+    follow(moved, records);
+}
+
+void RecordIndex::rename(const QList<int>& positions, const QList<ImageRecord>& records)
+{
+    follow(std::vector<int>(positions.cbegin(), positions.cend()), records);
+}
+
+void RecordIndex::follow(const std::vector<int>& moved, const QList<ImageRecord>& records)
+{
     if (moved.empty())
         return;
     take(moved);
     for (const int position : moved)
         follow(position, records.at(position));
-    put(std::move(moved));
+    put(moved);
 }
 
 // The photo of this position is this one now.
@@ -136,14 +158,9 @@ void RecordIndex::follow(int position, const ImageRecord& record)
         m_folders.leave(old.folder);
         old.folder = m_folders.enter(record.url);
     }
-    const int id = old.id;
-    const int folder = old.folder;
-    if (old.fileName != record.fileName)
-        old = Entry(record);
-    old.id = id;
-    old.folder = folder;
     old.url = record.url;
-    old.created = createdAt(record);
+    old.setName(record);
+    old.setCreationDate(record.creationDate);
 }
 
 void RecordIndex::remove(const QList<int>& positions)

@@ -35,6 +35,8 @@ public:
     void append(const QList<ImageRecord>& records);
     /// The records at these positions are other ones now, or were read again.
     void replace(const QList<int>& positions, const QList<ImageRecord>& records);
+    /// The same where the photos only got other names.
+    void rename(const QList<int>& positions, const QList<ImageRecord>& records);
     /// Positions ascending; those behind them move up.
     void remove(const QList<int>& positions);
 
@@ -72,11 +74,16 @@ private:
     struct Entry {
         explicit Entry(const ImageRecord& record);
 
+        void setName(const ImageRecord& record);
+        void setCreationDate(const std::optional<QDateTime>& date);
+
         QUrl url;
         QString fileName;
         QString lowerName;
         QCollatorSortKey nameKey;
-        std::optional<qint64> created;  ///< ms since 1970
+        std::optional<QDateTime> creationDate;
+        std::optional<qint64>
+            created;  ///< the same in ms since 1970: worked out once, since the system then looks at its time zone
         int id = 0;
         int folder = 0;  ///< its number
     };
@@ -97,6 +104,7 @@ private:
     const Mark& mark(int position) const { return m_marks[size_t(entry(position).id)]; }
     bool change(int id, const Mark& next);
     void tally(const Mark& mark, int step);
+    void follow(const std::vector<int>& moved, const QList<ImageRecord>& records);
     void follow(int position, const ImageRecord& record);
     const Entry& entry(int position) const { return m_entries[size_t(position)]; }
     int folderRank(int position) const { return m_folders.rank(entry(position).folder); }
