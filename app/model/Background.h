@@ -21,9 +21,28 @@ public:
     Q_DISABLE_COPY_MOVE(PoolThreadLoan)
 };
 
+/// Destroys a value in the background: a hundred thousand photos take their time even for that.
+template <typename T>
+void discardInBackground(T value)
+{
+    class Discard final : public QRunnable {
+    public:
+        explicit Discard(T&& value)
+            : m_value(std::move(value))
+        {
+        }
+        void run() override { }
+
+    private:
+        T m_value;
+    };
+    QThreadPool::globalInstance()->start(new Discard(std::move(value)));
+}
+
 /// Runs `job` in the pool and hands its result to `done`. The job must capture values, never the owner: it runs to its
 /// end whatever happens. When the owner is gone by then, `done` is not called at all. What the job throws must be
-/// caught in the job and returned as part of its result.
+/// caught in the job and returned as part of its result. The result, and what `done` holds, end in the background: it
+/// may all be of many photos.
 template <typename Job, typename Done>
 void runIn(QThreadPool& pool, QObject* owner, Job job, Done done)
 {
@@ -32,10 +51,14 @@ void runIn(QThreadPool& pool, QObject* owner, Job job, Done done)
     auto* watcher = new QFutureWatcher<Result>(owner);
     QObject::connect(watcher, &QFutureWatcherBase::finished, owner, [watcher, done = std::move(done)]() mutable {
         watcher->deleteLater();
-        if constexpr (std::is_void_v<Result>)
+        if constexpr (std::is_void_v<Result>) {
             done();
-        else
-            done(watcher->future().takeResult());
+            discardInBackground(std::move(done));
+        } else {
+            Result result = watcher->future().takeResult();
+            done(std::move(result));
+            discardInBackground(std::pair(std::move(result), std::move(done)));
+        }
     });
     watcher->setFuture(QtConcurrent::run(&pool, std::move(job)));
 }
@@ -72,24 +95,6 @@ void runPatiently(QObject* owner, Job job, Done done)
             return job();
         },
         std::move(done));
-}
-
-/// Destroys a value in the background: a hundred thousand photos take their time even for that.
-template <typename T>
-void discardInBackground(T value)
-{
-    class Discard final : public QRunnable {
-    public:
-        explicit Discard(T&& value)
-            : m_value(std::move(value))
-        {
-        }
-        void run() override { }
-
-    private:
-        T m_value;
-    };
-    QThreadPool::globalInstance()->start(new Discard(std::move(value)));
 }
 
 }  // namespace Quorbel

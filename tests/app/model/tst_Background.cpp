@@ -14,6 +14,7 @@ class tst_Background : public QObject {
 private slots:
     void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
     void jobOutlivesItsOwner();
+    void resultsEndElsewhere();
     void piecesTakeTurns();
     void piecesEndWithTheirOwner();
 };
@@ -54,6 +55,25 @@ void tst_Background::jobOutlivesItsOwner()
     QTRY_VERIFY(isDelivered);
     hang.release(8);
     QTRY_COMPARE(hanging, 8);
+}
+
+// A result may be of many photos: the thread that takes it does not wait until all of it is gone.
+void tst_Background::resultsEndElsewhere()
+{
+    struct Result {
+        std::atomic<QThread*>* ended;
+        ~Result() { *ended = QThread::currentThread(); }
+    };
+    std::atomic<QThread*> resultEnded = nullptr;
+    std::atomic<QThread*> heldEnded = nullptr;
+    QThread* taken = nullptr;
+    runInBackground(
+        this, [&] { return std::make_unique<Result>(&resultEnded); },
+        [&, held = std::make_shared<Result>(&heldEnded)](
+            const std::unique_ptr<Result>&) { taken = QThread::currentThread(); });
+    QTRY_VERIFY(resultEnded && heldEnded);
+    QCOMPARE(taken, QThread::currentThread());
+    QVERIFY(resultEnded != taken && heldEnded != taken);
 }
 
 // Ten pieces lie ready at once: what else waits is not kept waiting for all of them.
