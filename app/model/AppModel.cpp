@@ -104,6 +104,8 @@ void AppModel::connectParts()
     for (const auto signal : { &AppModel::editsChanged, &AppModel::unsavedCountChanged, &AppModel::selectionChanged })
         connect(this, signal, this, &AppModel::lookAhead);
     connect(&refresh, &FolderRefresh::reread, this, &AppModel::lookAhead);
+    connect(&m_saving, &Saving::reread, this,
+        [this](const QList<ImageRecord>& some) { m_library.photos().putSaved(some); });
     connect(&m_saving, &Saving::saved, this, &AppModel::takeSaved);
     connect(&m_saving, &Saving::undone, this, &AppModel::takeUndone);
     connect(&m_saving, &Saving::ended, this, [this](bool isGood) {

@@ -159,7 +159,7 @@ void AppModel::noteRead(const QList<ImageRecord>& fresh)
 void AppModel::takeSaved(const SaveOutcome& outcome)
 {
     tellWritten(outcome);
-    photos().replaceSaved(outcome.records);
+    photos().endSaved();
     noteRead(outcome.records);
     m_editing.takeSaved(outcome.unsaved, outcome.failed, outcome.differing);
     if (outcome.message)
@@ -200,7 +200,7 @@ void AppModel::undoSave()
 void AppModel::takeUndone(const SaveOutcome& outcome)
 {
     tellWritten(outcome);
-    const bool isOther = photos().replaceSaved(outcome.records);
+    const bool isOther = photos().endSaved();
     noteRead(outcome.records);
     if (isOther)
         m_editing.takeRead();

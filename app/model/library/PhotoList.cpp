@@ -197,12 +197,20 @@ void PhotoList::put(int position, const ImageRecord& record)
     old = record;
 }
 
-bool PhotoList::replaceSaved(QList<ImageRecord> fresh)
+void PhotoList::putSaved(QList<ImageRecord> some)
 {
-    for (ImageRecord& saved : fresh)
+    for (ImageRecord& saved : some)
         if (const ImageRecord* before = record(saved.url))
             m_creationDates.keep(*before, saved);
-    return replace(fresh);
+    m_hasPutSaved = !putAll(some).isEmpty() || m_hasPutSaved;
+}
+
+bool PhotoList::endSaved()
+{
+    if (!std::exchange(m_hasPutSaved, false))
+        return false;
+    contentChanged(true, false);
+    return true;
 }
 
 bool PhotoList::replace(const QList<ImageRecord>& fresh)

@@ -96,8 +96,10 @@ public:
     /// The same for what a load has read; which ones differed. Where all of it was unread before, what is held of the
     /// others stays as it is (heldSerial()).
     QList<QUrl> fill(const QList<ImageRecord>& fresh);
-    /// The same for photos that a save of ours has just written: they stay where they were in order of creation.
-    bool replaceSaved(QList<ImageRecord> fresh);
+    /// The same for photos that a save of ours has just written, some after the other: they stay where they were in
+    /// order of creation. Nobody is told before endSaved(), which says whether any differed.
+    void putSaved(QList<ImageRecord> some);
+    bool endSaved();
     /// Positions ascending.
     void remove(const QList<int>& positions);
     /// Those that are not open yet; whether there were any.
@@ -133,6 +135,7 @@ private:
     int m_serial = 0;
     int m_heldSerial = 0;
     int m_renames = 0;
+    bool m_hasPutSaved = false;  ///< nobody was told of some records yet
 };
 
 }  // namespace Quorbel

@@ -5,6 +5,7 @@
 #include "core/save/Agreement.h"
 
 #include <QPointer>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -88,6 +89,9 @@ SaveOutcome outcomeOf(const SaveJob::Checked& checked, const SaveJob::Written& w
     outcome.isGood = outcome.failed.isEmpty() && outcome.differing.isEmpty();
     return outcome;
 }
+
+// So many records are put into the list in one turn.
+constexpr qsizetype pieceSize = 250;
 
 }  // namespace
 
@@ -256,11 +260,22 @@ void Saving::check(
 
 void Saving::finish(const SaveOutcome& outcome)
 {
+    tell(outcome, &Saving::saved);
+}
+
+// The records of thousands of photos in one turn would keep the window waiting.
+void Saving::tell(const SaveOutcome& outcome, void (Saving::*what)(const SaveOutcome&), qsizetype from)
+{
     // Who hears of it may destroy the model.
     const QPointer<Saving> self(this);
     {
         const Announcer::Together together(m_announcer);
-        emit saved(outcome);
+        emit reread(outcome.records.mid(from, pieceSize));
+        if (from + pieceSize < outcome.records.size()) {
+            QTimer::singleShot(0, this, [=, this] { tell(outcome, what, from + pieceSize); });
+            return;
+        }
+        emit(this->*what)(outcome);
     }
     if (self)
         end(outcome.isGood);
@@ -296,9 +311,9 @@ void Saving::putBack(qint64 save, const QList<QUrl>& open)
                 const Announcer::Together done(m_announcer);
                 m_tasks.end(id);
                 setUndoable(result.next);
-                emit undone({ .records = result.records, .message = SaveHistory::text(result) });
             }
-            end(!result.error);
+            tell({ .records = result.records, .message = SaveHistory::text(result), .isGood = !result.error },
+                &Saving::undone);
         });
 }
 

@@ -50,7 +50,7 @@ public:
     bool isSaving() const { return m_isSaving; }
     /// Whether the last save, perhaps of an earlier run of the program, can be taken back now.
     bool canUndo() const { return m_undo.isPossible; }
-    /// "Undo Save of 12 photos": which save that is.
+    /// "Undo Save of 12 photos": which save that is (SaveHistory::name).
     QString undoText() const { return SaveHistory::name(m_undo.save); }
     /// A save will follow, or release(): until then it counts as being saved.
     void reserve();
@@ -79,6 +79,9 @@ public:
     const std::shared_ptr<SaveHistory>& history() const { return m_history; }
 
 signals:
+    /// Some photos as they are after a write, before either of the next two: many come in pieces, in turns of their
+    /// own.
+    void reread(const QList<ImageRecord>& some);
     /// The write has ended and its files were read again; still `isSaving`.
     void saved(const SaveOutcome& outcome);
     void undone(const SaveOutcome& outcome);
@@ -93,6 +96,7 @@ private:
         const QSet<QUrl>& tooSlow = {});
     void checkShift(const ShiftJob::Order& order, const ShiftJob::Written& written, const QSet<QUrl>& tooSlow = {});
     void finish(const SaveOutcome& outcome);
+    void tell(const SaveOutcome& outcome, void (Saving::*what)(const SaveOutcome&), qsizetype from = 0);
     void openHistory(const QString& journalPath);
     void putBack(qint64 save, const QList<QUrl>& open);
     void setUndoable(const SaveHistory::Undoable& save);

@@ -39,6 +39,7 @@ private slots:
     void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
     void singleSaveReplaces();
     void batchSaveAppends();
+    void recordsOfManyAreToldOfTogether();
     void eachGetsItsOwn();
     void savedPhotosKeepTheirPlaceInOrderOfCreation();
     void companions_data();
@@ -121,6 +122,38 @@ void tst_AppModelSaving::batchSaveAppends()
     QCOMPARE(f->sharedValue(u"title"_s), u"X"_s);
     QCOMPARE(f->record(f.url(u"b.jpg"_s))->custom, (QList<CustomValue>{ { u"Mood"_s, u"calm"_s } }));
     QVERIFY(f->record(f.url(u"c.jpg"_s))->values.isEmpty());
+}
+
+// They come in pieces, but nobody is told of half of them.
+void tst_AppModelSaving::recordsOfManyAreToldOfTogether()
+{
+    FakeTool tool;
+    PhotoFolder folder;
+    QList<QUrl> photos;
+    for (int i = 0; i < 600; ++i)
+        photos.append(folder.add(u"%1.jpg"_s.arg(i, 3, 10, QChar(u'0'))));
+    const auto holdAll = [&](const QString& title) {
+        QList<QJsonObject> answers;
+        for (const QUrl& photo : std::as_const(photos))
+            answers.append({ { u"SourceFile"_s, photo.toLocalFile() }, { u"XMP:Title"_s, title } });
+        tool.answerAlways({ .standardOutput = toolJson(answers) });
+    };
+    holdAll(u"Old"_s);
+    ModelFixture f(MetadataService{ tool.runner() });
+    QVERIFY(f.load({ QUrl::fromLocalFile(folder.path()) }));
+    f->selectAllPhotos();
+    f->preferences().confirmMassEdit.set(false);
+    f->setBatch(u"title"_s, u"New"_s);
+    holdAll(u"New"_s);
+    QStringList seen;
+    connect(f.model.get(), &AppModel::recordsChanged, this, [&] {
+        for (const ImageRecord& record : f->records())
+            seen.append(record.values.value(u"title"_s));
+        QVERIFY(f->isSaving());
+    });
+    f->requestSave();
+    QTRY_VERIFY_WITH_TIMEOUT(!f->isSaving(), 30000);
+    QCOMPARE(seen, QStringList(600, u"New"_s));
 }
 
 // Texts that differ, items that all gain and lose; one photo is read-only, and waits for its own text alone.
