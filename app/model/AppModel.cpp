@@ -4,6 +4,7 @@
 #include "app/model/AppModelTools.h"
 #include "app/model/library/PhotoListing.h"
 #include "app/model/library/cache/RecordCache.h"
+#include "app/model/templates/Templates.h"
 #include "app/model/timeshift/TimeShifting.h"
 #include "core/schema/RecentItems.h"
 
@@ -220,6 +221,7 @@ void AppModel::cancelRead()
     const Announcer::Together together(m_announcer);
     m_library.cancelReads();
     timeShifting().cancel();
+    templates().cancel();
     giveUpAwaited();
     if (m_agreeing && !m_agreeing->isAsking)
         giveUpAgreeing();

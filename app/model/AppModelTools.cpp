@@ -28,7 +28,7 @@ void AppModel::makeTools()
     m_tools->pasting = std::make_unique<FieldPasting>(*this,
         FieldPasting::Parts{ [this] { return m_editing.unsaved(); }, besideLeftEdits(m_services, u"copied.json"_s) });
     m_tools->templates =
-        std::make_unique<Templates>(*this, m_services.templatesPath, [this] { return m_editing.unsaved(); });
+        std::make_unique<Templates>(*this, m_tasks, m_services.templatesPath, [this] { return m_editing.unsaved(); });
     m_tools->codes = std::make_unique<CodeReplacements>(*this);
     m_tools->quickKeywords = std::make_unique<QuickKeywords>(*this);
     m_tools->renaming = std::make_unique<PhotosRenaming>(*this,

@@ -164,7 +164,8 @@ void RunningTasks::publishProgress()
     std::optional<Progress> progress;
     if (!m_shown.empty()) {
         const Task& latest = m_shown.back();
-        progress = Progress{ latest.progress->done, latest.progress->total, latest.kind == Kind::survey };
+        progress = Progress{ latest.progress->done, latest.progress->total, latest.kind == Kind::survey,
+            latest.kind == Kind::fill };
         for (const Task& slice : m_quiet)
             if (slice.load == latest.id)
                 progress->done += slice.progress->done;

@@ -24,6 +24,7 @@ struct Progress {
     qsizetype done = 0;
     qsizetype total = 0;
     bool isSurvey = false;  ///< of a look at what photos hold beside their records
+    bool isFill = false;  ///< of photos that a template is filled in for
     bool operator==(const Progress&) const = default;
 };
 
@@ -38,6 +39,7 @@ public:
         write,
         check,  ///< the read that follows a write: it cannot be cancelled, though a file of it can be skipped
         refresh,  ///< not shown unless it stalls
+        fill,  ///< works out what a template gives for each photo
         survey,  ///< looks at the details of all open photos; gives way to all but these two
         details,  ///< a read that is part of a survey, or of none; never shown: a file that it stalls at is skipped
     };

@@ -162,7 +162,9 @@ QString ProgressFoot::shownText() const
     if (progress.total == 0 && !isWriting())
         return u"Looking for photos…"_s;
     const QLocale locale;
-    const QString reading = progress.isSurvey ? u"Looking at %1 of %2 photos…"_s : u"Reading %1 of %2 photos…"_s;
+    const QString reading = progress.isSurvey ? u"Looking at %1 of %2 photos…"_s
+        : progress.isFill                     ? u"Filling in %1 of %2 photos…"_s
+                                              : u"Reading %1 of %2 photos…"_s;
     const QString writing =
         m_model.renaming().isRunning() ? u"Renaming %1 of %2 photos…"_s : u"Saving %1 of %2 photos…"_s;
     const QString pattern = isWriting() ? writing : reading;

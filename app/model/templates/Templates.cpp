@@ -2,10 +2,12 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/Background.h"
+#include "app/model/RunningTasks.h"
 
 #include <QBitArray>
 
 #include <algorithm>
+#include <utility>
 
 namespace Quorbel {
 
@@ -46,15 +48,16 @@ int freeDigit(const TemplateStore& store)
 
 }  // namespace
 
-Templates::Templates(AppModel& model, const QString& folder, std::function<Edits()> unsaved)
+Templates::Templates(AppModel& model, RunningTasks& tasks, const QString& folder, std::function<Edits()> unsaved)
     : m_model(model)
+    , m_tasks(tasks)
     , m_unsaved(std::move(unsaved))
     , m_store(folder)
 {
     for (const auto change : { &AppModel::selectionChanged, &AppModel::visibleRowsChanged, &AppModel::recordsChanged,
              &AppModel::editsChanged, &AppModel::detailsChanged })
         connect(&model, change, this, &Templates::forgetPhotos);
-    connect(&model, &AppModel::selectionChanged, this, [this] { m_pending.reset(); });
+    connect(&model, &AppModel::selectionChanged, this, &Templates::giveUp);
     connect(&model, &AppModel::unreadSelectedChanged, this, &Templates::fillSoon);
     connect(&model, &AppModel::isSavingChanged, this, &Templates::canApplyChanged);
     connect(
@@ -162,19 +165,52 @@ void Templates::fill()
         if (const PhotoDetails* known = hasLanguages(entry->value()) ? m_model.details(photos.last().url) : nullptr)
             details.insert(photos.last().url, *known);
     }
-    const auto job = [value = entry->value(), photos, unsaved = m_unsaved(), details] {
-        return TemplateFill::edits(value, photos, unsaved, details);
-    };
-    if (photos.size() <= mostAtOnce)
-        return takeFilled(job());
-    runInBackground(this, job, [this, ticket = m_ticket](const TemplateFill::Result& result) {
-        if (!m_pending)
-            return;
-        if (ticket == m_ticket)
-            takeFilled(result);
-        else
-            fill();  // what was filled is not what is there now
-    });
+    if (photos.size() > mostAtOnce)
+        fillInBackground(entry->value(), photos, details);
+    else
+        takeFilled(TemplateFill::edits(entry->value(), photos, m_unsaved(), details));
+}
+
+void Templates::fillInBackground(
+    const Template& value, const QList<ImageRecord>& photos, const QHash<QUrl, PhotoDetails>& details)
+{
+    m_tasks.stop(m_task);
+    const RunningTasks::Task task = m_tasks.begin(RunningTasks::Kind::fill, photos.size());
+    m_task = task.id;
+    runInBackground(
+        this,
+        [value, photos, details, unsaved = m_unsaved(), progress = task.progress, stop = task.stop.get_token()] {
+            return TemplateFill::edits(value, photos, unsaved, details, [progress, stop] {
+                ++progress->done;
+                return !stop.stop_requested();
+            });
+        },
+        [this, id = task.id, ticket = m_ticket](const TemplateFill::Result& result) {
+            m_tasks.end(id);
+            if (id != m_task)
+                return;  // it was given up
+            m_task = 0;
+            if (ticket == m_ticket)
+                takeFilled(result);
+            else
+                fill();  // what was filled is not what is there now
+        });
+}
+
+void Templates::cancel()
+{
+    if (!m_pending)
+        return;
+    giveUp();
+    emit canApplyChanged();
+}
+
+// What comes of it is not asked for any more.
+void Templates::giveUp()
+{
+    m_pending.reset();
+    if (const int task = std::exchange(m_task, 0); task != 0)
+        m_tasks.stop(task);
 }
 
 void Templates::takeFilled(const TemplateFill::Result& result)

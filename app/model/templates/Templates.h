@@ -11,6 +11,7 @@
 namespace Quorbel {
 
 class AppModel;
+class RunningTasks;
 
 class Templates final : public QObject {
     Q_OBJECT
@@ -18,7 +19,7 @@ class Templates final : public QObject {
 
 public:
     /// `unsaved`: what is edited of the selected photos now.
-    Templates(AppModel& model, const QString& folder, std::function<Edits()> unsaved);
+    Templates(AppModel& model, RunningTasks& tasks, const QString& folder, std::function<Edits()> unsaved);
     ~Templates() override;
 
     /// Asks for files. Set by the shell; empty where nobody can be asked.
@@ -50,8 +51,10 @@ public:
     /// Not while there is nothing to fill, and not while a save or a fill runs.
     bool canApply() const;
     /// Fills the selected photos: unsaved edits, in one go. Photos that were not read are waited for. Nothing when the
-    /// selection changes before.
+    /// selection changes before. Of many photos a task tells how far it is.
     void apply(int id);
+    /// Gives up a fill that waits or runs: nothing of it is laid.
+    void cancel();
     /// The template with this digit; whether there is one.
     bool applyDigit(int digit);
     /// How many photos a fill that was asked for waits for, or computes; 0: none.
@@ -75,15 +78,20 @@ private:
     void forgetPhotos();
     const QList<int>& rows() const;
     void fill();
+    void fillInBackground(
+        const Template& value, const QList<ImageRecord>& photos, const QHash<QUrl, PhotoDetails>& details);
     void fillSoon();
+    void giveUp();
     void takeFilled(const TemplateFill::Result& result);
 
     AppModel& m_model;
+    RunningTasks& m_tasks;
     std::function<Edits()> m_unsaved;
     TemplateStore m_store;
     bool m_isOpen = false;
     int m_current = 0;
     std::optional<int> m_pending;  ///< template to be applied
+    int m_task = 0;  ///< of the fill that runs; 0: none
     int m_ticket = 0;  ///< of the photos and edits that a fill was begun with
     mutable std::optional<QList<int>> m_rows;  ///< positions of the selected photos, in the list's order
 };

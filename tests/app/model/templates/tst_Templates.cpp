@@ -458,6 +458,17 @@ void tst_Templates::manyPhotosAreFilledInTheBackground()
     const int id = templates.store().add(
         { .name = u"C"_s, .digit = 1, .fields = { { .key = u"headline"_s, .text = u"%Place% %Counter%"_s } } });
     templates.choose(id);
+    // One sees how far it is. What is given up leaves nothing behind.
+    QVERIFY(templates.applyDigit(1));
+    QVERIFY(photos->progress() && photos->progress()->isFill);
+    QCOMPARE(photos->progress()->total, 120);
+    photos->cancelRead();
+    QCOMPARE(templates.pending(), 0);
+    QVERIFY(templates.canApply());
+    QVERIFY(photos.waitUntilIdle());
+    QCOMPARE(photos->progress(), std::nullopt);
+    QCOMPARE(photos->unsavedCount(), 0);
+
     QVERIFY(templates.applyDigit(1));
     QCOMPARE(photos->unsavedCount(), 0);
     photos->setBatch(u"place"_s, u"Thun"_s);
