@@ -183,7 +183,7 @@ Page timesPage()
                 u"Time zone: sets the zone that the times are in. Keep the clock time, or let it move with the zone. "
                 "Photos with a position can each get the zone that they were taken in."_s,
                 u"The table shows the first photo, the last one, and what becomes another day. Photos without a date "
-                "are named and left alone. Undo Save takes a shift back."_s }),
+                "are named and left alone. Undo Shift Time takes it back."_s }),
         } };
 }
 

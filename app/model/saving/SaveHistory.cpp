@@ -65,7 +65,7 @@ SaveHistory::Undoable SaveHistory::newest()
 
 SaveHistory::Undoable SaveHistory::undoable(qint64 number, const JournalEntry& entry)
 {
-    return { number, entry.files.size(), QFileInfo(entry.files.constFirst().path).fileName() };
+    return { number, entry.files.size(), QFileInfo(entry.files.constFirst().path).fileName(), entry.isTimeShift };
 }
 
 SaveHistory::Undoable SaveHistory::open()
@@ -173,6 +173,7 @@ SaveHistory::Undone SaveHistory::undo(const MetadataService& service, qint64 num
         undone.next = newest();
         return undone;
     }
+    undone.isTimeShift = entry->isTimeShift;
     progress.total = entry->files.size();
     QList<QUrl> files;
     for (const JournalFile& file : entry->files)
@@ -219,19 +220,21 @@ QString SaveHistory::name(const Undoable& save)
 {
     if (save.photos == 0)
         return u"Undo Save"_s;
-    return u"Undo Save of "_s + (save.photos == 1 ? u'“' + save.fileName + u'”' : counted(save.photos));
+    return (save.isTimeShift ? u"Undo Shift Time of "_s : u"Undo Save of "_s)
+        + (save.photos == 1 ? u'“' + save.fileName + u'”' : counted(save.photos));
 }
 
 std::optional<QString> SaveHistory::text(const Undone& undone)
 {
+    const QString what = undone.isTimeShift ? u"Could not undo the shift of time"_s : u"Could not undo the save"_s;
     if (undone.error)
-        return u"Could not undo the save: "_s + *undone.error;
+        return what + u": "_s + *undone.error;
     QStringList texts;
     QStringList names;
     for (const FileFailure& failure : undone.outcome.failed)
         names.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
     if (!names.isEmpty())
-        texts.append(u"Could not undo the save of %1: "_s.arg(counted(names.size())) + Text::listed(names));
+        texts.append(what + u" of %1: "_s.arg(counted(names.size())) + Text::listed(names));
     names.clear();
     for (const QUrl& file : undone.outcome.changedSince)
         names.append(file.fileName());

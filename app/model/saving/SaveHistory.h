@@ -26,6 +26,7 @@ public:
         qint64 number = 0;
         qsizetype photos = 0;  ///< none: there is no such save
         QString fileName{};  ///< of the first photo
+        bool isTimeShift = false;
         bool operator==(const Undoable&) const = default;
     };
 
@@ -52,6 +53,7 @@ public:
     struct Undone {
         UndoOutcome outcome{};
         QList<ImageRecord> records{};  ///< of the given photos that were restored, as they are now
+        bool isTimeShift = false;
         std::optional<QString> error{};  ///< nothing was restored: why
         Undoable next{};  ///< what can be taken back now
     };
@@ -60,7 +62,7 @@ public:
     Undone undo(const MetadataService& service, qint64 number, const QList<QUrl>& photos, TaskProgress& progress,
         const std::shared_ptr<RecordCache>& cache = {});
 
-    /// "Undo Save of 12 photos"; of one photo its name.
+    /// "Undo Save of 12 photos"; of one photo its name. "Undo Shift Time of 12 photos" where that was the save.
     static QString name(const Undoable& save);
 
     /// The banner's text; nothing when all went well.

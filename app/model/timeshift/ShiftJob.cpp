@@ -143,8 +143,8 @@ void runAll(const MetadataService& service, const Order& order, Looked looked,
     // All or none: a read-only photo is found before any other is written.
     SaveGuard::requireWritable(SaveGuard::filesBehindLinks(targets));
     const auto plan = [&written](const QUrl& target) { return planOf(written.photos.value(target)); };
-    const JournalEntry entry =
-        history ? SaveUndo::journalEntry(looked.values, plan, targets, order.options) : JournalEntry();
+    JournalEntry entry = history ? SaveUndo::journalEntry(looked.values, plan, targets, order.options) : JournalEntry();
+    entry.isTimeShift = true;
     {
         const ReplacedFilesPoll poll(targets, progress.done);
         write(service, targets, order.options, written);

@@ -30,6 +30,7 @@ struct JournalEntry {
     QStringList writtenTags{};  ///< the tags that the save assigned in some file, as its assignments name them
     QStringList customNames{};  ///< names of the custom fields among them
     QList<JournalFile> files{};
+    bool isTimeShift = false;  ///< the save was a shift of times
     bool operator==(const JournalEntry&) const = default;
 };
 

@@ -117,16 +117,20 @@ QJsonObject toJson(const JournalEntry& entry)
     QJsonArray files;
     for (const auto& file : entry.files)
         files.append(toJson(file));
-    return { { u"savedAt"_s, entry.savedAt.toString(Qt::ISODateWithMs) },
+    QJsonObject object{ { u"savedAt"_s, entry.savedAt.toString(Qt::ISODateWithMs) },
         { u"writtenTags"_s, QJsonArray::fromStringList(entry.writtenTags) },
         { u"customNames"_s, QJsonArray::fromStringList(entry.customNames) }, { u"files"_s, files } };
+    if (entry.isTimeShift)
+        object.insert(u"isTimeShift"_s, true);
+    return object;
 }
 
 JournalEntry entryFrom(const QJsonValue& value)
 {
     JournalEntry entry{ .savedAt = QDateTime::fromString(value[u"savedAt"_s].toString(), Qt::ISODateWithMs),
         .writtenTags = stringsFrom(value[u"writtenTags"_s]),
-        .customNames = stringsFrom(value[u"customNames"_s]) };
+        .customNames = stringsFrom(value[u"customNames"_s]),
+        .isTimeShift = value[u"isTimeShift"_s].toBool() };
     for (const auto& file : value[u"files"_s].toArray())
         entry.files.append(fileFrom(file));
     return entry;

@@ -638,7 +638,7 @@ void tst_TimeShift::shiftsTheSelectedPhotos()
 
     photos.beginJournal();
     QVERIFY(photos.open());
-    QTRY_COMPARE(photos.model->undoSaveText(), u"Undo Save of 2 photos"_s);
+    QTRY_COMPARE(photos.model->undoSaveText(), u"Undo Shift Time of 2 photos"_s);
     QVERIFY(photos.undo());
     QCOMPARE(photos.model->errorMessage(), std::nullopt);
     QCOMPARE(photos.dates(), before);
