@@ -48,7 +48,9 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
     , m_cache(cacheFor(m_services))
     , m_library(m_announcer, m_tasks, m_services.service, m_preferences.sortOrder(), m_cache)
     , m_selected(m_announcer, m_library.photos())
-    , m_selectedDetails(m_library.photos(), m_selected, [this](const QUrl& photo) { return details(photo); })
+    , m_selectedDetails(m_library.photos(), m_selected,
+          { [this](const QUrl& photo) { return details(photo); },
+              [this] { return m_library.details().store().known(); } })
     , m_selectedKeywords(m_announcer, m_library.photos(), m_selected)
     , m_left(m_announcer, m_services.leftEditsPath, m_services.keepInterval)
     , m_editing(m_announcer, m_library.photos(), m_selected, m_selectedDetails, m_left)

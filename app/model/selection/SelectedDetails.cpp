@@ -75,13 +75,14 @@ const SelectedDetails::Summary& SelectedDetails::summary() const
     if (m_summary && m_summary->rows.constData() == rows.constData())
         return *m_summary;
     Summary summary{ .rows = rows };
-    for (const int row : rows) {
-        const ImageRecord& record = m_list.records().at(row);
-        if (const PhotoDetails* details = m_source(record.url))
+    // Mostly those that were on screen are known, and nobody has to ask for thousands of others.
+    const qsizetype known = m_source.known();
+    for (qsizetype i = 0; i < rows.size() && summary.known < known; ++i) {
+        const ImageRecord& record = m_list.records().at(rows.at(i));
+        if (const PhotoDetails* details = m_source.of(record.url))
             merge(summary, record, *details);
-        else
-            ++summary.unknown;
     }
+    summary.unknown = int(rows.size()) - summary.known;
     m_summary = std::move(summary);
     return *m_summary;
 }

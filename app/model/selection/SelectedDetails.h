@@ -12,12 +12,15 @@ namespace Quorbel {
 class SelectedDetails final {
 public:
     /// What is known of a photo; null before it was looked at.
-    using Source = std::function<const PhotoDetails*(const QUrl&)>;
+    struct Source {
+        std::function<const PhotoDetails*(const QUrl&)> of{};
+        std::function<qsizetype()> known{};  ///< of how many photos anything is known, selected or not
+    };
 
     SelectedDetails(const PhotoList& list, const SelectedPhotos& selected, Source source);
     Q_DISABLE_COPY_MOVE(SelectedDetails)
 
-    const PhotoDetails* of(const QUrl& photo) const { return m_source(photo); }
+    const PhotoDetails* of(const QUrl& photo) const { return m_source.of(photo); }
     /// Of some photos something else is known.
     void forget() { m_summary.reset(); }
 

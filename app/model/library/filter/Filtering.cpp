@@ -255,6 +255,7 @@ void Filtering::leave()
     const std::optional<QUrl> primary = m_model.primary();
     const auto next = primary ? m_reach.photos.shownNear(*primary) : std::nullopt;
     Selection rest;
+    rest.photos.reserve(m_model.selectedRows().size());
     for (const int row : m_model.selectedRows())
         if (m_reach.photos.index().isListed(row, filter()))
             rest.photos.insert(m_model.records().at(row).url);

@@ -59,10 +59,12 @@ struct Photos {
     PhotoList list{ announcer, RecordSortOrder::nameAsc };
     QHash<QUrl, PhotoDetails> known;
     SelectedPhotos selected{ announcer, list };
-    SelectedDetails details{ list, selected, [this](const QUrl& url) {
-                                const auto found = known.constFind(url);
-                                return found == known.cend() ? nullptr : &*found;
-                            } };
+    SelectedDetails details{ list, selected,
+        { [this](const QUrl& url) {
+             const auto found = known.constFind(url);
+             return found == known.cend() ? nullptr : &*found;
+         },
+            [this] { return known.size(); } } };
     LeftBehind left{ announcer, {}, std::chrono::milliseconds(0) };
     Editing editing{ announcer, list, selected, details, left };
 };
