@@ -69,10 +69,7 @@ QPen penOf(const ButtonLook& look)
 {
     if (look.pen == Qt::NoPen)
         return Qt::NoPen;
-    QPen pen(look.line, 1);
-    if (look.pen == Qt::DashLine)
-        pen.setDashPattern({ 3, 2 });
-    return pen;
+    return look.pen == Qt::DashLine ? dashedPen(look.line) : QPen(look.line, 1);
 }
 
 }  // namespace

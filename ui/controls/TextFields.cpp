@@ -132,6 +132,14 @@ void QBTextField::setEdited(bool edited)
     update();
 }
 
+void QBTextField::setWanted(bool wanted)
+{
+    if (wanted == m_wanted)
+        return;
+    m_wanted = wanted;
+    update();
+}
+
 void QBTextField::setMono(bool mono)
 {
     m_mono = mono;
@@ -218,8 +226,9 @@ void QBTextField::paintEvent(QPaintEvent* event)
 {
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
+    const bool isGap = m_wanted && text().isEmpty();
     if (!m_bare)
-        paintFieldFrame(painter, rect(), { isEnabled(), hasFocus(), m_edited, m_fade->hover() }, theme);
+        paintFieldFrame(painter, rect(), { isEnabled(), hasFocus(), m_edited, m_fade->hover(), isGap }, theme);
     if (!m_icon.isEmpty()) {
         const QRectF place(pxF(9), 0, pxF(15), height());
         Icon::paint(painter, place, m_icon, pxF(15), hasFocus() ? theme.text : theme.muted);
@@ -228,7 +237,7 @@ void QBTextField::paintEvent(QPaintEvent* event)
         QFont font = sansFont(13);
         font.setItalic(m_italicPlaceholder);
         painter.setFont(font);
-        painter.setPen(theme.muted);
+        painter.setPen(isGap ? theme.derived.label : theme.muted);
         const QRect box = textRect();
         const QString shown = QFontMetrics(font).elidedText(placeholderText(), Qt::ElideRight, box.width());
         painter.drawText(
@@ -271,6 +280,8 @@ QBTextArea::QBTextArea(QWidget* parent)
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         grow();
         viewport()->update();
+        if (m_wanted)
+            update();
         if (!m_binding)
             emit textEdited(toPlainText());
     });
@@ -322,6 +333,15 @@ void QBTextArea::setEdited(bool edited)
     viewport()->update();
 }
 
+void QBTextArea::setWanted(bool wanted)
+{
+    if (wanted == m_wanted)
+        return;
+    m_wanted = wanted;
+    update();
+    viewport()->update();
+}
+
 QSize QBTextArea::sizeHint() const
 {
     return { px(160), qMax(px(54), height()) };
@@ -363,7 +383,8 @@ bool QBTextArea::event(QEvent* event)
 {
     if (event->type() == QEvent::Paint) {
         QPainter painter(this);
-        const FieldState state{ isEnabled(), hasFocus(), m_edited, m_fade->hover() };
+        const bool isGap = m_wanted && document()->isEmpty();
+        const FieldState state{ isEnabled(), hasFocus(), m_edited, m_fade->hover(), isGap };
         paintFieldFrame(painter, rect(), state, Theme::of(this));
         return true;
     }
@@ -379,7 +400,7 @@ void QBTextArea::paintEvent(QPaintEvent* event)
     QFont font = sansFont(13);
     font.setItalic(m_italicPlaceholder);
     painter.setFont(font);
-    painter.setPen(Theme::of(this).muted);
+    painter.setPen(m_wanted ? Theme::of(this).derived.label : Theme::of(this).muted);
     painter.drawText(viewport()->rect(), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, placeholderText());
 }
 

@@ -25,6 +25,8 @@ public:
     void startText(const QString& text) { setText(text); }
     void setPlaceholder(const QString& text, bool italic = false);
     void setEdited(bool edited);
+    /// While it is empty it has a dashed border, and its placeholder is there to be read: "Required by Press".
+    void setWanted(bool wanted);
     void setMono(bool mono);
     /// An icon at the left ("magnifyingglass"); none when empty.
     void setLeadingIcon(const QString& icon);
@@ -55,6 +57,7 @@ private:
     QObject* m_ring = nullptr;
     QString m_icon;
     bool m_edited = false;
+    bool m_wanted = false;
     bool m_mono = false;
     bool m_bare = false;
     int m_roomAtEnd = 0;
@@ -76,6 +79,8 @@ public:
     void startText(const QString& text);
     void setPlaceholder(const QString& text, bool italic = false);
     void setEdited(bool edited);
+    /// As QBTextField::setWanted().
+    void setWanted(bool wanted);
     /// As QBTextField::setRoomAtEnd(); of all lines.
     void setRoomAtEnd(int pixels);
     /// As QBTextField::setCodes().
@@ -105,6 +110,7 @@ private:
     HoverFade* m_fade;
     int m_roomAtEnd = 0;
     bool m_edited = false;
+    bool m_wanted = false;
     bool m_italicPlaceholder = false;
     bool m_binding = false;
     CodeTexts m_codes;

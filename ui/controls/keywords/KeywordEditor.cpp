@@ -122,7 +122,9 @@ void KeywordEditor::showChips()
     }
     for (qsizetype i = 0; i < m_chips.size(); ++i)
         m_chipWidgets.at(i)->setKeyword(m_chips.at(i), m_parents.value(m_chips.at(i)), m_amber || m_edited);
+    m_entry->setWanted(m_wanted && m_chips.isEmpty());
     layOutChips();
+    update();
 }
 
 void KeywordEditor::setAmber(bool amber)
@@ -139,6 +141,13 @@ void KeywordEditor::setEdited(bool edited)
         return;
     m_edited = edited;
     showChips();
+    update();
+}
+
+void KeywordEditor::setWanted(bool wanted)
+{
+    m_wanted = wanted;
+    m_entry->setWanted(wanted && m_chips.isEmpty());
     update();
 }
 
@@ -224,7 +233,7 @@ void KeywordEditor::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     const FieldState state{ isEnabled(), isAncestorOf(focusWidget()) && focusWidget()->hasFocus(), m_edited,
-        m_fade->hover() };
+        m_fade->hover(), m_wanted && m_chips.isEmpty() };
     paintFieldFrame(painter, rect(), state, Theme::of(this));
 }
 

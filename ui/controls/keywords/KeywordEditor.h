@@ -43,6 +43,8 @@ public:
     void setAmber(bool amber);
     /// The edited look of the whole frame.
     void setEdited(bool edited);
+    /// As QBTextField::setWanted(): while there are no chips.
+    void setWanted(bool wanted);
     void setPlaceholder(const QString& text);
     void setCompletions(Completions completions);
     /// As QBTextField::setCodes(), of the entry.
@@ -100,6 +102,7 @@ private:
     Completions m_completions;
     bool m_amber = false;
     bool m_edited = false;
+    bool m_wanted = false;
 };
 
 }  // namespace Quorbel

@@ -18,6 +18,13 @@ void paintBox(QPainter& painter, const QRectF& rect, qreal radius, const QColor&
     painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius - inset, radius - inset);
 }
 
+QPen dashedPen(const QColor& color)
+{
+    QPen pen(color, 1);
+    pen.setDashPattern({ 3, 2 });
+    return pen;
+}
+
 void cutCorners(QWidget& popup, qreal radius)
 {
     if (QGuiApplication::platformName() != QLatin1String("xcb"))
@@ -46,14 +53,18 @@ void paintCutBox(QPainter& painter, const QRect& rect, qreal radius, const QColo
 void paintFieldFrame(QPainter& painter, const QRectF& rect, const FieldState& state, const Theme& theme)
 {
     QColor ground = state.edited ? theme.amberBg : theme.field;
-    QColor line = state.edited ? theme.amberLine : mixed(theme.fieldLine, theme.derived.fieldHoverLine, state.hover);
+    const QColor rest = mixed(theme.fieldLine, theme.derived.fieldHoverLine, state.hover);
+    const QColor gap = mixed(theme.derived.dashedLine, theme.muted, state.hover);
+    const QColor unedited = state.isGap ? gap : rest;
+    QColor line = state.edited ? theme.amberLine : unedited;
     if (state.focused)
         line = state.edited ? theme.amber : theme.derived.focusStrong;
     if (!state.enabled) {
         ground = theme.derived.fieldOff;
         line = theme.line;
     }
-    paintBox(painter, rect, pxF(7), ground, QPen(line, 1));
+    const bool isDashed = state.isGap && !state.focused;
+    paintBox(painter, rect, pxF(7), ground, isDashed ? dashedPen(line) : QPen(line, 1));
 }
 
 }  // namespace Quorbel

@@ -12,6 +12,8 @@ namespace Quorbel {
 
 struct Theme;
 
+/// A line of one pixel in dashes.
+QPen dashedPen(const QColor& color);
 /// A filled rounded rectangle; its border, if any, lies inside `rect`.
 void paintBox(QPainter& painter, const QRectF& rect, qreal radius, const QColor& fill, const QPen& border);
 /// Gives a translucent popup on X11 the shape of a rounded rectangle: where nothing composes windows, what is
@@ -26,6 +28,7 @@ struct FieldState {
     bool focused = false;
     bool edited = false;
     qreal hover = 0;  ///< 0…1
+    bool isGap = false;  ///< empty, and wanted: a dashed border
 };
 /// Ground and border of every field-like control, as its state asks.
 void paintFieldFrame(QPainter& painter, const QRectF& rect, const FieldState& state, const Theme& theme);
