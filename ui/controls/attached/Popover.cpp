@@ -35,7 +35,7 @@ void Popover::open(const QRect& anchor, int width)
     show();
 }
 
-void Popover::place()
+void Popover::place(bool sameSide)
 {
     const QWidget* window = m_opener->window();
     const int free = px(edge);
@@ -46,9 +46,10 @@ void Popover::place()
     const int wanted = heightIn(width);
     const int below = room.bottom() - m_anchor.bottom() - px(gap);
     const int above = m_anchor.top() - px(gap) - room.top();
-    const bool isBelow = wanted <= below || below >= above;
-    const int height = qMin(wanted, qMax(px(least), isBelow ? below : above));
-    const int y = isBelow ? m_anchor.bottom() + 1 + px(gap) : m_anchor.top() - px(gap) - height;
+    if (!sameSide)
+        m_isBelow = wanted <= below || below >= above;
+    const int height = qMin(wanted, qMax(px(least), m_isBelow ? below : above));
+    const int y = m_isBelow ? m_anchor.bottom() + 1 + px(gap) : m_anchor.top() - px(gap) - height;
     const QPoint last = room.bottomRight() - QPoint(width, height) + QPoint(1, 1);
     const QPoint at(qMax(room.left(), qMin(m_anchor.left(), last.x())), qMax(room.top(), qMin(y, last.y())));
     setGeometry(QRect(at, QSize(width, height)) + PopupFrame::room());

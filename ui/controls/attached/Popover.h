@@ -31,8 +31,9 @@ protected:
     virtual bool staysInWindow() const { return true; }
     /// Lays the content out in the box.
     virtual void arrange(const QRect& box) = 0;
-    /// Finds the place anew, after the content changed.
-    void place();
+    /// Finds the place anew, after the content changed; with `sameSide` not on the other side of the anchor.
+    void place(bool sameSide = false);
+    bool isBelow() const { return m_isBelow; }
 
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -44,6 +45,7 @@ private:
     QWidget* m_opener;
     QRect m_anchor;
     int m_width = 0;
+    bool m_isBelow = true;  ///< the anchor
 };
 
 }  // namespace Quorbel

@@ -1,14 +1,10 @@
 #include "ui/controls/attached/SearchMenu.h"
 
-#include "ui/controls/Labels.h"
 #include "ui/controls/OverlayScrollBar.h"
-#include "ui/controls/TextFields.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
-#include <QAccessible>
-#include <QKeyEvent>
 #include <QListWidget>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -23,10 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Points.
-constexpr qreal padding = 5;
-constexpr qreal fieldHeight = 30;
-constexpr qreal fieldSide = 3;  // more than the rows
-constexpr qreal belowField = 6;
 constexpr qreal rowHeight = 28;
 constexpr qreal rowSide = 10;
 
@@ -74,38 +66,15 @@ int rankOf(const SearchMenuRow& row, const QString& typed)
 }  // namespace
 
 SearchMenu::SearchMenu(const QString& name, const QString& placeholder, QWidget* opener)
-    : Popover(opener)
-    , m_field(new QBTextField(this))
-    , m_list(new QListWidget(this))
-    , m_nothing(ThemedLabel::wrapped({}, TextRole::label, 12))
+    : SearchPopover(name, placeholder, opener)
 {
-    setAccessibleName(name);
-    m_field->setAccessibleName(name);
-    m_field->setPlaceholder(placeholder);
-    m_field->setLeadingIcon(u"magnifyingglass"_s);
-    m_field->installEventFilter(this);
-    connect(m_field, &QLineEdit::textChanged, this, &SearchMenu::find);
-    m_list->setItemDelegate(new SearchMenuDelegate(m_list));
-    m_list->setAccessibleName(name);
-    m_list->setFocusPolicy(Qt::NoFocus);
-    m_list->setFrameShape(QFrame::NoFrame);
-    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_list->setUniformItemSizes(true);
-    m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_list->viewport()->setAutoFillBackground(false);
-    m_list->setMouseTracking(true);
-    OverlayScrollBar::attach(m_list);
-    connect(m_list, &QListWidget::itemEntered, this, [this](QListWidgetItem* item) { m_list->setCurrentItem(item); });
-    connect(m_list, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { pick(m_list->row(item)); });
-    m_nothing->setParent(this);
-    m_nothing->hide();
+    list()->setItemDelegate(new SearchMenuDelegate(list()));
 }
 
 void SearchMenu::setRows(const QList<SearchMenuRow>& rows)
 {
     m_rows = rows;
-    find();
+    findAgain();
 }
 
 void SearchMenu::setOther(std::function<std::optional<SearchMenuRow>(const QString& typed)> other)
@@ -113,14 +82,8 @@ void SearchMenu::setOther(std::function<std::optional<SearchMenuRow>(const QStri
     m_other = std::move(other);
 }
 
-void SearchMenu::setNothingFound(const QString& text)
+int SearchMenu::find(const QString& typed)
 {
-    m_nothing->setText(text);
-}
-
-void SearchMenu::find()
-{
-    const QString typed = m_field->text().trimmed();
     m_found = m_rows;
     if (!typed.isEmpty()) {
         const auto rank = [&typed](const SearchMenuRow& row) { return rankOf(row, typed); };
@@ -130,99 +93,25 @@ void SearchMenu::find()
         if (const auto other = m_other ? m_other(typed) : std::nullopt; other && !m_found.contains(*other))
             m_found.append(*other);
     }
-    m_list->clear();
     for (const SearchMenuRow& row : std::as_const(m_found)) {
-        auto* item = new QListWidgetItem(row.title, m_list);
+        auto* item = new QListWidgetItem(row.title, list());
         item->setData(codeRole, row.code);
         item->setData(Qt::AccessibleTextRole, u"%1, %2"_s.arg(row.title, row.code));
     }
-    m_list->setVisible(!m_found.isEmpty());
-    m_nothing->setVisible(m_found.isEmpty());
-    if (m_found.isEmpty() && isVisible()) {
-        QAccessibleEvent event(m_nothing, QAccessible::Alert);
-        QAccessible::updateAccessibility(&event);
-    }
-    goTo(0);
+    return 0;
 }
 
-// As high with few rows as with many: what one types must not move the menu about.
 int SearchMenu::heightIn(int)
 {
     const int rows = int(qBound(qsizetype(1), m_rows.size(), qsizetype(mostRows)));
-    return 2 * px(padding) + px(fieldSide + fieldHeight + belowField) + rows * px(rowHeight);
-}
-
-void SearchMenu::arrange(const QRect& box)
-{
-    const QRect inner = box.adjusted(px(padding), px(padding), -px(padding), -px(padding));
-    m_field->setGeometry(
-        inner.left() + px(fieldSide), inner.top() + px(fieldSide), inner.width() - 2 * px(fieldSide), px(fieldHeight));
-    const QRect rows = inner.adjusted(0, px(fieldSide + fieldHeight + belowField), 0, 0);
-    m_list->setGeometry(rows);
-    m_nothing->setGeometry(rows.adjusted(px(rowSide), 0, -px(rowSide), 0));
-}
-
-void SearchMenu::showEvent(QShowEvent* event)
-{
-    Popover::showEvent(event);
-    m_field->setFocus(Qt::PopupFocusReason);
-}
-
-void SearchMenu::goTo(int row)
-{
-    if (m_found.isEmpty())
-        return;
-    const int to = qBound(0, row, int(m_found.size()) - 1);
-    m_list->setCurrentRow(to);
-    // The keyboard stays in the field; this tells a screen reader which row the keys have come to.
-    QAccessibleEvent event(m_list, QAccessible::Focus);
-    event.setChild(to);
-    QAccessible::updateAccessibility(&event);
+    return heightWith(rows * px(rowHeight));
 }
 
 void SearchMenu::pick(int row)
 {
-    if (row < 0 || row >= m_found.size())
-        return;
     const SearchMenuRow found = m_found.at(row);
     close();
     emit picked(found);
-}
-
-bool SearchMenu::useKey(int key)
-{
-    const int last = int(m_found.size()) - 1;
-    const int now = m_list->currentRow();
-    switch (key) {
-    case Qt::Key_Down:
-        goTo(now == last ? 0 : now + 1);
-        return true;
-    case Qt::Key_Up:
-        goTo(now <= 0 ? last : now - 1);
-        return true;
-    case Qt::Key_PageDown:
-        goTo(now + mostRows);
-        return true;
-    case Qt::Key_PageUp:
-        goTo(now - mostRows);
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        pick(now);
-        return true;
-    case Qt::Key_Escape:
-        close();
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool SearchMenu::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_field && event->type() == QEvent::KeyPress && useKey(static_cast<QKeyEvent*>(event)->key()))
-        return true;
-    return Popover::eventFilter(watched, event);
 }
 
 }  // namespace Quorbel

@@ -2,19 +2,14 @@
 // Thread: the main thread. Knows nothing of what its rows stand for.
 #pragma once
 
-#include "ui/controls/attached/Popover.h"
+#include "ui/controls/attached/SearchPopover.h"
 
 #include <QList>
 
 #include <functional>
 #include <optional>
 
-class QListWidget;
-
 namespace Quorbel {
-
-class QBTextField;
-class ThemedLabel;
 
 /// One that can be picked.
 struct SearchMenuRow {
@@ -23,42 +18,28 @@ struct SearchMenuRow {
     bool operator==(const SearchMenuRow&) const = default;
 };
 
-/// The keyboard stays in the field: Up, Down, Page Up and Down go through the rows, Return picks. As high as eight
-/// rows.
-class SearchMenu final : public Popover {
+/// As high as eight rows, and as high with few as with many: what one types must not move the menu about.
+class SearchMenu final : public SearchPopover {
     Q_OBJECT
 
 public:
     static constexpr int mostRows = 8;
 
-    /// `name` is what screen readers hear, `placeholder` stands in the empty field.
     SearchMenu(const QString& name, const QString& placeholder, QWidget* opener);
     void setRows(const QList<SearchMenuRow>& rows);
     /// Makes a row of what was typed, or none.
     void setOther(std::function<std::optional<SearchMenuRow>(const QString& typed)> other);
-    /// Said in the place of the rows when nothing is found.
-    void setNothingFound(const QString& text);
-    QBTextField* field() const { return m_field; }
-    QListWidget* list() const { return m_list; }
 
 signals:
     void picked(const Quorbel::SearchMenuRow& row);
 
 protected:
     int heightIn(int width) override;
-    void arrange(const QRect& box) override;
-    void showEvent(QShowEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    int find(const QString& typed) override;
+    void pick(int row) override;
+    int pageRows() const override { return mostRows; }
 
 private:
-    void find();
-    void pick(int row);
-    bool useKey(int key);
-    void goTo(int row);
-
-    QBTextField* m_field;
-    QListWidget* m_list;
-    ThemedLabel* m_nothing;
     QList<SearchMenuRow> m_rows;
     QList<SearchMenuRow> m_found;
     std::function<std::optional<SearchMenuRow>(const QString&)> m_other;

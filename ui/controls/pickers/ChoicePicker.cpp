@@ -1,11 +1,10 @@
 #include "ui/controls/pickers/ChoicePicker.h"
 
-#include "ui/controls/pickers/ChoiceList.h"
 #include "ui/controls/HoverFade.h"
+#include "ui/controls/pickers/ChoiceList.h"
+#include "ui/controls/pickers/PickerFace.h"
 #include "ui/controls/theme/FocusRing.h"
-#include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
-#include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QKeyEvent>
@@ -77,15 +76,7 @@ void ChoicePicker::paintEvent(QPaintEvent*)
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
     painter.setOpacity(opacity());
-    paintFieldFrame(painter, rect(), { true, hasFocus(), false, fade()->hover() }, theme);
-    painter.setPen(theme.text);
-    const qreal icon = pxF(14);
-    const QRectF inner = QRectF(rect()).adjusted(pxF(10), 0, -pxF(8), 0);
-    const QRectF title = inner.adjusted(0, 0, -icon - pxF(4), 0);
-    painter.drawText(title, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-        fontMetrics().elidedText(text(), Qt::ElideRight, int(title.width())));
-    Icon::paint(
-        painter, QRectF(inner.right() - icon, 0, icon, height()), u"chevron.up.chevron.down"_s, icon, theme.muted);
+    PickerFace::paint(painter, rect(), text(), theme.text, { true, hasFocus(), false, fade()->hover() }, theme);
 }
 
 }  // namespace Quorbel

@@ -1,11 +1,10 @@
 #include "ui/controls/pickers/OffsetPicker.h"
 
-#include "ui/controls/pickers/ChoiceList.h"
 #include "ui/controls/HoverFade.h"
+#include "ui/controls/pickers/ChoiceList.h"
+#include "ui/controls/pickers/PickerFace.h"
 #include "ui/controls/theme/FocusRing.h"
-#include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
-#include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QKeyEvent>
@@ -93,13 +92,7 @@ void OffsetPicker::paintEvent(QPaintEvent*)
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
     painter.setOpacity(opacity());
-    paintFieldFrame(painter, rect(), { true, hasFocus(), m_edited, fade()->hover() }, theme);
-    painter.setPen(theme.text);
-    const QRectF inner = QRectF(rect()).adjusted(pxF(10), 0, -pxF(8), 0);
-    painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
-    const qreal icon = pxF(14);
-    Icon::paint(
-        painter, QRectF(inner.right() - icon, 0, icon, height()), u"chevron.up.chevron.down"_s, icon, theme.muted);
+    PickerFace::paint(painter, rect(), text(), theme.text, { true, hasFocus(), m_edited, fade()->hover() }, theme);
 }
 
 }  // namespace Quorbel

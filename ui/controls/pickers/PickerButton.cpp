@@ -1,10 +1,9 @@
 #include "ui/controls/pickers/PickerButton.h"
 
 #include "ui/controls/HoverFade.h"
+#include "ui/controls/pickers/PickerFace.h"
 #include "ui/controls/theme/FocusRing.h"
-#include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
-#include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QKeyEvent>
@@ -63,15 +62,7 @@ void PickerButton::paintEvent(QPaintEvent*)
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
     painter.setOpacity(opacity());
-    paintFieldFrame(painter, rect(), { true, hasFocus(), false, fade()->hover() }, theme);
-    painter.setPen(theme.text);
-    const QRectF inner = QRectF(rect()).adjusted(pxF(10), 0, -pxF(8), 0);
-    const qreal icon = pxF(14);
-    const int room = int(inner.width() - icon - pxF(6));
-    painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-        fontMetrics().elidedText(text(), Qt::ElideRight, room));
-    Icon::paint(
-        painter, QRectF(inner.right() - icon, 0, icon, height()), u"chevron.up.chevron.down"_s, icon, theme.muted);
+    PickerFace::paint(painter, rect(), text(), theme.text, { true, hasFocus(), false, fade()->hover() }, theme);
 }
 
 }  // namespace Quorbel
