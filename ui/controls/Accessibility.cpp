@@ -1,13 +1,14 @@
 #include "ui/controls/Accessibility.h"
 
 #include "ui/controls/Buttons.h"
-#include "ui/controls/pickers/ChoicePicker.h"
-#include "ui/controls/pickers/OffsetPicker.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/SuggestionList.h"
 #include "ui/controls/Toggles.h"
 #include "ui/controls/attached/MenuRow.h"
+#include "ui/controls/cards/FoldLine.h"
+#include "ui/controls/pickers/ChoicePicker.h"
+#include "ui/controls/pickers/OffsetPicker.h"
 #include "ui/controls/tokens/TokenEdit.h"
 #include "ui/controls/tokens/TokenEditAccess.h"
 
@@ -32,7 +33,7 @@ QList<QWidget*> openPopups(const QWidget* widget)
 }
 
 // Buttons, check boxes, switches: what they are called, whether they are on, and how to press them.
-class ButtonDescription final : public QAccessibleWidget {
+class ButtonDescription : public QAccessibleWidget {
 public:
     ButtonDescription(QAbstractButton* button, QAccessible::Role role)
         : QAccessibleWidget(button, role)
@@ -94,6 +95,42 @@ public:
 
 private:
     QAbstractButton* m_button;
+};
+
+// A line that folds what is below it.
+class FoldDescription final : public ButtonDescription {
+public:
+    explicit FoldDescription(FoldLine* line)
+        : ButtonDescription(line, QAccessible::Button)
+        , m_line(line)
+    {
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = ButtonDescription::state();
+        state.expandable = true;
+        state.expanded = m_line->isOpen();
+        state.collapsed = !m_line->isOpen();
+        return state;
+    }
+
+    // The tooltip repeats it.
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Description ? m_line->accessibleDescription() : ButtonDescription::text(kind);
+    }
+
+    QStringList actionNames() const override
+    {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (m_line->isEnabled())
+            names.prepend(toggleAction());
+        return names;
+    }
+
+private:
+    FoldLine* m_line;
 };
 
 // A number between two limits.
@@ -271,6 +308,8 @@ public:
 
 QAccessibleInterface* describeButton(QAbstractButton* button)
 {
+    if (auto* line = qobject_cast<FoldLine*>(button))
+        return new FoldDescription(line);
     if (qobject_cast<QBCheckbox*>(button) || qobject_cast<QBSwitch*>(button))
         return new ButtonDescription(button, QAccessible::CheckBox);
     if (qobject_cast<MenuRow*>(button) && button->isCheckable())

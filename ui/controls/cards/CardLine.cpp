@@ -1,0 +1,87 @@
+#include "ui/controls/cards/CardLine.h"
+
+#include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr qreal high = 32;
+constexpr qreal chevron = 12;
+constexpr qreal chevronRight = 4;  // from the chevron to the end of the line
+constexpr qreal gap = 7;
+constexpr qreal ringSide = 6;
+constexpr qreal radius = 6;
+
+QFont titleFont()
+{
+    return verbatimFont(13, QFont::Medium);
+}
+
+}  // namespace
+
+CardLine::CardLine(QWidget* parent)
+    : FoldLine({}, parent)
+{
+    onRestyle(this, [this] {
+        updateGeometry();
+        showToolTip();
+    });
+    installFocusRing(this, { RingShape::tight, radius, {}, [this] {
+                                return QRectF(rect()).adjusted(-pxF(ringSide), 0, pxF(ringSide), 0);
+                            } });
+}
+
+QSize CardLine::sizeHint() const
+{
+    return { px(240), px(high) };
+}
+
+QSize CardLine::minimumSizeHint() const
+{
+    return { px(90), px(high) };
+}
+
+QRectF CardLine::summaryRect() const
+{
+    return QRectF(rect()).adjusted(0, 0, -pxF(gap + chevron + chevronRight), 0);
+}
+
+QString CardLine::hiddenText() const
+{
+    if (!isOpen())
+        return FoldLine::hiddenText();
+    return QFontMetricsF(titleFont()).horizontalAdvance(text()) > width() ? text() : QString();
+}
+
+void CardLine::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Delete && !event->modifiers() && !isOpen())
+        emit removeAsked();
+    else
+        FoldLine::keyPressEvent(event);
+}
+
+void CardLine::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    painter.setOpacity(opacity());
+    if (!isOpen()) {
+        summary().paint(painter, summaryRect(), theme);
+        const QRectF end = QRectF(rect()).adjusted(0, 0, -pxF(chevronRight), 0);
+        return paintChevron(painter, QRectF(end.right() - pxF(chevron), 0, pxF(chevron), height()));
+    }
+    painter.setFont(titleFont());
+    painter.setPen(theme.text);
+    painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+        painter.fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+}
+
+}  // namespace Quorbel

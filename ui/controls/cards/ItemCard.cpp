@@ -1,0 +1,197 @@
+#include "ui/controls/cards/ItemCard.h"
+
+#include "ui/controls/Accessibility.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/ThemedMenu.h"
+#include "ui/controls/cards/CardLine.h"
+#include "ui/controls/cards/EditedDot.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Painting.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Points.
+constexpr qreal radius = 9;
+constexpr qreal side = 11;  // the edge and the room beside the content
+constexpr qreal above = 5;
+constexpr qreal below = 5;
+constexpr qreal belowContent = 11;
+constexpr qreal belowLine = 4;
+constexpr qreal moreOut = 5;  // the menu's button hangs out into the room beside the content
+
+}  // namespace
+
+ItemCard::ItemCard(const QString& item, QWidget* parent)
+    : QWidget(parent)
+    , m_item(item)
+    , m_column(new QVBoxLayout(this))
+    , m_top(new QHBoxLayout)
+    , m_body(new QHBoxLayout)
+    , m_line(new CardLine(this))
+    , m_more(new QBIconButton(u"ellipsis"_s, {}, this))
+{
+    describeAs(staticMetaObject, QAccessible::Grouping);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_more->setSizes({ 28, 26 }, 16, 0, 6);
+    m_more->hide();
+    m_top->setSpacing(0);
+    m_top->addWidget(m_line, 1);
+    m_top->addWidget(m_more);
+    m_column->addLayout(m_top);
+    m_column->addLayout(m_body);
+    connect(m_line, &FoldLine::openAsked, this, &ItemCard::openAsked);
+    connect(m_line, &CardLine::removeAsked, this, &ItemCard::removeAsked);
+    connect(m_more, &QAbstractButton::clicked, this, [this] { makeMenu()->popUpUnder(m_more, Qt::AlignRight, true); });
+    addMoving();
+    onRestyle(this, [this] { layOut(); });
+}
+
+void ItemCard::layOut()
+{
+    const int out = px(moreOut);
+    m_top->setContentsMargins(0, 0, isOpen() ? 0 : out, 0);
+    const bool hasFields = isOpen() && m_content;
+    m_body->setContentsMargins(0, hasFields ? px(belowLine) : 0, out, hasFields ? px(belowContent - below) : 0);
+    m_column->setSpacing(0);
+    m_column->setContentsMargins(px(EditedDot::room + side), px(above), px(side) - out, px(below));
+}
+
+void ItemCard::addMoving()
+{
+    m_up = new QAction(u"Move Up"_s, this);
+    m_down = new QAction(u"Move Down"_s, this);
+    m_remove = new QAction(u"Remove"_s, this);
+    connect(m_up, &QAction::triggered, this, [this] { emit moveAsked(-1); });
+    connect(m_down, &QAction::triggered, this, [this] { emit moveAsked(1); });
+    connect(m_remove, &QAction::triggered, this, &ItemCard::removeAsked);
+    setCanMove(false, false);
+    for (const int by : { -1, 1 }) {
+        const QKeySequence keys(Qt::CTRL | Qt::SHIFT | (by < 0 ? Qt::Key_Up : Qt::Key_Down));
+        auto* shortcut = new QShortcut(keys, this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        const auto move = [this, by] { moveFocused(by); };
+        connect(shortcut, &QShortcut::activated, this, move);
+        // A card within a card: both have the keys.
+        connect(shortcut, &QShortcut::activatedAmbiguously, this, move);
+        (by < 0 ? m_up : m_down)->setShortcut(keys);
+        (by < 0 ? m_up : m_down)->setShortcutContext(Qt::WidgetShortcut);
+    }
+}
+
+// The innermost of the cards around the keyboard.
+void ItemCard::moveFocused(int by)
+{
+    QWidget* around = QApplication::focusWidget();
+    while (around && !qobject_cast<ItemCard*>(around))
+        around = around->parentWidget();
+    if (auto* card = qobject_cast<ItemCard*>(around); card && (by < 0 ? card->m_up : card->m_down)->isEnabled())
+        emit card->moveAsked(by);
+}
+
+void ItemCard::setSummary(const Summary& summary)
+{
+    m_line->setTitle(summary.first);
+    m_line->setSummary(summary);
+    setAccessibleName(summary.first);
+    m_more->setName(u"Actions for this %1"_s.arg(m_item));
+}
+
+void ItemCard::setContent(QWidget* content)
+{
+    delete m_content;
+    m_content = content;
+    m_body->addWidget(content);
+    content->setVisible(isOpen());
+    layOut();
+}
+
+bool ItemCard::isOpen() const
+{
+    return m_line->isOpen();
+}
+
+void ItemCard::setOpen(bool open)
+{
+    if (open == isOpen())
+        return;
+    // The keyboard must not be left in what goes.
+    const QWidget* focus = QApplication::focusWidget();
+    if (!open && focus && focus != m_line && isAncestorOf(focus))
+        m_line->setFocus(Qt::OtherFocusReason);
+    m_line->setOpen(open);
+    m_more->setVisible(open);
+    if (m_content)
+        m_content->setVisible(open);
+    layOut();
+    update();
+}
+
+void ItemCard::setEdited(bool edited)
+{
+    m_line->setEdited(edited);
+    update();
+}
+
+void ItemCard::setCanMove(bool up, bool down)
+{
+    m_up->setEnabled(up);
+    m_down->setEnabled(down);
+}
+
+QWidget* ItemCard::input() const
+{
+    return m_line;
+}
+
+QList<QWidget*> ItemCard::tabStops() const
+{
+    return { m_line, m_more };
+}
+
+ThemedMenu* ItemCard::makeMenu()
+{
+    auto* menu = new ThemedMenu(this);
+    menu->addActions(actions());
+    if (!menu->isEmpty())
+        menu->addSeparator();
+    menu->addActions({ m_up, m_down });
+    menu->addSeparator();
+    menu->addAction(m_remove);
+    return menu;
+}
+
+// On the line, or in the room around the fields; a field has a menu of its own.
+void ItemCard::contextMenuEvent(QContextMenuEvent* event)
+{
+    ThemedMenu* menu = makeMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        menu->popUpUnder(isOpen() ? static_cast<QWidget*>(m_more) : m_line, Qt::AlignRight, true);
+    else
+        menu->popup(event->globalPos());
+}
+
+void ItemCard::paintEvent(QPaintEvent*)
+{
+    const Theme& theme = Theme::of(this);
+    QPainter painter(this);
+    paintBox(painter, QRectF(rect()).adjusted(px(EditedDot::room), 0, 0, 0), pxF(radius), Qt::transparent,
+        QPen(theme.line, 1));
+    if (m_line->isEdited())
+        EditedDot::paint(painter, m_line->geometry().center().y() + .5, theme);
+}
+
+}  // namespace Quorbel
