@@ -8,6 +8,7 @@
 #include "ui/controls/attached/MenuRow.h"
 #include "ui/controls/cards/FoldLine.h"
 #include "ui/controls/pickers/ChoicePicker.h"
+#include "ui/controls/pickers/CodePicker.h"
 #include "ui/controls/pickers/OffsetPicker.h"
 #include "ui/controls/tokens/TokenEdit.h"
 #include "ui/controls/tokens/TokenEditAccess.h"
@@ -131,6 +132,40 @@ public:
 
 private:
     FoldLine* m_line;
+};
+
+// A field with one code: its value is the name of the code.
+class CodeDescription final : public ButtonDescription {
+public:
+    explicit CodeDescription(CodePicker* picker)
+        : ButtonDescription(picker, QAccessible::ComboBox)
+        , m_picker(picker)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Value)
+            return m_picker->text();
+        if (kind == QAccessible::Description && m_picker->code().isEmpty() && !m_picker->placeholder().isEmpty()) {
+            const QString more = m_picker->accessibleDescription();
+            return more.isEmpty() ? m_picker->placeholder() : m_picker->placeholder() + QLatin1String(", ") + more;
+        }
+        return kind == QAccessible::Description ? m_picker->accessibleDescription() : ButtonDescription::text(kind);
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = ButtonDescription::state();
+        state.hasPopup = true;
+        state.expandable = true;
+        state.expanded = m_picker->isOpen();
+        state.collapsed = !m_picker->isOpen();
+        return state;
+    }
+
+private:
+    CodePicker* m_picker;
 };
 
 // A number between two limits.
@@ -310,6 +345,8 @@ QAccessibleInterface* describeButton(QAbstractButton* button)
 {
     if (auto* line = qobject_cast<FoldLine*>(button))
         return new FoldDescription(line);
+    if (auto* picker = qobject_cast<CodePicker*>(button))
+        return new CodeDescription(picker);
     if (qobject_cast<QBCheckbox*>(button) || qobject_cast<QBSwitch*>(button))
         return new ButtonDescription(button, QAccessible::CheckBox);
     if (qobject_cast<MenuRow*>(button) && button->isCheckable())
