@@ -310,7 +310,8 @@ void QBTextButton::paintEvent(QPaintEvent*)
         Icon::paint(painter, icon, m_trailing, pxF(trailingIcon), painter.pen().color(), 2.1);
         inner.setRight(inner.right() - px(trailingIcon + trailingGap));
     }
-    painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
+    painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+        painter.fontMetrics().elidedText(text(), Qt::ElideRight, inner.width()));
     if (width() < sizeHint().width())
         return;  // the keys are the first to give way
     painter.setFont(sansFont(11));

@@ -294,6 +294,36 @@ private slots:
         QVERIFY(picker->state().collapsed);
     }
 
+    // What one types must not move the field under it, wherever there is room for the list.
+    void theFieldOfAListStays_data()
+    {
+        QTest::addColumn<int>("above");
+        QTest::newRow("opens below") << 0;
+        QTest::newRow("opens above") << 310;
+    }
+    void theFieldOfAListStays()
+    {
+        QFETCH(int, above);
+        Stage stage;
+        stage.add(new QWidget)->setFixedHeight(above);
+        auto* picker = stage.add(new CodePicker(u"Code"_s));
+        picker->setSource(codes());
+        picker->setPlaceholder(u"Required by "_s + QString(80, u'm'));
+        stage.show();
+        QTest::keyClick(picker, Qt::Key_Down);
+        CodePopover* list = openPopover();
+        QVERIFY(list);
+        const auto top = [list] { return list->field()->mapToGlobal(QPoint()); };
+        const QPoint before = top();
+        QCOMPARE(before.y() < picker->mapToGlobal(QPoint()).y(), above > 0);
+        for (const QString& typed : { u"captu"_s, u"captuq"_s, u"c"_s, QString() }) {
+            list->field()->setText(typed);
+            QCOMPARE(top(), before);
+        }
+        list->close();
+        QVERIFY(audit(picker).faults.isEmpty());
+    }
+
     // The owner keeps them, as the form does.
     void severalCodes()
     {
@@ -327,6 +357,8 @@ private slots:
         QCOMPARE(picker->codes(), QStringList{ u"c2"_s });
         QCOMPARE(QApplication::focusWidget()->accessibleName(), u"Multi-frame computational capture"_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
+        picker->setPlaceholder(u"Required by "_s + QString(80, u'm'));
+        QCOMPARE(audit(picker).faults, QStringList());
         QCOMPARE(picker->codes(), QStringList());
         QVERIFY(picker->input()->hasFocus());
         QTRY_COMPARE(picker->height(), px(30));
@@ -422,7 +454,7 @@ private slots:
                 form.window()->resize(width, form.window()->sizeHint().height());
                 QTest::qWait(0);
             }
-            form.contact->setFocus(Qt::TabFocusReason);
+            (theme.isDark ? form.folded->input() : form.contact)->setFocus(Qt::TabFocusReason);
             keepPicture(
                 form.window(), u"parts-%1-%2-%3pt"_s.arg(theme.isDark ? u"dark"_s : u"light"_s).arg(width).arg(points));
             const QStringList faults = audit(form.window()).faults;

@@ -1,7 +1,9 @@
 #include "ui/controls/cards/CardLine.h"
 
+#include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QKeyEvent>
@@ -13,11 +15,12 @@ namespace {
 
 // Points.
 constexpr qreal high = 32;
+constexpr qreal highFolded = 42;
 constexpr qreal chevron = 12;
 constexpr qreal chevronRight = 4;  // from the chevron to the end of the line
 constexpr qreal gap = 7;
 constexpr qreal ringSide = 6;
-constexpr qreal radius = 6;
+constexpr qreal radius = 9;
 
 QFont titleFont()
 {
@@ -33,24 +36,29 @@ CardLine::CardLine(QWidget* parent)
         updateGeometry();
         showToolTip();
     });
-    installFocusRing(this, { RingShape::tight, radius, {}, [this] {
-                                return QRectF(rect()).adjusted(-pxF(ringSide), 0, pxF(ringSide), 0);
-                            } });
+    installFocusRing(this, { RingShape::tight, radius, {}, [this] { return ringBox(); } });
+}
+
+// All of a folded card.
+QRectF CardLine::ringBox() const
+{
+    const qreal out = isOpen() ? pxF(ringSide) : 0;
+    return QRectF(rect()).adjusted(-out, 0, out, 0);
 }
 
 QSize CardLine::sizeHint() const
 {
-    return { px(240), px(high) };
+    return { px(240), px(isOpen() ? high : highFolded) };
 }
 
 QSize CardLine::minimumSizeHint() const
 {
-    return { px(90), px(high) };
+    return { px(90), px(isOpen() ? high : highFolded) };
 }
 
 QRectF CardLine::summaryRect() const
 {
-    return QRectF(rect()).adjusted(0, 0, -pxF(gap + chevron + chevronRight), 0);
+    return QRectF(rect()).adjusted(px(side), 0, -px(side) - pxF(gap + chevron + chevronRight), 0);
 }
 
 QString CardLine::hiddenText() const
@@ -74,9 +82,11 @@ void CardLine::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setOpacity(opacity());
     if (!isOpen()) {
+        const qreal shade = theme.derived.hover.alphaF() * qMax(fade()->hover(), fade()->pressed());
+        paintBox(painter, rect(), pxF(radius), withAlpha(theme.derived.hover, shade), Qt::NoPen);
         summary().paint(painter, summaryRect(), theme);
-        const QRectF end = QRectF(rect()).adjusted(0, 0, -pxF(chevronRight), 0);
-        return paintChevron(painter, QRectF(end.right() - pxF(chevron), 0, pxF(chevron), height()));
+        const qreal end = width() - px(side) - pxF(chevronRight);
+        return paintChevron(painter, QRectF(end - pxF(chevron), 0, pxF(chevron), height()));
     }
     painter.setFont(titleFont());
     painter.setPen(theme.text);

@@ -5,11 +5,15 @@
 
 namespace Quorbel {
 
-/// 32 points high. Folded: the summary and a chevron. Open: the title alone; what else stands there is the card's.
+/// Folded it is all of the card: the summary and a chevron. Open it is the title alone, 32 points high; the room around
+/// it, and what else stands there, is the card's.
 class CardLine final : public FoldLine {
     Q_OBJECT
 
 public:
+    /// Points between the edge of a card and its texts.
+    static constexpr qreal side = 11;
+
     explicit CardLine(QWidget* parent);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -22,6 +26,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     QRectF summaryRect() const override;
     QString hiddenText() const override;
+
+private:
+    QRectF ringBox() const;
 };
 
 }  // namespace Quorbel

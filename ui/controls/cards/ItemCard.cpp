@@ -25,7 +25,6 @@ namespace {
 
 // Points.
 constexpr qreal radius = 9;
-constexpr qreal side = 11;  // the edge and the room beside the content
 constexpr qreal above = 5;
 constexpr qreal below = 5;
 constexpr qreal belowContent = 11;
@@ -38,7 +37,6 @@ ItemCard::ItemCard(const QString& item, QWidget* parent)
     : QWidget(parent)
     , m_item(item)
     , m_column(new QVBoxLayout(this))
-    , m_top(new QHBoxLayout)
     , m_body(new QHBoxLayout)
     , m_line(new CardLine(this))
     , m_more(new QBIconButton(u"ellipsis"_s, {}, this))
@@ -47,10 +45,12 @@ ItemCard::ItemCard(const QString& item, QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_more->setSizes({ 28, 26 }, 16, 0, 6);
     m_more->hide();
-    m_top->setSpacing(0);
-    m_top->addWidget(m_line, 1);
-    m_top->addWidget(m_more);
-    m_column->addLayout(m_top);
+    m_column->setSpacing(0);
+    auto* top = new QHBoxLayout;
+    top->setSpacing(0);
+    top->addWidget(m_line, 1);
+    top->addWidget(m_more);
+    m_column->addLayout(top);
     m_column->addLayout(m_body);
     connect(m_line, &FoldLine::openAsked, this, &ItemCard::openAsked);
     connect(m_line, &CardLine::removeAsked, this, &ItemCard::removeAsked);
@@ -62,11 +62,12 @@ ItemCard::ItemCard(const QString& item, QWidget* parent)
 void ItemCard::layOut()
 {
     const int out = px(moreOut);
-    m_top->setContentsMargins(0, 0, isOpen() ? 0 : out, 0);
     const bool hasFields = isOpen() && m_content;
+    const int side = isOpen() ? px(CardLine::side) : 0;
+    const int edge = isOpen() ? px(below) : 0;
     m_body->setContentsMargins(0, hasFields ? px(belowLine) : 0, out, hasFields ? px(belowContent - below) : 0);
-    m_column->setSpacing(0);
-    m_column->setContentsMargins(px(EditedDot::room + side), px(above), px(side) - out, px(below));
+    m_column->setContentsMargins(px(EditedDot::room) + side, isOpen() ? px(above) : 0, qMax(0, side - out), edge);
+    m_line->updateGeometry();
 }
 
 void ItemCard::addMoving()
@@ -111,10 +112,16 @@ void ItemCard::setSummary(const Summary& summary)
 
 void ItemCard::setContent(QWidget* content)
 {
-    delete m_content;
+    if (m_content) {
+        m_body->removeWidget(m_content);
+        m_content->hide();
+        m_content->deleteLater();  // something in it may be what asked for another
+    }
     m_content = content;
-    m_body->addWidget(content);
-    content->setVisible(isOpen());
+    if (content) {
+        m_body->addWidget(content);
+        content->setVisible(isOpen());
+    }
     layOut();
 }
 

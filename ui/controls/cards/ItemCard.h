@@ -32,7 +32,8 @@ public:
 
     /// The first part is its title.
     void setSummary(const Summary& summary);
-    /// What is seen while it is open; becomes a child of the card, in the place of the one before, which is deleted.
+    /// What is seen while it is open; becomes a child of the card, in the place of the one before, which is deleted
+    /// later. Nothing for null.
     void setContent(QWidget* content);
     QWidget* content() const { return m_content; }
     /// Emits nothing.
@@ -64,7 +65,6 @@ private:
 
     QString m_item;
     QVBoxLayout* m_column;
-    QHBoxLayout* m_top;  ///< line and button
     QHBoxLayout* m_body;  ///< around the content
     CardLine* m_line;
     QBIconButton* m_more;
