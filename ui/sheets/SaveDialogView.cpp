@@ -56,9 +56,11 @@ QString photosText(int count)
     return count == 1 ? u"1 photo"_s : u"%1 photos"_s.arg(count);
 }
 
-QString titleText(const AppModel& model)
+// What is asked about many photos takes its time to be worked out: once for each dialog.
+using AskedAgreement = std::optional<AppModel::AgreementQuestion>;
+
+QString titleText(const AppModel& model, const AskedAgreement& question)
 {
-    const auto question = model.agreementQuestion();
     if (!isSingle(model))
         return question ? u"Make %1 agree?"_s.arg(photosText(question->photos))
                         : u"Apply changes to %1 photos?"_s.arg(model.selection().size());
@@ -159,9 +161,9 @@ QList<ChangeLine> ownCustomLines(const AppModel& model)
 }
 
 // Scalar fields by id, then lists by id. Of one photo only the fields whose value is worth a second look.
-QList<ChangeLine> changeLines(const AppModel& model)
+QList<ChangeLine> changeLines(const AppModel& model, const AskedAgreement& question)
 {
-    if (const auto question = model.agreementQuestion())
+    if (question)
         return agreementLines(*question);
     if (isSingle(model)) {
         QList<ChangeLine> lines = scalarLines(
@@ -178,9 +180,9 @@ QList<ChangeLine> changeLines(const AppModel& model)
     return lines + lists.values() + ownCustomLines(model);
 }
 
-QString messageText(const AppModel& model)
+QString messageText(const AppModel& model, const AskedAgreement& question)
 {
-    if (model.agreementQuestion())
+    if (question)
         return u"Where the places of a field differ, all of them will hold what is shown of it. Lists are brought "
                u"together."_s;
     if (isSingle(model)) {
@@ -189,7 +191,7 @@ QString messageText(const AppModel& model)
             count == 1 ? QString() : u"s"_s);
     }
     QStringList labels;
-    for (const ChangeLine& line : changeLines(model))
+    for (const ChangeLine& line : changeLines(model, question))
         labels.append(line.label);
     const QString fields = labels.isEmpty() ? u"the selected fields"_s : labels.join(u", "_s);
     return u"This will modify %1 on %2 files. This can’t be undone."_s.arg(
@@ -297,10 +299,11 @@ SaveDialogView::SaveDialogView(AppModel& model, QWidget* parent)
     : SheetBody(parent)
     , m_model(model)
     , m_single(isSingle(model))
+    , m_question(model.agreementQuestion())
 {
-    setAccessibleName(titleText(model));
-    QStringList told{ messageText(model) };
-    for (const ChangeLine& line : changeLines(model))
+    setAccessibleName(titleText(model, m_question));
+    QStringList told{ messageText(model, m_question) };
+    for (const ChangeLine& line : changeLines(model, m_question))
         if (!line.note.isEmpty())
             told.append(line.label + u": "_s + line.note);
     setAccessibleDescription(told.join(u' '));
@@ -321,9 +324,9 @@ SaveDialogView::SaveDialogView(AppModel& model, QWidget* parent)
 QVBoxLayout* SaveDialogView::buildTexts()
 {
     auto* texts = new QVBoxLayout;
-    auto* title = ThemedLabel::wrapped(titleText(m_model), TextRole::text, 15, QFont::DemiBold);
+    auto* title = ThemedLabel::wrapped(titleText(m_model, m_question), TextRole::text, 15, QFont::DemiBold);
     title->setVerbatim(true);
-    auto* message = ThemedLabel::wrapped(messageText(m_model), TextRole::label, 13);
+    auto* message = ThemedLabel::wrapped(messageText(m_model, m_question), TextRole::label, 13);
     QWidget* changes = buildChanges();
     buildCheckbox();
     QList<SheetPart> parts{ { title, messageGap }, { message, listGap } };
@@ -337,7 +340,7 @@ QVBoxLayout* SaveDialogView::buildTexts()
 
 QWidget* SaveDialogView::buildChanges()
 {
-    const QList<ChangeLine> lines = changeLines(m_model);
+    const QList<ChangeLine> lines = changeLines(m_model, m_question);
     return lines.isEmpty() ? nullptr : new ChangeList(lines);
 }
 
@@ -361,16 +364,15 @@ void SaveDialogView::buildCheckbox()
 QList<QBButton*> SaveDialogView::buildButtons()
 {
     QList<QBButton*> buttons;
-    if (m_single && !m_model.agreementQuestion()) {
+    if (m_single && !m_question) {
         buttons.append(new QBButton(u"Don't Save"_s, QBButtonKind::destructive));
         connect(buttons.last(), &QAbstractButton::clicked, this, [this] { m_model.discardSaveDialog(); });
     }
     buttons.append(new QBButton(u"Cancel"_s, QBButtonKind::secondary));
     connect(buttons.last(), &QAbstractButton::clicked, this, &SaveDialogView::cancel);
-    const auto question = m_model.agreementQuestion();
-    const QString title = question ? u"Make %1"_s.arg(question->photos == 1 ? u"It Agree"_s : u"Them Agree"_s)
-        : m_single                 ? u"Save"_s
-                                   : u"Apply to %1 Photos"_s.arg(m_model.selection().size());
+    const QString title = m_question ? u"Make %1"_s.arg(m_question->photos == 1 ? u"It Agree"_s : u"Them Agree"_s)
+        : m_single                   ? u"Save"_s
+                                     : u"Apply to %1 Photos"_s.arg(m_model.selection().size());
     m_confirm = new QBButton(title, QBButtonKind::primary);
     connect(m_confirm, &QAbstractButton::clicked, this, &SaveDialogView::confirm);
     buttons.append(m_confirm);

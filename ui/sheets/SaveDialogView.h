@@ -2,13 +2,15 @@
 // Thread: the main thread. Shows the model as it is when the dialog opens, and hands its answers to it.
 #pragma once
 
+#include "app/model/AppModel.h"
 #include "ui/sheets/Sheet.h"
+
+#include <optional>
 
 class QVBoxLayout;
 
 namespace Quorbel {
 
-class AppModel;
 class QBButton;
 class QBCheckbox;
 
@@ -32,6 +34,7 @@ private:
 
     AppModel& m_model;
     bool m_single;
+    std::optional<AppModel::AgreementQuestion> m_question;  ///< asked instead, where it is one; costly for many photos
     QBCheckbox* m_dontAsk = nullptr;
     QBButton* m_confirm = nullptr;
 };
