@@ -310,9 +310,11 @@ void QBTextButton::paintEvent(QPaintEvent*)
         Icon::paint(painter, icon, m_trailing, pxF(trailingIcon), painter.pen().color(), 2.1);
         inner.setRight(inner.right() - px(trailingIcon + trailingGap));
     }
+    // Metrics round: a text that has its room is never shortened.
+    const bool isShort = width() < sizeHint().width();
     painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-        painter.fontMetrics().elidedText(text(), Qt::ElideRight, inner.width()));
-    if (width() < sizeHint().width())
+        isShort ? painter.fontMetrics().elidedText(text(), Qt::ElideRight, inner.width()) : text());
+    if (isShort)
         return;  // the keys are the first to give way
     painter.setFont(sansFont(11));
     painter.setPen(theme.muted);
