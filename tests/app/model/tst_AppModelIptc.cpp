@@ -6,6 +6,7 @@
 #include "tests/app/model/ModelFixture.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QTest>
 
 using namespace Quorbel;
@@ -95,12 +96,13 @@ void fill(AppModel& model)
             : field.kind == FieldKind::number                   ? u"4711"_s
             : field.id == "iptc.countryCode"                    ? u"CH"_s
                                                                 : u"%1, ünïcode"_s.arg(field.label.left(15));
+        const QString german = FieldLanguages::key(field.id, u"de"_s);
         if (field.isList())
             model.setItems(field.id, { text });
         else
-            model.setSingle(field.id, text);
+            model.isBatch() ? model.setBatch(field.id, text) : model.setSingle(field.id, text);
         if (field.hasLanguages)
-            model.setSingle(FieldLanguages::key(field.id, u"de"_s), u"auf Deutsch"_s);
+            model.isBatch() ? model.setBatch(german, u"auf Deutsch"_s) : model.setSingle(german, u"auf Deutsch"_s);
     }
 }
 
@@ -111,6 +113,8 @@ class tst_AppModelIptc : public QObject {
 
 private slots:
     void everyFieldIsSavedAndTakenBack();
+    void everyFormat();
+    void referenceFile();
     void structuresOfOthers();
     void severalPhotosGainStructures();
 };
@@ -153,6 +157,104 @@ void tst_AppModelIptc::everyFieldIsSavedAndTakenBack()
     QVERIFY(photos.undo());
     QCOMPARE(photos.banner(), QString());
     QCOMPARE(photos.xmp(u"a.jpg"_s), before);
+}
+
+// One save over five formats; what each holds then is read by the tool, and by exiv2 where it knows the property.
+void tst_AppModelIptc::everyFormat()
+{
+    const QString real = qEnvironmentVariable("QUORBEL_TEST_PHOTOS");
+    if (real.isEmpty())
+        QSKIP("no photos: QUORBEL_TEST_PHOTOS is not set");
+    Photos photos;
+    photos.addTitled({ u"a.jpg"_s });
+    QStringList names{ u"a.jpg"_s };
+    for (const QString& name : { u"quad-jpeg.tif"_s, u"star180.png"_s, u"flower.webp"_s, u"testDNG.dng"_s }) {
+        QVERIFY(QFile::copy(real + u"/valid/"_s + name, photos.folder.path() + u'/' + name));
+        QFile::setPermissions(photos.folder.path() + u'/' + name, QFile::ReadOwner | QFile::WriteOwner);
+        names.append(name);
+    }
+    QVERIFY(photos.open());
+    photos->selectAllPhotos();
+    const auto isKnown = [&](const QString& name) { return photos->details(photos.url(name)) != nullptr; };
+    QVERIFY(QTest::qWaitFor([&] { return std::all_of(names.cbegin(), names.cend(), isKnown); }, 30000));
+    fill(*photos.model);
+    const auto values = photos->batchValues();
+    const auto lists = photos->batchLists();
+    QVERIFY(photos.save());
+    QCOMPARE(photos.banner(), QString());
+    QVERIFY(QTest::qWaitFor([&] { return std::all_of(names.cbegin(), names.cend(), isKnown); }, 30000));
+    for (const QString& name : std::as_const(names)) {
+        const PhotoDetails details = *photos->details(photos.url(name));
+        for (const FieldSpec& field : IptcSchema::all()) {
+            const StructureSpec* structure = IptcStructures::spec(field.structure);
+            const QStringList saved = field.isList() ? lists.value(field.id) : QStringList(values.value(field.id));
+            const QStringList read =
+                field.isList() ? details.lists.value(field.id) : QStringList(details.texts.value(field.id));
+            const bool isSame = structure ? StructureText::areSame(*structure, read, saved) : read == saved;
+            QVERIFY2(isSame && !saved.join(QString()).isEmpty(), qPrintable(name + u' ' + field.id));
+        }
+        const auto found = exiv2Values(photos.url(name));
+        QCOMPARE(found.value(u"Xmp.iptc.CountryCode"_s), QStringList{ u"CH"_s });
+        QCOMPARE(found.value(u"Xmp.iptcExt.MaxAvailWidth"_s), QStringList{ u"4711"_s });
+        QCOMPARE(
+            found.value(u"Xmp.plus.ModelReleaseStatus"_s), QStringList{ u"http://ns.useplus.org/ldf/vocab/MR-UMR"_s });
+        QCOMPARE(found.value(u"Xmp.iptc.CreatorContactInfo/Iptc4xmpCore:CiAdrCity"_s),
+            QStringList{ u"{CiAdrCity, [a|b] é東"_s });
+        QCOMPARE(found.value(u"Xmp.iptcExt.LocationShown[1]/Iptc4xmpExt:City"_s), QStringList{ u"{City, [a|b] é東"_s });
+    }
+}
+
+// A file with every property, written from the published list by hand (iptc-reference.xmp): all of them in place, and
+// after an edit of two of them all others as they were.
+void tst_AppModelIptc::referenceFile()
+{
+    Photos photos;
+    photos.addTitled(jpgs(u"a"_s));
+    const QString path = photos.url(u"a.jpg"_s).toLocalFile();
+    exiftool({ u"-overwrite_original"_s, u"-XMP<=" QUORBEL_IPTC_REFERENCE ""_s, path });
+    QVERIFY(photos.open());
+    photos.select(u"a"_s);
+    QVERIFY(photos.knows(u"a"_s));
+    const PhotoDetails details = *photos->details(photos.url(u"a.jpg"_s));
+    QCOMPARE(details.texts.value(u"iptc.dataMining"_s), u"DMI-PROHIBITED"_s);
+    for (const FieldSpec& field : IptcSchema::all()) {
+        const QStringList held =
+            field.isList() ? details.lists.value(field.id) : QStringList(details.texts.value(field.id));
+        QVERIFY2(!held.isEmpty() && !held.contains(QString()), qPrintable(field.id));
+        if (field.hasLanguages)
+            QVERIFY2(details.texts.value(FieldLanguages::key(field.id, u"de"_s)).endsWith(u"auf Deutsch"_s),
+                qPrintable(field.id));
+        const StructureSpec* structure = IptcStructures::spec(field.structure);
+        for (const QString& text : structure ? held : QStringList()) {
+            QCOMPARE(StructureText::foreignMembers(*structure, text), QStringList());
+            for (const StructureMember& member : structure->members)
+                QVERIFY2(StructureText::members(text).contains(member.name), qPrintable(field.id + member.name));
+        }
+    }
+    const auto all = [&] {
+        return QJsonDocument::fromJson(exiftool({ u"-json"_s, u"-struct"_s, u"-G1"_s, u"-n"_s, u"-XMP:all"_s, path }))
+            .array()
+            .at(0)
+            .toObject();
+    };
+    QJsonObject before = all();
+    QVERIFY(before.size() > 70);
+    QStringList places = details.lists.value(u"iptc.locationsShown"_s);
+    places[1].replace(u"\"City 2 (ref)\""_s, u"\"Chur\""_s);
+    photos->setItems(u"iptc.locationsShown"_s, places);
+    photos->setSingle(u"iptc.jobTitle"_s, u"Editor"_s);
+    QVERIFY(photos.save());
+    QCOMPARE(photos.banner(), QString());
+    QJsonObject after = all();
+    QJsonArray shown = before[u"XMP-iptcExt:LocationShown"_s].toArray();
+    QJsonObject second = shown.at(1).toObject();
+    second[u"City"_s] = u"Chur"_s;
+    shown[1] = second;
+    before[u"XMP-iptcExt:LocationShown"_s] = shown;
+    before[u"XMP-photoshop:AuthorsPosition"_s] = u"Editor"_s;
+    after[u"XMP-x:XMPToolkit"_s] = before[u"XMP-x:XMPToolkit"_s];
+    for (const QString& tag : before.keys() + after.keys())
+        QVERIFY2(before[tag] == after[tag], qPrintable(tag));
 }
 
 // A program that knows more than the standard: what it put into a structure is either kept, or the photo is left alone.
