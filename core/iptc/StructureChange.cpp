@@ -84,11 +84,15 @@ private:
         for (const QString& name : old.keys() + now.keys()) {
             if (old.value(name) == now.value(name))
                 continue;
-            const QString tag = IptcStructures::flatTag(m_field.id, name);
-            if (tag.isEmpty() || !IptcStructures::member(m_structure, name) || !isPlain(old, name)
-                || !isPlain(now, name))
+            const StructureMember* member = IptcStructures::member(m_structure, name);
+            QString tag = IptcStructures::flatTag(m_field.id, name);
+            if (tag.isEmpty() || !member || !isPlain(old, name) || !isPlain(now, name))
                 return {};
-            if (const Assignment one{ .tag = tag, .value = now.value(name).toString() }; !args.contains(one))
+            // The tag alone would take the text's other languages away.
+            if (member->hasLanguages && name == member->name)
+                tag += u"-x-default"_s;
+            const auto operation = member->kind == FieldKind::code && now.contains(name) ? restore : set;
+            if (const Assignment one{ tag, operation, now.value(name).toString() }; !args.contains(one))
                 args.append(one);
         }
         return args;

@@ -77,6 +77,12 @@ struct Photos : ModelFixture {
         model->undoSave();
         return waitUntilIdle();
     }
+    // Nothing while it is being looked at again.
+    QStringList held(const QString& name, const QString& id) const
+    {
+        const PhotoDetails* details = model->details(url(name));
+        return details ? details->lists.value(id) : QStringList();
+    }
     QByteArray xmp(const QString& name) const { return exiftool({ u"-b"_s, u"-XMP"_s, url(name).toLocalFile() }); }
     QString banner() const { return model->errorMessage().value_or(QString()); }
 
@@ -303,6 +309,31 @@ void tst_AppModelIptc::structuresOfOthers()
     QVERIFY2(photos.banner().contains(u"Mood"_s), qPrintable(photos.banner()));
     QCOMPARE(photos->unsavedCount(), 1);
     QCOMPARE(photos.xmp(u"a.jpg"_s), xmp);
+
+    // Where it is the only one, its members can be written one by one.
+    photos->setItems(id, { items.at(0) });
+    photos->discardSaveDialog();
+    exiftool({ u"-overwrite_original"_s, u"-XMP-iptcExt:LocationShown-={City=Basel}"_s,
+        u"-XMP-iptcExt:LocationShown-={City=Chur}"_s, photos.url(u"a.jpg"_s).toLocalFile() });
+    photos.relaunch();
+    QVERIFY(photos.open());
+    photos.select(u"a"_s);
+    QVERIFY(photos.knows(u"a"_s));
+    QString only = photos->draftLists().value(id).value(0);
+    QVERIFY2(only.contains(u"Rome"_s) && only.contains(u"calm"_s), qPrintable(only));
+    only.replace(u"Rome"_s, u"Roma"_s);
+    only.insert(1, uR"("LocationName":"Forum","LocationName-de":"Markt",)"_s);
+    photos->setItems(id, { only });
+    QVERIFY(photos.save());
+    QCOMPARE(photos.banner(), QString());
+    QVERIFY(photos.xmp(u"a.jpg"_s).contains("calm"));
+    QCOMPARE(photos->unsavedCount(), 0);
+    QTRY_COMPARE(photos.held(u"a.jpg"_s, id), QStringList{ StructureText::tidied(only) });
+    only.replace(u"Forum"_s, u"Foro"_s);
+    photos->setItems(id, { only });
+    QVERIFY(photos.save());
+    QCOMPARE(photos.banner(), QString());
+    QTRY_COMPARE(photos.held(u"a.jpg"_s, id), QStringList{ StructureText::tidied(only) });
 }
 
 void tst_AppModelIptc::severalPhotosGainStructures()
@@ -329,7 +360,7 @@ void tst_AppModelIptc::severalPhotosGainStructures()
     const QMap<QString, QStringList> expected{ { u"a.jpg"_s, { item(R"({"City":"Rome"})"), bern } },
         { u"b.jpg"_s, { item(R"({"City":"Bern","CountryName":"Schweiz"})"), bern } }, { u"c.jpg"_s, { bern } } };
     for (auto photo = expected.cbegin(); photo != expected.cend(); ++photo) {
-        QTRY_COMPARE(photos->details(photos.url(photo.key()))->lists.value(u"iptc.locationsShown"_s), *photo);
+        QTRY_COMPARE(photos.held(photo.key(), u"iptc.locationsShown"_s), *photo);
         const PhotoDetails details = *photos->details(photos.url(photo.key()));
         QCOMPARE(details.texts.value(u"iptc.dataMining"_s), u"DMI-PROHIBITED"_s);
         QCOMPARE(details.texts.value(u"iptc.contact"_s), item(R"({"CiEmailWork":"a@b.example, c@d.example"})"));
