@@ -59,16 +59,10 @@ void ChoicePicker::openList()
 
 void ChoicePicker::keyPressEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_Down:
-    case Qt::Key_Up:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (PickerFace::isOpenedBy(*event))
         openList();
-        break;
-    default:
+    else
         ThemedButton::keyPressEvent(event);
-    }
 }
 
 void ChoicePicker::paintEvent(QPaintEvent*)

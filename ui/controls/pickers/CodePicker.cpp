@@ -105,12 +105,9 @@ void CodePicker::take(const QString& code)
 void CodePicker::keyPressEvent(QKeyEvent* event)
 {
     const bool isPlain = !(event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier));
-    switch (event->key()) {
-    case Qt::Key_Down:
-    case Qt::Key_Up:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (PickerFace::isOpenedBy(*event))
         return openList({});
+    switch (event->key()) {
     case Qt::Key_Delete:
     case Qt::Key_Backspace:
         if (isPlain && !m_code.isEmpty())

@@ -66,20 +66,12 @@ void OffsetPicker::openList()
 
 void OffsetPicker::keyPressEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_Down:
-    case Qt::Key_Up:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (PickerFace::isOpenedBy(*event))
         openList();
-        break;
-    case Qt::Key_Delete:
-    case Qt::Key_Backspace:
+    else if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace)
         choose(QString());
-        break;
-    default:
+    else
         ThemedButton::keyPressEvent(event);
-    }
 }
 
 QSize OffsetPicker::minimumSizeHint() const

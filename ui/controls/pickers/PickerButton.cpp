@@ -45,16 +45,10 @@ QSize PickerButton::minimumSizeHint() const
 
 void PickerButton::keyPressEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_Down:
-    case Qt::Key_Up:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (PickerFace::isOpenedBy(*event))
         click();
-        break;
-    default:
+    else
         ThemedButton::keyPressEvent(event);
-    }
 }
 
 void PickerButton::paintEvent(QPaintEvent*)

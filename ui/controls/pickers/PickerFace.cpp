@@ -4,6 +4,8 @@
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
 
+#include <QKeyEvent>
+
 namespace Quorbel::PickerFace {
 
 using namespace Qt::StringLiterals;
@@ -17,6 +19,12 @@ constexpr qreal arrows = 14;
 constexpr qreal gap = 4;
 
 }  // namespace
+
+bool isOpenedBy(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Down || event.key() == Qt::Key_Up || event.key() == Qt::Key_Return
+        || event.key() == Qt::Key_Enter;
+}
 
 int textRoom(int width)
 {
