@@ -2,6 +2,7 @@
 // and every member in them, and what is made of structures as texts.
 #include "core/iptc/IptcDefinitions.h"
 #include "core/iptc/IptcSchema.h"
+#include "core/iptc/StructureEdit.h"
 #include "core/iptc/StructureText.h"
 #include "core/iptc/Vocabularies.h"
 #include "core/iptc/WorldRegions.h"
@@ -392,6 +393,67 @@ private slots:
     }
 
     // The page lists all properties, by the standard's names.
+    void structuresAreEdited_data()
+    {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("member");
+        QTest::addColumn<QStringList>("items");
+        QTest::addColumn<QString>("after");
+        const auto row = [](const char* title, const char* before, const char* member, const QStringList& items,
+                             const char* after) {
+            QTest::newRow(title) << json(before) << QString::fromUtf8(member) << items
+                                 << StructureText::tidied(json(after));
+        };
+        row("text", "{'Name':'a','Mood':'b'}", "Name", { u"c"_s }, "{'Name':'c','Mood':'b'}");
+        row("language", "{'Name':'a'}", "Name-de", { u"c"_s }, "{'Name':'a','Name-de':'c'}");
+        row("emptied", "{'Name':'a','RId':'b'}", "RId", { QString() }, "{'Name':'a'}");
+        row("nothing left", "{'Name':'a'}", "Name", { QString() }, "{}");
+        row("structures", "{'RRole':[{'Name':'a','Mood':'b'}]}", "RRole",
+            { json("{'Mood':'b','Name':'a'}"), json("{'Name':'c'}") },
+            "{'RRole':[{'Name':'a','Mood':'b'},{'Name':'c'}]}");
+        row("what is no structure stays", "{'RRole':['x',{'Name':'a'}]}", "RRole", {}, "{'RRole':['x']}");
+        row("one structure", "{'Name':'a'}", "RegionBoundary", { json("{'RbX':'1'}") },
+            "{'Name':'a','RegionBoundary':{'RbX':'1'}}");
+        row("one structure removed", "{'Name':'a','RegionBoundary':{'RbX':'1'}}", "RegionBoundary", {}, "{'Name':'a'}");
+    }
+    void structuresAreEdited()
+    {
+        QFETCH(QString, before);
+        QFETCH(QString, member);
+        QFETCH(QStringList, items);
+        const StructureMember* of = IptcStructures::member(structure(u"ImageRegion"_s), member);
+        QVERIFY(of);
+        const bool isInner = of->kind == FieldKind::structure;
+        const QString after = isInner ? StructureEdit::withStructures(before, *of, items)
+                                      : StructureEdit::with(before, member, items.constFirst());
+        QTEST(after, "after");
+        if (isInner)
+            QCOMPARE(StructureEdit::structures(after, member), items);
+        else
+            QCOMPARE(StructureEdit::texts(after, member).value(0), items.constFirst());
+    }
+
+    void membersHaveNotes_data()
+    {
+        QTest::addColumn<FieldKind>("kind");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("noted");
+        QTest::newRow("day") << FieldKind::date << u"1889-06-02"_s << false;
+        QTest::newRow("month") << FieldKind::date << u" 1889-06 "_s << false;
+        QTest::newRow("year") << FieldKind::date << u"1889"_s << false;
+        QTest::newRow("no month") << FieldKind::date << u"1889-13"_s << true;
+        QTest::newRow("words") << FieldKind::date << u"in June"_s << true;
+        QTest::newRow("number") << FieldKind::number << u"-0.25"_s << false;
+        QTest::newRow("no number") << FieldKind::number << u"0,25"_s << true;
+        QTest::newRow("anything else") << FieldKind::text << u"in June"_s << false;
+    }
+    void membersHaveNotes()
+    {
+        QFETCH(FieldKind, kind);
+        QFETCH(QString, text);
+        QTEST(!StructureEdit::note({ .kind = kind }, text).isEmpty(), "noted");
+    }
+
     void isWhatThePageSays()
     {
         QMap<QString, const FieldSpec*> fields;

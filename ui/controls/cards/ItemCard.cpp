@@ -139,7 +139,7 @@ void ItemCard::setOpen(bool open)
     if (!open && focus && focus != m_line && isAncestorOf(focus))
         m_line->setFocus(Qt::OtherFocusReason);
     m_line->setOpen(open);
-    m_more->setVisible(open);
+    m_more->setVisible(open && !m_fixed);
     if (m_content)
         m_content->setVisible(open);
     layOut();
@@ -156,6 +156,19 @@ void ItemCard::setCanMove(bool up, bool down)
 {
     m_up->setEnabled(up);
     m_down->setEnabled(down);
+}
+
+void ItemCard::setAlone(const QString& removing)
+{
+    m_up->setVisible(false);
+    m_down->setVisible(false);
+    m_remove->setText(removing);
+}
+
+void ItemCard::setFixed(bool on)
+{
+    m_fixed = on;
+    m_more->setVisible(isOpen() && !on);
 }
 
 QWidget* ItemCard::input() const
@@ -183,6 +196,8 @@ ThemedMenu* ItemCard::makeMenu()
 // On the line, or in the room around the fields; a field has a menu of its own.
 void ItemCard::contextMenuEvent(QContextMenuEvent* event)
 {
+    if (m_fixed)
+        return event->ignore();
     ThemedMenu* menu = makeMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (event->reason() == QContextMenuEvent::Keyboard)

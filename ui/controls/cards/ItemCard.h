@@ -42,6 +42,10 @@ public:
     void setEdited(bool edited);
     /// Where there is another one to change places with.
     void setCanMove(bool up, bool down);
+    /// There is never another one; `removing` is what its menu calls taking it away: "Clear".
+    void setAlone(const QString& removing);
+    /// It can be read only, and has no menu.
+    void setFixed(bool on);
     /// What takes the keyboard when the card is gone to: its line.
     QWidget* input() const;
     /// In the order of Tab, without the content's.
@@ -72,6 +76,7 @@ private:
     QAction* m_up = nullptr;
     QAction* m_down = nullptr;
     QAction* m_remove = nullptr;
+    bool m_fixed = false;
 };
 
 }  // namespace Quorbel

@@ -42,6 +42,7 @@ public:
         setBare(true);
     }
 
+    void setSplitsAtCommas(bool on) { m_splitsAtCommas = on; }
     QSize sizeHint() const override { return { px(entryWidth), px(28) }; }
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -51,7 +52,9 @@ signals:
 protected:
     void pasteText() override
     {
-        static const QRegularExpression separators(u"[,\\r\\n\\x{2028}\\x{2029}]"_s);
+        static const QRegularExpression lineEnds(u"[\\r\\n\\x{2028}\\x{2029}]"_s);
+        static const QRegularExpression commas(u"[,\\r\\n\\x{2028}\\x{2029}]"_s);
+        const QRegularExpression& separators = m_splitsAtCommas ? commas : lineEnds;
         const QMimeData* data = QGuiApplication::clipboard()->mimeData();
         const QString text = data ? data->text() : QString();
         // One keyword, perhaps copied with the end of its line.
@@ -60,6 +63,9 @@ protected:
         // What was typed before the paste belongs to the first keyword, as it would have in a plain field.
         emit pastedSeveral((this->text() + text).split(separators));
     }
+
+private:
+    bool m_splitsAtCommas = true;
 };
 
 KeywordEditor::KeywordEditor(QWidget* parent)
@@ -86,6 +92,11 @@ KeywordEditor::KeywordEditor(QWidget* parent)
 }
 
 KeywordEditor::~KeywordEditor() = default;
+
+void KeywordEditor::setSplitsAtCommas(bool on)
+{
+    m_entry->setSplitsAtCommas(on);
+}
 
 void KeywordEditor::makeChip()
 {

@@ -47,6 +47,8 @@ public:
     void setWanted(bool wanted);
     void setPlaceholder(const QString& text);
     void setCompletions(Completions completions);
+    /// Whether a paste with commas is several; one with several lines always is. On unless turned off.
+    void setSplitsAtCommas(bool on);
     /// As QBTextField::setCodes(), of the entry.
     void setCodes(const CodeTexts& codes);
     /// Where one types: what takes the keyboard. No focus proxy of the editor: Qt gives Tab to a widget with a proxy

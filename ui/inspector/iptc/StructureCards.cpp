@@ -1,0 +1,81 @@
+#include "ui/inspector/iptc/StructureCards.h"
+
+#include "core/iptc/IptcStructures.h"
+#include "ui/controls/FormLabels.h"
+#include "ui/controls/cards/EditedDot.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Painting.h"
+#include "ui/controls/theme/Theme.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+namespace {
+
+// Points.
+constexpr qreal gap = 7;
+constexpr qreal blockHeight = 42;  // of a folded card
+constexpr qreal radius = 9;
+
+StructureList::Parts partsOf(const FieldSpec& field, const CodeTexts& codes)
+{
+    const auto holds = field.isSeveral ? StructureList::Holds::several : StructureList::Holds::always;
+    return { field.label, IptcStructures::spec(field.structure), holds, false, codes };
+}
+
+}  // namespace
+
+StructureCards::StructureCards(const FieldSpec& field, const CodeTexts& codes, QWidget* parent)
+    : QWidget(parent)
+    , m_column(new QVBoxLayout(this))
+    , m_reason(new WrappedLine(TextRole::label, 11, 15, this))
+    , m_list(new StructureList(partsOf(field, codes), this))
+    , m_block(new QWidget(this))
+{
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    m_column->addWidget(m_reason);
+    m_column->addWidget(m_list);
+    m_column->addWidget(m_block);
+    m_reason->hide();
+    m_block->hide();
+    connect(m_list, &StructureList::itemsChanged, this, &StructureCards::itemsChanged);
+    connect(m_list, &StructureList::tabStopsChanged, this, &StructureCards::tabStopsChanged);
+    onRestyle(this, [this] {
+        m_column->setContentsMargins(0, 0, 0, 0);
+        m_column->setSpacing(px(gap));
+        m_reason->setContentsMargins(px(EditedDot::room), 0, 0, 0);
+        m_block->setFixedHeight(px(blockHeight));
+    });
+}
+
+void StructureCards::setState(const StructureCardsState& state, bool fresh)
+{
+    if (!fresh && state == m_state)
+        return;
+    m_state = state;
+    m_list->setVisible(!state.unread);
+    m_block->setVisible(state.unread);
+    m_list->setReadOnly(!state.readOnlyReason.isEmpty());
+    m_list->show(state.items, fresh);
+    // In a batch the field's tick tells that all of them will be added.
+    if (state.edited && !state.batch)
+        m_list->setEdited([held = state.held](const QString& item) { return !held.contains(item); });
+    else
+        m_list->setEdited({});
+    m_reason->setText(state.readOnlyReason);
+    m_reason->setVisible(!state.readOnlyReason.isEmpty() && !state.unread);
+    update();
+}
+
+void StructureCards::paintEvent(QPaintEvent*)
+{
+    if (!m_state.unread)
+        return;
+    QPainter painter(this);
+    const QRect block = m_block->geometry().adjusted(px(EditedDot::room), 0, 0, 0);
+    paintBox(painter, block, pxF(radius), Theme::of(this).derived.hover, Qt::NoPen);
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,302 @@
+#include "ui/inspector/iptc/StructureFields.h"
+
+#include "core/iptc/StructureEdit.h"
+#include "core/iptc/StructureText.h"
+#include "core/schema/FieldLanguages.h"
+#include "ui/controls/Buttons.h"
+#include "ui/controls/FormLabels.h"
+#include "ui/controls/TextFields.h"
+#include "ui/controls/cards/CardRow.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/iptc/StructureLayout.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Points.
+constexpr qreal gap = 7;
+constexpr qreal noteSize = 11;
+constexpr qreal noteHeight = 15;
+
+// "Name (German)"
+QString labelOf(const StructureMember& member, const QString& code)
+{
+    return code.isEmpty() ? member.label : u"%1 (%2)"_s.arg(member.label, FieldLanguages::name(code));
+}
+
+QWidget* sideBySide(QWidget* left, QWidget* right, const StructureLayout::Beside& beside)
+{
+    auto* both = new QWidget;
+    auto* line = new QHBoxLayout(both);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(left, 1);
+    line->addWidget(right);
+    if (auto* field = qobject_cast<QBTextField*>(right))
+        field->setMono(beside.isMono);
+    onRestyle(both, [line, right, beside] {
+        line->setSpacing(px(gap));
+        right->setFixedWidth(px(beside.width));
+    });
+    return both;
+}
+
+// “Mood”, “Weather” and 2 more
+QString listed(QStringList names)
+{
+    constexpr qsizetype most = 3;
+    const qsizetype more = qMax<qsizetype>(0, names.size() - most);
+    names = names.first(names.size() - more);
+    for (QString& name : names)
+        name = u'“' + name + u'”';
+    if (more > 0)
+        return names.join(u", "_s) + u" and %1 more"_s.arg(more);
+    const QString last = names.takeLast();
+    return names.isEmpty() ? last : names.join(u", "_s) + u" and "_s + last;
+}
+
+}  // namespace
+
+StructureFields::StructureFields(const StructureSpec& structure, const CodeTexts& codes, QWidget* parent)
+    : QWidget(parent)
+    , m_structure(structure)
+    , m_codes(codes)
+    , m_column(new QVBoxLayout(this))
+    , m_more(new QBTextButton(u"More"_s, this))
+{
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->addWidget(m_more, 0, Qt::AlignLeft);
+    m_more->setTrailingIcon(u"chevron.down"_s);
+    // In line with the labels.
+    m_more->setInline(true);
+    m_more->setRole(TextRole::label);
+    connect(m_more, &QAbstractButton::clicked, this, &StructureFields::revealRest);
+    onRestyle(this, [this] { m_column->setSpacing(px(gap)); });
+    showLines(true);
+}
+
+void StructureFields::show(const QString& text, bool fresh)
+{
+    if (!fresh && text == m_text)
+        return;
+    m_text = text;
+    if (fresh) {
+        m_all = false;
+        m_kept.clear();
+        m_languages.clear();
+    }
+    showLines(fresh);
+}
+
+void StructureFields::setReadOnly(bool on)
+{
+    m_readOnly = on;
+    for (const Line& line : std::as_const(m_lines))
+        for (const Part& part : line.parts)
+            part.editor.setReadOnly(on);
+}
+
+// --- Which rows there are ---
+
+bool StructureFields::holds(const QString& name) const
+{
+    return StructureText::members(m_text).contains(name);
+}
+
+bool StructureFields::isShown(const StructureMember& member) const
+{
+    const QString beside = StructureLayout::beside(member.name).member;
+    return m_all || m_kept.contains(member.name) || !StructureLayout::isRare(m_structure, m_text, member.name)
+        || holds(member.name) || (!beside.isEmpty() && holds(beside))
+        || !StructureEdit::languages(m_text, member.name).isEmpty();
+}
+
+QList<StructureFields::Key> StructureFields::wanted() const
+{
+    QList<Key> keys;
+    for (qsizetype i = 0; i < m_structure.members.size(); ++i) {
+        const StructureMember& member = m_structure.members.at(i);
+        if (StructureLayout::isBeside(member.name) || !isShown(member))
+            continue;
+        keys.append(Key(i, QString()));
+        if (!member.hasLanguages)
+            continue;
+        const QStringList codes = StructureEdit::languages(m_text, member.name) + m_languages.value(member.name);
+        for (const QString& code : codes)
+            if (const Key key(i, code); !keys.contains(key))
+                keys.append(key);
+    }
+    return keys;
+}
+
+void StructureFields::showLines(bool fresh)
+{
+    const QList<Key> keys = wanted();
+    bool isOther = false;
+    for (auto line = m_lines.begin(); line != m_lines.end(); ++line)
+        if (!keys.contains(line.key()) && !line->row->isHidden()) {
+            line->row->hide();
+            isOther = true;
+        }
+    for (const Key& key : keys) {
+        if (!m_lines.contains(key))
+            m_lines.insert(key, makeLine(key));
+        Line& line = m_lines[key];
+        // One that was not on screen may show another structure's.
+        const bool isNew = line.row->isHidden();
+        for (Part& part : line.parts) {
+            if (holds(part.name))
+                m_kept.insert(part.member.name);
+            part.editor.show(m_text, fresh || isNew);
+            showNote(line, part);
+        }
+        line.row->show();
+        isOther |= isNew;
+    }
+    showMore();
+    showForeign();
+    if (isOther)
+        emit tabStopsChanged();
+}
+
+// --- Making them ---
+
+StructureFields::Part StructureFields::makePart(const StructureMember& member, const QString& code)
+{
+    MemberEditorParts parts;
+    parts.member = member;
+    parts.label = labelOf(member, code);
+    parts.codes = m_codes;
+    parts.structure = [this] { return m_text; };
+    parts.changed = [this](const QString& text) { take(text); };
+    parts.stopsChanged = [this] { emit tabStopsChanged(); };
+    const QString name = code.isEmpty() ? member.name : member.name + u'-' + code;
+    Part part{ name, member, makeMemberEditor(name, parts, this) };
+    part.editor.setReadOnly(m_readOnly);
+    return part;
+}
+
+StructureFields::Line StructureFields::makeLine(const Key& key)
+{
+    const StructureMember& member = m_structure.members.at(key.first);
+    Line line;
+    line.parts.append(makePart(member, key.second));
+    QWidget* editor = line.parts.constFirst().editor.widget;
+    const StructureLayout::Beside beside = StructureLayout::beside(key.second.isEmpty() ? member.name : QString());
+    if (const StructureMember* second = IptcStructures::member(m_structure, beside.member)) {
+        line.parts.append(makePart(*second, {}));
+        editor = sideBySide(editor, line.parts.constLast().editor.widget, beside);
+    }
+    line.row = new CardRow(labelOf(member, key.second), editor, line.parts.constFirst().editor.input, this);
+    line.row->hide();
+    m_column->insertWidget(int(std::distance(m_lines.cbegin(), std::as_const(m_lines).lowerBound(key))), line.row);
+    return line;
+}
+
+void StructureFields::showNote(Line& line, Part& part)
+{
+    const QString text = part.member.kind == FieldKind::date || part.member.kind == FieldKind::number
+        ? StructureEdit::note(part.member, StructureEdit::texts(m_text, part.name).value(0))
+        : QString();
+    if (!part.note && text.isEmpty())
+        return;
+    if (!part.note) {
+        part.note = new WrappedLine(TextRole::amberText, noteSize, noteHeight);
+        line.row->addBelow(part.note);
+    }
+    part.note->setText(text);
+    part.note->setVisible(!text.isEmpty());
+    part.editor.input->setAccessibleDescription(text);
+}
+
+// --- Below the rows ---
+
+void StructureFields::showMore()
+{
+    QStringList labels;
+    for (const StructureMember& member : m_structure.members)
+        if (!StructureLayout::isBeside(member.name) && !isShown(member))
+            labels.append(member.label);
+    m_more->setVisible(!labels.isEmpty() && !m_readOnly);
+    m_more->setToolTip(labels.join(u", "_s));
+    m_more->setAccessibleName(u"More fields of this %1"_s.arg(m_structure.item));
+    m_more->setAccessibleDescription(labels.join(u", "_s));
+}
+
+void StructureFields::revealRest()
+{
+    const QList<Key> before = wanted();
+    m_all = true;
+    showLines(false);
+    const QList<Key> after = wanted();
+    const auto first =
+        std::find_if(after.cbegin(), after.cend(), [&before](const Key& key) { return !before.contains(key); });
+    if (first != after.cend())
+        m_lines[*first].parts.constFirst().editor.input->setFocus(Qt::TabFocusReason);
+}
+
+void StructureFields::showForeign()
+{
+    const QStringList names = StructureText::foreignMembers(m_structure, m_text);
+    if (!m_foreign && names.isEmpty())
+        return;
+    if (!m_foreign) {
+        m_foreign = new WrappedLine(TextRole::label, noteSize, noteHeight, this);
+        m_foreign->setVerbatim(true);
+        m_column->addWidget(m_foreign);
+    }
+    m_foreign->setVisible(!names.isEmpty());
+    if (!names.isEmpty())
+        m_foreign->setText(
+            u"Also holds %1 of another program, which stays. Changing this %2 may be refused for that."_s.arg(
+                listed(names), m_structure.item));
+}
+
+// --- What somebody does ---
+
+void StructureFields::take(const QString& text)
+{
+    if (text == m_text)
+        return;
+    m_text = text;
+    showLines(false);
+    emit textChanged(text);
+}
+
+QWidget* StructureFields::input(const QString& member) const
+{
+    for (const Line& line : m_lines)
+        for (const Part& part : line.parts)
+            if (part.name == member && !line.row->isHidden())
+                return part.editor.input;
+    return nullptr;
+}
+
+QWidget* StructureFields::firstInput() const
+{
+    for (const Line& line : m_lines)
+        if (!line.row->isHidden())
+            return line.parts.constFirst().editor.input;
+    return nullptr;
+}
+
+QList<QWidget*> StructureFields::tabStops() const
+{
+    QList<QWidget*> stops;
+    for (const Line& line : m_lines)
+        for (const Part& part : line.parts)
+            if (!line.row->isHidden())
+                stops.append(part.editor.tabStops());
+    stops.append(m_more);
+    return stops;
+}
+
+}  // namespace Quorbel

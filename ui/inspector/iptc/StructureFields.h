@@ -1,0 +1,80 @@
+// The members of one structure, as rows of labels and editors: what an open card holds.
+// Thread: the main thread. Knows the structure as a text only; whose it is, its owner knows.
+#pragma once
+
+#include "ui/inspector/iptc/MemberEditor.h"
+
+#include <QMap>
+#include <QSet>
+#include <QWidget>
+
+class QVBoxLayout;
+
+namespace Quorbel {
+
+class CardRow;
+class QBTextButton;
+class WrappedLine;
+
+/// Members that are rarely used come with "More"; one that holds something is always there. What the table of
+/// structures does not know is told below the rows.
+class StructureFields final : public QWidget {
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(StructureFields)
+
+public:
+    StructureFields(const StructureSpec& structure, const CodeTexts& codes, QWidget* parent = nullptr);
+    /// As StructureCards::setState().
+    void show(const QString& text, bool fresh);
+    const QString& text() const { return m_text; }
+    void setReadOnly(bool on);
+    /// Of a member that is shown, what takes the keyboard; nothing for any other. A text in a language has the name
+    /// that the structure has it under: "AOTitle-de".
+    QWidget* input(const QString& member) const;
+    QWidget* firstInput() const;
+    QList<QWidget*> tabStops() const;
+
+signals:
+    void textChanged(const QString& text);
+    void tabStopsChanged();
+
+private:
+    // A member, or its text in a language.
+    struct Part {
+        QString name{};
+        StructureMember member{};
+        MemberEditor editor{};
+        WrappedLine* note = nullptr;  // until it was needed
+    };
+    struct Line {
+        CardRow* row = nullptr;
+        QList<Part> parts{};  // side by side
+    };
+    // The member's place in the table, and the language.
+    using Key = std::pair<qsizetype, QString>;
+    QList<Key> wanted() const;
+    bool isShown(const StructureMember& member) const;
+    bool holds(const QString& name) const;
+    void showLines(bool fresh);
+    Line makeLine(const Key& key);
+    Part makePart(const StructureMember& member, const QString& code);
+    void showNote(Line& line, Part& part);
+    void showMore();
+    void showForeign();
+    void revealRest();
+    void take(const QString& text);
+
+    const StructureSpec& m_structure;
+    CodeTexts m_codes;
+    QString m_text;
+    QVBoxLayout* m_column;
+    QMap<Key, Line> m_lines;  ///< those that are not shown, too
+    QBTextButton* m_more;
+    WrappedLine* m_foreign = nullptr;  ///< until it was needed
+    QSet<QString> m_kept;  ///< members that held something since the card was opened
+    QMap<QString, QStringList> m_languages;  ///< by member: codes that were added and have no text yet
+    bool m_all = false;
+    bool m_readOnly = false;
+};
+
+}  // namespace Quorbel

@@ -1,0 +1,27 @@
+#include "ui/inspector/iptc/VocabularySource.h"
+
+#include "core/iptc/Vocabularies.h"
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+CodeSource vocabularySource(const QString& id)
+{
+    CodeSource source;
+    source.rows = [id](const QString& typed) {
+        QList<CodeRow> rows;
+        const QList<const VocabularyTerm*> terms = Vocabularies::search(id, typed);
+        for (const VocabularyTerm* term : terms)
+            rows.append({ term->code, term->name, term->note });
+        return rows;
+    };
+    source.nameOf = [id](const QString& code) {
+        const VocabularyTerm* term = Vocabularies::term(id, code);
+        return term ? term->name : QString();
+    };
+    source.footer = u"stored as a code"_s;
+    return source;
+}
+
+}  // namespace Quorbel
