@@ -2,6 +2,8 @@
 
 #include "core/details/FieldHomes.h"
 #include "core/iptc/IptcSchema.h"
+#include "core/schema/FieldSchema.h"
+#include "core/schema/KeywordPath.h"
 
 namespace Quorbel::DetailTags {
 
@@ -9,21 +11,28 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The tool holds each name that it is asked for against all tags of a file: for what it was asked in forty names of XMP,
-// and for as many more, it takes less time when it is asked for all there is. Left out is what is long and of no
-// interest here: how a raw file is developed, and what was done to it before.
-QStringList xmpTags()
+QStringList languageTags()
 {
-    return { u"XMP:all"_s, u"-XMP-crs:all"_s, u"-XMP-xmpMM:all"_s };
+    QStringList tags;
+    for (const FieldSpec& field : FieldSchema::everyField())
+        if (const QString tag = field.languageTag(); !tag.isEmpty())
+            tags.append(tag + u"-*"_s);
+    return tags;
+}
+
+QStringList pathTags()
+{
+    QStringList tags;
+    for (const auto& home : KeywordPath::homes())
+        tags.append(home.tag);
+    return tags << KeywordPath::treeTag();
 }
 
 }  // namespace
 
 QStringList all()
 {
-    QStringList tags = FieldHomes::readTags() + IptcSchema::readTags();
-    tags.removeIf([](const QString& tag) { return tag.startsWith("XMP"_L1); });
-    return tags + xmpTags() << error();
+    return FieldHomes::readTags() + IptcSchema::readTags() + languageTags() + pathTags() << error();
 }
 
 QString error()

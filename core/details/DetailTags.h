@@ -6,7 +6,7 @@
 
 namespace Quorbel::DetailTags {
 
-/// XMP in all its groups, so that a namesake of another standard is found as well.
+/// In all groups that know them, so that a namesake of another standard is found as well.
 QStringList all();
 /// Set where the tool cannot read a file; a tag of the photo's own that is called Error has another group.
 QString error();

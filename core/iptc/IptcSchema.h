@@ -22,7 +22,7 @@ const FieldSpec* spec(const QString& id);
 QString standardName(const FieldSpec& field);
 /// The other 23 properties: what the standard calls each, and the id of the field of FieldSchema that it is.
 const QMap<QString, QString>& inFixedCatalogue();
-/// All read tags of all fields.
+/// What the details run asks for, beside the languages of texts.
 QStringList readTags();
 /// Whether ExifTool takes values of this tag by the code alone ("-TAG#=").
 bool isWrittenByCode(const QString& tag);

@@ -6,8 +6,7 @@
 #include "ui/controls/attached/SearchMenu.h"
 #include "ui/inspector/FieldRow.h"
 #include "ui/inspector/InspectorStates.h"
-
-#include <QLocale>
+#include "ui/inspector/LanguageMenu.h"
 
 #include <algorithm>
 
@@ -18,19 +17,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype mostAdded = 4;
-
-// What was typed, as a language that is not in the list: "de-at". Not a second code of one that is: "deu".
-std::optional<SearchMenuRow> otherLanguage(const QString& typed, const QStringList& present)
-{
-    if (!FieldLanguages::isCode(typed))
-        return std::nullopt;
-    const QString code = FieldLanguages::spelling(typed);
-    const SearchMenuRow row{ FieldLanguages::name(code), code };
-    const QList<FieldLanguages::Choice>& listed = FieldLanguages::choices();
-    const bool isListed = std::any_of(listed.cbegin(), listed.cend(),
-        [&row](const FieldLanguages::Choice& choice) { return choice.name == row.title; });
-    return isListed || present.contains(code, Qt::CaseInsensitive) ? std::nullopt : std::optional(row);
-}
 
 }  // namespace
 
@@ -83,42 +69,19 @@ void FormLanguages::remove(const QString& id, const QString& code)
     emit focusAsked(next == left.cend() ? id : FieldLanguages::key(id, *next));
 }
 
-// Those that one is likely to want: of the other fields, added lately, and the user's own.
+// Those that one is likely to want: added lately, and of the other fields.
 QStringList FormLanguages::likely(const QString& id) const
 {
     QStringList codes = m_added;
     for (const FieldSpec& field : FieldSchema::all())
         if (field.id != id && !field.languageTag().isEmpty())
             codes.append(m_model.languages(field.id));
-    const QStringList own = QLocale::system().uiLanguages();
-    for (const QString& locale : own)
-        codes.append(locale.section(u'-', 0, 0));
-    codes.removeDuplicates();
     return codes;
 }
 
 void FormLanguages::openMenu(const FieldSpec& field, QWidget* anchor, const FieldRow& row)
 {
-    const QStringList present = m_model.languages(field.id);
-    QList<SearchMenuRow> rows;
-    const auto offer = [&rows, &present](const QString& code) {
-        const SearchMenuRow offered{ FieldLanguages::name(code), code };
-        if (FieldLanguages::isCode(code) && !present.contains(code) && !rows.contains(offered))
-            rows.append(offered);
-    };
-    const QStringList first = likely(field.id);
-    for (const QString& code : first)
-        offer(code);
-    QSet<QString> offered(present.cbegin(), present.cend());
-    for (const SearchMenuRow& one : std::as_const(rows))
-        offered.insert(one.code);
-    for (const FieldLanguages::Choice& choice : FieldLanguages::choices())
-        if (!offered.contains(choice.code))
-            rows.append({ choice.name, choice.code });
-    auto* menu = new SearchMenu(u"Add a language to %1"_s.arg(field.label), u"Language or code"_s, anchor);
-    menu->setOther([present](const QString& typed) { return otherLanguage(typed, present); });
-    menu->setNothingFound(u"No such language. A code such as “de-AT” works too."_s);
-    menu->setRows(rows);
+    SearchMenu* menu = makeLanguageMenu(field.label, m_model.languages(field.id), likely(field.id), anchor);
     connect(
         menu, &SearchMenu::picked, this, [this, id = field.id](const SearchMenuRow& picked) { add(id, picked.code); });
     // In line with the field, which the button that adds one hangs out of.

@@ -47,6 +47,25 @@ void CardRow::addBelow(QWidget* widget)
     m_column->addWidget(widget);
 }
 
+void CardRow::setAtLabel(QWidget* button)
+{
+    button->setParent(this);
+    m_atLabel = button;
+    placeAtLabel();
+}
+
+void CardRow::placeAtLabel()
+{
+    if (!m_atLabel)
+        return;
+    const QSize size = m_atLabel->sizeHint();
+    const int right = m_stacked ? width() : px(ItemCard::labelWidth);
+    const int drop = m_label->contentsMargins().top();
+    const int middle = drop + px(m_stacked ? stackedLabel : rowHeight) / 2;
+    m_atLabel->setGeometry(QRect(QPoint(right - size.width(), middle - size.height() / 2), size));
+    m_atLabel->raise();
+}
+
 void CardRow::restyle()
 {
     const bool isArea = qobject_cast<QBTextArea*>(m_input);
@@ -58,12 +77,14 @@ void CardRow::restyle()
     m_line->setSpacing(px(gap));
     m_column->setSpacing(px(lineGap));
     setStacked(width() < px(stackedBelow));
+    placeAtLabel();
 }
 
 void CardRow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     setStacked(width() < px(stackedBelow));
+    placeAtLabel();
 }
 
 void CardRow::setStacked(bool stacked)

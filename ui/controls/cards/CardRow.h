@@ -21,6 +21,8 @@ public:
     CardRow(const QString& label, QWidget* editor, QWidget* input, QWidget* parent = nullptr);
     /// Under the editor, below what is there already.
     void addBelow(QWidget* widget);
+    /// A small button at the end of the label, over it. It becomes a child of the row.
+    void setAtLabel(QWidget* button);
     QWidget* input() const { return m_input; }
 
 protected:
@@ -29,11 +31,13 @@ protected:
 private:
     void setStacked(bool stacked);
     void restyle();
+    void placeAtLabel();
 
     QWidget* m_input;
     QHBoxLayout* m_line;
     QVBoxLayout* m_column;
     TwoLineLabel* m_label;
+    QWidget* m_atLabel = nullptr;
     bool m_stacked = false;
 };
 

@@ -59,6 +59,11 @@ ItemCard::ItemCard(const QString& item, QWidget* parent)
     onRestyle(this, [this] { layOut(); });
 }
 
+int ItemCard::dotRoom() const
+{
+    return m_inner ? 0 : px(EditedDot::room);
+}
+
 void ItemCard::layOut()
 {
     const int out = px(moreOut);
@@ -66,7 +71,7 @@ void ItemCard::layOut()
     const int side = isOpen() ? px(CardLine::side) : 0;
     const int edge = isOpen() ? px(below) : 0;
     m_body->setContentsMargins(0, hasFields ? px(belowLine) : 0, out, hasFields ? px(belowContent - below) : 0);
-    m_column->setContentsMargins(px(EditedDot::room) + side, isOpen() ? px(above) : 0, qMax(0, side - out), edge);
+    m_column->setContentsMargins(dotRoom() + side, isOpen() ? px(above) : 0, qMax(0, side - out), edge);
     m_line->updateGeometry();
 }
 
@@ -165,6 +170,12 @@ void ItemCard::setAlone(const QString& removing)
     m_remove->setText(removing);
 }
 
+void ItemCard::setInner()
+{
+    m_inner = true;
+    layOut();
+}
+
 void ItemCard::setFixed(bool on)
 {
     m_fixed = on;
@@ -210,8 +221,7 @@ void ItemCard::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
-    paintBox(painter, QRectF(rect()).adjusted(px(EditedDot::room), 0, 0, 0), pxF(radius), Qt::transparent,
-        QPen(theme.line, 1));
+    paintBox(painter, QRectF(rect()).adjusted(dotRoom(), 0, 0, 0), pxF(radius), Qt::transparent, QPen(theme.line, 1));
     if (m_line->isEdited())
         EditedDot::paint(painter, m_line->geometry().center().y() + .5, theme);
 }

@@ -44,6 +44,8 @@ public:
     void setCanMove(bool up, bool down);
     /// There is never another one; `removing` is what its menu calls taking it away: "Clear".
     void setAlone(const QString& removing);
+    /// Without the room for the dot: its edge stands where editors begin, in the content of another card.
+    void setInner();
     /// It can be read only, and has no menu.
     void setFixed(bool on);
     /// What takes the keyboard when the card is gone to: its line.
@@ -62,6 +64,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    int dotRoom() const;
     void layOut();
     void addMoving();
     void moveFocused(int by);
@@ -77,6 +80,7 @@ private:
     QAction* m_down = nullptr;
     QAction* m_remove = nullptr;
     bool m_fixed = false;
+    bool m_inner = false;
 };
 
 }  // namespace Quorbel

@@ -6,8 +6,11 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/attached/SearchMenu.h"
 #include "ui/controls/cards/CardRow.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/LanguageMenu.h"
+#include "ui/inspector/iptc/MemberLanguages.h"
 #include "ui/inspector/iptc/StructureLayout.h"
 
 #include <QHBoxLayout>
@@ -87,7 +90,7 @@ void StructureFields::show(const QString& text, bool fresh)
 {
     if (!fresh && text == m_text)
         return;
-    m_text = text;
+    setText(text);
     if (fresh) {
         m_all = false;
         m_kept.clear();
@@ -96,27 +99,31 @@ void StructureFields::show(const QString& text, bool fresh)
     showLines(fresh);
 }
 
+void StructureFields::setText(const QString& text)
+{
+    m_text = text;
+    m_members = StructureText::members(text);
+}
+
 void StructureFields::setReadOnly(bool on)
 {
     m_readOnly = on;
-    for (const Line& line : std::as_const(m_lines))
+    for (const Line& line : std::as_const(m_lines)) {
         for (const Part& part : line.parts)
             part.editor.setReadOnly(on);
+        if (line.languages)
+            line.languages->setReadOnly(on);
+    }
+    showMore();
 }
 
 // --- Which rows there are ---
 
-bool StructureFields::holds(const QString& name) const
-{
-    return StructureText::members(m_text).contains(name);
-}
-
 bool StructureFields::isShown(const StructureMember& member) const
 {
     const QString beside = StructureLayout::beside(member.name).member;
-    return m_all || m_kept.contains(member.name) || !StructureLayout::isRare(m_structure, m_text, member.name)
-        || holds(member.name) || (!beside.isEmpty() && holds(beside))
-        || !StructureEdit::languages(m_text, member.name).isEmpty();
+    return m_all || m_kept.contains(member.name) || m_kept.contains(beside)
+        || !StructureLayout::isRare(m_structure, m_text, member.name);
 }
 
 QList<StructureFields::Key> StructureFields::wanted() const
@@ -129,16 +136,33 @@ QList<StructureFields::Key> StructureFields::wanted() const
         keys.append(Key(i, QString()));
         if (!member.hasLanguages)
             continue;
-        const QStringList codes = StructureEdit::languages(m_text, member.name) + m_languages.value(member.name);
+        const QStringList codes = m_languages.value(member.name);
         for (const QString& code : codes)
-            if (const Key key(i, code); !keys.contains(key))
-                keys.append(key);
+            keys.append(Key(i, code));
     }
     return keys;
 }
 
+// What holds something now is shown for as long as the card is open, or emptying it would take it from under the
+// keyboard.
+void StructureFields::keepHeld()
+{
+    for (const StructureMember& member : m_structure.members) {
+        if (holds(member.name))
+            m_kept.insert(member.name);
+        if (!member.hasLanguages)
+            continue;
+        QStringList& codes = m_languages[member.name];
+        codes += StructureEdit::languages(m_text, member.name);
+        codes.removeDuplicates();
+        if (!codes.isEmpty())
+            m_kept.insert(member.name);
+    }
+}
+
 void StructureFields::showLines(bool fresh)
 {
+    keepHeld();
     const QList<Key> keys = wanted();
     bool isOther = false;
     for (auto line = m_lines.begin(); line != m_lines.end(); ++line)
@@ -153,8 +177,6 @@ void StructureFields::showLines(bool fresh)
         // One that was not on screen may show another structure's.
         const bool isNew = line.row->isHidden();
         for (Part& part : line.parts) {
-            if (holds(part.name))
-                m_kept.insert(part.member.name);
             part.editor.show(m_text, fresh || isNew);
             showNote(line, part);
         }
@@ -197,6 +219,12 @@ StructureFields::Line StructureFields::makeLine(const Key& key)
     }
     line.row = new CardRow(labelOf(member, key.second), editor, line.parts.constFirst().editor.input, this);
     line.row->hide();
+    if (member.hasLanguages && key.second.isEmpty()) {
+        line.languages = new MemberLanguages(*line.row);
+        line.languages->setReadOnly(m_readOnly);
+        connect(line.languages, &MemberLanguages::asked, this,
+            [this, member, row = line.row] { openLanguages(member, *row); });
+    }
     m_column->insertWidget(int(std::distance(m_lines.cbegin(), std::as_const(m_lines).lowerBound(key))), line.row);
     return line;
 }
@@ -266,9 +294,29 @@ void StructureFields::take(const QString& text)
 {
     if (text == m_text)
         return;
-    m_text = text;
+    setText(text);
     showLines(false);
     emit textChanged(text);
+}
+
+void StructureFields::openLanguages(const StructureMember& member, CardRow& row)
+{
+    // Those of the other members are likely here, too.
+    QStringList likely;
+    for (const QStringList& codes : std::as_const(m_languages))
+        likely += codes;
+    SearchMenu* menu = makeLanguageMenu(member.label, m_languages.value(member.name), likely, row.input());
+    connect(menu, &SearchMenu::picked, this,
+        [this, member](const SearchMenuRow& picked) { addLanguage(member, picked.code); });
+    menu->open(QRect(row.input()->mapToGlobal(QPoint()), row.input()->size()), row.input()->width());
+}
+
+void StructureFields::addLanguage(const StructureMember& member, const QString& code)
+{
+    m_languages[member.name].append(code);
+    showLines(false);
+    if (QWidget* added = input(member.name + u'-' + code))
+        added->setFocus(Qt::TabFocusReason);
 }
 
 QWidget* StructureFields::input(const QString& member) const

@@ -4,6 +4,7 @@
 
 #include "ui/inspector/iptc/MemberEditor.h"
 
+#include <QJsonObject>
 #include <QMap>
 #include <QSet>
 #include <QWidget>
@@ -13,6 +14,7 @@ class QVBoxLayout;
 namespace Quorbel {
 
 class CardRow;
+class MemberLanguages;
 class QBTextButton;
 class WrappedLine;
 
@@ -48,13 +50,16 @@ private:
     };
     struct Line {
         CardRow* row = nullptr;
+        MemberLanguages* languages = nullptr;  // of a member that may have some
         QList<Part> parts{};  // side by side
     };
     // The member's place in the table, and the language.
     using Key = std::pair<qsizetype, QString>;
     QList<Key> wanted() const;
     bool isShown(const StructureMember& member) const;
-    bool holds(const QString& name) const;
+    bool holds(const QString& name) const { return m_members.contains(name); }
+    void setText(const QString& text);
+    void keepHeld();
     void showLines(bool fresh);
     Line makeLine(const Key& key);
     Part makePart(const StructureMember& member, const QString& code);
@@ -63,16 +68,20 @@ private:
     void showForeign();
     void revealRest();
     void take(const QString& text);
+    void openLanguages(const StructureMember& member, CardRow& row);
+    void addLanguage(const StructureMember& member, const QString& code);
 
     const StructureSpec& m_structure;
     CodeTexts m_codes;
     QString m_text;
+    QJsonObject m_members;  ///< the text's
     QVBoxLayout* m_column;
     QMap<Key, Line> m_lines;  ///< those that are not shown, too
     QBTextButton* m_more;
     WrappedLine* m_foreign = nullptr;  ///< until it was needed
     QSet<QString> m_kept;  ///< members that held something since the card was opened
-    QMap<QString, QStringList> m_languages;  ///< by member: codes that were added and have no text yet
+    QMap<QString, QStringList>
+        m_languages;  ///< by member: those that had a text since the card was opened, or were added
     bool m_all = false;
     bool m_readOnly = false;
 };

@@ -46,9 +46,8 @@ StructureList::StructureList(const Parts& parts, QWidget* parent)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { dropLeft(now); });
     onRestyle(this, [this, foot] {
         // In line with the edges of the cards.
-        foot->setContentsMargins(px(EditedDot::room), 0, 0, 0);
-        // Within a card nothing has a dot: edges stand where those of fields do.
-        m_column->setContentsMargins(m_parts.isInner ? -px(EditedDot::room) : 0, 0, 0, 0);
+        foot->setContentsMargins(m_parts.isInner ? 0 : px(EditedDot::room), 0, 0, 0);
+        m_column->setContentsMargins(0, 0, 0, 0);
         m_column->setSpacing(px(gap));
     });
     take({}, true);
@@ -104,6 +103,8 @@ StructureCard* StructureList::makeCard()
     card->setReadOnly(m_readOnly);
     addMenu(card);
     ItemCard* widget = card->widget();
+    if (m_parts.isInner)
+        widget->setInner();
     if (m_parts.holds == Holds::always) {
         // It does not fold.
         widget->input()->setFocusPolicy(Qt::NoFocus);

@@ -1,0 +1,55 @@
+#include "ui/inspector/iptc/MemberLanguages.h"
+
+#include "ui/controls/Buttons.h"
+#include "ui/controls/cards/CardRow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QEvent>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+MemberLanguages::MemberLanguages(CardRow& row)
+    : QObject(&row)
+    , m_row(row)
+    , m_plus(new QBIconButton(u"plus"_s, u"Add language"_s, &row))
+    , m_add(new QAction(u"Add Language…"_s, row.input()))
+{
+    m_plus->setSizes({ 22, 22 }, 12, 2.1, 6);
+    m_plus->setHint(u"Alt+Right"_s);
+    m_plus->setFocusPolicy(Qt::NoFocus);  // the keyboard has Alt+Right
+    m_plus->hide();
+    row.setAtLabel(m_plus);
+    row.installEventFilter(this);
+    m_add->setShortcut(Qt::ALT | Qt::Key_Right);
+    m_add->setShortcutContext(Qt::WidgetShortcut);
+    row.input()->addAction(m_add);
+    connect(m_plus, &QAbstractButton::clicked, this, &MemberLanguages::asked);
+    connect(m_add, &QAction::triggered, this, &MemberLanguages::asked);
+    connect(qApp, &QApplication::focusChanged, this, &MemberLanguages::offer);
+}
+
+void MemberLanguages::setReadOnly(bool on)
+{
+    m_add->setEnabled(!on);
+    offer();
+}
+
+void MemberLanguages::offer()
+{
+    const QWidget* focus = QApplication::focusWidget();
+    m_plus->setVisible(m_add->isEnabled() && (m_isHovered || (focus && m_row.isAncestorOf(focus))));
+}
+
+bool MemberLanguages::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) {
+        m_isHovered = event->type() == QEvent::Enter;
+        offer();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace Quorbel
