@@ -23,6 +23,7 @@ namespace Quorbel {
 struct AppModelTools;
 class CodeReplacements;
 class FieldPasting;
+class FieldSets;
 class Filtering;
 class PhotosRenaming;
 class QuickKeywords;
@@ -235,6 +236,7 @@ public:
     PhotosRenaming& renaming();
     TimeShifting& timeShifting();
     Filtering& filtering();
+    FieldSets& fieldSets();
 
     // --- What photos hold beside their records ---
     /// Null before it was looked at. Valid until the details change.

@@ -50,6 +50,10 @@ void AppModel::makeTools()
                 m_saving.shiftTimes(order, looked);
             },
             m_services.service, m_tasks, m_announcer });
+    m_tools->fieldSets = std::make_unique<FieldSets>(*this,
+        FieldSets::Reach{ [this](const QString& id) { return m_editing.fill(id); },
+            [this](const std::optional<QSet<QString>>& fields) { m_editing.showOnly(fields); },
+            [this](const QList<QUrl>& photos) { return m_library.details().require(photos); } });
 }
 
 FieldPasting& AppModel::pasting()
@@ -85,6 +89,11 @@ TimeShifting& AppModel::timeShifting()
 Filtering& AppModel::filtering()
 {
     return *checked(*m_tools).filtering;
+}
+
+FieldSets& AppModel::fieldSets()
+{
+    return *checked(*m_tools).fieldSets;
 }
 
 }  // namespace Quorbel

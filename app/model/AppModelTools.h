@@ -2,6 +2,7 @@
 // Thread: the main thread.
 #pragma once
 
+#include "app/model/fieldsets/FieldSets.h"
 #include "app/model/library/filter/Filtering.h"
 #include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/templates/Templates.h"
@@ -22,6 +23,7 @@ struct AppModelTools {
     std::unique_ptr<PhotosRenaming> renaming{};
     std::unique_ptr<TimeShifting> timeShifting{};
     std::unique_ptr<Filtering> filtering{};
+    std::unique_ptr<FieldSets> fieldSets{};  ///< leads the one before
 };
 
 }  // namespace Quorbel

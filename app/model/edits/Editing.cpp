@@ -114,7 +114,8 @@ void Editing::changed()
         .ownSerial = m_told.ownSerial + (isOwnOther ? 1 : 0),
         .batchOwn = summaryOf(m_batch.edits.own),
         .added = m_added,
-        .languages = m_languages };
+        .languages = m_languages,
+        .only = m_only };
     now.batch.edits.own.clear();
     now.batchInclude = now.batch.include();
     for (auto field = now.batchOwn.cbegin(); field != now.batchOwn.cend(); ++field)
@@ -307,9 +308,15 @@ void Editing::assignPlace(const LocationFill::Result& result, bool withPosition)
 
 // --- Which fields are on screen ---
 
+void Editing::showOnly(const std::optional<QSet<QString>>& fields)
+{
+    m_only = fields;
+    changed();
+}
+
 bool Editing::isRemovableAddedField(const QString& id) const
 {
-    if (!m_added.contains(id) || !heldLanguages(id).isEmpty())
+    if (!m_added.contains(id) || (m_only && m_only->contains(id)) || !heldLanguages(id).isEmpty())
         return false;
     if (isBatch())
         return !m_selected.holds(id) && !m_details.holds(id);
@@ -321,13 +328,21 @@ bool Editing::isRemovableAddedField(const QString& id) const
 
 bool Editing::isShown(const FieldSpec& field) const
 {
-    if (field.alwaysShown || m_added.contains(field.id))
+    if ((m_only ? m_only->contains(field.id) : field.alwaysShown) || m_added.contains(field.id))
+        return true;
+    if (m_only && isTouched(field.id))
         return true;
     if (!field.languageTag().isEmpty() && !languages(field.id).isEmpty())
         return true;
     if (isBatch())
         return m_selected.holds(field.id) || m_details.holds(field.id);
     return m_draft.shown.values.contains(field.id) || !m_draft.shown.lists.value(field.id).isEmpty();
+}
+
+// Whether something was typed into it, ticked or not.
+bool Editing::isTouched(const QString& id) const
+{
+    return isBatch() ? m_told.batchInclude.contains(id) || m_told.batchValues.contains(id) : m_told.edited.contains(id);
 }
 
 QStringList Editing::visibleFieldIDs(FieldSection section) const
@@ -341,7 +356,7 @@ QStringList Editing::visibleFieldIDs(FieldSection section) const
 
 QList<FieldSpec> Editing::addableKnownFields() const
 {
-    QList<FieldSpec> fields = FieldSchema::addableFields();
+    QList<FieldSpec> fields = FieldSchema::all();
     fields.removeIf([this](const FieldSpec& field) { return isShown(field); });
     return fields;
 }
@@ -396,6 +411,30 @@ bool Editing::isFieldEmpty(const QString& id) const
     // Where the photos differ, some of them hold a text of their own; and nobody knows what the unread ones hold.
     const auto shared = m_selected.unreadCount() == 0 ? m_details.sharedValue(id) : std::nullopt;
     return shared && isBlank(*shared);
+}
+
+FieldFill Editing::fill(const QString& id) const
+{
+    const bool isOfDetails = PhotoDetails::hold(id);
+    if (!isBatch()) {
+        if (m_told.edited.contains(id) || (!isUnread() && (!isOfDetails || knowsDetails())))
+            return isLacking(id) ? FieldFill::empty : FieldFill::filled;
+        return FieldFill::unknown;
+    }
+    if (isTouched(id) || !isLacking(id))
+        return isLacking(id) ? FieldFill::empty : FieldFill::filled;
+    const int known = int(m_selected.rows().size()) - (isOfDetails ? m_details.unknown() : m_selected.unreadCount());
+    return known > 0 ? FieldFill::empty : FieldFill::unknown;
+}
+
+// As far as one knows.
+bool Editing::isLacking(const QString& id) const
+{
+    if (!isBatch())
+        return isFieldEmpty(id) && m_draft.shown.lists.value(id).isEmpty();
+    if (m_batch.edits.scalars.contains(id))
+        return isFieldEmpty(id);
+    return !m_told.batchInclude.contains(id) && !m_selected.holds(id) && !m_details.holds(id);
 }
 
 // --- What follows the selection ---

@@ -8,6 +8,7 @@
 #include "app/model/edits/Draft.h"
 #include "app/model/edits/LeftBehind.h"
 #include "app/model/edits/OwnSummary.h"
+#include "app/model/fieldsets/FieldFill.h"
 #include "app/model/library/PhotoList.h"
 #include "app/model/selection/SelectedDetails.h"
 #include "core/schema/FieldSchema.h"
@@ -65,6 +66,10 @@ public:
     /// See AppModel::layEdits.
     void lay(const Edits& edits);
 
+    /// Of the fields that hold nothing only these are on screen, and those that were added or are edited; nothing:
+    /// those that are always shown.
+    void showOnly(const std::optional<QSet<QString>>& fields);
+    FieldFill fill(const QString& id) const;
     bool isRemovableAddedField(const QString& id) const;
     QStringList visibleFieldIDs(FieldSection section) const;
     QList<FieldSpec> addableKnownFields() const;
@@ -129,6 +134,7 @@ private:
         QMap<QString, OwnSummary> batchOwn{};
         QSet<QString> added{};
         QSet<QString> languages{};
+        std::optional<QSet<QString>> only{};
         bool operator==(const Told&) const = default;
     };
 
@@ -150,6 +156,8 @@ private:
     Edits withCommonTexts(Edits edits) const;
     void takeReturning();
     bool isShown(const FieldSpec& field) const;
+    bool isTouched(const QString& id) const;
+    bool isLacking(const QString& id) const;
     QString shownCustom(const QString& name) const;
     void changed();
     bool isSending() const;
@@ -181,6 +189,7 @@ private:
     Known m_known;
     Batch m_batch;
     QSet<QString> m_added;
+    std::optional<QSet<QString>> m_only;  ///< as showOnly() was told
     QSet<QString> m_languages;  ///< keys of languages whose rows were added or typed in since the selection
     Sent m_sent;
     Edits m_noted;  ///< what stood when it was last told to what keeps it, without what differs from photo to photo

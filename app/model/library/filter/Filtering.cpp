@@ -59,7 +59,11 @@ void Filtering::connectModel()
         settle();
         tell();
     });
-    connect(&m_model, &AppModel::primaryChanged, this, &Filtering::reach);
+    connect(&m_model, &AppModel::primaryChanged, this, [this] {
+        m_awaited.reset();
+        reach();
+    });
+    connect(&m_model, &AppModel::detailsChanged, this, &Filtering::goOn);
 }
 
 // Of what is not open any more.
@@ -70,6 +74,7 @@ void Filtering::forget()
     m_look.stop();
     m_left.reset();
     m_goal.reset();
+    m_awaited.reset();
     m_hasUnsaved = false;
 }
 

@@ -62,6 +62,20 @@ public:
     /// fill gaps of the photo that is edited.
     void goToGap(Way way);
 
+    /// Where the way leads in the place of those gaps.
+    struct Course {
+        struct Found {
+            QStringList gaps{};  ///< in the order of the form
+            bool isAll = true;  ///< all that one wants to know of the photo is known
+        };
+        QStringList fields{};  ///< all ids, in the order of the form
+        std::function<Found()> here{};  ///< in the selected photos
+        std::function<Found(int position)> at{};  ///< in the photo at a position in the list of all
+        /// Has these photos looked at; whether there is nothing to wait for any more.
+        std::function<bool(const QList<QUrl>&)> require{};
+    };
+    void setCourse(std::optional<Course> course);
+
     /// Set by the view layer: id of the field that has the keyboard, "" when none has.
     std::function<QString()> focusedField{};
 
@@ -101,8 +115,13 @@ private:
     // From gap to gap
     PhotoTraits gapsAsked() const;
     QStringList gapsOfDraft() const;
+    QStringList gapsHere() const;
+    Course::Found found(int position) const;
     QStringList gapsOf(int position) const;
+    qsizetype placeOf(const QString& field) const;
     bool goWithinPhoto(const QString& field, Way way);
+    bool lookAhead(const QList<QUrl>& photos, Way way);
+    void goOn();
     void goTo(const Goal& goal);
     void reach();
     QString nothingLeft() const;
@@ -118,6 +137,8 @@ private:
     Counts m_toldCounts;
     std::optional<QUrl> m_left;  ///< the photo that was left last, and nothing was listed to take its place
     std::optional<Goal> m_goal;
+    std::optional<Course> m_course;
+    std::optional<Way> m_awaited;  ///< the way goes on once more photos were looked at
     bool m_hasUnsaved = false;  ///< of the selection, when the edited photos were marked last
 };
 

@@ -12,16 +12,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Where the field stands among those that can be gaps; -1 when it is none.
-qsizetype placeOf(const QString& field)
+constexpr qsizetype lookedAtOnce = 24;  // photos, of which nothing is known yet
+
+}  // namespace
+
+void Filtering::setCourse(std::optional<Course> course)
 {
+    m_course = std::move(course);
+    m_awaited.reset();
+}
+
+// Where the field stands among those that can be gaps; -1 when it is none.
+qsizetype Filtering::placeOf(const QString& field) const
+{
+    if (m_course)
+        return m_course->fields.indexOf(field);
     const QList<Gap>& gaps = Gaps::all();
     const auto found =
         std::find_if(gaps.cbegin(), gaps.cend(), [&field](const Gap& gap) { return gap.field == field; });
     return found == gaps.cend() ? -1 : found - gaps.cbegin();
 }
-
-}  // namespace
 
 PhotoTraits Filtering::gapsAsked() const
 {
@@ -44,6 +54,21 @@ QStringList Filtering::gapsOfDraft() const
     return fields;
 }
 
+// Of all selected photos.
+QStringList Filtering::gapsHere() const
+{
+    return m_course ? m_course->here().gaps : gapsOfDraft();
+}
+
+Filtering::Course::Found Filtering::found(int position) const
+{
+    const auto& primary = m_model.primary();
+    const bool isHere = !m_model.isBatch() && primary && m_reach.photos.position(*primary) == position;
+    if (m_course)
+        return isHere ? m_course->here() : m_course->at(position);
+    return { isHere ? gapsOfDraft() : gapsOf(position) };
+}
+
 QStringList Filtering::gapsOf(int position) const
 {
     QStringList fields;
@@ -57,8 +82,11 @@ QStringList Filtering::gapsOf(int position) const
 void Filtering::goToGap(Way way)
 {
     requireMainThread("goToGap");
+    m_awaited.reset();
     const QString field = focusedField ? focusedField() : QString();
     if (goWithinPhoto(field, way))
+        return;
+    if (m_course && m_model.primary() && !m_course->here().isAll && lookAhead({ *m_model.primary() }, way))
         return;
     const QList<int>& rows = m_model.visibleRows();
     const qsizetype count = rows.size();
@@ -72,28 +100,51 @@ void Filtering::goToGap(Way way)
         isListed = from < count && rows.at(from) == at;
         from -= !isListed && isForward ? 1 : 0;
     }
+    QList<QUrl> unknown;  // that lie in front of the next gap
     for (qsizetype step = 1; step <= count; ++step) {
         const qsizetype to = isForward ? from + step : from - step;
         const qsizetype row = (to + count) % count;
         if (m_reach.photos.groups().isFolded(row))
             continue;
-        const bool isHere = rows.at(row) == at && !m_model.isBatch();
-        const QStringList fields = isHere ? gapsOfDraft() : gapsOf(rows.at(row));
+        const Course::Found found = this->found(rows.at(row));
+        const QStringList& fields = found.gaps;
+        if (!found.isAll)
+            unknown.append(m_model.records().at(rows.at(row)).url);
+        if (unknown.size() == lookedAtOnce && lookAhead(std::exchange(unknown, {}), way))
+            return;
         if (fields.isEmpty())
             continue;
+        if (lookAhead(unknown, way))
+            return;
         const QString note = to == row ? QString()
             : isForward                ? u"Started again at the top"_s
                                        : u"Started again at the end"_s;
         return goTo({ m_model.records().at(rows.at(row)).url, isForward ? fields.first() : fields.last(), note });
     }
-    emit noted(nothingLeft());
+    if (!lookAhead(unknown, way))
+        emit noted(nothingLeft());
+}
+
+// Whether one has to wait for what these photos hold. Of some it never comes to be known.
+bool Filtering::lookAhead(const QList<QUrl>& photos, Way way)
+{
+    if (photos.isEmpty() || m_course->require(photos))
+        return false;
+    m_awaited = way;
+    return true;
+}
+
+void Filtering::goOn()
+{
+    if (m_awaited)
+        goToGap(*m_awaited);
 }
 
 // In the list one stands in front of the photo's first field.
 bool Filtering::goWithinPhoto(const QString& field, Way way)
 {
     const qsizetype here = placeOf(field);
-    QStringList fields = gapsOfDraft();
+    QStringList fields = gapsHere();
     fields.removeIf(
         [&](const QString& other) { return way == Way::next ? placeOf(other) <= here : placeOf(other) >= here; });
     if (fields.isEmpty())
