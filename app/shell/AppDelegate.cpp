@@ -22,6 +22,7 @@
 #include "ui/sheets/MessageSheet.h"
 #include "ui/sheets/PasteFieldsSheet.h"
 #include "ui/sheets/QuickSetSheet.h"
+#include "ui/sheets/fieldsets/FieldSetsSheet.h"
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
 #include "ui/templates/TemplatesSheet.h"
@@ -181,6 +182,7 @@ void AppDelegate::buildWindow()
     factories.templates = [&model] { return new TemplatesSheet(model); };
     model.templates().panels = templatePanels(m_window.get());
     factories.quickSet = [&model] { return new QuickSetSheet(model); };
+    factories.fieldSets = [&model] { return new FieldSetsSheet(model); };
     factories.shiftTime = [this] { return new ShiftTimeSheet(m_app->model(), &m_app->thumbnails()); };
     factories.renamePhotos = [&model] { return new RenamePhotosSheet(model); };
     factories.setInspectorInset = [](QWidget* inspector, int pixels) {

@@ -7,6 +7,7 @@
 #include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
 #include "app/model/words/QuickKeywords.h"
+#include "app/shell/FieldSetMenu.h"
 #include "app/shell/HandsMenu.h"
 #include "core/schema/KeywordPath.h"
 #include "ui/controls/ThemedMenu.h"
@@ -328,6 +329,7 @@ void Menus::addViewMenu()
     connect(names, &QAction::toggled, &m_model, [this](bool on) { m_model.preferences().showNamespace.set(on); });
     connect(&m_model.preferences(), &Preferences::changed, names,
         [this, names] { names->setChecked(m_model.preferences().showNamespace()); });
+    new FieldSetMenu(m_model, menu);
     menu->addSeparator();
     addGaps(menu);
     menu->addSeparator();

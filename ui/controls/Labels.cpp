@@ -160,6 +160,16 @@ SectionHeader::SectionHeader(const QString& title, bool muted, const QString& tr
     onRestyle(this, [this] { updateGeometry(); });
 }
 
+void SectionHeader::setNote(const QString& text)
+{
+    if (text == m_note)
+        return;
+    m_note = text;
+    setAccessibleDescription(text);
+    updateGeometry();
+    update();
+}
+
 QSize SectionHeader::sizeHint() const
 {
     const QFontMetrics metrics(sectionFont());

@@ -58,6 +58,7 @@ class SectionHeader final : public QWidget {
 public:
     explicit SectionHeader(
         const QString& title, bool muted = false, const QString& trailingNote = {}, QWidget* parent = nullptr);
+    void setNote(const QString& text);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 

@@ -78,10 +78,26 @@ QSize BatchBanner::sizeHint() const
     return { px(200), px(PhotoHeader::heightInPoints) };
 }
 
+void BatchBanner::setAtEnd(QWidget* widget)
+{
+    m_atEnd = widget;
+    widget->setParent(this);
+    widget->installEventFilter(this);
+    place();
+}
+
+bool BatchBanner::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_atEnd && (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent))
+        place();
+    return QWidget::eventFilter(watched, event);
+}
+
 QRect BatchBanner::textArea() const
 {
     const int left = px(side) + px(iconSide) + px(gap);
-    return { left, 0, width() - left - px(side), height() };
+    const int right = m_atEnd && !m_atEnd->isHidden() ? m_atEnd->width() + px(gap) : 0;
+    return { left, 0, width() - left - px(side) - right, height() };
 }
 
 // What is told of the photos comes before what one does here.
@@ -96,6 +112,10 @@ QStringList BatchBanner::noteLines() const
 
 void BatchBanner::place()
 {
+    if (m_atEnd) {
+        m_atEnd->resize(m_atEnd->sizeHint());
+        m_atEnd->move(width() - px(side) - m_atEnd->width(), (height() - m_atEnd->height()) / 2);
+    }
     const QRect area = textArea();
     const int above = int(noteLines().size());
     const int own = m_disagreements->isHidden() ? 0 : m_disagreements->lines(area.width());

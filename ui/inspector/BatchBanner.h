@@ -22,12 +22,15 @@ public:
     /// here gives way to it where there is no room for both.
     void setDisagreements(const QString& text, bool canAgree);
     QBTextButton* agree() const;
+    /// At the right end; it becomes a child of this.
+    void setAtEnd(QWidget* widget);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void place();
@@ -37,6 +40,7 @@ private:
     QString m_title;
     QString m_note;
     NoticeLine* m_disagreements;
+    QWidget* m_atEnd = nullptr;
 };
 
 }  // namespace Quorbel

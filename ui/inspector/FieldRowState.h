@@ -52,6 +52,7 @@ struct FieldRowState {
     bool included = false;  ///< the tick
     bool edited = false;
     bool removable = false;
+    bool wanted = false;  ///< is empty, and should not be
     QString noteLine{};  ///< what is wrong with the text; none when empty
     bool unread = false;  ///< not known yet: a block in the place of the editor, which takes nothing
     bool fixed = false;  ///< shown only: an editor of one value takes no typing, and there is no tick

@@ -75,6 +75,11 @@ void FormSection::setUnderRows(QWidget* widget)
     m_column->addWidget(widget);
 }
 
+void FormSection::setNote(const QString& text)
+{
+    m_header->setNote(text);
+}
+
 void FormSection::setReading(bool on)
 {
     if (on && !m_reading) {

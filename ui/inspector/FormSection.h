@@ -28,6 +28,8 @@ public:
     /// A widget that stands directly under this row whenever the row is shown. It becomes a child of this.
     void setBelow(FieldRow* row, QWidget* widget);
     void setUnderRows(QWidget* widget);
+    /// A word at the right of the title; "": none.
+    void setNote(const QString& text);
     /// Says at the right of the title that the rows are being read.
     void setReading(bool on);
 

@@ -10,11 +10,13 @@
 #include "ui/inspector/BatchBanner.h"
 #include "ui/inspector/CameraSection.h"
 #include "ui/inspector/FieldRow.h"
+#include "ui/inspector/FieldSetPicker.h"
 #include "ui/inspector/FormLanguages.h"
 #include "ui/inspector/FormPause.h"
 #include "ui/inspector/FormSection.h"
 #include "ui/inspector/InspectorStates.h"
 #include "ui/inspector/PhotoHeader.h"
+#include "ui/inspector/WantedFields.h"
 #include "ui/inspector/keywords/KeywordRows.h"
 #include "ui/places/LocationMap.h"
 
@@ -69,6 +71,8 @@ InspectorForm::InspectorForm(
     , m_cameraSection(new FormSection(u"CAMERA"_s, u"read-only"_s))
     , m_map(new LocationMap(places, maps))
     , m_camera(new CameraSection)
+    , m_picker(makeFieldSetPicker(model.fieldSets(), m_header))
+    , m_batchPicker(makeFieldSetPicker(model.fieldSets(), m_banner))
     , m_languages(new FormLanguages(model, this))
     , m_pause(new FormPause(this))
 {
@@ -84,6 +88,8 @@ InspectorForm::InspectorForm(
     m_cameraSection->setUnderRows(m_camera);
     m_column->addWidget(m_cameraSection);
     m_column->addStretch();
+    m_header->setAtEnd(m_picker);
+    m_banner->setAtEnd(m_batchPicker);
     connect(m_banner->agree(), &QAbstractButton::clicked, &m_model, &AppModel::requestMakeAgree);
     connect(m_map, &LocationMap::found, &m_model, &AppModel::fillPlaceNames);
     connect(m_languages, &FormLanguages::changed, this, [this] {
@@ -257,12 +263,14 @@ void InspectorForm::showFields(FieldSection section, bool fresh)
         FieldRow* row = rowOf(field);
         FieldRowState state = InspectorStates::fieldRow(m_model, field);
         state.languages.isOpen = m_languages->isOpen(id);
+        WantedFields::show(m_model.fieldSets(), id, state);
         row->setState(state, fresh);
         rows.append(row);
         addLanguageRows(field, fresh, rows);
     }
     FormSection* form = m_sections.at(size_t(section));
     form->setRows(rows);
+    form->setNote(WantedFields::line(m_model.fieldSets(), section));
     form->setVisible(!rows.isEmpty());
 }
 
@@ -433,7 +441,7 @@ void InspectorForm::orderTabStops()
 {
     if (!std::exchange(m_tabOrderStale, false))
         return;
-    QList<QWidget*> stops{ m_banner->agree() };
+    QList<QWidget*> stops{ m_picker, m_batchPicker, m_banner->agree() };
     const auto take = [&](const FormSection* section) {
         for (const FieldRow* row : section->rows()) {
             stops.append(row->tabStops());

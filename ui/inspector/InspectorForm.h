@@ -21,6 +21,7 @@ namespace Quorbel {
 class AppModel;
 class BatchBanner;
 class CameraSection;
+class ChoicePicker;
 class FieldRow;
 class FormLanguages;
 class FormPause;
@@ -109,6 +110,8 @@ private:
     FormSection* m_cameraSection;
     LocationMap* m_map;
     CameraSection* m_camera;
+    ChoicePicker* m_picker;  ///< of field sets
+    ChoicePicker* m_batchPicker;  ///< the same, in the banner
     FormLanguages* m_languages;
     KeywordRows* m_keywordRows = nullptr;  ///< until several photos were selected
     QList<QWidget*> m_keywordStops;  ///< of those rows, when Tab was last put in order

@@ -59,7 +59,16 @@ InspectorView::InspectorView(
 void InspectorView::connectGaps()
 {
     Filtering& filtering = m_model.filtering();
-    connect(&filtering, &Filtering::fieldAsked, this, &InspectorView::focusField, Qt::QueuedConnection);
+    connect(
+        &filtering, &Filtering::fieldAsked, this,
+        [this](const QString& id) {
+            // The chosen field set may leave it out.
+            const FieldSpec* field = FieldSchema::spec(id);
+            if (field && !m_model.visibleFieldIDs(field->section).contains(id))
+                m_model.addKnownField(id);
+            focusField(id);
+        },
+        Qt::QueuedConnection);
     filtering.focusedField = [view = QPointer(this)] {
         const QWidget* focus = view ? view->window()->focusWidget() : nullptr;
         return focus ? view->m_form->keyOf(focus) : QString();

@@ -46,6 +46,11 @@ PhotoHeader::PhotoHeader(ThumbnailStore* thumbs, QWidget* parent)
     });
 }
 
+void PhotoHeader::setAtEnd(QWidget* widget)
+{
+    static_cast<QHBoxLayout*>(layout())->addWidget(widget);
+}
+
 void PhotoHeader::setRecord(const ImageRecord& record)
 {
     m_thumbnail->setUrl(record.url);

@@ -22,6 +22,8 @@ public:
     /// The store may be null; it is not owned and must outlive this.
     explicit PhotoHeader(ThumbnailStore* thumbs, QWidget* parent = nullptr);
     void setRecord(const ImageRecord& record);
+    /// At the right end; it becomes a child of this.
+    void setAtEnd(QWidget* widget);
 
 private:
     ThumbnailView* m_thumbnail;

@@ -31,6 +31,7 @@ void showText(Field* field, const FieldRowState& state, bool fresh)
         line->setCursorPosition(0);
     field->setPlaceholder(state.placeholder, state.italicPlaceholder);
     field->setEdited(state.edited);
+    field->setWanted(state.wanted);
 }
 
 RowEditor textEditor(const CodeTexts& codes, FieldRow& row)
@@ -80,6 +81,7 @@ RowEditor keywordEditor(const FieldRowParts& parts, FieldRow& row)
                 if (editor->chips() != state.items || editor->parents() != state.itemParents)
                     editor->setChips(state.items, state.itemParents);
                 editor->setPlaceholder(state.placeholder);
+                editor->setWanted(state.wanted);
             } };
 }
 

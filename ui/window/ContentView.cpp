@@ -1,11 +1,12 @@
 #include "ui/window/ContentView.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/fieldsets/FieldSets.h"
 #include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/templates/Templates.h"
-#include "app/model/words/QuickKeywords.h"
 #include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
+#include "app/model/words/QuickKeywords.h"
 #include "core/Product.h"
 #include "platform/desktop/SystemScheme.h"
 #include "ui/closeup/CloseupView.h"
@@ -189,6 +190,9 @@ void ContentView::connectSheets()
     QuickKeywords& quick = m_model.quickKeywords();
     connect(&quick, &QuickKeywords::editedChanged, this,
         [this, &quick] { followFlag(quick.edited().has_value(), m_quickSetSheet, m_factories.quickSet); });
+    FieldSets& sets = m_model.fieldSets();
+    connect(&sets, &FieldSets::editingChanged, this,
+        [this, &sets] { followFlag(sets.isEditing(), m_fieldSetsSheet, m_factories.fieldSets); });
     TimeShifting* shifting = &m_model.timeShifting();
     connect(shifting, &TimeShifting::openChanged, this,
         [this, shifting] { followFlag(shifting->isOpen(), m_shiftSheet, m_factories.shiftTime); });

@@ -35,6 +35,7 @@ struct ContentFactories {
     std::function<SheetBody*()> pasteFields{};
     std::function<SheetBody*()> templates{};
     std::function<SheetBody*()> quickSet{};
+    std::function<SheetBody*()> fieldSets{};
     std::function<SheetBody*()> shiftTime{};
     std::function<SheetBody*()> renamePhotos{};
     /// Keeps this many pixels at the inspector's lower end free, so that its last rows scroll clear of the banner.
@@ -127,6 +128,7 @@ private:
     SheetBody* m_pasteSheet = nullptr;
     SheetBody* m_templatesSheet = nullptr;
     SheetBody* m_quickSetSheet = nullptr;
+    SheetBody* m_fieldSetsSheet = nullptr;
     SheetBody* m_shiftSheet = nullptr;
     SheetBody* m_renamePhotosSheet = nullptr;
 };

@@ -15,6 +15,7 @@ const QList<std::pair<HelpTopic, QString>>& RawValues<HelpTopic>::table()
         { HelpTopic::keywordPaths, u"keywordPaths"_s },
         { HelpTopic::disagreements, u"disagreements"_s },
         { HelpTopic::gaps, u"gaps"_s },
+        { HelpTopic::fieldSets, u"fieldSets"_s },
         { HelpTopic::times, u"times"_s },
         { HelpTopic::batch, u"batch"_s },
         { HelpTopic::copying, u"copying"_s },
@@ -170,6 +171,28 @@ Page gapsPage()
         } };
 }
 
+Page fieldSetsPage()
+{
+    return { u"IPTC Fields & Field Sets"_s, u"square.stack.3d.up"_s,
+        {
+            paragraph(u"Quorbel reads and writes every property of the IPTC Photo Metadata Standard: alternative text, "
+                      "contacts, people, places, releases, licences, what a picture was made with. A photo shows those "
+                      "that it "
+                      "holds; Add Field finds all others, by their names, by what they are for, and by their tags."_s),
+            bullets({ u"View ▸ Field Set chooses what is on screen at once: Captions, Press, Museum, Stock, Rights, "
+                      "Accessibility, or a set of your own. What a photo holds beside the set stays visible, and so "
+                      "does "
+                      "what you edited."_s,
+                u"A set may want fields. Empty ones have a dashed border, the lines of the sections count them, and F8 "
+                "goes from one to the next, on to the next photo at the end. ⇧F8 goes back."_s,
+                u"Save What Is on Screen as Set… makes a set of your own; Edit Sets… changes what is in it and what it "
+                "wants. Sets that come with Quorbel can be copied there."_s,
+                u"Default is the form as it was. Once you have chosen a set, or made one, they can be picked at the "
+                u"top "
+                "of the form, too."_s }),
+        } };
+}
+
 Page timesPage()
 {
     return { u"Shifting Times"_s, u"clock"_s,
@@ -298,6 +321,8 @@ Page page(HelpTopic topic)
         return disagreementsPage();
     case HelpTopic::gaps:
         return gapsPage();
+    case HelpTopic::fieldSets:
+        return fieldSetsPage();
     case HelpTopic::times:
         return timesPage();
     case HelpTopic::batch:

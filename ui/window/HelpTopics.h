@@ -19,6 +19,7 @@ enum class HelpTopic {
     keywordPaths,
     disagreements,
     gaps,
+    fieldSets,
     times,
     batch,
     copying,

@@ -1,11 +1,15 @@
 // The inspector as a person uses it, over photos written and read by the real tool.
 #include "app/model/AppModel.h"
+#include "app/model/fieldsets/FieldSets.h"
+#include "app/model/library/filter/Filtering.h"
 #include "tests/ui/UiSupport.h"
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/Buttons.h"
+#include "ui/controls/Labels.h"
 #include "ui/controls/SuggestionList.h"
 #include "ui/controls/Toggles.h"
 #include "ui/controls/keywords/KeywordChip.h"
+#include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/inspector/BatchBanner.h"
 #include "ui/inspector/CameraSection.h"
 #include "ui/inspector/PhotoHeader.h"
@@ -117,6 +121,7 @@ private slots:
     void undoStaysWithItsPhoto();
     void halfTypedKeywordStaysBehind();
     void addedFieldTakesTheFocusAndGoesAgain();
+    void aChosenSet();
     void namespaceLines();
     void tabGoesFromTopToBottom();
     void tellsScreenReaders();
@@ -710,6 +715,39 @@ void tst_InspectorView::addedFieldTakesTheFocusAndGoesAgain()
         QTRY_COMPARE(
             QApplication::focusWidget(), f.editor<QBTextField>(several ? u"custom:Weather"_s : u"custom:Mood"_s));
     }
+}
+
+void tst_InspectorView::aChosenSet()
+{
+    InspectorFixture f;
+    f.add(u"a.jpg"_s, { u"-XMP-dc:Title=T"_s, u"-XMP-photoshop:Source=S"_s });
+    QVERIFY(f.open());
+    auto* picker = f.view->findChild<PhotoHeader*>()->findChild<ChoicePicker*>();
+    const auto note = [&] { return f.view->findChild<SectionHeader*>()->accessibleDescription(); };
+    QVERIFY(!picker->isVisible());
+    QVERIFY(f.row(u"copyright"_s) && !f.row(u"description"_s)->state().wanted && note().isEmpty());
+    f.model().fieldSets().choose(u"Captions"_s);
+    QVERIFY(picker->isVisible());
+    QCOMPARE(picker->titles().value(picker->current()), u"Captions"_s);
+    QVERIFY(!f.row(u"copyright"_s) && f.row(u"source"_s) && f.row(u"captionWriter"_s));
+    QCOMPARE(note(), u"1 of 3 filled · next gap F8"_s);
+    QCOMPARE(f.row(u"description"_s)->state().placeholder, u"Required by Captions"_s);
+    QVERIFY(!f.row(u"title"_s)->state().wanted && !f.row(u"captionWriter"_s)->state().wanted);
+    QTest::keyClicks(f.editor<QBTextArea>(u"description"_s), u"D"_s);
+    QVERIFY(!f.row(u"description"_s)->state().wanted);
+    QCOMPARE(note(), u"2 of 3 filled · next gap F8"_s);
+    f.model().addSingleListItem(u"keywords"_s, u"word"_s);
+    QCOMPARE(note(), u"3 of 3 filled"_s);
+    emit picker->picked(0);
+    QVERIFY(f.row(u"copyright"_s) && !f.row(u"captionWriter"_s) && picker->isVisible());
+    QCOMPARE(note(), QString());
+    // Where a set wants nothing, the usual gaps lead also to fields that it leaves out.
+    f.model().fieldSets().edit();
+    f.model().fieldSets().store({ { {}, { u"Own"_s, { u"title"_s }, {} } } }, u"Own"_s);
+    QVERIFY(!f.row(u"creator"_s));
+    f.editor<QBTextArea>(u"description"_s)->setFocus();
+    f.model().filtering().goToGap(Filtering::Way::next);
+    QTRY_COMPARE(QApplication::focusWidget(), f.editor<QBTextField>(u"date"_s));
 }
 
 void tst_InspectorView::namespaceLines()

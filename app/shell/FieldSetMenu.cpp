@@ -1,0 +1,48 @@
+#include "app/shell/FieldSetMenu.h"
+
+#include "app/model/AppModel.h"
+#include "app/model/fieldsets/FieldSets.h"
+#include "ui/controls/ThemedMenu.h"
+
+#include <QActionGroup>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+FieldSetMenu::FieldSetMenu(AppModel& model, ThemedMenu* menu)
+    : QObject(menu)
+    , m_model(model)
+    , m_menu(menu->addThemedMenu(u"Field &Set"_s))
+{
+    // Later: what changes them may be one of these entries.
+    connect(&m_model.fieldSets(), &FieldSets::changed, this, &FieldSetMenu::fill, Qt::QueuedConnection);
+    connect(m_menu, &QMenu::aboutToShow, this, [this] {
+        for (QAction* action : m_menu->actions())
+            if (action->data().toBool())
+                action->setEnabled(!m_model.selection().isEmpty());
+    });
+    fill();
+}
+
+void FieldSetMenu::fill()
+{
+    FieldSets& sets = m_model.fieldSets();
+    m_menu->clear();
+    auto* group = new QActionGroup(m_menu);
+    for (const QString& name : sets.names()) {
+        // Menus take "&" for the mark of a mnemonic.
+        QAction* action = m_menu->addAction(QString(name).replace(u'&', u"&&"_s));
+        action->setCheckable(true);
+        action->setChecked(name == sets.current());
+        group->addAction(action);
+        connect(action, &QAction::triggered, &sets, [&sets, name] { sets.choose(name); });
+    }
+    m_menu->addSeparator();
+    QAction* save = m_menu->addAction(u"Save What Is on Screen as Set…"_s);
+    save->setData(true);  // needs photos
+    connect(save, &QAction::triggered, &sets, &FieldSets::editWhatIsShown);
+    connect(m_menu->addAction(u"Edit Sets…"_s), &QAction::triggered, &sets, &FieldSets::edit);
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,25 @@
+#include "ui/inspector/FieldSetPicker.h"
+
+#include "app/model/fieldsets/FieldSets.h"
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+ChoicePicker* makeFieldSetPicker(FieldSets& sets, QWidget* parent)
+{
+    auto* picker = new ChoicePicker(u"Field set"_s, fieldSetPickerWidth, parent);
+    const auto follow = [picker, &sets] {
+        const QStringList names = sets.names();
+        if (names != picker->titles())
+            picker->setTitles(names);
+        picker->setCurrent(int(names.indexOf(sets.current())));
+        picker->setVisible(sets.isOffered());
+    };
+    QObject::connect(&sets, &FieldSets::changed, picker, follow);
+    QObject::connect(picker, &ChoicePicker::picked, &sets, [&sets](int row) { sets.choose(sets.names().value(row)); });
+    follow();
+    return picker;
+}
+
+}  // namespace Quorbel

@@ -1,0 +1,37 @@
+#include "ui/inspector/WantedFields.h"
+
+#include "app/model/fieldsets/FieldSets.h"
+#include "core/schema/FieldSchema.h"
+#include "ui/inspector/FieldRowState.h"
+
+namespace Quorbel::WantedFields {
+
+using namespace Qt::StringLiterals;
+
+void show(const FieldSets& sets, const QString& id, FieldRowState& state)
+{
+    state.wanted = sets.isGap(id);
+    if (!state.wanted)
+        return;
+    state.placeholder = u"Required by %1"_s.arg(sets.current());
+    state.italicPlaceholder = false;
+}
+
+QString line(const FieldSets& sets, FieldSection section)
+{
+    const auto count = sets.count(section);
+    const bool isMissing = count && count->filled < count->wanted;
+    if (!count || (section != FieldSection::common && !isMissing))
+        return {};
+    QString text = u"%1 of %2 filled"_s.arg(count->filled).arg(count->wanted);
+    const QStringList gaps = sets.gaps();
+    // Told once, at the top.
+    const bool isFirst = section == FieldSection::common
+        || (!sets.count(FieldSection::common) && !gaps.isEmpty()
+            && FieldSchema::spec(gaps.constFirst())->section == section);
+    if (isFirst && !gaps.isEmpty())
+        text += u" · next gap F8"_s;
+    return text;
+}
+
+}  // namespace Quorbel::WantedFields
