@@ -15,6 +15,8 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -24,7 +26,7 @@ namespace {
 // Points.
 constexpr qreal buttonsAbove = 22;
 
-// The fields whose label, note or tag hint contains the query, in their order.
+// The fields whose label, note, tag hint or name in the standard contains the query, in their order.
 QList<FieldSpec> filteredFields(const QList<FieldSpec>& fields, const QString& query)
 {
     const QString wanted = Text::trimmed(query).toLower();
@@ -32,12 +34,20 @@ QList<FieldSpec> filteredFields(const QList<FieldSpec>& fields, const QString& q
         return fields;
     QList<FieldSpec> found;
     for (const FieldSpec& field : fields)
-        for (const QString& text : { field.label, field.addNote, field.namespaceHint })
+        for (const QString& text : { field.label, field.addNote, field.namespaceHint, field.standard })
             if (text.toLower().contains(wanted)) {
                 found.append(field);
                 break;
             }
     return found;
+}
+
+// As the form shows them.
+QList<FieldSpec> inSections(QList<FieldSpec> fields)
+{
+    std::stable_sort(fields.begin(), fields.end(),
+        [](const FieldSpec& a, const FieldSpec& b) { return int(a.section) < int(b.section); });
+    return fields;
 }
 
 }  // namespace
@@ -123,7 +133,8 @@ void AddFieldSheet::filter()
 {
     const QString none =
         m_query->text().isEmpty() ? u"All recommended fields are already shown."_s : u"No matching fields."_s;
-    m_list->setFields(filteredFields(m_model.addableKnownFields(), m_query->text()), none);
+    const QList<FieldSpec> fields = m_model.addableKnownFields() + inSections(m_model.addableIptcFields());
+    m_list->setFields(filteredFields(fields, m_query->text()), none);
 }
 
 // Says under the name what stands in the way of storing it, or what it will be stored as.

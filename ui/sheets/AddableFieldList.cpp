@@ -1,5 +1,6 @@
 #include "ui/sheets/AddableFieldList.h"
 
+#include "core/iptc/IptcSchema.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/Labels.h"
@@ -127,6 +128,18 @@ AddableFieldRow* AddableFieldList::rowOf(const FieldSpec& field)
     return row;
 }
 
+QWidget* AddableFieldList::headingOf(FieldSection section)
+{
+    QWidget*& heading = m_headings[int(section)];
+    if (heading)
+        return heading;
+    heading = new QWidget;
+    auto* line = new QVBoxLayout(heading);
+    line->addWidget(new LabeledDivider(u"IPTC · "_s + rawValue(section), true));
+    onRestyle(heading, [line] { line->setContentsMargins(px(left), px(12), px(right), px(4)); });
+    return heading;
+}
+
 void AddableFieldList::setFields(const QList<FieldSpec>& fields, const QString& textWhenEmpty)
 {
     for (AddableFieldRow* row : std::as_const(m_rows)) {
@@ -134,9 +147,20 @@ void AddableFieldList::setFields(const QList<FieldSpec>& fields, const QString& 
         row->hide();
     }
     m_rows.clear();
+    for (QWidget* heading : std::as_const(m_headings)) {
+        m_column->removeWidget(heading);
+        heading->hide();
+    }
+    int at = 0;
+    const QWidget* above = nullptr;
     for (const FieldSpec& field : fields) {
+        if (QWidget* heading = IptcSchema::isId(field.id) ? headingOf(field.section) : nullptr; heading != above) {
+            m_column->insertWidget(at++, heading);
+            heading->show();
+            above = heading;
+        }
         AddableFieldRow* row = rowOf(field);
-        m_column->insertWidget(int(m_rows.size()), row);
+        m_column->insertWidget(at++, row);
         row->setFocusPolicy(m_rows.isEmpty() ? Qt::StrongFocus : Qt::ClickFocus);
         row->show();
         m_rows.append(row);

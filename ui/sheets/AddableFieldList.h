@@ -21,7 +21,8 @@ class AddableFieldList final : public ScrollArea {
 
 public:
     explicit AddableFieldList(QWidget* parent = nullptr);
-    /// Shows these fields, or the text when there are none.
+    /// Shows these fields, or the text when there are none. Those of the IPTC standard, behind the others, have a small
+    /// heading over each section.
     void setFields(const QList<FieldSpec>& fields, const QString& textWhenEmpty);
     /// Ids of the fields shown, from the top.
     QStringList shownIds() const;
@@ -37,6 +38,7 @@ signals:
 
 private:
     AddableFieldRow* rowOf(const FieldSpec& field);
+    QWidget* headingOf(FieldSection section);
     void move(int from, int step);
     void orderTabStops();
 
@@ -44,6 +46,7 @@ private:
     QVBoxLayout* m_column;
     ThemedLabel* m_empty;
     QHash<QString, AddableFieldRow*> m_pool;
+    QHash<int, QWidget*> m_headings;  ///< by section
     QList<AddableFieldRow*> m_rows;
 };
 

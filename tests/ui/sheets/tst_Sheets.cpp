@@ -1,5 +1,6 @@
 // The add-field sheet, the save dialog, the rename sheet, templates and shifts, presented over a window and used.
 #include "app/model/AppModel.h"
+#include "app/model/fieldsets/FieldSets.h"
 #include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/timeshift/TimeShifting.h"
@@ -20,6 +21,8 @@
 #include "ui/sheets/RenameSheet.h"
 #include "ui/sheets/SaveDialogView.h"
 #include "ui/sheets/ShiftTimeSheet.h"
+#include "ui/sheets/fieldsets/FieldSetsSheet.h"
+#include "ui/sheets/fieldsets/FieldTicks.h"
 #include "ui/sheets/renaming/NumberField.h"
 #include "ui/sheets/renaming/RenameList.h"
 #include "ui/sheets/renaming/RenamePhotosSheet.h"
@@ -154,6 +157,7 @@ private slots:
     void renameAnswers();
     void renameManyShowsWhatToLookAt();
     void renameManyCounts();
+    void ownFieldSets();
     void addFieldFilters_data();
     void addFieldFilters();
     void addFieldWithoutAnyLeft();
@@ -615,7 +619,16 @@ void tst_Sheets::addFieldFilters_data()
     QTest::addRow("any case, blanks around") << u"  hEADL "_s << QStringList{ u"headline"_s };
     QTest::addRow("a note") << u"neighborhood"_s << QStringList{ u"sublocation"_s };
     QTest::addRow("a tag") << u"TransmissionReference"_s << QStringList{ u"jobId"_s };
+    QTest::addRow("of the standard") << u"alt"_s << QStringList{ u"jobId"_s, u"iptc.altText"_s };  // OriginalTransmission
+    QTest::addRow("under another name") << u"Ext 1.9"_s
+                                        << QStringList{ u"iptc.aiSystem"_s, u"iptc.aiSystemVersion"_s,
+                                               u"iptc.aiPrompt"_s, u"iptc.aiPromptWriter"_s };
     QTest::addRow("none") << u"qqq"_s << QStringList();
+}
+
+QList<FieldSpec> addable(const AppModel& model)
+{
+    return model.addableKnownFields() + model.addableIptcFields();
 }
 
 void tst_Sheets::addFieldFilters()
@@ -626,20 +639,20 @@ void tst_Sheets::addFieldFilters()
     QVERIFY(desk.open());
     auto* sheet = desk.present<AddFieldSheet>();
     const auto* list = sheet->findChild<AddableFieldList*>();
-    QCOMPARE(list->shownIds().size(), desk.model().addableKnownFields().size());
+    QCOMPARE(list->shownIds().size(), addable(desk.model()).size());
     QCOMPARE(QApplication::focusWidget(), field(sheet, u"Search fields"_s));
     QTest::keyClicks(QApplication::focusWidget(), query);
     QCOMPARE(list->shownIds(), ids);
     QCOMPARE(labels(list), ids.isEmpty() ? QStringList{ u"No matching fields."_s } : QStringList());
     field(sheet, u"Search fields"_s)->setText(u"   "_s);
-    QCOMPARE(list->shownIds().size(), desk.model().addableKnownFields().size());
+    QCOMPARE(list->shownIds().size(), addable(desk.model()).size());
 }
 
 void tst_Sheets::addFieldWithoutAnyLeft()
 {
     SheetFixture desk({ u"a.jpg"_s });
     QVERIFY(desk.open());
-    for (const FieldSpec& spec : desk.model().addableKnownFields())
+    for (const FieldSpec& spec : addable(desk.model()))
         desk.model().addKnownField(spec.id);
     auto* sheet = desk.present<AddFieldSheet>();
     const auto* list = sheet->findChild<AddableFieldList*>();
@@ -944,6 +957,54 @@ void tst_Sheets::shiftTimeInThreeWays()
     QVERIFY(!shifting.isOpen() && desk.model().isWorking());
     QVERIFY(desk.photos.waitUntilIdle());
     QCOMPARE(desk.photos.onDisk(u"a.jpg"_s, u"EXIF:OffsetTimeOriginal"_s).toString(), u"+02:00"_s);
+}
+
+// By keyboard alone: a set of what is on screen, one more field in it, and what it wants.
+void tst_Sheets::ownFieldSets()
+{
+    SheetFixture desk({ u"a.jpg"_s });
+    QVERIFY(desk.open());
+    FieldSets& sets = desk.model().fieldSets();
+    sets.editWhatIsShown();
+    auto* sheet = desk.present<FieldSetsSheet>();
+    auto* ticks = sheet->findChild<FieldTicks*>();
+    auto* save = button(sheet, u"Save"_s);
+    QCOMPARE(QApplication::focusWidget(), field(sheet, u"Name of the set"_s));
+    QVERIFY(!save->isEnabled());
+    QTest::keyClicks(QApplication::focusWidget(), u"Press"_s);
+    QCOMPARE(QApplication::focusWidget()->accessibleDescription(), u"There are two sets named “Press”"_s);
+    QTest::keyClicks(QApplication::focusWidget(), u" 2"_s);
+    QVERIFY(save->isEnabled());
+    field(sheet, u"Search fields"_s)->setText(u"alternative"_s);
+    int listed = 0;
+    for (int i = 0; i < ticks->topLevelItemCount(); ++i)
+        if (QTreeWidgetItem* item = ticks->topLevelItem(i); !item->isHidden() && ++listed == 2)
+            ticks->setCurrentItem(item, 2);
+    QCOMPARE(listed, 2);  // its heading, too
+    ticks->setFocus();
+    press(Qt::Key_Space);
+    press(Qt::Key_Return);
+    QVERIFY(!sets.isEditing());
+    QCOMPARE(sets.current(), u"Press 2"_s);
+    const FieldSet* made = sets.find(u"Press 2"_s);
+    QVERIFY(made && made->fields.contains(u"iptc.altText"_s) && made->fields.contains(u"title"_s));
+    QCOMPARE(made->wanted, QSet<QString>{ u"iptc.altText"_s });
+    // Those that come with the program stay as they are; the own one goes.
+    sets.edit();
+    sheet = desk.present<FieldSetsSheet>();
+    ticks = sheet->findChild<FieldTicks*>();
+    auto* list = sheet->findChild<QListWidget*>();
+    list->setCurrentRow(1);
+    ticks->setCurrentItem(ticks->topLevelItem(1), 1);
+    ticks->setFocus();
+    press(Qt::Key_Space);
+    QVERIFY(!button(sheet, u"Delete this set"_s)->isEnabled());
+    list->setCurrentRow(list->count() - 1);
+    click(button(sheet, u"Delete this set"_s));
+    click(button(sheet, u"Save"_s));
+    QVERIFY(sets.own().isEmpty());
+    QCOMPARE(sets.find(u"Press"_s)->fields.size(), 27);
+    QCOMPARE(sets.current(), FieldSets::usual());
 }
 
 QTEST_MAIN(tst_Sheets)
