@@ -52,6 +52,7 @@ MemberEditor codeEditor(const QString& name, const MemberEditorParts& parts, con
 {
     auto* picker = new CodePicker(parts.label, parent);
     picker->setSource(source);
+    picker->setPlaceholder(u"Choose…"_s);
     QObject::connect(
         picker, &CodePicker::picked, picker, [set = setter(name, parts)](const QString& code) { set(code); });
     return { picker, picker, [picker] { return QList<QWidget*>{ picker }; },

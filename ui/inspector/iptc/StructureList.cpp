@@ -133,9 +133,7 @@ void StructureList::addMenu(StructureCard* card)
         delete action;
     for (const StructureAction& one : std::as_const(m_actions)) {
         auto* action = new QAction(one.text, widget);
-        connect(action, &QAction::triggered, this, [this, card, run = one.run] {
-            run(int(card->text().isEmpty() ? items().size() : items().indexOf(card->text())));
-        });
+        connect(action, &QAction::triggered, this, [this, card, run = one.run] { run(itemOf(card)); });
         widget->addAction(action);
     }
 }
@@ -145,6 +143,14 @@ void StructureList::setActions(const QList<StructureAction>& actions)
     m_actions = actions;
     for (StructureCard* card : std::as_const(m_cards))
         addMenu(card);
+}
+
+// Two items may be the same: counted, not looked up.
+int StructureList::itemOf(const StructureCard* card) const
+{
+    const auto end = card->text().isEmpty() ? m_cards.cend() : std::find(m_cards.cbegin(), m_cards.cend(), card);
+    return int(
+        std::count_if(m_cards.cbegin(), end, [](const StructureCard* before) { return !before->text().isEmpty(); }));
 }
 
 void StructureList::setReadOnly(bool on)

@@ -73,6 +73,7 @@ protected:
 private:
     StructureCard* makeCard();
     void addMenu(StructureCard* card);
+    int itemOf(const StructureCard* card) const;
     void take(const QStringList& items, bool fresh);
     void setOpen(StructureCard* card, bool open);
     void move(StructureCard* card, int by);
