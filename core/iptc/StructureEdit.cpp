@@ -35,7 +35,7 @@ QStringList texts(const QString& text, const QString& member)
 {
     QStringList found;
     const QJsonArray items = itemsOf(text, member);
-    for (const QJsonValue& item : items)
+    for (const QJsonValue item : items)
         if (item.isString())
             found.append(item.toString());
     return found;
@@ -45,7 +45,7 @@ QStringList structures(const QString& text, const QString& member)
 {
     QStringList found;
     const QJsonArray items = itemsOf(text, member);
-    for (const QJsonValue& item : items)
+    for (const QJsonValue item : items)
         if (item.isObject())
             found.append(StructureText::of(item.toObject()));
     return found;
@@ -60,7 +60,7 @@ QString withStructures(const QString& text, const StructureMember& member, const
         items.append(StructureText::members(structure));
     // No card shows what is no structure; it is not lost for that.
     const QJsonArray before = itemsOf(text, member.name);
-    for (const QJsonValue& item : before)
+    for (const QJsonValue item : before)
         if (!item.isObject())
             items.append(item);
     return with(text, member.name, items);
