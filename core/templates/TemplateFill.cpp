@@ -4,6 +4,7 @@
 #include "core/schema/FieldCheck.h"
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
+#include "core/schema/PhotoDetails.h"
 #include "core/text/Text.h"
 
 #include <algorithm>
@@ -39,14 +40,14 @@ QList<Prepared> prepared(const Template& value)
 struct Seen {
     ExternalRefresh::Drafts drafts{};
     PhotoTokens tokens{};
-    bool knowsLanguages = false;
+    bool knowsDetails = false;
 };
 
 Seen seen(const PhotoToFill& photo, const Edits& unsaved)
 {
     Seen result{ .drafts = unsaved.onto(photo.record, photo.details ? *photo.details : PhotoDetails()),
         .tokens = PhotoTokens::of(photo.record),
-        .knowsLanguages = photo.details != nullptr };
+        .knowsDetails = photo.details != nullptr };
     result.tokens.values = result.drafts.values;
     result.tokens.lists = result.drafts.lists;
     result.tokens.position = photo.position;
@@ -155,7 +156,7 @@ FilledField filledText(const Prepared& one, const Seen& photo)
     const TemplateMode mode = one.field.mode;
     if (one.field.isBlank())
         return kept(filled, now, u"nothing to fill in"_s);
-    if (FieldLanguages::languageIn(one.field.key) && !photo.knowsLanguages)
+    if (PhotoDetails::hold(one.field.key) && !photo.knowsDetails)
         return kept(filled, now, u"not read yet"_s);
     if (mode == TemplateMode::setIfEmpty && !isBlank(now))
         return kept(filled, now, u"not empty"_s);
@@ -188,6 +189,10 @@ FilledField filledList(const Prepared& one, const Seen& photo)
 {
     FilledField filled{ .key = one.field.key, .label = one.field.label() };
     const QStringList now = photo.drafts.lists.value(one.field.key);
+    if (PhotoDetails::hold(one.field.key) && !photo.knowsDetails) {
+        filled.note = u"kept: not read yet"_s;
+        return filled;
+    }
     QStringList wanted;
     QList<RenderedPiece> all;
     for (const TokenText& item : one.items) {

@@ -97,7 +97,7 @@ QStringList CopiedFields::keys() const
 {
     const QSet<QString> all = edits.keys();
     QStringList keys;
-    for (const FieldSpec& field : FieldSchema::all()) {
+    for (const FieldSpec& field : FieldSchema::everyField()) {
         if (all.contains(field.id))
             keys.append(field.id);
         for (const QString& key : edits.scalars.keys())

@@ -1,5 +1,6 @@
 #include "core/words/PasteSummary.h"
 
+#include "core/iptc/ShownText.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
@@ -92,7 +93,7 @@ void countText(PasteCount& count, const std::optional<QString>& held, const QStr
         count.old.reset();
 }
 
-void countItems(PasteCount& count, const QStringList& held, const QStringList& items, bool hasPaths)
+void countItems(PasteCount& count, const QString& id, const QStringList& held, const QStringList& items, bool hasPaths)
 {
     const bool hasAll =
         std::all_of(items.cbegin(), items.cend(), [&held](const QString& item) { return held.contains(item); });
@@ -102,7 +103,7 @@ void countItems(PasteCount& count, const QStringList& held, const QStringList& i
         ++count.filled;
     else
         ++count.gained;
-    count.old = count.photos() == 1 ? std::optional(held.join(u", "_s)) : std::nullopt;
+    count.old = count.photos() == 1 ? std::optional(ShownText::of(id, held)) : std::nullopt;
 }
 
 // "titles": what one counts several of. "" where the field's name has no usual plural.
@@ -129,7 +130,7 @@ QString replacedPart(const QString& key, const PasteCount& count)
     const FieldSpec* field = FieldSchema::spec(key);
     const bool isWords = !field || field->kind == FieldKind::text || field->kind == FieldKind::multiline;
     if (count.old && (isWords || count.photos() == 1))
-        return count.photos() == 1 ? u"replace "_s + quoted(*count.old)
+        return count.photos() == 1 ? u"replace "_s + quoted(ShownText::of(key, *count.old))
                                    : u"replace %1 in %2"_s.arg(quoted(*count.old)).arg(count.replaced);
     const QString things = plural(key);
     const QString number = QString::number(count.replaced);
@@ -168,7 +169,7 @@ QMap<QString, PasteCount> counts(const CopiedFields& fields, const Edits& unsave
             PasteCount& count = counts[key];
             if (const auto items = fields.edits.added.constFind(key); items != fields.edits.added.cend())
                 countItems(
-                    count, seen.items(key), *items, key != FieldID::keywords || seen.hasPaths(fields.edits.paths));
+                    count, key, seen.items(key), *items, key != FieldID::keywords || seen.hasPaths(fields.edits.paths));
             else
                 countText(count, seen.text(key), textOf(fields, key));
         }
@@ -202,8 +203,8 @@ QString line(const QString& key, const PasteCount& count, bool isTicked)
 QString shownValue(const CopiedFields& fields, const QString& key)
 {
     if (const auto items = fields.edits.added.constFind(key); items != fields.edits.added.cend())
-        return items->join(u", "_s);
-    return textOf(fields, key).simplified();
+        return ShownText::of(key, *items);
+    return ShownText::of(key, textOf(fields, key)).simplified();
 }
 
 QStringList lineKeys(const CopiedFields& fields)

@@ -1,6 +1,7 @@
 #include "ui/sheets/SaveDialogView.h"
 
 #include "app/model/AppModel.h"
+#include "core/iptc/ShownText.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldCheck.h"
 #include "core/schema/FieldID.h"
@@ -89,7 +90,8 @@ QList<ChangeLine> scalarLines(const QSet<QString>& ids, const std::function<Chan
 ChangeLine textLine(const QString& id, const QString& value)
 {
     const FieldSpec* field = FieldSchema::spec(id);
-    return { .value = u'“' + value + u'”', .note = field ? FieldCheck::note(*field, value) : QString() };
+    return { .value = u'“' + ShownText::of(id, value) + u'”',
+        .note = field ? FieldCheck::note(*field, value) : QString() };
 }
 
 ChangeLine batchLine(const AppModel& model, const QString& id)
@@ -97,7 +99,9 @@ ChangeLine batchLine(const AppModel& model, const QString& id)
     const auto own = model.batchOwn().constFind(id);
     if (own == model.batchOwn().cend())
         return textLine(id, model.batchValues().value(id));
-    return { .value = own->told(model.selection().size()), .isOwn = true };
+    OwnSummary shown = *own;
+    shown.text = ShownText::of(id, own->text);
+    return { .value = shown.told(model.selection().size()), .isOwn = true };
 }
 
 // Keywords that were typed with their parents, with these.
@@ -125,11 +129,21 @@ QList<ChangeLine> agreementLines(const AppModel::AgreementQuestion& question)
     return lines;
 }
 
+// What is wrong with an item of a list.
+QString noteOf(const FieldSpec& field, const QStringList& items)
+{
+    for (const QString& item : items)
+        if (const QString note = FieldCheck::note(field, item); !note.isEmpty())
+            return note;
+    return {};
+}
+
 // What a list gains, and what it loses. Of texts that only some of the photos gain or lose it tells how many do.
 ChangeLine listLine(const AppModel& model, const FieldSpec& field)
 {
     ChangeLine line{ .label = field.label,
-        .value = shownItems(model, field.id, model.batchLists().value(field.id)).join(u", "_s),
+        .value = ShownText::of(field.id, shownItems(model, field.id, model.batchLists().value(field.id))),
+        .note = noteOf(field, model.batchLists().value(field.id)),
         .takenAway = model.batchRemoved().value(field.id) };
     if (const auto own = model.batchOwn().constFind(field.id); own != model.batchOwn().cend()) {
         line.isOwn = line.value.isEmpty();
@@ -168,13 +182,18 @@ QList<ChangeLine> changeLines(const AppModel& model, const AskedAgreement& quest
     if (isSingle(model)) {
         QList<ChangeLine> lines = scalarLines(
             model.editedSingle(), [&model](const QString& id) { return textLine(id, model.draftValues().value(id)); });
+        for (const FieldSpec& field : FieldSchema::everyField())
+            if (field.isList() && model.editedSingle().contains(field.id)) {
+                const QStringList items = model.draftLists().value(field.id);
+                lines.append({ field.label, ShownText::of(field.id, items), noteOf(field, items) });
+            }
         lines.removeIf([](const ChangeLine& line) { return line.note.isEmpty(); });
         return lines;
     }
     QList<ChangeLine> lines =
         scalarLines(model.batchInclude(), [&model](const QString& id) { return batchLine(model, id); });
     QMap<QString, ChangeLine> lists;
-    for (const FieldSpec& field : FieldSchema::all())
+    for (const FieldSpec& field : FieldSchema::everyField())
         if (const ChangeLine line = field.isList() ? listLine(model, field) : ChangeLine(); hasEdits(line))
             lists.insert(field.id, line);
     return lines + lists.values() + ownCustomLines(model);

@@ -3,15 +3,16 @@
 #include "app/model/AppModel.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/words/CodeReplacements.h"
+#include "core/iptc/IptcSchema.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldLanguages.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/ScrollArea.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/attached/SearchMenu.h"
+#include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/sheets/SheetParts.h"
@@ -77,13 +78,20 @@ struct Addable {
     QString key{};
 };
 
+// Of the further properties of the standard those that are words.
+bool canBeFilled(const FieldSpec& field)
+{
+    return !IptcSchema::isId(field.id) || field.kind == FieldKind::text || field.kind == FieldKind::multiline
+        || field.kind == FieldKind::keywords;
+}
+
 QList<Addable> addableFields(const Template& value)
 {
     QList<Addable> fields;
-    for (const FieldSpec& field : FieldSchema::all())
-        if (value.indexOf(field.id) < 0)
+    for (const FieldSpec& field : FieldSchema::everyField())
+        if (value.indexOf(field.id) < 0 && canBeFilled(field))
             fields.append({ { field.label, {} }, field.id });
-    for (const FieldSpec& field : FieldSchema::all()) {
+    for (const FieldSpec& field : FieldSchema::everyField()) {
         if (field.languageTag().isEmpty())
             continue;
         for (const FieldLanguages::Choice& language : FieldLanguages::choices())

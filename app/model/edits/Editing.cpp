@@ -25,6 +25,15 @@ QStringList confirmedIn(const Edits& edits, const ImageRecord& photo)
     return keys;
 }
 
+// Where a field stands among those above it: two of IptcSchema's directly behind what they belong to.
+qsizetype placeOf(const QString& id, const QStringList& above)
+{
+    const qsizetype before = id == "iptc.altText" ? above.indexOf(FieldID::description)
+        : id == "iptc.countryCode"                ? above.indexOf(FieldID::country)
+                                                  : -1;
+    return before < 0 ? above.size() : before + 1;
+}
+
 }  // namespace
 
 Editing::Editing(Announcer& announcer, const PhotoList& photos, SelectedPhotos& selected,
@@ -350,7 +359,7 @@ QStringList Editing::visibleFieldIDs(FieldSection section) const
     QStringList ids;
     for (const FieldSpec& field : FieldSchema::everyField())
         if (field.section == section && isShown(field))
-            ids.append(field.id);
+            ids.insert(placeOf(field.id, ids), field.id);
     return ids;
 }
 

@@ -18,10 +18,11 @@ namespace {
 // So many photos are filled while one waits: what is pressed next finds them filled.
 constexpr qsizetype mostAtOnce = 100;
 
-bool hasLanguages(const Template& value)
+// Whether it fills fields that records know nothing of.
+bool needsDetails(const Template& value)
 {
     return std::any_of(value.fields.cbegin(), value.fields.cend(),
-        [](const TemplateField& field) { return field.spec() && field.key != field.spec()->id; });
+        [](const TemplateField& field) { return PhotoDetails::hold(field.key); });
 }
 
 // "New template", "New template 2", …
@@ -162,7 +163,7 @@ void Templates::fill()
     QHash<QUrl, PhotoDetails> details;
     for (const int row : rows()) {
         photos.append(m_model.records().at(row));
-        if (const PhotoDetails* known = hasLanguages(entry->value()) ? m_model.details(photos.last().url) : nullptr)
+        if (const PhotoDetails* known = needsDetails(entry->value()) ? m_model.details(photos.last().url) : nullptr)
             details.insert(photos.last().url, *known);
     }
     if (photos.size() > mostAtOnce)

@@ -206,15 +206,19 @@ void FieldPasting::lay(const QSet<QString>& keys)
     for (CustomValue& custom : edits.customs)
         custom.name = m_model.storedCustomName(custom.name).value_or(custom.name);
     if (!m_model.isBatch()) {
-        // The list of one photo is replaced as it is on screen, so that what was typed before stays.
+        // The list of one photo is replaced as it is on screen, so that what was typed before stays. One that is not
+        // known yet gains the items.
+        const auto isUnknown = [this](const QString& id) { return PhotoDetails::hold(id) && !m_model.knowsDetails(); };
         for (auto items = edits.added.cbegin(); items != edits.added.cend(); ++items) {
+            if (isUnknown(items.key()))
+                continue;
             QStringList list = m_model.draftLists().value(items.key());
             for (const QString& item : *items)
                 if (!list.contains(item))
                     list.append(item);
             edits.lists.insert(items.key(), list);
         }
-        edits.added.clear();
+        edits.added.removeIf([&isUnknown](const auto& items) { return !isUnknown(items.key()); });
     } else if (m_model.unreadSelected() == 0) {
         // What all of them hold is no edit.
         edits.scalars.removeIf([this, unsaved = m_parts.unsaved()](const auto& text) {
