@@ -2,7 +2,10 @@
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
+#include "ui/controls/TextFields.h"
 #include "ui/controls/Toggles.h"
+#include "ui/controls/cards/EditedDot.h"
+#include "ui/controls/text/CountLine.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
@@ -51,6 +54,9 @@ FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
     : QWidget(parent)
     , m_kind(parts.kind)
     , m_isLanguage(parts.isLanguage)
+    , m_isWide(parts.kind == FieldKind::structure)
+    , m_isAlone(m_isWide && parts.isAlone)
+    , m_purpose(parts.mostCharacters > 0 && !parts.isLanguage ? parts.field->addNote + u'.' : QString())
     , m_editor(makeRowEditor(parts, *this))
     , m_line(new QHBoxLayout(this))
     , m_column(new QVBoxLayout)
@@ -64,9 +70,31 @@ FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
     m_line->addLayout(m_column, 1);
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->addWidget(m_editor.widget);
+    if (m_isWide)
+        addHead();
+    if (parts.mostCharacters > 0)
+        addCount(parts.mostCharacters);
     m_column->addStretch();
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     onRestyle(this, [this] { restyle(); });
+}
+
+void FieldRow::addHead()
+{
+    m_line->removeWidget(m_label);
+    m_head = new QHBoxLayout;
+    m_head->addWidget(m_label, 1, Qt::AlignTop);
+    m_under = new QVBoxLayout;
+    m_column->insertLayout(0, m_head);
+    m_column->addLayout(m_under);
+}
+
+void FieldRow::addCount(int limit)
+{
+    m_count = new CountLine(m_purpose, limit, this);
+    m_column->addWidget(m_count);
+    if (auto* area = qobject_cast<QBTextArea*>(m_editor.input))
+        m_count->follow(*area);
 }
 
 void FieldRow::restyle()
@@ -75,23 +103,30 @@ void FieldRow::restyle()
     const int height = px(m_stacked ? stackedLabel : rowHeight);
     m_label->setContentsMargins(m_isLanguage ? px(languageIndent) : 0, drop, 0, 0);
     m_label->setFixedHeight(height + drop);
-    m_label->setMinimumWidth(m_stacked ? 0 : px(labelWidth));
-    m_label->setMaximumWidth(m_stacked ? QWIDGETSIZE_MAX : px(labelWidth));
+    const bool isOver = m_stacked || m_isWide;  // the label over the editor
+    m_label->setMinimumWidth(isOver ? 0 : px(labelWidth));
+    m_label->setMaximumWidth(isOver ? QWIDGETSIZE_MAX : px(labelWidth));
     m_line->setSpacing(px(gap));
     m_column->setSpacing(px(lineGap));
+    if (m_head) {
+        m_head->setContentsMargins(px(EditedDot::room), 0, 0, 0);
+        m_head->setSpacing(px(gap));
+        m_under->setContentsMargins(px(EditedDot::room), 0, 0, 0);
+        m_under->setSpacing(px(lineGap));
+    }
     if (m_tick)
         m_tick->setFixedSize(px(16), height + 2 * drop);
     if (m_block)
         m_block->setFixedHeight(px(isMultiline() ? areaHeight : rowHeight));
     if (m_block && m_kind == FieldKind::rating)
         m_block->setFixedWidth(px(ratingWidth));
-    setStacked(width() < px(stackedBelow));
+    setStacked(contentsRect().width() < px(stackedBelow));
 }
 
 void FieldRow::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    setStacked(width() < px(stackedBelow));
+    setStacked(contentsRect().width() < px(stackedBelow));
 }
 
 void FieldRow::enterEvent(QEnterEvent* event)
@@ -108,7 +143,7 @@ void FieldRow::leaveEvent(QEvent* event)
 
 void FieldRow::setStacked(bool stacked)
 {
-    if (stacked == std::exchange(m_stacked, stacked))
+    if (m_isWide || stacked == std::exchange(m_stacked, stacked))
         return;
     if (stacked) {
         m_line->removeWidget(m_label);
@@ -129,7 +164,7 @@ int FieldRow::dotCenter() const
 
 QList<QWidget*> FieldRow::tabStops() const
 {
-    QList<QWidget*> stops = m_editor.tabStops;
+    QList<QWidget*> stops = m_editor.changingStops ? m_editor.changingStops() : m_editor.tabStops;
     if (m_tick)
         stops.prepend(m_tick);
     stops.append(m_extras->stopsBesideEditor());
@@ -148,6 +183,7 @@ void FieldRow::setState(const FieldRowState& state, bool fresh)
     m_label->setRole(state.unread ? TextRole::muted : TextRole::label);
     m_editor.show(state, fresh);
     showBlock();
+    showHead();
     showTick();
     showRemove();
     showLines();
@@ -172,6 +208,20 @@ void FieldRow::showBlock()
         m_block->setVisible(m_state.unread);
     if (!m_state.unread)
         m_editor.widget->show();
+    // Of texts that differ there is nothing to count.
+    if (m_count)
+        m_count->setVisible(!m_state.unread && !(m_state.text.isEmpty() && m_state.italicPlaceholder));
+}
+
+bool FieldRow::hasLabel() const
+{
+    return !m_isAlone || m_state.batch;
+}
+
+void FieldRow::showHead()
+{
+    if (m_head)
+        m_label->setVisible(hasLabel());
 }
 
 void FieldRow::showTick()
@@ -180,7 +230,7 @@ void FieldRow::showTick()
         m_tick = new QBCheckbox(this);
         m_tick->setAmber(true);
         restyle();
-        m_line->insertWidget(0, m_tick, 0, Qt::AlignTop);
+        (m_head ? m_head : m_line)->insertWidget(0, m_tick, 0, Qt::AlignTop);
         connect(m_tick, &QAbstractButton::clicked, this, &FieldRow::tickClicked);
         emit tabStopsChanged();
     }
@@ -198,7 +248,7 @@ void FieldRow::showRemove()
         m_remove = new QBIconButton(u"xmark.circle.fill"_s, u"Remove this field"_s, this);
         m_remove->setSizes({ 22, rowHeight }, 15);
         m_remove->setQuiet(true);
-        m_line->addWidget(m_remove, 0, Qt::AlignTop);
+        (m_head && !m_isAlone ? m_head : m_line)->addWidget(m_remove, 0, Qt::AlignTop);
         connect(m_remove, &QAbstractButton::clicked, this, &FieldRow::removeClicked);
         emit tabStopsChanged();
     }
@@ -230,7 +280,10 @@ void FieldRow::showLine(Line which, const QString& text)
         line->setMono(tags);
         line->setVerbatim(tags);
         const auto above = std::count_if(m_lines.cbegin(), m_lines.cbegin() + int(which), [](auto* l) { return l; });
-        m_column->insertWidget(m_column->indexOf(m_extras->lastUnderEditor()) + 1 + int(above), line);
+        if (m_under)
+            m_under->insertWidget(int(above), line);
+        else
+            m_column->insertWidget(m_column->indexOf(m_extras->lastUnderEditor()) + 1 + int(above), line);
     }
     line->setText(text);
     line->setVisible(!text.isEmpty());
@@ -245,7 +298,7 @@ void FieldRow::describe()
     // A placeholder alone is not read aloud.
     if (m_state.batch && m_state.included && m_state.italicPlaceholder)
         told.append(m_state.placeholder);
-    for (const QString& line : { m_state.noteLine, m_state.helpLine, m_state.namespaceLine })
+    for (const QString& line : { m_purpose, m_state.noteLine, m_state.helpLine, m_state.namespaceLine })
         if (!line.isEmpty())
             told.append(line);
     const QString description = told.join(u", "_s);

@@ -14,6 +14,7 @@ class QVBoxLayout;
 
 namespace Quorbel {
 
+class CountLine;
 class QBCheckbox;
 class QBIconButton;
 class RowExtras;
@@ -32,14 +33,20 @@ public:
     void setState(const FieldRowState& state, bool fresh);
     const FieldRowState& state() const { return m_state; }
     /// The part of the editor that takes the keyboard.
-    QWidget* input() const { return m_editor.input; }
+    QWidget* input() const { return m_editor.changingInput ? m_editor.changingInput() : m_editor.input; }
     /// What takes Tab, in order.
     QList<QWidget*> tabStops() const;
     /// Where the edited dot goes: the middle of the label's first line, from the row's top.
     int dotCenter() const;
+    /// Takes the section's whole width below its label: the cards of structures, which begin further left.
+    bool isWide() const { return m_isWide; }
+    /// Of a wide row not always.
+    bool hasLabel() const;
 
 signals:
     void textEdited(const QString& text);
+    /// All items of a list, in their new order.
+    void itemsEdited(const QStringList& items);
     void itemAdded(const QString& item);
     void itemRemoved(const QString& item);
     void placePicked(const Quorbel::LocationFill::Result& result);
@@ -62,8 +69,11 @@ protected:
 
 private:
     bool isMultiline() const { return m_kind == FieldKind::multiline; }
+    void addHead();
+    void addCount(int limit);
     void restyle();
     void setStacked(bool stacked);
+    void showHead();
     void showBlock();
     void showTick();
     void showRemove();
@@ -74,6 +84,9 @@ private:
 
     FieldKind m_kind;
     bool m_isLanguage;
+    bool m_isWide;
+    bool m_isAlone;  ///< wide, and named by its section
+    QString m_purpose;  ///< what the text is for, told beside how long it is; "" for most
     bool m_stacked = false;  ///< the label stands over the editor, not beside it
     RowEditor m_editor;
     FieldRowState m_state{};
@@ -81,6 +94,9 @@ private:
     QVBoxLayout* m_column;
     TwoLineLabel* m_label;
     RowExtras* m_extras;
+    QHBoxLayout* m_head = nullptr;  ///< over the editor of a wide row: tick, label, button
+    QVBoxLayout* m_under = nullptr;  ///< of a wide row: what the lines under the editor stand in
+    CountLine* m_count = nullptr;  ///< of a text that is not to become long
     QWidget* m_block = nullptr;  ///< until the row was unread
     QBCheckbox* m_tick = nullptr;  ///< until the row was in a batch
     QBIconButton* m_remove = nullptr;  ///< until the row was removable

@@ -46,6 +46,7 @@ struct FieldRowState {
     QString text{};  ///< of an editor of one value
     QStringList items{};  ///< of a keyword editor
     QMap<QString, QList<QStringList>> itemParents{};  ///< of items that stand in a tree: the parents of each path
+    QStringList held{};  ///< of an edited field with structures: what the photo itself holds
     QString placeholder{};
     bool italicPlaceholder = false;
     bool batch = false;  ///< has a tick

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/words/CodeReplacements.h"
+#include "core/iptc/IptcSchema.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
@@ -17,9 +18,12 @@
 #include "ui/inspector/InspectorStates.h"
 #include "ui/inspector/PhotoHeader.h"
 #include "ui/inspector/WantedFields.h"
+#include "ui/inspector/iptc/DetailsWait.h"
+#include "ui/inspector/iptc/IptcSections.h"
 #include "ui/inspector/keywords/KeywordRows.h"
 #include "ui/places/LocationMap.h"
 
+#include <QApplication>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -36,6 +40,7 @@ constexpr qreal top = 14;
 constexpr qreal bottom = 16;
 
 constexpr int mostCompletions = 16;  // some of which are there already
+constexpr int mostOfAltText = 250;  // characters, as the standard advises
 constexpr int blocksDelay = 150;  // milliseconds in which a record may come before anything changes
 
 // The fields of the usual photo: those that are always shown, and the rating.
@@ -44,6 +49,19 @@ QList<FieldSpec> usualFields()
     QList<FieldSpec> fields = FieldSchema::all();
     fields.removeIf([](const FieldSpec& field) { return !field.alwaysShown && field.kind != FieldKind::rating; });
     return fields;
+}
+
+FieldRowParts partsOf(const FieldSpec& field)
+{
+    FieldRowParts parts;
+    parts.kind = field.kind;
+    if (!IptcSchema::isId(field.id))
+        return parts;
+    parts.field = IptcSchema::spec(field.id);
+    const auto isThere = [&field](const FieldSpec& other) { return other.section == field.section; };
+    parts.isAlone = std::count_if(IptcSchema::all().cbegin(), IptcSchema::all().cend(), isThere) == 1;
+    parts.mostCharacters = field.id == "iptc.altText" ? mostOfAltText : 0;
+    return parts;
 }
 
 // Header and banner keep the room that sections leave for the dots.
@@ -67,6 +85,7 @@ InspectorForm::InspectorForm(
     , m_column(new QVBoxLayout(this))
     , m_header(new PhotoHeader(thumbs))
     , m_banner(new BatchBanner)
+    , m_iptc(new IptcSections(model, [this](const QStringList& ids, bool fresh) { return rowsOf(ids, fresh); }))
     , m_customs(new FormSection(u"CUSTOM"_s))
     , m_cameraSection(new FormSection(u"CAMERA"_s, u"read-only"_s))
     , m_map(new LocationMap(places, maps))
@@ -75,6 +94,8 @@ InspectorForm::InspectorForm(
     , m_batchPicker(makeFieldSetPicker(model.fieldSets(), m_banner))
     , m_languages(new FormLanguages(model, this))
     , m_pause(new FormPause(this))
+    , m_wait(new DetailsWait(model, this))
+    , m_waitPause(new FormPause(this))
 {
     m_column->setSpacing(0);
     m_column->addWidget(indented(m_header));
@@ -84,6 +105,7 @@ InspectorForm::InspectorForm(
         m_column->addWidget(m_sections.at(i));
     }
     m_sections.at(size_t(FieldSection::location))->setUnderRows(m_map);
+    m_column->addWidget(m_iptc);
     m_column->addWidget(m_customs);
     m_cameraSection->setUnderRows(m_camera);
     m_column->addWidget(m_cameraSection);
@@ -92,12 +114,9 @@ InspectorForm::InspectorForm(
     m_banner->setAtEnd(m_batchPicker);
     connect(m_banner->agree(), &QAbstractButton::clicked, &m_model, &AppModel::requestMakeAgree);
     connect(m_map, &LocationMap::found, &m_model, &AppModel::fillPlaceNames);
-    connect(m_languages, &FormLanguages::changed, this, [this] {
-        if (!m_subject)
-            return;
-        showSections(false);
-        orderTabStops();
-    });
+    connect(m_languages, &FormLanguages::changed, this, &InspectorForm::showAgain);
+    connect(m_iptc, &IptcSections::changed, this, &InspectorForm::showAgain);
+    connect(m_wait, &DetailsWait::late, this, &InspectorForm::showAgain);
     connect(m_languages, &FormLanguages::focusAsked, this, &InspectorForm::fieldAdded);
     m_blocksSoon.setSingleShot(true);
     m_blocksSoon.setInterval(blocksDelay);
@@ -119,6 +138,7 @@ void InspectorForm::refresh()
     const Subject subject{ m_model.selection(), m_model.primary() };
     const bool fresh = subject != m_subject;
     m_subject = subject;
+    m_wait->follow(fresh);
     addKeywordRows();
     showSections(fresh);
     showKeywordRows();
@@ -127,6 +147,7 @@ void InspectorForm::refresh()
     showCamera();
     orderTabStops();
     endWaiting();
+    takeKeyboardFromAwaited();
     announceAdded(fresh);
 }
 
@@ -136,6 +157,8 @@ void InspectorForm::leave()
     endWaiting();
     for (FormSection* section : m_sections)
         section->hide();
+    m_iptc->hide();
+    m_shownIds = {};
     m_map->setPoint(std::nullopt, false);
     m_customs->hide();
     m_cameraSection->hide();
@@ -178,6 +201,8 @@ void InspectorForm::showBlocks()
     }
     if (m_keywordRows)
         m_keywordRows->hide();
+    m_iptc->hide();
+    m_shownIds = {};
     m_map->setPoint(std::nullopt, false);
     m_customs->hide();
     m_cameraSection->hide();
@@ -201,6 +226,7 @@ void InspectorForm::takeMouse(bool on)
 {
     for (FormSection* section : m_sections)
         section->setAttribute(Qt::WA_TransparentForMouseEvents, !on);
+    m_iptc->setAttribute(Qt::WA_TransparentForMouseEvents, !on);
     m_customs->setAttribute(Qt::WA_TransparentForMouseEvents, !on);
 }
 
@@ -231,7 +257,37 @@ void InspectorForm::showHeader()
 void InspectorForm::showSections(bool fresh)
 {
     for (size_t i = 0; i < m_sections.size(); ++i)
-        showFields(FieldSection(i), fresh);
+        showSection(FieldSection(i), fresh);
+    if (m_wait->isHolding())
+        return;
+    const QList<QWidget*> before = m_iptc->tabStops();
+    m_iptc->refresh(fresh || m_wait->hasJustEnded());
+    m_tabOrderStale = m_tabOrderStale || m_iptc->tabStops() != before;
+}
+
+// Nothing but the rows differs.
+void InspectorForm::showAgain()
+{
+    if (!m_subject)
+        return;
+    showSections(false);
+    orderTabStops();
+}
+
+// --- While the fields of IptcSchema are not known ---
+
+bool InspectorForm::isAwaited(const QString& key) const
+{
+    return m_wait->isOn() && IptcSchema::isId(key);
+}
+
+// What was typed into a field of the photo before does not go on in this one's.
+void InspectorForm::takeKeyboardFromAwaited()
+{
+    if (m_wait->isOn() && isAwaited(keyOf(QApplication::focusWidget())))
+        m_waitPause->begin();
+    else if (!m_wait->isOn())
+        m_waitPause->end(nullptr);
 }
 
 void InspectorForm::addKeywordRows()
@@ -254,24 +310,53 @@ void InspectorForm::showKeywordRows()
     }
 }
 
-void InspectorForm::showFields(FieldSection section, bool fresh)
+QList<FieldRow*> InspectorForm::rowsOf(const QStringList& ids, bool fresh)
 {
     QList<FieldRow*> rows;
-    const QStringList ids = m_model.visibleFieldIDs(section);
     for (const QString& id : ids) {
         const FieldSpec& field = *FieldSchema::spec(id);
+        if (isAwaited(id)) {
+            addAwaitedRows(field, rows);
+            continue;
+        }
         FieldRow* row = rowOf(field);
+        rows.append(row);
         FieldRowState state = InspectorStates::fieldRow(m_model, field);
         state.languages.isOpen = m_languages->isOpen(id);
         WantedFields::show(m_model.fieldSets(), id, state);
-        row->setState(state, fresh);
-        rows.append(row);
-        addLanguageRows(field, fresh, rows);
+        // One that was not on screen shows another photo's text, if any.
+        const bool isNew = fresh || row->isHidden() || (m_wait->hasJustEnded() && IptcSchema::isId(id));
+        row->setState(state, isNew);
+        addLanguageRows(field, isNew, rows);
     }
+    return rows;
+}
+
+// What may stay for a moment stays: also what the photo before had, and this one has perhaps.
+void InspectorForm::showSection(FieldSection section, bool fresh)
+{
     FormSection* form = m_sections.at(size_t(section));
+    QStringList& shown = m_shownIds.at(size_t(section));
+    QStringList ids = m_model.visibleFieldIDs(section);
+    for (qsizetype i = 0; m_wait->isHolding() && i < shown.size(); ++i)
+        if (IptcSchema::isId(shown.at(i)) && !ids.contains(shown.at(i)))
+            ids.insert(i == 0 ? 0 : ids.indexOf(shown.at(i - 1)) + 1, shown.at(i));
+    shown = ids;
+    const QList<FieldRow*> rows = rowsOf(ids, fresh);
     form->setRows(rows);
     form->setNote(WantedFields::line(m_model.fieldSets(), section));
     form->setVisible(!rows.isEmpty());
+}
+
+void InspectorForm::addAwaitedRows(const FieldSpec& field, QList<FieldRow*>& rows)
+{
+    FieldRow* row = rowOf(field);
+    rows.append(row);
+    if (!m_wait->isHolding() || row->isHidden())
+        return row->setState(InspectorStates::unreadRow(field), true);
+    for (const RowLanguages::Code& code : row->state().languages.codes)
+        if (FieldRow* language = this->row(FieldLanguages::key(field.id, code.text)))
+            rows.append(language);
 }
 
 void InspectorForm::addLanguageRows(const FieldSpec& field, bool fresh, QList<FieldRow*>& rows)
@@ -341,6 +426,12 @@ QString InspectorForm::keyOf(const QWidget* widget) const
     return {};
 }
 
+FieldRow* InspectorForm::reveal(const QString& id)
+{
+    m_iptc->reveal(id);
+    return row(id);
+}
+
 FieldRow* InspectorForm::makeRow(const QString& key, FieldRowParts parts)
 {
     parts.codes = m_model.codes().texts();
@@ -356,8 +447,7 @@ FieldRow* InspectorForm::rowOf(const FieldSpec& field)
 {
     if (FieldRow* known = m_pool.value(field.id))
         return known;
-    FieldRowParts parts;
-    parts.kind = field.kind;
+    FieldRowParts parts = partsOf(field);
     parts.searchesPlaces = field.id == FieldID::place;
     parts.places = m_places;
     parts.now = [this] { return m_model.now(); };
@@ -366,19 +456,26 @@ FieldRow* InspectorForm::rowOf(const FieldSpec& field)
             return InspectorStates::keywordSuggestions(m_model, typed, mostCompletions);
         };
     FieldRow* row = makeRow(field.id, parts);
-    connect(row, &FieldRow::textEdited, this, [this, id = field.id](const QString& text) { write(id, text); });
-    connect(
-        row, &FieldRow::itemAdded, this, [this, id = field.id](const QString& item) { changeList(id, item, true); });
-    connect(
-        row, &FieldRow::itemRemoved, this, [this, id = field.id](const QString& item) { changeList(id, item, false); });
-    connect(row, &FieldRow::tickClicked, this, [this, field] { toggle(field); });
-    connect(row, &FieldRow::removeClicked, this, [this, id = field.id] { m_model.removeAddedField(id); });
-    connect(row, &FieldRow::placePicked, &m_model, &AppModel::applyLocation);
-    connect(
-        row, &FieldRow::homeUsed, this, [this, id = field.id](const FieldHome& home) { m_model.useHome(id, home); });
-    connect(row, &FieldRow::agreeAsked, &m_model, &AppModel::requestMakeAgree);
-    m_languages->connectRow(*row, field);
+    connectRow(*row, field);
     return row;
+}
+
+void InspectorForm::connectRow(FieldRow& row, const FieldSpec& field)
+{
+    const QString id = field.id;
+    connect(&row, &FieldRow::textEdited, this, [this, id](const QString& text) { write(id, text); });
+    connect(&row, &FieldRow::itemAdded, this, [this, id](const QString& item) { changeList(id, item, true); });
+    connect(&row, &FieldRow::itemRemoved, this, [this, id](const QString& item) { changeList(id, item, false); });
+    connect(&row, &FieldRow::itemsEdited, this, [this, id](const QStringList& items) {
+        if (takes(id))
+            m_model.setItems(id, items);
+    });
+    connect(&row, &FieldRow::tickClicked, this, [this, field] { toggle(field); });
+    connect(&row, &FieldRow::removeClicked, this, [this, id] { m_model.removeAddedField(id); });
+    connect(&row, &FieldRow::placePicked, &m_model, &AppModel::applyLocation);
+    connect(&row, &FieldRow::homeUsed, this, [this, id](const FieldHome& home) { m_model.useHome(id, home); });
+    connect(&row, &FieldRow::agreeAsked, &m_model, &AppModel::requestMakeAgree);
+    m_languages->connectRow(row, field);
 }
 
 FieldRow* InspectorForm::rowOf(const FieldSpec& field, const QString& code)
@@ -386,8 +483,7 @@ FieldRow* InspectorForm::rowOf(const FieldSpec& field, const QString& code)
     const QString key = FieldLanguages::key(field.id, code);
     if (FieldRow* known = m_pool.value(key))
         return known;
-    FieldRowParts parts;
-    parts.kind = field.kind;
+    FieldRowParts parts = partsOf(field);
     parts.isLanguage = true;
     FieldRow* row = makeRow(key, parts);
     connect(row, &FieldRow::textEdited, this, [this, key](const QString& text) { write(key, text); });
@@ -408,9 +504,14 @@ FieldRow* InspectorForm::rowOf(const CustomValue& custom)
     return row;
 }
 
+bool InspectorForm::takes(const QString& key) const
+{
+    return !m_pause->isOn() && !isAwaited(key);
+}
+
 void InspectorForm::write(const QString& id, const QString& text)
 {
-    if (m_pause->isOn())
+    if (!takes(id))
         return;
     if (m_model.isBatch())
         m_model.setBatch(id, text);
@@ -420,7 +521,7 @@ void InspectorForm::write(const QString& id, const QString& text)
 
 void InspectorForm::changeList(const QString& id, const QString& item, bool add)
 {
-    if (m_pause->isOn())
+    if (!takes(id))
         return;
     if (m_model.isBatch())
         add ? m_model.addBatchListItem(id, item) : m_model.removeBatchListItem(id, item);
@@ -454,6 +555,7 @@ void InspectorForm::orderTabStops()
         if (section == m_sections.at(size_t(FieldSection::location)))
             stops.append(m_map->fillLink());
     }
+    stops.append(m_iptc->tabStops());
     take(m_customs);
     // A row made late stands behind the rest of the window: what follows the form goes there with it.
     stops.append(m_stopsBehind);

@@ -22,10 +22,12 @@ class AppModel;
 class BatchBanner;
 class CameraSection;
 class ChoicePicker;
+class DetailsWait;
 class FieldRow;
 class FormLanguages;
 class FormPause;
 class FormSection;
+class IptcSections;
 class KeywordRows;
 class LocationMap;
 class MapRenderer;
@@ -56,6 +58,10 @@ public:
     FieldRow* row(const QString& id) const;
     /// The same the other way round, for any part of a row; "" where it is in none.
     QString keyOf(const QWidget* widget) const;
+    /// The same as row(); a section that is folded over it unfolds.
+    FieldRow* reveal(const QString& id);
+    /// Whether it is not known yet what the photo holds under this key: its row, if it is on screen, takes nothing.
+    bool isAwaited(const QString& key) const;
     QSize minimumSizeHint() const override;
 
 signals:
@@ -75,9 +81,13 @@ private:
     void showBlocks();
     void endWaiting();
     void takeMouse(bool on);
-    void showFields(FieldSection section, bool fresh);
+    QList<FieldRow*> rowsOf(const QStringList& ids, bool fresh);
+    void showSection(FieldSection section, bool fresh);
     void showSections(bool fresh);
+    void showAgain();
+    void takeKeyboardFromAwaited();
     void addLanguageRows(const FieldSpec& field, bool fresh, QList<FieldRow*>& rows);
+    void addAwaitedRows(const FieldSpec& field, QList<FieldRow*>& rows);
     void showCustoms(bool fresh);
     void showMap(bool fresh);
     void showCamera();
@@ -86,6 +96,8 @@ private:
     FieldRow* rowOf(const FieldSpec& field);
     FieldRow* rowOf(const FieldSpec& field, const QString& code);
     FieldRow* rowOf(const CustomValue& custom);
+    void connectRow(FieldRow& row, const FieldSpec& field);
+    bool takes(const QString& key) const;
     void write(const QString& id, const QString& text);
     void changeList(const QString& id, const QString& item, bool add);
     void toggle(const FieldSpec& field);
@@ -106,6 +118,8 @@ private:
     PhotoHeader* m_header;
     BatchBanner* m_banner;
     std::array<FormSection*, 3> m_sections{};  ///< in the order of FieldSection
+    std::array<QStringList, 3> m_shownIds{};  ///< the fields in these
+    IptcSections* m_iptc;  ///< the sections behind these
     FormSection* m_customs;
     FormSection* m_cameraSection;
     LocationMap* m_map;
@@ -116,6 +130,8 @@ private:
     KeywordRows* m_keywordRows = nullptr;  ///< until several photos were selected
     QList<QWidget*> m_keywordStops;  ///< of those rows, when Tab was last put in order
     FormPause* m_pause;  ///< on while there is nothing to show of what is selected
+    DetailsWait* m_wait;  ///< on while that is so of the fields of IptcSchema
+    FormPause* m_waitPause;  ///< on while it keeps the keyboard from them
     QTimer m_blocksSoon;
     int m_bottomInset = 0;
 };

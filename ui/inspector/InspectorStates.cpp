@@ -1,6 +1,7 @@
 #include "ui/inspector/InspectorStates.h"
 
 #include "app/model/AppModel.h"
+#include "core/iptc/ShownText.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldCheck.h"
 #include "core/schema/FieldID.h"
@@ -86,15 +87,49 @@ QString listHelp(const AppModel& model, const QString& id, bool adds)
     return parts.join(u" · "_s);
 }
 
+// What one item of a list is called.
+QString itemName(const FieldSpec& field)
+{
+    static const QHash<QString, QString> names{
+        { u"iptc.modelAges"_s, u"age"_s },
+        { u"iptc.modelReleaseIds"_s, u"ID"_s },
+        { u"iptc.eventIds"_s, u"ID"_s },
+        { u"iptc.organisationNames"_s, u"organisation"_s },
+        { u"iptc.organisationCodes"_s, u"code"_s },
+        { u"iptc.propertyReleaseIds"_s, u"ID"_s },
+    };
+    return names.value(field.id, u"keyword"_s);
+}
+
+// What is wrong with what was typed, with the first such item of a list.
+QString noteOf(const FieldSpec& field, const FieldRowState& state)
+{
+    for (const QString& text : field.isList() ? state.items : QStringList(state.text))
+        if (const QString note = FieldCheck::note(field, text); !note.isEmpty())
+            return note;
+    return {};
+}
+
 void addListState(const AppModel& model, const FieldSpec& field, FieldRowState& state)
 {
-    state.placeholder = state.batch ? u"Add to all + ↵"_s : u"Add keyword + ↵"_s;
+    state.placeholder = state.batch ? u"Add to all + ↵"_s : u"Add %1 + ↵"_s.arg(itemName(field));
     state.items = state.batch ? model.batchLists().value(field.id) : model.draftLists().value(field.id);
     if (field.id == FieldID::keywords)
         state.itemParents = parentsOf(model, state.items);
     if (state.batch)
         state.helpLine = listHelp(model, field.id, !state.items.isEmpty());
     state.included = !state.helpLine.isEmpty();
+}
+
+// Cards have no placeholder of their own, and mark those that the photo does not hold.
+void addStructureState(const AppModel& model, const FieldSpec& field, FieldRowState& state)
+{
+    if (state.italicPlaceholder && state.helpLine.isEmpty())
+        state.helpLine = state.placeholder;
+    const PhotoDetails* details =
+        state.batch || !state.edited || !model.primary() ? nullptr : model.details(*model.primary());
+    if (details)
+        state.held = details->lists.value(field.id) + QStringList(details->texts.value(field.id));
 }
 
 void showMultipleValues(FieldRowState& state)
@@ -114,7 +149,9 @@ bool showOwnTexts(const AppModel& model, const QString& key, FieldRowState& stat
     state.included = true;
     state.edited = true;
     state.italicPlaceholder = true;
-    state.placeholder = own->told(selected);
+    OwnSummary shown = *own;
+    shown.text = ShownText::of(key, own->text);
+    state.placeholder = shown.told(selected);
     state.helpLine = own->photos == selected ? willBeWritten(model)
                                              : u"Will be written to %1 of %2 photos"_s.arg(own->photos).arg(selected);
     return true;
@@ -221,8 +258,10 @@ FieldRowState fieldRow(const AppModel& model, const FieldSpec& field)
     // Editors that show no placeholder say it below.
     if ((field.kind == FieldKind::rating || field.kind == FieldKind::offset) && model.batchOwn().contains(field.id))
         state.helpLine.prepend(state.placeholder + u" · "_s);
-    if (state.edited)
-        state.noteLine = FieldCheck::note(field, state.text);
+    if (field.kind == FieldKind::structure)
+        addStructureState(model, field, state);
+    if (state.edited || (state.batch && state.included))
+        state.noteLine = noteOf(field, state);
     addLanguages(model, field, state);
     if (!state.batch && !state.edited)
         state.places.homes = model.differingHomes(field.id);

@@ -142,7 +142,7 @@ void InspectorView::revealFocus()
 
 void InspectorView::focusField(const QString& id)
 {
-    if (const FieldRow* row = m_form->row(id))
+    if (const FieldRow* row = m_form->reveal(id))
         row->input()->setFocus(Qt::OtherFocusReason);
 }
 

@@ -70,7 +70,8 @@ void KeptField::commit()
 
 void KeptField::arrive()
 {
-    if (!m_wanted || m_wanted->from == m_model.primary() || InspectorStates::isUnread(m_model))
+    if (!m_wanted || m_wanted->from == m_model.primary() || InspectorStates::isUnread(m_model)
+        || m_form.isAwaited(m_wanted->key))
         return;
     const QString key = std::exchange(m_wanted, std::nullopt)->key;
     if (m_form.row(key))

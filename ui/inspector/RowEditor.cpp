@@ -1,12 +1,13 @@
 #include "ui/inspector/RowEditor.h"
 
 #include "ui/controls/Buttons.h"
-#include "ui/controls/pickers/OffsetPicker.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/keywords/KeywordEditor.h"
+#include "ui/controls/pickers/OffsetPicker.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/FieldRow.h"
+#include "ui/inspector/iptc/IptcEditors.h"
 #include "ui/places/LocationSearchField.h"
 
 #include <QHBoxLayout>
@@ -69,6 +70,8 @@ RowEditor areaEditor(const CodeTexts& codes, FieldRow& row)
 RowEditor keywordEditor(const FieldRowParts& parts, FieldRow& row)
 {
     auto* editor = new KeywordEditor(&row);
+    // Names and numbers of others may hold commas.
+    editor->setSplitsAtCommas(!parts.field);
     editor->setCompletions(parts.completions);
     editor->setCodes(parts.codes);
     QObject::connect(editor, &KeywordEditor::added, &row, &FieldRow::itemAdded);
@@ -150,21 +153,27 @@ RowEditor makeRowEditor(const FieldRowParts& parts, FieldRow& row)
         return areaEditor(parts.codes, row);
     case FieldKind::keywords:
         return keywordEditor(parts, row);
+    case FieldKind::code:
+        return IptcEditors::codes(*parts.field, row);
+    case FieldKind::structure:
+        return IptcEditors::structures(*parts.field, parts.codes, row);
     case FieldKind::date:
         return dateEditor(parts.now, row);
     case FieldKind::rating:
         return ratingEditor(row);
     case FieldKind::offset:
         return offsetEditor(row);
+    case FieldKind::number:
+        if (parts.field->isSeveral)
+            return keywordEditor(parts, row);
+        break;
     case FieldKind::text:
     case FieldKind::coordinates:
-    case FieldKind::number:
-    case FieldKind::code:
-    case FieldKind::structure:
         break;
     }
     // Codes stand for words, not for numbers.
-    const CodeTexts codes = parts.kind == FieldKind::coordinates ? CodeTexts() : parts.codes;
+    const bool isNumber = parts.kind == FieldKind::coordinates || parts.kind == FieldKind::number;
+    const CodeTexts codes = isNumber ? CodeTexts() : parts.codes;
     return parts.searchesPlaces ? placeEditor(parts, row) : textEditor(codes, row);
 }
 

@@ -28,6 +28,9 @@ struct FieldRowParts {
     CodeTexts codes{};  ///< what short codes in texts and keywords stand for
     std::function<QDateTime()> now{};  ///< local time for the button "Now"
     bool isLanguage = false;  ///< below the row of its field, and less prominent
+    const FieldSpec* field = nullptr;  ///< of IptcSchema; null for other rows
+    bool isAlone = false;  ///< its section is named after it: the row of a structure needs no label
+    int mostCharacters = 0;  ///< of a text area: counts up to these, and warns beyond them; 0 where it does not
 };
 
 /// An editor as its row sees it.
@@ -37,6 +40,8 @@ struct RowEditor {
     QList<QWidget*> tabStops{};
     /// `fresh`: the row shows another photo now; see FieldRow::setState().
     std::function<void(const FieldRowState& state, bool fresh)> show{};
+    std::function<QList<QWidget*>()> changingStops{};  ///< instead of tabStops, of an editor whose stops change
+    std::function<QWidget*()> changingInput{};  ///< instead of `input`, which then only carries the name
 };
 
 /// Makes the editor that fits and connects its signals to those of the row.

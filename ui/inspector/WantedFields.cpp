@@ -15,6 +15,9 @@ void show(const FieldSets& sets, const QString& id, FieldRowState& state)
         return;
     state.placeholder = u"Required by %1"_s.arg(sets.current());
     state.italicPlaceholder = false;
+    // Cards have no place for it.
+    if (FieldSchema::spec(id)->kind == FieldKind::structure)
+        state.helpLine = state.placeholder;
 }
 
 QString line(const FieldSets& sets, FieldSection section)

@@ -1,12 +1,15 @@
-// Draws the inspector in many situations into PNG files, for looking at: scenes FOLDER [PIXELS [rows|keywords]].
+// Draws the inspector in many situations into PNG files, for looking at: scenes FOLDER [PIXELS [rows|keywords|iptc]].
 // QT_SCALE_FACTOR=2 doubles the pixels; PIXELS is the size of the desktop's font; "rows" draws rare rows alone,
-// "keywords" several photos and their keywords.
+// "keywords" several photos and their keywords, "iptc" the further fields of that standard.
 #include "app/model/words/QuickKeywords.h"
+#include "core/iptc/IptcSchema.h"
+#include "core/iptc/StructureText.h"
 #include "tests/ui/UiSupport.h"
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/attached/CodesChip.h"
 #include "ui/controls/attached/MarkButton.h"
+#include "ui/controls/cards/FoldingHeading.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/FormSection.h"
 #include "ui/sheets/AddFieldSheet.h"
@@ -266,6 +269,77 @@ void grabLanguages(const QString& folder)
     f.model().discardSaveDialog();
 }
 
+QWidget* heading(const InspectorFixture& f, const QString& title)
+{
+    for (FoldingHeading* heading : f.view->findChildren<FoldingHeading*>())
+        if (heading->text() == title)
+            return heading;
+    return nullptr;
+}
+
+void unfold(const InspectorFixture& f, const QStringList& titles)
+{
+    for (const QString& title : titles)
+        QTest::keyClick(heading(f, title), Qt::Key_Right);
+    f.settle();
+}
+
+// What a desk fills in; then all fields, empty; then several photos.
+void grabIptc(const QString& folder)
+{
+    InspectorFixture f;
+    f.photos.lookAtDetails();
+    f.add(u"IMG_4021.jpg"_s,
+        { u"-XMP-photoshop:Headline=Autumn regatta ends in a calm"_s,
+            u"-XMP-dc:Description=Still water after a clear October day, looking south from the reed bank at Horn."_s,
+            u"-XMP-iptcCore:AltTextAccessibility=A lake at dusk between two dark trees; yellow woods on the far bank."_s,
+            u"-XMP-photoshop:AuthorsPosition=Staff photographer"_s,
+            u"-XMP-iptcCore:CreatorContactInfo={CiEmailWork=mara@lindqvist.example,CiAdrCity=Zürich,"
+            u"CiTelWork=+41 44 123 45 67}"_s,
+            u"-XMP-iptcCore:CountryCode=CH"_s,
+            u"-XMP-iptcExt:PersonInImageWDetails=[{PersonName=Ana Lima},{PersonName=Bo Ek}]"_s,
+            u"-XMP-iptcExt:LocationShown=[{Sublocation=Lake promenade,City=Rapperswil-Jona,ProvinceState=St. Gallen,"
+            u"CountryName=Switzerland,CountryCode=CH},{City=Horn,ProvinceState=Thurgau,CountryName=Switzerland}]"_s,
+            u"-XMP-plus:ModelReleaseStatus#=MR-UMR"_s, u"-XMP-plus:PropertyReleaseStatus#=PR-NAP"_s,
+            u"-XMP-iptcCore:SubjectCode=15054000"_s, u"-XMP-iptcCore:SubjectCode=01000000"_s,
+            u"-XMP-iptcExt:OrganisationInImageName=Lake, Sons & Co."_s, u"-XMP-iptcExt:MaxAvailWidth=6000"_s,
+            u"-XMP-iptcExt:DigitalSourceType=http://cv.iptc.org/newscodes/digitalsourcetype/digitalCapture"_s });
+    f.add(u"IMG_4022.jpg"_s,
+        { u"-XMP-photoshop:AuthorsPosition=Staff photographer"_s, u"-XMP-plus:ModelReleaseStatus#=MR-NON"_s });
+    f.add(u"IMG_4023.jpg"_s, {});
+    if (!f.open({ 520, 900 }))
+        return;
+    awaitDetails(f);
+    grab(f, folder, u"iptc-folded"_s);
+    unfold(f, { u"LOCATION SHOWN"_s, u"PEOPLE"_s, u"SUBJECTS"_s });
+    f.model().setSingle(u"iptc.jobTitle"_s, u"Picture editor"_s);
+    f.model().setSingle(u"iptc.modelReleaseStatus"_s, u"MR-LMR"_s);
+    f.window->resize(520, 1700);
+    f.settle();
+    grab(f, folder, u"iptc-open"_s);
+    grabSheet([&f] { return new SaveDialogView(f.model()); }, folder, u"iptc-save"_s);
+    f.model().discardSaveDialog();
+    for (const FieldSpec& field : IptcSchema::all())
+        f.model().addKnownField(field.id);
+    f.settle();
+    unfold(f,
+        { u"CONTACT"_s, u"LOCATION CREATED"_s, u"THINGS SHOWN"_s, u"REGIONS"_s, u"RIGHTS"_s, u"LICENSING"_s, u"SOURCE"_s,
+            u"IMAGE"_s });
+    f.window->resize(520, 3200);
+    f.settle();
+    grab(f, folder, u"iptc-all"_s);
+    f.click(u"IMG_4022.jpg"_s, false, true);
+    f.click(u"IMG_4023.jpg"_s, false, true);
+    awaitDetails(f);
+    f.model().addBatchListItem(u"iptc.organisationNames"_s, u"Boats, Inc."_s);
+    f.model().setItems(
+        u"iptc.locationsShown"_s, { StructureText::tidied(uR"({"City":"Uji","CountryName":"Japan"})"_s) });
+    f.model().setBatch(u"iptc.digitalSource"_s, u"http://cv.iptc.org/newscodes/digitalsourcetype/screenCapture"_s);
+    grab(f, folder, u"iptc-batch"_s);
+    grabSheet([&f] { return new SaveDialogView(f.model()); }, folder, u"iptc-apply"_s);
+    f.model().discardSaveDialog();
+}
+
 const QStringList lake{ u"-XMP-dc:Title=Evening by the lake"_s,
     u"-XMP-dc:Description=Still water after a clear October day, looking south from the reed bank at Horn."_s,
     u"-EXIF:DateTimeOriginal=2024:10:12 17:48:00"_s, u"-IPTC:Keywords=lake"_s, u"-IPTC:Keywords=autumn"_s,
@@ -287,6 +361,10 @@ int main(int argc, char** argv)
         QFont font = QApplication::font();
         font.setPixelSize(pixels);
         QApplication::setFont(font);
+    }
+    if (app.arguments().value(3) == u"iptc"_s) {
+        grabIptc(folder);
+        return 0;
     }
     grabKeywords(folder);
     if (app.arguments().value(3) == u"keywords"_s)

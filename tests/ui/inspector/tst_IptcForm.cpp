@@ -1,0 +1,395 @@
+// The further fields of the IPTC standard in the inspector, as a person uses them: sections that fold, editors of their
+// kinds, what is not known yet, several photos.
+#include "app/model/words/FieldPasting.h"
+#include "core/iptc/StructureText.h"
+#include "tests/ui/UiSupport.h"
+#include "tests/ui/inspector/InspectorFixture.h"
+#include "ui/controls/cards/FoldingHeading.h"
+#include "ui/controls/pickers/CodePicker.h"
+#include "ui/controls/pickers/CodesPicker.h"
+#include "ui/controls/text/CountLine.h"
+#include "ui/inspector/KeptField.h"
+#include "ui/inspector/iptc/StructureCard.h"
+#include "ui/inspector/iptc/StructureCards.h"
+#include "ui/inspector/iptc/StructureFields.h"
+#include "ui/sheets/SaveDialogView.h"
+
+#include <QClipboard>
+#include <QJsonObject>
+#include <QSemaphore>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString place(const QString& city)
+{
+    return StructureText::of(QJsonObject{ { u"City"_s, city }, { u"CountryName"_s, u"Japan"_s } });
+}
+
+// Three photos: the first holds much, the second some of it, the third nothing. Nobody knows what, before the gate
+// lets a look at them through; it stands open at first.
+class Photos : public InspectorFixture {
+public:
+    Photos()
+    {
+        photos.services.detailsDelay = {};
+        photos.lookAtDetails([this](const QList<ImageRecord>& records, const ReadControl&) {
+            const QSemaphoreReleaser pass((gate.acquire(), gate));
+            QHash<QUrl, PhotoDetails> found;
+            for (const ImageRecord& record : records) {
+                found.insert(record.url, held.value(record.fileName));
+                found[record.url].url = record.url;
+            }
+            return found;
+        });
+        held[u"a.jpg"_s].texts = { { u"iptc.altText"_s, u"A lake"_s }, { u"iptc.altText@de"_s, u"Ein See"_s },
+            { u"iptc.jobTitle"_s, u"Photographer"_s }, { u"iptc.countryCode"_s, u"JP"_s },
+            { u"iptc.modelReleaseStatus"_s, u"MR-UMR"_s }, { u"iptc.maxWidth"_s, u"6000"_s } };
+        held[u"a.jpg"_s].lists = { { u"iptc.locationsShown"_s, { place(u"Kyoto"_s), place(u"Nara"_s) } },
+            { u"iptc.organisationNames"_s, { u"Lake, Sons & Co."_s } }, { u"iptc.subjectCodes"_s, { u"15054000"_s } } };
+        held[u"b.jpg"_s].texts = { { u"iptc.jobTitle"_s, u"Editor"_s } };
+        for (const QString& name : jpgs(u"abc"_s))
+            add(name, name == "a.jpg" ? QStringList{ u"-XMP-photoshop:Country=Japan"_s } : QStringList());
+    }
+    void show(const QString& name)
+    {
+        model().discardSaveDialog();
+        click(name);
+        known(name);
+    }
+    void known(const QString& name)
+    {
+        QTRY_VERIFY(model().details(photos.url(name)));
+        settle();
+    }
+    FoldingHeading* heading(const QString& title) const
+    {
+        for (FoldingHeading* heading : view->findChildren<FoldingHeading*>())
+            if (heading->text() == title && heading->isVisible())
+                return heading;
+        return nullptr;
+    }
+    QString summary(const QString& title) const
+    {
+        const FoldingHeading* found = heading(title);
+        return found ? found->summary().text() : u"no such section"_s;
+    }
+    void unfold(const QString& title) const
+    {
+        QTest::keyClick(heading(title), Qt::Key_Right);
+        settle();
+    }
+    QString placeholder(const QString& id) const { return row(id)->state().placeholder; }
+
+    QSemaphore gate{ 1 };
+    QMap<QString, PhotoDetails> held;
+};
+
+}  // namespace
+
+class tst_IptcForm : public QObject {
+    Q_OBJECT
+
+private slots:
+    void sectionsAreThereWhereAPhotoFillsThem();
+    void sectionsFold();
+    void addedFieldsUnfoldTheirSection();
+    void editorsOfAllKinds();
+    void structuresAreCards();
+    void alternativeTextIsCounted();
+    void nothingIsTakenBeforeItIsKnown();
+    void severalPhotos();
+    void whatASaveTells();
+    void fieldsAreCopiedToAnotherPhoto();
+};
+
+// Nothing is made for a photo that holds nothing of it.
+void tst_IptcForm::sectionsAreThereWhereAPhotoFillsThem()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.show(u"c.jpg"_s);
+    QVERIFY(f.view->findChildren<FoldingHeading*>().isEmpty());
+    QVERIFY(!f.row(u"iptc.altText"_s));
+
+    f.show(u"a.jpg"_s);
+    QCOMPARE(f.summary(u"CONTACT"_s), u"Photographer"_s);
+    QCOMPARE(f.summary(u"LOCATION SHOWN"_s), u"Kyoto, Japan · 1 more"_s);
+    QCOMPARE(f.summary(u"THINGS SHOWN"_s), u"Lake, Sons & Co."_s);
+    QCOMPARE(f.summary(u"IMAGE"_s), u"Largest width 6000"_s);
+    QVERIFY(!f.summary(u"PEOPLE"_s).contains(u"MR-"));
+    QVERIFY(!f.row(u"iptc.jobTitle"_s));
+    QVERIFY(f.row(u"description"_s)->geometry().bottom() < f.row(u"iptc.altText"_s)->y());
+    QVERIFY(f.row(u"iptc.altText"_s)->y() < f.row(u"keywords"_s)->y());
+    QVERIFY(f.row(u"country"_s)->y() < f.row(u"iptc.countryCode"_s)->y());
+
+    f.show(u"c.jpg"_s);
+    for (const FoldingHeading* heading : f.view->findChildren<FoldingHeading*>())
+        QVERIFY2(!heading->isVisible(), qPrintable(heading->text()));
+}
+
+void tst_IptcForm::sectionsFold()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.show(u"a.jpg"_s);
+    f.unfold(u"CONTACT"_s);
+    auto* job = f.editor<QBTextField>(u"iptc.jobTitle"_s);
+    QVERIFY(job);
+    QCOMPARE(job->text(), u"Photographer"_s);
+    // By keyboard: from the heading into its row.
+    f.heading(u"CONTACT"_s)->setFocus();
+    QTest::keyClick(f.heading(u"CONTACT"_s), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(job));
+    QTest::keyClicks(job, u"!"_s);
+    QVERIFY(f.model().editedSingle().contains(u"iptc.jobTitle"_s));
+    QVERIFY(f.heading(u"CONTACT"_s)->isEdited());
+
+    QTest::keyClick(f.heading(u"CONTACT"_s), Qt::Key_Left);
+    f.settle();
+    QVERIFY(!f.row(u"iptc.jobTitle"_s));
+    QVERIFY(f.heading(u"CONTACT"_s)->isEdited());
+    QCOMPARE(f.heading(u"CONTACT"_s)->accessibleName(), u"CONTACT"_s);
+    QVERIFY(f.heading(u"CONTACT"_s)->accessibleDescription().contains(f.summary(u"CONTACT"_s)));
+    // It stays as it is from photo to photo, and another photo's text cannot be undone there.
+    f.unfold(u"CONTACT"_s);
+    f.show(u"b.jpg"_s);
+    job = f.editor<QBTextField>(u"iptc.jobTitle"_s);
+    QVERIFY(job);
+    QCOMPARE(job->text(), u"Editor"_s);
+    QVERIFY(!job->isUndoAvailable());
+    QVERIFY(!f.heading(u"CONTACT"_s)->isEdited());
+}
+
+void tst_IptcForm::addedFieldsUnfoldTheirSection()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.show(u"c.jpg"_s);
+    f.model().addKnownField(u"iptc.imageGuid"_s);
+    QTRY_VERIFY(f.row(u"iptc.imageGuid"_s) && f.row(u"iptc.imageGuid"_s)->input()->hasFocus());
+    QTest::keyClicks(QApplication::focusWidget(), u"4711"_s);
+    QCOMPARE(f.model().draftValues().value(u"iptc.imageGuid"_s), u"4711"_s);
+    QTest::mouseClick(button(f.row(u"iptc.imageGuid"_s), u"Remove this field"_s), Qt::LeftButton);
+    QVERIFY(!f.heading(u"IMAGE"_s));
+    QCOMPARE(f.model().unsavedCount(), 0);
+}
+
+void tst_IptcForm::editorsOfAllKinds()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.show(u"a.jpg"_s);
+    // A number that is none is told, and stays as it was typed.
+    f.unfold(u"IMAGE"_s);
+    auto* width = f.editor<QBTextField>(u"iptc.maxWidth"_s);
+    width->selectAll();
+    QTest::keyClicks(width, u"wide"_s);
+    QCOMPARE(f.row(u"iptc.maxWidth"_s)->state().noteLine, u"Not a whole number"_s);
+    // A code that nobody knows is shown, and kept.
+    f.unfold(u"PEOPLE"_s);
+    auto* release = f.editor<CodePicker>(u"iptc.modelReleaseStatus"_s);
+    QCOMPARE(release->code(), u"MR-UMR"_s);
+    emit release->picked(u"MR-NON"_s);
+    QCOMPARE(f.model().draftValues().value(u"iptc.modelReleaseStatus"_s), u"MR-NON"_s);
+    QCOMPARE(release->code(), u"MR-NON"_s);
+    f.model().setSingle(u"iptc.modelReleaseStatus"_s, u"MR-ODD"_s);
+    QCOMPARE(release->code(), u"MR-ODD"_s);
+    f.unfold(u"SUBJECTS"_s);
+    auto* subjects = f.editor<CodesPicker>(u"iptc.subjectCodes"_s);
+    emit subjects->added(u"01000000"_s);
+    QCOMPARE(subjects->codes(), (QStringList{ u"15054000"_s, u"01000000"_s }));
+    // Names may hold commas and bars; lines are several.
+    f.unfold(u"THINGS SHOWN"_s);
+    auto* names = f.editor<KeywordEditor>(u"iptc.organisationNames"_s);
+    QTest::keyClicks(names->entry(), u"Reed | Bank, Inc. > Horn"_s);
+    QTest::keyClick(names->entry(), Qt::Key_Return);
+    QApplication::clipboard()->setText(u"One, Ltd.\nTwo"_s);
+    QTest::keySequence(names->entry(), QKeySequence::Paste);
+    QCOMPARE(f.model().draftLists().value(u"iptc.organisationNames"_s),
+        (QStringList{ u"Lake, Sons & Co."_s, u"Reed | Bank, Inc. > Horn"_s, u"One, Ltd."_s, u"Two"_s }));
+    // Ages are numbers, each of them.
+    f.model().addKnownField(u"iptc.modelAges"_s);
+    f.settle();
+    auto* ages = f.editor<KeywordEditor>(u"iptc.modelAges"_s);
+    QTest::keyClicks(ages->entry(), u"old"_s);
+    QTest::keyClick(ages->entry(), Qt::Key_Return);
+    QCOMPARE(f.row(u"iptc.modelAges"_s)->state().noteLine, u"Not a whole number"_s);
+}
+
+void tst_IptcForm::structuresAreCards()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.show(u"a.jpg"_s);
+    f.unfold(u"LOCATION SHOWN"_s);
+    const auto cards = [&f](const QString& id) { return f.editor<StructureCards>(id); };
+    const auto member = [&](const QString& id, const QString& name, int card = 0) {
+        return cards(id)->list().card(card)->fields()->input(name);
+    };
+    const auto type = [](QWidget* into, const QString& text) {
+        into->setFocus();
+        QTest::keyClicks(into, text);
+    };
+    QCOMPARE(cards(u"iptc.locationsShown"_s)->list().items(), (QStringList{ place(u"Kyoto"_s), place(u"Nara"_s) }));
+    cards(u"iptc.locationsShown"_s)->open(1);
+    auto* city = qobject_cast<QBTextField*>(member(u"iptc.locationsShown"_s, u"City"_s, 1));
+    city->selectAll();
+    type(city, u"Uji"_s);
+    QCOMPARE(
+        f.model().draftLists().value(u"iptc.locationsShown"_s), (QStringList{ place(u"Kyoto"_s), place(u"Uji"_s) }));
+    QCOMPARE(f.heading(u"LOCATION SHOWN"_s)->summary().text(), u"Kyoto, Japan · 1 more"_s);
+    QVERIFY(city->hasFocus());
+    // Tab goes from the cards on to the next section.
+    f.heading(u"SUBJECTS"_s)->setFocus();
+    QTest::keyClick(f.heading(u"SUBJECTS"_s), Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget(), cards(u"iptc.locationsShown"_s)->list().addButton());
+    // One structure is a text; several photos gain those that are typed.
+    f.model().addKnownField(u"iptc.contact"_s);
+    QTRY_VERIFY(cards(u"iptc.contact"_s) && cards(u"iptc.contact"_s)->isAncestorOf(QApplication::focusWidget()));
+    type(member(u"iptc.contact"_s, u"CiAdrCity"_s), u"Horn"_s);
+    QCOMPARE(f.model().draftValues().value(u"iptc.contact"_s), uR"({"CiAdrCity":"Horn"})"_s);
+    f.model().discardSaveDialog();
+    f.photos.select(u"ab"_s);
+    f.known(u"b.jpg"_s);
+    QCOMPARE(cards(u"iptc.locationsShown"_s)->list().items(), QStringList());
+    cards(u"iptc.locationsShown"_s)->add();
+    type(member(u"iptc.locationsShown"_s, u"City"_s), u"Uji"_s);
+    QCOMPARE(f.model().batchLists().value(u"iptc.locationsShown"_s), QStringList{ uR"({"City":"Uji"})"_s });
+    QVERIFY(f.row(u"iptc.locationsShown"_s)->state().included);
+}
+
+void tst_IptcForm::alternativeTextIsCounted()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.show(u"a.jpg"_s);
+    auto* count = f.editor<CountLine>(u"iptc.altText"_s);
+    QVERIFY(count && count->isVisible());
+    QCOMPARE(count->count(), 6);
+    auto* area = f.editor<QBTextArea>(u"iptc.altText"_s);
+    area->selectAll();
+    QTest::keyClicks(area, u"x"_s.repeated(251));
+    QVERIFY(count->isBeyond());
+    QCOMPARE(f.model().draftValues().value(u"iptc.altText"_s).size(), 251);
+    f.model().addKnownField(u"iptc.extendedDescription"_s);
+    f.settle();
+    QVERIFY(!f.editor<CountLine>(u"iptc.extendedDescription"_s));
+    // In a further language, too.
+    emit f.row(u"iptc.altText"_s)->languagesAsked(true);
+    QVERIFY(f.editor<CountLine>(u"iptc.altText@de"_s));
+}
+
+// What is on screen of the photo before stays for a moment, and takes nothing; then it is to be seen that it is read.
+void tst_IptcForm::nothingIsTakenBeforeItIsKnown()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.show(u"a.jpg"_s);
+    f.unfold(u"CONTACT"_s);
+    f.gate.acquire();
+    auto* job = f.editor<QBTextField>(u"iptc.jobTitle"_s);
+    job->setFocus();
+    f.view->keptField().keep();
+    f.model().discardSaveDialog();
+    f.click(u"b.jpg"_s);
+    QVERIFY(!f.model().knowsDetails());
+    QVERIFY(job->isVisible());
+    QVERIFY(!job->hasFocus());
+    emit f.row(u"iptc.jobTitle"_s)->textEdited(u"Other"_s);
+    QCOMPARE(f.model().unsavedCount(), 0);
+    QTRY_VERIFY(!f.row(u"iptc.jobTitle"_s));
+    QVERIFY(!f.row(u"iptc.altText"_s));
+
+    f.gate.release();
+    f.known(u"b.jpg"_s);
+    QTRY_VERIFY(job->hasFocus());
+    QCOMPARE(job->text(), u"Editor"_s);
+    QVERIFY(!job->isUndoAvailable());
+    // One that was added is on screen in any case.
+    f.model().addKnownField(u"iptc.altText"_s);
+    QVERIFY(!f.row(u"iptc.altText"_s)->state().unread);
+}
+
+void tst_IptcForm::severalPhotos()
+{
+    Photos f;
+    f.held[u"b.jpg"_s].texts.insert(u"iptc.modelReleaseStatus"_s, u"MR-UMR"_s);
+    QVERIFY(f.open());
+    f.photos.select(u"ab"_s);
+    f.known(u"a.jpg"_s);
+    f.known(u"b.jpg"_s);
+    f.unfold(u"CONTACT"_s);
+    f.unfold(u"PEOPLE"_s);
+    f.unfold(u"THINGS SHOWN"_s);
+    QCOMPARE(f.placeholder(u"iptc.jobTitle"_s), u"Multiple values — leave unchanged"_s);
+    QCOMPARE(f.editor<CodePicker>(u"iptc.modelReleaseStatus"_s)->code(), u"MR-UMR"_s);
+    auto* names = f.editor<KeywordEditor>(u"iptc.organisationNames"_s);
+    QCOMPARE(names->chips(), QStringList());
+    QTest::keyClicks(names->entry(), u"Boats, Inc."_s);
+    QTest::keyClick(names->entry(), Qt::Key_Return);
+    QCOMPARE(f.model().batchLists().value(u"iptc.organisationNames"_s), QStringList{ u"Boats, Inc."_s });
+    QVERIFY(f.heading(u"THINGS SHOWN"_s)->isEdited());
+    f.row(u"iptc.jobTitle"_s)->input()->setFocus();
+    QTest::keyClicks(f.row(u"iptc.jobTitle"_s)->input(), u"Staff"_s);
+    QCOMPARE(f.model().batchValues().value(u"iptc.jobTitle"_s), u"Staff"_s);
+    QTest::mouseClick(f.row(u"iptc.jobTitle"_s)->tabStops().constFirst(), Qt::LeftButton);
+    QCOMPARE(f.model().batchInclude(), QSet<QString>());
+}
+
+void tst_IptcForm::whatASaveTells()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.photos.select(u"ab"_s);
+    f.known(u"a.jpg"_s);
+    f.known(u"b.jpg"_s);
+    f.model().setBatch(u"iptc.modelReleaseStatus"_s, u"MR-NON"_s);
+    f.model().setItems(u"iptc.locationsShown"_s, { place(u"Uji"_s) });
+    f.model().requestSave();
+    const SaveDialogView dialog(f.model());
+    QStringList told;
+    for (const QLabel* label : dialog.findChildren<QLabel*>())
+        told.append(label->text());
+    QVERIFY2(told.contains(u"Uji, Japan"_s), qPrintable(told.join(u'\n')));
+    QVERIFY2(told.filter(u"MR-NON"_s).isEmpty() && !told.filter(u"None"_s).isEmpty(), qPrintable(told.join(u'\n')));
+    f.model().cancelSaveDialog();
+}
+
+void tst_IptcForm::fieldsAreCopiedToAnotherPhoto()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.show(u"a.jpg"_s);
+    f.model().pasting().copy();
+    f.show(u"b.jpg"_s);
+    f.model().pasting().ask();
+    QStringList values;
+    for (const FieldPasting::Row& row : f.model().pasting().rows())
+        values.append(row.label + u": "_s + row.value);
+    QVERIFY2(values.contains(u"Locations shown: Kyoto, Japan · 1 more"_s), qPrintable(values.join(u'\n')));
+    QVERIFY2(values.contains(u"Model releases: Unlimited Model Releases"_s), qPrintable(values.join(u'\n')));
+    f.model().pasting().tickAll(true);
+    f.model().pasting().paste();
+    QCOMPARE(
+        f.model().draftLists().value(u"iptc.locationsShown"_s), f.held[u"a.jpg"_s].lists[u"iptc.locationsShown"_s]);
+    QCOMPARE(f.model().draftValues().value(u"iptc.modelReleaseStatus"_s), u"MR-UMR"_s);
+    QCOMPARE(f.model().draftValues().value(u"iptc.maxWidth"_s), u"6000"_s);
+    QVERIFY(f.heading(u"LOCATION SHOWN"_s));
+    // Of a photo that nobody has looked at, nobody knows what its list holds: it gains what is pasted.
+    f.gate.acquire();
+    f.model().discardSaveDialog();
+    f.click(u"c.jpg"_s);
+    f.model().pasting().pasteAgain();
+    f.held[u"c.jpg"_s].lists = { { u"iptc.locationsShown"_s, { place(u"Uji"_s) } } };
+    f.gate.release();
+    f.known(u"c.jpg"_s);
+    QCOMPARE(f.model().draftLists().value(u"iptc.locationsShown"_s),
+        (QStringList{ place(u"Uji"_s), place(u"Kyoto"_s), place(u"Nara"_s) }));
+}
+
+QTEST_MAIN(tst_IptcForm)
+#include "tst_IptcForm.moc"

@@ -1,0 +1,68 @@
+#include "ui/inspector/iptc/FoldingSection.h"
+
+#include "ui/controls/cards/EditedDot.h"
+#include "ui/controls/cards/FoldingHeading.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Theme.h"
+#include "ui/inspector/FieldRow.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+namespace {
+// Points.
+constexpr qreal belowHeading = 8;
+constexpr qreal belowRows = 8;
+constexpr qreal rowGap = 7;
+}  // namespace
+
+FoldingSection::FoldingSection(const QString& title, QWidget* parent)
+    : QWidget(parent)
+    , m_heading(new FoldingHeading(title, this))
+    , m_column(new QVBoxLayout(this))
+    , m_rowColumn(new QVBoxLayout)
+{
+    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setSpacing(0);
+    m_column->addWidget(m_heading);
+    m_column->addLayout(m_rowColumn);
+    onRestyle(this, [this] {
+        const bool isOpen = !m_rows.isEmpty();
+        m_rowColumn->setContentsMargins(0, isOpen ? px(belowHeading) : 0, 0, isOpen ? px(belowRows) : 0);
+        m_rowColumn->setSpacing(px(rowGap));
+        for (FieldRow* row : std::as_const(m_rows))
+            row->setContentsMargins(row->isWide() ? 0 : px(EditedDot::room), 0, 0, 0);
+    });
+}
+
+void FoldingSection::setRows(const QList<FieldRow*>& rows)
+{
+    if (rows == m_rows)
+        return;
+    for (FieldRow* row : std::as_const(m_rows)) {
+        m_rowColumn->removeWidget(row);
+        if (!rows.contains(row))
+            row->hide();
+    }
+    m_rows = rows;
+    for (FieldRow* row : rows) {
+        row->setContentsMargins(row->isWide() ? 0 : px(EditedDot::room), 0, 0, 0);
+        m_rowColumn->addWidget(row);
+        row->show();
+    }
+    const bool isOpen = !rows.isEmpty();
+    m_rowColumn->setContentsMargins(0, isOpen ? px(belowHeading) : 0, 0, isOpen ? px(belowRows) : 0);
+    update();
+}
+
+void FoldingSection::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    for (const FieldRow* row : std::as_const(m_rows))
+        if (row->state().edited && !row->state().batch && row->hasLabel())
+            EditedDot::paint(painter, row->y() + row->dotCenter(), Theme::of(this));
+}
+
+}  // namespace Quorbel
