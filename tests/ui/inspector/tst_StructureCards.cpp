@@ -183,6 +183,22 @@ private slots:
         QCOMPARE(desk.line(0)->accessibleName(), u"Locations shown, place 1 of %1: Horn"_s.arg(cities.size()));
     }
 
+    // A form scrolls to what gets the keyboard, at once: it has to be where it stays.
+    void theKeyboardGoesWhereFieldsStand()
+    {
+        Desk desk(u"iptc.locationsShown"_s, { jona, horn });
+        desk.cards->open(0);
+        QTest::qWait(50);
+        QPoint place;
+        const auto note = connect(qApp, &QApplication::focusChanged, desk.window(),
+            [&](QWidget*, const QWidget* now) { place = now ? now->mapTo(desk.window(), QPoint()) : QPoint(); });
+        desk.cards->add();
+        const QPoint first = place;
+        QTest::qWait(50);
+        QCOMPARE(first, QApplication::focusWidget()->mapTo(desk.window(), QPoint()));
+        disconnect(note);
+    }
+
     // A list that was opened from an empty card is a part of it.
     void codesArePickedInAnEmptyCard()
     {

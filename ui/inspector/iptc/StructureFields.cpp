@@ -11,6 +11,7 @@
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/LanguageMenu.h"
 #include "ui/inspector/iptc/MemberLanguages.h"
+#include "ui/inspector/iptc/SettledFocus.h"
 #include "ui/inspector/iptc/StructureLayout.h"
 
 #include <QHBoxLayout>
@@ -268,7 +269,7 @@ void StructureFields::revealRest()
     const auto first =
         std::find_if(after.cbegin(), after.cend(), [&before](const Key& key) { return !before.contains(key); });
     if (first != after.cend())
-        m_lines[*first].parts.constFirst().editor.input->setFocus(Qt::TabFocusReason);
+        focusWhereItStands(*m_lines[*first].parts.constFirst().editor.input);
 }
 
 void StructureFields::showForeign()
@@ -316,7 +317,7 @@ void StructureFields::addLanguage(const StructureMember& member, const QString& 
     m_languages[member.name].append(code);
     showLines(false);
     if (QWidget* added = input(member.name + u'-' + code))
-        added->setFocus(Qt::TabFocusReason);
+        focusWhereItStands(*added);
 }
 
 QWidget* StructureFields::input(const QString& member) const

@@ -5,6 +5,7 @@
 #include "ui/controls/cards/EditedDot.h"
 #include "ui/controls/cards/ItemCard.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/iptc/SettledFocus.h"
 #include "ui/inspector/iptc/StructureCard.h"
 #include "ui/inspector/iptc/StructureFields.h"
 
@@ -243,7 +244,7 @@ void StructureList::add()
     setOpen(card, true);
     showOrder();
     if (QWidget* first = card->fields()->firstInput())
-        first->setFocus(Qt::TabFocusReason);
+        focusWhereItStands(*first);
     m_coming = nullptr;
 }
 
