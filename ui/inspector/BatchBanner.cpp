@@ -24,6 +24,7 @@ constexpr qreal side = 18;
 constexpr qreal iconSide = 24;
 constexpr qreal titleHeight = 21;
 constexpr qreal lineHeight = 17;
+constexpr qreal leastText = 200;
 constexpr int mostLines = 2;  // under the title
 
 QString bannerHint()
@@ -36,6 +37,7 @@ QString bannerHint()
 BatchBanner::BatchBanner(QWidget* parent)
     : QWidget(parent)
     , m_disagreements(new NoticeLine(u"Make them agree"_s, this))
+    , m_end(new QWidget(this))
 {
     m_disagreements->setRoles(TextRole::selSub, TextRole::selText);
     m_disagreements->hide();
@@ -81,7 +83,7 @@ QSize BatchBanner::sizeHint() const
 void BatchBanner::setAtEnd(QWidget* widget)
 {
     m_atEnd = widget;
-    widget->setParent(this);
+    widget->setParent(m_end);
     widget->installEventFilter(this);
     place();
 }
@@ -96,7 +98,7 @@ bool BatchBanner::eventFilter(QObject* watched, QEvent* event)
 QRect BatchBanner::textArea() const
 {
     const int left = px(side) + px(iconSide) + px(gap);
-    const int right = m_atEnd && !m_atEnd->isHidden() ? m_atEnd->width() + px(gap) : 0;
+    const int right = isEndShown() ? m_end->width() + px(gap) : 0;
     return { left, 0, width() - left - px(side) - right, height() };
 }
 
@@ -114,7 +116,9 @@ void BatchBanner::place()
 {
     if (m_atEnd) {
         m_atEnd->resize(m_atEnd->sizeHint());
-        m_atEnd->move(width() - px(side) - m_atEnd->width(), (height() - m_atEnd->height()) / 2);
+        m_end->resize(m_atEnd->size());
+        m_end->move(width() - px(side) - m_end->width(), (height() - m_end->height()) / 2);
+        m_end->setVisible(m_end->x() - px(side) - px(iconSide) - 2 * px(gap) >= px(leastText));
     }
     const QRect area = textArea();
     const int above = int(noteLines().size());

@@ -22,7 +22,7 @@ public:
     /// here gives way to it where there is no room for both.
     void setDisagreements(const QString& text, bool canAgree);
     QBTextButton* agree() const;
-    /// At the right end; it becomes a child of this.
+    /// At the right end, where that leaves room for the text; it becomes a child of this.
     void setAtEnd(QWidget* widget);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -34,6 +34,7 @@ protected:
 
 private:
     void place();
+    bool isEndShown() const { return m_atEnd && !m_end->isHidden() && !m_atEnd->isHidden(); }
     QRect textArea() const;
     QStringList noteLines() const;
 
@@ -41,6 +42,7 @@ private:
     QString m_note;
     NoticeLine* m_disagreements;
     QWidget* m_atEnd = nullptr;
+    QWidget* m_end;  ///< holds it; hidden where there is no room
 };
 
 }  // namespace Quorbel

@@ -15,6 +15,7 @@ namespace {
 // Points.
 constexpr qreal gap = 14;
 constexpr qreal corner = 9;
+constexpr qreal leastText = 120;
 
 }  // namespace
 
@@ -23,12 +24,15 @@ PhotoHeader::PhotoHeader(ThumbnailStore* thumbs, QWidget* parent)
     , m_thumbnail(new ThumbnailView(thumbs, heightInPoints, corner))
     , m_name(new ThemedLabel({}, TextRole::text, 15, QFont::DemiBold))
     , m_details(new ThemedLabel({}, TextRole::muted, 12))
+    , m_end(new QWidget(this))
 {
     auto* line = new QHBoxLayout(this);
     auto* column = new QVBoxLayout;
     line->setContentsMargins(0, 0, 0, 0);
     line->addWidget(m_thumbnail);
     line->addLayout(column, 1);
+    line->addWidget(m_end);
+    (new QHBoxLayout(m_end))->setContentsMargins(0, 0, 0, 0);
     column->setContentsMargins(0, 0, 0, 0);
     column->addStretch();
     column->addWidget(m_name);
@@ -48,7 +52,29 @@ PhotoHeader::PhotoHeader(ThumbnailStore* thumbs, QWidget* parent)
 
 void PhotoHeader::setAtEnd(QWidget* widget)
 {
-    static_cast<QHBoxLayout*>(layout())->addWidget(widget);
+    m_atEnd = widget;
+    m_end->layout()->addWidget(widget);
+    widget->installEventFilter(this);
+    showEnd();
+}
+
+void PhotoHeader::showEnd()
+{
+    const int room = width() - m_thumbnail->width() - 2 * px(gap) - (m_atEnd ? m_atEnd->sizeHint().width() : 0);
+    m_end->setVisible(m_atEnd && !m_atEnd->isHidden() && room >= px(leastText));
+}
+
+void PhotoHeader::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    showEnd();
+}
+
+bool PhotoHeader::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_atEnd && (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent))
+        showEnd();
+    return QWidget::eventFilter(watched, event);
 }
 
 void PhotoHeader::setRecord(const ImageRecord& record)

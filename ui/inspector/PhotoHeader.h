@@ -22,13 +22,21 @@ public:
     /// The store may be null; it is not owned and must outlive this.
     explicit PhotoHeader(ThumbnailStore* thumbs, QWidget* parent = nullptr);
     void setRecord(const ImageRecord& record);
-    /// At the right end; it becomes a child of this.
+    /// At the right end, where that leaves room for the texts; it becomes a child of this.
     void setAtEnd(QWidget* widget);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void showEnd();
+
     ThumbnailView* m_thumbnail;
     ThemedLabel* m_name;
     ThemedLabel* m_details;
+    QWidget* m_atEnd = nullptr;
+    QWidget* m_end;  ///< holds what is at the end; hidden where there is no room
 };
 
 }  // namespace Quorbel

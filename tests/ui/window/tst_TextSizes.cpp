@@ -19,6 +19,7 @@
 #include "ui/sheets/SaveDialogView.h"
 #include "ui/sheets/ShiftTimeSheet.h"
 #include "ui/sheets/ShortcutsSheet.h"
+#include "ui/sheets/fieldsets/FieldSetsSheet.h"
 #include "ui/sheets/renaming/RenamePhotosSheet.h"
 #include "ui/sidebar/FilterTexts.h"
 #include "ui/templates/TemplatesSheet.h"
@@ -81,6 +82,7 @@ std::unique_ptr<QMainWindow> makeWindow(InspectorFixture& f, SystemScheme& schem
     factories.renamePhotos = [&f] { return new RenamePhotosSheet(f.model()); };
     factories.shiftTime = [&f] { return new ShiftTimeSheet(f.model(), nullptr); };
     factories.templates = [&f] { return new TemplatesSheet(f.model()); };
+    factories.fieldSets = [&f] { return new FieldSetsSheet(f.model()); };
     factories.setInspectorInset = [](QWidget* inspector, int pixels) {
         static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
     };
@@ -198,7 +200,22 @@ private:
         host->present(new QuickSetSheet(model));
         look(seen, u"quick keywords"_s);
         host->dismiss(host->current());
+        fieldSets(seen);
         filterMenu(seen);
+    }
+
+    void fieldSets(Scenes& seen)
+    {
+        FieldSets& sets = m_photos.model().fieldSets();
+        sets.choose(u"Press"_s);
+        look(seen, u"a field set"_s);
+        m_photos.model().selectAllPhotos();
+        look(seen, u"a field set, batch"_s);
+        m_photos.click(u"1x1_a.jpg"_s);
+        sets.edit();
+        look(seen, u"field sets"_s);
+        sets.cancel();
+        sets.choose(FieldSets::usual());
     }
 
     void filterMenu(Scenes& seen)

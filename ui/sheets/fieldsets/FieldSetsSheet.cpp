@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "core/schema/FieldSchema.h"
 #include "ui/controls/Buttons.h"
+#include "ui/controls/FormLabels.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/TextFields.h"
@@ -27,8 +28,8 @@ namespace {
 // Points.
 constexpr qreal setsWidth = 640;
 constexpr qreal sideWidth = 176;
+constexpr qreal narrowSideWidth = 120;  // in a sheet that has to be narrower
 constexpr qreal rowHeight = 34;
-constexpr qreal problemHeight = 22;
 
 class SetDelegate final : public QStyledItemDelegate {
 public:
@@ -88,7 +89,7 @@ QWidget* makeTickTitles()
     onRestyle(titles, [line, labels] {
         line->setContentsMargins(0, px(6), 0, px(2));
         for (ThemedLabel* label : labels)
-            label->setFixedWidth(px(84));
+            label->setFixedWidth(px(FieldTicks::tickWidth));
     });
     return titles;
 }
@@ -103,7 +104,7 @@ FieldSetsSheet::FieldSetsSheet(AppModel& model, QWidget* parent)
     , m_name(new QBTextField)
     , m_query(new QBTextField)
     , m_ticks(new FieldTicks)
-    , m_problem(new ThemedLabel({}, TextRole::amberText, 11))
+    , m_problem(new WrappedLine(TextRole::amberText, 11, 15))
     , m_store(new QBButton(u"Save"_s, QBButtonKind::primary))
 {
     for (const FieldSet& set : m_sets.own())
@@ -116,8 +117,7 @@ FieldSetsSheet::FieldSetsSheet(AppModel& model, QWidget* parent)
     columns->addWidget(buildForm(), 1);
     onRestyle(this, [this] {
         setWantedWidth(px(setsWidth));
-        m_side->setFixedWidth(px(sideWidth));
-        m_problem->setFixedHeight(px(problemHeight));
+        fit();
     });
     connect(m_list, &QListWidget::currentRowChanged, this, [this](int row) {
         if (m_isFilling || row < 0)
@@ -171,7 +171,6 @@ QWidget* FieldSetsSheet::buildForm()
     m_query->setAccessibleName(u"Search fields"_s);
     m_query->setPlaceholder(u"Search fields…"_s);
     m_query->setLeadingIcon(u"magnifyingglass"_s);
-    m_problem->setElided(true);
     connect(m_name, &QLineEdit::textEdited, this, [this](const QString& text) {
         if (FieldSets::Edited* set = edited())
             set->set.name = text;
@@ -200,7 +199,9 @@ QWidget* FieldSetsSheet::buildForm()
     column->addWidget(m_query);
     column->addWidget(makeTickTitles());
     column->addWidget(m_ticks, 1);
+    column->addSpacing(px(6));
     column->addWidget(m_problem);
+    column->addSpacing(px(8));
     column->addLayout(sheetButtonRow(this, { dismiss, m_store }));
     onRestyle(right,
         [column] { column->setContentsMargins(px(sheetPadding) - px(4), px(14), px(sheetPadding), px(sheetPadding)); });
@@ -295,6 +296,17 @@ void FieldSetsSheet::cancel()
 QWidget* FieldSetsSheet::initialFocus()
 {
     return m_sets.started() ? m_name : static_cast<QWidget*>(m_list);
+}
+
+void FieldSetsSheet::fit()
+{
+    m_side->setFixedWidth(px(width() < px(setsWidth) ? narrowSideWidth : sideWidth));
+}
+
+void FieldSetsSheet::resizeEvent(QResizeEvent* event)
+{
+    SheetBody::resizeEvent(event);
+    fit();
 }
 
 void FieldSetsSheet::paintEvent(QPaintEvent*)

@@ -15,7 +15,7 @@ class FieldTicks;
 class QBButton;
 class QBIconButton;
 class QBTextField;
-class ThemedLabel;
+class WrappedLine;
 
 class FieldSetsSheet final : public SheetBody {
     Q_OBJECT
@@ -32,6 +32,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QWidget* buildSide();
@@ -39,6 +40,7 @@ private:
     void fillList();
     void show();
     void judge();
+    void fit();
     void addSet(const FieldSet& set);
     void removeSet();
     FieldSet shown() const;
@@ -55,7 +57,7 @@ private:
     QBTextField* m_name;
     QBTextField* m_query;
     FieldTicks* m_ticks;
-    ThemedLabel* m_problem;
+    WrappedLine* m_problem;
     QBButton* m_store;
 };
 

@@ -26,7 +26,6 @@ constexpr int idRole = Qt::UserRole;
 
 // Points.
 constexpr qreal rowHeight = 30;
-constexpr qreal tickWidth = 84;
 constexpr qreal boxSide = 16;
 constexpr qreal side = 8;
 
@@ -133,7 +132,7 @@ QSize FieldTicks::sizeHint() const
 
 void FieldTicks::resizeEvent(QResizeEvent* event)
 {
-    const int tick = px(tickWidth);
+    const int tick = px(FieldTicks::tickWidth);
     header()->resizeSection(Column::name, viewport()->width() - 2 * tick);
     header()->resizeSection(Column::onScreen, tick);
     header()->resizeSection(Column::wanted, tick);

@@ -14,6 +14,8 @@ class FieldTicks final : public QTreeWidget {
     Q_DISABLE_COPY_MOVE(FieldTicks)
 
 public:
+    static constexpr qreal tickWidth = 68;  ///< points, of a column of ticks
+
     explicit FieldTicks(QWidget* parent = nullptr);
     /// Emits nothing.
     void setTicked(const QStringList& fields, const QSet<QString>& wanted);
