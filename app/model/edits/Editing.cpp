@@ -1,5 +1,6 @@
 #include "app/model/edits/Editing.h"
 
+#include "app/model/fieldsets/FieldSet.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
@@ -25,13 +26,16 @@ QStringList confirmedIn(const Edits& edits, const ImageRecord& photo)
     return keys;
 }
 
-// Where a field stands among those above it: two of IptcSchema's directly behind what they belong to.
-qsizetype placeOf(const QString& id, const QStringList& above)
+// In the order of the form.
+const QList<const FieldSpec*>& fieldsOfForm()
 {
-    const qsizetype before = id == "iptc.altText" ? above.indexOf(FieldID::description)
-        : id == "iptc.countryCode"                ? above.indexOf(FieldID::country)
-                                                  : -1;
-    return before < 0 ? above.size() : before + 1;
+    static const QList<const FieldSpec*> fields = [] {
+        QList<const FieldSpec*> fields;
+        for (const QString& id : FieldSetTexts::formOrder())
+            fields.append(FieldSchema::spec(id));
+        return fields;
+    }();
+    return fields;
 }
 
 }  // namespace
@@ -357,9 +361,9 @@ bool Editing::isTouched(const QString& id) const
 QStringList Editing::visibleFieldIDs(FieldSection section) const
 {
     QStringList ids;
-    for (const FieldSpec& field : FieldSchema::everyField())
-        if (field.section == section && isShown(field))
-            ids.insert(placeOf(field.id, ids), field.id);
+    for (const FieldSpec* field : fieldsOfForm())
+        if (field->section == section && isShown(*field))
+            ids.append(field->id);
     return ids;
 }
 

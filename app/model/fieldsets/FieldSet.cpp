@@ -1,5 +1,6 @@
 #include "app/model/fieldsets/FieldSet.h"
 
+#include "core/schema/FieldID.h"
 #include "core/schema/FieldSchema.h"
 
 #include <QJsonArray>
@@ -13,6 +14,15 @@ namespace Quorbel::FieldSetTexts {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// Where a field stands among those above it: two of IptcSchema's directly behind what they belong to.
+qsizetype placeOf(const QString& id, const QStringList& above)
+{
+    const qsizetype before = id == "iptc.altText" ? above.indexOf(FieldID::description)
+        : id == "iptc.countryCode"                ? above.indexOf(FieldID::country)
+                                                  : -1;
+    return before < 0 ? above.size() : before + 1;
+}
 
 // Ids in one text; those with a star are wanted.
 FieldSet described(const QString& name, const QString& ids)
@@ -36,7 +46,7 @@ const QStringList& formOrder()
         for (const FieldSection section : allCases<FieldSection>())
             for (const FieldSpec& field : FieldSchema::everyField())
                 if (field.section == section)
-                    ids.append(field.id);
+                    ids.insert(placeOf(field.id, ids), field.id);
         return ids;
     }();
     return ids;

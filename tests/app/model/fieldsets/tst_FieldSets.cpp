@@ -157,7 +157,7 @@ void tst_FieldSets::showsTheFieldsOfASet()
     f->setSingle(u"creator"_s, u"Mara"_s);
     f.sets().choose(u"Accessibility"_s);
     // Its own, what holds something, what is edited.
-    const QStringList shown{ u"title"_s, u"description"_s, u"keywords"_s, u"creator"_s, u"iptc.altText"_s,
+    const QStringList shown{ u"title"_s, u"description"_s, u"iptc.altText"_s, u"keywords"_s, u"creator"_s,
         u"iptc.extendedDescription"_s, u"headline"_s, u"people"_s };
     QCOMPARE(f.onScreen(), shown);
     const auto isAddable = [&](const QString& id) {
