@@ -15,6 +15,7 @@ struct Result {
     QString country{};  ///< may be empty
     double latitude = 0;  ///< degrees
     double longitude = 0;  ///< degrees
+    QString countryCode{};  ///< two letters of ISO 3166; may be empty
     bool operator==(const Result&) const = default;
 };
 

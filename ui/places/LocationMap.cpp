@@ -75,7 +75,7 @@ void LocationMap::finish(const PlaceResult<Placemark>& answer)
     }
     const Placemark& place = answer.value;
     emit found({ place.name, place.locality, place.administrativeArea, place.country, place.point.latitude,
-        place.point.longitude });
+        place.point.longitude, place.countryCode });
 }
 
 }  // namespace Quorbel

@@ -9,7 +9,7 @@ constexpr int debounceMilliseconds = 200;
 LocationFill::Result resultOf(const Placemark& place)
 {
     return { place.name, place.locality, place.administrativeArea, place.country, place.point.latitude,
-        place.point.longitude };
+        place.point.longitude, place.countryCode };
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 // The tables of the IPTC Photo Metadata Standard: that they are whole and hang together, that the tool knows every tag
 // and every member in them, and what is made of structures as texts.
+#include "core/iptc/FieldAdvice.h"
 #include "core/iptc/IptcDefinitions.h"
 #include "core/iptc/IptcSchema.h"
+#include "core/iptc/LocationCards.h"
 #include "core/iptc/StructureEdit.h"
 #include "core/iptc/StructureText.h"
 #include "core/iptc/Vocabularies.h"
@@ -284,6 +286,65 @@ private slots:
         QCOMPARE(WorldRegions::nameOf(u"MX"_s), u"North America"_s);
         QCOMPARE(WorldRegions::nameOf(u"CY"_s), u"Asia"_s);
         QCOMPARE(WorldRegions::nameOf(u"ZZ"_s), QString());
+    }
+
+    void placesBecomeCards()
+    {
+        const QMap<QString, QString> fields{ { u"sublocation"_s, u"Miraflores "_s }, { u"place"_s, u"Lima"_s },
+            { u"country"_s, u"Peru"_s }, { u"iptc.countryCode"_s, u"PE"_s },
+            { u"coords"_s, u"-12.1215, -77.029700"_s } };
+        const auto value = [&fields](const QString& id) { return fields.value(id); };
+        const QString lima = LocationCards::fromFields(value);
+        QCOMPARE(lima,
+            json("{'City':'Lima','CountryCode':'PE','CountryName':'Peru','GPSLatitude':'-12.1215',"
+                 "'GPSLongitude':'-77.0297','Sublocation':'Miraflores','WorldRegion':'South America'}"));
+        QCOMPARE(LocationCards::fromFields([](const QString&) { return QString(); }), QString());
+        QCOMPARE(LocationCards::fromPlace(
+                     { u"Kinkaku-ji"_s, u"Kyoto"_s, u"Kyoto Prefecture"_s, u"Japan"_s, 35.0394, 135.7292, u"JP"_s }),
+            json("{'City':'Kyoto','CountryCode':'JP','CountryName':'Japan','GPSLatitude':'35.0394',"
+                 "'GPSLongitude':'135.7292','LocationName':'Kinkaku-ji','ProvinceState':'Kyoto Prefecture',"
+                 "'Sublocation':'Kinkaku-ji','WorldRegion':'Asia'}"));
+        // There and back nothing changes; another place takes its identifiers with it, but not what nobody knows.
+        QCOMPARE(LocationCards::toFields(lima, [&](const QString& id) { return fields.value(id).trimmed(); }),
+            (QList<LocationFill::Assignment>{ { u"coords"_s, u"-12.121500, -77.029700"_s } }));
+        const QString rome = json("{'City':'Rome','CountryName':'Italy'}");
+        const QString known = json("{'City':'Rome','LocationId':['x'],'LocationName-de':'Rom','Mood':'b'}");
+        QCOMPARE(LocationCards::moved(known, rome),
+            json("{'City':'Rome','CountryName':'Italy','LocationId':['x'],'LocationName-de':'Rom','Mood':'b'}"));
+        QCOMPARE(LocationCards::moved(known, json("{'City':'Bern'}")), json("{'City':'Bern','Mood':'b'}"));
+        // The town before had a sub-location; what a card does not say of the position stays.
+        QCOMPARE(LocationCards::toFields(rome, value),
+            (QList<LocationFill::Assignment>{
+                { u"sublocation"_s, {} }, { u"place"_s, u"Rome"_s }, { u"country"_s, u"Italy"_s } }));
+        QVERIFY(LocationCards::toFields(json("{'LocationId':['x']}"), value).isEmpty());
+    }
+
+    void adviceIsGiven_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<bool>("isEmpty");  // what it points to
+        QTest::addColumn<QString>("note");
+        const QString plenty = u"🇨🇭"_s.repeated(250);
+        const QString points = u"Points to “%1”, which is empty"_s;
+        const QString constraints = u"http://ns.useplus.org/ldf/vocab/DMI-PROHIBITED-SEECONSTRAINT"_s;
+        QTest::newRow("flags are one each") << u"iptc.altText"_s << plenty << true << QString();
+        QTest::newRow("one more") << u"iptc.altText@de"_s << plenty + u'!' << true
+                                  << u"Long to listen to: 251 of 250 characters"_s;
+        QTest::newRow("other long texts") << u"iptc.extendedDescription"_s << plenty + u'!' << true << QString();
+        QTest::newRow("constraints") << u"iptc.dataMining"_s << constraints << true
+                                     << points.arg(u"Other constraints"_s);
+        QTest::newRow("constraints given") << u"iptc.dataMining"_s << constraints << false << QString();
+        QTest::newRow("embedded") << u"iptc.dataMining"_s << u"DMI-PROHIBITED-SEEEMBEDDEDRIGHTSEXPR"_s << true
+                                  << points.arg(u"Embedded rights"_s);
+        QTest::newRow("points nowhere") << u"iptc.dataMining"_s << u"DMI-PROHIBITED"_s << true << QString();
+    }
+    void adviceIsGiven()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, value);
+        QFETCH(bool, isEmpty);
+        QTEST(FieldAdvice::note(key, value, [isEmpty](const QString&) { return isEmpty; }), "note");
     }
 
     void structuresBecomeArguments_data()

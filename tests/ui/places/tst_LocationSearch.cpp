@@ -179,7 +179,7 @@ private slots:
         QCOMPARE(search.picks.size(), 1);
         QCOMPARE(search.picks.first(),
             (LocationFill::Result{
-                u"Altstetten"_s, u"Zürich"_s, u"Canton of Zürich"_s, u"Switzerland"_s, 47.39, 8.48 }));
+                u"Altstetten"_s, u"Zürich"_s, u"Canton of Zürich"_s, u"Switzerland"_s, 47.39, 8.48, u"CH"_s }));
         QCOMPARE(search.field->text(), u"Zürich"_s);
         QTest::qWait(300);
         QCOMPARE(search.places.queries.size(), 1);
