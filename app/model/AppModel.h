@@ -27,6 +27,7 @@ class FieldSets;
 class Filtering;
 class PhotosRenaming;
 class QuickKeywords;
+class RememberedCards;
 class Templates;
 class TimeShifting;
 
@@ -233,6 +234,7 @@ public:
     Templates& templates();
     CodeReplacements& codes();
     QuickKeywords& quickKeywords();
+    RememberedCards& rememberedCards();
     PhotosRenaming& renaming();
     TimeShifting& timeShifting();
     Filtering& filtering();
@@ -300,6 +302,9 @@ public:
     void confirmSaveDialog();
     void discardSaveDialog();
     void cancelSaveDialog();
+    /// How many of the photos that a save would write into now, or that the dialog asks about, are known to have Content
+    /// Credentials.
+    int credentialsAtStake() const;
     /// "Save without EXIF", while the message tells of selected photos that refused their edits for that alone; ""
     /// else.
     QString partialSaveText() const;
@@ -435,6 +440,7 @@ private:
     void takeSaved(const SaveOutcome& outcome);
     void tellWritten(const SaveOutcome& outcome);
     void noteRead(const QList<ImageRecord>& fresh);
+    void noteWritten(const SaveOutcome& outcome);
     void takeUndone(const SaveOutcome& outcome);
     // Homes that disagree
     void goOnAgreeing();

@@ -1,5 +1,6 @@
 // Languages, keyword paths and homes that disagree.
 #include "app/model/AppModel.h"
+#include "app/model/AppModelTools.h"
 #include "core/schema/KeywordPath.h"
 
 namespace Quorbel {
@@ -14,6 +15,8 @@ void AppModel::connectDetails()
     const auto hold = [this, &details] { details.setHeld(unsavedCount() > 0 ? selection() : QSet<QUrl>()); };
     connect(this, &AppModel::selectionChanged, &details, hold);
     connect(this, &AppModel::unsavedCountChanged, &details, hold);
+    connect(&details, &DetailsReading::changed, this,
+        [this](const QList<QUrl>& photos) { m_tools->credentials->noteKnown(photos); });
     connect(this, &AppModel::isSavingChanged, &details, [this, &details] { details.setPaused(isSaving()); });
 }
 

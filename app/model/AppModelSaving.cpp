@@ -1,5 +1,9 @@
 // Saving: when to ask, and what a save leaves behind.
 #include "app/model/AppModel.h"
+#include "app/model/AppModelTools.h"
+#include "core/save/Agreement.h"
+
+#include <algorithm>
 
 namespace Quorbel {
 
@@ -56,6 +60,8 @@ void AppModel::requestSave()
 void AppModel::confirmSaveDialog()
 {
     requireMainThread("confirmSaveDialog");
+    if (m_saveOpen)
+        m_tools->credentials->noteConfirmed();
     m_announcer.assign(m_saveOpen, false, Change::saveOpen);
     if (m_agreeing && m_agreeing->isAsking) {
         m_agreeing->isAsking = false;
@@ -116,6 +122,7 @@ void AppModel::beginSave(const Edits& edits, const QStringList& leftOut)
                 seen.insert(photo, seenIn(*record, edits));
     if (onWriteBegins)
         onWriteBegins(edits.subjects);
+    m_tools->rememberedCards->noteSaving(edits);
     m_saving.save(edits, { m_preferences.backupOriginals(), m_preferences.writeSidecar(), leftOut }, seen);
 }
 
@@ -164,8 +171,33 @@ void AppModel::takeSaved(const SaveOutcome& outcome)
     m_editing.takeSaved(outcome.unsaved, outcome.failed, outcome.differing);
     if (outcome.message)
         setErrorMessage(outcome.message);
+    noteWritten(outcome);
     if (!outcome.unsaved.isEmpty())
         m_refused = { QSet<QUrl>(outcome.failed.cbegin(), outcome.failed.cend()), outcome.homesToLeaveOut };
+}
+
+// For what is remembered of what was saved.
+void AppModel::noteWritten(const SaveOutcome& outcome)
+{
+    const QSet<QUrl> failed(outcome.failed.cbegin(), outcome.failed.cend());
+    QList<QUrl> written;
+    for (const ImageRecord& record : outcome.records)
+        if (!failed.contains(record.url))
+            written.append(record.url);
+    m_tools->credentials->noteWritten(written);
+    m_tools->rememberedCards->noteSaved(outcome.records, failed, outcome.differing);
+}
+
+// Homes are made to agree only where there is something to write.
+int AppModel::credentialsAtStake() const
+{
+    if (!m_agreeing || !m_agreeing->isAsking)
+        return selectedDetails().credentials();
+    return int(std::count_if(m_agreeing->photos.cbegin(), m_agreeing->photos.cend(), [this](const QUrl& photo) {
+        const ImageRecord* record = photos().record(photo);
+        const PhotoDetails* known = details(photo);
+        return record && known && known->hasCredentials && !Agreement::plan(*record, *known).isEmpty();
+    }));
 }
 
 QString AppModel::partialSaveText() const

@@ -31,6 +31,8 @@ void AppModel::makeTools()
         std::make_unique<Templates>(*this, m_tasks, m_services.templatesPath, [this] { return m_editing.unsaved(); });
     m_tools->codes = std::make_unique<CodeReplacements>(*this);
     m_tools->quickKeywords = std::make_unique<QuickKeywords>(*this);
+    m_tools->rememberedCards = std::make_unique<RememberedCards>(*this);
+    m_tools->credentials = std::make_unique<CredentialsNotice>(*this);
     m_tools->renaming = std::make_unique<PhotosRenaming>(*this,
         PhotosRenaming::Parts{ m_announcer, m_tasks, m_library, m_editing, m_saving, m_cache,
             m_services.journalPath.isEmpty() ? QString() : m_services.journalPath + u"/renames"_s,
@@ -74,6 +76,11 @@ CodeReplacements& AppModel::codes()
 QuickKeywords& AppModel::quickKeywords()
 {
     return *checked(*m_tools).quickKeywords;
+}
+
+RememberedCards& AppModel::rememberedCards()
+{
+    return *checked(*m_tools).rememberedCards;
 }
 
 PhotosRenaming& AppModel::renaming()

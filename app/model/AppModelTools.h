@@ -3,6 +3,8 @@
 #pragma once
 
 #include "app/model/fieldsets/FieldSets.h"
+#include "app/model/iptc/CredentialsNotice.h"
+#include "app/model/iptc/RememberedCards.h"
 #include "app/model/library/filter/Filtering.h"
 #include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/templates/Templates.h"
@@ -24,6 +26,8 @@ struct AppModelTools {
     std::unique_ptr<TimeShifting> timeShifting{};
     std::unique_ptr<Filtering> filtering{};
     std::unique_ptr<FieldSets> fieldSets{};  ///< leads the one before
+    std::unique_ptr<RememberedCards> rememberedCards{};
+    std::unique_ptr<CredentialsNotice> credentials{};
 };
 
 }  // namespace Quorbel

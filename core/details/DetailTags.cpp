@@ -32,7 +32,12 @@ QStringList pathTags()
 
 QStringList all()
 {
-    return FieldHomes::readTags() + IptcSchema::readTags() + languageTags() + pathTags() << error();
+    return FieldHomes::readTags() + IptcSchema::readTags() + languageTags() + pathTags() << boxLabel() << error();
+}
+
+QString boxLabel()
+{
+    return u"JUMBF:JUMDLabel"_s;
 }
 
 QString error()

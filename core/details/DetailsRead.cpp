@@ -53,7 +53,8 @@ PhotoDetails details(const ImageRecord& photo, const JSONObject& tags)
         .texts = texts,
         .lists = iptc.lists,
         .paths = paths(tags),
-        .disagreements = Disagreements::of(photo, tags) };
+        .disagreements = Disagreements::of(photo, tags),
+        .hasCredentials = tags.value(DetailTags::boxLabel()).stringValue() == u"c2pa"_s };
 }
 
 }  // namespace

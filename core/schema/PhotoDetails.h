@@ -1,5 +1,5 @@
 // What a photo holds beside the one value that its record shows of each field: texts in further languages, keyword
-// paths, the fields of IptcSchema, and what each home of a field holds where the homes disagree.
+// paths, the fields of IptcSchema, Content Credentials, and what each home of a field holds where the homes disagree.
 // Thread: any. Plain values.
 #pragma once
 
@@ -33,6 +33,8 @@ struct PhotoDetails {
     QStringList paths{};  ///< keyword paths of all homes, each once (see KeywordPath)
     /// Field id to its homes, for the fields of which they disagree: the shown one first, absent ones left out.
     QMap<QString, QList<FieldHome>> disagreements{};
+    /// Its file is sealed (C2PA): whatever is written into it, programs that check it will say that it was changed.
+    bool hasCredentials = false;
     bool operator==(const PhotoDetails&) const = default;
 
     /// Whether what stands under this key is known from the details, and not from the record: a text in a further

@@ -1,6 +1,8 @@
 #include "ui/sheets/SaveDialogView.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/iptc/CredentialsNotice.h"
+#include "app/model/iptc/FieldNotes.h"
 #include "core/iptc/ShownText.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldCheck.h"
@@ -71,7 +73,8 @@ QString titleText(const AppModel& model, const AskedAgreement& question)
 }
 
 // The scalar fields among `ids`, by id.
-QList<ChangeLine> scalarLines(const QSet<QString>& ids, const std::function<ChangeLine(const QString& id)>& lineOf)
+QList<ChangeLine> scalarLines(
+    const AppModel& model, const QSet<QString>& ids, const std::function<ChangeLine(const QString& id)>& lineOf)
 {
     QList<ChangeLine> lines;
     QStringList sorted = ids.values();
@@ -83,6 +86,8 @@ QList<ChangeLine> scalarLines(const QSet<QString>& ids, const std::function<Chan
             continue;
         lines.append(lineOf(id));
         lines.last().label = label;
+        if (lines.last().note.isEmpty())
+            lines.last().note = FieldNotes::of(model, id);
     }
     return lines;
 }
@@ -180,8 +185,8 @@ QList<ChangeLine> changeLines(const AppModel& model, const AskedAgreement& quest
     if (question)
         return agreementLines(*question);
     if (isSingle(model)) {
-        QList<ChangeLine> lines = scalarLines(
-            model.editedSingle(), [&model](const QString& id) { return textLine(id, model.draftValues().value(id)); });
+        QList<ChangeLine> lines = scalarLines(model, model.editedSingle(),
+            [&model](const QString& id) { return textLine(id, model.draftValues().value(id)); });
         for (const FieldSpec& field : FieldSchema::everyField())
             if (field.isList() && model.editedSingle().contains(field.id)) {
                 const QStringList items = model.draftLists().value(field.id);
@@ -191,7 +196,7 @@ QList<ChangeLine> changeLines(const AppModel& model, const AskedAgreement& quest
         return lines;
     }
     QList<ChangeLine> lines =
-        scalarLines(model.batchInclude(), [&model](const QString& id) { return batchLine(model, id); });
+        scalarLines(model, model.batchInclude(), [&model](const QString& id) { return batchLine(model, id); });
     QMap<QString, ChangeLine> lists;
     for (const FieldSpec& field : FieldSchema::everyField())
         if (const ChangeLine line = field.isList() ? listLine(model, field) : ChangeLine(); hasEdits(line))
@@ -325,6 +330,8 @@ SaveDialogView::SaveDialogView(AppModel& model, QWidget* parent)
     for (const ChangeLine& line : changeLines(model, m_question))
         if (!line.note.isEmpty())
             told.append(line.label + u": "_s + line.note);
+    told.append(CredentialsNotice::text(model.credentialsAtStake()));
+    told.removeAll(QString());
     setAccessibleDescription(told.join(u' '));
     auto* column = new QVBoxLayout(this);
     auto* line = new QHBoxLayout;
@@ -347,10 +354,13 @@ QVBoxLayout* SaveDialogView::buildTexts()
     title->setVerbatim(true);
     auto* message = ThemedLabel::wrapped(messageText(m_model, m_question), TextRole::label, 13);
     QWidget* changes = buildChanges();
+    QWidget* credentials = buildCredentials();
     buildCheckbox();
     QList<SheetPart> parts{ { title, messageGap }, { message, listGap } };
     if (changes)
         parts.append({ changes, listGap });
+    if (credentials)
+        parts.append({ credentials, listGap });
     parts.append({ m_dontAsk, 0, Qt::AlignLeft });
     stackParts(this, texts, parts);
     texts->addStretch();
@@ -361,6 +371,13 @@ QWidget* SaveDialogView::buildChanges()
 {
     const QList<ChangeLine> lines = changeLines(m_model, m_question);
     return lines.isEmpty() ? nullptr : new ChangeList(lines);
+}
+
+// Nothing is wrong with it, and the save goes on: calm words, no mark of danger.
+QWidget* SaveDialogView::buildCredentials()
+{
+    const QString text = CredentialsNotice::text(m_model.credentialsAtStake());
+    return text.isEmpty() ? nullptr : ThemedLabel::wrapped(text, TextRole::label, 12);
 }
 
 void SaveDialogView::buildCheckbox()

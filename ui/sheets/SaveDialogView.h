@@ -29,6 +29,7 @@ public:
 private:
     QVBoxLayout* buildTexts();
     QWidget* buildChanges();
+    QWidget* buildCredentials();
     void buildCheckbox();
     QList<QBButton*> buildButtons();
 

@@ -1,6 +1,7 @@
 #include "app/model/edits/Editing.h"
 
 #include "app/model/fieldsets/FieldSet.h"
+#include "core/iptc/FieldAdvice.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
@@ -10,6 +11,8 @@
 #include <algorithm>
 
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -308,7 +311,11 @@ void Editing::removeAddedField(const QString& id)
 void Editing::assignPlace(const LocationFill::Result& result, bool withPosition)
 {
     const Announcer::Together together(m_announcer);
-    const auto assignments = LocationFill::assignments(result, [this](const QString& id) { return isFieldEmpty(id); });
+    auto assignments = LocationFill::assignments(result, [this](const QString& id) { return isFieldEmpty(id); });
+    // Nobody is given a field that is not on screen.
+    if (const FieldSpec& code = *FieldSchema::spec(u"iptc.countryCode"_s);
+        !result.countryCode.isEmpty() && isShown(code) && isFieldEmpty(code.id))
+        assignments.append({ code.id, result.countryCode });
     for (const LocationFill::Assignment& assignment : assignments) {
         if (!withPosition && assignment.id == FieldID::coords)
             continue;
@@ -339,6 +346,15 @@ bool Editing::isRemovableAddedField(const QString& id) const
     return !record || (!record->values.contains(id) && !record->lists.contains(id));
 }
 
+// By what the other field says now.
+bool Editing::isCalledFor(const QString& id, const QString& other) const
+{
+    const QString value = !isBatch()            ? m_draft.shown.values.value(other)
+        : m_batch.edits.scalars.contains(other) ? m_batch.edits.scalars.value(other)
+                                                : m_details.sharedValue(other).value_or(QString());
+    return FieldAdvice::companions(other, value).contains(id);
+}
+
 bool Editing::isShown(const FieldSpec& field) const
 {
     if ((m_only ? m_only->contains(field.id) : field.alwaysShown) || m_added.contains(field.id))
@@ -346,6 +362,8 @@ bool Editing::isShown(const FieldSpec& field) const
     if (m_only && isTouched(field.id))
         return true;
     if (!field.languageTag().isEmpty() && !languages(field.id).isEmpty())
+        return true;
+    if (const QString other = FieldAdvice::companionsOf(field.id); !other.isEmpty() && isCalledFor(field.id, other))
         return true;
     if (isBatch())
         return m_selected.holds(field.id) || m_details.holds(field.id);

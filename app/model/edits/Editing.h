@@ -158,6 +158,7 @@ private:
     bool isShown(const FieldSpec& field) const;
     bool isTouched(const QString& id) const;
     bool isLacking(const QString& id) const;
+    bool isCalledFor(const QString& id, const QString& other) const;
     QString shownCustom(const QString& name) const;
     void changed();
     bool isSending() const;

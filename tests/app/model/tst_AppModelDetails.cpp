@@ -518,7 +518,8 @@ void tst_AppModelDetails::cacheOfAnEarlierVersion()
     const PhotoDetails details{ .url = file.url,
         .texts = { { u"title@de"_s, u"Ä"_s } },
         .paths = { u"A|B"_s },
-        .disagreements = { { u"title"_s, { { u"X"_s, { u"1"_s, u"2"_s }, true }, { u"Y"_s, {}, false, true } } } } };
+        .disagreements = { { u"title"_s, { { u"X"_s, { u"1"_s, u"2"_s }, true }, { u"Y"_s, {}, false, true } } } },
+        .hasCredentials = true };
     const auto keep = [&](bool withDetails) {
         RecordCache cache(options, tool.runner());
         cache.put(cache.begin({ file }), { { file, record } });

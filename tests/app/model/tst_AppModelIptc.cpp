@@ -1,5 +1,8 @@
 // The further properties of the IPTC standard from the model's side: all of them typed, saved, read again and taken
 // back; structures that hold what nobody here knows; the same for several photos.
+#include "app/model/iptc/CredentialsNotice.h"
+#include "app/model/iptc/FieldNotes.h"
+#include "app/model/iptc/RememberedCards.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/StructureText.h"
 #include "core/schema/FieldLanguages.h"
@@ -123,6 +126,9 @@ private slots:
     void referenceFile();
     void structuresOfOthers();
     void severalPhotosGainStructures();
+    void sealsAreTold();
+    void cardsAreRemembered();
+    void whatBelongsTogether();
 };
 
 void tst_AppModelIptc::everyFieldIsSavedAndTakenBack()
@@ -140,6 +146,8 @@ void tst_AppModelIptc::everyFieldIsSavedAndTakenBack()
     const auto values = photos->draftValues();
     const auto lists = photos->draftLists();
     QVERIFY(photos.save());
+    for (const QString& id : { u"iptc.contact"_s, u"iptc.licensors"_s })
+        QCOMPARE(photos->rememberedCards().of(id).size(), 1);
     QCOMPARE(photos.banner(), QString());
     QCOMPARE(photos->unsavedCount(), 0);
 
@@ -366,6 +374,138 @@ void tst_AppModelIptc::severalPhotosGainStructures()
         QCOMPARE(details.texts.value(u"iptc.contact"_s), item(R"({"CiEmailWork":"a@b.example, c@d.example"})"));
         QCOMPARE(details.lists.value(u"iptc.organisationNames"_s), QStringList{ u"UN"_s });
     }
+}
+
+// Before a save where one is asked, else behind the first one.
+void tst_AppModelIptc::sealsAreTold()
+{
+    Photos photos;
+    const auto isShut = std::make_shared<std::atomic<bool>>(false);
+    photos.addTitled(jpgs(u"abc"_s));
+    photos.lookAtDetails([isShut](const QList<ImageRecord>& asked, const ReadControl& control) {
+        while (*isShut && !control.stop.stop_requested())
+            QThread::msleep(1);
+        QHash<QUrl, PhotoDetails> found;
+        for (const ImageRecord& photo : asked)
+            found.insert(photo.url, { .url = photo.url, .hasCredentials = photo.fileName != "c.jpg" });
+        return found;
+    });
+    QVERIFY(photos.open());
+    const auto save = [&](const QString& letters, const QString& title) {
+        photos.select(letters);
+        if (!*isShut)
+            QVERIFY(photos.knows(letters));
+        letters.size() > 1 ? photos->setBatch(u"title"_s, title) : photos->setSingle(u"title"_s, title);
+        QVERIFY(photos.save());
+    };
+    save(u"c"_s, u"1"_s);
+    QCOMPARE(photos.banner(), QString());
+    *isShut = true;
+    save(u"abc"_s, u"2"_s);
+    QCOMPARE(photos.banner(), QString());
+    *isShut = false;
+    QTRY_COMPARE_WITH_TIMEOUT(photos.banner(), CredentialsNotice::text(2), 20000);
+    save(u"a"_s, u"3"_s);
+    QCOMPARE(photos.banner(), QString());
+
+    photos.relaunch();
+    QVERIFY(photos.open());
+    photos->preferences().saveDontAsk.set(false);
+    photos.select(u"b"_s);
+    QVERIFY(photos.knows(u"b"_s));
+    QCOMPARE(photos->credentialsAtStake(), 1);
+    photos->setSingle(u"title"_s, u"4"_s);
+    photos->requestSave();
+    QVERIFY(photos->saveOpen());
+    photos->confirmSaveDialog();
+    QVERIFY(photos.waitUntilIdle() && photos.knows(u"b"_s));
+    QCOMPARE(photos.banner(), QString());
+}
+
+// What a save brought into a photo, the last first; no more than one can look through.
+void tst_AppModelIptc::cardsAreRemembered()
+{
+    const ModelFixture model(std::nullopt);
+    const QString id = u"iptc.contact"_s;
+    RememberedCards& cards = model.model->rememberedCards();
+    const QUrl photo = QUrl::fromLocalFile(u"/a.jpg"_s);
+    ImageRecord record;
+    record.url = photo;
+    const auto save = [&](const QString& city, const QString& creator, const QSet<QUrl>& failed = {},
+                          const QSet<QString>& refused = {}) {
+        record.values[u"creator"_s] = creator;
+        cards.noteSaving(
+            { .scalars = { { id, item("{\"CiAdrCity\":\"" + city.toUtf8() + "\"}") } }, .subjects = { photo } });
+        cards.noteSaved({ record }, failed, refused);
+    };
+    const auto labels = [&id](const RememberedCards& held) {
+        QStringList texts;
+        for (const RememberedCard& card : held.of(id))
+            texts.append(RememberedCards::label(id, card));
+        return texts;
+    };
+    save(u"Zürich"_s, u"Mara Lindqvist"_s);
+    save(u"Bern"_s, {});
+    save(u"Basel"_s, {}, { photo });
+    save(u"Chur"_s, {}, {}, { id });
+    save(QString(), {});
+    QCOMPARE(labels(cards), QStringList({ u"Bern"_s, u"Mara Lindqvist · Zürich"_s }));
+    save(u"Zürich"_s, u"M. Lindqvist"_s);
+    QCOMPARE(labels(cards), QStringList({ u"M. Lindqvist · Zürich"_s, u"Bern"_s }));
+    cards.noteSaving(
+        { .added = { { u"iptc.licensors"_s, { item(R"({"LicensorName":"A"})"), item(R"({"LicensorName":"B"})") } } },
+            .subjects = { photo } });
+    cards.noteSaved({ record }, {}, {});
+    QCOMPARE(RememberedCards::label(u"iptc.licensors"_s, cards.of(u"iptc.licensors"_s).constFirst()), u"A"_s);
+    const RememberedCards later(*model.model);
+    QCOMPARE(later.of(u"iptc.licensors"_s), cards.of(u"iptc.licensors"_s));
+    QCOMPARE(labels(later), labels(cards));
+    cards.forget(id, cards.of(id).constFirst().card);
+    QCOMPARE(labels(cards), QStringList{ u"Bern"_s });
+    for (int i = 0; i < RememberedCards::most; ++i)
+        save(QString::number(i), {});
+    QCOMPARE(cards.of(id).size(), RememberedCards::most);
+    QCOMPARE(labels(cards).constLast(), u"0"_s);
+    cards.forgetAll(id);
+    QCOMPARE(labels(RememberedCards(*model.model)), QStringList());
+    QCOMPARE(cards.of(u"iptc.licensors"_s).size(), 2);
+}
+
+// What made a picture is on screen beside a source that says that an AI did; the code of a country is filled where it
+// is on screen; what a value points to should be there.
+void tst_AppModelIptc::whatBelongsTogether()
+{
+    Photos photos;
+    photos.addTitled(jpgs(u"ab"_s));
+    QVERIFY(photos.open());
+    const auto seen = [&] { return photos->visibleFieldIDs(FieldSection::source).size(); };
+    const QString generated = u"http://cv.iptc.org/newscodes/digitalsourcetype/trainedAlgorithmicMedia"_s;
+    const LocationFill::Result bern{ u"Bern"_s, {}, {}, u"Switzerland"_s, 46.9, 7.4, u"CH"_s };
+    photos.select(u"a"_s);
+    QVERIFY(photos.knows(u"a"_s));
+    photos->setSingle(u"iptc.digitalSource"_s, u"http://cv.iptc.org/newscodes/digitalsourcetype/digitalCapture"_s);
+    QCOMPARE(seen(), 1);
+    photos->setSingle(u"iptc.digitalSource"_s, generated);
+    QCOMPARE(seen(), 5);
+    QCOMPARE(photos->unsavedCount(), 1);
+    photos->applyLocation(bern);
+    QVERIFY(!photos->editedSingle().contains(u"iptc.countryCode"_s));
+    photos->addKnownField(u"iptc.countryCode"_s);
+    photos->applyLocation(bern);
+    QCOMPARE(photos->draftValues().value(u"iptc.countryCode"_s), u"CH"_s);
+    photos->setSingle(u"iptc.dataMining"_s, u"DMI-PROHIBITED-SEELINKEDRIGHTSEXPR"_s);
+    QCOMPARE(FieldNotes::of(*photos.model, u"iptc.dataMining"_s), u"Points to “Linked rights”, which is empty"_s);
+    photos->setItems(u"iptc.linkedRights"_s, { item(R"({"LinkedRightsExpr":"https://a"})") });
+    QCOMPARE(FieldNotes::of(*photos.model, u"iptc.dataMining"_s), QString());
+    photos->requestSave();
+    QVERIFY(photos.waitUntilIdle());
+    photos.select(u"b"_s);
+    QVERIFY(photos.knows(u"b"_s));
+    QCOMPARE(seen(), 0);
+    photos.select(u"ab"_s);
+    QVERIFY(photos.knows(u"ab"_s));
+    photos->setBatch(u"iptc.digitalSource"_s, generated);
+    QCOMPARE(seen(), 5);
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelIptc)

@@ -5,6 +5,7 @@
 #include "tests/support/RealService.h"
 
 #include <QTest>
+#include <QtEndian>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -206,6 +207,36 @@ void make(const PhotoFolder& folder, const Photos& photos, Name nameOf)
     exiftool(arguments);
 }
 
+// A box of JUMBF in the form in which a seal of the C2PA lies in a file: its own label, and boxes in it.
+QByteArray box(const QByteArray& type, const QByteArray& content)
+{
+    QByteArray length(4, Qt::Uninitialized);
+    qToBigEndian(quint32(8 + content.size()), length.data());
+    return length + type + content;
+}
+
+QByteArray labelled(const QByteArray& type, const QByteArray& label, const QByteArray& content)
+{
+    return box(
+        "jumb", box("jumd", type + QByteArray::fromHex("00110010800000aa00389b71") + '\x03' + label + '\0') + content);
+}
+
+QByteArray inJpeg(const QByteArray& boxes)
+{
+    QByteArray length(2, Qt::Uninitialized);
+    qToBigEndian(quint16(10 + boxes.size()), length.data());
+    const QByteArray segment = QByteArray("\xff\xeb") + length + QByteArray("JP\0\1\0\0\0\1", 8) + boxes;
+    return jpegBytes().insert(2, segment);
+}
+
+// Behind the header of 33 bytes. The tool does not mind a sum of zero.
+QByteArray inPng(const QByteArray& boxes)
+{
+    QByteArray length(4, Qt::Uninitialized);
+    qToBigEndian(quint32(boxes.size()), length.data());
+    return pngBytes().insert(33, length + "caBX" + boxes + QByteArray(4, '\0'));
+}
+
 // The record that a read would make of it.
 ImageRecord recordOf(const QUrl& url)
 {
@@ -370,6 +401,28 @@ private slots:
             QVERIFY2(details.texts == photo.languages, qPrintable(photo.name));
             QVERIFY2(details.paths == photo.paths, qPrintable(photo.name));
         }
+    }
+
+    // A save leaves the seal where it is, and breaks it.
+    void sealedPhotosAreTold()
+    {
+        const QByteArray seal = labelled("c2pa", "c2pa", labelled("c2ma", "urn:uuid:1", {}));
+        const PhotoFolder folder;
+        const QMap<QString, bool> isSealed{ { folder.add(u"a.jpg"_s, inJpeg(seal)).fileName(), true },
+            { folder.add(u"b.png"_s, inPng(seal)).fileName(), true },
+            { folder.add(u"other.jpg"_s, inJpeg(labelled("json", "notes", box("json", "{\"c2pa\":1}")))).fileName(),
+                false },
+            { folder.add(u"inner.jpg"_s, inJpeg(labelled("json", "notes", labelled("json", "c2pa", {})))).fileName(),
+                false },
+            { folder.add(u"none.jpg"_s).fileName(), false } };
+        QList<QUrl> photos;
+        for (const QString& name : isSealed.keys())
+            photos.append(folder.url(name));
+        realService().write({ .scalars = { { u"title"_s, u"Edited"_s } } }, { photos.constFirst() }, {});
+        const auto found = realService().details(realService().read(photos));
+        for (const QUrl& photo : photos)
+            QVERIFY2(
+                found.value(photo).hasCredentials == isSealed.value(photo.fileName()), qPrintable(photo.fileName()));
     }
 
 private:

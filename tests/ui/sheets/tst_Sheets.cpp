@@ -147,6 +147,7 @@ private slots:
     void saveDialogOfSeveral_data();
     void saveDialogOfSeveral();
     void saveDialogAboutHomes();
+    void saveDialogAboutSeals();
     void saveDialogAnswers_data();
     void saveDialogAnswers();
     void saveDialogRemembersNotToAsk();
@@ -219,18 +220,22 @@ void tst_Sheets::saveDialogRepeatsNotes_data()
 void tst_Sheets::saveDialogRepeatsNotes()
 {
     QFETCH(const bool, several);
+    const QString longText = u"word "_s.repeated(50) + u'!';
     SheetFixture desk({ u"a.jpg"_s, u"b.jpg"_s });
     QVERIFY(desk.open());
     if (several)
         desk.model().selectAllPhotos();
-    for (const auto& [id, text] :
-        QMap<QString, QString>{ { u"date"_s, u"2021-02-30"_s }, { u"title"_s, u"x"_s } }.asKeyValueRange())
+    for (const auto& [id, text] : QMap<QString, QString>{ { u"date"_s, u"2021-02-30"_s },
+             { u"iptc.altText"_s, longText },
+             { u"title"_s, u"x"_s } }.asKeyValueRange())
         several ? desk.model().setBatch(id, text) : desk.model().setSingle(id, text);
     const auto* sheet = desk.present<SaveDialogView>();
-    const QStringList note{ u"Date taken"_s, u"“2021-02-30”"_s, u"Not a date: YYYY-MM-DD HH:MM"_s };
+    const QStringList note{ u"Date taken"_s, u"“2021-02-30”"_s, u"Not a date: YYYY-MM-DD HH:MM"_s,
+        u"Alternative text"_s, u'“' + longText + u'”', u"Long to listen to: 251 of 250 characters"_s };
     const QStringList title{ u"Title"_s, u"“x”"_s };
     QCOMPARE(labels(sheet).mid(2), several ? note + title : note);
-    QVERIFY(sheet->accessibleDescription().endsWith(u" Date taken: Not a date: YYYY-MM-DD HH:MM"_s));
+    QVERIFY(sheet->accessibleDescription().endsWith(u" Date taken: Not a date: YYYY-MM-DD HH:MM"
+                                                    " Alternative text: Long to listen to: 251 of 250 characters"_s));
     QVERIFY(button(sheet, several ? u"Apply to 2 Photos"_s : u"Save"_s)->isEnabled());
 }
 
@@ -294,6 +299,27 @@ void tst_Sheets::saveDialogAboutHomes()
             u"Where the places of a field differ, all of them will hold what is shown of it. Lists are brought together."_s,
             u"Title"_s, u"2 photos"_s }));
     QCOMPARE(titles(sheet), QStringList({ u"Cancel"_s, u"Make Them Agree"_s }));
+}
+
+// Calmly, and only of photos that have one.
+void tst_Sheets::saveDialogAboutSeals()
+{
+    SheetFixture desk(jpgs(u"ab"_s));
+    desk.photos.lookAtDetails([](const QList<ImageRecord>& asked, const ReadControl&) {
+        QHash<QUrl, PhotoDetails> found;
+        for (const ImageRecord& photo : asked)
+            found.insert(photo.url, { .url = photo.url, .hasCredentials = photo.fileName == "a.jpg" });
+        return found;
+    });
+    QVERIFY(desk.open());
+    const QString text = u"1 photo has Content Credentials: other programs will report it as changed."_s;
+    for (const QString& letters : { u"a"_s, u"ab"_s, u"b"_s }) {
+        desk.photos.select(letters);
+        QTRY_VERIFY_WITH_TIMEOUT(desk.model().details(desk.photos.url(letters.last(1) + u".jpg"_s)), 20000);
+        const auto* sheet = desk.present<SaveDialogView>();
+        QCOMPARE(labels(sheet).mid(2), letters == "b" ? QStringList() : QStringList{ text });
+        QCOMPARE(sheet->accessibleDescription().endsWith(u' ' + text), letters != "b");
+    }
 }
 
 void tst_Sheets::saveDialogAnswers_data()

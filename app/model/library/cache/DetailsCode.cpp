@@ -68,6 +68,7 @@ QByteArray encoded(const PhotoDetails& details)
             to.number((home.isShown ? shown : 0) | (home.isForeign ? foreign : 0) | (home.isSeveral ? several : 0));
         }
     }
+    to.number(details.hasCredentials ? 1 : 0);
     return to.bytes();
 }
 
@@ -89,6 +90,7 @@ std::optional<PhotoDetails> decoded(QByteArrayView bytes)
         for (qsizetype more = from.count(); more > 0; --more)
             homes.append(unpackHome(from));
     }
+    details.hasCredentials = from.number() != 0;
     return from.isGood() ? std::optional(std::move(details)) : std::nullopt;
 }
 

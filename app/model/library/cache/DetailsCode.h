@@ -11,7 +11,7 @@
 namespace Quorbel::DetailsCode {
 
 /// Raise it when the bytes mean something else, or an unchanged photo has other details than before.
-constexpr int version = 2;
+constexpr int version = 3;
 
 /// All but the photo's address. Empty for details that could not be had back exactly.
 QByteArray encoded(const PhotoDetails& details);

@@ -12,7 +12,8 @@ namespace {
 
 bool isSilent(const PhotoDetails& details)
 {
-    return details.texts.isEmpty() && details.lists.isEmpty() && details.paths.isEmpty() && details.disagreements.isEmpty();
+    return details.texts.isEmpty() && details.lists.isEmpty() && details.paths.isEmpty() && details.disagreements.isEmpty()
+        && !details.hasCredentials;
 }
 
 }  // namespace
