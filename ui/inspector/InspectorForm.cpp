@@ -18,6 +18,7 @@
 #include "ui/inspector/InspectorStates.h"
 #include "ui/inspector/PhotoHeader.h"
 #include "ui/inspector/WantedFields.h"
+#include "ui/inspector/iptc/CardActions.h"
 #include "ui/inspector/iptc/DetailsWait.h"
 #include "ui/inspector/iptc/IptcSections.h"
 #include "ui/inspector/keywords/KeywordRows.h"
@@ -457,6 +458,8 @@ FieldRow* InspectorForm::rowOf(const FieldSpec& field)
         };
     FieldRow* row = makeRow(field.id, parts);
     connectRow(*row, field);
+    if (auto* cards = row->findChild<StructureCards*>())
+        new CardActions(m_model, m_places, *FieldSchema::spec(field.id), *cards);
     return row;
 }
 

@@ -1,6 +1,7 @@
 #include "ui/inspector/InspectorStates.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/iptc/FieldNotes.h"
 #include "core/iptc/ShownText.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldCheck.h"
@@ -262,6 +263,9 @@ FieldRowState fieldRow(const AppModel& model, const FieldSpec& field)
         addStructureState(model, field, state);
     if (state.edited || (state.batch && state.included))
         state.noteLine = noteOf(field, state);
+    // Of the length of texts their editors tell.
+    if (state.noteLine.isEmpty() && field.kind == FieldKind::code)
+        state.noteLine = FieldNotes::of(model, field.id);
     addLanguages(model, field, state);
     if (!state.batch && !state.edited)
         state.places.homes = model.differingHomes(field.id);

@@ -1,0 +1,148 @@
+// What the menus of place cards and of contacts do to the model, and what comes back into the cards.
+#include "app/model/iptc/RememberedCards.h"
+#include "core/iptc/IptcSchema.h"
+#include "core/iptc/StructureText.h"
+#include "tests/ui/inspector/InspectorFixture.h"
+#include "ui/controls/attached/MenuRow.h"
+#include "ui/controls/cards/ItemCard.h"
+#include "ui/inspector/iptc/CardActions.h"
+#include "ui/inspector/iptc/PlacePopover.h"
+#include "ui/inspector/iptc/RememberedPopover.h"
+#include "ui/inspector/iptc/StructureCard.h"
+
+#include <QJsonObject>
+#include <QListWidget>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The cards of one field of one photo, which follow the model.
+struct Desk {
+    explicit Desk(const QString& id)
+        : field(*IptcSchema::spec(id))
+    {
+        photos.addTitled(jpgs(u"a"_s));
+        photos.lookAtDetails([](const QList<ImageRecord>& asked, const ReadControl&) {
+            QHash<QUrl, PhotoDetails> found;
+            for (const ImageRecord& photo : asked)
+                found.insert(photo.url, { .url = photo.url });
+            return found;
+        });
+        cards = new StructureCards(field, {}, &window);
+        new CardActions(*photos.model, &places, field, *cards);
+        QObject::connect(photos.model.get(), &AppModel::editsChanged, cards, [this] { show(); });
+        window.resize(520, 600);
+        cards->resize(500, 580);
+        window.show();
+        window.activateWindow();
+    }
+    bool open()
+    {
+        const bool isOpen = QTest::qWaitForWindowActive(&window) && photos.open();
+        photos.select(u"a"_s);
+        return isOpen && QTest::qWaitFor([this] { return photos->knowsDetails(); }, 20000);
+    }
+    void show()
+    {
+        const QString one = photos->draftValues().value(field.id);
+        state.items = field.isSeveral ? photos->draftLists().value(field.id)
+            : one.isEmpty()           ? QStringList()
+                                      : QStringList(one);
+        cards->setState(state, false);
+    }
+    // From a card's menu; whether it is there.
+    bool choose(int item, const QString& text) const
+    {
+        for (QAction* action : cards->list().card(item)->widget()->actions())
+            if (action->text() == text) {
+                action->trigger();
+                return true;
+            }
+        return false;
+    }
+    template <typename Kind>
+    static const Kind* opened()
+    {
+        for (const QWidget* top : QApplication::topLevelWidgets())
+            if (const auto* found = qobject_cast<const Kind*>(top); found && found->isVisible())
+                return found;
+        return nullptr;
+    }
+
+    const FieldSpec& field;
+    ModelFixture photos;
+    OnePlace places;
+    QWidget window;
+    StructureCards* cards = nullptr;
+    StructureCardsState state{};
+};
+
+}  // namespace
+
+class tst_CardActions : public QObject {
+    Q_OBJECT
+
+private slots:
+    void placesAndLocation()
+    {
+        Desk desk(u"iptc.locationCreated"_s);
+        QVERIFY(desk.open());
+        desk.photos->setSingle(u"place"_s, u"Lima"_s);
+        desk.photos->setSingle(u"country"_s, u"Peru"_s);
+        desk.cards->add();
+        QVERIFY(desk.choose(0, u"Copy from Location"_s));
+        const QString lima = StructureText::of({ { u"City"_s, u"Lima"_s }, { u"CountryName"_s, u"Peru"_s } });
+        QCOMPARE(desk.state.items, QStringList{ lima });
+
+        QVERIFY(desk.choose(0, u"Search Place…"_s));
+        const auto* popover = Desk::opened<PlacePopover>();
+        QVERIFY(popover);
+        QTest::keyClicks(popover->field(), u"Z"_s);
+        QTRY_COMPARE(popover->list()->count(), 1);
+        QTest::keyClick(popover->field(), Qt::Key_Return);
+        const QString zurich = StructureText::of({ { u"LocationName"_s, u"Paradeplatz"_s },
+            { u"Sublocation"_s, u"Paradeplatz"_s }, { u"City"_s, u"Zürich"_s }, { u"ProvinceState"_s, u"Zurich"_s },
+            { u"CountryName"_s, u"Switzerland"_s }, { u"CountryCode"_s, u"CH"_s }, { u"WorldRegion"_s, u"Europe"_s },
+            { u"GPSLatitude"_s, u"47.37"_s }, { u"GPSLongitude"_s, u"8.54"_s } });
+        QCOMPARE(desk.photos->draftLists().value(desk.field.id), QStringList{ zurich });
+
+        QVERIFY(desk.choose(0, u"Copy to Location"_s));
+        const QMap<QString, QString>& values = desk.photos->draftValues();
+        QCOMPARE(values.value(u"place"_s) + values.value(u"country"_s) + values.value(u"iptc.countryCode"_s),
+            u"ZürichSwitzerlandCH"_s);
+        QCOMPARE(values.value(u"coords"_s), u"47.370000, 8.540000"_s);
+    }
+
+    // By keyboard from the menu on.
+    void contactsArePickedAgain()
+    {
+        Desk desk(u"iptc.contact"_s);
+        QVERIFY(desk.open());
+        desk.show();
+        RememberedCards& remembered = desk.photos->rememberedCards();
+        const ImageRecord photo = *desk.photos->primaryRecord();
+        const auto card = [](const QString& city) { return StructureText::of({ { u"CiAdrCity"_s, city } }); };
+        QVERIFY(!desk.choose(0, u"Use Remembered Contact…"_s));
+        for (const QString& city : { u"Zürich"_s, u"Bern"_s }) {
+            remembered.noteSaving({ .scalars = { { desk.field.id, card(city) } }, .subjects = { photo.url } });
+            remembered.noteSaved({ photo }, {}, {});
+        }
+        QTRY_VERIFY(desk.choose(0, u"Use Remembered Contact…"_s));
+        const auto* popover = Desk::opened<RememberedPopover>();
+        QVERIFY(popover);
+        QCOMPARE(popover->rows().size(), 2);
+        QTest::keyClick(popover->rows().constFirst(), Qt::Key_Delete);
+        QCOMPARE(popover->rows().size(), 1);
+        QTest::keyClick(popover->rows().constFirst(), Qt::Key_Space);
+        QCOMPARE(desk.state.items, QStringList{ card(u"Zürich"_s) });
+        QVERIFY(desk.choose(0, u"Forget Remembered Contacts"_s));
+        QVERIFY(remembered.of(desk.field.id).isEmpty());
+        QTRY_VERIFY(!desk.choose(0, u"Use Remembered Contact…"_s));
+    }
+};
+
+QTEST_MAIN(tst_CardActions)
+#include "tst_CardActions.moc"

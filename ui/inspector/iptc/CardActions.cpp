@@ -1,0 +1,169 @@
+#include "ui/inspector/iptc/CardActions.h"
+
+#include "app/model/AppModel.h"
+#include "app/model/iptc/RememberedCards.h"
+#include "core/iptc/LocationCards.h"
+#include "core/schema/FieldID.h"
+#include "core/text/Coordinates.h"
+#include "ui/controls/cards/ItemCard.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/iptc/PlacePopover.h"
+#include "ui/inspector/iptc/RememberedPopover.h"
+#include "ui/inspector/iptc/StructureCard.h"
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qreal popoverWidth = 300;  // points, the least
+
+bool isPlace(const FieldSpec& field)
+{
+    return field.structure == "Location";
+}
+
+void openAt(Popover& popover, const QWidget& card)
+{
+    popover.open(QRect(card.mapToGlobal(QPoint()), QSize(card.width(), px(28))), qMax(card.width(), px(popoverWidth)));
+}
+
+}  // namespace
+
+CardActions::CardActions(AppModel& model, PlaceProvider* places, const FieldSpec& field, StructureCards& cards)
+    : QObject(&cards)
+    , m_model(model)
+    , m_places(places)
+    , m_field(field)
+    , m_cards(cards)
+{
+    if (isPlace(field))
+        offerPlaces();
+    if (!RememberedCards::isAbout(field.id))
+        return;
+    // Later: an action of the menu that is made anew may be what changed them.
+    connect(
+        &model.rememberedCards(), &RememberedCards::changed, this, &CardActions::offerRemembered, Qt::QueuedConnection);
+    offerRemembered();
+}
+
+// --- Places ---
+
+void CardActions::offerPlaces()
+{
+    m_cards.setActions({ { u"Copy from Location"_s, [this](int item) { copyFromLocation(item); } },
+        { u"Copy to Location"_s, [this](int item) { copyToLocation(item); } },
+        { u"Search Place…"_s, [this](int item) { searchPlace(item); } } });
+}
+
+void CardActions::copyFromLocation(int item)
+{
+    const QString place = LocationCards::fromFields([this](const QString& id) { return fieldText(id); });
+    if (!place.isEmpty())
+        setItem(item, LocationCards::moved(items().value(item), place));
+}
+
+void CardActions::copyToLocation(int item)
+{
+    const auto edits =
+        LocationCards::toFields(items().value(item), [this](const QString& id) { return fieldText(id); });
+    for (const LocationFill::Assignment& edit : edits)
+        setField(edit.id, edit.value);
+}
+
+void CardActions::searchPlace(int item)
+{
+    QWidget* card = anchor(item);
+    if (!card)
+        return;
+    auto* popover = new PlacePopover(m_places, card);
+    if (const auto point = Coordinates::parse(fieldText(FieldID::coords)))
+        popover->setBias(GeoPoint{ point->latitude, point->longitude });
+    connect(popover, &PlacePopover::picked, this, [this, item](const LocationFill::Result& place) {
+        setItem(item, LocationCards::moved(items().value(item), LocationCards::fromPlace(place)));
+    });
+    openAt(*popover, *card);
+}
+
+// --- What was saved before ---
+
+void CardActions::offerRemembered()
+{
+    if (m_model.rememberedCards().of(m_field.id).isEmpty())
+        m_cards.setActions({});
+    else
+        m_cards.setActions({ { u"Use Remembered %1…"_s.arg(m_field.isSeveral ? u"Licensor"_s : u"Contact"_s),
+                                 [this](int item) { pickRemembered(item); } },
+            { u"Forget Remembered %1"_s.arg(things()),
+                [this](int) { m_model.rememberedCards().forgetAll(m_field.id); } } });
+}
+
+QString CardActions::things() const
+{
+    return m_field.isSeveral ? u"Licensors"_s : u"Contacts"_s;
+}
+
+void CardActions::pickRemembered(int item)
+{
+    QWidget* card = anchor(item);
+    if (!card)
+        return;
+    auto* popover = new RememberedPopover(u"Remembered %1"_s.arg(things().toLower()), card);
+    RememberedCards& cards = m_model.rememberedCards();
+    showRemembered(*popover);
+    connect(&cards, &RememberedCards::changed, popover, [this, popover] { showRemembered(*popover); });
+    connect(popover, &RememberedPopover::picked, this,
+        [this, item, &cards](int row) { setItem(item, cards.of(m_field.id).value(row).card); });
+    connect(popover, &RememberedPopover::forgotten, this,
+        [this, &cards](int row) { cards.forget(m_field.id, cards.of(m_field.id).value(row).card); });
+    openAt(*popover, *card);
+}
+
+void CardActions::showRemembered(RememberedPopover& popover) const
+{
+    QStringList labels;
+    for (const RememberedCard& card : m_model.rememberedCards().of(m_field.id))
+        labels.append(RememberedCards::label(m_field.id, card));
+    popover.setRows(labels);
+}
+
+// --- The model's fields ---
+
+QString CardActions::fieldText(const QString& id) const
+{
+    if (!m_model.isBatch())
+        return m_model.draftValues().value(id);
+    const auto typed = m_model.batchValues().constFind(id);
+    return typed != m_model.batchValues().cend() && m_model.batchInclude().contains(id)
+        ? *typed
+        : m_model.sharedValue(id).value_or(QString());
+}
+
+void CardActions::setField(const QString& id, const QString& text)
+{
+    if (m_model.isBatch())
+        m_model.setBatch(id, text);
+    else
+        m_model.setSingle(id, text);
+}
+
+void CardActions::setItem(int item, const QString& text)
+{
+    if (!m_field.isSeveral)
+        return setField(m_field.id, text);
+    QStringList all = items();
+    if (item >= 0 && item < all.size())
+        all[item] = text;
+    else
+        all.append(text);
+    m_model.setItems(m_field.id, all);
+}
+
+QWidget* CardActions::anchor(int item) const
+{
+    StructureCard* card = m_cards.list().card(item);
+    return card ? card->widget() : nullptr;
+}
+
+}  // namespace Quorbel
