@@ -314,7 +314,7 @@ def main():
         take_back(program, f"Undo Save of {len(MISSING_PLACE)} photos")
         take_back(program, f"Undo Rename of {FRAMES} Photos")
         wait_for("the old names", lambda: os.path.exists(f"{folder}/IMG_{4000 + FRAMES}.jpg"))
-        take_back(program, f"Undo Save of {FRAMES} photos")  # the shift
+        take_back(program, f"Undo Shift Time of {FRAMES} photos")
         wait_for("the old times", lambda: times(dump(folder)) == times(before), patience=60)
         take_back(program, f"Undo Save of {FRAMES} photos")
         wait_for("all tags and names to be back", lambda: dump(folder) == before, patience=60)
