@@ -440,7 +440,11 @@ FieldRow* InspectorForm::makeRow(const QString& key, FieldRowParts parts)
     row->hide();
     m_pool.insert(key, row);
     m_tabOrderStale = true;
-    connect(row, &FieldRow::tabStopsChanged, this, [this] { m_tabOrderStale = true; });
+    // What opens in a row without a change of the model is put in order once it stands.
+    connect(row, &FieldRow::tabStopsChanged, this, [this] {
+        m_tabOrderStale = true;
+        QMetaObject::invokeMethod(this, &InspectorForm::orderTabStops, Qt::QueuedConnection);
+    });
     return row;
 }
 

@@ -236,6 +236,14 @@ void tst_IptcForm::structuresAreCards()
     };
     QCOMPARE(cards(u"iptc.locationsShown"_s)->list().items(), (QStringList{ place(u"Kyoto"_s), place(u"Nara"_s) }));
     cards(u"iptc.locationsShown"_s)->open(1);
+    f.settle();
+    // Tab goes through what has just been opened.
+    StructureCard* second = cards(u"iptc.locationsShown"_s)->list().card(1);
+    second->widget()->input()->setFocus();
+    const auto isInFields = [second] { return second->fields()->isAncestorOf(QApplication::focusWidget()); };
+    for (int i = 0; i < 2 && !isInFields(); ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QVERIFY(isInFields());
     auto* city = qobject_cast<QBTextField*>(member(u"iptc.locationsShown"_s, u"City"_s, 1));
     city->selectAll();
     type(city, u"Uji"_s);
