@@ -5,11 +5,13 @@
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/attached/MenuRow.h"
 #include "ui/controls/cards/ItemCard.h"
+#include "ui/controls/pickers/CodePopover.h"
 #include "ui/inspector/iptc/CardActions.h"
 #include "ui/inspector/iptc/PlacePopover.h"
 #include "ui/inspector/iptc/RememberedPopover.h"
 #include "ui/inspector/iptc/StructureCard.h"
 
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QListWidget>
 
@@ -86,6 +88,36 @@ class tst_CardActions : public QObject {
     Q_OBJECT
 
 private slots:
+    void termsOfVocabularies()
+    {
+        Desk genres(u"iptc.genreTerms"_s);
+        QVERIFY(genres.open());
+        genres.cards->add();
+        QVERIFY(genres.choose(0, u"Choose Genre…"_s));
+        const auto* popover = Desk::opened<CodePopover>();
+        QVERIFY(popover);
+        QTest::keyClicks(popover->field(), u"profile"_s);
+        QTest::keyClick(popover->field(), Qt::Key_Return);
+        const QJsonObject term = StructureText::members(genres.state.items.value(0));
+        QVERIFY2(term.value(u"CvTermName"_s).toString().contains(u"rofile"), qPrintable(genres.state.items.join(u' ')));
+        QCOMPARE(term.value(u"CvId"_s).toString(), u"http://cv.iptc.org/newscodes/genre/"_s);
+        QVERIFY(term.value(u"CvTermId"_s).toString().startsWith(u"http://cv.iptc.org/newscodes/genre/"));
+
+        Desk regions(u"iptc.regions"_s);
+        QVERIFY(regions.open());
+        const QString named = StructureText::of({ { u"Name"_s, u"Left"_s } });
+        regions.photos->setItems(u"iptc.regions"_s, { named });
+        regions.cards->open(0);
+        QVERIFY(regions.choose(0, u"Choose Role…"_s));
+        popover = Desk::opened<CodePopover>();
+        QVERIFY(popover);
+        QTest::keyClicks(popover->field(), u"square"_s);
+        QTest::keyClick(popover->field(), Qt::Key_Return);
+        const QJsonObject region =
+            StructureText::members(regions.photos->draftLists().value(u"iptc.regions"_s).value(0));
+        QCOMPARE(region.value(u"Name"_s).toString(), u"Left"_s);
+        QCOMPARE(region.value(u"RRole"_s).toArray().size(), 1);
+    }
     void placesAndLocation()
     {
         Desk desk(u"iptc.locationCreated"_s);

@@ -3,13 +3,17 @@
 #include "app/model/AppModel.h"
 #include "app/model/iptc/RememberedCards.h"
 #include "core/iptc/LocationCards.h"
+#include "core/iptc/TermCards.h"
+#include "core/iptc/Vocabularies.h"
 #include "core/schema/FieldID.h"
 #include "core/text/Coordinates.h"
 #include "ui/controls/cards/ItemCard.h"
+#include "ui/controls/pickers/CodePopover.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/iptc/PlacePopover.h"
 #include "ui/inspector/iptc/RememberedPopover.h"
 #include "ui/inspector/iptc/StructureCard.h"
+#include "ui/inspector/iptc/VocabularySource.h"
 
 namespace Quorbel {
 
@@ -40,6 +44,7 @@ CardActions::CardActions(AppModel& model, PlaceProvider* places, const FieldSpec
 {
     if (isPlace(field))
         offerPlaces();
+    offerTerms();
     if (!RememberedCards::isAbout(field.id))
         return;
     // Later: an action of the menu that is made anew may be what changed them.
@@ -82,6 +87,31 @@ void CardActions::searchPlace(int item)
         popover->setBias(GeoPoint{ point->latitude, point->longitude });
     connect(popover, &PlacePopover::picked, this, [this, item](const LocationFill::Result& place) {
         setItem(item, LocationCards::moved(items().value(item), LocationCards::fromPlace(place)));
+    });
+    openAt(*popover, *card);
+}
+
+// --- Vocabularies ---
+
+void CardActions::offerTerms()
+{
+    QList<StructureAction> actions;
+    for (const TermOffer& offer : TermCards::offers(m_field.id))
+        actions.append({ offer.action, [this, offer](int item) { chooseTerm(offer, item); } });
+    if (!actions.isEmpty())
+        m_cards.setActions(actions);
+}
+
+void CardActions::chooseTerm(const TermOffer& offer, int item)
+{
+    QWidget* card = anchor(item);
+    if (!card)
+        return;
+    CodeSource source = vocabularySource(offer.vocabulary);
+    source.footer.clear();
+    auto* popover = new CodePopover(Vocabularies::find(offer.vocabulary)->title, source, {}, false, card);
+    connect(popover, &CodePopover::picked, this, [this, offer, item](const QString& code) {
+        setItem(item, TermCards::withTerm(offer, items().value(item), code));
     });
     openAt(*popover, *card);
 }

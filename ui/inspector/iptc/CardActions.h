@@ -1,5 +1,6 @@
 // What the menus of some cards offer beside their own: a place is filled from the Location fields, or fills them, or is
-// looked up; a contact or a licensor that was saved before is picked again.
+// looked up; a contact or a licensor that was saved before is picked again; a genre, a topic, a region's kind is chosen
+// from its vocabulary.
 // Thread: the main thread. What comes of it are unsaved edits of the model.
 #pragma once
 
@@ -13,6 +14,7 @@ namespace Quorbel {
 class AppModel;
 class PlaceProvider;
 class RememberedPopover;
+struct TermOffer;
 
 class CardActions final : public QObject {
     Q_OBJECT
@@ -25,6 +27,8 @@ public:
 private:
     void offerPlaces();
     void offerRemembered();
+    void offerTerms();
+    void chooseTerm(const TermOffer& offer, int item);
     QString things() const;
     void copyFromLocation(int item);
     void copyToLocation(int item);
