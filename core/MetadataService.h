@@ -8,6 +8,7 @@
 #include "core/save/journal/SaveUndo.h"
 #include "core/schema/ImageRecord.h"
 #include "core/schema/PhotoDetails.h"
+#include "core/sidecar/SidecarPolicy.h"
 #include "core/tool/PhotoRead.h"
 
 #include <optional>
@@ -16,6 +17,7 @@ namespace Quorbel {
 
 struct MetadataService {
     ExifToolRunner runner{};
+    SidecarPolicy sidecars{};  ///< read over the photos that it names, and written instead of them
 
     /// A service around the located tool; nothing when there is none.
     static std::optional<MetadataService> locate();

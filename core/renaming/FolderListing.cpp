@@ -1,5 +1,7 @@
 #include "core/renaming/FolderListing.h"
 
+#include "core/schema/ImageTypes.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
@@ -21,15 +23,9 @@ QString extensionOf(const QString& name)
     return name.sliced(CompanionNames::baseOf(name).size()).toLower();
 }
 
-bool isRaw(const QString& extension)
+bool isRaw(const QString& name)
 {
-    static const QSet<QString> raw = [] {
-        const QStringList list =
-            u".dng .cr2 .cr3 .crw .nef .nrw .arw .arq .sr2 .raf .orf .ori .rw2 .raw .rwl .pef .srw "
-            ".erf .fff .iiq .mef .mos .mrw .gpr .x3f"_s.split(u' ');
-        return QSet<QString>(list.cbegin(), list.cend());
-    }();
-    return raw.contains(extension);
+    return ImageTypes::isRaw(name) || ImageTypes::isDng(name);
 }
 
 // What cameras write beside a raw file.
@@ -90,14 +86,14 @@ QStringList CompanionNames::of(const QString& photo) const
 QStringList CompanionNames::shotWith(const QString& photo) const
 {
     const QString own = extensionOf(photo);
-    if (!isRaw(own) && !isFinished(own))
+    if (!isRaw(photo) && !isFinished(own))
         return {};
     QStringList shot;
-    bool isAnyRaw = isRaw(own);
+    bool isAnyRaw = isRaw(photo);
     for (const QString& name : m_byBase.value(baseOf(photo))) {
         const QString extension = extensionOf(name);
-        isAnyRaw = isAnyRaw || isRaw(extension);
-        if (name != photo && (isRaw(extension) || isFinished(extension)))
+        isAnyRaw = isAnyRaw || isRaw(name);
+        if (name != photo && (isRaw(name) || isFinished(extension)))
             shot.append(name);
     }
     return isAnyRaw ? shot : QStringList();

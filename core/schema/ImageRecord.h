@@ -43,6 +43,9 @@ struct ImageRecord {
     QList<CameraRow> camera{};
     std::optional<QDateTime> creationDate{};  ///< the file system's
     std::optional<QDateTime> contentModificationDate{};  ///< the file system's, to the millisecond
+    /// Name of the sidecar whose values stand over the file's; "" where there is none, or none was asked for.
+    QString sidecarName{};
+    std::optional<QDateTime> sidecarModificationDate{};  ///< the file system's, to the millisecond
 
     const QUrl& id() const { return url; }
     /// "JPEG · 4000×3000 · 2.4 MB"; parts that are unknown are left out.

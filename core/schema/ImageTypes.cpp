@@ -18,6 +18,17 @@ const QSet<QString>& extensions()
     return known;
 }
 
+namespace {
+
+// "" where there is none. A leading dot hides a file; it begins no extension.
+QString extensionOf(const QString& fileName)
+{
+    const qsizetype dot = fileName.lastIndexOf(u'.');
+    return dot > 0 ? fileName.sliced(dot + 1).toLower() : QString();
+}
+
+}  // namespace
+
 bool isImage(const QUrl& url)
 {
     return isImageName(url.fileName());
@@ -25,9 +36,22 @@ bool isImage(const QUrl& url)
 
 bool isImageName(const QString& fileName)
 {
-    const qsizetype dot = fileName.lastIndexOf(u'.');
-    // A leading dot hides a file; it begins no extension.
-    return dot > 0 && extensions().contains(fileName.sliced(dot + 1).toLower());
+    return extensions().contains(extensionOf(fileName));
+}
+
+bool isRaw(const QString& fileName)
+{
+    static const QSet<QString> raw = [] {
+        const QStringList list = u"cr2 cr3 crw nef nrw arw arq sr2 raf orf ori rw2 raw rwl pef srw erf fff iiq mef mos "
+                                 "mrw gpr x3f"_s.split(u' ');
+        return QSet<QString>(list.cbegin(), list.cend());
+    }();
+    return raw.contains(extensionOf(fileName));
+}
+
+bool isDng(const QString& fileName)
+{
+    return extensionOf(fileName) == u"dng";
 }
 
 }  // namespace Quorbel::ImageTypes

@@ -13,5 +13,8 @@ const QSet<QString>& extensions();
 bool isImage(const QUrl& url);
 /// The same for the name alone.
 bool isImageName(const QString& fileName);
+/// Whether the name is that of a camera's raw file; DNG is not meant.
+bool isRaw(const QString& fileName);
+bool isDng(const QString& fileName);
 
 }  // namespace Quorbel::ImageTypes

@@ -1,0 +1,94 @@
+#include "core/sidecar/SidecarPolicy.h"
+
+#include "core/schema/ImageTypes.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+
+#include <unistd.h>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The photo's path as far as "photo.xmp" has the same.
+QString baseOf(const QString& photo)
+{
+    const qsizetype nameAt = photo.lastIndexOf(u'/') + 1;
+    const qsizetype dot = photo.lastIndexOf(u'.');
+    return dot > nameAt ? photo.left(dot) : photo;
+}
+
+// A link that leads nowhere is none.
+bool isThere(const QString& path)
+{
+    return access(QFile::encodeName(path).constData(), F_OK) == 0;
+}
+
+bool sharesBase(const SidecarPolicy& policy, const QString& photo)
+{
+    const QString base = baseOf(photo);
+    QDirIterator entries(QFileInfo(photo).path(), QDir::Files | QDir::Hidden);
+    while (entries.hasNext()) {
+        const QString other = entries.next();
+        if (other != photo && baseOf(other) == base && policy.isBeside(QUrl::fromLocalFile(other)))
+            return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+const QList<std::pair<SidecarNaming, QString>>& RawValues<SidecarNaming>::table()
+{
+    static const QList<std::pair<SidecarNaming, QString>> table{
+        { SidecarNaming::base, u"base"_s },
+        { SidecarNaming::full, u"full"_s },
+    };
+    return table;
+}
+
+bool SidecarPolicy::isBeside(const QUrl& photo) const
+{
+    if (!isInUse())
+        return false;
+    const QString name = photo.fileName();
+    return ImageTypes::isDng(name) ? isDngBeside : isRawBeside && ImageTypes::isRaw(name);
+}
+
+QString SidecarPolicy::existing(const QUrl& photo) const
+{
+    if (!isBeside(photo))
+        return {};
+    const QString path = photo.toLocalFile();
+    for (const QString& stem : { path, baseOf(path) })
+        for (const QString& suffix : { u".xmp"_s, u".XMP"_s })
+            if (isThere(stem + suffix))
+                return stem + suffix;
+    return {};
+}
+
+QString SidecarPolicy::path(const QUrl& photo) const
+{
+    if (const QString found = existing(photo); !found.isEmpty())
+        return found;
+    const QString file = photo.toLocalFile();
+    const bool isFull = naming == SidecarNaming::full || sharesBase(*this, file);
+    return (isFull ? file : baseOf(file)) + u".xmp"_s;
+}
+
+QList<QUrl> SidecarPolicy::filesToWrite(const QList<QUrl>& photos) const
+{
+    if (!isInUse())
+        return photos;
+    QList<QUrl> files;
+    files.reserve(photos.size());
+    for (const QUrl& photo : photos)
+        files.append(isBeside(photo) ? QUrl::fromLocalFile(path(photo)) : photo);
+    return files;
+}
+
+}  // namespace Quorbel
