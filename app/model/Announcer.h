@@ -21,6 +21,7 @@ enum class Change {
     folder,
     watching,
     opened,
+    sidecarPolicy,
     search,
     sortOrder,
     selection,

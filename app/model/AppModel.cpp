@@ -60,6 +60,7 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
     requireMainThread("AppModel");
     m_library.refresh().setLooks({ m_services.fileSystemOf, m_services.lookInterval });
     m_library.details().setAsking(detailsFrom(m_services), m_services.detailsDelay);
+    followSidecarSettings();
     connectParts();
     makeTools();
     if (!m_services.service)
@@ -123,6 +124,25 @@ void AppModel::connectParts()
         goOnAgreeing();
     });
     connect(&m_saving, &Saving::ended, this, &AppModel::lookAhead);
+    connect(&m_preferences, &Preferences::changed, this, &AppModel::followSidecarSettings);
+    connect(&m_saving, &Saving::ended, this, &AppModel::followSidecarSettings);
+}
+
+// What is read, shown and written is of one policy. A save that runs goes first: it reads again what it wrote.
+void AppModel::followSidecarSettings()
+{
+    const SidecarPolicy wanted{ m_preferences.rawBeside(), m_preferences.dngBeside(), m_preferences.sidecarNaming() };
+    if (m_saving.isSaving() || m_sidecarPolicy == wanted)
+        return;
+    const Announcer::Together together(m_announcer);
+    m_announcer.assign(m_sidecarPolicy, wanted, Change::sidecarPolicy);
+    if (!m_services.service)
+        return;
+    m_services.service->sidecars = wanted;
+    m_saving.setSidecars(wanted);
+    m_library.details().setAsking(detailsFrom(m_services), m_services.detailsDelay);
+    m_library.setSidecars(wanted);
+    lookAhead();
 }
 
 void AppModel::tell(Change change)
@@ -135,6 +155,7 @@ void AppModel::tell(Change change)
         { Change::folder, &AppModel::folderChanged },
         { Change::watching, &AppModel::watchingChanged },
         { Change::opened, &AppModel::photosOpened },
+        { Change::sidecarPolicy, &AppModel::sidecarPolicyChanged },
         { Change::search, &AppModel::searchChanged },
         { Change::sortOrder, &AppModel::sortOrderChanged },
         { Change::selection, &AppModel::selectionChanged },

@@ -28,6 +28,7 @@ class Filtering;
 class PhotosRenaming;
 class QuickKeywords;
 class RememberedCards;
+class SelectedSidecars;
 class Templates;
 class TimeShifting;
 
@@ -91,6 +92,8 @@ public:
     /// Whether a selection, a load, a close or the end of the program waits for an answer or for a save.
     bool isHoldingBack() const { return m_waiting || library().hasArrived(); }
     void openFile(const QUrl& url);
+    /// Which photos keep their edits beside them: as the settings say, but for a save that runs: it ends as it began.
+    const SidecarPolicy& sidecarPolicy() const { return m_sidecarPolicy; }
     QList<QUrl> recentURLs() const;
     void openRecent(const QUrl& url);
     void clearRecents();
@@ -239,6 +242,7 @@ public:
     TimeShifting& timeShifting();
     Filtering& filtering();
     FieldSets& fieldSets();
+    SelectedSidecars& selectedSidecars();
 
     // --- What photos hold beside their records ---
     /// Null before it was looked at. Valid until the details change.
@@ -302,8 +306,8 @@ public:
     void confirmSaveDialog();
     void discardSaveDialog();
     void cancelSaveDialog();
-    /// How many of the photos that a save would write into now, or that the dialog asks about, are known to have Content
-    /// Credentials.
+    /// How many of the photos that a save would write into now, or that the dialog asks about, are known to have
+    /// Content Credentials.
     int credentialsAtStake() const;
     /// "Save without EXIF", while the message tells of selected photos that refused their edits for that alone; ""
     /// else.
@@ -362,6 +366,8 @@ signals:
     void watchingChanged();
     /// Photos were opened: other ones, or the same ones read again.
     void photosOpened();
+    /// The photos that it concerns are read again after that.
+    void sidecarPolicyChanged();
     void searchChanged();
     void sortOrderChanged();
     void selectionChanged();
@@ -410,6 +416,7 @@ private:
     void connectParts();
     void connectDetails();
     void makeTools();
+    void followSidecarSettings();
     // What other programs do to the photos
     void takeVanished(const QList<int>& positions);
     void selectWhereNone();
@@ -458,6 +465,7 @@ private:
     Announcer m_announcer;
     Preferences m_preferences;
     RunningTasks m_tasks;
+    SidecarPolicy m_sidecarPolicy;
     std::shared_ptr<RecordCache> m_cache;
     Library m_library;
     SelectedPhotos m_selected;

@@ -33,6 +33,7 @@ void AppModel::makeTools()
     m_tools->quickKeywords = std::make_unique<QuickKeywords>(*this);
     m_tools->rememberedCards = std::make_unique<RememberedCards>(*this);
     m_tools->credentials = std::make_unique<CredentialsNotice>(*this);
+    m_tools->sidecars = std::make_unique<SelectedSidecars>(*this);
     m_tools->renaming = std::make_unique<PhotosRenaming>(*this,
         PhotosRenaming::Parts{ m_announcer, m_tasks, m_library, m_editing, m_saving, m_cache,
             m_services.journalPath.isEmpty() ? QString() : m_services.journalPath + u"/renames"_s,
@@ -96,6 +97,11 @@ TimeShifting& AppModel::timeShifting()
 Filtering& AppModel::filtering()
 {
     return *checked(*m_tools).filtering;
+}
+
+SelectedSidecars& AppModel::selectedSidecars()
+{
+    return *checked(*m_tools).sidecars;
 }
 
 FieldSets& AppModel::fieldSets()

@@ -7,6 +7,7 @@
 #include "app/model/iptc/RememberedCards.h"
 #include "app/model/library/filter/Filtering.h"
 #include "app/model/renaming/PhotosRenaming.h"
+#include "app/model/selection/SelectedSidecars.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/CodeReplacements.h"
@@ -28,6 +29,7 @@ struct AppModelTools {
     std::unique_ptr<FieldSets> fieldSets{};  ///< leads the one before
     std::unique_ptr<RememberedCards> rememberedCards{};
     std::unique_ptr<CredentialsNotice> credentials{};
+    std::unique_ptr<SelectedSidecars> sidecars{};
 };
 
 }  // namespace Quorbel

@@ -49,6 +49,13 @@ void read(const QVariant& stored, RecordSortOrder& order)
     order = fromRawValue<RecordSortOrder>(text).value_or(order);
 }
 
+void read(const QVariant& stored, SidecarNaming& naming)
+{
+    QString text;
+    read(stored, text);
+    naming = fromRawValue<SidecarNaming>(text).value_or(naming);
+}
+
 void read(const QVariant& stored, std::optional<ColorScheme>& scheme)
 {
     QString text;
@@ -68,6 +75,11 @@ QVariant stored(const T& value)
 QVariant stored(RecordSortOrder order)
 {
     return rawValue(order);
+}
+
+QVariant stored(SidecarNaming naming)
+{
+    return rawValue(naming);
 }
 
 // Invalid where there is nothing to store.
@@ -115,6 +127,7 @@ template class Setting<int>;
 template class Setting<QString>;
 template class Setting<QStringList>;
 template class Setting<RecordSortOrder>;
+template class Setting<SidecarNaming>;
 template class Setting<std::optional<ColorScheme>>;
 
 Preferences::Preferences(std::shared_ptr<QSettings> store)

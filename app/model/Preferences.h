@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/schema/RecordSortOrder.h"
+#include "core/sidecar/SidecarPolicy.h"
 
 #include <QObject>
 #include <QSettings>
@@ -50,6 +51,10 @@ public:
     Setting<bool> showNamespace{ *this, "showNamespace", false };
     Setting<bool> backupOriginals{ *this, "backupOriginals", true };
     Setting<bool> writeSidecar{ *this, "writeSidecar", false };
+    /// Where edits of raw photos go, and those of DNG: into the file, or beside it.
+    Setting<bool> rawBeside{ *this, "rawBeside", false };
+    Setting<bool> dngBeside{ *this, "dngBeside", false };
+    Setting<SidecarNaming> sidecarNaming{ *this, "sidecarNaming", SidecarNaming::base };
     Setting<bool> confirmMassEdit{ *this, "confirmMassEdit", true };
     Setting<bool> saveDontAsk{ *this, "saveDontAsk", false };
     /// Address of an online place service that the user turned on; empty: places are looked up on this machine alone.

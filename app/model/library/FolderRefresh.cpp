@@ -44,6 +44,20 @@ void FolderRefresh::setLooks(const Looks& looks)
     m_times.setInterval(looks.interval);
 }
 
+void FolderRefresh::setSidecars(const SidecarPolicy& policy)
+{
+    if (!m_service || m_service->sidecars == policy)
+        return;
+    m_sidecarChanges.emplace_back(++m_writes, SidecarChange{ m_service->sidecars, policy });
+    m_service->sidecars = policy;
+}
+
+bool FolderRefresh::isReadOtherwise(const QUrl& photo, int since) const
+{
+    return std::any_of(m_sidecarChanges.cbegin(), m_sidecarChanges.cend(),
+        [&](const auto& change) { return change.first > since && change.second.concerns(photo); });
+}
+
 void FolderRefresh::begin(const QList<QUrl>& folders, bool withSubfolders)
 {
     ++m_generation;

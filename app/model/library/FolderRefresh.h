@@ -9,6 +9,7 @@
 #include "app/model/library/LookTimes.h"
 #include "app/model/library/PhotoList.h"
 #include "app/model/library/PhotoReader.h"
+#include "app/model/library/SidecarChange.h"
 #include "core/MetadataService.h"
 
 #include <QElapsedTimer>
@@ -32,6 +33,9 @@ public:
         std::chrono::milliseconds interval{ 3000 };  ///< between looks where the system does not tell of changes
     };
     void setLooks(const Looks& looks);
+
+    /// From now on photos are read so. What other reads have begun with counts as written since.
+    void setSidecars(const SidecarPolicy& policy);
 
     /// Something else is open now, listed to its end: what was on its way for the old photos is dropped. The folders
     /// are looked at soon, and watched from then on, with subfolders also those that come; none: nothing is.
@@ -57,13 +61,13 @@ public:
     /// These names changed.
     void endRenaming(const NewNames& names);
     bool isBeingWritten(const QUrl& photo) const { return m_isRenaming || m_beingWritten.contains(photo); }
-    /// Counts beginnings and ends of writes.
+    /// Counts beginnings and ends of writes, and changes of what is read.
     int writes() const { return m_writes; }
     /// Whether a write of ours to this photo has begun or ended since writes() was this: what was read meanwhile may be
     /// older than what is in the file.
     bool wasWritten(const QUrl& photo, int since) const
     {
-        return isBeingWritten(photo) || m_lastWrites.value(photo) > since;
+        return isBeingWritten(photo) || m_lastWrites.value(photo) > since || isReadOtherwise(photo, since);
     }
 
 signals:
@@ -93,6 +97,7 @@ private:
     void takeChanged(const QList<ImageRecord>& fresh);
     void takeAdded(const QList<ImageRecord>& fresh);
     void endStep();
+    bool isReadOtherwise(const QUrl& photo, int since) const;
 
     Announcer& m_announcer;
     RunningTasks& m_tasks;
@@ -112,6 +117,7 @@ private:
     QSet<QUrl> m_beingWritten;
     int m_generation = 0;  ///< counts what was opened; results for an earlier one are dropped
     int m_writes = 0;  ///< counts beginnings and ends of writes
+    std::vector<std::pair<int, SidecarChange>> m_sidecarChanges;  ///< with what m_writes was then
     QHash<QUrl, int> m_lastWrites;  ///< by photo, what m_writes was at the end of the last one
     bool m_isRefreshing = false;
     bool m_again = false;

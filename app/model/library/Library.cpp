@@ -41,6 +41,7 @@ struct Library::Load {
     std::unique_ptr<PhotoReading> reading{};
     QList<ImageRecord> early{};  // read before it is shown
     QList<QUrl> unreadable{};  // the same, of those that cannot be read
+    SidecarPolicy sidecars{};  // by which it knows what was read before
     int writes = 0;  // of ours that had begun or ended when it was read
     bool hasArrived = false;
 
@@ -52,10 +53,11 @@ struct Library::Load {
     }
     Q_DISABLE_COPY_MOVE(Load)
 
-    static std::shared_ptr<Load> of(
-        PhotoListing listing, RecordCache* cache, RecordSortOrder order, const std::stop_token& stop)
+    static std::shared_ptr<Load> of(PhotoListing listing, RecordCache* cache, const SidecarPolicy& sidecars,
+        RecordSortOrder order, const std::stop_token& stop)
     {
         auto load = std::make_shared<Load>();
+        load->sidecars = sidecars;
         load->listing = std::move(listing);
         const QList<PhotoFile>& files = load->listing.files;
         const QHash<QUrl, ImageRecord> known = cache ? cache->find(files, stop) : QHash<QUrl, ImageRecord>();
@@ -118,8 +120,8 @@ void Library::load(const QList<QUrl>& given, bool withSubfolders)
         return walk(given);
     runInBackground(
         this,
-        [given, cache = m_cache, order = m_photos.order(), stop] {
-            return Load::of(PhotoListing::of(given), cache.get(), order, stop);
+        [given, cache = m_cache, sidecars = sidecars(), order = m_photos.order(), stop] {
+            return Load::of(PhotoListing::of(given), cache.get(), sidecars, order, stop);
         },
         [this, serial = ++m_loads](const std::shared_ptr<Load>& load) {
             if (serial == m_loads)
@@ -143,9 +145,10 @@ void Library::walk(const QList<QUrl>& given)
     m_walk = std::make_unique<Walk>();
     m_walk->given = given;
     m_walk->pieces = std::make_unique<Pieces>(
-        [given, cache = m_cache, order = m_photos.order(), stop = m_walk->stop.get_token()](const Pieces::Give& give) {
-            PhotoListing::withSubfolders(
-                given, stop, [&](PhotoListing piece) { give(Load::of(std::move(piece), cache.get(), order, stop)); });
+        [given, cache = m_cache, sidecars = sidecars(), order = m_photos.order(), stop = m_walk->stop.get_token()](
+            const Pieces::Give& give) {
+            PhotoListing::withSubfolders(given, stop,
+                [&](PhotoListing piece) { give(Load::of(std::move(piece), cache.get(), sidecars, order, stop)); });
         },
         [this](const std::shared_ptr<Load>& piece) { takePiece(piece); }, [this] { endWalk(); });
 }
@@ -166,7 +169,7 @@ void Library::takePiece(const std::shared_ptr<Load>& piece)
     }
     QList<ImageRecord> records = piece->records + piece->photos.records;
     records.removeIf([this](const ImageRecord& photo) { return m_photos.contains(photo.url); });
-    const QList<QUrl> unread = unreadOf(records);
+    const QList<QUrl> unread = unreadOf(records) + readOtherwise(records, piece->sidecars);
     m_reading->addLeftOut(piece->listing.leftOut);
     if (m_photos.append(records))
         emit added();
@@ -336,7 +339,7 @@ void Library::show(const std::shared_ptr<Load>& load)
         if (m_refresh.wasWritten(photo.url, load->writes))
             again.append(photo.url);
     load->early.removeIf([&again](const ImageRecord& photo) { return again.contains(photo.url); });
-    m_reading->addAgain(again);
+    m_reading->addAgain(again + readOtherwise(m_photos.records(), load->sidecars));
     emit opened();
     takeRead(load->early, load->unreadable);
     m_reading->setPace(PhotoReading::Pace::all);
@@ -374,6 +377,40 @@ void Library::close()
 }
 
 // --- Reading what is open ---
+
+SidecarPolicy Library::sidecars() const
+{
+    return m_service ? m_service->sidecars : SidecarPolicy();
+}
+
+// Of what was read before, or known from the cache.
+QList<QUrl> Library::readOtherwise(const QList<ImageRecord>& photos, const SidecarPolicy& before) const
+{
+    QList<QUrl> concerned;
+    if (const SidecarChange change{ before, sidecars() }; change.from != change.to)
+        for (const ImageRecord& photo : photos)
+            if (!photo.isUnread && change.concerns(photo.url))
+                concerned.append(photo.url);
+    return concerned;
+}
+
+void Library::setSidecars(const SidecarPolicy& policy)
+{
+    if (!m_service || m_service->sidecars == policy)
+        return;
+    const Announcer::Together together(m_announcer);
+    const SidecarPolicy before = std::exchange(m_service->sidecars, policy);
+    m_refresh.setSidecars(policy);
+    if (m_next)
+        m_next->reading->setSidecars(policy);
+    if (!m_reading)
+        return;
+    m_reading->setSidecars(policy);
+    const QList<QUrl> again = readOtherwise(m_photos.records(), before);
+    m_reading->addAgain(again);
+    // Also where the user wanted no further ones to be read.
+    m_reading->require(again);
+}
 
 std::unique_ptr<PhotoReading> Library::newReading()
 {

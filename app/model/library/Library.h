@@ -34,6 +34,9 @@ public:
     /// The one folder that is open and watched; nothing where files or several folders are.
     const std::optional<QUrl>& folderURL() const { return m_folderURL; }
 
+    /// From now on photos are read so; such as are read otherwise for it are read again, under the edits of the user.
+    void setSidecars(const SidecarPolicy& policy);
+
     /// Lists the folders among these. Where nothing is open, all photos are in the list at once, unread. What is open
     /// stays until a photo of the new ones was read, and somebody calls open(). An earlier load is given up.
     /// `withSubfolders`: the folders are walked through; the list begins with the first photos found, and the others
@@ -101,6 +104,8 @@ private:
     void takeFailed(const QString& reason);
     std::unique_ptr<PhotoReading> newReading();
     void follow(std::unique_ptr<PhotoReading> reading);
+    SidecarPolicy sidecars() const;
+    QList<QUrl> readOtherwise(const QList<ImageRecord>& photos, const SidecarPolicy& before) const;
     void endListing();
     void endListingTask();
     void forgetNext();

@@ -119,6 +119,14 @@ Saving::~Saving()
     dropLook();
 }
 
+// What was looked at may not be what is going to be written.
+void Saving::setSidecars(const SidecarPolicy& policy)
+{
+    if (m_service)
+        m_service->sidecars = policy;
+    dropLook();
+}
+
 void Saving::dropLook()
 {
     if (const auto look = std::exchange(m_look, nullptr))

@@ -45,6 +45,8 @@ public:
         const QString& journalPath, std::chrono::milliseconds patience, std::shared_ptr<RecordCache> cache = {});
     ~Saving() override;
 
+    /// Which photos keep their edits beside them, from now on. Needs that nothing is being saved.
+    void setSidecars(const SidecarPolicy& policy);
     /// False without the tool.
     bool isPossible() const { return m_service.has_value(); }
     bool isSaving() const { return m_isSaving; }

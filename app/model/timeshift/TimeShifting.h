@@ -25,7 +25,7 @@ public:
         std::function<void(std::function<void()> action)> holdBack{};  ///< until edits are saved or left
         std::function<void(const QList<QUrl>& photos)> require{};  ///< these are to be read next
         std::function<void(const ShiftJob::Order& order, const ShiftJob::Looked& looked)> shift{};
-        std::optional<MetadataService> service{};
+        const std::optional<MetadataService>& service;  ///< as it is by now; absent: the tool was not found
         RunningTasks& tasks;
         Announcer& announcer;
     };

@@ -55,7 +55,11 @@ void tst_AppModelPreferences::roundTrip()
     f->preferences().renamePattern.set(u"a, b; %Title% = \"ü\""_s);
     f->setSortOrder(RecordSortOrder::dateOldest);
     f->preferences().colorOverride.set(ColorScheme::dark);
+    f->preferences().rawBeside.set(true);
+    f->preferences().dngBeside.set(true);
+    f->preferences().sidecarNaming.set(SidecarNaming::full);
     f.relaunch();
+    QCOMPARE(f->sidecarPolicy(), (SidecarPolicy{ true, true, SidecarNaming::full }));
     QVERIFY(f->preferences().showNamespace() && !f->preferences().backupOriginals() && f->preferences().writeSidecar());
     QVERIFY(
         !f->preferences().confirmMassEdit() && f->preferences().saveDontAsk() && !f->preferences().stripSpecialChars());
@@ -84,7 +88,8 @@ void tst_AppModelPreferences::wrongTypes()
     QFETCH(QVariant, value);
     ModelFixture f;
     for (const QString& key : { u"showNamespace"_s, u"backupOriginals"_s, u"writeSidecar"_s, u"confirmMassEdit"_s,
-             u"saveDontAsk"_s, u"stripSpecialChars"_s, u"sortOrder"_s, u"appearance"_s, u"recentItems"_s })
+             u"saveDontAsk"_s, u"stripSpecialChars"_s, u"sortOrder"_s, u"appearance"_s, u"rawBeside"_s, u"dngBeside"_s,
+             u"sidecarNaming"_s, u"recentItems"_s })
         f.services.preferences->setValue(key, value);
     if (value.typeId() != QMetaType::QString)
         f.services.preferences->setValue(u"renamePattern"_s, value);
@@ -100,6 +105,7 @@ void tst_AppModelPreferences::wrongTypes()
             && f->preferences().stripSpecialChars());
         QCOMPARE(f->preferences().renamePattern(), u"%Date%_%Title%"_s);
         QCOMPARE(f->sortOrder(), RecordSortOrder::nameAsc);
+        QCOMPARE(f->sidecarPolicy(), SidecarPolicy());
         QCOMPARE(f->preferences().colorOverride(), std::nullopt);
         QVERIFY(f->preferences().recentPaths().isEmpty());
     }

@@ -31,6 +31,8 @@ public:
         const FolderRefresh& writes);
     ~PhotoReading() override;
 
+    /// What is read from now on is read so.
+    void setSidecars(const SidecarPolicy& policy) { m_service.sidecars = policy; }
     /// What is to be read of so many photos, made in the background: a hundred thousand take their time. Needs that
     /// nothing was added yet.
     void begin(ReadQueue queue, qsizetype photos);
