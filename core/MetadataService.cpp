@@ -10,6 +10,7 @@
 #include "core/save/journal/JournalTags.h"
 #include "core/save/together/PhotoPlans.h"
 #include "core/schema/CustomFields.h"
+#include "core/sidecar/SidecarRead.h"
 #include "core/tool/IptcEncoding.h"
 #include "core/tool/MetadataWriter.h"
 
@@ -25,12 +26,23 @@ std::optional<MetadataService> MetadataService::locate()
 
 QList<ImageRecord> MetadataService::read(const QList<QUrl>& urls, const ReadControl& control) const
 {
-    return PhotoRead::all(runner, urls, control);
+    QList<ImageRecord> records = PhotoRead::all(runner, urls, control);
+    SidecarRead::overlay(runner, sidecars, records, control);
+    return records;
 }
 
 PhotoRead::Outcome MetadataService::readEach(const QList<QUrl>& urls, const ReadControl& control) const
 {
-    return PhotoRead::each(runner, urls, control);
+    PhotoRead::Outcome outcome = PhotoRead::each(runner, urls, control);
+    outcome.sidecars = SidecarRead::overlay(runner, sidecars, outcome.records, control);
+    return outcome;
+}
+
+// The sidecar of a photo that shares its base name with one whose edits go beside it is that one's.
+QList<QUrl> MetadataService::withOwnMirror(QList<QUrl> photos) const
+{
+    photos.removeIf([this](const QUrl& photo) { return sidecars.isInUse() && sidecars.sharesBase(photo); });
+    return photos;
 }
 
 QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options,
@@ -43,9 +55,9 @@ QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets,
     const QStringList customNames = CustomFields::names(plan.customs);
     const QString output =
         SafeWriter::write(runner, command, targets, options.backupOriginals, customNames, preparations, notes);
-    if (!options.writeSidecar)
+    if (!options.writeSidecar || plan.sidecar)
         return output;
-    const auto failures = Companions::writeSidecars(runner, command, targets, customNames);
+    const auto failures = Companions::writeSidecars(runner, command, withOwnMirror(targets), customNames);
     if (notes)
         notes->sidecars += failures;
     return output;
@@ -56,6 +68,7 @@ PortionsOutcome MetadataService::writeEach(
 {
     QList<SafeWriter::Portion> commands;
     QList<qsizetype> positions;
+    QSet<qsizetype> besides;  // positions of commands for sidecars
     PortionsOutcome outcome;
     for (qsizetype i = 0; i < portions.size(); ++i) {
         const SavePortion& portion = portions.at(i);
@@ -68,6 +81,8 @@ PortionsOutcome MetadataService::writeEach(
             outcome.refused.insert(i, error.description());
             continue;
         }
+        if (portion.plan.sidecar)
+            besides.insert(commands.size());
         commands.append({ command, portion.targets, CustomFields::names(portion.plan.customs), portion.preparations });
         positions.append(i);
     }
@@ -78,9 +93,13 @@ PortionsOutcome MetadataService::writeEach(
     if (!options.writeSidecar)
         return outcome;
     const QSet<QUrl> done(written.done.cbegin(), written.done.cend());
-    for (SafeWriter::Portion& command : commands) {
+    for (qsizetype i = 0; i < commands.size(); ++i) {
+        SafeWriter::Portion& command = commands[i];
+        if (besides.contains(i))
+            continue;
         command.targets.removeIf([&done](const QUrl& target) { return !done.contains(target); });
-        const auto failures = Companions::writeSidecars(runner, command.command, command.targets, command.customNames);
+        const auto failures =
+            Companions::writeSidecars(runner, command.command, withOwnMirror(command.targets), command.customNames);
         if (notes)
             notes->sidecars += failures;
     }
@@ -121,7 +140,7 @@ QHash<QUrl, FileTags> MetadataService::stored(
 {
     tagNames.removeAll(IptcEncoding::blockTag());
     const QStringList selection = JournalTags::readArgs(tagNames);
-    const QList<QUrl> files = SaveGuard::filesBehindLinks(targets);
+    const QList<QUrl> files = SaveGuard::filesBehindLinks(sidecars.filesToWrite(targets));
     const auto tags = TagDump::parse(runner.readDump(selection, files, control));
     QHash<QUrl, FileTags> stored;
     for (qsizetype i = 0; i < targets.size(); ++i)
@@ -133,7 +152,13 @@ QHash<QUrl, FileTags> MetadataService::stored(
 QHash<QUrl, IptcValues> MetadataService::iptc(
     const QStringList& ids, const QList<QUrl>& targets, const ReadControl& control) const
 {
-    return IptcRead::of(runner, ids, targets, control);
+    const QList<QUrl> files = sidecars.filesToWrite(targets);
+    const QHash<QUrl, IptcValues> held = IptcRead::of(runner, ids, files, control);
+    QHash<QUrl, IptcValues> values;
+    for (qsizetype i = 0; i < targets.size(); ++i)
+        if (const auto found = held.constFind(files.at(i)); found != held.cend())
+            values.insert(targets.at(i), *found);
+    return values;
 }
 
 UndoOutcome MetadataService::undo(const JournalEntry& entry) const

@@ -48,8 +48,8 @@ struct MetadataService {
     JournalEntry journalEntry(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options = {}) const;
     /// See SaveUndo::oldValues().
     OldValues oldValues(const QStringList& tags, const QList<QUrl>& targets, const ReadControl& control = {}) const;
-    /// What the files behind the targets hold in these tags, named as assignments name them, as it is stored: one run,
-    /// for the targets that could be read. Throws the runner's errors.
+    /// What the files that a save of the targets writes hold in these tags, named as assignments name them, as it is
+    /// stored: one run, for the targets that could be read. Throws the runner's errors.
     QHash<QUrl, FileTags> stored(
         QStringList tagNames, const QList<QUrl>& targets, const ReadControl& control = {}) const;
     /// See IptcRead::of().
@@ -60,6 +60,9 @@ struct MetadataService {
     void renameFile(const QUrl& source, const QUrl& destination) const;
 
     bool operator==(const MetadataService&) const = default;
+
+private:
+    QList<QUrl> withOwnMirror(QList<QUrl> photos) const;
 };
 
 }  // namespace Quorbel

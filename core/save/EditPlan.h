@@ -14,6 +14,16 @@ struct ListChange {
     bool operator==(const ListChange&) const = default;
 };
 
+/// What a plan needs beside its edits when it is written into a photo's sidecar.
+struct SidecarNote {
+    QString extension{};  ///< of the photo, to be noted there; "" where some is
+    QString savedAt{};  ///< "yyyy:MM:dd HH:mm:ss+hh:mm"
+    /// Keys (field ids, FieldLanguages::key(), CustomFields::key()) of emptied values that the photo's own file holds:
+    /// the sidecar keeps them as texts without characters.
+    QStringList hidden{};
+    bool operator==(const SidecarNote&) const = default;
+};
+
 struct EditPlan {
     QMap<QString, QString> scalars{};  ///< field id, or FieldLanguages::key(), to new text; empty text deletes it
     QMap<QString, QStringList> lists{};  ///< field id to new items
@@ -38,6 +48,13 @@ struct EditPlan {
     /// their own homes tell.
     QStringList notShown{};
 
+    /// The plan is written into a sidecar, with the tags of SidecarSchema; its lists and IPTC lists are whole then.
+    std::optional<SidecarNote> sidecar{};
+
+    /// The field with the tags of the file that the plan is written into; nothing for an id that no field has.
+    const FieldSpec* spec(const QString& id) const;
+    /// Whether this key is emptied, and hides what the photo's own file holds.
+    bool hides(const QString& key) const { return sidecar && sidecar->hidden.contains(key); }
     /// Nothing to write; the list mode plays no part.
     bool isEmpty() const
     {

@@ -250,7 +250,7 @@ Change change(const EditPlan& plan, const FileTags& before, const QString& fileT
     QStringList ids = plan.lists.keys() + plan.removed.keys();
     ids.removeDuplicates();
     for (const QString& id : std::as_const(ids)) {
-        const FieldSpec* field = FieldSchema::spec(id);
+        const FieldSpec* field = plan.spec(id);
         if (!field || !field->isList())
             continue;
         const QStringList typed = plan.lists.value(id);

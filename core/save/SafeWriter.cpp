@@ -3,6 +3,7 @@
 #include "core/iptc/IptcDefinitions.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/originals/OriginalKeeper.h"
+#include "core/sidecar/SidecarSchema.h"
 #include "core/text/Coordinates.h"
 #include "core/tool/IptcEncoding.h"
 #include "core/tool/TemporaryConfig.h"
@@ -71,6 +72,11 @@ QStringList customNamesOf(const QList<Portion>& portions)
 }
 
 // Preparations write nothing that has to be defined.
+bool needsSidecarConfig(const Portion& portion)
+{
+    return SidecarSchema::needDefinitions(portion.command.assignments);
+}
+
 bool needsConfig(const Portion& portion)
 {
     return !portion.customNames.isEmpty() || IptcDefinitions::areNeeded(portion.command.assignments);
@@ -83,14 +89,20 @@ QString definitionsFor(const QList<Portion>& portions)
     return areNeeded ? IptcDefinitions::text() : QString();
 }
 
+// Definitions for sidecars would lead runs over photos astray.
+struct Configs {
+    std::optional<QUrl> photos{};
+    std::optional<QUrl> sidecars{};
+};
+
 // The runs of one save. The targets of its portions are the files themselves.
 class Save {
 public:
-    Save(const ExifToolRunner& runner, const QList<Portion>& portions, bool backup, std::optional<QUrl> config)
+    Save(const ExifToolRunner& runner, const QList<Portion>& portions, bool backup, Configs configs)
         : m_runner(runner)
         , m_portions(portions)
         , m_backup(backup)
-        , m_config(std::move(config))
+        , m_configs(std::move(configs))
     {
     }
 
@@ -195,10 +207,14 @@ private:
     {
         QList<WriteRun> plain;
         QList<WriteRun> configured;
+        QList<WriteRun> ofSidecars;
         for (const Portion& portion : m_portions)
-            (needsConfig(portion) ? configured : plain) += inParts({ portion.command, among(files, portion.targets) });
+            (needsSidecarConfig(portion)   ? ofSidecars
+                    : needsConfig(portion) ? configured
+                                           : plain) += inParts({ portion.command, among(files, portion.targets) });
         QSet<QUrl> done = attempt(plain, m_backup, &m_said);
-        return done.unite(attempt(configured, m_backup, &m_said, m_config));
+        done.unite(attempt(configured, m_backup, &m_said, m_configs.photos));
+        return done.unite(attempt(ofSidecars, m_backup, &m_said, m_configs.sidecars));
     }
 
     // Positions in XMP, which need a sign.
@@ -293,7 +309,7 @@ private:
     const ExifToolRunner& m_runner;
     const QList<Portion>& m_portions;
     bool m_backup;
-    std::optional<QUrl> m_config;
+    Configs m_configs;
     Said m_said;
     QSet<QUrl> m_iptcLeftAlone;
     QSet<QUrl> m_done;
@@ -338,11 +354,14 @@ Outcome run(const ExifToolRunner& runner, const QList<Portion>& portions, const 
 {
     const QList<QUrl> files = filesOf(portions);
     const TemporaryConfig config(customNamesOf(portions), definitionsFor(portions));
+    const bool hasSidecars = std::any_of(portions.cbegin(), portions.cend(), needsSidecarConfig);
+    const TemporaryConfig ofSidecars(hasSidecars ? customNamesOf(portions) : QStringList(),
+        hasSidecars ? definitionsFor(portions) + SidecarSchema::definitions() : QString());
     const SaveGuard::AttributeKeeper attributes(files);
     // After a failure too: some of the files may have been replaced.
     const auto restoreAttributes = qScopeGuard([&attributes] { attributes.restore(); });
     const SaveGuard::BackupKeeper backups(backup ? files : QList<QUrl>());
-    Save save(runner, portions, backup, config.url());
+    Save save(runner, portions, backup, { config.url(), ofSidecars.url() });
     const auto note = qScopeGuard([&] {
         if (!notes)
             return;

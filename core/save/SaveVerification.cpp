@@ -135,11 +135,20 @@ bool holdsInHomes(const FieldSpec& field, const QString& value, const QString& f
     });
 }
 
+// An emptied list of a sidecar is one of an item without characters.
+QStringList itemsOf(const EditPlan& plan, const QString& tag, const FileTags& stored)
+{
+    QStringList items = TagHomes::itemsOf(tag, stored);
+    if (plan.sidecar)
+        items.removeAll(QString());
+    return items;
+}
+
 bool holdsInHomes(const EditPlan& plan, const FieldSpec& field, const QStringList& items, const QString& fileType,
     const FileTags& stored)
 {
     return std::all_of(field.writeTags.cbegin(), field.writeTags.cend(), [&](const QString& tag) {
-        return !TagHomes::holds(fileType, tag) || sameList(plan, items, TagHomes::itemsOf(tag, stored));
+        return !TagHomes::holds(fileType, tag) || sameList(plan, items, itemsOf(plan, tag, stored));
     });
 }
 
@@ -159,7 +168,7 @@ bool isStillThere(const QStringList& removed, const FieldSpec& field, const Imag
 bool holdsTogether(const EditPlan& plan, const QString& id, const FileTags& stored)
 {
     using enum Assignment::Operation;
-    const QList<Assignment> assignments = plan.together.value(id);
+    const QList<Assignment> assignments = plan.hides(id) ? QList<Assignment>() : plan.together.value(id);
     return std::all_of(assignments.cbegin(), assignments.cend(), [&](const Assignment& written) {
         const QStringList items = TagHomes::itemsOf(written.tag, stored);
         if (plan.leftOut.contains(homeOf(written.tag)))
@@ -190,12 +199,13 @@ bool isInPart(const EditPlan& plan, const FieldSpec& field)
 }
 
 // Of the lists of IptcSchema; structures are compared elsewhere (PhotoPlan::structures).
-bool holdsChange(const FieldSpec& field, const ListChange& change, const QString& fileType, const FileTags& stored)
+bool holdsChange(const EditPlan& plan, const FieldSpec& field, const ListChange& change, const QString& fileType,
+    const FileTags& stored)
 {
     return std::all_of(field.writeTags.cbegin(), field.writeTags.cend(), [&](const QString& tag) {
         if (!TagHomes::holds(fileType, tag))
             return true;
-        const QStringList found = TagHomes::itemsOf(tag, stored);
+        const QStringList found = itemsOf(plan, tag, stored);
         const auto inTag = [&tag](QStringList items) {
             for (QString& item : items)
                 item = IptcSchema::storedIn(tag, item);
@@ -214,13 +224,14 @@ bool holdsChange(const FieldSpec& field, const ListChange& change, const QString
 QStringList iptcDifferences(const EditPlan& plan, const QString& fileType, const FileTags& stored)
 {
     QStringList keys;
-    for (const FieldSpec& field : IptcSchema::all()) {
+    for (const FieldSpec& one : IptcSchema::all()) {
+        const FieldSpec& field = *plan.spec(one.id);
         if (field.kind == FieldKind::structure || isInPart(plan, field))
             continue;
         const auto text = plan.scalars.constFind(field.id);
         const auto list = plan.iptcLists.constFind(field.id);
         if ((text != plan.scalars.cend() && !holdsInHomes(field, *text, fileType, stored))
-            || (list != plan.iptcLists.cend() && !holdsChange(field, *list, fileType, stored)))
+            || (list != plan.iptcLists.cend() && !holdsChange(plan, field, *list, fileType, stored)))
             keys.append(field.id);
     }
     return keys;
@@ -234,7 +245,7 @@ QStringList languageDifferences(const EditPlan& plan, const FileTags& stored)
         const auto language = FieldLanguages::languageIn(it.key());
         if (!language || plan.leftOut.contains(u"XMP"_s))
             continue;
-        const QStringList found = TagHomes::itemsOf(FieldLanguages::tag(it.key()), stored);
+        const QStringList found = itemsOf(plan, FieldLanguages::tag(it.key()), stored);
         const bool isSame = it->isEmpty() ? found.isEmpty()
                                           : found.contains(*it)
                 || (!found.isEmpty() && sameInHome(*language->field, *it, found.constFirst().toUtf8()));
@@ -258,7 +269,8 @@ bool holdsCustom(const ImageRecord& record, const CustomValue& custom)
 QStringList differences(const EditPlan& plan, const ImageRecord& record, const FileTags* stored)
 {
     QStringList keys;
-    for (const auto& field : FieldSchema::all()) {
+    for (const auto& one : FieldSchema::all()) {
+        const FieldSpec& field = *plan.spec(one.id);
         if (isInPart(plan, field))
             continue;
         const bool isShown = !stored || !plan.notShown.contains(field.id);
@@ -291,7 +303,7 @@ bool hasHiddenHomes(const EditPlan& plan)
     return std::any_of(ids.cbegin(), ids.cend(), [&plan](const QString& id) {
         if (plan.together.contains(id) || FieldLanguages::languageIn(id))
             return true;
-        const FieldSpec* field = FieldSchema::spec(id);
+        const FieldSpec* field = plan.spec(id);
         return field && (IptcSchema::isId(id) || field->kind == FieldKind::coordinates || field->writeTags.size() > 1);
     });
 }

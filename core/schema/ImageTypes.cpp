@@ -39,14 +39,19 @@ bool isImageName(const QString& fileName)
     return extensions().contains(extensionOf(fileName));
 }
 
-bool isRaw(const QString& fileName)
+const QSet<QString>& rawExtensions()
 {
     static const QSet<QString> raw = [] {
         const QStringList list = u"cr2 cr3 crw nef nrw arw arq sr2 raf orf ori rw2 raw rwl pef srw erf fff iiq mef mos "
                                  "mrw gpr x3f"_s.split(u' ');
         return QSet<QString>(list.cbegin(), list.cend());
     }();
-    return raw.contains(extensionOf(fileName));
+    return raw;
+}
+
+bool isRaw(const QString& fileName)
+{
+    return rawExtensions().contains(extensionOf(fileName));
 }
 
 bool isDng(const QString& fileName)

@@ -13,6 +13,8 @@ const QSet<QString>& extensions();
 bool isImage(const QUrl& url);
 /// The same for the name alone.
 bool isImageName(const QString& fileName);
+/// The lower-case extensions of cameras' raw files, without "dng".
+const QSet<QString>& rawExtensions();
 /// Whether the name is that of a camera's raw file; DNG is not meant.
 bool isRaw(const QString& fileName);
 bool isDng(const QString& fileName);

@@ -2,9 +2,9 @@
 
 #include "core/schema/ImageTypes.h"
 
-#include <QDirIterator>
 #include <QFile>
-#include <QFileInfo>
+
+#include <algorithm>
 
 #include <unistd.h>
 
@@ -26,18 +26,6 @@ QString baseOf(const QString& photo)
 bool isThere(const QString& path)
 {
     return access(QFile::encodeName(path).constData(), F_OK) == 0;
-}
-
-bool sharesBase(const SidecarPolicy& policy, const QString& photo)
-{
-    const QString base = baseOf(photo);
-    QDirIterator entries(QFileInfo(photo).path(), QDir::Files | QDir::Hidden);
-    while (entries.hasNext()) {
-        const QString other = entries.next();
-        if (other != photo && baseOf(other) == base && policy.isBeside(QUrl::fromLocalFile(other)))
-            return true;
-    }
-    return false;
 }
 
 }  // namespace
@@ -71,12 +59,26 @@ QString SidecarPolicy::existing(const QUrl& photo) const
     return {};
 }
 
+bool SidecarPolicy::sharesBase(const QUrl& photo) const
+{
+    const QString path = photo.toLocalFile();
+    const QString base = baseOf(path);
+    QStringList extensions = isRawBeside ? ImageTypes::rawExtensions().values() : QStringList();
+    if (isDngBeside)
+        extensions.append(u"dng"_s);
+    return std::any_of(extensions.cbegin(), extensions.cend(), [&](const QString& extension) {
+        const QStringList others{ base + u'.' + extension, base + u'.' + extension.toUpper() };
+        return std::any_of(
+            others.cbegin(), others.cend(), [&path](const QString& other) { return other != path && isThere(other); });
+    });
+}
+
 QString SidecarPolicy::path(const QUrl& photo) const
 {
     if (const QString found = existing(photo); !found.isEmpty())
         return found;
     const QString file = photo.toLocalFile();
-    const bool isFull = naming == SidecarNaming::full || sharesBase(*this, file);
+    const bool isFull = naming == SidecarNaming::full || sharesBase(photo);
     return (isFull ? file : baseOf(file)) + u".xmp"_s;
 }
 

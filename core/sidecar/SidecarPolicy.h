@@ -34,6 +34,8 @@ struct SidecarPolicy {
     /// The same, or the path that a new one gets. A base name that the photo shares with another one whose edits go
     /// beside it is not enough for a new sidecar: then the full one is taken.
     QString path(const QUrl& photo) const;
+    /// Whether another photo, whose edits go beside it, has the same base name in the folder.
+    bool sharesBase(const QUrl& photo) const;
     /// The files that a save of these photos writes, in their order: their own, or their sidecars.
     QList<QUrl> filesToWrite(const QList<QUrl>& photos) const;
 };

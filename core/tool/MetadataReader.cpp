@@ -1,12 +1,14 @@
 #include "core/tool/MetadataReader.h"
 
 #include "core/schema/FieldSchema.h"
+#include "core/sidecar/SidecarSchema.h"
 #include "core/text/Coordinates.h"
 #include "core/text/Text.h"
 #include "core/tool/MetadataWriter.h"
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <limits>
 
 namespace Quorbel::MetadataReader {
@@ -60,19 +62,29 @@ const JSONValue* decidingValue(const FieldSpec& field, const JSONObject& main)
     return nullptr;
 }
 
+void readField(ImageRecord& record, const FieldSpec& field, const JSONValue& value)
+{
+    if (field.isList()) {
+        if (const auto items = value.stringArray(); !items.isEmpty())
+            record.lists.insert(field.id, items);
+    } else if (const auto shown = displayText(field.kind, value)) {
+        record.values.insert(field.id, *shown);
+    }
+}
+
 void readFields(ImageRecord& record, const JSONObject& main)
 {
-    for (const auto& field : FieldSchema::all()) {
-        const JSONValue* value = decidingValue(field, main);
-        if (!value)
-            continue;
-        if (field.isList()) {
-            if (const auto items = value->stringArray(); !items.isEmpty())
-                record.lists.insert(field.id, items);
-        } else if (const auto shown = displayText(field.kind, *value)) {
-            record.values.insert(field.id, *shown);
-        }
-    }
+    for (const auto& field : FieldSchema::all())
+        if (const JSONValue* value = decidingValue(field, main))
+            readField(record, field, *value);
+}
+
+// Of an enumeration the tool shows a text without characters so.
+bool isEmptied(const JSONValue& value)
+{
+    const QStringList items = value.stringArray();
+    return std::all_of(
+        items.cbegin(), items.cend(), [](const QString& item) { return item.isEmpty() || item == u"Unknown ()"; });
 }
 
 QString cameraName(const JSONObject& main)
@@ -138,6 +150,28 @@ ImageRecord parse(const QUrl& url, const JSONObject& main, const JSONObject& cus
     record.camera = cameraRows(main);
     record.custom = customValues(custom);
     return record;
+}
+
+void overlay(ImageRecord& record, const JSONObject& main, const JSONObject& custom)
+{
+    for (const auto& one : FieldSchema::all()) {
+        const FieldSpec& field = *SidecarSchema::spec(one.id);
+        const JSONValue* value = decidingValue(field, main);
+        if (!value)
+            continue;
+        record.values.remove(field.id);
+        record.lists.remove(field.id);
+        if (!isEmptied(*value))
+            readField(record, field, *value);
+    }
+    for (const CustomValue& value : customValues(custom)) {
+        record.custom.removeIf(
+            [&value](const CustomValue& other) { return other.name.compare(value.name, Qt::CaseInsensitive) == 0; });
+        if (!value.value.isEmpty())
+            record.custom.append(value);
+    }
+    std::sort(record.custom.begin(), record.custom.end(),
+        [](const CustomValue& a, const CustomValue& b) { return a.name < b.name; });
 }
 
 }  // namespace Quorbel::MetadataReader

@@ -15,5 +15,8 @@ constexpr int meaning = 1;
 QStringList readTags();
 /// The record of one file, without the file system's dates.
 ImageRecord parse(const QUrl& url, const JSONObject& main, const JSONObject& custom);
+/// Puts what a sidecar holds (SidecarSchema::readTags()) over the record: a field that it holds is the sidecar's, and
+/// empty where its text has no characters; all others stay.
+void overlay(ImageRecord& record, const JSONObject& main, const JSONObject& custom);
 
 }  // namespace Quorbel::MetadataReader

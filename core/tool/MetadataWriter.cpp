@@ -4,8 +4,10 @@
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/StructureText.h"
 #include "core/save/EditPlan.h"
+#include "core/schema/CustomFields.h"
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
+#include "core/sidecar/SidecarSchema.h"
 #include "core/text/Coordinates.h"
 #include "core/text/Text.h"
 #include "core/text/WallClock.h"
@@ -161,9 +163,13 @@ QList<Assignment> iptcArgs(const FieldSpec& field, const ListChange& change)
 QList<Assignment> iptcArgs(const EditPlan& plan)
 {
     QList<Assignment> args;
-    for (auto it = plan.iptcLists.cbegin(); it != plan.iptcLists.cend(); ++it)
-        if (const FieldSpec* field = IptcSchema::spec(it.key()); field && !plan.together.contains(it.key()))
+    for (auto it = plan.iptcLists.cbegin(); it != plan.iptcLists.cend(); ++it) {
+        const FieldSpec* field = IptcSchema::isId(it.key()) ? plan.spec(it.key()) : nullptr;
+        if (field && plan.hides(it.key()))
+            args += SidecarSchema::emptied(*field);
+        else if (field && !plan.together.contains(it.key()))
             args += iptcArgs(*field, *it);
+    }
     return args;
 }
 
@@ -178,26 +184,65 @@ QList<Assignment> removalArgs(const FieldSpec& field, const QStringList& items)
     return args;
 }
 
+QList<Assignment> textArgs(const EditPlan& plan, const FieldSpec& field, const QString& text)
+{
+    if (plan.hides(field.id))
+        return SidecarSchema::emptied(field);
+    if (field.kind == FieldKind::structure && plan.together.contains(field.id))
+        return {};
+    const QList<Assignment> args = scalarArgs(field, text);
+    return plan.sidecar && field.kind == FieldKind::coordinates ? Coordinates::inXmp(args) : args;
+}
+
+QList<Assignment> itemArgs(const EditPlan& plan, const FieldSpec& field, const QStringList& items)
+{
+    if (plan.hides(field.id))
+        return SidecarSchema::emptied(field);
+    return plan.isExact ? exactListArgs(field, items, plan.listMode) : listArgs(field, items, plan.listMode);
+}
+
+QList<Assignment> argsOfCustoms(const EditPlan& plan)
+{
+    QList<Assignment> args;
+    for (const auto& custom : plan.customs) {
+        QList<Assignment> own = customArgs(custom.name, custom.value);
+        if (plan.hides(CustomFields::key(custom.name)))
+            for (Assignment& assignment : own)
+                assignment.operation = Assignment::Operation::restore;
+        args += own;
+    }
+    return args;
+}
+
+// What other programs want to know of a sidecar.
+QList<Assignment> noteArgs(const SidecarNote& note)
+{
+    QList<Assignment> args;
+    if (!note.extension.isEmpty())
+        args.append({ .tag = u"XMP-photoshop:SidecarForExtension"_s, .value = note.extension });
+    if (!note.savedAt.isEmpty())
+        args.append({ .tag = u"XMP-xmp:MetadataDate"_s, .value = note.savedAt });
+    return args;
+}
+
 QList<Assignment> fieldArgs(const EditPlan& plan)
 {
     QList<Assignment> args;
     for (auto it = plan.scalars.cbegin(); it != plan.scalars.cend(); ++it)
-        if (const FieldSpec* field = FieldSchema::spec(it.key()))
-            if (field->kind != FieldKind::structure || !plan.together.contains(it.key()))
-                args += scalarArgs(*field, it.value());
+        if (const FieldSpec* field = plan.spec(it.key()))
+            args += textArgs(plan, *field, *it);
     for (auto it = plan.lists.cbegin(); it != plan.lists.cend(); ++it)
-        if (const FieldSpec* field = FieldSchema::spec(it.key()))
-            args += plan.isExact ? exactListArgs(*field, it.value(), plan.listMode)
-                                 : listArgs(*field, it.value(), plan.listMode);
+        if (const FieldSpec* field = plan.spec(it.key()))
+            args += itemArgs(plan, *field, *it);
     for (auto it = plan.removed.cbegin(); it != plan.removed.cend(); ++it)
-        if (const FieldSpec* field = FieldSchema::spec(it.key()))
+        if (const FieldSpec* field = plan.spec(it.key()))
             args += removalArgs(*field, it.value());
     args += iptcArgs(plan);
-    for (const auto& custom : plan.customs)
-        args += customArgs(custom.name, custom.value);
-    for (const QList<Assignment>& further : plan.together)
-        args += further;
-    return args;
+    args += argsOfCustoms(plan);
+    for (auto further = plan.together.cbegin(); further != plan.together.cend(); ++further)
+        if (!plan.hides(further.key()))
+            args += *further;
+    return plan.sidecar && !plan.isEmpty() ? args + noteArgs(*plan.sidecar) : args;
 }
 
 QList<Assignment> languageArgs(const EditPlan& plan)
@@ -205,7 +250,8 @@ QList<Assignment> languageArgs(const EditPlan& plan)
     QList<Assignment> args;
     for (auto it = plan.scalars.cbegin(); it != plan.scalars.cend(); ++it)
         if (const QString tag = FieldLanguages::tag(it.key()); !tag.isEmpty())
-            args.append({ .tag = tag, .value = it.value() });
+            args.append(
+                { tag, plan.hides(it.key()) ? Assignment::Operation::restore : Assignment::Operation::set, *it });
     return args;
 }
 

@@ -98,16 +98,15 @@ private:
 };
 
 // Reads those in doubt once more, without the custom group. `main` and `custom` by path.
-void resolveDoubts(const ExifToolRunner& runner, const QList<QUrl>& urls, const ReadControl& control,
-    ObjectsByPath& main, const ObjectsByPath& custom)
+void resolveDoubts(const ExifToolRunner& runner, const QStringList& tags, const QList<QUrl>& urls,
+    const ReadControl& control, ObjectsByPath& main, const ObjectsByPath& custom)
 {
     QList<QUrl> doubtful;
     for (const auto& url : urls)
         if (const QString path = url.toLocalFile(); isInDoubt(main.value(path), custom.value(path)))
             doubtful.append(url);
     const QString without = u"--"_s + MetadataWriter::customNamespacePrefix() + u":all"_s;
-    const auto clear =
-        indexBySourceFile(runner.readEach(MetadataReader::readTags(), doubtful, control, { without }).objects);
+    const auto clear = indexBySourceFile(runner.readEach(tags, doubtful, control, { without }).objects);
     for (auto object = clear.cbegin(); object != clear.cend(); ++object)
         main.insert(object.key(), object.value());
 }
@@ -115,40 +114,32 @@ void resolveDoubts(const ExifToolRunner& runner, const QList<QUrl>& urls, const 
 // The read that puts up with what it cannot read.
 class EachRead {
 public:
-    EachRead(const ExifToolRunner& runner, const QList<QUrl>& urls, const ReadControl& control)
+    EachRead(const ExifToolRunner& runner, const QStringList& tags, const QList<QUrl>& urls, const ReadControl& control)
         : m_runner(runner)
+        , m_tags(tags)
         , m_urls(urls)
         , m_runs(control, urls.size())
     {
     }
 
-    Outcome outcome()
+    Answers answers()
     {
         readMain();
         readCustom();
-        resolveDoubts(m_runner, m_readable, m_runs.silent(), m_main, m_custom);
-        Outcome outcome;
-        for (qsizetype i = 0; i < m_urls.size(); ++i) {
-            m_runs.requireWanted();
-            const QString path = m_urls[i].toLocalFile();
-            if (const auto reason = m_reasons.constFind(path); reason != m_reasons.cend())
-                outcome.leftOut.append({ m_urls[i], *reason });
-            else if (!m_gone.contains(path))
-                outcome.records.append(record(m_urls[i], m_main.value(path), m_custom.value(path)));
-        }
-        return outcome;
+        resolveDoubts(m_runner, m_tags, m_readable, m_runs.silent(), m_answers.main, m_answers.custom);
+        return std::move(m_answers);
     }
 
 private:
     void readMain()
     {
-        const ReadAnswer answer = m_runner.readEach(MetadataReader::readTags(), m_urls, m_runs.next(m_urls.size(), 2));
-        m_main = indexBySourceFile(answer.objects);
-        m_reasons = answer.undecodable;
+        const ReadAnswer answer = m_runner.readEach(m_tags, m_urls, m_runs.next(m_urls.size(), 2));
+        m_answers.main = indexBySourceFile(answer.objects);
+        m_answers.reasons = answer.undecodable;
         m_readable = m_urls;
         if (answer.failure) {
-            m_reasons.insert(m_runner.readErrors(m_urls, m_runs.next(m_urls.size(), 2)));
-            takeUnanswered(answer, m_main);
+            m_answers.reasons.insert(m_runner.readErrors(m_urls, m_runs.next(m_urls.size(), 2)));
+            takeUnanswered(answer, m_answers.main);
         } else {
             matchByPosition(answer.objects);
         }
@@ -158,16 +149,16 @@ private:
     void readCustom()
     {
         const ReadAnswer answer = m_runner.readEachCustomNamespace(m_readable, m_runs.next(m_readable.size(), 1));
-        m_custom = indexBySourceFile(answer.objects);
-        m_reasons.insert(answer.undecodable);
+        m_answers.custom = indexBySourceFile(answer.objects);
+        m_answers.reasons.insert(answer.undecodable);
         if (answer.failure)
-            takeUnanswered(answer, m_custom);
+            takeUnanswered(answer, m_answers.custom);
         m_readable.removeIf([this](const QUrl& url) { return isOut(url); });
     }
 
     bool isOut(const QUrl& url) const
     {
-        return m_reasons.contains(url.toLocalFile()) || m_gone.contains(url.toLocalFile());
+        return m_answers.reasons.contains(url.toLocalFile()) || m_answers.gone.contains(url.toLocalFile());
     }
 
     // Of a run with the exit status 1: photos that went away while it ran, and such as it says nothing about though
@@ -178,12 +169,12 @@ private:
             m_runs.requireWanted();
             const QString path = url.toLocalFile();
             if (!QFileInfo::exists(path))
-                m_gone.insert(path);
+                m_answers.gone.insert(path);
             if (objects.contains(path) || isOut(url))
                 continue;
             if (objects.isEmpty())
                 throw ToolError(*answer.failure);
-            m_reasons.insert(path, u"Changed while it was read"_s);
+            m_answers.reasons.insert(path, u"Changed while it was read"_s);
         }
     }
 
@@ -191,18 +182,16 @@ private:
     void matchByPosition(const QList<JSONObject>& objects)
     {
         for (qsizetype i = 0; i < m_urls.size() && objects.size() == m_urls.size(); ++i)
-            if (const QString path = m_urls[i].toLocalFile(); !m_main.contains(path))
-                m_main.insert(path, objects[i]);
+            if (const QString path = m_urls[i].toLocalFile(); !m_answers.main.contains(path))
+                m_answers.main.insert(path, objects[i]);
     }
 
     const ExifToolRunner& m_runner;
+    const QStringList& m_tags;
     const QList<QUrl>& m_urls;
     Runs m_runs;
     QList<QUrl> m_readable;
-    ObjectsByPath m_main;
-    ObjectsByPath m_custom;
-    QMap<QString, QString> m_reasons;  // by path, of those left out
-    QSet<QString> m_gone;  // paths
+    Answers m_answers;
 };
 
 }  // namespace
@@ -216,7 +205,7 @@ QList<ImageRecord> all(const ExifToolRunner& runner, const QList<QUrl>& urls, co
     const auto custom = runner.readCustomNamespace(urls, runs.next(urls.size(), 1));
     auto mainByPath = indexBySourceFile(main);
     const auto customByPath = indexBySourceFile(custom);
-    resolveDoubts(runner, urls, runs.silent(), mainByPath, customByPath);
+    resolveDoubts(runner, MetadataReader::readTags(), urls, runs.silent(), mainByPath, customByPath);
 
     QList<ImageRecord> records;
     records.reserve(urls.size());
@@ -230,9 +219,26 @@ QList<ImageRecord> all(const ExifToolRunner& runner, const QList<QUrl>& urls, co
     return records;
 }
 
+Answers ask(const ExifToolRunner& runner, const QStringList& tags, const QList<QUrl>& urls, const ReadControl& control)
+{
+    return urls.isEmpty() ? Answers() : EachRead(runner, tags, urls, control).answers();
+}
+
 Outcome each(const ExifToolRunner& runner, const QList<QUrl>& urls, const ReadControl& control)
 {
-    return urls.isEmpty() ? Outcome() : EachRead(runner, urls, control).outcome();
+    const Answers answers = ask(runner, MetadataReader::readTags(), urls, control);
+    Outcome outcome;
+    for (const QUrl& url : urls) {
+        // A hundred thousand records take seconds.
+        if (control.stop.stop_requested())
+            throw CancelledError();
+        const QString path = url.toLocalFile();
+        if (const auto reason = answers.reasons.constFind(path); reason != answers.reasons.cend())
+            outcome.leftOut.append({ url, *reason });
+        else if (!answers.gone.contains(path))
+            outcome.records.append(record(url, answers.main.value(path), answers.custom.value(path)));
+    }
+    return outcome;
 }
 
 }  // namespace Quorbel::PhotoRead

@@ -68,6 +68,8 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
         result.records = std::move(outcome.records);
         for (const FileFailure& failure : std::as_const(outcome.leftOut))
             result.leftOut.append({ failure.file.fileName(), inSentence(failure.reason) });
+        for (const FileFailure& failure : std::as_const(outcome.sidecars))
+            result.leftOut.append({ failure.file.fileName(), inSentence(failure.reason) });
     } catch (const CancelledError&) {
         result.isCancelled = true;
     } catch (const Error& error) {

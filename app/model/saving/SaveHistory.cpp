@@ -28,7 +28,7 @@ QList<QUrl> photosAmong(const QList<QUrl>& files, const QList<QUrl>& photos)
     const QList<QUrl> behind = SaveGuard::filesBehindLinks(photos);
     QList<QUrl> found;
     for (qsizetype i = 0; i < photos.size(); ++i)
-        if (wanted.contains(behind.at(i)))
+        if (wanted.contains(behind.at(i)) || wanted.contains(photos.at(i)))
             found.append(photos.at(i));
     return found;
 }
@@ -65,7 +65,7 @@ SaveHistory::Undoable SaveHistory::newest()
 
 SaveHistory::Undoable SaveHistory::undoable(qint64 number, const JournalEntry& entry)
 {
-    return { number, entry.files.size(), QFileInfo(entry.files.constFirst().path).fileName(), entry.isTimeShift };
+    return { number, entry.files.size(), QFileInfo(entry.files.constFirst().photo()).fileName(), entry.isTimeShift };
 }
 
 SaveHistory::Undoable SaveHistory::open()
@@ -208,11 +208,11 @@ void SaveHistory::forgetUndone(qint64 number, const JournalEntry& entry, const U
     for (const QUrl& file : outcome.restored)
         restored.insert(file.toLocalFile());
     JournalEntry rest = entry;
-    rest.files.removeIf([&failed](const JournalFile& file) { return !failed.contains(file.path); });
+    rest.files.removeIf([&failed](const JournalFile& file) { return !failed.contains(file.photo()); });
     for (JournalFile& file : rest.files)
         file.after = FileStamp::of(file.path).value_or(file.after);
     JournalEntry undone = entry;
-    undone.files.removeIf([&restored](const JournalFile& file) { return !restored.contains(file.path); });
+    undone.files.removeIf([&restored](const JournalFile& file) { return !restored.contains(file.photo()); });
     m_journal.removeUndone(number, undone, rest);
 }
 

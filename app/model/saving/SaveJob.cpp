@@ -2,6 +2,7 @@
 
 #include "app/model/saving/ReplacedFilesPoll.h"
 #include "app/model/saving/SaveReasons.h"
+#include "app/model/saving/SidecarOrder.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/StructureText.h"
 #include "core/save/SaveGuard.h"
@@ -11,6 +12,7 @@
 #include "core/schema/FieldSchema.h"
 #include "core/text/Text.h"
 
+#include <QFileInfo>
 #include <QHash>
 #include <QScopeGuard>
 
@@ -46,7 +48,9 @@ EditPlan withoutHomes(EditPlan plan, const QStringList& homes)
 // The plan of a target before it is known what the photo holds.
 EditPlan planOf(const Order& order, const QUrl& target)
 {
-    return withoutHomes(order.own.value(target, order.plan), order.options.leftOut);
+    const EditPlan plan = order.own.value(target, order.plan);
+    // What a photo refused says nothing of sidecars.
+    return plan.sidecar ? plan : withoutHomes(plan, order.options.leftOut);
 }
 
 QList<EditPlan> allPlans(const Order& order)
@@ -68,18 +72,21 @@ bool changesIptc(const QList<EditPlan>& plans)
     });
 }
 
-// What the targets hold in all that the save may assign; nothing when that cannot be found out.
-std::optional<OldValues> lookBefore(const MetadataService& service, const Order& order, const QList<EditPlan>& plans)
+// What these of the targets hold in all that the save may assign; nothing when that cannot be found out.
+std::optional<OldValues> lookBefore(
+    const MetadataService& service, const Order& order, const QList<EditPlan>& plans, const QList<QUrl>& targets)
 {
+    if (targets.isEmpty())
+        return OldValues();
     try {
         // A plan that leaves homes out names tags by others; of fields of IptcSchema the early look knows nothing.
         if (order.look && order.options.leftOut.isEmpty() && !changesIptc(plans))
-            if (auto values = order.look->values(order.targets))
+            if (auto values = order.look->values(targets))
                 return values;
         if (order.look)
             order.look->giveUp();
         const QStringList tags = PhotoPlans::tagsBefore(plans);
-        return tags.isEmpty() ? OldValues() : service.oldValues(tags, order.targets);
+        return tags.isEmpty() ? OldValues() : service.oldValues(tags, targets);
     } catch (const std::exception&) {
         // Then the save cannot be undone, and replaces what it replaces.
         return std::nullopt;
@@ -286,6 +293,8 @@ void decideStructures(
         PhotoPlan& photo = written.photos[target];
         if (const auto values = held.constFind(target); values != held.cend())
             PhotoPlans::decideStructures(photo, *values);
+        else if (photo.plan.sidecar && !QFileInfo::exists(target.toLocalFile()))
+            PhotoPlans::decideStructures(photo, {});
         else
             photo.problem = unread;
         if (photo.problem.isEmpty())
@@ -359,8 +368,6 @@ void remember(const std::optional<JournalEntry>& entry, const std::shared_ptr<Sa
     written.undoable = std::async(std::launch::async, [entry, history, isLost] {
         return entry ? history->add(*entry) : isLost ? history->addUnknown() : history->latest();
     }).share();
-    if (!written.mayBeSaved)
-        written.undoable.wait();
 }
 
 QHash<QUrl, IptcValues> structuresAfter(
@@ -387,36 +394,55 @@ QStringList structureDifferences(const PhotoPlan& photo, const IptcValues& value
     return differing;
 }
 
-}  // namespace
-
-Written run(const MetadataService& service, const Order& order, const std::shared_ptr<SaveHistory>& history,
-    TaskProgress& progress)
+void runOver(const SidecarOrder& files, const MetadataService& service, const std::shared_ptr<SaveHistory>& history,
+    TaskProgress& progress, Written& written)
 {
+    const Order& order = files.order();
     const QList<QUrl>& targets = order.targets;
     const QList<std::optional<FileStamp>> stamps = stampsOf(targets);
     const QList<EditPlan> plans = allPlans(order);
     const bool looks = history || PhotoPlans::needLook(plans);
-    const std::optional<OldValues> before = looks ? lookBefore(service, order, plans) : OldValues();
-    Written written{ .leftOut = order.options.leftOut };
+    std::optional<OldValues> before = looks ? lookBefore(service, order, plans, files.photosThemselves()) : OldValues();
+    if (before)
+        files.addTo(*before);
     written.photos = PhotoPlans::decide(
         targets, [&order](const QUrl& target) { return planOf(order, target); }, before, order.seen);
     decideStructures(service, order, plans, written);
     std::optional<JournalEntry> entry;
-    if (history && before)
+    if (history && before) {
         entry = SaveUndo::journalEntry(
             *before, [&written](const QUrl& target) { return written.photos.value(target).whole(); }, targets,
             order.options);
+        files.addTo(*entry);
+    }
     const ReplacedFilesPoll poll(targets, progress.done);
     const QList<SavePortion> runs = portions(targets, written.photos);
     if (!runs.isEmpty())
         write(service, runs, order.options, written);
     findRefusedHomes(service, runs, written);
-    if (targets.size() == 1 && !written.failures.isEmpty())
-        written.error = written.failures.constFirst().reason;
     written.isUntouched = stampsOf(targets) == stamps;
-    written.mayBeSaved = !written.error || (written.isPartial && targets.size() > 1);
     if (history)
         remember(entry, history, written);
+}
+
+}  // namespace
+
+Written run(const MetadataService& service, const Order& given, const std::shared_ptr<SaveHistory>& history,
+    TaskProgress& progress)
+{
+    Written written{ .leftOut = given.options.leftOut };
+    try {
+        const SidecarOrder files(service, given);
+        runOver(files, service, history, progress, written);
+        files.nameTheirPhotos(written);
+    } catch (const std::exception& error) {
+        written.error = QString::fromUtf8(error.what());
+    }
+    if (given.targets.size() == 1 && !written.failures.isEmpty())
+        written.error = written.failures.constFirst().reason;
+    written.mayBeSaved = !written.error || (written.isPartial && given.targets.size() > 1);
+    if (written.undoable.valid() && !written.mayBeSaved)
+        written.undoable.wait();
     return written;
 }
 

@@ -14,13 +14,19 @@ namespace Quorbel {
 
 struct JournalFile {
     QString path{};
-    QString link{};  ///< the photo that was saved, where it is a symbolic link to this file
+    /// The photo that was saved, where it is a symbolic link to this file, or this file is its sidecar.
+    QString link{};
     FileStamp before{};
     FileStamp after{};
     /// What they held before the save. A written tag that is not here was absent.
     FileTags tags{};
     QStringList writtenTags{};  ///< of this file, where they are not all of the save's; see JournalTags::writtenTags()
     JournalSidecar sidecar{};
+
+    /// The file is the sidecar of a photo whose edits go beside it: it goes back whole.
+    bool isSidecar() const { return !path.isEmpty() && path == sidecar.path; }
+    /// The photo that the user knows the file by.
+    QString photo() const { return isSidecar() && !link.isEmpty() ? link : path; }
     bool operator==(const JournalFile&) const = default;
 };
 

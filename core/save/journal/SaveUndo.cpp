@@ -89,6 +89,7 @@ public:
             write(portions);
         checkRestored();
         restoreSidecars();
+        restoreWhole();
         return m_outcome;
     }
 
@@ -99,6 +100,8 @@ private:
         QList<SafeWriter::Portion> portions;
         QHash<QStringList, qsizetype> known;  // by arguments
         for (const auto& file : m_entry.files) {
+            if (file.isSidecar())
+                continue;
             const QUrl url = QUrl::fromLocalFile(file.path);
             if (FileStamp::of(file.path) != file.after) {
                 m_outcome.changedSince.append(url);
@@ -201,6 +204,24 @@ private:
                 m_outcome.inexact.append(url);
     }
 
+    // Sidecars of photos whose edits go beside them. Photos that share one share what became of it.
+    void restoreWhole()
+    {
+        for (const auto& file : m_entry.files) {
+            if (!file.isSidecar())
+                continue;
+            const QUrl photo = QUrl::fromLocalFile(file.photo());
+            if (FileStamp::of(file.path) != file.after)
+                m_outcome.changedSince.append(photo);
+            else if (SaveGuard::isReadOnly(QUrl::fromLocalFile(file.path)))
+                m_outcome.failed.append({ photo, u"read-only"_s });
+            else if (file.sidecar.restore())
+                m_outcome.restored.append(photo);
+            else
+                m_outcome.failed.append({ photo, u"not written"_s });
+        }
+    }
+
     const ExifToolRunner& m_runner;
     const JournalEntry& m_entry;
     UndoOutcome m_outcome;
@@ -222,6 +243,20 @@ OldValues oldValues(
     return TagDump::parse(runner.readDump(selection, SaveGuard::filesBehindLinks(targets), control));
 }
 
+namespace {
+
+// Nothing of a sidecar that cannot be read whole.
+std::optional<JournalFile> wholeFile(const QString& path)
+{
+    const JournalSidecar sidecar = JournalSidecar::of(path);
+    if (sidecar.path.isEmpty())
+        return std::nullopt;
+    const FileStamp stamp = sidecar.before.value_or(FileStamp());
+    return JournalFile{ .path = path, .before = stamp, .after = stamp, .sidecar = sidecar };
+}
+
+}  // namespace
+
 JournalEntry journalEntry(const OldValues& known, const std::function<EditPlan(const QUrl&)>& planOf,
     const QList<QUrl>& targets, const WriteOptions& options)
 {
@@ -230,10 +265,15 @@ JournalEntry journalEntry(const OldValues& known, const std::function<EditPlan(c
     const auto files = SaveGuard::filesBehindLinks(targets);
     for (qsizetype i = 0; i < files.size(); ++i) {
         const EditPlan plan = planOf(targets[i]);
+        const QString path = files[i].toLocalFile();
+        if (plan.sidecar) {
+            if (const auto file = plan.isEmpty() ? std::nullopt : wholeFile(path))
+                entry.files.append(*file);
+            continue;
+        }
         const QStringList& tags = tagsOf.of(plan);
         addTo(entry.writtenTags, tags);
         addTo(entry.customNames, CustomFields::names(plan.customs));
-        const QString path = files[i].toLocalFile();
         const auto before = known.constFind(QFile::encodeName(path));
         const auto stamp = FileStamp::of(path);
         if (tags.isEmpty() || !stamp || before == known.cend())

@@ -34,7 +34,7 @@ OldValues oldValues(
     const ExifToolRunner& runner, const QStringList& tags, const QList<QUrl>& targets, const ReadControl& control);
 /// What a save is about to replace in the targets, picked out of what they hold in these or more tags, and in their
 /// sidecars, if those are written as well; sidecars and times of the files are those of now. `planOf`: all that it
-/// assigns in a target.
+/// assigns in a target. A sidecar that a photo's edits go to is kept as it is, whole.
 JournalEntry journalEntry(const OldValues& known, const std::function<EditPlan(const QUrl&)>& planOf,
     const QList<QUrl>& targets, const WriteOptions& options);
 /// Writes the old values of a save back, one run for each distinct set of them, many in one start of the tool, without

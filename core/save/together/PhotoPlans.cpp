@@ -39,7 +39,7 @@ EditPlan PhotoPlan::whole() const
     // Of structures, which are put back with all of XMP, the tags are enough.
     for (QMap<QString, QStringList>* some : { &whole.lists, &whole.removed })
         for (auto list = some->begin(); list != some->end(); ++list)
-            if (const FieldSpec* field = FieldSchema::spec(list.key()))
+            if (const FieldSpec* field = plan.spec(list.key()))
                 for (const Assignment& assignment : lists.preparation)
                     if (field->writeTags.contains(assignment.tag))
                         list->append(assignment.value);

@@ -1,0 +1,352 @@
+// Photos whose edits go beside them, from the model's side: read over the file, saved, emptied, taken back; the photo's
+// own file stays what it was, to the byte and to its times.
+#include "core/schema/FieldSchema.h"
+#include "core/sidecar/SidecarSchema.h"
+#include "tests/app/model/ModelFixture.h"
+
+#include <QFileInfo>
+#include <QTest>
+
+#include <sys/stat.h>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+}
+
+struct Raws : ModelFixture {
+    Raws()
+        : ModelFixture(MetadataService{ realTool() })
+    {
+        services.journalPath = journal.filePath(u"undo.json"_s);
+        model->preferences().confirmMassEdit.set(false);
+        model->preferences().saveDontAsk.set(true);
+        model->preferences().backupOriginals.set(false);
+        model->preferences().rawBeside.set(true);
+        relaunch();
+    }
+    // A photo with these tags in its own file, of long ago.
+    QString addRaw(const QString& name, const QStringList& assignments = {})
+    {
+        const QString path = folder.path(name);
+        const QString tiff = folder.add(name + u".tif"_s).toLocalFile();
+        if (!assignments.isEmpty())
+            exiftool(QStringList{ u"-overwrite_original"_s, u"-q"_s } + assignments << tiff);
+        QFile::rename(tiff, path);
+        QFile file(path);
+        if (file.open(QIODevice::ReadWrite))
+            file.setFileTime(QDateTime::fromSecsSinceEpoch(1500000000), QFileDevice::FileModificationTime);
+        file.close();
+        untouched.insert(path, state(path));
+        return path;
+    }
+    bool isUntouched() const
+    {
+        return std::all_of(untouched.keyBegin(), untouched.keyEnd(),
+            [&](const QString& path) { return state(path) == untouched[path]; });
+    }
+    bool save()
+    {
+        model->setErrorMessage(std::nullopt);
+        model->requestSave();
+        return waitUntilIdle();
+    }
+    bool undo()
+    {
+        model->setErrorMessage(std::nullopt);
+        model->undoSave();
+        return waitUntilIdle();
+    }
+    bool reopen()
+    {
+        relaunch();
+        return open();
+    }
+    QString shown(const QString& name, const QString& id) const { return model->record(url(name))->values.value(id); }
+    QStringList items(const QString& name, const QString& id) const
+    {
+        return model->record(url(name))->lists.value(id);
+    }
+    // As the tool prints it alone.
+    QString stored(const QString& name, const QString& tag) const
+    {
+        return QString::fromUtf8(exiftool({ u"-s3"_s, u"-sep"_s, u"; "_s, u'-' + tag, folder.path(name) })).trimmed();
+    }
+    QString banner() const { return model->errorMessage().value_or(QString()); }
+    QByteArray sidecar(const QString& name) const { return contentOf(folder.path(name)); }
+
+    QTemporaryDir journal;
+    QMap<QString, QByteArray> untouched;
+
+private:
+    // Bytes, inode, and when it was changed, which no program can turn back.
+    static QByteArray state(const QString& path)
+    {
+        struct stat status { };
+        stat(QFile::encodeName(path).constData(), &status);
+        return contentOf(path) + QByteArray::number(qint64(status.st_ino)) + '/'
+            + QByteArray::number(qint64(status.st_ctim.tv_sec)) + '.'
+            + QByteArray::number(qint64(status.st_ctim.tv_nsec));
+    }
+};
+
+const QMap<QString, QString>& texts()
+{
+    static const QMap<QString, QString> texts{ { u"date"_s, u"2024-05-06 07:08"_s },
+        { u"dateDigitized"_s, u"2024-06-07 08:09"_s }, { u"rating"_s, u"4"_s }, { u"offsetOriginal"_s, u"+05:45"_s },
+        { u"offsetDigitized"_s, u"-03:30"_s }, { u"urgency"_s, u"3"_s }, { u"label"_s, u"Red"_s } };
+    return texts;
+}
+
+QStringList ownTags()
+{
+    return { u"-IPTC:ObjectName=Own"_s, u"-IPTC:Keywords=a"_s, u"-IPTC:Keywords=1.10"_s, u"-EXIF:Artist=Own"_s,
+        u"-EXIF:DateTimeOriginal=2001:02:03 04:05:06"_s, u"-EXIF:OffsetTimeOriginal=+01:00"_s, u"-XMP:Rating=5"_s,
+        u"-GPSLatitude=10.5"_s, u"-GPSLatitudeRef=S"_s, u"-GPSLongitude=20.25"_s, u"-GPSLongitudeRef=W"_s,
+        u"-IPTC:Category=OWN"_s, u"-XMP-photoshop:Urgency=2"_s, u"-XMP-iptcExt:PersonInImage=Ann"_s };
+}
+
+}  // namespace
+
+class tst_AppModelSidecars : public QObject {
+    Q_OBJECT
+
+private slots:
+    void everyFieldGoesBeside_data();
+    void everyFieldGoesBeside();
+    void emptiedFieldsHideTheFiles();
+    void listsGainAndLose();
+    void undoGivesTheSidecarBack();
+    void customFields();
+    void brokenSidecars_data();
+    void brokenSidecars();
+    void othersAreWrittenAsEver();
+};
+
+void tst_AppModelSidecars::everyFieldGoesBeside_data()
+{
+    QTest::addColumn<QString>("position");
+    QTest::newRow("north east") << u"12.345678, 98.765432"_s;
+    QTest::newRow("north west") << u"12.345678, -98.765432"_s;
+    QTest::newRow("south east") << u"-12.345678, 98.765432"_s;
+    QTest::newRow("south west") << u"-12.345678, -98.765432"_s;
+}
+
+void tst_AppModelSidecars::everyFieldGoesBeside()
+{
+    QFETCH(QString, position);
+    Raws raws;
+    raws.addRaw(u"a.NEF"_s, ownTags());
+    QVERIFY(raws.open());
+    raws.click(u"a.NEF"_s);
+    QMap<QString, QString> typed;
+    for (const FieldSpec& field : FieldSchema::all()) {
+        if (field.isList()) {
+            for (const QString& item : { u"x & y"_s, u"é東"_s })
+                raws->addSingleListItem(field.id, item);
+            continue;
+        }
+        const QString text =
+            field.kind == FieldKind::coordinates ? position : texts().value(field.id, field.label + u" ünïcode"_s);
+        typed.insert(field.id, text);
+        raws->setSingle(field.id, text);
+    }
+    QVERIFY(raws.save());
+    QCOMPARE(raws.banner(), QString());
+    QCOMPARE(raws->unsavedCount(), 0);
+    QVERIFY(raws.isUntouched());
+    QCOMPARE(raws.folder.names(), (QStringList{ u"a.NEF"_s, u"a.xmp"_s }));
+
+    QVERIFY(raws.reopen());
+    for (auto text = typed.cbegin(); text != typed.cend(); ++text)
+        QVERIFY2(raws.shown(u"a.NEF"_s, text.key()).startsWith(*text),
+            qPrintable(text.key() + u": "_s + raws.shown(u"a.NEF"_s, text.key())));
+    QCOMPARE(raws.items(u"a.NEF"_s, u"keywords"_s), (QStringList{ u"a"_s, u"1.1"_s, u"x & y"_s, u"é東"_s }));
+    QCOMPARE(raws.items(u"a.NEF"_s, u"people"_s), (QStringList{ u"Ann"_s, u"x & y"_s, u"é東"_s }));
+    QCOMPARE(raws->record(raws.url(u"a.NEF"_s))->sidecarName, u"a.xmp"_s);
+    QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-photoshop:SidecarForExtension"_s), u"NEF"_s);
+    QVERIFY(raws.sidecar(u"a.xmp"_s).contains("1.10"));
+    // In the form that the other programs read.
+    for (const QString& tag : { u"XMP-exif:DateTimeOriginal"_s, u"XMP-photoshop:DateCreated"_s })
+        QCOMPARE(raws.stored(u"a.xmp"_s, tag).left(16), u"2024:05:06 07:08"_s);
+    QVERIFY(!raws.stored(u"a.xmp"_s, u"XMP-xmp:MetadataDate"_s).isEmpty());
+}
+
+void tst_AppModelSidecars::emptiedFieldsHideTheFiles()
+{
+    Raws raws;
+    raws.addRaw(u"a.NEF"_s, ownTags());
+    QVERIFY(raws.open());
+    raws.click(u"a.NEF"_s);
+    const ImageRecord before = *raws->record(raws.url(u"a.NEF"_s));
+    QVERIFY(before.values.size() >= 8);
+    for (const QString& id : before.values.keys())
+        raws->setSingle(id, QString());
+    for (const QString& id : before.lists.keys())
+        for (const QString& item : before.lists.value(id))
+            raws->removeSingleListItem(id, item);
+    raws->setSingle(u"headline"_s, u"New"_s);
+    QVERIFY(raws.save());
+    QCOMPARE(raws.banner(), QString());
+    QVERIFY(raws.reopen());
+    const ImageRecord after = *raws->record(raws.url(u"a.NEF"_s));
+    QCOMPARE(after.values, (QMap<QString, QString>{ { u"headline"_s, u"New"_s } }));
+    QVERIFY(after.lists.isEmpty());
+    // What the file never held is not hidden, it is just not there.
+    raws.click(u"a.NEF"_s);
+    raws->setSingle(u"headline"_s, QString());
+    raws->setSingle(u"title"_s, u"Again"_s);
+    raws->setSingle(u"coords"_s, u"1.500000, 2.500000"_s);
+    raws->addSingleListItem(u"keywords"_s, u"again"_s);
+    QVERIFY(raws.save());
+    QCOMPARE(raws.banner(), QString());
+    QVERIFY(!raws.sidecar(u"a.xmp"_s).contains("Headline"));
+    QVERIFY(raws.reopen());
+    QCOMPARE(raws.shown(u"a.NEF"_s, u"title"_s), u"Again"_s);
+    QCOMPARE(raws.shown(u"a.NEF"_s, u"coords"_s), u"1.500000, 2.500000"_s);
+    QCOMPARE(raws.items(u"a.NEF"_s, u"keywords"_s), QStringList(u"again"_s));
+    QVERIFY(raws.isUntouched());
+}
+
+// One whose list only the file holds, one whose sidecar has its own, one without any, and one that is no raw file.
+void tst_AppModelSidecars::listsGainAndLose()
+{
+    Raws raws;
+    raws.addRaw(u"a.NEF"_s,
+        { u"-IPTC:Keywords=one"_s, u"-IPTC:Keywords=two"_s, u"-XMP-lr:HierarchicalSubject=N|one"_s,
+            u"-XMP-lr:HierarchicalSubject=N|two"_s });
+    raws.addRaw(u"b.NEF"_s, { u"-IPTC:Keywords=file"_s });
+    raws.addRaw(u"c.NEF"_s);
+    raws.folder.add(u"d.jpg"_s);
+    exiftool({ u"-q"_s, u"-XMP-dc:Subject=one"_s, u"-XMP-dc:Subject=beside"_s, raws.folder.path(u"b.xmp"_s) });
+    exiftool({ u"-q"_s, u"-overwrite_original"_s, u"-IPTC:Keywords=one"_s, u"-XMP-dc:Subject=one"_s,
+        raws.folder.path(u"d.jpg"_s) });
+    QVERIFY(raws.open());
+    QCOMPARE(raws.items(u"b.NEF"_s, u"keywords"_s), (QStringList{ u"one"_s, u"beside"_s }));
+    raws->selectAllPhotos();
+    raws->addBatchListItem(u"keywords"_s, u"new"_s);
+    raws->takeBatchItemAway(u"keywords"_s, u"one"_s);
+    QVERIFY(raws.save());
+    QCOMPARE(raws.banner(), QString());
+    QVERIFY(raws.isUntouched());
+    QVERIFY(raws.reopen());
+    QCOMPARE(raws.items(u"a.NEF"_s, u"keywords"_s).join(u','), u"two,new"_s);
+    QCOMPARE(raws.items(u"b.NEF"_s, u"keywords"_s), (QStringList{ u"beside"_s, u"new"_s }));
+    QCOMPARE(raws.items(u"c.NEF"_s, u"keywords"_s), QStringList(u"new"_s));
+    QCOMPARE(raws.items(u"d.jpg"_s, u"keywords"_s), QStringList(u"new"_s));
+    QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-lr:HierarchicalSubject"_s), u"N|two"_s);
+    QVERIFY(!raws.folder.names().contains(u"d.xmp"_s));
+    QVERIFY(raws.undo());
+    QCOMPARE(raws.banner(), QString());
+    QCOMPARE(raws.items(u"a.NEF"_s, u"keywords"_s), (QStringList{ u"one"_s, u"two"_s }));
+    QCOMPARE(raws.items(u"b.NEF"_s, u"keywords"_s), (QStringList{ u"one"_s, u"beside"_s }));
+    QCOMPARE(raws.items(u"d.jpg"_s, u"keywords"_s), QStringList(u"one"_s));
+    QCOMPARE(raws.folder.names(), (QStringList{ u"a.NEF"_s, u"b.NEF"_s, u"b.xmp"_s, u"c.NEF"_s, u"d.jpg"_s }));
+}
+
+void tst_AppModelSidecars::undoGivesTheSidecarBack()
+{
+    Raws raws;
+    raws.addRaw(u"a.NEF"_s, ownTags());
+    QVERIFY(raws.open());
+    raws.click(u"a.NEF"_s);
+    raws->setSingle(u"title"_s, u"First"_s);
+    QVERIFY(raws.save());
+    const QByteArray first = raws.sidecar(u"a.xmp"_s);
+    raws->setSingle(u"title"_s, u"Second"_s);
+    raws->setSingle(u"rating"_s, QString());
+    QVERIFY(raws.save());
+    QVERIFY(raws.sidecar(u"a.xmp"_s) != first);
+    QVERIFY(raws->undoSaveText().contains(u"a.NEF"_s));
+    QVERIFY(raws.undo());
+    QCOMPARE(raws.banner(), QString());
+    QCOMPARE(raws.sidecar(u"a.xmp"_s), first);
+    QCOMPARE(raws.shown(u"a.NEF"_s, u"title"_s), u"First"_s);
+    QVERIFY(raws.undo());
+    QCOMPARE(raws.folder.names(), QStringList(u"a.NEF"_s));
+    QCOMPARE(raws.shown(u"a.NEF"_s, u"title"_s), u"Own"_s);
+    // Somebody else's since then stays.
+    raws->setSingle(u"title"_s, u"Third"_s);
+    QVERIFY(raws.save());
+    exiftool(
+        { u"-q"_s, u"-overwrite_original"_s, u"-XMP-dc:Title=Theirs, and longer"_s, raws.folder.path(u"a.xmp"_s) });
+    QVERIFY(raws.undo());
+    QVERIFY2(
+        raws.banner().contains(u"a.NEF"_s) && raws.banner().contains(u"changed since"_s), qPrintable(raws.banner()));
+    QVERIFY(raws.sidecar(u"a.xmp"_s).contains("Theirs"));
+    QVERIFY(raws.isUntouched());
+}
+
+void tst_AppModelSidecars::customFields()
+{
+    Raws raws;
+    raws.addRaw(u"a.NEF"_s);
+    QVERIFY(raws.open());
+    raws.click(u"a.NEF"_s);
+    raws->addCustomField(u"Mood"_s, u"calm"_s);
+    raws->setSingle(u"offsetOriginal"_s, u"+02:00"_s);
+    QVERIFY(raws.save());
+    QCOMPARE(raws.banner(), QString());
+    QVERIFY(raws.reopen());
+    QCOMPARE(raws->record(raws.url(u"a.NEF"_s))->custom, (QList<CustomValue>{ { u"Mood"_s, u"calm"_s } }));
+    QVERIFY(raws.isUntouched());
+}
+
+void tst_AppModelSidecars::brokenSidecars_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("no XML") << QByteArray("\x01\x02 this is nothing");
+    const PhotoFolder folder;
+    exiftool({ u"-q"_s, u"-XMP-dc:Title=half"_s, u"-XMP-photoshop:City=Rome"_s, folder.path(u"whole.xmp"_s) });
+    const QByteArray whole = contentOf(folder.path(u"whole.xmp"_s));
+    QTest::newRow("cut off") << whole.first(whole.size() * 2 / 3);
+}
+
+// Named; the photo opens without it, and nobody writes into it.
+void tst_AppModelSidecars::brokenSidecars()
+{
+    QFETCH(QByteArray, content);
+    Raws raws;
+    raws.addRaw(u"a.NEF"_s, ownTags());
+    raws.folder.add(u"a.xmp"_s, content);
+    QVERIFY(raws.open());
+    QVERIFY2(raws.banner().contains(u"a.xmp"_s), qPrintable(raws.banner()));
+    QCOMPARE(raws.shown(u"a.NEF"_s, u"title"_s), u"Own"_s);
+    raws.click(u"a.NEF"_s);
+    raws->setSingle(u"title"_s, u"New"_s);
+    QVERIFY(raws.save());
+    QVERIFY2(raws.banner().startsWith(u"Could not save"_s), qPrintable(raws.banner()));
+    QCOMPARE(raws->unsavedCount(), 1);
+    QCOMPARE(raws.sidecar(u"a.xmp"_s), content);
+    QVERIFY(raws.isUntouched());
+}
+
+// Only raw files go beside, and the mirror of a JPEG never takes a raw file's sidecar.
+void tst_AppModelSidecars::othersAreWrittenAsEver()
+{
+    Raws raws;
+    raws->preferences().writeSidecar.set(true);
+    raws.addRaw(u"a.NEF"_s);
+    raws.folder.add(u"a.jpg"_s);
+    raws.folder.add(u"b.tif"_s);
+    QVERIFY(raws.open());
+    raws->selectAllPhotos();
+    raws->setBatch(u"headline"_s, u"All"_s);
+    QVERIFY(raws.save());
+    QCOMPARE(raws.banner(), QString());
+    QVERIFY(raws.isUntouched());
+    QCOMPARE(raws.stored(u"b.tif"_s, u"XMP-photoshop:Headline"_s), u"All"_s);
+    QCOMPARE(raws.stored(u"a.jpg"_s, u"XMP-photoshop:Headline"_s), u"All"_s);
+    QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-photoshop:SidecarForExtension"_s), u"NEF"_s);
+    QCOMPARE(raws.folder.names(), (QStringList{ u"a.NEF"_s, u"a.jpg"_s, u"a.xmp"_s, u"b.tif"_s, u"b.xmp"_s }));
+}
+
+QTEST_GUILESS_MAIN(tst_AppModelSidecars)
+#include "tst_AppModelSidecars.moc"
