@@ -53,8 +53,8 @@ QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets,
         return {};
     requireShortValues(plan);
     const QStringList customNames = CustomFields::names(plan.customs);
-    const QString output =
-        SafeWriter::write(runner, command, targets, options.backupOriginals, customNames, preparations, notes);
+    const QString output = SafeWriter::write(
+        runner, command, targets, options.backupOriginals && !plan.sidecar, customNames, preparations, notes);
     if (!options.writeSidecar || plan.sidecar)
         return output;
     const auto failures = Companions::writeSidecars(runner, command, withOwnMirror(targets), customNames);
@@ -63,12 +63,46 @@ QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets,
     return output;
 }
 
+namespace {
+
+// The portions of one kind of files, and which of all portions they are.
+struct Commands {
+    QList<SafeWriter::Portion> portions{};
+    QList<qsizetype> positions{};
+};
+
+std::optional<ToolError> joined(const std::optional<ToolError>& a, const std::optional<ToolError>& b)
+{
+    if (!a || !b)
+        return a ? a : b;
+    const auto texts = [](const ToolError& error) {
+        return std::get<ToolError::ExecFailed>(error.payload()).standardError.trimmed();
+    };
+    const qint32 code = std::get<ToolError::ExecFailed>(a->payload()).code;
+    return ToolError(
+        ToolError::ExecFailed{ code, texts(*a) + u'\n' + texts(*b) }, a->messages() + u'\n' + b->messages());
+}
+
+// The targets that were written.
+QSet<QUrl> write(
+    const ExifToolRunner& runner, const Commands& commands, bool backup, PortionsOutcome& outcome, WriteNotes* notes)
+{
+    if (commands.portions.isEmpty())
+        return {};
+    const SafeWriter::Outcome written = SafeWriter::writeEach(runner, commands.portions, backup, notes);
+    for (auto refused = written.refused.cbegin(); refused != written.refused.cend(); ++refused)
+        outcome.refused.insert(commands.positions.at(refused.key()), *refused);
+    outcome.error = joined(outcome.error, written.error);
+    return { written.done.cbegin(), written.done.cend() };
+}
+
+}  // namespace
+
 PortionsOutcome MetadataService::writeEach(
     const QList<SavePortion>& portions, const WriteOptions& options, WriteNotes* notes) const
 {
-    QList<SafeWriter::Portion> commands;
-    QList<qsizetype> positions;
-    QSet<qsizetype> besides;  // positions of commands for sidecars
+    Commands photos;
+    Commands besides;
     PortionsOutcome outcome;
     for (qsizetype i = 0; i < portions.size(); ++i) {
         const SavePortion& portion = portions.at(i);
@@ -81,25 +115,19 @@ PortionsOutcome MetadataService::writeEach(
             outcome.refused.insert(i, error.description());
             continue;
         }
-        if (portion.plan.sidecar)
-            besides.insert(commands.size());
-        commands.append({ command, portion.targets, CustomFields::names(portion.plan.customs), portion.preparations });
-        positions.append(i);
+        Commands& some = portion.plan.sidecar ? besides : photos;
+        some.portions.append(
+            { command, portion.targets, CustomFields::names(portion.plan.customs), portion.preparations });
+        some.positions.append(i);
     }
-    const SafeWriter::Outcome written = SafeWriter::writeEach(runner, commands, options.backupOriginals, notes);
-    for (auto refused = written.refused.cbegin(); refused != written.refused.cend(); ++refused)
-        outcome.refused.insert(positions.at(refused.key()), *refused);
-    outcome.error = written.error;
-    if (!options.writeSidecar)
-        return outcome;
-    const QSet<QUrl> done(written.done.cbegin(), written.done.cend());
-    for (qsizetype i = 0; i < commands.size(); ++i) {
-        SafeWriter::Portion& command = commands[i];
-        if (besides.contains(i))
-            continue;
-        command.targets.removeIf([&done](const QUrl& target) { return !done.contains(target); });
+    const QSet<QUrl> done = Quorbel::write(runner, photos, options.backupOriginals, outcome, notes);
+    Quorbel::write(runner, besides, false, outcome, notes);
+    for (SafeWriter::Portion& portion : photos.portions) {
+        if (!options.writeSidecar)
+            break;
+        portion.targets.removeIf([&done](const QUrl& target) { return !done.contains(target); });
         const auto failures =
-            Companions::writeSidecars(runner, command.command, withOwnMirror(command.targets), command.customNames);
+            Companions::writeSidecars(runner, portion.command, withOwnMirror(portion.targets), portion.customNames);
         if (notes)
             notes->sidecars += failures;
     }

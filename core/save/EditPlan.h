@@ -65,7 +65,7 @@ struct EditPlan {
 };
 
 struct WriteOptions {
-    bool backupOriginals = false;  ///< ExifTool keeps each file's "_original" copy
+    bool backupOriginals = false;  ///< ExifTool keeps each photo's "_original" copy; sidecars have none
     bool writeSidecar = false;  ///< an XMP sidecar beside each image is brought up to date
     QStringList leftOut{};  ///< homes that the plan then leaves out
     bool operator==(const WriteOptions&) const = default;

@@ -333,6 +333,8 @@ void tst_AppModelSidecars::othersAreWrittenAsEver()
 {
     Raws raws;
     raws->preferences().writeSidecar.set(true);
+    raws->preferences().backupOriginals.set(true);
+    exiftool({ u"-q"_s, u"-XMP-dc:Title=Theirs"_s, raws.folder.path(u"a.xmp"_s) });
     raws.addRaw(u"a.NEF"_s);
     raws.folder.add(u"a.jpg"_s);
     raws.folder.add(u"b.tif"_s);
@@ -345,7 +347,9 @@ void tst_AppModelSidecars::othersAreWrittenAsEver()
     QCOMPARE(raws.stored(u"b.tif"_s, u"XMP-photoshop:Headline"_s), u"All"_s);
     QCOMPARE(raws.stored(u"a.jpg"_s, u"XMP-photoshop:Headline"_s), u"All"_s);
     QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-photoshop:SidecarForExtension"_s), u"NEF"_s);
-    QCOMPARE(raws.folder.names(), (QStringList{ u"a.NEF"_s, u"a.jpg"_s, u"a.xmp"_s, u"b.tif"_s, u"b.xmp"_s }));
+    QCOMPARE(raws.folder.names(),
+        (QStringList{
+            u"a.NEF"_s, u"a.jpg"_s, u"a.jpg_original"_s, u"a.xmp"_s, u"b.tif"_s, u"b.tif_original"_s, u"b.xmp"_s }));
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelSidecars)
