@@ -182,18 +182,23 @@ void AppModel::noteWritten(const SaveOutcome& outcome)
     const QSet<QUrl> failed(outcome.failed.cbegin(), outcome.failed.cend());
     QList<QUrl> written;
     for (const ImageRecord& record : outcome.records)
-        if (!failed.contains(record.url))
+        if (!failed.contains(record.url) && !m_sidecarPolicy.isBeside(record.url))
             written.append(record.url);
     m_tools->credentials->noteWritten(written);
     m_tools->rememberedCards->noteSaved(outcome.records, failed, outcome.differing);
 }
 
-// Homes are made to agree only where there is something to write.
+// Homes are made to agree only where there is something to write. What goes beside a photo leaves its file sealed.
 int AppModel::credentialsAtStake() const
 {
-    if (!m_agreeing || !m_agreeing->isAsking)
-        return selectedDetails().credentials();
+    if (!m_agreeing || !m_agreeing->isAsking) {
+        const QList<QUrl>& sealed = selectedDetails().sealed();
+        return int(std::count_if(
+            sealed.cbegin(), sealed.cend(), [this](const QUrl& photo) { return !m_sidecarPolicy.isBeside(photo); }));
+    }
     return int(std::count_if(m_agreeing->photos.cbegin(), m_agreeing->photos.cend(), [this](const QUrl& photo) {
+        if (m_sidecarPolicy.isBeside(photo))
+            return false;
         const ImageRecord* record = photos().record(photo);
         const PhotoDetails* known = details(photo);
         return record && known && known->hasCredentials && !Agreement::plan(*record, *known).isEmpty();

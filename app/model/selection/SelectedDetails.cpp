@@ -61,7 +61,8 @@ void SelectedDetails::merge(Summary& summary, const ImageRecord& record, const P
     for (const QString& path : details.paths)
         if (QStringList& paths = summary.paths[KeywordPath::keyword(path)]; !paths.contains(path))
             paths.append(path);
-    summary.credentials += details.hasCredentials ? 1 : 0;
+    if (details.hasCredentials)
+        summary.sealed.append(record.url);
     if (!details.disagreements.isEmpty()) {
         ++summary.disagreeing;
         summary.canAgree = summary.canAgree || !Agreement::plan(record, details).isEmpty();

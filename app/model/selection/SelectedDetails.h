@@ -37,8 +37,8 @@ public:
     int unknown() const { return summary().unknown; }
     /// How many are known to have homes that disagree.
     int disagreeing() const { return summary().disagreeing; }
-    /// How many are known to have Content Credentials.
-    int credentials() const { return summary().credentials; }
+    /// Those that are known to have Content Credentials.
+    const QList<QUrl>& sealed() const { return summary().sealed; }
     /// Whether a save can make some of those agree.
     bool canAgree() const { return summary().canAgree; }
 
@@ -56,7 +56,7 @@ private:
         int known = 0;
         int unknown = 0;
         int disagreeing = 0;
-        int credentials = 0;
+        QList<QUrl> sealed{};
         bool canAgree = false;
     };
     static void merge(Summary& summary, const ImageRecord& record, const PhotoDetails& details);

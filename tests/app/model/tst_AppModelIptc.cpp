@@ -420,6 +420,18 @@ void tst_AppModelIptc::sealsAreTold()
     photos->confirmSaveDialog();
     QVERIFY(photos.waitUntilIdle() && photos.knows(u"b"_s));
     QCOMPARE(photos.banner(), QString());
+
+    // A file that is not written to keeps its seal.
+    const QUrl raw = photos.url(u"d.NEF"_s);
+    QVERIFY(QFile::copy(photos.url(u"b.jpg"_s).toLocalFile(), raw.toLocalFile()));
+    QVERIFY(photos.open());
+    photos.click(u"d.NEF"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(photos->details(raw) != nullptr, 20000);
+    QCOMPARE(photos->credentialsAtStake(), 1);
+    photos->preferences().rawBeside.set(true);
+    QVERIFY(photos.waitUntilIdle());
+    QTRY_VERIFY_WITH_TIMEOUT(photos->details(raw) != nullptr, 20000);
+    QCOMPARE(photos->credentialsAtStake(), 0);
 }
 
 // What a save brought into a photo, the last first; no more than one can look through.
