@@ -90,6 +90,10 @@ void AppModel::connectParts()
     connect(&refresh, &FolderRefresh::problem, this, &AppModel::setErrorMessage);
     connect(&refresh, &FolderRefresh::vanished, this, &AppModel::takeVanished);
     connect(&refresh, &FolderRefresh::reread, this, &AppModel::takeReread);
+    connect(&refresh, &FolderRefresh::filesChanged, this, [this](const QList<QUrl>& photos) {
+        if (onImagesModified)
+            onImagesModified(photos);
+    });
     connect(&refresh, &FolderRefresh::added, this, &AppModel::selectWhereNone);
     connect(this, &AppModel::selectionChanged, this, &AppModel::updateUnread);
     connect(this, &AppModel::recordsChanged, this, &AppModel::updateUnread);
@@ -381,8 +385,6 @@ void AppModel::takeReread(const QList<QUrl>& urls)
     const Announcer::Together together(m_announcer);
     if (primary() && urls.contains(*primary()))
         m_editing.rebase();
-    if (onImagesModified)
-        onImagesModified(urls);
 }
 
 // --- What a load has read ---

@@ -32,7 +32,7 @@ FolderLook FolderLook::at(const Question& question, const std::stop_token& stop)
     FolderLook look;
     const auto scan = [&] {
         FolderScan found = FolderScan::of(
-            question.folders, question.withSubfolders,
+            question.folders, question.withSubfolders, question.sidecars,
             [&](const QString& path) {
                 if (question.watches->add(path))
                     watched.insert(path);

@@ -38,6 +38,7 @@ struct FolderLook {
         bool isAsked = false;  ///< by somebody: also tells of what was read in vain
         std::shared_ptr<KnownFiles> files{};
         std::shared_ptr<FolderWatches> watches{};
+        SidecarPolicy sidecars{};
         /// Empty: FileSystem::of.
         std::function<FileSystem(const QString& path)> fileSystemOf{};
     };

@@ -12,6 +12,15 @@ namespace {
 
 constexpr std::chrono::milliseconds emptiedMoment{ 300 };
 
+// Whether the list has it as it was seen. One without a date is never looked at again.
+bool isAsSeen(const ImageRecord& photo, const FolderNews::File& file)
+{
+    const auto& date = photo.contentModificationDate;
+    const auto& sidecar = photo.sidecarModificationDate;
+    return (!date || date->toMSecsSinceEpoch() == file.stamp.modified) && photo.sidecarName == file.sidecar.name
+        && (sidecar ? std::optional(sidecar->toMSecsSinceEpoch()) : std::nullopt) == file.sidecar.modified;
+}
+
 }  // namespace
 
 FolderRefresh::FolderRefresh(Announcer& announcer, RunningTasks& tasks, PhotoList& photos,
@@ -106,7 +115,7 @@ void FolderRefresh::look()
     }
     m_isRefreshing = true;
     const FolderLook::Question question{ m_folders, m_withSubfolders, std::exchange(m_isAsked, false), m_photos.files(),
-        m_times.watches(), m_looks.fileSystemOf };
+        m_times.watches(), m_service->sidecars, m_looks.fileSystemOf };
     runIn(
         *m_lookThreads, this, [question, stop = m_stop.get_token()] { return FolderLook::at(question, stop); },
         [this, generation = m_generation, renames = m_photos.renames(), writes = m_writes](const FolderLook& look) {
@@ -191,11 +200,10 @@ QList<FolderNews::File> FolderRefresh::changed(const FolderNews& news)
         const ImageRecord* photo = m_photos.record(file.url);
         if (!photo || m_beingWritten.contains(file.url) || m_tooSlow.contains(file.url))
             continue;
-        const auto& known = photo->contentModificationDate;
-        if (!known || known->toMSecsSinceEpoch() == file.stamp.modified)
+        if (isAsSeen(*photo, file))
             continue;
         // What was not read yet will be. It may be so just now, and too soon: that shows in the look that follows.
-        if (photo->isUnread)
+        if (photo->isUnread || (m_isAwaited && m_isAwaited(file.url)))
             m_passedOverUnread = true;
         else
             changed.append(file);
@@ -264,11 +272,18 @@ void FolderRefresh::noteUnreadable(const QList<FolderNews::File>& files, const P
 
 void FolderRefresh::takeChanged(const QList<ImageRecord>& fresh)
 {
+    QList<QUrl> photos;
+    QList<QUrl> files;
+    for (const ImageRecord& record : fresh) {
+        photos.append(record.url);
+        const ImageRecord* before = m_photos.record(record.url);
+        if (before && before->contentModificationDate != record.contentModificationDate)
+            files.append(record.url);
+    }
     if (!m_photos.replace(fresh))
         return;
-    QList<QUrl> photos;
-    for (const ImageRecord& record : fresh)
-        photos.append(record.url);
+    if (!files.isEmpty())
+        emit filesChanged(files);
     emit reread(photos);
 }
 

@@ -9,7 +9,7 @@
 #include "app/model/library/LookTimes.h"
 #include "app/model/library/PhotoList.h"
 #include "app/model/library/PhotoReader.h"
-#include "app/model/library/SidecarChange.h"
+#include "app/model/library/sidecars/SidecarChange.h"
 #include "core/MetadataService.h"
 
 #include <QElapsedTimer>
@@ -36,6 +36,9 @@ public:
 
     /// From now on photos are read so. What other reads have begun with counts as written since.
     void setSidecars(const SidecarPolicy& policy);
+
+    /// Tells which photos are going to be read anyway: their changes are none.
+    void setAwaited(std::function<bool(const QUrl&)> isAwaited) { m_isAwaited = std::move(isAwaited); }
 
     /// Something else is open now, listed to its end: what was on its way for the old photos is dropped. The folders
     /// are looked at soon, and watched from then on, with subfolders also those that come; none: nothing is.
@@ -75,6 +78,8 @@ signals:
     void vanished(const QList<int>& positions);
     /// These are in the list as they are now.
     void reread(const QList<QUrl>& photos);
+    /// Before that, which of them are other files by now, and not only their sidecars.
+    void filesChanged(const QList<QUrl>& photos);
     /// Further photos are in the list.
     void added();
     /// A text for the banner.
@@ -112,6 +117,7 @@ private:
     Watching m_watching;
     /// Of looks alone: one that hangs on a file system that is gone keeps no other work waiting, nor the program's end.
     QThreadPool* m_lookThreads;
+    std::function<bool(const QUrl&)> m_isAwaited;
     std::stop_source m_stop;
     QElapsedTimer m_sinceEmptied;  ///< valid while a folder that has become empty may be about to go
     QSet<QUrl> m_beingWritten;

@@ -1,5 +1,6 @@
 #include "app/model/library/FolderWalk.h"
 
+#include "app/model/library/sidecars/SeenSidecars.h"
 #include "core/save/originals/OriginalsFolder.h"
 #include "core/schema/ImageTypes.h"
 #include "core/text/Text.h"
@@ -45,6 +46,7 @@ struct Entries {
     bool hasOriginals = false;  ///< a save is half done, or was
     std::vector<Name> photos{};
     std::vector<Name> folders{};
+    SeenSidecars sidecars;
 };
 
 std::optional<Identity> identity(const QString& path)
@@ -97,12 +99,14 @@ void sortIn(Entries& entries, const fs::directory_entry& entry)
             entries.folders.push_back({ Text::naturalSortKey(name), name, isLink });
     } else if (isPhoto(entry.path())) {
         entries.photos.push_back({ Text::naturalSortKey(name), name, isLink });
+    } else if (entries.sidecars.isWanted(name)) {
+        entries.sidecars.add(QFile::decodeName(entry.path().c_str()));
     }
 }
 
-Entries entriesOf(const QString& folder)
+Entries entriesOf(const QString& folder, const SidecarPolicy& sidecars)
 {
-    Entries entries;
+    Entries entries{ .sidecars = SeenSidecars(sidecars) };
     std::error_code error;
     fs::directory_iterator entry(QFile::encodeName(folder).toStdString(), error);
     for (; !error && entry != fs::directory_iterator(); entry.increment(error))
@@ -115,9 +119,10 @@ Entries entriesOf(const QString& folder)
 
 class Walk final {
 public:
-    Walk(const std::stop_token& stop, const std::function<void(FolderWalk::Found)>& take,
+    Walk(const SidecarPolicy& sidecars, const std::stop_token& stop, const std::function<void(FolderWalk::Found)>& take,
         const std::function<void(const QString& folder)>& entering)
-        : m_stop(stop)
+        : m_sidecars(sidecars)
+        , m_stop(stop)
         , m_take(take)
         , m_entering(entering)
     {
@@ -131,9 +136,10 @@ private:
     void list(const QString& folder, const Entries& entries);
     bool isReachedAnyway(const fs::path& found) const;
     bool isWorthFollowing(const QString& folder, const QString& path) const;
-    void add(const QString& path, bool isLink);
+    void add(const QString& path, const Entries& entries, bool isLink);
     void handOver(bool isLast = false);
 
+    const SidecarPolicy& m_sidecars;
     const std::stop_token& m_stop;
     const std::function<void(FolderWalk::Found)>& m_take;
     const std::function<void(const QString& folder)>& m_entering;
@@ -168,10 +174,10 @@ void Walk::enter(const QString& folder)
         m_folders.insert(*id);
     if (m_entering)
         m_entering(folder);
-    Entries entries = entriesOf(folder);
+    Entries entries = entriesOf(folder, m_sidecars);
     // A photo that a killed save left without its name has it again.
     if (entries.hasOriginals && OriginalsFolder::clearAbandoned(folder) > 0)
-        entries = entriesOf(folder);
+        entries = entriesOf(folder, m_sidecars);
     list(folder, entries);
 }
 
@@ -181,7 +187,7 @@ void Walk::list(const QString& folder, const Entries& entries)
     for (const Name& photo : entries.photos) {
         if (m_stop.stop_requested())
             break;
-        add(prefix + photo.text, photo.isLink);
+        add(prefix + photo.text, entries, photo.isLink);
     }
     m_found.folders.append({ QUrl::fromLocalFile(folder), entries.isListed && !m_stop.stop_requested() });
     handOver();
@@ -210,12 +216,12 @@ bool Walk::isWorthFollowing(const QString& folder, const QString& path) const
     return !found.empty() && !isReachedAnyway(found) && !way(found, target(folder));
 }
 
-void Walk::add(const QString& path, bool isLink)
+void Walk::add(const QString& path, const Entries& entries, bool isLink)
 {
     const QUrl url = QUrl::fromLocalFile(path);
     if (const fs::path found = isLink ? target(path) : fs::path(); isPhoto(found) && isReachedAnyway(found))
         return;
-    FolderWalk::Photo photo{ url, PhotoFile::at(url) };
+    FolderWalk::Photo photo{ url, PhotoFile::at(url, m_sidecars, entries.sidecars.of(url)) };
     if (const auto& file = photo.look.file) {
         const Identity id{ file->device, file->inode };
         if (isLink ? m_files.contains(id) : m_linkedFiles.contains(id))
@@ -243,10 +249,10 @@ void Walk::handOver(bool isLast)
 
 }  // namespace
 
-bool FolderWalk::through(const QList<QUrl>& tops, const std::stop_token& stop, const std::function<void(Found)>& take,
-    const std::function<void(const QString& folder)>& entering)
+bool FolderWalk::through(const QList<QUrl>& tops, const SidecarPolicy& sidecars, const std::stop_token& stop,
+    const std::function<void(Found)>& take, const std::function<void(const QString& folder)>& entering)
 {
-    Walk walk(stop, take, entering);
+    Walk walk(sidecars, stop, take, entering);
     walk.enter(tops);
     return !stop.stop_requested();
 }

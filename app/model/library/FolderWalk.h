@@ -32,10 +32,10 @@ struct Found {
     bool isLast = false;
 };
 
-/// `take` is called in the calling thread, the first time soon, then every tenth of a second or for 500 photos, and at
-/// the end. `entering` is told each folder before it is listed: who watches it from then on misses nothing. False when
-/// stopped.
-bool through(const QList<QUrl>& tops, const std::stop_token& stop, const std::function<void(Found)>& take,
-    const std::function<void(const QString& folder)>& entering = {});
+/// Photos whose edits go beside them are looked at with their sidecars. `take` is called in the calling thread, the
+/// first time soon, then every tenth of a second or for 500 photos, and at the end. `entering` is told each folder
+/// before it is listed: who watches it from then on misses nothing. False when stopped.
+bool through(const QList<QUrl>& tops, const SidecarPolicy& sidecars, const std::stop_token& stop,
+    const std::function<void(Found)>& take, const std::function<void(const QString& folder)>& entering = {});
 
 }  // namespace Quorbel::FolderWalk

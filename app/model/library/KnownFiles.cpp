@@ -39,7 +39,7 @@ private:
     QString nearest(QString path) const;
     void compare(const QString& path, const Folder& folder);
     void lookForFurther(const QString& path, const FolderScan::Folder& found);
-    bool isNews(const QString& path, const FolderFiles::Stamp& stamp) const;
+    bool isNews(const FolderNews::File& seen) const;
 };
 
 void KnownFiles::Comparison::run()
@@ -91,13 +91,15 @@ void KnownFiles::Comparison::compare(const QString& path, const Folder& folder)
     const bool isThere = found != scan.folders.cend();
     QList<QUrl>& gone = isThere && found->photos.isEmpty() ? news.emptied : news.gone;
     for (auto file = folder.dates.cbegin(); file != folder.dates.cend(); ++file) {
+        const SidecarStamp sidecar = isThere ? found->sidecars.value(file.key()) : SidecarStamp();
         const auto now = isThere ? found->photos.constFind(file.key()) : decltype(found->photos.cend()){};
         if (!isThere || now == found->photos.cend()) {
             gone.append(QUrl::fromLocalFile(pathIn(path, file.key())));
-        } else if (file.value() && now->modified && *now->modified != *file.value()) {
-            const QString at = pathIn(path, file.key());
-            if (isNews(at, *now))
-                news.changed.append({ QUrl::fromLocalFile(at), *now });
+        } else if ((file.value() && now->modified && *now->modified != *file.value())
+            || sidecar != folder.sidecars.value(file.key())) {
+            const FolderNews::File seen{ QUrl::fromLocalFile(pathIn(path, file.key())), *now, sidecar };
+            if (isNews(seen))
+                news.changed.append(seen);
         }
     }
 }
@@ -108,27 +110,39 @@ void KnownFiles::Comparison::lookForFurther(const QString& path, const FolderSca
     for (auto photo = found.photos.cbegin(); photo != found.photos.cend(); ++photo) {
         if (folder != known.m_folders.cend() && folder->dates.contains(photo.key()))
             continue;
-        const QString at = pathIn(path, photo.key());
-        if (isNews(at, photo.value()))
-            news.further.append({ QUrl::fromLocalFile(at), photo.value() });
+        const FolderNews::File seen{ QUrl::fromLocalFile(pathIn(path, photo.key())), photo.value(),
+            found.sidecars.value(photo.key()) };
+        if (isNews(seen))
+            news.further.append(seen);
     }
 }
 
-bool KnownFiles::Comparison::isNews(const QString& path, const FolderFiles::Stamp& stamp) const
+bool KnownFiles::Comparison::isNews(const FolderNews::File& seen) const
 {
-    const auto before = known.m_unreadable.constFind(path);
-    return isAsked || before == known.m_unreadable.cend() || *before != stamp;
+    const auto vain = known.m_unreadable.constFind(seen.url.toLocalFile());
+    return isAsked || vain == known.m_unreadable.cend() || !isSame(*vain, seen);
+}
+
+bool KnownFiles::isSame(const Step& vain, const FolderNews::File& seen)
+{
+    return vain.stamp == seen.stamp && vain.sidecar == seen.sidecar;
 }
 
 KnownFiles::KnownFiles(const QList<ImageRecord>& photos)
 {
     for (const ImageRecord& photo : photos)
-        take({ Step::What::note, photo.url, photo.contentModificationDate });
+        take(noteOf(photo));
+}
+
+KnownFiles::Step KnownFiles::noteOf(const ImageRecord& photo)
+{
+    return { Step::What::note, photo.url, photo.contentModificationDate, {},
+        { photo.sidecarName, milliseconds(photo.sidecarModificationDate) } };
 }
 
 void KnownFiles::note(const ImageRecord& photo)
 {
-    add({ Step::What::note, photo.url, photo.contentModificationDate });
+    add(noteOf(photo));
 }
 
 void KnownFiles::forget(const QUrl& photo)
@@ -139,7 +153,7 @@ void KnownFiles::forget(const QUrl& photo)
 void KnownFiles::noteUnreadable(const QList<FolderNews::File>& files)
 {
     for (const FolderNews::File& file : files)
-        add({ Step::What::unreadable, file.url, {}, file.stamp });
+        add({ Step::What::unreadable, file.url, {}, file.stamp, file.sidecar });
 }
 
 void KnownFiles::add(const Step& step)
@@ -162,15 +176,19 @@ void KnownFiles::catchUp()
 void KnownFiles::take(const Step& step)
 {
     if (step.what == Step::What::unreadable) {
-        m_unreadable.insert(step.photo.toLocalFile(), step.stamp);
+        m_unreadable.insert(step.photo.toLocalFile(), step);
         return;
     }
     const PhotoPlace place = PhotoPlace::of(step.photo);
-    QHash<QString, std::optional<qint64>>& dates = m_folders[place.folder].dates;
+    Folder& folder = m_folders[place.folder];
     if (step.what == Step::What::forget)
-        dates.remove(place.name);
+        folder.dates.remove(place.name);
     else
-        dates.insert(place.name, milliseconds(step.modified));
+        folder.dates.insert(place.name, milliseconds(step.modified));
+    if (!step.sidecar.name.isEmpty())
+        folder.sidecars.insert(place.name, step.sidecar);
+    else if (!folder.sidecars.isEmpty())
+        folder.sidecars.remove(place.name);
     if (!m_unreadable.isEmpty())
         m_unreadable.remove(step.photo.toLocalFile());
 }

@@ -1,7 +1,6 @@
-// The files of the open photos and their modification dates as they were read, for looks at the folders in the
-// background: the list of photos itself never leaves the main thread, and a copy of it for each look would cost more
-// than the look.
-// Thread: any. What notes never waits for a look; looks wait for one another.
+// The files of the open photos and their modification dates as they were read, and those of their sidecars, for looks
+// at the folders in the background: the list of photos itself never leaves the main thread, and a copy of it for each
+// look would cost more than the look. Thread: any. What notes never waits for a look; looks wait for one another.
 #pragma once
 
 #include "app/model/library/FolderScan.h"
@@ -17,6 +16,7 @@ struct FolderNews {
     struct File {
         QUrl url{};
         FolderFiles::Stamp stamp{};  ///< as it was seen
+        SidecarStamp sidecar{};  ///< the same
     };
     /// A folder that was given, or holds known photos, is gone, may not be read, or lies on a disk that is not there:
     /// nothing can be said of its photos.
@@ -46,6 +46,7 @@ public:
 private:
     struct Folder {
         QHash<QString, std::optional<qint64>> dates{};  ///< by name; milliseconds since 1970, UTC
+        QHash<QString, SidecarStamp> sidecars{};  ///< by the name of the photo; of those that have one
     };
     struct Step {
         enum class What { note, forget, unreadable };
@@ -53,9 +54,12 @@ private:
         QUrl photo{};
         std::optional<QDateTime> modified{};
         FolderFiles::Stamp stamp{};
+        SidecarStamp sidecar{};
     };
     struct Comparison;
 
+    static bool isSame(const Step& vain, const FolderNews::File& seen);
+    static Step noteOf(const ImageRecord& photo);
     void add(const Step& step);
     void catchUp();
     void take(const Step& step);
@@ -63,7 +67,7 @@ private:
     std::mutex m_looking;
     // Under m_looking. A folder's names are held once, as the records have them.
     QHash<QString, Folder> m_folders;
-    QHash<QString, FolderFiles::Stamp> m_unreadable;  ///< by path
+    QHash<QString, Step> m_unreadable;  ///< by path
     QHash<QString, quint64> m_devices;  ///< of each folder, by path, when there last was something in it
     std::mutex m_noting;
     std::vector<Step> m_steps;  ///< since the last look; under m_noting

@@ -102,6 +102,7 @@ Library::Library(Announcer& announcer, RunningTasks& tasks, std::optional<Metada
     , m_refresh(announcer, tasks, m_photos, m_service, m_cache)
     , m_details(announcer, tasks, m_photos, m_refresh, m_cache)
 {
+    m_refresh.setAwaited([this](const QUrl& photo) { return m_reading && m_reading->isAwaited(photo); });
     connect(&m_refresh, &FolderRefresh::reread, this, &Library::noteRead);
     connect(&m_refresh, &FolderRefresh::added, &m_details, &DetailsReading::noteAdded);
     connect(this, &Library::added, &m_details, &DetailsReading::noteAdded);
@@ -121,7 +122,7 @@ void Library::load(const QList<QUrl>& given, bool withSubfolders)
     runInBackground(
         this,
         [given, cache = m_cache, sidecars = sidecars(), order = m_photos.order(), stop] {
-            return Load::of(PhotoListing::of(given), cache.get(), sidecars, order, stop);
+            return Load::of(PhotoListing::of(given, sidecars), cache.get(), sidecars, order, stop);
         },
         [this, serial = ++m_loads](const std::shared_ptr<Load>& load) {
             if (serial == m_loads)
@@ -147,7 +148,7 @@ void Library::walk(const QList<QUrl>& given)
     m_walk->pieces = std::make_unique<Pieces>(
         [given, cache = m_cache, sidecars = sidecars(), order = m_photos.order(), stop = m_walk->stop.get_token()](
             const Pieces::Give& give) {
-            PhotoListing::withSubfolders(given, stop,
+            PhotoListing::withSubfolders(given, sidecars, stop,
                 [&](PhotoListing piece) { give(Load::of(std::move(piece), cache.get(), sidecars, order, stop)); });
         },
         [this](const std::shared_ptr<Load>& piece) { takePiece(piece); }, [this] { endWalk(); });
@@ -401,6 +402,7 @@ void Library::setSidecars(const SidecarPolicy& policy)
     const Announcer::Together together(m_announcer);
     const SidecarPolicy before = std::exchange(m_service->sidecars, policy);
     m_refresh.setSidecars(policy);
+    m_details.setSidecars(policy);
     if (m_next)
         m_next->reading->setSidecars(policy);
     if (!m_reading)

@@ -54,9 +54,20 @@ QDateTime dateOf(qint64 nanoseconds)
     return QDateTime::fromMSecsSinceEpoch(nanoseconds / 1'000'000 - (rest < 0 ? 1 : 0));
 }
 
-}  // namespace
+// What is no file, or cannot be looked at, is none.
+PhotoFile::Sidecar sidecarAt(const QString& path)
+{
+    struct statx status { };
+    if (path.isEmpty()
+        || statx(AT_FDCWD, QFile::encodeName(path).constData(), AT_STATX_SYNC_AS_STAT, STATX_BASIC_STATS, &status) != 0)
+        return {};
+    if (!S_ISREG(status.stx_mode))
+        return {};
+    return { path.sliced(path.lastIndexOf(u'/') + 1), status.stx_ino, qint64(status.stx_size),
+        nanoseconds(status.stx_mtime), nanoseconds(status.stx_ctime) };
+}
 
-PhotoFile::Look PhotoFile::at(const QUrl& url)
+PhotoFile::Look lookAt(const QUrl& url)
 {
     const QByteArray path = QFile::encodeName(url.toLocalFile());
     struct statx status { };
@@ -80,6 +91,45 @@ PhotoFile::Look PhotoFile::at(const QUrl& url)
         {} };
 }
 
+}  // namespace
+
+PhotoFile::Look PhotoFile::at(const QUrl& url, const SidecarPolicy& sidecars)
+{
+    return sidecars.isInUse() ? at(url, sidecars, sidecars.existing(url)) : lookAt(url);
+}
+
+PhotoFile::Look PhotoFile::at(const QUrl& url, const SidecarPolicy& sidecars, const QString& sidecar)
+{
+    Look look = lookAt(url);
+    if (look.file && sidecars.isBeside(url)) {
+        look.file->isBeside = true;
+        look.file->sidecar = sidecarAt(sidecar);
+    }
+    return look;
+}
+
+std::optional<PhotoFile> PhotoFile::again() const
+{
+    return at(url, { .isRawBeside = isBeside, .isDngBeside = isBeside }).file;
+}
+
+QUrl PhotoFile::sidecarURL() const
+{
+    const QString path = url.toLocalFile();
+    return QUrl::fromLocalFile(path.left(path.lastIndexOf(u'/') + 1) + sidecar.name);
+}
+
+bool PhotoFile::isOf(const ImageRecord& record) const
+{
+    return record.contentModificationDate == modificationDate() && record.sidecarName == sidecar.name
+        && record.sidecarModificationDate == sidecar.modificationDate();
+}
+
+std::optional<QDateTime> PhotoFile::Sidecar::modificationDate() const
+{
+    return name.isEmpty() ? std::nullopt : std::optional(dateOf(modified));
+}
+
 QDateTime PhotoFile::modificationDate() const
 {
     return dateOf(modified);
@@ -97,6 +147,8 @@ ImageRecord PhotoFile::unreadRecord() const
     record.fileSize = size;
     record.creationDate = creationDate();
     record.contentModificationDate = modificationDate();
+    record.sidecarName = sidecar.name;
+    record.sidecarModificationDate = sidecar.modificationDate();
     return record;
 }
 

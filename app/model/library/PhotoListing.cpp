@@ -2,6 +2,7 @@
 
 #include "app/model/library/FolderScan.h"
 #include "app/model/library/FolderWalk.h"
+#include "app/model/library/sidecars/SeenSidecars.h"
 #include "core/save/originals/OriginalsFolder.h"
 #include "core/schema/ImageTypes.h"
 #include "core/text/Text.h"
@@ -53,9 +54,11 @@ bool PhotoListing::isWorthListing(const QList<QUrl>& urls)
     });
 }
 
-PhotoListing PhotoListing::of(const QList<QUrl>& urls)
+PhotoListing PhotoListing::of(const QList<QUrl>& urls, const SidecarPolicy& sidecars)
 {
     PhotoListing listing;
+    SeenSidecars seen(sidecars);
+    QSet<QString> listed;
     QList<QUrl> files;
     for (const QUrl& url : urls) {
         const QString path = QDir::cleanPath(url.toLocalFile());
@@ -67,7 +70,8 @@ PhotoListing PhotoListing::of(const QList<QUrl>& urls)
             listing.label = QDir(path).dirName();
             listing.folder = url;
             OriginalsFolder::clearAbandoned(path);
-            files.append(FolderScan::entries(path).value_or(QList<QUrl>()));
+            files.append(FolderScan::entries(path, &seen).value_or(QList<QUrl>()));
+            listed.insert(path);
         } else if (ImageTypes::isImage(url)) {
             files.append(QUrl::fromLocalFile(path));
         }
@@ -77,7 +81,9 @@ PhotoListing PhotoListing::of(const QList<QUrl>& urls)
         listing.label = QFileInfo(files.constFirst().toLocalFile()).dir().dirName();
     listing.files.reserve(files.size());
     for (const QUrl& file : std::as_const(files)) {
-        const PhotoFile::Look look = PhotoFile::at(file);
+        const bool isSeen = listed.contains(PhotoPlace::of(file).folder);
+        const PhotoFile::Look look =
+            isSeen ? PhotoFile::at(file, sidecars, seen.of(file)) : PhotoFile::at(file, sidecars);
         if (look.file)
             listing.files.append(*look.file);
         else if (!look.reason.isEmpty())
@@ -88,8 +94,8 @@ PhotoListing PhotoListing::of(const QList<QUrl>& urls)
     return listing;
 }
 
-void PhotoListing::withSubfolders(
-    const QList<QUrl>& urls, const std::stop_token& stop, const std::function<void(PhotoListing)>& take)
+void PhotoListing::withSubfolders(const QList<QUrl>& urls, const SidecarPolicy& sidecars, const std::stop_token& stop,
+    const std::function<void(PhotoListing)>& take)
 {
     PhotoListing frame;
     QList<QUrl> loose;
@@ -102,7 +108,7 @@ void PhotoListing::withSubfolders(
         (info.isDir() ? frame.tops : loose).append(clean);
     }
     if (frame.tops.isEmpty())
-        return take(of(urls));
+        return take(of(urls, sidecars));
     frame.label = QDir(frame.tops.constLast().toLocalFile()).dirName();
     if (urls.size() == 1)
         frame.folder = urls.constFirst();
@@ -116,7 +122,7 @@ void PhotoListing::withSubfolders(
         piece.part = piece.files.isEmpty() ? Part::further : isWhole ? Part::whole : std::exchange(next, Part::further);
         take(std::move(piece));
     };
-    FolderWalk::through(frame.tops, stop, [&](const FolderWalk::Found& found) {
+    FolderWalk::through(frame.tops, sidecars, stop, [&](const FolderWalk::Found& found) {
         PhotoListing piece = frame;
         piece.add(found);
         if (!loose.isEmpty())
@@ -124,7 +130,7 @@ void PhotoListing::withSubfolders(
                 walked.insert(file.url);
         hand(std::move(piece), found.isLast && loose.isEmpty());
     });
-    PhotoListing rest = of(loose);
+    PhotoListing rest = of(loose, sidecars);
     frame.files = std::move(rest.files);
     frame.leftOut = std::move(rest.leftOut);
     frame.files.removeIf([&walked](const PhotoFile& file) { return walked.contains(file.url); });

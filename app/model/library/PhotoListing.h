@@ -31,12 +31,12 @@ struct PhotoListing {
 
     /// Folders contribute their immediate entries, hidden ones too; what does not exist is skipped, and a folder
     /// that cannot be listed counts as empty. A photo that a killed save left without its name has it again.
-    static PhotoListing of(const QList<QUrl>& urls);
+    static PhotoListing of(const QList<QUrl>& urls, const SidecarPolicy& sidecars = {});
     /// The same, but folders contribute the photos of all folders in them too, and `take` is given the files in pieces
     /// while they are found (FolderWalk). The first one with files in it is the whole or the first part; all but files
     /// is the same in each. Ends early once stopped.
-    static void withSubfolders(
-        const QList<QUrl>& urls, const std::stop_token& stop, const std::function<void(PhotoListing)>& take);
+    static void withSubfolders(const QList<QUrl>& urls, const SidecarPolicy& sidecars, const std::stop_token& stop,
+        const std::function<void(PhotoListing)>& take);
     /// Whether there is a photo or a folder among them. Lists nothing.
     static bool isWorthListing(const QList<QUrl>& urls);
     /// The folders that are watched: the one that was given, or all with those in them.

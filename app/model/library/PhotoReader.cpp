@@ -16,11 +16,11 @@ QString inSentence(const QString& reason)
 }
 
 // At those that can be read.
-QList<PhotoFile> looks(const QList<QUrl>& urls, QList<LeftOut>& leftOut)
+QList<PhotoFile> looks(const QList<QUrl>& urls, const SidecarPolicy& sidecars, QList<LeftOut>& leftOut)
 {
     QList<PhotoFile> files;
     for (const QUrl& url : urls) {
-        const PhotoFile::Look look = PhotoFile::at(url);
+        const PhotoFile::Look look = PhotoFile::at(url, sidecars);
         if (look.file)
             files.append(*look.file);
         else if (!look.reason.isEmpty())
@@ -29,9 +29,9 @@ QList<PhotoFile> looks(const QList<QUrl>& urls, QList<LeftOut>& leftOut)
     return files;
 }
 
-// The records have the dates that their files had before, and share their texts. Returns those whose files are still
-// what they were. The files are in the records' order, and more.
-QList<RecordCache::Read> finished(Result& result, const QList<PhotoFile>& before)
+// The records have the dates that their files had before, and share their texts. Returns those that may be kept: their
+// files are still what they were, and no sidecar is to be named again. The files are in the records' order, and more.
+QList<RecordCache::Read> finished(Result& result, const QList<PhotoFile>& before, const QSet<QUrl>& brokenSidecars)
 {
     QList<RecordCache::Read> unchanged;
     SharedTexts texts;
@@ -40,11 +40,13 @@ QList<RecordCache::Read> finished(Result& result, const QList<PhotoFile>& before
         while (file->url != record.url)
             ++file;
         record.contentModificationDate = file->modificationDate();
+        record.sidecarName = file->sidecar.name;
+        record.sidecarModificationDate = file->sidecar.modificationDate();
         texts.share(record);
-        if (PhotoFile::at(record.url).file == *file)
-            unchanged.append({ *file, record });
-        else
+        if (file->again() != *file)
             result.changed.append(record.url);
+        else if (file->sidecar.name.isEmpty() || !brokenSidecars.contains(file->sidecarURL()))
+            unchanged.append({ *file, record });
     }
     return unchanged;
 }
@@ -55,7 +57,8 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
     const std::shared_ptr<RecordCache>& cache)
 {
     Result result;
-    const QList<PhotoFile> before = looks(urls, result.leftOut);
+    QSet<QUrl> brokenSidecars;
+    const QList<PhotoFile> before = looks(urls, service.sidecars, result.leftOut);
     const auto beginning = cache ? cache->begin(before) : RecordCache::Beginning();
     QList<QUrl> readable;
     for (const PhotoFile& file : before)
@@ -68,8 +71,10 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
         result.records = std::move(outcome.records);
         for (const FileFailure& failure : std::as_const(outcome.leftOut))
             result.leftOut.append({ failure.file.fileName(), inSentence(failure.reason) });
-        for (const FileFailure& failure : std::as_const(outcome.sidecars))
+        for (const FileFailure& failure : std::as_const(outcome.sidecars)) {
             result.leftOut.append({ failure.file.fileName(), inSentence(failure.reason) });
+            brokenSidecars.insert(failure.file);
+        }
     } catch (const CancelledError&) {
         result.isCancelled = true;
     } catch (const Error& error) {
@@ -78,7 +83,7 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
         result.error = QString::fromUtf8(error.what());
     }
     progress.processID = 0;
-    QList<RecordCache::Read> unchanged = finished(result, before);
+    QList<RecordCache::Read> unchanged = finished(result, before, brokenSidecars);
     if (cache)
         cache->put(beginning, std::move(unchanged));
     return result;

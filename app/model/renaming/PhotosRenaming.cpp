@@ -449,15 +449,15 @@ void PhotosRenaming::keepInCache(const NewNames& names)
     }
     runPatiently(
         this,
-        [cache = m_parts.cache, records, details] {
+        [cache = m_parts.cache, sidecars = m_model.sidecarPolicy(), records, details] {
             QList<PhotoFile> files;
             QList<RecordCache::Read> reads;
             QList<RecordCache::DetailsRead> detailsReads;
             for (const ImageRecord& record : records) {
-                const std::optional<PhotoFile> file = PhotoFile::at(record.url).file;
+                const std::optional<PhotoFile> file = PhotoFile::at(record.url, sidecars).file;
                 // As it was when it was read, and as the system tells it.
-                if (!file || record.contentModificationDate != file->modificationDate()
-                    || record.creationDate != file->creationDate() || record.fileSize != file->size)
+                if (!file || !file->isOf(record) || record.creationDate != file->creationDate()
+                    || record.fileSize != file->size)
                     continue;
                 files.append(*file);
                 reads.append({ *file, record });

@@ -43,7 +43,7 @@ public:
         if (known == m_steps.cend())
             known = m_steps.insert(file.device, FileSystem::of(file.url.toLocalFile()).clockStep.count());
         // One that is older than its kind may keep whole seconds.
-        return file.changed % aSecond == 0 ? std::max(*known, coarse) : *known;
+        return file.lastChanged() % aSecond == 0 ? std::max(*known, coarse) : *known;
     }
 
     // Whether a change since then would have given the file another date.
@@ -51,7 +51,8 @@ public:
     {
         const qint64 step = of(file);
         // Where the date of the change is kept coarsely, it may not be kept at all.
-        const qint64 newest = step < aSecond ? file.changed : std::max(file.changed, file.modified);
+        const qint64 newest = step < aSecond ? file.lastChanged()
+                                             : std::max({ file.lastChanged(), file.modified, file.sidecar.modified });
         return newest + step <= then;
     }
 
@@ -162,9 +163,9 @@ RecordCache::Beginning RecordCache::begin(const QList<PhotoFile>& files) const
     qint64 trusted = now;  // from when on all that can be trusted soon, can
     for (const PhotoFile& file : files)
         // Newer kernels date some changes more finely than this clock: they seem to lie ahead of it.
-        if (file.changed + longestTick > now && file.changed < now + longestTick)
+        if (file.lastChanged() + longestTick > now && file.lastChanged() < now + longestTick)
             if (const qint64 step = steps.of(file); step <= longestTick)
-                trusted = std::max(trusted, file.changed + step);
+                trusted = std::max(trusted, file.lastChanged() + step);
     while (clockNow() < trusted)
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     return { clockNow(), ReaderIdentity::toolStamp(m_runner) + ReaderIdentity::surroundings(m_runner) };
@@ -312,7 +313,7 @@ RecordCache::Rows RecordCache::rows(const Work& work, const QByteArray& reader) 
         if (put.beginning.reader != now)
             continue;
         const auto isTrusted = [&](const PhotoFile& before) {
-            return steps.canTrust(before, put.beginning.now) && PhotoFile::at(before.url).file == before;
+            return steps.canTrust(before, put.beginning.now) && before.again() == before;
         };
         for (const Read& read : put.reads)
             if (isTrusted(read.before))

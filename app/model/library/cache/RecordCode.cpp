@@ -2,6 +2,7 @@
 
 #include "app/model/library/cache/Packing.h"
 #include "core/schema/FieldSchema.h"
+#include "core/sidecar/SidecarSchema.h"
 
 #include <QCryptographicHash>
 #include <QtEndian>
@@ -69,6 +70,21 @@ std::optional<ImageRecord> decoded(QByteArrayView bytes)
     return from.isGood() ? std::optional(std::move(record)) : std::nullopt;
 }
 
+// How a sidecar's values come over its photo's: to be raised whenever that is done otherwise.
+constexpr int sidecarMeaning = 1;
+
+// Of a photo without a sidecar nothing: it counts as it always did.
+QByteArray stampOf(const PhotoFile::Sidecar& sidecar)
+{
+    if (sidecar.name.isEmpty())
+        return {};
+    static const QByteArray tags = SidecarSchema::readTags().join(u' ').toUtf8();
+    return QByteArrayList{ "sidecar", QByteArray::number(sidecarMeaning), tags, sidecar.name.toUtf8(),
+        QByteArray::number(sidecar.inode), QByteArray::number(sidecar.size), QByteArray::number(sidecar.modified),
+        QByteArray::number(sidecar.changed) }
+        .join('\0');
+}
+
 QByteArray seal(QByteArrayView content, const PhotoFile& file, const QByteArray& reader)
 {
     const QByteArray path = file.url.toLocalFile().toUtf8();
@@ -82,6 +98,7 @@ QByteArray seal(QByteArrayView content, const PhotoFile& file, const QByteArray&
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(stamp);
     hash.addData(path);
+    hash.addData(stampOf(file.sidecar));
     hash.addData(reader);
     hash.addData(content);
     return hash.result().first(sealSize);
@@ -148,6 +165,8 @@ std::optional<ImageRecord> opened(const QByteArray& sealed, const PhotoFile& fil
     record->fileName = file.url.fileName();
     record->creationDate = file.creationDate();
     record->contentModificationDate = file.modificationDate();
+    record->sidecarName = file.sidecar.name;
+    record->sidecarModificationDate = file.sidecar.modificationDate();
     return record;
 }
 

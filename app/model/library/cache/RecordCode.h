@@ -10,12 +10,12 @@
 
 namespace Quorbel::RecordCode {
 
-/// What the reader found in the photo. Its name and its dates are not among it: the file system knows them. Empty for a
-/// record that could not be had back exactly, or was not read.
+/// What the reader found in the photo, and beside it. Names and dates are not among it: the file system knows them.
+/// Empty for a record that could not be had back exactly, or was not read.
 QByteArray encoded(const ImageRecord& record);
 
-/// The same, sealed: only for this file, as it is at that look, and for the same reader it opens again. A byte that is
-/// not as it was breaks the seal.
+/// The same, sealed: only for this file and its sidecar, as they are at that look, and for the same reader it opens
+/// again. A byte that is not as it was breaks the seal.
 QByteArray sealed(const QByteArray& encoded, const PhotoFile& file, const QByteArray& reader);
 /// What was sealed; nothing when the seal is another's, or broken. Valid as long as the bytes are.
 std::optional<QByteArrayView> unsealed(const QByteArray& sealed, const PhotoFile& file, const QByteArray& reader);

@@ -13,11 +13,11 @@ struct Target {
 };
 
 // The files of those photos that have one.
-QHash<QUrl, PhotoFile> looks(const QList<ImageRecord>& photos)
+QHash<QUrl, PhotoFile> looks(const QList<ImageRecord>& photos, const SidecarPolicy& sidecars)
 {
     QHash<QUrl, PhotoFile> files;
     for (const ImageRecord& photo : photos)
-        if (const PhotoFile::Look look = PhotoFile::at(photo.url); look.file)
+        if (const PhotoFile::Look look = PhotoFile::at(photo.url, sidecars); look.file)
             files.insert(photo.url, *look.file);
     return files;
 }
@@ -25,7 +25,7 @@ QHash<QUrl, PhotoFile> looks(const QList<ImageRecord>& photos)
 // Takes what the cache knows. Returns the others.
 QList<Target> withoutKnown(const Order& order, Result& result, const std::stop_token& stop)
 {
-    const QHash<QUrl, PhotoFile> files = looks(order.photos);
+    const QHash<QUrl, PhotoFile> files = looks(order.photos, order.sidecars);
     QHash<QUrl, PhotoDetails> known;
     if (order.cache && order.isCacheAsked)
         known = order.cache->findDetails(files.values(), stop);
@@ -50,14 +50,14 @@ void take(const QHash<QUrl, PhotoDetails>& answer, const QList<Target>& targets,
 {
     for (const auto& [photo, before] : targets) {
         const auto details = answer.constFind(photo.url);
-        if (PhotoFile::at(photo.url).file != before) {
+        if (before.again() != before) {
             result.changed.append(photo.url);
         } else if (details == answer.cend()) {
             result.unreadable.append(photo.url);
         } else {
             result.found.append(*details);
             result.found.last().url = photo.url;
-            if (photo.contentModificationDate == before.modificationDate())
+            if (before.isOf(photo))
                 kept.append({ before, *details });
         }
     }

@@ -24,6 +24,7 @@ struct Order {
     qsizetype most = 0;  ///< so many of those that are not in the cache are read, the first ones
     std::shared_ptr<RecordCache> cache{};  ///< what is read is put into it; null where there is none
     bool isCacheAsked = true;
+    SidecarPolicy sidecars{};  ///< by which the photos were read
 };
 
 struct Result {

@@ -428,7 +428,9 @@ void DetailsReading::start(Lane lane, const QList<QUrl>& photos)
         m_tasks.begin(RunningTasks::Kind::details, photos.size(), photos, isOfSurvey ? m_survey->id : 0);
     m_running.push_back({ task.id, lane, photos, m_writes.writes(), {} });
     m_reading.unite(QSet<QUrl>(photos.cbegin(), photos.cend()));
-    DetailsReader::Order order{ .most = readAtOnce, .cache = m_cache, .isCacheAsked = m_isCacheAsked };
+    DetailsReader::Order order{
+        .most = readAtOnce, .cache = m_cache, .isCacheAsked = m_isCacheAsked, .sidecars = m_sidecars
+    };
     order.photos.reserve(photos.size());
     for (const QUrl& photo : photos)
         order.photos.append(*m_photos.record(photo));

@@ -37,6 +37,8 @@ public:
     /// before photos are read that nobody asked for.
     void setAsking(DetailsReader::Ask ask, std::chrono::milliseconds delay);
 
+    void setSidecars(const SidecarPolicy& policy) { m_sidecars = policy; }
+
     const DetailsStore& store() const { return m_store; }
     Census census() const;
 
@@ -117,6 +119,7 @@ private:
     PhotoList& m_photos;
     const FolderRefresh& m_writes;
     std::shared_ptr<RecordCache> m_cache;
+    SidecarPolicy m_sidecars;
     DetailsReader::Ask m_ask;
     std::chrono::milliseconds m_delay{ 0 };
     QTimer m_soon;

@@ -52,6 +52,8 @@ public:
     void setFirst(const std::optional<QUrl>& photo);
     void setInView(const QList<QUrl>& photos) { m_queue.setInView(photos); }
     void require(const QList<QUrl>& photos);
+    /// Whether it waits, or is being read.
+    bool isAwaited(const QUrl& photo) const { return m_queue.isKnown(photo); }
     /// These need not be read any more: they are gone, or somebody else has read them.
     void drop(const QList<QUrl>& photos);
     /// From now on only what somebody waits for is read.

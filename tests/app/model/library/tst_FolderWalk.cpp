@@ -51,7 +51,7 @@ Walked walked(const QString& root, const QStringList& tops, std::stop_token stop
         urls.append(QUrl::fromLocalFile(root + u'/' + top));
     Walked walked;
     const auto below = [&root](const QUrl& url) { return url.toLocalFile().mid(root.size() + 1); };
-    walked.isWhole = FolderWalk::through(urls, stop, [&](const FolderWalk::Found& found) {
+    walked.isWhole = FolderWalk::through(urls, {}, stop, [&](const FolderWalk::Found& found) {
         walked.pieces.append(found.photos.size());
         walked.isEnded = found.isLast;
         for (const FolderWalk::Photo& photo : found.photos)

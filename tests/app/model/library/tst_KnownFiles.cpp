@@ -1,6 +1,10 @@
 // What a look makes of what it sees. Folders that may not be read are played: whoever runs the tests may read all.
 #include "app/model/library/KnownFiles.h"
 
+#include "app/model/library/sidecars/SeenSidecars.h"
+
+#include <QTemporaryDir>
+
 #include <QTest>
 
 using namespace Quorbel;
@@ -68,6 +72,9 @@ private slots:
     void news_data();
     void news();
     void readInVain();
+    void sidecars_data();
+    void sidecars();
+    void sidecarsAreFoundAsThePolicyFindsThem();
 };
 
 void tst_KnownFiles::news_data()
@@ -150,6 +157,67 @@ void tst_KnownFiles::readInVain()
     QCOMPARE(further(u"/t/b.jpg"_s), 0);
     files.forget(QUrl::fromLocalFile(u"/t/b.jpg"_s));
     QCOMPARE(further(u"/t/b.jpg"_s), 1);
+}
+
+void tst_KnownFiles::sidecars_data()
+{
+    QTest::addColumn<SidecarStamp>("known");
+    QTest::addColumn<SidecarStamp>("seen");
+    QTest::addColumn<bool>("isNews");
+    QTest::addRow("none") << SidecarStamp() << SidecarStamp() << false;
+    QTest::addRow("the same") << SidecarStamp{ u"a.xmp"_s, 5 } << SidecarStamp{ u"a.xmp"_s, 5 } << false;
+    QTest::addRow("made") << SidecarStamp() << SidecarStamp{ u"a.xmp"_s, 5 } << true;
+    QTest::addRow("written") << SidecarStamp{ u"a.xmp"_s, 5 } << SidecarStamp{ u"a.xmp"_s, 6 } << true;
+    QTest::addRow("gone") << SidecarStamp{ u"a.xmp"_s, 5 } << SidecarStamp() << true;
+    QTest::addRow("another name") << SidecarStamp{ u"a.xmp"_s, 5 } << SidecarStamp{ u"a.cr2.xmp"_s, 5 } << true;
+}
+
+void tst_KnownFiles::sidecars()
+{
+    QFETCH(SidecarStamp, known);
+    QFETCH(SidecarStamp, seen);
+    QFETCH(bool, isNews);
+    const auto record = [](const SidecarStamp& sidecar) {
+        ImageRecord photo = records({ u"/t/a.cr2"_s }).constFirst();
+        photo.sidecarName = sidecar.name;
+        if (sidecar.modified)
+            photo.sidecarModificationDate = QDateTime::fromMSecsSinceEpoch(*sidecar.modified);
+        return photo;
+    };
+    FolderScan scan = scanOf({ u"/t/"_s, u"/t/a.cr2"_s });
+    if (!seen.name.isEmpty())
+        scan.folders[u"/t"_s].sidecars.insert(u"a.cr2"_s, seen);
+    KnownFiles files({ record(known) });
+    const FolderNews news = files.look([&scan] { return scan; }, false);
+    QCOMPARE(paths(news.changed), isNews ? QStringList{ u"/t/a.cr2"_s } : QStringList());
+    // Once it is read again, that holds.
+    files.note(record(seen));
+    QVERIFY(files.look([&scan] { return scan; }, false).changed.isEmpty());
+}
+
+// Of all sidecars that a photo may have, any of them there or not.
+void tst_KnownFiles::sidecarsAreFoundAsThePolicyFindsThem()
+{
+    const QTemporaryDir folder;
+    const SidecarPolicy policy{ .isRawBeside = true };
+    const QStringList names{ u"a.b.CR2.xmp"_s, u"a.b.CR2.XMP"_s, u"a.b.xmp"_s, u"a.b.XMP"_s, u"a.xmp"_s };
+    const QUrl photo = QUrl::fromLocalFile(folder.filePath(u"a.b.CR2"_s));
+    for (int there = 0; there < 32; ++there) {
+        SeenSidecars seen(policy);
+        for (int i = 0; i < names.size(); ++i) {
+            const QString path = folder.filePath(names.at(i));
+            QFile file(path);
+            if ((there >> i & 1) == 0) {
+                file.remove();
+                continue;
+            }
+            QVERIFY(file.open(QIODevice::WriteOnly) && seen.isWanted(names.at(i)));
+            seen.add(path);
+        }
+        QCOMPARE(seen.of(photo), policy.existing(photo));
+        QCOMPARE(seen.of(QUrl::fromLocalFile(folder.filePath(u"a.b.jpg"_s))), QString());
+    }
+    QVERIFY(!SeenSidecars({}).isWanted(u"a.xmp"_s));
 }
 
 QTEST_GUILESS_MAIN(tst_KnownFiles)

@@ -136,6 +136,8 @@ private slots:
     void equalsRead();
     void invalidations_data();
     void invalidations();
+    void sidecars_data();
+    void sidecars();
     void anotherReader_data();
     void anotherReader();
     void toolIsNotRun();
@@ -235,6 +237,8 @@ void tst_RecordCache::brokenSeals()
     ++others[5].changed;
     for (const PhotoFile& other : std::as_const(others))
         QCOMPARE(RecordCode::opened(good, other, "reader"), std::nullopt);
+    // What was kept before anybody knew of sidecars still opens.
+    QCOMPARE(RecordCode::sealed("content", file, "reader").first(16).toHex(), "9b0c6bafa6227755208e3861bf66ee3c");
 }
 
 // Real photos and broken ones: read, from the cache, and from the cache as the next start of the program opens it.
@@ -329,6 +333,64 @@ void tst_RecordCache::invalidations()
     // Once it is read again, that holds.
     setting.put();
     QCOMPARE(setting.found(), setting.records());
+}
+
+void tst_RecordCache::sidecars_data()
+{
+    QTest::addColumn<std::function<void(const PhotoFolder&, SidecarPolicy&)>>("change");
+    QTest::addColumn<QStringList>("found");
+    const auto row = [](const char* name, const QStringList& found,
+                         const std::function<void(const PhotoFolder&, SidecarPolicy&)>& change) {
+        QTest::newRow(name) << change << found;
+    };
+    const QString with = u"with.cr2"_s;
+    const QString without = u"without.cr2"_s;
+    row("nothing", { with, without }, [](const PhotoFolder&, SidecarPolicy&) {});
+    row("another content of the same size, date set back", { without }, [](const PhotoFolder& folder, SidecarPolicy&) {
+        const QString path = folder.path(u"with.xmp"_s);
+        struct stat before { };
+        QCOMPARE(stat(localName(path).constData(), &before), 0);
+        writeFile(path, "y");
+        setBack(path, before);
+    });
+    row("gone", { without },
+        [](const PhotoFolder& folder, SidecarPolicy&) { QVERIFY(QFile::remove(folder.path(u"with.xmp"_s))); });
+    row("another one goes before it", { without },
+        [](const PhotoFolder& folder, SidecarPolicy&) { writeFile(folder.path(u"with.cr2.xmp"_s), "x"); });
+    row("a first one", { with },
+        [](const PhotoFolder& folder, SidecarPolicy&) { writeFile(folder.path(u"without.XMP"_s), "x"); });
+    row("edits go into the file", { without },
+        [](const PhotoFolder&, SidecarPolicy& policy) { policy.isRawBeside = false; });
+}
+
+void tst_RecordCache::sidecars()
+{
+    QFETCH(std::function<void(const PhotoFolder&, SidecarPolicy&)>, change);
+    QFETCH(QStringList, found);
+    const Setting setting;
+    SidecarPolicy policy{ .isRawBeside = true };
+    const QList<QUrl> urls{ setting.photos.add(u"with.cr2"_s), setting.photos.add(u"without.cr2"_s) };
+    writeFile(setting.photos.path(u"with.xmp"_s), "x");
+    const auto files = [&] {
+        return QList{ *PhotoFile::at(urls[0], policy).file, *PhotoFile::at(urls[1], policy).file };
+    };
+    RecordCache cache(setting.options(), setting.tool.runner());
+    QList<RecordCache::Read> reads;
+    const QList<PhotoFile> before = files();
+    for (const PhotoFile& file : before)
+        reads.append({ file, recordOf(file, u"Dawn"_s) });
+    cache.put(cache.begin(before), reads);
+    cache.waitUntilWritten();
+    change(setting.photos, policy);
+    const Records known = cache.find(files());
+    QStringList names;
+    for (const ImageRecord& record : known) {
+        names.append(record.fileName);
+        QCOMPARE(record.sidecarName, record.fileName == u"with.cr2"_s ? u"with.xmp"_s : QString());
+        QCOMPARE(record.sidecarModificationDate.has_value(), !record.sidecarName.isEmpty());
+    }
+    names.sort();
+    QCOMPARE(names, found);
 }
 
 void tst_RecordCache::anotherReader_data()
