@@ -1,6 +1,7 @@
 #include "core/save/SaveVerification.h"
 
 #include "core/iptc/IptcSchema.h"
+#include "core/iptc/NumberCheck.h"
 #include "core/save/ListHomes.h"
 #include "core/save/TagHomes.h"
 #include "core/schema/CustomFields.h"
@@ -220,13 +221,31 @@ bool holdsChange(const EditPlan& plan, const FieldSpec& field, const ListChange&
     });
 }
 
+// What is no number is not written, whatever the files hold.
+bool isRefused(const EditPlan& plan, const FieldSpec& field)
+{
+    const ListChange change = plan.iptcLists.value(field.id);
+    const QStringList texts = change.whole.value_or(QStringList()) + change.added;
+    return !NumberCheck::problem(field, QStringList(plan.scalars.value(field.id)) + texts).isEmpty();
+}
+
+QStringList refusedNumbers(const EditPlan& plan)
+{
+    QStringList keys;
+    for (const QString& id : plan.scalars.keys() + plan.iptcLists.keys())
+        if (const FieldSpec* field = IptcSchema::spec(id);
+            field && field->kind == FieldKind::number && isRefused(plan, *field))
+            keys.append(id);
+    return keys;
+}
+
 // The records know nothing of these fields.
 QStringList iptcDifferences(const EditPlan& plan, const QString& fileType, const FileTags& stored)
 {
     QStringList keys;
     for (const FieldSpec& one : IptcSchema::all()) {
         const FieldSpec& field = *plan.spec(one.id);
-        if (field.kind == FieldKind::structure || isInPart(plan, field))
+        if (field.kind == FieldKind::structure || isInPart(plan, field) || isRefused(plan, field))
             continue;
         const auto text = plan.scalars.constFind(field.id);
         const auto list = plan.iptcLists.constFind(field.id);
@@ -289,6 +308,7 @@ QStringList differences(const EditPlan& plan, const ImageRecord& record, const F
     }
     if (stored)
         keys += iptcDifferences(plan, record.fileType, *stored) + languageDifferences(plan, *stored);
+    keys += refusedNumbers(plan);
     for (const auto& custom : plan.customs)
         if (!holdsCustom(record, custom))
             keys.append(CustomFields::key(custom.name));

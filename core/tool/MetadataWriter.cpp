@@ -2,6 +2,7 @@
 
 #include "core/Product.h"
 #include "core/iptc/IptcSchema.h"
+#include "core/iptc/NumberCheck.h"
 #include "core/iptc/StructureText.h"
 #include "core/save/EditPlan.h"
 #include "core/schema/CustomFields.h"
@@ -66,6 +67,8 @@ QList<Assignment> scalarArgs(const FieldSpec& field, const QString& value)
 {
     if (field.kind == FieldKind::coordinates)
         return Coordinates::writeArgs(value);
+    if (!NumberCheck::problem(field, { value }).isEmpty())
+        return {};
     if (field.kind == FieldKind::structure)
         return structureValue(field, value);
     QString written = value;
@@ -143,6 +146,8 @@ QList<Assignment> structureArgs(const FieldSpec& field, const ListChange& change
 
 QList<Assignment> iptcArgs(const FieldSpec& field, const ListChange& change)
 {
+    if (!NumberCheck::problem(field, change.whole.value_or(QStringList()) + change.added).isEmpty())
+        return {};
     if (field.kind == FieldKind::structure)
         return structureArgs(field, change);
     QList<Assignment> args;

@@ -1,5 +1,7 @@
 #include "app/model/saving/SaveReasons.h"
 
+#include "core/iptc/IptcSchema.h"
+#include "core/iptc/NumberCheck.h"
 #include "core/save/SaveVerification.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldLanguages.h"
@@ -38,6 +40,30 @@ QString reasonsFor(const QStringList& keys, const QString& messages)
     return tags.isEmpty() ? QString() : refusals(messages, tags).join(u"; "_s);
 }
 
+QString numberProblem(const EditPlan& plan, const FieldSpec& field)
+{
+    const ListChange change = plan.iptcLists.value(field.id);
+    return NumberCheck::problem(
+        field, QStringList(plan.scalars.value(field.id)) + change.whole.value_or(QStringList()) + change.added);
+}
+
+// What was not asked of the tool: "not a whole number: “abc” in a.jpg, b.jpg". Of one photo it needs no name.
+QString refusedText(const QString& key, const SaveJob::Written& written)
+{
+    const FieldSpec* field = IptcSchema::spec(key);
+    QMap<QString, QStringList> photos;  // by reason
+    for (auto photo = written.photos.cbegin(); field && photo != written.photos.cend(); ++photo)
+        if (const QString problem = numberProblem(photo->plan, *field); !problem.isEmpty())
+            photos[problem].append(photo.key().fileName());
+    QStringList texts;
+    for (auto reason = photos.begin(); reason != photos.end(); ++reason) {
+        reason->sort();
+        texts.append(
+            written.photos.size() == 1 ? reason.key() : u"%1 in %2"_s.arg(reason.key(), Text::listed(*reason)));
+    }
+    return texts.join(u"; "_s);
+}
+
 QStringList namesOf(const QList<QUrl>& files)
 {
     QStringList names;
@@ -73,7 +99,8 @@ QString differencesText(const QStringList& keys, const SaveJob::Written& written
 {
     QStringList labels;
     for (const QString& key : keys) {
-        const QString reasons = reasonsFor({ key }, written.notes.messages);
+        const QString refused = refusedText(key, written);
+        const QString reasons = refused.isEmpty() ? reasonsFor({ key }, written.notes.messages) : refused;
         const QString label = SaveVerification::labels({ key }).constFirst();
         labels.append(reasons.isEmpty() ? label : u"%1 (%2)"_s.arg(label, reasons));
     }

@@ -1,6 +1,7 @@
 #include "core/save/together/PhotoPlans.h"
 
 #include "core/iptc/IptcSchema.h"
+#include "core/iptc/NumberCheck.h"
 #include "core/iptc/StructureChange.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/journal/JournalTags.h"
@@ -192,6 +193,13 @@ void decideStructures(PhotoPlan& photo, const IptcValues& held)
         ListChange wanted = photo.plan.iptcLists.value(id);
         if (const auto text = photo.plan.scalars.constFind(id); text != photo.plan.scalars.cend())
             wanted.whole = QStringList(*text);
+        // What the photo holds stays, and is not what was wanted.
+        if (const QStringList items = wanted.whole.value_or(held.structures(id)) + wanted.added;
+            !NumberCheck::problem(field, wanted.whole.value_or(QStringList()) + wanted.added).isEmpty()) {
+            photo.plan.together.insert(id, {});
+            photo.structures.insert(id, items);
+            continue;
+        }
         const StructureChange change = StructureChange::of(field, held.structures(id), wanted);
         if (!change.problem.isEmpty())
             photo.problem = change.problem;

@@ -126,6 +126,7 @@ private slots:
     void referenceFile();
     void structuresOfOthers();
     void severalPhotosGainStructures();
+    void whatIsNoNumberStaysOut();
     void sealsAreTold();
     void cardsAreRemembered();
     void whatBelongsTogether();
@@ -374,6 +375,43 @@ void tst_AppModelIptc::severalPhotosGainStructures()
         QCOMPARE(details.texts.value(u"iptc.contact"_s), item(R"({"CiEmailWork":"a@b.example, c@d.example"})"));
         QCOMPARE(details.lists.value(u"iptc.organisationNames"_s), QStringList{ u"UN"_s });
     }
+}
+
+// The tool would store 2748 for "abc", and take a member away whose new value it cannot use.
+void tst_AppModelIptc::whatIsNoNumberStaysOut()
+{
+    Photos photos;
+    photos.addTitled(jpgs(u"ab"_s));
+    exiftool({ u"-overwrite_original"_s, u"-XMP-iptcExt:MaxAvailWidth=800"_s, u"-XMP-iptcExt:ModelAge=30"_s,
+        u"-XMP-iptcExt:LocationShown={City=Rome,GPSLatitude=41.9}"_s, photos.url(u"a.jpg"_s).toLocalFile() });
+    QVERIFY(photos.open());
+    photos.select(u"a"_s);
+    QVERIFY(photos.knows(u"a"_s));
+    photos->setSingle(u"iptc.maxWidth"_s, u"abc"_s);
+    photos->setSingle(u"headline"_s, u"Forum"_s);
+    photos->addSingleListItem(u"iptc.modelAges"_s, u"bad"_s);
+    photos->setItems(u"iptc.locationsShown"_s, { item(R"({"City":"Roma","GPSLatitude":"north"})") });
+    QVERIFY(photos.save());
+    QCOMPARE(photos.banner(),
+        u"Saved, but 3 fields read back differently: Model ages (not a whole number: “bad”), "
+        "Locations shown (Latitude is not a number: “north”), Largest width (not a whole number: “abc”)"_s);
+    QCOMPARE(
+        photos->editedSingle(), QSet<QString>({ u"iptc.maxWidth"_s, u"iptc.modelAges"_s, u"iptc.locationsShown"_s }));
+    const QByteArray xmp = photos.xmp(u"a.jpg"_s);
+    QVERIFY(xmp.contains("<Iptc4xmpExt:MaxAvailWidth>800<") && xmp.contains("Rome") && xmp.contains("Forum"));
+    QVERIFY(!xmp.contains("Roma") && !xmp.contains("2748") && !xmp.contains("2989"));
+
+    // Of several photos those are named that it concerns.
+    photos.select(u"ab"_s);
+    photos->discardSaveDialog();
+    QVERIFY(photos.knows(u"ab"_s));
+    photos->layEdits({ .own = { { photos.url(u"a.jpg"_s), { .scalars = { { u"iptc.maxWidth"_s, u"900"_s } } } },
+                           { photos.url(u"b.jpg"_s), { .scalars = { { u"iptc.maxWidth"_s, u"abc"_s } } } } } });
+    QVERIFY(photos.save());
+    QCOMPARE(photos.banner(),
+        u"Saved, but 1 field reads back differently: Largest width (not a whole number: “abc” in b.jpg)"_s);
+    QCOMPARE(photos->unsavedCount(), 1);
+    QVERIFY(photos.xmp(u"a.jpg"_s).contains("<Iptc4xmpExt:MaxAvailWidth>900<"));
 }
 
 // Before a save where one is asked, else behind the first one.
