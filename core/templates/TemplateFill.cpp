@@ -332,6 +332,14 @@ QStringList refusals(const QList<Column>& columns)
     return lines;
 }
 
+bool isOfOnePhoto(const FieldSpec& field)
+{
+    static const QSet<QString> ids{ u"iptc.imageGuid"_s, u"iptc.supplierImageId"_s, u"iptc.maxWidth"_s,
+        u"iptc.maxHeight"_s };
+    return field.kind == FieldKind::date || field.kind == FieldKind::coordinates || field.kind == FieldKind::offset
+        || field.kind == FieldKind::structure || ids.contains(field.id);
+}
+
 // Fills one photo more into all columns.
 void addPhoto(QList<Column>& columns, const Seen& photo)
 {
@@ -382,14 +390,13 @@ TemplateFill::Result TemplateFill::edits(const Template& value, const QList<Imag
     return { edits, refusals(columns) };
 }
 
-Template TemplateFill::of(const QString& name, const ImageRecord& photo, const Edits& unsaved)
+Template TemplateFill::of(
+    const QString& name, const ImageRecord& photo, const Edits& unsaved, const PhotoDetails* details)
 {
     const auto pattern = [](const QString& text) { return TokenText{ { { .text = text } } }.pattern(); };
-    const ExternalRefresh::Drafts drafts = unsaved.onto(photo);
+    const ExternalRefresh::Drafts drafts = unsaved.onto(photo, details ? *details : PhotoDetails());
     Template made{ .name = name };
-    for (const FieldSpec& field : FieldSchema::all()) {
-        const bool isOfOnePhoto =
-            field.kind == FieldKind::date || field.kind == FieldKind::coordinates || field.kind == FieldKind::offset;
+    for (const FieldSpec& field : FieldSchema::everyField()) {
         TemplateField one{ .key = field.id, .mode = field.isList() ? TemplateMode::append : TemplateMode::set };
         if (field.isList()) {
             for (const QString& item : drafts.lists.value(field.id))
@@ -397,7 +404,7 @@ Template TemplateFill::of(const QString& name, const ImageRecord& photo, const E
         } else {
             one.text = pattern(drafts.values.value(field.id));
         }
-        if (!isOfOnePhoto && !one.isBlank())
+        if (!isOfOnePhoto(field) && !one.isBlank())
             made.fields.append(one);
     }
     for (const CustomValue& custom : drafts.customs)

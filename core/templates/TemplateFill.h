@@ -49,8 +49,9 @@ struct Result {
 Result edits(const Template& value, const QList<ImageRecord>& photos, const Edits& unsaved,
     const QHash<QUrl, PhotoDetails>& details, const std::function<bool()>& goOn = {});
 
-/// A template of what this photo holds: its texts and items, but no dates, positions and offsets.
-Template of(const QString& name, const ImageRecord& photo, const Edits& unsaved);
+/// A template of what this photo holds: its texts and items, but no dates, positions and offsets, no structures, and
+/// nothing that tells this picture from others. `details`: null where they were not read.
+Template of(const QString& name, const ImageRecord& photo, const Edits& unsaved, const PhotoDetails* details = nullptr);
 
 }  // namespace TemplateFill
 

@@ -108,7 +108,8 @@ void Templates::saveAsTemplate()
 {
     if (!canSaveAsTemplate())
         return;
-    Template made = TemplateFill::of(newName(m_store.all()), *m_model.primaryRecord(), m_unsaved());
+    const ImageRecord& photo = *m_model.primaryRecord();
+    Template made = TemplateFill::of(newName(m_store.all()), photo, m_unsaved(), m_model.details(photo.url));
     made.digit = freeDigit(m_store);
     choose(m_store.add(made));
     setOpen(true);

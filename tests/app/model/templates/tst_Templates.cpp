@@ -256,11 +256,17 @@ void tst_Templates::aPhotoBecomesATemplate()
         { { u"title"_s, u"100% %Date%"_s }, { u"date"_s, u"2024-10-02 14:05"_s }, { u"coords"_s, u"1.0, 2.0"_s } },
         { u"x"_s });
     lake.custom = { { u"Mood"_s, u"calm"_s } };
-    const Template made = TemplateFill::of(u"N"_s, lake, { .scalars = { { u"creator"_s, u"Ana"_s } } });
+    const PhotoDetails details{ .url = lake.url,
+        .texts = { { u"iptc.jobTitle"_s, u"Editor"_s }, { u"iptc.imageGuid"_s, u"4711"_s },
+            { u"iptc.contact"_s, uR"({"CiAdrCity":"Horn"})"_s } },
+        .lists = { { u"iptc.organisationNames"_s, { u"UN"_s } } } };
+    const Template made = TemplateFill::of(u"N"_s, lake, { .scalars = { { u"creator"_s, u"Ana"_s } } }, &details);
     QStringList keys;
     for (const TemplateField& field : made.fields)
         keys.append(field.key);
-    QCOMPARE(keys, QStringList({ u"title"_s, u"keywords"_s, u"creator"_s, u"custom:Mood"_s }));
+    QCOMPARE(keys,
+        QStringList({ u"title"_s, u"keywords"_s, u"creator"_s, u"iptc.jobTitle"_s, u"iptc.organisationNames"_s,
+            u"custom:Mood"_s }));
     // The texts of the photo are no tokens.
     QCOMPARE(
         shown(TemplateFill::edits(made, { three().at(2) }, {}, {}).edits, three().at(2), u"title"_s), u"100% %Date%"_s);
