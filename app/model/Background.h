@@ -55,9 +55,9 @@ void runIn(QThreadPool& pool, QObject* owner, Job job, Done done)
             done();
             discardInBackground(std::move(done));
         } else {
-            Result result = watcher->future().takeResult();
-            done(std::move(result));
-            discardInBackground(std::pair(std::move(result), std::move(done)));
+            std::pair ended(watcher->future().takeResult(), std::move(done));
+            ended.second(std::move(ended.first));  // it may leave some of the result, or all of it
+            discardInBackground(std::move(ended));
         }
     });
     watcher->setFuture(QtConcurrent::run(&pool, std::move(job)));

@@ -13,7 +13,7 @@ namespace Quorbel {
 
 class CodeList final {
 public:
-    static constexpr qsizetype largest = 16 * 1024 * 1024;  ///< bytes of a text
+    static constexpr qsizetype largest = 16LL * 1024 * 1024;  ///< bytes of a text
     static constexpr qsizetype longestCode = 64;  ///< characters
     /// Of the lines that something is wrong with, so many are told of; of the others, how many they are.
     static constexpr qsizetype mostNotes = 5;

@@ -14,7 +14,7 @@ namespace Quorbel {
 
 struct CopiedFields {
     /// Characters of a text of fields, bytes of its file.
-    static constexpr qsizetype largest = 4 * 1024 * 1024;
+    static constexpr qsizetype largest = 4LL * 1024 * 1024;
 
     QString photo{};  ///< path of the photo that they were copied from; "" where that is not known
     QDateTime copiedAt{};  ///< local time; invalid where that is not known

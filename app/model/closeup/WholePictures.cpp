@@ -22,7 +22,7 @@ constexpr int shutdownPatience = 2'000;  // milliseconds
 // An eighth of the machine's, within reason.
 qsizetype usualBytes()
 {
-    constexpr qsizetype megabyte = 1024 * 1024;
+    constexpr qsizetype megabyte = 1024LL * 1024;
     const qsizetype memory = qsizetype(sysconf(_SC_PHYS_PAGES)) * sysconf(_SC_PAGESIZE);
     return std::clamp(memory / 8, 160 * megabyte, 512 * megabyte);
 }
@@ -52,7 +52,7 @@ QImage halved(const QImage& image)
         const auto* upper = reinterpret_cast<const quint32*>(image.constScanLine(2 * y));
         const auto* lower = reinterpret_cast<const quint32*>(image.constScanLine(2 * y + 1));
         auto* to = reinterpret_cast<quint32*>(half.scanLine(y));
-        for (int x = 0; x < size.width(); ++x)
+        for (qsizetype x = 0; x < size.width(); ++x)
             to[x] = mean(upper[2 * x], upper[2 * x + 1], lower[2 * x], lower[2 * x + 1]);
     }
     return half;
@@ -224,7 +224,7 @@ void WholePictures::finish(const QUrl& photo, int ticket, Held made)
         return discardInBackground(std::move(made));
     m_jobs.erase(job);
     made.seen = ++m_looks;
-    m_held.insert(photo, std::move(made));
+    m_held.emplace(photo, std::move(made));
     makeRoom();
     emit changed(photo);
     pump();

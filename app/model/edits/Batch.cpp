@@ -212,9 +212,9 @@ void Batch::take(const Edits& newEdits)
         if (name)
             names.append(*name);
         // What stands aside belongs to what was typed over it.
-        if (name ? edits.customs != old.customs : edits.scalars.value(key) != old.scalars.value(key))
-            setAside.remove(key);
-        else if (setAside.contains(key) && edits.hasOwn(key))
+        const bool isTypedOver =
+            name ? edits.customs != old.customs : edits.scalars.value(key) != old.scalars.value(key);
+        if (isTypedOver || edits.hasOwn(key))
             setAside.remove(key);
     }
     customNames.append(names);

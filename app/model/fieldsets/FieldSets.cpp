@@ -137,8 +137,10 @@ Filtering::Course::Found FieldSets::gapsOf(int position) const
 std::optional<FieldSets::Count> FieldSets::count(FieldSection section) const
 {
     const FieldSet* set = chosen();
+    if (!set)
+        return std::nullopt;
     Count count;
-    for (const QString& id : set ? set->fields : QStringList()) {
+    for (const QString& id : set->fields) {
         if (!set->wanted.contains(id) || FieldSchema::spec(id)->section != section)
             continue;
         const FieldFill fill = m_reach.fill(id);

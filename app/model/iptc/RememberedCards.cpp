@@ -8,6 +8,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <ranges>
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -114,8 +116,8 @@ void RememberedCards::noteSaved(
                 continue;
             seen = cards;
             const bool isNamed = field.key() == "iptc.contact";
-            for (auto card = cards.crbegin(); card != cards.crend(); ++card)
-                use(field.key(), { *card, isNamed ? photo.values.value(FieldID::creator) : QString() });
+            for (const QString& card : std::views::reverse(cards))
+                use(field.key(), { card, isNamed ? photo.values.value(FieldID::creator) : QString() });
         }
     }
     if (m_cards != before)

@@ -12,8 +12,8 @@ namespace {
 
 bool isSilent(const PhotoDetails& details)
 {
-    return details.texts.isEmpty() && details.lists.isEmpty() && details.paths.isEmpty() && details.disagreements.isEmpty()
-        && !details.hasCredentials;
+    return details.texts.isEmpty() && details.lists.isEmpty() && details.paths.isEmpty()
+        && details.disagreements.isEmpty() && !details.hasCredentials;
 }
 
 }  // namespace
@@ -48,7 +48,7 @@ void DetailsStore::put(PhotoDetails details)
     share(details);
     count(details, 1);
     const QUrl photo = details.url;
-    m_details.insert(photo, std::move(details));
+    m_details.emplace(photo, std::move(details));
 }
 
 bool DetailsStore::outdate(const QUrl& photo)
