@@ -31,8 +31,7 @@ void FieldSetMenu::fill()
     m_menu->clear();
     auto* group = new QActionGroup(m_menu);
     for (const QString& name : sets.names()) {
-        // Menus take "&" for the mark of a mnemonic.
-        QAction* action = m_menu->addAction(QString(name).replace(u'&', u"&&"_s));
+        QAction* action = m_menu->addAction(ThemedMenu::literal(name));
         action->setCheckable(true);
         action->setChecked(name == sets.current());
         group->addAction(action);

@@ -33,17 +33,9 @@ HandsMenu::HandsMenu(AppModel& model, ContentView& content)
         connect(&model, change, this, &HandsMenu::followState);
 }
 
-QAction* HandsMenu::add(QMenu* menu, const QString& text, const QList<QKeySequence>& keys, std::function<void()> run)
+void HandsMenu::addToFile(ThemedMenu* menu)
 {
-    QAction* action = menu->addAction(text);
-    action->setShortcuts(keys);
-    connect(action, &QAction::triggered, this, [run = std::move(run)] { run(); });
-    return action;
-}
-
-void HandsMenu::addToFile(QMenu* menu)
-{
-    m_saveAndGoOn = add(menu, u"Save and Ne&xt Photo"_s, { Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter },
+    m_saveAndGoOn = menu->addCommand(u"Save and Ne&xt Photo"_s, { Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter },
         [this] { m_content.saveAndGoOn(); });
     followState();
 }
@@ -51,8 +43,8 @@ void HandsMenu::addToFile(QMenu* menu)
 void HandsMenu::addToEdit(ThemedMenu* menu)
 {
     addRating(menu);
-    m_sameAsBefore = add(menu, u"Same as Photo Be&fore"_s, { Qt::CTRL | Qt::Key_Apostrophe },
-        [this] { m_content.takeFromPhotoBefore(); });
+    m_sameAsBefore = menu->addCommand(
+        u"Same as Photo Be&fore"_s, { Qt::CTRL | Qt::Key_Apostrophe }, [this] { m_content.takeFromPhotoBefore(); });
     // Where no field has the keyboard there is nothing to fill; the keys are let through once the menu is closed.
     connect(menu, &QMenu::aboutToShow, this,
         [this] { m_sameAsBefore->setEnabled(m_model.hasPhotoBefore() && m_content.hasField()); });
@@ -66,7 +58,7 @@ void HandsMenu::addRating(ThemedMenu* menu)
     auto* group = new QActionGroup(m_rating);
     group->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     for (int stars = 0; stars <= mostStars; ++stars) {
-        QAction* action = add(m_rating, starsText(stars), { Qt::CTRL | Qt::ALT | Qt::Key(Qt::Key_0 + stars) },
+        QAction* action = m_rating->addCommand(starsText(stars), { Qt::CTRL | Qt::ALT | Qt::Key(Qt::Key_0 + stars) },
             [this, stars] { m_model.rate(stars); });
         action->setCheckable(true);
         group->addAction(action);
@@ -86,11 +78,11 @@ void HandsMenu::showRating()
         actions.at(stars)->setChecked(shown && (*shown == QString::number(stars) || (stars == 0 && shown->isEmpty())));
 }
 
-void HandsMenu::addToView(QMenu* menu)
+void HandsMenu::addToView(ThemedMenu* menu)
 {
-    m_next = add(menu, u"Ne&xt Photo"_s, { Qt::ALT | Qt::Key_Down }, [this] { m_content.step(1); });
-    m_previous = add(menu, u"Previ&ous Photo"_s, { Qt::ALT | Qt::Key_Up }, [this] { m_content.step(-1); });
-    m_look = add(menu, u"&Look Closely"_s, { Qt::Key_F11 }, [this] { m_content.toggleCloseup(); });
+    m_next = menu->addCommand(u"Ne&xt Photo"_s, { Qt::ALT | Qt::Key_Down }, [this] { m_content.step(1); });
+    m_previous = menu->addCommand(u"Previ&ous Photo"_s, { Qt::ALT | Qt::Key_Up }, [this] { m_content.step(-1); });
+    m_look = menu->addCommand(u"&Look Closely"_s, { Qt::Key_F11 }, [this] { m_content.toggleCloseup(); });
     followState();
 }
 

@@ -2,12 +2,9 @@
 // Thread: the main thread. Adds them to the menus that it is given.
 #pragma once
 
-#include <QAction>
-#include <QList>
-#include <QMenu>
 #include <QObject>
 
-#include <functional>
+class QAction;
 
 namespace Quorbel {
 
@@ -23,12 +20,11 @@ public:
     /// Belongs to the content.
     HandsMenu(AppModel& model, ContentView& content);
     /// Behind Save.
-    void addToFile(QMenu* menu);
+    void addToFile(ThemedMenu* menu);
     void addToEdit(ThemedMenu* menu);
-    void addToView(QMenu* menu);
+    void addToView(ThemedMenu* menu);
 
 private:
-    QAction* add(QMenu* menu, const QString& text, const QList<QKeySequence>& keys, std::function<void()> run);
     void addRating(ThemedMenu* menu);
     void showRating();
     void followState();
@@ -36,7 +32,7 @@ private:
     AppModel& m_model;
     ContentView& m_content;
     QAction* m_saveAndGoOn = nullptr;
-    QMenu* m_rating = nullptr;
+    ThemedMenu* m_rating = nullptr;
     QAction* m_sameAsBefore = nullptr;
     QAction* m_next = nullptr;
     QAction* m_previous = nullptr;

@@ -1,14 +1,11 @@
 // The main window's menus and their shortcuts. Thread: the main thread.
 #pragma once
 
-#include <QKeySequence>
-#include <QMenu>
 #include <QObject>
 
 #include <functional>
 
 class QAction;
-class QMenuBar;
 
 namespace Quorbel {
 
@@ -36,22 +33,14 @@ public:
 private:
     void addFileMenu(const MenuCommands& commands);
     void addEditMenu();
-    void addFieldCommands(QMenu* menu);
+    void addFieldCommands(ThemedMenu* menu);
     void addViewMenu();
-    void addGaps(QMenu* menu);
+    void addGaps(ThemedMenu* menu);
     void addHelpMenu(const MenuCommands& commands);
     ThemedMenu* addMenu(const QString& title);
-    QAction* add(QMenu* menu, const QString& text, const QList<QKeySequence>& keys, std::function<void()> run);
-    void addEditing(QMenu* menu, const QString& text, QKeySequence::StandardKey key, const char* slot,
-        const std::function<bool(const QWidget&)>& possible);
     void showShortcuts();
     void fillRecents();
     void fillBringBack();
-    void addTemplates(ThemedMenu* menu);
-    void fillTemplates();
-    void followTemplates();
-    void addQuickKeywords(ThemedMenu* menu);
-    void fillQuickKeywords();
     void followState();
 
     AppModel& m_model;
@@ -59,9 +48,6 @@ private:
     HandsMenu* m_hands;
     ThemedMenu* m_recents = nullptr;
     ThemedMenu* m_bringBack = nullptr;
-    ThemedMenu* m_templates = nullptr;
-    QAction* m_saveAsTemplate = nullptr;
-    ThemedMenu* m_quick = nullptr;
     QAction* m_save = nullptr;
     QAction* m_undoSave = nullptr;
     QAction* m_rename = nullptr;

@@ -89,6 +89,19 @@ ThemedMenu* ThemedMenu::addThemedMenu(const QString& title)
     return menu;
 }
 
+QAction* ThemedMenu::addCommand(const QString& text, const QList<QKeySequence>& keys, const std::function<void()>& run)
+{
+    QAction* action = addAction(text);
+    action->setShortcuts(keys);
+    connect(action, &QAction::triggered, this, [run] { run(); });
+    return action;
+}
+
+QString ThemedMenu::literal(QString text)
+{
+    return text.replace(u'&', u"&&"_s);
+}
+
 void ThemedMenu::popUpUnder(const QWidget* anchor, Qt::Alignment edge, bool once)
 {
     setAttribute(Qt::WA_DeleteOnClose, once);

@@ -2,8 +2,10 @@
 // Thread: the main thread.
 #pragma once
 
+#include <QKeySequence>
 #include <QMenu>
 
+#include <functional>
 #include <optional>
 
 namespace Quorbel {
@@ -19,6 +21,10 @@ public:
     /// A line in small muted type above a group of items; cannot be chosen.
     QAction* addHeader(const QString& title);
     ThemedMenu* addThemedMenu(const QString& title);
+    /// Of several keys the first is shown.
+    QAction* addCommand(const QString& text, const QList<QKeySequence>& keys, const std::function<void()>& run);
+    /// The text as an item's, in which "&" is itself and marks no letter.
+    static QString literal(QString text);
     /// Shows the menu under a widget, aligned with its left or right edge; returns at once. Deletes itself when
     /// closed if `once`.
     void popUpUnder(const QWidget* anchor, Qt::Alignment edge = Qt::AlignLeft, bool once = false);

@@ -1,6 +1,7 @@
 #include "ui/inspector/keywords/QuickSetMenu.h"
 
 #include "app/model/words/QuickKeywords.h"
+#include "ui/controls/ThemedMenu.h"
 
 #include <QMenu>
 
@@ -11,8 +12,7 @@ using namespace Qt::StringLiterals;
 void addQuickSets(QMenu& menu, QuickKeywords& quick)
 {
     const auto add = [&](const QString& text, const QString& name) {
-        // Menus take "&" for the mark of a mnemonic.
-        QAction* action = menu.addAction(QString(text).replace(u'&', u"&&"_s));
+        QAction* action = menu.addAction(ThemedMenu::literal(text));
         action->setCheckable(true);
         action->setChecked(quick.current() == name);
         QObject::connect(action, &QAction::triggered, &quick, [&quick, name] { quick.show(name); });
