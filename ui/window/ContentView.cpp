@@ -1,12 +1,6 @@
 #include "ui/window/ContentView.h"
 
 #include "app/model/AppModel.h"
-#include "app/model/fieldsets/FieldSets.h"
-#include "app/model/renaming/PhotosRenaming.h"
-#include "app/model/templates/Templates.h"
-#include "app/model/timeshift/TimeShifting.h"
-#include "app/model/words/FieldPasting.h"
-#include "app/model/words/QuickKeywords.h"
 #include "core/Product.h"
 #include "platform/desktop/SystemScheme.h"
 #include "ui/closeup/CloseupView.h"
@@ -23,6 +17,7 @@
 #include "ui/window/ErrorBanner.h"
 #include "ui/window/FileDrop.h"
 #include "ui/window/LaunchView.h"
+#include "ui/window/ModelSheets.h"
 #include "ui/window/PreviewColumnView.h"
 #include "ui/window/WindowBar.h"
 #include "ui/window/WindowGrowth.h"
@@ -123,7 +118,7 @@ ContentView::ContentView(
 {
     applyTheme();
     connectModel();
-    connectSheets();
+    followSheets();
     connect(m_bar, &WindowBar::previewToggled, this, &ContentView::togglePreview);
     connect(m_drop, &FileDrop::targetedChanged, m_launch, &LaunchView::setTargeted);
     connect(m_drop, &FileDrop::dropped, &model, qOverload<const QList<QUrl>&>(&AppModel::requestLoad));
@@ -176,7 +171,7 @@ void ContentView::connectModel()
     connect(m_banner, &ErrorBanner::sizeChanged, this, &ContentView::placeBanner);
 }
 
-void ContentView::connectSheets()
+void ContentView::followSheets()
 {
     connect(m_sheets, &SheetHost::openChanged, this, [this](bool open) {
         m_drop->setEnabled(!open);
@@ -184,44 +179,7 @@ void ContentView::connectSheets()
         if (!open && m_listWaitsForKeyboard)
             giveListTheKeyboard();
     });
-    const auto add = [this] { followFlag(m_model.addOpen(), m_addSheet, m_factories.addField); };
-    const auto save = [this] { followFlag(m_model.saveOpen(), m_saveSheet, m_factories.save); };
-    const auto rename = [this] { followFlag(m_model.renameOpen(), m_renameSheet, m_factories.rename); };
-    QuickKeywords& quick = m_model.quickKeywords();
-    connect(&quick, &QuickKeywords::editedChanged, this,
-        [this, &quick] { followFlag(quick.edited().has_value(), m_quickSetSheet, m_factories.quickSet); });
-    FieldSets& sets = m_model.fieldSets();
-    connect(&sets, &FieldSets::editingChanged, this,
-        [this, &sets] { followFlag(sets.isEditing(), m_fieldSetsSheet, m_factories.fieldSets); });
-    TimeShifting* shifting = &m_model.timeShifting();
-    connect(shifting, &TimeShifting::openChanged, this,
-        [this, shifting] { followFlag(shifting->isOpen(), m_shiftSheet, m_factories.shiftTime); });
-    const auto renamePhotos = [this] {
-        followFlag(m_model.renaming().isOpen(), m_renamePhotosSheet, m_factories.renamePhotos);
-    };
-    connect(&m_model, &AppModel::addOpenChanged, this, add);
-    connect(&m_model, &AppModel::saveOpenChanged, this, save);
-    connect(&m_model, &AppModel::renameOpenChanged, this, rename);
-    connect(&m_model.pasting(), &FieldPasting::openChanged, this,
-        [this] { followFlag(m_model.pasting().isOpen(), m_pasteSheet, m_factories.pasteFields); });
-    connect(&m_model.templates(), &Templates::openChanged, this,
-        [this] { followFlag(m_model.templates().isOpen(), m_templatesSheet, m_factories.templates); });
-    connect(&m_model.renaming(), &PhotosRenaming::openChanged, this, renamePhotos);
-    add();
-    save();
-    rename();
-    renamePhotos();
-}
-
-void ContentView::followFlag(bool open, SheetBody*& sheet, const std::function<SheetBody*()>& make)
-{
-    if (open && !sheet && make) {
-        sheet = make();
-        m_sheets->present(sheet);
-    } else if (!open && sheet) {
-        m_sheets->dismiss(sheet);
-        sheet = nullptr;
-    }
+    new ModelSheets(m_model, m_sheets, m_factories, this);
 }
 
 bool ContentView::previewShown() const

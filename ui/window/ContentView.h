@@ -3,10 +3,10 @@
 // "previewEnabled", in the same store.
 #pragma once
 
+#include "ui/window/ContentFactories.h"
+
 #include <QPointer>
 #include <QWidget>
-
-#include <functional>
 
 namespace Quorbel {
 
@@ -18,33 +18,12 @@ class ErrorBanner;
 class FileDrop;
 class KeptField;
 class LaunchView;
-class SheetBody;
 class SheetHost;
 class SidebarView;
 class SystemScheme;
 struct Theme;
 class ThumbnailStore;
 class WindowBar;
-
-/// Makes the views that the window holds but does not know the inside of. Each is handed over with ownership.
-struct ContentFactories {
-    std::function<QWidget*(QWidget* parent)> inspector{};
-    std::function<SheetBody*()> addField{};
-    std::function<SheetBody*()> save{};
-    std::function<SheetBody*()> rename{};
-    std::function<SheetBody*()> pasteFields{};
-    std::function<SheetBody*()> templates{};
-    std::function<SheetBody*()> quickSet{};
-    std::function<SheetBody*()> fieldSets{};
-    std::function<SheetBody*()> shiftTime{};
-    std::function<SheetBody*()> renamePhotos{};
-    /// Keeps this many pixels at the inspector's lower end free, so that its last rows scroll clear of the banner.
-    std::function<void(QWidget* inspector, int pixels)> setInspectorInset{};
-    /// Looks closely at the primary photo, over all of the window.
-    std::function<CloseupView*(QWidget* window)> closeup{};
-    /// Which field of the inspector has the keyboard, and what keeps it there.
-    std::function<KeptField*(QWidget* inspector)> keptField{};
-};
 
 class ContentView final : public QWidget {
     Q_OBJECT
@@ -92,8 +71,7 @@ protected:
 
 private:
     void connectModel();
-    void connectSheets();
-    void followFlag(bool open, SheetBody*& sheet, const std::function<SheetBody*()>& make);
+    void followSheets();
     void showRecords();
     void giveListTheKeyboard();
     void showPreviewState();
@@ -122,15 +100,6 @@ private:
     QPointer<QWidget> m_beforeCloseup{};  ///< what had the keyboard
     bool m_expectsPhotos = false;
     bool m_listWaitsForKeyboard = false;  ///< until the sheet over it is closed
-    SheetBody* m_addSheet = nullptr;
-    SheetBody* m_saveSheet = nullptr;
-    SheetBody* m_renameSheet = nullptr;
-    SheetBody* m_pasteSheet = nullptr;
-    SheetBody* m_templatesSheet = nullptr;
-    SheetBody* m_quickSetSheet = nullptr;
-    SheetBody* m_fieldSetsSheet = nullptr;
-    SheetBody* m_shiftSheet = nullptr;
-    SheetBody* m_renamePhotosSheet = nullptr;
 };
 
 }  // namespace Quorbel

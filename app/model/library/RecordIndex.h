@@ -94,7 +94,7 @@ private:
         qint64 date;
         int rank;
         int position;
-        auto operator<=>(const DateKey&) const = default;  // NOLINT(modernize-use-nullptr): there is no pointer in it
+        auto operator<=>(const DateKey&) const = default;
     };
 
     /// What is known of one photo beside its name.
