@@ -98,7 +98,7 @@ void prepareTool(const QString& script)
     static const QByteArray name = "quorbel-test-" + QUuid::createUuid().toByteArray(QUuid::WithoutBraces);
     const int reading = listening(name + "-reading");
     const int writing = listening(name + "-writing");
-    auto* const process = new QProcess;
+    static auto* const process = new QProcess;  // held, so that it is no leak
     process->setChildProcessModifier([reading, writing] {
         fcntl(reading, F_SETFD, 0);
         fcntl(writing, F_SETFD, 0);
