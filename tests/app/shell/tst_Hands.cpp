@@ -169,6 +169,7 @@ private slots:
     void aCloseLook();
     void aCloseLookBeforeAndWithoutAPicture();
     void onlyWhatIsLookedAtIsDecoded();
+    void aPhotoThatChangedIsDecodedAgain();
     void picturesKeepWithinTheirBound();
 };
 
@@ -440,12 +441,14 @@ void tst_Hands::placesOfACloseLook_data()
     QTest::newRow("a step larger") << fitted.stepped(1, photo, view) << photo << QRectF(-500, -100, 2000, 1000);
     QTest::newRow("two steps") << fitted.stepped(1, photo, view).stepped(1, photo, view) << photo
                                << QRectF(-1500, -600, 4000, 2000);
-    QTest::newRow("and back") << fitted.stepped(1, photo, view).stepped(-1, photo, view) << photo
-                              << QRectF(0, 150, 1000, 500);
+    // Whatever the next photo's size.
+    QTest::newRow("and back") << fitted.stepped(1, photo, view).stepped(-1, photo, view) << QSize(2000, 4000)
+                              << QRectF(300, 0, 400, 800);
     QTest::newRow("not without end") << fitted.zoomed(99, { 500, 400 }, photo, view) << photo
                                      << QRectF(-15500, -7600, 32000, 16000);
     // The same part of a photo that stands.
     QTest::newRow("the neighbor's") << at << QSize(2000, 4000) << QRectF(-125, -1600, 2000, 4000);
+    QTest::newRow("a narrow neighbor's") << at << QSize(800, 4000) << QRectF(100, -1600, 800, 4000);
 }
 
 void tst_Hands::placesOfACloseLook()
@@ -496,6 +499,8 @@ void tst_Hands::aCloseLook()
     f.press(Qt::Key_4, {});
     QCOMPARE(f->draftValues().value(u"rating"_s), u"4"_s);
     QCOMPARE(look->text().stars, 4);
+    // What lies behind gets no key.
+    f.input(u"title"_s)->setFocus();
     QVERIFY(look->hasFocus());
     // The guard asks over it.
     f.press(Qt::Key_Down, {});
@@ -563,6 +568,29 @@ void tst_Hands::onlyWhatIsLookedAtIsDecoded()
     isShut = false;
     QTRY_VERIFY(pictures.picture(url(98)) && pictures.running() == 0);
     QCOMPARE(whole, (QStringList{ u"/nowhere/99"_s, u"/nowhere/100"_s, u"/nowhere/98"_s }));
+}
+
+void tst_Hands::aPhotoThatChangedIsDecodedAgain()
+{
+    const PhotoFolder folder;
+    const QUrl photo = folder.add(u"a.jpg"_s);
+    std::atomic<int> decoded = 0;
+    WholePictures pictures({ .decode = [&decoded](const QString&, qint64, const std::stop_token&) {
+        return DecodedImage{ DecodedImage::Outcome::decoded, QImage(++decoded, 1, QImage::Format_RGB32) };
+    } });
+    const auto width = [&pictures, &photo] {
+        const WholePicture* picture = pictures.picture(photo);
+        return picture ? picture->size().width() : 0;
+    };
+    pictures.look(photo, {});
+    QTRY_COMPARE(width(), 1);
+    pictures.look(photo, {});
+    QCOMPARE(pictures.running(), 0);
+    QFile file(photo.toLocalFile());
+    QVERIFY(file.open(QIODevice::Append) && file.write("more") == 4);
+    file.close();
+    pictures.look(photo, {});
+    QTRY_COMPARE(width(), 2);
 }
 
 void tst_Hands::picturesKeepWithinTheirBound()
