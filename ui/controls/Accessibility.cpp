@@ -10,6 +10,8 @@
 #include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/pickers/CodePicker.h"
 #include "ui/controls/pickers/OffsetPicker.h"
+#include "ui/controls/pickers/SegmentedPicker.h"
+#include "ui/controls/pickers/SegmentedPickerAccess.h"
 #include "ui/controls/tokens/TokenEdit.h"
 #include "ui/controls/tokens/TokenEditAccess.h"
 
@@ -217,26 +219,6 @@ QAccessibleInterface* describeHandle(ResizeHandle* handle)
         handle, QAccessible::Splitter, { get, set, handle->minWidth(), handle->maxWidth(), 10 });
 }
 
-// One of a few choices: its value is the title of the current one.
-class PickerDescription final : public QAccessibleWidget {
-public:
-    explicit PickerDescription(SegmentedPicker* picker)
-        : QAccessibleWidget(picker, QAccessible::ComboBox)
-        , m_picker(picker)
-    {
-    }
-
-    QString text(QAccessible::Text kind) const override
-    {
-        if (kind == QAccessible::Value)
-            return m_picker->titles().value(m_picker->currentIndex());
-        return QAccessibleWidget::text(kind);
-    }
-
-private:
-    SegmentedPicker* m_picker;
-};
-
 // One suggestion: drawn by its list, so not a widget.
 class SuggestionRowDescription final : public QAccessibleInterface {
 public:
@@ -375,7 +357,7 @@ QAccessibleInterface* describe(const QString& className, QObject* object)
     if (auto* handle = qobject_cast<ResizeHandle*>(object))
         return describeHandle(handle);
     if (auto* picker = qobject_cast<SegmentedPicker*>(object))
-        return new PickerDescription(picker);
+        return new SegmentedPickerAccess(picker);
     if (auto* list = qobject_cast<SuggestionList*>(object))
         return new SuggestionListDescription(list);
     if (auto* edit = qobject_cast<TokenEdit*>(object))

@@ -8,8 +8,6 @@
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 
 namespace Quorbel {
@@ -122,95 +120,6 @@ void QBSwitch::paintEvent(QPaintEvent*)
     const QRectF knob(inset + m_position.value() * (width() - side - 2 * inset), inset, side, side);
     paintBox(painter, knob.translated(0, 1), side / 2, withAlpha(Qt::black, .16), Qt::NoPen);
     paintBox(painter, knob, side / 2, mixed(theme.derived.switchKnob, theme.accentText, m_position.value()), Qt::NoPen);
-}
-
-SegmentedPicker::SegmentedPicker(const QStringList& titles, QWidget* parent)
-    : QWidget(parent)
-    , m_titles(titles)
-{
-    installAccessibility();
-    setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    onRestyle(this, [this] {
-        setFont(sansFont(13));
-        updateGeometry();
-    });
-    installFocusRing(this, { RingShape::tight, 7, {}, {} });
-}
-
-void SegmentedPicker::setCurrentIndex(int index)
-{
-    m_current = index;
-    update();
-}
-
-QSize SegmentedPicker::sizeHint() const
-{
-    return { px(216), px(30) };
-}
-
-QRectF SegmentedPicker::segment(int index) const
-{
-    const qreal inset = pxF(2);
-    const qreal each = (width() - 2 * inset) / qMax(qsizetype(1), m_titles.size());
-    return { inset + index * each, inset, each, height() - 2 * inset };
-}
-
-void SegmentedPicker::paintEvent(QPaintEvent*)
-{
-    const Theme& theme = Theme::of(this);
-    QPainter painter(this);
-    painter.setOpacity(isEnabled() ? 1 : .42);
-    paintBox(painter, rect(), pxF(7), theme.derived.hover, Qt::NoPen);
-    for (int i = 0; i < m_titles.size(); ++i) {
-        const QRectF box = segment(i);
-        const bool on = i == m_current;
-        if (on) {
-            paintBox(painter, box.translated(0, 1), pxF(5), withAlpha(Qt::black, theme.isDark ? .3 : .08), Qt::NoPen);
-            // A dark button would not stand out from this ground.
-            const QColor edge = theme.isDark ? theme.derived.secondaryHoverLine : theme.btnLine;
-            paintBox(painter, box, pxF(5), theme.isDark ? theme.btnLine : theme.btn, QPen(edge, .5));
-        }
-        painter.setFont(sansFont(13, on ? QFont::Medium : QFont::Normal));
-        painter.setPen(on ? theme.text : theme.derived.label);
-        painter.drawText(box, Qt::AlignCenter | Qt::TextSingleLine, m_titles.at(i));
-    }
-}
-
-void SegmentedPicker::mousePressEvent(QMouseEvent* event)
-{
-    for (int i = 0; i < m_titles.size(); ++i) {
-        if (segment(i).contains(event->position()))
-            pick(i);
-    }
-}
-
-void SegmentedPicker::keyPressEvent(QKeyEvent* event)
-{
-    const int last = int(m_titles.size()) - 1;
-    const bool mirrored = layoutDirection() == Qt::RightToLeft;
-    switch (event->key()) {
-    case Qt::Key_Left:
-    case Qt::Key_Up:
-        return pick(qBound(0, m_current + (mirrored ? 1 : -1), last));
-    case Qt::Key_Right:
-    case Qt::Key_Down:
-        return pick(qBound(0, m_current + (mirrored ? -1 : 1), last));
-    case Qt::Key_Home:
-        return pick(0);
-    case Qt::Key_End:
-        return pick(last);
-    default:
-        QWidget::keyPressEvent(event);
-    }
-}
-
-void SegmentedPicker::pick(int index)
-{
-    if (index == m_current)
-        return;
-    setCurrentIndex(index);
-    emit picked(index);
 }
 
 }  // namespace Quorbel

@@ -1,11 +1,9 @@
-// Things that are on or off, or one of several: check box, switch, segmented picker.
+// Things that are on or off: check box, switch.
 // Thread: the main thread.
 #pragma once
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/theme/AnimatedValue.h"
-
-#include <QStringList>
 
 namespace Quorbel {
 
@@ -50,36 +48,6 @@ private:
     void slide();
 
     AnimatedValue m_position;  ///< 0 off … 1 on, while it slides
-};
-
-/// One of a few choices side by side, 216×30 points. Left and Right change it.
-class SegmentedPicker final : public QWidget {
-    Q_OBJECT
-
-public:
-    explicit SegmentedPicker(const QStringList& titles, QWidget* parent = nullptr);
-    int currentIndex() const { return m_current; }
-    /// Shows a choice; emits nothing.
-    void setCurrentIndex(int index);
-    const QStringList& titles() const { return m_titles; }
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
-
-signals:
-    /// The user picked another choice.
-    void picked(int index);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    void pick(int index);
-    QRectF segment(int index) const;
-
-    QStringList m_titles;
-    int m_current = 0;
 };
 
 }  // namespace Quorbel

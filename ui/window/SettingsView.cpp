@@ -8,8 +8,10 @@
 #include "ui/controls/ScrollArea.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/Toggles.h"
+#include "ui/controls/pickers/SegmentedPicker.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/window/ChoiceRow.h"
 #include "ui/window/CodeFileRow.h"
 
 #include <QHBoxLayout>
@@ -124,6 +126,7 @@ SettingsView::SettingsView(AppModel& model, QWidget* parent)
     addDisplay(column);
     addSaving(column);
     addRenaming(column);
+    addRawFiles(column);
     addPlaces(column);
     addCodes(column);
     column->addStretch();
@@ -173,6 +176,47 @@ void SettingsView::addRenaming(QVBoxLayout* column)
         toggle(u"Strip special characters"_s, m_model.preferences().stripSpecialChars),
         u"Keeps only letters and numbers (accents become plain, e.g. Café → Cafe). Off leaves "
         "characters like @ and ' in place."_s);
+}
+
+void SettingsView::addRawFiles(QVBoxLayout* column)
+{
+    Group* group = addGroup(column, u"Raw files"_s);
+    group->addRow(homeRow(u"Edits of raw photos"_s, m_model.preferences().rawBeside,
+        u"Edits are written into the raw file, as into other photos."_s,
+        u"The raw file stays untouched. Other programs find the words in the sidecar."_s));
+    group->addRow(homeRow(u"Edits of DNG photos"_s, m_model.preferences().dngBeside,
+        u"DNG is made to hold metadata, so it is written as other photos are."_s,
+        u"The DNG file stays untouched. Other programs find the words in the sidecar."_s));
+    group->addRow(namingRow());
+}
+
+QWidget* SettingsView::homeRow(
+    const QString& name, Setting<bool>& isBeside, const QString& inside, const QString& beside)
+{
+    auto* row = new ChoiceRow(name, { u"Into the file"_s, u"Beside it"_s });
+    row->picker().setSpoken({ u"Write into the file"_s, u"Write beside it"_s });
+    const auto show = [=, &isBeside] {
+        row->picker().setCurrentIndex(isBeside() ? 1 : 0);
+        row->setHelp(isBeside() ? beside : inside);
+    };
+    connect(&m_model.preferences(), &Preferences::changed, row, show);
+    show();
+    connect(&row->picker(), &SegmentedPicker::picked, &m_model, [&isBeside](int index) { isBeside.set(index == 1); });
+    return row;
+}
+
+QWidget* SettingsView::namingRow()
+{
+    auto* row = new ChoiceRow(u"Name of new sidecars"_s, { u"IMG_1.xmp"_s, u"IMG_1.CR3.xmp"_s });
+    row->picker().setMono(true);
+    row->setHelp(u"A sidecar that is already there keeps its name."_s);
+    Setting<SidecarNaming>& naming = m_model.preferences().sidecarNaming;
+    const auto show = [row, &naming] { row->picker().setCurrentIndex(naming() == SidecarNaming::full ? 1 : 0); };
+    connect(&m_model.preferences(), &Preferences::changed, row, show);
+    show();
+    connect(&row->picker(), &SegmentedPicker::picked, &m_model,
+        [&naming](int index) { naming.set(index == 1 ? SidecarNaming::full : SidecarNaming::base); });
+    return row;
 }
 
 void SettingsView::addPlaces(QVBoxLayout* column)

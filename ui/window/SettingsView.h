@@ -27,9 +27,12 @@ private:
     void addDisplay(QVBoxLayout* column);
     void addSaving(QVBoxLayout* column);
     void addRenaming(QVBoxLayout* column);
+    void addRawFiles(QVBoxLayout* column);
     void addPlaces(QVBoxLayout* column);
     void addCodes(QVBoxLayout* column);
     QWidget* appearancePicker();
+    QWidget* homeRow(const QString& name, Setting<bool>& isBeside, const QString& inside, const QString& beside);
+    QWidget* namingRow();
     QWidget* patternField();
     QWidget* placeServiceField();
     QWidget* toggle(const QString& name, Setting<bool>& setting);

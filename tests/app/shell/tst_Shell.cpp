@@ -12,6 +12,7 @@
 #include "ui/controls/TextFields.h"
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/controls/Toggles.h"
+#include "ui/controls/pickers/SegmentedPicker.h"
 #include "ui/sheets/MessageSheet.h"
 #include "ui/sidebar/DisagreementsBar.h"
 #include "ui/sidebar/NothingListed.h"
@@ -58,6 +59,7 @@ private slots:
     void filesFromACommandLine_data();
     void filesFromACommandLine();
     void settingsShowAndWritePreferences();
+    void settingsOfRawFiles();
     void settingsTellOfCodes();
     void onlySecureAddressesOfAPlaceServiceAreKept();
     void helpNamesThisPlatformsKeys();
@@ -503,6 +505,35 @@ void tst_Shell::settingsShowAndWritePreferences()
     QCOMPARE(model->preferences().colorOverride(), ColorScheme::dark);
     model->preferences().colorOverride.set(std::nullopt);
     QCOMPARE(appearance->currentIndex(), 0);
+}
+
+void tst_Shell::settingsOfRawFiles()
+{
+    ModelFixture model(std::nullopt);
+    SettingsView view(*model.model);
+    view.show();
+    const auto named = [&](const QString& name) -> SegmentedPicker* {
+        for (auto* picker : view.findChildren<SegmentedPicker*>())
+            if (picker->accessibleName() == name)
+                return picker;
+        return nullptr;
+    };
+    const QString untouched = u"The raw file stays untouched. Other programs find the words in the sidecar."_s;
+    QVERIFY(!labels(&view).contains(untouched));
+    QTest::keyClick(named(u"Edits of raw photos"_s), Qt::Key_Right);
+    QVERIFY(labels(&view).contains(untouched));
+    QTest::keyClick(named(u"Name of new sidecars"_s), Qt::Key_Right);
+    QCOMPARE(model->sidecarPolicy(), (SidecarPolicy{ true, false, SidecarNaming::full }));
+    model->preferences().rawBeside.set(false);
+    model->preferences().dngBeside.set(true);
+    QCOMPARE(named(u"Edits of raw photos"_s)->currentIndex(), 0);
+    QCOMPARE(named(u"Edits of DNG photos"_s)->currentIndex(), 1);
+    // In the usual width the choices go below the name, in a wider window beside it.
+    SegmentedPicker* raw = named(u"Edits of raw photos"_s);
+    const auto leftOf = [&view](const QWidget* widget) { return widget->mapTo(&view, QPoint()).x(); };
+    const int below = leftOf(raw);
+    view.resize(view.width() + 120, view.height());
+    QTRY_VERIFY(leftOf(raw) > below + 100);
 }
 
 void tst_Shell::settingsTellOfCodes()

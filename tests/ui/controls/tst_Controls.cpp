@@ -7,6 +7,7 @@
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/controls/Toggles.h"
 #include "ui/controls/ToolTips.h"
+#include "ui/controls/pickers/SegmentedPicker.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/PopupFrame.h"
 
@@ -140,6 +141,30 @@ private slots:
         QTest::keyClick(picker, Qt::Key_Home);
         QCOMPARE(picker->currentIndex(), 0);
         QCOMPARE(picked.count(), 3);
+    }
+
+    void aPickerSpeaksAsRadioButtons()
+    {
+        Test::Stage stage;
+        auto* picker = stage.add(new SegmentedPicker({ u"Into the file"_s, u"Beside it"_s }));
+        picker->setAccessibleName(u"Edits"_s);
+        picker->setSpoken({ u"Write into the file"_s, u"Write beside it"_s });
+        stage.show();
+        const QAccessibleInterface* group = QAccessible::queryAccessibleInterface(picker);
+        QCOMPARE(group->role(), QAccessible::Grouping);
+        QCOMPARE(group->text(QAccessible::Name), u"Edits"_s);
+        QCOMPARE(group->childCount(), 2);
+        QAccessibleInterface* beside = group->child(1);
+        QCOMPARE(beside->role(), QAccessible::RadioButton);
+        QCOMPARE(beside->text(QAccessible::Name), u"Write beside it"_s);
+        QVERIFY(!beside->state().checked);
+        QCOMPARE(group->indexOfChild(beside), 1);
+        QSignalSpy picked(picker, &SegmentedPicker::picked);
+        beside->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(picked.count(), 1);
+        QVERIFY(beside->state().checked && !group->child(0)->state().checked);
+        picker->setFocus();
+        QCOMPARE(group->focusChild(), beside);
     }
 
     void theHandleKeepsWithinItsLimits_data()

@@ -13,6 +13,7 @@
 #include "ui/controls/attached/SearchMenu.h"
 #include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/pickers/PickerButton.h"
+#include "ui/controls/pickers/SegmentedPicker.h"
 #include "ui/controls/tokens/TokenEdit.h"
 #include "ui/sheets/AddFieldSheet.h"
 #include "ui/sheets/AddableFieldList.h"
@@ -645,7 +646,8 @@ void tst_Sheets::addFieldFilters_data()
     QTest::addRow("any case, blanks around") << u"  hEADL "_s << QStringList{ u"headline"_s };
     QTest::addRow("a note") << u"neighborhood"_s << QStringList{ u"sublocation"_s };
     QTest::addRow("a tag") << u"TransmissionReference"_s << QStringList{ u"jobId"_s };
-    QTest::addRow("of the standard") << u"alt"_s << QStringList{ u"jobId"_s, u"iptc.altText"_s };  // OriginalTransmission
+    QTest::addRow("of the standard") << u"alt"_s
+                                     << QStringList{ u"jobId"_s, u"iptc.altText"_s };  // OriginalTransmission
     QTest::addRow("under another name") << u"Ext 1.9"_s
                                         << QStringList{ u"iptc.aiSystem"_s, u"iptc.aiSystemVersion"_s,
                                                u"iptc.aiPrompt"_s, u"iptc.aiPromptWriter"_s };
