@@ -49,16 +49,17 @@ BatchBanner::BatchBanner(QWidget* parent)
     });
 }
 
-void BatchBanner::setPhotos(qsizetype count, const QString& note)
+void BatchBanner::setPhotos(qsizetype count, const QString& note, const QString& after)
 {
     const QString title = u"Editing %1 photos"_s.arg(count);
     const QString second = note.isEmpty() ? bannerHint() : note;
-    if (title == m_title && second == m_note)
+    if (title == m_title && second == m_note && after == m_after)
         return;
     m_title = title;
     m_note = second;
+    m_after = after;
     setAccessibleName(title);
-    setAccessibleDescription(second);
+    setAccessibleDescription(after.isEmpty() ? second : second + u' ' + after);
     update();
 }
 
@@ -106,7 +107,12 @@ QRect BatchBanner::textArea() const
 QStringList BatchBanner::noteLines() const
 {
     const int width = textArea().width();
-    const QStringList lines = brokenIntoLines(m_note, sansFont(12), width, LineBreaks::words, mostLines);
+    const auto broken = [width](const QString& text, int most) {
+        return brokenIntoLines(text, sansFont(12), width, LineBreaks::words, most);
+    };
+    QStringList lines = broken(m_after.isEmpty() ? m_note : m_note + u' ' + m_after, mostLines + 1);
+    if (lines.size() > mostLines)
+        lines = broken(m_after.isEmpty() ? m_note : m_after, mostLines);
     if (m_disagreements->isHidden())
         return lines;
     return lines.size() + m_disagreements->lines(width) > mostLines ? QStringList() : lines;

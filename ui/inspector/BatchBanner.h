@@ -16,8 +16,9 @@ class BatchBanner final : public QWidget {
 
 public:
     explicit BatchBanner(QWidget* parent = nullptr);
-    /// How many they are, and what is said under that; "": what one does here.
-    void setPhotos(qsizetype count, const QString& note);
+    /// How many they are, and what is said under that; "": what one does here. `after` is said behind
+    /// it, or in its place where there is no room for both.
+    void setPhotos(qsizetype count, const QString& note, const QString& after = {});
     /// "12 photos have places that differ", with a button that makes them agree; "": nothing of that. What one does
     /// here gives way to it where there is no room for both.
     void setDisagreements(const QString& text, bool canAgree);
@@ -40,6 +41,7 @@ private:
 
     QString m_title;
     QString m_note;
+    QString m_after;
     NoticeLine* m_disagreements;
     QWidget* m_atEnd = nullptr;
     QWidget* m_end;  ///< holds it; hidden where there is no room

@@ -1,6 +1,7 @@
 #include "ui/inspector/InspectorForm.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/selection/SelectedSidecars.h"
 #include "app/model/words/CodeReplacements.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/schema/CustomFields.h"
@@ -114,6 +115,7 @@ InspectorForm::InspectorForm(
     m_header->setAtEnd(m_picker);
     m_banner->setAtEnd(m_batchPicker);
     connect(m_banner->agree(), &QAbstractButton::clicked, &m_model, &AppModel::requestMakeAgree);
+    connect(&m_model.selectedSidecars(), &SelectedSidecars::changed, this, &InspectorForm::showHeader);
     connect(m_map, &LocationMap::found, &m_model, &AppModel::fillPlaceNames);
     connect(m_languages, &FormLanguages::changed, this, &InspectorForm::showAgain);
     connect(m_iptc, &IptcSections::changed, this, &InspectorForm::showAgain);
@@ -247,7 +249,11 @@ void InspectorForm::showHeader()
     m_header->parentWidget()->setVisible(!m_model.isBatch());
     m_banner->parentWidget()->setVisible(m_model.isBatch());
     const QString reading = InspectorStates::readingText(m_model);
-    m_banner->setPhotos(m_model.selection().size(), reading);
+    const SelectedSidecars& sidecars = m_model.selectedSidecars();
+    const QString target = sidecars.text();
+    m_banner->setPhotos(
+        m_model.selection().size(), reading, reading.isEmpty() && !target.isEmpty() ? target + u'.' : QString());
+    m_header->setSidecar(target, sidecars.told().path);
     // While photos are read, how far that is comes first.
     m_banner->setDisagreements(
         reading.isEmpty() ? InspectorStates::disagreementsText(m_model) : QString(), m_model.canMakeAgree());

@@ -24,6 +24,7 @@ PhotoHeader::PhotoHeader(ThumbnailStore* thumbs, QWidget* parent)
     , m_thumbnail(new ThumbnailView(thumbs, heightInPoints, corner))
     , m_name(new ThemedLabel({}, TextRole::text, 15, QFont::DemiBold))
     , m_details(new ThemedLabel({}, TextRole::muted, 12))
+    , m_sidecar(new ThemedLabel({}, TextRole::label, 12))
     , m_end(new QWidget(this))
 {
     auto* line = new QHBoxLayout(this);
@@ -37,16 +38,24 @@ PhotoHeader::PhotoHeader(ThumbnailStore* thumbs, QWidget* parent)
     column->addStretch();
     column->addWidget(m_name);
     column->addWidget(m_details);
+    column->addWidget(m_sidecar);
     column->addStretch();
     m_name->setElided(true);
     m_name->setVerbatim(true);
     m_name->setLineHeight(20);
     m_details->setElided(true);
     m_details->setLineHeight(17);
+    m_sidecar->setVerbatim(true);
+    m_sidecar->setLineHeight(17);
+    m_sidecar->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_sidecar->setMinimumWidth(1);
+    m_sidecar->installEventFilter(this);
+    m_sidecar->hide();
     onRestyle(this, [this, line, column] {
         setFixedHeight(px(heightInPoints));
         line->setSpacing(px(gap));
         column->setSpacing(px(2));
+        elideSidecar();
     });
 }
 
@@ -74,7 +83,28 @@ bool PhotoHeader::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_atEnd && (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent))
         showEnd();
+    if (watched == m_sidecar && event->type() == QEvent::Resize)
+        elideSidecar();
     return QWidget::eventFilter(watched, event);
+}
+
+void PhotoHeader::setSidecar(const QString& text, const QString& path)
+{
+    m_sidecarText = text;
+    m_sidecar->setToolTip(path);
+    m_sidecar->setAccessibleName(text);
+    m_sidecar->setAccessibleDescription(path);
+    m_sidecar->setVisible(!text.isEmpty());
+    elideSidecar();
+}
+
+// Names of photos in a row differ at their ends.
+void PhotoHeader::elideSidecar()
+{
+    const QString shown =
+        m_sidecar->fontMetrics().elidedText(m_sidecarText, Qt::ElideMiddle, m_sidecar->contentsRect().width());
+    if (m_sidecar->text() != shown)
+        m_sidecar->setText(shown);
 }
 
 void PhotoHeader::setRecord(const ImageRecord& record)

@@ -11,7 +11,7 @@ class ThumbnailStore;
 class ThumbnailView;
 struct ImageRecord;
 
-/// Thumbnail, file name, details.
+/// Thumbnail, file name, details, and where edits go that do not go into the file.
 class PhotoHeader final : public QWidget {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(PhotoHeader)
@@ -22,6 +22,8 @@ public:
     /// The store may be null; it is not owned and must outlive this.
     explicit PhotoHeader(ThumbnailStore* thumbs, QWidget* parent = nullptr);
     void setRecord(const ImageRecord& record);
+    /// The text, and the whole path; "": nothing of that.
+    void setSidecar(const QString& text, const QString& path);
     /// At the right end, where that leaves room for the texts; it becomes a child of this.
     void setAtEnd(QWidget* widget);
 
@@ -31,10 +33,13 @@ protected:
 
 private:
     void showEnd();
+    void elideSidecar();
 
     ThumbnailView* m_thumbnail;
     ThemedLabel* m_name;
     ThemedLabel* m_details;
+    ThemedLabel* m_sidecar;
+    QString m_sidecarText;  ///< as long as it is
     QWidget* m_atEnd = nullptr;
     QWidget* m_end;  ///< holds what is at the end; hidden where there is no room
 };

@@ -29,6 +29,19 @@ SelectedSidecars::SelectedSidecars(AppModel& model)
     });
 }
 
+QString SelectedSidecars::text() const
+{
+    if (m_told.photos == 0)
+        return {};
+    const bool isAll = m_told.photos == m_model.selection().size();
+    const QString whose = isAll ? u"Edits"_s
+        : m_told.photos == 1    ? u"Edits of 1 photo"_s
+                                : u"Edits of %1 photos"_s.arg(m_told.photos);
+    if (m_told.sidecars == 1)
+        return whose + u" go to "_s + m_told.path.sliced(m_told.path.lastIndexOf(u'/') + 1);
+    return whose + (isAll ? u" go to %1 sidecars"_s.arg(m_told.sidecars) : u" go to sidecars"_s);
+}
+
 void SelectedSidecars::count()
 {
     m_photos.clear();
@@ -48,7 +61,8 @@ void SelectedSidecars::update()
         // Photos without one get one each.
         QSet<QString> sidecars;
         for (const QUrl& photo : std::as_const(m_photos))
-            sidecars.insert(pathOf(*m_model.record(photo)));
+            if (const ImageRecord* record = m_model.record(photo))
+                sidecars.insert(pathOf(*record));
         told.sidecars = int(sidecars.size());
         told.path = sidecars.size() == 1 ? *sidecars.cbegin() : QString();
     }

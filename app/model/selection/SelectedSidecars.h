@@ -26,6 +26,9 @@ public:
     explicit SelectedSidecars(AppModel& model);
 
     const Told& told() const { return m_told; }
+    /// "Edits go to IMG_1.xmp", or into how many sidecars, and of how many photos where not of all; "" where all edits
+    /// go into the files.
+    QString text() const;
 signals:
     /// told() has another answer.
     void changed();

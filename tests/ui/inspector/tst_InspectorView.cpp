@@ -93,6 +93,7 @@ private slots:
     void init();
     void showsOnePhoto();
     void showsSeveralPhotos();
+    void tellsWhereEditsGo();
     void theBannerTellsOfPlacesThatDiffer_data();
     void theBannerTellsOfPlacesThatDiffer();
     void showsNothing();
@@ -153,6 +154,38 @@ void tst_InspectorView::showsOnePhoto()
     f.click(u"b.jpg"_s);
     QCOMPARE(f.editor<QBTextField>(u"title"_s)->text(), u"Two"_s);
     QCOMPARE(f.model().unsavedCount(), 0);
+}
+
+void tst_InspectorView::tellsWhereEditsGo()
+{
+    InspectorFixture f;
+    const QString longName = u"a"_s + QString(120, u'x') + u"_1"_s;
+    for (const QString& name : { u"1.cr2"_s, u"2.cr2"_s, u"3.jpg"_s, longName + u".cr2"_s })
+        f.photos.folder.add(name, jpegBytes());
+    QVERIFY(f.open());
+    auto* header = f.view->findChild<PhotoHeader*>();
+    auto* banner = f.view->findChild<BatchBanner*>();
+    QCOMPARE(labels(header).size(), 2);
+    f.model().preferences().rawBeside.set(true);
+    QVERIFY(f.photos.waitUntilIdle());
+    QCOMPARE(labels(header).last(), u"Edits go to 1.xmp"_s);
+    // What is left out of a long name is told by the tooltip.
+    f.click(longName + u".cr2"_s);
+    QTRY_VERIFY(labels(header).last().endsWith(u"xx_1.xmp"_s));
+    QVERIFY(labels(header).last().startsWith(u"Edits go to axx"_s) && labels(header).last().contains(u'…'));
+    QLabel* line = header->findChildren<QLabel*>().last();
+    QCOMPARE(line->toolTip(), f.photos.folder.path(longName + u".xmp"_s));
+    QCOMPARE(line->accessibleName(), u"Edits go to "_s + longName + u".xmp"_s);
+    QVERIFY(header->rect().contains(QRect(line->mapTo(header, QPoint()), line->size())));
+    f.click(u"3.jpg"_s);
+    QCOMPARE(labels(header).size(), 2);
+    const QString hint = u"Tick a field to write it to all selected files."_s;
+    f.click(u"1.cr2"_s, false, true);
+    QCOMPARE(banner->accessibleDescription(), hint + u" Edits of 1 photo go to 1.xmp."_s);
+    f.click(u"2.cr2"_s, false, true);
+    QCOMPARE(banner->accessibleDescription(), hint + u" Edits of 2 photos go to sidecars."_s);
+    f.click(u"3.jpg"_s, false, true);
+    QCOMPARE(banner->accessibleDescription(), hint + u" Edits go to 2 sidecars."_s);
 }
 
 void tst_InspectorView::theBannerTellsOfPlacesThatDiffer_data()
