@@ -182,6 +182,8 @@ void tst_WatchedSidecars::othersWriteSidecars()
     QVERIFY(f.waitUntilIdle());
     f->setSingle(u"title"_s, u"typed"_s);
     f.asked();
+    QList<QUrl> drawnAnew;
+    f->onImagesModified = [&drawnAnew](const QList<QUrl>& photos) { drawnAnew += photos; };
     const QStringList raw{ u"a.cr2"_s };
     const auto shows = [&f](const QString& name, const QString& headline) {
         const auto isThere = [&] {
@@ -217,6 +219,7 @@ void tst_WatchedSidecars::othersWriteSidecars()
     QCOMPARE(f.asked(), raw);
     QCOMPARE(f->draftValues().value(u"title"_s), u"typed"_s);
     QCOMPARE(f->errorMessage(), std::nullopt);
+    QCOMPARE(drawnAnew, QList<QUrl>());
 }
 
 void tst_WatchedSidecars::nothingIsReadWhereEditsGoIntoTheFile()
