@@ -7,8 +7,13 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QScrollBar>
 
 namespace Quorbel {
+
+namespace {
+constexpr qreal aroundWidget = 8;  // points
+}
 
 ScrollArea::ScrollArea(QWidget* parent)
     : QScrollArea(parent)
@@ -31,6 +36,29 @@ void ScrollArea::setFramed(bool on)
     m_framed = on;
     const int border = on ? 1 : 0;
     setViewportMargins(border, border, border, border);
+}
+
+// Not QScrollArea's own way: that centers what it has not shown before, and knows nothing of what covers the lower end.
+void ScrollArea::reveal(const QRect& part, int around)
+{
+    const int room = viewport()->height() - m_covered;
+    const int free = part.height() > room ? around : qMin(around, (room - part.height()) / 2);
+    const int lowest = part.bottom() + 1 + free - room;
+    verticalScrollBar()->setValue(qMin(qMax(verticalScrollBar()->value(), lowest), part.top() - free));
+}
+
+void ScrollArea::reveal(const QWidget& widget)
+{
+    reveal(QRect(widget.mapTo(this->widget(), QPoint()), widget.size()), px(aroundWidget));
+}
+
+ScrollArea* ScrollArea::around(const QWidget& widget)
+{
+    for (QWidget* above = widget.parentWidget(); above && !above->isWindow(); above = above->parentWidget())
+        if (auto* area = qobject_cast<ScrollArea*>(above);
+            area && area->widget() && area->widget()->isAncestorOf(&widget))
+            return area;
+    return nullptr;
 }
 
 bool ScrollArea::event(QEvent* event)

@@ -16,11 +16,22 @@
 #include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Points.
+constexpr qreal aroundFocus = 48;
+constexpr qreal aroundRing = 8;
+
+constexpr int releaseInterval = 50;  // milliseconds between looks whether the mouse was let go
+
+}  // namespace
 
 InspectorView::InspectorView(
     AppModel& model, ThumbnailStore* thumbs, PlaceProvider* places, MapRenderer* maps, QWidget* parent)
@@ -46,7 +57,7 @@ InspectorView::InspectorView(
     column->addWidget(m_footer);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (now && m_form->isAncestorOf(now))
-            revealFocus();
+            revealFocus(true);
     });
     // Later: the sheet in which the field was picked still gives the focus back to where it was.
     connect(m_form, &InspectorForm::fieldAdded, this, &InspectorView::focusField, Qt::QueuedConnection);
@@ -91,6 +102,7 @@ void InspectorView::connectModel()
 void InspectorView::setBottomInset(int pixels)
 {
     m_form->setBottomInset(pixels);
+    m_scroll->setCovered(pixels);
 }
 
 void InspectorView::refresh()
@@ -123,21 +135,26 @@ void InspectorView::refreshInPlace()
     bar->setValue(bar->value() + heightOf(focus) - before);
 }
 
-void InspectorView::revealFocus()
+// `isNew`: it has just got there.
+void InspectorView::revealFocus(bool isNew)
 {
     QWidget* focus = QApplication::focusWidget();
     if (!focus || !m_form->isAncestorOf(focus))
         return;
+    // What is pressed must not move away under the pointer, or it is not clicked.
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+        QTimer::singleShot(releaseInterval, focus, [this, focus] {
+            if (focus == QApplication::focusWidget())
+                revealFocus(false);
+        });
+        return;
+    }
     // Where one types, in what is higher than the window perhaps; and around it enough for a field, its ring and the
-    // line under it. Not QScrollArea's own way: that knows nothing of what is laid over the lower end.
+    // line under it. What is no text and stands there already keeps its place.
     const bool types = focus->testAttribute(Qt::WA_InputMethodEnabled);
     QRect wanted = types ? focus->inputMethodQuery(Qt::ImCursorRectangle).toRect() : focus->rect();
     wanted.moveTopLeft(focus->mapTo(m_form, wanted.topLeft()));
-    const int room = m_scroll->viewport()->height() - m_form->bottomInset();
-    const int around = qBound(0, (room - wanted.height()) / 2, px(48));
-    QScrollBar* bar = m_scroll->verticalScrollBar();
-    const int lowest = wanted.bottom() + 1 + around - room;
-    bar->setValue(qMin(qMax(bar->value(), lowest), wanted.top() - around));
+    m_scroll->reveal(wanted, px(types || isNew ? aroundFocus : aroundRing));
 }
 
 void InspectorView::focusField(const QString& id)
@@ -151,7 +168,8 @@ bool InspectorView::eventFilter(QObject* watched, QEvent* event)
     // A text area that grew while one types may have pushed its own last line out of sight; so may a window that became
     // lower, and a notice that now lies over the form.
     if (event->type() == QEvent::Resize)
-        QMetaObject::invokeMethod(this, &InspectorView::revealFocus, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { revealFocus(false); }, Qt::QueuedConnection);
     return QWidget::eventFilter(watched, event);
 }
 

@@ -39,7 +39,7 @@ private:
     void connectGaps();
     void refresh();
     void refreshInPlace();
-    void revealFocus();
+    void revealFocus(bool isNew);
     void focusField(const QString& id);
 
     AppModel& m_model;

@@ -5,6 +5,7 @@
 #include "tests/ui/UiSupport.h"
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/cards/FoldingHeading.h"
+#include "ui/controls/cards/ItemCard.h"
 #include "ui/controls/pickers/CodePicker.h"
 #include "ui/controls/pickers/CodesPicker.h"
 #include "ui/controls/text/CountLine.h"
@@ -16,7 +17,10 @@
 
 #include <QClipboard>
 #include <QJsonObject>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSemaphore>
+#include <QWindow>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -82,6 +86,19 @@ public:
         QTest::keyClick(heading(title), Qt::Key_Right);
         settle();
     }
+    // Of the form that scrolls.
+    QRect inView(const QWidget* widget) const
+    {
+        const QWidget* viewport = view->findChild<QScrollArea*>()->viewport();
+        return { widget->mapTo(viewport, QPoint()), widget->size() };
+    }
+    int room() const { return view->findChild<QScrollArea*>()->viewport()->height(); }
+    // So that the widget begins this far above the lower edge.
+    void scroll(const QWidget* widget, int above) const
+    {
+        QScrollBar* bar = view->findChild<QScrollArea*>()->verticalScrollBar();
+        bar->setValue(bar->value() + inView(widget).top() - room() + above);
+    }
     QString placeholder(const QString& id) const { return row(id)->state().placeholder; }
 
     QSemaphore gate{ 1 };
@@ -99,6 +116,9 @@ private slots:
     void addedFieldsUnfoldTheirSection();
     void editorsOfAllKinds();
     void structuresAreCards();
+    void whatOpensIsInView_data();
+    void whatOpensIsInView();
+    void whatIsPressedStays();
     void alternativeTextIsCounted();
     void nothingIsTakenBeforeItIsKnown();
     void severalPhotos();
@@ -268,6 +288,85 @@ void tst_IptcForm::structuresAreCards()
     type(member(u"iptc.locationsShown"_s, u"City"_s), u"Uji"_s);
     QCOMPARE(f.model().batchLists().value(u"iptc.locationsShown"_s), QStringList{ uR"({"City":"Uji"})"_s });
     QVERIFY(f.row(u"iptc.locationsShown"_s)->state().included);
+}
+
+void tst_IptcForm::whatOpensIsInView_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::addColumn<QSize>("window");
+    for (const QString& how : { u"key"_s, u"mouse"_s, u"add"_s, u"section"_s })
+        for (const int height : { 560, 300 })
+            QTest::addRow("%s, %d", qPrintable(how), height) << how << QSize(520, height);
+    QTest::addRow("key, narrow") << u"key"_s << QSize(330, 800);
+}
+
+// All of it where there is room, else its head, whoever opened it at the lower edge.
+void tst_IptcForm::whatOpensIsInView()
+{
+    QFETCH(QString, how);
+    QFETCH(QSize, window);
+    Photos f;
+    QVERIFY(f.open(window));
+    f.show(u"a.jpg"_s);
+    const QWidget* opened = nullptr;
+    if (how == "section") {
+        opened = f.heading(u"LOCATION SHOWN"_s)->parentWidget();
+        f.heading(u"LOCATION SHOWN"_s)->setFocus();
+        f.scroll(opened, 40);
+        f.unfold(u"LOCATION SHOWN"_s);
+    } else {
+        f.unfold(u"LOCATION SHOWN"_s);
+        StructureList& list = f.editor<StructureCards>(u"iptc.locationsShown"_s)->list();
+        QWidget* line = how == "add" ? static_cast<QWidget*>(list.addButton()) : list.card(1)->widget()->input();
+        line->setFocus();
+        f.scroll(line, 44);
+        if (how == "mouse")
+            QTest::mouseClick(line, Qt::LeftButton);
+        else
+            QTest::keyClick(line, Qt::Key_Space);
+        opened = list.card(how == "add" ? 2 : 1)->widget();
+    }
+    // What is laid out later moves nothing away.
+    QTest::qWait(50);
+    const QRect seen = f.inView(opened);
+    QVERIFY2(seen.height() > 90, qPrintable(QString::number(seen.height())));
+    const QString told = u"%1 to %2 of %3"_s.arg(seen.top()).arg(seen.bottom()).arg(f.room());
+    if (seen.height() <= f.room())
+        QVERIFY2(seen.top() >= 0 && seen.bottom() < f.room(), qPrintable(told));
+    else
+        QVERIFY2(seen.top() >= 0 && seen.top() < 20, qPrintable(told));
+    const QRect focus = f.inView(QApplication::focusWidget());
+    QVERIFY2(focus.top() >= 0 && focus.bottom() < f.room(), qPrintable(told));
+    // What "More" brings, too.
+    QAbstractButton* more = button(opened, u"More fields of this place"_s);
+    if (!more)
+        return;
+    more->setFocus();
+    f.scroll(more, 30);
+    QTest::keyClick(more, Qt::Key_Space);
+    QTest::qWait(50);
+    const QWidget* first = QApplication::focusWidget()->parentWidget();
+    QVERIFY2(f.inView(first).top() >= 0 && f.inView(first).bottom() < f.room(),
+        qPrintable(QString::number(f.inView(first).bottom() - f.room())));
+}
+
+// A line that comes under the lower edge is scrolled in when the mouse has let it go: it is clicked.
+void tst_IptcForm::whatIsPressedStays()
+{
+    Photos f;
+    QVERIFY(f.open({ 520, 560 }));
+    f.show(u"a.jpg"_s);
+    f.unfold(u"LOCATION SHOWN"_s);
+    const StructureList& list = f.editor<StructureCards>(u"iptc.locationsShown"_s)->list();
+    const QWidget* line = list.card(1)->widget()->input();
+    f.scroll(line, 12);
+    const QPoint at = line->mapTo(f.window.get(), QPoint(40, 6));
+    QTest::mousePress(f.window->windowHandle(), Qt::LeftButton, {}, at);
+    f.settle();
+    QTest::mouseRelease(f.window->windowHandle(), Qt::LeftButton, {}, at);
+    QTRY_VERIFY(list.card(1)->isOpen());
+    QTest::qWait(100);
+    QVERIFY(f.inView(list.card(1)->widget()).bottom() < f.room());
 }
 
 void tst_IptcForm::alternativeTextIsCounted()

@@ -9,6 +9,7 @@
 #include "ui/inspector/WantedFields.h"
 #include "ui/inspector/iptc/FoldingSection.h"
 #include "ui/inspector/iptc/IptcSummary.h"
+#include "ui/inspector/iptc/SettledFocus.h"
 
 #include <QVBoxLayout>
 
@@ -92,7 +93,11 @@ FoldingSection* IptcSections::make(FieldSection section)
     made->hide();
     m_sections.insert(section, made);
     m_column->insertWidget(int(std::distance(m_sections.begin(), m_sections.find(section))), made);
-    connect(&made->heading(), &FoldLine::openAsked, this, [this, section](bool open) { setOpen(section, open); });
+    connect(&made->heading(), &FoldLine::openAsked, this, [this, section, made](bool open) {
+        setOpen(section, open);
+        if (open)
+            showWhereItStands(*made);
+    });
     return made;
 }
 

@@ -115,7 +115,11 @@ StructureCard* StructureList::makeCard()
     m_column->insertWidget(int(m_cards.size()), widget);
     m_cards.append(card);
     widget->show();
-    connect(widget, &ItemCard::openAsked, this, [this, card](bool open) { setOpen(card, open); });
+    connect(widget, &ItemCard::openAsked, this, [this, card](bool open) {
+        setOpen(card, open);
+        if (open)
+            showWhereItStands(*card->widget());
+    });
     connect(widget, &ItemCard::moveAsked, this, [this, card](int by) { move(card, by); });
     connect(widget, &ItemCard::removeAsked, this, [this, card] { remove(card); });
     connect(card, &StructureCard::textChanged, this, &StructureList::tell);
@@ -245,6 +249,7 @@ void StructureList::add()
     showOrder();
     if (QWidget* first = card->fields()->firstInput())
         focusWhereItStands(*first);
+    showWhereItStands(*card->widget());
     m_coming = nullptr;
 }
 
