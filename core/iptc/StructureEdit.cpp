@@ -7,6 +7,8 @@
 #include <QJsonArray>
 #include <QRegularExpression>
 
+#include <tuple>
+
 namespace Quorbel::StructureEdit {
 
 using namespace Qt::StringLiterals;
@@ -74,6 +76,40 @@ QStringList languages(const QString& text, const QString& member)
         if (name.startsWith(member + u'-'))
             codes.append(name.sliced(member.size() + 1));
     return codes;
+}
+
+bool isSame(const QString& a, const QString& b, const QString& member)
+{
+    return itemsOf(a, member) == itemsOf(b, member);
+}
+
+QList<qsizetype> origins(const QStringList& items, const QStringList& held)
+{
+    QList<qsizetype> found(items.size(), -1);
+    const auto common = [&](qsizetype item, qsizetype other) {
+        const QJsonObject members = StructureText::members(items.at(item));
+        const QJsonObject before = StructureText::members(held.at(other));
+        qsizetype count = 0;
+        for (auto member = members.begin(); member != members.end(); ++member)
+            count += before.value(member.key()) == member.value() ? 1 : 0;
+        return count;
+    };
+    for (qsizetype i = 0; i < items.size(); ++i)
+        for (qsizetype at = 0; at < held.size() && found.at(i) < 0; ++at)
+            if (items.at(i) == held.at(at) && !found.contains(at))
+                found[i] = at;
+    // The pair that has most in common is found first.
+    while (true) {
+        std::tuple<qsizetype, qsizetype, qsizetype> best{ 0, -1, -1 };
+        for (qsizetype i = 0; i < items.size(); ++i)
+            for (qsizetype at = 0; at < held.size() && found.at(i) < 0; ++at)
+                if (const qsizetype count = found.contains(at) ? 0 : common(i, at); count > std::get<0>(best))
+                    best = { count, i, at };
+        const auto [count, item, at] = best;
+        if (count == 0)
+            return found;
+        found[item] = at;
+    }
 }
 
 QString note(const StructureMember& member, const QString& text)

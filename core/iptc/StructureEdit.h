@@ -19,6 +19,12 @@ QString withStructures(const QString& text, const StructureMember& member, const
 /// The languages that a member has texts in, beside the plain one, in alphabetical order.
 QStringList languages(const QString& text, const QString& member);
 
+/// Whether both hold the same in this member.
+bool isSame(const QString& a, const QString& b, const QString& member);
+/// Of each item which of those that were held it is now: as it was, or the one that it has most members in common with.
+/// -1 for one that is like none of them.
+QList<qsizetype> origins(const QStringList& items, const QStringList& held);
+
 /// What somebody is told who typed no date or number into such a member. A year, or a year and a month, is a date.
 QString note(const StructureMember& member, const QString& text);
 

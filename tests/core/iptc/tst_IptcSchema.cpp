@@ -494,6 +494,31 @@ private slots:
             QCOMPARE(StructureEdit::texts(after, member).value(0), items.constFirst());
     }
 
+    void itemsAreFoundAgain_data()
+    {
+        QTest::addColumn<QStringList>("items");
+        QTest::addColumn<QList<qsizetype>>("origins");
+        const QString horn = json("{'City':'Horn','CountryName':'Switzerland'}");
+        const QString jona = json("{'City':'Jona','CountryName':'Switzerland','Sublocation':'Lake'}");
+        const QString hornEdited = json("{'City':'Arbon','CountryName':'Switzerland'}");
+        const QString jonaEdited = json("{'City':'Wil','CountryName':'Switzerland','Sublocation':'Lake'}");
+        using Places = QList<qsizetype>;
+        QTest::newRow("as they were") << QStringList{ horn, jona } << Places{ 0, 1 };
+        QTest::newRow("moved") << QStringList{ jona, horn } << Places{ 1, 0 };
+        QTest::newRow("moved and edited") << QStringList{ jonaEdited, hornEdited } << Places{ 1, 0 };
+        QTest::newRow("the first is gone") << QStringList{ jonaEdited } << Places{ 1 };
+        QTest::newRow("another one") << QStringList{ json("{'City':'Uji'}"), horn, jona } << Places{ -1, 0, 1 };
+        QTest::newRow("twice") << QStringList{ horn, horn, jona } << Places{ 0, -1, 1 };
+        QTest::newRow("nothing in it") << QStringList{ QString(), horn } << Places{ -1, 0 };
+    }
+    void itemsAreFoundAgain()
+    {
+        QFETCH(QStringList, items);
+        const QStringList held{ json("{'City':'Horn','CountryName':'Switzerland'}"),
+            json("{'City':'Jona','CountryName':'Switzerland','Sublocation':'Lake'}") };
+        QTEST(StructureEdit::origins(items, held), "origins");
+    }
+
     void membersHaveNotes_data()
     {
         QTest::addColumn<FieldKind>("kind");

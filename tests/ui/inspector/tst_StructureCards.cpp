@@ -131,6 +131,66 @@ private slots:
         QVERIFY(labels(desk.window()).join(u' ').contains(u"“Mood”"_s));
     }
 
+    // And no longer once they are what the photo holds; of several photos, all that will be written.
+    void editedMembersLookSo()
+    {
+        const QString contact = json("{'CiAdrCity':'Horn','CiEmailWork':'m@l.ch'}");
+        for (const QString& id : { u"iptc.contact"_s, u"iptc.locationsShown"_s }) {
+            const bool isContact = id == "iptc.contact";
+            Desk desk(id, isContact ? QStringList{ contact } : QStringList{ jona, horn });
+            const int at = isContact ? 0 : 1;
+            desk.cards->open(at);
+            QBTextField* city = desk.field(isContact ? u"CiAdrCity"_s : u"City"_s, at);
+            QBTextField* other = desk.field(isContact ? u"CiEmailWork"_s : u"CountryName"_s, at);
+            const auto ground = [](QBTextField* field) { return colorAt(field, { field->width() - 12, 8 }); };
+            const auto isEdited = [&] { return desk.line(at)->accessibleDescription().startsWith(u"edited"_s); };
+            // Emptied, it still is the one that it was.
+            for (const QString& typed : { u"Au"_s, QString() }) {
+                city->setFocus();
+                city->selectAll();
+                QTest::keyClick(city, Qt::Key_Backspace);
+                QTest::keyClicks(city, typed);
+                QCOMPARE(ground(city), Theme::light().amberBg);
+                QCOMPARE(city->accessibleDescription(), u"edited"_s);
+                QCOMPARE(ground(other), Theme::light().field);
+                QVERIFY(isEdited());
+            }
+            QTest::keyClicks(city, u"Horn"_s);
+            QCOMPARE(ground(city), Theme::light().field);
+            QCOMPARE(city->accessibleDescription(), QString());
+            QVERIFY(!isEdited());
+        }
+        Desk batch(u"iptc.locationsShown"_s);
+        batch.state.batch = true;
+        batch.cards->add();
+        type(QApplication::focusWidget(), u"x"_s);
+        QCOMPARE(colorAt(batch.field(u"LocationName"_s), { 200, 8 }), Theme::light().amberBg);
+        QCOMPARE(colorAt(batch.field(u"City"_s), { 200, 8 }), Theme::light().field);
+        QCOMPARE(batch.line(0)->accessibleDescription(), u"x"_s);
+    }
+
+    // Folded they are told by their ground: within a card is no room for the dot.
+    void editedStructuresWithinLookSo()
+    {
+        Desk desk(u"iptc.regions"_s, { region });
+        auto* outline = qobject_cast<StructureList*>(desk.fields()->input(u"RegionBoundary"_s));
+        outline->open(0);
+        auto* points = qobject_cast<StructureList*>(outline->card(0)->fields()->input(u"RbVertices"_s));
+        points->open(0);
+        QBTextField* x = qobject_cast<QBTextField*>(points->card(0)->fields()->input(u"RbX"_s));
+        type(x, u"0"_s);
+        QCOMPARE(colorAt(x, { x->width() - 12, 8 }), Theme::light().amberBg);
+        for (StructureList* list : { points, outline }) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+            const ItemCard* card = list->card(0)->widget();
+            const QColor ground = colorAt(desk.window(), card->mapTo(desk.window(), QPoint(card->width() - 60, 5)));
+            QVERIFY2(ground.red() - ground.blue() > 25, qPrintable(ground.name()));
+            QVERIFY(card->input()->accessibleDescription().startsWith(u"edited"_s));
+        }
+        const ItemCard* second = points->card(1)->widget();
+        QVERIFY(!second->input()->accessibleDescription().startsWith(u"edited"_s));
+    }
+
     // Others follow the owner; what somebody types stays as it was typed, until the owner changes its mind.
     void ownerAnswersSomethingElse()
     {
@@ -296,7 +356,7 @@ private slots:
         QVERIFY(altitude->isVisible() && altitude->hasFocus());
         QTest::keyClicks(altitude, u"low"_s);
         QVERIFY(labels(desk.window()).contains(u"Not a number"_s));
-        QCOMPARE(altitude->accessibleDescription(), u"Not a number"_s);
+        QCOMPARE(altitude->accessibleDescription(), u"edited, Not a number"_s);
         click(button(desk.window(), u"More fields of this place"_s));
         QVERIFY(desk.fields()->input(u"LocationId"_s)->hasFocus());
         QVERIFY(desk.field(u"GPSLatitude"_s));

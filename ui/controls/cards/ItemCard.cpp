@@ -163,6 +163,11 @@ void ItemCard::setCanMove(bool up, bool down)
     m_down->setEnabled(down);
 }
 
+void ItemCard::setCanRemove(bool can)
+{
+    m_remove->setEnabled(can);
+}
+
 void ItemCard::setAlone(const QString& removing)
 {
     m_up->setVisible(false);
@@ -194,6 +199,7 @@ QList<QWidget*> ItemCard::tabStops() const
 
 ThemedMenu* ItemCard::makeMenu()
 {
+    emit menuAsked();
     auto* menu = new ThemedMenu(this);
     menu->addActions(actions());
     if (!menu->isEmpty())
@@ -221,8 +227,10 @@ void ItemCard::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
-    paintBox(painter, QRectF(rect()).adjusted(dotRoom(), 0, 0, 0), pxF(radius), Qt::transparent, QPen(theme.line, 1));
-    if (m_line->isEdited())
+    const bool isAmber = m_inner && m_line->isEdited() && !isOpen();
+    paintBox(painter, QRectF(rect()).adjusted(dotRoom(), 0, 0, 0), pxF(radius),
+        isAmber ? theme.amberBg : QColor(Qt::transparent), QPen(isAmber ? theme.amberLine : theme.line, 1));
+    if (m_line->isEdited() && !m_inner)
         EditedDot::paint(painter, m_line->geometry().center().y() + .5, theme);
 }
 

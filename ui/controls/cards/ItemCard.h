@@ -42,9 +42,11 @@ public:
     void setEdited(bool edited);
     /// Where there is another one to change places with.
     void setCanMove(bool up, bool down);
+    void setCanRemove(bool can);
     /// There is never another one; `removing` is what its menu calls taking it away: "Clear".
     void setAlone(const QString& removing);
-    /// Without the room for the dot: its edge stands where editors begin, in the content of another card.
+    /// Its edge stands where editors begin, in the content of another card. There is no room for the dot: while it is
+    /// folded, all of it looks edited.
     void setInner();
     /// It can be read only, and has no menu.
     void setFixed(bool on);
@@ -55,6 +57,8 @@ public:
 
 signals:
     void openAsked(bool open);
+    /// Its menu is about to be made of its actions.
+    void menuAsked();
     /// -1: before the one that is in front of it, 1: behind the next.
     void moveAsked(int by);
     void removeAsked();

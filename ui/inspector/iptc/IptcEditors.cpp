@@ -63,7 +63,7 @@ RowEditor structures(const FieldSpec& field, const CodeTexts& codes, FieldRow& r
         const QStringList one = state.text.isEmpty() ? QStringList() : QStringList(state.text);
         cards->setState({ .items = field.isSeveral ? state.items : one,
                             .held = state.held,
-                            .edited = state.edited,
+                            .edited = state.edited || (state.batch && state.included),
                             .batch = state.batch },
             fresh);
     };

@@ -27,6 +27,15 @@ std::function<void(const QJsonValue& value)> setter(const QString& name, const M
         [name, parts](const QJsonValue& value) { parts.changed(StructureEdit::with(parts.structure(), name, value)); };
 }
 
+template <typename Editor>
+std::function<void(const std::optional<QString>& origin)> marker(
+    const QString& name, const MemberEditorParts& parts, Editor* editor)
+{
+    return [name, structure = parts.structure, editor](const std::optional<QString>& origin) {
+        editor->setEdited(origin && !StructureEdit::isSame(structure(), *origin, name));
+    };
+}
+
 template <typename Field>
 MemberEditor textEditor(const QString& name, const MemberEditorParts& parts, QWidget* parent)
 {
@@ -45,7 +54,7 @@ MemberEditor textEditor(const QString& name, const MemberEditorParts& parts, QWi
             line->setCursorPosition(0);
     };
     return { field, field, [field] { return QList<QWidget*>{ field }; }, show,
-        [field](bool on) { field->setReadOnly(on); } };
+        [field](bool on) { field->setReadOnly(on); }, marker(name, parts, field) };
 }
 
 MemberEditor codeEditor(const QString& name, const MemberEditorParts& parts, const CodeSource& source, QWidget* parent)
@@ -57,7 +66,7 @@ MemberEditor codeEditor(const QString& name, const MemberEditorParts& parts, con
         picker, &CodePicker::picked, picker, [set = setter(name, parts)](const QString& code) { set(code); });
     return { picker, picker, [picker] { return QList<QWidget*>{ picker }; },
         [picker, name](const QString& structure, bool) { picker->setCode(textIn(structure, name)); },
-        [picker](bool on) { picker->setEnabled(!on); } };
+        [picker](bool on) { picker->setEnabled(!on); }, marker(name, parts, picker) };
 }
 
 // The one number that stands for a word.
@@ -103,7 +112,7 @@ MemberEditor chipsEditor(const QString& name, const MemberEditorParts& parts, QW
             editor->setChips(texts);
     };
     return { editor, editor->entry(), [editor] { return QList<QWidget*>{ editor->entry() }; }, show,
-        [editor](bool on) { editor->setEnabled(!on); } };
+        [editor](bool on) { editor->setEnabled(!on); }, marker(name, parts, editor) };
 }
 
 MemberEditor structuresEditor(const StructureSpec& structure, const MemberEditorParts& parts, QWidget* parent)
@@ -117,7 +126,10 @@ MemberEditor structuresEditor(const StructureSpec& structure, const MemberEditor
     const auto show = [list, name = parts.member.name](const QString& text, bool fresh) {
         list->show(StructureEdit::structures(text, name), fresh);
     };
-    return { list, list, [list] { return list->tabStops(); }, show, [list](bool on) { list->setReadOnly(on); } };
+    const auto mark = [list, name = parts.member.name](const std::optional<QString>& origin) {
+        list->setHeld(origin ? std::optional(StructureEdit::structures(*origin, name)) : std::nullopt);
+    };
+    return { list, list, [list] { return list->tabStops(); }, show, [list](bool on) { list->setReadOnly(on); }, mark };
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QList>
 
 #include <functional>
+#include <optional>
 
 class QWidget;
 
@@ -30,6 +31,8 @@ struct MemberEditor {
     /// What the member is in this structure; `fresh` as in StructureCards::setState().
     std::function<void(const QString& structure, bool fresh)> show{};
     std::function<void(bool on)> setReadOnly{};
+    /// Where it is other than in `origin` it looks edited; nowhere for none.
+    std::function<void(const std::optional<QString>& origin)> mark{};
 };
 
 /// `name` is the member's, or that of its text in a language: "AOTitle-de".

@@ -77,8 +77,11 @@ void StructureCard::makeFields()
 {
     m_fields = new StructureFields(m_structure, m_codes);
     m_fields->setReadOnly(m_readOnly);
+    m_fields->setStart(m_start);
     m_fields->show(m_text, true);
+    m_fields->setOrigin(m_origin);
     m_widget->setContent(m_fields);
+    connect(m_fields, &StructureFields::startAsked, this, &StructureCard::startAsked);
     connect(m_fields, &StructureFields::tabStopsChanged, this, &StructureCard::tabStopsChanged);
     connect(m_fields, &StructureFields::textChanged, this, [this](const QString& text) {
         m_text = text;
@@ -92,6 +95,20 @@ void StructureCard::setReadOnly(bool on)
     m_readOnly = on;
     if (m_fields)
         m_fields->setReadOnly(on);
+}
+
+void StructureCard::setOrigin(const std::optional<QString>& origin)
+{
+    m_origin = origin;
+    if (m_fields)
+        m_fields->setOrigin(origin);
+}
+
+void StructureCard::setStart(const QString& title)
+{
+    m_start = title;
+    if (m_fields)
+        m_fields->setStart(title);
 }
 
 bool StructureCard::holds(const QWidget* focus) const

@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include <optional>
+
 class QWidget;
 
 namespace Quorbel {
@@ -36,6 +38,10 @@ public:
     void setOpen(bool open);
     bool isOpen() const;
     void setReadOnly(bool on);
+    /// As those of its fields, which it may not have yet.
+    void setOrigin(const std::optional<QString>& origin);
+    const std::optional<QString>& origin() const { return m_origin; }
+    void setStart(const QString& title);
     /// Nothing while it was never open.
     StructureFields* fields() const { return m_fields; }
     /// Whether the keyboard is in it, or in something that was opened from it.
@@ -44,6 +50,7 @@ public:
 
 signals:
     void textChanged();
+    void startAsked();
     void tabStopsChanged();
 
 private:
@@ -55,6 +62,8 @@ private:
     QString m_text;
     QString m_spoken;
     QString m_untitled;
+    QString m_start;
+    std::optional<QString> m_origin;
     QPointer<ItemCard> m_widget;
     StructureFields* m_fields = nullptr;
     bool m_readOnly = false;

@@ -60,10 +60,8 @@ void StructureCards::setState(const StructureCardsState& state, bool fresh)
     m_list->setReadOnly(!state.readOnlyReason.isEmpty());
     m_list->show(state.items, fresh);
     // In a batch the field's tick tells that all of them will be added.
-    if (state.edited && !state.batch)
-        m_list->setEdited([held = state.held](const QString& item) { return !held.contains(item); });
-    else
-        m_list->setEdited({});
+    const QStringList held = state.batch ? QStringList() : state.held;
+    m_list->setHeld(state.edited ? std::optional(held) : std::nullopt, !state.batch);
     m_reason->setText(state.readOnlyReason);
     m_reason->setVisible(!state.readOnlyReason.isEmpty() && !state.unread);
     update();

@@ -12,7 +12,8 @@ class WrappedLine;
 /// All that the cards of a field show.
 struct StructureCardsState {
     QStringList items{};  ///< in the form of StructureText; of a batch what all photos are to gain
-    QStringList held{};  ///< what the photo itself holds: cards that differ from it have the edited dot
+    QStringList held{};  ///< what the photo itself holds: cards that differ from it have the edited dot, their members
+                         ///< that do look it
     bool edited = false;
     bool batch = false;
     QString readOnlyReason{};  ///< shown, and nothing can be changed; "" where it can

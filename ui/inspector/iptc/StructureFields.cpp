@@ -73,15 +73,19 @@ StructureFields::StructureFields(const StructureSpec& structure, const CodeTexts
     , m_structure(structure)
     , m_codes(codes)
     , m_column(new QVBoxLayout(this))
+    , m_start(new QBTextButton({}, this))
     , m_more(new QBTextButton(u"More"_s, this))
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_column->setContentsMargins(0, 0, 0, 0);
-    m_column->addWidget(m_more, 0, Qt::AlignLeft);
-    m_more->setTrailingIcon(u"chevron.down"_s);
-    // In line with the labels.
-    m_more->setInline(true);
-    m_more->setRole(TextRole::label);
+    for (QBTextButton* button : { m_start, m_more }) {
+        m_column->addWidget(button, 0, Qt::AlignLeft);
+        button->setTrailingIcon(u"chevron.down"_s);
+        // In line with the labels.
+        button->setInline(true);
+        button->setRole(TextRole::label);
+    }
+    connect(m_start, &QAbstractButton::clicked, this, &StructureFields::startAsked);
     connect(m_more, &QAbstractButton::clicked, this, &StructureFields::revealRest);
     onRestyle(this, [this] { m_column->setSpacing(px(gap)); });
     showLines(true);
@@ -115,7 +119,23 @@ void StructureFields::setReadOnly(bool on)
         if (line.languages)
             line.languages->setReadOnly(on);
     }
+    showStart();
     showMore();
+}
+
+void StructureFields::setOrigin(const std::optional<QString>& origin)
+{
+    m_origin = origin;
+    for (Line& line : m_lines)
+        for (Part& part : line.parts)
+            showNote(line, part);
+}
+
+void StructureFields::setStart(const QString& title)
+{
+    m_start->setText(title);
+    m_start->updateGeometry();
+    showStart();
 }
 
 // --- Which rows there are ---
@@ -184,6 +204,7 @@ void StructureFields::showLines(bool fresh)
         line.row->show();
         isOther |= isNew;
     }
+    showStart();
     showMore();
     showForeign();
     if (isOther)
@@ -226,27 +247,43 @@ StructureFields::Line StructureFields::makeLine(const Key& key)
         connect(line.languages, &MemberLanguages::asked, this,
             [this, member, row = line.row] { openLanguages(member, *row); });
     }
-    m_column->insertWidget(int(std::distance(m_lines.cbegin(), std::as_const(m_lines).lowerBound(key))), line.row);
+    m_column->insertWidget(1 + int(std::distance(m_lines.cbegin(), std::as_const(m_lines).lowerBound(key))), line.row);
     return line;
 }
 
+// What is seen of it, for screen readers too.
 void StructureFields::showNote(Line& line, Part& part)
 {
+    part.editor.mark(m_origin);
     const QString text = part.member.kind == FieldKind::date || part.member.kind == FieldKind::number
         ? StructureEdit::note(part.member, StructureEdit::texts(m_text, part.name).value(0))
         : QString();
-    if (!part.note && text.isEmpty())
-        return;
-    if (!part.note) {
+    if (!part.note && !text.isEmpty()) {
         part.note = new WrappedLine(TextRole::amberText, noteSize, noteHeight);
         line.row->addBelow(part.note);
     }
-    part.note->setText(text);
-    part.note->setVisible(!text.isEmpty());
-    part.editor.input->setAccessibleDescription(text);
+    if (part.note) {
+        part.note->setText(text);
+        part.note->setVisible(!text.isEmpty());
+    }
+    QStringList told;
+    if (m_origin && !StructureEdit::isSame(m_text, *m_origin, part.name))
+        told.append(u"edited"_s);
+    if (!text.isEmpty())
+        told.append(text);
+    part.editor.input->setAccessibleDescription(told.join(u", "_s));
 }
 
-// --- Below the rows ---
+// --- Above and below the rows ---
+
+void StructureFields::showStart()
+{
+    const bool isOffered = !m_start->text().isEmpty() && m_text.isEmpty() && !m_readOnly;
+    // Also while the popover that it has opened is closing.
+    if (!isOffered && window()->focusWidget() == m_start && firstInput())
+        firstInput()->setFocus(Qt::OtherFocusReason);
+    m_start->setVisible(isOffered);
+}
 
 void StructureFields::showMore()
 {
@@ -339,7 +376,7 @@ QWidget* StructureFields::firstInput() const
 
 QList<QWidget*> StructureFields::tabStops() const
 {
-    QList<QWidget*> stops;
+    QList<QWidget*> stops{ m_start };
     for (const Line& line : m_lines)
         for (const Part& part : line.parts)
             if (!line.row->isHidden())

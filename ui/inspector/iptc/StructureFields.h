@@ -30,6 +30,10 @@ public:
     void show(const QString& text, bool fresh);
     const QString& text() const { return m_text; }
     void setReadOnly(bool on);
+    /// Members that are other than in this structure look edited; none do for none.
+    void setOrigin(const std::optional<QString>& origin);
+    /// While nothing is in it, a button over the rows; none for "".
+    void setStart(const QString& title);
     /// Of a member that is shown, what takes the keyboard; nothing for any other. A text in a language has the name
     /// that the structure has it under: "AOTitle-de".
     QWidget* input(const QString& member) const;
@@ -39,6 +43,8 @@ public:
 signals:
     void textChanged(const QString& text);
     void tabStopsChanged();
+    /// The button over the rows was pressed.
+    void startAsked();
 
 private:
     // A member, or its text in a language.
@@ -64,6 +70,7 @@ private:
     Line makeLine(const Key& key);
     Part makePart(const StructureMember& member, const QString& code);
     void showNote(Line& line, Part& part);
+    void showStart();
     void showMore();
     void showForeign();
     void revealRest();
@@ -75,7 +82,9 @@ private:
     CodeTexts m_codes;
     QString m_text;
     QJsonObject m_members;  ///< the text's
+    std::optional<QString> m_origin;
     QVBoxLayout* m_column;
+    QBTextButton* m_start;
     QMap<Key, Line> m_lines;  ///< those that are not shown, too
     QBTextButton* m_more;
     WrappedLine* m_foreign = nullptr;  ///< until it was needed

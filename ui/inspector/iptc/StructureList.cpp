@@ -1,5 +1,6 @@
 #include "ui/inspector/iptc/StructureList.h"
 
+#include "core/iptc/StructureEdit.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/cards/EditedDot.h"
@@ -74,6 +75,10 @@ QStringList StructureList::items() const
 void StructureList::take(const QStringList& items, bool fresh)
 {
     const bool isAlways = m_parts.holds == Holds::always;
+    if (fresh) {
+        m_held.reset();
+        showEdited();
+    }
     const QWidget* focus = QApplication::focusWidget();
     // Each card keeps its place; an empty one takes part where it is one of just as many.
     const bool isSameCount = items.size() == m_cards.size();
@@ -122,6 +127,11 @@ StructureCard* StructureList::makeCard()
     });
     connect(widget, &ItemCard::moveAsked, this, [this, card](int by) { move(card, by); });
     connect(widget, &ItemCard::removeAsked, this, [this, card] { remove(card); });
+    connect(widget, &ItemCard::menuAsked, this, [this, card] { showCan(card); });
+    connect(card, &StructureCard::startAsked, this, [this, card] {
+        if (const StructureAction* action = start())
+            action->run(itemOf(card));
+    });
     connect(card, &StructureCard::textChanged, this, &StructureList::tell);
     connect(card, &StructureCard::tabStopsChanged, this, &StructureList::tabStopsChanged);
     return card;
@@ -141,6 +151,27 @@ void StructureList::addMenu(StructureCard* card)
         connect(action, &QAction::triggered, this, [this, card, run = one.run] { run(itemOf(card)); });
         widget->addAction(action);
     }
+    card->setStart(start() ? start()->start : QString());
+}
+
+const StructureAction* StructureList::start() const
+{
+    const auto found = std::find_if(
+        m_actions.cbegin(), m_actions.cend(), [](const StructureAction& action) { return !action.start.isEmpty(); });
+    return found == m_actions.cend() ? nullptr : &*found;
+}
+
+// Before the card's menu is made. A reason in a tooltip would not reach whoever uses the keyboard.
+void StructureList::showCan(StructureCard* card)
+{
+    const QList<QAction*> actions = card->widget()->actions();
+    for (qsizetype i = 0; i < m_actions.size(); ++i) {
+        const StructureAction& one = m_actions.at(i);
+        const QString reason = one.whyNot ? one.whyNot(itemOf(card)) : QString();
+        actions.at(i)->setText(reason.isEmpty() ? one.text : u"%1 (%2)"_s.arg(one.text, reason));
+        actions.at(i)->setEnabled(reason.isEmpty());
+    }
+    card->widget()->setCanRemove(m_parts.holds != Holds::always || !card->text().isEmpty());
 }
 
 void StructureList::setActions(const QList<StructureAction>& actions)
@@ -170,10 +201,35 @@ void StructureList::setReadOnly(bool on)
     showOrder();
 }
 
-void StructureList::setEdited(const std::function<bool(const QString& item)>& isEdited)
+void StructureList::setHeld(const std::optional<QStringList>& held, bool dots)
 {
-    m_isEdited = isEdited;
-    showOrder();
+    m_held = held;
+    m_hasDots = dots;
+    showEdited();
+}
+
+// A card that nothing is like any more is still what it was.
+void StructureList::showEdited()
+{
+    QStringList texts;
+    for (const StructureCard* card : std::as_const(m_cards))
+        texts.append(card->text());
+    const QList<qsizetype> origins = StructureEdit::origins(texts, m_held.value_or(QStringList()));
+    QStringList left = m_held.value_or(QStringList());
+    for (const qsizetype at : origins)
+        if (at >= 0)
+            left.removeOne(m_held->at(at));
+    for (qsizetype i = 0; i < m_cards.size(); ++i) {
+        StructureCard* card = m_cards.at(i);
+        const QString before = card->origin().value_or(m_parts.holds == Holds::several ? QString() : left.value(0));
+        QString origin;
+        if (origins.at(i) >= 0)
+            origin = m_held->at(origins.at(i));
+        else if (left.removeOne(before))
+            origin = before;
+        card->setOrigin(m_held ? std::optional(origin) : std::nullopt);
+        card->widget()->setEdited(m_held && m_hasDots && card->text() != origin);
+    }
 }
 
 // Names, what can move, and whether there may be another.
@@ -182,7 +238,6 @@ void StructureList::showOrder()
     const qsizetype count = m_cards.size();
     for (qsizetype i = 0; i < count; ++i) {
         StructureCard* card = m_cards.at(i);
-        card->widget()->setEdited(m_isEdited && m_isEdited(card->text()));
         card->widget()->setCanMove(i > 0, i + 1 < count);
         card->setSpoken(m_parts.holds == Holds::several
                 ? u"%1, %2 %3 of %4"_s.arg(m_parts.name, m_parts.structure->item).arg(i + 1).arg(count)
@@ -190,6 +245,7 @@ void StructureList::showOrder()
     }
     const bool isRoom = m_parts.holds == Holds::several || m_cards.isEmpty();
     m_add->setVisible(isRoom && !m_readOnly);
+    showEdited();
     emit tabStopsChanged();
 }
 

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class QVBoxLayout;
 
@@ -21,6 +22,9 @@ struct StructureAction {
     QString text{};
     /// The item's place; behind the last one for a card that is still empty.
     std::function<void(int item)> run{};
+    /// Behind its text where it would do nothing to this item: "nothing there". "" where it can be chosen.
+    std::function<QString(int item)> whyNot{};
+    QString start{};  ///< what a button in a card that is still empty is called; none for ""
 };
 
 /// A card that was added, or emptied, is there for as long as the keyboard is in it, and is no item before something is
@@ -47,8 +51,9 @@ public:
     QStringList items() const;
     void setActions(const QList<StructureAction>& actions);
     void setReadOnly(bool on);
-    /// Which items have the edited dot.
-    void setEdited(const std::function<bool(const QString& item)>& isEdited);
+    /// What the photo holds itself: items that differ from it have the edited dot, their members that do look edited.
+    /// Nothing does for none. With `dots` off only members do.
+    void setHeld(const std::optional<QStringList>& held, bool dots = true);
 
     void add();
     void open(int item);
@@ -83,11 +88,15 @@ private:
     bool foldOpen();
     bool walk(QWidget* from, int key);
     void showOrder();
+    void showEdited();
+    void showCan(StructureCard* card);
+    const StructureAction* start() const;
     void tell();
 
     Parts m_parts;
     QList<StructureAction> m_actions;
-    std::function<bool(const QString& item)> m_isEdited;
+    std::optional<QStringList> m_held;
+    bool m_hasDots = true;
     QVBoxLayout* m_column;
     QList<StructureCard*> m_cards;
     QBButton* m_add;
