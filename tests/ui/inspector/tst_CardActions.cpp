@@ -2,6 +2,7 @@
 #include "app/model/iptc/RememberedCards.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/StructureText.h"
+#include "tests/ui/UiSupport.h"
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/attached/MenuRow.h"
 #include "ui/controls/cards/ItemCard.h"
@@ -10,6 +11,7 @@
 #include "ui/inspector/iptc/PlacePopover.h"
 #include "ui/inspector/iptc/RememberedPopover.h"
 #include "ui/inspector/iptc/StructureCard.h"
+#include "ui/inspector/iptc/StructureFields.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -55,15 +57,22 @@ struct Desk {
                                       : QStringList(one);
         cards->setState(state, false);
     }
+    // What the menu of a card offers; a cross in front of what cannot be chosen.
+    QStringList offers(int item) const
+    {
+        emit cards->list().card(item)->widget()->menuAsked();
+        QStringList texts;
+        for (const QAction* action : cards->list().card(item)->widget()->actions())
+            texts.append((action->isEnabled() ? QString() : u"×"_s) + action->text());
+        return texts;
+    }
     // From a card's menu; whether it is there.
     bool choose(int item, const QString& text) const
     {
-        for (QAction* action : cards->list().card(item)->widget()->actions())
-            if (action->text() == text) {
-                action->trigger();
-                return true;
-            }
-        return false;
+        const qsizetype at = offers(item).indexOf(text);
+        if (at >= 0)
+            cards->list().card(item)->widget()->actions().at(at)->trigger();
+        return at >= 0;
     }
     template <typename Kind>
     static const Kind* opened()
@@ -122,12 +131,18 @@ private slots:
     {
         Desk desk(u"iptc.locationCreated"_s);
         QVERIFY(desk.open());
+        desk.cards->add();
+        const QString search = u"Search Place…"_s;
+        QCOMPARE(desk.offers(0),
+            (QStringList{ u"×Copy from Location (nothing there)"_s, u"×Copy to Location (nothing here)"_s, search }));
         desk.photos->setSingle(u"place"_s, u"Lima"_s);
         desk.photos->setSingle(u"country"_s, u"Peru"_s);
-        desk.cards->add();
         QVERIFY(desk.choose(0, u"Copy from Location"_s));
         const QString lima = StructureText::of({ { u"City"_s, u"Lima"_s }, { u"CountryName"_s, u"Peru"_s } });
         QCOMPARE(desk.state.items, QStringList{ lima });
+        QCOMPARE(desk.offers(0),
+            (QStringList{
+                u"×Copy from Location (the same already)"_s, u"×Copy to Location (the same already)"_s, search }));
 
         QVERIFY(desk.choose(0, u"Search Place…"_s));
         const auto* popover = Desk::opened<PlacePopover>();
@@ -170,9 +185,26 @@ private slots:
         QCOMPARE(popover->rows().size(), 1);
         QTest::keyClick(popover->rows().constFirst(), Qt::Key_Space);
         QCOMPARE(desk.state.items, QStringList{ card(u"Zürich"_s) });
+        // In the card too, for as long as nothing is in it.
+        const QString start = u"Use a remembered contact…"_s;
+        QVERIFY(!button(desk.cards, start));
+        desk.photos->setSingle(desk.field.id, {});
+        QAbstractButton* offered = button(desk.cards, start);
+        QVERIFY(offered);
+        QCOMPARE(desk.cards->tabStops().indexOf(offered) + 1,
+            desk.cards->tabStops().indexOf(desk.cards->list().card(0)->fields()->firstInput()));
+        offered->setFocus();
+        QTest::keyClick(offered, Qt::Key_Space);
+        popover = Desk::opened<RememberedPopover>();
+        QVERIFY(popover);
+        QTest::keyClick(popover->rows().constFirst(), Qt::Key_Return);
+        QCOMPARE(desk.state.items, QStringList{ card(u"Zürich"_s) });
+        QTRY_VERIFY(desk.cards->list().card(0)->fields()->firstInput()->hasFocus());
         QVERIFY(desk.choose(0, u"Forget Remembered Contacts"_s));
         QVERIFY(remembered.of(desk.field.id).isEmpty());
         QTRY_VERIFY(!desk.choose(0, u"Use Remembered Contact…"_s));
+        desk.photos->setSingle(desk.field.id, {});
+        QVERIFY(!button(desk.cards, start));
     }
 };
 

@@ -57,22 +57,48 @@ CardActions::CardActions(AppModel& model, PlaceProvider* places, const FieldSpec
 
 void CardActions::offerPlaces()
 {
-    m_cards.setActions({ { u"Copy from Location"_s, [this](int item) { copyFromLocation(item); } },
-        { u"Copy to Location"_s, [this](int item) { copyToLocation(item); } },
+    m_cards.setActions({ { u"Copy from Location"_s, [this](int item) { copyFromLocation(item); },
+                             [this](int item) { return whyNotFrom(item); } },
+        { u"Copy to Location"_s, [this](int item) { copyToLocation(item); },
+            [this](int item) { return whyNotTo(item); } },
         { u"Search Place…"_s, [this](int item) { searchPlace(item); } } });
+}
+
+QString CardActions::ofLocation(int item) const
+{
+    const QString place = LocationCards::fromFields([this](const QString& id) { return fieldText(id); });
+    return place.isEmpty() ? QString() : LocationCards::moved(items().value(item), place);
+}
+
+QString CardActions::whyNotFrom(int item) const
+{
+    const QString card = ofLocation(item);
+    if (card.isEmpty())
+        return u"nothing there"_s;
+    return card == items().value(item) ? u"the same already"_s : QString();
+}
+
+QString CardActions::whyNotTo(int item) const
+{
+    if (LocationCards::toFields(items().value(item), [](const QString&) { return QString(); }).isEmpty())
+        return u"nothing here"_s;
+    return toLocation(item).isEmpty() ? u"the same already"_s : QString();
 }
 
 void CardActions::copyFromLocation(int item)
 {
-    const QString place = LocationCards::fromFields([this](const QString& id) { return fieldText(id); });
-    if (!place.isEmpty())
-        setItem(item, LocationCards::moved(items().value(item), place));
+    if (const QString card = ofLocation(item); !card.isEmpty())
+        setItem(item, card);
+}
+
+QList<LocationFill::Assignment> CardActions::toLocation(int item) const
+{
+    return LocationCards::toFields(items().value(item), [this](const QString& id) { return fieldText(id); });
 }
 
 void CardActions::copyToLocation(int item)
 {
-    const auto edits =
-        LocationCards::toFields(items().value(item), [this](const QString& id) { return fieldText(id); });
+    const QList<LocationFill::Assignment> edits = toLocation(item);
     for (const LocationFill::Assignment& edit : edits)
         setField(edit.id, edit.value);
 }
@@ -123,15 +149,16 @@ void CardActions::offerRemembered()
     if (m_model.rememberedCards().of(m_field.id).isEmpty())
         m_cards.setActions({});
     else
-        m_cards.setActions({ { u"Use Remembered %1…"_s.arg(m_field.isSeveral ? u"Licensor"_s : u"Contact"_s),
-                                 [this](int item) { pickRemembered(item); } },
-            { u"Forget Remembered %1"_s.arg(things()),
+        m_cards.setActions({ { .text = u"Use Remembered %1…"_s.arg(thing()),
+                                 .run = [this](int item) { pickRemembered(item); },
+                                 .start = u"Use a remembered %1…"_s.arg(thing().toLower()) },
+            { u"Forget Remembered %1"_s.arg(thing() + u's'),
                 [this](int) { m_model.rememberedCards().forgetAll(m_field.id); } } });
 }
 
-QString CardActions::things() const
+QString CardActions::thing() const
 {
-    return m_field.isSeveral ? u"Licensors"_s : u"Contacts"_s;
+    return m_field.isSeveral ? u"Licensor"_s : u"Contact"_s;
 }
 
 void CardActions::pickRemembered(int item)
@@ -139,7 +166,7 @@ void CardActions::pickRemembered(int item)
     QWidget* card = anchor(item);
     if (!card)
         return;
-    auto* popover = new RememberedPopover(u"Remembered %1"_s.arg(things().toLower()), card);
+    auto* popover = new RememberedPopover(u"Remembered %1"_s.arg(thing().toLower() + u's'), card);
     RememberedCards& cards = m_model.rememberedCards();
     showRemembered(*popover);
     connect(&cards, &RememberedCards::changed, popover, [this, popover] { showRemembered(*popover); });

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "core/schema/FieldSpec.h"
+#include "core/schema/LocationFill.h"
 #include "ui/inspector/iptc/StructureCards.h"
 
 #include <QObject>
@@ -29,7 +30,11 @@ private:
     void offerRemembered();
     void offerTerms();
     void chooseTerm(const TermOffer& offer, int item);
-    QString things() const;
+    QString thing() const;
+    QString ofLocation(int item) const;
+    QList<LocationFill::Assignment> toLocation(int item) const;
+    QString whyNotFrom(int item) const;
+    QString whyNotTo(int item) const;
     void copyFromLocation(int item);
     void copyToLocation(int item);
     void searchPlace(int item);
