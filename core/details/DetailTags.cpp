@@ -1,5 +1,6 @@
 #include "core/details/DetailTags.h"
 
+#include "core/details/Credentials.h"
 #include "core/details/FieldHomes.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/schema/FieldSchema.h"
@@ -32,12 +33,8 @@ QStringList pathTags()
 
 QStringList all()
 {
-    return FieldHomes::readTags() + IptcSchema::readTags() + languageTags() + pathTags() << boxLabel() << error();
-}
-
-QString boxLabel()
-{
-    return u"JUMBF:JUMDLabel"_s;
+    return FieldHomes::readTags() + IptcSchema::readTags() + languageTags() + pathTags() + Credentials::tags()
+        << error();
 }
 
 QString error()

@@ -8,8 +8,6 @@ namespace Quorbel::DetailTags {
 
 /// In all groups that know them, so that a namesake of another standard is found as well.
 QStringList all();
-/// The label of the first box of a photo that holds boxes (JUMBF). One that is sealed has Content Credentials there.
-QString boxLabel();
 /// Set where the tool cannot read a file; a tag of the photo's own that is called Error has another group.
 QString error();
 

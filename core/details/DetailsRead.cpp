@@ -1,6 +1,7 @@
 #include "core/details/DetailsRead.h"
 
 #include "core/details/AnswersByFile.h"
+#include "core/details/Credentials.h"
 #include "core/details/DetailTags.h"
 #include "core/details/Disagreements.h"
 #include "core/iptc/IptcValues.h"
@@ -44,7 +45,8 @@ QStringList paths(const JSONObject& tags)
     return found;
 }
 
-PhotoDetails details(const ImageRecord& photo, const JSONObject& tags)
+PhotoDetails details(
+    const ExifToolRunner& runner, const ImageRecord& photo, const JSONObject& tags, const ReadControl& control)
 {
     const IptcValues iptc = IptcValues::fromRead(tags);
     QMap<QString, QString> texts = languages(tags);
@@ -54,7 +56,7 @@ PhotoDetails details(const ImageRecord& photo, const JSONObject& tags)
         .lists = iptc.lists,
         .paths = paths(tags),
         .disagreements = Disagreements::of(photo, tags),
-        .hasCredentials = tags.value(DetailTags::boxLabel()).stringValue() == u"c2pa"_s };
+        .hasCredentials = Credentials::isSealed(runner, photo.url, tags, control) };
 }
 
 }  // namespace
@@ -73,7 +75,7 @@ QHash<QUrl, PhotoDetails> of(const ExifToolRunner& runner, const QList<ImageReco
         const ImageRecord& photo = photos.at(i);
         const JSONObject* tags = answers.of(photo.url.toLocalFile(), i, photos.size());
         if (tags && !tags->contains(DetailTags::error()))
-            found.insert(photo.url, details(photo, *tags));
+            found.insert(photo.url, details(runner, photo, *tags, control));
     }
     return found;
 }

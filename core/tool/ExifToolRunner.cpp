@@ -171,9 +171,11 @@ QStringList mainSelection(const QStringList& tags)
     return QStringList{ u"-json"_s, u"-G0"_s, u"-struct"_s, u"-c"_s, u"%.6f"_s } + options(tags);
 }
 
+// Documents within a file have names of their own, so that none of their tags passes for one of the photo's; and tags
+// are told that the tool has no names for.
 QStringList detailsSelection(const QStringList& tags)
 {
-    return QStringList{ u"-json"_s, u"-G1"_s, u"-struct"_s, u"-a"_s, u"-n"_s } + options(tags);
+    return QStringList{ u"-json"_s, u"-G3:1"_s, u"-struct"_s, u"-a"_s, u"-u"_s, u"-n"_s } + options(tags);
 }
 
 QStringList customSelection()

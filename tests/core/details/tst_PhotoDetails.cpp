@@ -237,6 +237,43 @@ QByteArray inPng(const QByteArray& boxes)
     return pngBytes().insert(33, length + "caBX" + boxes + QByteArray(4, '\0'));
 }
 
+// Two segments, each with boxes of its own.
+QByteArray inJpeg(const QByteArray& boxes, const QByteArray& others)
+{
+    QByteArray segment = inJpeg(boxes).mid(2, 12 + boxes.size());
+    segment[7] = '\2';
+    return inJpeg(others).insert(2, segment);
+}
+
+QByteArray inWebp(const QByteArray& type, const QByteArray& boxes)
+{
+    QByteArray length(4, Qt::Uninitialized);
+    qToLittleEndian(quint32(boxes.size()), length.data());
+    QByteArray webp = webpBytes() + type + length + boxes + QByteArray(boxes.size() % 2, '\0');
+    qToLittleEndian(quint32(webp.size() - 8), webp.data() + 4);
+    return webp;
+}
+
+// One entry, with the bytes behind it.
+QByteArray inTiff(quint16 tag, const QByteArray& boxes)
+{
+    QByteArray tiff = QByteArray::fromHex("49492a0008000000"
+                                          "0100"
+                                          "0000"
+                                          "0700"
+                                          "00000000"
+                                          "1a000000"
+                                          "00000000");
+    qToLittleEndian(tag, tiff.data() + 10);
+    qToLittleEndian(quint32(boxes.size()), tiff.data() + 14);
+    return tiff + boxes;
+}
+
+QByteArray inHeif(const QByteArray& identifier, const QByteArray& boxes)
+{
+    return box("ftyp", QByteArray("heic\0\0\0\0mif1heic", 16)) + box("uuid", QByteArray::fromHex(identifier) + boxes);
+}
+
 // The record that a read would make of it.
 ImageRecord recordOf(const QUrl& url)
 {
@@ -414,6 +451,13 @@ private slots:
                 false },
             { folder.add(u"inner.jpg"_s, inJpeg(labelled("json", "notes", labelled("json", "c2pa", {})))).fileName(),
                 false },
+            { folder.add(u"second.jpg"_s, inJpeg(labelled("json", "notes", {}), seal)).fileName(), true },
+            { folder.add(u"c.webp"_s, inWebp("C2PA", seal)).fileName(), true },
+            { folder.add(u"other.webp"_s, inWebp("D2PA", seal)).fileName(), false },
+            { folder.add(u"d.tif"_s, inTiff(0xcd41, seal)).fileName(), true },
+            { folder.add(u"other.tif"_s, inTiff(0xcd42, seal)).fileName(), false },
+            { folder.add(u"e.heic"_s, inHeif("d8fec3d61b0e483c92975828877ec481", seal)).fileName(), true },
+            { folder.add(u"other.heic"_s, inHeif("d8fec3d61b0e483c92975828877ec4ff", seal)).fileName(), false },
             { folder.add(u"none.jpg"_s).fileName(), false } };
         QList<QUrl> photos;
         for (const QString& name : isSealed.keys())
