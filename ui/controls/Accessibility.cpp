@@ -2,6 +2,7 @@
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/RatingEditor.h"
+#include "ui/controls/ReadingOrder.h"
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/SuggestionList.h"
 #include "ui/controls/Toggles.h"
@@ -48,10 +49,13 @@ public:
     {
         if (kind == QAccessible::Name && m_button->accessibleName().isEmpty())
             return m_button->text();
-        // What a menu button shows is its value, not its name.
-        if (kind == QAccessible::Value && role() == QAccessible::ButtonMenu)
-            return m_button->text();
-        return QAccessibleWidget::text(kind);
+        const QString told = QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Description)
+            return told;
+        // A tooltip that begins with the name says nothing new there.
+        const QString name = text(QAccessible::Name);
+        const bool repeats = told == name || told.startsWith(name + QLatin1Char('\n'));
+        return repeats ? told.mid(name.size() + 1) : told;
     }
 
     QAccessible::State state() const override
@@ -60,7 +64,6 @@ public:
         state.checkable = m_button->isCheckable();
         state.checked = m_button->isChecked();
         state.pressed = m_button->isDown();
-        state.hasPopup = role() == QAccessible::ButtonMenu;
         return state;
     }
 
@@ -136,30 +139,84 @@ private:
     FoldLine* m_line;
 };
 
-// A field with one code: its value is the name of the code.
-class CodeDescription final : public ButtonDescription {
+// A field with one of several choices. What it shows is its value, and a text that can be read letter by letter: the
+// way in which assistive tools of this platform ask for it.
+class ChoiceDescription : public ButtonDescription, public QAccessibleTextInterface {
 public:
-    explicit CodeDescription(CodePicker* picker)
-        : ButtonDescription(picker, QAccessible::ComboBox)
-        , m_picker(picker)
+    explicit ChoiceDescription(QAbstractButton* button)
+        : ButtonDescription(button, QAccessible::ComboBox)
+        , m_button(button)
     {
+    }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::TextInterface)
+            return static_cast<QAccessibleTextInterface*>(this);
+        return ButtonDescription::interface_cast(type);
     }
 
     QString text(QAccessible::Text kind) const override
     {
-        if (kind == QAccessible::Value)
-            return m_picker->text();
-        if (kind == QAccessible::Description && m_picker->code().isEmpty() && !m_picker->placeholder().isEmpty()) {
-            const QString more = m_picker->accessibleDescription();
-            return more.isEmpty() ? m_picker->placeholder() : m_picker->placeholder() + QLatin1String(", ") + more;
-        }
-        return kind == QAccessible::Description ? m_picker->accessibleDescription() : ButtonDescription::text(kind);
+        if (kind == QAccessible::Name)
+            return m_button->accessibleName();
+        return kind == QAccessible::Value ? m_button->text() : ButtonDescription::text(kind);
     }
 
     QAccessible::State state() const override
     {
         QAccessible::State state = ButtonDescription::state();
         state.hasPopup = true;
+        return state;
+    }
+
+    QString text(int start, int end) const override { return m_button->text().mid(start, end - start); }
+    int characterCount() const override { return int(m_button->text().size()); }
+    int selectionCount() const override { return 0; }
+    void selection(int, int* start, int* end) const override { *start = *end = 0; }
+    void addSelection(int, int) override { }
+    void removeSelection(int) override { }
+    void setSelection(int, int, int) override { }
+    int cursorPosition() const override { return 0; }
+    void setCursorPosition(int) override { }
+    QRect characterRect(int) const override { return rect(); }
+    int offsetAtPoint(const QPoint&) const override { return -1; }
+    void scrollToSubstring(int, int) override { }
+
+    QString attributes(int, int* start, int* end) const override
+    {
+        *start = 0;
+        *end = characterCount();
+        return {};
+    }
+
+private:
+    QAbstractButton* m_button;
+};
+
+// One with a code: its value is the name of the code.
+class CodeDescription final : public ChoiceDescription {
+public:
+    explicit CodeDescription(CodePicker* picker)
+        : ChoiceDescription(picker)
+        , m_picker(picker)
+    {
+    }
+
+    using ChoiceDescription::text;
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind != QAccessible::Description)
+            return ChoiceDescription::text(kind);
+        QStringList told{ m_picker->code().isEmpty() ? m_picker->placeholder() : QString(),
+            m_picker->accessibleDescription() };
+        told.removeAll({});
+        return told.join(QLatin1String(", "));
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = ChoiceDescription::state();
         state.expandable = true;
         state.expanded = m_picker->isOpen();
         state.collapsed = !m_picker->isOpen();
@@ -312,17 +369,6 @@ private:
     mutable QList<QAccessible::Id> m_rows;
 };
 
-// A role and nothing more. The tooltip, which Qt takes for a description, repeats what the name says.
-class RoleDescription final : public QAccessibleWidget {
-public:
-    using QAccessibleWidget::QAccessibleWidget;
-
-    QString text(QAccessible::Text kind) const override
-    {
-        return kind == QAccessible::Description ? widget()->accessibleDescription() : QAccessibleWidget::text(kind);
-    }
-};
-
 QAccessibleInterface* describeButton(QAbstractButton* button)
 {
     if (auto* line = qobject_cast<FoldLine*>(button))
@@ -334,7 +380,7 @@ QAccessibleInterface* describeButton(QAbstractButton* button)
     if (qobject_cast<MenuRow*>(button) && button->isCheckable())
         return new ButtonDescription(button, QAccessible::CheckBox);
     if (qobject_cast<OffsetPicker*>(button) || qobject_cast<ChoicePicker*>(button))
-        return new ButtonDescription(button, QAccessible::ButtonMenu);
+        return new ChoiceDescription(button);
     return new ButtonDescription(button, QAccessible::Button);
 }
 
@@ -364,7 +410,7 @@ QAccessibleInterface* describe(const QString& className, QObject* object)
         return new TokenEditAccess(edit);
     for (const QMetaObject* type = object->metaObject(); type; type = type->superClass()) {
         if (const auto role = rolesOfClasses().constFind(type); role != rolesOfClasses().cend())
-            return new RoleDescription(widget, *role);
+            return new InReadingOrder(widget, *role);
     }
     return nullptr;
 }

@@ -79,6 +79,7 @@ RowEditor keywordEditor(const FieldRowParts& parts, FieldRow& row)
     return { editor, editor->entry(), { editor->entry() }, [editor](const FieldRowState& state, bool fresh) {
                 if (fresh)
                     editor->clearEntry();
+                editor->setAccessibleName(state.label);
                 editor->setAmber(state.batch);
                 editor->setEdited(state.edited);
                 if (editor->chips() != state.items || editor->parents() != state.itemParents)

@@ -1,7 +1,9 @@
 // The further fields of the IPTC standard in the inspector, as a person uses them: sections that fold, editors of their
 // kinds, what is not known yet, several photos.
 #include "app/model/words/FieldPasting.h"
+#include "core/iptc/IptcSchema.h"
 #include "core/iptc/StructureText.h"
+#include "core/schema/FieldLanguages.h"
 #include "tests/ui/UiSupport.h"
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/cards/FoldingHeading.h"
@@ -15,7 +17,9 @@
 #include "ui/inspector/iptc/StructureFields.h"
 #include "ui/sheets/SaveDialogView.h"
 
+#include <QAccessible>
 #include <QClipboard>
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -31,6 +35,81 @@ namespace {
 QString place(const QString& city)
 {
     return StructureText::of(QJsonObject{ { u"City"_s, city }, { u"CountryName"_s, u"Japan"_s } });
+}
+
+// A structure with all that there may be in it.
+QJsonObject filled(const StructureSpec& structure)
+{
+    QJsonObject members;
+    for (const StructureMember& member : structure.members) {
+        const StructureSpec* inner = IptcStructures::spec(member.structure);
+        const QJsonValue value = inner ? QJsonValue(filled(*inner)) : QJsonValue(u"1"_s);
+        members[member.name] = member.isSeveral ? QJsonValue(QJsonArray{ value }) : value;
+        if (member.hasLanguages)
+            members[member.name + u"-de"_s] = u"eins"_s;
+    }
+    return members;
+}
+
+PhotoDetails everything()
+{
+    PhotoDetails all;
+    for (const FieldSpec& field : IptcSchema::all()) {
+        const StructureSpec* structure = IptcStructures::spec(field.structure);
+        const QString text = structure ? StructureText::of(filled(*structure)) : u"1"_s;
+        if (field.isList())
+            all.lists[field.id] = { text };
+        else
+            all.texts[field.id] = text;
+        if (field.hasLanguages)
+            all.texts[FieldLanguages::key(field.id, u"de"_s)] = u"eins"_s;
+    }
+    return all;
+}
+
+// What the keyboard comes to, as a screen reader finds it: in the order of the tree below the widget.
+QList<QWidget*> readOut(QAccessibleInterface* from)
+{
+    QList<QWidget*> found;
+    auto* widget = qobject_cast<QWidget*>(from->object());
+    if (from->state().invisible)
+        return found;
+    if (widget && widget->focusPolicy() != Qt::NoFocus)
+        found.append(widget);
+    for (int i = 0; i < from->childCount(); ++i)
+        if (QAccessibleInterface* child = from->child(i))
+            found += readOut(child);
+    return found;
+}
+
+// What is wrong with how it is told; "" for nothing.
+QString faultOf(QWidget* widget)
+{
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(widget);
+    const QString name = told->text(QAccessible::Name);
+    const QString what = QString::fromLatin1(widget->metaObject()->className()) + u' ' + name;
+    if (name.isEmpty())
+        return what + u"has no name"_s;
+    if (told->role() == QAccessible::NoRole || told->role() == QAccessible::Client)
+        return what + u" has no role"_s;
+    if (told->text(QAccessible::Description) == name)
+        return what + u" says its name twice"_s;
+    if (told->role() == QAccessible::ComboBox && !told->textInterface())
+        return what + u" does not tell its value"_s;
+    return {};
+}
+
+// Whether the parts stand one below the other, or beside each other.
+QStringList leaps(const QWidget& form, const QList<QWidget*>& parts)
+{
+    QStringList found;
+    for (qsizetype i = 1; i < parts.size(); ++i) {
+        const QWidget* above = parts.at(i - 1);
+        const QWidget* below = parts.at(i);
+        if (below->mapTo(&form, QPoint(0, below->height())).y() <= above->mapTo(&form, QPoint()).y())
+            found.append(u"from %1 up to %2"_s.arg(above->accessibleName(), below->accessibleName()));
+    }
+    return found;
 }
 
 // Three photos: the first holds much, the second some of it, the third nothing. Nobody knows what, before the gate
@@ -116,6 +195,7 @@ private slots:
     void addedFieldsUnfoldTheirSection();
     void editorsOfAllKinds();
     void structuresAreCards();
+    void allIsReadInItsOrder();
     void whatOpensIsInView_data();
     void whatOpensIsInView();
     void whatIsPressedStays();
@@ -288,6 +368,53 @@ void tst_IptcForm::structuresAreCards()
     type(member(u"iptc.locationsShown"_s, u"City"_s), u"Uji"_s);
     QCOMPARE(f.model().batchLists().value(u"iptc.locationsShown"_s), QStringList{ uR"({"City":"Uji"})"_s });
     QVERIFY(f.row(u"iptc.locationsShown"_s)->state().included);
+}
+
+// From end to end, with every field filled, every section and every card open: the tree of a screen reader, and Tab.
+void tst_IptcForm::allIsReadInItsOrder()
+{
+    Photos f;
+    f.held[u"a.jpg"_s] = everything();
+    QVERIFY(f.open());
+    f.show(u"a.jpg"_s);
+    for (const FieldSpec& field : FieldSchema::all())
+        f.model().addKnownField(field.id);
+    f.settle();
+    for (const FoldingHeading* heading : f.view->findChildren<FoldingHeading*>())
+        f.unfold(heading->text());
+    for (const FieldSpec& field : FieldSchema::everyField())
+        if (FieldRow* row = f.row(field.id))
+            emit row->languagesAsked(true);
+    for (int floor = 0; floor < 3; ++floor)
+        for (StructureList* list : f.view->findChildren<StructureList*>())
+            list->open(0);
+    QTest::qWait(50);
+    auto* form = f.view->findChild<InspectorForm*>();
+    const QList<QWidget*> told = readOut(QAccessible::queryAccessibleInterface(form));
+    QStringList faults = leaps(*form, told);
+    qsizetype onScreen = 0;
+    for (QWidget* widget : form->findChildren<QWidget*>()) {
+        const bool isControl = widget->isVisible() && !widget->isWindow() && widget->focusPolicy() != Qt::NoFocus;
+        onScreen += isControl ? 1 : 0;
+        if (const QString fault = isControl ? faultOf(widget) : QString(); !fault.isEmpty())
+            faults.append(fault);
+    }
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    QCOMPARE(told.size(), onScreen);
+    QVERIFY(onScreen > 250);
+
+    // Tab comes to the same, but for what arrows reach.
+    QList<QWidget*> walked;
+    form->row(u"title"_s)->input()->setFocus();
+    while (form->isAncestorOf(QApplication::focusWidget()) && !walked.contains(QApplication::focusWidget())) {
+        walked.append(QApplication::focusWidget());
+        QTest::keyClick(walked.constLast(), Qt::Key_Tab);
+    }
+    faults = leaps(*form, walked);
+    for (QWidget* widget : told)
+        if (widget->isEnabled() && widget->focusPolicy() & Qt::TabFocus && !walked.contains(widget))
+            faults.append(u"Tab does not come to "_s + widget->accessibleName());
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
 }
 
 void tst_IptcForm::whatOpensIsInView_data()

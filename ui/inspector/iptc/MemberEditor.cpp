@@ -87,6 +87,7 @@ MemberEditor chipsEditor(const QString& name, const MemberEditorParts& parts, QW
     auto* editor = new KeywordEditor(parent);
     editor->setSplitsAtCommas(false);
     editor->setCodes(parts.codes);
+    editor->setAccessibleName(parts.label);
     editor->entry()->setAccessibleName(parts.label);
     const auto change = [set = setter(name, parts), editor](const QStringList& texts) {
         editor->setChips(texts);
