@@ -7,6 +7,7 @@
 #include "core/iptc/Vocabularies.h"
 #include "core/schema/FieldID.h"
 #include "core/text/Coordinates.h"
+#include "ui/controls/cards/EditedDot.h"
 #include "ui/controls/cards/ItemCard.h"
 #include "ui/controls/pickers/CodePopover.h"
 #include "ui/controls/theme/Metrics.h"
@@ -30,7 +31,10 @@ bool isPlace(const FieldSpec& field)
 
 void openAt(Popover& popover, const QWidget& card)
 {
-    popover.open(QRect(card.mapToGlobal(QPoint()), QSize(card.width(), px(28))), qMax(card.width(), px(popoverWidth)));
+    // From edge to edge of what is seen of the card.
+    const int room = px(EditedDot::room);
+    const QRect head(card.mapToGlobal(QPoint(room, 0)), QSize(card.width() - room, px(28)));
+    popover.open(head, qMax(head.width(), px(popoverWidth)));
 }
 
 }  // namespace
