@@ -116,8 +116,8 @@ PortionsOutcome MetadataService::writeEach(
             continue;
         }
         Commands& some = portion.plan.sidecar ? besides : photos;
-        some.portions.append(
-            { command, portion.targets, CustomFields::names(portion.plan.customs), portion.preparations });
+        some.portions.append({ command, portion.targets, CustomFields::names(portion.plan.customs),
+            portion.preparations, portion.plan.sidecar.has_value() });
         some.positions.append(i);
     }
     const QSet<QUrl> done = Quorbel::write(runner, photos, options.backupOriginals, outcome, notes);

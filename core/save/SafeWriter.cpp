@@ -1,6 +1,7 @@
 #include "core/save/SafeWriter.h"
 
 #include "core/iptc/IptcDefinitions.h"
+#include "core/save/NewFiles.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/originals/OriginalKeeper.h"
 #include "core/sidecar/SidecarSchema.h"
@@ -380,6 +381,29 @@ Outcome run(const ExifToolRunner& runner, const QList<Portion>& portions, const 
 
 }  // namespace
 
+namespace {
+
+// Of files that were made, what they are called from now on, and what is said of them. `files` and `targets` stand in
+// one order.
+void giveNames(const NewFiles& made, const QList<QUrl>& files, const QList<QUrl>& targets, Outcome& outcome)
+{
+    std::vector<ToolError> errors;
+    if (outcome.error)
+        errors.push_back(made.told(*outcome.error));
+    const QSet<QUrl> done = setOf(outcome.done);
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        if (!done.contains(targets.at(i)) || made.giveName(files.at(i)))
+            continue;
+        outcome.done.removeAll(targets.at(i));
+        const QString text = u"Error: Another program made it meanwhile - "_s + targets.at(i).toLocalFile();
+        errors.emplace_back(ToolError::ExecFailed{ 1, text }, text);
+    }
+    if (!errors.empty())
+        outcome.error = merged(errors);
+}
+
+}  // namespace
+
 QString write(const ExifToolRunner& runner, const WriteCommand& command, const QList<QUrl>& targets, bool backup,
     const QStringList& customNames, const QList<Preparation>& preparations, WriteNotes* notes)
 {
@@ -411,7 +435,15 @@ Outcome writeEach(const ExifToolRunner& runner, const QList<Portion>& portions, 
             refused.insert(i, error.description());
         }
     }
-    Outcome outcome = ready.isEmpty() ? Outcome() : run(runner, ready, targets, backup, notes);
+    Outcome outcome;
+    if (!ready.isEmpty()) {
+        NewFiles made;
+        for (Portion& portion : ready)
+            if (portion.mayBeNew)
+                portion.targets = made.hidden(portion.targets);
+        outcome = run(runner, ready, targets, backup, notes);
+        giveNames(made, filesOf(ready), targets, outcome);
+    }
     outcome.refused = refused;
     return outcome;
 }

@@ -16,6 +16,7 @@ struct Portion {
     QList<QUrl> targets{};
     QStringList customNames{};  ///< the custom fields among the command's tags
     QList<Preparation> preparations{};  ///< run before it, over some of the targets
+    bool mayBeNew = false;  ///< targets that are not there are made (see NewFiles)
 };
 
 /// What came of several portions.

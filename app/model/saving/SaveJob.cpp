@@ -178,7 +178,7 @@ void write(
     const MetadataService& service, const QList<SavePortion>& portions, const WriteOptions& options, Written& written)
 {
     try {
-        if (portions.size() == 1)
+        if (portions.size() == 1 && !portions.constFirst().plan.sidecar)
             writeOne(service, portions.constFirst(), options, written);
         else
             writeEach(service, portions, options, written);

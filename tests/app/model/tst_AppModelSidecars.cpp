@@ -5,6 +5,7 @@
 #include "tests/app/model/ModelFixture.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -125,6 +126,8 @@ private slots:
     void listsGainAndLose();
     void undoGivesTheSidecarBack();
     void customFields();
+    void othersSidecars_data();
+    void othersSidecars();
     void brokenSidecars_data();
     void brokenSidecars();
     void othersAreWrittenAsEver();
@@ -296,6 +299,72 @@ void tst_AppModelSidecars::customFields()
     QCOMPARE(raws.banner(), QString());
     QVERIFY(raws.reopen());
     QCOMPARE(raws->record(raws.url(u"a.NEF"_s))->custom, (QList<CustomValue>{ { u"Mood"_s, u"calm"_s } }));
+    QVERIFY(raws.isUntouched());
+}
+
+void tst_AppModelSidecars::othersSidecars_data()
+{
+    QTest::addColumn<QByteArray>("sidecar");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("of a raw developer") << contentOf(QStringLiteral(QUORBEL_SIDECARS) + u"/darktable.xmp"_s)
+                                        << u"Harbour at dusk – Žluť 東京"_s;
+    // With attributes, a thumbnail's worth of padding, a tool's name of its own, and what nobody knows.
+    QTest::newRow("of an editor") << QByteArray(
+        "<?xpacket begin='\xEF\xBB\xBF' id='W5M0MpCehiHzreSzNTczkc9d'?>\n"
+        "<x:xmpmeta xmlns:x='adobe:ns:meta/' x:xmptk='Some Core 7.1'>\n"
+        " <rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>\n"
+        "  <rdf:Description rdf:about='' xmlns:dc='http://purl.org/dc/elements/1.1/'\n"
+        "    xmlns:xmp='http://ns.adobe.com/xap/1.0/' xmlns:crs='http://ns.adobe.com/camera-raw-settings/1.0/'\n"
+        "    xmlns:own='http://example.org/own/' xmp:Rating='2' xmp:MetadataDate='2020-01-02T03:04:05+01:00'\n"
+        "    crs:Exposure2012='+0.35' crs:HasSettings='True' own:Secret='42'>\n"
+        "   <dc:title><rdf:Alt><rdf:li xml:lang='x-default'>Theirs</rdf:li><rdf:li xml:lang='de'>Ihrer</rdf:li>"
+        "</rdf:Alt></dc:title>\n"
+        "   <crs:ToneCurvePV2012><rdf:Seq><rdf:li>0, 0</rdf:li><rdf:li>255, 255</rdf:li></rdf:Seq>"
+        "</crs:ToneCurvePV2012>\n"
+        "   <own:Things><rdf:Bag><rdf:li rdf:parseType='Resource'><own:A>1</own:A></rdf:li></rdf:Bag></own:Things>\n"
+        "  </rdf:Description>\n </rdf:RDF>\n</x:xmpmeta>\n                \n<?xpacket end='w'?>")
+                                  << u"Theirs"_s;
+}
+
+// Each of these edits leaves all else in the sidecar as it was, and undo gives back the very bytes.
+void tst_AppModelSidecars::othersSidecars()
+{
+    QFETCH(QByteArray, sidecar);
+    QFETCH(QString, title);
+    Raws raws;
+    raws.addRaw(u"a.NEF"_s, ownTags());
+    raws.folder.add(u"a.NEF.xmp"_s, sidecar);
+    QVERIFY(raws.open());
+    QCOMPARE(raws.banner(), QString());
+    QCOMPARE(raws.shown(u"a.NEF"_s, u"title"_s), title);
+    raws.click(u"a.NEF"_s);
+    // Without what the edit is to change; the rest line by line.
+    const auto rest = [&](const QString& changed) {
+        QStringList lines = QString::fromUtf8(
+            exiftool({ u"-X"_s, u"-a"_s, u"-u"_s, u"-XMP:all"_s, u"--XMP-x:all"_s, raws.folder.path(u"a.NEF.xmp"_s) }))
+                                .split(u'\n');
+        lines.removeIf([&changed](const QString& line) {
+            return line.contains(
+                QRegularExpression(u"<XMP-\\w+:(MetadataDate|SidecarForExtension|%1)[ >]"_s.arg(changed)));
+        });
+        return lines.join(u'\n').remove(QRegularExpression(u"(?<=</)rdf:(Bag|Seq)>"_s));
+    };
+    const auto changes = [&](const QString& changed, const std::function<void()>& edit) {
+        const QString before = rest(changed);
+        QVERIFY2(before.size() > 300, qPrintable(before));
+        edit();
+        QVERIFY(raws.save());
+        QCOMPARE(raws.banner(), QString());
+        QVERIFY(raws.sidecar(u"a.NEF.xmp"_s) != sidecar);
+        QCOMPARE(rest(changed), before);
+        QVERIFY(raws.undo());
+        QCOMPARE(raws.banner(), QString());
+        QCOMPARE(raws.sidecar(u"a.NEF.xmp"_s), sidecar);
+    };
+    changes(u"Title"_s, [&] { raws->setSingle(u"title"_s, u"New 題"_s); });
+    changes(u"Rating"_s, [&] { raws->setSingle(u"rating"_s, u"5"_s); });
+    changes(u"(DateTimeOriginal|DateCreated)"_s, [&] { raws->setSingle(u"date"_s, u"2020-02-03 04:05"_s); });
+    changes(u"(GPSLatitude|GPSLongitude)"_s, [&] { raws->setSingle(u"coords"_s, u"-1.500000, -2.500000"_s); });
     QVERIFY(raws.isUntouched());
 }
 

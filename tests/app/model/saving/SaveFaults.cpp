@@ -141,6 +141,98 @@ QStringList StruckPhotos::secondNames() const
     return QDir(m_folder).entryList({ u".quorbel-*.before"_s }, QDir::Files | QDir::Dirs | QDir::Hidden);
 }
 
+namespace {
+
+// Made once, as above: TIFFs under raw names, and sidecars with what only other programs know.
+const QMap<QString, QByteArray>& rawFiles()
+{
+    static const QMap<QString, QByteArray> files = [] {
+        const PhotoFolder folder;
+        QMap<QString, QByteArray> made;
+        const QString tiff = folder.add(u"own.tif"_s).toLocalFile();
+        exiftool({ u"-overwrite_original"_s, u"-IPTC:Keywords=own"_s, tiff });
+        for (const QString& name : StruckRaws::names())
+            made.insert(name, readFile(tiff));
+        const QString sidecar = folder.path(u"sidecar.xmp"_s);
+        exiftool({ u"-XMP-crs:Exposure2012=+1.50"_s, u"-XMP-xmp:Rating=3"_s, u"-XMP-dc:Title=theirs"_s, sidecar });
+        made.insert(u"b.xmp"_s, readFile(sidecar));
+        made.insert(u"d.NEF.xmp"_s, readFile(sidecar));
+        return made;
+    }();
+    return files;
+}
+
+QString sidecarOf(const QString& raw)
+{
+    return raw == u"d.NEF" ? u"d.NEF.xmp"_s : raw.left(1) + u".xmp"_s;
+}
+
+}  // namespace
+
+const QStringList& StruckRaws::names()
+{
+    static const QStringList names{ u"a.NEF"_s, u"b.NEF"_s, u"c.NEF"_s, u"d.NEF"_s, u"e.NEF"_s };
+    return names;
+}
+
+StruckRaws::StruckRaws(const QString& folder, uid_t owner)
+    : m_folder(folder)
+    , m_before(rawFiles())
+{
+    bool isGiven = owner == 0 || chown(qPrintable(m_folder), owner, owner) == 0;
+    for (auto file = m_before.cbegin(); file != m_before.cend(); ++file) {
+        writeFile(path(file.key()), *file);
+        isGiven = isGiven && (owner == 0 || chown(qPrintable(path(file.key())), owner, owner) == 0);
+    }
+    if (!isGiven)
+        qFatal("the photos could not be given away");
+}
+
+QStringList StruckRaws::unsaved(const QString& title) const
+{
+    QStringList unsaved;
+    QStringList changed;
+    QStringList known = leftovers() + names();
+    for (const QString& name : names()) {
+        const QString sidecar = sidecarOf(name);
+        known.append(sidecar);
+        if (readFile(path(name)) != m_before.value(name))
+            fail(u"touched: "_s + name);
+        if (m_before.contains(sidecar) && !QFile::exists(path(sidecar)))
+            fail(u"gone: "_s + sidecar);
+        else if (!QFile::exists(path(sidecar)) || readFile(path(sidecar)) == m_before.value(sidecar))
+            unsaved.append(name);
+        else
+            changed.append(path(sidecar));
+    }
+    const auto tags = tagsOf(changed);
+    for (const QString& file : std::as_const(changed)) {
+        const QString name = QFileInfo(file).fileName().left(1) + u".NEF"_s;
+        requireWhole(QFileInfo(file).fileName(), tags.value(file));
+        if (tags.value(file).value(u"XMP:Title"_s).toString() != title)
+            unsaved.append(name);
+    }
+    for (const QString& file : QDir(m_folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot))
+        if (!known.contains(file))
+            fail(u"unknown file: "_s + file);
+    unsaved.sort();
+    return unsaved;
+}
+
+void StruckRaws::requireWhole(const QString& name, const QJsonObject& tags) const
+{
+    const bool keepsTheirs =
+        !m_before.contains(name) || (tags.contains(u"XMP:Exposure2012"_s) && tags.value(u"XMP:Rating"_s).toInt() == 3);
+    if (tags.contains(u"ExifTool:Error"_s) || tags.contains(u"ExifTool:Warning"_s) || !tags.contains(u"XMP:Title"_s)
+        || !tags.contains(u"XMP:Subject"_s) || !keepsTheirs)
+        fail(u"damaged: "_s + name);
+}
+
+QStringList StruckRaws::leftovers() const
+{
+    return QDir(m_folder).entryList({ u'*' + leftoverSuffix, u".quorbel-*"_s }, QDir::AllEntries | QDir::Hidden);
+}
+
 Aftermath Aftermath::of(const AppModel& model)
 {
     Aftermath after{ .banner = model.errorMessage().value_or(QString()),
@@ -182,7 +274,11 @@ void editAll(AppModel& model, const QString& title)
 
 void verifyNothingLost(const StruckPhotos& photos, const QString& title, const Aftermath& after)
 {
-    const QStringList unsaved = photos.unsaved(title);
+    verifyNothingLost(photos.unsaved(title), title, after);
+}
+
+void verifyNothingLost(const QStringList& unsaved, const QString& title, const Aftermath& after)
+{
     if (unsaved.isEmpty() || QTest::currentTestFailed())
         return;
     for (const QString& name : unsaved)
@@ -196,6 +292,30 @@ void verifyNothingLost(const StruckPhotos& photos, const QString& title, const A
     QCOMPARE(after.title, title);
     QVERIFY(after.keywords.contains(u"sky"_s));
     QVERIFY(after.unsavedCount > 0);
+}
+
+namespace {
+
+// Whether it is the tool that the test itself reads and writes with.
+bool isOwnTool(pid_t process)
+{
+    QFile commandLine(u"/proc/%1/cmdline"_s.arg(process));
+    return commandLine.open(QIODevice::ReadOnly) && commandLine.readAll().contains("-stay_open");
+}
+
+}  // namespace
+
+QList<pid_t> runningTools()
+{
+    QList<pid_t> found;
+    const QStringList threads = QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString& thread : threads) {
+        const QByteArray list = readFile(u"/proc/self/task/%1/children"_s.arg(thread));
+        for (const QByteArray& pid : list.split(' '))
+            if (!pid.trimmed().isEmpty() && !isOwnTool(pid.trimmed().toInt()))
+                found.append(pid.trimmed().toInt());
+    }
+    return found;
 }
 
 OtherProgram::OtherProgram(const Launch& launch)
@@ -220,6 +340,8 @@ OtherProgram::OtherProgram(const Launch& launch)
     QStringList arguments{ launch.folder, launch.state, launch.title };
     if (launch.backup)
         arguments.append(u"--backup"_s);
+    if (launch.beside)
+        arguments.append(u"--beside"_s);
     m_process.start(QString::fromUtf8(QUORBEL_SAVING_PROGRAM), arguments);
     m_process.waitForStarted();
     m_group = pid_t(m_process.processId());

@@ -39,6 +39,25 @@ private:
     QMap<QString, QByteArray> m_before;
 };
 
+/// Five raw photos in a folder whose edits go beside them, and how they were; two have a sidecar of another program's.
+class StruckRaws {
+public:
+    static const QStringList& names();
+    explicit StruckRaws(const QString& folder, uid_t owner = 0);
+    QString path(const QString& name) const { return m_folder + u'/' + name; }
+    /// Names of the photos whose sidecar does not hold the title, sorted. A changed photo, half of a sidecar, one that
+    /// lost what the other program wrote, and a file that has no business there fail the test.
+    QStringList unsaved(const QString& title) const;
+    /// Names of what a killed tool or program left.
+    QStringList leftovers() const;
+
+private:
+    void requireWhole(const QString& name, const QJsonObject& tags) const;
+
+    QString m_folder;
+    QMap<QString, QByteArray> m_before;  ///< of all files
+};
+
 /// What the user sees after a save.
 struct Aftermath {
     QString banner{};
@@ -58,6 +77,10 @@ void editAll(AppModel& model, const QString& title);
 /// Every photo without the new title is still selected, with the edits, and the banner names it, or the one that
 /// stopped the whole save. Fails the test otherwise.
 void verifyNothingLost(const StruckPhotos& photos, const QString& title, const Aftermath& after);
+void verifyNothingLost(const QStringList& unsaved, const QString& title, const Aftermath& after);
+
+/// Tools that a model of this process has started and that run.
+QList<pid_t> runningTools();
 
 /// Another process that opens a folder, edits all photos in it and saves them. It leads a process group, so that the
 /// tools that it runs can be killed with it; those that outlive it become children of this process.
@@ -68,6 +91,7 @@ public:
         QString state{};  ///< folder of its journal, preferences and temporary files
         QString title{};
         bool backup = false;
+        bool beside = false;  ///< edits of raw photos go beside them
         uid_t user = 0;  ///< 0: the same as this process
     };
     explicit OtherProgram(const Launch& launch);

@@ -1,6 +1,7 @@
 // The program without its window, as a process that a test can kill: opens a folder, edits every photo in it, says
 // "saving", saves, and says what the user would see then.
-// Arguments: the folder of photos, the folder of journal and preferences, the title; "--backup" keeps originals.
+// Arguments: the folder of photos, the folder of journal and preferences, the title; "--backup" keeps originals,
+// "--beside" leaves raw photos alone.
 #include "tests/app/model/saving/SaveFaults.h"
 
 #include <QCoreApplication>
@@ -42,6 +43,7 @@ int main(int argc, char* argv[])
     services.journalPath = state + u"/undo"_s;
     AppModel model(services);
     model.preferences().backupOriginals.set(arguments.contains(u"--backup"_s));
+    model.preferences().rawBeside.set(arguments.contains(u"--beside"_s));
     model.load({ QUrl::fromLocalFile(arguments.at(1)) });
     if (!waitUntilIdle(model) || model.records().isEmpty())
         return 3;

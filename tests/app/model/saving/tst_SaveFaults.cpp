@@ -31,27 +31,6 @@ namespace {
 
 constexpr uid_t nobody = 65534;  // the user without any rights of its own
 
-// Whether it is the tool that the test itself reads and writes with.
-bool isOwnTool(pid_t process)
-{
-    QFile commandLine(u"/proc/%1/cmdline"_s.arg(process));
-    return commandLine.open(QIODevice::ReadOnly) && commandLine.readAll().contains("-stay_open");
-}
-
-// Tools that the model has started and that run.
-QList<pid_t> runningTools()
-{
-    QList<pid_t> found;
-    const QStringList threads = QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString& thread : threads) {
-        const QByteArray list = readFile(u"/proc/self/task/%1/children"_s.arg(thread));
-        for (const QByteArray& pid : list.split(' '))
-            if (!pid.trimmed().isEmpty() && !isOwnTool(pid.trimmed().toInt()))
-                found.append(pid.trimmed().toInt());
-    }
-    return found;
-}
-
 void makeOld(const QString& path)
 {
     const time_t twoDaysAgo = time(nullptr) - 2 * 24 * 60 * 60;
