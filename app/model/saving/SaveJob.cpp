@@ -394,6 +394,15 @@ QStringList structureDifferences(const PhotoPlan& photo, const IptcValues& value
     return differing;
 }
 
+// What sidecars and their photos hold could not be read: nothing was written.
+void failAll(const QList<QUrl>& targets, const QString& reason, Written& written)
+{
+    written.error = reason;
+    written.isPartial = true;
+    for (const QUrl& target : targets)
+        written.failures.append({ target, reason });
+}
+
 void runOver(const SidecarOrder& files, const MetadataService& service, const std::shared_ptr<SaveHistory>& history,
     TaskProgress& progress, Written& written)
 {
@@ -435,8 +444,10 @@ Written run(const MetadataService& service, const Order& given, const std::share
         const SidecarOrder files(service, given);
         runOver(files, service, history, progress, written);
         files.nameTheirPhotos(written);
+    } catch (const ToolError& error) {
+        failAll(given.targets, toolReason(error), written);
     } catch (const std::exception& error) {
-        written.error = QString::fromUtf8(error.what());
+        failAll(given.targets, QString::fromUtf8(error.what()), written);
     }
     if (given.targets.size() == 1 && !written.failures.isEmpty())
         written.error = written.failures.constFirst().reason;
