@@ -28,6 +28,7 @@ class Filtering;
 class PhotosRenaming;
 class QuickKeywords;
 class RememberedCards;
+class MovingOver;
 class SelectedSidecars;
 class Templates;
 class TimeShifting;
@@ -243,6 +244,7 @@ public:
     Filtering& filtering();
     FieldSets& fieldSets();
     SelectedSidecars& selectedSidecars();
+    MovingOver& movingOver();
 
     // --- What photos hold beside their records ---
     /// Null before it was looked at. Valid until the details change.

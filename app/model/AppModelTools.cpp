@@ -53,6 +53,15 @@ void AppModel::makeTools()
                 m_saving.shiftTimes(order, looked);
             },
             m_services.service, m_tasks, m_announcer });
+    m_tools->movingOver = std::make_unique<MovingOver>(*this,
+        MovingOver::Access{ [this](std::function<void()> action) { holdBack(std::move(action)); },
+            [this](const SaveJob::Order& order) {
+                const Announcer::Together together(m_announcer);
+                if (onWriteBegins)
+                    onWriteBegins(order.targets);
+                m_saving.moveOver(order);
+            },
+            m_services.service, m_tasks, m_announcer });
     m_tools->fieldSets = std::make_unique<FieldSets>(*this,
         FieldSets::Reach{ [this](const QString& id) { return m_editing.fill(id); },
             [this](const std::optional<QSet<QString>>& fields) { m_editing.showOnly(fields); },
@@ -92,6 +101,11 @@ PhotosRenaming& AppModel::renaming()
 TimeShifting& AppModel::timeShifting()
 {
     return *checked(*m_tools).timeShifting;
+}
+
+MovingOver& AppModel::movingOver()
+{
+    return *checked(*m_tools).movingOver;
 }
 
 Filtering& AppModel::filtering()

@@ -8,6 +8,7 @@
 #include "app/model/library/filter/Filtering.h"
 #include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/selection/SelectedSidecars.h"
+#include "app/model/sidecars/MovingOver.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/CodeReplacements.h"
@@ -30,6 +31,7 @@ struct AppModelTools {
     std::unique_ptr<RememberedCards> rememberedCards{};
     std::unique_ptr<CredentialsNotice> credentials{};
     std::unique_ptr<SelectedSidecars> sidecars{};
+    std::unique_ptr<MovingOver> movingOver{};
 };
 
 }  // namespace Quorbel

@@ -5,8 +5,6 @@
 #include "core/tool/PhotoRead.h"
 
 #include <QFileInfo>
-#include <QHash>
-#include <QSet>
 
 namespace Quorbel::SidecarRead {
 
@@ -38,14 +36,41 @@ QStringList readTags()
 
 }  // namespace
 
+QHash<QString, Answer> of(const ExifToolRunner& runner, const QStringList& paths, const ReadControl& control)
+{
+    QHash<QString, Answer> found;
+    QList<QUrl> readable;
+    for (const QString& path : paths) {
+        if (found.contains(path))
+            continue;
+        const QString reason = reasonForNoFile(QFileInfo(path));
+        found.insert(path, { .reason = reason });
+        if (reason.isEmpty())
+            readable.append(QUrl::fromLocalFile(path));
+    }
+    const PhotoRead::Answers answers = PhotoRead::ask(
+        runner, readTags(), readable, { .progress = {}, .stop = control.stop, .started = control.started });
+    for (const QUrl& url : std::as_const(readable)) {
+        const QString path = url.toLocalFile();
+        if (answers.gone.contains(path)) {
+            found.remove(path);
+            continue;
+        }
+        Answer& answer = found[path];
+        answer.reason = answers.reasons.value(path, reasonIn(answers.main.value(path)));
+        if (answer.reason.isEmpty())
+            answer = { answers.main.value(path), answers.custom.value(path), {} };
+    }
+    return found;
+}
+
 QList<FileFailure> overlay(
     const ExifToolRunner& runner, const SidecarPolicy& policy, QList<ImageRecord>& photos, const ReadControl& control)
 {
     QList<FileFailure> broken;
     if (!policy.isInUse())
         return broken;
-    QList<QUrl> sidecars;
-    QSet<QString> known;
+    QStringList sidecars;
     QHash<qsizetype, QString> paths;  // by position of the photo
     for (qsizetype i = 0; i < photos.size(); ++i) {
         const QString path = policy.existing(photos.at(i).url);
@@ -54,29 +79,17 @@ QList<FileFailure> overlay(
         const QFileInfo file(path);
         photos[i].sidecarName = file.fileName();
         photos[i].sidecarModificationDate = file.lastModified();
-        if (const QString reason = reasonForNoFile(file); !reason.isEmpty()) {
-            broken.append({ QUrl::fromLocalFile(path), reason });
-            continue;
-        }
         paths.insert(i, path);
-        if (!known.contains(path))
-            sidecars.append(QUrl::fromLocalFile(path));
-        known.insert(path);
+        sidecars.append(path);
     }
-    const PhotoRead::Answers answers = PhotoRead::ask(
-        runner, readTags(), sidecars, { .progress = {}, .stop = control.stop, .started = control.started });
-    QSet<QString> unusable;
-    for (const QUrl& url : std::as_const(sidecars)) {
-        const QString path = url.toLocalFile();
-        const QString reason = answers.reasons.value(path, reasonIn(answers.main.value(path)));
-        if (reason.isEmpty() || answers.gone.contains(path))
-            continue;
-        unusable.insert(path);
-        broken.append({ url, reason });
-    }
+    sidecars.removeDuplicates();
+    const QHash<QString, Answer> answers = of(runner, sidecars, control);
+    for (const QString& path : std::as_const(sidecars))
+        if (const QString reason = answers.value(path).reason; !reason.isEmpty())
+            broken.append({ QUrl::fromLocalFile(path), reason });
     for (auto path = paths.cbegin(); path != paths.cend(); ++path)
-        if (!unusable.contains(*path))
-            MetadataReader::overlay(photos[path.key()], answers.main.value(*path), answers.custom.value(*path));
+        if (const auto answer = answers.constFind(*path); answer != answers.cend() && answer->reason.isEmpty())
+            MetadataReader::overlay(photos[path.key()], answer->main, answer->custom);
     return broken;
 }
 

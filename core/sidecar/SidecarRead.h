@@ -4,10 +4,24 @@
 
 #include "core/schema/ImageRecord.h"
 #include "core/sidecar/SidecarPolicy.h"
+#include "core/text/JSONValue.h"
 #include "core/tool/ExifToolRunner.h"
 #include "core/tool/WriteFailures.h"
 
+#include <QHash>
+
 namespace Quorbel::SidecarRead {
+
+/// What one sidecar holds, as MetadataReader::overlay() takes it.
+struct Answer {
+    JSONObject main{};
+    JSONObject custom{};
+    QString reason{};  ///< why it cannot be read; then it holds nothing
+};
+
+/// Reads these sidecars in one pair of runs; by path, without those that are gone. Throws the runner's errors when the
+/// tool fails as a whole.
+QHash<QString, Answer> of(const ExifToolRunner& runner, const QStringList& paths, const ReadControl& control);
 
 /// Reads the sidecars of those of the photos that have one, all in one pair of runs, and puts what they hold over the
 /// records. A photo whose sidecar cannot be read keeps its own values; those sidecars are returned, with the reason.

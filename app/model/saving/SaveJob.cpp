@@ -434,12 +434,32 @@ void runOver(const SidecarOrder& files, const MetadataService& service, const st
         remember(entry, history, written);
 }
 
+MetadataService serviceFor(MetadataService service, const Order& order)
+{
+    if (order.sidecars)
+        service.sidecars = *order.sidecars;
+    return service;
+}
+
+// What was proved in the files that were written is shown as the settings say.
+void showAs(const MetadataService& service, Checked& checked, TaskProgress& progress, const std::stop_token& stop,
+    const std::shared_ptr<RecordCache>& cache)
+{
+    QList<QUrl> photos;
+    for (const ImageRecord& record : std::as_const(checked.records))
+        photos.append(record.url);
+    const PhotoReader::Result read = PhotoReader::read(service, photos, progress, stop, cache);
+    if (!read.error)
+        checked.records = read.records;
+}
+
 }  // namespace
 
-Written run(const MetadataService& service, const Order& given, const std::shared_ptr<SaveHistory>& history,
+Written run(const MetadataService& shownBy, const Order& given, const std::shared_ptr<SaveHistory>& history,
     TaskProgress& progress)
 {
     Written written{ .leftOut = given.options.leftOut };
+    const MetadataService service = serviceFor(shownBy, given);
     try {
         const SidecarOrder files(service, given);
         runOver(files, service, history, progress, written);
@@ -457,10 +477,12 @@ Written run(const MetadataService& service, const Order& given, const std::share
     return written;
 }
 
-Checked check(const MetadataService& service, const Order& order, const Written& written, const QSet<QUrl>& tooSlow,
+Checked check(const MetadataService& shownBy, const Order& order, const Written& written, const QSet<QUrl>& tooSlow,
     TaskProgress& progress, const std::stop_token& stop, const std::shared_ptr<RecordCache>& cache)
 {
     Checked checked;
+    const MetadataService service = serviceFor(shownBy, order);
+    const bool isShown = service == shownBy;
     QList<QUrl> readable = order.targets;
     readable.removeIf([&tooSlow](const QUrl& target) { return tooSlow.contains(target); });
     const auto remembered = qScopeGuard([&written] {
@@ -468,7 +490,7 @@ Checked check(const MetadataService& service, const Order& order, const Written&
             written.undoable.wait();
     });
     LookAfter homes(service, tagsAfter(written.photos), readable, stop);
-    const PhotoReader::Result read = PhotoReader::read(service, readable, progress, stop, cache);
+    const PhotoReader::Result read = PhotoReader::read(service, readable, progress, stop, isShown ? cache : nullptr);
     if (read.error) {
         checked.error = read.error;
         return checked;
@@ -499,6 +521,8 @@ Checked check(const MetadataService& service, const Order& order, const Written&
                 checked.joined[id].append(target.fileName());
     }
     checked.differences = inOrderOfFields(differing);
+    if (!isShown)
+        showAs(shownBy, checked, progress, stop, cache);
     return checked;
 }
 

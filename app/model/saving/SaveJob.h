@@ -44,6 +44,8 @@ struct Order {
     QHash<QUrl, EditPlan> own{};  ///< by target; those with equal plans share a run
     /// Homes are made to agree: what comes together was asked for.
     bool isAgreement = false;
+    /// Which photos are written beside, whatever the settings say; nothing: those that the service says.
+    std::optional<SidecarPolicy> sidecars{};
 };
 
 /// Writes, and counts meanwhile the files that are done. Lists that differ between their homes are brought together,

@@ -207,6 +207,12 @@ void Saving::makeAgree(const QHash<QUrl, EditPlan>& plans, const WriteOptions& o
     write({ .subjects = order.targets }, order);
 }
 
+void Saving::moveOver(const SaveJob::Order& order)
+{
+    dropLook();
+    write({ .subjects = order.targets }, order);
+}
+
 void Saving::write(const Edits& edits, const SaveJob::Order& order)
 {
     const Announcer::Together together(m_announcer);

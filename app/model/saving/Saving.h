@@ -67,6 +67,9 @@ public:
     /// Writes to each of these photos what makes its homes agree (Agreement::plan()). Nothing of it is an edit: what
     /// could not be saved is only told.
     void makeAgree(const QHash<QUrl, EditPlan>& plans, const WriteOptions& options);
+    /// Writes to each of these photos what its sidecar, or its file, holds (MovePlan). Nothing of it is an edit: what
+    /// could not be saved is only told.
+    void moveOver(const SaveJob::Order& order);
     /// Moves the times of these photos, or sets their zones (ShiftJob), proves it and keeps it for undoing. Needs some,
     /// and that nothing is being saved. What was not done is only told.
     void shiftTimes(const ShiftJob::Order& order, const ShiftJob::Looked& looked);
