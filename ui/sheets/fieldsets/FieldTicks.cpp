@@ -49,7 +49,7 @@ public:
             paintTick(*painter, rect, index, theme);
         } else {
             painter->setFont(isHeading ? sectionFont() : sansFont(13));
-            painter->setPen(isHeading ? theme.muted : theme.text);
+            painter->setPen(isHeading ? theme.derived.label : theme.text);
             const QRectF text = rect.adjusted(pxF(side), 0, -pxF(side), 0);
             painter->drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                 painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, int(text.width())));
