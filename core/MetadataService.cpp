@@ -57,7 +57,8 @@ QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets,
         runner, command, targets, options.backupOriginals && !plan.sidecar, customNames, preparations, notes);
     if (!options.writeSidecar || plan.sidecar)
         return output;
-    const auto failures = Companions::writeSidecars(runner, command, withOwnMirror(targets), customNames);
+    const auto failures =
+        Companions::writeSidecars(runner, command, withOwnMirror(options.mirrored(targets)), customNames);
     if (notes)
         notes->sidecars += failures;
     return output;
@@ -126,8 +127,8 @@ PortionsOutcome MetadataService::writeEach(
         if (!options.writeSidecar)
             break;
         portion.targets.removeIf([&done](const QUrl& target) { return !done.contains(target); });
-        const auto failures =
-            Companions::writeSidecars(runner, portion.command, withOwnMirror(portion.targets), portion.customNames);
+        const auto failures = Companions::writeSidecars(
+            runner, portion.command, withOwnMirror(options.mirrored(portion.targets)), portion.customNames);
         if (notes)
             notes->sidecars += failures;
     }
@@ -196,7 +197,12 @@ UndoOutcome MetadataService::undo(const JournalEntry& entry) const
 
 void MetadataService::renameFile(const QUrl& source, const QUrl& destination) const
 {
-    Companions::movePhoto(source, destination);
+    using Companions::SidecarsAlong;
+    const bool isOthers = sidecars.isInUse() && sidecars.sharesBase(source);
+    Companions::movePhoto(source, destination,
+        sidecars.isBeside(source) ? SidecarsAlong::all
+            : isOthers            ? SidecarsAlong::none
+                                  : SidecarsAlong::mirror);
 }
 
 }  // namespace Quorbel

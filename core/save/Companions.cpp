@@ -150,13 +150,26 @@ QString backupPath(const QString& photo)
     return photo + u"_original"_s;
 }
 
-void movePhoto(const QUrl& source, const QUrl& destination)
+QList<std::pair<QString, QString>> sidecarMoves(const QString& from, const QString& to)
+{
+    QList<std::pair<QString, QString>> moves{ { sidecarPath(from), sidecarPath(to) } };
+    const QString upper = QString(sidecarSuffix).toUpper();
+    moves.append({ withoutExtension(from) + upper, withoutExtension(to) + upper });
+    for (const QString& suffix : { QString(sidecarSuffix), upper })
+        moves.append({ from + suffix, to + suffix });
+    return moves;
+}
+
+void movePhoto(const QUrl& source, const QUrl& destination, SidecarsAlong along)
 {
     const QString from = source.toLocalFile();
     const QString to = destination.toLocalFile();
     if (const int error = move(from, to))
         throw FileError(u"Cannot move"_s, source, qt_error_string(error));
-    move(sidecarPath(from), sidecarPath(to));
+    const QList<std::pair<QString, QString>> sidecars = sidecarMoves(from, to);
+    const qsizetype some = along == SidecarsAlong::mirror ? 1 : 0;
+    for (const auto& [old, now] : along == SidecarsAlong::all ? sidecars : sidecars.first(some))
+        move(old, now);
     move(backupPath(from), backupPath(to));
 }
 

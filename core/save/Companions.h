@@ -17,10 +17,19 @@ QString sidecarPath(const QString& photo);
 /// name; another one here would only lose sight of its copies.
 QString backupPath(const QString& photo);
 
+/// Which sidecars go along with a photo.
+enum class SidecarsAlong {
+    none,  ///< that of its base name holds another photo's edits
+    mirror,  ///< the one that mirrors it
+    all,  ///< its edits lie beside it: of all its names ("IMG_1.CR3.xmp", "IMG_1.XMP")
+};
+
 /// Moves the photo within its file system, and with it its sidecar and its backup as far as they exist. Never replaces
 /// a file: throws FileError when the destination exists or the photo's own move fails; a companion whose new name is
 /// taken stays where it is.
-void movePhoto(const QUrl& source, const QUrl& destination);
+void movePhoto(const QUrl& source, const QUrl& destination, SidecarsAlong along = SidecarsAlong::mirror);
+/// The paths that a photo's sidecar may have, by either name and in either case, and what becomes of each.
+QList<std::pair<QString, QString>> sidecarMoves(const QString& from, const QString& to);
 
 /// Brings the sidecars of these photos up to date: a run each copies the photo's XMP, and where that leaves what the
 /// command takes away, a second one takes it away there too. A linked sidecar stands for the file that it points to;

@@ -4,6 +4,8 @@
 #include "core/schema/ImageRecord.h"
 #include "core/tool/MetadataWriter.h"
 
+#include <QSet>
+
 namespace Quorbel {
 
 /// What becomes of a list of IptcSchema's.
@@ -68,6 +70,10 @@ struct WriteOptions {
     bool backupOriginals = false;  ///< ExifTool keeps each photo's "_original" copy; sidecars have none
     bool writeSidecar = false;  ///< an XMP sidecar beside each image is brought up to date
     QStringList leftOut{};  ///< homes that the plan then leaves out
+    QSet<QUrl> unmirrored{};  ///< images that no sidecar mirrors all the same: theirs is another file's
+
+    /// Those of these images whose sidecars are brought up to date.
+    QList<QUrl> mirrored(QList<QUrl> images) const;
     bool operator==(const WriteOptions&) const = default;
 };
 

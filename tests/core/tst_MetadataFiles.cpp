@@ -287,6 +287,33 @@ private slots:
             record.contentModificationDate.value_or(QDateTime()), QFileInfo(folder.path(u"b.jpg"_s)).lastModified());
     }
 
+    // Where the photo's edits lie beside it, all of its sidecars go along; else the one that mirrors it, unless it is
+    // another photo's.
+    void sidecarsInARename_data()
+    {
+        QTest::addColumn<QString>("photo");
+        QTest::addColumn<bool>("areBeside");
+        QTest::addColumn<QStringList>("moved");
+        QTest::newRow("edits in it") << u"a.CR3"_s << false << QStringList{ "b.CR3", "b.xmp" };
+        QTest::newRow("edits beside it") << u"a.CR3"_s << true << QStringList{ "b.CR3", "b.CR3.xmp", "b.XMP", "b.xmp" };
+        QTest::newRow("edits of the raw file beside it") << u"a.jpg"_s << true << QStringList{ "b.jpg" };
+    }
+    void sidecarsInARename()
+    {
+        QFETCH(QString, photo);
+        QFETCH(bool, areBeside);
+        const PhotoFolder folder;
+        for (const QString& name : { u"a.CR3"_s, u"a.jpg"_s, u"a.xmp"_s, u"a.XMP"_s, u"a.CR3.xmp"_s, u"aa.xmp"_s })
+            writeFile(folder.path(name), "x");
+        MetadataService service{ realTool() };
+        service.sidecars.isRawBeside = areBeside;
+        service.renameFile(folder.url(photo), folder.url(u"b"_s + photo.sliced(1)));
+        QStringList moved = folder.names();
+        QCOMPARE(moved.size(), 6);
+        moved.removeIf([](const QString& name) { return name.startsWith(u'a'); });
+        QTEST(moved, "moved");
+    }
+
     void oddNamesAndTexts()
     {
         const PhotoFolder folder;

@@ -86,8 +86,7 @@ void write(const MetadataService& service, const QList<QUrl>& targets, const Wri
             written.failures.append({ target, error.description() });
     }
     // They take over what the photos hold by then: a shift of their own would be a second one.
-    if (options.writeSidecar)
-        written.notes.sidecars += Companions::writeSidecars(service.runner, {}, targets, {});
+    written.notes.sidecars += Companions::writeSidecars(service.runner, {}, options.mirrored(targets), {});
 }
 
 // By target.

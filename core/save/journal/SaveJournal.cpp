@@ -167,15 +167,24 @@ Note noteFrom(const QJsonValue& value)
     return note;
 }
 
+void follow(JournalFile& file, const QHash<QString, QString>& names)
+{
+    for (QString* path : { &file.path, &file.link, &file.sidecar.path })
+        *path = names.value(*path, *path);
+}
+
+// A sidecar that was saved for itself goes with its photo alone; one that mirrors a photo also with any other of its
+// base name.
 void follow(JournalFile& file, const std::pair<QString, QString>& rename)
 {
     const auto& [from, to] = rename;
-    if (file.path == from)
-        file.path = to;
-    if (file.link == from)
-        file.link = to;
-    if (file.sidecar.path == Companions::sidecarPath(from))
-        file.sidecar.path = Companions::sidecarPath(to);
+    const bool isItself = file.path == from || file.link == from;
+    const bool isForItself = !file.path.isEmpty() && file.path == file.sidecar.path;
+    QHash<QString, QString> names{ { from, to } };
+    const auto sidecars = Companions::sidecarMoves(from, to);
+    for (const auto& [old, now] : isItself ? sidecars : sidecars.first(isForItself ? 0 : 1))
+        names.insert(old, now);
+    follow(file, names);
 }
 
 void followTogether(QList<JournalFile>& files, const QList<std::pair<QString, QString>>& renames)
@@ -184,12 +193,12 @@ void followTogether(QList<JournalFile>& files, const QList<std::pair<QString, QS
     for (const auto& [from, to] : renames) {
         names.insert(from, to);
         // Of photos that share a sidecar the first one takes it along.
-        if (const QString sidecar = Companions::sidecarPath(from); !names.contains(sidecar))
-            names.insert(sidecar, Companions::sidecarPath(to));
+        for (const auto& [old, now] : Companions::sidecarMoves(from, to))
+            if (!names.contains(old))
+                names.insert(old, now);
     }
     for (JournalFile& file : files)
-        for (QString* path : { &file.path, &file.link, &file.sidecar.path })
-            *path = names.value(*path, *path);
+        follow(file, names);
 }
 
 // A file that an undo has put back is again what the earlier save left, where the undone save had found it so.

@@ -282,7 +282,7 @@ JournalEntry journalEntry(const OldValues& known, const std::function<EditPlan(c
         file.writtenTags = tags;
         if (targets[i] != files[i])
             file.link = targets[i].toLocalFile();
-        if (options.writeSidecar)
+        if (!options.mirrored({ targets[i] }).isEmpty())
             file.sidecar = JournalSidecar::of(Companions::sidecarPath(targets[i].toLocalFile()));
         entry.files.append(file);
     }

@@ -598,6 +598,42 @@ private slots:
         }
     }
 
+    void journalFollowsSidecars_data()
+    {
+        QTest::addColumn<QString>("sidecar");
+        QTest::addColumn<bool>("isForItself");
+        QTest::addColumn<QString>("renamed");
+        QTest::addColumn<QString>("now");  // after one rename, and after one of many
+        const QString a = u"/a.CR3"_s;
+        QTest::newRow("mirror") << u"/a.xmp"_s << false << a << u"/b.xmp /b.xmp"_s;
+        QTest::newRow("of the whole name") << u"/a.CR3.xmp"_s << true << a << u"/b.CR3.xmp /b.CR3.xmp"_s;
+        QTest::newRow("in capitals") << u"/a.XMP"_s << true << a << u"/b.XMP /b.XMP"_s;
+        QTest::newRow("mirror, another photo of the name") << u"/a.xmp"_s << false << u"/a.png"_s << u"/b.xmp /b.xmp"_s;
+        QTest::newRow("edits, another photo of the name") << u"/a.xmp"_s << true << u"/a.jpg"_s << u"/a.xmp /b.xmp"_s;
+        QTest::newRow("another photo") << u"/a.xmp"_s << true << u"/aa.CR3"_s << u"/a.xmp /a.xmp"_s;
+    }
+    void journalFollowsSidecars()
+    {
+        QFETCH(QString, sidecar);
+        QFETCH(bool, isForItself);
+        QFETCH(QString, renamed);
+        const PhotoFolder folder;
+        JournalFile file{ .path = isForItself ? sidecar : u"/a.CR3"_s, .link = isForItself ? u"/a.CR3"_s : QString() };
+        file.sidecar.path = sidecar;
+        const QString to = u"/b"_s + renamed.sliced(renamed.lastIndexOf(u'.'));
+        QStringList now;
+        for (const bool areTogether : { false, true }) {
+            const SaveJournal journal(folder.path(areTogether ? u"together"_s : u"single"_s));
+            const qint64 save = journal.add({ .files = { file } }).value();
+            QVERIFY(areTogether ? journal.noteRenamesTogether(u"id"_s, { { renamed, to } })
+                                : journal.noteRenames({ { renamed, to } }));
+            const JournalFile followed = journal.load(save)->files.constFirst();
+            QCOMPARE(followed.path == followed.sidecar.path, isForItself);
+            now.append(followed.sidecar.path);
+        }
+        QTEST(now.join(u' '), "now");
+    }
+
     void clearsOnlyItsAbandonedTemporaryFiles()
     {
         const PhotoFolder folder;
