@@ -29,10 +29,17 @@ bool isRaw(const QString& name)
 }
 
 // What cameras write beside a raw file.
-bool isFinished(const QString& extension)
+bool isFinished(const QString& name)
 {
-    static const QSet<QString> finished{ u".jpg"_s, u".jpeg"_s, u".heic"_s, u".heif"_s, u".hif"_s };
-    return finished.contains(extension);
+    return ImageTypes::isJpeg(name) || ImageTypes::isHeic(name);
+}
+
+// What raw developers and cameras put beside a photo, and the backups of its sidecars.
+bool isOfDevelopment(const QString& extension)
+{
+    static const QSet<QString> known{ u".pp3"_s, u".arp"_s, u".dop"_s, u".on1"_s, u".acr"_s, u".vrd"_s, u".dr4"_s,
+        u".nksc"_s, u".aae"_s, u".thm"_s, u".wav"_s, u".xmp_original"_s };
+    return known.contains(extension);
 }
 
 bool isWritable(const QByteArray& folder)
@@ -59,7 +66,8 @@ FolderListing FolderListing::of(const QString& folder)
     return listing;
 }
 
-CompanionNames::CompanionNames(const QStringList& names)
+CompanionNames::CompanionNames(const QStringList& names, Kind kind)
+    : m_kind(kind)
 {
     for (const QString& name : names)
         m_byBase[baseOf(name)].append(name);
@@ -72,12 +80,21 @@ QString CompanionNames::baseOf(const QString& photo)
     return dot > 0 ? photo.left(dot) : photo;
 }
 
+bool CompanionNames::isCompanion(const QString& name, const QString& photo) const
+{
+    if (name == photo)
+        return false;
+    const QString extension = extensionOf(name);
+    return extension == u".xmp" || name == photo + u"_original"_s
+        || (m_kind == Kind::all && isOfDevelopment(extension));
+}
+
 QStringList CompanionNames::of(const QString& photo) const
 {
     QStringList found;
     for (const QString& base : { photo, baseOf(photo) })
         for (const QString& name : m_byBase.value(base))
-            if ((extensionOf(name) == u".xmp" && name != photo) || name == photo + u"_original"_s)
+            if (isCompanion(name, photo))
                 found.append(name);
     found.removeDuplicates();
     return found;
@@ -85,15 +102,13 @@ QStringList CompanionNames::of(const QString& photo) const
 
 QStringList CompanionNames::shotWith(const QString& photo) const
 {
-    const QString own = extensionOf(photo);
-    if (!isRaw(photo) && !isFinished(own))
+    if (!isRaw(photo) && !isFinished(photo))
         return {};
     QStringList shot;
     bool isAnyRaw = isRaw(photo);
     for (const QString& name : m_byBase.value(baseOf(photo))) {
-        const QString extension = extensionOf(name);
         isAnyRaw = isAnyRaw || isRaw(name);
-        if (name != photo && (isRaw(name) || isFinished(extension)))
+        if (name != photo && (isRaw(name) || isFinished(name)))
             shot.append(name);
     }
     return isAnyRaw ? shot : QStringList();

@@ -18,9 +18,13 @@ struct FolderListing {
 /// The same, by what stands in front of the last dot.
 class CompanionNames final {
 public:
-    explicit CompanionNames(const QStringList& names);
+    /// What goes with a photo: its backup and sidecars, or all that programs and cameras put beside it.
+    enum class Kind { ofMetadata, all };
 
-    /// Names of the photo's own backup and sidecars ("a.jpg_original", "a.jpg.xmp", "a.xmp"), as far as there are any.
+    explicit CompanionNames(const QStringList& names, Kind kind = Kind::ofMetadata);
+
+    /// Names of the photo's own backup and sidecars ("a.jpg_original", "a.jpg.xmp", "a.xmp"), as far as there are any;
+    /// of all kinds also the sidecars' backups, settings of raw developers ("a.cr3.pp3", "a.dop") and voice memos.
     QStringList of(const QString& photo) const;
     /// Names of the raw file and the finished pictures that the camera made in one shot with this photo.
     QStringList shotWith(const QString& photo) const;
@@ -28,7 +32,10 @@ public:
     static QString baseOf(const QString& photo);
 
 private:
+    bool isCompanion(const QString& name, const QString& photo) const;
+
     QHash<QString, QStringList> m_byBase;
+    Kind m_kind;
 };
 
 }  // namespace Quorbel

@@ -133,7 +133,8 @@ private:
     }
 };
 
-RenameSet::RenameSet(const QList<ImageRecord>& photos, const QHash<QString, FolderListing>& folders)
+RenameSet::RenameSet(
+    const QList<ImageRecord>& photos, const QHash<QString, FolderListing>& folders, CompanionNames::Kind companions)
 {
     QHash<QString, size_t> folderAt;
     std::vector<QHash<QString, size_t>> shotAt;
@@ -144,7 +145,7 @@ RenameSet::RenameSet(const QList<ImageRecord>& photos, const QHash<QString, Fold
         if (folder == m_folders.size()) {
             const FolderListing listing = folders.value(path);
             m_folders.push_back({ .path = path,
-                .companions = CompanionNames(listing.names),
+                .companions = CompanionNames(listing.names, companions),
                 .names = QSet<QString>(listing.names.cbegin(), listing.names.cend()),
                 .isWritable = listing.isWritable });
             folderAt.insert(path, folder);

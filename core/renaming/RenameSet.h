@@ -13,8 +13,9 @@ namespace Quorbel {
 
 class RenameSet final {
 public:
-    /// Photos in the order in which they are numbered; the listings of their folders, by path.
-    RenameSet(const QList<ImageRecord>& photos, const QHash<QString, FolderListing>& folders);
+    /// Photos in the order in which they are numbered; the listings of their folders, by path; what goes along.
+    RenameSet(const QList<ImageRecord>& photos, const QHash<QString, FolderListing>& folders,
+        CompanionNames::Kind companions = CompanionNames::Kind::ofMetadata);
 
     qsizetype size() const { return m_photos.size(); }
     /// Pictures of the same shots that are not among the photos: they go along.

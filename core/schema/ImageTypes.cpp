@@ -59,4 +59,16 @@ bool isDng(const QString& fileName)
     return extensionOf(fileName) == u"dng";
 }
 
+bool isJpeg(const QString& fileName)
+{
+    const QString extension = extensionOf(fileName);
+    return extension == u"jpg" || extension == u"jpeg";
+}
+
+bool isHeic(const QString& fileName)
+{
+    const QString extension = extensionOf(fileName);
+    return extension == u"heic" || extension == u"heif" || extension == u"hif";
+}
+
 }  // namespace Quorbel::ImageTypes

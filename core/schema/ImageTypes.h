@@ -18,5 +18,8 @@ const QSet<QString>& rawExtensions();
 /// Whether the name is that of a camera's raw file; DNG is not meant.
 bool isRaw(const QString& fileName);
 bool isDng(const QString& fileName);
+/// Whether it is that of a picture as cameras write it beside a raw file: JPEG or HEIC.
+bool isJpeg(const QString& fileName);
+bool isHeic(const QString& fileName);
 
 }  // namespace Quorbel::ImageTypes

@@ -126,6 +126,20 @@ void tst_Renaming::plan_data()
         << QStringList{ u"Sea_0001.CR2|"_s, u"Sea_0001.JPG|"_s, u"Sky_0002.JPG|"_s }
         << u"I1.CR2>Sea_0001.CR2 I1.JPG>Sea_0001.JPG I1.CR2.xmp>Sea_0001.CR2.xmp I1.xmp>Sea_0001.xmp "
            "I1.JPG_original>Sea_0001.JPG_original I2.JPG>Sky_0002.JPG I2.XMP>Sky_0002.XMP"_s;
+    QTest::addRow("of a pair all goes along")
+        << u"+%Title%"_s << QStringList{ u"I1.CR3||Sea"_s }
+        << QStringList{ u"I1.JPG"_s, u"I1.xmp"_s, u"I1.CR3.xmp"_s, u"I1.xmp_original"_s, u"I1.JPG_original"_s,
+               u"I1.CR3.pp3"_s, u"I1.pp3"_s, u"I1.CR3.DOP"_s, u"I1.WAV"_s, u"I1.txt"_s, u"I1.x.pp3"_s, u"I10.pp3"_s }
+        << QStringList{ u"Sea.CR3|with I1.JPG"_s }
+        << u"I1.CR3>Sea.CR3 I1.JPG>Sea.JPG I1.xmp>Sea.xmp I1.CR3.xmp>Sea.CR3.xmp I1.xmp_original>Sea.xmp_original "
+           "I1.JPG_original>Sea.JPG_original I1.CR3.pp3>Sea.CR3.pp3 I1.pp3>Sea.pp3 I1.CR3.DOP>Sea.CR3.DOP "
+           "I1.WAV>Sea.WAV"_s;
+    QTest::addRow("settings need their name, too")
+        << u"+%Title%"_s << QStringList{ u"I1.CR3||Sea"_s } << QStringList{ u"I1.CR3.pp3"_s, u"sea.cr3.PP3"_s }
+        << QStringList{ u"Sea-2.CR3|name taken, so -2"_s } << u"I1.CR3>Sea-2.CR3 I1.CR3.pp3>Sea-2.CR3.pp3"_s;
+    QTest::addRow("only of pairs") << u"%Title%"_s << QStringList{ u"I1.CR3||Sea"_s }
+                                   << QStringList{ u"I1.CR3.pp3"_s, u"I1.WAV"_s } << QStringList{ u"Sea.CR3|"_s }
+                                   << u"I1.CR3>Sea.CR3"_s;
     QTest::addRow("the raw file that is not among them goes along")
         << u"%Title%"_s << QStringList{ u"I1.jpg||Sea"_s } << QStringList{ u"I1.nef"_s, u"I1.tif"_s }
         << QStringList{ u"Sea.jpg|with I1.nef"_s } << u"I1.jpg>Sea.jpg I1.nef>Sea.nef"_s;
@@ -172,8 +186,11 @@ void tst_Renaming::plan()
         if (!isGone)
             listing.names.append(records.constLast().fileName);
     }
-    const RenameSet set(records, { { u"/p"_s, listing } });
-    const RenamePlan plan = set.plan({ .pattern = pattern });
+    // "+": of pairs.
+    using Kind = CompanionNames::Kind;
+    const Kind kind = pattern.startsWith(u'+') ? Kind::all : Kind::ofMetadata;
+    const RenameSet set(records, { { u"/p"_s, listing } }, kind);
+    const RenamePlan plan = set.plan({ .pattern = kind == Kind::all ? pattern.sliced(1) : pattern });
     QStringList told;
     qsizetype marked = 0;
     bool isPossible = true;
