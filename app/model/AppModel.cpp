@@ -216,8 +216,9 @@ QList<ImageRecord> AppModel::visibleRecords() const
 
 QString AppModel::folderCountText() const
 {
-    QString text = QString::number(records().size()) + u" photo"_s;
-    if (records().size() != 1)
+    const int count = photos().index().photos();
+    QString text = QString::number(count) + u" photo"_s;
+    if (count != 1)
         text += u's';
     if (photos().folders().isOrdering()) {
         const int folders = photos().folders().holding();
@@ -280,7 +281,7 @@ void AppModel::openFile(const QUrl& url)
 {
     requireMainThread("openFile");
     if (m_services.openUrl)
-        m_services.openUrl(url);
+        m_services.openUrl(pairing().seenFile(url));
 }
 
 void AppModel::load(const QList<QUrl>& urls, bool withSubfolders)
@@ -350,6 +351,7 @@ void AppModel::takeVanished(const QList<int>& positions)
     for (const int position : positions)
         gone.insert(records().at(position).url);
     m_library.noteRead({ gone.cbegin(), gone.cend() });
+    passToHeirs(gone);
     const Selection before = m_selected.selection();
     const bool losesPrimary = before.primary && gone.contains(*before.primary);
     if (losesPrimary && !isBatch() && unsavedCount() > 0)
@@ -372,6 +374,15 @@ void AppModel::takeVanished(const QList<int>& positions)
         saveAwaited();
     }
     goOnAgreeing();
+}
+
+// Of a shot whose raw file is gone, the picture is left.
+void AppModel::passToHeirs(const QSet<QUrl>& gone)
+{
+    const NewNames heirs = pairing().heirsOf(gone);
+    const auto isSelected = [this](const auto& names) { return selection().contains(names.first); };
+    if (std::any_of(heirs.list().cbegin(), heirs.list().cend(), isSelected))
+        m_editing.passTo(heirs);
 }
 
 void AppModel::selectWhereNone()

@@ -25,6 +25,7 @@ class CodeReplacements;
 class FieldPasting;
 class FieldSets;
 class Filtering;
+class Pairing;
 class PhotosRenaming;
 class QuickKeywords;
 class RememberedCards;
@@ -242,6 +243,7 @@ public:
     PhotosRenaming& renaming();
     TimeShifting& timeShifting();
     Filtering& filtering();
+    Pairing& pairing() const;
     FieldSets& fieldSets();
     SelectedSidecars& selectedSidecars();
     MovingOver& movingOver();
@@ -421,6 +423,7 @@ private:
     void followSidecarSettings();
     // What other programs do to the photos
     void takeVanished(const QList<int>& positions);
+    void passToHeirs(const QSet<QUrl>& gone);
     void selectWhereNone();
     void takeReread(const QList<QUrl>& urls);
     // What a load has read
@@ -444,9 +447,10 @@ private:
     void lookAhead();
     void save(const QStringList& leftOut = {});
     void beginSave(const Edits& edits, const QStringList& leftOut);
+    QList<QUrl> takeRefused();
     void saveAwaited();
     void giveUpAwaited();
-    void takeSaved(const SaveOutcome& outcome);
+    void takeSaved(const SaveOutcome& ofFiles);
     void tellWritten(const SaveOutcome& outcome);
     void noteRead(const QList<ImageRecord>& fresh);
     void noteWritten(const SaveOutcome& outcome);

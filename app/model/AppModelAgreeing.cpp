@@ -1,5 +1,6 @@
 // Homes that disagree: what has to be known and asked before they are made to agree.
 #include "app/model/AppModel.h"
+#include "app/model/pairs/Pairing.h"
 #include "core/save/Agreement.h"
 #include "core/text/Text.h"
 
@@ -115,7 +116,8 @@ void AppModel::makeAgree(const QHash<QUrl, EditPlan>& plans)
     m_agreeing.reset();
     if (onWriteBegins)
         onWriteBegins(plans.keys());
-    m_saving.makeAgree(plans, { m_preferences.backupOriginals(), m_preferences.writeSidecar(), {} });
+    m_saving.makeAgree(plans,
+        { m_preferences.backupOriginals(), m_preferences.writeSidecar(), {}, pairing().picturesAmong(plans.keys()) });
 }
 
 }  // namespace Quorbel

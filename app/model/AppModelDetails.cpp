@@ -9,7 +9,7 @@ namespace Quorbel {
 void AppModel::connectDetails()
 {
     DetailsReading& details = m_library.details();
-    const auto select = [this, &details] { details.setSelected(primary(), selection()); };
+    const auto select = [this, &details] { details.setSelected(primary(), pairing().filesOf(selection())); };
     connect(this, &AppModel::selectionChanged, &details, select);
     connect(this, &AppModel::primaryChanged, &details, select);
     const auto hold = [this, &details] { details.setHeld(unsavedCount() > 0 ? selection() : QSet<QUrl>()); };

@@ -1,13 +1,17 @@
 // Renaming the one selected photo from a pattern and its draft.
 #include "app/model/AppModel.h"
 
+#include "app/model/pairs/Pairing.h"
 #include "app/model/renaming/PhotosRenaming.h"
+#include "core/renaming/FolderListing.h"
 #include "core/schema/FieldID.h"
 #include "core/text/FileNaming.h"
 #include "core/text/Text.h"
 
 #include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace Quorbel {
 
@@ -20,12 +24,30 @@ QString folderOf(const ImageRecord& record)
     return QFileInfo(record.url.toLocalFile()).path();
 }
 
+// What the names of all files that go along with a shot have behind its base name.
+QStringList endsOfShot(const QStringList& files, const FolderNames::Listing& names)
+{
+    const QString base = CompanionNames::baseOf(files.constFirst()).toLower();
+    QStringList near;
+    for (auto name = names.uses.keyBegin(); name != names.uses.keyEnd(); ++name)
+        if (name->startsWith(base + u'.'))
+            near.append(*name);
+    const CompanionNames companions(near, CompanionNames::Kind::all);
+    QStringList ends;
+    for (const QString& file : files)
+        for (const QString& name : QStringList{ file.toLower() } + companions.of(file.toLower()))
+            ends.append(name.sliced(base.size()));
+    ends.removeDuplicates();
+    return ends;
+}
+
 }  // namespace
 
 bool AppModel::canRename() const
 {
     requireMainThread("canRename");
-    if (selection().size() != 1 || !primaryRecord() || primaryRecord()->isUnread)
+    if (selection().size() != 1 || !primaryRecord()
+        || !unreadOf(pairing().filesOf(QList<QUrl>{ *primary() })).isEmpty())
         return false;
     for (const QLatin1StringView id : { FieldID::date, FieldID::title, FieldID::creator, FieldID::place })
         if (!Text::trimmed(draftValues().value(id)).isEmpty())
@@ -78,8 +100,15 @@ QString AppModel::renderedBase(const ImageRecord& record) const
 QString AppModel::newFileName(const ImageRecord& record, const FolderNames::Listing& names) const
 {
     const QString base = renderedBase(record);
-    return FileNaming::uniqueFileName(base, QFileInfo(record.fileName).suffix(),
-        [&](const QString& name) { return names.isTaken(name, record.fileName); });
+    const QString own = CompanionNames::baseOf(record.fileName);
+    QStringList ends{ record.fileName.sliced(own.size()) };
+    if (const auto picture = pairing().pictureOf(record.url))
+        ends = endsOfShot({ record.fileName, picture->fileName() }, names);
+    return FileNaming::uniqueFileName(base, QFileInfo(record.fileName).suffix(), [&](const QString& name) {
+        const QString free = CompanionNames::baseOf(name);
+        return std::any_of(
+            ends.cbegin(), ends.cend(), [&](const QString& end) { return names.isTaken(free + end, own + end); });
+    });
 }
 
 void AppModel::performRename()
@@ -90,6 +119,11 @@ void AppModel::performRename()
         return;
     if (const auto problem = renameProblem())
         return setErrorMessage(u"Could not rename: "_s + *problem);
+    if (const auto picture = pairing().pictureOf(record->url)) {
+        if (isSaving())
+            return setErrorMessage(u"Could not rename: “%1” is being saved."_s.arg(record->fileName));
+        return renaming().renameShot({ *record, *photos().record(*picture) }, renderedBase(*record));
+    }
     const QString name = newFileName(*record, m_folderNames.current(folderOf(*record)));
     if (name == record->fileName)
         return;

@@ -41,7 +41,7 @@ void AppModel::setBatchDontAskSession(bool on)
 
 void AppModel::lookAhead()
 {
-    m_saving.lookAhead(selection(), unsavedCount() > 0);
+    m_saving.lookAhead(unsavedCount() > 0 ? pairing().filesOf(selection()) : selection(), unsavedCount() > 0);
 }
 
 void AppModel::requestSave()
@@ -104,7 +104,7 @@ void AppModel::save(const QStringList& leftOut)
         return;
     }
     m_editing.send();
-    const QList<QUrl> unread = unreadOf(edits.subjects);
+    const QList<QUrl> unread = unreadOf(pairing().filesOf(edits.subjects));
     if (unread.isEmpty())
         return beginSave(edits, leftOut);
     m_saving.reserve();
@@ -115,15 +115,19 @@ void AppModel::save(const QStringList& leftOut)
 // What the photos hold is known: lists cannot be replaced without.
 void AppModel::beginSave(const Edits& edits, const QStringList& leftOut)
 {
+    const Edits all = pairing().forFiles(edits, m_editing.leftOf(edits));
+    // Of the other file of a shot nothing was seen but what the photo shows.
     SaveJob::SeenLists seen;
-    if (!edits.lists.isEmpty())
-        for (const QUrl& photo : edits.subjects)
-            if (const ImageRecord* record = photos().record(photo))
-                seen.insert(photo, seenIn(*record, edits));
+    if (!all.lists.isEmpty())
+        for (const QUrl& file : all.subjects)
+            if (const ImageRecord* record = photos().record(pairing().photoOf(file)))
+                seen.insert(file, seenIn(*record, edits));
     if (onWriteBegins)
-        onWriteBegins(edits.subjects);
+        onWriteBegins(all.subjects);
     m_tools->rememberedCards->noteSaving(edits);
-    m_saving.save(edits, { m_preferences.backupOriginals(), m_preferences.writeSidecar(), leftOut }, seen);
+    const WriteOptions options{ m_preferences.backupOriginals(), m_preferences.writeSidecar(), leftOut,
+        pairing().picturesAmong(all.subjects) };
+    m_saving.save(all, options, seen);
 }
 
 void AppModel::saveAwaited()
@@ -163,17 +167,34 @@ void AppModel::noteRead(const QList<ImageRecord>& fresh)
     m_library.noteRead(read);
 }
 
-void AppModel::takeSaved(const SaveOutcome& outcome)
+void AppModel::takeSaved(const SaveOutcome& ofFiles)
 {
-    tellWritten(outcome);
+    tellWritten(ofFiles);
     photos().endSaved();
-    noteRead(outcome.records);
+    noteRead(ofFiles.records);
+    const SaveOutcome outcome = pairing().forPhotos(ofFiles);
     m_editing.takeSaved(outcome.unsaved, outcome.failed, outcome.differing);
+    const QList<QUrl> waiting = outcome.failed + takeRefused();
     if (outcome.message)
         setErrorMessage(outcome.message);
-    noteWritten(outcome);
-    if (!outcome.unsaved.isEmpty())
-        m_refused = { QSet<QUrl>(outcome.failed.cbegin(), outcome.failed.cend()), outcome.homesToLeaveOut };
+    noteWritten(ofFiles);
+    if (!waiting.isEmpty() || !outcome.unsaved.isEmpty())
+        m_refused = { QSet<QUrl>(waiting.cbegin(), waiting.cend()), outcome.homesToLeaveOut };
+}
+
+// The picture of a shot comes out from behind its raw file with what it alone refused, for whoever tries again.
+QList<QUrl> AppModel::takeRefused()
+{
+    const auto refused = pairing().takeRefused();
+    if (!refused)
+        return {};
+    const QList<QUrl>& waiting = refused->edits.subjects;
+    const auto isOpen = [this](const QUrl& photo) { return photos().contains(photo); };
+    if (unsavedCount() == 0 && std::all_of(waiting.cbegin(), waiting.cend(), isOpen))
+        m_editing.bringBack(*refused);
+    else
+        m_left.keep(*refused);
+    return waiting;
 }
 
 // For what is remembered of what was saved.
@@ -193,8 +214,9 @@ int AppModel::credentialsAtStake() const
 {
     if (!m_agreeing || !m_agreeing->isAsking) {
         const QList<QUrl>& sealed = selectedDetails().sealed();
-        return int(std::count_if(
-            sealed.cbegin(), sealed.cend(), [this](const QUrl& photo) { return !m_sidecarPolicy.isBeside(photo); }));
+        const auto written = std::count_if(
+            sealed.cbegin(), sealed.cend(), [this](const QUrl& photo) { return !m_sidecarPolicy.isBeside(photo); });
+        return int(written + pairing().credentialsBehind(selection()));
     }
     return int(std::count_if(m_agreeing->photos.cbegin(), m_agreeing->photos.cend(), [this](const QUrl& photo) {
         if (m_sidecarPolicy.isBeside(photo))

@@ -25,6 +25,10 @@ QString besideLeftEdits(const AppModelServices& services, const QString& name)
 void AppModel::makeTools()
 {
     m_tools = std::make_unique<AppModelTools>();
+    m_tools->pairing = std::make_unique<Pairing>(*this,
+        Pairing::Reach{ m_library.photos(), m_selected, [this] { filtering().settle(); },
+            [this](const Selection& next) { commitSelection(next); },
+            [this](std::function<void()> then) { holdBack(std::move(then)); }, m_services.endEditing });
     m_tools->pasting = std::make_unique<FieldPasting>(*this,
         FieldPasting::Parts{ [this] { return m_editing.unsaved(); }, besideLeftEdits(m_services, u"copied.json"_s) });
     m_tools->templates =
@@ -106,6 +110,12 @@ TimeShifting& AppModel::timeShifting()
 MovingOver& AppModel::movingOver()
 {
     return *checked(*m_tools).movingOver;
+}
+
+Pairing& AppModel::pairing() const
+{
+    requireMainThread("AppModel");
+    return *m_tools->pairing;
 }
 
 Filtering& AppModel::filtering()

@@ -6,6 +6,7 @@
 #include "app/model/iptc/CredentialsNotice.h"
 #include "app/model/iptc/RememberedCards.h"
 #include "app/model/library/filter/Filtering.h"
+#include "app/model/pairs/Pairing.h"
 #include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/selection/SelectedSidecars.h"
 #include "app/model/sidecars/MovingOver.h"
@@ -32,6 +33,7 @@ struct AppModelTools {
     std::unique_ptr<CredentialsNotice> credentials{};
     std::unique_ptr<SelectedSidecars> sidecars{};
     std::unique_ptr<MovingOver> movingOver{};
+    std::unique_ptr<Pairing> pairing{};
 };
 
 }  // namespace Quorbel

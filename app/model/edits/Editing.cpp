@@ -406,6 +406,28 @@ void Editing::follow(const Selection& selection)
     changed();
 }
 
+void Editing::passTo(const NewNames& heirs)
+{
+    const Announcer::Together together(m_announcer);
+    LeftEdits passed = leftOf(typed());
+    const Selection next = m_selected.selection().renamed(heirs);
+    if (isBatch()) {
+        m_batch.rename(heirs);
+        m_selected.follow(next);
+        if (!isBatch())
+            foldBatchIntoDraft();
+        return changed();
+    }
+    m_sent.isLeft = true;
+    m_selected.set(next);
+    restart();
+    passed.edits.subjects = heirs.of(passed.edits.subjects);
+    if (!passed.edits.isEmpty()) {
+        showFieldsOf(passed.edits);
+        put(passed);
+    }
+}
+
 void Editing::rename(const NewNames& names)
 {
     m_selected.follow(m_selected.selection().renamed(names));

@@ -37,6 +37,8 @@ public:
     int unsavedCount() const { return m_unsavedCount; }
     /// What of it is not being saved either.
     Edits typed() const;
+    /// These edits of photos as they would be left behind.
+    LeftEdits leftOf(const Edits& edits, bool returns = false) const;
     /// What a save that runs was given, with its photos; empty while none runs.
     Edits sending() const { return m_sent.isRunning ? m_sent.batch.edits : Edits(); }
 
@@ -97,6 +99,9 @@ public:
     void bringBack(const LeftEdits& left);
     /// Photos of the selection disappeared: its edits stay, as those of the photos that remain.
     void follow(const Selection& selection);
+    /// These photos are about to disappear, and others, which must be open, stand for them: their edits, as far as they
+    /// are not being saved, become those of these.
+    void passTo(const NewNames& heirs);
     /// Photos have other names: all edits of them stay.
     void rename(const NewNames& names);
     /// The photos were read again: the draft stands on what the primary one holds now.
@@ -164,7 +169,6 @@ private:
     bool isSending() const;
     QList<LeftEdits> standing() const;
     std::optional<QStringList> heldItems(const ImageRecord& photo, const QString& id) const;
-    LeftEdits leftOf(const Edits& edits, bool returns = false) const;
     void restart();
     void beginDraft();
     void layDraft();

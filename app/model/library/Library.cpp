@@ -54,7 +54,7 @@ struct Library::Load {
     Q_DISABLE_COPY_MOVE(Load)
 
     static std::shared_ptr<Load> of(PhotoListing listing, RecordCache* cache, const SidecarPolicy& sidecars,
-        RecordSortOrder order, const std::stop_token& stop)
+        const ListForm& form, const std::stop_token& stop)
     {
         auto load = std::make_shared<Load>();
         load->sidecars = sidecars;
@@ -67,13 +67,13 @@ struct Library::Load {
             load->records.append(record != known.cend() ? *record : file.unreadRecord());
         }
         if (load->listing.part != PhotoListing::Part::further)
-            load->prepare(order, stop);
+            load->prepare(form, stop);
         return load;
     }
-    void prepare(RecordSortOrder order, const std::stop_token& stop)
+    void prepare(const ListForm& form, const std::stop_token& stop)
     {
-        photos = OpenPhotos::of(
-            std::exchange(records, {}), order, !listing.watched().isEmpty(), listing.folderOrder(), stop);
+        photos =
+            OpenPhotos::of(std::exchange(records, {}), form, !listing.watched().isEmpty(), listing.folderOrder(), stop);
         queue.add(unreadOf(photos.records));
     }
 };
@@ -121,8 +121,8 @@ void Library::load(const QList<QUrl>& given, bool withSubfolders)
         return walk(given);
     runInBackground(
         this,
-        [given, cache = m_cache, sidecars = sidecars(), order = m_photos.order(), stop] {
-            return Load::of(PhotoListing::of(given, sidecars), cache.get(), sidecars, order, stop);
+        [given, cache = m_cache, sidecars = sidecars(), form = m_photos.form(), stop] {
+            return Load::of(PhotoListing::of(given, sidecars), cache.get(), sidecars, form, stop);
         },
         [this, serial = ++m_loads](const std::shared_ptr<Load>& load) {
             if (serial == m_loads)
@@ -146,10 +146,10 @@ void Library::walk(const QList<QUrl>& given)
     m_walk = std::make_unique<Walk>();
     m_walk->given = given;
     m_walk->pieces = std::make_unique<Pieces>(
-        [given, cache = m_cache, sidecars = sidecars(), order = m_photos.order(), stop = m_walk->stop.get_token()](
+        [given, cache = m_cache, sidecars = sidecars(), form = m_photos.form(), stop = m_walk->stop.get_token()](
             const Pieces::Give& give) {
             PhotoListing::withSubfolders(given, sidecars, stop,
-                [&](PhotoListing piece) { give(Load::of(std::move(piece), cache.get(), sidecars, order, stop)); });
+                [&](PhotoListing piece) { give(Load::of(std::move(piece), cache.get(), sidecars, form, stop)); });
         },
         [this](const std::shared_ptr<Load>& piece) { takePiece(piece); }, [this] { endWalk(); });
 }
@@ -163,7 +163,7 @@ void Library::takePiece(const std::shared_ptr<Load>& piece)
             return;
         // Nothing that came before could be read.
         if (!piece->records.isEmpty())
-            piece->prepare(m_photos.order(), {});
+            piece->prepare(m_photos.form(), {});
         piece->listing.leftOut = std::exchange(m_walk->leftOut, {});
         m_walk->pieces->setPaused(true);
         return takeListed(piece);

@@ -1,6 +1,7 @@
 #include "app/model/library/PhotoList.h"
 
 #include "app/model/Background.h"
+#include "core/renaming/FolderListing.h"
 #include "core/text/Text.h"
 
 #include <QDeadlineTimer>
@@ -9,14 +10,27 @@
 
 namespace Quorbel {
 
+namespace {
+
+// A sidecar goes along with its photo, whose name without extension it begins with.
+QString renamedSidecar(const ImageRecord& photo, const QString& newName)
+{
+    const QString base = CompanionNames::baseOf(photo.fileName);
+    const bool goesAlong = !photo.sidecarName.isEmpty() && photo.sidecarName.startsWith(base);
+    return goesAlong ? CompanionNames::baseOf(newName) + photo.sidecarName.sliced(base.size()) : photo.sidecarName;
+}
+
+}  // namespace
+
 OpenPhotos OpenPhotos::of(
-    QList<ImageRecord> records, RecordSortOrder order, bool isWatched, FolderOrder folders, const std::stop_token& stop)
+    QList<ImageRecord> records, const ListForm& form, bool isWatched, FolderOrder folders, const std::stop_token& stop)
 {
     OpenPhotos photos{ .records = std::move(records) };
     // Room for what is added later: growing moves everything.
     const qsizetype room = photos.records.size() + photos.records.size() / 4;
     photos.records.reserve(folders.isOrdering() ? std::max(room, RecordIndex::roomForWalk) : room);
-    photos.index.reset(photos.records, order, std::move(folders), stop);
+    photos.index.setPairing(form.isPairing);
+    photos.index.reset(photos.records, form.order, std::move(folders), stop);
     for (const ImageRecord& record : std::as_const(photos.records)) {
         if (stop.stop_requested())
             return photos;
@@ -75,7 +89,8 @@ void PhotoList::setOnly(PhotoTrait trait, const QList<int>& positions)
 
 void PhotoList::traitsChanged(PhotoTrait trait)
 {
-    if (!m_filter.isLimiting() || !(m_filter.traits | PhotoTrait::held).testFlag(trait))
+    const bool parts = m_isPairing && trait == PhotoTrait::held;
+    if (!parts && (!m_filter.isLimiting() || !(m_filter.traits | PhotoTrait::held).testFlag(trait)))
         return;
     const Announcer::Together together(m_announcer);
     updateVisibleRows(false);
@@ -146,6 +161,30 @@ void PhotoList::setOrder(RecordSortOrder order)
         updateVisibleRows(false);
 }
 
+void PhotoList::setPairing(bool on)
+{
+    m_isPairing = on;
+    if (m_open.index.isPairing() == on)
+        return;
+    m_open.index.setPairing(on);
+    const Announcer::Together together(m_announcer);
+    updateVisibleRows(false);
+}
+
+std::optional<QUrl> PhotoList::pictureOf(const QUrl& raw) const
+{
+    const int at = m_isPairing ? position(raw) : -1;
+    const int picture = at < 0 ? -1 : m_open.index.hiddenBehind(at);
+    return picture < 0 ? std::nullopt : std::optional(m_open.records.at(picture).url);
+}
+
+std::optional<QUrl> PhotoList::rawOf(const QUrl& picture) const
+{
+    const int at = m_isPairing ? position(picture) : -1;
+    const int raw = at < 0 ? -1 : m_open.index.standingFor(at);
+    return raw < 0 ? std::nullopt : std::optional(m_open.records.at(raw).url);
+}
+
 void PhotoList::setFolded(const QList<QUrl>& folders, bool on)
 {
     if (m_groups.setFolded(folders, on))
@@ -157,6 +196,7 @@ void PhotoList::open(OpenPhotos photos)
     if (!photos.index.folders().isSame(folders()))
         m_groups.unfoldAll();
     std::swap(m_open, photos);
+    m_open.index.setPairing(m_isPairing);
     discardInBackground(std::move(photos));
     m_filter = { .needle = m_filter.needle };
     m_finding = {};
@@ -314,6 +354,7 @@ void PhotoList::rename(const NewNames& names)
     for (const int at : std::as_const(positions)) {
         ImageRecord& photo = m_open.records[at];
         photo.url = names.of(photo.url);
+        photo.sidecarName = renamedSidecar(photo, photo.url.fileName());
         photo.fileName = photo.url.fileName();
         if (m_open.files)
             m_open.files->note(photo);

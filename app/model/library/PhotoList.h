@@ -17,6 +17,19 @@
 
 namespace Quorbel {
 
+/// How photos are listed.
+struct ListForm {
+    // NOLINTNEXTLINE(google-explicit-constructor): an order alone is a form
+    ListForm(RecordSortOrder sortOrder, bool isPaired = false)
+        : order(sortOrder)
+        , isPairing(isPaired)
+    {
+    }
+
+    RecordSortOrder order;
+    bool isPairing;  ///< the raw file and the picture of one shot are one row
+};
+
 /// Photos, and all that is derived from them: made in the background, since a hundred thousand take their time.
 struct OpenPhotos {
     QList<ImageRecord> records{};
@@ -24,9 +37,9 @@ struct OpenPhotos {
     KeywordUses keywords{};
     std::shared_ptr<KnownFiles> files{};  ///< null where nothing is watched
 
-    /// Sorted in this order, by folder first where folders have one. Once stopped, it ends early, and the result is of
-    /// no use.
-    static OpenPhotos of(QList<ImageRecord> records, RecordSortOrder order, bool isWatched, FolderOrder folders = {},
+    /// Sorted in this form's order, by folder first where folders have one. Once stopped, it ends early, and the result
+    /// is of no use.
+    static OpenPhotos of(QList<ImageRecord> records, const ListForm& form, bool isWatched, FolderOrder folders = {},
         const std::stop_token& stop = {});
 };
 
@@ -86,6 +99,15 @@ public:
     std::optional<QUrl> shownNear(const QUrl& photo);
     RecordSortOrder order() const { return m_order; }
     void setOrder(RecordSortOrder order);
+    ListForm form() const { return { m_order, m_isPairing }; }
+    /// Whether the raw file and the picture of one shot are one row, the raw file's: the picture is in records(), but
+    /// never in visibleRows(), unless it is held.
+    bool isPairing() const { return m_isPairing; }
+    void setPairing(bool on);
+    /// The picture that this raw file's row stands for as well; nothing where there is none.
+    std::optional<QUrl> pictureOf(const QUrl& raw) const;
+    /// The raw file in whose row the picture is; nothing where it has one of its own.
+    std::optional<QUrl> rawOf(const QUrl& picture) const;
 
     /// Other photos are open now. What was open goes in the background.
     void open(OpenPhotos photos);
@@ -131,6 +153,7 @@ private:
     PhotoFilter m_filter;
     TextFinding m_finding;
     RecordSortOrder m_order;
+    bool m_isPairing = false;
     CreationDates m_creationDates;
     int m_serial = 0;
     int m_heldSerial = 0;

@@ -70,13 +70,17 @@ void RecordIndex::Entry::setCreationDate(const std::optional<QDateTime>& date)
 void RecordIndex::reset(
     const QList<ImageRecord>& records, RecordSortOrder order, FolderOrder folders, const std::stop_token& stop)
 {
+    const bool isPairing = m_isPairing;
     *this = {};
+    m_isPairing = isPairing;
     m_folders = std::move(folders);
     const qsizetype room = std::max(withRoom(records.size()), m_folders.isOrdering() ? roomForWalk : 0);
     m_entries.reserve(size_t(room));
     m_positions.reserve(size_t(room));
     m_marks.reserve(size_t(room));
     m_ids.reserve(room);
+    if (m_isPairing)
+        m_pairs.reserve(records.size());
     for (const ImageRecord& record : records) {
         if (stop.stop_requested())
             return;
@@ -100,6 +104,10 @@ void RecordIndex::add(const ImageRecord& record)
     tally(m_marks.emplace_back(RecordTraits::of(record)), 1);
     if (!m_ids.contains(record.url))
         m_ids.insert(record.url, added.id);
+    if (!m_isPairing)
+        return;
+    m_pairs.add(added.id, record.url);
+    m_isCounted = false;
 }
 
 int RecordIndex::position(const QUrl& url) const
@@ -157,6 +165,11 @@ void RecordIndex::follow(int position, const ImageRecord& record)
         m_ids.insert(record.url, old.id);
         m_folders.leave(old.folder);
         old.folder = m_folders.enter(record.url);
+        if (m_isPairing) {
+            m_pairs.remove(old.id, old.url);
+            m_pairs.add(old.id, record.url);
+            m_isCounted = false;
+        }
     }
     old.url = record.url;
     old.setName(record);
@@ -178,6 +191,9 @@ void RecordIndex::remove(const QList<int>& positions)
             m_folders.leave(old.folder);
             if (m_ids.value(old.url, -1) == old.id)
                 m_ids.remove(old.url);
+            m_isCounted = m_isCounted && !m_isPairing;
+            if (m_isPairing)
+                m_pairs.remove(old.id, old.url);
             continue;
         }
         newPosition[size_t(i)] = kept;
@@ -197,10 +213,67 @@ void RecordIndex::remove(const QList<int>& positions)
     }
 }
 
+// --- Two files of one shot ---
+
+void RecordIndex::setPairing(bool on)
+{
+    if (m_isPairing == on)
+        return;
+    m_isPairing = on;
+    m_isCounted = false;
+    m_pairs.clear();
+    if (!on)
+        return;
+    m_pairs.reserve(qsizetype(m_entries.size()));
+    for (const Entry& entry : m_entries)
+        m_pairs.add(entry.id, entry.url);
+}
+
+// One that is held stands for itself: it is edited without the other file.
+bool RecordIndex::isHidden(int id) const
+{
+    return m_isPairing && m_pairs.rawOf(id) >= 0 && !m_marks[size_t(id)].traits.testFlag(PhotoTrait::held);
+}
+
+int RecordIndex::hiddenBehind(int position) const
+{
+    const int picture = m_isPairing ? m_pairs.pictureOf(entry(position).id) : -1;
+    return picture >= 0 && isHidden(picture) ? m_positions[size_t(picture)] : -1;
+}
+
+int RecordIndex::standingFor(int position) const
+{
+    const int id = entry(position).id;
+    return isHidden(id) ? m_positions[size_t(m_pairs.rawOf(id))] : -1;
+}
+
 // --- Traits ---
 
-void RecordIndex::tally(const Mark& mark, int step)
+void RecordIndex::countAll() const
 {
+    m_counts = {};
+    m_starCounts = {};
+    m_isCounted = true;
+    m_hidden = 0;
+    for (const Entry& entry : m_entries) {
+        if (isHidden(entry.id))
+            ++m_hidden;
+        else
+            tally(m_marks[size_t(entry.id)], 1);
+    }
+}
+
+int RecordIndex::photos() const
+{
+    if (!m_isCounted)
+        countAll();
+    return int(m_entries.size()) - m_hidden;
+}
+
+void RecordIndex::tally(const Mark& mark, int step) const
+{
+    if (!m_isCounted)
+        return;
     for (uint bits = mark.traits.toInt(); bits != 0; bits &= bits - 1)
         m_counts.at(size_t(std::countr_zero(bits))) += step;
     m_starCounts.at(size_t(mark.stars)) += step;
@@ -211,6 +284,7 @@ bool RecordIndex::change(int id, const Mark& next)
     Mark& mark = m_marks[size_t(id)];
     if (mark == next)
         return false;
+    m_isCounted = m_isCounted && !m_isPairing;
     tally(mark, -1);
     mark = next;
     tally(mark, 1);
@@ -245,11 +319,15 @@ void RecordIndex::moveTrait(PhotoTrait from, PhotoTrait to)
 
 int RecordIndex::count(PhotoTrait trait) const
 {
+    if (!m_isCounted)
+        countAll();
     return m_counts.at(size_t(std::countr_zero(uint(trait))));
 }
 
 int RecordIndex::countOfStars(int least) const
 {
+    if (!m_isCounted)
+        countAll();
     return std::accumulate(m_starCounts.cbegin() + std::clamp(least, 0, 5), m_starCounts.cend(), 0);
 }
 
@@ -277,13 +355,23 @@ qsizetype RecordIndex::rowOf(int position, const QList<int>& rows, RecordSortOrd
 QList<int> RecordIndex::rows(const PhotoFilter& filter, RecordSortOrder order)
 {
     const std::vector<int>& all = sortedBy(order);
-    if (filter.isEmpty())
+    if (filter.isEmpty() && !m_isPairing)
         return QList<int>(all.cbegin(), all.cend());
     QList<int> found;
+    found.reserve(filter.isEmpty() ? qsizetype(all.size()) : 0);
     for (const int position : all)
-        if (isListed(position, filter) && entry(position).lowerName.contains(filter.needle))
+        if (isListed(position, filter) && holdsName(position, filter.needle))
             found.append(position);
     return found;
+}
+
+// Of a pair, either name does.
+bool RecordIndex::holdsName(int position, const QString& needle) const
+{
+    if (entry(position).lowerName.contains(needle))
+        return true;
+    const int picture = hiddenBehind(position);
+    return picture >= 0 && entry(picture).lowerName.contains(needle);
 }
 
 QList<FolderGroup> RecordIndex::groups(const QList<int>& rows) const

@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/Background.h"
 #include "app/model/library/cache/RecordCache.h"
+#include "app/model/pairs/Pairing.h"
 #include "core/text/Text.h"
 
 #include <QFileInfo>
@@ -33,13 +34,15 @@ NewNames namesOf(const RenameHistory::Outcome& outcome)
     return NewNames(names);
 }
 
-std::shared_ptr<const RenameSet> setOf(const QList<ImageRecord>& photos)
+// Where a shot is one photo, all of its files go along.
+std::shared_ptr<const RenameSet> setOf(const QList<ImageRecord>& photos, bool isPairing)
 {
     QHash<QString, FolderListing> folders;
     for (const ImageRecord& photo : photos)
         if (const QString folder = QFileInfo(photo.url.toLocalFile()).path(); !folders.contains(folder))
             folders.insert(folder, FolderListing::of(folder));
-    return std::make_shared<const RenameSet>(photos, folders);
+    using Kind = CompanionNames::Kind;
+    return std::make_shared<const RenameSet>(photos, folders, isPairing ? Kind::all : Kind::ofMetadata);
 }
 
 // "3 photos keep their names", where some do not.
@@ -191,7 +194,7 @@ void PhotosRenaming::prepare()
         m_parts.library.require(m_unread.values());
     emit planChanged();
     runInBackground(
-        this, [photos] { return setOf(photos); },
+        this, [photos, isPairing = m_model.pairing().isOn()] { return setOf(photos, isPairing); },
         [this, generation = ++m_generation](const std::shared_ptr<const RenameSet>& set) {
             if (m_isOpen && generation == m_generation)
                 takeSet(set);
@@ -282,13 +285,33 @@ void PhotosRenaming::rename()
         emit planChanged();
         return;
     }
+    run(m_plan);
+}
+
+void PhotosRenaming::renameShot(const QList<ImageRecord>& files, const QString& base)
+{
+    requireMainThread("PhotosRenaming::renameShot");
+    if (isRunning() || m_model.isSaving() || files.isEmpty())
+        return;
+    // It is a text, whatever tokens it looks like.
+    const RenameOrder order{ .pattern = TokenText{ .pieces = { { base } } }.pattern(), .strict = false };
+    const auto plan = std::make_shared<const RenamePlan>(setOf(files, true)->plan(order));
+    for (const RenameRow& row : plan->rows)
+        if (row.obstacle != RenameRow::Obstacle::none)
+            return m_model.setErrorMessage(u"Could not rename: %1: %2."_s.arg(row.oldName, row.words()));
+    if (plan->renamed > 0)
+        run(plan);
+}
+
+void PhotosRenaming::run(const std::shared_ptr<const RenamePlan>& plan)
+{
     qsizetype photos = 0;
-    for (const FolderRenaming& folder : m_plan->folders)
+    for (const FolderRenaming& folder : plan->folders)
         photos += std::count_if(
             folder.files.cbegin(), folder.files.cend(), [](const FileRenaming& file) { return file.isPhoto; });
     run(
         photos,
-        [plan = m_plan](RenameHistory& history, const RenameHistory::GoesOn& goesOn) {
+        [plan](RenameHistory& history, const RenameHistory::GoesOn& goesOn) {
             return history.rename(plan->folders, goesOn);
         },
         [photos](const RenameHistory::Outcome& outcome) {

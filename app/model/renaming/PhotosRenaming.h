@@ -74,6 +74,9 @@ public:
     /// Once the names of the pattern are worked out and no save runs; not at all after a save that failed, or with
     /// another pattern by then. Closes the sheet at its end, unless it is given up.
     void rename();
+    /// Gives the files of one shot this base name, or one with a number behind it that is free for all of them, with
+    /// all that goes along: all or nothing, and it can be taken back. Nothing may be being saved.
+    void renameShot(const QList<ImageRecord>& files, const QString& base);
     /// Whether it begins as soon as a save has ended.
     bool isWaiting() const;
     bool isRunning() const { return m_stop.has_value(); }
@@ -109,6 +112,7 @@ private:
     void requireUnread(const QList<QUrl>& along);
     void workOut();
     void takePlan(const std::shared_ptr<const RenamePlan>& plan, const RenameOrder& order);
+    void run(const std::shared_ptr<const RenamePlan>& plan);
     using Job = std::function<RenameHistory::Outcome(RenameHistory&, const RenameHistory::GoesOn&)>;
     void run(qsizetype photos, const Job& job, const std::function<QString(const RenameHistory::Outcome&)>& textOf);
     struct Result {

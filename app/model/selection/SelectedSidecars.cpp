@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/Background.h"
+#include "app/model/pairs/Pairing.h"
 
 namespace Quorbel {
 
@@ -37,8 +38,12 @@ QString SelectedSidecars::text() const
     const QString whose = isAll ? u"Edits"_s
         : m_told.photos == 1    ? u"Edits of 1 photo"_s
                                 : u"Edits of %1 photos"_s.arg(m_told.photos);
-    if (m_told.sidecars == 1)
-        return whose + u" go to "_s + m_told.path.sliced(m_told.path.lastIndexOf(u'/') + 1);
+    if (m_told.sidecars == 1) {
+        // The picture of a shot that is one photo gets them, too.
+        const auto picture = m_model.isBatch() ? std::nullopt : m_model.pairing().pictureOf(m_photos.constFirst());
+        return whose + u" go to "_s + m_told.path.sliced(m_told.path.lastIndexOf(u'/') + 1)
+            + (picture ? u" and "_s + picture->fileName() : QString());
+    }
     return whose + (isAll ? u" go to %1 sidecars"_s.arg(m_told.sidecars) : u" go to sidecars"_s);
 }
 

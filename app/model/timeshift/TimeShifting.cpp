@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/Background.h"
+#include "app/model/pairs/Pairing.h"
 #include "core/save/TagHomes.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/StoredTime.h"
@@ -365,8 +366,13 @@ void TimeShifting::shift()
     if (!canShift())
         return;
     const Preferences& preferences = m_model.preferences();
-    const ShiftJob::Order order{ m_preview.targets, m_preview.shifts,
-        { preferences.backupOriginals(), preferences.writeSidecar(), {} } };
+    const Pairing& pairing = m_model.pairing();
+    const QList<QUrl> files = pairing.filesOf(m_preview.targets);
+    ShiftJob::Order order{ files, m_preview.shifts,
+        { preferences.backupOriginals(), preferences.writeSidecar(), {}, pairing.picturesAmong(files) } };
+    for (const QUrl& file : files)
+        if (const QUrl photo = pairing.photoOf(file); photo != file)
+            order.shifts.insert(file, TimeShift(order.shifts.value(photo)));
     close();
     look(order);
 }

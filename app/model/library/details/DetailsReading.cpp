@@ -67,7 +67,10 @@ void DetailsReading::setAsking(DetailsReader::Ask ask, std::chrono::milliseconds
 
 DetailsReading::Census DetailsReading::census() const
 {
-    return { m_store.disagreeing(), m_photos.records().size() - m_store.known(), m_isLooking,
+    // Where files of one shot are one photo, those that can be listed.
+    const qsizetype disagreeing =
+        m_photos.isPairing() ? m_photos.index().count(PhotoTrait::disagreement) : m_store.disagreeing();
+    return { disagreeing, m_photos.records().size() - m_store.known(), m_isLooking,
         m_photos.wanted().testFlag(PhotoTrait::disagreement) };
 }
 

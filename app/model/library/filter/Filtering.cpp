@@ -1,6 +1,7 @@
 #include "app/model/library/filter/Filtering.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/pairs/Pairing.h"
 
 #include <algorithm>
 
@@ -190,6 +191,7 @@ void Filtering::settle()
     if (m_goal && m_goal->photo != m_model.primary())
         m_goal.reset();
     markEdited();
+    m_model.pairing().follow();
     follow(false);
     tell();
 }
@@ -204,7 +206,7 @@ void Filtering::markEdited()
     QList<int> edited = hasUnsaved ? positionsOfUnsaved() : QList<int>();
     for (const LeftEdits& left : m_model.leftEdits())
         for (const QUrl& photo : left.edits.subjects)
-            if (const int at = photos.position(photo); at >= 0)
+            if (const int at = photos.position(m_model.pairing().photoOf(photo)); at >= 0)
                 edited.append(at);
     if (!edited.isEmpty() || photos.index().count(PhotoTrait::edited) > 0)
         photos.setOnly(PhotoTrait::edited, edited);

@@ -76,6 +76,9 @@ public:
     };
     void setCourse(std::optional<Course> course);
 
+    /// What follows from changes is decided a turn later; this does it now.
+    void settle();
+
     /// Set by the view layer: id of the field that has the keyboard, "" when none has.
     std::function<QString()> focusedField{};
 
@@ -102,7 +105,6 @@ private:
 
     void connectModel();
     void forget();
-    void settle();
     void follow(bool isAsked);
     bool mustLeave(bool isAsked) const;
     void leave();

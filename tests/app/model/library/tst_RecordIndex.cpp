@@ -154,6 +154,101 @@ private slots:
         }
     }
 
+    void pairs_data()
+    {
+        QTest::addColumn<QString>("photos");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("raw and JPEG, in any case")
+            << u"a/1.CR3 a/1.jpg a/2.nef a/2.JPEG"_s << u"1.CR3+1.jpg 2.nef+2.JPEG"_s;
+        QTest::newRow("HEIC") << u"a/1.HIF a/1.cr3 a/2.heic a/2.DNG"_s << u"1.cr3+1.HIF 2.DNG+2.heic"_s;
+        QTest::newRow("another folder") << u"a/1.CR3 b/1.jpg"_s << u"1.CR3 1.jpg"_s;
+        QTest::newRow("another name") << u"a/I.CR3 a/i.jpg a/I.x.jpg a/I.CR3.jpg a/.jpg a/.cr3"_s
+                                      << u".cr3 .jpg I.CR3 I.CR3.jpg I.x.jpg i.jpg"_s;
+        QTest::newRow("no raw file") << u"a/1.jpg a/1.heic a/1.tif"_s << u"1.heic 1.jpg 1.tif"_s;
+        QTest::newRow("no picture") << u"a/1.CR3 a/1.DNG a/1.tif"_s << u"1.CR3 1.DNG 1.tif"_s;
+        QTest::newRow("several raw files") << u"a/1.dng a/1.CR3 a/1.jpg"_s << u"1.CR3+1.jpg 1.dng"_s;
+        QTest::newRow("several pictures") << u"a/1.heic a/1.jpg a/1.CR3"_s << u"1.CR3+1.jpg 1.heic"_s;
+        QTest::newRow("two shots") << u"a/1.heic a/1.jpg a/1.CR3 a/1.dng"_s << u"1.CR3+1.jpg 1.dng 1.heic"_s;
+    }
+    // Whatever comes first, comes again under another name, or goes.
+    void pairs()
+    {
+        QFETCH(QString, photos);
+        QFETCH(QString, shown);
+        const auto order = RecordSortOrder::nameAsc;
+        const auto listed = [&](RecordIndex& index, const QList<ImageRecord>& records) {
+            QStringList rows;
+            for (const int row : index.rows({}, order)) {
+                const int picture = index.hiddenBehind(row);
+                if (picture >= 0 && index.standingFor(picture) != row)
+                    rows.append(u"?"_s);
+                rows.append(records.at(row).fileName + (picture < 0 ? QString() : u'+' + records.at(picture).fileName));
+            }
+            rows.sort();
+            return rows.join(u' ');
+        };
+        QList<ImageRecord> records;
+        for (const QString& path : photos.split(u' ')) {
+            records.append(record(path.sliced(2)));
+            records.last().url = QUrl::fromLocalFile(u"/t/"_s + path);
+            records.last().isUnread = true;
+        }
+        RecordIndex whole;
+        whole.setPairing(true);
+        whole.reset(records, order);
+        QCOMPARE(listed(whole, records), shown);
+        const qsizetype rows = shown.count(u' ') + 1;
+        QCOMPARE(whole.count(PhotoTrait::unread), rows);
+        whole.setPairing(false);
+        QCOMPARE(whole.rows({}, order).size(), records.size());
+        QCOMPARE(whole.count(PhotoTrait::unread), records.size());
+
+        std::reverse(records.begin(), records.end());
+        RecordIndex grown;
+        grown.reset({}, order);
+        grown.setPairing(true);
+        QList<ImageRecord> some;
+        for (const ImageRecord& photo : std::as_const(records)) {
+            some.append(photo);
+            some.last().url = QUrl::fromLocalFile(u"/t/a/new.jpg"_s);
+            grown.append(some);
+            some.last() = photo;
+            grown.rename({ int(some.size()) - 1 }, some);
+        }
+        QCOMPARE(listed(grown, some), shown);
+        while (!some.isEmpty()) {
+            some.removeFirst();
+            grown.remove({ 0 });
+            RecordIndex fresh;
+            fresh.setPairing(true);
+            fresh.reset(some, order);
+            QCOMPARE(listed(grown, some), listed(fresh, some));
+            QCOMPARE(grown.count(PhotoTrait::unread), fresh.count(PhotoTrait::unread));
+        }
+    }
+
+    // Found by either name; a picture that is edited for itself stands for itself.
+    void pairsInSearch()
+    {
+        QList<ImageRecord> records{ record(u"1.CR3"_s), record(u"1.jpg"_s) };
+        for (ImageRecord& photo : records)
+            photo.url = QUrl::fromLocalFile(u"/t/"_s + photo.fileName);
+        RecordIndex index;
+        index.setPairing(true);
+        index.reset(records, RecordSortOrder::nameAsc);
+        for (const QString& needle : { u"cr3"_s, u"jpg"_s, u"1"_s })
+            QCOMPARE(index.rows({ .needle = needle }, RecordSortOrder::nameAsc), QList<int>{ 0 });
+        QCOMPARE(index.rows({ .needle = u"2"_s }, RecordSortOrder::nameAsc), QList<int>());
+        QVERIFY(index.setTrait(1, PhotoTrait::held, true));
+        QCOMPARE(index.rows({}, RecordSortOrder::nameAsc), (QList<int>{ 0, 1 }));
+        QCOMPARE(index.rows({ .needle = u"jpg"_s }, RecordSortOrder::nameAsc), QList<int>{ 1 });
+        QCOMPARE(index.hiddenBehind(0), -1);
+        QCOMPARE(index.count(PhotoTrait::noTitle), 2);
+        QVERIFY(index.setTrait(1, PhotoTrait::held, false));
+        QCOMPARE(index.hiddenBehind(0), 1);
+        QCOMPARE(index.count(PhotoTrait::noTitle), 1);
+    }
+
     // Kept up through whatever happens, it counts and lists as one that is made anew; what records say nothing about
     // stays with the photo.
     void keepsTraits()
