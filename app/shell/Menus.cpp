@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
+#include "app/model/pairs/Pairing.h"
 #include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
@@ -178,11 +179,26 @@ void Menus::addViewMenu()
     connect(names, &QAction::toggled, &m_model, [this](bool on) { m_model.preferences().showNamespace.set(on); });
     connect(&m_model.preferences(), &Preferences::changed, names,
         [this, names] { names->setChecked(m_model.preferences().showNamespace()); });
+    addPairing(menu);
     new FieldSetMenu(m_model, menu);
     menu->addSeparator();
     addGaps(menu);
     menu->addSeparator();
     m_readAgain = menu->addCommand(u"Read &Again"_s, { Qt::SHIFT | Qt::Key_F5 }, [this] { m_model.readAgain(); });
+}
+
+// The tick follows once what is unsaved was saved or left, or not at all.
+void Menus::addPairing(ThemedMenu* menu)
+{
+    QAction* pairs = menu->addAction(u"Pair Raw and &JPEG"_s);
+    pairs->setCheckable(true);
+    const auto tick = [this, pairs] { pairs->setChecked(m_model.pairing().isOn()); };
+    connect(pairs, &QAction::triggered, &m_model, [this, tick](bool on) {
+        m_model.pairing().setOn(on);
+        tick();
+    });
+    connect(&m_model.preferences(), &Preferences::changed, pairs, tick);
+    tick();
 }
 
 void Menus::addGaps(ThemedMenu* menu)

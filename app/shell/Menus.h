@@ -35,6 +35,7 @@ private:
     void addEditMenu();
     void addFieldCommands(ThemedMenu* menu);
     void addViewMenu();
+    void addPairing(ThemedMenu* menu);
     void addGaps(ThemedMenu* menu);
     void addHelpMenu(const MenuCommands& commands);
     ThemedMenu* addMenu(const QString& title);

@@ -1,6 +1,7 @@
 #include "ui/closeup/CloseupView.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/pairs/Pairing.h"
 #include "app/model/selection/ShownPhotos.h"
 #include "app/model/thumbnails/ThumbnailStore.h"
 #include "core/schema/FieldID.h"
@@ -86,7 +87,7 @@ void CloseupView::follow()
 {
     if (!m_model.primaryRecord())
         return emit closed();
-    m_photo = m_model.primary();
+    m_photo = m_model.pairing().seenFile(*m_model.primary());
     look();
     refresh();
 }
@@ -99,8 +100,8 @@ void CloseupView::look()
     for (const int places : { m_towards, -m_towards })
         if (const auto photo =
                 ShownPhotos::from(m_model.records(), m_model.visibleRows(), m_model.folderGroups(), row, places);
-            photo && photo != m_photo)
-            ahead.append(*photo);
+            photo && photo != m_model.primary())
+            ahead.append(m_model.pairing().seenFile(*photo));
     if (m_thumbs) {
         for (auto photo = ahead.crbegin(); photo != ahead.crend(); ++photo)
             m_thumbs->request(*photo, ThumbnailStore::Kind::preview);

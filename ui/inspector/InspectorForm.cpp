@@ -1,6 +1,7 @@
 #include "ui/inspector/InspectorForm.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/pairs/Pairing.h"
 #include "app/model/selection/SelectedSidecars.h"
 #include "app/model/words/CodeReplacements.h"
 #include "core/iptc/IptcSchema.h"
@@ -117,6 +118,7 @@ InspectorForm::InspectorForm(
     connect(m_banner->agree(), &QAbstractButton::clicked, &m_model, &AppModel::requestMakeAgree);
     connect(&m_model.selectedSidecars(), &SelectedSidecars::changed, this, &InspectorForm::showHeader);
     connect(m_map, &LocationMap::found, &m_model, &AppModel::fillPlaceNames);
+    connect(&m_model, &AppModel::visibleRowsChanged, this, &InspectorForm::showHeader);
     connect(m_languages, &FormLanguages::changed, this, &InspectorForm::showAgain);
     connect(m_iptc, &IptcSections::changed, this, &InspectorForm::showAgain);
     connect(m_wait, &DetailsWait::late, this, &InspectorForm::showAgain);
@@ -257,8 +259,10 @@ void InspectorForm::showHeader()
     // While photos are read, how far that is comes first.
     m_banner->setDisagreements(
         reading.isEmpty() ? InspectorStates::disagreementsText(m_model) : QString(), m_model.canMakeAgree());
+    const Pairing& pairing = m_model.pairing();
     if (const ImageRecord* record = m_model.primaryRecord())
-        m_header->setRecord(*record);
+        m_header->setRecord(
+            *record, { pairing.seenFile(record->url), pairing.detailLine(*record), pairing.names(*record) });
 }
 
 void InspectorForm::showSections(bool fresh)

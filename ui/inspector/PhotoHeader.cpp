@@ -107,13 +107,14 @@ void PhotoHeader::elideSidecar()
         m_sidecar->setText(shown);
 }
 
-void PhotoHeader::setRecord(const ImageRecord& record)
+void PhotoHeader::setRecord(const ImageRecord& record, const Shot& shot)
 {
-    m_thumbnail->setUrl(record.url);
+    m_thumbnail->setUrl(shot.picture);
     if (m_name->text() != record.fileName)
         m_name->setText(record.fileName);
-    if (const QString details = record.detailLine(); m_details->text() != details)
-        m_details->setText(details);
+    if (m_details->text() != shot.details)
+        m_details->setText(shot.details);
+    m_name->setToolTip(shot.names == record.fileName ? QString() : shot.names);
 }
 
 }  // namespace Quorbel

@@ -2,6 +2,7 @@
 // Thread: the main thread.
 #pragma once
 
+#include <QUrl>
 #include <QWidget>
 
 namespace Quorbel {
@@ -21,7 +22,13 @@ public:
 
     /// The store may be null; it is not owned and must outlive this.
     explicit PhotoHeader(ThumbnailStore* thumbs, QWidget* parent = nullptr);
-    void setRecord(const ImageRecord& record);
+    /// What is shown of the photo where that is not what its record says: a shot of two files.
+    struct Shot {
+        QUrl picture{};  ///< the file whose thumbnail is shown
+        QString details{};
+        QString names{};  ///< of all files, for the tool tip
+    };
+    void setRecord(const ImageRecord& record, const Shot& shot);
     /// The text, and the whole path; "": nothing of that.
     void setSidecar(const QString& text, const QString& path);
     /// At the right end, where that leaves room for the texts; it becomes a child of this.

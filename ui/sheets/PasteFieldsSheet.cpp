@@ -1,6 +1,7 @@
 #include "ui/sheets/PasteFieldsSheet.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/pairs/Pairing.h"
 #include "app/model/words/FieldPasting.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
@@ -115,7 +116,7 @@ QHBoxLayout* PasteFieldsSheet::buildHeader(ThumbnailStore* thumbs)
     const QUrl photo = fields.photo.isEmpty() ? QUrl() : QUrl::fromLocalFile(fields.photo);
     auto* line = new QHBoxLayout;
     auto* picture = new ThumbnailView(thumbs, thumbnail, 7);
-    picture->setUrl(photo);
+    picture->setUrl(m_model.pairing().seenFile(photo));
     auto* texts = new QVBoxLayout;
     auto* name = new ThemedLabel(
         photo.isEmpty() ? u"Copied fields"_s : u"From "_s + photo.fileName(), TextRole::text, 13, QFont::Medium);

@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/iptc/CredentialsNotice.h"
 #include "app/model/iptc/FieldNotes.h"
+#include "app/model/pairs/Pairing.h"
 #include "core/iptc/ShownText.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldCheck.h"
@@ -68,7 +69,7 @@ QString titleText(const AppModel& model, const AskedAgreement& question)
         return question ? u"Make %1 agree?"_s.arg(photosText(question->photos))
                         : u"Apply changes to %1 photos?"_s.arg(model.selection().size());
     const ImageRecord* record = model.primaryRecord();
-    return (question ? u"Make “"_s : u"Save changes to “"_s) + (record ? record->fileName : QString())
+    return (question ? u"Make “"_s : u"Save changes to “"_s) + (record ? model.pairing().names(*record) : QString())
         + (question ? u"” agree?"_s : u"”?"_s);
 }
 

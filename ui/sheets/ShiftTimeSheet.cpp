@@ -1,6 +1,7 @@
 #include "ui/sheets/ShiftTimeSheet.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/pairs/Pairing.h"
 #include "app/model/timeshift/TimeShifting.h"
 #include "core/text/WallClock.h"
 #include "ui/controls/Buttons.h"
@@ -87,6 +88,7 @@ QString photosText(qsizetype count)
 
 ShiftTimeSheet::ShiftTimeSheet(AppModel& model, ThumbnailStore* thumbs, QWidget* parent)
     : SheetBody(parent)
+    , m_pairing(model.pairing())
     , m_shifting(model.timeShifting())
     , m_photos(int(m_shifting.photos().size()))
     , m_way(new SegmentedPicker({ u"By an amount"_s, u"By a known photo"_s, u"Time zone"_s }))
@@ -319,7 +321,7 @@ void ShiftTimeSheet::refreshForms()
     const QString problem = m_shifting.problem();
     m_help->setRole(problem.isEmpty() ? TextRole::label : TextRole::amberText);
     m_help->setText(problem.isEmpty() ? u"Date digitized and the other dates of a photo move along."_s : problem);
-    m_thumbnail->setUrl(m_shifting.knownPhoto());
+    m_thumbnail->setUrl(m_pairing.seenFile(m_shifting.knownPhoto()));
     m_knownName->setText(m_shifting.knownPhoto().fileName());
     const QString clock = m_shifting.knownClock();
     m_knownClock->setText(clock.isEmpty() ? u"No date"_s : clock);

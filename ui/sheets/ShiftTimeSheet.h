@@ -11,6 +11,7 @@ class QStackedWidget;
 namespace Quorbel {
 
 class AppModel;
+class Pairing;
 class PickerButton;
 class QBButton;
 class QBCheckbox;
@@ -49,6 +50,7 @@ private:
     void refreshForms();
     void refreshNotes();
 
+    const Pairing& m_pairing;
     TimeShifting& m_shifting;
     int m_photos;
     SegmentedPicker* m_way;

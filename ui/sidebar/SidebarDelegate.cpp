@@ -89,8 +89,9 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
 
     const qreal size = pxF(thumbnailSize);
     const QRectF square(row.left() + px(thumbnailLeft), row.top() + (row.height() - size) / 2, size, size);
-    const auto entry = m_thumbs ? m_thumbs->entry(photo->url, ThumbnailStore::Kind::small) : ThumbnailStore::Entry{};
-    ThumbnailView::paint(*painter, square, pxF(thumbnailCorner), entry, photo->url, theme);
+    const QUrl file = m_rows.seenFile(*photo);
+    const auto entry = m_thumbs ? m_thumbs->entry(file, ThumbnailStore::Kind::small) : ThumbnailStore::Entry{};
+    ThumbnailView::paint(*painter, square, pxF(thumbnailCorner), entry, file, theme);
 
     const bool selected = option.state & QStyle::State_Selected;
     QRectF line(square.right() + px(textGap), row.top() + px(nameTop), 0, px(nameHeight));
@@ -104,7 +105,7 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     painter->setFont(sansFont(11));
     painter->setPen(selected ? theme.selSub : theme.muted);
     painter->drawText(line, Qt::AlignVCenter | Qt::TextSingleLine,
-        painter->fontMetrics().elidedText(photo->sidebarLine(), Qt::ElideRight, static_cast<int>(line.width())));
+        painter->fontMetrics().elidedText(m_rows.line(*photo), Qt::ElideRight, static_cast<int>(line.width())));
     painter->restore();
 }
 

@@ -468,7 +468,7 @@ void SidebarList::requestThumbnails()
     const int screenful = last - first + 1;
     for (int row = first - screenful; row <= last + screenful; ++row)
         if (const ImageRecord* photo = m_rows.record(row))
-            (row >= first && row <= last ? urls : near).append(photo->url);
+            (row >= first && row <= last ? urls : near).append(m_rows.seenFile(*photo));
     m_thumbs->setVisible(urls, near);
     // The newest request is served first: ask from the bottom, so that the list fills from the top.
     std::for_each(
@@ -479,7 +479,7 @@ void SidebarList::repaintThumbnail(const QUrl& url)
 {
     const auto [first, last] = rowsOnScreen();
     for (int row = first; row <= last; ++row)
-        if (const ImageRecord* photo = m_rows.record(row); photo && photo->url == url) {
+        if (const ImageRecord* photo = m_rows.record(row); photo && m_rows.seenFile(*photo) == url) {
             update(m_rows.index(row));
             if (m_thumbs->entry(url, ThumbnailStore::Kind::small).state == ThumbnailStore::State::none)
                 m_thumbnailsSoon.start(0);  // forgotten: asked for again

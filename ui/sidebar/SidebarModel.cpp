@@ -1,6 +1,7 @@
 #include "ui/sidebar/SidebarModel.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/pairs/Pairing.h"
 #include "ui/sidebar/FolderHeading.h"
 
 namespace Quorbel {
@@ -34,14 +35,30 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return photo->fileName;
     case Qt::AccessibleTextRole:
-        return photo->fileName;
+        return m_model.pairing().names(*photo);
     case Qt::AccessibleDescriptionRole:
-        return photo->sidebarLine();
+        return line(*photo);
     case Qt::ToolTipRole:
-        return u"Double-click to open in your default image app"_s;
+        return toolTip(*photo);
     default:
         return {};
     }
+}
+
+QString SidebarModel::toolTip(const ImageRecord& photo) const
+{
+    const QString hint = u"Double-click to open in your default image app"_s;
+    return m_model.pairing().pictureOf(photo.url) ? m_model.pairing().names(photo) + u'\n' + hint : hint;
+}
+
+QUrl SidebarModel::seenFile(const ImageRecord& photo) const
+{
+    return m_model.pairing().seenFile(photo.url);
+}
+
+QString SidebarModel::line(const ImageRecord& photo) const
+{
+    return m_model.pairing().sidebarLine(photo);
 }
 
 // A range that is selected runs past the headings in it, which are not selected with it.

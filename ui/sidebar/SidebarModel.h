@@ -27,6 +27,9 @@ public:
     const GroupedRows& rows() const { return m_rows; }
     /// The photo of a row; null for a heading and beyond the end. Valid until AppModel's records change.
     const ImageRecord* record(int row) const;
+    /// Of the photo of a row: the file whose picture is shown, and the line under its name.
+    QUrl seenFile(const ImageRecord& photo) const;
+    QString line(const ImageRecord& photo) const;
     /// The group that a row is the heading of; null for any other. Valid until the groups change.
     const FolderGroup* heading(int row) const;
     /// The row of a photo; -1 when it is not shown. Quick for lists of any length.
@@ -37,6 +40,7 @@ public:
     int rowOrHeading(const QUrl& url) const;
 
 private:
+    QString toolTip(const ImageRecord& photo) const;
     void sync();
     int groupThatFolded(const QList<FolderGroup>& groups) const;
     void fold(int group, GroupedRows rows);

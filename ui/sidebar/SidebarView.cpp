@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
+#include "app/model/pairs/Pairing.h"
 #include "ui/controls/BriefNote.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
@@ -71,7 +72,7 @@ protected:
 private:
     void refresh()
     {
-        const QString all = QString::number(m_model.records().size());
+        const QString all = QString::number(m_model.pairing().photos());
         const bool isFiltered = m_model.filtering().isOn();
         const QString of = isFiltered ? u"%1 of %2"_s.arg(m_model.visibleRows().size()).arg(all) : all;
         setText(u"%1 / %2"_s.arg(QString::number(m_model.selection().size()), of));

@@ -33,7 +33,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Points.
-constexpr ListSheet::Widths widths{ .sheet = 880, .side = 196, .narrowSide = 170, .narrowBelow = 724 };
+constexpr qreal templatesWidth = 880;
+constexpr qreal sideWidth = 196;
+constexpr qreal narrowSideWidth = 170;
+constexpr qreal narrowBelow = 724;
 constexpr qreal rowGap = 7;
 constexpr qreal digitWidth = 112;
 constexpr qreal fieldMenuWidth = 320;
@@ -120,7 +123,7 @@ void clearColumn(QLayout* column)
 }  // namespace
 
 TemplatesSheet::TemplatesSheet(AppModel& model, QWidget* parent)
-    : ListSheet(widths, parent)
+    : SheetBody(parent)
     , m_model(model)
     , m_templates(model.templates())
     , m_problems(new WrappedLine(TextRole::amberText, 11, 15))
@@ -134,19 +137,29 @@ TemplatesSheet::TemplatesSheet(AppModel& model, QWidget* parent)
     , m_status(new WrappedLine(TextRole::label, 11, 15))
     , m_fill(new QBButton(u"Fill"_s, QBButtonKind::primary))
 {
-    m_problems->setVerbatim(true);
-    QWidget* form = buildForm();
-    setParts(new TemplateList(m_templates), { m_problems }, makeButtons(), form);
+    auto* columns = new QHBoxLayout(this);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->setSpacing(0);
+    columns->addWidget(buildSide());
+    columns->addWidget(buildForm(), 1);
+    onRestyle(this, [this] {
+        setWantedWidth(px(templatesWidth));
+        fit();
+    });
     connectModel();
     showTemplate();
 }
 
-// Under the list.
-QList<QBIconButton*> TemplatesSheet::makeButtons()
+QWidget* TemplatesSheet::buildSide()
 {
+    m_side = new QWidget;
+    QWidget* side = m_side;
+    auto* column = new QVBoxLayout(side);
     auto* add = new QBIconButton(u"plus"_s, u"New template"_s);
     auto* more = new QBIconButton(u"ellipsis"_s, u"More"_s);
-    auto* menu = new ThemedMenu(this);
+    auto* menu = new ThemedMenu(side);
+    add->setSizes({ 32, 28 }, 14);
+    more->setSizes({ 32, 28 }, 14);
     connect(add, &QAbstractButton::clicked, this, [this] {
         m_templates.addNew();
         m_name->setFocus(Qt::OtherFocusReason);
@@ -156,7 +169,20 @@ QList<QBIconButton*> TemplatesSheet::makeButtons()
         fillMenu(menu);
         menu->popUpUnder(more);
     });
-    return { add, more };
+    m_problems->setVerbatim(true);
+    column->addWidget(new TemplateList(m_templates), 1);
+    column->addWidget(m_problems);
+    auto* foot = new QHBoxLayout;
+    foot->addWidget(add);
+    foot->addWidget(more);
+    foot->addStretch();
+    column->addLayout(foot);
+    onRestyle(side, [column, foot] {
+        column->setContentsMargins(px(8), px(10), px(9), px(10));
+        column->setSpacing(px(6));
+        foot->setSpacing(px(2));
+    });
+    return side;
 }
 
 void TemplatesSheet::fillMenu(ThemedMenu* menu)
@@ -272,7 +298,7 @@ QWidget* TemplatesSheet::buildNameLine()
 void TemplatesSheet::placeName()
 {
     auto* grid = static_cast<QGridLayout*>(m_nameLine->layout());
-    const bool isStacked = isNarrow();
+    const bool isStacked = width() < px(narrowBelow);
     grid->addWidget(m_name, isStacked ? 1 : 0, isStacked ? 0 : 1, 1, isStacked ? 3 : 1);
 }
 
@@ -508,11 +534,23 @@ QWidget* TemplatesSheet::initialFocus()
     return value() ? m_name : nullptr;
 }
 
-// Where text is large, the name's line gives way, too.
+// Where text is large, the list and the name's line give way.
 void TemplatesSheet::fit()
 {
-    ListSheet::fit();
+    m_side->setFixedWidth(px(width() < px(narrowBelow) ? narrowSideWidth : sideWidth));
     placeName();
+}
+
+void TemplatesSheet::resizeEvent(QResizeEvent* event)
+{
+    SheetBody::resizeEvent(event);
+    fit();
+}
+
+void TemplatesSheet::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(QRectF(m_side->width() - 1, 0, 1, height()), Theme::of(this).line);
 }
 
 }  // namespace Quorbel

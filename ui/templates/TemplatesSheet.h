@@ -3,10 +3,11 @@
 #pragma once
 
 #include "core/templates/Template.h"
-#include "ui/sheets/ListSheet.h"
+#include "ui/sheets/Sheet.h"
 
 #include <QPointer>
 
+class QBoxLayout;
 class QVBoxLayout;
 
 namespace Quorbel {
@@ -22,7 +23,7 @@ class ThemedLabel;
 class ThemedMenu;
 class WrappedLine;
 
-class TemplatesSheet final : public ListSheet {
+class TemplatesSheet final : public SheetBody {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(TemplatesSheet)
 
@@ -37,13 +38,15 @@ public:
     QWidget* initialFocus() override;
 
 protected:
-    void fit() override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QList<QBIconButton*> makeButtons();
+    QWidget* buildSide();
     QWidget* buildForm();
     QWidget* buildNameLine();
     void placeName();
+    void fit();
     QWidget* buildPreviewHead();
     void connectModel();
 
@@ -64,6 +67,7 @@ private:
     AppModel& m_model;
     Templates& m_templates;
     QWidget* m_form = nullptr;
+    QWidget* m_side = nullptr;
     QWidget* m_nameLine = nullptr;
     WrappedLine* m_problems;
     WrappedLine* m_none;

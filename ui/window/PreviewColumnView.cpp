@@ -1,6 +1,7 @@
 #include "ui/window/PreviewColumnView.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/pairs/Pairing.h"
 #include "app/model/thumbnails/ThumbnailStore.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Shadow.h"
@@ -64,9 +65,10 @@ PreviewColumnView::PreviewColumnView(AppModel& model, ThumbnailStore* thumbs, QW
     connect(&model, &AppModel::selectionChanged, this, &PreviewColumnView::follow);
     connect(&model, &AppModel::primaryChanged, this, &PreviewColumnView::follow);
     connect(&model, &AppModel::recordsChanged, this, &PreviewColumnView::follow);
+    connect(&model, &AppModel::visibleRowsChanged, this, &PreviewColumnView::follow);
     if (thumbs)
         connect(thumbs, &ThumbnailStore::entryChanged, this, [this](const QUrl& url, ThumbnailStore::Kind kind) {
-            if (kind == ThumbnailStore::Kind::preview && m_urls.contains(url))
+            if (kind == ThumbnailStore::Kind::preview && m_urls.contains(m_model.pairing().photoOf(url)))
                 follow();
         });
     follow();
@@ -102,19 +104,25 @@ void PreviewColumnView::follow()
     const ImageRecord* photo = m_model.primaryRecord();
     const QString word = isStandIn() ? u", "_s + thumbnailOnly().toLower() : QString();
     setAccessibleName(m_model.isBatch() ? u"%1 photos selected"_s.arg(m_model.selection().size())
-            : photo                     ? u"Preview of %1"_s.arg(photo->fileName) + word
+            : photo                     ? u"Preview of %1"_s.arg(m_model.pairing().names(*photo)) + word
                                         : QString());
     // The newest request is served first: the front photo is asked for last.
     if (m_thumbs && isVisible())
         for (auto url = m_urls.crbegin(); url != m_urls.crend(); ++url)
-            m_thumbs->request(*url, ThumbnailStore::Kind::preview);
+            m_thumbs->request(m_model.pairing().seenFile(*url), ThumbnailStore::Kind::preview);
     update();
 }
 
 // Whether all that there is to show of the photo is its thumbnail.
 bool PreviewColumnView::isStandIn() const
 {
-    return m_thumbs && m_urls.size() == 1 && m_thumbs->entry(m_urls.first(), ThumbnailStore::Kind::preview).isStandIn;
+    return m_urls.size() == 1 && entryOf(m_urls.first()).isStandIn;
+}
+
+ThumbnailStore::Entry PreviewColumnView::entryOf(const QUrl& photo) const
+{
+    return m_thumbs ? m_thumbs->entry(m_model.pairing().seenFile(photo), ThumbnailStore::Kind::preview)
+                    : ThumbnailStore::Entry{};
 }
 
 QRect PreviewColumnView::stage() const
@@ -143,8 +151,7 @@ void PreviewColumnView::paintOne(QPainter& painter)
 {
     const QRectF space =
         QRectF(stage()).adjusted(px(stagePadding), px(stagePadding), -px(stagePadding), -px(stagePadding));
-    const auto entry =
-        m_thumbs ? m_thumbs->entry(m_urls.first(), ThumbnailStore::Kind::preview) : ThumbnailStore::Entry{};
+    const auto entry = entryOf(m_urls.first());
     if (entry.image.isNull()) {
         const ImageRecord* photo = m_model.primaryRecord();
         const bool badge = entry.state == ThumbnailStore::State::badge && photo;
@@ -200,7 +207,7 @@ void PreviewColumnView::paintCard(QPainter& painter, const QRectF& card, const Q
     const qreal edge = pxF(cardEdge);
     paintShadow(painter, card, pxF(cardRadius), Shadow::photo, theme);
     painter.fillPath(rounded(card.adjusted(-edge, -edge, edge, edge), pxF(cardRadius) + edge), theme.previewBg);
-    const auto entry = m_thumbs ? m_thumbs->entry(url, ThumbnailStore::Kind::preview) : ThumbnailStore::Entry{};
+    const auto entry = entryOf(url);
     if (entry.image.isNull()) {
         const ImageRecord* photo = m_model.record(url);
         const bool badge = entry.state == ThumbnailStore::State::badge && photo;
@@ -240,7 +247,8 @@ void PreviewColumnView::paintFoot(QPainter& painter)
     const QRect line = foot.adjusted(px(footPadding), 1, -px(footPadding), 0);
     const int gap = px(16);
     painter.setFont(sansFont(11));
-    const QString details = painter.fontMetrics().elidedText(photo->sidebarLine(), Qt::ElideRight, line.width() / 2);
+    const QString details =
+        painter.fontMetrics().elidedText(m_model.pairing().sidebarLine(*photo), Qt::ElideRight, line.width() / 2);
     const int detailsWidth = painter.fontMetrics().horizontalAdvance(details);
     painter.setPen(theme.derived.label);
     painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, details);

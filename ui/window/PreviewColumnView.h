@@ -2,6 +2,8 @@
 // Thread: the main thread. Shows AppModel; the images are the thumbnail store's.
 #pragma once
 
+#include "app/model/thumbnails/ThumbnailStore.h"
+
 #include <QPixmap>
 #include <QPointer>
 #include <QUrl>
@@ -10,7 +12,6 @@
 namespace Quorbel {
 
 class AppModel;
-class ThumbnailStore;
 
 class PreviewColumnView final : public QWidget {
     Q_OBJECT
@@ -35,6 +36,7 @@ private:
     void follow();
     QList<QUrl> shownUrls() const;
     QRect stage() const;
+    ThumbnailStore::Entry entryOf(const QUrl& photo) const;
     bool isStandIn() const;
     void paintOne(QPainter& painter);
     void paintCards(QPainter& painter);

@@ -47,6 +47,7 @@ private slots:
     void fieldsAreCopiedFromWithinAText();
     void recentItems();
     void editsAreBroughtBack();
+    void pairsFromTheMenu();
     void photosThatDisagreeAreListed();
     void signalsKeepEdits_data();
     void signalsKeepEdits();
@@ -246,6 +247,30 @@ void tst_Shell::editsAreBroughtBack()
     menu->actions().at(1)->trigger();
     QCOMPARE(fixture.model->draftValues().value(u"title"_s), u"First"_s);
     QCOMPARE(menu->actions().size(), 1);
+}
+
+// The tick says what is, also while the question about edits of a pair stands.
+void tst_Shell::pairsFromTheMenu()
+{
+    WindowFixture fixture;
+    new Menus(*fixture.model.model, *fixture.content, {});
+    fixture.model.folder.add(u"a.NEF"_s, tiffBytes());
+    fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
+    fixture.show();
+    auto* list = fixture.window->findChild<SidebarList*>();
+    QAction* pairs = action(fixture, u"Pair Raw and JPEG"_s);
+    QVERIFY(!pairs->isChecked());
+    pairs->trigger();
+    QVERIFY(pairs->isChecked());
+    QCOMPARE(list->model()->rowCount(), 2);
+    fixture.model.click(u"a.NEF"_s);
+    fixture.model->setSingle(u"title"_s, u"New"_s);
+    pairs->trigger();
+    QVERIFY(fixture.model->saveOpen() && pairs->isChecked());
+    QCOMPARE(list->model()->rowCount(), 2);
+    fixture.model->discardSaveDialog();
+    QVERIFY(!pairs->isChecked());
+    QCOMPARE(list->model()->rowCount(), 3);
 }
 
 // From the keys, the menu and the line under the search.

@@ -1,4 +1,5 @@
 // The main window: columns, bar, drops, banner, sheets, progress and appearance, as a person meets them.
+#include "app/model/pairs/Pairing.h"
 #include "app/model/thumbnails/ThumbnailStore.h"
 #include "tests/support/RefusedExif.h"
 #include "tests/ui/window/WindowFixture.h"
@@ -107,6 +108,7 @@ private slots:
     void appearanceIsFollowedLive();
     void previewShowsThePhotoOrTheStack();
     void previewSaysThatItIsAThumbnail();
+    void aRawFileAndItsPictureAreOneRow();
 };
 
 void tst_ContentView::launchViewUntilPhotosAreOpen()
@@ -763,6 +765,51 @@ void tst_ContentView::previewShowsThePhotoOrTheStack()
     fixture.model->selectAllPhotos();
     QCOMPARE(preview->accessibleName(), u"3 photos selected"_s);
     QTRY_COMPARE(colorAt(preview, middle), QColor(Qt::blue));  // the primary's card lies in front
+}
+
+// The picture is what one sees and opens, and both types are told, to the eye and to the ear.
+void tst_ContentView::aRawFileAndItsPictureAreOneRow()
+{
+    ThumbnailStoreOptions options;
+    options.decode = [](const QString& path, int, const std::stop_token&) {
+        DecodedImage decoded;
+        decoded.outcome = DecodedImage::Outcome::decoded;
+        decoded.image = QImage(300, 200, QImage::Format_RGB32);
+        decoded.image.fill(path.endsWith(QLatin1String("a.jpg")) ? Qt::red : Qt::blue);
+        return decoded;
+    };
+    options.embedded = [](const QString&, const std::stop_token&) { return QImage(); };
+    ThumbnailStore thumbs(options);
+    WindowFixture fixture(&thumbs);
+    QList<QUrl> opened;
+    fixture.window.reset();
+    fixture.model.services.openUrl = [&opened](const QUrl& url) { opened.append(url); };
+    fixture.model.relaunch();
+    fixture.build(&thumbs);
+    fixture.model.folder.add(u"a.NEF"_s, tiffBytes());
+    fixture.open({ u"a.jpg"_s, u"b.jpg"_s });
+    fixture.window->resize(1440, 900);
+    fixture.show();
+    fixture.model.click(u"a.NEF"_s);
+    auto* preview = fixture.window->findChild<PreviewColumnView*>();
+    const QPoint middle(preview->width() / 2, (preview->height() - 54) / 2);
+    QTRY_COMPARE(colorAt(preview, middle), QColor(Qt::blue));
+    auto* list = fixture.window->findChild<SidebarList*>();
+    QCOMPARE(list->model()->rowCount(), 3);
+
+    fixture.model->pairing().setOn(true);
+    QCOMPARE(list->model()->rowCount(), 2);
+    QTRY_COMPARE(colorAt(preview, middle), QColor(Qt::red));
+    QCOMPARE(preview->accessibleName(), u"Preview of a.NEF and a.jpg"_s);
+    const QModelIndex row = list->model()->index(0, 0);
+    const QPoint thumbnail = list->visualRect(row).topLeft() + QPoint(26, 26);
+    QTRY_COMPARE(colorAt(list->viewport(), thumbnail), QColor(Qt::red));
+    QCOMPARE(row.data(Qt::AccessibleTextRole).toString(), u"a.NEF and a.jpg"_s);
+    const QString line = row.data(Qt::AccessibleDescriptionRole).toString();
+    QVERIFY2(line.startsWith(u"NEF + JPEG · "_s), qPrintable(line));
+    QVERIFY(row.data(Qt::ToolTipRole).toString().startsWith(u"a.NEF and a.jpg\n"_s));
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(row).center());
+    QCOMPARE(opened, QList<QUrl>{ fixture.model.url(u"a.jpg"_s) });
 }
 
 // A photo of which nothing but its thumbnail can be shown is not passed off as sharp.

@@ -33,7 +33,6 @@ protected:
 private:
     void fill();
     void take(QTreeWidgetItem* item, int column);
-    void tellTicks(const QTreeWidgetItem& item);
 
     bool m_isFixed = false;
     bool m_isShowing = false;
