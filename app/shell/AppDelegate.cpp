@@ -28,6 +28,7 @@
 #include "ui/templates/TemplatesSheet.h"
 #include "ui/sheets/ShiftTimeSheet.h"
 #include "ui/sheets/renaming/RenamePhotosSheet.h"
+#include "ui/sheets/sidecars/MoveOverSheet.h"
 #include "ui/window/ContentView.h"
 #include "ui/window/HelpView.h"
 #include "ui/window/SettingsView.h"
@@ -184,6 +185,7 @@ void AppDelegate::buildWindow()
     factories.quickSet = [&model] { return new QuickSetSheet(model); };
     factories.fieldSets = [&model] { return new FieldSetsSheet(model); };
     factories.shiftTime = [this] { return new ShiftTimeSheet(m_app->model(), &m_app->thumbnails()); };
+    factories.moveOver = [&model] { return new MoveOverSheet(model.movingOver()); };
     factories.renamePhotos = [&model] { return new RenamePhotosSheet(model); };
     factories.setInspectorInset = [](QWidget* inspector, int pixels) {
         static_cast<InspectorView*>(inspector)->setBottomInset(pixels);

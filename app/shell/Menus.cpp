@@ -4,6 +4,7 @@
 #include "app/model/library/filter/Filtering.h"
 #include "app/model/pairs/Pairing.h"
 #include "app/model/renaming/PhotosRenaming.h"
+#include "app/model/sidecars/MovingOver.h"
 #include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
 #include "app/shell/FieldSetMenu.h"
@@ -90,6 +91,7 @@ void Menus::addFileMenu(const MenuCommands& commands)
     m_rename = menu->addCommand(u"Re&name…"_s, { Qt::Key_F2 }, [this] { m_model.setRenameOpen(true); });
     m_renamePhotos =
         menu->addCommand(u"Rename P&hotos…"_s, { Qt::SHIFT | Qt::Key_F2 }, [this] { m_model.renaming().open(); });
+    addMoves(menu);
     menu->addSeparator();
     m_refresh = menu->addCommand(
         u"Re&fresh"_s, keysFor(QKeySequence::Refresh, Qt::CTRL | Qt::Key_R), [this] { m_model.refresh(); });
@@ -100,6 +102,15 @@ void Menus::addFileMenu(const MenuCommands& commands)
         u"Se&ttings…"_s, keysFor(QKeySequence::Preferences, Qt::CTRL | Qt::Key_Comma), commands.openSettings);
     menu->addSeparator();
     menu->addCommand(u"&Quit"_s, keysFor(QKeySequence::Quit, Qt::CTRL | Qt::Key_Q), [this] { m_model.requestQuit(); });
+}
+
+void Menus::addMoves(ThemedMenu* menu)
+{
+    MovingOver& moving = m_model.movingOver();
+    m_intoPhotos =
+        menu->addCommand(u"Write Sidecars &Into Photos…"_s, {}, [&moving] { moving.request(MoveWay::intoPhotos); });
+    m_intoSidecars =
+        menu->addCommand(u"Write &Metadata Into Sidecars…"_s, {}, [&moving] { moving.request(MoveWay::intoSidecars); });
 }
 
 void Menus::fillRecents()
@@ -248,6 +259,8 @@ void Menus::followState()
     m_find->setEnabled(any);
     m_readAgain->setEnabled(any);
     m_shiftTime->setEnabled(m_model.timeShifting().isPossible());
+    m_intoPhotos->setEnabled(m_model.movingOver().isPossible());
+    m_intoSidecars->setEnabled(m_model.movingOver().isPossible());
     m_agree->setEnabled(m_model.canMakeAgree());
     m_copyFields->setEnabled(m_model.pasting().canCopy());
     m_pasteFields->setEnabled(m_model.pasting().canPaste());

@@ -34,6 +34,7 @@ private:
     void addFileMenu(const MenuCommands& commands);
     void addEditMenu();
     void addFieldCommands(ThemedMenu* menu);
+    void addMoves(ThemedMenu* menu);
     void addViewMenu();
     void addPairing(ThemedMenu* menu);
     void addGaps(ThemedMenu* menu);
@@ -58,6 +59,8 @@ private:
     QAction* m_close = nullptr;
     QAction* m_readAgain = nullptr;
     QAction* m_shiftTime = nullptr;
+    QAction* m_intoPhotos = nullptr;
+    QAction* m_intoSidecars = nullptr;
     QAction* m_agree = nullptr;
     QAction* m_disagreements = nullptr;
     QAction* m_preview = nullptr;

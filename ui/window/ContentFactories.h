@@ -22,6 +22,7 @@ struct ContentFactories {
     std::function<SheetBody*()> quickSet{};
     std::function<SheetBody*()> fieldSets{};
     std::function<SheetBody*()> shiftTime{};
+    std::function<SheetBody*()> moveOver{};
     std::function<SheetBody*()> renamePhotos{};
     /// Keeps this many pixels at the inspector's lower end free, so that its last rows scroll clear of the banner.
     std::function<void(QWidget* inspector, int pixels)> setInspectorInset{};

@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/fieldsets/FieldSets.h"
 #include "app/model/renaming/PhotosRenaming.h"
+#include "app/model/sidecars/MovingOver.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
@@ -31,6 +32,9 @@ ModelSheets::ModelSheets(AppModel& model, SheetHost* host, const ContentFactorie
     TimeShifting& shifting = model.timeShifting();
     add(
         shifting, &TimeShifting::openChanged, [&shifting] { return shifting.isOpen(); }, factories.shiftTime);
+    MovingOver& moving = model.movingOver();
+    add(
+        moving, &MovingOver::openChanged, [&moving] { return moving.isOpen(); }, factories.moveOver);
     PhotosRenaming& renaming = model.renaming();
     add(
         renaming, &PhotosRenaming::openChanged, [&renaming] { return renaming.isOpen(); }, factories.renamePhotos);

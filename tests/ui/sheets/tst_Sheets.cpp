@@ -2,6 +2,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/fieldsets/FieldSets.h"
 #include "app/model/renaming/PhotosRenaming.h"
+#include "app/model/sidecars/MovingOver.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
@@ -27,6 +28,8 @@
 #include "ui/sheets/renaming/NumberField.h"
 #include "ui/sheets/renaming/RenameList.h"
 #include "ui/sheets/renaming/RenamePhotosSheet.h"
+#include "ui/sheets/sidecars/MoveOverSheet.h"
+#include "ui/sheets/sidecars/MoveTable.h"
 #include "ui/templates/PreviewRow.h"
 #include "ui/templates/TemplateList.h"
 #include "ui/templates/TemplatesSheet.h"
@@ -174,6 +177,7 @@ private slots:
     void aTemplateIsMadeAndFilled();
     void templatesAsFiles();
     void shiftTimeInThreeWays();
+    void moveOverByKeyboard();
 };
 
 void tst_Sheets::init()
@@ -985,6 +989,44 @@ void tst_Sheets::shiftTimeInThreeWays()
     QVERIFY(!shifting.isOpen() && desk.model().isWorking());
     QVERIFY(desk.photos.waitUntilIdle());
     QCOMPARE(desk.photos.onDisk(u"a.jpg"_s, u"EXIF:OffsetTimeOriginal"_s).toString(), u"+02:00"_s);
+}
+
+// What sidecars would do to the photos is told in numbers and names; Return in the table writes it.
+void tst_Sheets::moveOverByKeyboard()
+{
+    SheetFixture desk({ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s });
+    for (const QString& name : { u"a"_s, u"b"_s })
+        exiftool({ u"-q"_s, u"-XMP-dc:Title=Beside"_s, u"-XMP-photoshop:City=Rome"_s,
+            desk.photos.folder.path(name + u".xmp"_s) });
+    QVERIFY(desk.open());
+    desk.photos.select(u"abc"_s);
+    MovingOver& moving = desk.model().movingOver();
+    moving.request(MoveWay::intoPhotos);
+    auto* sheet = new MoveOverSheet(moving);
+    desk.host->present(sheet);
+    connect(&moving, &MovingOver::openChanged, desk.host, [&] { desk.host->dismiss(sheet); });
+    QCOMPARE(sheet->title(), u"Write Sidecars Into Photos"_s);
+    QVERIFY(labels(sheet).contains(u"Looking into the files…"_s));
+    auto* write = sheet->findChildren<QBButton*>().last();
+    QVERIFY(!write->isEnabled());
+    QTRY_COMPARE(write->text(), u"Write Into 2 Photos"_s);
+    QVERIFY(write->isEnabled());
+    QVERIFY(labels(sheet).contains(u"1 photo has no sidecar: c.jpg"_s));
+    const auto lines = sheet->findChild<MoveTable*>()->widget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    QCOMPARE(lines.value(0)->accessibleName(), u"Title: 2 photos change it"_s);
+    QCOMPARE(lines.value(1)->accessibleName(), u"Place: 2 photos gain it"_s);
+    QVERIFY(qobject_cast<MoveTable*>(QApplication::focusWidget()));
+    press(Qt::Key_Return);
+    QVERIFY(!moving.isOpen() && desk.model().isWorking());
+    QVERIFY(desk.photos.waitUntilIdle());
+    QCOMPARE(desk.photos.onDisk(u"b.jpg"_s, u"XMP:City"_s).toString(), u"Rome"_s);
+    // Nothing is left to do: there is nothing to press.
+    moving.request(MoveWay::intoPhotos);
+    QTRY_COMPARE(moving.looked(), 3);
+    auto* again = new MoveOverSheet(moving);
+    desk.host->present(again);
+    QVERIFY(labels(again).contains(u"There is nothing to write."_s));
+    QVERIFY(!again->findChildren<QBButton*>().last()->isEnabled());
 }
 
 // By keyboard alone: a set of what is on screen, one more field in it, and what it wants.

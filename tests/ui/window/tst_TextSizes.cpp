@@ -1,6 +1,7 @@
 // The whole window at the sizes of text that a desktop offers: nothing is cut off, shortened or covered that is not at
 // the usual size. QT_SCALE_FACTOR is the caller's: the test is run once for each of several.
 #include "app/model/renaming/PhotosRenaming.h"
+#include "app/model/sidecars/MovingOver.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
@@ -21,6 +22,7 @@
 #include "ui/sheets/ShortcutsSheet.h"
 #include "ui/sheets/fieldsets/FieldSetsSheet.h"
 #include "ui/sheets/renaming/RenamePhotosSheet.h"
+#include "ui/sheets/sidecars/MoveOverSheet.h"
 #include "ui/sidebar/FilterTexts.h"
 #include "ui/templates/TemplatesSheet.h"
 #include "ui/window/HelpView.h"
@@ -81,6 +83,7 @@ std::unique_ptr<QMainWindow> makeWindow(InspectorFixture& f, SystemScheme& schem
     factories.pasteFields = [&f] { return new PasteFieldsSheet(f.model(), nullptr); };
     factories.renamePhotos = [&f] { return new RenamePhotosSheet(f.model()); };
     factories.shiftTime = [&f] { return new ShiftTimeSheet(f.model(), nullptr); };
+    factories.moveOver = [&f] { return new MoveOverSheet(f.model().movingOver()); };
     factories.templates = [&f] { return new TemplatesSheet(f.model()); };
     factories.fieldSets = [&f] { return new FieldSetsSheet(f.model()); };
     factories.setInspectorInset = [](QWidget* inspector, int pixels) {
@@ -240,6 +243,9 @@ private:
         model.timeShifting().request();
         look(seen, u"shift times"_s);
         model.timeShifting().close();
+        model.movingOver().request(MoveWay::intoPhotos);
+        look(seen, u"move over"_s);
+        model.movingOver().close();
         model.setBatch(u"copyright"_s, u"© 2024 Mara Lindqvist"_s);
         model.setBatch(
             u"description"_s, u"A 6x6 of still water after a clear October day, looking south from the bank."_s);
