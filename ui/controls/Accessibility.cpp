@@ -19,6 +19,7 @@
 #include <QAccessibleWidget>
 #include <QHash>
 #include <QPointer>
+#include <QSet>
 
 #include <functional>
 #include <memory>
@@ -390,6 +391,12 @@ QHash<const QMetaObject*, QAccessible::Role>& rolesOfClasses()
     return roles;
 }
 
+QSet<const QMetaObject*>& orderedClasses()
+{
+    static QSet<const QMetaObject*> classes;
+    return classes;
+}
+
 QAccessibleInterface* describe(const QString& className, QObject* object)
 {
     auto* widget = qobject_cast<QWidget*>(object);
@@ -409,8 +416,12 @@ QAccessibleInterface* describe(const QString& className, QObject* object)
     if (auto* edit = qobject_cast<TokenEdit*>(object))
         return new TokenEditAccess(edit);
     for (const QMetaObject* type = object->metaObject(); type; type = type->superClass()) {
-        if (const auto role = rolesOfClasses().constFind(type); role != rolesOfClasses().cend())
+        const auto role = rolesOfClasses().constFind(type);
+        if (role == rolesOfClasses().cend())
+            continue;
+        if (orderedClasses().contains(type))
             return new InReadingOrder(widget, *role);
+        return new RoleDescription(widget, *role);
     }
     return nullptr;
 }
@@ -426,6 +437,12 @@ void describeAs(const QMetaObject& widgetClass, QAccessible::Role role)
 {
     installAccessibility();
     rolesOfClasses().insert(&widgetClass, role);
+}
+
+void describeInReadingOrder(const QMetaObject& widgetClass, QAccessible::Role role)
+{
+    describeAs(widgetClass, role);
+    orderedClasses().insert(&widgetClass);
 }
 
 }  // namespace Quorbel

@@ -9,9 +9,8 @@ namespace Quorbel {
 /// Makes the descriptions known to Qt; every control that has one calls it. Calling it again does nothing.
 void installAccessibility();
 
-/// Has the widgets of a class, and of those derived from it, describe themselves with this role and their parts in the
-/// order in which they are read; for the rest as QWidget does. A widget's constructor calls it; calling it again does
-/// nothing.
+/// Has the widgets of a class, and of those derived from it, describe themselves with this role and nothing more than
+/// QWidget does. A widget's constructor calls it; calling it again does nothing.
 void describeAs(const QMetaObject& widgetClass, QAccessible::Role role);
 
 }  // namespace Quorbel

@@ -8,7 +8,7 @@
 namespace Quorbel {
 
 // The tooltip, which Qt takes for a description, repeats what the name says.
-QString InReadingOrder::text(QAccessible::Text kind) const
+QString RoleDescription::text(QAccessible::Text kind) const
 {
     return kind == QAccessible::Description ? widget()->accessibleDescription() : QAccessibleWidget::text(kind);
 }

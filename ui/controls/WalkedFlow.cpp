@@ -1,7 +1,7 @@
 #include "ui/controls/WalkedFlow.h"
 
-#include "ui/controls/Accessibility.h"
 #include "ui/controls/FlowLayout.h"
+#include "ui/controls/ReadingOrder.h"
 #include "ui/controls/theme/Metrics.h"
 
 #include <QAbstractButton>
@@ -29,7 +29,7 @@ WalkedFlow::WalkedFlow(qreal gap, QWidget* parent)
     : QWidget(parent)
     , m_gap(gap)
 {
-    describeAs(staticMetaObject, QAccessible::Grouping);
+    describeInReadingOrder(staticMetaObject, QAccessible::Grouping);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     onRestyle(this, [this] { layOut(); });
 }

@@ -1,8 +1,8 @@
 #include "ui/inspector/FieldRow.h"
 
-#include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
+#include "ui/controls/ReadingOrder.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/Toggles.h"
 #include "ui/controls/cards/EditedDot.h"
@@ -64,7 +64,7 @@ FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
     , m_label(new TwoLineLabel(TextRole::label, parts.isLanguage ? 12 : 13))
     , m_extras(new RowExtras(*this, m_editor, *m_label, *m_column))
 {
-    describeAs(staticMetaObject, QAccessible::Client);
+    describeInReadingOrder(staticMetaObject, QAccessible::Client);
     m_label->setBuddy(m_editor.input);
     m_label->setVerbatim(true);  // of a custom field it was typed
     m_line->setContentsMargins(0, 0, 0, 0);

@@ -1,7 +1,7 @@
 #include "ui/inspector/FormSection.h"
 
-#include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
+#include "ui/controls/ReadingOrder.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/FieldRow.h"
 
@@ -30,7 +30,7 @@ FormSection::FormSection(const QString& title, const QString& note, QWidget* par
     , m_header(new SectionHeader(title, false, note))
     , m_rowColumn(new QVBoxLayout)
 {
-    describeAs(staticMetaObject, QAccessible::Client);
+    describeInReadingOrder(staticMetaObject, QAccessible::Client);
     m_column->addWidget(m_header);
     m_column->addLayout(m_rowColumn);
     onRestyle(this, [this] {

@@ -33,10 +33,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Points.
-constexpr qreal templatesWidth = 880;
-constexpr qreal sideWidth = 196;
-constexpr qreal narrowSideWidth = 170;
-constexpr qreal narrowBelow = 724;
+constexpr ListSheet::Widths widths{ .sheet = 880, .side = 196, .narrowSide = 170, .narrowBelow = 724 };
 constexpr qreal rowGap = 7;
 constexpr qreal digitWidth = 112;
 constexpr qreal fieldMenuWidth = 320;
@@ -123,7 +120,7 @@ void clearColumn(QLayout* column)
 }  // namespace
 
 TemplatesSheet::TemplatesSheet(AppModel& model, QWidget* parent)
-    : SheetBody(parent)
+    : ListSheet(widths, parent)
     , m_model(model)
     , m_templates(model.templates())
     , m_problems(new WrappedLine(TextRole::amberText, 11, 15))
@@ -137,29 +134,19 @@ TemplatesSheet::TemplatesSheet(AppModel& model, QWidget* parent)
     , m_status(new WrappedLine(TextRole::label, 11, 15))
     , m_fill(new QBButton(u"Fill"_s, QBButtonKind::primary))
 {
-    auto* columns = new QHBoxLayout(this);
-    columns->setContentsMargins(0, 0, 0, 0);
-    columns->setSpacing(0);
-    columns->addWidget(buildSide());
-    columns->addWidget(buildForm(), 1);
-    onRestyle(this, [this] {
-        setWantedWidth(px(templatesWidth));
-        fit();
-    });
+    m_problems->setVerbatim(true);
+    QWidget* form = buildForm();
+    setParts(new TemplateList(m_templates), { m_problems }, makeButtons(), form);
     connectModel();
     showTemplate();
 }
 
-QWidget* TemplatesSheet::buildSide()
+// Under the list.
+QList<QBIconButton*> TemplatesSheet::makeButtons()
 {
-    m_side = new QWidget;
-    QWidget* side = m_side;
-    auto* column = new QVBoxLayout(side);
     auto* add = new QBIconButton(u"plus"_s, u"New template"_s);
     auto* more = new QBIconButton(u"ellipsis"_s, u"More"_s);
-    auto* menu = new ThemedMenu(side);
-    add->setSizes({ 32, 28 }, 14);
-    more->setSizes({ 32, 28 }, 14);
+    auto* menu = new ThemedMenu(this);
     connect(add, &QAbstractButton::clicked, this, [this] {
         m_templates.addNew();
         m_name->setFocus(Qt::OtherFocusReason);
@@ -169,20 +156,7 @@ QWidget* TemplatesSheet::buildSide()
         fillMenu(menu);
         menu->popUpUnder(more);
     });
-    m_problems->setVerbatim(true);
-    column->addWidget(new TemplateList(m_templates), 1);
-    column->addWidget(m_problems);
-    auto* foot = new QHBoxLayout;
-    foot->addWidget(add);
-    foot->addWidget(more);
-    foot->addStretch();
-    column->addLayout(foot);
-    onRestyle(side, [column, foot] {
-        column->setContentsMargins(px(8), px(10), px(9), px(10));
-        column->setSpacing(px(6));
-        foot->setSpacing(px(2));
-    });
-    return side;
+    return { add, more };
 }
 
 void TemplatesSheet::fillMenu(ThemedMenu* menu)
@@ -298,7 +272,7 @@ QWidget* TemplatesSheet::buildNameLine()
 void TemplatesSheet::placeName()
 {
     auto* grid = static_cast<QGridLayout*>(m_nameLine->layout());
-    const bool isStacked = width() < px(narrowBelow);
+    const bool isStacked = isNarrow();
     grid->addWidget(m_name, isStacked ? 1 : 0, isStacked ? 0 : 1, 1, isStacked ? 3 : 1);
 }
 
@@ -534,23 +508,11 @@ QWidget* TemplatesSheet::initialFocus()
     return value() ? m_name : nullptr;
 }
 
-// Where text is large, the list and the name's line give way.
+// Where text is large, the name's line gives way, too.
 void TemplatesSheet::fit()
 {
-    m_side->setFixedWidth(px(width() < px(narrowBelow) ? narrowSideWidth : sideWidth));
+    ListSheet::fit();
     placeName();
-}
-
-void TemplatesSheet::resizeEvent(QResizeEvent* event)
-{
-    SheetBody::resizeEvent(event);
-    fit();
-}
-
-void TemplatesSheet::paintEvent(QPaintEvent*)
-{
-    QPainter painter(this);
-    painter.fillRect(QRectF(m_side->width() - 1, 0, 1, height()), Theme::of(this).line);
 }
 
 }  // namespace Quorbel

@@ -3,11 +3,10 @@
 #pragma once
 
 #include "core/templates/Template.h"
-#include "ui/sheets/Sheet.h"
+#include "ui/sheets/ListSheet.h"
 
 #include <QPointer>
 
-class QBoxLayout;
 class QVBoxLayout;
 
 namespace Quorbel {
@@ -23,7 +22,7 @@ class ThemedLabel;
 class ThemedMenu;
 class WrappedLine;
 
-class TemplatesSheet final : public SheetBody {
+class TemplatesSheet final : public ListSheet {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(TemplatesSheet)
 
@@ -38,15 +37,13 @@ public:
     QWidget* initialFocus() override;
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void fit() override;
 
 private:
-    QWidget* buildSide();
+    QList<QBIconButton*> makeButtons();
     QWidget* buildForm();
     QWidget* buildNameLine();
     void placeName();
-    void fit();
     QWidget* buildPreviewHead();
     void connectModel();
 
@@ -67,7 +64,6 @@ private:
     AppModel& m_model;
     Templates& m_templates;
     QWidget* m_form = nullptr;
-    QWidget* m_side = nullptr;
     QWidget* m_nameLine = nullptr;
     WrappedLine* m_problems;
     WrappedLine* m_none;

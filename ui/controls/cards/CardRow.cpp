@@ -1,5 +1,5 @@
 #include "ui/controls/cards/CardRow.h"
-#include "ui/controls/Accessibility.h"
+#include "ui/controls/ReadingOrder.h"
 
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/TextFields.h"
@@ -30,7 +30,7 @@ CardRow::CardRow(const QString& label, QWidget* editor, QWidget* input, QWidget*
     , m_column(new QVBoxLayout)
     , m_label(new TwoLineLabel(TextRole::label, 13, this))
 {
-    describeAs(staticMetaObject, QAccessible::Client);
+    describeInReadingOrder(staticMetaObject, QAccessible::Client);
     m_label->setText(label);
     m_label->setBuddy(input);
     if (input->accessibleName().isEmpty())

@@ -1,7 +1,7 @@
 #include "ui/controls/cards/ItemCard.h"
 
-#include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
+#include "ui/controls/ReadingOrder.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/cards/CardLine.h"
 #include "ui/controls/cards/EditedDot.h"
@@ -41,7 +41,7 @@ ItemCard::ItemCard(const QString& item, QWidget* parent)
     , m_line(new CardLine(this))
     , m_more(new QBIconButton(u"ellipsis"_s, {}, this))
 {
-    describeAs(staticMetaObject, QAccessible::Grouping);
+    describeInReadingOrder(staticMetaObject, QAccessible::Grouping);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_more->setSizes({ 28, 26 }, 16, 0, 6);
     m_more->hide();

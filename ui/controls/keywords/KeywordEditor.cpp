@@ -1,8 +1,8 @@
 #include "ui/controls/keywords/KeywordEditor.h"
 
-#include "ui/controls/Accessibility.h"
 #include "ui/controls/FlowLayout.h"
 #include "ui/controls/HoverFade.h"
+#include "ui/controls/ReadingOrder.h"
 #include "ui/controls/SuggestionList.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/keywords/KeywordChip.h"
@@ -75,7 +75,7 @@ KeywordEditor::KeywordEditor(QWidget* parent)
     , m_suggestions(new SuggestionList(m_entry))
     , m_fade(new HoverFade(this))
 {
-    describeAs(staticMetaObject, QAccessible::Grouping);
+    describeInReadingOrder(staticMetaObject, QAccessible::Grouping);
     m_flow->setContentsMargins(side, 1, side, 1);
     m_flow->setLastItemFills(true);
     m_flow->addWidget(m_entry);

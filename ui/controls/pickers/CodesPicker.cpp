@@ -1,8 +1,8 @@
 #include "ui/controls/pickers/CodesPicker.h"
 
-#include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/HoverFade.h"
+#include "ui/controls/ReadingOrder.h"
 #include "ui/controls/WalkedFlow.h"
 #include "ui/controls/keywords/KeywordChip.h"
 #include "ui/controls/pickers/CodePopover.h"
@@ -31,7 +31,7 @@ CodesPicker::CodesPicker(const QString& name, const QString& add, QWidget* paren
     , m_button(new QBTextButton(add, this))
     , m_fade(new HoverFade(this))
 {
-    describeAs(staticMetaObject, QAccessible::Grouping);
+    describeInReadingOrder(staticMetaObject, QAccessible::Grouping);
     setAccessibleName(name);
     m_flow->setAccessibleName(name);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

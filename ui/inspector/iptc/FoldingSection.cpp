@@ -1,6 +1,6 @@
 #include "ui/inspector/iptc/FoldingSection.h"
 
-#include "ui/controls/Accessibility.h"
+#include "ui/controls/ReadingOrder.h"
 #include "ui/controls/cards/EditedDot.h"
 #include "ui/controls/cards/FoldingHeading.h"
 #include "ui/controls/theme/Metrics.h"
@@ -25,7 +25,7 @@ FoldingSection::FoldingSection(const QString& title, QWidget* parent)
     , m_column(new QVBoxLayout(this))
     , m_rowColumn(new QVBoxLayout)
 {
-    describeAs(staticMetaObject, QAccessible::Client);
+    describeInReadingOrder(staticMetaObject, QAccessible::Client);
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(0);
     m_column->addWidget(m_heading);

@@ -3,7 +3,7 @@
 #include "app/model/AppModel.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/schema/FieldLanguages.h"
-#include "ui/controls/Accessibility.h"
+#include "ui/controls/ReadingOrder.h"
 #include "ui/controls/cards/FoldingHeading.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/FieldRow.h"
@@ -40,7 +40,7 @@ IptcSections::IptcSections(AppModel& model, Rows rows, QWidget* parent)
     , m_rows(std::move(rows))
     , m_column(new QVBoxLayout(this))
 {
-    describeAs(staticMetaObject, QAccessible::Client);
+    describeInReadingOrder(staticMetaObject, QAccessible::Client);
     m_column->setSpacing(0);
     onRestyle(this, [this] { m_column->setContentsMargins(0, px(above), 0, 0); });
     hide();

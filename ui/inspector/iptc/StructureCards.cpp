@@ -1,8 +1,8 @@
 #include "ui/inspector/iptc/StructureCards.h"
 
 #include "core/iptc/IptcStructures.h"
-#include "ui/controls/Accessibility.h"
 #include "ui/controls/FormLabels.h"
+#include "ui/controls/ReadingOrder.h"
 #include "ui/controls/cards/EditedDot.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
@@ -35,7 +35,7 @@ StructureCards::StructureCards(const FieldSpec& field, const CodeTexts& codes, Q
     , m_list(new StructureList(partsOf(field, codes), this))
     , m_block(new QWidget(this))
 {
-    describeAs(staticMetaObject, QAccessible::Client);
+    describeInReadingOrder(staticMetaObject, QAccessible::Client);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_column->addWidget(m_reason);
     m_column->addWidget(m_list);

@@ -3,9 +3,9 @@
 #include "core/iptc/StructureEdit.h"
 #include "core/iptc/StructureText.h"
 #include "core/schema/FieldLanguages.h"
-#include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
+#include "ui/controls/ReadingOrder.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/attached/SearchMenu.h"
 #include "ui/controls/cards/CardRow.h"
@@ -77,7 +77,7 @@ StructureFields::StructureFields(const StructureSpec& structure, const CodeTexts
     , m_start(new QBTextButton({}, this))
     , m_more(new QBTextButton(u"More"_s, this))
 {
-    describeAs(staticMetaObject, QAccessible::Client);
+    describeInReadingOrder(staticMetaObject, QAccessible::Client);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_column->setContentsMargins(0, 0, 0, 0);
     for (QBTextButton* button : { m_start, m_more }) {

@@ -1,8 +1,8 @@
 #include "ui/inspector/iptc/StructureList.h"
 
 #include "core/iptc/StructureEdit.h"
-#include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
+#include "ui/controls/ReadingOrder.h"
 #include "ui/controls/cards/EditedDot.h"
 #include "ui/controls/cards/ItemCard.h"
 #include "ui/controls/theme/Metrics.h"
@@ -34,7 +34,7 @@ StructureList::StructureList(const Parts& parts, QWidget* parent)
     , m_column(new QVBoxLayout(this))
     , m_add(new QBButton(u"Add %1"_s.arg(parts.structure->item), QBButtonKind::dashed, this))
 {
-    describeAs(staticMetaObject, QAccessible::Grouping);
+    describeInReadingOrder(staticMetaObject, QAccessible::Grouping);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAccessibleName(parts.name);
     m_add->setAccessibleDescription(parts.name);

@@ -26,9 +26,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Points.
-constexpr qreal setsWidth = 640;
-constexpr qreal sideWidth = 176;
-constexpr qreal narrowSideWidth = 120;  // in a sheet that has to be narrower
+constexpr ListSheet::Widths widths{ .sheet = 640, .side = 176, .narrowSide = 120, .narrowBelow = 640 };
 constexpr qreal rowHeight = 34;
 
 class SetDelegate final : public QStyledItemDelegate {
@@ -97,7 +95,7 @@ QWidget* makeTickTitles()
 }  // namespace
 
 FieldSetsSheet::FieldSetsSheet(AppModel& model, QWidget* parent)
-    : SheetBody(parent)
+    : ListSheet(widths, parent)
     , m_sets(model.fieldSets())
     , m_list(makeList())
     , m_remove(new QBIconButton(u"xmark"_s, u"Delete this set"_s))
@@ -110,15 +108,10 @@ FieldSetsSheet::FieldSetsSheet(AppModel& model, QWidget* parent)
     for (const FieldSet& set : m_sets.own())
         m_own.append({ set.name, set });
     m_row = qMax(0, int(m_sets.names().indexOf(m_sets.current())) - 1);
-    auto* columns = new QHBoxLayout(this);
-    columns->setContentsMargins(0, 0, 0, 0);
-    columns->setSpacing(0);
-    columns->addWidget(buildSide());
-    columns->addWidget(buildForm(), 1);
-    onRestyle(this, [this] {
-        setWantedWidth(px(setsWidth));
-        fit();
-    });
+    auto* add = new QBIconButton(u"plus"_s, u"New set, as a copy of this one"_s);
+    connect(add, &QAbstractButton::clicked, this, &FieldSetsSheet::addCopy);
+    connect(m_remove, &QAbstractButton::clicked, this, &FieldSetsSheet::removeSet);
+    setParts(m_list, {}, { add, m_remove }, buildForm());
     connect(m_list, &QListWidget::currentRowChanged, this, [this](int row) {
         if (m_isFilling || row < 0)
             return;
@@ -131,35 +124,15 @@ FieldSetsSheet::FieldSetsSheet(AppModel& model, QWidget* parent)
     show();
 }
 
-QWidget* FieldSetsSheet::buildSide()
+void FieldSetsSheet::addCopy()
 {
-    m_side = new QWidget;
-    auto* column = new QVBoxLayout(m_side);
-    auto* foot = new QHBoxLayout;
-    auto* add = new QBIconButton(u"plus"_s, u"New set, as a copy of this one"_s);
-    for (QBIconButton* button : { add, m_remove })
-        button->setSizes({ 32, 28 }, 14);
-    connect(add, &QAbstractButton::clicked, this, [this] {
-        FieldSet copy = shown();
-        copy.name += u" copy"_s;
-        addSet(copy);
-        fillList();
-        show();
-        m_name->setFocus(Qt::OtherFocusReason);
-        m_name->selectAll();
-    });
-    connect(m_remove, &QAbstractButton::clicked, this, &FieldSetsSheet::removeSet);
-    column->addWidget(m_list, 1);
-    foot->addWidget(add);
-    foot->addWidget(m_remove);
-    foot->addStretch();
-    column->addLayout(foot);
-    onRestyle(m_side, [column, foot] {
-        column->setContentsMargins(px(8), px(10), px(9), px(10));
-        column->setSpacing(px(6));
-        foot->setSpacing(px(2));
-    });
-    return m_side;
+    FieldSet copy = shown();
+    copy.name += u" copy"_s;
+    addSet(copy);
+    fillList();
+    show();
+    m_name->setFocus(Qt::OtherFocusReason);
+    m_name->selectAll();
 }
 
 QWidget* FieldSetsSheet::buildForm()
@@ -296,23 +269,6 @@ void FieldSetsSheet::cancel()
 QWidget* FieldSetsSheet::initialFocus()
 {
     return m_sets.started() ? m_name : static_cast<QWidget*>(m_list);
-}
-
-void FieldSetsSheet::fit()
-{
-    m_side->setFixedWidth(px(width() < px(setsWidth) ? narrowSideWidth : sideWidth));
-}
-
-void FieldSetsSheet::resizeEvent(QResizeEvent* event)
-{
-    SheetBody::resizeEvent(event);
-    fit();
-}
-
-void FieldSetsSheet::paintEvent(QPaintEvent*)
-{
-    QPainter painter(this);
-    painter.fillRect(QRectF(m_side->width() - 1, 0, 1, height()), Theme::of(this).line);
 }
 
 }  // namespace Quorbel

@@ -3,9 +3,8 @@
 #pragma once
 
 #include "app/model/fieldsets/FieldSets.h"
-#include "ui/sheets/Sheet.h"
+#include "ui/sheets/ListSheet.h"
 
-class QBoxLayout;
 class QListWidget;
 
 namespace Quorbel {
@@ -17,7 +16,7 @@ class QBIconButton;
 class QBTextField;
 class WrappedLine;
 
-class FieldSetsSheet final : public SheetBody {
+class FieldSetsSheet final : public ListSheet {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FieldSetsSheet)
 
@@ -30,18 +29,13 @@ public:
     void cancel() override;
     QWidget* initialFocus() override;
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
-    QWidget* buildSide();
     QWidget* buildForm();
     void fillList();
     void show();
     void judge();
-    void fit();
     void addSet(const FieldSet& set);
+    void addCopy();
     void removeSet();
     FieldSet shown() const;
     /// The one of the user's own that is shown; null while it is another.
@@ -51,7 +45,6 @@ private:
     QList<FieldSets::Edited> m_own;
     int m_row = 0;  ///< those that come with the program, and behind them the own ones
     bool m_isFilling = false;
-    QWidget* m_side = nullptr;
     QListWidget* m_list;
     QBIconButton* m_remove;
     QBTextField* m_name;

@@ -10,6 +10,7 @@
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -48,7 +49,7 @@ public:
             paintTick(*painter, rect, index, theme);
         } else {
             painter->setFont(isHeading ? sectionFont() : sansFont(13));
-            painter->setPen(isHeading ? theme.muted : theme.text);
+            painter->setPen(isHeading ? theme.derived.label : theme.text);
             const QRectF text = rect.adjusted(pxF(side), 0, -pxF(side), 0);
             painter->drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                 painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, int(text.width())));
@@ -218,7 +219,25 @@ void FieldTicks::take(QTreeWidgetItem* item, int column)
     if (column == Column::onScreen && !isOn(Column::onScreen))
         item->setCheckState(Column::wanted, Qt::Unchecked);
     m_isShowing = false;
+    if (QAccessible::isActive())
+        tellTicks(*item);
     emit ticked(id, isOn(Column::onScreen), isOn(Column::wanted));
+}
+
+// To screen readers: Qt tells them that a cell has changed, not that it was ticked.
+void FieldTicks::tellTicks(const QTreeWidgetItem& item)
+{
+    int row = 0;
+    for (int i = 0; i < indexOfTopLevelItem(const_cast<QTreeWidgetItem*>(&item)); ++i)
+        row += topLevelItem(i)->isHidden() ? 0 : 1;
+    QAccessible::State changed;
+    changed.checked = true;
+    const QAccessibleTableInterface* table = QAccessible::queryAccessibleInterface(this)->tableInterface();
+    for (const int column : { Column::onScreen, Column::wanted })
+        if (QAccessibleInterface* cell = table->cellAt(row, column)) {
+            QAccessibleStateChangeEvent event(cell, changed);
+            QAccessible::updateAccessibility(&event);
+        }
 }
 
 }  // namespace Quorbel

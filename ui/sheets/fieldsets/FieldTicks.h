@@ -33,6 +33,7 @@ protected:
 private:
     void fill();
     void take(QTreeWidgetItem* item, int column);
+    void tellTicks(const QTreeWidgetItem& item);
 
     bool m_isFixed = false;
     bool m_isShowing = false;
