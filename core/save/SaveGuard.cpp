@@ -78,6 +78,14 @@ bool isReadOnly(const QUrl& file)
 
 void requireWritable(const QList<QUrl>& files)
 {
+    QStringList folders;
+    for (const auto& file : files)
+        if (QFileInfo(file.toLocalFile()).isDir())
+            folders.append(file.fileName());
+    if (!folders.isEmpty())
+        throw FileProblem((
+            folders.size() == 1 ? u"%1 is a folder; nothing was written."_s : u"%1 are folders; nothing was written."_s)
+                              .arg(Text::listed(folders)));
     QStringList names;
     for (const auto& file : files)
         if (isReadOnly(file))

@@ -20,7 +20,8 @@ QList<QUrl> filesBehindLinks(const QList<QUrl>& targets);
 bool isReadOnly(const QUrl& file);
 
 /// Throws FileProblem when some file may not be written to: "IMG_1.jpg is read-only." or
-/// "3 of 40 photos are read-only: …; nothing was written."
+/// "3 of 40 photos are read-only: …; nothing was written." Likewise when one is a folder, which ExifTool would take for
+/// all photos in it: "IMG_1.xmp is a folder; nothing was written."
 void requireWritable(const QList<QUrl>& files);
 
 /// Deals with the temporary files that a killed ExifTool leaves beside a photo and that block every later save of
