@@ -3,7 +3,9 @@
 #include "core/schema/FieldSchema.h"
 #include "core/sidecar/SidecarSchema.h"
 #include "tests/app/model/ModelFixture.h"
+#include "tests/support/RecordedTool.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
@@ -15,6 +17,7 @@ using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
 Q_DECLARE_METATYPE(Quorbel::SidecarNaming)
+using Values = QMap<QString, QString>;
 
 namespace {
 
@@ -135,7 +138,10 @@ private slots:
     void othersSidecars();
     void brokenSidecars_data();
     void brokenSidecars();
+    void folderOfTheName();
+    void emptySidecar();
     void othersAreWrittenAsEver();
+    void withoutTheSetting();
 };
 
 void tst_AppModelSidecars::everyFieldGoesBeside_data()
@@ -411,9 +417,29 @@ void tst_AppModelSidecars::linkedAndReadOnly()
 void tst_AppModelSidecars::othersSidecars_data()
 {
     QTest::addColumn<QByteArray>("sidecar");
-    QTest::addColumn<QString>("title");
-    QTest::newRow("of a raw developer") << contentOf(QStringLiteral(QUORBEL_SIDECARS) + u"/darktable.xmp"_s)
-                                        << u"Harbour at dusk – Žluť 東京"_s;
+    QTest::addColumn<Values>("shown");
+    QTest::addColumn<QStringList>("keywords");
+    const QString title = u"Harbour at dusk – Žluť 東京"_s;
+    const QString date = u"2026-03-14 15:09"_s;
+    const QString description = u"Two boats & a <pier>"_s;
+    QTest::newRow("of darktable") << contentOf(QStringLiteral(QUORBEL_SIDECARS) + u"/darktable.xmp"_s)
+                                  << Values{ { u"title"_s, title }, { u"description"_s, description },
+                                         { u"date"_s, u"2026:03:14 15:09:26.000"_s }, { u"rating"_s, u"4"_s },
+                                         { u"coords"_s, u"-33.856800, -70.669300"_s } }
+                                  << QStringList{ u"Chile"_s, u"Places"_s, u"Santiago"_s, u"harbour"_s };
+    QTest::newRow("of digiKam") << contentOf(QStringLiteral(QUORBEL_SIDECARS) + u"/digikam.xmp"_s)
+                                << Values{ { u"title"_s, title }, { u"description"_s, description },
+                                       { u"date"_s, date }, { u"rating"_s, u"4"_s }, { u"label"_s, u"Red"_s } }
+                                << QStringList{ u"Santiago"_s, u"harbour"_s };
+    QTest::newRow("of exiv2") << contentOf(QStringLiteral(QUORBEL_SIDECARS) + u"/exiv2.xmp"_s)
+                              << Values{ { u"title"_s, u"Hafen"_s }, { u"description"_s, u"Two boats"_s },
+                                     { u"date"_s, date }, { u"rating"_s, u"3"_s } }
+                              << QStringList{ u"harbour"_s };
+    // The first and the last line stand there twice.
+    QTest::newRow("extracted by exiv2") << contentOf(QStringLiteral(QUORBEL_SIDECARS) + u"/exiv2-extracted.xmp"_s)
+                                        << Values{ { u"title"_s, u"Own"_s }, { u"description"_s, u"Two boats"_s },
+                                               { u"date"_s, date }, { u"rating"_s, u"2"_s } }
+                                        << QStringList{ u"a"_s, u"1.1"_s };
     // With attributes, a thumbnail's worth of padding, a tool's name of its own, and what nobody knows.
     QTest::newRow("of an editor") << QByteArray(
         "<?xpacket begin='\xEF\xBB\xBF' id='W5M0MpCehiHzreSzNTczkc9d'?>\n"
@@ -429,33 +455,37 @@ void tst_AppModelSidecars::othersSidecars_data()
         "</crs:ToneCurvePV2012>\n"
         "   <own:Things><rdf:Bag><rdf:li rdf:parseType='Resource'><own:A>1</own:A></rdf:li></rdf:Bag></own:Things>\n"
         "  </rdf:Description>\n </rdf:RDF>\n</x:xmpmeta>\n                \n<?xpacket end='w'?>")
-                                  << u"Theirs"_s;
+                                  << Values{ { u"title"_s, u"Theirs"_s }, { u"rating"_s, u"2"_s } }
+                                  << QStringList{ u"a"_s, u"1.1"_s };
 }
 
 // Each of these edits leaves all else in the sidecar as it was, and undo gives back the very bytes.
 void tst_AppModelSidecars::othersSidecars()
 {
     QFETCH(QByteArray, sidecar);
-    QFETCH(QString, title);
+    QFETCH(Values, shown);
+    QFETCH(QStringList, keywords);
     Raws raws;
     raws.addRaw(u"a.NEF"_s, ownTags());
     raws.folder.add(u"a.NEF.xmp"_s, sidecar);
     QVERIFY(raws.open());
     QCOMPARE(raws.banner(), QString());
-    QCOMPARE(raws.shown(u"a.NEF"_s, u"title"_s), title);
+    for (auto value = shown.cbegin(); value != shown.cend(); ++value)
+        QVERIFY2(raws.shown(u"a.NEF"_s, value.key()).startsWith(*value),
+            qPrintable(value.key() + u": "_s + raws.shown(u"a.NEF"_s, value.key())));
+    QCOMPARE(raws.items(u"a.NEF"_s, u"keywords"_s), keywords);
     raws.click(u"a.NEF"_s);
     // Without what the edit is to change; the rest line by line.
     const auto rest = [&](const QString& changed) {
-        QStringList lines =
-            QString::fromUtf8(exiftool({ u"-X"_s, u"-a"_s, u"-u"_s, u"-XMP:all"_s, raws.folder.path(u"a.NEF.xmp"_s) }))
-                .split(u'\n');
+        QString text =
+            QString::fromUtf8(exiftool({ u"-X"_s, u"-a"_s, u"-u"_s, u"-XMP:all"_s, raws.folder.path(u"a.NEF.xmp"_s) }));
+        text.remove(QRegularExpression(
+            u"^ <(XMP-\\w+:(MetadataDate|SidecarForExtension|XMPToolkit|%1))[ >].*?</\\1>\n"_s.arg(changed),
+            QRegularExpression::MultilineOption | QRegularExpression::DotMatchesEverythingOption));
+        QStringList lines = text.split(u'\n');
         // The tool writes no list without items; nobody misses it.
         static const QRegularExpression emptyList(u"^ *<([\\w:-]+)></\\1>$"_s);
-        lines.removeIf([&changed](const QString& line) {
-            return line.contains(emptyList) || line.contains(u" xmlns:"_s)
-                || line.contains(QRegularExpression(
-                    u"<XMP-\\w+:(MetadataDate|SidecarForExtension|XMPToolkit|%1)[ >]"_s.arg(changed)));
-        });
+        lines.removeIf([](const QString& line) { return line.contains(emptyList) || line.contains(u" xmlns:"_s); });
         // The tool puts properties in an order of its own.
         lines.sort();
         return lines;
@@ -477,9 +507,12 @@ void tst_AppModelSidecars::othersSidecars()
         QCOMPARE(raws.sidecar(u"a.NEF.xmp"_s), sidecar);
     };
     changes(u"Title"_s, [&] { raws->setSingle(u"title"_s, u"New 題"_s); });
-    changes(u"Rating"_s, [&] { raws->setSingle(u"rating"_s, u"5"_s); });
-    changes(u"(DateTimeOriginal|DateCreated)"_s, [&] { raws->setSingle(u"date"_s, u"2020-02-03 04:05"_s); });
-    changes(u"(GPSLatitude|GPSLongitude)"_s, [&] { raws->setSingle(u"coords"_s, u"-1.500000, -2.500000"_s); });
+    changes(u"(?:Subject|Rating|DateTimeOriginal|DateCreated|GPSLatitude|GPSLongitude)"_s, [&] {
+        raws->addSingleListItem(u"keywords"_s, u"quay"_s);
+        raws->setSingle(u"rating"_s, u"5"_s);
+        raws->setSingle(u"date"_s, u"2020-02-03 04:05"_s);
+        raws->setSingle(u"coords"_s, u"-1.500000, -2.500000"_s);
+    });
     QVERIFY(raws.isUntouched());
 }
 
@@ -512,6 +545,47 @@ void tst_AppModelSidecars::brokenSidecars()
     QVERIFY(raws.isUntouched());
 }
 
+// A folder in the sidecar's place is named, and the photos in it are none of the save's.
+void tst_AppModelSidecars::folderOfTheName()
+{
+    Raws raws;
+    raws.addRaw(u"a.NEF"_s, ownTags());
+    QVERIFY(QDir(raws.folder.path()).mkdir(u"a.xmp"_s));
+    raws.folder.add(u"a.xmp/inside.jpg"_s);
+    const QByteArray inside = raws.sidecar(u"a.xmp/inside.jpg"_s);
+    QVERIFY(raws.load({ raws.url(u"a.NEF"_s) }));
+    QVERIFY2(raws.banner().contains(u"a.xmp"_s), qPrintable(raws.banner()));
+    QCOMPARE(raws.shown(u"a.NEF"_s, u"title"_s), u"Own"_s);
+    raws.click(u"a.NEF"_s);
+    raws->setSingle(u"title"_s, u"New"_s);
+    QVERIFY(raws.save());
+    QCOMPARE(raws.sidecar(u"a.xmp/inside.jpg"_s), inside);
+    QVERIFY2(raws.banner().startsWith(u"Could not save"_s), qPrintable(raws.banner()));
+    QCOMPARE(raws->unsavedCount(), 1);
+    QVERIFY(raws.isUntouched());
+}
+
+// Named as well, but there is nothing in it that a save could break.
+void tst_AppModelSidecars::emptySidecar()
+{
+    Raws raws;
+    raws.addRaw(u"a.NEF"_s, ownTags());
+    writeFile(raws.folder.path(u"a.xmp"_s), {});
+    QVERIFY(raws.open());
+    QVERIFY2(raws.banner().contains(u"a.xmp"_s), qPrintable(raws.banner()));
+    QCOMPARE(raws.shown(u"a.NEF"_s, u"title"_s), u"Own"_s);
+    raws.click(u"a.NEF"_s);
+    raws->setSingle(u"title"_s, u"New"_s);
+    QVERIFY(raws.save());
+    QCOMPARE(raws.banner(), QString());
+    QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-dc:Title"_s), u"New"_s);
+    QVERIFY(raws.undo());
+    QCOMPARE(raws.banner(), QString());
+    QCOMPARE(raws.folder.names(), (QStringList{ u"a.NEF"_s, u"a.xmp"_s }));
+    QCOMPARE(raws.sidecar(u"a.xmp"_s), QByteArray());
+    QVERIFY(raws.isUntouched());
+}
+
 // Only raw files go beside, and the mirror of a JPEG never takes a raw file's sidecar.
 void tst_AppModelSidecars::othersAreWrittenAsEver()
 {
@@ -534,6 +608,44 @@ void tst_AppModelSidecars::othersAreWrittenAsEver()
     QCOMPARE(raws.folder.names(),
         (QStringList{
             u"a.NEF"_s, u"a.jpg"_s, u"a.jpg_original"_s, u"a.xmp"_s, u"b.tif"_s, u"b.tif_original"_s, u"b.xmp"_s }));
+}
+
+// As long as nobody asked for it, sidecars beside raw photos lead to no run, and to no argument of one.
+void tst_AppModelSidecars::withoutTheSetting()
+{
+    QList<QStringList> runs[2];
+    for (const bool hasSidecars : { false, true }) {
+        const RecordedTool tool;
+        ModelFixture photos(tool.service());
+        const QTemporaryDir journal;
+        photos.services.journalPath = journal.filePath(u"undo"_s);
+        photos.relaunch();
+        photos->preferences().saveDontAsk.set(true);
+        photos->preferences().backupOriginals.set(false);
+        writeFile(photos.folder.path(u"a.NEF"_s), tiffBytes());
+        for (const QString& name : { u"a.xmp"_s, u"a.NEF.xmp"_s })
+            if (hasSidecars)
+                exiftool({ u"-q"_s, u"-XMP-dc:Title=Theirs"_s, photos.folder.path(name) });
+        QVERIFY(photos.open());
+        photos.click(u"a.NEF"_s);
+        QCOMPARE(photos->draftValues().value(u"title"_s), QString());
+        photos->setSingle(u"title"_s, u"Ours"_s);
+        photos->requestSave();
+        QVERIFY(photos.waitUntilIdle());
+        QCOMPARE(photos.onDisk(u"a.NEF"_s, u"XMP:Title"_s).toString(), u"Ours"_s);
+        photos->undoSave();
+        QVERIFY(photos.waitUntilIdle());
+        QCOMPARE(photos->errorMessage(), std::nullopt);
+        for (QStringList run : tool.runs()) {
+            QVERIFY2(!run.join(u' ').contains(u".xmp"_s), qPrintable(run.join(u' ')));
+            runs[hasSidecars].append(run.replaceInStrings(photos.folder.path(), u"folder"_s));
+        }
+    }
+    QVERIFY(runs[0].size() > 5);
+    // Some run at the same time.
+    for (QList<QStringList>& some : runs)
+        std::sort(some.begin(), some.end());
+    QCOMPARE(runs[1], runs[0]);
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelSidecars)
