@@ -120,6 +120,7 @@ public:
         m_made.plan.removed.clear();
         m_made.plan.listMode = MetadataWriter::ListMode::replace;
         takePaths();
+        takeGainedKeywords();
         for (auto change = m_made.plan.iptcLists.begin(); change != m_made.plan.iptcLists.end(); ++change)
             takeIptcList(change.key(), *change);
         hideEmptied();
@@ -167,6 +168,24 @@ private:
             if (!m_made.plan.paths.contains(path)
                 && (keywords == m_made.plan.lists.cend() || keywords->contains(KeywordPath::keyword(path))))
                 m_made.plan.paths.append(path);
+    }
+
+    // Who keeps paths lists plain keywords there, too, and reads the others only where there are none.
+    void takeGainedKeywords()
+    {
+        const auto& homes = KeywordPath::homes();
+        if (std::all_of(homes.cbegin(), homes.cend(), [this](const KeywordPath::Home& home) {
+                return TagHomes::itemsOf(home.tag, m_sidecar.tags).isEmpty();
+            }))
+            return;
+        const QStringList before =
+            shown(itemsOf(*SidecarSchema::spec(FieldID::keywords), m_sidecar.tags).value_or(QStringList()));
+        QStringList& paths = m_made.plan.paths;
+        for (const QString& keyword : m_made.plan.lists.value(FieldID::keywords))
+            if (!before.contains(keyword) && KeywordPath::elements(keyword) == QStringList(keyword)
+                && std::none_of(paths.cbegin(), paths.cend(),
+                    [&keyword](const QString& path) { return KeywordPath::keyword(path) == keyword; }))
+                paths.append(keyword);
     }
 
     void takeIptcList(const QString& id, ListChange& change) const

@@ -497,6 +497,10 @@ void tst_AppModelSidecars::othersSidecars()
         QVERIFY(raws.save());
         QCOMPARE(raws.banner(), QString());
         QVERIFY(raws.sidecar(u"a.NEF.xmp"_s) != sidecar);
+        // Where a program keeps paths, it finds a new keyword only there.
+        for (const QString& tag : { u"XMP-lr:HierarchicalSubject"_s, u"XMP-digiKam:TagsList"_s })
+            if (const QStringList paths = raws.stored(u"a.NEF.xmp"_s, tag).split(u"; "_s); paths.size() > 1)
+                QCOMPARE(paths.contains(u"quay"_s), raws.items(u"a.NEF"_s, u"keywords"_s).contains(u"quay"_s));
         const QStringList after = rest(changed);
         const QSet<QString> lines(after.cbegin(), after.cend());
         for (const QString& line : before)
@@ -507,7 +511,9 @@ void tst_AppModelSidecars::othersSidecars()
         QCOMPARE(raws.sidecar(u"a.NEF.xmp"_s), sidecar);
     };
     changes(u"Title"_s, [&] { raws->setSingle(u"title"_s, u"New 題"_s); });
-    changes(u"(?:Subject|Rating|DateTimeOriginal|DateCreated|GPSLatitude|GPSLongitude)"_s, [&] {
+    const QString keywordHomes = u"Subject|HierarchicalSubject|TagsList|LastKeywordXMP|CatalogSets"_s;
+    const QString others = u"Rating|DateTimeOriginal|DateCreated|GPSLatitude|GPSLongitude"_s;
+    changes(u"(?:%1|%2)"_s.arg(keywordHomes, others), [&] {
         raws->addSingleListItem(u"keywords"_s, u"quay"_s);
         raws->setSingle(u"rating"_s, u"5"_s);
         raws->setSingle(u"date"_s, u"2020-02-03 04:05"_s);
