@@ -7,6 +7,8 @@
 
 namespace Quorbel {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Role {
@@ -28,9 +30,32 @@ std::optional<Role> roleOf(const QString& name)
     return std::nullopt;
 }
 
-QString baseOf(const QString& path)
+// By extension in small letters, asked once for each of them: a list has many names.
+const QHash<QString, Role>& roles()
 {
-    return path.left(path.lastIndexOf(u'.'));
+    static const QHash<QString, Role> known = [] {
+        QHash<QString, Role> found;
+        for (const QString& extension : ImageTypes::extensions())
+            if (const auto role = roleOf(u"a."_s + extension))
+                found.insert(extension, *role);
+        return found;
+    }();
+    return known;
+}
+
+// What the files of a shot share, and the role of this one; nothing for one that has none. A leading dot hides a file;
+// it begins no extension.
+std::optional<std::pair<QString, Role>> placeOf(const QUrl& url)
+{
+    QString path = url.path();
+    const qsizetype dot = path.lastIndexOf(u'.');
+    if (dot <= path.lastIndexOf(u'/') + 1)
+        return std::nullopt;
+    const auto role = roles().constFind(path.sliced(dot + 1).toLower());
+    if (role == roles().cend())
+        return std::nullopt;
+    path.truncate(dot);
+    return std::pair(path, *role);
 }
 
 }  // namespace
@@ -56,12 +81,13 @@ void ShotPairs::put(std::vector<int>& others, int photo, int other)
 
 void ShotPairs::add(int photo, const QUrl& url)
 {
-    const auto role = roleOf(url.fileName());
-    if (!role)
+    const auto place = placeOf(url);
+    if (!place)
         return;
-    QList<File>& shot = m_shots[baseOf(url.path())];
+    const auto& [base, role] = *place;
+    QList<File>& shot = m_shots[base];
     part(shot);
-    const File file{ photo, role->rank, role->isRaw };
+    const File file{ photo, role.rank, role.isRaw };
     shot.insert(
         std::upper_bound(shot.cbegin(), shot.cend(), file,
             [](const File& a, const File& b) { return std::pair(a.rank, a.photo) < std::pair(b.rank, b.photo); }),
@@ -71,7 +97,8 @@ void ShotPairs::add(int photo, const QUrl& url)
 
 void ShotPairs::remove(int photo, const QUrl& url)
 {
-    const auto shot = m_shots.find(baseOf(url.path()));
+    const auto place = placeOf(url);
+    const auto shot = place ? m_shots.find(place->first) : m_shots.end();
     if (shot == m_shots.end())
         return;
     part(*shot);
