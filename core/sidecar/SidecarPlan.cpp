@@ -10,6 +10,8 @@
 #include "core/schema/KeywordPath.h"
 #include "core/sidecar/SidecarSchema.h"
 #include "core/text/Text.h"
+#include "core/text/WallClock.h"
+#include "core/text/ZoneOffset.h"
 
 #include <QFileInfo>
 
@@ -112,9 +114,7 @@ public:
 
     SidecarPlan made(const QString& photo, const QString& savedAt)
     {
-        const bool isNoted = !TagHomes::itemsOf(extensionTag(), m_sidecar.tags).isEmpty();
-        m_made.plan.sidecar =
-            SidecarNote{ .extension = isNoted ? QString() : QFileInfo(photo).suffix(), .savedAt = savedAt };
+        m_made.plan.sidecar = SidecarPlan::note(photo, m_sidecar.tags, savedAt);
         for (const QString& id : listsOf(m_made.plan))
             takeList(id);
         m_made.plan.removed.clear();
@@ -247,6 +247,18 @@ QStringList SidecarPlan::iptcOf(const EditPlan& plan)
     QStringList ids = plan.scalars.keys() + plan.iptcLists.keys();
     ids.removeIf([](const QString& id) { return !IptcSchema::spec(id); });
     return ids;
+}
+
+QString SidecarPlan::savedAt()
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    return WallClock::stored(now) + ZoneOffset::text(now.offsetFromUtc() / 60);
+}
+
+SidecarNote SidecarPlan::note(const QString& photo, const FileTags& sidecar, const QString& savedAt)
+{
+    const bool isNoted = !TagHomes::itemsOf(extensionTag(), sidecar).isEmpty();
+    return { .extension = isNoted ? QString() : QFileInfo(photo).suffix(), .savedAt = savedAt };
 }
 
 SidecarPlan SidecarPlan::of(const EditPlan& plan, const QString& photo, const Held& sidecar, const Held& file,

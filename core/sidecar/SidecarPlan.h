@@ -26,6 +26,10 @@ struct SidecarPlan {
     static QStringList tagsOf(const EditPlan& plan);
     /// Ids of the fields of IptcSchema that have to be known of both.
     static QStringList iptcOf(const EditPlan& plan);
+    /// "yyyy:MM:dd HH:mm:ss+hh:mm": now.
+    static QString savedAt();
+    /// What is noted in the sidecar of a photo of this name; `sidecar`: what stands there in the tags of no plan.
+    static SidecarNote note(const QString& photo, const FileTags& sidecar, const QString& savedAt);
     /// `photo`: the name of its file. `seen`: as with PhotoPlans::decide(). `savedAt`: as in SidecarNote.
     static SidecarPlan of(const EditPlan& plan, const QString& photo, const Held& sidecar, const Held& file,
         const ListHomes::SeenLists& seen, const QString& savedAt);

@@ -219,17 +219,6 @@ QList<Assignment> argsOfCustoms(const EditPlan& plan)
     return args;
 }
 
-// What other programs want to know of a sidecar.
-QList<Assignment> noteArgs(const SidecarNote& note)
-{
-    QList<Assignment> args;
-    if (!note.extension.isEmpty())
-        args.append({ .tag = u"XMP-photoshop:SidecarForExtension"_s, .value = note.extension });
-    if (!note.savedAt.isEmpty())
-        args.append({ .tag = u"XMP-xmp:MetadataDate"_s, .value = note.savedAt });
-    return args;
-}
-
 QList<Assignment> fieldArgs(const EditPlan& plan)
 {
     QList<Assignment> args;
@@ -261,6 +250,16 @@ QList<Assignment> languageArgs(const EditPlan& plan)
 }
 
 }  // namespace
+
+QList<Assignment> noteArgs(const SidecarNote& note)
+{
+    QList<Assignment> args;
+    if (!note.extension.isEmpty())
+        args.append({ .tag = u"XMP-photoshop:SidecarForExtension"_s, .value = note.extension });
+    if (!note.savedAt.isEmpty())
+        args.append({ .tag = u"XMP-xmp:MetadataDate"_s, .value = note.savedAt });
+    return args;
+}
 
 WriteCommand command(const EditPlan& plan)
 {

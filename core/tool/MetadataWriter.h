@@ -9,6 +9,7 @@
 namespace Quorbel {
 struct EditPlan;
 struct FieldSpec;
+struct SidecarNote;
 }  // namespace Quorbel
 
 namespace Quorbel::MetadataWriter {
@@ -32,6 +33,8 @@ QList<Assignment> listArgs(const FieldSpec& field, const QStringList& values, Li
 /// One assignment, or none when the name has no storable character, or is the one that stands for all of the group:
 /// an assignment of "All" deletes every custom field.
 QList<Assignment> customArgs(const QString& name, const QString& value);
+/// What other programs want to know of a sidecar.
+QList<Assignment> noteArgs(const SidecarNote& note);
 /// What one save tells the tool: scalars, lists (as they stand, where the plan's are exact), items that are taken away
 /// ("-=" alone, for every write tag of the list, behind all that is added), custom values, what
 /// belongs together with them, and texts in further languages. Field ids that the schema does not know are skipped, and

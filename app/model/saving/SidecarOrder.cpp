@@ -5,8 +5,6 @@
 #include "core/save/journal/JournalTags.h"
 #include "core/schema/CustomFields.h"
 #include "core/sidecar/SidecarPlan.h"
-#include "core/text/WallClock.h"
-#include "core/text/ZoneOffset.h"
 
 #include <QFile>
 
@@ -28,12 +26,6 @@ struct SidecarOrder::Read {
 };
 
 namespace {
-
-QString now()
-{
-    const QDateTime now = QDateTime::currentDateTime();
-    return WallClock::stored(now) + ZoneOffset::text(now.offsetFromUtc() / 60);
-}
 
 // Whether the plan can be told for a sidecar without a look at the photo.
 bool needsPhoto(const EditPlan& plan)
@@ -69,7 +61,7 @@ SidecarOrder::SidecarOrder(const MetadataService& service, const SaveJob::Order&
         if (files.at(i) != given.targets.at(i))
             beside.append(given.targets.at(i));
     const Read read = this->read(service, beside);
-    const QString savedAt = now();
+    const QString savedAt = SidecarPlan::savedAt();
     m_order.targets.clear();
     for (qsizetype i = 0; i < files.size(); ++i) {
         if (files.at(i) == given.targets.at(i))

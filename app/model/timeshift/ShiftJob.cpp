@@ -3,12 +3,11 @@
 #include "app/model/library/PhotoReader.h"
 #include "app/model/saving/ReplacedFilesPoll.h"
 #include "app/model/saving/SaveReasons.h"
+#include "app/model/timeshift/ShiftFiles.h"
 #include "core/save/Companions.h"
 #include "core/save/SafeWriter.h"
 #include "core/save/SaveGuard.h"
 #include "core/text/Text.h"
-
-#include <QFile>
 
 #include <algorithm>
 
@@ -23,23 +22,25 @@ EditPlan planOf(const PhotoShift& photo)
 {
     EditPlan plan;
     plan.together.insert(u"date"_s, photo.assignments);
+    if (photo.isOfSidecar)
+        plan.sidecar = SidecarNote();
     return plan;
 }
 
-// The targets that are asked the same together.
-QList<SafeWriter::Portion> portions(const QList<QUrl>& targets, const QHash<QUrl, PhotoShift>& photos)
+// The files that are asked the same together.
+QList<SafeWriter::Portion> portions(const QList<QUrl>& files, const QHash<QUrl, PhotoShift>& shifts)
 {
     QList<SafeWriter::Portion> portions;
     QHash<QStringList, qsizetype> known;
-    for (const QUrl& target : targets) {
-        const QList<Assignment> assignments = photos.value(target).assignments;
+    for (const QUrl& file : files) {
+        const QList<Assignment> assignments = shifts.value(file).assignments;
         const QStringList key = arguments(assignments);
         const qsizetype at = known.value(key, portions.size());
         if (at == portions.size()) {
             known.insert(key, at);
             portions.append({ .command = { .assignments = assignments } });
         }
-        portions[at].targets.append(target);
+        portions[at].targets.append(file);
     }
     return portions;
 }
@@ -75,33 +76,53 @@ QList<FileFailure> failuresOf(const SafeWriter::Outcome& outcome, const QList<Sa
     return failures;
 }
 
-void write(const MetadataService& service, const QList<QUrl>& targets, const WriteOptions& options, Written& written)
+// Mirrors of photos. One that shares its base name with a photo whose edits go beside it has none.
+void mirror(const MetadataService& service, QList<QUrl> targets, Written& written)
 {
-    const QList<SafeWriter::Portion> given = portions(targets, written.photos);
-    try {
-        written.failures +=
-            failuresOf(SafeWriter::writeEach(service.runner, given, options.backupOriginals, &written.notes), given);
-    } catch (const Error& error) {
-        for (const QUrl& target : targets)
-            written.failures.append({ target, error.description() });
-    }
+    const SidecarPolicy& policy = service.sidecars;
+    targets.removeIf([&policy](const QUrl& target) {
+        return policy.isInUse() && (policy.isBeside(target) || policy.sharesBase(target));
+    });
     // They take over what the photos hold by then: a shift of their own would be a second one.
-    written.notes.sidecars += Companions::writeSidecars(service.runner, {}, options.mirrored(targets), {});
+    written.notes.sidecars += Companions::writeSidecars(service.runner, {}, targets, {});
+}
+
+void writeSome(const MetadataService& service, const QList<SafeWriter::Portion>& some, bool backup, Written& written)
+{
+    if (some.isEmpty())
+        return;
+    try {
+        written.failures += failuresOf(SafeWriter::writeEach(service.runner, some, backup, &written.notes), some);
+    } catch (const Error& error) {
+        for (const SafeWriter::Portion& portion : some)
+            for (const QUrl& file : portion.targets)
+                written.failures.append({ file, error.description() });
+    }
+}
+
+// By the file that changes; photos that share one agree. Sidecars are kept whole in the journal, and need no backup.
+void write(const MetadataService& service, const QList<QUrl>& files, const QHash<QUrl, PhotoShift>& shifts, bool backup,
+    Written& written)
+{
+    QList<QUrl> photos = files;
+    QList<QUrl> sidecars = files;
+    photos.removeIf([&shifts](const QUrl& file) { return shifts.value(file).isOfSidecar; });
+    sidecars.removeIf([&shifts](const QUrl& file) { return !shifts.value(file).isOfSidecar; });
+    writeSome(service, portions(photos, shifts), backup, written);
+    writeSome(service, portions(sidecars, shifts), false, written);
 }
 
 // By target.
-void decide(const Order& order, const OldValues& values, Written& written)
+void decide(const Order& order, const ShiftFiles& files, const OldValues& values, Written& written)
 {
-    const QList<QUrl> files = SaveGuard::filesBehindLinks(order.targets);
-    for (qsizetype i = 0; i < files.size(); ++i) {
-        const QUrl& target = order.targets.at(i);
-        const auto held = values.constFind(QFile::encodeName(files.at(i).toLocalFile()));
-        if (held == values.cend()) {
+    for (const QUrl& target : order.targets) {
+        const auto photo = files.shifted(target, order.shifts.value(target), values);
+        if (!photo) {
             written.failures.append({ target, u"cannot be read any more"_s });
             continue;
         }
-        written.before.insert(target, PhotoShift::among(*held));
-        written.photos.insert(target, PhotoShift::of(order.shifts.value(target), *held));
+        written.before.insert(target, photo->watched(files.held(target, values)));
+        written.photos.insert(target, *photo);
     }
 }
 
@@ -119,10 +140,12 @@ QList<QUrl> changed(const Order& order, const Written& written)
 void readSlice(const MetadataService& service, const QList<QUrl>& targets, const std::stop_token& stop,
     TaskProgress& progress, Looked& looked)
 {
-    for (const QUrl& target : targets)
-        if (const auto stamp = FileStamp::of(target.toLocalFile()))
-            looked.stamps.insert(target, *stamp);
-    looked.values.insert(service.oldValues(PhotoShift::tags(), targets,
+    const ShiftFiles files(service.sidecars, targets);
+    const QList<QUrl> read = files.toRead();
+    for (const QUrl& file : read)
+        if (const auto stamp = FileStamp::of(file.toLocalFile()))
+            looked.stamps.insert(file, *stamp);
+    looked.values.insert(service.oldValues(files.tags(), read,
         { .progress = {}, .stop = stop, .started = [&progress](qint64 id) { progress.processID = id; } }));
     progress.processID = 0;
 }
@@ -130,26 +153,47 @@ void readSlice(const MetadataService& service, const QList<QUrl>& targets, const
 void runAll(const MetadataService& service, const Order& order, Looked looked,
     const std::shared_ptr<SaveHistory>& history, TaskProgress& progress, Written& written)
 {
-    QList<QUrl> stale = order.targets;
-    stale.removeIf([&looked](const QUrl& target) {
-        const auto stamp = looked.stamps.constFind(target);
-        return stamp != looked.stamps.cend() && FileStamp::of(target.toLocalFile()) == *stamp;
-    });
+    const ShiftFiles files(service.sidecars, order.targets);
+    const QList<QUrl> stale = files.changedSince(looked.stamps);
     if (!stale.isEmpty())
         readSlice(service, stale, {}, progress, looked);
-    decide(order, looked.values, written);
+    decide(order, files, looked.values, written);
     const QList<QUrl> targets = changed(order, written);
+    const QList<QUrl> changing = files.written(targets);
     // All or none: a read-only photo is found before any other is written.
-    SaveGuard::requireWritable(SaveGuard::filesBehindLinks(targets));
-    const auto plan = [&written](const QUrl& target) { return planOf(written.photos.value(target)); };
-    JournalEntry entry = history ? SaveUndo::journalEntry(looked.values, plan, targets, order.options) : JournalEntry();
+    SaveGuard::requireWritable(SaveGuard::filesBehindLinks(changing));
+    QHash<QUrl, PhotoShift> shifts;
+    for (const QUrl& target : targets)
+        shifts.insert(files.written(target), written.photos.value(target));
+    const auto plan = [&shifts](const QUrl& file) { return planOf(shifts.value(file)); };
+    JournalEntry entry =
+        history ? SaveUndo::journalEntry(looked.values, plan, changing, order.options) : JournalEntry();
     entry.isTimeShift = true;
+    files.addTo(entry);
     {
-        const ReplacedFilesPoll poll(targets, progress.done);
-        write(service, targets, order.options, written);
+        const ReplacedFilesPoll poll(changing, progress.done);
+        const QList<FileFailure> earlier = std::exchange(written.failures, {});
+        write(service, changing, shifts, order.options.backupOriginals, written);
+        written.failures = earlier + files.byTarget(written.failures);
+        mirror(service, order.options.mirrored(targets), written);
     }
     if (history)
         written.undoable = history->add(entry);
+}
+
+// A sidecar that is not there holds nothing.
+QHash<QUrl, FileTags> storedNow(const MetadataService& service, QList<QUrl> targets, const std::stop_token& stop)
+{
+    const QStringList tags = ShiftFiles(service.sidecars, targets).tags();
+    QHash<QUrl, FileTags> stored;
+    targets.removeIf([&](const QUrl& target) {
+        const bool isWithout = service.sidecars.isBeside(target) && service.sidecars.existing(target).isEmpty();
+        if (isWithout)
+            stored.insert(target, {});
+        return isWithout;
+    });
+    stored.insert(service.stored(tags, targets, { .progress = {}, .stop = stop, .started = {} }));
+    return stored;
 }
 
 QString counted(qsizetype count, qsizetype all)
@@ -226,7 +270,7 @@ Checked check(const MetadataService& service, const Order& order, const Written&
         readable.append(record.url);
     QHash<QUrl, FileTags> now;
     try {
-        now = service.stored(PhotoShift::tags(), readable, { .progress = {}, .stop = stop, .started = {} });
+        now = storedNow(service, readable, stop);
     } catch (const std::exception& error) {
         checked.error = QString::fromUtf8(error.what());
         return checked;
@@ -239,7 +283,7 @@ Checked check(const MetadataService& service, const Order& order, const Written&
         const auto found = now.constFind(target);
         const bool isKnown = photo != written.photos.cend() && found != now.cend();
         const QStringList differences = isKnown ? photo->differences(*found) : QStringList();
-        if (!isKnown || (!differences.isEmpty() && PhotoShift::among(*found) == written.before.value(target)))
+        if (!isKnown || (!differences.isEmpty() && photo->watched(*found) == written.before.value(target)))
             checked.failures.append({ target,
                 reasons.value(target,
                     tooSlow.contains(target) ? u"reading it back took too long"_s

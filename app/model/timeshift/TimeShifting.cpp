@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/Background.h"
 #include "app/model/pairs/Pairing.h"
+#include "app/model/timeshift/ShiftFiles.h"
 #include "core/save/TagHomes.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/StoredTime.h"
@@ -28,6 +29,13 @@ const QStringList& shownTags()
     return tags;
 }
 
+// And those of sidecars beside photos.
+const QStringList& shownBesideTags()
+{
+    static const QStringList tags{ u"XMP-exif:DateTimeOriginal"_s, u"XMP-exif:DateTimeDigitized"_s };
+    return tags;
+}
+
 // A whole number; nothing typed is none of it.
 std::optional<qint64> numberIn(const QString& typed)
 {
@@ -46,12 +54,13 @@ bool hasSeconds(const QString& typed)
 }
 
 // The stored time that the record shows to the minute.
-std::optional<QDateTime> exactClock(const QDateTime& shown, const FileTags& stored)
+std::optional<QDateTime> exactClock(const QDateTime& shown, const QList<FileTags>& stored)
 {
-    for (const QString& tag : shownTags())
-        if (const auto time = StoredTime::from(TagHomes::itemsOf(tag, stored).value(0));
-            time && WallClock::shown(time->clock) == WallClock::shown(shown))
-            return time->clock;
+    for (const FileTags& tags : stored)
+        for (const QString& tag : shownTags() + shownBesideTags())
+            if (const auto time = StoredTime::from(TagHomes::itemsOf(tag, tags).value(0));
+                time && WallClock::shown(time->clock) == WallClock::shown(shown))
+                return time->clock;
     return std::nullopt;
 }
 
@@ -333,12 +342,14 @@ void TimeShifting::readExact()
         this,
         [service = *m_access.service, wanted] {
             try {
-                return service.stored(shownTags(), wanted);
+                const ShiftFiles files(service.sidecars, wanted);
+                const QStringList beside = files.areAnyBeside() ? shownBesideTags() : QStringList();
+                return files.stored(service.runner, shownTags() + beside);
             } catch (const std::exception&) {
-                return QHash<QUrl, FileTags>();  // then the minute has to do
+                return QHash<QUrl, QList<FileTags>>();  // then the minute has to do
             }
         },
-        [this, wanted, opened = m_opened](const QHash<QUrl, FileTags>& stored) {
+        [this, wanted, opened = m_opened](const QHash<QUrl, QList<FileTags>>& stored) {
             if (!m_isOpen || opened != m_opened)
                 return;
             m_answered.unite(QSet<QUrl>(wanted.cbegin(), wanted.cend()));

@@ -267,7 +267,7 @@ JournalEntry journalEntry(const OldValues& known, const std::function<EditPlan(c
         const EditPlan plan = planOf(targets[i]);
         const QString path = files[i].toLocalFile();
         if (plan.sidecar) {
-            if (const auto file = plan.isEmpty() ? std::nullopt : wholeFile(path))
+            if (const auto file = plan.isEmpty() && plan.together.isEmpty() ? std::nullopt : wholeFile(path))
                 entry.files.append(*file);
             continue;
         }

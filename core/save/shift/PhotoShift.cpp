@@ -1,6 +1,7 @@
 #include "core/save/shift/PhotoShift.h"
 
 #include "core/save/TagHomes.h"
+#include "core/save/shift/SidecarShift.h"
 #include "core/text/StoredTime.h"
 #include "core/text/ZoneOffset.h"
 
@@ -242,9 +243,14 @@ FileTags PhotoShift::among(const FileTags& held)
     return found;
 }
 
+FileTags PhotoShift::watched(const FileTags& held) const
+{
+    return isOfSidecar ? SidecarShift::among(held) : among(held);
+}
+
 QStringList PhotoShift::differences(const FileTags& found) const
 {
-    const FileTags now = among(found);
+    const FileTags now = watched(found);
     QStringList keys = expected.keys() + now.keys();
     keys.removeDuplicates();
     keys.removeIf([&](const QString& key) { return expected.value(key) == now.value(key); });

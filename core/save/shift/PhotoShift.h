@@ -20,6 +20,7 @@ struct PhotoShift {
     QStringList leftAlone{};
     /// The moment was to stay, and the zone that the clock is in is not known: nothing changes.
     bool hasNoZone = false;
+    bool isOfSidecar = false;  ///< what is changed and expected is the photo's sidecar; see SidecarShift
     bool operator==(const PhotoShift&) const = default;
 
     /// The tags that have to be known, named as assignments name them.
@@ -32,6 +33,8 @@ struct PhotoShift {
     QStringList differences(const FileTags& found) const;
     /// Of what a file holds, what stands in tags().
     static FileTags among(const FileTags& held);
+    /// The same of the file that this changes.
+    FileTags watched(const FileTags& held) const;
 };
 
 }  // namespace Quorbel

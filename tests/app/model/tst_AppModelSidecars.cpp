@@ -2,15 +2,13 @@
 // own file stays what it was, to the byte and to its times.
 #include "core/schema/FieldSchema.h"
 #include "core/sidecar/SidecarSchema.h"
-#include "tests/app/model/ModelFixture.h"
+#include "tests/app/model/RawPhotos.h"
 #include "tests/support/RecordedTool.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
-
-#include <sys/stat.h>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -20,88 +18,6 @@ Q_DECLARE_METATYPE(Quorbel::SidecarNaming)
 using Values = QMap<QString, QString>;
 
 namespace {
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-}
-
-struct Raws : ModelFixture {
-    Raws()
-        : ModelFixture(MetadataService{ realTool() })
-    {
-        services.journalPath = journal.filePath(u"undo.json"_s);
-        model->preferences().confirmMassEdit.set(false);
-        model->preferences().saveDontAsk.set(true);
-        model->preferences().backupOriginals.set(false);
-        model->preferences().rawBeside.set(true);
-        relaunch();
-    }
-    // A photo with these tags in its own file, of long ago.
-    QString addRaw(const QString& name, const QStringList& assignments = {})
-    {
-        const QString path = folder.path(name);
-        const QString tiff = folder.add(name + u".tif"_s).toLocalFile();
-        if (!assignments.isEmpty())
-            exiftool(QStringList{ u"-overwrite_original"_s, u"-q"_s } + assignments << tiff);
-        QFile::rename(tiff, path);
-        QFile file(path);
-        if (file.open(QIODevice::ReadWrite))
-            file.setFileTime(QDateTime::fromSecsSinceEpoch(1500000000), QFileDevice::FileModificationTime);
-        file.close();
-        untouched.insert(path, state(path));
-        return path;
-    }
-    bool isUntouched() const
-    {
-        return std::all_of(untouched.keyBegin(), untouched.keyEnd(),
-            [&](const QString& path) { return state(path) == untouched[path]; });
-    }
-    bool save()
-    {
-        model->setErrorMessage(std::nullopt);
-        model->requestSave();
-        return waitUntilIdle();
-    }
-    bool undo()
-    {
-        model->setErrorMessage(std::nullopt);
-        model->undoSave();
-        return waitUntilIdle();
-    }
-    bool reopen()
-    {
-        relaunch();
-        return open();
-    }
-    QString shown(const QString& name, const QString& id) const { return model->record(url(name))->values.value(id); }
-    QStringList items(const QString& name, const QString& id) const
-    {
-        return model->record(url(name))->lists.value(id);
-    }
-    // As the tool prints it alone.
-    QString stored(const QString& name, const QString& tag) const
-    {
-        return QString::fromUtf8(exiftool({ u"-s3"_s, u"-sep"_s, u"; "_s, u'-' + tag, folder.path(name) })).trimmed();
-    }
-    QString banner() const { return model->errorMessage().value_or(QString()); }
-    QByteArray sidecar(const QString& name) const { return contentOf(folder.path(name)); }
-
-    QTemporaryDir journal;
-    QMap<QString, QByteArray> untouched;
-
-private:
-    // Bytes, inode, and when it was changed, which no program can turn back.
-    static QByteArray state(const QString& path)
-    {
-        struct stat status { };
-        stat(QFile::encodeName(path).constData(), &status);
-        return contentOf(path) + QByteArray::number(qint64(status.st_ino)) + '/'
-            + QByteArray::number(qint64(status.st_ctim.tv_sec)) + '.'
-            + QByteArray::number(qint64(status.st_ctim.tv_nsec));
-    }
-};
 
 const QMap<QString, QString>& texts()
 {
@@ -156,7 +72,7 @@ void tst_AppModelSidecars::everyFieldGoesBeside_data()
 void tst_AppModelSidecars::everyFieldGoesBeside()
 {
     QFETCH(QString, position);
-    Raws raws;
+    RawPhotos raws;
     raws.addRaw(u"a.NEF"_s, ownTags());
     QVERIFY(raws.open());
     raws.click(u"a.NEF"_s);
@@ -195,7 +111,7 @@ void tst_AppModelSidecars::everyFieldGoesBeside()
 
 void tst_AppModelSidecars::emptiedFieldsHideTheFiles()
 {
-    Raws raws;
+    RawPhotos raws;
     raws.addRaw(u"a.NEF"_s, ownTags());
     QVERIFY(raws.open());
     raws.click(u"a.NEF"_s);
@@ -232,7 +148,7 @@ void tst_AppModelSidecars::emptiedFieldsHideTheFiles()
 // One whose list only the file holds, one whose sidecar has its own, one without any, and one that is no raw file.
 void tst_AppModelSidecars::listsGainAndLose()
 {
-    Raws raws;
+    RawPhotos raws;
     raws.addRaw(u"a.NEF"_s,
         { u"-IPTC:Keywords=one"_s, u"-IPTC:Keywords=two"_s, u"-XMP-lr:HierarchicalSubject=N|one"_s,
             u"-XMP-lr:HierarchicalSubject=N|two"_s });
@@ -267,7 +183,7 @@ void tst_AppModelSidecars::listsGainAndLose()
 
 void tst_AppModelSidecars::undoGivesTheSidecarBack()
 {
-    Raws raws;
+    RawPhotos raws;
     raws.addRaw(u"a.NEF"_s, ownTags());
     QVERIFY(raws.open());
     raws.click(u"a.NEF"_s);
@@ -300,7 +216,7 @@ void tst_AppModelSidecars::undoGivesTheSidecarBack()
 
 void tst_AppModelSidecars::customFields()
 {
-    Raws raws;
+    RawPhotos raws;
     raws.addRaw(u"a.NEF"_s);
     QVERIFY(raws.open());
     raws.click(u"a.NEF"_s);
@@ -341,7 +257,7 @@ void tst_AppModelSidecars::namesOfSidecars()
     QFETCH(QStringList, others);
     QFETCH(SidecarNaming, naming);
     QFETCH(QString, sidecar);
-    Raws raws;
+    RawPhotos raws;
     raws->preferences().sidecarNaming.set(naming);
     raws->preferences().writeSidecar.set(true);
     raws.addRaw(photo, { u"-XMP-dc:Title=own"_s });
@@ -382,7 +298,7 @@ void tst_AppModelSidecars::namesOfSidecars()
 
 void tst_AppModelSidecars::linkedAndReadOnly()
 {
-    Raws raws;
+    RawPhotos raws;
     const PhotoFolder elsewhere;
     const QString behind = elsewhere.path(u"kept.xmp"_s);
     exiftool({ u"-q"_s, u"-XMP-dc:Title=kept"_s, behind });
@@ -465,7 +381,7 @@ void tst_AppModelSidecars::othersSidecars()
     QFETCH(QByteArray, sidecar);
     QFETCH(Values, shown);
     QFETCH(QStringList, keywords);
-    Raws raws;
+    RawPhotos raws;
     raws.addRaw(u"a.NEF"_s, ownTags());
     raws.folder.add(u"a.NEF.xmp"_s, sidecar);
     QVERIFY(raws.open());
@@ -536,7 +452,7 @@ void tst_AppModelSidecars::brokenSidecars_data()
 void tst_AppModelSidecars::brokenSidecars()
 {
     QFETCH(QByteArray, content);
-    Raws raws;
+    RawPhotos raws;
     raws.addRaw(u"a.NEF"_s, ownTags());
     raws.folder.add(u"a.xmp"_s, content);
     QVERIFY(raws.open());
@@ -554,7 +470,7 @@ void tst_AppModelSidecars::brokenSidecars()
 // A folder in the sidecar's place is named, and the photos in it are none of the save's.
 void tst_AppModelSidecars::folderOfTheName()
 {
-    Raws raws;
+    RawPhotos raws;
     raws.addRaw(u"a.NEF"_s, ownTags());
     QVERIFY(QDir(raws.folder.path()).mkdir(u"a.xmp"_s));
     raws.folder.add(u"a.xmp/inside.jpg"_s);
@@ -574,7 +490,7 @@ void tst_AppModelSidecars::folderOfTheName()
 // Named as well, but there is nothing in it that a save could break.
 void tst_AppModelSidecars::emptySidecar()
 {
-    Raws raws;
+    RawPhotos raws;
     raws.addRaw(u"a.NEF"_s, ownTags());
     writeFile(raws.folder.path(u"a.xmp"_s), {});
     QVERIFY(raws.open());
@@ -595,7 +511,7 @@ void tst_AppModelSidecars::emptySidecar()
 // Only raw files go beside, and the mirror of a JPEG never takes a raw file's sidecar.
 void tst_AppModelSidecars::othersAreWrittenAsEver()
 {
-    Raws raws;
+    RawPhotos raws;
     raws->preferences().writeSidecar.set(true);
     raws->preferences().backupOriginals.set(true);
     exiftool({ u"-q"_s, u"-XMP-dc:Title=Theirs"_s, raws.folder.path(u"a.xmp"_s) });
