@@ -137,7 +137,7 @@ PortionsOutcome MetadataService::writeEach(
 
 QHash<QUrl, PhotoDetails> MetadataService::details(const QList<ImageRecord>& photos, const ReadControl& control) const
 {
-    return DetailsRead::of(runner, photos, control);
+    return DetailsRead::of(runner, sidecars, photos, control);
 }
 
 QMap<QUrl, QMap<QString, QString>> MetadataService::refusedHomes(const EditPlan& plan, const QList<QUrl>& targets) const

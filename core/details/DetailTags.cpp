@@ -5,6 +5,7 @@
 #include "core/iptc/IptcSchema.h"
 #include "core/schema/FieldSchema.h"
 #include "core/schema/KeywordPath.h"
+#include "core/sidecar/SidecarSchema.h"
 
 namespace Quorbel::DetailTags {
 
@@ -35,6 +36,15 @@ QStringList all()
 {
     return FieldHomes::readTags() + IptcSchema::readTags() + languageTags() + pathTags() + Credentials::tags()
         << error();
+}
+
+QStringList ofSidecars()
+{
+    QStringList tags = all() + SidecarSchema::readTags() << u"FileType"_s << u"Warning"_s;
+    const QStringList ofBoxes = Credentials::tags();
+    tags.removeIf([&ofBoxes](const QString& tag) { return ofBoxes.contains(tag) || tag.startsWith(u"Composite:"_s); });
+    tags.removeDuplicates();
+    return tags;
 }
 
 QString error()

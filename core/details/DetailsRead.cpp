@@ -4,6 +4,7 @@
 #include "core/details/Credentials.h"
 #include "core/details/DetailTags.h"
 #include "core/details/Disagreements.h"
+#include "core/details/SidecarDetails.h"
 #include "core/iptc/IptcValues.h"
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
@@ -45,37 +46,56 @@ QStringList paths(const JSONObject& tags)
     return found;
 }
 
-PhotoDetails details(
-    const ExifToolRunner& runner, const ImageRecord& photo, const JSONObject& tags, const ReadControl& control)
+PhotoDetails heldIn(const JSONObject& tags)
 {
     const IptcValues iptc = IptcValues::fromRead(tags);
     QMap<QString, QString> texts = languages(tags);
     texts.insert(iptc.texts);
-    return { .url = photo.url,
-        .texts = texts,
-        .lists = iptc.lists,
-        .paths = paths(tags),
-        .disagreements = Disagreements::of(photo, tags),
-        .hasCredentials = Credentials::isSealed(runner, photo.url, tags, control) };
+    return { .texts = texts, .lists = iptc.lists, .paths = paths(tags) };
+}
+
+PhotoDetails details(const ImageRecord& photo, const JSONObject& tags)
+{
+    PhotoDetails details = heldIn(tags);
+    details.url = photo.url;
+    details.disagreements = Disagreements::of(photo, tags);
+    return details;
+}
+
+PhotoDetails besideDetails(const ImageRecord& photo, const JSONObject& file, const JSONObject& sidecar)
+{
+    PhotoDetails details = heldIn(file);
+    const PhotoDetails own = heldIn(sidecar);
+    details.url = photo.url;
+    details.paths = SidecarDetails::paths(details.paths, own.paths, sidecar);
+    SidecarDetails::putOver(details, own, sidecar);
+    details.disagreements = Disagreements::beside(photo, file, sidecar);
+    return details;
 }
 
 }  // namespace
 
-QHash<QUrl, PhotoDetails> of(const ExifToolRunner& runner, const QList<ImageRecord>& photos, const ReadControl& control)
+QHash<QUrl, PhotoDetails> of(const ExifToolRunner& runner, const SidecarPolicy& policy,
+    const QList<ImageRecord>& photos, const ReadControl& control)
 {
     QList<QUrl> files;
     for (const ImageRecord& photo : photos)
         files.append(photo.url);
     const QList<JSONObject> objects = runner.readDetails(DetailTags::all(), files, control).objects;
     const AnswersByFile answers(objects);
+    const QHash<QUrl, JSONObject> sidecars = SidecarDetails::read(runner, policy, photos, control);
     QHash<QUrl, PhotoDetails> found;
     for (qsizetype i = 0; i < photos.size(); ++i) {
         if (control.stop.stop_requested())
             throw CancelledError();
         const ImageRecord& photo = photos.at(i);
         const JSONObject* tags = answers.of(photo.url.toLocalFile(), i, photos.size());
-        if (tags && !tags->contains(DetailTags::error()))
-            found.insert(photo.url, details(runner, photo, *tags, control));
+        if (!tags || tags->contains(DetailTags::error()))
+            continue;
+        PhotoDetails held =
+            policy.isBeside(photo.url) ? besideDetails(photo, *tags, sidecars.value(photo.url)) : details(photo, *tags);
+        held.hasCredentials = Credentials::isSealed(runner, photo.url, *tags, control);
+        found.insert(photo.url, held);
     }
     return found;
 }

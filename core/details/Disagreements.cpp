@@ -1,9 +1,12 @@
 #include "core/details/Disagreements.h"
 
 #include "core/details/FieldHomes.h"
+#include "core/details/FileHome.h"
+#include "core/details/SidecarDetails.h"
 #include "core/save/ListHomes.h"
 #include "core/save/TagHomes.h"
 #include "core/schema/FieldSchema.h"
+#include "core/sidecar/SidecarSchema.h"
 #include "core/tool/MetadataWriter.h"
 
 #include <algorithm>
@@ -34,22 +37,57 @@ public:
         const Home* shown = shownHome();
         if (!shown)
             return {};
-        QList<FieldHome> alike{ place(*shown, true) };
-        QList<FieldHome> others;
-        QStringList seen{ shown->held.tag };
+        const Sorted sorted = against(*shown, { shown->held.tag });
+        return sorted.others.isEmpty() ? sorted.others : QList{ place(*shown, true) } + sorted.alike + sorted.others;
+    }
+
+    // The same of these homes, which a sidecar has, and of those of the photo's own file.
+    QList<FieldHome> placesBeside(const Comparison& file) const
+    {
+        const Home* found = shownHome();
+        const Home shown = found ? *found : emptied();
+        const Sorted own = against(shown, { shown.held.tag });
+        const Sorted others = file.against(shown, {});
+        if (own.others.isEmpty() && others.others.isEmpty())
+            return {};
+        return QList{ place(shown, true) } + own.alike + own.others + ofFile(others.alike + others.others);
+    }
+
+    static QList<FieldHome> ofFile(QList<FieldHome> homes)
+    {
+        for (FieldHome& home : homes)
+            home = FileHome::of(home);
+        return homes;
+    }
+
+private:
+    struct Sorted {
+        QList<FieldHome> alike{};
+        QList<FieldHome> others{};
+    };
+
+    // Those that hold something. `seen`: tags that are left out.
+    Sorted against(const Home& shown, QStringList seen) const
+    {
+        Sorted sorted;
         for (const Home& home : m_homes) {
             if (home.isForeign || isBlank(home) || seen.contains(home.held.tag))
                 continue;
             seen.append(home.held.tag);
-            if (!shown->isStructure && isSomePlaceSame(home.held.tag, *shown))
-                alike.append(place(home, true));
-            else
-                others.append(place(home, false));
+            const bool isAlike = !shown.isStructure && isSomePlaceSame(home.held.tag, shown);
+            (isAlike ? sorted.alike : sorted.others).append(place(home, isAlike));
         }
-        return others.isEmpty() ? others : alike + others;
+        return sorted;
     }
 
-private:
+    // A position that holds no numbers.
+    Home emptied() const
+    {
+        const QString tag = m_field.kind == FieldKind::coordinates ? u"XMP-exif:GPSLatitude · GPSLongitude"_s
+                                                                   : m_field.writeTags.value(0);
+        return { .held = { .tag = tag, .items = { QString() } } };
+    }
+
     bool isSame(const Home& a, const Home& b) const { return HomeComparison::isSame(m_field, a.held, b.held); }
     bool isBlank(const Home& home) const { return HomeComparison::isBlank(m_field, home.held); }
 
@@ -136,6 +174,23 @@ QMap<QString, QList<FieldHome>> of(const ImageRecord& photo, const JSONObject& t
     for (const FieldSpec& field : FieldSchema::all())
         if (const auto places = Comparison(field, photo, tags).places(); !places.isEmpty())
             found.insert(field.id, places);
+    return found;
+}
+
+QMap<QString, QList<FieldHome>> beside(const ImageRecord& photo, const JSONObject& file, const JSONObject& sidecar)
+{
+    QMap<QString, QList<FieldHome>> found;
+    if (photo.isUnread)
+        return found;
+    for (const FieldSpec& field : FieldSchema::all()) {
+        const FieldSpec& inSidecar = *SidecarSchema::spec(field.id);
+        const Comparison own(inSidecar, photo, sidecar);
+        const Comparison ofFile(field, photo, file);
+        const auto places = SidecarDetails::decides(inSidecar, sidecar) ? own.placesBeside(ofFile)
+                                                                        : Comparison::ofFile(ofFile.places());
+        if (!places.isEmpty())
+            found.insert(field.id, places);
+    }
     return found;
 }
 

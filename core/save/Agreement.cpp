@@ -1,8 +1,10 @@
 #include "core/save/Agreement.h"
 
+#include "core/details/FileHome.h"
 #include "core/details/HomeComparison.h"
 #include "core/save/TagHomes.h"
 #include "core/schema/FieldSchema.h"
+#include "core/sidecar/SidecarSchema.h"
 #include "core/text/WallClock.h"
 #include "core/tool/MetadataWriter.h"
 
@@ -64,10 +66,11 @@ EditPlan plan(const ImageRecord& photo, const PhotoDetails& details)
         const QList<FieldHome> homes = withoutForeign(*found);
         if (!field || homes.isEmpty())
             continue;
-        const bool isForeignShown = homes.size() < found->size();
+        const bool isForeignShown = std::any_of(found->cbegin(), found->cend(),
+            [](const FieldHome& home) { return home.isForeign && !FileHome::is(home); });
         const bool isSeveral =
             std::any_of(homes.cbegin(), homes.cend(), [](const FieldHome& home) { return home.isSeveral; });
-        if (isSeveral || (isForeignShown && areAlike(*field, homes)))
+        if (isSeveral || (homes.size() < found->size() && areAlike(*field, homes)))
             continue;
         add(plan, *field, homes.constFirst(), photo);
         if (isForeignShown)
@@ -76,11 +79,11 @@ EditPlan plan(const ImageRecord& photo, const PhotoDetails& details)
     return plan;
 }
 
-QStringList dateTags(const EditPlan& plan)
+QStringList dateTags(const EditPlan& plan, bool isBeside)
 {
     QStringList tags;
     for (const QString& id : dateFields(plan))
-        tags += FieldSchema::spec(id)->writeTags;
+        tags += (isBeside ? SidecarSchema::spec(id) : FieldSchema::spec(id))->writeTags;
     return tags;
 }
 
@@ -88,7 +91,7 @@ EditPlan withSeconds(EditPlan plan, const FileTags& stored)
 {
     for (const QString& id : dateFields(plan)) {
         QString& shown = plan.scalars[id];
-        for (const QString& tag : FieldSchema::spec(id)->writeTags)
+        for (const QString& tag : FieldSchema::spec(id)->writeTags + SidecarSchema::spec(id)->writeTags)
             for (const QString& text : TagHomes::itemsOf(tag, stored))
                 if (MetadataWriter::displayDate(text) == shown && WallClock::fromTyped(text))
                     shown = text;

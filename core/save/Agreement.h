@@ -8,12 +8,13 @@
 
 namespace Quorbel::Agreement {
 
-/// Empty where nothing is to be written. Not among its fields is one of which only a tag of another standard says
-/// something else, since that tag is never written; and a text that some home keeps as several items (creators), which
-/// would become one.
+/// Empty where nothing is to be written. Not among its fields is one of which only a tag of another standard, or the
+/// own file of a photo whose edits go beside it, says something else, since those are never written; and a text that
+/// some home keeps as several items (creators), which would become one.
 EditPlan plan(const ImageRecord& photo, const PhotoDetails& details);
-/// The tags of the plan's dates, which are shown to the minute.
-QStringList dateTags(const EditPlan& plan);
+/// The tags of the plan's dates, which are shown to the minute. `isBeside`: of a photo whose edits go beside it, as its
+/// sidecar has them.
+QStringList dateTags(const EditPlan& plan, bool isBeside = false);
 /// The plan with its dates to the second, as one of their homes has them. `stored`: what the photo holds in those tags.
 EditPlan withSeconds(EditPlan plan, const FileTags& stored);
 

@@ -20,21 +20,20 @@ QString reasonForNoFile(const QFileInfo& sidecar)
     return sidecar.size() == 0 ? u"File is empty"_s : QString();
 }
 
-// What the tool reads of files that are no XMP, or half of one, is nothing, and no error to it.
-QString reasonIn(const JSONObject& main)
-{
-    if (main.value(u"File:FileType"_s).stringValue() != u"XMP"_s)
-        return u"Not an XMP file"_s;
-    const QString warning = main.value(u"ExifTool:Warning"_s).stringValue().value_or(QString());
-    return warning.startsWith(u"XMP format error"_s) ? warning : QString();
-}
-
 QStringList readTags()
 {
     return SidecarSchema::readTags() << u"FileType"_s << u"Warning"_s;
 }
 
 }  // namespace
+
+QString reasonIn(const JSONObject& read)
+{
+    if (read.value(u"File:FileType"_s).stringValue() != u"XMP"_s)
+        return u"Not an XMP file"_s;
+    const QString warning = read.value(u"ExifTool:Warning"_s).stringValue().value_or(QString());
+    return warning.startsWith(u"XMP format error"_s) ? warning : QString();
+}
 
 QHash<QString, Answer> of(const ExifToolRunner& runner, const QStringList& paths, const ReadControl& control)
 {

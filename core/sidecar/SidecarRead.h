@@ -23,6 +23,10 @@ struct Answer {
 /// tool fails as a whole.
 QHash<QString, Answer> of(const ExifToolRunner& runner, const QStringList& paths, const ReadControl& control);
 
+/// Why what the tool read of a sidecar, its type and warning among it, does not count; "" where it does. What the tool
+/// reads of files that are no XMP, or half of one, is nothing, and no error to it.
+QString reasonIn(const JSONObject& read);
+
 /// Reads the sidecars of those of the photos that have one, all in one pair of runs, and puts what they hold over the
 /// records. A photo whose sidecar cannot be read keeps its own values; those sidecars are returned, with the reason.
 /// Throws the runner's errors when the tool fails as a whole.

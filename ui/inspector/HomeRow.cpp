@@ -1,5 +1,6 @@
 #include "ui/inspector/HomeRow.h"
 
+#include "core/details/FileHome.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
@@ -65,6 +66,12 @@ QString textOf(const FieldHome& home)
     return text.trimmed().isEmpty() ? u"(empty)"_s : text;
 }
 
+QString foreignText(const FieldHome& home)
+{
+    return FileHome::is(home) ? u"The photo’s own file: read here, and never written"_s
+                              : u"Belongs to another standard: read here, and never written"_s;
+}
+
 }  // namespace
 
 HomeRow::HomeRow(const FieldHome& home, QWidget* parent)
@@ -83,10 +90,10 @@ HomeRow::HomeRow(const FieldHome& home, QWidget* parent)
     column->setSpacing(0);
     column->addWidget(makeHead());
     column->addWidget(m_value);
-    QStringList told{ home.values.join(u", "_s) };
+    const QString held = home.values.join(u", "_s);
+    QStringList told{ held.trimmed().isEmpty() ? textOf(home) : held };
     if (home.isForeign) {
-        m_foreign =
-            ThemedLabel::wrapped(u"Belongs to another standard: read here, and never written"_s, TextRole::label, 11);
+        m_foreign = ThemedLabel::wrapped(foreignText(home), TextRole::label, 11);
         column->addWidget(m_foreign);
         told.append(m_foreign->text());
     }

@@ -1,5 +1,6 @@
 #include "ui/inspector/HomesPopover.h"
 
+#include "core/details/FileHome.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/OverlayScrollBar.h"
@@ -37,8 +38,6 @@ HomesPopover::HomesPopover(const QString& field, QWidget* opener)
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_scroll->setContent(m_content);
     m_agree->hide();
-    m_agree->setToolTip(u"Writes what is shown to all places, of every field whose places differ"_s);
-    m_agree->setAccessibleDescription(m_agree->toolTip());
     connect(m_agree, &QAbstractButton::clicked, this, [this] {
         close();
         emit agreeAsked();
@@ -51,6 +50,11 @@ void HomesPopover::setHomes(const QList<FieldHome>& homes)
     if (homes == m_homes)
         return;
     m_homes = homes;
+    const bool isBeside = std::any_of(homes.cbegin(), homes.cend(), FileHome::is);
+    m_agree->setToolTip(isBeside
+            ? u"Writes what is shown to all places in the sidecar, of every field whose places differ there"_s
+            : u"Writes what is shown to all places, of every field whose places differ"_s);
+    m_agree->setAccessibleDescription(m_agree->toolTip());
     // What is not asked for any more may still have the keyboard.
     for (HomeRow* row : std::as_const(m_rows)) {
         row->hide();

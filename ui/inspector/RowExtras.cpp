@@ -1,5 +1,6 @@
 #include "ui/inspector/RowExtras.h"
 
+#include "core/details/FileHome.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/TextFields.h"
@@ -66,7 +67,9 @@ QString placesText(const QList<FieldHome>& homes)
     const QString text =
         u"%1 of %2 places %3"_s.arg(differing).arg(homes.size()).arg(differing == 1 ? u"differs" : u"differ");
     const auto shown = std::find_if(homes.cbegin(), homes.cend(), isShown);
-    return shown != homes.cend() && shown->isForeign ? text + u", another standard’s is shown"_s : text;
+    return shown != homes.cend() && shown->isForeign && !FileHome::is(*shown)
+        ? text + u", another standard’s is shown"_s
+        : text;
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // What is edited beside the values of the records: texts in further languages, keyword paths, what other homes hold.
 #include "app/model/edits/Editing.h"
+#include "core/details/FileHome.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/save/ListHomes.h"
 #include "core/schema/FieldID.h"
@@ -204,7 +205,10 @@ QList<FieldHome> Editing::differingHomes(const QString& id) const
 {
     if (isBatch() || isUnread() || m_draft.edits.edited(id))
         return {};
-    return m_known.now.disagreements.value(id);
+    QList<FieldHome> homes = m_known.now.disagreements.value(id);
+    for (FieldHome& home : homes)
+        home = FileHome::named(home, m_known.now.url.fileName());
+    return homes;
 }
 
 void Editing::useHome(const QString& id, const FieldHome& home)

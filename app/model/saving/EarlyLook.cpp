@@ -57,7 +57,10 @@ std::optional<EarlyLook::Found> EarlyLook::find(const MetadataService& service) 
 {
     Found found;
     Trust trust;
-    const QList<QUrl> files = SaveGuard::filesBehindLinks(m_photos.values());
+    // The edits of the others go beside them: their own files are not replaced.
+    QList<QUrl> replaced = m_photos.values();
+    replaced.removeIf([&service](const QUrl& photo) { return service.sidecars.isBeside(photo); });
+    const QList<QUrl> files = SaveGuard::filesBehindLinks(replaced);
     for (const QUrl& file : files) {
         const PhotoFile::Look look = PhotoFile::at(file);
         if (!look.file || !trust.isDue(*look.file))

@@ -54,7 +54,8 @@ SaveJob::Order withSeconds(const MetadataService& service, SaveJob::Order order)
     QList<QUrl> dated;
     QStringList tags;
     for (const QUrl& photo : std::as_const(order.targets))
-        if (const QStringList own = Agreement::dateTags(order.own.value(photo)); !own.isEmpty()) {
+        if (const QStringList own = Agreement::dateTags(order.own.value(photo), service.sidecars.isBeside(photo));
+            !own.isEmpty()) {
             dated.append(photo);
             tags += own;
         }
