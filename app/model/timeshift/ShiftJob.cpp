@@ -38,7 +38,7 @@ QList<SafeWriter::Portion> portions(const QList<QUrl>& files, const QHash<QUrl, 
         const qsizetype at = known.value(key, portions.size());
         if (at == portions.size()) {
             known.insert(key, at);
-            portions.append({ .command = { .assignments = assignments } });
+            portions.append({ .command = { .assignments = assignments }, .mayBeNew = shifts.value(file).isOfSidecar });
         }
         portions[at].targets.append(file);
     }
