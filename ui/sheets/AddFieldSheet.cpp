@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/words/CodeReplacements.h"
+#include "core/iptc/IptcSchema.h"
 #include "core/schema/CustomFields.h"
 #include "core/text/Text.h"
 #include "ui/controls/Buttons.h"
@@ -16,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <optional>
 
 namespace Quorbel {
 
@@ -26,20 +28,55 @@ namespace {
 // Points.
 constexpr qreal buttonsAbove = 22;
 
-// The fields whose label, note, tag hint or name in the standard contains the query, in their order.
+// How well a field fits what was typed: 0 is best; nothing where it is not in its label, note, tag hint or name in the
+// standard.
+std::optional<int> rank(const FieldSpec& field, const QString& wanted)
+{
+    const QString label = field.label.toLower();
+    if (label.startsWith(wanted))
+        return 0;
+    if (label.contains(u' ' + wanted))
+        return 1;
+    int rank = 2;
+    for (const QString& text :
+        { label, field.addNote.toLower(), field.standard.toLower(), field.namespaceHint.toLower() }) {
+        if (text.contains(wanted))
+            return rank;
+        ++rank;
+    }
+    return std::nullopt;
+}
+
+// Fields that stand under one heading.
+struct Group {
+    QList<std::pair<int, FieldSpec>> fields{};  // with their ranks
+    int best = 0;  // of these
+};
+
+// What fits the query, the group that fits best first. The fields that every photo has keep their order.
 QList<FieldSpec> filteredFields(const QList<FieldSpec>& fields, const QString& query)
 {
     const QString wanted = Text::trimmed(query).toLower();
     if (wanted.isEmpty())
         return fields;
-    QList<FieldSpec> found;
+    QMap<int, Group> groups;
     for (const FieldSpec& field : fields)
-        for (const QString& text : { field.label, field.addNote, field.namespaceHint, field.standard })
-            if (text.toLower().contains(wanted)) {
-                found.append(field);
-                break;
-            }
-    return found;
+        if (const auto found = rank(field, wanted)) {
+            Group& group = groups[IptcSchema::isId(field.id) ? int(field.section) : -1];
+            group.best = group.fields.isEmpty() ? *found : qMin(group.best, *found);
+            group.fields.append({ *found, field });
+        }
+    QList<Group> ordered = groups.values();
+    std::stable_sort(ordered.begin(), ordered.end(), [](const Group& a, const Group& b) { return a.best < b.best; });
+    QList<FieldSpec> filtered;
+    for (Group& group : ordered) {
+        if (IptcSchema::isId(group.fields.constFirst().second.id))
+            std::stable_sort(group.fields.begin(), group.fields.end(),
+                [](const auto& a, const auto& b) { return a.first < b.first; });
+        for (const auto& [rank, field] : std::as_const(group.fields))
+            filtered.append(field);
+    }
+    return filtered;
 }
 
 // As the form shows them.

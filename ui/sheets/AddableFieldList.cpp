@@ -128,14 +128,15 @@ AddableFieldRow* AddableFieldList::rowOf(const FieldSpec& field)
     return row;
 }
 
-QWidget* AddableFieldList::headingOf(FieldSection section)
+QWidget* AddableFieldList::headingOf(const FieldSpec& field)
 {
-    QWidget*& heading = m_headings[int(section)];
+    const bool isOfIptc = IptcSchema::isId(field.id);
+    QWidget*& heading = m_headings[isOfIptc ? int(field.section) : -1];
     if (heading)
         return heading;
     heading = new QWidget;
     auto* line = new QVBoxLayout(heading);
-    line->addWidget(new LabeledDivider(u"IPTC · "_s + rawValue(section), true));
+    line->addWidget(new LabeledDivider(isOfIptc ? u"IPTC · "_s + rawValue(field.section) : u"OTHER FIELDS"_s, true));
     onRestyle(heading, [line] { line->setContentsMargins(px(left), px(12), px(right), px(4)); });
     return heading;
 }
@@ -154,7 +155,8 @@ void AddableFieldList::setFields(const QList<FieldSpec>& fields, const QString& 
     int at = 0;
     const QWidget* above = nullptr;
     for (const FieldSpec& field : fields) {
-        if (QWidget* heading = IptcSchema::isId(field.id) ? headingOf(field.section) : nullptr; heading != above) {
+        const bool isOfIptc = IptcSchema::isId(field.id);
+        if (QWidget* heading = isOfIptc || above ? headingOf(field) : nullptr; heading != above) {
             m_column->insertWidget(at++, heading);
             heading->show();
             above = heading;

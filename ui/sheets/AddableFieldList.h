@@ -21,8 +21,8 @@ class AddableFieldList final : public ScrollArea {
 
 public:
     explicit AddableFieldList(QWidget* parent = nullptr);
-    /// Shows these fields, or the text when there are none. Those of the IPTC standard, behind the others, have a small
-    /// heading over each section.
+    /// Shows these fields, or the text when there are none. Those of the IPTC standard have a small heading over each
+    /// section, the others only where they stand behind such.
     void setFields(const QList<FieldSpec>& fields, const QString& textWhenEmpty);
     /// Ids of the fields shown, from the top.
     QStringList shownIds() const;
@@ -38,7 +38,7 @@ signals:
 
 private:
     AddableFieldRow* rowOf(const FieldSpec& field);
-    QWidget* headingOf(FieldSection section);
+    QWidget* headingOf(const FieldSpec& field);
     void move(int from, int step);
     void orderTabStops();
 
@@ -46,7 +46,7 @@ private:
     QVBoxLayout* m_column;
     ThemedLabel* m_empty;
     QHash<QString, AddableFieldRow*> m_pool;
-    QHash<int, QWidget*> m_headings;  ///< by section
+    QHash<int, QWidget*> m_headings;  ///< by section; -1: of those that are not of the IPTC standard
     QList<AddableFieldRow*> m_rows;
 };
 

@@ -650,8 +650,10 @@ void tst_Sheets::addFieldFilters_data()
     QTest::addRow("any case, blanks around") << u"  hEADL "_s << QStringList{ u"headline"_s };
     QTest::addRow("a note") << u"neighborhood"_s << QStringList{ u"sublocation"_s };
     QTest::addRow("a tag") << u"TransmissionReference"_s << QStringList{ u"jobId"_s };
-    QTest::addRow("of the standard") << u"alt"_s
-                                     << QStringList{ u"jobId"_s, u"iptc.altText"_s };  // OriginalTransmission
+    QTest::addRow("a label before a tag")
+        << u"alt"_s << QStringList{ u"iptc.altText"_s, u"jobId"_s };  // OriginalTransmission
+    QTest::addRow("a label before a note")
+        << u"owner"_s << QStringList{ u"iptc.copyrightOwners"_s, u"iptc.artworks"_s };
     QTest::addRow("under another name") << u"Ext 1.9"_s
                                         << QStringList{ u"iptc.aiSystem"_s, u"iptc.aiSystemVersion"_s,
                                                u"iptc.aiPrompt"_s, u"iptc.aiPromptWriter"_s };
