@@ -20,6 +20,7 @@ namespace {
 constexpr int stars = 5;
 // How far the first cell reaches beyond the left edge, so that its star, and not the cell, is in line with the fields.
 constexpr int inset = 6;
+constexpr int gapSide = 4;  // within a border
 }  // namespace
 
 RatingEditor::RatingEditor(QWidget* parent)
@@ -42,6 +43,7 @@ void RatingEditor::setValue(const QString& value)
     if (value == m_value)
         return;
     m_value = value;
+    updateGeometry();
     update();
     QAccessibleValueChangeEvent event(this, rating());
     QAccessible::updateAccessibility(&event);
@@ -50,6 +52,13 @@ void RatingEditor::setValue(const QString& value)
 void RatingEditor::setEdited(bool edited)
 {
     m_edited = edited;
+    update();
+}
+
+void RatingEditor::setWanted(bool wanted)
+{
+    m_wanted = wanted;
+    updateGeometry();
     update();
 }
 
@@ -66,13 +75,16 @@ int RatingEditor::rating() const
 
 QSize RatingEditor::sizeHint() const
 {
+    if (isGap())
+        return { stars * px(26) + 2 * px(gapSide), px(30) };
     return m_small ? QSize(stars * px(20), px(28)) : QSize(stars * px(26) - px(inset), px(30));
 }
 
 QRectF RatingEditor::cell(int star) const
 {
     const qreal wide = pxF(m_small ? 20 : 26);
-    return { (star - 1) * wide - (m_small ? 0 : pxF(inset)), 0, wide, qreal(height()) };
+    const qreal left = isGap() ? pxF(gapSide) : m_small ? 0 : -pxF(inset);
+    return { left + (star - 1) * wide, 0, wide, qreal(height()) };
 }
 
 int RatingEditor::starAt(QPointF pos) const
@@ -98,6 +110,8 @@ void RatingEditor::paintEvent(QPaintEvent*)
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
     painter.setOpacity(isEnabled() ? 1 : .42);
+    if (isGap())
+        paintFieldFrame(painter, rect(), { .enabled = isEnabled(), .isGap = true }, theme);
     if (m_hovered > 0 && isEnabled())
         paintBox(painter, cell(m_hovered), pxF(6), m_pressed ? theme.derived.pressed : theme.derived.hover, Qt::NoPen);
     for (int star = 1; star <= stars; ++star) {

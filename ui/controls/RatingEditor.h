@@ -16,6 +16,8 @@ public:
     /// Shows a value; emits nothing. What is not a decimal integer shows no stars.
     void setValue(const QString& value);
     void setEdited(bool edited);
+    /// As QBTextField::setWanted(): while there is no value, the stars stand within a dashed border.
+    void setWanted(bool wanted);
     /// 28 points high, with smaller stars closer together: in a row of a menu.
     void setSmall(bool on);
     /// The stars shown, 0…5.
@@ -41,7 +43,10 @@ private:
     int starAt(QPointF pos) const;  ///< 0 when none
 
     QString m_value;
+    bool isGap() const { return m_wanted && m_value.isEmpty(); }
+
     bool m_edited = false;
+    bool m_wanted = false;
     bool m_small = false;
     int m_hovered = 0;
     int m_pressed = 0;

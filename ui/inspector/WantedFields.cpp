@@ -15,8 +15,9 @@ void show(const FieldSets& sets, const QString& id, FieldRowState& state)
         return;
     state.placeholder = u"Required by %1"_s.arg(sets.current());
     state.italicPlaceholder = false;
-    // Cards have no place for it.
-    if (FieldSchema::spec(id)->kind == FieldKind::structure)
+    // Cards, stars and offsets have no place for it.
+    const FieldKind kind = FieldSchema::spec(id)->kind;
+    if (kind == FieldKind::structure || kind == FieldKind::rating || kind == FieldKind::offset)
         state.helpLine = state.placeholder;
 }
 

@@ -223,13 +223,20 @@ void ItemCard::contextMenuEvent(QContextMenuEvent* event)
         menu->popup(event->globalPos());
 }
 
+void ItemCard::setWanted(bool wanted)
+{
+    if (std::exchange(m_wanted, wanted) != wanted)
+        update();
+}
+
 void ItemCard::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
     const bool isAmber = m_inner && m_line->isEdited() && !isOpen();
+    const QPen plain = m_wanted ? dashedPen(theme.derived.dashedLine) : QPen(theme.line, 1);
     paintBox(painter, QRectF(rect()).adjusted(dotRoom(), 0, 0, 0), pxF(radius),
-        isAmber ? theme.amberBg : QColor(Qt::transparent), QPen(isAmber ? theme.amberLine : theme.line, 1));
+        isAmber ? theme.amberBg : QColor(Qt::transparent), isAmber ? QPen(theme.amberLine, 1) : plain);
     if (m_line->isEdited() && !m_inner)
         EditedDot::paint(painter, m_line->geometry().center().y() + .5, theme);
 }

@@ -40,6 +40,8 @@ public:
     void setOpen(bool open);
     bool isOpen() const;
     void setEdited(bool edited);
+    /// As QBTextField::setWanted().
+    void setWanted(bool wanted);
     /// Where there is another one to change places with.
     void setCanMove(bool up, bool down);
     void setCanRemove(bool can);
@@ -85,6 +87,7 @@ private:
     QAction* m_remove = nullptr;
     bool m_fixed = false;
     bool m_inner = false;
+    bool m_wanted = false;
 };
 
 }  // namespace Quorbel

@@ -42,6 +42,12 @@ void OffsetPicker::setEdited(bool edited)
     update();
 }
 
+void OffsetPicker::setWanted(bool wanted)
+{
+    m_wanted = wanted;
+    update();
+}
+
 QSize OffsetPicker::sizeHint() const
 {
     return { px(150), px(30) };
@@ -84,7 +90,8 @@ void OffsetPicker::paintEvent(QPaintEvent*)
     const Theme& theme = Theme::of(this);
     QPainter painter(this);
     painter.setOpacity(opacity());
-    PickerFace::paint(painter, rect(), text(), theme.text, { true, hasFocus(), m_edited, fade()->hover() }, theme);
+    const FieldState state{ true, hasFocus(), m_edited, fade()->hover(), m_wanted && m_value.isEmpty() };
+    PickerFace::paint(painter, rect(), text(), theme.text, state, theme);
 }
 
 }  // namespace Quorbel

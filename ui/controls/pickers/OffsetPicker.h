@@ -17,6 +17,8 @@ public:
     /// Shows a value, among the offsets or not; emits nothing.
     void setValue(const QString& value);
     void setEdited(bool edited);
+    /// As QBTextField::setWanted().
+    void setWanted(bool wanted);
     QSize sizeHint() const override;
     /// In a narrow form the button gives way; the longest offset still fits.
     QSize minimumSizeHint() const override;
@@ -36,6 +38,7 @@ private:
     QString m_blank;
     QString m_value;
     bool m_edited = false;
+    bool m_wanted = false;
 };
 
 }  // namespace Quorbel

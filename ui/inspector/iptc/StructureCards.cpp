@@ -4,9 +4,11 @@
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/cards/EditedDot.h"
+#include "ui/controls/cards/ItemCard.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/inspector/iptc/StructureCard.h"
 
 #include <QPainter>
 #include <QVBoxLayout>
@@ -19,6 +21,7 @@ namespace {
 constexpr qreal gap = 7;
 constexpr qreal blockHeight = 42;  // of a folded card
 constexpr qreal radius = 9;
+constexpr qreal gapSide = 7;  // between the border of a gap and its button
 
 StructureList::Parts partsOf(const FieldSpec& field, const CodeTexts& codes)
 {
@@ -44,8 +47,9 @@ StructureCards::StructureCards(const FieldSpec& field, const CodeTexts& codes, Q
     m_block->hide();
     connect(m_list, &StructureList::itemsChanged, this, &StructureCards::itemsChanged);
     connect(m_list, &StructureList::tabStopsChanged, this, &StructureCards::tabStopsChanged);
+    connect(m_list, &StructureList::tabStopsChanged, this, &StructureCards::showGap);
     onRestyle(this, [this] {
-        m_column->setContentsMargins(0, 0, 0, 0);
+        showGap();
         m_column->setSpacing(px(gap));
         m_reason->setContentsMargins(px(EditedDot::room), 0, 0, 0);
         m_block->setFixedHeight(px(blockHeight));
@@ -66,14 +70,32 @@ void StructureCards::setState(const StructureCardsState& state, bool fresh)
     m_list->setHeld(state.edited ? std::optional(held) : std::nullopt, !state.batch);
     m_reason->setText(state.readOnlyReason);
     m_reason->setVisible(!state.readOnlyReason.isEmpty() && !state.unread);
+    showGap();
+}
+
+// Wanted, and there is nothing but the button that adds a card.
+bool StructureCards::isGap() const
+{
+    return m_state.wanted && !m_state.unread && !m_list->card(0);
+}
+
+void StructureCards::showGap()
+{
+    if (const StructureCard* card = m_list->card(0))
+        card->widget()->setWanted(m_state.wanted && m_state.items.isEmpty());
+    const int side = isGap() ? px(gapSide) : 0;
+    m_column->setContentsMargins(side, side, side, side);
     update();
 }
 
 void StructureCards::paintEvent(QPaintEvent*)
 {
+    QPainter painter(this);
+    if (isGap())
+        paintBox(painter, QRectF(rect()).adjusted(px(EditedDot::room), 0, 0, 0), pxF(radius), Qt::transparent,
+            dashedPen(Theme::of(this).derived.dashedLine));
     if (!m_state.unread)
         return;
-    QPainter painter(this);
     const QRect block = m_block->geometry().adjusted(px(EditedDot::room), 0, 0, 0);
     paintBox(painter, block, pxF(radius), Theme::of(this).derived.hover, Qt::NoPen);
 }

@@ -16,6 +16,7 @@ struct StructureCardsState {
                          ///< that do look it
     bool edited = false;
     bool batch = false;
+    bool wanted = false;  ///< as QBTextField::setWanted()
     QString readOnlyReason{};  ///< shown, and nothing can be changed; "" where it can
     bool unread = false;  ///< not known yet: a block in the place of the cards
     bool operator==(const StructureCardsState&) const = default;
@@ -54,6 +55,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    bool isGap() const;
+    void showGap();
+
     StructureCardsState m_state;
     QVBoxLayout* m_column;
     WrappedLine* m_reason;
