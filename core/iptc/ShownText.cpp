@@ -3,6 +3,7 @@
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/StructureText.h"
 #include "core/iptc/Vocabularies.h"
+#include "core/schema/FieldSchema.h"
 
 namespace Quorbel::ShownText {
 
@@ -10,11 +11,12 @@ using namespace Qt::StringLiterals;
 
 QString of(const QString& key, const QString& text)
 {
-    const FieldSpec* field = IptcSchema::spec(key);
+    const FieldSpec* field = FieldSchema::spec(key);
     if (!field || text.isEmpty())
         return text;
-    if (field->kind == FieldKind::code)
-        return Vocabularies::nameOf(field->vocabulary, text);
+    if (!field->vocabulary.isEmpty())
+        return field->kind == FieldKind::code ? Vocabularies::nameOf(field->vocabulary, text)
+                                              : Vocabularies::namesOf(field->vocabulary, text);
     const StructureSpec* structure = IptcStructures::spec(field->structure);
     return structure ? StructureText::summary(*structure, { text }) : text;
 }

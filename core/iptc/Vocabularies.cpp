@@ -167,6 +167,17 @@ QString nameOf(const QString& id, const QString& code)
     return known ? known->name : code;
 }
 
+QString namesOf(const QString& id, const QString& codes)
+{
+    QStringList names;
+    for (const QString& code : codes.split(u','))
+        if (const VocabularyTerm* known = term(id, code))
+            names.append(known->name);
+        else
+            return codes;
+    return names.join(u", "_s);
+}
+
 QList<const VocabularyTerm*> search(const QString& id, const QString& typed)
 {
     const Vocabulary* vocabulary = find(id);

@@ -36,6 +36,8 @@ const Vocabulary* find(const QString& id);
 const VocabularyTerm* term(const QString& id, const QString& code);
 /// The code itself when it is unknown.
 QString nameOf(const QString& id, const QString& code);
+/// Of one code or of several with commas between them, as one text holds them; the text itself when one is unknown.
+QString namesOf(const QString& id, const QString& codes);
 /// Terms in which every word of the text is to be found, in name, note or code, in any case and without accents; those
 /// whose names begin with it first, retired ones last. All of them for an empty text.
 QList<const VocabularyTerm*> search(const QString& id, const QString& typed);

@@ -107,7 +107,7 @@ const QList<FieldSpec>& all()
             { u"XMP:TransmissionReference"_s, u"IPTC:OriginalTransmissionReference"_s },
             u"IPTC:OriginalTransmissionReference"_s, false, u"Job / transmission reference"_s, false },
         { u"scene"_s, u"Scene"_s, FieldKind::text, FieldSection::additional, { u"XMP-iptcCore:Scene"_s },
-            { u"XMP:Scene"_s }, u"XMP-iptcCore:Scene"_s, false, u"IPTC scene code"_s, false },
+            { u"XMP:Scene"_s }, u"XMP-iptcCore:Scene"_s, false, u"IPTC scene code"_s, false, false, false, u"scene"_s },
         { u"software"_s, u"Software"_s, FieldKind::text, FieldSection::additional,
             { u"XMP-xmp:CreatorTool"_s, u"EXIF:Software"_s }, { u"XMP:CreatorTool"_s, u"EXIF:Software"_s },
             u"EXIF:Software · XMP-xmp:CreatorTool"_s, false, u"Editing software"_s, false },

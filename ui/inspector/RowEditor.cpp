@@ -131,6 +131,7 @@ RowEditor ratingEditor(FieldRow& row)
     return { holder, stars, { stars }, [stars](const FieldRowState& state, bool) {
                 stars->setValue(state.text);
                 stars->setEdited(state.edited);
+                stars->setWanted(state.wanted);
             } };
 }
 
@@ -142,6 +143,7 @@ RowEditor offsetEditor(FieldRow& row)
     return { holder, picker, { picker }, [picker](const FieldRowState& state, bool) {
                 picker->setValue(state.text);
                 picker->setEdited(state.edited);
+                picker->setWanted(state.wanted);
             } };
 }
 
@@ -169,6 +171,9 @@ RowEditor makeRowEditor(const FieldRowParts& parts, FieldRow& row)
             return keywordEditor(parts, row);
         break;
     case FieldKind::text:
+        if (!parts.vocabulary.isEmpty())
+            return IptcEditors::textOrCode(parts.vocabulary, parts.codes, row);
+        break;
     case FieldKind::coordinates:
         break;
     }

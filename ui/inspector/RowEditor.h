@@ -30,6 +30,7 @@ struct FieldRowParts {
     bool isLanguage = false;  ///< below the row of its field, and less prominent
     const FieldSpec* field = nullptr;  ///< of IptcSchema; null for other rows
     bool isAlone = false;  ///< its section is named after it: the row of a structure needs no label
+    QString vocabulary{};  ///< of a text that is mostly one of its codes; "" for other texts
     int mostCharacters = 0;  ///< of a text area: counts up to these, and warns beyond them; 0 where it does not
 };
 

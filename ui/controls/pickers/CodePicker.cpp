@@ -9,6 +9,8 @@
 #include "ui/controls/theme/Theme.h"
 
 #include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -92,7 +94,10 @@ void CodePicker::openList(const QString& typed)
     connect(list, &CodePopover::picked, this, &CodePicker::take);
     connect(list, &Popover::closed, this, [this] { setOpen(false); });
     list->openAt(*this);
-    list->field()->setText(typed);
+    const bool isText = m_source.takesAnyText && !m_code.isEmpty() && m_source.known(m_code).isEmpty();
+    list->field()->setText(typed.isEmpty() && isText ? m_code : typed);
+    if (typed.isEmpty())
+        list->field()->selectAll();
     setOpen(true);
 }
 
@@ -107,6 +112,10 @@ void CodePicker::keyPressEvent(QKeyEvent* event)
     const bool isPlain = !(event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier));
     if (PickerFace::isOpenedBy(*event))
         return openList({});
+    if (m_source.takesAnyText && event->matches(QKeySequence::Copy))
+        return QGuiApplication::clipboard()->setText(m_code);
+    if (m_source.takesAnyText && event->matches(QKeySequence::Paste))
+        return openList(QGuiApplication::clipboard()->text().simplified());
     switch (event->key()) {
     case Qt::Key_Delete:
     case Qt::Key_Backspace:

@@ -9,7 +9,8 @@ namespace Quorbel {
 
 /// 30 points high, as wide as there is room. A click, Up, Down, Space and Return open the list, a letter opens it and
 /// looks for it; Delete and Backspace clear. A code that is not known is shown as it is, and stays until another is
-/// picked.
+/// picked. Where any text may be picked, the list begins with such a text, so that it can be changed; Copy and Paste
+/// take and bring one.
 class CodePicker final : public ThemedButton {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(CodePicker)

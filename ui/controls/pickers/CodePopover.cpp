@@ -124,6 +124,7 @@ CodePopover::CodePopover(const QString& name, CodeSource source, const QStringLi
     for (const QString& code : held)
         if (!code.isEmpty() && m_source.known(code).isEmpty())
             m_unknown.append({ code, code, u"Not among the known codes"_s });
+    field()->setCodes(m_source.codes);
     findAgain();
     m_all = m_found;
     m_rowsAtFirst = list()->count();
@@ -144,7 +145,13 @@ QList<CodeRow> CodePopover::rowsFor(const QString& typed)
             rows.append(row);
     const QList<CodeRow> found = m_source.rows ? m_source.rows(typed) : QList<CodeRow>();
     m_found = found.size();
-    return rows + found;
+    rows += found;
+    const auto isTyped = [&typed](const CodeRow& row) {
+        return row.code == typed || row.name.compare(typed, Qt::CaseInsensitive) == 0;
+    };
+    if (m_source.takesAnyText && !typed.isEmpty() && std::none_of(rows.cbegin(), rows.cend(), isTyped))
+        rows.append({ typed, u"Use “%1”"_s.arg(typed), u"As it is typed, not one of the codes"_s });
+    return rows;
 }
 
 int CodePopover::find(const QString& typed)

@@ -10,7 +10,8 @@
 namespace Quorbel {
 
 /// What fits what one typed, with its letters in bold, and how many that are. As high as what was found; where it
-/// opened above its picker as high as at first, or the field would move under what one types.
+/// opened above its picker as high as at first, or the field would move under what one types. Where any text may be
+/// picked, the last row is what one typed, unless it is one of the others.
 class CodePopover final : public SearchPopover {
     Q_OBJECT
 

@@ -1,6 +1,8 @@
 // The codes that a picker offers. Thread: the main thread. Plain values; what they mean, their owner knows.
 #pragma once
 
+#include "ui/controls/text/TypedCode.h"
+
 #include <QList>
 #include <QString>
 
@@ -22,6 +24,8 @@ struct CodeSource {
     /// As known(); without it, all rows are looked through.
     std::function<QString(const QString& code)> nameOf{};
     QString footer{};  ///< behind "4 of 20": "stored as a code"
+    bool takesAnyText = false;  ///< what one types may be picked as it is, too
+    CodeTexts codes{};  ///< what short codes in that text stand for
 
     /// "" for a code that is not among them.
     QString known(const QString& code) const;

@@ -1,5 +1,6 @@
 #include "ui/inspector/iptc/IptcEditors.h"
 
+#include "core/iptc/Vocabularies.h"
 #include "ui/controls/pickers/CodePicker.h"
 #include "ui/controls/pickers/CodesPicker.h"
 #include "ui/inspector/FieldRow.h"
@@ -12,10 +13,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-RowEditor oneCode(const FieldSpec& field, FieldRow& row)
+RowEditor oneCode(const CodeSource& source, FieldRow& row)
 {
-    auto* picker = new CodePicker(field.label, &row);
-    picker->setSource(vocabularySource(field.vocabulary));
+    auto* picker = new CodePicker({}, &row);
+    picker->setSource(source);
     QObject::connect(picker, &CodePicker::picked, &row, &FieldRow::textEdited);
     return { picker, picker, { picker }, [picker](const FieldRowState& state, bool) {
                 picker->setCode(state.text);
@@ -46,7 +47,19 @@ RowEditor severalCodes(const FieldSpec& field, FieldRow& row)
 
 RowEditor codes(const FieldSpec& field, FieldRow& row)
 {
-    return field.isSeveral ? severalCodes(field, row) : oneCode(field, row);
+    return field.isSeveral ? severalCodes(field, row) : oneCode(vocabularySource(field.vocabulary), row);
+}
+
+RowEditor textOrCode(const QString& vocabulary, const CodeTexts& codes, FieldRow& row)
+{
+    CodeSource source = vocabularySource(vocabulary);
+    source.nameOf = [vocabulary](const QString& text) {
+        const QString names = Vocabularies::namesOf(vocabulary, text);
+        return names == text ? QString() : names;
+    };
+    source.takesAnyText = true;
+    source.codes = codes;
+    return oneCode(source, row);
 }
 
 RowEditor structures(const FieldSpec& field, const CodeTexts& codes, FieldRow& row)
@@ -64,7 +77,8 @@ RowEditor structures(const FieldSpec& field, const CodeTexts& codes, FieldRow& r
         cards->setState({ .items = field.isSeveral ? state.items : one,
                             .held = state.held,
                             .edited = state.edited || (state.batch && state.included),
-                            .batch = state.batch },
+                            .batch = state.batch,
+                            .wanted = state.wanted },
             fresh);
     };
     return { cards, cards, {}, show, [cards] { return cards->tabStops(); }, [cards] { return cards->input(); } };

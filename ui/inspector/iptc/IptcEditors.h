@@ -8,6 +8,8 @@ namespace Quorbel::IptcEditors {
 
 /// One code of a vocabulary, or several.
 RowEditor codes(const FieldSpec& field, FieldRow& row);
+/// A text that is mostly a code of this vocabulary.
+RowEditor textOrCode(const QString& vocabulary, const CodeTexts& codes, FieldRow& row);
 /// One structure, or several.
 RowEditor structures(const FieldSpec& field, const CodeTexts& codes, FieldRow& row);
 
