@@ -217,7 +217,7 @@ void FieldRow::showBlock()
 
 bool FieldRow::hasLabel() const
 {
-    return !m_isAlone || m_state.batch;
+    return !m_isAlone || m_state.batch || m_state.isNamed;
 }
 
 void FieldRow::showHead()
@@ -266,6 +266,7 @@ void FieldRow::showRemove()
 
 void FieldRow::showLines()
 {
+    showLine(Line::held, m_state.heldLine);
     showLine(Line::note, m_state.noteLine);
     showLine(Line::tags, m_state.namespaceLine);
     showLine(Line::help, m_state.helpLine);
@@ -278,7 +279,8 @@ void FieldRow::showLine(Line which, const QString& text)
         return;
     if (!line) {
         const bool tags = which == Line::tags;
-        line = new WrappedLine(tags ? TextRole::muted : TextRole::amberText, tags ? 10.5 : 11, 15, this);
+        const TextRole plain = which == Line::held ? TextRole::label : TextRole::amberText;
+        line = new WrappedLine(tags ? TextRole::muted : plain, tags ? 10.5 : 11, 15, this);
         line->setMono(tags);
         line->setVerbatim(tags);
         const auto above = std::count_if(m_lines.cbegin(), m_lines.cbegin() + int(which), [](auto* l) { return l; });
@@ -300,7 +302,8 @@ void FieldRow::describe()
     // A placeholder alone is not read aloud.
     if (m_state.batch && m_state.included && m_state.italicPlaceholder)
         told.append(m_state.placeholder);
-    for (const QString& line : { m_purpose, m_state.noteLine, m_state.helpLine, m_state.namespaceLine })
+    for (const QString& line :
+        { m_purpose, m_state.heldLine, m_state.noteLine, m_state.helpLine, m_state.namespaceLine })
         if (!line.isEmpty())
             told.append(line);
     const QString description = told.join(u", "_s);

@@ -79,7 +79,7 @@ private:
     void showRemove();
     void showLines();
     void describe();
-    enum class Line { note, tags, help };
+    enum class Line { held, note, tags, help };
     void showLine(Line which, const QString& text);
 
     FieldKind m_kind;
@@ -100,7 +100,7 @@ private:
     QWidget* m_block = nullptr;  ///< until the row was unread
     QBCheckbox* m_tick = nullptr;  ///< until the row was in a batch
     QBIconButton* m_remove = nullptr;  ///< until the row was removable
-    std::array<WrappedLine*, 3> m_lines{};  ///< under the editor, in the order of Line; each until it was needed
+    std::array<WrappedLine*, 4> m_lines{};  ///< under the editor, in the order of Line; each until it was needed
 };
 
 }  // namespace Quorbel

@@ -59,6 +59,8 @@ struct FieldRowState {
     bool fixed = false;  ///< shown only: an editor of one value takes no typing, and there is no tick
     QString namespaceLine{};  ///< none when empty
     QString helpLine{};  ///< none when empty
+    QString heldLine{};  ///< how many of several photos hold something; none when empty
+    bool isNamed = false;  ///< has a label even where the section that it mostly stands in is named after it
     RowLanguages languages{};
     RowLanguage language{};
     RowHomes places{};

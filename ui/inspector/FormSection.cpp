@@ -28,48 +28,26 @@ FormSection::FormSection(const QString& title, const QString& note, QWidget* par
     : QWidget(parent)
     , m_column(new QVBoxLayout(this))
     , m_header(new SectionHeader(title, false, note))
-    , m_rowColumn(new QVBoxLayout)
+    , m_rows(*this)
 {
     describeInReadingOrder(staticMetaObject, QAccessible::Client);
     m_column->addWidget(m_header);
-    m_column->addLayout(m_rowColumn);
+    m_column->addLayout(m_rows.layout());
     onRestyle(this, [this] {
         m_column->setContentsMargins(px(dotRoom), px(above), 0, 0);
         m_column->setSpacing(px(belowTitle));
-        m_rowColumn->setSpacing(px(rowGap));
+        m_rows.layout()->setSpacing(px(rowGap));
     });
 }
 
 void FormSection::setRows(const QList<FieldRow*>& rows)
 {
-    if (rows == m_rows)
+    if (!m_rows.set(rows))
         return;
-    for (FieldRow* row : std::as_const(m_rows)) {
-        m_rowColumn->removeWidget(row);
-        if (!rows.contains(row))
-            row->hide();
-    }
-    if (m_below)
-        m_rowColumn->removeWidget(m_below);
-    if (m_below && !rows.contains(m_above))
-        m_below->hide();
-    m_rows = rows;
-    for (FieldRow* row : rows) {
-        m_rowColumn->addWidget(row);
-        row->show();
-        if (m_below && row == m_above)
-            m_rowColumn->addWidget(m_below);
-    }
-}
-
-void FormSection::setBelow(FieldRow* row, QWidget* widget)
-{
-    widget->setParent(this);
-    widget->hide();
-    m_above = row;
-    m_below = widget;
-    if (m_rows.contains(row))
-        m_rowColumn->insertWidget(m_rowColumn->indexOf(row) + 1, widget);
+    // Elsewhere they may have kept room for their dots.
+    for (FieldRow* row : rows)
+        row->setContentsMargins({});
+    update();
 }
 
 void FormSection::setUnderRows(QWidget* widget)
@@ -109,7 +87,7 @@ void FormSection::paintEvent(QPaintEvent*)
     painter.setPen(Qt::NoPen);
     painter.setBrush(Theme::of(this).amber);
     const qreal dot = pxF(dotSize);
-    for (const FieldRow* row : std::as_const(m_rows))
+    for (const FieldRow* row : m_rows.rows())
         if (row->state().edited && !row->state().batch)
             painter.drawEllipse(QRectF(row->x() - pxF(dotLeft), row->y() + row->dotCenter() - dot / 2, dot, dot));
 }

@@ -2,13 +2,14 @@
 // Thread: the main thread.
 #pragma once
 
+#include "ui/inspector/RowColumn.h"
+
 #include <QWidget>
 
 class QVBoxLayout;
 
 namespace Quorbel {
 
-class FieldRow;
 class SectionHeader;
 class ThemedLabel;
 
@@ -24,9 +25,9 @@ public:
     /// Shows these rows, in this order; those shown before and not among them are hidden. The rows stay the caller's,
     /// and become children of this.
     void setRows(const QList<FieldRow*>& rows);
-    const QList<FieldRow*>& rows() const { return m_rows; }
-    /// A widget that stands directly under this row whenever the row is shown. It becomes a child of this.
-    void setBelow(FieldRow* row, QWidget* widget);
+    const QList<FieldRow*>& rows() const { return m_rows.rows(); }
+    /// As RowColumn::setBelow().
+    void setBelow(FieldRow* row, QWidget* widget) { m_rows.setBelow(row, widget); }
     void setUnderRows(QWidget* widget);
     /// A word at the right of the title; "": none.
     void setNote(const QString& text);
@@ -39,11 +40,8 @@ protected:
 private:
     QVBoxLayout* m_column;
     SectionHeader* m_header;
-    QVBoxLayout* m_rowColumn;
+    RowColumn m_rows;
     ThemedLabel* m_reading = nullptr;  ///< until it was needed
-    QList<FieldRow*> m_rows;
-    FieldRow* m_above = nullptr;  ///< the row over m_below
-    QWidget* m_below = nullptr;
 };
 
 }  // namespace Quorbel

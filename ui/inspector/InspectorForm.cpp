@@ -1,26 +1,23 @@
 #include "ui/inspector/InspectorForm.h"
 
 #include "app/model/AppModel.h"
-#include "app/model/pairs/Pairing.h"
-#include "app/model/selection/SelectedSidecars.h"
-#include "app/model/words/CodeReplacements.h"
+#include "app/model/fieldsets/FieldSets.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/theme/Metrics.h"
-#include "ui/inspector/BatchBanner.h"
+#include "ui/inspector/BesideSet.h"
 #include "ui/inspector/CameraSection.h"
 #include "ui/inspector/FieldRow.h"
-#include "ui/inspector/FieldSetPicker.h"
 #include "ui/inspector/FormLanguages.h"
 #include "ui/inspector/FormPause.h"
+#include "ui/inspector/FormRows.h"
 #include "ui/inspector/FormSection.h"
 #include "ui/inspector/InspectorStates.h"
-#include "ui/inspector/PhotoHeader.h"
 #include "ui/inspector/WantedFields.h"
-#include "ui/inspector/iptc/CardActions.h"
+#include "ui/inspector/head/FormHead.h"
 #include "ui/inspector/iptc/DetailsWait.h"
 #include "ui/inspector/iptc/IptcSections.h"
 #include "ui/inspector/keywords/KeywordRows.h"
@@ -42,8 +39,6 @@ constexpr qreal side = 20;
 constexpr qreal top = 14;
 constexpr qreal bottom = 16;
 
-constexpr int mostCompletions = 16;  // some of which are there already
-constexpr int mostOfAltText = 250;  // characters, as the standard advises
 constexpr int blocksDelay = 150;  // milliseconds in which a record may come before anything changes
 
 // The fields of the usual photo: those that are always shown, and the rating.
@@ -54,55 +49,28 @@ QList<FieldSpec> usualFields()
     return fields;
 }
 
-FieldRowParts partsOf(const FieldSpec& field)
-{
-    FieldRowParts parts;
-    parts.kind = field.kind;
-    if (!IptcSchema::isId(field.id))
-        return parts;
-    parts.field = IptcSchema::spec(field.id);
-    const auto isThere = [&field](const FieldSpec& other) { return other.section == field.section; };
-    parts.isAlone = std::count_if(IptcSchema::all().cbegin(), IptcSchema::all().cend(), isThere) == 1;
-    parts.mostCharacters = field.id == "iptc.altText" ? mostOfAltText : 0;
-    return parts;
-}
-
-// Header and banner keep the room that sections leave for the dots.
-QWidget* indented(QWidget* widget)
-{
-    auto* holder = new QWidget;
-    holder->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    auto* line = new QVBoxLayout(holder);
-    line->addWidget(widget);
-    onRestyle(holder, [line] { line->setContentsMargins(px(FormSection::dotRoom), 0, 0, 0); });
-    return holder;
-}
-
 }  // namespace
 
 InspectorForm::InspectorForm(
     AppModel& model, ThumbnailStore* thumbs, PlaceProvider* places, MapRenderer* maps, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
-    , m_places(places)
     , m_column(new QVBoxLayout(this))
-    , m_header(new PhotoHeader(thumbs))
-    , m_banner(new BatchBanner)
+    , m_head(new FormHead(model, thumbs))
+    , m_languages(new FormLanguages(model, this))
+    , m_rows(new FormRows(model, { places, m_languages, [this](const QString& key) { return takes(key); } }, this))
     , m_iptc(new IptcSections(model, [this](const QStringList& ids, bool fresh) { return rowsOf(ids, fresh); }))
     , m_customs(new FormSection(u"CUSTOM"_s))
+    , m_beside(new BesideSet(model, [this](const QStringList& ids, bool fresh) { return rowsOf(ids, fresh); }))
     , m_cameraSection(new FormSection(u"CAMERA"_s, u"read-only"_s))
     , m_map(new LocationMap(places, maps))
     , m_camera(new CameraSection)
-    , m_picker(makeFieldSetPicker(model.fieldSets(), m_header))
-    , m_batchPicker(makeFieldSetPicker(model.fieldSets(), m_banner))
-    , m_languages(new FormLanguages(model, this))
     , m_pause(new FormPause(this))
     , m_wait(new DetailsWait(model, this))
     , m_waitPause(new FormPause(this))
 {
     m_column->setSpacing(0);
-    m_column->addWidget(indented(m_header));
-    m_column->addWidget(indented(m_banner));
+    m_column->addWidget(m_head);
     for (size_t i = 0; i < m_sections.size(); ++i) {
         m_sections.at(i) = new FormSection(rawValue(FieldSection(i)));
         m_column->addWidget(m_sections.at(i));
@@ -110,17 +78,20 @@ InspectorForm::InspectorForm(
     m_sections.at(size_t(FieldSection::location))->setUnderRows(m_map);
     m_column->addWidget(m_iptc);
     m_column->addWidget(m_customs);
+    m_column->addWidget(m_beside);
     m_cameraSection->setUnderRows(m_camera);
     m_column->addWidget(m_cameraSection);
     m_column->addStretch();
-    m_header->setAtEnd(m_picker);
-    m_banner->setAtEnd(m_batchPicker);
-    connect(m_banner->agree(), &QAbstractButton::clicked, &m_model, &AppModel::requestMakeAgree);
-    connect(&m_model.selectedSidecars(), &SelectedSidecars::changed, this, &InspectorForm::showHeader);
     connect(m_map, &LocationMap::found, &m_model, &AppModel::fillPlaceNames);
-    connect(&m_model, &AppModel::visibleRowsChanged, this, &InspectorForm::showHeader);
     connect(m_languages, &FormLanguages::changed, this, &InspectorForm::showAgain);
     connect(m_iptc, &IptcSections::changed, this, &InspectorForm::showAgain);
+    connect(m_beside, &BesideSet::changed, this, &InspectorForm::showAgain);
+    connect(m_rows, &FormRows::tabStopsChanged, this, [this] { m_tabOrderStale = true; });
+    // What opens in a row without a change of the model is put in order once it stands.
+    connect(m_rows, &FormRows::tabStopsChangedLate, this, [this] {
+        m_tabOrderStale = true;
+        QMetaObject::invokeMethod(this, &InspectorForm::orderTabStops, Qt::QueuedConnection);
+    });
     connect(m_wait, &DetailsWait::late, this, &InspectorForm::showAgain);
     connect(m_languages, &FormLanguages::focusAsked, this, &InspectorForm::fieldAdded);
     m_blocksSoon.setSingleShot(true);
@@ -137,7 +108,7 @@ void InspectorForm::setBottomInset(int pixels)
 
 void InspectorForm::refresh()
 {
-    showHeader();
+    m_head->refresh();
     if (InspectorStates::isUnread(m_model))
         return awaitRecords();
     const Subject subject{ m_model.selection(), m_model.primary() };
@@ -163,6 +134,7 @@ void InspectorForm::leave()
     for (FormSection* section : m_sections)
         section->hide();
     m_iptc->hide();
+    m_beside->hide();
     m_shownIds = {};
     m_map->setPoint(std::nullopt, false);
     m_customs->hide();
@@ -198,7 +170,7 @@ void InspectorForm::showBlocks()
         for (const FieldSpec& field : fields) {
             if (field.section != section)
                 continue;
-            rows.append(rowOf(field));
+            rows.append(m_rows->of(field));
             rows.last()->setState(InspectorStates::unreadRow(field), true);
         }
         m_sections.at(i)->setRows(rows);
@@ -207,6 +179,7 @@ void InspectorForm::showBlocks()
     if (m_keywordRows)
         m_keywordRows->hide();
     m_iptc->hide();
+    m_beside->hide();
     m_shownIds = {};
     m_map->setPoint(std::nullopt, false);
     m_customs->hide();
@@ -232,6 +205,7 @@ void InspectorForm::takeMouse(bool on)
     for (FormSection* section : m_sections)
         section->setAttribute(Qt::WA_TransparentForMouseEvents, !on);
     m_iptc->setAttribute(Qt::WA_TransparentForMouseEvents, !on);
+    m_beside->setAttribute(Qt::WA_TransparentForMouseEvents, !on);
     m_customs->setAttribute(Qt::WA_TransparentForMouseEvents, !on);
 }
 
@@ -246,29 +220,12 @@ void InspectorForm::announceAdded(bool fresh)
         emit fieldAdded(id);
 }
 
-void InspectorForm::showHeader()
-{
-    m_header->parentWidget()->setVisible(!m_model.isBatch());
-    m_banner->parentWidget()->setVisible(m_model.isBatch());
-    const QString reading = InspectorStates::readingText(m_model);
-    const SelectedSidecars& sidecars = m_model.selectedSidecars();
-    const QString target = sidecars.text();
-    m_banner->setPhotos(
-        m_model.selection().size(), reading, reading.isEmpty() && !target.isEmpty() ? target + u'.' : QString());
-    m_header->setSidecar(target, sidecars.told().path);
-    // While photos are read, how far that is comes first.
-    m_banner->setDisagreements(
-        reading.isEmpty() ? InspectorStates::disagreementsText(m_model) : QString(), m_model.canMakeAgree());
-    const Pairing& pairing = m_model.pairing();
-    if (const ImageRecord* record = m_model.primaryRecord())
-        m_header->setRecord(
-            *record, { pairing.seenFile(record->url), pairing.detailLine(*record), pairing.names(*record) });
-}
-
 void InspectorForm::showSections(bool fresh)
 {
     for (size_t i = 0; i < m_sections.size(); ++i)
         showSection(FieldSection(i), fresh);
+    if (m_beside->refresh(withHeld(m_model.fieldSets().beside(), m_shownIds.back()), fresh))
+        m_tabOrderStale = true;
     if (m_wait->isHolding())
         return;
     const QList<QWidget*> before = m_iptc->tabStops();
@@ -282,6 +239,7 @@ void InspectorForm::showAgain()
     if (!m_subject)
         return;
     showSections(false);
+    showKeywordRows();
     orderTabStops();
 }
 
@@ -306,8 +264,10 @@ void InspectorForm::addKeywordRows()
     if (m_keywordRows || !m_model.isBatch())
         return;
     const FieldSpec& field = *FieldSchema::spec(FieldID::keywords);
-    m_keywordRows = new KeywordRows(m_model);
-    m_sections.at(size_t(field.section))->setBelow(rowOf(field), m_keywordRows);
+    m_keywordRows = new KeywordRows(m_model, this);
+    m_keywordRows->hide();
+    m_sections.at(size_t(field.section))->setBelow(m_rows->of(field), m_keywordRows);
+    m_beside->setBelow(m_rows->of(field), m_keywordRows);
 }
 
 void InspectorForm::showKeywordRows()
@@ -315,6 +275,8 @@ void InspectorForm::showKeywordRows()
     if (!m_keywordRows)
         return;
     m_keywordRows->refresh();
+    if (!row(FieldID::keywords))
+        m_keywordRows->hide();
     if (const QList<QWidget*> stops = m_keywordRows->tabStops(); stops != m_keywordStops) {
         m_keywordStops = stops;
         m_tabOrderStale = true;
@@ -330,10 +292,12 @@ QList<FieldRow*> InspectorForm::rowsOf(const QStringList& ids, bool fresh)
             addAwaitedRows(field, rows);
             continue;
         }
-        FieldRow* row = rowOf(field);
+        FieldRow* row = m_rows->of(field);
         rows.append(row);
         FieldRowState state = InspectorStates::fieldRow(m_model, field);
         state.languages.isOpen = m_languages->isOpen(id);
+        state.heldLine = m_iptc->heldText(id);
+        state.isNamed = m_shownIds.back().contains(id);
         WantedFields::show(m_model.fieldSets(), id, state);
         // One that was not on screen shows another photo's text, if any.
         const bool isNew = fresh || row->isHidden() || (m_wait->hasJustEnded() && IptcSchema::isId(id));
@@ -344,15 +308,19 @@ QList<FieldRow*> InspectorForm::rowsOf(const QStringList& ids, bool fresh)
 }
 
 // What may stay for a moment stays: also what the photo before had, and this one has perhaps.
-void InspectorForm::showSection(FieldSection section, bool fresh)
+QStringList InspectorForm::withHeld(QStringList ids, QStringList& shown) const
 {
-    FormSection* form = m_sections.at(size_t(section));
-    QStringList& shown = m_shownIds.at(size_t(section));
-    QStringList ids = m_model.visibleFieldIDs(section);
     for (qsizetype i = 0; m_wait->isHolding() && i < shown.size(); ++i)
         if (IptcSchema::isId(shown.at(i)) && !ids.contains(shown.at(i)))
             ids.insert(i == 0 ? 0 : ids.indexOf(shown.at(i - 1)) + 1, shown.at(i));
     shown = ids;
+    return ids;
+}
+
+void InspectorForm::showSection(FieldSection section, bool fresh)
+{
+    FormSection* form = m_sections.at(size_t(section));
+    const QStringList ids = withHeld(m_model.fieldSets().visible(section), m_shownIds.at(size_t(section)));
     const QList<FieldRow*> rows = rowsOf(ids, fresh);
     form->setRows(rows);
     form->setNote(WantedFields::line(m_model.fieldSets(), section));
@@ -361,7 +329,7 @@ void InspectorForm::showSection(FieldSection section, bool fresh)
 
 void InspectorForm::addAwaitedRows(const FieldSpec& field, QList<FieldRow*>& rows)
 {
-    FieldRow* row = rowOf(field);
+    FieldRow* row = m_rows->of(field);
     rows.append(row);
     if (!m_wait->isHolding() || row->isHidden())
         return row->setState(InspectorStates::unreadRow(field), true);
@@ -374,7 +342,7 @@ void InspectorForm::addLanguageRows(const FieldSpec& field, bool fresh, QList<Fi
 {
     const QStringList codes = m_languages->shownCodes(field.id);
     for (const QString& code : codes) {
-        FieldRow* row = rowOf(field, code);
+        FieldRow* row = m_rows->of(field, code);
         const bool isLast = code == codes.constLast();
         // One that was not on screen shows another photo's text, if any.
         row->setState(InspectorStates::languageRow(m_model, field, code, isLast), fresh || row->isHidden());
@@ -388,7 +356,7 @@ void InspectorForm::showCustoms(bool fresh)
     QSet<QString> names;
     const QList<CustomValue> customs = m_model.visibleCustomFields();
     for (const CustomValue& custom : customs) {
-        FieldRow* row = rowOf(custom);
+        FieldRow* row = m_rows->of(custom);
         row->setState(InspectorStates::customRow(m_model, custom), fresh);
         rows.append(row);
         names.insert(custom.name);
@@ -425,100 +393,23 @@ void InspectorForm::showCamera()
 
 FieldRow* InspectorForm::row(const QString& id) const
 {
-    FieldRow* found = m_pool.value(id);
+    FieldRow* found = m_rows->find(id);
     return found && !found->isHidden() ? found : nullptr;
 }
 
 QString InspectorForm::keyOf(const QWidget* widget) const
 {
-    for (auto row = m_pool.cbegin(); row != m_pool.cend(); ++row)
-        if (*row == widget || (*row)->isAncestorOf(widget))
-            return row.key();
-    return {};
+    return m_rows->keyOf(widget);
 }
 
 FieldRow* InspectorForm::reveal(const QString& id)
 {
-    m_iptc->reveal(id);
+    const auto language = FieldLanguages::languageIn(id);
+    if (m_beside->holds(language ? language->field->id : id))
+        m_beside->unfold();
+    else
+        m_iptc->reveal(id);
     return row(id);
-}
-
-FieldRow* InspectorForm::makeRow(const QString& key, FieldRowParts parts)
-{
-    parts.codes = m_model.codes().texts();
-    auto* row = new FieldRow(parts, this);
-    row->hide();
-    m_pool.insert(key, row);
-    m_tabOrderStale = true;
-    // What opens in a row without a change of the model is put in order once it stands.
-    connect(row, &FieldRow::tabStopsChanged, this, [this] {
-        m_tabOrderStale = true;
-        QMetaObject::invokeMethod(this, &InspectorForm::orderTabStops, Qt::QueuedConnection);
-    });
-    return row;
-}
-
-FieldRow* InspectorForm::rowOf(const FieldSpec& field)
-{
-    if (FieldRow* known = m_pool.value(field.id))
-        return known;
-    FieldRowParts parts = partsOf(field);
-    parts.searchesPlaces = field.id == FieldID::place;
-    parts.places = m_places;
-    parts.now = [this] { return m_model.now(); };
-    if (field.id == FieldID::keywords)
-        parts.completions = [this](const QString& typed) {
-            return InspectorStates::keywordSuggestions(m_model, typed, mostCompletions);
-        };
-    FieldRow* row = makeRow(field.id, parts);
-    connectRow(*row, field);
-    if (auto* cards = row->findChild<StructureCards*>())
-        new CardActions(m_model, m_places, *FieldSchema::spec(field.id), *cards);
-    return row;
-}
-
-void InspectorForm::connectRow(FieldRow& row, const FieldSpec& field)
-{
-    const QString id = field.id;
-    connect(&row, &FieldRow::textEdited, this, [this, id](const QString& text) { write(id, text); });
-    connect(&row, &FieldRow::itemAdded, this, [this, id](const QString& item) { changeList(id, item, true); });
-    connect(&row, &FieldRow::itemRemoved, this, [this, id](const QString& item) { changeList(id, item, false); });
-    connect(&row, &FieldRow::itemsEdited, this, [this, id](const QStringList& items) {
-        if (takes(id))
-            m_model.setItems(id, items);
-    });
-    connect(&row, &FieldRow::tickClicked, this, [this, field] { toggle(field); });
-    connect(&row, &FieldRow::removeClicked, this, [this, id] { m_model.removeAddedField(id); });
-    connect(&row, &FieldRow::placePicked, &m_model, &AppModel::applyLocation);
-    connect(&row, &FieldRow::homeUsed, this, [this, id](const FieldHome& home) { m_model.useHome(id, home); });
-    connect(&row, &FieldRow::agreeAsked, &m_model, &AppModel::requestMakeAgree);
-    m_languages->connectRow(row, field);
-}
-
-FieldRow* InspectorForm::rowOf(const FieldSpec& field, const QString& code)
-{
-    const QString key = FieldLanguages::key(field.id, code);
-    if (FieldRow* known = m_pool.value(key))
-        return known;
-    FieldRowParts parts = partsOf(field);
-    parts.isLanguage = true;
-    FieldRow* row = makeRow(key, parts);
-    connect(row, &FieldRow::textEdited, this, [this, key](const QString& text) { write(key, text); });
-    connect(row, &FieldRow::tickClicked, this, [this, key] { m_model.toggleBatchInclude(key); });
-    m_languages->connectRow(*row, field, code);
-    return row;
-}
-
-FieldRow* InspectorForm::rowOf(const CustomValue& custom)
-{
-    const QString key = CustomFields::key(custom.name);
-    if (FieldRow* known = m_pool.value(key))
-        return known;
-    FieldRow* row = makeRow(key, {});
-    connect(row, &FieldRow::textEdited, this,
-        [this, name = custom.name](const QString& text) { m_model.setCustom(name, text); });
-    connect(row, &FieldRow::tickClicked, this, [this, name = custom.name] { m_model.toggleBatchCustom(name); });
-    return row;
 }
 
 bool InspectorForm::takes(const QString& key) const
@@ -526,54 +417,29 @@ bool InspectorForm::takes(const QString& key) const
     return !m_pause->isOn() && !isAwaited(key);
 }
 
-void InspectorForm::write(const QString& id, const QString& text)
-{
-    if (!takes(id))
-        return;
-    if (m_model.isBatch())
-        m_model.setBatch(id, text);
-    else
-        m_model.setSingle(id, text);
-}
-
-void InspectorForm::changeList(const QString& id, const QString& item, bool add)
-{
-    if (!takes(id))
-        return;
-    if (m_model.isBatch())
-        add ? m_model.addBatchListItem(id, item) : m_model.removeBatchListItem(id, item);
-    else
-        add ? m_model.addSingleListItem(id, item) : m_model.removeSingleListItem(id, item);
-}
-
-void InspectorForm::toggle(const FieldSpec& field)
-{
-    if (field.isList())
-        m_model.clearBatchList(field.id);
-    else
-        m_model.toggleBatchInclude(field.id);
-}
-
 // Top to bottom, as the sections stand: rows are made in the order in which photos need them.
 void InspectorForm::orderTabStops()
 {
     if (!std::exchange(m_tabOrderStale, false))
         return;
-    QList<QWidget*> stops{ m_picker, m_batchPicker, m_banner->agree() };
-    const auto take = [&](const FormSection* section) {
-        for (const FieldRow* row : section->rows()) {
+    QList<QWidget*> stops = m_head->tabStops();
+    const auto take = [&](const QList<FieldRow*>& rows) {
+        for (const FieldRow* row : rows) {
             stops.append(row->tabStops());
-            if (m_keywordRows && row == m_pool.value(FieldID::keywords))
+            if (m_keywordRows && row == m_rows->find(FieldID::keywords))
                 stops.append(m_keywordStops);
         }
     };
     for (const FormSection* section : m_sections) {
-        take(section);
+        take(section->rows());
         if (section == m_sections.at(size_t(FieldSection::location)))
             stops.append(m_map->fillLink());
     }
     stops.append(m_iptc->tabStops());
-    take(m_customs);
+    take(m_customs->rows());
+    if (QWidget* heading = m_beside->heading())
+        stops.append(heading);
+    take(m_beside->rows());
     // A row made late stands behind the rest of the window: what follows the form goes there with it.
     stops.append(m_stopsBehind);
     for (qsizetype i = 1; i < stops.size(); ++i)

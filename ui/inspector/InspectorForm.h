@@ -5,7 +5,6 @@
 
 #include "core/schema/FieldSchema.h"
 
-#include <QHash>
 #include <QSet>
 #include <QTimer>
 #include <QUrl>
@@ -19,23 +18,21 @@ class QVBoxLayout;
 namespace Quorbel {
 
 class AppModel;
-class BatchBanner;
+class BesideSet;
 class CameraSection;
-class ChoicePicker;
 class DetailsWait;
 class FieldRow;
+class FormHead;
 class FormLanguages;
 class FormPause;
+class FormRows;
 class FormSection;
 class IptcSections;
 class KeywordRows;
 class LocationMap;
 class MapRenderer;
-class PhotoHeader;
 class PlaceProvider;
 class ThumbnailStore;
-struct CustomValue;
-struct FieldRowParts;
 
 class InspectorForm final : public QWidget {
     Q_OBJECT
@@ -76,7 +73,6 @@ private:
         bool operator==(const Subject&) const = default;
     };
 
-    void showHeader();
     void awaitRecords();
     void showBlocks();
     void endWaiting();
@@ -84,6 +80,7 @@ private:
     QList<FieldRow*> rowsOf(const QStringList& ids, bool fresh);
     void showSection(FieldSection section, bool fresh);
     void showSections(bool fresh);
+    QStringList withHeld(QStringList ids, QStringList& shown) const;
     void showAgain();
     void takeKeyboardFromAwaited();
     void addLanguageRows(const FieldSpec& field, bool fresh, QList<FieldRow*>& rows);
@@ -92,41 +89,30 @@ private:
     void showMap(bool fresh);
     void showCamera();
     void announceAdded(bool fresh);
-    FieldRow* makeRow(const QString& key, FieldRowParts parts);
-    FieldRow* rowOf(const FieldSpec& field);
-    FieldRow* rowOf(const FieldSpec& field, const QString& code);
-    FieldRow* rowOf(const CustomValue& custom);
-    void connectRow(FieldRow& row, const FieldSpec& field);
     bool takes(const QString& key) const;
-    void write(const QString& id, const QString& text);
-    void changeList(const QString& id, const QString& item, bool add);
-    void toggle(const FieldSpec& field);
     void orderTabStops();
     void addKeywordRows();
     void showKeywordRows();
     bool arePlaceFieldsEmpty() const;
 
     AppModel& m_model;
-    PlaceProvider* m_places;
     std::optional<Subject> m_subject{};  ///< of the values on screen
     QSet<QString> m_added{};  ///< the fields that were added when the model was last read
     QSet<QString> m_customNames{};  ///< of the custom fields on screen
     bool m_tabOrderStale = true;
     QList<QWidget*> m_stopsBehind;
-    QHash<QString, FieldRow*> m_pool;  ///< by field id, or by the key of a custom field
     QVBoxLayout* m_column;
-    PhotoHeader* m_header;
-    BatchBanner* m_banner;
+    FormHead* m_head;
+    FormLanguages* m_languages;
+    FormRows* m_rows;
     std::array<FormSection*, 3> m_sections{};  ///< in the order of FieldSection
-    std::array<QStringList, 3> m_shownIds{};  ///< the fields in these
+    std::array<QStringList, 4> m_shownIds{};  ///< the fields in these, and in m_beside
     IptcSections* m_iptc;  ///< the sections behind these
     FormSection* m_customs;
+    BesideSet* m_beside;
     FormSection* m_cameraSection;
     LocationMap* m_map;
     CameraSection* m_camera;
-    ChoicePicker* m_picker;  ///< of field sets
-    ChoicePicker* m_batchPicker;  ///< the same, in the banner
-    FormLanguages* m_languages;
     KeywordRows* m_keywordRows = nullptr;  ///< until several photos were selected
     QList<QWidget*> m_keywordStops;  ///< of those rows, when Tab was last put in order
     FormPause* m_pause;  ///< on while there is nothing to show of what is selected

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/iptc/FieldNotes.h"
+#include "app/model/iptc/SelectedHolders.h"
 #include "core/iptc/ShownText.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldCheck.h"
@@ -241,6 +242,21 @@ QString readingText(const AppModel& model)
 FieldRowState unreadRow(const FieldSpec& field)
 {
     return { .label = field.label, .unread = true };
+}
+
+QString heldText(const AppModel& model, const SelectedHolders& selected, const QString& id)
+{
+    if (!model.isBatch() || !PhotoDetails::hold(id))
+        return {};
+    const SelectedHolders::Count holders = selected.of(id);
+    if (holders.photos == 0 || !model.sharedValue(id).value_or(QString()).isEmpty())
+        return {};
+    const qsizetype count = model.selection().size();
+    const QString all = QLocale().toString(count);
+    if (holders.photos == count)
+        return u"in all %1"_s.arg(all);
+    return (holders.unknown > 0 ? u"in %1 or more of %2"_s : u"in %1 of %2"_s)
+        .arg(QLocale().toString(holders.photos), all);
 }
 
 FieldRowState fieldRow(const AppModel& model, const FieldSpec& field)

@@ -8,6 +8,7 @@
 namespace Quorbel {
 
 class AppModel;
+class SelectedHolders;
 struct LeftNotice;
 struct CustomValue;
 struct FieldSpec;
@@ -35,6 +36,9 @@ QString disagreementsText(const AppModel& model);
 FieldRowState customRow(const AppModel& model, const CustomValue& custom);
 
 FieldRowState unreadRow(const FieldSpec& field);
+/// "in 12 of 40", in whatever way several photos hold a field of IptcSchema; "" where none is known to, and where all
+/// hold the same text, which is to be seen then.
+QString heldText(const AppModel& model, const SelectedHolders& holders, const QString& id);
 
 /// The text that an editor of this field shows now.
 QString currentText(const AppModel& model, const QString& id);

@@ -1,6 +1,7 @@
 #include "app/model/fieldsets/FieldSets.h"
 
 #include "app/model/AppModel.h"
+#include "core/iptc/FieldAdvice.h"
 #include "core/text/Text.h"
 
 #include <algorithm>
@@ -79,6 +80,37 @@ void FieldSets::lead()
             return Filtering::Course::Found{ gaps(), isAllKnown() };
         },
         [this](int position) { return gapsOf(position); }, m_reach.require });
+}
+
+// --- What is on screen ---
+
+// Nobody asked for it, and no field that somebody asked for calls for it.
+bool FieldSets::isBeside(const QString& id) const
+{
+    const FieldSet* set = chosen();
+    if (!set || set->fields.contains(id) || m_model.sessionAddedKnownIDs().contains(id))
+        return false;
+    const QString other = FieldAdvice::companionsOf(id);
+    const QString value = !m_model.isBatch()    ? m_model.draftValues().value(other)
+        : m_model.batchValues().contains(other) ? m_model.batchValues().value(other)
+                                                : m_model.sharedValue(other).value_or(QString());
+    return other.isEmpty() || !set->fields.contains(other) || !FieldAdvice::companions(other, value).contains(id);
+}
+
+QStringList FieldSets::visible(FieldSection section) const
+{
+    QStringList ids = m_model.visibleFieldIDs(section);
+    ids.removeIf([this](const QString& id) { return isBeside(id); });
+    return ids;
+}
+
+QStringList FieldSets::beside() const
+{
+    QStringList ids;
+    for (const FieldSection section : chosen() ? allCases<FieldSection>() : QList<FieldSection>())
+        ids += m_model.visibleFieldIDs(section);
+    ids.removeIf([this](const QString& id) { return !isBeside(id); });
+    return ids;
 }
 
 // --- Wanted fields ---
@@ -171,7 +203,7 @@ void FieldSets::editWhatIsShown()
 {
     FieldSet shown;
     for (const FieldSection section : allCases<FieldSection>())
-        shown.fields += m_model.visibleFieldIDs(section);
+        shown.fields += visible(section);
     if (const FieldSet* set = chosen())
         shown.wanted = set->wanted;
     setEditing(true, FieldSetTexts::ordered(shown));

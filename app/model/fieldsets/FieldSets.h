@@ -48,6 +48,13 @@ public:
     /// Whether choosing is offered where one looks all day: the user chose one once, or made one.
     bool isOffered() const;
 
+    // --- What is on screen ---
+    /// Ids of the fields of a section that are on screen, without those of beside().
+    QStringList visible(FieldSection section) const;
+    /// Further fields that are on screen only because the selected photos hold something there, or are to; in the order
+    /// of the form. None of the usual form.
+    QStringList beside() const;
+
     // --- Wanted fields ---
     /// Whether the chosen set wants any.
     bool hasWanted() const;
@@ -90,6 +97,7 @@ signals:
 private:
     const FieldSet* chosen() const { return find(m_storedCurrent()); }
     void lead();
+    bool isBeside(const QString& id) const;
     bool isAllKnown() const;
     Filtering::Course::Found gapsOf(int position) const;
     void setEditing(bool on, std::optional<FieldSet> started = {});

@@ -10,9 +10,9 @@
 #include "ui/controls/Toggles.h"
 #include "ui/controls/keywords/KeywordChip.h"
 #include "ui/controls/pickers/ChoicePicker.h"
-#include "ui/inspector/BatchBanner.h"
 #include "ui/inspector/CameraSection.h"
-#include "ui/inspector/PhotoHeader.h"
+#include "ui/inspector/head/BatchBanner.h"
+#include "ui/inspector/head/PhotoHeader.h"
 #include "ui/places/LocationMap.h"
 #include "ui/places/LocationSearchField.h"
 #include "ui/places/MapPreview.h"
@@ -762,7 +762,7 @@ void tst_InspectorView::aChosenSet()
     f.model().fieldSets().choose(u"Captions"_s);
     QVERIFY(picker->isVisible());
     QCOMPARE(picker->titles().value(picker->current()), u"Captions"_s);
-    QVERIFY(!f.row(u"copyright"_s) && f.row(u"source"_s) && f.row(u"captionWriter"_s));
+    QVERIFY(!f.row(u"copyright"_s) && !f.row(u"source"_s) && f.row(u"captionWriter"_s));
     QCOMPARE(note(), u"1 of 3 filled · next gap F8"_s);
     QCOMPARE(f.row(u"description"_s)->state().placeholder, u"Required by Captions"_s);
     QVERIFY(!f.row(u"title"_s)->state().wanted && !f.row(u"captionWriter"_s)->state().wanted);
@@ -778,7 +778,7 @@ void tst_InspectorView::aChosenSet()
     f.model().fieldSets().edit();
     f.model().fieldSets().store({ { {}, { u"Own"_s, { u"title"_s }, {} } } }, u"Own"_s);
     QVERIFY(!f.row(u"creator"_s));
-    f.editor<QBTextArea>(u"description"_s)->setFocus();
+    f.view->findChild<InspectorForm*>()->reveal(u"description"_s)->input()->setFocus();
     f.model().filtering().goToGap(Filtering::Way::next);
     QTRY_COMPARE(QApplication::focusWidget(), f.editor<QBTextField>(u"date"_s));
 }

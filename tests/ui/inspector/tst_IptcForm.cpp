@@ -1,5 +1,7 @@
 // The further fields of the IPTC standard in the inspector, as a person uses them: sections that fold, editors of their
 // kinds, what is not known yet, several photos.
+#include "app/model/fieldsets/FieldSets.h"
+#include "app/model/words/CodeReplacements.h"
 #include "app/model/words/FieldPasting.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/StructureText.h"
@@ -9,12 +11,14 @@
 #include "ui/controls/cards/FoldingHeading.h"
 #include "ui/controls/cards/ItemCard.h"
 #include "ui/controls/pickers/CodePicker.h"
+#include "ui/controls/pickers/CodePopover.h"
 #include "ui/controls/pickers/CodesPicker.h"
 #include "ui/controls/text/CountLine.h"
 #include "ui/inspector/KeptField.h"
 #include "ui/inspector/iptc/StructureCard.h"
 #include "ui/inspector/iptc/StructureCards.h"
 #include "ui/inspector/iptc/StructureFields.h"
+#include "ui/inspector/keywords/KeywordRows.h"
 #include "ui/sheets/SaveDialogView.h"
 
 #include <QAccessible>
@@ -202,6 +206,12 @@ private slots:
     void alternativeTextIsCounted();
     void nothingIsTakenBeforeItIsKnown();
     void severalPhotos();
+    void severalPhotosTellHowManyHoldSomething();
+    void besideAChosenSet();
+    void besideASetInABatch();
+    void emptyOnesThatAreWanted();
+    void scenesAreCodesOrAnyText_data();
+    void scenesAreCodesOrAnyText();
     void whatASaveTells();
     void fieldsAreCopiedToAnotherPhoto();
 };
@@ -572,6 +582,188 @@ void tst_IptcForm::severalPhotos()
     QCOMPARE(f.model().batchValues().value(u"iptc.jobTitle"_s), u"Staff"_s);
     QTest::mouseClick(f.row(u"iptc.jobTitle"_s)->tabStops().constFirst(), Qt::LeftButton);
     QCOMPARE(f.model().batchInclude(), QSet<QString>());
+}
+
+void tst_IptcForm::severalPhotosTellHowManyHoldSomething()
+{
+    Photos f;
+    f.held[u"b.jpg"_s].texts.insert(u"iptc.modelReleaseStatus"_s, u"MR-UMR"_s);
+    QVERIFY(f.open());
+    f.photos.select(u"ab"_s);
+    f.known(u"a.jpg"_s);
+    f.known(u"b.jpg"_s);
+    QCOMPARE(f.summary(u"LOCATION SHOWN"_s), u"in 1 of 2"_s);
+    QCOMPARE(f.summary(u"CONTACT"_s), u"Job title in all 2"_s);
+    for (const QString& title : { u"CONTACT"_s, u"PEOPLE"_s, u"LOCATION SHOWN"_s, u"THINGS SHOWN"_s })
+        f.unfold(title);
+    const auto held = [&f](const QString& id) { return f.row(id)->state().heldLine; };
+    QCOMPARE(held(u"iptc.altText"_s), u"in 1 of 2"_s);
+    QCOMPARE(held(u"iptc.jobTitle"_s), u"in all 2"_s);
+    QCOMPARE(held(u"iptc.locationsShown"_s), u"in 1 of 2"_s);
+    QCOMPARE(held(u"iptc.organisationNames"_s), u"in 1 of 2"_s);
+    QVERIFY(f.row(u"iptc.organisationNames"_s)->input()->accessibleDescription().contains(u"in 1 of 2"_s));
+    // What all of them hold is to be seen.
+    QCOMPARE(held(u"iptc.modelReleaseStatus"_s), QString());
+    // While one was not looked at.
+    f.gate.acquire();
+    f.photos.select(u"abc"_s);
+    QCOMPARE(held(u"iptc.organisationNames"_s), u"in 1 or more of 3"_s);
+    f.gate.release();
+    QTRY_COMPARE(held(u"iptc.organisationNames"_s), u"in 1 of 3"_s);
+    f.photos.select(u"a"_s);
+    f.settle();
+    QCOMPARE(held(u"iptc.organisationNames"_s), QString());
+}
+
+void tst_IptcForm::besideAChosenSet()
+{
+    const QString title = u"ALSO IN THIS PHOTO"_s;
+    Photos f;
+    QVERIFY(f.open());
+    f.show(u"a.jpg"_s);
+    QVERIFY(!f.heading(title));
+    f.unfold(u"LOCATION SHOWN"_s);
+    f.model().fieldSets().choose(u"Captions"_s);
+    f.settle();
+    QCOMPARE(f.summary(title),
+        u"Country, Country code, Job title, Model releases, Locations shown, Subject codes, Organisations, "
+        "Largest width"_s);
+    QVERIFY(!f.row(u"country"_s) && !f.heading(u"LOCATION SHOWN"_s) && f.row(u"iptc.altText"_s));
+    QVERIFY(f.heading(title)->mapTo(f.view, QPoint()).y() > f.row(u"headline"_s)->mapTo(f.view, QPoint()).y());
+
+    // By keyboard into its rows, in their order; what is edited stays there.
+    f.heading(title)->setFocus();
+    QTest::keyClick(f.heading(title), Qt::Key_Return);
+    f.settle();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), f.row(u"country"_s)->input());
+    QTest::keyClicks(QApplication::focusWidget(), u"!"_s);
+    QCOMPARE(f.model().draftValues().value(u"country"_s), u"!"_s);
+    QVERIFY(f.heading(title)->isEdited() && f.row(u"country"_s)->input()->hasFocus());
+    // Its own section would have named it.
+    QVERIFY(f.row(u"iptc.locationsShown"_s)->hasLabel());
+    for (int i = 0; i < 40 && QApplication::focusWidget() != f.row(u"iptc.maxWidth"_s)->input(); ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), f.row(u"iptc.maxWidth"_s)->input());
+
+    // Back: each in its own section again, and visible.
+    f.model().fieldSets().choose(FieldSets::usual());
+    f.settle();
+    QVERIFY(!f.heading(title));
+    QVERIFY(f.row(u"country"_s)->isVisible() && f.row(u"iptc.locationsShown"_s)->isVisible());
+    QVERIFY(!f.row(u"iptc.locationsShown"_s)->hasLabel());
+    QCOMPARE(f.row(u"country"_s)->contentsMargins(), QMargins());
+    QVERIFY(f.row(u"place"_s)->y() < f.row(u"country"_s)->y());
+    // Who asks for one finds it.
+    f.model().fieldSets().choose(u"Accessibility"_s);
+    f.settle();
+    QTest::keyClick(f.heading(title), Qt::Key_Left);
+    f.settle();
+    QVERIFY(!f.row(u"country"_s));
+    QVERIFY(f.view->findChild<InspectorForm*>()->reveal(u"country"_s));
+}
+
+// Keywords bring what several photos hold of them along.
+void tst_IptcForm::besideASetInABatch()
+{
+    Photos f;
+    f.add(u"d.jpg"_s, { u"-XMP-dc:Subject=pier"_s });
+    QVERIFY(f.open());
+    f.photos.select(u"ad"_s);
+    f.known(u"a.jpg"_s);
+    f.known(u"d.jpg"_s);
+    f.model().fieldSets().choose(u"Rights"_s);
+    f.settle();
+    const auto* rows = f.view->findChild<KeywordRows*>();
+    QVERIFY(rows && !rows->isVisible());
+    QVERIFY(f.summary(u"ALSO IN THESE PHOTOS"_s).startsWith(u"Alternative text, Keywords, Country"_s));
+    f.unfold(u"ALSO IN THESE PHOTOS"_s);
+    QTRY_VERIFY(rows->isVisible());
+    QVERIFY(rows->mapTo(f.view, QPoint()).y() > f.row(u"keywords"_s)->mapTo(f.view, QPoint()).y());
+    QTest::keyClicks(f.row(u"keywords"_s)->input(), u"boat"_s);
+    QTest::keyClick(f.row(u"keywords"_s)->input(), Qt::Key_Return);
+    QCOMPARE(f.model().batchLists().value(u"keywords"_s), QStringList{ u"boat"_s });
+    f.model().fieldSets().choose(FieldSets::usual());
+    QTRY_VERIFY(rows->isVisible());
+    QCOMPARE(rows->parentWidget(), f.row(u"keywords"_s)->parentWidget());
+}
+
+// Each has its dashes, and loses them with its first value.
+void tst_IptcForm::emptyOnesThatAreWanted()
+{
+    Photos f;
+    QVERIFY(f.open());
+    f.show(u"c.jpg"_s);
+    const QStringList ids{ u"date"_s, u"rating"_s, u"offsetOriginal"_s, u"iptc.contact"_s, u"iptc.locationsShown"_s };
+    FieldSets& sets = f.model().fieldSets();
+    sets.edit();
+    sets.store({ { {}, { u"Mine"_s, ids, QSet<QString>(ids.cbegin(), ids.cend()) } } }, u"Mine"_s);
+    f.unfold(u"CONTACT"_s);
+    f.unfold(u"LOCATION SHOWN"_s);
+    const auto look = [&f](const QString& id) {
+        QWidget* editor = f.row(id)->findChild<StructureCards*>();
+        if (!editor)
+            editor = f.row(id)->input();
+        return editor->grab().toImage();
+    };
+    QApplication::setActiveWindow(nullptr);
+    f.window->setFocus();
+    QMap<QString, QImage> wanted;
+    for (const QString& id : ids) {
+        QVERIFY2(f.row(id) && f.row(id)->state().wanted, qPrintable(id));
+        wanted.insert(id, look(id));
+    }
+    QCOMPARE(f.row(u"rating"_s)->state().helpLine, u"Required by Mine"_s);
+    sets.edit();
+    sets.store({ { u"Mine"_s, { u"Mine"_s, ids, {} } } }, u"Mine"_s);
+    f.settle();
+    for (const QString& id : ids)
+        QVERIFY2(look(id) != wanted.value(id), qPrintable(id));
+}
+
+void tst_IptcForm::scenesAreCodesOrAnyText_data()
+{
+    QTest::addColumn<QString>("held");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("then");
+    QTest::addRow("by name") << u"010100"_s << u"headshot"_s << u"group"_s << u"010900"_s;
+    QTest::addRow("by code") << QString() << QString() << u"011900"_s << u"011900"_s;
+    QTest::addRow("several") << u"010100, 011900"_s << u"headshot, action"_s << u"close"_s << u"011800"_s;
+    QTest::addRow("unknown") << u"019999"_s << u"019999"_s << u"019998"_s << u"019998"_s;
+    QTest::addRow("any text") << u"by the sea"_s << u"by the sea"_s << u"At sea, act 2"_s << u"At sea, act 2"_s;
+    QTest::addRow("what a code stands for") << QString() << QString() << u"=b="_s << u"on the boat"_s;
+}
+
+void tst_IptcForm::scenesAreCodesOrAnyText()
+{
+    QFETCH(QString, held);
+    QFETCH(QString, shown);
+    QFETCH(QString, typed);
+    QFETCH(QString, then);
+    Photos f;
+    const QString codes = f.photos.settings.filePath(u"codes.txt"_s);
+    writeFile(codes, "b\ton the boat\n");
+    f.model().codes().setFile(codes);
+    QTRY_COMPARE(f.model().codes().count(), 1);
+    f.add(u"d.jpg"_s, held.isEmpty() ? QStringList() : QStringList(u"-XMP-iptcCore:Scene="_s + held));
+    QVERIFY(f.open());
+    f.show(u"d.jpg"_s);
+    f.model().addKnownField(u"scene"_s);
+    f.settle();
+    auto* picker = f.editor<CodePicker>(u"scene"_s);
+    QVERIFY(picker);
+    QCOMPARE(picker->code(), held);
+    QCOMPARE(picker->text(), shown);
+    QCOMPARE(picker->accessibleName(), u"Scene"_s);
+    picker->setFocus();
+    QTest::keyClick(picker, Qt::Key_Down);
+    auto* list = qobject_cast<CodePopover*>(QApplication::activePopupWidget());
+    QVERIFY(list);
+    QTest::keyClicks(list->field(), typed);
+    QTest::keyClick(list->field(), Qt::Key_Return);
+    QCOMPARE(f.model().draftValues().value(u"scene"_s), then);
+    QCOMPARE(picker->code(), then);
 }
 
 void tst_IptcForm::whatASaveTells()

@@ -3,10 +3,10 @@
 #include "tests/ui/UiSupport.h"
 #include "tests/ui/inspector/HalfRead.h"
 #include "ui/controls/Toggles.h"
-#include "ui/inspector/BatchBanner.h"
 #include "ui/inspector/CameraSection.h"
 #include "ui/inspector/KeptField.h"
-#include "ui/inspector/PhotoHeader.h"
+#include "ui/inspector/head/BatchBanner.h"
+#include "ui/inspector/head/PhotoHeader.h"
 #include "ui/places/MapPreview.h"
 #include "ui/window/ProgressFoot.h"
 

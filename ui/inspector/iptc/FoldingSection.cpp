@@ -23,46 +23,37 @@ FoldingSection::FoldingSection(const QString& title, QWidget* parent)
     : QWidget(parent)
     , m_heading(new FoldingHeading(title, this))
     , m_column(new QVBoxLayout(this))
-    , m_rowColumn(new QVBoxLayout)
+    , m_rows(*this)
 {
     describeInReadingOrder(staticMetaObject, QAccessible::Client);
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(0);
     m_column->addWidget(m_heading);
-    m_column->addLayout(m_rowColumn);
-    onRestyle(this, [this] {
-        const bool isOpen = !m_rows.isEmpty();
-        m_rowColumn->setContentsMargins(0, isOpen ? px(belowHeading) : 0, 0, isOpen ? px(belowRows) : 0);
-        m_rowColumn->setSpacing(px(rowGap));
-        for (FieldRow* row : std::as_const(m_rows))
-            row->setContentsMargins(row->isWide() ? 0 : px(EditedDot::room), 0, 0, 0);
-    });
+    m_column->addLayout(m_rows.layout());
+    onRestyle(this, [this] { layOut(); });
 }
 
 void FoldingSection::setRows(const QList<FieldRow*>& rows)
 {
-    if (rows == m_rows)
+    if (!m_rows.set(rows))
         return;
-    for (FieldRow* row : std::as_const(m_rows)) {
-        m_rowColumn->removeWidget(row);
-        if (!rows.contains(row))
-            row->hide();
-    }
-    m_rows = rows;
-    for (FieldRow* row : rows) {
-        row->setContentsMargins(row->isWide() ? 0 : px(EditedDot::room), 0, 0, 0);
-        m_rowColumn->addWidget(row);
-        row->show();
-    }
-    const bool isOpen = !rows.isEmpty();
-    m_rowColumn->setContentsMargins(0, isOpen ? px(belowHeading) : 0, 0, isOpen ? px(belowRows) : 0);
+    layOut();
     update();
+}
+
+void FoldingSection::layOut()
+{
+    const bool isOpen = !rows().isEmpty();
+    m_rows.layout()->setContentsMargins(0, isOpen ? px(belowHeading) : 0, 0, isOpen ? px(belowRows) : 0);
+    m_rows.layout()->setSpacing(px(rowGap));
+    for (FieldRow* row : rows())
+        row->setContentsMargins(row->isWide() ? 0 : px(EditedDot::room), 0, 0, 0);
 }
 
 void FoldingSection::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    for (const FieldRow* row : std::as_const(m_rows))
+    for (const FieldRow* row : rows())
         if (row->state().edited && !row->state().batch && row->hasLabel())
             EditedDot::paint(painter, row->y() + row->dotCenter(), Theme::of(this));
 }

@@ -1,12 +1,14 @@
 #include "ui/inspector/iptc/IptcSections.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/fieldsets/FieldSets.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/schema/FieldLanguages.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/cards/FoldingHeading.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/inspector/FieldRow.h"
+#include "ui/inspector/InspectorStates.h"
 #include "ui/inspector/WantedFields.h"
 #include "ui/inspector/iptc/FoldingSection.h"
 #include "ui/inspector/iptc/IptcSummary.h"
@@ -38,6 +40,7 @@ IptcSections::IptcSections(AppModel& model, Rows rows, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
     , m_rows(std::move(rows))
+    , m_holders(model)
     , m_column(new QVBoxLayout(this))
 {
     describeInReadingOrder(staticMetaObject, QAccessible::Client);
@@ -51,7 +54,7 @@ void IptcSections::refresh(bool fresh)
     static const QList<FieldSection> all = sections();
     bool isAnything = false;
     for (const FieldSection section : all) {
-        const QStringList ids = m_model.visibleFieldIDs(section);
+        const QStringList ids = m_model.fieldSets().visible(section);
         FoldingSection* shown = ids.isEmpty() ? m_sections.value(section) : make(section);
         if (!shown)
             continue;
@@ -59,13 +62,19 @@ void IptcSections::refresh(bool fresh)
         shown->setRows(isOpen ? m_rows(ids, fresh) : QList<FieldRow*>());
         shown->heading().setOpen(isOpen);
         const QString gaps = WantedFields::line(m_model.fieldSets(), section);
-        shown->heading().setSummary(IptcSummary::of(m_model, ids, gaps));
+        shown->heading().setSummary(IptcSummary::of(
+            m_model, ids, [this](const QString& id) { return heldText(id); }, gaps));
         shown->heading().setCount(gaps.isEmpty() ? IptcSummary::countText(m_model, ids) : gaps);
         shown->heading().setEdited(IptcSummary::isEdited(m_model, ids));
         shown->setVisible(!ids.isEmpty());
         isAnything = isAnything || !ids.isEmpty();
     }
     setVisible(isAnything);
+}
+
+QString IptcSections::heldText(const QString& id) const
+{
+    return InspectorStates::heldText(m_model, m_holders, id);
 }
 
 void IptcSections::reveal(const QString& id)

@@ -2,6 +2,7 @@
 // Thread: the main thread. Shows the model; the rows are the form's.
 #pragma once
 
+#include "app/model/iptc/SelectedHolders.h"
 #include "core/schema/FieldSpec.h"
 
 #include <QMap>
@@ -33,6 +34,8 @@ public:
     /// Unfolds the section of this field, if it is one of these and folded, and says so with changed().
     void reveal(const QString& id);
     QList<QWidget*> tabStops() const;
+    /// As InspectorStates::heldText().
+    QString heldText(const QString& id) const;
 
 signals:
     /// A section is to be folded or unfolded: the form is to be shown again.
@@ -44,6 +47,7 @@ private:
 
     AppModel& m_model;
     Rows m_rows;
+    SelectedHolders m_holders;
     QVBoxLayout* m_column;
     QMap<FieldSection, FoldingSection*> m_sections;
     QSet<FieldSection> m_open;  ///< stay so from one photo to the next

@@ -1,6 +1,7 @@
 #include "ui/inspector/iptc/IptcSummary.h"
 
 #include "app/model/AppModel.h"
+#include "core/iptc/IptcSchema.h"
 #include "core/iptc/ShownText.h"
 #include "core/iptc/StructureText.h"
 #include "core/schema/FieldLanguages.h"
@@ -57,13 +58,26 @@ QString valueText(const AppModel& model, const FieldSpec& field)
     return field.kind == FieldKind::number ? field.label + u' ' + text : text;
 }
 
+// Of several photos also how many hold something, with the field's name unless the section is there for just this one.
+QString textOf(const AppModel& model, const FieldSpec& field, const QString& held)
+{
+    const QString value = valueText(model, field);
+    if (held.isEmpty())
+        return value;
+    const auto isThere = [&field](const FieldSpec& other) { return other.section == field.section; };
+    const bool isAlone = std::count_if(IptcSchema::all().cbegin(), IptcSchema::all().cend(), isThere) == 1;
+    const QString told = isAlone ? held : field.label + u' ' + held;
+    return value.isEmpty() ? told : value + u" · "_s + told;
+}
+
 }  // namespace
 
-Summary of(const AppModel& model, const QStringList& ids, const QString& behind)
+Summary of(const AppModel& model, const QStringList& ids, const std::function<QString(const QString& id)>& held,
+    const QString& behind)
 {
     QStringList parts;
     for (const QString& id : ids)
-        if (const QString text = valueText(model, *FieldSchema::spec(id)); !text.isEmpty())
+        if (const QString text = textOf(model, *FieldSchema::spec(id), held(id)); !text.isEmpty())
             parts.append(text);
     if (parts.isEmpty())
         return { behind, {} };

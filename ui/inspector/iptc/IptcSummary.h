@@ -5,14 +5,18 @@
 #include "core/schema/FieldSpec.h"
 #include "ui/controls/cards/Summary.h"
 
+#include <functional>
+
 namespace Quorbel {
 
 class AppModel;
 
 namespace IptcSummary {
 
-/// The values of these fields in one line, and behind them what is said of all of them.
-Summary of(const AppModel& model, const QStringList& ids, const QString& behind);
+/// The values of these fields in one line, and behind them what is said of all of them. `held`: how many of several
+/// photos hold a field, "" where that is not to be told.
+Summary of(const AppModel& model, const QStringList& ids, const std::function<QString(const QString& id)>& held,
+    const QString& behind);
 /// "2 places", where these fields are one that holds several structures; else "".
 QString countText(const AppModel& model, const QStringList& ids);
 /// Whether one of them, or its text in a further language, has an unsaved edit.

@@ -45,7 +45,7 @@ struct Photos : ModelFixture {
     {
         QStringList ids;
         for (const FieldSection section : allCases<FieldSection>())
-            ids += model->visibleFieldIDs(section);
+            ids += model->fieldSets().visible(section);
         return ids;
     }
     // Where the next gap is, and what is said of it.
@@ -156,10 +156,14 @@ void tst_FieldSets::showsTheFieldsOfASet()
     const QStringList usual = f.onScreen();
     f->setSingle(u"creator"_s, u"Mara"_s);
     f.sets().choose(u"Accessibility"_s);
-    // Its own, what holds something, what is edited.
-    const QStringList shown{ u"title"_s, u"description"_s, u"iptc.altText"_s, u"keywords"_s, u"creator"_s,
-        u"iptc.extendedDescription"_s, u"headline"_s, u"people"_s };
+    const QStringList shown{ u"title"_s, u"description"_s, u"iptc.altText"_s, u"keywords"_s,
+        u"iptc.extendedDescription"_s, u"people"_s };
     QCOMPARE(f.onScreen(), shown);
+    // Beside it what holds something, and what is edited; both at once, too.
+    const QStringList beside{ u"creator"_s, u"headline"_s };
+    QCOMPARE(f.sets().beside(), beside);
+    f->setSingle(u"headline"_s, u"Later light"_s);
+    QCOMPARE(f.sets().beside(), beside);
     const auto isAddable = [&](const QString& id) {
         const QList<FieldSpec> fields = f->addableKnownFields() + f->addableIptcFields();
         return std::any_of(fields.cbegin(), fields.cend(), [&](const FieldSpec& field) { return field.id == id; });
@@ -169,8 +173,13 @@ void tst_FieldSets::showsTheFieldsOfASet()
     f->addKnownField(u"iptc.altText"_s);
     QVERIFY(f->isRemovableAddedField(u"copyright"_s));
     QVERIFY(!f->isRemovableAddedField(u"iptc.altText"_s));
+    QVERIFY(f.onScreen().contains(u"copyright"_s));
+    QCOMPARE(f.sets().beside(), beside);
     f->removeAddedField(u"copyright"_s);
     QCOMPARE(f.onScreen(), shown);
+    f.sets().editWhatIsShown();
+    QCOMPARE(f.sets().started()->fields, shown);
+    f.sets().cancel();
     // As it was left, and back.
     f.relaunch();
     QCOMPARE(f->fieldSets().current(), u"Accessibility"_s);
@@ -180,6 +189,7 @@ void tst_FieldSets::showsTheFieldsOfASet()
     f.select(u"a"_s);
     QVERIFY(f.knows(u"a.jpg"_s));
     QCOMPARE(f.onScreen(), usual);
+    QCOMPARE(f.sets().beside(), QStringList());
     QVERIFY(f->fieldSets().gaps().isEmpty());
 }
 

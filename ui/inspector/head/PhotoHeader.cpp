@@ -1,4 +1,4 @@
-#include "ui/inspector/PhotoHeader.h"
+#include "ui/inspector/head/PhotoHeader.h"
 
 #include "core/schema/ImageRecord.h"
 #include "ui/controls/Labels.h"

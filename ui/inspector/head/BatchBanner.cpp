@@ -1,4 +1,4 @@
-#include "ui/inspector/BatchBanner.h"
+#include "ui/inspector/head/BatchBanner.h"
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/NoticeLine.h"
@@ -7,7 +7,7 @@
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/TextLines.h"
 #include "ui/controls/theme/Theme.h"
-#include "ui/inspector/PhotoHeader.h"
+#include "ui/inspector/head/PhotoHeader.h"
 
 #include <QPainter>
 

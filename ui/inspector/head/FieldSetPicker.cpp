@@ -1,4 +1,4 @@
-#include "ui/inspector/FieldSetPicker.h"
+#include "ui/inspector/head/FieldSetPicker.h"
 
 #include "app/model/fieldsets/FieldSets.h"
 

@@ -1,0 +1,93 @@
+#include "ui/inspector/BesideSet.h"
+
+#include "app/model/AppModel.h"
+#include "ui/controls/ReadingOrder.h"
+#include "ui/controls/cards/FoldingHeading.h"
+#include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/FieldRow.h"
+#include "ui/inspector/iptc/FoldingSection.h"
+#include "ui/inspector/iptc/IptcSummary.h"
+#include "ui/inspector/iptc/SettledFocus.h"
+
+#include <QVBoxLayout>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr qreal above = 8;  // points
+}  // namespace
+
+BesideSet::BesideSet(const AppModel& model, Rows rows, QWidget* parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_rows(std::move(rows))
+{
+    describeInReadingOrder(staticMetaObject, QAccessible::Client);
+    auto* column = new QVBoxLayout(this);
+    onRestyle(this, [column] { column->setContentsMargins(0, px(above), 0, 0); });
+    hide();
+}
+
+FoldingSection& BesideSet::section()
+{
+    if (m_section)
+        return *m_section;
+    m_section = new FoldingSection({}, this);
+    layout()->addWidget(m_section);
+    connect(&m_section->heading(), &FoldLine::openAsked, this, [this](bool open) {
+        setOpen(open);
+        if (open)
+            showWhereItStands(*m_section);
+    });
+    if (m_below)
+        m_section->setBelow(m_above, m_below);
+    return *m_section;
+}
+
+void BesideSet::setBelow(FieldRow* row, QWidget* widget)
+{
+    m_above = row;
+    m_below = widget;
+    if (m_section)
+        m_section->setBelow(row, widget);
+}
+
+bool BesideSet::refresh(const QStringList& ids, bool fresh)
+{
+    const QStringList idsBefore = std::exchange(m_ids, ids);
+    const QList<FieldRow*> rowsBefore = rows();
+    setVisible(!ids.isEmpty());
+    if (ids.isEmpty() && !m_section)
+        return false;
+    FoldingHeading& heading = section().heading();
+    QStringList labels;
+    for (const QString& id : ids)
+        labels.append(FieldSchema::spec(id)->label);
+    m_section->setRows(m_isOpen ? m_rows(ids, fresh) : QList<FieldRow*>());
+    heading.setTitle(m_model.isBatch() ? u"ALSO IN THESE PHOTOS"_s : u"ALSO IN THIS PHOTO"_s);
+    heading.setOpen(m_isOpen);
+    heading.setSummary({ labels.join(u", "_s), {} });
+    heading.setCount(labels.size() == 1 ? u"1 field"_s : u"%1 fields"_s.arg(labels.size()));
+    heading.setEdited(IptcSummary::isEdited(m_model, ids));
+    return ids != idsBefore || rows() != rowsBefore;
+}
+
+QWidget* BesideSet::heading() const
+{
+    return m_section ? &m_section->heading() : nullptr;
+}
+
+QList<FieldRow*> BesideSet::rows() const
+{
+    return m_section ? m_section->rows() : QList<FieldRow*>();
+}
+
+void BesideSet::setOpen(bool open)
+{
+    if (std::exchange(m_isOpen, open) != open)
+        emit changed();
+}
+
+}  // namespace Quorbel
