@@ -148,7 +148,7 @@ private:
                 }
         if (files.isEmpty())
             return;
-        const QHash<QUrl, PhotoDetails> details = DetailsRead::of(m_runner, files, m_control);
+        const QHash<QUrl, PhotoDetails> details = DetailsRead::of(m_runner, {}, files, m_control);
         const auto tags = TagDump::parse(m_runner.readDump(JournalTags::readArgs(MovePlan::tags()), urls, m_control));
         for (One& one : m_photos)
             for (HeldFields* held : { &one.moved.file, &one.moved.sidecar }) {
