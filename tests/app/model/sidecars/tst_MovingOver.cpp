@@ -96,6 +96,19 @@ struct Desk : ModelFixture {
     {
         return QString::fromUtf8(exiftool({ u"-s3"_s, u"-sep"_s, u"; "_s, u'-' + tag, folder.path(name) })).trimmed();
     }
+    // The same of several tags, in one run: those that are not as expected, "TAG=what is there".
+    QStringList otherThan(const QMap<QString, QString>& expected, const QString& name) const
+    {
+        QStringList arguments{ u"-f"_s, u"-s3"_s, u"-sep"_s, u"; "_s };
+        for (const QString& tag : expected.keys())
+            arguments.append(u'-' + tag);
+        const QStringList lines = QString::fromUtf8(exiftool(arguments << folder.path(name))).split(u'\n');
+        QStringList other;
+        for (qsizetype i = 0; i < expected.size(); ++i)
+            if (lines.value(i) != expected.values().at(i))
+                other.append(expected.keys().at(i) + u'=' + lines.value(i));
+        return other;
+    }
     QString banner() const { return model->errorMessage().value_or(QString()); }
 
     QTemporaryDir journal;
@@ -185,8 +198,7 @@ void tst_MovingOver::intoThePhoto()
         { u"Composite:GPSLongitude#"_s, u"151.25"_s }, { u"XMP-iptcExt:PersonInImage"_s, u"Ann"_s },
         { u"XMP-iptcCore:AltTextAccessibility"_s, u"A dog"_s }, { u"XMP-iptcExt:LocationCreatedCity"_s, u"Kyoto"_s },
         { u"XMP-iptcExt:DigitalSourceType#"_s, u"http://cv.iptc.org/newscodes/digitalsourcetype/digitalCapture"_s } };
-    for (auto tag = expected.cbegin(); tag != expected.cend(); ++tag)
-        QCOMPARE(tag.key() + u'=' + desk.stored(photo, tag.key()), tag.key() + u'=' + *tag);
+    QCOMPARE(desk.otherThan(expected, photo), QStringList());
     QVERIFY(desk.agrees(MoveWay::intoPhotos));
     QVERIFY(desk->undoSaveText().contains(photo));
     QVERIFY(desk.undo());
@@ -217,10 +229,11 @@ void tst_MovingOver::emptiedFieldsEmptyThePhotos()
     desk.moving().move();
     QVERIFY(desk.waitUntilIdle());
     QCOMPARE(desk.banner(), QString());
+    QMap<QString, QString> gone{ { u"EXIF:Artist"_s, u"Own"_s } };
     for (const QString& tag : { u"IPTC:ObjectName"_s, u"XMP-dc:Title"_s, u"EXIF:DateTimeOriginal"_s,
              u"EXIF:GPSLatitude"_s, u"XMP-xmp:Rating"_s, u"IPTC:Keywords"_s, u"XMP-iptcCore:AltTextAccessibility"_s })
-        QCOMPARE(tag + u'=' + desk.stored(u"a.NEF"_s, tag), tag + u'=');
-    QCOMPARE(desk.stored(u"a.NEF"_s, u"EXIF:Artist"_s), u"Own"_s);
+        gone.insert(tag, u"-"_s);
+    QCOMPARE(desk.otherThan(gone, u"a.NEF"_s), QStringList());
     QVERIFY(desk.agrees(MoveWay::intoPhotos));
 }
 
@@ -315,8 +328,7 @@ void tst_MovingOver::intoSidecars()
         { u"XMP-dc:Rights"_s, u"Mine"_s }, { u"XMP:OffsetTimeOriginal"_s, u"+09:00"_s },
         { u"XMP-exif:GPSLatitude#"_s, u"-33.5"_s }, { u"XMP-photoshop:Category"_s, u"CAT"_s },
         { u"XMP-iptcExt:LocationCreatedCity"_s, u"Kyoto"_s }, { u"XMP-iptcCore:AltTextAccessibility"_s, u"A dog"_s } };
-    for (auto tag = expected.cbegin(); tag != expected.cend(); ++tag)
-        QCOMPARE(tag.key() + u'=' + desk.stored(u"a.xmp"_s, tag.key()), tag.key() + u'=' + *tag);
+    QCOMPARE(desk.otherThan(expected, u"a.xmp"_s), QStringList());
     QVERIFY(desk.agrees(MoveWay::intoSidecars));
     QVERIFY(desk.undo());
     QCOMPARE(desk.banner(), QString());
