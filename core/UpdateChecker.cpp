@@ -1,5 +1,7 @@
 #include "core/UpdateChecker.h"
 
+#include "core/language/Texts.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkAccessManager>
@@ -14,7 +16,7 @@ namespace {
 
 [[noreturn]] void throwMistyped(const QString& member, const QString& wanted)
 {
-    throw Error(u"The update feed’s “%1” is missing or no %2."_s.arg(member, wanted));
+    throw Error(Texts::tr("The update feed’s “%1” is missing or no %2.").arg(member, wanted));
 }
 
 QString stringMember(const QJsonObject& feed, const QString& member)
@@ -30,7 +32,7 @@ qint64 integerMember(const QJsonObject& feed, const QString& member)
 {
     const QJsonValue value = feed.value(member);
     if (value.toVariant().typeId() != QMetaType::LongLong)
-        throwMistyped(member, u"whole number"_s);
+        throwMistyped(member, Texts::tr("whole number"));
     return value.toInteger();
 }
 
@@ -52,7 +54,7 @@ UpdateCheckResult resultOf(QNetworkReply& reply, qint64 currentBuild)
     // A status outside 2xx is an error of Qt's too; the status says more.
     const QVariant status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute);
     if (status.isValid() && (status.toInt() < 200 || status.toInt() > 299))
-        return failed(u"Bad server response: HTTP status %1."_s.arg(status.toInt()));
+        return failed(Texts::tr("Bad server response: HTTP status %1.").arg(status.toInt()));
     if (reply.error() != QNetworkReply::NoError)
         return failed(reply.errorString());
     try {
@@ -69,9 +71,9 @@ UpdateManifest decode(const QByteArray& body)
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(body, &parseError);
     if (parseError.error != QJsonParseError::NoError)
-        throw Error(u"The update feed is no valid JSON: %1."_s.arg(parseError.errorString()));
+        throw Error(Texts::tr("The update feed is no valid JSON: %1.").arg(parseError.errorString()));
     if (!document.isObject())
-        throw Error(u"The update feed is no JSON object."_s);
+        throw Error(Texts::tr("The update feed is no JSON object."));
     const QJsonObject feed = document.object();
     return { stringMember(feed, u"version"_s), integerMember(feed, u"build"_s), stringMember(feed, u"url"_s),
         optionalStringMember(feed, u"notes"_s) };

@@ -6,6 +6,7 @@
 #include "app/model/library/cache/RecordCache.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/timeshift/TimeShifting.h"
+#include "core/language/Texts.h"
 #include "core/schema/RecentItems.h"
 
 #include <QFileInfo>
@@ -64,7 +65,8 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
     connectParts();
     makeTools();
     if (!m_services.service)
-        m_errorMessage = u"ExifTool could not be found in the app bundle. Metadata cannot be read or written."_s;
+        m_errorMessage =
+            Texts::tr("ExifTool could not be found in the app bundle. Metadata cannot be read or written.");
 }
 
 AppModel::~AppModel() = default;
@@ -217,17 +219,17 @@ QList<ImageRecord> AppModel::visibleRecords() const
 QString AppModel::folderCountText() const
 {
     const int count = photos().index().photos();
-    QString text = QString::number(count) + u" photo"_s;
+    QString text = QString::number(count) + Texts::tr(" photo");
     if (count != 1)
         text += u's';
     if (photos().folders().isOrdering()) {
         const int folders = photos().folders().holding();
-        text += (folders == 1 ? u" in %1 folder"_s : u" in %1 folders"_s).arg(folders);
+        text += (folders == 1 ? Texts::tr(" in %1 folder") : Texts::tr(" in %1 folders")).arg(folders);
     }
     if (photos().filter().isLimiting())
-        text += u" \u00B7 %1 shown"_s.arg(visibleRows().size());
+        text += Texts::tr(" \u00B7 %1 shown").arg(visibleRows().size());
     if (isBatch())
-        text += u" \u00B7 %1 selected"_s.arg(selection().size());
+        text += Texts::tr(" \u00B7 %1 selected").arg(selection().size());
     return text;
 }
 
@@ -291,7 +293,7 @@ void AppModel::load(const QList<QUrl>& urls, bool withSubfolders)
     if (PhotoListing::isWorthListing(urls))
         m_library.load(urls, withSubfolders);
     else
-        setErrorMessage(u"No supported images were found."_s);
+        setErrorMessage(Texts::tr("No supported images were found."));
 }
 
 void AppModel::closeFolder()
@@ -331,7 +333,7 @@ void AppModel::openRecent(const QUrl& url)
     const QString path = url.toLocalFile();
     if (QFileInfo::exists(path))
         return requestLoad({ url });
-    setErrorMessage(u"“%1” could no longer be found."_s.arg(url.fileName()));
+    setErrorMessage(Texts::tr("“%1” could no longer be found.").arg(url.fileName()));
     QStringList remaining = m_preferences.recentPaths();
     remaining.removeAll(path);
     m_preferences.recentPaths.set(remaining);
@@ -356,10 +358,10 @@ void AppModel::takeVanished(const QList<int>& positions)
     const bool losesPrimary = before.primary && gone.contains(*before.primary);
     if (losesPrimary && !isBatch() && unsavedCount() > 0)
         setErrorMessage(
-            u"“%1” was removed by another program. Its unsaved changes are kept: Edit ▸ Bring Back Edits."_s.arg(
-                before.primary->fileName()));
+            Texts::tr("“%1” was removed by another program. Its unsaved changes are kept: Edit ▸ Bring Back Edits.")
+                .arg(before.primary->fileName()));
     else if (m_renameOpen && m_renamed && gone.contains(*m_renamed))
-        setErrorMessage(u"“%1” was removed by another program."_s.arg(m_renamed->fileName()));
+        setErrorMessage(Texts::tr("“%1” was removed by another program.").arg(m_renamed->fileName()));
     m_editing.leave(gone);
     const auto heir = losesPrimary ? before.nearestStaying(photos(), gone) : std::nullopt;
     photos().remove(positions);

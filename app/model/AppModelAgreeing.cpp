@@ -1,6 +1,7 @@
 // Homes that disagree: what has to be known and asked before they are made to agree.
 #include "app/model/AppModel.h"
 #include "app/model/pairs/Pairing.h"
+#include "core/language/Texts.h"
 #include "core/save/Agreement.h"
 #include "core/text/Text.h"
 
@@ -51,9 +52,9 @@ void AppModel::goOnAgreeing()
     }
     const QHash<QUrl, EditPlan> plans = agreements();
     if (const QStringList names = namesWithoutDetails(); !names.isEmpty()) {
-        setErrorMessage(u"The places of these photos’ fields could not be read: "_s + Text::listed(names));
+        setErrorMessage(Texts::tr("The places of these photos’ fields could not be read: ") + Text::listed(names));
     } else if (plans.isEmpty()) {
-        setErrorMessage(u"The places of the selected photos’ fields agree already."_s);
+        setErrorMessage(Texts::tr("The places of the selected photos’ fields agree already."));
     }
     if (plans.isEmpty()) {
         m_agreeing.reset();

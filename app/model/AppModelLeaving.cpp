@@ -2,6 +2,8 @@
 // are unsaved.
 #include "app/model/AppModel.h"
 
+#include "core/language/Texts.h"
+
 #include <QFileInfo>
 #include <QTimer>
 
@@ -19,7 +21,7 @@ constexpr std::chrono::milliseconds unnoticed{ 600 };
 
 QString waitingText()
 {
-    return u"The unsaved changes come back as soon as their photos are read."_s;
+    return Texts::tr("The unsaved changes come back as soon as their photos are read.");
 }
 
 }  // namespace
@@ -228,7 +230,7 @@ void AppModel::bringBack(const LeftEdits& left)
     here.edits = left.edits.onlyOf(open);
     away.edits = left.edits.onlyOf(gone);
     if (!away.edits.subjects.isEmpty())
-        setErrorMessage(u"Not here any more: %1. The unsaved changes are kept."_s.arg(away.names()));
+        setErrorMessage(Texts::tr("Not here any more: %1. The unsaved changes are kept.").arg(away.names()));
     if (here.edits.subjects.isEmpty())
         return;
     m_waiting = nullptr;
@@ -255,7 +257,8 @@ void AppModel::openAndBringBack(const LeftEdits& left)
         return QFileInfo::exists(photo.toLocalFile());
     });
     if (!isAny)
-        return setErrorMessage(u"%1 could no longer be found. The unsaved changes are kept."_s.arg(left.names()));
+        return setErrorMessage(
+            Texts::tr("%1 could no longer be found. The unsaved changes are kept.").arg(left.names()));
     QList<QUrl> urls;
     for (const QString& folder : folders)
         urls.append(QUrl::fromLocalFile(folder));

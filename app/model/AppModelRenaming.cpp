@@ -3,6 +3,7 @@
 
 #include "app/model/pairs/Pairing.h"
 #include "app/model/renaming/PhotosRenaming.h"
+#include "core/language/Texts.h"
 #include "core/renaming/FolderListing.h"
 #include "core/schema/FieldID.h"
 #include "core/text/FileNaming.h"
@@ -75,7 +76,7 @@ std::optional<QString> AppModel::renameProblem() const
     requireMainThread("renameProblem");
     const ImageRecord* record = primaryRecord();
     if (record && renderedBase(*record).contains(u'/'))
-        return u"A file name cannot hold “/”."_s;
+        return Texts::tr("A file name cannot hold “/”.");
     return std::nullopt;
 }
 
@@ -118,10 +119,10 @@ void AppModel::performRename()
     if (!record || !m_services.service || (m_renameOpen && m_renamed != record->url))
         return;
     if (const auto problem = renameProblem())
-        return setErrorMessage(u"Could not rename: "_s + *problem);
+        return setErrorMessage(Texts::tr("Could not rename: ") + *problem);
     if (const auto picture = pairing().pictureOf(record->url)) {
         if (isSaving())
-            return setErrorMessage(u"Could not rename: “%1” is being saved."_s.arg(record->fileName));
+            return setErrorMessage(Texts::tr("Could not rename: “%1” is being saved.").arg(record->fileName));
         return renaming().renameShot({ *record, *photos().record(*picture) }, renderedBase(*record));
     }
     const QString name = newFileName(*record, m_folderNames.current(folderOf(*record)));
@@ -130,12 +131,12 @@ void AppModel::performRename()
     const QUrl source = record->url;
     // ExifTool is about to put its new file under the old name.
     if (m_library.refresh().isBeingWritten(source))
-        return setErrorMessage(u"Could not rename: “%1” is being saved."_s.arg(record->fileName));
+        return setErrorMessage(Texts::tr("Could not rename: “%1” is being saved.").arg(record->fileName));
     const QUrl destination = QUrl::fromLocalFile(QFileInfo(source.toLocalFile()).dir().filePath(name));
     try {
         m_services.service->renameFile(source, destination);
     } catch (const Error& error) {
-        return setErrorMessage(u"Could not rename: "_s + error.description());
+        return setErrorMessage(Texts::tr("Could not rename: ") + error.description());
     }
     m_saving.noteRename(source, destination);
     takeRenamed(source, destination);

@@ -1,6 +1,7 @@
 // Saving: when to ask, and what a save leaves behind.
 #include "app/model/AppModel.h"
 #include "app/model/AppModelTools.h"
+#include "core/language/Texts.h"
 #include "core/save/Agreement.h"
 
 #include <algorithm>
@@ -231,7 +232,7 @@ QString AppModel::partialSaveText() const
 {
     const bool isOffered = !m_refused.homes.isEmpty() && m_errorMessage && !isSaving() && unsavedCount() > 0
         && selection() == m_refused.photos;
-    return isOffered ? u"Save without "_s + m_refused.homes.join(u" and "_s) : QString();
+    return isOffered ? Texts::tr("Save without ") + m_refused.homes.join(Texts::tr(" and ")) : QString();
 }
 
 void AppModel::savePartially()

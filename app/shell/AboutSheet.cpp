@@ -1,5 +1,6 @@
 #include "app/shell/AboutSheet.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/Metrics.h"
@@ -16,16 +17,18 @@ namespace {
 
 QString version()
 {
-    return u"Version %1 (build %2)"_s.arg(QString::fromUtf8(QUORBEL_VERSION), QString::fromUtf8(QUORBEL_BUILD_NUMBER));
+    return Texts::tr("Version %1 (build %2)")
+        .arg(QString::fromUtf8(QUORBEL_VERSION), QString::fromUtf8(QUORBEL_BUILD_NUMBER));
 }
 
 QStringList licences()
 {
     return {
-        u"© 2026 The Quorbel developers. Free software under the MIT License."_s,
-        u"Reads and writes photos with ExifTool by Phil Harvey (Artistic License or GPL). Built with "
-        "Qt %1 (LGPL 3), LibRaw (LGPL 2.1 or CDDL), libheif (LGPL 3), libjxl (BSD), OpenJPEG (BSD) "
-        "and Little CMS (MIT)."_s.arg(QString::fromLatin1(qVersion())),
+        Texts::tr("© 2026 The Quorbel developers. Free software under the MIT License."),
+        Texts::tr("Reads and writes photos with ExifTool by Phil Harvey (Artistic License or GPL). Built with "
+                  "Qt %1 (LGPL 3), LibRaw (LGPL 2.1 or CDDL), libheif (LGPL 3), libjxl (BSD), OpenJPEG (BSD) "
+                  "and Little CMS (MIT).")
+            .arg(QString::fromLatin1(qVersion())),
     };
 }
 
@@ -54,7 +57,7 @@ AboutSheet::AboutSheet(const QString& credits, QWidget* parent)
 
 QString AboutSheet::title() const
 {
-    return u"About Quorbel"_s;
+    return Texts::tr("About Quorbel");
 }
 
 }  // namespace Quorbel

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/fieldsets/FieldSets.h"
+#include "core/language/Texts.h"
 #include "ui/controls/ThemedMenu.h"
 
 #include <QActionGroup>
@@ -13,7 +14,7 @@ using namespace Qt::StringLiterals;
 FieldSetMenu::FieldSetMenu(AppModel& model, ThemedMenu* menu)
     : QObject(menu)
     , m_model(model)
-    , m_menu(menu->addThemedMenu(u"Field &Set"_s))
+    , m_menu(menu->addThemedMenu(Texts::tr("Field &Set")))
 {
     // Later: what changes them may be one of these entries.
     connect(&m_model.fieldSets(), &FieldSets::changed, this, &FieldSetMenu::fill, Qt::QueuedConnection);
@@ -38,10 +39,10 @@ void FieldSetMenu::fill()
         connect(action, &QAction::triggered, &sets, [&sets, name] { sets.choose(name); });
     }
     m_menu->addSeparator();
-    QAction* save = m_menu->addAction(u"Save What Is on Screen as Set…"_s);
+    QAction* save = m_menu->addAction(Texts::tr("Save What Is on Screen as Set…"));
     save->setData(true);  // needs photos
     connect(save, &QAction::triggered, &sets, &FieldSets::editWhatIsShown);
-    connect(m_menu->addAction(u"Edit Sets…"_s), &QAction::triggered, &sets, &FieldSets::edit);
+    connect(m_menu->addAction(Texts::tr("Edit Sets…")), &QAction::triggered, &sets, &FieldSets::edit);
 }
 
 }  // namespace Quorbel

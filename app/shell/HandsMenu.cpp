@@ -1,6 +1,7 @@
 #include "app/shell/HandsMenu.h"
 
 #include "app/model/AppModel.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldID.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/window/ContentView.h"
@@ -17,7 +18,7 @@ constexpr int mostStars = 5;
 
 QString starsText(int stars)
 {
-    return stars == 0 ? u"N&o Stars"_s : stars == 1 ? u"&1 Star"_s : u"&%1 Stars"_s.arg(stars);
+    return stars == 0 ? Texts::tr("N&o Stars") : stars == 1 ? Texts::tr("&1 Star") : Texts::tr("&%1 Stars").arg(stars);
 }
 
 }  // namespace
@@ -35,16 +36,16 @@ HandsMenu::HandsMenu(AppModel& model, ContentView& content)
 
 void HandsMenu::addToFile(ThemedMenu* menu)
 {
-    m_saveAndGoOn = menu->addCommand(u"Save and Ne&xt Photo"_s, { Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter },
-        [this] { m_content.saveAndGoOn(); });
+    m_saveAndGoOn = menu->addCommand(Texts::tr("Save and Ne&xt Photo"),
+        { Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter }, [this] { m_content.saveAndGoOn(); });
     followState();
 }
 
 void HandsMenu::addToEdit(ThemedMenu* menu)
 {
     addRating(menu);
-    m_sameAsBefore = menu->addCommand(
-        u"Same as Photo Be&fore"_s, { Qt::CTRL | Qt::Key_Apostrophe }, [this] { m_content.takeFromPhotoBefore(); });
+    m_sameAsBefore = menu->addCommand(Texts::tr("Same as Photo Be&fore"), { Qt::CTRL | Qt::Key_Apostrophe },
+        [this] { m_content.takeFromPhotoBefore(); });
     // Where no field has the keyboard there is nothing to fill; the keys are let through once the menu is closed.
     connect(menu, &QMenu::aboutToShow, this,
         [this] { m_sameAsBefore->setEnabled(m_model.hasPhotoBefore() && m_content.hasField()); });
@@ -54,7 +55,7 @@ void HandsMenu::addToEdit(ThemedMenu* menu)
 
 void HandsMenu::addRating(ThemedMenu* menu)
 {
-    m_rating = menu->addThemedMenu(u"Rati&ng"_s);
+    m_rating = menu->addThemedMenu(Texts::tr("Rati&ng"));
     auto* group = new QActionGroup(m_rating);
     group->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     for (int stars = 0; stars <= mostStars; ++stars) {
@@ -80,9 +81,10 @@ void HandsMenu::showRating()
 
 void HandsMenu::addToView(ThemedMenu* menu)
 {
-    m_next = menu->addCommand(u"Ne&xt Photo"_s, { Qt::ALT | Qt::Key_Down }, [this] { m_content.step(1); });
-    m_previous = menu->addCommand(u"Previ&ous Photo"_s, { Qt::ALT | Qt::Key_Up }, [this] { m_content.step(-1); });
-    m_look = menu->addCommand(u"&Look Closely"_s, { Qt::Key_F11 }, [this] { m_content.toggleCloseup(); });
+    m_next = menu->addCommand(Texts::tr("Ne&xt Photo"), { Qt::ALT | Qt::Key_Down }, [this] { m_content.step(1); });
+    m_previous =
+        menu->addCommand(Texts::tr("Previ&ous Photo"), { Qt::ALT | Qt::Key_Up }, [this] { m_content.step(-1); });
+    m_look = menu->addCommand(Texts::tr("&Look Closely"), { Qt::Key_F11 }, [this] { m_content.toggleCloseup(); });
     followState();
 }
 

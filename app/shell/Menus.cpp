@@ -12,6 +12,7 @@
 #include "app/shell/QuickKeywordsMenu.h"
 #include "app/shell/TemplatesMenu.h"
 #include "app/shell/TextCommands.h"
+#include "core/language/Texts.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/sheets/ShortcutsSheet.h"
@@ -76,41 +77,43 @@ ThemedMenu* Menus::addMenu(const QString& title)
 
 void Menus::addFileMenu(const MenuCommands& commands)
 {
-    ThemedMenu* menu = addMenu(u"&File"_s);
-    menu->addCommand(u"&Open…"_s, keysFor(QKeySequence::Open, Qt::CTRL | Qt::Key_O), [this] { m_model.openPanel(); });
-    menu->addCommand(u"Open with Su&bfolders…"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_O },
+    ThemedMenu* menu = addMenu(Texts::tr("&File"));
+    menu->addCommand(
+        Texts::tr("&Open…"), keysFor(QKeySequence::Open, Qt::CTRL | Qt::Key_O), [this] { m_model.openPanel(); });
+    menu->addCommand(Texts::tr("Open with Su&bfolders…"), { Qt::CTRL | Qt::SHIFT | Qt::Key_O },
         [this] { m_model.openPanelWithSubfolders(); });
-    m_recents = menu->addThemedMenu(u"Open &Recent"_s);
+    m_recents = menu->addThemedMenu(Texts::tr("Open &Recent"));
     connect(m_recents, &QMenu::aboutToShow, this, &Menus::fillRecents);
     connect(&m_model.preferences(), &Preferences::changed, this, &Menus::fillRecents);
     fillRecents();
     menu->addSeparator();
     m_save = menu->addCommand(
-        u"&Save"_s, keysFor(QKeySequence::Save, Qt::CTRL | Qt::Key_S), [this] { m_model.requestSave(); });
+        Texts::tr("&Save"), keysFor(QKeySequence::Save, Qt::CTRL | Qt::Key_S), [this] { m_model.requestSave(); });
     m_hands->addToFile(menu);
-    m_rename = menu->addCommand(u"Re&name…"_s, { Qt::Key_F2 }, [this] { m_model.setRenameOpen(true); });
-    m_renamePhotos =
-        menu->addCommand(u"Rename P&hotos…"_s, { Qt::SHIFT | Qt::Key_F2 }, [this] { m_model.renaming().open(); });
+    m_rename = menu->addCommand(Texts::tr("Re&name…"), { Qt::Key_F2 }, [this] { m_model.setRenameOpen(true); });
+    m_renamePhotos = menu->addCommand(
+        Texts::tr("Rename P&hotos…"), { Qt::SHIFT | Qt::Key_F2 }, [this] { m_model.renaming().open(); });
     addMoves(menu);
     menu->addSeparator();
     m_refresh = menu->addCommand(
-        u"Re&fresh"_s, keysFor(QKeySequence::Refresh, Qt::CTRL | Qt::Key_R), [this] { m_model.refresh(); });
-    m_close = menu->addCommand(
-        u"&Close Folder"_s, keysFor(QKeySequence::Close, Qt::CTRL | Qt::Key_W), [this] { m_model.requestClose(); });
+        Texts::tr("Re&fresh"), keysFor(QKeySequence::Refresh, Qt::CTRL | Qt::Key_R), [this] { m_model.refresh(); });
+    m_close = menu->addCommand(Texts::tr("&Close Folder"), keysFor(QKeySequence::Close, Qt::CTRL | Qt::Key_W),
+        [this] { m_model.requestClose(); });
     menu->addSeparator();
     menu->addCommand(
-        u"Se&ttings…"_s, keysFor(QKeySequence::Preferences, Qt::CTRL | Qt::Key_Comma), commands.openSettings);
+        Texts::tr("Se&ttings…"), keysFor(QKeySequence::Preferences, Qt::CTRL | Qt::Key_Comma), commands.openSettings);
     menu->addSeparator();
-    menu->addCommand(u"&Quit"_s, keysFor(QKeySequence::Quit, Qt::CTRL | Qt::Key_Q), [this] { m_model.requestQuit(); });
+    menu->addCommand(
+        Texts::tr("&Quit"), keysFor(QKeySequence::Quit, Qt::CTRL | Qt::Key_Q), [this] { m_model.requestQuit(); });
 }
 
 void Menus::addMoves(ThemedMenu* menu)
 {
     MovingOver& moving = m_model.movingOver();
-    m_intoPhotos =
-        menu->addCommand(u"Write Sidecars &Into Photos…"_s, {}, [&moving] { moving.request(MoveWay::intoPhotos); });
-    m_intoSidecars =
-        menu->addCommand(u"Write &Metadata Into Sidecars…"_s, {}, [&moving] { moving.request(MoveWay::intoSidecars); });
+    m_intoPhotos = menu->addCommand(
+        Texts::tr("Write Sidecars &Into Photos…"), {}, [&moving] { moving.request(MoveWay::intoPhotos); });
+    m_intoSidecars = menu->addCommand(
+        Texts::tr("Write &Metadata Into Sidecars…"), {}, [&moving] { moving.request(MoveWay::intoSidecars); });
 }
 
 void Menus::fillRecents()
@@ -120,17 +123,17 @@ void Menus::fillRecents()
     for (const QUrl& url : urls)
         m_recents->addCommand(ThemedMenu::literal(shownPath(url)), {}, [this, url] { m_model.openRecent(url); });
     m_recents->addSeparator();
-    m_recents->addCommand(u"Clear Menu"_s, {}, [this] { m_model.clearRecents(); });
+    m_recents->addCommand(Texts::tr("Clear Menu"), {}, [this] { m_model.clearRecents(); });
     m_recents->menuAction()->setEnabled(!urls.isEmpty());
 }
 
 void Menus::addEditMenu()
 {
-    ThemedMenu* menu = addMenu(u"&Edit"_s);
+    ThemedMenu* menu = addMenu(Texts::tr("&Edit"));
     TextCommands::addHistory(*menu);
-    m_undoSave = menu->addCommand(u"Undo Sa&ve"_s, {}, [this] { m_model.undoSave(); });
-    m_undoRename = menu->addCommand(u"Und&o Rename"_s, {}, [this] { m_model.renaming().undo(); });
-    m_bringBack = menu->addThemedMenu(u"&Bring Back Edits"_s);
+    m_undoSave = menu->addCommand(Texts::tr("Undo Sa&ve"), {}, [this] { m_model.undoSave(); });
+    m_undoRename = menu->addCommand(Texts::tr("Und&o Rename"), {}, [this] { m_model.renaming().undo(); });
+    m_bringBack = menu->addThemedMenu(Texts::tr("&Bring Back Edits"));
     connect(&m_model, &AppModel::leftEditsChanged, this, &Menus::fillBringBack);
     fillBringBack();
     menu->addSeparator();
@@ -140,26 +143,26 @@ void Menus::addEditMenu()
     new TemplatesMenu(m_model, menu);
     m_hands->addToEdit(menu);
     menu->addSeparator();
-    menu->addCommand(u"Select &All"_s, keysFor(QKeySequence::SelectAll, Qt::CTRL | Qt::Key_A), [this] {
+    menu->addCommand(Texts::tr("Select &All"), keysFor(QKeySequence::SelectAll, Qt::CTRL | Qt::Key_A), [this] {
         if (!TextCommands::selectAll())
             m_model.selectAllPhotos();
     });
     m_find = menu->addCommand(
-        u"&Search"_s, keysFor(QKeySequence::Find, Qt::CTRL | Qt::Key_F), [this] { m_content.focusSearch(); });
+        Texts::tr("&Search"), keysFor(QKeySequence::Find, Qt::CTRL | Qt::Key_F), [this] { m_content.focusSearch(); });
     menu->addSeparator();
     new QuickKeywordsMenu(m_model.quickKeywords(), menu);
-    m_shiftTime = menu->addCommand(u"S&hift Time…"_s, {}, [this] { m_model.timeShifting().request(); });
-    m_agree = menu->addCommand(u"Make Them A&gree"_s, {}, [this] { m_model.requestMakeAgree(); });
+    m_shiftTime = menu->addCommand(Texts::tr("S&hift Time…"), {}, [this] { m_model.timeShifting().request(); });
+    m_agree = menu->addCommand(Texts::tr("Make Them A&gree"), {}, [this] { m_model.requestMakeAgree(); });
 }
 
 void Menus::addFieldCommands(ThemedMenu* menu)
 {
-    m_copyFields =
-        menu->addCommand(u"Copy Fi&elds"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_C }, [this] { m_model.pasting().copy(); });
+    m_copyFields = menu->addCommand(
+        Texts::tr("Copy Fi&elds"), { Qt::CTRL | Qt::SHIFT | Qt::Key_C }, [this] { m_model.pasting().copy(); });
     m_pasteFields = menu->addCommand(
-        u"Paste Fiel&ds…"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_V }, [this] { m_model.pasting().ask(); });
-    m_pasteAgain = menu->addCommand(
-        u"Paste Fields Aga&in"_s, { Qt::CTRL | Qt::ALT | Qt::Key_V }, [this] { m_model.pasting().pasteAgain(); });
+        Texts::tr("Paste Fiel&ds…"), { Qt::CTRL | Qt::SHIFT | Qt::Key_V }, [this] { m_model.pasting().ask(); });
+    m_pasteAgain = menu->addCommand(Texts::tr("Paste Fields Aga&in"), { Qt::CTRL | Qt::ALT | Qt::Key_V },
+        [this] { m_model.pasting().pasteAgain(); });
 }
 
 void Menus::fillBringBack()
@@ -174,17 +177,17 @@ void Menus::fillBringBack()
 
 void Menus::addViewMenu()
 {
-    ThemedMenu* menu = addMenu(u"&View"_s);
+    ThemedMenu* menu = addMenu(Texts::tr("&View"));
     m_hands->addToView(menu);
     menu->addSeparator();
     m_preview = menu->addCommand(
-        u"Show preview"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_P }, [this] { m_content.togglePreview(); });
-    m_disagreements = menu->addAction(u"Show &Disagreements"_s);
+        Texts::tr("Show preview"), { Qt::CTRL | Qt::SHIFT | Qt::Key_P }, [this] { m_content.togglePreview(); });
+    m_disagreements = menu->addAction(Texts::tr("Show &Disagreements"));
     m_disagreements->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_D);
     m_disagreements->setCheckable(true);
     connect(m_disagreements, &QAction::triggered, &m_model,
         [this](bool on) { m_model.filtering().setOn(PhotoTrait::disagreement, on); });
-    QAction* names = menu->addAction(u"Show &namespace details"_s);
+    QAction* names = menu->addAction(Texts::tr("Show &namespace details"));
     names->setCheckable(true);
     names->setChecked(m_model.preferences().showNamespace());
     connect(names, &QAction::toggled, &m_model, [this](bool on) { m_model.preferences().showNamespace.set(on); });
@@ -195,13 +198,14 @@ void Menus::addViewMenu()
     menu->addSeparator();
     addGaps(menu);
     menu->addSeparator();
-    m_readAgain = menu->addCommand(u"Read &Again"_s, { Qt::SHIFT | Qt::Key_F5 }, [this] { m_model.readAgain(); });
+    m_readAgain =
+        menu->addCommand(Texts::tr("Read &Again"), { Qt::SHIFT | Qt::Key_F5 }, [this] { m_model.readAgain(); });
 }
 
 // The tick follows once what is unsaved was saved or left, or not at all.
 void Menus::addPairing(ThemedMenu* menu)
 {
-    QAction* pairs = menu->addAction(u"Pair Raw and &JPEG"_s);
+    QAction* pairs = menu->addAction(Texts::tr("Pair Raw and &JPEG"));
     pairs->setCheckable(true);
     const auto tick = [this, pairs] { pairs->setChecked(m_model.pairing().isOn()); };
     connect(pairs, &QAction::triggered, &m_model, [this, tick](bool on) {
@@ -215,23 +219,23 @@ void Menus::addPairing(ThemedMenu* menu)
 void Menus::addGaps(ThemedMenu* menu)
 {
     Filtering& filtering = m_model.filtering();
-    m_nextGap =
-        menu->addCommand(u"Next &Gap"_s, { Qt::Key_F8 }, [&filtering] { filtering.goToGap(Filtering::Way::next); });
-    m_previousGap = menu->addCommand(
-        u"Previo&us Gap"_s, { Qt::SHIFT | Qt::Key_F8 }, [&filtering] { filtering.goToGap(Filtering::Way::previous); });
+    m_nextGap = menu->addCommand(
+        Texts::tr("Next &Gap"), { Qt::Key_F8 }, [&filtering] { filtering.goToGap(Filtering::Way::next); });
+    m_previousGap = menu->addCommand(Texts::tr("Previo&us Gap"), { Qt::SHIFT | Qt::Key_F8 },
+        [&filtering] { filtering.goToGap(Filtering::Way::previous); });
     m_clearFilters = menu->addCommand(
-        u"Clear &Filters"_s, { Qt::CTRL | Qt::SHIFT | Qt::Key_F }, [&filtering] { filtering.clear(); });
+        Texts::tr("Clear &Filters"), { Qt::CTRL | Qt::SHIFT | Qt::Key_F }, [&filtering] { filtering.clear(); });
 }
 
 void Menus::addHelpMenu(const MenuCommands& commands)
 {
-    ThemedMenu* menu = addMenu(u"&Help"_s);
-    menu->addCommand(u"Quorbel &Help"_s, keysFor(QKeySequence::HelpContents, Qt::Key_F1), commands.openHelp);
-    menu->addCommand(u"&Keyboard Shortcuts"_s, { Qt::CTRL | Qt::Key_F1 }, [this] { showShortcuts(); });
+    ThemedMenu* menu = addMenu(Texts::tr("&Help"));
+    menu->addCommand(Texts::tr("Quorbel &Help"), keysFor(QKeySequence::HelpContents, Qt::Key_F1), commands.openHelp);
+    menu->addCommand(Texts::tr("&Keyboard Shortcuts"), { Qt::CTRL | Qt::Key_F1 }, [this] { showShortcuts(); });
     menu->addSeparator();
     if (commands.checkForUpdates)
-        menu->addCommand(u"Check for &Updates…"_s, {}, commands.checkForUpdates);
-    menu->addCommand(u"&About Quorbel"_s, {}, commands.showAbout);
+        menu->addCommand(Texts::tr("Check for &Updates…"), {}, commands.checkForUpdates);
+    menu->addCommand(Texts::tr("&About Quorbel"), {}, commands.showAbout);
 }
 
 // Of the menus as they are now.
@@ -246,14 +250,15 @@ void Menus::followState()
 {
     const bool any = !m_model.records().isEmpty();
     m_save->setEnabled(m_model.unsavedCount() >= 1);
-    m_save->setText(m_model.isBatch() ? u"&Apply to %1"_s.arg(m_model.selection().size()) : u"&Save"_s);
+    m_save->setText(m_model.isBatch() ? Texts::tr("&Apply to %1").arg(m_model.selection().size()) : Texts::tr("&Save"));
     m_undoSave->setEnabled(m_model.canUndoSave());
-    m_undoSave->setText(ThemedMenu::literal(m_model.undoSaveText()).replace(u"Undo Save"_s, u"Undo Sa&ve"_s));
+    m_undoSave->setText(
+        ThemedMenu::literal(m_model.undoSaveText()).replace(Texts::tr("Undo Save"), Texts::tr("Undo Sa&ve")));
     m_rename->setEnabled(m_model.canRename());
     m_renamePhotos->setEnabled(m_model.renaming().canOpen());
     m_undoRename->setEnabled(m_model.renaming().canUndo());
-    m_undoRename->setText(
-        ThemedMenu::literal(m_model.renaming().undoText()).replace(u"Undo Rename"_s, u"Und&o Rename"_s));
+    m_undoRename->setText(ThemedMenu::literal(m_model.renaming().undoText())
+                              .replace(Texts::tr("Undo Rename"), Texts::tr("Und&o Rename")));
     m_refresh->setEnabled(m_model.canRefresh());
     m_close->setEnabled(any);
     m_find->setEnabled(any);
@@ -272,7 +277,7 @@ void Menus::followState()
     m_previousGap->setEnabled(any);
     const Filtering& filtering = m_model.filtering();
     m_clearFilters->setEnabled(filtering.isOn() || !filtering.text().isEmpty());
-    m_preview->setText(m_content.previewShown() ? u"Hide &preview"_s : u"Show &preview"_s);
+    m_preview->setText(m_content.previewShown() ? Texts::tr("Hide &preview") : Texts::tr("Show &preview"));
 }
 
 }  // namespace Quorbel

@@ -1,5 +1,6 @@
 #include "app/shell/OpenPanel.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/ImageTypes.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -19,20 +20,20 @@ QString imageFilter()
     for (const QString& extension : ImageTypes::extensions())
         patterns.append(u"*."_s + extension);
     patterns.sort();
-    return u"Images (%1)"_s.arg(patterns.join(QLatin1Char(' ')));
+    return Texts::tr("Images (%1)").arg(patterns.join(QLatin1Char(' ')));
 }
 
 QString titleFor(OpenPanel::Choice choice)
 {
     switch (choice) {
     case OpenPanel::Choice::folder:
-        return u"Choose a folder of images. The folders in it are opened as well."_s;
+        return Texts::tr("Choose a folder of images. The folders in it are opened as well.");
     case OpenPanel::Choice::text:
-        return u"Choose a text file of codes: a code, a tab, and its text in each line."_s;
+        return Texts::tr("Choose a text file of codes: a code, a tab, and its text in each line.");
     case OpenPanel::Choice::any:
         break;
     }
-    return u"Choose a folder of images, or one or more image files."_s;
+    return Texts::tr("Choose a folder of images, or one or more image files.");
 }
 
 QFileDialog::FileMode modeFor(OpenPanel::Choice choice)
@@ -58,10 +59,10 @@ OpenPanel::OpenPanel(Choice choice, QWidget* parent)
     setOption(ShowDirsOnly, choice == Choice::folder);
     setFileMode(modeFor(choice));
     if (choice == Choice::any)
-        setNameFilters({ imageFilter(), u"All files (*)"_s });
+        setNameFilters({ imageFilter(), Texts::tr("All files (*)") });
     if (choice == Choice::text)
-        setNameFilters({ u"Text files (*.txt *.tsv *.tab *.csv)"_s, u"All files (*)"_s });
-    setLabelText(QFileDialog::Accept, choice == Choice::text ? u"Choose"_s : u"Open"_s);
+        setNameFilters({ Texts::tr("Text files (*.txt *.tsv *.tab *.csv)"), Texts::tr("All files (*)") });
+    setLabelText(QFileDialog::Accept, choice == Choice::text ? Texts::tr("Choose") : Texts::tr("Open"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     if (choice == Choice::text)

@@ -1,6 +1,7 @@
 #include "app/shell/QuickKeywordsMenu.h"
 
 #include "app/model/words/QuickKeywords.h"
+#include "core/language/Texts.h"
 #include "core/schema/KeywordPath.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/inspector/keywords/QuickSetMenu.h"
@@ -12,7 +13,7 @@ using namespace Qt::StringLiterals;
 QuickKeywordsMenu::QuickKeywordsMenu(QuickKeywords& quick, ThemedMenu* menu)
     : QObject(menu)
     , m_quick(quick)
-    , m_menu(menu->addThemedMenu(u"Quick &Keywords"_s))
+    , m_menu(menu->addThemedMenu(Texts::tr("Quick &Keywords")))
 {
     // Later: what changes them may be one of these entries.
     connect(&m_quick, &QuickKeywords::changed, this, &QuickKeywordsMenu::fill, Qt::QueuedConnection);

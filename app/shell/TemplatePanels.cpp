@@ -1,5 +1,6 @@
 #include "app/shell/TemplatePanels.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QFileDialog>
@@ -14,7 +15,7 @@ QFileDialog* panel(QWidget* window, const QString& title)
 {
     auto* dialog = new QFileDialog(window, title);
     dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setNameFilters({ u"Templates (*.json)"_s, u"All files (*)"_s });
+    dialog->setNameFilters({ Texts::tr("Templates (*.json)"), Texts::tr("All files (*)") });
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::WindowModal);
     setTheme(dialog, Theme::of(window));
@@ -28,14 +29,14 @@ Templates::Panels templatePanels(QWidget* window)
     return {
         .import =
             [window](const std::function<void(const QStringList&)>& chosen) {
-                QFileDialog* dialog = panel(window, u"Choose template files."_s);
+                QFileDialog* dialog = panel(window, Texts::tr("Choose template files."));
                 dialog->setFileMode(QFileDialog::ExistingFiles);
                 QObject::connect(dialog, &QFileDialog::filesSelected, dialog, chosen);
                 dialog->show();
             },
         .exportTo =
             [window](const QString& name, const std::function<void(const QString&)>& chosen) {
-                QFileDialog* dialog = panel(window, u"Choose where the template is to go."_s);
+                QFileDialog* dialog = panel(window, Texts::tr("Choose where the template is to go."));
                 dialog->setAcceptMode(QFileDialog::AcceptSave);
                 dialog->setDefaultSuffix(u"json"_s);
                 dialog->selectFile(name);

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/templates/Templates.h"
+#include "core/language/Texts.h"
 #include "ui/controls/ThemedMenu.h"
 
 namespace Quorbel {
@@ -11,8 +12,8 @@ using namespace Qt::StringLiterals;
 TemplatesMenu::TemplatesMenu(AppModel& model, ThemedMenu* menu)
     : QObject(menu)
     , m_model(model)
-    , m_menu(menu->addThemedMenu(u"Te&mplates"_s))
-    , m_saveAsTemplate(new QAction(u"Save as Template…"_s, this))  // outlives the others, which are made anew
+    , m_menu(menu->addThemedMenu(Texts::tr("Te&mplates")))
+    , m_saveAsTemplate(new QAction(Texts::tr("Save as Template…"), this))  // outlives the others, which are made anew
 {
     connect(m_saveAsTemplate, &QAction::triggered, this, [this] { m_model.templates().saveAsTemplate(); });
     connect(&m_model.templates().store(), &TemplateStore::changed, this, &TemplatesMenu::fill);
@@ -34,7 +35,7 @@ void TemplatesMenu::fill()
     }
     m_menu->addSeparator();
     m_menu->addAction(m_saveAsTemplate);
-    m_menu->addCommand(u"Templates…"_s, {}, [this] { m_model.templates().setOpen(true); });
+    m_menu->addCommand(Texts::tr("Templates…"), {}, [this] { m_model.templates().setOpen(true); });
     followState();
 }
 

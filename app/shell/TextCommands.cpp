@@ -1,5 +1,6 @@
 #include "app/shell/TextCommands.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/ThemedMenu.h"
 
 #include <QApplication>
@@ -83,15 +84,15 @@ void add(ThemedMenu& menu, const QString& text, QKeySequence::StandardKey key, c
 
 void TextCommands::addHistory(ThemedMenu& menu)
 {
-    add(menu, u"&Undo"_s, QKeySequence::Undo, "undo", canUndo);
-    add(menu, u"&Redo"_s, QKeySequence::Redo, "redo", canRedo);
+    add(menu, Texts::tr("&Undo"), QKeySequence::Undo, "undo", canUndo);
+    add(menu, Texts::tr("&Redo"), QKeySequence::Redo, "redo", canRedo);
 }
 
 void TextCommands::addClipboard(ThemedMenu& menu)
 {
-    add(menu, u"Cu&t"_s, QKeySequence::Cut, "cut", canCut);
-    add(menu, u"&Copy"_s, QKeySequence::Copy, "copy", hasSelectedText);
-    add(menu, u"&Paste"_s, QKeySequence::Paste, "paste", canPaste);
+    add(menu, Texts::tr("Cu&t"), QKeySequence::Cut, "cut", canCut);
+    add(menu, Texts::tr("&Copy"), QKeySequence::Copy, "copy", hasSelectedText);
+    add(menu, Texts::tr("&Paste"), QKeySequence::Paste, "paste", canPaste);
 }
 
 bool TextCommands::selectAll()

@@ -1,6 +1,7 @@
 #include "app/shell/UpdatePresenter.h"
 
 #include "core/Product.h"
+#include "core/language/Texts.h"
 #include "core/text/Text.h"
 
 #include <QNetworkAccessManager>
@@ -16,14 +17,15 @@ constexpr int transferTimeout = 30'000;
 
 const Notice& upToDateNotice()
 {
-    static const Notice notice{ u"You're up to date"_s, u"Quorbel is running the latest version."_s, { u"OK"_s } };
+    static const Notice notice{ Texts::tr("You're up to date"), Texts::tr("Quorbel is running the latest version."),
+        { u"OK"_s } };
     return notice;
 }
 
 const Notice& failedNotice()
 {
-    static const Notice notice{ u"Couldn't check for updates"_s,
-        u"Please check your internet connection and try again."_s, { u"OK"_s } };
+    static const Notice notice{ Texts::tr("Couldn't check for updates"),
+        Texts::tr("Please check your internet connection and try again."), { u"OK"_s } };
     return notice;
 }
 
@@ -106,8 +108,9 @@ void UpdatePresenter::recordCheck()
 
 void UpdatePresenter::presentAvailable(const UpdateManifest& manifest)
 {
-    const Notice notice{ u"Quorbel %1 is available"_s.arg(manifest.version),
-        manifest.notes.value_or(u"A newer version of Quorbel is available."_s), { u"Download"_s, u"Later"_s } };
+    const Notice notice{ Texts::tr("Quorbel %1 is available").arg(manifest.version),
+        manifest.notes.value_or(Texts::tr("A newer version of Quorbel is available.")),
+        { Texts::tr("Download"), Texts::tr("Later") } };
     m_services.show(notice, [this, address = manifest.url](qsizetype button) {
         if (button != 0)
             return;

@@ -1,5 +1,6 @@
 #include "app/shell/AppDelegate.h"
 #include "core/Product.h"
+#include "core/language/Texts.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -17,10 +18,10 @@ namespace {
 QStringList parsedFiles(const QApplication& application)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"Reads and edits the words inside photos."_s);
+    parser.setApplicationDescription(Texts::tr("Reads and edits the words inside photos."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(u"files"_s, u"A folder of photos, or photos."_s, u"[files…]"_s);
+    parser.addPositionalArgument(u"files"_s, Texts::tr("A folder of photos, or photos."), u"[files…]"_s);
     parser.process(application);
     return parser.positionalArguments();
 }

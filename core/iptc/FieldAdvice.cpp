@@ -2,6 +2,7 @@
 
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/Vocabularies.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldLanguages.h"
 
 #include <QMap>
@@ -32,7 +33,7 @@ QString bareCode(const QString& vocabulary, const QString& value)
 QString altTextNote(const QString& value)
 {
     const int count = characters(value);
-    return count > altTextLength ? u"Long to listen to: %1 of %2 characters"_s.arg(count).arg(altTextLength)
+    return count > altTextLength ? Texts::tr("Long to listen to: %1 of %2 characters").arg(count).arg(altTextLength)
                                  : QString();
 }
 
@@ -45,7 +46,7 @@ QString dataMiningNote(const QString& value, const std::function<bool(const QStr
     };
     const QString id = fields.value(bareCode(u"dataMining"_s, value));
     return id.isEmpty() || !isEmpty(id) ? QString()
-                                        : u"Points to “%1”, which is empty"_s.arg(IptcSchema::spec(id)->label);
+                                        : Texts::tr("Points to “%1”, which is empty").arg(IptcSchema::spec(id)->label);
 }
 
 }  // namespace

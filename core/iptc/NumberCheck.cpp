@@ -1,6 +1,7 @@
 #include "core/iptc/NumberCheck.h"
 
 #include "core/iptc/StructureEdit.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldCheck.h"
 
 namespace Quorbel::NumberCheck {
@@ -25,7 +26,7 @@ QString problemIn(const StructureSpec& structure, const QString& text)
         } else if (member.kind == FieldKind::number) {
             for (const QString& item : StructureEdit::texts(text, member.name))
                 if (const QString problem = told(StructureEdit::note(member, item), item); !problem.isEmpty())
-                    return u"%1 is %2"_s.arg(member.label, problem);
+                    return Texts::tr("%1 is %2").arg(member.label, problem);
         }
     }
     return {};

@@ -1,6 +1,7 @@
 #include "core/iptc/StructureChange.h"
 
 #include "core/iptc/StructureText.h"
+#include "core/language/Texts.h"
 #include "core/save/EditPlan.h"
 
 #include <algorithm>
@@ -153,8 +154,8 @@ private:
             for (const QString& name : StructureText::foreignMembers(m_structure, item))
                 if (!names.contains(name))
                     names.append(name);
-        return u"%1 holds “%2” of another program, which this change would lose"_s.arg(
-            m_field.label, names.join(u"”, “"_s));
+        return Texts::tr("%1 holds “%2” of another program, which this change would lose")
+            .arg(m_field.label, names.join(u"”, “"_s));
     }
 
     const FieldSpec& m_field;

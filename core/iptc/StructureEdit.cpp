@@ -1,6 +1,7 @@
 #include "core/iptc/StructureEdit.h"
 
 #include "core/iptc/StructureText.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldCheck.h"
 #include "core/text/Text.h"
 
@@ -121,7 +122,7 @@ QString note(const StructureMember& member, const QString& text)
     if (member.kind == FieldKind::date && !partOfDate.match(trimmed).hasMatch())
         return FieldCheck::note({ .kind = FieldKind::date }, trimmed);
     if (member.kind == FieldKind::number && !Text::parseDouble(trimmed))
-        return u"Not a number"_s;
+        return Texts::tr("Not a number");
     return {};
 }
 

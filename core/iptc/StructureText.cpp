@@ -1,6 +1,7 @@
 #include "core/iptc/StructureText.h"
 
 #include "core/iptc/Vocabularies.h"
+#include "core/language/Texts.h"
 #include "core/text/Text.h"
 
 #include <QJsonArray>
@@ -314,7 +315,7 @@ QString summary(const StructureSpec& structure, const QStringList& items)
     if (items.isEmpty())
         return {};
     const QString first = titles(structure, items.constFirst()).join(u", "_s);
-    return items.size() == 1 ? first : u"%1 · %2 more"_s.arg(first).arg(items.size() - 1);
+    return items.size() == 1 ? first : Texts::tr("%1 · %2 more").arg(first).arg(items.size() - 1);
 }
 
 }  // namespace Quorbel::StructureText

@@ -2,6 +2,7 @@
 
 #include "core/iptc/StructureText.h"
 #include "core/iptc/Vocabularies.h"
+#include "core/language/Texts.h"
 
 #include <QJsonArray>
 
@@ -45,12 +46,12 @@ void addEntity(QJsonObject& object, const QString& member, const QString& code, 
 QList<TermOffer> offers(const QString& fieldId)
 {
     if (fieldId == "iptc.genreTerms")
-        return { { u"Choose Genre…"_s, u"genre"_s, {} } };
+        return { { Texts::tr("Choose Genre…"), u"genre"_s, {} } };
     if (fieldId == "iptc.aboutTerms")
-        return { { u"Choose Subject…"_s, u"mediaTopic"_s, {} } };
+        return { { Texts::tr("Choose Subject…"), u"mediaTopic"_s, {} } };
     if (fieldId == "iptc.regions")
-        return { { u"Choose Kind…"_s, u"regionType"_s, u"RCtype"_s },
-            { u"Choose Role…"_s, u"regionRole"_s, u"RRole"_s } };
+        return { { Texts::tr("Choose Kind…"), u"regionType"_s, u"RCtype"_s },
+            { Texts::tr("Choose Role…"), u"regionRole"_s, u"RRole"_s } };
     return {};
 }
 

@@ -1,5 +1,6 @@
 #include "core/renaming/FolderMover.h"
 
+#include "core/language/Texts.h"
 #include "core/save/FileMove.h"
 #include "core/text/FileNaming.h"
 
@@ -58,7 +59,7 @@ QString FolderMover::moveOne(QList<Step>& done, const QString& from, const QStri
 {
     const int error = FileMove::withoutReplacing(path(from), path(to));
     if (error == EEXIST)
-        return u"“%1” is there already"_s.arg(to);
+        return Texts::tr("“%1” is there already").arg(to);
     if (error)
         return u"“%1”: %2"_s.arg(from, qt_error_string(error));
     done.append({ from, to });

@@ -1,5 +1,6 @@
 #include "core/renaming/RenameHistory.h"
 
+#include "core/language/Texts.h"
 #include "core/renaming/FolderListing.h"
 
 #include <QDir>
@@ -81,7 +82,7 @@ FolderRenaming reversed(const FolderRenaming& done, QString& problem)
     };
     for (const FileRenaming& file : done.files) {
         if (!names.contains(file.to) && file.isPhoto)
-            problem = u"“%1” is not there any more"_s.arg(file.to);
+            problem = Texts::tr("“%1” is not there any more").arg(file.to);
         if (names.contains(file.to))
             add(file.to, file.from, file.isPhoto);
     }
@@ -214,7 +215,7 @@ RenameHistory::Outcome RenameHistory::rename(const QList<FolderRenaming>& folder
 {
     const std::scoped_lock locked(m_mutex);
     if (!lock())
-        return { .problems = { u"another Quorbel is renaming at this moment"_s }, .next = newest() };
+        return { .problems = { Texts::tr("another Quorbel is renaming at this moment") }, .next = newest() };
     const auto unlock = qScopeGuard([this] { m_lock.unlock(); });
     recover();
     Run run{ *this, goesOn };
@@ -233,12 +234,12 @@ RenameHistory::Outcome RenameHistory::undo(qint64 number, const GoesOn& goesOn)
 {
     const std::scoped_lock locked(m_mutex);
     if (!lock())
-        return { .problems = { u"another Quorbel is renaming at this moment"_s }, .next = newest() };
+        return { .problems = { Texts::tr("another Quorbel is renaming at this moment") }, .next = newest() };
     const auto unlock = qScopeGuard([this] { m_lock.unlock(); });
     recover();
     const auto entry = m_journal.load(number);
     if (!entry)
-        return { .problems = { u"it was undone already"_s }, .next = newest() };
+        return { .problems = { Texts::tr("it was undone already") }, .next = newest() };
     Run run{ *this, goesOn, number };
     run.begin();
     for (qsizetype i = 0; i < entry->folders.size(); ++i) {
@@ -319,9 +320,9 @@ void RenameHistory::recover(qint64 number, const RenameEntry& entry)
 QString RenameHistory::name(const Undoable& rename)
 {
     if (rename.photos == 0)
-        return u"Undo Rename"_s;
-    return u"Undo Rename of "_s
-        + (rename.photos == 1 ? u'“' + rename.fileName + u'”' : u"%1 Photos"_s.arg(rename.photos));
+        return Texts::tr("Undo Rename");
+    return Texts::tr("Undo Rename of ")
+        + (rename.photos == 1 ? u'“' + rename.fileName + u'”' : Texts::tr("%1 Photos").arg(rename.photos));
 }
 
 }  // namespace Quorbel

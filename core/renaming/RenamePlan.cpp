@@ -1,5 +1,7 @@
 #include "core/renaming/RenamePlan.h"
 
+#include "core/language/Texts.h"
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -8,23 +10,23 @@ QString RenameRow::words() const
 {
     switch (obstacle) {
     case Obstacle::slash:
-        return u"a file name cannot hold “/”"_s;
+        return Texts::tr("a file name cannot hold “/”");
     case Obstacle::tooLong:
-        return u"too long for a file name"_s;
+        return Texts::tr("too long for a file name");
     case Obstacle::readOnlyFolder:
-        return u"its folder is read-only"_s;
+        return Texts::tr("its folder is read-only");
     case Obstacle::gone:
-        return u"not there any more"_s;
+        return Texts::tr("not there any more");
     case Obstacle::none:
         break;
     }
     QStringList words;
     if (!missing.isEmpty())
-        words.append(isUnchanged() ? u"stays %1"_s.arg(newName) : u"becomes %1"_s.arg(newName));
+        words.append(isUnchanged() ? Texts::tr("stays %1").arg(newName) : Texts::tr("becomes %1").arg(newName));
     if (number > 0)
-        words.append(u"name taken, so -%1"_s.arg(number));
+        words.append(Texts::tr("name taken, so -%1").arg(number));
     if (words.isEmpty() && !along.isEmpty())
-        words.append(u"with %1"_s.arg(along.join(u", "_s)));
+        words.append(Texts::tr("with %1").arg(along.join(u", "_s)));
     return words.join(u"; "_s);
 }
 

@@ -1,5 +1,6 @@
 #include "core/save/LeftEdits.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
@@ -25,10 +26,10 @@ constexpr qsizetype namedFields = 3;
 QString enumerated(const QStringList& first, qsizetype count)
 {
     if (count > first.size())
-        return u"%1 and %2 more"_s.arg(first.join(u", "_s)).arg(count - first.size());
+        return Texts::tr("%1 and %2 more").arg(first.join(u", "_s)).arg(count - first.size());
     if (first.size() < 2)
         return first.join(QString());
-    return u"%1 and %2"_s.arg(first.mid(0, first.size() - 1).join(u", "_s), first.constLast());
+    return Texts::tr("%1 and %2").arg(first.mid(0, first.size() - 1).join(u", "_s), first.constLast());
 }
 
 // A list that was changed from `held` to `wanted`, for a photo that holds `now`.

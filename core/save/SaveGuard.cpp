@@ -1,5 +1,6 @@
 #include "core/save/SaveGuard.h"
 
+#include "core/language/Texts.h"
 #include "core/save/Companions.h"
 #include "core/text/Text.h"
 
@@ -83,8 +84,8 @@ void requireWritable(const QList<QUrl>& files)
         if (QFileInfo(file.toLocalFile()).isDir())
             folders.append(file.fileName());
     if (!folders.isEmpty())
-        throw FileProblem((
-            folders.size() == 1 ? u"%1 is a folder; nothing was written."_s : u"%1 are folders; nothing was written."_s)
+        throw FileProblem((folders.size() == 1 ? Texts::tr("%1 is a folder; nothing was written.")
+                                               : Texts::tr("%1 are folders; nothing was written."))
                               .arg(Text::listed(folders)));
     QStringList names;
     for (const auto& file : files)
@@ -93,9 +94,10 @@ void requireWritable(const QList<QUrl>& files)
     if (names.isEmpty())
         return;
     if (files.size() == 1)
-        throw FileProblem(u"%1 is read-only."_s.arg(names.constFirst()));
+        throw FileProblem(Texts::tr("%1 is read-only.").arg(names.constFirst()));
     const QString verb = names.size() == 1 ? u"is"_s : u"are"_s;
-    throw FileProblem(u"%1 of %2 photos %3 read-only: %4; nothing was written."_s.arg(names.size())
+    throw FileProblem(Texts::tr("%1 of %2 photos %3 read-only: %4; nothing was written.")
+                          .arg(names.size())
                           .arg(files.size())
                           .arg(verb, Text::listed(names)));
 }
@@ -113,8 +115,10 @@ void clearLeftovers(const QList<QUrl>& files, const QDateTime& now)
     }
     if (young.isEmpty())
         return;
-    throw FileProblem(u"Another save is under way or was cut off: %1 lies beside the photo. If no other program "
-                      "is saving, delete it and save again. Nothing was written."_s.arg(Text::listed(young)));
+    throw FileProblem(
+        Texts::tr("Another save is under way or was cut off: %1 lies beside the photo. If no other program "
+                  "is saving, delete it and save again. Nothing was written.")
+            .arg(Text::listed(young)));
 }
 
 BackupKeeper::BackupKeeper(const QList<QUrl>& files)

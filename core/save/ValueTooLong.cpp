@@ -1,5 +1,6 @@
 #include "core/save/ValueTooLong.h"
 
+#include "core/language/Texts.h"
 #include "core/save/EditPlan.h"
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
@@ -36,7 +37,7 @@ QString labelOf(const QString& id)
 }  // namespace
 
 ValueTooLong::ValueTooLong(const QString& label)
-    : Error(u"“%1” is too long: a value may have 128 KiB at most. Nothing was written."_s.arg(label))
+    : Error(Texts::tr("“%1” is too long: a value may have 128 KiB at most. Nothing was written.").arg(label))
 {
 }
 

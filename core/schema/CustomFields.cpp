@@ -1,5 +1,6 @@
 #include "core/schema/CustomFields.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/FieldSchema.h"
 #include "core/tool/MetadataWriter.h"
 
@@ -53,13 +54,13 @@ std::optional<QString> nameProblem(const QString& name)
     if (!stored)
         return std::nullopt;
     if (!isAscii(*stored))
-        return u"Only the letters A–Z and digits can be stored in a name."_s;
+        return Texts::tr("Only the letters A–Z and digits can be stored in a name.");
     if (stored->size() == 1)
-        return u"A name needs at least two letters or digits."_s;
+        return Texts::tr("A name needs at least two letters or digits.");
     if (reservedNames().contains(*stored) || isTakenForOther(*stored))
-        return u"“%1” is a reserved word; choose another name."_s.arg(*stored);
+        return Texts::tr("“%1” is a reserved word; choose another name.").arg(*stored);
     if (const FieldSpec* field = FieldSchema::readFrom(*stored))
-        return u"That is the field "_s + field->label;
+        return Texts::tr("That is the field ") + field->label;
     return std::nullopt;
 }
 

@@ -1,5 +1,6 @@
 #include "core/schema/FieldCheck.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/FieldSpec.h"
 #include "core/text/Coordinates.h"
 #include "core/text/Text.h"
@@ -44,13 +45,13 @@ QString note(const FieldSpec& field, const QString& text)
         return {};
     switch (field.kind) {
     case FieldKind::date:
-        return WallClock::fromTyped(trimmed) ? QString() : u"Not a date: YYYY-MM-DD HH:MM"_s;
+        return WallClock::fromTyped(trimmed) ? QString() : Texts::tr("Not a date: YYYY-MM-DD HH:MM");
     case FieldKind::coordinates:
-        return isPosition(trimmed) ? QString() : u"Not a position: lat, lon"_s;
+        return isPosition(trimmed) ? QString() : Texts::tr("Not a position: lat, lon");
     case FieldKind::offset:
-        return isOffset(trimmed) ? QString() : u"Not an offset: +HH:MM"_s;
+        return isOffset(trimmed) ? QString() : Texts::tr("Not an offset: +HH:MM");
     case FieldKind::number:
-        return isWholeNumber(trimmed) ? QString() : u"Not a whole number"_s;
+        return isWholeNumber(trimmed) ? QString() : Texts::tr("Not a whole number");
     case FieldKind::code:
     case FieldKind::structure:
     case FieldKind::text:

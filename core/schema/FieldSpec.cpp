@@ -1,5 +1,7 @@
 #include "core/schema/FieldSpec.h"
 
+#include "core/language/Texts.h"
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -24,20 +26,20 @@ const QList<std::pair<FieldKind, QString>>& RawValues<FieldKind>::table()
 const QList<std::pair<FieldSection, QString>>& RawValues<FieldSection>::table()
 {
     static const QList<std::pair<FieldSection, QString>> rows{
-        { FieldSection::common, u"COMMON"_s },
-        { FieldSection::location, u"LOCATION"_s },
-        { FieldSection::additional, u"DETAILS"_s },
-        { FieldSection::contact, u"CONTACT"_s },
-        { FieldSection::people, u"PEOPLE"_s },
-        { FieldSection::locationCreated, u"LOCATION CREATED"_s },
-        { FieldSection::locationShown, u"LOCATION SHOWN"_s },
-        { FieldSection::subjects, u"SUBJECTS"_s },
-        { FieldSection::things, u"THINGS SHOWN"_s },
-        { FieldSection::regions, u"REGIONS"_s },
-        { FieldSection::rights, u"RIGHTS"_s },
-        { FieldSection::licensing, u"LICENSING"_s },
-        { FieldSection::source, u"SOURCE"_s },
-        { FieldSection::image, u"IMAGE"_s },
+        { FieldSection::common, Texts::mark("COMMON") },
+        { FieldSection::location, Texts::mark("LOCATION") },
+        { FieldSection::additional, Texts::mark("DETAILS") },
+        { FieldSection::contact, Texts::mark("CONTACT") },
+        { FieldSection::people, Texts::mark("PEOPLE") },
+        { FieldSection::locationCreated, Texts::mark("LOCATION CREATED") },
+        { FieldSection::locationShown, Texts::mark("LOCATION SHOWN") },
+        { FieldSection::subjects, Texts::mark("SUBJECTS") },
+        { FieldSection::things, Texts::mark("THINGS SHOWN") },
+        { FieldSection::regions, Texts::mark("REGIONS") },
+        { FieldSection::rights, Texts::mark("RIGHTS") },
+        { FieldSection::licensing, Texts::mark("LICENSING") },
+        { FieldSection::source, Texts::mark("SOURCE") },
+        { FieldSection::image, Texts::mark("IMAGE") },
     };
     return rows;
 }

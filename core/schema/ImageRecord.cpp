@@ -1,5 +1,7 @@
 #include "core/schema/ImageRecord.h"
 
+#include "core/language/Texts.h"
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -52,14 +54,14 @@ QString fractionOfKilobyte(qint64 bytes)
 QString formattedFileSize(qint64 bytes)
 {
     if (bytes <= 0)
-        return u"Zero KB"_s;
+        return Texts::tr("Zero KB");
     if (bytes < 1000)
-        return fractionOfKilobyte(bytes) + u" KB"_s;
+        return fractionOfKilobyte(bytes) + Texts::tr(" KB");
     if (const qint64 kilobytes = roundedQuotient(bytes, 1000); kilobytes < 1000)
-        return QString::number(kilobytes) + u" KB"_s;
+        return QString::number(kilobytes) + Texts::tr(" KB");
     if (const qint64 tenths = roundedQuotient(bytes, 100'000); tenths < 10'000)
-        return decimalText(tenths, 1) + u" MB"_s;
-    return decimalText(roundedQuotient(bytes, 10'000'000), 2) + u" GB"_s;
+        return decimalText(tenths, 1) + Texts::tr(" MB");
+    return decimalText(roundedQuotient(bytes, 10'000'000), 2) + Texts::tr(" GB");
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "core/templates/Template.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
@@ -15,7 +16,7 @@ const QList<std::pair<TemplateMode, QString>>& RawValues<TemplateMode>::table()
 {
     static const QList<std::pair<TemplateMode, QString>> values{
         { TemplateMode::set, u"set"_s },
-        { TemplateMode::setIfEmpty, u"set if empty"_s },
+        { TemplateMode::setIfEmpty, Texts::tr("set if empty") },
         { TemplateMode::append, u"append"_s },
         { TemplateMode::prepend, u"prepend"_s },
     };

@@ -1,5 +1,6 @@
 #include "core/templates/TemplateFile.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
@@ -65,11 +66,11 @@ std::optional<TemplateField> fieldFromJson(const QJsonValue& value, QString& pro
     TemplateField field{ .key = keyOf(object) };
     const auto mode = fromRawValue<TemplateMode>(object.value(u"mode"_s).toString(u"set"_s));
     if (field.key.isEmpty())
-        problem = u"names a field that there is not"_s;
+        problem = Texts::tr("names a field that there is not");
     else if (!mode)
-        problem = u"says nothing that can be done to a field"_s;
+        problem = Texts::tr("says nothing that can be done to a field");
     else if (field.isList() ? !object.value(u"items"_s).isArray() : !object.value(u"text"_s).isString())
-        problem = u"has a field without a text"_s;
+        problem = Texts::tr("has a field without a text");
     if (!problem.isEmpty())
         return std::nullopt;
     field.mode = field.modes().contains(*mode) ? *mode : TemplateMode::append;
@@ -139,13 +140,13 @@ std::optional<Template> fromJson(const QByteArray& json, QString* problem)
     const QJsonObject object = QJsonDocument::fromJson(json).object();
     const int made = object.value(u"quorbelTemplate"_s).toInt();
     if (made < 1)
-        return refused(problem, u"is no template"_s);
+        return refused(problem, Texts::tr("is no template"));
     if (made > version)
-        return refused(problem, u"was made by a newer version of Quorbel"_s);
+        return refused(problem, Texts::tr("was made by a newer version of Quorbel"));
     Template value{ .name = Text::trimmedWithNewlines(object.value(u"name"_s).toString()),
         .digit = object.value(u"shortcut"_s).toInt() };
     if (value.name.isEmpty())
-        return refused(problem, u"has no name"_s);
+        return refused(problem, Texts::tr("has no name"));
     if (value.digit < 0 || value.digit > 9)
         value.digit = 0;
     QString why;
@@ -163,9 +164,9 @@ std::optional<Template> read(const QString& path, QString* problem)
     };
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return left(u"cannot be read"_s);
+        return left(Texts::tr("cannot be read"));
     if (file.size() > largestFile)
-        return left(u"is no template"_s);
+        return left(Texts::tr("is no template"));
     QString why;
     const std::optional<Template> value = fromJson(file.readAll(), &why);
     return value ? value : left(why);
@@ -211,7 +212,7 @@ QString write(const QString& folder, const Stored& stored)
     QSaveFile file(path);
     const QByteArray json = toJson(stored.value);
     if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.commit())
-        throw FileError(u"Cannot write the template"_s, QUrl::fromLocalFile(path), file.errorString());
+        throw FileError(Texts::tr("Cannot write the template"), QUrl::fromLocalFile(path), file.errorString());
     if (!stays && !stored.path.isEmpty())
         QFile::remove(stored.path);
     return path;

@@ -1,5 +1,6 @@
 #include "core/templates/TemplateFill.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldCheck.h"
 #include "core/schema/FieldLanguages.h"
@@ -93,11 +94,11 @@ QString missingNote(const QList<RenderedPiece>& pieces)
         if (piece.kind == RenderedPiece::Kind::missing && !missing.contains(piece.label))
             missing.append(piece.label);
         if (piece.kind == RenderedPiece::Kind::otherwise && !piece.text.isEmpty())
-            defaults.append(u"%1 missing: “%2”"_s.arg(piece.label, piece.text));
+            defaults.append(Texts::tr("%1 missing: “%2”").arg(piece.label, piece.text));
     }
     defaults.removeDuplicates();
     if (!missing.isEmpty())
-        defaults.prepend(missing.join(u", "_s) + u" missing"_s);
+        defaults.prepend(missing.join(u", "_s) + Texts::tr(" missing"));
     return defaults.join(u" · "_s);
 }
 
@@ -108,7 +109,7 @@ QString refusal(const FieldSpec* spec, const QString& text)
         return {};
     if (spec->kind == FieldKind::rating) {
         const auto stars = Text::parseInteger(Text::trimmed(text));
-        return stars && *stars >= 0 && *stars <= 5 ? QString() : u"Not a rating: 0 to 5"_s;
+        return stars && *stars >= 0 && *stars <= 5 ? QString() : Texts::tr("Not a rating: 0 to 5");
     }
     return FieldCheck::note(*spec, text);
 }
@@ -155,18 +156,18 @@ FilledField filledText(const Prepared& one, const Seen& photo)
     const QString now = textNow(one.field.key, photo);
     const TemplateMode mode = one.field.mode;
     if (one.field.isBlank())
-        return kept(filled, now, u"nothing to fill in"_s);
+        return kept(filled, now, Texts::tr("nothing to fill in"));
     if (PhotoDetails::hold(one.field.key) && !photo.knowsDetails)
-        return kept(filled, now, u"not read yet"_s);
+        return kept(filled, now, Texts::tr("not read yet"));
     if (mode == TemplateMode::setIfEmpty && !isBlank(now))
-        return kept(filled, now, u"not empty"_s);
+        return kept(filled, now, Texts::tr("not empty"));
     filled.pieces = rendered(one, photo);
     const QString text = RenderedText{ filled.pieces }.text();
     const QString missing = missingNote(filled.pieces);
     if (isBlank(text))
-        return kept(filled, now, missing.isEmpty() ? u"nothing to fill in"_s : missing);
+        return kept(filled, now, missing.isEmpty() ? Texts::tr("nothing to fill in") : missing);
     if ((mode == TemplateMode::append && now.endsWith(text)) || (mode == TemplateMode::prepend && now.startsWith(text)))
-        return kept(filled, now, u"there already"_s);
+        return kept(filled, now, Texts::tr("there already"));
     if (const QString why = refusal(one.field.spec(), text); !why.isEmpty()) {
         filled.outcome = Outcome::refused;
         filled.text = text;
@@ -190,7 +191,7 @@ FilledField filledList(const Prepared& one, const Seen& photo)
     FilledField filled{ .key = one.field.key, .label = one.field.label() };
     const QStringList now = photo.drafts.lists.value(one.field.key);
     if (PhotoDetails::hold(one.field.key) && !photo.knowsDetails) {
-        filled.note = u"kept: not read yet"_s;
+        filled.note = Texts::tr("kept: not read yet");
         return filled;
     }
     QStringList wanted;
@@ -204,9 +205,9 @@ FilledField filledList(const Prepared& one, const Seen& photo)
     filled.note = missingNote(all);
     filled.items = now;
     if (wanted.isEmpty())
-        filled.note = filled.note.isEmpty() ? u"kept: nothing to fill in"_s : u"kept: "_s + filled.note;
+        filled.note = filled.note.isEmpty() ? Texts::tr("kept: nothing to fill in") : u"kept: "_s + filled.note;
     else if (one.field.mode == TemplateMode::setIfEmpty && !now.isEmpty())
-        filled.note = u"kept: not empty"_s;
+        filled.note = Texts::tr("kept: not empty");
     else {
         filled.added = without(wanted, now);
         if (one.field.mode == TemplateMode::set)
@@ -325,9 +326,9 @@ QStringList refusals(const QList<Column>& columns)
             photos += cell.outcome == Outcome::refused ? 1 : 0;
             why = cell.outcome == Outcome::refused ? cell.note : why;
         }
-        const QString of = photos == 1 ? u"one photo"_s : u"%1 photos"_s.arg(photos);
+        const QString of = photos == 1 ? Texts::tr("one photo") : Texts::tr("%1 photos").arg(photos);
         if (photos > 0)
-            lines.append(u"%1 of %2: %3"_s.arg(column.field.field.label(), of, why));
+            lines.append(Texts::tr("%1 of %2: %3").arg(column.field.field.label(), of, why));
     }
     return lines;
 }

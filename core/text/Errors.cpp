@@ -1,5 +1,7 @@
 #include "core/text/Errors.h"
 
+#include "core/language/Texts.h"
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -9,17 +11,20 @@ namespace {
 struct Describe {
     QString operator()(const ToolError::PerlNotFound& error) const
     {
-        return u"Perl interpreter not found at "_s + error.perlURL.toLocalFile() + u'.';
+        return Texts::tr("Perl interpreter not found at ") + error.perlURL.toLocalFile() + u'.';
     }
     QString operator()(const ToolError::ExecFailed& error) const
     {
-        return u"ExifTool exited with code "_s + QString::number(error.code) + u": "_s + error.standardError;
+        return Texts::tr("ExifTool exited with code ") + QString::number(error.code) + u": "_s + error.standardError;
     }
     QString operator()(const ToolError::DecodeFailed& error) const
     {
-        return u"Could not decode ExifTool output: "_s + error.detail;
+        return Texts::tr("Could not decode ExifTool output: ") + error.detail;
     }
-    QString operator()(const ToolError::ToolNotFound&) const { return u"Bundled ExifTool could not be located."_s; }
+    QString operator()(const ToolError::ToolNotFound&) const
+    {
+        return Texts::tr("Bundled ExifTool could not be located.");
+    }
 };
 
 }  // namespace
@@ -36,12 +41,12 @@ FileError::FileError(const QString& action, const QUrl& file, const QString& rea
 }
 
 LaunchError::LaunchError(const QString& reason)
-    : Error(u"ExifTool could not be started: "_s + reason)
+    : Error(Texts::tr("ExifTool could not be started: ") + reason)
 {
 }
 
 CancelledError::CancelledError()
-    : Error(u"The read was cancelled."_s)
+    : Error(Texts::tr("The read was cancelled."))
 {
 }
 

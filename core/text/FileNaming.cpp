@@ -1,5 +1,6 @@
 #include "core/text/FileNaming.h"
 
+#include "core/language/Texts.h"
 #include "core/text/Text.h"
 
 #include <QRegularExpression>
@@ -80,12 +81,12 @@ QString strictComponent(const QString& trimmed)
 const QList<Token>& tokens()
 {
     static const QList<Token> table{
-        { u"Date taken"_s, u"%Date%"_s },
-        { u"Time"_s, u"%Time%"_s },
-        { u"Title"_s, u"%Title%"_s },
-        { u"Creator"_s, u"%Creator%"_s },
-        { u"Place"_s, u"%Place%"_s },
-        { u"Original name"_s, u"%Original%"_s },
+        { Texts::mark("Date taken"), u"%Date%"_s },
+        { Texts::mark("Time"), u"%Time%"_s },
+        { Texts::mark("Title"), u"%Title%"_s },
+        { Texts::mark("Creator"), u"%Creator%"_s },
+        { Texts::mark("Place"), u"%Place%"_s },
+        { Texts::mark("Original name"), u"%Original%"_s },
     };
     return table;
 }

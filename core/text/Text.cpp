@@ -1,5 +1,7 @@
 #include "core/text/Text.h"
 
+#include "core/language/Texts.h"
+
 #include <QCollator>
 #include <QLocale>
 
@@ -78,7 +80,7 @@ QCollatorSortKey naturalSortKey(const QString& text)
 QString listed(const QStringList& names, qsizetype most)
 {
     const QString text = names.mid(0, most).join(u", "_s);
-    return names.size() > most ? text + u" and %1 more"_s.arg(names.size() - most) : text;
+    return names.size() > most ? text + Texts::tr(" and %1 more").arg(names.size() - most) : text;
 }
 
 QString foldingDiacritics(const QString& text)

@@ -1,5 +1,6 @@
 #include "core/tokens/TokenCatalog.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldSchema.h"
 
@@ -17,7 +18,7 @@ namespace {
 QString nameOf(const FieldSpec& field)
 {
     if (field.id == FieldID::coords)
-        return u"Coordinates"_s;
+        return Texts::tr("Coordinates");
     return field.id.front().toUpper() + field.id.sliced(1);
 }
 
@@ -40,14 +41,14 @@ QString nameOfRow(const QString& label)
 QList<TokenSpec> build()
 {
     QList<TokenSpec> tokens{
-        { u"Date"_s, u"Date taken"_s, TokenKind::date, FieldID::date },
-        { u"Time"_s, u"Time"_s, TokenKind::time, FieldID::date },
-        { u"Title"_s, u"Title"_s, TokenKind::text, FieldID::title },
-        { u"Creator"_s, u"Creator"_s, TokenKind::text, FieldID::creator },
-        { u"Place"_s, u"Place"_s, TokenKind::text, FieldID::place },
-        { u"Original"_s, u"Original name"_s, TokenKind::baseName, {} },
-        { u"Counter"_s, u"Counter"_s, TokenKind::counter, {} },
-        { u"Filename"_s, u"File name"_s, TokenKind::fileName, {} },
+        { u"Date"_s, Texts::mark("Date taken"), TokenKind::date, FieldID::date },
+        { u"Time"_s, Texts::mark("Time"), TokenKind::time, FieldID::date },
+        { u"Title"_s, Texts::mark("Title"), TokenKind::text, FieldID::title },
+        { u"Creator"_s, Texts::mark("Creator"), TokenKind::text, FieldID::creator },
+        { u"Place"_s, Texts::mark("Place"), TokenKind::text, FieldID::place },
+        { u"Original"_s, Texts::mark("Original name"), TokenKind::baseName, {} },
+        { u"Counter"_s, Texts::mark("Counter"), TokenKind::counter, {} },
+        { u"Filename"_s, Texts::mark("File name"), TokenKind::fileName, {} },
     };
     for (const FieldSpec& field : FieldSchema::all())
         if (std::none_of(tokens.cbegin(), tokens.cend(), [&](const TokenSpec& t) { return t.source == field.id; }))

@@ -1,5 +1,6 @@
 #include "core/tool/Assignment.h"
 
+#include "core/language/Texts.h"
 #include "core/tool/WriteCommand.h"
 
 #include <QHash>
@@ -40,7 +41,7 @@ QString homeOf(const QString& tag)
 }
 
 AssignmentConflict::AssignmentConflict(const QString& tag)
-    : Error(u"“%1” cannot be replaced and added to in one save. Nothing was written."_s.arg(tag))
+    : Error(Texts::tr("“%1” cannot be replaced and added to in one save. Nothing was written.").arg(tag))
 {
 }
 

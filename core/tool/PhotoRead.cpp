@@ -1,5 +1,6 @@
 #include "core/tool/PhotoRead.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/FieldSchema.h"
 #include "core/tool/MetadataReader.h"
 #include "core/tool/MetadataWriter.h"
@@ -174,7 +175,7 @@ private:
                 continue;
             if (objects.isEmpty())
                 throw ToolError(*answer.failure);
-            m_answers.reasons.insert(path, u"Changed while it was read"_s);
+            m_answers.reasons.insert(path, Texts::tr("Changed while it was read"));
         }
     }
 

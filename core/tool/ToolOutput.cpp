@@ -1,5 +1,7 @@
 #include "core/tool/ToolOutput.h"
 
+#include "core/language/Texts.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -22,7 +24,7 @@ ToolError undecodable(const QString& reason, const QByteArray& output)
     const auto characters = QString::fromUtf8(output.left(4 * quotedCharacters)).toUcs4();
     const auto quoted = QString::fromUcs4(
         reinterpret_cast<const char32_t*>(characters.constData()), std::min(characters.size(), quotedCharacters));
-    return ToolError(ToolError::DecodeFailed{ reason + u" — output: "_s + quoted });
+    return ToolError(ToolError::DecodeFailed{ reason + Texts::tr(" — output: ") + quoted });
 }
 
 // `quotes`: which numbers become texts.
@@ -89,7 +91,7 @@ QString sourceFile(QByteArrayView piece)
 std::variant<QJsonObject, QString> decodePiece(QByteArrayView piece)
 {
     if (!QUtf8StringView(piece).isValidUtf8())
-        return u"its values are not UTF-8"_s;
+        return Texts::tr("its values are not UTF-8");
     QJsonParseError error;
     auto document = QJsonDocument::fromJson(piece.toByteArray(), &error);
     if (error.error == QJsonParseError::IllegalNumber)
@@ -131,7 +133,7 @@ Decoded decode(QByteArray output)
     output.squeeze();  // of a hundred thousand photos this is a hundred megabytes
     auto objects = document.isArray() ? objectsFromJson(document.array()) : std::nullopt;
     if (!objects)
-        return { .error = undecodable(u"not an array of objects"_s, output) };
+        return { .error = undecodable(Texts::tr("not an array of objects"), output) };
     return { .objects = *std::move(objects) };
 }
 

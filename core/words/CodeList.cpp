@@ -1,5 +1,6 @@
 #include "core/words/CodeList.h"
 
+#include "core/language/Texts.h"
 #include "core/text/CodePage1252.h"
 
 #include <QStringDecoder>
@@ -27,17 +28,17 @@ CodeList CodeList::parse(const QByteArray& bytes)
     QString text = decoder(bytes);
     if (decoder.hasError() && !marked) {
         text = CodePage1252::decoded(bytes);
-        list.note(u"The file is not UTF-8: it was read as Windows Latin 1."_s);
+        list.note(Texts::tr("The file is not UTF-8: it was read as Windows Latin 1."));
     } else if (decoder.hasError()) {
-        list.note(u"Some characters of the file could not be read."_s);
+        list.note(Texts::tr("Some characters of the file could not be read."));
     }
     text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
     int number = 0;
     for (const QString& line : text.split(u'\n'))
         list.take(line, ++number);
     if (list.m_untold > 0)
-        list.m_notes.append(
-            list.m_untold == 1 ? u"1 more line like these."_s : u"%1 more lines like these."_s.arg(list.m_untold));
+        list.m_notes.append(list.m_untold == 1 ? Texts::tr("1 more line like these.")
+                                               : Texts::tr("%1 more lines like these.").arg(list.m_untold));
     return list;
 }
 
@@ -47,22 +48,25 @@ void CodeList::take(const QString& line, int number)
         return;
     if (!line.contains(u'\t')) {
         if (!line.startsWith(u'#'))
-            note(u"Line %1 has no tab: %2"_s.arg(number).arg(shortened(line.trimmed())));
+            note(Texts::tr("Line %1 has no tab: %2").arg(number).arg(shortened(line.trimmed())));
         return;
     }
     const QString code = line.section(u'\t', 0, 0).trimmed();
     const QString text = line.section(u'\t', 1, 1).trimmed();
     if (code.isEmpty())
-        return note(u"Line %1 has no code in front of its tab."_s.arg(number));
+        return note(Texts::tr("Line %1 has no code in front of its tab.").arg(number));
     if (text.isEmpty())
-        return note(u"Line %1 has no text for %2."_s.arg(number).arg(shortened(code)));
+        return note(Texts::tr("Line %1 has no text for %2.").arg(number).arg(shortened(code)));
     if (code.contains(u'='))
-        return note(u"Line %1: nobody can type a code with “=” in it: %2"_s.arg(number).arg(shortened(code)));
+        return note(Texts::tr("Line %1: nobody can type a code with “=” in it: %2").arg(number).arg(shortened(code)));
     if (code.size() > longestCode)
-        return note(
-            u"Line %1: a code has at most %2 characters: %3"_s.arg(number).arg(longestCode).arg(shortened(code)));
+        return note(Texts::tr("Line %1: a code has at most %2 characters: %3")
+                        .arg(number)
+                        .arg(longestCode)
+                        .arg(shortened(code)));
     if (const auto before = m_lines.constFind(code); before != m_lines.cend())
-        note(u"%1 is there twice, in lines %2 and %3: the last one counts."_s.arg(shortened(code))
+        note(Texts::tr("%1 is there twice, in lines %2 and %3: the last one counts.")
+                 .arg(shortened(code))
                  .arg(*before)
                  .arg(number));
     else

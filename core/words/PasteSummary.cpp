@@ -1,6 +1,7 @@
 #include "core/words/PasteSummary.h"
 
 #include "core/iptc/ShownText.h"
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
@@ -130,19 +131,20 @@ QString replacedPart(const QString& key, const PasteCount& count)
     const FieldSpec* field = FieldSchema::spec(key);
     const bool isWords = !field || field->kind == FieldKind::text || field->kind == FieldKind::multiline;
     if (count.old && (isWords || count.photos() == 1))
-        return count.photos() == 1 ? u"replace "_s + quoted(ShownText::of(key, *count.old))
-                                   : u"replace %1 in %2"_s.arg(quoted(*count.old)).arg(count.replaced);
+        return count.photos() == 1 ? Texts::tr("replace ") + quoted(ShownText::of(key, *count.old))
+                                   : Texts::tr("replace %1 in %2").arg(quoted(*count.old)).arg(count.replaced);
     const QString things = plural(key);
     const QString number = QString::number(count.replaced);
-    return u"replace "_s + (things.isEmpty() ? number : number + u' ' + things);
+    return Texts::tr("replace ") + (things.isEmpty() ? number : number + u' ' + things);
 }
 
 QString gainedPart(const QString& key, const PasteCount& count)
 {
     const int photos = count.gained + count.filled;
     if (count.photos() == 1)
-        return count.filled > 0 ? u"fill the empty field"_s : u"add to “%1”"_s.arg(count.old.value_or(QString()));
-    return u"add to the %1 of %2"_s.arg(labelOfKey(key).toLower()).arg(photos);
+        return count.filled > 0 ? Texts::tr("fill the empty field")
+                                : Texts::tr("add to “%1”").arg(count.old.value_or(QString()));
+    return Texts::tr("add to the %1 of %2").arg(labelOfKey(key).toLower()).arg(photos);
 }
 
 // "replaces" where it is done, "replace" where it would be.
@@ -188,15 +190,17 @@ QString line(const QString& key, const PasteCount& count, bool isTicked)
         if (count.replaced > 0)
             parts.append(replacedPart(key, count));
         if (count.filled > 0)
-            parts.append(count.photos() == 1 ? u"fill the empty field"_s : u"fill %1"_s.arg(count.filled));
+            parts.append(
+                count.photos() == 1 ? Texts::tr("fill the empty field") : Texts::tr("fill %1").arg(count.filled));
     }
     QStringList told;
     for (const QString& part : parts)
-        told.append(isTicked ? inFact(part) : told.isEmpty() ? u"would "_s + part : part);
+        told.append(isTicked ? inFact(part) : told.isEmpty() ? Texts::tr("would ") + part : part);
     if (count.same > 0)
-        told.append(count.photos() == 1 ? u"the same already"_s : u"same in %1"_s.arg(count.same));
+        told.append(count.photos() == 1 ? Texts::tr("the same already") : Texts::tr("same in %1").arg(count.same));
     if (count.unknown > 0)
-        told.append(count.photos() == 1 ? u"not looked at yet"_s : u"%1 not looked at yet"_s.arg(count.unknown));
+        told.append(count.photos() == 1 ? Texts::tr("not looked at yet")
+                                        : Texts::tr("%1 not looked at yet").arg(count.unknown));
     return capitalized(told.join(u", "_s));
 }
 

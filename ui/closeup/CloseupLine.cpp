@@ -1,5 +1,6 @@
 #include "ui/closeup/CloseupLine.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
@@ -26,14 +27,14 @@ constexpr qreal leastName = 120;
 
 QString starsText(int stars)
 {
-    return stars == 1 ? u"1 star"_s : u"%1 stars"_s.arg(stars);
+    return stars == 1 ? Texts::tr("1 star") : Texts::tr("%1 stars").arg(stars);
 }
 
 }  // namespace
 
 QString CloseupText::spoken() const
 {
-    QStringList parts{ name, QString(place).replace(u" / "_s, u" of "_s) };
+    QStringList parts{ name, QString(place).replace(u" / "_s, Texts::tr(" of ")) };
     if (stars > 0)
         parts.append(starsText(stars));
     for (const QString& part : { unsaved, note, zoom })
@@ -44,11 +45,11 @@ QString CloseupText::spoken() const
 
 CloseupLine::CloseupLine(QWidget* parent)
     : QWidget(parent)
-    , m_close(new QBIconButton(u"xmark"_s, u"Back to the list"_s, this))
+    , m_close(new QBIconButton(u"xmark"_s, Texts::tr("Back to the list"), this))
     , m_opacity(this, Duration::column)
 {
     m_close->setSizes({ closeSize, closeSize }, 15, 0, 6);
-    m_close->setHint(u"Escape"_s);
+    m_close->setHint(Texts::tr("Escape"));
     m_close->setFocusPolicy(Qt::NoFocus);  // the keyboard has Escape
     connect(m_close, &QAbstractButton::clicked, this, &CloseupLine::closeAsked);
     m_leaves.setSingleShot(true);

@@ -4,6 +4,7 @@
 #include "app/model/pairs/Pairing.h"
 #include "app/model/selection/ShownPhotos.h"
 #include "app/model/thumbnails/ThumbnailStore.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldID.h"
 #include "ui/closeup/CloseupLine.h"
 #include "ui/controls/Accessibility.h"
@@ -132,7 +133,7 @@ void CloseupView::step(int places)
 {
     m_towards = places;
     if (!m_model.canStep(places))
-        m_note->say(places > 0 ? u"This is the last photo"_s : u"This is the first photo"_s);
+        m_note->say(places > 0 ? Texts::tr("This is the last photo") : Texts::tr("This is the first photo"));
     m_model.step(places);
 }
 
@@ -141,7 +142,7 @@ void CloseupView::rate(int stars)
     if (m_model.unreadSelected() > 0 && !m_model.isBatch())
         return;
     m_model.rate(stars);
-    m_note->say(stars == 0 ? u"No stars"_s : QString(stars, u'\u2605'));
+    m_note->say(stars == 0 ? Texts::tr("No stars") : QString(stars, u'\u2605'));
 }
 
 // --- What is seen of it ---
@@ -179,10 +180,10 @@ QString CloseupView::noteOf(const WholePicture* picture) const
     if (!picture)
         return {};
     if (picture->levels.isEmpty())
-        return seen().image.isNull() ? QString() : u"thumbnail only"_s;
+        return seen().image.isNull() ? QString() : Texts::tr("thumbnail only");
     QStringList notes{ sizeNoteOf(*picture) };
     if (picture->isIncomplete)
-        notes.prepend(u"damaged: not all of it can be shown"_s);
+        notes.prepend(Texts::tr("damaged: not all of it can be shown"));
     notes.removeAll(QString());
     return notes.join(u" · "_s);
 }
@@ -193,10 +194,10 @@ QString CloseupView::sizeNoteOf(const WholePicture& picture) const
     QSize photo = picture.photo;
     if (photo.isEmpty() && picture.isPreview && record)
         photo = turnedAs({ record->pixelWidth.value_or(0), record->pixelHeight.value_or(0) }, picture.size());
-    const QString word = picture.isPreview ? u"preview"_s : u"reduced to"_s;
+    const QString word = picture.isPreview ? u"preview"_s : Texts::tr("reduced to");
     if (photo.isEmpty() || photo == picture.size())
         return picture.isPreview ? u"%1 %2"_s.arg(word, sizeText(picture.size())) : QString();
-    return u"%1 %2 of %3"_s.arg(word, sizeText(picture.size()), sizeText(photo));
+    return Texts::tr("%1 %2 of %3").arg(word, sizeText(picture.size()), sizeText(photo));
 }
 
 CloseupText CloseupView::text() const
@@ -213,7 +214,7 @@ CloseupText CloseupView::text() const
         m_model.isBatch() ? record->values.value(FieldID::rating) : m_model.draftValues().value(FieldID::rating);
     text.stars = qBound(0, int(rating.toDouble()), 5);
     if (const int unsaved = m_model.unsavedCount(); unsaved > 0)
-        text.unsaved = unsaved == 1 ? u"1 edit unsaved"_s : u"%1 edits unsaved"_s.arg(unsaved);
+        text.unsaved = unsaved == 1 ? Texts::tr("1 edit unsaved") : Texts::tr("%1 edits unsaved").arg(unsaved);
     const WholePicture* picture = m_photo ? m_pictures.picture(*m_photo) : nullptr;
     text.note = noteOf(picture);
     if (const Seen now = seen(); !now.photo.isEmpty())
@@ -226,14 +227,14 @@ QString CloseupView::problem() const
 {
     const WholePicture* picture = m_photo ? m_pictures.picture(*m_photo) : nullptr;
     if (!picture)
-        return u"Reading…"_s;
+        return Texts::tr("Reading…");
     switch (picture->outcome) {
     case DecodedImage::Outcome::damaged:
-        return u"This photo is damaged: there is nothing in it to show."_s;
+        return Texts::tr("This photo is damaged: there is nothing in it to show.");
     case DecodedImage::Outcome::tooLarge:
-        return u"This photo has more pixels than can be shown."_s;
+        return Texts::tr("This photo has more pixels than can be shown.");
     default:
-        return u"There is no picture in this file that can be shown."_s;
+        return Texts::tr("There is no picture in this file that can be shown.");
     }
 }
 

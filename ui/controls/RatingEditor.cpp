@@ -1,5 +1,6 @@
 #include "ui/controls/RatingEditor.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
@@ -30,8 +31,8 @@ RatingEditor::RatingEditor(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setMouseTracking(true);
-    setAccessibleName(u"Rating"_s);
-    setToolTip(u"0 to 5 stars; click the current rating to clear it"_s);
+    setAccessibleName(Texts::tr("Rating"));
+    setToolTip(Texts::tr("0 to 5 stars; click the current rating to clear it"));
     onRestyle(this, [this] { updateGeometry(); });
     // Round the cells: the first one begins left of the row, so that its star stands at the row's edge.
     const auto cells = [this] { return cell(1).united(cell(stars)); };

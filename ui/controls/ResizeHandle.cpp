@@ -1,5 +1,6 @@
 #include "ui/controls/ResizeHandle.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
@@ -23,7 +24,7 @@ ResizeHandle::ResizeHandle(double width, double minWidth, double maxWidth, doubl
     setCursor(Qt::SplitHCursor);
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    setAccessibleName(u"Column width"_s);
+    setAccessibleName(Texts::tr("Column width"));
     onRestyle(this, [this] { updateGeometry(); });
 }
 

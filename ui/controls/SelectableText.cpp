@@ -1,5 +1,6 @@
 #include "ui/controls/SelectableText.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/theme/FocusRing.h"
@@ -54,10 +55,10 @@ void SelectableText::contextMenuEvent(QContextMenuEvent* event)
 {
     auto* menu = new ThemedMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* copying = menu->addAction(u"Copy"_s, this, &QPlainTextEdit::copy);
+    QAction* copying = menu->addAction(Texts::tr("Copy"), this, &QPlainTextEdit::copy);
     copying->setShortcut(QKeySequence::Copy);
     copying->setEnabled(textCursor().hasSelection());
-    menu->addAction(u"Select All"_s, this, &QPlainTextEdit::selectAll)->setShortcut(QKeySequence::SelectAll);
+    menu->addAction(Texts::tr("Select All"), this, &QPlainTextEdit::selectAll)->setShortcut(QKeySequence::SelectAll);
     menu->popup(event->globalPos());
 }
 

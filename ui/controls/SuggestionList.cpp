@@ -1,5 +1,6 @@
 #include "ui/controls/SuggestionList.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
@@ -34,7 +35,7 @@ SuggestionList::SuggestionList(QWidget* field)
 {
     installAccessibility();
     setMouseTracking(true);
-    setAccessibleName(u"Suggestions"_s);
+    setAccessibleName(Texts::tr("Suggestions"));
     // While it is open it belongs to the window, and would outlive its field.
     connect(field, &QObject::destroyed, this, [this] {
         hide();
@@ -50,7 +51,7 @@ void SuggestionList::showRows(const QList<SuggestionRow>& rows)
         return dismiss();
     if (rows != m_rows || isHidden()) {
         m_rows = rows;
-        setAccessibleName(u"Suggestions"_s);
+        setAccessibleName(Texts::tr("Suggestions"));
         m_current = -1;
         m_first = 0;
     }

@@ -1,5 +1,6 @@
 #include "ui/controls/WalkedFlow.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/FlowLayout.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/theme/Metrics.h"
@@ -20,7 +21,7 @@ bool isSameLine(const QRect& a, const QRect& b)
 
 QString moreText(int hidden)
 {
-    return u"%1 more"_s.arg(hidden);
+    return Texts::tr("%1 more").arg(hidden);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "ui/inspector/BesideSet.h"
 
 #include "app/model/AppModel.h"
+#include "core/language/Texts.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/cards/FoldingHeading.h"
 #include "ui/controls/theme/Metrics.h"
@@ -66,10 +67,10 @@ bool BesideSet::refresh(const QStringList& ids, bool fresh)
     for (const QString& id : ids)
         labels.append(FieldSchema::spec(id)->label);
     m_section->setRows(m_isOpen ? m_rows(ids, fresh) : QList<FieldRow*>());
-    heading.setTitle(m_model.isBatch() ? u"ALSO IN THESE PHOTOS"_s : u"ALSO IN THIS PHOTO"_s);
+    heading.setTitle(m_model.isBatch() ? Texts::tr("ALSO IN THESE PHOTOS") : Texts::tr("ALSO IN THIS PHOTO"));
     heading.setOpen(m_isOpen);
     heading.setSummary({ labels.join(u", "_s), {} });
-    heading.setCount(labels.size() == 1 ? u"1 field"_s : u"%1 fields"_s.arg(labels.size()));
+    heading.setCount(labels.size() == 1 ? Texts::tr("1 field") : Texts::tr("%1 fields").arg(labels.size()));
     heading.setEdited(IptcSummary::isEdited(m_model, ids));
     return ids != idsBefore || rows() != rowsBefore;
 }

@@ -1,5 +1,6 @@
 #include "ui/inspector/CameraSection.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/Metrics.h"
@@ -70,7 +71,7 @@ CameraSection::CameraSection(QWidget* parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     describeAs(staticMetaObject, QAccessible::Grouping);
-    setAccessibleName(u"Camera"_s);
+    setAccessibleName(Texts::tr("Camera"));
     onRestyle(this, [this] {
         updateGeometry();
         arrange();
@@ -151,7 +152,7 @@ void CameraSection::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setFont(verbatimFont(12));
     painter.setPen(Theme::of(this).muted);
-    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, u"No camera details"_s);
+    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, Texts::tr("No camera details"));
 }
 
 }  // namespace Quorbel

@@ -1,5 +1,6 @@
 #include "ui/inspector/FieldRow.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/ReadingOrder.h"
@@ -241,13 +242,13 @@ void FieldRow::showTick()
     m_tick->setVisible(m_state.batch && !m_state.fixed);
     m_tick->setChecked(m_state.included);
     const QString& name = m_state.language.spoken.isEmpty() ? m_state.label : m_state.language.spoken;
-    m_tick->setAccessibleName(u"Write %1 to all selected files"_s.arg(name));
+    m_tick->setAccessibleName(Texts::tr("Write %1 to all selected files").arg(name));
 }
 
 void FieldRow::showRemove()
 {
     if (m_state.removable && !m_remove) {
-        m_remove = new QBIconButton(u"xmark.circle.fill"_s, u"Remove this field"_s, this);
+        m_remove = new QBIconButton(u"xmark.circle.fill"_s, Texts::tr("Remove this field"), this);
         m_remove->setSizes({ 22, rowHeight }, 15);
         m_remove->setQuiet(true);
         (m_head && !m_isAlone ? m_head : m_line)->addWidget(m_remove, 0, Qt::AlignTop);
@@ -261,7 +262,7 @@ void FieldRow::showRemove()
         return m_remove->setAccessibleDescription(m_state.label);
     const bool isGone = m_state.language.isGone;
     m_remove->setIcon(isGone ? u"arrow.uturn.backward"_s : u"xmark.circle.fill"_s);
-    m_remove->setName((isGone ? u"Bring %1 back"_s : u"Remove %1"_s).arg(m_state.label));
+    m_remove->setName((isGone ? Texts::tr("Bring %1 back") : Texts::tr("Remove %1")).arg(m_state.label));
 }
 
 void FieldRow::showLines()

@@ -1,5 +1,6 @@
 #include "ui/inspector/FormSection.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/theme/Metrics.h"
@@ -63,8 +64,8 @@ void FormSection::setNote(const QString& text)
 void FormSection::setReading(bool on)
 {
     if (on && !m_reading) {
-        m_reading = new ThemedLabel(u"Reading…"_s, TextRole::label, 11);
-        m_reading->setAccessibleName(u"Reading metadata"_s);
+        m_reading = new ThemedLabel(Texts::tr("Reading…"), TextRole::label, 11);
+        m_reading->setAccessibleName(Texts::tr("Reading metadata"));
         m_reading->setLineHeight(titleHeight);
         auto* line = new QHBoxLayout(m_header);
         line->setContentsMargins(0, 0, 0, 0);

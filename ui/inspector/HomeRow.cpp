@@ -1,6 +1,7 @@
 #include "ui/inspector/HomeRow.h"
 
 #include "core/details/FileHome.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
@@ -57,7 +58,7 @@ protected:
     }
 
 private:
-    static QString title() { return u"Shown"_s; }
+    static QString title() { return Texts::tr("Shown"); }
 };
 
 QString textOf(const FieldHome& home)
@@ -68,8 +69,8 @@ QString textOf(const FieldHome& home)
 
 QString foreignText(const FieldHome& home)
 {
-    return FileHome::is(home) ? u"The photo’s own file: read here, and never written"_s
-                              : u"Belongs to another standard: read here, and never written"_s;
+    return FileHome::is(home) ? Texts::tr("The photo’s own file: read here, and never written")
+                              : Texts::tr("Belongs to another standard: read here, and never written");
 }
 
 }  // namespace
@@ -97,7 +98,7 @@ HomeRow::HomeRow(const FieldHome& home, QWidget* parent)
         column->addWidget(m_foreign);
         told.append(m_foreign->text());
     }
-    told.append(home.isShown ? u"shown"_s : u"Return uses this one"_s);
+    told.append(home.isShown ? u"shown"_s : Texts::tr("Return uses this one"));
     setAccessibleName(home.tag);
     setAccessibleDescription(told.join(u", "_s));
     onRestyle(this, [this] { restyle(); });
@@ -116,7 +117,7 @@ QWidget* HomeRow::makeHead()
     if (m_home.isShown) {
         line->addWidget(new ShownMark(head));
     } else {
-        auto* button = new QBButton(u"Use this one"_s, QBButtonKind::secondary, head);
+        auto* button = new QBButton(Texts::tr("Use this one"), QBButtonKind::secondary, head);
         button->setSmall(true);
         button->setFocusPolicy(Qt::NoFocus);  // the row has the keyboard
         button->setAccessibleDescription(m_home.tag);

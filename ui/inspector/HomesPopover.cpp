@@ -1,6 +1,7 @@
 #include "ui/inspector/HomesPopover.h"
 
 #include "core/details/FileHome.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/OverlayScrollBar.h"
@@ -31,9 +32,9 @@ HomesPopover::HomesPopover(const QString& field, QWidget* opener)
     , m_scroll(new ScrollArea(this))
     , m_content(new QWidget)
     , m_column(new QVBoxLayout(m_content))
-    , m_agree(new QBTextButton(u"Make them agree"_s, this))
+    , m_agree(new QBTextButton(Texts::tr("Make them agree"), this))
 {
-    setAccessibleName(u"Places of %1"_s.arg(field));
+    setAccessibleName(Texts::tr("Places of %1").arg(field));
     describeAs(staticMetaObject, QAccessible::List);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_scroll->setContent(m_content);
@@ -52,8 +53,8 @@ void HomesPopover::setHomes(const QList<FieldHome>& homes)
     m_homes = homes;
     const bool isBeside = std::any_of(homes.cbegin(), homes.cend(), FileHome::is);
     m_agree->setToolTip(isBeside
-            ? u"Writes what is shown to all places in the sidecar, of every field whose places differ there"_s
-            : u"Writes what is shown to all places, of every field whose places differ"_s);
+            ? Texts::tr("Writes what is shown to all places in the sidecar, of every field whose places differ there")
+            : Texts::tr("Writes what is shown to all places, of every field whose places differ"));
     m_agree->setAccessibleDescription(m_agree->toolTip());
     // What is not asked for any more may still have the keyboard.
     for (HomeRow* row : std::as_const(m_rows)) {

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/renaming/PhotosRenaming.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/NoticeLine.h"
@@ -47,10 +48,10 @@ InspectorFooter::InspectorFooter(AppModel& model, QWidget* parent)
     , m_model(model)
     , m_line(new QBoxLayout(QBoxLayout::LeftToRight, this))
     , m_unsaved(new TwoLineLabel(TextRole::label, 12))
-    , m_left(new NoticeLine(u"Bring back"_s))
-    , m_rename(new QBButton(u"Rename…"_s, QBButtonKind::secondary))
-    , m_add(new QBButton(u"Add field"_s, QBButtonKind::dashed))
-    , m_save(new QBButton(u"Save"_s, QBButtonKind::primary))
+    , m_left(new NoticeLine(Texts::tr("Bring back")))
+    , m_rename(new QBButton(Texts::tr("Rename…"), QBButtonKind::secondary))
+    , m_add(new QBButton(Texts::tr("Add field"), QBButtonKind::dashed))
+    , m_save(new QBButton(Texts::tr("Save"), QBButtonKind::primary))
 {
     auto* buttons = new QHBoxLayout;
     m_unsaved->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -116,7 +117,7 @@ void InspectorFooter::refresh(bool hasPhoto)
     m_add->setEnabled(!isUnread);
     setTitle(m_add, InspectorStates::addTitle(m_model));
     m_save->setVisible(hasPhoto);
-    setTitle(m_save, m_model.renaming().isRunning() ? u"Renaming…"_s : InspectorStates::saveTitle(m_model));
+    setTitle(m_save, m_model.renaming().isRunning() ? Texts::tr("Renaming…") : InspectorStates::saveTitle(m_model));
     // A save that runs is not asked for again.
     m_save->setEnabled(dirty && !m_model.isSaving());
     // The line chooses its words by its width, which was another one beside the buttons of before.

@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/fieldsets/FieldSets.h"
 #include "core/iptc/IptcSchema.h"
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
@@ -157,7 +158,7 @@ void InspectorForm::awaitRecords()
     m_pause->begin();
     takeMouse(false);
     m_map->abandon();
-    setAccessibleName(u"Reading metadata"_s);
+    setAccessibleName(Texts::tr("Reading metadata"));
     m_blocksSoon.start();
 }
 

@@ -4,6 +4,7 @@
 #include "app/model/iptc/FieldNotes.h"
 #include "app/model/iptc/SelectedHolders.h"
 #include "core/iptc/ShownText.h"
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldCheck.h"
 #include "core/schema/FieldID.h"
@@ -26,15 +27,15 @@ namespace {
 QString placeholderOf(const QString& id)
 {
     static const QHash<QString, QString> placeholders{
-        { FieldID::title, u"Untitled"_s },
-        { FieldID::description, u"Add a description…"_s },
-        { FieldID::place, u"Add a place…"_s },
-        { FieldID::creator, u"Add a creator…"_s },
-        { FieldID::copyright, u"Add a copyright notice…"_s },
+        { FieldID::title, Texts::tr("Untitled") },
+        { FieldID::description, Texts::tr("Add a description…") },
+        { FieldID::place, Texts::tr("Add a place…") },
+        { FieldID::creator, Texts::tr("Add a creator…") },
+        { FieldID::copyright, Texts::tr("Add a copyright notice…") },
         { FieldID::date, u"YYYY-MM-DD HH:MM"_s },
-        { FieldID::coords, u"lat, lon"_s },
-        { FieldID::headline, u"Add a headline…"_s },
-        { FieldID::event, u"Add an event…"_s },
+        { FieldID::coords, Texts::tr("lat, lon") },
+        { FieldID::headline, Texts::tr("Add a headline…") },
+        { FieldID::event, Texts::tr("Add an event…") },
     };
     return placeholders.value(id);
 }
@@ -46,7 +47,7 @@ QString plural(qsizetype count)
 
 QString willBeWritten(const AppModel& model)
 {
-    return u"Will be written to all %1 photos"_s.arg(model.selection().size());
+    return Texts::tr("Will be written to all %1 photos").arg(model.selection().size());
 }
 
 // Where keywords stand in trees of keywords; people stand in none.
@@ -81,9 +82,9 @@ QString listHelp(const AppModel& model, const QString& id, bool adds)
 {
     QStringList parts;
     if (adds)
-        parts.append(u"appends — existing values kept"_s);
+        parts.append(Texts::tr("appends — existing values kept"));
     if (const qsizetype gone = model.batchRemoved().value(id).size(); gone > 0)
-        parts.append(u"%1 taken away"_s.arg(gone));
+        parts.append(Texts::tr("%1 taken away").arg(gone));
     if (const auto own = model.batchOwn().constFind(id); own != model.batchOwn().cend())
         parts.append(own->told(model.selection().size()));
     return parts.join(u" · "_s);
@@ -114,7 +115,7 @@ QString noteOf(const FieldSpec& field, const FieldRowState& state)
 
 void addListState(const AppModel& model, const FieldSpec& field, FieldRowState& state)
 {
-    state.placeholder = state.batch ? u"Add to all + ↵"_s : u"Add %1 + ↵"_s.arg(itemName(field));
+    state.placeholder = state.batch ? Texts::tr("Add to all + ↵") : Texts::tr("Add %1 + ↵").arg(itemName(field));
     state.items = state.batch ? model.batchLists().value(field.id) : model.draftLists().value(field.id);
     if (field.id == FieldID::keywords)
         state.itemParents = parentsOf(model, state.items);
@@ -137,7 +138,7 @@ void addStructureState(const AppModel& model, const FieldSpec& field, FieldRowSt
 void showMultipleValues(FieldRowState& state)
 {
     state.italicPlaceholder = true;
-    state.placeholder = u"Multiple values — leave unchanged"_s;
+    state.placeholder = Texts::tr("Multiple values — leave unchanged");
 }
 
 // A field of the batch whose text differs from photo to photo says so in its place, and to screen readers.
@@ -154,8 +155,9 @@ bool showOwnTexts(const AppModel& model, const QString& key, FieldRowState& stat
     OwnSummary shown = *own;
     shown.text = ShownText::of(key, own->text);
     state.placeholder = shown.told(selected);
-    state.helpLine = own->photos == selected ? willBeWritten(model)
-                                             : u"Will be written to %1 of %2 photos"_s.arg(own->photos).arg(selected);
+    state.helpLine = own->photos == selected
+        ? willBeWritten(model)
+        : Texts::tr("Will be written to %1 of %2 photos").arg(own->photos).arg(selected);
     return true;
 }
 
@@ -236,7 +238,7 @@ QString readingText(const AppModel& model)
     const int unread = model.unreadSelected();
     if (unread == 0)
         return {};
-    return (model.isWorking() ? u"Reading %1 more…"_s : u"%1 not read yet"_s).arg(unread);
+    return (model.isWorking() ? Texts::tr("Reading %1 more…") : Texts::tr("%1 not read yet")).arg(unread);
 }
 
 FieldRowState unreadRow(const FieldSpec& field)
@@ -254,8 +256,8 @@ QString heldText(const AppModel& model, const SelectedHolders& selected, const Q
     const qsizetype count = model.selection().size();
     const QString all = QLocale().toString(count);
     if (holders.photos == count)
-        return u"in all %1"_s.arg(all);
-    return (holders.unknown > 0 ? u"in %1 or more of %2"_s : u"in %1 of %2"_s)
+        return Texts::tr("in all %1").arg(all);
+    return (holders.unknown > 0 ? Texts::tr("in %1 or more of %2") : Texts::tr("in %1 of %2"))
         .arg(QLocale().toString(holders.photos), all);
 }
 
@@ -303,8 +305,8 @@ FieldRowState languageRow(const AppModel& model, const FieldSpec& field, const Q
     addTextState(model, key, state);
     if (state.language.isGone) {
         state.helpLine.clear();
-        state.noteLine = state.batch ? u"Will be taken away from all %1 photos"_s.arg(model.selection().size())
-                                     : u"Will be taken away"_s;
+        state.noteLine = state.batch ? Texts::tr("Will be taken away from all %1 photos").arg(model.selection().size())
+                                     : Texts::tr("Will be taken away");
     }
     return state;
 }
@@ -337,7 +339,7 @@ QString disagreementsText(const AppModel& model)
     const int count = model.selectedDisagreements();
     if (count == 0)
         return {};
-    return (count == 1 ? u"%1 photo has places that differ"_s : u"%1 photos have places that differ"_s)
+    return (count == 1 ? Texts::tr("%1 photo has places that differ") : Texts::tr("%1 photos have places that differ"))
         .arg(QLocale().toString(count));
 }
 
@@ -363,7 +365,7 @@ FieldRowState customRow(const AppModel& model, const CustomValue& custom)
     }
     state.fixed = !CustomFields::isWritable(custom.name);
     if (state.fixed)
-        state.helpLine = u"A field of this name cannot be changed here"_s;
+        state.helpLine = Texts::tr("A field of this name cannot be changed here");
     if (model.preferences().showNamespace())
         state.namespaceLine = MetadataWriter::customNamespacePrefix() + u':' + custom.name;
     return state;
@@ -375,15 +377,16 @@ QString unsavedText(const AppModel& model)
     if (model.isAwaitingRecords())
         return readingText(model);
     if (count == 0)
-        return u"No unsaved changes"_s;
+        return Texts::tr("No unsaved changes");
     if (!model.isBatch())
-        return u"%1 unsaved change%2"_s.arg(count).arg(plural(count));
-    return u"%1 field%2 → %3 files"_s.arg(count).arg(plural(count)).arg(model.selection().size());
+        return Texts::tr("%1 unsaved change%2").arg(count).arg(plural(count));
+    return Texts::tr("%1 field%2 → %3 files").arg(count).arg(plural(count)).arg(model.selection().size());
 }
 
 QString leftText(const LeftNotice& left)
 {
-    return u"%1 edit%2 of %3 photo%4 left unsaved"_s.arg(left.edits)
+    return Texts::tr("%1 edit%2 of %3 photo%4 left unsaved")
+        .arg(left.edits)
         .arg(plural(left.edits))
         .arg(left.photos)
         .arg(plural(left.photos));
@@ -391,19 +394,19 @@ QString leftText(const LeftNotice& left)
 
 QString briefLeftText(const LeftNotice& left)
 {
-    return u"%1 edit%2 left unsaved"_s.arg(left.edits).arg(plural(left.edits));
+    return Texts::tr("%1 edit%2 left unsaved").arg(left.edits).arg(plural(left.edits));
 }
 
 QString addTitle(const AppModel& model)
 {
-    return model.isBatch() ? u"Add field to all"_s : u"Add field"_s;
+    return model.isBatch() ? Texts::tr("Add field to all") : Texts::tr("Add field");
 }
 
 QString saveTitle(const AppModel& model)
 {
     if (model.isSaving())
-        return u"Saving…"_s;
-    return model.isBatch() ? u"Apply to %1"_s.arg(model.selection().size()) : u"Save"_s;
+        return Texts::tr("Saving…");
+    return model.isBatch() ? Texts::tr("Apply to %1").arg(model.selection().size()) : Texts::tr("Save");
 }
 
 }  // namespace Quorbel::InspectorStates

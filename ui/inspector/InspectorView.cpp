@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
 #include "app/model/words/QuickKeywords.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/ScrollArea.h"
 #include "ui/controls/theme/Metrics.h"
@@ -40,7 +41,7 @@ InspectorView::InspectorView(
     , m_scroll(new ScrollArea)
     , m_form(new InspectorForm(model, thumbs, places, maps))
     , m_kept(new KeptField(model, *m_form))
-    , m_nothing(new ThemedLabel(u"No photo selected"_s, TextRole::muted, 13))
+    , m_nothing(new ThemedLabel(Texts::tr("No photo selected"), TextRole::muted, 13))
     , m_footer(new InspectorFooter(model))
 {
     m_scroll->setFocusPolicy(Qt::NoFocus);

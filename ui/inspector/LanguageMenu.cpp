@@ -1,5 +1,6 @@
 #include "ui/inspector/LanguageMenu.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/FieldLanguages.h"
 #include "ui/controls/attached/SearchMenu.h"
 
@@ -56,9 +57,9 @@ SearchMenu* makeLanguageMenu(
             offer(code, FieldLanguages::name(code));
     for (const FieldLanguages::Choice& choice : FieldLanguages::choices())
         offer(choice.code, choice.name);
-    auto* menu = new SearchMenu(u"Add a language to %1"_s.arg(label), u"Language or code"_s, opener);
+    auto* menu = new SearchMenu(Texts::tr("Add a language to %1").arg(label), Texts::tr("Language or code"), opener);
     menu->setOther([present](const QString& typed) { return otherLanguage(typed, present); });
-    menu->setNothingFound(u"No such language. A code such as “de-AT” works too."_s);
+    menu->setNothingFound(Texts::tr("No such language. A code such as “de-AT” works too."));
     menu->setRows(rows);
     return menu;
 }

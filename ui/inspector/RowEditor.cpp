@@ -1,5 +1,6 @@
 #include "ui/inspector/RowEditor.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/TextFields.h"
@@ -94,7 +95,7 @@ RowEditor dateEditor(const std::function<QDateTime()>& now, FieldRow& row)
     auto* holder = new QWidget(&row);
     auto* line = new QHBoxLayout(holder);
     auto* field = new QBTextField(holder);
-    auto* button = new QBButton(u"Now"_s, QBButtonKind::secondary, holder);
+    auto* button = new QBButton(Texts::tr("Now"), QBButtonKind::secondary, holder);
     line->setContentsMargins(0, 0, 0, 0);
     line->addWidget(field, 1);
     line->addWidget(button);

@@ -1,6 +1,7 @@
 #include "ui/inspector/RowExtras.h"
 
 #include "core/details/FileHome.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/TextFields.h"
@@ -65,10 +66,10 @@ QString placesText(const QList<FieldHome>& homes)
     const auto isShown = [](const FieldHome& home) { return home.isShown; };
     const auto differing = homes.size() - std::count_if(homes.cbegin(), homes.cend(), isShown);
     const QString text =
-        u"%1 of %2 places %3"_s.arg(differing).arg(homes.size()).arg(differing == 1 ? u"differs" : u"differ");
+        Texts::tr("%1 of %2 places %3").arg(differing).arg(homes.size()).arg(differing == 1 ? u"differs" : u"differ");
     const auto shown = std::find_if(homes.cbegin(), homes.cend(), isShown);
     return shown != homes.cend() && shown->isForeign && !FileHome::is(*shown)
-        ? text + u", another standard’s is shown"_s
+        ? text + Texts::tr(", another standard’s is shown")
         : text;
 }
 
@@ -166,13 +167,13 @@ void RowExtras::showChip(const FieldRowState& state)
         QStringList told;
         for (const RowLanguages::Code& code : std::as_const(m_languages.codes)) {
             codes.append({ code.text, code.isGone });
-            told.append(code.isGone ? code.text + u" (will be taken away)"_s : code.text);
+            told.append(code.isGone ? code.text + Texts::tr(" (will be taken away)") : code.text);
         }
         m_chip->setCodes(codes);
         m_chip->setChecked(m_languages.isOpen);
         m_chip->setEdited(m_languages.isEdited);
-        m_chip->setAccessibleName(u"%1 in other languages: %2"_s.arg(state.label, told.join(u", "_s)));
-        m_chip->setToolTip(u"Other languages: %1 (Alt+Right)"_s.arg(told.join(u", "_s)));
+        m_chip->setAccessibleName(Texts::tr("%1 in other languages: %2").arg(state.label, told.join(u", "_s)));
+        m_chip->setToolTip(Texts::tr("Other languages: %1 (Alt+Right)").arg(told.join(u", "_s)));
     } else if (m_chip->hasFocus()) {
         m_editor.input->setFocus(Qt::OtherFocusReason);
     }
@@ -183,7 +184,7 @@ void RowExtras::showAdding(const FieldRowState& state)
 {
     const bool isThere = state.language.isLast && !state.unread;
     if (isThere && !m_add) {
-        m_add = new QBTextButton(u"Add language"_s, &m_row);
+        m_add = new QBTextButton(Texts::tr("Add language"), &m_row);
         m_column.insertItem(m_column.count() - 1, new HangingItem(m_add, addSide, 0));
         m_add->setLeadingIcon(u"plus"_s);
         connect(m_add, &QAbstractButton::clicked, this, [this] { emit m_row.languageMenuAsked(m_add); });
@@ -208,7 +209,7 @@ void RowExtras::showActions(const FieldRowState& state)
         connect(qApp, &QApplication::focusChanged, this, &RowExtras::offer);
         m_open = new QAction(m_editor.input);
         m_open->setShortcut(Qt::ALT | Qt::Key_Right);
-        m_close = new QAction(u"Hide Languages"_s, m_editor.input);
+        m_close = new QAction(Texts::tr("Hide Languages"), m_editor.input);
         m_close->setShortcut(Qt::ALT | Qt::Key_Left);
         for (QAction* action : { m_open, m_close })
             action->setShortcutContext(Qt::WidgetShortcut);
@@ -224,7 +225,7 @@ void RowExtras::showActions(const FieldRowState& state)
     if (!m_open)
         return;
     const bool hasSome = !m_languages.codes.isEmpty();
-    m_open->setText(hasSome ? u"Show Languages"_s : u"Add Language…"_s);
+    m_open->setText(hasSome ? Texts::tr("Show Languages") : Texts::tr("Add Language…"));
     m_open->setVisible(!isLanguage);
     m_open->setEnabled(!isLanguage);
     m_close->setVisible(isLanguage || m_languages.isOpen);
@@ -238,7 +239,7 @@ void RowExtras::offer()
     const bool isOffered = m_languages.isPossible && m_languages.codes.isEmpty() && !m_row.state().unread
         && (m_isHovered || (focus && m_row.isAncestorOf(focus)));
     if (isOffered && !m_offer) {
-        m_offer = new QBIconButton(u"plus"_s, u"Add language"_s, &m_row);
+        m_offer = new QBIconButton(u"plus"_s, Texts::tr("Add language"), &m_row);
         m_offer->setSizes({ offerSize, offerSize }, 12, 2.1, 6);
         m_offer->setHint(u"Alt+Right"_s);
         m_offer->setFocusPolicy(Qt::NoFocus);  // the keyboard has Alt+Right

@@ -1,6 +1,7 @@
 #include "ui/inspector/WantedFields.h"
 
 #include "app/model/fieldsets/FieldSets.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldSchema.h"
 #include "ui/inspector/FieldRowState.h"
 
@@ -13,7 +14,7 @@ void show(const FieldSets& sets, const QString& id, FieldRowState& state)
     state.wanted = sets.isGap(id);
     if (!state.wanted)
         return;
-    state.placeholder = u"Required by %1"_s.arg(sets.current());
+    state.placeholder = Texts::tr("Required by %1").arg(sets.current());
     state.italicPlaceholder = false;
     // Cards, stars and offsets have no place for it.
     const FieldKind kind = FieldSchema::spec(id)->kind;
@@ -27,14 +28,14 @@ QString line(const FieldSets& sets, FieldSection section)
     const bool isMissing = count && count->filled < count->wanted;
     if (!count || (section != FieldSection::common && !isMissing))
         return {};
-    QString text = u"%1 of %2 filled"_s.arg(count->filled).arg(count->wanted);
+    QString text = Texts::tr("%1 of %2 filled").arg(count->filled).arg(count->wanted);
     const QStringList gaps = sets.gaps();
     // Told once, at the top.
     const bool isFirst = section == FieldSection::common
         || (!sets.count(FieldSection::common) && !gaps.isEmpty()
             && FieldSchema::spec(gaps.constFirst())->section == section);
     if (isFirst && !gaps.isEmpty())
-        text += u" · next gap F8"_s;
+        text += Texts::tr(" · next gap F8");
     return text;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/places/LocationMap.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/Metrics.h"
@@ -17,8 +18,8 @@ LocationMap::LocationMap(PlaceProvider* places, MapRenderer* maps, QWidget* pare
     , m_places(places)
     , m_map(new MapPreview(maps))
     , m_line(new QWidget)
-    , m_link(new QBTextButton(u"Fill place from coordinates"_s))
-    , m_failure(new ThemedLabel(u"Couldn't look that up"_s, TextRole::label, 12))
+    , m_link(new QBTextButton(Texts::tr("Fill place from coordinates")))
+    , m_failure(new ThemedLabel(Texts::tr("Couldn't look that up"), TextRole::label, 12))
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);

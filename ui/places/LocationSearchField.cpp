@@ -1,5 +1,6 @@
 #include "ui/places/LocationSearchField.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/FieldID.h"
 #include "ui/controls/SuggestionList.h"
 
@@ -55,7 +56,7 @@ void LocationSearchField::textChangedByUser(const QString& text)
 void LocationSearchField::showAnswer()
 {
     if (m_failed)
-        return m_list->showMessage(u"Couldn't look that up"_s);
+        return m_list->showMessage(Texts::tr("Couldn't look that up"));
     if (!m_showSuggestions)
         return m_list->dismiss();
     if (m_search.suggestions().isEmpty() && !m_search.notice().isEmpty())

@@ -1,5 +1,6 @@
 #include "ui/places/MapPreview.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
@@ -42,7 +43,7 @@ void MapPreview::setPoint(const Coordinates::Point& point)
     if (point == m_point)
         return;
     m_point = point;
-    setAccessibleName(u"Map of %1"_s.arg(Coordinates::displayString(point)));
+    setAccessibleName(Texts::tr("Map of %1").arg(Coordinates::displayString(point)));
     // The old map shows another place; better none than a wrong one.
     m_map = {};
     ask();

@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/words/CodeReplacements.h"
 #include "core/iptc/IptcSchema.h"
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 #include "core/text/Text.h"
 #include "ui/controls/Buttons.h"
@@ -97,10 +98,10 @@ AddFieldSheet::AddFieldSheet(AppModel& model, QWidget* parent)
     , m_name(new QBTextField)
     , m_value(new QBTextField)
     , m_verdict(new ThemedLabel({}, TextRole::label, 11))
-    , m_add(new QBButton(u"Add Field"_s, QBButtonKind::primary))
+    , m_add(new QBButton(Texts::tr("Add Field"), QBButtonKind::primary))
 {
-    m_query->setPlaceholder(u"Search fields…"_s);
-    m_query->setAccessibleName(u"Search fields"_s);
+    m_query->setPlaceholder(Texts::tr("Search fields…"));
+    m_query->setAccessibleName(Texts::tr("Search fields"));
     m_query->setLeadingIcon(u"magnifyingglass"_s);
     m_query->installEventFilter(this);
     m_value->setCodes(m_model.codes().texts());
@@ -121,18 +122,19 @@ AddFieldSheet::AddFieldSheet(AppModel& model, QWidget* parent)
 void AddFieldSheet::build()
 {
     auto* column = new QVBoxLayout(this);
-    auto* dismiss = new QBButton(u"Cancel"_s, QBButtonKind::secondary);
+    auto* dismiss = new QBButton(Texts::tr("Cancel"), QBButtonKind::secondary);
     connect(dismiss, &QAbstractButton::clicked, this, &AddFieldSheet::cancel);
     m_verdict->setElided(true);
     m_verdict->setVerbatim(true);
     m_verdict->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     stackParts(this, column,
         {
-            { new LabeledDivider(u"RECOMMENDED · WORKS EVERYWHERE"_s), 10 },
+            { new LabeledDivider(Texts::tr("RECOMMENDED · WORKS EVERYWHERE")), 10 },
             { m_query, 6 },
-            { new ThemedLabel(u"Already-set fields are hidden."_s, TextRole::muted, 11), 8 },
+            { new ThemedLabel(Texts::tr("Already-set fields are hidden."), TextRole::muted, 11), 8 },
             { m_list, 22 },
-            { new LabeledDivider(u"ADVANCED · CUSTOM FIELD"_s, true, u"may not appear in all apps"_s), 12 },
+            { new LabeledDivider(Texts::tr("ADVANCED · CUSTOM FIELD"), true, Texts::tr("may not appear in all apps")),
+                12 },
             { buildCustom() },
             { m_verdict },
         });
@@ -150,7 +152,8 @@ QWidget* AddFieldSheet::buildCustom()
     auto* grid = new QGridLayout(fields);
     grid->setContentsMargins(0, 0, 0, 0);
     int column = 0;
-    for (const auto& [title, field] : { std::pair(u"Name"_s, m_name), std::pair(u"Value"_s, m_value) }) {
+    for (const auto& [title, field] :
+        { std::pair(Texts::tr("Name"), m_name), std::pair(Texts::tr("Value"), m_value) }) {
         auto* label = new ThemedLabel(title, TextRole::label, 12);
         label->setBuddy(field);
         field->setAccessibleName(title);
@@ -158,7 +161,7 @@ QWidget* AddFieldSheet::buildCustom()
         grid->addWidget(field, 1, column);
         grid->setColumnStretch(column++, 1);
     }
-    m_name->setPlaceholder(u"e.g. Project"_s);
+    m_name->setPlaceholder(Texts::tr("e.g. Project"));
     onRestyle(fields, [grid] {
         grid->setHorizontalSpacing(px(12));
         grid->setVerticalSpacing(px(6));
@@ -168,8 +171,8 @@ QWidget* AddFieldSheet::buildCustom()
 
 void AddFieldSheet::filter()
 {
-    const QString none =
-        m_query->text().isEmpty() ? u"All recommended fields are already shown."_s : u"No matching fields."_s;
+    const QString none = m_query->text().isEmpty() ? Texts::tr("All recommended fields are already shown.")
+                                                   : Texts::tr("No matching fields.");
     const QList<FieldSpec> fields = m_model.addableKnownFields() + inSections(m_model.addableIptcFields());
     m_list->setFields(filteredFields(fields, m_query->text()), none);
 }
@@ -184,7 +187,7 @@ void AddFieldSheet::judgeName()
     if (problem)
         verdict = *problem;
     else if (stored && *stored != typed)
-        verdict = u"Will be stored as “"_s + *stored + u'”';
+        verdict = Texts::tr("Will be stored as “") + *stored + u'”';
     m_verdict->setText(verdict);
     m_verdict->setRole(problem ? TextRole::amberText : TextRole::label);
     m_name->setAccessibleDescription(verdict);
@@ -212,7 +215,7 @@ bool AddFieldSheet::eventFilter(QObject* watched, QEvent* event)
 
 QString AddFieldSheet::title() const
 {
-    return u"Add Metadata Field"_s;
+    return Texts::tr("Add Metadata Field");
 }
 
 void AddFieldSheet::confirm()

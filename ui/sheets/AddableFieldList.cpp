@@ -1,6 +1,7 @@
 #include "ui/sheets/AddableFieldList.h"
 
 #include "core/iptc/IptcSchema.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/Labels.h"
@@ -103,7 +104,7 @@ AddableFieldList::AddableFieldList(QWidget* parent)
     m_column->addStretch();
     m_empty->setAlignment(Qt::AlignCenter);
     setContent(content);
-    setAccessibleName(u"Fields"_s);
+    setAccessibleName(Texts::tr("Fields"));
     onRestyle(this, [this] {
         // In a low window, or with large type, the list gives way.
         setMinimumHeight(px(leastHeight));
@@ -136,7 +137,8 @@ QWidget* AddableFieldList::headingOf(const FieldSpec& field)
         return heading;
     heading = new QWidget;
     auto* line = new QVBoxLayout(heading);
-    line->addWidget(new LabeledDivider(isOfIptc ? u"IPTC · "_s + rawValue(field.section) : u"OTHER FIELDS"_s, true));
+    line->addWidget(
+        new LabeledDivider(isOfIptc ? u"IPTC · "_s + rawValue(field.section) : Texts::tr("OTHER FIELDS"), true));
     onRestyle(heading, [line] { line->setContentsMargins(px(left), px(12), px(right), px(4)); });
     return heading;
 }

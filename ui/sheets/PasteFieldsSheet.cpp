@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/pairs/Pairing.h"
 #include "app/model/words/FieldPasting.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/ScrollArea.h"
@@ -38,10 +39,10 @@ QString copiedText(const QDateTime& at, const QDate& today)
         return {};
     const QString time = QLocale::c().toString(at.time(), u"HH:mm"_s);
     if (at.date() == today)
-        return u"Copied today, "_s + time;
+        return Texts::tr("Copied today, ") + time;
     if (at.date() == today.addDays(-1))
-        return u"Copied yesterday, "_s + time;
-    return u"Copied "_s + QLocale::c().toString(at.date(), u"d MMMM yyyy"_s) + u", "_s + time;
+        return Texts::tr("Copied yesterday, ") + time;
+    return Texts::tr("Copied ") + QLocale::c().toString(at.date(), u"d MMMM yyyy"_s) + u", "_s + time;
 }
 
 QString shortened(const QString& name)
@@ -56,7 +57,7 @@ public:
     {
         setFramed(true);
         setFocusPolicy(Qt::NoFocus);
-        setAccessibleName(u"Fields"_s);
+        setAccessibleName(Texts::tr("Fields"));
         auto* content = new QWidget;
         auto* column = new QVBoxLayout(content);
         column->setContentsMargins(0, 0, 0, 0);
@@ -87,7 +88,7 @@ PasteFieldsSheet::PasteFieldsSheet(AppModel& model, ThumbnailStore* thumbs, QWid
     , m_model(model)
     , m_list(new RowList)
     , m_note(new WrappedLine(TextRole::label, 11, 15))
-    , m_dismiss(new QBButton(u"Cancel"_s))
+    , m_dismiss(new QBButton(Texts::tr("Cancel")))
     , m_paste(new QBButton({}, QBButtonKind::primary))
 {
     auto* column = new QVBoxLayout(this);
@@ -118,8 +119,8 @@ QHBoxLayout* PasteFieldsSheet::buildHeader(ThumbnailStore* thumbs)
     auto* picture = new ThumbnailView(thumbs, thumbnail, 7);
     picture->setUrl(m_model.pairing().seenFile(photo));
     auto* texts = new QVBoxLayout;
-    auto* name = new ThemedLabel(
-        photo.isEmpty() ? u"Copied fields"_s : u"From "_s + photo.fileName(), TextRole::text, 13, QFont::Medium);
+    auto* name = new ThemedLabel(photo.isEmpty() ? Texts::tr("Copied fields") : Texts::tr("From ") + photo.fileName(),
+        TextRole::text, 13, QFont::Medium);
     auto* when = new ThemedLabel(copiedText(fields.copiedAt, m_model.now().date()), TextRole::label, 11);
     name->setElided(true);
     name->setVerbatim(true);
@@ -131,8 +132,8 @@ QHBoxLayout* PasteFieldsSheet::buildHeader(ThumbnailStore* thumbs)
     line->addWidget(picture);
     line->addLayout(texts, 1);
     for (const bool on : { true, false }) {
-        auto* button = new QBTextButton(on ? u"All"_s : u"None"_s);
-        button->setAccessibleDescription(on ? u"Tick all fields"_s : u"Tick no field"_s);
+        auto* button = new QBTextButton(on ? Texts::tr("All") : Texts::tr("None"));
+        button->setAccessibleDescription(on ? Texts::tr("Tick all fields") : Texts::tr("Tick no field"));
         connect(button, &QAbstractButton::clicked, &m_model.pasting(), [this, on] { m_model.pasting().tickAll(on); });
         line->addWidget(button);
         m_before.append(button);
@@ -193,13 +194,15 @@ void PasteFieldsSheet::refresh()
     for (qsizetype i = 0; i < qMin(rows.size(), m_rows.size()); ++i)
         m_rows.at(i)->setRow(rows.at(i));
     const int ticked = pasting.tickedCount();
-    m_paste->setText(ticked == 0 ? u"Paste Fields"_s
-            : ticked == 1        ? u"Paste 1 Field"_s
-                                 : u"Paste %1 Fields"_s.arg(ticked));
+    m_paste->setText(ticked == 0 ? Texts::tr("Paste Fields")
+            : ticked == 1        ? Texts::tr("Paste 1 Field")
+                                 : Texts::tr("Paste %1 Fields").arg(ticked));
     m_paste->setEnabled(ticked > 0);
-    QString note = m_model.isBatch() ? u"Nothing is written before Apply."_s : u"Nothing is written before Save."_s;
+    QString note = m_model.isBatch() ? Texts::tr("Nothing is written before Apply.")
+                                     : Texts::tr("Nothing is written before Save.");
     if (const int unread = pasting.unreadPhotos(); unread > 0)
-        note += unread == 1 ? u" 1 photo was not read yet."_s : u" %1 photos were not read yet."_s.arg(unread);
+        note += unread == 1 ? Texts::tr(" 1 photo was not read yet.")
+                            : Texts::tr(" %1 photos were not read yet.").arg(unread);
     m_note->setText(note);
     if (parentWidget())
         parentWidget()->update();  // the title
@@ -220,8 +223,8 @@ void PasteFieldsSheet::move(int from, int step)
 QString PasteFieldsSheet::title() const
 {
     if (m_model.isBatch())
-        return u"Paste Fields to %1 Photos"_s.arg(m_model.selection().size());
-    return u"Paste Fields to "_s + (m_model.primary() ? shortened(m_model.primary()->fileName()) : QString());
+        return Texts::tr("Paste Fields to %1 Photos").arg(m_model.selection().size());
+    return Texts::tr("Paste Fields to ") + (m_model.primary() ? shortened(m_model.primary()->fileName()) : QString());
 }
 
 void PasteFieldsSheet::confirm()

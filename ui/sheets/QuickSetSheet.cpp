@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/words/QuickKeywords.h"
+#include "core/language/Texts.h"
 #include "core/schema/KeywordPath.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
@@ -41,18 +42,18 @@ QuickSetSheet::QuickSetSheet(AppModel& model, QWidget* parent)
     , m_name(new QBTextField)
     , m_editor(new KeywordEditor)
     , m_problem(new ThemedLabel({}, TextRole::amberText, 11))
-    , m_store(new QBButton(u"Save"_s, QBButtonKind::primary))
+    , m_store(new QBButton(Texts::tr("Save"), QBButtonKind::primary))
 {
     const QuickKeywords::Edited edited = model.quickKeywords().edited().value_or(QuickKeywords::Edited());
     m_isNew = edited.before.isEmpty();
     m_keywords = edited.set.keywords;
     m_name->setText(edited.set.name);
-    m_name->setAccessibleName(u"Name of the set"_s);
-    m_name->setPlaceholder(u"Name of the set"_s, false);
+    m_name->setAccessibleName(Texts::tr("Name of the set"));
+    m_name->setPlaceholder(Texts::tr("Name of the set"), false);
     connect(m_name, &QLineEdit::textEdited, this, &QuickSetSheet::show);
     buildKeywords();
     auto* hint = new WrappedLine(TextRole::label, 11, 15);
-    hint->setText(u"The first nine have the keys Alt+1 to Alt+9."_s);
+    hint->setText(Texts::tr("The first nine have the keys Alt+1 to Alt+9."));
     m_problem->setElided(true);
     auto* column = new QVBoxLayout(this);
     stackParts(this, column, { { m_name, 12 }, { m_editor, 8 }, { hint }, { m_problem } });
@@ -60,7 +61,7 @@ QuickSetSheet::QuickSetSheet(AppModel& model, QWidget* parent)
     buttons->setSpacing(0);
     QList<QBButton*> right = buildButtons();
     if (!m_isNew) {
-        auto* remove = new QBButton(u"Delete Set"_s, QBButtonKind::destructive);
+        auto* remove = new QBButton(Texts::tr("Delete Set"), QBButtonKind::destructive);
         connect(remove, &QAbstractButton::clicked, this, [this] { m_model.quickKeywords().remove(); });
         buttons->addWidget(remove);
     }
@@ -73,8 +74,8 @@ QuickSetSheet::QuickSetSheet(AppModel& model, QWidget* parent)
 
 void QuickSetSheet::buildKeywords()
 {
-    m_editor->setPlaceholder(u"Add keyword + ↵"_s);
-    m_editor->entry()->setAccessibleName(u"Keywords of the set"_s);
+    m_editor->setPlaceholder(Texts::tr("Add keyword + ↵"));
+    m_editor->entry()->setAccessibleName(Texts::tr("Keywords of the set"));
     m_editor->setCompletions(
         [this](const QString& typed) { return InspectorStates::keywordSuggestions(m_model, typed, mostCompletions); });
     connect(m_editor, &KeywordEditor::added, this, &QuickSetSheet::add);
@@ -86,7 +87,7 @@ void QuickSetSheet::buildKeywords()
 
 QList<QBButton*> QuickSetSheet::buildButtons()
 {
-    auto* dismiss = new QBButton(u"Cancel"_s, QBButtonKind::secondary);
+    auto* dismiss = new QBButton(Texts::tr("Cancel"), QBButtonKind::secondary);
     connect(dismiss, &QAbstractButton::clicked, this, &QuickSetSheet::cancel);
     connect(m_store, &QAbstractButton::clicked, this, &QuickSetSheet::confirm);
     return { dismiss, m_store };
@@ -117,7 +118,7 @@ void QuickSetSheet::show()
 
 QString QuickSetSheet::title() const
 {
-    return m_isNew ? u"New Set of Quick Keywords"_s : u"Set of Quick Keywords"_s;
+    return m_isNew ? Texts::tr("New Set of Quick Keywords") : Texts::tr("Set of Quick Keywords");
 }
 
 void QuickSetSheet::confirm()

@@ -1,6 +1,7 @@
 #include "ui/sheets/RenameSheet.h"
 
 #include "app/model/AppModel.h"
+#include "core/language/Texts.h"
 #include "core/text/FileNaming.h"
 #include "core/text/Text.h"
 #include "ui/controls/Buttons.h"
@@ -32,22 +33,22 @@ RenameSheet::RenameSheet(AppModel& model, QWidget* parent)
     , m_pattern(new QBTextField)
     , m_preview(new WrappedLine(TextRole::text, 12, 17))
     , m_problem(new ThemedLabel({}, TextRole::amberText, 11))
-    , m_rename(new QBButton(u"Rename"_s, QBButtonKind::primary))
+    , m_rename(new QBButton(Texts::tr("Rename"), QBButtonKind::primary))
 {
     m_pattern->setMono(true);
     m_pattern->setPlaceholder(u"%Date%_%Title%"_s);
-    m_pattern->setAccessibleName(u"Pattern"_s);
+    m_pattern->setAccessibleName(Texts::tr("Pattern"));
     m_preview->setMono(true);
     m_preview->setVerbatim(true);
     m_preview->setBreaksAnywhere(true);
     auto* hint = new WrappedLine(TextRole::muted, 11.5, 16);
-    hint->setText(u"Click a field to insert it. The extension is kept automatically."_s);
-    auto* dismiss = new QBButton(u"Cancel"_s, QBButtonKind::secondary);
+    hint->setText(Texts::tr("Click a field to insert it. The extension is kept automatically."));
+    auto* dismiss = new QBButton(Texts::tr("Cancel"), QBButtonKind::secondary);
     connect(dismiss, &QAbstractButton::clicked, this, &RenameSheet::cancel);
     connect(m_rename, &QAbstractButton::clicked, this, &RenameSheet::confirm);
     auto* column = new QVBoxLayout(this);
     stackParts(this, column,
-        { { m_pattern, 12 }, { buildTokens(), 12 }, { hint, 18 }, { new LabeledDivider(u"Preview"_s), 10 },
+        { { m_pattern, 12 }, { buildTokens(), 12 }, { hint, 18 }, { new LabeledDivider(Texts::tr("Preview")), 10 },
             { m_preview }, { m_problem } });
     column->addLayout(sheetButtonRow(this, { dismiss, m_rename }));
     frameSheet(this, column, renameWidth);
@@ -92,7 +93,7 @@ void RenameSheet::refresh()
 
 QString RenameSheet::title() const
 {
-    return u"Rename File"_s;
+    return Texts::tr("Rename File");
 }
 
 void RenameSheet::confirm()

@@ -5,6 +5,7 @@
 #include "app/model/iptc/FieldNotes.h"
 #include "app/model/pairs/Pairing.h"
 #include "core/iptc/ShownText.h"
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldCheck.h"
 #include "core/schema/FieldID.h"
@@ -57,7 +58,7 @@ bool isSingle(const AppModel& model)
 
 QString photosText(int count)
 {
-    return count == 1 ? u"1 photo"_s : u"%1 photos"_s.arg(count);
+    return count == 1 ? Texts::tr("1 photo") : Texts::tr("%1 photos").arg(count);
 }
 
 // What is asked about many photos takes its time to be worked out: once for each dialog.
@@ -66,11 +67,11 @@ using AskedAgreement = std::optional<AppModel::AgreementQuestion>;
 QString titleText(const AppModel& model, const AskedAgreement& question)
 {
     if (!isSingle(model))
-        return question ? u"Make %1 agree?"_s.arg(photosText(question->photos))
-                        : u"Apply changes to %1 photos?"_s.arg(model.selection().size());
+        return question ? Texts::tr("Make %1 agree?").arg(photosText(question->photos))
+                        : Texts::tr("Apply changes to %1 photos?").arg(model.selection().size());
     const ImageRecord* record = model.primaryRecord();
-    return (question ? u"Make “"_s : u"Save changes to “"_s) + (record ? model.pairing().names(*record) : QString())
-        + (question ? u"” agree?"_s : u"”?"_s);
+    return (question ? Texts::tr("Make “") : Texts::tr("Save changes to “"))
+        + (record ? model.pairing().names(*record) : QString()) + (question ? Texts::tr("” agree?") : u"”?"_s);
 }
 
 // The scalar fields among `ids`, by id.
@@ -160,8 +161,9 @@ ChangeLine listLine(const AppModel& model, const FieldSpec& field)
         for (const KeywordCount& count : model.selectedKeywords())
             held.insert(count.keyword, count.photos);
     for (const QString& item : std::as_const(line.takenAway))
-        line.counts.append(
-            held.contains(item) ? u"%1 of %2"_s.arg(held.value(item)).arg(model.selectedKeywordPhotos()) : QString());
+        line.counts.append(held.contains(item)
+                ? Texts::tr("%1 of %2").arg(held.value(item)).arg(model.selectedKeywordPhotos())
+                : QString());
     return line;
 }
 
@@ -212,15 +214,16 @@ QString messageText(const AppModel& model, const AskedAgreement& question)
                u"together."_s;
     if (isSingle(model)) {
         const int count = model.unsavedCount();
-        return u"You edited %1 field%2. Your changes will be lost if you don’t save them."_s.arg(count).arg(
-            count == 1 ? QString() : u"s"_s);
+        return Texts::tr("You edited %1 field%2. Your changes will be lost if you don’t save them.")
+            .arg(count)
+            .arg(count == 1 ? QString() : u"s"_s);
     }
     QStringList labels;
     for (const ChangeLine& line : changeLines(model, question))
         labels.append(line.label);
-    const QString fields = labels.isEmpty() ? u"the selected fields"_s : labels.join(u", "_s);
-    return u"This will modify %1 on %2 files. This can’t be undone."_s.arg(
-        fields, QString::number(model.selection().size()));
+    const QString fields = labels.isEmpty() ? Texts::tr("the selected fields") : labels.join(u", "_s);
+    return Texts::tr("This will modify %1 on %2 files. This can’t be undone.")
+        .arg(fields, QString::number(model.selection().size()));
 }
 
 // The rows of the change list, with a hairline between them.
@@ -288,8 +291,8 @@ private:
         auto* label = ThemedLabel::wrapped({}, TextRole::text, 13);
         label->setTextFormat(Qt::RichText);
         label->setVerbatim(true);
-        label->setText(u"taken away: "_s + shown.join(u", "_s));
-        label->setAccessibleName(u"taken away: "_s + spoken.join(u", "_s));
+        label->setText(Texts::tr("taken away: ") + shown.join(u", "_s));
+        label->setAccessibleName(Texts::tr("taken away: ") + spoken.join(u", "_s));
         return label;
     }
 
@@ -304,7 +307,7 @@ public:
         setFramed(true);
         setContent(new ChangeTable(lines));
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        setAccessibleName(u"Changes"_s);
+        setAccessibleName(Texts::tr("Changes"));
         // Only a list that scrolls needs the keyboard.
         setFocusPolicy(sizeHint().height() < contentHeight() ? Qt::TabFocus : Qt::NoFocus);
         installFocusRing(this, { RingShape::tight, 7, {}, {} });
@@ -383,7 +386,8 @@ QWidget* SaveDialogView::buildCredentials()
 
 void SaveDialogView::buildCheckbox()
 {
-    m_dontAsk = new QBCheckbox(m_single ? u"Save and don’t ask again"_s : u"Don’t ask again this session"_s, nullptr);
+    m_dontAsk = new QBCheckbox(
+        m_single ? Texts::tr("Save and don’t ask again") : Texts::tr("Don’t ask again this session"), nullptr);
     const auto show = [this] {
         m_dontAsk->setChecked(m_single ? m_model.preferences().saveDontAsk() : m_model.batchDontAskSession());
     };
@@ -402,14 +406,15 @@ QList<QBButton*> SaveDialogView::buildButtons()
 {
     QList<QBButton*> buttons;
     if (m_single && !m_question) {
-        buttons.append(new QBButton(u"Don't Save"_s, QBButtonKind::destructive));
+        buttons.append(new QBButton(Texts::tr("Don't Save"), QBButtonKind::destructive));
         connect(buttons.last(), &QAbstractButton::clicked, this, [this] { m_model.discardSaveDialog(); });
     }
-    buttons.append(new QBButton(u"Cancel"_s, QBButtonKind::secondary));
+    buttons.append(new QBButton(Texts::tr("Cancel"), QBButtonKind::secondary));
     connect(buttons.last(), &QAbstractButton::clicked, this, &SaveDialogView::cancel);
-    const QString title = m_question ? u"Make %1"_s.arg(m_question->photos == 1 ? u"It Agree"_s : u"Them Agree"_s)
-        : m_single                   ? u"Save"_s
-                                     : u"Apply to %1 Photos"_s.arg(m_model.selection().size());
+    const QString title = m_question
+        ? Texts::tr("Make %1").arg(m_question->photos == 1 ? Texts::tr("It Agree") : Texts::tr("Them Agree"))
+        : m_single ? Texts::tr("Save")
+                   : Texts::tr("Apply to %1 Photos").arg(m_model.selection().size());
     m_confirm = new QBButton(title, QBButtonKind::primary);
     connect(m_confirm, &QAbstractButton::clicked, this, &SaveDialogView::confirm);
     buttons.append(m_confirm);

@@ -1,5 +1,6 @@
 #include "ui/sheets/ShiftTable.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
@@ -39,7 +40,7 @@ ThemedLabel* monoLabel()
 ShiftTable::ShiftTable(QWidget* parent)
     : QWidget(parent)
 {
-    setAccessibleName(u"Before and after"_s);
+    setAccessibleName(Texts::tr("Before and after"));
     for (Line& line : m_lines) {
         line = { new ThemedLabel({}, TextRole::label, 13), monoLabel(),
             new ThemedLabel(QString(QChar(0x2192)), TextRole::muted, 13), monoLabel() };

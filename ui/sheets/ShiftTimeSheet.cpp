@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/pairs/Pairing.h"
 #include "app/model/timeshift/TimeShifting.h"
+#include "core/language/Texts.h"
 #include "core/text/WallClock.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
@@ -81,7 +82,7 @@ QVBoxLayout* formColumn(QWidget* form, qreal spacing)
 
 QString photosText(qsizetype count)
 {
-    return count == 1 ? u"1 Photo"_s : u"%1 Photos"_s.arg(count);
+    return count == 1 ? Texts::tr("1 Photo") : Texts::tr("%1 Photos").arg(count);
 }
 
 }  // namespace
@@ -91,33 +92,33 @@ ShiftTimeSheet::ShiftTimeSheet(AppModel& model, ThumbnailStore* thumbs, QWidget*
     , m_pairing(model.pairing())
     , m_shifting(model.timeShifting())
     , m_photos(int(m_shifting.photos().size()))
-    , m_way(new SegmentedPicker({ u"By an amount"_s, u"By a known photo"_s, u"Time zone"_s }))
+    , m_way(new SegmentedPicker({ Texts::tr("By an amount"), Texts::tr("By a known photo"), Texts::tr("Time zone") }))
     , m_forms(new QStackedWidget)
-    , m_direction(new SegmentedPicker({ u"Later"_s, u"Earlier"_s }))
+    , m_direction(new SegmentedPicker({ Texts::tr("Later"), Texts::tr("Earlier") }))
     , m_help(new WrappedLine(TextRole::label, 11, 16))
     , m_knownName(new ThemedLabel({}, TextRole::text, 13))
     , m_knownClock(new ThemedLabel({}, TextRole::label, 11.5))
-    , m_choose(new QBButton(u"Choose…"_s))
+    , m_choose(new QBButton(Texts::tr("Choose…")))
     , m_knownTime(new QBTextField)
-    , m_zone(new PickerButton(u"Time zone"_s))
-    , m_keepsClock(new QBCheckbox(u"Keep the clock time"_s, nullptr))
+    , m_zone(new PickerButton(Texts::tr("Time zone")))
+    , m_keepsClock(new QBCheckbox(Texts::tr("Keep the clock time"), nullptr))
     , m_table(new ShiftTable)
     , m_note(new ThemedLabel({}, TextRole::label, 11))
-    , m_own(new QBTextButton(u"Use each photo’s own"_s))
+    , m_own(new QBTextButton(Texts::tr("Use each photo’s own")))
     , m_warning(new WrappedLine(TextRole::amberText, 11, noteHeight))
-    , m_shift(new QBButton(u"Shift"_s, QBButtonKind::primary))
+    , m_shift(new QBButton(Texts::tr("Shift"), QBButtonKind::primary))
 {
-    m_way->setAccessibleName(u"How to shift"_s);
+    m_way->setAccessibleName(Texts::tr("How to shift"));
     m_way->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     for (QWidget* form : { buildAmount(), buildKnown(thumbs), buildZone() })
         m_forms->addWidget(form);
-    auto* dismiss = new QBButton(u"Cancel"_s, QBButtonKind::secondary);
+    auto* dismiss = new QBButton(Texts::tr("Cancel"), QBButtonKind::secondary);
     connect(dismiss, &QAbstractButton::clicked, this, &ShiftTimeSheet::cancel);
     connect(m_shift, &QAbstractButton::clicked, this, &ShiftTimeSheet::confirm);
     connect(m_way, &SegmentedPicker::picked, this, [this](int index) { m_shifting.setWay(ways[index]); });
     auto* column = new QVBoxLayout(this);
     stackParts(this, column,
-        { { m_way, 16 }, { m_forms, 20 }, { new LabeledDivider(u"BEFORE → AFTER"_s), 8 }, { m_table, 7 },
+        { { m_way, 16 }, { m_forms, 20 }, { new LabeledDivider(Texts::tr("BEFORE → AFTER")), 8 }, { m_table, 7 },
             { buildNotes(), 22 } });
     column->addLayout(sheetButtonRow(this, { dismiss, m_shift }));
     frameSheet(this, column, shiftWidth);
@@ -132,8 +133,8 @@ QWidget* ShiftTimeSheet::buildAmount()
     auto* column = formColumn(form, 7);
     auto* line = new QHBoxLayout;
     line->addWidget(m_direction);
-    const std::pair<QString, QString> units[] = { { u"d"_s, u"Days"_s }, { u"h"_s, u"Hours"_s },
-        { u"min"_s, u"Minutes"_s }, { u"s"_s, u"Seconds"_s } };
+    const std::pair<QString, QString> units[] = { { u"d"_s, Texts::tr("Days") }, { u"h"_s, Texts::tr("Hours") },
+        { u"min"_s, Texts::tr("Minutes") }, { u"s"_s, Texts::tr("Seconds") } };
     for (const auto& [unit, name] : units) {
         auto* number = new QBTextField;
         number->setMono(true);
@@ -147,7 +148,7 @@ QWidget* ShiftTimeSheet::buildAmount()
         line->addWidget(new ThemedLabel(unit, TextRole::label, 13));
     }
     line->addStretch();
-    m_direction->setAccessibleName(u"Direction"_s);
+    m_direction->setAccessibleName(Texts::tr("Direction"));
     m_direction->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     connect(m_direction, &SegmentedPicker::picked, this, &ShiftTimeSheet::takeAmount);
     onRestyle(form, [this, line] {
@@ -182,12 +183,12 @@ QWidget* ShiftTimeSheet::buildKnown(ThumbnailStore* thumbs)
     onRestyle(form, [line] { line->setSpacing(px(10)); });
     m_knownTime->setMono(true);
     m_knownTime->setPlaceholder(u"YYYY-MM-DD HH:MM:SS"_s);
-    m_knownTime->setAccessibleName(u"Was taken at"_s);
-    m_choose->setToolTip(u"Choose among the selected photos"_s);
+    m_knownTime->setAccessibleName(Texts::tr("Was taken at"));
+    m_choose->setToolTip(Texts::tr("Choose among the selected photos"));
     connect(m_choose, &QAbstractButton::clicked, this, &ShiftTimeSheet::chooseKnown);
     connect(m_knownTime, &QLineEdit::textEdited, this, [this](const QString& text) { m_shifting.setKnownTime(text); });
     column->addLayout(line);
-    column->addLayout(captioned(form, u"Was taken at"_s, m_knownTime));
+    column->addLayout(captioned(form, Texts::tr("Was taken at"), m_knownTime));
     return form;
 }
 
@@ -206,11 +207,11 @@ QWidget* ShiftTimeSheet::buildZone()
         m_keepsClock->setFixedHeight(px(30));
         line->invalidate();
     });
-    m_keepsClock->setToolTip(u"Without it, the moment stays and the clock time moves"_s);
+    m_keepsClock->setToolTip(Texts::tr("Without it, the moment stays and the clock time moves"));
     connect(m_zone, &QAbstractButton::clicked, this, &ShiftTimeSheet::chooseZone);
     connect(
         m_keepsClock, &QAbstractButton::clicked, this, [this] { m_shifting.setKeepsClock(!m_shifting.keepsClock()); });
-    column->addLayout(captioned(form, u"Time zone"_s, m_zone));
+    column->addLayout(captioned(form, Texts::tr("Time zone"), m_zone));
     column->addLayout(line);
     column->addStretch();
     return form;
@@ -252,7 +253,7 @@ void ShiftTimeSheet::takeAmount()
 
 void ShiftTimeSheet::chooseKnown()
 {
-    auto* menu = new SearchMenu(u"Photos"_s, u"Search photos"_s, m_choose);
+    auto* menu = new SearchMenu(Texts::tr("Photos"), Texts::tr("Search photos"), m_choose);
     QList<SearchMenuRow> rows;
     QHash<QString, QUrl> urls;
     for (const ShiftPhoto& photo : m_shifting.photos()) {
@@ -264,7 +265,7 @@ void ShiftTimeSheet::chooseKnown()
         rows.append(row);
     }
     menu->setRows(rows);
-    menu->setNothingFound(u"No such photo"_s);
+    menu->setNothingFound(Texts::tr("No such photo"));
     connect(menu, &SearchMenu::picked, this, [this, urls](const SearchMenuRow& row) {
         m_shifting.setKnownPhoto(urls.value(row.title + u'\n' + row.code));
         m_knownTime->setFocus(Qt::OtherFocusReason);
@@ -276,7 +277,7 @@ void ShiftTimeSheet::chooseKnown()
 
 void ShiftTimeSheet::chooseZone()
 {
-    auto* menu = new SearchMenu(u"Time zones"_s, u"Search towns or offsets"_s, m_zone);
+    auto* menu = new SearchMenu(Texts::tr("Time zones"), Texts::tr("Search towns or offsets"), m_zone);
     QList<SearchMenuRow> rows;
     QHash<QString, ShiftZone> zones;
     const auto choices = m_shifting.zoneChoices();
@@ -287,7 +288,7 @@ void ShiftTimeSheet::chooseZone()
         rows.append(row);
     }
     menu->setRows(rows);
-    menu->setNothingFound(u"No such time zone"_s);
+    menu->setNothingFound(Texts::tr("No such time zone"));
     connect(menu, &SearchMenu::picked, this,
         [this, zones](const SearchMenuRow& row) { m_shifting.setZone(zones.value(row.title + u'\n' + row.code)); });
     menu->open(QRect(m_zone->mapToGlobal(QPoint(0, 0)), m_zone->size()), m_zone->width());
@@ -301,8 +302,8 @@ void ShiftTimeSheet::refresh()
     m_table->setRows(m_shifting.preview().rows);
     refreshNotes();
     const auto count = m_shifting.preview().targets.size();
-    m_shift->setText(
-        m_shifting.way() == TimeShifting::Way::zone ? u"Set Zone of %1"_s.arg(count) : u"Shift "_s + photosText(count));
+    m_shift->setText(m_shifting.way() == TimeShifting::Way::zone ? Texts::tr("Set Zone of %1").arg(count)
+                                                                 : Texts::tr("Shift ") + photosText(count));
     m_shift->updateGeometry();
     m_shift->setEnabled(m_shifting.canShift());
 }
@@ -320,11 +321,12 @@ void ShiftTimeSheet::refreshForms()
     m_amount.at(3)->setBoundText(amount.seconds);
     const QString problem = m_shifting.problem();
     m_help->setRole(problem.isEmpty() ? TextRole::label : TextRole::amberText);
-    m_help->setText(problem.isEmpty() ? u"Date digitized and the other dates of a photo move along."_s : problem);
+    m_help->setText(
+        problem.isEmpty() ? Texts::tr("Date digitized and the other dates of a photo move along.") : problem);
     m_thumbnail->setUrl(m_pairing.seenFile(m_shifting.knownPhoto()));
     m_knownName->setText(m_shifting.knownPhoto().fileName());
     const QString clock = m_shifting.knownClock();
-    m_knownClock->setText(clock.isEmpty() ? u"No date"_s : clock);
+    m_knownClock->setText(clock.isEmpty() ? Texts::tr("No date") : clock);
     m_knownTime->setBoundText(m_shifting.knownTime());
     m_knownTime->setAccessibleDescription(problem);
     m_zone->setChoice(m_shifting.zoneName(m_shifting.zone()));
@@ -337,11 +339,11 @@ void ShiftTimeSheet::refreshNotes()
     const auto seconds = m_shifting.seconds();
     QString note;
     if (m_shifting.unread() > 0)
-        note = u"Reading %1 more…"_s.arg(m_shifting.unread());
+        note = Texts::tr("Reading %1 more…").arg(m_shifting.unread());
     else if (m_shifting.way() == TimeShifting::Way::zone)
         note = m_shifting.zone().isOwn ? QString() : preview.positionsText();
     else if (m_shifting.way() == TimeShifting::Way::knownPhoto && seconds && *seconds != 0)
-        note = u"All others by the same amount: %1."_s.arg(ShiftPreview::amountText(*seconds));
+        note = Texts::tr("All others by the same amount: %1.").arg(ShiftPreview::amountText(*seconds));
     const bool isWrong = m_shifting.way() == TimeShifting::Way::knownPhoto && !m_shifting.problem().isEmpty();
     m_note->setRole(isWrong ? TextRole::amberText : TextRole::label);
     m_note->setText(isWrong ? m_shifting.problem() : note);
@@ -356,7 +358,7 @@ void ShiftTimeSheet::refreshNotes()
 
 QString ShiftTimeSheet::title() const
 {
-    return u"Shift Time of "_s + photosText(m_photos);
+    return Texts::tr("Shift Time of ") + photosText(m_photos);
 }
 
 void ShiftTimeSheet::confirm()

@@ -1,5 +1,6 @@
 #include "ui/sheets/ShortcutsSheet.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
@@ -99,10 +100,10 @@ ShortcutsSheet::ShortcutsSheet(QList<ShortcutGroup> groups, QWidget* parent)
     , m_groups(std::move(groups))
     , m_query(new QBTextField)
     , m_scroll(new KeysArea)
-    , m_none(new ThemedLabel(u"No such shortcut."_s, TextRole::label, 13))
+    , m_none(new ThemedLabel(Texts::tr("No such shortcut."), TextRole::label, 13))
 {
-    m_query->setPlaceholder(u"Search shortcuts…"_s);
-    m_query->setAccessibleName(u"Search shortcuts"_s);
+    m_query->setPlaceholder(Texts::tr("Search shortcuts…"));
+    m_query->setAccessibleName(Texts::tr("Search shortcuts"));
     m_query->setLeadingIcon(u"magnifyingglass"_s);
     m_query->installEventFilter(this);
     connect(m_query, &QLineEdit::textChanged, this, &ShortcutsSheet::find);
@@ -144,8 +145,8 @@ void ShortcutsSheet::build()
         column->addStretch();
     m_scroll->setContent(content);
     m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->setAccessibleName(u"Keyboard shortcuts"_s);
-    auto* done = new QBButton(u"Done"_s, QBButtonKind::primary);
+    m_scroll->setAccessibleName(Texts::tr("Keyboard shortcuts"));
+    auto* done = new QBButton(Texts::tr("Done"), QBButtonKind::primary);
     connect(done, &QAbstractButton::clicked, this, &ShortcutsSheet::closed);
     auto* whole = new QVBoxLayout(this);
     whole->addWidget(m_query);
@@ -201,14 +202,14 @@ void ShortcutsSheet::find()
     m_scroll->setVisible(!found.isEmpty());
     const QString told = found.isEmpty() ? m_none->text()
         : words.isEmpty()                ? QString()
-        : found.size() > mostSpoken      ? u"%1 shortcuts"_s.arg(found.size())
+        : found.size() > mostSpoken      ? Texts::tr("%1 shortcuts").arg(found.size())
                                          : found.join(u"; "_s);
     m_query->setAccessibleDescription(told);
 }
 
 QString ShortcutsSheet::title() const
 {
-    return u"Keyboard Shortcuts"_s;
+    return Texts::tr("Keyboard Shortcuts");
 }
 
 QWidget* ShortcutsSheet::initialFocus()

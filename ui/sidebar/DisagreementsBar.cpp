@@ -1,6 +1,7 @@
 #include "ui/sidebar/DisagreementsBar.h"
 
 #include "app/model/AppModel.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/NoticeLine.h"
 #include "ui/controls/theme/Metrics.h"
@@ -33,14 +34,15 @@ Texts textsOf(const AppModel& model)
     const auto counted = [&](const QString& pattern, qsizetype count) { return pattern.arg(locale.toString(count)); };
     if (found.isLooking) {
         const qsizetype all = model.records().size();
-        const QString far = u"%1 of %2"_s.arg(locale.toString(all - found.unknown), locale.toString(all));
-        return { u"Looking… "_s + far, far };
+        const QString far = Texts::tr("%1 of %2").arg(locale.toString(all - found.unknown), locale.toString(all));
+        return { Texts::tr("Looking… ") + far, far };
     }
-    Texts texts{ counted(found.photos == 1 ? u"%1 photo disagrees"_s : u"%1 photos disagree"_s, found.photos),
-        counted(u"%1 disagree"_s, found.photos) };
+    Texts texts{ counted(found.photos == 1 ? Texts::tr("%1 photo disagrees") : Texts::tr("%1 photos disagree"),
+                     found.photos),
+        counted(Texts::tr("%1 disagree"), found.photos) };
     if (found.unknown > 0) {
-        texts.whole += counted(u" · %1 not looked at yet"_s, found.unknown);
-        texts.brief += counted(u" · %1 unknown"_s, found.unknown);
+        texts.whole += counted(Texts::tr(" · %1 not looked at yet"), found.unknown);
+        texts.brief += counted(Texts::tr(" · %1 unknown"), found.unknown);
     }
     return texts;
 }
@@ -51,7 +53,7 @@ DisagreementsBar::DisagreementsBar(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
     , m_notice(new NoticeLine(lookTitle(), this))
-    , m_close(new QBIconButton(u"xmark"_s, u"Show all photos"_s, this))
+    , m_close(new QBIconButton(u"xmark"_s, Texts::tr("Show all photos"), this))
 {
     m_notice->setRoles(TextRole::text, TextRole::text);
     m_close->setSizes({ closeSide, closeSide }, 10, 2.6, 6);
@@ -68,7 +70,7 @@ DisagreementsBar::DisagreementsBar(AppModel& model, QWidget* parent)
 
 QString DisagreementsBar::lookTitle()
 {
-    return u"Look at them"_s;
+    return Texts::tr("Look at them");
 }
 
 bool DisagreementsBar::canLook(const AppModel& model)

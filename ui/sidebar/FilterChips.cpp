@@ -1,6 +1,7 @@
 #include "ui/sidebar/FilterChips.h"
 
 #include "app/model/library/filter/Filtering.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/keywords/KeywordChip.h"
@@ -51,7 +52,7 @@ FilterChips::FilterChips(Filtering& filtering, QWidget* parent)
     , m_more(new QBTextButton({}, this))
 {
     describeAs(staticMetaObject, QAccessible::List);
-    setAccessibleName(u"Filters"_s);
+    setAccessibleName(Texts::tr("Filters"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_more->hide();
     connect(m_more, &QAbstractButton::clicked, this, &FilterChips::menuAsked);
@@ -153,7 +154,7 @@ void FilterChips::place()
             chip->setGeometry(QRect(flow.put(widths.at(i)), QSize(widths.at(i), px(lineHeight))));
     }
     m_more->setVisible(more > 0);
-    m_more->setAccessibleName(u"%1 more filters"_s.arg(m_chips.size() - m_shown));
+    m_more->setAccessibleName(Texts::tr("%1 more filters").arg(m_chips.size() - m_shown));
     if (more > 0)
         m_more->setGeometry(QRect(flow.put(more), QSize(more, px(lineHeight))));
     setFixedHeight((flow.line + 1) * px(lineHeight));

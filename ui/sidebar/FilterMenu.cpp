@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/RatingEditor.h"
@@ -57,7 +58,7 @@ protected:
 
 QString spokenCount(const QString& what, int count)
 {
-    return (count == 1 ? u"%1, %2 photo"_s : u"%1, %2 photos"_s).arg(what, QLocale().toString(count));
+    return (count == 1 ? Texts::tr("%1, %2 photo") : Texts::tr("%1, %2 photos")).arg(what, QLocale().toString(count));
 }
 
 }  // namespace
@@ -97,11 +98,11 @@ FilterMenu::FilterMenu(AppModel& model, QWidget* opener)
 
 void FilterMenu::build(QVBoxLayout* column)
 {
-    addHeader(column, u"Without"_s, m_unread);
+    addHeader(column, Texts::tr("Without"), m_unread);
     for (const FilterText& text : FilterTexts::gaps())
         addRow(column, text);
     column->addWidget(new Separator);
-    addHeader(column, u"Rating"_s, nullptr);
+    addHeader(column, Texts::tr("Rating"), nullptr);
     addRow(column, FilterTexts::unrated());
     column->addWidget(buildStars());
     column->addWidget(new Separator);
@@ -143,12 +144,12 @@ QWidget* FilterMenu::buildStars()
 {
     auto* holder = new QWidget;
     auto* line = new QHBoxLayout(holder);
-    line->addWidget(new ThemedLabel(u"At least"_s));
+    line->addWidget(new ThemedLabel(Texts::tr("At least")));
     line->addStretch();
     line->addWidget(m_starCount);
     line->addWidget(m_stars);
     m_stars->setSmall(true);
-    m_stars->setToolTip(u"Click the lowest rating to list; click it again for any"_s);
+    m_stars->setToolTip(Texts::tr("Click the lowest rating to list; click it again for any"));
     connect(m_stars, &RatingEditor::valueEdited, this,
         [this](const QString& value) { m_filtering.setLeastStars(value.toInt()); });
     onRestyle(holder, [holder, line] {
@@ -164,8 +165,8 @@ QWidget* FilterMenu::buildField()
     auto* holder = new QWidget;
     auto* line = new QVBoxLayout(holder);
     m_field->setLeadingIcon(u"magnifyingglass"_s);
-    m_field->setPlaceholder(u"Any field contains…"_s);
-    m_field->setAccessibleName(u"Any field contains"_s);
+    m_field->setPlaceholder(Texts::tr("Any field contains…"));
+    m_field->setAccessibleName(Texts::tr("Any field contains"));
     connect(m_field, &QLineEdit::textEdited, &m_filtering, &Filtering::setText);
     line->addWidget(m_field);
     onRestyle(
@@ -186,10 +187,11 @@ void FilterMenu::follow()
     const int least = m_filtering.leastStars();
     const int starred = m_filtering.countOfStars(least);
     m_stars->setValue(QString::number(least));
-    m_stars->setAccessibleName(least > 0 ? spokenCount(FilterTexts::stars(least), starred) : u"At least, any rating"_s);
+    m_stars->setAccessibleName(
+        least > 0 ? spokenCount(FilterTexts::stars(least), starred) : Texts::tr("At least, any rating"));
     m_starCount->setText(least > 0 ? locale.toString(starred) : QString());
     const int unread = m_filtering.unread();
-    m_unread->setText(unread > 0 ? u"%1 not read yet"_s.arg(locale.toString(unread)) : QString());
+    m_unread->setText(unread > 0 ? Texts::tr("%1 not read yet").arg(locale.toString(unread)) : QString());
     m_field->setBoundText(m_filtering.text());
     m_clear->setEnabled(m_filtering.isOn() || !m_filtering.text().isEmpty());
 }

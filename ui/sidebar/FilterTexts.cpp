@@ -1,5 +1,7 @@
 #include "ui/sidebar/FilterTexts.h"
 
+#include "core/language/Texts.h"
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -7,51 +9,51 @@ using namespace Qt::StringLiterals;
 const QList<FilterText>& FilterTexts::gaps()
 {
     static const QList<FilterText> texts{
-        { PhotoTrait::noTitle, u"Title"_s, u"No title"_s },
-        { PhotoTrait::noDescription, u"Description"_s, u"No description"_s },
-        { PhotoTrait::noKeywords, u"Keywords"_s, u"No keywords"_s },
-        { PhotoTrait::noDate, u"Date taken"_s, u"No date taken"_s },
-        { PhotoTrait::noPlace, u"Place"_s, u"No place"_s },
-        { PhotoTrait::noCreator, u"Creator"_s, u"No creator"_s },
-        { PhotoTrait::noCopyright, u"Copyright"_s, u"No copyright"_s },
+        { PhotoTrait::noTitle, Texts::tr("Title"), Texts::tr("No title") },
+        { PhotoTrait::noDescription, Texts::tr("Description"), Texts::tr("No description") },
+        { PhotoTrait::noKeywords, Texts::tr("Keywords"), Texts::tr("No keywords") },
+        { PhotoTrait::noDate, Texts::tr("Date taken"), Texts::tr("No date taken") },
+        { PhotoTrait::noPlace, Texts::tr("Place"), Texts::tr("No place") },
+        { PhotoTrait::noCreator, Texts::tr("Creator"), Texts::tr("No creator") },
+        { PhotoTrait::noCopyright, Texts::tr("Copyright"), Texts::tr("No copyright") },
     };
     return texts;
 }
 
 const FilterText& FilterTexts::unrated()
 {
-    static const FilterText text{ PhotoTrait::unrated, u"Unrated"_s, u"Unrated"_s };
+    static const FilterText text{ PhotoTrait::unrated, Texts::tr("Unrated"), Texts::tr("Unrated") };
     return text;
 }
 
 const QList<FilterText>& FilterTexts::states()
 {
     static const QList<FilterText> texts{
-        { PhotoTrait::edited, u"Edited, not saved"_s, u"Edited, not saved"_s },
-        { PhotoTrait::changed, u"Changed since opened"_s, u"Changed since opened"_s },
-        { PhotoTrait::disagreement, u"Places differ"_s, u"Places differ"_s },
+        { PhotoTrait::edited, Texts::tr("Edited, not saved"), Texts::tr("Edited, not saved") },
+        { PhotoTrait::changed, Texts::tr("Changed since opened"), Texts::tr("Changed since opened") },
+        { PhotoTrait::disagreement, Texts::tr("Places differ"), Texts::tr("Places differ") },
     };
     return texts;
 }
 
 QString FilterTexts::clearTitle()
 {
-    return u"Clear filters"_s;
+    return Texts::tr("Clear filters");
 }
 
 QString FilterTexts::name()
 {
-    return u"Filter images"_s;
+    return Texts::tr("Filter images");
 }
 
 QString FilterTexts::stars(int least)
 {
-    return (least == 1 ? u"At least %1 star"_s : u"At least %1 stars"_s).arg(least);
+    return (least == 1 ? Texts::tr("At least %1 star") : Texts::tr("At least %1 stars")).arg(least);
 }
 
 QString FilterTexts::contains(const QString& text)
 {
-    return u"Contains “%1”"_s.arg(text);
+    return Texts::tr("Contains “%1”").arg(text);
 }
 
 }  // namespace Quorbel

@@ -1,5 +1,6 @@
 #include "ui/sidebar/FolderHeading.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
@@ -59,7 +60,7 @@ void paintName(QPainter& painter, QRectF room, const FolderGroup& group, const T
 
 QString spoken(const FolderGroup& group)
 {
-    const QString photos = group.count == 1 ? u"1 photo"_s : u"%1 photos"_s.arg(group.count);
+    const QString photos = group.count == 1 ? Texts::tr("1 photo") : Texts::tr("%1 photos").arg(group.count);
     return u"%1, %2, %3"_s.arg(text(group), photos, group.isFolded ? u"collapsed"_s : u"expanded"_s);
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/Metrics.h"
@@ -48,13 +49,14 @@ NothingListed::Said NothingListed::said() const
         return {};
     const PhotoFilter& filter = m_model.filtering().filter();
     if (!filter.needle.isEmpty())
-        return { u"No matching photos."_s, false, filter.isLimiting() };
+        return { Texts::tr("No matching photos."), false, filter.isLimiting() };
     if (filter.traits != PhotoTrait::disagreement || filter.stars > 0)
-        return { u"Nothing left"_s, false, true };
+        return { Texts::tr("Nothing left"), false, true };
     const qsizetype unknown = m_model.disagreements().unknown;
     if (unknown == 0)
-        return { u"All places agree"_s, false, false };
-    const QString text = unknown == 1 ? u"%1 photo not looked at yet"_s : u"%1 photos not looked at yet"_s;
+        return { Texts::tr("All places agree"), false, false };
+    const QString text =
+        unknown == 1 ? Texts::tr("%1 photo not looked at yet") : Texts::tr("%1 photos not looked at yet");
     return { text.arg(QLocale().toString(unknown)), DisagreementsBar::canLook(m_model), false };
 }
 

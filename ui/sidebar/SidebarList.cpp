@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
 #include "app/model/thumbnails/ThumbnailStore.h"
+#include "core/language/Texts.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
@@ -53,7 +54,7 @@ SidebarList::SidebarList(AppModel& model, ThumbnailStore* thumbs, QWidget* paren
     setRows(m_rows.rows());
     setModel(&m_rows);
     setItemDelegate(new SidebarDelegate(m_rows, thumbs, this));
-    setAccessibleName(u"Photos"_s);
+    setAccessibleName(Texts::tr("Photos"));
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     OverlayScrollBar::attach(this);

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/pairs/Pairing.h"
+#include "core/language/Texts.h"
 #include "ui/sidebar/FolderHeading.h"
 
 namespace Quorbel {
@@ -47,7 +48,7 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const
 
 QString SidebarModel::toolTip(const ImageRecord& photo) const
 {
-    const QString hint = u"Double-click to open in your default image app"_s;
+    const QString hint = Texts::tr("Double-click to open in your default image app");
     return m_model.pairing().pictureOf(photo.url) ? m_model.pairing().names(photo) + u'\n' + hint : hint;
 }
 

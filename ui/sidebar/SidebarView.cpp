@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
 #include "app/model/pairs/Pairing.h"
+#include "core/language/Texts.h"
 #include "ui/controls/BriefNote.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
@@ -74,7 +75,7 @@ private:
     {
         const QString all = QString::number(m_model.pairing().photos());
         const bool isFiltered = m_model.filtering().isOn();
-        const QString of = isFiltered ? u"%1 of %2"_s.arg(m_model.visibleRows().size()).arg(all) : all;
+        const QString of = isFiltered ? Texts::tr("%1 of %2").arg(m_model.visibleRows().size()).arg(all) : all;
         setText(u"%1 / %2"_s.arg(QString::number(m_model.selection().size()), of));
         update();
     }
@@ -90,10 +91,10 @@ struct SortItem {
 const QList<SortItem>& sortItems()
 {
     static const QList<SortItem> items{
-        { RecordSortOrder::nameAsc, u"Name (A–Z)"_s },
-        { RecordSortOrder::nameDesc, u"Name (Z–A)"_s },
-        { RecordSortOrder::dateNewest, u"Date (newest first)"_s },
-        { RecordSortOrder::dateOldest, u"Date (oldest first)"_s },
+        { RecordSortOrder::nameAsc, Texts::tr("Name (A–Z)") },
+        { RecordSortOrder::nameDesc, Texts::tr("Name (Z–A)") },
+        { RecordSortOrder::dateNewest, Texts::tr("Date (newest first)") },
+        { RecordSortOrder::dateOldest, Texts::tr("Date (oldest first)") },
     };
     return items;
 }
@@ -131,7 +132,7 @@ QWidget* SidebarView::buildHeader()
     auto* line = new QHBoxLayout(header);
     line->setSpacing(0);
     line->addWidget(new CountLabel(m_model), 1);
-    auto* all = new QBTextButton(u"Select all"_s);
+    auto* all = new QBTextButton(Texts::tr("Select all"));
     all->setKeyHint(symbolText(u"⌘A"_s));
     all->setAccessibleName(symbolText(u"Select all ⌘A"_s));
     connect(all, &QAbstractButton::clicked, &m_model, &AppModel::selectAllPhotos);
@@ -149,8 +150,8 @@ QWidget* SidebarView::buildFind()
     auto* line = new QHBoxLayout(m_find);
     m_search = new QBTextField;
     m_search->setLeadingIcon(u"magnifyingglass"_s);
-    m_search->setPlaceholder(u"Search"_s);
-    m_search->setAccessibleName(u"Search"_s);
+    m_search->setPlaceholder(Texts::tr("Search"));
+    m_search->setAccessibleName(Texts::tr("Search"));
     m_search->setBoundText(m_model.search());
     connect(m_search, &QLineEdit::textEdited, &m_model, &AppModel::setSearch);
     m_search->installEventFilter(this);
@@ -159,7 +160,7 @@ QWidget* SidebarView::buildFind()
     m_filter = new QBIconButton(u"line.3.horizontal.decrease"_s, FilterTexts::name());
     connect(m_filter, &QAbstractButton::clicked, this, &SidebarView::openFilterMenu);
     line->addWidget(m_filter);
-    m_sort = new QBIconButton(u"arrow.up.arrow.down"_s, u"Sort images"_s);
+    m_sort = new QBIconButton(u"arrow.up.arrow.down"_s, Texts::tr("Sort images"));
     connect(m_sort, &QAbstractButton::clicked, this, &SidebarView::openSortMenu);
     line->addWidget(m_sort);
     onRestyle(m_find, [this] {
@@ -239,7 +240,7 @@ QWidget* SidebarView::buildDisagreements()
 void SidebarView::openSortMenu()
 {
     auto* menu = new ThemedMenu(this);
-    menu->addHeader(u"Sort by"_s);
+    menu->addHeader(Texts::tr("Sort by"));
     auto* group = new QActionGroup(menu);
     for (const SortItem& item : sortItems()) {
         QAction* action = menu->addAction(item.text);

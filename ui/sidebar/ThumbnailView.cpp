@@ -1,5 +1,6 @@
 #include "ui/sidebar/ThumbnailView.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
@@ -44,7 +45,7 @@ void ThumbnailView::setUrl(const QUrl& url)
     if (url == m_url)
         return;
     m_url = url;
-    setAccessibleName(url.isEmpty() ? QString() : u"Thumbnail of %1"_s.arg(url.fileName()));
+    setAccessibleName(url.isEmpty() ? QString() : Texts::tr("Thumbnail of %1").arg(url.fileName()));
     update();
 }
 

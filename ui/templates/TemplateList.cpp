@@ -1,6 +1,7 @@
 #include "ui/templates/TemplateList.h"
 
 #include "app/model/templates/Templates.h"
+#include "core/language/Texts.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
@@ -78,7 +79,7 @@ TemplateList::TemplateList(Templates& templates, QWidget* parent)
     , m_templates(templates)
 {
     setItemDelegate(new TemplateDelegate(this));
-    setAccessibleName(u"Templates"_s);
+    setAccessibleName(Texts::tr("Templates"));
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -117,8 +118,8 @@ void TemplateList::fill()
         item(i)->setToolTip(value.name);
         item(i)->setData(idRole, all.at(i).id);
         item(i)->setData(digitRole, value.digit);
-        item(i)->setData(
-            Qt::AccessibleTextRole, value.digit > 0 ? u"%1, Ctrl+%2"_s.arg(value.name).arg(value.digit) : value.name);
+        item(i)->setData(Qt::AccessibleTextRole,
+            value.digit > 0 ? Texts::tr("%1, Ctrl+%2").arg(value.name).arg(value.digit) : value.name);
     }
     m_isFilling = false;
     showCurrent();

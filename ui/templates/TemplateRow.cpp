@@ -1,9 +1,10 @@
 #include "ui/templates/TemplateRow.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/keywords/KeywordEditor.h"
+#include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/tokens/TokenEdit.h"
 #include "ui/templates/TokenPieces.h"
@@ -25,15 +26,15 @@ QString titleOf(TemplateMode mode)
 {
     switch (mode) {
     case TemplateMode::set:
-        return u"Set"_s;
+        return Texts::tr("Set");
     case TemplateMode::setIfEmpty:
-        return u"Set if empty"_s;
+        return Texts::tr("Set if empty");
     case TemplateMode::append:
-        return u"Append"_s;
+        return Texts::tr("Append");
     case TemplateMode::prepend:
         break;
     }
-    return u"Prepend"_s;
+    return Texts::tr("Prepend");
 }
 
 }  // namespace
@@ -42,11 +43,11 @@ TemplateRow::TemplateRow(const TemplateField& field, Completions completions, QW
     : QWidget(parent)
     , m_field(field)
     , m_grid(new QGridLayout(this))
-    , m_mode(new ChoicePicker(u"What happens to %1"_s.arg(field.label()), modeWidth))
+    , m_mode(new ChoicePicker(Texts::tr("What happens to %1").arg(field.label()), modeWidth))
 {
     auto* label = new TwoLineLabel(TextRole::label, 13);
     label->setText(field.label());
-    auto* remove = new QBIconButton(u"xmark.circle.fill"_s, u"Remove %1"_s.arg(field.label()));
+    auto* remove = new QBIconButton(u"xmark.circle.fill"_s, Texts::tr("Remove %1").arg(field.label()));
     remove->setSizes({ 16, 30 }, 15);
     m_remove = remove;
     QStringList modes;
@@ -94,7 +95,7 @@ QWidget* TemplateRow::makeText()
 QWidget* TemplateRow::makeItems(const Completions& completions)
 {
     m_items = new KeywordEditor;
-    m_items->setPlaceholder(m_field.key == u"keywords" ? u"Add keyword + ↵"_s : u"Add name + ↵"_s);
+    m_items->setPlaceholder(m_field.key == u"keywords" ? Texts::tr("Add keyword + ↵") : Texts::tr("Add name + ↵"));
     m_items->entry()->setAccessibleName(m_field.label());
     if (completions)
         m_items->setCompletions(completions);

@@ -4,6 +4,7 @@
 #include "app/model/templates/Templates.h"
 #include "app/model/words/CodeReplacements.h"
 #include "core/iptc/IptcSchema.h"
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldLanguages.h"
 #include "ui/controls/Buttons.h"
@@ -126,13 +127,13 @@ TemplatesSheet::TemplatesSheet(AppModel& model, QWidget* parent)
     , m_problems(new WrappedLine(TextRole::amberText, 11, 15))
     , m_none(new WrappedLine(TextRole::label, 13, 19))
     , m_name(new QBTextField)
-    , m_digit(new ChoicePicker(u"Shortcut"_s, digitWidth))
-    , m_add(new QBButton(u"Add field"_s, QBButtonKind::dashed))
+    , m_digit(new ChoicePicker(Texts::tr("Shortcut"), digitWidth))
+    , m_add(new QBButton(Texts::tr("Add field"), QBButtonKind::dashed))
     , m_photo(new ThemedLabel({}, TextRole::label, 11))
-    , m_before(new QBIconButton(u"chevron.right"_s, u"Previous photo"_s))
-    , m_after(new QBIconButton(u"chevron.right"_s, u"Next photo"_s))
+    , m_before(new QBIconButton(u"chevron.right"_s, Texts::tr("Previous photo")))
+    , m_after(new QBIconButton(u"chevron.right"_s, Texts::tr("Next photo")))
     , m_status(new WrappedLine(TextRole::label, 11, 15))
-    , m_fill(new QBButton(u"Fill"_s, QBButtonKind::primary))
+    , m_fill(new QBButton(Texts::tr("Fill"), QBButtonKind::primary))
 {
     m_problems->setVerbatim(true);
     QWidget* form = buildForm();
@@ -144,8 +145,8 @@ TemplatesSheet::TemplatesSheet(AppModel& model, QWidget* parent)
 // Under the list.
 QList<QBIconButton*> TemplatesSheet::makeButtons()
 {
-    auto* add = new QBIconButton(u"plus"_s, u"New template"_s);
-    auto* more = new QBIconButton(u"ellipsis"_s, u"More"_s);
+    auto* add = new QBIconButton(u"plus"_s, Texts::tr("New template"));
+    auto* more = new QBIconButton(u"ellipsis"_s, Texts::tr("More"));
     auto* menu = new ThemedMenu(this);
     connect(add, &QAbstractButton::clicked, this, [this] {
         m_templates.addNew();
@@ -167,21 +168,21 @@ void TemplatesSheet::fillMenu(ThemedMenu* menu)
         connect(menu->addAction(title), &QAction::triggered, this, run);
         menu->actions().constLast()->setEnabled(on);
     };
-    add(u"Duplicate"_s, id > 0, [this, id] {
+    add(Texts::tr("Duplicate"), id > 0, [this, id] {
         Template copy = m_templates.store().find(id)->value();
-        copy.name += u" copy"_s;
+        copy.name += Texts::tr(" copy");
         copy.digit = 0;
         m_templates.choose(m_templates.store().add(copy));
     });
     menu->addSeparator();
-    add(u"Import…"_s, bool(m_templates.panels.import),
+    add(Texts::tr("Import…"), bool(m_templates.panels.import),
         [this] { m_templates.panels.import([this](const QStringList& paths) { m_templates.store().import(paths); }); });
-    add(u"Export…"_s, id > 0 && m_templates.panels.exportTo, [this, id] {
+    add(Texts::tr("Export…"), id > 0 && m_templates.panels.exportTo, [this, id] {
         const QString name = TemplateFile::baseName(m_templates.store().find(id)->value().name) + u".json"_s;
         m_templates.panels.exportTo(name, [this, id](const QString& path) { m_templates.store().exportTo(id, path); });
     });
     menu->addSeparator();
-    add(u"Move to Trash"_s, id > 0, [this, id] { m_templates.store().remove(id); });
+    add(Texts::tr("Move to Trash"), id > 0, [this, id] { m_templates.store().remove(id); });
 }
 
 QWidget* TemplatesSheet::buildForm()
@@ -209,9 +210,10 @@ QWidget* TemplatesSheet::buildForm()
     area->setContent(m_form);
     area->setFocusPolicy(Qt::NoFocus);
     m_form->installEventFilter(area);
-    m_none->setText(u"A template fills fields of the selected photos, with texts that each photo completes. Make one "
-                    "with +, or drop a template's file into the list."_s);
-    auto* done = new QBButton(u"Done"_s, QBButtonKind::secondary);
+    m_none->setText(
+        Texts::tr("A template fills fields of the selected photos, with texts that each photo completes. Make one "
+                  "with +, or drop a template's file into the list."));
+    auto* done = new QBButton(Texts::tr("Done"), QBButtonKind::secondary);
     connect(done, &QAbstractButton::clicked, this, &TemplatesSheet::cancel);
     connect(m_fill, &QAbstractButton::clicked, this, &TemplatesSheet::confirm);
     auto* foot = sheetButtonRow(this, { done, m_fill });
@@ -237,10 +239,10 @@ QWidget* TemplatesSheet::buildNameLine()
 {
     m_nameLine = new QWidget;
     auto* grid = new QGridLayout(m_nameLine);
-    auto* label = new ThemedLabel(u"Name"_s, TextRole::label, 13);
+    auto* label = new ThemedLabel(Texts::tr("Name"), TextRole::label, 13);
     label->setBuddy(m_name);
-    m_name->setAccessibleName(u"Name"_s);
-    QStringList titles{ u"No shortcut"_s };
+    m_name->setAccessibleName(Texts::tr("Name"));
+    QStringList titles{ Texts::tr("No shortcut") };
     for (int digit = 1; digit <= 9; ++digit)
         titles.append(u"Ctrl+%1"_s.arg(digit));
     m_digit->setTitles(titles);
@@ -400,9 +402,10 @@ void TemplatesSheet::showPreview()
 {
     const int count = m_templates.photoCount();
     m_place = qBound(0, m_place, qMax(0, count - 1));
-    m_photo->setText(count == 0 ? u"No photo selected"_s
-                                : u"%1 · %2 of %3"_s.arg(m_templates.photoName(m_place),
-                                    QLocale().toString(m_place + 1), QLocale().toString(count)));
+    m_photo->setText(count == 0
+            ? Texts::tr("No photo selected")
+            : Texts::tr("%1 · %2 of %3")
+                  .arg(m_templates.photoName(m_place), QLocale().toString(m_place + 1), QLocale().toString(count)));
     m_before->setVisible(count > 1);
     m_after->setVisible(count > 1);
     m_before->setEnabled(m_place > 0);
@@ -422,11 +425,12 @@ void TemplatesSheet::showButtons()
 {
     const int count = m_templates.photoCount();
     const int unread = m_model.unreadSelected();
-    m_fill->setText(count == 1 ? u"Fill 1 Photo"_s : u"Fill %1 Photos"_s.arg(QLocale().toString(count)));
+    m_fill->setText(
+        count == 1 ? Texts::tr("Fill 1 Photo") : Texts::tr("Fill %1 Photos").arg(QLocale().toString(count)));
     m_fill->updateGeometry();
     const Template* now = value();
     m_fill->setEnabled(now && !now->fields.isEmpty() && m_templates.canApply());
-    m_status->setText(unread > 0 ? u"Reading %1 more…"_s.arg(QLocale().toString(unread)) : QString());
+    m_status->setText(unread > 0 ? Texts::tr("Reading %1 more…").arg(QLocale().toString(unread)) : QString());
 }
 
 void TemplatesSheet::step(int by)
@@ -452,17 +456,17 @@ void TemplatesSheet::changeField(const TemplateField& field)
 void TemplatesSheet::chooseField()
 {
     const QList<Addable> fields = addableFields(*value());
-    auto* menu = new SearchMenu(u"Add field"_s, u"Search fields…"_s, m_add);
+    auto* menu = new SearchMenu(Texts::tr("Add field"), Texts::tr("Search fields…"), m_add);
     QList<SearchMenuRow> rows;
     for (const Addable& field : fields)
         rows.append(field.row);
     menu->setRows(rows);
-    menu->setNothingFound(u"No field of this name."_s);
+    menu->setNothingFound(Texts::tr("No field of this name."));
     menu->setOther([this](const QString& typed) -> std::optional<SearchMenuRow> {
         const auto name = m_model.storedCustomName(typed);
         if (!name || CustomFields::nameProblem(typed) || value()->indexOf(CustomFields::key(*name)) >= 0)
             return std::nullopt;
-        return SearchMenuRow{ *name, u"custom field"_s };
+        return SearchMenuRow{ *name, Texts::tr("custom field") };
     });
     connect(menu, &SearchMenu::picked, this, [this, fields](const SearchMenuRow& row) {
         const auto same = [&row](const Addable& field) { return field.row == row; };
@@ -486,7 +490,7 @@ void TemplatesSheet::addField(const QString& key)
 
 QString TemplatesSheet::title() const
 {
-    return u"Templates"_s;
+    return Texts::tr("Templates");
 }
 
 void TemplatesSheet::confirm()

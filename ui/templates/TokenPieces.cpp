@@ -1,5 +1,7 @@
 #include "ui/templates/TokenPieces.h"
 
+#include "core/language/Texts.h"
+
 namespace Quorbel::TokenPieces {
 
 using namespace Qt::StringLiterals;
@@ -11,8 +13,8 @@ QString formText(const TokenSpec& spec, const QString& form)
 {
     if (spec.kind == TokenKind::counter) {
         const CounterForm counter = CounterForm::parse(form).value_or(CounterForm());
-        const QString from = u"from "_s + counter.number(0);
-        return counter.step == 1 ? from : from + u", step "_s + QString::number(counter.step);
+        const QString from = Texts::tr("from ") + counter.number(0);
+        return counter.step == 1 ? from : from + Texts::tr(", step ") + QString::number(counter.step);
     }
     return form;
 }
@@ -48,7 +50,7 @@ InlineToken chip(const Token& token)
     const TokenSpec* spec = token.spec();
     QString detail = spec ? formText(*spec, token.form) : QString();
     if (token.otherwise && !token.otherwise->isEmpty())
-        detail += (detail.isEmpty() ? u"or "_s : u" or "_s) + *token.otherwise;
+        detail += (detail.isEmpty() ? Texts::tr("or ") : Texts::tr(" or ")) + *token.otherwise;
     return { spec ? spec->label : token.name, detail, token.pattern() };
 }
 

@@ -1,5 +1,6 @@
 #include "ui/templates/TokenPills.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FlowLayout.h"
 #include "ui/controls/HoverFade.h"
@@ -64,20 +65,20 @@ protected:
 
 TokenPills::TokenPills(QWidget* parent)
     : QWidget(parent)
-    , m_more(new QBTextButton(u"More…"_s))
+    , m_more(new QBTextButton(Texts::tr("More…")))
 {
     auto* flow = new FlowLayout(px(gap), this);
     for (const char* name : { "Date", "Title", "Creator", "Place", "Counter", "Filename" }) {
         const TokenSpec* spec = TokenCatalog::find(QString::fromLatin1(name));
         auto* chip = new TokenPill(spec->label);
         chip->setToolTip(u'%' + spec->name + u'%');
-        chip->setAccessibleName(u"Insert %1"_s.arg(spec->label));
+        chip->setAccessibleName(Texts::tr("Insert %1").arg(spec->label));
         connect(chip, &QAbstractButton::clicked, this, [this, spec] { emit picked({ .name = spec->name }); });
         flow->addWidget(chip);
         m_stops.append(chip);
     }
     m_more->setFocusPolicy(Qt::TabFocus);
-    m_more->setAccessibleName(u"More tokens"_s);
+    m_more->setAccessibleName(Texts::tr("More tokens"));
     connect(m_more, &QAbstractButton::clicked, this, &TokenPills::showAll);
     flow->addWidget(m_more);
     m_stops.append(m_more);
@@ -89,12 +90,12 @@ TokenPills::TokenPills(QWidget* parent)
 
 void TokenPills::showAll()
 {
-    auto* menu = new SearchMenu(u"Tokens"_s, u"Search tokens…"_s, m_more);
+    auto* menu = new SearchMenu(Texts::tr("Tokens"), Texts::tr("Search tokens…"), m_more);
     QList<SearchMenuRow> rows;
     for (const TokenSpec& spec : TokenCatalog::all())
         rows.append({ spec.label, u'%' + spec.name + u'%' });
     menu->setRows(rows);
-    menu->setNothingFound(u"No token of this name."_s);
+    menu->setNothingFound(Texts::tr("No token of this name."));
     connect(menu, &SearchMenu::picked, this,
         [this](const SearchMenuRow& row) { emit picked({ .name = QString(row.code).remove(u'%') }); });
     menu->open(QRect(m_more->mapToGlobal(QPoint(0, 0)), m_more->size()), px(menuWidth));

@@ -1,11 +1,12 @@
 #include "ui/templates/TokenPopover.h"
 
+#include "core/language/Texts.h"
 #include "core/tokens/DateForm.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/FlowLayout.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/theme/Metrics.h"
 
 #include <QGridLayout>
@@ -42,7 +43,7 @@ TokenPopover::TokenPopover(const Token& token, QWidget* opener)
 {
     const TokenSpec* spec = token.spec();
     const QString label = spec ? spec->label : token.name;
-    setAccessibleName(u"Default and form of %1"_s.arg(label));
+    setAccessibleName(Texts::tr("Default and form of %1").arg(label));
     m_grid->setContentsMargins(0, 0, 0, 0);
     m_grid->setColumnStretch(1, 1);
     m_grid->addWidget(new ThemedLabel(label, TextRole::text, 13, QFont::DemiBold), 0, 0, 1, 2);
@@ -59,7 +60,8 @@ TokenPopover::TokenPopover(const Token& token, QWidget* opener)
         addCaseForm();
     if (kind == TokenKind::counter)
         return;
-    QBTextField* otherwise = addField(u"If missing"_s, token.otherwise.value_or(QString()), u"leave a gap"_s);
+    QBTextField* otherwise =
+        addField(Texts::tr("If missing"), token.otherwise.value_or(QString()), Texts::tr("leave a gap"));
     connect(otherwise, &QLineEdit::textEdited, this, [this](const QString& text) {
         m_token.otherwise = text.isEmpty() ? std::nullopt : std::optional(text);
         emit changed(m_token);
@@ -91,7 +93,7 @@ QBTextField* TokenPopover::addField(const QString& title, const QString& text, c
 void TokenPopover::addDateForm()
 {
     const bool isTime = m_token.spec()->kind == TokenKind::time;
-    QBTextField* form = addField(u"Form"_s, m_token.form, isTime ? u"HHmm"_s : u"yyyy-MM-dd"_s);
+    QBTextField* form = addField(Texts::tr("Form"), m_token.form, isTime ? u"HHmm"_s : u"yyyy-MM-dd"_s);
     form->setValidator(new QRegularExpressionValidator(QRegularExpression(u"[^%|]*"_s), form));
     connect(form, &QLineEdit::textEdited, this, &TokenPopover::setForm);
     auto* usual = new QWidget(m_content);
@@ -116,8 +118,8 @@ void TokenPopover::addDateForm()
 void TokenPopover::addCounterForm()
 {
     const CounterForm now = CounterForm::parse(m_token.form).value_or(CounterForm());
-    const QList<std::pair<QString, QString>> rows{ { u"From"_s, QString::number(now.start) },
-        { u"Step"_s, QString::number(now.step) }, { u"Digits"_s, QString::number(now.digits) } };
+    const QList<std::pair<QString, QString>> rows{ { Texts::tr("From"), QString::number(now.start) },
+        { Texts::tr("Step"), QString::number(now.step) }, { Texts::tr("Digits"), QString::number(now.digits) } };
     for (const auto& [title, text] : rows) {
         QBTextField* field = addField(title, text, u"1"_s);
         const bool isDigits = title == u"Digits";
@@ -134,12 +136,12 @@ void TokenPopover::addCounterForm()
 
 void TokenPopover::addCaseForm()
 {
-    auto* picker = new ChoicePicker(u"Letters"_s, 180, m_content);
+    auto* picker = new ChoicePicker(Texts::tr("Letters"), 180, m_content);
     const QStringList forms{ {}, u"upper"_s, u"lower"_s };
-    picker->setTitles({ u"As they are"_s, u"UPPER CASE"_s, u"lower case"_s });
+    picker->setTitles({ Texts::tr("As they are"), Texts::tr("UPPER CASE"), Texts::tr("lower case") });
     picker->setCurrent(qMax(0, int(forms.indexOf(m_token.form.toLower()))));
     connect(picker, &ChoicePicker::picked, this, [this, forms](int i) { setForm(forms.at(i)); });
-    addRow(u"Letters"_s, picker);
+    addRow(Texts::tr("Letters"), picker);
 }
 
 void TokenPopover::setForm(const QString& form)
@@ -155,7 +157,7 @@ void TokenPopover::showExample()
         return;
     const bool isTime = m_token.spec()->kind == TokenKind::time;
     const QString form = m_token.form.trimmed().isEmpty() ? (isTime ? u"HHmm"_s : u"yyyy-MM-dd"_s) : m_token.form;
-    m_example->setText(u"as in “%1”"_s.arg(DateForm::apply(form, sample).value_or(QString())));
+    m_example->setText(Texts::tr("as in “%1”").arg(DateForm::apply(form, sample).value_or(QString())));
 }
 
 int TokenPopover::heightIn(int width)

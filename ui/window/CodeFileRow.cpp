@@ -1,6 +1,7 @@
 #include "ui/window/CodeFileRow.h"
 
 #include "app/model/words/CodeReplacements.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/theme/Metrics.h"
@@ -17,8 +18,8 @@ namespace {
 QString countText(int codes)
 {
     if (codes == 0)
-        return u"There are no codes in this file."_s;
-    return codes == 1 ? u"1 code."_s : u"%1 codes."_s.arg(codes);
+        return Texts::tr("There are no codes in this file.");
+    return codes == 1 ? Texts::tr("1 code.") : Texts::tr("%1 codes.").arg(codes);
 }
 
 }  // namespace
@@ -27,21 +28,22 @@ CodeFileRow::CodeFileRow(CodeReplacements& codes, QWidget* parent)
     : QWidget(parent)
     , m_codes(codes)
     , m_name(new ThemedLabel)
-    , m_choose(new QBButton(u"Choose…"_s))
-    , m_clear(new QBButton(u"Clear"_s))
+    , m_choose(new QBButton(Texts::tr("Choose…")))
+    , m_clear(new QBButton(Texts::tr("Clear")))
     , m_column(new QVBoxLayout(this))
 {
     m_name->setElided(true);
     m_name->setVerbatim(true);
-    m_choose->setAccessibleDescription(u"Choose the file of codes"_s);
-    m_clear->setAccessibleDescription(u"Use no file of codes"_s);
+    m_choose->setAccessibleDescription(Texts::tr("Choose the file of codes"));
+    m_clear->setAccessibleDescription(Texts::tr("Use no file of codes"));
     auto* line = new QHBoxLayout;
     line->addWidget(m_name, 1);
     line->addWidget(m_choose);
     line->addWidget(m_clear);
     auto* help = new WrappedLine(TextRole::label, 11.5, 16);
-    help->setText(u"A text file with a code, a tab and its text in each line. Type =js= in a text or keyword, and js "
-                  "becomes its text at the second “=”; one Undo gives the code back."_s);
+    help->setText(
+        Texts::tr("A text file with a code, a tab and its text in each line. Type =js= in a text or keyword, and js "
+                  "becomes its text at the second “=”; one Undo gives the code back."));
     m_column->addLayout(line);
     m_column->addWidget(help);
     onRestyle(this, [this, line] {
@@ -68,7 +70,7 @@ QStringList CodeFileRow::states() const
 void CodeFileRow::refresh()
 {
     const QString path = m_codes.file();
-    m_name->setText(path.isEmpty() ? u"No file"_s : path.mid(path.lastIndexOf(u'/') + 1));
+    m_name->setText(path.isEmpty() ? Texts::tr("No file") : path.mid(path.lastIndexOf(u'/') + 1));
     m_name->setAccessibleDescription(path);
     m_clear->setEnabled(!path.isEmpty());
     const QStringList states = this->states();

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "core/Product.h"
+#include "core/language/Texts.h"
 #include "platform/desktop/SystemScheme.h"
 #include "ui/closeup/CloseupView.h"
 #include "ui/controls/BriefNote.h"
@@ -263,7 +264,7 @@ void ContentView::saveAndGoOn()
         ? !rows.isEmpty() && m_model.selection().contains(m_model.records().at(rows.constLast()).url)
         : !m_model.canStep(1);
     if (isLast)
-        m_note->say(u"This is the last photo"_s);
+        m_note->say(Texts::tr("This is the last photo"));
     m_model.saveAndGoOn();
 }
 
@@ -276,7 +277,7 @@ void ContentView::takeFromPhotoBefore()
     m_model.takeFromPhotoBefore(keptField()->current());
     disconnect(watch);
     if (!isTaken)
-        m_note->say(u"Nothing else in the photo before"_s);
+        m_note->say(Texts::tr("Nothing else in the photo before"));
 }
 
 void ContentView::toggleCloseup()

@@ -1,6 +1,7 @@
 #include "ui/window/ErrorBanner.h"
 
 #include "app/model/AppModel.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/SelectableText.h"
 #include "ui/controls/theme/Icon.h"
@@ -58,10 +59,10 @@ ErrorBanner::ErrorBanner(AppModel& model, QWidget* parent)
     , m_shadow(new BannerShadow(parent))
     , m_text(new SelectableText(this))
     , m_offer(new QBTextButton(QString(), this))
-    , m_close(new QBIconButton(u"xmark"_s, u"Dismiss"_s, this))
+    , m_close(new QBIconButton(u"xmark"_s, Texts::tr("Dismiss"), this))
 {
     hide();
-    m_text->setAccessibleName(u"Message"_s);
+    m_text->setAccessibleName(Texts::tr("Message"));
     m_close->setSizes({ crossSize, crossSize }, 14, 0, 6);
     m_close->setQuiet(true);
     connect(m_close, &QAbstractButton::clicked, &model, [&model] { model.setErrorMessage(std::nullopt); });

@@ -1,5 +1,6 @@
 #include "ui/window/HelpView.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/ScrollArea.h"
@@ -187,7 +188,7 @@ public:
         setFrameShape(NoFrame);
         setItemDelegate(new TopicDelegate(this));
         setMouseTracking(true);
-        setAccessibleName(u"Topics"_s);
+        setAccessibleName(Texts::tr("Topics"));
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         viewport()->setAutoFillBackground(false);
         for (const HelpTopic topic : allCases<HelpTopic>())
@@ -200,7 +201,7 @@ public:
 };
 
 HelpView::HelpView(QWidget* parent)
-    : SideWindow(u"Quorbel Help"_s, parent)
+    : SideWindow(Texts::tr("Quorbel Help"), parent)
     , m_topics(new TopicList(this))
     , m_page(new ScrollArea(this))
 {

@@ -1,6 +1,7 @@
 #include "ui/window/LaunchView.h"
 
 #include "app/model/AppModel.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/Toggles.h"
@@ -109,7 +110,7 @@ protected:
     }
 
 private:
-    static QString text() { return u"Drag a folder or image here"_s; }
+    static QString text() { return Texts::tr("Drag a folder or image here"); }
 
     void paintBox(QPainter& painter, const Theme& theme) const
     {
@@ -133,8 +134,8 @@ LaunchView::LaunchView(AppModel& model, QWidget* parent)
     , m_subfolders(buildSubfolders(model))
     , m_progress(new ProgressFoot(model, this))
 {
-    auto* folder = new QBButton(u"Open Folder…"_s, QBButtonKind::primary);
-    auto* image = new QBButton(u"Open Image…"_s, QBButtonKind::secondary);
+    auto* folder = new QBButton(Texts::tr("Open Folder…"), QBButtonKind::primary);
+    auto* image = new QBButton(Texts::tr("Open Image…"), QBButtonKind::secondary);
     connect(folder, &QAbstractButton::clicked, &model, &AppModel::openPanel);
     connect(image, &QAbstractButton::clicked, &model, &AppModel::openPanel);
 
@@ -163,7 +164,7 @@ QWidget* LaunchView::buildSubfolders(AppModel& model)
 {
     Setting<bool>& setting = model.preferences().openSubfolders;
     auto* toggle = new QBSwitch;
-    auto* name = new SwitchName(u"Open with subfolders"_s, toggle);
+    auto* name = new SwitchName(Texts::tr("Open with subfolders"), toggle);
     toggle->setAccessibleName(name->text());
     toggle->setChecked(setting());
     connect(toggle, &QAbstractButton::toggled, &model, [&setting](bool on) { setting.set(on); });

@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/pairs/Pairing.h"
 #include "app/model/thumbnails/ThumbnailStore.h"
+#include "core/language/Texts.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Shadow.h"
 #include "ui/controls/theme/Theme.h"
@@ -34,7 +35,7 @@ constexpr int mostCards = 3;
 
 QString thumbnailOnly()
 {
-    return u"Thumbnail only"_s;
+    return Texts::tr("Thumbnail only");
 }
 
 QSizeF scaledToUi(QSizeF points)
@@ -103,8 +104,8 @@ void PreviewColumnView::follow()
     m_urls = shownUrls();
     const ImageRecord* photo = m_model.primaryRecord();
     const QString word = isStandIn() ? u", "_s + thumbnailOnly().toLower() : QString();
-    setAccessibleName(m_model.isBatch() ? u"%1 photos selected"_s.arg(m_model.selection().size())
-            : photo                     ? u"Preview of %1"_s.arg(m_model.pairing().names(*photo)) + word
+    setAccessibleName(m_model.isBatch() ? Texts::tr("%1 photos selected").arg(m_model.selection().size())
+            : photo                     ? Texts::tr("Preview of %1").arg(m_model.pairing().names(*photo)) + word
                                         : QString());
     // The newest request is served first: the front photo is asked for last.
     if (m_thumbs && isVisible())
@@ -198,7 +199,7 @@ void PreviewColumnView::paintCards(QPainter& painter)
     painter.setFont(sansFont(13));
     painter.setPen(theme.derived.label);
     painter.drawText(QRectF(stage().left(), front.bottom() + textTop, stage().width(), textHeight), Qt::AlignCenter,
-        u"%1 photos selected"_s.arg(m_model.selection().size()));
+        Texts::tr("%1 photos selected").arg(m_model.selection().size()));
 }
 
 void PreviewColumnView::paintCard(QPainter& painter, const QRectF& card, const QUrl& url, int slot)

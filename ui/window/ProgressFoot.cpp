@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/renaming/PhotosRenaming.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/AnimatedValue.h"
@@ -72,8 +73,8 @@ ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
     , m_text(new ThemedLabel({}, TextRole::text, 12))
-    , m_skip(new QBTextButton(u"Skip"_s))
-    , m_cancel(new QBTextButton(u"Cancel"_s))
+    , m_skip(new QBTextButton(Texts::tr("Skip")))
+    , m_cancel(new QBTextButton(Texts::tr("Cancel")))
     , m_bar(new ProgressBar(this))
 {
     auto* column = new QVBoxLayout(this);
@@ -158,15 +159,15 @@ QString ProgressFoot::shownText() const
 {
     const Progress progress = m_model.progress().value_or(Progress());
     if (const auto stalled = m_model.stalledFile())
-        return u"Stuck at %1"_s.arg(*stalled);
+        return Texts::tr("Stuck at %1").arg(*stalled);
     if (progress.total == 0 && !isWriting())
-        return u"Looking for photos…"_s;
+        return Texts::tr("Looking for photos…");
     const QLocale locale;
-    const QString reading = progress.isSurvey ? u"Looking at %1 of %2 photos…"_s
-        : progress.isFill                     ? u"Filling in %1 of %2 photos…"_s
-                                              : u"Reading %1 of %2 photos…"_s;
+    const QString reading = progress.isSurvey ? Texts::tr("Looking at %1 of %2 photos…")
+        : progress.isFill                     ? Texts::tr("Filling in %1 of %2 photos…")
+                                              : Texts::tr("Reading %1 of %2 photos…");
     const QString writing =
-        m_model.renaming().isRunning() ? u"Renaming %1 of %2 photos…"_s : u"Saving %1 of %2 photos…"_s;
+        m_model.renaming().isRunning() ? Texts::tr("Renaming %1 of %2 photos…") : Texts::tr("Saving %1 of %2 photos…");
     const QString pattern = isWriting() ? writing : reading;
     return pattern.arg(locale.toString(progress.done), locale.toString(progress.total));
 }

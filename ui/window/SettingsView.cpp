@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/words/CodeReplacements.h"
+#include "core/language/Texts.h"
 #include "platform/places/search/PlaceProvider.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
@@ -114,7 +115,7 @@ int indexOf(std::optional<ColorScheme> scheme)
 }  // namespace
 
 SettingsView::SettingsView(AppModel& model, QWidget* parent)
-    : SideWindow(u"Settings"_s, parent)
+    : SideWindow(Texts::tr("Settings"), parent)
     , m_model(model)
 {
     describeAs(staticMetaObject, QAccessible::Dialog);
@@ -148,53 +149,54 @@ QSize SettingsView::sizeHint() const
 
 void SettingsView::addDisplay(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, u"Display"_s);
-    group->addRow(u"Appearance"_s, appearancePicker());
-    group->addRow(u"Show namespace details"_s, toggle(u"Show namespace details"_s, m_model.preferences().showNamespace),
-        u"Adds the source tags (EXIF / IPTC / XMP) under each field."_s);
+    Group* group = addGroup(column, Texts::tr("Display"));
+    group->addRow(Texts::tr("Appearance"), appearancePicker());
+    group->addRow(Texts::tr("Show namespace details"),
+        toggle(Texts::tr("Show namespace details"), m_model.preferences().showNamespace),
+        Texts::tr("Adds the source tags (EXIF / IPTC / XMP) under each field."));
 }
 
 void SettingsView::addSaving(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, u"Saving"_s);
-    group->addRow(u"Back up original before writing"_s,
-        toggle(u"Back up original before writing"_s, m_model.preferences().backupOriginals));
-    group->addRow(u"Confirm before mass-applying to multiple files"_s,
-        toggle(u"Confirm before mass-applying to multiple files"_s, m_model.preferences().confirmMassEdit));
-    group->addRow(u"Also write a sidecar .xmp file"_s,
-        toggle(u"Also write a sidecar .xmp file"_s, m_model.preferences().writeSidecar),
-        u"Mirrors XMP metadata into <name>.xmp next to each image."_s);
+    Group* group = addGroup(column, Texts::tr("Saving"));
+    group->addRow(Texts::tr("Back up original before writing"),
+        toggle(Texts::tr("Back up original before writing"), m_model.preferences().backupOriginals));
+    group->addRow(Texts::tr("Confirm before mass-applying to multiple files"),
+        toggle(Texts::tr("Confirm before mass-applying to multiple files"), m_model.preferences().confirmMassEdit));
+    group->addRow(Texts::tr("Also write a sidecar .xmp file"),
+        toggle(Texts::tr("Also write a sidecar .xmp file"), m_model.preferences().writeSidecar),
+        Texts::tr("Mirrors XMP metadata into <name>.xmp next to each image."));
 }
 
 void SettingsView::addRenaming(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, u"Renaming"_s);
-    group->addRow(u"Filename pattern"_s, patternField(),
-        u"Tokens: %Date% %Time% %Title% %Creator% %Place% %Original%. The extension is kept "
-        "automatically."_s);
-    group->addRow(u"Strip special characters"_s,
-        toggle(u"Strip special characters"_s, m_model.preferences().stripSpecialChars),
-        u"Keeps only letters and numbers (accents become plain, e.g. Café → Cafe). Off leaves "
-        "characters like @ and ' in place."_s);
+    Group* group = addGroup(column, Texts::tr("Renaming"));
+    group->addRow(Texts::tr("Filename pattern"), patternField(),
+        Texts::tr("Tokens: %Date% %Time% %Title% %Creator% %Place% %Original%. The extension is kept "
+                  "automatically."));
+    group->addRow(Texts::tr("Strip special characters"),
+        toggle(Texts::tr("Strip special characters"), m_model.preferences().stripSpecialChars),
+        Texts::tr("Keeps only letters and numbers (accents become plain, e.g. Café → Cafe). Off leaves "
+                  "characters like @ and ' in place."));
 }
 
 void SettingsView::addRawFiles(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, u"Raw files"_s);
-    group->addRow(homeRow(u"Edits of raw photos"_s, m_model.preferences().rawBeside,
-        u"Edits are written into the raw file, as into other photos."_s,
-        u"The raw file stays untouched. Other programs find the words in the sidecar."_s));
-    group->addRow(homeRow(u"Edits of DNG photos"_s, m_model.preferences().dngBeside,
-        u"DNG is made to hold metadata, so it is written as other photos are."_s,
-        u"The DNG file stays untouched. Other programs find the words in the sidecar."_s));
+    Group* group = addGroup(column, Texts::tr("Raw files"));
+    group->addRow(homeRow(Texts::tr("Edits of raw photos"), m_model.preferences().rawBeside,
+        Texts::tr("Edits are written into the raw file, as into other photos."),
+        Texts::tr("The raw file stays untouched. Other programs find the words in the sidecar.")));
+    group->addRow(homeRow(Texts::tr("Edits of DNG photos"), m_model.preferences().dngBeside,
+        Texts::tr("DNG is made to hold metadata, so it is written as other photos are."),
+        Texts::tr("The DNG file stays untouched. Other programs find the words in the sidecar.")));
     group->addRow(namingRow());
 }
 
 QWidget* SettingsView::homeRow(
     const QString& name, Setting<bool>& isBeside, const QString& inside, const QString& beside)
 {
-    auto* row = new ChoiceRow(name, { u"Into the file"_s, u"Beside it"_s });
-    row->picker().setSpoken({ u"Write into the file"_s, u"Write beside it"_s });
+    auto* row = new ChoiceRow(name, { Texts::tr("Into the file"), Texts::tr("Beside it") });
+    row->picker().setSpoken({ Texts::tr("Write into the file"), Texts::tr("Write beside it") });
     const auto show = [=, &isBeside] {
         row->picker().setCurrentIndex(isBeside() ? 1 : 0);
         row->setHelp(isBeside() ? beside : inside);
@@ -207,9 +209,9 @@ QWidget* SettingsView::homeRow(
 
 QWidget* SettingsView::namingRow()
 {
-    auto* row = new ChoiceRow(u"Name of new sidecars"_s, { u"IMG_1.xmp"_s, u"IMG_1.CR3.xmp"_s });
+    auto* row = new ChoiceRow(Texts::tr("Name of new sidecars"), { u"IMG_1.xmp"_s, u"IMG_1.CR3.xmp"_s });
     row->picker().setMono(true);
-    row->setHelp(u"A sidecar that is already there keeps its name."_s);
+    row->setHelp(Texts::tr("A sidecar that is already there keeps its name."));
     Setting<SidecarNaming>& naming = m_model.preferences().sidecarNaming;
     const auto show = [row, &naming] { row->picker().setCurrentIndex(naming() == SidecarNaming::full ? 1 : 0); };
     connect(&m_model.preferences(), &Preferences::changed, row, show);
@@ -221,21 +223,21 @@ QWidget* SettingsView::namingRow()
 
 void SettingsView::addPlaces(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, u"Places"_s);
-    group->addRow(u"Online place service"_s, placeServiceField(),
-        u"Empty: places are looked up on this computer alone. With the https address of a "
-        "Photon-compatible service, what you type in the Place field is sent there; places known here "
-        "still come first. Takes effect at the next start."_s);
+    Group* group = addGroup(column, Texts::tr("Places"));
+    group->addRow(Texts::tr("Online place service"), placeServiceField(),
+        Texts::tr("Empty: places are looked up on this computer alone. With the https address of a "
+                  "Photon-compatible service, what you type in the Place field is sent there; places known here "
+                  "still come first. Takes effect at the next start."));
 }
 
 void SettingsView::addCodes(QVBoxLayout* column)
 {
-    addGroup(column, u"Code replacements"_s)->addRow(new CodeFileRow(m_model.codes()));
+    addGroup(column, Texts::tr("Code replacements"))->addRow(new CodeFileRow(m_model.codes()));
 }
 
 QWidget* SettingsView::appearancePicker()
 {
-    auto* picker = new SegmentedPicker({ u"System"_s, u"Light"_s, u"Dark"_s });
+    auto* picker = new SegmentedPicker({ Texts::tr("System"), Texts::tr("Light"), Texts::tr("Dark") });
     const auto show = [this, picker] { picker->setCurrentIndex(indexOf(m_model.preferences().colorOverride())); };
     connect(&m_model.preferences(), &Preferences::changed, picker, show);
     show();
@@ -270,7 +272,7 @@ QWidget* SettingsView::placeServiceField()
         const QString address = text.trimmed();
         const bool isUsable = address.isEmpty() || placeEndpoint(address);
         field->setEdited(!isUsable);
-        field->setToolTip(isUsable ? QString() : u"Not used: this is no https address."_s);
+        field->setToolTip(isUsable ? QString() : Texts::tr("Not used: this is no https address."));
         if (isUsable)
             m_model.preferences().placeService.set(address);
     });

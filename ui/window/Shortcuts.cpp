@@ -1,5 +1,7 @@
 #include "ui/window/Shortcuts.h"
 
+#include "core/language/Texts.h"
+
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
@@ -71,34 +73,34 @@ void take(const QMenu& menu, const QString& name, QList<Shortcut>& rows)
 
 ShortcutGroup inList()
 {
-    return { u"In the list of photos"_s,
+    return { Texts::tr("In the list of photos"),
         {
-            { u"Next or previous photo"_s, { Qt::Key_Down, Qt::Key_Up } },
-            { u"A page further or back"_s, { Qt::Key_PageDown, Qt::Key_PageUp } },
-            { u"First or last photo"_s, { Qt::Key_Home, Qt::Key_End } },
-            { u"Select up to there"_s, { Qt::SHIFT | Qt::Key_Down, Qt::SHIFT | Qt::Key_Up } },
-            { u"Go there without selecting"_s, { Qt::CTRL | Qt::Key_Down, Qt::CTRL | Qt::Key_Up } },
-            { u"Add to the selection, or take out"_s, { Qt::CTRL | Qt::Key_Space } },
-            { u"Look closely"_s, { Qt::Key_Space } },
-            digits(u"Rate"_s),
-            { u"Open in the default application"_s, { Qt::Key_Return } },
-            { u"Find by the beginning of the name"_s, range(Qt::Key_A, Qt::Key_Z), true },
-            { u"Fold or unfold a folder"_s, { Qt::Key_Left, Qt::Key_Right } },
-            { u"Fold or unfold all folders"_s, { Qt::ALT | Qt::Key_Left, Qt::ALT | Qt::Key_Right } },
+            { Texts::tr("Next or previous photo"), { Qt::Key_Down, Qt::Key_Up } },
+            { Texts::tr("A page further or back"), { Qt::Key_PageDown, Qt::Key_PageUp } },
+            { Texts::tr("First or last photo"), { Qt::Key_Home, Qt::Key_End } },
+            { Texts::tr("Select up to there"), { Qt::SHIFT | Qt::Key_Down, Qt::SHIFT | Qt::Key_Up } },
+            { Texts::tr("Go there without selecting"), { Qt::CTRL | Qt::Key_Down, Qt::CTRL | Qt::Key_Up } },
+            { Texts::tr("Add to the selection, or take out"), { Qt::CTRL | Qt::Key_Space } },
+            { Texts::tr("Look closely"), { Qt::Key_Space } },
+            digits(Texts::tr("Rate")),
+            { Texts::tr("Open in the default application"), { Qt::Key_Return } },
+            { Texts::tr("Find by the beginning of the name"), range(Qt::Key_A, Qt::Key_Z), true },
+            { Texts::tr("Fold or unfold a folder"), { Qt::Key_Left, Qt::Key_Right } },
+            { Texts::tr("Fold or unfold all folders"), { Qt::ALT | Qt::Key_Left, Qt::ALT | Qt::Key_Right } },
         } };
 }
 
 ShortcutGroup inCloseup()
 {
-    return { u"Looking closely"_s,
+    return { Texts::tr("Looking closely"),
         {
-            { u"Next or previous photo, at the same place"_s, { Qt::Key_Right, Qt::Key_Left } },
-            { u"Every pixel, or the whole photo"_s, { Qt::Key_Z } },
-            { u"Larger or smaller"_s, { Qt::Key_Plus, Qt::Key_Minus } },
-            { u"Move the photo across"_s, { Qt::SHIFT | Qt::Key_Left, Qt::SHIFT | Qt::Key_Right } },
-            { u"Move the photo up or down"_s, { Qt::SHIFT | Qt::Key_Up, Qt::SHIFT | Qt::Key_Down } },
-            digits(u"Rate"_s),
-            { u"Back to the list"_s, { Qt::Key_Escape, Qt::Key_Space } },
+            { Texts::tr("Next or previous photo, at the same place"), { Qt::Key_Right, Qt::Key_Left } },
+            { Texts::tr("Every pixel, or the whole photo"), { Qt::Key_Z } },
+            { Texts::tr("Larger or smaller"), { Qt::Key_Plus, Qt::Key_Minus } },
+            { Texts::tr("Move the photo across"), { Qt::SHIFT | Qt::Key_Left, Qt::SHIFT | Qt::Key_Right } },
+            { Texts::tr("Move the photo up or down"), { Qt::SHIFT | Qt::Key_Up, Qt::SHIFT | Qt::Key_Down } },
+            digits(Texts::tr("Rate")),
+            { Texts::tr("Back to the list"), { Qt::Key_Escape, Qt::Key_Space } },
         } };
 }
 
@@ -133,27 +135,28 @@ ShortcutGroup Shortcuts::in(ShortcutPlace place)
     case ShortcutPlace::list:
         return inList();
     case ShortcutPlace::field:
-        return { u"In a field"_s,
-            { { u"Show its other languages, or add one"_s, { Qt::ALT | Qt::Key_Right } },
-                { u"Hide its other languages"_s, { Qt::ALT | Qt::Key_Left } } } };
+        return { Texts::tr("In a field"),
+            { { Texts::tr("Show its other languages, or add one"), { Qt::ALT | Qt::Key_Right } },
+                { Texts::tr("Hide its other languages"), { Qt::ALT | Qt::Key_Left } } } };
     case ShortcutPlace::keywords:
-        return { u"In the keywords"_s,
-            { { u"Add what was typed"_s, { Qt::Key_Return } },
-                { u"From the entry to the last keyword"_s, { Qt::Key_Left, Qt::Key_Backspace } },
-                { u"Take that keyword away"_s, { Qt::Key_Delete } } } };
+        return { Texts::tr("In the keywords"),
+            { { Texts::tr("Add what was typed"), { Qt::Key_Return } },
+                { Texts::tr("From the entry to the last keyword"), { Qt::Key_Left, Qt::Key_Backspace } },
+                { Texts::tr("Take that keyword away"), { Qt::Key_Delete } } } };
     case ShortcutPlace::stars:
-        return { u"On the stars"_s,
-            { digits(u"Rate"_s), { u"One star more or fewer"_s, { Qt::Key_Right, Qt::Key_Left } } } };
+        return { Texts::tr("On the stars"),
+            { digits(Texts::tr("Rate")), { Texts::tr("One star more or fewer"), { Qt::Key_Right, Qt::Key_Left } } } };
     case ShortcutPlace::search:
-        return { u"While searching"_s,
-            { { u"Go to what was found"_s, { Qt::Key_Down, Qt::Key_Return } },
-                { u"Show all photos again"_s, { Qt::Key_Escape } } } };
+        return { Texts::tr("While searching"),
+            { { Texts::tr("Go to what was found"), { Qt::Key_Down, Qt::Key_Return } },
+                { Texts::tr("Show all photos again"), { Qt::Key_Escape } } } };
     case ShortcutPlace::closeup:
         return inCloseup();
     case ShortcutPlace::sheet:
         break;
     }
-    return { u"In a sheet"_s, { { u"Confirm"_s, { Qt::Key_Return } }, { u"Cancel"_s, { Qt::Key_Escape } } } };
+    return { Texts::tr("In a sheet"),
+        { { Texts::tr("Confirm"), { Qt::Key_Return } }, { Texts::tr("Cancel"), { Qt::Key_Escape } } } };
 }
 
 QList<ShortcutGroup> Shortcuts::inPlaces()

@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
 #include "core/Product.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/ThemedMenuBar.h"
@@ -31,12 +32,13 @@ constexpr qreal leastTitle = 60;  // in less than that nothing could be read
 QString watchingText(const Watching& watching)
 {
     if (watching.how == Watching::How::looking)
-        return (watching.folders == 1 ? u"This folder does not report changes; %1 looks every few seconds."_s
-                                      : u"Not all of these folders report changes; %1 looks every few seconds."_s)
+        return (watching.folders == 1
+                ? Texts::tr("This folder does not report changes; %1 looks every few seconds.")
+                : Texts::tr("Not all of these folders report changes; %1 looks every few seconds."))
             .arg(Product::name());
     if (watching.how == Watching::How::partly)
-        return u"Only %1 of %2 folders report changes. Refresh to see what changed in the others."_s.arg(
-            QString::number(watching.watched), QString::number(watching.folders));
+        return Texts::tr("Only %1 of %2 folders report changes. Refresh to see what changed in the others.")
+            .arg(QString::number(watching.watched), QString::number(watching.folders));
     return {};
 }
 
@@ -53,11 +55,11 @@ WindowBar::WindowBar(AppModel& model, QWidget* parent)
     m_line->addWidget(m_tools);
 
     auto* tools = new QHBoxLayout(m_tools);
-    m_refresh = addTool(tools, u"arrow.clockwise"_s, u"Refresh folder"_s);
+    m_refresh = addTool(tools, u"arrow.clockwise"_s, Texts::tr("Refresh folder"));
     connect(m_refresh, &QAbstractButton::clicked, &model, &AppModel::refresh);
-    m_preview = addTool(tools, u"rectangle.split.2x1"_s, u"Show preview"_s);
+    m_preview = addTool(tools, u"rectangle.split.2x1"_s, Texts::tr("Show preview"));
     connect(m_preview, &QAbstractButton::clicked, this, &WindowBar::previewToggled);
-    m_settings = addTool(tools, u"ellipsis"_s, u"Settings"_s);
+    m_settings = addTool(tools, u"ellipsis"_s, Texts::tr("Settings"));
     connect(m_settings, &QAbstractButton::clicked, this, &WindowBar::openSettingsMenu);
     m_save = new QBButton(InspectorStates::saveTitle(model), QBButtonKind::primary);
     connect(m_save, &QAbstractButton::clicked, &model, &AppModel::requestSave);
@@ -107,7 +109,7 @@ QSize WindowBar::sizeHint() const
 
 void WindowBar::setPreviewShown(bool shown)
 {
-    m_preview->setName(shown ? u"Hide preview"_s : u"Show preview"_s);
+    m_preview->setName(shown ? Texts::tr("Hide preview") : Texts::tr("Show preview"));
     m_preview->setHighlighted(shown);
 }
 
@@ -142,9 +144,9 @@ void WindowBar::openSettingsMenu()
         connect(action, &QAction::toggled, &m_model, [&setting](bool on) { setting.set(on); });
     };
     Preferences& preferences = m_model.preferences();
-    add(u"Show namespace details"_s, preferences.showNamespace);
-    add(u"Back up originals before writing"_s, preferences.backupOriginals);
-    add(u"Also write sidecar .xmp"_s, preferences.writeSidecar);
+    add(Texts::tr("Show namespace details"), preferences.showNamespace);
+    add(Texts::tr("Back up originals before writing"), preferences.backupOriginals);
+    add(Texts::tr("Also write sidecar .xmp"), preferences.writeSidecar);
     menu->popUpUnder(m_settings, Qt::AlignRight, true);
 }
 

@@ -1,5 +1,6 @@
 #include "app/model/edits/OwnSummary.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 
 namespace Quorbel {
@@ -50,12 +51,12 @@ QMap<QString, OwnSummary> OwnSummary::of(const QHash<QUrl, OwnEdits>& own)
 
 QString OwnSummary::told(qsizetype selected) const
 {
-    QString what = u"different items"_s;
+    QString what = Texts::tr("different items");
     if (texts > 1)
-        what = u"%1 different texts"_s.arg(texts);
+        what = Texts::tr("%1 different texts").arg(texts);
     else if (texts == 1)
         what = text.isEmpty() ? u"emptied"_s : u'“' + text + u'”';
-    return photos == selected && texts > 1 ? what : what + u" in %1 of %2"_s.arg(photos).arg(selected);
+    return photos == selected && texts > 1 ? what : what + Texts::tr(" in %1 of %2").arg(photos).arg(selected);
 }
 
 }  // namespace Quorbel

@@ -1,5 +1,6 @@
 #include "app/model/fieldsets/FieldSet.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldSchema.h"
 
@@ -55,30 +56,31 @@ const QStringList& formOrder()
 const QList<FieldSet>& builtIn()
 {
     static const QList<FieldSet> sets{
-        described(
-            u"Captions"_s, u"title* description* iptc.altText keywords* headline people captionWriter date place"_s),
-        described(u"Press"_s,
+        described(Texts::mark("Captions"),
+            u"title* description* iptc.altText keywords* headline people captionWriter date place"_s),
+        described(Texts::mark("Press"),
             u"title headline* description* iptc.altText keywords* date* creator* iptc.jobTitle credit* copyright* "
             u"source "
             u"place* state country* iptc.countryCode sublocation event instructions jobId captionWriter usageTerms "
             u"iptc.contact people iptc.personsShown iptc.organisationNames iptc.eventIds iptc.digitalSource"_s),
-        described(u"Museum"_s,
+        described(Texts::mark("Museum"),
             u"title* description* iptc.altText iptc.extendedDescription keywords date creator copyright* credit* "
             u"source "
             u"iptc.artworks* iptc.locationCreated iptc.locationsShown iptc.contributors iptc.copyrightOwners "
             u"iptc.imageGuid iptc.registryEntries"_s),
-        described(u"Stock"_s,
+        described(Texts::mark("Stock"),
             u"title* description* keywords* date creator* copyright* place country credit usageTerms webStatement "
             u"iptc.personsShown iptc.modelAges iptc.minorModelAge iptc.modelInfo iptc.modelReleaseStatus* "
             u"iptc.modelReleaseIds iptc.propertyReleaseStatus* iptc.propertyReleaseIds iptc.productsShown "
             u"iptc.digitalSource* iptc.licensors iptc.suppliers iptc.supplierImageId iptc.maxWidth iptc.maxHeight"_s),
-        described(u"Rights"_s,
+        described(Texts::mark("Rights"),
             u"creator* copyright* credit* source usageTerms* webStatement instructions iptc.jobTitle iptc.contact* "
             u"iptc.copyrightOwners iptc.imageCreators iptc.contributors iptc.otherConstraints iptc.dataMining* "
             u"iptc.propertyReleaseStatus iptc.propertyReleaseIds iptc.modelReleaseStatus iptc.modelReleaseIds "
             u"iptc.licensors iptc.suppliers iptc.supplierImageId iptc.embeddedRights iptc.linkedRights "
             u"iptc.digitalSource"_s),
-        described(u"Accessibility"_s, u"title description* iptc.altText* iptc.extendedDescription keywords people"_s),
+        described(Texts::mark("Accessibility"),
+            u"title description* iptc.altText* iptc.extendedDescription keywords people"_s),
     };
     return sets;
 }

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "core/iptc/FieldAdvice.h"
+#include "core/language/Texts.h"
 #include "core/text/Text.h"
 
 #include <algorithm>
@@ -26,7 +27,7 @@ FieldSets::~FieldSets() = default;
 
 QString FieldSets::usual()
 {
-    return u"Default"_s;
+    return Texts::tr("Default");
 }
 
 QStringList FieldSets::names() const
@@ -217,11 +218,11 @@ std::optional<QString> FieldSets::problem(const QList<Edited>& sets)
     for (const Edited& edited : sets) {
         const QString name = Text::trimmed(edited.set.name);
         if (name.isEmpty())
-            return u"A set needs a name"_s;
+            return Texts::tr("A set needs a name");
         if (taken.contains(name))
-            return u"There are two sets named “%1”"_s.arg(name);
+            return Texts::tr("There are two sets named “%1”").arg(name);
         if (edited.set.fields.isEmpty())
-            return u"“%1” has no fields"_s.arg(name);
+            return Texts::tr("“%1” has no fields").arg(name);
         taken.append(name);
     }
     return std::nullopt;

@@ -1,6 +1,7 @@
 #include "app/model/iptc/CredentialsNotice.h"
 
 #include "app/model/AppModel.h"
+#include "core/language/Texts.h"
 
 namespace Quorbel {
 
@@ -20,8 +21,8 @@ QString CredentialsNotice::text(int photos)
 {
     return photos < 1 ? QString()
         : photos == 1
-        ? u"1 photo has Content Credentials: other programs will report it as changed."_s
-        : u"%1 photos have Content Credentials: other programs will report them as changed."_s.arg(photos);
+        ? Texts::tr("1 photo has Content Credentials: other programs will report it as changed.")
+        : Texts::tr("%1 photos have Content Credentials: other programs will report them as changed.").arg(photos);
 }
 
 void CredentialsNotice::noteWritten(const QList<QUrl>& photos)

@@ -1,6 +1,7 @@
 #include "app/model/library/FolderRefresh.h"
 
 #include "app/model/Background.h"
+#include "core/language/Texts.h"
 
 #include <algorithm>
 
@@ -252,7 +253,7 @@ void FolderRefresh::read(const QList<FolderNews::File>& files, const Take& take)
 void FolderRefresh::skip(QList<FolderNews::File> files, const QUrl& photo, const Take& take)
 {
     m_tooSlow.insert(photo);
-    emit problem(PhotoReader::leftOutText({ { photo.fileName(), u"took too long"_s } }));
+    emit problem(PhotoReader::leftOutText({ { photo.fileName(), Texts::tr("took too long") } }));
     files.removeIf([&photo](const FolderNews::File& file) { return file.url == photo; });
     read(files, take);
 }

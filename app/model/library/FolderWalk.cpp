@@ -1,6 +1,7 @@
 #include "app/model/library/FolderWalk.h"
 
 #include "app/model/library/sidecars/SeenSidecars.h"
+#include "core/language/Texts.h"
 #include "core/save/originals/OriginalsFolder.h"
 #include "core/schema/ImageTypes.h"
 #include "core/text/Text.h"
@@ -195,7 +196,7 @@ void Walk::list(const QString& folder, const Entries& entries)
         const QString path = prefix + inner.text;
         // Qt holds a name as text, and a byte that is none as this character: the name does not lead back.
         if (inner.text.contains(QChar::ReplacementCharacter) && !identity(path))
-            m_found.photos.append({ QUrl::fromLocalFile(path), { {}, u"its name is not UTF-8"_s } });
+            m_found.photos.append({ QUrl::fromLocalFile(path), { {}, Texts::tr("its name is not UTF-8") } });
         else if (!inner.isLink || isWorthFollowing(folder, path))
             enter(path);
     }

@@ -3,6 +3,7 @@
 #include "app/model/BackgroundPieces.h"
 #include "app/model/library/PhotoListing.h"
 #include "app/model/library/cache/RecordCache.h"
+#include "core/language/Texts.h"
 
 #include <algorithm>
 
@@ -201,7 +202,7 @@ void Library::endWalk()
 
 void Library::sayNothingFound(const QList<LeftOut>& leftOut)
 {
-    emit problem(leftOut.isEmpty() ? u"No supported images were found."_s : PhotoReader::leftOutText(leftOut));
+    emit problem(leftOut.isEmpty() ? Texts::tr("No supported images were found.") : PhotoReader::leftOutText(leftOut));
 }
 
 void Library::endListing()
@@ -268,7 +269,7 @@ void Library::awaitFirst(const std::shared_ptr<Load>& load)
     connect(&reading, &PhotoReading::rested, this, &Library::takeFirst);
     connect(&reading, &PhotoReading::failed, this, [this](const QString& reason) {
         dropNext();
-        emit problem(u"Could not read metadata: "_s + reason);
+        emit problem(Texts::tr("Could not read metadata: ") + reason);
     });
     reading.setPace(PhotoReading::Pace::untilFirst);
 }
@@ -287,7 +288,7 @@ void Library::takeFirst()
         forgetNext();
         return m_walk->pieces->setPaused(false);
     }
-    const QString text = m_next->reading->leftOutText().value_or(u"No supported images were found."_s);
+    const QString text = m_next->reading->leftOutText().value_or(Texts::tr("No supported images were found."));
     dropNext();
     emit problem(text);
 }
@@ -461,7 +462,7 @@ void Library::takeRested()
     std::optional<QString> text = m_reading->takeLeftOutText();
     const bool isNothing = m_photos.records().isEmpty() && !m_reading->hasRead();
     if (isNothing && !text)
-        text = u"No supported images were found."_s;
+        text = Texts::tr("No supported images were found.");
     if (isNothing)
         emit nothingReadable();
     if (text)
@@ -474,7 +475,7 @@ void Library::takeFailed(const QString& reason)
     const QList<ImageRecord>& photos = m_photos.records();
     if (std::all_of(photos.cbegin(), photos.cend(), [](const ImageRecord& photo) { return photo.isUnread; }))
         emit nothingReadable();
-    emit problem(u"Could not read metadata: "_s + reason);
+    emit problem(Texts::tr("Could not read metadata: ") + reason);
 }
 
 void Library::setFirst(const std::optional<QUrl>& photo)

@@ -1,5 +1,7 @@
 #include "app/model/library/PhotoFile.h"
 
+#include "core/language/Texts.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -25,11 +27,11 @@ QString reasonFor(int error, const QByteArray& path, const QUrl& url)
 {
     // Qt holds a name as text, and a byte that is none as this character: the name does not lead back.
     if (error == ENOENT && url.fileName().contains(QChar::ReplacementCharacter))
-        return u"its name is not UTF-8"_s;
+        return Texts::tr("its name is not UTF-8");
     struct stat status { };
     const bool isLink = lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
     if (isLink && (error == ENOENT || error == ELOOP))
-        return u"broken link"_s;
+        return Texts::tr("broken link");
     const bool isGone = error == ENOENT || error == ENOTDIR;
     return isGone ? QString() : systemReason(error);
 }

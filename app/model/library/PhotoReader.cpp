@@ -2,6 +2,7 @@
 
 #include "app/model/library/SharedTexts.h"
 #include "app/model/library/cache/RecordCache.h"
+#include "core/language/Texts.h"
 #include "core/text/Text.h"
 
 namespace Quorbel::PhotoReader {
@@ -95,8 +96,8 @@ QString leftOutText(const QList<LeftOut>& files)
     for (const LeftOut& file : files)
         named.append(u"%1 (%2)"_s.arg(file.fileName, file.reason));
     const QString text = files.size() == 1
-        ? u"1 file could not be read and was left out: "_s
-        : QString::number(files.size()) + u" files could not be read and were left out: "_s;
+        ? Texts::tr("1 file could not be read and was left out: ")
+        : QString::number(files.size()) + Texts::tr(" files could not be read and were left out: ");
     return text + Text::listed(named);
 }
 

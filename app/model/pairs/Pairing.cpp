@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/selection/SelectedPhotos.h"
+#include "core/language/Texts.h"
 
 #include <algorithm>
 
@@ -199,7 +200,7 @@ QString Pairing::detailLine(const ImageRecord& photo) const
 QString Pairing::names(const ImageRecord& photo) const
 {
     const ImageRecord* picture = pictureRecord(photo);
-    return picture ? u"%1 and %2"_s.arg(photo.fileName, picture->fileName) : photo.fileName;
+    return picture ? Texts::tr("%1 and %2").arg(photo.fileName, picture->fileName) : photo.fileName;
 }
 
 // --- What a save is about ---

@@ -4,6 +4,7 @@
 #include "app/model/Background.h"
 #include "app/model/library/cache/RecordCache.h"
 #include "app/model/pairs/Pairing.h"
+#include "core/language/Texts.h"
 #include "core/text/Text.h"
 
 #include <QFileInfo>
@@ -49,8 +50,8 @@ std::shared_ptr<const RenameSet> setOf(const QList<ImageRecord>& photos, bool is
 QString keptText(qsizetype kept, qsizetype all)
 {
     if (kept == all)
-        return all == 1 ? u"It keeps its name"_s : u"All photos keep their names"_s;
-    return u"%1 of %2 photos keep their names"_s.arg(kept).arg(all);
+        return all == 1 ? Texts::tr("It keeps its name") : Texts::tr("All photos keep their names");
+    return Texts::tr("%1 of %2 photos keep their names").arg(kept).arg(all);
 }
 
 }  // namespace
@@ -298,7 +299,7 @@ void PhotosRenaming::renameShot(const QList<ImageRecord>& files, const QString& 
     const auto plan = std::make_shared<const RenamePlan>(setOf(files, true)->plan(order));
     for (const RenameRow& row : plan->rows)
         if (row.obstacle != RenameRow::Obstacle::none)
-            return m_model.setErrorMessage(u"Could not rename: %1: %2."_s.arg(row.oldName, row.words()));
+            return m_model.setErrorMessage(Texts::tr("Could not rename: %1: %2.").arg(row.oldName, row.words()));
     if (plan->renamed > 0)
         run(plan);
 }
@@ -317,7 +318,8 @@ void PhotosRenaming::run(const std::shared_ptr<const RenamePlan>& plan)
         [photos](const RenameHistory::Outcome& outcome) {
             const qsizetype kept = photos - outcome.photos.size();
             if (!outcome.problems.isEmpty())
-                return u"Could not rename: %1. %2."_s.arg(Text::listed(outcome.problems), keptText(kept, photos));
+                return Texts::tr("Could not rename: %1. %2.")
+                    .arg(Text::listed(outcome.problems), keptText(kept, photos));
             return outcome.isGivenUp && kept < photos ? keptText(kept, photos) + u'.' : QString();
         });
 }
@@ -362,8 +364,8 @@ void PhotosRenaming::undo()
         [photos = m_undoable.photos](const RenameHistory::Outcome& outcome) {
             const qsizetype kept = photos - outcome.photos.size();
             if (!outcome.problems.isEmpty())
-                return u"Could not undo the rename: %1. %2."_s.arg(
-                    Text::listed(outcome.problems), keptText(kept, photos));
+                return Texts::tr("Could not undo the rename: %1. %2.")
+                    .arg(Text::listed(outcome.problems), keptText(kept, photos));
             return outcome.isGivenUp && kept < photos ? keptText(kept, photos) + u'.' : QString();
         });
 }

@@ -1,6 +1,7 @@
 #include "app/model/saving/SaveHistory.h"
 
 #include "app/model/saving/ReplacedFilesPoll.h"
+#include "core/language/Texts.h"
 #include "core/save/SaveGuard.h"
 #include "core/text/Text.h"
 
@@ -18,7 +19,7 @@ namespace {
 
 QString counted(qsizetype count)
 {
-    return count == 1 ? u"1 photo"_s : u"%1 photos"_s.arg(count);
+    return Texts::tr("%n photo(s)", nullptr, count);
 }
 
 // Those of the photos that are, or link to, one of the files.
@@ -162,14 +163,14 @@ SaveHistory::Undone SaveHistory::undo(const MetadataService& service, qint64 num
     const std::scoped_lock lock(m_mutex);
     Undone undone;
     if (!m_undoing.tryLock()) {
-        undone.error = u"another Quorbel is undoing one at this moment"_s;
+        undone.error = Texts::tr("another Quorbel is undoing one at this moment");
         undone.next = newest();
         return undone;
     }
     const auto unlock = qScopeGuard([this] { m_undoing.unlock(); });
     const auto entry = m_journal.load(number);
     if (!entry) {
-        undone.error = u"it was undone already"_s;
+        undone.error = Texts::tr("it was undone already");
         undone.next = newest();
         return undone;
     }
@@ -219,14 +220,15 @@ void SaveHistory::forgetUndone(qint64 number, const JournalEntry& entry, const U
 QString SaveHistory::name(const Undoable& save)
 {
     if (save.photos == 0)
-        return u"Undo Save"_s;
-    return (save.isTimeShift ? u"Undo Shift Time of "_s : u"Undo Save of "_s)
+        return Texts::tr("Undo Save");
+    return (save.isTimeShift ? Texts::tr("Undo Shift Time of ") : Texts::tr("Undo Save of "))
         + (save.photos == 1 ? u'“' + save.fileName + u'”' : counted(save.photos));
 }
 
 std::optional<QString> SaveHistory::text(const Undone& undone)
 {
-    const QString what = undone.isTimeShift ? u"Could not undo the shift of time"_s : u"Could not undo the save"_s;
+    const QString what =
+        undone.isTimeShift ? Texts::tr("Could not undo the shift of time") : Texts::tr("Could not undo the save");
     if (undone.error)
         return what + u": "_s + *undone.error;
     QStringList texts;
@@ -234,20 +236,21 @@ std::optional<QString> SaveHistory::text(const Undone& undone)
     for (const FileFailure& failure : undone.outcome.failed)
         names.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
     if (!names.isEmpty())
-        texts.append(what + u" of %1: "_s.arg(counted(names.size())) + Text::listed(names));
+        texts.append(what + Texts::tr(" of %1: ").arg(counted(names.size())) + Text::listed(names));
     names.clear();
     for (const QUrl& file : undone.outcome.changedSince)
         names.append(file.fileName());
     if (!names.isEmpty())
-        texts.append(u"%1%2 changed since and %3 left alone: "_s.arg(
-                         undone.outcome.restored.isEmpty() ? u"Not undone: "_s : u"Undone, but "_s,
-                         counted(names.size()), names.size() == 1 ? u"was"_s : u"were"_s)
+        texts.append(Texts::tr("%1%2 changed since and %3 left alone: ")
+                         .arg(undone.outcome.restored.isEmpty() ? Texts::tr("Not undone: ") : Texts::tr("Undone, but "),
+                             counted(names.size()), names.size() == 1 ? u"was"_s : u"were"_s)
             + Text::listed(names));
     names.clear();
     for (const QUrl& file : undone.outcome.inexact)
         names.append(file.fileName());
     if (!names.isEmpty())
-        texts.append(u"Undone, but not every value of %1 could be put back as it was: "_s.arg(counted(names.size()))
+        texts.append(
+            Texts::tr("Undone, but not every value of %1 could be put back as it was: ").arg(counted(names.size()))
             + Text::listed(names));
     return texts.isEmpty() ? std::nullopt : std::optional(texts.join(u". "_s));
 }

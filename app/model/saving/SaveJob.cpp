@@ -5,6 +5,7 @@
 #include "app/model/saving/SidecarOrder.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/StructureText.h"
+#include "core/language/Texts.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/SaveVerification.h"
 #include "core/save/journal/JournalTags.h"
@@ -283,7 +284,7 @@ void decideStructures(
     if (ids.isEmpty())
         return;
     QHash<QUrl, IptcValues> held;
-    QString unread = u"what it holds could not be read"_s;
+    QString unread = Texts::tr("what it holds could not be read");
     try {
         held = service.iptc(ids, order.targets);
     } catch (const Error& error) {
@@ -334,9 +335,9 @@ std::optional<QString> failureOf(const QUrl& target, const ImageRecord* record, 
     if (const auto reason = reasons.constFind(target); reason != reasons.cend())
         return *reason;
     if (isTooSlow)
-        return u"reading it back took too long"_s;
+        return Texts::tr("reading it back took too long");
     if (!record)
-        return u"cannot be read any more"_s;
+        return Texts::tr("cannot be read any more");
     if (written.error && !differences.isEmpty())
         return SaveReasons::notWritten(differences, written.notes.messages);
     return std::nullopt;
@@ -530,9 +531,9 @@ QString joinedText(const QMap<QString, QStringList>& joined)
 {
     QStringList texts;
     for (auto it = joined.cbegin(); it != joined.cend(); ++it) {
-        const QString photos = it->size() == 1 ? u"1 photo"_s : u"%1 photos"_s.arg(it->size());
-        texts.append(u"%1 of %2 differed between IPTC and XMP and were brought together: "_s.arg(
-                         SaveVerification::labels({ it.key() }).constFirst(), photos)
+        const QString photos = it->size() == 1 ? Texts::tr("1 photo") : Texts::tr("%1 photos").arg(it->size());
+        texts.append(Texts::tr("%1 of %2 differed between IPTC and XMP and were brought together: ")
+                         .arg(SaveVerification::labels({ it.key() }).constFirst(), photos)
             + Text::listed(*it));
     }
     return texts.join(u". "_s);
@@ -543,7 +544,7 @@ QString failuresText(const QList<FileFailure>& failures, qsizetype targetCount)
     QStringList named;
     for (const FileFailure& failure : failures)
         named.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
-    return u"Could not save %1 of %2 photos: "_s.arg(failures.size()).arg(targetCount) + Text::listed(named);
+    return Texts::tr("Could not save %1 of %2 photos: ").arg(failures.size()).arg(targetCount) + Text::listed(named);
 }
 
 }  // namespace Quorbel::SaveJob

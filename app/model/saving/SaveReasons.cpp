@@ -2,6 +2,7 @@
 
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/NumberCheck.h"
+#include "core/language/Texts.h"
 #include "core/save/SaveVerification.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldLanguages.h"
@@ -59,7 +60,7 @@ QString refusedText(const QString& key, const SaveJob::Written& written)
     for (auto reason = photos.begin(); reason != photos.end(); ++reason) {
         reason->sort();
         texts.append(
-            written.photos.size() == 1 ? reason.key() : u"%1 in %2"_s.arg(reason.key(), Text::listed(*reason)));
+            written.photos.size() == 1 ? reason.key() : Texts::tr("%1 in %2").arg(reason.key(), Text::listed(*reason)));
     }
     return texts.join(u"; "_s);
 }
@@ -77,14 +78,14 @@ QStringList namesOf(const QList<QUrl>& files)
 QString notWritten(const QStringList& keys, const QString& messages)
 {
     const QString reasons = reasonsFor(keys, messages);
-    return reasons.isEmpty() ? u"not written"_s : u"not written: "_s + reasons;
+    return reasons.isEmpty() ? Texts::tr("not written") : Texts::tr("not written: ") + reasons;
 }
 
 QString refused(const QMap<QString, QString>& reasonByHome)
 {
     QStringList texts;
     for (auto it = reasonByHome.cbegin(); it != reasonByHome.cend(); ++it)
-        texts.append(u"%1 refused: %2"_s.arg(it.key(), *it));
+        texts.append(Texts::tr("%1 refused: %2").arg(it.key(), *it));
     return texts.join(u"; "_s);
 }
 
@@ -105,23 +106,23 @@ QString differencesText(const QStringList& keys, const SaveJob::Written& written
         labels.append(reasons.isEmpty() ? label : u"%1 (%2)"_s.arg(label, reasons));
     }
     if (written.isUntouched)
-        return u"Nothing was written: "_s + labels.join(u", "_s);
+        return Texts::tr("Nothing was written: ") + labels.join(u", "_s);
     if (keys.size() == 1)
-        return u"Saved, but 1 field reads back differently: "_s + labels.constFirst();
-    return u"Saved, but %1 fields read back differently: "_s.arg(keys.size()) + labels.join(u", "_s);
+        return Texts::tr("Saved, but 1 field reads back differently: ") + labels.constFirst();
+    return Texts::tr("Saved, but %1 fields read back differently: ").arg(keys.size()) + labels.join(u", "_s);
 }
 
 QString notesText(const WriteNotes& notes)
 {
     QStringList texts;
     if (!notes.iptcLeftAlone.isEmpty())
-        texts.append(u"Saved, but IPTC was left alone in photos that have several blocks of it: "_s
+        texts.append(Texts::tr("Saved, but IPTC was left alone in photos that have several blocks of it: ")
             + Text::listed(namesOf(notes.iptcLeftAlone)));
     QStringList sidecars;
     for (const FileFailure& failure : notes.sidecars)
         sidecars.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
     if (!sidecars.isEmpty())
-        texts.append(u"Not brought up to date: "_s + Text::listed(sidecars));
+        texts.append(Texts::tr("Not brought up to date: ") + Text::listed(sidecars));
     return texts.join(u". "_s);
 }
 

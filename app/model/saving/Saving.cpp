@@ -2,6 +2,7 @@
 
 #include "app/model/Background.h"
 #include "app/model/saving/SaveReasons.h"
+#include "core/language/Texts.h"
 #include "core/save/Agreement.h"
 
 #include <QPointer>
@@ -17,7 +18,7 @@ namespace {
 
 QString couldNotSave(const QString& reason)
 {
-    return u"Could not save: "_s + reason;
+    return Texts::tr("Could not save: ") + reason;
 }
 
 std::optional<QString> messageOf(
@@ -26,7 +27,7 @@ std::optional<QString> messageOf(
     if (checked.error && written.error)
         return couldNotSave(*written.error);
     if (checked.error)
-        return u"Could not read metadata: "_s + *checked.error;
+        return Texts::tr("Could not read metadata: ") + *checked.error;
     QStringList texts;
     if (!checked.failures.isEmpty())
         texts.append(SaveJob::failuresText(checked.failures, targetCount));

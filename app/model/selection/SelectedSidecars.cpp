@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/Background.h"
 #include "app/model/pairs/Pairing.h"
+#include "core/language/Texts.h"
 
 namespace Quorbel {
 
@@ -35,16 +36,16 @@ QString SelectedSidecars::text() const
     if (m_told.photos == 0)
         return {};
     const bool isAll = m_told.photos == m_model.selection().size();
-    const QString whose = isAll ? u"Edits"_s
-        : m_told.photos == 1    ? u"Edits of 1 photo"_s
-                                : u"Edits of %1 photos"_s.arg(m_told.photos);
+    const QString whose = isAll ? Texts::tr("Edits")
+        : m_told.photos == 1    ? Texts::tr("Edits of 1 photo")
+                                : Texts::tr("Edits of %1 photos").arg(m_told.photos);
     if (m_told.sidecars == 1) {
         // The picture of a shot that is one photo gets them, too.
         const auto picture = m_model.isBatch() ? std::nullopt : m_model.pairing().pictureOf(m_photos.constFirst());
-        return whose + u" go to "_s + m_told.path.sliced(m_told.path.lastIndexOf(u'/') + 1)
-            + (picture ? u" and "_s + picture->fileName() : QString());
+        return whose + Texts::tr(" go to ") + m_told.path.sliced(m_told.path.lastIndexOf(u'/') + 1)
+            + (picture ? Texts::tr(" and ") + picture->fileName() : QString());
     }
-    return whose + (isAll ? u" go to %1 sidecars"_s.arg(m_told.sidecars) : u" go to sidecars"_s);
+    return whose + (isAll ? Texts::tr(" go to %1 sidecars").arg(m_told.sidecars) : Texts::tr(" go to sidecars"));
 }
 
 void SelectedSidecars::count()

@@ -3,6 +3,7 @@
 #include "app/model/library/PhotoFile.h"
 #include "app/model/sidecars/OwnSidecar.h"
 #include "core/details/DetailsRead.h"
+#include "core/language/Texts.h"
 #include "core/save/SaveGuard.h"
 #include "core/save/journal/JournalTags.h"
 #include "core/sidecar/SidecarRead.h"
@@ -74,7 +75,7 @@ private:
         const PhotoFile::Look file = PhotoFile::at(asked.photo);
         if (!file.file)
             return m_made.unreadable.append(
-                named(name, file.reason.isEmpty() ? u"it is not there any more"_s : file.reason));
+                named(name, file.reason.isEmpty() ? Texts::tr("it is not there any more") : file.reason));
         const OwnSidecar sidecar = OwnSidecar::of(asked.photo);
         if (isInto && sidecar.isOthers)
             return m_made.withOthersSidecar.append(name);

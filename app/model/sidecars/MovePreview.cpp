@@ -1,6 +1,7 @@
 #include "app/model/sidecars/MovePreview.h"
 
 #include "app/model/iptc/CredentialsNotice.h"
+#include "core/language/Texts.h"
 #include "core/save/SaveVerification.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/Text.h"
@@ -13,7 +14,7 @@ namespace {
 
 QString photosText(qsizetype count, const QString& one, const QString& many)
 {
-    return count == 1 ? u"1 photo "_s + one : u"%1 photos "_s.arg(count) + many;
+    return count == 1 ? Texts::tr("1 photo ") + one : Texts::tr("%1 photos ").arg(count) + many;
 }
 
 void addLine(QStringList& lines, const QStringList& names, const QString& one, const QString& many)
@@ -104,18 +105,19 @@ QStringList MovePreview::notes() const
     QStringList lines;
     if (keeping > 0)
         lines.append(photosText(keeping, u"keeps"_s, u"keep"_s)
-            + u" what the sidecar holds otherwise than the file: nothing in a sidecar is replaced."_s);
+            + Texts::tr(" what the sidecar holds otherwise than the file: nothing in a sidecar is replaced."));
     if (sealed > 0)
         lines.append(CredentialsNotice::text(sealed));
     if (agreeing > 0)
-        lines.append(agreeing == 1 ? u"1 photo needs nothing."_s : u"%1 photos need nothing."_s.arg(agreeing));
-    addLine(lines, withoutSidecar, u"has no sidecar"_s, u"have no sidecar"_s);
-    addLine(lines, withOthersSidecar, u"shares its name with a raw photo, whose sidecar it is"_s,
-        u"share their names with raw photos, whose sidecars they are"_s);
-    addLine(lines, notRaw, u"is no raw photo"_s, u"are no raw photos"_s);
-    addFiles(lines, readOnly, u"Read-only, and left alone"_s);
-    addFiles(lines, unreadable, u"Could not be read, and left alone"_s);
-    addFiles(lines, odd, u"Not written, because it would not be the same there"_s);
+        lines.append(
+            agreeing == 1 ? Texts::tr("1 photo needs nothing.") : Texts::tr("%1 photos need nothing.").arg(agreeing));
+    addLine(lines, withoutSidecar, Texts::tr("has no sidecar"), Texts::tr("have no sidecar"));
+    addLine(lines, withOthersSidecar, Texts::tr("shares its name with a raw photo, whose sidecar it is"),
+        Texts::tr("share their names with raw photos, whose sidecars they are"));
+    addLine(lines, notRaw, Texts::tr("is no raw photo"), Texts::tr("are no raw photos"));
+    addFiles(lines, readOnly, Texts::tr("Read-only, and left alone"));
+    addFiles(lines, unreadable, Texts::tr("Could not be read, and left alone"));
+    addFiles(lines, odd, Texts::tr("Not written, because it would not be the same there"));
     return lines;
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/Background.h"
+#include "core/language/Texts.h"
 
 namespace Quorbel {
 
@@ -109,11 +110,11 @@ void MovingOver::takeSlice(const QList<QUrl>& photos, const MoveLook::Found& fou
 {
     if (skipped) {
         m_tooSlow.insert(*skipped);
-        m_preview.unreadable.append(u"%1 (reading took too long)"_s.arg(skipped->fileName()));
+        m_preview.unreadable.append(Texts::tr("%1 (reading took too long)").arg(skipped->fileName()));
         return lookOn();
     }
     if (found.error) {
-        m_problem = u"Could not read metadata: "_s + *found.error;
+        m_problem = Texts::tr("Could not read metadata: ") + *found.error;
         emit changed();
         return;
     }
@@ -156,7 +157,7 @@ void MovingOver::begin(const Ready& ready)
     const Announcer::Together together(m_access.announcer);
     m_access.tasks.end(std::exchange(m_lastLook, 0));
     if (ready.error)
-        return m_model.setErrorMessage(u"Could not read metadata: "_s + *ready.error);
+        return m_model.setErrorMessage(Texts::tr("Could not read metadata: ") + *ready.error);
     SaveJob::Order order = ready.order;
     // What was closed meanwhile is not meant any more.
     order.targets.removeIf([this](const QUrl& photo) { return !m_model.record(photo); });

@@ -1,6 +1,7 @@
 #include "app/model/templates/TemplateStore.h"
 
 #include "app/model/Background.h"
+#include "core/language/Texts.h"
 #include "core/text/Errors.h"
 #include "core/text/Text.h"
 
@@ -41,7 +42,8 @@ QString copied(const Template& value, const QString& path)
     const QByteArray json = TemplateFile::toJson(value);
     if (file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit())
         return {};
-    return FileError(u"Cannot export the template"_s, QUrl::fromLocalFile(path), file.errorString()).description();
+    return FileError(Texts::tr("Cannot export the template"), QUrl::fromLocalFile(path), file.errorString())
+        .description();
 }
 
 }  // namespace

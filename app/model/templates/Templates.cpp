@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/Background.h"
 #include "app/model/RunningTasks.h"
+#include "core/language/Texts.h"
 
 #include <QBitArray>
 
@@ -28,7 +29,7 @@ bool needsDetails(const Template& value)
 // "New template", "New template 2", …
 QString newName(const QList<TemplateStore::Entry>& entries)
 {
-    const QString first = u"New template"_s;
+    const QString first = Texts::tr("New template");
     QString name = first;
     const auto isTaken = [&] {
         return std::any_of(entries.cbegin(), entries.cend(),
@@ -221,7 +222,7 @@ void Templates::takeFilled(const TemplateFill::Result& result)
     if (!result.edits.isEmpty())
         m_model.layEdits(result.edits);
     if (!result.refusals.isEmpty())
-        m_model.setErrorMessage(u"Not filled in: "_s + result.refusals.join(u"; "_s));
+        m_model.setErrorMessage(Texts::tr("Not filled in: ") + result.refusals.join(u"; "_s));
     emit canApplyChanged();
 }
 

@@ -4,6 +4,7 @@
 #include "app/model/saving/ReplacedFilesPoll.h"
 #include "app/model/saving/SaveReasons.h"
 #include "app/model/timeshift/ShiftFiles.h"
+#include "core/language/Texts.h"
 #include "core/save/Companions.h"
 #include "core/save/SafeWriter.h"
 #include "core/save/SaveGuard.h"
@@ -118,7 +119,7 @@ void decide(const Order& order, const ShiftFiles& files, const OldValues& values
     for (const QUrl& target : order.targets) {
         const auto photo = files.shifted(target, order.shifts.value(target), values);
         if (!photo) {
-            written.failures.append({ target, u"cannot be read any more"_s });
+            written.failures.append({ target, Texts::tr("cannot be read any more") });
             continue;
         }
         written.before.insert(target, photo->watched(files.held(target, values)));
@@ -198,7 +199,7 @@ QHash<QUrl, FileTags> storedNow(const MetadataService& service, QList<QUrl> targ
 
 QString counted(qsizetype count, qsizetype all)
 {
-    return u"%1 of %2 photos: "_s.arg(count).arg(all);
+    return Texts::tr("%1 of %2 photos: ").arg(count).arg(all);
 }
 
 QString named(const QList<FileFailure>& failures)
@@ -286,9 +287,9 @@ Checked check(const MetadataService& service, const Order& order, const Written&
         if (!isKnown || (!differences.isEmpty() && photo->watched(*found) == written.before.value(target)))
             checked.failures.append({ target,
                 reasons.value(target,
-                    tooSlow.contains(target) ? u"reading it back took too long"_s
-                        : isKnown            ? u"not written"_s
-                                             : u"cannot be read any more"_s) });
+                    tooSlow.contains(target) ? Texts::tr("reading it back took too long")
+                        : isKnown            ? Texts::tr("not written")
+                                             : Texts::tr("cannot be read any more")) });
         else if (!differences.isEmpty())
             checked.differing.insert(target.fileName(), differences);
     }
@@ -298,16 +299,16 @@ Checked check(const MetadataService& service, const Order& order, const Written&
 std::optional<QString> message(const Order& order, const Written& written, const Checked& checked)
 {
     const qsizetype all = order.targets.size();
-    const QString what = order.setsZone() ? u"Could not set the zone"_s : u"Could not shift the time"_s;
+    const QString what = order.setsZone() ? Texts::tr("Could not set the zone") : Texts::tr("Could not shift the time");
     if (written.error)
         return what + u": "_s + *written.error;
     if (checked.error)
-        return u"Could not read metadata: "_s + *checked.error;
+        return Texts::tr("Could not read metadata: ") + *checked.error;
     QStringList texts;
     if (!checked.failures.isEmpty())
-        texts.append(what + u" of "_s + counted(checked.failures.size(), all) + named(checked.failures));
+        texts.append(what + Texts::tr(" of ") + counted(checked.failures.size(), all) + named(checked.failures));
     if (!checked.differing.isEmpty())
-        texts.append(u"Times read back differently in "_s + counted(checked.differing.size(), all)
+        texts.append(Texts::tr("Times read back differently in ") + counted(checked.differing.size(), all)
             + namedTags(checked.differing));
     QMap<QString, QStringList> alone;
     QStringList zoneless;
@@ -319,9 +320,9 @@ std::optional<QString> message(const Order& order, const Written& written, const
             zoneless.append(target.fileName());
     }
     if (!zoneless.isEmpty())
-        texts.append(u"Left alone for want of a time zone: "_s + Text::listed(zoneless));
+        texts.append(Texts::tr("Left alone for want of a time zone: ") + Text::listed(zoneless));
     if (!alone.isEmpty())
-        texts.append(u"Dates without a full day and time were left alone: "_s + namedTags(alone));
+        texts.append(Texts::tr("Dates without a full day and time were left alone: ") + namedTags(alone));
     if (const QString notes = SaveReasons::notesText(written.notes); !notes.isEmpty())
         texts.append(notes);
     return texts.isEmpty() ? std::nullopt : std::optional(texts.join(u". "_s));

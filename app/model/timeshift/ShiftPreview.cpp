@@ -1,5 +1,6 @@
 #include "app/model/timeshift/ShiftPreview.h"
 
+#include "core/language/Texts.h"
 #include "core/text/Coordinates.h"
 #include "core/text/StoredTime.h"
 #include "core/text/Text.h"
@@ -52,8 +53,8 @@ QString leftAlone(const QStringList& names, const QString& one, const QString& s
     if (names.isEmpty())
         return {};
     const QString who = names.size() == 1
-        ? u"1 photo %1 and is left alone: "_s.arg(one)
-        : u"%1 photos %2 and are left alone: "_s.arg(QString::number(names.size()), several);
+        ? Texts::tr("1 photo %1 and is left alone: ").arg(one)
+        : Texts::tr("%1 photos %2 and are left alone: ").arg(QString::number(names.size()), several);
     return who + Text::listed(names);
 }
 
@@ -164,13 +165,14 @@ private:
         std::stable_sort(
             m_dated.begin(), m_dated.end(), [](const Dated& a, const Dated& b) { return a.before < b.before; });
         m_result.first = m_dated.front().before;
-        m_result.rows.append(row(m_dated.size() == 1 ? u"Taken"_s : u"First"_s, m_dated.front()));
+        m_result.rows.append(row(m_dated.size() == 1 ? Texts::tr("Taken") : Texts::tr("First"), m_dated.front()));
         if (m_dated.size() > 1)
-            m_result.rows.append(row(u"Last"_s, m_dated.back()));
+            m_result.rows.append(row(Texts::tr("Last"), m_dated.back()));
         if (m_question.zone && m_question.keepsClock)
-            addFirst(u"1 had no zone"_s, u"%1 had no zone"_s, [](const Dated& dated) { return !dated.zone; });
+            addFirst(Texts::tr("1 had no zone"), Texts::tr("%1 had no zone"),
+                [](const Dated& dated) { return !dated.zone; });
         else
-            addFirst(u"1 on a new day"_s, u"%1 on a new day"_s,
+            addFirst(Texts::tr("1 on a new day"), Texts::tr("%1 on a new day"),
                 [](const Dated& dated) { return dated.before.date() != dated.after.date(); });
     }
 
@@ -200,10 +202,11 @@ std::optional<QDateTime> ShiftPreview::clockOf(const QMap<QString, QString>& val
 
 QString ShiftPreview::warning() const
 {
-    QStringList texts{ leftAlone(undated, u"has no date"_s, u"have no date"_s),
-        leftAlone(odd, u"has an odd date"_s, u"have odd dates"_s),
-        leftAlone(zoneless, u"has no time zone to come from"_s, u"have no time zone to come from"_s),
-        leftAlone(placeless, u"has no position in a time zone"_s, u"have no position in a time zone"_s) };
+    QStringList texts{ leftAlone(undated, Texts::tr("has no date"), Texts::tr("have no date")),
+        leftAlone(odd, Texts::tr("has an odd date"), Texts::tr("have odd dates")),
+        leftAlone(zoneless, Texts::tr("has no time zone to come from"), Texts::tr("have no time zone to come from")),
+        leftAlone(
+            placeless, Texts::tr("has no position in a time zone"), Texts::tr("have no position in a time zone")) };
     texts.removeAll(QString());
     return texts.join(u". "_s);
 }
@@ -213,8 +216,9 @@ QString ShiftPreview::positionsText() const
     if (positions == 0)
         return {};
     if (positions == 1)
-        return inZone == 1 ? u"The one position lies in this zone."_s : u"The one position lies in another zone."_s;
-    return u"%1 of %2 positions lie in this zone."_s.arg(inZone).arg(positions);
+        return inZone == 1 ? Texts::tr("The one position lies in this zone.")
+                           : Texts::tr("The one position lies in another zone.");
+    return Texts::tr("%1 of %2 positions lie in this zone.").arg(inZone).arg(positions);
 }
 
 QString ShiftPreview::amountText(qint64 seconds)
@@ -229,10 +233,10 @@ QString ShiftPreview::amountText(qint64 seconds)
     if (const qint64 hours = size / 3600 % 24; hours > 0)
         parts.append(u"%1 h"_s.arg(hours));
     if (const qint64 minutes = size / 60 % 60; minutes > 0)
-        parts.append(padded(minutes, !parts.isEmpty()) + u" min"_s);
+        parts.append(padded(minutes, !parts.isEmpty()) + Texts::tr(" min"));
     if (const qint64 rest = size % 60; rest > 0 || parts.isEmpty())
         parts.append(padded(rest, !parts.isEmpty()) + u" s"_s);
-    return parts.join(u' ') + (seconds < 0 ? u" earlier"_s : u" later"_s);
+    return parts.join(u' ') + (seconds < 0 ? Texts::tr(" earlier") : Texts::tr(" later"));
 }
 
 }  // namespace Quorbel

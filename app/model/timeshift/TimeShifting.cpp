@@ -4,6 +4,7 @@
 #include "app/model/Background.h"
 #include "app/model/pairs/Pairing.h"
 #include "app/model/timeshift/ShiftFiles.h"
+#include "core/language/Texts.h"
 #include "core/save/TagHomes.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/StoredTime.h"
@@ -219,7 +220,7 @@ void TimeShifting::setKeepsClock(bool on)
 QString TimeShifting::zoneName(const ShiftZone& zone) const
 {
     if (zone.isOwn)
-        return u"Each photo’s own"_s;
+        return Texts::tr("Each photo’s own");
     if (zone.id.isEmpty())
         return zone.minutes ? ZoneOffset::text(*zone.minutes) : QString();
     const QDateTime when = m_preview.first.isValid() ? m_preview.first : m_model.now();
@@ -245,7 +246,7 @@ QList<std::pair<QString, ShiftZone>> TimeShifting::zoneChoices() const
     for (const TimeZone& zone : m_zones->all())
         if (const auto offset = TimeZones::offset(zone.id, when))
             sorted.insert({ *offset, zone.town }, { ZoneOffset::text(*offset) + u' ' + zone.town, { .id = zone.id } });
-    choices.append({ u"Each photo’s own"_s, { .isOwn = true } });
+    choices.append({ Texts::tr("Each photo’s own"), { .isOwn = true } });
     return choices + sorted.values();
 }
 
@@ -276,10 +277,10 @@ QString TimeShifting::problem() const
     if (m_way == Way::zone || seconds())
         return {};
     if (m_way == Way::amount)
-        return u"Whole numbers, of a hundred years at most."_s;
+        return Texts::tr("Whole numbers, of a hundred years at most.");
     if (knownClock().isEmpty())
-        return u"This photo has no date: choose another one."_s;
-    return Text::trimmed(m_knownTime).isEmpty() ? QString() : u"Not a date: YYYY-MM-DD HH:MM:SS"_s;
+        return Texts::tr("This photo has no date: choose another one.");
+    return Text::trimmed(m_knownTime).isEmpty() ? QString() : Texts::tr("Not a date: YYYY-MM-DD HH:MM:SS");
 }
 
 ShiftQuestion TimeShifting::question() const
@@ -417,7 +418,7 @@ void TimeShifting::takeLooked(ShiftJob::Order order, const ShiftJob::Looked& loo
             return look(order);
     }
     if (looked.error)
-        return m_model.setErrorMessage(u"Could not read metadata: "_s + *looked.error);
+        return m_model.setErrorMessage(Texts::tr("Could not read metadata: ") + *looked.error);
     // What was closed meanwhile is not meant any more.
     order.targets.removeIf([this](const QUrl& photo) { return !m_model.record(photo); });
     if (!looked.isCancelled && !m_model.isSaving() && !order.targets.isEmpty())

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/Background.h"
+#include "core/language/Texts.h"
 #include "platform/files/FolderWatches.h"
 
 #include <QFile>
@@ -119,13 +120,13 @@ CodeReplacements::Found CodeReplacements::lookedUp(const QString& path, const QB
     }
     QFile file(path);
     if (!info.exists())
-        found.problem = nameOf(path) + u" is not there any more."_s;
+        found.problem = nameOf(path) + Texts::tr(" is not there any more.");
     else if (!info.isFile())
-        found.problem = nameOf(path) + u" is no file."_s;
+        found.problem = nameOf(path) + Texts::tr(" is no file.");
     else if (info.size() > CodeList::largest)
-        found.problem = nameOf(path) + u" is too large for a list of codes."_s;
+        found.problem = nameOf(path) + Texts::tr(" is too large for a list of codes.");
     else if (!file.open(QIODevice::ReadOnly))
-        found.problem = nameOf(path) + u" cannot be read: "_s + file.errorString();
+        found.problem = nameOf(path) + Texts::tr(" cannot be read: ") + file.errorString();
     else
         found.codes = CodeList::parse(file.readAll());
     return found;

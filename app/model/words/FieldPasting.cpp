@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/Background.h"
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
@@ -96,7 +97,7 @@ void FieldPasting::copy()
     fields.copiedAt = m_model.now();
     const QString name = record.fileName;
     if (fields.edits.isEmpty())
-        return m_model.setErrorMessage(u"“%1” has no fields to copy."_s.arg(name));
+        return m_model.setErrorMessage(Texts::tr("“%1” has no fields to copy.").arg(name));
     if (!details) {
         m_unfinished = { .fields = fields, .photo = record.url };
         for (auto text = unsaved.scalars.cbegin(); text != unsaved.scalars.cend(); ++text)
@@ -110,8 +111,8 @@ void FieldPasting::offer(CopiedFields fields)
 {
     const QByteArray text = fields.toJson();
     if (text.size() > CopiedFields::largest)
-        return m_model.setErrorMessage(
-            u"The texts of “%1” are too long to be copied."_s.arg(QUrl::fromLocalFile(fields.photo).fileName()));
+        return m_model.setErrorMessage(Texts::tr("The texts of “%1” are too long to be copied.")
+                                           .arg(QUrl::fromLocalFile(fields.photo).fileName()));
     if (m_unfinished)
         m_unfinished->text = text;
     putOnClipboard(text);
@@ -160,8 +161,8 @@ bool FieldPasting::readFields()
         return true;
     }
     m_model.setErrorMessage(std::get<Refusal>(read) == Refusal::newer
-            ? u"These fields were copied by a newer version of Quorbel."_s
-            : u"No fields were copied yet. Edit ▸ Copy Fields takes those of the selected photo."_s);
+            ? Texts::tr("These fields were copied by a newer version of Quorbel.")
+            : Texts::tr("No fields were copied yet. Edit ▸ Copy Fields takes those of the selected photo."));
     return false;
 }
 

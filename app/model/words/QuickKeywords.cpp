@@ -1,6 +1,7 @@
 #include "app/model/words/QuickKeywords.h"
 
 #include "app/model/AppModel.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/KeywordPath.h"
 #include "core/text/Text.h"
@@ -115,9 +116,9 @@ std::optional<QString> QuickKeywords::problem(const QString& name) const
 {
     const QString wanted = Text::trimmed(name);
     if (wanted.isEmpty())
-        return u"A set needs a name"_s;
+        return Texts::tr("A set needs a name");
     if (m_edited && wanted != m_edited->before && position(wanted) >= 0)
-        return u"There is a set of this name already"_s;
+        return Texts::tr("There is a set of this name already");
     return std::nullopt;
 }
 

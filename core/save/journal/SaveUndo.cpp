@@ -1,5 +1,6 @@
 #include "core/save/journal/SaveUndo.h"
 
+#include "core/language/Texts.h"
 #include "core/save/Companions.h"
 #include "core/save/EditPlan.h"
 #include "core/save/SafeWriter.h"
@@ -126,7 +127,7 @@ private:
     {
         auto& file = m_long.emplace_back(std::make_unique<QTemporaryFile>());
         if (!file->open() || file->write(bytes) != bytes.size() || !file->flush())
-            throw FileError(u"Cannot write"_s, QUrl::fromLocalFile(file->fileName()), file->errorString());
+            throw FileError(Texts::tr("Cannot write"), QUrl::fromLocalFile(file->fileName()), file->errorString());
         return file->fileName();
     }
 
@@ -187,7 +188,7 @@ private:
                 continue;
             if (m_doubtful.contains(url)) {
                 lost.insert(url);
-                m_outcome.failed.append({ url, u"not written"_s });
+                m_outcome.failed.append({ url, Texts::tr("not written") });
             } else {
                 m_outcome.inexact.append(url);
             }
@@ -218,7 +219,7 @@ private:
             else if (file.sidecar.restore())
                 m_outcome.restored.append(photo);
             else
-                m_outcome.failed.append({ photo, u"not written"_s });
+                m_outcome.failed.append({ photo, Texts::tr("not written") });
         }
     }
 

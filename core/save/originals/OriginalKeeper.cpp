@@ -1,5 +1,6 @@
 #include "core/save/originals/OriginalKeeper.h"
 
+#include "core/language/Texts.h"
 #include "core/save/Companions.h"
 #include "core/text/Errors.h"
 
@@ -32,7 +33,7 @@ OriginalKeeper::OriginalKeeper(const QList<QUrl>& photos)
         OriginalsFolder& folder = m_folders.try_emplace(file.path(), file.path()).first->second;
         const QByteArray name = QFile::encodeName(file.fileName());
         if (!folder.keep(name))
-            throw FileError(u"Cannot keep a copy of"_s, photo, qt_error_string(errno));
+            throw FileError(Texts::tr("Cannot keep a copy of"), photo, qt_error_string(errno));
         struct stat backup { };
         Kept kept{ .folder = &folder, .name = name, .hadBackup = folder.status(backupName(name), backup) };
         kept.before = kept.prepared = identityOf(kept);

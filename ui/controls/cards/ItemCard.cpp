@@ -1,5 +1,6 @@
 #include "ui/controls/cards/ItemCard.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/ThemedMenu.h"
@@ -77,9 +78,9 @@ void ItemCard::layOut()
 
 void ItemCard::addMoving()
 {
-    m_up = new QAction(u"Move Up"_s, this);
-    m_down = new QAction(u"Move Down"_s, this);
-    m_remove = new QAction(u"Remove"_s, this);
+    m_up = new QAction(Texts::tr("Move Up"), this);
+    m_down = new QAction(Texts::tr("Move Down"), this);
+    m_remove = new QAction(Texts::tr("Remove"), this);
     connect(m_up, &QAction::triggered, this, [this] { emit moveAsked(-1); });
     connect(m_down, &QAction::triggered, this, [this] { emit moveAsked(1); });
     connect(m_remove, &QAction::triggered, this, &ItemCard::removeAsked);
@@ -112,7 +113,7 @@ void ItemCard::setSummary(const Summary& summary)
     m_line->setTitle(summary.first);
     m_line->setSummary(summary);
     setAccessibleName(summary.first);
-    m_more->setName(u"Actions for this %1"_s.arg(m_item));
+    m_more->setName(Texts::tr("Actions for this %1").arg(m_item));
 }
 
 void ItemCard::setContent(QWidget* content)

@@ -1,5 +1,6 @@
 #include "ui/controls/keywords/HeldKeywordChip.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/ToolTips.h"
 #include "ui/controls/theme/FocusRing.h"
@@ -63,7 +64,7 @@ void HeldKeywordChip::setHeld(const HeldKeyword& held)
     m_cross->setIcon(isGone ? u"arrow.uturn.backward"_s : u"xmark"_s);
     m_cross->setSizes({ crossSide, crossSide }, isGone ? 11 : 9, isGone ? 2.1 : 2.6, 8);
     m_cross->setAmber(isGone);
-    m_cross->setName((isGone ? u"Keep "_s : u"Take away "_s) + held.keyword);
+    m_cross->setName((isGone ? Texts::tr("Keep ") : Texts::tr("Take away ")) + held.keyword);
     if (isOtherWidth)
         updateGeometry();
     showToolTip();

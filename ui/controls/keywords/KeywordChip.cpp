@@ -1,5 +1,6 @@
 #include "ui/controls/keywords/KeywordChip.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/ToolTips.h"
@@ -79,7 +80,7 @@ QString spokenKeyword(const QString& keyword, const QList<QStringList>& parents)
 {
     QStringList places;
     for (const QStringList& path : parents)
-        places.append(u"in "_s + path.join(u", "_s));
+        places.append(Texts::tr("in ") + path.join(u", "_s));
     return places.isEmpty() ? keyword : keyword + u", "_s + places.join(u"; "_s);
 }
 
@@ -111,7 +112,7 @@ void KeywordChip::setKeyword(const QString& keyword, const QList<QStringList>& p
         m_keyword = keyword;
         m_parents = parents;
         setAccessibleName(spokenKeyword(keyword, parents));
-        m_cross->setName(u"Remove %1"_s.arg(keyword));
+        m_cross->setName(Texts::tr("Remove %1").arg(keyword));
         measure();
         showToolTip();
     }

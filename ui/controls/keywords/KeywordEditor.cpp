@@ -1,5 +1,6 @@
 #include "ui/controls/keywords/KeywordEditor.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/FlowLayout.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/ReadingOrder.h"
@@ -84,7 +85,7 @@ KeywordEditor::KeywordEditor(QWidget* parent)
     m_ring = installFocusRing(this, { RingShape::field, 7, [this] { return m_edited; }, {} });
     m_entry->installEventFilter(m_ring);
     m_entry->installEventFilter(this);
-    m_entry->setAccessibleName(u"New keyword"_s);
+    m_entry->setAccessibleName(Texts::tr("New keyword"));
     connect(m_entry, &QLineEdit::textEdited, this, &KeywordEditor::complete);
     connect(m_entry, &KeywordEntry::pastedSeveral, this, &KeywordEditor::addAll);
     connect(m_suggestions, &SuggestionList::activated, this, &KeywordEditor::acceptCompletion);

@@ -1,5 +1,6 @@
 #include "ui/controls/pickers/CodePopover.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/theme/Icon.h"
@@ -114,16 +115,16 @@ private:
 }  // namespace
 
 CodePopover::CodePopover(const QString& name, CodeSource source, const QStringList& held, bool clears, QWidget* opener)
-    : SearchPopover(name, u"Search"_s, opener)
+    : SearchPopover(name, Texts::tr("Search"), opener)
     , m_source(std::move(source))
     , m_held(held)
     , m_clears(clears)
 {
     list()->setItemDelegate(new CodeDelegate(mostRows, m_hasNotes, list()));
-    setNothingFound(u"Nothing found"_s);
+    setNothingFound(Texts::tr("Nothing found"));
     for (const QString& code : held)
         if (!code.isEmpty() && m_source.known(code).isEmpty())
-            m_unknown.append({ code, code, u"Not among the known codes"_s });
+            m_unknown.append({ code, code, Texts::tr("Not among the known codes") });
     field()->setCodes(m_source.codes);
     findAgain();
     m_all = m_found;
@@ -139,7 +140,7 @@ QList<CodeRow> CodePopover::rowsFor(const QString& typed)
 {
     QList<CodeRow> rows;
     if (m_clears && typed.isEmpty())
-        rows.append({ {}, u"None"_s, {} });
+        rows.append({ {}, Texts::tr("None"), {} });
     for (const CodeRow& row : std::as_const(m_unknown))
         if (row.code.contains(typed, Qt::CaseInsensitive))
             rows.append(row);
@@ -150,7 +151,7 @@ QList<CodeRow> CodePopover::rowsFor(const QString& typed)
         return row.code == typed || row.name.compare(typed, Qt::CaseInsensitive) == 0;
     };
     if (m_source.takesAnyText && !typed.isEmpty() && std::none_of(rows.cbegin(), rows.cend(), isTyped))
-        rows.append({ typed, u"Use “%1”"_s.arg(typed), u"As it is typed, not one of the codes"_s });
+        rows.append({ typed, Texts::tr("Use “%1”").arg(typed), Texts::tr("As it is typed, not one of the codes") });
     return rows;
 }
 
@@ -218,7 +219,7 @@ void CodePopover::paintEvent(QPaintEvent* event)
     const QRect box = this->box();
     const QRect foot(box.left(), list()->geometry().bottom() + 1 + px(footGap), box.width(), 0);
     painter.fillRect(QRect(foot.left() + 1, foot.top(), foot.width() - 2, 1), theme.line);
-    QStringList told{ u"%1 of %2"_s.arg(m_found).arg(m_all) };
+    QStringList told{ Texts::tr("%1 of %2").arg(m_found).arg(m_all) };
     if (!m_source.footer.isEmpty())
         told.append(m_source.footer);
     painter.setFont(sansFont(11));

@@ -1,5 +1,6 @@
 #include "ui/controls/pickers/OffsetPicker.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/pickers/ChoiceList.h"
 #include "ui/controls/pickers/PickerFace.h"
@@ -20,7 +21,7 @@ OffsetPicker::OffsetPicker(const QStringList& offsets, const QString& blank, QWi
     , m_blank(blank)
 {
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    setAccessibleName(u"Time-zone offset"_s);
+    setAccessibleName(Texts::tr("Time-zone offset"));
     onRestyle(this, [this] {
         setFont(sansFont(13));
         updateGeometry();

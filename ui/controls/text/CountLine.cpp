@@ -1,5 +1,6 @@
 #include "ui/controls/text/CountLine.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/theme/Metrics.h"
@@ -69,8 +70,8 @@ void CountLine::showCount(int count)
         return;
     const bool wasBeyond = m_count >= 0 && isBeyond();
     m_count = count;
-    m_number->setText(u"%1 of %2"_s.arg(count).arg(m_limit));
-    m_number->setAccessibleName(u"%1 of %2 characters"_s.arg(count).arg(m_limit));
+    m_number->setText(Texts::tr("%1 of %2").arg(count).arg(m_limit));
+    m_number->setAccessibleName(Texts::tr("%1 of %2 characters").arg(count).arg(m_limit));
     m_number->setRole(isBeyond() ? TextRole::amberText : TextRole::label);
     if (!isBeyond() || wasBeyond || !isVisible())
         return;

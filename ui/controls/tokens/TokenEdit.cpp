@@ -1,5 +1,6 @@
 #include "ui/controls/tokens/TokenEdit.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/ThemedMenu.h"
@@ -431,17 +432,17 @@ void TokenEdit::contextMenuEvent(QContextMenuEvent* event)
         action->setEnabled(on);
     };
     const bool selected = textCursor().hasSelection();
-    add(u"Undo"_s, QKeySequence::Undo, document()->isUndoAvailable(), &QTextEdit::undo);
-    add(u"Redo"_s, QKeySequence::Redo, document()->isRedoAvailable(), &QTextEdit::redo);
+    add(Texts::tr("Undo"), QKeySequence::Undo, document()->isUndoAvailable(), &QTextEdit::undo);
+    add(Texts::tr("Redo"), QKeySequence::Redo, document()->isRedoAvailable(), &QTextEdit::redo);
     menu->addSeparator();
-    add(u"Cut"_s, QKeySequence::Cut, selected, &QTextEdit::cut);
-    add(u"Copy"_s, QKeySequence::Copy, selected, &QTextEdit::copy);
-    add(u"Paste"_s, QKeySequence::Paste, canPaste(), &QTextEdit::paste);
+    add(Texts::tr("Cut"), QKeySequence::Cut, selected, &QTextEdit::cut);
+    add(Texts::tr("Copy"), QKeySequence::Copy, selected, &QTextEdit::copy);
+    add(Texts::tr("Paste"), QKeySequence::Paste, canPaste(), &QTextEdit::paste);
     menu->addSeparator();
-    add(u"Select All"_s, QKeySequence::SelectAll, length() > 0, &QTextEdit::selectAll);
+    add(Texts::tr("Select All"), QKeySequence::SelectAll, length() > 0, &QTextEdit::selectAll);
     if (const int token = selectedToken(); token >= 0) {
         menu->addSeparator();
-        menu->addAction(u"Default and Form…"_s, this, [this, token] { emit tokenOpened(token); });
+        menu->addAction(Texts::tr("Default and Form…"), this, [this, token] { emit tokenOpened(token); });
     }
     menu->popup(event->globalPos());
 }

@@ -1,5 +1,6 @@
 #include "ui/inspector/head/BatchBanner.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/NoticeLine.h"
 #include "ui/controls/theme/Icon.h"
@@ -29,14 +30,14 @@ constexpr int mostLines = 2;  // under the title
 
 QString bannerHint()
 {
-    return u"Tick a field to write it to all selected files."_s;
+    return Texts::tr("Tick a field to write it to all selected files.");
 }
 
 }  // namespace
 
 BatchBanner::BatchBanner(QWidget* parent)
     : QWidget(parent)
-    , m_disagreements(new NoticeLine(u"Make them agree"_s, this))
+    , m_disagreements(new NoticeLine(Texts::tr("Make them agree"), this))
     , m_end(new QWidget(this))
 {
     m_disagreements->setRoles(TextRole::selSub, TextRole::selText);
@@ -51,7 +52,7 @@ BatchBanner::BatchBanner(QWidget* parent)
 
 void BatchBanner::setPhotos(qsizetype count, const QString& note, const QString& after)
 {
-    const QString title = u"Editing %1 photos"_s.arg(count);
+    const QString title = Texts::tr("Editing %1 photos").arg(count);
     const QString second = note.isEmpty() ? bannerHint() : note;
     if (title == m_title && second == m_note && after == m_after)
         return;

@@ -1,6 +1,7 @@
 #include "ui/inspector/head/FieldSetPicker.h"
 
 #include "app/model/fieldsets/FieldSets.h"
+#include "core/language/Texts.h"
 
 namespace Quorbel {
 
@@ -8,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 ChoicePicker* makeFieldSetPicker(FieldSets& sets, QWidget* parent)
 {
-    auto* picker = new ChoicePicker(u"Field set"_s, fieldSetPickerWidth, parent);
+    auto* picker = new ChoicePicker(Texts::tr("Field set"), fieldSetPickerWidth, parent);
     const auto follow = [picker, &sets] {
         const QStringList names = sets.names();
         if (names != picker->titles())

@@ -5,6 +5,7 @@
 #include "core/iptc/LocationCards.h"
 #include "core/iptc/TermCards.h"
 #include "core/iptc/Vocabularies.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldID.h"
 #include "core/text/Coordinates.h"
 #include "ui/controls/cards/EditedDot.h"
@@ -61,11 +62,11 @@ CardActions::CardActions(AppModel& model, PlaceProvider* places, const FieldSpec
 
 void CardActions::offerPlaces()
 {
-    m_cards.setActions({ { u"Copy from Location"_s, [this](int item) { copyFromLocation(item); },
+    m_cards.setActions({ { Texts::tr("Copy from Location"), [this](int item) { copyFromLocation(item); },
                              [this](int item) { return whyNotFrom(item); } },
-        { u"Copy to Location"_s, [this](int item) { copyToLocation(item); },
+        { Texts::tr("Copy to Location"), [this](int item) { copyToLocation(item); },
             [this](int item) { return whyNotTo(item); } },
-        { u"Search Place…"_s, [this](int item) { searchPlace(item); } } });
+        { Texts::tr("Search Place…"), [this](int item) { searchPlace(item); } } });
 }
 
 QString CardActions::ofLocation(int item) const
@@ -78,15 +79,15 @@ QString CardActions::whyNotFrom(int item) const
 {
     const QString card = ofLocation(item);
     if (card.isEmpty())
-        return u"nothing there"_s;
-    return card == items().value(item) ? u"the same already"_s : QString();
+        return Texts::tr("nothing there");
+    return card == items().value(item) ? Texts::tr("the same already") : QString();
 }
 
 QString CardActions::whyNotTo(int item) const
 {
     if (LocationCards::toFields(items().value(item), [](const QString&) { return QString(); }).isEmpty())
-        return u"nothing here"_s;
-    return toLocation(item).isEmpty() ? u"the same already"_s : QString();
+        return Texts::tr("nothing here");
+    return toLocation(item).isEmpty() ? Texts::tr("the same already") : QString();
 }
 
 void CardActions::copyFromLocation(int item)
@@ -153,16 +154,16 @@ void CardActions::offerRemembered()
     if (m_model.rememberedCards().of(m_field.id).isEmpty())
         m_cards.setActions({});
     else
-        m_cards.setActions({ { .text = u"Use Remembered %1…"_s.arg(thing()),
+        m_cards.setActions({ { .text = Texts::tr("Use Remembered %1…").arg(thing()),
                                  .run = [this](int item) { pickRemembered(item); },
-                                 .start = u"Use a remembered %1…"_s.arg(thing().toLower()) },
-            { u"Forget Remembered %1"_s.arg(thing() + u's'),
+                                 .start = Texts::tr("Use a remembered %1…").arg(thing().toLower()) },
+            { Texts::tr("Forget Remembered %1").arg(thing() + u's'),
                 [this](int) { m_model.rememberedCards().forgetAll(m_field.id); } } });
 }
 
 QString CardActions::thing() const
 {
-    return m_field.isSeveral ? u"Licensor"_s : u"Contact"_s;
+    return m_field.isSeveral ? Texts::tr("Licensor") : Texts::tr("Contact");
 }
 
 void CardActions::pickRemembered(int item)
@@ -170,7 +171,7 @@ void CardActions::pickRemembered(int item)
     QWidget* card = anchor(item);
     if (!card)
         return;
-    auto* popover = new RememberedPopover(u"Remembered %1"_s.arg(thing().toLower() + u's'), card);
+    auto* popover = new RememberedPopover(Texts::tr("Remembered %1").arg(thing().toLower() + u's'), card);
     RememberedCards& cards = m_model.rememberedCards();
     showRemembered(*popover);
     connect(&cards, &RememberedCards::changed, popover, [this, popover] { showRemembered(*popover); });

@@ -1,6 +1,7 @@
 #include "ui/inspector/iptc/IptcEditors.h"
 
 #include "core/iptc/Vocabularies.h"
+#include "core/language/Texts.h"
 #include "ui/controls/pickers/CodePicker.h"
 #include "ui/controls/pickers/CodesPicker.h"
 #include "ui/inspector/FieldRow.h"
@@ -20,7 +21,7 @@ RowEditor oneCode(const CodeSource& source, FieldRow& row)
     QObject::connect(picker, &CodePicker::picked, &row, &FieldRow::textEdited);
     return { picker, picker, { picker }, [picker](const FieldRowState& state, bool) {
                 picker->setCode(state.text);
-                const QString placeholder = state.placeholder.isEmpty() ? u"Choose…"_s : state.placeholder;
+                const QString placeholder = state.placeholder.isEmpty() ? Texts::tr("Choose…") : state.placeholder;
                 picker->setPlaceholder(placeholder, state.italicPlaceholder);
                 picker->setEdited(state.edited);
                 picker->setWanted(state.wanted);
@@ -29,7 +30,7 @@ RowEditor oneCode(const CodeSource& source, FieldRow& row)
 
 RowEditor severalCodes(const FieldSpec& field, FieldRow& row)
 {
-    auto* picker = new CodesPicker(field.label, u"Add code"_s, &row);
+    auto* picker = new CodesPicker(field.label, Texts::tr("Add code"), &row);
     picker->setSource(vocabularySource(field.vocabulary));
     QObject::connect(picker, &CodesPicker::added, &row, &FieldRow::itemAdded);
     QObject::connect(picker, &CodesPicker::removed, &row, &FieldRow::itemRemoved);

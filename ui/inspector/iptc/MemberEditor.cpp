@@ -1,6 +1,7 @@
 #include "ui/inspector/iptc/MemberEditor.h"
 
 #include "core/iptc/StructureEdit.h"
+#include "core/language/Texts.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/keywords/KeywordEditor.h"
 #include "ui/controls/pickers/CodePicker.h"
@@ -61,7 +62,7 @@ MemberEditor codeEditor(const QString& name, const MemberEditorParts& parts, con
 {
     auto* picker = new CodePicker(parts.label, parent);
     picker->setSource(source);
-    picker->setPlaceholder(u"Choose…"_s);
+    picker->setPlaceholder(Texts::tr("Choose…"));
     QObject::connect(
         picker, &CodePicker::picked, picker, [set = setter(name, parts)](const QString& code) { set(code); });
     return { picker, picker, [picker] { return QList<QWidget*>{ picker }; },
@@ -74,11 +75,13 @@ CodeSource seaLevels()
 {
     CodeSource source;
     source.rows = [](const QString& typed) {
-        QList<CodeRow> rows{ { u"0"_s, u"No"_s, {} }, { u"1"_s, u"Yes"_s, {} } };
+        QList<CodeRow> rows{ { u"0"_s, Texts::tr("No"), {} }, { u"1"_s, Texts::tr("Yes"), {} } };
         rows.removeIf([&typed](const CodeRow& row) { return !row.name.startsWith(typed, Qt::CaseInsensitive); });
         return rows;
     };
-    source.nameOf = [](const QString& code) { return code == u"0" ? u"No"_s : code == u"1" ? u"Yes"_s : QString(); };
+    source.nameOf = [](const QString& code) {
+        return code == u"0" ? Texts::tr("No") : code == u"1" ? Texts::tr("Yes") : QString();
+    };
     return source;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/inspector/iptc/MemberLanguages.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/cards/CardRow.h"
 
@@ -14,8 +15,8 @@ using namespace Qt::StringLiterals;
 MemberLanguages::MemberLanguages(CardRow& row)
     : QObject(&row)
     , m_row(row)
-    , m_plus(new QBIconButton(u"plus"_s, u"Add language"_s, &row))
-    , m_add(new QAction(u"Add Language…"_s, row.input()))
+    , m_plus(new QBIconButton(u"plus"_s, Texts::tr("Add language"), &row))
+    , m_add(new QAction(Texts::tr("Add Language…"), row.input()))
 {
     m_plus->setSizes({ 22, 22 }, 12, 2.1, 6);
     m_plus->setHint(u"Alt+Right"_s);

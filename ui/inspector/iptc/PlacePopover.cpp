@@ -1,5 +1,6 @@
 #include "ui/inspector/iptc/PlacePopover.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
@@ -58,7 +59,7 @@ private:
 }  // namespace
 
 PlacePopover::PlacePopover(PlaceProvider* places, QWidget* opener)
-    : SearchPopover(u"Search place"_s, u"Town, landmark or airport"_s, opener)
+    : SearchPopover(Texts::tr("Search place"), Texts::tr("Town, landmark or airport"), opener)
     , m_search(places)
 {
     list()->setItemDelegate(new PlaceDelegate(list()));
@@ -107,7 +108,7 @@ void PlacePopover::finish(const LocationSearch::Answer& answer)
         emit picked(place);
         return;
     }
-    setNothingFound(u"Couldn't look that up"_s);
+    setNothingFound(Texts::tr("Couldn't look that up"));
     m_search.update({});
 }
 

@@ -1,5 +1,6 @@
 #include "ui/inspector/iptc/RememberedPopover.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/ScrollArea.h"
@@ -69,7 +70,7 @@ void RememberedPopover::addRow(const QString& label, int row)
     across->setSpacing(px(2));
     auto* pick = new MenuRow(label, false, line);
     pick->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    auto* cross = new QBIconButton(u"xmark"_s, u"Forget %1"_s.arg(label), line);
+    auto* cross = new QBIconButton(u"xmark"_s, Texts::tr("Forget %1").arg(label), line);
     cross->setSizes({ crossSize, crossSize }, 12, 0, 6);
     cross->setQuiet(true);
     across->addWidget(pick, 1);

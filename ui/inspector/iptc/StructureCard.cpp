@@ -1,6 +1,7 @@
 #include "ui/inspector/iptc/StructureCard.h"
 
 #include "core/iptc/StructureText.h"
+#include "core/language/Texts.h"
 #include "ui/inspector/iptc/StructureFields.h"
 
 namespace Quorbel {
@@ -11,7 +12,7 @@ StructureCard::StructureCard(const StructureSpec& structure, const CodeTexts& co
     : QObject(parent)
     , m_structure(structure)
     , m_codes(codes)
-    , m_untitled(u"New %1"_s.arg(structure.item))
+    , m_untitled(Texts::tr("New %1").arg(structure.item))
     , m_widget(new ItemCard(structure.item, parent))
 {
     showSummary();

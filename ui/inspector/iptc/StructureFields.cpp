@@ -2,6 +2,7 @@
 
 #include "core/iptc/StructureEdit.h"
 #include "core/iptc/StructureText.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldLanguages.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
@@ -62,9 +63,9 @@ QString listed(QStringList names)
     for (QString& name : names)
         name = u'“' + name + u'”';
     if (more > 0)
-        return names.join(u", "_s) + u" and %1 more"_s.arg(more);
+        return names.join(u", "_s) + Texts::tr(" and %1 more").arg(more);
     const QString last = names.takeLast();
-    return names.isEmpty() ? last : names.join(u", "_s) + u" and "_s + last;
+    return names.isEmpty() ? last : names.join(u", "_s) + Texts::tr(" and ") + last;
 }
 
 }  // namespace
@@ -75,7 +76,7 @@ StructureFields::StructureFields(const StructureSpec& structure, const CodeTexts
     , m_codes(codes)
     , m_column(new QVBoxLayout(this))
     , m_start(new QBTextButton({}, this))
-    , m_more(new QBTextButton(u"More"_s, this))
+    , m_more(new QBTextButton(Texts::tr("More"), this))
 {
     describeInReadingOrder(staticMetaObject, QAccessible::Client);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -295,7 +296,7 @@ void StructureFields::showMore()
             labels.append(member.label);
     m_more->setVisible(!labels.isEmpty() && !m_readOnly);
     m_more->setToolTip(labels.join(u", "_s));
-    m_more->setAccessibleName(u"More fields of this %1"_s.arg(m_structure.item));
+    m_more->setAccessibleName(Texts::tr("More fields of this %1").arg(m_structure.item));
     m_more->setAccessibleDescription(labels.join(u", "_s));
 }
 
@@ -324,8 +325,8 @@ void StructureFields::showForeign()
     m_foreign->setVisible(!names.isEmpty());
     if (!names.isEmpty())
         m_foreign->setText(
-            u"Also holds %1 of another program, which stays. Changing this %2 may be refused for that."_s.arg(
-                listed(names), m_structure.item));
+            Texts::tr("Also holds %1 of another program, which stays. Changing this %2 may be refused for that.")
+                .arg(listed(names), m_structure.item));
 }
 
 // --- What somebody does ---

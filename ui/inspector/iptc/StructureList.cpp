@@ -1,6 +1,7 @@
 #include "ui/inspector/iptc/StructureList.h"
 
 #include "core/iptc/StructureEdit.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/cards/EditedDot.h"
@@ -32,7 +33,7 @@ StructureList::StructureList(const Parts& parts, QWidget* parent)
     : QWidget(parent)
     , m_parts(parts)
     , m_column(new QVBoxLayout(this))
-    , m_add(new QBButton(u"Add %1"_s.arg(parts.structure->item), QBButtonKind::dashed, this))
+    , m_add(new QBButton(Texts::tr("Add %1").arg(parts.structure->item), QBButtonKind::dashed, this))
 {
     describeInReadingOrder(staticMetaObject, QAccessible::Grouping);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -142,7 +143,7 @@ void StructureList::addMenu(StructureCard* card)
     ItemCard* widget = card->widget();
     widget->setFixed(m_readOnly);
     if (m_parts.holds != Holds::several)
-        widget->setAlone(m_parts.holds == Holds::always ? u"Clear"_s : u"Remove"_s);
+        widget->setAlone(m_parts.holds == Holds::always ? Texts::tr("Clear") : Texts::tr("Remove"));
     const QList<QAction*> before = widget->actions();
     for (QAction* action : before)
         delete action;
@@ -240,7 +241,7 @@ void StructureList::showOrder()
         StructureCard* card = m_cards.at(i);
         card->widget()->setCanMove(i > 0, i + 1 < count);
         card->setSpoken(m_parts.holds == Holds::several
-                ? u"%1, %2 %3 of %4"_s.arg(m_parts.name, m_parts.structure->item).arg(i + 1).arg(count)
+                ? Texts::tr("%1, %2 %3 of %4").arg(m_parts.name, m_parts.structure->item).arg(i + 1).arg(count)
                 : m_parts.name);
     }
     const bool isRoom = m_parts.holds == Holds::several || m_cards.isEmpty();

@@ -1,6 +1,7 @@
 #include "ui/inspector/iptc/VocabularySource.h"
 
 #include "core/iptc/Vocabularies.h"
+#include "core/language/Texts.h"
 
 namespace Quorbel {
 
@@ -20,7 +21,7 @@ CodeSource vocabularySource(const QString& id)
         const VocabularyTerm* term = Vocabularies::term(id, code);
         return term ? term->name : QString();
     };
-    source.footer = u"stored as a code"_s;
+    source.footer = Texts::tr("stored as a code");
     return source;
 }
 

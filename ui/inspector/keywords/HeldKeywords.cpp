@@ -1,6 +1,7 @@
 #include "ui/inspector/keywords/HeldKeywords.h"
 
 #include "app/model/AppModel.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/KeywordPath.h"
 #include "ui/controls/WalkedFlow.h"
@@ -46,7 +47,7 @@ void HeldKeywords::refresh()
     int beyond = 0;
     const QList<HeldKeyword> shown = m_model.isBatch() ? wanted(m_most, beyond) : QList<HeldKeyword>();
     m_row->setVisible(!shown.isEmpty());
-    m_row->setLabel(u"In these %1"_s.arg(m_model.selectedKeywordPhotos()));
+    m_row->setLabel(Texts::tr("In these %1").arg(m_model.selectedKeywordPhotos()));
     m_flow->setMost(m_isOpen && beyond == 0 ? 0 : m_isOpen ? QWIDGETSIZE_MAX : mostLines, m_more, beyond);
     if (shown == m_shown)
         return;
@@ -87,9 +88,9 @@ HeldKeyword HeldKeywords::held(const KeywordCount& count, bool isGone) const
     HeldKeyword held{ .keyword = count.keyword };
     held.by = isGone ? HeldKeyword::By::gone : isInAll ? HeldKeyword::By::all : HeldKeyword::By::some;
     if (held.by != HeldKeyword::By::all)
-        held.count = u"%1 of %2"_s.arg(count.photos).arg(photos);
-    held.spoken = count.keyword + (isInAll ? u", in all %1"_s.arg(photos) : u", in "_s + held.count)
-        + (isGone ? u", to be taken away"_s : QString());
+        held.count = Texts::tr("%1 of %2").arg(count.photos).arg(photos);
+    held.spoken = count.keyword + (isInAll ? Texts::tr(", in all %1").arg(photos) : Texts::tr(", in ") + held.count)
+        + (isGone ? Texts::tr(", to be taken away") : QString());
     QStringList paths = m_model.pathsOf(count.keyword);
     for (QString& path : paths)
         path = KeywordPath::shown(path);

@@ -1,6 +1,7 @@
 #include "ui/inspector/keywords/QuickSetMenu.h"
 
 #include "app/model/words/QuickKeywords.h"
+#include "core/language/Texts.h"
 #include "ui/controls/ThemedMenu.h"
 
 #include <QMenu>
@@ -17,12 +18,12 @@ void addQuickSets(QMenu& menu, QuickKeywords& quick)
         action->setChecked(quick.current() == name);
         QObject::connect(action, &QAction::triggered, &quick, [&quick, name] { quick.show(name); });
     };
-    add(u"Last used"_s, {});
+    add(Texts::tr("Last used"), {});
     for (const QuickSet& set : quick.sets())
         add(set.name, set.name);
     menu.addSeparator();
-    QObject::connect(menu.addAction(u"New Set…"_s), &QAction::triggered, &quick, &QuickKeywords::beginNew);
-    QAction* change = menu.addAction(u"Edit Set…"_s);
+    QObject::connect(menu.addAction(Texts::tr("New Set…")), &QAction::triggered, &quick, &QuickKeywords::beginNew);
+    QAction* change = menu.addAction(Texts::tr("Edit Set…"));
     change->setEnabled(!quick.current().isEmpty());
     QObject::connect(change, &QAction::triggered, &quick, &QuickKeywords::beginChange);
 }

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/words/QuickKeywords.h"
+#include "core/language/Texts.h"
 #include "core/schema/KeywordPath.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/ThemedMenu.h"
@@ -24,8 +25,8 @@ QuickStrip::QuickStrip(AppModel& model, QWidget* parent)
     , m_row(new SubRow(m_flow, parent))
     , m_set(new QBTextButton({}, m_flow))
 {
-    m_row->setLabel(u"Quick"_s);
-    m_flow->setAccessibleName(u"Quick keywords"_s);
+    m_row->setLabel(Texts::tr("Quick"));
+    m_flow->setAccessibleName(Texts::tr("Quick keywords"));
     m_set->setTrailingIcon(u"chevron.up.chevron.down"_s);
     connect(m_set, &QAbstractButton::clicked, this, &QuickStrip::openMenu);
 }
@@ -54,12 +55,13 @@ void QuickStrip::refresh()
         chip->setText(text);
         chip->setKeyHint(hasKey ? QString::number(i + 1) : QString());
         chip->setToolTip(told.join(u'\n'));
-        chip->setAccessibleName(hasKey ? u"Add %1 to all, %2"_s.arg(text, key) : u"Add %1 to all"_s.arg(text));
+        chip->setAccessibleName(
+            hasKey ? Texts::tr("Add %1 to all, %2").arg(text, key) : Texts::tr("Add %1 to all").arg(text));
         items.append(chip);
     }
-    const QString set = quick.current().isEmpty() ? u"Last used"_s : quick.current();
+    const QString set = quick.current().isEmpty() ? Texts::tr("Last used") : quick.current();
     m_set->setText(set);
-    m_set->setAccessibleName(u"Set of quick keywords: "_s + set);
+    m_set->setAccessibleName(Texts::tr("Set of quick keywords: ") + set);
     items.append(m_set);
     m_flow->setItems(items);
 }

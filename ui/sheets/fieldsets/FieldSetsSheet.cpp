@@ -1,6 +1,7 @@
 #include "ui/sheets/fieldsets/FieldSetsSheet.h"
 
 #include "app/model/AppModel.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldSchema.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
@@ -60,7 +61,7 @@ QListWidget* makeList()
 {
     auto* list = new QListWidget;
     list->setItemDelegate(new SetDelegate(list));
-    list->setAccessibleName(u"Field sets"_s);
+    list->setAccessibleName(Texts::tr("Field sets"));
     list->setFrameShape(QFrame::NoFrame);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setMouseTracking(true);
@@ -78,7 +79,7 @@ QWidget* makeTickTitles()
     auto* line = new QHBoxLayout(titles);
     line->addStretch();
     QList<ThemedLabel*> labels;
-    for (const QString& title : { u"On screen"_s, u"Wanted"_s }) {
+    for (const QString& title : { Texts::tr("On screen"), Texts::tr("Wanted") }) {
         labels.append(new ThemedLabel(title, TextRole::label, 11));
         labels.last()->setAlignment(Qt::AlignCenter);
         line->addWidget(labels.last());
@@ -98,17 +99,17 @@ FieldSetsSheet::FieldSetsSheet(AppModel& model, QWidget* parent)
     : ListSheet(widths, parent)
     , m_sets(model.fieldSets())
     , m_list(makeList())
-    , m_remove(new QBIconButton(u"xmark"_s, u"Delete this set"_s))
+    , m_remove(new QBIconButton(u"xmark"_s, Texts::tr("Delete this set")))
     , m_name(new QBTextField)
     , m_query(new QBTextField)
     , m_ticks(new FieldTicks)
     , m_problem(new WrappedLine(TextRole::amberText, 11, 15))
-    , m_store(new QBButton(u"Save"_s, QBButtonKind::primary))
+    , m_store(new QBButton(Texts::tr("Save"), QBButtonKind::primary))
 {
     for (const FieldSet& set : m_sets.own())
         m_own.append({ set.name, set });
     m_row = qMax(0, int(m_sets.names().indexOf(m_sets.current())) - 1);
-    auto* add = new QBIconButton(u"plus"_s, u"New set, as a copy of this one"_s);
+    auto* add = new QBIconButton(u"plus"_s, Texts::tr("New set, as a copy of this one"));
     connect(add, &QAbstractButton::clicked, this, &FieldSetsSheet::addCopy);
     connect(m_remove, &QAbstractButton::clicked, this, &FieldSetsSheet::removeSet);
     setParts(m_list, {}, { add, m_remove }, buildForm());
@@ -127,7 +128,7 @@ FieldSetsSheet::FieldSetsSheet(AppModel& model, QWidget* parent)
 void FieldSetsSheet::addCopy()
 {
     FieldSet copy = shown();
-    copy.name += u" copy"_s;
+    copy.name += Texts::tr(" copy");
     addSet(copy);
     fillList();
     show();
@@ -139,10 +140,10 @@ QWidget* FieldSetsSheet::buildForm()
 {
     auto* right = new QWidget;
     auto* column = new QVBoxLayout(right);
-    m_name->setAccessibleName(u"Name of the set"_s);
-    m_name->setPlaceholder(u"Name of the set"_s);
-    m_query->setAccessibleName(u"Search fields"_s);
-    m_query->setPlaceholder(u"Search fields…"_s);
+    m_name->setAccessibleName(Texts::tr("Name of the set"));
+    m_name->setPlaceholder(Texts::tr("Name of the set"));
+    m_query->setAccessibleName(Texts::tr("Search fields"));
+    m_query->setPlaceholder(Texts::tr("Search fields…"));
     m_query->setLeadingIcon(u"magnifyingglass"_s);
     connect(m_name, &QLineEdit::textEdited, this, [this](const QString& text) {
         if (FieldSets::Edited* set = edited())
@@ -163,7 +164,7 @@ QWidget* FieldSetsSheet::buildForm()
             set->set.wanted.insert(id);
         judge();
     });
-    auto* dismiss = new QBButton(u"Cancel"_s, QBButtonKind::secondary);
+    auto* dismiss = new QBButton(Texts::tr("Cancel"), QBButtonKind::secondary);
     connect(dismiss, &QAbstractButton::clicked, this, &FieldSetsSheet::cancel);
     connect(m_store, &QAbstractButton::clicked, this, &FieldSetsSheet::confirm);
     column->setSpacing(0);
@@ -223,7 +224,8 @@ void FieldSetsSheet::show()
 void FieldSetsSheet::judge()
 {
     const std::optional<QString> problem = FieldSets::problem(m_own);
-    const QString note = edited() ? QString() : u"This set comes with Quorbel. Make a copy with + to change it."_s;
+    const QString note =
+        edited() ? QString() : Texts::tr("This set comes with Quorbel. Make a copy with + to change it.");
     m_problem->setText(problem.value_or(note));
     m_problem->setRole(problem ? TextRole::amberText : TextRole::label);
     m_name->setAccessibleDescription(m_problem->text());
@@ -249,7 +251,7 @@ void FieldSetsSheet::removeSet()
 
 QString FieldSetsSheet::title() const
 {
-    return u"Field Sets"_s;
+    return Texts::tr("Field Sets");
 }
 
 void FieldSetsSheet::confirm()

@@ -1,5 +1,6 @@
 #include "ui/sheets/fieldsets/FieldTicks.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/FieldSchema.h"
 #include "core/text/Text.h"
 #include "ui/controls/Labels.h"
@@ -102,9 +103,9 @@ FieldTicks::FieldTicks(QWidget* parent)
     : QTreeWidget(parent)
 {
     setItemDelegate(new TickDelegate(this));
-    setAccessibleName(u"Fields of the set"_s);
+    setAccessibleName(Texts::tr("Fields of the set"));
     setColumnCount(columns);
-    setHeaderLabels({ u"Field"_s, u"On screen"_s, u"Wanted"_s });
+    setHeaderLabels({ Texts::tr("Field"), Texts::tr("On screen"), Texts::tr("Wanted") });
     setHeaderHidden(true);
     setRootIsDecorated(false);
     setIndentation(0);
@@ -156,8 +157,8 @@ void FieldTicks::fill()
         item->setData(Column::name, idRole, id);
         item->setToolTip(Column::name, field.addNote);
         item->setData(Column::name, Qt::AccessibleDescriptionRole, field.addNote);
-        item->setData(Column::onScreen, Qt::AccessibleTextRole, u"%1 on screen"_s.arg(field.label));
-        item->setData(Column::wanted, Qt::AccessibleTextRole, u"%1 wanted"_s.arg(field.label));
+        item->setData(Column::onScreen, Qt::AccessibleTextRole, Texts::tr("%1 on screen").arg(field.label));
+        item->setData(Column::wanted, Qt::AccessibleTextRole, Texts::tr("%1 wanted").arg(field.label));
         for (const int column : { Column::onScreen, Column::wanted }) {
             item->setData(column, idRole, id);
             item->setCheckState(column, Qt::Unchecked);

@@ -1,5 +1,6 @@
 #include "ui/sheets/renaming/RenameList.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
@@ -23,10 +24,10 @@ constexpr qreal radius = 7;
 
 QString spoken(const RenameRow& row)
 {
-    QStringList parts{ row.isUnchanged() ? u"%1 keeps its name"_s.arg(row.oldName)
-                                         : u"%1 to %2"_s.arg(row.oldName, row.newName) };
+    QStringList parts{ row.isUnchanged() ? Texts::tr("%1 keeps its name").arg(row.oldName)
+                                         : Texts::tr("%1 to %2").arg(row.oldName, row.newName) };
     for (const QString& label : row.missing)
-        parts.append(u"no "_s + label.toLower());
+        parts.append(Texts::tr("no ") + label.toLower());
     if (const QString words = row.words(); !words.isEmpty())
         parts.append(words);
     return parts.join(u", "_s);
@@ -87,7 +88,7 @@ RenameList::RenameList(QWidget* parent)
     setFrameShape(NoFrame);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setAccessibleName(u"New names"_s);
+    setAccessibleName(Texts::tr("New names"));
     OverlayScrollBar::attach(this);
     onRestyle(this, [this] {
         // In a low window, or with large type, the list gives way.

@@ -2,6 +2,7 @@
 
 #include "app/model/AppModel.h"
 #include "app/model/renaming/PhotosRenaming.h"
+#include "core/language/Texts.h"
 #include "core/text/FileNaming.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
@@ -87,19 +88,19 @@ RenamePhotosSheet::RenamePhotosSheet(AppModel& model, QWidget* parent)
     , m_renaming(model.renaming())
     , m_pattern(new QBTextField)
     , m_counter(new QWidget)
-    , m_start(new NumberField(u"Counter from"_s, 0, mostStart))
-    , m_step(new NumberField(u"Step"_s, 1, mostStep))
-    , m_digits(new NumberField(u"Digits"_s, 1, CounterForm::mostDigits))
+    , m_start(new NumberField(Texts::tr("Counter from"), 0, mostStart))
+    , m_step(new NumberField(Texts::tr("Step"), 1, mostStep))
+    , m_digits(new NumberField(Texts::tr("Digits"), 1, CounterForm::mostDigits))
     , m_marked(new ThemedLabel({}, TextRole::amberText, 11.5))
-    , m_next(new QBTextButton(u"Next"_s))
+    , m_next(new QBTextButton(Texts::tr("Next")))
     , m_list(new RenameList)
     , m_foot(new WrappedLine(TextRole::label, 11, 15))
-    , m_cancel(new QBButton(u"Cancel"_s, QBButtonKind::secondary))
-    , m_rename(new QBButton(u"Rename"_s, QBButtonKind::primary))
+    , m_cancel(new QBButton(Texts::tr("Cancel"), QBButtonKind::secondary))
+    , m_rename(new QBButton(Texts::tr("Rename"), QBButtonKind::primary))
 {
     m_pattern->setMono(true);
     m_pattern->setPlaceholder(u"%Date%_%Title%_%Counter%"_s);
-    m_pattern->setAccessibleName(u"Pattern"_s);
+    m_pattern->setAccessibleName(Texts::tr("Pattern"));
     auto* column = new QVBoxLayout(this);
     stackParts(this, column,
         { { m_pattern, 12 }, { buildTokens(), 12 }, { buildCounter(), 22 }, { buildHeading(), 8 },
@@ -113,7 +114,7 @@ QWidget* RenamePhotosSheet::buildTokens()
 {
     auto* flow = new TokenFlow;
     QList<FileNaming::Token> tokens = FileNaming::tokens();
-    tokens.append({ u"Counter"_s, u"%Counter%"_s });
+    tokens.append({ Texts::tr("Counter"), u"%Counter%"_s });
     for (const FileNaming::Token& token : std::as_const(tokens))
         flow->add(
             token.label, token.placeholder, [this, placeholder = token.placeholder] { insertToken(placeholder); });
@@ -133,10 +134,10 @@ QWidget* RenamePhotosSheet::buildCounter()
         gaps.append(new QSpacerItem(0, 0));
         counter->addItem(gaps.constLast());
     };
-    add(u"Counter from"_s, m_start);
+    add(Texts::tr("Counter from"), m_start);
     add(u"step"_s, m_step);
     add(u"digits"_s, m_digits);
-    auto* line = new TwoParts(m_counter, new ThemedLabel(u"The extension is kept."_s, TextRole::label, 11));
+    auto* line = new TwoParts(m_counter, new ThemedLabel(Texts::tr("The extension is kept."), TextRole::label, 11));
     onRestyle(this, [=, this] {
         counter->setContentsMargins(0, 0, 0, 0);
         counter->setSpacing(px(labelGap));
@@ -151,10 +152,10 @@ QWidget* RenamePhotosSheet::buildHeading()
 {
     auto* line = new QWidget;
     auto* row = new QHBoxLayout(line);
-    row->addWidget(new LabeledDivider(u"Preview"_s), 1);
+    row->addWidget(new LabeledDivider(Texts::tr("Preview")), 1);
     row->addWidget(m_marked);
     row->addWidget(m_next);
-    m_next->setAccessibleDescription(u"Goes to the next name to look at"_s);
+    m_next->setAccessibleDescription(Texts::tr("Goes to the next name to look at"));
     onRestyle(this, [=, this] {
         row->setContentsMargins(0, 0, 0, 0);
         row->setSpacing(px(8));
@@ -215,12 +216,12 @@ void RenamePhotosSheet::refresh()
     m_list->setPlan(plan);
     const qsizetype marked = plan ? plan->marked : 0;
     m_marked->setVisible(marked > 0);
-    m_marked->setText(u"%1 to look at"_s.arg(counted(marked)));
+    m_marked->setText(Texts::tr("%1 to look at").arg(counted(marked)));
     m_next->setVisible(marked > 0);
     const bool isRunning = m_renaming.isRunning();
     for (QWidget* input : { static_cast<QWidget*>(m_pattern), static_cast<QWidget*>(m_counter) })
         input->setEnabled(!isRunning);
-    const QString title = u"Rename %1"_s.arg(counted(m_renaming.photos()));
+    const QString title = Texts::tr("Rename %1").arg(counted(m_renaming.photos()));
     if (m_rename->text() != title)
         m_rename->setText(title);
     m_rename->setEnabled(m_renaming.canRename() && !m_renaming.isWaiting());
@@ -229,19 +230,19 @@ void RenamePhotosSheet::refresh()
 
 void RenamePhotosSheet::refreshFoot()
 {
-    QString text = u"Sidecars and backups go along. Edit ▸ Undo Rename takes it back."_s;
+    QString text = Texts::tr("Sidecars and backups go along. Edit ▸ Undo Rename takes it back.");
     if (m_renaming.isRunning())
-        text = u"Renaming %1 of %2…"_s.arg(counted(m_renaming.done()), counted(m_renaming.total()));
+        text = Texts::tr("Renaming %1 of %2…").arg(counted(m_renaming.done()), counted(m_renaming.total()));
     else if (m_renaming.isWaiting())
-        text = u"Renames them as soon as the save has ended…"_s;
+        text = Texts::tr("Renames them as soon as the save has ended…");
     else if (m_renaming.unread() > 0)
-        text = u"Reading %1 more…"_s.arg(counted(m_renaming.unread()));
+        text = Texts::tr("Reading %1 more…").arg(counted(m_renaming.unread()));
     m_foot->setText(text);
 }
 
 QString RenamePhotosSheet::title() const
 {
-    return u"Rename %1 Files"_s.arg(counted(m_renaming.photos()));
+    return Texts::tr("Rename %1 Files").arg(counted(m_renaming.photos()));
 }
 
 void RenamePhotosSheet::confirm()

@@ -1,5 +1,6 @@
 #include "ui/sheets/renaming/RenameRowDelegate.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
@@ -41,7 +42,7 @@ bool isWarning(const RenameRow& row)
 
 QString missingText(const RenderedPiece& piece)
 {
-    return u"no "_s + piece.label.toLower();
+    return Texts::tr("no ") + piece.label.toLower();
 }
 
 }  // namespace

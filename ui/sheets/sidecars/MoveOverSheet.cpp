@@ -1,6 +1,7 @@
 #include "ui/sheets/sidecars/MoveOverSheet.h"
 
 #include "app/model/sidecars/MovingOver.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/theme/Metrics.h"
@@ -25,7 +26,8 @@ constexpr int mostNotes = 9;
 // Nothing in a sidecar is replaced, so there is one thing to count.
 QStringList columnsOf(MoveWay way)
 {
-    return way == MoveWay::intoPhotos ? QStringList{ u"Gain"_s, u"Change"_s, u"Lose"_s } : QStringList(u"Gain"_s);
+    return way == MoveWay::intoPhotos ? QStringList{ Texts::tr("Gain"), Texts::tr("Change"), Texts::tr("Lose") }
+                                      : QStringList(Texts::tr("Gain"));
 }
 
 QString counted(qsizetype count)
@@ -40,14 +42,15 @@ MoveOverSheet::MoveOverSheet(MovingOver& moving, QWidget* parent)
     , m_moving(moving)
     , m_isInto(moving.way() == MoveWay::intoPhotos)
     , m_table(new MoveTable(columnsOf(moving.way())))
-    , m_dismiss(new QBButton(u"Cancel"_s, QBButtonKind::secondary))
+    , m_dismiss(new QBButton(Texts::tr("Cancel"), QBButtonKind::secondary))
     , m_write(new QBButton({}, QBButtonKind::primary))
 {
     auto* help = new WrappedLine(TextRole::label, 12, 17);
-    help->setText(m_isInto ? u"What the sidecars hold is written into the photos themselves, also where it differs. "
-                             "The sidecars stay as they are."_s
-                           : u"What raw photos hold and their sidecars do not is written into the sidecars. "
-                             "The photos stay untouched."_s);
+    help->setText(m_isInto
+            ? Texts::tr("What the sidecars hold is written into the photos themselves, also where it differs. "
+                        "The sidecars stay as they are.")
+            : Texts::tr("What raw photos hold and their sidecars do not is written into the sidecars. "
+                        "The photos stay untouched."));
     connect(m_dismiss, &QAbstractButton::clicked, this, &MoveOverSheet::cancel);
     connect(m_write, &QAbstractButton::clicked, this, &MoveOverSheet::confirm);
     auto* column = new QVBoxLayout(this);
@@ -63,7 +66,7 @@ QWidget* MoveOverSheet::buildHeadings()
     auto* headings = new QWidget;
     auto* line = new QHBoxLayout(headings);
     line->setSpacing(0);
-    line->addWidget(new ThemedLabel(u"Field"_s, TextRole::muted, 11));
+    line->addWidget(new ThemedLabel(Texts::tr("Field"), TextRole::muted, 11));
     line->addStretch();
     QList<ThemedLabel*> columns;
     for (const QString& name : columnsOf(m_moving.way())) {
@@ -100,7 +103,8 @@ QString MoveOverSheet::state() const
 {
     if (!m_moving.problem().isEmpty())
         return m_moving.problem();
-    return m_moving.looked() < m_moving.photos() ? u"Looking into the files…"_s : u"There is nothing to write."_s;
+    return m_moving.looked() < m_moving.photos() ? Texts::tr("Looking into the files…")
+                                                 : Texts::tr("There is nothing to write.");
 }
 
 void MoveOverSheet::refresh()
@@ -113,14 +117,15 @@ void MoveOverSheet::refresh()
     if (!m_moving.problem().isEmpty() && !preview.fields.isEmpty())
         notes.prepend(m_moving.problem());
     else if (m_moving.looked() < m_moving.photos())
-        notes.prepend(u"Looked into %1 of %2 photos…"_s.arg(counted(m_moving.looked()), counted(m_moving.photos())));
+        notes.prepend(
+            Texts::tr("Looked into %1 of %2 photos…").arg(counted(m_moving.looked()), counted(m_moving.photos())));
     for (qsizetype i = 0; i < m_notes.size(); ++i) {
         m_notes.at(i)->setText(notes.value(i));
         m_notes.at(i)->setVisible(i < notes.size());
     }
     const qsizetype count = preview.plans.size();
-    const QString photos = count == 1 ? u"1 Photo"_s : counted(count) + u" Photos"_s;
-    m_write->setText(m_isInto ? u"Write Into "_s + photos : u"Write for "_s + photos);
+    const QString photos = count == 1 ? Texts::tr("1 Photo") : counted(count) + Texts::tr(" Photos");
+    m_write->setText(m_isInto ? Texts::tr("Write Into ") + photos : Texts::tr("Write for ") + photos);
     m_write->updateGeometry();
     m_write->setEnabled(m_moving.canMove());
     updateGeometry();
@@ -128,7 +133,7 @@ void MoveOverSheet::refresh()
 
 QString MoveOverSheet::title() const
 {
-    return m_isInto ? u"Write Sidecars Into Photos"_s : u"Write Metadata Into Sidecars"_s;
+    return m_isInto ? Texts::tr("Write Sidecars Into Photos") : Texts::tr("Write Metadata Into Sidecars");
 }
 
 void MoveOverSheet::confirm()

@@ -1,5 +1,6 @@
 #include "ui/sheets/sidecars/MoveTable.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
@@ -22,7 +23,7 @@ constexpr int leastLines = 3;
 
 QString photosText(int count, const QString& one, const QString& many)
 {
-    return count == 1 ? u"1 photo "_s + one : u"%1 photos "_s.arg(count) + many;
+    return count == 1 ? Texts::tr("1 photo ") + one : Texts::tr("%1 photos ").arg(count) + many;
 }
 
 // For who does not see the columns.
@@ -30,11 +31,11 @@ QString spoken(const MovePreview::Row& row)
 {
     QStringList texts;
     if (row.gains > 0)
-        texts.append(photosText(row.gains, u"gains it"_s, u"gain it"_s));
+        texts.append(photosText(row.gains, Texts::tr("gains it"), Texts::tr("gain it")));
     if (row.changes > 0)
-        texts.append(photosText(row.changes, u"changes it"_s, u"change it"_s));
+        texts.append(photosText(row.changes, Texts::tr("changes it"), Texts::tr("change it")));
     if (row.loses > 0)
-        texts.append(photosText(row.loses, u"loses it"_s, u"lose it"_s));
+        texts.append(photosText(row.loses, Texts::tr("loses it"), Texts::tr("lose it")));
     return row.label + u": "_s + texts.join(u", "_s);
 }
 
@@ -103,7 +104,7 @@ MoveTable::MoveTable(const QStringList& columns, QWidget* parent)
 {
     setFramed(true);
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(u"What is written"_s);
+    setAccessibleName(Texts::tr("What is written"));
     installFocusRing(this, { RingShape::tight, 7, {}, {} });
     auto* content = new QWidget;
     auto* column = new QVBoxLayout(content);

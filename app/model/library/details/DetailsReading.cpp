@@ -2,6 +2,7 @@
 
 #include "app/model/Background.h"
 #include "app/model/library/FolderRefresh.h"
+#include "core/language/Texts.h"
 
 #include <QThread>
 
@@ -539,7 +540,7 @@ void DetailsReading::noteFailure(const QList<QUrl>& photos, const QString& reaso
     if (!m_wantsAll)
         return;
     cancel();
-    emit problem(u"Could not read metadata: "_s + reason);
+    emit problem(Texts::tr("Could not read metadata: ") + reason);
 }
 
 }  // namespace Quorbel

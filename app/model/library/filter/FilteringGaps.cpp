@@ -1,6 +1,7 @@
 // The way from gap to gap.
 #include "app/model/AppModel.h"
 #include "app/model/library/filter/Filtering.h"
+#include "core/language/Texts.h"
 
 #include <QLocale>
 
@@ -117,8 +118,8 @@ void Filtering::goToGap(Way way)
         if (lookAhead(unknown, way))
             return;
         const QString note = to == row ? QString()
-            : isForward                ? u"Started again at the top"_s
-                                       : u"Started again at the end"_s;
+            : isForward                ? Texts::tr("Started again at the top")
+                                       : Texts::tr("Started again at the end");
         return goTo({ m_model.records().at(rows.at(row)).url, isForward ? fields.first() : fields.last(), note });
     }
     if (!lookAhead(unknown, way))
@@ -174,7 +175,7 @@ void Filtering::reach()
 QString Filtering::nothingLeft() const
 {
     const QString unread = QLocale().toString(this->unread());
-    return this->unread() == 0 ? u"No gaps left"_s : u"No gaps left · %1 not read yet"_s.arg(unread);
+    return this->unread() == 0 ? Texts::tr("No gaps left") : Texts::tr("No gaps left · %1 not read yet").arg(unread);
 }
 
 }  // namespace Quorbel

@@ -2,6 +2,7 @@
 
 #include "app/model/Background.h"
 #include "app/model/library/FolderRefresh.h"
+#include "core/language/Texts.h"
 
 #include <QPointer>
 #include <QThread>
@@ -210,7 +211,7 @@ void PhotoReading::finish(const Slice& slice, const PhotoReader::Result& result)
     const std::optional<RunningTasks::Task> ended = m_tasks.end(slice.id);
     if (ended && ended->skipped) {
         m_tooSlow.insert(*ended->skipped);
-        leaveOut(*ended->skipped, u"took too long"_s);
+        leaveOut(*ended->skipped, Texts::tr("took too long"));
     } else if (result.error) {
         if (!searchCulprit(slice, *result.error)) {
             end();

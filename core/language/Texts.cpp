@@ -1,0 +1,61 @@
+#include "core/language/Texts.h"
+
+#include <QRegularExpression>
+#include <QTranslator>
+
+#include <algorithm>
+#include <limits>
+
+namespace Quorbel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// As lupdate calls what stands in this class.
+constexpr auto context = "Quorbel::Texts";
+
+std::shared_ptr<const QTranslator>& chosen()
+{
+    static std::shared_ptr<const QTranslator> translator;
+    return translator;
+}
+
+// "%n photo(s) (is|are) read-only" of one, or of several.
+QString englishForm(QString text, qsizetype count)
+{
+    static const QRegularExpression choice(uR"(\(([^()|]*)\|([^()|]*)\))"_s);
+    text.replace(u"(s)"_s, count == 1 ? QString() : u"s"_s);
+    return text.replace(choice, count == 1 ? u"\\1"_s : u"\\2"_s);
+}
+
+}  // namespace
+
+QString Texts::tr(const char* english, const char* meaning, qsizetype count)
+{
+    const bool isCounted = count >= 0;
+    QString text;
+    if (const QTranslator* translator = chosen().get())
+        text = translator->translate(
+            context, english, meaning, int(std::min<qsizetype>(count, std::numeric_limits<int>::max())));
+    if (text.isEmpty())
+        text = isCounted ? englishForm(QString::fromUtf8(english), count) : QString::fromUtf8(english);
+    return isCounted ? text.replace(u"%n"_s, QString::number(count)) : text;
+}
+
+QString Texts::mark(const char* english)
+{
+    return QString::fromUtf8(english);
+}
+
+QString Texts::shown(const QString& english)
+{
+    return chosen() && !english.isEmpty() ? tr(english.toUtf8().constData()) : english;
+}
+
+void Texts::use(std::shared_ptr<const QTranslator> translator)
+{
+    chosen() = std::move(translator);
+}
+
+}  // namespace Quorbel
