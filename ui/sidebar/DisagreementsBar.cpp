@@ -22,12 +22,12 @@ constexpr qreal side = 10;
 constexpr qreal aboveText = 5.5;
 constexpr qreal closeSide = 20;
 
-struct Texts {
+struct FoundTexts {
     QString whole{};
     QString brief{};
 };
 
-Texts textsOf(const AppModel& model)
+FoundTexts textsOf(const AppModel& model)
 {
     const AppModel::Disagreements found = model.disagreements();
     const QLocale locale;
@@ -37,7 +37,7 @@ Texts textsOf(const AppModel& model)
         const QString far = Texts::tr("%1 of %2").arg(locale.toString(all - found.unknown), locale.toString(all));
         return { Texts::tr("Looking… ") + far, far };
     }
-    Texts texts{ counted(found.photos == 1 ? Texts::tr("%1 photo disagrees") : Texts::tr("%1 photos disagree"),
+    FoundTexts texts{ counted(found.photos == 1 ? Texts::tr("%1 photo disagrees") : Texts::tr("%1 photos disagree"),
                      found.photos),
         counted(Texts::tr("%1 disagree"), found.photos) };
     if (found.unknown > 0) {
@@ -81,7 +81,7 @@ bool DisagreementsBar::canLook(const AppModel& model)
 
 void DisagreementsBar::follow()
 {
-    const Texts texts = textsOf(m_model);
+    const FoundTexts texts = textsOf(m_model);
     m_notice->setText(texts.whole, texts.brief);
     m_notice->setOffered(canLook(m_model));
 }

@@ -210,9 +210,8 @@ Page fieldSetsPage()
                     Texts::tr("Save What Is on Screen as Set… makes a set of your own; Edit Sets… changes what is in "
                               "it and what it "
                               "wants. Sets that come with Quorbel can be copied there."),
-                    u"Default is the form as it was. Once you have chosen a set, or made one, they can be picked at "
-                    u"the " Texts::tr("top "
-                                      "of the form, too.") }),
+                    Texts::tr("Default is the form as it was. Once you have chosen a set, or made one, they can be "
+                              "picked at the top of the form, too.") }),
         } };
 }
 
