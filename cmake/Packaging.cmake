@@ -21,7 +21,7 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://quorbel.app/)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
     "perl, libimage-exiftool-perl (>= 12.57), libqt6sql6-sqlite, libqt6svg6, qt6-image-formats-plugins")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, fonts-inter, fonts-jetbrains-mono")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, qt6-translations-l10n, fonts-inter, fonts-jetbrains-mono")
 
 # Debian wants the changelog and the manual page compressed, and a copyright file, under these names.
 find_program(GZIP_PROGRAM gzip REQUIRED)

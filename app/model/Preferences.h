@@ -65,6 +65,8 @@ public:
     Setting<bool> openSubfolders{ *this, "openSubfolders", false };
     Setting<RecordSortOrder> sortOrder{ *this, "sortOrder", RecordSortOrder::nameAsc };
     Setting<std::optional<ColorScheme>> colorOverride{ *this, "appearance", std::nullopt };
+    /// Code of the language to speak, as of Languages; empty: the desktop's. It holds from the next start on.
+    Setting<QString> language{ *this, "language", {} };
     Setting<QStringList> recentPaths{ *this, "recentItems", {} };
 
     /// The store itself, for the views' own few values.

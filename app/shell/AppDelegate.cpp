@@ -10,6 +10,7 @@
 #include "app/shell/SessionEnd.h"
 #include "app/shell/TemplatePanels.h"
 #include "app/shell/TerminationSignals.h"
+#include "app/shell/UserLanguage.h"
 #include "core/Product.h"
 #include "platform/desktop/Compositor.h"
 #include "platform/desktop/SystemScheme.h"
@@ -232,7 +233,7 @@ void AppDelegate::applyThemes()
 void AppDelegate::openSettings()
 {
     if (!m_settings) {
-        m_settings = new SettingsView(m_app->model(), m_window.get());
+        m_settings = new SettingsView(m_app->model(), UserLanguage::all(), m_window.get());
         m_settings->setWindowFlags(Qt::Dialog);
         m_settings->setAttribute(Qt::WA_DeleteOnClose);
         m_settings->setAttribute(Qt::WA_QuitOnClose, false);

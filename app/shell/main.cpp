@@ -1,4 +1,5 @@
 #include "app/shell/AppDelegate.h"
+#include "app/shell/UserLanguage.h"
 #include "core/Product.h"
 #include "core/language/Texts.h"
 
@@ -44,6 +45,8 @@ int main(int argc, char* argv[])
     QApplication::setApplicationName(Product::name());
     QApplication::setApplicationVersion(QString::fromUtf8(QUORBEL_VERSION));
     QApplication::setDesktopFileName(u"app.quorbel.Quorbel"_s);
+
+    UserLanguage::speak(application);
 
     // What Qt's readers print about a photo, above all about one whose decoding was broken off, helps nobody.
     QLoggingCategory::setFilterRules(u"qt.gui.imageio*.warning=false"_s);

@@ -12,9 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// As lupdate calls what stands in this class.
-constexpr auto context = "Quorbel::Texts";
-
 std::shared_ptr<const QTranslator>& chosen()
 {
     static std::shared_ptr<const QTranslator> translator;
@@ -37,7 +34,7 @@ QString Texts::tr(const char* english, const char* meaning, qsizetype count)
     QString text;
     if (const QTranslator* translator = chosen().get())
         text = translator->translate(
-            context, english, meaning, int(std::min<qsizetype>(count, std::numeric_limits<int>::max())));
+            context(), english, meaning, int(std::min<qsizetype>(count, std::numeric_limits<int>::max())));
     if (text.isEmpty())
         text = isCounted ? englishForm(QString::fromUtf8(english), count) : QString::fromUtf8(english);
     return isCounted ? text.replace(u"%n"_s, QString::number(count)) : text;
@@ -51,6 +48,12 @@ QString Texts::mark(const char* english)
 QString Texts::shown(const QString& english)
 {
     return chosen() && !english.isEmpty() ? tr(english.toUtf8().constData()) : english;
+}
+
+// As lupdate calls what this class is asked for.
+const char* Texts::context()
+{
+    return "Quorbel::Texts";
 }
 
 void Texts::use(std::shared_ptr<const QTranslator> translator)

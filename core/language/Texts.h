@@ -28,6 +28,9 @@ public:
     /// A marked text in the user's language. What is no such text (a name of the user's own) comes back as it is.
     static QString shown(const QString& english);
 
+    /// Under which translations hold the texts.
+    static const char* context();
+
     /// Takes the texts from it from now on; from nobody (English) without one.
     static void use(std::shared_ptr<const QTranslator> translator);
 };

@@ -43,7 +43,7 @@ const QList<Floor>& floors()
         { u"app/model"_s, { u"app/model"_s, u"core"_s, u"platform"_s },
             { u"QtCore"_s, u"QtGui"_s, u"QtConcurrent"_s, u"QtSql"_s },
             { u"fcntl.h"_s, u"sys/resource.h"_s, u"sys/stat.h"_s, u"sys/sysmacros.h"_s, u"unistd.h"_s } },
-        { u"ui/controls"_s, { u"ui/controls"_s }, { u"QtCore"_s, u"QtGui"_s, u"QtWidgets"_s, u"QtSvg"_s }, {}, false },
+        { u"ui/controls"_s, { u"ui/controls"_s, u"core/language"_s }, { u"QtCore"_s, u"QtGui"_s, u"QtWidgets"_s, u"QtSvg"_s }, {}, false },
         { u"ui"_s, { u"ui"_s, u"app/model"_s, u"core"_s, u"platform"_s },
             { u"QtCore"_s, u"QtGui"_s, u"QtWidgets"_s, u"QtSvg"_s }, {}, false },
         { u"app/shell"_s, { u"app"_s, u"ui"_s, u"core"_s, u"platform"_s },

@@ -9,6 +9,7 @@
 #include "ui/controls/ScrollArea.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/Toggles.h"
+#include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/pickers/SegmentedPicker.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
@@ -18,6 +19,8 @@
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace Quorbel {
 
@@ -32,6 +35,7 @@ constexpr qreal groupRadius = 9;
 constexpr qreal rowHeight = 40;
 constexpr qreal fieldRowHeight = 44;
 constexpr qreal patternWidth = 216;
+constexpr qreal languageWidth = 160;
 
 // A white box with rows, lines between them.
 class Group final : public QWidget {
@@ -114,9 +118,10 @@ int indexOf(std::optional<ColorScheme> scheme)
 
 }  // namespace
 
-SettingsView::SettingsView(AppModel& model, QWidget* parent)
+SettingsView::SettingsView(AppModel& model, QList<Languages::Language> languages, QWidget* parent)
     : SideWindow(Texts::tr("Settings"), parent)
     , m_model(model)
+    , m_languages(std::move(languages))
 {
     describeAs(staticMetaObject, QAccessible::Dialog);
     auto* area = new ScrollArea;
@@ -151,6 +156,7 @@ void SettingsView::addDisplay(QVBoxLayout* column)
 {
     Group* group = addGroup(column, Texts::tr("Display"));
     group->addRow(Texts::tr("Appearance"), appearancePicker());
+    group->addRow(Texts::tr("Language"), languagePicker(), Texts::tr("Takes effect at the next start."));
     group->addRow(Texts::tr("Show namespace details"),
         toggle(Texts::tr("Show namespace details"), m_model.preferences().showNamespace),
         Texts::tr("Adds the source tags (EXIF / IPTC / XMP) under each field."));
@@ -245,6 +251,28 @@ QWidget* SettingsView::appearancePicker()
         static const std::optional<ColorScheme> schemes[]{ std::nullopt, ColorScheme::light, ColorScheme::dark };
         m_model.preferences().colorOverride.set(schemes[index]);
     });
+    return picker;
+}
+
+// Those that there are, by the names that they have in themselves.
+QWidget* SettingsView::languagePicker()
+{
+    auto* picker = new ChoicePicker(Texts::tr("Language"), languageWidth);
+    //: The language of the desktop, in a list of languages.
+    QStringList titles{ Texts::tr("System", "language") };
+    for (const Languages::Language& language : m_languages)
+        titles.append(language.name);
+    picker->setTitles(titles);
+    Setting<QString>& chosen = m_model.preferences().language;
+    const auto show = [this, picker, &chosen] {
+        const auto at = std::find_if(m_languages.cbegin(), m_languages.cend(),
+            [&chosen](const Languages::Language& language) { return language.code == chosen(); });
+        picker->setCurrent(at == m_languages.cend() ? 0 : 1 + int(at - m_languages.cbegin()));
+    };
+    connect(&m_model.preferences(), &Preferences::changed, picker, show);
+    show();
+    connect(picker, &ChoicePicker::picked, &m_model,
+        [this, &chosen](int index) { chosen.set(index > 0 ? m_languages.at(index - 1).code : QString()); });
     return picker;
 }
 

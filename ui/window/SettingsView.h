@@ -2,6 +2,7 @@
 // Each control shows its preference and writes it at once; there is nothing to apply.
 #pragma once
 
+#include "core/language/Languages.h"
 #include "ui/window/SideWindow.h"
 
 class QVBoxLayout;
@@ -17,7 +18,8 @@ class SettingsView final : public SideWindow {
     Q_DISABLE_COPY_MOVE(SettingsView)
 
 public:
-    explicit SettingsView(AppModel& model, QWidget* parent = nullptr);
+    /// `languages`: those that can be chosen.
+    SettingsView(AppModel& model, QList<Languages::Language> languages, QWidget* parent = nullptr);
     QSize sizeHint() const override;
 
 protected:
@@ -31,6 +33,7 @@ private:
     void addPlaces(QVBoxLayout* column);
     void addCodes(QVBoxLayout* column);
     QWidget* appearancePicker();
+    QWidget* languagePicker();
     QWidget* homeRow(const QString& name, Setting<bool>& isBeside, const QString& inside, const QString& beside);
     QWidget* namingRow();
     QWidget* patternField();
@@ -38,6 +41,7 @@ private:
     QWidget* toggle(const QString& name, Setting<bool>& setting);
 
     AppModel& m_model;
+    QList<Languages::Language> m_languages;
 };
 
 }  // namespace Quorbel

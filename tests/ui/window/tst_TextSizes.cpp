@@ -1,38 +1,9 @@
 // The whole window at the sizes of text that a desktop offers: nothing is cut off, shortened or covered that is not at
 // the usual size. QT_SCALE_FACTOR is the caller's: the test is run once for each of several.
-#include "app/model/renaming/PhotosRenaming.h"
-#include "app/model/sidecars/MovingOver.h"
-#include "app/model/templates/Templates.h"
-#include "app/model/timeshift/TimeShifting.h"
-#include "app/model/words/FieldPasting.h"
-#include "tests/ui/LayoutAudit.h"
-#include "tests/ui/inspector/HalfRead.h"
 #include "tests/ui/window/WindowFixture.h"
-#include "ui/controls/Buttons.h"
-#include "ui/controls/ThemedMenuBar.h"
-#include "ui/controls/attached/CodesChip.h"
-#include "ui/controls/attached/MarkButton.h"
-#include "ui/sheets/AddFieldSheet.h"
-#include "ui/sheets/MessageSheet.h"
-#include "ui/sheets/PasteFieldsSheet.h"
-#include "ui/sheets/QuickSetSheet.h"
-#include "ui/sheets/RenameSheet.h"
-#include "ui/sheets/SaveDialogView.h"
-#include "ui/sheets/ShiftTimeSheet.h"
-#include "ui/sheets/ShortcutsSheet.h"
-#include "ui/sheets/fieldsets/FieldSetsSheet.h"
-#include "ui/sheets/renaming/RenamePhotosSheet.h"
-#include "ui/sheets/sidecars/MoveOverSheet.h"
-#include "ui/sidebar/FilterTexts.h"
-#include "ui/templates/TemplatesSheet.h"
-#include "ui/window/HelpView.h"
-#include "ui/window/SettingsView.h"
+#include "tests/ui/window/WindowWalk.h"
 
-#include <QClipboard>
-#include <QDir>
-#include <QFileInfo>
-#include <QListWidget>
-#include <QMenu>
+#include <QLabel>
 #include <QRegularExpression>
 
 #include <cmath>
@@ -43,15 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Scenes = QMap<QString, LayoutAudit>;
-
-const QString longMessage = u"Saved 2 of 3 photos. 2x3_b.jpg: Error: Not a valid JPG (looks more like a TXT). The "
-                            "other photos hold what you typed, and nothing was lost."_s;
-
-const QString copiedFields =
-    u"{\"format\":\"quorbel-fields\",\"version\":1,\"photo\":\"/p/2x2.jpg\",\"fields\":{\"title\":\"4x4 light\","
-    "\"rating\":\"3\",\"keywords\":[\"3x3\",\"lake\"],\"copyright\":\"© 2024 Mara Lindqvist\",\"date\":\"2024-10-12 17:48\"}}"_s;
-
 // The screen that the test brings along says this at every change of every window.
 void dropSizeHintMessages()
 {
@@ -61,244 +23,6 @@ void dropSizeHintMessages()
             next(type, context, message);
     });
 }
-
-void setTextSize(qreal points)
-{
-    QFont font = QApplication::font();
-    font.setPointSizeF(points);
-    QApplication::setFont(font);
-}
-
-// A window of the program over the photos of a fixture.
-std::unique_ptr<QMainWindow> makeWindow(InspectorFixture& f, SystemScheme& scheme, QSize size)
-{
-    auto window = std::make_unique<QMainWindow>();
-    ContentFactories factories;
-    factories.inspector = [&f](QWidget* parent) {
-        return new InspectorView(f.model(), nullptr, &f.places, &f.maps, parent);
-    };
-    factories.addField = [&f] { return new AddFieldSheet(f.model()); };
-    factories.save = [&f] { return new SaveDialogView(f.model()); };
-    factories.rename = [&f] { return new RenameSheet(f.model()); };
-    factories.pasteFields = [&f] { return new PasteFieldsSheet(f.model(), nullptr); };
-    factories.renamePhotos = [&f] { return new RenamePhotosSheet(f.model()); };
-    factories.shiftTime = [&f] { return new ShiftTimeSheet(f.model(), nullptr); };
-    factories.moveOver = [&f] { return new MoveOverSheet(f.model().movingOver()); };
-    factories.templates = [&f] { return new TemplatesSheet(f.model()); };
-    factories.fieldSets = [&f] { return new FieldSetsSheet(f.model()); };
-    factories.setInspectorInset = [](QWidget* inspector, int pixels) {
-        static_cast<InspectorView*>(inspector)->setBottomInset(pixels);
-    };
-    auto* content = new ContentView(f.model(), nullptr, scheme, window.get(), factories);
-    window->setMenuWidget(content->bar());
-    window->setCentralWidget(content);
-    for (const QString& title : { u"&File"_s, u"&Edit"_s, u"&View"_s, u"&Help"_s })
-        content->bar()->menuBar()->addMenu(new QMenu(title, content->bar()));
-    window->resize(size);
-    return window;
-}
-
-class Walk {
-public:
-    Walk(InspectorFixture& photos, InspectorFixture& folders, InspectorFixture& none, HalfRead& half, QSize size)
-        : m_photos(photos)
-        , m_half(half)
-        , m_size(size)
-        , m_window(makeWindow(photos, m_scheme, size))
-        , m_folders(makeWindow(folders, m_scheme, size))
-        , m_empty(makeWindow(none, m_scheme, size))
-        , m_reading(makeWindow(half, m_scheme, size))
-        , m_settings(new SettingsView(photos.model(), nullptr))
-        , m_help(new HelpView)
-    {
-        for (QWidget* shown : QList<QWidget*>{
-                 m_window.get(), m_folders.get(), m_empty.get(), m_reading.get(), m_settings.get(), m_help.get() })
-            shown->show();
-        for (QWidget* second : QList<QWidget*>{ m_settings.get(), m_help.get() })
-            setTheme(second, Theme::light());
-        settle();
-    }
-
-    // Looks at everything, and leaves the photos as they were.
-    Scenes scenes()
-    {
-        Scenes seen;
-        settle();
-        look(seen, u"empty"_s, *m_empty);
-        look(seen, u"subfolders"_s, *m_folders);
-        seen.insert(u"settings"_s, audit(m_settings.get()));
-        auto* topics = m_help->findChild<QListWidget*>();
-        for (int row = 0; row < topics->count(); ++row) {
-            topics->setCurrentRow(row);
-            settle();
-            seen.insert(u"help: "_s + topics->item(row)->text(), audit(m_help.get()));
-        }
-        single(seen);
-        batch(seen);
-        reading(seen);
-        return seen;
-    }
-
-private:
-    // A window that grew for larger text is looked at in the size that is asked for.
-    void settle() const
-    {
-        for (QMainWindow* window : { m_window.get(), m_folders.get(), m_empty.get(), m_reading.get() }) {
-            window->setMinimumSize(0, 0);
-            window->resize(m_size);
-        }
-        for (int i = 0; i < 4; ++i)
-            InspectorFixture::settle();
-    }
-
-    void look(Scenes& seen, const QString& name) { look(seen, name, *m_window); }
-    void look(Scenes& seen, const QString& name, QMainWindow& window)
-    {
-        settle();
-        if (const QString folder = qEnvironmentVariable("QUORBEL_TEST_PICTURES"); !folder.isEmpty())
-            window.grab().save(
-                u"%1/%2-%3-%4pt.png"_s.arg(folder, name).arg(m_size.width()).arg(QApplication::font().pointSizeF()));
-        seen.insert(name, audit(&window));
-    }
-
-    void single(Scenes& seen)
-    {
-        AppModel& model = m_photos.model();
-        m_photos.click(u"1x1_a.jpg"_s);
-        look(seen, u"one photo"_s);
-        const auto row = [this](const QString& id) { return m_window->findChild<InspectorForm*>()->row(id); };
-        row(u"title"_s)->findChild<CodesChip*>()->click();
-        look(seen, u"languages"_s);
-        row(u"copyright"_s)->findChild<MarkButton*>()->click();
-        settle();
-        seen.insert(u"places"_s, audit(QApplication::activePopupWidget()));
-        QApplication::activePopupWidget()->close();
-        row(u"title"_s)->findChild<CodesChip*>()->click();
-        model.setSingle(u"title"_s, u"Last 5x7 light"_s);
-        model.setSingle(u"creator"_s, u"Mara"_s);
-        look(seen, u"edited"_s);
-        model.setErrorMessage(longMessage);
-        look(seen, u"banner"_s);
-        model.setErrorMessage(std::nullopt);
-        model.setAddOpen(true);
-        look(seen, u"add a field"_s);
-        model.setAddOpen(false);
-        model.requestSave();
-        look(seen, u"save"_s);
-        model.discardSaveDialog();
-        model.setRenameOpen(true);
-        look(seen, u"rename"_s);
-        model.setRenameOpen(false);
-        model.preferences().showNamespace.set(true);
-        look(seen, u"tags"_s);
-        model.preferences().showNamespace.set(false);
-        auto* host = m_window->findChild<SheetHost*>();
-        presentMessage(
-            *host, u"tag"_s, u"Replace the file?"_s, longMessage, { u"Keep both"_s, u"Replace"_s, u"Cancel"_s }, {});
-        look(seen, u"message"_s);
-        host->dismiss(host->current());
-        host->present(new ShortcutsSheet(Shortcuts::inPlaces()));
-        look(seen, u"shortcuts"_s);
-        host->dismiss(host->current());
-        host->present(new QuickSetSheet(model));
-        look(seen, u"quick keywords"_s);
-        host->dismiss(host->current());
-        fieldSets(seen);
-        filterMenu(seen);
-    }
-
-    void fieldSets(Scenes& seen)
-    {
-        FieldSets& sets = m_photos.model().fieldSets();
-        sets.choose(u"Press"_s);
-        look(seen, u"a field set"_s);
-        m_photos.model().selectAllPhotos();
-        look(seen, u"a field set, batch"_s);
-        m_photos.click(u"1x1_a.jpg"_s);
-        sets.edit();
-        look(seen, u"field sets"_s);
-        sets.cancel();
-        sets.choose(FieldSets::usual());
-    }
-
-    void filterMenu(Scenes& seen)
-    {
-        for (auto* button : m_window->findChildren<QBIconButton*>())
-            if (button->accessibleName() == FilterTexts::name())
-                button->click();
-        settle();
-        QVERIFY(QApplication::activePopupWidget());
-        seen.insert(u"filters"_s, audit(QApplication::activePopupWidget()));
-        QApplication::activePopupWidget()->close();
-    }
-
-    void batch(Scenes& seen)
-    {
-        AppModel& model = m_photos.model();
-        model.selectAllPhotos();
-        look(seen, u"batch"_s);
-        model.renaming().open();
-        look(seen, u"rename many"_s);
-        model.renaming().close();
-        model.timeShifting().request();
-        look(seen, u"shift times"_s);
-        model.timeShifting().close();
-        model.movingOver().request(MoveWay::intoPhotos);
-        look(seen, u"move over"_s);
-        model.movingOver().close();
-        model.setBatch(u"copyright"_s, u"© 2024 Mara Lindqvist"_s);
-        model.setBatch(
-            u"description"_s, u"A 6x6 of still water after a clear October day, looking south from the bank."_s);
-        model.addBatchListItem(u"keywords"_s, u"9x9"_s);
-        look(seen, u"batch, edited"_s);
-        model.requestSave();
-        look(seen, u"apply"_s);
-        model.cancelSaveDialog();
-        QApplication::clipboard()->setText(copiedFields);
-        model.pasting().ask();
-        look(seen, u"paste"_s);
-        model.pasting().close();
-        model.templates().store().add({ .name = u"Regatta, race day"_s,
-            .digit = 1,
-            .fields = { { .key = u"title"_s, .text = u"Race %Counter% off %Place|Zürich%"_s },
-                { .key = u"keywords"_s, .mode = TemplateMode::append, .items = { u"sailing"_s } } } });
-        model.templates().setOpen(true);
-        look(seen, u"templates"_s);
-        model.templates().setOpen(false);
-        model.toggleBatchInclude(u"copyright"_s);
-        model.toggleBatchInclude(u"description"_s);
-        model.clearBatchList(u"keywords"_s);
-        m_photos.click(u"1x1_a.jpg"_s);
-    }
-
-    void reading(Scenes& seen)
-    {
-        AppModel& model = m_half.model();
-        model.tap(m_half.photos.url(u"a.jpg"_s), false, false);
-        QTest::qWait(250);  // the blocks do not come at once
-        look(seen, u"reading"_s, *m_reading);
-        model.selectAllPhotos();
-        look(seen, u"batch, reading"_s, *m_reading);
-        model.setBatch(u"creator"_s, u"Mara"_s);
-        model.setBatchDontAskSession(true);
-        model.requestSave();
-        look(seen, u"apply, reading"_s, *m_reading);
-        model.cancelRead();
-        settle();
-        model.toggleBatchInclude(u"creator"_s);
-    }
-
-    InspectorFixture& m_photos;
-    HalfRead& m_half;
-    QSize m_size;
-    SystemScheme m_scheme;
-    std::unique_ptr<QMainWindow> m_window;
-    std::unique_ptr<QMainWindow> m_folders;
-    std::unique_ptr<QMainWindow> m_empty;
-    std::unique_ptr<QMainWindow> m_reading;
-    std::unique_ptr<SettingsView> m_settings;
-    std::unique_ptr<HelpView> m_help;
-};
 
 }  // namespace
 
@@ -315,10 +39,7 @@ private slots:
     void nothingIsLostAtAnySize();
 
 private:
-    std::unique_ptr<InspectorFixture> m_photos;
-    std::unique_ptr<InspectorFixture> m_folders;
-    std::unique_ptr<InspectorFixture> m_none;
-    std::unique_ptr<HalfRead> m_half;
+    std::unique_ptr<WalkedPhotos> m_photos;
     QMap<int, Scenes> m_usual;  // by the window's width
 };
 
@@ -326,38 +47,11 @@ void tst_TextSizes::initTestCase()
 {
     dropSizeHintMessages();
     setTextSize(10);
-    m_photos = std::make_unique<InspectorFixture>();
-    m_none = std::make_unique<InspectorFixture>();
-    m_folders = std::make_unique<InspectorFixture>();
-    for (const QString& name : { u"Alps/2x2 Lake/a.jpg"_s, u"Alps/Pass/b.jpg"_s, u"Zoo/c.jpg"_s, u"Zoo/d.jpg"_s }) {
-        QVERIFY(QDir(m_folders->photos.folder.path()).mkpath(QFileInfo(name).path()));
-        m_folders->photos.folder.add(name);
-    }
-    m_folders->model().preferences().openSubfolders.set(true);
-    QVERIFY(m_folders->photos.open());
-    m_folders->model().setFolded(m_folders->photos.url(u"Alps/Pass"_s), true);
-    m_half = std::make_unique<HalfRead>();
-    m_photos->photos.lookAtDetails();
-    m_photos->add(u"1x1_a.jpg"_s,
-        { u"-XMP-dc:Title-de=Abend am 1x1 See"_s, u"-XMP-dc:Title-fr=Soir au bord du lac"_s, u"-XMP-dc:Rights=Mara"_s,
-            u"-EXIF:Copyright=(c) Mara Lindqvist 9x13, all rights reserved. Prints on request."_s,
-            u"-XMP-dc:Title=Evening by the lake"_s, u"-EXIF:DateTimeOriginal=2024:10:12 17:48:00"_s,
-            u"-EXIF:OffsetTimeOriginal=+02:00"_s, u"-IPTC:Keywords=lake"_s, u"-IPTC:Keywords=13x18"_s,
-            u"-XMP-dc:Creator=Mara Lindqvist"_s, u"-XMP-photoshop:City=Zürich"_s, u"-GPSLatitude=47.3769"_s,
-            u"-GPSLatitudeRef=N"_s, u"-GPSLongitude=8.5417"_s, u"-GPSLongitudeRef=E"_s, u"-XMP:Rating=4"_s,
-            u"-EXIF:Model=E-M5MarkIII"_s, u"-EXIF:Make=OLYMPUS"_s, u"-EXIF:LensModel=M.12-40mm F2.8"_s,
-            u"-EXIF:ISO=200"_s, u"-EXIF:ExposureTime=1/60"_s, u"-EXIF:FNumber=5.6"_s, u"-EXIF:FocalLength=17"_s });
-    m_photos->add(u"2x3_b.jpg"_s, { u"-XMP-dc:Creator=Mara Lindqvist"_s });
-    m_photos->add(u"3x4_c.jpg"_s, { u"-XMP-dc:Title=Other"_s });
-    QVERIFY(m_photos->photos.open());
-    m_photos->model().selectAllPhotos();
-    for (const ImageRecord& record : m_photos->model().selectedRecords())
-        QTRY_VERIFY(m_photos->model().details(record.url));
-    m_photos->model().addKnownField(u"headline"_s);
-    QVERIFY(m_half->openHalf());
+    m_photos = std::make_unique<WalkedPhotos>();
+    QVERIFY(m_photos->open());
     // The second is the narrowest in which the preview takes room from the inspector.
     for (const QSize size : { QSize(900, 600), QSize(1100, 600), QSize(1600, 1000) })
-        m_usual.insert(size.width(), Walk(*m_photos, *m_folders, *m_none, *m_half, size).scenes());
+        m_usual.insert(size.width(), WindowWalk(*m_photos, size).scenes());
 }
 
 // A small window with one of every fault; and the same without.
@@ -430,7 +124,7 @@ void tst_TextSizes::nothingIsLostAtAnySize()
     QFETCH(bool, whileRunning);
     if (!whileRunning)
         setTextSize(points);
-    Walk walk(*m_photos, *m_folders, *m_none, *m_half, window);
+    WindowWalk walk(*m_photos, window);
     setTextSize(points);
     const Scenes seen = walk.scenes();
     QMap<QString, QString> faults;  // and a scene that each is seen in

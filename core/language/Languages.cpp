@@ -1,0 +1,83 @@
+#include "core/language/Languages.h"
+
+#include "core/language/Texts.h"
+
+#include <QDir>
+#include <QLocale>
+#include <QTranslator>
+
+#include <algorithm>
+
+namespace Quorbel::Languages {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString english = u"en"_s;
+
+// Each file says what its language is called in itself. Nothing of one that cannot be read.
+QString ownName(const QFileInfo& file)
+{
+    //: The name of this language in this language itself, as a list of languages shows it: Deutsch, 日本語.
+    static const struct {
+        const char* source;
+        const char* comment;
+    } name = QT_TRANSLATE_NOOP3("Quorbel::Texts", "English", "name of this language");
+    QTranslator translator;
+    if (!translator.load(file.filePath()))
+        return {};
+    return translator.translate(Texts::context(), name.source, name.comment);
+}
+
+// Languages written in several ways, or none, are told apart by their script or country: zh-Hans-CN is zh_CN.
+bool serves(const QString& code, const QLocale& wanted)
+{
+    const QLocale locale(code);
+    return locale.language() == wanted.language()
+        && (locale.language() != QLocale::Chinese || locale.script() == wanted.script());
+}
+
+}  // namespace
+
+QList<Language> in(const QString& folder)
+{
+    QList<Language> languages;
+    const QString prefix = u"quorbel_"_s;
+    for (const QFileInfo& file : QDir(folder).entryInfoList({ prefix + u"*.qm"_s }, QDir::Files)) {
+        const QString code = file.completeBaseName().sliced(prefix.size());
+        if (const QString name = ownName(file); !name.isEmpty())
+            languages.append({ code, name });
+    }
+    std::sort(languages.begin(), languages.end(),
+        [](const Language& a, const Language& b) { return a.name.localeAwareCompare(b.name) < 0; });
+    languages.prepend({ english, u"English"_s });
+    return languages;
+}
+
+QString wanted(const QString& choice, const QStringList& desktop, const QList<Language>& there)
+{
+    for (const Language& language : there)
+        if (language.code == choice)
+            return choice;
+    for (const QString& name : desktop)
+        for (const Language& language : there)
+            if (serves(language.code, QLocale(name)))
+                return language.code;
+    return english;
+}
+
+bool use(const QString& code, const QString& folder)
+{
+    if (code == english) {
+        Texts::use(nullptr);
+        return true;
+    }
+    auto translator = std::make_shared<QTranslator>();
+    if (!translator->load(u"quorbel_%1.qm"_s.arg(code), folder))
+        return false;
+    Texts::use(std::move(translator));
+    return true;
+}
+
+}  // namespace Quorbel::Languages

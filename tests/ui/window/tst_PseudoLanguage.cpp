@@ -1,0 +1,122 @@
+// The whole window in a language that nobody speaks: every letter of the program's own texts has an accent, and each
+// text is longer. A text that still has plain letters was never given to translation; one that is cut off would be cut
+// off in a real language, too.
+#include "core/language/Texts.h"
+#include "tests/ui/window/WindowFixture.h"
+#include "tests/ui/window/WindowWalk.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QRegularExpression>
+#include <QTranslator>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString accented(const QString& text)
+{
+    static const QString plain = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"_s;
+    static const QString marked = u"ÀƁČĎÉƑĜĤÍĴĶĹṀÑÓṔɊŔŠŤÚṼŴẊÝŽàƀčďéƒĝĥíĵķĺṁñóṕɋŕšťúṽŵẋýž"_s;
+    QString result;
+    for (const QChar letter : text) {
+        const qsizetype at = plain.indexOf(letter);
+        result += at < 0 ? letter : marked.at(at);
+    }
+    return result;
+}
+
+// Leaves what is no words: placeholders, tokens, tags of rich text.
+class PseudoLanguage final : public QTranslator {
+public:
+    QString translate(const char*, const char* text, const char*, int) const override
+    {
+        static const QRegularExpression kept(u"%[0-9n]|%[A-Za-z]+%|<[^>]+>|\\([^()|]*\\|[^()|]*\\)|\\(s\\)"_s);
+        const QString english = QString::fromUtf8(text);
+        QString result;
+        qsizetype end = 0;
+        for (const auto& match : kept.globalMatch(english)) {
+            result += accented(english.sliced(end, match.capturedStart() - end));
+            result += match.captured().startsWith(u'(') ? QString() : match.captured();
+            end = match.capturedEnd();
+        }
+        return result + accented(english.sliced(end));
+    }
+    bool isEmpty() const override { return false; }
+};
+
+// What is not the program's: the photos' own words, names of files, tags, codes, keys and units.
+bool isForeign(const QString& text)
+{
+    static const QRegularExpression plain(u"[A-Za-z]{2,}"_s);
+    static const QRegularExpression foreign(
+        u"([A-Za-z]+-)?[A-Za-z]+:[A-Za-z-]+|[\\w/"
+        u"~.-]+\\.(jpg|xmp|CR3|tsv|json)|https?:\\S*|EXIF|IPTC|XMP|GPS|DNG|JPEG|ID|"
+        "ISO|YYYY-MM-DD|HH:MM(:SS)?|ExifTool|Quorbel|[KMG]B|mm|Ctrl|Alt|Shift|Tab|Esc|Del|Return|%[A-Za-z|ü]+%"_s);
+    static const QStringList photos{ u"Mara Lindqvist"_s, u"Evening by the lake"_s, u"Abend am 1x1 See"_s };
+    QString rest = text;
+    for (const QString& known : photos)
+        rest.remove(known);
+    return !rest.remove(foreign).contains(plain);
+}
+
+// All that a widget says without drawing it.
+QStringList spoken(const QWidget* root)
+{
+    QStringList texts;
+    QList<const QWidget*> all{ root };
+    for (const QWidget* child : root->findChildren<QWidget*>())
+        if (child->isVisibleTo(root))
+            all.append(child);
+    for (const QWidget* widget : all) {
+        texts << widget->accessibleName() << widget->accessibleDescription() << widget->toolTip();
+        for (const QAction* action : widget->actions())
+            texts << action->text() << action->toolTip();
+        if (const auto* field = qobject_cast<const QLineEdit*>(widget))
+            texts << field->placeholderText();
+    }
+    return texts;
+}
+
+}  // namespace
+
+class tst_PseudoLanguage : public QObject {
+    Q_OBJECT
+
+private slots:
+    void everyTextIsTranslated();
+};
+
+void tst_PseudoLanguage::everyTextIsTranslated()
+{
+    Texts::use(std::make_shared<PseudoLanguage>());
+    WalkedPhotos photos;
+    QVERIFY(photos.open());
+    WindowWalk walk(photos, { 1600, 1000 });
+    QMap<QString, QString> plain;  // and a screen that each is seen on
+    int seen = 0;
+    const auto look = [&](const QString& screen, const QString& text) {
+        ++seen;
+        if (!isForeign(text))
+            plain.insert(text, screen);
+    };
+    const Scenes scenes = walk.scenes([&](const QString& screen, QWidget* shown) {
+        for (const QString& text : spoken(shown))
+            look(screen, text);
+    });
+    for (auto scene = scenes.cbegin(); scene != scenes.cend(); ++scene)
+        for (const QString& text : scene->texts)
+            look(scene.key(), text);
+    for (auto text = plain.cbegin(); text != plain.cend(); ++text)
+        qInfo().noquote() << text.value() + u": "_s + text.key();
+    QVERIFY(seen > 3000);
+    QCOMPARE(plain.size(), 0);
+}
+
+int main(int argc, char* argv[])
+{
+    return runOnLargeScreen<tst_PseudoLanguage>(argc, argv);
+}
+#include "tst_PseudoLanguage.moc"
