@@ -56,6 +56,21 @@ const char* Texts::context()
     return "Quorbel::Texts";
 }
 
+QString Texts::inSentence(const QString& label)
+{
+    return isEnglish() ? label.toLower() : shown(label);
+}
+
+QString Texts::continued(const QString& sentence)
+{
+    return isEnglish() ? sentence.left(1).toLower() + sentence.mid(1) : sentence;
+}
+
+bool Texts::isEnglish()
+{
+    return !chosen() || chosen()->language().startsWith("en"_L1);
+}
+
 void Texts::use(std::shared_ptr<const QTranslator> translator)
 {
     chosen() = std::move(translator);

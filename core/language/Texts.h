@@ -27,6 +27,14 @@ public:
     static QString mark(const char* english);
     /// A marked text in the user's language. What is no such text (a name of the user's own) comes back as it is.
     static QString shown(const QString& english);
+    /// A label for the middle of a sentence: in lower case in English, as it stands in every other language, where that
+    /// would be wrong for nouns (German) or means nothing (Japanese).
+    static QString inSentence(const QString& label);
+    /// A sentence that follows other words: English opens it with a small letter, every other language leaves it as is.
+    static QString continued(const QString& sentence);
+
+    /// Whether the texts are the English ones.
+    static bool isEnglish();
 
     /// Under which translations hold the texts.
     static const char* context();
