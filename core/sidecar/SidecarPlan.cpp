@@ -120,7 +120,7 @@ public:
         m_made.plan.removed.clear();
         m_made.plan.listMode = MetadataWriter::ListMode::replace;
         takePaths();
-        takeGainedKeywords();
+        takePlainKeywords();
         for (auto change = m_made.plan.iptcLists.begin(); change != m_made.plan.iptcLists.end(); ++change)
             takeIptcList(change.key(), *change);
         hideEmptied();
@@ -170,19 +170,21 @@ private:
                 m_made.plan.paths.append(path);
     }
 
-    // Who keeps paths lists plain keywords there, too, and reads the others only where there are none.
-    void takeGainedKeywords()
+    // Who keeps paths lists plain keywords there, too, and reads the others only where there are none. So in lists that
+    // are made now all keywords stand; what others left out of theirs stays out.
+    void takePlainKeywords()
     {
         const auto& homes = KeywordPath::homes();
-        if (std::all_of(homes.cbegin(), homes.cend(), [this](const KeywordPath::Home& home) {
-                return TagHomes::itemsOf(home.tag, m_sidecar.tags).isEmpty();
-            }))
-            return;
-        const QStringList before =
-            shown(itemsOf(*SidecarSchema::spec(FieldID::keywords), m_sidecar.tags).value_or(QStringList()));
+        const bool hasLists = std::any_of(homes.cbegin(), homes.cend(),
+            [this](const KeywordPath::Home& home) { return !TagHomes::itemsOf(home.tag, m_sidecar.tags).isEmpty(); });
         QStringList& paths = m_made.plan.paths;
-        for (const QString& keyword : m_made.plan.lists.value(FieldID::keywords))
-            if (!before.contains(keyword) && KeywordPath::elements(keyword) == QStringList(keyword)
+        if (!hasLists && paths.isEmpty())
+            return;
+        const QStringList held =
+            shown(itemsOf(*SidecarSchema::spec(FieldID::keywords), m_sidecar.tags).value_or(QStringList()));
+        const QStringList listed = hasLists ? held : QStringList();
+        for (const QString& keyword : m_made.plan.lists.value(FieldID::keywords, hasLists ? QStringList() : held))
+            if (!listed.contains(keyword) && KeywordPath::elements(keyword) == QStringList(keyword)
                 && std::none_of(paths.cbegin(), paths.cend(),
                     [&keyword](const QString& path) { return KeywordPath::keyword(path) == keyword; }))
                 paths.append(keyword);

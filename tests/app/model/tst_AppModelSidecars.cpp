@@ -150,8 +150,8 @@ void tst_AppModelSidecars::listsGainAndLose()
 {
     RawPhotos raws;
     raws.addRaw(u"a.NEF"_s,
-        { u"-IPTC:Keywords=one"_s, u"-IPTC:Keywords=two"_s, u"-XMP-lr:HierarchicalSubject=N|one"_s,
-            u"-XMP-lr:HierarchicalSubject=N|two"_s });
+        { u"-IPTC:Keywords=one"_s, u"-IPTC:Keywords=two"_s, u"-IPTC:Keywords=plain"_s,
+            u"-XMP-lr:HierarchicalSubject=N|one"_s, u"-XMP-lr:HierarchicalSubject=N|two"_s });
     raws.addRaw(u"b.NEF"_s, { u"-IPTC:Keywords=file"_s });
     raws.addRaw(u"c.NEF"_s);
     raws.folder.add(u"d.jpg"_s);
@@ -167,19 +167,26 @@ void tst_AppModelSidecars::listsGainAndLose()
     QCOMPARE(raws.banner(), QString());
     QVERIFY(raws.isUntouched());
     QVERIFY(raws.reopen());
-    QCOMPARE(raws.items(u"a.NEF"_s, u"keywords"_s).join(u','), u"two,new"_s);
+    QCOMPARE(raws.items(u"a.NEF"_s, u"keywords"_s).join(u','), u"two,plain,new"_s);
     QCOMPARE(raws.items(u"b.NEF"_s, u"keywords"_s), (QStringList{ u"beside"_s, u"new"_s }));
     QCOMPARE(raws.items(u"c.NEF"_s, u"keywords"_s), QStringList(u"new"_s));
     QCOMPARE(raws.items(u"d.jpg"_s, u"keywords"_s), QStringList(u"new"_s));
-    QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-lr:HierarchicalSubject"_s), u"N|two"_s);
+    // Who finds paths there looks for no keyword anywhere else.
+    QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-lr:HierarchicalSubject"_s), u"N|two; plain; new"_s);
+    QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-digiKam:TagsList"_s), u"N/two; plain; new"_s);
     QVERIFY(!raws.folder.names().contains(u"d.xmp"_s));
     QVERIFY(raws.undo());
     QCOMPARE(raws.banner(), QString());
-    QCOMPARE(raws.items(u"a.NEF"_s, u"keywords"_s), (QStringList{ u"one"_s, u"two"_s }));
+    QCOMPARE(raws.items(u"a.NEF"_s, u"keywords"_s), (QStringList{ u"one"_s, u"two"_s, u"plain"_s }));
     QCOMPARE(raws.items(u"b.NEF"_s, u"keywords"_s), (QStringList{ u"one"_s, u"beside"_s }));
     QCOMPARE(raws.items(u"d.jpg"_s, u"keywords"_s), QStringList(u"one"_s));
     QCOMPARE(raws.folder.names(), (QStringList{ u"a.NEF"_s, u"b.NEF"_s, u"b.xmp"_s, u"c.NEF"_s, u"d.jpg"_s }));
 }
+    // The first path of a sidecar that holds plain keywords.
+    raws.click(u"b.NEF"_s);
+    raws->addSingleListItem(u"keywords"_s, u"P > quay"_s);
+    QVERIFY(raws.save());
+    QCOMPARE(raws.stored(u"b.xmp"_s, u"XMP-lr:HierarchicalSubject"_s), u"P|quay; one; beside"_s);
 
 void tst_AppModelSidecars::undoGivesTheSidecarBack()
 {

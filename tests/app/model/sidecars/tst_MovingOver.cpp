@@ -323,7 +323,7 @@ void tst_MovingOver::intoSidecars()
     QCOMPARE(desk.banner(), QString());
     QCOMPARE(desk.state(photo), untouched);
     const QMap<QString, QString> expected{ { u"XMP-dc:Title"_s, u"1.10"_s }, { u"XMP-dc:Title-fr"_s, u"Côté"_s },
-        { u"XMP-dc:Subject"_s, u"1.10; Paris"_s }, { u"XMP-lr:HierarchicalSubject"_s, u"Places|Paris"_s },
+        { u"XMP-dc:Subject"_s, u"1.10; Paris"_s }, { u"XMP-lr:HierarchicalSubject"_s, u"Places|Paris; 1.10"_s },
         { u"XMP-exif:DateTimeOriginal"_s, u"2024:05:06 07:08:09"_s }, { u"XMP-xmp:Rating"_s, u"3"_s },
         { u"XMP-dc:Rights"_s, u"Mine"_s }, { u"XMP:OffsetTimeOriginal"_s, u"+09:00"_s },
         { u"XMP-exif:GPSLatitude#"_s, u"-33.5"_s }, { u"XMP-photoshop:Category"_s, u"CAT"_s },
