@@ -39,10 +39,13 @@ PhotoRead::Outcome MetadataService::readEach(const QList<QUrl>& urls, const Read
 }
 
 // The sidecar of a photo that shares its base name with one whose edits go beside it is that one's.
-QList<QUrl> MetadataService::withOwnMirror(QList<QUrl> photos) const
+WriteOptions MetadataService::withOwnMirrors(WriteOptions options, const QList<QUrl>& photos) const
 {
-    photos.removeIf([this](const QUrl& photo) { return sidecars.isInUse() && sidecars.sharesBase(photo); });
-    return photos;
+    if (options.writeSidecar && sidecars.isInUse())
+        for (const QUrl& photo : photos)
+            if (sidecars.isBeside(photo) || sidecars.sharesBase(photo))
+                options.unmirrored.insert(photo);
+    return options;
 }
 
 QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets, const WriteOptions& options,
@@ -57,8 +60,7 @@ QString MetadataService::write(const EditPlan& plan, const QList<QUrl>& targets,
         runner, command, targets, options.backupOriginals && !plan.sidecar, customNames, preparations, notes);
     if (!options.writeSidecar || plan.sidecar)
         return output;
-    const auto failures =
-        Companions::writeSidecars(runner, command, withOwnMirror(options.mirrored(targets)), customNames);
+    const auto failures = Companions::writeSidecars(runner, command, options.mirrored(targets), customNames);
     if (notes)
         notes->sidecars += failures;
     return output;
@@ -127,8 +129,8 @@ PortionsOutcome MetadataService::writeEach(
         if (!options.writeSidecar)
             break;
         portion.targets.removeIf([&done](const QUrl& target) { return !done.contains(target); });
-        const auto failures = Companions::writeSidecars(
-            runner, portion.command, withOwnMirror(options.mirrored(portion.targets)), portion.customNames);
+        const auto failures =
+            Companions::writeSidecars(runner, portion.command, options.mirrored(portion.targets), portion.customNames);
         if (notes)
             notes->sidecars += failures;
     }

@@ -38,6 +38,9 @@ struct MetadataService {
     /// errors where the tool could not be started at all, and FileError.
     PortionsOutcome writeEach(
         const QList<SavePortion>& portions, const WriteOptions& options, WriteNotes* notes = nullptr) const;
+    /// The options of a save of these photos as this service and the journal are to have them: photos whose edits go
+    /// beside them, and photos whose sidecar by name is another's, are mirrored by none.
+    WriteOptions withOwnMirrors(WriteOptions options, const QList<QUrl>& photos) const;
     /// What these photos hold beside their records, read in one run; without those that could not be read. The records
     /// tell what is shown. Throws the runner's errors.
     QHash<QUrl, PhotoDetails> details(const QList<ImageRecord>& photos, const ReadControl& control = {}) const;
@@ -60,9 +63,6 @@ struct MetadataService {
     void renameFile(const QUrl& source, const QUrl& destination) const;
 
     bool operator==(const MetadataService&) const = default;
-
-private:
-    QList<QUrl> withOwnMirror(QList<QUrl> photos) const;
 };
 
 }  // namespace Quorbel

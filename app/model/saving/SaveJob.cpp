@@ -409,6 +409,7 @@ void runOver(const SidecarOrder& files, const MetadataService& service, const st
 {
     const Order& order = files.order();
     const QList<QUrl>& targets = order.targets;
+    const WriteOptions options = service.withOwnMirrors(order.options, files.photosThemselves());
     const QList<std::optional<FileStamp>> stamps = stampsOf(targets);
     const QList<EditPlan> plans = allPlans(order);
     const bool looks = history || PhotoPlans::needLook(plans);
@@ -421,14 +422,13 @@ void runOver(const SidecarOrder& files, const MetadataService& service, const st
     std::optional<JournalEntry> entry;
     if (history && before) {
         entry = SaveUndo::journalEntry(
-            *before, [&written](const QUrl& target) { return written.photos.value(target).whole(); }, targets,
-            order.options);
+            *before, [&written](const QUrl& target) { return written.photos.value(target).whole(); }, targets, options);
         files.addTo(*entry);
     }
     const ReplacedFilesPoll poll(targets, progress.done);
     const QList<SavePortion> runs = portions(targets, written.photos);
     if (!runs.isEmpty())
-        write(service, runs, order.options, written);
+        write(service, runs, options, written);
     findRefusedHomes(service, runs, written);
     written.isUntouched = stampsOf(targets) == stamps;
     if (history)

@@ -77,8 +77,8 @@ QList<FileFailure> failuresOf(const SafeWriter::Outcome& outcome, const QList<Sa
     return failures;
 }
 
-// Mirrors of photos. One that shares its base name with a photo whose edits go beside it has none.
-void mirror(const MetadataService& service, QList<QUrl> targets, Written& written)
+// They take over what the photos hold by then: a shift of their own would be a second one.
+void mirror(const MetadataService& service, const QList<QUrl>& targets, Written& written)
 {
     const SidecarPolicy& policy = service.sidecars;
     targets.removeIf([&policy](const QUrl& target) {
@@ -156,6 +156,7 @@ void runAll(const MetadataService& service, const Order& order, Looked looked,
 {
     const ShiftFiles files(service.sidecars, order.targets);
     const QList<QUrl> stale = files.changedSince(looked.stamps);
+    const WriteOptions options = service.withOwnMirrors(order.options, targets);
     if (!stale.isEmpty())
         readSlice(service, stale, {}, progress, looked);
     decide(order, files, looked.values, written);
@@ -167,8 +168,7 @@ void runAll(const MetadataService& service, const Order& order, Looked looked,
     for (const QUrl& target : targets)
         shifts.insert(files.written(target), written.photos.value(target));
     const auto plan = [&shifts](const QUrl& file) { return planOf(shifts.value(file)); };
-    JournalEntry entry =
-        history ? SaveUndo::journalEntry(looked.values, plan, changing, order.options) : JournalEntry();
+    JournalEntry entry = history ? SaveUndo::journalEntry(looked.values, plan, changing, options) : JournalEntry();
     entry.isTimeShift = true;
     files.addTo(entry);
     {
@@ -176,7 +176,7 @@ void runAll(const MetadataService& service, const Order& order, Looked looked,
         const QList<FileFailure> earlier = std::exchange(written.failures, {});
         write(service, changing, shifts, order.options.backupOriginals, written);
         written.failures = earlier + files.byTarget(written.failures);
-        mirror(service, order.options.mirrored(targets), written);
+        mirror(service, options.mirrored(targets), written);
     }
     if (history)
         written.undoable = history->add(entry);

@@ -300,6 +300,11 @@ void tst_AppModelSidecars::namesOfSidecars()
         QVERIFY(raws.save());
         QCOMPARE(raws.sidecar(sidecar), now);
     }
+        const QDateTime written = QFileInfo(raws.folder.path(sidecar)).lastModified();
+        QVERIFY(raws.undo());
+        QCOMPARE(raws.banner(), QString());
+        QCOMPARE(raws.sidecar(sidecar), now);
+        QCOMPARE(QFileInfo(raws.folder.path(sidecar)).lastModified(), written);
     QVERIFY(raws.isUntouched());
 }
 
@@ -547,6 +552,7 @@ void tst_AppModelSidecars::withoutTheSetting()
         const RecordedTool tool;
         ModelFixture photos(tool.service());
         const QTemporaryDir journal;
+    const QByteArray theirs = raws.sidecar(u"a.xmp"_s);
         photos.services.journalPath = journal.filePath(u"undo"_s);
         photos.relaunch();
         photos->preferences().saveDontAsk.set(true);
@@ -562,6 +568,9 @@ void tst_AppModelSidecars::withoutTheSetting()
         photos->requestSave();
         QVERIFY(photos.waitUntilIdle());
         QCOMPARE(photos.onDisk(u"a.NEF"_s, u"XMP:Title"_s).toString(), u"Ours"_s);
+    QVERIFY(raws.undo());
+    QCOMPARE(raws.banner(), QString());
+    QCOMPARE(raws.sidecar(u"a.xmp"_s), theirs);
         photos->undoSave();
         QVERIFY(photos.waitUntilIdle());
         QCOMPARE(photos->errorMessage(), std::nullopt);
