@@ -201,10 +201,11 @@ QList<QUrl> AppModel::takeRefused()
 // For what is remembered of what was saved.
 void AppModel::noteWritten(const SaveOutcome& outcome)
 {
+    const SidecarPolicy sidecars = outcome.sidecars.value_or(m_sidecarPolicy);
     const QSet<QUrl> failed(outcome.failed.cbegin(), outcome.failed.cend());
     QList<QUrl> written;
     for (const ImageRecord& record : outcome.records)
-        if (!failed.contains(record.url) && !m_sidecarPolicy.isBeside(record.url))
+        if (!failed.contains(record.url) && !sidecars.isBeside(record.url))
             written.append(record.url);
     m_tools->credentials->noteWritten(written);
     m_tools->rememberedCards->noteSaved(outcome.records, failed, outcome.differing);

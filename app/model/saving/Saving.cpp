@@ -270,7 +270,9 @@ void Saving::check(
             SaveJob::Checked told = checked;
             if (order.isAgreement)
                 told.joined.clear();
-            finish(outcomeOf(told, written, edits));
+            SaveOutcome outcome = outcomeOf(told, written, edits);
+            outcome.sidecars = order.sidecars;
+            finish(outcome);
         });
 }
 

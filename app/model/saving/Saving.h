@@ -31,6 +31,8 @@ struct SaveOutcome {
     std::optional<QString> message{};  ///< for the banner
     QStringList homesToLeaveOut{};  ///< of a save: without these homes, photos that failed could be saved
     bool isGood = false;  ///< nothing is left to do
+    /// Which photos were written beside, whatever the settings say; nothing: those that the settings name.
+    std::optional<SidecarPolicy> sidecars{};
 };
 
 class Saving final : public QObject {

@@ -2,6 +2,7 @@
 // back; structures that hold what nobody here knows; the same for several photos.
 #include "app/model/iptc/FieldNotes.h"
 #include "app/model/iptc/RememberedCards.h"
+#include "app/model/sidecars/MovingOver.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/StructureText.h"
 #include "core/schema/FieldLanguages.h"
@@ -470,6 +471,20 @@ void tst_AppModelIptc::sealsAreTold()
     QVERIFY(photos.waitUntilIdle());
     QTRY_VERIFY_WITH_TIMEOUT(photos->details(raw) != nullptr, 20000);
     QCOMPARE(photos->credentialsAtStake(), 0);
+
+    // Nor does one whose words move beside it, whatever the settings say of edits.
+    photos->preferences().rawBeside.set(false);
+    photos.relaunch();
+    QVERIFY(photos.open());
+    photos.click(u"d.NEF"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(photos->details(raw) != nullptr, 20000);
+    MovingOver& moving = photos->movingOver();
+    moving.request(MoveWay::intoSidecars);
+    QTRY_VERIFY_WITH_TIMEOUT(moving.canMove(), 20000);
+    moving.move();
+    QVERIFY(photos.waitUntilIdle() && QFile::exists(photos.folder.path(u"d.xmp"_s)));
+    QTRY_VERIFY_WITH_TIMEOUT(photos->details(raw) != nullptr, 20000);
+    QCOMPARE(photos.banner(), QString());
 }
 
 // What a save brought into a photo, the last first; no more than one can look through.
