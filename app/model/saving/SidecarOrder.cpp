@@ -150,18 +150,20 @@ void SidecarOrder::nameTheirPhotos(SaveJob::Written& written) const
     for (const Sidecar& sidecar : m_sidecars) {
         const PhotoPlan plan = written.photos.take(sidecar.file);
         const auto homes = written.refusedHomes.take(sidecar.file);
-        QList<FileFailure> failures;
         for (const QUrl& photo : sidecar.photos) {
             written.photos.insert(photo, plan);
             if (!homes.isEmpty())
                 written.refusedHomes.insert(photo, homes);
-            for (const FileFailure& failure : std::as_const(written.failures))
-                if (failure.file == sidecar.file)
-                    failures.append({ photo, failure.reason });
         }
-        written.failures.removeIf([&sidecar](const FileFailure& failure) { return failure.file == sidecar.file; });
-        written.failures += failures;
     }
+    QList<FileFailure> failures;
+    for (const FileFailure& failure : std::as_const(written.failures)) {
+        const auto known = m_known.constFind(failure.file);
+        const QList<QUrl> photos = known == m_known.cend() ? QList{ failure.file } : m_sidecars.at(*known).photos;
+        for (const QUrl& photo : photos)
+            failures.append({ photo, failure.reason });
+    }
+    written.failures = failures;
 }
 
 }  // namespace Quorbel
