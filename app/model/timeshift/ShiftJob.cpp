@@ -80,11 +80,6 @@ QList<FileFailure> failuresOf(const SafeWriter::Outcome& outcome, const QList<Sa
 // They take over what the photos hold by then: a shift of their own would be a second one.
 void mirror(const MetadataService& service, const QList<QUrl>& targets, Written& written)
 {
-    const SidecarPolicy& policy = service.sidecars;
-    targets.removeIf([&policy](const QUrl& target) {
-        return policy.isInUse() && (policy.isBeside(target) || policy.sharesBase(target));
-    });
-    // They take over what the photos hold by then: a shift of their own would be a second one.
     written.notes.sidecars += Companions::writeSidecars(service.runner, {}, targets, {});
 }
 
@@ -156,12 +151,12 @@ void runAll(const MetadataService& service, const Order& order, Looked looked,
 {
     const ShiftFiles files(service.sidecars, order.targets);
     const QList<QUrl> stale = files.changedSince(looked.stamps);
-    const WriteOptions options = service.withOwnMirrors(order.options, targets);
     if (!stale.isEmpty())
         readSlice(service, stale, {}, progress, looked);
     decide(order, files, looked.values, written);
     const QList<QUrl> targets = changed(order, written);
     const QList<QUrl> changing = files.written(targets);
+    const WriteOptions options = service.withOwnMirrors(order.options, targets);
     // All or none: a read-only photo is found before any other is written.
     SaveGuard::requireWritable(SaveGuard::filesBehindLinks(changing));
     QHash<QUrl, PhotoShift> shifts;
@@ -223,7 +218,7 @@ QString namedTags(const QMap<QString, QStringList>& tagsByName)
 Looked look(const MetadataService& service, const Order& order, TaskProgress& progress, const std::stop_token& stop)
 {
     constexpr qsizetype slice = 250;  // a few seconds of camera files
-    Looked looked;
+    Looked looked{ .sidecars = service.sidecars };
     try {
         for (qsizetype at = 0; at < order.targets.size(); at += slice) {
             readSlice(service, order.targets.mid(at, slice), stop, progress, looked);

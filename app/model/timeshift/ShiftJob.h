@@ -24,6 +24,7 @@ struct Looked {
     QHash<QUrl, FileStamp> stamps{};  ///< of the targets, when they were read
     std::optional<QString> error{};  ///< they could not be read: why
     bool isCancelled = false;
+    SidecarPolicy sidecars{};  ///< by which files were looked at
 };
 
 /// Reads the targets in slices, and counts them. Never throws.

@@ -419,6 +419,10 @@ void TimeShifting::takeLooked(ShiftJob::Order order, const ShiftJob::Looked& loo
     }
     if (looked.error)
         return m_model.setErrorMessage(Texts::tr("Could not read metadata: ") + *looked.error);
+    // Of another file, the times on screen may have been other ones.
+    if (m_access.service && looked.sidecars != m_access.service->sidecars)
+        return m_model.setErrorMessage(
+            Texts::tr("Could not shift the time: where edits of raw files go was changed in the settings meanwhile"));
     // What was closed meanwhile is not meant any more.
     order.targets.removeIf([this](const QUrl& photo) { return !m_model.record(photo); });
     if (!looked.isCancelled && !m_model.isSaving() && !order.targets.isEmpty())

@@ -15,6 +15,7 @@ class tst_SidecarDetails : public QObject {
 private slots:
     void shiftsGoBeside_data();
     void shiftsGoBeside();
+    void shiftedUnderOtherSettings();
     void homesOfBothFiles();
     void oneHomeIsTaken();
     void theSidecarAgrees();
@@ -116,6 +117,27 @@ void tst_SidecarDetails::shiftsGoBeside()
     QVERIFY(!raws.folder.names().contains(u"a.xmp"_s));
     QCOMPARE(raws.shown(u"a.NEF"_s, u"date"_s), u"2024-05-06 23:30"_s);
     QVERIFY(raws.isUntouched());
+}
+
+// What was asked is another thing by then: the times on screen were those of other files.
+void tst_SidecarDetails::shiftedUnderOtherSettings()
+{
+    RawPhotos raws;
+    addDated(raws);
+    const QByteArray before = raws.sidecar(u"b.xmp"_s);
+    QVERIFY(raws.open());
+    raws.click(u"b.NEF"_s);
+    TimeShifting& shifting = raws->timeShifting();
+    shifting.request();
+    shifting.setAmount({ .hours = u"1"_s });
+    QTRY_VERIFY(shifting.canShift());
+    shifting.shift();
+    raws->preferences().rawBeside.set(false);
+    QVERIFY(raws.waitUntilIdle());
+    QCOMPARE(raws.banner(),
+        u"Could not shift the time: where edits of raw files go was changed in the settings meanwhile"_s);
+    QVERIFY(raws.isUntouched());
+    QCOMPARE(raws.sidecar(u"b.xmp"_s), before);
 }
 
 // What is told of a photo: "*" stands before homes that hold what is shown.
