@@ -3,6 +3,7 @@
 #include "core/schema/ImageTypes.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -52,11 +53,18 @@ QString SidecarPolicy::existing(const QUrl& photo) const
     if (!isBeside(photo))
         return {};
     const QString path = photo.toLocalFile();
+    QString folder;
     for (const QString& stem : { path, baseOf(path) })
-        for (const QString& suffix : { u".xmp"_s, u".XMP"_s })
-            if (isThere(stem + suffix))
-                return stem + suffix;
-    return {};
+        for (const QString& suffix : { u".xmp"_s, u".XMP"_s }) {
+            const QString one = stem + suffix;
+            if (!isThere(one))
+                continue;
+            if (!QFileInfo(one).isDir())
+                return one;
+            if (folder.isEmpty())
+                folder = one;
+        }
+    return folder;
 }
 
 bool SidecarPolicy::sharesBase(const QUrl& photo) const

@@ -29,7 +29,8 @@ struct SidecarPolicy {
     /// Whether the edits of this photo do. Goes by the name alone.
     bool isBeside(const QUrl& photo) const;
     /// The sidecar that is there, of a photo whose edits go beside it: "photo.ext.xmp" before "photo.xmp", with the
-    /// extension in small letters or capitals; "" for any other photo, and where there is none.
+    /// extension in small letters or capitals; "" for any other photo, and where there is none. A folder of such a name
+    /// is one only where no file is: it is named then, and nothing is written.
     QString existing(const QUrl& photo) const;
     /// The same, or the path that a new one gets. A base name that the photo shares with another one whose edits go
     /// beside it is not enough for a new sidecar: then the full one is taken.

@@ -52,7 +52,7 @@ std::optional<QList<QUrl>> FolderScan::entries(const QString& folder, SeenSideca
         const QUrl url = QUrl::fromLocalFile(path);
         if (ImageTypes::isImage(url))
             found.append(url);
-        else if (sidecars && sidecars->isWanted(path))
+        else if (sidecars && sidecars->isWanted(path) && !entry->is_directory(error))
             sidecars->add(path);
     }
     return error ? std::nullopt : std::optional(found);

@@ -15,7 +15,7 @@ namespace {
 QString thereAs(const QString& path)
 {
     for (const QString& one : { path, path.chopped(4) + u".XMP"_s })
-        if (QFileInfo::exists(one))
+        if (const QFileInfo file(one); file.exists() && !file.isDir())
             return one;
     return {};
 }

@@ -55,6 +55,7 @@ private slots:
     void brokenSidecars_data();
     void brokenSidecars();
     void folderOfTheName();
+    void folderBesideTheSidecar();
     void emptySidecar();
     void othersAreWrittenAsEver();
     void withoutTheSetting();
@@ -505,6 +506,24 @@ void tst_AppModelSidecars::emptySidecar()
     RawPhotos raws;
     raws.addRaw(u"a.NEF"_s, ownTags());
     writeFile(raws.folder.path(u"a.xmp"_s), {});
+// One of the other name is in nobody's way, for looks neither.
+void tst_AppModelSidecars::folderBesideTheSidecar()
+{
+    RawPhotos raws;
+    raws.addRaw(u"a.NEF"_s, ownTags());
+    QVERIFY(QDir(raws.folder.path()).mkdir(u"a.NEF.xmp"_s));
+    exiftool({ u"-q"_s, u"-XMP-dc:Title=Beside"_s, raws.folder.path(u"a.xmp"_s) });
+    QVERIFY(raws.open());
+    QCOMPARE(raws.banner(), QString());
+    QCOMPARE(raws.shown(u"a.NEF"_s, u"title"_s), u"Beside"_s);
+    QCOMPARE(raws->record(raws.url(u"a.NEF"_s))->sidecarName, u"a.xmp"_s);
+    raws.click(u"a.NEF"_s);
+    raws->setSingle(u"title"_s, u"New"_s);
+    QVERIFY(raws.save());
+    QCOMPARE(raws.banner(), QString());
+    QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-dc:Title"_s), u"New"_s);
+}
+
     QVERIFY(raws.open());
     QVERIFY2(raws.banner().contains(u"a.xmp"_s), qPrintable(raws.banner()));
     QCOMPARE(raws.shown(u"a.NEF"_s, u"title"_s), u"Own"_s);
