@@ -66,6 +66,7 @@ struct PhotoFile::Look {
 struct LeftOut {
     QString fileName{};
     QString reason{};
+    bool isSidecar = false;  ///< then its photo is there all the same
     bool operator==(const LeftOut&) const = default;
 };
 

@@ -11,9 +11,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString inSentence(const QString& reason)
+QString named(const QList<LeftOut>& files)
 {
-    return reason.left(1).toLower() + reason.sliced(1);
+    QStringList named;
+    for (const LeftOut& file : files)
+        named.append(u"%1 (%2)"_s.arg(file.fileName, file.reason));
+    return Text::listed(named);
 }
 
 // At those that can be read.
@@ -73,7 +76,7 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
         for (const FileFailure& failure : std::as_const(outcome.leftOut))
             result.leftOut.append({ failure.file.fileName(), inSentence(failure.reason) });
         for (const FileFailure& failure : std::as_const(outcome.sidecars)) {
-            result.leftOut.append({ failure.file.fileName(), inSentence(failure.reason) });
+            result.leftOut.append({ failure.file.fileName(), inSentence(failure.reason), true });
             brokenSidecars.insert(failure.file);
         }
     } catch (const CancelledError&) {
@@ -90,15 +93,31 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
     return result;
 }
 
+QString inSentence(const QString& reason)
+{
+    const bool isName = reason.size() > 1 && reason.at(1).isUpper();
+    return isName ? reason : reason.left(1).toLower() + reason.mid(1);
+}
+
 QString leftOutText(const QList<LeftOut>& files)
 {
-    QStringList named;
-    for (const LeftOut& file : files)
-        named.append(u"%1 (%2)"_s.arg(file.fileName, file.reason));
-    const QString text = files.size() == 1
-        ? Texts::tr("1 file could not be read and was left out: ")
-        : QString::number(files.size()) + Texts::tr(" files could not be read and were left out: ");
-    return text + Text::listed(named);
+    QList<LeftOut> photos = files;
+    photos.removeIf([](const LeftOut& file) { return file.isSidecar; });
+    QList<LeftOut> sidecars = files;
+    sidecars.removeIf([](const LeftOut& file) { return !file.isSidecar; });
+    QStringList texts;
+    if (!photos.isEmpty()) {
+        const QString text = photos.size() == 1
+            ? Texts::tr("1 file could not be read and was left out: ")
+            : QString::number(photos.size()) + Texts::tr(" files could not be read and were left out: ");
+        texts.append(text + named(photos));
+    }
+    if (!sidecars.isEmpty())
+        texts.append(
+            Texts::tr("%n sidecar(s) could not be read, and (its photo is|their photos are) shown without (it|them): ",
+                nullptr, sidecars.size())
+            + named(sidecars));
+    return texts.join(u". "_s);
 }
 
 }  // namespace Quorbel::PhotoReader

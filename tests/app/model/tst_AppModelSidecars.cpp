@@ -454,7 +454,8 @@ void tst_AppModelSidecars::othersSidecars()
 void tst_AppModelSidecars::brokenSidecars_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QTest::newRow("no XML") << QByteArray("\x01\x02 this is nothing");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("no XML") << QByteArray("\x01\x02 this is nothing") << u"file format error"_s;
     const PhotoFolder folder;
     exiftool({ u"-q"_s, u"-XMP-dc:Title=half"_s, u"-XMP-photoshop:City=Rome"_s, folder.path(u"whole.xmp"_s) });
     const QByteArray whole = contentOf(folder.path(u"whole.xmp"_s));
@@ -465,11 +466,16 @@ void tst_AppModelSidecars::brokenSidecars_data()
 void tst_AppModelSidecars::brokenSidecars()
 {
     QFETCH(QByteArray, content);
+    QFETCH(QString, reason);
     RawPhotos raws;
     raws.addRaw(u"a.NEF"_s, ownTags());
     raws.folder.add(u"a.xmp"_s, content);
+    writeFile(raws.folder.path(u"b.jpg"_s), {});
     QVERIFY(raws.open());
-    QVERIFY2(raws.banner().contains(u"a.xmp"_s), qPrintable(raws.banner()));
+    QVERIFY2(raws.banner().startsWith(u"1 file could not be read and was left out: b.jpg (empty). "_s)
+            && raws.banner().contains(
+                u"1 sidecar could not be read, and its photo is shown without it: a.xmp ("_s + reason),
+        qPrintable(raws.banner()));
     QCOMPARE(raws.shown(u"a.NEF"_s, u"title"_s), u"Own"_s);
     raws.click(u"a.NEF"_s);
     raws->setSingle(u"title"_s, u"New"_s);
