@@ -7,6 +7,7 @@
 #include "core/save/TagHomes.h"
 #include "core/schema/FieldSchema.h"
 #include "core/sidecar/SidecarSchema.h"
+#include "core/tool/MetadataReader.h"
 #include "core/tool/MetadataWriter.h"
 
 #include <algorithm>
@@ -117,7 +118,9 @@ private:
             return texts == m_recorded;
         const QString text = texts.join(u", "_s);
         const QString recorded = m_recorded.constFirst();
-        return text == recorded || (m_field.kind == FieldKind::date && MetadataWriter::displayDate(text) == recorded);
+        return text == recorded
+            || (m_field.kind == FieldKind::date
+                && (MetadataWriter::displayDate(text) == recorded || MetadataReader::shownBeside(text) == recorded));
     }
 
     // Of the homes among which the reader chose: the one that it took, the field's own ones first.

@@ -5,7 +5,9 @@
 #include "core/save/TagHomes.h"
 #include "core/schema/FieldSchema.h"
 #include "core/sidecar/SidecarSchema.h"
+#include "core/text/StoredTime.h"
 #include "core/text/WallClock.h"
+#include "core/tool/MetadataReader.h"
 #include "core/tool/MetadataWriter.h"
 
 #include <algorithm>
@@ -87,13 +89,17 @@ QStringList dateTags(const EditPlan& plan, bool isBeside)
     return tags;
 }
 
-EditPlan withSeconds(EditPlan plan, const FileTags& stored)
+EditPlan withSeconds(EditPlan plan, const FileTags& stored, bool isBeside)
 {
+    const auto isExact = [isBeside](const QString& text, const QString& shown) {
+        return (WallClock::fromTyped(text) && MetadataWriter::displayDate(text) == shown)
+            || (isBeside && StoredTime::from(text) && MetadataReader::shownBeside(text) == shown);
+    };
     for (const QString& id : dateFields(plan)) {
         QString& shown = plan.scalars[id];
         for (const QString& tag : FieldSchema::spec(id)->writeTags + SidecarSchema::spec(id)->writeTags)
             for (const QString& text : TagHomes::itemsOf(tag, stored))
-                if (MetadataWriter::displayDate(text) == shown && WallClock::fromTyped(text))
+                if (isExact(text, shown))
                     shown = text;
     }
     return plan;

@@ -16,6 +16,7 @@ EditPlan plan(const ImageRecord& photo, const PhotoDetails& details);
 /// sidecar has them.
 QStringList dateTags(const EditPlan& plan, bool isBeside = false);
 /// The plan with its dates to the second, as one of their homes has them. `stored`: what the photo holds in those tags.
-EditPlan withSeconds(EditPlan plan, const FileTags& stored);
+/// A sidecar's homes also take fractions of a second and zones over.
+EditPlan withSeconds(EditPlan plan, const FileTags& stored, bool isBeside = false);
 
 }  // namespace Quorbel::Agreement

@@ -9,6 +9,7 @@
 #include "core/schema/FieldSchema.h"
 #include "core/text/Coordinates.h"
 #include "core/text/Text.h"
+#include "core/tool/MetadataReader.h"
 #include "core/tool/MetadataWriter.h"
 
 #include <algorithm>
@@ -48,13 +49,20 @@ bool samePosition(const QString& written, const QString& found)
     return normal(written) == normal(found);
 }
 
-bool sameScalar(const FieldSpec& field, const QString& written, const QString& found)
+// A date that a sidecar keeps to the letter is shown to the minute.
+bool sameDate(const QString& written, const QString& found, bool isBeside)
+{
+    const QString stored = MetadataWriter::normalizeDate(written);
+    return (isBeside ? MetadataReader::shownBeside(stored) : MetadataWriter::displayDate(stored)) == found;
+}
+
+bool sameScalar(const FieldSpec& field, const QString& written, const QString& found, bool isBeside)
 {
     switch (field.kind) {
     case FieldKind::coordinates:
         return samePosition(written, found);
     case FieldKind::date:
-        return MetadataWriter::displayDate(MetadataWriter::normalizeDate(written)) == found;
+        return sameDate(written, found, isBeside);
     case FieldKind::rating:
         return sameText(MetadataWriter::normalizeRating(written), MetadataWriter::normalizeRating(found));
     default:
@@ -294,7 +302,7 @@ QStringList differences(const EditPlan& plan, const ImageRecord& record, const F
             continue;
         const bool isShown = !stored || !plan.notShown.contains(field.id);
         if (const auto scalar = plan.scalars.constFind(field.id); scalar != plan.scalars.cend())
-            if ((isShown && !sameScalar(field, *scalar, record.values.value(field.id)))
+            if ((isShown && !sameScalar(field, *scalar, record.values.value(field.id), plan.sidecar.has_value()))
                 || (stored && !holdsInHomes(field, *scalar, record.fileType, *stored)))
                 keys.append(field.id);
         if (const auto list = plan.lists.constFind(field.id); list != plan.lists.cend())

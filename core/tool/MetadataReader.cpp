@@ -3,7 +3,9 @@
 #include "core/schema/FieldSchema.h"
 #include "core/sidecar/SidecarSchema.h"
 #include "core/text/Coordinates.h"
+#include "core/text/StoredTime.h"
 #include "core/text/Text.h"
+#include "core/text/WallClock.h"
 #include "core/tool/MetadataWriter.h"
 
 #include <QFileInfo>
@@ -152,6 +154,12 @@ ImageRecord parse(const QUrl& url, const JSONObject& main, const JSONObject& cus
     return record;
 }
 
+QString shownBeside(const QString& date)
+{
+    const auto time = StoredTime::from(Text::trimmed(date));
+    return time ? WallClock::shown(time->clock) : MetadataWriter::displayDate(date);
+}
+
 void overlay(ImageRecord& record, const JSONObject& main, const JSONObject& custom)
 {
     for (const auto& one : FieldSchema::all()) {
@@ -161,8 +169,11 @@ void overlay(ImageRecord& record, const JSONObject& main, const JSONObject& cust
             continue;
         record.values.remove(field.id);
         record.lists.remove(field.id);
-        if (!isEmptied(*value))
-            readField(record, field, *value);
+        if (isEmptied(*value))
+            continue;
+        readField(record, field, *value);
+        if (field.kind == FieldKind::date && record.values.contains(field.id))
+            record.values[field.id] = shownBeside(record.values[field.id]);
     }
     for (const CustomValue& value : customValues(custom)) {
         record.custom.removeIf(

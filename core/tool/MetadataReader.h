@@ -15,6 +15,8 @@ constexpr int meaning = 1;
 QStringList readTags();
 /// The record of one file, without the file system's dates.
 ImageRecord parse(const QUrl& url, const JSONObject& main, const JSONObject& custom);
+/// A sidecar's date as it is shown: in XMP it may have fractions of a second and a zone, which a photo's has not.
+QString shownBeside(const QString& date);
 /// Puts what a sidecar holds (SidecarSchema::readTags()) over the record: a field that it holds is the sidecar's, and
 /// empty where its text has no characters; all others stay.
 void overlay(ImageRecord& record, const JSONObject& main, const JSONObject& custom);

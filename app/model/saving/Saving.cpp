@@ -66,7 +66,8 @@ SaveJob::Order withSeconds(const MetadataService& service, SaveJob::Order order)
     try {
         const QHash<QUrl, FileTags> stored = service.stored(tags, dated);
         for (auto held = stored.cbegin(); held != stored.cend(); ++held)
-            order.own[held.key()] = Agreement::withSeconds(order.own.value(held.key()), *held);
+            order.own[held.key()] =
+                Agreement::withSeconds(order.own.value(held.key()), *held, service.sidecars.isBeside(held.key()));
     } catch (const std::exception&) {
         // What cannot be read cannot be written either.
     }

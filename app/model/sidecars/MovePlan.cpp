@@ -11,9 +11,11 @@
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
 #include "core/sidecar/SidecarSchema.h"
+#include "core/text/StoredTime.h"
 #include "core/text/Text.h"
 #include "core/text/WallClock.h"
 #include "core/tool/IptcEncoding.h"
+#include "core/tool/MetadataReader.h"
 
 #include <QSet>
 
@@ -59,24 +61,38 @@ bool isWritable(const FieldSpec& field, const QString& text)
     return FieldCheck::note(field, text).isEmpty();
 }
 
+// A date without a zone, and with nothing behind its seconds.
+std::optional<QString> plainDate(const QString& item)
+{
+    if (WallClock::fromTyped(item))
+        return item;
+    const auto time = StoredTime::from(item);
+    const bool isPlain = time && time->zone.isEmpty()
+        && std::all_of(time->fraction.cbegin(), time->fraction.cend(), [](QChar c) { return c == u'.' || c == u'0'; });
+    return isPlain ? std::optional(WallClock::stored(time->clock)) : std::nullopt;
+}
+
 // The text as the file spells it, dates to the second; nothing for one that cannot be written as it stands.
 std::optional<QString> exactText(const FieldSpec& field, const QString& shown, const FileTags& tags)
 {
     if (!isWritable(field, shown))
         return std::nullopt;
+    bool isCut = false;  // more of a date than a photo's own has room for
     for (const QString& tag : field.writeTags) {
         const QStringList items = stored(tag, tags);
         if (items.size() > 1 && items.join(u", "_s) == shown)
             return std::nullopt;
         const QString item = items.value(0);
         if (field.kind == FieldKind::date) {
-            if (MetadataWriter::displayDate(item) == shown && WallClock::fromTyped(item))
-                return item;
+            const auto date = plainDate(item);
+            if (date && MetadataWriter::displayDate(*date) == shown)
+                return date;
+            isCut = isCut || MetadataReader::shownBeside(item) == shown;
         } else if (items.size() == 1 && ListHomes::shownText(item) == shown) {
             return item;
         }
     }
-    return shown;
+    return isCut ? std::nullopt : std::optional(shown);
 }
 
 QStringList exactItems(const FieldSpec& field, const QStringList& shown, const FileTags& tags)

@@ -220,7 +220,7 @@ void tst_SidecarDetails::theSidecarAgrees()
     RawPhotos raws;
     raws.addRaw(u"a.NEF"_s, { u"-EXIF:ImageDescription=Own"_s, u"-EXIF:DateTimeOriginal=2024:05:06 07:08:09"_s });
     raws.addRaw(u"b.NEF"_s, { u"-XMP-dc:Title=A"_s, u"-IPTC:ObjectName=B"_s });
-    exiftool({ u"-q"_s, u"-XMP-dc:Description=Beside"_s, u"-XMP-exif:DateTimeOriginal=2022:02:02 02:02:02"_s,
+    exiftool({ u"-q"_s, u"-XMP-dc:Description=Beside"_s, u"-XMP-exif:DateTimeOriginal=2022:02:02 02:02:02.250+05:00"_s,
         u"-XMP-photoshop:DateCreated=2020:01:01 01:01:01"_s, raws.folder.path(u"a.xmp"_s) });
     const QByteArray before = raws.sidecar(u"a.xmp"_s);
     raws.lookAtDetails();
@@ -232,8 +232,9 @@ void tst_SidecarDetails::theSidecarAgrees()
     QTRY_VERIFY(!raws->isWorking() && !raws->isSaving());
     QVERIFY(raws.waitUntilIdle());
     QCOMPARE(raws.banner(), QString());
-    QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-photoshop:DateCreated"_s), u"2022:02:02 02:02:02"_s);
-    QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-exif:DateTimeOriginal"_s), u"2022:02:02 02:02:02"_s);
+    QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-photoshop:DateCreated"_s), u"2022:02:02 02:02:02.250+05:00"_s);
+    QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-exif:DateTimeOriginal"_s), u"2022:02:02 02:02:02.250+05:00"_s);
+    QCOMPARE(raws.shown(u"a.NEF"_s, u"date"_s), u"2022-02-02 02:02"_s);
     QCOMPARE(raws.stored(u"a.xmp"_s, u"XMP-dc:Description"_s), u"Beside"_s);
     QVERIFY(!raws.folder.names().contains(u"b.xmp"_s));
     QVERIFY(raws.undo());

@@ -71,7 +71,7 @@ std::optional<ImageRecord> decoded(QByteArrayView bytes)
 }
 
 // How a sidecar's values come over its photo's: to be raised whenever that is done otherwise.
-constexpr int sidecarMeaning = 1;
+constexpr int sidecarMeaning = 2;
 
 // Of a photo without a sidecar nothing: it counts as it always did.
 QByteArray stampOf(const PhotoFile::Sidecar& sidecar)

@@ -127,7 +127,7 @@ QStringList sidecarTags()
     return { u"-XMP-dc:Title=1.10"_s, u"-XMP-dc:Title-de=Beiseite"_s, u"-XMP-dc:Title-fr=Côté"_s,
         u"-XMP-dc:Description=Beside"_s, u"-XMP-dc:Subject=1.10"_s, u"-XMP-dc:Subject=Paris"_s,
         u"-XMP-lr:HierarchicalSubject=Places|Paris"_s, u"-XMP-dc:Creator="_s,
-        u"-XMP-exif:DateTimeOriginal=2024:05:06 07:08:09"_s, u"-XMP-xmp:Rating=3"_s, u"-XMP-xmp:Label=Red"_s,
+        u"-XMP-exif:DateTimeOriginal=2024:05:06 07:08:09.000"_s, u"-XMP-xmp:Rating=3"_s, u"-XMP-xmp:Label=Red"_s,
         u"-XMP-photoshop:Category=CAT"_s, u"-XMP-photoshop:Urgency=5"_s, u"-XMP-exif:GPSLatitude=-33.5"_s,
         u"-XMP-exif:GPSLongitude=151.25"_s, u"-XMP-iptcExt:PersonInImage=Ann"_s,
         u"-XMP-iptcCore:AltTextAccessibility=A dog"_s, u"-XMP-iptcExt:LocationCreated={City=Kyoto,CountryName=Japan}"_s,
@@ -252,7 +252,7 @@ void tst_MovingOver::whatIsLeftAlone()
     desk.add(u"odd.jpg"_s);
     desk.add(u"odd.xmp"_s,
         { u"-XMP-xmp:Rating=-1"_s, u"-XMP-dc:Creator=A"_s, u"-XMP-dc:Creator=B"_s, u"-XMP-photoshop:DateCreated=2024"_s,
-            u"-XMP-dc:Title=Even"_s });
+            u"-XMP-xmp:CreateDate=2024:05:06 07:08:09+05:00"_s, u"-XMP-dc:Title=Even"_s });
     const QByteArray locked = desk.state(u"locked.jpg"_s);
     QVERIFY(desk.open());
     desk->selectAllPhotos();
@@ -262,7 +262,7 @@ void tst_MovingOver::whatIsLeftAlone()
     QCOMPARE(preview.withOthersSidecar, QStringList(u"pair.jpg"_s));
     QVERIFY2(preview.unreadable.value(0).startsWith(u"broken.xmp ("_s), qPrintable(preview.unreadable.join(u';')));
     QCOMPARE(preview.readOnly, QStringList(u"locked.jpg"_s));
-    QCOMPARE(preview.odd, QStringList(u"odd.jpg (Date taken, Creator, Rating)"_s));
+    QCOMPARE(preview.odd, QStringList(u"odd.jpg (Date taken, Creator, Rating, Date digitized)"_s));
     QCOMPARE(preview.plans.size(), 2);
     desk.moving().move();
     QVERIFY(desk.waitUntilIdle());
