@@ -19,10 +19,10 @@ namespace {
 QStringList parsedFiles(const QApplication& application)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(Texts::tr("Reads and edits the words inside photos."));
+    parser.setApplicationDescription(Quorbel::Texts::tr("Reads and edits the words inside photos."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(u"files"_s, Texts::tr("A folder of photos, or photos."), u"[files…]"_s);
+    parser.addPositionalArgument(u"files"_s, Quorbel::Texts::tr("A folder of photos, or photos."), u"[files…]"_s);
     parser.process(application);
     return parser.positionalArguments();
 }

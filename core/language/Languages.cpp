@@ -16,18 +16,21 @@ namespace {
 
 const QString english = u"en"_s;
 
+struct Source {
+    const char* text;
+    const char* meaning;
+};
+constexpr Source nameOfLanguage =
+    //: The name of this language in this language itself, as a list of languages shows it: Deutsch, 日本語.
+    QT_TRANSLATE_NOOP3("Quorbel::Texts", "English", "name of this language");
+
 // Each file says what its language is called in itself. Nothing of one that cannot be read.
 QString ownName(const QFileInfo& file)
 {
-    //: The name of this language in this language itself, as a list of languages shows it: Deutsch, 日本語.
-    static const struct {
-        const char* source;
-        const char* comment;
-    } name = QT_TRANSLATE_NOOP3("Quorbel::Texts", "English", "name of this language");
     QTranslator translator;
     if (!translator.load(file.filePath()))
         return {};
-    return translator.translate(Texts::context(), name.source, name.comment);
+    return translator.translate(Texts::context(), nameOfLanguage.text, nameOfLanguage.meaning);
 }
 
 // Languages written in several ways, or none, are told apart by their script or country: zh-Hans-CN is zh_CN.

