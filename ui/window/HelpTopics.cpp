@@ -24,6 +24,7 @@ const QList<std::pair<HelpTopic, QString>>& RawValues<HelpTopic>::table()
         { HelpTopic::templates, u"templates"_s },
         { HelpTopic::renaming, u"renaming"_s },
         { HelpTopic::saving, u"saving"_s },
+        { HelpTopic::rawFiles, u"rawFiles"_s },
         { HelpTopic::settings, u"settings"_s },
     };
     return cases;
@@ -331,6 +332,25 @@ Page savingPage()
         } };
 }
 
+Page rawFilesPage()
+{
+    return { Texts::tr("Raw Files"), u"photo"_s,
+        {
+            paragraph(Texts::tr(
+                "Settings ▸ Raw files says where the edits of raw photos go: into the file, as with other photos, or "
+                "beside it. Beside it, the raw file itself is never written to.")),
+            bullets({ Texts::tr("The words then go to an XMP sidecar, which other programs read and write too. The "
+                                "line under the photo’s name says which file that is. DNG has a choice of its own."),
+                Texts::tr("What the sidecar says stands before what the raw file says, field by field. Where the two "
+                          "differ, the field has a mark; click it to see both."),
+                Texts::tr("View ▸ Pair Raw and JPEG lists the two files of a shot as one photo. An edit goes to both, "
+                          "each by its own setting, and renaming takes all files of the shot along."),
+                Texts::tr("File ▸ Write Sidecars Into Photos… and Write Metadata Into Sidecars… move words over for "
+                          "the selected photos. You see first what would change in how many. Undo Save takes it back."),
+                Texts::tr("Develop settings, and whatever else other programs keep in a sidecar, stay as they are.") }),
+        } };
+}
+
 Page settingsPage()
 {
     return { Texts::tr("Settings"), u"gearshape"_s,
@@ -375,6 +395,8 @@ Page page(HelpTopic topic)
         return renamingPage();
     case HelpTopic::saving:
         return savingPage();
+    case HelpTopic::rawFiles:
+        return rawFilesPage();
     case HelpTopic::settings:
         break;
     }

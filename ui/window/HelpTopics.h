@@ -26,6 +26,7 @@ enum class HelpTopic {
     templates,
     renaming,
     saving,
+    rawFiles,
     settings
 };
 

@@ -628,7 +628,7 @@ void tst_Shell::helpNamesThisPlatformsKeys()
         (QStringList{ u"Getting Started"_s, u"The Interface"_s, u"Editing Metadata"_s, u"From Photo to Photo"_s,
             u"Several Languages"_s, u"Keyword Paths"_s, u"Places That Disagree"_s, u"Finding Gaps"_s,
             u"IPTC Fields & Field Sets"_s, u"Shifting Times"_s, u"Batch Editing"_s, u"Copying Fields & Codes"_s,
-            u"Templates"_s, u"Renaming Files"_s, u"Saving & Backups"_s, u"Settings"_s }));
+            u"Templates"_s, u"Renaming Files"_s, u"Saving & Backups"_s, u"Raw Files"_s, u"Settings"_s }));
     for (const QString& foreign : { u"⌘"_s, u"⇧"_s, u"Finder"_s })
         QVERIFY2(!text.contains(foreign), qPrintable(foreign));
     QVERIFY(text.contains(u"Choose File ▸ Open… (Ctrl+O), or drag photos onto the window."_s));
