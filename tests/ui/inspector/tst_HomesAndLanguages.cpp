@@ -145,6 +145,7 @@ private slots:
     void theMarkGivesTheKeyboardBack();
     void theMarkLeavesTheOtherLinesReadable();
     void anotherPlaceIsUsed();
+    void theOwnFileIsNamed();
     void languagesOfOnePhoto();
     void languagesOfSeveralPhotos();
     void theFirstLanguageIsAdded();
@@ -352,6 +353,46 @@ void tst_HomesAndLanguages::anotherPlaceIsUsed()
     QVERIFY(mark->isVisible());
     f.model().selectAllPhotos();
     QVERIFY(!mark->isVisible());
+}
+
+// Of a photo whose edits go beside it: where each text stands, what is never written, and what "agree" would write.
+void tst_HomesAndLanguages::theOwnFileIsNamed()
+{
+    Photos f;
+    f.model().preferences().rawBeside.set(true);
+    const QString raw = f.photos.folder.path(u"IMG_1.CR3"_s);
+    QVERIFY(QFile::rename(f.photos.folder.path(u"a.jpg"_s), raw));
+    exiftool({ u"-q"_s, u"-XMP-dc:Rights=Beside"_s, u"-XMP-photoshop:DateCreated=2024:01:01 10:00:00"_s,
+        u"-XMP-exif:DateTimeOriginal=2024:01:02 10:00:00"_s, f.photos.folder.path(u"IMG_1.xmp"_s) });
+    QVERIFY(f.open());
+    f.show(u"IMG_1.CR3"_s);
+    auto* mark = f.editor<MarkButton>(u"copyright"_s);
+    QTRY_VERIFY(mark && mark->isVisible());
+    QCOMPARE(mark->text(), u"3 of 4 places differ"_s);
+    mark->setFocus();
+    press({ Qt::Key_Space });
+    auto* places = qobject_cast<HomesPopover*>(QApplication::activePopupWidget());
+    QVERIFY(places);
+    QStringList told;
+    for (const HomeRow* row : places->rows())
+        told.append(QAccessible::queryAccessibleInterface(const_cast<HomeRow*>(row))->text(QAccessible::Name) + u" = "_s
+            + row->findChild<SelectableText*>()->toPlainText());
+    QCOMPARE(told,
+        (QStringList{ u"XMP-dc:Rights = Beside"_s, u"IMG_1.CR3: XMP-dc:Rights = Mara"_s,
+            u"IMG_1.CR3: IPTC:CopyrightNotice = Mara, all rights reserved"_s,
+            u"IMG_1.CR3: EXIF:Copyright = Studio"_s }));
+    const QString foreign = u"The photo’s own file: read here, and never written"_s;
+    QCOMPARE(labels(places).count(foreign), 3);
+    const QBTextButton* agree = places->findChild<QBTextButton*>();
+    QVERIFY(agree->isVisible());
+    QVERIFY2(agree->toolTip().contains(u"in the sidecar"_s), qPrintable(agree->toolTip()));
+    // What the file says can be taken all the same, into the sidecar.
+    press({ Qt::Key_Return });
+    QCOMPARE(f.text(u"copyright"_s), u"Mara"_s);
+    f.model().preferences().saveDontAsk.set(true);
+    f.model().requestSave();
+    QVERIFY(f.photos.waitUntilIdle());
+    QCOMPARE(exiftool({ u"-s3"_s, u"-XMP-dc:Rights"_s, f.photos.folder.path(u"IMG_1.xmp"_s) }).trimmed(), "Mara");
 }
 
 void tst_HomesAndLanguages::languagesOfOnePhoto()
