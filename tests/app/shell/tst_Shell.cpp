@@ -500,7 +500,7 @@ void tst_Shell::filesFromACommandLine()
 void tst_Shell::settingsShowAndWritePreferences()
 {
     ModelFixture model(std::nullopt);
-    SettingsView view(*model.model);
+    SettingsView view(*model.model, {});
     view.show();
     const auto named = [&](const QString& name) -> QBSwitch* {
         for (auto* toggle : view.findChildren<QBSwitch*>())
@@ -536,7 +536,7 @@ void tst_Shell::settingsShowAndWritePreferences()
 void tst_Shell::settingsOfRawFiles()
 {
     ModelFixture model(std::nullopt);
-    SettingsView view(*model.model);
+    SettingsView view(*model.model, {});
     view.show();
     const auto named = [&](const QString& name) -> SegmentedPicker* {
         for (auto* picker : view.findChildren<SegmentedPicker*>())
@@ -569,7 +569,7 @@ void tst_Shell::settingsTellOfCodes()
     const QString path = folder.path(u"players.txt"_s);
     writeFile(path, "js\tJane\nab Ana\n");
     model->codes().setChooser([&path](const auto& chosen) { chosen(path); });
-    SettingsView view(*model.model);
+    SettingsView view(*model.model, {});
     view.show();
     QVERIFY(labels(&view).contains(u"No file"_s));
     QVERIFY(!button(&view, u"Clear"_s)->isEnabled());
@@ -587,7 +587,7 @@ void tst_Shell::settingsTellOfCodes()
 void tst_Shell::onlySecureAddressesOfAPlaceServiceAreKept()
 {
     ModelFixture model(std::nullopt);
-    SettingsView view(*model.model);
+    SettingsView view(*model.model, {});
     auto* field = view.findChildren<QBTextField*>().last();
     QCOMPARE(field->placeholderText(), u"https://…"_s);
     const auto enter = [field](const QString& text) {
