@@ -17,6 +17,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -59,6 +61,46 @@ protected:
 
 private:
     static QString title() { return Texts::tr("Shown"); }
+};
+
+// Where a file's name stands before the tag, the name gives way, and from its middle: names of a series differ at their
+// ends.
+class HomeTag final : public ThemedLabel {
+public:
+    explicit HomeTag(const FieldHome& home)
+        : ThemedLabel(home.tag, TextRole::label, 10.5)
+        , m_tag(home.tag)
+        , m_tagAt(FileHome::is(home) ? home.tag.indexOf(u": "_s) : 0)
+    {
+        setMono(true);
+        setVerbatim(true);
+        setElided(true);
+    }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        const bool isDone = ThemedLabel::event(event);
+        if (m_tagAt > 0 && (event->type() == QEvent::Resize || event->type() == QEvent::Enter))
+            fit();
+        return isDone;
+    }
+
+private:
+    void fit()
+    {
+        const QString tag = m_tag.sliced(m_tagAt);
+        const QFontMetrics metrics = fontMetrics();
+        const int room =
+            std::max(contentsRect().width() - metrics.horizontalAdvance(tag), metrics.horizontalAdvance(u"M…M"_s));
+        const QString shown = metrics.elidedText(m_tag.first(m_tagAt), Qt::ElideMiddle, room) + tag;
+        if (text() != shown)
+            setText(shown);
+        setToolTip(shown == m_tag ? QString() : m_tag);
+    }
+
+    QString m_tag;
+    qsizetype m_tagAt;
 };
 
 QString textOf(const FieldHome& home)
@@ -108,12 +150,8 @@ QWidget* HomeRow::makeHead()
 {
     auto* head = new QWidget(this);
     auto* line = new QHBoxLayout(head);
-    auto* tag = new ThemedLabel(m_home.tag, TextRole::label, 10.5);
-    tag->setMono(true);
-    tag->setVerbatim(true);
-    tag->setElided(true);
     line->setContentsMargins(0, 0, 0, 0);
-    line->addWidget(tag, 1);
+    line->addWidget(new HomeTag(m_home), 1);
     if (m_home.isShown) {
         line->addWidget(new ShownMark(head));
     } else {

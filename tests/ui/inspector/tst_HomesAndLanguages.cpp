@@ -2,6 +2,7 @@
 #include "tests/ui/UiSupport.h"
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/Buttons.h"
+#include "ui/controls/Labels.h"
 #include "ui/controls/SelectableText.h"
 #include "ui/controls/Toggles.h"
 #include "ui/controls/attached/CodesChip.h"
@@ -142,6 +143,7 @@ private slots:
     void thePopoverStaysInTheWindow_data();
     void thePopoverStaysInTheWindow();
     void aLongValueScrolls();
+    void aLongFileNameGivesWay();
     void theMarkGivesTheKeyboardBack();
     void theMarkLeavesTheOtherLinesReadable();
     void anotherPlaceIsUsed();
@@ -298,6 +300,24 @@ void tst_HomesAndLanguages::aLongValueScrolls()
         press({ Qt::Key_PageDown });
     QVERIFY(value->verticalScrollBar()->value() > 0);
     QCOMPARE(value->verticalScrollBar()->value(), value->verticalScrollBar()->maximum());
+    places->close();
+}
+
+// The tag is what tells one place from the other.
+void tst_HomesAndLanguages::aLongFileNameGivesWay()
+{
+    const QString name = u"20241012_174800 Lindqvist Horn evening series, the last of them.NEF"_s;
+    const FieldHome own{ name + u": IPTC:CopyrightNotice"_s, { u"© 2024"_s }, false, true };
+    const OneRow form(copyright({ rights, own }));
+    HomesPopover* places = form.openPlaces();
+    const auto tags = places->rows().at(1)->findChildren<ThemedLabel*>();
+    const auto tag = std::find_if(
+        tags.cbegin(), tags.cend(), [](const ThemedLabel* label) { return label->text().contains(u"IPTC:"_s); });
+    QVERIFY(tag != tags.cend());
+    const QString shown = (*tag)->text();
+    QVERIFY2(shown.startsWith(u"2024"_s) && shown.endsWith(u".NEF: IPTC:CopyrightNotice"_s), qPrintable(shown));
+    QVERIFY((*tag)->fontMetrics().horizontalAdvance(shown) <= (*tag)->width());
+    QCOMPARE((*tag)->toolTip(), own.tag);
     places->close();
 }
 
