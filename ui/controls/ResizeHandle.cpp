@@ -24,6 +24,7 @@ ResizeHandle::ResizeHandle(double width, double minWidth, double maxWidth, doubl
     setCursor(Qt::SplitHCursor);
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    //: The line between two columns of the window, which one drags.
     setAccessibleName(Texts::tr("Column width"));
     onRestyle(this, [this] { updateGeometry(); });
 }

@@ -1,5 +1,6 @@
 #include "ui/controls/TextFields.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/theme/FocusRing.h"
@@ -48,10 +49,10 @@ bool clipboardHasText()
 
 // One line of the edit menu.
 struct EditItem {
-    const char* title;
-    QKeySequence::StandardKey key;
-    bool enabled;
-    std::function<void()> run;
+    QString title{};  // none: a line between the others
+    QKeySequence::StandardKey key{};
+    bool enabled = false;
+    std::function<void()> run{};
 };
 
 // Whether what was typed may finish a code.
@@ -65,11 +66,11 @@ void showEditMenu(QWidget* field, const QPoint& globalPos, const QList<EditItem>
     auto* menu = new ThemedMenu(field);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const EditItem& item : items) {
-        if (item.title[0] == '\0') {
+        if (item.title.isEmpty()) {
             menu->addSeparator();
             continue;
         }
-        QAction* action = menu->addAction(QString::fromLatin1(item.title), field, item.run);
+        QAction* action = menu->addAction(item.title, field, item.run);
         action->setShortcut(item.key);
         action->setEnabled(item.enabled);
     }
@@ -253,14 +254,14 @@ void QBTextField::contextMenuEvent(QContextMenuEvent* event)
     const bool selected = hasSelectedText();
     showEditMenu(this, event->globalPos(),
         {
-            { "Undo", QKeySequence::Undo, writable && isUndoAvailable(), [this] { undo(); } },
-            { "Redo", QKeySequence::Redo, writable && isRedoAvailable(), [this] { redo(); } },
-            { "", {}, false, {} },
-            { "Cut", QKeySequence::Cut, writable && selected, [this] { cut(); } },
-            { "Copy", QKeySequence::Copy, selected, [this] { copy(); } },
-            { "Paste", QKeySequence::Paste, writable && clipboardHasText(), [this] { pasteText(); } },
-            { "", {}, false, {} },
-            { "Select All", QKeySequence::SelectAll, !text().isEmpty(), [this] { selectAll(); } },
+            { Texts::tr("Undo"), QKeySequence::Undo, writable && isUndoAvailable(), [this] { undo(); } },
+            { Texts::tr("Redo"), QKeySequence::Redo, writable && isRedoAvailable(), [this] { redo(); } },
+            {},
+            { Texts::tr("Cut"), QKeySequence::Cut, writable && selected, [this] { cut(); } },
+            { Texts::tr("Copy"), QKeySequence::Copy, selected, [this] { copy(); } },
+            { Texts::tr("Paste"), QKeySequence::Paste, writable && clipboardHasText(), [this] { pasteText(); } },
+            {},
+            { Texts::tr("Select All"), QKeySequence::SelectAll, !text().isEmpty(), [this] { selectAll(); } },
         });
 }
 
@@ -438,14 +439,14 @@ void QBTextArea::contextMenuEvent(QContextMenuEvent* event)
     const bool selected = textCursor().hasSelection();
     showEditMenu(this, event->globalPos(),
         {
-            { "Undo", QKeySequence::Undo, writable && document()->isUndoAvailable(), [this] { undo(); } },
-            { "Redo", QKeySequence::Redo, writable && document()->isRedoAvailable(), [this] { redo(); } },
-            { "", {}, false, {} },
-            { "Cut", QKeySequence::Cut, writable && selected, [this] { cut(); } },
-            { "Copy", QKeySequence::Copy, selected, [this] { copy(); } },
-            { "Paste", QKeySequence::Paste, writable && clipboardHasText(), [this] { paste(); } },
-            { "", {}, false, {} },
-            { "Select All", QKeySequence::SelectAll, !document()->isEmpty(), [this] { selectAll(); } },
+            { Texts::tr("Undo"), QKeySequence::Undo, writable && document()->isUndoAvailable(), [this] { undo(); } },
+            { Texts::tr("Redo"), QKeySequence::Redo, writable && document()->isRedoAvailable(), [this] { redo(); } },
+            {},
+            { Texts::tr("Cut"), QKeySequence::Cut, writable && selected, [this] { cut(); } },
+            { Texts::tr("Copy"), QKeySequence::Copy, selected, [this] { copy(); } },
+            { Texts::tr("Paste"), QKeySequence::Paste, writable && clipboardHasText(), [this] { paste(); } },
+            {},
+            { Texts::tr("Select All"), QKeySequence::SelectAll, !document()->isEmpty(), [this] { selectAll(); } },
         });
 }
 

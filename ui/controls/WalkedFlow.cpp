@@ -21,7 +21,8 @@ bool isSameLine(const QRect& a, const QRect& b)
 
 QString moreText(int hidden)
 {
-    return Texts::tr("%1 more").arg(hidden);
+    //: Button behind keywords: shows those that have no room.
+    return Texts::tr("%n more", nullptr, hidden);
 }
 
 }  // namespace

@@ -797,10 +797,11 @@ private slots:
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QStringList>("found");
-        QTest::newRow("all") << QString() << QStringList{ u"de"_s, u"sw"_s, u"en"_s, u"gsw"_s };
+        QTest::newRow("all") << QString() << QStringList{ u"de"_s, u"sw"_s, u"en"_s, u"gsw"_s, u"es"_s };
         QTest::newRow("a code first") << u"sw"_s << QStringList{ u"sw"_s, u"gsw"_s };
         QTest::newRow("begin of a name") << u"ger"_s << QStringList{ u"de"_s, u"gsw"_s };
         QTest::newRow("within a name") << u" English"_s << QStringList{ u"en"_s };
+        QTest::newRow("an English name") << u"spa"_s << QStringList{ u"es"_s };
         QTest::newRow("what is not listed") << u"en-gb"_s << QStringList{ u"en-GB"_s };
         QTest::newRow("nothing") << u"xyz"_s << QStringList();
     }
@@ -816,7 +817,7 @@ private slots:
             return text == u"en-gb"_s ? std::optional(SearchMenuRow{ u"English (UK)"_s, u"en-GB"_s }) : std::nullopt;
         });
         menu->setRows({ { u"German"_s, u"de"_s }, { u"Swahili"_s, u"sw"_s }, { u"American English"_s, u"en"_s },
-            { u"Swiss German"_s, u"gsw"_s } });
+            { u"Swiss German"_s, u"gsw"_s }, { u"Español"_s, u"es"_s, u"Spanish"_s } });
         menu->open(QRect(opener->mapToGlobal(QPoint()), opener->size()), 240);
         QTest::keyClicks(menu->field(), typed);
         QStringList found;

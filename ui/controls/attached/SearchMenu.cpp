@@ -59,7 +59,7 @@ int rankOf(const SearchMenuRow& row, const QString& typed)
 {
     const std::array<bool, 4> fits{ row.code.compare(typed, Qt::CaseInsensitive) == 0,
         row.title.startsWith(typed, Qt::CaseInsensitive), row.code.startsWith(typed, Qt::CaseInsensitive),
-        row.title.contains(typed, Qt::CaseInsensitive) };
+        row.title.contains(typed, Qt::CaseInsensitive) || row.english.contains(typed, Qt::CaseInsensitive) };
     return int(std::find(fits.cbegin(), fits.cend(), true) - fits.cbegin());
 }
 

@@ -15,6 +15,7 @@ namespace Quorbel {
 struct SearchMenuRow {
     QString title{};
     QString code{};  ///< shown at the right, and found too
+    QString english{};  ///< of a title in the user's language: found too, not shown
     bool operator==(const SearchMenuRow&) const = default;
 };
 

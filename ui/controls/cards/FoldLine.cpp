@@ -1,5 +1,6 @@
 #include "ui/controls/cards/FoldLine.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
@@ -74,7 +75,7 @@ void FoldLine::describe()
 {
     QStringList told;
     if (m_edited)
-        told.append(u"edited"_s);
+        told.append(Texts::tr("edited"));
     if (const QString text = m_summary.text(); !text.isEmpty())
         told.append(text);
     setAccessibleDescription(told.join(u", "_s));

@@ -113,6 +113,7 @@ void ItemCard::setSummary(const Summary& summary)
     m_line->setTitle(summary.first);
     m_line->setSummary(summary);
     setAccessibleName(summary.first);
+    //: %1: what the card holds, as “place”, “person” or “contact”.
     m_more->setName(Texts::tr("Actions for this %1").arg(m_item));
 }
 

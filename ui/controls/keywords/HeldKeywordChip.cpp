@@ -64,7 +64,8 @@ void HeldKeywordChip::setHeld(const HeldKeyword& held)
     m_cross->setIcon(isGone ? u"arrow.uturn.backward"_s : u"xmark"_s);
     m_cross->setSizes({ crossSide, crossSide }, isGone ? 11 : 9, isGone ? 2.1 : 2.6, 8);
     m_cross->setAmber(isGone);
-    m_cross->setName((isGone ? Texts::tr("Keep ") : Texts::tr("Take away ")) + held.keyword);
+    //: %1: a keyword.
+    m_cross->setName((isGone ? Texts::tr("Keep %1") : Texts::tr("Take away %1")).arg(held.keyword));
     if (isOtherWidth)
         updateGeometry();
     showToolTip();

@@ -80,7 +80,8 @@ QString spokenKeyword(const QString& keyword, const QList<QStringList>& parents)
 {
     QStringList places;
     for (const QStringList& path : parents)
-        places.append(Texts::tr("in ") + path.join(u", "_s));
+        //: Where a keyword stands among others. %1: those above it, as “Places, Switzerland”.
+        places.append(Texts::tr("in %1").arg(path.join(u", "_s)));
     return places.isEmpty() ? keyword : keyword + u", "_s + places.join(u"; "_s);
 }
 
@@ -112,6 +113,7 @@ void KeywordChip::setKeyword(const QString& keyword, const QList<QStringList>& p
         m_keyword = keyword;
         m_parents = parents;
         setAccessibleName(spokenKeyword(keyword, parents));
+        //: %1: what is taken out of a list or form, as a keyword or a field.
         m_cross->setName(Texts::tr("Remove %1").arg(keyword));
         measure();
         showToolTip();

@@ -140,7 +140,7 @@ QList<CodeRow> CodePopover::rowsFor(const QString& typed)
 {
     QList<CodeRow> rows;
     if (m_clears && typed.isEmpty())
-        rows.append({ {}, Texts::tr("None"), {} });
+        rows.append({ {}, Texts::tr("None", "no value"), {} });
     for (const CodeRow& row : std::as_const(m_unknown))
         if (row.code.contains(typed, Qt::CaseInsensitive))
             rows.append(row);
@@ -151,6 +151,7 @@ QList<CodeRow> CodePopover::rowsFor(const QString& typed)
         return row.code == typed || row.name.compare(typed, Qt::CaseInsensitive) == 0;
     };
     if (m_source.takesAnyText && !typed.isEmpty() && std::none_of(rows.cbegin(), rows.cend(), isTyped))
+        //: %1: what was typed.
         rows.append({ typed, Texts::tr("Use “%1”").arg(typed), Texts::tr("As it is typed, not one of the codes") });
     return rows;
 }
@@ -184,7 +185,8 @@ void CodePopover::add(const CodeRow& row, const QString& typed)
     if (!row.note.isEmpty())
         told.append(row.note);
     if (isHeld)
-        told.append(u"chosen"_s);
+        //: Spoken of a row in a list.
+        told.append(Texts::tr("chosen"));
     item->setData(Qt::AccessibleTextRole, told.join(u", "_s));
 }
 

@@ -1,5 +1,6 @@
 #include "ui/controls/pickers/PickerButton.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/pickers/PickerFace.h"
 #include "ui/controls/theme/FocusRing.h"
@@ -29,7 +30,7 @@ PickerButton::PickerButton(const QString& name, QWidget* parent)
 void PickerButton::setChoice(const QString& text)
 {
     setText(text);
-    setAccessibleName(m_name + u": "_s + text);
+    setAccessibleName(Texts::tr("%1: %2").arg(m_name, text));
     update();
 }
 

@@ -71,7 +71,8 @@ void CountLine::showCount(int count)
     const bool wasBeyond = m_count >= 0 && isBeyond();
     m_count = count;
     m_number->setText(Texts::tr("%1 of %2").arg(count).arg(m_limit));
-    m_number->setAccessibleName(Texts::tr("%1 of %2 characters").arg(count).arg(m_limit));
+    //: Of a text. %1: how many characters it has, %n: how many it should have at most.
+    m_number->setAccessibleName(Texts::tr("%1 of %n characters", nullptr, m_limit).arg(count));
     m_number->setRole(isBeyond() ? TextRole::amberText : TextRole::label);
     if (!isBeyond() || wasBeyond || !isVisible())
         return;

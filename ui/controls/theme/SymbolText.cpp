@@ -1,6 +1,6 @@
 #include "ui/controls/theme/SymbolText.h"
 
-#include <QHash>
+#include <QCoreApplication>
 
 namespace Quorbel {
 
@@ -19,11 +19,12 @@ constexpr KeyName keyNames[] = {
     { u'⌃', "Ctrl" },
 };
 
+// As Qt calls them in menus.
 QString keyName(QChar symbol)
 {
     for (const KeyName& key : keyNames) {
         if (symbol == key.symbol)
-            return QString::fromLatin1(key.name);
+            return QCoreApplication::translate("QShortcut", key.name);
     }
     return {};
 }

@@ -442,6 +442,7 @@ void TokenEdit::contextMenuEvent(QContextMenuEvent* event)
     add(Texts::tr("Select All"), QKeySequence::SelectAll, length() > 0, &QTextEdit::selectAll);
     if (const int token = selectedToken(); token >= 0) {
         menu->addSeparator();
+        //: Of a token. Default: what stands there where a photo has no such value; form: how a date is written.
         menu->addAction(Texts::tr("Default and Form…"), this, [this, token] { emit tokenOpened(token); });
     }
     menu->popup(event->globalPos());
