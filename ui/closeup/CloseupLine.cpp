@@ -25,18 +25,20 @@ constexpr qreal dotSize = 6;
 constexpr qreal closeSize = 28;
 constexpr qreal leastName = 120;
 
-QString starsText(int stars)
+// "3 / 40", as it is spoken.
+QString spokenPlace(const QString& place)
 {
-    return stars == 1 ? Texts::tr("1 star") : Texts::tr("%1 stars").arg(stars);
+    const QStringList numbers = place.split(u" / "_s);
+    return numbers.size() == 2 ? Texts::tr("%1 of %2").arg(numbers.at(0), numbers.at(1)) : place;
 }
 
 }  // namespace
 
 QString CloseupText::spoken() const
 {
-    QStringList parts{ name, QString(place).replace(u" / "_s, Texts::tr(" of ")) };
+    QStringList parts{ name, spokenPlace(place) };
     if (stars > 0)
-        parts.append(starsText(stars));
+        parts.append(Texts::tr("%n star(s)", nullptr, stars));
     for (const QString& part : { unsaved, note, zoom })
         if (!part.isEmpty())
             parts.append(part);
@@ -49,6 +51,7 @@ CloseupLine::CloseupLine(QWidget* parent)
     , m_opacity(this, Duration::column)
 {
     m_close->setSizes({ closeSize, closeSize }, 15, 0, 6);
+    //: The key.
     m_close->setHint(Texts::tr("Escape"));
     m_close->setFocusPolicy(Qt::NoFocus);  // the keyboard has Escape
     connect(m_close, &QAbstractButton::clicked, this, &CloseupLine::closeAsked);

@@ -180,6 +180,7 @@ QString CloseupView::noteOf(const WholePicture* picture) const
     if (!picture)
         return {};
     if (picture->levels.isEmpty())
+        //: Of the photo there is just this small picture.
         return seen().image.isNull() ? QString() : Texts::tr("thumbnail only");
     QStringList notes{ sizeNoteOf(*picture) };
     if (picture->isIncomplete)
@@ -194,10 +195,13 @@ QString CloseupView::sizeNoteOf(const WholePicture& picture) const
     QSize photo = picture.photo;
     if (photo.isEmpty() && picture.isPreview && record)
         photo = turnedAs({ record->pixelWidth.value_or(0), record->pixelHeight.value_or(0) }, picture.size());
-    const QString word = picture.isPreview ? u"preview"_s : Texts::tr("reduced to");
+    const QString size = sizeText(picture.size());
     if (photo.isEmpty() || photo == picture.size())
-        return picture.isPreview ? u"%1 %2"_s.arg(word, sizeText(picture.size())) : QString();
-    return Texts::tr("%1 %2 of %3").arg(word, sizeText(picture.size()), sizeText(photo));
+        //: The preview within a raw file is shown. %1: its size, as “1616 × 1080”.
+        return picture.isPreview ? Texts::tr("preview %1").arg(size) : QString();
+    //: %1: size of what is shown, as “1616 × 1080”. %2: size of the photo.
+    return (picture.isPreview ? Texts::tr("preview %1 of %2") : Texts::tr("reduced to %1 of %2"))
+        .arg(size, sizeText(photo));
 }
 
 CloseupText CloseupView::text() const
@@ -214,7 +218,7 @@ CloseupText CloseupView::text() const
         m_model.isBatch() ? record->values.value(FieldID::rating) : m_model.draftValues().value(FieldID::rating);
     text.stars = qBound(0, int(rating.toDouble()), 5);
     if (const int unsaved = m_model.unsavedCount(); unsaved > 0)
-        text.unsaved = unsaved == 1 ? Texts::tr("1 edit unsaved") : Texts::tr("%1 edits unsaved").arg(unsaved);
+        text.unsaved = Texts::tr("%n edit(s) unsaved", nullptr, unsaved);
     const WholePicture* picture = m_photo ? m_pictures.picture(*m_photo) : nullptr;
     text.note = noteOf(picture);
     if (const Seen now = seen(); !now.photo.isEmpty())

@@ -31,19 +31,25 @@ FoundTexts textsOf(const AppModel& model)
 {
     const AppModel::Disagreements found = model.disagreements();
     const QLocale locale;
-    const auto counted = [&](const QString& pattern, qsizetype count) { return pattern.arg(locale.toString(count)); };
     if (found.isLooking) {
         const qsizetype all = model.records().size();
-        const QString far = Texts::tr("%1 of %2").arg(locale.toString(all - found.unknown), locale.toString(all));
-        return { Texts::tr("Looking… ") + far, far };
+        const QString looked = locale.toString(all - found.unknown);
+        //: While photos are read. %1 and %2 are numbers.
+        return { Texts::tr("Looking… %1 of %2").arg(looked, locale.toString(all)),
+            Texts::tr("%1 of %2").arg(looked, locale.toString(all)) };
     }
-    FoundTexts texts{ counted(found.photos == 1 ? Texts::tr("%1 photo disagrees") : Texts::tr("%1 photos disagree"),
-                     found.photos),
-        counted(Texts::tr("%1 disagree"), found.photos) };
-    if (found.unknown > 0) {
-        texts.whole += counted(Texts::tr(" · %1 not looked at yet"), found.unknown);
-        texts.brief += counted(Texts::tr(" · %1 unknown"), found.unknown);
-    }
+    const QString photos = locale.toString(found.photos);
+    //: %1: how many photos hold a field in several places that differ.
+    FoundTexts texts{ Texts::tr("%1 photo(s) (disagrees|disagree)", nullptr, found.photos).arg(photos),
+        //: As “%1 photos disagree”, where there is little room.
+        Texts::tr("%1 disagree", nullptr, found.photos).arg(photos) };
+    if (found.unknown == 0)
+        return texts;
+    const QString unknown = locale.toString(found.unknown);
+    //: %1: how many photos.
+    texts.whole += u" · "_s + Texts::tr("%1 not looked at yet", nullptr, found.unknown).arg(unknown);
+    //: As “%1 not looked at yet”, where there is little room.
+    texts.brief += u" · "_s + Texts::tr("%1 unknown", nullptr, found.unknown).arg(unknown);
     return texts;
 }
 
@@ -70,6 +76,7 @@ DisagreementsBar::DisagreementsBar(AppModel& model, QWidget* parent)
 
 QString DisagreementsBar::lookTitle()
 {
+    //: Button behind a number of photos that were not looked at yet.
     return Texts::tr("Look at them");
 }
 

@@ -154,7 +154,7 @@ void FilterChips::place()
             chip->setGeometry(QRect(flow.put(widths.at(i)), QSize(widths.at(i), px(lineHeight))));
     }
     m_more->setVisible(more > 0);
-    m_more->setAccessibleName(Texts::tr("%1 more filters").arg(m_chips.size() - m_shown));
+    m_more->setAccessibleName(Texts::tr("%n more filters", nullptr, m_chips.size() - m_shown));
     if (more > 0)
         m_more->setGeometry(QRect(flow.put(more), QSize(more, px(lineHeight))));
     setFixedHeight((flow.line + 1) * px(lineHeight));

@@ -58,7 +58,8 @@ protected:
 
 QString spokenCount(const QString& what, int count)
 {
-    return (count == 1 ? Texts::tr("%1, %2 photo") : Texts::tr("%1, %2 photos")).arg(what, QLocale().toString(count));
+    //: %1: a filter, as “No title”. %2: how many photos fit it.
+    return Texts::tr("%1, %2 photo(s)", nullptr, count).arg(what, QLocale().toString(count));
 }
 
 }  // namespace
@@ -98,6 +99,7 @@ FilterMenu::FilterMenu(AppModel& model, QWidget* opener)
 
 void FilterMenu::build(QVBoxLayout* column)
 {
+    //: Heads a list of what photos may lack: title, keywords…
     addHeader(column, Texts::tr("Without"), m_unread);
     for (const FilterText& text : FilterTexts::gaps())
         addRow(column, text);
@@ -144,6 +146,7 @@ QWidget* FilterMenu::buildStars()
 {
     auto* holder = new QWidget;
     auto* line = new QHBoxLayout(holder);
+    //: Stands before the row of stars that a photo has at least.
     line->addWidget(new ThemedLabel(Texts::tr("At least")));
     line->addStretch();
     line->addWidget(m_starCount);
@@ -191,7 +194,9 @@ void FilterMenu::follow()
         least > 0 ? spokenCount(FilterTexts::stars(least), starred) : Texts::tr("At least, any rating"));
     m_starCount->setText(least > 0 ? locale.toString(starred) : QString());
     const int unread = m_filtering.unread();
-    m_unread->setText(unread > 0 ? Texts::tr("%1 not read yet").arg(locale.toString(unread)) : QString());
+    //: %1: how many photos.
+    const QString text = Texts::tr("%1 not read yet", nullptr, unread).arg(locale.toString(unread));
+    m_unread->setText(unread > 0 ? text : QString());
     m_field->setBoundText(m_filtering.text());
     m_clear->setEnabled(m_filtering.isOn() || !m_filtering.text().isEmpty());
 }

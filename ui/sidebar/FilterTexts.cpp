@@ -48,11 +48,12 @@ QString FilterTexts::name()
 
 QString FilterTexts::stars(int least)
 {
-    return (least == 1 ? Texts::tr("At least %1 star") : Texts::tr("At least %1 stars")).arg(least);
+    return Texts::tr("At least %n star(s)", nullptr, least);
 }
 
 QString FilterTexts::contains(const QString& text)
 {
+    //: A filter of photos. %1: what was typed.
     return Texts::tr("Contains “%1”").arg(text);
 }
 

@@ -60,8 +60,9 @@ void paintName(QPainter& painter, QRectF room, const FolderGroup& group, const T
 
 QString spoken(const FolderGroup& group)
 {
-    const QString photos = group.count == 1 ? Texts::tr("1 photo") : Texts::tr("%1 photos").arg(group.count);
-    return u"%1, %2, %3"_s.arg(text(group), photos, group.isFolded ? u"collapsed"_s : u"expanded"_s);
+    //: State of a folder in the list, spoken.
+    const QString state = group.isFolded ? Texts::tr("collapsed") : Texts::tr("expanded");
+    return u"%1, %2, %3"_s.arg(text(group), Texts::tr("%n photo(s)", nullptr, group.count), state);
 }
 
 }  // namespace

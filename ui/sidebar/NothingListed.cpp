@@ -51,13 +51,14 @@ NothingListed::Said NothingListed::said() const
     if (!filter.needle.isEmpty())
         return { Texts::tr("No matching photos."), false, filter.isLimiting() };
     if (filter.traits != PhotoTrait::disagreement || filter.stars > 0)
+        //: No photo fits the filters.
         return { Texts::tr("Nothing left"), false, true };
     const qsizetype unknown = m_model.disagreements().unknown;
     if (unknown == 0)
+        //: All places within the photos in which a field stands.
         return { Texts::tr("All places agree"), false, false };
-    const QString text =
-        unknown == 1 ? Texts::tr("%1 photo not looked at yet") : Texts::tr("%1 photos not looked at yet");
-    return { text.arg(QLocale().toString(unknown)), DisagreementsBar::canLook(m_model), false };
+    const QString text = Texts::tr("%1 photo(s) not looked at yet", nullptr, unknown).arg(QLocale().toString(unknown));
+    return { text, DisagreementsBar::canLook(m_model), false };
 }
 
 void NothingListed::refresh()

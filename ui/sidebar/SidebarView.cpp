@@ -75,6 +75,7 @@ private:
     {
         const QString all = QString::number(m_model.pairing().photos());
         const bool isFiltered = m_model.filtering().isOn();
+        //: Of how many things: %1 and %2 are numbers.
         const QString of = isFiltered ? Texts::tr("%1 of %2").arg(m_model.visibleRows().size()).arg(all) : all;
         setText(u"%1 / %2"_s.arg(QString::number(m_model.selection().size()), of));
         update();
@@ -134,7 +135,7 @@ QWidget* SidebarView::buildHeader()
     line->addWidget(new CountLabel(m_model), 1);
     auto* all = new QBTextButton(Texts::tr("Select all"));
     all->setKeyHint(symbolText(u"⌘A"_s));
-    all->setAccessibleName(symbolText(u"Select all ⌘A"_s));
+    all->setAccessibleName(u"%1 %2"_s.arg(all->text(), symbolText(u"⌘A"_s)));
     connect(all, &QAbstractButton::clicked, &m_model, &AppModel::selectAllPhotos);
     line->addWidget(all);
     onRestyle(header, [header, line] {
@@ -240,6 +241,7 @@ QWidget* SidebarView::buildDisagreements()
 void SidebarView::openSortMenu()
 {
     auto* menu = new ThemedMenu(this);
+    //: Heads the ways in which photos are listed.
     menu->addHeader(Texts::tr("Sort by"));
     auto* group = new QActionGroup(menu);
     for (const SortItem& item : sortItems()) {

@@ -45,6 +45,7 @@ void ThumbnailView::setUrl(const QUrl& url)
     if (url == m_url)
         return;
     m_url = url;
+    //: %1: name of a file.
     setAccessibleName(url.isEmpty() ? QString() : Texts::tr("Thumbnail of %1").arg(url.fileName()));
     update();
 }
