@@ -1,6 +1,10 @@
 #include "ui/places/LocationSearch.h"
 
+#include "core/language/Texts.h"
+
 namespace Quorbel {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -10,6 +14,20 @@ LocationFill::Result resultOf(const Placemark& place)
 {
     return { place.name, place.locality, place.administrativeArea, place.country, place.point.latitude,
         place.point.longitude, place.countryCode };
+}
+
+// What those who know places say of a query. They speak English; %1 is a number.
+QString shownNotice(const QString& english)
+{
+    static const QStringList known{ Texts::mark("Place search is not installed"),
+        Texts::mark("The place service asks for a pause"), Texts::mark("The place service sent too much"),
+        Texts::mark("The place service did not answer in time"), Texts::mark("The place service cannot be reached"),
+        Texts::mark("The place service answered something else"),
+        Texts::mark("The place service answered with status %1") };
+    for (const QString& text : known)
+        if (const QString start = text.section(u"%1"_s, 0, 0); start != text && english.startsWith(start))
+            return Texts::shown(text).arg(english.sliced(start.size()));
+    return Texts::shown(english);
 }
 
 }  // namespace
@@ -50,7 +68,7 @@ void LocationSearch::ask()
     query.bias = m_bias;
     m_suggesting = m_provider->suggest(query, [this](const PlaceResult<QList<PlaceSuggestion>>& result) {
         // What an offline index knows is shown even when an online service failed beside it.
-        publish(result.value, result.detail);
+        publish(result.value, shownNotice(result.detail));
     });
 }
 

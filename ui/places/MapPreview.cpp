@@ -43,6 +43,7 @@ void MapPreview::setPoint(const Coordinates::Point& point)
     if (point == m_point)
         return;
     m_point = point;
+    //: %1: a position, as “47.36667, 8.55000”.
     setAccessibleName(Texts::tr("Map of %1").arg(Coordinates::displayString(point)));
     // The old map shows another place; better none than a wrong one.
     m_map = {};

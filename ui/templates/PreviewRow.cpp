@@ -1,9 +1,11 @@
 #include "ui/templates/PreviewRow.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/templates/TemplateTexts.h"
 
 #include <QPainter>
 #include <QTextLayout>
@@ -38,6 +40,14 @@ QString itemsText(const FilledField& field)
     return text.trimmed();
 }
 
+// Blanks that do not break keep the frame around the words.
+QString gapText(const QString& label)
+{
+    //: The photo holds nothing that could stand here. %1: what of, as “title”.
+    const QString words = u' ' + Texts::tr("no %1") + u' ';
+    return QString(words).replace(u' ', QChar(QChar::Nbsp)).arg(Texts::inSentence(Texts::shown(label)));
+}
+
 }  // namespace
 
 PreviewRow::PreviewRow(const FilledField& field, bool isFirst, QWidget* parent)
@@ -46,14 +56,14 @@ PreviewRow::PreviewRow(const FilledField& field, bool isFirst, QWidget* parent)
     , m_isFirst(isFirst)
     , m_layout(std::make_unique<QTextLayout>())
 {
+    m_field.label = TemplateTexts::shownLabel(field.key, field.label);
     describeAs(staticMetaObject, QAccessible::StaticText);
     if (!field.items.isEmpty() || !field.removed.isEmpty()) {
         m_text = itemsText(field);
     } else {
         for (const RenderedPiece& piece : field.pieces) {
             const bool isGap = piece.kind == RenderedPiece::Kind::missing;
-            // Blanks that do not break keep the frame around the words.
-            const QString text = isGap ? u"\u00a0no\u00a0%1\u00a0"_s.arg(piece.label.toLower()) : piece.text;
+            const QString text = isGap ? gapText(piece.label) : piece.text;
             if (isGap)
                 m_gaps.append({ int(m_text.size()), int(text.size()) });
             m_text += text;
@@ -61,8 +71,10 @@ PreviewRow::PreviewRow(const FilledField& field, bool isFirst, QWidget* parent)
     }
     m_text.replace(u'\n', QChar::LineSeparator);
     QString spoken = QString(m_text).replace(QChar::Nbsp, u' ').simplified();
-    spoken = spoken.isEmpty() ? u"nothing"_s : spoken;
-    setAccessibleName(u"%1: %2"_s.arg(field.label, spoken));
+    //: What a field then holds.
+    spoken = spoken.isEmpty() ? Texts::tr("nothing") : spoken;
+    //: %1: name of a field, %2: what it holds.
+    setAccessibleName(Texts::tr("%1: %2").arg(m_field.label, spoken));
     setAccessibleDescription(field.note);
     setToolTip(field.note);
     onRestyle(this, [this] { layOut(); });

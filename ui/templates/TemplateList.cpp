@@ -7,6 +7,7 @@
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
+#include "ui/templates/TemplateTexts.h"
 
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -119,7 +120,7 @@ void TemplateList::fill()
         item(i)->setData(idRole, all.at(i).id);
         item(i)->setData(digitRole, value.digit);
         item(i)->setData(Qt::AccessibleTextRole,
-            value.digit > 0 ? Texts::tr("%1, Ctrl+%2").arg(value.name).arg(value.digit) : value.name);
+            value.digit > 0 ? u"%1, %2"_s.arg(value.name, TemplateTexts::keys(value.digit)) : value.name);
     }
     m_isFilling = false;
     showCurrent();

@@ -7,6 +7,7 @@
 #include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/tokens/TokenEdit.h"
+#include "ui/templates/TemplateTexts.h"
 #include "ui/templates/TokenPieces.h"
 #include "ui/templates/TokenPills.h"
 #include "ui/templates/TokenPopover.h"
@@ -26,14 +27,17 @@ QString titleOf(TemplateMode mode)
 {
     switch (mode) {
     case TemplateMode::set:
-        return Texts::tr("Set");
+        return Texts::tr("Set", "verb: puts the text into the field");
     case TemplateMode::setIfEmpty:
+        //: Puts the text into the field when nothing is there.
         return Texts::tr("Set if empty");
     case TemplateMode::append:
+        //: Puts the text behind what the field holds.
         return Texts::tr("Append");
     case TemplateMode::prepend:
         break;
     }
+    //: Puts the text before what the field holds.
     return Texts::tr("Prepend");
 }
 
@@ -43,11 +47,13 @@ TemplateRow::TemplateRow(const TemplateField& field, Completions completions, QW
     : QWidget(parent)
     , m_field(field)
     , m_grid(new QGridLayout(this))
-    , m_mode(new ChoicePicker(Texts::tr("What happens to %1").arg(field.label()), modeWidth))
+    , m_title(TemplateTexts::shownLabel(field.key, field.label()))
+    //: %1: name of a field.
+    , m_mode(new ChoicePicker(Texts::tr("What happens to %1").arg(m_title), modeWidth))
 {
     auto* label = new TwoLineLabel(TextRole::label, 13);
-    label->setText(field.label());
-    auto* remove = new QBIconButton(u"xmark.circle.fill"_s, Texts::tr("Remove %1").arg(field.label()));
+    label->setText(m_title);
+    auto* remove = new QBIconButton(u"xmark.circle.fill"_s, Texts::tr("Remove %1").arg(m_title));
     remove->setSizes({ 16, 30 }, 15);
     m_remove = remove;
     QStringList modes;
@@ -80,7 +86,7 @@ QWidget* TemplateRow::makeText()
 {
     const FieldSpec* spec = m_field.spec();
     m_text = new TokenEdit(spec && spec->kind == FieldKind::multiline);
-    m_text->setAccessibleName(m_field.label());
+    m_text->setAccessibleName(m_title);
     m_text->setParse(&TokenPieces::of);
     connect(m_text, &TokenEdit::edited, this, [this] {
         TemplateField now = m_field;
@@ -96,7 +102,7 @@ QWidget* TemplateRow::makeItems(const Completions& completions)
 {
     m_items = new KeywordEditor;
     m_items->setPlaceholder(m_field.key == u"keywords" ? Texts::tr("Add keyword + ↵") : Texts::tr("Add name + ↵"));
-    m_items->entry()->setAccessibleName(m_field.label());
+    m_items->entry()->setAccessibleName(m_title);
     if (completions)
         m_items->setCompletions(completions);
     connect(m_items, &KeywordEditor::added, this, [this](const QString& item) {

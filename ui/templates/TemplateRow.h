@@ -66,6 +66,7 @@ private:
 
     TemplateField m_field;
     QGridLayout* m_grid;
+    QString m_title;  ///< of the field
     ChoicePicker* m_mode;
     QWidget* m_remove;
     TokenEdit* m_text = nullptr;

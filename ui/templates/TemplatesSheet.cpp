@@ -20,6 +20,7 @@
 #include "ui/templates/PreviewRow.h"
 #include "ui/templates/TemplateList.h"
 #include "ui/templates/TemplateRow.h"
+#include "ui/templates/TemplateTexts.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -88,13 +89,13 @@ QList<Addable> addableFields(const Template& value)
     QList<Addable> fields;
     for (const FieldSpec& field : FieldSchema::everyField())
         if (value.indexOf(field.id) < 0 && canBeFilled(field))
-            fields.append({ { field.label, {} }, field.id });
+            fields.append({ { Texts::shown(field.label), {}, field.label }, field.id });
     for (const FieldSpec& field : FieldSchema::everyField()) {
         if (field.languageTag().isEmpty())
             continue;
         for (const FieldLanguages::Choice& language : FieldLanguages::choices())
             if (const QString key = FieldLanguages::key(field.id, language.code); value.indexOf(key) < 0)
-                fields.append({ { FieldLanguages::label(key), language.code }, key });
+                fields.append({ { FieldLanguages::label(key), language.code, field.label }, key });
     }
     return fields;
 }
@@ -127,12 +128,14 @@ TemplatesSheet::TemplatesSheet(AppModel& model, QWidget* parent)
     , m_problems(new WrappedLine(TextRole::amberText, 11, 15))
     , m_none(new WrappedLine(TextRole::label, 13, 19))
     , m_name(new QBTextField)
+    //: Keys that apply a template.
     , m_digit(new ChoicePicker(Texts::tr("Shortcut"), digitWidth))
     , m_add(new QBButton(Texts::tr("Add field"), QBButtonKind::dashed))
     , m_photo(new ThemedLabel({}, TextRole::label, 11))
     , m_before(new QBIconButton(u"chevron.right"_s, Texts::tr("Previous photo")))
     , m_after(new QBIconButton(u"chevron.right"_s, Texts::tr("Next photo")))
     , m_status(new WrappedLine(TextRole::label, 11, 15))
+    //: Button: fills the fields of photos.
     , m_fill(new QBButton(Texts::tr("Fill"), QBButtonKind::primary))
 {
     m_problems->setVerbatim(true);
@@ -146,7 +149,7 @@ TemplatesSheet::TemplatesSheet(AppModel& model, QWidget* parent)
 QList<QBIconButton*> TemplatesSheet::makeButtons()
 {
     auto* add = new QBIconButton(u"plus"_s, Texts::tr("New template"));
-    auto* more = new QBIconButton(u"ellipsis"_s, Texts::tr("More"));
+    auto* more = new QBIconButton(u"ellipsis"_s, Texts::tr("More", "button: opens a menu"));
     auto* menu = new ThemedMenu(this);
     connect(add, &QAbstractButton::clicked, this, [this] {
         m_templates.addNew();
@@ -170,7 +173,8 @@ void TemplatesSheet::fillMenu(ThemedMenu* menu)
     };
     add(Texts::tr("Duplicate"), id > 0, [this, id] {
         Template copy = m_templates.store().find(id)->value();
-        copy.name += Texts::tr(" copy");
+        //: %1: name of the template that this is a copy of.
+        copy.name = Texts::tr("%1 copy").arg(copy.name);
         copy.digit = 0;
         m_templates.choose(m_templates.store().add(copy));
     });
@@ -201,7 +205,8 @@ QWidget* TemplatesSheet::buildForm()
     addLine->addStretch();
     connect(m_add, &QAbstractButton::clicked, this, &TemplatesSheet::chooseField);
     form->addWidget(buildNameLine());
-    form->addWidget(new LabeledDivider(u"FIELDS"_s));
+    //: Heads the fields of a template, in capitals.
+    form->addWidget(new LabeledDivider(Texts::tr("FIELDS")));
     form->addWidget(emptyColumn(m_rows));
     form->addLayout(addLine);
     form->addWidget(buildPreviewHead());
@@ -244,7 +249,7 @@ QWidget* TemplatesSheet::buildNameLine()
     m_name->setAccessibleName(Texts::tr("Name"));
     QStringList titles{ Texts::tr("No shortcut") };
     for (int digit = 1; digit <= 9; ++digit)
-        titles.append(u"Ctrl+%1"_s.arg(digit));
+        titles.append(TemplateTexts::keys(digit));
     m_digit->setTitles(titles);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setColumnStretch(1, 1);
@@ -290,7 +295,8 @@ QWidget* TemplatesSheet::buildPreviewHead()
     m_photo->setElided(true);
     connect(m_before, &QAbstractButton::clicked, this, [this] { step(-1); });
     connect(m_after, &QAbstractButton::clicked, this, [this] { step(1); });
-    row->addWidget(new LabeledDivider(u"PREVIEW"_s), 1);
+    //: Heads what the template makes of a photo, in capitals.
+    row->addWidget(new LabeledDivider(Texts::tr("PREVIEW")), 1);
     row->addWidget(m_before);
     row->addWidget(m_photo);
     row->addWidget(m_after);
@@ -402,10 +408,9 @@ void TemplatesSheet::showPreview()
 {
     const int count = m_templates.photoCount();
     m_place = qBound(0, m_place, qMax(0, count - 1));
-    m_photo->setText(count == 0
-            ? Texts::tr("No photo selected")
-            : Texts::tr("%1 · %2 of %3")
-                  .arg(m_templates.photoName(m_place), QLocale().toString(m_place + 1), QLocale().toString(count)));
+    const QString place = Texts::tr("%1 of %2").arg(QLocale().toString(m_place + 1), QLocale().toString(count));
+    m_photo->setText(
+        count == 0 ? Texts::tr("No photo selected") : u"%1 · %2"_s.arg(m_templates.photoName(m_place), place));
     m_before->setVisible(count > 1);
     m_after->setVisible(count > 1);
     m_before->setEnabled(m_place > 0);
@@ -425,12 +430,14 @@ void TemplatesSheet::showButtons()
 {
     const int count = m_templates.photoCount();
     const int unread = m_model.unreadSelected();
-    m_fill->setText(
-        count == 1 ? Texts::tr("Fill 1 Photo") : Texts::tr("Fill %1 Photos").arg(QLocale().toString(count)));
+    //: Button: fills the fields of the selected photos. %1: how many these are.
+    m_fill->setText(Texts::tr("Fill %1 Photo(s)", nullptr, count).arg(QLocale().toString(count)));
     m_fill->updateGeometry();
     const Template* now = value();
     m_fill->setEnabled(now && !now->fields.isEmpty() && m_templates.canApply());
-    m_status->setText(unread > 0 ? Texts::tr("Reading %1 more…").arg(QLocale().toString(unread)) : QString());
+    //: %1: how many photos.
+    const QString status = Texts::tr("Reading %1 more…", nullptr, unread).arg(QLocale().toString(unread));
+    m_status->setText(unread > 0 ? status : QString());
 }
 
 void TemplatesSheet::step(int by)
@@ -466,7 +473,7 @@ void TemplatesSheet::chooseField()
         const auto name = m_model.storedCustomName(typed);
         if (!name || CustomFields::nameProblem(typed) || value()->indexOf(CustomFields::key(*name)) >= 0)
             return std::nullopt;
-        return SearchMenuRow{ *name, Texts::tr("custom field") };
+        return SearchMenuRow{ *name, Texts::tr("custom field"), {} };
     });
     connect(menu, &SearchMenu::picked, this, [this, fields](const SearchMenuRow& row) {
         const auto same = [&row](const Addable& field) { return field.row == row; };

@@ -13,8 +13,12 @@ QString formText(const TokenSpec& spec, const QString& form)
 {
     if (spec.kind == TokenKind::counter) {
         const CounterForm counter = CounterForm::parse(form).value_or(CounterForm());
-        const QString from = Texts::tr("from ") + counter.number(0);
-        return counter.step == 1 ? from : from + Texts::tr(", step ") + QString::number(counter.step);
+        const QString first = counter.number(0);
+        if (counter.step == 1)
+            //: How a counter counts. %1: its first number.
+            return Texts::tr("from %1").arg(first);
+        //: How a counter counts. %1: its first number, %2: how far it is to the next.
+        return Texts::tr("from %1, step %2").arg(first).arg(counter.step);
     }
     return form;
 }
@@ -49,9 +53,12 @@ InlineToken chip(const Token& token)
 {
     const TokenSpec* spec = token.spec();
     QString detail = spec ? formText(*spec, token.form) : QString();
-    if (token.otherwise && !token.otherwise->isEmpty())
-        detail += (detail.isEmpty() ? Texts::tr("or ") : Texts::tr(" or ")) + *token.otherwise;
-    return { spec ? spec->label : token.name, detail, token.pattern() };
+    if (token.otherwise && !token.otherwise->isEmpty()) {
+        //: Behind the name of a token. %1: what stands in its place where a photo has no such value.
+        const QString otherwise = Texts::tr("or %1").arg(*token.otherwise);
+        detail = detail.isEmpty() ? otherwise : detail + u' ' + otherwise;
+    }
+    return { spec ? Texts::shown(spec->label) : token.name, detail, token.pattern() };
 }
 
 Token token(const InlineToken& chip)

@@ -65,14 +65,17 @@ protected:
 
 TokenPills::TokenPills(QWidget* parent)
     : QWidget(parent)
+    //: Button: shows further tokens.
     , m_more(new QBTextButton(Texts::tr("More…")))
 {
     auto* flow = new FlowLayout(px(gap), this);
     for (const char* name : { "Date", "Title", "Creator", "Place", "Counter", "Filename" }) {
         const TokenSpec* spec = TokenCatalog::find(QString::fromLatin1(name));
-        auto* chip = new TokenPill(spec->label);
+        const QString label = Texts::shown(spec->label);
+        auto* chip = new TokenPill(label);
         chip->setToolTip(u'%' + spec->name + u'%');
-        chip->setAccessibleName(Texts::tr("Insert %1").arg(spec->label));
+        //: Puts a token into a text. %1: its name, as “Date taken”.
+        chip->setAccessibleName(Texts::tr("Insert %1").arg(label));
         connect(chip, &QAbstractButton::clicked, this, [this, spec] { emit picked({ .name = spec->name }); });
         flow->addWidget(chip);
         m_stops.append(chip);
@@ -93,7 +96,7 @@ void TokenPills::showAll()
     auto* menu = new SearchMenu(Texts::tr("Tokens"), Texts::tr("Search tokens…"), m_more);
     QList<SearchMenuRow> rows;
     for (const TokenSpec& spec : TokenCatalog::all())
-        rows.append({ spec.label, u'%' + spec.name + u'%' });
+        rows.append({ Texts::shown(spec.label), u'%' + spec.name + u'%', spec.label });
     menu->setRows(rows);
     menu->setNothingFound(Texts::tr("No token of this name."));
     connect(menu, &SearchMenu::picked, this,

@@ -42,7 +42,8 @@ TokenPopover::TokenPopover(const Token& token, QWidget* opener)
     , m_grid(new QGridLayout(m_content))
 {
     const TokenSpec* spec = token.spec();
-    const QString label = spec ? spec->label : token.name;
+    const QString label = spec ? Texts::shown(spec->label) : token.name;
+    //: %1: name of a token. Default: what stands there where a photo has no such value; form: how a date is written.
     setAccessibleName(Texts::tr("Default and form of %1").arg(label));
     m_grid->setContentsMargins(0, 0, 0, 0);
     m_grid->setColumnStretch(1, 1);
@@ -61,6 +62,7 @@ TokenPopover::TokenPopover(const Token& token, QWidget* opener)
     if (kind == TokenKind::counter)
         return;
     QBTextField* otherwise =
+        //: What stands in the place of a value that a photo does not have, and what happens when nothing is given.
         addField(Texts::tr("If missing"), token.otherwise.value_or(QString()), Texts::tr("leave a gap"));
     connect(otherwise, &QLineEdit::textEdited, this, [this](const QString& text) {
         m_token.otherwise = text.isEmpty() ? std::nullopt : std::optional(text);
@@ -93,6 +95,7 @@ QBTextField* TokenPopover::addField(const QString& title, const QString& text, c
 void TokenPopover::addDateForm()
 {
     const bool isTime = m_token.spec()->kind == TokenKind::time;
+    //: How a date or time is written.
     QBTextField* form = addField(Texts::tr("Form"), m_token.form, isTime ? u"HHmm"_s : u"yyyy-MM-dd"_s);
     form->setValidator(new QRegularExpressionValidator(QRegularExpression(u"[^%|]*"_s), form));
     connect(form, &QLineEdit::textEdited, this, &TokenPopover::setForm);
@@ -118,12 +121,10 @@ void TokenPopover::addDateForm()
 void TokenPopover::addCounterForm()
 {
     const CounterForm now = CounterForm::parse(m_token.form).value_or(CounterForm());
-    const QList<std::pair<QString, QString>> rows{ { Texts::tr("From"), QString::number(now.start) },
-        { Texts::tr("Step"), QString::number(now.step) }, { Texts::tr("Digits"), QString::number(now.digits) } };
-    for (const auto& [title, text] : rows) {
-        QBTextField* field = addField(title, text, u"1"_s);
-        const bool isDigits = title == u"Digits";
-        field->setValidator(new QIntValidator(isDigits ? 1 : 0, isDigits ? CounterForm::mostDigits : 99999999, field));
+    constexpr int mostNumber = 99999999;
+    const auto add = [this](const QString& title, qint64 number, int least, int most) {
+        QBTextField* field = addField(title, QString::number(number), u"1"_s);
+        field->setValidator(new QIntValidator(least, most, field));
         connect(field, &QLineEdit::textEdited, this, [this] {
             CounterForm form;
             form.start = m_fields.at(0)->text().isEmpty() ? 1 : m_fields.at(0)->text().toLongLong();
@@ -131,11 +132,16 @@ void TokenPopover::addCounterForm()
             form.digits = qBound(1, m_fields.at(2)->text().toInt(), CounterForm::mostDigits);
             setForm(form.text());
         });
-    }
+    };
+    //: Of a counter: its first number, how far it is from one to the next, and how many digits each has.
+    add(Texts::tr("From"), now.start, 0, mostNumber);
+    add(Texts::tr("Step"), now.step, 0, mostNumber);
+    add(Texts::tr("Digits"), now.digits, 1, CounterForm::mostDigits);
 }
 
 void TokenPopover::addCaseForm()
 {
+    //: Whether the letters of a text are capitals.
     auto* picker = new ChoicePicker(Texts::tr("Letters"), 180, m_content);
     const QStringList forms{ {}, u"upper"_s, u"lower"_s };
     picker->setTitles({ Texts::tr("As they are"), Texts::tr("UPPER CASE"), Texts::tr("lower case") });
@@ -157,6 +163,7 @@ void TokenPopover::showExample()
         return;
     const bool isTime = m_token.spec()->kind == TokenKind::time;
     const QString form = m_token.form.trimmed().isEmpty() ? (isTime ? u"HHmm"_s : u"yyyy-MM-dd"_s) : m_token.form;
+    //: %1: a date, written in the form that was chosen.
     m_example->setText(Texts::tr("as in “%1”").arg(DateForm::apply(form, sample).value_or(QString())));
 }
 
