@@ -65,12 +65,13 @@ bool BesideSet::refresh(const QStringList& ids, bool fresh)
     FoldingHeading& heading = section().heading();
     QStringList labels;
     for (const QString& id : ids)
-        labels.append(FieldSchema::spec(id)->label);
+        labels.append(Texts::shown(FieldSchema::spec(id)->label));
     m_section->setRows(m_isOpen ? m_rows(ids, fresh) : QList<FieldRow*>());
+    //: Heads fields that a chosen set of fields leaves out, in capitals.
     heading.setTitle(m_model.isBatch() ? Texts::tr("ALSO IN THESE PHOTOS") : Texts::tr("ALSO IN THIS PHOTO"));
     heading.setOpen(m_isOpen);
     heading.setSummary({ labels.join(u", "_s), {} });
-    heading.setCount(labels.size() == 1 ? Texts::tr("1 field") : Texts::tr("%1 fields").arg(labels.size()));
+    heading.setCount(Texts::tr("%n field(s)", nullptr, labels.size()));
     heading.setEdited(IptcSummary::isEdited(m_model, ids));
     return ids != idsBefore || rows() != rowsBefore;
 }

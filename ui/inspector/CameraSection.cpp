@@ -30,8 +30,8 @@ public:
 
     void setRow(const CameraRow& row)
     {
-        m_row = row;
-        setText(row.label + u": "_s + row.value);
+        m_row = { Texts::shown(row.label), row.value };
+        setText(Texts::tr("%1: %2").arg(m_row.label, row.value));
         update();
     }
 

@@ -24,6 +24,7 @@ namespace Quorbel {
 using namespace Qt::StringLiterals;
 
 namespace {
+
 // Points.
 constexpr qreal gap = 7;
 constexpr qreal labelWidth = 104;
@@ -36,6 +37,13 @@ constexpr qreal stackedLabel = 20;
 constexpr qreal areaHeight = 54;
 constexpr qreal ratingWidth = 130;
 constexpr qreal blockRadius = 7;
+
+// What the field is for, as a sentence.
+QString purposeOf(const FieldSpec& field)
+{
+    //: A note as a sentence: %1 is its text, and what follows ends it.
+    return Texts::tr("%1.").arg(Texts::shown(field.addNote));
+}
 
 // Keeps the place of a field whose value is not known yet. No border and no motion.
 class FieldBlock final : public QWidget {
@@ -58,7 +66,7 @@ FieldRow::FieldRow(const FieldRowParts& parts, QWidget* parent)
     , m_isLanguage(parts.isLanguage)
     , m_isWide(parts.kind == FieldKind::structure)
     , m_isAlone(m_isWide && parts.isAlone)
-    , m_purpose(parts.mostCharacters > 0 && !parts.isLanguage ? parts.field->addNote + u'.' : QString())
+    , m_purpose(parts.mostCharacters > 0 && !parts.isLanguage ? purposeOf(*parts.field) : QString())
     , m_editor(makeRowEditor(parts, *this))
     , m_line(new QHBoxLayout(this))
     , m_column(new QVBoxLayout)
@@ -242,6 +250,7 @@ void FieldRow::showTick()
     m_tick->setVisible(m_state.batch && !m_state.fixed);
     m_tick->setChecked(m_state.included);
     const QString& name = m_state.language.spoken.isEmpty() ? m_state.label : m_state.language.spoken;
+    //: %1: name of a field.
     m_tick->setAccessibleName(Texts::tr("Write %1 to all selected files").arg(name));
 }
 
@@ -262,6 +271,7 @@ void FieldRow::showRemove()
         return m_remove->setAccessibleDescription(m_state.label);
     const bool isGone = m_state.language.isGone;
     m_remove->setIcon(isGone ? u"arrow.uturn.backward"_s : u"xmark.circle.fill"_s);
+    //: %1: a language.
     m_remove->setName((isGone ? Texts::tr("Bring %1 back") : Texts::tr("Remove %1")).arg(m_state.label));
 }
 
@@ -299,7 +309,8 @@ void FieldRow::describe()
 {
     QStringList told;
     if (m_state.edited && !m_state.batch)
-        told.append(u"edited"_s);
+        //: Spoken of a field or a section of them.
+        told.append(Texts::tr("edited"));
     // A placeholder alone is not read aloud.
     if (m_state.batch && m_state.included && m_state.italicPlaceholder)
         told.append(m_state.placeholder);

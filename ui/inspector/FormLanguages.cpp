@@ -1,6 +1,7 @@
 #include "ui/inspector/FormLanguages.h"
 
 #include "app/model/AppModel.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
 #include "ui/controls/attached/SearchMenu.h"
@@ -81,7 +82,8 @@ QStringList FormLanguages::likely(const QString& id) const
 
 void FormLanguages::openMenu(const FieldSpec& field, QWidget* anchor, const FieldRow& row)
 {
-    SearchMenu* menu = makeLanguageMenu(field.label, m_model.languages(field.id), likely(field.id), anchor);
+    SearchMenu* menu =
+        makeLanguageMenu(Texts::shown(field.label), m_model.languages(field.id), likely(field.id), anchor);
     connect(
         menu, &SearchMenu::picked, this, [this, id = field.id](const SearchMenuRow& picked) { add(id, picked.code); });
     // In line with the field, which the button that adds one hangs out of.

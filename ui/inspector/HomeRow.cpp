@@ -60,6 +60,7 @@ protected:
     }
 
 private:
+    //: Stands at the one of several values of a field that the form shows.
     static QString title() { return Texts::tr("Shown"); }
 };
 
@@ -106,7 +107,8 @@ private:
 QString textOf(const FieldHome& home)
 {
     const QString text = home.values.join(u" · "_s);
-    return text.trimmed().isEmpty() ? u"(empty)"_s : text;
+    //: A place within a photo that holds a field, and nothing in it.
+    return text.trimmed().isEmpty() ? Texts::tr("(empty)") : text;
 }
 
 QString foreignText(const FieldHome& home)
@@ -140,7 +142,8 @@ HomeRow::HomeRow(const FieldHome& home, QWidget* parent)
         column->addWidget(m_foreign);
         told.append(m_foreign->text());
     }
-    told.append(home.isShown ? u"shown"_s : Texts::tr("Return uses this one"));
+    //: Return is the key. Spoken: what it does to the value that has the keyboard; “shown” is the one in the form.
+    told.append(home.isShown ? Texts::tr("shown") : Texts::tr("Return uses this one"));
     setAccessibleName(home.tag);
     setAccessibleDescription(told.join(u", "_s));
     onRestyle(this, [this] { restyle(); });

@@ -32,8 +32,10 @@ HomesPopover::HomesPopover(const QString& field, QWidget* opener)
     , m_scroll(new ScrollArea(this))
     , m_content(new QWidget)
     , m_column(new QVBoxLayout(m_content))
+    //: Button: writes what is shown to all places within a photo that hold a field.
     , m_agree(new QBTextButton(Texts::tr("Make them agree"), this))
 {
+    //: Places within a photo that hold a field. %1: its name.
     setAccessibleName(Texts::tr("Places of %1").arg(field));
     describeAs(staticMetaObject, QAccessible::List);
     m_scroll->setFocusPolicy(Qt::NoFocus);

@@ -48,6 +48,7 @@ InspectorFooter::InspectorFooter(AppModel& model, QWidget* parent)
     , m_model(model)
     , m_line(new QBoxLayout(QBoxLayout::LeftToRight, this))
     , m_unsaved(new TwoLineLabel(TextRole::label, 12))
+    //: Button: shows edits again that were left unsaved.
     , m_left(new NoticeLine(Texts::tr("Bring back")))
     , m_rename(new QBButton(Texts::tr("Rename…"), QBButtonKind::secondary))
     , m_add(new QBButton(Texts::tr("Add field"), QBButtonKind::dashed))

@@ -61,9 +61,11 @@ InspectorForm::InspectorForm(
     , m_languages(new FormLanguages(model, this))
     , m_rows(new FormRows(model, { places, m_languages, [this](const QString& key) { return takes(key); } }, this))
     , m_iptc(new IptcSections(model, [this](const QStringList& ids, bool fresh) { return rowsOf(ids, fresh); }))
-    , m_customs(new FormSection(u"CUSTOM"_s))
+    //: Heads the fields that users have named themselves, in capitals.
+    , m_customs(new FormSection(Texts::tr("CUSTOM")))
     , m_beside(new BesideSet(model, [this](const QStringList& ids, bool fresh) { return rowsOf(ids, fresh); }))
-    , m_cameraSection(new FormSection(u"CAMERA"_s, u"read-only"_s))
+    //: Heads what the camera noted, in capitals; and beside it that nobody can change that.
+    , m_cameraSection(new FormSection(Texts::tr("CAMERA"), Texts::tr("read-only")))
     , m_map(new LocationMap(places, maps))
     , m_camera(new CameraSection)
     , m_pause(new FormPause(this))
@@ -73,7 +75,7 @@ InspectorForm::InspectorForm(
     m_column->setSpacing(0);
     m_column->addWidget(m_head);
     for (size_t i = 0; i < m_sections.size(); ++i) {
-        m_sections.at(i) = new FormSection(rawValue(FieldSection(i)));
+        m_sections.at(i) = new FormSection(Texts::shown(rawValue(FieldSection(i))));
         m_column->addWidget(m_sections.at(i));
     }
     m_sections.at(size_t(FieldSection::location))->setUnderRows(m_map);

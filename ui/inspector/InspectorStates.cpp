@@ -33,21 +33,16 @@ QString placeholderOf(const QString& id)
         { FieldID::creator, Texts::tr("Add a creator…") },
         { FieldID::copyright, Texts::tr("Add a copyright notice…") },
         { FieldID::date, u"YYYY-MM-DD HH:MM"_s },
-        { FieldID::coords, Texts::tr("lat, lon") },
+        { FieldID::coords, u"lat, lon"_s },
         { FieldID::headline, Texts::tr("Add a headline…") },
         { FieldID::event, Texts::tr("Add an event…") },
     };
     return placeholders.value(id);
 }
 
-QString plural(qsizetype count)
-{
-    return count == 1 ? QString() : u"s"_s;
-}
-
 QString willBeWritten(const AppModel& model)
 {
-    return Texts::tr("Will be written to all %1 photos").arg(model.selection().size());
+    return Texts::tr("Will be written to all %n photos", nullptr, model.selection().size());
 }
 
 // Where keywords stand in trees of keywords; people stand in none.
@@ -82,26 +77,30 @@ QString listHelp(const AppModel& model, const QString& id, bool adds)
 {
     QStringList parts;
     if (adds)
+        //: What a save does to a list of each photo.
         parts.append(Texts::tr("appends — existing values kept"));
     if (const qsizetype gone = model.batchRemoved().value(id).size(); gone > 0)
-        parts.append(Texts::tr("%1 taken away").arg(gone));
+        //: %n: how many items of a list, as keywords.
+        parts.append(Texts::tr("%n taken away", nullptr, gone));
     if (const auto own = model.batchOwn().constFind(id); own != model.batchOwn().cend())
         parts.append(own->told(model.selection().size()));
     return parts.join(u" · "_s);
 }
 
-// What one item of a list is called.
-QString itemName(const FieldSpec& field)
+// In the empty end of a list.
+QString addingPlaceholder(const FieldSpec& field)
 {
-    static const QHash<QString, QString> names{
-        { u"iptc.modelAges"_s, u"age"_s },
-        { u"iptc.modelReleaseIds"_s, u"ID"_s },
-        { u"iptc.eventIds"_s, u"ID"_s },
-        { u"iptc.organisationNames"_s, u"organisation"_s },
-        { u"iptc.organisationCodes"_s, u"code"_s },
-        { u"iptc.propertyReleaseIds"_s, u"ID"_s },
+    //: ↵ is the Return key, which adds what was typed to a list.
+    static const QString id = Texts::tr("Add ID + ↵");
+    static const QHash<QString, QString> placeholders{
+        { u"iptc.modelAges"_s, Texts::tr("Add age + ↵") },
+        { u"iptc.modelReleaseIds"_s, id },
+        { u"iptc.eventIds"_s, id },
+        { u"iptc.organisationNames"_s, Texts::tr("Add organisation + ↵") },
+        { u"iptc.organisationCodes"_s, Texts::tr("Add code + ↵") },
+        { u"iptc.propertyReleaseIds"_s, id },
     };
-    return names.value(field.id, u"keyword"_s);
+    return placeholders.value(field.id, Texts::tr("Add keyword + ↵"));
 }
 
 // What is wrong with what was typed, with the first such item of a list.
@@ -115,7 +114,7 @@ QString noteOf(const FieldSpec& field, const FieldRowState& state)
 
 void addListState(const AppModel& model, const FieldSpec& field, FieldRowState& state)
 {
-    state.placeholder = state.batch ? Texts::tr("Add to all + ↵") : Texts::tr("Add %1 + ↵").arg(itemName(field));
+    state.placeholder = state.batch ? Texts::tr("Add to all + ↵") : addingPlaceholder(field);
     state.items = state.batch ? model.batchLists().value(field.id) : model.draftLists().value(field.id);
     if (field.id == FieldID::keywords)
         state.itemParents = parentsOf(model, state.items);
@@ -155,9 +154,9 @@ bool showOwnTexts(const AppModel& model, const QString& key, FieldRowState& stat
     OwnSummary shown = *own;
     shown.text = ShownText::of(key, own->text);
     state.placeholder = shown.told(selected);
-    state.helpLine = own->photos == selected
-        ? willBeWritten(model)
-        : Texts::tr("Will be written to %1 of %2 photos").arg(own->photos).arg(selected);
+    //: %1 and %n: numbers of photos.
+    const QString some = Texts::tr("Will be written to %1 of %n photos", nullptr, selected).arg(own->photos);
+    state.helpLine = own->photos == selected ? willBeWritten(model) : some;
     return true;
 }
 
@@ -238,12 +237,15 @@ QString readingText(const AppModel& model)
     const int unread = model.unreadSelected();
     if (unread == 0)
         return {};
-    return (model.isWorking() ? Texts::tr("Reading %1 more…") : Texts::tr("%1 not read yet")).arg(unread);
+    //: %1: how many photos.
+    return (model.isWorking() ? Texts::tr("Reading %1 more…", nullptr, unread)
+                              : Texts::tr("%1 not read yet", nullptr, unread))
+        .arg(unread);
 }
 
 FieldRowState unreadRow(const FieldSpec& field)
 {
-    return { .label = field.label, .unread = true };
+    return { .label = Texts::shown(field.label), .unread = true };
 }
 
 QString heldText(const AppModel& model, const SelectedHolders& selected, const QString& id)
@@ -255,6 +257,7 @@ QString heldText(const AppModel& model, const SelectedHolders& selected, const Q
         return {};
     const qsizetype count = model.selection().size();
     const QString all = QLocale().toString(count);
+    //: A field holds something in all photos, or in some of them. The numbers are of photos.
     if (holders.photos == count)
         return Texts::tr("in all %1").arg(all);
     return (holders.unknown > 0 ? Texts::tr("in %1 or more of %2") : Texts::tr("in %1 of %2"))
@@ -264,7 +267,7 @@ QString heldText(const AppModel& model, const SelectedHolders& selected, const Q
 FieldRowState fieldRow(const AppModel& model, const FieldSpec& field)
 {
     FieldRowState state;
-    state.label = field.label;
+    state.label = Texts::shown(field.label);
     state.batch = model.isBatch();
     state.edited = isEdited(model, field.id);
     state.removable = model.isRemovableAddedField(field.id);
@@ -305,7 +308,8 @@ FieldRowState languageRow(const AppModel& model, const FieldSpec& field, const Q
     addTextState(model, key, state);
     if (state.language.isGone) {
         state.helpLine.clear();
-        state.noteLine = state.batch ? Texts::tr("Will be taken away from all %1 photos").arg(model.selection().size())
+        const auto photos = model.selection().size();
+        state.noteLine = state.batch ? Texts::tr("Will be taken away from all %n photos", nullptr, photos)
                                      : Texts::tr("Will be taken away");
     }
     return state;
@@ -339,8 +343,8 @@ QString disagreementsText(const AppModel& model)
     const int count = model.selectedDisagreements();
     if (count == 0)
         return {};
-    return (count == 1 ? Texts::tr("%1 photo has places that differ") : Texts::tr("%1 photos have places that differ"))
-        .arg(QLocale().toString(count));
+    //: %1: how many photos. Places: several within a photo that hold the same field.
+    return Texts::tr("%1 photo(s) (has|have) places that differ", nullptr, count).arg(QLocale().toString(count));
 }
 
 FieldRowState customRow(const AppModel& model, const CustomValue& custom)
@@ -379,22 +383,23 @@ QString unsavedText(const AppModel& model)
     if (count == 0)
         return Texts::tr("No unsaved changes");
     if (!model.isBatch())
-        return Texts::tr("%1 unsaved change%2").arg(count).arg(plural(count));
-    return Texts::tr("%1 field%2 → %3 files").arg(count).arg(plural(count)).arg(model.selection().size());
+        return Texts::tr("%n unsaved change(s)", nullptr, count);
+    //: Of so many fields the values will go into files. %1: “12 files”.
+    return Texts::tr("%n field(s) → %1", nullptr, count)
+        .arg(Texts::tr("%n file(s)", nullptr, model.selection().size()));
 }
 
 QString leftText(const LeftNotice& left)
 {
-    return Texts::tr("%1 edit%2 of %3 photo%4 left unsaved")
-        .arg(left.edits)
-        .arg(plural(left.edits))
-        .arg(left.photos)
-        .arg(plural(left.photos));
+    //: Somebody went on without saving them. %1: “5 photos”.
+    return Texts::tr("%n edit(s) of %1 left unsaved", nullptr, left.edits)
+        .arg(Texts::tr("%n photo(s)", nullptr, left.photos));
 }
 
 QString briefLeftText(const LeftNotice& left)
 {
-    return Texts::tr("%1 edit%2 left unsaved").arg(left.edits).arg(plural(left.edits));
+    //: Somebody went on without saving them.
+    return Texts::tr("%n edit(s) left unsaved", nullptr, left.edits);
 }
 
 QString addTitle(const AppModel& model)
@@ -406,6 +411,7 @@ QString saveTitle(const AppModel& model)
 {
     if (model.isSaving())
         return Texts::tr("Saving…");
+    //: Button: saves what was edited into photos. %1: how many these are.
     return model.isBatch() ? Texts::tr("Apply to %1").arg(model.selection().size()) : Texts::tr("Save");
 }
 

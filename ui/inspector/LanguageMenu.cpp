@@ -57,6 +57,7 @@ SearchMenu* makeLanguageMenu(
             offer(code, FieldLanguages::name(code));
     for (const FieldLanguages::Choice& choice : FieldLanguages::choices())
         offer(choice.code, choice.name);
+    //: %1: name of a field.
     auto* menu = new SearchMenu(Texts::tr("Add a language to %1").arg(label), Texts::tr("Language or code"), opener);
     menu->setOther([present](const QString& typed) { return otherLanguage(typed, present); });
     menu->setNothingFound(Texts::tr("No such language. A code such as “de-AT” works too."));

@@ -95,6 +95,7 @@ RowEditor dateEditor(const std::function<QDateTime()>& now, FieldRow& row)
     auto* holder = new QWidget(&row);
     auto* line = new QHBoxLayout(holder);
     auto* field = new QBTextField(holder);
+    //: Button: puts the time of this moment into the field.
     auto* button = new QBButton(Texts::tr("Now"), QBButtonKind::secondary, holder);
     line->setContentsMargins(0, 0, 0, 0);
     line->addWidget(field, 1);

@@ -60,17 +60,24 @@ private:
     qreal m_rise;
 };
 
+QString languageKeys()
+{
+    return QKeySequence(Qt::ALT | Qt::Key_Right).toString(QKeySequence::NativeText);
+}
+
 // "2 of 3 places differ"
 QString placesText(const QList<FieldHome>& homes)
 {
     const auto isShown = [](const FieldHome& home) { return home.isShown; };
     const auto differing = homes.size() - std::count_if(homes.cbegin(), homes.cend(), isShown);
-    const QString text =
-        Texts::tr("%1 of %2 places %3").arg(differing).arg(homes.size()).arg(differing == 1 ? u"differs" : u"differ");
     const auto shown = std::find_if(homes.cbegin(), homes.cend(), isShown);
-    return shown != homes.cend() && shown->isForeign && !FileHome::is(*shown)
-        ? text + Texts::tr(", another standard’s is shown")
-        : text;
+    const bool isOther = shown != homes.cend() && shown->isForeign && !FileHome::is(*shown);
+    //: Places within a photo that hold the same field. %1: how many there are, %n: in how many another text stands.
+    const QString text = isOther
+        ? Texts::tr("%n of %1 places (differs|differ), another standard’s is shown", nullptr, differing)
+        //: Places within a photo that hold the same field. %1: how many there are, %n: in how many another text stands.
+        : Texts::tr("%n of %1 places (differs|differ)", nullptr, differing);
+    return text.arg(homes.size());
 }
 
 }  // namespace
@@ -118,7 +125,7 @@ void RowExtras::showMark(const FieldRowState& state)
         return;
     if (isMarked) {
         m_mark->setText(placesText(m_places.homes));
-        m_mark->setAccessibleName(u"%1: %2"_s.arg(state.label, m_mark->text()));
+        m_mark->setAccessibleName(Texts::tr("%1: %2").arg(state.label, m_mark->text()));
     } else if (m_mark->hasFocus()) {
         m_editor.input->setFocus(Qt::OtherFocusReason);
     }
@@ -167,13 +174,16 @@ void RowExtras::showChip(const FieldRowState& state)
         QStringList told;
         for (const RowLanguages::Code& code : std::as_const(m_languages.codes)) {
             codes.append({ code.text, code.isGone });
-            told.append(code.isGone ? code.text + Texts::tr(" (will be taken away)") : code.text);
+            //: %1: code of a language, as “de”.
+            told.append(code.isGone ? Texts::tr("%1 (will be taken away)").arg(code.text) : code.text);
         }
         m_chip->setCodes(codes);
         m_chip->setChecked(m_languages.isOpen);
         m_chip->setEdited(m_languages.isEdited);
+        //: %1: name of a field, %2: codes of languages, as “de, fr”.
         m_chip->setAccessibleName(Texts::tr("%1 in other languages: %2").arg(state.label, told.join(u", "_s)));
-        m_chip->setToolTip(Texts::tr("Other languages: %1 (Alt+Right)").arg(told.join(u", "_s)));
+        //: %1: codes of languages, as “de, fr”. %2: keys, as “Alt+Right”.
+        m_chip->setToolTip(Texts::tr("Other languages: %1 (%2)").arg(told.join(u", "_s), languageKeys()));
     } else if (m_chip->hasFocus()) {
         m_editor.input->setFocus(Qt::OtherFocusReason);
     }
@@ -241,7 +251,7 @@ void RowExtras::offer()
     if (isOffered && !m_offer) {
         m_offer = new QBIconButton(u"plus"_s, Texts::tr("Add language"), &m_row);
         m_offer->setSizes({ offerSize, offerSize }, 12, 2.1, 6);
-        m_offer->setHint(u"Alt+Right"_s);
+        m_offer->setHint(languageKeys());
         m_offer->setFocusPolicy(Qt::NoFocus);  // the keyboard has Alt+Right
         connect(m_offer, &QAbstractButton::clicked, this, [this] { emit m_row.languageMenuAsked(m_editor.widget); });
     }

@@ -9,6 +9,7 @@
 #include "ui/controls/cards/ItemCard.h"
 #include "ui/controls/keywords/KeywordEditor.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/iptc/CardTexts.h"
 #include "ui/inspector/iptc/StructureCard.h"
 #include "ui/inspector/iptc/StructureCards.h"
 #include "ui/inspector/iptc/StructureFields.h"
@@ -129,6 +130,17 @@ private slots:
         QCOMPARE(desk.line(1)->accessibleDescription(), u"edited, Horn"_s);
         QCOMPARE(desk.line(0)->accessibleDescription(), u"Rapperswil-Jona · St. Gallen, Switzerland"_s);
         QVERIFY(labels(desk.window()).join(u' ').contains(u"“Mood”"_s));
+    }
+
+    // The texts stand whole, beside the word that they are made of: none is forgotten.
+    void everyStructureHasItsTexts()
+    {
+        for (const StructureSpec& structure : IptcStructures::all()) {
+            QCOMPARE(CardTexts::adding(structure), u"Add "_s + structure.item);
+            QCOMPARE(CardTexts::untitled(structure), u"New "_s + structure.item);
+            QCOMPARE(CardTexts::counted(structure, 1), u"1 "_s + structure.item);
+            QVERIFY(CardTexts::counted(structure, 2).startsWith(u"2 "_s + structure.item.first(2)));
+        }
     }
 
     // And no longer once they are what the photo holds; of several photos, all that will be written.

@@ -37,6 +37,7 @@ QString bannerHint()
 
 BatchBanner::BatchBanner(QWidget* parent)
     : QWidget(parent)
+    //: Button: writes what is shown to all places within photos that hold a field.
     , m_disagreements(new NoticeLine(Texts::tr("Make them agree"), this))
     , m_end(new QWidget(this))
 {
@@ -52,7 +53,7 @@ BatchBanner::BatchBanner(QWidget* parent)
 
 void BatchBanner::setPhotos(qsizetype count, const QString& note, const QString& after)
 {
-    const QString title = Texts::tr("Editing %1 photos").arg(count);
+    const QString title = Texts::tr("Editing %n photos", nullptr, count);
     const QString second = note.isEmpty() ? bannerHint() : note;
     if (title == m_title && second == m_note && after == m_after)
         return;

@@ -12,8 +12,11 @@ ChoicePicker* makeFieldSetPicker(FieldSets& sets, QWidget* parent)
     auto* picker = new ChoicePicker(Texts::tr("Field set"), fieldSetPickerWidth, parent);
     const auto follow = [picker, &sets] {
         const QStringList names = sets.names();
-        if (names != picker->titles())
-            picker->setTitles(names);
+        QStringList titles;
+        for (const QString& name : names)
+            titles.append(Texts::shown(name));
+        if (titles != picker->titles())
+            picker->setTitles(titles);
         picker->setCurrent(int(names.indexOf(sets.current())));
         picker->setVisible(sets.isOffered());
     };

@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/pairs/Pairing.h"
 #include "app/model/selection/SelectedSidecars.h"
+#include "core/language/Texts.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/theme/Metrics.h"
@@ -46,8 +47,8 @@ void FormHead::refresh()
     const QString reading = InspectorStates::readingText(m_model);
     const SelectedSidecars& sidecars = m_model.selectedSidecars();
     const QString target = sidecars.text();
-    m_banner->setPhotos(
-        m_model.selection().size(), reading, reading.isEmpty() && !target.isEmpty() ? target + u'.' : QString());
+    m_banner->setPhotos(m_model.selection().size(), reading,
+        reading.isEmpty() && !target.isEmpty() ? Texts::tr("%1.").arg(target) : QString());
     m_header->setSidecar(target, sidecars.told().path);
     // While photos are read, how far that is comes first.
     m_banner->setDisagreements(

@@ -62,6 +62,7 @@ CardActions::CardActions(AppModel& model, PlaceProvider* places, const FieldSpec
 
 void CardActions::offerPlaces()
 {
+    //: Location: the fields of the form that say where the photo was taken.
     m_cards.setActions({ { Texts::tr("Copy from Location"), [this](int item) { copyFromLocation(item); },
                              [this](int item) { return whyNotFrom(item); } },
         { Texts::tr("Copy to Location"), [this](int item) { copyToLocation(item); },
@@ -79,13 +80,16 @@ QString CardActions::whyNotFrom(int item) const
 {
     const QString card = ofLocation(item);
     if (card.isEmpty())
+        //: Why nothing can be copied: those fields are empty.
         return Texts::tr("nothing there");
+    //: Why nothing can be copied.
     return card == items().value(item) ? Texts::tr("the same already") : QString();
 }
 
 QString CardActions::whyNotTo(int item) const
 {
     if (LocationCards::toFields(items().value(item), [](const QString&) { return QString(); }).isEmpty())
+        //: Why nothing can be copied: this card is empty.
         return Texts::tr("nothing here");
     return toLocation(item).isEmpty() ? Texts::tr("the same already") : QString();
 }
@@ -140,7 +144,7 @@ void CardActions::chooseTerm(const TermOffer& offer, int item)
         return;
     CodeSource source = vocabularySource(offer.vocabulary);
     source.footer.clear();
-    auto* popover = new CodePopover(Vocabularies::find(offer.vocabulary)->title, source, {}, false, card);
+    auto* popover = new CodePopover(Texts::shown(Vocabularies::find(offer.vocabulary)->title), source, {}, false, card);
     connect(popover, &CodePopover::picked, this, [this, offer, item](const QString& code) {
         setItem(item, TermCards::withTerm(offer, items().value(item), code));
     });
@@ -154,16 +158,17 @@ void CardActions::offerRemembered()
     if (m_model.rememberedCards().of(m_field.id).isEmpty())
         m_cards.setActions({});
     else
-        m_cards.setActions({ { .text = Texts::tr("Use Remembered %1…").arg(thing()),
-                                 .run = [this](int item) { pickRemembered(item); },
-                                 .start = Texts::tr("Use a remembered %1…").arg(thing().toLower()) },
-            { Texts::tr("Forget Remembered %1").arg(thing() + u's'),
-                [this](int) { m_model.rememberedCards().forgetAll(m_field.id); } } });
+        m_cards.setActions(
+            { { .text = either(Texts::tr("Use Remembered Contact…"), Texts::tr("Use Remembered Licensor…")),
+                  .run = [this](int item) { pickRemembered(item); },
+                  .start = either(Texts::tr("Use a remembered contact…"), Texts::tr("Use a remembered licensor…")) },
+                { either(Texts::tr("Forget Remembered Contacts"), Texts::tr("Forget Remembered Licensors")),
+                    [this](int) { m_model.rememberedCards().forgetAll(m_field.id); } } });
 }
 
-QString CardActions::thing() const
+QString CardActions::either(const QString& contact, const QString& licensor) const
 {
-    return m_field.isSeveral ? Texts::tr("Licensor") : Texts::tr("Contact");
+    return m_field.isSeveral ? licensor : contact;
 }
 
 void CardActions::pickRemembered(int item)
@@ -171,7 +176,8 @@ void CardActions::pickRemembered(int item)
     QWidget* card = anchor(item);
     if (!card)
         return;
-    auto* popover = new RememberedPopover(Texts::tr("Remembered %1").arg(thing().toLower() + u's'), card);
+    auto* popover =
+        new RememberedPopover(either(Texts::tr("Remembered contacts"), Texts::tr("Remembered licensors")), card);
     RememberedCards& cards = m_model.rememberedCards();
     showRemembered(*popover);
     connect(&cards, &RememberedCards::changed, popover, [this, popover] { showRemembered(*popover); });

@@ -30,7 +30,8 @@ private:
     void offerRemembered();
     void offerTerms();
     void chooseTerm(const TermOffer& offer, int item);
-    QString thing() const;
+    /// The text for what the field holds.
+    QString either(const QString& contact, const QString& licensor) const;
     QString ofLocation(int item) const;
     QList<LocationFill::Assignment> toLocation(int item) const;
     QString whyNotFrom(int item) const;

@@ -30,7 +30,8 @@ RowEditor oneCode(const CodeSource& source, FieldRow& row)
 
 RowEditor severalCodes(const FieldSpec& field, FieldRow& row)
 {
-    auto* picker = new CodesPicker(field.label, Texts::tr("Add code"), &row);
+    //: Button: adds a code of a vocabulary to a list.
+    auto* picker = new CodesPicker(Texts::shown(field.label), Texts::tr("Add code"), &row);
     picker->setSource(vocabularySource(field.vocabulary));
     QObject::connect(picker, &CodesPicker::added, &row, &FieldRow::itemAdded);
     QObject::connect(picker, &CodesPicker::removed, &row, &FieldRow::itemRemoved);

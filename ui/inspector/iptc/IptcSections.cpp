@@ -3,6 +3,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/fieldsets/FieldSets.h"
 #include "core/iptc/IptcSchema.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldLanguages.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/cards/FoldingHeading.h"
@@ -100,7 +101,7 @@ FoldingSection* IptcSections::make(FieldSection section)
 {
     if (FoldingSection* known = m_sections.value(section))
         return known;
-    auto* made = new FoldingSection(rawValue(section), this);
+    auto* made = new FoldingSection(Texts::shown(rawValue(section)), this);
     made->hide();
     m_sections.insert(section, made);
     m_column->insertWidget(int(std::distance(m_sections.begin(), m_sections.find(section))), made);

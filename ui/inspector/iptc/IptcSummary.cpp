@@ -4,8 +4,10 @@
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/ShownText.h"
 #include "core/iptc/StructureText.h"
+#include "core/language/Texts.h"
 #include "core/schema/FieldLanguages.h"
 #include "ui/inspector/InspectorStates.h"
+#include "ui/inspector/iptc/CardTexts.h"
 
 #include <algorithm>
 
@@ -55,7 +57,7 @@ QString valueText(const AppModel& model, const FieldSpec& field)
         item = shortened(ShownText::of(field.id, item));
     const QString text = items.join(u", "_s);
     // A number alone says nothing.
-    return field.kind == FieldKind::number ? field.label + u' ' + text : text;
+    return field.kind == FieldKind::number ? Texts::shown(field.label) + u' ' + text : text;
 }
 
 // Of several photos also how many hold something, with the field's name unless the section is there for just this one.
@@ -66,7 +68,7 @@ QString textOf(const AppModel& model, const FieldSpec& field, const QString& hel
         return value;
     const auto isThere = [&field](const FieldSpec& other) { return other.section == field.section; };
     const bool isAlone = std::count_if(IptcSchema::all().cbegin(), IptcSchema::all().cend(), isThere) == 1;
-    const QString told = isAlone ? held : field.label + u' ' + held;
+    const QString told = isAlone ? held : Texts::shown(field.label) + u' ' + held;
     return value.isEmpty() ? told : value + u" · "_s + told;
 }
 
@@ -96,7 +98,7 @@ QString countText(const AppModel& model, const QStringList& ids)
     if (!structure)
         return {};
     const qsizetype count = itemsOf(model, *field).size();
-    return count == 0 ? QString() : u"%1 %2"_s.arg(count).arg(count == 1 ? structure->item : structure->items);
+    return count == 0 ? QString() : CardTexts::counted(*structure, count);
 }
 
 bool isEdited(const AppModel& model, const QStringList& ids)

@@ -75,6 +75,7 @@ CodeSource seaLevels()
 {
     CodeSource source;
     source.rows = [](const QString& typed) {
+        //: Whether a height is below sea level.
         QList<CodeRow> rows{ { u"0"_s, Texts::tr("No"), {} }, { u"1"_s, Texts::tr("Yes"), {} } };
         rows.removeIf([&typed](const CodeRow& row) { return !row.name.startsWith(typed, Qt::CaseInsensitive); });
         return rows;

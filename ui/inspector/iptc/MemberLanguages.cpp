@@ -19,13 +19,13 @@ MemberLanguages::MemberLanguages(CardRow& row)
     , m_add(new QAction(Texts::tr("Add Language…"), row.input()))
 {
     m_plus->setSizes({ 22, 22 }, 12, 2.1, 6);
-    m_plus->setHint(u"Alt+Right"_s);
     m_plus->setFocusPolicy(Qt::NoFocus);  // the keyboard has Alt+Right
     m_plus->hide();
     row.setAtLabel(m_plus);
     row.installEventFilter(this);
     m_add->setShortcut(Qt::ALT | Qt::Key_Right);
     m_add->setShortcutContext(Qt::WidgetShortcut);
+    m_plus->setHint(m_add->shortcut().toString(QKeySequence::NativeText));
     row.input()->addAction(m_add);
     connect(m_plus, &QAbstractButton::clicked, this, &MemberLanguages::asked);
     connect(m_add, &QAction::triggered, this, &MemberLanguages::asked);

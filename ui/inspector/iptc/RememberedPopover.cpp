@@ -70,6 +70,7 @@ void RememberedPopover::addRow(const QString& label, int row)
     across->setSpacing(px(2));
     auto* pick = new MenuRow(label, false, line);
     pick->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    //: %1: name of a contact or licensor.
     auto* cross = new QBIconButton(u"xmark"_s, Texts::tr("Forget %1").arg(label), line);
     cross->setSizes({ crossSize, crossSize }, 12, 0, 6);
     cross->setQuiet(true);

@@ -2,6 +2,7 @@
 
 #include "core/iptc/StructureText.h"
 #include "core/language/Texts.h"
+#include "ui/inspector/iptc/CardTexts.h"
 #include "ui/inspector/iptc/StructureFields.h"
 
 namespace Quorbel {
@@ -12,8 +13,8 @@ StructureCard::StructureCard(const StructureSpec& structure, const CodeTexts& co
     : QObject(parent)
     , m_structure(structure)
     , m_codes(codes)
-    , m_untitled(Texts::tr("New %1").arg(structure.item))
-    , m_widget(new ItemCard(structure.item, parent))
+    , m_untitled(CardTexts::untitled(structure))
+    , m_widget(new ItemCard(Texts::shown(structure.item), parent))
 {
     showSummary();
 }
@@ -52,7 +53,8 @@ void StructureCard::showSummary()
     const QString title = StructureText::title(m_structure, m_text);
     const QString shown = title.isEmpty() ? m_untitled : title;
     m_widget->setSummary({ shown, StructureText::subtitle(m_structure, m_text) });
-    const QString name = m_spoken.isEmpty() || m_spoken == shown ? shown : m_spoken + u": "_s + shown;
+    const bool isSame = m_spoken.isEmpty() || m_spoken == shown;
+    const QString name = isSame ? shown : Texts::tr("%1: %2").arg(m_spoken, shown);
     m_widget->setAccessibleName(name);
     m_widget->input()->setAccessibleName(name);
 }

@@ -1,6 +1,7 @@
 #include "ui/inspector/iptc/StructureCards.h"
 
 #include "core/iptc/IptcStructures.h"
+#include "core/language/Texts.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/cards/EditedDot.h"
@@ -26,7 +27,7 @@ constexpr qreal gapSide = 7;  // between the border of a gap and its button
 StructureList::Parts partsOf(const FieldSpec& field, const CodeTexts& codes)
 {
     const auto holds = field.isSeveral ? StructureList::Holds::several : StructureList::Holds::always;
-    return { field.label, IptcStructures::spec(field.structure), holds, false, codes };
+    return { Texts::shown(field.label), IptcStructures::spec(field.structure), holds, false, codes };
 }
 
 }  // namespace

@@ -35,7 +35,8 @@ constexpr qreal noteHeight = 15;
 // "Name (German)"
 QString labelOf(const StructureMember& member, const QString& code)
 {
-    return code.isEmpty() ? member.label : u"%1 (%2)"_s.arg(member.label, FieldLanguages::name(code));
+    const QString label = Texts::shown(member.label);
+    return code.isEmpty() ? label : u"%1 (%2)"_s.arg(label, FieldLanguages::name(code));
 }
 
 QWidget* sideBySide(QWidget* left, QWidget* right, const StructureLayout::Beside& beside)
@@ -61,11 +62,14 @@ QString listed(QStringList names)
     const qsizetype more = qMax<qsizetype>(0, names.size() - most);
     names = names.first(names.size() - more);
     for (QString& name : names)
-        name = u'“' + name + u'”';
+        //: A name, in quotation marks.
+        name = Texts::tr("“%1”").arg(name);
     if (more > 0)
-        return names.join(u", "_s) + Texts::tr(" and %1 more").arg(more);
+        //: The end of a list of names: %1 is those before, with commas between them.
+        return Texts::tr("%1 and %n more", nullptr, more).arg(names.join(u", "_s));
     const QString last = names.takeLast();
-    return names.isEmpty() ? last : names.join(u", "_s) + Texts::tr(" and ") + last;
+    //: The end of a list of names: %1 is those before, with commas between them, %2 the last one.
+    return names.isEmpty() ? last : Texts::tr("%1 and %2").arg(names.join(u", "_s), last);
 }
 
 }  // namespace
@@ -76,7 +80,7 @@ StructureFields::StructureFields(const StructureSpec& structure, const CodeTexts
     , m_codes(codes)
     , m_column(new QVBoxLayout(this))
     , m_start(new QBTextButton({}, this))
-    , m_more(new QBTextButton(Texts::tr("More"), this))
+    , m_more(new QBTextButton(Texts::tr("More", "button: shows further fields"), this))
 {
     describeInReadingOrder(staticMetaObject, QAccessible::Client);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -271,7 +275,7 @@ void StructureFields::showNote(Line& line, Part& part)
     }
     QStringList told;
     if (m_origin && !StructureEdit::isSame(m_text, *m_origin, part.name))
-        told.append(u"edited"_s);
+        told.append(Texts::tr("edited"));
     if (!text.isEmpty())
         told.append(text);
     part.editor.input->setAccessibleDescription(told.join(u", "_s));
@@ -293,10 +297,11 @@ void StructureFields::showMore()
     QStringList labels;
     for (const StructureMember& member : m_structure.members)
         if (!StructureLayout::isBeside(member.name) && !isShown(member))
-            labels.append(member.label);
+            labels.append(Texts::shown(member.label));
     m_more->setVisible(!labels.isEmpty() && !m_readOnly);
     m_more->setToolTip(labels.join(u", "_s));
-    m_more->setAccessibleName(Texts::tr("More fields of this %1").arg(m_structure.item));
+    //: %1: what the card holds, as “place”, “person” or “contact”.
+    m_more->setAccessibleName(Texts::tr("More fields of this %1").arg(Texts::shown(m_structure.item)));
     m_more->setAccessibleDescription(labels.join(u", "_s));
 }
 
@@ -325,8 +330,9 @@ void StructureFields::showForeign()
     m_foreign->setVisible(!names.isEmpty());
     if (!names.isEmpty())
         m_foreign->setText(
+            //: %1: names of what another program has put in, as “Mood” and “Weather”. %2: “place”, “person”, “contact”…
             Texts::tr("Also holds %1 of another program, which stays. Changing this %2 may be refused for that.")
-                .arg(listed(names), m_structure.item));
+                .arg(listed(names), Texts::shown(m_structure.item)));
 }
 
 // --- What somebody does ---
@@ -346,7 +352,8 @@ void StructureFields::openLanguages(const StructureMember& member, CardRow& row)
     QStringList likely;
     for (const QStringList& codes : std::as_const(m_languages))
         likely += codes;
-    SearchMenu* menu = makeLanguageMenu(member.label, m_languages.value(member.name), likely, row.input());
+    SearchMenu* menu =
+        makeLanguageMenu(Texts::shown(member.label), m_languages.value(member.name), likely, row.input());
     connect(menu, &SearchMenu::picked, this,
         [this, member](const SearchMenuRow& picked) { addLanguage(member, picked.code); });
     menu->open(QRect(row.input()->mapToGlobal(QPoint()), row.input()->size()), row.input()->width());

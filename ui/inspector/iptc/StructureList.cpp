@@ -7,6 +7,7 @@
 #include "ui/controls/cards/EditedDot.h"
 #include "ui/controls/cards/ItemCard.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/inspector/iptc/CardTexts.h"
 #include "ui/inspector/iptc/SettledFocus.h"
 #include "ui/inspector/iptc/StructureCard.h"
 #include "ui/inspector/iptc/StructureFields.h"
@@ -33,7 +34,7 @@ StructureList::StructureList(const Parts& parts, QWidget* parent)
     : QWidget(parent)
     , m_parts(parts)
     , m_column(new QVBoxLayout(this))
-    , m_add(new QBButton(Texts::tr("Add %1").arg(parts.structure->item), QBButtonKind::dashed, this))
+    , m_add(new QBButton(CardTexts::adding(*parts.structure), QBButtonKind::dashed, this))
 {
     describeInReadingOrder(staticMetaObject, QAccessible::Grouping);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -143,7 +144,8 @@ void StructureList::addMenu(StructureCard* card)
     ItemCard* widget = card->widget();
     widget->setFixed(m_readOnly);
     if (m_parts.holds != Holds::several)
-        widget->setAlone(m_parts.holds == Holds::always ? Texts::tr("Clear") : Texts::tr("Remove"));
+        widget->setAlone(
+            m_parts.holds == Holds::always ? Texts::tr("Clear", "verb: empties the fields") : Texts::tr("Remove"));
     const QList<QAction*> before = widget->actions();
     for (QAction* action : before)
         delete action;
@@ -237,12 +239,14 @@ void StructureList::showEdited()
 void StructureList::showOrder()
 {
     const qsizetype count = m_cards.size();
+    const QString item = Texts::shown(m_parts.structure->item);
     for (qsizetype i = 0; i < count; ++i) {
         StructureCard* card = m_cards.at(i);
         card->widget()->setCanMove(i > 0, i + 1 < count);
-        card->setSpoken(m_parts.holds == Holds::several
-                ? Texts::tr("%1, %2 %3 of %4").arg(m_parts.name, m_parts.structure->item).arg(i + 1).arg(count)
-                : m_parts.name);
+        //: Spoken of a card. %1: name of the field, %2: “place”, “person”…, %3: which one it is, %4: how many there
+        //: are.
+        const QString spoken = Texts::tr("%1, %2 %3 of %4").arg(m_parts.name, item).arg(i + 1).arg(count);
+        card->setSpoken(m_parts.holds == Holds::several ? spoken : m_parts.name);
     }
     const bool isRoom = m_parts.holds == Holds::several || m_cards.isEmpty();
     m_add->setVisible(isRoom && !m_readOnly);

@@ -21,6 +21,7 @@ CodeSource vocabularySource(const QString& id)
         const VocabularyTerm* term = Vocabularies::term(id, code);
         return term ? term->name : QString();
     };
+    //: Under the terms of a vocabulary: files hold a term's code, not its name.
     source.footer = Texts::tr("stored as a code");
     return source;
 }

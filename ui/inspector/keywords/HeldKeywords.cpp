@@ -47,6 +47,7 @@ void HeldKeywords::refresh()
     int beyond = 0;
     const QList<HeldKeyword> shown = m_model.isBatch() ? wanted(m_most, beyond) : QList<HeldKeyword>();
     m_row->setVisible(!shown.isEmpty());
+    //: Stands before keywords. %1: of how many photos.
     m_row->setLabel(Texts::tr("In these %1").arg(m_model.selectedKeywordPhotos()));
     m_flow->setMost(m_isOpen && beyond == 0 ? 0 : m_isOpen ? QWIDGETSIZE_MAX : mostLines, m_more, beyond);
     if (shown == m_shown)
@@ -89,8 +90,13 @@ HeldKeyword HeldKeywords::held(const KeywordCount& count, bool isGone) const
     held.by = isGone ? HeldKeyword::By::gone : isInAll ? HeldKeyword::By::all : HeldKeyword::By::some;
     if (held.by != HeldKeyword::By::all)
         held.count = Texts::tr("%1 of %2").arg(count.photos).arg(photos);
-    held.spoken = count.keyword + (isInAll ? Texts::tr(", in all %1").arg(photos) : Texts::tr(", in ") + held.count)
-        + (isGone ? Texts::tr(", to be taken away") : QString());
+    //: Said behind a keyword. The numbers are of photos.
+    QStringList told{ count.keyword,
+        isInAll ? Texts::tr("in all %1").arg(photos) : Texts::tr("in %1 of %2").arg(count.photos).arg(photos) };
+    if (isGone)
+        //: Said behind a keyword.
+        told.append(Texts::tr("to be taken away"));
+    held.spoken = told.join(u", "_s);
     QStringList paths = m_model.pathsOf(count.keyword);
     for (QString& path : paths)
         path = KeywordPath::shown(path);

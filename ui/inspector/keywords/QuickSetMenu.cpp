@@ -18,11 +18,14 @@ void addQuickSets(QMenu& menu, QuickKeywords& quick)
         action->setChecked(quick.current() == name);
         QObject::connect(action, &QAction::triggered, &quick, [&quick, name] { quick.show(name); });
     };
+    //: The keywords that were used last.
     add(Texts::tr("Last used"), {});
     for (const QuickSet& set : quick.sets())
         add(set.name, set.name);
     menu.addSeparator();
+    //: Set: of keywords.
     QObject::connect(menu.addAction(Texts::tr("New Set…")), &QAction::triggered, &quick, &QuickKeywords::beginNew);
+    //: Set: of keywords.
     QAction* change = menu.addAction(Texts::tr("Edit Set…"));
     change->setEnabled(!quick.current().isEmpty());
     QObject::connect(change, &QAction::triggered, &quick, &QuickKeywords::beginChange);

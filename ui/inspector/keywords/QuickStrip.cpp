@@ -25,6 +25,7 @@ QuickStrip::QuickStrip(AppModel& model, QWidget* parent)
     , m_row(new SubRow(m_flow, parent))
     , m_set(new QBTextButton({}, m_flow))
 {
+    //: Stands before keywords that a click adds.
     m_row->setLabel(Texts::tr("Quick"));
     m_flow->setAccessibleName(Texts::tr("Quick keywords"));
     m_set->setTrailingIcon(u"chevron.up.chevron.down"_s);
@@ -44,7 +45,8 @@ void QuickStrip::refresh()
     for (int i = 0; i < int(keywords.size()); ++i) {
         TokenChip* chip = chipAt(i);
         const bool hasKey = i < QuickKeywords::withKeys;
-        const QString key = QKeySequence(QKeyCombination(Qt::ALT, Qt::Key(Qt::Key_1 + i))).toString();
+        const QString key =
+            QKeySequence(QKeyCombination(Qt::ALT, Qt::Key(Qt::Key_1 + i))).toString(QKeySequence::NativeText);
         const auto path = KeywordPath::fromTyped(keywords.at(i));
         const QString text = path ? KeywordPath::keyword(*path) : keywords.at(i);
         QStringList told;
@@ -55,13 +57,15 @@ void QuickStrip::refresh()
         chip->setText(text);
         chip->setKeyHint(hasKey ? QString::number(i + 1) : QString());
         chip->setToolTip(told.join(u'\n'));
+        //: Adds a keyword to all photos. %1: the keyword, %2: keys that do the same.
         chip->setAccessibleName(
             hasKey ? Texts::tr("Add %1 to all, %2").arg(text, key) : Texts::tr("Add %1 to all").arg(text));
         items.append(chip);
     }
     const QString set = quick.current().isEmpty() ? Texts::tr("Last used") : quick.current();
     m_set->setText(set);
-    m_set->setAccessibleName(Texts::tr("Set of quick keywords: ") + set);
+    //: %1: name of the set.
+    m_set->setAccessibleName(Texts::tr("Set of quick keywords: %1").arg(set));
     items.append(m_set);
     m_flow->setItems(items);
 }
