@@ -2,6 +2,7 @@
 #include "app/model/AppModel.h"
 #include "app/model/fieldsets/FieldSets.h"
 #include "app/model/library/filter/Filtering.h"
+#include "app/model/pairs/Pairing.h"
 #include "tests/ui/UiSupport.h"
 #include "tests/ui/inspector/InspectorFixture.h"
 #include "ui/controls/Buttons.h"
@@ -177,6 +178,14 @@ void tst_InspectorView::tellsWhereEditsGo()
     QCOMPARE(line->toolTip(), f.photos.folder.path(longName + u".xmp"_s));
     QCOMPARE(line->accessibleName(), u"Edits go to "_s + longName + u".xmp"_s);
     QVERIFY(header->rect().contains(QRect(line->mapTo(header, QPoint()), line->size())));
+    // Of two names each is left with its ends.
+    f.photos.folder.add(longName + u".jpg"_s, jpegBytes());
+    QVERIFY(f.photos.open());
+    f.model().pairing().setOn(true);
+    f.click(longName + u".cr2"_s);
+    QTRY_VERIFY2(labels(header).last().endsWith(u"xx_1.jpg"_s), qPrintable(labels(header).last()));
+    QVERIFY2(labels(header).last().contains(u"_1.xmp and axx"_s), qPrintable(labels(header).last()));
+    f.model().pairing().setOn(false);
     f.click(u"3.jpg"_s);
     QCOMPARE(labels(header).size(), 2);
     const QString hint = u"Tick a field to write it to all selected files."_s;
@@ -193,6 +202,7 @@ void tst_InspectorView::theBannerTellsOfPlacesThatDiffer_data()
     QTest::addColumn<int>("width");
     QTest::addColumn<bool>("isUnderTheText");
     QTest::newRow("wide") << 480 << false;
+    QTest::newRow("less wide") << 420 << false;
     QTest::newRow("narrow") << 300 << true;
     QTest::newRow("too narrow") << 200 << true;
 }
@@ -221,6 +231,11 @@ void tst_InspectorView::theBannerTellsOfPlacesThatDiffer()
     const QSignalSpy pressed(banner->agree(), &QAbstractButton::clicked);
     QTest::keyClick(banner->agree(), Qt::Key_Space);
     QCOMPARE(pressed.size(), 1);
+    // Where edits go is said where there is a line for it.
+    banner->setPhotos(40, {}, u"Edits go to 40 sidecars."_s);
+    const QImage picture = banner->grab().toImage();
+    banner->setPhotos(40, {}, u"Edits go to 38 sidecars."_s);
+    QCOMPARE(banner->grab().toImage() == picture, agree.top() > said.bottom());
     banner->setDisagreements({}, true);
     QVERIFY(!banner->agree()->isVisible());
 }

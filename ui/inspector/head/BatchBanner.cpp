@@ -112,12 +112,12 @@ QStringList BatchBanner::noteLines() const
     const auto broken = [width](const QString& text, int most) {
         return brokenIntoLines(text, sansFont(12), width, LineBreaks::words, most);
     };
-    QStringList lines = broken(m_after.isEmpty() ? m_note : m_note + u' ' + m_after, mostLines + 1);
-    if (lines.size() > mostLines)
-        lines = broken(m_after.isEmpty() ? m_note : m_after, mostLines);
-    if (m_disagreements->isHidden())
+    const QStringList lines = broken(m_after.isEmpty() ? m_note : m_note + u' ' + m_after, mostLines + 1);
+    const int most = m_disagreements->isHidden() ? mostLines : mostLines - m_disagreements->lines(width);
+    if (lines.size() <= most)
         return lines;
-    return lines.size() + m_disagreements->lines(width) > mostLines ? QStringList() : lines;
+    const QStringList brief = broken(m_after.isEmpty() ? m_note : m_after, mostLines);
+    return brief.size() <= most ? brief : QStringList();
 }
 
 void BatchBanner::place()

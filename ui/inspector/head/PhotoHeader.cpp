@@ -91,6 +91,7 @@ bool PhotoHeader::eventFilter(QObject* watched, QEvent* event)
 void PhotoHeader::setSidecar(const QString& text, const QString& path)
 {
     m_sidecarText = text;
+    m_sidecarName = path.sliced(path.lastIndexOf(u'/') + 1);
     m_sidecar->setToolTip(path);
     m_sidecar->setAccessibleName(text);
     m_sidecar->setAccessibleDescription(path);
@@ -98,11 +99,24 @@ void PhotoHeader::setSidecar(const QString& text, const QString& path)
     elideSidecar();
 }
 
-// Names of photos in a row differ at their ends.
+// Names of photos in a row differ at their ends; of two files each keeps its own.
 void PhotoHeader::elideSidecar()
 {
-    const QString shown =
-        m_sidecar->fontMetrics().elidedText(m_sidecarText, Qt::ElideMiddle, m_sidecar->contentsRect().width());
+    const QFontMetrics metrics = m_sidecar->fontMetrics();
+    const int width = m_sidecar->contentsRect().width();
+    QString shown = m_sidecarText;
+    const qsizetype first = m_sidecarName.isEmpty() ? -1 : shown.indexOf(m_sidecarName);
+    const qsizetype second = first < 0 ? -1 : shown.indexOf(m_pictureName, first + m_sidecarName.size());
+    if (second > 0 && metrics.horizontalAdvance(shown) > width) {
+        const int names = metrics.horizontalAdvance(m_sidecarName) + metrics.horizontalAdvance(m_pictureName);
+        const int room = (width - metrics.horizontalAdvance(shown) + names) / 2;
+        const auto shorten = [&](qsizetype at, const QString& name) {
+            shown.replace(at, name.size(), metrics.elidedText(name, Qt::ElideMiddle, room));
+        };
+        shorten(second, m_pictureName);
+        shorten(first, m_sidecarName);
+    }
+    shown = metrics.elidedText(shown, Qt::ElideMiddle, width);
     if (m_sidecar->text() != shown)
         m_sidecar->setText(shown);
 }
@@ -110,11 +124,13 @@ void PhotoHeader::elideSidecar()
 void PhotoHeader::setRecord(const ImageRecord& record, const Shot& shot)
 {
     m_thumbnail->setUrl(shot.picture);
+    m_pictureName = shot.picture.fileName();
     if (m_name->text() != record.fileName)
         m_name->setText(record.fileName);
     if (m_details->text() != shot.details)
         m_details->setText(shot.details);
     m_name->setToolTip(shot.names == record.fileName ? QString() : shot.names);
+    elideSidecar();
 }
 
 }  // namespace Quorbel

@@ -47,6 +47,8 @@ private:
     ThemedLabel* m_details;
     ThemedLabel* m_sidecar;
     QString m_sidecarText;  ///< as long as it is
+    QString m_sidecarName;
+    QString m_pictureName;  ///< of the file whose pixels are shown
     QWidget* m_atEnd = nullptr;
     QWidget* m_end;  ///< holds what is at the end; hidden where there is no room
 };
