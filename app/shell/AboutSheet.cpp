@@ -17,6 +17,7 @@ namespace {
 
 QString version()
 {
+    //: %1 is a version like 1.2, %2 a number that says which build of it this is.
     return Texts::tr("Version %1 (build %2)")
         .arg(QString::fromUtf8(QUORBEL_VERSION), QString::fromUtf8(QUORBEL_BUILD_NUMBER));
 }
@@ -44,7 +45,7 @@ AboutSheet::AboutSheet(const QString& credits, QWidget* parent)
         column->addWidget(ThemedLabel::wrapped(text, TextRole::text, 13));
     if (!credits.isEmpty())
         column->addWidget(ThemedLabel::wrapped(credits, TextRole::label, 12));
-    auto* ok = new QBButton(u"OK"_s, QBButtonKind::primary);
+    auto* ok = new QBButton(Texts::tr("OK"), QBButtonKind::primary);
     connect(ok, &QAbstractButton::clicked, this, &AboutSheet::closed);
     QHBoxLayout* buttons = sheetButtonRow(this, { ok });
     column->addLayout(buttons);

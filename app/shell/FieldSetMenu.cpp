@@ -31,8 +31,11 @@ void FieldSetMenu::fill()
     FieldSets& sets = m_model.fieldSets();
     m_menu->clear();
     auto* group = new QActionGroup(m_menu);
-    for (const QString& name : sets.names()) {
-        QAction* action = m_menu->addAction(ThemedMenu::literal(name));
+    const QStringList names = sets.names();
+    const qsizetype firstOwn = FieldSetTexts::builtIn().size() + 1;  // behind the usual form and those that come along
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        const QString& name = names.at(i);
+        QAction* action = m_menu->addAction(ThemedMenu::literal(i < firstOwn ? Texts::shown(name) : name));
         action->setCheckable(true);
         action->setChecked(name == sets.current());
         group->addAction(action);

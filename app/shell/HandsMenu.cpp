@@ -5,6 +5,7 @@
 #include "core/schema/FieldID.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/window/ContentView.h"
+#include "ui/window/Shortcuts.h"
 
 #include <QActionGroup>
 
@@ -18,7 +19,7 @@ constexpr int mostStars = 5;
 
 QString starsText(int stars)
 {
-    return stars == 0 ? Texts::tr("N&o Stars") : stars == 1 ? Texts::tr("&1 Star") : Texts::tr("&%1 Stars").arg(stars);
+    return stars == 0 ? Texts::tr("N&o Stars") : Texts::tr("&%n Star(s)", nullptr, stars);
 }
 
 }  // namespace
@@ -36,7 +37,7 @@ HandsMenu::HandsMenu(AppModel& model, ContentView& content)
 
 void HandsMenu::addToFile(ThemedMenu* menu)
 {
-    m_saveAndGoOn = menu->addCommand(Texts::tr("Save and Ne&xt Photo"),
+    m_saveAndGoOn = Shortcuts::addCommand(*menu, Texts::mark("Save and Ne&xt Photo"),
         { Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter }, [this] { m_content.saveAndGoOn(); });
     followState();
 }
@@ -44,8 +45,8 @@ void HandsMenu::addToFile(ThemedMenu* menu)
 void HandsMenu::addToEdit(ThemedMenu* menu)
 {
     addRating(menu);
-    m_sameAsBefore = menu->addCommand(Texts::tr("Same as Photo Be&fore"), { Qt::CTRL | Qt::Key_Apostrophe },
-        [this] { m_content.takeFromPhotoBefore(); });
+    m_sameAsBefore = Shortcuts::addCommand(*menu, Texts::mark("Same as Photo Be&fore"),
+        { Qt::CTRL | Qt::Key_Apostrophe }, [this] { m_content.takeFromPhotoBefore(); });
     // Where no field has the keyboard there is nothing to fill; the keys are let through once the menu is closed.
     connect(menu, &QMenu::aboutToShow, this,
         [this] { m_sameAsBefore->setEnabled(m_model.hasPhotoBefore() && m_content.hasField()); });
@@ -55,7 +56,8 @@ void HandsMenu::addToEdit(ThemedMenu* menu)
 
 void HandsMenu::addRating(ThemedMenu* menu)
 {
-    m_rating = menu->addThemedMenu(Texts::tr("Rati&ng"));
+    m_rating = menu->addThemedMenu(QString());
+    Shortcuts::name(*m_rating->menuAction(), Texts::mark("Rati&ng"));
     auto* group = new QActionGroup(m_rating);
     group->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     for (int stars = 0; stars <= mostStars; ++stars) {
@@ -81,10 +83,12 @@ void HandsMenu::showRating()
 
 void HandsMenu::addToView(ThemedMenu* menu)
 {
-    m_next = menu->addCommand(Texts::tr("Ne&xt Photo"), { Qt::ALT | Qt::Key_Down }, [this] { m_content.step(1); });
-    m_previous =
-        menu->addCommand(Texts::tr("Previ&ous Photo"), { Qt::ALT | Qt::Key_Up }, [this] { m_content.step(-1); });
-    m_look = menu->addCommand(Texts::tr("&Look Closely"), { Qt::Key_F11 }, [this] { m_content.toggleCloseup(); });
+    m_next = Shortcuts::addCommand(
+        *menu, Texts::mark("Ne&xt Photo"), { Qt::ALT | Qt::Key_Down }, [this] { m_content.step(1); });
+    m_previous = Shortcuts::addCommand(
+        *menu, Texts::mark("Previ&ous Photo"), { Qt::ALT | Qt::Key_Up }, [this] { m_content.step(-1); });
+    m_look = Shortcuts::addCommand(
+        *menu, Texts::mark("&Look Closely"), { Qt::Key_F11 }, [this] { m_content.toggleCloseup(); });
     followState();
 }
 

@@ -17,6 +17,7 @@
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/sheets/ShortcutsSheet.h"
 #include "ui/window/ContentView.h"
+#include "ui/window/Shortcuts.h"
 #include "ui/window/WindowBar.h"
 
 #include <QDir>
@@ -44,6 +45,14 @@ QString shownPath(const QUrl& url)
     return path.startsWith(home + QLatin1Char('/')) ? QLatin1Char('~') + path.mid(home.size()) : path;
 }
 
+// The text, chosen by the same letter as the command that it says more of; where it has no such letter, by none.
+QString withKeyOf(const QString& command, const QString& text)
+{
+    const qsizetype mark = command.indexOf(u'&');
+    const qsizetype at = mark < 0 ? -1 : text.indexOf(command.at(mark + 1), 0, Qt::CaseInsensitive);
+    return at < 0 ? text : text.left(at) + u'&' + text.mid(at);
+}
+
 }  // namespace
 
 Menus::Menus(AppModel& model, ContentView& content, const MenuCommands& commands)
@@ -68,52 +77,55 @@ Menus::Menus(AppModel& model, ContentView& content, const MenuCommands& commands
     followState();
 }
 
-ThemedMenu* Menus::addMenu(const QString& title)
+ThemedMenu* Menus::addMenu(const QString& english)
 {
-    auto* menu = new ThemedMenu(title, m_content.bar()->menuBar());
+    auto* menu = new ThemedMenu(Texts::shown(english), m_content.bar()->menuBar());
+    Shortcuts::name(*menu->menuAction(), english);
     m_content.bar()->menuBar()->addMenu(menu);
     return menu;
 }
 
 void Menus::addFileMenu(const MenuCommands& commands)
 {
-    ThemedMenu* menu = addMenu(Texts::tr("&File"));
-    menu->addCommand(
-        Texts::tr("&Open…"), keysFor(QKeySequence::Open, Qt::CTRL | Qt::Key_O), [this] { m_model.openPanel(); });
-    menu->addCommand(Texts::tr("Open with Su&bfolders…"), { Qt::CTRL | Qt::SHIFT | Qt::Key_O },
+    //: A menu: what concerns files and the program.
+    ThemedMenu* menu = addMenu(Texts::mark("&File"));
+    Shortcuts::addCommand(*menu, Texts::mark("&Open…"), keysFor(QKeySequence::Open, Qt::CTRL | Qt::Key_O),
+        [this] { m_model.openPanel(); });
+    Shortcuts::addCommand(*menu, Texts::mark("Open with Su&bfolders…"), { Qt::CTRL | Qt::SHIFT | Qt::Key_O },
         [this] { m_model.openPanelWithSubfolders(); });
     m_recents = menu->addThemedMenu(Texts::tr("Open &Recent"));
     connect(m_recents, &QMenu::aboutToShow, this, &Menus::fillRecents);
     connect(&m_model.preferences(), &Preferences::changed, this, &Menus::fillRecents);
     fillRecents();
     menu->addSeparator();
-    m_save = menu->addCommand(
-        Texts::tr("&Save"), keysFor(QKeySequence::Save, Qt::CTRL | Qt::Key_S), [this] { m_model.requestSave(); });
+    m_save = Shortcuts::addCommand(*menu, Texts::mark("&Save"), keysFor(QKeySequence::Save, Qt::CTRL | Qt::Key_S),
+        [this] { m_model.requestSave(); });
     m_hands->addToFile(menu);
-    m_rename = menu->addCommand(Texts::tr("Re&name…"), { Qt::Key_F2 }, [this] { m_model.setRenameOpen(true); });
-    m_renamePhotos = menu->addCommand(
-        Texts::tr("Rename P&hotos…"), { Qt::SHIFT | Qt::Key_F2 }, [this] { m_model.renaming().open(); });
+    m_rename =
+        Shortcuts::addCommand(*menu, Texts::mark("Re&name…"), { Qt::Key_F2 }, [this] { m_model.setRenameOpen(true); });
+    m_renamePhotos = Shortcuts::addCommand(
+        *menu, Texts::mark("Rename P&hotos…"), { Qt::SHIFT | Qt::Key_F2 }, [this] { m_model.renaming().open(); });
     addMoves(menu);
     menu->addSeparator();
-    m_refresh = menu->addCommand(
-        Texts::tr("Re&fresh"), keysFor(QKeySequence::Refresh, Qt::CTRL | Qt::Key_R), [this] { m_model.refresh(); });
-    m_close = menu->addCommand(Texts::tr("&Close Folder"), keysFor(QKeySequence::Close, Qt::CTRL | Qt::Key_W),
-        [this] { m_model.requestClose(); });
+    m_refresh = Shortcuts::addCommand(*menu, Texts::mark("Re&fresh"),
+        keysFor(QKeySequence::Refresh, Qt::CTRL | Qt::Key_R), [this] { m_model.refresh(); });
+    m_close = Shortcuts::addCommand(*menu, Texts::mark("&Close Folder"),
+        keysFor(QKeySequence::Close, Qt::CTRL | Qt::Key_W), [this] { m_model.requestClose(); });
     menu->addSeparator();
-    menu->addCommand(
-        Texts::tr("Se&ttings…"), keysFor(QKeySequence::Preferences, Qt::CTRL | Qt::Key_Comma), commands.openSettings);
+    Shortcuts::addCommand(*menu, Texts::mark("Se&ttings…"),
+        keysFor(QKeySequence::Preferences, Qt::CTRL | Qt::Key_Comma), commands.openSettings);
     menu->addSeparator();
-    menu->addCommand(
-        Texts::tr("&Quit"), keysFor(QKeySequence::Quit, Qt::CTRL | Qt::Key_Q), [this] { m_model.requestQuit(); });
+    Shortcuts::addCommand(*menu, Texts::mark("&Quit"), keysFor(QKeySequence::Quit, Qt::CTRL | Qt::Key_Q),
+        [this] { m_model.requestQuit(); });
 }
 
 void Menus::addMoves(ThemedMenu* menu)
 {
     MovingOver& moving = m_model.movingOver();
-    m_intoPhotos = menu->addCommand(
-        Texts::tr("Write Sidecars &Into Photos…"), {}, [&moving] { moving.request(MoveWay::intoPhotos); });
-    m_intoSidecars = menu->addCommand(
-        Texts::tr("Write &Metadata Into Sidecars…"), {}, [&moving] { moving.request(MoveWay::intoSidecars); });
+    m_intoPhotos = Shortcuts::addCommand(
+        *menu, Texts::mark("Write Sidecars &Into Photos…"), {}, [&moving] { moving.request(MoveWay::intoPhotos); });
+    m_intoSidecars = Shortcuts::addCommand(
+        *menu, Texts::mark("Write &Metadata Into Sidecars…"), {}, [&moving] { moving.request(MoveWay::intoSidecars); });
 }
 
 void Menus::fillRecents()
@@ -123,16 +135,17 @@ void Menus::fillRecents()
     for (const QUrl& url : urls)
         m_recents->addCommand(ThemedMenu::literal(shownPath(url)), {}, [this, url] { m_model.openRecent(url); });
     m_recents->addSeparator();
-    m_recents->addCommand(Texts::tr("Clear Menu"), {}, [this] { m_model.clearRecents(); });
+    m_recents->addCommand(Texts::tr("Clear Menu", "verb: empty it"), {}, [this] { m_model.clearRecents(); });
     m_recents->menuAction()->setEnabled(!urls.isEmpty());
 }
 
 void Menus::addEditMenu()
 {
-    ThemedMenu* menu = addMenu(Texts::tr("&Edit"));
+    //: A menu: what changes photos and texts.
+    ThemedMenu* menu = addMenu(Texts::mark("&Edit"));
     TextCommands::addHistory(*menu);
-    m_undoSave = menu->addCommand(Texts::tr("Undo Sa&ve"), {}, [this] { m_model.undoSave(); });
-    m_undoRename = menu->addCommand(Texts::tr("Und&o Rename"), {}, [this] { m_model.renaming().undo(); });
+    m_undoSave = Shortcuts::addCommand(*menu, Texts::mark("Undo Sa&ve"), {}, [this] { m_model.undoSave(); });
+    m_undoRename = Shortcuts::addCommand(*menu, Texts::mark("Und&o Rename"), {}, [this] { m_model.renaming().undo(); });
     m_bringBack = menu->addThemedMenu(Texts::tr("&Bring Back Edits"));
     connect(&m_model, &AppModel::leftEditsChanged, this, &Menus::fillBringBack);
     fillBringBack();
@@ -143,25 +156,29 @@ void Menus::addEditMenu()
     new TemplatesMenu(m_model, menu);
     m_hands->addToEdit(menu);
     menu->addSeparator();
-    menu->addCommand(Texts::tr("Select &All"), keysFor(QKeySequence::SelectAll, Qt::CTRL | Qt::Key_A), [this] {
-        if (!TextCommands::selectAll())
-            m_model.selectAllPhotos();
-    });
-    m_find = menu->addCommand(
-        Texts::tr("&Search"), keysFor(QKeySequence::Find, Qt::CTRL | Qt::Key_F), [this] { m_content.focusSearch(); });
+    Shortcuts::addCommand(
+        *menu, Texts::mark("Select &All"), keysFor(QKeySequence::SelectAll, Qt::CTRL | Qt::Key_A), [this] {
+            if (!TextCommands::selectAll())
+                m_model.selectAllPhotos();
+        });
+    //: A verb.
+    m_find = Shortcuts::addCommand(*menu, Texts::mark("&Search"), keysFor(QKeySequence::Find, Qt::CTRL | Qt::Key_F),
+        [this] { m_content.focusSearch(); });
     menu->addSeparator();
     new QuickKeywordsMenu(m_model.quickKeywords(), menu);
-    m_shiftTime = menu->addCommand(Texts::tr("S&hift Time…"), {}, [this] { m_model.timeShifting().request(); });
-    m_agree = menu->addCommand(Texts::tr("Make Them A&gree"), {}, [this] { m_model.requestMakeAgree(); });
+    m_shiftTime =
+        Shortcuts::addCommand(*menu, Texts::mark("S&hift Time…"), {}, [this] { m_model.timeShifting().request(); });
+    //: Them: the places of a photo that should hold the same.
+    m_agree = Shortcuts::addCommand(*menu, Texts::mark("Make Them A&gree"), {}, [this] { m_model.requestMakeAgree(); });
 }
 
 void Menus::addFieldCommands(ThemedMenu* menu)
 {
-    m_copyFields = menu->addCommand(
-        Texts::tr("Copy Fi&elds"), { Qt::CTRL | Qt::SHIFT | Qt::Key_C }, [this] { m_model.pasting().copy(); });
-    m_pasteFields = menu->addCommand(
-        Texts::tr("Paste Fiel&ds…"), { Qt::CTRL | Qt::SHIFT | Qt::Key_V }, [this] { m_model.pasting().ask(); });
-    m_pasteAgain = menu->addCommand(Texts::tr("Paste Fields Aga&in"), { Qt::CTRL | Qt::ALT | Qt::Key_V },
+    m_copyFields = Shortcuts::addCommand(
+        *menu, Texts::mark("Copy Fi&elds"), { Qt::CTRL | Qt::SHIFT | Qt::Key_C }, [this] { m_model.pasting().copy(); });
+    m_pasteFields = Shortcuts::addCommand(*menu, Texts::mark("Paste Fiel&ds…"), { Qt::CTRL | Qt::SHIFT | Qt::Key_V },
+        [this] { m_model.pasting().ask(); });
+    m_pasteAgain = Shortcuts::addCommand(*menu, Texts::mark("Paste Fields Aga&in"), { Qt::CTRL | Qt::ALT | Qt::Key_V },
         [this] { m_model.pasting().pasteAgain(); });
 }
 
@@ -177,12 +194,14 @@ void Menus::fillBringBack()
 
 void Menus::addViewMenu()
 {
-    ThemedMenu* menu = addMenu(Texts::tr("&View"));
+    //: A menu: what is on screen.
+    ThemedMenu* menu = addMenu(Texts::mark("&View"));
     m_hands->addToView(menu);
     menu->addSeparator();
-    m_preview = menu->addCommand(
-        Texts::tr("Show preview"), { Qt::CTRL | Qt::SHIFT | Qt::Key_P }, [this] { m_content.togglePreview(); });
-    m_disagreements = menu->addAction(Texts::tr("Show &Disagreements"));
+    m_preview = Shortcuts::addCommand(*menu, Texts::mark("Show &preview"), { Qt::CTRL | Qt::SHIFT | Qt::Key_P },
+        [this] { m_content.togglePreview(); });
+    m_disagreements = menu->addAction(QString());
+    Shortcuts::name(*m_disagreements, Texts::mark("Show &Disagreements"));
     m_disagreements->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_D);
     m_disagreements->setCheckable(true);
     connect(m_disagreements, &QAction::triggered, &m_model,
@@ -198,8 +217,8 @@ void Menus::addViewMenu()
     menu->addSeparator();
     addGaps(menu);
     menu->addSeparator();
-    m_readAgain =
-        menu->addCommand(Texts::tr("Read &Again"), { Qt::SHIFT | Qt::Key_F5 }, [this] { m_model.readAgain(); });
+    m_readAgain = Shortcuts::addCommand(
+        *menu, Texts::mark("Read &Again"), { Qt::SHIFT | Qt::Key_F5 }, [this] { m_model.readAgain(); });
 }
 
 // The tick follows once what is unsaved was saved or left, or not at all.
@@ -219,23 +238,25 @@ void Menus::addPairing(ThemedMenu* menu)
 void Menus::addGaps(ThemedMenu* menu)
 {
     Filtering& filtering = m_model.filtering();
-    m_nextGap = menu->addCommand(
-        Texts::tr("Next &Gap"), { Qt::Key_F8 }, [&filtering] { filtering.goToGap(Filtering::Way::next); });
-    m_previousGap = menu->addCommand(Texts::tr("Previo&us Gap"), { Qt::SHIFT | Qt::Key_F8 },
+    m_nextGap = Shortcuts::addCommand(
+        *menu, Texts::mark("Next &Gap"), { Qt::Key_F8 }, [&filtering] { filtering.goToGap(Filtering::Way::next); });
+    m_previousGap = Shortcuts::addCommand(*menu, Texts::mark("Previo&us Gap"), { Qt::SHIFT | Qt::Key_F8 },
         [&filtering] { filtering.goToGap(Filtering::Way::previous); });
-    m_clearFilters = menu->addCommand(
-        Texts::tr("Clear &Filters"), { Qt::CTRL | Qt::SHIFT | Qt::Key_F }, [&filtering] { filtering.clear(); });
+    m_clearFilters = Shortcuts::addCommand(*menu, Texts::mark("Clear &Filters"), { Qt::CTRL | Qt::SHIFT | Qt::Key_F },
+        [&filtering] { filtering.clear(); });
 }
 
 void Menus::addHelpMenu(const MenuCommands& commands)
 {
-    ThemedMenu* menu = addMenu(Texts::tr("&Help"));
-    menu->addCommand(Texts::tr("Quorbel &Help"), keysFor(QKeySequence::HelpContents, Qt::Key_F1), commands.openHelp);
-    menu->addCommand(Texts::tr("&Keyboard Shortcuts"), { Qt::CTRL | Qt::Key_F1 }, [this] { showShortcuts(); });
+    ThemedMenu* menu = addMenu(Texts::mark("&Help"));
+    Shortcuts::addCommand(
+        *menu, Texts::mark("Quorbel &Help"), keysFor(QKeySequence::HelpContents, Qt::Key_F1), commands.openHelp);
+    Shortcuts::addCommand(
+        *menu, Texts::mark("&Keyboard Shortcuts"), { Qt::CTRL | Qt::Key_F1 }, [this] { showShortcuts(); });
     menu->addSeparator();
     if (commands.checkForUpdates)
-        menu->addCommand(Texts::tr("Check for &Updates…"), {}, commands.checkForUpdates);
-    menu->addCommand(Texts::tr("&About Quorbel"), {}, commands.showAbout);
+        Shortcuts::addCommand(*menu, Texts::mark("Check for &Updates…"), {}, commands.checkForUpdates);
+    Shortcuts::addCommand(*menu, Texts::mark("&About Quorbel"), {}, commands.showAbout);
 }
 
 // Of the menus as they are now.
@@ -250,15 +271,14 @@ void Menus::followState()
 {
     const bool any = !m_model.records().isEmpty();
     m_save->setEnabled(m_model.unsavedCount() >= 1);
-    m_save->setText(m_model.isBatch() ? Texts::tr("&Apply to %1").arg(m_model.selection().size()) : Texts::tr("&Save"));
+    m_save->setText(
+        m_model.isBatch() ? Texts::tr("&Apply to %n", "photos", m_model.selection().size()) : Texts::tr("&Save"));
     m_undoSave->setEnabled(m_model.canUndoSave());
-    m_undoSave->setText(
-        ThemedMenu::literal(m_model.undoSaveText()).replace(Texts::tr("Undo Save"), Texts::tr("Undo Sa&ve")));
+    m_undoSave->setText(withKeyOf(Texts::tr("Undo Sa&ve"), ThemedMenu::literal(m_model.undoSaveText())));
     m_rename->setEnabled(m_model.canRename());
     m_renamePhotos->setEnabled(m_model.renaming().canOpen());
     m_undoRename->setEnabled(m_model.renaming().canUndo());
-    m_undoRename->setText(ThemedMenu::literal(m_model.renaming().undoText())
-                              .replace(Texts::tr("Undo Rename"), Texts::tr("Und&o Rename")));
+    m_undoRename->setText(withKeyOf(Texts::tr("Und&o Rename"), ThemedMenu::literal(m_model.renaming().undoText())));
     m_refresh->setEnabled(m_model.canRefresh());
     m_close->setEnabled(any);
     m_find->setEnabled(any);
@@ -277,7 +297,7 @@ void Menus::followState()
     m_previousGap->setEnabled(any);
     const Filtering& filtering = m_model.filtering();
     m_clearFilters->setEnabled(filtering.isOn() || !filtering.text().isEmpty());
-    m_preview->setText(m_content.previewShown() ? Texts::tr("Hide &preview") : Texts::tr("Show &preview"));
+    Shortcuts::name(*m_preview, m_content.previewShown() ? Texts::mark("Hide &preview") : Texts::mark("Show &preview"));
 }
 
 }  // namespace Quorbel

@@ -39,7 +39,7 @@ private:
     void addPairing(ThemedMenu* menu);
     void addGaps(ThemedMenu* menu);
     void addHelpMenu(const MenuCommands& commands);
-    ThemedMenu* addMenu(const QString& title);
+    ThemedMenu* addMenu(const QString& english);
     void showShortcuts();
     void fillRecents();
     void fillBringBack();

@@ -20,6 +20,7 @@ QString imageFilter()
     for (const QString& extension : ImageTypes::extensions())
         patterns.append(u"*."_s + extension);
     patterns.sort();
+    //: Which files a panel lists; %1 is a list of endings.
     return Texts::tr("Images (%1)").arg(patterns.join(QLatin1Char(' ')));
 }
 
@@ -59,10 +60,12 @@ OpenPanel::OpenPanel(Choice choice, QWidget* parent)
     setOption(ShowDirsOnly, choice == Choice::folder);
     setFileMode(modeFor(choice));
     if (choice == Choice::any)
-        setNameFilters({ imageFilter(), Texts::tr("All files (*)") });
+        setNameFilters({ imageFilter(), Texts::tr("All files (%1)").arg(u'*') });
     if (choice == Choice::text)
-        setNameFilters({ Texts::tr("Text files (*.txt *.tsv *.tab *.csv)"), Texts::tr("All files (*)") });
-    setLabelText(QFileDialog::Accept, choice == Choice::text ? Texts::tr("Choose") : Texts::tr("Open"));
+        setNameFilters(
+            { Texts::tr("Text files (%1)").arg(u"*.txt *.tsv *.tab *.csv"_s), Texts::tr("All files (%1)").arg(u'*') });
+    setLabelText(QFileDialog::Accept,
+        choice == Choice::text ? Texts::tr("Choose", "verb: this file") : Texts::tr("Open", "verb: these photos"));
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     if (choice == Choice::text)

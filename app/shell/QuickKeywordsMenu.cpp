@@ -5,6 +5,7 @@
 #include "core/schema/KeywordPath.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/inspector/keywords/QuickSetMenu.h"
+#include "ui/window/Shortcuts.h"
 
 namespace Quorbel {
 
@@ -13,8 +14,9 @@ using namespace Qt::StringLiterals;
 QuickKeywordsMenu::QuickKeywordsMenu(QuickKeywords& quick, ThemedMenu* menu)
     : QObject(menu)
     , m_quick(quick)
-    , m_menu(menu->addThemedMenu(Texts::tr("Quick &Keywords")))
+    , m_menu(menu->addThemedMenu(QString()))
 {
+    Shortcuts::name(*m_menu->menuAction(), Texts::mark("Quick &Keywords"));
     // Later: what changes them may be one of these entries.
     connect(&m_quick, &QuickKeywords::changed, this, &QuickKeywordsMenu::fill, Qt::QueuedConnection);
     fill();

@@ -15,7 +15,7 @@ QFileDialog* panel(QWidget* window, const QString& title)
 {
     auto* dialog = new QFileDialog(window, title);
     dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setNameFilters({ Texts::tr("Templates (*.json)"), Texts::tr("All files (*)") });
+    dialog->setNameFilters({ Texts::tr("Templates (%1)").arg(u"*.json"_s), Texts::tr("All files (%1)").arg(u'*') });
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::WindowModal);
     setTheme(dialog, Theme::of(window));

@@ -4,6 +4,7 @@
 #include "app/model/templates/Templates.h"
 #include "core/language/Texts.h"
 #include "ui/controls/ThemedMenu.h"
+#include "ui/window/Shortcuts.h"
 
 namespace Quorbel {
 
@@ -12,9 +13,10 @@ using namespace Qt::StringLiterals;
 TemplatesMenu::TemplatesMenu(AppModel& model, ThemedMenu* menu)
     : QObject(menu)
     , m_model(model)
-    , m_menu(menu->addThemedMenu(Texts::tr("Te&mplates")))
+    , m_menu(menu->addThemedMenu(QString()))
     , m_saveAsTemplate(new QAction(Texts::tr("Save as Template…"), this))  // outlives the others, which are made anew
 {
+    Shortcuts::name(*m_menu->menuAction(), Texts::mark("Te&mplates"));
     connect(m_saveAsTemplate, &QAction::triggered, this, [this] { m_model.templates().saveAsTemplate(); });
     connect(&m_model.templates().store(), &TemplateStore::changed, this, &TemplatesMenu::fill);
     connect(&m_model.templates(), &Templates::canApplyChanged, this, &TemplatesMenu::followState);

@@ -2,6 +2,7 @@
 
 #include "core/language/Texts.h"
 #include "ui/controls/ThemedMenu.h"
+#include "ui/window/Shortcuts.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -64,10 +65,10 @@ bool canPaste(const QWidget& widget)
 }
 
 // Asked whether it is possible when the menu opens.
-void add(ThemedMenu& menu, const QString& text, QKeySequence::StandardKey key, const char* slot,
+void add(ThemedMenu& menu, const QString& english, QKeySequence::StandardKey key, const char* slot,
     bool (*isPossible)(const QWidget&))
 {
-    QAction* action = menu.addCommand(text, QKeySequence::keyBindings(key).mid(0, 1), [slot] {
+    QAction* action = Shortcuts::addCommand(menu, english, QKeySequence::keyBindings(key).mid(0, 1), [slot] {
         if (QWidget* focus = QApplication::focusWidget(); isTextEditor(focus))
             QMetaObject::invokeMethod(focus, slot);
     });
@@ -84,15 +85,15 @@ void add(ThemedMenu& menu, const QString& text, QKeySequence::StandardKey key, c
 
 void TextCommands::addHistory(ThemedMenu& menu)
 {
-    add(menu, Texts::tr("&Undo"), QKeySequence::Undo, "undo", canUndo);
-    add(menu, Texts::tr("&Redo"), QKeySequence::Redo, "redo", canRedo);
+    add(menu, Texts::mark("&Undo"), QKeySequence::Undo, "undo", canUndo);
+    add(menu, Texts::mark("&Redo"), QKeySequence::Redo, "redo", canRedo);
 }
 
 void TextCommands::addClipboard(ThemedMenu& menu)
 {
-    add(menu, Texts::tr("Cu&t"), QKeySequence::Cut, "cut", canCut);
-    add(menu, Texts::tr("&Copy"), QKeySequence::Copy, "copy", hasSelectedText);
-    add(menu, Texts::tr("&Paste"), QKeySequence::Paste, "paste", canPaste);
+    add(menu, Texts::mark("Cu&t"), QKeySequence::Cut, "cut", canCut);
+    add(menu, Texts::mark("&Copy"), QKeySequence::Copy, "copy", hasSelectedText);
+    add(menu, Texts::mark("&Paste"), QKeySequence::Paste, "paste", canPaste);
 }
 
 bool TextCommands::selectAll()

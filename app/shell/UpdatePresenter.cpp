@@ -18,14 +18,14 @@ constexpr int transferTimeout = 30'000;
 const Notice& upToDateNotice()
 {
     static const Notice notice{ Texts::tr("You're up to date"), Texts::tr("Quorbel is running the latest version."),
-        { u"OK"_s } };
+        { Texts::tr("OK") } };
     return notice;
 }
 
 const Notice& failedNotice()
 {
     static const Notice notice{ Texts::tr("Couldn't check for updates"),
-        Texts::tr("Please check your internet connection and try again."), { u"OK"_s } };
+        Texts::tr("Please check your internet connection and try again."), { Texts::tr("OK") } };
     return notice;
 }
 
@@ -110,7 +110,7 @@ void UpdatePresenter::presentAvailable(const UpdateManifest& manifest)
 {
     const Notice notice{ Texts::tr("Quorbel %1 is available").arg(manifest.version),
         manifest.notes.value_or(Texts::tr("A newer version of Quorbel is available.")),
-        { Texts::tr("Download"), Texts::tr("Later") } };
+        { Texts::tr("Download", "verb"), Texts::tr("Later", "button: not now") } };
     m_services.show(notice, [this, address = manifest.url](qsizetype button) {
         if (button != 0)
             return;

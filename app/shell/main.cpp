@@ -22,7 +22,9 @@ QStringList parsedFiles(const QApplication& application)
     parser.setApplicationDescription(Quorbel::Texts::tr("Reads and edits the words inside photos."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(u"files"_s, Quorbel::Texts::tr("A folder of photos, or photos."), u"[files…]"_s);
+    parser.addPositionalArgument(u"files"_s, Quorbel::Texts::tr("A folder of photos, or photos."),
+        //: What a command line may hold behind the name of the program.
+        Quorbel::Texts::tr("[files…]"));
     parser.process(application);
     return parser.positionalArguments();
 }

@@ -29,18 +29,26 @@ namespace {
 // Points.
 constexpr qreal buttonsAbove = 22;
 
+constexpr QChar between = u'\n';
+
+// What is searched at once: a text in the user's language, and the English one.
+QString lowered(const QStringList& texts)
+{
+    return texts.join(between).toLower();
+}
+
 // How well a field fits what was typed: 0 is best; nothing where it is not in its label, note, tag hint or name in the
 // standard.
 std::optional<int> rank(const FieldSpec& field, const QString& wanted)
 {
-    const QString label = field.label.toLower();
-    if (label.startsWith(wanted))
+    const QString label = lowered({ Texts::shown(field.label), field.label });
+    if (label.startsWith(wanted) || label.contains(between + wanted))
         return 0;
     if (label.contains(u' ' + wanted))
         return 1;
     int rank = 2;
-    for (const QString& text :
-        { label, field.addNote.toLower(), field.standard.toLower(), field.namespaceHint.toLower() }) {
+    for (const QString& text : { label, lowered({ Texts::shown(field.addNote), field.addNote }),
+             lowered({ field.standard }), lowered({ field.namespaceHint }) }) {
         if (text.contains(wanted))
             return rank;
         ++rank;
@@ -152,8 +160,8 @@ QWidget* AddFieldSheet::buildCustom()
     auto* grid = new QGridLayout(fields);
     grid->setContentsMargins(0, 0, 0, 0);
     int column = 0;
-    for (const auto& [title, field] :
-        { std::pair(Texts::tr("Name"), m_name), std::pair(Texts::tr("Value"), m_value) }) {
+    for (const auto& [title, field] : { std::pair(Texts::tr("Name", "of a custom field"), m_name),
+             std::pair(Texts::tr("Value", "of a custom field"), m_value) }) {
         auto* label = new ThemedLabel(title, TextRole::label, 12);
         label->setBuddy(field);
         field->setAccessibleName(title);
@@ -161,6 +169,7 @@ QWidget* AddFieldSheet::buildCustom()
         grid->addWidget(field, 1, column);
         grid->setColumnStretch(column++, 1);
     }
+    //: An example of the name of a custom field: letters without accents, as it becomes the name of a tag.
     m_name->setPlaceholder(Texts::tr("e.g. Project"));
     onRestyle(fields, [grid] {
         grid->setHorizontalSpacing(px(12));
@@ -187,7 +196,7 @@ void AddFieldSheet::judgeName()
     if (problem)
         verdict = *problem;
     else if (stored && *stored != typed)
-        verdict = Texts::tr("Will be stored as “") + *stored + u'”';
+        verdict = Texts::tr("Will be stored as “%1”").arg(*stored);
     m_verdict->setText(verdict);
     m_verdict->setRole(problem ? TextRole::amberText : TextRole::label);
     m_name->setAccessibleDescription(verdict);

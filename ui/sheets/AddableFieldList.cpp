@@ -35,12 +35,12 @@ class AddableFieldRow final : public ThemedButton {
 
 public:
     explicit AddableFieldRow(const FieldSpec& field)
-        : ThemedButton(field.label)
+        : ThemedButton(Texts::shown(field.label))
         , m_id(field.id)
-        , m_note(field.addNote)
+        , m_note(Texts::shown(field.addNote))
     {
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        setAccessibleDescription(field.addNote);
+        setAccessibleDescription(m_note);
         onRestyle(this, [this] {
             setFont(sansFont(13));
             updateGeometry();
@@ -137,8 +137,8 @@ QWidget* AddableFieldList::headingOf(const FieldSpec& field)
         return heading;
     heading = new QWidget;
     auto* line = new QVBoxLayout(heading);
-    line->addWidget(
-        new LabeledDivider(isOfIptc ? u"IPTC · "_s + rawValue(field.section) : Texts::tr("OTHER FIELDS"), true));
+    line->addWidget(new LabeledDivider(
+        isOfIptc ? u"IPTC · "_s + Texts::shown(rawValue(field.section)) : Texts::tr("OTHER FIELDS"), true));
     onRestyle(heading, [line] { line->setContentsMargins(px(left), px(12), px(right), px(4)); });
     return heading;
 }

@@ -1,5 +1,6 @@
 #include "ui/sheets/PasteFieldRow.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/FieldSchema.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/Toggles.h"
@@ -108,9 +109,10 @@ void PasteFieldRow::setRow(const FieldPasting::Row& row)
     const FieldSpec* field = FieldSchema::spec(row.key);
     const bool isRating = field && field->kind == FieldKind::rating;
     m_tick->setChecked(row.isTicked);
-    m_tick->setAccessibleName(row.label);
+    const QString label = field ? Texts::shown(field->label) : row.label;
+    m_tick->setAccessibleName(label);
     m_tick->setAccessibleDescription(row.note.isEmpty() ? row.value : row.value + u". "_s + row.note);
-    m_label->setText(row.label);
+    m_label->setText(label);
     m_value->setText(row.value);
     m_note->setText(row.note);
     m_value->setVisible(!isRating);

@@ -39,10 +39,13 @@ QString copiedText(const QDateTime& at, const QDate& today)
         return {};
     const QString time = QLocale::c().toString(at.time(), u"HH:mm"_s);
     if (at.date() == today)
-        return Texts::tr("Copied today, ") + time;
+        //: %1 is a time of day.
+        return Texts::tr("Copied today, %1").arg(time);
     if (at.date() == today.addDays(-1))
-        return Texts::tr("Copied yesterday, ") + time;
-    return Texts::tr("Copied ") + QLocale::c().toString(at.date(), u"d MMMM yyyy"_s) + u", "_s + time;
+        //: %1 is a time of day.
+        return Texts::tr("Copied yesterday, %1").arg(time);
+    //: %1 is a day, %2 a time of day.
+    return Texts::tr("Copied %1, %2").arg(QLocale::c().toString(at.date(), u"d MMMM yyyy"_s), time);
 }
 
 QString shortened(const QString& name)
@@ -119,8 +122,9 @@ QHBoxLayout* PasteFieldsSheet::buildHeader(ThumbnailStore* thumbs)
     auto* picture = new ThumbnailView(thumbs, thumbnail, 7);
     picture->setUrl(m_model.pairing().seenFile(photo));
     auto* texts = new QVBoxLayout;
-    auto* name = new ThemedLabel(photo.isEmpty() ? Texts::tr("Copied fields") : Texts::tr("From ") + photo.fileName(),
-        TextRole::text, 13, QFont::Medium);
+    //: %1 is the name of the file whose fields were copied.
+    const QString origin = photo.isEmpty() ? Texts::tr("Copied fields") : Texts::tr("From %1").arg(photo.fileName());
+    auto* name = new ThemedLabel(origin, TextRole::text, 13, QFont::Medium);
     auto* when = new ThemedLabel(copiedText(fields.copiedAt, m_model.now().date()), TextRole::label, 11);
     name->setElided(true);
     name->setVerbatim(true);
@@ -132,7 +136,8 @@ QHBoxLayout* PasteFieldsSheet::buildHeader(ThumbnailStore* thumbs)
     line->addWidget(picture);
     line->addLayout(texts, 1);
     for (const bool on : { true, false }) {
-        auto* button = new QBTextButton(on ? Texts::tr("All") : Texts::tr("None"));
+        auto* button = new QBTextButton(
+            on ? Texts::tr("All", "button: ticks all fields") : Texts::tr("None", "button: ticks no field"));
         button->setAccessibleDescription(on ? Texts::tr("Tick all fields") : Texts::tr("Tick no field"));
         connect(button, &QAbstractButton::clicked, &m_model.pasting(), [this, on] { m_model.pasting().tickAll(on); });
         line->addWidget(button);
@@ -194,15 +199,12 @@ void PasteFieldsSheet::refresh()
     for (qsizetype i = 0; i < qMin(rows.size(), m_rows.size()); ++i)
         m_rows.at(i)->setRow(rows.at(i));
     const int ticked = pasting.tickedCount();
-    m_paste->setText(ticked == 0 ? Texts::tr("Paste Fields")
-            : ticked == 1        ? Texts::tr("Paste 1 Field")
-                                 : Texts::tr("Paste %1 Fields").arg(ticked));
+    m_paste->setText(ticked == 0 ? Texts::tr("Paste Fields") : Texts::tr("Paste %n Field(s)", nullptr, ticked));
     m_paste->setEnabled(ticked > 0);
     QString note = m_model.isBatch() ? Texts::tr("Nothing is written before Apply.")
                                      : Texts::tr("Nothing is written before Save.");
     if (const int unread = pasting.unreadPhotos(); unread > 0)
-        note += unread == 1 ? Texts::tr(" 1 photo was not read yet.")
-                            : Texts::tr(" %1 photos were not read yet.").arg(unread);
+        note += u' ' + Texts::tr("%n photo(s) (was|were) not read yet.", nullptr, unread);
     m_note->setText(note);
     if (parentWidget())
         parentWidget()->update();  // the title
@@ -223,8 +225,10 @@ void PasteFieldsSheet::move(int from, int step)
 QString PasteFieldsSheet::title() const
 {
     if (m_model.isBatch())
-        return Texts::tr("Paste Fields to %1 Photos").arg(m_model.selection().size());
-    return Texts::tr("Paste Fields to ") + (m_model.primary() ? shortened(m_model.primary()->fileName()) : QString());
+        return Texts::tr("Paste Fields to %n Photo(s)", nullptr, m_model.selection().size());
+    //: %1 is the name of a file.
+    return Texts::tr("Paste Fields to %1")
+        .arg(m_model.primary() ? shortened(m_model.primary()->fileName()) : QString());
 }
 
 void PasteFieldsSheet::confirm()

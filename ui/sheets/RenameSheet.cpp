@@ -48,8 +48,8 @@ RenameSheet::RenameSheet(AppModel& model, QWidget* parent)
     connect(m_rename, &QAbstractButton::clicked, this, &RenameSheet::confirm);
     auto* column = new QVBoxLayout(this);
     stackParts(this, column,
-        { { m_pattern, 12 }, { buildTokens(), 12 }, { hint, 18 }, { new LabeledDivider(Texts::tr("Preview")), 10 },
-            { m_preview }, { m_problem } });
+        { { m_pattern, 12 }, { buildTokens(), 12 }, { hint, 18 },
+            { new LabeledDivider(Texts::tr("Preview", "noun")), 10 }, { m_preview }, { m_problem } });
     column->addLayout(sheetButtonRow(this, { dismiss, m_rename }));
     frameSheet(this, column, renameWidth);
     m_problem->setElided(true);
@@ -65,7 +65,7 @@ QWidget* RenameSheet::buildTokens()
 {
     auto* flow = new TokenFlow;
     for (const FileNaming::Token& token : FileNaming::tokens())
-        flow->add(token.label, token.placeholder,
+        flow->add(Texts::shown(token.label), token.placeholder,
             [this, placeholder = token.placeholder] { m_model.insertRenameToken(placeholder); });
     return flow;
 }

@@ -56,22 +56,17 @@ bool isSingle(const AppModel& model)
     return model.selection().size() == 1;
 }
 
-QString photosText(int count)
-{
-    return count == 1 ? Texts::tr("1 photo") : Texts::tr("%1 photos").arg(count);
-}
-
 // What is asked about many photos takes its time to be worked out: once for each dialog.
 using AskedAgreement = std::optional<AppModel::AgreementQuestion>;
 
 QString titleText(const AppModel& model, const AskedAgreement& question)
 {
     if (!isSingle(model))
-        return question ? Texts::tr("Make %1 agree?").arg(photosText(question->photos))
-                        : Texts::tr("Apply changes to %1 photos?").arg(model.selection().size());
+        return question ? Texts::tr("Make %n photo(s) agree?", nullptr, question->photos)
+                        : Texts::tr("Apply changes to %n photo(s)?", nullptr, model.selection().size());
     const ImageRecord* record = model.primaryRecord();
-    return (question ? Texts::tr("Make “") : Texts::tr("Save changes to “"))
-        + (record ? model.pairing().names(*record) : QString()) + (question ? Texts::tr("” agree?") : u"”?"_s);
+    const QString name = record ? model.pairing().names(*record) : QString();
+    return (question ? Texts::tr("Make “%1” agree?") : Texts::tr("Save changes to “%1”?")).arg(name);
 }
 
 // The scalar fields among `ids`, by id.
@@ -83,7 +78,8 @@ QList<ChangeLine> scalarLines(
     sorted.sort();
     for (const QString& id : std::as_const(sorted)) {
         const FieldSpec* field = FieldSchema::spec(id);
-        const QString label = field ? (field->isList() ? QString() : field->label) : FieldLanguages::label(id);
+        const QString label =
+            field ? (field->isList() ? QString() : Texts::shown(field->label)) : FieldLanguages::label(id);
         if (label.isEmpty())
             continue;
         lines.append(lineOf(id));
@@ -97,7 +93,7 @@ QList<ChangeLine> scalarLines(
 ChangeLine textLine(const QString& id, const QString& value)
 {
     const FieldSpec* field = FieldSchema::spec(id);
-    return { .value = u'“' + ShownText::of(id, value) + u'”',
+    return { .value = Texts::tr("“%1”").arg(ShownText::of(id, value)),
         .note = field ? FieldCheck::note(*field, value) : QString() };
 }
 
@@ -132,7 +128,7 @@ QList<ChangeLine> agreementLines(const AppModel::AgreementQuestion& question)
     QList<ChangeLine> lines;
     for (const FieldSpec& field : FieldSchema::all())
         if (const int photos = question.fields.value(field.id); photos > 0)
-            lines.append({ field.label, photosText(photos), {} });
+            lines.append({ Texts::shown(field.label), Texts::tr("%n photo(s)", nullptr, photos), {} });
     return lines;
 }
 
@@ -148,7 +144,7 @@ QString noteOf(const FieldSpec& field, const QStringList& items)
 // What a list gains, and what it loses. Of texts that only some of the photos gain or lose it tells how many do.
 ChangeLine listLine(const AppModel& model, const FieldSpec& field)
 {
-    ChangeLine line{ .label = field.label,
+    ChangeLine line{ .label = Texts::shown(field.label),
         .value = ShownText::of(field.id, shownItems(model, field.id, model.batchLists().value(field.id))),
         .note = noteOf(field, model.batchLists().value(field.id)),
         .takenAway = model.batchRemoved().value(field.id) };
@@ -162,6 +158,7 @@ ChangeLine listLine(const AppModel& model, const FieldSpec& field)
             held.insert(count.keyword, count.photos);
     for (const QString& item : std::as_const(line.takenAway))
         line.counts.append(held.contains(item)
+                //: Of %2 selected photos, %1 have the keyword.
                 ? Texts::tr("%1 of %2").arg(held.value(item)).arg(model.selectedKeywordPhotos())
                 : QString());
     return line;
@@ -193,7 +190,7 @@ QList<ChangeLine> changeLines(const AppModel& model, const AskedAgreement& quest
         for (const FieldSpec& field : FieldSchema::everyField())
             if (field.isList() && model.editedSingle().contains(field.id)) {
                 const QStringList items = model.draftLists().value(field.id);
-                lines.append({ field.label, ShownText::of(field.id, items), noteOf(field, items) });
+                lines.append({ Texts::shown(field.label), ShownText::of(field.id, items), noteOf(field, items) });
             }
         lines.removeIf([](const ChangeLine& line) { return line.note.isEmpty(); });
         return lines;
@@ -210,20 +207,20 @@ QList<ChangeLine> changeLines(const AppModel& model, const AskedAgreement& quest
 QString messageText(const AppModel& model, const AskedAgreement& question)
 {
     if (question)
-        return u"Where the places of a field differ, all of them will hold what is shown of it. Lists are brought "
-               u"together."_s;
-    if (isSingle(model)) {
-        const int count = model.unsavedCount();
-        return Texts::tr("You edited %1 field%2. Your changes will be lost if you don’t save them.")
-            .arg(count)
-            .arg(count == 1 ? QString() : u"s"_s);
-    }
+        return Texts::tr("Where the places of a field differ, all of them will hold what is shown of it. Lists are "
+                         "brought together.");
+    if (isSingle(model))
+        return Texts::tr(
+            "You edited %n field(s). Your changes will be lost if you don’t save them.", nullptr, model.unsavedCount());
     QStringList labels;
     for (const ChangeLine& line : changeLines(model, question))
         labels.append(line.label);
-    const QString fields = labels.isEmpty() ? Texts::tr("the selected fields") : labels.join(u", "_s);
-    return Texts::tr("This will modify %1 on %2 files. This can’t be undone.")
-        .arg(fields, QString::number(model.selection().size()));
+    const qsizetype files = model.selection().size();
+    if (labels.isEmpty())
+        return Texts::tr("This will modify the selected fields on %n file(s). This can’t be undone.", nullptr, files);
+    //: %1 is a list of the names of fields.
+    return Texts::tr("This will modify %1 on %n file(s). This can’t be undone.", nullptr, files)
+        .arg(labels.join(u", "_s));
 }
 
 // The rows of the change list, with a hairline between them.
@@ -291,8 +288,10 @@ private:
         auto* label = ThemedLabel::wrapped({}, TextRole::text, 13);
         label->setTextFormat(Qt::RichText);
         label->setVerbatim(true);
-        label->setText(Texts::tr("taken away: ") + shown.join(u", "_s));
-        label->setAccessibleName(Texts::tr("taken away: ") + spoken.join(u", "_s));
+        //: %1 is a list of keywords that photos lose.
+        const QString takenAway = Texts::tr("taken away: %1");
+        label->setText(takenAway.toHtmlEscaped().arg(shown.join(u", "_s)));
+        label->setAccessibleName(takenAway.arg(spoken.join(u", "_s)));
         return label;
     }
 
@@ -307,7 +306,7 @@ public:
         setFramed(true);
         setContent(new ChangeTable(lines));
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        setAccessibleName(Texts::tr("Changes"));
+        setAccessibleName(Texts::tr("Changes", "noun: what a save changes"));
         // Only a list that scrolls needs the keyboard.
         setFocusPolicy(sizeHint().height() < contentHeight() ? Qt::TabFocus : Qt::NoFocus);
         installFocusRing(this, { RingShape::tight, 7, {}, {} });
@@ -333,7 +332,8 @@ SaveDialogView::SaveDialogView(AppModel& model, QWidget* parent)
     QStringList told{ messageText(model, m_question) };
     for (const ChangeLine& line : changeLines(model, m_question))
         if (!line.note.isEmpty())
-            told.append(line.label + u": "_s + line.note);
+            //: %1 is the name of a field, %2 what is said of it.
+            told.append(Texts::tr("%1: %2").arg(line.label, line.note));
     told.append(CredentialsNotice::text(model.credentialsAtStake()));
     told.removeAll(QString());
     setAccessibleDescription(told.join(u' '));
@@ -411,14 +411,17 @@ QList<QBButton*> SaveDialogView::buildButtons()
     }
     buttons.append(new QBButton(Texts::tr("Cancel"), QBButtonKind::secondary));
     connect(buttons.last(), &QAbstractButton::clicked, this, &SaveDialogView::cancel);
-    const QString title = m_question
-        ? Texts::tr("Make %1").arg(m_question->photos == 1 ? Texts::tr("It Agree") : Texts::tr("Them Agree"))
-        : m_single ? Texts::tr("Save")
-                   : Texts::tr("Apply to %1 Photos").arg(m_model.selection().size());
-    m_confirm = new QBButton(title, QBButtonKind::primary);
+    m_confirm = new QBButton(confirmTitle(), QBButtonKind::primary);
     connect(m_confirm, &QAbstractButton::clicked, this, &SaveDialogView::confirm);
     buttons.append(m_confirm);
     return buttons;
+}
+
+QString SaveDialogView::confirmTitle() const
+{
+    if (m_question)
+        return m_question->photos == 1 ? Texts::tr("Make It Agree") : Texts::tr("Make Them Agree");
+    return m_single ? Texts::tr("Save") : Texts::tr("Apply to %n Photo(s)", nullptr, m_model.selection().size());
 }
 
 void SaveDialogView::confirm()

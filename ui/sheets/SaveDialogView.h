@@ -32,6 +32,7 @@ private:
     QWidget* buildCredentials();
     void buildCheckbox();
     QList<QBButton*> buildButtons();
+    QString confirmTitle() const;
 
     AppModel& m_model;
     bool m_single;

@@ -80,11 +80,6 @@ QVBoxLayout* formColumn(QWidget* form, qreal spacing)
     return column;
 }
 
-QString photosText(qsizetype count)
-{
-    return count == 1 ? Texts::tr("1 Photo") : Texts::tr("%1 Photos").arg(count);
-}
-
 }  // namespace
 
 ShiftTimeSheet::ShiftTimeSheet(AppModel& model, ThumbnailStore* thumbs, QWidget* parent)
@@ -94,7 +89,8 @@ ShiftTimeSheet::ShiftTimeSheet(AppModel& model, ThumbnailStore* thumbs, QWidget*
     , m_photos(int(m_shifting.photos().size()))
     , m_way(new SegmentedPicker({ Texts::tr("By an amount"), Texts::tr("By a known photo"), Texts::tr("Time zone") }))
     , m_forms(new QStackedWidget)
-    , m_direction(new SegmentedPicker({ Texts::tr("Later"), Texts::tr("Earlier") }))
+    , m_direction(new SegmentedPicker(
+          { Texts::tr("Later", "times become later"), Texts::tr("Earlier", "times become earlier") }))
     , m_help(new WrappedLine(TextRole::label, 11, 16))
     , m_knownName(new ThemedLabel({}, TextRole::text, 13))
     , m_knownClock(new ThemedLabel({}, TextRole::label, 11.5))
@@ -104,9 +100,9 @@ ShiftTimeSheet::ShiftTimeSheet(AppModel& model, ThumbnailStore* thumbs, QWidget*
     , m_keepsClock(new QBCheckbox(Texts::tr("Keep the clock time"), nullptr))
     , m_table(new ShiftTable)
     , m_note(new ThemedLabel({}, TextRole::label, 11))
-    , m_own(new QBTextButton(Texts::tr("Use each photo’s own")))
+    , m_own(new QBTextButton(Texts::tr("Use each photo’s own", "time zone")))
     , m_warning(new WrappedLine(TextRole::amberText, 11, noteHeight))
-    , m_shift(new QBButton(Texts::tr("Shift"), QBButtonKind::primary))
+    , m_shift(new QBButton(QString(), QBButtonKind::primary))
 {
     m_way->setAccessibleName(Texts::tr("How to shift"));
     m_way->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -133,8 +129,10 @@ QWidget* ShiftTimeSheet::buildAmount()
     auto* column = formColumn(form, 7);
     auto* line = new QHBoxLayout;
     line->addWidget(m_direction);
-    const std::pair<QString, QString> units[] = { { u"d"_s, Texts::tr("Days") }, { u"h"_s, Texts::tr("Hours") },
-        { u"min"_s, Texts::tr("Minutes") }, { u"s"_s, Texts::tr("Seconds") } };
+    const std::pair<QString, QString> units[] = { { Texts::tr("d", "unit: days"), Texts::tr("Days") },
+        { Texts::tr("h", "unit: hours"), Texts::tr("Hours") },
+        { Texts::tr("min", "unit: minutes"), Texts::tr("Minutes") },
+        { Texts::tr("s", "unit: seconds"), Texts::tr("Seconds") } };
     for (const auto& [unit, name] : units) {
         auto* number = new QBTextField;
         number->setMono(true);
@@ -302,8 +300,10 @@ void ShiftTimeSheet::refresh()
     m_table->setRows(m_shifting.preview().rows);
     refreshNotes();
     const auto count = m_shifting.preview().targets.size();
-    m_shift->setText(m_shifting.way() == TimeShifting::Way::zone ? Texts::tr("Set Zone of %1").arg(count)
-                                                                 : Texts::tr("Shift ") + photosText(count));
+    m_shift->setText(m_shifting.way() == TimeShifting::Way::zone
+            //: %n is a number of photos.
+            ? Texts::tr("Set Zone of %n", nullptr, count)
+            : Texts::tr("Shift %n Photo(s)", nullptr, count));
     m_shift->updateGeometry();
     m_shift->setEnabled(m_shifting.canShift());
 }
@@ -339,10 +339,11 @@ void ShiftTimeSheet::refreshNotes()
     const auto seconds = m_shifting.seconds();
     QString note;
     if (m_shifting.unread() > 0)
-        note = Texts::tr("Reading %1 more…").arg(m_shifting.unread());
+        note = Texts::tr("Reading %n more…", "photos", m_shifting.unread());
     else if (m_shifting.way() == TimeShifting::Way::zone)
         note = m_shifting.zone().isOwn ? QString() : preview.positionsText();
     else if (m_shifting.way() == TimeShifting::Way::knownPhoto && seconds && *seconds != 0)
+        //: %1 is an amount of time, like “1 h 30 min earlier”.
         note = Texts::tr("All others by the same amount: %1.").arg(ShiftPreview::amountText(*seconds));
     const bool isWrong = m_shifting.way() == TimeShifting::Way::knownPhoto && !m_shifting.problem().isEmpty();
     m_note->setRole(isWrong ? TextRole::amberText : TextRole::label);
@@ -358,7 +359,7 @@ void ShiftTimeSheet::refreshNotes()
 
 QString ShiftTimeSheet::title() const
 {
-    return Texts::tr("Shift Time of ") + photosText(m_photos);
+    return Texts::tr("Shift Time of %n Photo(s)", nullptr, m_photos);
 }
 
 void ShiftTimeSheet::confirm()

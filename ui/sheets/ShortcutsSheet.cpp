@@ -41,15 +41,17 @@ public:
     explicit ShortcutRow(const Shortcut& shortcut)
         : m_does(shortcut.does)
         , m_keys(shortcut.shownKeys())
+        , m_english(shortcut.english)
     {
         describeAs(staticMetaObject, QAccessible::StaticText);
-        setAccessibleName(u"%1: %2"_s.arg(m_does, m_keys));
+        //: %1 is what a key does, %2 the key.
+        setAccessibleName(Texts::tr("%1: %2").arg(m_does, m_keys));
         setToolTip(m_does);
         onRestyle(this, [this] { setFixedHeight(px(rowHeight)); });
     }
     bool fits(const QStringList& words) const
     {
-        const QString text = m_does + u' ' + m_keys;
+        const QString text = m_does + u' ' + m_keys + u' ' + m_english;
         return std::all_of(words.cbegin(), words.cend(),
             [&text](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
     }
@@ -72,6 +74,7 @@ protected:
 private:
     QString m_does;
     QString m_keys;
+    QString m_english;
 };
 
 // As high as is good to read; lower in a low window.
@@ -186,7 +189,7 @@ void ShortcutsSheet::find()
     QStringList found;
     for (qsizetype i = 0; i < m_groups.size(); ++i) {
         const bool isWhole = !words.isEmpty() && std::all_of(words.cbegin(), words.cend(), [&](const QString& word) {
-            return m_groups.at(i).title.contains(word, Qt::CaseInsensitive);
+            return (m_groups.at(i).title + u' ' + m_groups.at(i).english).contains(word, Qt::CaseInsensitive);
         });
         bool any = false;
         for (QWidget* row : std::as_const(m_rows.at(i))) {
@@ -202,7 +205,7 @@ void ShortcutsSheet::find()
     m_scroll->setVisible(!found.isEmpty());
     const QString told = found.isEmpty() ? m_none->text()
         : words.isEmpty()                ? QString()
-        : found.size() > mostSpoken      ? Texts::tr("%1 shortcuts").arg(found.size())
+        : found.size() > mostSpoken      ? Texts::tr("%n shortcut(s)", nullptr, found.size())
                                          : found.join(u"; "_s);
     m_query->setAccessibleDescription(told);
 }

@@ -19,7 +19,7 @@ QString countText(int codes)
 {
     if (codes == 0)
         return Texts::tr("There are no codes in this file.");
-    return codes == 1 ? Texts::tr("1 code.") : Texts::tr("%1 codes.").arg(codes);
+    return Texts::tr("%n code(s).", nullptr, codes);
 }
 
 }  // namespace
@@ -29,7 +29,7 @@ CodeFileRow::CodeFileRow(CodeReplacements& codes, QWidget* parent)
     , m_codes(codes)
     , m_name(new ThemedLabel)
     , m_choose(new QBButton(Texts::tr("Choose…")))
-    , m_clear(new QBButton(Texts::tr("Clear")))
+    , m_clear(new QBButton(Texts::tr("Clear", "button: no file is used any more")))
     , m_column(new QVBoxLayout(this))
 {
     m_name->setElided(true);

@@ -164,6 +164,7 @@ QWidget* LaunchView::buildSubfolders(AppModel& model)
 {
     Setting<bool>& setting = model.preferences().openSubfolders;
     auto* toggle = new QBSwitch;
+    //: A switch: a folder that is opened is opened with all folders in it.
     auto* name = new SwitchName(Texts::tr("Open with subfolders"), toggle);
     toggle->setAccessibleName(name->text());
     toggle->setChecked(setting());

@@ -35,7 +35,13 @@ constexpr int mostCards = 3;
 
 QString thumbnailOnly()
 {
+    //: Written on a photo of which nothing larger can be shown.
     return Texts::tr("Thumbnail only");
+}
+
+QString selectedText(qsizetype photos)
+{
+    return Texts::tr("%n photo(s) selected", nullptr, photos);
 }
 
 QSizeF scaledToUi(QSizeF points)
@@ -103,9 +109,10 @@ void PreviewColumnView::follow()
 {
     m_urls = shownUrls();
     const ImageRecord* photo = m_model.primaryRecord();
-    const QString word = isStandIn() ? u", "_s + thumbnailOnly().toLower() : QString();
-    setAccessibleName(m_model.isBatch() ? Texts::tr("%1 photos selected").arg(m_model.selection().size())
-            : photo                     ? Texts::tr("Preview of %1").arg(m_model.pairing().names(*photo)) + word
+    //: %1 is the name of a file.
+    const QString preview = isStandIn() ? Texts::tr("Preview of %1, thumbnail only") : Texts::tr("Preview of %1");
+    setAccessibleName(m_model.isBatch() ? selectedText(m_model.selection().size())
+            : photo                     ? preview.arg(m_model.pairing().names(*photo))
                                         : QString());
     // The newest request is served first: the front photo is asked for last.
     if (m_thumbs && isVisible())
@@ -199,7 +206,7 @@ void PreviewColumnView::paintCards(QPainter& painter)
     painter.setFont(sansFont(13));
     painter.setPen(theme.derived.label);
     painter.drawText(QRectF(stage().left(), front.bottom() + textTop, stage().width(), textHeight), Qt::AlignCenter,
-        Texts::tr("%1 photos selected").arg(m_model.selection().size()));
+        selectedText(m_model.selection().size()));
 }
 
 void PreviewColumnView::paintCard(QPainter& painter, const QRectF& card, const QUrl& url, int slot)

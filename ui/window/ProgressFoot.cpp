@@ -26,6 +26,28 @@ constexpr qreal footHeight = 54;
 constexpr qreal sidePadding = 12;
 constexpr qreal barHeight = 4;
 
+// Both with places for how many are done, and of how many.
+QString readingText(const Progress& progress)
+{
+    if (progress.isSurvey)
+        //: %1 of all %2 photos were looked at already.
+        return Texts::tr("Looking at %1 of %2 photos…", nullptr, progress.total);
+    if (progress.isFill)
+        //: %1 of all %2 photos were filled in already: what the program did not know of them yet was read.
+        return Texts::tr("Filling in %1 of %2 photos…", nullptr, progress.total);
+    //: %1 of all %2 photos were read already.
+    return Texts::tr("Reading %1 of %2 photos…", nullptr, progress.total);
+}
+
+QString writingText(bool isRenaming, int photos)
+{
+    if (isRenaming)
+        //: %1 of all %2 photos were renamed already.
+        return Texts::tr("Renaming %1 of %2 photos…", nullptr, photos);
+    //: %1 of all %2 photos were saved already.
+    return Texts::tr("Saving %1 of %2 photos…", nullptr, photos);
+}
+
 }  // namespace
 
 // A thin determinate bar that moves evenly from one value to the next.
@@ -73,7 +95,7 @@ ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
     : QWidget(parent)
     , m_model(model)
     , m_text(new ThemedLabel({}, TextRole::text, 12))
-    , m_skip(new QBTextButton(Texts::tr("Skip")))
+    , m_skip(new QBTextButton(Texts::tr("Skip", "button: goes on without the file")))
     , m_cancel(new QBTextButton(Texts::tr("Cancel")))
     , m_bar(new ProgressBar(this))
 {
@@ -159,16 +181,13 @@ QString ProgressFoot::shownText() const
 {
     const Progress progress = m_model.progress().value_or(Progress());
     if (const auto stalled = m_model.stalledFile())
+        //: %1 is the name of a file that takes suspiciously long to be read.
         return Texts::tr("Stuck at %1").arg(*stalled);
     if (progress.total == 0 && !isWriting())
         return Texts::tr("Looking for photos…");
     const QLocale locale;
-    const QString reading = progress.isSurvey ? Texts::tr("Looking at %1 of %2 photos…")
-        : progress.isFill                     ? Texts::tr("Filling in %1 of %2 photos…")
-                                              : Texts::tr("Reading %1 of %2 photos…");
-    const QString writing =
-        m_model.renaming().isRunning() ? Texts::tr("Renaming %1 of %2 photos…") : Texts::tr("Saving %1 of %2 photos…");
-    const QString pattern = isWriting() ? writing : reading;
+    const QString pattern =
+        isWriting() ? writingText(m_model.renaming().isRunning(), progress.total) : readingText(progress);
     return pattern.arg(locale.toString(progress.done), locale.toString(progress.total));
 }
 

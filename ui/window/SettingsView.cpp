@@ -154,7 +154,7 @@ QSize SettingsView::sizeHint() const
 
 void SettingsView::addDisplay(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, Texts::tr("Display"));
+    Group* group = addGroup(column, Texts::tr("Display", "heading of settings"));
     group->addRow(Texts::tr("Appearance"), appearancePicker());
     group->addRow(Texts::tr("Language"), languagePicker(), Texts::tr("Takes effect at the next start."));
     group->addRow(Texts::tr("Show namespace details"),
@@ -164,20 +164,22 @@ void SettingsView::addDisplay(QVBoxLayout* column)
 
 void SettingsView::addSaving(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, Texts::tr("Saving"));
+    Group* group = addGroup(column, Texts::tr("Saving", "heading of settings"));
     group->addRow(Texts::tr("Back up original before writing"),
         toggle(Texts::tr("Back up original before writing"), m_model.preferences().backupOriginals));
     group->addRow(Texts::tr("Confirm before mass-applying to multiple files"),
         toggle(Texts::tr("Confirm before mass-applying to multiple files"), m_model.preferences().confirmMassEdit));
     group->addRow(Texts::tr("Also write a sidecar .xmp file"),
         toggle(Texts::tr("Also write a sidecar .xmp file"), m_model.preferences().writeSidecar),
+        //: <name> stands for the image's own.
         Texts::tr("Mirrors XMP metadata into <name>.xmp next to each image."));
 }
 
 void SettingsView::addRenaming(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, Texts::tr("Renaming"));
+    Group* group = addGroup(column, Texts::tr("Renaming", "heading of settings"));
     group->addRow(Texts::tr("Filename pattern"), patternField(),
+        //: What stands between two % signs is typed like this in every language.
         Texts::tr("Tokens: %Date% %Time% %Title% %Creator% %Place% %Original%. The extension is kept "
                   "automatically."));
     group->addRow(Texts::tr("Strip special characters"),
@@ -201,6 +203,7 @@ void SettingsView::addRawFiles(QVBoxLayout* column)
 QWidget* SettingsView::homeRow(
     const QString& name, Setting<bool>& isBeside, const QString& inside, const QString& beside)
 {
+    //: Where edits of raw photos are written: into the photo's own file, or into a sidecar that lies beside it.
     auto* row = new ChoiceRow(name, { Texts::tr("Into the file"), Texts::tr("Beside it") });
     row->picker().setSpoken({ Texts::tr("Write into the file"), Texts::tr("Write beside it") });
     const auto show = [=, &isBeside] {
@@ -229,7 +232,7 @@ QWidget* SettingsView::namingRow()
 
 void SettingsView::addPlaces(QVBoxLayout* column)
 {
-    Group* group = addGroup(column, Texts::tr("Places"));
+    Group* group = addGroup(column, Texts::tr("Places", "heading of settings: towns and sights"));
     group->addRow(Texts::tr("Online place service"), placeServiceField(),
         Texts::tr("Empty: places are looked up on this computer alone. With the https address of a "
                   "Photon-compatible service, what you type in the Place field is sent there; places known here "
@@ -243,7 +246,8 @@ void SettingsView::addCodes(QVBoxLayout* column)
 
 QWidget* SettingsView::appearancePicker()
 {
-    auto* picker = new SegmentedPicker({ Texts::tr("System"), Texts::tr("Light"), Texts::tr("Dark") });
+    auto* picker = new SegmentedPicker({ Texts::tr("System", "appearance: that of the desktop"),
+        Texts::tr("Light", "appearance"), Texts::tr("Dark", "appearance") });
     const auto show = [this, picker] { picker->setCurrentIndex(indexOf(m_model.preferences().colorOverride())); };
     connect(&m_model.preferences(), &Preferences::changed, picker, show);
     show();

@@ -31,13 +31,16 @@ constexpr qreal leastTitle = 60;  // in less than that nothing could be read
 // What one should know before one trusts that the list is up to date; "" where one may.
 QString watchingText(const Watching& watching)
 {
+    if (watching.how == Watching::How::looking && watching.folders == 1)
+        //: %1 is the program.
+        return Texts::tr("This folder does not report changes; %1 looks every few seconds.").arg(Product::name());
     if (watching.how == Watching::How::looking)
-        return (watching.folders == 1
-                ? Texts::tr("This folder does not report changes; %1 looks every few seconds.")
-                : Texts::tr("Not all of these folders report changes; %1 looks every few seconds."))
-            .arg(Product::name());
+        //: %1 is the program.
+        return Texts::tr("Not all of these folders report changes; %1 looks every few seconds.").arg(Product::name());
     if (watching.how == Watching::How::partly)
-        return Texts::tr("Only %1 of %2 folders report changes. Refresh to see what changed in the others.")
+        //: Of %2 folders, only %1 do.
+        return Texts::tr("Only %1 of %2 folders report changes. Refresh to see what changed in the others.", nullptr,
+            watching.folders)
             .arg(QString::number(watching.watched), QString::number(watching.folders));
     return {};
 }

@@ -2,6 +2,7 @@
 // that no key is promised twice, or in vain.
 #include "app/shell/Menus.h"
 #include "tests/app/model/ModelFixture.h"
+#include "tests/support/OtherLanguage.h"
 #include "tests/ui/UiSupport.h"
 #include "tests/ui/window/WindowFixture.h"
 #include "ui/closeup/CloseupLine.h"
@@ -164,6 +165,7 @@ private slots:
     void noKeyTwice();
     void toldKeysExist();
     void theSheetOfShortcuts();
+    void shortcutsInAnotherLanguage();
     void placesOfACloseLook_data();
     void placesOfACloseLook();
     void aCloseLook();
@@ -387,6 +389,15 @@ void tst_Hands::toldKeysExist()
     QVERIFY(!isTaken(f.window->findChild<SidebarList*>(), Qt::Key_Insert));
 }
 
+QStringList shownShortcuts(const QWidget* sheet)
+{
+    QStringList texts;
+    for (const QWidget* row : sheet->findChildren<QWidget*>())
+        if (row->isVisible() && QString::fromLatin1(row->metaObject()->className()).endsWith(u"ShortcutRow"_s))
+            texts.append(row->accessibleName());
+    return texts;
+}
+
 void tst_Hands::theSheetOfShortcuts()
 {
     HandsWindow f;
@@ -394,13 +405,7 @@ void tst_Hands::theSheetOfShortcuts()
     f.press(Qt::Key_F1, Qt::ControlModifier);
     auto* sheet = f.window->findChild<ShortcutsSheet*>();
     QVERIFY(sheet);
-    const auto shown = [sheet] {
-        QStringList texts;
-        for (const QWidget* row : sheet->findChildren<QWidget*>())
-            if (row->isVisible() && QString::fromLatin1(row->metaObject()->className()).endsWith(u"ShortcutRow"_s))
-                texts.append(row->accessibleName());
-        return texts;
-    };
+    const auto shown = [sheet] { return shownShortcuts(sheet); };
     // The menus' own, the rows of digits as one.
     const QStringList all = shown();
     for (const QString& text : { u"Save and Next Photo: Ctrl+Return"_s, u"Rating: Ctrl+Alt+0 … 5"_s, u"Rate: 0 … 5"_s,
@@ -419,6 +424,27 @@ void tst_Hands::theSheetOfShortcuts()
     QVERIFY(labels(sheet).contains(u"No such shortcut."_s));
     QTest::keyClick(query, Qt::Key_Escape);
     QVERIFY(!f.content->sheets()->current());
+}
+
+// In a language whose texts have no letters for keys, these stand behind.
+void tst_Hands::shortcutsInAnotherLanguage()
+{
+    const OtherLanguage german(
+        { { "Same as Photo Be&fore", u"Wie im Foto davor (&F)"_s }, { "On the stars", u"Auf den Sternen"_s } });
+    HandsWindow f;
+    QVERIFY(f.show());
+    f.press(Qt::Key_F1, Qt::ControlModifier);
+    auto* sheet = f.window->findChild<ShortcutsSheet*>();
+    auto* query = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    QVERIFY(sheet && query);
+    for (const QString& typed : { u"foto davor"_s, u"photo before"_s }) {
+        query->setText(typed);
+        QCOMPARE(shownShortcuts(sheet), QStringList{ u"Wie im Foto davor: Ctrl+'"_s });
+    }
+    for (const QString& typed : { u"sternen"_s, u"on the stars"_s }) {
+        query->setText(typed);
+        QCOMPARE(shownShortcuts(sheet).size(), 2);
+    }
 }
 
 void tst_Hands::placesOfACloseLook_data()

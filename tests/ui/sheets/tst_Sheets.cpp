@@ -7,6 +7,7 @@
 #include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
 #include "tests/app/model/ModelFixture.h"
+#include "tests/support/OtherLanguage.h"
 #include "tests/ui/UiSupport.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/TextFields.h"
@@ -165,6 +166,8 @@ private slots:
     void ownFieldSets();
     void addFieldFilters_data();
     void addFieldFilters();
+    void fieldsAreFoundInBothLanguages_data();
+    void fieldsAreFoundInBothLanguages();
     void addFieldWithoutAnyLeft();
     void addFieldByMouseAndKeys_data();
     void addFieldByMouseAndKeys();
@@ -680,6 +683,36 @@ void tst_Sheets::addFieldFilters()
     QCOMPARE(labels(list), ids.isEmpty() ? QStringList{ u"No matching fields."_s } : QStringList());
     field(sheet, u"Search fields"_s)->setText(u"   "_s);
     QCOMPARE(list->shownIds().size(), addable(desk.model()).size());
+}
+
+void tst_Sheets::fieldsAreFoundInBothLanguages_data()
+{
+    QTest::addColumn<QString>("query");
+    QTest::addRow("the label") << u"schlagz"_s;
+    QTest::addRow("the English one") << u"headl"_s;
+    QTest::addRow("the beginning of a word") << u"foto"_s;
+}
+
+void tst_Sheets::fieldsAreFoundInBothLanguages()
+{
+    QFETCH(const QString, query);
+    const OtherLanguage german({ { "Headline", u"Schlagzeile zum Foto"_s }, { "DETAILS", u"EINZELHEITEN"_s } });
+    SheetFixture desk({ u"a.jpg"_s });
+    QVERIFY(desk.open());
+    auto* sheet = desk.present<AddFieldSheet>();
+    QTest::keyClicks(QApplication::focusWidget(), query);
+    const auto* list = sheet->findChild<AddableFieldList*>();
+    QCOMPARE(list->shownIds().value(0), u"headline"_s);
+    QVERIFY(button(sheet, u"Schlagzeile zum Foto"_s));
+    desk.model().fieldSets().edit();
+    auto* sets = desk.present<FieldSetsSheet>();
+    field(sets, u"Search fields"_s)->setText(query);
+    QStringList listed;
+    const auto* ticks = sets->findChild<FieldTicks*>();
+    for (int i = 0; i < ticks->topLevelItemCount(); ++i)
+        if (const QTreeWidgetItem* item = ticks->topLevelItem(i); !item->isHidden())
+            listed.append(item->text(0));
+    QCOMPARE(listed.mid(0, 2), QStringList({ u"EINZELHEITEN"_s, u"Schlagzeile zum Foto"_s }));
 }
 
 void tst_Sheets::addFieldWithoutAnyLeft()

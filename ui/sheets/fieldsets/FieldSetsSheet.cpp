@@ -128,7 +128,8 @@ FieldSetsSheet::FieldSetsSheet(AppModel& model, QWidget* parent)
 void FieldSetsSheet::addCopy()
 {
     FieldSet copy = shown();
-    copy.name += Texts::tr(" copy");
+    //: The name of a new set of fields; %1 is the name of the one that it is a copy of.
+    copy.name = Texts::tr("%1 copy").arg(shownName());
     addSet(copy);
     fillList();
     show();
@@ -189,7 +190,7 @@ void FieldSetsSheet::fillList()
     m_isFilling = true;
     m_list->clear();
     for (const FieldSet& set : FieldSetTexts::builtIn())
-        m_list->addItem(set.name);
+        m_list->addItem(Texts::shown(set.name));
     for (const FieldSets::Edited& own : std::as_const(m_own))
         m_list->addItem(own.set.name);
     m_list->setCurrentRow(m_row);
@@ -208,11 +209,17 @@ FieldSet FieldSetsSheet::shown() const
     return m_row < builtIn.size() ? builtIn.at(m_row) : m_own.at(m_row - builtIn.size()).set;
 }
 
+// Those that come with the program are called something else in each language.
+QString FieldSetsSheet::shownName() const
+{
+    return m_row < FieldSetTexts::builtIn().size() ? Texts::shown(shown().name) : shown().name;
+}
+
 void FieldSetsSheet::show()
 {
     const FieldSet set = shown();
     const bool isOwn = edited() != nullptr;
-    m_name->setBoundText(set.name);
+    m_name->setBoundText(shownName());
     m_name->setReadOnly(!isOwn);
     m_ticks->setFixed(!isOwn);
     m_ticks->setTicked(set.fields, set.wanted);

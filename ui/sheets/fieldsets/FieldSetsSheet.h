@@ -38,6 +38,7 @@ private:
     void addCopy();
     void removeSet();
     FieldSet shown() const;
+    QString shownName() const;
     /// The one of the user's own that is shown; null while it is another.
     FieldSets::Edited* edited();
 

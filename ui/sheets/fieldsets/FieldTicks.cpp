@@ -91,7 +91,8 @@ private:
 
 bool holds(const FieldSpec& field, const QString& needle)
 {
-    for (const QString& text : { field.label, field.addNote, field.namespaceHint, field.standard })
+    for (const QString& text : { Texts::shown(field.label), field.label, Texts::shown(field.addNote), field.addNote,
+             field.namespaceHint, field.standard })
         if (text.contains(needle, Qt::CaseInsensitive))
             return true;
     return false;
@@ -105,7 +106,7 @@ FieldTicks::FieldTicks(QWidget* parent)
     setItemDelegate(new TickDelegate(this));
     setAccessibleName(Texts::tr("Fields of the set"));
     setColumnCount(columns);
-    setHeaderLabels({ Texts::tr("Field"), Texts::tr("On screen"), Texts::tr("Wanted") });
+    setHeaderLabels({ Texts::tr("Field", "noun"), Texts::tr("On screen"), Texts::tr("Wanted") });
     setHeaderHidden(true);
     setRootIsDecorated(false);
     setIndentation(0);
@@ -149,16 +150,20 @@ void FieldTicks::fill()
         const FieldSpec& field = *FieldSchema::spec(id);
         if (section != field.section) {
             section = field.section;
-            auto* heading = new QTreeWidgetItem(this, { rawValue(field.section) });
+            auto* heading = new QTreeWidgetItem(this, { Texts::shown(rawValue(field.section)) });
             heading->setFlags(Qt::ItemIsEnabled);
             heading->setFirstColumnSpanned(true);
         }
-        auto* item = new QTreeWidgetItem(this, { field.label });
+        const QString label = Texts::shown(field.label);
+        const QString note = Texts::shown(field.addNote);
+        auto* item = new QTreeWidgetItem(this, { label });
         item->setData(Column::name, idRole, id);
-        item->setToolTip(Column::name, field.addNote);
-        item->setData(Column::name, Qt::AccessibleDescriptionRole, field.addNote);
-        item->setData(Column::onScreen, Qt::AccessibleTextRole, Texts::tr("%1 on screen").arg(field.label));
-        item->setData(Column::wanted, Qt::AccessibleTextRole, Texts::tr("%1 wanted").arg(field.label));
+        item->setToolTip(Column::name, note);
+        item->setData(Column::name, Qt::AccessibleDescriptionRole, note);
+        //: The name of a tick that puts the field %1 on screen.
+        item->setData(Column::onScreen, Qt::AccessibleTextRole, Texts::tr("%1 on screen").arg(label));
+        //: The name of a tick that says that the field %1 should be filled in.
+        item->setData(Column::wanted, Qt::AccessibleTextRole, Texts::tr("%1 wanted").arg(label));
         for (const int column : { Column::onScreen, Column::wanted }) {
             item->setData(column, idRole, id);
             item->setCheckState(column, Qt::Unchecked);

@@ -24,10 +24,11 @@ constexpr qreal radius = 7;
 
 QString spoken(const RenameRow& row)
 {
+    //: %1 is the name of a file, %2 the one that it will get.
     QStringList parts{ row.isUnchanged() ? Texts::tr("%1 keeps its name").arg(row.oldName)
                                          : Texts::tr("%1 to %2").arg(row.oldName, row.newName) };
     for (const QString& label : row.missing)
-        parts.append(Texts::tr("no ") + label.toLower());
+        parts.append(RenameRowDelegate::missingText(label));
     if (const QString words = row.words(); !words.isEmpty())
         parts.append(words);
     return parts.join(u", "_s);

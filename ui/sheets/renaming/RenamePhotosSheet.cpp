@@ -92,7 +92,7 @@ RenamePhotosSheet::RenamePhotosSheet(AppModel& model, QWidget* parent)
     , m_step(new NumberField(Texts::tr("Step"), 1, mostStep))
     , m_digits(new NumberField(Texts::tr("Digits"), 1, CounterForm::mostDigits))
     , m_marked(new ThemedLabel({}, TextRole::amberText, 11.5))
-    , m_next(new QBTextButton(Texts::tr("Next")))
+    , m_next(new QBTextButton(Texts::tr("Next", "goes to the next name")))
     , m_list(new RenameList)
     , m_foot(new WrappedLine(TextRole::label, 11, 15))
     , m_cancel(new QBButton(Texts::tr("Cancel"), QBButtonKind::secondary))
@@ -114,10 +114,10 @@ QWidget* RenamePhotosSheet::buildTokens()
 {
     auto* flow = new TokenFlow;
     QList<FileNaming::Token> tokens = FileNaming::tokens();
-    tokens.append({ Texts::tr("Counter"), u"%Counter%"_s });
+    tokens.append({ Texts::mark("Counter"), u"%Counter%"_s });
     for (const FileNaming::Token& token : std::as_const(tokens))
-        flow->add(
-            token.label, token.placeholder, [this, placeholder = token.placeholder] { insertToken(placeholder); });
+        flow->add(Texts::shown(token.label), token.placeholder,
+            [this, placeholder = token.placeholder] { insertToken(placeholder); });
     return flow;
 }
 
@@ -135,8 +135,10 @@ QWidget* RenamePhotosSheet::buildCounter()
         counter->addItem(gaps.constLast());
     };
     add(Texts::tr("Counter from"), m_start);
-    add(u"step"_s, m_step);
-    add(u"digits"_s, m_digits);
+    //: Behind “Counter from”: by how much it rises from photo to photo.
+    add(Texts::tr("step"), m_step);
+    //: Behind “Counter from”: how many digits it has.
+    add(Texts::tr("digits"), m_digits);
     auto* line = new TwoParts(m_counter, new ThemedLabel(Texts::tr("The extension is kept."), TextRole::label, 11));
     onRestyle(this, [=, this] {
         counter->setContentsMargins(0, 0, 0, 0);
@@ -152,7 +154,7 @@ QWidget* RenamePhotosSheet::buildHeading()
 {
     auto* line = new QWidget;
     auto* row = new QHBoxLayout(line);
-    row->addWidget(new LabeledDivider(Texts::tr("Preview")), 1);
+    row->addWidget(new LabeledDivider(Texts::tr("Preview", "noun")), 1);
     row->addWidget(m_marked);
     row->addWidget(m_next);
     m_next->setAccessibleDescription(Texts::tr("Goes to the next name to look at"));
@@ -216,12 +218,14 @@ void RenamePhotosSheet::refresh()
     m_list->setPlan(plan);
     const qsizetype marked = plan ? plan->marked : 0;
     m_marked->setVisible(marked > 0);
-    m_marked->setText(Texts::tr("%1 to look at").arg(counted(marked)));
+    //: %1 is a number of names.
+    m_marked->setText(Texts::tr("%1 to look at", nullptr, marked).arg(counted(marked)));
     m_next->setVisible(marked > 0);
     const bool isRunning = m_renaming.isRunning();
     for (QWidget* input : { static_cast<QWidget*>(m_pattern), static_cast<QWidget*>(m_counter) })
         input->setEnabled(!isRunning);
-    const QString title = Texts::tr("Rename %1").arg(counted(m_renaming.photos()));
+    //: %1 is a number of photos.
+    const QString title = Texts::tr("Rename %1", nullptr, m_renaming.photos()).arg(counted(m_renaming.photos()));
     if (m_rename->text() != title)
         m_rename->setText(title);
     m_rename->setEnabled(m_renaming.canRename() && !m_renaming.isWaiting());
@@ -232,17 +236,20 @@ void RenamePhotosSheet::refreshFoot()
 {
     QString text = Texts::tr("Sidecars and backups go along. Edit ▸ Undo Rename takes it back.");
     if (m_renaming.isRunning())
-        text = Texts::tr("Renaming %1 of %2…").arg(counted(m_renaming.done()), counted(m_renaming.total()));
+        //: %1 of all %2 photos are renamed.
+        text = Texts::tr("Renaming %1 of %2…", nullptr, m_renaming.total())
+                   .arg(counted(m_renaming.done()), counted(m_renaming.total()));
     else if (m_renaming.isWaiting())
         text = Texts::tr("Renames them as soon as the save has ended…");
     else if (m_renaming.unread() > 0)
-        text = Texts::tr("Reading %1 more…").arg(counted(m_renaming.unread()));
+        //: %1 is a number of photos.
+        text = Texts::tr("Reading %1 more…", nullptr, m_renaming.unread()).arg(counted(m_renaming.unread()));
     m_foot->setText(text);
 }
 
 QString RenamePhotosSheet::title() const
 {
-    return Texts::tr("Rename %1 Files").arg(counted(m_renaming.photos()));
+    return Texts::tr("Rename %1 Files", nullptr, m_renaming.photos()).arg(counted(m_renaming.photos()));
 }
 
 void RenamePhotosSheet::confirm()

@@ -40,17 +40,18 @@ bool isWarning(const RenameRow& row)
     return row.number > 0 || row.obstacle != RenameRow::Obstacle::none;
 }
 
-QString missingText(const RenderedPiece& piece)
-{
-    return Texts::tr("no ") + piece.label.toLower();
-}
-
 }  // namespace
 
 RenameRowDelegate::RenameRowDelegate(RowAt rowAt, QObject* parent)
     : QStyledItemDelegate(parent)
     , m_rowAt(std::move(rowAt))
 {
+}
+
+QString RenameRowDelegate::missingText(const QString& label)
+{
+    //: %1 is the name of a field that a photo does not have.
+    return Texts::tr("no %1").arg(Texts::inSentence(label));
 }
 
 int RenameRowDelegate::rowHeight(int listWidth)
@@ -148,7 +149,7 @@ void RenameRowDelegate::paintNewName(QPainter& painter, const QRectF& box, const
     qreal left = box.left();
     for (const RenderedPiece& piece : row.pieces) {
         const bool isMissing = piece.kind == RenderedPiece::Kind::missing;
-        const QString text = isMissing ? missingText(piece) : piece.text;
+        const QString text = isMissing ? missingText(piece.label) : piece.text;
         const qreal padding = isMissing ? pxF(chipPadding) : 0;
         const qreal width = (isMissing ? QFontMetricsF(small) : metrics).horizontalAdvance(text) + 2 * padding;
         const qreal room = box.right() - left;

@@ -21,6 +21,8 @@ public:
 
     /// Pixels, in a list of this width: in a narrow one the new name stands under the old one.
     static int rowHeight(int listWidth);
+    /// What stands for a value that the photo does not have, by its label.
+    static QString missingText(const QString& label);
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 

@@ -26,8 +26,11 @@ constexpr int mostNotes = 9;
 // Nothing in a sidecar is replaced, so there is one thing to count.
 QStringList columnsOf(MoveWay way)
 {
-    return way == MoveWay::intoPhotos ? QStringList{ Texts::tr("Gain"), Texts::tr("Change"), Texts::tr("Lose") }
-                                      : QStringList(Texts::tr("Gain"));
+    //: Headings of columns: how many photos gain a field, change it, and lose it.
+    const QString gain = Texts::tr("Gain", "photos gain a field");
+    if (way != MoveWay::intoPhotos)
+        return { gain };
+    return { gain, Texts::tr("Change", "photos change a field"), Texts::tr("Lose", "photos lose a field") };
 }
 
 QString counted(qsizetype count)
@@ -66,7 +69,7 @@ QWidget* MoveOverSheet::buildHeadings()
     auto* headings = new QWidget;
     auto* line = new QHBoxLayout(headings);
     line->setSpacing(0);
-    line->addWidget(new ThemedLabel(Texts::tr("Field"), TextRole::muted, 11));
+    line->addWidget(new ThemedLabel(Texts::tr("Field", "noun"), TextRole::muted, 11));
     line->addStretch();
     QList<ThemedLabel*> columns;
     for (const QString& name : columnsOf(m_moving.way())) {
@@ -117,15 +120,19 @@ void MoveOverSheet::refresh()
     if (!m_moving.problem().isEmpty() && !preview.fields.isEmpty())
         notes.prepend(m_moving.problem());
     else if (m_moving.looked() < m_moving.photos())
-        notes.prepend(
-            Texts::tr("Looked into %1 of %2 photos…").arg(counted(m_moving.looked()), counted(m_moving.photos())));
+        notes.prepend(Texts::tr("Looked into %1 of %2 photos…", nullptr, m_moving.photos())
+                          //: %1 of all %2 photos were looked into.
+                          .arg(counted(m_moving.looked()), counted(m_moving.photos())));
     for (qsizetype i = 0; i < m_notes.size(); ++i) {
         m_notes.at(i)->setText(notes.value(i));
         m_notes.at(i)->setVisible(i < notes.size());
     }
     const qsizetype count = preview.plans.size();
-    const QString photos = count == 1 ? Texts::tr("1 Photo") : counted(count) + Texts::tr(" Photos");
-    m_write->setText(m_isInto ? Texts::tr("Write Into ") + photos : Texts::tr("Write for ") + photos);
+    //: A button; %1 is the number of photos.
+    const QString title = m_isInto ? Texts::tr("Write Into %1 Photo(s)", nullptr, count)
+                                   //: A button; %1 is the number of photos whose sidecars are written.
+                                   : Texts::tr("Write for %1 Photo(s)", nullptr, count);
+    m_write->setText(title.arg(counted(count)));
     m_write->updateGeometry();
     m_write->setEnabled(m_moving.canMove());
     updateGeometry();

@@ -21,22 +21,18 @@ constexpr qreal lineHeight = 30;
 constexpr int mostLines = 8;
 constexpr int leastLines = 3;
 
-QString photosText(int count, const QString& one, const QString& many)
-{
-    return count == 1 ? Texts::tr("1 photo ") + one : Texts::tr("%1 photos ").arg(count) + many;
-}
-
 // For who does not see the columns.
 QString spoken(const MovePreview::Row& row)
 {
     QStringList texts;
     if (row.gains > 0)
-        texts.append(photosText(row.gains, Texts::tr("gains it"), Texts::tr("gain it")));
+        texts.append(Texts::tr("%n photo(s) (gains|gain) it", "a field", row.gains));
     if (row.changes > 0)
-        texts.append(photosText(row.changes, Texts::tr("changes it"), Texts::tr("change it")));
+        texts.append(Texts::tr("%n photo(s) (changes|change) it", "a field", row.changes));
     if (row.loses > 0)
-        texts.append(photosText(row.loses, Texts::tr("loses it"), Texts::tr("lose it")));
-    return row.label + u": "_s + texts.join(u", "_s);
+        texts.append(Texts::tr("%n photo(s) (loses|lose) it", "a field", row.loses));
+    //: %1 is the name of a field, %2 what is said of it.
+    return Texts::tr("%1: %2").arg(Texts::shown(row.label), texts.join(u", "_s));
 }
 
 }  // namespace
@@ -68,7 +64,7 @@ public:
 
     void setRow(const MovePreview::Row& row)
     {
-        m_name->setText(row.label);
+        m_name->setText(Texts::shown(row.label));
         m_name->setRole(TextRole::text);
         const int numbers[] = { row.gains, row.changes, row.loses };
         for (qsizetype i = 0; i < m_numbers.size(); ++i)
