@@ -28,6 +28,13 @@ std::optional<SearchMenuRow> otherLanguage(const QString& typed, const QStringLi
     return isListed || present.contains(code, Qt::CaseInsensitive) ? std::nullopt : std::optional(row);
 }
 
+// Found too, whatever the user's language; "" for a code that means nothing.
+QString englishName(const QString& code)
+{
+    const QLocale::Language language = QLocale::codeToLanguage(code.section(u'-', 0, 0));
+    return language == QLocale::AnyLanguage || language == QLocale::C ? QString() : QLocale::languageToString(language);
+}
+
 // The user's own behind those.
 QStringList firstCodes(QStringList likely)
 {
@@ -49,7 +56,7 @@ SearchMenu* makeLanguageMenu(
         if (known.contains(code))
             return;
         known.insert(code);
-        rows.append({ name, code });
+        rows.append({ name, code, englishName(code) });
     };
     const QStringList first = firstCodes(likely);
     for (const QString& code : first)

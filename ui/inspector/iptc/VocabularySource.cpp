@@ -14,12 +14,12 @@ CodeSource vocabularySource(const QString& id)
         QList<CodeRow> rows;
         const QList<const VocabularyTerm*> terms = Vocabularies::search(id, typed);
         for (const VocabularyTerm* term : terms)
-            rows.append({ term->code, term->name, term->note });
+            rows.append({ term->code, Texts::shown(term->name), Texts::shown(term->note) });
         return rows;
     };
     source.nameOf = [id](const QString& code) {
         const VocabularyTerm* term = Vocabularies::term(id, code);
-        return term ? term->name : QString();
+        return term ? Texts::shown(term->name) : QString();
     };
     //: Under the terms of a vocabulary: files hold a term's code, not its name.
     source.footer = Texts::tr("stored as a code");
