@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 const QList<StructureSpec>& all()
 {
     static const QList<StructureSpec> structures{
-        { .name = u"CreatorContactInfo"_s, .item = Texts::mark("contact"), .items = Texts::mark("contacts"),
+        { .name = u"CreatorContactInfo"_s, .item = Texts::mark("contact"),
             .members = {
                 { .name = u"CiEmailWork"_s, .label = Texts::mark("E-mail") },
                 { .name = u"CiTelWork"_s, .label = Texts::mark("Phone") },
@@ -23,7 +23,7 @@ const QList<StructureSpec>& all()
                 { .name = u"CiAdrCtry"_s, .label = Texts::mark("Country") },
             },
             .titleMembers = { u"CiEmailWork"_s, u"CiAdrCity"_s, u"CiTelWork"_s } },
-        { .name = u"ArtworkOrObject"_s, .item = Texts::mark("artwork"), .items = Texts::mark("artworks"),
+        { .name = u"ArtworkOrObject"_s, .item = Texts::mark("artwork"),
             .members = {
                 { .name = u"AOTitle"_s, .label = Texts::mark("Title"), .hasLanguages = true },
                 { .name = u"AOCreator"_s, .label = Texts::mark("Creators"), .isSeveral = true },
@@ -44,7 +44,7 @@ const QList<StructureSpec>& all()
                 { .name = u"AOCreatorId"_s, .label = Texts::mark("Creator IDs"), .isSeveral = true },
             },
             .titleMembers = { u"AOTitle"_s, u"AOCreator"_s } },
-        { .name = u"CvTerm"_s, .item = Texts::mark("term"), .items = Texts::mark("terms"),
+        { .name = u"CvTerm"_s, .item = Texts::mark("term"),
             .members = {
                 { .name = u"CvTermName"_s, .label = Texts::mark("Name"), .hasLanguages = true },
                 { .name = u"CvTermId"_s, .label = Texts::mark("Term ID") },
@@ -52,27 +52,27 @@ const QList<StructureSpec>& all()
                 { .name = u"CvTermRefinedAbout"_s, .label = Texts::mark("Relation") },
             },
             .titleMembers = { u"CvTermName"_s, u"CvTermId"_s } },
-        { .name = u"EmbdEncRightsExpr"_s, .item = Texts::mark("expression"), .items = Texts::mark("expressions"),
+        { .name = u"EmbdEncRightsExpr"_s, .item = Texts::mark("expression"),
             .members = {
                 { .name = u"EncRightsExpr"_s, .label = Texts::mark("Expression"), .kind = FieldKind::multiline },
                 { .name = u"RightsExprEncType"_s, .label = Texts::mark("Encoding") },
                 { .name = u"RightsExprLangId"_s, .label = Texts::mark("Language") },
             },
             .titleMembers = { u"EncRightsExpr"_s } },
-        { .name = u"Entity"_s, .item = Texts::mark("entry"), .items = Texts::mark("entries"),
+        { .name = u"Entity"_s, .item = Texts::mark("entry"),
             .members = {
                 { .name = u"Name"_s, .label = Texts::mark("Name"), .hasLanguages = true },
                 { .name = u"Identifier"_s, .label = Texts::mark("Identifiers"), .isSeveral = true },
             },
             .titleMembers = { u"Name"_s, u"Identifier"_s } },
-        { .name = u"EntityWRole"_s, .item = Texts::mark("contributor"), .items = Texts::mark("contributors"),
+        { .name = u"EntityWRole"_s, .item = Texts::mark("contributor"),
             .members = {
                 { .name = u"Name"_s, .label = Texts::mark("Name"), .hasLanguages = true },
                 { .name = u"Role"_s, .label = Texts::mark("Roles"), .isSeveral = true },
                 { .name = u"Identifier"_s, .label = Texts::mark("Identifiers"), .isSeveral = true },
             },
             .titleMembers = { u"Name"_s, u"Role"_s, u"Identifier"_s } },
-        { .name = u"ImageRegion"_s, .item = Texts::mark("region"), .items = Texts::mark("regions"),
+        { .name = u"ImageRegion"_s, .item = Texts::mark("region"),
             .members = {
                 { .name = u"Name"_s, .label = Texts::mark("Name"), .hasLanguages = true },
                 { .name = u"RCtype"_s, .label = Texts::mark("Kind"), .kind = FieldKind::structure, .isSeveral = true, .structure = u"Entity"_s },
@@ -81,7 +81,7 @@ const QList<StructureSpec>& all()
                 { .name = u"RegionBoundary"_s, .label = Texts::mark("Outline"), .kind = FieldKind::structure, .structure = u"RegionBoundary"_s },
             },
             .titleMembers = { u"Name"_s, u"RCtype"_s, u"RId"_s } },
-        { .name = u"RegionBoundary"_s, .item = Texts::mark("outline"), .items = Texts::mark("outlines"),
+        { .name = u"RegionBoundary"_s, .item = Texts::mark("outline"),
             .members = {
                 { .name = u"RbShape"_s, .label = Texts::mark("Shape"), .kind = FieldKind::code, .vocabulary = u"boundaryShape"_s },
                 { .name = u"RbUnit"_s, .label = Texts::mark("Unit"), .kind = FieldKind::code, .vocabulary = u"boundaryUnit"_s },
@@ -93,20 +93,20 @@ const QList<StructureSpec>& all()
                 { .name = u"RbVertices"_s, .label = Texts::mark("Points"), .kind = FieldKind::structure, .isSeveral = true, .structure = u"RegionBoundaryPoint"_s },
             },
             .titleMembers = { u"RbShape"_s } },
-        { .name = u"RegionBoundaryPoint"_s, .item = Texts::mark("point"), .items = Texts::mark("points"),
+        { .name = u"RegionBoundaryPoint"_s, .item = Texts::mark("point"),
             .members = {
                 { .name = u"RbX"_s, .label = Texts::mark("X"), .kind = FieldKind::number },
                 { .name = u"RbY"_s, .label = Texts::mark("Y"), .kind = FieldKind::number },
             },
             .titleMembers = { u"RbX"_s, u"RbY"_s } },
-        { .name = u"LinkedEncRightsExpr"_s, .item = Texts::mark("link"), .items = Texts::mark("links"),
+        { .name = u"LinkedEncRightsExpr"_s, .item = Texts::mark("link"),
             .members = {
                 { .name = u"LinkedRightsExpr"_s, .label = Texts::mark("Address") },
                 { .name = u"RightsExprEncType"_s, .label = Texts::mark("Encoding") },
                 { .name = u"RightsExprLangId"_s, .label = Texts::mark("Language") },
             },
             .titleMembers = { u"LinkedRightsExpr"_s } },
-        { .name = u"Location"_s, .item = Texts::mark("place"), .items = Texts::mark("places"),
+        { .name = u"Location"_s, .item = Texts::mark("place"),
             .members = {
                 { .name = u"LocationName"_s, .label = Texts::mark("Name"), .hasLanguages = true },
                 { .name = u"Sublocation"_s, .label = Texts::mark("Sublocation") },
@@ -122,7 +122,7 @@ const QList<StructureSpec>& all()
                 { .name = u"GPSAltitudeRef"_s, .label = Texts::mark("Below sea level"), .kind = FieldKind::number },
             },
             .titleMembers = { u"LocationName"_s, u"City"_s, u"ProvinceState"_s, u"CountryName"_s } },
-        { .name = u"PersonWDetails"_s, .item = Texts::mark("person"), .items = Texts::mark("people"),
+        { .name = u"PersonWDetails"_s, .item = Texts::mark("person"),
             .members = {
                 { .name = u"PersonName"_s, .label = Texts::mark("Name"), .hasLanguages = true },
                 { .name = u"PersonDescription"_s, .label = Texts::mark("Description"), .kind = FieldKind::multiline, .hasLanguages = true },
@@ -130,7 +130,7 @@ const QList<StructureSpec>& all()
                 { .name = u"PersonId"_s, .label = Texts::mark("Identifiers"), .isSeveral = true },
             },
             .titleMembers = { u"PersonName"_s, u"PersonDescription"_s, u"PersonId"_s } },
-        { .name = u"ProductWGtin"_s, .item = Texts::mark("product"), .items = Texts::mark("products"),
+        { .name = u"ProductWGtin"_s, .item = Texts::mark("product"),
             .members = {
                 { .name = u"ProductName"_s, .label = Texts::mark("Name"), .hasLanguages = true },
                 { .name = u"ProductGTIN"_s, .label = Texts::mark("GTIN") },
@@ -138,14 +138,14 @@ const QList<StructureSpec>& all()
                 { .name = u"ProductId"_s, .label = Texts::mark("Identifiers"), .isSeveral = true },
             },
             .titleMembers = { u"ProductName"_s, u"ProductGTIN"_s } },
-        { .name = u"RegistryEntry"_s, .item = Texts::mark("entry"), .items = Texts::mark("entries"),
+        { .name = u"RegistryEntry"_s, .item = Texts::mark("entry"),
             .members = {
                 { .name = u"RegOrgId"_s, .label = Texts::mark("Registry") },
                 { .name = u"RegItemId"_s, .label = Texts::mark("Number") },
                 { .name = u"RegEntryRole"_s, .label = Texts::mark("Role") },
             },
             .titleMembers = { u"RegOrgId"_s, u"RegItemId"_s } },
-        { .name = u"Licensor"_s, .item = Texts::mark("licensor"), .items = Texts::mark("licensors"),
+        { .name = u"Licensor"_s, .item = Texts::mark("licensor"),
             .members = {
                 { .name = u"LicensorName"_s, .label = Texts::mark("Name") },
                 { .name = u"LicensorEmail"_s, .label = Texts::mark("E-mail") },
@@ -163,19 +163,19 @@ const QList<StructureSpec>& all()
                 { .name = u"LicensorID"_s, .label = Texts::mark("Identifier") },
             },
             .titleMembers = { u"LicensorName"_s, u"LicensorEmail"_s, u"LicensorURL"_s, u"LicensorID"_s } },
-        { .name = u"CopyrightOwner"_s, .item = Texts::mark("owner"), .items = Texts::mark("owners"),
+        { .name = u"CopyrightOwner"_s, .item = Texts::mark("owner"),
             .members = {
                 { .name = u"CopyrightOwnerName"_s, .label = Texts::mark("Name") },
                 { .name = u"CopyrightOwnerID"_s, .label = Texts::mark("Identifier") },
             },
             .titleMembers = { u"CopyrightOwnerName"_s, u"CopyrightOwnerID"_s } },
-        { .name = u"ImageCreator"_s, .item = Texts::mark("creator"), .items = Texts::mark("creators"),
+        { .name = u"ImageCreator"_s, .item = Texts::mark("creator"),
             .members = {
                 { .name = u"ImageCreatorName"_s, .label = Texts::mark("Name") },
                 { .name = u"ImageCreatorID"_s, .label = Texts::mark("Identifier") },
             },
             .titleMembers = { u"ImageCreatorName"_s, u"ImageCreatorID"_s } },
-        { .name = u"ImageSupplier"_s, .item = Texts::mark("supplier"), .items = Texts::mark("suppliers"),
+        { .name = u"ImageSupplier"_s, .item = Texts::mark("supplier"),
             .members = {
                 { .name = u"ImageSupplierName"_s, .label = Texts::mark("Name") },
                 { .name = u"ImageSupplierID"_s, .label = Texts::mark("Identifier") },

@@ -21,8 +21,7 @@ struct StructureMember {
 
 struct StructureSpec {
     QString name{};
-    QString item{};  ///< what one is called, for "Add place", "2 places": "place"
-    QString items{};
+    QString item{};  ///< what one is called: "place"
     QList<StructureMember> members{};  ///< in the order in which a card shows them
     QStringList titleMembers{};  ///< the first of these that is there heads a card; further ones are named behind it
     bool operator==(const StructureSpec&) const = default;
