@@ -14,16 +14,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-[[noreturn]] void throwMistyped(const QString& member, const QString& wanted)
-{
-    throw Error(Texts::tr("The update feed’s “%1” is missing or no %2.").arg(member, wanted));
-}
-
 QString stringMember(const QJsonObject& feed, const QString& member)
 {
     const QJsonValue value = feed.value(member);
     if (!value.isString())
-        throwMistyped(member, u"text"_s);
+        throw Error(Texts::tr("The update feed’s “%1” is missing or no text.").arg(member));
     return value.toString();
 }
 
@@ -32,7 +27,7 @@ qint64 integerMember(const QJsonObject& feed, const QString& member)
 {
     const QJsonValue value = feed.value(member);
     if (value.toVariant().typeId() != QMetaType::LongLong)
-        throwMistyped(member, Texts::tr("whole number"));
+        throw Error(Texts::tr("The update feed’s “%1” is missing or no whole number.").arg(member));
     return value.toInteger();
 }
 

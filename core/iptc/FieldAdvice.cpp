@@ -33,8 +33,9 @@ QString bareCode(const QString& vocabulary, const QString& value)
 QString altTextNote(const QString& value)
 {
     const int count = characters(value);
-    return count > altTextLength ? Texts::tr("Long to listen to: %1 of %2 characters").arg(count).arg(altTextLength)
-                                 : QString();
+    return count > altTextLength
+        ? Texts::tr("Long to listen to: %1 of %n character(s)", nullptr, altTextLength).arg(count)
+        : QString();
 }
 
 QString dataMiningNote(const QString& value, const std::function<bool(const QString& id)>& isEmpty)
@@ -45,8 +46,9 @@ QString dataMiningNote(const QString& value, const std::function<bool(const QStr
         { u"DMI-PROHIBITED-SEELINKEDRIGHTSEXPR"_s, u"iptc.linkedRights"_s },
     };
     const QString id = fields.value(bareCode(u"dataMining"_s, value));
-    return id.isEmpty() || !isEmpty(id) ? QString()
-                                        : Texts::tr("Points to “%1”, which is empty").arg(IptcSchema::spec(id)->label);
+    return id.isEmpty() || !isEmpty(id)
+        ? QString()
+        : Texts::tr("Points to “%1”, which is empty").arg(Texts::shown(IptcSchema::spec(id)->label));
 }
 
 }  // namespace

@@ -10,11 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString told(const QString& note, const QString& text)
-{
-    return note.isEmpty() ? QString() : note.left(1).toLower() + note.sliced(1) + u": “%1”"_s.arg(text);
-}
-
 // Of the first member that should be a number and is none, with its name; "" where there is none.
 QString problemIn(const StructureSpec& structure, const QString& text)
 {
@@ -25,8 +20,9 @@ QString problemIn(const StructureSpec& structure, const QString& text)
                     return problem;
         } else if (member.kind == FieldKind::number) {
             for (const QString& item : StructureEdit::texts(text, member.name))
-                if (const QString problem = told(StructureEdit::note(member, item), item); !problem.isEmpty())
-                    return Texts::tr("%1 is %2").arg(member.label, problem);
+                if (!StructureEdit::note(member, item).isEmpty())
+                    //: %1 is what the number tells ("Latitude"), %2 what stands there instead
+                    return Texts::tr("%1 is not a number: “%2”").arg(Texts::shown(member.label), item);
         }
     }
     return {};
@@ -41,8 +37,8 @@ QString problem(const FieldSpec& field, const QStringList& texts)
         QString problem;
         if (structure)
             problem = problemIn(*structure, text);
-        else if (field.kind == FieldKind::number)
-            problem = told(FieldCheck::note(field, text), text);
+        else if (field.kind == FieldKind::number && !FieldCheck::note(field, text).isEmpty())
+            problem = Texts::tr("not a whole number: “%1”").arg(text);
         if (!problem.isEmpty())
             return problem;
     }

@@ -3,6 +3,7 @@
 #include "core/iptc/StructureText.h"
 #include "core/language/Texts.h"
 #include "core/save/EditPlan.h"
+#include "core/text/Quoted.h"
 
 #include <algorithm>
 
@@ -154,8 +155,11 @@ private:
             for (const QString& name : StructureText::foreignMembers(m_structure, item))
                 if (!names.contains(name))
                     names.append(name);
-        return Texts::tr("%1 holds “%2” of another program, which this change would lose")
-            .arg(m_field.label, names.join(u"”, “"_s));
+        for (QString& name : names)
+            name = Text::quoted(name);
+        //: %1 is a field, %2 names parts of it, in quotation marks
+        return Texts::tr("%1 holds %2 of another program, which this change would lose")
+            .arg(Texts::shown(m_field.label), names.join(u", "_s));
     }
 
     const FieldSpec& m_field;

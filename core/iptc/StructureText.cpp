@@ -315,7 +315,8 @@ QString summary(const StructureSpec& structure, const QStringList& items)
     if (items.isEmpty())
         return {};
     const QString first = titles(structure, items.constFirst()).join(u", "_s);
-    return items.size() == 1 ? first : Texts::tr("%1 · %2 more").arg(first).arg(items.size() - 1);
+    //: %1 is what the first of several cards says
+    return items.size() == 1 ? first : Texts::tr("%1 · %n more", nullptr, items.size() - 1).arg(first);
 }
 
 }  // namespace Quorbel::StructureText

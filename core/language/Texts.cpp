@@ -63,7 +63,8 @@ QString Texts::inSentence(const QString& label)
 
 QString Texts::continued(const QString& sentence)
 {
-    return isEnglish() ? sentence.left(1).toLower() + sentence.mid(1) : sentence;
+    const bool beginsWithName = sentence.size() > 1 && sentence.at(1).isUpper();
+    return !isEnglish() || beginsWithName ? sentence : sentence.left(1).toLower() + sentence.mid(1);
 }
 
 bool Texts::isEnglish()

@@ -30,7 +30,7 @@ public:
     /// A label for the middle of a sentence: in lower case in English, as it stands in every other language, where that
     /// would be wrong for nouns (German) or means nothing (Japanese).
     static QString inSentence(const QString& label);
-    /// A sentence that follows other words: English opens it with a small letter, every other language leaves it as is.
+    /// A sentence that follows other words: English opens it with a small letter, but for names ("XMP"); others do not.
     static QString continued(const QString& sentence);
 
     /// Whether the texts are the English ones.

@@ -61,7 +61,7 @@ QString FolderMover::moveOne(QList<Step>& done, const QString& from, const QStri
     if (error == EEXIST)
         return Texts::tr("“%1” is there already").arg(to);
     if (error)
-        return u"“%1”: %2"_s.arg(from, qt_error_string(error));
+        return Texts::tr("“%1”: %2").arg(from, qt_error_string(error));
     done.append({ from, to });
     return {};
 }

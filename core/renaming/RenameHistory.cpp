@@ -321,8 +321,8 @@ QString RenameHistory::name(const Undoable& rename)
 {
     if (rename.photos == 0)
         return Texts::tr("Undo Rename");
-    return Texts::tr("Undo Rename of ")
-        + (rename.photos == 1 ? u'“' + rename.fileName + u'”' : Texts::tr("%1 Photos").arg(rename.photos));
+    return rename.photos == 1 ? Texts::tr("Undo Rename of “%1”").arg(rename.fileName)
+                              : Texts::tr("Undo Rename of %n Photo(s)", nullptr, rename.photos);
 }
 
 }  // namespace Quorbel

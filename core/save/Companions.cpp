@@ -166,7 +166,7 @@ void movePhoto(const QUrl& source, const QUrl& destination, SidecarsAlong along)
     const QString from = source.toLocalFile();
     const QString to = destination.toLocalFile();
     if (const int error = move(from, to))
-        throw FileError(Texts::tr("Cannot move"), source, qt_error_string(error));
+        throw FileError(Texts::tr("Cannot move “%1”"), source, qt_error_string(error));
     const QList<std::pair<QString, QString>> sidecars = sidecarMoves(from, to);
     const qsizetype some = along == SidecarsAlong::mirror ? 1 : 0;
     for (const auto& [old, now] : along == SidecarsAlong::all ? sidecars : sidecars.first(some))

@@ -26,9 +26,11 @@ constexpr qsizetype namedFields = 3;
 QString enumerated(const QStringList& first, qsizetype count)
 {
     if (count > first.size())
-        return Texts::tr("%1 and %2 more").arg(first.join(u", "_s)).arg(count - first.size());
+        //: %1 is a list: "a.jpg, b.jpg and 3 more"
+        return Texts::tr("%1 and %n more", nullptr, count - first.size()).arg(first.join(u", "_s));
     if (first.size() < 2)
         return first.join(QString());
+    //: the end of a list: "a.jpg, b.jpg and c.jpg"
     return Texts::tr("%1 and %2").arg(first.mid(0, first.size() - 1).join(u", "_s), first.constLast());
 }
 
@@ -55,7 +57,7 @@ QStringList labelsOf(const FieldSpec& field, const QSet<QString>& keys)
         if (const auto language = FieldLanguages::languageIn(key); language && language->field->id == field.id)
             languages.append(FieldLanguages::label(key));
     languages.sort();
-    return keys.contains(field.id) ? QStringList(field.label) + languages : languages;
+    return keys.contains(field.id) ? QStringList(Texts::shown(field.label)) + languages : languages;
 }
 
 // Those of all photos in their order, behind them by their names those that only some photos have.

@@ -84,8 +84,7 @@ void requireWritable(const QList<QUrl>& files)
         if (QFileInfo(file.toLocalFile()).isDir())
             folders.append(file.fileName());
     if (!folders.isEmpty())
-        throw FileProblem((folders.size() == 1 ? Texts::tr("%1 is a folder; nothing was written.")
-                                               : Texts::tr("%1 are folders; nothing was written."))
+        throw FileProblem(Texts::tr("%1 (is a folder|are folders); nothing was written.", nullptr, folders.size())
                               .arg(Text::listed(folders)));
     QStringList names;
     for (const auto& file : files)
@@ -95,11 +94,9 @@ void requireWritable(const QList<QUrl>& files)
         return;
     if (files.size() == 1)
         throw FileProblem(Texts::tr("%1 is read-only.").arg(names.constFirst()));
-    const QString verb = names.size() == 1 ? u"is"_s : u"are"_s;
-    throw FileProblem(Texts::tr("%1 of %2 photos %3 read-only: %4; nothing was written.")
-                          .arg(names.size())
-                          .arg(files.size())
-                          .arg(verb, Text::listed(names)));
+    //: %2 names the photos
+    throw FileProblem(Texts::tr("%n of %1 photos (is|are) read-only: %2; nothing was written.", nullptr, names.size())
+                          .arg(QString::number(files.size()), Text::listed(names)));
 }
 
 void clearLeftovers(const QList<QUrl>& files, const QDateTime& now)

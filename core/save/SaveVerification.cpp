@@ -2,6 +2,7 @@
 
 #include "core/iptc/IptcSchema.h"
 #include "core/iptc/NumberCheck.h"
+#include "core/language/Texts.h"
 #include "core/save/ListHomes.h"
 #include "core/save/TagHomes.h"
 #include "core/schema/CustomFields.h"
@@ -344,7 +345,7 @@ QStringList labels(const QStringList& keys)
         if (const QString label = FieldLanguages::label(key); !label.isEmpty())
             texts.append(label);
         else
-            texts.append(field ? field->label : CustomFields::nameIn(key).value_or(key));
+            texts.append(field ? Texts::shown(field->label) : CustomFields::nameIn(key).value_or(key));
     }
     return texts;
 }

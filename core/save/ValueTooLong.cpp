@@ -31,7 +31,7 @@ QString labelOf(const QString& id)
     if (const QString label = FieldLanguages::label(id); !label.isEmpty())
         return label;
     const FieldSpec* field = FieldSchema::spec(id);
-    return field ? field->label : id;
+    return field ? Texts::shown(field->label) : id;
 }
 
 }  // namespace

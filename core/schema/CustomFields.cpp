@@ -60,7 +60,8 @@ std::optional<QString> nameProblem(const QString& name)
     if (reservedNames().contains(*stored) || isTakenForOther(*stored))
         return Texts::tr("“%1” is a reserved word; choose another name.").arg(*stored);
     if (const FieldSpec* field = FieldSchema::readFrom(*stored))
-        return Texts::tr("That is the field ") + field->label;
+        //: %1 is a field's name
+        return Texts::tr("That is the field %1").arg(Texts::shown(field->label));
     return std::nullopt;
 }
 

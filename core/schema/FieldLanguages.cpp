@@ -1,6 +1,8 @@
 #include "core/schema/FieldLanguages.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/FieldSchema.h"
+#include "core/text/Text.h"
 
 #include <QLocale>
 #include <QRegularExpression>
@@ -14,6 +16,43 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QChar separator = u'@';
+
+// Those whose names translators know.
+const QStringList& namedLanguages()
+{
+    static const QStringList names{ Texts::mark("Afrikaans"), Texts::mark("Albanian"), Texts::mark("Arabic"),
+        Texts::mark("Armenian"), Texts::mark("Basque"), Texts::mark("Bengali"), Texts::mark("Bulgarian"),
+        Texts::mark("Catalan"), Texts::mark("Chinese"), Texts::mark("Croatian"), Texts::mark("Czech"),
+        Texts::mark("Danish"), Texts::mark("Dutch"), Texts::mark("English"), Texts::mark("Estonian"),
+        Texts::mark("Finnish"), Texts::mark("French"), Texts::mark("Galician"), Texts::mark("Georgian"),
+        Texts::mark("German"), Texts::mark("Greek"), Texts::mark("Hebrew"), Texts::mark("Hindi"),
+        Texts::mark("Hungarian"), Texts::mark("Icelandic"), Texts::mark("Indonesian"), Texts::mark("Irish"),
+        Texts::mark("Italian"), Texts::mark("Japanese"), Texts::mark("Korean"), Texts::mark("Latin"),
+        Texts::mark("Latvian"), Texts::mark("Lithuanian"), Texts::mark("Malay"), Texts::mark("Norwegian"),
+        Texts::mark("Persian"), Texts::mark("Polish"), Texts::mark("Portuguese"), Texts::mark("Romanian"),
+        Texts::mark("Russian"), Texts::mark("Serbian"), Texts::mark("Slovak"), Texts::mark("Slovenian"),
+        Texts::mark("Spanish"), Texts::mark("Swahili"), Texts::mark("Swedish"), Texts::mark("Thai"),
+        Texts::mark("Turkish"), Texts::mark("Ukrainian"), Texts::mark("Urdu"), Texts::mark("Vietnamese"),
+        Texts::mark("Welsh") };
+    return names;
+}
+
+// In the user's language; where nobody translated it, as those who speak it call it.
+QString nameOf(QLocale::Language language)
+{
+    const QString english = QLocale::languageToString(language);
+    if (Texts::isEnglish() || namedLanguages().contains(english))
+        return Texts::shown(english);
+    const QLocale own(language);
+    return own.language() == language && !own.nativeLanguageName().isEmpty() ? own.nativeLanguageName() : english;
+}
+
+QString nameOf(QLocale::Territory territory, QLocale::Language language)
+{
+    const QLocale own(language, territory);
+    const bool isKnown = own.language() == language && own.territory() == territory;
+    return isKnown && !Texts::isEnglish() ? own.nativeTerritoryName() : QLocale::territoryToString(territory);
+}
 
 }  // namespace
 
@@ -44,9 +83,9 @@ QString label(const QString& key)
 {
     const auto language = languageIn(key);
     // "German (Switzerland)" within the brackets is "German, Switzerland".
-    return language
-        ? u"%1 (%2)"_s.arg(language->field->label, name(language->code).replace(u" ("_s, u", "_s).remove(u')'))
-        : QString();
+    return language ? u"%1 (%2)"_s.arg(
+               Texts::shown(language->field->label), name(language->code).replace(u" ("_s, u", "_s).remove(u')'))
+                    : QString();
 }
 
 QString name(const QString& code)
@@ -60,11 +99,11 @@ QString name(const QString& code)
         if (const auto script = QLocale::codeToScript(part); script != QLocale::AnyScript)
             further.append(QLocale::scriptToString(script));
         else if (const auto country = QLocale::codeToTerritory(part.toUpper()); country != QLocale::AnyTerritory)
-            further.append(QLocale::territoryToString(country));
+            further.append(nameOf(country, language));
         else
             further.append(part);
     }
-    const QString known = QLocale::languageToString(language);
+    const QString known = nameOf(language);
     return further.isEmpty() ? known : u"%1 (%2)"_s.arg(known, further.join(u", "_s));
 }
 
@@ -90,9 +129,10 @@ const QList<Choice>& choices()
         for (int i = QLocale::C + 1; i <= QLocale::LastLanguage; ++i) {
             const auto language = static_cast<QLocale::Language>(i);
             if (const QString code = QLocale::languageToCode(language); isCode(code))
-                found.append({ code, QLocale::languageToString(language) });
+                found.append({ code, nameOf(language) });
         }
-        std::sort(found.begin(), found.end(), [](const Choice& a, const Choice& b) { return a.name < b.name; });
+        std::sort(found.begin(), found.end(),
+            [](const Choice& a, const Choice& b) { return Text::naturalCompare(a.name, b.name) < 0; });
         return found;
     }();
     return all;

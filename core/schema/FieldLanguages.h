@@ -26,9 +26,9 @@ QString key(const QString& id, const QString& code);
 std::optional<Language> languageIn(const QString& key);
 /// The tag that holds this text: "XMP-dc:Title-de". "" for any other key.
 QString tag(const QString& key);
-/// For the user: "Title (German)".
+/// In the user's language: "Title (German)".
 QString label(const QString& key);
-/// The language's English name, with script and country where the code has them; the code itself when it says nothing.
+/// The same of the language, with script and country where the code has them; the code itself when it says nothing.
 QString name(const QString& code);
 /// Whether ExifTool can store a text under this code: letters, then letters and digits in parts, with hyphens between
 /// them; not "x-default", which is the text without a language.

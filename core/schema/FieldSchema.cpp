@@ -100,7 +100,7 @@ const QList<FieldSpec>& all()
             u"IPTC:Credit · XMP-photoshop:Credit"_s, false, Texts::mark("Credit line"), false },
         { u"genre"_s, Texts::mark("Genre"), FieldKind::text, FieldSection::additional,
             { u"XMP-iptcCore:IntellectualGenre"_s }, { u"XMP:IntellectualGenre"_s },
-            u"XMP-iptcCore:IntellectualGenre"_s, false, u"Intellectual genre"_s, false },
+            u"XMP-iptcCore:IntellectualGenre"_s, false, Texts::mark("Intellectual genre"), false },
         { u"instructions"_s, Texts::mark("Instructions"), FieldKind::text, FieldSection::additional,
             { u"XMP-photoshop:Instructions"_s, u"IPTC:SpecialInstructions"_s },
             { u"XMP:Instructions"_s, u"IPTC:SpecialInstructions"_s },
@@ -111,7 +111,8 @@ const QList<FieldSpec>& all()
             { u"XMP:TransmissionReference"_s, u"IPTC:OriginalTransmissionReference"_s },
             u"IPTC:OriginalTransmissionReference"_s, false, Texts::mark("Job / transmission reference"), false },
         { u"scene"_s, Texts::mark("Scene"), FieldKind::text, FieldSection::additional, { u"XMP-iptcCore:Scene"_s },
-            { u"XMP:Scene"_s }, u"XMP-iptcCore:Scene"_s, false, u"IPTC scene code"_s, false, false, false, u"scene"_s },
+            { u"XMP:Scene"_s }, u"XMP-iptcCore:Scene"_s, false, Texts::mark("IPTC scene code"), false, false, false,
+            u"scene"_s },
         { u"software"_s, Texts::mark("Software"), FieldKind::text, FieldSection::additional,
             { u"XMP-xmp:CreatorTool"_s, u"EXIF:Software"_s }, { u"XMP:CreatorTool"_s, u"EXIF:Software"_s },
             u"EXIF:Software · XMP-xmp:CreatorTool"_s, false, Texts::mark("Editing software"), false },
@@ -187,14 +188,14 @@ QStringList readTags()
 const QList<CameraRowSpec>& cameraRows()
 {
     static const QList<CameraRowSpec> rows{
-        { u"Camera"_s, { u"EXIF:Model"_s } },
-        { u"Make"_s, { u"EXIF:Make"_s } },
-        { u"Lens"_s, { u"EXIF:LensModel"_s, u"Composite:LensID"_s, u"EXIF:LensInfo"_s } },
-        { u"ISO"_s, { u"EXIF:ISO"_s } },
-        { u"Shutter"_s, { u"Composite:ShutterSpeed"_s, u"EXIF:ExposureTime"_s } },
-        { u"Aperture"_s, { u"Composite:Aperture"_s, u"EXIF:FNumber"_s } },
-        { u"Focal length"_s, { u"EXIF:FocalLength"_s } },
-        { u"Color space"_s, { u"EXIF:ColorSpace"_s } },
+        { Texts::mark("Camera"), { u"EXIF:Model"_s } },
+        { Texts::mark("Make"), { u"EXIF:Make"_s } },
+        { Texts::mark("Lens"), { u"EXIF:LensModel"_s, u"Composite:LensID"_s, u"EXIF:LensInfo"_s } },
+        { Texts::mark("ISO"), { u"EXIF:ISO"_s } },
+        { Texts::mark("Shutter"), { u"Composite:ShutterSpeed"_s, u"EXIF:ExposureTime"_s } },
+        { Texts::mark("Aperture"), { u"Composite:Aperture"_s, u"EXIF:FNumber"_s } },
+        { Texts::mark("Focal length"), { u"EXIF:FocalLength"_s } },
+        { Texts::mark("Color space"), { u"EXIF:ColorSpace"_s } },
     };
     return rows;
 }

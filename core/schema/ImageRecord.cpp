@@ -56,12 +56,12 @@ QString formattedFileSize(qint64 bytes)
     if (bytes <= 0)
         return Texts::tr("Zero KB");
     if (bytes < 1000)
-        return fractionOfKilobyte(bytes) + Texts::tr(" KB");
+        return fractionOfKilobyte(bytes) + u" KB"_s;
     if (const qint64 kilobytes = roundedQuotient(bytes, 1000); kilobytes < 1000)
-        return QString::number(kilobytes) + Texts::tr(" KB");
+        return QString::number(kilobytes) + u" KB"_s;
     if (const qint64 tenths = roundedQuotient(bytes, 100'000); tenths < 10'000)
-        return decimalText(tenths, 1) + Texts::tr(" MB");
-    return decimalText(roundedQuotient(bytes, 10'000'000), 2) + Texts::tr(" GB");
+        return decimalText(tenths, 1) + u" MB"_s;
+    return decimalText(roundedQuotient(bytes, 10'000'000), 2) + u" GB"_s;
 }
 
 }  // namespace

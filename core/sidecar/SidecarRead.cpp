@@ -1,5 +1,6 @@
 #include "core/sidecar/SidecarRead.h"
 
+#include "core/language/Texts.h"
 #include "core/sidecar/SidecarSchema.h"
 #include "core/tool/MetadataReader.h"
 #include "core/tool/PhotoRead.h"
@@ -16,8 +17,8 @@ namespace {
 QString reasonForNoFile(const QFileInfo& sidecar)
 {
     if (sidecar.isDir())
-        return u"Not a file"_s;
-    return sidecar.size() == 0 ? u"File is empty"_s : QString();
+        return Texts::tr("Not a file");
+    return sidecar.size() == 0 ? Texts::tr("File is empty") : QString();
 }
 
 QStringList readTags()
@@ -30,7 +31,7 @@ QStringList readTags()
 QString reasonIn(const JSONObject& read)
 {
     if (read.value(u"File:FileType"_s).stringValue() != u"XMP"_s)
-        return u"Not an XMP file"_s;
+        return Texts::tr("Not an XMP file");
     const QString warning = read.value(u"ExifTool:Warning"_s).stringValue().value_or(QString());
     return warning.startsWith(u"XMP format error"_s) ? warning : QString();
 }

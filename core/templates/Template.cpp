@@ -15,10 +15,10 @@ using namespace Qt::StringLiterals;
 const QList<std::pair<TemplateMode, QString>>& RawValues<TemplateMode>::table()
 {
     static const QList<std::pair<TemplateMode, QString>> values{
-        { TemplateMode::set, u"set"_s },
-        { TemplateMode::setIfEmpty, Texts::tr("set if empty") },
-        { TemplateMode::append, u"append"_s },
-        { TemplateMode::prepend, u"prepend"_s },
+        { TemplateMode::set, Texts::mark("set") },
+        { TemplateMode::setIfEmpty, Texts::mark("set if empty") },
+        { TemplateMode::append, Texts::mark("append") },
+        { TemplateMode::prepend, Texts::mark("prepend") },
     };
     return values;
 }
@@ -35,7 +35,7 @@ QString TemplateField::label() const
         return *name;
     if (FieldLanguages::languageIn(key))
         return FieldLanguages::label(key);
-    return spec() ? spec()->label : key;
+    return spec() ? Texts::shown(spec()->label) : key;
 }
 
 QList<TemplateMode> TemplateField::modes() const

@@ -29,7 +29,7 @@ struct TemplateField {
     /// Of the schema; null for a custom field.
     const FieldSpec* spec() const;
     bool isList() const { return spec() && spec()->isList(); }
-    QString label() const;
+    QString label() const;  ///< in the user's language
     /// What a field of its kind can do: dates, positions and the like are only set, and items have no order to
     /// prepend to.
     QList<TemplateMode> modes() const;

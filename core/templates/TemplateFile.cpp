@@ -66,11 +66,11 @@ std::optional<TemplateField> fieldFromJson(const QJsonValue& value, QString& pro
     TemplateField field{ .key = keyOf(object) };
     const auto mode = fromRawValue<TemplateMode>(object.value(u"mode"_s).toString(u"set"_s));
     if (field.key.isEmpty())
-        problem = Texts::tr("names a field that there is not");
+        problem = Texts::tr("“%1” names a field that there is not.");
     else if (!mode)
-        problem = Texts::tr("says nothing that can be done to a field");
+        problem = Texts::tr("“%1” says nothing that can be done to a field.");
     else if (field.isList() ? !object.value(u"items"_s).isArray() : !object.value(u"text"_s).isString())
-        problem = Texts::tr("has a field without a text");
+        problem = Texts::tr("“%1” has a field without a text.");
     if (!problem.isEmpty())
         return std::nullopt;
     field.mode = field.modes().contains(*mode) ? *mode : TemplateMode::append;
@@ -140,13 +140,13 @@ std::optional<Template> fromJson(const QByteArray& json, QString* problem)
     const QJsonObject object = QJsonDocument::fromJson(json).object();
     const int made = object.value(u"quorbelTemplate"_s).toInt();
     if (made < 1)
-        return refused(problem, Texts::tr("is no template"));
+        return refused(problem, Texts::tr("“%1” is no template."));
     if (made > version)
-        return refused(problem, Texts::tr("was made by a newer version of Quorbel"));
+        return refused(problem, Texts::tr("“%1” was made by a newer version of Quorbel."));
     Template value{ .name = Text::trimmedWithNewlines(object.value(u"name"_s).toString()),
         .digit = object.value(u"shortcut"_s).toInt() };
     if (value.name.isEmpty())
-        return refused(problem, Texts::tr("has no name"));
+        return refused(problem, Texts::tr("“%1” has no name."));
     if (value.digit < 0 || value.digit > 9)
         value.digit = 0;
     QString why;
@@ -159,14 +159,12 @@ std::optional<Template> fromJson(const QByteArray& json, QString* problem)
 
 std::optional<Template> read(const QString& path, QString* problem)
 {
-    const auto left = [&](const QString& why) {
-        return refused(problem, u"“%1” %2."_s.arg(QFileInfo(path).fileName(), why));
-    };
+    const auto left = [&](const QString& why) { return refused(problem, why.arg(QFileInfo(path).fileName())); };
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return left(Texts::tr("cannot be read"));
+        return left(Texts::tr("“%1” cannot be read."));
     if (file.size() > largestFile)
-        return left(Texts::tr("is no template"));
+        return left(Texts::tr("“%1” is no template."));
     QString why;
     const std::optional<Template> value = fromJson(file.readAll(), &why);
     return value ? value : left(why);
@@ -212,7 +210,7 @@ QString write(const QString& folder, const Stored& stored)
     QSaveFile file(path);
     const QByteArray json = toJson(stored.value);
     if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.commit())
-        throw FileError(Texts::tr("Cannot write the template"), QUrl::fromLocalFile(path), file.errorString());
+        throw FileError(Texts::tr("Cannot write the template “%1”"), QUrl::fromLocalFile(path), file.errorString());
     if (!stays && !stored.path.isEmpty())
         QFile::remove(stored.path);
     return path;

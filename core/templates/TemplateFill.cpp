@@ -91,14 +91,16 @@ QString missingNote(const QList<RenderedPiece>& pieces)
     QStringList missing;
     QStringList defaults;
     for (const RenderedPiece& piece : pieces) {
-        if (piece.kind == RenderedPiece::Kind::missing && !missing.contains(piece.label))
-            missing.append(piece.label);
+        if (piece.kind == RenderedPiece::Kind::missing && !missing.contains(Texts::shown(piece.label)))
+            missing.append(Texts::shown(piece.label));
         if (piece.kind == RenderedPiece::Kind::otherwise && !piece.text.isEmpty())
-            defaults.append(Texts::tr("%1 missing: “%2”").arg(piece.label, piece.text));
+            //: %1 is a field that the photo has nothing in, %2 what the template gives instead
+            defaults.append(Texts::tr("%1 missing: “%2”").arg(Texts::shown(piece.label), piece.text));
     }
     defaults.removeDuplicates();
     if (!missing.isEmpty())
-        defaults.prepend(missing.join(u", "_s) + Texts::tr(" missing"));
+        //: %1 are the fields that the photo has nothing in: "Place, Event missing"
+        defaults.prepend(Texts::tr("%1 missing").arg(missing.join(u", "_s)));
     return defaults.join(u" · "_s);
 }
 
@@ -114,11 +116,17 @@ QString refusal(const FieldSpec* spec, const QString& text)
     return FieldCheck::note(*spec, text);
 }
 
+QString keptNote(const QString& why)
+{
+    //: What a field holds stays as it is; %1 is why: "kept: not empty"
+    return Texts::tr("kept: %1").arg(why);
+}
+
 FilledField kept(FilledField filled, const QString& now, const QString& why)
 {
     filled.text = now;
     filled.pieces = { { RenderedPiece::Kind::text, now, {} } };
-    filled.note = u"kept: "_s + why;
+    filled.note = keptNote(why);
     return filled;
 }
 
@@ -191,7 +199,7 @@ FilledField filledList(const Prepared& one, const Seen& photo)
     FilledField filled{ .key = one.field.key, .label = one.field.label() };
     const QStringList now = photo.drafts.lists.value(one.field.key);
     if (PhotoDetails::hold(one.field.key) && !photo.knowsDetails) {
-        filled.note = Texts::tr("kept: not read yet");
+        filled.note = keptNote(Texts::tr("not read yet"));
         return filled;
     }
     QStringList wanted;
@@ -205,9 +213,9 @@ FilledField filledList(const Prepared& one, const Seen& photo)
     filled.note = missingNote(all);
     filled.items = now;
     if (wanted.isEmpty())
-        filled.note = filled.note.isEmpty() ? Texts::tr("kept: nothing to fill in") : u"kept: "_s + filled.note;
+        filled.note = keptNote(filled.note.isEmpty() ? Texts::tr("nothing to fill in") : filled.note);
     else if (one.field.mode == TemplateMode::setIfEmpty && !now.isEmpty())
-        filled.note = Texts::tr("kept: not empty");
+        filled.note = keptNote(Texts::tr("not empty"));
     else {
         filled.added = without(wanted, now);
         if (one.field.mode == TemplateMode::set)
@@ -326,9 +334,12 @@ QStringList refusals(const QList<Column>& columns)
             photos += cell.outcome == Outcome::refused ? 1 : 0;
             why = cell.outcome == Outcome::refused ? cell.note : why;
         }
-        const QString of = photos == 1 ? Texts::tr("one photo") : Texts::tr("%1 photos").arg(photos);
+        //: %1 is a field, %2 why a text cannot stand in it
+        const QString told = photos == 1 ? Texts::tr("%1 of one photo: %2")
+                                         //: %1 is a field, %2 why a text cannot stand in it
+                                         : Texts::tr("%1 of %n photo(s): %2", nullptr, photos);
         if (photos > 0)
-            lines.append(Texts::tr("%1 of %2: %3").arg(column.field.field.label(), of, why));
+            lines.append(told.arg(column.field.field.label(), why));
     }
     return lines;
 }

@@ -11,15 +11,15 @@ namespace {
 struct Describe {
     QString operator()(const ToolError::PerlNotFound& error) const
     {
-        return Texts::tr("Perl interpreter not found at ") + error.perlURL.toLocalFile() + u'.';
+        return Texts::tr("Perl interpreter not found at %1.").arg(error.perlURL.toLocalFile());
     }
     QString operator()(const ToolError::ExecFailed& error) const
     {
-        return Texts::tr("ExifTool exited with code ") + QString::number(error.code) + u": "_s + error.standardError;
+        return Texts::tr("ExifTool exited with code %1: %2").arg(QString::number(error.code), error.standardError);
     }
     QString operator()(const ToolError::DecodeFailed& error) const
     {
-        return Texts::tr("Could not decode ExifTool output: ") + error.detail;
+        return Texts::tr("Could not decode ExifTool output: %1").arg(error.detail);
     }
     QString operator()(const ToolError::ToolNotFound&) const
     {
@@ -36,12 +36,13 @@ Error::Error(const QString& description)
 }
 
 FileError::FileError(const QString& action, const QUrl& file, const QString& reason)
-    : Error(action + u" “"_s + file.toLocalFile() + u"”: "_s + reason + u'.')
+    :  //: %1 is what failed ("Cannot move “/photos/a.jpg”"), %2 the system's reason
+    Error(Texts::tr("%1: %2.").arg(action.arg(file.toLocalFile()), reason))
 {
 }
 
 LaunchError::LaunchError(const QString& reason)
-    : Error(Texts::tr("ExifTool could not be started: ") + reason)
+    : Error(Texts::tr("ExifTool could not be started: %1").arg(reason))
 {
 }
 

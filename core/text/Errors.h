@@ -24,7 +24,7 @@ private:
 /// The file system refused something: names the file and gives the system's reason.
 class FileError final : public Error {
 public:
-    /// `action` opens the sentence ("Cannot move"); `reason` is the system's own text, without a full stop.
+    /// `action` has %1 for the file ("Cannot move “%1”"); `reason` is the system's own text, without a full stop.
     FileError(const QString& action, const QUrl& file, const QString& reason);
 };
 

@@ -80,7 +80,8 @@ QCollatorSortKey naturalSortKey(const QString& text)
 QString listed(const QStringList& names, qsizetype most)
 {
     const QString text = names.mid(0, most).join(u", "_s);
-    return names.size() > most ? text + Texts::tr(" and %1 more").arg(names.size() - most) : text;
+    //: %1 is a list: "a.jpg, b.jpg and 3 more"
+    return names.size() > most ? Texts::tr("%1 and %n more", nullptr, names.size() - most).arg(text) : text;
 }
 
 QString foldingDiacritics(const QString& text)

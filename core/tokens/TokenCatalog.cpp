@@ -18,7 +18,7 @@ namespace {
 QString nameOf(const FieldSpec& field)
 {
     if (field.id == FieldID::coords)
-        return Texts::tr("Coordinates");
+        return u"Coordinates"_s;
     return field.id.front().toUpper() + field.id.sliced(1);
 }
 

@@ -1,5 +1,6 @@
 #include "core/tool/TemporaryConfig.h"
 
+#include "core/language/Texts.h"
 #include "core/text/Errors.h"
 #include "core/tool/MetadataWriter.h"
 #include "core/tool/TemporaryFiles.h"
@@ -21,13 +22,13 @@ TemporaryConfig::TemporaryConfig(const QStringList& customNames, const QString& 
     const QByteArray text = (customs + further).toUtf8();
     const QString directory = QDir::tempPath();
     if (directory.isEmpty())  // Qt's answer for a TMPDIR that does not exist
-        throw FileError(
-            u"Cannot write to"_s, QUrl::fromLocalFile(qEnvironmentVariable("TMPDIR")), qt_error_string(ENOENT));
+        throw FileError(Texts::tr("Cannot write to “%1”"), QUrl::fromLocalFile(qEnvironmentVariable("TMPDIR")),
+            qt_error_string(ENOENT));
     const QUrl url = QUrl::fromLocalFile(directory + u'/' + TemporaryFiles::newConfigName());
     QSaveFile file(url.toLocalFile());
     if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
         || file.write(text) != text.size() || !file.commit())
-        throw FileError(u"Cannot write"_s, url, file.errorString());
+        throw FileError(Texts::tr("Cannot write “%1”"), url, file.errorString());
     m_url = url;
 }
 

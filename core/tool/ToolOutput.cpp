@@ -24,7 +24,8 @@ ToolError undecodable(const QString& reason, const QByteArray& output)
     const auto characters = QString::fromUtf8(output.left(4 * quotedCharacters)).toUcs4();
     const auto quoted = QString::fromUcs4(
         reinterpret_cast<const char32_t*>(characters.constData()), std::min(characters.size(), quotedCharacters));
-    return ToolError(ToolError::DecodeFailed{ reason + Texts::tr(" — output: ") + quoted });
+    //: %1 is why it could not be decoded, %2 the beginning of it
+    return ToolError(ToolError::DecodeFailed{ Texts::tr("%1 — output: %2").arg(reason, quoted) });
 }
 
 // `quotes`: which numbers become texts.

@@ -2,6 +2,7 @@
 
 #include "core/language/Texts.h"
 #include "core/text/CodePage1252.h"
+#include "core/text/Quoted.h"
 
 #include <QStringDecoder>
 
@@ -15,7 +16,7 @@ constexpr qsizetype mostShown = 30;  // characters of a line that a note repeats
 
 QString shortened(const QString& line)
 {
-    return u'“' + (line.size() > mostShown ? line.left(mostShown) + u'…' : line) + u'”';
+    return Text::quoted(line.size() > mostShown ? line.left(mostShown) + u'…' : line);
 }
 
 }  // namespace
@@ -37,8 +38,7 @@ CodeList CodeList::parse(const QByteArray& bytes)
     for (const QString& line : text.split(u'\n'))
         list.take(line, ++number);
     if (list.m_untold > 0)
-        list.m_notes.append(list.m_untold == 1 ? Texts::tr("1 more line like these.")
-                                               : Texts::tr("%1 more lines like these.").arg(list.m_untold));
+        list.m_notes.append(Texts::tr("%n more line(s) like these.", nullptr, list.m_untold));
     return list;
 }
 
@@ -48,6 +48,7 @@ void CodeList::take(const QString& line, int number)
         return;
     if (!line.contains(u'\t')) {
         if (!line.startsWith(u'#'))
+            //: %2 is the line, in quotation marks
             note(Texts::tr("Line %1 has no tab: %2").arg(number).arg(shortened(line.trimmed())));
         return;
     }
@@ -56,19 +57,20 @@ void CodeList::take(const QString& line, int number)
     if (code.isEmpty())
         return note(Texts::tr("Line %1 has no code in front of its tab.").arg(number));
     if (text.isEmpty())
+        //: %2 is a code, in quotation marks
         return note(Texts::tr("Line %1 has no text for %2.").arg(number).arg(shortened(code)));
     if (code.contains(u'='))
+        //: %2 is a code, in quotation marks
         return note(Texts::tr("Line %1: nobody can type a code with “=” in it: %2").arg(number).arg(shortened(code)));
     if (code.size() > longestCode)
-        return note(Texts::tr("Line %1: a code has at most %2 characters: %3")
+        //: %2 is a code that has more, in quotation marks
+        return note(Texts::tr("Line %1: a code has at most %n character(s): %2", nullptr, longestCode)
                         .arg(number)
-                        .arg(longestCode)
                         .arg(shortened(code)));
     if (const auto before = m_lines.constFind(code); before != m_lines.cend())
+        //: %1 is a code, in quotation marks
         note(Texts::tr("%1 is there twice, in lines %2 and %3: the last one counts.")
-                 .arg(shortened(code))
-                 .arg(*before)
-                 .arg(number));
+                 .arg(shortened(code), QString::number(*before), QString::number(number)));
     else
         m_spellings[code.toCaseFolded()].append(code);
     m_lines.insert(code, number);

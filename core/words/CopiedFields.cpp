@@ -1,5 +1,6 @@
 #include "core/words/CopiedFields.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
@@ -171,7 +172,7 @@ QString labelOfKey(const QString& key)
     if (const auto name = CustomFields::nameIn(key))
         return *name;
     const FieldSpec* field = FieldSchema::spec(key);
-    return field ? field->label : FieldLanguages::label(key);
+    return field ? Texts::shown(field->label) : FieldLanguages::label(key);
 }
 
 }  // namespace Quorbel

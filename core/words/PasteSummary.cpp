@@ -6,6 +6,7 @@
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
 #include "core/schema/FieldSchema.h"
+#include "core/text/Quoted.h"
 
 #include <algorithm>
 
@@ -107,51 +108,86 @@ void countItems(PasteCount& count, const QString& id, const QStringList& held, c
     count.old = count.photos() == 1 ? std::optional(ShownText::of(id, held)) : std::nullopt;
 }
 
-// "titles": what one counts several of. "" where the field's name has no usual plural.
-QString plural(const QString& key)
+// "4 titles": how many texts would go; the number alone where the field's name has no usual plural.
+QString counted(const QString& key, int count)
 {
-    static const QMap<QString, QString> plurals{ { FieldID::title, u"titles"_s },
-        { FieldID::description, u"descriptions"_s }, { FieldID::creator, u"creators"_s },
-        { FieldID::place, u"places"_s }, { FieldID::headline, u"headlines"_s }, { FieldID::event, u"events"_s } };
     const auto language = FieldLanguages::languageIn(key);
     const QString id = language ? language->field->id : key;
-    const FieldSpec* field = FieldSchema::spec(id);
-    return field && field->kind == FieldKind::date ? u"dates"_s : plurals.value(id);
+    if (const FieldSpec* field = FieldSchema::spec(id); field && field->kind == FieldKind::date)
+        return Texts::tr("%n date(s)", nullptr, count);
+    if (id == FieldID::title)
+        return Texts::tr("%n title(s)", nullptr, count);
+    if (id == FieldID::description)
+        return Texts::tr("%n description(s)", nullptr, count);
+    if (id == FieldID::creator)
+        return Texts::tr("%n creator(s)", nullptr, count);
+    if (id == FieldID::place)
+        return Texts::tr("%n place(s)", nullptr, count);
+    if (id == FieldID::headline)
+        return Texts::tr("%n headline(s)", nullptr, count);
+    return id == FieldID::event ? Texts::tr("%n event(s)", nullptr, count) : QString::number(count);
 }
 
 QString quoted(const QString& text)
 {
     const QString line = text.simplified();
-    return u'“' + (line.size() > mostOfOld ? line.left(mostOfOld) + u'…' : line) + u'”';
+    return Text::quoted(line.size() > mostOfOld ? line.left(mostOfOld) + u'…' : line);
 }
 
-QString replacedPart(const QString& key, const PasteCount& count)
+// "4 titles", "“Old one” in 3": what would go.
+QString replaced(const QString& key, const PasteCount& count)
 {
     // A number among numbers would only confuse.
     const FieldSpec* field = FieldSchema::spec(key);
     const bool isWords = !field || field->kind == FieldKind::text || field->kind == FieldKind::multiline;
-    if (count.old && (isWords || count.photos() == 1))
-        return count.photos() == 1 ? Texts::tr("replace ") + quoted(ShownText::of(key, *count.old))
-                                   : Texts::tr("replace %1 in %2").arg(quoted(*count.old)).arg(count.replaced);
-    const QString things = plural(key);
-    const QString number = QString::number(count.replaced);
-    return Texts::tr("replace ") + (things.isEmpty() ? number : number + u' ' + things);
+    if (!count.old || (!isWords && count.photos() > 1))
+        return counted(key, count.replaced);
+    if (count.photos() == 1)
+        return quoted(ShownText::of(key, *count.old));
+    //: %1 is a text in quotation marks that would go, %n the number of photos that hold it: "“Old one” in 3"
+    return Texts::tr("%1 in %n", nullptr, count.replaced).arg(quoted(*count.old));
 }
 
-QString gainedPart(const QString& key, const PasteCount& count)
+QString filledPart(const PasteCount& count, bool isTicked)
+{
+    if (count.photos() == 1)
+        return isTicked ? Texts::tr("fills the empty field") : Texts::tr("would fill the empty field");
+    //: %n is the number of photos that have nothing in the field
+    return isTicked ? Texts::tr("fills %n", nullptr, count.filled)
+                    //: %n is the number of photos that have nothing in the field
+                    : Texts::tr("would fill %n", nullptr, count.filled);
+}
+
+QString gainedPart(const QString& key, const PasteCount& count, bool isTicked)
 {
     const int photos = count.gained + count.filled;
-    if (count.photos() == 1)
-        return count.filled > 0 ? Texts::tr("fill the empty field")
-                                : Texts::tr("add to “%1”").arg(count.old.value_or(QString()));
-    return Texts::tr("add to the %1 of %2").arg(labelOfKey(key).toLower()).arg(photos);
+    if (count.photos() == 1 && count.filled > 0)
+        return filledPart(count, isTicked);
+    if (count.photos() == 1) {
+        const QString old = count.old.value_or(QString());
+        //: %1 is what a list holds: items are added
+        return isTicked ? Texts::tr("adds to “%1”").arg(old) : Texts::tr("would add to “%1”").arg(old);
+    }
+    //: %1 is a field that holds a list ("keywords"), %n a number of photos
+    const QString told = isTicked ? Texts::tr("adds to the %1 of %n", nullptr, photos)
+                                  //: %1 is a field that holds a list ("keywords"), %n a number of photos
+                                  : Texts::tr("would add to the %1 of %n", nullptr, photos);
+    return told.arg(Texts::inSentence(labelOfKey(key)));
 }
 
-// "replaces" where it is done, "replace" where it would be.
-QString inFact(const QString& part)
+QString textPart(const QString& key, const PasteCount& count, bool isTicked)
 {
-    const qsizetype space = part.indexOf(u' ');
-    return part.left(space) + u's' + part.mid(space);
+    if (count.replaced == 0)
+        return filledPart(count, isTicked);
+    const QString old = replaced(key, count);
+    if (count.filled == 0)
+        //: %1 is what would go: "4 titles", or a text in quotation marks
+        return isTicked ? Texts::tr("replaces %1").arg(old) : Texts::tr("would replace %1").arg(old);
+    //: %1 is what would go ("4 titles"), %n the number of photos that have nothing in the field
+    const QString told = isTicked ? Texts::tr("replaces %1, fills %n", nullptr, count.filled)
+                                  //: %1 is what would go ("4 titles"), %n a number of photos that have nothing there
+                                  : Texts::tr("would replace %1, fill %n", nullptr, count.filled);
+    return told.arg(old);
 }
 
 QString capitalized(const QString& text)
@@ -182,25 +218,18 @@ QMap<QString, PasteCount> counts(const CopiedFields& fields, const Edits& unsave
 QString line(const QString& key, const PasteCount& count, bool isTicked)
 {
     const FieldSpec* field = FieldSchema::spec(key);
-    QStringList parts;
-    if (field && field->isList()) {
-        if (count.gained + count.filled > 0)
-            parts.append(gainedPart(key, count));
-    } else {
-        if (count.replaced > 0)
-            parts.append(replacedPart(key, count));
-        if (count.filled > 0)
-            parts.append(
-                count.photos() == 1 ? Texts::tr("fill the empty field") : Texts::tr("fill %1").arg(count.filled));
-    }
     QStringList told;
-    for (const QString& part : parts)
-        told.append(isTicked ? inFact(part) : told.isEmpty() ? Texts::tr("would ") + part : part);
+    if (field && field->isList() && count.gained + count.filled > 0)
+        told.append(gainedPart(key, count, isTicked));
+    else if (!(field && field->isList()) && count.replaced + count.filled > 0)
+        told.append(textPart(key, count, isTicked));
     if (count.same > 0)
-        told.append(count.photos() == 1 ? Texts::tr("the same already") : Texts::tr("same in %1").arg(count.same));
+        //: %n is the number of photos that hold just the text
+        told.append(count.photos() == 1 ? Texts::tr("the same already") : Texts::tr("same in %n", nullptr, count.same));
     if (count.unknown > 0)
+        //: %n is a number of photos
         told.append(count.photos() == 1 ? Texts::tr("not looked at yet")
-                                        : Texts::tr("%1 not looked at yet").arg(count.unknown));
+                                        : Texts::tr("%n not looked at yet", nullptr, count.unknown));
     return capitalized(told.join(u", "_s));
 }
 

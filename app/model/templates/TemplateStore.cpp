@@ -42,7 +42,7 @@ QString copied(const Template& value, const QString& path)
     const QByteArray json = TemplateFile::toJson(value);
     if (file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit())
         return {};
-    return FileError(Texts::tr("Cannot export the template"), QUrl::fromLocalFile(path), file.errorString())
+    return FileError(Texts::tr("Cannot export the template “%1”"), QUrl::fromLocalFile(path), file.errorString())
         .description();
 }
 

@@ -127,7 +127,7 @@ private:
     {
         auto& file = m_long.emplace_back(std::make_unique<QTemporaryFile>());
         if (!file->open() || file->write(bytes) != bytes.size() || !file->flush())
-            throw FileError(Texts::tr("Cannot write"), QUrl::fromLocalFile(file->fileName()), file->errorString());
+            throw FileError(Texts::tr("Cannot write “%1”"), QUrl::fromLocalFile(file->fileName()), file->errorString());
         return file->fileName();
     }
 

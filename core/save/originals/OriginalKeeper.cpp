@@ -33,7 +33,7 @@ OriginalKeeper::OriginalKeeper(const QList<QUrl>& photos)
         OriginalsFolder& folder = m_folders.try_emplace(file.path(), file.path()).first->second;
         const QByteArray name = QFile::encodeName(file.fileName());
         if (!folder.keep(name))
-            throw FileError(Texts::tr("Cannot keep a copy of"), photo, qt_error_string(errno));
+            throw FileError(Texts::tr("Cannot keep a copy of “%1”"), photo, qt_error_string(errno));
         struct stat backup { };
         Kept kept{ .folder = &folder, .name = name, .hadBackup = folder.status(backupName(name), backup) };
         kept.before = kept.prepared = identityOf(kept);

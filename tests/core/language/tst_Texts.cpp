@@ -33,6 +33,7 @@ private slots:
     void englishCounts_data();
     void englishCounts();
     void anotherLanguage();
+    void withinSentences();
     void languageToSpeak_data();
     void languageToSpeak();
     void filesOfLanguages();
@@ -64,6 +65,17 @@ void tst_Texts::anotherLanguage()
     // What nobody translated stays English, with the count's own form.
     QCOMPARE(Texts::tr("%n edit(s)", nullptr, 1), u"1 edit"_s);
     QCOMPARE(Texts::shown(u"My own field"_s), u"My own field"_s);
+}
+
+void tst_Texts::withinSentences()
+{
+    QCOMPARE(Texts::inSentence(u"Keywords"_s), u"keywords"_s);
+    QCOMPARE(Texts::continued(u"It is not TIFF"_s), u"it is not TIFF"_s);
+    QCOMPARE(Texts::continued(u"XMP format error"_s), u"XMP format error"_s);
+    Texts::use(std::make_shared<OneText>());
+    QCOMPARE(Texts::inSentence(u"Keywords"_s), u"Quorbel::Texts//-1"_s);
+    QCOMPARE(Texts::inSentence(u"Artist"_s), u"Artist"_s);
+    QCOMPARE(Texts::continued(u"Es fehlt"_s), u"Es fehlt"_s);
 }
 
 void tst_Texts::languageToSpeak_data()

@@ -1,11 +1,9 @@
-#include "core/language/Texts.h"
 #include "core/text/Text.h"
 #include "tests/support/Rows.h"
 
 #include <QLocale>
 #include <QRegularExpression>
 #include <QThread>
-#include <QTranslator>
 
 #include <algorithm>
 #include <cmath>
@@ -13,21 +11,6 @@
 
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-class German final : public QTranslator {
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char*, const char* english, const char*, int count) const override
-    {
-        const QHash<QByteArray, QString> texts{ { "Keywords", u"Stichwörter"_s },
-            { "%n photo(s)", count == 1 ? u"%n Foto"_s : u"%n Fotos"_s } };
-        return texts.value(english);
-    }
-};
-
-}  // namespace
 
 class tst_Text : public QObject {
     Q_OBJECT
@@ -41,24 +24,6 @@ private slots:
         QCOMPARE(Text::trimmed(u" \n a \n "_s), u"\n a \n"_s);
         QCOMPARE(Text::trimmed(u" \t "_s), QString());
         QCOMPARE(Text::trimmedWithNewlines(u" \r\n\u2028a\n "_s), u"a"_s);
-    }
-
-    void texts()
-    {
-        const auto told = [](qsizetype count) { return Texts::tr("%n photo(s) (is|are) read-only", nullptr, count); };
-        QCOMPARE(told(1), u"1 photo is read-only"_s);
-        QCOMPARE(told(0), u"0 photos are read-only"_s);
-        QCOMPARE(Texts::inSentence(u"Keywords"_s), u"keywords"_s);
-        QCOMPARE(Texts::continued(u"It is not TIFF"_s), u"it is not TIFF"_s);
-
-        Texts::use(std::make_shared<German>());
-        const auto english = qScopeGuard([] { Texts::use(nullptr); });
-        QCOMPARE(Texts::tr("%n photo(s)", nullptr, 1), u"1 Foto"_s);
-        QCOMPARE(Texts::tr("%n photo(s)", nullptr, 12), u"12 Fotos"_s);
-        QCOMPARE(Texts::inSentence(u"Keywords"_s), u"Stichwörter"_s);
-        QCOMPARE(Texts::continued(u"Es fehlt"_s), u"Es fehlt"_s);
-        QCOMPARE(Texts::shown(u"A name of one's own"_s), u"A name of one's own"_s);
-        QCOMPARE(told(2), u"2 photos are read-only"_s);
     }
 
     void naturalOrder()
