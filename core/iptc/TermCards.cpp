@@ -61,7 +61,9 @@ QString withTerm(const TermOffer& offer, const QString& structure, const QString
     QJsonObject object = StructureText::members(structure);
     if (!vocabulary || code.isEmpty())
         return structure;
-    const QString name = Vocabularies::nameOf(offer.vocabulary, code);
+    // Files hold the vocabulary's own words.
+    const VocabularyTerm* term = Vocabularies::term(offer.vocabulary, code);
+    const QString name = term ? term->name : code;
     if (offer.member.isEmpty())
         putTerm(object, *vocabulary, code, name);
     else

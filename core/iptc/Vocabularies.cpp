@@ -1,5 +1,6 @@
 #include "core/iptc/Vocabularies.h"
 
+#include "core/language/Texts.h"
 #include "core/text/Text.h"
 
 #include <QFile>
@@ -121,10 +122,10 @@ QString searchable(const QString& text)
 }
 
 // 0 is best; nothing when a word is missing.
-std::optional<int> rank(const VocabularyTerm& term, const QString& typed)
+std::optional<int> rankOf(const QString& termName, const QString& note, const QString& code, const QString& typed)
 {
-    const QString name = searchable(term.name);
-    const QString everything = name + u'\n' + searchable(term.note) + u'\n' + searchable(term.code);
+    const QString name = searchable(termName);
+    const QString everything = name + u'\n' + searchable(note) + u'\n' + searchable(code);
     const QStringList words = typed.split(u' ', Qt::SkipEmptyParts);
     const auto isIn = [](const QString& text) { return [&text](const QString& word) { return text.contains(word); }; };
     if (!std::all_of(words.cbegin(), words.cend(), isIn(everything)))
@@ -134,6 +135,13 @@ std::optional<int> rank(const VocabularyTerm& term, const QString& typed)
     if ((u' ' + name).contains(u' ' + typed))
         return 1;
     return std::all_of(words.cbegin(), words.cend(), isIn(name)) ? 2 : 3;
+}
+
+// As it is shown, or else in English.
+std::optional<int> rank(const VocabularyTerm& term, const QString& typed)
+{
+    const auto shown = rankOf(Texts::shown(term.name), Texts::shown(term.note), term.code, typed);
+    return shown || Texts::isEnglish() ? shown : rankOf(term.name, term.note, term.code, typed);
 }
 
 }  // namespace
@@ -164,7 +172,7 @@ const VocabularyTerm* term(const QString& id, const QString& code)
 QString nameOf(const QString& id, const QString& code)
 {
     const VocabularyTerm* known = term(id, code);
-    return known ? known->name : code;
+    return known ? Texts::shown(known->name) : code;
 }
 
 QString namesOf(const QString& id, const QString& codes)
@@ -172,7 +180,7 @@ QString namesOf(const QString& id, const QString& codes)
     QStringList names;
     for (const QString& code : codes.split(u','))
         if (const VocabularyTerm* known = term(id, code))
-            names.append(known->name);
+            names.append(Texts::shown(known->name));
         else
             return codes;
     return names.join(u", "_s);

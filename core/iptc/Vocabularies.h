@@ -10,7 +10,7 @@ namespace Quorbel {
 
 struct VocabularyTerm {
     QString code{};  ///< what files hold, and what a save writes
-    QString name{};  ///< as the vocabulary spells it
+    QString name{};  ///< as the vocabulary spells it, in English; whoever shows it asks Texts::shown
     QString note{};  ///< what it means, in one line; may be empty
     bool isRetired = false;
     bool operator==(const VocabularyTerm&) const = default;
@@ -34,12 +34,12 @@ const Vocabulary* find(const QString& id);
 /// Whether it is written as an address, with http or https, or as the code alone, and in any case of letters. IPTC's
 /// older block keeps subjects as "IPTC:01000000:::": those, too. Nothing for an unknown code.
 const VocabularyTerm* term(const QString& id, const QString& code);
-/// The code itself when it is unknown.
+/// In the user's language; the code itself when it is unknown.
 QString nameOf(const QString& id, const QString& code);
-/// Of one code or of several with commas between them, as one text holds them; the text itself when one is unknown.
+/// The same of one code or of several with commas between them, as one text holds them; the text when one is unknown.
 QString namesOf(const QString& id, const QString& codes);
-/// Terms in which every word of the text is to be found, in name, note or code, in any case and without accents; those
-/// whose names begin with it first, retired ones last. All of them for an empty text.
+/// Terms in whose name, note (as shown, or in English) or code every word of the text is to be found, in any case and
+/// without accents; those whose names begin with it first, retired ones last. All of them for an empty text.
 QList<const VocabularyTerm*> search(const QString& id, const QString& typed);
 
 }  // namespace Vocabularies

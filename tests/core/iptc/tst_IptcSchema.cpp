@@ -7,6 +7,7 @@
 #include "core/iptc/StructureEdit.h"
 #include "core/iptc/StructureText.h"
 #include "core/iptc/Vocabularies.h"
+#include "core/iptc/VocabularyTexts.h"
 #include "core/iptc/WorldRegions.h"
 #include "core/schema/FieldSchema.h"
 #include "core/tool/ToolOutput.h"
@@ -229,8 +230,14 @@ private slots:
             { u"genre"_s, 44 }, { u"worldRegion"_s, 8 }, { u"regionType"_s, 16 }, { u"regionRole"_s, 11 },
             { u"boundaryShape"_s, 3 }, { u"boundaryUnit"_s, 2 } };
         QMap<QString, qsizetype> found;
+        const QStringList translated = VocabularyTexts::all();
         for (const Vocabulary& vocabulary : Vocabularies::all()) {
             found.insert(vocabulary.id, vocabulary.terms.size());
+            QStringList texts{ vocabulary.title };
+            for (const VocabularyTerm& term : vocabulary.terms)
+                texts << term.name << term.note;
+            for (const QString& text : texts)
+                QVERIFY2(text.isEmpty() || translated.contains(text), qPrintable(text));
             QVERIFY2(!vocabulary.title.isEmpty() && !vocabulary.source.isEmpty() && !vocabulary.date.isEmpty(),
                 qPrintable(vocabulary.id));
             for (const VocabularyTerm& term : vocabulary.terms) {
