@@ -219,18 +219,17 @@ QList<ImageRecord> AppModel::visibleRecords() const
 QString AppModel::folderCountText() const
 {
     const int count = photos().index().photos();
-    QString text = QString::number(count) + Texts::tr(" photo");
-    if (count != 1)
-        text += u's';
-    if (photos().folders().isOrdering()) {
-        const int folders = photos().folders().holding();
-        text += (folders == 1 ? Texts::tr(" in %1 folder") : Texts::tr(" in %1 folders")).arg(folders);
-    }
+    QStringList texts{ Texts::tr("%n photo(s)", nullptr, count) };
+    if (photos().folders().isOrdering())
+        //: %1 is a number of photos: "12 photos in 3 folders"
+        texts[0] = Texts::tr("%1 in %n folder(s)", nullptr, photos().folders().holding()).arg(texts[0]);
     if (photos().filter().isLimiting())
-        text += Texts::tr(" \u00B7 %1 shown").arg(visibleRows().size());
+        //: %n is a number of photos
+        texts.append(Texts::tr("%n shown", nullptr, visibleRows().size()));
     if (isBatch())
-        text += Texts::tr(" \u00B7 %1 selected").arg(selection().size());
-    return text;
+        //: %n is a number of photos
+        texts.append(Texts::tr("%n selected", nullptr, selection().size()));
+    return texts.join(u" · "_s);
 }
 
 void AppModel::setInView(const QList<QUrl>& photos)

@@ -52,7 +52,8 @@ void AppModel::goOnAgreeing()
     }
     const QHash<QUrl, EditPlan> plans = agreements();
     if (const QStringList names = namesWithoutDetails(); !names.isEmpty()) {
-        setErrorMessage(Texts::tr("The places of these photos’ fields could not be read: ") + Text::listed(names));
+        //: %1 names photos
+        setErrorMessage(Texts::tr("The places of these photos’ fields could not be read: %1").arg(Text::listed(names)));
     } else if (plans.isEmpty()) {
         setErrorMessage(Texts::tr("The places of the selected photos’ fields agree already."));
     }

@@ -230,6 +230,7 @@ void AppModel::bringBack(const LeftEdits& left)
     here.edits = left.edits.onlyOf(open);
     away.edits = left.edits.onlyOf(gone);
     if (!away.edits.subjects.isEmpty())
+        //: %1 names photos
         setErrorMessage(Texts::tr("Not here any more: %1. The unsaved changes are kept.").arg(away.names()));
     if (here.edits.subjects.isEmpty())
         return;
@@ -258,6 +259,7 @@ void AppModel::openAndBringBack(const LeftEdits& left)
     });
     if (!isAny)
         return setErrorMessage(
+            //: %1 names photos
             Texts::tr("%1 could no longer be found. The unsaved changes are kept.").arg(left.names()));
     QList<QUrl> urls;
     for (const QString& folder : folders)

@@ -119,7 +119,7 @@ void AppModel::performRename()
     if (!record || !m_services.service || (m_renameOpen && m_renamed != record->url))
         return;
     if (const auto problem = renameProblem())
-        return setErrorMessage(Texts::tr("Could not rename: ") + *problem);
+        return setErrorMessage(Texts::tr("Could not rename: %1").arg(*problem));
     if (const auto picture = pairing().pictureOf(record->url)) {
         if (isSaving())
             return setErrorMessage(Texts::tr("Could not rename: “%1” is being saved.").arg(record->fileName));
@@ -136,7 +136,7 @@ void AppModel::performRename()
     try {
         m_services.service->renameFile(source, destination);
     } catch (const Error& error) {
-        return setErrorMessage(Texts::tr("Could not rename: ") + error.description());
+        return setErrorMessage(Texts::tr("Could not rename: %1").arg(error.description()));
     }
     m_saving.noteRename(source, destination);
     takeRenamed(source, destination);

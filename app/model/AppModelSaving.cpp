@@ -233,7 +233,14 @@ QString AppModel::partialSaveText() const
 {
     const bool isOffered = !m_refused.homes.isEmpty() && m_errorMessage && !isSaving() && unsavedCount() > 0
         && selection() == m_refused.photos;
-    return isOffered ? Texts::tr("Save without ") + m_refused.homes.join(Texts::tr(" and ")) : QString();
+    if (!isOffered)
+        return {};
+    QString homes = m_refused.homes.constFirst();
+    for (const QString& home : m_refused.homes.sliced(1))
+        //: the end of a list: "a.jpg, b.jpg and c.jpg"
+        homes = Texts::tr("%1 and %2").arg(homes, home);
+    //: %1 are parts of a file that take no text: "EXIF and IPTC"
+    return Texts::tr("Save without %1").arg(homes);
 }
 
 void AppModel::savePartially()

@@ -2,6 +2,7 @@
 
 #include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
+#include "core/text/Quoted.h"
 
 namespace Quorbel {
 
@@ -53,10 +54,14 @@ QString OwnSummary::told(qsizetype selected) const
 {
     QString what = Texts::tr("different items");
     if (texts > 1)
-        what = Texts::tr("%1 different texts").arg(texts);
+        what = Texts::tr("%n different texts", nullptr, texts);
     else if (texts == 1)
-        what = text.isEmpty() ? u"emptied"_s : u'“' + text + u'”';
-    return photos == selected && texts > 1 ? what : what + Texts::tr(" in %1 of %2").arg(photos).arg(selected);
+        //: said of a field whose text is taken away
+        what = text.isEmpty() ? Texts::tr("emptied") : Text::quoted(text);
+    if (photos == selected && texts > 1)
+        return what;
+    //: %1 is what stands in a field ("3 different texts"), %2 and %3 count photos: "“Zoë” in 2 of 12"
+    return Texts::tr("%1 in %2 of %3").arg(what, QString::number(photos), QString::number(selected));
 }
 
 }  // namespace Quorbel

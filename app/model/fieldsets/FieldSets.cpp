@@ -27,7 +27,7 @@ FieldSets::~FieldSets() = default;
 
 QString FieldSets::usual()
 {
-    return Texts::tr("Default");
+    return Texts::mark("Default");
 }
 
 QStringList FieldSets::names() const

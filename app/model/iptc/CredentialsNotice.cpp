@@ -19,10 +19,10 @@ CredentialsNotice::CredentialsNotice(AppModel& model)
 
 QString CredentialsNotice::text(int photos)
 {
-    return photos < 1 ? QString()
-        : photos == 1
-        ? Texts::tr("1 photo has Content Credentials: other programs will report it as changed.")
-        : Texts::tr("%1 photos have Content Credentials: other programs will report them as changed.").arg(photos);
+    return photos < 1
+        ? QString()
+        : Texts::tr("%n photo(s) (has|have) Content Credentials: other programs will report (it|them) as changed.",
+            nullptr, photos);
 }
 
 void CredentialsNotice::noteWritten(const QList<QUrl>& photos)

@@ -269,7 +269,7 @@ void Library::awaitFirst(const std::shared_ptr<Load>& load)
     connect(&reading, &PhotoReading::rested, this, &Library::takeFirst);
     connect(&reading, &PhotoReading::failed, this, [this](const QString& reason) {
         dropNext();
-        emit problem(Texts::tr("Could not read metadata: ") + reason);
+        emit problem(Texts::tr("Could not read metadata: %1").arg(reason));
     });
     reading.setPace(PhotoReading::Pace::untilFirst);
 }
@@ -475,7 +475,7 @@ void Library::takeFailed(const QString& reason)
     const QList<ImageRecord>& photos = m_photos.records();
     if (std::all_of(photos.cbegin(), photos.cend(), [](const ImageRecord& photo) { return photo.isUnread; }))
         emit nothingReadable();
-    emit problem(Texts::tr("Could not read metadata: ") + reason);
+    emit problem(Texts::tr("Could not read metadata: %1").arg(reason));
 }
 
 void Library::setFirst(const std::optional<QUrl>& photo)

@@ -20,17 +20,19 @@ namespace {
 
 QString systemReason(int error)
 {
-    return QString::fromLocal8Bit(std::strerror(error)).toLower();
+    return Texts::inSentence(QString::fromLocal8Bit(std::strerror(error)));
 }
 
 QString reasonFor(int error, const QByteArray& path, const QUrl& url)
 {
     // Qt holds a name as text, and a byte that is none as this character: the name does not lead back.
     if (error == ENOENT && url.fileName().contains(QChar::ReplacementCharacter))
+        //: why a file cannot be read, in brackets behind its name
         return Texts::tr("its name is not UTF-8");
     struct stat status { };
     const bool isLink = lstat(path.constData(), &status) == 0 && S_ISLNK(status.st_mode);
     if (isLink && (error == ENOENT || error == ELOOP))
+        //: why a file cannot be read, in brackets behind its name
         return Texts::tr("broken link");
     const bool isGone = error == ENOENT || error == ENOTDIR;
     return isGone ? QString() : systemReason(error);
@@ -78,7 +80,8 @@ PhotoFile::Look lookAt(const QUrl& url)
     if (!S_ISREG(status.stx_mode))
         return {};
     if (status.stx_size == 0)
-        return { {}, u"empty"_s };
+        //: said of a file without a byte, in brackets behind its name
+        return { {}, Texts::tr("empty", "of a file") };
     // The effective user is the one that the tool will run as.
     if (faccessat(AT_FDCWD, path.constData(), R_OK, AT_EACCESS) != 0)
         return { {}, systemReason(errno) };

@@ -95,8 +95,7 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
 
 QString inSentence(const QString& reason)
 {
-    const bool isName = reason.size() > 1 && reason.at(1).isUpper();
-    return isName ? reason : reason.left(1).toLower() + reason.mid(1);
+    return Texts::continued(reason);
 }
 
 QString leftOutText(const QList<LeftOut>& files)
@@ -106,17 +105,16 @@ QString leftOutText(const QList<LeftOut>& files)
     QList<LeftOut> sidecars = files;
     sidecars.removeIf([](const LeftOut& file) { return !file.isSidecar; });
     QStringList texts;
-    if (!photos.isEmpty()) {
-        const QString text = photos.size() == 1
-            ? Texts::tr("1 file could not be read and was left out: ")
-            : QString::number(photos.size()) + Texts::tr(" files could not be read and were left out: ");
-        texts.append(text + named(photos));
-    }
+    if (!photos.isEmpty())
+        //: %1 names the files, with the reasons
+        texts.append(Texts::tr("%n file(s) could not be read and (was|were) left out: %1", nullptr, photos.size())
+                         .arg(named(photos)));
     if (!sidecars.isEmpty())
-        texts.append(
-            Texts::tr("%n sidecar(s) could not be read, and (its photo is|their photos are) shown without (it|them): ",
-                nullptr, sidecars.size())
-            + named(sidecars));
+        //: %1 names the sidecars, with the reasons
+        texts.append(Texts::tr(
+            "%n sidecar(s) could not be read, and (its photo is|their photos are) shown without (it|them): %1", nullptr,
+            sidecars.size())
+                         .arg(named(sidecars)));
     return texts.join(u". "_s);
 }
 

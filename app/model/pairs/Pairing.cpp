@@ -200,6 +200,7 @@ QString Pairing::detailLine(const ImageRecord& photo) const
 QString Pairing::names(const ImageRecord& photo) const
 {
     const ImageRecord* picture = pictureRecord(photo);
+    //: the end of a list: "a.jpg, b.jpg and c.jpg"
     return picture ? Texts::tr("%1 and %2").arg(photo.fileName, picture->fileName) : photo.fileName;
 }
 

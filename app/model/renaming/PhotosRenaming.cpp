@@ -46,12 +46,12 @@ std::shared_ptr<const RenameSet> setOf(const QList<ImageRecord>& photos, bool is
     return std::make_shared<const RenameSet>(photos, folders, isPairing ? Kind::all : Kind::ofMetadata);
 }
 
-// "3 photos keep their names", where some do not.
+// "3 of 12 photos keep their names.", where some do not.
 QString keptText(qsizetype kept, qsizetype all)
 {
     if (kept == all)
-        return all == 1 ? Texts::tr("It keeps its name") : Texts::tr("All photos keep their names");
-    return Texts::tr("%1 of %2 photos keep their names").arg(kept).arg(all);
+        return all == 1 ? Texts::tr("It keeps its name.") : Texts::tr("All photos keep their names.");
+    return Texts::tr("%1 of %n photo(s) keep their names.", nullptr, all).arg(kept);
 }
 
 }  // namespace
@@ -299,6 +299,7 @@ void PhotosRenaming::renameShot(const QList<ImageRecord>& files, const QString& 
     const auto plan = std::make_shared<const RenamePlan>(setOf(files, true)->plan(order));
     for (const RenameRow& row : plan->rows)
         if (row.obstacle != RenameRow::Obstacle::none)
+            //: %1 is the photo, %2 why
             return m_model.setErrorMessage(Texts::tr("Could not rename: %1: %2.").arg(row.oldName, row.words()));
     if (plan->renamed > 0)
         run(plan);
@@ -318,9 +319,10 @@ void PhotosRenaming::run(const std::shared_ptr<const RenamePlan>& plan)
         [photos](const RenameHistory::Outcome& outcome) {
             const qsizetype kept = photos - outcome.photos.size();
             if (!outcome.problems.isEmpty())
-                return Texts::tr("Could not rename: %1. %2.")
+                //: %1 is why, %2 says how many photos keep their names
+                return Texts::tr("Could not rename: %1. %2")
                     .arg(Text::listed(outcome.problems), keptText(kept, photos));
-            return outcome.isGivenUp && kept < photos ? keptText(kept, photos) + u'.' : QString();
+            return outcome.isGivenUp && kept < photos ? keptText(kept, photos) : QString();
         });
 }
 
@@ -364,9 +366,10 @@ void PhotosRenaming::undo()
         [photos = m_undoable.photos](const RenameHistory::Outcome& outcome) {
             const qsizetype kept = photos - outcome.photos.size();
             if (!outcome.problems.isEmpty())
-                return Texts::tr("Could not undo the rename: %1. %2.")
+                //: %1 is why, %2 says how many photos keep their names
+                return Texts::tr("Could not undo the rename: %1. %2")
                     .arg(Text::listed(outcome.problems), keptText(kept, photos));
-            return outcome.isGivenUp && kept < photos ? keptText(kept, photos) + u'.' : QString();
+            return outcome.isGivenUp && kept < photos ? keptText(kept, photos) : QString();
         });
 }
 

@@ -17,11 +17,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString counted(qsizetype count)
-{
-    return Texts::tr("%n photo(s)", nullptr, count);
-}
-
 // Those of the photos that are, or link to, one of the files.
 QList<QUrl> photosAmong(const QList<QUrl>& files, const QList<QUrl>& photos)
 {
@@ -221,37 +216,51 @@ QString SaveHistory::name(const Undoable& save)
 {
     if (save.photos == 0)
         return Texts::tr("Undo Save");
-    return (save.isTimeShift ? Texts::tr("Undo Shift Time of ") : Texts::tr("Undo Save of "))
-        + (save.photos == 1 ? u'“' + save.fileName + u'”' : counted(save.photos));
+    if (save.isTimeShift)
+        return save.photos == 1 ? Texts::tr("Undo Shift Time of “%1”").arg(save.fileName)
+                                : Texts::tr("Undo Shift Time of %n photo(s)", nullptr, save.photos);
+    return save.photos == 1 ? Texts::tr("Undo Save of “%1”").arg(save.fileName)
+                            : Texts::tr("Undo Save of %n photo(s)", nullptr, save.photos);
 }
 
 std::optional<QString> SaveHistory::text(const Undone& undone)
 {
-    const QString what =
-        undone.isTimeShift ? Texts::tr("Could not undo the shift of time") : Texts::tr("Could not undo the save");
     if (undone.error)
-        return what + u": "_s + *undone.error;
+        //: %1 is the reason
+        return (undone.isTimeShift ? Texts::tr("Could not undo the shift of time: %1")
+                                   : Texts::tr("Could not undo the save: %1"))
+            .arg(*undone.error);
     QStringList texts;
     QStringList names;
     for (const FileFailure& failure : undone.outcome.failed)
         names.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
     if (!names.isEmpty())
-        texts.append(what + Texts::tr(" of %1: ").arg(counted(names.size())) + Text::listed(names));
+        //: %1 names the photos, with the reasons
+        texts.append((undone.isTimeShift
+                ? Texts::tr("Could not undo the shift of time of %n photo(s): %1", nullptr, names.size())
+                //: %1 names the photos, with the reasons
+                : Texts::tr("Could not undo the save of %n photo(s): %1", nullptr, names.size()))
+                         .arg(Text::listed(names)));
     names.clear();
     for (const QUrl& file : undone.outcome.changedSince)
         names.append(file.fileName());
     if (!names.isEmpty())
-        texts.append(Texts::tr("%1%2 changed since and %3 left alone: ")
-                         .arg(undone.outcome.restored.isEmpty() ? Texts::tr("Not undone: ") : Texts::tr("Undone, but "),
-                             counted(names.size()), names.size() == 1 ? u"was"_s : u"were"_s)
-            + Text::listed(names));
+        //: %1 names the photos
+        texts.append((undone.outcome.restored.isEmpty()
+                ? Texts::tr(
+                    "Not undone: %n photo(s) changed since and (was|were) left alone: %1", nullptr, names.size())
+                //: %1 names the photos
+                : Texts::tr(
+                    "Undone, but %n photo(s) changed since and (was|were) left alone: %1", nullptr, names.size()))
+                         .arg(Text::listed(names)));
     names.clear();
     for (const QUrl& file : undone.outcome.inexact)
         names.append(file.fileName());
     if (!names.isEmpty())
-        texts.append(
-            Texts::tr("Undone, but not every value of %1 could be put back as it was: ").arg(counted(names.size()))
-            + Text::listed(names));
+        //: %1 names the photos
+        texts.append(Texts::tr(
+            "Undone, but not every value of %n photo(s) could be put back as it was: %1", nullptr, names.size())
+                         .arg(Text::listed(names)));
     return texts.isEmpty() ? std::nullopt : std::optional(texts.join(u". "_s));
 }
 

@@ -530,12 +530,11 @@ Checked check(const MetadataService& shownBy, const Order& order, const Written&
 QString joinedText(const QMap<QString, QStringList>& joined)
 {
     QStringList texts;
-    for (auto it = joined.cbegin(); it != joined.cend(); ++it) {
-        const QString photos = it->size() == 1 ? Texts::tr("1 photo") : Texts::tr("%1 photos").arg(it->size());
-        texts.append(Texts::tr("%1 of %2 differed between IPTC and XMP and were brought together: ")
-                         .arg(SaveVerification::labels({ it.key() }).constFirst(), photos)
-            + Text::listed(*it));
-    }
+    for (auto it = joined.cbegin(); it != joined.cend(); ++it)
+        //: %1 is a field that holds a list ("Keywords"), %2 names the photos
+        texts.append(Texts::tr(
+            "%1 of %n photo(s) differed between IPTC and XMP and were brought together: %2", nullptr, it->size())
+                         .arg(SaveVerification::labels({ it.key() }).constFirst(), Text::listed(*it)));
     return texts.join(u". "_s);
 }
 
@@ -544,7 +543,9 @@ QString failuresText(const QList<FileFailure>& failures, qsizetype targetCount)
     QStringList named;
     for (const FileFailure& failure : failures)
         named.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
-    return Texts::tr("Could not save %1 of %2 photos: ").arg(failures.size()).arg(targetCount) + Text::listed(named);
+    //: %1 is how many of them, %2 names these, with the reasons
+    return Texts::tr("Could not save %1 of %n photos: %2", nullptr, targetCount)
+        .arg(QString::number(failures.size()), Text::listed(named));
 }
 
 }  // namespace Quorbel::SaveJob

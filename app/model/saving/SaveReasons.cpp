@@ -59,6 +59,7 @@ QString refusedText(const QString& key, const SaveJob::Written& written)
     QStringList texts;
     for (auto reason = photos.begin(); reason != photos.end(); ++reason) {
         reason->sort();
+        //: %1 is why something was not written, %2 names photos: "not a whole number: “abc” in a.jpg, b.jpg"
         texts.append(
             written.photos.size() == 1 ? reason.key() : Texts::tr("%1 in %2").arg(reason.key(), Text::listed(*reason)));
     }
@@ -78,13 +79,14 @@ QStringList namesOf(const QList<QUrl>& files)
 QString notWritten(const QStringList& keys, const QString& messages)
 {
     const QString reasons = reasonsFor(keys, messages);
-    return reasons.isEmpty() ? Texts::tr("not written") : Texts::tr("not written: ") + reasons;
+    return reasons.isEmpty() ? Texts::tr("not written") : Texts::tr("not written: %1").arg(reasons);
 }
 
 QString refused(const QMap<QString, QString>& reasonByHome)
 {
     QStringList texts;
     for (auto it = reasonByHome.cbegin(); it != reasonByHome.cend(); ++it)
+        //: %1 is a part of the file that takes no text ("EXIF"), %2 why: "EXIF refused: Bad format"
         texts.append(Texts::tr("%1 refused: %2").arg(it.key(), *it));
     return texts.join(u"; "_s);
 }
@@ -106,23 +108,26 @@ QString differencesText(const QStringList& keys, const SaveJob::Written& written
         labels.append(reasons.isEmpty() ? label : u"%1 (%2)"_s.arg(label, reasons));
     }
     if (written.isUntouched)
-        return Texts::tr("Nothing was written: ") + labels.join(u", "_s);
-    if (keys.size() == 1)
-        return Texts::tr("Saved, but 1 field reads back differently: ") + labels.constFirst();
-    return Texts::tr("Saved, but %1 fields read back differently: ").arg(keys.size()) + labels.join(u", "_s);
+        //: %1 names fields
+        return Texts::tr("Nothing was written: %1").arg(labels.join(u", "_s));
+    //: %1 names the fields
+    return Texts::tr("Saved, but %n field(s) (reads|read) back differently: %1", nullptr, keys.size())
+        .arg(labels.join(u", "_s));
 }
 
 QString notesText(const WriteNotes& notes)
 {
     QStringList texts;
     if (!notes.iptcLeftAlone.isEmpty())
-        texts.append(Texts::tr("Saved, but IPTC was left alone in photos that have several blocks of it: ")
-            + Text::listed(namesOf(notes.iptcLeftAlone)));
+        //: %1 names the photos
+        texts.append(Texts::tr("Saved, but IPTC was left alone in photos that have several blocks of it: %1")
+                         .arg(Text::listed(namesOf(notes.iptcLeftAlone))));
     QStringList sidecars;
     for (const FileFailure& failure : notes.sidecars)
         sidecars.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
     if (!sidecars.isEmpty())
-        texts.append(Texts::tr("Not brought up to date: ") + Text::listed(sidecars));
+        //: %1 names files beside photos, with the reasons
+        texts.append(Texts::tr("Not brought up to date: %1").arg(Text::listed(sidecars)));
     return texts.join(u". "_s);
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 QString couldNotSave(const QString& reason)
 {
-    return Texts::tr("Could not save: ") + reason;
+    return Texts::tr("Could not save: %1").arg(reason);
 }
 
 std::optional<QString> messageOf(
@@ -27,7 +27,7 @@ std::optional<QString> messageOf(
     if (checked.error && written.error)
         return couldNotSave(*written.error);
     if (checked.error)
-        return Texts::tr("Could not read metadata: ") + *checked.error;
+        return Texts::tr("Could not read metadata: %1").arg(*checked.error);
     QStringList texts;
     if (!checked.failures.isEmpty())
         texts.append(SaveJob::failuresText(checked.failures, targetCount));

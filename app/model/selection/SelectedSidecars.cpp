@@ -36,16 +36,19 @@ QString SelectedSidecars::text() const
     if (m_told.photos == 0)
         return {};
     const bool isAll = m_told.photos == m_model.selection().size();
-    const QString whose = isAll ? Texts::tr("Edits")
-        : m_told.photos == 1    ? Texts::tr("Edits of 1 photo")
-                                : Texts::tr("Edits of %1 photos").arg(m_told.photos);
-    if (m_told.sidecars == 1) {
-        // The picture of a shot that is one photo gets them, too.
-        const auto picture = m_model.isBatch() ? std::nullopt : m_model.pairing().pictureOf(m_photos.constFirst());
-        return whose + Texts::tr(" go to ") + m_told.path.sliced(m_told.path.lastIndexOf(u'/') + 1)
-            + (picture ? Texts::tr(" and ") + picture->fileName() : QString());
-    }
-    return whose + (isAll ? Texts::tr(" go to %1 sidecars").arg(m_told.sidecars) : Texts::tr(" go to sidecars"));
+    if (m_told.sidecars != 1)
+        return isAll ? Texts::tr("Edits go to %n sidecars", nullptr, m_told.sidecars)
+                     : Texts::tr("Edits of %n photo(s) go to sidecars", nullptr, m_told.photos);
+    QString file = m_told.path.sliced(m_told.path.lastIndexOf(u'/') + 1);
+    // The picture of a shot that is one photo gets them, too.
+    if (const auto picture = m_model.isBatch() ? std::nullopt : m_model.pairing().pictureOf(m_photos.constFirst()))
+        //: the end of a list: "a.jpg, b.jpg and c.jpg"
+        file = Texts::tr("%1 and %2").arg(file, picture->fileName());
+    //: %1 is a file, or two
+    return (isAll ? Texts::tr("Edits go to %1")
+                  //: %1 is a file, or two
+                  : Texts::tr("Edits of %n photo(s) go to %1", nullptr, m_told.photos))
+        .arg(file);
 }
 
 void SelectedSidecars::count()

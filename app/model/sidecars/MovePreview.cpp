@@ -12,21 +12,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString photosText(qsizetype count, const QString& one, const QString& many)
-{
-    return count == 1 ? Texts::tr("1 photo ") + one : Texts::tr("%1 photos ").arg(count) + many;
-}
-
-void addLine(QStringList& lines, const QStringList& names, const QString& one, const QString& many)
+// The names are the text's %1.
+void addLine(QStringList& lines, const QStringList& names, const QString& text)
 {
     if (!names.isEmpty())
-        lines.append(photosText(names.size(), one, many) + u": "_s + Text::listed(names));
-}
-
-void addFiles(QStringList& lines, const QStringList& names, const QString& what)
-{
-    if (!names.isEmpty())
-        lines.append(what + u": "_s + Text::listed(names));
+        lines.append(text.arg(Text::listed(names)));
 }
 
 // Keys sort by their fields: "title@de" behind "title".
@@ -104,20 +94,28 @@ QStringList MovePreview::notes() const
 {
     QStringList lines;
     if (keeping > 0)
-        lines.append(photosText(keeping, u"keeps"_s, u"keep"_s)
-            + Texts::tr(" what the sidecar holds otherwise than the file: nothing in a sidecar is replaced."));
+        lines.append(Texts::tr("%n photo(s) (keeps|keep) what the sidecar holds otherwise than the file: nothing in a "
+                               "sidecar is replaced.",
+            nullptr, keeping));
     if (sealed > 0)
         lines.append(CredentialsNotice::text(sealed));
     if (agreeing > 0)
-        lines.append(
-            agreeing == 1 ? Texts::tr("1 photo needs nothing.") : Texts::tr("%1 photos need nothing.").arg(agreeing));
-    addLine(lines, withoutSidecar, Texts::tr("has no sidecar"), Texts::tr("have no sidecar"));
-    addLine(lines, withOthersSidecar, Texts::tr("shares its name with a raw photo, whose sidecar it is"),
-        Texts::tr("share their names with raw photos, whose sidecars they are"));
-    addLine(lines, notRaw, Texts::tr("is no raw photo"), Texts::tr("are no raw photos"));
-    addFiles(lines, readOnly, Texts::tr("Read-only, and left alone"));
-    addFiles(lines, unreadable, Texts::tr("Could not be read, and left alone"));
-    addFiles(lines, odd, Texts::tr("Not written, because it would not be the same there"));
+        lines.append(Texts::tr("%n photo(s) (needs|need) nothing.", nullptr, agreeing));
+    //: %1 names the photos
+    addLine(lines, withoutSidecar, Texts::tr("%n photo(s) (has|have) no sidecar: %1", nullptr, withoutSidecar.size()));
+    //: %1 names the photos
+    addLine(lines, withOthersSidecar,
+        Texts::tr("%n photo(s) (shares its name with a raw photo, whose sidecar it is|"
+                  "share their names with raw photos, whose sidecars they are): %1",
+            nullptr, withOthersSidecar.size()));
+    //: %1 names the photos
+    addLine(lines, notRaw, Texts::tr("%n photo(s) (is no raw photo|are no raw photos): %1", nullptr, notRaw.size()));
+    //: %1 names files
+    addLine(lines, readOnly, Texts::tr("Read-only, and left alone: %1"));
+    //: %1 names files, with the reasons
+    addLine(lines, unreadable, Texts::tr("Could not be read, and left alone: %1"));
+    //: %1 names photos, with the fields
+    addLine(lines, odd, Texts::tr("Not written, because it would not be the same there: %1"));
     return lines;
 }
 

@@ -110,11 +110,12 @@ void MovingOver::takeSlice(const QList<QUrl>& photos, const MoveLook::Found& fou
 {
     if (skipped) {
         m_tooSlow.insert(*skipped);
+        //: %1 is a photo
         m_preview.unreadable.append(Texts::tr("%1 (reading took too long)").arg(skipped->fileName()));
         return lookOn();
     }
     if (found.error) {
-        m_problem = Texts::tr("Could not read metadata: ") + *found.error;
+        m_problem = Texts::tr("Could not read metadata: %1").arg(*found.error);
         emit changed();
         return;
     }
@@ -157,7 +158,7 @@ void MovingOver::begin(const Ready& ready)
     const Announcer::Together together(m_access.announcer);
     m_access.tasks.end(std::exchange(m_lastLook, 0));
     if (ready.error)
-        return m_model.setErrorMessage(Texts::tr("Could not read metadata: ") + *ready.error);
+        return m_model.setErrorMessage(Texts::tr("Could not read metadata: %1").arg(*ready.error));
     SaveJob::Order order = ready.order;
     // What was closed meanwhile is not meant any more.
     order.targets.removeIf([this](const QUrl& photo) { return !m_model.record(photo); });

@@ -222,7 +222,8 @@ void Templates::takeFilled(const TemplateFill::Result& result)
     if (!result.edits.isEmpty())
         m_model.layEdits(result.edits);
     if (!result.refusals.isEmpty())
-        m_model.setErrorMessage(Texts::tr("Not filled in: ") + result.refusals.join(u"; "_s));
+        //: %1 names fields, and why a text cannot stand in them
+        m_model.setErrorMessage(Texts::tr("Not filled in: %1").arg(result.refusals.join(u"; "_s)));
     emit canApplyChanged();
 }
 

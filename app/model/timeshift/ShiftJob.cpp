@@ -192,17 +192,28 @@ QHash<QUrl, FileTags> storedNow(const MetadataService& service, QList<QUrl> targ
     return stored;
 }
 
-QString counted(qsizetype count, qsizetype all)
-{
-    return Texts::tr("%1 of %2 photos: ").arg(count).arg(all);
-}
-
 QString named(const QList<FileFailure>& failures)
 {
     QStringList names;
     for (const FileFailure& failure : failures)
         names.append(u"%1 (%2)"_s.arg(failure.file.fileName(), failure.reason));
     return Text::listed(names);
+}
+
+QString failed(const Order& order, const QString& reason)
+{
+    return (order.setsZone() ? Texts::tr("Could not set the zone: %1") : Texts::tr("Could not shift the time: %1"))
+        .arg(reason);
+}
+
+QString someFailed(const Order& order, const QList<FileFailure>& failures)
+{
+    const qsizetype all = order.targets.size();
+    //: %1 is how many of them, %2 names these, with the reasons
+    return (order.setsZone() ? Texts::tr("Could not set the zone of %1 of %n photos: %2", nullptr, all)
+                             //: %1 is how many of them, %2 names these, with the reasons
+                             : Texts::tr("Could not shift the time of %1 of %n photos: %2", nullptr, all))
+        .arg(QString::number(failures.size()), named(failures));
 }
 
 QString namedTags(const QMap<QString, QStringList>& tagsByName)
@@ -293,18 +304,17 @@ Checked check(const MetadataService& service, const Order& order, const Written&
 
 std::optional<QString> message(const Order& order, const Written& written, const Checked& checked)
 {
-    const qsizetype all = order.targets.size();
-    const QString what = order.setsZone() ? Texts::tr("Could not set the zone") : Texts::tr("Could not shift the time");
     if (written.error)
-        return what + u": "_s + *written.error;
+        return failed(order, *written.error);
     if (checked.error)
-        return Texts::tr("Could not read metadata: ") + *checked.error;
+        return Texts::tr("Could not read metadata: %1").arg(*checked.error);
     QStringList texts;
     if (!checked.failures.isEmpty())
-        texts.append(what + Texts::tr(" of ") + counted(checked.failures.size(), all) + named(checked.failures));
+        texts.append(someFailed(order, checked.failures));
     if (!checked.differing.isEmpty())
-        texts.append(Texts::tr("Times read back differently in ") + counted(checked.differing.size(), all)
-            + namedTags(checked.differing));
+        //: %1 is how many of them, %2 names these, with tags
+        texts.append(Texts::tr("Times read back differently in %1 of %n photos: %2", nullptr, order.targets.size())
+                         .arg(QString::number(checked.differing.size()), namedTags(checked.differing)));
     QMap<QString, QStringList> alone;
     QStringList zoneless;
     for (const QUrl& target : order.targets) {
@@ -315,9 +325,11 @@ std::optional<QString> message(const Order& order, const Written& written, const
             zoneless.append(target.fileName());
     }
     if (!zoneless.isEmpty())
-        texts.append(Texts::tr("Left alone for want of a time zone: ") + Text::listed(zoneless));
+        //: %1 names photos
+        texts.append(Texts::tr("Left alone for want of a time zone: %1").arg(Text::listed(zoneless)));
     if (!alone.isEmpty())
-        texts.append(Texts::tr("Dates without a full day and time were left alone: ") + namedTags(alone));
+        //: %1 names photos, with tags
+        texts.append(Texts::tr("Dates without a full day and time were left alone: %1").arg(namedTags(alone)));
     if (const QString notes = SaveReasons::notesText(written.notes); !notes.isEmpty())
         texts.append(notes);
     return texts.isEmpty() ? std::nullopt : std::optional(texts.join(u". "_s));

@@ -48,14 +48,11 @@ QString shown(const QDateTime& clock, std::optional<int> zone)
     return WallClock::shown(clock) + (zone ? ZoneOffset::text(*zone) : QString());
 }
 
-QString leftAlone(const QStringList& names, const QString& one, const QString& several)
+// The names are the text's %1.
+void addLine(QStringList& lines, const QStringList& names, const QString& text)
 {
-    if (names.isEmpty())
-        return {};
-    const QString who = names.size() == 1
-        ? Texts::tr("1 photo %1 and is left alone: ").arg(one)
-        : Texts::tr("%1 photos %2 and are left alone: ").arg(QString::number(names.size()), several);
-    return who + Text::listed(names);
+    if (!names.isEmpty())
+        lines.append(text.arg(Text::listed(names)));
 }
 
 // Goes through the photos, then tells of those that have a time.
@@ -152,12 +149,12 @@ private:
 
     // The earliest of those that are such.
     template <typename Such>
-    void addFirst(const QString& one, const QString& several, Such such)
+    void addFirst(QString (*title)(qsizetype count), Such such)
     {
         const auto count = std::count_if(m_dated.cbegin(), m_dated.cend(), such);
         const auto first = std::find_if(m_dated.cbegin(), m_dated.cend(), such);
         if (first != m_dated.cend())
-            m_result.rows.append(row(count == 1 ? one : several.arg(count), *first));
+            m_result.rows.append(row(title(count), *first));
     }
 
     void addRows()
@@ -165,14 +162,19 @@ private:
         std::stable_sort(
             m_dated.begin(), m_dated.end(), [](const Dated& a, const Dated& b) { return a.before < b.before; });
         m_result.first = m_dated.front().before;
-        m_result.rows.append(row(m_dated.size() == 1 ? Texts::tr("Taken") : Texts::tr("First"), m_dated.front()));
+        //: names of rows: when the only photo, or the first and the last one, was taken
+        m_result.rows.append(
+            row(m_dated.size() == 1 ? Texts::tr("Taken", "of a photo") : Texts::tr("First", "of some photos"),
+                m_dated.front()));
         if (m_dated.size() > 1)
-            m_result.rows.append(row(Texts::tr("Last"), m_dated.back()));
+            m_result.rows.append(row(Texts::tr("Last", "of some photos"), m_dated.back()));
         if (m_question.zone && m_question.keepsClock)
-            addFirst(Texts::tr("1 had no zone"), Texts::tr("%1 had no zone"),
+            //: %n is a number of photos
+            addFirst([](qsizetype count) { return Texts::tr("%n had no zone", nullptr, count); },
                 [](const Dated& dated) { return !dated.zone; });
         else
-            addFirst(Texts::tr("1 on a new day"), Texts::tr("%1 on a new day"),
+            //: %n is a number of photos
+            addFirst([](qsizetype count) { return Texts::tr("%n on a new day", nullptr, count); },
                 [](const Dated& dated) { return dated.before.date() != dated.after.date(); });
     }
 
@@ -202,12 +204,23 @@ std::optional<QDateTime> ShiftPreview::clockOf(const QMap<QString, QString>& val
 
 QString ShiftPreview::warning() const
 {
-    QStringList texts{ leftAlone(undated, Texts::tr("has no date"), Texts::tr("have no date")),
-        leftAlone(odd, Texts::tr("has an odd date"), Texts::tr("have odd dates")),
-        leftAlone(zoneless, Texts::tr("has no time zone to come from"), Texts::tr("have no time zone to come from")),
-        leftAlone(
-            placeless, Texts::tr("has no position in a time zone"), Texts::tr("have no position in a time zone")) };
-    texts.removeAll(QString());
+    QStringList texts;
+    //: %1 names the photos
+    addLine(texts, undated,
+        Texts::tr("%n photo(s) (has no date and is|have no date and are) left alone: %1", nullptr, undated.size()));
+    //: %1 names the photos, with their dates
+    addLine(texts, odd,
+        Texts::tr("%n photo(s) (has an odd date and is|have odd dates and are) left alone: %1", nullptr, odd.size()));
+    //: %1 names the photos
+    addLine(texts, zoneless,
+        Texts::tr("%n photo(s) (has no time zone to come from and is|have no time zone to come "
+                  "from and are) left alone: %1",
+            nullptr, zoneless.size()));
+    //: %1 names the photos
+    addLine(texts, placeless,
+        Texts::tr("%n photo(s) (has no position in a time zone and is|have no position in a time "
+                  "zone and are) left alone: %1",
+            nullptr, placeless.size()));
     return texts.join(u". "_s);
 }
 
@@ -218,7 +231,7 @@ QString ShiftPreview::positionsText() const
     if (positions == 1)
         return inZone == 1 ? Texts::tr("The one position lies in this zone.")
                            : Texts::tr("The one position lies in another zone.");
-    return Texts::tr("%1 of %2 positions lie in this zone.").arg(inZone).arg(positions);
+    return Texts::tr("%1 of %n positions lie in this zone.", nullptr, positions).arg(inZone);
 }
 
 QString ShiftPreview::amountText(qint64 seconds)
@@ -229,14 +242,19 @@ QString ShiftPreview::amountText(qint64 seconds)
     };
     QStringList parts;
     if (const qint64 days = size / 86400; days > 0)
-        parts.append(u"%1 d"_s.arg(days));
+        //: days
+        parts.append(Texts::tr("%1 d").arg(days));
     if (const qint64 hours = size / 3600 % 24; hours > 0)
-        parts.append(u"%1 h"_s.arg(hours));
+        //: hours
+        parts.append(Texts::tr("%1 h").arg(hours));
     if (const qint64 minutes = size / 60 % 60; minutes > 0)
-        parts.append(padded(minutes, !parts.isEmpty()) + Texts::tr(" min"));
+        //: minutes
+        parts.append(Texts::tr("%1 min").arg(padded(minutes, !parts.isEmpty())));
     if (const qint64 rest = size % 60; rest > 0 || parts.isEmpty())
-        parts.append(padded(rest, !parts.isEmpty()) + u" s"_s);
-    return parts.join(u' ') + (seconds < 0 ? Texts::tr(" earlier") : Texts::tr(" later"));
+        //: seconds
+        parts.append(Texts::tr("%1 s").arg(padded(rest, !parts.isEmpty())));
+    //: %1 is a span of time: "1 h 02 min 30 s later"
+    return (seconds < 0 ? Texts::tr("%1 earlier") : Texts::tr("%1 later")).arg(parts.join(u' '));
 }
 
 }  // namespace Quorbel

@@ -418,7 +418,7 @@ void TimeShifting::takeLooked(ShiftJob::Order order, const ShiftJob::Looked& loo
             return look(order);
     }
     if (looked.error)
-        return m_model.setErrorMessage(Texts::tr("Could not read metadata: ") + *looked.error);
+        return m_model.setErrorMessage(Texts::tr("Could not read metadata: %1").arg(*looked.error));
     // Of another file, the times on screen may have been other ones.
     if (m_access.service && looked.sidecars != m_access.service->sidecars)
         return m_model.setErrorMessage(

@@ -34,7 +34,7 @@ QByteArray stampOf(const QString& path)
 
 QString nameOf(const QString& path)
 {
-    return u'“' + QFileInfo(path).fileName() + u'”';
+    return QFileInfo(path).fileName();
 }
 
 }  // namespace
@@ -120,13 +120,13 @@ CodeReplacements::Found CodeReplacements::lookedUp(const QString& path, const QB
     }
     QFile file(path);
     if (!info.exists())
-        found.problem = nameOf(path) + Texts::tr(" is not there any more.");
+        found.problem = Texts::tr("“%1” is not there any more.").arg(nameOf(path));
     else if (!info.isFile())
-        found.problem = nameOf(path) + Texts::tr(" is no file.");
+        found.problem = Texts::tr("“%1” is no file.").arg(nameOf(path));
     else if (info.size() > CodeList::largest)
-        found.problem = nameOf(path) + Texts::tr(" is too large for a list of codes.");
+        found.problem = Texts::tr("“%1” is too large for a list of codes.").arg(nameOf(path));
     else if (!file.open(QIODevice::ReadOnly))
-        found.problem = nameOf(path) + Texts::tr(" cannot be read: ") + file.errorString();
+        found.problem = Texts::tr("“%1” cannot be read: %2").arg(nameOf(path), file.errorString());
     else
         found.codes = CodeList::parse(file.readAll());
     return found;

@@ -540,7 +540,7 @@ void DetailsReading::noteFailure(const QList<QUrl>& photos, const QString& reaso
     if (!m_wantsAll)
         return;
     cancel();
-    emit problem(Texts::tr("Could not read metadata: ") + reason);
+    emit problem(Texts::tr("Could not read metadata: %1").arg(reason));
 }
 
 }  // namespace Quorbel
