@@ -801,7 +801,7 @@ private slots:
         QTest::newRow("a code first") << u"sw"_s << QStringList{ u"sw"_s, u"gsw"_s };
         QTest::newRow("begin of a name") << u"ger"_s << QStringList{ u"de"_s, u"gsw"_s };
         QTest::newRow("within a name") << u" English"_s << QStringList{ u"en"_s };
-        QTest::newRow("an English name") << u"spa"_s << QStringList{ u"es"_s };
+        QTest::newRow("an English name") << u"spanish"_s << QStringList{ u"es"_s };
         QTest::newRow("what is not listed") << u"en-gb"_s << QStringList{ u"en-GB"_s };
         QTest::newRow("nothing") << u"xyz"_s << QStringList();
     }
