@@ -23,17 +23,27 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS
     "perl, libimage-exiftool-perl (>= 12.57), libqt6sql6-sqlite, libqt6svg6, qt6-image-formats-plugins")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, qt6-translations-l10n, fonts-inter, fonts-jetbrains-mono")
 
-# Debian wants the changelog and the manual page compressed, and a copyright file, under these names.
+# Debian wants the changelog and the manual pages compressed, and a copyright file, under these names.
 find_program(GZIP_PROGRAM gzip REQUIRED)
 set(doc_dir ${PROJECT_BINARY_DIR}/packaging)
-add_custom_command(OUTPUT ${doc_dir}/changelog.gz ${doc_dir}/quorbel.1.gz
-    COMMAND ${CMAKE_COMMAND} -E make_directory ${doc_dir}
-    COMMAND sh -c "${GZIP_PROGRAM} -9nc '${PROJECT_SOURCE_DIR}/CHANGELOG.md' > '${doc_dir}/changelog.gz'"
-    COMMAND sh -c "${GZIP_PROGRAM} -9nc '${PROJECT_SOURCE_DIR}/data/quorbel.1' > '${doc_dir}/quorbel.1.gz'"
-    DEPENDS ${PROJECT_SOURCE_DIR}/CHANGELOG.md ${PROJECT_SOURCE_DIR}/data/quorbel.1
-    VERBATIM)
-add_custom_target(package_docs ALL DEPENDS ${doc_dir}/changelog.gz ${doc_dir}/quorbel.1.gz)
+set(packed)
+function(quorbel_compress source output)
+    add_custom_command(OUTPUT ${output}
+        COMMAND sh -c "${GZIP_PROGRAM} -9nc '${source}' > '${output}'"
+        DEPENDS ${source}
+        VERBATIM)
+    set(packed ${packed} ${output} PARENT_SCOPE)
+endfunction()
+quorbel_compress(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${doc_dir}/changelog.gz)
+quorbel_compress(${PROJECT_SOURCE_DIR}/data/quorbel.1 ${doc_dir}/quorbel.1.gz)
 install(FILES ${doc_dir}/quorbel.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+foreach(language IN LISTS QUORBEL_LANGUAGES)
+    file(MAKE_DIRECTORY ${doc_dir}/${language})
+    quorbel_compress(${PROJECT_SOURCE_DIR}/data/man/${language}/quorbel.1 ${doc_dir}/${language}/quorbel.1.gz)
+    install(FILES ${doc_dir}/${language}/quorbel.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/${language}/man1)
+endforeach()
+file(MAKE_DIRECTORY ${doc_dir})
+add_custom_target(package_docs ALL DEPENDS ${packed})
 install(FILES ${doc_dir}/changelog.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/quorbel RENAME changelog.gz)
 install(FILES ${PROJECT_SOURCE_DIR}/data/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/quorbel)
 include(CPack)

@@ -2,6 +2,8 @@
 
 #include "core/language/Texts.h"
 
+#include <QLocale>
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -27,15 +29,16 @@ qint64 roundedQuotient(qint64 bytes, qint64 step)
     return bytes / step + (bytes % step * 2 >= step ? 1 : 0);
 }
 
-// `count` in units of 10^-digits, without trailing zeros: (105, 1) is "10.5", (110, 1) is "11".
+// `count` in units of 10^-digits with the locale's point, without trailing zeros: (105, 1) is "10.5", (110, 1) is "11".
 QString decimalText(qint64 count, int digits)
 {
     QString text = QString::number(count).rightJustified(digits + 1, u'0');
-    text.insert(text.size() - digits, u'.');
+    const QString point = QLocale().decimalPoint();
+    text.insert(text.size() - digits, point);
     while (text.endsWith(u'0'))
         text.chop(1);
-    if (text.endsWith(u'.'))
-        text.chop(1);
+    if (text.endsWith(point))
+        text.chop(point.size());
     return text;
 }
 

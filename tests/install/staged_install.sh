@@ -15,6 +15,17 @@ for file in bin/quorbel lib/quorbel/modules/quorbel-images.so share/quorbel/exif
     share/doc/quorbel/copyright share/man/man1/quorbel.1.gz; do
     [ -e "$prefix/$file" ] || fail "$file is not installed"
 done
+for file in "$prefix"/share/quorbel/translations/quorbel_*.qm; do
+    language=$(basename "$file" .qm)
+    language=${language#quorbel_}
+    [ -e "$prefix/share/man/$language/man1/quorbel.1.gz" ] || fail "no manual page in $language"
+    grep -q "^Comment\[$language\]=" "$prefix/share/applications/app.quorbel.Quorbel.desktop" \
+        || fail "the desktop entry has no $language"
+    grep -q "<summary xml:lang=\"${language/_/-}\">" "$prefix/share/metainfo/app.quorbel.Quorbel.metainfo.xml" \
+        || fail "the software center's page has no $language"
+done
+help=$(LC_ALL=de_DE.UTF-8 LANGUAGE=de_DE:de QT_QPA_PLATFORM=offscreen HOME=$stage "$prefix/bin/quorbel" --help)
+grep -q "Fotos" <<<"$help" || fail "a German desktop is not answered in German: $help"
 desktop-file-validate "$prefix/share/applications/app.quorbel.Quorbel.desktop" || fail "desktop entry"
 appstreamcli validate --no-net "$prefix/share/metainfo/app.quorbel.Quorbel.metainfo.xml" || fail "metainfo"
 grep -rlF "$build" "$prefix/bin" "$prefix/lib" && fail "the installed program names the build tree"

@@ -27,10 +27,23 @@ constexpr qreal dotSize = 6;
 constexpr qreal narrowBelow = 430;
 constexpr qreal narrowHeight = 78;
 constexpr qreal narrowTop = 8;
+constexpr qreal leastText = 104;
+constexpr qreal buttonPadding = 28;
+
+// What the buttons need beside a line that still says something, in the user's language.
+int leastRow(const QStringList& titles)
+{
+    const QFontMetricsF letters(sansFont(13, QFont::DemiBold));
+    qreal width = pxF(2 * side + leastText);
+    for (const QString& title : titles)
+        width += letters.horizontalAdvance(title) + pxF(buttonPadding + gap);
+    return int(width);
+}
 
 bool isNarrow(int width)
 {
-    return width < px(narrowBelow);
+    const int one = leastRow({ Texts::tr("Rename…"), Texts::tr("Add field"), Texts::tr("Save") });
+    return width < qMax(px(narrowBelow), one);
 }
 
 void setTitle(QBButton* button, const QString& title)

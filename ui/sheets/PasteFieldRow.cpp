@@ -13,6 +13,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 namespace Quorbel {
 
 using namespace Qt::StringLiterals;
@@ -24,6 +26,17 @@ constexpr qreal above = 7;
 constexpr qreal below = 6;
 constexpr qreal valueHeight = 18;
 constexpr qreal noteHeight = 15;
+
+// So that the usual labels are whole in every language.
+int labelWidth()
+{
+    const QFontMetricsF letters(sansFont(13));
+    qreal widest = pxF(92);
+    for (const FieldSpec& field : FieldSchema::all())
+        if (field.alwaysShown)
+            widest = qMax(widest, letters.horizontalAdvance(Texts::shown(field.label)));
+    return int(std::ceil(widest));
+}
 
 }  // namespace
 
@@ -98,7 +111,7 @@ void PasteFieldRow::build()
         line->setContentsMargins(px(12), px(above), px(12), px(below));
         line->setSpacing(px(12));
         m_tick->setContentsMargins(0, px(1), 0, 0);
-        m_label->setFixedSize(px(92), px(valueHeight));
+        m_label->setFixedSize(labelWidth(), px(valueHeight));
         m_value->setFixedHeight(px(valueHeight));
         m_note->setFixedHeight(px(noteHeight));
     });

@@ -44,8 +44,10 @@ QString copiedText(const QDateTime& at, const QDate& today)
     if (at.date() == today.addDays(-1))
         //: %1 is a time of day.
         return Texts::tr("Copied yesterday, %1").arg(time);
+    //: The form of a day with its month in words: d is the day's number, MMMM the month's name, yyyy the year.
+    const QString day = QLocale().toString(at.date(), Texts::tr("d MMMM yyyy", "form of a date"));
     //: %1 is a day, %2 a time of day.
-    return Texts::tr("Copied %1, %2").arg(QLocale::c().toString(at.date(), u"d MMMM yyyy"_s), time);
+    return Texts::tr("Copied %1, %2").arg(day, time);
 }
 
 QString shortened(const QString& name)

@@ -210,7 +210,8 @@ void FilterMenu::clear()
 void FilterMenu::popUp()
 {
     const QPoint corner = m_opener->mapToGlobal(QPoint(-px(leftOfOpener), 0));
-    open(QRect(corner, m_opener->size()), px(wide));
+    const int least = m_content->minimumSizeHint().width() + 2 * px(padding);
+    open(QRect(corner, m_opener->size()), qMax(px(wide), least));
 }
 
 void FilterMenu::showEvent(QShowEvent* event)

@@ -59,6 +59,7 @@ TemplateRow::TemplateRow(const TemplateField& field, Completions completions, QW
     QStringList modes;
     for (const TemplateMode mode : field.modes())
         modes.append(titleOf(mode));
+    m_mode->setWidest(1.6 * modeWidth);
     m_mode->setTitles(modes);
     QWidget* editor = field.isList() ? makeItems(completions) : makeText();
     label->setBuddy(editor);

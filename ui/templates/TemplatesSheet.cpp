@@ -250,6 +250,7 @@ QWidget* TemplatesSheet::buildNameLine()
     QStringList titles{ Texts::tr("No shortcut") };
     for (int digit = 1; digit <= 9; ++digit)
         titles.append(TemplateTexts::keys(digit));
+    m_digit->setWidest(2 * digitWidth);
     m_digit->setTitles(titles);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setColumnStretch(1, 1);

@@ -65,6 +65,16 @@ public:
     }
 };
 
+// Of a list in which every title is whole, with what is beside the titles.
+int widestTitle()
+{
+    const QFontMetricsF letters(sansFont(13));
+    qreal widest = 0;
+    for (const HelpTopic topic : allCases<HelpTopic>())
+        widest = qMax(widest, letters.horizontalAdvance(title(topic)));
+    return px(2 * (8 + 10) + 18 + 10 + 6) + int(widest);
+}
+
 // Wrapped text with 20 points from line to line, which QLabel cannot be told.
 class Paragraph final : public QLabel {
 public:
@@ -247,7 +257,10 @@ void HelpView::resizeEvent(QResizeEvent* event)
 
 void HelpView::arrange()
 {
-    const int topics = qBound(px(narrowestTopics), qMax(px(usualTopics), width() / 5), px(widestTopics));
+    // Titles of any language are to be read whole, as long as the page keeps most of the window.
+    const int titles = qMin(widestTitle(), width() * 9 / 20);
+    const int usual = qBound(px(narrowestTopics), qMax(px(usualTopics), width() / 5), px(widestTopics));
+    const int topics = qMax(usual, titles);
     m_topics->setGeometry(0, 0, topics, height());
     m_page->setGeometry(topics + 1, 0, width() - topics - 1, height());
 }

@@ -47,7 +47,7 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-// What the photos and the walk's own edits say.
+// What the photos and the walk's own edits say, and the form in which positions are typed.
 const QStringList& wordsOfPhotos()
 {
     static const QStringList texts{ u"(c) Mara Lindqvist 9x13, all rights reserved. Prints on request."_s,
@@ -55,9 +55,9 @@ const QStringList& wordsOfPhotos()
         u"Last 5x7 light"_s, u"4x4 light"_s, u"Mara"_s, u"Other"_s, u"Zürich"_s, u"OLYMPUS E-M5MarkIII"_s,
         u"M.12-40mm F2.8"_s, u"A 6x6 of still water after a clear October day, looking south from the bank."_s,
         u"3x3, lake"_s, u"lake, 13x18, 9x9"_s, u"lake"_s, u"sailing"_s, u"Race 1 off Zürich"_s, u"Race "_s, u" off "_s,
-        u"Regatta, race day"_s, u"Alps / 2x2 Lake"_s, u"Zoo"_s, u"Pass"_s, u"First"_s, u"Two"_s, u"second"_s,
-        u"third"_s, u"fourth"_s, u"fifth"_s, u"Uncalibrated"_s, WindowWalk::message(), u"Replace the file?"_s,
-        u"Keep both"_s, u"Replace"_s, u"Cancel"_s };
+        u"off"_s, u"lat, lon"_s, u"Regatta, race day"_s, u"Alps / 2x2 Lake"_s, u"Zoo"_s, u"Pass"_s, u"First"_s,
+        u"Two"_s, u"second"_s, u"third"_s, u"fourth"_s, u"fifth"_s, u"Uncalibrated"_s, WindowWalk::message(),
+        u"Replace the file?"_s, u"Keep both"_s, u"Replace"_s, u"Cancel"_s };
     return texts;
 }
 

@@ -14,6 +14,13 @@ namespace Quorbel {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Points: the sides and the arrows.
+constexpr qreal besideTitle = 36;
+
+}  // namespace
+
 ChoicePicker::ChoicePicker(const QString& name, qreal width, QWidget* parent)
     : ThemedButton({}, parent)
     , m_width(width)
@@ -31,6 +38,7 @@ ChoicePicker::ChoicePicker(const QString& name, qreal width, QWidget* parent)
 void ChoicePicker::setTitles(const QStringList& titles)
 {
     m_titles = titles;
+    updateGeometry();
     setCurrent(m_current);
 }
 
@@ -43,7 +51,17 @@ void ChoicePicker::setCurrent(int index)
 
 QSize ChoicePicker::sizeHint() const
 {
-    return { px(m_width), px(30) };
+    qreal titles = 0;
+    if (m_widest > m_width)
+        for (const QString& title : m_titles)
+            titles = qMax(titles, QFontMetricsF(sansFont(13)).horizontalAdvance(title) + pxF(besideTitle));
+    return { qBound(px(m_width), int(titles), px(qMax(m_width, m_widest))), px(30) };
+}
+
+void ChoicePicker::setWidest(qreal points)
+{
+    m_widest = points;
+    updateGeometry();
 }
 
 void ChoicePicker::openList()

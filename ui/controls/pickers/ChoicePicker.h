@@ -15,6 +15,8 @@ public:
     /// `width` in points.
     ChoicePicker(const QString& name, qreal width, QWidget* parent = nullptr);
     void setTitles(const QStringList& titles);
+    /// May grow to this many points where its titles need them; as wide as it was made otherwise.
+    void setWidest(qreal points);
     const QStringList& titles() const { return m_titles; }
     /// Emits nothing.
     void setCurrent(int index);
@@ -35,6 +37,7 @@ private:
     QStringList m_titles;
     int m_current = -1;
     qreal m_width;
+    qreal m_widest = 0;
 };
 
 }  // namespace Quorbel
