@@ -254,7 +254,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>another Quorbel is undoing one at this moment</source>
-        <translation>ein anderes Quorbel macht gerade etwas rückgängig</translation>
+        <translation>eine andere Quorbel-Instanz macht gerade etwas rückgängig</translation>
     </message>
     <message>
         <source>it was undone already</source>
@@ -446,8 +446,8 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message numerus="yes">
         <source>%n photo(s) (needs|need) nothing.</source>
         <translation>
-            <numerusform>%n Foto braucht nichts.</numerusform>
-            <numerusform>%n Fotos brauchen nichts.</numerusform>
+            <numerusform>Bei %n Foto ist nichts zu tun.</numerusform>
+            <numerusform>Bei %n Fotos ist nichts zu tun.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -546,7 +546,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>Dates without a full day and time were left alone: %1</source>
         <extracomment>%1 names photos, with tags</extracomment>
-        <translation>Daten ohne vollständigen Tag und Uhrzeit blieben unverändert: %1</translation>
+        <translation>Datumsangaben ohne vollständigen Tag und Uhrzeit blieben unverändert: %1</translation>
     </message>
     <message>
         <source>Taken</source>
@@ -1077,7 +1077,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>A folder of photos, or photos.</source>
-        <translation>Ein Ordner mit Fotos, oder Fotos.</translation>
+        <translation>Ein Ordner mit Fotos oder einzelne Fotos.</translation>
     </message>
     <message>
         <source>[files…]</source>
@@ -1113,7 +1113,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Points to “%1”, which is empty</source>
-        <translation>Verweist auf „%1“, das leer ist</translation>
+        <translation>Verweist auf das leere Feld „%1“</translation>
     </message>
     <message>
         <source>Alternative text</source>
@@ -1141,7 +1141,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Job title</source>
-        <translation>Berufsbezeichnung</translation>
+        <translation>Beruf</translation>
     </message>
     <message>
         <source>The creator&apos;s position or occupation</source>
@@ -1261,7 +1261,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Organisation codes</source>
-        <translation>Organisationscodes</translation>
+        <translation>Organisations-Codes</translation>
     </message>
     <message>
         <source>The same by a code: stock ticker, registry number</source>
@@ -1533,11 +1533,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Inventory number</source>
-        <translation>Inventarnummer</translation>
+        <translation>Inventar-Nr.</translation>
     </message>
     <message>
         <source>Inventory address</source>
-        <translation>Inventaradresse</translation>
+        <translation>Inventar-URL</translation>
     </message>
     <message>
         <source>Copyright notice</source>
@@ -1549,7 +1549,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Copyright owner ID</source>
-        <translation>Rechteinhaber-ID</translation>
+        <translation>Inhaber-ID</translation>
     </message>
     <message>
         <source>Licensor</source>
@@ -2023,27 +2023,27 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Prohibited, see Other Constraints</source>
-        <translation>Untersagt, siehe Weitere Auflagen</translation>
+        <translation>Untersagt, siehe „Weitere Auflagen“</translation>
     </message>
     <message>
         <source>What may be done stands in Other constraints, which must be filled</source>
-        <translation>Was erlaubt ist, steht in Weitere Auflagen; das Feld muss ausgefüllt sein</translation>
+        <translation>Was erlaubt ist, steht unter „Weitere Auflagen“; das Feld muss ausgefüllt sein</translation>
     </message>
     <message>
         <source>Prohibited, see Embedded Encoded Rights Expression</source>
-        <translation>Untersagt, siehe eingebettete kodierte Rechte</translation>
+        <translation>Untersagt, siehe „Eingebettete Rechte“</translation>
     </message>
     <message>
         <source>What may be done stands in Embedded rights</source>
-        <translation>Was erlaubt ist, steht in Eingebettete Rechte</translation>
+        <translation>Was erlaubt ist, steht unter „Eingebettete Rechte“</translation>
     </message>
     <message>
         <source>Prohibited, see Linked Encoded Rights Expression</source>
-        <translation>Untersagt, siehe verlinkte kodierte Rechte</translation>
+        <translation>Untersagt, siehe „Verlinkte Rechte“</translation>
     </message>
     <message>
         <source>What may be done stands where Linked rights points</source>
-        <translation>Was erlaubt ist, steht dort, wohin Verlinkte Rechte verweist</translation>
+        <translation>Was erlaubt ist, steht dort, wohin „Verlinkte Rechte“ verweist</translation>
     </message>
     <message>
         <source>Model release status</source>
@@ -2427,7 +2427,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Music, film, theatre, literature, museums, celebrities of the arts</source>
-        <translation>Musik, Film, Theater, Literatur, Museen, Prominente der Kunst</translation>
+        <translation>Musik, Film, Theater, Literatur, Museen, Prominente aus der Kultur</translation>
     </message>
     <message>
         <source>crime, law and justice</source>
@@ -2443,7 +2443,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Fires, floods, earthquakes, crashes</source>
-        <translation>Brände, Fluten, Erdbeben, Abstürze</translation>
+        <translation>Brände, Hochwasser, Erdbeben, Abstürze</translation>
     </message>
     <message>
         <source>economy, business and finance</source>
@@ -2547,7 +2547,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Wars, riots, terror, peace talks</source>
-        <translation>Kriege, Aufstände, Terror, Friedensgespräche</translation>
+        <translation>Kriege, Krawalle, Terror, Friedensgespräche</translation>
     </message>
     <message>
         <source>weather</source>
@@ -2575,7 +2575,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Fires, floods, earthquakes, crashes, rescues</source>
-        <translation>Brände, Fluten, Erdbeben, Abstürze, Rettungseinsätze</translation>
+        <translation>Brände, Hochwasser, Erdbeben, Abstürze, Rettungseinsätze</translation>
     </message>
     <message>
         <source>environment</source>
@@ -3305,7 +3305,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>another Quorbel is renaming at this moment</source>
-        <translation>ein anderes Quorbel benennt gerade um</translation>
+        <translation>eine andere Quorbel-Instanz benennt gerade um</translation>
     </message>
     <message>
         <source>Undo Rename</source>
@@ -3396,7 +3396,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>“%1” is too long: a value may have 128 KiB at most. Nothing was written.</source>
-        <translation>„%1“ ist zu lang: Ein Wert darf höchstens 128 KiB haben. Nichts wurde geschrieben.</translation>
+        <translation>„%1“ ist zu lang: Ein Wert darf höchstens 128 KiB groß sein. Nichts wurde geschrieben.</translation>
     </message>
     <message>
         <source>Cannot write “%1”</source>
@@ -3661,7 +3661,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Sorts your library by date in every app</source>
-        <translation>Sortiert die Bibliothek in jeder App nach Datum</translation>
+        <translation>Sortiert die Bibliothek in allen Programmen nach Datum</translation>
     </message>
     <message>
         <source>Keywords</source>
@@ -3701,7 +3701,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>GPS latitude / longitude</source>
-        <translation>GPS-Breite / GPS-Länge</translation>
+        <translation>GPS-Breitengrad / GPS-Längengrad</translation>
     </message>
     <message>
         <source>Rating</source>
@@ -3709,7 +3709,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>★ 1–5, read by most libraries</source>
-        <translation>★ 1–5, von den meisten Bibliotheken gelesen</translation>
+        <translation>★ 1–5, von den meisten Bildverwaltungen gelesen</translation>
     </message>
     <message>
         <source>Headline</source>
@@ -3833,11 +3833,11 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Usage terms</source>
-        <translation>Nutzungsbedingungen</translation>
+        <translation>Nutzungsrechte</translation>
     </message>
     <message>
         <source>Rights usage terms</source>
-        <translation>Bedingungen für die Nutzung</translation>
+        <translation>Nutzungsbedingungen</translation>
     </message>
     <message>
         <source>Web statement</source>
@@ -3849,7 +3849,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Date digitized</source>
-        <translation>Digitalisierungsdatum</translation>
+        <translation>Digitalisiert am</translation>
     </message>
     <message>
         <source>When the image was digitized / scanned</source>
@@ -3865,7 +3865,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>TZ offset (digitized)</source>
-        <translation>UTC-Versatz (Digital.)</translation>
+        <translation>UTC-Versatz (digitalisiert)</translation>
     </message>
     <message>
         <source>Timezone offset for date digitized</source>
@@ -3889,7 +3889,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Shutter</source>
-        <translation>Belichtungszeit</translation>
+        <translation>Belichtung</translation>
     </message>
     <message>
         <source>Aperture</source>
@@ -4535,7 +4535,7 @@ Why nothing can be copied.</extracomment>
     <message>
         <source>None</source>
         <comment>no value</comment>
-        <translation>Keine</translation>
+        <translation>Kein Wert</translation>
     </message>
     <message>
         <source>Use “%1”</source>
@@ -4575,7 +4575,7 @@ Why nothing can be copied.</extracomment>
     <message>
         <source>Default and Form…</source>
         <extracomment>Of a token. Default: what stands there where a photo has no such value; form: how a date is written.</extracomment>
-        <translation>Ersatztext und Form…</translation>
+        <translation>Ersatztext und Format…</translation>
     </message>
     <message>
         <source>ALSO IN THESE PHOTOS</source>
@@ -4704,7 +4704,7 @@ Button: writes what is shown to all places within photos that hold a field.</ext
     </message>
     <message>
         <source>read-only</source>
-        <translation>nur lesbar</translation>
+        <translation>nicht änderbar</translation>
     </message>
     <message>
         <source>Untitled</source>
@@ -4891,7 +4891,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>Add field to all</source>
-        <translation>Feld für alle hinzufügen</translation>
+        <translation>Feld für alle</translation>
     </message>
     <message>
         <source>Saving…</source>
@@ -4928,8 +4928,8 @@ Said behind a keyword. The numbers are of photos.</extracomment>
         <source>%n of %1 places (differs|differ), another standard’s is shown</source>
         <extracomment>Places within a photo that hold the same field. %1: how many there are, %n: in how many another text stands.</extracomment>
         <translation>
-            <numerusform>%n von %1 Stellen weicht ab, die eines anderen Standards wird angezeigt</numerusform>
-            <numerusform>%n von %1 Stellen weichen ab, die eines anderen Standards wird angezeigt</numerusform>
+            <numerusform>%n von %1 Stellen weicht ab; angezeigt wird die eines anderen Standards</numerusform>
+            <numerusform>%n von %1 Stellen weichen ab; angezeigt wird die eines anderen Standards</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -5436,7 +5436,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>The place service answered something else</source>
-        <translation>Der Ortsdienst hat etwas anderes geantwortet</translation>
+        <translation>Unerwartete Antwort des Ortsdienstes</translation>
     </message>
     <message>
         <source>The place service answered with status %1</source>
@@ -5477,7 +5477,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>may not appear in all apps</source>
-        <translation>nicht in allen Apps zu sehen</translation>
+        <translation>nicht in allen Programmen zu sehen</translation>
     </message>
     <message>
         <source>Name</source>
@@ -5492,7 +5492,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>e.g. Project</source>
         <extracomment>An example of the name of a custom field: letters without accents, as it becomes the name of a tag.</extracomment>
-        <translation>z. B. Projekt</translation>
+        <translation>z. B. Projekt</translation>
     </message>
     <message>
         <source>All recommended fields are already shown.</source>
@@ -5744,7 +5744,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>By a known photo</source>
-        <translation>Nach einem bekannten Foto</translation>
+        <translation>Nach bekanntem Foto</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -5869,7 +5869,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>Date digitized and the other dates of a photo move along.</source>
-        <translation>Digitalisierungsdatum und weitere Daten eines Fotos rücken mit.</translation>
+        <translation>Digitalisierungsdatum und weitere Datumsangaben eines Fotos rücken mit.</translation>
     </message>
     <message>
         <source>No date</source>
@@ -6088,7 +6088,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Lose</source>
         <comment>photos lose a field</comment>
-        <translation>Entfällt</translation>
+        <translation>Entfernt</translation>
     </message>
     <message>
         <source>What the sidecars hold is written into the photos themselves, also where it differs. The sidecars stay as they are.</source>
@@ -6157,8 +6157,8 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>%n photo(s) (loses|lose) it</source>
         <comment>a field</comment>
         <translation>
-            <numerusform>entfällt in %n Foto</numerusform>
-            <numerusform>entfällt in %n Fotos</numerusform>
+            <numerusform>entfernt in %n Foto</numerusform>
+            <numerusform>entfernt in %n Fotos</numerusform>
         </translation>
     </message>
     <message>
@@ -6174,8 +6174,8 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>%1 photo(s) (disagrees|disagree)</source>
         <extracomment>%1: how many photos hold a field in several places that differ.</extracomment>
         <translation>
-            <numerusform>%1 Foto weicht ab</numerusform>
-            <numerusform>%1 Fotos weichen ab</numerusform>
+            <numerusform>%1 Foto mit Abweichungen</numerusform>
+            <numerusform>%1 Fotos mit Abweichungen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -6543,7 +6543,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Default and form of %1</source>
         <extracomment>%1: name of a token. Default: what stands there where a photo has no such value; form: how a date is written.</extracomment>
-        <translation>Ersatztext und Form von %1</translation>
+        <translation>Ersatztext und Format von %1</translation>
     </message>
     <message>
         <source>If missing</source>
@@ -6557,7 +6557,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Form</source>
         <extracomment>How a date or time is written.</extracomment>
-        <translation>Form</translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>From</source>
@@ -6636,7 +6636,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Quorbel reads and edits the metadata inside your photos — titles, dates, captions, keywords and location — and writes your changes into the EXIF, IPTC and XMP standards at once so every app agrees.</source>
-        <translation>Quorbel liest und bearbeitet die Metadaten in Ihren Fotos – Titel, Daten, Bildtexte, Stichwörter und Orte – und schreibt Ihre Änderungen gleichzeitig nach den Standards EXIF, IPTC und XMP, damit alle Programme dasselbe zeigen.</translation>
+        <translation>Quorbel liest und bearbeitet die Metadaten in Ihren Fotos – Titel, Datumsangaben, Bildtexte, Stichwörter und Orte – und schreibt Ihre Änderungen gleichzeitig nach den Standards EXIF, IPTC und XMP, damit alle Programme dasselbe zeigen.</translation>
     </message>
     <message>
         <source>To begin, open a folder of images or one or more image files:</source>
@@ -6680,7 +6680,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Inspector (right): the editable fields, grouped as Common, Location and read-only Camera details.</source>
-        <translation>Inspektor (rechts): die bearbeitbaren Felder, gegliedert in Allgemein, Ort und die nur lesbaren Kameradaten.</translation>
+        <translation>Inspektor (rechts): die bearbeitbaren Felder, gegliedert in Allgemein und Ort, dazu die nicht änderbaren Kameradaten.</translation>
     </message>
     <message>
         <source>Quorbel remembers what it read: a folder that you open again is there at once, and only photos that changed are read. View ▸ Read Again (⇧F5) reads all of them anew.</source>
@@ -6696,11 +6696,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Use Add Field to pick a recommended standard field, or define a custom one.</source>
-        <translation>Feld hinzufügen bietet empfohlene Standardfelder an oder legt ein eigenes an.</translation>
+        <translation>„Feld hinzufügen“ bietet empfohlene Standardfelder an oder legt ein eigenes an.</translation>
     </message>
     <message>
         <source>Turn on Show namespace details (Settings) to see exactly which tag each value writes to.</source>
-        <translation>Namensraum-Details anzeigen (Einstellungen) zeigt genau, in welche Tags jeder Wert geschrieben wird.</translation>
+        <translation>„Namensraum-Details anzeigen“ (Einstellungen) zeigt genau, in welche Tags jeder Wert geschrieben wird.</translation>
     </message>
     <message>
         <source>Edited fields are marked until you save.</source>
@@ -6732,7 +6732,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>F11, or Space in the list, looks closely: the photo fills the window. A click or Z shows every pixel there, the arrow keys go on to the next photo at the same place, Escape returns.</source>
-        <translation>F11, oder die Leertaste in der Liste, zeigt das Foto genau: Es füllt das Fenster. Ein Klick oder Z zeigt dort jeden Pixel, die Pfeiltasten gehen an derselben Stelle zum nächsten Foto, Esc führt zurück.</translation>
+        <translation>F11 oder in der Liste die Leertaste öffnet die genaue Ansicht: Das Foto füllt das Fenster. Ein Klick oder Z zeigt dort jeden Pixel, die Pfeiltasten gehen an derselben Stelle zum nächsten Foto, Esc führt zurück.</translation>
     </message>
     <message>
         <source>Help ▸ Keyboard Shortcuts (Ctrl+F1) lists all keys.</source>
@@ -6744,7 +6744,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>A title, description, copyright notice, event or usage terms can be in several languages in one photo. The field shows the text that every app reads; the others stay with the photo whatever you write there.</source>
-        <translation>Titel, Beschreibung, Copyright-Vermerk, Ereignis und Nutzungsbedingungen können in einem Foto in mehreren Sprachen stehen. Das Feld zeigt den Text, den alle Programme lesen; die anderen bleiben im Foto, was immer Sie dort eingeben.</translation>
+        <translation>Titel, Beschreibung, Copyright-Vermerk, Ereignis und Nutzungsrechte können in einem Foto in mehreren Sprachen stehen. Das Feld zeigt den Text, den alle Programme lesen; die anderen bleiben im Foto, was immer Sie dort eingeben.</translation>
     </message>
     <message>
         <source>A field that has other languages names them at its right end, like “de fr”. Click there, or press ⌥Right in the field, to see and edit them; ⌥Left hides them.</source>
@@ -6752,7 +6752,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Add language finds a language by its name; the cross behind a text takes that language away.</source>
-        <translation>Sprache hinzufügen findet eine Sprache nach ihrem Namen; das Kreuz hinter einem Text entfernt diese Sprache.</translation>
+        <translation>„Sprache hinzufügen“ findet eine Sprache nach ihrem Namen; das Kreuz hinter einem Text entfernt diese Sprache.</translation>
     </message>
     <message>
         <source>Both count as unsaved until you save, and work for several photos at once.</source>
@@ -6788,7 +6788,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Click the mark to see what each place holds. Use this one makes a text your edit; saving writes it to all places.</source>
-        <translation>Ein Klick auf die Markierung zeigt, was an jeder Stelle steht. Dies verwenden übernimmt einen Text als Ihre Änderung; das Speichern schreibt ihn an alle Stellen.</translation>
+        <translation>Ein Klick auf die Markierung zeigt, was an jeder Stelle steht. „Dies verwenden“ übernimmt einen Text als Ihre Änderung; das Speichern schreibt ihn an alle Stellen.</translation>
     </message>
     <message>
         <source>View ▸ Show Disagreements (⌘⇧D) lists only photos whose places differ. Quorbel looks at all open photos for that, while you work on.</source>
@@ -6796,7 +6796,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>With photos selected, Edit ▸ Make Them Agree writes what each photo shows to all of its places. Undo Save takes it back.</source>
-        <translation>Bearbeiten ▸ Werte angleichen schreibt für die ausgewählten Fotos das, was jedes zeigt, an alle seine Stellen. Speichern rückgängig machen nimmt es zurück.</translation>
+        <translation>Bearbeiten ▸ Werte angleichen schreibt für die ausgewählten Fotos das, was jedes zeigt, an alle seine Stellen. „Speichern rückgängig machen“ nimmt es zurück.</translation>
     </message>
     <message>
         <source>Finding Gaps</source>
@@ -6816,7 +6816,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>The cross of a chip, or Delete on it, ends one filter; View ▸ Clear Filters (⌘⇧F) ends all.</source>
-        <translation>Das Kreuz eines Chips, oder Entf darauf, hebt einen Filter auf; Ansicht ▸ Filter aufheben (⌘⇧F) hebt alle auf.</translation>
+        <translation>Das Kreuz eines Filters oder Entf darauf hebt ihn auf; Ansicht ▸ Filter aufheben (⌘⇧F) hebt alle auf.</translation>
     </message>
     <message>
         <source>IPTC Fields &amp; Field Sets</source>
@@ -6824,7 +6824,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Quorbel reads and writes every property of the IPTC Photo Metadata Standard: alternative text, contacts, people, places, releases, licences, what a picture was made with. A photo shows those that it holds; Add Field finds all others, by their names, by what they are for, and by their tags.</source>
-        <translation>Quorbel liest und schreibt jede Eigenschaft des IPTC Photo Metadata Standard: Alternativtext, Kontakte, Personen, Orte, Releases, Lizenzen, womit ein Bild gemacht wurde. Ein Foto zeigt die, die es enthält; Feld hinzufügen findet alle anderen: nach Name, Zweck und Tags.</translation>
+        <translation>Quorbel liest und schreibt jede Eigenschaft des IPTC Photo Metadata Standard: Alternativtext, Kontakte, Personen, Orte, Releases, Lizenzen, womit ein Bild gemacht wurde. Ein Foto zeigt die, die es enthält; „Feld hinzufügen“ findet alle anderen: nach Name, Zweck und Tags.</translation>
     </message>
     <message>
         <source>View ▸ Field Set chooses what is on screen at once: Captions, Press, Museum, Stock, Rights, Accessibility, or a set of your own. What a photo holds beside the set stays visible, and so does what you edited.</source>
@@ -6836,11 +6836,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Save What Is on Screen as Set… makes a set of your own; Edit Sets… changes what is in it and what it wants. Sets that come with Quorbel can be copied there.</source>
-        <translation>Sichtbare Felder als Satz speichern… legt einen eigenen Satz an; Sätze bearbeiten… ändert, was er enthält und verlangt. Mitgelieferte Sätze lassen sich dort kopieren.</translation>
+        <translation>„Sichtbare Felder als Satz speichern…“ legt einen eigenen Satz an; „Sätze bearbeiten…“ ändert, was er enthält und verlangt. Mitgelieferte Sätze lassen sich dort kopieren.</translation>
     </message>
     <message>
         <source>Default is the form as it was. Once you have chosen a set, or made one, they can be picked at the top of the form, too.</source>
-        <translation>Standard zeigt das gewohnte Formular. Sobald Sie einen Satz gewählt oder angelegt haben, lassen sich die Sätze auch oben im Formular wählen.</translation>
+        <translation>„Standard“ zeigt das gewohnte Formular. Sobald Sie einen Satz gewählt oder angelegt haben, lassen sich die Sätze auch oben im Formular wählen.</translation>
     </message>
     <message>
         <source>Shifting Times</source>
@@ -6856,7 +6856,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>By a known photo: type when one of the photos was really taken, and all others go by the same amount.</source>
-        <translation>Nach einem bekannten Foto: Geben Sie ein, wann eines der Fotos wirklich aufgenommen wurde; alle anderen rücken um dieselbe Spanne.</translation>
+        <translation>Nach bekanntem Foto: Geben Sie ein, wann eines der Fotos wirklich aufgenommen wurde; alle anderen rücken um dieselbe Spanne.</translation>
     </message>
     <message>
         <source>Time zone: sets the zone that the times are in. Keep the clock time, or let it move with the zone. Photos with a position can each get the zone that they were taken in.</source>
@@ -6864,7 +6864,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>The table shows the first photo, the last one, and what becomes another day. Photos without a date are named and left alone. Undo Shift Time takes it back.</source>
-        <translation>Die Tabelle zeigt das erste Foto, das letzte und was auf einen anderen Tag fällt. Fotos ohne Datum werden genannt und nicht verändert. Zeitverschiebung rückgängig machen nimmt es zurück.</translation>
+        <translation>Die Tabelle zeigt das erste Foto, das letzte und was auf einen anderen Tag fällt. Fotos ohne Datum werden genannt und nicht verändert. „Zeitverschiebung rückgängig machen“ nimmt es zurück.</translation>
     </message>
     <message>
         <source>Batch Editing</source>
@@ -6900,7 +6900,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>What one photo says can be given to others, and texts that you type often can have short codes.</source>
-        <translation>Was ein Foto sagt, lässt sich anderen geben, und häufig getippte Texte können kurze Kürzel haben.</translation>
+        <translation>Die Angaben eines Fotos lassen sich auf andere übertragen, und häufig getippte Texte können Kürzel haben.</translation>
     </message>
     <message>
         <source>Edit ▸ Copy Fields (⌘⇧C) takes the fields of the selected photo as you see them. Edit ▸ Paste Fields… (⌘⇧V) shows what they would replace in the selected photos, and pastes those that you tick. Nothing is written before you save.</source>
@@ -6916,7 +6916,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>A template fills fields of the selected photos with texts that each photo completes: “Race %Counter% off %Place|Zürich%”. Make one in Edit ▸ Templates, or from a photo with Save as Template…</source>
-        <translation>Eine Vorlage füllt Felder der ausgewählten Fotos mit Texten, die jedes Foto ergänzt: „Regatta %Counter% vor %Place|Zürich%“. Neue Vorlagen entstehen unter Bearbeiten ▸ Vorlagen oder aus einem Foto mit Als Vorlage speichern…</translation>
+        <translation>Eine Vorlage füllt Felder der ausgewählten Fotos mit Texten, die jedes Foto ergänzt: „Regatta %Counter% vor %Place|Zürich%“. Neue Vorlagen entstehen unter Bearbeiten ▸ Vorlagen oder aus einem Foto mit Bearbeiten ▸ Vorlagen ▸ Als Vorlage speichern…</translation>
     </message>
     <message>
         <source>⌘1 to ⌘9 apply the templates that have these keys. What they fill in are edits, written when you save.</source>
@@ -6924,11 +6924,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Each field is set, set only if it is empty, or gains the text behind or before its own.</source>
-        <translation>Jedes Feld wird gesetzt, nur gesetzt, wenn es leer ist, oder erhält den Text hinter oder vor dem eigenen.</translation>
+        <translation>Der Text ersetzt den des Feldes, füllt es nur, wenn es leer ist, oder kommt hinter oder vor den vorhandenen Text.</translation>
     </message>
     <message>
         <source>Tokens stand for what the photo says: all fields, the camera, %Filename% and %Counter%. Double-click one to give it a form, such as d MMMM yyyy, and a text for photos that lack the value.</source>
-        <translation>Platzhalter stehen für das, was das Foto sagt: alle Felder, die Kamera, %Filename% und %Counter%. Ein Doppelklick gibt einem Platzhalter eine Form, etwa d MMMM yyyy, und einen Ersatztext für Fotos, denen der Wert fehlt.</translation>
+        <translation>Platzhalter stehen für die Angaben des Fotos: alle Felder, die Kamera, %Filename% und %Counter%. Ein Doppelklick gibt einem Platzhalter ein Format, etwa d MMMM yyyy, und einen Ersatztext für Fotos, denen der Wert fehlt.</translation>
     </message>
     <message>
         <source>Each template is a file. Drag one out of the list to pass it on, and drop files in to import them.</source>
@@ -6977,7 +6977,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Several photos get their names together: select them and choose Rename Photos… in the File menu (Shift+F2). %Counter% numbers them in the order of the list; every other field has a token of its name, too, like %Headline%, and %Title|Untitled% or %Date:yyyyMMdd% say what stands for a missing title, or how a date is written. Names that lack something or were taken are marked. Sidecars, backups and the raw file of a pair go along, and Undo Rename in the Edit menu takes all of it back, also after a restart.</source>
-        <translation>Mehrere Fotos erhalten ihre Namen zusammen: Wählen Sie sie aus und dann Fotos umbenennen… im Menü Datei (⇧F2). %Counter% nummeriert sie in der Reihenfolge der Liste; auch jedes andere Feld hat einen Platzhalter seines Namens, etwa %Headline%, und %Title|Untitled% oder %Date:yyyyMMdd% sagen, was für einen fehlenden Titel steht oder wie ein Datum geschrieben wird. Namen, denen etwas fehlt oder die vergeben waren, sind markiert. Sidecars, Sicherungen und die Raw-Datei eines Paars gehen mit, und Umbenennen rückgängig machen im Menü Bearbeiten nimmt alles zurück, auch nach einem Neustart.</translation>
+        <translation>Mehrere Fotos erhalten ihre Namen zusammen: Wählen Sie sie aus und dann „Fotos umbenennen…“ im Menü Datei (⇧F2). %Counter% nummeriert sie in der Reihenfolge der Liste; auch jedes andere Feld hat einen Platzhalter seines Namens, etwa %Headline%, und %Title|Untitled% oder %Date:yyyyMMdd% sagen, was für einen fehlenden Titel steht oder wie ein Datum geschrieben wird. Namen, denen etwas fehlt oder die vergeben waren, sind markiert. Sidecars, Sicherungen und die Raw-Datei eines Paars gehen mit, und „Umbenennen rückgängig machen“ im Menü Bearbeiten nimmt alles zurück, auch nach einem Neustart.</translation>
     </message>
     <message>
         <source>Saving &amp; Backups</source>
@@ -7021,7 +7021,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>File ▸ Write Sidecars Into Photos… and Write Metadata Into Sidecars… move words over for the selected photos. You see first what would change in how many. Undo Save takes it back.</source>
-        <translation>Datei ▸ Sidecars in Fotos schreiben… und Metadaten in Sidecars schreiben… übertragen Texte für die ausgewählten Fotos. Vorher ist zu sehen, was sich in wie vielen ändern würde. Speichern rückgängig machen nimmt es zurück.</translation>
+        <translation>Datei ▸ Sidecars in Fotos schreiben… und Metadaten in Sidecars schreiben… übertragen Texte für die ausgewählten Fotos. Vorher ist zu sehen, was sich in wie vielen ändern würde. „Speichern rückgängig machen“ nimmt es zurück.</translation>
     </message>
     <message>
         <source>Develop settings, and whatever else other programs keep in a sidecar, stay as they are.</source>
@@ -7109,8 +7109,8 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Filling in %1 of %2 photos…</source>
         <extracomment>%1 of all %2 photos were filled in already: what the program did not know of them yet was read.</extracomment>
         <translation>
-            <numerusform>%1 von %2 Foto ergänzt…</numerusform>
-            <numerusform>%1 von %2 Fotos ergänzt…</numerusform>
+            <numerusform>Details zu %1 von %2 Foto gelesen…</numerusform>
+            <numerusform>Details zu %1 von %2 Fotos gelesen…</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -7214,7 +7214,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Keeps only letters and numbers (accents become plain, e.g. Café → Cafe). Off leaves characters like @ and &apos; in place.</source>
-        <translation>Behält nur Buchstaben und Ziffern (Akzente entfallen, z. B. Café → Cafe). Ausgeschaltet bleiben Zeichen wie @ und &apos; stehen.</translation>
+        <translation>Behält nur Buchstaben und Ziffern (Akzente entfallen, z. B. Café → Cafe). Ausgeschaltet bleiben Zeichen wie @ und &apos; stehen.</translation>
     </message>
     <message>
         <source>Raw files</source>
@@ -7386,7 +7386,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Move the photo up or down</source>
-        <translation>Foto auf oder ab verschieben</translation>
+        <translation>Foto auf und ab verschieben</translation>
     </message>
     <message>
         <source>In a field</source>
@@ -7452,7 +7452,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Not all of these folders report changes; %1 looks every few seconds.</source>
         <extracomment>%1 is the program.</extracomment>
-        <translation>Nicht alle diese Ordner melden Änderungen; %1 sieht alle paar Sekunden nach.</translation>
+        <translation>Nicht alle dieser Ordner melden Änderungen; %1 sieht alle paar Sekunden nach.</translation>
     </message>
     <message numerus="yes">
         <source>Only %1 of %2 folders report changes. Refresh to see what changed in the others.</source>

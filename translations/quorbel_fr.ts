@@ -70,12 +70,12 @@
     <message>
         <source>Not here any more: %1. The unsaved changes are kept.</source>
         <extracomment>%1 names photos</extracomment>
-        <translation>Plus présentes ici : %1. Les modifications non enregistrées sont conservées.</translation>
+        <translation>Plus à cet endroit : %1. Les modifications non enregistrées sont conservées.</translation>
     </message>
     <message>
         <source>%1 could no longer be found. The unsaved changes are kept.</source>
         <extracomment>%1 names photos</extracomment>
-        <translation>Plus trouvées : %1. Les modifications non enregistrées sont conservées.</translation>
+        <translation>Impossible de retrouver %1. Les modifications non enregistrées sont conservées.</translation>
     </message>
     <message>
         <source>A file name cannot hold “/”.</source>
@@ -218,11 +218,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>No gaps left</source>
-        <translation>Plus de lacunes</translation>
+        <translation>Aucune lacune restante</translation>
     </message>
     <message>
         <source>No gaps left · %1 not read yet</source>
-        <translation>Plus de lacunes · %1 pas encore lues</translation>
+        <translation>Aucune lacune restante · %1 pas encore lues</translation>
     </message>
     <message>
         <source>It keeps its name.</source>
@@ -242,7 +242,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>Could not rename: %1: %2.</source>
         <extracomment>%1 is the photo, %2 why</extracomment>
-        <translation>Impossible de renommer : %1 : %2.</translation>
+        <translation>Impossible de renommer %1 : %2.</translation>
     </message>
     <message>
         <source>Could not rename: %1. %2</source>
@@ -446,8 +446,8 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message numerus="yes">
         <source>%n photo(s) (needs|need) nothing.</source>
         <translation>
-            <numerusform>%n photo n’a besoin de rien.</numerusform>
-            <numerusform>%n photos n’ont besoin de rien.</numerusform>
+            <numerusform>Rien à écrire pour %n photo.</numerusform>
+            <numerusform>Rien à écrire pour %n photos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -462,8 +462,8 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
         <source>%n photo(s) (shares its name with a raw photo, whose sidecar it is|share their names with raw photos, whose sidecars they are): %1</source>
         <extracomment>%1 names the photos</extracomment>
         <translation>
-            <numerusform>%n photo porte le même nom qu’une photo raw, à qui appartient le fichier annexe : %1</numerusform>
-            <numerusform>%n photos portent le même nom que des photos raw, à qui appartiennent les fichiers annexes : %1</numerusform>
+            <numerusform>%n photo porte le même nom qu’une photo raw, à laquelle appartient le fichier annexe : %1</numerusform>
+            <numerusform>%n photos portent le même nom que des photos raw, auxquelles appartiennent les fichiers annexes : %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -546,7 +546,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>Dates without a full day and time were left alone: %1</source>
         <extracomment>%1 names photos, with tags</extracomment>
-        <translation>Les dates sans jour ou heure complets ont été laissées telles quelles : %1</translation>
+        <translation>Les dates incomplètes (jour ou heure) ont été laissées telles quelles : %1</translation>
     </message>
     <message>
         <source>Taken</source>
@@ -1537,7 +1537,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Inventory address</source>
-        <translation>Adresse d’inventaire</translation>
+        <translation>URL d’inventaire</translation>
     </message>
     <message>
         <source>Copyright notice</source>
@@ -2215,7 +2215,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Pager</source>
-        <translation>Pager</translation>
+        <translation>Bipeur</translation>
     </message>
     <message>
         <source>Takes short messages</source>
@@ -2311,7 +2311,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Wide, over a whole landscape or town</source>
-        <translation>Large, sur tout un paysage ou une ville</translation>
+        <translation>Vue large d’un paysage ou d’une ville entière</translation>
     </message>
     <message>
         <source>aerial view</source>
@@ -2367,7 +2367,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Taken from near, details fill the frame</source>
-        <translation>Prise de près, des détails remplissent le cadre</translation>
+        <translation>Prise de près, les détails emplissent le cadre</translation>
     </message>
     <message>
         <source>action</source>
@@ -2731,7 +2731,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>About times long past</source>
-        <translation>Sur des temps lointains</translation>
+        <translation>Sur des époques lointaines</translation>
     </message>
     <message>
         <source>Horoscope</source>
@@ -3171,7 +3171,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Worth looking at</source>
-        <translation>Mérite le regard</translation>
+        <translation>Mérite l’attention</translation>
     </message>
     <message>
         <source>cropping</source>
@@ -3901,7 +3901,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Color space</source>
-        <translation>Espace couleur</translation>
+        <translation>Colorimétrie</translation>
     </message>
     <message>
         <source>COMMON</source>
@@ -4026,7 +4026,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     <message>
         <source>%1 missing: “%2”</source>
         <extracomment>%1 is a field that the photo has nothing in, %2 what the template gives instead</extracomment>
-        <translation>à défaut de %1 : « %2 »</translation>
+        <translation>manque : %1, donc « %2 »</translation>
     </message>
     <message>
         <source>%1 missing</source>
@@ -4072,7 +4072,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Perl interpreter not found at %1.</source>
-        <translation>Interpréteur Perl introuvable dans %1.</translation>
+        <translation>Interpréteur Perl introuvable : %1.</translation>
     </message>
     <message>
         <source>ExifTool exited with code %1: %2</source>
@@ -4744,7 +4744,7 @@ Button: writes what is shown to all places within photos that hold a field.</ext
     <message>
         <source>appends — existing values kept</source>
         <extracomment>What a save does to a list of each photo.</extracomment>
-        <translation>complète – valeurs existantes conservées</translation>
+        <translation>complète, sans rien remplacer</translation>
     </message>
     <message numerus="yes">
         <source>%n taken away</source>
@@ -4757,31 +4757,31 @@ Button: writes what is shown to all places within photos that hold a field.</ext
     <message>
         <source>Add ID + ↵</source>
         <extracomment>↵ is the Return key, which adds what was typed to a list.</extracomment>
-        <translation>Ajouter un ID + ↵</translation>
+        <translation>ID + ↵</translation>
     </message>
     <message>
         <source>Add age + ↵</source>
-        <translation>Ajouter un âge + ↵</translation>
+        <translation>Âge + ↵</translation>
     </message>
     <message>
         <source>Add organisation + ↵</source>
-        <translation>Ajouter une organisation + ↵</translation>
+        <translation>Organisation + ↵</translation>
     </message>
     <message>
         <source>Add code + ↵</source>
-        <translation>Ajouter un code + ↵</translation>
+        <translation>Code + ↵</translation>
     </message>
     <message>
         <source>Add keyword + ↵</source>
-        <translation>Ajouter un mot-clé + ↵</translation>
+        <translation>Mot-clé + ↵</translation>
     </message>
     <message>
         <source>Add to all + ↵</source>
-        <translation>Ajouter à toutes + ↵</translation>
+        <translation>Pour toutes + ↵</translation>
     </message>
     <message>
         <source>Multiple values — leave unchanged</source>
-        <translation>Valeurs multiples – laisser telles quelles</translation>
+        <translation>Valeurs multiples – inchangées</translation>
     </message>
     <message numerus="yes">
         <source>Will be written to %1 of %n photos</source>
@@ -4797,8 +4797,8 @@ Button: writes what is shown to all places within photos that hold a field.</ext
 ----------
 %1 is a number of photos.</extracomment>
         <translation>
-            <numerusform>Lecture de %1 autre…</numerusform>
-            <numerusform>Lecture de %1 autres…</numerusform>
+            <numerusform>Encore %1 à lire…</numerusform>
+            <numerusform>Encore %1 à lire…</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4849,7 +4849,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>No unsaved changes</source>
-        <translation>Aucune modification à enregistrer</translation>
+        <translation>Rien à enregistrer</translation>
     </message>
     <message numerus="yes">
         <source>%n unsaved change(s)</source>
@@ -4877,16 +4877,16 @@ Said behind a keyword. The numbers are of photos.</extracomment>
         <source>%n edit(s) of %1 left unsaved</source>
         <extracomment>Somebody went on without saving them. %1: “5 photos”.</extracomment>
         <translation>
-            <numerusform>%n modification laissée non enregistrée (%1)</numerusform>
-            <numerusform>%n modifications laissées non enregistrées (%1)</numerusform>
+            <numerusform>%n modification en suspens (%1)</numerusform>
+            <numerusform>%n modifications en suspens (%1)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n edit(s) left unsaved</source>
         <extracomment>Somebody went on without saving them.</extracomment>
         <translation>
-            <numerusform>%n modification laissée non enregistrée</numerusform>
-            <numerusform>%n modifications laissées non enregistrées</numerusform>
+            <numerusform>%n modif. en suspens</numerusform>
+            <numerusform>%n modif. en suspens</numerusform>
         </translation>
     </message>
     <message>
@@ -4922,7 +4922,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>Now</source>
         <extracomment>Button: puts the time of this moment into the field.</extracomment>
-        <translation>Maintenant</translation>
+        <translation>Actuelle</translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 places (differs|differ), another standard’s is shown</source>
@@ -5360,7 +5360,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>stored as a code</source>
         <extracomment>Under the terms of a vocabulary: files hold a term&apos;s code, not its name.</extracomment>
-        <translation>enregistré sous forme de code</translation>
+        <translation>enregistré comme code</translation>
     </message>
     <message>
         <source>In these %1</source>
@@ -5744,7 +5744,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>By a known photo</source>
-        <translation>D’après une photo connue</translation>
+        <translation>D’après une photo</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -5879,8 +5879,8 @@ Said behind a keyword. The numbers are of photos.</extracomment>
         <source>Reading %n more…</source>
         <comment>photos</comment>
         <translation>
-            <numerusform>Lecture de %n autre…</numerusform>
-            <numerusform>Lecture de %n autres…</numerusform>
+            <numerusform>Encore %n à lire…</numerusform>
+            <numerusform>Encore %n à lire…</numerusform>
         </translation>
     </message>
     <message>
@@ -6078,17 +6078,17 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Gain</source>
         <comment>photos gain a field</comment>
         <extracomment>Headings of columns: how many photos gain a field, change it, and lose it.</extracomment>
-        <translation>Ajout</translation>
+        <translation>Ajouté</translation>
     </message>
     <message>
         <source>Change</source>
         <comment>photos change a field</comment>
-        <translation>Changement</translation>
+        <translation>Modifié</translation>
     </message>
     <message>
         <source>Lose</source>
         <comment>photos lose a field</comment>
-        <translation>Perte</translation>
+        <translation>Perdu</translation>
     </message>
     <message>
         <source>What the sidecars hold is written into the photos themselves, also where it differs. The sidecars stay as they are.</source>
@@ -6141,24 +6141,24 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>%n photo(s) (gains|gain) it</source>
         <comment>a field</comment>
         <translation>
-            <numerusform>Ajout dans %n photo</numerusform>
-            <numerusform>Ajout dans %n photos</numerusform>
+            <numerusform>Ajouté dans %n photo</numerusform>
+            <numerusform>Ajouté dans %n photos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s) (changes|change) it</source>
         <comment>a field</comment>
         <translation>
-            <numerusform>Changement dans %n photo</numerusform>
-            <numerusform>Changement dans %n photos</numerusform>
+            <numerusform>Modifié dans %n photo</numerusform>
+            <numerusform>Modifié dans %n photos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s) (loses|lose) it</source>
         <comment>a field</comment>
         <translation>
-            <numerusform>Perte dans %n photo</numerusform>
-            <numerusform>Perte dans %n photos</numerusform>
+            <numerusform>Perdu dans %n photo</numerusform>
+            <numerusform>Perdu dans %n photos</numerusform>
         </translation>
     </message>
     <message>
@@ -6294,7 +6294,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Changed since opened</source>
-        <translation>Changées depuis l’ouverture</translation>
+        <translation>Modifiées depuis l’ouverture</translation>
     </message>
     <message>
         <source>Places differ</source>
@@ -6336,7 +6336,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Nothing left</source>
         <extracomment>No photo fits the filters.</extracomment>
-        <translation>Il ne reste rien</translation>
+        <translation>Plus aucune photo</translation>
     </message>
     <message>
         <source>All places agree</source>
@@ -6424,7 +6424,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Add name + ↵</source>
-        <translation>Ajouter un nom + ↵</translation>
+        <translation>Nom + ↵</translation>
     </message>
     <message>
         <source>Shortcut</source>
@@ -6476,7 +6476,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>No shortcut</source>
-        <translation>Aucun raccourci</translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>PREVIEW</source>
@@ -6507,7 +6507,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>from %1, step %2</source>
         <extracomment>How a counter counts. %1: its first number, %2: how far it is to the next.</extracomment>
-        <translation>à partir de %1, par pas de %2</translation>
+        <translation>à partir de %1, pas %2</translation>
     </message>
     <message>
         <source>or %1</source>
@@ -6728,7 +6728,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>0 to 5 rate while the list has the keyboard; ⌘⌥0 to ⌘⌥5 rate anywhere, one photo or many.</source>
-        <translation>0 à 5 notent quand la liste est active ; ⌘⌥0 à ⌘⌥5 notent partout, une photo ou plusieurs.</translation>
+        <translation>Les touches 0 à 5 attribuent une note quand la liste est active ; ⌘⌥0 à ⌘⌥5 le font partout, pour une photo ou plusieurs.</translation>
     </message>
     <message>
         <source>F11, or Space in the list, looks closely: the photo fills the window. A click or Z shows every pixel there, the arrow keys go on to the next photo at the same place, Escape returns.</source>
@@ -6804,7 +6804,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>The filter beside the search lists only photos that lack something, have few or many stars, are edited and not saved, or hold a text in any field. Tick several: a photo must fit all. Each count is that of all open photos.</source>
-        <translation>Le filtre à côté de la recherche ne liste que les photos auxquelles il manque quelque chose, qui ont peu ou beaucoup d’étoiles, qui sont modifiées sans être enregistrées, ou qui contiennent un texte dans un champ quelconque. Cochez-en plusieurs : une photo doit répondre à tous. Chaque nombre porte sur toutes les photos ouvertes.</translation>
+        <translation>Le filtre à côté de la recherche ne liste que les photos auxquelles il manque quelque chose, qui ont peu ou beaucoup d’étoiles, qui sont modifiées sans être enregistrées, ou qui contiennent un texte dans un champ quelconque. Cochez plusieurs critères : une photo doit répondre à tous. Chaque nombre porte sur toutes les photos ouvertes.</translation>
     </message>
     <message>
         <source>F8 goes to the next empty field: down the form, then on to the next photo. ⇧F8 goes back. With a filter for empty fields, only those count.</source>
@@ -6828,7 +6828,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>View ▸ Field Set chooses what is on screen at once: Captions, Press, Museum, Stock, Rights, Accessibility, or a set of your own. What a photo holds beside the set stays visible, and so does what you edited.</source>
-        <translation>Affichage ▸ Jeu de champs choisit ce qui est affiché d’emblée : Légendes, Presse, Musée, Banque d’images, Droits, Accessibilité, ou un jeu à vous. Ce qu’une photo contient hors du jeu reste visible, tout comme ce que vous avez modifié.</translation>
+        <translation>Affichage ▸ Jeu de champs choisit ce qui est affiché d’emblée : Légendes, Presse, Musée, Banque d’images, Droits, Accessibilité, ou un jeu personnalisé. Ce qu’une photo contient hors du jeu reste visible, tout comme ce que vous avez modifié.</translation>
     </message>
     <message>
         <source>A set may want fields. Empty ones have a dashed border, the lines of the sections count them, and F8 goes from one to the next, on to the next photo at the end. ⇧F8 goes back.</source>
@@ -6836,7 +6836,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Save What Is on Screen as Set… makes a set of your own; Edit Sets… changes what is in it and what it wants. Sets that come with Quorbel can be copied there.</source>
-        <translation>Enregistrer les champs affichés comme jeu… crée un jeu à vous ; Modifier les jeux… change ce qu’il contient et ce qu’il demande. Les jeux fournis avec Quorbel peuvent y être copiés.</translation>
+        <translation>Enregistrer les champs affichés comme jeu… crée un jeu personnalisé ; Modifier les jeux… change ce qu’il contient et ce qu’il demande. Les jeux fournis avec Quorbel peuvent y être copiés.</translation>
     </message>
     <message>
         <source>Default is the form as it was. Once you have chosen a set, or made one, they can be picked at the top of the form, too.</source>
@@ -6856,7 +6856,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>By a known photo: type when one of the photos was really taken, and all others go by the same amount.</source>
-        <translation>D’après une photo connue : indiquez quand l’une des photos a réellement été prise ; toutes les autres sont décalées d’autant.</translation>
+        <translation>D’après une photo : indiquez quand l’une des photos a réellement été prise ; toutes les autres sont décalées d’autant.</translation>
     </message>
     <message>
         <source>Time zone: sets the zone that the times are in. Keep the clock time, or let it move with the zone. Photos with a position can each get the zone that they were taken in.</source>
@@ -6892,7 +6892,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Quick keywords are the last ones you used, or a set of your own: click one, or press Alt+1 to Alt+9. The name of the set is a menu of all sets.</source>
-        <translation>Les mots-clés rapides sont les derniers utilisés, ou un jeu à vous : cliquez sur l’un d’eux, ou tapez ⌥1 à ⌥9. Le nom du jeu est un menu de tous les jeux.</translation>
+        <translation>Les mots-clés rapides sont les derniers utilisés, ou un jeu personnalisé : cliquez sur l’un d’eux, ou tapez ⌥1 à ⌥9. Le nom du jeu est un menu de tous les jeux.</translation>
     </message>
     <message>
         <source>Copying Fields &amp; Codes</source>
@@ -6900,7 +6900,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>What one photo says can be given to others, and texts that you type often can have short codes.</source>
-        <translation>Ce que dit une photo peut être donné à d’autres, et les textes que vous tapez souvent peuvent avoir des codes courts.</translation>
+        <translation>Ce que contient une photo peut être repris dans d’autres, et les textes que vous tapez souvent peuvent avoir des codes courts.</translation>
     </message>
     <message>
         <source>Edit ▸ Copy Fields (⌘⇧C) takes the fields of the selected photo as you see them. Edit ▸ Paste Fields… (⌘⇧V) shows what they would replace in the selected photos, and pastes those that you tick. Nothing is written before you save.</source>
@@ -6908,7 +6908,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Edit ▸ Paste Fields Again pastes with the same ticks, without asking. What you copied last is there in another window and after a restart, too.</source>
-        <translation>Édition ▸ Coller à nouveau les champs colle les mêmes champs cochés, sans rien demander. Ce que vous avez copié en dernier reste disponible dans une autre fenêtre et après un redémarrage.</translation>
+        <translation>Édition ▸ Coller à nouveau les champs colle les champs cochés la dernière fois, sans rien demander. Ce que vous avez copié en dernier reste disponible dans une autre fenêtre et après un redémarrage.</translation>
     </message>
     <message>
         <source>Choose a file of codes in Settings: a code, a tab and its text in each line. Then type =js= in a text or keyword, and js becomes its text. One Undo (⌘Z) gives the code back.</source>
@@ -6920,7 +6920,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>⌘1 to ⌘9 apply the templates that have these keys. What they fill in are edits, written when you save.</source>
-        <translation>⌘1 à ⌘9 appliquent les modèles qui ont ces touches. Ce qu’ils remplissent sont des modifications, écrites à l’enregistrement.</translation>
+        <translation>⌘1 à ⌘9 appliquent les modèles qui ont ces touches. Les textes ainsi remplis sont des modifications, écrites à l’enregistrement.</translation>
     </message>
     <message>
         <source>Each field is set, set only if it is empty, or gains the text behind or before its own.</source>
@@ -6997,7 +6997,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Optionally write an XMP sidecar instead of embedding, from Settings.</source>
-        <translation>Au choix, un fichier annexe XMP est écrit au lieu d’intégrer les métadonnées (paramètres).</translation>
+        <translation>Les paramètres permettent aussi d’écrire un fichier annexe XMP au lieu d’intégrer les métadonnées.</translation>
     </message>
     <message>
         <source>Raw Files</source>
@@ -7101,40 +7101,40 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Looking at %1 of %2 photos…</source>
         <extracomment>%1 of all %2 photos were looked at already.</extracomment>
         <translation>
-            <numerusform>Examen des photos : %1 sur %2…</numerusform>
-            <numerusform>Examen des photos : %1 sur %2…</numerusform>
+            <numerusform>Examen : %1 sur %2…</numerusform>
+            <numerusform>Examen : %1 sur %2…</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Filling in %1 of %2 photos…</source>
         <extracomment>%1 of all %2 photos were filled in already: what the program did not know of them yet was read.</extracomment>
         <translation>
-            <numerusform>Complément des données : %1 sur %2…</numerusform>
-            <numerusform>Complément des données : %1 sur %2…</numerusform>
+            <numerusform>Complément : %1 sur %2…</numerusform>
+            <numerusform>Complément : %1 sur %2…</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Reading %1 of %2 photos…</source>
         <extracomment>%1 of all %2 photos were read already.</extracomment>
         <translation>
-            <numerusform>Lecture des photos : %1 sur %2…</numerusform>
-            <numerusform>Lecture des photos : %1 sur %2…</numerusform>
+            <numerusform>Lecture : %1 sur %2…</numerusform>
+            <numerusform>Lecture : %1 sur %2…</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Renaming %1 of %2 photos…</source>
         <extracomment>%1 of all %2 photos were renamed already.</extracomment>
         <translation>
-            <numerusform>Renommage des photos : %1 sur %2…</numerusform>
-            <numerusform>Renommage des photos : %1 sur %2…</numerusform>
+            <numerusform>Renommage : %1 sur %2…</numerusform>
+            <numerusform>Renommage : %1 sur %2…</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Saving %1 of %2 photos…</source>
         <extracomment>%1 of all %2 photos were saved already.</extracomment>
         <translation>
-            <numerusform>Enregistrement des photos : %1 sur %2…</numerusform>
-            <numerusform>Enregistrement des photos : %1 sur %2…</numerusform>
+            <numerusform>Enregistrement : %1/%2…</numerusform>
+            <numerusform>Enregistrement : %1/%2…</numerusform>
         </translation>
     </message>
     <message>
@@ -7366,11 +7366,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Looking closely</source>
-        <translation>En vue de près</translation>
+        <translation>Dans la vue de près</translation>
     </message>
     <message>
         <source>Next or previous photo, at the same place</source>
-        <translation>Photo suivante ou précédente, au même endroit</translation>
+        <translation>Photo suivante ou précédente, même endroit</translation>
     </message>
     <message>
         <source>Every pixel, or the whole photo</source>
@@ -7378,15 +7378,15 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Larger or smaller</source>
-        <translation>Plus grand ou plus petit</translation>
+        <translation>Agrandir ou réduire</translation>
     </message>
     <message>
         <source>Move the photo across</source>
-        <translation>Déplacer la photo de côté</translation>
+        <translation>Déplacer horizontalement</translation>
     </message>
     <message>
         <source>Move the photo up or down</source>
-        <translation>Déplacer la photo vers le haut ou le bas</translation>
+        <translation>Déplacer verticalement</translation>
     </message>
     <message>
         <source>In a field</source>
@@ -7394,7 +7394,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Show its other languages, or add one</source>
-        <translation>Afficher ses autres langues, ou en ajouter une</translation>
+        <translation>Voir ses autres langues, en ajouter une</translation>
     </message>
     <message>
         <source>Hide its other languages</source>

@@ -93,7 +93,8 @@ QString problemOf(const Message& message, const QString& form, bool isWhole)
     const QStringList kept = keptIn(form);
     if (form.isEmpty())
         return u"is empty"_s;
-    if (isWhole ? kept != wanted : !std::all_of(kept.begin(), kept.end(), [&](const QString& it) { return wanted.contains(it); }))
+    if (isWhole ? kept != wanted
+                : !std::all_of(kept.begin(), kept.end(), [&](const QString& it) { return wanted.contains(it); }))
         return u"has other placeholders"_s;
     if (isWhole && message.source.contains(u"%n"_s) && !form.contains(u"%n"_s))
         return u"does not say the count"_s;
@@ -113,7 +114,7 @@ private slots:
     void everyTextOfALanguage();
 };
 
-// English counts stand in the text; a text without a count has none, and one with a count has both.
+// English writes the forms of a count into the text, where it has two; only texts with a count may do so.
 void tst_Translations::englishForms()
 {
     static const QRegularExpression choice(u"\\(s\\)|\\([^()|]*\\|[^()|]*\\)"_s);
@@ -121,7 +122,7 @@ void tst_Translations::englishForms()
     QVERIFY(all.size() > 900);
     QStringList wrong;
     for (const Message& message : all)
-        if (message.source.contains(choice) != message.isCounted || message.source.trimmed() != message.source)
+        if ((message.source.contains(choice) && !message.isCounted) || message.source.trimmed() != message.source)
             wrong.append(message.source);
     QCOMPARE(wrong, QStringList());
 }
@@ -130,7 +131,7 @@ void tst_Translations::everyTextOfALanguage_data()
 {
     QTest::addColumn<QString>("code");
     QTest::addColumn<int>("forms");  // as many as the language counts by
-    for (const auto& [code, forms] : { std::pair("de", 2), std::pair("fr", 2) })
+    for (const auto& [code, forms] : { std::pair("ar", 6), std::pair("de", 2), std::pair("es", 2), std::pair("fr", 2) })
         QTest::newRow(code) << QString::fromUtf8(code) << forms;
 }
 

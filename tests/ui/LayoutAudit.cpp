@@ -27,6 +27,13 @@ struct DrawnText {
     bool cut = false;
 };
 
+// Blanks and marks of the direction of writing have none.
+bool hasInk(const QString& text)
+{
+    return std::any_of(text.cbegin(), text.cend(),
+        [](QChar letter) { return !letter.isSpace() && letter.category() != QChar::Other_Format; });
+}
+
 // Notes texts, draws nothing.
 class TextEngine final : public QPaintEngine {
 public:
@@ -47,7 +54,7 @@ public:
 
     void drawTextItem(const QPointF& position, const QTextItem& item) override
     {
-        if (item.text().trimmed().isEmpty() || painter()->pen().color().alpha() == 0)
+        if (!hasInk(item.text()) || painter()->pen().color().alpha() == 0)
             return;
         QRectF ink = QFontMetricsF(item.font()).tightBoundingRect(item.text()).translated(position);
         ink.setLeft(position.x());

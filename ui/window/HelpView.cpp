@@ -176,7 +176,7 @@ QWidget* makePage(HelpTopic topic)
     auto* column = new QVBoxLayout(text);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(new ThemedLabel(title(topic), TextRole::text, 20, QFont::DemiBold));
+    column->addWidget(ThemedLabel::wrapped(title(topic), TextRole::text, 20, QFont::DemiBold));
     column->addSpacing(px(12));
     for (const HelpBlock& block : blocks(topic))
         addBlock(column, block);

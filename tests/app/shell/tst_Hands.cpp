@@ -1,6 +1,8 @@
 // Hands that stay on the keys, in the whole window: from photo to photo within a field, stars, the same as before; and
 // that no key is promised twice, or in vain.
 #include "app/shell/Menus.h"
+#include "core/language/Languages.h"
+#include "core/language/Texts.h"
 #include "tests/app/model/ModelFixture.h"
 #include "tests/support/OtherLanguage.h"
 #include "tests/ui/UiSupport.h"
@@ -22,6 +24,7 @@
 #include <QDir>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QScopeGuard>
 
 #include <atomic>
 #include <mutex>
@@ -162,6 +165,7 @@ private slots:
     void theGuardComesBetween();
     void goesOn();
     void starsAndTheSameAsBefore();
+    void noKeyTwice_data();
     void noKeyTwice();
     void toldKeysExist();
     void theSheetOfShortcuts();
@@ -300,8 +304,23 @@ void tst_Hands::starsAndTheSameAsBefore()
 }
 
 // In the window, and no letter twice in one menu.
+void tst_Hands::noKeyTwice_data()
+{
+    QTest::addColumn<QString>("language");
+    const QDir folder(qEnvironmentVariable("QUORBEL_TEST_SHARE") + u"/translations"_s);
+    const QStringList files = folder.entryList({ u"quorbel_*.qm"_s });
+    QVERIFY(files.size() > 1);
+    QTest::newRow("en") << u"en"_s;
+    for (const QString& file : files)
+        QTest::newRow(qPrintable(file)) << QString(file).remove(u"quorbel_"_s).remove(u".qm"_s);
+}
+
+// Neither a key nor, within a menu, a letter.
 void tst_Hands::noKeyTwice()
 {
+    QFETCH(QString, language);
+    QVERIFY(Languages::use(language, qEnvironmentVariable("QUORBEL_TEST_SHARE") + u"/translations"_s));
+    const auto english = qScopeGuard([] { Texts::use(nullptr); });
     HandsWindow f;
     QVERIFY(f.show());
     QMap<QString, QString> taken;

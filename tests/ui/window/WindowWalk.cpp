@@ -173,6 +173,9 @@ Scenes WindowWalk::scenes(const Witness& witness)
 
 void WindowWalk::see(Scenes& seen, const QString& name, QWidget* shown)
 {
+    if (const QString folder = qEnvironmentVariable("QUORBEL_TEST_PICTURES"); !folder.isEmpty())
+        shown->grab().save(
+            u"%1/%2-%3-%4pt.png"_s.arg(folder, name).arg(m_size.width()).arg(QApplication::font().pointSizeF()));
     seen.insert(name, audit(shown));
     if (m_witness)
         m_witness(name, shown);
@@ -197,9 +200,6 @@ void WindowWalk::look(Scenes& seen, const QString& name)
 void WindowWalk::look(Scenes& seen, const QString& name, QMainWindow& window)
 {
     settle();
-    if (const QString folder = qEnvironmentVariable("QUORBEL_TEST_PICTURES"); !folder.isEmpty())
-        window.grab().save(
-            u"%1/%2-%3-%4pt.png"_s.arg(folder, name).arg(m_size.width()).arg(QApplication::font().pointSizeF()));
     see(seen, name, &window);
 }
 

@@ -31,8 +31,13 @@ public:
         return result;
     }
 
-    // The letters in front of it tell a text from one that was shortened.
-    static QString endAt(const QString& text, qsizetype at) { return text.first(at).last(std::min<qsizetype>(at, 6)); }
+    // The letters in front of it tell a text from one that was shortened, without the numbers that were put in.
+    static QString endAt(const QString& text, qsizetype at)
+    {
+        static const QRegularExpression numbers(u"[%0-9]"_s);
+        const QString before = text.first(at).remove(numbers);
+        return before.last(std::min<qsizetype>(before.size(), 6));
+    }
 
     mutable QSet<QString> told;
     mutable QSet<QString> ends;
@@ -50,10 +55,11 @@ bool mayBeShort(const QString& screen, const QString& text)
 QStringList shortened(const QString& screen, const LayoutAudit& scene, const NotingTranslator& texts)
 {
     // Of no language.
-    static const QSet<QString> ends{ u"A "_s, u"0 "_s, u"tps://"_s };
+    static const QSet<QString> ends{ u"A "_s, u" "_s, u"tps://"_s };
     QStringList found;
     for (const QString& text : scene.texts)
-        for (qsizetype at = text.indexOf(u'…'); at >= 0; at = text.indexOf(u'…', at + 1))
+        // One that begins a text stands where the direction of writing changes.
+        for (qsizetype at = text.indexOf(u'…', 1); at >= 0; at = text.indexOf(u'…', at + 1))
             if (const QString end = NotingTranslator::endAt(text, at);
                 !texts.ends.contains(end) && !ends.contains(end) && !mayBeShort(screen, text))
                 found.append(u"shortened: "_s + text);
