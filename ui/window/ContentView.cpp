@@ -7,7 +7,10 @@
 #include "ui/closeup/CloseupView.h"
 #include "ui/controls/BriefNote.h"
 #include "ui/controls/ResizeHandle.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
+#include "ui/controls/theme/Motion.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/InspectorFooter.h"
 #include "ui/inspector/KeptField.h"
@@ -77,7 +80,7 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const Theme& theme = Theme::of(this);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         const int empty = width() - static_cast<ResizeHandle*>(parentWidget())->lineWidth();
         painter.fillRect(0, m_sidebar->listTop() - 1, empty, 1, theme.hair);
         if (const auto line = m_sidebar->stuckLine(); line && *line >= m_sidebar->listTop())
@@ -344,12 +347,16 @@ void ContentView::showTitle()
 
 void ContentView::applyTheme()
 {
+    reduceMotion(m_systemScheme.isMotionReduced());
     setTheme(m_window, wantedTheme());
 }
 
 const Theme& ContentView::wantedTheme() const
 {
     const std::optional<ColorScheme> chosen = m_model.preferences().colorOverride();
+    // Light and dark are a choice against the desktop's high contrast, too.
+    if (!chosen && m_systemScheme.isContrastHigh())
+        return HighContrast::palette(m_systemScheme.isDark());
     const bool isDark = chosen ? *chosen == ColorScheme::dark : m_systemScheme.isDark();
     return isDark ? Theme::dark() : Theme::light();
 }

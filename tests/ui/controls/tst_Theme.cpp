@@ -3,6 +3,7 @@
 #include "ui/controls/Labels.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/theme/AnimatedValue.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/SymbolText.h"
@@ -13,6 +14,22 @@
 
 using namespace Quorbel;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QList<std::pair<const char*, const Theme*>> palettes()
+{
+    return { { "light", &Theme::light() }, { "dark", &Theme::dark() },
+        { "high contrast", &HighContrast::palette(false) }, { "high contrast, dark", &HighContrast::palette(true) } };
+}
+
+// What is seen of a translucent colour.
+QColor onGround(const QColor& color, const QColor& ground)
+{
+    return mixed(ground, withAlpha(color, 1), color.alphaF());
+}
+
+}  // namespace
 
 class tst_Theme : public QObject {
     Q_OBJECT
@@ -25,11 +42,14 @@ private slots:
         QTest::addColumn<QColor>("ink");
         QTest::addColumn<QColor>("ground");
         QTest::addColumn<qreal>("atLeast");
-        for (const bool dark : { false, true }) {
-            const Theme& t = dark ? Theme::dark() : Theme::light();
-            const auto row = [&](const char* name, const QColor& ink, const QColor& ground, qreal atLeast) {
-                QTest::addRow("%s: %s", dark ? "dark" : "light", name) << ink << ground << atLeast;
+        for (const auto& [name, theme] : palettes()) {
+            const Theme& t = *theme;
+            const bool strong = HighContrast::isOn(t);
+            const auto row = [&, name = name](
+                                 const char* what, const QColor& ink, const QColor& ground, qreal atLeast) {
+                QTest::addRow("%s: %s", name, what) << onGround(ink, t.panel) << onGround(ground, t.panel) << atLeast;
             };
+            const qreal most = strong ? 7 : 4.5;
             row("text on the window", t.text, t.bg, 7);
             row("text on panels", t.text, t.panel, 7);
             row("text on title bars", t.text, t.titlebar, 7);
@@ -37,15 +57,41 @@ private slots:
             row("text in edited fields", t.text, t.amberBg, 7);
             row("text on a selected row", t.selText, t.sel, 7);
             row("text on a primary button", t.accentText, t.accent, 7);
+            row("text on a hovered primary button", t.accentText, t.derived.primaryHover, 7);
+            row("text on a pressed primary button", t.accentText, t.derived.primaryPressed, 7);
             row("text on a chip", t.text, t.chip, 7);
-            row("labels on panels", t.derived.label, t.panel, 4.5);
-            row("help lines on panels", t.derived.amberText, t.panel, 4.5);
-            row("destructive button on panels", t.derived.destructive, t.panel, 4.5);
-            row("secondary text on the window", t.muted, t.bg, 3);
-            row("secondary text on panels", t.muted, t.panel, 3);
+            row("text on a hovered row", t.text, t.derived.rowHover, 7);
+            row("text on a pressed ground", t.text, t.derived.pressed, 7);
+            row("text on a pressed button", t.text, t.derived.secondaryPressed, 7);
+            row("labels on panels", t.derived.label, t.panel, most);
+            row("labels on title bars", t.derived.label, t.titlebar, most);
+            row("labels on a hovered ground", t.derived.label, t.derived.hover, most);
+            row("help lines on panels", t.derived.amberText, t.panel, most);
+            row("help lines on amber", t.derived.amberText, t.amberBg, most);
+            row("destructive button on panels", t.derived.destructive, t.panel, most);
+            // The design's own greys: what must be read is `label`.
+            row("secondary text on the window", t.muted, t.bg, strong ? 7 : 3);
+            row("secondary text on panels", t.muted, t.panel, strong ? 7 : 3);
+            row("secondary text in fields", t.muted, t.field, strong ? 7 : 3);
+            row("secondary text on a selected row", t.selSub, t.sel, strong ? 7 : 4);
             row("focus ring on panels", t.derived.focusStrong, t.panel, 3);
             row("focus ring on fields", t.derived.focusStrong, t.field, 3);
             row("amber check box on panels", t.amber, t.panel, 3);
+            row("progress on its track", t.accent, t.derived.track, 3);
+            if (!strong)
+                continue;
+            row("disabled text", withAlpha(t.text, HighContrast::disabledOpacity(t)), t.panel, 4.5);
+            row("disabled primary button", t.derived.primaryOffText, t.derived.primaryOff, 4.5);
+            row("border of fields", t.fieldLine, t.panel, 3);
+            row("border of buttons", t.btnLine, t.panel, 3);
+            row("border of what is wanted", t.derived.dashedLine, t.panel, 3);
+            row("border of edited fields", t.amberLine, t.panel, 3);
+            row("border of chips", t.derived.chipLine, t.panel, 3);
+            row("lines between parts", t.line, t.panel, 3);
+            row("ring of fields", t.derived.ring, t.panel, 3);
+            row("progress track", t.derived.track, t.panel, 3);
+            row("scroll bar", t.scroll, t.panel, 3);
+            row("switch that is off", t.scroll, t.panel, 3);
         }
     }
     void readableContrast()
@@ -68,10 +114,10 @@ private slots:
         QTEST(colorFromHex(text).name(QColor::HexArgb), "expected");
     }
 
-    void everyRoleIsSetInBothPalettes()
+    void everyRoleIsSetInAllPalettes()
     {
         // A role that a table forgot is an invalid colour, and is drawn black.
-        for (const Theme* theme : { &Theme::light(), &Theme::dark() }) {
+        for (const auto& [name, theme] : palettes()) {
             for (const QColor& color : { theme->bg, theme->panel, theme->titlebar, theme->text, theme->muted,
                      theme->line, theme->hair, theme->field, theme->fieldLine, theme->sel, theme->selText,
                      theme->selSub, theme->accent, theme->accentText, theme->btn, theme->btnLine, theme->amber,

@@ -1,7 +1,9 @@
 #include "ui/controls/theme/FocusRing.h"
 
 #include "ui/controls/theme/AnimatedValue.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QAbstractScrollArea>
@@ -79,16 +81,17 @@ protected:
         if (!m_control)
             return;
         const Theme& theme = Theme::of(m_control);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setOpacity(m_opacity.value());
         m_paintedAmber = isAmber();
         if (m_options.shape == RingShape::field) {
-            stroke(painter, 0, 2, m_paintedAmber ? theme.derived.ringAmber : theme.derived.ring);
+            stroke(painter, 0, HighContrast::isOn(theme) ? 3 : 2,
+                m_paintedAmber ? theme.derived.ringAmber : theme.derived.ring);
             return;
         }
         const qreal gap = m_options.shape == RingShape::button ? 1.5 : 0;
-        stroke(painter, gap, 2, theme.focus);
+        stroke(painter, gap, HighContrast::isOn(theme) ? 2.5 : 2, theme.focus);
         stroke(painter, gap, .75, theme.derived.focusStrong);
     }
 

@@ -1,5 +1,6 @@
 #include "ui/controls/theme/Metrics.h"
 
+#include "ui/controls/theme/Motion.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/controls/theme/VerbatimFonts.h"
 
@@ -24,6 +25,8 @@ constexpr qreal smallestStandard = 12;
 constexpr qreal largestStandard = 14.7;
 constexpr qreal pointsPerInch = 72;
 constexpr qreal standardDotsPerInch = 96;  // X11's, and Wayland's at a scale of 1
+
+bool isMotionUnwanted = false;
 
 qreal scaleOf(const QFont& font)
 {
@@ -135,9 +138,14 @@ QFont verbatimMonoFont(qreal points)
     return VerbatimFonts::verbatim(monoFont(points));
 }
 
+void reduceMotion(bool asked)
+{
+    isMotionUnwanted = asked;
+}
+
 bool motionEnabled(const QWidget* widget)
 {
-    if (qEnvironmentVariableIntValue("QUORBEL_REDUCE_MOTION") != 0)
+    if (isMotionUnwanted || qEnvironmentVariableIntValue("QUORBEL_REDUCE_MOTION") != 0)
         return false;
     return widget->style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, widget) > 0;
 }

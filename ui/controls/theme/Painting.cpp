@@ -1,5 +1,6 @@
 #include "ui/controls/theme/Painting.h"
 
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -61,10 +62,14 @@ void paintFieldFrame(QPainter& painter, const QRectF& rect, const FieldState& st
         line = state.edited ? theme.amber : theme.derived.focusStrong;
     if (!state.enabled) {
         ground = theme.derived.fieldOff;
-        line = theme.line;
+        line = HighContrast::isOn(theme) ? theme.derived.primaryOffText : theme.line;
     }
     const bool isDashed = state.isGap && !state.focused;
-    paintBox(painter, rect, pxF(7), ground, isDashed ? dashedPen(line) : QPen(line, 1));
+    const bool isMarked = state.enabled && (state.edited || state.focused || isDashed);
+    const qreal width = isMarked ? HighContrast::markedLine(theme) : 1;
+    QPen border = isDashed ? dashedPen(line) : QPen(line);
+    border.setWidthF(width);
+    paintBox(painter, rect, pxF(7), ground, border);
 }
 
 }  // namespace Quorbel

@@ -1,5 +1,7 @@
 #include "ui/controls/theme/Theme.h"
 
+#include "ui/controls/theme/HighContrast.h"
+
 #include <QApplication>
 #include <QPointer>
 #include <QVariant>
@@ -16,90 +18,89 @@ namespace {
 
 constexpr const char* themeProperty = "quorbelTheme";
 
-// One role in both palettes.
+// The columns of the tables below. With high contrast all is read as black on white or white on black; colours only
+// underline what shapes and borders say.
+enum Column { lightColumn, darkColumn, strongLightColumn, strongDarkColumn, columnCount };
+
+// One role in all palettes.
 struct RoleRow {
     QColor Theme::*role;
-    const char* light;
-    const char* dark;
+    const char* hex[columnCount];
 };
 
-// One derived colour in both palettes; opacities of 1 but where stated.
+// One derived colour in all palettes; opacities of 1 but where stated.
 struct DerivedRow {
     QColor DerivedColors::*role;
-    const char* light;
-    const char* dark;
-    qreal lightAlpha = 1;
-    qreal darkAlpha = 1;
+    const char* hex[columnCount];
+    qreal alpha[columnCount] = { 1, 1, 1, 1 };
 };
 
 constexpr RoleRow roleRows[] = {
-    { &Theme::bg, "ffffff", "1f1f22" },
-    { &Theme::panel, "f6f5f2", "27272a" },
-    { &Theme::titlebar, "efedea", "2c2c2f" },
-    { &Theme::text, "1d1d1f", "ededed" },
-    { &Theme::muted, "86847f", "908e8a" },
-    { &Theme::line, "e6e3dd", "3a3a3e" },
-    { &Theme::hair, "f0ede7", "303034" },
-    { &Theme::field, "ffffff", "2c2c30" },
-    { &Theme::fieldLine, "d9d6d0", "48484d" },
-    { &Theme::sel, "1d1d1f", "e8e7e3" },
-    { &Theme::selText, "ffffff", "1d1d1f" },
-    { &Theme::selSub, "b6b4af", "6f6e6b" },
-    { &Theme::accent, "1d1d1f", "e8e7e3" },
-    { &Theme::accentText, "ffffff", "1d1d1f" },
-    { &Theme::btn, "ffffff", "34343a" },
-    { &Theme::btnLine, "cdcbc4", "48484d" },
-    { &Theme::amber, "9a7a1c", "d8b85a" },
-    { &Theme::amberBg, "fbf2d4", "39331f" },
-    { &Theme::amberLine, "e7d28d", "6b5a2a" },
-    { &Theme::scroll, "c9c7c1", "48484d" },
-    { &Theme::focus, "9a9a9f", "7a7a80" },
-    { &Theme::chip, "f3f2ee", "34343a" },
-    { &Theme::previewBg, "eceae5", "161618" },
+    { &Theme::bg, { "ffffff", "1f1f22", "ffffff", "000000" } },
+    { &Theme::panel, { "f6f5f2", "27272a", "ffffff", "000000" } },
+    { &Theme::titlebar, { "efedea", "2c2c2f", "ffffff", "000000" } },
+    { &Theme::text, { "1d1d1f", "ededed", "000000", "ffffff" } },
+    { &Theme::muted, { "86847f", "908e8a", "3d3d3d", "d2d2d2" } },
+    { &Theme::line, { "e6e3dd", "3a3a3e", "000000", "ffffff" } },
+    { &Theme::hair, { "f0ede7", "303034", "000000", "ffffff" } },
+    { &Theme::field, { "ffffff", "2c2c30", "ffffff", "000000" } },
+    { &Theme::fieldLine, { "d9d6d0", "48484d", "000000", "ffffff" } },
+    { &Theme::sel, { "1d1d1f", "e8e7e3", "000000", "ffffff" } },
+    { &Theme::selText, { "ffffff", "1d1d1f", "ffffff", "000000" } },
+    { &Theme::selSub, { "b6b4af", "6f6e6b", "e4e4e4", "262626" } },
+    { &Theme::accent, { "1d1d1f", "e8e7e3", "000000", "ffffff" } },
+    { &Theme::accentText, { "ffffff", "1d1d1f", "ffffff", "000000" } },
+    { &Theme::btn, { "ffffff", "34343a", "ffffff", "000000" } },
+    { &Theme::btnLine, { "cdcbc4", "48484d", "000000", "ffffff" } },
+    { &Theme::amber, { "9a7a1c", "d8b85a", "5c4100", "ffd54a" } },
+    { &Theme::amberBg, { "fbf2d4", "39331f", "fff3c2", "2b2300" } },
+    { &Theme::amberLine, { "e7d28d", "6b5a2a", "5c4100", "ffd54a" } },
+    { &Theme::scroll, { "c9c7c1", "48484d", "595959", "b4b4b4" } },
+    { &Theme::focus, { "9a9a9f", "7a7a80", "0a3fb8", "6fc6ff" } },
+    { &Theme::chip, { "f3f2ee", "34343a", "ffffff", "000000" } },
+    { &Theme::previewBg, { "eceae5", "161618", "ffffff", "000000" } },
 };
 
 constexpr DerivedRow derivedRows[] = {
-    { &DerivedColors::label, "4b4a4a", "c2c1be" },
-    { &DerivedColors::hover, "000000", "ffffff", .05, .06 },
-    { &DerivedColors::pressed, "000000", "ffffff", .10, .11 },
-    { &DerivedColors::rowHover, "f3f2ee", "2a2a2e" },
-    { &DerivedColors::primaryHover, "3a3a3d", "ffffff" },
-    { &DerivedColors::primaryPressed, "000000", "cfcec9" },
-    { &DerivedColors::primaryOff, "dedbd5", "3a3a3e" },
-    { &DerivedColors::primaryOffText, "97948e", "7c7a78" },
-    { &DerivedColors::secondaryHover, "f8f7f5", "3d3d44" },
-    { &DerivedColors::secondaryHoverLine, "b5b2aa", "5d5d64" },
-    { &DerivedColors::secondaryPressed, "eeece8", "2e2e33" },
-    { &DerivedColors::dashedLine, "b5b2aa", "5d5d64" },
-    { &DerivedColors::destructive, "a8321f", "ee8f7f" },
-    { &DerivedColors::destructiveHover, "a8321f", "ee8f7f", .07, .10 },
-    { &DerivedColors::destructivePressed, "a8321f", "ee8f7f", .14, .18 },
-    { &DerivedColors::fieldHoverLine, "bfbcb5", "5d5d64" },
-    { &DerivedColors::fieldOff, "f6f5f2", "27272a" },
-    { &DerivedColors::amberText, "7d6314", "d8b85a" },
-    { &DerivedColors::chipLine, "e6e3dd", "424248" },
-    { &DerivedColors::chipHover, "e9e7e2", "3f3f46" },
-    { &DerivedColors::track, "e2dfd9", "3a3a3e" },
-    { &DerivedColors::scrollHover, "aeaca6", "5d5d64" },
-    { &DerivedColors::switchKnob, "ffffff", "c2c1be" },
-    { &DerivedColors::ring, "9a9a9f", "7a7a80", .34, .42 },
-    { &DerivedColors::ringAmber, "9a7a1c", "d8b85a", .24, .26 },
-    { &DerivedColors::focusStrong, "6e6e73", "a4a4aa" },
-    { &DerivedColors::thumbEdge, "000000", "ffffff", .14, .12 },
-    { &DerivedColors::dim, "000000", "000000", .24, .45 },
+    { &DerivedColors::label, { "4b4a4a", "c2c1be", "000000", "ffffff" } },
+    { &DerivedColors::hover, { "000000", "ffffff", "000000", "ffffff" }, { .05, .06, .12, .20 } },
+    { &DerivedColors::pressed, { "000000", "ffffff", "000000", "ffffff" }, { .10, .11, .22, .30 } },
+    { &DerivedColors::rowHover, { "f3f2ee", "2a2a2e", "e0e0e0", "333333" } },
+    { &DerivedColors::primaryHover, { "3a3a3d", "ffffff", "333333", "d6d6d6" } },
+    { &DerivedColors::primaryPressed, { "000000", "cfcec9", "4d4d4d", "bdbdbd" } },
+    { &DerivedColors::primaryOff, { "dedbd5", "3a3a3e", "ffffff", "000000" } },
+    { &DerivedColors::primaryOffText, { "97948e", "7c7a78", "595959", "a6a6a6" } },
+    { &DerivedColors::secondaryHover, { "f8f7f5", "3d3d44", "e0e0e0", "333333" } },
+    { &DerivedColors::secondaryHoverLine, { "b5b2aa", "5d5d64", "000000", "ffffff" } },
+    { &DerivedColors::secondaryPressed, { "eeece8", "2e2e33", "c7c7c7", "4d4d4d" } },
+    { &DerivedColors::dashedLine, { "b5b2aa", "5d5d64", "000000", "ffffff" } },
+    { &DerivedColors::destructive, { "a8321f", "ee8f7f", "8f0000", "ffa79c" } },
+    { &DerivedColors::destructiveHover, { "a8321f", "ee8f7f", "8f0000", "ffa79c" }, { .07, .10, .10, .16 } },
+    { &DerivedColors::destructivePressed, { "a8321f", "ee8f7f", "8f0000", "ffa79c" }, { .14, .18, .18, .26 } },
+    { &DerivedColors::fieldHoverLine, { "bfbcb5", "5d5d64", "000000", "ffffff" } },
+    { &DerivedColors::fieldOff, { "f6f5f2", "27272a", "ffffff", "000000" } },
+    { &DerivedColors::amberText, { "7d6314", "d8b85a", "5c4100", "ffd54a" } },
+    { &DerivedColors::chipLine, { "e6e3dd", "424248", "000000", "ffffff" } },
+    { &DerivedColors::chipHover, { "e9e7e2", "3f3f46", "e0e0e0", "333333" } },
+    { &DerivedColors::track, { "e2dfd9", "3a3a3e", "8c8c8c", "737373" } },
+    { &DerivedColors::scrollHover, { "aeaca6", "5d5d64", "000000", "ffffff" } },
+    { &DerivedColors::switchKnob, { "ffffff", "c2c1be", "ffffff", "000000" } },
+    { &DerivedColors::ring, { "9a9a9f", "7a7a80", "0a3fb8", "6fc6ff" }, { .34, .42, 1, 1 } },
+    { &DerivedColors::ringAmber, { "9a7a1c", "d8b85a", "0a3fb8", "6fc6ff" }, { .24, .26, 1, 1 } },
+    { &DerivedColors::focusStrong, { "6e6e73", "a4a4aa", "0a3fb8", "6fc6ff" } },
+    { &DerivedColors::thumbEdge, { "000000", "ffffff", "000000", "ffffff" }, { .14, .12, .60, .60 } },
+    { &DerivedColors::dim, { "000000", "000000", "000000", "000000" }, { .24, .45, .50, .60 } },
 };
 
-Theme makeTheme(bool dark)
+Theme makeTheme(Column column)
 {
     Theme theme;
-    theme.isDark = dark;
+    theme.isDark = column == darkColumn || column == strongDarkColumn;
     for (const RoleRow& row : roleRows)
-        theme.*row.role = colorFromHex(QString::fromLatin1(dark ? row.dark : row.light));
-    theme.shadow = withAlpha(Qt::black, dark ? .44 : .17);
-    for (const DerivedRow& row : derivedRows) {
-        const QColor color = colorFromHex(QString::fromLatin1(dark ? row.dark : row.light));
-        theme.derived.*row.role = withAlpha(color, dark ? row.darkAlpha : row.lightAlpha);
-    }
+        theme.*row.role = colorFromHex(QString::fromLatin1(row.hex[column]));
+    theme.shadow = withAlpha(Qt::black, theme.isDark ? .44 : .17);
+    for (const DerivedRow& row : derivedRows)
+        theme.derived.*row.role = withAlpha(colorFromHex(QString::fromLatin1(row.hex[column])), row.alpha[column]);
     return theme;
 }
 
@@ -143,14 +144,21 @@ protected:
 
 const Theme& Theme::light()
 {
-    static const Theme theme = makeTheme(false);
+    static const Theme theme = makeTheme(lightColumn);
     return theme;
 }
 
 const Theme& Theme::dark()
 {
-    static const Theme theme = makeTheme(true);
+    static const Theme theme = makeTheme(darkColumn);
     return theme;
+}
+
+const Theme& HighContrast::palette(bool dark)
+{
+    static const Theme onWhite = makeTheme(strongLightColumn);
+    static const Theme onBlack = makeTheme(strongDarkColumn);
+    return dark ? onBlack : onWhite;
 }
 
 const Theme& Theme::of(const QWidget* widget)
