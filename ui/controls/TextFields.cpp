@@ -6,6 +6,7 @@
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -18,6 +19,7 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextLayout>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -100,7 +102,9 @@ void QBTextField::restyle()
     setPalette(textPalette(Theme::of(this)));
     setFont(m_mono ? verbatimMonoFont(13) : verbatimFont(13));
     const int side = px(m_bare ? 7 : 10) - builtInMargin;
-    setTextMargins(m_icon.isEmpty() ? side : px(31) - builtInMargin, 0, qMax(side, m_roomAtEnd), 0);
+    const int start = m_icon.isEmpty() ? side : px(31) - builtInMargin;
+    const int end = qMax(side, m_roomAtEnd);
+    setTextMargins(isRightToLeft() ? end : start, 0, isRightToLeft() ? start : end, 0);
     updateGeometry();
 }
 
@@ -188,7 +192,10 @@ void QBTextField::keyPressEvent(QKeyEvent* event)
 // Some input methods hand over every letter.
 void QBTextField::inputMethodEvent(QInputMethodEvent* event)
 {
+    const bool wasComposing = std::exchange(m_isComposing, !event->preeditString().isEmpty());
     QLineEdit::inputMethodEvent(event);
+    if (wasComposing != m_isComposing)
+        update();
     if (endsCode(event->commitString()) && event->preeditString().isEmpty())
         replaceCode();
 }
@@ -226,15 +233,15 @@ QRect QBTextField::textRect() const
 void QBTextField::paintEvent(QPaintEvent* event)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     const bool isGap = m_wanted && text().isEmpty();
     if (!m_bare)
         paintFieldFrame(painter, rect(), { isEnabled(), hasFocus(), m_edited, m_fade->hover(), isGap }, theme);
     if (!m_icon.isEmpty()) {
         const QRectF place(pxF(9), 0, pxF(15), height());
-        Icon::paint(painter, place, m_icon, pxF(15), hasFocus() ? theme.text : theme.muted);
+        Icon::paint(painter, mirrored(place, this), m_icon, pxF(15), hasFocus() ? theme.text : theme.muted);
     }
-    if (text().isEmpty() && !placeholderText().isEmpty()) {
+    if (text().isEmpty() && !m_isComposing && !placeholderText().isEmpty()) {
         QFont font = sansFont(13);
         font.setItalic(m_italicPlaceholder);
         painter.setFont(font);
@@ -283,8 +290,10 @@ QBTextArea::QBTextArea(QWidget* parent)
         viewport()->update();
         if (m_wanted)
             update();
-        if (!m_binding)
-            emit textEdited(toPlainText());
+        // What an input method composes changes the document, too, but not yet the text.
+        const QString text = toPlainText();
+        if (std::exchange(m_told, text) != text && !m_binding)
+            emit textEdited(text);
     });
 }
 
@@ -294,7 +303,8 @@ void QBTextArea::restyle()
     setFont(verbatimFont(13));
     setCursorWidth(1);
     // The border takes one pixel of the padding; the viewport is what is left.
-    setViewportMargins(px(10), px(9), qMax(px(10), m_roomAtEnd), px(9));
+    const int end = qMax(px(10), m_roomAtEnd);
+    setViewportMargins(isRightToLeft() ? end : px(10), px(9), isRightToLeft() ? px(10) : end, px(9));
     grow();
 }
 
@@ -383,7 +393,7 @@ void QBTextArea::changeEvent(QEvent* event)
 bool QBTextArea::event(QEvent* event)
 {
     if (event->type() == QEvent::Paint) {
-        QPainter painter(this);
+        DirectedPainter painter(this);
         const bool isGap = m_wanted && document()->isEmpty();
         const FieldState state{ isEnabled(), hasFocus(), m_edited, m_fade->hover(), isGap };
         paintFieldFrame(painter, rect(), state, Theme::of(this));
@@ -395,9 +405,9 @@ bool QBTextArea::event(QEvent* event)
 void QBTextArea::paintEvent(QPaintEvent* event)
 {
     QPlainTextEdit::paintEvent(event);
-    if (placeholderText().isEmpty() || !document()->isEmpty())
+    if (placeholderText().isEmpty() || !document()->isEmpty() || isComposing())
         return;
-    QPainter painter(viewport());
+    DirectedPainter painter(viewport());
     QFont font = sansFont(13);
     font.setItalic(m_italicPlaceholder);
     painter.setFont(font);
@@ -424,6 +434,11 @@ void QBTextArea::inputMethodEvent(QInputMethodEvent* event)
     QPlainTextEdit::inputMethodEvent(event);
     if (endsCode(event->commitString()) && event->preeditString().isEmpty())
         replaceCode();
+}
+
+bool QBTextArea::isComposing() const
+{
+    return !textCursor().block().layout()->preeditAreaText().isEmpty();
 }
 
 void QBTextArea::replaceCode()

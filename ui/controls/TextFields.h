@@ -63,6 +63,7 @@ private:
     int m_roomAtEnd = 0;
     bool m_italicPlaceholder = false;
     CodeTexts m_codes;
+    bool m_isComposing = false;  ///< an input method holds letters that are not in the text yet
     QString m_replacedCode;  ///< the one that was last replaced, with its signs
 };
 
@@ -105,6 +106,7 @@ protected:
 private:
     void restyle();
     void grow();
+    bool isComposing() const;
     void replaceCode();
 
     HoverFade* m_fade;
@@ -113,6 +115,7 @@ private:
     bool m_wanted = false;
     bool m_italicPlaceholder = false;
     bool m_binding = false;
+    QString m_told;  ///< the text when it was last told of
     CodeTexts m_codes;
 };
 

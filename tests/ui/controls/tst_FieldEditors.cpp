@@ -56,6 +56,14 @@ struct KeywordOwner {
     QStringList added{};
 };
 
+// What an input method holds, and what it hands over.
+void compose(QWidget* widget, const QString& composed, const QString& commit = {})
+{
+    QInputMethodEvent event(composed, {});
+    event.setCommitString(commit);
+    QApplication::sendEvent(widget, &event);
+}
+
 // js and AB stand for something.
 std::optional<QString> codeText(const QString& code)
 {
@@ -226,22 +234,71 @@ private slots:
         stage.show();
         field->setCodes(codeText);
         area->setCodes(codeText);
-        const auto commit = [](QWidget* widget, const QString& text, const QString& composed = {}) {
-            QInputMethodEvent event(composed, {});
-            event.setCommitString(text);
-            QApplication::sendEvent(widget, &event);
-        };
         for (QWidget* widget : QList<QWidget*>{ field, area }) {
             widget->setFocus();
-            commit(widget, u"=AB"_s);
-            commit(widget, {}, u"="_s);
-            commit(widget, u"="_s);
+            compose(widget, {}, u"=AB"_s);
+            compose(widget, u"="_s);
+            compose(widget, {}, u"="_s);
         }
         QCOMPARE(field->text(), u"Ana"_s);
         QCOMPARE(area->text(), u"Ana"_s);
         field->setReadOnly(true);
         QTest::keyClicks(field, u"=AB="_s);
         QCOMPARE(field->text(), u"Ana"_s);
+    }
+
+    // A syllable that is half typed is drawn, and nothing else: no edit, and no placeholder under it.
+    void whatIsComposedIsNoEditYet()
+    {
+        Test::Stage stage;
+        auto* field = stage.add(new QBTextField);
+        auto* area = stage.add(new QBTextArea);
+        auto* tokens = stage.add(new TokenEdit(true));
+        QStringList edits;
+        connect(field, &QLineEdit::textEdited, field, [&] { edits.append(u"field"_s); });
+        connect(area, &QBTextArea::textEdited, area, [&] { edits.append(u"area"_s); });
+        connect(tokens, &TokenEdit::edited, tokens, [&] { edits.append(u"tokens"_s); });
+        field->setPlaceholder(u"██████"_s);
+        area->setPlaceholder(u"██████"_s);
+        stage.show();
+        const auto isPlaceholderSeen = [](QWidget* widget) {
+            return Test::pixelsLike(widget->grab().toImage(), Theme::light().muted) > 100;
+        };
+        for (QWidget* widget : QList<QWidget*>{ field, area, tokens }) {
+            widget->setFocus();
+            QCOMPARE(isPlaceholderSeen(widget), widget != tokens);
+            compose(widget, u"██"_s);
+            QCOMPARE(edits, QStringList());
+            QVERIFY(!isPlaceholderSeen(widget));
+            QVERIFY(Test::pixelsLike(widget->grab().toImage(), Theme::light().text) > 100);
+            compose(widget, {});
+            QCOMPARE(edits, QStringList());
+            QCOMPARE(isPlaceholderSeen(widget), widget != tokens);
+            compose(widget, u"か"_s);
+            compose(widget, {}, u"蚊"_s);
+            QCOMPARE(std::exchange(edits, {}).size(), 1);
+        }
+        QCOMPARE(field->text() + area->text() + tokens->toPlainText(), u"蚊蚊蚊"_s);
+    }
+
+    void aCompositionAddsNoKeyword()
+    {
+        Test::Stage stage;
+        KeywordOwner owner(stage, { u"lake"_s });
+        QLineEdit* entry = owner.editor->entry();
+        compose(entry, u"とうきょう"_s);
+        for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Backspace, Qt::Key_Left, Qt::Key_Space }) {
+            owner.press({ key });
+            QVERIFY(entry->hasFocus());
+        }
+        QCOMPARE(owner.added, QStringList());
+        entry->clear();
+        compose(entry, u"とうきょう"_s);
+        compose(entry, {}, u"東京"_s);
+        QCOMPARE(owner.added, QStringList());
+        QCOMPARE(entry->text(), u"東京"_s);
+        owner.press({ Qt::Key_Return });
+        QCOMPARE(owner.added, QStringList{ u"東京"_s });
     }
 
     void editedFieldsAreAmber_data()

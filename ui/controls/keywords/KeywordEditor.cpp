@@ -9,6 +9,7 @@
 #include "ui/controls/keywords/KeywordChip.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -44,6 +45,8 @@ public:
     }
 
     void setSplitsAtCommas(bool on) { m_splitsAtCommas = on; }
+    /// Keys belong to the input method until what it composes is in the text.
+    bool isComposing() const { return m_isComposing; }
     QSize sizeHint() const override { return { px(entryWidth), px(28) }; }
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -51,6 +54,12 @@ signals:
     void pastedSeveral(const QStringList& keywords);
 
 protected:
+    void inputMethodEvent(QInputMethodEvent* event) override
+    {
+        m_isComposing = !event->preeditString().isEmpty();
+        QBTextField::inputMethodEvent(event);
+    }
+
     void pasteText() override
     {
         static const QRegularExpression lineEnds(u"[\\r\\n\\x{2028}\\x{2029}]"_s);
@@ -67,6 +76,7 @@ protected:
 
 private:
     bool m_splitsAtCommas = true;
+    bool m_isComposing = false;
 };
 
 KeywordEditor::KeywordEditor(QWidget* parent)
@@ -243,7 +253,7 @@ bool KeywordEditor::hasRoomForParents(int line) const
 
 void KeywordEditor::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    DirectedPainter painter(this);
     const FieldState state{ isEnabled(), isAncestorOf(focusWidget()) && focusWidget()->hasFocus(), m_edited,
         m_fade->hover(), m_wanted && m_chips.isEmpty() };
     paintFieldFrame(painter, rect(), state, Theme::of(this));
@@ -285,6 +295,8 @@ bool KeywordEditor::eventFilter(QObject* watched, QEvent* event)
 
 bool KeywordEditor::entryKey(QKeyEvent* event)
 {
+    if (m_entry->isComposing())
+        return false;
     if (event->key() == Qt::Key_Tab && m_suggestions->isVisible()) {
         acceptCompletion(qMax(0, m_suggestions->currentRow()));
         return true;
@@ -292,7 +304,7 @@ bool KeywordEditor::entryKey(QKeyEvent* event)
     if (m_suggestions->handleKey(event))
         return true;
     const bool atStart = m_entry->cursorPosition() == 0 && !m_entry->hasSelectedText();
-    switch (event->key()) {
+    switch (mirroredKey(event->key(), this)) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
         commit();
@@ -308,7 +320,7 @@ bool KeywordEditor::entryKey(QKeyEvent* event)
 
 bool KeywordEditor::chipKey(int index, QKeyEvent* event)
 {
-    switch (event->key()) {
+    switch (mirroredKey(event->key(), this)) {
     case Qt::Key_Backspace:
     case Qt::Key_Delete:
         removeChip(index);

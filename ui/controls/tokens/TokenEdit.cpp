@@ -6,6 +6,7 @@
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -85,7 +86,8 @@ public:
         QRectF text = chip.adjusted(pxF(chipPadding), 0, -pxF(chipPadding), 0);
         const auto draw = [&](const QString& words, const QColor& color) {
             painter->setPen(color);
-            painter->drawText(text, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+            painter->drawText(mirrored(text, chip, painter->layoutDirection()),
+                Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
                 metrics.elidedText(words, Qt::ElideRight, text.width() + 1));
             text.setLeft(text.left() + metrics.horizontalAdvance(words) + pxF(detailGap));
         };
@@ -144,7 +146,9 @@ TokenEdit::TokenEdit(bool hasSeveralLines, QWidget* parent)
     onRestyle(this, [this] { restyle(); });
     connect(document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this, &TokenEdit::grow);
     connect(this, &QTextEdit::textChanged, this, [this] {
-        if (!m_isBinding)
+        // What an input method composes changes the document, too, but not yet the text.
+        const QList<TokenEditPiece> now = pieces();
+        if (std::exchange(m_told, now) != now && !m_isBinding)
             emit edited();
     });
     connect(this, &QTextEdit::selectionChanged, this, &TokenEdit::showSelection);
@@ -478,7 +482,7 @@ void TokenEdit::insertFromMimeData(const QMimeData* source)
 bool TokenEdit::event(QEvent* event)
 {
     if (event->type() == QEvent::Paint) {
-        QPainter painter(this);
+        DirectedPainter painter(this);
         paintFieldFrame(painter, rect(), { isEnabled(), hasFocus(), false, m_fade->hover() }, Theme::of(this));
         return true;
     }

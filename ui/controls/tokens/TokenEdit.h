@@ -97,6 +97,7 @@ private:
     CodeTexts m_codes;
     bool m_hasSeveralLines;
     bool m_isBinding = false;
+    QList<TokenEditPiece> m_told;  ///< what was in it when it was last told of
 };
 
 }  // namespace Quorbel
