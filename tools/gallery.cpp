@@ -14,6 +14,7 @@
 #include "ui/controls/keywords/KeywordEditor.h"
 #include "ui/controls/pickers/OffsetPicker.h"
 #include "ui/controls/pickers/SegmentedPicker.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/SymbolText.h"
@@ -428,11 +429,17 @@ int main(int argc, char* argv[])
     QApplication app(argc, argv);
     QCommandLineParser parser;
     parser.addHelpOption();
-    parser.addOptions({ { u"grab"_s, u"Draw into a file instead of a window."_s, u"file"_s },
-        { u"dark"_s, u"The dark palette."_s }, { u"scale"_s, u"Device pixels per point."_s, u"factor"_s } });
+    parser.addOptions(
+        { { u"grab"_s, u"Draw into a file instead of a window."_s, u"file"_s }, { u"dark"_s, u"The dark palette."_s },
+            { u"contrast"_s, u"The palette of high contrast."_s }, { u"mirrored"_s, u"As read from right to left."_s },
+            { u"scale"_s, u"Device pixels per point."_s, u"factor"_s } });
     parser.process(app);
     ToolTips toolTips;
-    Page page(parser.isSet(u"dark"_s) ? Theme::dark() : Theme::light());
+    const bool dark = parser.isSet(u"dark"_s);
+    if (parser.isSet(u"mirrored"_s))
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const Theme& plain = dark ? Theme::dark() : Theme::light();
+    Page page(parser.isSet(u"contrast"_s) ? HighContrast::palette(dark) : plain);
     if (parser.isSet(u"grab"_s))
         return grab(page, parser.value(u"grab"_s));
     QScrollArea window;

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
+#include <QTextEdit>
 
 #include <algorithm>
 
@@ -44,7 +45,10 @@ public:
     bool begin(QPaintDevice*) override { return true; }
     bool end() override { return true; }
     void updateState(const QPaintEngineState&) override { }
-    void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override { }
+    void drawPixmap(const QRectF& place, const QPixmap&, const QRectF&) override
+    {
+        pictures.append(painter()->deviceTransform().mapRect(place));
+    }
     void drawImage(const QRectF&, const QImage&, const QRectF&, Qt::ImageConversionFlags) override { }
     void drawTiledPixmap(const QRectF&, const QPixmap&, const QPointF&) override { }
     void drawPath(const QPainterPath&) override { }
@@ -65,6 +69,7 @@ public:
     }
 
     QList<DrawnText> texts;
+    QList<QRectF> pictures;
 };
 
 class TextDevice final : public QPaintDevice {
@@ -75,6 +80,7 @@ public:
     }
     QPaintEngine* paintEngine() const override { return &m_engine; }
     const QList<DrawnText>& texts() const { return m_engine.texts; }
+    const QList<QRectF>& pictures() const { return m_engine.pictures; }
 
 protected:
     int metric(PaintDeviceMetric metric) const override
@@ -110,22 +116,26 @@ QString className(const QObject* object)
     return QString::fromLatin1(object->metaObject()->className()).section(u"::"_s, -1);
 }
 
-QString nameOf(const QWidget* widget)
-{
-    const QString name = widget->accessibleName().isEmpty() ? widget->objectName() : widget->accessibleName();
-    return name.isEmpty() ? className(widget) : className(widget) + u" “"_s + name.left(40) + u"”"_s;
-}
-
 bool isViewport(const QWidget* widget)
 {
     const auto* area = qobject_cast<const QAbstractScrollArea*>(widget->parentWidget());
     return area && area->viewport() == widget;
 }
 
+QString nameOf(const QWidget* widget)
+{
+    if (isViewport(widget))
+        return u"viewport of "_s + nameOf(widget->parentWidget());
+    const QString name = widget->accessibleName().isEmpty() ? widget->objectName() : widget->accessibleName();
+    return name.isEmpty() ? className(widget) : className(widget) + u" “"_s + name.left(40) + u"”"_s;
+}
+
 bool isEditor(const QWidget* widget)
 {
     return qobject_cast<const QLineEdit*>(widget)
-        || (isViewport(widget) && qobject_cast<const QPlainTextEdit*>(widget->parentWidget()));
+        || (isViewport(widget)
+            && (qobject_cast<const QPlainTextEdit*>(widget->parentWidget())
+                || qobject_cast<const QTextEdit*>(widget->parentWidget())));
 }
 
 // What lies over others on purpose: by being told to let clicks through, or by the layer it is.
@@ -208,6 +218,24 @@ void auditTree(QWidget* widget, LayoutAudit& audit)
     }
 }
 
+void noteDrawn(QWidget* root, QWidget* widget, QList<Drawn>& drawn)
+{
+    const QPointF at = widget->mapTo(root, QPoint());
+    drawn.append({ nameOf(widget), QRectF(at, QSizeF(widget->size())) });
+    TextDevice device(widget->size());
+    widget->render(&device, QPoint(), QRegion(), {});
+    for (const DrawnText& text : device.texts())
+        if (!isEditor(widget))
+            drawn.append({ u"“%1” in %2"_s.arg(text.text, nameOf(widget)), text.ink.translated(at) });
+    for (const QRectF& picture : device.pictures())
+        drawn.append({ u"picture in "_s + nameOf(widget), picture.translated(at) });
+    for (QObject* child : widget->children()) {
+        auto* inner = qobject_cast<QWidget*>(child);
+        if (inner && !inner->isWindow() && inner->isVisible())
+            noteDrawn(root, inner, drawn);
+    }
+}
+
 }  // namespace
 
 QStringList LayoutAudit::worseThan(const QList<LayoutAudit>& others) const
@@ -237,6 +265,13 @@ QStringList LayoutAudit::worseThan(const QList<LayoutAudit>& others) const
         worse.append(u"does not fit its field: “%1”"_s.arg(text));
     worse.sort();
     return worse;
+}
+
+QList<Drawn> drawnIn(QWidget* root)
+{
+    QList<Drawn> drawn;
+    noteDrawn(root, root, drawn);
+    return drawn;
 }
 
 LayoutAudit audit(QWidget* root)

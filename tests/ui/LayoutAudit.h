@@ -20,4 +20,13 @@ struct LayoutAudit {
 /// Looks at all that is visible in `root`. Lists and scrolled forms may go on below their lower edge.
 LayoutAudit audit(QWidget* root);
 
+/// A widget, or a text or picture that one draws, in the coordinates of the widget that is looked at.
+struct Drawn {
+    QString what{};
+    QRectF place{};
+};
+
+/// All that is visible in `root`, in the order of the tree. Of fields not what is typed in them.
+QList<Drawn> drawnIn(QWidget* root);
+
 }  // namespace Quorbel::Test

@@ -4,6 +4,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QPainter>
@@ -99,13 +100,13 @@ void CloseupLine::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     const int side = px(closeSize);
-    m_close->setGeometry(width() - px(sidePadding) - side, (height() - side) / 2, side, side);
+    m_close->setGeometry(mirrored(QRect(width() - px(sidePadding) - side, (height() - side) / 2, side, side), this));
 }
 
 void CloseupLine::paintEvent(QPaintEvent*)
 {
     constexpr qreal groundOpacity = .82;
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(m_opacity.value());
     painter.fillRect(rect(), withAlpha(Theme::of(this).bg, groundOpacity));
@@ -127,13 +128,13 @@ void CloseupLine::paintRight(QPainter& painter, QRect& room) const
         if (text.isEmpty() || room.width() - width < px(leastName))
             continue;
         painter.setPen(isUnsaved ? theme.amber : theme.derived.label);
-        painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, text);
+        painter.drawText(mirrored(room, this), Qt::AlignRight | Qt::AlignVCenter, text);
         if (isUnsaved) {
             const QRectF place(
                 room.right() + 1 - width, room.center().y() - pxF(dotSize) / 2, pxF(dotSize), pxF(dotSize));
             painter.setPen(Qt::NoPen);
             painter.setBrush(theme.amber);
-            painter.drawEllipse(place);
+            painter.drawEllipse(mirrored(place, this));
         }
         room.setRight(room.right() - width - px(gap));
     }
@@ -149,15 +150,15 @@ void CloseupLine::paintLeft(QPainter& painter, QRect room) const
     const QString name = painter.fontMetrics().elidedText(
         m_text.name, Qt::ElideMiddle, qMax(0, room.width() - placeWidth - starsWidth - px(gap)));
     painter.setPen(theme.text);
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, name);
+    painter.drawText(mirrored(room, this), Qt::AlignLeft | Qt::AlignVCenter, keptInOrder(name));
     room.setLeft(room.left() + painter.fontMetrics().horizontalAdvance(name) + px(gap));
     painter.setFont(sansFont(12));
     painter.setPen(theme.derived.label);
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, m_text.place);
+    painter.drawText(mirrored(room, this), Qt::AlignLeft | Qt::AlignVCenter, m_text.place);
     room.setLeft(room.left() + placeWidth + px(gap));
     for (int star = 0; star < m_text.stars; ++star) {
         const QRectF cell(room.left() + star * px(starSize + 2), 0, px(starSize), height());
-        Icon::paint(painter, cell, u"star.fill"_s, pxF(starSize), theme.text);
+        Icon::paint(painter, mirrored(cell, this), u"star.fill"_s, pxF(starSize), theme.text);
     }
 }
 

@@ -9,7 +9,9 @@
 #include "ui/closeup/CloseupLine.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/BriefNote.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/KeptField.h"
 #include "ui/sheets/Sheet.h"
@@ -56,7 +58,7 @@ CloseupView::CloseupView(AppModel& model, ThumbnailStore* thumbs, WholePicturesO
 {
     describeAs(staticMetaObject, QAccessible::Graphic);
     setProperty(KeptField::coverProperty, true);
-    setTheme(this, Theme::dark());
+    setTheme(this, HighContrast::isOn(Theme::of(window)) ? HighContrast::palette(true) : Theme::dark());
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
@@ -245,7 +247,7 @@ QString CloseupView::problem() const
 void CloseupView::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.fillRect(rect(), theme.previewBg);
     if (!seen().image.isNull())
         return paintPhoto(painter);
@@ -293,7 +295,9 @@ void CloseupView::keyPressEvent(QKeyEvent* event)
 bool CloseupView::move(const QKeyEvent& event)
 {
     QPoint towards;
-    switch (event.key()) {
+    // The next photo is where one reads on; a photo is moved as it is seen.
+    const bool isMoved = event.modifiers() & Qt::ShiftModifier;
+    switch (isMoved ? event.key() : mirroredKey(event.key(), this)) {
     case Qt::Key_Left:
         towards = { -1, 0 };
         break;
@@ -310,7 +314,7 @@ bool CloseupView::move(const QKeyEvent& event)
         return false;
     }
     const QSize view = viewSize();
-    if (!(event.modifiers() & Qt::ShiftModifier))
+    if (!isMoved)
         step(towards.x() + towards.y());
     else
         setPlace(m_place.panned(QPointF(-towards.x() * view.width() * panPart, -towards.y() * view.height() * panPart),

@@ -2,6 +2,7 @@
 
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -76,7 +77,7 @@ bool BriefNote::eventFilter(QObject* watched, QEvent* event)
 void BriefNote::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(m_opacity.value());
     paintBox(painter, rect(), pxF(cornerRadius), theme.sel, Qt::NoPen);

@@ -3,9 +3,12 @@
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/Labels.h"
+#include "ui/controls/TargetRoom.h"
 #include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -41,7 +44,8 @@ struct ButtonLook {
 ButtonLook primaryLook(const Theme& t, const HoverFade& fade, bool enabled)
 {
     if (!enabled)
-        return { t.derived.primaryOff, t.derived.primaryOff, t.derived.primaryOffText };
+        return { t.derived.primaryOff, HighContrast::isOn(t) ? t.derived.primaryOffText : t.derived.primaryOff,
+            t.derived.primaryOffText };
     const QColor fill = stateColor(fade, t.accent, t.derived.primaryHover, t.derived.primaryPressed);
     return { fill, fill, t.accentText };
 }
@@ -81,6 +85,7 @@ ThemedButton::ThemedButton(const QString& text, QWidget* parent)
     installAccessibility();
     setText(text);
     setFocusPolicy(Qt::StrongFocus);
+    giveTargetRoom(this);
     connect(this, &QAbstractButton::pressed, this, [this] { m_fade->setPressed(true); });
     connect(this, &QAbstractButton::released, this, [this] { m_fade->setPressed(false); });
 }
@@ -132,7 +137,7 @@ QSize QBButton::sizeHint() const
 void QBButton::paintEvent(QPaintEvent*)
 {
     const ButtonLook look = lookOf(m_kind, Theme::of(this), *fade(), isEnabled());
-    QPainter painter(this);
+    DirectedPainter painter(this);
     if (m_kind != QBButtonKind::primary)
         painter.setOpacity(opacity());
     paintBox(painter, rect(), pxF(radius()), look.fill, penOf(look));
@@ -209,9 +214,9 @@ void QBIconButton::paintEvent(QPaintEvent*)
     const QColor plain = m_quiet ? theme.muted : theme.derived.label;
     const QColor resting = m_amber ? theme.amber : plain;
     const QColor ink = m_highlighted ? theme.text : stateColor(*fade(), resting, theme.text, theme.text);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(opacity(.38));
-    paintBox(painter, rect(), pxF(m_radius), ground, Qt::NoPen);
+    paintBox(painter, rect(), pxF(m_radius), ground, m_highlighted ? HighContrast::groundEdge(theme) : Qt::NoPen);
     Icon::paint(painter, rect(), m_icon, pxF(m_iconSize), ink, m_stroke);
 }
 
@@ -287,7 +292,7 @@ QSize QBTextButton::sizeHint() const
 void QBTextButton::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(opacity(.40));
     if (hasGround()) {
         const QColor ground = stateColor(*fade(), Qt::transparent, theme.derived.hover, theme.derived.pressed);
@@ -302,23 +307,23 @@ void QBTextButton::paintEvent(QPaintEvent*)
     QRect inner = rect().adjusted(padding, 0, -padding, 0);
     if (!m_icon.isEmpty()) {
         const QRectF icon(inner.left(), 0, pxF(leadingIcon), height());
-        Icon::paint(painter, icon, m_icon, pxF(leadingIcon), painter.pen().color(), 2.1);
+        Icon::paint(painter, mirrored(icon, this), m_icon, pxF(leadingIcon), painter.pen().color(), 2.1);
         inner.setLeft(inner.left() + px(leadingIcon + leadingGap));
     }
     if (!m_trailing.isEmpty()) {
         const QRectF icon(inner.right() + 1 - pxF(trailingIcon), 0, pxF(trailingIcon), height());
-        Icon::paint(painter, icon, m_trailing, pxF(trailingIcon), painter.pen().color(), 2.1);
+        Icon::paint(painter, mirrored(icon, this), m_trailing, pxF(trailingIcon), painter.pen().color(), 2.1);
         inner.setRight(inner.right() - px(trailingIcon + trailingGap));
     }
     // Metrics round: a text that has its room is never shortened.
     const bool isShort = width() < sizeHint().width();
-    painter.drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+    painter.drawText(mirrored(inner, this), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
         isShort ? painter.fontMetrics().elidedText(text(), Qt::ElideRight, inner.width()) : text());
     if (isShort)
         return;  // the keys are the first to give way
     painter.setFont(sansFont(11));
     painter.setPen(theme.muted);
-    painter.drawText(inner, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, m_keys);
+    painter.drawText(mirrored(inner, this), Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, m_keys);
 }
 
 TokenChip::TokenChip(const QString& title, QWidget* parent)
@@ -350,7 +355,7 @@ void TokenChip::setKeyHint(const QString& key)
 void TokenChip::paintEvent(QPaintEvent*)
 {
     const ButtonLook look = lookOf(QBButtonKind::secondary, Theme::of(this), *fade(), isEnabled());
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(opacity());
     paintBox(painter, rect(), height() / 2.0, look.fill, penOf(look));
     painter.setPen(look.text);
@@ -361,7 +366,7 @@ void TokenChip::paintEvent(QPaintEvent*)
     QRect inner = rect().adjusted(px(10) + 1, 0, -px(10) - 1, 0);
     const int keyWidth = m_key.isEmpty() ? 0 : QFontMetrics(sansFont(11)).horizontalAdvance(m_key);
     const QRect title = inner.adjusted(0, 0, m_key.isEmpty() ? 0 : -keyWidth - px(tokenKeyGap), 0);
-    painter.drawText(title, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+    painter.drawText(mirrored(title, this), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
         fontMetrics().elidedText(text(), Qt::ElideRight, title.width()));
     painter.setFont(sansFont(11));
     painter.setPen(Theme::of(this).derived.label);

@@ -1,5 +1,6 @@
 #include "ui/controls/FlowLayout.h"
 
+#include <QStyle>
 #include <QWidget>
 
 namespace Quorbel {
@@ -123,7 +124,7 @@ void FlowLayout::setGeometry(const QRect& rect)
         }
         if (m_lastItemFills && item == m_items.last())
             size.setWidth(qMax(size.width(), rightEdge - x));
-        item->setGeometry(QRect(QPoint(x, y), size));
+        item->setGeometry(QStyle::visualRect(parentWidget()->layoutDirection(), bounds, QRect(QPoint(x, y), size)));
         x += size.width() + spacing();
         lineHeight = qMax(lineHeight, size.height());
     }

@@ -1,6 +1,7 @@
 #include "ui/controls/FormLabels.h"
 
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/TextLines.h"
 
 #include <QEvent>
@@ -19,7 +20,7 @@ void BrokenLabel::setText(const QString& text)
 
 void BrokenLabel::paintLines(QRect box)
 {
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
     for (const QString& line : std::as_const(m_lines)) {
         painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,

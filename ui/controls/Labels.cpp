@@ -2,9 +2,11 @@
 
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 
 #include <QEvent>
 #include <QPainter>
+#include <QStyle>
 
 namespace Quorbel {
 
@@ -128,6 +130,9 @@ QSize ThemedLabel::minimumSizeHint() const
 
 bool ThemedLabel::event(QEvent* event)
 {
+    // Qt goes by the letters of the text, not by what is around it.
+    if (event->type() == QEvent::Polish && isRightToLeft() && !alignment().testFlag(Qt::AlignAbsolute))
+        setAlignment(QStyle::visualAlignment(layoutDirection(), alignment()) | Qt::AlignAbsolute);
     // What does not fit is told by the tooltip.
     if ((event->type() == QEvent::Resize || event->type() == QEvent::Enter) && m_elided) {
         const bool fits = fontMetrics().horizontalAdvance(text()) <= contentsRect().width();
@@ -140,10 +145,11 @@ void ThemedLabel::paintEvent(QPaintEvent* event)
 {
     if (!m_elided)
         return QLabel::paintEvent(event);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setPen(palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, QPalette::WindowText));
     const QRect box = contentsRect();
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, box.width());
+    const QString elided = fontMetrics().elidedText(text(), Qt::ElideRight, box.width());
+    const QString shown = m_verbatim && !elided.isRightToLeft() ? keptInOrder(elided) : elided;
     painter.drawText(box, int(alignment()) | Qt::TextSingleLine, shown);
 }
 
@@ -179,7 +185,7 @@ QSize SectionHeader::sizeHint() const
 void SectionHeader::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     const QRectF line(0, 0, width(), pxF(16));
     painter.setFont(sectionFont());
     painter.setPen(m_muted ? theme.muted : theme.text);
@@ -212,7 +218,7 @@ QSize LabeledDivider::sizeHint() const
 void LabeledDivider::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setFont(sectionFont());
     painter.setPen(m_muted ? theme.muted : theme.text);
     painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, m_caption);
@@ -224,7 +230,7 @@ void LabeledDivider::paintEvent(QPaintEvent*)
         painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, m_note);
         right -= QFontMetricsF(sansFont(11)).horizontalAdvance(m_note) + pxF(10);
     }
-    painter.fillRect(QRectF(left, height() / 2.0, right - left, 1), theme.line);
+    painter.fillRect(mirrored(QRectF(left, height() / 2.0, right - left, 1), this), theme.line);
 }
 
 }  // namespace Quorbel

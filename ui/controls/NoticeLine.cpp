@@ -2,6 +2,7 @@
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 
 #include <QEvent>
 
@@ -76,12 +77,12 @@ void NoticeLine::place()
     const int text = isOneLine && m_isOffered ? textWidth() : width();
     const int dot = m_dot->sizeHint().width();
     m_text->setText(isWhole ? m_whole : m_text->fontMetrics().elidedText(m_brief, Qt::ElideRight, width()));
-    m_text->setGeometry(0, top, text, line);
+    m_text->setGeometry(mirrored(QRect(0, top, text, line), this));
     m_text->setToolTip(isWhole ? QString() : m_whole);
     m_dot->setVisible(isOneLine && m_isOffered);
-    m_dot->setGeometry(text, top, dot, line);
+    m_dot->setGeometry(mirrored(QRect(text, top, dot, line), this));
     const QSize button(m_button->sizeHint().width(), line);
-    m_button->setGeometry(QRect(isOneLine ? QPoint(text + dot, top) : QPoint(0, top + line), button));
+    m_button->setGeometry(mirrored(QRect(isOneLine ? QPoint(text + dot, top) : QPoint(0, top + line), button), this));
 }
 
 void NoticeLine::resizeEvent(QResizeEvent* event)

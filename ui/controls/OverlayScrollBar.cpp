@@ -1,6 +1,7 @@
 #include "ui/controls/OverlayScrollBar.h"
 
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -58,7 +59,7 @@ bool OverlayScrollBar::eventFilter(QObject* watched, QEvent* event)
 void OverlayScrollBar::place()
 {
     const int width = room();
-    setGeometry(m_area->width() - width, 0, width, m_area->height());
+    setGeometry(mirrored(QRect(m_area->width() - width, 0, width, m_area->height()), m_area));
     const QScrollBar* bar = m_area->verticalScrollBar();
     setVisible(bar->maximum() > bar->minimum());
     raise();
@@ -71,7 +72,7 @@ QRectF OverlayScrollBar::thumb() const
     const qreal room = height() - 2 * pxF(3);
     const qreal length = qMax(pxF(smallestThumb), room * bar->pageStep() / (range + bar->pageStep()));
     const qreal top = range > 0 ? (room - length) * (bar->value() - bar->minimum()) / range : 0;
-    return { width() - pxF(thumbWidth) - 2, pxF(3) + top, pxF(thumbWidth), length };
+    return mirrored(QRectF(width() - pxF(thumbWidth) - 2, pxF(3) + top, pxF(thumbWidth), length), this);
 }
 
 void OverlayScrollBar::reveal()
@@ -87,7 +88,7 @@ void OverlayScrollBar::paintEvent(QPaintEvent*)
     if (m_opacity.value() <= 0)
         return;
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(m_opacity.value());
     const QColor color = m_hovered || m_grab >= 0 ? theme.derived.scrollHover : theme.scroll;
     paintBox(painter, thumb(), pxF(thumbWidth) / 2, color, Qt::NoPen);

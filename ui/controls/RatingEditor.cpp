@@ -3,8 +3,10 @@
 #include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -85,7 +87,7 @@ QRectF RatingEditor::cell(int star) const
 {
     const qreal wide = pxF(m_small ? 20 : 26);
     const qreal left = isGap() ? pxF(gapSide) : m_small ? 0 : -pxF(inset);
-    return { left + (star - 1) * wide, 0, wide, qreal(height()) };
+    return mirrored(QRectF(left + (star - 1) * wide, 0, wide, height()), this);
 }
 
 int RatingEditor::starAt(QPointF pos) const
@@ -109,8 +111,8 @@ void RatingEditor::choose(int count)
 void RatingEditor::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
-    painter.setOpacity(isEnabled() ? 1 : .42);
+    DirectedPainter painter(this);
+    painter.setOpacity(isEnabled() ? 1 : HighContrast::disabledOpacity(theme));
     if (isGap())
         paintFieldFrame(painter, rect(), { .enabled = isEnabled(), .isGap = true }, theme);
     if (m_hovered > 0 && isEnabled())
@@ -158,7 +160,7 @@ void RatingEditor::leaveEvent(QEvent*)
 
 void RatingEditor::keyPressEvent(QKeyEvent* event)
 {
-    const int key = event->key();
+    const int key = mirroredKey(event->key(), this);
     const bool plain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     if (!plain)
         QWidget::keyPressEvent(event);

@@ -3,6 +3,7 @@
 #include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QKeyEvent>
@@ -57,11 +58,11 @@ int ResizeHandle::lineWidth() const
 void ResizeHandle::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.fillRect(rect(), theme.bg);
     const QColor active = hasFocus() ? theme.derived.focusStrong : theme.focus;
     const QRect line = rect().adjusted(width() - lineWidth(), 0, 0, 0);
-    painter.fillRect(line, lineWidth() > 1 ? active : theme.line);
+    painter.fillRect(mirrored(line, this), lineWidth() > 1 ? active : theme.line);
 }
 
 void ResizeHandle::mousePressEvent(QMouseEvent* event)
@@ -76,7 +77,7 @@ void ResizeHandle::mousePressEvent(QMouseEvent* event)
 void ResizeHandle::mouseMoveEvent(QMouseEvent* event)
 {
     if (m_dragStart)
-        change(*m_dragStart + (event->globalPosition().x() - m_pressX) / textScale());
+        change(*m_dragStart + (isRightToLeft() ? -1 : 1) * (event->globalPosition().x() - m_pressX) / textScale());
 }
 
 void ResizeHandle::mouseReleaseEvent(QMouseEvent*)
@@ -96,7 +97,7 @@ void ResizeHandle::mouseDoubleClickEvent(QMouseEvent*)
 void ResizeHandle::keyPressEvent(QKeyEvent* event)
 {
     const double step = event->modifiers().testFlag(Qt::ControlModifier) ? 1 : 10;
-    switch (event->key()) {
+    switch (mirroredKey(event->key(), this)) {
     case Qt::Key_Left:
         change(m_width - step);
         break;

@@ -2,6 +2,7 @@
 
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -67,7 +68,7 @@ bool ScrollArea::event(QEvent* event)
     if (event->type() != QEvent::Paint || !m_framed)
         return QScrollArea::event(event);
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     paintBox(painter, rect(), pxF(7), theme.field, QPen(theme.line, 1));
     return true;
 }

@@ -5,6 +5,7 @@
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/TextLines.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -33,7 +34,8 @@ SelectableText::SelectableText(QWidget* parent)
         colors.setColor(QPalette::Base, Qt::transparent);
         setPalette(colors);
         setFont(verbatimFont(13));
-        setViewportMargins(0, 0, OverlayScrollBar::room(), 0);
+        const QMargins margins = mirrored(QMargins(0, 0, OverlayScrollBar::room(), 0));
+        setViewportMargins(margins.left(), margins.top(), margins.right(), margins.bottom());
     });
 }
 

@@ -2,7 +2,9 @@
 
 #include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Shadow.h"
 #include "ui/controls/theme/Theme.h"
@@ -138,7 +140,8 @@ void SuggestionList::place()
     int y = topLeft.y() + m_field->height() + px(4);
     if (y + boxHeight > window->height() && topLeft.y() - px(4) - boxHeight >= 0)
         y = topLeft.y() - px(4) - boxHeight;
-    const int x = qBound(0, topLeft.x(), qMax(0, window->width() - boxWidth));
+    const int start = isRightToLeft() ? topLeft.x() + m_field->width() - boxWidth : topLeft.x();
+    const int x = qBound(0, start, qMax(0, window->width() - boxWidth));
     setGeometry(QRect(x, y, boxWidth, boxHeight).adjusted(-shadowMargin, -shadowMargin, shadowMargin, shadowMargin));
     show();
     raise();
@@ -217,7 +220,7 @@ void SuggestionList::paintEvent(QPaintEvent*)
     if (!m_field)
         return;
     const Theme& theme = Theme::of(m_field);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     const QRectF box = QRectF(rect()).adjusted(shadowMargin, shadowMargin, -shadowMargin, -shadowMargin);
     paintShadow(painter, box, pxF(9), Shadow::dropdown, theme);
     paintBox(painter, box, pxF(9), theme.panel, QPen(theme.line, 1));
@@ -235,7 +238,8 @@ void SuggestionList::paintEvent(QPaintEvent*)
         const qreal room = box.height() - 2 * pxF(padding);
         const qreal length = room * visibleRows() / m_rows.size();
         const qreal top = box.top() + pxF(padding) + room * m_first / m_rows.size();
-        paintBox(painter, QRectF(box.right() - pxF(5), top, pxF(3), length), pxF(1.5), theme.scroll, Qt::NoPen);
+        const QRectF thumb(box.right() - pxF(5), top, pxF(3), length);
+        paintBox(painter, mirrored(thumb, this), pxF(1.5), theme.scroll, Qt::NoPen);
     }
 }
 
@@ -244,7 +248,7 @@ void SuggestionList::paintRow(QPainter& painter, int row)
     const Theme& theme = Theme::of(m_field);
     const QRect cell = rowRect(row);
     if (row == m_current)
-        paintBox(painter, cell, pxF(6), theme.derived.hover, Qt::NoPen);
+        paintBox(painter, cell, pxF(6), theme.derived.hover, HighContrast::groundEdge(theme));
     const QRect text = cell.adjusted(px(10), 0, -px(10), 0);
     const auto line = [&](const QString& content, qreal points, const QColor& color, const QRect& where,
                           Qt::TextElideMode elided = Qt::ElideRight) {

@@ -1,7 +1,9 @@
 #include "ui/controls/ThemedMenu.h"
 
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/PopupFrame.h"
 #include "ui/controls/theme/Theme.h"
@@ -182,7 +184,7 @@ bool ThemedMenu::passOn(QMouseEvent* event)
 void ThemedMenu::paintEvent(QPaintEvent* event)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     PopupFrame::paint(painter, box(), theme);
     painter.setClipRect(box().adjusted(0, px(5), 0, -px(5)));
     for (const QAction* action : actions()) {
@@ -207,24 +209,25 @@ void ThemedMenu::paintItem(QPainter& painter, const QAction* action, const QRect
     }
     const bool header = action->property(headerProperty).toBool();
     const bool active = action == activeAction() && action->isEnabled();
-    painter.setOpacity(action->isEnabled() || header ? 1 : .42);
+    painter.setOpacity(action->isEnabled() || header ? 1 : HighContrast::disabledOpacity(theme));
     if (active)
         paintBox(painter, row, pxF(6), theme.sel, Qt::NoPen);
     const QColor ink = active ? theme.selText : theme.text;
     painter.setFont(header ? sansFont(11, QFont::DemiBold) : font());
     painter.setPen(header ? theme.muted : ink);
-    const QRectF box = QRectF(row).adjusted(pxF(28), 0, -pxF(14), 0);
+    const auto placed = [&](const QRectF& place) { return mirrored(place, QRectF(row), layoutDirection()); };
+    const QRectF box = placed(QRectF(row).adjusted(pxF(28), 0, -pxF(14), 0));
     painter.drawText(box, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine | Qt::TextShowMnemonic, action->text());
     if (!action->shortcut().isEmpty()) {
         painter.setPen(active ? theme.selSub : theme.muted);
         painter.drawText(box, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine,
             action->shortcut().toString(QKeySequence::NativeText));
     }
-    const QRectF mark(row.left() + pxF(8), row.top(), pxF(14), row.height());
+    const QRectF mark = placed(QRectF(row.left() + pxF(8), row.top(), pxF(14), row.height()));
     if (action->isCheckable() && action->isChecked())
         Icon::paint(painter, mark, u"checkmark"_s, pxF(14), ink, 2.1);
     if (action->menu()) {
-        const QRectF arrow(row.right() - pxF(18), row.top(), pxF(12), row.height());
+        const QRectF arrow = placed(QRectF(row.right() - pxF(18), row.top(), pxF(12), row.height()));
         Icon::paint(painter, arrow, u"chevron.right"_s, pxF(12), ink, 2.1);
     }
     painter.setOpacity(1);

@@ -1,12 +1,16 @@
 #include "ui/controls/ThemedMenuBar.h"
 
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
+#include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QStyleOptionMenuItem>
 
 namespace Quorbel {
 
@@ -42,10 +46,31 @@ ThemedMenuBar::ThemedMenuBar(QWidget* parent)
     });
 }
 
+// Where one reads from right to left Qt counts from the wrong end, and finds room for the first entry alone.
+QSize ThemedMenuBar::sizeHint() const
+{
+    QSize size = QMenuBar::sizeHint();
+    if (!isRightToLeft())
+        return size;
+    const auto metric = [this](QStyle::PixelMetric which) { return style()->pixelMetric(which, nullptr, this); };
+    int width = 2 * (metric(QStyle::PM_MenuBarHMargin) + metric(QStyle::PM_MenuBarPanelWidth));
+    for (const QAction* action : actions()) {
+        if (!action->isVisible())
+            continue;
+        QStyleOptionMenuItem option;
+        initStyleOption(&option, action);
+        const QSize text = fontMetrics().size(Qt::TextShowMnemonic, action->text());
+        width += style()->sizeFromContents(QStyle::CT_MenuBarItem, &option, text, this).width()
+            + metric(QStyle::PM_MenuBarItemSpacing);
+    }
+    size.setWidth(width);
+    return size;
+}
+
 void ThemedMenuBar::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     // The letters to press are marked once the keyboard is in the menus.
     const int mnemonics = hasFocus() || activeAction() ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
@@ -57,7 +82,7 @@ void ThemedMenuBar::paintEvent(QPaintEvent*)
         item.setBottom(height() - 1);
         if (action == activeAction()) {
             const bool open = action->menu<QMenu*>() && action->menu<QMenu*>()->isVisible();
-            painter.setPen(Qt::NoPen);
+            painter.setPen(HighContrast::groundEdge(theme));
             painter.setBrush(open ? theme.derived.pressed : theme.derived.hover);
             painter.drawRoundedRect(item, pxF(itemRadius), pxF(itemRadius));
         }

@@ -12,6 +12,9 @@ class ThemedMenuBar final : public QMenuBar {
 public:
     explicit ThemedMenuBar(QWidget* parent = nullptr);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 };

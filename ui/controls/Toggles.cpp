@@ -3,8 +3,10 @@
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -52,7 +54,7 @@ QSize QBCheckbox::sizeHint() const
 QRectF QBCheckbox::box() const
 {
     const qreal side = pxF(boxSide);
-    return { 0, (height() - side) / 2, side, side };
+    return mirrored(QRectF(0, (height() - side) / 2, side, side), this);
 }
 
 void QBCheckbox::paintEvent(QPaintEvent*)
@@ -63,7 +65,7 @@ void QBCheckbox::paintEvent(QPaintEvent*)
     const QColor on = m_amber ? theme.amber : theme.accent;
     const QColor ground = isChecked() ? on : mixed(theme.field, theme.derived.secondaryHover, fade()->hover());
     const QColor line = isChecked() ? on : mixed(theme.muted, theme.derived.label, fade()->hover());
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(opacity());
     paintBox(painter, box, pxF(4.5), ground, QPen(line, 1));
     if (isChecked())
@@ -72,7 +74,7 @@ void QBCheckbox::paintEvent(QPaintEvent*)
         return;
     painter.setPen(theme.text);
     const QRectF title = QRectF(rect()).adjusted(side + pxF(8), 0, 0, 0);
-    painter.drawText(title, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
+    painter.drawText(mirrored(title, this), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
 }
 
 QBSwitch::QBSwitch(QWidget* parent)
@@ -110,16 +112,21 @@ void QBSwitch::slide()
 void QBSwitch::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    const QColor off = mixed(theme.scroll, theme.derived.scrollHover, fade()->hover());
+    // With high contrast what is off is empty.
+    const bool isStrong = HighContrast::isOn(theme);
+    const QColor plain = mixed(theme.scroll, theme.derived.scrollHover, fade()->hover());
+    const QColor off = isStrong ? theme.btn : plain;
     const QColor on = mixed(theme.accent, theme.derived.primaryHover, fade()->hover());
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(opacity());
-    paintBox(painter, rect(), height() / 2.0, mixed(off, on, m_position.value()), Qt::NoPen);
+    paintBox(painter, rect(), height() / 2.0, mixed(off, on, m_position.value()), HighContrast::groundEdge(theme));
     const qreal inset = pxF(2);
     const qreal side = height() - 2 * inset;
-    const QRectF knob(inset + m_position.value() * (width() - side - 2 * inset), inset, side, side);
+    const QRectF knob =
+        mirrored(QRectF(inset + m_position.value() * (width() - side - 2 * inset), inset, side, side), this);
     paintBox(painter, knob.translated(0, 1), side / 2, withAlpha(Qt::black, .16), Qt::NoPen);
-    paintBox(painter, knob, side / 2, mixed(theme.derived.switchKnob, theme.accentText, m_position.value()), Qt::NoPen);
+    const QColor knobOff = isStrong ? theme.text : theme.derived.switchKnob;
+    paintBox(painter, knob, side / 2, mixed(knobOff, theme.accentText, m_position.value()), Qt::NoPen);
 }
 
 }  // namespace Quorbel

@@ -1,6 +1,7 @@
 #include "ui/controls/ToolTips.h"
 
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/SymbolText.h"
 #include "ui/controls/theme/Theme.h"
@@ -54,7 +55,7 @@ protected:
 
     void paintEvent(QPaintEvent*) override
     {
-        QPainter painter(this);
+        DirectedPainter painter(this);
         paintCutBox(painter, rect(), pxF(radius), Theme::of(this).sel, Theme::of(this).sel);
     }
 
@@ -63,7 +64,7 @@ private:
     {
         auto* label = new QLabel(text, this);
         label->setTextFormat(Qt::PlainText);
-        label->setAlignment(Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter);
+        label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         label->setFont(verbatimFont(11.5));
         QPalette colors;
         colors.setColor(QPalette::WindowText, color);

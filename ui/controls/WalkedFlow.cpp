@@ -4,6 +4,7 @@
 #include "ui/controls/FlowLayout.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 
 #include <QAbstractButton>
 #include <QKeyEvent>
@@ -209,7 +210,7 @@ int WalkedFlow::lineAbove(int place, int step) const
 bool WalkedFlow::walk(int place, int key)
 {
     const int last = int(m_shown.size()) - 1;
-    switch (key) {
+    switch (mirroredKey(key, this)) {
     case Qt::Key_Left:
         return focusAt(qMax(0, place - 1));
     case Qt::Key_Right:

@@ -4,6 +4,7 @@
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -48,12 +49,12 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const Theme& theme = Theme::of(this);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         painter.setFont(verbatimFont(12));
         const auto draw = [&](const QRect& box, const QColor& color, const QString& text) {
             painter.setPen(color);
-            painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                painter.fontMetrics().elidedText(text, Qt::ElideRight, box.width()));
+            painter.drawText(mirrored(box, this), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                keptInOrder(painter.fontMetrics().elidedText(text, Qt::ElideRight, box.width())));
         };
         draw({ 0, 0, m_labelWidth, height() }, theme.muted, m_row.label);
         draw(valueBox(), theme.text, m_row.value);
@@ -140,7 +141,7 @@ void CameraSection::arrange()
         const int left = second ? divide : 0;
         const int right = second ? width() : divide - px(columnGap);
         const int y = (i - (second ? perColumn : 0)) * px(lineHeight);
-        m_lines.at(i)->setGeometry(left, y, qMax(0, right - left), px(lineHeight));
+        m_lines.at(i)->setGeometry(mirrored(QRect(left, y, qMax(0, right - left), px(lineHeight)), this));
         m_lines.at(i)->setLabelWidth(px(second ? secondLabelWidth : labelWidth));
     }
 }
@@ -149,7 +150,7 @@ void CameraSection::paintEvent(QPaintEvent*)
 {
     if (!m_rows.isEmpty())
         return;
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setFont(verbatimFont(12));
     painter.setPen(Theme::of(this).muted);
     painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, Texts::tr("No camera details"));

@@ -9,6 +9,7 @@
 #include "ui/controls/cards/EditedDot.h"
 #include "ui/controls/text/CountLine.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/RowExtras.h"
@@ -53,7 +54,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override
     {
-        QPainter painter(this);
+        DirectedPainter painter(this);
         paintBox(painter, rect(), pxF(blockRadius), Theme::of(this).derived.hover, Qt::NoPen);
     }
 };
@@ -112,7 +113,7 @@ void FieldRow::restyle()
 {
     const int drop = isMultiline() && !m_stacked ? px(firstLineDrop) : 0;
     const int height = px(m_stacked ? stackedLabel : rowHeight);
-    m_label->setContentsMargins(m_isLanguage ? px(languageIndent) : 0, drop, 0, 0);
+    m_label->setContentsMargins(mirrored(QMargins(m_isLanguage ? px(languageIndent) : 0, drop, 0, 0)));
     m_label->setFixedHeight(height + drop);
     const bool isOver = m_stacked || m_isWide;  // the label over the editor
     m_label->setMinimumWidth(isOver ? 0 : px(labelWidth));
@@ -120,9 +121,9 @@ void FieldRow::restyle()
     m_line->setSpacing(px(gap));
     m_column->setSpacing(px(lineGap));
     if (m_head) {
-        m_head->setContentsMargins(px(EditedDot::room), 0, 0, 0);
+        m_head->setContentsMargins(mirrored(QMargins(px(EditedDot::room), 0, 0, 0)));
         m_head->setSpacing(px(gap));
-        m_under->setContentsMargins(px(EditedDot::room), 0, 0, 0);
+        m_under->setContentsMargins(mirrored(QMargins(px(EditedDot::room), 0, 0, 0)));
         m_under->setSpacing(px(lineGap));
     }
     if (m_tick)

@@ -4,6 +4,7 @@
 #include "ui/controls/Labels.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/inspector/FieldRow.h"
 
 #include <QAccessible>
@@ -35,7 +36,7 @@ FormSection::FormSection(const QString& title, const QString& note, QWidget* par
     m_column->addWidget(m_header);
     m_column->addLayout(m_rows.layout());
     onRestyle(this, [this] {
-        m_column->setContentsMargins(px(dotRoom), px(above), 0, 0);
+        m_column->setContentsMargins(mirrored(QMargins(px(dotRoom), px(above), 0, 0)));
         m_column->setSpacing(px(belowTitle));
         m_rows.layout()->setSpacing(px(rowGap));
     });
@@ -83,14 +84,16 @@ void FormSection::setReading(bool on)
 
 void FormSection::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Theme::of(this).amber);
     const qreal dot = pxF(dotSize);
     for (const FieldRow* row : m_rows.rows())
         if (row->state().edited && !row->state().batch)
-            painter.drawEllipse(QRectF(row->x() - pxF(dotLeft), row->y() + row->dotCenter() - dot / 2, dot, dot));
+            painter.drawEllipse(
+                mirrored(QRectF(row->x() - pxF(dotLeft), row->y() + row->dotCenter() - dot / 2, dot, dot),
+                    QRectF(row->geometry()), layoutDirection()));
 }
 
 }  // namespace Quorbel

@@ -7,8 +7,10 @@
 #include "ui/controls/Labels.h"
 #include "ui/controls/SelectableText.h"
 #include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 
 #include <QHBoxLayout>
@@ -52,11 +54,13 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override
     {
-        QPainter painter(this);
+        DirectedPainter painter(this);
         const QColor ink = Theme::of(this).derived.label;
-        Icon::paint(painter, QRectF(0, 0, pxF(iconSize), height()), u"checkmark"_s, pxF(iconSize), ink, 2.1);
+        const QRectF mark(0, 0, pxF(iconSize), height());
+        Icon::paint(painter, mirrored(mark, this), u"checkmark"_s, pxF(iconSize), ink, 2.1);
         painter.setPen(ink);
-        painter.drawText(rect().adjusted(px(iconSize + 4), 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, title());
+        painter.drawText(
+            mirrored(rect().adjusted(px(iconSize + 4), 0, 0, 0), this), Qt::AlignVCenter | Qt::AlignLeft, title());
     }
 
 private:
@@ -171,7 +175,7 @@ QWidget* HomeRow::makeHead()
 
 void HomeRow::restyle()
 {
-    layout()->setContentsMargins(px(left), px(top), px(right), px(bottom));
+    layout()->setContentsMargins(mirrored(QMargins(px(left), px(top), px(right), px(bottom))));
     if (m_width > 0)
         setRowWidth(m_width);
 }
@@ -250,8 +254,8 @@ void HomeRow::paintEvent(QPaintEvent*)
 {
     if (!hasFocus() && !m_value->hasFocus())
         return;
-    QPainter painter(this);
-    paintBox(painter, rect(), pxF(6), Theme::of(this).derived.hover, Qt::NoPen);
+    DirectedPainter painter(this);
+    paintBox(painter, rect(), pxF(6), Theme::of(this).derived.hover, HighContrast::groundEdge(Theme::of(this)));
 }
 
 }  // namespace Quorbel

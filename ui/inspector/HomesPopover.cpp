@@ -7,6 +7,7 @@
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/ScrollArea.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/inspector/HomeRow.h"
 
 #include <QApplication>
@@ -96,7 +97,7 @@ void HomesPopover::setCanAgree(bool on)
 int HomesPopover::layRows(int width, int roomAtRight)
 {
     const int side = px(padding) - edge;
-    m_column->setContentsMargins(side, side, roomAtRight, side);
+    m_column->setContentsMargins(mirrored(QMargins(side, side, roomAtRight, side)));
     int height = 2 * side + qMax(0, int(m_rows.size()) - 1) * px(rowGap);
     for (HomeRow* row : std::as_const(m_rows)) {
         row->setRowWidth(width - side - roomAtRight);
@@ -117,7 +118,7 @@ void HomesPopover::arrange(const QRect& box)
     if (!m_agree->isHidden()) {
         const QSize size = m_agree->sizeHint();
         const int left = box.left() + px(padding) + px(2);
-        m_agree->setGeometry(QRect(QPoint(left, box.bottom() + 1 - px(padding) - size.height()), size));
+        m_agree->setGeometry(mirrored(QRect(QPoint(left, box.bottom() + 1 - px(padding) - size.height()), size), this));
         list.setBottom(m_agree->y() - 1);
     }
     const int side = px(padding) - edge;

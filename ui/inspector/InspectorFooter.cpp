@@ -7,6 +7,7 @@
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/NoticeLine.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/inspector/InspectorStates.h"
 
 #include <QHBoxLayout>
@@ -123,7 +124,7 @@ void InspectorFooter::refresh(bool hasPhoto)
     m_unsaved->setVisible(hasPhoto && !isLeftShown);
     m_unsaved->setText(InspectorStates::unsavedText(m_model));
     m_unsaved->setRole(dirty ? TextRole::text : TextRole::label);
-    m_unsaved->setContentsMargins(dirty ? px(dotSize + gap) : 0, 0, 0, 0);
+    m_unsaved->setContentsMargins(mirrored(QMargins(dirty ? px(dotSize + gap) : 0, 0, 0, 0)));
     const bool isUnread = InspectorStates::isUnread(m_model);
     m_rename->setVisible(hasPhoto && (m_model.canRename() || (isUnread && !m_model.isBatch())));
     m_rename->setEnabled(!isUnread);
@@ -151,17 +152,17 @@ void InspectorFooter::bringBack()
 void InspectorFooter::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.fillRect(rect(), theme.panel);
     painter.fillRect(0, 0, width(), 1, theme.line);
-    if (!m_unsaved->isVisible() || m_unsaved->contentsMargins().left() == 0)
+    if (!m_unsaved->isVisible() || m_unsaved->contentsMargins().isNull())
         return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme.amber);
     const qreal dot = pxF(dotSize);
     const qreal top = isNarrow(width()) ? m_unsaved->geometry().center().y() - dot / 2 : (height() + 1 - dot) / 2;
-    painter.drawEllipse(QRectF(pxF(side), top, dot, dot));
+    painter.drawEllipse(mirrored(QRectF(pxF(side), top, dot, dot), this));
 }
 
 }  // namespace Quorbel

@@ -9,6 +9,7 @@
 #include "core/schema/FieldLanguages.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/inspector/BesideSet.h"
 #include "ui/inspector/CameraSection.h"
 #include "ui/inspector/FieldRow.h"
@@ -106,7 +107,8 @@ InspectorForm::InspectorForm(
 void InspectorForm::setBottomInset(int pixels)
 {
     m_bottomInset = pixels;
-    m_column->setContentsMargins(px(side - FormSection::dotRoom), px(top), px(side), px(bottom) + pixels);
+    m_column->setContentsMargins(
+        mirrored(QMargins(px(side - FormSection::dotRoom), px(top), px(side), px(bottom) + pixels)));
 }
 
 void InspectorForm::refresh()

@@ -7,6 +7,7 @@
 #include "ui/controls/Labels.h"
 #include "ui/controls/ScrollArea.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/inspector/FieldRow.h"
 #include "ui/inspector/InspectorFooter.h"
 #include "ui/inspector/InspectorForm.h"
@@ -176,7 +177,7 @@ bool InspectorView::eventFilter(QObject* watched, QEvent* event)
 
 void InspectorView::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.fillRect(rect(), Theme::of(this).panel);
 }
 

@@ -8,6 +8,7 @@
 #include "ui/controls/attached/CodesChip.h"
 #include "ui/controls/attached/MarkButton.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/inspector/FieldRow.h"
 #include "ui/inspector/HomesPopover.h"
 
@@ -49,10 +50,12 @@ public:
     QSize maximumSize() const override { return { QLAYOUTSIZE_MAX, sizeHint().height() }; }
     void setGeometry(const QRect& place) override
     {
+        const QWidget* row = widget()->parentWidget();
+        const QRect room = mirrored(place, row);
         const QSize size = widget()->sizeHint();
-        const int left = qMax(0, place.left() - px(m_hang));
-        const int width = qMin(size.width(), place.right() + 1 - left);
-        widget()->setGeometry(left, place.top() - px(m_rise), width, size.height());
+        const int left = qMax(0, room.left() - px(m_hang));
+        const int width = qMin(size.width(), room.right() + 1 - left);
+        widget()->setGeometry(mirrored(QRect(left, room.top() - px(m_rise), width, size.height()), row));
     }
 
 private:
@@ -278,13 +281,16 @@ void RowExtras::place()
     if (hasChip) {
         m_chip->setRoom(int(editor.width() * mostOfField));
         const QSize size = m_chip->sizeHint();
-        m_chip->setGeometry(QRect(QPoint(editor.right() + 1 - px(chipGap) - size.width(), px(chipGap)), size));
+        const QRect place(QPoint(editor.right() + 1 - px(chipGap) - size.width(), px(chipGap)), size);
+        m_chip->setGeometry(mirrored(place, m_editor.widget));
         m_chip->raise();
     }
     setRoomAtEnd(hasChip ? m_chip->width() + 2 * px(chipGap) : 0);
     if (m_offer && !m_offer->isHidden()) {
         const int side = px(offerSize);
-        m_offer->setGeometry(m_label.geometry().right() + 1 - side, m_row.dotCenter() - side / 2, side, side);
+        const QRect label = mirrored(m_label.geometry(), &m_row);
+        m_offer->setGeometry(
+            mirrored(QRect(label.right() + 1 - side, m_row.dotCenter() - side / 2, side, side), &m_row));
         m_offer->raise();
     }
 }

@@ -3,6 +3,7 @@
 #include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -99,7 +100,7 @@ void MapPreview::showEvent(QShowEvent* event)
 void MapPreview::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     QPainterPath shape;
@@ -144,7 +145,8 @@ void MapPreview::paintAttribution(QPainter& painter) const
     const QFont font = sansFont(9);
     const QFontMetricsF metrics(font);
     const qreal width = qMin(metrics.horizontalAdvance(m_map.attribution), this->width() - pxF(20));
-    const QRectF box(this->width() - width - pxF(12), height() - pxF(18), width + pxF(8), pxF(14));
+    const QRectF box =
+        mirrored(QRectF(this->width() - width - pxF(12), height() - pxF(18), width + pxF(8), pxF(14)), this);
     paintBox(painter, box, pxF(4), withAlpha(theme.panel, .8), Qt::NoPen);
     painter.setFont(font);
     painter.setPen(theme.derived.label);

@@ -8,6 +8,7 @@
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 
 #include <QKeyEvent>
@@ -66,7 +67,7 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const Theme& theme = Theme::of(this);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         const qreal on = hasFocus() ? 1 : fade()->hover();
         paintBox(painter, rect(), pxF(5), mixed(withAlpha(theme.derived.hover, 0), theme.derived.hover, on), Qt::NoPen);
         const QRectF plus(
@@ -75,15 +76,16 @@ protected:
         const auto draw = [&](const QRectF& box, const QFont& font, const QColor& color, const QString& text) {
             painter.setFont(font);
             painter.setPen(color);
-            painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+            painter.drawText(mirrored(box, this), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                 QFontMetrics(font).elidedText(text, Qt::ElideRight, int(box.width())));
         };
         draw(name, sansFont(13), theme.text, text());
         const qreal used = QFontMetricsF(sansFont(13)).horizontalAdvance(text()) + pxF(10);
         draw(name.adjusted(used, 0, 0, 0), sansFont(12), theme.muted, m_note);
-        paintBox(
-            painter, plus, pxF(5), mixed(theme.btn, theme.accent, on), QPen(mixed(theme.btnLine, theme.accent, on), 1));
-        Icon::paint(painter, plus, u"plus"_s, pxF(12), mixed(theme.derived.label, theme.accentText, on), 2.1);
+        const QRectF plusPlace = mirrored(plus, this);
+        paintBox(painter, plusPlace, pxF(5), mixed(theme.btn, theme.accent, on),
+            QPen(mixed(theme.btnLine, theme.accent, on), 1));
+        Icon::paint(painter, plusPlace, u"plus"_s, pxF(12), mixed(theme.derived.label, theme.accentText, on), 2.1);
     }
 
 private:
@@ -109,7 +111,7 @@ AddableFieldList::AddableFieldList(QWidget* parent)
         // In a low window, or with large type, the list gives way.
         setMinimumHeight(px(leastHeight));
         setMaximumHeight(px(listHeight));
-        m_column->setContentsMargins(px(inset), px(inset), px(inset + scrollRoom), px(inset));
+        m_column->setContentsMargins(mirrored(QMargins(px(inset), px(inset), px(inset + scrollRoom), px(inset))));
     });
 }
 
@@ -139,7 +141,7 @@ QWidget* AddableFieldList::headingOf(const FieldSpec& field)
     auto* line = new QVBoxLayout(heading);
     line->addWidget(new LabeledDivider(
         isOfIptc ? u"IPTC · "_s + Texts::shown(rawValue(field.section)) : Texts::tr("OTHER FIELDS"), true));
-    onRestyle(heading, [line] { line->setContentsMargins(px(left), px(12), px(right), px(4)); });
+    onRestyle(heading, [line] { line->setContentsMargins(mirrored(QMargins(px(left), px(12), px(right), px(4)))); });
     return heading;
 }
 

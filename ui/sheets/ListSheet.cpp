@@ -2,6 +2,7 @@
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QHBoxLayout>
@@ -37,7 +38,7 @@ void ListSheet::setParts(
     column->addLayout(foot);
     m_columns->addWidget(editor, 1);
     onRestyle(m_side, [column, foot] {
-        column->setContentsMargins(px(8), px(10), px(9), px(10));
+        column->setContentsMargins(mirrored(QMargins(px(8), px(10), px(9), px(10))));
         column->setSpacing(px(6));
         foot->setSpacing(px(2));
     });
@@ -65,7 +66,7 @@ void ListSheet::resizeEvent(QResizeEvent* event)
 
 void ListSheet::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.fillRect(QRectF(m_side->width() - 1, 0, 1, height()), Theme::of(this).line);
 }
 

@@ -6,6 +6,7 @@
 #include "ui/controls/Toggles.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -60,9 +61,9 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const Theme& theme = Theme::of(this);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         for (int star = 0; star < 5; ++star)
-            Icon::paint(painter, QRectF(star * pxF(16), 0, pxF(14), height()),
+            Icon::paint(painter, mirrored(QRectF(star * pxF(16), 0, pxF(14), height()), this),
                 star < m_rating ? u"star.fill"_s : u"star"_s, pxF(14),
                 star < m_rating ? colorFor(theme, m_role) : theme.muted);
     }

@@ -17,6 +17,7 @@
 #include "ui/controls/Toggles.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/sheets/SheetParts.h"
 
 #include <QGridLayout>
@@ -245,7 +246,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override
     {
-        QPainter painter(this);
+        DirectedPainter painter(this);
         for (int i = 1; i < m_grid->rowCount(); ++i)
             painter.fillRect(0, m_grid->itemAtPosition(i, 0)->geometry().top() - px(changeAbove) - 1, width(), 1,
                 Theme::of(this).line);

@@ -4,6 +4,7 @@
 #include "ui/controls/ScrollArea.h"
 #include "ui/controls/theme/AnimatedValue.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Shadow.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/sheets/SheetParts.h"
@@ -144,7 +145,7 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const Theme& theme = Theme::of(this);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         const QRectF ground(rect());
         QPainterPath shape;
@@ -317,7 +318,7 @@ bool SheetHost::eventFilter(QObject* watched, QEvent* event)
 void SheetHost::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     for (SheetFrame* frame : std::as_const(m_frames)) {
         painter.setOpacity(frame->shown());
         painter.fillRect(rect(), theme.derived.dim);

@@ -3,6 +3,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/sheets/Sheet.h"
@@ -39,7 +40,7 @@ SymbolTile::SymbolTile(const QString& icon, QWidget* parent)
 void SymbolTile::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     paintBox(painter, rect(), pxF(tileRadius), theme.amberBg, QPen(theme.amberLine, 1));
     Icon::paint(painter, rect(), m_icon, pxF(symbolSize), theme.amber);
 }

@@ -3,6 +3,7 @@
 #include "core/language/Texts.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 
 #include <QPainter>
@@ -87,10 +88,13 @@ void ShiftTable::arrange()
         const int top = rowTop(i);
         const int high = px(rowHeight);
         const int arrow = at(arrowMiddle - arrowWidth / 2);
-        line.title->setGeometry(px(side), top, at(beforeLeft) - px(side) - 4, high);
-        line.before->setGeometry(at(beforeLeft), top, arrow - at(beforeLeft), high);
-        line.arrow->setGeometry(arrow, top, at(arrowWidth), high);
-        line.after->setGeometry(at(afterLeft), top, width() - at(afterLeft) - px(side), high);
+        const auto place = [&](QWidget* part, int left, int width) {
+            part->setGeometry(mirrored(QRect(left, top, width, high), this));
+        };
+        place(line.title, px(side), at(beforeLeft) - px(side) - 4);
+        place(line.before, at(beforeLeft), arrow - at(beforeLeft));
+        place(line.arrow, arrow, at(arrowWidth));
+        place(line.after, at(afterLeft), width() - at(afterLeft) - px(side));
     }
 }
 
@@ -103,7 +107,7 @@ void ShiftTable::resizeEvent(QResizeEvent* event)
 void ShiftTable::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     paintBox(painter, rect(), pxF(radius), theme.field, QPen(theme.line, 1));
     for (int i = 1; i < rows; ++i)
         painter.fillRect(1, rowTop(i) - 1, width() - 2, 1, theme.line);

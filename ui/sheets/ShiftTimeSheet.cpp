@@ -15,6 +15,7 @@
 #include "ui/controls/pickers/SegmentedPicker.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/sheets/SheetParts.h"
 #include "ui/sheets/ShiftTable.h"
 #include "ui/sidebar/ThumbnailView.h"
@@ -55,7 +56,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override
     {
-        QPainter painter(this);
+        DirectedPainter painter(this);
         Icon::paint(painter, rect(), u"exclamationmark.triangle.fill"_s, pxF(12), Theme::of(this).derived.amberText);
     }
 };

@@ -7,6 +7,7 @@
 #include "ui/controls/ScrollArea.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/sheets/SheetParts.h"
 
 #include <QHBoxLayout>
@@ -60,7 +61,7 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const Theme& theme = Theme::of(this);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         painter.setFont(sansFont(12, QFont::Medium));
         painter.setPen(theme.derived.label);
         painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter, m_keys);

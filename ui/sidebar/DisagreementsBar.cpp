@@ -5,6 +5,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/NoticeLine.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 
 #include <QLocale>
@@ -100,8 +101,9 @@ void DisagreementsBar::place()
     const int room = qMax(0, width() - px(side) - close - 2 * px(3));
     const int text = m_notice->lines(room) * NoticeLine::lineHeight();
     setFixedHeight(text + 2 * around);
-    m_notice->setGeometry(px(side), around, room, text);
-    m_close->setGeometry(width() - close - px(3), around + (NoticeLine::lineHeight() - close) / 2, close, close);
+    m_notice->setGeometry(mirrored(QRect(px(side), around, room, text), this));
+    const int top = around + (NoticeLine::lineHeight() - close) / 2;
+    m_close->setGeometry(mirrored(QRect(width() - close - px(3), top, close, close), this));
 }
 
 void DisagreementsBar::resizeEvent(QResizeEvent* event)
@@ -113,7 +115,7 @@ void DisagreementsBar::resizeEvent(QResizeEvent* event)
 void DisagreementsBar::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     paintBox(painter, rect(), pxF(corner), theme.chip, QPen(theme.derived.chipLine, 1));
 }
 

@@ -6,6 +6,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/keywords/KeywordChip.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/sidebar/FilterTexts.h"
 
 #include <QKeyEvent>
@@ -151,12 +152,12 @@ void FilterChips::place()
         chip->setVisible(i < m_shown);
         chip->setFocusPolicy(i == 0 ? Qt::StrongFocus : Qt::ClickFocus);
         if (i < m_shown)
-            chip->setGeometry(QRect(flow.put(widths.at(i)), QSize(widths.at(i), px(lineHeight))));
+            chip->setGeometry(mirrored(QRect(flow.put(widths.at(i)), QSize(widths.at(i), px(lineHeight))), this));
     }
     m_more->setVisible(more > 0);
     m_more->setAccessibleName(Texts::tr("%n more filters", nullptr, m_chips.size() - m_shown));
     if (more > 0)
-        m_more->setGeometry(QRect(flow.put(more), QSize(more, px(lineHeight))));
+        m_more->setGeometry(mirrored(QRect(flow.put(more), QSize(more, px(lineHeight))), this));
     setFixedHeight((flow.line + 1) * px(lineHeight));
 }
 
@@ -176,7 +177,7 @@ void FilterChips::goTo(qsizetype at)
 
 bool FilterChips::useKey(qsizetype at, int key)
 {
-    switch (key) {
+    switch (mirroredKey(key, this)) {
     case Qt::Key_Left:
         goTo(at - 1);
         return true;

@@ -10,6 +10,7 @@
 #include "ui/controls/TextFields.h"
 #include "ui/controls/attached/MenuRow.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -51,7 +52,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override
     {
-        QPainter painter(this);
+        DirectedPainter painter(this);
         painter.fillRect(px(10), height() / 2, width() - px(20), 1, Theme::of(this).line);
     }
 };
@@ -127,7 +128,7 @@ void FilterMenu::addHeader(QVBoxLayout* column, const QString& title, ThemedLabe
     if (note)
         line->addWidget(note);
     onRestyle(header, [header, line] {
-        line->setContentsMargins(px(10), px(2), px(12), 0);
+        line->setContentsMargins(mirrored(QMargins(px(10), px(2), px(12), 0)));
         header->setFixedHeight(px(headerHeight));
     });
     column->addWidget(header);
@@ -156,7 +157,7 @@ QWidget* FilterMenu::buildStars()
     connect(m_stars, &RatingEditor::valueEdited, this,
         [this](const QString& value) { m_filtering.setLeastStars(value.toInt()); });
     onRestyle(holder, [holder, line] {
-        line->setContentsMargins(px(12), 0, px(11), 0);
+        line->setContentsMargins(mirrored(QMargins(px(12), 0, px(11), 0)));
         line->setSpacing(px(8));
         holder->setFixedHeight(px(rowHeight));
     });

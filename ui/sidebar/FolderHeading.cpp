@@ -3,6 +3,7 @@
 #include "core/language/Texts.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QPainter>
@@ -37,8 +38,12 @@ void paintGround(QPainter& painter, const QStyleOptionViewItem& option, const QR
 }
 
 // The name is what one looks for: the parents give way first, down to a third of the room.
-void paintName(QPainter& painter, QRectF room, const FolderGroup& group, const Theme& theme)
+void paintName(QPainter& painter, QRectF room, const QRectF& row, const FolderGroup& group, const Theme& theme)
 {
+    const auto draw = [&](const QString& text) {
+        painter.drawText(
+            mirrored(room, row, painter.layoutDirection()), Qt::AlignVCenter | Qt::TextSingleLine, keptInOrder(text));
+    };
     const QFont parentsFont = verbatimFont(12);
     const QFont nameFont = verbatimFont(12, QFont::DemiBold);
     if (!group.parents.isEmpty()) {
@@ -49,13 +54,12 @@ void paintName(QPainter& painter, QRectF room, const FolderGroup& group, const T
         const QString shown = metrics.elidedText(group.parents, Qt::ElideMiddle, most) + slash;
         painter.setFont(parentsFont);
         painter.setPen(theme.derived.label);
-        painter.drawText(room, Qt::AlignVCenter | Qt::TextSingleLine, shown);
+        draw(shown);
         room.setLeft(room.left() + metrics.horizontalAdvance(shown));
     }
     painter.setFont(nameFont);
     painter.setPen(theme.text);
-    painter.drawText(room, Qt::AlignVCenter | Qt::TextSingleLine,
-        QFontMetricsF(nameFont).elidedText(group.name, Qt::ElideMiddle, room.width()));
+    draw(QFontMetricsF(nameFont).elidedText(group.name, Qt::ElideMiddle, room.width()));
 }
 
 QString spoken(const FolderGroup& group)
@@ -93,16 +97,17 @@ void paint(QPainter& painter, const QStyleOptionViewItem& option, int height, co
     const QRectF row(option.rect.left(), option.rect.top(), option.rect.width(), height);
     paintGround(painter, option, row, theme);
     QRectF room = row.adjusted(pxF(left), 0, -pxF(right), 0);
-    Icon::paint(painter, QRectF(room.left(), room.top(), pxF(iconRoom), room.height()),
+    const auto placed = [&](const QRectF& place) { return mirrored(place, QRectF(row), option.direction); };
+    Icon::paint(painter, placed(QRectF(room.left(), room.top(), pxF(iconRoom), room.height())),
         group.isFolded ? u"chevron.right"_s : u"chevron.down"_s, pxF(iconSize), theme.derived.label);
     room.setLeft(room.left() + pxF(iconRoom + gap));
 
     const QString count = QString::number(group.count);
     painter.setFont(sansFont(11));
     painter.setPen(theme.derived.label);
-    painter.drawText(room, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, count);
+    painter.drawText(placed(room), Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, count);
     room.setRight(room.right() - QFontMetricsF(painter.font()).horizontalAdvance(count) - pxF(gap));
-    paintName(painter, room, group, theme);
+    paintName(painter, room, QRectF(row), group, theme);
     painter.restore();
 }
 

@@ -1,6 +1,7 @@
 #include "ui/sidebar/GroupedListView.h"
 
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/sidebar/SidebarDelegate.h"
 
@@ -45,7 +46,8 @@ int GroupedListView::inset() const
 void GroupedListView::place()
 {
     const int around = px(margin) - inset();
-    setViewportMargins(around, around, 0, around);
+    const QMargins margins = mirrored(QMargins(around, around, 0, around));
+    setViewportMargins(margins.left(), margins.top(), margins.right(), margins.bottom());
 }
 
 int GroupedListView::topOf(int row) const
@@ -57,7 +59,7 @@ QRect GroupedListView::rowRect(int row, int top) const
 {
     const RowPitch pitch = SidebarDelegate::pitches();
     const int height = rows().headingAt(row) >= 0 ? pitch.heading : pitch.photo;
-    return { inset(), top, viewport()->width() - inset(), height };
+    return mirrored(QRect(inset(), top, viewport()->width() - inset(), height), viewport());
 }
 
 QRect GroupedListView::visualRect(const QModelIndex& index) const
@@ -232,7 +234,7 @@ void GroupedListView::paintRow(QPainter& painter, QStyleOptionViewItem& option, 
 
 void GroupedListView::paintEvent(QPaintEvent* event)
 {
-    QPainter painter(viewport());
+    DirectedPainter painter(viewport());
     QStyleOptionViewItem option;
     initViewItemOption(&option);
     const auto stuck = stuckTop();

@@ -2,6 +2,7 @@
 
 #include "app/model/thumbnails/ThumbnailStore.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/sidebar/FolderHeading.h"
 #include "ui/sidebar/SidebarModel.h"
@@ -88,24 +89,25 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     paintGround(*painter, option, row, theme);
 
     const qreal size = pxF(thumbnailSize);
+    const auto placed = [&](const QRectF& place) { return mirrored(place, row, option.direction); };
     const QRectF square(row.left() + px(thumbnailLeft), row.top() + (row.height() - size) / 2, size, size);
     const QUrl file = m_rows.seenFile(*photo);
     const auto entry = m_thumbs ? m_thumbs->entry(file, ThumbnailStore::Kind::small) : ThumbnailStore::Entry{};
-    ThumbnailView::paint(*painter, square, pxF(thumbnailCorner), entry, file, theme);
+    ThumbnailView::paint(*painter, placed(square), pxF(thumbnailCorner), entry, file, theme);
 
     const bool selected = option.state & QStyle::State_Selected;
     QRectF line(square.right() + px(textGap), row.top() + px(nameTop), 0, px(nameHeight));
     line.setRight(row.right() - px(textGap));
     painter->setFont(verbatimFont(13));
     painter->setPen(selected ? theme.selText : theme.text);
-    painter->drawText(line, Qt::AlignVCenter | Qt::TextSingleLine,
-        painter->fontMetrics().elidedText(photo->fileName, Qt::ElideMiddle, static_cast<int>(line.width())));
+    painter->drawText(placed(line), Qt::AlignVCenter | Qt::TextSingleLine,
+        keptInOrder(painter->fontMetrics().elidedText(photo->fileName, Qt::ElideMiddle, int(line.width()))));
     line.translate(0, line.height() + 1);
     line.setHeight(px(detailHeight));
     painter->setFont(sansFont(11));
     painter->setPen(selected ? theme.selSub : theme.muted);
-    painter->drawText(line, Qt::AlignVCenter | Qt::TextSingleLine,
-        painter->fontMetrics().elidedText(m_rows.line(*photo), Qt::ElideRight, static_cast<int>(line.width())));
+    painter->drawText(placed(line), Qt::AlignVCenter | Qt::TextSingleLine,
+        keptInOrder(painter->fontMetrics().elidedText(m_rows.line(*photo), Qt::ElideRight, int(line.width()))));
     painter->restore();
 }
 

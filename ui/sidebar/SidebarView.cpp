@@ -10,6 +10,7 @@
 #include "ui/controls/TextFields.h"
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/SymbolText.h"
 #include "ui/sidebar/DisagreementsBar.h"
 #include "ui/sidebar/FilterChips.h"
@@ -59,15 +60,15 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const Theme& theme = Theme::of(this);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         const QString selected = QString::number(m_model.selection().size());
         painter.setPen(theme.text);
         painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, selected);
         const int advance = fontMetrics().horizontalAdvance(selected);
         painter.setFont(sansFont(12));
         painter.setPen(theme.muted);
-        painter.drawText(
-            rect().adjusted(advance, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, text().mid(selected.size()));
+        painter.drawText(mirrored(rect().adjusted(advance, 0, 0, 0), this), Qt::AlignLeft | Qt::AlignVCenter,
+            text().mid(selected.size()));
     }
 
 private:
@@ -139,7 +140,7 @@ QWidget* SidebarView::buildHeader()
     connect(all, &QAbstractButton::clicked, &m_model, &AppModel::selectAllPhotos);
     line->addWidget(all);
     onRestyle(header, [header, line] {
-        line->setContentsMargins(px(sidePadding), px(2), px(rightPadding), 0);
+        line->setContentsMargins(mirrored(QMargins(px(sidePadding), px(2), px(rightPadding), 0)));
         header->setFixedHeight(px(headerHeight));
     });
     return header;
@@ -195,7 +196,8 @@ QWidget* SidebarView::buildChips()
     holder->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     connect(m_chips, &FilterChips::menuAsked, this, &SidebarView::openFilterMenu);
     connect(m_chips, &FilterChips::keyboardLeft, this, [this] { m_list->setFocus(Qt::OtherFocusReason); });
-    onRestyle(holder, [line] { line->setContentsMargins(px(sidePadding - 1), 0, px(rightPadding), px(9)); });
+    onRestyle(holder,
+        [line] { line->setContentsMargins(mirrored(QMargins(px(sidePadding - 1), 0, px(rightPadding), px(9)))); });
     return holder;
 }
 
@@ -205,7 +207,8 @@ void SidebarView::followFilters()
     m_filter->setHighlighted(m_model.filtering().isOn() || m_menu);
     const qreal height = hasChips ? findHeightOverChips : findHeight;
     m_find->setFixedHeight(px(height));
-    m_find->layout()->setContentsMargins(px(sidePadding), 0, px(rightPadding), px(height - fieldHeight));
+    m_find->layout()->setContentsMargins(
+        mirrored(QMargins(px(sidePadding), 0, px(rightPadding), px(height - fieldHeight))));
     if (m_chips)
         m_chips->parentWidget()->setVisible(hasChips);
 }
@@ -234,7 +237,8 @@ QWidget* SidebarView::buildDisagreements()
     };
     connect(&m_model, &AppModel::disagreementsChanged, holder, follow);
     follow();
-    onRestyle(holder, [line] { line->setContentsMargins(px(sidePadding), 0, px(rightPadding), px(11)); });
+    onRestyle(
+        holder, [line] { line->setContentsMargins(mirrored(QMargins(px(sidePadding), 0, px(rightPadding), px(11)))); });
     return holder;
 }
 
@@ -303,7 +307,7 @@ QRect SidebarView::footRect() const
 void SidebarView::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.fillRect(rect(), theme.bg);
     painter.fillRect(0, listTop() - 1, width(), 1, theme.hair);
 }

@@ -3,6 +3,7 @@
 #include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -86,7 +87,7 @@ void ThumbnailView::paint(QPainter& painter, const QRectF& rect, qreal corner, c
 
 void ThumbnailView::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    DirectedPainter painter(this);
     ThumbnailStore::Entry entry;
     if (m_thumbs && !m_url.isEmpty())
         entry = m_thumbs->request(m_url, ThumbnailStore::Kind::small);

@@ -3,6 +3,7 @@
 #include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/templates/TemplateTexts.h"
@@ -106,6 +107,8 @@ void PreviewRow::layOut()
     m_layout->setFont(verbatimFont(13));
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setTextDirection(layoutDirection());
+    option.setAlignment(isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
     m_layout->setTextOption(option);
     QList<QTextLayout::FormatRange> formats;
     for (const Gap& one : std::as_const(m_gaps)) {
@@ -142,8 +145,8 @@ void PreviewRow::paintGaps(QPainter& painter) const
         const QTextLine line = m_layout->lineForTextPosition(one.from);
         const qreal from = line.cursorToX(one.from);
         const qreal to = line.cursorToX(qMin(one.from + one.length, line.textStart() + line.textLength()));
-        const QRectF box(textBox().left() + from + pxF(1), textBox().top() + line.y() + (line.height() - pxF(17)) / 2,
-            to - from - pxF(2), pxF(17));
+        const QRectF box(mirrored(textBox(), this).left() + from + pxF(1),
+            textBox().top() + line.y() + (line.height() - pxF(17)) / 2, to - from - pxF(2), pxF(17));
         QPen dashed(theme.amber, 1, Qt::DashLine);
         painter.setPen(dashed);
         painter.setBrush(Qt::NoBrush);
@@ -154,14 +157,14 @@ void PreviewRow::paintGaps(QPainter& painter) const
 void PreviewRow::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!m_isFirst)
         painter.fillRect(QRectF(0, 0, width(), 1), theme.line);
     const auto draw = [&](const QRectF& box, const QFont& font, const QColor& color, const QString& text, int align) {
         painter.setFont(font);
         painter.setPen(color);
-        painter.drawText(box, align | Qt::AlignVCenter | Qt::TextSingleLine,
+        painter.drawText(mirrored(box, this), align | Qt::AlignVCenter | Qt::TextSingleLine,
             QFontMetrics(font).elidedText(text, Qt::ElideRight, int(box.width()) + 1));
     };
     draw({ pxF(side), pxF(above), pxF(labelWidth), pxF(lineHeight) }, sansFont(13), theme.derived.label, m_field.label,
@@ -176,7 +179,7 @@ void PreviewRow::paintEvent(QPaintEvent*)
     draw(note, sansFont(11), isRefused || !m_gaps.isEmpty() ? theme.derived.amberText : theme.derived.label,
         m_field.note, Qt::AlignRight);
     painter.setPen(isRefused ? theme.derived.amberText : theme.text);
-    m_layout->draw(&painter, textBox().topLeft());
+    m_layout->draw(&painter, mirrored(textBox(), this).topLeft());
     paintGaps(painter);
 }
 

@@ -5,6 +5,7 @@
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/templates/TemplateTexts.h"
@@ -39,6 +40,7 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
+        painter->setLayoutDirection(option.direction);
         const Theme& theme = Theme::of(option.widget);
         const bool isOn = option.state.testFlag(QStyle::State_Selected);
         const bool isHovered = option.state.testFlag(QStyle::State_MouseOver);
@@ -52,7 +54,7 @@ public:
         const auto draw = [&](const QFont& font, const QColor& color, const QString& words, int align) {
             painter->setFont(font);
             painter->setPen(color);
-            painter->drawText(text, align | Qt::AlignVCenter | Qt::TextSingleLine,
+            painter->drawText(mirrored(text, row, option.direction), align | Qt::AlignVCenter | Qt::TextSingleLine,
                 QFontMetrics(font).elidedText(words, Qt::ElideRight, int(text.width())));
         };
         if (digit > 0) {

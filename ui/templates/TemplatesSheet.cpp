@@ -15,6 +15,7 @@
 #include "ui/controls/attached/SearchMenu.h"
 #include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/sheets/SheetParts.h"
 #include "ui/templates/PreviewRow.h"
@@ -66,7 +67,7 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const Theme& theme = Theme::of(this);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         paintBox(painter, rect(), pxF(7), theme.field, QPen(theme.line, 1));
     }
 };
@@ -228,14 +229,14 @@ QWidget* TemplatesSheet::buildForm()
     column->addLayout(foot);
     onRestyle(right, [this, column, form, addLine, foot] {
         const int padding = px(sheetPadding);
-        column->setContentsMargins(padding - px(4), px(14), px(14), padding);
+        column->setContentsMargins(mirrored(QMargins(padding - px(4), px(14), px(14), padding)));
         column->setSpacing(px(14));
-        foot->setContentsMargins(px(4), 0, px(10), 0);
+        foot->setContentsMargins(mirrored(QMargins(px(4), 0, px(10), 0)));
         // Room for the rings of fields that have the keyboard.
-        form->setContentsMargins(px(4), px(4), px(10), px(4));
+        form->setContentsMargins(mirrored(QMargins(px(4), px(4), px(10), px(4))));
         form->setSpacing(px(10));
         m_rows->setSpacing(px(rowGap));
-        addLine->setContentsMargins(px(TemplateRow::labelWidth + TemplateRow::gap), 0, 0, px(4));
+        addLine->setContentsMargins(mirrored(QMargins(px(TemplateRow::labelWidth + TemplateRow::gap), 0, 0, px(4))));
     });
     return right;
 }

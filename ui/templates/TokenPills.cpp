@@ -7,6 +7,7 @@
 #include "ui/controls/attached/SearchMenu.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -51,7 +52,7 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const Theme& theme = Theme::of(this);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         const QColor fill =
             isDown() ? theme.derived.secondaryPressed : mixed(theme.btn, theme.derived.secondaryHover, fade()->hover());
         paintBox(painter, rect(), height() / 2.0, fill,

@@ -4,6 +4,7 @@
 #include "ui/controls/Labels.h"
 #include "ui/controls/pickers/SegmentedPicker.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 
 #include <QVBoxLayout>
 
@@ -33,7 +34,7 @@ ChoiceRow::ChoiceRow(const QString& name, const QStringList& choices, QWidget* p
     column->addLayout(m_line);
     column->addWidget(m_help);
     onRestyle(this, [this, column] {
-        column->setContentsMargins(px(14), px(9), px(12), px(10));
+        column->setContentsMargins(mirrored(QMargins(px(14), px(9), px(12), px(10))));
         column->setSpacing(px(6));
         arrange();
     });

@@ -5,6 +5,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -47,7 +48,7 @@ CodeFileRow::CodeFileRow(CodeReplacements& codes, QWidget* parent)
     m_column->addLayout(line);
     m_column->addWidget(help);
     onRestyle(this, [this, line] {
-        m_column->setContentsMargins(px(14), px(7), px(12), px(10));
+        m_column->setContentsMargins(mirrored(QMargins(px(14), px(7), px(12), px(10))));
         m_column->setSpacing(px(4));
         line->setSpacing(px(8));
     });

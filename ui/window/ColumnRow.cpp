@@ -2,6 +2,7 @@
 
 #include "ui/controls/ResizeHandle.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 
 #include <QEvent>
 
@@ -102,10 +103,13 @@ void ColumnRow::arrange()
     const int rest = width() - left;
     const int beside = inspectorWidth(width(), sidebar, handle);
     const int inspector = qRound(rest + (beside - rest) * m_reveal.value());
-    m_sidebar->setGeometry(0, 0, sidebar, height());
-    m_handle->setGeometry(sidebar, 0, handle, height());
-    m_inspector->setGeometry(left, 0, inspector, height());
-    m_preview->setGeometry(left + inspector, 0, rest - beside, height());
+    const auto place = [this](QWidget* column, int left, int width) {
+        column->setGeometry(mirrored(QRect(left, 0, width, height()), this));
+    };
+    place(m_sidebar, 0, sidebar);
+    place(m_handle, sidebar, handle);
+    place(m_inspector, left, inspector);
+    place(m_preview, left + inspector, rest - beside);
     m_preview->setVisible(m_reveal.value() > 0);
 }
 

@@ -6,6 +6,7 @@
 #include "ui/controls/SelectableText.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Shadow.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -45,7 +46,7 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const int room = px(shadowRoom);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         paintShadow(painter, rect().adjusted(room, room, -room, -room), pxF(radius), Shadow::notice, Theme::of(this));
     }
 };
@@ -140,27 +141,27 @@ void ErrorBanner::place(int bottom)
     const int textHeight = m_text->heightFor(textWidth, mostLines);
     const int room = qMax(textHeight, px(18));
     const int height = room + 2 * px(verticalPadding);
-    m_text->setGeometry(left, px(verticalPadding) + (room - textHeight) / 2, textWidth, textHeight);
+    const QRect text(left, px(verticalPadding) + (room - textHeight) / 2, textWidth, textHeight);
     const int offerRoom = m_offer->isHidden() ? 0 : m_offer->sizeHint().height() + px(offerGap);
     setGeometry((parentWidget()->width() - width) / 2, bottom - height - offerRoom, width, height + offerRoom);
-    m_offer->resize(m_offer->sizeHint());
-    m_offer->move(left, height - px(verticalPadding - offerGap));
+    m_text->setGeometry(mirrored(text, this));
+    m_offer->setGeometry(
+        mirrored(QRect(QPoint(left, height - px(verticalPadding - offerGap)), m_offer->sizeHint()), this));
     const int around = px(shadowRoom);
     m_shadow->setGeometry(geometry().adjusted(-around, -around, around, around));
-    m_close->resize(m_close->sizeHint());
-    m_close->move(crossLeft, px(verticalPadding) - px(2));
+    m_close->setGeometry(mirrored(QRect(QPoint(crossLeft, px(verticalPadding) - px(2)), m_close->sizeHint()), this));
 }
 
 void ErrorBanner::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(theme.line);
     painter.setBrush(theme.panel);
     painter.drawRoundedRect(QRectF(rect()).adjusted(.5, .5, -.5, -.5), pxF(radius), pxF(radius));
     const QRectF icon(px(leftPadding), px(verticalPadding), px(iconSize), px(iconSize));
-    Icon::paint(painter, icon, u"exclamationmark.triangle.fill"_s, pxF(iconSize), theme.amber);
+    Icon::paint(painter, mirrored(icon, this), u"exclamationmark.triangle.fill"_s, pxF(iconSize), theme.amber);
 }
 
 }  // namespace Quorbel

@@ -4,8 +4,10 @@
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/ScrollArea.h"
+#include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/SymbolText.h"
 #include "ui/controls/theme/TextLines.h"
 #include "ui/controls/theme/Theme.h"
@@ -44,6 +46,7 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
+        painter->setLayoutDirection(option.direction);
         const Theme& theme = Theme::of(option.widget);
         const bool selected = option.state & QStyle::State_Selected;
         const auto topic = allCases<HelpTopic>().at(index.row());
@@ -55,12 +58,13 @@ public:
             painter->drawRoundedRect(option.rect, pxF(topicRadius), pxF(topicRadius));
         }
         QRectF rest = QRectF(option.rect).adjusted(px(10), 0, -px(10), 0);
-        Icon::paint(*painter, QRectF(rest.topLeft(), QSizeF(px(18), rest.height())), iconName(topic), pxF(18),
+        const auto placed = [&](const QRectF& place) { return mirrored(place, QRectF(option.rect), option.direction); };
+        Icon::paint(*painter, placed(QRectF(rest.topLeft(), QSizeF(px(18), rest.height()))), iconName(topic), pxF(18),
             selected ? theme.selText : theme.derived.label);
         rest.setLeft(rest.left() + px(18 + 10));
         painter->setFont(sansFont(13));
         painter->setPen(selected ? theme.selText : theme.text);
-        painter->drawText(rest, Qt::AlignVCenter | Qt::TextSingleLine, title(topic));
+        painter->drawText(placed(rest), Qt::AlignVCenter | Qt::TextSingleLine, title(topic));
         painter->restore();
     }
 };
@@ -102,7 +106,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override
     {
-        QPainter painter(this);
+        DirectedPainter painter(this);
         painter.setPen(Theme::of(this).text);
         forLines(width(), [&](const QTextLine& line, int y) {
             line.draw(&painter, QPointF(0, y + (pxF(lineHeight) - line.height()) / 2));
@@ -136,11 +140,11 @@ QWidget* bulletLine(const QString& text)
     protected:
         void paintEvent(QPaintEvent*) override
         {
-            QPainter painter(this);
+            DirectedPainter painter(this);
             painter.setRenderHint(QPainter::Antialiasing);
             painter.setPen(Qt::NoPen);
             painter.setBrush(Theme::of(this).muted);
-            painter.drawEllipse(QRectF(pxF(3), pxF(8.5), pxF(4), pxF(4)));
+            painter.drawEllipse(mirrored(QRectF(pxF(3), pxF(8.5), pxF(4), pxF(4)), this));
         }
     };
     auto* line = new QWidget;
@@ -215,6 +219,11 @@ HelpView::HelpView(QWidget* parent)
     , m_topics(new TopicList(this))
     , m_page(new ScrollArea(this))
 {
+    // They fill the window: the ring is drawn inside.
+    for (QWidget* part : { static_cast<QWidget*>(m_topics), static_cast<QWidget*>(m_page) }) {
+        const auto inside = [part] { return QRectF(part->rect()).adjusted(3, 3, -3, -3); };
+        installFocusRing(part, { RingShape::tight, 6, {}, inside });
+    }
     describeAs(staticMetaObject, QAccessible::Window);
     connect(m_topics, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0)
@@ -261,17 +270,17 @@ void HelpView::arrange()
     const int titles = qMin(widestTitle(), width() * 9 / 20);
     const int usual = qBound(px(narrowestTopics), qMax(px(usualTopics), width() / 5), px(widestTopics));
     const int topics = qMax(usual, titles);
-    m_topics->setGeometry(0, 0, topics, height());
-    m_page->setGeometry(topics + 1, 0, width() - topics - 1, height());
+    m_topics->setGeometry(mirrored(QRect(0, 0, topics, height()), this));
+    m_page->setGeometry(mirrored(QRect(topics + 1, 0, width() - topics - 1, height()), this));
 }
 
 void HelpView::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.fillRect(rect(), theme.bg);
-    painter.fillRect(QRect(0, 0, m_topics->width(), height()), theme.panel);
-    painter.fillRect(m_topics->width(), 0, 1, height(), theme.line);
+    painter.fillRect(m_topics->geometry(), theme.panel);
+    painter.fillRect(mirrored(QRect(m_topics->width(), 0, 1, height()), this), theme.line);
 }
 
 }  // namespace Quorbel

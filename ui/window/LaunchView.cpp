@@ -7,6 +7,7 @@
 #include "ui/controls/Toggles.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/window/ProgressFoot.h"
 
@@ -98,7 +99,7 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const Theme& theme = Theme::of(this);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         paintBox(painter, theme);
         const qreal block = pxF(iconSize + textGap + lineHeight);

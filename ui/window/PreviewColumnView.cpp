@@ -5,6 +5,7 @@
 #include "app/model/thumbnails/ThumbnailStore.h"
 #include "core/language/Texts.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Shadow.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -141,7 +142,7 @@ QRect PreviewColumnView::stage() const
 void PreviewColumnView::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.fillRect(rect(), theme.previewBg);
     painter.save();
@@ -152,7 +153,7 @@ void PreviewColumnView::paintEvent(QPaintEvent*)
         paintOne(painter);
     painter.restore();
     paintFoot(painter);
-    painter.fillRect(0, 0, 1, height(), theme.line);
+    painter.fillRect(mirrored(QRect(0, 0, 1, height()), this), theme.line);
 }
 
 void PreviewColumnView::paintOne(QPainter& painter)
@@ -184,7 +185,8 @@ void PreviewColumnView::paintWord(QPainter& painter, const QRectF& photo)
     painter.setFont(sansFont(11, QFont::Medium));
     const qreal margin = pxF(wordMargin);
     const QSizeF size(painter.fontMetrics().horizontalAdvance(thumbnailOnly()) + 2 * margin, pxF(wordHeight));
-    const QRectF ground(QPointF(photo.left() + margin, photo.bottom() - margin - size.height()), size);
+    const QRectF corner(QPointF(photo.left() + margin, photo.bottom() - margin - size.height()), size);
+    const QRectF ground = mirrored(corner, photo, layoutDirection());
     painter.fillPath(rounded(ground, pxF(photoRadius)), theme.panel);
     painter.setPen(theme.derived.label);
     painter.drawText(ground, Qt::AlignCenter, thumbnailOnly());
@@ -202,7 +204,8 @@ void PreviewColumnView::paintCards(QPainter& painter)
     const QRectF block = centered(whole, stage());
     const QRectF front(block.left(), block.top() + behind * step, card.width(), card.height());
     for (auto i = behind; i >= 0; --i)
-        paintCard(painter, front.translated(i * step, -i * step), m_urls.at(i), static_cast<int>(i));
+        paintCard(
+            painter, mirrored(front.translated(i * step, -i * step), block, layoutDirection()), m_urls.at(i), int(i));
     painter.setFont(sansFont(13));
     painter.setPen(theme.derived.label);
     painter.drawText(QRectF(stage().left(), front.bottom() + textTop, stage().width(), textHeight), Qt::AlignCenter,
@@ -259,7 +262,7 @@ void PreviewColumnView::paintFoot(QPainter& painter)
         painter.fontMetrics().elidedText(m_model.pairing().sidebarLine(*photo), Qt::ElideRight, line.width() / 2);
     const int detailsWidth = painter.fontMetrics().horizontalAdvance(details);
     painter.setPen(theme.derived.label);
-    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, details);
+    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, keptInOrder(details));
     painter.setFont(verbatimFont(11, QFont::DemiBold));
     painter.setPen(theme.text);
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,

@@ -7,6 +7,7 @@
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/AnimatedValue.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 
 #include <QAccessible>
 #include <QHBoxLayout>
@@ -75,7 +76,7 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const Theme& theme = Theme::of(this);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
         const qreal radius = height() / 2.0;
@@ -84,7 +85,8 @@ protected:
         if (m_shown.value() <= 0)
             return;
         painter.setBrush(theme.accent);
-        painter.drawRoundedRect(QRectF(0, 0, qMax(2 * radius, width() * m_shown.value()), height()), radius, radius);
+        const QRectF done(0, 0, qMax(2 * radius, width() * m_shown.value()), height());
+        painter.drawRoundedRect(mirrored(done, this), radius, radius);
     }
 
 private:
@@ -116,8 +118,8 @@ ProgressFoot::ProgressFoot(AppModel& model, QWidget* parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     onRestyle(this, [this, column, barLine] {
         // The button's own padding reaches to the bar's end.
-        column->setContentsMargins(px(sidePadding), px(6), px(4), 0);
-        barLine->setContentsMargins(0, px(3), px(8), 0);
+        column->setContentsMargins(mirrored(QMargins(px(sidePadding), px(6), px(4), 0)));
+        barLine->setContentsMargins(mirrored(QMargins(0, px(3), px(8), 0)));
     });
 
     hide();
@@ -211,7 +213,7 @@ void ProgressFoot::showProgress()
 void ProgressFoot::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.fillRect(rect(), theme.bg);
     if (m_lined)
         painter.fillRect(0, 0, width(), 1, theme.line);

@@ -12,6 +12,7 @@
 #include "ui/controls/pickers/ChoicePicker.h"
 #include "ui/controls/pickers/SegmentedPicker.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/window/ChoiceRow.h"
 #include "ui/window/CodeFileRow.h"
@@ -68,13 +69,13 @@ public:
         }
         const bool isField = qobject_cast<QLineEdit*>(control);
         onRestyle(row, [=] {
-            column->setContentsMargins(px(14), 0, px(12), note ? px(10) : 0);
+            column->setContentsMargins(mirrored(QMargins(px(14), 0, px(12), note ? px(10) : 0)));
             line->setContentsMargins(0, px(note ? 4 : 0), 0, 0);
             line->setSpacing(px(16));
             // With a note the line gives up the room below its text.
             top->setFixedHeight(px(isField ? fieldRowHeight : note ? rowHeight - 4 : rowHeight));
             if (note)
-                note->setContentsMargins(0, px(isField ? 2 : 0), px(isField ? 0 : 52), 0);
+                note->setContentsMargins(mirrored(QMargins(0, px(isField ? 2 : 0), px(isField ? 0 : 52), 0)));
         });
         m_rows->addWidget(row);
     }
@@ -86,7 +87,7 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         const Theme& theme = Theme::of(this);
-        QPainter painter(this);
+        DirectedPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(theme.line);
         painter.setBrush(theme.field);
@@ -102,8 +103,9 @@ private:
 Group* addGroup(QVBoxLayout* column, const QString& title)
 {
     auto* heading = new ThemedLabel(title, TextRole::label, 12, QFont::DemiBold);
-    onRestyle(heading,
-        [heading, first = column->isEmpty()] { heading->setContentsMargins(px(2), first ? 0 : px(14), 0, px(6)); });
+    onRestyle(heading, [heading, first = column->isEmpty()] {
+        heading->setContentsMargins(mirrored(QMargins(px(2), first ? 0 : px(14), 0, px(6))));
+    });
     column->addWidget(heading);
     auto* group = new Group;
     group->setAccessibleName(title);

@@ -8,6 +8,7 @@
 #include "ui/controls/ThemedMenu.h"
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/InspectorStates.h"
 
@@ -70,10 +71,10 @@ WindowBar::WindowBar(AppModel& model, QWidget* parent)
     saveGap->addWidget(m_save);
     tools->addLayout(saveGap);
     onRestyle(this, [=, this] {
-        m_line->setContentsMargins(px(4), 0, px(12), 1);
+        m_line->setContentsMargins(mirrored(QMargins(px(4), 0, px(12), 1)));
         tools->setContentsMargins(0, 0, 0, 0);
         tools->setSpacing(px(4));
-        saveGap->setContentsMargins(px(8), 0, 0, 0);
+        saveGap->setContentsMargins(mirrored(QMargins(px(8), 0, 0, 0)));
         setFixedHeight(px(barHeight));
     });
 
@@ -156,7 +157,7 @@ void WindowBar::openSettingsMenu()
 void WindowBar::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.fillRect(rect(), theme.titlebar);
     painter.fillRect(0, height() - 1, width(), 1, theme.line);
     paintTitles(painter);
@@ -171,8 +172,9 @@ QString WindowBar::shownTitle() const
 void WindowBar::paintTitles(QPainter& painter) const
 {
     const Theme& theme = Theme::of(this);
-    const int side =
-        qMax(m_menus ? m_menus->geometry().right() : 0, width() - m_tools->geometry().left()) + px(titleGap);
+    const int side = qMax(m_menus ? mirrored(m_menus->geometry(), this).right() : 0,
+                         width() - mirrored(m_tools->geometry(), this).left())
+        + px(titleGap);
     QRect line(side, px(titleTop), width() - 2 * side, px(titleHeight));
     if (line.width() < px(leastTitle))
         return;
@@ -180,8 +182,8 @@ void WindowBar::paintTitles(QPainter& painter) const
     const bool isName = !m_model.folderName().isEmpty();
     painter.setFont(isName ? verbatimFont(13, QFont::DemiBold) : sansFont(13, QFont::DemiBold));
     painter.setPen(theme.text);
-    painter.drawText(
-        line, Qt::AlignCenter, painter.fontMetrics().elidedText(shownTitle(), Qt::ElideMiddle, line.width()));
+    painter.drawText(line, Qt::AlignCenter,
+        keptInOrder(painter.fontMetrics().elidedText(shownTitle(), Qt::ElideMiddle, line.width())));
     line.translate(0, line.height());
     line.setHeight(px(subtitleHeight));
     painter.setFont(sansFont(11));

@@ -2,8 +2,10 @@
 
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -102,12 +104,12 @@ QSize CodesChip::sizeHint() const
 void CodesChip::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(opacity());
     const QColor rest = isChecked() ? theme.derived.hover : QColor(Qt::transparent);
     const QColor ground =
         mixed(mixed(rest, theme.derived.hover, fade()->hover()), theme.derived.pressed, fade()->pressed());
-    paintBox(painter, rect(), pxF(radius), ground, Qt::NoPen);
+    paintBox(painter, rect(), pxF(radius), ground, isChecked() ? HighContrast::groundEdge(theme) : Qt::NoPen);
     const QColor plain = isChecked() ? theme.text : mixed(theme.derived.label, theme.text, fade()->hover());
     painter.setPen(m_edited ? theme.derived.amberText : plain);
     int x = px(side);
@@ -116,12 +118,12 @@ void CodesChip::paintEvent(QPaintEvent*)
         QFont struck = font();
         struck.setStrikeOut(part.isGone);
         painter.setFont(struck);
-        painter.drawText(
-            QRect(x, 0, width() - x, height()), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, part.text);
+        painter.drawText(mirrored(QRect(x, 0, width() - x, height()), this),
+            Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, part.text);
         x += fontMetrics().horizontalAdvance(part.text + u' ');
     }
     const QRectF icon(width() - pxF(side + chevron), 0, pxF(chevron), height());
-    Icon::paint(painter, icon, u"chevron.down"_s, pxF(chevron), painter.pen().color(), 2.1);
+    Icon::paint(painter, mirrored(icon, this), u"chevron.down"_s, pxF(chevron), painter.pen().color(), 2.1);
 }
 
 }  // namespace Quorbel

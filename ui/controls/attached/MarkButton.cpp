@@ -2,8 +2,10 @@
 
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -63,15 +65,16 @@ void MarkButton::resizeEvent(QResizeEvent* event)
 void MarkButton::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     const qreal shade = m_open ? 1 : qMax(fade()->hover(), fade()->pressed());
-    paintBox(painter, rect(), pxF(radius), withAlpha(theme.amberBg, theme.amberBg.alphaF() * shade), Qt::NoPen);
+    paintBox(painter, rect(), pxF(radius), withAlpha(theme.amberBg, theme.amberBg.alphaF() * shade),
+        m_open ? HighContrast::groundEdge(theme) : Qt::NoPen);
     const QColor ink = theme.derived.amberText;
     const QRectF icon(pxF(sidePadding), 0, pxF(markSize), height());
-    Icon::paint(painter, icon, m_icon, pxF(markSize), ink);
+    Icon::paint(painter, mirrored(icon, this), m_icon, pxF(markSize), ink);
     painter.setPen(ink);
     const QRect box = textRect();
-    painter.drawText(box, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+    painter.drawText(mirrored(box, this), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
         fontMetrics().elidedText(text(), Qt::ElideRight, box.width()));
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -69,7 +70,7 @@ void MenuRow::enterEvent(QEnterEvent* event)
 void MenuRow::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(opacity());
     const bool isActive = hasFocus();
     if (isActive)
@@ -77,7 +78,8 @@ void MenuRow::paintEvent(QPaintEvent*)
     else if (underMouse() && isEnabled())
         paintBox(painter, rect(), pxF(radius), theme.derived.hover, Qt::NoPen);
     const QColor trailing = isActive ? theme.selSub : m_quiet ? theme.muted : theme.derived.label;
-    const QRectF line = QRectF(rect()).adjusted(pxF(isCheckable() ? behindBox : side), 0, -pxF(side), 0);
+    const QRectF line =
+        mirrored(QRectF(rect()).adjusted(pxF(isCheckable() ? behindBox : side), 0, -pxF(side), 0), this);
     painter.setFont(sansFont(12));
     painter.setPen(trailing);
     painter.drawText(line, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, m_trailing);
@@ -85,7 +87,8 @@ void MenuRow::paintEvent(QPaintEvent*)
     painter.setPen(isActive ? theme.selText : m_quiet ? theme.muted : theme.text);
     painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text());
     if (isCheckable())
-        paintBoxAt(painter, QRectF(pxF(boxLeft), (height() - pxF(boxSide)) / 2, pxF(boxSide), pxF(boxSide)));
+        paintBoxAt(
+            painter, mirrored(QRectF(pxF(boxLeft), (height() - pxF(boxSide)) / 2, pxF(boxSide), pxF(boxSide)), this));
 }
 
 void MenuRow::paintBoxAt(QPainter& painter, const QRectF& box) const

@@ -1,6 +1,7 @@
 #include "ui/controls/attached/Popover.h"
 
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/PopupFrame.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -51,7 +52,8 @@ void Popover::place(bool sameSide)
     const int height = qMin(wanted, qMax(px(least), m_isBelow ? below : above));
     const int y = m_isBelow ? m_anchor.bottom() + 1 + px(gap) : m_anchor.top() - px(gap) - height;
     const QPoint last = room.bottomRight() - QPoint(width, height) + QPoint(1, 1);
-    const QPoint at(qMax(room.left(), qMin(m_anchor.left(), last.x())), qMax(room.top(), qMin(y, last.y())));
+    const int start = isRightToLeft() ? m_anchor.right() + 1 - width : m_anchor.left();
+    const QPoint at(qMax(room.left(), qMin(start, last.x())), qMax(room.top(), qMin(y, last.y())));
     setGeometry(QRect(at, QSize(width, height)) + PopupFrame::room());
     arrange(box());
 }
@@ -92,7 +94,7 @@ void Popover::resizeEvent(QResizeEvent* event)
 
 void Popover::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    DirectedPainter painter(this);
     PopupFrame::paint(painter, box(), Theme::of(this));
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -32,11 +33,13 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
+        painter->setLayoutDirection(option.direction);
         const Theme& theme = Theme::of(option.widget);
         const bool active = option.state.testFlag(QStyle::State_Selected);
         QRect row = option.rect;
         if (index.model()->rowCount() > SearchMenu::mostRows)
             row.setRight(row.right() - OverlayScrollBar::room());
+        row = mirrored(QRectF(row), QRectF(option.rect), option.direction).toRect();
         if (active)
             paintBox(*painter, row, pxF(6), theme.sel, Qt::NoPen);
         const QString code = index.data(codeRole).toString();
@@ -47,7 +50,9 @@ public:
         painter->drawText(inner, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, code);
         painter->setFont(verbatimFont(13));
         painter->setPen(active ? theme.selText : theme.text);
-        const QRect title = inner.adjusted(0, 0, -codeWidth - px(rowSide), 0);
+        const QRect title =
+            mirrored(QRectF(inner.adjusted(0, 0, -codeWidth - px(rowSide), 0)), QRectF(inner), option.direction)
+                .toRect();
         const QString text = index.data().toString();
         painter->drawText(title, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
             painter->fontMetrics().elidedText(text, Qt::ElideRight, title.width()));

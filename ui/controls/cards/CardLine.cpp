@@ -3,6 +3,7 @@
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -79,14 +80,14 @@ void CardLine::keyPressEvent(QKeyEvent* event)
 void CardLine::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(opacity());
     if (!isOpen()) {
         const qreal shade = theme.derived.hover.alphaF() * qMax(fade()->hover(), fade()->pressed());
         paintBox(painter, rect(), pxF(radius), withAlpha(theme.derived.hover, shade), Qt::NoPen);
-        summary().paint(painter, summaryRect(), theme);
+        summary().paint(painter, mirrored(summaryRect(), this), theme);
         const qreal end = width() - px(side) - pxF(chevronRight);
-        return paintChevron(painter, QRectF(end - pxF(chevron), 0, pxF(chevron), height()));
+        return paintChevron(painter, mirrored(QRectF(end - pxF(chevron), 0, pxF(chevron), height()), this));
     }
     painter.setFont(titleFont());
     painter.setPen(theme.text);

@@ -5,6 +5,7 @@
 #include "ui/controls/TextFields.h"
 #include "ui/controls/cards/ItemCard.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -64,7 +65,7 @@ void CardRow::placeAtLabel()
     const int right = m_stacked ? width() : px(ItemCard::labelWidth);
     const int drop = m_label->contentsMargins().top();
     const int middle = drop + px(m_stacked ? stackedLabel : rowHeight) / 2;
-    m_atLabel->setGeometry(QRect(QPoint(right - size.width(), middle - size.height() / 2), size));
+    m_atLabel->setGeometry(mirrored(QRect(QPoint(right - size.width(), middle - size.height() / 2), size), this));
     m_atLabel->raise();
 }
 

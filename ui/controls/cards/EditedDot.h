@@ -3,19 +3,14 @@
 #pragma once
 
 class QPainter;
+class QWidget;
 
-namespace Quorbel {
-
-struct Theme;
-
-namespace EditedDot {
+namespace Quorbel::EditedDot {
 
 /// Points that whoever paints a dot keeps free at its left.
 constexpr double room = 12;
 
-/// In the strip at the left of a widget; `middle` in pixels from its top.
-void paint(QPainter& painter, double middle, const Theme& theme);
+/// In the strip at the widget's left (its right where one reads from right to left), `middle` pixels from its top.
+void paint(QPainter& painter, const QWidget* widget, double middle);
 
-}  // namespace EditedDot
-
-}  // namespace Quorbel
+}  // namespace Quorbel::EditedDot

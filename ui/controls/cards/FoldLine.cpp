@@ -4,6 +4,7 @@
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QAccessible>
@@ -105,8 +106,9 @@ void FoldLine::showEvent(QShowEvent* event)
 
 void FoldLine::keyPressEvent(QKeyEvent* event)
 {
-    const bool opens = event->key() == Qt::Key_Right;
-    const bool folds = event->key() == Qt::Key_Left;
+    const int key = mirroredKey(event->key(), this);
+    const bool opens = key == Qt::Key_Right;
+    const bool folds = key == Qt::Key_Left;
     // With Alt, Control or Shift they are another's.
     if ((!opens && !folds) || (event->modifiers() & ~Qt::KeypadModifier))
         return ThemedButton::keyPressEvent(event);
@@ -125,7 +127,7 @@ void FoldLine::paintChevron(QPainter& painter, const QRectF& place) const
     painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.translate(place.center());
-    painter.rotate(90 * turn);
+    painter.rotate((isRightToLeft() ? -90 : 90) * turn);
     painter.translate(-place.center());
     Icon::paint(painter, place, u"chevron.right"_s, place.width(), ink, chevronStroke);
     painter.restore();

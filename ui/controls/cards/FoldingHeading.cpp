@@ -4,6 +4,7 @@
 #include "ui/controls/cards/EditedDot.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QPainter>
@@ -32,7 +33,8 @@ FoldingHeading::FoldingHeading(const QString& title, QWidget* parent)
         showToolTip();
     });
     installFocusRing(this, { RingShape::tight, radius, {}, [this] {
-                                return line().adjusted(-pxF(ringSide), pxF(ringTop), pxF(ringSide), -pxF(ringTop));
+                                return mirrored(
+                                    line().adjusted(-pxF(ringSide), pxF(ringTop), pxF(ringSide), -pxF(ringTop)), this);
                             } });
 }
 
@@ -87,28 +89,29 @@ QRectF FoldingHeading::summaryRect() const
 void FoldingHeading::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
-    painter.fillRect(QRectF(line().left(), height() - 1, line().width(), 1), theme.line);
+    DirectedPainter painter(this);
+    painter.fillRect(mirrored(QRectF(line().left(), height() - 1, line().width(), 1), this), theme.line);
     if (isEdited())
-        EditedDot::paint(painter, line().center().y(), theme);
+        EditedDot::paint(painter, this, line().center().y());
     painter.setOpacity(opacity());
     painter.setFont(sectionFont());
     painter.setPen(theme.text);
     const QRectF title = titleRect();
-    painter.drawText(title, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+    painter.drawText(mirrored(title, this), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
         QFontMetricsF(sectionFont()).elidedText(text(), Qt::ElideRight, title.width()));
     const QRectF behind = summaryRect();
     if (!isOpen() && behind.width() > 0) {
-        summary().paint(painter, behind, theme);
+        summary().paint(painter, mirrored(behind, this), theme);
     } else if (isOpen()) {
         painter.setFont(sansFont(11));
         painter.setPen(theme.derived.label);
         const QRectF room(
             title.right() + pxF(gap), title.top(), behind.right() - title.right() - pxF(gap), title.height());
-        painter.drawText(room, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine,
+        painter.drawText(mirrored(room, this), Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine,
             QFontMetricsF(painter.font()).elidedText(m_count, Qt::ElideRight, room.width()));
     }
-    paintChevron(painter, QRectF(line().right() - pxF(chevron), line().top(), pxF(chevron), line().height()));
+    const QRectF place(line().right() - pxF(chevron), line().top(), pxF(chevron), line().height());
+    paintChevron(painter, mirrored(place, this));
 }
 
 }  // namespace Quorbel

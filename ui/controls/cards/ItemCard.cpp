@@ -7,6 +7,7 @@
 #include "ui/controls/cards/CardLine.h"
 #include "ui/controls/cards/EditedDot.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -71,8 +72,10 @@ void ItemCard::layOut()
     const bool hasFields = isOpen() && m_content;
     const int side = isOpen() ? px(CardLine::side) : 0;
     const int edge = isOpen() ? px(below) : 0;
-    m_body->setContentsMargins(0, hasFields ? px(belowLine) : 0, out, hasFields ? px(belowContent - below) : 0);
-    m_column->setContentsMargins(dotRoom() + side, isOpen() ? px(above) : 0, qMax(0, side - out), edge);
+    m_body->setContentsMargins(
+        mirrored(QMargins(0, hasFields ? px(belowLine) : 0, out, hasFields ? px(belowContent - below) : 0)));
+    m_column->setContentsMargins(
+        mirrored(QMargins(dotRoom() + side, isOpen() ? px(above) : 0, qMax(0, side - out), edge)));
     m_line->updateGeometry();
 }
 
@@ -234,13 +237,13 @@ void ItemCard::setWanted(bool wanted)
 void ItemCard::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     const bool isAmber = m_inner && m_line->isEdited() && !isOpen();
     const QPen plain = m_wanted ? dashedPen(theme.derived.dashedLine) : QPen(theme.line, 1);
-    paintBox(painter, QRectF(rect()).adjusted(dotRoom(), 0, 0, 0), pxF(radius),
+    paintBox(painter, mirrored(QRectF(rect()).adjusted(dotRoom(), 0, 0, 0), this), pxF(radius),
         isAmber ? theme.amberBg : QColor(Qt::transparent), isAmber ? QPen(theme.amberLine, 1) : plain);
     if (m_line->isEdited() && !m_inner)
-        EditedDot::paint(painter, m_line->geometry().center().y() + .5, theme);
+        EditedDot::paint(painter, this, m_line->geometry().center().y() + .5);
 }
 
 }  // namespace Quorbel

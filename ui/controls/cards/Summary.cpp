@@ -1,6 +1,7 @@
 #include "ui/controls/cards/Summary.h"
 
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QPainter>
@@ -38,7 +39,8 @@ void Summary::paint(QPainter& painter, const QRectF& rect, const Theme& theme) c
     const QFontMetricsF metrics(painter.font());
     const auto draw = [&](const QString& part, const QRectF& room, const QColor& color) {
         painter.setPen(color);
-        painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+        painter.drawText(mirrored(room, rect, painter.layoutDirection()),
+            Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
             metrics.elidedText(part, Qt::ElideRight, room.width()));
     };
     draw(first, rect, theme.text);

@@ -4,7 +4,9 @@
 #include "ui/controls/HoverFade.h"
 #include "ui/controls/ToolTips.h"
 #include "ui/controls/theme/FocusRing.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -32,6 +34,12 @@ QRectF capsuleIn(const QWidget* chip)
 {
     const qreal height = pxF(capsuleHeight);
     return { 1, (chip->height() - height) / 2, chip->width() - 2.0, height };
+}
+
+QRect crossIn(const QWidget* chip)
+{
+    const int side = px(crossSide);
+    return { chip->width() - side - px(rightPadding) - 2, (chip->height() - side) / 2, side, side };
 }
 
 }  // namespace
@@ -104,8 +112,7 @@ void HeldKeywordChip::keyPressEvent(QKeyEvent* event)
 
 void HeldKeywordChip::resizeEvent(QResizeEvent*)
 {
-    const int side = px(crossSide);
-    m_cross->setGeometry(width() - side - px(rightPadding) - 2, (height() - side) / 2, side, side);
+    m_cross->setGeometry(mirrored(crossIn(this), this));
     showToolTip();
 }
 
@@ -117,26 +124,26 @@ void HeldKeywordChip::paintEvent(QPaintEvent*)
     QColor line = theme.btnLine;
     if (m_held.by == HeldKeyword::By::all) {
         fill = theme.derived.pressed;
-        line = Qt::transparent;
+        line = HighContrast::isOn(theme) ? theme.btnLine : QColor(Qt::transparent);
     } else if (isGone) {
         fill = theme.amberBg;
         line = theme.amberLine;
     }
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(opacity());
     paintBox(painter, capsuleIn(this), pxF(capsuleHeight / 2), fill, QPen(line, 1));
-    QRect text(px(leftPadding) + 2, 0, m_cross->x() - px(leftPadding) - 2 - px(crossGap), height());
+    QRect text(px(leftPadding) + 2, 0, crossIn(this).x() - px(leftPadding) - 2 - px(crossGap), height());
     if (!m_held.count.isEmpty()) {
         painter.setFont(sansFont(countSize));
         painter.setPen(isGone ? theme.derived.amberText : theme.derived.label);
-        painter.drawText(text, Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, m_held.count);
+        painter.drawText(mirrored(text, this), Qt::AlignVCenter | Qt::AlignRight | Qt::TextSingleLine, m_held.count);
         text.setRight(text.right() - painter.fontMetrics().horizontalAdvance(m_held.count) - px(countGap));
     }
     QFont keywordFont = font();
     keywordFont.setStrikeOut(isGone);
     painter.setFont(keywordFont);
     painter.setPen(isGone ? theme.derived.amberText : theme.text);
-    painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+    painter.drawText(mirrored(text, this), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
         painter.fontMetrics().elidedText(m_held.keyword, Qt::ElideRight, text.width()));
 }
 

@@ -4,10 +4,13 @@
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/ToolTips.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -29,9 +32,10 @@ constexpr qreal leastPath = 36;  // less of a path says nothing
 constexpr qreal arrowSize = 9;
 constexpr qreal arrowGap = 4;
 
+// Towards what stands below.
 QString arrow()
 {
-    return u"▸"_s;
+    return QGuiApplication::isRightToLeft() ? u"◂"_s : u"▸"_s;
 }
 
 // Of texts with an arrow behind each.
@@ -168,10 +172,15 @@ QSize KeywordChip::sizeHint() const
     return { areParentsShown() ? m_widthWithParents : m_width, px(cellHeight) };
 }
 
-void KeywordChip::resizeEvent(QResizeEvent*)
+QRect KeywordChip::crossPlace() const
 {
     const int side = px(crossSide);
-    m_cross->setGeometry(width() - side - px(3) - 2, (height() - side) / 2, side, side);
+    return { width() - side - px(3) - 2, (height() - side) / 2, side, side };
+}
+
+void KeywordChip::resizeEvent(QResizeEvent*)
+{
+    m_cross->setGeometry(mirrored(crossPlace(), this));
     showToolTip();
 }
 
@@ -188,32 +197,33 @@ void KeywordChip::showToolTip()
 void KeywordChip::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
-    painter.setOpacity(isEnabled() ? 1 : .42);
+    DirectedPainter painter(this);
+    painter.setOpacity(isEnabled() ? 1 : HighContrast::disabledOpacity(theme));
     const QRectF capsule = QRectF(1, (height() - pxF(capsuleHeight)) / 2, width() - 2, pxF(capsuleHeight));
     const QColor line = m_amber ? theme.amberLine : theme.derived.chipLine;
     const qreal radius = pxF(capsuleHeight / 2);
-    paintBox(painter, capsule, radius, m_amber ? theme.amberBg : theme.chip, QPen(line, 1));
+    paintBox(painter, capsule, radius, m_amber ? theme.amberBg : theme.chip,
+        QPen(line, m_amber ? HighContrast::markedLine(theme) : 1));
     if (hasFocus())
         paintBox(painter, capsule, radius, Qt::transparent, QPen(theme.derived.focusStrong, 2));
-    QRect text(px(leftPadding) + 2, 0, m_cross->x() - px(leftPadding) - 2 - px(2), height());
+    QRect text(px(leftPadding) + 2, 0, crossPlace().x() - px(leftPadding) - 2 - px(2), height());
     if (areParentsShown()) {
         painter.setFont(m_keywordFont);
         text.setLeft(text.left() + paintParents(painter, text));
     }
     painter.setPen(theme.text);
-    painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+    painter.drawText(mirrored(text, this), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
         painter.fontMetrics().elidedText(m_keyword, Qt::ElideRight, text.width()));
 }
 
-// Each in the direction of its own script, in order from left to right. The width that they take.
+// Each in the direction of its own script, in the order in which one reads. The width that they take.
 int KeywordChip::paintParents(QPainter& painter, const QRect& text) const
 {
     const Theme& theme = Theme::of(this);
     int x = text.left();
     const auto draw = [&](const QString& part, const QFont& font, int width, qreal lift = 0) {
         painter.setFont(font);
-        painter.drawText(QRectF(x, -lift, width, height()), Qt::AlignCenter | Qt::TextSingleLine, part);
+        painter.drawText(mirrored(QRectF(x, -lift, width, height()), this), Qt::AlignCenter | Qt::TextSingleLine, part);
         x += width;
     };
     painter.save();

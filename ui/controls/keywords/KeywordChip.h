@@ -42,6 +42,7 @@ protected:
 
 private:
     bool areParentsShown() const { return m_parentsShown && !m_shown.isEmpty(); }
+    QRect crossPlace() const;
     void measure();
     void showToolTip();
     int paintParents(QPainter& painter, const QRect& text) const;

@@ -3,6 +3,7 @@
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/PopupFrame.h"
 #include "ui/controls/theme/Theme.h"
@@ -40,20 +41,23 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
+        painter->setLayoutDirection(option.direction);
         const Theme& theme = Theme::of(m_list);
         const bool active = option.state.testFlag(QStyle::State_Selected);
         QRectF row(option.rect);
         if (index.model()->rowCount() > ChoiceList::mostRows)
             row.setRight(row.right() - OverlayScrollBar::room());
+        row = mirrored(row, QRectF(option.rect), option.direction);
+        const auto placed = [&](const QRectF& place) { return mirrored(place, row, option.direction); };
         if (active)
             paintBox(*painter, row, pxF(6), theme.sel, Qt::NoPen);
         const QColor ink = active ? theme.selText : theme.text;
         painter->setFont(sansFont(13));
         painter->setPen(ink);
-        painter->drawText(row.adjusted(pxF(28), 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+        painter->drawText(placed(row.adjusted(pxF(28), 0, 0, 0)), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
             index.data().toString());
         if (index.row() == m_chosen)
-            Icon::paint(*painter, QRectF(row.left() + pxF(8), row.top(), pxF(14), row.height()), u"checkmark"_s,
+            Icon::paint(*painter, placed(QRectF(row.left() + pxF(8), row.top(), pxF(14), row.height())), u"checkmark"_s,
                 pxF(14), ink, 2.1);
     }
 
@@ -164,7 +168,7 @@ void ChoiceList::resizeEvent(QResizeEvent* event)
 
 void ChoiceList::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    DirectedPainter painter(this);
     PopupFrame::paint(painter, box(), Theme::of(this));
 }
 

@@ -6,6 +6,7 @@
 #include "ui/controls/pickers/PickerFace.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QAccessible>
@@ -147,7 +148,7 @@ void CodePicker::showToolTip()
 void CodePicker::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(opacity());
     const bool isEmpty = m_code.isEmpty();
     const bool isGap = isEmpty && m_wanted;

@@ -3,8 +3,10 @@
 #include "core/language/Texts.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -69,19 +71,22 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
+        painter->setLayoutDirection(option.direction);
         const Theme& theme = Theme::of(option.widget);
         QRectF row(option.rect);
         if (index.model()->rowCount() > m_mostRows)
             row.setRight(row.right() - OverlayScrollBar::room());
+        row = mirrored(row, QRectF(option.rect), option.direction);
         if (option.state.testFlag(QStyle::State_Selected))
-            paintBox(*painter, row, pxF(6), theme.derived.hover, Qt::NoPen);
+            paintBox(*painter, row, pxF(6), theme.derived.hover, HighContrast::groundEdge(theme));
         const QString note = index.data(noteRole).toString();
-        const QRectF text = row.adjusted(px(textLeft), 0, -px(textRight), 0);
+        const auto placed = [&](const QRectF& place) { return mirrored(place, row, option.direction); };
+        const QRectF text = placed(row.adjusted(px(textLeft), 0, -px(textRight), 0));
         QRectF name = text;
         if (!note.isEmpty())
             name = QRectF(text.left(), text.top() + px(nameTop), text.width(), px(nameHeight));
         if (index.data(heldRole).toBool())
-            Icon::paint(*painter, QRectF(row.left() + pxF(markLeft), name.top(), pxF(markSize), name.height()),
+            Icon::paint(*painter, placed(QRectF(row.left() + pxF(markLeft), name.top(), pxF(markSize), name.height())),
                 u"checkmark"_s, pxF(markSize), theme.text, 2.1);
         paintName(*painter, name, index, theme);
         painter->setFont(verbatimFont(11));
@@ -217,7 +222,7 @@ void CodePopover::paintEvent(QPaintEvent* event)
 {
     SearchPopover::paintEvent(event);
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     const QRect box = this->box();
     const QRect foot(box.left(), list()->geometry().bottom() + 1 + px(footGap), box.width(), 0);
     painter.fillRect(QRect(foot.left() + 1, foot.top(), foot.width() - 2, 1), theme.line);

@@ -8,6 +8,7 @@
 #include "ui/controls/pickers/CodePopover.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -173,7 +174,7 @@ void CodesPicker::mousePressEvent(QMouseEvent*)
 
 void CodesPicker::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    DirectedPainter painter(this);
     const QWidget* focus = focusWidget();
     const bool isFocused = focus && isAncestorOf(focus) && focus->hasFocus();
     paintFieldFrame(painter, rect(),

@@ -6,6 +6,7 @@
 #include "ui/controls/pickers/PickerFace.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QKeyEvent>
@@ -89,7 +90,7 @@ QSize OffsetPicker::minimumSizeHint() const
 void OffsetPicker::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(opacity());
     const FieldState state{ true, hasFocus(), m_edited, fade()->hover(), m_wanted && m_value.isEmpty() };
     PickerFace::paint(painter, rect(), text(), theme.text, state, theme);

@@ -5,6 +5,7 @@
 #include "ui/controls/pickers/PickerFace.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QKeyEvent>
@@ -55,7 +56,7 @@ void PickerButton::keyPressEvent(QKeyEvent* event)
 void PickerButton::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     painter.setOpacity(opacity());
     PickerFace::paint(painter, rect(), text(), theme.text, { true, hasFocus(), false, fade()->hover() }, theme);
 }

@@ -2,6 +2,7 @@
 
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 
 #include <QKeyEvent>
@@ -37,9 +38,10 @@ void paint(QPainter& painter, const QRectF& rect, const QString& text, const QCo
     paintFieldFrame(painter, rect, state, theme);
     painter.setPen(ink);
     const QRectF room(rect.left() + px(left), rect.top(), textRoom(int(rect.width())), rect.height());
-    painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-        painter.fontMetrics().elidedText(text, Qt::ElideRight, int(room.width())));
-    Icon::paint(painter, QRectF(rect.right() - pxF(right + arrows), rect.top(), pxF(arrows), rect.height()),
+    const auto placed = [&](const QRectF& place) { return mirrored(place, rect, painter.layoutDirection()); };
+    painter.drawText(placed(room), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+        keptInOrder(painter.fontMetrics().elidedText(text, Qt::ElideRight, int(room.width()))));
+    Icon::paint(painter, placed(QRectF(rect.right() - pxF(right + arrows), rect.top(), pxF(arrows), rect.height())),
         u"chevron.up.chevron.down"_s, pxF(arrows), theme.muted);
 }
 

@@ -6,8 +6,8 @@
 
 namespace Quorbel {
 
-/// One of a few choices side by side, 216×30 points unless it is made wider. Left and Right change it. To screen
-/// readers it is a group of radio buttons.
+/// One of a few choices side by side, 216×30 points unless it is made wider or its titles are. Left and Right change
+/// it. To screen readers it is a group of radio buttons.
 class SegmentedPicker final : public QWidget {
     Q_OBJECT
 
@@ -40,6 +40,7 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
+    QList<qreal> needs() const;
     void tellFocus();
 
     QStringList m_titles;

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPixmapCache>
 #include <QResource>
+#include <QSet>
 #include <QSvgRenderer>
 
 #include <cmath>
@@ -26,6 +27,14 @@ QByteArray drawing(const QString& name, const QColor& color, qreal stroke)
     if (stroke > 0)
         svg.replace("stroke-width=\"1.7\"", "stroke-width=\"" + QByteArray::number(stroke) + '"');
     return svg;
+}
+
+// Turned where one reads from right to left.
+bool pointsAside(const QString& name)
+{
+    static const QSet<QString> names{ u"arrow.right"_s, u"arrow.uturn.backward"_s, u"chevron.left"_s,
+        u"chevron.right"_s, u"rectangle.split.2x1"_s, u"sidebar.left"_s };
+    return names.contains(name);
 }
 
 }  // namespace
@@ -59,7 +68,14 @@ void paint(QPainter& painter, const QRectF& rect, const QString& name, qreal siz
     const QPixmap image = pixmap(name, size, color, ratio, stroke);
     // On whole device pixels: a drawing between two pixels is a blurred one.
     const auto snap = [ratio](qreal v) { return std::round(v * ratio) / ratio; };
-    painter.drawPixmap(QPointF(snap(rect.center().x() - size / 2), snap(rect.center().y() - size / 2)), image);
+    const QPointF corner(snap(rect.center().x() - size / 2), snap(rect.center().y() - size / 2));
+    if (painter.layoutDirection() != Qt::RightToLeft || !pointsAside(name))
+        return painter.drawPixmap(corner, image);
+    painter.save();
+    painter.translate(2 * corner.x() + size, 0);
+    painter.scale(-1, 1);
+    painter.drawPixmap(corner, image);
+    painter.restore();
 }
 
 bool exists(const QString& name)

@@ -6,8 +6,9 @@ namespace Quorbel {
 
 namespace {
 
-// From here to there the text has a direction of its own, and counts as one letter for what is around it.
-constexpr char16_t leftToRightIsolate = 0x2066;
+// From here to there the text has the direction of its first letter, or left to right where there is none; it counts as
+// one letter for what is around it.
+constexpr char16_t isolate = 0x2068;
 constexpr char16_t endOfIsolate = 0x2069;
 
 }  // namespace
@@ -49,7 +50,7 @@ QString keptInOrder(const QString& text)
 {
     if (text.isEmpty() || !QGuiApplication::isRightToLeft())
         return text;
-    return QChar(leftToRightIsolate) + text + QChar(endOfIsolate);
+    return QChar(isolate) + text + QChar(endOfIsolate);
 }
 
 }  // namespace Quorbel

@@ -32,7 +32,7 @@ public:
     }
 };
 
-/// A name of a file or folder, a tag, a position, a date or keys inside a text that may run the other way: its parts
+/// A name of a file or folder, a tag, a size, a position or a date inside a text that may run the other way: its parts
 /// keep their order. The text itself where all runs from left to right.
 QString keptInOrder(const QString& text);
 

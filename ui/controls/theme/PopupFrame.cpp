@@ -75,7 +75,8 @@ QRect placed(const QRect& anchor, QSize size, const QRect& screen, bool alignRig
     const int above = anchor.top() - anchorGap - size.height();
     const bool fitsBelow = below + size.height() <= screen.bottom() + 1;
     const int y = fitsBelow || above < screen.top() ? below : above;
-    const int x = alignRight ? anchor.right() + 1 - size.width() : anchor.left();
+    const bool atRight = alignRight != QGuiApplication::isRightToLeft();
+    const int x = atRight ? anchor.right() + 1 - size.width() : anchor.left();
     const QPoint last = screen.bottomRight() - QPoint(size.width(), size.height()) + QPoint(1, 1);
     return { QPoint(qMax(screen.left(), qMin(x, last.x())), qMax(screen.top(), qMin(y, last.y()))), size };
 }

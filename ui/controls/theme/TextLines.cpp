@@ -1,6 +1,7 @@
 #include "ui/controls/theme/TextLines.h"
 
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QTextLayout>
 
 namespace Quorbel {
@@ -65,6 +66,10 @@ void forEachLine(const QString& text, const QFont& font, int width, QTextOption:
     QTextLayout layout(text, font);
     QTextOption option;
     option.setWrapMode(wrap);
+    if (QGuiApplication::isRightToLeft()) {
+        option.setTextDirection(Qt::RightToLeft);
+        option.setAlignment(Qt::AlignRight);
+    }
     layout.setTextOption(option);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {

@@ -42,7 +42,7 @@ constexpr RoleRow roleRows[] = {
     { &Theme::text, { "1d1d1f", "ededed", "000000", "ffffff" } },
     { &Theme::muted, { "86847f", "908e8a", "3d3d3d", "d2d2d2" } },
     { &Theme::line, { "e6e3dd", "3a3a3e", "000000", "ffffff" } },
-    { &Theme::hair, { "f0ede7", "303034", "000000", "ffffff" } },
+    { &Theme::hair, { "f0ede7", "303034", "c8c8c8", "4a4a4a" } },
     { &Theme::field, { "ffffff", "2c2c30", "ffffff", "000000" } },
     { &Theme::fieldLine, { "d9d6d0", "48484d", "000000", "ffffff" } },
     { &Theme::sel, { "1d1d1f", "e8e7e3", "000000", "ffffff" } },

@@ -5,6 +5,7 @@
 #include "ui/controls/NoticeLine.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/TextLines.h"
 #include "ui/controls/theme/Theme.h"
@@ -125,15 +126,17 @@ void BatchBanner::place()
     if (m_atEnd) {
         m_atEnd->resize(m_atEnd->sizeHint());
         m_end->resize(m_atEnd->size());
-        m_end->move(width() - px(side) - m_end->width(), (height() - m_end->height()) / 2);
-        m_end->setVisible(m_end->x() - px(side) - px(iconSide) - 2 * px(gap) >= px(leastText));
+        const QPoint at(width() - px(side) - m_end->width(), (height() - m_end->height()) / 2);
+        m_end->setGeometry(mirrored(QRect(at, m_end->size()), this));
+        m_end->setVisible(at.x() - px(side) - px(iconSide) - 2 * px(gap) >= px(leastText));
     }
     const QRect area = textArea();
     const int above = int(noteLines().size());
     const int own = m_disagreements->isHidden() ? 0 : m_disagreements->lines(area.width());
     const qreal top = (height() - pxF(titleHeight + lineHeight * (above + own))) / 2;
-    m_disagreements->setGeometry(
+    const QRect notice(
         area.left(), qRound(top + pxF(titleHeight + lineHeight * above)), area.width(), own * NoticeLine::lineHeight());
+    m_disagreements->setGeometry(mirrored(notice, this));
     update();
 }
 
@@ -146,12 +149,12 @@ void BatchBanner::resizeEvent(QResizeEvent* event)
 void BatchBanner::paintEvent(QPaintEvent*)
 {
     const Theme& theme = Theme::of(this);
-    QPainter painter(this);
+    DirectedPainter painter(this);
     paintBox(painter, rect(), pxF(corner), theme.sel, Qt::NoPen);
     const qreal icon = pxF(iconSide);
     const QRectF iconBox(pxF(side), (height() - icon) / 2, icon, icon);
     painter.setOpacity(.85);
-    Icon::paint(painter, iconBox, u"square.stack.3d.up"_s, icon, theme.selText);
+    Icon::paint(painter, mirrored(iconBox, this), u"square.stack.3d.up"_s, icon, theme.selText);
     painter.setPen(theme.selText);
     painter.setOpacity(1);
     painter.setFont(sansFont(15, QFont::DemiBold));
@@ -160,7 +163,7 @@ void BatchBanner::paintEvent(QPaintEvent*)
     const int own = m_disagreements->isHidden() ? 0 : m_disagreements->lines(area.width());
     const qreal top = (height() - pxF(titleHeight + lineHeight * int(lines.size() + own))) / 2;
     const auto line = [&](qreal y, qreal height, const QString& text) {
-        painter.drawText(QRectF(area.left(), y, area.width(), height),
+        painter.drawText(mirrored(QRectF(area.left(), y, area.width(), height), this),
             Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
             painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width()));
     };

@@ -7,6 +7,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/inspector/FormSection.h"
 #include "ui/inspector/InspectorStates.h"
 #include "ui/inspector/head/BatchBanner.h"
@@ -37,7 +38,7 @@ FormHead::FormHead(AppModel& model, ThumbnailStore* thumbs, QWidget* parent)
     connect(&m_model.selectedSidecars(), &SelectedSidecars::changed, this, &FormHead::refresh);
     connect(&m_model, &AppModel::visibleRowsChanged, this, &FormHead::refresh);
     // The room that sections leave for the dots.
-    onRestyle(this, [column] { column->setContentsMargins(px(FormSection::dotRoom), 0, 0, 0); });
+    onRestyle(this, [column] { column->setContentsMargins(mirrored(QMargins(px(FormSection::dotRoom), 0, 0, 0))); });
 }
 
 void FormHead::refresh()

@@ -4,6 +4,7 @@
 #include "ui/controls/cards/EditedDot.h"
 #include "ui/controls/cards/FoldingHeading.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/FieldRow.h"
 
@@ -47,15 +48,15 @@ void FoldingSection::layOut()
     m_rows.layout()->setContentsMargins(0, isOpen ? px(belowHeading) : 0, 0, isOpen ? px(belowRows) : 0);
     m_rows.layout()->setSpacing(px(rowGap));
     for (FieldRow* row : rows())
-        row->setContentsMargins(row->isWide() ? 0 : px(EditedDot::room), 0, 0, 0);
+        row->setContentsMargins(mirrored(QMargins(row->isWide() ? 0 : px(EditedDot::room), 0, 0, 0)));
 }
 
 void FoldingSection::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    DirectedPainter painter(this);
     for (const FieldRow* row : rows())
         if (row->state().edited && !row->state().batch && row->hasLabel())
-            EditedDot::paint(painter, row->y() + row->dotCenter(), Theme::of(this));
+            EditedDot::paint(painter, this, row->y() + row->dotCenter());
 }
 
 }  // namespace Quorbel

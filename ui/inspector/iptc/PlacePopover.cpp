@@ -2,7 +2,9 @@
 
 #include "core/language/Texts.h"
 #include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -33,12 +35,14 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
+        painter->setLayoutDirection(option.direction);
         const Theme& theme = Theme::of(option.widget);
         QRect row = option.rect;
         if (index.model()->rowCount() > PlacePopover::mostRows)
             row.setRight(row.right() - OverlayScrollBar::room());
+        row = mirrored(QRectF(row), QRectF(option.rect), option.direction).toRect();
         if (option.state.testFlag(QStyle::State_Selected))
-            paintBox(*painter, row, pxF(6), theme.derived.hover, Qt::NoPen);
+            paintBox(*painter, row, pxF(6), theme.derived.hover, HighContrast::groundEdge(theme));
         const QRect title(
             row.left() + px(rowSide), row.top() + px(titleTop), row.width() - 2 * px(rowSide), px(titleHeight));
         paintLine(*painter, title, 13, theme.text, index.data().toString());

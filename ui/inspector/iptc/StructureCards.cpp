@@ -7,6 +7,7 @@
 #include "ui/controls/cards/EditedDot.h"
 #include "ui/controls/cards/ItemCard.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/inspector/iptc/StructureCard.h"
@@ -52,7 +53,7 @@ StructureCards::StructureCards(const FieldSpec& field, const CodeTexts& codes, Q
     onRestyle(this, [this] {
         showGap();
         m_column->setSpacing(px(gap));
-        m_reason->setContentsMargins(px(EditedDot::room), 0, 0, 0);
+        m_reason->setContentsMargins(mirrored(QMargins(px(EditedDot::room), 0, 0, 0)));
         m_block->setFixedHeight(px(blockHeight));
     });
 }
@@ -91,13 +92,13 @@ void StructureCards::showGap()
 
 void StructureCards::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
+    DirectedPainter painter(this);
     if (isGap())
-        paintBox(painter, QRectF(rect()).adjusted(px(EditedDot::room), 0, 0, 0), pxF(radius), Qt::transparent,
-            dashedPen(Theme::of(this).derived.dashedLine));
+        paintBox(painter, mirrored(QRectF(rect()).adjusted(px(EditedDot::room), 0, 0, 0), this), pxF(radius),
+            Qt::transparent, dashedPen(Theme::of(this).derived.dashedLine));
     if (!m_state.unread)
         return;
-    const QRect block = m_block->geometry().adjusted(px(EditedDot::room), 0, 0, 0);
+    const QRect block = m_block->geometry().marginsRemoved(mirrored(QMargins(px(EditedDot::room), 0, 0, 0)));
     paintBox(painter, block, pxF(radius), Theme::of(this).derived.hover, Qt::NoPen);
 }
 

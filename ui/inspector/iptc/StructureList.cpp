@@ -7,6 +7,7 @@
 #include "ui/controls/cards/EditedDot.h"
 #include "ui/controls/cards/ItemCard.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/inspector/iptc/CardTexts.h"
 #include "ui/inspector/iptc/SettledFocus.h"
 #include "ui/inspector/iptc/StructureCard.h"
@@ -50,7 +51,7 @@ StructureList::StructureList(const Parts& parts, QWidget* parent)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { dropLeft(now); });
     onRestyle(this, [this, foot] {
         // In line with the edges of the cards.
-        foot->setContentsMargins(m_parts.isInner ? 0 : px(EditedDot::room), 0, 0, 0);
+        foot->setContentsMargins(mirrored(QMargins(m_parts.isInner ? 0 : px(EditedDot::room), 0, 0, 0)));
         m_column->setContentsMargins(0, 0, 0, 0);
         m_column->setSpacing(px(gap));
     });

@@ -2,6 +2,7 @@
 
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -62,7 +63,7 @@ void SubRow::restyle()
             m_line->insertWidget(0, m_label, 0, Qt::AlignTop);
         }
     }
-    m_line->setContentsMargins(px(tickSide) + px(gap), 0, 0, 0);
+    m_line->setContentsMargins(mirrored(QMargins(px(tickSide) + px(gap), 0, 0, 0)));
     m_line->setSpacing(px(gap));
     m_label->setFixedHeight(px(stacked ? stackedLabel : labelHeight));
     m_label->setMinimumWidth(stacked ? 0 : px(labelWidth));

@@ -10,6 +10,7 @@
 #include "ui/controls/TextFields.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/sheets/SheetParts.h"
 #include "ui/sheets/fieldsets/FieldTicks.h"
@@ -41,6 +42,7 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
+        painter->setLayoutDirection(option.direction);
         const Theme& theme = Theme::of(option.widget);
         const bool isOn = option.state.testFlag(QStyle::State_Selected);
         painter->save();
@@ -178,8 +180,10 @@ QWidget* FieldSetsSheet::buildForm()
     column->addWidget(m_problem);
     column->addSpacing(px(8));
     column->addLayout(sheetButtonRow(this, { dismiss, m_store }));
-    onRestyle(right,
-        [column] { column->setContentsMargins(px(sheetPadding) - px(4), px(14), px(sheetPadding), px(sheetPadding)); });
+    onRestyle(right, [column] {
+        column->setContentsMargins(
+            mirrored(QMargins(px(sheetPadding) - px(4), px(14), px(sheetPadding), px(sheetPadding))));
+    });
     return right;
 }
 

@@ -39,6 +39,7 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
+        painter->setLayoutDirection(option.direction);
         const Theme& theme = Theme::of(option.widget);
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);

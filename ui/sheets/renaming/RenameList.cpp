@@ -3,6 +3,7 @@
 #include "core/language/Texts.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/sheets/renaming/RenameRowDelegate.h"
@@ -155,11 +156,11 @@ void RenameList::paintEvent(QPaintEvent* event)
 {
     const Theme& theme = Theme::of(this);
     {
-        QPainter painter(viewport());
+        DirectedPainter painter(viewport());
         painter.fillRect(viewport()->rect(), theme.field);
     }
     QListView::paintEvent(event);
-    QPainter painter(viewport());
+    DirectedPainter painter(viewport());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(theme.fieldLine, 1));
     painter.drawRoundedRect(QRectF(viewport()->rect()).adjusted(.5, .5, -.5, -.5), pxF(radius), pxF(radius));

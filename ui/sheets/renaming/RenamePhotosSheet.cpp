@@ -7,6 +7,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/sheets/SheetParts.h"
 #include "ui/sheets/TokenFlow.h"
 #include "ui/sheets/renaming/NumberField.h"
@@ -51,11 +52,11 @@ public:
         const bool isOneLine = first.width() + px(fieldGap) + second.width() <= width();
         const int below = first.height() + px(partsGap);
         setFixedHeight(isOneLine ? first.height() : below + second.height());
-        m_first->setGeometry(0, 0, qMin(width(), first.width()), first.height());
+        m_first->setGeometry(mirrored(QRect(0, 0, qMin(width(), first.width()), first.height()), this));
         if (isOneLine)
-            m_second->setGeometry(width() - second.width(), 0, second.width(), first.height());
+            m_second->setGeometry(mirrored(QRect(width() - second.width(), 0, second.width(), first.height()), this));
         else
-            m_second->setGeometry(0, below, qMin(width(), second.width()), second.height());
+            m_second->setGeometry(mirrored(QRect(0, below, qMin(width(), second.width()), second.height()), this));
     }
 
 protected:

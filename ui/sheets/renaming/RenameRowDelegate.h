@@ -8,8 +8,6 @@
 
 namespace Quorbel {
 
-struct Theme;
-
 class RenameRowDelegate final : public QStyledItemDelegate {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(RenameRowDelegate)
@@ -27,10 +25,14 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
-    static qreal paintWords(QPainter& painter, const QRectF& row, const RenameRow& of, const Theme& theme);
-    static void paintOldName(QPainter& painter, const QRectF& box, const RenameRow& row, const Theme& theme);
-    static void paintArrowAndName(QPainter& painter, const QRectF& box, const RenameRow& row, const Theme& theme);
-    static void paintNewName(QPainter& painter, const QRectF& box, const RenameRow& row, const Theme& theme);
+    struct Look;
+
+    static qreal paintWords(QPainter& painter, const QRectF& row, const RenameRow& of, const Look& look);
+    static void paintOldName(QPainter& painter, const QRectF& box, const RenameRow& row, const Look& look);
+    static void paintArrowAndName(QPainter& painter, const QRectF& box, const RenameRow& row, const Look& look);
+    static void paintNewName(QPainter& painter, const QRectF& box, const RenameRow& row, const Look& look);
+
+    static void paintPieces(QPainter& painter, const QRectF& box, const RenameRow& row, const Look& look);
 
     RowAt m_rowAt;
 };

@@ -5,6 +5,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/FormLabels.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/theme/Mirroring.h"
 #include "ui/sheets/SheetParts.h"
 #include "ui/sheets/sidecars/MoveTable.h"
 
@@ -79,7 +80,7 @@ QWidget* MoveOverSheet::buildHeadings()
         columns.append(label);
     }
     onRestyle(headings, [line, columns] {
-        line->setContentsMargins(px(MoveTable::side), 0, px(MoveTable::side) + 1, 0);
+        line->setContentsMargins(mirrored(QMargins(px(MoveTable::side), 0, px(MoveTable::side) + 1, 0)));
         for (ThemedLabel* label : columns)
             label->setFixedWidth(px(MoveTable::columnWidth));
     });
