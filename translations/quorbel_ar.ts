@@ -7858,6 +7858,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <translation>داكن</translation>
     </message>
     <message>
+        <source>High contrast</source>
+        <comment>appearance</comment>
+        <translation>تباين عالٍ</translation>
+    </message>
+    <message>
         <source>System</source>
         <comment>language</comment>
         <extracomment>The language of the desktop, in a list of languages.</extracomment>

@@ -7302,6 +7302,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <translation>Oscuro</translation>
     </message>
     <message>
+        <source>High contrast</source>
+        <comment>appearance</comment>
+        <translation>Alto contraste</translation>
+    </message>
+    <message>
         <source>System</source>
         <comment>language</comment>
         <extracomment>The language of the desktop, in a list of languages.</extracomment>

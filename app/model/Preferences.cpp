@@ -64,6 +64,8 @@ void read(const QVariant& stored, std::optional<ColorScheme>& scheme)
         scheme = ColorScheme::dark;
     else if (text == u"light"_s)
         scheme = ColorScheme::light;
+    else if (text == u"contrast"_s)
+        scheme = ColorScheme::highContrast;
 }
 
 template <typename T>
@@ -87,7 +89,15 @@ QVariant stored(const std::optional<ColorScheme>& scheme)
 {
     if (!scheme)
         return {};
-    return *scheme == ColorScheme::dark ? u"dark"_s : u"light"_s;
+    switch (*scheme) {
+    case ColorScheme::light:
+        return u"light"_s;
+    case ColorScheme::dark:
+        return u"dark"_s;
+    case ColorScheme::highContrast:
+        return u"contrast"_s;
+    }
+    return {};
 }
 
 }  // namespace

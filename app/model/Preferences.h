@@ -15,7 +15,7 @@
 namespace Quorbel {
 
 /// The appearance that the user chose over the system's.
-enum class ColorScheme { light, dark };
+enum class ColorScheme { light, dark, highContrast };
 
 class Preferences;
 

@@ -90,6 +90,11 @@ ThemedButton::ThemedButton(const QString& text, QWidget* parent)
     connect(this, &QAbstractButton::released, this, [this] { m_fade->setPressed(false); });
 }
 
+qreal ThemedButton::opacity(qreal whenDisabled) const
+{
+    return isEnabled() ? 1 : HighContrast::disabledOpacity(Theme::of(this), whenDisabled);
+}
+
 void ThemedButton::keyPressEvent(QKeyEvent* event)
 {
     // Space is QAbstractButton's; a focused button answers to Return too.

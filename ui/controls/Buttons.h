@@ -21,7 +21,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     HoverFade* fade() const { return m_fade; }
     /// 1, or the opacity of a disabled control.
-    qreal opacity(qreal whenDisabled = .42) const { return isEnabled() ? 1 : whenDisabled; }
+    qreal opacity(qreal whenDisabled = .42) const;
 
 private:
     HoverFade* m_fade;

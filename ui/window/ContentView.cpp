@@ -355,7 +355,7 @@ const Theme& ContentView::wantedTheme() const
 {
     const std::optional<ColorScheme> chosen = m_model.preferences().colorOverride();
     // Light and dark are a choice against the desktop's high contrast, too.
-    if (!chosen && m_systemScheme.isContrastHigh())
+    if (chosen ? *chosen == ColorScheme::highContrast : m_systemScheme.isContrastHigh())
         return HighContrast::palette(m_systemScheme.isDark());
     const bool isDark = chosen ? *chosen == ColorScheme::dark : m_systemScheme.isDark();
     return isDark ? Theme::dark() : Theme::light();

@@ -113,9 +113,13 @@ Group* addGroup(QVBoxLayout* column, const QString& title)
     return group;
 }
 
+// In the order of the picker; nothing: as the desktop asks.
+constexpr std::optional<ColorScheme> schemes[]{ std::nullopt, ColorScheme::light, ColorScheme::dark,
+    ColorScheme::highContrast };
+
 int indexOf(std::optional<ColorScheme> scheme)
 {
-    return !scheme ? 0 : *scheme == ColorScheme::light ? 1 : 2;
+    return int(std::find(std::cbegin(schemes), std::cend(schemes), scheme) - std::cbegin(schemes));
 }
 
 }  // namespace
@@ -249,14 +253,12 @@ void SettingsView::addCodes(QVBoxLayout* column)
 QWidget* SettingsView::appearancePicker()
 {
     auto* picker = new SegmentedPicker({ Texts::tr("System", "appearance: that of the desktop"),
-        Texts::tr("Light", "appearance"), Texts::tr("Dark", "appearance") });
+        Texts::tr("Light", "appearance"), Texts::tr("Dark", "appearance"), Texts::tr("High contrast", "appearance") });
     const auto show = [this, picker] { picker->setCurrentIndex(indexOf(m_model.preferences().colorOverride())); };
     connect(&m_model.preferences(), &Preferences::changed, picker, show);
     show();
-    connect(picker, &SegmentedPicker::picked, &m_model, [this](int index) {
-        static const std::optional<ColorScheme> schemes[]{ std::nullopt, ColorScheme::light, ColorScheme::dark };
-        m_model.preferences().colorOverride.set(schemes[index]);
-    });
+    connect(picker, &SegmentedPicker::picked, &m_model,
+        [this](int index) { m_model.preferences().colorOverride.set(schemes[index]); });
     return picker;
 }
 

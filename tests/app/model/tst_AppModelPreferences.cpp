@@ -67,6 +67,9 @@ void tst_AppModelPreferences::roundTrip()
     QCOMPARE(f->preferences().renamePattern(), u"a, b; %Title% = \"ü\""_s);
     QCOMPARE(f->sortOrder(), RecordSortOrder::dateOldest);
     QCOMPARE(f->preferences().colorOverride(), ColorScheme::dark);
+    f->preferences().colorOverride.set(ColorScheme::highContrast);
+    f.relaunch();
+    QCOMPARE(f->preferences().colorOverride(), ColorScheme::highContrast);
     f->preferences().colorOverride.set(std::nullopt);
     QVERIFY(!f->preferences().store().contains(u"appearance"_s));
     f.relaunch();

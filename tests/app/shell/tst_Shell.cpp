@@ -529,6 +529,8 @@ void tst_Shell::settingsShowAndWritePreferences()
     QCOMPARE(model->preferences().colorOverride(), ColorScheme::light);
     QTest::keyClick(appearance, Qt::Key_Right);
     QCOMPARE(model->preferences().colorOverride(), ColorScheme::dark);
+    QTest::keyClick(appearance, Qt::Key_Right);
+    QCOMPARE(model->preferences().colorOverride(), ColorScheme::highContrast);
     model->preferences().colorOverride.set(std::nullopt);
     QCOMPARE(appearance->currentIndex(), 0);
 }

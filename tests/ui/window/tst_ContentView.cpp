@@ -5,6 +5,7 @@
 #include "tests/ui/window/WindowFixture.h"
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/ResizeHandle.h"
+#include "ui/controls/theme/HighContrast.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/sidebar/SidebarView.h"
 #include "ui/window/ColumnRow.h"
@@ -732,6 +733,12 @@ void tst_ContentView::appearanceIsFollowedLive()
     QApplication::setPalette(paletteOf(Qt::white, Qt::black));
     fixture.model->preferences().colorOverride.set(ColorScheme::dark);
     QCOMPARE(ground(), Theme::dark().bg);
+    // High contrast, in the desktop's light or dark.
+    fixture.model->preferences().colorOverride.set(ColorScheme::highContrast);
+    QCOMPARE(Theme::of(fixture.content), HighContrast::palette(false));
+    QApplication::setPalette(paletteOf(Qt::black, Qt::white));
+    QTRY_COMPARE(Theme::of(fixture.content), HighContrast::palette(true));
+    QApplication::setPalette(paletteOf(Qt::white, Qt::black));
     fixture.model->preferences().colorOverride.set(std::nullopt);
     QTRY_COMPARE(ground(), Theme::light().bg);
     QApplication::setPalette(before);
