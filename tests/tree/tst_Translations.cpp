@@ -131,7 +131,8 @@ void tst_Translations::everyTextOfALanguage_data()
 {
     QTest::addColumn<QString>("code");
     QTest::addColumn<int>("forms");  // as many as the language counts by
-    for (const auto& [code, forms] : { std::pair("ar", 6), std::pair("de", 2), std::pair("es", 2), std::pair("fr", 2) })
+    for (const auto& [code, forms] : { std::pair("ar", 6), std::pair("de", 2), std::pair("es", 2), std::pair("fr", 2),
+             std::pair("ja", 1), std::pair("zh_CN", 1) })
         QTest::newRow(code) << QString::fromUtf8(code) << forms;
 }
 
