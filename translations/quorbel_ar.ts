@@ -294,7 +294,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>it was undone already</source>
-        <translation>جرى التراجع عنها من قبل</translation>
+        <translation>جرى التراجع من قبل</translation>
     </message>
     <message>
         <source>Undo Save</source>
@@ -563,11 +563,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
         <extracomment>%1 names the photos</extracomment>
         <translation>
             <numerusform>لا توجد صور: %1</numerusform>
-            <numerusform>صورة واحدة لها اسم صورة RAW نفسه، والملف المرافق تابع لصورة RAW: %1</numerusform>
-            <numerusform>صورتان لهما اسما صورتي RAW نفساهما، والملفان المرافقان تابعان لصورتي RAW: %1</numerusform>
-            <numerusform>%n صور لها أسماء صور RAW نفسها، والملفات المرافقة تابعة لصور RAW: %1</numerusform>
-            <numerusform>%n صورة لها أسماء صور RAW نفسها، والملفات المرافقة تابعة لصور RAW: %1</numerusform>
-            <numerusform>%n صورة لها أسماء صور RAW نفسها، والملفات المرافقة تابعة لصور RAW: %1</numerusform>
+            <numerusform>صورة واحدة تشترك في الاسم مع صورة RAW، والملف المرافق تابع لصورة RAW: %1</numerusform>
+            <numerusform>صورتان تشتركان في الاسم مع صورتي RAW، والملفان المرافقان تابعان لصورتي RAW: %1</numerusform>
+            <numerusform>%n صور تشترك في أسمائها مع صور RAW، والملفات المرافقة تابعة لصور RAW: %1</numerusform>
+            <numerusform>%n صورة تشترك في أسمائها مع صور RAW، والملفات المرافقة تابعة لصور RAW: %1</numerusform>
+            <numerusform>%n صورة تشترك في أسمائها مع صور RAW، والملفات المرافقة تابعة لصور RAW: %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -798,7 +798,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>%1 earlier</source>
         <extracomment>%1 is a span of time: &quot;1 h 02 min 30 s later&quot;</extracomment>
-        <translation>%1 سابقًا</translation>
+        <translation>%1 أبكر</translation>
     </message>
     <message>
         <source>%1 later</source>
@@ -947,7 +947,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation>فتح ال&amp;أخيرة</translation>
+        <translation>المفتوحة &amp;مؤخرًا</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -1449,7 +1449,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Parts of the picture: outline, name, kind and role</source>
-        <translation>أجزاء من الصورة: الحدود والاسم والنوع والدور</translation>
+        <translation>أجزاء من الصورة: الإطار والاسم والنوع والدور</translation>
     </message>
     <message>
         <source>Copyright owners</source>
@@ -1793,11 +1793,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Outline</source>
-        <translation>الحدود</translation>
+        <translation>الإطار</translation>
     </message>
     <message>
         <source>outline</source>
-        <translation>حدود</translation>
+        <translation>إطار</translation>
     </message>
     <message>
         <source>Shape</source>
@@ -1995,7 +1995,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Digitised from a transparent negative</source>
-        <translation>مرقمنة من شفافية سالبة</translation>
+        <translation>مرقمنة من فيلم سالب شفاف</translation>
     </message>
     <message>
         <source>A film negative turned into a digital picture</source>
@@ -2003,7 +2003,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Digitised from a transparent positive</source>
-        <translation>مرقمنة من شفافية موجبة</translation>
+        <translation>مرقمنة من فيلم موجب شفاف</translation>
     </message>
     <message>
         <source>A slide turned into a digital picture</source>
@@ -2139,7 +2139,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Unspecified – no prohibition defined</source>
-        <translation>غير محدد – لا حظر معرَّف</translation>
+        <translation>غير محدد – لم يُنص على حظر</translation>
     </message>
     <message>
         <source>The file says nothing about it</source>
@@ -3019,7 +3019,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Retrospective</source>
-        <translation>استعادة</translation>
+        <translation>نظرة استعادية</translation>
     </message>
     <message>
         <source>Looks back over a longer time</source>
@@ -3403,7 +3403,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Outline shape</source>
-        <translation>شكل الحدود</translation>
+        <translation>شكل الإطار</translation>
     </message>
     <message>
         <source>Rectangle</source>
@@ -3431,7 +3431,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Outline unit</source>
-        <translation>وحدة الحدود</translation>
+        <translation>وحدة الإطار</translation>
     </message>
     <message>
         <source>Relative</source>
@@ -3933,7 +3933,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Neighborhood / venue</source>
-        <translation>الحي / المكان</translation>
+        <translation>الحي / مكان الفعالية</translation>
     </message>
     <message>
         <source>Label</source>
@@ -4017,7 +4017,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Rights usage terms</source>
-        <translation>شروط استخدام الحقوق</translation>
+        <translation>شروط استخدام الصورة</translation>
     </message>
     <message>
         <source>Web statement</source>
@@ -4177,7 +4177,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>“%1” says nothing that can be done to a field.</source>
-        <translation>في «%1» فعل لا يمكن إجراؤه على حقل.</translation>
+        <translation>في «%1» إجراء لا يمكن تطبيقه على حقل.</translation>
     </message>
     <message>
         <source>“%1” has a field without a text.</source>
@@ -5472,12 +5472,12 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message numerus="yes">
         <source>%n outline(s)</source>
         <translation>
-            <numerusform>لا حدود</numerusform>
-            <numerusform>حدود واحدة</numerusform>
-            <numerusform>حدّان</numerusform>
-            <numerusform>%n حدود</numerusform>
-            <numerusform>%n حدًا</numerusform>
-            <numerusform>%n حد</numerusform>
+            <numerusform>لا إطارات</numerusform>
+            <numerusform>إطار واحد</numerusform>
+            <numerusform>إطاران</numerusform>
+            <numerusform>%n إطارات</numerusform>
+            <numerusform>%n إطارًا</numerusform>
+            <numerusform>%n إطار</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -5587,7 +5587,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>Add outline</source>
-        <translation>إضافة حدود</translation>
+        <translation>إضافة إطار</translation>
     </message>
     <message>
         <source>Add point</source>
@@ -5655,7 +5655,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>New outline</source>
-        <translation>حدود جديدة</translation>
+        <translation>إطار جديد</translation>
     </message>
     <message>
         <source>New point</source>
@@ -5989,11 +5989,11 @@ Said behind a keyword. The numbers are of photos.</extracomment>
         <source>%n photo(s) (was|were) not read yet.</source>
         <translation>
             <numerusform>قُرئت كل الصور.</numerusform>
-            <numerusform>لم تُقرأ صورة واحدة بعد.</numerusform>
-            <numerusform>لم تُقرأ صورتان بعد.</numerusform>
-            <numerusform>لم تُقرأ %n صور بعد.</numerusform>
-            <numerusform>لم تُقرأ %n صورة بعد.</numerusform>
-            <numerusform>لم تُقرأ %n صورة بعد.</numerusform>
+            <numerusform>صورة واحدة لم تُقرأ بعد.</numerusform>
+            <numerusform>صورتان لم تُقرآ بعد.</numerusform>
+            <numerusform>%n صور لم تُقرأ بعد.</numerusform>
+            <numerusform>%n صورة لم تُقرأ بعد.</numerusform>
+            <numerusform>%n صورة لم تُقرأ بعد.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -6190,7 +6190,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>Earlier</source>
         <comment>times become earlier</comment>
-        <translation>سابقًا</translation>
+        <translation>أبكر</translation>
     </message>
     <message>
         <source>Keep the clock time</source>
@@ -6497,7 +6497,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
         <extracomment>%1 is a number of photos.</extracomment>
         <translation>
             <numerusform>إعادة التسمية (%1)</numerusform>
-            <numerusform>إعادة تسمية %1 صورة</numerusform>
+            <numerusform>إعادة التسمية (%1)</numerusform>
             <numerusform>إعادة التسمية (%1)</numerusform>
             <numerusform>إعادة تسمية %1 صور</numerusform>
             <numerusform>إعادة تسمية %1 صورة</numerusform>
@@ -6506,7 +6506,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>Sidecars and backups go along. Edit ▸ Undo Rename takes it back.</source>
-        <translation>تُعاد معها تسمية الملفات المرافقة والنسخ الاحتياطية. ويعيد تحرير ◂ التراجع عن إعادة التسمية كل ذلك.</translation>
+        <translation>تُعاد معها تسمية الملفات المرافقة والنسخ الاحتياطية. ويعيد الأمر تحرير ◂ التراجع عن إعادة التسمية كل ذلك.</translation>
     </message>
     <message numerus="yes">
         <source>Renaming %1 of %2…</source>
@@ -6528,8 +6528,8 @@ Said behind a keyword. The numbers are of photos.</extracomment>
         <source>Rename %1 Files</source>
         <translation>
             <numerusform>إعادة تسمية الملفات (%1)</numerusform>
-            <numerusform>إعادة تسمية %1 ملف</numerusform>
-            <numerusform>إعادة تسمية الملفات (%1)</numerusform>
+            <numerusform>إعادة تسمية الملف (%1)</numerusform>
+            <numerusform>إعادة تسمية الملفين (%1)</numerusform>
             <numerusform>إعادة تسمية %1 ملفات</numerusform>
             <numerusform>إعادة تسمية %1 ملفًا</numerusform>
             <numerusform>إعادة تسمية %1 ملف</numerusform>
@@ -6590,8 +6590,8 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <extracomment>A button; %1 is the number of photos.</extracomment>
         <translation>
             <numerusform>كتابة في الصور (%1)</numerusform>
-            <numerusform>كتابة في %1 صورة</numerusform>
-            <numerusform>كتابة في الصور (%1)</numerusform>
+            <numerusform>كتابة في الصورة (%1)</numerusform>
+            <numerusform>كتابة في الصورتين (%1)</numerusform>
             <numerusform>كتابة في %1 صور</numerusform>
             <numerusform>كتابة في %1 صورة</numerusform>
             <numerusform>كتابة في %1 صورة</numerusform>
@@ -7012,8 +7012,8 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <extracomment>Button: fills the fields of the selected photos. %1: how many these are.</extracomment>
         <translation>
             <numerusform>تعبئة الصور (%1)</numerusform>
-            <numerusform>تعبئة %1 صورة</numerusform>
-            <numerusform>تعبئة الصور (%1)</numerusform>
+            <numerusform>تعبئة الصورة (%1)</numerusform>
+            <numerusform>تعبئة الصورتين (%1)</numerusform>
             <numerusform>تعبئة %1 صور</numerusform>
             <numerusform>تعبئة %1 صورة</numerusform>
             <numerusform>تعبئة %1 صورة</numerusform>
@@ -7164,7 +7164,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Getting Started</source>
-        <translation>البدء</translation>
+        <translation>الخطوات الأولى</translation>
     </message>
     <message>
         <source>Quorbel reads and edits the metadata inside your photos — titles, dates, captions, keywords and location — and writes your changes into the EXIF, IPTC and XMP standards at once so every app agrees.</source>
@@ -7176,15 +7176,15 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Choose File ▸ Open… (⌘O), or drag photos onto the window.</source>
-        <translation>اختيار ملف ◂ فتح… (⌘O)، أو سحب الصور إلى النافذة.</translation>
+        <translation>اختيار الأمر ملف ◂ فتح… (⌘O)، أو سحب الصور إلى النافذة.</translation>
     </message>
     <message>
         <source>Choose File ▸ Open with Subfolders… (⌘⇧O) to open a folder with all the folders in it.</source>
-        <translation>اختيار ملف ◂ فتح مع المجلدات الفرعية… (⌘⇧O) لفتح مجلد مع كل ما فيه من مجلدات.</translation>
+        <translation>اختيار الأمر ملف ◂ فتح مع المجلدات الفرعية… (⌘⇧O) لفتح مجلد مع كل ما فيه من مجلدات.</translation>
     </message>
     <message>
         <source>Reopen something recent from File ▸ Open Recent.</source>
-        <translation>فتح عنصر سابق من جديد عبر ملف ◂ فتح الأخيرة.</translation>
+        <translation>فتح عنصر سابق من جديد عبر ملف ◂ المفتوحة مؤخرًا.</translation>
     </message>
     <message>
         <source>Right-click a photo in your file manager and choose Open With ▸ Quorbel.</source>
@@ -7268,7 +7268,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Help ▸ Keyboard Shortcuts (Ctrl+F1) lists all keys.</source>
-        <translation>يعرض مساعدة ◂ اختصارات لوحة المفاتيح (Ctrl+F1) كل المفاتيح.</translation>
+        <translation>يعرض الأمر مساعدة ◂ اختصارات لوحة المفاتيح (Ctrl+F1) كل المفاتيح.</translation>
     </message>
     <message>
         <source>Several Languages</source>
@@ -7348,7 +7348,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>The cross of a chip, or Delete on it, ends one filter; View ▸ Clear Filters (⌘⇧F) ends all.</source>
-        <translation>علامة × على الشارة، أو Delete عليها، تنهي عامل تصفية واحدًا؛ وينهيها كلها عرض ◂ مسح عوامل التصفية (⌘⇧F).</translation>
+        <translation>علامة × على الشارة، أو Delete عليها، تنهي عامل تصفية واحدًا؛ وينهيها كلها الأمر عرض ◂ مسح عوامل التصفية (⌘⇧F).</translation>
     </message>
     <message>
         <source>IPTC Fields &amp; Field Sets</source>
@@ -7380,11 +7380,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>A camera whose clock was wrong leaves wrong times in all of its photos. Select them, and choose Edit ▸ Shift Time.</source>
-        <translation>الكاميرا ذات الساعة الخاطئة تترك أوقاتًا خاطئة في كل صورها. الحل هو تحديد تلك الصور ثم اختيار تحرير ◂ إزاحة الوقت.</translation>
+        <translation>الكاميرا ذات الساعة الخاطئة تترك أوقاتًا خاطئة في كل صورها. الحل هو تحديد تلك الصور ثم اختيار الأمر تحرير ◂ إزاحة الوقت.</translation>
     </message>
     <message>
         <source>By an amount: so many days, hours, minutes and seconds later or earlier.</source>
-        <translation>بمقدار: عدد من الأيام والساعات والدقائق والثواني لاحقًا أو سابقًا.</translation>
+        <translation>بمقدار: عدد من الأيام والساعات والدقائق والثواني لاحقًا أو أبكر.</translation>
     </message>
     <message>
         <source>By a known photo: type when one of the photos was really taken, and all others go by the same amount.</source>
@@ -7436,7 +7436,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Edit ▸ Copy Fields (⌘⇧C) takes the fields of the selected photo as you see them. Edit ▸ Paste Fields… (⌘⇧V) shows what they would replace in the selected photos, and pastes those that you tick. Nothing is written before you save.</source>
-        <translation>يأخذ تحرير ◂ نسخ الحقول (⌘⇧C) حقول الصورة المحددة كما تظهر. ويعرض تحرير ◂ لصق الحقول… (⌘⇧V) ما ستحل محله في الصور المحددة، ويلصق ما اختير منها. ولا يُكتب شيء قبل الحفظ.</translation>
+        <translation>يأخذ الأمر تحرير ◂ نسخ الحقول (⌘⇧C) حقول الصورة المحددة كما تظهر. ويعرض الأمر تحرير ◂ لصق الحقول… (⌘⇧V) ما ستحل محله في الصور المحددة، ويلصق ما اختير منها. ولا يُكتب شيء قبل الحفظ.</translation>
     </message>
     <message>
         <source>Edit ▸ Paste Fields Again pastes with the same ticks, without asking. What you copied last is there in another window and after a restart, too.</source>
@@ -7448,7 +7448,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>A template fills fields of the selected photos with texts that each photo completes: “Race %Counter% off %Place|Zürich%”. Make one in Edit ▸ Templates, or from a photo with Save as Template…</source>
-        <translation>يملأ القالب حقول الصور المحددة بنصوص تكملها كل صورة: «⁨Race %Counter% off %Place|Zürich%⁩». لإنشاء قالب: تحرير ◂ القوالب، أو من صورة عبر حفظ كقالب…</translation>
+        <translation>يملأ القالب حقول الصور المحددة بنصوص تكملها كل صورة: «⁨Race %Counter% off %Place|Zürich%⁩». يُنشأ القالب من تحرير ◂ القوالب، أو من صورة عبر «حفظ كقالب…».</translation>
     </message>
     <message>
         <source>⌘1 to ⌘9 apply the templates that have these keys. What they fill in are edits, written when you save.</source>
@@ -7537,7 +7537,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Settings ▸ Raw files says where the edits of raw photos go: into the file, as with other photos, or beside it. Beside it, the raw file itself is never written to.</source>
-        <translation>يحدد الإعدادات ◂ ملفات RAW أين تُكتب تعديلات صور RAW: في الملف كما في الصور الأخرى، أو بجانبه. وعند الكتابة بجانبه لا يُكتب في ملف RAW نفسه أبدًا.</translation>
+        <translation>يحدد القسم الإعدادات ◂ ملفات RAW أين تُكتب تعديلات صور RAW: في الملف كما في الصور الأخرى، أو بجانبه. وعند الكتابة بجانبه لا يُكتب في ملف RAW نفسه أبدًا.</translation>
     </message>
     <message>
         <source>The words then go to an XMP sidecar, which other programs read and write too. The line under the photo’s name says which file that is. DNG has a choice of its own.</source>
@@ -7553,7 +7553,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>File ▸ Write Sidecars Into Photos… and Write Metadata Into Sidecars… move words over for the selected photos. You see first what would change in how many. Undo Save takes it back.</source>
-        <translation>ينقل ملف ◂ كتابة الملفات المرافقة في الصور… وكتابة البيانات الوصفية في الملفات المرافقة… النصوص للصور المحددة. ويظهر أولًا ما سيتغير وفي كم صورة. ويعيد «التراجع عن الحفظ» الوضع السابق.</translation>
+        <translation>ينقل الأمران ملف ◂ كتابة الملفات المرافقة في الصور… وكتابة البيانات الوصفية في الملفات المرافقة… النصوص للصور المحددة. ويظهر أولًا ما سيتغير وفي كم صورة. ويعيد «التراجع عن الحفظ» الوضع السابق.</translation>
     </message>
     <message>
         <source>Develop settings, and whatever else other programs keep in a sidecar, stay as they are.</source>
@@ -7593,7 +7593,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Drag a folder or image here</source>
-        <translation>يمكن سحب مجلد أو صورة إلى هنا</translation>
+        <translation>سحب مجلد أو صورة إلى هنا</translation>
     </message>
     <message>
         <source>Open Folder…</source>
@@ -7836,7 +7836,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Empty: places are looked up on this computer alone. With the https address of a Photon-compatible service, what you type in the Place field is sent there; places known here still come first. Takes effect at the next start.</source>
-        <translation>إذا تُرك فارغًا، يُبحث عن الأماكن على هذا الحاسوب وحده. وعند إدخال عنوان https لخدمة متوافقة مع Photon، يُرسل إليها ما يُكتب في حقل «المكان»، وتبقى الأماكن المعروفة هنا في المقدمة. يسري عند بدء التشغيل التالي.</translation>
+        <translation>إذا تُرك فارغًا، يُبحث عن الأماكن على هذا الحاسوب وحده. وعند إدخال عنوان خدمة متوافقة مع Photon (يبدأ بـ https)، يُرسل إليها ما يُكتب في حقل «المكان»، وتبقى الأماكن المعروفة هنا في المقدمة. يسري عند بدء التشغيل التالي.</translation>
     </message>
     <message>
         <source>Code replacements</source>

@@ -7304,7 +7304,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>High contrast</source>
         <comment>appearance</comment>
-        <translation>Hoher Kontrast</translation>
+        <translation>Kontrast</translation>
     </message>
     <message>
         <source>System</source>

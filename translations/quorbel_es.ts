@@ -439,8 +439,8 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message numerus="yes">
         <source>%n photo(s) (keeps|keep) what the sidecar holds otherwise than the file: nothing in a sidecar is replaced.</source>
         <translation>
-            <numerusform>%n foto conserva lo que el sidecar contiene de otro modo que el archivo: en un sidecar no se reemplaza nada.</numerusform>
-            <numerusform>%n fotos conservan lo que el sidecar contiene de otro modo que el archivo: en un sidecar no se reemplaza nada.</numerusform>
+            <numerusform>En %n foto se conserva lo que en el sidecar difiere del archivo: en un sidecar no se reemplaza nada.</numerusform>
+            <numerusform>En %n fotos se conserva lo que en el sidecar difiere del archivo: en un sidecar no se reemplaza nada.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1107,8 +1107,8 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message numerus="yes">
         <source>Long to listen to: %1 of %n character(s)</source>
         <translation>
-            <numerusform>Largo de escuchar: %1 de %n carácter</numerusform>
-            <numerusform>Largo de escuchar: %1 de %n caracteres</numerusform>
+            <numerusform>Largo para escucharlo: %1 de %n carácter</numerusform>
+            <numerusform>Largo para escucharlo: %1 de %n caracteres</numerusform>
         </translation>
     </message>
     <message>
@@ -1365,7 +1365,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Supplier image ID</source>
-        <translation>ID del proveedor</translation>
+        <translation>ID imagen proveedor</translation>
     </message>
     <message>
         <source>The picture&apos;s number at the supplier</source>
@@ -1537,7 +1537,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Inventory address</source>
-        <translation>Dirección del inventario</translation>
+        <translation>URL del inventario</translation>
     </message>
     <message>
         <source>Copyright notice</source>
@@ -3661,7 +3661,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Sorts your library by date in every app</source>
-        <translation>Ordena su biblioteca por fecha en todas las aplicaciones</translation>
+        <translation>Ordena su fototeca por fecha en todas las aplicaciones</translation>
     </message>
     <message>
         <source>Keywords</source>
@@ -3669,7 +3669,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Filter &amp; group by tag</source>
-        <translation>Filtrar y agrupar por palabra clave</translation>
+        <translation>Para filtrar y agrupar por palabra clave</translation>
     </message>
     <message>
         <source>Creator</source>
@@ -3733,7 +3733,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Group photos by event</source>
-        <translation>Agrupar fotos por evento</translation>
+        <translation>Para agrupar fotos por evento</translation>
     </message>
     <message>
         <source>State / Province</source>
@@ -4370,7 +4370,7 @@ Why nothing can be copied.</extracomment>
     <message>
         <source>Escape</source>
         <extracomment>The key.</extracomment>
-        <translation>Escape</translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>This is the last photo</source>
@@ -5424,7 +5424,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>The place service sent too much</source>
-        <translation>El servicio de lugares envió demasiado</translation>
+        <translation>El servicio de lugares envió demasiados datos</translation>
     </message>
     <message>
         <source>The place service did not answer in time</source>
@@ -5436,7 +5436,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>The place service answered something else</source>
-        <translation>El servicio de lugares respondió otra cosa</translation>
+        <translation>El servicio de lugares dio una respuesta inesperada</translation>
     </message>
     <message>
         <source>The place service answered with status %1</source>
@@ -5897,7 +5897,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>No such shortcut.</source>
-        <translation>No hay tal atajo.</translation>
+        <translation>No existe ese atajo.</translation>
     </message>
     <message>
         <source>Search shortcuts…</source>
@@ -6242,7 +6242,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Click the lowest rating to list; click it again for any</source>
-        <translation>Haga clic en la valoración mínima; otro clic en ella admite cualquiera</translation>
+        <translation>Un clic fija la valoración mínima; otro clic en ella admite cualquiera</translation>
     </message>
     <message>
         <source>Any field contains…</source>
@@ -6294,7 +6294,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Changed since opened</source>
-        <translation>Cambiadas desde que se abrieron</translation>
+        <translation>Cambiadas tras abrirlas</translation>
     </message>
     <message>
         <source>Places differ</source>
@@ -6405,7 +6405,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Set if empty</source>
         <extracomment>Puts the text into the field when nothing is there.</extracomment>
-        <translation>Establecer si está vacío</translation>
+        <translation>Solo si está vacío</translation>
     </message>
     <message>
         <source>Append</source>
@@ -6620,11 +6620,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Nothing else in the photo before</source>
-        <translation>No hay más en la foto anterior</translation>
+        <translation>No hay nada más en la foto anterior</translation>
     </message>
     <message>
         <source>Dismiss</source>
-        <translation>Descartar</translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Message</source>
@@ -6724,7 +6724,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Ctrl+&apos; fills the field with what the photo before shows. An empty field there takes nothing away.</source>
-        <translation>⌘+&apos; rellena el campo con lo que muestra la foto anterior. Si allí está vacío, no se borra nada.</translation>
+        <translation>Ctrl+&apos; rellena el campo con lo que muestra la foto anterior. Si allí está vacío, no se borra nada.</translation>
     </message>
     <message>
         <source>0 to 5 rate while the list has the keyboard; ⌘⌥0 to ⌘⌥5 rate anywhere, one photo or many.</source>
@@ -6840,7 +6840,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Default is the form as it was. Once you have chosen a set, or made one, they can be picked at the top of the form, too.</source>
-        <translation>Por defecto es el formulario de siempre. Después de elegir o crear un conjunto, también se pueden elegir en la parte superior del formulario.</translation>
+        <translation>«Por defecto» es el formulario de siempre. Después de elegir o crear un conjunto, los conjuntos también se pueden elegir en la parte superior del formulario.</translation>
     </message>
     <message>
         <source>Shifting Times</source>
@@ -6880,7 +6880,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>List fields (like keywords) are appended across the selection.</source>
-        <translation>Los campos de lista (como las palabras clave) se añaden en toda la selección.</translation>
+        <translation>Los campos de lista (como las palabras clave) se amplían: lo nuevo se añade a lo que ya tiene cada foto seleccionada.</translation>
     </message>
     <message>
         <source>Quorbel confirms before a mass edit unless you&apos;ve turned that prompt off.</source>
@@ -6888,7 +6888,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Below the keywords stand those that the selected photos have, with how many have each. Click one to give it to all of them; its cross takes it away from all with the next save.</source>
-        <translation>Debajo de las palabras clave están las que tienen las fotos seleccionadas, con el número de fotos de cada una. Un clic en una la da a todas; su cruz la quita de todas la próxima vez que se guarde.</translation>
+        <translation>Debajo de las palabras clave están las que tienen las fotos seleccionadas, con el número de fotos de cada una. Un clic en una la añade a todas las fotos; su cruz la quita de todas la próxima vez que se guarde.</translation>
     </message>
     <message>
         <source>Quick keywords are the last ones you used, or a set of your own: click one, or press Alt+1 to Alt+9. The name of the set is a menu of all sets.</source>
@@ -6900,7 +6900,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>What one photo says can be given to others, and texts that you type often can have short codes.</source>
-        <translation>Lo que dice una foto se puede dar a otras, y los textos que se escriben a menudo pueden tener códigos cortos.</translation>
+        <translation>Los datos de una foto se pueden pasar a otras, y los textos que se escriben a menudo pueden tener códigos cortos.</translation>
     </message>
     <message>
         <source>Edit ▸ Copy Fields (⌘⇧C) takes the fields of the selected photo as you see them. Edit ▸ Paste Fields… (⌘⇧V) shows what they would replace in the selected photos, and pastes those that you tick. Nothing is written before you save.</source>
@@ -6989,15 +6989,15 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Originals are backed up before writing (you can turn this off in Settings).</source>
-        <translation>Los originales se copian antes de escribir (se puede desactivar en Ajustes).</translation>
+        <translation>Antes de escribir se hace una copia de seguridad de los originales (se puede desactivar en Ajustes).</translation>
     </message>
     <message>
         <source>Quorbel prompts before you switch away with unsaved changes.</source>
-        <translation>Quorbel avisa antes de pasar a otra cosa con cambios sin guardar.</translation>
+        <translation>Quorbel pregunta antes de dejar atrás cambios sin guardar.</translation>
     </message>
     <message>
         <source>Optionally write an XMP sidecar instead of embedding, from Settings.</source>
-        <translation>Opcionalmente se escribe un sidecar XMP en lugar de incrustar los metadatos (Ajustes).</translation>
+        <translation>En Ajustes se puede elegir que se escriba un sidecar XMP en lugar de incrustar los metadatos.</translation>
     </message>
     <message>
         <source>Raw Files</source>
@@ -7179,7 +7179,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Back up original before writing</source>
-        <translation>Copia de seguridad del original antes de escribir</translation>
+        <translation>Copia de seguridad antes de escribir</translation>
     </message>
     <message>
         <source>Confirm before mass-applying to multiple files</source>
@@ -7452,12 +7452,12 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>This folder does not report changes; %1 looks every few seconds.</source>
         <extracomment>%1 is the program.</extracomment>
-        <translation>Esta carpeta no avisa de los cambios; %1 la mira cada pocos segundos.</translation>
+        <translation>Esta carpeta no avisa de los cambios; %1 la comprueba cada pocos segundos.</translation>
     </message>
     <message>
         <source>Not all of these folders report changes; %1 looks every few seconds.</source>
         <extracomment>%1 is the program.</extracomment>
-        <translation>No todas estas carpetas avisan de los cambios; %1 las mira cada pocos segundos.</translation>
+        <translation>No todas estas carpetas avisan de los cambios; %1 las comprueba cada pocos segundos.</translation>
     </message>
     <message numerus="yes">
         <source>Only %1 of %2 folders report changes. Refresh to see what changed in the others.</source>
@@ -7481,7 +7481,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Back up originals before writing</source>
-        <translation>Copia de seguridad de los originales antes de escribir</translation>
+        <translation>Copia de seguridad antes de escribir</translation>
     </message>
     <message>
         <source>Also write sidecar .xmp</source>

@@ -17,7 +17,7 @@
         <source>%1 in %n folder(s)</source>
         <extracomment>%1 is a number of photos: &quot;12 photos in 3 folders&quot;</extracomment>
         <translation>
-            <numerusform>%1 枚（%n 個のフォルダー）</numerusform>
+            <numerusform>%1（%n 個のフォルダー）</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>“%1” was removed by another program. Its unsaved changes are kept: Edit ▸ Bring Back Edits.</source>
-        <translation>「%1」はほかのプログラムによって削除されました。未保存の変更は保持されています：編集 ▸ 編集内容を復元。</translation>
+        <translation>「%1」はほかのプログラムによって削除されました。未保存の変更は保持されており、編集 ▸ 編集内容を復元 で戻せます。</translation>
     </message>
     <message>
         <source>“%1” was removed by another program.</source>
@@ -233,7 +233,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>Could not rename: %1: %2.</source>
         <extracomment>%1 is the photo, %2 why</extracomment>
-        <translation>名前を変更できませんでした：%1：%2。</translation>
+        <translation>「%1」の名前を変更できませんでした：%2。</translation>
     </message>
     <message>
         <source>Could not rename: %1. %2</source>
@@ -613,11 +613,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>%1 earlier</source>
         <extracomment>%1 is a span of time: &quot;1 h 02 min 30 s later&quot;</extracomment>
-        <translation>%1早く</translation>
+        <translation>%1前へ</translation>
     </message>
     <message>
         <source>%1 later</source>
-        <translation>%1遅く</translation>
+        <translation>%1後へ</translation>
     </message>
     <message>
         <source>Each photo’s own</source>
@@ -2902,7 +2902,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Wrap</source>
-        <translation>ラップ</translation>
+        <translation>まとめ</translation>
     </message>
     <message>
         <source>Brings several reports together</source>
@@ -2926,7 +2926,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Antarctica</source>
-        <translation>南極</translation>
+        <translation>南極大陸</translation>
     </message>
     <message>
         <source>The continent round the South Pole</source>
@@ -3134,43 +3134,43 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>cropping</source>
-        <translation>切り抜き</translation>
+        <translation>トリミング</translation>
     </message>
     <message>
         <source>To be cut to this</source>
-        <translation>この範囲に切り抜く</translation>
+        <translation>この範囲にトリミングする</translation>
     </message>
     <message>
         <source>recommended cropping</source>
-        <translation>推奨される切り抜き</translation>
+        <translation>推奨トリミング</translation>
     </message>
     <message>
         <source>Best cut to this</source>
-        <translation>この範囲に切り抜くのが最適</translation>
+        <translation>この範囲にトリミングするのが最適</translation>
     </message>
     <message>
         <source>landscape format cropping</source>
-        <translation>横長の切り抜き</translation>
+        <translation>横長トリミング</translation>
     </message>
     <message>
         <source>To be cut to this where it has to be wide</source>
-        <translation>横長にする場合の切り抜き範囲</translation>
+        <translation>横長にする場合のトリミング範囲</translation>
     </message>
     <message>
         <source>portrait format cropping</source>
-        <translation>縦長の切り抜き</translation>
+        <translation>縦長トリミング</translation>
     </message>
     <message>
         <source>To be cut to this where it has to be tall</source>
-        <translation>縦長にする場合の切り抜き範囲</translation>
+        <translation>縦長にする場合のトリミング範囲</translation>
     </message>
     <message>
         <source>square format cropping</source>
-        <translation>正方形の切り抜き</translation>
+        <translation>正方形トリミング</translation>
     </message>
     <message>
         <source>To be cut to this where it has to be square</source>
-        <translation>正方形にする場合の切り抜き範囲</translation>
+        <translation>正方形にする場合のトリミング範囲</translation>
     </message>
     <message>
         <source>composite image item</source>
@@ -3308,7 +3308,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>name taken, so -%1</source>
         <extracomment>%1 is the number that was put behind the name</extracomment>
-        <translation>名前が使用済みのため -%1</translation>
+        <translation>名前が重複するため -%1 を付加</translation>
     </message>
     <message>
         <source>with %1</source>
@@ -3347,7 +3347,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Another save is under way or was cut off: %1 lies beside the photo. If no other program is saving, delete it and save again. Nothing was written.</source>
-        <translation>別の保存が進行中か、中断されています：写真の横に %1 があります。ほかに保存中のプログラムがなければ、削除してからもう一度保存してください。何も書き込まれていません。</translation>
+        <translation>別の保存が進行中か、中断されています：写真と同じ場所に %1 があります。ほかに保存中のプログラムがなければ、削除してからもう一度保存してください。何も書き込まれていません。</translation>
     </message>
     <message>
         <source>“%1” is too long: a value may have 128 KiB at most. Nothing was written.</source>
@@ -3376,7 +3376,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     <message>
         <source>That is the field %1</source>
         <extracomment>%1 is a field&apos;s name</extracomment>
-        <translation>それはフィールド「%1」です</translation>
+        <translation>「%1」フィールドの名前です</translation>
     </message>
     <message>
         <source>Not a date: YYYY-MM-DD HH:MM</source>
@@ -3844,7 +3844,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Shutter</source>
-        <translation>シャッター</translation>
+        <translation>シャッター速度</translation>
     </message>
     <message>
         <source>Aperture</source>
@@ -4034,7 +4034,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Could not decode ExifTool output: %1</source>
-        <translation>ExifTool の出力を解読できませんでした：%1</translation>
+        <translation>ExifTool の出力を解釈できませんでした：%1</translation>
     </message>
     <message>
         <source>Bundled ExifTool could not be located.</source>
@@ -4144,7 +4144,7 @@ A name, in quotation marks.</extracomment>
     <message>
         <source>%1 is there twice, in lines %2 and %3: the last one counts.</source>
         <extracomment>%1 is a code, in quotation marks</extracomment>
-        <translation>%1 が %2 行目と %3 行目に重複しています。後の行が有効です。</translation>
+        <translation>%1 が %2 行目と %3 行目に重複しています。後の行が有効になります。</translation>
     </message>
     <message numerus="yes">
         <source>%n date(s)</source>
@@ -4268,7 +4268,7 @@ A name, in quotation marks.</extracomment>
         <extracomment>%n is the number of photos that hold just the text
 ----------
 Why nothing can be copied.</extracomment>
-        <translation>すでに同じ内容です</translation>
+        <translation>すでに同じ内容</translation>
     </message>
     <message numerus="yes">
         <source>same in %n</source>
@@ -4463,7 +4463,7 @@ Why nothing can be copied.</extracomment>
     </message>
     <message>
         <source>Not among the known codes</source>
-        <translation>登録されたコードではありません</translation>
+        <translation>一覧にないコードです</translation>
     </message>
     <message>
         <source>None</source>
@@ -4477,7 +4477,7 @@ Why nothing can be copied.</extracomment>
     </message>
     <message>
         <source>As it is typed, not one of the codes</source>
-        <translation>入力したまま（登録コードではない値）</translation>
+        <translation>入力どおりの値（一覧にないコード）</translation>
     </message>
     <message>
         <source>chosen</source>
@@ -4486,7 +4486,7 @@ Why nothing can be copied.</extracomment>
     </message>
     <message>
         <source>Time-zone offset</source>
-        <translation>タイムゾーンの時差</translation>
+        <translation>UTC との時差</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -4507,16 +4507,16 @@ Why nothing can be copied.</extracomment>
     <message>
         <source>Default and Form…</source>
         <extracomment>Of a token. Default: what stands there where a photo has no such value; form: how a date is written.</extracomment>
-        <translation>既定値と形式…</translation>
+        <translation>既定値と書式…</translation>
     </message>
     <message>
         <source>ALSO IN THESE PHOTOS</source>
         <extracomment>Heads fields that a chosen set of fields leaves out, in capitals.</extracomment>
-        <translation>これらの写真にあるその他のフィールド</translation>
+        <translation>これらの写真のその他のフィールド</translation>
     </message>
     <message>
         <source>ALSO IN THIS PHOTO</source>
-        <translation>この写真にあるその他のフィールド</translation>
+        <translation>この写真のその他のフィールド</translation>
     </message>
     <message numerus="yes">
         <source>%n field(s)</source>
@@ -4545,7 +4545,7 @@ Why nothing can be copied.</extracomment>
     <message>
         <source>Bring %1 back</source>
         <extracomment>%1: a language.</extracomment>
-        <translation>%1を復元</translation>
+        <translation>%1を元に戻す</translation>
     </message>
     <message>
         <source>Reading metadata</source>
@@ -4563,7 +4563,7 @@ Why nothing can be copied.</extracomment>
     </message>
     <message>
         <source>The photo’s own file: read here, and never written</source>
-        <translation>写真のファイル自体：読み取りのみで、書き込みは行いません</translation>
+        <translation>写真のファイル本体：読み取りのみで、書き込みは行いません</translation>
     </message>
     <message>
         <source>Belongs to another standard: read here, and never written</source>
@@ -4587,7 +4587,7 @@ Why nothing can be copied.</extracomment>
         <extracomment>Button: writes what is shown to all places within a photo that hold a field.
 ----------
 Button: writes what is shown to all places within photos that hold a field.</extracomment>
-        <translation>一致させる</translation>
+        <translation>値を一致させる</translation>
     </message>
     <message>
         <source>Places of %1</source>
@@ -4686,27 +4686,27 @@ Button: writes what is shown to all places within photos that hold a field.</ext
     <message>
         <source>Add ID + ↵</source>
         <extracomment>↵ is the Return key, which adds what was typed to a list.</extracomment>
-        <translation>ID を追加して ↵</translation>
+        <translation>ID を追加 ↵</translation>
     </message>
     <message>
         <source>Add age + ↵</source>
-        <translation>年齢を追加して ↵</translation>
+        <translation>年齢を追加 ↵</translation>
     </message>
     <message>
         <source>Add organisation + ↵</source>
-        <translation>組織を追加して ↵</translation>
+        <translation>組織を追加 ↵</translation>
     </message>
     <message>
         <source>Add code + ↵</source>
-        <translation>コードを追加して ↵</translation>
+        <translation>コードを追加 ↵</translation>
     </message>
     <message>
         <source>Add keyword + ↵</source>
-        <translation>キーワードを追加して ↵</translation>
+        <translation>キーワードを追加 ↵</translation>
     </message>
     <message>
         <source>Add to all + ↵</source>
-        <translation>すべてに追加して ↵</translation>
+        <translation>すべてに追加 ↵</translation>
     </message>
     <message>
         <source>Multiple values — leave unchanged</source>
@@ -4891,12 +4891,12 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>Required by %1</source>
         <extracomment>Stands in an empty field. %1: name of a set of fields, as “Press”.</extracomment>
-        <translation>%1 で必須</translation>
+        <translation>「%1」で必須</translation>
     </message>
     <message>
         <source>%1 of %2 filled</source>
         <extracomment>%1 and %2: numbers of fields.</extracomment>
-        <translation>%2 件中 %1 件入力済み</translation>
+        <translation>入力済み %1 / %2</translation>
     </message>
     <message>
         <source>next gap F8</source>
@@ -4933,12 +4933,12 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>nothing there</source>
         <extracomment>Why nothing can be copied: those fields are empty.</extracomment>
-        <translation>コピー元が空です</translation>
+        <translation>コピー元が空</translation>
     </message>
     <message>
         <source>nothing here</source>
         <extracomment>Why nothing can be copied: this card is empty.</extracomment>
-        <translation>ここは空です</translation>
+        <translation>ここは空</translation>
     </message>
     <message>
         <source>Use Remembered Contact…</source>
@@ -5236,7 +5236,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>More</source>
         <comment>button: shows further fields</comment>
-        <translation>その他</translation>
+        <translation>さらに表示</translation>
     </message>
     <message>
         <source>More fields of this %1</source>
@@ -5276,7 +5276,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>Last used</source>
         <extracomment>The keywords that were used last.</extracomment>
-        <translation>最近使った項目</translation>
+        <translation>最近使ったもの</translation>
     </message>
     <message>
         <source>New Set…</source>
@@ -5479,11 +5479,11 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>Nothing is written before Apply.</source>
-        <translation>「適用」を押すまで何も書き込まれません。</translation>
+        <translation>「適用」を押すまでは何も書き込まれません。</translation>
     </message>
     <message>
         <source>Nothing is written before Save.</source>
-        <translation>「保存」を押すまで何も書き込まれません。</translation>
+        <translation>「保存」を押すまでは何も書き込まれません。</translation>
     </message>
     <message numerus="yes">
         <source>%n photo(s) (was|were) not read yet.</source>
@@ -5614,11 +5614,11 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>Make It Agree</source>
-        <translation>一致させる</translation>
+        <translation>値を一致させる</translation>
     </message>
     <message>
         <source>Make Them Agree</source>
-        <translation>一致させる</translation>
+        <translation>値を一致させる</translation>
     </message>
     <message numerus="yes">
         <source>Apply to %n Photo(s)</source>
@@ -5636,7 +5636,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>By a known photo</source>
-        <translation>基準の写真に合わせる</translation>
+        <translation>写真に合わせる</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -5645,12 +5645,12 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>Later</source>
         <comment>times become later</comment>
-        <translation>遅らせる</translation>
+        <translation>後へ</translation>
     </message>
     <message>
         <source>Earlier</source>
         <comment>times become earlier</comment>
-        <translation>早める</translation>
+        <translation>前へ</translation>
     </message>
     <message>
         <source>Keep the clock time</source>
@@ -5719,7 +5719,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>Without it, the moment stays and the clock time moves</source>
-        <translation>オフにすると、瞬間はそのままで時計の時刻が変わります</translation>
+        <translation>オフにすると、撮影の瞬間は変わらず、時計の時刻が変わります</translation>
     </message>
     <message>
         <source>Photos</source>
@@ -5870,7 +5870,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>%1 keeps its name</source>
         <extracomment>%1 is the name of a file, %2 the one that it will get.</extracomment>
-        <translation>%1 は名前を変更しません</translation>
+        <translation>%1 は名前が変わりません</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -6051,7 +6051,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>%1 photo(s) (disagrees|disagree)</source>
         <extracomment>%1: how many photos hold a field in several places that differ.</extracomment>
         <translation>
-            <numerusform>%1 枚の写真で値が不一致</numerusform>
+            <numerusform>%1 枚の写真で記録先が不一致</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -6082,7 +6082,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Look at them</source>
         <extracomment>Button behind a number of photos that were not looked at yet.</extracomment>
-        <translation>確認する</translation>
+        <translation>確認</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -6104,12 +6104,12 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Without</source>
         <extracomment>Heads a list of what photos may lack: title, keywords…</extracomment>
-        <translation>ないもの</translation>
+        <translation>未入力</translation>
     </message>
     <message>
         <source>At least</source>
         <extracomment>Stands before the row of stars that a photo has at least.</extracomment>
-        <translation>最低</translation>
+        <translation>最低評価</translation>
     </message>
     <message>
         <source>Click the lowest rating to list; click it again for any</source>
@@ -6169,7 +6169,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Places differ</source>
-        <translation>記録先が不一致</translation>
+        <translation>記録先の不一致</translation>
     </message>
     <message>
         <source>Clear filters</source>
@@ -6293,7 +6293,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Add name + ↵</source>
-        <translation>名前を追加して ↵</translation>
+        <translation>名前を追加 ↵</translation>
     </message>
     <message>
         <source>Shortcut</source>
@@ -6380,7 +6380,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>or %1</source>
         <extracomment>Behind the name of a token. %1: what stands in its place where a photo has no such value.</extracomment>
-        <translation>または %1</translation>
+        <translation>なければ %1</translation>
     </message>
     <message>
         <source>More…</source>
@@ -6411,12 +6411,12 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Default and form of %1</source>
         <extracomment>%1: name of a token. Default: what stands there where a photo has no such value; form: how a date is written.</extracomment>
-        <translation>%1の既定値と形式</translation>
+        <translation>%1の既定値と書式</translation>
     </message>
     <message>
         <source>If missing</source>
         <extracomment>What stands in the place of a value that a photo does not have, and what happens when nothing is given.</extracomment>
-        <translation>ない場合</translation>
+        <translation>値がない場合</translation>
     </message>
     <message>
         <source>leave a gap</source>
@@ -6425,7 +6425,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Form</source>
         <extracomment>How a date or time is written.</extracomment>
-        <translation>形式</translation>
+        <translation>書式</translation>
     </message>
     <message>
         <source>From</source>
@@ -6435,7 +6435,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Letters</source>
         <extracomment>Whether the letters of a text are capitals.</extracomment>
-        <translation>文字</translation>
+        <translation>大文字・小文字</translation>
     </message>
     <message>
         <source>As they are</source>
@@ -6487,7 +6487,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Nothing else in the photo before</source>
-        <translation>前の写真にはほかの内容がありません</translation>
+        <translation>前の写真にこれと異なる内容はありません</translation>
     </message>
     <message>
         <source>Dismiss</source>
@@ -6655,7 +6655,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Click the mark to see what each place holds. Use this one makes a text your edit; saving writes it to all places.</source>
-        <translation>印をクリックすると、各記録先の内容を確認できます。「これを使う」でそのテキストが編集内容になり、保存するとすべての記録先に書き込まれます。</translation>
+        <translation>印をクリックすると、各記録先の内容を確認できます。「この値を使用」でそのテキストが編集内容になり、保存するとすべての記録先に書き込まれます。</translation>
     </message>
     <message>
         <source>View ▸ Show Disagreements (⌘⇧D) lists only photos whose places differ. Quorbel looks at all open photos for that, while you work on.</source>
@@ -6719,11 +6719,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>By an amount: so many days, hours, minutes and seconds later or earlier.</source>
-        <translation>量を指定：日、時間、分、秒の単位で後または前にずらします。</translation>
+        <translation>時間を指定：日、時間、分、秒の単位で、後または前にずらします。</translation>
     </message>
     <message>
         <source>By a known photo: type when one of the photos was really taken, and all others go by the same amount.</source>
-        <translation>時刻の分かる写真を基準：1 枚の写真の実際の撮影時刻を入力すると、ほかのすべても同じだけずれます。</translation>
+        <translation>写真に合わせる：1 枚の写真の実際の撮影日時を入力すると、ほかのすべても同じだけずれます。</translation>
     </message>
     <message>
         <source>Time zone: sets the zone that the times are in. Keep the clock time, or let it move with the zone. Photos with a position can each get the zone that they were taken in.</source>
@@ -6872,7 +6872,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Settings ▸ Raw files says where the edits of raw photos go: into the file, as with other photos, or beside it. Beside it, the raw file itself is never written to.</source>
-        <translation>設定 ▸ RAW ファイル で、RAW の編集内容の保存先を選びます。ほかの写真と同じようにファイルの中に書き込むか、ファイルの横に保存します。横に保存する場合、RAW ファイル自体には一切書き込みません。</translation>
+        <translation>設定 ▸ RAW ファイル で、RAW 写真の編集内容の書き込み先を選びます。ほかの写真と同じファイル内か、別ファイルです。別ファイルの場合、RAW ファイル自体には一切書き込みません。</translation>
     </message>
     <message>
         <source>The words then go to an XMP sidecar, which other programs read and write too. The line under the photo’s name says which file that is. DNG has a choice of its own.</source>
@@ -6888,7 +6888,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>File ▸ Write Sidecars Into Photos… and Write Metadata Into Sidecars… move words over for the selected photos. You see first what would change in how many. Undo Save takes it back.</source>
-        <translation>ファイル ▸ サイドカーを写真に書き込む… と メタデータをサイドカーに書き込む… で、選択した写真の内容を移します。書き込む前に、何が何枚の写真で変わるかを確認できます。「保存を元に戻す」で元に戻せます。</translation>
+        <translation>ファイル ▸ サイドカーを写真に書き込む… と メタデータをサイドカーに書き込む… で、選択した写真の内容を書き写します。書き込む前に、何が何枚の写真で変わるかを確認できます。「保存を元に戻す」で元に戻せます。</translation>
     </message>
     <message>
         <source>Develop settings, and whatever else other programs keep in a sidecar, stay as they are.</source>
@@ -7006,7 +7006,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Stuck at %1</source>
         <extracomment>%1 is the name of a file that takes suspiciously long to be read.</extracomment>
-        <translation>%1 で停止しています</translation>
+        <translation>%1 で止まっています</translation>
     </message>
     <message>
         <source>Looking for photos…</source>
@@ -7137,7 +7137,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Online place service</source>
-        <translation>オンラインの地名サービス</translation>
+        <translation>場所検索サービス</translation>
     </message>
     <message>
         <source>Empty: places are looked up on this computer alone. With the https address of a Photon-compatible service, what you type in the Place field is sent there; places known here still come first. Takes effect at the next start.</source>
@@ -7165,7 +7165,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>High contrast</source>
         <comment>appearance</comment>
-        <translation>ハイコントラスト</translation>
+        <translation>高コントラスト</translation>
     </message>
     <message>
         <source>System</source>
@@ -7345,7 +7345,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Also write sidecar .xmp</source>
-        <translation>サイドカー .xmp にも書き込む</translation>
+        <translation>サイドカーの .xmp ファイルも書き込む</translation>
     </message>
 </context>
 </TS>

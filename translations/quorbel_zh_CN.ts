@@ -17,7 +17,7 @@
         <source>%1 in %n folder(s)</source>
         <extracomment>%1 is a number of photos: &quot;12 photos in 3 folders&quot;</extracomment>
         <translation>
-            <numerusform>%1，位于 %n 个文件夹中</numerusform>
+            <numerusform>%1，%n 个文件夹</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -31,7 +31,7 @@
         <source>%n selected</source>
         <extracomment>%n is a number of photos</extracomment>
         <translation>
-            <numerusform>已选择 %n 张</numerusform>
+            <numerusform>已选中 %n 张</numerusform>
         </translation>
     </message>
     <message>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>The places of the selected photos’ fields agree already.</source>
-        <translation>所选照片的字段在各存储位置中已经一致。</translation>
+        <translation>选中照片的字段在各存储位置中已经一致。</translation>
     </message>
     <message>
         <source>The unsaved changes come back as soon as their photos are read.</source>
@@ -95,7 +95,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>Save without %1</source>
         <extracomment>%1 are parts of a file that take no text: &quot;EXIF and IPTC&quot;</extracomment>
-        <translation>不写入 %1 并保存</translation>
+        <translation>保存，但不写入 %1</translation>
     </message>
     <message>
         <source>different items</source>
@@ -233,7 +233,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>Could not rename: %1: %2.</source>
         <extracomment>%1 is the photo, %2 why</extracomment>
-        <translation>无法重命名：%1：%2。</translation>
+        <translation>无法重命名 %1：%2。</translation>
     </message>
     <message>
         <source>Could not rename: %1. %2</source>
@@ -333,7 +333,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
         <source>%1 of %n photo(s) differed between IPTC and XMP and were brought together: %2</source>
         <extracomment>%1 is a field that holds a list (&quot;Keywords&quot;), %2 names the photos</extracomment>
         <translation>
-            <numerusform>%n 张照片中有 %1 张的 IPTC 与 XMP 内容不同，已合并：%2</numerusform>
+            <numerusform>%n 张照片的%1在 IPTC 与 XMP 中不同，已合并：%2</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -753,7 +753,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Open with Su&amp;bfolders…</source>
-        <translation>打开并包含子文件夹(&amp;B)…</translation>
+        <translation>连同子文件夹打开(&amp;B)…</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
@@ -908,7 +908,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
         <source>&amp;Apply to %n</source>
         <comment>photos</comment>
         <translation>
-            <numerusform>应用到 %n 张照片(&amp;A)</numerusform>
+            <numerusform>应用到 %n 张(&amp;A)</numerusform>
         </translation>
     </message>
     <message>
@@ -1016,7 +1016,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Quorbel %1 is available</source>
-        <translation>Quorbel %1 已可用</translation>
+        <translation>Quorbel %1 已发布</translation>
     </message>
     <message>
         <source>A newer version of Quorbel is available.</source>
@@ -1193,7 +1193,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>What it is about, by terms of a vocabulary</source>
-        <translation>内容主题，用受控词表中的词表示</translation>
+        <translation>内容主题，用受控词表中的词条表示</translation>
     </message>
     <message>
         <source>Genre terms</source>
@@ -1201,7 +1201,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>What kind of picture it is, by terms of a vocabulary</source>
-        <translation>图片的类型，用受控词表中的词表示</translation>
+        <translation>图片的类型，用受控词表中的词条表示</translation>
     </message>
     <message>
         <source>Event IDs</source>
@@ -1469,7 +1469,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Created about</source>
-        <translation>大致创作时间</translation>
+        <translation>大致创作日期</translation>
     </message>
     <message>
         <source>Content</source>
@@ -1585,7 +1585,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Role</source>
-        <translation>角色</translation>
+        <translation>作用</translation>
     </message>
     <message>
         <source>Identifier</source>
@@ -1661,7 +1661,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Altitude (m)</source>
-        <translation>海拔 (m)</translation>
+        <translation>海拔（米）</translation>
     </message>
     <message>
         <source>Below sea level</source>
@@ -1766,7 +1766,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Choose Role…</source>
-        <translation>选择角色…</translation>
+        <translation>选择作用…</translation>
     </message>
     <message>
         <source>Digital source type</source>
@@ -1774,15 +1774,15 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Digital capture sampled from real life</source>
-        <translation>取自现实的数字拍摄</translation>
+        <translation>真实场景的数字拍摄</translation>
     </message>
     <message>
         <source>Taken with a camera, not changed beyond developing</source>
-        <translation>用相机拍摄，除冲洗处理外未作更改</translation>
+        <translation>用相机拍摄，除显影处理外未作更改</translation>
     </message>
     <message>
         <source>Multi-frame computational capture sampled from real life</source>
-        <translation>取自现实的多帧计算拍摄</translation>
+        <translation>真实场景的多帧计算拍摄</translation>
     </message>
     <message>
         <source>Several frames of one moment joined by the camera</source>
@@ -1802,7 +1802,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>A slide turned into a digital picture</source>
-        <translation>将幻灯片转为数字图片</translation>
+        <translation>将反转片转为数字图片</translation>
     </message>
     <message>
         <source>Digitised from a non-transparent medium</source>
@@ -1886,11 +1886,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Composite of elements</source>
-        <translation>元素合成</translation>
+        <translation>多元素合成</translation>
     </message>
     <message>
         <source>Put together from parts of any kind</source>
-        <translation>由任意类型的部分拼合而成</translation>
+        <translation>由各种素材拼合而成</translation>
     </message>
     <message>
         <source>Composite of captured elements</source>
@@ -1898,7 +1898,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Put together from parts that were all photographed</source>
-        <translation>由全部为拍摄所得的部分拼合而成</translation>
+        <translation>由全部拍摄所得的素材拼合而成</translation>
     </message>
     <message>
         <source>Composite including generative AI elements</source>
@@ -1906,7 +1906,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Put together from parts of which generative AI made at least one</source>
-        <translation>由多个部分拼合而成，其中至少一个由生成式 AI 生成</translation>
+        <translation>由多个素材拼合而成，其中至少一个由生成式 AI 生成</translation>
     </message>
     <message>
         <source>Original media with minor human edits</source>
@@ -1934,7 +1934,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Unspecified – no prohibition defined</source>
-        <translation>未指定 – 未作禁止规定</translation>
+        <translation>未指定（未定义禁止规定）</translation>
     </message>
     <message>
         <source>The file says nothing about it</source>
@@ -1966,7 +1966,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Prohibited except for search engine indexing</source>
-        <translation>除搜索引擎索引外禁止</translation>
+        <translation>禁止，搜索引擎索引除外</translation>
     </message>
     <message>
         <source>Search engines may list the picture; nothing else</source>
@@ -2046,11 +2046,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>No owner of what is shown has signed a release</source>
-        <translation>画面中之物的所有者均未签署授权书</translation>
+        <translation>画面中物品或场所的所有者均未签署授权书</translation>
     </message>
     <message>
         <source>Nothing is shown whose owner&apos;s consent would be needed</source>
-        <translation>画面中没有需要所有者同意之物</translation>
+        <translation>画面中没有需要所有者同意的物品或场所</translation>
     </message>
     <message>
         <source>Unlimited Property Releases</source>
@@ -2058,7 +2058,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>All owners have signed, without limits</source>
-        <translation>所有所有者均已签署，无限制</translation>
+        <translation>各所有者均已签署，无限制</translation>
     </message>
     <message>
         <source>Limited or Incomplete Property Releases</source>
@@ -2218,7 +2218,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>rear view</source>
-        <translation>背影</translation>
+        <translation>背面</translation>
     </message>
     <message>
         <source>A person or thing from behind</source>
@@ -2258,7 +2258,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>general view</source>
-        <translation>全景概貌</translation>
+        <translation>概貌</translation>
     </message>
     <message>
         <source>The whole of a place or an event</source>
@@ -2402,7 +2402,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Fires, floods, earthquakes, crashes</source>
-        <translation>火灾、洪水、地震、撞击事故</translation>
+        <translation>火灾、洪水、地震、交通事故</translation>
     </message>
     <message>
         <source>economy, business and finance</source>
@@ -2438,7 +2438,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>human interest</source>
-        <translation>人情趣事</translation>
+        <translation>人情趣味</translation>
     </message>
     <message>
         <source>People, animals, curiosities</source>
@@ -2534,7 +2534,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Fires, floods, earthquakes, crashes, rescues</source>
-        <translation>火灾、洪水、地震、撞击事故、救援</translation>
+        <translation>火灾、洪水、地震、交通事故、救援</translation>
     </message>
     <message>
         <source>environment</source>
@@ -2758,7 +2758,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Profile</source>
-        <translation>人物/机构专访</translation>
+        <translation>人物或机构介绍</translation>
     </message>
     <message>
         <source>A portrait of a person or an organization</source>
@@ -3110,7 +3110,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>main subject area</source>
-        <translation>主要主题区域</translation>
+        <translation>主要主体区域</translation>
     </message>
     <message>
         <source>What the picture is mostly about; one a picture</source>
@@ -3118,7 +3118,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>subject area</source>
-        <translation>主题区域</translation>
+        <translation>主体区域</translation>
     </message>
     <message>
         <source>Something that the picture is about</source>
@@ -3308,7 +3308,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>name taken, so -%1</source>
         <extracomment>%1 is the number that was put behind the name</extracomment>
-        <translation>名称已被占用，因此加 -%1</translation>
+        <translation>名称已占用，加 -%1</translation>
     </message>
     <message>
         <source>with %1</source>
@@ -3376,7 +3376,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     <message>
         <source>That is the field %1</source>
         <extracomment>%1 is a field&apos;s name</extracomment>
-        <translation>这是字段“%1”</translation>
+        <translation>已有字段“%1”</translation>
     </message>
     <message>
         <source>Not a date: YYYY-MM-DD HH:MM</source>
@@ -3624,7 +3624,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Filter &amp; group by tag</source>
-        <translation>按标签筛选和分组</translation>
+        <translation>按关键词筛选和分组</translation>
     </message>
     <message>
         <source>Creator</source>
@@ -3648,7 +3648,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Pins on the map; sorts by place</source>
-        <translation>用于地图图钉和按地点排序</translation>
+        <translation>在地图上标出位置；按地点排序</translation>
     </message>
     <message>
         <source>Coordinates</source>
@@ -3784,7 +3784,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Editorial urgency (1–8)</source>
-        <translation>编辑紧急程度 (1–8)</translation>
+        <translation>编辑紧急程度（1–8）</translation>
     </message>
     <message>
         <source>Usage terms</source>
@@ -3940,11 +3940,11 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>append</source>
-        <translation>追加到后面</translation>
+        <translation>加到后面</translation>
     </message>
     <message>
         <source>prepend</source>
-        <translation>添加到前面</translation>
+        <translation>加到前面</translation>
     </message>
     <message>
         <source>“%1” names a field that there is not.</source>
@@ -4091,7 +4091,7 @@ A name, in quotation marks.</extracomment>
     <message>
         <source>%1 — output: %2</source>
         <extracomment>%1 is why it could not be decoded, %2 the beginning of it</extracomment>
-        <translation>%1 — 输出：%2</translation>
+        <translation>%1；输出：%2</translation>
     </message>
     <message>
         <source>its values are not UTF-8</source>
@@ -4243,24 +4243,24 @@ A name, in quotation marks.</extracomment>
     <message>
         <source>replaces %1</source>
         <extracomment>%1 is what would go: &quot;4 titles&quot;, or a text in quotation marks</extracomment>
-        <translation>替换%1</translation>
+        <translation>替换 %1</translation>
     </message>
     <message>
         <source>would replace %1</source>
-        <translation>会替换%1</translation>
+        <translation>会替换 %1</translation>
     </message>
     <message numerus="yes">
         <source>replaces %1, fills %n</source>
         <extracomment>%1 is what would go (&quot;4 titles&quot;), %n the number of photos that have nothing in the field</extracomment>
         <translation>
-            <numerusform>替换%1，填入 %n 张</numerusform>
+            <numerusform>替换 %1，填入 %n 张</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>would replace %1, fill %n</source>
         <extracomment>%1 is what would go (&quot;4 titles&quot;), %n a number of photos that have nothing there</extracomment>
         <translation>
-            <numerusform>会替换%1，填入 %n 张</numerusform>
+            <numerusform>会替换 %1，填入 %n 张</numerusform>
         </translation>
     </message>
     <message>
@@ -4512,11 +4512,11 @@ Why nothing can be copied.</extracomment>
     <message>
         <source>ALSO IN THESE PHOTOS</source>
         <extracomment>Heads fields that a chosen set of fields leaves out, in capitals.</extracomment>
-        <translation>这些照片中另有</translation>
+        <translation>这些照片的其他字段</translation>
     </message>
     <message>
         <source>ALSO IN THIS PHOTO</source>
-        <translation>这张照片中另有</translation>
+        <translation>这张照片的其他字段</translation>
     </message>
     <message numerus="yes">
         <source>%n field(s)</source>
@@ -4674,7 +4674,7 @@ Button: writes what is shown to all places within photos that hold a field.</ext
     <message>
         <source>appends — existing values kept</source>
         <extracomment>What a save does to a list of each photo.</extracomment>
-        <translation>追加 — 保留原有的值</translation>
+        <translation>追加，保留原有的值</translation>
     </message>
     <message numerus="yes">
         <source>%n taken away</source>
@@ -4710,7 +4710,7 @@ Button: writes what is shown to all places within photos that hold a field.</ext
     </message>
     <message>
         <source>Multiple values — leave unchanged</source>
-        <translation>多个值 — 保持不变</translation>
+        <translation>多个值，保持不变</translation>
     </message>
     <message numerus="yes">
         <source>Will be written to %1 of %n photos</source>
@@ -4810,7 +4810,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>Add field to all</source>
-        <translation>为全部照片添加字段</translation>
+        <translation>为全部添加字段</translation>
     </message>
     <message>
         <source>Saving…</source>
@@ -4819,7 +4819,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>Apply to %1</source>
         <extracomment>Button: saves what was edited into photos. %1: how many these are.</extracomment>
-        <translation>应用到 %1 张照片</translation>
+        <translation>应用到 %1 张</translation>
     </message>
     <message>
         <source>No photo selected</source>
@@ -5231,7 +5231,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>Forget %1</source>
         <extracomment>%1: name of a contact or licensor.</extracomment>
-        <translation>清除记住的“%1”</translation>
+        <translation>清除“%1”</translation>
     </message>
     <message>
         <source>More</source>
@@ -5422,12 +5422,12 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>Copied today, %1</source>
         <extracomment>%1 is a time of day.</extracomment>
-        <translation>今天 %1 复制</translation>
+        <translation>复制于今天 %1</translation>
     </message>
     <message>
         <source>Copied yesterday, %1</source>
         <extracomment>%1 is a time of day.</extracomment>
-        <translation>昨天 %1 复制</translation>
+        <translation>复制于昨天 %1</translation>
     </message>
     <message>
         <source>d MMMM yyyy</source>
@@ -5438,7 +5438,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>Copied %1, %2</source>
         <extracomment>%1 is a day, %2 a time of day.</extracomment>
-        <translation>%1 %2 复制</translation>
+        <translation>复制于 %1 %2</translation>
     </message>
     <message>
         <source>Copied fields</source>
@@ -5659,7 +5659,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>Use each photo’s own</source>
         <comment>time zone</comment>
-        <translation>使用各张照片自己的时区</translation>
+        <translation>使用各照片自身的时区</translation>
     </message>
     <message>
         <source>How to shift</source>
@@ -5748,7 +5748,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message numerus="yes">
         <source>Set Zone of %n</source>
         <translation>
-            <numerusform>设置 %n 张照片的时区</numerusform>
+            <numerusform>设置 %n 张的时区</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -5919,7 +5919,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
         <source>%1 to look at</source>
         <extracomment>%1 is a number of names.</extracomment>
         <translation>
-            <numerusform>%1 个名称需要检查</numerusform>
+            <numerusform>%1 个需检查</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -5971,7 +5971,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Lose</source>
         <comment>photos lose a field</comment>
-        <translation>丢失</translation>
+        <translation>移除</translation>
     </message>
     <message>
         <source>What the sidecars hold is written into the photos themselves, also where it differs. The sidecars stay as they are.</source>
@@ -6006,7 +6006,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Write for %1 Photo(s)</source>
         <extracomment>A button; %1 is the number of photos whose sidecars are written.</extracomment>
         <translation>
-            <numerusform>写入 %1 张照片的附属文件</numerusform>
+            <numerusform>为 %1 张照片写入</numerusform>
         </translation>
     </message>
     <message>
@@ -6035,7 +6035,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>%n photo(s) (loses|lose) it</source>
         <comment>a field</comment>
         <translation>
-            <numerusform>%n 张照片丢失此字段</numerusform>
+            <numerusform>%n 张照片移除此字段</numerusform>
         </translation>
     </message>
     <message>
@@ -6082,7 +6082,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Look at them</source>
         <extracomment>Button behind a number of photos that were not looked at yet.</extracomment>
-        <translation>检查这些照片</translation>
+        <translation>立即检查</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -6225,11 +6225,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Name (A–Z)</source>
-        <translation>名称 (A–Z)</translation>
+        <translation>名称（A–Z）</translation>
     </message>
     <message>
         <source>Name (Z–A)</source>
-        <translation>名称 (Z–A)</translation>
+        <translation>名称（Z–A）</translation>
     </message>
     <message>
         <source>Date (newest first)</source>
@@ -6279,12 +6279,12 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Append</source>
         <extracomment>Puts the text behind what the field holds.</extracomment>
-        <translation>追加到后面</translation>
+        <translation>加到后面</translation>
     </message>
     <message>
         <source>Prepend</source>
         <extracomment>Puts the text before what the field holds.</extracomment>
-        <translation>添加到前面</translation>
+        <translation>加到前面</translation>
     </message>
     <message>
         <source>What happens to %1</source>
@@ -6341,7 +6341,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>A template fills fields of the selected photos, with texts that each photo completes. Make one with +, or drop a template&apos;s file into the list.</source>
-        <translation>模板用文本填写选中照片的字段，文本中的空位由每张照片补全。按 + 创建模板，或将模板文件拖到列表中。</translation>
+        <translation>模板用文本填写选中照片的字段，文本中的占位符由每张照片自身的信息补全。按 + 创建模板，或将模板文件拖到列表中。</translation>
     </message>
     <message>
         <source>No shortcut</source>
@@ -6487,7 +6487,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Nothing else in the photo before</source>
-        <translation>上一张照片没有其他内容可用</translation>
+        <translation>上一张照片中没有不同的内容</translation>
     </message>
     <message>
         <source>Dismiss</source>
@@ -6515,7 +6515,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Choose File ▸ Open with Subfolders… (⌘⇧O) to open a folder with all the folders in it.</source>
-        <translation>选择 文件 ▸ 打开并包含子文件夹…（⌘⇧O），打开文件夹及其中的所有文件夹。</translation>
+        <translation>选择 文件 ▸ 连同子文件夹打开…（⌘⇧O），打开文件夹及其中的所有文件夹。</translation>
     </message>
     <message>
         <source>Reopen something recent from File ▸ Open Recent.</source>
@@ -6539,7 +6539,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>With subfolders open, each folder has a heading. Click it, or press Return on it, to fold its photos away; ⌥-click folds all. Left goes from a photo to its heading and folds, Right unfolds.</source>
-        <translation>包含子文件夹打开时，每个文件夹都有一个标题栏。点击标题栏，或在其上按 Return，可折叠该文件夹的照片；⌥点击可折叠全部。← 从照片移到所属标题栏并折叠，→ 展开。</translation>
+        <translation>连同子文件夹打开时，每个文件夹都有一个标题行。点击标题行，或在其上按 Return，可折叠该文件夹的照片；⌥点击可折叠全部。← 从照片移到所属标题行并折叠，→ 展开。</translation>
     </message>
     <message>
         <source>Preview (center): a large preview column appears as you widen the window, so you always see the photo you&apos;re tagging.</source>
@@ -6547,7 +6547,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Inspector (right): the editable fields, grouped as Common, Location and read-only Camera details.</source>
-        <translation>检查器（右）：可编辑的字段，分为“常用”和“地点”，另有只读的相机信息。</translation>
+        <translation>检查器（右）：可编辑的字段，分为“常用”“地点”等组，另有只读的“相机”信息。</translation>
     </message>
     <message>
         <source>Quorbel remembers what it read: a folder that you open again is there at once, and only photos that changed are read. View ▸ Read Again (⇧F5) reads all of them anew.</source>
@@ -6675,7 +6675,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>F8 goes to the next empty field: down the form, then on to the next photo. ⇧F8 goes back. With a filter for empty fields, only those count.</source>
-        <translation>F8 转到下一个空字段：先沿表单向下，再到下一张照片。⇧F8 向回走。使用空字段筛选时，只计入所筛选的字段。</translation>
+        <translation>F8 转到下一个空字段：先沿表单向下，再到下一张照片。⇧F8 反向跳转。使用空字段筛选时，只计入所筛选的字段。</translation>
     </message>
     <message>
         <source>A photo that you edit stays listed until it is saved; then the next one takes its place.</source>
@@ -6691,7 +6691,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Quorbel reads and writes every property of the IPTC Photo Metadata Standard: alternative text, contacts, people, places, releases, licences, what a picture was made with. A photo shows those that it holds; Add Field finds all others, by their names, by what they are for, and by their tags.</source>
-        <translation>Quorbel 可读写 IPTC Photo Metadata Standard 的所有属性：替代文本、联系方式、人物、地点、授权书、许可、图片的制作手段等。照片只显示其中已有的字段；其余字段都可在“添加字段”中按名称、用途或标签找到。</translation>
+        <translation>Quorbel 可读写 IPTC Photo Metadata Standard 的所有属性：替代文本、联系方式、人物、地点、授权书、许可、图片的制作方式等。照片只显示其中已有的字段；其余字段都可在“添加字段”中按名称、用途或标签找到。</translation>
     </message>
     <message>
         <source>View ▸ Field Set chooses what is on screen at once: Captions, Press, Museum, Stock, Rights, Accessibility, or a set of your own. What a photo holds beside the set stays visible, and so does what you edited.</source>
@@ -6699,7 +6699,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>A set may want fields. Empty ones have a dashed border, the lines of the sections count them, and F8 goes from one to the next, on to the next photo at the end. ⇧F8 goes back.</source>
-        <translation>字段集可以指定必填字段。空的必填字段带有虚线边框，各分组的标题行会显示其数量，按 F8 可逐个转到，到末尾后转到下一张照片。⇧F8 向回走。</translation>
+        <translation>字段集可以指定必填字段。空的必填字段带有虚线边框，各分组的标题行会显示其数量，按 F8 可逐个转到，到末尾后转到下一张照片。⇧F8 反向跳转。</translation>
     </message>
     <message>
         <source>Save What Is on Screen as Set… makes a set of your own; Edit Sets… changes what is in it and what it wants. Sets that come with Quorbel can be copied there.</source>
@@ -6731,7 +6731,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>The table shows the first photo, the last one, and what becomes another day. Photos without a date are named and left alone. Undo Shift Time takes it back.</source>
-        <translation>表格显示第一张和最后一张照片，以及日期会改变的照片。没有日期的照片会列出，但不作更改。“撤销平移时间”可还原。</translation>
+        <translation>表格显示第一张和最后一张照片，以及日期会改变的照片。没有日期的照片会列出，但不作更改。“撤销时间平移”可还原。</translation>
     </message>
     <message>
         <source>Batch Editing</source>
@@ -6739,7 +6739,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Select multiple photos to edit them together. Use ⌘A to select all, or ⇧/⌘-click to build a selection.</source>
-        <translation>选择多张照片即可一并编辑。⌘A 全选，⇧点击或⌘点击可逐步添加选择。</translation>
+        <translation>选择多张照片即可一并编辑。⌘A 全选，⇧点击或 ⌘点击可逐步添加选择。</translation>
     </message>
     <message>
         <source>Choose which fields to apply, set their values, and Quorbel writes them to every selected photo in one pass.</source>
@@ -6783,7 +6783,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>A template fills fields of the selected photos with texts that each photo completes: “Race %Counter% off %Place|Zürich%”. Make one in Edit ▸ Templates, or from a photo with Save as Template…</source>
-        <translation>模板用文本填写选中照片的字段，文本中的空位由每张照片补全，例如“Race %Counter% off %Place|Zürich%”。要创建模板，请打开 编辑 ▸ 模板，或从照片选择 存为模板…</translation>
+        <translation>模板用文本填写选中照片的字段，文本中的占位符由每张照片自身的信息补全，例如“%Place|Zürich% 帆船赛第 %Counter% 场”。要创建模板，请打开 编辑 ▸ 模板，或在照片上选择 存为模板…</translation>
     </message>
     <message>
         <source>⌘1 to ⌘9 apply the templates that have these keys. What they fill in are edits, written when you save.</source>
@@ -6807,7 +6807,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Quorbel can rename files from a pattern built out of their own metadata. Open the rename dialog, add token chips and free text, and preview the result before applying.</source>
-        <translation>Quorbel 可按照由照片元数据组成的格式重命名文件。打开重命名对话框，添加占位符和任意文本，预览结果后再应用。</translation>
+        <translation>Quorbel 可按照由照片元数据组成的格式重命名文件。打开重命名对话框，添加占位符和任意文字，预览结果后再应用。</translation>
     </message>
     <message>
         <source>Available tokens:</source>
@@ -6816,27 +6816,27 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>%Date% — date taken</source>
         <extracomment>Tokens, the words between two % signs, stay as they are in every language.</extracomment>
-        <translation>%Date% — 拍摄日期</translation>
+        <translation>%Date%：拍摄日期</translation>
     </message>
     <message>
         <source>%Time% — time taken</source>
-        <translation>%Time% — 拍摄时间</translation>
+        <translation>%Time%：拍摄时间</translation>
     </message>
     <message>
         <source>%Title% — title</source>
-        <translation>%Title% — 标题</translation>
+        <translation>%Title%：标题</translation>
     </message>
     <message>
         <source>%Creator% — creator</source>
-        <translation>%Creator% — 作者</translation>
+        <translation>%Creator%：作者</translation>
     </message>
     <message>
         <source>%Place% — place</source>
-        <translation>%Place% — 地点</translation>
+        <translation>%Place%：地点</translation>
     </message>
     <message>
         <source>%Original% — the original filename</source>
-        <translation>%Original% — 原文件名</translation>
+        <translation>%Original%：原文件名</translation>
     </message>
     <message>
         <source>Example: %Date%_%Title% might produce 2026-07-14_Sunset.jpg. Names are kept filesystem-safe and unique automatically.</source>
@@ -6900,7 +6900,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Open Settings from the Quorbel menu (⌘,) to adjust:</source>
-        <translation>从 Quorbel 菜单打开设置（⌘,），可调整：</translation>
+        <translation>选择 文件 ▸ 设置…（⌘,），可调整：</translation>
     </message>
     <message>
         <source>Back up originals before saving.</source>
@@ -6941,7 +6941,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Open with subfolders</source>
         <extracomment>A switch: a folder that is opened is opened with all folders in it.</extracomment>
-        <translation>打开时包含子文件夹</translation>
+        <translation>连同子文件夹打开</translation>
     </message>
     <message>
         <source>Thumbnail only</source>
@@ -7006,7 +7006,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Stuck at %1</source>
         <extracomment>%1 is the name of a file that takes suspiciously long to be read.</extracomment>
-        <translation>停滞在 %1</translation>
+        <translation>卡在 %1</translation>
     </message>
     <message>
         <source>Looking for photos…</source>
@@ -7120,7 +7120,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Write beside it</source>
-        <translation>写入文件旁的附属文件</translation>
+        <translation>写入文件旁</translation>
     </message>
     <message>
         <source>Name of new sidecars</source>

@@ -21,6 +21,7 @@
 #include "ui/window/WindowBar.h"
 
 #include <QDir>
+#include <QRegularExpression>
 
 namespace Quorbel {
 
@@ -48,6 +49,10 @@ QString shownPath(const QUrl& url)
 // The text, chosen by the same letter as the command that it says more of; where it has no such letter, by none.
 QString withKeyOf(const QString& command, const QString& text)
 {
+    // Scripts without Latin letters have it behind the text: "保存(&S)".
+    static const QRegularExpression behind(u"\\(&.\\)"_s);
+    if (const auto key = behind.match(command); key.hasMatch())
+        return text + key.captured();
     const qsizetype mark = command.indexOf(u'&');
     const qsizetype at = mark < 0 ? -1 : text.indexOf(command.at(mark + 1), 0, Qt::CaseInsensitive);
     return at < 0 ? text : text.left(at) + u'&' + text.mid(at);

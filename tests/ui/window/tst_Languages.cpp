@@ -55,7 +55,7 @@ bool mayBeShort(const QString& screen, const QString& text)
 QStringList shortened(const QString& screen, const LayoutAudit& scene, const NotingTranslator& texts)
 {
     // Of no language.
-    static const QSet<QString> ends{ u"A "_s, u" "_s, u"tps://"_s };
+    static const QSet<QString> ends{ u"A "_s, u" "_s, u"tps://"_s, u"://"_s };
     QStringList found;
     for (const QString& text : scene.texts)
         // One that begins a text stands where the direction of writing changes.
