@@ -1,6 +1,7 @@
 #include "ui/controls/Accessibility.h"
 
 #include "ui/controls/Buttons.h"
+#include "ui/controls/Labels.h"
 #include "ui/controls/RatingEditor.h"
 #include "ui/controls/ReadingOrder.h"
 #include "ui/controls/ResizeHandle.h"
@@ -385,6 +386,37 @@ QAccessibleInterface* describeButton(QAbstractButton* button)
     return new ButtonDescription(button, QAccessible::Button);
 }
 
+// The tooltip of one that is shortened holds its text, which is its name already.
+class LabelDescription final : public QAccessibleWidget {
+public:
+    explicit LabelDescription(ThemedLabel* label)
+        : QAccessibleWidget(label, QAccessible::StaticText)
+        , m_label(label)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Name)
+            return m_label->accessibleName().isEmpty() ? m_label->text() : m_label->accessibleName();
+        const QString told = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Description && told == text(QAccessible::Name) ? QString() : told;
+    }
+
+    QList<std::pair<QAccessibleInterface*, QAccessible::Relation>> relations(
+        QAccessible::Relation match = QAccessible::AllRelations) const override
+    {
+        auto found = QAccessibleWidget::relations(match);
+        QAccessibleInterface* labelled = QAccessible::queryAccessibleInterface(m_label->buddy());
+        if ((match & QAccessible::Labelled) && labelled)
+            found.append({ labelled, QAccessible::Labelled });
+        return found;
+    }
+
+private:
+    ThemedLabel* m_label;
+};
+
 QHash<const QMetaObject*, QAccessible::Role>& rolesOfClasses()
 {
     static QHash<const QMetaObject*, QAccessible::Role> roles;
@@ -423,6 +455,8 @@ QAccessibleInterface* describe(const QString& className, QObject* object)
             return new InReadingOrder(widget, *role);
         return new RoleDescription(widget, *role);
     }
+    if (auto* label = qobject_cast<ThemedLabel*>(object))
+        return new LabelDescription(label);
     return nullptr;
 }
 

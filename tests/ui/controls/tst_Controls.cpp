@@ -286,6 +286,9 @@ private slots:
         row("icon", new QBIconButton(u"plus"_s, u"Add"_s), QAccessible::Button, u"Add"_s, u"Press"_s);
         row("check box", new QBCheckbox(u"Tick"_s, nullptr), QAccessible::CheckBox, u"Tick"_s, u"Toggle"_s);
         row("section", new SectionHeader(u"COMMON"_s), QAccessible::Heading, u"COMMON"_s, {});
+        auto* narrow = new ThemedLabel(u"Too long to be seen"_s, TextRole::text);
+        narrow->setToolTip(narrow->text());
+        row("shortened label", narrow, QAccessible::StaticText, u"Too long to be seen"_s, {});
         row("divider", new LabeledDivider(u"ADVANCED"_s), QAccessible::Heading, u"ADVANCED"_s, {});
         row("handle", new ResizeHandle(288, 200, 420, 288), QAccessible::Splitter, u"Column width"_s, {});
     }
@@ -298,6 +301,7 @@ private slots:
         QVERIFY(described);
         QTEST(described->role(), "role");
         QTEST(described->text(QAccessible::Name), "name");
+        QVERIFY(described->text(QAccessible::Description) != described->text(QAccessible::Name));
         if (action.isEmpty())
             return;
         QSignalSpy clicked(qobject_cast<QAbstractButton*>(widget), &QAbstractButton::clicked);

@@ -1,6 +1,7 @@
 #include "ui/sheets/sidecars/MoveTable.h"
 
 #include "core/language/Texts.h"
+#include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
@@ -100,6 +101,7 @@ MoveTable::MoveTable(const QStringList& columns, QWidget* parent)
 {
     setFramed(true);
     setFocusPolicy(Qt::StrongFocus);
+    describeAs(staticMetaObject, QAccessible::Grouping);
     setAccessibleName(Texts::tr("What is written"));
     installFocusRing(this, { RingShape::tight, 7, {}, {} });
     auto* content = new QWidget;
