@@ -8047,5 +8047,39 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Also write sidecar .xmp</source>
         <translation>كتابة ملف ⁨.xmp⁩ مرافق أيضًا</translation>
     </message>
+    <message>
+        <source>Left as they are, because they could not be read: %1</source>
+        <translation>تُركت كما هي لتعذّر قراءتها: %1</translation>
+    </message>
+    <message>
+        <source>keeps changing</source>
+        <translation>يتغيّر باستمرار</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>لا يوجد ملف كهذا</translation>
+    </message>
+    <message>
+        <source>ExifTool told nothing of it</source>
+        <translation>لم يذكر ExifTool شيئًا عنها</translation>
+    </message>
+    <message>
+        <source>Could not be read (%1)</source>
+        <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
+        <translation>تعذّرت القراءة (%1)</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>إعادة المحاولة</translation>
+    </message>
+    <message>
+        <source>Some fields could not be read (%1)</source>
+        <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
+        <translation>تعذّرت قراءة بعض الحقول (%1)</translation>
+    </message>
+    <message>
+        <source>Some fields could not be read</source>
+        <translation>تعذّرت قراءة بعض الحقول</translation>
+    </message>
 </context>
 </TS>

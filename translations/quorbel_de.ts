@@ -7487,5 +7487,39 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Also write sidecar .xmp</source>
         <translation>Zusätzlich Sidecar .xmp schreiben</translation>
     </message>
+    <message>
+        <source>Left as they are, because they could not be read: %1</source>
+        <translation>Unverändert gelassen, weil sie nicht gelesen werden konnten: %1</translation>
+    </message>
+    <message>
+        <source>keeps changing</source>
+        <translation>ändert sich ständig</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>die Datei ist nicht da</translation>
+    </message>
+    <message>
+        <source>ExifTool told nothing of it</source>
+        <translation>ExifTool sagte nichts dazu</translation>
+    </message>
+    <message>
+        <source>Could not be read (%1)</source>
+        <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
+        <translation>Konnte nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Some fields could not be read (%1)</source>
+        <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
+        <translation>Einige Felder konnten nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>Some fields could not be read</source>
+        <translation>Einige Felder konnten nicht gelesen werden</translation>
+    </message>
 </context>
 </TS>

@@ -7487,5 +7487,39 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Also write sidecar .xmp</source>
         <translation>Escribir también un sidecar .xmp</translation>
     </message>
+    <message>
+        <source>Left as they are, because they could not be read: %1</source>
+        <translation>Se han dejado como estaban, porque no se pudieron leer: %1</translation>
+    </message>
+    <message>
+        <source>keeps changing</source>
+        <translation>cambia sin cesar</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>el archivo no existe</translation>
+    </message>
+    <message>
+        <source>ExifTool told nothing of it</source>
+        <translation>ExifTool no dijo nada de ella</translation>
+    </message>
+    <message>
+        <source>Could not be read (%1)</source>
+        <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
+        <translation>No se pudo leer (%1)</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Volver a intentarlo</translation>
+    </message>
+    <message>
+        <source>Some fields could not be read (%1)</source>
+        <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
+        <translation>Algunos campos no se pudieron leer (%1)</translation>
+    </message>
+    <message>
+        <source>Some fields could not be read</source>
+        <translation>Algunos campos no se pudieron leer</translation>
+    </message>
 </context>
 </TS>

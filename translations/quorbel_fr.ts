@@ -7487,5 +7487,39 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Also write sidecar .xmp</source>
         <translation>Écrire aussi un fichier annexe .xmp</translation>
     </message>
+    <message>
+        <source>Left as they are, because they could not be read: %1</source>
+        <translation>Laissés tels quels, car ils n’ont pas pu être lus : %1</translation>
+    </message>
+    <message>
+        <source>keeps changing</source>
+        <translation>change sans cesse</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>fichier absent</translation>
+    </message>
+    <message>
+        <source>ExifTool told nothing of it</source>
+        <translation>ExifTool n’en a rien dit</translation>
+    </message>
+    <message>
+        <source>Could not be read (%1)</source>
+        <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
+        <translation>Lecture impossible (%1)</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Some fields could not be read (%1)</source>
+        <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
+        <translation>Certains champs n’ont pas pu être lus (%1)</translation>
+    </message>
+    <message>
+        <source>Some fields could not be read</source>
+        <translation>Certains champs n’ont pas pu être lus</translation>
+    </message>
 </context>
 </TS>

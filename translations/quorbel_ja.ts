@@ -7347,5 +7347,39 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Also write sidecar .xmp</source>
         <translation>サイドカーの .xmp ファイルも書き込む</translation>
     </message>
+    <message>
+        <source>Left as they are, because they could not be read: %1</source>
+        <translation>読み取れなかったため、そのままにしました: %1</translation>
+    </message>
+    <message>
+        <source>keeps changing</source>
+        <translation>変わり続けています</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>ファイルがありません</translation>
+    </message>
+    <message>
+        <source>ExifTool told nothing of it</source>
+        <translation>ExifTool が何も返しませんでした</translation>
+    </message>
+    <message>
+        <source>Could not be read (%1)</source>
+        <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
+        <translation>読み取れませんでした (%1)</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Some fields could not be read (%1)</source>
+        <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
+        <translation>一部の項目を読み取れませんでした (%1)</translation>
+    </message>
+    <message>
+        <source>Some fields could not be read</source>
+        <translation>一部の項目を読み取れませんでした</translation>
+    </message>
 </context>
 </TS>

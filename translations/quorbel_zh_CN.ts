@@ -7347,5 +7347,39 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Also write sidecar .xmp</source>
         <translation>同时写入附属 .xmp 文件</translation>
     </message>
+    <message>
+        <source>Left as they are, because they could not be read: %1</source>
+        <translation>因无法读取而保持原样：%1</translation>
+    </message>
+    <message>
+        <source>keeps changing</source>
+        <translation>一直在变化</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>没有这个文件</translation>
+    </message>
+    <message>
+        <source>ExifTool told nothing of it</source>
+        <translation>ExifTool 未返回任何内容</translation>
+    </message>
+    <message>
+        <source>Could not be read (%1)</source>
+        <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
+        <translation>无法读取（%1）</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Some fields could not be read (%1)</source>
+        <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
+        <translation>部分字段无法读取（%1）</translation>
+    </message>
+    <message>
+        <source>Some fields could not be read</source>
+        <translation>部分字段无法读取</translation>
+    </message>
 </context>
 </TS>

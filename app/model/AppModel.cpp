@@ -8,6 +8,7 @@
 #include "app/model/timeshift/TimeShifting.h"
 #include "core/language/Texts.h"
 #include "core/schema/RecentItems.h"
+#include "core/text/Text.h"
 
 #include <QFileInfo>
 #include <QPointer>
@@ -51,7 +52,8 @@ AppModel::AppModel(AppModelServices services, QObject* parent)
     , m_selected(m_announcer, m_library.photos())
     , m_selectedDetails(m_library.photos(), m_selected,
           { [this](const QUrl& photo) { return details(photo); },
-              [this] { return m_library.details().store().known(); } })
+              [this] { return m_library.details().store().known(); },
+              [this](const QUrl& photo) { return m_library.details().failure(photo).has_value(); } })
     , m_selectedKeywords(m_announcer, m_library.photos(), m_selected)
     , m_left(m_announcer, m_services.leftEditsPath, m_services.keepInterval)
     , m_editing(m_announcer, m_library.photos(), m_selected, m_selectedDetails, m_left)
@@ -462,7 +464,9 @@ QMap<QString, QStringList> AppModel::nonEmptyBatchLists() const
 void AppModel::layEdits(const Edits& edits)
 {
     requireMainThread("layEdits");
-    m_editing.lay(edits);
+    const Announcer::Together together(m_announcer);
+    if (const QStringList left = m_editing.lay(edits); !left.isEmpty())
+        setErrorMessage(Texts::tr("Left as they are, because they could not be read: %1").arg(Text::listed(left)));
 }
 
 void AppModel::addCustomField(const QString& name, const QString& value)

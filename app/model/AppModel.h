@@ -21,6 +21,7 @@
 namespace Quorbel {
 
 struct AppModelTools;
+struct DetailsFailure;
 class CodeReplacements;
 class FieldPasting;
 class FieldSets;
@@ -251,6 +252,10 @@ public:
     // --- What photos hold beside their records ---
     /// Null before it was looked at. Valid until the details change.
     const PhotoDetails* details(const QUrl& photo) const;
+    /// Why that of the one selected photo could not be read; nothing while it is known, or may be. Until then it can
+    /// neither be edited nor be replaced.
+    std::optional<DetailsFailure> detailsFailure() const;
+    void readDetailsAgain();
     /// Codes of the languages in which this field of the selected photos is on screen beside its own text, ascending:
     /// those that some of them hold, and those that were added since the selection. Their texts are fields of their
     /// own, under FieldLanguages::key(), in drafts, batches and shared values.

@@ -25,6 +25,18 @@ const PhotoDetails* AppModel::details(const QUrl& photo) const
     return library().details().store().find(photo);
 }
 
+std::optional<DetailsFailure> AppModel::detailsFailure() const
+{
+    const ImageRecord* record = isBatch() ? nullptr : primaryRecord();
+    return record && !record->isUnread && !knowsDetails() ? library().details().failure(record->url) : std::nullopt;
+}
+
+void AppModel::readDetailsAgain()
+{
+    if (const std::optional<QUrl> photo = primary())
+        checked(m_library).details().tryAgain(*photo);
+}
+
 // What somebody has just typed is what is typed next.
 QStringList AppModel::pathCompletions(const QString& prefix, int limit) const
 {

@@ -10,12 +10,10 @@
 #include "ui/controls/text/CountLine.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"
-#include "ui/controls/theme/Painting.h"
-#include "ui/controls/theme/Theme.h"
+#include "ui/inspector/FieldBlock.h"
 #include "ui/inspector/RowExtras.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -37,7 +35,6 @@ constexpr qreal stackedBelow = 370;  // narrower rows have their label over the 
 constexpr qreal stackedLabel = 20;
 constexpr qreal areaHeight = 54;
 constexpr qreal ratingWidth = 130;
-constexpr qreal blockRadius = 7;
 
 // What the field is for, as a sentence.
 QString purposeOf(const FieldSpec& field)
@@ -45,19 +42,6 @@ QString purposeOf(const FieldSpec& field)
     //: A note as a sentence: %1 is its text, and what follows ends it.
     return Texts::tr("%1.").arg(Texts::shown(field.addNote));
 }
-
-// Keeps the place of a field whose value is not known yet. No border and no motion.
-class FieldBlock final : public QWidget {
-public:
-    using QWidget::QWidget;
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        DirectedPainter painter(this);
-        paintBox(painter, rect(), pxF(blockRadius), Theme::of(this).derived.hover, Qt::NoPen);
-    }
-};
 
 }  // namespace
 
@@ -216,8 +200,10 @@ void FieldRow::showBlock()
     // Never both at once, which would be higher than either.
     if (m_state.unread)
         m_editor.widget->hide();
-    if (m_block)
+    if (m_block) {
+        m_block->setText(m_state.unreadText);
         m_block->setVisible(m_state.unread);
+    }
     if (!m_state.unread)
         m_editor.widget->show();
     // Of texts that differ there is nothing to count.

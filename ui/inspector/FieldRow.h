@@ -15,6 +15,7 @@ class QVBoxLayout;
 namespace Quorbel {
 
 class CountLine;
+class FieldBlock;
 class QBCheckbox;
 class QBIconButton;
 class RowExtras;
@@ -97,7 +98,7 @@ private:
     QHBoxLayout* m_head = nullptr;  ///< over the editor of a wide row: tick, label, button
     QVBoxLayout* m_under = nullptr;  ///< of a wide row: what the lines under the editor stand in
     CountLine* m_count = nullptr;  ///< of a text that is not to become long
-    QWidget* m_block = nullptr;  ///< until the row was unread
+    FieldBlock* m_block = nullptr;  ///< until the row was unread
     QBCheckbox* m_tick = nullptr;  ///< until the row was in a batch
     QBIconButton* m_remove = nullptr;  ///< until the row was removable
     std::array<WrappedLine*, 4> m_lines{};  ///< under the editor, in the order of Line; each until it was needed

@@ -56,6 +56,7 @@ struct FieldRowState {
     bool wanted = false;  ///< is empty, and should not be
     QString noteLine{};  ///< what is wrong with the text; none when empty
     bool unread = false;  ///< not known yet: a block in the place of the editor, which takes nothing
+    QString unreadText{};  ///< in that block: why it will not be known; none when empty
     bool fixed = false;  ///< shown only: an editor of one value takes no typing, and there is no tick
     QString namespaceLine{};  ///< none when empty
     QString helpLine{};  ///< none when empty

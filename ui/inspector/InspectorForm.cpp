@@ -176,7 +176,7 @@ void InspectorForm::showBlocks()
             if (field.section != section)
                 continue;
             rows.append(m_rows->of(field));
-            rows.last()->setState(InspectorStates::unreadRow(field), true);
+            rows.last()->setState(InspectorStates::unreadRow(m_model, field), true);
         }
         m_sections.at(i)->setRows(rows);
         m_sections.at(i)->setVisible(!rows.isEmpty());
@@ -337,7 +337,7 @@ void InspectorForm::addAwaitedRows(const FieldSpec& field, QList<FieldRow*>& row
     FieldRow* row = m_rows->of(field);
     rows.append(row);
     if (!m_wait->isHolding() || row->isHidden())
-        return row->setState(InspectorStates::unreadRow(field), true);
+        return row->setState(InspectorStates::unreadRow(m_model, field), true);
     for (const RowLanguages::Code& code : row->state().languages.codes)
         if (FieldRow* language = this->row(FieldLanguages::key(field.id, code.text)))
             rows.append(language);

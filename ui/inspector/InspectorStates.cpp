@@ -186,7 +186,7 @@ bool isEdited(const AppModel& model, const QString& key)
 
 void addLanguages(const AppModel& model, const FieldSpec& field, FieldRowState& state)
 {
-    state.languages.isPossible = !field.languageTag().isEmpty();
+    state.languages.isPossible = !field.languageTag().isEmpty() && !model.detailsFailure();
     if (!state.languages.isPossible)
         return;
     const QStringList codes = languageCodes(model, field.id);
@@ -243,9 +243,18 @@ QString readingText(const AppModel& model)
         .arg(unread);
 }
 
-FieldRowState unreadRow(const FieldSpec& field)
+FieldRowState unreadRow(const AppModel& model, const FieldSpec& field)
 {
-    return { .label = Texts::shown(field.label), .unread = true };
+    return { .label = Texts::shown(field.label),
+        .unread = true,
+        .unreadText = PhotoDetails::hold(field.id) ? unreadText(model) : QString() };
+}
+
+QString unreadText(const AppModel& model)
+{
+    const std::optional<DetailsFailure> failure = model.detailsFailure();
+    //: %1 is the reason: "took too long"
+    return failure && !failure->isTriedAgain ? Texts::tr("Could not be read (%1)").arg(failure->reason) : QString();
 }
 
 QString heldText(const AppModel& model, const SelectedHolders& selected, const QString& id)

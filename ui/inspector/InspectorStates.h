@@ -35,7 +35,10 @@ QList<KeywordSuggestion> keywordSuggestions(const AppModel& model, const QString
 QString disagreementsText(const AppModel& model);
 FieldRowState customRow(const AppModel& model, const CustomValue& custom);
 
-FieldRowState unreadRow(const FieldSpec& field);
+/// Of a field that is not known yet, or that cannot be: then it says so.
+FieldRowState unreadRow(const AppModel& model, const FieldSpec& field);
+/// Why the fields beside the record will not be known: "Could not be read (took too long)"; "" while they may be.
+QString unreadText(const AppModel& model);
 /// "in 12 of 40", in whatever way several photos hold a field of IptcSchema; "" where none is known to, and where all
 /// hold the same text, which is to be seen then.
 QString heldText(const AppModel& model, const SelectedHolders& holders, const QString& id);

@@ -164,7 +164,7 @@ int Editing::unsavedNow() const
 
 void Editing::setSingle(const QString& id, const QString& value)
 {
-    if (isUnread())
+    if (isUnread() || isOutOfReach(id))
         return;
     if (FieldLanguages::languageIn(id))
         m_languages.insert(id);
@@ -174,7 +174,7 @@ void Editing::setSingle(const QString& id, const QString& value)
 
 void Editing::addSingleListItem(const QString& id, const QString& item)
 {
-    if (isUnread())
+    if (isUnread() || isOutOfReach(id))
         return;
     addItem(id, item);
     changed();
@@ -182,7 +182,7 @@ void Editing::addSingleListItem(const QString& id, const QString& item)
 
 void Editing::removeSingleListItem(const QString& id, const QString& item)
 {
-    if (isUnread())
+    if (isUnread() || isOutOfReach(id))
         return;
     m_draft.removeItem(id, item);
     changed();

@@ -65,8 +65,8 @@ public:
     void addKnownField(const QString& id);
     void removeAddedField(const QString& id);
     void assignPlace(const LocationFill::Result& result, bool withPosition);
-    /// See AppModel::layEdits.
-    void lay(const Edits& edits);
+    /// See AppModel::layEdits. Names of the fields that are left as they are (isOutOfReach()).
+    QStringList lay(const Edits& edits);
 
     /// Of the fields that hold nothing only these are on screen, and those that were added or are edited; nothing:
     /// those that are always shown.
@@ -83,6 +83,8 @@ public:
     bool isFieldEmpty(const QString& id) const;
     /// Whether anybody has looked at what the one selected photo holds beside its record.
     bool knowsDetails() const { return !m_known.now.url.isEmpty(); }
+    /// Whether nobody can know what the one selected photo holds under this key: it takes no edits.
+    bool isOutOfReach(const QString& key) const;
     QStringList languages(const QString& id) const;
     QStringList pathsOf(const QString& keyword) const;
     const QStringList& typedPaths() const { return (isBatch() ? m_batch.edits : m_draft.edits).paths; }
@@ -156,6 +158,7 @@ private:
     bool noteOwn();
     QMap<QString, OwnSummary> summaryOf(const QHash<QUrl, OwnEdits>& own) const;
     int unsavedNow() const;
+    Edits withoutOutOfReach(Edits edits, QStringList& left) const;
     Edits withoutUnread(Edits edits) const;
     Edits withoutWholeLists(Edits edits) const;
     Edits withCommonTexts(Edits edits) const;

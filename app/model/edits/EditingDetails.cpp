@@ -47,6 +47,12 @@ void Editing::takeDetails()
     changed();
 }
 
+bool Editing::isOutOfReach(const QString& key) const
+{
+    const ImageRecord* record = isBatch() || knowsDetails() ? nullptr : m_selected.primaryRecord();
+    return record && PhotoDetails::hold(key) && m_details.isUnreadable(record->url);
+}
+
 // What was written is what the photo holds, before anybody looked.
 void Editing::noteSaved(const Edits& written, const QSet<QString>& differing)
 {
@@ -128,7 +134,7 @@ QString Editing::languageKey(const QString& id, const QString& code) const
 void Editing::addLanguage(const QString& id, const QString& code)
 {
     const QString key = languageKey(id, code);
-    if (isUnread() || !FieldLanguages::languageIn(key) || m_languages.contains(key))
+    if (isUnread() || !FieldLanguages::languageIn(key) || m_languages.contains(key) || isOutOfReach(key))
         return;
     const QMap<QString, QString>& texts = (isBatch() ? m_batch.edits : m_draft.edits).scalars;
     if (texts.contains(key) && texts.value(key).isEmpty())

@@ -1,25 +1,45 @@
 // Edits that somebody made elsewhere: pasted, of a template, of the photo before.
 #include "app/model/edits/Editing.h"
 
+#include "core/language/Texts.h"
 #include "core/schema/CustomFields.h"
+#include "core/schema/FieldLanguages.h"
 
 namespace Quorbel {
 
-void Editing::lay(const Edits& edits)
+QStringList Editing::lay(const Edits& edits)
 {
     if (isUnread() || m_selected.selection().photos.isEmpty())
-        return;
+        return {};
+    QStringList left;
     const Announcer::Together together(m_announcer);
     if (isBatch()) {
         const Edits laid = withoutWholeLists(withoutUnread(edits.onlyOf(m_selected.selection().photos)));
         showFieldsOf(laid);
         m_batch.take(withCommonTexts(m_batch.edits.merged(laid, m_selected.urls())));
     } else if (const ImageRecord* record = m_selected.primaryRecord()) {
-        const Edits laid = edits.of(record->url);
+        const Edits laid = withoutOutOfReach(edits.of(record->url), left);
         showFieldsOf(laid);
         m_draft.lay(laid, m_known.said ? &m_known.now : m_details.of(record->url));
     }
     changed();
+    return left;
+}
+
+// `left` gains their names.
+Edits Editing::withoutOutOfReach(Edits edits, QStringList& left) const
+{
+    for (const QString& key : edits.keys()) {
+        if (!isOutOfReach(key))
+            continue;
+        edits.scalars.remove(key);
+        for (auto* lists : { &edits.lists, &edits.added, &edits.removed })
+            lists->remove(key);
+        const QString language = FieldLanguages::label(key);
+        left.append(language.isEmpty() ? Texts::shown(FieldSchema::spec(key)->label) : language);
+    }
+    left.sort();
+    return edits;
 }
 
 // What the photos' own edits were made of is not known of a photo that was not read.

@@ -131,6 +131,8 @@ std::optional<QString> Editing::storedCustomName(const QString& typed) const
 bool Editing::isFieldEmpty(const QString& id) const
 {
     const auto isBlank = [](const QString& text) { return Text::trimmed(text).isEmpty(); };
+    if (!isBatch() && PhotoDetails::hold(id) && !knowsDetails() && !m_draft.edits.edited(id))
+        return false;
     if (!isBatch())
         return isBlank(m_draft.shown.values.value(id));
     if (const auto typed = m_batch.edits.scalars.constFind(id); typed != m_batch.edits.scalars.cend())

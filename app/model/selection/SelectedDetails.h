@@ -15,12 +15,14 @@ public:
     struct Source {
         std::function<const PhotoDetails*(const QUrl&)> of{};
         std::function<qsizetype()> known{};  ///< of how many photos anything is known, selected or not
+        std::function<bool(const QUrl&)> isUnreadable{};  ///< whether it could not be looked at
     };
 
     SelectedDetails(const PhotoList& list, const SelectedPhotos& selected, Source source);
     Q_DISABLE_COPY_MOVE(SelectedDetails)
 
     const PhotoDetails* of(const QUrl& photo) const { return m_source.of(photo); }
+    bool isUnreadable(const QUrl& photo) const { return m_source.isUnreadable(photo); }
     /// Of some photos something else is known.
     void forget() { m_summary.reset(); }
 

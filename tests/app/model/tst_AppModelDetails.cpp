@@ -387,6 +387,11 @@ void tst_AppModelDetails::photosThatFail()
     QCOMPARE(f.reading->census(), (DetailsReading::Census{ 25, 3, false, true }));
     for (const int photo : { 77, 78, 79 })
         QVERIFY(!f.details(f.names.at(photo)));
+    const auto reason = [&f](int photo) { return f.reading->failure(f.url(f.names.at(photo)))->reason; };
+    QCOMPARE(reason(77), LaunchError(u"killed"_s).description());
+    QCOMPARE(reason(78), u"ExifTool told nothing of it"_s);
+    QCOMPARE(reason(79), u"keeps changing"_s);
+    QVERIFY(!f.reading->failure(f.url(f.names.at(80))));
     // Not again, until it changes.
     f.asked->runs();
     f.asked->of = [](const ImageRecord& photo, const ReadControl&) { return Asked::detailsOf(photo); };
@@ -397,6 +402,17 @@ void tst_AppModelDetails::photosThatFail()
     f.reading->outdate(f.urls(77, 1));
     QTRY_VERIFY_WITH_TIMEOUT(f.details(f.names.at(77)), patience);
     QCOMPARE(f.reading->census().unknown, 2);
+    QVERIFY(!f.reading->failure(f.url(f.names.at(77))));
+    // Or somebody asks for it: once.
+    f.asked->runs();
+    f.asked->of = [](const ImageRecord&, const ReadControl&) { return std::optional<PhotoDetails>(); };
+    const QString name = f.names.at(78);
+    f.select(name);
+    f.reading->tryAgain(f.url(name));
+    QVERIFY(f.reading->failure(f.url(name))->isTriedAgain);
+    QTRY_VERIFY_WITH_TIMEOUT(!f.reading->failure(f.url(name))->isTriedAgain, patience);
+    QTest::qWait(50);
+    QCOMPARE(f.asked->runs(), QList<QStringList>({ QStringList{ name } }));
 }
 
 void tst_AppModelDetails::toolThatAlwaysFails()
@@ -414,8 +430,12 @@ void tst_AppModelDetails::toolThatAlwaysFails()
     f.select(f.names.at(250));
     QTest::qWait(50);
     QCOMPARE(f.asked->count(), 0);
+    QVERIFY(f.reading->failure(f.url(f.names.at(250))));
     QVERIFY(!f.tasks.isWorking());
     f.asked->of = [](const ImageRecord& photo, const ReadControl&) { return Asked::detailsOf(photo); };
+    f.reading->tryAgain(f.url(f.names.at(250)));
+    QTRY_VERIFY_WITH_TIMEOUT(f.details(f.names.at(250)), patience);
+    QVERIFY(!f.reading->failure(f.url(f.names.at(250))));
     f.reading->resume();
     QVERIFY(f.rest());
     QVERIFY(f.reading->census().unknown < 40);
@@ -708,7 +728,7 @@ void tst_AppModelDetails::throughTheTool()
 {
     QByteArray script = R"perl(#!/usr/bin/perl
 if (grep { $_ eq '-a' } @ARGV) {
-    kill 9, $$ if grep { m{/c\.jpg$} } @ARGV;
+    kill 9, $$ if !-e 'MENDED' && grep { m{/c\.jpg$} } @ARGV;
     my ($photo) = grep { m{/d\.jpg$} } @ARGV;
     if ($photo) { open my $open, '<', $photo; sleep 600 }
 }
@@ -716,6 +736,7 @@ exec TOOL, @ARGV;
 )perl";
     script.replace("TOOL", toolForPerl());
     const PhotoFolder beside;
+    script.replace("MENDED", beside.path(u"mended"_s).toUtf8());
     ModelFixture f(MetadataService{ { beside.add(u"exiftool"_s, script), realTool().perlURL } });
     f.services.recordCachePath = beside.path(u"records"_s);
     f.services.stallInterval = 2s;
@@ -735,6 +756,32 @@ exec TOOL, @ARGV;
     QCOMPARE(f->stalledFile(), std::nullopt);
     QCOMPARE(f->errorMessage(), std::nullopt);
     QCOMPARE(f.folder.names(), files);
+
+    // What it holds beside its title cannot be replaced by what nobody compared with it.
+    f->setShowDisagreements(false);
+    f.select(u"d"_s);
+    QCOMPARE(f->detailsFailure(), (DetailsFailure{ u"took too long"_s, false }));
+    f.select(u"c"_s);
+    QVERIFY(f->detailsFailure() && f->detailsFailure()->reason.startsWith(u"ExifTool exited with code 9"_s));
+    f->addKnownField(u"iptc.countryCode"_s);
+    f->applyLocation({ .country = u"Japan"_s, .countryCode = u"JP"_s });
+    f->setSingle(u"iptc.altText"_s, u"A lake"_s);
+    f->setItems(u"iptc.organisationNames"_s, { u"Boats"_s });
+    f->addLanguage(u"title"_s, u"de"_s);
+    QCOMPARE(f->editedSingle(), (QSet<QString>{ u"country"_s, u"coords"_s }));
+    Edits pasted;
+    pasted.scalars = { { u"iptc.altText"_s, u"A lake"_s }, { u"title@de"_s, u"Titel"_s }, { u"place"_s, u"Kyoto"_s } };
+    f->layEdits(pasted);
+    QCOMPARE(f->editedSingle(), (QSet<QString>{ u"country"_s, u"coords"_s, u"place"_s }));
+    QCOMPARE(
+        f->errorMessage(), u"Left as they are, because they could not be read: Alternative text, Title (German)"_s);
+
+    beside.add(u"mended"_s, "");
+    f->readDetailsAgain();
+    QTRY_VERIFY_WITH_TIMEOUT(f->details(f.url(u"c.jpg"_s)), patience);
+    QVERIFY(!f->detailsFailure());
+    f->setSingle(u"iptc.altText"_s, u"A lake"_s);
+    QVERIFY(f->editedSingle().contains(u"iptc.altText"_s));
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelDetails)

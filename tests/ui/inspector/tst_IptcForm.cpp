@@ -8,13 +8,16 @@
 #include "core/schema/FieldLanguages.h"
 #include "tests/ui/UiSupport.h"
 #include "tests/ui/inspector/InspectorFixture.h"
+#include "ui/controls/Buttons.h"
 #include "ui/controls/cards/FoldingHeading.h"
 #include "ui/controls/cards/ItemCard.h"
 #include "ui/controls/pickers/CodePicker.h"
 #include "ui/controls/pickers/CodePopover.h"
 #include "ui/controls/pickers/CodesPicker.h"
 #include "ui/controls/text/CountLine.h"
+#include "ui/inspector/FieldBlock.h"
 #include "ui/inspector/KeptField.h"
+#include "ui/inspector/head/UnreadNotice.h"
 #include "ui/inspector/iptc/StructureCard.h"
 #include "ui/inspector/iptc/StructureCards.h"
 #include "ui/inspector/iptc/StructureFields.h"
@@ -205,6 +208,7 @@ private slots:
     void whatIsPressedStays();
     void alternativeTextIsCounted();
     void nothingIsTakenBeforeItIsKnown();
+    void whatCannotBeReadSaysSo();
     void severalPhotos();
     void severalPhotosTellHowManyHoldSomething();
     void besideAChosenSet();
@@ -556,6 +560,70 @@ void tst_IptcForm::nothingIsTakenBeforeItIsKnown()
     // One that was added is on screen in any case.
     f.model().addKnownField(u"iptc.altText"_s);
     QVERIFY(!f.row(u"iptc.altText"_s)->state().unread);
+    // A place that is filled in knows nothing of a code that may be there.
+    f.gate.acquire();
+    f.click(u"c.jpg"_s);
+    f.model().addKnownField(u"iptc.countryCode"_s);
+    f.model().applyLocation({ .country = u"Japan"_s, .countryCode = u"JP"_s });
+    QVERIFY(f.model().editedSingle().contains(u"country"_s));
+    QVERIFY(!f.model().editedSingle().contains(u"iptc.countryCode"_s));
+    f.gate.release();
+}
+
+void tst_IptcForm::whatCannotBeReadSaysSo()
+{
+    Photos f;
+    std::atomic<bool> isBroken = true;
+    f.photos.lookAtDetails([&](const QList<ImageRecord>& records, const ReadControl&) {
+        const QSemaphoreReleaser pass((f.gate.acquire(), f.gate));
+        QHash<QUrl, PhotoDetails> found;
+        for (const ImageRecord& record : records)
+            if (!isBroken || record.fileName != u"b.jpg")
+                found.insert(record.url, { .url = record.url, .texts = { { u"iptc.jobTitle"_s, u"Editor"_s } } });
+        return found;
+    });
+    QVERIFY(f.open());
+    f.show(u"a.jpg"_s);
+    f.model().fieldSets().choose(u"Press"_s);
+    f.unfold(u"CONTACT"_s);
+    f.row(u"iptc.altText"_s)->input()->setFocus();
+    f.click(u"b.jpg"_s);
+    const auto* notice = f.view->findChild<UnreadNotice*>();
+    QTRY_VERIFY(notice->isVisible());
+    f.settle();
+    QCOMPARE(notice->accessibleName(), u"Some fields could not be read (ExifTool told nothing of it)"_s);
+    QVERIFY(labels(notice).contains(notice->accessibleName()));
+    QVERIFY(
+        notice->mapTo(f.view, QPoint(0, notice->height())).y() <= f.row(u"description"_s)->mapTo(f.view, QPoint()).y());
+    QAccessibleInterface* block =
+        QAccessible::queryAccessibleInterface(f.row(u"iptc.altText"_s)->findChild<FieldBlock*>());
+    QCOMPARE(block->text(QAccessible::Name), u"Could not be read (ExifTool told nothing of it)"_s);
+    QCOMPARE(block->role(), QAccessible::StaticText);
+    QCOMPARE(f.summary(u"CONTACT"_s), block->text(QAccessible::Name));
+    // It takes nothing, and nobody is led into what is not seen.
+    QVERIFY(!f.row(u"iptc.altText"_s)->input()->isVisible());
+    QTest::keyClicks(QApplication::focusWidget(), u"x"_s);
+    emit f.row(u"iptc.altText"_s)->textEdited(u"Other"_s);
+    QVERIFY(!f.row(u"description"_s)->state().languages.isPossible);
+    QCOMPARE(f.model().unsavedCount(), 0);
+
+    // Again, in vain: the keyboard stays at the button.
+    f.gate.acquire();
+    notice->tryAgain()->setFocus();
+    QTest::keyClick(notice->tryAgain(), Qt::Key_Space);
+    QTRY_COMPARE(notice->accessibleName(), u"Reading metadata"_s);
+    QCOMPARE(f.row(u"iptc.altText"_s)->state().unreadText, QString());
+    f.gate.release();
+    QTRY_VERIFY(notice->accessibleName().startsWith(u"Some fields"_s));
+    QVERIFY(notice->tryAgain()->hasFocus());
+    // And with success.
+    isBroken = false;
+    QTest::keyClick(notice->tryAgain(), Qt::Key_Space);
+    f.known(u"b.jpg"_s);
+    QVERIFY(!notice->isVisible());
+    QVERIFY(f.row(u"iptc.altText"_s)->input()->isVisible() && f.row(u"description"_s)->state().languages.isPossible);
+    QCOMPARE(f.summary(u"CONTACT"_s), u"Editor"_s);
+    QVERIFY(QApplication::focusWidget() && f.view->isAncestorOf(QApplication::focusWidget()));
 }
 
 void tst_IptcForm::severalPhotos()

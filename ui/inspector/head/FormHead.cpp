@@ -13,6 +13,7 @@
 #include "ui/inspector/head/BatchBanner.h"
 #include "ui/inspector/head/FieldSetPicker.h"
 #include "ui/inspector/head/PhotoHeader.h"
+#include "ui/inspector/head/UnreadNotice.h"
 
 #include <QVBoxLayout>
 
@@ -23,6 +24,7 @@ FormHead::FormHead(AppModel& model, ThumbnailStore* thumbs, QWidget* parent)
     , m_model(model)
     , m_header(new PhotoHeader(thumbs, this))
     , m_banner(new BatchBanner(this))
+    , m_unread(new UnreadNotice(model, this))
     , m_picker(makeFieldSetPicker(model.fieldSets(), m_header))
     , m_batchPicker(makeFieldSetPicker(model.fieldSets(), m_banner))
 {
@@ -32,6 +34,7 @@ FormHead::FormHead(AppModel& model, ThumbnailStore* thumbs, QWidget* parent)
     column->setSpacing(0);
     column->addWidget(m_header);
     column->addWidget(m_banner);
+    column->addWidget(m_unread);
     m_header->setAtEnd(m_picker);
     m_banner->setAtEnd(m_batchPicker);
     connect(m_banner->agree(), &QAbstractButton::clicked, &m_model, &AppModel::requestMakeAgree);
@@ -45,6 +48,7 @@ void FormHead::refresh()
 {
     m_header->setVisible(!m_model.isBatch());
     m_banner->setVisible(m_model.isBatch());
+    m_unread->refresh();
     const QString reading = InspectorStates::readingText(m_model);
     const SelectedSidecars& sidecars = m_model.selectedSidecars();
     const QString target = sidecars.text();
@@ -62,7 +66,7 @@ void FormHead::refresh()
 
 QList<QWidget*> FormHead::tabStops() const
 {
-    return { m_picker, m_batchPicker, m_banner->agree() };
+    return { m_picker, m_batchPicker, m_banner->agree(), m_unread->tryAgain() };
 }
 
 }  // namespace Quorbel

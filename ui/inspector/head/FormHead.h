@@ -11,6 +11,7 @@ class BatchBanner;
 class ChoicePicker;
 class PhotoHeader;
 class ThumbnailStore;
+class UnreadNotice;
 
 class FormHead final : public QWidget {
     Q_OBJECT
@@ -27,6 +28,7 @@ private:
     AppModel& m_model;
     PhotoHeader* m_header;
     BatchBanner* m_banner;
+    UnreadNotice* m_unread;
     ChoicePicker* m_picker;
     ChoicePicker* m_batchPicker;  ///< the same, in the banner
 };

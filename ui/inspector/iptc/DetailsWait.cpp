@@ -1,6 +1,7 @@
 #include "ui/inspector/iptc/DetailsWait.h"
 
 #include "app/model/AppModel.h"
+#include "app/model/library/details/DetailsFailures.h"
 
 namespace Quorbel {
 
@@ -23,7 +24,7 @@ void DetailsWait::follow(bool fresh)
     m_hasJustEnded = was && !m_isOn;
     // Rows of several photos do not look like those of one.
     const bool wasBatch = std::exchange(m_wasBatch, m_model.isBatch());
-    if (!m_isOn || wasBatch)
+    if (!m_isOn || wasBatch || m_model.detailsFailure())
         m_late.stop();
     else if (fresh || !was)
         m_late.start();

@@ -63,8 +63,10 @@ void IptcSections::refresh(bool fresh)
         shown->setRows(isOpen ? m_rows(ids, fresh) : QList<FieldRow*>());
         shown->heading().setOpen(isOpen);
         const QString gaps = WantedFields::line(m_model.fieldSets(), section);
-        shown->heading().setSummary(IptcSummary::of(
-            m_model, ids, [this](const QString& id) { return heldText(id); }, gaps));
+        const QString unread = InspectorStates::unreadText(m_model);
+        shown->heading().setSummary(unread.isEmpty() ? IptcSummary::of(
+                                        m_model, ids, [this](const QString& id) { return heldText(id); }, gaps)
+                                                     : Summary{ unread, {} });
         shown->heading().setCount(gaps.isEmpty() ? IptcSummary::countText(m_model, ids) : gaps);
         shown->heading().setEdited(IptcSummary::isEdited(m_model, ids));
         shown->setVisible(!ids.isEmpty());

@@ -1,6 +1,7 @@
 #include "app/model/library/details/DetailsReader.h"
 
 #include "app/model/library/cache/RecordCache.h"
+#include "core/language/Texts.h"
 
 namespace Quorbel::DetailsReader {
 
@@ -12,20 +13,24 @@ struct Target {
     PhotoFile before{};
 };
 
-// The files of those photos that have one.
-QHash<QUrl, PhotoFile> looks(const QList<ImageRecord>& photos, const SidecarPolicy& sidecars)
+// The files of those photos that have one; the others are unreadable.
+QHash<QUrl, PhotoFile> looks(const Order& order, Result& result)
 {
     QHash<QUrl, PhotoFile> files;
-    for (const ImageRecord& photo : photos)
-        if (const PhotoFile::Look look = PhotoFile::at(photo.url, sidecars); look.file)
+    for (const ImageRecord& photo : order.photos) {
+        const PhotoFile::Look look = PhotoFile::at(photo.url, order.sidecars);
+        if (look.file)
             files.insert(photo.url, *look.file);
+        else
+            result.unreadable.insert(photo.url, look.reason.isEmpty() ? Texts::tr("no such file") : look.reason);
+    }
     return files;
 }
 
 // Takes what the cache knows. Returns the others.
 QList<Target> withoutKnown(const Order& order, Result& result, const std::stop_token& stop)
 {
-    const QHash<QUrl, PhotoFile> files = looks(order.photos, order.sidecars);
+    const QHash<QUrl, PhotoFile> files = looks(order, result);
     QHash<QUrl, PhotoDetails> known;
     if (order.cache && order.isCacheAsked)
         known = order.cache->findDetails(files.values(), stop);
@@ -34,8 +39,8 @@ QList<Target> withoutKnown(const Order& order, Result& result, const std::stop_t
         const auto file = files.constFind(photo.url);
         const auto details = known.constFind(photo.url);
         if (file == files.cend())
-            result.unreadable.append(photo.url);
-        else if (details != known.cend())
+            continue;
+        if (details != known.cend())
             result.found.append(*details);
         else if (targets.size() < order.most)
             targets.append({ photo, *file });
@@ -53,7 +58,7 @@ void take(const QHash<QUrl, PhotoDetails>& answer, const QList<Target>& targets,
         if (before.again() != before) {
             result.changed.append(photo.url);
         } else if (details == answer.cend()) {
-            result.unreadable.append(photo.url);
+            result.unreadable.insert(photo.url, Texts::tr("ExifTool told nothing of it"));
         } else {
             result.found.append(*details);
             result.found.last().url = photo.url;

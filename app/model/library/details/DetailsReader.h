@@ -30,7 +30,7 @@ struct Order {
 struct Result {
     QList<PhotoDetails> found{};
     qsizetype known = 0;  ///< of these, such as the cache knew
-    QList<QUrl> unreadable{};  ///< the tool was asked for these, or could not be, and there is no answer
+    QHash<QUrl, QString> unreadable{};  ///< the tool was asked for these, or could not be, and why there is no answer
     QList<QUrl> changed{};  ///< files that are not what they were before the read
     std::optional<QString> error{};  ///< the run failed as a whole: its description; what the cache knew is found
     QList<QUrl> asked{};  ///< the photos of that run

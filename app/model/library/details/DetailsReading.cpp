@@ -22,11 +22,6 @@ constexpr qsizetype inViewAtOnce = 32;
 constexpr qsizetype readAtOnce = 200;
 // So many of all are looked for in the cache at once, as long as it knows any.
 constexpr qsizetype lookedForAtOnce = 2000;
-// A photo that changes whenever it is read is left alone.
-constexpr int mostChanges = 3;
-// So often one run after the other may fail before the tool is given up. Of the halves of one that failed, one does not
-// fail again, unless there are several photos to fail at.
-constexpr int mostFailures = 10;
 // While all photos are looked at: the pause after something else has run.
 constexpr std::chrono::milliseconds shortDelay{ 100 };
 
@@ -75,6 +70,11 @@ DetailsReading::Census DetailsReading::census() const
         m_photos.wanted().testFlag(PhotoTrait::disagreement) };
 }
 
+std::optional<DetailsFailure> DetailsReading::failure(const QUrl& photo) const
+{
+    return m_store.isKnown(photo) ? std::nullopt : m_failures.of(photo);
+}
+
 void DetailsReading::tell()
 {
     m_announcer.assign(m_told, census(), Change::disagreements);
@@ -104,13 +104,10 @@ void DetailsReading::drop()
     m_required.clear();
     endSurvey();
     m_reading.clear();
-    m_failed.clear();
-    m_changes.clear();
+    m_failures = {};
     m_parts.clear();
     m_all.clear();
     m_kept.clear();
-    m_failures = 0;
-    m_isGivenUp = false;
     discardInBackground(std::exchange(m_store, {}));
 }
 
@@ -141,8 +138,7 @@ void DetailsReading::outdate(const QList<QUrl>& photos)
     const Announcer::Together together(m_announcer);
     QList<QUrl> known;
     for (const QUrl& photo : photos) {
-        m_failed.remove(photo);
-        m_changes.remove(photo);
+        m_failures.forget(photo);
         for (Run& run : m_running)
             run.outdated.insert(photo);
         if (m_store.outdate(photo))
@@ -168,7 +164,7 @@ void DetailsReading::forget(const QSet<QUrl>& photos)
     bool wasAnyKnown = false;
     for (const QUrl& photo : photos) {
         wasAnyKnown = m_store.forget(photo) || wasAnyKnown;
-        m_failed.remove(photo);
+        m_failures.forget(photo);
         m_kept.remove(photo);
     }
     if (wasAnyKnown)
@@ -181,8 +177,8 @@ void DetailsReading::rename(const NewNames& names)
     const Announcer::Together together(m_announcer);
     if (m_store.rename(names))
         m_announcer.announce(Change::details);
-    for (QSet<QUrl>* photos : { &m_failed, &m_kept })
-        *photos = names.of(*photos);
+    m_failures.rename(names);
+    m_kept = names.of(m_kept);
     m_all = names.of(m_all);
     // What is being read under a name may be another photo's by now.
     for (Run& run : m_running)
@@ -223,12 +219,21 @@ void DetailsReading::cancel()
 void DetailsReading::resume()
 {
     const Announcer::Together together(m_announcer);
-    m_isGivenUp = false;
-    m_failures = 0;
+    m_failures.trust();
     m_wantsAll = m_photos.wanted().testFlag(PhotoTrait::disagreement);
-    m_isLooking = m_wantsAll && m_ask && m_store.known() + m_failed.size() < m_photos.records().size();
+    m_isLooking = m_wantsAll && m_ask && m_store.known() + m_failures.photos() < m_photos.records().size();
     schedule();
     tell();
+}
+
+void DetailsReading::tryAgain(const QUrl& photo)
+{
+    const Announcer::Together together(m_announcer);
+    if (!failure(photo))
+        return;
+    m_failures.tryAgain(photo);
+    m_announcer.announce(Change::details);
+    schedule();
 }
 
 void DetailsReading::setHeld(const QSet<QUrl>& photos)
@@ -253,7 +258,7 @@ void DetailsReading::wake()
 
 void DetailsReading::schedule()
 {
-    if (!m_ask || m_tasks.isBusy() || m_isPaused || m_isGivenUp)
+    if (!m_ask || m_tasks.isBusy() || m_isPaused || m_failures.isGivenUp())
         return;
     const Announcer::Together together(m_announcer);
     startSelected();
@@ -297,7 +302,7 @@ void DetailsReading::startPatient()
 
 bool DetailsReading::isWanted(const ImageRecord& photo) const
 {
-    return !photo.isUnread && !m_failed.contains(photo.url) && !m_store.isKnown(photo.url);
+    return !photo.isUnread && !m_failures.isLeftAlone(photo.url) && !m_store.isKnown(photo.url);
 }
 
 bool DetailsReading::isWanted(const QUrl& photo) const
@@ -356,7 +361,7 @@ bool DetailsReading::require(const QList<QUrl>& photos)
 {
     const Announcer::Together together(m_announcer);
     const bool isFirst = m_required.isEmpty();
-    m_required = m_ask && !m_isGivenUp ? photos : QList<QUrl>();
+    m_required = m_ask && !m_failures.isGivenUp() ? photos : QList<QUrl>();
     m_required.removeIf([this](const QUrl& photo) { return !isWanted(photo); });
     if (m_required.isEmpty()) {
         if (!m_wantsAll)
@@ -386,7 +391,7 @@ QList<QUrl> DetailsReading::nextOfAll()
         m_all.remove(0, looked);
         if (!next.isEmpty()) {
             m_isLooking = true;
-            showSurvey(m_store.known(), m_photos.records().size() - m_failed.size());
+            showSurvey(m_store.known(), m_photos.records().size() - m_failures.photos());
             return next;
         }
     }
@@ -461,8 +466,9 @@ void DetailsReading::finish(int id, const DetailsReader::Result& result)
     m_running.erase(ended);
     m_reading.subtract(QSet<QUrl>(run.photos.cbegin(), run.photos.cend()));
     const std::optional<RunningTasks::Task> task = m_tasks.end(id);
+    const int failures = m_failures.serial();
     if (task && task->skipped)
-        m_failed.insert(*task->skipped);
+        m_failures.note(*task->skipped, Texts::tr("took too long"));
     take(run, result);
     if (m_survey && run.lane == Lane::patient) {
         m_isCacheUseful = m_isCacheUseful && (result.known > 0 || result.isCancelled);
@@ -472,7 +478,10 @@ void DetailsReading::finish(int id, const DetailsReader::Result& result)
     if (result.error)
         noteFailure(result.asked, *result.error);
     else if (!result.asked.isEmpty() && !result.isCancelled)
-        m_failures = 0;
+        m_failures.noteSuccess();
+    // That nothing will be known is news, too.
+    if (m_failures.serial() != failures)
+        m_announcer.announce(Change::details);
     schedule();
     tell();
 }
@@ -488,15 +497,15 @@ void DetailsReading::take(const Run& run, const DetailsReader::Result& result)
         if (!isOfNow(details.url))
             continue;
         m_store.put(details);
-        m_changes.remove(details.url);
+        m_failures.forget(details.url);
         found.append(details.url);
     }
-    for (const QUrl& photo : result.unreadable)
-        if (isOfNow(photo))
-            m_failed.insert(photo);
+    for (auto photo = result.unreadable.cbegin(); photo != result.unreadable.cend(); ++photo)
+        if (isOfNow(photo.key()))
+            m_failures.note(photo.key(), *photo);
     for (const QUrl& photo : result.changed)
-        if (isOfNow(photo) && ++m_changes[photo] >= mostChanges)
-            m_failed.insert(photo);
+        if (isOfNow(photo))
+            m_failures.noteChange(photo);
     if (found.isEmpty())
         return;
     list(found);
@@ -527,15 +536,16 @@ void DetailsReading::list(const QList<QUrl>& photos)
 void DetailsReading::noteFailure(const QList<QUrl>& photos, const QString& reason)
 {
     if (photos.size() < 2) {
-        m_failed.unite(QSet<QUrl>(photos.cbegin(), photos.cend()));
+        for (const QUrl& photo : photos)
+            m_failures.note(photo, reason);
         return;
     }
     const qsizetype half = photos.size() / 2;
     m_parts.push_back(photos.first(half));
     m_parts.push_back(photos.sliced(half));
-    if (++m_failures < mostFailures)
+    m_failures.noteRun(reason);
+    if (!m_failures.isGivenUp())
         return;
-    m_isGivenUp = true;
     m_parts.clear();
     if (!m_wantsAll)
         return;

@@ -7,6 +7,7 @@
 
 #include "app/model/RunningTasks.h"
 #include "app/model/library/PhotoList.h"
+#include "app/model/library/details/DetailsFailures.h"
 #include "app/model/library/details/DetailsReader.h"
 #include "app/model/library/details/DetailsStore.h"
 
@@ -41,6 +42,10 @@ public:
 
     const DetailsStore& store() const { return m_store; }
     Census census() const;
+    /// Why a photo that is not known will not be, either; nothing while it may be.
+    std::optional<DetailsFailure> failure(const QUrl& photo) const;
+    /// A photo with a failure is read all the same.
+    void tryAgain(const QUrl& photo);
 
     /// Others are open now: all that was known and asked for is dropped.
     void begin();
@@ -126,11 +131,8 @@ private:
     DetailsStore m_store;
     std::vector<Run> m_running;
     QSet<QUrl> m_reading;  ///< in one of the runs
-    QSet<QUrl> m_failed;  ///< not tried again until they change
-    QHash<QUrl, int> m_changes;  ///< how often a photo had changed when it was read
+    DetailsFailures m_failures;
     std::vector<QList<QUrl>> m_parts;  ///< to be read by themselves: the tool failed at them
-    int m_failures = 0;  ///< runs over several photos that failed one after the other
-    bool m_isGivenUp = false;  ///< the tool fails at everything
     bool m_isPaused = false;
     bool m_isCacheAsked = true;
     std::optional<QUrl> m_first;
