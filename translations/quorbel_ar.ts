@@ -8061,7 +8061,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>ExifTool told nothing of it</source>
-        <translation>لم يذكر ExifTool شيئًا عنها</translation>
+        <translation>لم يذكر ExifTool شيئًا عنه</translation>
     </message>
     <message>
         <source>Could not be read (%1)</source>

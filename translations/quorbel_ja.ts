@@ -7349,11 +7349,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Left as they are, because they could not be read: %1</source>
-        <translation>読み取れなかったため、そのままにしました: %1</translation>
+        <translation>読み取れなかったため、そのまま残しました：%1</translation>
     </message>
     <message>
         <source>keeps changing</source>
-        <translation>変わり続けています</translation>
+        <translation>変更され続けています</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -7361,12 +7361,12 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>ExifTool told nothing of it</source>
-        <translation>ExifTool が何も返しませんでした</translation>
+        <translation>ExifTool から情報を得られませんでした</translation>
     </message>
     <message>
         <source>Could not be read (%1)</source>
         <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
-        <translation>読み取れませんでした (%1)</translation>
+        <translation>読み取れませんでした（%1）</translation>
     </message>
     <message>
         <source>Try again</source>
@@ -7375,11 +7375,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Some fields could not be read (%1)</source>
         <extracomment>%1 is the reason: &quot;took too long&quot;</extracomment>
-        <translation>一部の項目を読み取れませんでした (%1)</translation>
+        <translation>一部のフィールドを読み取れませんでした（%1）</translation>
     </message>
     <message>
         <source>Some fields could not be read</source>
-        <translation>一部の項目を読み取れませんでした</translation>
+        <translation>一部のフィールドを読み取れませんでした</translation>
     </message>
 </context>
 </TS>

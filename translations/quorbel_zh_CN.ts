@@ -147,7 +147,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>A set needs a name</source>
-        <translation>字段集或关键词组需要名称</translation>
+        <translation>请填写名称</translation>
     </message>
     <message>
         <source>There are two sets named “%1”</source>
@@ -621,7 +621,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Each photo’s own</source>
-        <translation>各照片自身的时区</translation>
+        <translation>各张照片自己的时区</translation>
     </message>
     <message>
         <source>Whole numbers, of a hundred years at most.</source>
@@ -669,7 +669,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>No fields were copied yet. Edit ▸ Copy Fields takes those of the selected photo.</source>
-        <translation>尚未复制任何字段。编辑 ▸ 复制字段 可复制所选照片的字段。</translation>
+        <translation>尚未复制任何字段。编辑 ▸ 复制字段 可复制选中照片的字段。</translation>
     </message>
     <message>
         <source>There is a set of this name already</source>
@@ -7357,11 +7357,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>no such file</source>
-        <translation>没有这个文件</translation>
+        <translation>没有此文件</translation>
     </message>
     <message>
         <source>ExifTool told nothing of it</source>
-        <translation>ExifTool 未返回任何内容</translation>
+        <translation>ExifTool 没有返回任何信息</translation>
     </message>
     <message>
         <source>Could not be read (%1)</source>
