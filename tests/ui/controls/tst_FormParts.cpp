@@ -128,6 +128,10 @@ private slots:
         QAccessibleInterface* card = QAccessible::queryAccessibleInterface(form.open);
         QCOMPARE(card->role(), QAccessible::Grouping);
         QCOMPARE(card->text(QAccessible::Name), u"Rapperswil-Jona"_s);
+        // Nothing is said twice.
+        form.contact->setEdited(false);
+        form.contact->setSummary({ u"CONTACT"_s, {} });
+        QCOMPARE(heading->text(QAccessible::Description), QString());
     }
 
     void cardsMoveByKeys()
