@@ -126,7 +126,11 @@ public:
     // The tooltip repeats it.
     QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Description ? m_line->accessibleDescription() : ButtonDescription::text(kind);
+        if (kind != QAccessible::Description)
+            return ButtonDescription::text(kind);
+        // An empty card sums itself up by what it is called.
+        const QString told = m_line->accessibleDescription();
+        return told == text(QAccessible::Name) ? QString() : told;
     }
 
     QStringList actionNames() const override

@@ -77,9 +77,8 @@ void FoldLine::describe()
     QStringList told;
     if (m_edited)
         told.append(Texts::tr("edited"));
-    // An empty card sums itself up by what it is called.
-    if (const QString summary = m_summary.text(); !summary.isEmpty() && summary != accessibleName())
-        told.append(summary);
+    if (const QString text = m_summary.text(); !text.isEmpty())
+        told.append(text);
     setAccessibleDescription(told.join(u", "_s));
 }
 
