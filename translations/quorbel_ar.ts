@@ -290,7 +290,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>another Quorbel is undoing one at this moment</source>
-        <translation>تتراجع نسخة أخرى من Quorbel عن إعادة تسمية الآن</translation>
+        <translation>نسخة أخرى من Quorbel تُجري تراجعًا الآن</translation>
     </message>
     <message>
         <source>it was undone already</source>
@@ -7448,7 +7448,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>A template fills fields of the selected photos with texts that each photo completes: “Race %Counter% off %Place|Zürich%”. Make one in Edit ▸ Templates, or from a photo with Save as Template…</source>
-        <translation>يملأ القالب حقول الصور المحددة بنصوص تكملها كل صورة: «⁨Race %Counter% off %Place|Zürich%⁩». يُنشأ القالب من تحرير ◂ القوالب، أو من صورة عبر «حفظ كقالب…».</translation>
+        <translation>يملأ القالب حقول الصور المحددة بنصوص تكملها كل صورة: «⁨Race %Counter% off %Place|Zürich%⁩». يُنشأ القالب من تحرير ◂ القوالب، أو من صورة عبر الأمر حفظ كقالب…</translation>
     </message>
     <message>
         <source>⌘1 to ⌘9 apply the templates that have these keys. What they fill in are edits, written when you save.</source>
