@@ -64,7 +64,7 @@ struct Photos {
              const auto found = known.constFind(url);
              return found == known.cend() ? nullptr : &*found;
          },
-            [this] { return known.size(); } } };
+            [this] { return known.size(); }, [](const QUrl&) { return false; } } };
     LeftBehind left{ announcer, {}, std::chrono::milliseconds(0) };
     Editing editing{ announcer, list, selected, details, left };
 };
