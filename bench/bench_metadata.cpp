@@ -103,7 +103,7 @@ QList<QUrl> writable(const MetadataService& service, const QList<QUrl>& photos, 
 
 int main()
 {
-    const MetadataService service{ realTool() };
+    const MetadataService service{ startedTool() };
     const PhotoFolder folder;
     const auto samples = samplePhotos();
     const auto photos = makePhotos(folder, samples);

@@ -47,7 +47,7 @@ public:
         for (int i = 0; i < count; ++i)
             m_paths.append(
                 m_folder.add(u"IMG_%1.jpg"_s.arg(i, 4, 10, QLatin1Char('0')), jpegBytes(640, 480)).toLocalFile());
-        AppModelServices services{ .service = MetadataService{ realTool() },
+        AppModelServices services{ .service = MetadataService{ startedTool() },
             .preferences = std::make_shared<QSettings>(m_state.path(u"settings.ini"_s), QSettings::IniFormat),
             .journalPath = m_state.path(u"undo"_s) };
         m_model = std::make_unique<AppModel>(services);
