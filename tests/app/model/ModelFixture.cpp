@@ -124,6 +124,16 @@ void ModelFixture::click(const QString& name, bool shift, bool command)
     model->tap(url(name), shift, command);
 }
 
+void ModelFixture::answerSave(const QString& answer)
+{
+    if (answer == u"save")
+        model->confirmSaveDialog();
+    else if (answer == u"discard")
+        model->discardSaveDialog();
+    else if (answer == u"cancel")
+        model->cancelSaveDialog();
+}
+
 void ModelFixture::select(const QString& letters)
 {
     for (const QString& name : jpgs(letters))

@@ -57,6 +57,8 @@ public:
     bool load(const QList<QUrl>& urls);
     bool waitUntilIdle();
     void click(const QString& name, bool shift = false, bool command = false);
+    /// To the question about unsaved edits: "save", "discard" or "cancel".
+    void answerSave(const QString& answer);
     /// Selects the photos of these letters ("ab": a.jpg and b.jpg), the first one first.
     void select(const QString& letters);
 

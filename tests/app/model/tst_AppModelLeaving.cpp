@@ -148,12 +148,7 @@ void tst_AppModelLeaving::typedWhileAnotherFolderLoads()
     QCOMPARE(f.visible(), jpgs(u"abc"_s));
     QVERIFY(f->saveOpen());
     QCOMPARE(f->unsavedCount(), 1);
-    if (answer == u"save"_s)
-        f->confirmSaveDialog();
-    else if (answer == u"discard"_s)
-        f->discardSaveDialog();
-    else
-        f->cancelSaveDialog();
+    f.answerSave(answer);
     QVERIFY(f.waitUntilIdle());
     QVERIFY(!f->saveOpen());
     QCOMPARE(f->unsavedCount(), answer == u"cancel"_s ? 1 : 0);

@@ -1,8 +1,6 @@
-// Opening, searching, sorting and selecting, driven as the window drives them.
-#include "app/model/library/RecordIndex.h"
+// Opening, searching and selecting, driven as the window drives them.
 #include "tests/app/model/ModelFixture.h"
 
-#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTest>
 #include <QThreadPool>
@@ -30,6 +28,21 @@ struct SixPhotos : ModelFixture {
     }
 };
 
+// "a.jpg" is open, and the load of another folder waits for the tool.
+struct HalfLoaded : GatedTool, ModelFixture {
+    HalfLoaded()
+        : ModelFixture(service())
+    {
+        folder.add(u"a.jpg"_s);
+        isWaiting = open() && QDir(folder.path()).mkpath(u"other"_s);
+        folder.add(u"other/b.jpg"_s);
+        shut();
+        model->load({ url(u"other"_s) });
+        isWaiting = isWaiting && waitForRun();
+    }
+    bool isWaiting = false;
+};
+
 }  // namespace
 
 class tst_AppModelLibrary : public QObject {
@@ -55,8 +68,6 @@ private slots:
     void closing();
     void search_data();
     void search();
-    void sortOrders_data();
-    void sortOrders();
     void clicks_data();
     void clicks();
     void clickEndsTextEditing();
@@ -253,15 +264,8 @@ void tst_AppModelLibrary::photoDeletedDuringTheRead()
 
 void tst_AppModelLibrary::cancelledReadIsSilent()
 {
-    GatedTool tool;
-    ModelFixture f(tool.service());
-    f.folder.add(u"a.jpg"_s);
-    QVERIFY(f.open());
-    QVERIFY(QDir(f.folder.path()).mkpath(u"other"_s));
-    f.folder.add(u"other/b.jpg"_s);
-    tool.shut();
-    f->load({ f.url(u"other"_s) });
-    QVERIFY(tool.waitForRun());
+    HalfLoaded f;
+    QVERIFY(f.isWaiting);
     QCOMPARE(f->progress(), (std::optional(Progress{ 0, 1 })));
     f->cancelRead();
     QVERIFY(f.waitUntilIdle());
@@ -283,16 +287,9 @@ void tst_AppModelLibrary::endOfAReadCanBeCancelled_data()
 void tst_AppModelLibrary::endOfAReadCanBeCancelled()
 {
     QFETCH(bool, closes);
-    GatedTool tool;
-    ModelFixture f(tool.service());
-    f.folder.add(u"a.jpg"_s);
-    QVERIFY(f.open());
-    QVERIFY(QDir(f.folder.path()).mkpath(u"other"_s));
-    f.folder.add(u"other/b.jpg"_s);
-    tool.shut();
-    f->load({ f.url(u"other"_s) });
-    QVERIFY(tool.waitForRun());
-    tool.release();
+    HalfLoaded f;
+    QVERIFY(f.isWaiting);
+    f.release();
     QVERIFY(QThreadPool::globalInstance()->waitForDone(30000));
     if (closes)
         f->closeFolder();
@@ -386,84 +383,6 @@ void tst_AppModelLibrary::search()
     QCOMPARE(f.visible(), visible);
     f->setSearch({});
     QCOMPARE(f.visible().size(), 3);
-}
-
-void tst_AppModelLibrary::sortOrders_data()
-{
-    QTest::addColumn<RecordSortOrder>("order");
-    QTest::addColumn<bool>("byFolder");
-    for (const RecordSortOrder order : allCases<RecordSortOrder>()) {
-        QTest::addRow("%s", qPrintable(rawValue(order))) << order << false;
-        QTest::addRow("%s, by folder", qPrintable(rawValue(order))) << order << true;
-    }
-}
-
-// The index keeps the order that a new one would find, through every way in which the list of photos changes.
-void tst_AppModelLibrary::sortOrders()
-{
-    QFETCH(RecordSortOrder, order);
-    QFETCH(bool, byFolder);
-    QList<ImageRecord> records;
-    const FolderOrder folders = byFolder ? FolderOrder({ u"/photos"_s }, false) : FolderOrder();
-    const auto make = [](int i) {
-        ImageRecord record;
-        // Folders come up one after the other, and not in their order.
-        const int depth = i % 3;
-        const QString folder = u"/photos"_s + u"/%1"_s.arg(1000 - i / 40).repeated(depth);
-        record.url = QUrl::fromLocalFile(u"%1/%2"_s.arg(folder).arg(i));
-        const QStringList patterns{ u"IMG_%1.jpg"_s, u"img_%1.JPG"_s, u"b%1.jpg"_s };
-        record.fileName = patterns.at(i % 3).arg(i % 3 == 2 ? 0 : i / 5 % 7);
-        if (i % 4 != 0)
-            record.creationDate = QDateTime::fromMSecsSinceEpoch(qint64(i % 5) * 1000);
-        return record;
-    };
-    RecordIndex index;
-    const auto compare = [&] {
-        RecordIndex fresh;
-        fresh.reset(records, order, folders);
-        QCOMPARE(index.rows({}, order), fresh.rows({}, order));
-        QCOMPARE(index.groups(index.rows({}, order)), fresh.groups(fresh.rows({}, order)));
-        QCOMPARE(index.folders().holding(), fresh.folders().holding());
-        for (int i = 0; i < records.size(); ++i)
-            QCOMPARE(index.position(records.at(i).url), i);
-    };
-    QRandomGenerator random(20261122);
-    for (int i = 0; i < 60; ++i)
-        records.append(make(i));
-    index.reset(records, order, folders);
-    compare();
-    for (int step = 100; step < 400; step += 4) {
-        const int at = random.bounded(int(records.size()));
-        switch (random.bounded(4)) {
-        case 0: {
-            QList<int> read{ at };
-            records[at].creationDate = QDateTime::fromMSecsSinceEpoch(random.bounded(-3, 3) * 1000);
-            if (const int other = at / 2; other != at) {
-                records[other].creationDate.reset();
-                read.append(other);
-            }
-            index.replace(read, records);
-            break;
-        }
-        case 1:
-            records[at] = make(step);
-            index.replace({ at }, records);
-            break;
-        case 2:
-            for (int i = 0; i < 4; ++i)
-                records.append(make(step + i));
-            index.append(records);
-            break;
-        default:
-            const int before = at / 2;
-            const QList<int> gone = before == at ? QList<int>{ at } : QList<int>{ before, at };
-            index.remove(gone);
-            for (auto i = gone.crbegin(); i != gone.crend(); ++i)
-                records.removeAt(*i);
-        }
-        compare();
-    }
-    QCOMPARE(index.position(QUrl::fromLocalFile(u"/photos/none"_s)), -1);
 }
 
 void tst_AppModelLibrary::clicks_data()
@@ -578,12 +497,7 @@ void tst_AppModelLibrary::guardAsksBeforeEditsAreLost()
     f.click(u"d.jpg"_s);
     QCOMPARE(f.primary(), u"a.jpg"_s);
     QCOMPARE(f->saveOpen(), answer != u"silent");
-    if (answer == u"save")
-        f->confirmSaveDialog();
-    else if (answer == u"discard")
-        f->discardSaveDialog();
-    else if (answer == u"cancel")
-        f->cancelSaveDialog();
+    f.answerSave(answer);
     // A sheet says that it closed, whatever closed it.
     f->setSaveOpen(false);
     QVERIFY(f.waitUntilIdle());

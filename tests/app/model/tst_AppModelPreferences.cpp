@@ -1,5 +1,7 @@
-// Settings and recently opened items across launches, and stores that hold nonsense.
+// Settings and recently opened items across launches, stores that hold nonsense, and what stays as it was while nobody asks
+// for more.
 #include "tests/app/model/ModelFixture.h"
+#include "tests/support/RecordedTool.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -20,6 +22,7 @@ private slots:
     void recentsKeepTen();
     void recentThatIsGone();
     void singleRecentSurvivesTheFile();
+    void withoutEditsBesideRawFiles();
 };
 
 void tst_AppModelPreferences::firstLaunch()
@@ -167,6 +170,44 @@ void tst_AppModelPreferences::singleRecentSurvivesTheFile()
     QVERIFY(f.open());
     f.relaunch();
     QCOMPARE(f->preferences().recentPaths(), QStringList{ f.folder.path() });
+}
+
+// As long as nobody asked for it, sidecars beside raw photos lead to no run, and to no argument of one.
+void tst_AppModelPreferences::withoutEditsBesideRawFiles()
+{
+    QList<QStringList> runs[2];
+    for (const bool hasSidecars : { false, true }) {
+        const RecordedTool tool;
+        ModelFixture photos(tool.service());
+        const QTemporaryDir journal;
+        photos.services.journalPath = journal.filePath(u"undo"_s);
+        photos.relaunch();
+        photos->preferences().saveDontAsk.set(true);
+        photos->preferences().backupOriginals.set(false);
+        writeFile(photos.folder.path(u"a.NEF"_s), tiffBytes());
+        for (const QString& name : { u"a.xmp"_s, u"a.NEF.xmp"_s })
+            if (hasSidecars)
+                exiftool({ u"-q"_s, u"-XMP-dc:Title=Theirs"_s, photos.folder.path(name) });
+        QVERIFY(photos.open());
+        photos.click(u"a.NEF"_s);
+        QCOMPARE(photos->draftValues().value(u"title"_s), QString());
+        photos->setSingle(u"title"_s, u"Ours"_s);
+        photos->requestSave();
+        QVERIFY(photos.waitUntilIdle());
+        QCOMPARE(photos.onDisk(u"a.NEF"_s, u"XMP:Title"_s).toString(), u"Ours"_s);
+        photos->undoSave();
+        QVERIFY(photos.waitUntilIdle());
+        QCOMPARE(photos->errorMessage(), std::nullopt);
+        for (QStringList run : tool.runs()) {
+            QVERIFY2(!run.join(u' ').contains(u".xmp"_s), qPrintable(run.join(u' ')));
+            runs[hasSidecars].append(run.replaceInStrings(photos.folder.path(), u"folder"_s));
+        }
+    }
+    QVERIFY(runs[0].size() > 5);
+    // Some run at the same time.
+    for (QList<QStringList>& some : runs)
+        std::sort(some.begin(), some.end());
+    QCOMPARE(runs[1], runs[0]);
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelPreferences)

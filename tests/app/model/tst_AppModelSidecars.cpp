@@ -3,7 +3,6 @@
 #include "core/schema/FieldSchema.h"
 #include "core/sidecar/SidecarSchema.h"
 #include "tests/app/model/RawPhotos.h"
-#include "tests/support/RecordedTool.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -58,7 +57,6 @@ private slots:
     void folderBesideTheSidecar();
     void emptySidecar();
     void othersAreWrittenAsEver();
-    void withoutTheSetting();
 };
 
 void tst_AppModelSidecars::everyFieldGoesBeside_data()
@@ -571,44 +569,6 @@ void tst_AppModelSidecars::othersAreWrittenAsEver()
     QVERIFY(raws.undo());
     QCOMPARE(raws.banner(), QString());
     QCOMPARE(raws.sidecar(u"a.xmp"_s), theirs);
-}
-
-// As long as nobody asked for it, sidecars beside raw photos lead to no run, and to no argument of one.
-void tst_AppModelSidecars::withoutTheSetting()
-{
-    QList<QStringList> runs[2];
-    for (const bool hasSidecars : { false, true }) {
-        const RecordedTool tool;
-        ModelFixture photos(tool.service());
-        const QTemporaryDir journal;
-        photos.services.journalPath = journal.filePath(u"undo"_s);
-        photos.relaunch();
-        photos->preferences().saveDontAsk.set(true);
-        photos->preferences().backupOriginals.set(false);
-        writeFile(photos.folder.path(u"a.NEF"_s), tiffBytes());
-        for (const QString& name : { u"a.xmp"_s, u"a.NEF.xmp"_s })
-            if (hasSidecars)
-                exiftool({ u"-q"_s, u"-XMP-dc:Title=Theirs"_s, photos.folder.path(name) });
-        QVERIFY(photos.open());
-        photos.click(u"a.NEF"_s);
-        QCOMPARE(photos->draftValues().value(u"title"_s), QString());
-        photos->setSingle(u"title"_s, u"Ours"_s);
-        photos->requestSave();
-        QVERIFY(photos.waitUntilIdle());
-        QCOMPARE(photos.onDisk(u"a.NEF"_s, u"XMP:Title"_s).toString(), u"Ours"_s);
-        photos->undoSave();
-        QVERIFY(photos.waitUntilIdle());
-        QCOMPARE(photos->errorMessage(), std::nullopt);
-        for (QStringList run : tool.runs()) {
-            QVERIFY2(!run.join(u' ').contains(u".xmp"_s), qPrintable(run.join(u' ')));
-            runs[hasSidecars].append(run.replaceInStrings(photos.folder.path(), u"folder"_s));
-        }
-    }
-    QVERIFY(runs[0].size() > 5);
-    // Some run at the same time.
-    for (QList<QStringList>& some : runs)
-        std::sort(some.begin(), some.end());
-    QCOMPARE(runs[1], runs[0]);
 }
 
 QTEST_GUILESS_MAIN(tst_AppModelSidecars)

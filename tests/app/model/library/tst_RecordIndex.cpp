@@ -295,6 +295,84 @@ private slots:
                 QCOMPARE(index.traits(i).testFlag(PhotoTrait::edited), edited.contains(records.at(i).url));
         }
     }
+
+    void sortOrders_data()
+    {
+        QTest::addColumn<RecordSortOrder>("order");
+        QTest::addColumn<bool>("byFolder");
+        for (const RecordSortOrder order : allCases<RecordSortOrder>()) {
+            QTest::addRow("%s", qPrintable(rawValue(order))) << order << false;
+            QTest::addRow("%s, by folder", qPrintable(rawValue(order))) << order << true;
+        }
+    }
+
+    // The index keeps the order that a new one would find, through every way in which the list of photos changes.
+    void sortOrders()
+    {
+        QFETCH(RecordSortOrder, order);
+        QFETCH(bool, byFolder);
+        QList<ImageRecord> records;
+        const FolderOrder folders = byFolder ? FolderOrder({ u"/photos"_s }, false) : FolderOrder();
+        const auto make = [](int i) {
+            ImageRecord record;
+            // Folders come up one after the other, and not in their order.
+            const int depth = i % 3;
+            const QString folder = u"/photos"_s + u"/%1"_s.arg(1000 - i / 40).repeated(depth);
+            record.url = QUrl::fromLocalFile(u"%1/%2"_s.arg(folder).arg(i));
+            const QStringList patterns{ u"IMG_%1.jpg"_s, u"img_%1.JPG"_s, u"b%1.jpg"_s };
+            record.fileName = patterns.at(i % 3).arg(i % 3 == 2 ? 0 : i / 5 % 7);
+            if (i % 4 != 0)
+                record.creationDate = QDateTime::fromMSecsSinceEpoch(qint64(i % 5) * 1000);
+            return record;
+        };
+        RecordIndex index;
+        const auto compare = [&] {
+            RecordIndex fresh;
+            fresh.reset(records, order, folders);
+            QCOMPARE(index.rows({}, order), fresh.rows({}, order));
+            QCOMPARE(index.groups(index.rows({}, order)), fresh.groups(fresh.rows({}, order)));
+            QCOMPARE(index.folders().holding(), fresh.folders().holding());
+            for (int i = 0; i < records.size(); ++i)
+                QCOMPARE(index.position(records.at(i).url), i);
+        };
+        QRandomGenerator random(20261122);
+        for (int i = 0; i < 60; ++i)
+            records.append(make(i));
+        index.reset(records, order, folders);
+        compare();
+        for (int step = 100; step < 400; step += 4) {
+            const int at = random.bounded(int(records.size()));
+            switch (random.bounded(4)) {
+            case 0: {
+                QList<int> read{ at };
+                records[at].creationDate = QDateTime::fromMSecsSinceEpoch(random.bounded(-3, 3) * 1000);
+                if (const int other = at / 2; other != at) {
+                    records[other].creationDate.reset();
+                    read.append(other);
+                }
+                index.replace(read, records);
+                break;
+            }
+            case 1:
+                records[at] = make(step);
+                index.replace({ at }, records);
+                break;
+            case 2:
+                for (int i = 0; i < 4; ++i)
+                    records.append(make(step + i));
+                index.append(records);
+                break;
+            default:
+                const int before = at / 2;
+                const QList<int> gone = before == at ? QList<int>{ at } : QList<int>{ before, at };
+                index.remove(gone);
+                for (auto i = gone.crbegin(); i != gone.crend(); ++i)
+                    records.removeAt(*i);
+            }
+            compare();
+        }
+        QCOMPARE(index.position(QUrl::fromLocalFile(u"/photos/none"_s)), -1);
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_RecordIndex)

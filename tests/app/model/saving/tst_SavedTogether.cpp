@@ -4,6 +4,7 @@
 #include "app/model/saving/SaveJob.h"
 #include "core/save/TagHomes.h"
 #include "core/save/together/PathHomes.h"
+#include "tests/app/model/Dumps.h"
 #include "tests/support/RealService.h"
 #include "tests/support/RecordedTool.h"
 
@@ -155,8 +156,6 @@ bool isFrame(const QString& tag)
     return frame.match(tag).hasMatch();
 }
 
-using Dump = QMap<QString, FileTags>;  // by file name
-
 // `types`: gains the tool's name for the type of each.
 Dump dump(const PhotoFolder& folder, QMap<QString, QString>* types = nullptr)
 {
@@ -171,22 +170,6 @@ Dump dump(const PhotoFolder& folder, QMap<QString, QString>* types = nullptr)
         tags.removeIf([](const auto& tag) { return isFrame(tag.key()); });
     }
     return files;
-}
-
-// "a.jpg: XMP-dc:Title was [One], is [Two]", for whatever is not as expected.
-QStringList differences(const Dump& expected, const Dump& found)
-{
-    QStringList texts;
-    for (auto file = expected.cbegin(); file != expected.cend(); ++file) {
-        const FileTags now = found.value(file.key());
-        QStringList keys = file->keys() + now.keys();
-        keys.removeDuplicates();
-        for (const QString& key : std::as_const(keys))
-            if (const auto wanted = file->value(key), is = now.value(key); wanted != is)
-                texts.append(u"%1: %2 should be [%3], is [%4]"_s.arg(
-                    file.key(), key, QString::fromUtf8(wanted.join("][")), QString::fromUtf8(is.join("]["))));
-    }
-    return texts;
 }
 
 // A photo's tags, as an edit is to leave them.

@@ -1,21 +1,17 @@
-// The cache of records: what it gives is what a read would give, and whatever happens to photo, tool or file, never
-// anything else.
+// The cache of records: what it gives is what a read would give, and whatever happens to photo or tool, never anything
+// else.
 #include "app/model/library/PhotoReader.h"
-#include "app/model/library/cache/RecordCache.h"
 #include "app/model/library/cache/RecordCode.h"
 #include "core/schema/FieldSchema.h"
-#include "tests/support/Support.h"
+#include "tests/app/model/library/cache/CachedPhotos.h"
 
-#include <QDirIterator>
-#include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QScopeGuard>
 #include <QTest>
 
 #include <fcntl.h>
 #include <limits>
 #include <sys/stat.h>
-#include <thread>
-#include <unistd.h>
 
 using namespace Quorbel;
 using namespace Quorbel::Test;
@@ -23,104 +19,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Records = QHash<QUrl, ImageRecord>;
-
-QByteArray localName(const QString& path)
-{
-    return QFile::encodeName(path);
-}
-
-QList<PhotoFile> looks(const QList<QUrl>& urls)
-{
-    QList<PhotoFile> files;
-    for (const QUrl& url : urls)
-        if (const auto look = PhotoFile::at(url); look.file)
-            files.append(*look.file);
-    return files;
-}
-
-// As a read gives it.
-ImageRecord recordOf(const PhotoFile& file, const QString& title)
-{
-    ImageRecord record = file.unreadRecord();
-    record.isUnread = false;
-    record.pixelWidth = 8;
-    record.values = { { u"title"_s, title } };
-    record.lists = { { u"keywords"_s, { u"one"_s, title } } };
-    record.custom = { { u"Mood"_s, u"calm"_s } };
-    record.camera = { { u"Camera"_s, u"Quorbel 1"_s } };
-    return record;
-}
-
-// A folder of photos, a tool that tells its version, and a cache beside them.
-struct Setting {
-    PhotoFolder photos;
-    PhotoFolder beside;
-    FakeTool tool;
-    QList<QUrl> urls;
-
-    explicit Setting(int count = 0)
-    {
-        tell("12.57");
-        for (int i = 0; i < count; ++i)
-            urls.append(photos.add(u"%1.jpg"_s.arg(i)));
-    }
-    void tell(const QByteArray& version) { tool.answerAlways({ .standardOutput = version + '\n' }); }
-    RecordCache::Options options() const { return { .folder = beside.path(u"records"_s) }; }
-    QString file() const { return beside.path(u"records/records.db"_s); }
-    Records records() const
-    {
-        Records all;
-        const QList<PhotoFile> files = looks(urls);
-        for (const PhotoFile& photo : files)
-            all.insert(photo.url, recordOf(photo, u"Title of "_s + photo.url.fileName()));
-        return all;
-    }
-    // Puts what would have been read now.
-    void put(RecordCache& cache) const
-    {
-        const QList<PhotoFile> files = looks(urls);
-        const Records all = records();
-        QList<RecordCache::Read> reads;
-        for (const PhotoFile& photo : files)
-            reads.append({ photo, all.value(photo.url) });
-        cache.put(cache.begin(files), reads);
-        cache.waitUntilWritten();
-    }
-    void put() const
-    {
-        RecordCache cache(options(), tool.runner());
-        put(cache);
-    }
-    Records found() const
-    {
-        RecordCache cache(options(), tool.runner());
-        return cache.find(looks(urls));
-    }
-};
-
 // The date of modification as it was, so that only the rest tells.
 void setBack(const QString& path, const struct stat& before)
 {
     const timespec times[2]{ before.st_atim, before.st_mtim };
     QCOMPARE(utimensat(AT_FDCWD, localName(path).constData(), times, 0), 0);
-}
-
-void flip(const QString& path, qsizetype at, char bits)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    QVERIFY(file.seek(at));
-    char byte = 0;
-    QVERIFY(file.getChar(&byte));
-    QVERIFY(file.seek(at));
-    QVERIFY(file.putChar(char(byte ^ bits)));
-}
-
-int modeOf(const QString& path)
-{
-    struct stat status { };
-    return stat(localName(path).constData(), &status) == 0 ? int(status.st_mode & 0777) : -1;
 }
 
 }  // namespace
@@ -142,16 +45,6 @@ private slots:
     void anotherReader();
     void toolIsNotRun();
     void trust();
-    void damage_data();
-    void damage();
-    void anyByte();
-    void removedWhileOpen();
-    void nowhereToWrite_data();
-    void nowhereToWrite();
-    void bounds_data();
-    void bounds();
-    void twoAtOnce();
-    void forTheOwnerAlone();
 };
 
 void tst_RecordCache::code_data()
@@ -490,190 +383,6 @@ void tst_RecordCache::trust()
     put(4, { coarse.changed + 1'900'000'000, beginning.reader }, coarse);
     const QUrl only = setting.urls.constFirst();
     QCOMPARE(cache.find(looks(setting.urls)), Records({ { only, records.value(only) } }));
-}
-
-void tst_RecordCache::damage_data()
-{
-    QTest::addColumn<std::function<void(const QString&)>>("harm");
-    const auto row = [](const char* name, const std::function<void(const QString&)>& harm) {
-        QTest::newRow(name) << harm;
-    };
-    row("half of it", [](const QString& path) { QVERIFY(QFile::resize(path, QFileInfo(path).size() / 2)); });
-    row("its first page", [](const QString& path) { QVERIFY(QFile::resize(path, 4096)); });
-    row("nothing of it", [](const QString& path) { QVERIFY(QFile::resize(path, 0)); });
-    row("garbage", [](const QString& path) { writeFile(path, QByteArray(50'000, 'x')); });
-    row("garbage behind its head",
-        [](const QString& path) { writeFile(path, readFile(path).first(100) + QByteArray(50'000, 'x')); });
-    row("another format", [](const QString& path) { flip(path, 63, 0x70); });  // its version, as the file has it
-    row("no tables", [](const QString& path) {
-        QByteArray bytes = readFile(path);
-        bytes.replace("CREATE TABLE record", "CREATE TABLE recard");
-        writeFile(path, bytes);
-    });
-    row("a folder in its place", [](const QString& path) {
-        QVERIFY(QFile::remove(path));
-        QVERIFY(QDir().mkdir(path));
-    });
-    row("gone", [](const QString& path) { QVERIFY(QFile::remove(path)); });
-    row("gone with its folder", [](const QString& path) { QVERIFY(QDir(QFileInfo(path).path()).removeRecursively()); });
-}
-
-// Found is nothing wrong, then or later; and after the next reads it is whole again. Without a word.
-void tst_RecordCache::damage()
-{
-    QFETCH(std::function<void(const QString&)>, harm);
-    const Setting setting(300);
-    setting.put();
-    const Records records = setting.records();
-    QCOMPARE(setting.found(), records);
-    harm(setting.file());
-    const Records found = setting.found();
-    for (const ImageRecord& record : found)
-        QCOMPARE(record, records.value(record.url));
-    setting.put();
-    QCOMPARE(setting.found(), records);
-}
-
-// One byte somewhere in the file.
-void tst_RecordCache::anyByte()
-{
-    const Setting setting(40);
-    setting.put();
-    const Records records = setting.records();
-    const QByteArray good = readFile(setting.file());
-    QRandomGenerator random(1);
-    int harmed = 0;
-    for (int round = 0; round < 300; ++round) {
-        flip(setting.file(), random.bounded(good.size()), char(1 << random.bounded(8)));
-        const Records found = setting.found();
-        for (const ImageRecord& record : found)
-            QCOMPARE(record, records.value(record.url));
-        harmed += found.size() < records.size() ? 1 : 0;
-        if (round % 50 == 0) {
-            setting.put();
-            QVERIFY(setting.found().size() <= records.size());
-        }
-        QDir(setting.beside.path(u"records"_s)).removeRecursively();
-        QDir().mkpath(setting.beside.path(u"records"_s));
-        writeFile(setting.file(), good);
-    }
-    QVERIFY(harmed > 10);
-}
-
-void tst_RecordCache::removedWhileOpen()
-{
-    const Setting setting(3);
-    RecordCache one(setting.options(), setting.tool.runner());
-    RecordCache other(setting.options(), setting.tool.runner());
-    setting.put(one);
-    setting.put(other);
-    QVERIFY(QDir(setting.beside.path(u"records"_s)).removeRecursively());
-    QCOMPARE(one.find(looks(setting.urls)), Records());
-    setting.put(other);
-    QCOMPARE(one.find(looks(setting.urls)), setting.records());
-    setting.put(one);
-    QCOMPARE(other.find(looks(setting.urls)), setting.records());
-    QCOMPARE(setting.found(), setting.records());
-}
-
-void tst_RecordCache::nowhereToWrite_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("none") << QString();
-    QTest::newRow("below a file") << u"file/records"_s;
-    QTest::newRow("a system's") << u"/proc/self/records"_s;
-}
-
-void tst_RecordCache::nowhereToWrite()
-{
-    QFETCH(QString, folder);
-    const Setting setting(2);
-    writeFile(setting.beside.path(u"file"_s), "x");
-    if (!folder.isEmpty() && !folder.startsWith(u'/'))
-        folder = setting.beside.path(folder);
-    RecordCache cache({ .folder = folder }, setting.tool.runner());
-    setting.put(cache);
-    QCOMPARE(cache.find(looks(setting.urls)), Records());
-    QCOMPARE(setting.beside.names(), QStringList{ u"file"_s });
-}
-
-void tst_RecordCache::bounds_data()
-{
-    QTest::addColumn<qint64>("mostPhotos");
-    QTest::addColumn<qint64>("mostBytes");
-    QTest::newRow("photos") << qint64(200) << (qint64(1) << 30);
-    QTest::newRow("bytes") << (qint64(1) << 30) << qint64(120'000);
-}
-
-// What was asked for last stays.
-void tst_RecordCache::bounds()
-{
-    QFETCH(qint64, mostPhotos);
-    QFETCH(qint64, mostBytes);
-    Setting setting(100);
-    auto options = setting.options();
-    options.mostPhotos = mostPhotos;
-    options.mostBytes = mostBytes;
-    options.useStep = 0;
-    RecordCache cache(options, setting.tool.runner());
-    setting.put(cache);
-    const QList<QUrl> liked = setting.urls.first(20);
-    for (int round = 1; round < 12; ++round) {
-        for (int i = 0; i < 100; ++i)
-            setting.urls[i] = setting.photos.add(u"%1-%2.jpg"_s.arg(round).arg(i));
-        setting.put(cache);
-        QTest::qWait(3);  // another time of use
-        QCOMPARE(cache.find(looks(liked)).size(), liked.size());
-        cache.waitUntilWritten();
-    }
-    QCOMPARE(cache.find(looks(setting.urls)).size(), setting.urls.size());
-    QList<QUrl> all;
-    const QStringList names = setting.photos.names();
-    for (const QString& name : names)
-        all.append(setting.photos.url(name));
-    const qsizetype kept = cache.find(looks(all)).size();
-    QVERIFY2(kept >= liked.size() + setting.urls.size() && kept < all.size() / 2, qPrintable(QString::number(kept)));
-    if (mostPhotos < all.size())
-        QVERIFY2(kept <= mostPhotos, qPrintable(QString::number(kept)));
-    else
-        QVERIFY(QFileInfo(setting.file()).size() <= 2 * mostBytes);
-}
-
-// Two programs: both write and both find, and nothing is lost.
-void tst_RecordCache::twoAtOnce()
-{
-    const Setting setting(200);
-    const Records records = setting.records();
-    const auto work = [&setting, &records](int first) {
-        RecordCache cache(setting.options(), setting.tool.runner());
-        for (int i = first; i < setting.urls.size(); i += 2) {
-            const QList<PhotoFile> files = looks({ setting.urls.at(i) });
-            cache.put(cache.begin(files), { { files.constFirst(), records.value(setting.urls.at(i)) } });
-            if (i % 10 < 2)
-                cache.waitUntilWritten();
-            for (const ImageRecord& record : cache.find(looks(setting.urls)))
-                if (record != records.value(record.url))
-                    qFatal("another record than was put");
-        }
-    };
-    std::jthread other(work, 0);
-    work(1);
-    other.join();
-    QCOMPARE(setting.found(), records);
-}
-
-void tst_RecordCache::forTheOwnerAlone()
-{
-    const Setting setting(2);
-    const mode_t usual = umask(0);
-    const auto restore = qScopeGuard([usual] { umask(usual); });
-    RecordCache cache(setting.options(), setting.tool.runner());
-    setting.put(cache);
-    QCOMPARE(modeOf(setting.beside.path(u"records"_s)), 0700);
-    int files = 0;
-    for (QDirIterator it(setting.beside.path(u"records"_s), QDir::Files); it.hasNext(); ++files)
-        QCOMPARE(modeOf(it.next()), 0600);
-    QVERIFY(files > 0);
 }
 
 QTEST_GUILESS_MAIN(tst_RecordCache)
