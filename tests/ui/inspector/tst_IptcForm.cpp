@@ -155,6 +155,17 @@ public:
         QTRY_VERIFY(model().details(photos.url(name)));
         settle();
     }
+    // The first two are selected, and known; of what they hold one text is the same.
+    bool openTwo()
+    {
+        held[u"b.jpg"_s].texts.insert(u"iptc.modelReleaseStatus"_s, u"MR-UMR"_s);
+        if (!open())
+            return false;
+        photos.select(u"ab"_s);
+        known(u"a.jpg"_s);
+        known(u"b.jpg"_s);
+        return !QTest::currentTestFailed();
+    }
     FoldingHeading* heading(const QString& title) const
     {
         for (FoldingHeading* heading : view->findChildren<FoldingHeading*>())
@@ -629,11 +640,7 @@ void tst_IptcForm::whatCannotBeReadSaysSo()
 void tst_IptcForm::severalPhotos()
 {
     Photos f;
-    f.held[u"b.jpg"_s].texts.insert(u"iptc.modelReleaseStatus"_s, u"MR-UMR"_s);
-    QVERIFY(f.open());
-    f.photos.select(u"ab"_s);
-    f.known(u"a.jpg"_s);
-    f.known(u"b.jpg"_s);
+    QVERIFY(f.openTwo());
     f.unfold(u"CONTACT"_s);
     f.unfold(u"PEOPLE"_s);
     f.unfold(u"THINGS SHOWN"_s);
@@ -655,11 +662,7 @@ void tst_IptcForm::severalPhotos()
 void tst_IptcForm::severalPhotosTellHowManyHoldSomething()
 {
     Photos f;
-    f.held[u"b.jpg"_s].texts.insert(u"iptc.modelReleaseStatus"_s, u"MR-UMR"_s);
-    QVERIFY(f.open());
-    f.photos.select(u"ab"_s);
-    f.known(u"a.jpg"_s);
-    f.known(u"b.jpg"_s);
+    QVERIFY(f.openTwo());
     QCOMPARE(f.summary(u"LOCATION SHOWN"_s), u"in 1 of 2"_s);
     QCOMPARE(f.summary(u"CONTACT"_s), u"Job title in all 2"_s);
     for (const QString& title : { u"CONTACT"_s, u"PEOPLE"_s, u"LOCATION SHOWN"_s, u"THINGS SHOWN"_s })

@@ -56,6 +56,16 @@ QMap<QString, QJsonObject> tagsOf(const QStringList& paths)
 
 }  // namespace
 
+QRandomGenerator seededMoments()
+{
+    bool isGiven = false;
+    quint32 seed = qEnvironmentVariable("QUORBEL_FAULT_SEED").toUInt(&isGiven);
+    if (!isGiven)
+        seed = QRandomGenerator::global()->generate();
+    qInfo("QUORBEL_FAULT_SEED=%u", seed);
+    return QRandomGenerator(seed);
+}
+
 const QStringList& StruckPhotos::names()
 {
     static const QStringList names{ u"a.jpg"_s, u"b.png"_s, u"c.jpg"_s, u"d.png"_s, u"e.jpg"_s };

@@ -9,11 +9,15 @@
 #include <QImage>
 #include <QMap>
 #include <QProcess>
+#include <QRandomGenerator>
 
 #include <memory>
 #include <sys/types.h>
 
 namespace Quorbel::Test {
+
+/// Other moments in each run; those of an earlier one with the QUORBEL_FAULT_SEED that it printed.
+QRandomGenerator seededMoments();
 
 /// Five photos in a folder, each titled with its own name, and how they were.
 class StruckPhotos {

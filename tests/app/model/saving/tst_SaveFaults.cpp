@@ -125,12 +125,7 @@ private:
 
 void tst_SaveFaults::initTestCase()
 {
-    bool isGiven = false;
-    quint32 seed = qEnvironmentVariable("QUORBEL_FAULT_SEED").toUInt(&isGiven);
-    if (!isGiven)
-        seed = QRandomGenerator::global()->generate();
-    m_random.seed(seed);
-    qInfo("QUORBEL_FAULT_SEED=%u", seed);
+    m_random = seededMoments();
     BatchPhotos batch;
     batch.services.journalPath = batch.settings.filePath(u"undo"_s);
     batch.relaunch();

@@ -73,12 +73,7 @@ private:
 
 void tst_SidecarFaults::initTestCase()
 {
-    bool isGiven = false;
-    quint32 seed = qEnvironmentVariable("QUORBEL_FAULT_SEED").toUInt(&isGiven);
-    if (!isGiven)
-        seed = QRandomGenerator::global()->generate();
-    m_random.seed(seed);
-    qInfo("QUORBEL_FAULT_SEED=%u", seed);
+    m_random = seededMoments();
     Raws raws;
     const StruckRaws photos(raws.directory);
     QVERIFY(raws.load({ QUrl::fromLocalFile(raws.directory) }));
