@@ -8,6 +8,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace Quorbel::Bench {
 
@@ -15,7 +16,21 @@ namespace {
 
 constexpr size_t keptEvents = 8;
 
+// What must be said before there is an application.
+int& prepared(int& argc)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    setvbuf(stdout, nullptr, _IOLBF, 0);
+    return argc;
+}
+
 }  // namespace
+
+PauseWatch::PauseWatch(int& argc, char* argv[])
+    : QApplication(prepared(argc), argv)
+{
+}
 
 void PauseWatch::begin()
 {
@@ -51,6 +66,12 @@ int PauseWatch::longerThan(double limit) const
 {
     return static_cast<int>(
         std::count_if(m_turns.begin(), m_turns.end(), [limit](double wall) { return wall > limit; }));
+}
+
+void PauseWatch::printLongestEvents() const
+{
+    for (const Event& event : m_events)
+        std::printf("    %6.1f ms, CPU %.1f ms  %s\n", event.wall, event.cpu, event.what.constData());
 }
 
 bool PauseWatch::notify(QObject* receiver, QEvent* event)

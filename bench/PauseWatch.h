@@ -12,7 +12,8 @@ namespace Quorbel::Bench {
 
 class PauseWatch final : public QApplication {
 public:
-    using QApplication::QApplication;
+    /// Draws off screen unless QT_QPA_PLATFORM says otherwise; rows are printed as they come.
+    PauseWatch(int& argc, char* argv[]);
 
     struct Turn {
         double wall = 0;  ///< milliseconds
@@ -35,6 +36,7 @@ public:
     int longerThan(double limit) const;
     /// The events that took longest, the longest first.
     const std::vector<Event>& longestEvents() const { return m_events; }
+    void printLongestEvents() const;
 
     bool notify(QObject* receiver, QEvent* event) override;
 

@@ -5,8 +5,7 @@
 #include "app/model/templates/Templates.h"
 #include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
-#include "bench/Measure.h"
-#include "bench/OpenWindow.h"
+#include "bench/ManySteps.h"
 #include "bench/PauseWatch.h"
 #include "bench/PhotoFolders.h"
 
@@ -21,7 +20,6 @@ using namespace Quorbel::Bench;
 
 namespace {
 
-constexpr double pauseBound = 50;  // ms
 constexpr int defaultCount = 5000;
 
 // Copies, since they are written to.
@@ -32,46 +30,18 @@ void copyPhotos(const PhotoFolders& folders, int count, const QString& to)
             qFatal("cannot copy %s", qPrintable(path));
 }
 
-// Begins something, and watches the main thread until it is done.
-void step(const char* what, const std::function<void()>& begin, const std::function<bool()>& isDone)
-{
-    auto& watch = *static_cast<PauseWatch*>(qApp);
-    QElapsedTimer clock;
-    clock.start();
-    watch.begin();
-    watch.handle(begin);
-    while (!isDone())
-        watch.turn();
-    const double seconds = static_cast<double>(clock.elapsed()) / 1000;
-    for (int i = 0; i < 20; ++i)
-        watch.turn();  // what it leaves behind for later
-    report(what, watch.longest().wall, " ms", pauseBound,
-        u"longest pause; CPU %1 ms; %2 s in all"_s.arg(watch.longest().cpu, 0, 'f', 1).arg(seconds, 0, 'f', 1));
-    if (watch.longest().wall > pauseBound)
-        for (const auto& event : watch.longestEvents())
-            std::printf("    %6.1f ms, CPU %.1f ms  %s\n", event.wall, event.cpu, event.what.constData());
-}
-
-class Day {
+class Day final : ManySteps {
 public:
     explicit Day(int count)
         : m_count(count)
-        , m_window(tool(), OpenWindow::Thumbnails::on)
-        , m_model(m_window.model())
     {
         copyPhotos(m_folders, count, m_folder.path());
-        m_model.preferences().backupOriginals.set(false);
-        m_model.preferences().confirmMassEdit.set(false);
     }
 
     void run()
     {
-        step(
-            "open", [this] { m_model.load({ QUrl::fromLocalFile(m_folder.path()) }); },
-            [this] { return m_window.hasRead(m_count); });
-        step(
-            "select all", [this] { m_model.selectAllPhotos(); },
-            [this] { return m_model.selection().size() == m_count; });
+        open(m_count);
+        selectAll(m_count);
         words();
         filters();
         renames();
@@ -79,28 +49,6 @@ public:
     }
 
 private:
-    static ExifToolRunner tool()
-    {
-        const auto found = ExifToolRunner::locate();
-        if (!found)
-            qFatal("no ExifTool");
-        return *found;
-    }
-
-    bool isIdle() const { return !m_model.isSaving() && !m_model.isWorking(); }
-    void save(const char* what)
-    {
-        step(
-            what, [this] { m_model.requestSave(); }, [this] { return m_model.unsavedCount() == 0 && isIdle(); });
-        if (m_model.errorMessage())
-            std::printf("    %s\n", qPrintable(m_model.errorMessage()->left(200)));
-    }
-    void undoSave(const char* what)
-    {
-        step(
-            what, [this] { m_model.undoSave(); }, [this] { return isIdle(); });
-    }
-
     void words()
     {
         step(
@@ -114,7 +62,7 @@ private:
             "one of them taken away", [&] { m_model.takeBatchItemAway(u"keywords"_s, keyword); }, [] { return true; });
         fillTemplate();
         save("save: own titles, a keyword more, one less");
-        undoSave("undo of that");
+        undoSave();
         FieldPasting& pasting = m_model.pasting();
         step(
             "copy", [&] { pasting.copy(); }, [&] { return pasting.canPaste(); });
@@ -128,7 +76,7 @@ private:
         step(
             "paste", [&] { pasting.paste(); }, [&] { return !pasting.isOpen(); });
         save("save: the same for all");
-        undoSave("undo of that");
+        undoSave();
     }
 
     void fillTemplate()
@@ -156,9 +104,7 @@ private:
             [&] { return filtering.filter().isLimiting() && isIdle() && m_model.visibleRows().isEmpty(); });
         step(
             "no filter", [&] { filtering.clear(); }, [&] { return m_model.visibleRows().size() == m_count; });
-        step(
-            "select all", [this] { m_model.selectAllPhotos(); },
-            [this] { return m_model.selection().size() == m_count; });
+        selectAll(m_count);
     }
 
     void renames()
@@ -185,24 +131,18 @@ private:
             [&] { return shifting.canShift(); });
         step(
             "shift", [&] { shifting.shift(); }, [&] { return !shifting.isOpen() && isIdle(); });
-        undoSave("undo of that");
+        undoSave();
     }
 
     int m_count;
     PhotoFolders m_folders;
-    QTemporaryDir m_folder;
-    OpenWindow m_window;
-    AppModel& m_model;
 };
 
 }  // namespace
 
 int main(int argc, char* argv[])
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    PauseWatch application(argc, argv);
-    setvbuf(stdout, nullptr, _IOLBF, 0);
+    const PauseWatch application(argc, argv);
     const int asked = QApplication::arguments().value(1).toInt();
     Day(asked > 0 ? asked : defaultCount).run();
     return 0;

@@ -405,11 +405,8 @@ int runRows(const QStringList& names)
 
 int main(int argc, char* argv[])
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    PauseWatch application(argc, argv);
+    const PauseWatch application(argc, argv);
     QStringList arguments = QApplication::arguments().sliced(1);
-    setvbuf(stdout, nullptr, _IOLBF, 0);
     const bool isRow = arguments.value(0) == QLatin1String("--row");
     if (isRow)
         arguments.removeFirst();

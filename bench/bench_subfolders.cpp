@@ -106,18 +106,14 @@ void measurePauses(const Tree& tree)
     const auto longest = watch.longest();
     report("longest pause meanwhile", longest.wall, " ms", pauseBound,
         u"CPU %1 ms; %2 pauses beyond"_s.arg(longest.cpu, 0, 'f', 1).arg(watch.longerThan(pauseBound)));
-    for (const auto& event : watch.longestEvents())
-        std::printf("    %6.1f ms, CPU %.1f ms  %s\n", event.wall, event.cpu, event.what.constData());
+    watch.printLongestEvents();
 }
 
 }  // namespace
 
 int main(int argc, char* argv[])
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    PauseWatch application(argc, argv);
-    setvbuf(stdout, nullptr, _IOLBF, 0);
+    const PauseWatch application(argc, argv);
     const Tree tree;
     measureTimes(tree);
     measurePauses(tree);
