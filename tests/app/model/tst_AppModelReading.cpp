@@ -55,10 +55,11 @@ struct ManyPhotos : GatedTool, ModelFixture {
         click(name);
         return QTest::qWaitFor([this, name] { return isRead(name); }, 30000);
     }
+    // Many are read at low priority, which takes its time beside other programs.
     bool finish()
     {
         release();
-        return waitUntilIdle();
+        return QTest::qWaitFor([this] { return !model->isWorking(); }, 120'000);
     }
     int unread() const
     {

@@ -27,7 +27,7 @@ bool HalfRead::openHalf(QSize size)
     if (!show(size))
         return false;
     model().load({ photos.folderURL() });
-    return QTest::qWaitFor([this] { return unread() == QStringList{ u"a.jpg"_s }; }, 30'000);
+    return QTest::qWaitFor([this] { return unread() == QStringList{ u"a.jpg"_s }; }, 120'000);
 }
 
 bool HalfRead::openUnread(QSize size)
@@ -42,7 +42,8 @@ bool HalfRead::openUnread(QSize size)
 bool HalfRead::readAll()
 {
     tool.release();
-    return QTest::qWaitFor([this] { return !model().records().isEmpty() && unread().isEmpty(); }, 30'000);
+    // Many are read at low priority, which takes its time beside other programs.
+    return QTest::qWaitFor([this] { return !model().records().isEmpty() && unread().isEmpty(); }, 120'000);
 }
 
 QStringList HalfRead::unread() const

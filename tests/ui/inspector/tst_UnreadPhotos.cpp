@@ -233,7 +233,7 @@ void tst_UnreadPhotos::noneOfABatchIsRead()
     f.model().closeFolder();
     f.tool.shut();
     f.model().load({ f.photos.folderURL() });
-    QTRY_COMPARE(f.model().records().size(), 72);
+    QTRY_COMPARE_WITH_TIMEOUT(f.model().records().size(), 72, 30'000);
     QCOMPARE(controls(f.view->findChild<InspectorForm*>()), QStringList());
     QVERIFY(f.readAll());
 }
