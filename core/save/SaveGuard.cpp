@@ -66,6 +66,19 @@ QList<QUrl> filesBehindLinks(const QList<QUrl>& targets)
     return files;
 }
 
+QList<FileFailure> ofTargets(const QList<FileFailure>& failures, const QList<QUrl>& targets)
+{
+    const QList<QUrl> files = filesBehindLinks(targets);
+    QHash<QUrl, QString> reasons;
+    for (const FileFailure& failure : failures)
+        reasons.insert(failure.file, failure.reason);
+    QList<FileFailure> named;
+    for (qsizetype i = 0; i < files.size(); ++i)
+        if (const auto reason = reasons.constFind(files.at(i)); reason != reasons.cend())
+            named.append({ targets.at(i), *reason });
+    return named;
+}
+
 bool isReadOnly(const QUrl& file)
 {
     const QByteArray path = nativePath(file);

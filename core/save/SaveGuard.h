@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/text/Errors.h"
+#include "core/tool/WriteFailures.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -15,6 +16,9 @@ namespace Quorbel::SaveGuard {
 /// The files behind the targets: a symbolic link stands for what it points to, since ExifTool would replace the
 /// link by an edited copy. A target that is no link is passed on as it stands. Order and number are kept.
 QList<QUrl> filesBehindLinks(const QList<QUrl>& targets);
+
+/// Failures of the files behind these targets, told of the targets that stand for them.
+QList<FileFailure> ofTargets(const QList<FileFailure>& failures, const QList<QUrl>& targets);
 
 /// Whether the file may not be written to, though ExifTool would replace it all the same.
 bool isReadOnly(const QUrl& file);

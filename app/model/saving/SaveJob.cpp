@@ -29,15 +29,7 @@ namespace {
 // The tool is given the files behind symbolic links and names those; told of the targets that stand for them.
 QList<FileFailure> namedFailures(const ToolError& error, const QList<QUrl>& targets)
 {
-    const QList<QUrl> files = SaveGuard::filesBehindLinks(targets);
-    QHash<QUrl, QString> reasons;
-    for (const FileFailure& failure : writeFailures(error.messages(), files))
-        reasons.insert(failure.file, failure.reason);
-    QList<FileFailure> failures;
-    for (qsizetype i = 0; i < files.size(); ++i)
-        if (const auto reason = reasons.constFind(files.at(i)); reason != reasons.cend())
-            failures.append({ targets.at(i), *reason });
-    return failures;
+    return SaveGuard::ofTargets(writeFailures(error.messages(), SaveGuard::filesBehindLinks(targets)), targets);
 }
 
 EditPlan withoutHomes(EditPlan plan, const QStringList& homes)

@@ -49,15 +49,7 @@ QList<SafeWriter::Portion> portions(const QList<QUrl>& files, const QHash<QUrl, 
 // The tool is given the files behind symbolic links and names those; told of the targets that stand for them.
 QList<FileFailure> namedFailures(const ToolError& error, const QList<QUrl>& targets)
 {
-    const QList<QUrl> files = SaveGuard::filesBehindLinks(targets);
-    QHash<QUrl, QString> reasons;
-    for (const FileFailure& failure : writeFailures(error, files))
-        reasons.insert(failure.file, failure.reason);
-    QList<FileFailure> failures;
-    for (qsizetype i = 0; i < files.size(); ++i)
-        if (const auto reason = reasons.constFind(files.at(i)); reason != reasons.cend())
-            failures.append({ targets.at(i), *reason });
-    return failures;
+    return SaveGuard::ofTargets(writeFailures(error, SaveGuard::filesBehindLinks(targets)), targets);
 }
 
 // What keeps one portion from being written says nothing of the others.
