@@ -5,10 +5,12 @@
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
+#include <QAbstractItemModel>
 #include <QAbstractScrollArea>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyleOptionViewItem>
 
 namespace Quorbel {
 
@@ -28,6 +30,14 @@ OverlayScrollBar* OverlayScrollBar::attach(QAbstractScrollArea* area)
 int OverlayScrollBar::room()
 {
     return px(stripWidth);
+}
+
+QRectF OverlayScrollBar::rowBeside(const QStyleOptionViewItem& option, const QModelIndex& index, int mostRows)
+{
+    QRectF row(option.rect);
+    if (index.model()->rowCount() > mostRows)
+        row.setRight(row.right() - room());
+    return mirrored(row, QRectF(option.rect), option.direction);
 }
 
 OverlayScrollBar::OverlayScrollBar(QAbstractScrollArea* area)

@@ -8,6 +8,8 @@
 #include <QWidget>
 
 class QAbstractScrollArea;
+class QModelIndex;
+class QStyleOptionViewItem;
 
 namespace Quorbel {
 
@@ -21,6 +23,8 @@ public:
     static OverlayScrollBar* attach(QAbstractScrollArea* area);
     /// In pixels, what it lies over at the right: for content that must not lie under it.
     static int room();
+    /// The row of a list beside it; one that scrolls when it has more rows than `mostRows`.
+    static QRectF rowBeside(const QStyleOptionViewItem& option, const QModelIndex& index, int mostRows);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

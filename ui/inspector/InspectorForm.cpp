@@ -138,6 +138,11 @@ void InspectorForm::leave()
     endWaiting();
     for (FormSection* section : m_sections)
         section->hide();
+    hideBelowSections();
+}
+
+void InspectorForm::hideBelowSections()
+{
     m_iptc->hide();
     m_beside->hide();
     m_shownIds = {};
@@ -183,12 +188,7 @@ void InspectorForm::showBlocks()
     }
     if (m_keywordRows)
         m_keywordRows->hide();
-    m_iptc->hide();
-    m_beside->hide();
-    m_shownIds = {};
-    m_map->setPoint(std::nullopt, false);
-    m_customs->hide();
-    m_cameraSection->hide();
+    hideBelowSections();
     m_sections.front()->setReading(true);
 }
 

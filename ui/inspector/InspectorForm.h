@@ -75,6 +75,7 @@ private:
 
     void awaitRecords();
     void showBlocks();
+    void hideBelowSections();
     void endWaiting();
     void takeMouse(bool on);
     QList<FieldRow*> rowsOf(const QStringList& ids, bool fresh);

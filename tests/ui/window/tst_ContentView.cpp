@@ -72,6 +72,21 @@ QPalette paletteOf(const QColor& window, const QColor& text)
     return palette;
 }
 
+// "a.jpg" is red, all others are blue.
+ThumbnailStoreOptions redAndBlue()
+{
+    ThumbnailStoreOptions options;
+    options.decode = [](const QString& path, int, const std::stop_token&) {
+        DecodedImage decoded;
+        decoded.outcome = DecodedImage::Outcome::decoded;
+        decoded.image = QImage(300, 200, QImage::Format_RGB32);
+        decoded.image.fill(path.endsWith(QLatin1String("a.jpg")) ? Qt::red : Qt::blue);
+        return decoded;
+    };
+    options.embedded = [](const QString&, const std::stop_token&) { return QImage(); };
+    return options;
+}
+
 }  // namespace
 
 class tst_ContentView : public QObject {
@@ -746,16 +761,7 @@ void tst_ContentView::appearanceIsFollowedLive()
 
 void tst_ContentView::previewShowsThePhotoOrTheStack()
 {
-    ThumbnailStoreOptions options;
-    options.decode = [](const QString& path, int, const std::stop_token&) {
-        DecodedImage decoded;
-        decoded.outcome = DecodedImage::Outcome::decoded;
-        decoded.image = QImage(300, 200, QImage::Format_RGB32);
-        decoded.image.fill(path.endsWith(QLatin1String("a.jpg")) ? Qt::red : Qt::blue);
-        return decoded;
-    };
-    options.embedded = [](const QString&, const std::stop_token&) { return QImage(); };
-    ThumbnailStore thumbs(options);
+    ThumbnailStore thumbs(redAndBlue());
     WindowFixture fixture(&thumbs);
     fixture.open({ u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s });
     fixture.window->resize(1440, 900);
@@ -777,16 +783,7 @@ void tst_ContentView::previewShowsThePhotoOrTheStack()
 // The picture is what one sees and opens, and both types are told, to the eye and to the ear.
 void tst_ContentView::aRawFileAndItsPictureAreOneRow()
 {
-    ThumbnailStoreOptions options;
-    options.decode = [](const QString& path, int, const std::stop_token&) {
-        DecodedImage decoded;
-        decoded.outcome = DecodedImage::Outcome::decoded;
-        decoded.image = QImage(300, 200, QImage::Format_RGB32);
-        decoded.image.fill(path.endsWith(QLatin1String("a.jpg")) ? Qt::red : Qt::blue);
-        return decoded;
-    };
-    options.embedded = [](const QString&, const std::stop_token&) { return QImage(); };
-    ThumbnailStore thumbs(options);
+    ThumbnailStore thumbs(redAndBlue());
     WindowFixture fixture(&thumbs);
     QList<QUrl> opened;
     fixture.window.reset();

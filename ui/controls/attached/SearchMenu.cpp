@@ -36,10 +36,7 @@ public:
         painter->setLayoutDirection(option.direction);
         const Theme& theme = Theme::of(option.widget);
         const bool active = option.state.testFlag(QStyle::State_Selected);
-        QRect row = option.rect;
-        if (index.model()->rowCount() > SearchMenu::mostRows)
-            row.setRight(row.right() - OverlayScrollBar::room());
-        row = mirrored(QRectF(row), QRectF(option.rect), option.direction).toRect();
+        const QRect row = OverlayScrollBar::rowBeside(option, index, SearchMenu::mostRows).toRect();
         if (active)
             paintBox(*painter, row, pxF(6), theme.sel, Qt::NoPen);
         const QString code = index.data(codeRole).toString();

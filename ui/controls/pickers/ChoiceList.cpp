@@ -44,10 +44,7 @@ public:
         painter->setLayoutDirection(option.direction);
         const Theme& theme = Theme::of(m_list);
         const bool active = option.state.testFlag(QStyle::State_Selected);
-        QRectF row(option.rect);
-        if (index.model()->rowCount() > ChoiceList::mostRows)
-            row.setRight(row.right() - OverlayScrollBar::room());
-        row = mirrored(row, QRectF(option.rect), option.direction);
+        const QRectF row = OverlayScrollBar::rowBeside(option, index, ChoiceList::mostRows);
         const auto placed = [&](const QRectF& place) { return mirrored(place, row, option.direction); };
         if (active)
             paintBox(*painter, row, pxF(6), theme.sel, Qt::NoPen);

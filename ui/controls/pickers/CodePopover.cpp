@@ -73,10 +73,7 @@ public:
     {
         painter->setLayoutDirection(option.direction);
         const Theme& theme = Theme::of(option.widget);
-        QRectF row(option.rect);
-        if (index.model()->rowCount() > m_mostRows)
-            row.setRight(row.right() - OverlayScrollBar::room());
-        row = mirrored(row, QRectF(option.rect), option.direction);
+        const QRectF row = OverlayScrollBar::rowBeside(option, index, m_mostRows);
         if (option.state.testFlag(QStyle::State_Selected))
             paintBox(*painter, row, pxF(6), theme.derived.hover, HighContrast::groundEdge(theme));
         const QString note = index.data(noteRole).toString();

@@ -4,7 +4,6 @@
 #include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Metrics.h"
-#include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"
 #include "ui/controls/theme/Theme.h"
 
@@ -37,10 +36,7 @@ public:
     {
         painter->setLayoutDirection(option.direction);
         const Theme& theme = Theme::of(option.widget);
-        QRect row = option.rect;
-        if (index.model()->rowCount() > PlacePopover::mostRows)
-            row.setRight(row.right() - OverlayScrollBar::room());
-        row = mirrored(QRectF(row), QRectF(option.rect), option.direction).toRect();
+        const QRect row = OverlayScrollBar::rowBeside(option, index, PlacePopover::mostRows).toRect();
         if (option.state.testFlag(QStyle::State_Selected))
             paintBox(*painter, row, pxF(6), theme.derived.hover, HighContrast::groundEdge(theme));
         const QRect title(
