@@ -1,8 +1,10 @@
-// All tags of the photos in a folder, and where they are not as a test expects. Thread: any.
+// Photos that are copied for each row, all their tags, and where these are not as a test expects. Thread: any.
 #pragma once
 
 #include "core/tool/TagDump.h"
+#include "tests/support/Support.h"
 
+#include <QFile>
 #include <QMap>
 #include <QStringList>
 
@@ -26,6 +28,17 @@ inline QStringList differences(const Dump& expected, const Dump& found)
                     file.key(), key, QString::fromUtf8(wanted.join("][")), QString::fromUtf8(is.join("]["))));
     }
     return texts;
+}
+
+/// Copies of all photos of a folder in another one.
+inline QList<QUrl> copied(const PhotoFolder& from, const PhotoFolder& to)
+{
+    QList<QUrl> urls;
+    for (const QString& name : from.names()) {
+        QFile::copy(from.path(name), to.path(name));
+        urls.append(to.url(name));
+    }
+    return urls;
 }
 
 }  // namespace Quorbel::Test

@@ -118,15 +118,7 @@ public:
             if (QFile::exists(real + name))
                 put(m_folder.add(name, readFile(real + name)), languages + allPaths + bothKeywords + dates);
     }
-    QList<QUrl> copyTo(const PhotoFolder& folder) const
-    {
-        QList<QUrl> urls;
-        for (const QString& name : m_folder.names()) {
-            QFile::copy(m_folder.path(name), folder.path(name));
-            urls.append(folder.url(name));
-        }
-        return urls;
-    }
+    QList<QUrl> copyTo(const PhotoFolder& folder) const { return copied(m_folder, folder); }
 
 private:
     static void put(const QUrl& photo, const QStringList& tags)

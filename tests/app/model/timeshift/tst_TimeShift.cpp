@@ -78,15 +78,7 @@ public:
                 arguments += argumentsFor(everyDate(), m_folder.add(name, readFile(real + name)).toLocalFile());
         exiftool(arguments);
     }
-    QList<QUrl> copyTo(const PhotoFolder& folder) const
-    {
-        QList<QUrl> urls;
-        for (const QString& name : m_folder.names()) {
-            QFile::copy(m_folder.path(name), folder.path(name));
-            urls.append(folder.url(name));
-        }
-        return urls;
-    }
+    QList<QUrl> copyTo(const PhotoFolder& folder) const { return copied(m_folder, folder); }
 
 private:
     PhotoFolder m_folder;
