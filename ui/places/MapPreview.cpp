@@ -75,6 +75,7 @@ void MapPreview::ask()
     request.dark = Theme::of(this).isDark;
     request.font = sansFont(10);
     request.textScale = pxF(1);
+    request.direction = layoutDirection();
     m_request = m_renderer->render(request, [this](const PlaceResult<MapImage>& result) {
         m_map = result.error == PlaceError::none ? result.value : MapImage{};
         update();

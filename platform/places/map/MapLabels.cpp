@@ -56,16 +56,23 @@ void putNearestFirst(QList<SeenTown>& towns, double kilometersAcross)
 }
 
 // Where a name may stand, the best place first.
-std::array<QRectF, 6> candidates(const QPointF& dot, const QSizeF& text, const QPointF& center, qreal textScale)
+std::array<QRectF, 6> candidates(
+    const QPointF& dot, const QSizeF& text, const QPointF& center, qreal textScale, Qt::LayoutDirection direction)
 {
     const double w = text.width();
     const double h = text.height();
     const double away = gap * textScale + 1;
     const double besideMarker = 14 * textScale;
-    return { QRectF(dot.x() + away, dot.y() - h / 2, w, h), QRectF(dot.x() - away - w, dot.y() - h / 2, w, h),
-        QRectF(dot.x() - w / 2, dot.y() + away - 2, w, h), QRectF(dot.x() - w / 2, dot.y() - away + 2 - h, w, h),
+    std::array<QRectF, 6> places{ QRectF(dot.x() + away, dot.y() - h / 2, w, h),
+        QRectF(dot.x() - away - w, dot.y() - h / 2, w, h), QRectF(dot.x() - w / 2, dot.y() + away - 2, w, h),
+        QRectF(dot.x() - w / 2, dot.y() - away + 2 - h, w, h),
         QRectF(center.x() + besideMarker, center.y() - h - 2, w, h),
         QRectF(center.x() - besideMarker - w, center.y() - h - 2, w, h) };
+    if (direction == Qt::RightToLeft) {
+        std::swap(places[0], places[1]);
+        std::swap(places[4], places[5]);
+    }
+    return places;
 }
 
 bool touchesAny(const QRectF& box, const QList<QRectF>& others, double across, double above)
@@ -100,7 +107,7 @@ QList<SeenTown> seenTowns(const MapFile& file, const MapProjection& projection)
 }
 
 QList<MapLabel> placeLabels(QList<SeenTown> towns, const MapProjection& projection, const QFont& font, qreal textScale,
-    const QList<QRectF>& reserved)
+    const QList<QRectF>& reserved, Qt::LayoutDirection direction)
 {
     const QRectF image(QPointF(), projection.size());
     const QRectF room = image.adjusted(4, 2, -4, -2);
@@ -121,7 +128,7 @@ QList<MapLabel> placeLabels(QList<SeenTown> towns, const MapProjection& projecti
         const auto written = labelFont(font, town.rank, textScale);
         const QFontMetricsF metrics(written);
         const QSizeF size(metrics.horizontalAdvance(town.name), metrics.height());
-        const auto places = candidates(town.at, size, image.center(), textScale);
+        const auto places = candidates(town.at, size, image.center(), textScale, direction);
         const bool isAtCenter = QLineF(town.at, image.center()).length() < besideCenter;
         const QRectF dot(town.at - QPointF(3, 3), QSizeF(6, 6));
         const auto isFree = [&](const QRectF& box) {

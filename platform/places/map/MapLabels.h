@@ -30,8 +30,9 @@ struct MapLabel {
 };
 
 /// Names that touch neither each other nor the reserved boxes nor the image's edge. The town under the centre comes
-/// first, then the others by rank. `textScale` makes all of it larger.
+/// first, then the others by rank. `textScale` makes all of it larger. Beside its dot a name stands where `direction`
+/// leads to, if it can.
 QList<MapLabel> placeLabels(QList<SeenTown> towns, const MapProjection& projection, const QFont& font, qreal textScale,
-    const QList<QRectF>& reserved);
+    const QList<QRectF>& reserved, Qt::LayoutDirection direction = Qt::LeftToRight);
 
 }  // namespace Quorbel

@@ -84,7 +84,8 @@ MapProjection Scene::chooseScale()
     for (;;) {
         const MapProjection projection(m_request.center, size, across);
         m_towns = seenTowns(*m_data.towns, projection);
-        m_labels = placeLabels(m_towns, projection, m_request.font, m_request.textScale, reservedBoxes());
+        m_labels =
+            placeLabels(m_towns, projection, m_request.font, m_request.textScale, reservedBoxes(), m_request.direction);
         if (!m_request.widen || m_labels.size() >= fewestLabels(across) || across >= farthest || m_isCancelled())
             return projection;
         across = std::min(across * widening, farthest);
@@ -107,9 +108,13 @@ QList<QRectF> Scene::reservedBoxes() const
     const double height = m_request.size.height();
     const double scale = m_request.textScale;
     const double credit = QFontMetricsF(font(9)).horizontalAdvance(attributionText) + 16 * scale;
-    return { QRectF(width / 2 - 10 * scale, height / 2 - 24 * scale, 20 * scale, 28 * scale),
+    QList<QRectF> boxes{ QRectF(width / 2 - 10 * scale, height / 2 - 24 * scale, 20 * scale, 28 * scale),
         QRectF(0, height - 24 * scale, std::max(84 * scale, 0.17 * width), 24 * scale),
         QRectF(width - credit, height - 20 * scale, credit, 20 * scale) };
+    if (m_request.direction == Qt::RightToLeft)
+        for (QRectF& box : boxes)
+            box.moveLeft(width - box.right());
+    return boxes;
 }
 
 MapImage Scene::draw()
@@ -275,12 +280,15 @@ void Scene::drawScaleBar(QPainter& painter) const
     const double kilometers = *std::max(length, std::begin(lengths));
     const double bottom = m_request.size.height() - 7;
     const auto text = kilometers < 1 ? u"%1 m"_s.arg(kilometers * 1000) : u"%1 km"_s.arg(kilometers);
-    const QLineF bar(8, bottom, 8 + kilometers * m_projection.scale(), bottom);
+    const bool isAtRight = m_request.direction == Qt::RightToLeft;
+    const auto left = [&](double width) { return isAtRight ? m_request.size.width() - 8 - width : 8; };
+    const double barWidth = kilometers * m_projection.scale();
+    const QLineF bar(left(barWidth), bottom, left(barWidth) + barWidth, bottom);
     painter.setPen(QPen(m_palette.halo, 3.2, Qt::SolidLine, Qt::SquareCap));
     painter.drawLine(bar);
     painter.setPen(QPen(m_palette.text, 1.2, Qt::SolidLine, Qt::FlatCap));
     painter.drawLine(bar);
-    drawText(painter, QPointF(8, bottom - 4), font(9), text);
+    drawText(painter, QPointF(left(QFontMetricsF(font(9)).horizontalAdvance(text)), bottom - 4), font(9), text);
 }
 
 }  // namespace

@@ -18,13 +18,14 @@ struct MapRequest {
     bool dark = false;
     QFont font{};  ///< its family; the sizes are the map's own
     qreal textScale = 1;  ///< how much larger than at the desktop's normal font size
+    Qt::LayoutDirection direction = Qt::LeftToRight;  ///< names stand after their dots, the scale in the corner before
     bool widen = true;  ///< zooms out until there is something to see
 };
 
 struct MapImage {
     QImage image{};  ///< with its device pixel ratio set; no marker on it
     double kilometersAcross = 0;  ///< what was drawn, after widening
-    QString attribution{};  ///< to show on the map, bottom right, where room is left for it
+    QString attribution{};  ///< to show on the map, bottom right (left where one reads from there), where room is left for it
 };
 
 class MapRenderer {

@@ -139,6 +139,7 @@ private slots:
     void size();
     void widens();
     void labelsKeepApart();
+    void fromRightToLeft();
     void cancelled();
     void missing_data();
     void missing();
@@ -306,6 +307,33 @@ void tst_MapRenderer::labelsKeepApart()
             QVERIFY2(i == k || (!labels[i].box.intersects(labels[k].box) && !labels[i].box.contains(labels[k].dot)),
                 qPrintable(labels[i].text + labels[k].text));
     }
+}
+
+// The scale stands where one begins to read, a name after its dot.
+void tst_MapRenderer::fromRightToLeft()
+{
+    auto request = requestAt(-45, -140);  // nothing but sea
+    request.size = { 500, 96 };
+    request.textScale = 1;
+    const QImage usual = render(m_world.path(), request).value.image;
+    request.direction = Qt::RightToLeft;
+    const QImage turned = render(m_world.path(), request).value.image;
+    QRect changed;
+    for (int y = 0; y < usual.height(); ++y)
+        for (int x = 0; x < usual.width(); ++x)
+            if (usual.pixel(x, y) != turned.pixel(x, y))
+                changed |= QRect(x, y, 1, 1);
+    QVERIFY(changed.top() > 70 && changed.left() < 10 && changed.right() > 490);
+    for (const QImage& image : { usual, turned })  // each corner has it in one of them
+        QVERIFY(image.pixel(8, 89) != image.pixel(491, 89));
+
+    const MapProjection projection({ 48, 8 }, { 500, 96 }, 150);
+    const QList<SeenTown> towns{ { QPointF(250, 30), 10, 200, 0, 1000, u"Bern"_s } };
+    const auto first = [&](Qt::LayoutDirection direction) {
+        return placeLabels(towns, projection, QFont(), 1, {}, direction).value(0).box;
+    };
+    QVERIFY(first(Qt::LeftToRight).left() > 250);
+    QVERIFY(first(Qt::RightToLeft).right() < 250 && !first(Qt::RightToLeft).isEmpty());
 }
 
 void tst_MapRenderer::cancelled()
