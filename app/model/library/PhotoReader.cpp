@@ -74,9 +74,9 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
         PhotoRead::Outcome outcome = service.readEach(readable, control);
         result.records = std::move(outcome.records);
         for (const FileFailure& failure : std::as_const(outcome.leftOut))
-            result.leftOut.append({ failure.file.fileName(), inSentence(failure.reason) });
+            result.leftOut.append({ failure.file.fileName(), Texts::continued(failure.reason) });
         for (const FileFailure& failure : std::as_const(outcome.sidecars)) {
-            result.leftOut.append({ failure.file.fileName(), inSentence(failure.reason), true });
+            result.leftOut.append({ failure.file.fileName(), Texts::continued(failure.reason), true });
             brokenSidecars.insert(failure.file);
         }
     } catch (const CancelledError&) {
@@ -91,11 +91,6 @@ Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgres
     if (cache)
         cache->put(beginning, std::move(unchanged));
     return result;
-}
-
-QString inSentence(const QString& reason)
-{
-    return Texts::continued(reason);
 }
 
 QString leftOutText(const QList<LeftOut>& files)

@@ -32,8 +32,6 @@ struct Result {
 Result read(const MetadataService& service, const QList<QUrl>& urls, TaskProgress& progress, std::stop_token stop,
     const std::shared_ptr<RecordCache>& cache = {});
 
-/// A reason as it stands within a sentence: "file format error", "XMP format error".
-QString inSentence(const QString& reason);
 /// The banner's text for these files; at least one. Photos whose sidecars are broken are not left out.
 QString leftOutText(const QList<LeftOut>& files);
 

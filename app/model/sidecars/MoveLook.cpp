@@ -1,6 +1,6 @@
 #include "app/model/sidecars/MoveLook.h"
 
-#include "app/model/library/PhotoReader.h"
+#include "app/model/library/PhotoFile.h"
 #include "app/model/sidecars/OwnSidecar.h"
 #include "core/details/DetailsRead.h"
 #include "core/language/Texts.h"
@@ -28,7 +28,7 @@ bool isReadOnly(const QString& path)
 
 QString named(const QString& path, const QString& reason)
 {
-    return u"%1 (%2)"_s.arg(QFileInfo(path).fileName(), PhotoReader::inSentence(reason));
+    return u"%1 (%2)"_s.arg(QFileInfo(path).fileName(), Texts::continued(reason));
 }
 
 class Looking {
