@@ -74,10 +74,11 @@ void append32(QByteArray& bytes, qsizetype value)
     bytes.append(reinterpret_cast<const char*>(&number), sizeof number);
 }
 
-// The table of names: family, style, full name and PostScript name, in English for Unicode.
-QByteArray nameTable(const QString& family)
+// The table of names: family, style, full name and PostScript name, in English for Unicode. By the style's name Qt looks
+// for a face of the fonts that have what this one lacks: "Regular" would be taken before the weight.
+QByteArray nameTable(const QString& family, const QString& style)
 {
-    const QList<std::pair<int, QString>> names{ { 1, family }, { 2, u"Regular"_s }, { 4, family },
+    const QList<std::pair<int, QString>> names{ { 1, family }, { 2, style }, { 4, family },
         { 6, QString(family).remove(u' ') } };
     QByteArray records;
     QByteArray texts;
@@ -136,7 +137,7 @@ QString copied(const QRawFont& face, const QString& family)
     if (!hasOutlines || !tables.contains("cmap") || size > mostBytes)
         return {};
     tables.insert("GSUB", thinned);
-    tables.insert("name", nameTable(family));
+    tables.insert("name", nameTable(family, face.styleName()));
     const int id = QFontDatabase::addApplicationFontFromData(fontFile(tables));
     return QFontDatabase::applicationFontFamilies(id).value(0);
 }
