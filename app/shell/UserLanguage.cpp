@@ -1,6 +1,7 @@
 #include "app/shell/UserLanguage.h"
 
 #include "core/Product.h"
+#include "core/language/Texts.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -66,11 +67,12 @@ QList<Languages::Language> all()
 void speak(QGuiApplication& application)
 {
     const QString choice = chosen();
-    const QString code = Languages::wanted(choice, QLocale::system().uiLanguages(), all());
+    const QString code = Languages::wanted(choice, QLocale::system().uiLanguages(), Languages::codesIn(folder()));
     if (!Languages::use(code, folder()))
         return;
     QLocale::setDefault(localeFor(code, code == choice));
-    useQtTexts(application, QLocale(code));
+    if (!Texts::isEnglish())
+        useQtTexts(application, QLocale(code));
     QGuiApplication::setLayoutDirection(QLocale(code).textDirection());
 }
 

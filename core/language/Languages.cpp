@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString english = u"en"_s;
+const QString prefix = u"quorbel_"_s;
 
 struct Source {
     const char* text;
@@ -25,10 +26,10 @@ constexpr Source nameOfLanguage =
     QT_TRANSLATE_NOOP3("Quorbel::Texts", "English", "name of this language");
 
 // Each file says what its language is called in itself. Nothing of one that cannot be read.
-QString ownName(const QFileInfo& file)
+QString ownName(const QString& folder, const QString& code)
 {
     QTranslator translator;
-    if (!translator.load(file.filePath()))
+    if (!translator.load(prefix + code, folder))
         return {};
     return translator.translate(Texts::context(), nameOfLanguage.text, nameOfLanguage.meaning);
 }
@@ -43,30 +44,34 @@ bool serves(const QString& code, const QLocale& wanted)
 
 }  // namespace
 
+QStringList codesIn(const QString& folder)
+{
+    QStringList codes{ english };
+    for (const QFileInfo& file : QDir(folder).entryInfoList({ prefix + u"*.qm"_s }, QDir::Files, QDir::Name))
+        codes.append(file.completeBaseName().sliced(prefix.size()));
+    return codes;
+}
+
 QList<Language> in(const QString& folder)
 {
     QList<Language> languages;
-    const QString prefix = u"quorbel_"_s;
-    for (const QFileInfo& file : QDir(folder).entryInfoList({ prefix + u"*.qm"_s }, QDir::Files)) {
-        const QString code = file.completeBaseName().sliced(prefix.size());
-        if (const QString name = ownName(file); !name.isEmpty())
+    for (const QString& code : codesIn(folder))
+        if (const QString name = ownName(folder, code); !name.isEmpty())
             languages.append({ code, name });
-    }
     std::sort(languages.begin(), languages.end(),
         [](const Language& a, const Language& b) { return a.name.localeAwareCompare(b.name) < 0; });
     languages.prepend({ english, u"English"_s });
     return languages;
 }
 
-QString wanted(const QString& choice, const QStringList& desktop, const QList<Language>& there)
+QString wanted(const QString& choice, const QStringList& desktop, const QStringList& there)
 {
-    for (const Language& language : there)
-        if (language.code == choice)
-            return choice;
+    if (there.contains(choice))
+        return choice;
     for (const QString& name : desktop)
-        for (const Language& language : there)
-            if (serves(language.code, QLocale(name)))
-                return language.code;
+        for (const QString& code : there)
+            if (serves(code, QLocale(name)))
+                return code;
     return english;
 }
 
@@ -77,7 +82,7 @@ bool use(const QString& code, const QString& folder)
         return true;
     }
     auto translator = std::make_shared<QTranslator>();
-    if (!translator->load(u"quorbel_%1.qm"_s.arg(code), folder))
+    if (!translator->load(prefix + code, folder))
         return false;
     Texts::use(std::move(translator));
     return true;

@@ -13,12 +13,14 @@ struct Language {
     QString name{};  ///< in the language itself: "Deutsch"
 };
 
-/// English, then those whose texts lie in the folder as "quorbel_<code>.qm", by their names.
+/// "en", and the codes of those whose texts lie in the folder as "quorbel_<code>.qm". Looks at the files' names alone.
+QStringList codesIn(const QString& folder);
+/// English, then the others that can be read, by their names. Opens each file: not for a start.
 QList<Language> in(const QString& folder);
 
-/// The code to speak: the choice when there is such a language, else the first of the desktop's that there is
+/// The code to speak, of these: the choice when there is such a language, else the first of the desktop's that there is
 /// ("de-CH" is served by "de"), else "en". Desktop's: as of QLocale::uiLanguages.
-QString wanted(const QString& choice, const QStringList& desktop, const QList<Language>& there);
+QString wanted(const QString& choice, const QStringList& desktop, const QStringList& there);
 
 /// Takes texts from the language's file in the folder; English needs none. False when there is none to be read.
 bool use(const QString& code, const QString& folder);
