@@ -65,11 +65,28 @@ public:
         ink.setWidth(item.width());
         const QRectF clip = painter()->hasClipping() ? painter()->clipBoundingRect() : QRectF();
         const bool cut = !clip.isEmpty() && !clip.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(ink);
-        texts.append({ item.text(), item.font(), painter()->deviceTransform().mapRect(ink), cut });
+        const QRectF place = painter()->deviceTransform().mapRect(ink);
+        // Scripts without spaces come in parts: their kinds of letters, and a "…" of another font.
+        if (!texts.isEmpty() && isWide(texts.constLast().text.back())
+            && (item.text() == u"…" || isWide(item.text().front())) && isBehind(texts.constLast(), place)) {
+            texts.last().text += item.text();
+            texts.last().ink |= place;
+            texts.last().cut |= cut;
+            return;
+        }
+        texts.append({ item.text(), item.font(), place, cut });
     }
 
     QList<DrawnText> texts;
     QList<QRectF> pictures;
+
+private:
+    static bool isWide(QChar letter) { return letter.unicode() >= 0x2e80; }
+    static bool isBehind(const DrawnText& text, const QRectF& place)
+    {
+        return qAbs(text.ink.right() - place.left()) < tolerance && text.ink.top() < place.bottom()
+            && place.top() < text.ink.bottom() + place.height();
+    }
 };
 
 class TextDevice final : public QPaintDevice {

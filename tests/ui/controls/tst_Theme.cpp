@@ -301,6 +301,28 @@ private slots:
         QTEST(brokenIntoLines(text, font, width, breaks, most), "lines");
     }
 
+    void scriptsWithoutSpacesAreBrokenToo_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("Japanese") << u"画像を見られない人のために、XMP-dc:title に写っているものを書く。"_s;
+        QTest::newRow("Chinese") << u"为看不到图片的人说明画面内容，写入XMP-dc:title，不超过二百五十个字符。"_s;
+    }
+    void scriptsWithoutSpacesAreBrokenToo()
+    {
+        QFETCH(QString, text);
+        const QFont font = sansFont(13);
+        const QFontMetrics metrics(font);
+        const int width = metrics.horizontalAdvance(text) / 3 + 8;
+        const QStringList lines = brokenIntoLines(text, font, width, LineBreaks::spaces);
+        QCOMPARE(lines.join(QString()).remove(u' '), QString(text).remove(u' '));
+        QVERIFY(lines.size() > 2);
+        QCOMPARE(lines.filter(u"XMP-dc:title"_s).size(), 1);
+        for (const QString& line : lines) {
+            QVERIFY2(metrics.horizontalAdvance(line) <= width, qPrintable(line));
+            QVERIFY2(!u"、。，"_s.contains(line.front()), qPrintable(line));
+        }
+    }
+
     void noCharacterIsCutInTwo()
     {
         QCOMPARE(brokenIntoLines(u"😀😀"_s, monoFont(13), 1, LineBreaks::anywhere),

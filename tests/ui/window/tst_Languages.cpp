@@ -1,6 +1,7 @@
 // The whole window in one of the languages that the program comes with: nothing is cut off, shortened or covered, at
 // the sizes of text that desktops offer. QUORBEL_TEST_LANGUAGE says which: a language holds for a whole run, so each
 // has a run of its own.
+#include "core/iptc/VocabularyTexts.h"
 #include "core/language/Languages.h"
 #include "core/language/Texts.h"
 #include "tests/ui/window/WindowFixture.h"
@@ -50,7 +51,11 @@ public:
 bool mayBeShort(const QString& screen, const QString& text)
 {
     static const QString several = Texts::tr("Multiple values — leave unchanged");
-    return screen == u"add a field" || several.startsWith(text.chopped(1));
+    // Terms are as long as their vocabularies made them; the picker of one says all of it.
+    static const QStringList terms = VocabularyTexts::all();
+    const auto begins = [&](const QString& term) { return Texts::shown(term).startsWith(text.chopped(1)); };
+    return screen == u"add a field" || several.startsWith(text.chopped(1))
+        || std::any_of(terms.cbegin(), terms.cend(), begins);
 }
 
 // Boxes in place of letters have other widths.
@@ -65,12 +70,17 @@ QStringList shortened(const QString& screen, const LayoutAudit& scene, const Not
 {
     // Of no language.
     static const QSet<QString> ends{ u"A "_s, u" "_s, u"tps://"_s, u"://"_s };
+    // Behind a word of another script a text goes on with less.
+    const auto isEnd = [&](const QString& end) {
+        const auto goesOn = [&](const QString& known) { return known.endsWith(end); };
+        return texts.ends.contains(end) || ends.contains(end)
+            || (end.front().unicode() >= 0x2e80 && std::any_of(texts.ends.cbegin(), texts.ends.cend(), goesOn));
+    };
     QStringList found;
     for (const QString& text : scene.texts)
         // One that begins a text stands where the direction of writing changes.
         for (qsizetype at = text.indexOf(u'…', 1); at >= 0; at = text.indexOf(u'…', at + 1))
-            if (const QString end = NotingTranslator::endAt(text, at);
-                !texts.ends.contains(end) && !ends.contains(end) && !mayBeShort(screen, text))
+            if (const QString end = NotingTranslator::endAt(text, at); !isEnd(end) && !mayBeShort(screen, text))
                 found.append(u"shortened: "_s + text);
     return found;
 }

@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QGuiApplication>
+#include <QTextBoundaryFinder>
 #include <QTextLayout>
 
 namespace Quorbel {
@@ -19,17 +20,44 @@ QStringList atWords(const QString& text, const QFont& font, int width, int most)
     return lines.isEmpty() ? QStringList(QString()) : lines;
 }
 
+// Chinese and Japanese are written without spaces; their signs and full-width forms are with them.
+bool needsNoSpace(QChar letter)
+{
+    const char16_t code = letter.unicode();
+    return letter.script() == QChar::Script_Han || (code >= 0x3000 && code < 0x3100)
+        || (code >= 0xff00 && code < 0xfff0);
+}
+
+// A space stays at the end of its word.
+QStringList words(const QString& text)
+{
+    QStringList found;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+    qsizetype start = 0;
+    for (qsizetype at = 1; at < text.size(); ++at) {
+        const bool isWide = needsNoSpace(text.at(at - 1)) || needsNoSpace(text.at(at));
+        finder.setPosition(at);
+        if (text.at(at - 1) != u' ' && !(isWide && finder.isAtBoundary()))
+            continue;
+        found.append(text.sliced(start, at - start));
+        start = at;
+    }
+    found.append(text.sliced(start));
+    return found;
+}
+
 QStringList atSpaces(const QString& text, const QFontMetrics& metrics, int width, int most)
 {
-    QStringList lines;
-    const QStringList words = text.split(u' ');
-    for (const QString& word : words) {
-        const QString longer = lines.isEmpty() ? word : lines.constLast() + u' ' + word;
-        if (lines.isEmpty() || (lines.size() < most && metrics.horizontalAdvance(longer) > width))
+    QStringList lines{ QString() };
+    for (const QString& word : words(text)) {
+        const QString longer = lines.constLast() + word;
+        if (!lines.constLast().isEmpty() && lines.size() < most && metrics.horizontalAdvance(longer.trimmed()) > width)
             lines.append(word);
         else
             lines.last() = longer;
     }
+    for (QString& line : lines)
+        line = line.trimmed();
     return lines;
 }
 

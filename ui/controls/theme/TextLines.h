@@ -13,7 +13,7 @@ namespace Quorbel {
 
 enum class LineBreaks {
     words,  ///< between words, and within one only where that is longer than a line
-    spaces,  ///< at spaces alone: names of tags stay whole, even beyond the width
+    spaces,  ///< at spaces, and where scripts without them have none: names of tags stay whole, even beyond the width
     anywhere,  ///< between any two letters
 };
 
