@@ -1,5 +1,6 @@
 #include "core/language/Texts.h"
 
+#include <QLocale>
 #include <QRegularExpression>
 #include <QTranslator>
 
@@ -16,6 +17,20 @@ std::shared_ptr<const QTranslator>& chosen()
 {
     static std::shared_ptr<const QTranslator> translator;
     return translator;
+}
+
+// Names, sizes and dates keep their order in a sentence that runs from right to left: each is set apart from the words
+// around it.
+QString withIsolatedValues(QString text)
+{
+    static const QRegularExpression placeholder(u"(%[0-9]{1,2})"_s);
+    return text.replace(placeholder, u"\u2068\\1\u2069"_s);
+}
+
+bool& runsFromRight()
+{
+    static bool isRight = false;
+    return isRight;
 }
 
 // "%n photo(s) (is|are) read-only" of one, or of several.
@@ -35,6 +50,8 @@ QString Texts::tr(const char* english, const char* meaning, qsizetype count)
     if (const QTranslator* translator = chosen().get())
         text = translator->translate(
             context(), english, meaning, int(std::min<qsizetype>(count, std::numeric_limits<int>::max())));
+    if (runsFromRight())
+        text = withIsolatedValues(text);
     if (text.isEmpty())
         text = isCounted ? englishForm(QString::fromUtf8(english), count) : QString::fromUtf8(english);
     return isCounted ? text.replace(u"%n"_s, QString::number(count)) : text;
@@ -74,6 +91,7 @@ bool Texts::isEnglish()
 
 void Texts::use(std::shared_ptr<const QTranslator> translator)
 {
+    runsFromRight() = translator && QLocale(translator->language()).textDirection() == Qt::RightToLeft;
     chosen() = std::move(translator);
 }
 

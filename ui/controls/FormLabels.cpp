@@ -24,7 +24,7 @@ void BrokenLabel::paintLines(QRect box)
     painter.setPen(palette().color(QPalette::WindowText));
     for (const QString& line : std::as_const(m_lines)) {
         painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
-            fontMetrics().elidedText(line, Qt::ElideRight, box.width()));
+            drawn(fontMetrics().elidedText(line, Qt::ElideRight, box.width())));
         box.translate(0, box.height());
     }
 }

@@ -143,14 +143,19 @@ bool ThemedLabel::event(QEvent* event)
 
 void ThemedLabel::paintEvent(QPaintEvent* event)
 {
-    if (!m_elided)
+    const bool isOneName = m_verbatim && isRightToLeft() && !wordWrap();
+    if (!m_elided && !isOneName)
         return QLabel::paintEvent(event);
     DirectedPainter painter(this);
     painter.setPen(palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, QPalette::WindowText));
     const QRect box = contentsRect();
-    const QString elided = fontMetrics().elidedText(text(), Qt::ElideRight, box.width());
-    const QString shown = m_verbatim && !elided.isRightToLeft() ? keptInOrder(elided) : elided;
-    painter.drawText(box, int(alignment()) | Qt::TextSingleLine, shown);
+    const QString line = m_elided ? fontMetrics().elidedText(text(), Qt::ElideRight, box.width()) : text();
+    painter.drawText(box, int(alignment()) | Qt::TextSingleLine, drawn(line));
+}
+
+QString ThemedLabel::drawn(const QString& line) const
+{
+    return m_verbatim && !line.isRightToLeft() ? keptInOrder(line) : line;
 }
 
 SectionHeader::SectionHeader(const QString& title, bool muted, const QString& trailingNote, QWidget* parent)

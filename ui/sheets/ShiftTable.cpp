@@ -32,6 +32,7 @@ ThemedLabel* monoLabel()
 {
     auto* label = new ThemedLabel({}, TextRole::text, 12);
     label->setMono(true);
+    label->setVerbatim(true);
     label->setElided(true);
     return label;
 }
@@ -44,7 +45,7 @@ ShiftTable::ShiftTable(QWidget* parent)
     setAccessibleName(Texts::tr("Before and after"));
     for (Line& line : m_lines) {
         line = { new ThemedLabel({}, TextRole::label, 13), monoLabel(),
-            new ThemedLabel(QString(QChar(0x2192)), TextRole::muted, 13), monoLabel() };
+            new ThemedLabel(QString(QChar(isRightToLeft() ? 0x2190 : 0x2192)), TextRole::muted, 13), monoLabel() };
         line.title->setElided(true);
         line.arrow->setAlignment(Qt::AlignCenter);
         for (QWidget* label : { line.title, line.before, line.arrow, line.after })

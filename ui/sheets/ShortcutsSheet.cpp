@@ -7,6 +7,7 @@
 #include "ui/controls/ScrollArea.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/theme/Metrics.h"
+#include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Mirroring.h"
 #include "ui/sheets/SheetParts.h"
 
@@ -29,7 +30,7 @@ constexpr qreal widthOfAll = 820;
 constexpr qreal heightOfKeys = 420;
 constexpr qreal leastHeightOfKeys = 160;
 constexpr qreal rowHeight = 26;
-constexpr qreal columnGap = 32;
+constexpr qreal columnGap = 20;
 constexpr qreal oneColumnBelow = 760;
 constexpr qreal groupGap = 18;
 constexpr qreal keyGap = 12;
@@ -64,7 +65,7 @@ protected:
         DirectedPainter painter(this);
         painter.setFont(sansFont(12, QFont::Medium));
         painter.setPen(theme.derived.label);
-        painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter, m_keys);
+        painter.drawText(rect(), Qt::AlignRight | Qt::AlignVCenter, keptInOrder(m_keys));
         const int room = width() - painter.fontMetrics().horizontalAdvance(m_keys) - px(keyGap);
         painter.setFont(sansFont(13));
         painter.setPen(theme.text);
@@ -120,7 +121,6 @@ void ShortcutsSheet::build()
     auto* content = new QWidget;
     auto* line = new QHBoxLayout(content);
     m_columns = line;
-    line->setContentsMargins(0, 0, 0, 0);
     const auto lengthOf = [](const ShortcutGroup& group) { return group.rows.size() + 2; };
     qsizetype left = 0;
     for (const ShortcutGroup& group : std::as_const(m_groups))
@@ -161,6 +161,7 @@ void ShortcutsSheet::build()
     frameSheet(this, whole, widthOfAll);
     onRestyle(this, [this, whole, buttons] {
         fitColumns();
+        m_columns->setContentsMargins(mirrored(QMargins(0, 0, OverlayScrollBar::room(), 0)));
         whole->setSpacing(px(14));
         buttons->setContentsMargins(0, px(8), 0, 0);
         m_scroll->setMinimumHeight(px(leastHeightOfKeys));

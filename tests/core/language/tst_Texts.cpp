@@ -34,6 +34,7 @@ private slots:
     void englishCounts();
     void anotherLanguage();
     void withinSentences();
+    void valuesKeepTheirOrder();
     void languageToSpeak_data();
     void languageToSpeak();
     void filesOfLanguages();
@@ -78,6 +79,21 @@ void tst_Texts::withinSentences()
     QCOMPARE(Texts::continued(u"Es fehlt"_s), u"Es fehlt"_s);
 }
 
+// Else “0002.jpg” would stand as “jpg.0002” in a sentence that runs from right to left.
+void tst_Texts::valuesKeepTheirOrder()
+{
+    const QString value = u"\u2068%1\u2069"_s;
+    for (const QString& code : { u"ar"_s, u"de"_s }) {
+        auto language = std::make_shared<QTranslator>();
+        QVERIFY(language->load(
+            u"quorbel_%1.qm"_s.arg(code), qEnvironmentVariable("QUORBEL_TEST_SHARE") + u"/translations"_s));
+        Texts::use(language);
+        const QString text = Texts::tr("“%1” could no longer be found.");
+        QVERIFY(text.contains(u"%1") && text != u"“%1” could no longer be found.");
+        QCOMPARE(text.contains(value), code == u"ar");
+    }
+}
+
 void tst_Texts::languageToSpeak_data()
 {
     QTest::addColumn<QString>("choice");
@@ -99,9 +115,7 @@ void tst_Texts::languageToSpeak()
 {
     QFETCH(QString, choice);
     QFETCH(QStringList, desktop);
-    QList<Languages::Language> there;
-    for (const QString& code : { u"en"_s, u"ar"_s, u"de"_s, u"fr"_s, u"ja"_s, u"zh_CN"_s })
-        there.append({ code, code });
+    const QStringList there{ u"en"_s, u"ar"_s, u"de"_s, u"fr"_s, u"ja"_s, u"zh_CN"_s };
     QTEST(Languages::wanted(choice, desktop, there), "spoken");
 }
 

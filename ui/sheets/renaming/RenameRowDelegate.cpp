@@ -194,7 +194,8 @@ void RenameRowDelegate::paintPieces(QPainter& painter, const QRectF& box, const 
         painter.setFont(isMissing(piece) ? small : mono);
         painter.setPen(isMissing(piece) ? look.theme.derived.amberText : look.theme.text);
         painter.drawText(place.adjusted(padding, 0, -padding, 0), int(singleLine) | int(Qt::AlignAbsolute),
-            QFontMetricsF(painter.font()).elidedText(textOf(piece), Qt::ElideRight, place.width() - 2 * padding + 1));
+            keptInOrder(QFontMetricsF(painter.font())
+                            .elidedText(textOf(piece), Qt::ElideRight, place.width() - 2 * padding + 1)));
         left += place.width();
     }
 }
