@@ -37,6 +37,8 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
+    /// A line as it is to be drawn: names keep their order where one reads from right to left.
+    QString drawn(const QString& line) const;
 
 private:
     void restyle();
@@ -50,6 +52,17 @@ private:
     bool m_elided = false;
     qreal m_lineHeight = 0;
 };
+
+/// A label that has something to say at times. With no text it keeps its room and is hidden: nobody reads it out.
+template <typename Label>
+void setTextOrNothing(Label& label, const QString& text)
+{
+    QSizePolicy policy = label.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    label.setSizePolicy(policy);
+    label.setText(text);
+    label.setVisible(!text.isEmpty());
+}
 
 /// A section's title in small capitals, an optional note at the right, a hairline under both. 22 points high.
 class SectionHeader final : public QWidget {

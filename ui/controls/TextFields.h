@@ -23,7 +23,9 @@ public:
     void setBoundText(const QString& text);
     /// The same, for the value of another thing: forgets the undo history even when the texts are equal.
     void startText(const QString& text) { setText(text); }
+    /// What is to stand in the empty field. One that is named by the same words says them once: name it first.
     void setPlaceholder(const QString& text, bool italic = false);
+    const QString& placeholder() const { return m_placeholder; }
     void setEdited(bool edited);
     /// While it is empty it has a dashed border, and its placeholder is there to be read: "Required by Press".
     void setWanted(bool wanted);
@@ -61,6 +63,7 @@ private:
     bool m_mono = false;
     bool m_bare = false;
     int m_roomAtEnd = 0;
+    QString m_placeholder;
     bool m_italicPlaceholder = false;
     CodeTexts m_codes;
     bool m_isComposing = false;  ///< an input method holds letters that are not in the text yet

@@ -1,5 +1,6 @@
 #include "ui/inspector/FieldBlock.h"
 
+#include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"
@@ -19,6 +20,7 @@ FieldBlock::FieldBlock(QWidget* parent)
     : QWidget(parent)
 {
     describeAs(staticMetaObject, QAccessible::StaticText);
+    setAccessibleName(Texts::tr("Reading metadata"));
 }
 
 void FieldBlock::setText(const QString& text)
@@ -26,7 +28,7 @@ void FieldBlock::setText(const QString& text)
     if (text == m_text)
         return;
     m_text = text;
-    setAccessibleName(text);
+    setAccessibleName(text.isEmpty() ? Texts::tr("Reading metadata") : text);
     setToolTip(text);
     update();
 }

@@ -197,7 +197,7 @@ void AddFieldSheet::judgeName()
         verdict = *problem;
     else if (stored && *stored != typed)
         verdict = Texts::tr("Will be stored as “%1”").arg(*stored);
-    m_verdict->setText(verdict);
+    setTextOrNothing(*m_verdict, verdict);
     m_verdict->setRole(problem ? TextRole::amberText : TextRole::label);
     m_name->setAccessibleDescription(verdict);
     m_add->setEnabled(stored.has_value());

@@ -111,7 +111,7 @@ void QuickSetSheet::show()
         m_editor->setChips(shown);
     const std::optional<QString> problem = m_model.quickKeywords().problem(m_name->text());
     // That a name is missing shows.
-    m_problem->setText(m_name->text().isEmpty() ? QString() : problem.value_or(QString()));
+    setTextOrNothing(*m_problem, m_name->text().isEmpty() ? QString() : problem.value_or(QString()));
     m_name->setAccessibleDescription(m_problem->text());
     m_store->setEnabled(!problem);
 }

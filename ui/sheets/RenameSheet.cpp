@@ -84,7 +84,7 @@ void RenameSheet::refresh()
     m_pattern->setBoundText(m_model.preferences().renamePattern());
     m_preview->setText(m_model.renamePreview());
     const std::optional<QString> problem = m_model.renameProblem();
-    m_problem->setText(problem.value_or(QString()));
+    setTextOrNothing(*m_problem, problem.value_or(QString()));
     m_pattern->setAccessibleDescription(problem.value_or(QString()));
     // An empty pattern would name the photo "untitled": hardly what anybody wants.
     m_rename->setEnabled(

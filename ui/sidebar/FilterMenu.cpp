@@ -194,10 +194,12 @@ void FilterMenu::follow()
     m_stars->setAccessibleName(
         least > 0 ? spokenCount(FilterTexts::stars(least), starred) : Texts::tr("At least, any rating"));
     m_starCount->setText(least > 0 ? locale.toString(starred) : QString());
+    m_starCount->setVisible(least > 0);
     const int unread = m_filtering.unread();
     //: %1: how many photos.
     const QString text = Texts::tr("%1 not read yet", nullptr, unread).arg(locale.toString(unread));
     m_unread->setText(unread > 0 ? text : QString());
+    m_unread->setVisible(unread > 0);
     m_field->setBoundText(m_filtering.text());
     m_clear->setEnabled(m_filtering.isOn() || !m_filtering.text().isEmpty());
 }

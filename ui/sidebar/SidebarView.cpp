@@ -152,8 +152,8 @@ QWidget* SidebarView::buildFind()
     auto* line = new QHBoxLayout(m_find);
     m_search = new QBTextField;
     m_search->setLeadingIcon(u"magnifyingglass"_s);
-    m_search->setPlaceholder(Texts::tr("Search"));
     m_search->setAccessibleName(Texts::tr("Search"));
+    m_search->setPlaceholder(Texts::tr("Search"));
     m_search->setBoundText(m_model.search());
     connect(m_search, &QLineEdit::textEdited, &m_model, &AppModel::setSearch);
     m_search->installEventFilter(this);

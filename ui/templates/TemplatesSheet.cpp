@@ -439,7 +439,7 @@ void TemplatesSheet::showButtons()
     m_fill->setEnabled(now && !now->fields.isEmpty() && m_templates.canApply());
     //: %1: how many photos.
     const QString status = Texts::tr("Reading %1 more…", nullptr, unread).arg(QLocale().toString(unread));
-    m_status->setText(unread > 0 ? status : QString());
+    setTextOrNothing(*m_status, unread > 0 ? status : QString());
 }
 
 void TemplatesSheet::step(int by)

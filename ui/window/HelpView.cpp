@@ -214,10 +214,22 @@ public:
     }
 };
 
+// Takes Tab, so that arrows scroll it.
+class HelpPage final : public ScrollArea {
+    Q_OBJECT
+
+public:
+    explicit HelpPage(QWidget* parent)
+        : ScrollArea(parent)
+    {
+        describeAs(staticMetaObject, QAccessible::Document);
+    }
+};
+
 HelpView::HelpView(QWidget* parent)
     : SideWindow(Texts::tr("Quorbel Help"), parent)
     , m_topics(new TopicList(this))
-    , m_page(new ScrollArea(this))
+    , m_page(new HelpPage(this))
 {
     // They fill the window: the ring is drawn inside.
     for (QWidget* part : { static_cast<QWidget*>(m_topics), static_cast<QWidget*>(m_page) }) {
@@ -284,3 +296,5 @@ void HelpView::paintEvent(QPaintEvent*)
 }
 
 }  // namespace Quorbel
+
+#include "HelpView.moc"

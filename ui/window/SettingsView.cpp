@@ -300,7 +300,7 @@ QWidget* SettingsView::patternField()
 QWidget* SettingsView::placeServiceField()
 {
     auto* field = new QBTextField;
-    field->setPlaceholderText(u"https://…"_s);
+    field->setPlaceholder(u"https://…"_s);
     field->setBoundText(m_model.preferences().placeService());
     onRestyle(field, [field] { field->setFixedWidth(px(patternWidth)); });
     // An address that may not be asked stays in the field, marked, and is not stored.

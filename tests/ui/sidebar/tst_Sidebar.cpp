@@ -219,8 +219,8 @@ void tst_Sidebar::doubleClickOpensAndSelectsOnce()
 
 void tst_Sidebar::searchFiltersAndSelectAllTakesWhatIsShown()
 {
-    auto* search = m_view->findChild<QLineEdit*>();
-    QCOMPARE(search->placeholderText(), u"Search"_s);
+    auto* search = m_view->findChild<QBTextField*>();
+    QCOMPARE(search->placeholder(), u"Search"_s);
     QTest::keyClicks(search, u" img_4999 "_s);
     QCOMPARE(list()->model()->rowCount(), 10);
     auto* all = m_view->findChildren<QAbstractButton*>().first();

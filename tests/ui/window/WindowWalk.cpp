@@ -1,16 +1,24 @@
 #include "tests/ui/window/WindowWalk.h"
 
+#include "app/model/iptc/RememberedCards.h"
 #include "app/model/renaming/PhotosRenaming.h"
 #include "app/model/sidecars/MovingOver.h"
 #include "app/model/templates/Templates.h"
 #include "app/model/timeshift/TimeShifting.h"
 #include "app/model/words/FieldPasting.h"
+#include "core/iptc/StructureText.h"
 #include "core/language/Texts.h"
 #include "tests/ui/window/WindowFixture.h"
 #include "ui/controls/Buttons.h"
+#include "ui/controls/ScrollArea.h"
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/controls/attached/CodesChip.h"
 #include "ui/controls/attached/MarkButton.h"
+#include "ui/controls/cards/FoldingHeading.h"
+#include "ui/controls/cards/ItemCard.h"
+#include "ui/inspector/head/UnreadNotice.h"
+#include "ui/inspector/iptc/StructureCard.h"
+#include "ui/inspector/iptc/StructureList.h"
 #include "ui/sheets/AddFieldSheet.h"
 #include "ui/sheets/MessageSheet.h"
 #include "ui/sheets/PasteFieldsSheet.h"
@@ -72,6 +80,15 @@ std::unique_ptr<QMainWindow> makeWindow(InspectorFixture& f, SystemScheme& schem
     return window;
 }
 
+// For whoever looks at the pictures.
+std::optional<ColorScheme> askedColors()
+{
+    static const QMap<QString, ColorScheme> schemes{ { u"dark"_s, ColorScheme::dark },
+        { u"contrast"_s, ColorScheme::highContrast } };
+    const auto asked = schemes.constFind(qEnvironmentVariable("QUORBEL_TEST_COLORS"));
+    return asked == schemes.cend() ? ColorScheme::light : *asked;
+}
+
 }  // namespace
 
 bool WalkedPhotos::open()
@@ -95,7 +112,13 @@ bool WalkedPhotos::open()
             u"-GPSLatitudeRef=N"_s, u"-GPSLongitude=8.5417"_s, u"-GPSLongitudeRef=E"_s, u"-XMP:Rating=4"_s,
             u"-EXIF:Model=E-M5MarkIII"_s, u"-EXIF:Make=OLYMPUS"_s, u"-EXIF:LensModel=M.12-40mm F2.8"_s,
             u"-EXIF:ISO=200"_s, u"-EXIF:ExposureTime=1/60"_s, u"-EXIF:FNumber=5.6"_s, u"-EXIF:FocalLength=17"_s });
-    photos.add(u"2x3_b.jpg"_s, { u"-XMP-dc:Creator=Mara Lindqvist"_s });
+    photos.add(u"2x3_b.jpg"_s,
+        { u"-XMP-dc:Creator=Mara Lindqvist"_s, u"-XMP-iptcCore:AltTextAccessibility=Evening by the lake"_s,
+            u"-XMP-iptcCore:CreatorCity=Zürich"_s, u"-XMP-iptcCore:CountryCode=CH"_s,
+            u"-XMP-iptcExt:LocationShown=[{City=Zürich,CountryName=Alps},{City=Zoo}]"_s,
+            u"-XMP-iptcExt:DigitalSourceType=http://cv.iptc.org/newscodes/digitalsourcetype/compositeSynthetic"_s,
+            u"-XMP-plus:ModelReleaseStatus#=http://ns.useplus.org/ldf/vocab/MR-UMR"_s,
+            u"-XMP-plus:Licensor=[{LicensorName=Mara}]"_s, u"-XMP-iptcExt:MaxAvailWidth=6000"_s });
     photos.add(u"3x4_c.jpg"_s, { u"-XMP-dc:Title=Other"_s });
     if (!photos.photos.open())
         return false;
@@ -104,6 +127,12 @@ bool WalkedPhotos::open()
         if (!QTest::qWaitFor([&] { return photos.model().details(record.url) != nullptr; }))
             return false;
     photos.model().addKnownField(u"headline"_s);
+    untold.photos.services.detailsDelay = {};
+    untold.photos.lookAtDetails(
+        [](const QList<ImageRecord>&, const ReadControl&) { return QHash<QUrl, PhotoDetails>(); });
+    untold.add(u"4x5_d.jpg"_s, { u"-XMP-dc:Title=Other"_s });
+    if (!untold.open() || !QTest::qWaitFor([this] { return untold.view->findChild<UnreadNotice*>()->isVisible(); }, 30'000))
+        return false;
     return half.openHalf();
 }
 
@@ -132,14 +161,18 @@ WindowWalk::WindowWalk(WalkedPhotos& over, QSize size)
     , m_folders(makeWindow(over.folders, m_scheme, size))
     , m_empty(makeWindow(over.none, m_scheme, size))
     , m_reading(makeWindow(over.half, m_scheme, size))
+    , m_untold(makeWindow(over.untold, m_scheme, size))
     , m_settings(new SettingsView(over.photos.model(), Languages::in({})))
     , m_help(new HelpView)
 {
-    for (QWidget* shown : QList<QWidget*>{
-             m_window.get(), m_folders.get(), m_empty.get(), m_reading.get(), m_settings.get(), m_help.get() })
+    for (QWidget* shown : QList<QWidget*>{ m_window.get(), m_folders.get(), m_empty.get(), m_reading.get(),
+             m_untold.get(), m_settings.get(), m_help.get() })
         shown->show();
+    for (InspectorFixture* photos :
+        QList<InspectorFixture*>{ &over.photos, &over.folders, &over.none, &over.half, &over.untold })
+        photos->model().preferences().colorOverride.set(askedColors());
     for (QWidget* second : QList<QWidget*>{ m_settings.get(), m_help.get() })
-        setTheme(second, Theme::light());
+        setTheme(second, Theme::of(m_window.get()));
     settle();
 }
 
@@ -158,6 +191,7 @@ Scenes WindowWalk::scenes(const Witness& witness)
     settle();
     look(seen, u"empty"_s, *m_empty);
     look(seen, u"subfolders"_s, *m_folders);
+    look(seen, u"not told"_s, *m_untold);
     see(seen, u"settings"_s, m_settings.get());
     auto* topics = m_help->findChild<QListWidget*>();
     for (int row = 0; row < topics->count(); ++row) {
@@ -184,7 +218,7 @@ void WindowWalk::see(Scenes& seen, const QString& name, QWidget* shown)
 // A window that grew for larger text is looked at in the size that is asked for.
 void WindowWalk::settle() const
 {
-    for (QMainWindow* window : { m_window.get(), m_folders.get(), m_empty.get(), m_reading.get() }) {
+    for (QMainWindow* window : { m_window.get(), m_folders.get(), m_empty.get(), m_reading.get(), m_untold.get() }) {
         window->setMinimumSize(0, 0);
         window->resize(m_size);
     }
@@ -246,6 +280,7 @@ void WindowWalk::single(Scenes& seen)
     look(seen, u"quick keywords"_s);
     host->dismiss(host->current());
     fieldSets(seen);
+    cards(seen);
     filterMenu(seen);
 }
 
@@ -261,6 +296,57 @@ void WindowWalk::fieldSets(Scenes& seen)
     look(seen, u"field sets"_s);
     sets.cancel();
     sets.choose(FieldSets::usual());
+}
+
+// What the standard's further fields bring: sections, cards, and what opens from their menus.
+void WindowWalk::cards(Scenes& seen)
+{
+    AppModel& model = m_photos.model();
+    m_photos.click(u"2x3_b.jpg"_s);
+    look(seen, u"sections"_s);
+    for (FoldingHeading* heading : m_window->findChildren<FoldingHeading*>())
+        if (heading->isVisible())
+            emit heading->openAsked(true);
+    settle();
+    for (StructureList* list : m_window->findChildren<StructureList*>())
+        list->open(0);
+    settle();
+    const auto* places = m_window->findChild<InspectorForm*>()->row(u"iptc.locationsShown"_s);
+    ScrollArea::around(*places)->reveal(*places);
+    look(seen, u"cards"_s);
+    const QString contact = StructureText::of({ { u"CiAdrCity"_s, u"Zürich"_s } });
+    model.rememberedCards().noteSaving(
+        { .scalars = { { u"iptc.contact"_s, contact } }, .subjects = { m_photos.photos.url(u"2x3_b.jpg"_s) } });
+    model.rememberedCards().noteSaved({ *model.primaryRecord() }, {}, {});
+    openFromMenu(seen, u"remembered"_s, u"iptc.contact"_s, Texts::tr("Use Remembered Contact…"));
+    model.setItems(u"iptc.locationsShown"_s, { StructureText::of({ { u"City"_s, u"Zoo"_s } }) });
+    look(seen, u"cards, edited"_s);
+    openFromMenu(seen, u"found places"_s, u"iptc.locationsShown"_s, Texts::tr("Search Place…"));
+    model.requestSave();
+    model.discardSaveDialog();
+}
+
+void WindowWalk::openFromMenu(Scenes& seen, const QString& name, const QString& id, const QString& command)
+{
+    const FieldRow* row = m_window->findChild<InspectorForm*>()->row(id);
+    QVERIFY2(row, qPrintable(id));
+    auto* card = row->findChild<ItemCard*>();
+    const auto choose = [&] {
+        emit card->menuAsked();
+        for (QAction* action : card->actions())
+            if (action->text() == command)
+                action->trigger();
+        return QApplication::activePopupWidget() != nullptr;
+    };
+    QTRY_VERIFY2(choose(), qPrintable(command));  // what is remembered is written down in the background
+    QWidget* popover = QApplication::activePopupWidget();
+    if (auto* field = popover->findChild<QBTextField*>()) {
+        QTest::keyClicks(field, u"Z"_s);
+        QTRY_VERIFY(popover->findChild<QListWidget*>()->count() > 0);
+    }
+    settle();
+    see(seen, name, popover);
+    popover->close();
 }
 
 void WindowWalk::filterMenu(Scenes& seen)

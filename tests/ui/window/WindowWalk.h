@@ -21,12 +21,14 @@ namespace Quorbel::Test {
 
 using Scenes = QMap<QString, LayoutAudit>;
 
-/// The photos that the window is walked over: three with much in them, folders, none, and some that are being read.
+/// The photos that the window is walked over: three with much in them, folders, none, some that are
+/// being read, and one of whose details the tool tells nothing.
 struct WalkedPhotos {
     InspectorFixture photos{};
     InspectorFixture folders{};
     InspectorFixture none{};
     HalfRead half{};
+    InspectorFixture untold{};
 
     /// Makes and opens them; false when one cannot be.
     bool open();
@@ -57,6 +59,8 @@ private:
     void see(Scenes& seen, const QString& name, QWidget* shown);
     void single(Scenes& seen);
     void fieldSets(Scenes& seen);
+    void cards(Scenes& seen);
+    void openFromMenu(Scenes& seen, const QString& name, const QString& id, const QString& command);
     void filterMenu(Scenes& seen);
     void batch(Scenes& seen);
     void reading(Scenes& seen);
@@ -69,6 +73,7 @@ private:
     std::unique_ptr<QMainWindow> m_folders;
     std::unique_ptr<QMainWindow> m_empty;
     std::unique_ptr<QMainWindow> m_reading;
+    std::unique_ptr<QMainWindow> m_untold;
     std::unique_ptr<SettingsView> m_settings;
     std::unique_ptr<HelpView> m_help;
     Witness m_witness;

@@ -56,6 +56,7 @@ SearchPopover::SearchPopover(const QString& name, const QString& placeholder, QW
 void SearchPopover::setNothingFound(const QString& text)
 {
     m_nothing->setText(text);
+    m_nothing->setVisible(!text.isEmpty() && !m_list->isVisibleTo(this));
 }
 
 void SearchPopover::findAgain()
@@ -64,8 +65,8 @@ void SearchPopover::findAgain()
     const int first = find(m_field->text().trimmed());
     const bool isFound = m_list->count() > 0;
     m_list->setVisible(isFound);
-    m_nothing->setVisible(!isFound);
-    if (!isFound && isVisible()) {
+    m_nothing->setVisible(!isFound && !m_nothing->text().isEmpty());
+    if (m_nothing->isVisible()) {
         QAccessibleEvent event(m_nothing, QAccessible::Alert);
         QAccessible::updateAccessibility(&event);
     }

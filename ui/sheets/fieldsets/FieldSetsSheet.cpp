@@ -237,7 +237,7 @@ void FieldSetsSheet::judge()
     const std::optional<QString> problem = FieldSets::problem(m_own);
     const QString note =
         edited() ? QString() : Texts::tr("This set comes with Quorbel. Make a copy with + to change it.");
-    m_problem->setText(problem.value_or(note));
+    setTextOrNothing(*m_problem, problem.value_or(note));
     m_problem->setRole(problem ? TextRole::amberText : TextRole::label);
     m_name->setAccessibleDescription(m_problem->text());
     m_store->setEnabled(!problem);

@@ -69,7 +69,7 @@ public:
         m_name->setRole(TextRole::text);
         const int numbers[] = { row.gains, row.changes, row.loses };
         for (qsizetype i = 0; i < m_numbers.size(); ++i)
-            m_numbers.at(i)->setText(numbers[i] > 0 ? QLocale::c().toString(numbers[i]) : QString());
+            setTextOrNothing(*m_numbers.at(i), numbers[i] > 0 ? QLocale::c().toString(numbers[i]) : QString());
         setAccessibleName(spoken(row));
     }
 
@@ -78,7 +78,7 @@ public:
         m_name->setText(text);
         m_name->setRole(TextRole::muted);
         for (ThemedLabel* number : std::as_const(m_numbers))
-            number->clear();
+            setTextOrNothing(*number, {});
         setAccessibleName(text);
     }
 
