@@ -7565,7 +7565,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Open Settings from the Quorbel menu (⌘,) to adjust:</source>
-        <translation>تُفتح الإعدادات من قائمة Quorbel (⁨⌘,⁩) لضبط ما يلي:</translation>
+        <translation>تُفتح الإعدادات من قائمة ملف (⁨⌘,⁩) لضبط ما يلي:</translation>
     </message>
     <message>
         <source>Back up originals before saving.</source>

@@ -70,12 +70,12 @@
     <message>
         <source>Not here any more: %1. The unsaved changes are kept.</source>
         <extracomment>%1 names photos</extracomment>
-        <translation>Ya no están aquí: %1. Los cambios sin guardar se conservan.</translation>
+        <translation>Fotos que ya no están aquí: %1. Los cambios sin guardar se conservan.</translation>
     </message>
     <message>
         <source>%1 could no longer be found. The unsaved changes are kept.</source>
         <extracomment>%1 names photos</extracomment>
-        <translation>Ya no se encuentra: %1. Los cambios sin guardar se conservan.</translation>
+        <translation>Fotos que ya no se encuentran: %1. Los cambios sin guardar se conservan.</translation>
     </message>
     <message>
         <source>A file name cannot hold “/”.</source>
@@ -236,7 +236,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
         <source>%1 of %n photo(s) keep their names.</source>
         <translation>
             <numerusform>%1 de %n foto conserva su nombre.</numerusform>
-            <numerusform>%1 de %n fotos conservan su nombre.</numerusform>
+            <numerusform>Fotos que conservan su nombre: %1 de %n.</numerusform>
         </translation>
     </message>
     <message>
@@ -329,8 +329,8 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
         <source>Undone, but not every value of %n photo(s) could be put back as it was: %1</source>
         <extracomment>%1 names the photos</extracomment>
         <translation>
-            <numerusform>Deshecho, pero no todos los valores de %n foto pudieron volver a como estaban: %1</numerusform>
-            <numerusform>Deshecho, pero no todos los valores de %n fotos pudieron volver a como estaban: %1</numerusform>
+            <numerusform>Deshecho, pero no se pudieron restaurar todos los valores de %n foto: %1</numerusform>
+            <numerusform>Deshecho, pero no se pudieron restaurar todos los valores de %n fotos: %1</numerusform>
         </translation>
     </message>
     <message>
@@ -349,8 +349,8 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
         <source>%1 of %n photo(s) differed between IPTC and XMP and were brought together: %2</source>
         <extracomment>%1 is a field that holds a list (&quot;Keywords&quot;), %2 names the photos</extracomment>
         <translation>
-            <numerusform>%1 de %n foto: IPTC y XMP diferían y se han reunido: %2</numerusform>
-            <numerusform>%1 de %n fotos: IPTC y XMP diferían y se han reunido: %2</numerusform>
+            <numerusform>%1 de %n foto: IPTC y XMP diferían y se han combinado: %2</numerusform>
+            <numerusform>%1 de %n fotos: IPTC y XMP diferían y se han combinado: %2</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -358,7 +358,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
         <extracomment>%1 is how many of them, %2 names these, with the reasons</extracomment>
         <translation>
             <numerusform>No se pudo guardar %1 de %n foto: %2</numerusform>
-            <numerusform>No se pudieron guardar %1 de %n fotos: %2</numerusform>
+            <numerusform>No fue posible guardar %1 de %n fotos: %2</numerusform>
         </translation>
     </message>
     <message>
@@ -388,8 +388,8 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
         <source>Saved, but %n field(s) (reads|read) back differently: %1</source>
         <extracomment>%1 names the fields</extracomment>
         <translation>
-            <numerusform>Guardado, pero %n campo se lee distinto: %1</numerusform>
-            <numerusform>Guardado, pero %n campos se leen distintos: %1</numerusform>
+            <numerusform>Guardado, pero al releer difiere %n campo: %1</numerusform>
+            <numerusform>Guardado, pero al releer difieren %n campos: %1</numerusform>
         </translation>
     </message>
     <message>
@@ -439,8 +439,8 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message numerus="yes">
         <source>%n photo(s) (keeps|keep) what the sidecar holds otherwise than the file: nothing in a sidecar is replaced.</source>
         <translation>
-            <numerusform>En %n foto se conserva lo que en el sidecar difiere del archivo: en un sidecar no se reemplaza nada.</numerusform>
-            <numerusform>En %n fotos se conserva lo que en el sidecar difiere del archivo: en un sidecar no se reemplaza nada.</numerusform>
+            <numerusform>El sidecar de %n foto conserva lo que difiere del archivo: en un sidecar no se reemplaza nada.</numerusform>
+            <numerusform>Los sidecars de %n fotos conservan lo que difiere del archivo: en un sidecar no se reemplaza nada.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -477,12 +477,12 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>Read-only, and left alone: %1</source>
         <extracomment>%1 names files</extracomment>
-        <translation>De solo lectura, no se tocan: %1</translation>
+        <translation>Archivos de solo lectura, sin tocar: %1</translation>
     </message>
     <message>
         <source>Could not be read, and left alone: %1</source>
         <extracomment>%1 names files, with the reasons</extracomment>
-        <translation>No se pudieron leer y no se tocan: %1</translation>
+        <translation>Archivos ilegibles, sin tocar: %1</translation>
     </message>
     <message>
         <source>Not written, because it would not be the same there: %1</source>
@@ -534,14 +534,14 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
         <source>Times read back differently in %1 of %n photos: %2</source>
         <extracomment>%1 is how many of them, %2 names these, with tags</extracomment>
         <translation>
-            <numerusform>Las horas se leen distintas en %1 de %n foto: %2</numerusform>
-            <numerusform>Las horas se leen distintas en %1 de %n fotos: %2</numerusform>
+            <numerusform>Al releer, las horas difieren en %1 de %n foto: %2</numerusform>
+            <numerusform>Al releer, las horas difieren en %1 de %n fotos: %2</numerusform>
         </translation>
     </message>
     <message>
         <source>Left alone for want of a time zone: %1</source>
         <extracomment>%1 names photos</extracomment>
-        <translation>No se han tocado por falta de zona horaria: %1</translation>
+        <translation>Sin tocar por falta de zona horaria: %1</translation>
     </message>
     <message>
         <source>Dates without a full day and time were left alone: %1</source>
@@ -624,7 +624,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
         <source>%1 of %n positions lie in this zone.</source>
         <translation>
             <numerusform>%1 de %n posición está en esta zona.</numerusform>
-            <numerusform>%1 de %n posiciones están en esta zona.</numerusform>
+            <numerusform>Posiciones en esta zona: %1 de %n.</numerusform>
         </translation>
     </message>
     <message>
@@ -650,11 +650,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>%1 earlier</source>
         <extracomment>%1 is a span of time: &quot;1 h 02 min 30 s later&quot;</extracomment>
-        <translation>%1 más temprano</translation>
+        <translation>%1 antes</translation>
     </message>
     <message>
         <source>%1 later</source>
-        <translation>%1 más tarde</translation>
+        <translation>%1 después</translation>
     </message>
     <message>
         <source>Each photo’s own</source>
@@ -662,7 +662,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Whole numbers, of a hundred years at most.</source>
-        <translation>Números enteros, hasta cien años.</translation>
+        <translation>Números enteros, cien años como máximo.</translation>
     </message>
     <message>
         <source>This photo has no date: choose another one.</source>
@@ -1077,7 +1077,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>A folder of photos, or photos.</source>
-        <translation>Una carpeta de fotos, o fotos.</translation>
+        <translation>Una carpeta de fotos, o fotos sueltas.</translation>
     </message>
     <message>
         <source>[files…]</source>
@@ -1107,8 +1107,8 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message numerus="yes">
         <source>Long to listen to: %1 of %n character(s)</source>
         <translation>
-            <numerusform>Largo para escucharlo: %1 de %n carácter</numerusform>
-            <numerusform>Largo para escucharlo: %1 de %n caracteres</numerusform>
+            <numerusform>Largo de escuchar: %1 de %n carácter</numerusform>
+            <numerusform>Largo de escuchar: %1 de %n caracteres</numerusform>
         </translation>
     </message>
     <message>
@@ -1265,7 +1265,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>The same by a code: stock ticker, registry number</source>
-        <translation>Las mismas por un código: símbolo bursátil, número de registro</translation>
+        <translation>Lo mismo con un código: símbolo bursátil, número de registro</translation>
     </message>
     <message>
         <source>Products</source>
@@ -1297,7 +1297,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Who owns the copyright</source>
-        <translation>Quién tiene los derechos de autor</translation>
+        <translation>Quién es titular del copyright</translation>
     </message>
     <message>
         <source>Image creators</source>
@@ -1321,7 +1321,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Further limits of use, in words</source>
-        <translation>Otros límites de uso, con palabras</translation>
+        <translation>Otros límites de uso, descritos con palabras</translation>
     </message>
     <message>
         <source>Data mining</source>
@@ -1337,7 +1337,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>How far releases cover what is shown</source>
-        <translation>Hasta qué punto hay autorizaciones de lo que aparece</translation>
+        <translation>Hasta qué punto hay autorizaciones para lo que aparece</translation>
     </message>
     <message>
         <source>Property release IDs</source>
@@ -1441,7 +1441,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Registries that know the picture, and its number there</source>
-        <translation>Registros que conocen la imagen, y su número en ellos</translation>
+        <translation>Registros donde figura la imagen, y su número en ellos</translation>
     </message>
     <message>
         <source>Largest width</source>
@@ -1779,7 +1779,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>%1 holds %2 of another program, which this change would lose</source>
         <extracomment>%1 is a field, %2 names parts of it, in quotation marks</extracomment>
-        <translation>%1 contiene %2 de otro programa, que se perdería con este cambio</translation>
+        <translation>este cambio borraría datos de otro programa en %1: %2</translation>
     </message>
     <message>
         <source>Not a number</source>
@@ -1823,11 +1823,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Multi-frame computational capture sampled from real life</source>
-        <translation>Captura computacional de varios fotogramas tomada de la realidad</translation>
+        <translation>Captura computacional de varias tomas de la realidad</translation>
     </message>
     <message>
         <source>Several frames of one moment joined by the camera</source>
-        <translation>Varios fotogramas de un mismo momento unidos por la cámara</translation>
+        <translation>Varias tomas de un mismo momento unidas por la cámara</translation>
     </message>
     <message>
         <source>Digitised from a transparent negative</source>
@@ -1855,7 +1855,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Human-edited media</source>
-        <translation>Medio editado por personas</translation>
+        <translation>Contenido editado por personas</translation>
     </message>
     <message>
         <source>A picture that a person changed, with tools other than generative AI</source>
@@ -1871,11 +1871,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Algorithmically-altered media</source>
-        <translation>Medio alterado por algoritmos</translation>
+        <translation>Contenido alterado por algoritmos</translation>
     </message>
     <message>
         <source>Changed by a program by itself, not by generative AI</source>
-        <translation>Cambiada por un programa por sí solo, sin IA generativa</translation>
+        <translation>Cambiada automáticamente por un programa, sin IA generativa</translation>
     </message>
     <message>
         <source>Digital creation</source>
@@ -1887,7 +1887,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Data-driven media</source>
-        <translation>Medio basado en datos</translation>
+        <translation>Contenido basado en datos</translation>
     </message>
     <message>
         <source>Drawn from data, such as a chart or a map</source>
@@ -1903,7 +1903,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Pure algorithmic media</source>
-        <translation>Medio puramente algorítmico</translation>
+        <translation>Contenido puramente algorítmico</translation>
     </message>
     <message>
         <source>Computed by a formula that learned from nothing, such as a fractal</source>
@@ -1923,7 +1923,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Recorded of something that took place in a virtual world</source>
-        <translation>Registro de algo que ocurrió en un mundo virtual</translation>
+        <translation>Grabación de algo que ocurrió en un mundo virtual</translation>
     </message>
     <message>
         <source>Composite of elements</source>
@@ -1939,7 +1939,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Put together from parts that were all photographed</source>
-        <translation>Compuesta de partes que son todas fotografías</translation>
+        <translation>Compuesta solo de partes fotografiadas</translation>
     </message>
     <message>
         <source>Composite including generative AI elements</source>
@@ -1951,11 +1951,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Original media with minor human edits</source>
-        <translation>Medio original con pequeñas ediciones humanas</translation>
+        <translation>Contenido original con pequeñas ediciones humanas</translation>
     </message>
     <message>
         <source>Retired in 2024: use the one for human-edited media</source>
-        <translation>Retirado en 2024: use el de medio editado por personas</translation>
+        <translation>Retirado en 2024: use el de contenido editado por personas</translation>
     </message>
     <message>
         <source>Created by software</source>
@@ -1995,7 +1995,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>No training of any AI; other mining may be done</source>
-        <translation>Sin entrenamiento de ninguna IA; se permite otra minería</translation>
+        <translation>No se permite entrenar ninguna IA; sí otra minería de datos</translation>
     </message>
     <message>
         <source>Prohibited for Generative AI/ML training</source>
@@ -2003,7 +2003,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>No training of AI that makes pictures or texts</source>
-        <translation>Sin entrenamiento de IA que haga imágenes o textos</translation>
+        <translation>No se permite entrenar IA que genere imágenes o textos</translation>
     </message>
     <message>
         <source>Prohibited except for search engine indexing</source>
@@ -2011,7 +2011,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Search engines may list the picture; nothing else</source>
-        <translation>Los buscadores pueden mostrar la imagen; nada más</translation>
+        <translation>Los buscadores pueden indexar la imagen; nada más</translation>
     </message>
     <message>
         <source>Prohibited</source>
@@ -2027,7 +2027,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>What may be done stands in Other constraints, which must be filled</source>
-        <translation>Lo que se permite está en Otras restricciones, que debe rellenarse</translation>
+        <translation>Lo que se permite figura en Otras restricciones, campo que debe rellenarse</translation>
     </message>
     <message>
         <source>Prohibited, see Embedded Encoded Rights Expression</source>
@@ -2035,7 +2035,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>What may be done stands in Embedded rights</source>
-        <translation>Lo que se permite está en Derechos incrustados</translation>
+        <translation>Lo que se permite figura en Derechos incrustados</translation>
     </message>
     <message>
         <source>Prohibited, see Linked Encoded Rights Expression</source>
@@ -2043,7 +2043,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>What may be done stands where Linked rights points</source>
-        <translation>Lo que se permite está donde apunta Derechos enlazados</translation>
+        <translation>Lo que se permite figura en la dirección de Derechos enlazados</translation>
     </message>
     <message>
         <source>Model release status</source>
@@ -2175,7 +2175,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>The youngest person was a child of at most 14</source>
-        <translation>La persona más joven era un niño de 14 años como máximo</translation>
+        <translation>La persona más joven tenía 14 años como máximo</translation>
     </message>
     <message>
         <source>Telephone type</source>
@@ -2227,7 +2227,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>headshot</source>
-        <translation>retrato de cabeza</translation>
+        <translation>retrato de rostro</translation>
     </message>
     <message>
         <source>The head of a person</source>
@@ -2279,7 +2279,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Two people who belong together</source>
-        <translation>Dos personas que van juntas</translation>
+        <translation>Dos personas que forman pareja</translation>
     </message>
     <message>
         <source>two</source>
@@ -2303,7 +2303,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>The whole of a place or an event</source>
-        <translation>La totalidad de un lugar o evento</translation>
+        <translation>Un lugar o un evento en su conjunto</translation>
     </message>
     <message>
         <source>panoramic view</source>
@@ -2367,7 +2367,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Taken from near, details fill the frame</source>
-        <translation>Hecha de cerca, los detalles llenan el encuadre</translation>
+        <translation>Hecha de cerca; los detalles llenan el encuadre</translation>
     </message>
     <message>
         <source>action</source>
@@ -2607,11 +2607,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Actuality</source>
-        <translation>Actualidad en directo</translation>
+        <translation>Grabación del hecho</translation>
     </message>
     <message>
         <source>Something as it happened, recorded there</source>
-        <translation>Algo tal como ocurrió, registrado en el lugar</translation>
+        <translation>Algo tal como ocurrió, grabado en el lugar</translation>
     </message>
     <message>
         <source>Advice</source>
@@ -2643,7 +2643,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Looks back on the day of an earlier event</source>
-        <translation>Recuerda en su día un acontecimiento anterior</translation>
+        <translation>Recuerda un acontecimiento anterior en su aniversario</translation>
     </message>
     <message>
         <source>Archive material</source>
@@ -2723,7 +2723,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Reported from where it happens</source>
-        <translation>Informado desde donde ocurre</translation>
+        <translation>Contado desde el lugar donde ocurre</translation>
     </message>
     <message>
         <source>History</source>
@@ -2787,7 +2787,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Issued by those whom it is about</source>
-        <translation>Publicada por aquellos de quienes trata</translation>
+        <translation>Difundida por aquellos de quienes trata</translation>
     </message>
     <message>
         <source>Press-Digest</source>
@@ -2935,7 +2935,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Voicer</source>
-        <translation>Crónica de voz</translation>
+        <translation>Crónica hablada</translation>
     </message>
     <message>
         <source>A reporter&apos;s voice tells the story</source>
@@ -2947,7 +2947,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Brings several reports together</source>
-        <translation>Reúne varios reportajes</translation>
+        <translation>Reúne varias informaciones</translation>
     </message>
     <message>
         <source>Wrapup</source>
@@ -2955,7 +2955,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Tells an event once more when it has ended</source>
-        <translation>Cuenta un acontecimiento una vez más cuando ha terminado</translation>
+        <translation>Vuelve a contar un acontecimiento cuando ha terminado</translation>
     </message>
     <message>
         <source>Africa</source>
@@ -3143,7 +3143,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Where one picture in the picture ends and another begins</source>
-        <translation>Donde acaba una imagen de la imagen y empieza otra</translation>
+        <translation>Donde acaba una imagen dentro de la imagen y empieza otra</translation>
     </message>
     <message>
         <source>Region role</source>
@@ -3179,7 +3179,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>To be cut to this</source>
-        <translation>Para recortar a esto</translation>
+        <translation>Por aquí hay que recortar</translation>
     </message>
     <message>
         <source>recommended cropping</source>
@@ -3195,7 +3195,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>To be cut to this where it has to be wide</source>
-        <translation>Para recortar a esto cuando deba ser ancha</translation>
+        <translation>Por aquí se recorta si la imagen debe ser ancha</translation>
     </message>
     <message>
         <source>portrait format cropping</source>
@@ -3203,7 +3203,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>To be cut to this where it has to be tall</source>
-        <translation>Para recortar a esto cuando deba ser alta</translation>
+        <translation>Por aquí se recorta si la imagen debe ser alta</translation>
     </message>
     <message>
         <source>square format cropping</source>
@@ -3211,7 +3211,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>To be cut to this where it has to be square</source>
-        <translation>Para recortar a esto cuando deba ser cuadrada</translation>
+        <translation>Por aquí se recorta si la imagen debe ser cuadrada</translation>
     </message>
     <message>
         <source>composite image item</source>
@@ -3275,7 +3275,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Parts of the picture&apos;s width and height, from 0 to 1</source>
-        <translation>Partes de la anchura y altura de la imagen, de 0 a 1</translation>
+        <translation>Fracciones de la anchura y la altura de la imagen, de 0 a 1</translation>
     </message>
     <message>
         <source>Pixel</source>
@@ -3408,7 +3408,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Only the letters A–Z and digits can be stored in a name.</source>
-        <translation>En un nombre solo se pueden guardar las letras A–Z y cifras.</translation>
+        <translation>En un nombre solo se pueden guardar letras de la A a la Z y cifras.</translation>
     </message>
     <message>
         <source>A name needs at least two letters or digits.</source>
@@ -4026,12 +4026,12 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     <message>
         <source>%1 missing: “%2”</source>
         <extracomment>%1 is a field that the photo has nothing in, %2 what the template gives instead</extracomment>
-        <translation>falta %1: «%2»</translation>
+        <translation>sin %1: «%2»</translation>
     </message>
     <message>
         <source>%1 missing</source>
         <extracomment>%1 are the fields that the photo has nothing in: &quot;Place, Event missing&quot;</extracomment>
-        <translation>falta %1</translation>
+        <translation>sin %1</translation>
     </message>
     <message>
         <source>Not a rating: 0 to 5</source>
@@ -4137,7 +4137,7 @@ A name, in quotation marks.</extracomment>
     <message>
         <source>%1 — output: %2</source>
         <extracomment>%1 is why it could not be decoded, %2 the beginning of it</extracomment>
-        <translation>%1 — salida: %2</translation>
+        <translation>%1; salida: %2</translation>
     </message>
     <message>
         <source>its values are not UTF-8</source>
@@ -4179,7 +4179,7 @@ A name, in quotation marks.</extracomment>
     <message>
         <source>Line %1: nobody can type a code with “=” in it: %2</source>
         <extracomment>%2 is a code, in quotation marks</extracomment>
-        <translation>Línea %1: nadie puede escribir un código que contenga «=»: %2</translation>
+        <translation>Línea %1: un código que contenga «=» no se puede teclear: %2</translation>
     </message>
     <message numerus="yes">
         <source>Line %1: a code has at most %n character(s): %2</source>
@@ -4401,11 +4401,11 @@ Why nothing can be copied.</extracomment>
     <message>
         <source>preview %1 of %2</source>
         <extracomment>%1: size of what is shown, as “1616 × 1080”. %2: size of the photo.</extracomment>
-        <translation>vista previa de %1, de %2</translation>
+        <translation>vista previa de %1 (foto: %2)</translation>
     </message>
     <message>
         <source>reduced to %1 of %2</source>
-        <translation>reducida a %1, de %2</translation>
+        <translation>reducida de %2 a %1</translation>
     </message>
     <message numerus="yes">
         <source>%n edit(s) unsaved</source>
@@ -4665,11 +4665,11 @@ Button: writes what is shown to all places within photos that hold a field.</ext
     </message>
     <message>
         <source>Writes what is shown to all places in the sidecar, of every field whose places differ there</source>
-        <translation>Escribe lo que se muestra en todos los sitios del sidecar, en cada campo cuyos sitios difieren allí</translation>
+        <translation>Escribe en todos los sitios del sidecar lo que se muestra, para cada campo cuyos sitios difieren allí</translation>
     </message>
     <message>
         <source>Writes what is shown to all places, of every field whose places differ</source>
-        <translation>Escribe lo que se muestra en todos los sitios, en cada campo cuyos sitios difieren</translation>
+        <translation>Escribe en todos los sitios lo que se muestra, para cada campo cuyos sitios difieren</translation>
     </message>
     <message>
         <source>Rename…</source>
@@ -5652,8 +5652,8 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message numerus="yes">
         <source>Make %n photo(s) agree?</source>
         <translation>
-            <numerusform>¿Hacer coincidir %n foto?</numerusform>
-            <numerusform>¿Hacer coincidir %n fotos?</numerusform>
+            <numerusform>¿Hacer coincidir los sitios de %n foto?</numerusform>
+            <numerusform>¿Hacer coincidir los sitios de %n fotos?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -5665,7 +5665,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>Make “%1” agree?</source>
-        <translation>¿Hacer coincidir «%1»?</translation>
+        <translation>¿Hacer coincidir los sitios de «%1»?</translation>
     </message>
     <message>
         <source>Save changes to “%1”?</source>
@@ -5673,7 +5673,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>Where the places of a field differ, all of them will hold what is shown of it. Lists are brought together.</source>
-        <translation>Donde los sitios de un campo difieran, todos contendrán lo que se muestra de él. Las listas se reúnen.</translation>
+        <translation>Donde los sitios de un campo difieran, todos contendrán lo que se muestra de él. Las listas se combinan.</translation>
     </message>
     <message numerus="yes">
         <source>You edited %n field(s). Your changes will be lost if you don’t save them.</source>
@@ -5744,7 +5744,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>By a known photo</source>
-        <translation>Por una foto conocida</translation>
+        <translation>Según una foto conocida</translation>
     </message>
     <message>
         <source>Time zone</source>
@@ -5815,7 +5815,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>Direction</source>
-        <translation>Dirección</translation>
+        <translation>Sentido</translation>
     </message>
     <message>
         <source>Was taken at</source>
@@ -6046,7 +6046,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     </message>
     <message>
         <source>Sidecars and backups go along. Edit ▸ Undo Rename takes it back.</source>
-        <translation>Los sidecars y las copias de seguridad van con ellas. Editar ▸ Deshacer renombrado lo revierte.</translation>
+        <translation>Sidecars y copias de seguridad también se renombran. Editar ▸ Deshacer renombrado lo revierte.</translation>
     </message>
     <message numerus="yes">
         <source>Renaming %1 of %2…</source>
@@ -6072,7 +6072,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
         <extracomment>%1 is the name of a field that a photo does not have.
 ----------
 The photo holds nothing that could stand here. %1: what of, as “title”.</extracomment>
-        <translation>falta %1</translation>
+        <translation>sin %1</translation>
     </message>
     <message>
         <source>Gain</source>
@@ -6109,7 +6109,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message numerus="yes">
         <source>Looked into %1 of %2 photos…</source>
         <translation>
-            <numerusform>Examinada %1 de %2 fotos…</numerusform>
+            <numerusform>Examinada %1 de %2 foto…</numerusform>
             <numerusform>Examinadas %1 de %2 fotos…</numerusform>
         </translation>
     </message>
@@ -6656,7 +6656,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Right-click a photo in your file manager and choose Open With ▸ Quorbel.</source>
-        <translation>Haga clic derecho en una foto en el gestor de archivos y elija Abrir con ▸ Quorbel.</translation>
+        <translation>Haga clic con el botón derecho en una foto en el gestor de archivos y elija Abrir con ▸ Quorbel.</translation>
     </message>
     <message>
         <source>The Interface</source>
@@ -6672,7 +6672,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>With subfolders open, each folder has a heading. Click it, or press Return on it, to fold its photos away; ⌥-click folds all. Left goes from a photo to its heading and folds, Right unfolds.</source>
-        <translation>Con subcarpetas, cada carpeta tiene un encabezado. Un clic en él, o Retorno, pliega sus fotos; ⌥-clic las pliega todas. Izquierda va de una foto a su encabezado y pliega, Derecha despliega.</translation>
+        <translation>Con subcarpetas, cada carpeta tiene un encabezado. Un clic en él, o Retorno, pliega sus fotos; ⌥-clic las pliega todas. Izquierda lleva de una foto a su encabezado y pliega la carpeta; Derecha la despliega.</translation>
     </message>
     <message>
         <source>Preview (center): a large preview column appears as you widen the window, so you always see the photo you&apos;re tagging.</source>
@@ -6716,7 +6716,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>⌥Down and ⌥Up go to the next and the previous photo. The keyboard stays in the same field, and its text is selected there.</source>
-        <translation>⌥Abajo y ⌥Arriba van a la foto siguiente y a la anterior. El teclado sigue en el mismo campo, con su texto seleccionado.</translation>
+        <translation>⌥Abajo y ⌥Arriba llevan a la foto siguiente y a la anterior. El cursor sigue en el mismo campo, con su texto seleccionado.</translation>
     </message>
     <message>
         <source>⌘Return saves and goes on at once: you type while the last photo is still being written.</source>
@@ -6724,11 +6724,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Ctrl+&apos; fills the field with what the photo before shows. An empty field there takes nothing away.</source>
-        <translation>Ctrl+&apos; rellena el campo con lo que muestra la foto anterior. Si allí está vacío, no se borra nada.</translation>
+        <translation>⌘+&apos; rellena el campo con lo que muestra la foto anterior. Si allí está vacío, no se borra nada.</translation>
     </message>
     <message>
         <source>0 to 5 rate while the list has the keyboard; ⌘⌥0 to ⌘⌥5 rate anywhere, one photo or many.</source>
-        <translation>0 a 5 valoran mientras la lista tiene el teclado; ⌘⌥0 a ⌘⌥5 valoran en cualquier parte, una foto o muchas.</translation>
+        <translation>Las teclas 0 a 5 valoran cuando el foco está en la lista; ⌘⌥0 a ⌘⌥5 valoran en cualquier parte, una foto o muchas.</translation>
     </message>
     <message>
         <source>F11, or Space in the list, looks closely: the photo fills the window. A click or Z shows every pixel there, the arrow keys go on to the next photo at the same place, Escape returns.</source>
@@ -6752,7 +6752,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Add language finds a language by its name; the cross behind a text takes that language away.</source>
-        <translation>Añadir idioma… encuentra un idioma por su nombre; la cruz detrás de un texto quita ese idioma.</translation>
+        <translation>Añadir idioma encuentra un idioma por su nombre; la cruz detrás de un texto quita ese idioma.</translation>
     </message>
     <message>
         <source>Both count as unsaved until you save, and work for several photos at once.</source>
@@ -6772,7 +6772,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Suggestions tell the places of a keyword. Type Places| to see what lies below Places.</source>
-        <translation>Las sugerencias indican los lugares de una palabra clave. Escriba Lugares| para ver qué hay debajo de Lugares.</translation>
+        <translation>Las sugerencias indican dónde está cada palabra clave en el árbol. Escriba Lugares| para ver qué hay debajo de Lugares.</translation>
     </message>
     <message>
         <source>Take a keyword away, and the paths that lead to it go too, in every place where the photo keeps them. Paths that lead further stay.</source>
@@ -6780,23 +6780,23 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Places That Disagree</source>
-        <translation>Valores que discrepan</translation>
+        <translation>Sitios que difieren</translation>
     </message>
     <message>
         <source>A photo keeps a title or a date in several places, and each program reads the one it knows. When programs changed only some of them, the places differ. A field whose places differ has a mark under it.</source>
-        <translation>Una foto guarda un título o una fecha en varios sitios, y cada programa lee el que conoce. Cuando un programa ha cambiado solo algunos, los sitios discrepan. Un campo así tiene una marca debajo.</translation>
+        <translation>Una foto guarda un título o una fecha en varios sitios, y cada programa lee el que conoce. Cuando un programa ha cambiado solo algunos, los sitios difieren. Un campo cuyos sitios difieren tiene una marca debajo.</translation>
     </message>
     <message>
         <source>Click the mark to see what each place holds. Use this one makes a text your edit; saving writes it to all places.</source>
-        <translation>Haga clic en la marca para ver qué contiene cada sitio. Usar este convierte un texto en su cambio; al guardar se escribe en todos los sitios.</translation>
+        <translation>Haga clic en la marca para ver qué contiene cada sitio. Usar este toma ese texto como cambio; al guardar se escribe en todos los sitios.</translation>
     </message>
     <message>
         <source>View ▸ Show Disagreements (⌘⇧D) lists only photos whose places differ. Quorbel looks at all open photos for that, while you work on.</source>
-        <translation>Ver ▸ Mostrar discrepancias (⌘⇧D) muestra solo las fotos cuyos sitios discrepan. Para ello, Quorbel examina todas las fotos abiertas mientras se sigue trabajando.</translation>
+        <translation>Ver ▸ Mostrar discrepancias (⌘⇧D) muestra solo las fotos cuyos sitios difieren. Para ello, Quorbel examina todas las fotos abiertas mientras se sigue trabajando.</translation>
     </message>
     <message>
         <source>With photos selected, Edit ▸ Make Them Agree writes what each photo shows to all of its places. Undo Save takes it back.</source>
-        <translation>Con fotos seleccionadas, Editar ▸ Hacer coincidir escribe lo que muestra cada foto en todos sus sitios. Deshacer guardado lo revierte.</translation>
+        <translation>Con fotos seleccionadas, Editar ▸ Hacer coincidir escribe en todos los sitios de cada foto lo que esta muestra. Deshacer guardado lo revierte.</translation>
     </message>
     <message>
         <source>Finding Gaps</source>
@@ -6808,7 +6808,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>F8 goes to the next empty field: down the form, then on to the next photo. ⇧F8 goes back. With a filter for empty fields, only those count.</source>
-        <translation>F8 va al siguiente campo vacío: hacia abajo en el formulario y después a la foto siguiente. ⇧F8 retrocede. Con un filtro de campos vacíos, solo cuentan esos.</translation>
+        <translation>F8 lleva al siguiente campo vacío: hacia abajo en el formulario y después a la foto siguiente. ⇧F8 retrocede. Con un filtro de campos vacíos, solo cuentan esos.</translation>
     </message>
     <message>
         <source>A photo that you edit stays listed until it is saved; then the next one takes its place.</source>
@@ -6832,7 +6832,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>A set may want fields. Empty ones have a dashed border, the lines of the sections count them, and F8 goes from one to the next, on to the next photo at the end. ⇧F8 goes back.</source>
-        <translation>Un conjunto puede pedir campos. Los vacíos tienen un borde discontinuo, las líneas de las secciones los cuentan, y F8 va de uno al siguiente, y al final a la foto siguiente. ⇧F8 retrocede.</translation>
+        <translation>Un conjunto puede pedir campos. Los vacíos tienen un borde discontinuo, los encabezados de las secciones los cuentan, y F8 lleva de uno al siguiente y, al final, a la foto siguiente. ⇧F8 retrocede.</translation>
     </message>
     <message>
         <source>Save What Is on Screen as Set… makes a set of your own; Edit Sets… changes what is in it and what it wants. Sets that come with Quorbel can be copied there.</source>
@@ -6852,11 +6852,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>By an amount: so many days, hours, minutes and seconds later or earlier.</source>
-        <translation>Por una cantidad: tantos días, horas, minutos y segundos más tarde o más temprano.</translation>
+        <translation>Por una cantidad: tantos días, horas, minutos y segundos después o antes.</translation>
     </message>
     <message>
         <source>By a known photo: type when one of the photos was really taken, and all others go by the same amount.</source>
-        <translation>Por una foto conocida: escriba cuándo se hizo realmente una de las fotos, y las demás se desplazan lo mismo.</translation>
+        <translation>Según una foto conocida: escriba cuándo se hizo realmente una de las fotos, y las demás se desplazan lo mismo.</translation>
     </message>
     <message>
         <source>Time zone: sets the zone that the times are in. Keep the clock time, or let it move with the zone. Photos with a position can each get the zone that they were taken in.</source>
@@ -6864,7 +6864,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>The table shows the first photo, the last one, and what becomes another day. Photos without a date are named and left alone. Undo Shift Time takes it back.</source>
-        <translation>La tabla muestra la primera foto, la última y lo que cambia de día. Las fotos sin fecha se nombran y no se tocan. Deshacer desplazamiento de la hora lo revierte.</translation>
+        <translation>La tabla muestra la primera foto, la última y lo que cambia de día. Las fotos sin fecha se indican y no se tocan. Deshacer desplazamiento de la hora lo revierte.</translation>
     </message>
     <message>
         <source>Batch Editing</source>
@@ -6884,7 +6884,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Quorbel confirms before a mass edit unless you&apos;ve turned that prompt off.</source>
-        <translation>Quorbel pide confirmación antes de una edición masiva, salvo que se haya desactivado el aviso.</translation>
+        <translation>Quorbel pide confirmación antes de una edición por lotes, salvo que se haya desactivado el aviso.</translation>
     </message>
     <message>
         <source>Below the keywords stand those that the selected photos have, with how many have each. Click one to give it to all of them; its cross takes it away from all with the next save.</source>
@@ -6924,7 +6924,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Each field is set, set only if it is empty, or gains the text behind or before its own.</source>
-        <translation>Cada campo se establece, se establece solo si está vacío, o recibe el texto detrás o delante del suyo.</translation>
+        <translation>En cada campo, el texto se establece siempre, se establece solo si está vacío, o se añade detrás o delante de lo que ya contiene.</translation>
     </message>
     <message>
         <source>Tokens stand for what the photo says: all fields, the camera, %Filename% and %Counter%. Double-click one to give it a form, such as d MMMM yyyy, and a text for photos that lack the value.</source>
@@ -6977,7 +6977,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Several photos get their names together: select them and choose Rename Photos… in the File menu (Shift+F2). %Counter% numbers them in the order of the list; every other field has a token of its name, too, like %Headline%, and %Title|Untitled% or %Date:yyyyMMdd% say what stands for a missing title, or how a date is written. Names that lack something or were taken are marked. Sidecars, backups and the raw file of a pair go along, and Undo Rename in the Edit menu takes all of it back, also after a restart.</source>
-        <translation>Varias fotos reciben sus nombres a la vez: selecciónelas y elija Renombrar fotos… en el menú Archivo (⇧F2). %Counter% las numera en el orden de la lista; cualquier otro campo tiene también una variable con su nombre, como %Headline%, y %Title|Untitled% o %Date:yyyyMMdd% dicen qué sustituye a un título que falta o cómo se escribe una fecha. Los nombres a los que les falta algo, o que ya estaban ocupados, se marcan. Los sidecars, las copias de seguridad y el archivo raw de una pareja van con ellos, y Deshacer renombrado, en el menú Editar, lo revierte todo, también tras reiniciar.</translation>
+        <translation>Varias fotos reciben sus nombres a la vez: selecciónelas y elija Renombrar fotos… en el menú Archivo (⇧F2). %Counter% las numera en el orden de la lista; cualquier otro campo tiene también una variable con su nombre, como %Headline%, y %Title|Untitled% o %Date:yyyyMMdd% dicen qué sustituye a un título que falta o cómo se escribe una fecha. Los nombres a los que les falta algo, o que ya estaban ocupados, se marcan. Los sidecars, las copias de seguridad y el archivo raw de una pareja se renombran también, y Deshacer renombrado, en el menú Editar, lo revierte todo, incluso tras reiniciar.</translation>
     </message>
     <message>
         <source>Saving &amp; Backups</source>
@@ -7049,7 +7049,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Confirm before mass edits, and the default rename pattern.</source>
-        <translation>Confirmación antes de ediciones masivas, y el patrón de renombrado predeterminado.</translation>
+        <translation>Confirmación antes de una edición por lotes, y el patrón de renombrado predeterminado.</translation>
     </message>
     <message>
         <source>Topics</source>
@@ -7101,7 +7101,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Looking at %1 of %2 photos…</source>
         <extracomment>%1 of all %2 photos were looked at already.</extracomment>
         <translation>
-            <numerusform>Examinando %1 de %2 fotos…</numerusform>
+            <numerusform>Examinando %1 de %2 foto…</numerusform>
             <numerusform>Examinando %1 de %2 fotos…</numerusform>
         </translation>
     </message>
@@ -7109,7 +7109,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Filling in %1 of %2 photos…</source>
         <extracomment>%1 of all %2 photos were filled in already: what the program did not know of them yet was read.</extracomment>
         <translation>
-            <numerusform>Completando %1 de %2 fotos…</numerusform>
+            <numerusform>Completando %1 de %2 foto…</numerusform>
             <numerusform>Completando %1 de %2 fotos…</numerusform>
         </translation>
     </message>
@@ -7117,7 +7117,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Reading %1 of %2 photos…</source>
         <extracomment>%1 of all %2 photos were read already.</extracomment>
         <translation>
-            <numerusform>Leyendo %1 de %2 fotos…</numerusform>
+            <numerusform>Leyendo %1 de %2 foto…</numerusform>
             <numerusform>Leyendo %1 de %2 fotos…</numerusform>
         </translation>
     </message>
@@ -7125,7 +7125,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Renaming %1 of %2 photos…</source>
         <extracomment>%1 of all %2 photos were renamed already.</extracomment>
         <translation>
-            <numerusform>Renombrando %1 de %2 fotos…</numerusform>
+            <numerusform>Renombrando %1 de %2 foto…</numerusform>
             <numerusform>Renombrando %1 de %2 fotos…</numerusform>
         </translation>
     </message>
@@ -7133,7 +7133,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Saving %1 of %2 photos…</source>
         <extracomment>%1 of all %2 photos were saved already.</extracomment>
         <translation>
-            <numerusform>Guardando %1 de %2 fotos…</numerusform>
+            <numerusform>Guardando %1 de %2 foto…</numerusform>
             <numerusform>Guardando %1 de %2 fotos…</numerusform>
         </translation>
     </message>
@@ -7154,7 +7154,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Display</source>
         <comment>heading of settings</comment>
-        <translation>Pantalla</translation>
+        <translation>Interfaz</translation>
     </message>
     <message>
         <source>Appearance</source>
@@ -7294,12 +7294,12 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message>
         <source>Light</source>
         <comment>appearance</comment>
-        <translation>Claro</translation>
+        <translation>Clara</translation>
     </message>
     <message>
         <source>Dark</source>
         <comment>appearance</comment>
-        <translation>Oscuro</translation>
+        <translation>Oscura</translation>
     </message>
     <message>
         <source>High contrast</source>
@@ -7415,7 +7415,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>From the entry to the last keyword</source>
-        <translation>De la entrada a la última palabra clave</translation>
+        <translation>Del campo de texto a la última palabra clave</translation>
     </message>
     <message>
         <source>Take that keyword away</source>
@@ -7463,8 +7463,8 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Only %1 of %2 folders report changes. Refresh to see what changed in the others.</source>
         <extracomment>Of %2 folders, only %1 do.</extracomment>
         <translation>
-            <numerusform>Solo %1 de %2 carpetas avisa de los cambios. Actualice para ver qué ha cambiado en las demás.</numerusform>
-            <numerusform>Solo %1 de %2 carpetas avisan de los cambios. Actualice para ver qué ha cambiado en las demás.</numerusform>
+            <numerusform>Carpetas que avisan de los cambios: solo %1 de %2. Actualice para ver qué ha cambiado en las demás.</numerusform>
+            <numerusform>Carpetas que avisan de los cambios: solo %1 de %2. Actualice para ver qué ha cambiado en las demás.</numerusform>
         </translation>
     </message>
     <message>
@@ -7489,7 +7489,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Left as they are, because they could not be read: %1</source>
-        <translation>Se han dejado como estaban, porque no se pudieron leer: %1</translation>
+        <translation>Sin cambios, por no haberse podido leer: %1</translation>
     </message>
     <message>
         <source>keeps changing</source>
@@ -7501,7 +7501,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>ExifTool told nothing of it</source>
-        <translation>ExifTool no dijo nada de ella</translation>
+        <translation>ExifTool no devolvió nada</translation>
     </message>
     <message>
         <source>Could not be read (%1)</source>

@@ -131,7 +131,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Stock</source>
-        <translation>ストック</translation>
+        <translation>ストックフォト</translation>
     </message>
     <message>
         <source>Rights</source>
@@ -301,7 +301,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
         <source>Not undone: %n photo(s) changed since and (was|were) left alone: %1</source>
         <extracomment>%1 names the photos</extracomment>
         <translation>
-            <numerusform>元に戻していません：%n 枚の写真はその後に変更されたため、そのままにしました：%1</numerusform>
+            <numerusform>%n 枚の写真はその後に変更されたため、元に戻していません：%1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -613,11 +613,11 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>%1 earlier</source>
         <extracomment>%1 is a span of time: &quot;1 h 02 min 30 s later&quot;</extracomment>
-        <translation>%1前へ</translation>
+        <translation>%1戻す</translation>
     </message>
     <message>
         <source>%1 later</source>
-        <translation>%1後へ</translation>
+        <translation>%1進める</translation>
     </message>
     <message>
         <source>Each photo’s own</source>
@@ -637,7 +637,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Could not shift the time: where edits of raw files go was changed in the settings meanwhile</source>
-        <translation>時刻をずらせませんでした：途中で RAW の編集内容の保存先の設定が変更されました</translation>
+        <translation>時刻をずらせませんでした：処理中に RAW ファイルの編集内容の保存先が設定で変更されました</translation>
     </message>
     <message>
         <source>“%1” is not there any more.</source>
@@ -1034,7 +1034,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Reads and edits the words inside photos.</source>
-        <translation>写真に含まれる文字情報を読み取り、編集します。</translation>
+        <translation>写真に埋め込まれた文字情報を読み取り、編集します。</translation>
     </message>
     <message>
         <source>A folder of photos, or photos.</source>
@@ -1068,7 +1068,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message numerus="yes">
         <source>Long to listen to: %1 of %n character(s)</source>
         <translation>
-            <numerusform>読み上げには長すぎます：%1 / %n 文字</numerusform>
+            <numerusform>読み上げには長めです：%1 / %n 文字</numerusform>
         </translation>
     </message>
     <message>
@@ -1177,7 +1177,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Places that are to be seen</source>
-        <translation>画像に見える場所</translation>
+        <translation>画像に写っている場所</translation>
     </message>
     <message>
         <source>Subject codes</source>
@@ -1461,7 +1461,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Creators</source>
-        <translation>作成者</translation>
+        <translation>作者</translation>
     </message>
     <message>
         <source>Created</source>
@@ -1481,7 +1481,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Physical description</source>
-        <translation>物理的説明</translation>
+        <translation>物理的特徴</translation>
     </message>
     <message>
         <source>Style or period</source>
@@ -1521,7 +1521,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Creator IDs</source>
-        <translation>作成者 ID</translation>
+        <translation>作者 ID</translation>
     </message>
     <message>
         <source>term</source>
@@ -1739,7 +1739,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     <message>
         <source>%1 holds %2 of another program, which this change would lose</source>
         <extracomment>%1 is a field, %2 names parts of it, in quotation marks</extracomment>
-        <translation>%1には、この変更で失われるほかのプログラムの%2が入っています</translation>
+        <translation>%1にはほかのプログラムの%2が入っており、この変更を行うと失われます</translation>
     </message>
     <message>
         <source>Not a number</source>
@@ -1770,7 +1770,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Digital source type</source>
-        <translation>デジタルソースの種類</translation>
+        <translation>デジタルソースタイプ</translation>
     </message>
     <message>
         <source>Digital capture sampled from real life</source>
@@ -1790,7 +1790,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Digitised from a transparent negative</source>
-        <translation>透過ネガからのデジタル化</translation>
+        <translation>透過原稿（ネガ）のデジタル化</translation>
     </message>
     <message>
         <source>A film negative turned into a digital picture</source>
@@ -1798,7 +1798,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Digitised from a transparent positive</source>
-        <translation>透過ポジからのデジタル化</translation>
+        <translation>透過原稿（ポジ）のデジタル化</translation>
     </message>
     <message>
         <source>A slide turned into a digital picture</source>
@@ -1806,7 +1806,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Digitised from a non-transparent medium</source>
-        <translation>非透過媒体からのデジタル化</translation>
+        <translation>反射原稿のデジタル化</translation>
     </message>
     <message>
         <source>A scan of a print or another thing on paper</source>
@@ -1842,7 +1842,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Made by a person with digital tools, such as a drawing</source>
-        <translation>描画など、人がデジタルツールで制作したもの</translation>
+        <translation>イラストなど、人がデジタルツールで制作したもの</translation>
     </message>
     <message>
         <source>Data-driven media</source>
@@ -1862,7 +1862,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Pure algorithmic media</source>
-        <translation>純粋なアルゴリズムによるメディア</translation>
+        <translation>アルゴリズムのみによるメディア</translation>
     </message>
     <message>
         <source>Computed by a formula that learned from nothing, such as a fractal</source>
@@ -1934,7 +1934,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Unspecified – no prohibition defined</source>
-        <translation>指定なし – 禁止の定めなし</translation>
+        <translation>指定なし（禁止の定めなし）</translation>
     </message>
     <message>
         <source>The file says nothing about it</source>
@@ -2186,7 +2186,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>headshot</source>
-        <translation>頭部</translation>
+        <translation>顔写真</translation>
     </message>
     <message>
         <source>The head of a person</source>
@@ -2254,7 +2254,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>More than two people or things</source>
-        <translation>3 人または 3 つ以上</translation>
+        <translation>3 人以上または 3 つ以上</translation>
     </message>
     <message>
         <source>general view</source>
@@ -2410,7 +2410,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Companies, markets, trades, industries</source>
-        <translation>企業、市場、貿易、産業</translation>
+        <translation>企業、市場、商業、産業</translation>
     </message>
     <message>
         <source>education</source>
@@ -2426,7 +2426,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Nature, climate, pollution, conservation</source>
-        <translation>自然、気候、汚染、保護</translation>
+        <translation>自然、気候、汚染、環境保護</translation>
     </message>
     <message>
         <source>health</source>
@@ -2566,7 +2566,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Actuality</source>
-        <translation>実況</translation>
+        <translation>現場収録</translation>
     </message>
     <message>
         <source>Something as it happened, recorded there</source>
@@ -2598,7 +2598,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Anniversary</source>
-        <translation>周年</translation>
+        <translation>記念日</translation>
     </message>
     <message>
         <source>Looks back on the day of an earlier event</source>
@@ -2614,7 +2614,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Background</source>
-        <translation>背景</translation>
+        <translation>背景解説</translation>
     </message>
     <message>
         <source>What has to be known to follow an event</source>
@@ -2838,7 +2838,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
     </message>
     <message>
         <source>Side bar and supporting information</source>
-        <translation>サイドバー・補足情報</translation>
+        <translation>サイド記事・補足情報</translation>
     </message>
     <message>
         <source>Goes with another piece and adds to it</source>
@@ -3325,7 +3325,7 @@ The end of a list of names: %1 is those before, with commas between them, %2 the
 ----------
 The end of a list of names: %1 is those before, with commas between them.</extracomment>
         <translation>
-            <numerusform>%1、ほか %n 件</numerusform>
+            <numerusform>%1 ほか %n 件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3363,7 +3363,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Only the letters A–Z and digits can be stored in a name.</source>
-        <translation>名前に使えるのは A–Z の文字と数字だけです。</translation>
+        <translation>名前に使えるのは A～Z の英字と数字だけです。</translation>
     </message>
     <message>
         <source>A name needs at least two letters or digits.</source>
@@ -3380,11 +3380,11 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Not a date: YYYY-MM-DD HH:MM</source>
-        <translation>日付ではありません：YYYY-MM-DD HH:MM</translation>
+        <translation>日時ではありません：YYYY-MM-DD HH:MM</translation>
     </message>
     <message>
         <source>Not a position: lat, lon</source>
-        <translation>位置ではありません：lat, lon</translation>
+        <translation>位置ではありません：緯度, 経度</translation>
     </message>
     <message>
         <source>Not an offset: +HH:MM</source>
@@ -3860,7 +3860,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>COMMON</source>
-        <translation>共通</translation>
+        <translation>基本</translation>
     </message>
     <message>
         <source>LOCATION</source>
@@ -4201,7 +4201,7 @@ A name, in quotation marks.</extracomment>
     </message>
     <message>
         <source>would fill the empty field</source>
-        <translation>適用すると空のフィールドに入力します</translation>
+        <translation>選択すると空のフィールドに入力します</translation>
     </message>
     <message numerus="yes">
         <source>fills %n</source>
@@ -4214,7 +4214,7 @@ A name, in quotation marks.</extracomment>
         <source>would fill %n</source>
         <extracomment>%n is the number of photos that have nothing in the field</extracomment>
         <translation>
-            <numerusform>適用すると %n 枚に入力します</numerusform>
+            <numerusform>選択すると %n 枚に入力します</numerusform>
         </translation>
     </message>
     <message>
@@ -4224,7 +4224,7 @@ A name, in quotation marks.</extracomment>
     </message>
     <message>
         <source>would add to “%1”</source>
-        <translation>適用すると「%1」に追加します</translation>
+        <translation>選択すると「%1」に追加します</translation>
     </message>
     <message numerus="yes">
         <source>adds to the %1 of %n</source>
@@ -4237,7 +4237,7 @@ A name, in quotation marks.</extracomment>
         <source>would add to the %1 of %n</source>
         <extracomment>%1 is a field that holds a list (&quot;keywords&quot;), %n a number of photos</extracomment>
         <translation>
-            <numerusform>適用すると %n 枚の%1に追加します</numerusform>
+            <numerusform>選択すると %n 枚の%1に追加します</numerusform>
         </translation>
     </message>
     <message>
@@ -4247,7 +4247,7 @@ A name, in quotation marks.</extracomment>
     </message>
     <message>
         <source>would replace %1</source>
-        <translation>適用すると%1を置き換えます</translation>
+        <translation>選択すると%1を置き換えます</translation>
     </message>
     <message numerus="yes">
         <source>replaces %1, fills %n</source>
@@ -4260,7 +4260,7 @@ A name, in quotation marks.</extracomment>
         <source>would replace %1, fill %n</source>
         <extracomment>%1 is what would go (&quot;4 titles&quot;), %n a number of photos that have nothing there</extracomment>
         <translation>
-            <numerusform>適用すると%1を置き換え、%n 枚に入力します</numerusform>
+            <numerusform>選択すると%1を置き換え、%n 枚に入力します</numerusform>
         </translation>
     </message>
     <message>
@@ -4798,7 +4798,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
         <source>%n edit(s) of %1 left unsaved</source>
         <extracomment>Somebody went on without saving them. %1: “5 photos”.</extracomment>
         <translation>
-            <numerusform>%1 の編集 %n 件が未保存です</numerusform>
+            <numerusform>%1の編集 %n 件が未保存です</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -5593,7 +5593,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>taken away: %1</source>
         <extracomment>%1 is a list of keywords that photos lose.</extracomment>
-        <translation>削除：%1</translation>
+        <translation>取り除く：%1</translation>
     </message>
     <message>
         <source>Changes</source>
@@ -5645,12 +5645,12 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>Later</source>
         <comment>times become later</comment>
-        <translation>後へ</translation>
+        <translation>進める</translation>
     </message>
     <message>
         <source>Earlier</source>
         <comment>times become earlier</comment>
-        <translation>前へ</translation>
+        <translation>戻す</translation>
     </message>
     <message>
         <source>Keep the clock time</source>
@@ -6117,11 +6117,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Any field contains…</source>
-        <translation>いずれかのフィールドに含む…</translation>
+        <translation>いずれかのフィールドに含む文字…</translation>
     </message>
     <message>
         <source>Any field contains</source>
-        <translation>いずれかのフィールドに含む</translation>
+        <translation>いずれかのフィールドに含む文字</translation>
     </message>
     <message>
         <source>At least, any rating</source>
@@ -6169,7 +6169,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Places differ</source>
-        <translation>記録先の不一致</translation>
+        <translation>記録先が不一致</translation>
     </message>
     <message>
         <source>Clear filters</source>
@@ -6479,7 +6479,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>A text file with a code, a tab and its text in each line. Type =js= in a text or keyword, and js becomes its text at the second “=”; one Undo gives the code back.</source>
-        <translation>各行にコード、タブ、テキストを書いたテキストファイルです。テキストやキーワードに =js= と入力すると、2 つ目の「=」で js がそのテキストに置き換わります。一度「元に戻す」を行うとコードに戻ります。</translation>
+        <translation>各行にコード、タブ、テキストを書いたテキストファイルです。テキストやキーワードに =js= と入力すると、2 つ目の「=」で js がそのテキストに置き換わります。「元に戻す」を 1 回実行すると、コードに戻ります。</translation>
     </message>
     <message>
         <source>No file</source>
@@ -6547,7 +6547,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Inspector (right): the editable fields, grouped as Common, Location and read-only Camera details.</source>
-        <translation>インスペクター（右）：編集できるフィールドが「共通」と「場所」にまとめられ、読み取り専用のカメラ情報も表示されます。</translation>
+        <translation>インスペクター（右）：編集できるフィールドが「基本」と「場所」にまとめられ、読み取り専用のカメラ情報も表示されます。</translation>
     </message>
     <message>
         <source>Quorbel remembers what it read: a folder that you open again is there at once, and only photos that changed are read. View ▸ Read Again (⇧F5) reads all of them anew.</source>
@@ -6643,7 +6643,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Take a keyword away, and the paths that lead to it go too, in every place where the photo keeps them. Paths that lead further stay.</source>
-        <translation>キーワードを削除すると、それに至る階層も、写真内のすべての記録先から削除されます。その先に続く階層は残ります。</translation>
+        <translation>キーワードを取り除くと、それに至る階層も、写真内のすべての記録先から取り除かれます。その先に続く階層は残ります。</translation>
     </message>
     <message>
         <source>Places That Disagree</source>
@@ -6675,7 +6675,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>F8 goes to the next empty field: down the form, then on to the next photo. ⇧F8 goes back. With a filter for empty fields, only those count.</source>
-        <translation>F8 で次の空欄に移ります。フォームを下へ進み、終わると次の写真に移ります。⇧F8 で戻ります。空欄のフィルターを使っているときは、その対象のフィールドだけが対象になります。</translation>
+        <translation>F8 で次の空欄に移ります。フォームを下へ進み、終わると次の写真に移ります。⇧F8 で戻ります。空欄のフィルターを使っているときは、フィルターで選んだフィールドだけを順に移ります。</translation>
     </message>
     <message>
         <source>A photo that you edit stays listed until it is saved; then the next one takes its place.</source>
@@ -6695,7 +6695,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>View ▸ Field Set chooses what is on screen at once: Captions, Press, Museum, Stock, Rights, Accessibility, or a set of your own. What a photo holds beside the set stays visible, and so does what you edited.</source>
-        <translation>表示 ▸ フィールドセット で、画面に表示するものをまとめて切り替えます。キャプション、報道、博物館・美術館、ストック、権利、アクセシビリティ、または独自のセットから選べます。セット以外でも、写真に入っているものと編集したものは表示されたままです。</translation>
+        <translation>表示 ▸ フィールドセット で、画面に表示するものをまとめて切り替えます。キャプション、報道、博物館・美術館、ストックフォト、権利、アクセシビリティ、または独自のセットから選べます。セット以外でも、写真に入っているものと編集したものは表示されたままです。</translation>
     </message>
     <message>
         <source>A set may want fields. Empty ones have a dashed border, the lines of the sections count them, and F8 goes from one to the next, on to the next photo at the end. ⇧F8 goes back.</source>
@@ -6719,7 +6719,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>By an amount: so many days, hours, minutes and seconds later or earlier.</source>
-        <translation>時間を指定：日、時間、分、秒の単位で、後または前にずらします。</translation>
+        <translation>時間を指定：日、時間、分、秒の単位で、進めるか戻します。</translation>
     </message>
     <message>
         <source>By a known photo: type when one of the photos was really taken, and all others go by the same amount.</source>
@@ -6755,7 +6755,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Below the keywords stand those that the selected photos have, with how many have each. Click one to give it to all of them; its cross takes it away from all with the next save.</source>
-        <translation>キーワードの下には、選択した写真に付いているキーワードと、それぞれの枚数が表示されます。クリックするとすべての写真に付き、× をクリックすると次の保存ですべての写真から削除されます。</translation>
+        <translation>キーワードの下には、選択した写真に付いているキーワードと、それぞれの枚数が表示されます。クリックするとすべての写真に付き、× をクリックすると次の保存ですべての写真から取り除かれます。</translation>
     </message>
     <message>
         <source>Quick keywords are the last ones you used, or a set of your own: click one, or press Alt+1 to Alt+9. The name of the set is a menu of all sets.</source>
@@ -6779,11 +6779,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Choose a file of codes in Settings: a code, a tab and its text in each line. Then type =js= in a text or keyword, and js becomes its text. One Undo (⌘Z) gives the code back.</source>
-        <translation>設定で、コードのファイルを選びます。1 行ごとに、コード、タブ、テキストを書いたものです。テキストやキーワードに =js= と入力すると、js に対応するテキストに置き換わります。一度 元に戻す（⌘Z）と、コードに戻ります。</translation>
+        <translation>設定で、コードのファイルを選びます。1 行ごとに、コード、タブ、テキストを書いたものです。テキストやキーワードに =js= と入力すると、js に対応するテキストに置き換わります。「元に戻す」（⌘Z）を 1 回実行すると、コードに戻ります。</translation>
     </message>
     <message>
         <source>A template fills fields of the selected photos with texts that each photo completes: “Race %Counter% off %Place|Zürich%”. Make one in Edit ▸ Templates, or from a photo with Save as Template…</source>
-        <translation>テンプレートは、写真ごとに補われるテキストで、選択した写真のフィールドを埋めます。例：「Race %Counter% off %Place|Zürich%」。作成するには、編集 ▸ テンプレート を開くか、写真から テンプレートとして保存…</translation>
+        <translation>テンプレートは、選択した写真のフィールドに、写真ごとの情報を補ったテキストを入力します。例：「%Place|Zürich% 沖、第 %Counter% レース」。作成するには、編集 ▸ テンプレート を開くか、写真を選んで「テンプレートとして保存…」を選びます。</translation>
     </message>
     <message>
         <source>⌘1 to ⌘9 apply the templates that have these keys. What they fill in are edits, written when you save.</source>
@@ -6795,11 +6795,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Tokens stand for what the photo says: all fields, the camera, %Filename% and %Counter%. Double-click one to give it a form, such as d MMMM yyyy, and a text for photos that lack the value.</source>
-        <translation>トークンは写真の情報に置き換わります。すべてのフィールド、カメラ、%Filename%、%Counter% があります。ダブルクリックすると、d MMMM yyyy のような書式や、値がない写真に使うテキストを指定できます。</translation>
+        <translation>トークンは写真の情報に置き換わります。すべてのフィールド、カメラ、%Filename%、%Counter% があります。ダブルクリックすると、yyyy年M月d日 のような書式や、値がない写真に使うテキストを指定できます。</translation>
     </message>
     <message>
         <source>Each template is a file. Drag one out of the list to pass it on, and drop files in to import them.</source>
-        <translation>テンプレートは、それぞれ 1 つのファイルです。一覧の外にドラッグすれば人に渡せ、ファイルをドロップすれば読み込めます。</translation>
+        <translation>テンプレートは、それぞれ 1 つのファイルです。一覧の外にドラッグすれば人に渡せ、ファイルを一覧にドロップすればインポートできます。</translation>
     </message>
     <message>
         <source>Renaming Files</source>
@@ -6900,7 +6900,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Open Settings from the Quorbel menu (⌘,) to adjust:</source>
-        <translation>Quorbel メニューから設定（⌘,）を開くと、次の項目を変更できます。</translation>
+        <translation>ファイル ▸ 設定…（⌘,）を選ぶと、次の項目を変更できます。</translation>
     </message>
     <message>
         <source>Back up originals before saving.</source>
@@ -7083,7 +7083,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Edits of raw photos</source>
-        <translation>RAW 写真の編集</translation>
+        <translation>RAW 写真の編集内容</translation>
     </message>
     <message>
         <source>Edits are written into the raw file, as into other photos.</source>
@@ -7095,7 +7095,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Edits of DNG photos</source>
-        <translation>DNG 写真の編集</translation>
+        <translation>DNG 写真の編集内容</translation>
     </message>
     <message>
         <source>DNG is made to hold metadata, so it is written as other photos are.</source>
@@ -7137,7 +7137,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Online place service</source>
-        <translation>場所検索サービス</translation>
+        <translation>オンライン場所検索</translation>
     </message>
     <message>
         <source>Empty: places are looked up on this computer alone. With the https address of a Photon-compatible service, what you type in the Place field is sent there; places known here still come first. Takes effect at the next start.</source>
@@ -7280,7 +7280,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Take that keyword away</source>
-        <translation>そのキーワードを削除</translation>
+        <translation>そのキーワードを取り除く</translation>
     </message>
     <message>
         <source>On the stars</source>
