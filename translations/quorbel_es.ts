@@ -7415,7 +7415,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>From the entry to the last keyword</source>
-        <translation>Del campo de texto a la última palabra clave</translation>
+        <translation>Del texto a la última palabra clave</translation>
     </message>
     <message>
         <source>Take that keyword away</source>

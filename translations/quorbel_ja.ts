@@ -6117,7 +6117,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Any field contains…</source>
-        <translation>いずれかのフィールドに含む文字…</translation>
+        <translation>フィールド内の文字…</translation>
     </message>
     <message>
         <source>Any field contains</source>
@@ -7228,7 +7228,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Fold or unfold all folders</source>
-        <translation>すべてのフォルダーを折りたたむ・展開する</translation>
+        <translation>すべてのフォルダーを開閉</translation>
     </message>
     <message>
         <source>Looking closely</source>

@@ -242,13 +242,13 @@ void QBTextField::paintEvent(QPaintEvent* event)
         const QRectF place(pxF(9), 0, pxF(15), height());
         Icon::paint(painter, mirrored(place, this), m_icon, pxF(15), hasFocus() ? theme.text : theme.muted);
     }
-    if (text().isEmpty() && !m_isComposing && !m_placeholder.isEmpty()) {
+    if (text().isEmpty() && !m_isComposing && !placeholder().isEmpty()) {
         QFont font = sansFont(13);
         font.setItalic(m_italicPlaceholder);
         painter.setFont(font);
         painter.setPen(isGap ? theme.derived.label : theme.muted);
         const QRect box = textRect();
-        const QString shown = QFontMetrics(font).elidedText(m_placeholder, Qt::ElideRight, box.width());
+        const QString shown = QFontMetrics(font).elidedText(placeholder(), Qt::ElideRight, box.width());
         painter.drawText(
             box, int(Qt::AlignVCenter | Qt::TextSingleLine) | int(alignment() & Qt::AlignHorizontal_Mask), shown);
     }

@@ -25,7 +25,7 @@ public:
     void startText(const QString& text) { setText(text); }
     /// What is to stand in the empty field. One that is named by the same words says them once: name it first.
     void setPlaceholder(const QString& text, bool italic = false);
-    const QString& placeholder() const { return m_placeholder; }
+    QString placeholder() const { return m_placeholder.isEmpty() ? placeholderText() : m_placeholder; }
     void setEdited(bool edited);
     /// While it is empty it has a dashed border, and its placeholder is there to be read: "Required by Press".
     void setWanted(bool wanted);

@@ -2,6 +2,7 @@
 #include "app/model/thumbnails/ThumbnailStore.h"
 #include "tests/app/model/ModelFixture.h"
 #include "tests/ui/UiSupport.h"
+#include "ui/controls/TextFields.h"
 #include "ui/sidebar/SidebarDelegate.h"
 #include "ui/sidebar/SidebarList.h"
 #include "ui/sidebar/SidebarView.h"

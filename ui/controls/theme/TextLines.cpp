@@ -46,7 +46,8 @@ QStringList words(const QString& text)
     return found;
 }
 
-QStringList atSpaces(const QString& text, const QFontMetrics& metrics, int width, int most)
+// Not rounded: what is a fraction of a pixel too wide is shortened when it is drawn.
+QStringList atSpaces(const QString& text, const QFontMetricsF& metrics, int width, int most)
 {
     QStringList lines{ QString() };
     for (const QString& word : words(text)) {
@@ -81,7 +82,7 @@ QStringList brokenIntoLines(const QString& text, const QFont& font, int width, L
     case LineBreaks::words:
         break;
     case LineBreaks::spaces:
-        return atSpaces(text, QFontMetrics(font), width, most);
+        return atSpaces(text, QFontMetricsF(font), width, most);
     case LineBreaks::anywhere:
         return anywhere(text, QFontMetrics(font), width, most);
     }
