@@ -1,8 +1,8 @@
 #include "ui/controls/SelectableText.h"
 
 #include "core/language/Texts.h"
-#include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/ThemedMenu.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"

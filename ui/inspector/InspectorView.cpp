@@ -5,7 +5,7 @@
 #include "app/model/words/QuickKeywords.h"
 #include "core/language/Texts.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/ScrollArea.h"
+#include "ui/controls/scrolling/ScrollArea.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"
 #include "ui/inspector/FieldRow.h"

@@ -10,7 +10,7 @@
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"
 #include "ui/inspector/FieldRow.h"
-#include "ui/inspector/HomesPopover.h"
+#include "ui/inspector/homes/HomesPopover.h"
 
 #include <QAction>
 #include <QApplication>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/schema/FieldSchema.h"
-#include "ui/controls/ScrollArea.h"
+#include "ui/controls/scrolling/ScrollArea.h"
 
 #include <QHash>
 

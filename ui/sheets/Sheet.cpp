@@ -1,7 +1,7 @@
 #include "ui/sheets/Sheet.h"
 
 #include "ui/controls/Accessibility.h"
-#include "ui/controls/ScrollArea.h"
+#include "ui/controls/scrolling/ScrollArea.h"
 #include "ui/controls/theme/AnimatedValue.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"

@@ -6,9 +6,9 @@
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/RatingEditor.h"
-#include "ui/controls/ScrollArea.h"
 #include "ui/controls/TextFields.h"
 #include "ui/controls/attached/MenuRow.h"
+#include "ui/controls/scrolling/ScrollArea.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"
 

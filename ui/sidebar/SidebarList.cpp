@@ -4,7 +4,7 @@
 #include "app/model/library/filter/Filtering.h"
 #include "app/model/thumbnails/ThumbnailStore.h"
 #include "core/language/Texts.h"
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Theme.h"
 #include "ui/sidebar/SidebarDelegate.h"

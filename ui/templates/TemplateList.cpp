@@ -2,7 +2,7 @@
 
 #include "app/model/templates/Templates.h"
 #include "core/language/Texts.h"
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"

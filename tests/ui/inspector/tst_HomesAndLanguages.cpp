@@ -9,8 +9,8 @@
 #include "ui/controls/attached/MarkButton.h"
 #include "ui/controls/attached/SearchMenu.h"
 #include "ui/inspector/FormSection.h"
-#include "ui/inspector/HomeRow.h"
-#include "ui/inspector/HomesPopover.h"
+#include "ui/inspector/homes/HomeRow.h"
+#include "ui/inspector/homes/HomesPopover.h"
 
 #include <QListWidget>
 #include <QScrollBar>

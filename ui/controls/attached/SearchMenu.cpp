@@ -1,6 +1,6 @@
 #include "ui/controls/attached/SearchMenu.h"
 
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"

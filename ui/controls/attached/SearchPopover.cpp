@@ -1,8 +1,8 @@
 #include "ui/controls/attached/SearchPopover.h"
 
 #include "ui/controls/Labels.h"
-#include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
 
 #include <QAccessible>

@@ -1,6 +1,6 @@
 #include "ui/controls/pickers/ChoiceList.h"
 
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"

@@ -1,8 +1,8 @@
 #include "ui/controls/pickers/CodePopover.h"
 
 #include "core/language/Texts.h"
-#include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
 #include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"

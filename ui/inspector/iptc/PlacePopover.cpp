@@ -1,7 +1,7 @@
 #include "ui/inspector/iptc/PlacePopover.h"
 
 #include "core/language/Texts.h"
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
 #include "ui/controls/theme/HighContrast.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Painting.h"

@@ -3,8 +3,8 @@
 #include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/ScrollArea.h"
 #include "ui/controls/attached/MenuRow.h"
+#include "ui/controls/scrolling/ScrollArea.h"
 #include "ui/controls/theme/Metrics.h"
 
 #include <QKeyEvent>

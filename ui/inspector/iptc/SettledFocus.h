@@ -1,7 +1,7 @@
 // The keyboard, and the room on screen, for what has just come into a form. Thread: the main thread.
 #pragma once
 
-#include "ui/controls/ScrollArea.h"
+#include "ui/controls/scrolling/ScrollArea.h"
 
 #include <QCoreApplication>
 #include <QEvent>

@@ -4,7 +4,7 @@
 #include "core/schema/FieldSchema.h"
 #include "core/text/Text.h"
 #include "ui/controls/Labels.h"
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
 #include "ui/controls/theme/FocusRing.h"
 #include "ui/controls/theme/Icon.h"
 #include "ui/controls/theme/Metrics.h"

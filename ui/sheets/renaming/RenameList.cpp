@@ -1,7 +1,7 @@
 #include "ui/sheets/renaming/RenameList.h"
 
 #include "core/language/Texts.h"
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"
 #include "ui/controls/theme/Painting.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "app/model/sidecars/MovePreview.h"
-#include "ui/controls/ScrollArea.h"
+#include "ui/controls/scrolling/ScrollArea.h"
 
 namespace Quorbel {
 

@@ -1,14 +1,14 @@
-#include "ui/inspector/HomesPopover.h"
+#include "ui/inspector/homes/HomesPopover.h"
 
 #include "core/details/FileHome.h"
 #include "core/language/Texts.h"
 #include "ui/controls/Accessibility.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/OverlayScrollBar.h"
-#include "ui/controls/ScrollArea.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
+#include "ui/controls/scrolling/ScrollArea.h"
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"
-#include "ui/inspector/HomeRow.h"
+#include "ui/inspector/homes/HomeRow.h"
 
 #include <QApplication>
 #include <QVBoxLayout>

@@ -1,4 +1,4 @@
-#include "ui/controls/OverlayScrollBar.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
 
 #include "ui/controls/theme/Metrics.h"
 #include "ui/controls/theme/Mirroring.h"

@@ -1,4 +1,4 @@
-#include "ui/inspector/HomeRow.h"
+#include "ui/inspector/homes/HomeRow.h"
 
 #include "core/details/FileHome.h"
 #include "core/language/Texts.h"
