@@ -13,7 +13,7 @@ namespace Quorbel {
 class SectionHeader;
 class ThemedLabel;
 
-class FormSection final : public QWidget {
+class FormSection : public QWidget {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(FormSection)
 

@@ -4,7 +4,6 @@
 #include "app/model/fieldsets/FieldSets.h"
 #include "core/iptc/IptcSchema.h"
 #include "core/language/Texts.h"
-#include "core/schema/CustomFields.h"
 #include "core/schema/FieldID.h"
 #include "core/schema/FieldLanguages.h"
 #include "ui/controls/Buttons.h"
@@ -12,6 +11,7 @@
 #include "ui/controls/theme/Mirroring.h"
 #include "ui/inspector/BesideSet.h"
 #include "ui/inspector/CameraSection.h"
+#include "ui/inspector/CustomFieldsSection.h"
 #include "ui/inspector/FieldRow.h"
 #include "ui/inspector/FormLanguages.h"
 #include "ui/inspector/FormPause.h"
@@ -62,8 +62,7 @@ InspectorForm::InspectorForm(
     , m_languages(new FormLanguages(model, this))
     , m_rows(new FormRows(model, { places, m_languages, [this](const QString& key) { return takes(key); } }, this))
     , m_iptc(new IptcSections(model, [this](const QStringList& ids, bool fresh) { return rowsOf(ids, fresh); }))
-    //: Heads the fields that users have named themselves, in capitals.
-    , m_customs(new FormSection(Texts::tr("CUSTOM")))
+    , m_customs(new CustomFieldsSection(model, *m_rows))
     , m_beside(new BesideSet(model, [this](const QStringList& ids, bool fresh) { return rowsOf(ids, fresh); }))
     //: Heads what the camera noted, in capitals; and beside it that nobody can change that.
     , m_cameraSection(new FormSection(Texts::tr("CAMERA"), Texts::tr("read-only")))
@@ -98,6 +97,7 @@ InspectorForm::InspectorForm(
     });
     connect(m_wait, &DetailsWait::late, this, &InspectorForm::showAgain);
     connect(m_languages, &FormLanguages::focusAsked, this, &InspectorForm::fieldAdded);
+    connect(m_customs, &CustomFieldsSection::fieldAdded, this, &InspectorForm::fieldAdded);
     m_blocksSoon.setSingleShot(true);
     m_blocksSoon.setInterval(blocksDelay);
     connect(&m_blocksSoon, &QTimer::timeout, this, &InspectorForm::showBlocks);
@@ -124,7 +124,7 @@ void InspectorForm::refresh()
     showSections(fresh);
     showKeywordRows();
     showMap(fresh);
-    showCustoms(fresh);
+    m_customs->refresh(fresh);
     showCamera();
     orderTabStops();
     endWaiting();
@@ -353,25 +353,6 @@ void InspectorForm::addLanguageRows(const FieldSpec& field, bool fresh, QList<Fi
         row->setState(InspectorStates::languageRow(m_model, field, code, isLast), fresh || row->isHidden());
         rows.append(row);
     }
-}
-
-void InspectorForm::showCustoms(bool fresh)
-{
-    QList<FieldRow*> rows;
-    QSet<QString> names;
-    const QList<CustomValue> customs = m_model.visibleCustomFields();
-    for (const CustomValue& custom : customs) {
-        FieldRow* row = m_rows->of(custom);
-        row->setState(InspectorStates::customRow(m_model, custom), fresh);
-        rows.append(row);
-        names.insert(custom.name);
-        // One that is edited as it appears is the user's; others may come from another program.
-        if (!fresh && row->state().edited && !m_customNames.contains(custom.name))
-            emit fieldAdded(CustomFields::key(custom.name));
-    }
-    m_customNames = names;
-    m_customs->setRows(rows);
-    m_customs->setVisible(!rows.isEmpty());
 }
 
 bool InspectorForm::arePlaceFieldsEmpty() const

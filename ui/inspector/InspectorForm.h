@@ -20,6 +20,7 @@ namespace Quorbel {
 class AppModel;
 class BesideSet;
 class CameraSection;
+class CustomFieldsSection;
 class DetailsWait;
 class FieldRow;
 class FormHead;
@@ -86,7 +87,6 @@ private:
     void takeKeyboardFromAwaited();
     void addLanguageRows(const FieldSpec& field, bool fresh, QList<FieldRow*>& rows);
     void addAwaitedRows(const FieldSpec& field, QList<FieldRow*>& rows);
-    void showCustoms(bool fresh);
     void showMap(bool fresh);
     void showCamera();
     void announceAdded(bool fresh);
@@ -99,7 +99,6 @@ private:
     AppModel& m_model;
     std::optional<Subject> m_subject{};  ///< of the values on screen
     QSet<QString> m_added{};  ///< the fields that were added when the model was last read
-    QSet<QString> m_customNames{};  ///< of the custom fields on screen
     bool m_tabOrderStale = true;
     QList<QWidget*> m_stopsBehind;
     QVBoxLayout* m_column;
@@ -109,7 +108,7 @@ private:
     std::array<FormSection*, 3> m_sections{};  ///< in the order of FieldSection
     std::array<QStringList, 4> m_shownIds{};  ///< the fields in these, and in m_beside
     IptcSections* m_iptc;  ///< the sections behind these
-    FormSection* m_customs;
+    CustomFieldsSection* m_customs;
     BesideSet* m_beside;
     FormSection* m_cameraSection;
     LocationMap* m_map;
