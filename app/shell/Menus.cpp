@@ -10,6 +10,7 @@
 #include "app/shell/FieldSetMenu.h"
 #include "app/shell/HandsMenu.h"
 #include "app/shell/QuickKeywordsMenu.h"
+#include "app/shell/RecentsMenu.h"
 #include "app/shell/TemplatesMenu.h"
 #include "app/shell/TextCommands.h"
 #include "core/language/Texts.h"
@@ -20,7 +21,6 @@
 #include "ui/window/Shortcuts.h"
 #include "ui/window/WindowBar.h"
 
-#include <QDir>
 #include <QRegularExpression>
 
 namespace Quorbel {
@@ -36,14 +36,6 @@ QList<QKeySequence> keysFor(QKeySequence::StandardKey key, const QKeySequence& o
     if (!keys.contains(ours))
         keys.prepend(ours);
     return keys;
-}
-
-// A path as people write it: their home is "~".
-QString shownPath(const QUrl& url)
-{
-    const QString path = url.toLocalFile();
-    const QString home = QDir::homePath();
-    return path.startsWith(home + QLatin1Char('/')) ? QLatin1Char('~') + path.mid(home.size()) : path;
 }
 
 // The text, chosen by the same letter as the command that it says more of; where it has no such letter, by none.
@@ -98,10 +90,7 @@ void Menus::addFileMenu(const MenuCommands& commands)
         [this] { m_model.openPanel(); });
     Shortcuts::addCommand(*menu, Texts::mark("Open with Su&bfolders…"), { Qt::CTRL | Qt::SHIFT | Qt::Key_O },
         [this] { m_model.openPanelWithSubfolders(); });
-    m_recents = menu->addThemedMenu(Texts::tr("Open &Recent"));
-    connect(m_recents, &QMenu::aboutToShow, this, &Menus::fillRecents);
-    connect(&m_model.preferences(), &Preferences::changed, this, &Menus::fillRecents);
-    fillRecents();
+    new RecentsMenu(m_model, menu);
     menu->addSeparator();
     m_save = Shortcuts::addCommand(*menu, Texts::mark("&Save"), keysFor(QKeySequence::Save, Qt::CTRL | Qt::Key_S),
         [this] { m_model.requestSave(); });
@@ -131,17 +120,6 @@ void Menus::addMoves(ThemedMenu* menu)
         *menu, Texts::mark("Write Sidecars &Into Photos…"), {}, [&moving] { moving.request(MoveWay::intoPhotos); });
     m_intoSidecars = Shortcuts::addCommand(
         *menu, Texts::mark("Write &Metadata Into Sidecars…"), {}, [&moving] { moving.request(MoveWay::intoSidecars); });
-}
-
-void Menus::fillRecents()
-{
-    m_recents->clear();
-    const QList<QUrl> urls = m_model.recentURLs();
-    for (const QUrl& url : urls)
-        m_recents->addCommand(ThemedMenu::literal(shownPath(url)), {}, [this, url] { m_model.openRecent(url); });
-    m_recents->addSeparator();
-    m_recents->addCommand(Texts::tr("Clear Menu", "verb: empty it"), {}, [this] { m_model.clearRecents(); });
-    m_recents->menuAction()->setEnabled(!urls.isEmpty());
 }
 
 void Menus::addEditMenu()

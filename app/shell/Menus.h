@@ -41,14 +41,12 @@ private:
     void addHelpMenu(const MenuCommands& commands);
     ThemedMenu* addMenu(const QString& english);
     void showShortcuts();
-    void fillRecents();
     void fillBringBack();
     void followState();
 
     AppModel& m_model;
     ContentView& m_content;
     HandsMenu* m_hands;
-    ThemedMenu* m_recents = nullptr;
     ThemedMenu* m_bringBack = nullptr;
     QAction* m_save = nullptr;
     QAction* m_undoSave = nullptr;
