@@ -130,7 +130,7 @@ void AppModel::performRename()
         return;
     const QUrl source = record->url;
     // ExifTool is about to put its new file under the old name.
-    if (m_library.refresh().isBeingWritten(source))
+    if (m_library.refresh().writes().isBeingWritten(source))
         return setErrorMessage(Texts::tr("Could not rename: “%1” is being saved.").arg(record->fileName));
     const QUrl destination = QUrl::fromLocalFile(QFileInfo(source.toLocalFile()).dir().filePath(name));
     try {

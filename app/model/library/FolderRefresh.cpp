@@ -58,14 +58,8 @@ void FolderRefresh::setSidecars(const SidecarPolicy& policy)
 {
     if (!m_service || m_service->sidecars == policy)
         return;
-    m_sidecarChanges.emplace_back(++m_writes, SidecarChange{ m_service->sidecars, policy });
+    m_writes.noteSidecars({ m_service->sidecars, policy });
     m_service->sidecars = policy;
-}
-
-bool FolderRefresh::isReadOtherwise(const QUrl& photo, int since) const
-{
-    return std::any_of(m_sidecarChanges.cbegin(), m_sidecarChanges.cend(),
-        [&](const auto& change) { return change.first > since && change.second.concerns(photo); });
 }
 
 void FolderRefresh::begin(const QList<QUrl>& folders, bool withSubfolders)
@@ -100,7 +94,7 @@ void FolderRefresh::refresh()
 // A look for no special reason: not while there is a better one.
 void FolderRefresh::lookByTheClock()
 {
-    if (m_isRefreshing || m_isRenaming || !m_beingWritten.isEmpty())
+    if (m_isRefreshing || m_writes.isRenaming() || !m_writes.photos().isEmpty())
         m_times.postpone();
     else
         look();
@@ -110,7 +104,7 @@ void FolderRefresh::look()
 {
     if (!canRefresh())
         return;
-    if (m_isRefreshing || m_isRenaming) {
+    if (m_isRefreshing || m_writes.isRenaming()) {
         m_again = true;
         return;
     }
@@ -119,12 +113,13 @@ void FolderRefresh::look()
         m_times.watches(), m_service->sidecars, m_looks.fileSystemOf };
     runIn(
         *m_lookThreads, this, [question, stop = m_stop.get_token()] { return FolderLook::at(question, stop); },
-        [this, generation = m_generation, renames = m_photos.renames(), writes = m_writes](const FolderLook& look) {
+        [this, generation = m_generation, renames = m_photos.renames(), writes = m_writes.count()](
+            const FolderLook& look) {
             if (generation != m_generation)
                 return;
             m_isRefreshing = false;
             // A look that is older than a rename or save of our own would take our doing for another program's.
-            if (std::exchange(m_again, false) || renames != m_photos.renames() || writes != m_writes)
+            if (std::exchange(m_again, false) || renames != m_photos.renames() || writes != m_writes.count())
                 this->look();
             else
                 takeLook(look);
@@ -155,7 +150,7 @@ QList<int> FolderRefresh::positions(const QList<QUrl>& photos) const
 {
     QList<int> found;
     for (const QUrl& photo : photos)
-        if (const int at = m_photos.position(photo); at >= 0 && !m_beingWritten.contains(photo))
+        if (const int at = m_photos.position(photo); at >= 0 && !m_writes.photos().contains(photo))
             found.append(at);
     std::sort(found.begin(), found.end());
     return found;
@@ -163,7 +158,7 @@ QList<int> FolderRefresh::positions(const QList<QUrl>& photos) const
 
 void FolderRefresh::apply(const FolderNews& news)
 {
-    m_passedOverWritten = m_passedOverWritten || !m_beingWritten.isEmpty();
+    m_passedOverWritten = m_passedOverWritten || !m_writes.photos().isEmpty();
     const QList<int> gone = positions(surelyGone(news));
     const QList<FolderNews::File> changed = this->changed(news);
     QList<FolderNews::File> further = news.further;
@@ -199,7 +194,7 @@ QList<FolderNews::File> FolderRefresh::changed(const FolderNews& news)
     m_passedOverUnread = false;
     for (const FolderNews::File& file : news.changed) {
         const ImageRecord* photo = m_photos.record(file.url);
-        if (!photo || m_beingWritten.contains(file.url) || m_tooSlow.contains(file.url))
+        if (!photo || m_writes.photos().contains(file.url) || m_tooSlow.contains(file.url))
             continue;
         if (isAsSeen(*photo, file))
             continue;
@@ -229,7 +224,7 @@ void FolderRefresh::read(const QList<FolderNews::File>& files, const Take& take)
         [service = *m_service, cache = m_cache, urls, progress = task.progress, stop = task.stop.get_token()] {
             return PhotoReader::read(service, urls, *progress, stop, cache);
         },
-        [this, files, take, id = task.id, generation = m_generation, writes = m_writes](
+        [this, files, take, id = task.id, generation = m_generation, writes = m_writes.count()](
             const PhotoReader::Result& result) {
             const Announcer::Together together(m_announcer);
             const std::optional<RunningTasks::Task> ended = m_tasks.end(id);
@@ -240,7 +235,7 @@ void FolderRefresh::read(const QList<FolderNews::File>& files, const Take& take)
                 return endStep();
             }
             // What was read before a save of ours must not overwrite what was read after it.
-            if (writes == m_writes) {
+            if (writes == m_writes.count()) {
                 take(result.records);
                 noteUnreadable(files, result);
             } else {
@@ -305,33 +300,24 @@ void FolderRefresh::endStep()
 
 void FolderRefresh::beginWriting(const QSet<QUrl>& photos)
 {
-    m_beingWritten = photos;
-    ++m_writes;
+    m_writes.begin(photos);
 }
 
 void FolderRefresh::endWriting(bool isComplete)
 {
-    ++m_writes;
-    for (const QUrl& photo : std::as_const(m_beingWritten))
-        m_lastWrites.insert(photo, m_writes);
-    m_beingWritten.clear();
+    m_writes.end();
     if (!isComplete || std::exchange(m_passedOverWritten, false))
         look();
 }
 
 void FolderRefresh::beginRenaming()
 {
-    m_isRenaming = true;
-    ++m_writes;
+    m_writes.beginRenaming();
 }
 
 void FolderRefresh::endRenaming(const NewNames& names)
 {
-    m_isRenaming = false;
-    ++m_writes;
-    for (const auto& [source, destination] : names.list())
-        for (const QUrl& photo : { source, destination })
-            m_lastWrites.insert(photo, m_writes);
+    m_writes.endRenaming(names);
     if (!m_isRefreshing && std::exchange(m_again, false))
         look();
 }

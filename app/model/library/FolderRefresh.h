@@ -9,7 +9,7 @@
 #include "app/model/library/LookTimes.h"
 #include "app/model/library/PhotoList.h"
 #include "app/model/library/PhotoReader.h"
-#include "app/model/library/sidecars/SidecarChange.h"
+#include "app/model/library/reading/OwnWrites.h"
 #include "core/MetadataService.h"
 
 #include <QElapsedTimer>
@@ -63,15 +63,8 @@ public:
     void beginRenaming();
     /// These names changed.
     void endRenaming(const NewNames& names);
-    bool isBeingWritten(const QUrl& photo) const { return m_isRenaming || m_beingWritten.contains(photo); }
-    /// Counts beginnings and ends of writes, and changes of what is read.
-    int writes() const { return m_writes; }
-    /// Whether a write of ours to this photo has begun or ended since writes() was this: what was read meanwhile may be
-    /// older than what is in the file.
-    bool wasWritten(const QUrl& photo, int since) const
-    {
-        return isBeingWritten(photo) || m_lastWrites.value(photo) > since || isReadOtherwise(photo, since);
-    }
+    /// What other reads are held against. Lives as long as this.
+    const OwnWrites& writes() const { return m_writes; }
 
 signals:
     /// These are no longer in the folder (positions, ascending). Whoever hears it takes them out of the list.
@@ -102,7 +95,6 @@ private:
     void takeChanged(const QList<ImageRecord>& fresh);
     void takeAdded(const QList<ImageRecord>& fresh);
     void endStep();
-    bool isReadOtherwise(const QUrl& photo, int since) const;
 
     Announcer& m_announcer;
     RunningTasks& m_tasks;
@@ -120,17 +112,13 @@ private:
     std::function<bool(const QUrl&)> m_isAwaited;
     std::stop_source m_stop;
     QElapsedTimer m_sinceEmptied;  ///< valid while a folder that has become empty may be about to go
-    QSet<QUrl> m_beingWritten;
+    OwnWrites m_writes;
     int m_generation = 0;  ///< counts what was opened; results for an earlier one are dropped
-    int m_writes = 0;  ///< counts beginnings and ends of writes
-    std::vector<std::pair<int, SidecarChange>> m_sidecarChanges;  ///< with what m_writes was then
-    QHash<QUrl, int> m_lastWrites;  ///< by photo, what m_writes was at the end of the last one
     bool m_isRefreshing = false;
     bool m_again = false;
     bool m_isAsked = false;  ///< the next look is somebody's wish
     bool m_passedOverUnread = false;  ///< photos changed that are still to be read: a look must follow
     int m_reads = 0;
-    bool m_isRenaming = false;
     bool m_passedOverWritten = false;  ///< photos were left out because they were being written
 };
 

@@ -101,7 +101,7 @@ Library::Library(Announcer& announcer, RunningTasks& tasks, std::optional<Metada
     , m_cache(std::move(cache))
     , m_photos(announcer, order)
     , m_refresh(announcer, tasks, m_photos, m_service, m_cache)
-    , m_details(announcer, tasks, m_photos, m_refresh, m_cache)
+    , m_details(announcer, tasks, m_photos, m_refresh.writes(), m_cache)
 {
     m_refresh.setAwaited([this](const QUrl& photo) { return m_reading && m_reading->isAwaited(photo); });
     connect(&m_refresh, &FolderRefresh::reread, this, &Library::noteRead);
@@ -256,7 +256,7 @@ void Library::begin(const std::shared_ptr<Load>& load)
 void Library::awaitFirst(const std::shared_ptr<Load>& load)
 {
     m_next = load;
-    m_next->writes = m_refresh.writes();
+    m_next->writes = m_refresh.writes().count();
     // The new photos come first.
     if (m_reading)
         m_reading->setPaused(true);
@@ -338,7 +338,7 @@ void Library::show(const std::shared_ptr<Load>& load)
     // What a save of ours has written meanwhile is read again.
     QList<QUrl> again;
     for (const ImageRecord& photo : std::as_const(load->early))
-        if (m_refresh.wasWritten(photo.url, load->writes))
+        if (m_refresh.writes().wasWritten(photo.url, load->writes))
             again.append(photo.url);
     load->early.removeIf([&again](const ImageRecord& photo) { return again.contains(photo.url); });
     m_reading->addAgain(again + readOtherwise(m_photos.records(), load->sidecars));
@@ -417,7 +417,7 @@ void Library::setSidecars(const SidecarPolicy& policy)
 
 std::unique_ptr<PhotoReading> Library::newReading()
 {
-    return std::make_unique<PhotoReading>(m_announcer, m_tasks, *m_service, m_cache, m_refresh);
+    return std::make_unique<PhotoReading>(m_announcer, m_tasks, *m_service, m_cache, m_refresh.writes());
 }
 
 void Library::follow(std::unique_ptr<PhotoReading> reading)

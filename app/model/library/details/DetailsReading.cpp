@@ -1,7 +1,7 @@
 #include "app/model/library/details/DetailsReading.h"
 
 #include "app/model/Background.h"
-#include "app/model/library/FolderRefresh.h"
+#include "app/model/library/reading/OwnWrites.h"
 #include "core/language/Texts.h"
 
 #include <QThread>
@@ -32,8 +32,8 @@ qsizetype patientRunsAtOnce()
 
 }  // namespace
 
-DetailsReading::DetailsReading(Announcer& announcer, RunningTasks& tasks, PhotoList& photos,
-    const FolderRefresh& writes, std::shared_ptr<RecordCache> cache)
+DetailsReading::DetailsReading(Announcer& announcer, RunningTasks& tasks, PhotoList& photos, const OwnWrites& writes,
+    std::shared_ptr<RecordCache> cache)
     : m_announcer(announcer)
     , m_tasks(tasks)
     , m_photos(photos)
@@ -435,7 +435,7 @@ void DetailsReading::start(Lane lane, const QList<QUrl>& photos)
     const bool isOfSurvey = lane == Lane::patient && m_survey;
     const RunningTasks::Task task =
         m_tasks.begin(RunningTasks::Kind::details, photos.size(), photos, isOfSurvey ? m_survey->id : 0);
-    m_running.push_back({ task.id, lane, photos, m_writes.writes(), {} });
+    m_running.push_back({ task.id, lane, photos, m_writes.count(), {} });
     m_reading.unite(QSet<QUrl>(photos.cbegin(), photos.cend()));
     DetailsReader::Order order{
         .most = readAtOnce, .cache = m_cache, .isCacheAsked = m_isCacheAsked, .sidecars = m_sidecars

@@ -13,7 +13,7 @@
 
 namespace Quorbel {
 
-class FolderRefresh;
+class OwnWrites;
 
 class DetailsReading final : public QObject {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
     };
 
     /// `writes`: knows which photos were written meanwhile. `cache`: null where there is none. All outlive this.
-    DetailsReading(Announcer& announcer, RunningTasks& tasks, PhotoList& photos, const FolderRefresh& writes,
+    DetailsReading(Announcer& announcer, RunningTasks& tasks, PhotoList& photos, const OwnWrites& writes,
         std::shared_ptr<RecordCache> cache);
     ~DetailsReading() override;
 
@@ -122,7 +122,7 @@ private:
     Announcer& m_announcer;
     RunningTasks& m_tasks;
     PhotoList& m_photos;
-    const FolderRefresh& m_writes;
+    const OwnWrites& m_writes;
     std::shared_ptr<RecordCache> m_cache;
     SidecarPolicy m_sidecars;
     DetailsReader::Ask m_ask;

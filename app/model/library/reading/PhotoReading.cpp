@@ -1,7 +1,7 @@
 #include "app/model/library/reading/PhotoReading.h"
 
 #include "app/model/Background.h"
-#include "app/model/library/FolderRefresh.h"
+#include "app/model/library/reading/OwnWrites.h"
 #include "core/language/Texts.h"
 
 #include <QPointer>
@@ -28,7 +28,7 @@ size_t readsAtOnce()
 }  // namespace
 
 PhotoReading::PhotoReading(Announcer& announcer, RunningTasks& tasks, MetadataService service,
-    std::shared_ptr<RecordCache> cache, const FolderRefresh& writes)
+    std::shared_ptr<RecordCache> cache, const OwnWrites& writes)
     : m_announcer(announcer)
     , m_tasks(tasks)
     , m_service(std::move(service))
@@ -186,7 +186,7 @@ void PhotoReading::start(const QList<QUrl>& photos)
 {
     const RunningTasks::Task task =
         m_tasks.begin(RunningTasks::Kind::slice, photos.size(), photos, m_task ? m_task->id : 0);
-    const Slice slice{ task.id, photos, m_writes.writes() };
+    const Slice slice{ task.id, photos, m_writes.count() };
     m_running.push_back(slice);
     m_isResting = false;
     const auto job = [service = m_service, cache = m_cache, photos, progress = task.progress,

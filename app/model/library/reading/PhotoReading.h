@@ -11,7 +11,7 @@
 
 namespace Quorbel {
 
-class FolderRefresh;
+class OwnWrites;
 
 class PhotoReading final : public QObject {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     /// `writes`: knows which photos were written meanwhile; outlives this.
     /// `cache`: what is read is put into it; null where there is none.
     PhotoReading(Announcer& announcer, RunningTasks& tasks, MetadataService service, std::shared_ptr<RecordCache> cache,
-        const FolderRefresh& writes);
+        const OwnWrites& writes);
     ~PhotoReading() override;
 
     /// What is read from now on is read so.
@@ -103,7 +103,7 @@ private:
     RunningTasks& m_tasks;
     MetadataService m_service;
     std::shared_ptr<RecordCache> m_cache;
-    const FolderRefresh& m_writes;
+    const OwnWrites& m_writes;
     ReadQueue m_queue;
     Pace m_pace = Pace::none;
     std::vector<Slice> m_running;

@@ -96,7 +96,7 @@ struct Photos {
             records.last().isUnread = false;
         }
         list.open(OpenPhotos::of(records, RecordSortOrder::nameAsc, false));
-        reading = std::make_unique<DetailsReading>(announcer, tasks, list, refresh, cache);
+        reading = std::make_unique<DetailsReading>(announcer, tasks, list, refresh.writes(), cache);
         reading->setAsking(
             [asked = asked](const auto& photos, const auto& control) { return asked->answer(photos, control); }, 1ms);
         reading->begin();
