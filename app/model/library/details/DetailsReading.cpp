@@ -14,11 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Of more selected photos only those in view are read.
-constexpr qsizetype mostSelected = 256;
-// What is one run: of the selected photos, of those in view, of all.
-constexpr qsizetype selectedAtOnce = 64;
-constexpr qsizetype inViewAtOnce = 32;
 constexpr qsizetype readAtOnce = 200;
 // So many of all are looked for in the cache at once, as long as it knows any.
 constexpr qsizetype lookedForAtOnce = 2000;
@@ -113,14 +108,13 @@ void DetailsReading::drop()
 
 void DetailsReading::setSelected(const std::optional<QUrl>& first, const QSet<QUrl>& photos)
 {
-    m_first = first;
-    m_selected = photos;
+    m_inSight.setSelected(first, photos);
     wake();
 }
 
 void DetailsReading::setInView(const QList<QUrl>& photos)
 {
-    m_inView = photos;
+    m_inSight.setInView(photos);
     wake();
 }
 
@@ -271,11 +265,11 @@ void DetailsReading::startSelected()
     const auto running =
         std::find_if(m_running.cbegin(), m_running.cend(), [](const Run& run) { return run.lane == Lane::selected; });
     if (running == m_running.cend()) {
-        if (const QList<QUrl> photos = wantedSelected(); !photos.isEmpty())
+        if (const QList<QUrl> photos = nextSelected(); !photos.isEmpty())
             start(Lane::selected, photos);
         return;
     }
-    const auto isSelected = [this](const QUrl& photo) { return m_selected.contains(photo); };
+    const auto isSelected = [this](const QUrl& photo) { return m_inSight.isSelected(photo); };
     if (std::none_of(running->photos.cbegin(), running->photos.cend(), isSelected))
         stop(*running);
 }
@@ -291,7 +285,7 @@ void DetailsReading::startPatient()
         if (photos.isEmpty())
             photos = nextRequired();
         if (photos.isEmpty())
-            photos = wantedInView();
+            photos = nextInView();
         if (photos.isEmpty() && m_wantsAll)
             photos = nextOfAll();
         if (photos.isEmpty())
@@ -312,29 +306,14 @@ bool DetailsReading::isWanted(const QUrl& photo) const
 }
 
 // They are read even where they are part of a larger run: that may take its time.
-QList<QUrl> DetailsReading::wantedSelected() const
+QList<QUrl> DetailsReading::nextSelected() const
 {
-    QList<QUrl> wanted;
-    if (m_first && isWanted(*m_first))
-        wanted.append(*m_first);
-    if (m_selected.size() > mostSelected)
-        return wanted;
-    for (const QUrl& photo : m_selected) {
-        if (wanted.size() == selectedAtOnce)
-            break;
-        if (photo != m_first && isWanted(photo))
-            wanted.append(photo);
-    }
-    return wanted;
+    return m_inSight.nextSelected([this](const QUrl& photo) { return isWanted(photo); });
 }
 
-QList<QUrl> DetailsReading::wantedInView() const
+QList<QUrl> DetailsReading::nextInView() const
 {
-    QList<QUrl> wanted;
-    for (const QUrl& photo : m_inView)
-        if (wanted.size() < inViewAtOnce && isWanted(photo) && !m_reading.contains(photo))
-            wanted.append(photo);
-    return wanted;
+    return m_inSight.nextInView([this](const QUrl& photo) { return isToBeRead(photo); });
 }
 
 QList<QUrl> DetailsReading::nextPart()
@@ -343,7 +322,7 @@ QList<QUrl> DetailsReading::nextPart()
     while (part.isEmpty() && !m_parts.empty()) {
         part = std::move(m_parts.back());
         m_parts.pop_back();
-        part.removeIf([this](const QUrl& photo) { return !isWanted(photo) || m_reading.contains(photo); });
+        part.removeIf([this](const QUrl& photo) { return !isToBeRead(photo); });
     }
     return part;
 }
@@ -352,7 +331,7 @@ QList<QUrl> DetailsReading::nextRequired()
 {
     QList<QUrl> next;
     for (const QUrl& photo : std::as_const(m_required))
-        if (next.size() < readAtOnce && isWanted(photo) && !m_reading.contains(photo))
+        if (next.size() < readAtOnce && isToBeRead(photo))
             next.append(photo);
     return next;
 }
@@ -385,7 +364,7 @@ QList<QUrl> DetailsReading::nextOfAll()
         qsizetype looked = 0;
         while (looked < m_all.size() && next.size() < ofAllAtOnce()) {
             const QUrl& photo = m_all.at(looked++);
-            if (isWanted(photo) && !m_reading.contains(photo))
+            if (isToBeRead(photo))
                 next.append(photo);
         }
         m_all.remove(0, looked);

@@ -8,6 +8,7 @@
 #include "app/model/RunningTasks.h"
 #include "app/model/library/PhotoList.h"
 #include "app/model/library/details/DetailsFailures.h"
+#include "app/model/library/details/DetailsInSight.h"
 #include "app/model/library/details/DetailsReader.h"
 #include "app/model/library/details/DetailsStore.h"
 
@@ -101,8 +102,9 @@ private:
     bool isOpen(const QUrl& photo) const { return m_photos.contains(photo); }
     bool isWanted(const ImageRecord& photo) const;
     bool isWanted(const QUrl& photo) const;
-    QList<QUrl> wantedSelected() const;
-    QList<QUrl> wantedInView() const;
+    bool isToBeRead(const QUrl& photo) const { return isWanted(photo) && !m_reading.contains(photo); }
+    QList<QUrl> nextSelected() const;
+    QList<QUrl> nextInView() const;
     QList<QUrl> nextPart();
     QList<QUrl> nextRequired();
     QList<QUrl> nextOfAll();
@@ -135,9 +137,7 @@ private:
     std::vector<QList<QUrl>> m_parts;  ///< to be read by themselves: the tool failed at them
     bool m_isPaused = false;
     bool m_isCacheAsked = true;
-    std::optional<QUrl> m_first;
-    QSet<QUrl> m_selected;
-    QList<QUrl> m_inView;
+    DetailsInSight m_inSight;
     QList<QUrl> m_required;  ///< that are still wanted
     qsizetype m_requiredInAll = 0;
     bool m_wantsAll = false;
