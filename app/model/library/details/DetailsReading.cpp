@@ -34,6 +34,7 @@ DetailsReading::DetailsReading(Announcer& announcer, RunningTasks& tasks, PhotoL
     , m_photos(photos)
     , m_writes(writes)
     , m_cache(std::move(cache))
+    , m_survey(tasks)
 {
     m_soon.setSingleShot(true);
     connect(&m_soon, &QTimer::timeout, this, &DetailsReading::schedule);
@@ -61,7 +62,7 @@ DetailsReading::Census DetailsReading::census() const
     // Where files of one shot are one photo, those that can be listed.
     const qsizetype disagreeing =
         m_photos.isPairing() ? m_photos.index().count(PhotoTrait::disagreement) : m_store.disagreeing();
-    return { disagreeing, m_photos.records().size() - m_store.known(), m_isLooking,
+    return { disagreeing, m_photos.records().size() - m_store.known(), m_survey.isLooking(),
         m_photos.wanted().testFlag(PhotoTrait::disagreement) };
 }
 
@@ -95,13 +96,11 @@ void DetailsReading::drop()
         m_tasks.stop(run.id);
         m_tasks.end(run.id);
     }
-    m_wantsAll = false;
     m_required.clear();
-    endSurvey();
+    m_survey.drop();
     m_reading.clear();
     m_failures = {};
     m_parts.clear();
-    m_all.clear();
     m_kept.clear();
     discardInBackground(std::exchange(m_store, {}));
 }
@@ -173,7 +172,7 @@ void DetailsReading::rename(const NewNames& names)
         m_announcer.announce(Change::details);
     m_failures.rename(names);
     m_kept = names.of(m_kept);
-    m_all = names.of(m_all);
+    m_survey.rename(names);
     // What is being read under a name may be another photo's by now.
     for (Run& run : m_running)
         for (const auto& [source, destination] : names.list())
@@ -201,12 +200,12 @@ void DetailsReading::setFiltering(bool on)
 void DetailsReading::cancel()
 {
     const Announcer::Together together(m_announcer);
-    m_wantsAll = false;
+    m_survey.setOn(false, false);
     m_required.clear();
     for (const Run& run : m_running)
         if (run.lane == Lane::patient)
             stop(run);
-    endSurvey();
+    m_survey.end();
     tell();
 }
 
@@ -214,8 +213,8 @@ void DetailsReading::resume()
 {
     const Announcer::Together together(m_announcer);
     m_failures.trust();
-    m_wantsAll = m_photos.wanted().testFlag(PhotoTrait::disagreement);
-    m_isLooking = m_wantsAll && m_ask && m_store.known() + m_failures.photos() < m_photos.records().size();
+    const bool isOn = m_photos.wanted().testFlag(PhotoTrait::disagreement);
+    m_survey.setOn(isOn, isOn && m_ask && m_store.known() + m_failures.photos() < m_photos.records().size());
     schedule();
     tell();
 }
@@ -247,7 +246,7 @@ void DetailsReading::setHeld(const QSet<QUrl>& photos)
 void DetailsReading::wake()
 {
     if (m_ask)
-        m_soon.start(m_wantsAll ? std::min(m_delay, shortDelay) : m_delay);
+        m_soon.start(m_survey.isOn() ? std::min(m_delay, shortDelay) : m_delay);
 }
 
 void DetailsReading::schedule()
@@ -286,7 +285,7 @@ void DetailsReading::startPatient()
             photos = nextRequired();
         if (photos.isEmpty())
             photos = nextInView();
-        if (photos.isEmpty() && m_wantsAll)
+        if (photos.isEmpty() && m_survey.isOn())
             photos = nextOfAll();
         if (photos.isEmpty())
             return;
@@ -343,13 +342,13 @@ bool DetailsReading::require(const QList<QUrl>& photos)
     m_required = m_ask && !m_failures.isGivenUp() ? photos : QList<QUrl>();
     m_required.removeIf([this](const QUrl& photo) { return !isWanted(photo); });
     if (m_required.isEmpty()) {
-        if (!m_wantsAll)
-            endSurvey();
+        if (!m_survey.isOn())
+            m_survey.end();
         return true;
     }
     if (isFirst)
         m_requiredInAll = m_required.size();
-    showSurvey(m_requiredInAll - m_required.size(), m_requiredInAll);
+    m_survey.show(m_requiredInAll - m_required.size(), m_requiredInAll);
     schedule();
     return false;
 }
@@ -357,26 +356,19 @@ bool DetailsReading::require(const QList<QUrl>& photos)
 // Of all photos; none when the look at them is at its end.
 QList<QUrl> DetailsReading::nextOfAll()
 {
-    QList<QUrl> next;
-    for (const bool isFull : { false, true }) {
-        if (isFull)
-            fillAll();
-        qsizetype looked = 0;
-        while (looked < m_all.size() && next.size() < ofAllAtOnce()) {
-            const QUrl& photo = m_all.at(looked++);
-            if (isToBeRead(photo))
-                next.append(photo);
-        }
-        m_all.remove(0, looked);
-        if (!next.isEmpty()) {
-            m_isLooking = true;
-            showSurvey(m_store.known(), m_photos.records().size() - m_failures.photos());
-            return next;
-        }
+    const auto take = [this] {
+        return m_survey.take(ofAllAtOnce(), [this](const QUrl& photo) { return isToBeRead(photo); });
+    };
+    QList<QUrl> next = take();
+    if (next.isEmpty()) {
+        m_survey.setPhotos(allWanted());
+        next = take();
     }
-    if (m_running.empty())
-        endSurvey();
-    return {};
+    if (!next.isEmpty())
+        m_survey.show(m_store.known(), m_photos.records().size() - m_failures.photos());
+    else if (m_running.empty())
+        m_survey.end();
+    return next;
 }
 
 qsizetype DetailsReading::ofAllAtOnce() const
@@ -384,36 +376,21 @@ qsizetype DetailsReading::ofAllAtOnce() const
     return m_cache && m_isCacheUseful ? lookedForAtOnce : readAtOnce;
 }
 
-void DetailsReading::fillAll()
+QList<QUrl> DetailsReading::allWanted() const
 {
-    m_all.clear();
+    QList<QUrl> wanted;
     for (const ImageRecord& photo : m_photos.records())
         if (isWanted(photo))
-            m_all.append(photo.url);
-}
-
-void DetailsReading::showSurvey(qsizetype done, qsizetype total)
-{
-    if (!m_survey)
-        m_survey = m_tasks.begin(RunningTasks::Kind::survey, total);
-    m_survey->progress->total = total;
-    m_survey->progress->done = done;
-}
-
-void DetailsReading::endSurvey()
-{
-    m_isLooking = false;
-    if (const auto survey = std::exchange(m_survey, std::nullopt))
-        m_tasks.end(survey->id);
+            wanted.append(photo.url);
+    return wanted;
 }
 
 // --- Runs ---
 
 void DetailsReading::start(Lane lane, const QList<QUrl>& photos)
 {
-    const bool isOfSurvey = lane == Lane::patient && m_survey;
     const RunningTasks::Task task =
-        m_tasks.begin(RunningTasks::Kind::details, photos.size(), photos, isOfSurvey ? m_survey->id : 0);
+        m_tasks.begin(RunningTasks::Kind::details, photos.size(), photos, lane == Lane::patient ? m_survey.task() : 0);
     m_running.push_back({ task.id, lane, photos, m_writes.count(), {} });
     m_reading.unite(QSet<QUrl>(photos.cbegin(), photos.cend()));
     DetailsReader::Order order{
@@ -449,10 +426,10 @@ void DetailsReading::finish(int id, const DetailsReader::Result& result)
     if (task && task->skipped)
         m_failures.note(*task->skipped, Texts::tr("took too long"));
     take(run, result);
-    if (m_survey && run.lane == Lane::patient) {
+    if (m_survey.isShown() && run.lane == Lane::patient) {
         m_isCacheUseful = m_isCacheUseful && (result.known > 0 || result.isCancelled);
-        m_all = run.photos + m_all;
-        m_survey->progress->done = m_store.known();
+        m_survey.putBack(run.photos);
+        m_survey.setDone(m_store.known());
     }
     if (result.error)
         noteFailure(result.asked, *result.error);
@@ -526,7 +503,7 @@ void DetailsReading::noteFailure(const QList<QUrl>& photos, const QString& reaso
     if (!m_failures.isGivenUp())
         return;
     m_parts.clear();
-    if (!m_wantsAll)
+    if (!m_survey.isOn())
         return;
     cancel();
     emit problem(Texts::tr("Could not read metadata: %1").arg(reason));

@@ -11,6 +11,7 @@
 #include "app/model/library/details/DetailsInSight.h"
 #include "app/model/library/details/DetailsReader.h"
 #include "app/model/library/details/DetailsStore.h"
+#include "app/model/library/details/DetailsSurvey.h"
 
 namespace Quorbel {
 
@@ -109,7 +110,7 @@ private:
     QList<QUrl> nextRequired();
     QList<QUrl> nextOfAll();
     qsizetype ofAllAtOnce() const;
-    void fillAll();
+    QList<QUrl> allWanted() const;
     void start(Lane lane, const QList<QUrl>& photos);
     void stop(const Run& run);
     void finish(int id, const DetailsReader::Result& result);
@@ -117,8 +118,6 @@ private:
     void list(const QList<QUrl>& photos);
     void noteFailure(const QList<QUrl>& photos, const QString& reason);
     void drop();
-    void showSurvey(qsizetype done, qsizetype total);
-    void endSurvey();
     void tell();
 
     Announcer& m_announcer;
@@ -140,11 +139,8 @@ private:
     DetailsInSight m_inSight;
     QList<QUrl> m_required;  ///< that are still wanted
     qsizetype m_requiredInAll = 0;
-    bool m_wantsAll = false;
-    bool m_isLooking = false;
-    QList<QUrl> m_all;  ///< that may still be wanted
-    bool m_isCacheUseful = true;  ///< it knew photos of the last slice of all
-    std::optional<RunningTasks::Task> m_survey;  ///< shows how far it is
+    DetailsSurvey m_survey;  ///< of all photos
+    bool m_isCacheUseful = true;  ///< it knew photos of the survey's last slice
     QSet<QUrl> m_held;
     QSet<QUrl> m_kept;  ///< listed though they agree
     Census m_told;
