@@ -5,9 +5,9 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/Labels.h"
 #include "ui/controls/TextFields.h"
+#include "ui/controls/scrolling/OverlayScrollBar.h"
 #include "ui/controls/scrolling/ScrollArea.h"
 #include "ui/controls/theme/Metrics.h"
-#include "ui/controls/OverlayScrollBar.h"
 #include "ui/controls/theme/Mirroring.h"
 #include "ui/sheets/SheetParts.h"
 

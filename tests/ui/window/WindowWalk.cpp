@@ -10,12 +10,12 @@
 #include "core/language/Texts.h"
 #include "tests/ui/window/WindowFixture.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/ScrollArea.h"
 #include "ui/controls/ThemedMenuBar.h"
 #include "ui/controls/attached/CodesChip.h"
 #include "ui/controls/attached/MarkButton.h"
 #include "ui/controls/cards/FoldingHeading.h"
 #include "ui/controls/cards/ItemCard.h"
+#include "ui/controls/scrolling/ScrollArea.h"
 #include "ui/inspector/head/UnreadNotice.h"
 #include "ui/inspector/iptc/StructureCard.h"
 #include "ui/inspector/iptc/StructureList.h"
@@ -131,7 +131,8 @@ bool WalkedPhotos::open()
     untold.photos.lookAtDetails(
         [](const QList<ImageRecord>&, const ReadControl&) { return QHash<QUrl, PhotoDetails>(); });
     untold.add(u"4x5_d.jpg"_s, { u"-XMP-dc:Title=Other"_s });
-    if (!untold.open() || !QTest::qWaitFor([this] { return untold.view->findChild<UnreadNotice*>()->isVisible(); }, 30'000))
+    if (!untold.open()
+        || !QTest::qWaitFor([this] { return untold.view->findChild<UnreadNotice*>()->isVisible(); }, 30'000))
         return false;
     return half.openHalf();
 }
