@@ -3604,7 +3604,7 @@ The end of a list of names: %1 is those before, with commas between them.</extra
     </message>
     <message>
         <source>Shown as the photo&apos;s name / heading</source>
-        <translation>写真の名前や見出しとして表示されます</translation>
+        <translation>写真の名前や表題として表示されます</translation>
     </message>
     <message>
         <source>Searchable caption everywhere</source>
@@ -4433,11 +4433,11 @@ Why nothing can be copied.</extracomment>
     <message>
         <source>Keep %1</source>
         <extracomment>%1: a keyword.</extracomment>
-        <translation>%1を残す</translation>
+        <translation>「%1」を残す</translation>
     </message>
     <message>
         <source>Take away %1</source>
-        <translation>%1を取り除く</translation>
+        <translation>「%1」を取り除く</translation>
     </message>
     <message>
         <source>in %1</source>
@@ -5300,11 +5300,11 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message>
         <source>Add %1 to all, %2</source>
         <extracomment>Adds a keyword to all photos. %1: the keyword, %2: keys that do the same.</extracomment>
-        <translation>%1をすべてに追加、%2</translation>
+        <translation>「%1」をすべてに追加、%2</translation>
     </message>
     <message>
         <source>Add %1 to all</source>
-        <translation>%1をすべてに追加</translation>
+        <translation>「%1」をすべてに追加</translation>
     </message>
     <message>
         <source>Set of quick keywords: %1</source>
@@ -5580,7 +5580,7 @@ Said behind a keyword. The numbers are of photos.</extracomment>
     <message numerus="yes">
         <source>This will modify the selected fields on %n file(s). This can’t be undone.</source>
         <translation>
-            <numerusform>%n 個のファイルの選択したフィールドを変更します。この操作は元に戻せません。</numerusform>
+            <numerusform>%n 個のファイルで、選択したフィールドを変更します。この操作は元に戻せません。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -6225,11 +6225,11 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Name (A–Z)</source>
-        <translation>名前（A–Z）</translation>
+        <translation>名前（A～Z）</translation>
     </message>
     <message>
         <source>Name (Z–A)</source>
-        <translation>名前（Z–A）</translation>
+        <translation>名前（Z～A）</translation>
     </message>
     <message>
         <source>Date (newest first)</source>
@@ -6461,7 +6461,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     <message numerus="yes">
         <source>%n code(s).</source>
         <translation>
-            <numerusform>%n 個のコード。</numerusform>
+            <numerusform>コードが %n 個あります。</numerusform>
         </translation>
     </message>
     <message>
@@ -6563,7 +6563,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Use Add Field to pick a recommended standard field, or define a custom one.</source>
-        <translation>「フィールドを追加」で、推奨される標準フィールドを選んだり、独自のフィールドを作ったりできます。</translation>
+        <translation>「フィールドを追加」で、推奨される標準フィールドを選んだり、カスタムフィールドを作ったりできます。</translation>
     </message>
     <message>
         <source>Turn on Show namespace details (Settings) to see exactly which tag each value writes to.</source>
@@ -6615,7 +6615,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>A field that has other languages names them at its right end, like “de fr”. Click there, or press ⌥Right in the field, to see and edit them; ⌥Left hides them.</source>
-        <translation>ほかの言語があるフィールドでは、右端に「de fr」のように表示されます。そこをクリックするか、フィールドで ⌥+→ を押すと、表示して編集できます。⌥+← で隠します。</translation>
+        <translation>ほかの言語があるフィールドでは、右端に「de fr」のように言語が表示されます。そこをクリックするか、フィールドで ⌥+→ を押すと、ほかの言語を表示して編集できます。⌥+← で隠します。</translation>
     </message>
     <message>
         <source>Add language finds a language by its name; the cross behind a text takes that language away.</source>
@@ -6659,7 +6659,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>View ▸ Show Disagreements (⌘⇧D) lists only photos whose places differ. Quorbel looks at all open photos for that, while you work on.</source>
-        <translation>表示 ▸ 不一致を表示（⌘⇧D）で、記録先が一致しない写真だけを一覧に表示します。開いているすべての写真の確認は、作業中に行われます。</translation>
+        <translation>表示 ▸ 不一致を表示（⌘⇧D）で、記録先が一致しない写真だけを一覧に表示します。そのために開いているすべての写真が調べられますが、その間も作業を続けられます。</translation>
     </message>
     <message>
         <source>With photos selected, Edit ▸ Make Them Agree writes what each photo shows to all of its places. Undo Save takes it back.</source>
@@ -6904,15 +6904,15 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Back up originals before saving.</source>
-        <translation>保存前に元のファイルをバックアップする</translation>
+        <translation>保存前の元のファイルのバックアップ</translation>
     </message>
     <message>
         <source>Write an XMP sidecar file.</source>
-        <translation>XMP サイドカーファイルを書き込む</translation>
+        <translation>XMP サイドカーファイルへの書き込み</translation>
     </message>
     <message>
         <source>Show namespace details for every field.</source>
-        <translation>すべてのフィールドに名前空間の詳細を表示する</translation>
+        <translation>すべてのフィールドでの名前空間の詳細表示</translation>
     </message>
     <message>
         <source>Confirm before mass edits, and the default rename pattern.</source>
@@ -7224,7 +7224,7 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
     </message>
     <message>
         <source>Fold or unfold a folder</source>
-        <translation>フォルダーを折りたたむ・展開する</translation>
+        <translation>フォルダーを開閉</translation>
     </message>
     <message>
         <source>Fold or unfold all folders</source>
