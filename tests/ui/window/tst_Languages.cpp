@@ -36,7 +36,8 @@ public:
     // The letters in front of it tell a text from one that was shortened, without the numbers that were put in.
     static QString endAt(const QString& text, qsizetype at)
     {
-        static const QRegularExpression numbers(u"[%0-9]"_s);
+        // Nor the marks that set values apart, which may come with a "…" of another font.
+        static const QRegularExpression numbers(u"[%0-9\u2066-\u2069]"_s);
         const QString before = text.first(at).remove(numbers);
         return before.last(std::min<qsizetype>(before.size(), 6));
     }
@@ -80,7 +81,8 @@ QStringList shortened(const QString& screen, const LayoutAudit& scene, const Not
     for (const QString& text : scene.texts)
         // One that begins a text stands where the direction of writing changes.
         for (qsizetype at = text.indexOf(u'…', 1); at >= 0; at = text.indexOf(u'…', at + 1))
-            if (const QString end = NotingTranslator::endAt(text, at); !isEnd(end) && !mayBeShort(screen, text))
+            if (const QString end = NotingTranslator::endAt(text, at);
+                !end.isEmpty() && !isEnd(end) && !mayBeShort(screen, text))
                 found.append(u"shortened: "_s + text);
     return found;
 }
