@@ -96,9 +96,11 @@ void tst_TextSizes::nothingIsLostAtAnySize_data()
         ? QList<qreal>{ 9, 10, 11, 12, 14, 16, 17, 18, 20 }
         : QList<qreal>{ 9, 11, 17, 20 };
     for (const QSize size : { QSize(900, 600), QSize(1600, 1000) }) {
-        for (const qreal points : sizes)
+        // Where there is room, little can be lost that is not lost where there is none.
+        const bool isQuick = !isSlowRun() && size.width() > 1000;
+        for (const qreal points : isQuick ? QList<qreal>{ 20 } : sizes)
             QTest::addRow("%g pt, %d wide", points, size.width()) << points << size << true;
-        for (const qreal points : { 14, 20 })
+        for (const qreal points : isQuick ? QList<qreal>{ 14 } : QList<qreal>{ 14, 20 })
             QTest::addRow("%g pt from the start, %d wide", points, size.width()) << points << size << false;
     }
 }
