@@ -8081,5 +8081,9 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Some fields could not be read</source>
         <translation>تعذّرت قراءة بعض الحقول</translation>
     </message>
+    <message>
+        <source>“Some fields could not be read” stands under a photo’s name where that is so. Until Try again has read them, they cannot be edited: what nobody has seen is not written over.</source>
+        <translation>تظهر عبارة «تعذّرت قراءة بعض الحقول» تحت اسم الصورة حين يحدث ذلك. وإلى أن تُقرأ هذه الحقول بعد الضغط على «إعادة المحاولة» لا يمكن تعديلها: فلا يُكتب فوق ما لم يره أحد.</translation>
+    </message>
 </context>
 </TS>

@@ -7521,5 +7521,9 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Some fields could not be read</source>
         <translation>Einige Felder konnten nicht gelesen werden</translation>
     </message>
+    <message>
+        <source>“Some fields could not be read” stands under a photo’s name where that is so. Until Try again has read them, they cannot be edited: what nobody has seen is not written over.</source>
+        <translation>„Einige Felder konnten nicht gelesen werden“ steht unter dem Namen eines Fotos, wenn es so ist. Bis „Erneut versuchen“ sie gelesen hat, lassen sie sich nicht bearbeiten: Was niemand gesehen hat, wird nicht überschrieben.</translation>
+    </message>
 </context>
 </TS>

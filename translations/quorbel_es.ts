@@ -7521,5 +7521,9 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Some fields could not be read</source>
         <translation>Algunos campos no se pudieron leer</translation>
     </message>
+    <message>
+        <source>“Some fields could not be read” stands under a photo’s name where that is so. Until Try again has read them, they cannot be edited: what nobody has seen is not written over.</source>
+        <translation>«Algunos campos no se pudieron leer» aparece bajo el nombre de una foto cuando así ocurre. Hasta que «Volver a intentarlo» los haya leído, no se pueden editar: lo que nadie ha visto no se sobrescribe.</translation>
+    </message>
 </context>
 </TS>

@@ -7521,5 +7521,9 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Some fields could not be read</source>
         <translation>Certains champs n’ont pas pu être lus</translation>
     </message>
+    <message>
+        <source>“Some fields could not be read” stands under a photo’s name where that is so. Until Try again has read them, they cannot be edited: what nobody has seen is not written over.</source>
+        <translation>« Certains champs n’ont pas pu être lus » s’affiche sous le nom d’une photo lorsque c’est le cas. Tant que « Réessayer » ne les a pas lus, ils ne peuvent pas être modifiés : ce que personne n’a vu n’est pas écrasé.</translation>
+    </message>
 </context>
 </TS>

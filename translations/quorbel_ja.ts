@@ -7381,5 +7381,9 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Some fields could not be read</source>
         <translation>一部のフィールドを読み取れませんでした</translation>
     </message>
+    <message>
+        <source>“Some fields could not be read” stands under a photo’s name where that is so. Until Try again has read them, they cannot be edited: what nobody has seen is not written over.</source>
+        <translation>一部のフィールドを読み取れなかった写真では、名前の下に「一部のフィールドを読み取れませんでした」と表示されます。「再試行」で読み取れるまで、それらのフィールドは編集できません。だれも見ていない内容が上書きされることはありません。</translation>
+    </message>
 </context>
 </TS>

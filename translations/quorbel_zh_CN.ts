@@ -7381,5 +7381,9 @@ The photo holds nothing that could stand here. %1: what of, as “title”.</ext
         <source>Some fields could not be read</source>
         <translation>部分字段无法读取</translation>
     </message>
+    <message>
+        <source>“Some fields could not be read” stands under a photo’s name where that is so. Until Try again has read them, they cannot be edited: what nobody has seen is not written over.</source>
+        <translation>如果照片的部分字段无法读取，其名称下方会显示“部分字段无法读取”。在点击“重试”读取到这些字段之前，无法编辑它们：没有人看到过的内容不会被覆盖。</translation>
+    </message>
 </context>
 </TS>

@@ -190,7 +190,9 @@ Page fieldSetsPage()
                 Texts::tr("Save What Is on Screen as Set… makes a set of your own; Edit Sets… changes what is in it "
                           "and what it wants. Sets that come with Quorbel can be copied there."),
                 Texts::tr("Default is the form as it was. Once you have chosen a set, or made one, they can be picked "
-                          "at the top of the form, too.") }),
+                          "at the top of the form, too."),
+                Texts::tr("“Some fields could not be read” stands under a photo’s name where that is so. Until Try "
+                          "again has read them, they cannot be edited: what nobody has seen is not written over.") }),
         } };
 }
 
