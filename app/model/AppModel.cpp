@@ -110,7 +110,7 @@ void AppModel::connectParts()
     });
     connect(this, &AppModel::primaryChanged, this, [this] {
         m_library.setFirst(primary());
-        if (m_renameOpen && primary() != m_renamed)
+        if (m_sheets.rename && primary() != m_sheets.renamed)
             setRenameOpen(false);
     });
     for (const auto signal : { &AppModel::editsChanged, &AppModel::unsavedCountChanged, &AppModel::selectionChanged })
@@ -121,7 +121,7 @@ void AppModel::connectParts()
     connect(&m_saving, &Saving::saved, this, &AppModel::takeSaved);
     connect(&m_saving, &Saving::undone, this, &AppModel::takeUndone);
     connect(&m_saving, &Saving::ended, this, [this](bool isGood) {
-        m_lastSaveFailed = !isGood;
+        m_lastSave.hasFailed = !isGood;
         if (m_isEnding)
             return quitKeepingEdits();
         // After a failure what waits is dropped: nobody leaves edits that could not be saved.
@@ -192,7 +192,7 @@ void AppModel::tell(Change change)
 void AppModel::setErrorMessage(const std::optional<QString>& message)
 {
     requireMainThread("setErrorMessage");
-    m_refused = {};
+    m_lastSave.refused = {};
     m_announcer.assign(m_errorMessage, message, Change::errorMessage);
 }
 
@@ -361,8 +361,8 @@ void AppModel::takeVanished(const QList<int>& positions)
         setErrorMessage(
             Texts::tr("“%1” was removed by another program. Its unsaved changes are kept: Edit ▸ Bring Back Edits.")
                 .arg(before.primary->fileName()));
-    else if (m_renameOpen && m_renamed && gone.contains(*m_renamed))
-        setErrorMessage(Texts::tr("“%1” was removed by another program.").arg(m_renamed->fileName()));
+    else if (m_sheets.rename && m_sheets.renamed && gone.contains(*m_sheets.renamed))
+        setErrorMessage(Texts::tr("“%1” was removed by another program.").arg(m_sheets.renamed->fileName()));
     m_editing.leave(gone);
     const auto heir = losesPrimary ? before.nearestStaying(photos(), gone) : std::nullopt;
     photos().remove(positions);
@@ -442,14 +442,14 @@ QList<QUrl> AppModel::unreadOf(const QList<QUrl>& photos) const
 void AppModel::setAddOpen(bool open)
 {
     requireMainThread("setAddOpen");
-    m_announcer.assign(m_addOpen, open, Change::addOpen);
+    m_announcer.assign(m_sheets.add, open, Change::addOpen);
 }
 
 void AppModel::setRenameOpen(bool open)
 {
     requireMainThread("setRenameOpen");
-    m_renamed = open ? primary() : std::nullopt;
-    m_announcer.assign(m_renameOpen, open, Change::renameOpen);
+    m_sheets.renamed = open ? primary() : std::nullopt;
+    m_announcer.assign(m_sheets.rename, open, Change::renameOpen);
 }
 
 // --- Edits ---

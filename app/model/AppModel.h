@@ -342,11 +342,11 @@ public:
     void performRename();
 
     // --- Sheets ---
-    bool saveOpen() const { return m_saveOpen; }
+    bool saveOpen() const { return m_sheets.save; }
     void setSaveOpen(bool open);
-    bool addOpen() const { return m_addOpen; }
+    bool addOpen() const { return m_sheets.add; }
     void setAddOpen(bool open);
-    bool renameOpen() const { return m_renameOpen; }
+    bool renameOpen() const { return m_sheets.rename; }
     /// The sheet is about the photo that is the primary one now, and closes when that is another one.
     void setRenameOpen(bool open);
 
@@ -487,12 +487,16 @@ private:
     Saving m_saving;
     mutable FolderNames m_folderNames;  ///< of the folder of the photo to be renamed
     std::optional<QString> m_errorMessage;
-    /// Photos of the last save that could be saved without some homes.
-    struct Refused {
-        QSet<QUrl> photos{};
-        QStringList homes{};
+    struct LastSave {
+        bool hasFailed = false;  ///< some of its edits are still unsaved
+        /// Photos that could be saved without some homes.
+        struct Refused {
+            QSet<QUrl> photos{};
+            QStringList homes{};
+        };
+        Refused refused{};
     };
-    Refused m_refused;
+    LastSave m_lastSave;
     /// A save that waits until its photos have been read.
     struct Awaited {
         Edits edits{};
@@ -508,16 +512,19 @@ private:
     };
     std::optional<Agreeing> m_agreeing;
     int m_unreadSelected = 0;  ///< as it was last told
-    bool m_saveOpen = false;
-    bool m_addOpen = false;
-    bool m_renameOpen = false;
-    std::optional<QUrl> m_renamed;  ///< the photo that the rename sheet is about
+    /// What is open over the window.
+    struct Sheets {
+        bool save = false;
+        bool add = false;
+        bool rename = false;
+        std::optional<QUrl> renamed{};  ///< the photo that the rename sheet is about
+    };
+    Sheets m_sheets;
     bool m_batchDontAskSession = false;
     std::function<void()> m_waiting;  ///< asked for again after a save or a discard
     std::optional<LeftEdits> m_toBringBack;  ///< once their photos are open, and read
     std::unique_ptr<AppModelTools> m_tools;
     bool m_isEnding = false;  ///< as soon as no save runs
-    bool m_lastSaveFailed = false;  ///< some of its edits are still unsaved
 };
 
 }  // namespace Quorbel

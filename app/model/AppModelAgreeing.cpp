@@ -23,7 +23,7 @@ void AppModel::requestMakeAgree()
     requireMainThread("requestMakeAgree");
     if (m_services.endEditing)
         m_services.endEditing();
-    if (!canMakeAgree() || m_saveOpen)
+    if (!canMakeAgree() || m_sheets.save)
         return;
     // What is written is what the photos hold, so it is decided first what they are to hold.
     if (unsavedCount() > 0)
@@ -45,7 +45,7 @@ void AppModel::goOnAgreeing()
         return;
     if (!m_library.details().require(photos))
         return;
-    if (unsavedCount() > 0 || m_saveOpen) {
+    if (unsavedCount() > 0 || m_sheets.save) {
         // Typed meanwhile: that is decided first.
         m_agreeing.reset();
         return requestMakeAgree();
@@ -66,7 +66,7 @@ void AppModel::goOnAgreeing()
     if (!asks || m_agreeing->isConfirmed)
         return makeAgree(plans);
     m_agreeing->isAsking = true;
-    m_announcer.assign(m_saveOpen, true, Change::saveOpen);
+    m_announcer.assign(m_sheets.save, true, Change::saveOpen);
 }
 
 // The question is not asked, or not answered.

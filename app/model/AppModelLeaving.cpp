@@ -74,7 +74,7 @@ void AppModel::changeSelection(const Selection& next)
 
 void AppModel::commitSelection(const Selection& next)
 {
-    m_lastSaveFailed = false;
+    m_lastSave.hasFailed = false;
     if (!m_toBringBack && m_errorMessage == waitingText())
         setErrorMessage(std::nullopt);
     if (next.photos != selection())
@@ -138,13 +138,13 @@ void AppModel::holdBack(std::function<void()> action)
 
 void AppModel::saveOrAsk()
 {
-    if (isSaving() || m_saveOpen)
+    if (isSaving() || m_sheets.save)
         return;
     // Edits that cannot be saved need the question all the same: else there would be no way to leave them.
-    if (m_preferences.saveDontAsk() && !isBatch() && !m_lastSaveFailed)
+    if (m_preferences.saveDontAsk() && !isBatch() && !m_lastSave.hasFailed)
         save();
     else
-        m_announcer.assign(m_saveOpen, true, Change::saveOpen);
+        m_announcer.assign(m_sheets.save, true, Change::saveOpen);
 }
 
 void AppModel::resumeWaiting()
@@ -178,7 +178,7 @@ void AppModel::takeOpened()
     commitSelection(Selection::firstVisible(photos()));
     m_announcer.announce(Change::opened);
     // A question about edits that are gone must not stay on screen.
-    if (m_saveOpen)
+    if (m_sheets.save)
         cancelSaveDialog();
     if (m_toBringBack)
         awaitBringBack(*std::exchange(m_toBringBack, std::nullopt));
@@ -235,7 +235,7 @@ void AppModel::bringBack(const LeftEdits& left)
     if (here.edits.subjects.isEmpty())
         return;
     m_waiting = nullptr;
-    m_lastSaveFailed = false;
+    m_lastSave.hasFailed = false;
     setSearch({});
     m_left.forget(left);
     m_left.keep(away);

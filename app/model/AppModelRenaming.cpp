@@ -116,7 +116,7 @@ void AppModel::performRename()
 {
     requireMainThread("performRename");
     const ImageRecord* record = primaryRecord();
-    if (!record || !m_services.service || (m_renameOpen && m_renamed != record->url))
+    if (!record || !m_services.service || (m_sheets.rename && m_sheets.renamed != record->url))
         return;
     if (const auto problem = renameProblem())
         return setErrorMessage(Texts::tr("Could not rename: %1").arg(*problem));
@@ -151,8 +151,8 @@ void AppModel::takeRenamed(const QUrl& source, const QUrl& destination)
     // The name was free: the photo that had it is gone, and nobody has told us yet.
     if (const int gone = photos().position(destination); gone >= 0)
         takeVanished({ gone });
-    if (m_renamed == source)
-        m_renamed = destination;
+    if (m_sheets.renamed == source)
+        m_sheets.renamed = destination;
     const NewNames names(source, destination);
     photos().rename(names);
     m_library.details().rename(names);

@@ -27,11 +27,11 @@ void AppModel::setSaveOpen(bool open)
 {
     requireMainThread("setSaveOpen");
     // A sheet that closes itself after an answer says so too: then it is no cancel any more.
-    if (!open && m_saveOpen) {
+    if (!open && m_sheets.save) {
         dropWaiting();
         giveUpAgreeing();
     }
-    m_announcer.assign(m_saveOpen, open, Change::saveOpen);
+    m_announcer.assign(m_sheets.save, open, Change::saveOpen);
 }
 
 void AppModel::setBatchDontAskSession(bool on)
@@ -53,7 +53,7 @@ void AppModel::requestSave()
     const bool asks =
         isBatch() ? m_preferences.confirmMassEdit() && !m_batchDontAskSession : !m_preferences.saveDontAsk();
     if (asks)
-        m_announcer.assign(m_saveOpen, true, Change::saveOpen);
+        m_announcer.assign(m_sheets.save, true, Change::saveOpen);
     else
         save();
 }
@@ -61,9 +61,9 @@ void AppModel::requestSave()
 void AppModel::confirmSaveDialog()
 {
     requireMainThread("confirmSaveDialog");
-    if (m_saveOpen)
+    if (m_sheets.save)
         m_tools->credentials->noteConfirmed();
-    m_announcer.assign(m_saveOpen, false, Change::saveOpen);
+    m_announcer.assign(m_sheets.save, false, Change::saveOpen);
     if (m_agreeing && m_agreeing->isAsking) {
         m_agreeing->isAsking = false;
         m_agreeing->isConfirmed = true;
@@ -81,7 +81,7 @@ void AppModel::discardSaveDialog()
         return cancelSaveDialog();
     {
         const Announcer::Together together(m_announcer);
-        m_announcer.assign(m_saveOpen, false, Change::saveOpen);
+        m_announcer.assign(m_sheets.save, false, Change::saveOpen);
         m_editing.leave();
     }
     resumeWaiting();
@@ -180,7 +180,7 @@ void AppModel::takeSaved(const SaveOutcome& ofFiles)
         setErrorMessage(outcome.message);
     noteWritten(ofFiles);
     if (!waiting.isEmpty() || !outcome.unsaved.isEmpty())
-        m_refused = { QSet<QUrl>(waiting.cbegin(), waiting.cend()), outcome.homesToLeaveOut };
+        m_lastSave.refused = { QSet<QUrl>(waiting.cbegin(), waiting.cend()), outcome.homesToLeaveOut };
 }
 
 // The picture of a shot comes out from behind its raw file with what it alone refused, for whoever tries again.
@@ -231,12 +231,12 @@ int AppModel::credentialsAtStake() const
 
 QString AppModel::partialSaveText() const
 {
-    const bool isOffered = !m_refused.homes.isEmpty() && m_errorMessage && !isSaving() && unsavedCount() > 0
-        && selection() == m_refused.photos;
+    const bool isOffered = !m_lastSave.refused.homes.isEmpty() && m_errorMessage && !isSaving() && unsavedCount() > 0
+        && selection() == m_lastSave.refused.photos;
     if (!isOffered)
         return {};
-    QString homes = m_refused.homes.constFirst();
-    for (const QString& home : m_refused.homes.sliced(1))
+    QString homes = m_lastSave.refused.homes.constFirst();
+    for (const QString& home : m_lastSave.refused.homes.sliced(1))
         //: the end of a list: "a.jpg, b.jpg and c.jpg"
         homes = Texts::tr("%1 and %2").arg(homes, home);
     //: %1 are parts of a file that take no text: "EXIF and IPTC"
@@ -249,7 +249,7 @@ void AppModel::savePartially()
     if (partialSaveText().isEmpty())
         return;
     const Announcer::Together together(m_announcer);
-    const QStringList homes = m_refused.homes;
+    const QStringList homes = m_lastSave.refused.homes;
     setErrorMessage(std::nullopt);
     save(homes);
 }
