@@ -103,6 +103,9 @@ QString AppModel::newFileName(const ImageRecord& record, const FolderNames::List
     const QString base = renderedBase(record);
     const QString own = CompanionNames::baseOf(record.fileName);
     QStringList ends{ record.fileName.sliced(own.size()) };
+    // Another's sidecar would be taken for the photo's, and its own would stay behind.
+    if (m_sidecarPolicy.isBeside(record.url))
+        ends += { u".xmp"_s, ends.constFirst() + u".xmp"_s };
     if (const auto picture = pairing().pictureOf(record.url))
         ends = endsOfShot({ record.fileName, picture->fileName() }, names);
     return FileNaming::uniqueFileName(base, QFileInfo(record.fileName).suffix(), [&](const QString& name) {

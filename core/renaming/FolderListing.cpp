@@ -23,11 +23,6 @@ QString extensionOf(const QString& name)
     return name.sliced(CompanionNames::baseOf(name).size()).toLower();
 }
 
-bool isRaw(const QString& name)
-{
-    return ImageTypes::isRaw(name) || ImageTypes::isDng(name);
-}
-
 // What cameras write beside a raw file.
 bool isFinished(const QString& name)
 {
@@ -80,6 +75,11 @@ QString CompanionNames::baseOf(const QString& photo)
     return dot > 0 ? photo.left(dot) : photo;
 }
 
+bool CompanionNames::isRaw(const QString& photo)
+{
+    return ImageTypes::isRaw(photo) || ImageTypes::isDng(photo);
+}
+
 bool CompanionNames::isCompanion(const QString& name, const QString& photo) const
 {
     if (name == photo)
@@ -89,15 +89,37 @@ bool CompanionNames::isCompanion(const QString& name, const QString& photo) cons
         || (m_kind == Kind::all && isOfDevelopment(extension));
 }
 
+QStringList CompanionNames::companionsWith(const QString& base, const QString& photo) const
+{
+    QStringList found = m_byBase.value(base);
+    found.removeIf([&](const QString& name) { return !isCompanion(name, photo); });
+    return found;
+}
+
 QStringList CompanionNames::of(const QString& photo) const
 {
-    QStringList found;
-    for (const QString& base : { photo, baseOf(photo) })
-        for (const QString& name : m_byBase.value(base))
-            if (isCompanion(name, photo))
-                found.append(name);
+    QStringList found = withWholeName(photo);
+    if (isRaw(photo) || isFinished(photo) || rawsBeside(photo).isEmpty())
+        found += companionsWith(baseOf(photo), photo);
     found.removeDuplicates();
     return found;
+}
+
+QStringList CompanionNames::withWholeName(const QString& photo) const
+{
+    QStringList found = companionsWith(photo, photo);
+    // "a.jpg_original": the last dot is the photo's.
+    for (const QString& name : companionsWith(baseOf(photo), photo))
+        if (name.startsWith(photo) && !found.contains(name))
+            found.append(name);
+    return found;
+}
+
+QStringList CompanionNames::rawsBeside(const QString& photo) const
+{
+    QStringList raws = m_byBase.value(baseOf(photo));
+    raws.removeIf([&photo](const QString& name) { return name == photo || !isRaw(name); });
+    return raws;
 }
 
 QStringList CompanionNames::shotWith(const QString& photo) const

@@ -66,6 +66,17 @@ bool putBack(const RenameEntry::Folder& folder, const QString& mark)
     return QFileInfo(renaming.folder).isDir() && mover.move(back, {}).end == FolderMover::End::done;
 }
 
+// Companions that came since. What has the base name of a raw file that was there by then is that one's.
+QStringList cameSince(const FolderRenaming& done, const QString& photo, const CompanionNames& companions)
+{
+    const QStringList raws = companions.rawsBeside(photo);
+    const bool areAllRenamed = std::all_of(raws.cbegin(), raws.cend(), [&done](const QString& raw) {
+        return std::any_of(
+            done.files.cbegin(), done.files.cend(), [&raw](const FileRenaming& file) { return file.to == raw; });
+    });
+    return areAllRenamed ? companions.of(photo) : companions.withWholeName(photo);
+}
+
 // Back to the old names, with companions that came since. `problem`: why not.
 FolderRenaming reversed(const FolderRenaming& done, QString& problem)
 {
@@ -88,7 +99,7 @@ FolderRenaming reversed(const FolderRenaming& done, QString& problem)
     }
     for (const FileRenaming& file : done.files) {
         const QString base = CompanionNames::baseOf(file.to);
-        for (const QString& name : file.isPhoto ? companions.of(file.to) : QStringList())
+        for (const QString& name : file.isPhoto ? cameSince(done, file.to, companions) : QStringList())
             add(name, CompanionNames::baseOf(file.from) + name.sliced(base.size()), false);
     }
     return back;

@@ -100,7 +100,8 @@ struct RenameSet::Naming {
         Name& name = names[at];
         if (name.isSettled)
             return;
-        const QString key = QString::number(shot.folder) + u'/' + name.base.toLower() + u'/' + shot.suffixes.join(u'/');
+        const QString key =
+            QString::number(shot.folder) + u'/' + name.base.toLower() + u'/' + (shot.suffixes + shot.kept).join(u'/');
         int& number = lastNumbers[key];
         while (isTaken(shot, numbered(name.base, number)))
             number = std::max(number + 1, 2);
@@ -123,12 +124,13 @@ private:
     }
     bool isTaken(const Shot& shot, const QString& base) const
     {
-        return std::any_of(shot.suffixes.cbegin(), shot.suffixes.cend(),
+        const QStringList suffixes = shot.suffixes + shot.kept;
+        return std::any_of(suffixes.cbegin(), suffixes.cend(),
             [&](const QString& suffix) { return taken[shot.folder].contains((base + suffix).toLower()); });
     }
     void take(const Shot& shot, const QString& base)
     {
-        for (const QString& suffix : shot.suffixes)
+        for (const QString& suffix : shot.suffixes + shot.kept)
             taken[shot.folder].insert((base + suffix).toLower());
     }
 };
@@ -181,6 +183,9 @@ size_t RenameSet::shotOf(size_t folder, const QString& name, QHash<QString, size
     for (const QString& picture : std::as_const(pictures))
         for (const QString& companion : m_folders[folder].companions.of(picture))
             claim(shot, companion, false);
+    for (const QString& picture : std::as_const(pictures))
+        if (CompanionNames::isRaw(picture))
+            shot.kept += { u".xmp"_s, picture.sliced(shot.base.size()) + u".xmp"_s };
     return at;
 }
 

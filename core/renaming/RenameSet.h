@@ -35,6 +35,7 @@ private:
         size_t folder = 0;
         QString base{};
         QStringList suffixes{};  ///< what each file's name has behind the base
+        QStringList kept{};  ///< the same of sidecars that a raw file may have: another's would be taken for its own
         QSet<QString> photos{};  ///< suffixes of those that are photos
         QStringList along{};
         PhotoTokens tokens{};

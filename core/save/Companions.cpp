@@ -167,10 +167,14 @@ void movePhoto(const QUrl& source, const QUrl& destination, SidecarsAlong along)
     const QString to = destination.toLocalFile();
     if (const int error = move(from, to))
         throw FileError(Texts::tr("Cannot move “%1”"), source, qt_error_string(error));
-    const QList<std::pair<QString, QString>> sidecars = sidecarMoves(from, to);
-    const qsizetype some = along == SidecarsAlong::mirror ? 1 : 0;
-    for (const auto& [old, now] : along == SidecarsAlong::all ? sidecars : sidecars.first(some))
-        move(old, now);
+    const QString mirror = sidecarPath(from);
+    const QString whole = QFileInfo(from).fileName();
+    for (const auto& [old, now] : sidecarMoves(from, to)) {
+        // Of a file with the photo's whole name there is no doubt whose it is.
+        const bool isOwn = QFileInfo(old).fileName().startsWith(whole);
+        if (isOwn || along == SidecarsAlong::all || (along == SidecarsAlong::mirror && old == mirror))
+            move(old, now);
+    }
     move(backupPath(from), backupPath(to));
 }
 

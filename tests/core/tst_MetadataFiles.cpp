@@ -287,14 +287,14 @@ private slots:
             record.contentModificationDate.value_or(QDateTime()), QFileInfo(folder.path(u"b.jpg"_s)).lastModified());
     }
 
-    // Where the photo's edits lie beside it, all of its sidecars go along; else the one that mirrors it, unless it is
-    // another photo's.
+    // Where the photo's edits lie beside it, all of its sidecars go along; else those with its whole name, and the one
+    // that mirrors it, unless it is another photo's.
     void sidecarsInARename_data()
     {
         QTest::addColumn<QString>("photo");
         QTest::addColumn<bool>("areBeside");
         QTest::addColumn<QStringList>("moved");
-        QTest::newRow("edits in it") << u"a.CR3"_s << false << QStringList{ "b.CR3", "b.xmp" };
+        QTest::newRow("edits in it") << u"a.CR3"_s << false << QStringList{ "b.CR3", "b.CR3.xmp", "b.xmp" };
         QTest::newRow("edits beside it") << u"a.CR3"_s << true << QStringList{ "b.CR3", "b.CR3.xmp", "b.XMP", "b.xmp" };
         QTest::newRow("edits of the raw file beside it") << u"a.jpg"_s << true << QStringList{ "b.jpg" };
     }

@@ -18,25 +18,28 @@ QString typeOf(const ImageRecord& photo)
     return photo.fileType == u"JPG"_s ? u"JPEG"_s : photo.fileType;
 }
 
-// What the list of the one gains and loses is what the lists of both do: they need not hold the same.
-Edits withChangedItems(Edits edits, const ImageRecord& photo)
+// What the list of the one gains and loses is what the lists of both do: they need not hold the same. One plan writes
+// its lists either so or whole: where one of them can only be written as it stands, all are.
+Edits withChangedItems(const Edits& edits, const ImageRecord& photo)
 {
-    const QMap<QString, QStringList> whole = edits.lists;
-    for (auto list = whole.cbegin(); list != whole.cend(); ++list) {
+    Edits changed = edits;
+    for (auto list = edits.lists.cbegin(); list != edits.lists.cend(); ++list) {
+        // What is not in the record has a plan of its own.
+        if (PhotoDetails::hold(list.key()))
+            continue;
         const QStringList held = photo.lists.value(list.key());
         QStringList added = *list;
         added.removeIf([&held](const QString& item) { return held.contains(item); });
         QStringList removed = held;
         removed.removeIf([&list](const QString& item) { return list->contains(item); });
-        // Another order alone, what other homes hold, and what is not in the record, is written as it stands.
-        if ((added.isEmpty() && removed.isEmpty()) || edits.givenUp.contains(list.key())
-            || PhotoDetails::hold(list.key()))
+        // Another order alone, or what other homes hold.
+        if ((added.isEmpty() && removed.isEmpty()) || edits.givenUp.contains(list.key()))
             return edits;
-        edits.lists.remove(list.key());
-        edits.addItems(list.key(), added);
-        edits.removeItems(list.key(), removed);
+        changed.lists.remove(list.key());
+        changed.addItems(list.key(), added);
+        changed.removeItems(list.key(), removed);
     }
-    return edits;
+    return changed;
 }
 
 // Those of the photos that have none of their own go with their raw files.

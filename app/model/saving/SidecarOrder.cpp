@@ -36,12 +36,27 @@ bool needsPhoto(const EditPlan& plan)
             [](const CustomValue& custom) { return custom.value.isEmpty(); });
 }
 
-// Photos that share a sidecar share what is written to it.
+void addMissing(QStringList& items, const QStringList& further)
+{
+    for (const QString& item : further)
+        if (!items.contains(item))
+            items.append(item);
+}
+
+// Photos that share a sidecar share what is written to it. Its lists are whole ones of what each holds: none loses what
+// it alone has.
 EditPlan joined(EditPlan plan, const EditPlan& further)
 {
     plan.scalars.insert(further.scalars);
-    plan.lists.insert(further.lists);
-    plan.iptcLists.insert(further.iptcLists);
+    for (auto list = further.lists.cbegin(); list != further.lists.cend(); ++list)
+        addMissing(plan.lists[list.key()], *list);
+    for (auto list = further.iptcLists.cbegin(); list != further.iptcLists.cend(); ++list) {
+        std::optional<QStringList>& whole = plan.iptcLists[list.key()].whole;
+        if (!whole)
+            whole.emplace();
+        addMissing(*whole, list->whole.value_or(QStringList()));
+    }
+    addMissing(plan.paths, further.paths);
     for (const CustomValue& custom : further.customs)
         CustomFields::put(plan.customs, custom);
     plan.sidecar->hidden += further.sidecar->hidden;

@@ -56,6 +56,8 @@ private slots:
     void folderOfTheName();
     void folderBesideTheSidecar();
     void emptySidecar();
+    void sharedSidecarLosesNothing();
+    void renamedPhotoKeepsItsOwn();
     void othersAreWrittenAsEver();
 };
 
@@ -142,6 +144,44 @@ void tst_AppModelSidecars::emptiedFieldsHideTheFiles()
     QCOMPARE(raws.shown(u"a.NEF"_s, u"coords"_s), u"1.500000, 2.500000"_s);
     QCOMPARE(raws.items(u"a.NEF"_s, u"keywords"_s), QStringList(u"again"_s));
     QVERIFY(raws.isUntouched());
+}
+
+// Two raw files of one base name with one sidecar, each with a keyword of its own in its file.
+void tst_AppModelSidecars::sharedSidecarLosesNothing()
+{
+    RawPhotos raws;
+    raws.addRaw(u"a.CR2"_s, { u"-XMP-dc:Subject=first"_s, u"-XMP-lr:HierarchicalSubject=N|first"_s });
+    raws.addRaw(u"a.NEF"_s, { u"-XMP-dc:Subject=second"_s, u"-XMP-lr:HierarchicalSubject=N|second"_s });
+    exiftool({ u"-q"_s, u"-XMP-dc:Title=both"_s, raws.folder.path(u"a.xmp"_s) });
+    QVERIFY(raws.open());
+    raws->selectAllPhotos();
+    raws->addBatchListItem(u"keywords"_s, u"sky"_s);
+    QVERIFY(raws.save());
+    QCOMPARE(raws.banner(), QString());
+    QVERIFY(raws.reopen());
+    for (const QString& name : { u"a.CR2"_s, u"a.NEF"_s }) {
+        QStringList items = raws.items(name, u"keywords"_s);
+        items.sort();
+        QCOMPARE(items, (QStringList{ u"first"_s, u"second"_s, u"sky"_s }));
+    }
+    QVERIFY(raws.isUntouched());
+}
+
+// A name whose sidecar is another photo's would bring that one's texts, and leave the photo's own behind.
+void tst_AppModelSidecars::renamedPhotoKeepsItsOwn()
+{
+    RawPhotos raws;
+    raws.addRaw(u"a.NEF"_s);
+    exiftool({ u"-q"_s, u"-XMP-dc:Title=mine"_s, raws.folder.path(u"a.xmp"_s) });
+    exiftool({ u"-q"_s, u"-XMP-dc:Title=other"_s, raws.folder.path(u"Sea.xmp"_s) });
+    QVERIFY(raws.open());
+    raws.click(u"a.NEF"_s);
+    raws->preferences().renamePattern.set(u"Sea"_s);
+    QTRY_COMPARE(raws->renamePreview(), u"Sea-2.NEF"_s);
+    raws->performRename();
+    QCOMPARE(raws.folder.names(), (QStringList{ u"Sea-2.NEF"_s, u"Sea-2.xmp"_s, u"Sea.xmp"_s }));
+    QVERIFY(raws.reopen());
+    QCOMPARE(raws.shown(u"Sea-2.NEF"_s, u"title"_s), u"mine"_s);
 }
 
 // One whose list only the file holds, one whose sidecar has its own, one without any, and one that is no raw file.

@@ -79,6 +79,7 @@ private slots:
     void killed_data();
     void killed();
     void takenBack();
+    void takenBackBesideOthers();
     void takenBackInPart();
 };
 
@@ -153,6 +154,16 @@ void tst_Renaming::plan_data()
     QTest::addRow("no raw, no pair: the first takes the sidecar along")
         << u"%Counter%"_s << QStringList{ u"a.jpg"_s, u"a.png"_s } << QStringList{ u"a.xmp"_s }
         << QStringList{ u"0001.jpg|"_s, u"0002.png|"_s } << u"a.jpg>0001.jpg a.xmp>0001.xmp a.png>0002.png"_s;
+    QTest::addRow("a raw file's sidecar stays with it")
+        << u"%Title%"_s << QStringList{ u"I1.tif||Sea"_s, u"I2.tif||Sea"_s }
+        << QStringList{ u"I1.CR3"_s, u"I1.xmp"_s, u"I1.tif.xmp"_s, u"I2.xmp"_s }
+        << QStringList{ u"Sea.tif|"_s, u"Sea-2.tif|name taken, so -2"_s }
+        << u"I1.tif>Sea.tif I1.tif.xmp>Sea.tif.xmp I2.tif>Sea-2.tif I2.xmp>Sea-2.xmp"_s;
+    QTest::addRow("no raw file comes to another's sidecar")
+        << u"%Title%"_s << QStringList{ u"I1.CR3||Sea"_s, u"D9.NEF||Sea"_s, u"D8.DNG||Sky"_s }
+        << QStringList{ u"I1.xmp"_s, u"Sky.XMP"_s }
+        << QStringList{ u"Sea.CR3|"_s, u"Sea-2.NEF|name taken, so -2"_s, u"Sky-2.DNG|name taken, so -2"_s }
+        << u"I1.CR3>Sea.CR3 I1.xmp>Sea.xmp D9.NEF>Sea-2.NEF D8.DNG>Sky-2.DNG"_s;
     QTest::addRow("slash") << u"a/%Title%"_s << QStringList{ u"a.jpg||x"_s } << QStringList()
                            << QStringList{ u"a.jpg|a file name cannot hold “/”"_s } << QString();
     QTest::addRow("dots alone") << u".."_s << QStringList{ u"a.jpg"_s } << QStringList()
@@ -456,6 +467,19 @@ void tst_Renaming::takenBack()
     for (int i = 0; i < 25; ++i)
         journal.noteDone(journal.begin(u"mark"_s).value_or(0));
     QCOMPARE(journal.numbers().size(), RenameJournal::limit);
+}
+
+// What was there by then of another photo stays with it.
+void tst_Renaming::takenBackBesideOthers()
+{
+    const PhotoFolder folder;
+    const QString photos = folder.path(u"photos"_s);
+    make(photos, { u"a.jpg"_s, u"x.CR3"_s, u"x.xmp"_s });
+    RenameHistory history(folder.path(u"journal"_s));
+    const RenameHistory::Undoable done = history.rename({ renaming(photos, u"a.jpg>x.jpg"_s) }).next;
+    make(photos, { u"x.jpg.xmp"_s });
+    history.undo(done.number);
+    QCOMPARE(contents(photos).keys(), QStringList({ u"a.jpg"_s, u"a.jpg.xmp"_s, u"x.CR3"_s, u"x.xmp"_s }));
 }
 
 // A folder whose photos are not as they were left stays as it is, and is named.

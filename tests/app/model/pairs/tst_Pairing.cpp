@@ -81,6 +81,7 @@ private slots:
     void isShownAsOne();
     void saves_data();
     void saves();
+    void savesListsOfTwoKinds();
     void refusals_data();
     void refusals();
     void sidecarIsTheRawFiles_data();
@@ -173,6 +174,25 @@ void tst_Pairing::saves()
         QCOMPARE(f.title(name), name);
     QCOMPARE(f.keywords(u"a.jpg"_s), (QStringList{ u"own"_s, u"reed"_s }));
     QVERIFY(!f->canUndoSave());
+}
+
+// Where one list can only be written as it stands, the others are not left out.
+void tst_Pairing::savesListsOfTwoKinds()
+{
+    PairedFolder f;
+    exiftool({ u"-overwrite_original"_s, u"-XMP-iptcExt:PersonInImage=Ann"_s, u"-XMP-iptcExt:PersonInImage=Bo"_s,
+        f.folder.path(u"a.NEF"_s), f.folder.path(u"a.jpg"_s) });
+    QVERIFY(f.open());
+    f.click(u"a.NEF"_s);
+    f->addSingleListItem(u"keywords"_s, u"sky"_s);
+    f->removeSingleListItem(u"people"_s, u"Ann"_s);
+    f->addSingleListItem(u"people"_s, u"Ann"_s);
+    QVERIFY(f.save());
+    QCOMPARE(f->unsavedCount(), 0);
+    for (const QString& name : { u"a.NEF"_s, u"a.jpg"_s })
+        QCOMPARE(f.onDisk(name, u"XMP:PersonInImage"_s).toArray(), (QJsonArray{ u"Bo"_s, u"Ann"_s }));
+    QCOMPARE(f.keywords(u"a.NEF"_s), (QStringList{ u"reed"_s, u"sky"_s }));
+    QCOMPARE(f.keywords(u"a.jpg"_s), (QStringList{ u"own"_s, u"reed"_s, u"sky"_s }));
 }
 
 void tst_Pairing::refusals_data()
