@@ -74,8 +74,9 @@ struct ExifToolRunner {
     ReadAnswer readEach(const QStringList& tags, const QList<QUrl>& files, const ReadControl& control,
         const QStringList& further = {}) const;
     ReadAnswer readEachCustomNamespace(const QList<QUrl>& files, const ReadControl& control) const;
-    /// A run of its own: all tags of these names, also of those that the tool makes up where it knows none, with group-1
-    /// keys (those of documents in the file behind "Doc1:") and as they are stored; numbers as they were printed.
+    /// A run of its own: all tags of these names, also of those that the tool makes up where it knows none, with
+    /// group-1 keys (those of documents in the file behind "Doc1:") and as they are stored; numbers as they were
+    /// printed.
     ReadAnswer readDetails(const QStringList& tags, const QList<QUrl>& files, const ReadControl& control = {}) const;
     /// Which of the files the tool itself cannot read, and why, as it says it ("File format error"), by path: a file's
     /// own tag called Error is none of these. Throws like read(), but not for the tool's exit status.

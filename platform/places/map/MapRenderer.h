@@ -25,7 +25,8 @@ struct MapRequest {
 struct MapImage {
     QImage image{};  ///< with its device pixel ratio set; no marker on it
     double kilometersAcross = 0;  ///< what was drawn, after widening
-    QString attribution{};  ///< to show on the map, bottom right (left where one reads from there), where room is left for it
+    QString attribution{};  ///< to show on the map, bottom right (left where one reads from there), where room is left
+                            ///< for it
 };
 
 class MapRenderer {

@@ -1,5 +1,5 @@
-// Settings and recently opened items across launches, stores that hold nonsense, and what stays as it was while nobody asks
-// for more.
+// Settings and recently opened items across launches, stores that hold nonsense, and what stays as it was while nobody
+// asks for more.
 #include "tests/app/model/ModelFixture.h"
 #include "tests/support/RecordedTool.h"
 

@@ -110,7 +110,8 @@ void tst_AppModelWatching::addedPhotosComeAtOnce()
     f.folder.add(u"sub/deep.jpg"_s);
     QTRY_COMPARE_WITH_TIMEOUT(f->records().size(), 15, 30000);
     // Together, not one by one; the look that ends the load may have come while they were added.
-    QCOMPARE(announced.counts().keys(), QStringList({ u"disagreementsChanged"_s, u"recordsChanged"_s, u"visibleRowsChanged"_s }));
+    QCOMPARE(announced.counts().keys(),
+        QStringList({ u"disagreementsChanged"_s, u"recordsChanged"_s, u"visibleRowsChanged"_s }));
     QVERIFY(announced.counts().value(u"recordsChanged"_s) <= 2);
     // At the end of the records, first on screen, and the selection stays.
     QCOMPARE(f->records().at(5).fileName, u"00.jpg"_s);
